@@ -1,0 +1,102 @@
+#include "text/codepage.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace pelmar {
+namespace {
+
+constexpr std::string_view kLowerLetters = "abcdefghijklmnopqrstuvwxyzšśťžźłąşľżŕáâăäĺćçčéęëěíîďđńňóôőöřůúűüýţ"_w;
+constexpr std::string_view kUpperLetters = "ABCDEFGHIJKLMNOPQRSTUVWXYZŠŚŤŽŹŁĄŞĽŻŔÁÂĂÄĹĆÇČÉĘËĚÍÎĎĐŃŇÓÔŐÖŘŮÚŰÜÝŢ"_w;
+static_assert(kLowerLetters.size() == kUpperLetters.size());
+
+consteval std::array<char, 256> CaseTable(std::string_view from, std::string_view to) {
+  std::array<char, 256> table{};
+  for (int code = 0; code < 256; ++code) table[static_cast<std::size_t>(code)] = CharOf(code);
+  for (std::size_t i = 0; i < from.size(); ++i) table[static_cast<std::size_t>(CodeOf(from[i]))] = to[i];
+  return table;
+}
+
+constexpr auto kToUpper = CaseTable(kLowerLetters, kUpperLetters);
+constexpr auto kToLower = CaseTable(kUpperLetters, kLowerLetters);
+
+// The upper half of the page sorted by Unicode character, for binary search.
+consteval auto SortedByUnicode() {
+  std::array<std::pair<char16_t, unsigned char>, 128> pairs{};
+  for (std::size_t i = 0; i < pairs.size(); ++i) pairs[i] = {kCodePageHigh[i], static_cast<unsigned char>(i + 0x80)};
+  std::sort(pairs.begin(), pairs.end());
+  return pairs;
+}
+
+constexpr auto kByUnicode = SortedByUnicode();
+
+void AppendUtf8(std::string& out, char16_t unit) {
+  if (unit < 0x80) {
+    out += static_cast<char>(unit);
+  } else if (unit < 0x800) {
+    out += static_cast<char>(0xC0 | unit >> 6);
+    out += static_cast<char>(0x80 | (unit & 0x3F));
+  } else {
+    out += static_cast<char>(0xE0 | unit >> 12);
+    out += static_cast<char>(0x80 | (unit >> 6 & 0x3F));
+    out += static_cast<char>(0x80 | (unit & 0x3F));
+  }
+}
+
+std::string Mapped(std::string_view text, const std::array<char, 256>& table) {
+  std::string result(text);
+  for (char& ch : result) ch = table[static_cast<std::size_t>(CodeOf(ch))];
+  return result;
+}
+
+}  // namespace
+
+unsigned char CodeOfUnicode(char32_t character) {
+  if (character < 0x80) return static_cast<unsigned char>(character);
+  if (character > 0xFFFF) return '?';
+  const auto unit = static_cast<char16_t>(character);
+  const auto at = std::lower_bound(kByUnicode.begin(), kByUnicode.end(), unit,
+                                   [](const auto& pair, char16_t wanted) { return pair.first < wanted; });
+  return at != kByUnicode.end() && at->first == unit ? at->second : static_cast<unsigned char>('?');
+}
+
+std::string FromUtf8(std::string_view utf8) {
+  std::string text;
+  text.reserve(utf8.size());
+  for (std::size_t at = 0; at < utf8.size();) text += static_cast<char>(CodeOfUnicode(DecodeUtf8(utf8, at)));
+  return text;
+}
+
+std::string FromUtf16(std::u16string_view utf16) {
+  std::string text;
+  text.reserve(utf16.size());
+  for (std::size_t i = 0; i < utf16.size(); ++i) {
+    const bool pair = utf16[i] >= 0xD800 && utf16[i] < 0xDC00 && i + 1 < utf16.size() && utf16[i + 1] >= 0xDC00 &&
+                      utf16[i + 1] < 0xE000;
+    text += pair ? '?' : static_cast<char>(CodeOfUnicode(utf16[i]));
+    if (pair) ++i;
+  }
+  return text;
+}
+
+std::string ToUtf8(std::string_view text) {
+  std::string utf8;
+  utf8.reserve(text.size() + text.size() / 8);
+  for (char ch : text) AppendUtf8(utf8, UnicodeOf(static_cast<unsigned char>(ch)));
+  return utf8;
+}
+
+bool IsUtf8(std::string_view bytes) {
+  for (std::size_t at = 0; at < bytes.size();)
+    if (DecodeUtf8(bytes, at) == 0xFFFFFFFF) return false;
+  return true;
+}
+
+char ToUpper(char ch) { return kToUpper[static_cast<std::size_t>(CodeOf(ch))]; }
+char ToLower(char ch) { return kToLower[static_cast<std::size_t>(CodeOf(ch))]; }
+std::string ToUpper(std::string_view text) { return Mapped(text, kToUpper); }
+std::string ToLower(std::string_view text) { return Mapped(text, kToLower); }
+
+bool IsLetter(char ch) { return ToUpper(ch) != ch || ToLower(ch) != ch || ch == "ß"_w[0]; }
+
+}  // namespace pelmar

@@ -1,0 +1,198 @@
+#include "text/text_buffer.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace pelmar {
+namespace {
+
+// What undo and redo may hold in all; the oldest steps go first.
+constexpr std::size_t kHistoryLimit = std::size_t{64} << 20;
+
+// Where lines begin that the CR LF pairs of [from, to) open. A pair counts when its CR lies in the range.
+void AppendLineStarts(std::string_view text, std::size_t from, std::size_t to, std::vector<std::size_t>& starts) {
+  for (std::size_t at = text.find("\r\n", from); at < to; at = text.find("\r\n", at + 2)) starts.push_back(at + 2);
+}
+
+}  // namespace
+
+TextBuffer::TextBuffer() : line_starts_{0} {}
+
+void TextBuffer::OnChange(ChangeListener listener) { change_listeners_.push_back(std::move(listener)); }
+void TextBuffer::OnSelection(SelectionListener listener) { selection_listeners_.push_back(std::move(listener)); }
+
+void TextBuffer::SetText(std::string text) {
+  undo_.clear();
+  redo_.clear();
+  history_bytes_ = 0;
+  run_ = Run::kNone;
+  if (text == text_) {
+    Select(0, 0);
+    return;
+  }
+  const TextChange change{0, text_.size(), text.size(), true};
+  text_ = std::move(text);
+  anchor_ = caret_ = 0;
+  IndexAllLines();
+  TellChange(change);
+}
+
+void TextBuffer::SetSelStart(std::size_t start) { Select(start, start); }
+
+void TextBuffer::SetSelLength(std::size_t length) {
+  const std::size_t start = SelStart();
+  Select(start, start + std::min(length, text_.size() - start));
+}
+
+void TextBuffer::Select(std::size_t anchor, std::size_t caret) {
+  anchor = std::min(anchor, text_.size());
+  caret = std::min(caret, text_.size());
+  if (anchor == anchor_ && caret == caret_) return;
+  anchor_ = anchor;
+  caret_ = caret;
+  run_ = Run::kNone;
+  TellSelection();
+}
+
+void TextBuffer::ReplaceSelection(std::string_view text) { Edit(SelStart(), SelLength(), text, Run::kNone); }
+
+void TextBuffer::Replace(std::size_t pos, std::size_t length, std::string_view text) {
+  pos = std::min(pos, text_.size());
+  Edit(pos, std::min(length, text_.size() - pos), text, Run::kNone);
+}
+
+void TextBuffer::Type(std::string_view text) { Edit(SelStart(), SelLength(), text, Run::kTyping); }
+
+void TextBuffer::EraseBefore(std::size_t count) {
+  if (HasSelection()) return Edit(SelStart(), SelLength(), {}, Run::kErasing);
+  count = std::min(count, caret_);
+  Edit(caret_ - count, count, {}, Run::kErasing);
+}
+
+void TextBuffer::EraseAfter(std::size_t count) {
+  if (HasSelection()) return Edit(SelStart(), SelLength(), {}, Run::kErasing);
+  Edit(caret_, std::min(count, text_.size() - caret_), {}, Run::kErasing);
+}
+
+void TextBuffer::Edit(std::size_t pos, std::size_t length, std::string_view text, Run run) {
+  const std::string_view old = std::string_view(text_).substr(pos, length);
+  if (old == text) {
+    Select(pos + length, pos + length);
+    return;
+  }
+  const std::string copy(text);  // the caller's text may be a view of this buffer
+  Remember(pos, length, copy, run);
+  Apply(pos, length, copy);
+  run_ = copy.ends_with('\n') ? Run::kNone : run;
+  TellChange({pos, length, copy.size(), false});
+}
+
+void TextBuffer::Remember(std::size_t pos, std::size_t length, std::string_view text, Run run) {
+  for (const Step& step : redo_) history_bytes_ -= step.removed.size() + step.inserted.size();
+  redo_.clear();
+  history_bytes_ += length + text.size();
+  const std::string_view removed = std::string_view(text_).substr(pos, length);
+  if (run != Run::kNone && run == run_ && !undo_.empty()) {
+    Step& last = undo_.back();
+    if (run == Run::kTyping && length == 0 && pos == last.pos + last.inserted.size()) {
+      last.inserted += text;
+      return;
+    }
+    if (run == Run::kErasing && last.inserted.empty() && pos + length == last.pos) {
+      last.removed.insert(0, removed);
+      last.pos = pos;
+      return;
+    }
+    if (run == Run::kErasing && last.inserted.empty() && pos == last.pos) {
+      last.removed += removed;
+      return;
+    }
+  }
+  undo_.push_back({pos, std::string(removed), std::string(text), anchor_, caret_});
+  TrimHistory();
+}
+
+void TextBuffer::TrimHistory() {
+  auto keep = undo_.begin();
+  for (; history_bytes_ > kHistoryLimit && std::distance(keep, undo_.end()) > 1; ++keep)
+    history_bytes_ -= keep->removed.size() + keep->inserted.size();
+  undo_.erase(undo_.begin(), keep);
+}
+
+void TextBuffer::Apply(std::size_t pos, std::size_t length, std::string_view text) {
+  text_.replace(pos, length, text);
+  ReindexLines({pos, length, text.size(), false});
+  anchor_ = caret_ = pos + text.size();
+}
+
+bool TextBuffer::Undo() { return TakeBack(undo_, redo_, false); }
+bool TextBuffer::Redo() { return TakeBack(redo_, undo_, true); }
+
+bool TextBuffer::TakeBack(std::vector<Step>& from, std::vector<Step>& to, bool forward) {
+  if (from.empty()) return false;
+  Step step = std::move(from.back());
+  from.pop_back();
+  const std::size_t length = forward ? step.removed.size() : step.inserted.size();
+  const std::string& text = forward ? step.inserted : step.removed;
+  Apply(step.pos, length, text);
+  if (!forward) {
+    anchor_ = std::min(step.anchor_before, text_.size());
+    caret_ = std::min(step.caret_before, text_.size());
+  }
+  run_ = Run::kNone;
+  const TextChange change{step.pos, length, text.size(), false};
+  to.push_back(std::move(step));
+  TellChange(change);
+  return true;
+}
+
+std::size_t TextBuffer::LineOf(std::size_t pos) const {
+  const auto next = std::upper_bound(line_starts_.begin(), line_starts_.end(), pos);
+  return static_cast<std::size_t>(std::distance(line_starts_.begin(), next)) - 1;
+}
+
+std::size_t TextBuffer::LineEnd(std::size_t line) const {
+  return line + 1 < line_starts_.size() ? line_starts_[line + 1] - 2 : text_.size();
+}
+
+std::string_view TextBuffer::Line(std::size_t line) const {
+  return std::string_view(text_).substr(LineStart(line), LineEnd(line) - LineStart(line));
+}
+
+void TextBuffer::IndexAllLines() {
+  line_starts_.assign(1, 0);
+  AppendLineStarts(text_, 0, text_.size(), line_starts_);
+}
+
+// Only breaks whose CR or LF the change touched can come or go; the starts behind them just move.
+void TextBuffer::ReindexLines(const TextChange& change) {
+  const std::size_t old_end = change.pos + change.removed;
+  const auto first = std::upper_bound(line_starts_.begin(), line_starts_.end(), change.pos);
+  // A break that begins behind the old range starts its line at old_end + 2 or later.
+  const auto behind = std::lower_bound(first, line_starts_.end(), old_end + 2);
+  const std::size_t from = change.pos == 0 ? 0 : change.pos - 1;
+  // The pair at pos - 2, pos - 1 lies wholly before the change and its start, pos, stays.
+  std::vector<std::size_t> fresh;
+  AppendLineStarts(text_, from, change.pos + change.inserted, fresh);
+  const auto moved_at = first - line_starts_.begin();
+  const auto dropped = behind - first;
+  for (auto it = behind; it != line_starts_.end(); ++it) *it = *it - change.removed + change.inserted;
+  const auto fresh_count = static_cast<std::ptrdiff_t>(fresh.size());
+  if (fresh_count > dropped) {
+    line_starts_.insert(line_starts_.begin() + moved_at, static_cast<std::size_t>(fresh_count - dropped), 0);
+  } else {
+    line_starts_.erase(line_starts_.begin() + moved_at, line_starts_.begin() + moved_at + (dropped - fresh_count));
+  }
+  std::copy(fresh.begin(), fresh.end(), line_starts_.begin() + moved_at);
+}
+
+void TextBuffer::TellChange(const TextChange& change) const {
+  for (const auto& listener : change_listeners_) listener(change);
+}
+
+void TextBuffer::TellSelection() const {
+  for (const auto& listener : selection_listeners_) listener();
+}
+
+}  // namespace pelmar
