@@ -3,15 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "text/codepage.h"
-
 namespace pelmar {
-namespace {
-
-constexpr std::string_view kNoPreview = "Není k dispozici"_w;
-
-}  // namespace
-
 Opener::Opener(Documents& documents, SettingsRecord& settings, Platform& platform, FileNumber& file_number)
     : documents_(documents), settings_(settings), platform_(platform), file_number_(file_number) {}
 
@@ -89,11 +81,9 @@ std::string Opener::RecentItemText(int number) const {
 }
 
 std::string Opener::Preview(const std::string& path) {
-  file_number_.Open();
+  if (file_number_.IsOpen()) return std::string(kNoPreview);
   FileBytes file = platform_.ReadFile(path, kLargestDocument + 1);
-  file_number_.Close();
-  if (file.error != 0) throw RuntimeError(file.error, "Soubor " + path + " nelze číst");
-  if (file.bytes.size() > kLargestDocument) return std::string(kNoPreview);
+  if (file.error != 0 || file.bytes.size() > kLargestDocument) return std::string(kNoPreview);
   return std::move(file.bytes);
 }
 

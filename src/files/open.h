@@ -2,6 +2,7 @@
 // files. An open replaces the current document and asks nothing. Paths are UTF-8.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -11,6 +12,7 @@
 #include "platform/platform.h"
 #include "shell/documents.h"
 #include "shell/settings_record.h"
+#include "text/codepage.h"
 
 namespace pelmar {
 
@@ -20,6 +22,9 @@ inline constexpr std::string_view kDocumentFilter =
     "Všechno (*.*)|*.*|jen text (*.txt)|*.txt|dávky (*.bat)|*.bat|Html dokument (*.html)|*.html|"
     "htm dokument (*.htm)|*.htm|ini soubor (*.ini)|*.ini";
 inline constexpr int kDocumentFilterIndex = 2;
+
+// What a preview shows of a file that it can't show.
+inline constexpr std::string_view kNoPreview = "Není k dispozici"_w;
 
 class Opener {
  public:
@@ -48,8 +53,7 @@ class Opener {
   // True when the path opens for reading. Uses file number 1, and closes it in any case.
   bool FileExists(const std::string& path);
 
-  // What the preview of a file shows: its bytes, or a fixed text where it is too long. Throws RuntimeError where the
-  // file can't be read.
+  // What the preview of a file shows: its bytes, or a fixed text where it is too long or can't be read.
   std::string Preview(const std::string& path);
 
   std::function<void()> on_recent_files;  // ShowRecentFiles

@@ -82,6 +82,10 @@ void Saver::TellError(const std::string& path, int error) {
                     "Pelmar VEX");
 }
 
+std::string TargetPath(std::string_view folder, std::string_view name, std::string_view extension) {
+  return JoinPath(folder, std::string(name).append(".").append(extension));
+}
+
 std::string_view FirstField(std::string_view bytes) {
   constexpr std::string_view kBlanks = " \t";
   const std::size_t start = bytes.find_first_not_of(kBlanks);

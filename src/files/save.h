@@ -43,6 +43,9 @@ class Saver {
   FileNumber& file_number_;
 };
 
+// The path that Ulož builds from its three fields; the dot is always there.
+std::string TargetPath(std::string_view folder, std::string_view name, std::string_view extension);
+
 // One field as the delimited read takes it: up to the first comma or line end, without blanks around it; a field that
 // begins with a double quote is taken up to the closing one, commas and line ends included.
 std::string_view FirstField(std::string_view bytes);
