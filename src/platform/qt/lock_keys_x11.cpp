@@ -12,8 +12,10 @@ namespace pelmar {
 LockKeys ReadLockKeys() {
 #if PELMAR_HAS_X11
   auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+  // The windowless platform has the interface as well, and no display behind it.
+  Display* display = x11 != nullptr ? x11->display() : nullptr;
   unsigned lamps = 0;
-  if (x11 == nullptr || XkbGetIndicatorState(x11->display(), XkbUseCoreKbd, &lamps) != 0) return {};
+  if (display == nullptr || XkbGetIndicatorState(display, XkbUseCoreKbd, &lamps) != 0) return {};
   return {.caps = (lamps & 1U) != 0, .num = (lamps & 2U) != 0};
 #else
   return {};

@@ -41,9 +41,9 @@ class BookmarkCopier {
     writer_.writeStartDocument();
     writer_.writeCharacters(QStringLiteral("\n"));
     writer_.writeStartElement(QStringLiteral("xbel"));
-    writer_.writeAttribute(QStringLiteral("version"), QStringLiteral("1.0"));
     writer_.writeAttribute(QStringLiteral("xmlns:bookmark"), BookmarkNamespace());
     writer_.writeAttribute(QStringLiteral("xmlns:mime"), MimeNamespace());
+    writer_.writeAttribute(QStringLiteral("version"), QStringLiteral("1.0"));
     declared_ = true;
     WriteEntry();
     writer_.writeEndElement();

@@ -60,7 +60,8 @@ class LockedList {
 
   // False where the list was replaced while we waited for the lock of the old one.
   [[nodiscard]] bool IsStill(const QByteArray& path) const {
-    struct stat opened {}, named {};
+    struct stat opened {
+    }, named{};
     return fstat(file_, &opened) == 0 && stat(path.constData(), &named) == 0 && opened.st_ino == named.st_ino &&
            opened.st_dev == named.st_dev;
   }
