@@ -4,8 +4,8 @@
     bench/startup.py BUILD_FOLDER [--runs 20] [--program FILE] [--limit 1.1]
 
 Starts an X server and a window manager of its own, with a temporary home. Runs alternate between the two programs, and
-so does which of them comes first, so that what else the machine does falls on both. Prints a table of medians; with --limit it exits with status 1 when the
-program's start takes more than that many times the bare window's.
+so does which of them comes first, so that what else the machine does falls on both. Prints a table of medians; with
+--limit it exits with status 1 when the program's start takes more than that many times the bare window's.
 """
 
 import argparse

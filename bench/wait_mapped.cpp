@@ -64,6 +64,16 @@ bool IsMainWindow(Display* display, const XMapEvent& event, pid_t pid) {
   return frames_one;
 }
 
+// The server and the window manager may still be clearing away the program that ran before.
+void WaitForQuiet(Display* display) {
+  constexpr int quiet_ms = 60;
+  pollfd connection{ConnectionNumber(display), POLLIN, 0};
+  while (XPending(display) || poll(&connection, 1, quiet_ms) > 0) {
+    XEvent event{};
+    XNextEvent(display, &event);
+  }
+}
+
 bool WaitForWindow(Display* display, pid_t pid, Clock::time_point start) {
   while (Clock::now() - start < kLongestStart) {
     while (XPending(display)) {
@@ -120,6 +130,7 @@ int main(int argc, char** argv) {
   XSetErrorHandler(IgnoreError);  // a window may be gone before its event is looked at
   XSelectInput(display, DefaultRootWindow(display), SubstructureNotifyMask);
   XSync(display, False);
+  WaitForQuiet(display);
 
   const auto start = Clock::now();
   const pid_t pid = fork();
