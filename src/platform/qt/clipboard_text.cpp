@@ -1,40 +1,55 @@
 #include "platform/qt/clipboard_text.h"
 
-#include <QMimeData>
-
 #include "platform/qt/convert.h"
 
 namespace pelmar {
 namespace {
 
-QString ExactType() { return QStringLiteral("application/x-pelmar-windows-1250"); }
+constexpr QLatin1String kPlainMimeType("text/plain");
+
+class TextMime : public QMimeData {
+ public:
+  explicit TextMime(std::string_view bytes) : bytes_(ToBytes(bytes)) {}
+
+  [[nodiscard]] QStringList formats() const override { return {kPlainMimeType, QString::fromLatin1(kBytesMimeType)}; }
+
+ protected:
+  [[nodiscard]] QVariant retrieveData(const QString& format, QMetaType type) const override {
+    if (format == QLatin1String(kBytesMimeType)) return bytes_;
+    if (format != kPlainMimeType) return QMimeData::retrieveData(format, type);
+    QString plain = TextToQString(ViewOf(bytes_));
+    plain.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    return plain;
+  }
+
+ private:
+  QByteArray bytes_;
+};
 
 std::string WithCrLf(std::string_view text) {
   std::string result;
-  result.reserve(text.size());
-  char before = '\0';
-  for (const char ch : text) {
-    if (ch == '\n' && before != '\r') result += '\r';
-    result += ch;
-    before = ch;
+  result.reserve(text.size() + text.size() / 16);
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == '\n' && (i == 0 || text[i - 1] != '\r')) result += '\r';
+    result += text[i];
   }
   return result;
 }
 
 }  // namespace
 
-QMimeData* MimeFromText(std::string_view bytes) {
-  auto* mime = new QMimeData;
-  mime->setData(ExactType(), ToBytes(bytes));
-  mime->setText(TextToQString(bytes).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
-  return mime;
-}
+QMimeData* MimeFromText(std::string_view bytes) { return new TextMime(bytes); }
 
 std::optional<std::string> TextFromMime(const QMimeData* mime) {
   if (mime == nullptr) return std::nullopt;
-  if (mime->hasFormat(ExactType())) return std::string(ViewOf(mime->data(ExactType())));
-  if (!mime->hasText()) return std::nullopt;
-  return WithCrLf(TextFromQString(mime->text()));
+  if (const QString own = QString::fromLatin1(kBytesMimeType); mime->hasFormat(own))
+    return mime->data(own).toStdString();
+  if (mime->hasFormat(kPlainMimeType)) return PageText(mime->text());
+  return std::nullopt;
+}
+
+std::string PageText(const QString& foreign) {
+  return WithCrLf(TextFromQString(foreign.normalized(QString::NormalizationForm_C)));
 }
 
 }  // namespace pelmar

@@ -1,19 +1,25 @@
-// The clipboard's text between this program, which counts bytes of Windows-1250, and all others.
-// Our own copies travel exactly under a private type; others get and give Unicode with LF line ends.
+// Text on its way between our Windows-1250 bytes and other programs: clipboard, primary selection, drag and drop.
+// Others get plain text with LF line ends; our own windows and copies get the exact bytes beside it.
 #pragma once
 
+#include <QMimeData>
+#include <QString>
 #include <optional>
 #include <string>
 #include <string_view>
 
-class QMimeData;
-
 namespace pelmar {
 
-// The caller, as a rule the clipboard, takes the ownership.
+inline constexpr char kBytesMimeType[] = "application/x-pelmar-windows-1250";
+
+// The caller owns the result. The conversion for other programs happens when one of them asks.
 QMimeData* MimeFromText(std::string_view bytes);
 
-// Nothing where the data holds no text. A lone LF of another program's text becomes CR LF.
+// The exact bytes where they are offered, otherwise the plain text by PageText; nothing where there is no text.
+// Nothing also for null.
 std::optional<std::string> TextFromMime(const QMimeData* mime);
+
+// Foreign text in our code page: letters and their accents are joined first, a lone LF becomes CR LF.
+std::string PageText(const QString& foreign);
 
 }  // namespace pelmar

@@ -1,0 +1,168 @@
+#include "platform/qt/controls/glyph_table.h"
+
+#include <QFontMetricsF>
+#include <QGlyphRun>
+#include <QTextLayout>
+#include <QtMath>
+#include <algorithm>
+
+#include "text/codepage.h"
+
+namespace pelmar {
+namespace {
+
+constexpr std::size_t kTabColumns = 8;
+constexpr qreal kSignScale = 0.62;
+constexpr qreal kSmallestSign = 7;  // pixels
+constexpr qreal kSignPadding = 2;
+constexpr qreal kSignGap = 1;  // between neighbouring fields
+
+constexpr std::array<const char*, 32> kControlNames = {
+    "NUL", "SOH", "STX", "ETX", "EOT", "ENQ", "ACK", "BEL", "BS",  "HT", "LF",  "VT",  "FF", "CR", "SO", "SI",
+    "DLE", "DC1", "DC2", "DC3", "DC4", "NAK", "SYN", "ETB", "CAN", "EM", "SUB", "ESC", "FS", "GS", "RS", "US"};
+
+QString SignName(unsigned char code) {
+  if (code < kControlNames.size()) return QString::fromLatin1(kControlNames[code]);
+  if (code == 0x7F) return QStringLiteral("DEL");
+  return QString::number(code, 16).toUpper();
+}
+
+std::int32_t ToUnits(qreal pixels) { return static_cast<std::int32_t>(qRound(pixels * kUnitsPerPixel)); }
+qreal ToPixels(std::int64_t units) { return static_cast<qreal>(units) / kUnitsPerPixel; }
+
+QRawFont SignFace(const QFont& font) {
+  const qreal size = QRawFont::fromFont(font).pixelSize();
+  QFont small(font);
+  small.setPixelSize(qRound(std::max(size * kSignScale, std::min(size, kSmallestSign))));
+  small.setUnderline(false);
+  small.setStrikeOut(false);
+  return QRawFont::fromFont(small);
+}
+
+}  // namespace
+
+bool IsControlSign(unsigned char code) {
+  return (code < 0x20 && code != '\t') || (code >= 0x7F && UnicodeOf(code) == code && code < 0xA0);
+}
+
+GlyphTable::GlyphTable(const QFont& font) : underline_(font.underline()), strike_out_(font.strikeOut()) {
+  QFont plain(font);
+  plain.setKerning(false);
+  FillFromFont(plain);
+  FillSigns(plain);
+  advances_.tab_stop = std::max<std::int32_t>(advances_.of[' '] * static_cast<std::int32_t>(kTabColumns), 1);
+  const QFontMetricsF metrics(plain);
+  ascent_ = qCeil(metrics.ascent());
+  row_height_ = std::max(ascent_ + qCeil(metrics.descent()) + qCeil(std::max<qreal>(metrics.leading(), 0)), 1);
+  runs_.resize(faces_.size());
+}
+
+void GlyphTable::FillFromFont(const QFont& font) {
+  faces_.push_back(QRawFont::fromFont(font));
+  for (std::size_t code = 0; code < 256; ++code) {
+    const auto byte = static_cast<unsigned char>(code);
+    if (IsControlSign(byte) || byte == '\t') continue;
+    const QString letter(QChar(UnicodeOf(byte)));
+    const QList<quint32> glyphs = faces_[0].glyphIndexesForString(letter);
+    if (glyphs.isEmpty() || glyphs[0] == 0) {
+      FillFromFallback(font, code);
+      continue;
+    }
+    cells_[code] = {glyphs[0], 0};
+    const QList<QPointF> advances = faces_[0].advancesForGlyphIndexes(glyphs);
+    if (!advances.isEmpty()) advances_.of[code] = ToUnits(advances[0].x());
+  }
+}
+
+// The system knows which of its fonts has the glyph; laying out the one letter asks it.
+void GlyphTable::FillFromFallback(const QFont& font, std::size_t code) {
+  QTextLayout layout(QString(QChar(UnicodeOf(static_cast<unsigned char>(code)))), font);
+  layout.beginLayout();
+  const QTextLine line = layout.createLine();
+  layout.endLayout();
+  const QList<QGlyphRun> runs = layout.glyphRuns();
+  if (line.isValid()) advances_.of[code] = ToUnits(line.naturalTextWidth());
+  if (!runs.isEmpty() && !runs[0].glyphIndexes().isEmpty())
+    cells_[code] = {runs[0].glyphIndexes()[0], FaceIndex(runs[0].rawFont())};
+  const qreal size = faces_[0].pixelSize();
+  if (advances_.of[code] <= 0) advances_.of[code] = ToUnits(size / 2);
+}
+
+std::uint8_t GlyphTable::FaceIndex(const QRawFont& face) {
+  const auto known = std::find(faces_.begin(), faces_.end(), face);
+  if (known != faces_.end()) return static_cast<std::uint8_t>(known - faces_.begin());
+  faces_.push_back(face);
+  return static_cast<std::uint8_t>(faces_.size() - 1);
+}
+
+void GlyphTable::FillSigns(const QFont& font) {
+  sign_face_ = SignFace(font);
+  for (std::size_t code = 0; code < 256; ++code) {
+    if (!IsControlSign(static_cast<unsigned char>(code))) continue;
+    qreal width = 0;
+    const QString name = SignName(static_cast<unsigned char>(code));
+    for (const QPointF advance : sign_face_.advancesForGlyphIndexes(sign_face_.glyphIndexesForString(name)))
+      width += advance.x();
+    advances_.of[code] = ToUnits(qCeil(width + 2 * kSignPadding + kSignGap));
+  }
+}
+
+void GlyphTable::Draw(QPainter& painter, QPointF origin, std::int64_t x, std::string_view text,
+                      const QColor& colour) const {
+  for (const char ch : text) {
+    const auto code = static_cast<unsigned char>(ch);
+    if (ch == '\t') {
+      x = (x / advances_.tab_stop + 1) * advances_.tab_stop;
+      continue;
+    }
+    if (IsControlSign(code)) {
+      DrawSign(painter, origin + QPointF(ToPixels(x), 0), code, colour);
+    } else if (ch != ' ' || underline_ || strike_out_) {
+      Run& run = runs_[cells_[code].face];
+      run.glyphs.push_back(cells_[code].glyph);
+      run.places.push_back(origin + QPointF(ToPixels(x), ascent_));
+    }
+    x += advances_.of[code];
+  }
+  DrawRuns(painter, colour);
+}
+
+void GlyphTable::DrawRuns(QPainter& painter, const QColor& colour) const {
+  painter.setPen(colour);
+  for (std::size_t face = 0; face < runs_.size(); ++face) {
+    Run& run = runs_[face];
+    if (run.glyphs.empty()) continue;
+    QGlyphRun glyphs;
+    glyphs.setRawFont(faces_[face]);
+    glyphs.setRawData(run.glyphs.data(), run.places.data(), static_cast<int>(run.glyphs.size()));
+    glyphs.setUnderline(underline_);
+    glyphs.setStrikeOut(strike_out_);
+    painter.drawGlyphRun(QPointF(), glyphs);
+    run.glyphs.clear();
+    run.places.clear();
+  }
+}
+
+void GlyphTable::DrawSign(QPainter& painter, QPointF at, unsigned char code, const QColor& colour) const {
+  QColor tint = colour;
+  tint.setAlphaF(0.18F);
+  const qreal width = ToPixels(advances_.of[code]) - kSignGap;
+  painter.fillRect(QRectF(at.x(), at.y() + 1, width, row_height_ - 2), tint);
+
+  const QList<quint32> glyphs = sign_face_.glyphIndexesForString(SignName(code));
+  const QList<QPointF> advances = sign_face_.advancesForGlyphIndexes(glyphs);
+  QPointF place(at.x() + kSignPadding, at.y() + qRound((row_height_ + sign_face_.capHeight()) / 2));
+  QList<QPointF> places;
+  for (const QPointF advance : advances) {
+    places.append(place);
+    place.rx() += advance.x();
+  }
+  QGlyphRun run;
+  run.setRawFont(sign_face_);
+  run.setGlyphIndexes(glyphs);
+  run.setPositions(places);
+  painter.setPen(colour);
+  painter.drawGlyphRun(QPointF(), run);
+}
+
+}  // namespace pelmar

@@ -1,0 +1,253 @@
+#include "text/text_layout.h"
+
+#include <algorithm>
+#include <cstring>
+#include <iterator>
+
+#include "text/codepage.h"
+
+namespace pelmar {
+namespace {
+
+constexpr std::size_t kMarkDistance = 2048;
+constexpr std::size_t kNoRow = static_cast<std::size_t>(-1);
+
+constexpr bool IsBlank(char ch) { return ch == ' ' || ch == '\t'; }
+
+std::size_t Index(char ch) { return static_cast<std::size_t>(CodeOf(ch)); }
+
+// Four sums side by side: one alone would wait for each addition.
+std::int64_t Sum(const AdvanceTable& advances, std::string_view text) {
+  std::int64_t sums[4] = {};
+  std::size_t i = 0;
+  for (; i + 4 <= text.size(); i += 4)
+    for (std::size_t k = 0; k < 4; ++k) sums[k] += advances.of[Index(text[i + k])];
+  for (; i < text.size(); ++i) sums[0] += advances.of[Index(text[i])];
+  return sums[0] + sums[1] + sums[2] + sums[3];
+}
+
+// Puts `fresh` in place of [from, to).
+template <typename T>
+void Splice(std::vector<T>& all, std::size_t from, std::size_t to, const std::vector<T>& fresh) {
+  const auto at = [&](std::size_t index) { return all.begin() + static_cast<std::ptrdiff_t>(index); };
+  const std::size_t common = std::min(to - from, fresh.size());
+  const auto rest = fresh.begin() + static_cast<std::ptrdiff_t>(common);
+  std::copy(fresh.begin(), rest, at(from));
+  all.erase(at(from + common), at(to));
+  all.insert(at(from + common), rest, fresh.end());
+}
+
+}  // namespace
+
+void TextLayout::Lay(const TextBuffer& buffer, const LayoutRules& rules) {
+  buffer_ = &buffer;
+  rules_ = rules;
+  rows_.assign(1, 0);
+  std::size_t line = 0;
+  for (std::size_t row = NextRow(0, line); row != kNoRow; row = NextRow(row, line)) rows_.push_back(row);
+  MeasureAll();
+}
+
+void TextLayout::SetWidth(std::int64_t width) {
+  if (width == rules_.width) return;
+  rules_.width = width;
+  if (rules_.wrap) Lay(*buffer_, rules_);
+}
+
+// The start of the row behind the one that starts at `start` in line `line`, which moves on with the rows.
+std::size_t TextLayout::NextRow(std::size_t start, std::size_t& line) const {
+  if (rules_.wrap) {
+    const std::size_t end = buffer_->LineEnd(line);
+    const std::size_t next = WrapAt(start, end);
+    if (next < end) return next;
+  }
+  if (++line == buffer_->LineCount()) return kNoRow;
+  return buffer_->LineStart(line);
+}
+
+// Where the row that starts at `start` has to give way to the next, `end` where the rest of the line fits. The blank
+// that meets the edge still belongs to the row and hangs over it; a word longer than the row breaks anywhere.
+std::size_t TextLayout::WrapAt(std::size_t start, std::size_t end) const {
+  const std::string& text = buffer_->Text();
+  std::int64_t x = 0;
+  std::size_t at = start;
+  for (; at < end; ++at) {
+    const char ch = text[at];
+    const std::int64_t next = ch == '\t' ? NextTab(x) : x + rules_.advances.of[Index(ch)];
+    if (next > rules_.width) break;
+    x = next;
+  }
+  if (at == end) return end;
+  if (IsBlank(text[at])) return at + 1;
+  for (std::size_t i = at; i > start; --i)
+    if (IsBlank(text[i - 1])) return i;
+  return std::max(at, start + 1);
+}
+
+RowsChange TextLayout::Update(const TextChange& change) {
+  const std::size_t old_count = rows_.size();
+  if (change.whole) {
+    Lay(*buffer_, rules_);
+    return {0, old_count, rows_.size()};
+  }
+  // A shorter word at the beginning of a row may fit into the row before it.
+  const std::size_t touched = RowOf(change.pos);
+  const std::size_t first = rules_.wrap && touched > 0 ? touched - 1 : touched;
+  const std::size_t old_end = change.pos + change.removed;
+  const std::size_t new_end = change.pos + change.inserted;
+
+  // Once a row begins where one began before the change, behind it, all the rest is as it was.
+  auto same = static_cast<std::size_t>(std::lower_bound(rows_.begin(), rows_.end(), old_end) - rows_.begin());
+  same = std::max(same, first + 1);
+  std::vector<std::size_t> fresh;
+  std::size_t line = buffer_->LineOf(rows_[first]);
+  for (std::size_t row = NextRow(rows_[first], line);; row = NextRow(row, line)) {
+    if (row == kNoRow) {
+      same = old_count;
+      break;
+    }
+    if (row >= new_end) {
+      const std::size_t before = row - new_end + old_end;
+      while (same < old_count && rows_[same] < before) ++same;
+      if (same < old_count && rows_[same] == before) break;
+    }
+    fresh.push_back(row);
+  }
+  const std::size_t same_from = same < old_count ? rows_[same] : kNoRow;
+  for (std::size_t i = same; i < old_count; ++i) rows_[i] += change.inserted - change.removed;
+  Splice(rows_, first + 1, same, fresh);
+  const RowsChange rows{first, same - first, fresh.size() + 1};
+  if (!rules_.wrap) Remeasure(rows, change, same_from);
+  return rows;
+}
+
+std::size_t TextLayout::RowEnd(std::size_t row) const {
+  if (row + 1 == rows_.size()) return buffer_->Size();
+  return EndsLine(row) ? rows_[row + 1] - 2 : rows_[row + 1];
+}
+
+// Every CR LF breaks a line, so the two characters before a row tell whether it begins one.
+bool TextLayout::EndsLine(std::size_t row) const {
+  if (row + 1 == rows_.size()) return true;
+  const std::size_t next = rows_[row + 1];
+  const std::string& text = buffer_->Text();
+  return next >= 2 && text[next - 2] == '\r' && text[next - 1] == '\n';
+}
+
+std::size_t TextLayout::RowOf(std::size_t pos, bool at_row_end) const {
+  const auto next = std::upper_bound(rows_.begin(), rows_.end(), pos);
+  const auto row = static_cast<std::size_t>(next - rows_.begin()) - 1;
+  return at_row_end && row > 0 && rows_[row] == pos && !EndsLine(row - 1) ? row - 1 : row;
+}
+
+std::int64_t TextLayout::ContentWidth() const { return rules_.wrap ? rules_.width : std::max(rules_.width, widest_); }
+
+std::int64_t TextLayout::RowLeft(std::size_t row) const {
+  if (rules_.align == TextAlign::kLeft) return 0;
+  const std::int64_t room = std::max<std::int64_t>(ContentWidth() - RowWidth(row), 0);
+  const std::int64_t left = rules_.align == TextAlign::kRight ? room : room / 2;
+  return left / kUnitsPerPixel * kUnitsPerPixel;
+}
+
+std::int64_t TextLayout::After(std::int64_t x, char ch) const {
+  return ch == '\t' ? NextTab(x) : x + rules_.advances.of[Index(ch)];
+}
+
+std::int64_t TextLayout::Walk(Mark from, std::size_t to) const {
+  const std::string_view text = buffer_->Text();
+  while (from.pos < to) {
+    const std::size_t tab = std::min(text.substr(0, to).find('\t', from.pos), to);
+    from.x += Sum(rules_.advances, text.substr(from.pos, tab - from.pos));
+    if (tab < to) from.x = NextTab(from.x);
+    from.pos = tab + 1;
+  }
+  return from.x;
+}
+
+std::int64_t TextLayout::XOf(std::size_t row, std::size_t pos) const {
+  Mark from{rows_[row], 0};
+  pos = std::clamp(pos, rows_[row], RowEnd(row));
+  const auto behind =
+      std::upper_bound(marks_.begin(), marks_.end(), pos, [](std::size_t p, const Mark& mark) { return p < mark.pos; });
+  if (behind != marks_.begin() && std::prev(behind)->pos > from.pos) from = *std::prev(behind);
+  const std::int64_t x = Walk(from, pos);
+  return rules_.wrap ? std::min(x, std::max(rules_.width, std::int64_t{0})) : x;
+}
+
+std::size_t TextLayout::CharAt(std::size_t row, std::int64_t x) const {
+  Mark from{rows_[row], 0};
+  const std::size_t end = RowEnd(row);
+  const auto by_pos = [](const Mark& mark, std::size_t p) { return mark.pos <= p; };
+  const auto first = std::lower_bound(marks_.begin(), marks_.end(), from.pos, by_pos);
+  const auto last = std::lower_bound(first, marks_.end(), end, by_pos);
+  const auto behind = std::upper_bound(first, last, x, [](std::int64_t v, const Mark& mark) { return v < mark.x; });
+  if (behind != first) from = *std::prev(behind);
+  for (; from.pos < end; ++from.pos) {
+    const std::int64_t next = After(from.x, buffer_->Text()[from.pos]);
+    if (next > x) break;
+    from.x = next;
+  }
+  return from.pos;
+}
+
+std::size_t TextLayout::StopAt(std::size_t row, std::int64_t x) const {
+  const std::size_t at = CharAt(row, x);
+  if (at == RowEnd(row)) return at;
+  const std::int64_t left = XOf(row, at);
+  const std::int64_t right = XOf(row, at + 1);
+  return 2 * x < left + right ? at : at + 1;
+}
+
+// The width of a row, `from` being known; sets marks on the way.
+std::int64_t TextLayout::MeasureRow(std::size_t row, Mark from, std::vector<Mark>& marks) const {
+  const std::size_t end = RowEnd(row);
+  while (end - from.pos > kMarkDistance) {
+    from = {from.pos + kMarkDistance, Walk(from, from.pos + kMarkDistance)};
+    marks.push_back(from);
+  }
+  return Walk(from, end);
+}
+
+void TextLayout::MeasureAll() {
+  marks_.clear();
+  widths_.clear();
+  widest_ = 0;
+  if (rules_.wrap) return;
+  widths_.reserve(rows_.size());
+  for (std::size_t row = 0; row < rows_.size(); ++row) {
+    widths_.push_back(MeasureRow(row, {rows_[row], 0}, marks_));
+    widest_ = std::max(widest_, widths_.back());
+  }
+}
+
+// Measures changed rows. Marks up to the change hold, those of rows from `same_from` (a position before the change) on
+// move with the text.
+void TextLayout::Remeasure(const RowsChange& rows, const TextChange& change, std::size_t same_from) {
+  const auto by_pos = [](const Mark& mark, std::size_t p) { return mark.pos <= p; };
+  const auto kept_end = std::lower_bound(marks_.begin(), marks_.end(), change.pos, by_pos);
+  const auto moved = same_from == kNoRow ? marks_.end() : std::lower_bound(kept_end, marks_.end(), same_from, by_pos);
+  for (auto mark = moved; mark != marks_.end(); ++mark) mark->pos += change.inserted - change.removed;
+
+  Mark from{rows_[rows.first], 0};
+  if (kept_end != marks_.begin() && std::prev(kept_end)->pos > from.pos) from = *std::prev(kept_end);
+  std::vector<Mark> marks;
+  std::vector<std::int64_t> widths;
+  for (std::size_t row = rows.first; row < rows.first + rows.inserted; ++row) {
+    widths.push_back(MeasureRow(row, from, marks));
+    if (row + 1 < rows_.size()) from = {rows_[row + 1], 0};
+  }
+  Splice(marks_, static_cast<std::size_t>(kept_end - marks_.begin()), static_cast<std::size_t>(moved - marks_.begin()),
+         marks);
+
+  const auto old = widths_.begin() + static_cast<std::ptrdiff_t>(rows.first);
+  const std::int64_t gone = *std::max_element(old, old + static_cast<std::ptrdiff_t>(rows.removed));
+  const std::int64_t come = *std::max_element(widths.begin(), widths.end());
+  Splice(widths_, rows.first, rows.first + rows.removed, widths);
+  if (come >= widest_) {
+    widest_ = come;
+  } else if (gone == widest_) {
+    widest_ = *std::max_element(widths_.begin(), widths_.end());
+  }
+}
+
+}  // namespace pelmar
