@@ -4,8 +4,11 @@
     bench/startup.py BUILD_FOLDER [--runs 20] [--program FILE] [--limit 1.1]
 
 Starts an X server and a window manager of its own, with a temporary home. Runs alternate between the two programs, and
-so does which of them comes first, so that what else the machine does falls on both. Prints a table of medians; with
---limit it exits with status 1 when the program's start takes more than that many times the bare window's.
+so does which of them comes first, so that what else the machine does falls on both. Prints a table of medians, and of
+the start also the lower quartile: a busy machine only ever adds time, so the quartile is the steadier figure.
+Measured with the same program on both sides, medians of 20 runs scattered by 9 percent, quartiles by 5, and quartiles
+of 40 runs by 3. With --limit it exits with status 1 when
+the quartile of the program is more than that many times the bare window's.
 """
 
 import argparse
@@ -36,7 +39,7 @@ def measure(screen, helper, command, settle_ms, idle_ms):
 
 
 def run_all(screen, helper, commands, runs):
-    """For each command the medians of start (ms), PSS and RSS (MiB) and idle time (ms)."""
+    """For each command: median and lower quartile of the start (ms), medians of PSS, RSS (MiB) and idle time (ms)."""
     for command in commands:  # fills the disk cache and the font cache
         measure(screen, helper, command, 0, 0)
     starts = [[] for _ in commands]
@@ -51,12 +54,12 @@ def run_all(screen, helper, commands, runs):
     results = []
     for times, samples in zip(starts, rest):
         pss, rss, idle = (statistics.median(column) for column in zip(*samples))
-        results.append((statistics.median(times), pss / 1024, rss / 1024, idle))
+        results.append((statistics.median(times), statistics.quantiles(times)[0], pss / 1024, rss / 1024, idle))
     return results
 
 
 def print_table(names, results):
-    heads = ("start-up ms", "PSS MiB", "RSS MiB", f"idle CPU ms in {IDLE_MS // 1000} s")
+    heads = ("start-up ms", "quartile ms", "PSS MiB", "RSS MiB", f"idle CPU ms in {IDLE_MS // 1000} s")
     widths = [max(len(head), 9) for head in heads]
     left = max(len(name) for name in (*names, "ratio"))
     print(" " * left, *(head.rjust(width) for head, width in zip(heads, widths)), sep="  ")
@@ -85,7 +88,7 @@ def main():
     with Screen() as screen:
         results = run_all(screen, str(helper), [program, bare], options.runs)
     print_table((Path(program[0]).name, "bare window"), results)
-    if options.limit and results[0][0] > options.limit * results[1][0]:
+    if options.limit and results[0][1] > options.limit * results[1][1]:
         sys.exit(f"startup: slower than {options.limit} times a bare window")
 
 
