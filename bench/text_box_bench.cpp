@@ -1,0 +1,179 @@
+// What a key and the first sight of a text cost in a text box: the figures that the control is held to.
+// Limits: a key in 64,000 bytes 0.1 ms, with its paint 2 ms; one line of 4,096,000 characters shown in 50 ms, wrapped
+// or not, a key in it 10 ms. Runs offscreen.
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QScrollBar>
+#include <cstdlib>
+#include <string>
+
+#include "platform/qt/controls/text_box.h"
+
+namespace pelmar {
+namespace {
+
+constexpr std::size_t kDocument = 64000;
+constexpr std::size_t kCiphertext = 4096000;
+constexpr QSize kWindow(800, 600);
+
+// Lines of words, as a page of HTML has them.
+std::string Page() {
+  std::string text;
+  while (text.size() < kDocument)
+    text += "<TR><TD ALIGN=\"center\">nejaky text bunky</TD></TR> a slovo k tomu navic\r\n";
+  text.resize(kDocument);
+  return text;
+}
+
+// One line, with a blank once in a while and all codes that a cipher gives, breaks excepted.
+std::string Ciphertext() {
+  std::string text(kCiphertext, '\0');
+  unsigned state = 1;
+  for (char& ch : text) {
+    state = state * 1664525U + 1013904223U;
+    ch = static_cast<char>(state >> 24U);
+    if (ch == '\n') ch = 'n';
+  }
+  return text;
+}
+
+// One line without any blank: a letter typed at its beginning moves every row break behind it.
+std::string Digits() {
+  std::string text(kCiphertext, '0');
+  for (std::size_t i = 0; i < text.size(); ++i) text[i] = static_cast<char>('0' + i % 10);
+  return text;
+}
+
+void Press(TextBox& box, int key, const QString& text) {
+  QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, text);
+  QApplication::sendEvent(&box, &event);
+}
+
+// One letter typed, the next time taken back, so that the text keeps its size.
+void Key(TextBox& box, bool& typed) {
+  typed = !typed;
+  typed ? Press(box, Qt::Key_A, QStringLiteral("a")) : Press(box, Qt::Key_Backspace, QString());
+}
+
+void Show(TextBox& box, const std::string& text, bool wrap, std::size_t caret) {
+  box.setWordWrap(wrap);
+  box.resize(kWindow);
+  box.Buffer().SetText(text);
+  box.show();
+  box.setFocus();
+  QApplication::processEvents();
+  box.Buffer().SetSelStart(caret);
+  QApplication::processEvents();
+}
+
+void KeyAlone(benchmark::State& state, const std::string& text, bool wrap, std::size_t caret) {
+  TextBox box;
+  Show(box, text, wrap, caret);
+  bool typed = false;
+  for (auto _ : state) Key(box, typed);
+}
+
+void KeyAndPaint(benchmark::State& state, const std::string& text, bool wrap, std::size_t caret) {
+  TextBox box;
+  Show(box, text, wrap, caret);
+  bool typed = false;
+  for (auto _ : state) {
+    Key(box, typed);
+    QApplication::processEvents();
+  }
+}
+
+void KeyAndWholePaint(benchmark::State& state, const std::string& text, bool wrap, std::size_t caret) {
+  TextBox box;
+  Show(box, text, wrap, caret);
+  QImage image(box.viewport()->size(), QImage::Format_RGB32);
+  bool typed = false;
+  for (auto _ : state) {
+    Key(box, typed);
+    box.viewport()->render(&image);
+  }
+}
+
+void FirstSight(benchmark::State& state, const std::string& text, bool wrap) {
+  TextBox box;
+  Show(box, {}, wrap, 0);
+  QImage image(box.viewport()->size(), QImage::Format_RGB32);
+  for (auto _ : state) {
+    box.Buffer().SetText(text);
+    box.viewport()->render(&image);
+    state.PauseTiming();
+    box.Buffer().SetText({});
+    QApplication::processEvents();
+    state.ResumeTiming();
+  }
+}
+
+void AnotherWidth(benchmark::State& state, const std::string& text) {
+  TextBox box;
+  Show(box, text, true, 0);
+  int wider = 0;
+  for (auto _ : state) {
+    wider = 1 - wider;
+    box.resize(kWindow.width() + wider, kWindow.height());
+    QApplication::processEvents();
+  }
+}
+
+void MouseWay(benchmark::State& state, const std::string& text, bool wrap) {
+  TextBox box;
+  Show(box, text, wrap, text.size() / 2);
+  int x = 0;
+  for (auto _ : state) {
+    x = (x + 37) % kWindow.width();
+    benchmark::DoNotOptimize(box.PlaceAt({x, 200}));
+  }
+}
+
+void RegisterAll() {
+  using benchmark::RegisterBenchmark;
+  const auto ms = benchmark::kMillisecond;
+  static const std::string page = Page();
+  static const std::string cipher = Ciphertext();
+  static const std::string digits = Digits();
+  RegisterBenchmark("key_in_64000_bytes (limit 0.1 ms)", [](auto& s) { KeyAlone(s, page, true, 30000); })->Unit(ms);
+  RegisterBenchmark("key_in_64000_bytes_unwrapped (limit 0.1 ms)", [](auto& s) {
+    KeyAlone(s, page, false, 30000);
+  })->Unit(ms);
+  RegisterBenchmark("key_in_64000_bytes_with_its_paint (limit 2 ms)", [](auto& s) {
+    KeyAndPaint(s, page, true, 30000);
+  })->Unit(ms);
+  RegisterBenchmark("key_in_64000_bytes_with_whole_window_painted (limit 2 ms)", [](auto& s) {
+    KeyAndWholePaint(s, page, true, 30000);
+  })->Unit(ms);
+  for (const bool wrap : {true, false}) {
+    const std::string way = wrap ? "_wrapped" : "_unwrapped";
+    RegisterBenchmark(("show_line_of_4096000" + way + " (limit 50 ms)").c_str(), [wrap](auto& s) {
+      FirstSight(s, cipher, wrap);
+    })->Unit(ms);
+    for (const auto& [place, caret] : {std::pair<std::string, std::size_t>{"start", 0}, {"middle", kCiphertext / 2}})
+      RegisterBenchmark(("key_in_line_of_4096000" + way + "_at_" + place + " (limit 10 ms)").c_str(),
+                        [wrap, at = caret](auto& s) { KeyAndPaint(s, cipher, wrap, at); })
+          ->Unit(ms);
+    RegisterBenchmark(("hit_in_line_of_4096000" + way).c_str(), [wrap](auto& s) {
+      MouseWay(s, cipher, wrap);
+    })->Unit(ms);
+  }
+  RegisterBenchmark("key_in_4096000_digits_wrapped_at_start (limit 10 ms)", [](auto& s) {
+    KeyAndPaint(s, digits, true, 0);
+  })->Unit(ms);
+  RegisterBenchmark("another_width_of_line_of_4096000", [](auto& s) { AnotherWidth(s, cipher); })->Unit(ms);
+}
+
+}  // namespace
+}  // namespace pelmar
+
+int main(int argc, char** argv) {
+  setenv("QT_QPA_PLATFORM", "offscreen", 1);
+  QApplication app(argc, argv);
+  benchmark::Initialize(&argc, argv);
+  pelmar::RegisterAll();
+  benchmark::RunSpecifiedBenchmarks();
+  return 0;
+}
