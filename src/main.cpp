@@ -25,7 +25,6 @@ int main(int argc, char** argv) {
   for (int i = 1; i < argc; ++i) arguments.append(QString::fromLocal8Bit(argv[i]));
   // The command tail is the program's own; the toolkit sees none of it.
   int own_argc = 1;
-  pelmar::Application::setAttribute(Qt::AA_ShareOpenGLContexts);
   pelmar::Application application(own_argc, argv);
   pelmar::Application::setApplicationName(QStringLiteral("pelmar-vex"));
   pelmar::Application::setDesktopFileName(QStringLiteral("pelmar-vex"));

@@ -36,7 +36,6 @@ QString PlainTitle(const std::string& title) {
 MainWindow::MainWindow(Editor& editor) : editor_(editor) {
   setObjectName(QStringLiteral("Main"));
   setProperty(kTagProperty, QLatin1String(kAutosnapTag));
-  setWindowIcon(SvgIcon(QStringLiteral(":/icons/pelmar-vex.svg")));
   setMinimumSize(kSmallest.boundedTo(screen()->size() / 2));
   MakeControls();
   AddViewCommands();
@@ -166,6 +165,8 @@ void MainWindow::WidenContentPanel() {
 void MainWindow::FitToFrame() {
   if (frame_known_) return;
   frame_known_ = true;
+  // The icon is rendered when it is set, which can wait until the window is there.
+  setWindowIcon(SvgIcon(QStringLiteral(":/icons/pelmar-vex.svg")));
   const QSize before = size();
   if (!isMaximized() && !isMinimized()) {
     SetOuterWidth(*this, wanted_place_.width);
