@@ -90,8 +90,9 @@ RowsChange TextLayout::Update(const TextChange& change) {
     Lay(*buffer_, rules_);
     return {0, old_count, rows_.size()};
   }
-  // A shorter word at the beginning of a row may fit into the row before it.
-  const std::size_t touched = RowOf(change.pos);
+  // A CR before the change may have got or lost its LF, and a shorter word at the beginning of a row may fit into the
+  // row before it.
+  const std::size_t touched = RowOf(rules_.wrap && change.pos > 0 ? change.pos - 1 : change.pos);
   const std::size_t first = rules_.wrap && touched > 0 ? touched - 1 : touched;
   const std::size_t old_end = change.pos + change.removed;
   const std::size_t new_end = change.pos + change.inserted;

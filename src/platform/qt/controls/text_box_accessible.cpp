@@ -164,7 +164,7 @@ void TextBoxTeller::Forget() {
 }
 
 void TextBoxTeller::Changed(const TextChange& change) {
-  if (!QAccessible::isActive()) {
+  if (!IsHeard()) {
     if (knows_text_) Forget();
     return;
   }
@@ -175,7 +175,7 @@ void TextBoxTeller::Changed(const TextChange& change) {
     const int pos = static_cast<int>(change.pos);
     QAccessibleTextUpdateEvent event(&box_, pos, TextToQString(removed), TextToQString(inserted));
     event.setCursorPosition(static_cast<int>(box_.Buffer().Caret()));
-    QAccessible::updateAccessibility(&event);
+    Send(event);
     told_.replace(change.pos, change.removed, inserted);
     return;
   }
@@ -183,20 +183,20 @@ void TextBoxTeller::Changed(const TextChange& change) {
   knows_text_ = true;
   QAccessibleTextInsertEvent event(&box_, static_cast<int>(change.pos), TextToQString(inserted));
   event.setCursorPosition(static_cast<int>(box_.Buffer().Caret()));
-  QAccessible::updateAccessibility(&event);
+  Send(event);
 }
 
 void TextBoxTeller::CaretMoved() {
-  if (!QAccessible::isActive()) return;
+  if (!IsHeard()) return;
   if (!knows_text_) {
     told_ = box_.Buffer().Text();
     knows_text_ = true;
   }
   QAccessibleTextSelectionEvent selection(&box_, box_.SelStart(), box_.SelStart() + box_.SelLength());
   selection.setCursorPosition(static_cast<int>(box_.Buffer().Caret()));
-  QAccessible::updateAccessibility(&selection);
+  Send(selection);
   QAccessibleTextCursorEvent caret(&box_, static_cast<int>(box_.Buffer().Caret()));
-  QAccessible::updateAccessibility(&caret);
+  Send(caret);
 }
 
 }  // namespace pelmar

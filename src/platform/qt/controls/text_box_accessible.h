@@ -51,11 +51,16 @@ class TextBoxAccessible : public QAccessibleWidget,
 class TextBoxTeller {
  public:
   explicit TextBoxTeller(TextBox& box) : box_(box) {}
+  virtual ~TextBoxTeller() = default;
 
   void Changed(const TextChange& change);
   void CaretMoved();
   // Another text is shown.
   void Forget();
+
+ protected:
+  [[nodiscard]] virtual bool IsHeard() const { return QAccessible::isActive(); }
+  virtual void Send(QAccessibleEvent& event) { QAccessible::updateAccessibility(&event); }
 
  private:
   TextBox& box_;

@@ -22,6 +22,25 @@ int ScrollSign(int at, int size) {
 
 }  // namespace
 
+// Replaces the stretch from the selection to the target at once, so that one undo takes the move back.
+void MoveSelection(TextBuffer& buffer, std::size_t to, bool copy) {
+  const std::size_t begin = buffer.SelStart();
+  const std::size_t end = buffer.SelEnd();
+  const std::string moved(buffer.SelText());
+  const std::string& text = buffer.Text();
+  if (copy) {
+    buffer.Replace(to, 0, moved);
+  } else if (to < begin) {
+    buffer.Replace(to, end - to, moved + text.substr(to, begin - to));
+  } else if (to > end) {
+    buffer.Replace(begin, to - begin, text.substr(end, to - end) + moved);
+    to -= end - begin;
+  } else {
+    return;
+  }
+  buffer.Select(to, to + moved.size());
+}
+
 void TextDrop::StartDrag(TextBox& box) {
   const QPointer<TextBox> guard(&box);
   const std::string dragged(box.Buffer().SelText());
@@ -78,7 +97,7 @@ void TextDrop::Drop(QDropEvent* event) {
   Accept(*event);
   const TextPlace place = box_.PlaceAt(event->position().toPoint());
   if (IsOwn(*event)) {
-    MoveSelection(place.pos, event->dropAction() == Qt::CopyAction);
+    MoveSelection(box_.Buffer(), place.pos, event->dropAction() == Qt::CopyAction);
   } else {
     box_.PutCaret(place, false);
     box_.Insert(event->mimeData());
@@ -86,26 +105,6 @@ void TextDrop::Drop(QDropEvent* event) {
     box_.Select({place.pos, end});
   }
   box_.setFocus(Qt::MouseFocusReason);
-}
-
-// Replaces the stretch from the selection to the target at once, so that one undo takes the move back.
-void TextDrop::MoveSelection(std::size_t to, bool copy) {
-  TextBuffer& buffer = box_.Buffer();
-  const std::size_t begin = buffer.SelStart();
-  const std::size_t end = buffer.SelEnd();
-  const std::string moved(buffer.SelText());
-  const std::string& text = buffer.Text();
-  if (copy) {
-    buffer.Replace(to, 0, moved);
-  } else if (to < begin) {
-    buffer.Replace(to, end - to, moved + text.substr(to, begin - to));
-  } else if (to > end) {
-    buffer.Replace(begin, to - begin, text.substr(end, to - end) + moved);
-    to -= end - begin;
-  } else {
-    return;
-  }
-  box_.Select({to, to + moved.size()});
 }
 
 }  // namespace pelmar

@@ -5,9 +5,14 @@
 #include <QDropEvent>
 #include <QObject>
 
+#include "text/text_buffer.h"
+
 namespace pelmar {
 
 class TextBox;
+
+// Moves or copies the selection to `to` and leaves it selected there. Nothing where it would fall onto itself.
+void MoveSelection(TextBuffer& buffer, std::size_t to, bool copy);
 
 class TextDrop {
  public:
@@ -25,7 +30,6 @@ class TextDrop {
   [[nodiscard]] bool Takes(const QDropEvent& event) const;
   [[nodiscard]] bool IsOwn(const QDropEvent& event) const;
   void Accept(QDropEvent& event) const;
-  void MoveSelection(std::size_t to, bool copy);
 
   TextBox& box_;
 };
