@@ -1,6 +1,7 @@
 #include "shell/windows/main_window.h"
 
 #include <QCloseEvent>
+#include <QMimeData>
 #include <QScreen>
 #include <QShortcut>
 #include <algorithm>
@@ -31,11 +32,19 @@ QString PlainTitle(const std::string& title) {
   return Utf8ToQString(title).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
 }
 
+// The path of the first file of a drop, "" where it holds none.
+std::string DroppedFile(const QMimeData* mime) {
+  const QList<QUrl> urls = mime->urls();
+  const auto local = std::find_if(urls.begin(), urls.end(), [](const QUrl& url) { return url.isLocalFile(); });
+  return local == urls.end() ? std::string() : Utf8FromQString(local->toLocalFile());
+}
+
 }  // namespace
 
 MainWindow::MainWindow(Editor& editor) : editor_(editor) {
   setObjectName(QStringLiteral("Main"));
   setProperty(kTagProperty, QLatin1String(kAutosnapTag));
+  setAcceptDrops(true);
   setMinimumSize(kSmallest.boundedTo(screen()->size() / 2));
   MakeControls();
   AddViewCommands();
@@ -278,6 +287,23 @@ void MainWindow::ShowAccessory(StartMode mode) {
 void MainWindow::closeEvent(QCloseEvent* event) {
   if (may_close && !may_close()) return event->ignore();
   event->accept();
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (!DroppedFile(event->mimeData()).empty()) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+  event->acceptProposedAction();
+  // The question comes after the drop, or the program that the file comes from would wait for its answer too.
+  QMetaObject::invokeMethod(
+      this, [this, path = DroppedFile(event->mimeData())] { OpenDropped(path); }, Qt::QueuedConnection);
+}
+
+void MainWindow::OpenDropped(const std::string& path) {
+  activateWindow();
+  if (editor_.platform.Message(MessageType::kYesNoWarning, "Opravdu otevřít soubor ?", "Soubor") == Answer::kYes)
+    editor_.opener.OpenPath(path);
 }
 
 void MainWindow::changeEvent(QEvent* event) {

@@ -61,6 +61,8 @@ class MainWindow : public QMainWindow, public MainView {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
   void changeEvent(QEvent* event) override;
   bool event(QEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -70,6 +72,7 @@ class MainWindow : public QMainWindow, public MainView {
   void AddTabKeys();
   void AddViewCommands();
   void FollowDocuments();
+  void OpenDropped(const std::string& path);
   void ToggleBar(std::string_view item, QWidget* bar);
   void ToggleAlwaysOnTop();
   void FitToFrame();

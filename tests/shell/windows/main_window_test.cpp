@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QMenu>
+#include <QMimeData>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -185,6 +186,24 @@ TEST_F(MainWindowTest, LookComesBackAsItWasSet) {
   EXPECT_TRUE(Find<QAction>("mnu14")->isChecked());
   EXPECT_FALSE(Find<QAction>("mnu08")->isChecked());
   EXPECT_TRUE(Find<QAction>("mnuEditBold")->isChecked());
+}
+
+TEST_F(MainWindowTest, ADroppedFileIsOpenedAfterAQuestion) {
+  platform.files["/a/b.txt"] = "dropped";
+  QMimeData mime;
+  mime.setUrls({QUrl(QStringLiteral("http://x.cz/")), QUrl::fromLocalFile(QStringLiteral("/a/b.txt"))});
+  for (const Answer answer : {Answer::kNo, Answer::kYes}) {
+    platform.answers = {answer};
+    QDragEnterEvent enter(QPoint(50, 50), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&window, &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent drop(QPointF(50, 50), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&window, &drop);
+    EXPECT_EQ(platform.answers.size(), 1u);  // not while the other program waits for the drop
+    QApplication::processEvents();
+    EXPECT_TRUE(platform.answers.empty());
+    EXPECT_EQ(editor.text.Text(), answer == Answer::kYes ? "dropped" : "");
+  }
 }
 
 TEST_F(MainWindowTest, ARefusedCloseKeepsTheWindow) {
