@@ -33,6 +33,7 @@ void TextBuffer::SetText(std::string text) {
   }
   const TextChange change{0, text_.size(), text.size(), true};
   text_ = std::move(text);
+  ++revision_;
   anchor_ = caret_ = 0;
   IndexAllLines();
   TellChange(change);
@@ -122,6 +123,7 @@ void TextBuffer::TrimHistory() {
 
 void TextBuffer::Apply(std::size_t pos, std::size_t length, std::string_view text) {
   text_.replace(pos, length, text);
+  ++revision_;
   ReindexLines({pos, length, text.size(), false});
   anchor_ = caret_ = pos + text.size();
 }

@@ -38,6 +38,9 @@ class TextBuffer {
   [[nodiscard]] const std::string& Text() const { return text_; }
   [[nodiscard]] std::size_t Size() const { return text_.size(); }
   [[nodiscard]] bool Empty() const { return text_.empty(); }
+  // How many changes of content there were. A listener that changes the text itself makes others hear of its change
+  // before the one that caused it; those who follow step by step see that here.
+  [[nodiscard]] std::uint64_t Revision() const { return revision_; }
 
   // Replaces the whole text, puts the caret at 0 and forgets undo, also when the text is the same; only then no
   // change is told.
@@ -112,6 +115,7 @@ class TextBuffer {
   std::vector<Step> redo_;
   std::size_t history_bytes_ = 0;
   Run run_ = Run::kNone;
+  std::uint64_t revision_ = 0;
   std::vector<ChangeListener> change_listeners_;
   std::vector<SelectionListener> selection_listeners_;
 };

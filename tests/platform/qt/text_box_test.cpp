@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QClipboard>
+#include <QMenu>
 #include <QMimeData>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -370,6 +371,24 @@ TEST_F(TextBoxTest, TwoBoxesShowOneBufferAndMayGoBeforeIt) {
   buffer.SetText("alone");
 }
 
+TEST_F(TextBoxTest, FollowsListenersThatChangeTheTextThemselves) {
+  TextBuffer buffer;
+  bool cut = true;
+  buffer.OnChange([&](const TextChange&) {  // heard before the box hears
+    if (std::exchange(cut, true)) return;
+    buffer.Replace(0, 3, "x\r\ny\r\nz");
+  });
+  box->UseBuffer(buffer);
+  buffer.SetText("one\r\ntwo");
+  const QSignalSpy told(box, &TextBox::TextChanged);
+  cut = false;
+  buffer.Replace(0, 3, "\r\n1");
+  EXPECT_EQ(told.count(), 2);
+  EXPECT_EQ(Text(), "x\r\ny\r\nz\r\ntwo");
+  for (std::size_t line = 0; line < buffer.LineCount(); ++line)
+    EXPECT_EQ(box->RowSpan(buffer.LineStart(line)).begin, buffer.LineStart(line));
+}
+
 // ---- mouse
 
 TEST_F(TextBoxTest, MouseSelectsCharactersWordsAndLines) {
@@ -407,6 +426,66 @@ TEST_F(TextBoxTest, MouseHeldBelowTheWindowScrollsAndSelects) {
   QTest::mouseRelease(box->viewport(), Qt::LeftButton, {}, below);
   const int value = box->verticalScrollBar()->value();
   EXPECT_EQ(value, box->verticalScrollBar()->maximum());
+}
+
+TEST_F(TextBoxTest, WheelScrollsByRowsOrExactPixels) {
+  std::string lines;
+  for (int i = 0; i < 200; ++i) lines += "row\r\n";
+  Set(lines);
+  const auto roll = [&](QPoint pixels, QPoint angle, Qt::KeyboardModifiers modifiers = {}) {
+    QWheelEvent event(QPointF(5, 5), box->viewport()->mapToGlobal(QPointF(5, 5)), pixels, angle, {}, modifiers,
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(box->viewport(), &event);
+    return event.isAccepted();
+  };
+  EXPECT_TRUE(roll({}, {0, -120}));
+  const int rows = QApplication::wheelScrollLines() * box->verticalScrollBar()->singleStep();
+  EXPECT_EQ(box->verticalScrollBar()->value(), rows);
+  if (QGuiApplication::platformName() != QStringLiteral("xcb")) {
+    EXPECT_TRUE(roll({0, -7}, {0, -56}));
+    EXPECT_EQ(box->verticalScrollBar()->value(), rows + 7);
+  }
+  EXPECT_FALSE(roll({}, {0, -120}, Qt::ControlModifier));  // a window may zoom
+}
+
+TEST_F(TextBoxTest, FingersScroll) {
+  std::string lines;
+  for (int i = 0; i < 200; ++i) lines += "row\r\n";
+  Set(lines);
+  QPointingDevice* screen = QTest::createTouchDevice();
+  QTest::touchEvent(box->viewport(), screen).press(0, QPoint(50, 250), box->viewport());
+  for (int y = 240; y > 40; y -= 10) QTest::touchEvent(box->viewport(), screen).move(0, QPoint(50, y), box->viewport());
+  QTest::touchEvent(box->viewport(), screen).release(0, QPoint(50, 40), box->viewport());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return box->verticalScrollBar()->value() > 0; }));
+  EXPECT_EQ(box->SelLength(), 0);
+  EXPECT_EQ(box->SelStart(), 0);
+}
+
+TEST_F(TextBoxTest, RightButtonKeepsTheSelectionAndMenusMayBeTheWindows) {
+  Set("one two three", 4, 7);
+  Click(5, Qt::RightButton);
+  EXPECT_EQ(box->SelText(), "two");
+  Click(10, Qt::RightButton);
+  EXPECT_EQ(box->Buffer().Caret(), 10u);
+
+  const auto ask = [&] {
+    QContextMenuEvent event(QContextMenuEvent::Mouse, {5, 5}, box->viewport()->mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(box->viewport(), &event);
+  };
+  QSignalSpy asked(box, &QWidget::customContextMenuRequested);
+  box->setContextMenuPolicy(Qt::CustomContextMenu);
+  ask();
+  EXPECT_EQ(asked.count(), 1);
+  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+  box->setContextMenuPolicy(Qt::DefaultContextMenu);
+  box->Do({TextCommand::kSelectAll});
+  ask();
+  auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  ASSERT_NE(menu, nullptr);
+  for (QAction* action : menu->actions())
+    if (action->text().startsWith(QStringLiteral("&Smazat"))) action->trigger();
+  menu->close();
+  EXPECT_EQ(Text(), "");
 }
 
 TEST_F(TextBoxTest, PrimarySelectionIsSetAndPasted) {

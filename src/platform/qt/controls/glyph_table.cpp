@@ -12,8 +12,8 @@ namespace pelmar {
 namespace {
 
 constexpr std::size_t kTabColumns = 8;
-constexpr qreal kSignScale = 0.62;
-constexpr qreal kSmallestSign = 7;  // pixels
+constexpr qreal kSignScale = 0.65;
+constexpr qreal kSmallestSign = 8;  // pixels
 constexpr qreal kSignPadding = 2;
 constexpr qreal kSignGap = 1;  // between neighbouring fields
 

@@ -66,6 +66,7 @@ void TextBox::UseBuffer(TextBuffer& buffer) {
   composer_.Clear();
   teller_->Forget();
   shown_selection_ = {buffer.SelStart(), buffer.SelEnd()};
+  shown_revision_ = buffer.Revision();
   view_->Show(buffer);
   Relayout();
   RevealCaret();
@@ -126,28 +127,35 @@ void TextBox::setBackgroundColor(const QColor& color) {
 // ---- following the buffer
 
 void TextBox::FollowChange(const TextChange& change) {
-  mover_.Forget();
-  if (change.whole) composer_.Clear();
-  if (!isVisible()) {
-    view_->Invalidate();
-  } else {
-    const std::int64_t width = view_->RawLayout().ContentWidth();
-    if (const auto rows = view_->Follow(change)) {
-      UpdateRows(*rows, rows->removed != rows->inserted);
-      if (view_->RawLayout().ContentWidth() != width && view_->Align() != TextAlign::kLeft) viewport()->update();
-      UpdateScrollBars();
-    } else {
-      Relayout();
-    }
-    RevealCaret();
-  }
-  const TextSpan selection{buffer_->SelStart(), buffer_->SelEnd()};
-  if (shown_selection_.begin != shown_selection_.end) viewport()->update();
-  shown_selection_ = selection;
-  ShowCaretAnew();
-  teller_->Changed(change);
+  if (shown_revision_ != buffer_->Revision()) ShowChange(change);
   Q_EMIT TextChanged();
   Q_EMIT SelectionChanged();
+}
+
+void TextBox::ShowChange(const TextChange& change) {
+  if (shown_revision_ + 1 != buffer_->Revision()) {
+    view_->Invalidate();
+    teller_->Forget();
+  }
+  shown_revision_ = buffer_->Revision();
+  mover_.Forget();
+  if (change.whole) composer_.Clear();
+  const bool selected = shown_selection_.begin != shown_selection_.end || buffer_->HasSelection();
+  shown_selection_ = {buffer_->SelStart(), buffer_->SelEnd()};
+  teller_->Changed(change);
+  if (!isVisible()) return view_->Invalidate();
+
+  const std::int64_t width = view_->RawLayout().ContentWidth();
+  if (const auto rows = view_->Follow(change)) {
+    UpdateRows(*rows, rows->removed != rows->inserted);
+    const bool moved = view_->Align() != TextAlign::kLeft && view_->RawLayout().ContentWidth() != width;
+    if (moved || selected) viewport()->update();
+    UpdateScrollBars();
+  } else {
+    Relayout();
+  }
+  RevealCaret();
+  ShowCaretAnew();
 }
 
 void TextBox::FollowSelection() {
@@ -244,8 +252,16 @@ QPoint TextBox::CaretPoint() const {
   return QPoint(view_->StopX(row, buffer_->Caret()), view_->RowTop(row)) - Scrolled();
 }
 
-QRect TextBox::CaretRect() const {
+QPoint TextBox::ComposedPoint() const {
   QPoint at = CaretPoint();
+  if (!composer_.Active()) return at;
+  const int right = viewport()->width() - TextView::kMargin;
+  at.setX(std::max(std::min(at.x(), right - composer_.Width(font())), TextView::kMargin));
+  return at;
+}
+
+QRect TextBox::CaretRect() const {
+  QPoint at = ComposedPoint();
   at.rx() += composer_.CaretX(font());
   return {at, QSize(CaretWidth(), view_->Glyphs().RowHeight())};
 }

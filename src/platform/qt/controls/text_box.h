@@ -104,8 +104,6 @@ class TextBox : public QAbstractScrollArea {
 
  public:
   [[nodiscard]] QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
-  // Called by input methods with the place they ask about.
-  Q_INVOKABLE QVariant inputMethodQuery(Qt::InputMethodQuery query, const QVariant& argument) const;
 
  protected:
   bool event(QEvent* event) override;
@@ -132,6 +130,7 @@ class TextBox : public QAbstractScrollArea {
 
  private:
   void FollowChange(const TextChange& change);
+  void ShowChange(const TextChange& change);
   void FollowSelection();
   void UpdateRows(const RowsChange& rows, bool all_below);
   void UpdateRowsOf(TextSpan span);
@@ -149,7 +148,9 @@ class TextBox : public QAbstractScrollArea {
   [[nodiscard]] int CaretWidth() const;
   [[nodiscard]] TextColours Colours() const;
   [[nodiscard]] QColor Background() const;
+  // Where the caret's position is, and where composed text begins: there, or further left where it would not fit.
   [[nodiscard]] QPoint CaretPoint() const;
+  [[nodiscard]] QPoint ComposedPoint() const;
 
   std::unique_ptr<TextBuffer> own_buffer_;
   TextBuffer* buffer_;
@@ -162,6 +163,7 @@ class TextBox : public QAbstractScrollArea {
   TextComposer composer_;
   std::unique_ptr<TextBoxTeller> teller_;
   std::optional<TextPlace> drop_place_;
+  std::uint64_t shown_revision_ = 0;
   TextSpan shown_selection_;
   QRect shown_caret_;
   QColor text_color_;

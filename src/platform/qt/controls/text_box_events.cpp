@@ -133,9 +133,7 @@ void TextBox::inputMethodEvent(QInputMethodEvent* event) {
   event->accept();
 }
 
-QVariant TextBox::inputMethodQuery(Qt::InputMethodQuery query) const { return inputMethodQuery(query, QVariant()); }
-
-QVariant TextBox::inputMethodQuery(Qt::InputMethodQuery query, const QVariant& argument) const {
+QVariant TextBox::inputMethodQuery(Qt::InputMethodQuery query) const {
   switch (query) {
     case Qt::ImEnabled:
       return !read_only_;
@@ -154,7 +152,6 @@ QVariant TextBox::inputMethodQuery(Qt::InputMethodQuery query, const QVariant& a
     default:
       break;
   }
-  Q_UNUSED(argument);
   const QVariant answer = TextComposer::AnswerFromText(query, *buffer_);
   return answer.isValid() ? answer : QAbstractScrollArea::inputMethodQuery(query);
 }
@@ -204,9 +201,10 @@ void TextBox::paintEvent(QPaintEvent* event) {
 }
 
 void TextBox::PaintComposed(QPainter& painter) {
-  const QPoint at = CaretPoint();
+  const QPoint at = ComposedPoint();
+  painter.fillRect(QRect(at, QSize(composer_.Width(font()), view_->Glyphs().RowHeight())), Background());
   painter.setPen(Colours().text);
-  composer_.Paint(painter, at, font());
+  composer_.Paint(painter, at + QPoint(0, view_->Glyphs().Ascent()), font());
 }
 
 void TextBox::scrollContentsBy(int dx, int dy) {

@@ -105,10 +105,10 @@ int TextComposer::Width(const QFont& font) const {
   return qCeil(layout.lineAt(0).naturalTextWidth());
 }
 
-void TextComposer::Paint(QPainter& painter, QPointF at, const QFont& font) const {
+void TextComposer::Paint(QPainter& painter, QPointF baseline, const QFont& font) const {
   QTextLayout layout(text_, font);
   Layout(layout);
-  layout.draw(&painter, at);
+  layout.draw(&painter, baseline - QPointF(0, layout.lineAt(0).ascent()));
 }
 
 QVariant TextComposer::AnswerFromText(Qt::InputMethodQuery query, const TextBuffer& buffer) {

@@ -26,7 +26,7 @@ class TextComposer {
   // Puts the event's text into the buffer and keeps what is still being composed.
   void Handle(const QInputMethodEvent& event, TextBuffer& buffer);
   void Clear();
-  void Paint(QPainter& painter, QPointF at, const QFont& font) const;
+  void Paint(QPainter& painter, QPointF baseline, const QFont& font) const;
 
   // The part of an answer that comes from the text; invalid for questions about anything else.
   static QVariant AnswerFromText(Qt::InputMethodQuery query, const TextBuffer& buffer);

@@ -34,8 +34,12 @@ void TextMouse::Press(QMouseEvent* event) {
 void TextMouse::PressLeft(QMouseEvent* event) {
   const QPoint at = event->position().toPoint();
   pressed_at_ = last_at_ = at;
-  state_ = State::kSelecting;
   unit_ = Unit::kChar;
+  if (event->pointerType() == QPointingDevice::PointerType::Finger) {
+    state_ = State::kTapping;
+    return;
+  }
+  state_ = State::kSelecting;
   if (event->modifiers().testFlag(Qt::ShiftModifier)) return box_.PutCaret(box_.PlaceAt(at), true);
   if (IsThirdClick(at)) return BeginUnit(Unit::kLine, at);
   if (box_.IsSelectedAt(at)) {
@@ -81,6 +85,7 @@ TextSpan TextMouse::UnitAt(QPoint at) const {
 void TextMouse::Move(QMouseEvent* event) {
   const QPoint at = event->position().toPoint();
   if (!event->buttons().testFlag(Qt::LeftButton) || state_ == State::kIdle) return ShowPointer(at);
+  if (state_ == State::kTapping) return;
   if (state_ == State::kMayDrag) {
     if ((at - pressed_at_).manhattanLength() < QApplication::startDragDistance()) return;
     state_ = State::kIdle;
@@ -106,7 +111,8 @@ void TextMouse::Release(QMouseEvent* event) {
   const QPoint at = event->position().toPoint();
   if (event->button() == Qt::LeftButton) {
     scroll_timer_.stop();
-    if (state_ == State::kMayDrag) box_.PutCaret(box_.PlaceAt(at), false);
+    const bool still = (at - pressed_at_).manhattanLength() < QApplication::startDragDistance();
+    if (state_ == State::kMayDrag || (state_ == State::kTapping && still)) box_.PutCaret(box_.PlaceAt(at), false);
     if (state_ == State::kSelecting) box_.PublishSelection();
     state_ = State::kIdle;
     ShowPointer(at);

@@ -26,7 +26,8 @@ class TextMouse : public QObject {
   void timerEvent(QTimerEvent* event) override;
 
  private:
-  enum class State : std::uint8_t { kIdle, kSelecting, kMayDrag };
+  // A finger scrolls, and puts the caret when it is lifted where it came down.
+  enum class State : std::uint8_t { kIdle, kSelecting, kMayDrag, kTapping };
   enum class Unit : std::uint8_t { kChar, kWord, kLine };
 
   void PressLeft(QMouseEvent* event);
