@@ -1,9 +1,9 @@
 # Set-up shared by ./run and ./test, sourced by them: packages and configuring. POSIX sh.
 # The caller sets `root` (the source tree) and `step` (the word before each line that is told).
 
-build_packages="build-essential cmake ninja-build ccache qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-l10n-tools
+build_packages="build-essential cmake ninja-build ccache qt6-base-dev qt6-tools-dev qt6-l10n-tools
 libgl-dev libx11-dev"
-runtime_packages="qt6-qpa-plugins qt6-translations-l10n fonts-dejavu-core xdg-utils"
+runtime_packages="libqt6svg6 qt6-qpa-plugins qt6-translations-l10n fonts-dejavu-core xdg-utils"
 test_packages="libgtest-dev libbenchmark-dev python3 xvfb openbox xdotool xclip wmctrl x11-utils
 imagemagick"
 

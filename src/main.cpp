@@ -6,6 +6,7 @@
 #include <cstdlib>
 
 #include "platform/qt/application.h"
+#include "platform/qt/program_style.h"
 #include "platform/qt/qt_platform.h"
 #include "shell/windows/program.h"
 
@@ -25,7 +26,10 @@ int main(int argc, char** argv) {
   for (int i = 1; i < argc; ++i) arguments.append(QString::fromLocal8Bit(argv[i]));
   // The command tail is the program's own; the toolkit sees none of it.
   int own_argc = 1;
+  // A menu bar of the desktop would be looked for on the session bus, which may have to be started first.
+  pelmar::Application::setAttribute(Qt::AA_DontUseNativeMenuBar);
   pelmar::Application application(own_argc, argv);
+  pelmar::Application::setStyle(new pelmar::ProgramStyle);
   pelmar::Application::setApplicationName(QStringLiteral("pelmar-vex"));
   pelmar::Application::setDesktopFileName(QStringLiteral("pelmar-vex"));
   pelmar::Application::setQuitOnLastWindowClosed(false);

@@ -3,9 +3,9 @@
 #include <QHash>
 #include <QIconEngine>
 #include <QImage>
+#include <QImageReader>
 #include <QPainter>
 #include <QPixmap>
-#include <QSvgRenderer>
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -16,14 +16,15 @@ namespace {
 constexpr int kMostPixmaps = 16;      // two modes of the few sizes that a screen or two ask for
 constexpr int kDisabledOpacity = 45;  // percent
 
+// Through the toolkit's picture plug-in, so that the library behind it is loaded at the first paint and not at the start.
 QImage Render(const QString& path, int side) {
-  QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
-  image.fill(Qt::transparent);
-  QSvgRenderer renderer(path);
-  if (!renderer.isValid()) return image;
-  QPainter painter(&image);
-  renderer.render(&painter, QRectF(0, 0, side, side));
-  return image;
+  QImageReader reader(path, "svg");
+  reader.setScaledSize({side, side});
+  const QImage image = reader.read();
+  if (!image.isNull()) return image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+  QImage empty(side, side, QImage::Format_ARGB32_Premultiplied);
+  empty.fill(Qt::transparent);
+  return empty;
 }
 
 // Grey and faint. Premultiplied colours may be averaged and scaled without looking at their alpha.
