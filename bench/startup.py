@@ -7,8 +7,8 @@ Starts an X server and a window manager of its own, with a temporary home. Runs 
 so does which of them comes first, so that what else the machine does falls on both. Prints a table of medians, and of
 the start also the lower quartile: a busy machine only ever adds time, so the quartile is the steadier figure.
 Measured with the same program on both sides, medians of 20 runs scattered by 9 percent, quartiles by 5, and quartiles
-of 40 runs by 3. With --limit it exits with status 1 when
-the quartile of the program is more than that many times the bare window's.
+of 40 runs by 3. With --limit it exits with status 1 when the quartile of the program is more than that many times the
+bare window's.
 """
 
 import argparse
