@@ -17,6 +17,8 @@ namespace pelmar {
 class TextView {
  public:
   static constexpr int kMargin = 4;
+  // How far letters may reach into the neighbouring rows: accents do, and at scales between whole numbers any letter.
+  static constexpr int kOverhang = 2;
 
   explicit TextView(const TextBuffer& buffer) : buffer_(&buffer), layout_(buffer) {}
 
