@@ -1,1 +1,50 @@
-int main() { return 0; }
+// Pelmar VEX: a small editor of text and HTML.
+
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+#include <cstdlib>
+
+#include "platform/qt/application.h"
+#include "platform/qt/qt_platform.h"
+#include "shell/windows/program.h"
+
+namespace {
+
+// Placing our own windows needs X11; where there is an X display beside Wayland, it is the better one.
+void PreferX11() {
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && qEnvironmentVariableIsSet("DISPLAY"))
+    qputenv("QT_QPA_PLATFORM", "xcb");
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  PreferX11();
+  QStringList arguments;
+  for (int i = 1; i < argc; ++i) arguments.append(QString::fromLocal8Bit(argv[i]));
+  // The command tail is the program's own; the toolkit sees none of it.
+  int own_argc = 1;
+  pelmar::Application application(own_argc, argv);
+  pelmar::Application::setApplicationName(QStringLiteral("pelmar-vex"));
+  pelmar::Application::setDesktopFileName(QStringLiteral("pelmar-vex"));
+  pelmar::Application::setQuitOnLastWindowClosed(false);
+
+  QTranslator czech;
+  if (czech.load(QLocale(QLocale::Czech), QStringLiteral("qtbase"), QStringLiteral("_"),
+                 QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    pelmar::Application::installTranslator(&czech);
+
+  pelmar::QtPlatform platform;
+  pelmar::Program program(platform);
+  application.on_runtime_error = [&program](const pelmar::RuntimeError& error) {
+    program.TellRuntimeError(error);
+    std::_Exit(EXIT_FAILURE);
+  };
+  try {
+    program.Start(pelmar::CommandTail(arguments));
+  } catch (const pelmar::RuntimeError& error) {
+    application.on_runtime_error(error);
+  }
+  return pelmar::Application::exec();
+}

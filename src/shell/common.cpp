@@ -46,6 +46,12 @@ std::string FilePart(std::string_view path, int part) {
   }
 }
 
+bool HasExtension(std::string_view path) {
+  if (path.empty()) return false;
+  const auto [separator, dot] = Split(path);
+  return dot != separator;
+}
+
 std::string PathToFileUrl(std::string_view path) {
   // The slash of a native absolute path is the third one already.
   std::string url = path.starts_with('/') ? "file://" : "file:///";

@@ -39,6 +39,7 @@ struct Accessible : testing::Test {
   Accessible() {
     box.resize(300, 200);
     box.show();
+    QCoreApplication::processEvents();
     face = QAccessible::queryAccessibleInterface(&box);
     text = face == nullptr ? nullptr : face->textInterface();
     edit = face == nullptr ? nullptr : face->editableTextInterface();

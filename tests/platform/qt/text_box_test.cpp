@@ -401,6 +401,16 @@ TEST_F(TextBoxTest, HiddenBoxesFollowWhenTheyAreShown) {
   EXPECT_EQ(box->PlaceAt(box->CaretRect().center()).pos, box->Buffer().Size());
 }
 
+TEST(TextBox, WorksBeforeItIsShown) {
+  TextBox box;
+  box.resize(300, 200);
+  box.SetText("one two\r\nthree");
+  QTest::keyClick(&box, Qt::Key_End);
+  EXPECT_EQ(box.Buffer().Caret(), 7u);
+  EXPECT_EQ(box.grab().size(), QSize(300, 200));
+  EXPECT_EQ(box.RowSpan(0).end, 9u);
+}
+
 TEST_F(TextBoxTest, TwoBoxesShowOneBufferAndMayGoBeforeIt) {
   TextBuffer buffer;
   buffer.SetText("shared");

@@ -29,7 +29,7 @@ TextSpan Difference(TextSpan a, TextSpan b) {
 TextBox::TextBox(QWidget* parent)
     : QAbstractScrollArea(parent),
       own_buffer_(std::make_unique<TextBuffer>()),
-      view_(std::make_unique<TextView>(*own_buffer_)),
+      view_(std::make_unique<TextView>(*own_buffer_, [this] { return viewport()->width(); })),
       mover_(view_->RawLayout()),
       blink_([this] { viewport()->update(shown_caret_); }, nullptr),
       mouse_(*this),
@@ -146,7 +146,7 @@ void TextBox::ShowChange(const TextChange& change) {
   const bool selected = shown_selection_.begin != shown_selection_.end || buffer_->HasSelection();
   shown_selection_ = {buffer_->SelStart(), buffer_->SelEnd()};
   teller_->Changed(change);
-  if (!isVisible()) return view_->Invalidate();
+  if (!Showing()) return view_->Invalidate();
 
   const std::int64_t width = view_->RawLayout().ContentWidth();
   if (const auto rows = view_->Follow(change)) {
@@ -163,7 +163,7 @@ void TextBox::ShowChange(const TextChange& change) {
 
 void TextBox::FollowSelection() {
   const TextSpan selection{buffer_->SelStart(), buffer_->SelEnd()};
-  if (isVisible()) {
+  if (Showing()) {
     const TextSpan old = shown_selection_;
     if (old.begin != old.end || selection.begin != selection.end) UpdateRowsOf(Difference(old, selection));
     RevealCaret();
@@ -191,7 +191,7 @@ void TextBox::UpdateRowsOf(TextSpan span) {
 // ---- geometry
 
 void TextBox::Relayout() {
-  if (!isVisible()) return;
+  if (!Showing()) return;
   UpdateScrollBars();
   viewport()->update();
 }
@@ -219,7 +219,7 @@ void TextBox::UpdateScrollBars() {
 // Keeps the uppermost row's text where it is while the rows around it change.
 void TextBox::KeepTopWhile(const std::function<void()>& change) {
   const int top = Scrolled().y();
-  if (top == 0 || !isVisible()) return change();
+  if (top == 0 || !Showing()) return change();
   const std::size_t row = view_->RowAt(top);
   const std::size_t pos = std::min(view_->RawLayout().RowStart(row), buffer_->Size());
   const int within = top - view_->RowTop(row);
@@ -295,7 +295,7 @@ void TextBox::Select(TextSpan span, bool caret_first) {
 void TextBox::Reveal(std::size_t pos) { RevealRect(CharRect(pos)); }
 
 void TextBox::RevealCaret() {
-  if (isVisible()) RevealRect(CaretRect());
+  if (Showing()) RevealRect(CaretRect());
 }
 
 void TextBox::RevealRect(QRect rect) {
@@ -313,7 +313,7 @@ void TextBox::RevealRect(QRect rect) {
 }
 
 void TextBox::ShowCaretAnew() {
-  if (!isVisible()) return;
+  if (!Showing()) return;
   if (composer_.Active()) viewport()->update();  // composed text goes with the caret
   const QRect caret = CaretRect();
   if (caret != shown_caret_) {

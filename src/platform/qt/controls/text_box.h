@@ -137,6 +137,8 @@ class TextBox : public QAbstractScrollArea {
   void RevealRect(QRect rect);
   void UpdateScrollBars();
   void Relayout();
+  void ShowAnew();
+  [[nodiscard]] bool Showing() const { return ready_ && isVisible(); }
   void KeepTopWhile(const std::function<void()>& change);
   void ShowCaretAnew();
   void Move(const TextKey& key);
@@ -172,6 +174,7 @@ class TextBox : public QAbstractScrollArea {
   bool standard_shortcuts_ = true;
   bool tab_changes_focus_ = false;
   bool updating_bars_ = false;
+  bool ready_ = false;  // shown at least once
 };
 
 }  // namespace pelmar

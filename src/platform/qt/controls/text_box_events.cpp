@@ -227,8 +227,21 @@ void TextBox::resizeEvent(QResizeEvent* /*event*/) {
 
 void TextBox::showEvent(QShowEvent* event) {
   QAbstractScrollArea::showEvent(event);
+  if (ready_) return ShowAnew();
+  // The font's table is made when the window is on its way to the screen, not before.
+  QMetaObject::invokeMethod(
+      this,
+      [this] {
+        ready_ = true;
+        ShowAnew();
+      },
+      Qt::QueuedConnection);
+}
+
+void TextBox::ShowAnew() {
   Relayout();
   RevealCaret();
+  ShowCaretAnew();
 }
 
 void TextBox::changeEvent(QEvent* event) {

@@ -1,0 +1,59 @@
+# Set-up shared by ./run and ./test, sourced by them: packages and configuring. POSIX sh.
+# The caller sets `root` (the source tree) and `step` (the word before each line that is told).
+
+build_packages="build-essential cmake ninja-build ccache qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-l10n-tools
+libgl-dev libx11-dev"
+runtime_packages="qt6-qpa-plugins qt6-translations-l10n fonts-dejavu-core xdg-utils"
+test_packages="libgtest-dev libbenchmark-dev python3 xvfb openbox xdotool xclip wmctrl x11-utils
+imagemagick"
+
+tell() {
+  printf '%s: %s\n' "$step" "$*" >&2
+}
+
+# Installs those of the packages given that are missing. Asks the network for nothing when none is.
+install_missing() {
+  if ! command -v dpkg-query >/dev/null; then
+    tell "no Debian packages here; going on with what is installed (needed: $(echo $*))"
+    return 0
+  fi
+  installed=$(dpkg-query -W -f='${db:Status-Abbrev}${Package}\n' "$@" 2>/dev/null | sed -n 's/^ii *//p')
+  missing=
+  for package in "$@"; do
+    printf '%s\n' "$installed" | grep -qx "$package" || missing="$missing $package"
+  done
+  [ -n "$missing" ] || return 0
+
+  as_root=
+  if [ "$(id -u)" -ne 0 ]; then
+    if ! command -v sudo >/dev/null; then
+      tell "these packages are missing, and only root or sudo can install them:$missing"
+      return 1
+    fi
+    as_root=sudo
+  fi
+  tell "installing missing packages:$missing"
+  apt="$as_root env DEBIAN_FRONTEND=noninteractive apt-get -qq -o DPkg::Lock::Timeout=300 -o Dpkg::Use-Pty=0"
+  $apt update >&2 && $apt install -y --no-install-recommends $missing >&2 || {
+    tell "the packages could not be installed"
+    return 1
+  }
+}
+
+# Configures a preset (and further cmake arguments) when that wasn't done yet for this tree, then builds it.
+configure_and_build() {
+  preset=$1
+  shift
+  build=$root/build/$preset
+  if ! [ -f "$build/build.ninja" ] ||
+    ! grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$root" "$build/CMakeCache.txt" 2>/dev/null; then
+    tell "configuring build/$preset"
+    rm -f "$build/CMakeCache.txt" "$build/build.ninja"
+    (cd "$root" && cmake --log-level=WARNING --preset "$preset" "$@" >&2) || return 1
+  fi
+  tell "building what changed in build/$preset"
+  # A terminal gets ninja's one moving line, a log only what goes wrong.
+  quiet=--quiet
+  [ -t 2 ] && quiet=
+  ninja -C "$build" -j "$(nproc)" $quiet >&2
+}

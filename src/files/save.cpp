@@ -1,0 +1,100 @@
+#include "files/save.h"
+
+namespace pelmar {
+
+Saver::Saver(Documents& documents, Opener& opener, Platform& platform, FileNumber& file_number)
+    : documents_(documents), opener_(opener), platform_(platform), file_number_(file_number) {}
+
+void Saver::SaveToPath(const std::string& path, std::string_view text) {
+  if (!MayWrite(path)) return;
+  try {
+    Write(path, text);
+    documents_.SetCurrentPath(path);
+    documents_.Target().Prime(path);
+    documents_.ShowPathInTitle();
+    opener_.RememberFile(path);
+    documents_.ShowPathOnTab();
+    documents_.SettleSlot();
+  } catch (const RuntimeError& error) {
+    TellError(path, error.Number());
+  }
+}
+
+void Saver::SaveTextCopy(const std::string& path, std::string_view text) {
+  if (!MayWrite(path)) return;
+  try {
+    Write(path, text);
+    opener_.RememberFile(path);
+  } catch (const RuntimeError& error) {
+    TellError(path, error.Number());
+  }
+}
+
+void Saver::SaveSelectionAs() {
+  TextBuffer& text = documents_.Text();
+  if (!text.HasSelection()) return;
+  const auto path = platform_.SaveDialog(kDocumentFilter, kDocumentFilterIndex);
+  // The selected text is taken after the dialog closed.
+  if (path) SaveTextCopy(*path, std::string(text.SelText()));
+}
+
+void Saver::SaveStandard() {
+  const auto path = platform_.SaveDialog(kDocumentFilter, kDocumentFilterIndex);
+  if (path) SaveToPath(*path, documents_.Text().Text());
+}
+
+void Saver::SaveFast() {
+  const std::string path = documents_.CurrentPath();
+  const std::string question = "Opravdu uložit soubor?\r\n\"" + path + "\"";
+  if (platform_.Message(MessageType::kYesNoWarning, question, "Soubor") != Answer::kYes) return;
+  SaveToPath(path, documents_.Text().Text());
+}
+
+void Saver::InsertFromFile() {
+  const auto path = platform_.OpenDialog(kDocumentFilter, kDocumentFilterIndex);
+  if (!path) return;
+  try {
+    file_number_.Open();
+    const FileBytes file = platform_.ReadFile(*path, std::nullopt);
+    file_number_.Close();
+    if (file.error != 0) return;  // required: the command ends in silence
+    documents_.Text().ReplaceSelection(FirstField(file.bytes));
+    opener_.RememberFile(*path);
+  } catch (const RuntimeError&) {  // required: the command ends in silence
+  }
+}
+
+bool Saver::MayWrite(const std::string& path) {
+  if (!opener_.FileExists(path)) return true;
+  const std::string question = "Opravdu uložit " + path + "?\r\nSoubor již existuje a bude přepsán!";
+  return platform_.Message(MessageType::kYesNoWarning, question, "Soubor") == Answer::kYes;
+}
+
+void Saver::Write(const std::string& path, std::string_view text) {
+  file_number_.Open();
+  const int error = platform_.WriteFile(path, text);
+  file_number_.Close();
+  if (error != 0) throw RuntimeError(error, "Soubor " + path + " nelze zapsat");
+}
+
+void Saver::TellError(const std::string& path, int error) {
+  platform_.Message(MessageType::kOk, "Chyba ukládání!\r\nSoubor: " + path + "\r\nKód chyby " + std::to_string(error),
+                    "Pelmar VEX");
+}
+
+std::string TargetPath(std::string_view folder, std::string_view name, std::string_view extension) {
+  return JoinPath(folder, std::string(name).append(".").append(extension));
+}
+
+std::string_view FirstField(std::string_view bytes) {
+  constexpr std::string_view kBlanks = " \t";
+  const std::size_t start = bytes.find_first_not_of(kBlanks);
+  if (start == std::string_view::npos) return {};
+  bytes.remove_prefix(start);
+  if (bytes.front() == '"') return bytes.substr(1, bytes.find('"', 1) - 1);
+  const std::string_view field = bytes.substr(0, bytes.find_first_of(",\r\n"));
+  const std::size_t last = field.find_last_not_of(kBlanks);
+  return last == std::string_view::npos ? std::string_view{} : field.substr(0, last + 1);
+}
+
+}  // namespace pelmar

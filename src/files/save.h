@@ -1,0 +1,53 @@
+// All ways of writing the text or a part of it to a file, and the one way of reading a file into the middle of the
+// text. A file is the text byte for byte, with no line end added. Paths are UTF-8, texts Windows-1250.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "files/open.h"
+
+namespace pelmar {
+
+class Saver {
+ public:
+  Saver(Documents& documents, Opener& opener, Platform& platform, FileNumber& file_number);
+
+  // Saves and makes the path the document's file. Asks before it overwrites; what fails is told, and steps already done
+  // stay done.
+  void SaveToPath(const std::string& path, std::string_view text);
+
+  // Writes a file; the document stays as it was.
+  void SaveTextCopy(const std::string& path, std::string_view text);
+
+  // Asks for a name and writes the selected text; nothing with an empty selection.
+  void SaveSelectionAs();
+
+  // The system's save dialog, then SaveToPath.
+  void SaveStandard();
+
+  // Saves to the current path after a question of its own.
+  void SaveFast();
+
+  // The system's open dialog, then the file's first field over the selection.
+  void InsertFromFile();
+
+ private:
+  bool MayWrite(const std::string& path);
+  void Write(const std::string& path, std::string_view text);
+  void TellError(const std::string& path, int error);
+
+  Documents& documents_;
+  Opener& opener_;
+  Platform& platform_;
+  FileNumber& file_number_;
+};
+
+// The path that Ulož builds from its three fields; the dot is always there.
+std::string TargetPath(std::string_view folder, std::string_view name, std::string_view extension);
+
+// One field as the delimited read takes it: up to the first comma or line end, without blanks around it; a field that
+// begins with a double quote is taken up to the closing one, commas and line ends included.
+std::string_view FirstField(std::string_view bytes);
+
+}  // namespace pelmar

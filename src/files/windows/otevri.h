@@ -1,0 +1,32 @@
+// `Otevři`: the program's own dialog for opening a file, with folders, a mask and a preview.
+#pragma once
+
+#include <memory>
+
+#include "files/open.h"
+#include "platform/qt/controls/dialog_window.h"
+
+namespace Ui {
+class Otevri;
+}
+
+namespace pelmar {
+
+class Otevri : public DialogWindow {
+  Q_OBJECT
+
+ public:
+  Otevri(Opener& opener, Platform& platform, QWidget* parent);
+  ~Otevri() override;
+
+ private:
+  void Dir1_KeyUp(int key);
+  void File1_Click();
+  void Command1_Click();
+
+  Opener& opener_;
+  Platform& platform_;
+  std::unique_ptr<Ui::Otevri> ui_;
+};
+
+}  // namespace pelmar

@@ -1,0 +1,62 @@
+#include "files/windows/uloz.h"
+
+#include <QDir>
+
+#include "platform/qt/convert.h"
+#include "ui_uloz.h"
+
+namespace pelmar {
+
+Uloz::Uloz(Documents& documents, Saver& saver, QWidget* parent)
+    : DialogWindow(parent), documents_(documents), saver_(saver), ui_(std::make_unique<Ui::Uloz>()) {
+  ui_->setupUi(this);
+  ui_->Dir1->SetPath(QDir::currentPath());
+  ui_->File1->SetPath(ui_->Dir1->Path());
+  ui_->Drive1->SetDrive(ui_->Dir1->Path());
+  ui_->Text1->setFocus();
+  connect(ui_->Drive1, &DriveList::DriveChanged, ui_->Dir1, &FolderList::SetPath);
+  connect(ui_->Dir1, &FolderList::PathChanged, this, &Uloz::Dir1_Change);
+  connect(ui_->Dir1, &FolderList::KeyReleased, this, &Uloz::Dir1_KeyUp);
+  connect(ui_->Text1, &QLineEdit::textChanged, this, &Uloz::FieldChanged);
+  connect(ui_->Text2, &QComboBox::currentTextChanged, this, &Uloz::FieldChanged);
+  connect(ui_->Command1, &QPushButton::clicked, this, &Uloz::Command1_Click);
+  connect(ui_->Command2, &QPushButton::clicked, this, &Uloz::hide);
+  documents_.Target().on_primed = [this] { TakeTarget(); };
+  if (documents_.Target().primed) TakeTarget();
+}
+
+Uloz::~Uloz() { documents_.Target().on_primed = nullptr; }
+
+void Uloz::Dir1_Change() {
+  ui_->File1->SetPath(ui_->Dir1->Path());
+  FieldChanged();
+}
+
+void Uloz::Dir1_KeyUp(int key) {
+  ui_->File1->SetPath(ui_->Dir1->HighlightedPath());
+  if (key == Qt::Key_Return || key == Qt::Key_Enter) ui_->Dir1->SetPath(ui_->Dir1->HighlightedPath());
+}
+
+void Uloz::FieldChanged() {
+  ui_->Command1->setEnabled(true);
+  ui_->Label1->setText(Utf8ToQString(TargetPath(Utf8FromQString(ui_->Dir1->Path()), Utf8FromQString(ui_->Text1->text()),
+                                                Utf8FromQString(ui_->Text2->currentText()))));
+}
+
+void Uloz::TakeTarget() {
+  const SaveTarget& target = documents_.Target();
+  ui_->Command1->setEnabled(true);
+  ui_->Drive1->SetDrive(Utf8ToQString(target.folder));
+  ui_->Dir1->SetPath(Utf8ToQString(target.folder));
+  if (!target.complete) return;
+  ui_->Text1->setText(Utf8ToQString(target.name));
+  ui_->Text2->setCurrentText(Utf8ToQString(target.extension));
+  ui_->Label1->setText(Utf8ToQString(target.label));
+}
+
+void Uloz::Command1_Click() {
+  saver_.SaveToPath(Utf8FromQString(ui_->Label1->text()), documents_.Text().Text());
+  hide();
+}
+
+}  // namespace pelmar

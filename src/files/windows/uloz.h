@@ -1,0 +1,35 @@
+// `Ulož`: the program's own dialog for saving, a live preview of the target path. It remembers the last file: each
+// open, each save and each switch to a tab with a path primes it.
+#pragma once
+
+#include <memory>
+
+#include "files/save.h"
+#include "platform/qt/controls/dialog_window.h"
+
+namespace Ui {
+class Uloz;
+}
+
+namespace pelmar {
+
+class Uloz : public DialogWindow {
+  Q_OBJECT
+
+ public:
+  Uloz(Documents& documents, Saver& saver, QWidget* parent);
+  ~Uloz() override;
+
+ private:
+  void Dir1_Change();
+  void Dir1_KeyUp(int key);
+  void FieldChanged();
+  void Command1_Click();
+  void TakeTarget();
+
+  Documents& documents_;
+  Saver& saver_;
+  std::unique_ptr<Ui::Uloz> ui_;
+};
+
+}  // namespace pelmar

@@ -1,0 +1,82 @@
+#include "html/insert.h"
+
+#include <cstddef>
+
+#include "text/codepage.h"
+
+namespace pelmar {
+namespace {
+
+constexpr TagWrapper kTagWrappers[] = {
+    {"mnuBold", "<B>", "</B>", "<B>Tučně</B>"_w},
+    {"mnuHtmlI", "<I>", "</I>", "<I>Kurzívou</I>"_w},
+    {"mnuHTMLU", "<U>", "</U>", "<U>Podtrženě</U>"_w},
+    {"mnustrike", "<STRIKE>", "</STRIKE>", "<STRIKE>Přeškrtnutě</STRIKE>"_w},
+    {"mnuhttpbig", "<BIG>", "</BIG>", "<BIG>Velké</BIG>"_w},
+    {"mnusmaal", "<SMALL>", "</SMALL>", "<SMALL>Malé</SMALL>"_w},
+    {"mnu_strong", "<STRONG>", "</STRONG>", "<STRONG>Silně</STRONG>"_w},
+    {"mnusup", "<SUP>", "</SUP>", "<SUP>Horní index</SUP>"_w},
+    {"mnusub", "<SUB>", "</SUB>", "<SUB>Dolní index</SUB>"_w},
+    {"mnutt", "<TT>", "</TT>", "<TT>Pevná šířka znaků</TT>"_w},
+    {"mnucite", "<CITE>", "</CITE>", "<CITE>Citát</CITE>"_w},
+    {"mnuadress", "<ADDRESS>", "</ADDRESS>", "<ADDRESS>http://www.pohádka.cz</ADDRESS>"_w},
+    {"mnucenter", "<CENTER>", "</CENTER>", "<CENTER> Centrovaný text </CENTER>"_w},
+    {"mnupre", "<PRE> ", " </PRE>", "<PRE> Předformátovaný text </PRE>"_w},
+    {"mnucitetext", "<BLOCKQUOTE> ", " </BLOCKQUOTE>", "<BLOCKQUOTE> Citovaný text </BLOCKQUOTE>"_w},
+    {"mnuhtml_fno", "<NOFRAMES>", "</NOFRAMES>", "<NOFRAMES>rámce nejsou viditelné</NOFRAMES>"_w},
+    {"Bold", "<B>", "</B>", "<B>Tučně</B>"_w},
+    {"Italic", "<I>", "</I>", "<I>Kurzívou</I>"_w},
+    {"Underline", "<U>", "</U>", "<U>Podtrženě</U>"_w},
+    // required: the toolbar's sample has no inner blanks, the menu's has
+    {"Center", "<CENTER>", "</CENTER>", "<CENTER>Centrovaný text</CENTER>"_w},
+};
+
+constexpr FixedInsert kFixedInserts[] = {
+    {"mnubr", "<BR>"},         {"MnuHTMLeft", "&lt;"}, {"MnuHTMLright", "&gt;"}, {"mnuHTMLAnd", "&amp;"},
+    {"MnuHTMLnobr", "&nbsp;"}, {"mnuand", "&"},        {"mnudolar", "$"},        {"mnucross", "#"},
+    {"mnuSS", "ß"_w},          {"mnuZav", "@"},        {"mnubackslash", "\\"},   {"mnucop", "©"_w},
+    {"mnureg", "®"_w},         {"mnutm", "™"_w},
+};
+
+// A number of at least `width` digits.
+std::string Digits(int number, std::size_t width) {
+  std::string digits = std::to_string(number);
+  return digits.size() < width ? std::string(width - digits.size(), '0') + digits : digits;
+}
+
+}  // namespace
+
+void ReplaceSelection(TextBuffer& box, std::string_view text) { box.ReplaceSelection(text); }
+
+void InsertAtCaret(TextBuffer& box, std::string_view text) {
+  box.SetSelLength(0);
+  box.ReplaceSelection(text);
+}
+
+void WrapSelection(TextBuffer& box, std::string_view open, std::string_view close, std::string_view sample) {
+  if (!box.HasSelection()) {
+    box.ReplaceSelection(sample);
+    return;
+  }
+  std::string text(open);
+  text += box.SelText();
+  text += close;
+  box.ReplaceSelection(text);
+}
+
+std::span<const TagWrapper> TagWrappers() { return kTagWrappers; }
+std::span<const FixedInsert> FixedInserts() { return kFixedInserts; }
+
+std::string DateText(const LocalTime& time) {
+  return Digits(time.month, 2) + "-" + Digits(time.day, 2) + "-" + Digits(time.year, 4);
+}
+
+std::string TimeText(const LocalTime& time) {
+  return Digits(time.hour, 2) + ":" + Digits(time.minute, 2) + ":" + Digits(time.second, 2);
+}
+
+std::string EmailText(const SettingsRecord& settings) {
+  return "\"" + settings.UserName + "\" <" + settings.UserEmail + ">";
+}
+
+}  // namespace pelmar

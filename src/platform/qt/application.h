@@ -1,0 +1,21 @@
+// The application object: the program's own rather than the toolkit's answer to an error that no command caught.
+#pragma once
+
+#include <QApplication>
+#include <functional>
+
+#include "shell/common.h"
+
+namespace pelmar {
+
+class Application : public QApplication {
+ public:
+  using QApplication::QApplication;
+
+  bool notify(QObject* receiver, QEvent* event) override;
+
+  // Called with a RuntimeError that no handler of the program caught; doesn't return.
+  std::function<void(const RuntimeError&)> on_runtime_error;
+};
+
+}  // namespace pelmar

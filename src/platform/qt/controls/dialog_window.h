@@ -1,0 +1,27 @@
+// The base of the program's own dialogs: modeless unless executed, centred on the screen when first shown, and only
+// hidden on closing, so that the fields keep what they hold for the whole run. The form's property `cancelButton` names
+// the button that Escape presses; without one Escape closes the window as its system button does.
+#pragma once
+
+#include <QDialog>
+
+namespace pelmar {
+
+class DialogWindow : public QDialog {
+  Q_OBJECT
+
+ public:
+  explicit DialogWindow(QWidget* parent);
+
+  // Shows the window, or brings it to the front where it is on show already.
+  void Present();
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  bool centred_ = false;
+};
+
+}  // namespace pelmar

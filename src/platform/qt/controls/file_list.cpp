@@ -1,0 +1,123 @@
+#include "platform/qt/controls/file_list.h"
+
+#include <QAbstractListModel>
+#include <QDir>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QMetaMethod>
+#include <QScopedValueRollback>
+
+#include "platform/qt/folder_entries.h"
+
+namespace pelmar {
+
+class FileNames : public QAbstractListModel {
+ public:
+  using QAbstractListModel::QAbstractListModel;
+
+  void Show(QStringList names) {
+    beginResetModel();
+    names_ = std::move(names);
+    endResetModel();
+  }
+
+  [[nodiscard]] QModelIndex IndexOf(const QString& name) const {
+    return name.isEmpty() ? QModelIndex() : index(static_cast<int>(names_.indexOf(name)), 0);
+  }
+
+  [[nodiscard]] int rowCount(const QModelIndex& parent) const override {
+    return parent.isValid() ? 0 : static_cast<int>(names_.size());
+  }
+
+  [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override {
+    if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::ToolTipRole)) return {};
+    return names_[index.row()];
+  }
+
+ private:
+  QStringList names_;
+};
+
+FileList::FileList(QWidget* parent)
+    : QListView(parent), names_(new FileNames(this)), path_(QDir::currentPath()), pattern_(QStringLiteral("*.*")) {
+  setModel(names_);
+  setUniformItemSizes(true);
+  setEditTriggers(NoEditTriggers);
+  connect(this, &QListView::clicked, this, [this] {
+    if (!click_told_) Q_EMIT FileClicked();
+  });
+  connect(this, &QListView::doubleClicked, this, &FileList::FileActivated);
+  Fill({});
+}
+
+void FileList::SetPath(const QString& path) {
+  if (path.isEmpty()) return;
+  const QString clean = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+  if (!IsReadableFolder(clean)) return;
+  const bool changed = clean != path_;
+  path_ = clean;
+  Fill(changed ? QString() : FileName());
+  if (changed) Q_EMIT PathChanged(path_);
+}
+
+void FileList::SetPattern(const QString& pattern) {
+  const bool changed = pattern != pattern_;
+  pattern_ = pattern;
+  Fill(FileName());
+  if (changed) Q_EMIT PatternChanged(pattern_);
+}
+
+// By the selection: the view makes a row current that nobody chose when it comes into focus.
+QString FileList::FileName() const {
+  const QModelIndexList rows = selectionModel()->selectedIndexes();
+  return rows.isEmpty() ? QString() : rows.constFirst().data().toString();
+}
+
+void FileList::SetFileName(const QString& name) {
+  const QScopedValueRollback<bool> by_program(by_program_, true);
+  const QModelIndex row = names_->IndexOf(name);
+  if (!row.isValid()) return clearSelection();
+  selectionModel()->setCurrentIndex(row, QItemSelectionModel::ClearAndSelect);
+}
+
+void FileList::Fill(const QString& selected) {
+  const QScopedValueRollback<bool> by_program(by_program_, true);
+  names_->Show(FilesOf(path_, pattern_));
+  SetFileName(selected);
+}
+
+void FileList::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+  QListView::selectionChanged(selected, deselected);
+  if (by_program_ || selected.isEmpty()) return;
+  click_told_ = true;
+  Q_EMIT FileClicked();
+}
+
+void FileList::mousePressEvent(QMouseEvent* event) {
+  click_told_ = false;
+  QListView::mousePressEvent(event);
+}
+
+void FileList::mouseDoubleClickEvent(QMouseEvent* event) {
+  // Its release would count as one click more, when whoever listened has long acted.
+  click_told_ = true;
+  QListView::mouseDoubleClickEvent(event);
+}
+
+void FileList::keyPressEvent(QKeyEvent* event) {
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (!enter) return QListView::keyPressEvent(event);
+  if (FileName().isEmpty() || !isSignalConnected(QMetaMethod::fromSignal(&FileList::FileActivated))) {
+    event->ignore();
+    return;
+  }
+  event->accept();
+  Q_EMIT FileActivated();
+}
+
+void FileList::showEvent(QShowEvent* event) {
+  QListView::showEvent(event);
+  if (!event->spontaneous()) Fill(FileName());
+}
+
+}  // namespace pelmar

@@ -1,0 +1,59 @@
+// The file list of the file browser dialogs: the names of a folder's files that match a mask.
+// Setting a property is the program's doing and raises no click; FileClicked and FileActivated are the person's.
+#pragma once
+
+#include <QListView>
+
+namespace pelmar {
+
+class FileNames;
+
+class FileList : public QListView {
+  Q_OBJECT
+  Q_PROPERTY(QString Path READ Path WRITE SetPath NOTIFY PathChanged)
+  Q_PROPERTY(QString Pattern READ Pattern WRITE SetPattern NOTIFY PatternChanged)
+  Q_PROPERTY(QString FileName READ FileName WRITE SetFileName)
+
+ public:
+  // Begins at the current folder of the process, with "*.*".
+  explicit FileList(QWidget* parent = nullptr);
+
+  // Absolute, without "/" at the end (but for the root itself).
+  [[nodiscard]] const QString& Path() const { return path_; }
+  // A path that isn't a readable folder changes nothing. A new path selects nothing; the same one reads the folder
+  // anew.
+  void SetPath(const QString& path);
+
+  [[nodiscard]] const QString& Pattern() const { return pattern_; }
+  // Masks as MatchesMask takes them. The selection stays where the file still shows.
+  void SetPattern(const QString& pattern);
+
+  // The selected file's name, "" where none is. Writing a name that isn't in the list selects nothing.
+  [[nodiscard]] QString FileName() const;
+  void SetFileName(const QString& name);
+
+ Q_SIGNALS:
+  void PathChanged(const QString& path);
+  void PatternChanged(const QString& pattern);
+  // A file was clicked (again), or selected with the keyboard.
+  void FileClicked();
+  // Double click or Enter. Where nobody listens, Enter goes on to the dialog's default button.
+  void FileActivated();
+
+ protected:
+  void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  void Fill(const QString& selected);
+
+  FileNames* names_;
+  QString path_, pattern_;
+  bool by_program_ = false;
+  bool click_told_ = false;  // by the change of the selection that the press at hand made
+};
+
+}  // namespace pelmar

@@ -1,0 +1,108 @@
+#include "platform/qt/dialogs.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QPointer>
+
+namespace pelmar {
+namespace {
+
+// A dialog is its window's child, and dies with it should that close while the dialog waits.
+template <typename Dialog>
+class Asking {
+ public:
+  Asking() : dialog_(new Dialog(QApplication::activeWindow())) {}
+  Asking(const Asking&) = delete;
+  Asking& operator=(const Asking&) = delete;
+  ~Asking() { delete dialog_.data(); }
+  Dialog* operator->() const { return dialog_.data(); }
+  [[nodiscard]] bool Accepted() {
+    const int result = dialog_->exec();
+    return !dialog_.isNull() && result == QDialog::Accepted;
+  }
+
+ private:
+  QPointer<Dialog> dialog_;
+};
+
+QMessageBox::Icon IconOf(MessageType type) {
+  switch (type) {
+    case MessageType::kYesNoWarning:
+      return QMessageBox::Warning;
+    case MessageType::kYesNoStop:
+      return QMessageBox::Critical;
+    case MessageType::kOkInfo:
+      return QMessageBox::Information;
+    default:
+      return QMessageBox::NoIcon;
+  }
+}
+
+}  // namespace
+
+Answer ShowMessage(MessageType type, const QString& text, const QString& title) {
+  const bool question = type == MessageType::kYesNoWarning || type == MessageType::kYesNoStop;
+  const QPointer<QMessageBox> box = new QMessageBox(QApplication::activeWindow());
+  box->setWindowTitle(title);
+  box->setTextFormat(Qt::PlainText);
+  box->setText(text);
+  box->setIcon(IconOf(type));
+  if (question) {
+    box->setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    box->setDefaultButton(type == MessageType::kYesNoWarning ? QMessageBox::Yes : QMessageBox::No);
+    box->setEscapeButton(QMessageBox::No);
+  } else {
+    box->setStandardButtons(QMessageBox::Ok);
+  }
+  const int button = box->exec();
+  delete box.data();
+  if (!question) return Answer::kOk;
+  return button == QMessageBox::Yes ? Answer::kYes : Answer::kNo;
+}
+
+std::optional<QString> AskForText(const QString& prompt, const QString& title, const QString& initial) {
+  Asking<QInputDialog> dialog;
+  dialog->setWindowTitle(title);
+  dialog->setLabelText(prompt);
+  dialog->setTextValue(initial);
+  if (!dialog.Accepted()) return std::nullopt;
+  return dialog->textValue();
+}
+
+QStringList NameFilters(const QString& filter) {
+  const QStringList parts = filter.split(u'|');
+  QStringList result;
+  for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+    QStringList patterns = parts[i + 1].split(u';', Qt::SkipEmptyParts);
+    // Here a name needs no full stop.
+    for (QString& pattern : patterns)
+      if ((pattern = pattern.trimmed()) == QLatin1String("*.*")) pattern = QStringLiteral("*");
+    result += parts[i] + QStringLiteral(" (") + patterns.join(u' ') + u')';
+  }
+  return result;
+}
+
+std::optional<QString> AskForFile(FileDialogKind kind, const QString& filter, int filter_index, QString& folder) {
+  const QStringList filters = NameFilters(filter);
+  Asking<QFileDialog> dialog;
+  if (!folder.isEmpty()) dialog->setDirectory(folder);
+  // The captions name their patterns themselves.
+  dialog->setOption(QFileDialog::HideNameFilterDetails);
+  if (kind == FileDialogKind::kSave) {
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setFileMode(QFileDialog::AnyFile);
+    dialog->setOption(QFileDialog::DontConfirmOverwrite);
+  } else {
+    dialog->setFileMode(QFileDialog::ExistingFile);
+  }
+  dialog->setNameFilters(filters);
+  if (filter_index >= 1 && filter_index <= filters.size()) dialog->selectNameFilter(filters[filter_index - 1]);
+  if (!dialog.Accepted() || dialog->selectedFiles().isEmpty()) return std::nullopt;
+  const QString path = dialog->selectedFiles().constFirst();
+  folder = QFileInfo(path).path();
+  return path;
+}
+
+}  // namespace pelmar

@@ -1,0 +1,145 @@
+#include "platform/qt/folder_entries.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <mntent.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QCollatorSortKey>
+#include <QDir>
+#include <QFile>
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <functional>
+#include <memory>
+#include <utility>
+#include <vector>
+
+#include "platform/qt/czech_collation.h"
+
+namespace pelmar {
+namespace {
+
+bool MatchesOne(QStringView name, QStringView mask) {
+  qsizetype at = 0, in_mask = 0, star = -1, behind_star = 0;
+  while (at < name.size()) {
+    const QChar wanted = in_mask < mask.size() ? mask[in_mask] : QChar();
+    if (wanted == u'*') {
+      star = in_mask++;
+      behind_star = at;
+    } else if (in_mask < mask.size() && (wanted == u'?' || wanted.toCaseFolded() == name[at].toCaseFolded())) {
+      ++in_mask;
+      ++at;
+    } else if (star >= 0) {
+      in_mask = star + 1;
+      at = ++behind_star;
+    } else {
+      return false;
+    }
+  }
+  while (in_mask < mask.size() && mask[in_mask] == u'*') ++in_mask;
+  return in_mask == mask.size();
+}
+
+bool LiesInHidden(const QString& path) { return path.contains(QLatin1String("/.")); }
+
+// Kind by the folder's own entry; only for a link, or where the file system keeps no kinds, the file is looked at.
+mode_t KindOf(int folder, const dirent& entry) {
+  if (entry.d_type == DT_DIR) return S_IFDIR;
+  if (entry.d_type == DT_REG) return S_IFREG;
+  if (entry.d_type != DT_LNK && entry.d_type != DT_UNKNOWN) return 0;
+  struct stat state {};
+  return fstatat(folder, entry.d_name, &state, 0) == 0 ? state.st_mode & S_IFMT : 0;
+}
+
+QStringList NamesOf(const QString& path, mode_t kind, const std::function<bool(const QString&)>& wanted) {
+  const std::unique_ptr<DIR, int (*)(DIR*)> folder(opendir(QFile::encodeName(path).constData()), &closedir);
+  if (!folder) return {};
+  const QCollator collator = CzechCollator();
+  std::vector<std::pair<QCollatorSortKey, QString>> names;
+  while (const dirent* entry = readdir(folder.get())) {
+    const std::string_view name = entry->d_name;
+    if (name == "." || name == "..") continue;
+    QString decoded = QFile::decodeName(entry->d_name);
+    if (!wanted(decoded) || KindOf(dirfd(folder.get()), *entry) != kind) continue;
+    names.emplace_back(collator.sortKey(decoded), std::move(decoded));
+  }
+  std::sort(names.begin(), names.end(), [](const auto& left, const auto& right) {
+    const int order = left.first.compare(right.first);
+    return order != 0 ? order < 0 : left.second < right.second;
+  });
+  QStringList result;
+  result.reserve(static_cast<qsizetype>(names.size()));
+  for (auto& name : names) result.append(std::move(name.second));
+  return result;
+}
+
+bool IsWithin(const QString& path, const QString& place) {
+  return path == place || path.startsWith(place.endsWith(u'/') ? place : place + u'/');
+}
+
+}  // namespace
+
+QStringList SplitMask(const QString& mask) {
+  QStringList masks;
+  for (const QString& part : mask.split(u';', Qt::SkipEmptyParts))
+    if (const QString one = part.trimmed(); !one.isEmpty()) masks.append(one);
+  return masks;
+}
+
+bool MatchesMask(QStringView name, const QStringList& masks) {
+  return masks.isEmpty() || std::any_of(masks.begin(), masks.end(), [&](const QString& mask) {
+           return mask == QLatin1String("*.*") || MatchesOne(name, mask);
+         });
+}
+
+bool IsReadableFolder(const QString& path) {
+  struct stat state {};
+  const QByteArray native = QFile::encodeName(path);
+  return stat(native.constData(), &state) == 0 && S_ISDIR(state.st_mode) &&
+         faccessat(AT_FDCWD, native.constData(), R_OK | X_OK, AT_EACCESS) == 0;
+}
+
+QStringList SubfoldersOf(const QString& path) {
+  const bool with_hidden = LiesInHidden(path);
+  return NamesOf(path, S_IFDIR, [&](const QString& name) { return with_hidden || !name.startsWith(u'.'); });
+}
+
+QStringList FilesOf(const QString& path, const QString& mask) {
+  const QStringList masks = SplitMask(mask);
+  const bool with_hidden =
+      LiesInHidden(path) || std::any_of(masks.begin(), masks.end(), [](const auto& m) { return m.startsWith(u'.'); });
+  return NamesOf(path, S_IFREG, [&](const QString& name) {
+    return (with_hidden || !name.startsWith(u'.')) && MatchesMask(name, masks);
+  });
+}
+
+QStringList MountedPlaces(const QString& home, const QString& mounts) {
+  QStringList volumes;
+  const std::unique_ptr<FILE, int (*)(FILE*)> table(setmntent(QFile::encodeName(mounts).constData(), "re"), &endmntent);
+  std::array<char, 8192> line{};
+  mntent entry{};
+  while (table && getmntent_r(table.get(), &entry, line.data(), static_cast<int>(line.size())) != nullptr) {
+    const QString place = QFile::decodeName(entry.mnt_dir);
+    for (const char* usual : {"/media", "/run/media", "/mnt"})
+      if (IsWithin(place, QLatin1String(usual))) volumes.append(place);
+  }
+  QCollator collator = CzechCollator();
+  std::sort(volumes.begin(), volumes.end(), collator);
+  QStringList places{home, QStringLiteral("/")};
+  places += volumes;
+  places.removeDuplicates();
+  return places;
+}
+
+QString PlaceOf(const QString& path, const QStringList& places) {
+  const QString clean = QDir::cleanPath(path);
+  QString best;
+  for (const QString& place : places)
+    if (IsWithin(clean, place) && place.size() > best.size()) best = place;
+  return best;
+}
+
+}  // namespace pelmar

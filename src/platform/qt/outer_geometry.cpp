@@ -1,0 +1,66 @@
+#include "platform/qt/outer_geometry.h"
+
+#include <QScreen>
+#include <QWidget>
+#include <QWindow>
+#include <algorithm>
+
+namespace pelmar {
+namespace {
+
+// Asked of the system window, because the widget's own notion of its frame can be that of before the mapping.
+QMargins Frame(const QWidget& window) {
+  const QWindow* handle = window.windowHandle();
+  return handle != nullptr && window.isVisible() ? handle->frameMargins() : QMargins();
+}
+
+QRect Outer(const QWidget& window) {
+  if (!window.isVisible()) return {window.pos(), window.size()};
+  return window.geometry().marginsAdded(Frame(window));
+}
+
+void MoveOuter(QWidget& window, QPoint top_left) {
+  if (window.isVisible() && window.windowHandle() != nullptr) return window.windowHandle()->setFramePosition(top_left);
+  window.move(top_left);
+}
+
+}  // namespace
+
+TwipsRect OuterGeometry(const QWidget& window) {
+  const QRect outer = Outer(window);
+  return {TwipsOf(outer.left()), TwipsOf(outer.top()), TwipsOf(outer.width()), TwipsOf(outer.height())};
+}
+
+void SetOuterLeft(QWidget& window, int twips) { MoveOuter(window, {PixelsOf(twips), Outer(window).top()}); }
+void SetOuterTop(QWidget& window, int twips) { MoveOuter(window, {Outer(window).left(), PixelsOf(twips)}); }
+
+void SetOuterWidth(QWidget& window, int twips) {
+  const QMargins frame = Frame(window);
+  window.resize(PixelsOf(twips) - frame.left() - frame.right(), window.height());
+}
+
+void SetOuterHeight(QWidget& window, int twips) {
+  const QMargins frame = Frame(window);
+  window.resize(window.width(), PixelsOf(twips) - frame.top() - frame.bottom());
+}
+
+QSize ScreenTwips(const QWidget& window) {
+  const QSize size = window.screen()->size();
+  return {TwipsOf(size.width()), TwipsOf(size.height())};
+}
+
+void CentreOnScreen(QWidget& window) {
+  const QRect screen = window.screen()->availableGeometry();
+  QRect outer(QPoint(), Outer(window).size());
+  outer.moveCenter(screen.center());
+  // A window larger than the screen keeps its title bar on it.
+  MoveOuter(window, {std::max(outer.left(), screen.left()), std::max(outer.top(), screen.top())});
+}
+
+void SetAlwaysOnTop(QWidget& window, bool on_top) {
+  // The widget's own call would hide a window on show; the system window's doesn't.
+  if (window.windowHandle() != nullptr) return window.windowHandle()->setFlag(Qt::WindowStaysOnTopHint, on_top);
+  window.setWindowFlag(Qt::WindowStaysOnTopHint, on_top);
+}
+
+}  // namespace pelmar

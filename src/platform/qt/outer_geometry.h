@@ -1,0 +1,26 @@
+// Outer places and sizes of windows in twips, with the window manager's frame, and the stacking order. Before a window
+// is mapped its frame is unknown and counts as nothing; a position set then is still the frame's.
+#pragma once
+
+#include <QSize>
+
+#include "shell/window_geometry.h"
+
+class QWidget;
+
+namespace pelmar {
+
+TwipsRect OuterGeometry(const QWidget& window);
+void SetOuterLeft(QWidget& window, int twips);
+void SetOuterTop(QWidget& window, int twips);
+void SetOuterWidth(QWidget& window, int twips);
+void SetOuterHeight(QWidget& window, int twips);
+
+// The whole screen that the window is on.
+QSize ScreenTwips(const QWidget& window);
+void CentreOnScreen(QWidget& window);
+
+// Keeps the window above all others, or no longer. A window on show stays so, without a flicker.
+void SetAlwaysOnTop(QWidget& window, bool on_top);
+
+}  // namespace pelmar

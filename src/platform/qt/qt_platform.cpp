@@ -1,0 +1,124 @@
+#include "platform/qt/qt_platform.h"
+
+#include <unistd.h>
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileInfo>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QUrl>
+#include <chrono>
+
+#include "platform/qt/convert.h"
+#include "platform/qt/dialogs.h"
+#include "platform/qt/disk_file.h"
+#include "platform/qt/install_folder.h"
+
+namespace pelmar {
+namespace {
+
+QString DataHome() { return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation); }
+
+std::optional<std::string> ToUtf8(const std::optional<QString>& answer) {
+  if (!answer) return std::nullopt;
+  return Utf8FromQString(*answer);
+}
+
+}  // namespace
+
+QtPlatform::QtPlatform() : recent_(DataHome() + QStringLiteral("/recently-used.xbel")) {}
+
+Answer QtPlatform::Message(MessageType type, std::string_view text, std::string_view title) {
+  const BusyPointer::Lift lift(pointer_);
+  return ShowMessage(type, Utf8ToQString(text), Utf8ToQString(title));
+}
+
+std::optional<std::string> QtPlatform::InputBox(std::string_view prompt, std::string_view title,
+                                                std::string_view initial) {
+  const BusyPointer::Lift lift(pointer_);
+  return ToUtf8(AskForText(Utf8ToQString(prompt), Utf8ToQString(title), Utf8ToQString(initial)));
+}
+
+std::optional<std::string> QtPlatform::OpenDialog(std::string_view filter, int filter_index) {
+  const BusyPointer::Lift lift(pointer_);
+  return ToUtf8(AskForFile(FileDialogKind::kOpen, Utf8ToQString(filter), filter_index, dialog_folder_));
+}
+
+std::optional<std::string> QtPlatform::SaveDialog(std::string_view filter, int filter_index) {
+  const BusyPointer::Lift lift(pointer_);
+  return ToUtf8(AskForFile(FileDialogKind::kSave, Utf8ToQString(filter), filter_index, dialog_folder_));
+}
+
+std::string QtPlatform::ClipboardText() { return clipboard_.Text().value_or(std::string()); }
+
+bool QtPlatform::ClipboardHasText() { return clipboard_.Text().has_value(); }
+
+void QtPlatform::SetClipboardText(std::string_view text) { clipboard_.SetText(text); }
+
+void QtPlatform::ClearClipboard() { clipboard_.Clear(); }
+
+bool QtPlatform::CanRead(const std::string& path) { return CanReadFile(path); }
+
+FileBytes QtPlatform::ReadFile(const std::string& path, std::optional<std::uint64_t> limit) {
+  return ReadWholeFile(path, limit);
+}
+
+int QtPlatform::WriteFile(const std::string& path, std::string_view bytes) { return ReplaceFile(path, bytes); }
+
+bool QtPlatform::RemoveFile(const std::string& path) { return unlink(path.c_str()) == 0; }
+
+std::string QtPlatform::InstallFolder() {
+  if (install_folder_.empty())
+    install_folder_ = Utf8FromQString(FindInstallFolder(QCoreApplication::applicationDirPath(), DataHome()));
+  return install_folder_;
+}
+
+std::string QtPlatform::TempFolder() {
+  const QString folder = QDir::tempPath();
+  return Utf8FromQString(folder.endsWith(u'/') ? folder : folder + u'/');
+}
+
+void QtPlatform::AddToRecentDocuments(const std::string& path) {
+  recent_.Add(QDir::cleanPath(QFileInfo(Utf8ToQString(path)).absoluteFilePath()));
+}
+
+bool QtPlatform::OpenWithDefaultProgram(const std::string& path) {
+  return QDesktopServices::openUrl(QUrl::fromLocalFile(Utf8ToQString(path)));
+}
+
+bool QtPlatform::StartAnotherCopy() {
+  return QProcess::startDetached(QCoreApplication::applicationFilePath(), {}, Utf8ToQString(InstallFolder()));
+}
+
+LocalTime QtPlatform::Now() {
+  const QDateTime now = QDateTime::currentDateTime();
+  const QDate date = now.date();
+  const QTime time = now.time();
+  return {date.year(), date.month(), date.day(), time.hour(), time.minute(), time.second()};
+}
+
+KeyStates QtPlatform::Keys() {
+  const LockKeys lock = ReadLockKeys();
+  return {.caps = lock.caps, .num = lock.num, .insert = insert_.IsOn()};
+}
+
+double QtPlatform::Random() { return static_cast<double>(random_()) / 4294967296.0; }
+
+void QtPlatform::ReseedRandom() {
+  const auto ticks = static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count());
+  std::seed_seq seed{static_cast<std::uint32_t>(ticks), static_cast<std::uint32_t>(ticks >> 32)};
+  random_.seed(seed);
+}
+
+int QtPlatform::CompareText(std::string_view left, std::string_view right) {
+  return collator_.compare(TextToQString(left), TextToQString(right));
+}
+
+void QtPlatform::SetBusyPointer(bool busy) { pointer_.Set(busy); }
+
+void QtPlatform::FinishBackgroundWork() { recent_.Wait(); }
+
+}  // namespace pelmar

@@ -1,0 +1,67 @@
+// The program's answer to the platform interface. It lives on the interface thread, from the application object's
+// making until before its end; the work itself lies in the small files beside this one.
+#pragma once
+
+#include <optional>
+#include <random>
+#include <string>
+#include <string_view>
+
+#include "platform/platform.h"
+#include "platform/qt/busy_pointer.h"
+#include "platform/qt/clipboard.h"
+#include "platform/qt/czech_collation.h"
+#include "platform/qt/key_states.h"
+#include "platform/qt/recent_documents.h"
+
+namespace pelmar {
+
+class QtPlatform : public Platform {
+ public:
+  QtPlatform();
+
+  Answer Message(MessageType type, std::string_view text, std::string_view title) override;
+  std::optional<std::string> InputBox(std::string_view prompt, std::string_view title,
+                                      std::string_view initial) override;
+  std::optional<std::string> OpenDialog(std::string_view filter, int filter_index) override;
+  std::optional<std::string> SaveDialog(std::string_view filter, int filter_index) override;
+
+  std::string ClipboardText() override;
+  bool ClipboardHasText() override;
+  void SetClipboardText(std::string_view text) override;
+  void ClearClipboard() override;
+
+  bool CanRead(const std::string& path) override;
+  FileBytes ReadFile(const std::string& path, std::optional<std::uint64_t> limit) override;
+  int WriteFile(const std::string& path, std::string_view bytes) override;
+  bool RemoveFile(const std::string& path) override;
+
+  std::string InstallFolder() override;
+  std::string TempFolder() override;
+
+  void AddToRecentDocuments(const std::string& path) override;
+  bool OpenWithDefaultProgram(const std::string& path) override;
+  bool StartAnotherCopy() override;
+
+  LocalTime Now() override;
+  KeyStates Keys() override;
+  double Random() override;
+  void ReseedRandom() override;
+  int CompareText(std::string_view left, std::string_view right) override;
+  void SetBusyPointer(bool busy) override;
+
+  // For an end of the program that skips destructors.
+  void FinishBackgroundWork();
+
+ private:
+  BusyPointer pointer_;
+  Clipboard clipboard_;
+  InsertKey insert_;
+  QCollator collator_ = CzechCollator();
+  RecentDocuments recent_;
+  std::string install_folder_;
+  QString dialog_folder_;  // where the last file dialog of this run ended
+  std::mt19937 random_{std::random_device{}()};
+};
+
+}  // namespace pelmar

@@ -1,0 +1,103 @@
+#include "shell/documents.h"
+
+#include <utility>
+
+#include "shell/common.h"
+
+namespace pelmar {
+
+Documents::Documents(TextBuffer& text) : text_(text), title_("Pelmar VEX ()") {
+  text_.OnChange([this](const TextChange&) { TextChanged(); });
+}
+
+void Documents::LeaveTab() {
+  Current().Text = text_.Text();
+  Current().Path = current_path_;
+  // required: only ever set here; saving, opening and a new document take it back
+  if (Marked()) Current().Modified = true;
+}
+
+void Documents::EnterTab(int entered) {
+  selected_ = entered;
+  // required: the change that this raises still sees the path of the tab that was left, and writes it into the slot
+  text_.SetText(std::string(Current().Text));
+  current_path_ = faces_[Index(entered)].ToolTipText;
+  ShowPathInTitle();
+  // Only a document that a rescue brought back can have a name that Prime refuses.
+  if (!current_path_.empty() && HasExtension(current_path_)) target_.Prime(current_path_);
+  if (Current().Modified) SetTitle(title_ + "*");
+}
+
+void Documents::SwitchTo(int tab) {
+  if (tab == selected_) return;
+  LeaveTab();
+  EnterTab(tab);
+  if (on_selected) on_selected(tab);
+}
+
+void Documents::TextChanged() {
+  if (!Marked()) SetTitle(title_ + "*");
+  Current().Text = text_.Text();
+  Current().Path = current_path_;
+}
+
+bool Documents::IsUnsaved(int tab) const { return Slot(tab).Modified || (tab == selected_ && Marked()); }
+
+int Documents::UnsavedCount() const {
+  int count = 0;
+  for (int tab = 1; tab <= kTabCount; ++tab) count += IsUnsaved(tab) ? 1 : 0;
+  return count;
+}
+
+void Documents::ClearCurrent() {
+  SetFace({}, {});
+  Current() = {};
+  // required: the change that this raises writes the path, not yet cleared, back into the slot
+  text_.SetText({});
+  ForgetPath();
+}
+
+void Documents::ForgetPath() {
+  current_path_.clear();
+  ShowPathInTitle();
+}
+
+void Documents::Restore(int tab, std::string text, const std::string& path) {
+  SwitchTo(tab);
+  current_path_ = path;
+  if (path.empty()) {
+    SetFace({}, {});
+  } else {
+    const std::size_t name = path.find_last_of("\\/");
+    SetFace(path.substr(name == std::string::npos ? 0 : name + 1), path);
+  }
+  text_.SetText(std::move(text));
+  Current().Path = path;
+  Current().Modified = true;
+  SetTitle("Pelmar VEX (" + current_path_ + ")*");
+}
+
+void Documents::ShowPathInTitle() { SetTitle("Pelmar VEX (" + current_path_ + ")"); }
+
+void Documents::ShowPathOnTab() {
+  faces_[Index(selected_)].ToolTipText = current_path_;
+  SetFace(FilePart(current_path_, 2) + "." + FilePart(current_path_, 3), current_path_);
+}
+
+void Documents::SettleSlot() {
+  Current().Path = current_path_;
+  Current().Modified = false;
+}
+
+void Documents::SetTitle(std::string title) {
+  if (title == title_) return;
+  title_ = std::move(title);
+  if (on_title) on_title();
+}
+
+void Documents::SetFace(std::string caption, std::string tool_tip) {
+  faces_[Index(selected_)] = {std::move(caption), std::move(tool_tip)};
+  if (on_face) on_face(selected_);
+}
+
+}  // namespace pelmar

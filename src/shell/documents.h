@@ -1,0 +1,89 @@
+// The five documents over one text box: slots, the current path, the tabs' faces and the title with its mark.
+// Four places hold document state, each with its own truth, and their disagreements are required: the box holds the
+// live text, `current path` its path, a tab's tool tip the path that a switch restores, and the title's "*" the mark of
+// the current document. Tabs count from 1. Paths, captions and the title are UTF-8, texts Windows-1250.
+#pragma once
+
+#include <array>
+#include <functional>
+#include <string>
+
+#include "shell/save_target.h"
+#include "text/text_buffer.h"
+
+namespace pelmar {
+
+inline constexpr int kTabCount = 5;
+
+struct DocSlot {
+  std::string Text;
+  std::string Path;
+  bool Modified = false;  // the document that a tab switch left behind had unsaved changes
+};
+
+struct TabFace {
+  std::string Caption;      // the file's name and extension
+  std::string ToolTipText;  // the full path
+};
+
+class Documents {
+ public:
+  // Listens to the box from here on, before any view of it.
+  explicit Documents(TextBuffer& text);
+
+  // The strip's two notifications, in this order; `entered` is the newly selected tab.
+  void LeaveTab();
+  void EnterTab(int entered);
+  void SwitchTo(int tab);
+
+  [[nodiscard]] int SelectedTab() const { return selected_; }
+  [[nodiscard]] const DocSlot& Slot(int tab) const { return slots_[Index(tab)]; }
+  [[nodiscard]] const TabFace& Face(int tab) const { return faces_[Index(tab)]; }
+  [[nodiscard]] const std::string& CurrentPath() const { return current_path_; }
+  [[nodiscard]] const std::string& Title() const { return title_; }
+  [[nodiscard]] bool Marked() const { return title_.ends_with('*'); }
+  [[nodiscard]] TextBuffer& Text() { return text_; }
+  [[nodiscard]] const TextBuffer& Text() const { return text_; }
+  [[nodiscard]] SaveTarget& Target() { return target_; }
+
+  // True for a document whose changes a close would lose: the slot's flag, or the mark for the current one.
+  [[nodiscard]] bool IsUnsaved(int tab) const;
+  // The number that the question at the close tells.
+  [[nodiscard]] int UnsavedCount() const;
+
+  // Empties the current tab; the question has been answered.
+  void ClearCurrent();
+  // The start's fresh state: no path, no mark.
+  void ForgetPath();
+  // The start: the restored text counts as unchanged.
+  void ForgetFirstSlotsMark() { slots_[0].Modified = false; }
+  // A document that a crash left behind comes back into its tab, which becomes the selected one, marked as unsaved.
+  void Restore(int tab, std::string text, const std::string& path);
+
+  // Steps that opening and saving share; the order in which they are called is required.
+  void SetCurrentPath(const std::string& path) { current_path_ = path; }
+  void ShowPathInTitle();  // without "*"
+  void ShowPathOnTab();    // throws RuntimeError for a name without a full stop
+  void SettleSlot();       // the slot's path is the current one, and it isn't modified
+
+  std::function<void()> on_title;
+  std::function<void(int tab)> on_face;
+  std::function<void(int tab)> on_selected;  // told when code, not a click, selects a tab
+
+ private:
+  static std::size_t Index(int tab) { return static_cast<std::size_t>(tab - 1); }
+  DocSlot& Current() { return slots_[Index(selected_)]; }
+  void TextChanged();
+  void SetTitle(std::string title);
+  void SetFace(std::string caption, std::string tool_tip);
+
+  TextBuffer& text_;
+  std::array<DocSlot, kTabCount> slots_;
+  std::array<TabFace, kTabCount> faces_;
+  int selected_ = 1;
+  std::string current_path_;
+  std::string title_;
+  SaveTarget target_;
+};
+
+}  // namespace pelmar

@@ -1,0 +1,57 @@
+// What the start, the close and the timer ask of the main window. The window is the program's; tests have a plain one.
+// Sizes are outer ones in twips.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "shell/settings_record.h"
+#include "shell/window_geometry.h"
+
+namespace pelmar {
+
+// The look of the main text box. The font's name is Windows-1250.
+struct EditorLook {
+  std::string font_name;
+  Color fore_color = Rgb(0, 0, 0);
+  Color back_color = Rgb(255, 255, 255);
+  double font_size = 8;  // points
+  bool bold = false;
+  bool italic = false;
+};
+
+// The editor, or one accessory that runs as the whole program.
+enum class StartMode { kEditor, kCalculator, kNotes, kBrowser };
+
+class MainView {
+ public:
+  MainView() = default;
+  MainView(const MainView&) = delete;
+  MainView& operator=(const MainView&) = delete;
+  virtual ~MainView() = default;
+
+  virtual void SetPlace(const TwipsRect& place) = 0;
+  [[nodiscard]] virtual TwipsRect Place() const = 0;
+  virtual void SetWindowState(int state) = 0;  // 0 normal, 1 minimised, 2 maximised
+  [[nodiscard]] virtual int WindowState() const = 0;
+  virtual void SetAlwaysOnTop(bool on_top) = 0;
+
+  // Each sets the box and the check marks that go with it.
+  virtual void SetEditorColors(Color fore, Color back) = 0;
+  virtual void SetEditorFont(const std::string& name) = 0;
+  virtual void SetEditorFontSize(int size) = 0;  // one of the six
+  virtual void SetEditorBold(bool bold) = 0;
+  virtual void SetEditorItalic(bool italic) = 0;
+  [[nodiscard]] virtual EditorLook Look() const = 0;
+
+  virtual void ShowRecentFiles() = 0;
+  virtual void ShowConfig() = 0;  // modal
+  virtual void ShowMain() = 0;
+  virtual void ShowStart() = 0;  // instead of the main window
+  virtual void ShowAccessory(StartMode mode) = 0;
+};
+
+// The sizes that the editor's font can have; any other becomes 8.
+int EditorFontSize(int size);
+
+}  // namespace pelmar

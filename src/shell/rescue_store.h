@@ -1,0 +1,59 @@
+// Rescue files on the disk: one for each running copy, in the install folder. A copy holds a lock beside its file for
+// as long as it lives, so that no other copy takes it for abandoned; the system drops the lock of a process that dies.
+// The write is atomic. Calls come from one thread at a time; nothing here throws.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace pelmar {
+
+// A file lock that ends with the object. Empty where the lock couldn't be had.
+class FileLock {
+ public:
+  FileLock() = default;
+  explicit FileLock(const std::string& path);
+  FileLock(FileLock&& other) noexcept;
+  FileLock& operator=(FileLock&& other) noexcept;
+  ~FileLock();
+
+  [[nodiscard]] bool Held() const { return descriptor_ >= 0; }
+
+ private:
+  int descriptor_ = -1;
+};
+
+class RescueStore {
+ public:
+  // 0 or errno, as Platform::WriteFile.
+  using WriteFile = std::function<int(const std::string& path, std::string_view bytes)>;
+
+  // `folder` ends in a separator; it is used from the first Keep on.
+  RescueStore(std::string folder, WriteFile write);
+  RescueStore(const RescueStore&) = delete;
+  RescueStore& operator=(const RescueStore&) = delete;
+
+  // Puts the bytes into this copy's file; empty bytes remove it. Returns 0 or errno.
+  int Keep(std::string_view bytes);
+  // Where the file lies once bytes were kept; a copy that dies leaves it there for the next start.
+  [[nodiscard]] const std::string& Path() const { return path_; }
+
+ private:
+  std::string folder_;
+  std::string path_;
+  WriteFile write_;
+  FileLock lock_;
+};
+
+// A rescue file whose copy has died. While it is held, no other copy finds it.
+struct AbandonedRescue {
+  std::string path;
+  FileLock lock;
+};
+std::vector<AbandonedRescue> FindAbandoned(const std::string& folder);
+// Removes the file and its lock.
+void Discard(AbandonedRescue& rescue);
+
+}  // namespace pelmar

@@ -1,0 +1,25 @@
+#include "shell/save_target.h"
+
+#include "shell/common.h"
+
+namespace pelmar {
+
+void SaveTarget::Prime(const std::string& path) {
+  struct Teller {
+    SaveTarget& target;
+    ~Teller() {
+      if (target.on_primed) target.on_primed();
+    }
+  } teller{*this};
+  primed = true;
+  enabled = true;
+  complete = false;
+  drive = path.substr(0, 3);
+  folder = FilePart(path, 1);
+  name = FilePart(path, 2);
+  extension = FilePart(path, 3);
+  label = path;
+  complete = true;
+}
+
+}  // namespace pelmar

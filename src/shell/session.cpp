@@ -1,0 +1,139 @@
+#include "shell/session.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "text/codepage.h"
+
+namespace pelmar {
+namespace {
+
+constexpr std::string_view kRecoveryName = "autosave_pelmar_vex.txt";
+constexpr std::string_view kAllFilesName = "autosave_all_files.txt";
+constexpr std::string_view kSettingsName = "pelmar.ini";
+constexpr std::int32_t kAutosnapDefault = 240;
+
+}  // namespace
+
+int EditorFontSize(int size) {
+  static constexpr std::array kSizes = {8, 10, 12, 14, 17, 24};
+  return std::find(kSizes.begin(), kSizes.end(), size) == kSizes.end() ? 8 : size;
+}
+
+Session::Session(MainView& view, Documents& documents, SettingsRecord& settings, Opener& opener, Platform& platform,
+                 FileNumber& file_number)
+    : view_(view),
+      documents_(documents),
+      settings_(settings),
+      opener_(opener),
+      platform_(platform),
+      file_number_(file_number) {}
+
+void Session::Start(std::string_view tail) {
+  view_.SetEditorColors(Rgb(0, 0, 0), Rgb(255, 255, 255));
+  LoadText();
+  documents_.ForgetFirstSlotsMark();
+  LoadSettings();
+  ApplySettingsDefaults(settings_);
+  view_.ShowRecentFiles();
+  view_.SetPlace({settings_.Left, settings_.Top, settings_.Width, settings_.Height});
+  if (settings_.WindowState < 0 || settings_.WindowState > 2) settings_.WindowState = 0;
+  view_.SetWindowState(settings_.WindowState);
+  ApplyLook();
+  if (settings_.UserEmail.empty() || settings_.UserName.empty()) view_.ShowConfig();
+  if (settings_.AutosnapDistance == 0) settings_.AutosnapDistance = kAutosnapDefault;
+  view_.SetAlwaysOnTop(settings_.AlwaysOnTopFlag);
+  documents_.ForgetPath();
+  Act(tail);
+}
+
+void Session::LoadText() {
+  const std::string path = InstallPath(kRecoveryName);
+  if (opener_.FileExists(path)) {
+    // A longer file is passed over in silence and stays where it is.
+    FileBytes file = platform_.ReadFile(path, kLargestDocument + 1);
+    if (file.error != 0) throw RuntimeError(file.error, "Soubor " + path + " nelze číst");
+    if (file.bytes.size() <= kLargestDocument) documents_.Text().SetText(std::move(file.bytes));
+  }
+  if (documents_.Text().Empty() && platform_.ClipboardHasText()) documents_.Text().SetText(platform_.ClipboardText());
+}
+
+void Session::LoadSettings() {
+  const std::string path = InstallPath(kSettingsName);
+  if (!opener_.FileExists(path)) return;
+  const FileBytes file = platform_.ReadFile(path, std::nullopt);
+  if (file.error != 0) throw RuntimeError(file.error, "Soubor " + path + " nelze číst");
+  settings_ = ReadSettings(file.bytes);
+}
+
+void Session::ApplyLook() {
+  view_.SetEditorFont(settings_.FontName);
+  view_.SetEditorColors(settings_.ForeColor, settings_.BackColor);
+  SetEditorFontSize(settings_.FontSize);
+  view_.SetEditorBold(settings_.FontBold);
+  view_.SetEditorItalic(settings_.FontItalic);
+}
+
+void Session::SetEditorFontSize(int size) { view_.SetEditorFontSize(EditorFontSize(size)); }
+
+void Session::Act(std::string_view tail) {
+  const std::string upper = ToUpper(tail);
+  if (upper == "-CALC") mode_ = StartMode::kCalculator;
+  if (upper == "-NOTE") mode_ = StartMode::kNotes;
+  if (upper == "-BROWSER") mode_ = StartMode::kBrowser;
+  if (mode_ != StartMode::kEditor) return view_.ShowAccessory(mode_);
+  if (tail.empty() && settings_.ShowStart) return view_.ShowStart();
+  view_.ShowMain();
+  if (!tail.empty() && upper != "-NOMSG") opener_.OpenPath(std::string(tail));
+}
+
+bool Session::Close() {
+  Store(kRecoveryName, documents_.Text().Text());
+  Store(kAllFilesName, AllFilesText(documents_));
+  StoreSettings(true);
+  const int unsaved = documents_.UnsavedCount();
+  if (unsaved == 0) return true;
+  const std::string question = std::to_string(unsaved) + " neuložené zněněné soubory! Opravdu konec?";
+  return platform_.Message(MessageType::kYesNoWarning, question, "Konec") == Answer::kYes;
+}
+
+void Session::StoreSettings(bool with_window_state) {
+  const TwipsRect place = view_.Place();
+  settings_.Width = place.width;
+  settings_.Height = place.height;
+  settings_.Left = place.left;
+  settings_.Top = place.top;
+  if (with_window_state) settings_.WindowState = view_.WindowState();
+  const EditorLook look = view_.Look();
+  settings_.FontName = look.font_name;
+  settings_.ForeColor = look.fore_color;
+  settings_.BackColor = look.back_color;
+  settings_.FontSize = static_cast<std::uint8_t>(std::lround(std::clamp(look.font_size, 0.0, 255.0)));
+  settings_.FontBold = look.bold;
+  settings_.FontItalic = look.italic;
+  // The file isn't cut: what an older, longer record left behind the new one stays.
+  const FileBytes old = platform_.ReadFile(InstallPath(kSettingsName), std::nullopt);
+  Store(kSettingsName, OverOldTail(SettingsBytes(settings_), old.bytes));
+}
+
+void Session::Store(std::string_view name, std::string_view bytes) {
+  const std::string path = InstallPath(name);
+  file_number_.Open();
+  const int error = platform_.WriteFile(path, bytes);
+  file_number_.Close();
+  if (error != 0) throw RuntimeError(error, "Soubor " + path + " nelze zapsat");
+}
+
+std::string Session::InstallPath(std::string_view name) { return JoinPath(platform_.InstallFolder(), name); }
+
+std::string AllFilesText(const Documents& documents) {
+  std::string text;
+  for (int tab = 1; tab <= kTabCount; ++tab) {
+    const DocSlot& slot = documents.Slot(tab);
+    text += "Soubor:" + StoredPath(slot.Path) + "\r\n" + slot.Text + "\r\n\r\n";
+  }
+  return text;
+}
+
+}  // namespace pelmar

@@ -1,0 +1,53 @@
+// From the start of the process to the first edit, and from the request to close to its end. Everything that lasts is
+// read here and written here: the settings file and the two recovery files. The order of the steps is required.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "files/open.h"
+#include "shell/main_view.h"
+
+namespace pelmar {
+
+class Session {
+ public:
+  Session(MainView& view, Documents& documents, SettingsRecord& settings, Opener& opener, Platform& platform,
+          FileNumber& file_number);
+
+  // The load of the main window, up to and including what the command tail asks for.
+  void Start(std::string_view tail);
+
+  // The close of the main window. Writes the files, then asks; false when the person wants to go on. Throws
+  // RuntimeError where a file can't be written.
+  bool Close();
+
+  // Writes the settings file; both the close and the profile dialog do, the latter without the window's state.
+  void StoreSettings(bool with_window_state);
+
+  // The one way to change the editor's font size: six sizes are taken, any other becomes 8.
+  void SetEditorFontSize(int size);
+
+  [[nodiscard]] StartMode Mode() const { return mode_; }
+
+ private:
+  void LoadText();
+  void LoadSettings();
+  void ApplyLook();
+  void Act(std::string_view tail);
+  void Store(std::string_view name, std::string_view bytes);
+  std::string InstallPath(std::string_view name);
+
+  MainView& view_;
+  Documents& documents_;
+  SettingsRecord& settings_;
+  Opener& opener_;
+  Platform& platform_;
+  FileNumber& file_number_;
+  StartMode mode_ = StartMode::kEditor;
+};
+
+// "\autosave_all_files.txt": a block for each slot, empty ones too.
+std::string AllFilesText(const Documents& documents);
+
+}  // namespace pelmar

@@ -1,0 +1,56 @@
+// The program-wide record that "\pelmar.ini" keeps between runs, and its exact bytes: little-endian numbers, 16-bit
+// booleans (-1 true), strings as a 16-bit byte count and that many bytes, no signature and no padding.
+// Texts are Windows-1250. Only RecentFiles are paths (UTF-8 in memory); StoredPath says how they are kept.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "shell/common.h"
+
+namespace pelmar {
+
+struct SettingsRecord {
+  std::int32_t Width = 0;  // outer size and place of the main window, twips
+  std::int32_t Height = 0;
+  std::int32_t Top = 0;
+  std::int32_t Left = 0;
+  bool AlwaysOnTopFlag = false;
+  std::string FontName;
+  Color ForeColor = 0;
+  Color BackColor = 0;
+  std::uint8_t FontSize = 0;  // points
+  bool FontBold = false;
+  bool FontItalic = false;
+  std::string UserName;
+  std::string UserEmail;
+  bool ShowStart = false;
+  std::int32_t AutosnapDistance = 0;  // twips
+  std::string LockPassword;
+  std::array<std::string, 10> RecentFiles;  // newest first
+  std::int32_t WindowState = 0;             // 0 normal, 1 minimised, 2 maximised
+  bool LineCounting = false;
+
+  bool operator==(const SettingsRecord&) const = default;
+};
+
+// Reads the record from the start of a file's bytes. A file that ends too early reads as zero and empty from there on.
+SettingsRecord ReadSettings(std::string_view bytes);
+
+// The record's bytes. A string longer than 65,535 bytes is cut to that.
+std::string SettingsBytes(const SettingsRecord& record);
+
+// Repairs that the start makes before it uses the record: the name of the font and equal colours.
+void ApplySettingsDefaults(SettingsRecord& record);
+
+// `fresh` over the start of `old`: a file that isn't cut keeps the tail of a longer old one.
+std::string OverOldTail(std::string fresh, std::string_view old);
+
+// How a path lies in a file of Windows-1250 text: in the page where that loses nothing, else as it is in UTF-8. Reading
+// takes what is valid UTF-8 for UTF-8; a path whose page bytes would be mistaken for it is kept as UTF-8 too.
+std::string StoredPath(std::string_view path);
+std::string PathFromStored(std::string_view bytes);
+
+}  // namespace pelmar

@@ -1,0 +1,29 @@
+// What the status timer computes on each tick: the state that enables menu items and the texts of panels 1 to 4.
+// Panel texts are Windows-1250, because they show the document and the clipboard.
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "shell/menu_table.h"
+#include "text/text_buffer.h"
+
+namespace pelmar {
+
+inline constexpr int kPanelCount = 7;
+
+struct PanelTexts {
+  std::string length;    // panel 1
+  std::string position;  // panel 2
+  std::string lines;     // panel 3
+  std::string content;   // panel 4
+};
+
+// `clipboard` is nothing where the clipboard offers no plain text. Only line feeds count as lines, from 0.
+PanelTexts ComputePanels(const TextBuffer& box, bool line_counting, std::optional<std::string_view> clipboard);
+
+MenuState ComputeMenuState(const TextBuffer& box, std::string_view current_path, std::string_view clipboard);
+
+}  // namespace pelmar

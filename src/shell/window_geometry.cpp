@@ -1,0 +1,52 @@
+#include "shell/window_geometry.h"
+
+#include <numeric>
+
+namespace pelmar {
+namespace {
+
+constexpr int kTabStripWidth = 360;
+constexpr int kPanelMargin = 420;
+constexpr int kNeededMargin = 270;
+constexpr int kTextOverlap = 10;
+
+}  // namespace
+
+TwipsRect Snap(TwipsRect f, int d, int screen_width, int screen_height) {
+  // Each test is on the values as the steps before left them.
+  if (f.left + f.width - screen_width > -d && f.left < d) f.width = screen_width;
+  if (f.top + f.height - screen_height > -d && f.top < d) f.height = screen_height;
+  if (f.left < d) f.left = 0;
+  if (f.top < d) f.top = 0;
+  if (f.left + f.width - screen_width > -d) f.left = screen_width - f.width;
+  if (f.top + f.height - screen_height > -d) f.top = screen_height - f.height;
+  return f;
+}
+
+std::optional<int> SparePanelWidth(int outer_width, const std::array<int, kPanelCount>& widths) {
+  const int spare = outer_width - std::accumulate(widths.begin(), widths.end(), 0) - kPanelMargin;
+  return spare > 0 ? std::optional(spare) : std::nullopt;
+}
+
+LayoutResult ComputeLayout(const LayoutInput& in) {
+  LayoutResult out;
+  int needed = in.toolbar_height + in.bar_height + kNeededMargin;
+  const int toolbar = in.toolbar_visible ? in.toolbar_height : 0;
+  const int bar = in.bar_visible ? in.bar_height : 0;
+  out.text_top = toolbar;
+  if (in.minimised) return out;
+  if (in.tabs_visible) {
+    out.text_width = in.inner_width - kTabStripWidth;
+    out.tabs_width = in.inner_width;
+  } else {
+    out.text_width = in.inner_width;
+  }
+  out.panel4_width = SparePanelWidth(in.outer_width, in.panel_widths);
+  if (!in.toolbar_visible) needed -= in.toolbar_height;
+  if (!in.bar_visible) needed -= in.bar_height;
+  if (in.inner_height > 0 && in.inner_height < needed) out.grow_outer_height = needed - in.inner_height;
+  out.text_height = in.inner_height - toolbar - bar + kTextOverlap;
+  return out;
+}
+
+}  // namespace pelmar

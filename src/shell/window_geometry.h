@@ -1,0 +1,57 @@
+// Places and sizes of windows in twips, 15 to the logical pixel, outer sizes with the frame: snapping to the screen's
+// edges and the layout of the main window. All pure; the main window applies what comes out.
+#pragma once
+
+#include <array>
+#include <optional>
+
+#include "shell/status.h"
+
+namespace pelmar {
+
+inline constexpr int kTwipsPerPixel = 15;
+constexpr int TwipsOf(int pixels) { return pixels * kTwipsPerPixel; }
+// To the nearest whole pixel.
+constexpr int PixelsOf(int twips) { return (twips + (twips < 0 ? -7 : 7)) / kTwipsPerPixel; }
+
+struct TwipsRect {
+  int left = 0;
+  int top = 0;
+  int width = 0;
+  int height = 0;
+  bool operator==(const TwipsRect&) const = default;
+};
+
+// One tick of snapping: a window nearer than `distance` to an edge of the screen goes to it, and one that is nearly as
+// wide or high as the screen becomes just so.
+TwipsRect Snap(TwipsRect window, int distance, int screen_width, int screen_height);
+
+// The width that panel 4 takes, nothing where it keeps its own. required: the sum includes panel 4's present width, so
+// that the width alternates between two values where both are above 0.
+std::optional<int> SparePanelWidth(int outer_width, const std::array<int, kPanelCount>& widths);
+
+struct LayoutInput {
+  int outer_width = 0;
+  int inner_width = 0;
+  int inner_height = 0;
+  int toolbar_height = 0;
+  int bar_height = 0;
+  bool toolbar_visible = true;
+  bool bar_visible = true;
+  bool tabs_visible = true;
+  bool minimised = false;
+  std::array<int, kPanelCount> panel_widths{};
+};
+
+struct LayoutResult {
+  // Nothing while the window is minimised.
+  std::optional<int> text_width;
+  std::optional<int> text_height;
+  std::optional<int> tabs_width;
+  std::optional<int> panel4_width;
+  int grow_outer_height = 0;  // how much higher the window has to become for its bars
+  int text_top = 0;
+};
+LayoutResult ComputeLayout(const LayoutInput& input);
+
+}  // namespace pelmar

@@ -1,0 +1,46 @@
+#include "shell/windows/config.h"
+
+#include "platform/qt/convert.h"
+#include "ui_config.h"
+
+namespace pelmar {
+
+Config::Config(SettingsRecord& settings, Platform& platform, std::function<void()> store, QWidget* parent)
+    : DialogWindow(parent),
+      settings_(settings),
+      platform_(platform),
+      store_(std::move(store)),
+      ui_(std::make_unique<Ui::Config>()) {
+  ui_->setupUi(this);
+  connect(ui_->Command1, &QPushButton::clicked, this, &Config::Command1_Click);
+}
+
+Config::~Config() = default;
+
+void Config::Run() {
+  ui_->Text1->setText(TextToQString(settings_.UserName));
+  ui_->Text2->setText(TextToQString(settings_.UserEmail));
+  ui_->Check1->setChecked(false);
+  ui_->Text3->clear();
+  ui_->Text4->clear();
+  ui_->Text1->setFocus();
+  exec();
+}
+
+ProfileFields Config::Fields() const {
+  return {TextFromQString(ui_->Text1->text()), TextFromQString(ui_->Text2->text()), ui_->Check1->isChecked(),
+          TextFromQString(ui_->Text3->text()), TextFromQString(ui_->Text4->text())};
+}
+
+void Config::Command1_Click() {
+  const ProfileFields fields = Fields();
+  if (const std::string_view complaint = ProfileComplaint(fields); !complaint.empty()) {
+    platform_.Message(MessageType::kOkInfo, complaint, "Config");
+    return;
+  }
+  StoreProfile(fields, settings_);
+  hide();
+  store_();
+}
+
+}  // namespace pelmar

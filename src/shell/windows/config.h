@@ -1,0 +1,38 @@
+// `Config`, the user's profile: name, e-mail and the password of the lock. Shown modally.
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "platform/platform.h"
+#include "platform/qt/controls/dialog_window.h"
+#include "shell/profile.h"
+
+namespace Ui {
+class Config;
+}
+
+namespace pelmar {
+
+class Config : public DialogWindow {
+  Q_OBJECT
+
+ public:
+  // `store` writes the settings file.
+  Config(SettingsRecord& settings, Platform& platform, std::function<void()> store, QWidget* parent);
+  ~Config() override;
+
+  // Fills the fields anew and waits until the dialog is closed.
+  void Run();
+
+ private:
+  void Command1_Click();
+  [[nodiscard]] ProfileFields Fields() const;
+
+  SettingsRecord& settings_;
+  Platform& platform_;
+  std::function<void()> store_;
+  std::unique_ptr<Ui::Config> ui_;
+};
+
+}  // namespace pelmar

@@ -1,0 +1,86 @@
+#include "shell/windows/file_tab.h"
+
+#include <QPainter>
+#include <algorithm>
+
+#include "platform/qt/convert.h"
+
+namespace pelmar {
+namespace {
+
+constexpr int kTallestTab = 160;
+constexpr int kCaptionMargin = 6;
+constexpr int kCorner = 4;
+
+}  // namespace
+
+FileTab::FileTab(QWidget* parent) : QTabBar(parent) {
+  setObjectName(QStringLiteral("FileTab"));
+  setShape(QTabBar::RoundedEast);
+  setUsesScrollButtons(false);
+  setExpanding(false);
+  setDrawBase(false);
+  setElideMode(Qt::ElideNone);
+  setFocusPolicy(Qt::NoFocus);
+  setAccessibleName(QStringLiteral("Dokumenty"));
+  for (int tab = 1; tab <= kTabCount; ++tab) {
+    addTab(QString());
+    SetFace(tab, {});
+  }
+}
+
+void FileTab::SetFace(int tab, const TabFace& face) {
+  const QString caption = Utf8ToQString(face.Caption);
+  captions_[static_cast<std::size_t>(tab - 1)] = caption;
+  setTabText(tab - 1, QString(caption).replace(QLatin1Char('&'), QLatin1String("&&")));
+  setTabToolTip(tab - 1, Utf8ToQString(face.ToolTipText));
+  const QString spoken = caption.isEmpty() ? QStringLiteral("nový soubor") : caption;
+  setAccessibleTabName(tab - 1, QStringLiteral("Dokument %1: %2").arg(tab).arg(spoken));
+}
+
+void FileTab::SetStripWidth(int width) {
+  strip_width_ = width;
+  update();
+}
+
+QSize FileTab::tabSizeHint(int) const { return {width(), std::min(height() / kTabCount, kTallestTab)}; }
+QSize FileTab::minimumTabSizeHint(int index) const { return tabSizeHint(index); }
+
+QRect FileTab::VisibleRect(int index) const {
+  QRect rect = tabRect(index);
+  rect.setLeft(width() - strip_width_);
+  return rect;
+}
+
+void FileTab::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  for (int index = 0; index < count(); ++index)
+    if (index != currentIndex()) PaintTab(painter, index);
+  PaintTab(painter, currentIndex());
+}
+
+void FileTab::PaintTab(QPainter& painter, int index) const {
+  const bool selected = index == currentIndex();
+  const QRect rect = VisibleRect(index);
+  const QRectF shape = QRectF(rect).adjusted(-kCorner, 0.5, selected ? -0.5 : -2.5, -0.5);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(palette().color(QPalette::Mid));
+  painter.setBrush(palette().brush(selected ? QPalette::Base : QPalette::Button));
+  painter.drawRoundedRect(shape, kCorner, kCorner);
+
+  const QString& name = captions_[static_cast<std::size_t>(index)];
+  const bool unnamed = name.isEmpty();
+  painter.save();
+  painter.translate(rect.right() + 1, rect.top());
+  painter.rotate(90);
+  const QRect turned(kCaptionMargin, 0, rect.height() - 2 * kCaptionMargin, rect.width());
+  painter.setPen(palette().color(unnamed    ? QPalette::PlaceholderText
+                                 : selected ? QPalette::Text
+                                            : QPalette::ButtonText));
+  painter.drawText(
+      turned, Qt::AlignCenter | Qt::TextSingleLine,
+      fontMetrics().elidedText(unnamed ? QString::number(index + 1) : name, Qt::ElideMiddle, turned.width()));
+  painter.restore();
+}
+
+}  // namespace pelmar

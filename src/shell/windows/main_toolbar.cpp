@@ -1,0 +1,88 @@
+#include "shell/windows/main_toolbar.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QToolButton>
+
+#include "platform/qt/convert.h"
+#include "platform/qt/svg_icon.h"
+#include "shell/menu_table.h"
+
+namespace pelmar {
+namespace {
+
+// Behind the digit's own, every "&" of a path is a character of its name.
+QString EscapedMnemonics(const QString& item) {
+  return item.left(1) + item.mid(1).replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+}  // namespace
+
+MainToolbar::MainToolbar(const Commands& commands, Opener& opener, QWidget* parent)
+    : QToolBar(parent), commands_(commands), opener_(opener) {
+  setObjectName(QStringLiteral("Toolbar1"));
+  setMovable(false);
+  setFloatable(false);
+  setIconSize({24, 24});
+  setContextMenuPolicy(Qt::CustomContextMenu);
+  for (const ToolbarButton& button : ToolbarButtons()) {
+    auto* action = new QAction(this);
+    action->setObjectName(Utf8ToQString(button.key));
+    action->setText(Utf8ToQString(button.tip));
+    action->setToolTip(Utf8ToQString(button.tip));
+    action->setIcon(SvgIcon(QStringLiteral(":/icons/%1.svg").arg(Utf8ToQString(button.picture))));
+    connect(action, &QAction::triggered, this, [this, key = button.key] { commands_.Run(key); });
+    initial_.append(action);
+    if (button.key == "Recent") AddRecentMenu(action);
+    if (!button.separator_behind) continue;
+    auto* separator = new QAction(this);
+    separator->setSeparator(true);
+    initial_.append(separator);
+  }
+  Reset();
+  Refresh();
+}
+
+void MainToolbar::AddRecentMenu(QAction* action) {
+  auto* menu = new QMenu(this);
+  for (int number = 1; number <= 10; ++number) {
+    QAction* item = menu->addAction(QString());
+    item->setObjectName(QStringLiteral("M%1").arg(number));
+    connect(item, &QAction::triggered, this, [this, number] { opener_.OpenRecentFile(number); });
+    recent_[static_cast<std::size_t>(number - 1)] = item;
+  }
+  action->setMenu(menu);
+  ShowRecentFiles();
+}
+
+void MainToolbar::Reset() {
+  for (QAction* action : std::as_const(initial_)) action->setVisible(true);
+  Arrange(initial_);
+}
+
+void MainToolbar::Arrange(const QList<QAction*>& order) {
+  const QList<QAction*> present = actions();
+  if (present == order) return;
+  for (QAction* action : present) removeAction(action);
+  for (QAction* action : order) {
+    addAction(action);
+    auto* button = qobject_cast<QToolButton*>(widgetForAction(action));
+    if (button == nullptr) continue;
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setAccessibleName(action->toolTip());
+    if (action->menu() != nullptr) button->setPopupMode(QToolButton::MenuButtonPopup);
+  }
+}
+
+void MainToolbar::Refresh() {
+  for (QAction* action : std::as_const(initial_))
+    action->setEnabled(action->isSeparator() || commands_.Has(Utf8FromQString(action->objectName())));
+}
+
+void MainToolbar::ShowRecentFiles() {
+  for (int number = 1; number <= 10; ++number)
+    recent_[static_cast<std::size_t>(number - 1)]->setText(
+        EscapedMnemonics(Utf8ToQString(opener_.RecentItemText(number))));
+}
+
+}  // namespace pelmar

@@ -1,0 +1,35 @@
+// The toolbar `Toolbar1`: one action for each key, and the drop-down of recent files behind "Recent".
+#pragma once
+
+#include <QToolBar>
+#include <array>
+
+#include "files/open.h"
+#include "shell/commands.h"
+
+namespace pelmar {
+
+class MainToolbar : public QToolBar {
+  Q_OBJECT
+
+ public:
+  MainToolbar(const Commands& commands, Opener& opener, QWidget* parent = nullptr);
+
+  // Enables every button that has a command by now.
+  void Refresh();
+  void ShowRecentFiles();
+  // All buttons and separators in their order at the start, as after the start whatever was customised since.
+  void Reset();
+  // The same actions in another order.
+  void Arrange(const QList<QAction*>& order);
+
+ private:
+  void AddRecentMenu(QAction* action);
+
+  const Commands& commands_;
+  Opener& opener_;
+  QList<QAction*> initial_;
+  std::array<QAction*, 10> recent_{};
+};
+
+}  // namespace pelmar

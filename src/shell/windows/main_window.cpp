@@ -1,0 +1,329 @@
+#include "shell/windows/main_window.h"
+
+#include <QCloseEvent>
+#include <QMimeData>
+#include <QScreen>
+#include <QShortcut>
+#include <algorithm>
+
+#include "platform/qt/convert.h"
+#include "platform/qt/outer_geometry.h"
+#include "platform/qt/svg_icon.h"
+#include "shell/windows/status_timer.h"
+#include "text/codepage.h"
+
+namespace pelmar {
+namespace {
+
+// The smallest window, but never more than half of a small screen each way, which is what the layout picker needs.
+constexpr QSize kSmallest(480, 320);
+// The window of a first start, where nothing is stored yet: room for the whole toolbar.
+constexpr QSize kFirstSize(820, 560);
+
+constexpr std::pair<int, std::string_view> kSizeItems[] = {
+    {8, "mnu08"}, {10, "mnu10"}, {12, "mnu12"}, {14, "mnu14"}, {17, "mnu17"}, {24, "mnu24"},
+};
+
+QColor ColorOf(Color color) { return {RedOf(color), GreenOf(color), BlueOf(color)}; }
+Color ColorFrom(const QColor& color) { return Rgb(color.red(), color.green(), color.blue()); }
+
+// "[*]" is a placeholder of the toolkit's; doubled it stands for itself.
+QString PlainTitle(const std::string& title) {
+  return Utf8ToQString(title).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+}
+
+// The path of the first file of a drop, "" where it holds none.
+std::string DroppedFile(const QMimeData* mime) {
+  const QList<QUrl> urls = mime->urls();
+  const auto local = std::find_if(urls.begin(), urls.end(), [](const QUrl& url) { return url.isLocalFile(); });
+  return local == urls.end() ? std::string() : Utf8FromQString(local->toLocalFile());
+}
+
+}  // namespace
+
+MainWindow::MainWindow(Editor& editor) : editor_(editor) {
+  setObjectName(QStringLiteral("Main"));
+  setProperty(kTagProperty, QLatin1String(kAutosnapTag));
+  setAcceptDrops(true);
+  setMinimumSize(kSmallest.boundedTo(screen()->size() / 2));
+  MakeControls();
+  AddViewCommands();
+  FollowDocuments();
+  RefreshCommands();
+}
+
+void MainWindow::MakeControls() {
+  menus_ = new MenuBar(editor_.commands, this);
+  setMenuBar(menus_);
+  client_ = new QWidget(this);
+  setCentralWidget(client_);
+  client_->installEventFilter(this);
+  toolbar_ = new MainToolbar(editor_.commands, editor_.opener, client_);
+  tabs_ = new FileTab(client_);
+  text_ = new TextBox(client_);
+  text_->setObjectName(QStringLiteral("Text1"));
+  text_->setAccessibleName(QStringLiteral("Text dokumentu"));
+  text_->UseBuffer(editor_.text);
+  text_->setStandardShortcuts(false);
+  bar_ = new StatusStrip(client_);
+  bar_->raise();
+  connect(tabs_, &QTabBar::currentChanged, this, [this](int index) { editor_.documents.SwitchTo(index + 1); });
+  // The lower, right-hand menus of the main menu are pop-ups too.
+  const auto pop_up = [this](QWidget* owner, std::string_view name) {
+    owner->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(owner, &QWidget::customContextMenuRequested, this,
+            [this, owner, name](const QPoint& at) { menus_->Submenu(name)->popup(owner->mapToGlobal(at)); });
+  };
+  pop_up(tabs_, "MnuPopUp");
+  pop_up(bar_, "MnuPopUp");
+  pop_up(toolbar_, "MnuPopUp");
+  pop_up(text_, "MnuSel");
+  AddTabKeys();
+  connect(bar_->Panel(3), &StatusPanel::Clicked, this, [this] { editor_.settings.LineCounting = false; });
+  connect(bar_->Panel(3), &StatusPanel::DoubleClicked, this, [this] { editor_.settings.LineCounting = true; });
+}
+
+// The strip itself takes no focus, so the keyboard reaches it by keys of its own.
+void MainWindow::AddTabKeys() {
+  const auto step = [this](const QKeySequence& keys, int by) {
+    connect(new QShortcut(keys, this), &QShortcut::activated, this,
+            [this, by] { tabs_->setCurrentIndex((tabs_->currentIndex() + by + kTabCount) % kTabCount); });
+  };
+  step(QKeySequence(Qt::CTRL | Qt::Key_Tab), 1);
+  step(QKeySequence(Qt::CTRL | Qt::Key_PageDown), 1);
+  step(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab), -1);
+  step(QKeySequence(Qt::CTRL | Qt::Key_PageUp), -1);
+  for (int tab = 0; tab < kTabCount; ++tab)
+    connect(new QShortcut(QKeySequence(Qt::ALT | static_cast<Qt::Key>(Qt::Key_1 + tab)), this), &QShortcut::activated,
+            this, [this, tab] { tabs_->setCurrentIndex(tab); });
+}
+
+void MainWindow::AddViewCommands() {
+  editor_.commands.Add("MnuTS", [this] { ToggleBar("MnuTS", toolbar_); });
+  editor_.commands.Add("MnuSBS", [this] { ToggleBar("MnuSBS", bar_); });
+  editor_.commands.Add("mnuFTS", [this] { ToggleBar("mnuFTS", tabs_); });
+  editor_.commands.Add("MnuAllTop", [this] { ToggleAlwaysOnTop(); });
+  editor_.commands.Add("mnuquit", [this] { close(); });
+}
+
+void MainWindow::FollowDocuments() {
+  editor_.documents.on_title = [this] { setWindowTitle(PlainTitle(editor_.documents.Title())); };
+  editor_.documents.on_face = [this](int tab) { tabs_->SetFace(tab, editor_.documents.Face(tab)); };
+  editor_.documents.on_selected = [this](int tab) { tabs_->setCurrentIndex(tab - 1); };
+  editor_.opener.on_recent_files = [this] { ShowRecentFiles(); };
+  editor_.documents.on_title();
+}
+
+void MainWindow::RefreshCommands() {
+  menus_->Refresh();
+  toolbar_->Refresh();
+}
+
+void MainWindow::ToggleBar(std::string_view item, QWidget* bar) {
+  bar->setVisible(menus_->Action(item)->isChecked());
+  ApplyLayout();
+}
+
+void MainWindow::ToggleAlwaysOnTop() {
+  // required: flag and check mark flip each on its own, so they may say opposite things after a start
+  editor_.settings.AlwaysOnTopFlag = !editor_.settings.AlwaysOnTopFlag;
+  SetAlwaysOnTop(editor_.settings.AlwaysOnTopFlag);
+}
+
+LayoutInput MainWindow::Measures() const {
+  LayoutInput in;
+  in.outer_width = OuterGeometry(*this).width;
+  in.inner_width = TwipsOf(client_->width());
+  in.inner_height = TwipsOf(client_->height());
+  in.toolbar_height = TwipsOf(toolbar_->sizeHint().height());
+  in.bar_height = TwipsOf(bar_->sizeHint().height());
+  in.toolbar_visible = !toolbar_->isHidden();
+  in.bar_visible = !bar_->isHidden();
+  in.tabs_visible = !tabs_->isHidden();
+  in.minimised = isMinimized();
+  in.panel_widths = bar_->Widths();
+  return in;
+}
+
+void MainWindow::ApplyLayout() {
+  if (laying_out_) return;
+  laying_out_ = true;
+  const LayoutInput in = Measures();
+  const LayoutResult out = ComputeLayout(in);
+  const int bar_height = PixelsOf(in.bar_height);
+  toolbar_->setGeometry(0, 0, client_->width(), PixelsOf(in.toolbar_height));
+  bar_->setGeometry(0, client_->height() - bar_height, client_->width(), bar_height);
+  const int top = PixelsOf(out.text_top);
+  const int width = out.text_width ? PixelsOf(*out.text_width) : text_->width();
+  const int height = out.text_height ? std::max(0, PixelsOf(*out.text_height)) : text_->height();
+  text_->setGeometry(0, top, width, height);
+  tabs_->SetStripWidth(client_->width() - width);
+  tabs_->setGeometry(0, top, out.tabs_width ? PixelsOf(*out.tabs_width) : tabs_->width(), height);
+  // Before the frame is known the outer width is not the window's real one.
+  if (out.panel4_width && frame_known_) bar_->SetWidth(4, *out.panel4_width);
+  if (out.grow_outer_height > 0) resize(this->width(), this->height() + PixelsOf(out.grow_outer_height));
+  laying_out_ = false;
+}
+
+void MainWindow::WidenContentPanel() {
+  if (isMinimized()) return;
+  if (const auto spare = SparePanelWidth(OuterGeometry(*this).width, bar_->Widths())) bar_->SetWidth(4, *spare);
+}
+
+// The frame's size is known from the first time the window is painted; only then outer sizes can be met.
+void MainWindow::FitToFrame() {
+  if (frame_known_) return;
+  frame_known_ = true;
+  // The icon is rendered when it is set, which can wait until the window is there.
+  setWindowIcon(SvgIcon(QStringLiteral(":/icons/pelmar-vex.svg")));
+  const QSize before = size();
+  if (!isMaximized() && !isMinimized()) {
+    SetOuterWidth(*this, wanted_place_.width);
+    SetOuterHeight(*this, wanted_place_.height);
+  }
+  if (size() == before) ApplyLayout();
+}
+
+void MainWindow::SetPlace(const TwipsRect& place) {
+  wanted_place_ = place;
+  const QSize first = kFirstSize.boundedTo(screen()->availableSize());
+  if (place.width <= 0) wanted_place_.width = TwipsOf(first.width());
+  if (place.height <= 0) wanted_place_.height = TwipsOf(first.height());
+  SetOuterWidth(*this, wanted_place_.width);
+  SetOuterHeight(*this, wanted_place_.height);
+  SetOuterLeft(*this, place.left);
+  SetOuterTop(*this, place.top);
+}
+
+TwipsRect MainWindow::Place() const {
+  if (!isMinimized()) return OuterGeometry(*this);
+  // An iconified window keeps the place that it comes back to.
+  const QRect normal = normalGeometry();
+  const QMargins frame = windowHandle() != nullptr ? windowHandle()->frameMargins() : QMargins();
+  const QRect outer = normal.marginsAdded(frame);
+  return {TwipsOf(outer.left()), TwipsOf(outer.top()), TwipsOf(outer.width()), TwipsOf(outer.height())};
+}
+
+void MainWindow::SetWindowState(int state) { window_state_ = state; }
+
+int MainWindow::WindowState() const {
+  if (isMinimized()) return 1;
+  return isMaximized() ? 2 : 0;
+}
+
+void MainWindow::SetAlwaysOnTop(bool on_top) { pelmar::SetAlwaysOnTop(*this, on_top); }
+
+void MainWindow::SetEditorColors(Color fore, Color back) {
+  text_->setTextColor(ColorOf(fore));
+  text_->setBackgroundColor(ColorOf(back));
+}
+
+void MainWindow::SetBoxFont(const QFont& font) {
+  if (font != text_->font()) text_->setFont(font);
+}
+
+void MainWindow::SetEditorFont(const std::string& name) {
+  QFont font = text_->font();
+  font.setFamily(TextToQString(name));
+  SetBoxFont(font);
+}
+
+void MainWindow::SetEditorFontSize(int size) {
+  QFont font = text_->font();
+  font.setPointSize(size);
+  SetBoxFont(font);
+  for (const auto& [points, item] : kSizeItems) menus_->Action(item)->setChecked(points == size);
+}
+
+void MainWindow::SetEditorBold(bool bold) {
+  QFont font = text_->font();
+  font.setBold(bold);
+  SetBoxFont(font);
+  menus_->Action("mnuEditBold")->setChecked(bold);
+}
+
+void MainWindow::SetEditorItalic(bool italic) {
+  QFont font = text_->font();
+  font.setItalic(italic);
+  SetBoxFont(font);
+  menus_->Action("mnuitalic")->setChecked(italic);
+}
+
+EditorLook MainWindow::Look() const {
+  const QFont font = text_->font();
+  return {TextFromQString(font.family()),
+          ColorFrom(text_->TextColor()),
+          ColorFrom(text_->BackgroundColor()),
+          font.pointSizeF(),
+          font.bold(),
+          font.italic()};
+}
+
+void MainWindow::ShowRecentFiles() { toolbar_->ShowRecentFiles(); }
+
+void MainWindow::ShowConfig() {
+  if (show_config) show_config();
+}
+
+void MainWindow::ShowMain() {
+  if (isVisible()) return;
+  if (window_state_ == 1) return showMinimized();
+  if (window_state_ == 2) return showMaximized();
+  show();
+}
+
+void MainWindow::ShowStart() {
+  if (!show_start) return ShowMain();
+  hide();
+  show_start();
+}
+
+void MainWindow::ShowAccessory(StartMode mode) {
+  accessory_mode_ = true;
+  hide();
+  if (show_accessory) show_accessory(mode);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  if (may_close && !may_close()) return event->ignore();
+  event->accept();
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (!DroppedFile(event->mimeData()).empty()) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+  event->acceptProposedAction();
+  // The question comes after the drop, or the program that the file comes from would wait for its answer too.
+  QMetaObject::invokeMethod(
+      this, [this, path = DroppedFile(event->mimeData())] { OpenDropped(path); }, Qt::QueuedConnection);
+}
+
+void MainWindow::OpenDropped(const std::string& path) {
+  activateWindow();
+  if (editor_.platform.Message(MessageType::kYesNoWarning, "Opravdu otevřít soubor ?", "Soubor") == Answer::kYes)
+    editor_.opener.OpenPath(path);
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::WindowStateChange) ApplyLayout();
+}
+
+bool MainWindow::event(QEvent* event) {
+  if (event->type() == QEvent::WindowActivate) {
+    main_active_ = true;
+    if (!accessory_mode_) text_->setFocus();
+  }
+  if (event->type() == QEvent::WindowDeactivate) main_active_ = false;
+  return QMainWindow::event(event);
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == client_ && event->type() == QEvent::Resize) ApplyLayout();
+  if (watched == client_ && event->type() == QEvent::Paint) FitToFrame();
+  return QMainWindow::eventFilter(watched, event);
+}
+
+}  // namespace pelmar

@@ -1,0 +1,97 @@
+// `Main`: the menu, the toolbar, the one text box, the tab strip and the status bar. The window only shows and
+// forwards; what happens lies in the editor, the session and the commands.
+#pragma once
+
+#include <QMainWindow>
+#include <functional>
+
+#include "platform/qt/controls/text_box.h"
+#include "shell/editor.h"
+#include "shell/main_view.h"
+#include "shell/windows/file_tab.h"
+#include "shell/windows/main_toolbar.h"
+#include "shell/windows/menu_bar.h"
+#include "shell/windows/status_strip.h"
+
+namespace pelmar {
+
+class MainWindow : public QMainWindow, public MainView {
+  Q_OBJECT
+
+ public:
+  explicit MainWindow(Editor& editor);
+
+  [[nodiscard]] TextBox& Text() { return *text_; }
+  [[nodiscard]] MenuBar& Menus() { return *menus_; }
+  [[nodiscard]] MainToolbar& Toolbar() { return *toolbar_; }
+  [[nodiscard]] StatusStrip& Bar() { return *bar_; }
+  // True while the main window is the active one.
+  [[nodiscard]] bool MainActive() const { return main_active_; }
+
+  // Asked before the window closes; false keeps it open.
+  std::function<bool()> may_close;
+  // Other windows, which come with their own subsystems.
+  std::function<void()> show_config;
+  std::function<void()> show_start;
+  std::function<void(StartMode)> show_accessory;
+
+  // Commands may have been added since the menus were made.
+  void RefreshCommands();
+  // Places text box, tabs and bars.
+  void ApplyLayout();
+  // The rule of panel 4, on each tick.
+  void WidenContentPanel();
+
+  void SetPlace(const TwipsRect& place) override;
+  [[nodiscard]] TwipsRect Place() const override;
+  void SetWindowState(int state) override;
+  [[nodiscard]] int WindowState() const override;
+  void SetAlwaysOnTop(bool on_top) override;
+  void SetEditorColors(Color fore, Color back) override;
+  void SetEditorFont(const std::string& name) override;
+  void SetEditorFontSize(int size) override;
+  void SetEditorBold(bool bold) override;
+  void SetEditorItalic(bool italic) override;
+  [[nodiscard]] EditorLook Look() const override;
+  void ShowRecentFiles() override;
+  void ShowConfig() override;
+  void ShowMain() override;
+  void ShowStart() override;
+  void ShowAccessory(StartMode mode) override;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  bool event(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void MakeControls();
+  void AddTabKeys();
+  void AddViewCommands();
+  void FollowDocuments();
+  void OpenDropped(const std::string& path);
+  void ToggleBar(std::string_view item, QWidget* bar);
+  void ToggleAlwaysOnTop();
+  void FitToFrame();
+  void SetBoxFont(const QFont& font);
+  [[nodiscard]] LayoutInput Measures() const;
+
+  Editor& editor_;
+  QWidget* client_ = nullptr;
+  MenuBar* menus_ = nullptr;
+  MainToolbar* toolbar_ = nullptr;
+  FileTab* tabs_ = nullptr;
+  TextBox* text_ = nullptr;
+  StatusStrip* bar_ = nullptr;
+  int window_state_ = 0;
+  TwipsRect wanted_place_;
+  bool frame_known_ = false;
+  bool laying_out_ = false;
+  bool main_active_ = false;
+  bool accessory_mode_ = false;
+};
+
+}  // namespace pelmar

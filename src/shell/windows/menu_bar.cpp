@@ -1,0 +1,58 @@
+#include "shell/windows/menu_bar.h"
+
+#include <QMenu>
+
+#include "platform/qt/convert.h"
+
+namespace pelmar {
+
+MenuBar::MenuBar(const Commands& commands, QWidget* parent) : QMenuBar(parent), commands_(commands) {
+  std::vector<QWidget*> open{this};  // the menu that each level adds to
+  for (const MenuItem& item : MenuItems()) {
+    open.resize(static_cast<std::size_t>(item.level) + 1);
+    const QString name = Utf8ToQString(item.name);
+    const QString caption = Utf8ToQString(item.caption);
+    QAction* action = nullptr;
+    if (item.kind == MenuKind::kSubmenu) {
+      auto* menu = new QMenu(caption, this);
+      action = menu->menuAction();
+      open.push_back(menu);
+    } else {
+      action = new QAction(caption, this);
+      action->setSeparator(item.kind == MenuKind::kSeparator);
+      action->setCheckable(item.kind == MenuKind::kToggle || item.kind == MenuKind::kToggleOn);
+      action->setChecked(item.kind == MenuKind::kToggleOn);
+      if (!item.shortcut.empty()) action->setShortcut(QKeySequence(Utf8ToQString(item.shortcut)));
+      connect(action, &QAction::triggered, this, [this, key = item.name] { commands_.Run(key); });
+    }
+    action->setObjectName(name);
+    action->setMenuRole(QAction::NoRole);
+    open[static_cast<std::size_t>(item.level)]->addAction(action);
+    actions_.emplace(item.name, action);
+  }
+  Refresh();
+}
+
+bool MenuBar::Served(const QAction* action, std::string_view name) const {
+  return action->menu() != nullptr || action->isSeparator() || commands_.Has(name);
+}
+
+void MenuBar::Refresh() {
+  for (const auto& [name, action] : actions_) action->setEnabled(Served(action, name));
+}
+
+void MenuBar::Apply(const MenuState& state) {
+  SetEnabled(ItemsOfPath(), state.has_path);
+  SetEnabled(ItemsOfClipboard(), state.has_clipboard);
+  SetEnabled(ItemsOfText(), state.has_text);
+  SetEnabled(ItemsOfSelection(), state.has_selection);
+}
+
+void MenuBar::SetEnabled(std::span<const std::string_view> names, bool enabled) {
+  for (const std::string_view name : names) {
+    QAction* action = Action(name);
+    action->setEnabled(enabled && Served(action, name));
+  }
+}
+
+}  // namespace pelmar

@@ -1,0 +1,38 @@
+// The menus of the main window, made from the table: actions and submenus by their names, each wired to its command.
+#pragma once
+
+#include <QAction>
+#include <QMenuBar>
+#include <map>
+#include <string>
+#include <string_view>
+
+#include "shell/commands.h"
+#include "shell/menu_table.h"
+
+namespace pelmar {
+
+class MenuBar : public QMenuBar {
+  Q_OBJECT
+
+ public:
+  explicit MenuBar(const Commands& commands, QWidget* parent = nullptr);
+
+  // The action of an item, the menu's own for a submenu. The name has to exist.
+  [[nodiscard]] QAction* Action(std::string_view name) const { return actions_.find(name)->second; }
+  [[nodiscard]] QMenu* Submenu(std::string_view name) const { return Action(name)->menu(); }
+
+  // Enables every item that has a command or a menu by now.
+  void Refresh();
+  // Enables the groups of items that follow the state of the text; an item without a command stays disabled.
+  void Apply(const MenuState& state);
+
+ private:
+  void SetEnabled(std::span<const std::string_view> names, bool enabled);
+  [[nodiscard]] bool Served(const QAction* action, std::string_view name) const;
+
+  const Commands& commands_;
+  std::map<std::string, QAction*, std::less<>> actions_;
+};
+
+}  // namespace pelmar

@@ -1,0 +1,84 @@
+#include "shell/windows/program.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+#include "files/windows/otevri.h"
+#include "files/windows/uloz.h"
+#include "platform/qt/convert.h"
+#include "shell/windows/config.h"
+#include "shell/windows/customize_toolbar.h"
+
+namespace pelmar {
+
+Program::Program(Platform& platform)
+    : platform_(platform),
+      editor_(platform),
+      main_(editor_),
+      session_(main_, editor_.documents, editor_.settings, editor_.opener, platform, editor_.file_number),
+      rescue_(editor_.documents, platform),
+      timer_(main_, editor_) {
+  RegisterWindows();
+  AddWindowCommands();
+  main_.RefreshCommands();
+  main_.may_close = [this] { return MayClose(); };
+  main_.show_config = [this] { windows_.Get<Config>().Run(); };
+  editor_.text.OnChange([this](const TextChange&) { rescue_.Touch(); });
+  editor_.documents.on_title = [this, show = editor_.documents.on_title] {
+    show();
+    rescue_.Touch();
+  };
+}
+
+void Program::RegisterWindows() {
+  windows_.Register<Otevri>([this] { return std::make_unique<Otevri>(editor_.opener, platform_, &main_); });
+  windows_.Register<Uloz>([this] { return std::make_unique<Uloz>(editor_.documents, editor_.saver, &main_); });
+  windows_.Register<Config>([this] {
+    return std::make_unique<Config>(
+        editor_.settings, platform_, [this] { session_.StoreSettings(false); }, &main_);
+  });
+  windows_.Register<CustomizeToolbar>([this] { return std::make_unique<CustomizeToolbar>(main_.Toolbar(), &main_); });
+}
+
+void Program::AddWindowCommands() {
+  const auto show = [this]<class Window>(std::type_identity<Window>, std::initializer_list<std::string_view> names) {
+    for (const std::string_view name : names) editor_.commands.Add(name, [this] { windows_.Get<Window>().Present(); });
+  };
+  show(std::type_identity<Otevri>{}, {"mnuopen", "Open"});
+  show(std::type_identity<Uloz>{}, {"mnusave", "Save"});
+  show(std::type_identity<CustomizeToolbar>{}, {"mnucust"});
+}
+
+void Program::Start(const std::string& tail) {
+  timer_.start();
+  session_.Start(tail);
+  // Only the editor asks, when it stands; the accessories leave what they find to it.
+  if (session_.Mode() == StartMode::kEditor)
+    QTimer::singleShot(0, &main_, [this] { OfferAbandoned(editor_.documents, platform_); });
+}
+
+bool Program::MayClose() {
+  if (!session_.Close()) return false;
+  rescue_.End();
+  QCoreApplication::exit(0);
+  return true;
+}
+
+void Program::TellRuntimeError(const RuntimeError& error) {
+  const std::string kept = rescue_.KeepNow();
+  std::string text = "Běhová chyba " + std::to_string(error.Number()) + ":\r\n" + error.what() + "\r\n\r\n";
+  if (!kept.empty()) {
+    text += "Neuložené dokumenty jsou zachovány v souboru\r\n" + kept +
+            "\r\nPříští start programu je nabídne zpět.\r\n\r\n";
+  }
+  text += "Program bude ukončen.";
+  platform_.Message(MessageType::kOk, text, "Pelmar VEX");
+}
+
+std::string CommandTail(const QStringList& arguments) {
+  const QString tail = arguments.join(QLatin1Char(' '));
+  const QFileInfo file(tail);
+  return Utf8FromQString(!tail.isEmpty() && file.isRelative() && file.exists() ? file.absoluteFilePath() : tail);
+}
+
+}  // namespace pelmar

@@ -1,0 +1,50 @@
+// The whole program put together: platform, editor, main window, session, timer, rescue and the other windows. The one
+// place that knows all of them.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "platform/platform.h"
+#include "shell/editor.h"
+#include "shell/session.h"
+#include "shell/windows/main_window.h"
+#include "shell/windows/rescue_keeper.h"
+#include "shell/windows/status_timer.h"
+#include "shell/windows/window_registry.h"
+
+namespace pelmar {
+
+class Program {
+ public:
+  explicit Program(Platform& platform);
+
+  // Runs the start with the command tail (UTF-8).
+  void Start(const std::string& tail);
+
+  // What an error that no command caught leads to: the modified documents are kept, the person is told what failed and
+  // where they lie. The caller ends the process.
+  void TellRuntimeError(const RuntimeError& error);
+
+  [[nodiscard]] MainWindow& Main() { return main_; }
+  [[nodiscard]] WindowRegistry& Windows() { return windows_; }
+
+ private:
+  void RegisterWindows();
+  void AddWindowCommands();
+  bool MayClose();
+
+  Platform& platform_;
+  Editor editor_;
+  MainWindow main_;
+  Session session_;
+  RescueKeeper rescue_;
+  StatusTimer timer_;
+  WindowRegistry windows_;  // last: its windows look at all the others
+};
+
+// The command tail as one string: the arguments joined by one blank, the relative path of an existing file made
+// absolute.
+std::string CommandTail(const QStringList& arguments);
+
+}  // namespace pelmar

@@ -1,0 +1,99 @@
+#include "shell/windows/status_strip.h"
+
+#include <QMouseEvent>
+
+#include "platform/qt/convert.h"
+#include "shell/window_geometry.h"
+
+namespace pelmar {
+namespace {
+
+constexpr int kGap = 2;
+constexpr int kTextMargin = 4;
+
+// Texts that the panels have to hold, for their widths at the start. Panel 4 begins with none and takes what is left.
+constexpr QStringView kWidest[kPanelCount] = {
+    u"Počet znaků : 64000", u"Pozice kurzoru : 64000", u"Řádeky 100-100 z 1000", u"", u"CAPS", u"NUM", u"INS",
+};
+constexpr QStringView kTips[kPanelCount] = {
+    u"Pozice", u"Délka", u"Řádky (Click - off, DblCick - on)", u"Obsah", u"CAPS", u"NUM", u"INS",
+};
+
+}  // namespace
+
+StatusPanel::StatusPanel(QWidget* parent) : ElidedLabel(parent) {
+  setElideMode(Qt::ElideRight);
+  setIndent(kTextMargin);
+  setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+}
+
+void StatusPanel::SetContent(const std::string& text) {
+  if (text == content_) return;
+  content_ = text;
+  setText(TextToQString(text));
+}
+
+void StatusPanel::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) return Q_EMIT Clicked();
+  ElidedLabel::mousePressEvent(event);
+}
+
+void StatusPanel::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) return Q_EMIT DoubleClicked();
+  ElidedLabel::mouseDoubleClickEvent(event);
+}
+
+StatusStrip::StatusStrip(QWidget* parent) : QStatusBar(parent) {
+  setObjectName(QStringLiteral("Bar1"));
+  setSizeGripEnabled(false);
+  for (int number = 1; number <= kPanelCount; ++number) {
+    const auto at = static_cast<std::size_t>(number - 1);
+    auto* panel = new StatusPanel(this);
+    panel->setObjectName(QStringLiteral("Panel%1").arg(number));
+    panel->setToolTip(kTips[at].toString());
+    panels_[at] = panel;
+    if (kWidest[at].isEmpty()) continue;
+    widths_[at] = TwipsOf(fontMetrics().horizontalAdvance(kWidest[at].toString()) + 2 * kTextMargin +
+                          2 * panel->frameWidth() + 4);
+  }
+  for (const std::size_t at : {4u, 5u, 6u}) panels_[at]->setText(kWidest[at].toString());
+  Show(KeyStates{});
+}
+
+void StatusStrip::Show(const PanelTexts& texts) {
+  panels_[0]->SetContent(texts.length);
+  panels_[1]->SetContent(texts.position);
+  panels_[2]->SetContent(texts.lines);
+  panels_[3]->SetContent(texts.content);
+}
+
+void StatusStrip::Show(const KeyStates& keys) {
+  panels_[4]->setEnabled(keys.caps);
+  panels_[5]->setEnabled(keys.num);
+  panels_[6]->setEnabled(keys.insert);
+}
+
+void StatusStrip::SetWidth(int number, int twips) {
+  int& width = widths_[static_cast<std::size_t>(number - 1)];
+  if (width == twips) return;
+  width = twips;
+  Place();
+}
+
+QSize StatusStrip::sizeHint() const { return {0, panels_[0]->sizeHint().height() + 2 * kGap}; }
+
+void StatusStrip::resizeEvent(QResizeEvent* event) {
+  QStatusBar::resizeEvent(event);
+  Place();
+}
+
+void StatusStrip::Place() {
+  int left = kGap;
+  for (std::size_t i = 0; i < panels_.size(); ++i) {
+    const int width = PixelsOf(widths_[i]);
+    panels_[i]->setGeometry(left, kGap, std::max(0, width - kGap), height() - 2 * kGap);
+    left += width;
+  }
+}
+
+}  // namespace pelmar

@@ -1,0 +1,61 @@
+// The status bar `Bar1` with its seven panels, whose widths the program sets itself.
+#pragma once
+
+#include <QStatusBar>
+#include <array>
+#include <string>
+
+#include "platform/platform.h"
+#include "platform/qt/controls/elided_label.h"
+#include "shell/status.h"
+
+namespace pelmar {
+
+class StatusPanel : public ElidedLabel {
+  Q_OBJECT
+
+ public:
+  explicit StatusPanel(QWidget* parent);
+
+  // Windows-1250; nothing happens where the panel shows it already.
+  void SetContent(const std::string& text);
+
+ Q_SIGNALS:
+  void Clicked();
+  void DoubleClicked();
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+
+ private:
+  std::string content_;
+};
+
+class StatusStrip : public QStatusBar {
+  Q_OBJECT
+
+ public:
+  explicit StatusStrip(QWidget* parent = nullptr);
+
+  [[nodiscard]] StatusPanel* Panel(int number) const { return panels_[static_cast<std::size_t>(number - 1)]; }
+  void Show(const PanelTexts& texts);
+  void Show(const KeyStates& keys);
+
+  // Widths in twips, as the layout counts them.
+  [[nodiscard]] std::array<int, kPanelCount> Widths() const { return widths_; }
+  void SetWidth(int number, int twips);
+
+  QSize sizeHint() const override;
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  void Place();
+
+  std::array<StatusPanel*, kPanelCount> panels_{};
+  std::array<int, kPanelCount> widths_{};
+};
+
+}  // namespace pelmar

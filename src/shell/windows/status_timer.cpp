@@ -1,0 +1,51 @@
+#include "shell/windows/status_timer.h"
+
+#include <QApplication>
+
+#include "platform/qt/outer_geometry.h"
+#include "shell/status.h"
+#include "shell/window_geometry.h"
+#include "shell/windows/main_window.h"
+
+namespace pelmar {
+namespace {
+
+constexpr int kInterval = 500;
+
+}  // namespace
+
+StatusTimer::StatusTimer(MainWindow& window, Editor& editor) : QTimer(&window), window_(window), editor_(editor) {
+  setObjectName(QStringLiteral("Timer1"));
+  setInterval(kInterval);
+  connect(this, &QTimer::timeout, this, &StatusTimer::Tick);
+}
+
+void StatusTimer::SnapWindows() {
+  const QWidgetList windows = QApplication::topLevelWidgets();
+  for (QWidget* window : windows) {
+    if (window->property(kTagProperty).toString() != QLatin1String(kAutosnapTag)) continue;
+    if (!window->isVisible() || window->isMinimized() || window->isMaximized()) continue;
+    const QSize screen = ScreenTwips(*window);
+    const TwipsRect place = OuterGeometry(*window);
+    const TwipsRect snapped = Snap(place, editor_.settings.AutosnapDistance, screen.width(), screen.height());
+    if (snapped.width != place.width) SetOuterWidth(*window, snapped.width);
+    if (snapped.height != place.height) SetOuterHeight(*window, snapped.height);
+    if (snapped.left != place.left) SetOuterLeft(*window, snapped.left);
+    if (snapped.top != place.top) SetOuterTop(*window, snapped.top);
+  }
+}
+
+void StatusTimer::Tick() {
+  SnapWindows();
+  if (!window_.MainActive()) return;
+  const bool has_clipboard = editor_.platform.ClipboardHasText();
+  const std::string clipboard = editor_.platform.ClipboardText();
+  window_.Menus().Apply(ComputeMenuState(editor_.text, editor_.documents.CurrentPath(), clipboard));
+  StatusStrip& bar = window_.Bar();
+  bar.Show(ComputePanels(editor_.text, editor_.settings.LineCounting,
+                         has_clipboard ? std::optional<std::string_view>(clipboard) : std::nullopt));
+  bar.Show(editor_.platform.Keys());
+  window_.WidenContentPanel();
+}
+
+}  // namespace pelmar

@@ -1,0 +1,50 @@
+// Owns every window but the main one and makes each at its first use. A window gets what it needs through its
+// constructor, from the maker that was registered for it.
+#pragma once
+
+#include <QWidget>
+#include <functional>
+#include <map>
+#include <memory>
+#include <typeindex>
+
+namespace pelmar {
+
+class WindowRegistry {
+ public:
+  // `make` returns a new window; the registry owns it.
+  template <class Window>
+  void Register(std::function<std::unique_ptr<Window>()> make) {
+    entries_[typeid(Window)].make = [make = std::move(make)]() -> std::unique_ptr<QWidget> { return make(); };
+  }
+
+  // The window, made now where it didn't exist. It has to be registered.
+  template <class Window>
+  Window& Get() {
+    Entry& entry = entries_.at(typeid(Window));
+    if (!entry.window) entry.window = entry.make();
+    return static_cast<Window&>(*entry.window);
+  }
+
+  // The window where it exists already, else nothing.
+  template <class Window>
+  Window* Find() {
+    const auto found = entries_.find(typeid(Window));
+    return found == entries_.end() ? nullptr : static_cast<Window*>(found->second.window.get());
+  }
+
+  // Destroys the window; its next use makes it anew.
+  template <class Window>
+  void Unload() {
+    entries_.at(typeid(Window)).window.reset();
+  }
+
+ private:
+  struct Entry {
+    std::function<std::unique_ptr<QWidget>()> make;
+    std::unique_ptr<QWidget> window;
+  };
+  std::map<std::type_index, Entry> entries_;
+};
+
+}  // namespace pelmar

@@ -1,0 +1,124 @@
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "files/windows/otevri.h"
+#include "files/windows/uloz.h"
+#include "platform/qt/controls/file_list.h"
+#include "platform/qt/controls/folder_list.h"
+#include "platform/qt/controls/text_box.h"
+#include "platform/qt/convert.h"
+#include "shell/editor.h"
+#include "support/scripted_platform.h"
+#include "text/codepage.h"
+
+namespace pelmar {
+namespace {
+
+// The lists show the real disk; what the dialogs read and write is the scripted one, filled with the same names.
+struct FileDialogsTest : testing::Test {
+  QTemporaryDir folder;
+  ScriptedPlatform platform;
+  Editor editor{platform};
+
+  FileDialogsTest() {
+    AddFile("a.TXT", "text of a");
+    AddFile("b.html", "<B>");
+    AddFile("big.txt", std::string(64001, 'x'));
+  }
+  [[nodiscard]] std::string PathOf(const char* name) const {
+    return Utf8FromQString(folder.filePath(QLatin1String(name)));
+  }
+  void AddFile(const char* name, const std::string& content) {
+    QFile file(folder.filePath(QLatin1String(name)));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    platform.files[PathOf(name)] = content;
+  }
+  template <class Type>
+  static Type* Find(const QWidget& dialog, const char* name) {
+    return dialog.findChild<Type*>(QLatin1String(name));
+  }
+  static void Choose(const QWidget& dialog, const char* name) {
+    auto* list = Find<FileList>(dialog, "File1");
+    for (int row = 0; row < list->model()->rowCount(); ++row) {
+      const QModelIndex index = list->model()->index(row, 0);
+      if (index.data().toString() != QLatin1String(name)) continue;
+      return QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(index).center());
+    }
+    FAIL() << name << " isn't in the list";
+  }
+};
+
+TEST_F(FileDialogsTest, OpenDialogPreviewsAsksAndOpens) {
+  Otevri dialog(editor.opener, platform, nullptr);
+  EXPECT_EQ(dialog.objectName(), QStringLiteral("Otevři"));
+  dialog.show();
+  auto* open = Find<QPushButton>(dialog, "Command1");
+  EXPECT_FALSE(open->isEnabled());
+  EXPECT_EQ(Find<QLabel>(dialog, "Label1")->text(), QStringLiteral("Nastav soubor !"));
+  EXPECT_EQ(ViewOf(Find<TextBox>(dialog, "Text2")->Text()), "Není k dispozici"_w);
+  Find<FolderList>(dialog, "Dir1")->SetPath(folder.path());
+  EXPECT_EQ(Find<FileList>(dialog, "File1")->Path(), folder.path());
+  Find<QComboBox>(dialog, "Text1")->setCurrentText(QStringLiteral("*.txt"));
+  EXPECT_EQ(Find<FileList>(dialog, "File1")->model()->rowCount(), 2);  // a mask ignores case
+
+  Choose(dialog, "big.txt");
+  EXPECT_TRUE(open->isEnabled());
+  EXPECT_EQ(ViewOf(Find<TextBox>(dialog, "Text2")->Text()), "Není k dispozici"_w);
+  Choose(dialog, "a.TXT");
+  EXPECT_EQ(Utf8FromQString(Find<QLabel>(dialog, "Label1")->text()), PathOf("a.TXT"));
+  EXPECT_EQ(ViewOf(Find<TextBox>(dialog, "Text2")->Text()), "text of a");
+  platform.answers = {Answer::kNo, Answer::kYes};
+  open->click();
+  EXPECT_EQ(platform.calls.back(), "message 52 \"Opravdu otevřít soubor ?\" \"Soubor\"");
+  EXPECT_TRUE(dialog.isVisible());
+  EXPECT_TRUE(editor.text.Empty());
+  open->click();
+  EXPECT_EQ(editor.text.Text(), "text of a");
+  EXPECT_FALSE(dialog.isVisible());
+}
+
+TEST_F(FileDialogsTest, SaveDialogShowsItsTargetAsItIsMade) {
+  Uloz dialog(editor.documents, editor.saver, nullptr);
+  EXPECT_EQ(dialog.objectName(), QStringLiteral("Ulož"));
+  dialog.show();
+  auto* label = Find<QLabel>(dialog, "Label1");
+  auto* save = Find<QPushButton>(dialog, "Command1");
+  EXPECT_EQ(label->text(), QStringLiteral("Vložte údaje !"));
+  EXPECT_FALSE(save->isEnabled());
+  Find<FolderList>(dialog, "Dir1")->SetPath(folder.path());
+  EXPECT_TRUE(save->isEnabled());
+  EXPECT_EQ(label->text(), folder.filePath(QStringLiteral("Jméno.html")));
+  Find<QLineEdit>(dialog, "Text1")->setText(QStringLiteral("new.x"));
+  Find<QComboBox>(dialog, "Text2")->setCurrentText(QString());
+  EXPECT_EQ(label->text(), folder.filePath(QStringLiteral("new.x.")));  // the dot is always there
+  Find<QComboBox>(dialog, "Text2")->setCurrentText(QStringLiteral("čtu"));
+  editor.text.SetText("content");
+  save->click();
+  EXPECT_EQ(platform.files[PathOf("new.x.") + "čtu"], "content");
+  EXPECT_FALSE(dialog.isVisible());
+}
+
+TEST_F(FileDialogsTest, SaveDialogHidesAfterARefusalToo) {
+  Uloz dialog(editor.documents, editor.saver, nullptr);
+  dialog.show();
+  editor.opener.OpenPath(PathOf("b.html"));  // primes it
+  EXPECT_EQ(Find<QLineEdit>(dialog, "Text1")->text(), QStringLiteral("b"));
+  EXPECT_EQ(Find<QComboBox>(dialog, "Text2")->currentText(), QStringLiteral("html"));
+  EXPECT_EQ(Utf8FromQString(Find<QLabel>(dialog, "Label1")->text()), PathOf("b.html"));
+  EXPECT_EQ(Find<FolderList>(dialog, "Dir1")->Path(), folder.path());
+  platform.answers = {Answer::kNo};
+  Find<QPushButton>(dialog, "Command1")->click();
+  EXPECT_FALSE(dialog.isVisible());
+  Uloz late(editor.documents, editor.saver, nullptr);  // primed before it was made
+  EXPECT_EQ(Utf8FromQString(Find<QLabel>(late, "Label1")->text()), PathOf("b.html"));
+}
+
+}  // namespace
+}  // namespace pelmar

@@ -1,0 +1,142 @@
+#include "platform/qt/dialogs.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QTest>
+#include <QTimer>
+#include <functional>
+
+#include "platform/qt/convert.h"
+#include "support/temp_folder.h"
+
+namespace pelmar {
+namespace {
+
+// Runs `act` on the dialog that the code under test opens next.
+template <typename Dialog>
+void WhenShown(std::function<void(Dialog&)> act) {
+  QTimer::singleShot(0, qApp, [act = std::move(act)] {
+    auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    act(*dialog);
+  });
+}
+
+TEST(Message, HasTheButtonsThePictureAndTheDefaultOfItsType) {
+  using Box = QMessageBox;
+  const struct {
+    MessageType type;
+    Box::StandardButtons buttons;
+    Box::Icon icon;
+    Answer enter, escape;
+  } cases[] = {
+      {MessageType::kOk, Box::Ok, Box::NoIcon, Answer::kOk, Answer::kOk},
+      {MessageType::kOkInfo, Box::Ok, Box::Information, Answer::kOk, Answer::kOk},
+      {MessageType::kYesNoWarning, Box::Yes | Box::No, Box::Warning, Answer::kYes, Answer::kNo},
+      {MessageType::kYesNoStop, Box::Yes | Box::No, Box::Critical, Answer::kNo, Answer::kNo},
+  };
+  for (const auto& c : cases) {
+    const QString text = QStringLiteral("Opravdu uložit <b>a&b</b>?\r\n\"x\"");
+    WhenShown<Box>([&](Box& box) {
+      EXPECT_EQ(box.text(), text);
+      EXPECT_EQ(box.textFormat(), Qt::PlainText);
+      EXPECT_EQ(box.windowTitle(), QStringLiteral("Soubor"));
+      EXPECT_EQ(box.standardButtons(), c.buttons);
+      EXPECT_EQ(box.icon(), c.icon);
+      QTest::keyClick(&box, Qt::Key_Return);
+    });
+    EXPECT_EQ(ShowMessage(c.type, text, QStringLiteral("Soubor")), c.enter);
+    WhenShown<Box>([](Box& box) { QTest::keyClick(&box, Qt::Key_Escape); });
+    EXPECT_EQ(ShowMessage(c.type, text, QString()), c.escape);
+    WhenShown<Box>([](Box& box) { box.close(); });
+    EXPECT_EQ(ShowMessage(c.type, text, QString()), c.escape);
+  }
+}
+
+TEST(Message, OutlivesTheWindowUnderIt) {
+  auto* window = new QWidget;
+  window->show();
+  QApplication::setActiveWindow(window);
+  WhenShown<QMessageBox>([&](QMessageBox& box) {
+    EXPECT_EQ(box.parent(), window);
+    delete window;
+  });
+  EXPECT_EQ(ShowMessage(MessageType::kYesNoWarning, QStringLiteral("?"), QString()), Answer::kNo);
+}
+
+TEST(InputBox, GivesTheTextOrNothing) {
+  const auto ask = [](const std::function<void(QInputDialog&)>& act) {
+    WhenShown<QInputDialog>(act);
+    return AskForText(QStringLiteral("Výzva"), QStringLiteral("Titul"), QStringLiteral("původní"));
+  };
+  EXPECT_EQ(ask([](QInputDialog& box) {
+              EXPECT_EQ(box.labelText(), QStringLiteral("Výzva"));
+              EXPECT_EQ(box.windowTitle(), QStringLiteral("Titul"));
+              box.accept();
+            }),
+            QStringLiteral("původní"));
+  EXPECT_EQ(ask([](QInputDialog& box) {
+              box.setTextValue(QString());
+              box.accept();
+            }),
+            QString());
+  EXPECT_EQ(ask([](QInputDialog& box) { box.reject(); }), std::nullopt);
+}
+
+TEST(FileDialog, TurnsFiltersIntoTheToolkits) {
+  EXPECT_EQ(NameFilters(QStringLiteral("Všechno (*.*)|*.*|Html (*.htm)|*.htm; *.html|lone")),
+            QStringList({QStringLiteral("Všechno (*.*) (*)"), QStringLiteral("Html (*.htm) (*.htm *.html)")}));
+  EXPECT_EQ(NameFilters(QString()), QStringList());
+}
+
+TEST(FileDialog, StartsWithTheGivenFilterAndRemembersTheFolder) {
+  const TempFolder temp;
+  const QString wanted = Utf8ToQString(temp.Put("inner/Dopis.TXT", "x"));
+  const QString filter = QStringLiteral("Všechno (*.*)|*.*|jen text (*.txt)|*.txt");
+  QString folder = Utf8ToQString(temp.Path());
+  WhenShown<QFileDialog>([&](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptOpen);
+    EXPECT_EQ(dialog.directory().path(), Utf8ToQString(temp.Path()));
+    auto* types = dialog.findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
+    ASSERT_NE(types, nullptr);
+    EXPECT_EQ(types->currentText().trimmed(), QStringLiteral("jen text (*.txt)"));
+    EXPECT_EQ(types->itemText(0).trimmed(), QStringLiteral("Všechno (*.*)"));
+    dialog.selectFile(wanted);
+    static_cast<QDialog&>(dialog).accept();
+  });
+  EXPECT_EQ(AskForFile(FileDialogKind::kOpen, filter, 2, folder), wanted);
+  EXPECT_EQ(folder, QFileInfo(wanted).path());
+
+  WhenShown<QFileDialog>([&](QFileDialog& dialog) { dialog.reject(); });
+  EXPECT_EQ(AskForFile(FileDialogKind::kOpen, filter, 9, folder), std::nullopt);
+  EXPECT_EQ(folder, QFileInfo(wanted).path());
+}
+
+TEST(FileDialog, SavingOverAFileAsksNothing) {
+  const TempFolder temp;
+  const QString existing = Utf8ToQString(temp.Put("a.txt", "x"));
+  QString folder = Utf8ToQString(temp.Path());
+  WhenShown<QFileDialog>([&](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
+    dialog.selectFile(existing);
+    // A question would stop here until somebody answers.
+    QTimer asked;
+    asked.callOnTimeout(&asked, [&] {
+      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      ASSERT_NE(box, nullptr);
+      ADD_FAILURE() << box->text().toStdString();
+      box->reject();
+    });
+    asked.start(0);
+    QTest::keyClick(&dialog, Qt::Key_Return);
+  });
+  EXPECT_EQ(AskForFile(FileDialogKind::kSave, QStringLiteral("Vše|*.*"), 1, folder), existing);
+}
+
+}  // namespace
+}  // namespace pelmar

@@ -1,0 +1,196 @@
+#include "platform/qt/disk_file.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+#include <filesystem>
+#include <functional>
+
+#include "support/temp_folder.h"
+
+namespace pelmar {
+namespace {
+
+namespace fs = std::filesystem;
+
+// Permissions bind nobody but an ordinary user.
+void AsOrdinaryUser(const std::function<void()>& act) {
+  constexpr uid_t kNobody = 65534;
+  const uid_t user = geteuid();
+  ASSERT_EQ(seteuid(user == 0 ? kNobody : user), 0);
+  act();
+  ASSERT_EQ(seteuid(user), 0);
+}
+
+// No file may grow beyond `bytes`: what a full disk looks like to the program.
+class FullDisk {
+ public:
+  explicit FullDisk(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+    getrlimit(RLIMIT_FSIZE, &old_);
+    const rlimit tight{bytes, old_.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &tight);
+  }
+  FullDisk(const FullDisk&) = delete;
+  FullDisk& operator=(const FullDisk&) = delete;
+  ~FullDisk() {
+    setrlimit(RLIMIT_FSIZE, &old_);
+    std::signal(SIGXFSZ, handler_);
+  }
+
+ private:
+  void (*handler_)(int);
+  rlimit old_{};
+};
+
+std::size_t EntriesOf(const TempFolder& folder) {
+  return static_cast<std::size_t>(std::distance(fs::directory_iterator(folder.Path()), {}));
+}
+
+fs::perms ModeOf(const std::string& path) { return fs::status(path).permissions() & fs::perms::mask; }
+
+TEST(ReadWholeFile, GivesEveryByteUpToTheLimit) {
+  const TempFolder folder;
+  std::string all;
+  for (int round = 0; round < 300; ++round)
+    for (int code = 0; code < 256; ++code) all += static_cast<char>(code);
+  const std::string path = folder.Put("all", all);
+  EXPECT_EQ(ReadWholeFile(path, {}).bytes, all);
+  for (const std::uint64_t limit : {std::uint64_t{0}, std::uint64_t{64001}, std::uint64_t{65537}, UINT64_MAX}) {
+    const FileBytes read = ReadWholeFile(path, limit);
+    EXPECT_EQ(read.error, 0);
+    EXPECT_EQ(read.bytes, all.substr(0, limit)) << limit;
+  }
+}
+
+TEST(ReadWholeFile, TakesRegularFilesOnlyAndNeverWaits) {
+  const TempFolder folder;
+  ASSERT_EQ(mkfifo(folder.File("pipe").c_str(), 0600), 0);
+  fs::create_symlink(folder.Path(), folder.File("link"));
+  const struct {
+    std::string path;
+    int error;
+  } cases[] = {
+      {folder.File("missing"), ENOENT},
+      {folder.Path(), EISDIR},
+      {folder.File("link"), EISDIR},
+      {folder.File("pipe"), EINVAL},
+      {"/dev/zero", EINVAL},
+      {"", ENOENT},
+      {folder.Put("file", "x") + "/", ENOTDIR},
+  };
+  for (const auto& c : cases) {
+    EXPECT_EQ(ReadWholeFile(c.path, {}).error, c.error) << c.path;
+    EXPECT_FALSE(CanReadFile(c.path)) << c.path;
+  }
+  EXPECT_TRUE(CanReadFile(folder.File("file")));
+  fs::permissions(folder.Path(), fs::perms::all);
+  fs::permissions(folder.File("file"), fs::perms::none);
+  AsOrdinaryUser([&] {
+    EXPECT_FALSE(CanReadFile(folder.File("file")));
+    EXPECT_EQ(ReadWholeFile(folder.File("file"), {}).error, EACCES);
+  });
+}
+
+TEST(ReplaceFile, KeepsPermissionsAndLinks) {
+  const TempFolder folder;
+  const std::string path = folder.Put("inner/old", "a long old content");
+  fs::permissions(path, fs::perms::owner_all | fs::perms::group_read);
+  fs::create_symlink("inner/old", folder.File("link"));
+  fs::create_symlink("link", folder.File("link to link"));
+  fs::create_symlink("inner/new", folder.File("link to nothing"));
+  fs::create_symlink("circle", folder.File("circle"));
+
+  EXPECT_EQ(ReplaceFile(folder.File("link to link"), "new"), 0);
+  EXPECT_EQ(Content(path), "new");
+  EXPECT_EQ(ModeOf(path), fs::perms::owner_all | fs::perms::group_read);
+  EXPECT_TRUE(fs::is_symlink(folder.File("link")));
+  EXPECT_EQ(ReplaceFile(folder.File("link to nothing"), "made"), 0);
+  EXPECT_EQ(Content(folder.File("inner/new")), "made");
+  EXPECT_EQ(ReplaceFile(folder.File("circle"), "x"), ELOOP);
+
+  const mode_t mask = umask(027);
+  EXPECT_EQ(ReplaceFile(folder.File("fresh"), ""), 0);
+  EXPECT_EQ(ReplaceFile(folder.File("secret"), "", 0600), 0);
+  umask(mask);
+  EXPECT_EQ(Content(folder.File("fresh")), "");
+  EXPECT_EQ(ModeOf(folder.File("fresh")), fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
+  EXPECT_EQ(ModeOf(folder.File("secret")), fs::perms::owner_read | fs::perms::owner_write);
+}
+
+TEST(ReplaceFile, KeepsTheOwner) {
+  if (geteuid() != 0) GTEST_SKIP() << "only root may write others' files";
+  const TempFolder folder;
+  const std::string path = folder.Put("theirs", "old");
+  ASSERT_EQ(chown(path.c_str(), 1234, 2345), 0);
+  EXPECT_EQ(ReplaceFile(path, "new"), 0);
+  struct stat state {};
+  ASSERT_EQ(stat(path.c_str(), &state), 0);
+  EXPECT_EQ(state.st_uid, 1234U);
+  EXPECT_EQ(state.st_gid, 2345U);
+}
+
+TEST(ReplaceFile, TellsTheErrorAndLeavesNothingBehind) {
+  const TempFolder folder;
+  const std::string path = folder.Put("old", "old content");
+  const struct {
+    std::string path;
+    int error;
+  } cases[] = {
+      {folder.Path(), EISDIR},
+      {folder.Path() + "/", EISDIR},
+      {folder.File("missing/file"), ENOENT},
+      {folder.File("new/"), ENOENT},
+      {folder.File("old/file"), ENOTDIR},
+      {"/dev/full", ENOSPC},
+      {folder.File(std::string(256, 'x')), ENAMETOOLONG},
+  };
+  for (const auto& c : cases) EXPECT_EQ(ReplaceFile(c.path, "bytes"), c.error) << c.path;
+  EXPECT_TRUE(fs::is_character_file("/dev/full"));
+  {
+    const FullDisk full(4096);
+    EXPECT_EQ(ReplaceFile(path, std::string(5000, 'x')), EFBIG);
+    EXPECT_EQ(ReplaceFile(folder.File("new"), std::string(5000, 'x')), EFBIG);
+  }
+  EXPECT_EQ(Content(path), "old content");
+  EXPECT_EQ(EntriesOf(folder), 1U);
+}
+
+TEST(ReplaceFile, RespectsAReadOnlyFile) {
+  const TempFolder folder;
+  const std::string path = folder.Put("read only", "old");
+  fs::permissions(path, fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
+  fs::permissions(folder.Path(), fs::perms::all);
+  AsOrdinaryUser([&] { EXPECT_EQ(ReplaceFile(path, "new"), EACCES); });
+  EXPECT_EQ(Content(path), "old");
+}
+
+TEST(ReplaceFile, WritesInPlaceWhereTheFolderRefuses) {
+  const TempFolder folder;
+  const std::string path = folder.Put("file", "old content");
+  fs::permissions(path, fs::perms::all);
+  const auto readable = fs::perms::all & ~(fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write);
+  const auto sticky = fs::perms::all | fs::perms::sticky_bit;  // as the common temporary folder
+  for (const auto mode : {readable, sticky}) {
+    fs::permissions(folder.Path(), mode);
+    AsOrdinaryUser([&] {
+      for (const std::string& content : {std::string("short"), std::string(100'000, 'x'), std::string()}) {
+        EXPECT_EQ(ReplaceFile(path, content), 0);
+        EXPECT_TRUE(Content(path) == content) << content.size();
+      }
+      EXPECT_EQ(ReplaceFile(path, "old content"), 0);
+      const FullDisk full(4096);
+      EXPECT_EQ(ReplaceFile(path, std::string(5000, 'x')), EFBIG);
+    });
+    EXPECT_EQ(Content(path), "old content");
+    EXPECT_EQ(EntriesOf(folder), 1U);
+  }
+  fs::permissions(folder.Path(), readable);
+  AsOrdinaryUser([&] { EXPECT_EQ(ReplaceFile(folder.File("new"), "x"), EACCES); });
+}
+
+}  // namespace
+}  // namespace pelmar

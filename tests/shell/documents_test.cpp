@@ -1,0 +1,167 @@
+#include "shell/documents.h"
+
+#include <gtest/gtest.h>
+
+#include "shell/common.h"
+#include "shell/rescue_file.h"
+#include "shell/session.h"
+
+namespace pelmar {
+namespace {
+
+struct DocumentsTest : testing::Test {
+  TextBuffer text;
+  Documents documents{text};
+
+  // What opening a file does to the documents.
+  void Adopt(const std::string& path, const std::string& content) {
+    documents.SetCurrentPath(path);
+    text.SetText(content);
+    documents.Target().Prime(path);
+    documents.ShowPathInTitle();
+    documents.ShowPathOnTab();
+    documents.SettleSlot();
+  }
+  void Type(const std::string& more) {
+    text.SetSelStart(text.Size());
+    text.Type(more);
+  }
+};
+
+TEST_F(DocumentsTest, ChangeMarksTheTitleAndFillsTheSlot) {
+  EXPECT_EQ(documents.Title(), "Pelmar VEX ()");
+  Type("a");
+  EXPECT_EQ(documents.Title(), "Pelmar VEX ()*");
+  Type("b");
+  EXPECT_EQ(documents.Title(), "Pelmar VEX ()*");
+  EXPECT_EQ(documents.Slot(1).Text, "ab");
+  EXPECT_FALSE(documents.Slot(1).Modified);  // the mark of the current tab lives in the title alone
+  EXPECT_EQ(documents.UnsavedCount(), 1);
+}
+
+TEST_F(DocumentsTest, SwitchingKeepsTextPathAndMark) {
+  Adopt("/a/one.txt", "one");
+  EXPECT_EQ(documents.Face(1).Caption, "one.txt");
+  EXPECT_EQ(documents.Face(1).ToolTipText, "/a/one.txt");
+  Type("!");
+  documents.SwitchTo(3);
+  EXPECT_EQ(text.Text(), "");
+  EXPECT_EQ(documents.CurrentPath(), "");
+  EXPECT_EQ(documents.Title(), "Pelmar VEX ()");
+  EXPECT_TRUE(documents.Slot(1).Modified);
+  Type("three");
+  EXPECT_EQ(documents.UnsavedCount(), 2);
+  documents.SwitchTo(1);
+  EXPECT_EQ(text.Text(), "one!");
+  EXPECT_EQ(text.SelStart(), 0u);
+  EXPECT_FALSE(text.CanUndo());
+  EXPECT_EQ(documents.Title(), "Pelmar VEX (/a/one.txt)*");
+  EXPECT_EQ(documents.UnsavedCount(), 2);  // by its flag and by the title, but once
+}
+
+// required: the change that a switch raises still writes the path of the tab that was left
+TEST_F(DocumentsTest, EnteredSlotHoldsTheLeftPathUntilTheNextChange) {
+  Adopt("/a/one.txt", "one");
+  documents.SwitchTo(2);
+  EXPECT_EQ(documents.Slot(2).Path, "/a/one.txt");
+  EXPECT_NE(AllFilesText(documents).find("Soubor:/a/one.txt\r\n\r\n\r\n"), std::string::npos);
+  Type("x");
+  EXPECT_EQ(documents.Slot(2).Path, "");
+  documents.SwitchTo(1);
+  documents.SwitchTo(4);
+  EXPECT_EQ(documents.Slot(4).Path, "/a/one.txt");
+  documents.SwitchTo(5);  // two empty texts: no change, so the slot keeps its path
+  EXPECT_EQ(documents.Slot(5).Path, "");
+}
+
+TEST_F(DocumentsTest, OnlyDocumentsWithAPathPrimeTheSaveDialog) {
+  Adopt("/a/one.txt", "one");
+  documents.SwitchTo(2);
+  documents.Target().name = "kept";
+  documents.SwitchTo(3);
+  EXPECT_EQ(documents.Target().name, "kept");
+  documents.SwitchTo(1);
+  EXPECT_EQ(documents.Target().drive, "/a/");
+  EXPECT_EQ(documents.Target().folder, "/a/");
+  EXPECT_EQ(documents.Target().name, "one");
+  EXPECT_EQ(documents.Target().extension, "txt");
+  EXPECT_EQ(documents.Target().label, "/a/one.txt");
+}
+
+TEST_F(DocumentsTest, PrimingBreaksOffAtANameWithoutDot) {
+  documents.Target().Prime("/a/one.txt");
+  EXPECT_THROW(documents.Target().Prime("/b/README"), RuntimeError);
+  EXPECT_EQ(documents.Target().folder, "/b/");
+  EXPECT_EQ(documents.Target().name, "one");
+  EXPECT_FALSE(documents.Target().complete);
+}
+
+TEST_F(DocumentsTest, ClearCurrentLeavesTheOldPathInTheSlot) {
+  Adopt("/a/one.txt", "one");
+  Type("!");
+  documents.ClearCurrent();
+  EXPECT_EQ(documents.Title(), "Pelmar VEX ()");
+  EXPECT_EQ(documents.CurrentPath(), "");
+  EXPECT_EQ(documents.Face(1).Caption, "");
+  EXPECT_EQ(documents.Face(1).ToolTipText, "");
+  EXPECT_EQ(documents.Slot(1).Path, "/a/one.txt");  // required: written back by the change
+  EXPECT_FALSE(documents.Slot(1).Modified);
+  EXPECT_EQ(documents.UnsavedCount(), 0);
+}
+
+TEST_F(DocumentsTest, AllFilesTextHasABlockForEachSlot) {
+  Adopt("/a/one.txt", "one");
+  EXPECT_EQ(AllFilesText(documents),
+            "Soubor:/a/one.txt\r\none\r\n\r\n"
+            "Soubor:\r\n\r\n\r\nSoubor:\r\n\r\n\r\nSoubor:\r\n\r\n\r\nSoubor:\r\n\r\n\r\n");
+}
+
+TEST_F(DocumentsTest, RescueKeepsExactlyTheUnsavedDocuments) {
+  Adopt("/a/one.txt", "one");
+  Type("!");
+  documents.SwitchTo(2);
+  Adopt("/a/two.txt", "two");  // saved
+  documents.SwitchTo(4);
+  Type("never saved");
+  const RescueRecord kept = UnsavedDocuments(documents);
+  EXPECT_EQ(kept, (RescueRecord{4, {{1, "/a/one.txt", "one!"}, {4, "", "never saved"}}}));
+  EXPECT_EQ(ReadRescue(RescueBytes(kept)), kept);
+}
+
+TEST(Rescue, TornOrForeignBytesAreNoRescue) {
+  const std::string bytes = RescueBytes({2, {{2, "/x", std::string(300, 'y')}, {5, "", "z"}}});
+  for (std::size_t length = 0; length < bytes.size(); ++length)
+    EXPECT_FALSE(ReadRescue(std::string_view(bytes).substr(0, length))) << length;
+  for (std::size_t i = 0; i < bytes.size(); i += 7) {
+    std::string damaged = bytes;
+    damaged[i] = static_cast<char>(damaged[i] ^ 0x20);
+    EXPECT_FALSE(ReadRescue(damaged)) << i;
+  }
+}
+
+TEST_F(DocumentsTest, RescuedDocumentsComeBackIntoTheirTabs) {
+  EXPECT_TRUE(BringBack(documents, {{4, {{1, "/a/one.txt", "one!"}, {4, "", "new"}}}}).empty());
+  EXPECT_EQ(documents.SelectedTab(), 4);
+  EXPECT_EQ(text.Text(), "new");
+  EXPECT_EQ(documents.Title(), "Pelmar VEX ()*");
+  documents.SwitchTo(1);
+  EXPECT_EQ(documents.Title(), "Pelmar VEX (/a/one.txt)*");
+  EXPECT_EQ(documents.Face(1).Caption, "one.txt");
+  EXPECT_EQ(documents.UnsavedCount(), 2);
+}
+
+TEST_F(DocumentsTest, RescueNeverOverwritesADocumentOfThisRun) {
+  Adopt("/given.txt", "given");
+  const RescueRecord first{1, {{1, "/a/README", "1"}, {2, "", "2"}, {3, "", "3"}, {4, "", "4"}, {5, "", "5"}}};
+  const auto left = BringBack(documents, {first});
+  ASSERT_EQ(left.size(), 1u);  // four free tabs, five documents
+  EXPECT_EQ(left[0].text, "5");
+  EXPECT_EQ(documents.Slot(1).Text, "given");
+  EXPECT_EQ(documents.Slot(2).Text, "1");
+  documents.SwitchTo(1);
+  documents.SwitchTo(2);  // a name without a full stop doesn't break the switch
+  EXPECT_EQ(documents.CurrentPath(), "/a/README");
+}
+
+}  // namespace
+}  // namespace pelmar

@@ -1,0 +1,83 @@
+#include "shell/window_geometry.h"
+
+#include <gtest/gtest.h>
+
+namespace pelmar {
+namespace {
+
+constexpr int kScreenWidth = 28800;
+constexpr int kScreenHeight = 16200;
+
+TEST(Snap, PullsWindowsToTheEdges) {
+  const struct {
+    const char* what;
+    TwipsRect before, after;
+  } cases[] = {
+      {"nearer than the distance", {239, 239, 9000, 6000}, {0, 0, 9000, 6000}},
+      {"as far as the distance", {240, 240, 9000, 6000}, {240, 240, 9000, 6000}},
+      {"right and bottom", {19700, 10000, 9000, 6000}, {19800, 10200, 9000, 6000}},
+      {"off the screen", {-3000, -200, 9000, 6000}, {0, 0, 9000, 6000}},
+      {"beyond the right edge", {28000, 5000, 9000, 6000}, {19800, 5000, 9000, 6000}},
+      {"almost as wide as the screen", {100, 5000, 28600, 6000}, {0, 5000, 28800, 6000}},
+      {"almost as high", {5000, 100, 9000, 16000}, {5000, 0, 9000, 16200}},
+      {"wider than the screen", {100, 5000, 30000, 6000}, {0, 5000, 28800, 6000}},
+  };
+  for (const auto& c : cases) EXPECT_EQ(Snap(c.before, 240, kScreenWidth, kScreenHeight), c.after) << c.what;
+}
+
+// required: the sum counts panel 4 itself, so two widths take turns
+TEST(SparePanelWidth, AlternatesOnceBothWidthsAreAboveZero) {
+  std::array<int, kPanelCount> widths = {1500, 1500, 1500, 0, 500, 500, 500};
+  EXPECT_EQ(SparePanelWidth(12420, widths), 6000);
+  widths[3] = 6000;
+  EXPECT_EQ(SparePanelWidth(12420, widths), std::nullopt);
+  EXPECT_EQ(SparePanelWidth(12520, widths), 100);
+  widths[3] = 100;
+  EXPECT_EQ(SparePanelWidth(12520, widths), 6000);
+}
+
+LayoutInput Window() {
+  LayoutInput in;
+  in.outer_width = 12000;
+  in.inner_width = 11900;
+  in.inner_height = 8000;
+  in.toolbar_height = 500;
+  in.bar_height = 300;
+  in.panel_widths = {1000, 1000, 1000, 0, 500, 500, 500};
+  return in;
+}
+
+TEST(Layout, FollowsTheBarsThatAreVisible) {
+  LayoutResult out = ComputeLayout(Window());
+  EXPECT_EQ(out.text_width, 11540);
+  EXPECT_EQ(out.tabs_width, 11900);
+  EXPECT_EQ(out.text_top, 500);
+  EXPECT_EQ(out.text_height, 7210);
+  EXPECT_EQ(out.panel4_width, 7080);
+  EXPECT_EQ(out.grow_outer_height, 0);
+  LayoutInput bare = Window();
+  bare.toolbar_visible = bare.bar_visible = bare.tabs_visible = false;
+  out = ComputeLayout(bare);
+  EXPECT_EQ(out.text_width, 11900);
+  EXPECT_EQ(out.tabs_width, std::nullopt);
+  EXPECT_EQ(out.text_top, 0);
+  EXPECT_EQ(out.text_height, 8010);
+}
+
+TEST(Layout, KeepsRoomForItsBars) {
+  LayoutInput in = Window();
+  in.inner_height = 1069;
+  EXPECT_EQ(ComputeLayout(in).grow_outer_height, 1);
+  in.bar_visible = false;
+  EXPECT_EQ(ComputeLayout(in).grow_outer_height, 0);
+  in.inner_height = 0;
+  EXPECT_EQ(ComputeLayout(in).grow_outer_height, 0);
+  in.minimised = true;
+  const LayoutResult out = ComputeLayout(in);
+  EXPECT_EQ(out.text_width, std::nullopt);
+  EXPECT_EQ(out.panel4_width, std::nullopt);
+  EXPECT_EQ(out.text_top, 500);
+}
+
+}  // namespace
+}  // namespace pelmar

@@ -1,0 +1,220 @@
+#include "shell/windows/main_window.h"
+
+#include <gtest/gtest.h>
+
+#include <QMenu>
+#include <QMimeData>
+#include <QSignalSpy>
+#include <QTest>
+
+#include "platform/qt/convert.h"
+#include "shell/windows/status_timer.h"
+#include "support/scripted_platform.h"
+#include "text/codepage.h"
+
+namespace pelmar {
+namespace {
+
+struct MainWindowTest : testing::Test {
+  ScriptedPlatform platform;
+  Editor editor{platform};
+  MainWindow window{editor};
+  StatusTimer timer{window, editor};
+
+  MainWindowTest() {
+    window.SetPlace({3000, 3000, 15000, 9000});
+    window.show();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
+    window.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+  }
+  void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QTest::keyClick(&window.Text(), key, modifiers);
+  }
+  template <class Type>
+  Type* Find(const char* name) {
+    return window.findChild<Type*>(QString::fromUtf8(name));
+  }
+};
+
+TEST_F(MainWindowTest, EveryItemAndButtonIsThereUnderItsName) {
+  for (const MenuItem& item : MenuItems()) {
+    QAction* action = window.Menus().Action(item.name);
+    EXPECT_EQ(Utf8FromQString(action->objectName()), item.name);
+    if (item.kind == MenuKind::kSeparator) continue;
+    EXPECT_EQ(Utf8FromQString(action->text()), item.caption);
+    EXPECT_EQ(action->shortcut(), QKeySequence(Utf8ToQString(item.shortcut))) << item.name;
+    EXPECT_EQ(action->isChecked(), item.kind == MenuKind::kToggleOn) << item.name;
+  }
+  EXPECT_EQ(Find<QAction>("Mnu_Sort_Lines")->text(), QStringLiteral("&Seřadit řádky podle abedcedy"));
+  EXPECT_EQ(window.Menus().Submenu("mnuhtml")->actions().at(6)->objectName(), QStringLiteral("mnuframes"));
+  QStringList keys;
+  for (const QAction* action : window.Toolbar().actions())
+    keys.append(action->isSeparator() ? QStringLiteral("|") : action->objectName());
+  EXPECT_EQ(
+      keys.join(QLatin1Char(' ')),
+      QStringLiteral("New Newhtml Open | Recent | Save Cut Copy Paste Find Image Bold Italic Underline Center Table "
+                     "| Link Line | Help Print Dos Lock Browser"));
+  for (int panel = 1; panel <= kPanelCount; ++panel)
+    EXPECT_NE(window.findChild<QLabel*>(QStringLiteral("Panel%1").arg(panel)), nullptr);
+}
+
+TEST_F(MainWindowTest, MenuKeysComeBeforeTheTextBox) {
+  Press(Qt::Key_A);
+  Press(Qt::Key_T, Qt::ControlModifier);
+  Press(Qt::Key_C, Qt::ControlModifier);
+  Press(Qt::Key_Z, Qt::ControlModifier);
+  Press(Qt::Key_Return);
+  EXPECT_EQ(editor.text.Text(), "a<B>Tučně</B><CENTER> Centrovaný text </CENTER>@\r\n"_w);
+  Press(Qt::Key_A, Qt::ControlModifier);  // a disabled command's key does nothing, and selects nothing
+  EXPECT_FALSE(editor.text.HasSelection());
+  EXPECT_EQ(window.windowTitle(), QStringLiteral("Pelmar VEX ()*"));
+}
+
+TEST_F(MainWindowTest, ClickingATabSwitchesTheDocument) {
+  editor.text.SetText("first");
+  auto* tabs = Find<QTabBar>("FileTab");
+  QTest::mouseClick(tabs, Qt::LeftButton, {}, QPoint(tabs->width() - 5, tabs->tabRect(2).center().y()));
+  EXPECT_EQ(editor.documents.SelectedTab(), 3);
+  EXPECT_EQ(editor.text.Text(), "");
+  editor.documents.SwitchTo(1);
+  EXPECT_EQ(tabs->currentIndex(), 0);
+  platform.files["/a/b&c.txt"] = "x";
+  editor.opener.OpenPath("/a/b&c.txt");
+  EXPECT_EQ(tabs->tabText(0), QStringLiteral("b&&c.txt"));
+  EXPECT_EQ(tabs->tabToolTip(0), QStringLiteral("/a/b&c.txt"));
+  QTest::keyClick(&window.Text(), Qt::Key_Tab, Qt::ControlModifier);
+  EXPECT_EQ(editor.documents.SelectedTab(), 2);
+}
+
+TEST_F(MainWindowTest, TitleShowsPlaceholdersAsTheyAre) {
+  platform.files["/a[*].txt"] = "x";
+  editor.opener.OpenPath("/a[*].txt");
+  // The toolkit turns doubled placeholders into plain ones when it sets the system's title.
+  EXPECT_EQ(window.windowTitle(), QStringLiteral("Pelmar VEX (/a[*][*].txt)"));
+}
+
+TEST_F(MainWindowTest, TickSetsMenusAndPanels) {
+  timer.Tick();
+  EXPECT_FALSE(Find<QAction>("mnuseek")->isEnabled());
+  EXPECT_FALSE(Find<QAction>("mnuclean")->isEnabled());
+  EXPECT_FALSE(Find<QAction>("Mnu_SaveFast")->isEnabled());
+  EXPECT_EQ(Find<QLabel>("Panel4")->text(), QStringLiteral("Výběr : "));
+  editor.text.SetText("ab\r\n");
+  editor.text.Select(0, 4);
+  platform.clipboard = "clip";
+  editor.settings.LineCounting = true;
+  EXPECT_FALSE(Find<QAction>("mnuulvyb")->isEnabled());  // only as fresh as the last tick
+  timer.Tick();
+  EXPECT_TRUE(Find<QAction>("mnuseek")->isEnabled());
+  EXPECT_TRUE(Find<QAction>("mnuclean")->isEnabled());
+  EXPECT_TRUE(Find<QAction>("mnuulvyb")->isEnabled());
+  EXPECT_FALSE(Find<QAction>("mnusmall")->isEnabled());  // nothing serves it yet
+  EXPECT_EQ(Find<QLabel>("Panel1")->text(), QStringLiteral("Znaky Výběru : 4"));
+  EXPECT_EQ(Find<QLabel>("Panel3")->text(), QStringLiteral("Řádeky 0-1 z 1"));
+  QTest::mouseClick(Find<QWidget>("Panel3"), Qt::LeftButton);
+  EXPECT_FALSE(editor.settings.LineCounting);
+  QTest::mouseDClick(Find<QWidget>("Panel3"), Qt::LeftButton);
+  EXPECT_TRUE(editor.settings.LineCounting);
+}
+
+TEST_F(MainWindowTest, BarsStandStillWhileAnotherWindowIsActive) {
+  timer.Tick();
+  QWidget other;
+  other.show();
+  other.activateWindow();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&other));
+  EXPECT_FALSE(window.MainActive());
+  editor.text.SetText("text");
+  timer.Tick();
+  EXPECT_EQ(Find<QLabel>("Panel1")->text(), QStringLiteral("Počet znaků : 0"));
+  window.activateWindow();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+  timer.Tick();
+  EXPECT_EQ(Find<QLabel>("Panel1")->text(), QStringLiteral("Počet znaků : 4"));
+  EXPECT_TRUE(window.Text().hasFocus());
+}
+
+TEST_F(MainWindowTest, TogglesHideAndShowTheBars) {
+  const int with_bars = window.Text().height();
+  const int with_tabs = window.Text().width();
+  EXPECT_EQ(with_tabs, Find<QTabBar>("FileTab")->width() - 24);
+  for (const char* item : {"MnuTS", "MnuSBS", "mnuFTS"}) Find<QAction>(item)->trigger();
+  EXPECT_TRUE(Find<QToolBar>("Toolbar1")->isHidden());
+  EXPECT_EQ(window.Text().y(), 0);
+  EXPECT_GT(window.Text().height(), with_bars);
+  EXPECT_EQ(window.Text().width(), with_tabs + 24);
+  for (const char* item : {"MnuTS", "MnuSBS", "mnuFTS"}) Find<QAction>(item)->trigger();
+  EXPECT_EQ(window.Text().height(), with_bars);
+}
+
+TEST_F(MainWindowTest, AlwaysOnTopFlipsFlagAndMarkEachOnItsOwn) {
+  editor.settings.AlwaysOnTopFlag = true;
+  QAction* item = Find<QAction>("MnuAllTop");
+  item->trigger();  // required: after a start with the flag set, the mark says the opposite
+  EXPECT_FALSE(editor.settings.AlwaysOnTopFlag);
+  EXPECT_TRUE(item->isChecked());
+  item->trigger();
+  EXPECT_TRUE(editor.settings.AlwaysOnTopFlag);
+  EXPECT_FALSE(item->isChecked());
+}
+
+TEST_F(MainWindowTest, RecentMenuShowsAndOpensTheEntries) {
+  platform.files["/one&two.txt"] = "1";
+  platform.files["/three.txt"] = "3";
+  editor.opener.OpenPath("/one&two.txt");
+  editor.opener.OpenPath("/three.txt");
+  EXPECT_EQ(Find<QAction>("M1")->text(), QStringLiteral("&0 /three.txt"));
+  EXPECT_EQ(Find<QAction>("M2")->text(), QStringLiteral("&1 /one&&two.txt"));
+  EXPECT_EQ(Find<QAction>("M10")->text(), QStringLiteral("&9 "));
+  Find<QAction>("M2")->trigger();
+  EXPECT_EQ(editor.text.Text(), "1");
+}
+
+TEST_F(MainWindowTest, LookComesBackAsItWasSet) {
+  window.SetEditorFont(std::string("DejaVu Sans Mono"));
+  window.SetEditorFontSize(14);
+  window.SetEditorBold(true);
+  window.SetEditorColors(Rgb(1, 2, 3), Rgb(250, 251, 252));
+  const EditorLook look = window.Look();
+  EXPECT_EQ(look.font_name, "DejaVu Sans Mono");
+  EXPECT_EQ(look.font_size, 14);
+  EXPECT_TRUE(look.bold);
+  EXPECT_FALSE(look.italic);
+  EXPECT_EQ(look.fore_color, Rgb(1, 2, 3));
+  EXPECT_EQ(look.back_color, Rgb(250, 251, 252));
+  EXPECT_TRUE(Find<QAction>("mnu14")->isChecked());
+  EXPECT_FALSE(Find<QAction>("mnu08")->isChecked());
+  EXPECT_TRUE(Find<QAction>("mnuEditBold")->isChecked());
+}
+
+TEST_F(MainWindowTest, ADroppedFileIsOpenedAfterAQuestion) {
+  platform.files["/a/b.txt"] = "dropped";
+  QMimeData mime;
+  mime.setUrls({QUrl(QStringLiteral("http://x.cz/")), QUrl::fromLocalFile(QStringLiteral("/a/b.txt"))});
+  for (const Answer answer : {Answer::kNo, Answer::kYes}) {
+    platform.answers = {answer};
+    QDragEnterEvent enter(QPoint(50, 50), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&window, &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent drop(QPointF(50, 50), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&window, &drop);
+    EXPECT_EQ(platform.answers.size(), 1u);  // not while the other program waits for the drop
+    QApplication::processEvents();
+    EXPECT_TRUE(platform.answers.empty());
+    EXPECT_EQ(editor.text.Text(), answer == Answer::kYes ? "dropped" : "");
+  }
+}
+
+TEST_F(MainWindowTest, ARefusedCloseKeepsTheWindow) {
+  bool may_close = false;
+  window.may_close = [&] { return may_close; };
+  Find<QAction>("mnuquit")->trigger();
+  EXPECT_TRUE(window.isVisible());
+  may_close = true;
+  window.close();
+  EXPECT_FALSE(window.isVisible());
+}
+
+}  // namespace
+}  // namespace pelmar

@@ -1,0 +1,118 @@
+#include "support/scripted_platform.h"
+
+#include <cerrno>
+#include <stdexcept>
+#include <utility>
+
+#include "text/codepage.h"
+
+namespace pelmar {
+namespace {
+
+std::string Quoted(std::string_view text) { return '"' + std::string(text) + '"'; }
+
+template <typename Value>
+Value Take(std::deque<Value>& queue, const std::string& call) {
+  if (queue.empty()) throw std::logic_error("nobody answers " + call);
+  Value answer = std::move(queue.front());
+  queue.pop_front();
+  return answer;
+}
+
+}  // namespace
+
+std::vector<std::string> ScriptedPlatform::TakeCalls() { return std::exchange(calls, {}); }
+
+Answer ScriptedPlatform::Message(MessageType type, std::string_view text, std::string_view title) {
+  calls.push_back("message " + std::to_string(static_cast<int>(type)) + ' ' + Quoted(text) + ' ' + Quoted(title));
+  const Answer answer = Take(answers, calls.back());
+  const bool question = type == MessageType::kYesNoWarning || type == MessageType::kYesNoStop;
+  if (question == (answer == Answer::kOk)) throw std::logic_error("no such button: " + calls.back());
+  return answer;
+}
+
+std::optional<std::string> ScriptedPlatform::InputBox(std::string_view prompt, std::string_view title,
+                                                      std::string_view initial) {
+  calls.push_back("input " + Quoted(prompt) + ' ' + Quoted(title) + ' ' + Quoted(initial));
+  return Take(inputs, calls.back());
+}
+
+std::optional<std::string> ScriptedPlatform::OpenDialog(std::string_view filter, int filter_index) {
+  calls.push_back("open " + Quoted(filter) + ' ' + std::to_string(filter_index));
+  return Take(opens, calls.back());
+}
+
+std::optional<std::string> ScriptedPlatform::SaveDialog(std::string_view filter, int filter_index) {
+  calls.push_back("save " + Quoted(filter) + ' ' + std::to_string(filter_index));
+  return Take(saves, calls.back());
+}
+
+std::string ScriptedPlatform::ClipboardText() { return clipboard.value_or(std::string()); }
+
+bool ScriptedPlatform::ClipboardHasText() { return clipboard.has_value(); }
+
+void ScriptedPlatform::SetClipboardText(std::string_view text) {
+  calls.push_back("clipboard " + Quoted(text));
+  clipboard = std::string(text);
+}
+
+void ScriptedPlatform::ClearClipboard() {
+  calls.emplace_back("clipboard clear");
+  clipboard.reset();
+}
+
+int ScriptedPlatform::ReadError(const std::string& path) const {
+  if (const auto error = read_errors.find(path); error != read_errors.end()) return error->second;
+  if (path.ends_with('/') || files.contains(path + '/')) return EISDIR;
+  return files.contains(path) ? 0 : ENOENT;
+}
+
+bool ScriptedPlatform::CanRead(const std::string& path) { return ReadError(path) == 0; }
+
+FileBytes ScriptedPlatform::ReadFile(const std::string& path, std::optional<std::uint64_t> limit) {
+  if (const int error = ReadError(path)) return {.error = error, .bytes = {}};
+  return {.error = 0, .bytes = files[path].substr(0, limit.value_or(std::string::npos))};
+}
+
+int ScriptedPlatform::WriteFile(const std::string& path, std::string_view bytes) {
+  calls.push_back("write " + path);
+  if (const auto error = write_errors.find(path); error != write_errors.end()) return error->second;
+  if (path.ends_with('/') || files.contains(path + '/')) return EISDIR;
+  files[path] = std::string(bytes);
+  return 0;
+}
+
+bool ScriptedPlatform::RemoveFile(const std::string& path) {
+  calls.push_back("remove " + path);
+  return files.erase(path) != 0;
+}
+
+void ScriptedPlatform::AddToRecentDocuments(const std::string& path) { calls.push_back("recent " + path); }
+
+bool ScriptedPlatform::OpenWithDefaultProgram(const std::string& path) {
+  calls.push_back("default program " + path);
+  return opens_programs;
+}
+
+bool ScriptedPlatform::StartAnotherCopy() {
+  calls.emplace_back("start copy");
+  return opens_programs;
+}
+
+double ScriptedPlatform::Random() {
+  if (draws.empty()) return 0.25 * (drawn_++ % 4);
+  const double draw = draws.front();
+  draws.pop_front();
+  return draw;
+}
+
+int ScriptedPlatform::CompareText(std::string_view left, std::string_view right) {
+  return ToUpper(left).compare(ToUpper(right));
+}
+
+void ScriptedPlatform::SetBusyPointer(bool busy_now) {
+  calls.emplace_back(busy_now ? "busy 1" : "busy 0");
+  busy += busy_now ? 1 : -1;
+}
+
+}  // namespace pelmar

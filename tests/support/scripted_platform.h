@@ -1,0 +1,74 @@
+// A platform without a screen: it writes down what a person or the system would notice and answers from queues that
+// the test fills. A question without an answer throws std::logic_error, so that no test passes by an answer that it
+// didn't give. Files lie in memory; a path ending in "/" in `files` is a folder.
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/platform.h"
+
+namespace pelmar {
+
+class ScriptedPlatform : public Platform {
+ public:
+  // One string a call, in order, texts as they were given: `message 52 "text" "title"`, `input "prompt" "title"
+  // "initial"`, `open "filter" 2`, `save "filter" 2`, `write path` (also a failed one), `remove path`, `recent path`,
+  // `default program path`, `start copy`, `clipboard "text"`, `clipboard clear`, `busy 1`. Reading leaves no trace.
+  std::vector<std::string> calls;
+  // The calls so far, which are then forgotten.
+  std::vector<std::string> TakeCalls();
+
+  std::deque<Answer> answers;  // to messages; an OK box takes only kOk, a question only kYes and kNo
+  std::deque<std::optional<std::string>> inputs, opens, saves;
+
+  std::map<std::string, std::string> files;
+  std::map<std::string, int> read_errors, write_errors;  // errno by path
+  std::optional<std::string> clipboard;
+
+  LocalTime now{2024, 5, 6, 7, 8, 9};
+  KeyStates keys;
+  std::deque<double> draws;  // Random() takes these first, then 0, 0.25, 0.5 and 0.75 in turn.
+  int reseeds = 0;
+  std::string install_folder = "/install/", temp_folder = "/tmp/";
+  bool opens_programs = true;  // what OpenWithDefaultProgram and StartAnotherCopy answer
+  int busy = 0;                // how many busy pointers are in force
+
+  Answer Message(MessageType type, std::string_view text, std::string_view title) override;
+  std::optional<std::string> InputBox(std::string_view prompt, std::string_view title,
+                                      std::string_view initial) override;
+  std::optional<std::string> OpenDialog(std::string_view filter, int filter_index) override;
+  std::optional<std::string> SaveDialog(std::string_view filter, int filter_index) override;
+  std::string ClipboardText() override;
+  bool ClipboardHasText() override;
+  void SetClipboardText(std::string_view text) override;
+  void ClearClipboard() override;
+  bool CanRead(const std::string& path) override;
+  FileBytes ReadFile(const std::string& path, std::optional<std::uint64_t> limit) override;
+  int WriteFile(const std::string& path, std::string_view bytes) override;
+  bool RemoveFile(const std::string& path) override;
+  std::string InstallFolder() override { return install_folder; }
+  std::string TempFolder() override { return temp_folder; }
+  void AddToRecentDocuments(const std::string& path) override;
+  bool OpenWithDefaultProgram(const std::string& path) override;
+  bool StartAnotherCopy() override;
+  LocalTime Now() override { return now; }
+  KeyStates Keys() override { return keys; }
+  double Random() override;
+  void ReseedRandom() override { ++reseeds; }
+  // By the codes of the upper-case letters: the Czech order is the real platform's affair.
+  int CompareText(std::string_view left, std::string_view right) override;
+  void SetBusyPointer(bool busy_now) override;
+
+ private:
+  [[nodiscard]] int ReadError(const std::string& path) const;
+
+  int drawn_ = 0;
+};
+
+}  // namespace pelmar
