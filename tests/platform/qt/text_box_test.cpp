@@ -8,6 +8,7 @@
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
+#include <random>
 
 #include "platform/qt/clipboard_text.h"
 #include "platform/qt/convert.h"
@@ -336,6 +337,60 @@ TEST_F(TextBoxTest, ScrollsAsFarAsTheCaretNeeds) {
   EXPECT_TRUE(row.begin <= top && top < row.end) << row.begin << " " << top;
 }
 
+TEST_F(TextBoxTest, WhatIsRepaintedInPartsEqualsTheWhole) {
+  std::mt19937 random(11);
+  const auto piece = [&](std::size_t longest) {
+    std::string text;
+    for (std::size_t left = random() % longest + 1; left > 0; --left)
+      text += random() % 14 == 0 ? "\r\n"s : std::string(1, "abcdefg mnop\t\x02"[random() % 14]);
+    return text;
+  };
+  constexpr Qt::Alignment alignments[] = {Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignRight};
+  box->setFrameShape(QFrame::NoFrame);
+  for (int round = 0; round < 6; ++round) {
+    box->setWordWrap(round % 2 == 0);
+    box->setAlignment(alignments[round % 3]);
+    Set(piece(3000));
+    for (int step = 0; step < 60; ++step) {
+      const std::size_t pos = random() % (box->Buffer().Size() + 1);
+      switch (random() % 9) {
+        case 0:
+          box->Buffer().Select(pos, std::min(pos + random() % 200, box->Buffer().Size()));
+          break;
+        case 1:
+          box->Buffer().Replace(pos, random() % 30, piece(30));
+          break;
+        case 2:
+          box->verticalScrollBar()->setValue(static_cast<int>(random() % 900));
+          break;
+        case 3:
+          box->horizontalScrollBar()->setValue(static_cast<int>(random() % 900));
+          break;
+        case 4:
+          Key(Qt::Key_Backspace, Qt::AltModifier);
+          break;
+        case 5:
+          Key(Qt::Key_PageDown, random() % 2 == 0 ? Qt::ShiftModifier : Qt::NoModifier);
+          break;
+        case 6:
+          Key(Qt::Key_Return);
+          break;
+        case 7:
+          Compose(random() % 2 == 0 ? QString() : QStringLiteral("´ě"), {});
+          break;
+        default:
+          Key(Qt::Key_X);
+          break;
+      }
+      QApplication::processEvents();
+      const QImage seen = window.screen()->grabWindow(window.winId()).toImage().convertToFormat(QImage::Format_RGB32);
+      const QImage whole = window.grab().toImage().convertToFormat(QImage::Format_RGB32);
+      ASSERT_EQ(seen.size(), whole.size());
+      ASSERT_TRUE(seen == whole) << "round " << round << " step " << step;
+    }
+  }
+}
+
 TEST_F(TextBoxTest, HiddenBoxesFollowWhenTheyAreShown) {
   window.hide();
   Set("one\r\n");
@@ -344,6 +399,16 @@ TEST_F(TextBoxTest, HiddenBoxesFollowWhenTheyAreShown) {
   window.show();
   EXPECT_TRUE(box->viewport()->rect().contains(box->CaretRect()));
   EXPECT_EQ(box->PlaceAt(box->CaretRect().center()).pos, box->Buffer().Size());
+}
+
+TEST(TextBox, WorksBeforeItIsShown) {
+  TextBox box;
+  box.resize(300, 200);
+  box.SetText("one two\r\nthree");
+  QTest::keyClick(&box, Qt::Key_End);
+  EXPECT_EQ(box.Buffer().Caret(), 7u);
+  EXPECT_EQ(box.grab().size(), QSize(300, 200));
+  EXPECT_EQ(box.RowSpan(0).end, 9u);
 }
 
 TEST_F(TextBoxTest, TwoBoxesShowOneBufferAndMayGoBeforeIt) {

@@ -2,6 +2,7 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QInputMethod>
 #include <QScrollBar>
 #include <QScroller>
 #include <QStyle>
@@ -28,8 +29,7 @@ TextSpan Difference(TextSpan a, TextSpan b) {
 TextBox::TextBox(QWidget* parent)
     : QAbstractScrollArea(parent),
       own_buffer_(std::make_unique<TextBuffer>()),
-      buffer_(nullptr),
-      view_(std::make_unique<TextView>(*own_buffer_)),
+      view_(std::make_unique<TextView>(*own_buffer_, [this] { return viewport()->width(); })),
       mover_(view_->RawLayout()),
       blink_([this] { viewport()->update(shown_caret_); }, nullptr),
       mouse_(*this),
@@ -139,7 +139,10 @@ void TextBox::ShowChange(const TextChange& change) {
   }
   shown_revision_ = buffer_->Revision();
   mover_.Forget();
-  if (change.whole) composer_.Clear();
+  if (change.whole && composer_.Active()) {
+    composer_.Clear();
+    QGuiApplication::inputMethod()->reset();
+  }
   const bool selected = shown_selection_.begin != shown_selection_.end || buffer_->HasSelection();
   shown_selection_ = {buffer_->SelStart(), buffer_->SelEnd()};
   teller_->Changed(change);
@@ -172,8 +175,9 @@ void TextBox::FollowSelection() {
 }
 
 void TextBox::UpdateRows(const RowsChange& rows, bool all_below) {
-  const int top = view_->RowTop(rows.first) - Scrolled().y();
-  const int bottom = all_below ? viewport()->height() : view_->RowTop(rows.first + rows.inserted) - Scrolled().y();
+  const int top = view_->RowTop(rows.first) - Scrolled().y() - TextView::kOverhang;
+  const int end = view_->RowTop(rows.first + rows.inserted) - Scrolled().y() + TextView::kOverhang;
+  const int bottom = all_below ? viewport()->height() : end;
   if (bottom > 0 && top < viewport()->height()) viewport()->update(0, top, viewport()->width(), bottom - top);
 }
 
@@ -254,9 +258,9 @@ QPoint TextBox::CaretPoint() const {
 
 QPoint TextBox::ComposedPoint() const {
   QPoint at = CaretPoint();
-  if (!composer_.Active()) return at;
   const int right = viewport()->width() - TextView::kMargin;
-  at.setX(std::max(std::min(at.x(), right - composer_.Width(font())), TextView::kMargin));
+  if (!composer_.Active() || at.x() > right) return at;
+  at.setX(std::min(at.x(), std::max(right - composer_.Width(font()), TextView::kMargin)));
   return at;
 }
 
@@ -310,6 +314,7 @@ void TextBox::RevealRect(QRect rect) {
 
 void TextBox::ShowCaretAnew() {
   if (!Showing()) return;
+  if (composer_.Active()) viewport()->update();  // composed text goes with the caret
   const QRect caret = CaretRect();
   if (caret != shown_caret_) {
     viewport()->update(shown_caret_);

@@ -155,7 +155,7 @@ class TextBox : public QAbstractScrollArea {
   [[nodiscard]] QPoint ComposedPoint() const;
 
   std::unique_ptr<TextBuffer> own_buffer_;
-  TextBuffer* buffer_;
+  TextBuffer* buffer_ = nullptr;
   std::shared_ptr<bool> listening_;  // false in listeners of buffers that are no longer shown
   std::unique_ptr<TextView> view_;
   CaretMover mover_;

@@ -140,7 +140,7 @@ QVariant TextBox::inputMethodQuery(Qt::InputMethodQuery query) const {
     case Qt::ImReadOnly:
       return read_only_;
     case Qt::ImHints:
-      return QVariant(static_cast<int>(inputMethodHints()));
+      return static_cast<int>(inputMethodHints());
     case Qt::ImCursorRectangle:
       return CaretRect().translated(viewport()->pos());
     case Qt::ImAnchorRectangle:
@@ -182,12 +182,13 @@ void TextBox::paintEvent(QPaintEvent* event) {
   if (composer_.Active()) rows.OpenGap(mover_.Row(*buffer_), buffer_->Caret(), composer_.Width(font()));
 
   const QPoint scrolled = Scrolled();
-  const std::size_t last = view_->RowAt(exposed.bottom() + scrolled.y());
+  const QRect near = exposed.adjusted(0, -TextView::kOverhang, 0, TextView::kOverhang);
   const int height = view_->Glyphs().RowHeight();
-  for (std::size_t row = view_->RowAt(exposed.top() + scrolled.y()); row <= last; ++row) {
+  const std::size_t last = view_->RowAt(near.bottom() + scrolled.y());
+  for (std::size_t row = view_->RowAt(near.top() + scrolled.y()); row <= last; ++row) {
     const QPoint at(TextView::kMargin - scrolled.x(), view_->RowTop(row) - scrolled.y());
-    if (!event->region().intersects(QRect(0, at.y(), viewport()->width(), height))) continue;
-    rows.PaintRow(row, at, exposed.left(), exposed.right() + 1);
+    const QRect reach(0, at.y() - TextView::kOverhang, viewport()->width(), height + 2 * TextView::kOverhang);
+    if (event->region().intersects(reach)) rows.PaintRow(row, at, exposed.left(), exposed.right() + 1);
   }
 
   if (composer_.Active()) PaintComposed(painter);
@@ -210,7 +211,7 @@ void TextBox::PaintComposed(QPainter& painter) {
 void TextBox::scrollContentsBy(int dx, int dy) {
   const qreal ratio = devicePixelRatioF();
   // Moving painted pixels by parts of device pixels would smear.
-  if (ratio == std::floor(ratio)) {
+  if (ratio == std::floor(ratio) && !composer_.Active()) {
     viewport()->scroll(dx, dy);
     shown_caret_.translate(dx, dy);
   } else {

@@ -80,7 +80,7 @@ std::optional<TextKey> TextKeyOf(const QKeyEvent& event, bool standard_shortcuts
 }
 
 QString TypedText(const QKeyEvent& event) {
-  const QString text = event.text();
+  QString text = event.text();
   const bool ctrl = event.modifiers().testFlag(Qt::ControlModifier);
   const bool alt = event.modifiers().testFlag(Qt::AltModifier);
   // Both together are AltGr on keyboards without a key of that name.

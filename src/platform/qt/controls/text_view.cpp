@@ -45,6 +45,7 @@ std::optional<RowsChange> TextView::Follow(const TextChange& change) {
 
 const TextLayout& TextView::Layout() {
   if (!stale_) return layout_;
+  SetWindowWidth(window_width_());
   rules_.advances = Glyphs().Advances();
   layout_.Lay(*buffer_, rules_);
   stale_ = false;

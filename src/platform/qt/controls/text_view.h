@@ -5,8 +5,10 @@
 #include <QFont>
 #include <QRect>
 #include <QSize>
+#include <functional>
 #include <memory>
 #include <optional>
+#include <utility>
 
 #include "platform/qt/controls/glyph_table.h"
 #include "text/caret_mover.h"
@@ -17,8 +19,12 @@ namespace pelmar {
 class TextView {
  public:
   static constexpr int kMargin = 4;
+  // How far letters may reach into the neighbouring rows: accents do, and at scales between whole numbers any letter.
+  static constexpr int kOverhang = 2;
 
-  explicit TextView(const TextBuffer& buffer) : buffer_(&buffer), layout_(buffer) {}
+  // `window_width` is asked when the text is laid out afresh; SetWindowWidth tells of changes in between.
+  TextView(const TextBuffer& buffer, std::function<int()> window_width)
+      : buffer_(&buffer), window_width_(std::move(window_width)), layout_(buffer) {}
 
   void Show(const TextBuffer& buffer);
   void SetFont(const QFont& font);
@@ -49,6 +55,7 @@ class TextView {
 
  private:
   const TextBuffer* buffer_;
+  std::function<int()> window_width_;
   QFont font_;
   std::unique_ptr<GlyphTable> glyphs_;
   LayoutRules rules_;
