@@ -3,6 +3,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 
+#include "platform/qt/clipboard_owner.h"
 #include "platform/qt/clipboard_text.h"
 
 namespace pelmar {
@@ -14,7 +15,7 @@ Clipboard::Clipboard() {
 const std::optional<std::string>& Clipboard::Text() {
   if (fresh_) return text_;
   fresh_ = true;  // Before the fetch: a change announced during it must not get lost.
-  text_ = TextFromMime(QGuiApplication::clipboard()->mimeData());
+  text_ = ClipboardHasOwner() ? TextFromMime(QGuiApplication::clipboard()->mimeData()) : std::nullopt;
   return text_;
 }
 

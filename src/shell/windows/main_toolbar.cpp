@@ -40,7 +40,6 @@ MainToolbar::MainToolbar(const Commands& commands, Opener& opener, QWidget* pare
     initial_.append(separator);
   }
   Reset();
-  Refresh();
 }
 
 void MainToolbar::AddRecentMenu(QAction* action) {

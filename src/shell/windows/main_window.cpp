@@ -49,7 +49,6 @@ MainWindow::MainWindow(Editor& editor) : editor_(editor) {
   MakeControls();
   AddViewCommands();
   FollowDocuments();
-  RefreshCommands();
 }
 
 void MainWindow::MakeControls() {

@@ -35,7 +35,7 @@ class MainWindow : public QMainWindow, public MainView {
   std::function<void()> show_start;
   std::function<void(StartMode)> show_accessory;
 
-  // Commands may have been added since the menus were made.
+  // Called when all commands are there: enables what they serve.
   void RefreshCommands();
   // Places text box, tabs and bars.
   void ApplyLayout();

@@ -5,6 +5,23 @@
 #include "platform/qt/convert.h"
 
 namespace pelmar {
+namespace {
+
+// "Ctrl+X", "Ctrl+F4" or "F1". The toolkit's own reading takes in every name of every key in every language.
+QKeyCombination KeysOf(std::string_view shortcut) {
+  constexpr std::string_view kControl = "Ctrl+";
+  const bool control = shortcut.starts_with(kControl);
+  if (control) shortcut.remove_prefix(kControl.size());
+  int key = shortcut.front();
+  if (shortcut.size() > 1) {
+    int number = 0;
+    for (const char digit : shortcut.substr(1)) number = 10 * number + digit - '0';
+    key = Qt::Key_F1 + number - 1;
+  }
+  return QKeyCombination(control ? Qt::ControlModifier : Qt::NoModifier, static_cast<Qt::Key>(key));
+}
+
+}  // namespace
 
 MenuBar::MenuBar(const Commands& commands, QWidget* parent) : QMenuBar(parent), commands_(commands) {
   std::vector<QWidget*> open{this};  // the menu that each level adds to
@@ -22,7 +39,7 @@ MenuBar::MenuBar(const Commands& commands, QWidget* parent) : QMenuBar(parent), 
       action->setSeparator(item.kind == MenuKind::kSeparator);
       action->setCheckable(item.kind == MenuKind::kToggle || item.kind == MenuKind::kToggleOn);
       action->setChecked(item.kind == MenuKind::kToggleOn);
-      if (!item.shortcut.empty()) action->setShortcut(QKeySequence(Utf8ToQString(item.shortcut)));
+      if (!item.shortcut.empty()) action->setShortcut(KeysOf(item.shortcut));
       connect(action, &QAction::triggered, this, [this, key = item.name] { commands_.Run(key); });
     }
     action->setObjectName(name);
@@ -30,7 +47,6 @@ MenuBar::MenuBar(const Commands& commands, QWidget* parent) : QMenuBar(parent), 
     open[static_cast<std::size_t>(item.level)]->addAction(action);
     actions_.emplace(item.name, action);
   }
-  Refresh();
 }
 
 bool MenuBar::Served(const QAction* action, std::string_view name) const {

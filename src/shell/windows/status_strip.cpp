@@ -11,10 +11,10 @@ namespace {
 constexpr int kGap = 2;
 constexpr int kTextMargin = 4;
 
-// Texts that the panels have to hold, for their widths at the start. Panel 4 begins with none and takes what is left.
-constexpr QStringView kWidest[kPanelCount] = {
-    u"Počet znaků : 64000", u"Pozice kurzoru : 64000", u"Řádeky 100-100 z 1000", u"", u"CAPS", u"NUM", u"INS",
-};
+// How many characters the panels have room for at the start, but for panel 4, which begins with none and takes what is
+// left. Counted in average characters, because measuring texts means loading the font's shaping before the first
+// window.
+constexpr int kCharacters[kPanelCount] = {20, 23, 23, 0, 6, 6, 5};
 constexpr QStringView kTips[kPanelCount] = {
     u"Pozice", u"Délka", u"Řádky (Click - off, DblCick - on)", u"Obsah", u"CAPS", u"NUM", u"INS",
 };
@@ -52,11 +52,10 @@ StatusStrip::StatusStrip(QWidget* parent) : QStatusBar(parent) {
     panel->setObjectName(QStringLiteral("Panel%1").arg(number));
     panel->setToolTip(kTips[at].toString());
     panels_[at] = panel;
-    if (kWidest[at].isEmpty()) continue;
-    widths_[at] = TwipsOf(fontMetrics().horizontalAdvance(kWidest[at].toString()) + 2 * kTextMargin +
-                          2 * panel->frameWidth() + 4);
+    if (kCharacters[at] > 0)
+      widths_[at] = TwipsOf(fontMetrics().averageCharWidth() * kCharacters[at] + 2 * kTextMargin);
   }
-  for (const std::size_t at : {4u, 5u, 6u}) panels_[at]->setText(kWidest[at].toString());
+  for (const std::size_t at : {4u, 5u, 6u}) panels_[at]->setText(kTips[at].toString());
   Show(KeyStates{});
 }
 

@@ -22,6 +22,7 @@ struct MainWindowTest : testing::Test {
   StatusTimer timer{window, editor};
 
   MainWindowTest() {
+    window.RefreshCommands();
     window.SetPlace({3000, 3000, 15000, 9000});
     window.show();
     EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
