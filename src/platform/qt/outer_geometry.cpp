@@ -8,19 +8,19 @@
 namespace pelmar {
 namespace {
 
+// False also while a widget is only about to be shown.
+bool Mapped(const QWidget& window) { return window.windowHandle() != nullptr && window.windowHandle()->isVisible(); }
+
 // Asked of the system window, because the widget's own notion of its frame can be that of before the mapping.
-QMargins Frame(const QWidget& window) {
-  const QWindow* handle = window.windowHandle();
-  return handle != nullptr && window.isVisible() ? handle->frameMargins() : QMargins();
-}
+QMargins Frame(const QWidget& window) { return Mapped(window) ? window.windowHandle()->frameMargins() : QMargins(); }
 
 QRect Outer(const QWidget& window) {
-  if (!window.isVisible()) return {window.pos(), window.size()};
+  if (!Mapped(window)) return {window.pos(), window.size()};
   return window.geometry().marginsAdded(Frame(window));
 }
 
 void MoveOuter(QWidget& window, QPoint top_left) {
-  if (window.isVisible() && window.windowHandle() != nullptr) return window.windowHandle()->setFramePosition(top_left);
+  if (Mapped(window)) return window.windowHandle()->setFramePosition(top_left);
   window.move(top_left);
 }
 
