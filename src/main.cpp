@@ -46,7 +46,7 @@ int main(int argc, char** argv) {
     std::_Exit(EXIT_FAILURE);
   };
   try {
-    program.Start(pelmar::CommandTail(arguments));
+    program.Run(pelmar::CommandTail(arguments));
   } catch (const pelmar::RuntimeError& error) {
     application.on_runtime_error(error);
   }

@@ -45,6 +45,8 @@ class Platform {
 
   // Questions to the person; they return when answered. Closing a box by its window counts as No.
   virtual Answer Message(MessageType type, std::string_view text, std::string_view title) = 0;
+  // The system's box about a program.
+  virtual void ShowAbout(std::string_view title, std::string_view text) = 0;
   // The text that was put in, nothing on cancel. Text and answer are UTF-8.
   virtual std::optional<std::string> InputBox(std::string_view prompt, std::string_view title,
                                               std::string_view initial) = 0;
@@ -69,6 +71,7 @@ class Platform {
   // Folders, with a separator at the end.
   virtual std::string InstallFolder() = 0;
   virtual std::string TempFolder() = 0;
+  virtual std::string ShareFolder() = 0;  // what the package brings along
 
   virtual void AddToRecentDocuments(const std::string& path) = 0;
   virtual bool OpenWithDefaultProgram(const std::string& path) = 0;

@@ -31,6 +31,10 @@ Answer ScriptedPlatform::Message(MessageType type, std::string_view text, std::s
   return answer;
 }
 
+void ScriptedPlatform::ShowAbout(std::string_view title, std::string_view text) {
+  calls.push_back("about " + Quoted(title) + ' ' + Quoted(text));
+}
+
 std::optional<std::string> ScriptedPlatform::InputBox(std::string_view prompt, std::string_view title,
                                                       std::string_view initial) {
   calls.push_back("input " + Quoted(prompt) + ' ' + Quoted(title) + ' ' + Quoted(initial));

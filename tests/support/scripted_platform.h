@@ -17,7 +17,7 @@ namespace pelmar {
 
 class ScriptedPlatform : public Platform {
  public:
-  // One string a call, in order, texts as they were given: `message 52 "text" "title"`, `input "prompt" "title"
+  // One string a call, in order, texts as they were given: `message 52 "text" "title"`, `about "title" "text"`, `input "prompt" "title"
   // "initial"`, `open "filter" 2`, `save "filter" 2`, `write path` (also a failed one), `remove path`, `recent path`,
   // `default program path`, `start copy`, `clipboard "text"`, `clipboard clear`, `busy 1`. Reading leaves no trace.
   std::vector<std::string> calls;
@@ -35,11 +35,12 @@ class ScriptedPlatform : public Platform {
   KeyStates keys;
   std::deque<double> draws;  // Random() takes these first, then 0, 0.25, 0.5 and 0.75 in turn.
   int reseeds = 0;
-  std::string install_folder = "/install/", temp_folder = "/tmp/";
+  std::string install_folder = "/install/", temp_folder = "/tmp/", share_folder = "/share/";
   bool opens_programs = true;  // what OpenWithDefaultProgram and StartAnotherCopy answer
   int busy = 0;                // how many busy pointers are in force
 
   Answer Message(MessageType type, std::string_view text, std::string_view title) override;
+  void ShowAbout(std::string_view title, std::string_view text) override;
   std::optional<std::string> InputBox(std::string_view prompt, std::string_view title,
                                       std::string_view initial) override;
   std::optional<std::string> OpenDialog(std::string_view filter, int filter_index) override;
@@ -53,6 +54,7 @@ class ScriptedPlatform : public Platform {
   int WriteFile(const std::string& path, std::string_view bytes) override;
   bool RemoveFile(const std::string& path) override;
   std::string InstallFolder() override { return install_folder; }
+  std::string ShareFolder() override { return share_folder; }
   std::string TempFolder() override { return temp_folder; }
   void AddToRecentDocuments(const std::string& path) override;
   bool OpenWithDefaultProgram(const std::string& path) override;

@@ -2,11 +2,12 @@
 
 #include <unistd.h>
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
+#include <QMessageBox>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QUrl>
@@ -34,6 +35,11 @@ QtPlatform::QtPlatform() : recent_(DataHome() + QStringLiteral("/recently-used.x
 Answer QtPlatform::Message(MessageType type, std::string_view text, std::string_view title) {
   const BusyPointer::Lift lift(pointer_);
   return ShowMessage(type, Utf8ToQString(text), Utf8ToQString(title));
+}
+
+void QtPlatform::ShowAbout(std::string_view title, std::string_view text) {
+  const BusyPointer::Lift lift(pointer_);
+  QMessageBox::about(QApplication::activeWindow(), Utf8ToQString(title), Utf8ToQString(text));
 }
 
 std::optional<std::string> QtPlatform::InputBox(std::string_view prompt, std::string_view title,
@@ -69,6 +75,13 @@ FileBytes QtPlatform::ReadFile(const std::string& path, std::optional<std::uint6
 int QtPlatform::WriteFile(const std::string& path, std::string_view bytes) { return ReplaceFile(path, bytes); }
 
 bool QtPlatform::RemoveFile(const std::string& path) { return unlink(path.c_str()) == 0; }
+
+// Beside the program in a build tree, in the share folder of its prefix where it is installed.
+std::string QtPlatform::ShareFolder() {
+  const QString installed = QCoreApplication::applicationDirPath() + QStringLiteral("/../share/pelmar-vex/");
+  const QString beside = QCoreApplication::applicationDirPath() + QLatin1Char('/');
+  return Utf8FromQString(QDir(installed).exists() ? QDir::cleanPath(installed) + QLatin1Char('/') : beside);
+}
 
 std::string QtPlatform::InstallFolder() {
   if (install_folder_.empty())

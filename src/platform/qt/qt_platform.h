@@ -21,6 +21,7 @@ class QtPlatform : public Platform {
   QtPlatform();
 
   Answer Message(MessageType type, std::string_view text, std::string_view title) override;
+  void ShowAbout(std::string_view title, std::string_view text) override;
   std::optional<std::string> InputBox(std::string_view prompt, std::string_view title,
                                       std::string_view initial) override;
   std::optional<std::string> OpenDialog(std::string_view filter, int filter_index) override;
@@ -38,6 +39,7 @@ class QtPlatform : public Platform {
 
   std::string InstallFolder() override;
   std::string TempFolder() override;
+  std::string ShareFolder() override;
 
   void AddToRecentDocuments(const std::string& path) override;
   bool OpenWithDefaultProgram(const std::string& path) override;

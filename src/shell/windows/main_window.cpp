@@ -129,6 +129,13 @@ void MainWindow::ToggleAlwaysOnTop() {
   SetAlwaysOnTop(editor_.settings.AlwaysOnTopFlag);
 }
 
+void MainWindow::HideText(bool hide) {
+  text_->setVisible(!hide);
+  text_->UseBuffer(hide ? nothing_ : editor_.text);
+  // The bar may show a part of the text; the next tick fills it again.
+  if (hide) bar_->Show(PanelTexts());
+}
+
 LayoutInput MainWindow::Measures() const {
   LayoutInput in;
   in.outer_width = OuterGeometry(*this).width;
@@ -289,6 +296,8 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+  // A drop reaches a window also while a dialog or the lock keeps it from the person.
+  if (QApplication::activeModalWidget() != nullptr) return;
   if (!DroppedFile(event->mimeData()).empty()) event->acceptProposedAction();
 }
 

@@ -37,6 +37,8 @@ class MainWindow : public QMainWindow, public MainView {
 
   // Called when all commands are there: enables what they serve.
   void RefreshCommands();
+  // While the lock is closed the text is neither on the screen nor within reach of assistive technology.
+  void HideText(bool hide);
   // Places text box, tabs and bars.
   void ApplyLayout();
   // The rule of panel 4, on each tick.
@@ -80,6 +82,7 @@ class MainWindow : public QMainWindow, public MainView {
   [[nodiscard]] LayoutInput Measures() const;
 
   Editor& editor_;
+  TextBuffer nothing_;  // what the box shows while the text is hidden
   QWidget* client_ = nullptr;
   MenuBar* menus_ = nullptr;
   MainToolbar* toolbar_ = nullptr;

@@ -8,6 +8,10 @@
 #include "platform/qt/convert.h"
 #include "shell/windows/config.h"
 #include "shell/windows/customize_toolbar.h"
+#include "shell/windows/hlp.h"
+#include "shell/windows/o.h"
+#include "shell/windows/pass.h"
+#include "shell/windows/start.h"
 
 namespace pelmar {
 
@@ -23,6 +27,7 @@ Program::Program(Platform& platform)
   main_.RefreshCommands();
   main_.may_close = [this] { return MayClose(); };
   main_.show_config = [this] { windows_.Get<Config>().Run(); };
+  main_.show_start = [this] { windows_.Get<Start>().Present(); };
   editor_.text.OnChange([this](const TextChange&) { rescue_.Touch(); });
   editor_.documents.on_title = [this, show = editor_.documents.on_title] {
     show();
@@ -37,6 +42,20 @@ void Program::RegisterWindows() {
     return std::make_unique<Config>(
         editor_.settings, platform_, [this] { session_.StoreSettings(false); }, &main_);
   });
+  windows_.Register<Pass>([this] {
+    return std::make_unique<Pass>(
+        editor_.settings, platform_, [this](bool hide) { main_.HideText(hide); }, &main_);
+  });
+  windows_.Register<Start>([this] {
+    return std::make_unique<Start>(
+        editor_.settings, Start::Doors{[this] { main_.ShowMain(); }, [this] { windows_.Get<Otevri>().Present(); },
+                                       [this] { windows_.Get<Config>().Run(); }});
+  });
+  windows_.Register<Hlp>([this] {
+    return std::make_unique<Hlp>(
+        platform_, [this] { windows_.Get<O>().Present(); }, &main_);
+  });
+  windows_.Register<O>([this] { return std::make_unique<O>(editor_.settings, platform_, &main_); });
   windows_.Register<CustomizeToolbar>([this] { return std::make_unique<CustomizeToolbar>(main_.Toolbar(), &main_); });
 }
 
@@ -47,9 +66,14 @@ void Program::AddWindowCommands() {
   show(std::type_identity<Otevri>{}, {"mnuopen", "Open"});
   show(std::type_identity<Uloz>{}, {"mnusave", "Save"});
   show(std::type_identity<CustomizeToolbar>{}, {"mnucust"});
+  show(std::type_identity<Start>{}, {"mnustart"});
+  show(std::type_identity<Hlp>{}, {"mnuhlp", "Help"});
+  show(std::type_identity<O>{}, {"mnuabout"});
+  for (const std::string_view name : {"Mnu_Lock", "Lock"})
+    editor_.commands.Add(name, [this] { windows_.Get<Pass>().Run(); });
 }
 
-void Program::Start(const std::string& tail) {
+void Program::Run(const std::string& tail) {
   timer_.start();
   session_.Start(tail);
   // Only the editor asks, when it stands; the accessories leave what they find to it.

@@ -19,8 +19,8 @@ class Program {
  public:
   explicit Program(Platform& platform);
 
-  // Runs the start with the command tail (UTF-8).
-  void Start(const std::string& tail);
+  // Starts with the command tail (UTF-8).
+  void Run(const std::string& tail);
 
   // What an error that no command caught leads to: the modified documents are kept, the person is told what failed and
   // where they lie. The caller ends the process.

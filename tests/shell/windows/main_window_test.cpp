@@ -207,6 +207,19 @@ TEST_F(MainWindowTest, ADroppedFileIsOpenedAfterAQuestion) {
   }
 }
 
+TEST_F(MainWindowTest, AHiddenTextCantBeReadAnywhere) {
+  editor.text.SetText("secret");
+  editor.text.Select(0, 6);
+  timer.Tick();
+  window.HideText(true);
+  EXPECT_TRUE(window.Text().isHidden());
+  EXPECT_EQ(window.Text().Text(), QByteArray());
+  for (int panel = 1; panel <= 4; ++panel) EXPECT_EQ(window.Bar().Panel(panel)->text(), QString());
+  window.HideText(false);
+  EXPECT_EQ(window.Text().SelText(), QByteArray("secret"));
+  EXPECT_EQ(editor.documents.Slot(1).Text, "secret");
+}
+
 TEST_F(MainWindowTest, ARefusedCloseKeepsTheWindow) {
   bool may_close = false;
   window.may_close = [&] { return may_close; };

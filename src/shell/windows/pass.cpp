@@ -1,0 +1,37 @@
+#include "shell/windows/pass.h"
+
+#include "platform/qt/convert.h"
+#include "ui_pass.h"
+
+namespace pelmar {
+
+Pass::Pass(const SettingsRecord& settings, Platform& platform, std::function<void(bool)> hide_text, QWidget* parent)
+    : DialogWindow(parent),
+      settings_(settings),
+      platform_(platform),
+      hide_text_(std::move(hide_text)),
+      ui_(std::make_unique<Ui::Pass>()) {
+  ui_->setupUi(this);
+  setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
+  connect(ui_->Text1, &QLineEdit::returnPressed, this, &Pass::Try);
+  connect(ui_->Command1, &QPushButton::clicked, this, &Pass::Try);
+}
+
+Pass::~Pass() = default;
+
+void Pass::Run() {
+  ui_->Text1->clear();
+  ui_->Text1->setFocus();
+  hide_text_(true);
+  exec();
+  hide_text_(false);
+}
+
+void Pass::Try() {
+  if (TextFromQString(ui_->Text1->text()) == settings_.LockPassword) return accept();
+  platform_.Message(MessageType::kOkInfo, "Špatné helso!", "Zámek");
+  ui_->Text1->clear();
+  ui_->Command1->setFocus();
+}
+
+}  // namespace pelmar

@@ -1,0 +1,69 @@
+#include "shell/windows/start.h"
+
+#include <QKeyEvent>
+
+#include "platform/qt/convert.h"
+#include "ui_start.h"
+
+namespace pelmar {
+namespace {
+
+// The dialog's greeting stands on its own shadow.
+constexpr int kShadow = 2;
+
+bool IsModifier(int key) {
+  return key == Qt::Key_Shift || key == Qt::Key_Control || key == Qt::Key_Alt || key == Qt::Key_AltGr ||
+         key == Qt::Key_Meta || key == Qt::Key_CapsLock || key == Qt::Key_NumLock;
+}
+
+}  // namespace
+
+Start::Start(SettingsRecord& settings, Doors doors)
+    : DialogWindow(nullptr), settings_(settings), doors_(std::move(doors)), ui_(std::make_unique<Ui::Start>()) {
+  ui_->setupUi(this);
+  ui_->Label8->setContentsMargins(kShadow, kShadow, 0, 0);
+  ui_->Check1->setChecked(!settings_.ShowStart);
+  const QList<QWidget*> widgets = findChildren<QWidget*>();
+  for (QWidget* widget : widgets) widget->installEventFilter(this);
+  installEventFilter(this);
+  connect(ui_->Command1, &QPushButton::clicked, this, &Start::Leave);
+  connect(ui_->Command2, &QPushButton::clicked, this, &Start::Command2_Click);
+  connect(ui_->Check1, &QCheckBox::toggled, this, [this](bool checked) { settings_.ShowStart = !checked; });
+}
+
+Start::~Start() = default;
+
+void Start::showEvent(QShowEvent* event) {
+  ui_->Label9->setText(TextToQString(settings_.UserName));
+  DialogWindow::showEvent(event);
+}
+
+bool Start::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::KeyPress && !IsModifier(static_cast<QKeyEvent*>(event)->key())) {
+    Leave();
+    return true;
+  }
+  if (watched == ui_->Label9 && event->type() == QEvent::MouseButtonRelease) {
+    Label9_Click();
+    return true;
+  }
+  return DialogWindow::eventFilter(watched, event);
+}
+
+void Start::Leave() {
+  hide();
+  doors_.show_main();
+}
+
+void Start::Command2_Click() {
+  doors_.show_main();
+  hide();
+  doors_.show_open();
+}
+
+void Start::Label9_Click() {
+  doors_.show_config();
+  ui_->Label9->setText(TextToQString(settings_.UserName));
+}
+
+}  // namespace pelmar

@@ -1,0 +1,44 @@
+// `Start`, the welcome dialog: at launch instead of the main window, and from the menu at any time. Any key leaves it.
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "platform/qt/controls/dialog_window.h"
+#include "shell/settings_record.h"
+
+namespace Ui {
+class Start;
+}
+
+namespace pelmar {
+
+class Start : public DialogWindow {
+  Q_OBJECT
+
+ public:
+  struct Doors {
+    std::function<void()> show_main;
+    std::function<void()> show_open;
+    std::function<void()> show_config;  // modal
+  };
+  Start(SettingsRecord& settings, Doors doors);
+  ~Start() override;
+
+  void reject() override { Leave(); }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  void Leave();
+  void Command2_Click();
+  void Label9_Click();
+
+  SettingsRecord& settings_;
+  Doors doors_;
+  std::unique_ptr<Ui::Start> ui_;
+};
+
+}  // namespace pelmar
