@@ -41,8 +41,9 @@ int main(int argc, char** argv) {
 
   pelmar::QtPlatform platform;
   pelmar::Program program(platform);
-  application.on_runtime_error = [&program](const pelmar::RuntimeError& error) {
+  application.on_runtime_error = [&program, &platform](const pelmar::RuntimeError& error) {
     program.TellRuntimeError(error);
+    platform.FinishBackgroundWork();
     std::_Exit(EXIT_FAILURE);
   };
   try {

@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <climits>
 #include <cstdlib>
+#include <fstream>
 #include <memory>
 #include <new>
 #include <stdexcept>
@@ -94,10 +95,16 @@ int FollowLinks(std::string& path) {
   return ELOOP;
 }
 
+// Read from the system's account of the process: umask() itself only tells by setting, and files are written by more
+// than one thread.
 mode_t Umask() {
-  const mode_t mask = umask(077);
-  umask(mask);
-  return mask;
+  constexpr mode_t kUsual = 022;
+  std::ifstream status("/proc/self/status");
+  for (std::string word; status >> word;) {
+    unsigned mask = 0;
+    if (word == "Umask:") return status >> std::oct >> mask ? static_cast<mode_t>(mask) : kUsual;
+  }
+  return kUsual;
 }
 
 // The refusals that come from the folder, not from the disk or the content.

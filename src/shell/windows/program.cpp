@@ -27,6 +27,11 @@ Program::Program(Platform& platform)
   main_.RefreshCommands();
   main_.may_close = [this] { return MayClose(); };
   main_.show_config = [this] { windows_.Get<Config>().Run(); };
+  main_.show_accessory = [this](StartMode) {
+    platform_.Message(MessageType::kOk, "Tato část programu není nainstalována.", "Pelmar VEX");
+    QMetaObject::invokeMethod(
+        qApp, [] { QCoreApplication::exit(EXIT_FAILURE); }, Qt::QueuedConnection);
+  };
   main_.show_start = [this] { windows_.Get<Start>().Present(); };
   editor_.text.OnChange([this](const TextChange&) { rescue_.Touch(); });
   editor_.documents.on_title = [this, show = editor_.documents.on_title] {

@@ -1,5 +1,6 @@
 #include "shell/windows/rescue_keeper.h"
 
+#include <QCoreApplication>
 #include <utility>
 
 #include "shell/common.h"
@@ -14,6 +15,7 @@ constexpr int kDelay = 1000;
 
 RescueKeeper::RescueKeeper(Documents& documents, Platform& platform)
     : documents_(documents),
+      platform_(platform),
       store_(platform.InstallFolder(),
              [&platform](const std::string& path, std::string_view bytes) { return platform.WriteFile(path, bytes); }) {
   writer_.setMaxThreadCount(1);
@@ -44,7 +46,12 @@ std::string RescueKeeper::KeepNow() {
   timer_.stop();
   writer_.waitForDone();
   const std::string bytes = Bytes();
-  return store_.Keep(bytes) == 0 && !bytes.empty() ? store_.Path() : std::string();
+  if (bytes.empty()) return {};
+  if (store_.Keep(bytes) == 0) return store_.Path();
+  const std::string readable =
+      JoinPath(platform_.TempFolder(), "pelmar-rescued-" + std::to_string(QCoreApplication::applicationPid()) + ".txt");
+  const bool kept = platform_.WriteFile(readable, ReadableRescue(UnsavedDocuments(documents_).documents)) == 0;
+  return kept ? readable : std::string();
 }
 
 void RescueKeeper::End() {

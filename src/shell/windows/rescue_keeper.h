@@ -24,7 +24,8 @@ class RescueKeeper : public QObject {
 
   // Something changed that may have to be kept, or dropped.
   void Touch();
-  // Writes at once and in this thread. Returns where the documents lie, "" where none had to be kept or none could be.
+  // Writes at once and in this thread; where the install folder refuses, a readable file in the temporary folder.
+  // Returns where the documents lie, "" where none had to be kept or none could be.
   std::string KeepNow();
   // An ordinary end: nothing is left behind.
   void End();
@@ -34,6 +35,7 @@ class RescueKeeper : public QObject {
   std::string Bytes() const;
 
   Documents& documents_;
+  Platform& platform_;
   RescueStore store_;
   QTimer timer_;
   QThreadPool writer_;
