@@ -13,10 +13,11 @@ namespace pelmar {
 
 // The message boxes of the program, by their buttons and picture.
 enum class MessageType {
-  kOk = 0,             // OK
-  kYesNoWarning = 52,  // Yes (default) and No, warning
-  kOkInfo = 64,        // OK, information
-  kYesNoStop = 276,    // Yes and No (default), stop
+  kOk = 0,              // OK
+  kYesNoQuestion = 36,  // Yes (default) and No, question
+  kYesNoWarning = 52,   // Yes (default) and No, warning
+  kOkInfo = 64,         // OK, information
+  kYesNoStop = 276,     // Yes and No (default), stop
 };
 
 enum class Answer { kOk, kYes, kNo };
@@ -85,6 +86,8 @@ class Platform {
   virtual void ReseedRandom() = 0;  // from the clock
   // < 0, 0, > 0 in the order of the Czech language, ignoring case.
   virtual int CompareText(std::string_view left, std::string_view right) = 0;
+  // The indexes of the texts in that order, rising; equal ones keep theirs.
+  virtual std::vector<std::size_t> SortedOrder(const std::vector<std::string_view>& texts) = 0;
   virtual void SetBusyPointer(bool busy) = 0;
 };
 

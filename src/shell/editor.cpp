@@ -3,6 +3,7 @@
 #include <string>
 
 #include "html/insert.h"
+#include "texttools/commands.h"
 
 namespace pelmar {
 namespace {
@@ -52,6 +53,7 @@ Editor::Editor(Platform& platform_layer) : platform(platform_layer) {
   AddFileCommands(*this);
   AddToolbarClipboard(*this);
   AddTagCommands(*this);
+  AddTextToolCommands(*this);
 }
 
 void NewDocument(Editor& editor) {

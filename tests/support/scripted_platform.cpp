@@ -1,6 +1,8 @@
 #include "support/scripted_platform.h"
 
+#include <algorithm>
 #include <cerrno>
+#include <numeric>
 #include <stdexcept>
 #include <utility>
 
@@ -26,7 +28,7 @@ std::vector<std::string> ScriptedPlatform::TakeCalls() { return std::exchange(ca
 Answer ScriptedPlatform::Message(MessageType type, std::string_view text, std::string_view title) {
   calls.push_back("message " + std::to_string(static_cast<int>(type)) + ' ' + Quoted(text) + ' ' + Quoted(title));
   const Answer answer = Take(answers, calls.back());
-  const bool question = type == MessageType::kYesNoWarning || type == MessageType::kYesNoStop;
+  const bool question = type != MessageType::kOk && type != MessageType::kOkInfo;
   if (question == (answer == Answer::kOk)) throw std::logic_error("no such button: " + calls.back());
   return answer;
 }
@@ -112,6 +114,13 @@ double ScriptedPlatform::Random() {
 
 int ScriptedPlatform::CompareText(std::string_view left, std::string_view right) {
   return ToUpper(left).compare(ToUpper(right));
+}
+
+std::vector<std::size_t> ScriptedPlatform::SortedOrder(const std::vector<std::string_view>& texts) {
+  std::vector<std::size_t> order(texts.size());
+  std::iota(order.begin(), order.end(), std::size_t{0});
+  std::ranges::stable_sort(order, [&](std::size_t a, std::size_t b) { return CompareText(texts[a], texts[b]) < 0; });
+  return order;
 }
 
 void ScriptedPlatform::SetBusyPointer(bool busy_now) {

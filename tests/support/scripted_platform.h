@@ -65,6 +65,7 @@ class ScriptedPlatform : public Platform {
   void ReseedRandom() override { ++reseeds; }
   // By the codes of the upper-case letters: the Czech order is the real platform's affair.
   int CompareText(std::string_view left, std::string_view right) override;
+  std::vector<std::size_t> SortedOrder(const std::vector<std::string_view>& texts) override;
   void SetBusyPointer(bool busy_now) override;
 
  private:

@@ -29,6 +29,8 @@ class Asking {
 
 QMessageBox::Icon IconOf(MessageType type) {
   switch (type) {
+    case MessageType::kYesNoQuestion:
+      return QMessageBox::Question;
     case MessageType::kYesNoWarning:
       return QMessageBox::Warning;
     case MessageType::kYesNoStop:
@@ -43,7 +45,7 @@ QMessageBox::Icon IconOf(MessageType type) {
 }  // namespace
 
 Answer ShowMessage(MessageType type, const QString& text, const QString& title) {
-  const bool question = type == MessageType::kYesNoWarning || type == MessageType::kYesNoStop;
+  const bool question = type != MessageType::kOk && type != MessageType::kOkInfo;
   const QPointer<QMessageBox> box = new QMessageBox(QApplication::activeWindow());
   box->setWindowTitle(title);
   box->setTextFormat(Qt::PlainText);
@@ -51,7 +53,7 @@ Answer ShowMessage(MessageType type, const QString& text, const QString& title) 
   box->setIcon(IconOf(type));
   if (question) {
     box->setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-    box->setDefaultButton(type == MessageType::kYesNoWarning ? QMessageBox::Yes : QMessageBox::No);
+    box->setDefaultButton(type == MessageType::kYesNoStop ? QMessageBox::No : QMessageBox::Yes);
     box->setEscapeButton(QMessageBox::No);
   } else {
     box->setStandardButtons(QMessageBox::Ok);

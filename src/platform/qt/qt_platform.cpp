@@ -11,7 +11,9 @@
 #include <QProcess>
 #include <QStandardPaths>
 #include <QUrl>
+#include <algorithm>
 #include <chrono>
+#include <numeric>
 
 #include "platform/qt/convert.h"
 #include "platform/qt/dialogs.h"
@@ -128,6 +130,17 @@ void QtPlatform::ReseedRandom() {
 
 int QtPlatform::CompareText(std::string_view left, std::string_view right) {
   return collator_.compare(TextToQString(left), TextToQString(right));
+}
+
+// A key for each text, made once, costs far less than a comparison for each pair.
+std::vector<std::size_t> QtPlatform::SortedOrder(const std::vector<std::string_view>& texts) {
+  std::vector<QCollatorSortKey> keys;
+  keys.reserve(texts.size());
+  for (const std::string_view text : texts) keys.push_back(collator_.sortKey(TextToQString(text)));
+  std::vector<std::size_t> order(texts.size());
+  std::iota(order.begin(), order.end(), std::size_t{0});
+  std::ranges::stable_sort(order, [&](std::size_t a, std::size_t b) { return keys[a].compare(keys[b]) < 0; });
+  return order;
 }
 
 void QtPlatform::SetBusyPointer(bool busy) { pointer_.Set(busy); }

@@ -50,6 +50,7 @@ class QtPlatform : public Platform {
   double Random() override;
   void ReseedRandom() override;
   int CompareText(std::string_view left, std::string_view right) override;
+  std::vector<std::size_t> SortedOrder(const std::vector<std::string_view>& texts) override;
   void SetBusyPointer(bool busy) override;
 
   // For an end of the program that skips destructors.

@@ -16,7 +16,8 @@ namespace {
 constexpr int kMostPixmaps = 16;      // two modes of the few sizes that a screen or two ask for
 constexpr int kDisabledOpacity = 45;  // percent
 
-// Through the toolkit's picture plug-in, so that the library behind it is loaded at the first paint and not at the start.
+// Through the toolkit's picture plug-in, so that the library behind it is loaded at the first paint and not at the
+// start.
 QImage Render(const QString& path, int side) {
   QImageReader reader(path, "svg");
   reader.setScaledSize({side, side});

@@ -15,7 +15,7 @@ Hlp::Hlp(Platform& platform, std::function<void()> show_about, QWidget* parent)
   connect(ui_->Command1, &QPushButton::clicked, this, &Hlp::hide);
   connect(ui_->Command2, &QPushButton::clicked, this, [this] { show_about_(); });
   connect(ui_->Command5, &QPushButton::clicked, this, &Hlp::Command5_Click);
-  connect(ui_->Text2, &QLineEdit::returnPressed, this, &Hlp::Command5_Click);
+  OnEnter(ui_->Text2, [this] { Command5_Click(); });
   Load();
 }
 

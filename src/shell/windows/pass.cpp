@@ -13,7 +13,7 @@ Pass::Pass(const SettingsRecord& settings, Platform& platform, std::function<voi
       ui_(std::make_unique<Ui::Pass>()) {
   ui_->setupUi(this);
   setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
-  connect(ui_->Text1, &QLineEdit::returnPressed, this, &Pass::Try);
+  OnEnter(ui_->Text1, [this] { Try(); });
   connect(ui_->Command1, &QPushButton::clicked, this, &Pass::Try);
 }
 

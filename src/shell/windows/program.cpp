@@ -12,6 +12,9 @@
 #include "shell/windows/o.h"
 #include "shell/windows/pass.h"
 #include "shell/windows/start.h"
+#include "texttools/windows/hledani.h"
+#include "texttools/windows/vyber.h"
+#include "texttools/windows/zamena.h"
 
 namespace pelmar {
 
@@ -61,6 +64,9 @@ void Program::RegisterWindows() {
         platform_, [this] { windows_.Get<O>().Present(); }, &main_);
   });
   windows_.Register<O>([this] { return std::make_unique<O>(editor_.settings, platform_, &main_); });
+  windows_.Register<Hledani>([this] { return std::make_unique<Hledani>(editor_.text, platform_, &main_); });
+  windows_.Register<Zamena>([this] { return std::make_unique<Zamena>(editor_.text, platform_, &main_); });
+  windows_.Register<Vyber>([this] { return std::make_unique<Vyber>(editor_.text, &main_); });
   windows_.Register<CustomizeToolbar>([this] { return std::make_unique<CustomizeToolbar>(main_.Toolbar(), &main_); });
 }
 
@@ -71,6 +77,9 @@ void Program::AddWindowCommands() {
   show(std::type_identity<Otevri>{}, {"mnuopen", "Open"});
   show(std::type_identity<Uloz>{}, {"mnusave", "Save"});
   show(std::type_identity<CustomizeToolbar>{}, {"mnucust"});
+  show(std::type_identity<Hledani>{}, {"mnufind", "Find"});
+  show(std::type_identity<Zamena>{}, {"mnuchange"});
+  show(std::type_identity<Vyber>{}, {"mnupresnvyb"});
   show(std::type_identity<Start>{}, {"mnustart"});
   show(std::type_identity<Hlp>{}, {"mnuhlp", "Help"});
   show(std::type_identity<O>{}, {"mnuabout"});

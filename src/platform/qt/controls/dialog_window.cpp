@@ -16,6 +16,23 @@ void DialogWindow::Present() {
   activateWindow();
 }
 
+void DialogWindow::OnEnter(QWidget* field, std::function<void()> act) {
+  on_enter_[field] = std::move(act);
+  field->installEventFilter(this);
+}
+
+bool DialogWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::KeyPress) {
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    const auto act = on_enter_.find(watched);
+    if ((key == Qt::Key_Return || key == Qt::Key_Enter) && act != on_enter_.end()) {
+      act->second();
+      return true;
+    }
+  }
+  return QDialog::eventFilter(watched, event);
+}
+
 void DialogWindow::keyPressEvent(QKeyEvent* event) {
   const QString name = property("cancelButton").toString();
   auto* cancel = name.isEmpty() ? nullptr : findChild<QAbstractButton*>(name);

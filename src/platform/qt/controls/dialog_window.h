@@ -4,6 +4,8 @@
 #pragma once
 
 #include <QDialog>
+#include <functional>
+#include <map>
 
 namespace pelmar {
 
@@ -17,10 +19,15 @@ class DialogWindow : public QDialog {
   void Present();
 
  protected:
+  // Enter in this field runs `act` and goes no further, so not to the default button either.
+  void OnEnter(QWidget* field, std::function<void()> act);
+
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void showEvent(QShowEvent* event) override;
 
  private:
+  std::map<QObject*, std::function<void()>> on_enter_;
   bool centred_ = false;
 };
 

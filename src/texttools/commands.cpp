@@ -1,0 +1,102 @@
+#include "texttools/commands.h"
+
+#include <functional>
+#include <string>
+
+#include "html/insert.h"
+#include "shell/editor.h"
+#include "text/codepage.h"
+#include "texttools/find.h"
+#include "texttools/lines.h"
+#include "texttools/transforms.h"
+
+namespace pelmar {
+namespace {
+
+// The selected text gives way to what `transform` makes of it; the caret stands behind.
+void AddTransform(Editor& e, std::string_view name, std::function<std::string(std::string_view)> transform) {
+  e.commands.Add(name, [&e, transform = std::move(transform)] {
+    e.text.ReplaceSelection(transform(std::string(e.text.SelText())));
+  });
+}
+
+void AddTransforms(Editor& e) {
+  AddTransform(e, "mnusmall", [](std::string_view text) { return ToLower(text); });
+  AddTransform(e, "mnubig", [](std::string_view text) { return ToUpper(text); });
+  AddTransform(e, "mnupropercase", ProperCase);
+  AddTransform(e, "mnuprevrat", Reversed);
+  AddTransform(e, "mnuHackyCarky", StripDiacritics);
+  AddTransform(e, "mnu_untext", [&e](std::string_view text) {
+    e.platform.ReseedRandom();
+    return RandomCase(text, [&e] { return e.platform.Random(); });
+  });
+}
+
+void CountCharacters(Editor& e) {
+  const std::size_t selected = e.text.SelLength();
+  const std::string message = selected != 0 ? "Počet znaků je : " + std::to_string(selected)
+                                            : "Počet znaků v celém textu je : " + std::to_string(e.text.Size());
+  e.platform.Message(MessageType::kOk, message + " celkem.", "Znaky");
+}
+
+void NumberSelectedLines(Editor& e) {
+  if (!e.text.HasSelection()) {
+    e.platform.Message(MessageType::kOk, "Vyber text", "Očíslování");
+    return;
+  }
+  e.text.ReplaceSelection(NumberLines(std::string(e.text.SelText())));
+}
+
+// With the hourglass while it works.
+void AddBusy(Editor& e, std::string_view name, std::function<void()> work) {
+  e.commands.Add(name, [&e, work = std::move(work)] {
+    e.platform.SetBusyPointer(true);
+    work();
+    e.platform.SetBusyPointer(false);
+  });
+}
+
+void AddLineTools(Editor& e) {
+  AddBusy(e, "Mnu_Sort_Lines", [&e] {
+    const auto order = [&e](const std::vector<std::string_view>& lines) { return e.platform.SortedOrder(lines); };
+    e.text.ReplaceSelection(SortLines(std::string(e.text.SelText()), order));
+  });
+  AddBusy(e, "mnuEnterLineNumbers", [&e] { NumberSelectedLines(e); });
+  AddBusy(e, "MnuSelTextDivideWordsToLines",
+          [&e] { e.text.ReplaceSelection(WordsToLines(std::string(e.text.SelText()))); });
+  e.commands.Add("mnucharcount", [&e] { CountCharacters(e); });
+}
+
+bool Confirmed(Editor& e, std::string_view question, std::string_view title) {
+  return e.platform.Message(MessageType::kYesNoWarning, question, title) == Answer::kYes;
+}
+
+void AddClipboardCommands(Editor& e) {
+  e.commands.Add("mnucut", [&e] { e.commands.Run("Cut"); });
+  e.commands.Add("mnucopysel", [&e] { e.commands.Run("Copy"); });
+  e.commands.Add("mnucopy", [&e] { e.platform.SetClipboardText(e.text.Text()); });
+  e.commands.Add("mnuadd", [&e] { InsertAtCaret(e.text, e.platform.ClipboardText()); });
+  e.commands.Add("mnuinsert", [&e] {
+    if (Confirmed(e, "Opravdu vše nahradit textem ze schránky ?", "Vložení"))
+      e.text.SetText(e.platform.ClipboardText());
+  });
+  e.commands.Add("mnunewclip", [&e] {
+    if (Confirmed(e, "Opravdu nový dokument z textu ve schránce ?", "Nový")) e.text.SetText(e.platform.ClipboardText());
+    e.documents.ForgetPath();  // required: on No as well
+  });
+  e.commands.Add("mnuclearclip", [&e] {
+    if (Confirmed(e, "Opravdu vyčistit schránku ?", "Vyčištění")) e.platform.ClearClipboard();
+  });
+  e.commands.Add("mnuallselect", [&e] { e.text.Select(0, e.text.Size()); });
+}
+
+}  // namespace
+
+void AddTextToolCommands(Editor& editor) {
+  AddTransforms(editor);
+  AddLineTools(editor);
+  AddClipboardCommands(editor);
+  editor.commands.Add("mnusearch", [&editor] { FindPrimitively(editor.text, editor.platform); });
+}
+
+}  // namespace pelmar

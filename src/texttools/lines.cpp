@@ -1,0 +1,58 @@
+#include "texttools/lines.h"
+
+#include "shell/common.h"
+
+namespace pelmar {
+namespace {
+
+std::vector<std::string_view> LinesWithEnds(std::string_view text) {
+  std::vector<std::string_view> lines;
+  while (!text.empty()) {
+    const std::size_t feed = text.find('\n');
+    const std::size_t length = feed == std::string_view::npos ? text.size() : feed + 1;
+    const std::string_view line = text.substr(0, length);
+    if (line != kCrLf) lines.push_back(line);
+    text.remove_prefix(length);
+  }
+  return lines;
+}
+
+void AppendNumber(std::string& out, int number) {
+  const std::string digits = std::to_string(number);
+  out.append(digits.size() < 5 ? 5 - digits.size() : 0, '0');
+  out += digits;
+  out += ' ';
+}
+
+}  // namespace
+
+std::string SortLines(std::string_view text, const SortedOrder& order) {
+  const std::vector<std::string_view> lines = LinesWithEnds(text);
+  std::string sorted;
+  sorted.reserve(text.size());
+  for (const std::size_t index : order(lines)) sorted += lines[index];
+  return sorted;
+}
+
+std::string NumberLines(std::string_view text) {
+  std::string out;
+  int number = 1;
+  AppendNumber(out, number);
+  for (const char ch : text.substr(0, text.size() - (text.empty() ? 0 : 1))) {
+    out += ch;
+    if (ch == '\n') AppendNumber(out, ++number);
+  }
+  return out;
+}
+
+std::string WordsToLines(std::string_view text) {
+  std::string out;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    out += text[i];
+    if (text[i] == ' ' && i + 1 < text.size()) out += kCrLf;
+  }
+  if (!text.empty()) out += kCrLf;
+  return out;
+}
+
+}  // namespace pelmar

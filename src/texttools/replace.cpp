@@ -1,0 +1,128 @@
+#include "texttools/replace.h"
+
+#include "shell/common.h"
+#include "text/codepage.h"
+#include "texttools/find.h"
+#include "texttools/search.h"
+
+namespace pelmar {
+namespace {
+
+constexpr std::string_view kMarker = "\xFF";
+
+void SelectAt(TextBuffer& box, std::int64_t position, std::size_t length) {
+  box.SetSelStart(static_cast<std::size_t>(position));
+  box.SetSelLength(length);
+}
+
+// Each marker once, without looking at what was put in.
+std::string MarkersReplaced(std::string_view text, std::string_view change) {
+  std::string result;
+  for (const char ch : text) {
+    if (ch == kMarker[0]) {
+      result += change;
+    } else {
+      result += ch;
+    }
+  }
+  return result;
+}
+
+}  // namespace
+
+Replacer::Replacer(TextBuffer& document, Platform& platform)
+    : change("Zaměň"_w), document_(document), platform_(platform) {}
+
+void Replacer::Load() {
+  find = DefaultTerm(document_);
+  case_on = find_on = true;
+  step_on = false;
+}
+
+bool Replacer::Start() {
+  lists_on = change_on = case_on = find_on = false;
+  step_on = all_on = true;
+  terms.push_back(find);  // required: before the folding, unlike in Hledání
+  changes.push_back(change);
+  std::string text = document_.Text();
+  if (!case_sensitive) {
+    text = ToUpper(text);
+    find = ToUpper(find);
+  }
+  snapshot_.SetText(std::move(text));
+  found_pos_ = replaced_count_ = found_count_ = 0;
+  if (Seek()) return true;
+  GoIdle();
+  found_shown = replaced_shown = std::nullopt;
+  if (document_.HasSelection()) find = document_.SelText();
+  return false;
+}
+
+void Replacer::Next() {
+  ++found_pos_;
+  SeekOn();
+}
+
+void Replacer::Replace() {
+  ++found_pos_;
+  replaced_shown = ++replaced_count_;
+  document_.ReplaceSelection(change);  // required: whatever is selected there now
+  snapshot_.ReplaceSelection(change);
+  SeekOn();
+}
+
+void Replacer::SeekOn() {
+  if (Seek()) return;
+  GoIdle();
+  if (document_.HasSelection()) find = document_.SelText();
+}
+
+bool Replacer::Seek() {
+  const std::size_t hit = FindFrom(snapshot_.Text(), find, static_cast<std::size_t>(found_pos_) + 1);
+  if (hit == 0) {
+    platform_.Message(MessageType::kOk, "Nenalezeno !", "Hledání");
+    return false;
+  }
+  found_shown = ++found_count_;
+  found_pos_ = static_cast<std::int64_t>(hit) - 1;
+  SelectAt(document_, found_pos_, find.size());
+  SelectAt(snapshot_, found_pos_, find.size());
+  return true;
+}
+
+// required: Command6 stays on
+void Replacer::GoIdle() {
+  case_on = lists_on = find_on = change_on = true;
+  step_on = false;
+}
+
+void Replacer::ReplaceAll() {
+  platform_.SetBusyPointer(true);
+  document_.SetText(ReplaceAllByMarker(document_.Text(), find, change));
+  platform_.SetBusyPointer(false);
+  find_on = lists_on = change_on = true;
+  step_on = all_on = false;  // required: Rozlisovat stays off
+  found_shown = replaced_shown = std::nullopt;
+}
+
+void Replacer::New() {
+  find = DefaultTerm(document_);
+  find_on = lists_on = change_on = true;
+  step_on = false;
+}
+
+void Replacer::PickRow(std::size_t row) {
+  if (row >= terms.size()) return;
+  find = terms[row];
+  change = changes[row];
+}
+
+std::string ReplaceAllByMarker(std::string_view text, std::string_view find, std::string_view change) {
+  if (find.empty()) return std::string(text);
+  const std::string marked = ReplaceAllText(text, find, kMarker);
+  // A replacement with a marker of its own behind its first character would be replaced for ever.
+  if (change.find(kMarker, 1) != std::string_view::npos) return MarkersReplaced(marked, change);
+  return ReplaceAllText(marked, kMarker, change);
+}
+
+}  // namespace pelmar

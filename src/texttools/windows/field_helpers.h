@@ -1,0 +1,25 @@
+// Between the fields of a window and the Windows-1250 texts and numbers behind them.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+class QLabel;
+class QLineEdit;
+class QListWidget;
+
+namespace pelmar {
+
+// A single-line field that may hold line breaks: they show as blanks and come back as they were.
+std::string FieldText(const QLineEdit& field);
+void ShowFieldText(QLineEdit& field, const std::string& text);
+
+// Adds the rows that a growing list doesn't show yet.
+void ShowRows(QListWidget& list, const std::vector<std::string>& rows);
+
+// Plain digits, or nothing.
+void ShowNumber(QLabel& label, std::optional<std::int64_t> number);
+
+}  // namespace pelmar

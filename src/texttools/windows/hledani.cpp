@@ -1,0 +1,52 @@
+#include "texttools/windows/hledani.h"
+
+#include "platform/qt/convert.h"
+#include "texttools/windows/field_helpers.h"
+#include "ui_hledani.h"
+
+namespace pelmar {
+
+Hledani::Hledani(TextBuffer& document, Platform& platform, QWidget* parent)
+    : DialogWindow(parent), finder_(document, platform), ui_(std::make_unique<Ui::Hledani>()) {
+  ui_->setupUi(this);
+  ui_->Text1->UseBuffer(finder_.Snapshot());
+  connect(ui_->Command1, &QPushButton::clicked, this, [this] { Step(&Finder::Start); });
+  OnEnter(ui_->Find, [this] { Step(&Finder::Start); });
+  connect(ui_->Command2, &QPushButton::clicked, this, [this] { Step(&Finder::Next); });
+  connect(ui_->Command4, &QPushButton::clicked, this, [this] { Step(&Finder::New); });
+  connect(ui_->Command3, &QPushButton::clicked, this, &Hledani::hide);
+  connect(ui_->History, &QListWidget::itemClicked, this, [this] {
+    finder_.PickHistory(static_cast<std::size_t>(ui_->History->currentRow()));
+    ui_->Find->setText(TextToQString(finder_.find));
+  });
+  finder_.Load();
+  ShowFields();
+  ui_->Find->setFocus();
+}
+
+Hledani::~Hledani() = default;
+
+void Hledani::Step(void (Finder::*step)()) {
+  TakeFields();
+  (finder_.*step)();
+  ShowFields();
+}
+
+void Hledani::TakeFields() {
+  finder_.find = FieldText(*ui_->Find);
+  finder_.case_sensitive = ui_->Rozlisovat->isChecked();
+}
+
+void Hledani::ShowFields() {
+  ShowFieldText(*ui_->Find, finder_.find);
+  ui_->Find->setEnabled(finder_.find_on);
+  ui_->Command1->setEnabled(finder_.find_on);
+  ui_->Rozlisovat->setEnabled(finder_.case_on);
+  ui_->History->setEnabled(finder_.history_on);
+  ui_->Command2->setEnabled(finder_.next_on);
+  ShowRows(*ui_->History, finder_.history);
+  ShowNumber(*ui_->Label3, finder_.count);
+  ShowNumber(*ui_->Label5, finder_.position);
+}
+
+}  // namespace pelmar

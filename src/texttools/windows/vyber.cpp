@@ -1,0 +1,52 @@
+#include "texttools/windows/vyber.h"
+
+#include <QShowEvent>
+
+#include "platform/qt/convert.h"
+#include "ui_vyber.h"
+
+namespace pelmar {
+
+Vyber::Vyber(TextBuffer& document, QWidget* parent)
+    : DialogWindow(parent), document_(document), ui_(std::make_unique<Ui::Vyber>()) {
+  ui_->setupUi(this);
+  connect(ui_->Start, &QScrollBar::valueChanged, this, [this](int value) { Change(ui_->Label1, value); });
+  connect(ui_->Delka, &QScrollBar::valueChanged, this, [this](int value) { Change(ui_->Label2, value); });
+}
+
+Vyber::~Vyber() = default;
+
+void Vyber::showEvent(QShowEvent* event) {
+  if (!event->spontaneous()) Load();
+  DialogWindow::showEvent(event);
+}
+
+void Vyber::Load() {
+  const int start = static_cast<int>(document_.SelStart());
+  const int length = static_cast<int>(document_.SelLength());  // the first slider may collapse the selection
+  {
+    const QSignalBlocker quiet_start(ui_->Start);
+    const QSignalBlocker quiet_length(ui_->Delka);
+    ui_->Start->setValue(0);
+    ui_->Delka->setValue(0);
+  }
+  ui_->Label1->setText(QStringLiteral("0"));
+  ui_->Label2->setText(QStringLiteral("0"));
+  ui_->Start->setMaximum(static_cast<int>(document_.Size()));
+  ui_->Delka->setMaximum(static_cast<int>(document_.Size()));
+  ui_->Start->setValue(start);
+  ui_->Delka->setValue(length);
+  ui_->Label5->setText(TextToQString(document_.SelText()));
+}
+
+void Vyber::Change(QLabel* label, int value) {
+  label->setText(QString::number(value));
+  document_.SetSelStart(static_cast<std::size_t>(ui_->Start->value()));
+  document_.SetSelLength(static_cast<std::size_t>(ui_->Delka->value()));
+  ui_->Start->setMaximum(static_cast<int>(document_.Size()));
+  // Cuts the length where it reaches behind the end, which comes here again.
+  ui_->Delka->setMaximum(ui_->Start->maximum() - ui_->Start->value());
+  ui_->Label5->setText(TextToQString(document_.SelText()));
+}
+
+}  // namespace pelmar

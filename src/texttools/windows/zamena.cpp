@@ -1,0 +1,73 @@
+#include "texttools/windows/zamena.h"
+
+#include "platform/qt/convert.h"
+#include "texttools/windows/field_helpers.h"
+#include "ui_zamena.h"
+
+namespace pelmar {
+
+Zamena::Zamena(TextBuffer& document, Platform& platform, QWidget* parent)
+    : DialogWindow(parent), replacer_(document, platform), ui_(std::make_unique<Ui::Zamena>()) {
+  ui_->setupUi(this);
+  ui_->Text1->UseBuffer(replacer_.Snapshot());
+  connect(ui_->Command1, &QPushButton::clicked, this, &Zamena::Start);
+  connect(ui_->Command2, &QPushButton::clicked, this, [this] { Step(&Replacer::Next); });
+  connect(ui_->Command5, &QPushButton::clicked, this, [this] { Step(&Replacer::Replace); });
+  connect(ui_->Command6, &QPushButton::clicked, this, [this] { Step(&Replacer::ReplaceAll); });
+  connect(ui_->Command4, &QPushButton::clicked, this, [this] { Step(&Replacer::New); });
+  connect(ui_->Command3, &QPushButton::clicked, this, &Zamena::hide);
+  connect(ui_->History, &QListWidget::itemClicked, this, [this] { PickRow(ui_->History->currentRow()); });
+  connect(ui_->List1, &QListWidget::itemClicked, this, [this] { PickRow(ui_->List1->currentRow()); });
+  replacer_.Load();
+  ShowFields();
+  ui_->Find->setFocus();
+}
+
+Zamena::~Zamena() = default;
+
+void Zamena::Start() {
+  TakeFields();
+  const bool found = replacer_.Start();
+  ShowFields();
+  if (found) ui_->Command5->setFocus();
+}
+
+void Zamena::Step(void (Replacer::*step)()) {
+  TakeFields();
+  (replacer_.*step)();
+  ShowFields();
+}
+
+void Zamena::PickRow(int row) {
+  replacer_.PickRow(static_cast<std::size_t>(row));
+  ui_->History->setCurrentRow(row);
+  ui_->List1->setCurrentRow(row);
+  ui_->Find->SetText(ToBytes(replacer_.find));
+  ui_->Chage->SetText(ToBytes(replacer_.change));
+}
+
+void Zamena::TakeFields() {
+  replacer_.find = ui_->Find->Buffer().Text();
+  replacer_.change = ui_->Chage->Buffer().Text();
+  replacer_.case_sensitive = ui_->Rozlisovat->isChecked();
+}
+
+void Zamena::ShowFields() {
+  ui_->Find->SetText(ToBytes(replacer_.find));
+  ui_->Chage->SetText(ToBytes(replacer_.change));
+  ui_->Find->setEnabled(replacer_.find_on);
+  ui_->Command1->setEnabled(replacer_.find_on);
+  ui_->Chage->setEnabled(replacer_.change_on);
+  ui_->Rozlisovat->setEnabled(replacer_.case_on);
+  ui_->History->setEnabled(replacer_.lists_on);
+  ui_->List1->setEnabled(replacer_.lists_on);
+  ui_->Command2->setEnabled(replacer_.step_on);
+  ui_->Command5->setEnabled(replacer_.step_on);
+  ui_->Command6->setEnabled(replacer_.all_on);
+  ShowRows(*ui_->History, replacer_.terms);
+  ShowRows(*ui_->List1, replacer_.changes);
+  ShowNumber(*ui_->Label3, replacer_.found_shown);
+  ShowNumber(*ui_->Label5, replacer_.replaced_shown);
+}
+
+}  // namespace pelmar

@@ -1,0 +1,119 @@
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTest>
+
+#include "platform/qt/controls/text_box.h"
+#include "platform/qt/convert.h"
+#include "support/scripted_platform.h"
+#include "text/codepage.h"
+#include "texttools/windows/hledani.h"
+#include "texttools/windows/vyber.h"
+#include "texttools/windows/zamena.h"
+
+namespace pelmar {
+namespace {
+
+template <class Type>
+Type* Find(const QWidget& window, const char* name) {
+  return window.findChild<Type*>(QLatin1String(name));
+}
+void Click(const QWidget& window, const char* name) { Find<QPushButton>(window, name)->click(); }
+
+struct SearchWindowsTest : testing::Test {
+  ScriptedPlatform platform;
+  TextBuffer text;
+};
+
+TEST_F(SearchWindowsTest, HledaniShowsItsState) {
+  text.SetText("jedna dvě jedna"_w.data());
+  Hledani dialog(text, platform, nullptr);
+  EXPECT_EQ(dialog.objectName(), QStringLiteral("Hledání"));
+  dialog.Present();
+  auto* term = Find<QLineEdit>(dialog, "Find");
+  EXPECT_EQ(term->text(), QStringLiteral("Text"));
+  EXPECT_FALSE(Find<QPushButton>(dialog, "Command2")->isEnabled());
+  term->setText(QStringLiteral("jedna"));
+  QTest::keyClick(term, Qt::Key_Return);
+  EXPECT_EQ(text.SelText(), "jedna");
+  EXPECT_EQ(Find<QLabel>(dialog, "Label3")->text(), QStringLiteral("1"));
+  EXPECT_EQ(Find<QLabel>(dialog, "Label5")->text(), QStringLiteral("0"));
+  EXPECT_FALSE(term->isEnabled());
+  Click(dialog, "Command2");
+  EXPECT_EQ(Find<QLabel>(dialog, "Label5")->text(), QStringLiteral("10"));
+  platform.answers = {Answer::kOk};
+  Click(dialog, "Command2");
+  EXPECT_TRUE(term->isEnabled());
+  term->setText(QStringLiteral("x"));
+  auto* history = Find<QListWidget>(dialog, "History");
+  ASSERT_EQ(history->count(), 1);
+  history->setCurrentRow(0);
+  Q_EMIT history->itemClicked(history->item(0));
+  EXPECT_EQ(term->text(), QStringLiteral("jedna"));
+  Click(dialog, "Command3");
+  EXPECT_FALSE(dialog.isVisible());
+}
+
+TEST_F(SearchWindowsTest, ZamenaReplacesAndKeepsThePairs) {
+  text.SetText("a\r\nb a\r\nb");
+  Zamena dialog(text, platform, nullptr);
+  EXPECT_EQ(dialog.objectName(), QStringLiteral("Záměna"));
+  dialog.Present();
+  auto* term = Find<TextBox>(dialog, "Find");
+  auto* change = Find<TextBox>(dialog, "Chage");
+  EXPECT_EQ(ViewOf(term->Text()), "Text");
+  EXPECT_EQ(ViewOf(change->Text()), "Zaměň"_w);
+  term->SetText("a\r\nb");
+  change->SetText("c");
+  Click(dialog, "Command1");
+  EXPECT_EQ(text.SelText(), "a\r\nb");
+  Click(dialog, "Command5");
+  EXPECT_EQ(text.Text(), "c a\r\nb");
+  EXPECT_EQ(Find<QLabel>(dialog, "Label5")->text(), QStringLiteral("1"));
+  Click(dialog, "Command6");
+  EXPECT_EQ(text.Text(), "c c");
+  EXPECT_FALSE(Find<QPushButton>(dialog, "Command6")->isEnabled());
+  EXPECT_FALSE(Find<QCheckBox>(dialog, "Rozlisovat")->isEnabled());  // required
+  term->SetText("other");
+  change->SetText("other");
+  auto* list = Find<QListWidget>(dialog, "List1");
+  list->setCurrentRow(0);
+  Q_EMIT list->itemClicked(list->item(0));
+  EXPECT_EQ(ViewOf(term->Text()), "a\r\nb");
+  EXPECT_EQ(ViewOf(change->Text()), "c");
+  EXPECT_EQ(Find<QListWidget>(dialog, "History")->currentRow(), 0);
+}
+
+TEST_F(SearchWindowsTest, VyberSetsTheSelection) {
+  text.SetText("0123456789");
+  text.Select(2, 5);
+  Vyber dialog(text, nullptr);
+  EXPECT_EQ(dialog.objectName(), QStringLiteral("Výběr"));
+  dialog.Present();
+  auto* start = Find<QScrollBar>(dialog, "Start");
+  auto* length = Find<QScrollBar>(dialog, "Delka");
+  EXPECT_EQ(start->value(), 2);
+  EXPECT_EQ(length->value(), 3);
+  EXPECT_EQ(length->maximum(), 8);
+  EXPECT_EQ(text.SelText(), "234");
+  EXPECT_EQ(Find<QLabel>(dialog, "Label5")->text(), QStringLiteral("234"));
+  length->setValue(8);
+  start->setValue(6);  // cuts the length
+  EXPECT_EQ(length->value(), 4);
+  EXPECT_EQ(text.SelText(), "6789");
+  EXPECT_EQ(Find<QLabel>(dialog, "Label2")->text(), QStringLiteral("4"));
+  dialog.close();
+  text.Select(1, 1);
+  dialog.Present();
+  EXPECT_EQ(start->value(), 1);
+  EXPECT_EQ(length->value(), 0);
+  EXPECT_FALSE(text.HasSelection());
+}
+
+}  // namespace
+}  // namespace pelmar
