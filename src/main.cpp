@@ -6,6 +6,7 @@
 #include <cstdlib>
 
 #include "platform/qt/application.h"
+#include "platform/qt/fonts.h"
 #include "platform/qt/program_style.h"
 #include "platform/qt/qt_platform.h"
 #include "shell/windows/program.h"
@@ -34,6 +35,7 @@ int main(int argc, char** argv) {
   pelmar::Application::setDesktopFileName(QStringLiteral("pelmar-vex"));
   pelmar::Application::setQuitOnLastWindowClosed(false);
 
+  pelmar::SubstituteFonts();
   QTranslator czech;
   if (czech.load(QLocale(QLocale::Czech), QStringLiteral("qtbase"), QStringLiteral("_"),
                  QLibraryInfo::path(QLibraryInfo::TranslationsPath)))

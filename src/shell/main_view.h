@@ -36,12 +36,21 @@ class MainView {
   [[nodiscard]] virtual int WindowState() const = 0;
   virtual void SetAlwaysOnTop(bool on_top) = 0;
 
-  // Each sets the box and the check marks that go with it.
+  virtual void SetNormalState() = 0;
+  virtual void SetOuterSize(int width, int height) = 0;
+  // Width, height, left and top, in this order.
+  virtual void MoveTo(const TwipsRect& place) = 0;
+
+  // The size sets the check marks of its menu items too; bold and italic have marks of their own.
   virtual void SetEditorColors(Color fore, Color back) = 0;
   virtual void SetEditorFont(const std::string& name) = 0;
   virtual void SetEditorFontSize(int size) = 0;  // one of the six
   virtual void SetEditorBold(bool bold) = 0;
   virtual void SetEditorItalic(bool italic) = 0;
+  virtual void MarkBold(bool bold) = 0;
+  virtual void MarkItalic(bool italic) = 0;
+  virtual void SetAlignment(int alignment) = 0;  // 0 left, 1 right, 2 centre
+  [[nodiscard]] virtual int Alignment() const = 0;
   [[nodiscard]] virtual EditorLook Look() const = 0;
 
   virtual void ShowRecentFiles() = 0;

@@ -72,10 +72,15 @@ void Session::ApplyLook() {
   view_.SetEditorColors(settings_.ForeColor, settings_.BackColor);
   SetEditorFontSize(settings_.FontSize);
   view_.SetEditorBold(settings_.FontBold);
+  view_.MarkBold(settings_.FontBold);
   view_.SetEditorItalic(settings_.FontItalic);
+  view_.MarkItalic(settings_.FontItalic);
 }
 
-void Session::SetEditorFontSize(int size) { view_.SetEditorFontSize(EditorFontSize(size)); }
+void Session::SetEditorFontSize(int size) {
+  view_.SetEditorFontSize(EditorFontSize(size));
+  if (on_font_size) on_font_size();
+}
 
 void Session::Act(std::string_view tail) {
   const std::string upper = ToUpper(tail);

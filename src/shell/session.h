@@ -2,6 +2,7 @@
 // read here and written here: the settings file and the two recovery files. The order of the steps is required.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -27,6 +28,9 @@ class Session {
 
   // The one way to change the editor's font size: six sizes are taken, any other becomes 8.
   void SetEditorFontSize(int size);
+
+  // Told after each change of the size, for the dialog that shows it.
+  std::function<void()> on_font_size;
 
   [[nodiscard]] StartMode Mode() const { return mode_; }
 

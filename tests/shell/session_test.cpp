@@ -7,6 +7,7 @@
 #include <functional>
 
 #include "shell/editor.h"
+#include "support/plain_view.h"
 #include "support/scripted_platform.h"
 #include "text/codepage.h"
 
@@ -14,60 +15,6 @@ namespace pelmar {
 namespace {
 
 using Calls = std::vector<std::string>;
-
-// Writes down what the session asks of the main window, in order.
-class PlainView : public MainView {
- public:
-  Calls calls;
-  TwipsRect place;
-  int state = 0;
-  EditorLook look;
-  std::function<void()> config;
-
-  void SetPlace(const TwipsRect& p) override {
-    place = p;
-    calls.push_back("place");
-  }
-  TwipsRect Place() const override { return place; }
-  void SetWindowState(int s) override {
-    state = s;
-    calls.push_back("state");
-  }
-  int WindowState() const override { return state; }
-  void SetAlwaysOnTop(bool on_top) override { calls.push_back(on_top ? "top" : "not top"); }
-  void SetEditorColors(Color fore, Color back) override {
-    look.fore_color = fore;
-    look.back_color = back;
-    calls.push_back("colors");
-  }
-  void SetEditorFont(const std::string& name) override {
-    look.font_name = name;
-    calls.push_back("font");
-  }
-  void SetEditorFontSize(int size) override {
-    look.font_size = size;
-    calls.push_back("size");
-  }
-  void SetEditorBold(bool bold) override {
-    look.bold = bold;
-    calls.push_back("bold");
-  }
-  void SetEditorItalic(bool italic) override {
-    look.italic = italic;
-    calls.push_back("italic");
-  }
-  EditorLook Look() const override { return look; }
-  void ShowRecentFiles() override { calls.push_back("recent"); }
-  void ShowConfig() override {
-    calls.push_back("config");
-    if (config) config();
-  }
-  void ShowMain() override { calls.push_back("main"); }
-  void ShowStart() override { calls.push_back("start"); }
-  void ShowAccessory(StartMode mode) override {
-    calls.push_back("accessory " + std::to_string(static_cast<int>(mode)));
-  }
-};
 
 struct SessionTest : testing::Test {
   ScriptedPlatform platform;
@@ -94,8 +41,8 @@ struct SessionTest : testing::Test {
 
 TEST_F(SessionTest, FirstStartRunsTheStepsInOrder) {
   session.Start("");
-  EXPECT_EQ(view.calls, (Calls{"colors", "recent", "place", "state", "font", "colors", "size", "bold", "italic",
-                               "config", "not top", "main"}));
+  EXPECT_EQ(view.calls, (Calls{"colors", "recent", "place", "state", "font", "colors", "size", "bold", "no bold mark",
+                               "italic", "no italic mark", "config", "not top", "main"}));
   EXPECT_EQ(view.place, TwipsRect{});
   EXPECT_EQ(view.look.font_name, "Courier New");
   EXPECT_EQ(view.look.font_size, 8);

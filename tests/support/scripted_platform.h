@@ -17,9 +17,10 @@ namespace pelmar {
 
 class ScriptedPlatform : public Platform {
  public:
-  // One string a call, in order, texts as they were given: `message 52 "text" "title"`, `about "title" "text"`, `input "prompt" "title"
-  // "initial"`, `open "filter" 2`, `save "filter" 2`, `write path` (also a failed one), `remove path`, `recent path`,
-  // `default program path`, `start copy`, `clipboard "text"`, `clipboard clear`, `busy 1`. Reading leaves no trace.
+  // One string a call, in order, texts as they were given: `message 52 "text" "title"`, `about "title" "text"`, `input
+  // "prompt" "title" "initial"`, `open "filter" 2`, `save "filter" 2`, `write path` (also a failed one), `remove path`,
+  // `recent path`, `default program path`, `start copy`, `clipboard "text"`, `clipboard clear`, `busy 1`. Reading
+  // leaves no trace.
   std::vector<std::string> calls;
   // The calls so far, which are then forgotten.
   std::vector<std::string> TakeCalls();

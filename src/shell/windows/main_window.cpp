@@ -24,6 +24,9 @@ constexpr std::pair<int, std::string_view> kSizeItems[] = {
     {8, "mnu08"}, {10, "mnu10"}, {12, "mnu12"}, {14, "mnu14"}, {17, "mnu17"}, {24, "mnu24"},
 };
 
+// Left, right, centre.
+constexpr Qt::Alignment kAlignments[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
+
 QColor ColorOf(Color color) { return {RedOf(color), GreenOf(color), BlueOf(color)}; }
 Color ColorFrom(const QColor& color) { return Rgb(color.red(), color.green(), color.blue()); }
 
@@ -78,8 +81,12 @@ void MainWindow::MakeControls() {
   pop_up(toolbar_, "MnuPopUp");
   pop_up(text_, "MnuSel");
   AddTabKeys();
-  connect(bar_->Panel(3), &StatusPanel::Clicked, this, [this] { editor_.settings.LineCounting = false; });
-  connect(bar_->Panel(3), &StatusPanel::DoubleClicked, this, [this] { editor_.settings.LineCounting = true; });
+  const auto count_lines = [this](bool count) {
+    editor_.settings.LineCounting = count;
+    if (on_line_counting) on_line_counting();
+  };
+  connect(bar_->Panel(3), &StatusPanel::Clicked, this, [count_lines] { count_lines(false); });
+  connect(bar_->Panel(3), &StatusPanel::DoubleClicked, this, [count_lines] { count_lines(true); });
 }
 
 // The strip itself takes no focus, so the keyboard reaches it by keys of its own.
@@ -217,6 +224,21 @@ int MainWindow::WindowState() const {
   return isMaximized() ? 2 : 0;
 }
 
+void MainWindow::SetNormalState() {
+  if (isMaximized() || isMinimized()) showNormal();
+}
+
+void MainWindow::SetOuterSize(int width, int height) {
+  SetOuterWidth(*this, width);
+  SetOuterHeight(*this, height);
+}
+
+void MainWindow::MoveTo(const TwipsRect& place) {
+  SetOuterSize(place.width, place.height);
+  SetOuterLeft(*this, place.left);
+  SetOuterTop(*this, place.top);
+}
+
 void MainWindow::SetAlwaysOnTop(bool on_top) { pelmar::SetAlwaysOnTop(*this, on_top); }
 
 void MainWindow::SetEditorColors(Color fore, Color back) {
@@ -245,14 +267,22 @@ void MainWindow::SetEditorBold(bool bold) {
   QFont font = text_->font();
   font.setBold(bold);
   SetBoxFont(font);
-  menus_->Action("mnuEditBold")->setChecked(bold);
 }
 
 void MainWindow::SetEditorItalic(bool italic) {
   QFont font = text_->font();
   font.setItalic(italic);
   SetBoxFont(font);
-  menus_->Action("mnuitalic")->setChecked(italic);
+}
+
+void MainWindow::MarkBold(bool bold) { menus_->Action("mnuEditBold")->setChecked(bold); }
+void MainWindow::MarkItalic(bool italic) { menus_->Action("mnuitalic")->setChecked(italic); }
+
+void MainWindow::SetAlignment(int alignment) { text_->setAlignment(kAlignments[static_cast<std::size_t>(alignment)]); }
+
+int MainWindow::Alignment() const {
+  const auto* const found = std::find(std::begin(kAlignments), std::end(kAlignments), text_->Alignment());
+  return static_cast<int>(found - std::begin(kAlignments));
 }
 
 EditorLook MainWindow::Look() const {

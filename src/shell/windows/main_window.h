@@ -33,6 +33,7 @@ class MainWindow : public QMainWindow, public MainView {
   // Other windows, which come with their own subsystems.
   std::function<void()> show_config;
   std::function<void()> show_start;
+  std::function<void()> on_line_counting;  // told when a click in the status bar changed it
   std::function<void(StartMode)> show_accessory;
 
   // Called when all commands are there: enables what they serve.
@@ -49,11 +50,18 @@ class MainWindow : public QMainWindow, public MainView {
   void SetWindowState(int state) override;
   [[nodiscard]] int WindowState() const override;
   void SetAlwaysOnTop(bool on_top) override;
+  void SetNormalState() override;
+  void SetOuterSize(int width, int height) override;
+  void MoveTo(const TwipsRect& place) override;
   void SetEditorColors(Color fore, Color back) override;
   void SetEditorFont(const std::string& name) override;
   void SetEditorFontSize(int size) override;
   void SetEditorBold(bool bold) override;
   void SetEditorItalic(bool italic) override;
+  void MarkBold(bool bold) override;
+  void MarkItalic(bool italic) override;
+  void SetAlignment(int alignment) override;
+  [[nodiscard]] int Alignment() const override;
   [[nodiscard]] EditorLook Look() const override;
   void ShowRecentFiles() override;
   void ShowConfig() override;

@@ -9,6 +9,7 @@
 #include "shell/editor.h"
 #include "shell/session.h"
 #include "shell/windows/main_window.h"
+#include "shell/windows/program_parts.h"
 #include "shell/windows/rescue_keeper.h"
 #include "shell/windows/status_timer.h"
 #include "shell/windows/window_registry.h"
@@ -30,8 +31,8 @@ class Program {
   [[nodiscard]] WindowRegistry& Windows() { return windows_; }
 
  private:
-  void RegisterWindows();
-  void AddWindowCommands();
+  void AddWindows();
+  void ShowAccessory(StartMode mode);
   bool MayClose();
 
   Platform& platform_;
@@ -40,6 +41,7 @@ class Program {
   Session session_;
   RescueKeeper rescue_;
   StatusTimer timer_;
+  StandAlones stand_alones_;
   WindowRegistry windows_;  // last: its windows look at all the others
 };
 

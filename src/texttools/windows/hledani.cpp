@@ -30,6 +30,8 @@ void Hledani::Step(void (Finder::*step)()) {
   TakeFields();
   (finder_.*step)();
   ShowFields();
+  // The field that had the keyboard may be off now; Enter then goes on with the search.
+  if (finder_.next_on) ui_->Command2->setFocus();
 }
 
 void Hledani::TakeFields() {

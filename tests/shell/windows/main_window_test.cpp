@@ -177,6 +177,7 @@ TEST_F(MainWindowTest, LookComesBackAsItWasSet) {
   window.SetEditorFont(std::string("DejaVu Sans Mono"));
   window.SetEditorFontSize(14);
   window.SetEditorBold(true);
+  window.MarkBold(true);
   window.SetEditorColors(Rgb(1, 2, 3), Rgb(250, 251, 252));
   const EditorLook look = window.Look();
   EXPECT_EQ(look.font_name, "DejaVu Sans Mono");
@@ -188,6 +189,9 @@ TEST_F(MainWindowTest, LookComesBackAsItWasSet) {
   EXPECT_TRUE(Find<QAction>("mnu14")->isChecked());
   EXPECT_FALSE(Find<QAction>("mnu08")->isChecked());
   EXPECT_TRUE(Find<QAction>("mnuEditBold")->isChecked());
+  window.SetAlignment(2);
+  EXPECT_EQ(window.Alignment(), 2);
+  EXPECT_EQ(window.Text().Alignment(), Qt::AlignHCenter);
 }
 
 TEST_F(MainWindowTest, ADroppedFileIsOpenedAfterAQuestion) {

@@ -1,0 +1,91 @@
+#include "accessories/color_math.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace pelmar {
+namespace {
+
+template <class Function>
+Channels Each(const Channels& c, Function function) {
+  return {function(c.red), function(c.green), function(c.blue)};
+}
+
+int Mean(const Channels& c) { return (c.red + c.green + c.blue) / 3; }
+
+std::string ThreeDigits(int value) {
+  const std::string digits = std::to_string(value);
+  return std::string(digits.size() < 3 ? 3 - digits.size() : 0, '0') + digits;
+}
+
+int NumberOf(std::string_view digits) {
+  int number = 0;
+  for (const char ch : digits) {
+    if (ch < '0' || ch > '9') break;
+    number = 10 * number + (ch - '0');
+  }
+  return number;
+}
+
+// The channel that is strictly before both others, 0 where none is.
+template <class Before>
+int StrictExtreme(const Channels& c, Before before) {
+  if (before(c.red, c.green) && before(c.red, c.blue)) return c.red;
+  if (before(c.green, c.red) && before(c.green, c.blue)) return c.green;
+  if (before(c.blue, c.red) && before(c.blue, c.green)) return c.blue;
+  return 0;
+}
+
+}  // namespace
+
+Channels ChannelsOf(Color color) { return {RedOf(color), GreenOf(color), BlueOf(color)}; }
+Color ColorOf(const Channels& c) { return Rgb(c.red, c.green, c.blue); }
+
+Channels Inverted(const Channels& c) {
+  return Each(c, [](int v) { return 255 - v; });
+}
+
+Channels ToGrey(const Channels& c) { return {Mean(c), Mean(c), Mean(c)}; }
+
+Channels RandomChannels(const std::function<double()>& draw) {
+  Channels c;
+  c.red = static_cast<int>(draw() * 256);
+  c.green = static_cast<int>(draw() * 256);
+  c.blue = static_cast<int>(draw() * 256);
+  return c;
+}
+
+Channels Darker(const Channels& c) {
+  return Each(c, [](int v) { return static_cast<int>(std::nearbyint(v * 0.9)); });
+}
+
+Channels Lighter(const Channels& c) {
+  return Each(c, [](int v) { return v * 1.1 <= 255 ? static_cast<int>(std::nearbyint(v * 1.1)) : 255; });
+}
+
+Channels Rotated(const Channels& c) { return {c.green, c.blue, c.red}; }
+
+Channels LowestToZero(const Channels& c) {
+  const int lowest = StrictExtreme(c, std::less<>());
+  return Each(c, [lowest](int v) { return v - lowest; });
+}
+
+Channels HighestToFull(const Channels& c) {
+  const int highest = StrictExtreme(c, std::greater<>());
+  return Each(c, [highest](int v) { return std::min(v + 255 - highest, 255); });
+}
+
+Channels MeanToMiddle(const Channels& c) {
+  return Each(c, [mean = Mean(c)](int v) { return std::clamp(v + 128 - mean, 0, 255); });
+}
+
+std::string HistoryRow(const Channels& c) {
+  return ThreeDigits(c.red) + "," + ThreeDigits(c.green) + "," + ThreeDigits(c.blue);
+}
+
+Channels FromHistoryRow(std::string_view row) {
+  if (row.size() < 11) return {};
+  return {NumberOf(row.substr(0, 3)), NumberOf(row.substr(3, 3)), NumberOf(row.substr(row.size() - 3))};
+}
+
+}  // namespace pelmar

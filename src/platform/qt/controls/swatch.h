@@ -1,0 +1,62 @@
+// A field of one colour that can be clicked, also by keyboard.
+#pragma once
+
+#include <QAbstractButton>
+#include <QColor>
+
+namespace pelmar {
+
+class Swatch : public QAbstractButton {
+  Q_OBJECT
+  Q_PROPERTY(QColor color READ Color WRITE setColor)
+
+ public:
+  explicit Swatch(QWidget* parent = nullptr);
+
+  [[nodiscard]] QColor Color() const { return color_; }
+  void setColor(const QColor& color);
+
+  QSize sizeHint() const override { return {28, 22}; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QColor color_ = Qt::black;
+};
+
+// From one colour to another, in 256 rows from top to bottom.
+class GradientBar : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit GradientBar(QWidget* parent = nullptr) : QWidget(parent) {}
+
+  void SetColors(const QColor& top, const QColor& bottom);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QColor top_ = Qt::black;
+  QColor bottom_ = Qt::black;
+};
+
+// A white field with a bar from the left, as long as a value in twips.
+class ValueBar : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit ValueBar(QWidget* parent = nullptr) : QWidget(parent) {}
+
+  void SetTwips(int twips);
+  QSize sizeHint() const override { return {104, 18}; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  int twips_ = 0;
+};
+
+}  // namespace pelmar

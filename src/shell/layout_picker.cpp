@@ -1,0 +1,24 @@
+#include "shell/layout_picker.h"
+
+namespace pelmar {
+namespace {
+
+constexpr std::string_view kNames[3][3] = {
+    {"Vlevo nahoře", "Nahoře", "Vpravo nahoře"},
+    {"Vlevo", "Maximalizace", "Vpravo"},
+    {"Vlevo dole", "Dole", "Vpravo dole"},
+};
+
+// One side of a cell: the first half, the whole, the second half.
+constexpr int Length(int cell, int whole) { return cell == 2 ? whole : whole / 2; }
+constexpr int Start(int cell, int whole) { return cell == 3 ? whole / 2 : 0; }
+
+}  // namespace
+
+ScreenPlace PlaceOfCell(int row, int column, int screen_width, int screen_height) {
+  return {kNames[row - 1][column - 1],
+          {Start(column, screen_width), Start(row, screen_height), Length(column, screen_width),
+           Length(row, screen_height)}};
+}
+
+}  // namespace pelmar

@@ -1,0 +1,18 @@
+// The nine places of the layout picker Pos: a grid of three columns and three rows over the screen.
+#pragma once
+
+#include <string_view>
+
+#include "shell/window_geometry.h"
+
+namespace pelmar {
+
+struct ScreenPlace {
+  std::string_view name;  // UTF-8
+  TwipsRect place;
+};
+
+// Row and column from 1 to 3; the screen's size in twips. The middle cell covers the screen without maximising.
+ScreenPlace PlaceOfCell(int row, int column, int screen_width, int screen_height);
+
+}  // namespace pelmar

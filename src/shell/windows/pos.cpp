@@ -1,0 +1,34 @@
+#include "shell/windows/pos.h"
+
+#include "platform/qt/convert.h"
+#include "platform/qt/outer_geometry.h"
+#include "shell/layout_picker.h"
+#include "ui_pos.h"
+
+namespace pelmar {
+
+Pos::Pos(MainView& main, QWidget* parent) : DialogWindow(parent), main_(main), ui_(std::make_unique<Ui::Pos>()) {
+  ui_->setupUi(this);
+  const auto place_of = [this](int row, int column) {
+    const QSize screen = ScreenTwips(*this);
+    return PlaceOfCell(row, column, screen.width(), screen.height());
+  };
+  connect(ui_->Picture1, &CellGrid::CellEntered, this,
+          [this, place_of](int row, int column) { ui_->Label1->setText(Utf8ToQString(place_of(row, column).name)); });
+  connect(ui_->Picture1, &CellGrid::CellChosen, this, [this, place_of](int row, int column) {
+    main_.SetNormalState();
+    main_.MoveTo(place_of(row, column).place);
+  });
+  connect(ui_->Command1, &QPushButton::clicked, this, &Pos::hide);
+}
+
+Pos::~Pos() = default;
+
+// Over the form, and over its label, no cell is meant.
+void Pos::mouseMoveEvent(QMouseEvent* event) {
+  ui_->Label1->clear();
+  ui_->Picture1->Clear();
+  DialogWindow::mouseMoveEvent(event);
+}
+
+}  // namespace pelmar

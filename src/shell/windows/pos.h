@@ -1,0 +1,31 @@
+// `Pos`, the layout picker: puts the main window over one of nine parts of the screen.
+#pragma once
+
+#include <memory>
+
+#include "platform/qt/controls/dialog_window.h"
+#include "shell/main_view.h"
+
+namespace Ui {
+class Pos;
+}
+
+namespace pelmar {
+
+class Pos : public DialogWindow {
+  Q_OBJECT
+
+ public:
+  // `main` is the window that is placed.
+  Pos(MainView& main, QWidget* parent);
+  ~Pos() override;
+
+ protected:
+  void mouseMoveEvent(QMouseEvent* event) override;
+
+ private:
+  MainView& main_;
+  std::unique_ptr<Ui::Pos> ui_;
+};
+
+}  // namespace pelmar

@@ -1,0 +1,37 @@
+// What the windows and commands of all subsystems are made from. Each subsystem adds its own to it, in one function of
+// its windows folder; the parts outlive every window.
+#pragma once
+
+#include <functional>
+#include <initializer_list>
+#include <map>
+#include <string_view>
+
+#include "platform/platform.h"
+#include "shell/editor.h"
+#include "shell/session.h"
+#include "shell/windows/main_window.h"
+#include "shell/windows/window_registry.h"
+
+namespace pelmar {
+
+// By mode, what shows an accessory that runs as the whole program.
+using StandAlones = std::map<StartMode, std::function<void()>>;
+
+struct ProgramParts {
+  Platform& platform;
+  Editor& editor;
+  MainWindow& main;
+  Session& session;
+  WindowRegistry& windows;
+  StandAlones& stand_alones;
+
+  // The commands of these names show the window, as far as it isn't on show already.
+  template <class Window>
+  void ShowBy(std::initializer_list<std::string_view> names) const {
+    for (const std::string_view name : names)
+      editor.commands.Add(name, [&shown = windows] { shown.Get<Window>().Present(); });
+  }
+};
+
+}  // namespace pelmar

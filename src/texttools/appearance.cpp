@@ -1,0 +1,91 @@
+#include "texttools/appearance.h"
+
+#include <utility>
+
+#include "shell/editor.h"
+
+namespace pelmar {
+namespace {
+
+constexpr Color kBlack = Rgb(0, 0, 0);
+constexpr Color kWhite = Rgb(255, 255, 255);
+constexpr Color kDosGrey = Rgb(194, 194, 194);
+constexpr int kDosWidth = 9210;  // twips
+constexpr int kDosHeight = 6675;
+
+constexpr std::pair<std::string_view, int> kSizes[] = {
+    {"mnu08", 8}, {"mnu10", 10}, {"mnu12", 12}, {"mnu14", 14}, {"mnu17", 17}, {"mnu24", 24},
+};
+
+// The leading digits of a text as a number; more than any font's size is as much.
+int LeadingNumber(std::string_view text) {
+  int number = 0;
+  for (const char ch : text) {
+    if (ch < '0' || ch > '9' || number > 9999) break;
+    number = 10 * number + (ch - '0');
+  }
+  return number;
+}
+
+void ApplyBasicLook(MainView& view, Session& session) {
+  view.SetEditorFont(std::string(kSansSerif));
+  view.SetEditorItalic(false);
+  view.MarkItalic(false);
+  view.SetEditorBold(false);  // required: the check mark of mnuEditBold stays as it was
+  session.SetEditorFontSize(8);
+  view.SetEditorColors(kBlack, kWhite);
+}
+
+}  // namespace
+
+Color InvertedColor(Color color) { return kWhite - color; }
+
+void ApplyDosLook(MainView& view, Session& session) {
+  view.SetNormalState();
+  view.SetOuterSize(kDosWidth, kDosHeight);
+  view.SetEditorColors(kDosGrey, kBlack);
+  view.SetEditorFont(std::string(kCourier));
+  session.SetEditorFontSize(8);
+  view.SetEditorBold(false);
+  view.MarkBold(false);
+  view.SetEditorItalic(false);
+  view.MarkItalic(false);
+  view.SetEditorColors(kDosGrey, kBlack);
+}
+
+void AddAppearanceCommands(Editor& editor, MainView& view, Session& session) {
+  Commands& commands = editor.commands;
+  for (const auto& [name, size] : kSizes)
+    commands.Add(name, [&session, points = size] { session.SetEditorFontSize(points); });
+  commands.Add("mnuEditBold", [&view] {
+    const bool bold = !view.Look().bold;
+    view.SetEditorBold(bold);
+    view.MarkBold(bold);
+  });
+  commands.Add("mnuitalic", [&view] {
+    const bool italic = !view.Look().italic;
+    view.SetEditorItalic(italic);
+    view.MarkItalic(italic);
+  });
+  commands.Add("mnuinvert", [&view] {
+    const EditorLook look = view.Look();
+    view.SetEditorColors(InvertedColor(look.fore_color), InvertedColor(look.back_color));
+  });
+  commands.Add("Mnu_Change_Alingment", [&view] { view.SetAlignment((view.Alignment() + 1) % 3); });
+  for (const std::string_view name : {"mnu_Text_Dos", "Dos"})
+    commands.Add(name, [&view, &session] { ApplyDosLook(view, session); });
+  commands.Add("mnubasic", [&view, &session] { ApplyBasicLook(view, session); });
+}
+
+SizeField NormalizeSize(std::string_view typed) {
+  if (typed.empty() || typed == "0") typed = "1";
+  SizeField field;
+  field.size = LeadingNumber(typed);
+  field.text = std::to_string(field.size);
+  if (field.text == "0") field.text = "1";
+  if (field.text.size() >= 3) field.text.resize(2);
+  if (field.size < 1) field.size = 1;  // no font has size 0
+  return field;
+}
+
+}  // namespace pelmar

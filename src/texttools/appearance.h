@@ -1,0 +1,36 @@
+// The look of the main text box by menu commands, and the rules of the dialog Visual.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "shell/main_view.h"
+#include "shell/session.h"
+
+namespace pelmar {
+
+struct Editor;
+
+// The three fonts that the program offers.
+inline constexpr std::string_view kSansSerif = "MS Sans Serif";
+inline constexpr std::string_view kCourier = "Courier New";
+inline constexpr std::string_view kTerminal = "Terminal";
+
+// Bold, italic, sizes, inverted colours, alignment, the DOS and the basic look.
+void AddAppearanceCommands(Editor& editor, MainView& view, Session& session);
+
+// Normal state, a fixed size, light grey on black.
+void ApplyDosLook(MainView& view, Session& session);
+
+// A colour's opposite, as plain numbers.
+Color InvertedColor(Color color);
+
+// What typing makes of the size field: the text that goes back into it, and the size that the preview takes.
+struct SizeField {
+  std::string text;
+  int size = 1;
+  bool operator==(const SizeField&) const = default;
+};
+SizeField NormalizeSize(std::string_view typed);
+
+}  // namespace pelmar

@@ -1,0 +1,41 @@
+#include "texttools/windows/text_windows.h"
+
+#include "accessories/windows/color_dialog.h"
+#include "shell/windows/pos.h"
+#include "shell/windows/program_parts.h"
+#include "texttools/appearance.h"
+#include "texttools/windows/hledani.h"
+#include "texttools/windows/visual.h"
+#include "texttools/windows/vyber.h"
+#include "texttools/windows/zamena.h"
+
+namespace pelmar {
+
+void AddTextWindows(const ProgramParts& parts) {
+  TextBuffer& text = parts.editor.text;
+  WindowRegistry& windows = parts.windows;
+  windows.Register<Hledani>([parts, &text] { return std::make_unique<Hledani>(text, parts.platform, &parts.main); });
+  windows.Register<Zamena>([parts, &text] { return std::make_unique<Zamena>(text, parts.platform, &parts.main); });
+  windows.Register<Vyber>([parts, &text] { return std::make_unique<Vyber>(text, &parts.main); });
+  windows.Register<Visual>([parts] {
+    return std::make_unique<Visual>(
+        parts.main, parts.session, parts.editor.settings,
+        Visual::Doors{[parts](Color color) { return parts.windows.Get<ColorDialog>().PickColor(color); },
+                      [parts] { parts.windows.Get<Pos>().Present(); }},
+        &parts.main);
+  });
+  parts.ShowBy<Hledani>({"mnufind", "Find"});
+  parts.ShowBy<Zamena>({"mnuchange"});
+  parts.ShowBy<Vyber>({"mnupresnvyb"});
+  parts.ShowBy<Visual>({"mnumore"});
+
+  AddAppearanceCommands(parts.editor, parts.main, parts.session);
+  parts.main.on_line_counting = [&windows] {
+    if (Visual* visual = windows.Find<Visual>()) visual->FollowLineCounting();
+  };
+  parts.session.on_font_size = [&windows] {
+    if (Visual* visual = windows.Find<Visual>()) visual->FollowFontSize();
+  };
+}
+
+}  // namespace pelmar

@@ -1,0 +1,130 @@
+#include "texttools/windows/visual.h"
+
+#include <QShowEvent>
+
+#include "platform/qt/convert.h"
+#include "text/codepage.h"
+#include "texttools/appearance.h"
+#include "ui_visual.h"
+
+namespace pelmar {
+namespace {
+
+constexpr std::string_view kPreview =
+    "aábcčdďeéěfghchiíjklmnoóprřsštťuúůvwxyýzž\r\nAÁBCČDĎEÉĚFGHCHIÍJKLMNOÓPQRŘSŠTŤUÚVWXYÝZŽ\r\n"_w;
+constexpr int kDefaultSnap = 240;  // twips
+
+QColor Shown(Color color) { return {RedOf(color), GreenOf(color), BlueOf(color)}; }
+Color Taken(const QColor& color) { return Rgb(color.red(), color.green(), color.blue()); }
+
+}  // namespace
+
+Visual::Visual(MainView& view, Session& session, SettingsRecord& settings, Doors doors, QWidget* parent)
+    : DialogWindow(parent),
+      view_(view),
+      session_(session),
+      settings_(settings),
+      doors_(std::move(doors)),
+      ui_(std::make_unique<Ui::Visual>()) {
+  ui_->setupUi(this);
+  ui_->Label1->SetText(ToBytes(kPreview));
+  ConnectPreview();
+  connect(ui_->Check1, &QCheckBox::clicked, this, [this](bool checked) { settings_.LineCounting = checked; });
+  connect(ui_->VScroll7, &QScrollBar::valueChanged, this, &Visual::VScroll7_Change);
+  connect(ui_->Command5, &QPushButton::clicked, this, [this] { settings_.AutosnapDistance = ui_->VScroll7->value(); });
+  // required: only the slider goes back, until Command5 takes it over
+  connect(ui_->Command6, &QPushButton::clicked, this, [this] { ui_->VScroll7->setValue(kDefaultSnap); });
+  connect(ui_->Command1, &QPushButton::clicked, this, &Visual::Command1_Click);
+  connect(ui_->Command2, &QPushButton::clicked, this, &Visual::hide);
+  connect(ui_->Command3, &QPushButton::clicked, this, &Visual::Command3_Click);
+  connect(ui_->Command4, &QPushButton::clicked, this, [this] { ApplyDosLook(view_, session_); });
+  connect(ui_->Command7, &QPushButton::clicked, this, [this] { doors_.show_pos(); });
+}
+
+Visual::~Visual() = default;
+
+void Visual::ConnectPreview() {
+  connect(ui_->Check2, &QCheckBox::toggled, this,
+          [this](bool bold) { SetPreviewFont([bold](QFont& font) { font.setBold(bold); }); });
+  connect(ui_->Check3, &QCheckBox::toggled, this,
+          [this](bool italic) { SetPreviewFont([italic](QFont& font) { font.setItalic(italic); }); });
+  const std::pair<QRadioButton*, std::string_view> fonts[] = {
+      {ui_->Option1, kSansSerif}, {ui_->Option2, kCourier}, {ui_->Option3, kTerminal}};
+  for (const auto& [option, name] : fonts)
+    connect(option, &QRadioButton::toggled, this, [this, family = Utf8ToQString(name)](bool on) {
+      if (on) SetPreviewFont([&family](QFont& font) { font.setFamily(family); });
+    });
+  connect(ui_->Combo1, &QComboBox::editTextChanged, this, &Visual::Combo1_Change);
+  connect(ui_->Command8, &QPushButton::clicked, this,
+          [this] { ui_->Label1->setTextColor(Shown(doors_.pick_color(Taken(ui_->Label1->TextColor())))); });
+  connect(ui_->Command9, &QPushButton::clicked, this,
+          [this] { ui_->Label1->setBackgroundColor(Shown(doors_.pick_color(Taken(ui_->Label1->BackgroundColor())))); });
+}
+
+void Visual::showEvent(QShowEvent* event) {
+  if (!event->spontaneous()) Load();
+  DialogWindow::showEvent(event);
+}
+
+void Visual::Load() {
+  const EditorLook look = view_.Look();
+  ui_->Label1->setTextColor(Shown(look.fore_color));
+  ui_->Label1->setBackgroundColor(Shown(look.back_color));
+  ui_->Check2->setChecked(look.bold);
+  ui_->Check3->setChecked(look.italic);
+  FollowLineCounting();
+  ui_->Option1->setChecked(look.font_name == kSansSerif);
+  ui_->Option2->setChecked(look.font_name == kCourier);
+  ui_->Option3->setChecked(look.font_name == kTerminal);
+  FollowFontSize();
+  ui_->VScroll7->setValue(settings_.AutosnapDistance);
+  VScroll7_Change(ui_->VScroll7->value());
+}
+
+void Visual::FollowFontSize() {
+  // A size that isn't in the list selects nothing.
+  ui_->Combo1->setCurrentIndex(ui_->Combo1->findText(QString::number(view_.Look().font_size)));
+}
+
+void Visual::FollowLineCounting() { ui_->Check1->setChecked(settings_.LineCounting); }
+
+void Visual::SetPreviewFont(const std::function<void(QFont&)>& change) {
+  QFont font = ui_->Label1->font();
+  change(font);
+  ui_->Label1->setFont(font);
+}
+
+void Visual::Combo1_Change() {
+  const SizeField field = NormalizeSize(TextFromQString(ui_->Combo1->currentText()));
+  SetPreviewFont([&field](QFont& font) { font.setPointSize(field.size); });
+  const QString text = Utf8ToQString(field.text);
+  if (ui_->Combo1->currentText() != text) ui_->Combo1->setEditText(text);
+}
+
+void Visual::VScroll7_Change(int value) {
+  ui_->Picture1->SetTwips(value);
+  ui_->Label12->setText(QString::number(value));
+}
+
+void Visual::Command3_Click() {
+  ui_->Check2->setChecked(false);
+  ui_->Check3->setChecked(false);
+  ui_->Option2->setChecked(true);
+  ui_->Combo1->setEditText(QStringLiteral("8"));
+  ui_->Label1->setBackgroundColor(Qt::white);
+  ui_->Label1->setTextColor(Qt::black);
+}
+
+void Visual::Command1_Click() {
+  view_.SetEditorBold(ui_->Check2->isChecked());
+  view_.SetEditorItalic(ui_->Check3->isChecked());
+  view_.MarkBold(ui_->Check2->isChecked());
+  view_.MarkItalic(ui_->Check3->isChecked());
+  view_.SetEditorColors(Taken(ui_->Label1->TextColor()), Taken(ui_->Label1->BackgroundColor()));
+  if (ui_->Option1->isChecked()) view_.SetEditorFont(std::string(kSansSerif));
+  if (ui_->Option2->isChecked()) view_.SetEditorFont(std::string(kCourier));
+  if (ui_->Option3->isChecked()) view_.SetEditorFont(std::string(kTerminal));
+  session_.SetEditorFontSize(NormalizeSize(TextFromQString(ui_->Combo1->currentText())).size);
+}
+
+}  // namespace pelmar

@@ -1,0 +1,50 @@
+// `Visual`: the look of the main text box with a preview, the line counters and the snap distance.
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "platform/qt/controls/dialog_window.h"
+#include "shell/session.h"
+
+namespace Ui {
+class Visual;
+}
+
+namespace pelmar {
+
+class Visual : public DialogWindow {
+  Q_OBJECT
+
+ public:
+  struct Doors {
+    std::function<Color(Color)> pick_color;
+    std::function<void()> show_pos;
+  };
+  Visual(MainView& view, Session& session, SettingsRecord& settings, Doors doors, QWidget* parent);
+  ~Visual() override;
+
+  // The main text box took another size, or the status bar switched the counting.
+  void FollowFontSize();
+  void FollowLineCounting();
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  void Load();
+  void ConnectPreview();
+  void SetPreviewFont(const std::function<void(QFont&)>& change);
+  void Combo1_Change();
+  void VScroll7_Change(int value);
+  void Command1_Click();
+  void Command3_Click();
+
+  MainView& view_;
+  Session& session_;
+  SettingsRecord& settings_;
+  Doors doors_;
+  std::unique_ptr<Ui::Visual> ui_;
+};
+
+}  // namespace pelmar
