@@ -55,5 +55,6 @@ configure_and_build() {
   # A terminal gets ninja's one moving line, a log only what goes wrong.
   quiet=--quiet
   [ -t 2 ] && quiet=
-  ninja -C "$build" -j "$(nproc)" $quiet >&2
+  # Twice: headers made from forms change behind ninja's back, and what includes them is built by the second call.
+  ninja -C "$build" -j "$(nproc)" $quiet >&2 && ninja -C "$build" -j "$(nproc)" $quiet >&2
 }
