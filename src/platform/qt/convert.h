@@ -2,9 +2,12 @@
 #pragma once
 
 #include <QByteArray>
+#include <QColor>
 #include <QString>
 #include <string>
 #include <string_view>
+
+#include "shell/common.h"
 
 namespace pelmar {
 
@@ -15,6 +18,9 @@ inline QString Utf8ToQString(std::string_view utf8) {
   return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
 }
 inline std::string Utf8FromQString(const QString& string) { return string.toStdString(); }
+
+inline QColor ColorToQt(Color color) { return {RedOf(color), GreenOf(color), BlueOf(color)}; }
+inline Color ColorFromQt(const QColor& color) { return Rgb(color.red(), color.green(), color.blue()); }
 
 inline QByteArray ToBytes(std::string_view text) { return {text.data(), static_cast<qsizetype>(text.size())}; }
 inline std::string_view ViewOf(const QByteArray& bytes) {

@@ -27,9 +27,6 @@ constexpr std::pair<int, std::string_view> kSizeItems[] = {
 // Left, right, centre.
 constexpr Qt::Alignment kAlignments[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
 
-QColor ColorOf(Color color) { return {RedOf(color), GreenOf(color), BlueOf(color)}; }
-Color ColorFrom(const QColor& color) { return Rgb(color.red(), color.green(), color.blue()); }
-
 // "[*]" is a placeholder of the toolkit's; doubled it stands for itself.
 QString PlainTitle(const std::string& title) {
   return Utf8ToQString(title).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
@@ -242,8 +239,8 @@ void MainWindow::MoveTo(const TwipsRect& place) {
 void MainWindow::SetAlwaysOnTop(bool on_top) { pelmar::SetAlwaysOnTop(*this, on_top); }
 
 void MainWindow::SetEditorColors(Color fore, Color back) {
-  text_->setTextColor(ColorOf(fore));
-  text_->setBackgroundColor(ColorOf(back));
+  text_->setTextColor(ColorToQt(fore));
+  text_->setBackgroundColor(ColorToQt(back));
 }
 
 void MainWindow::SetBoxFont(const QFont& font) {
@@ -288,8 +285,8 @@ int MainWindow::Alignment() const {
 EditorLook MainWindow::Look() const {
   const QFont font = text_->font();
   return {TextFromQString(font.family()),
-          ColorFrom(text_->TextColor()),
-          ColorFrom(text_->BackgroundColor()),
+          ColorFromQt(text_->TextColor()),
+          ColorFromQt(text_->BackgroundColor()),
           font.pointSizeF(),
           font.bold(),
           font.italic()};

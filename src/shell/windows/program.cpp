@@ -34,7 +34,7 @@ Program::Program(Platform& platform)
 }
 
 void Program::AddWindows() {
-  const ProgramParts parts{platform_, editor_, main_, session_, windows_, stand_alones_};
+  const ProgramParts parts{platform_, editor_, main_, session_, windows_, stand_alones_, show_in_browser_};
   AddShellWindows(parts);
   AddFileWindows(parts);
   AddTextWindows(parts);

@@ -42,6 +42,7 @@ class Program {
   RescueKeeper rescue_;
   StatusTimer timer_;
   StandAlones stand_alones_;
+  std::function<void(const std::string& path)> show_in_browser_;
   WindowRegistry windows_;  // last: its windows look at all the others
 };
 

@@ -5,6 +5,7 @@
 #include <functional>
 #include <initializer_list>
 #include <map>
+#include <string>
 #include <string_view>
 
 #include "platform/platform.h"
@@ -25,6 +26,8 @@ struct ProgramParts {
   Session& session;
   WindowRegistry& windows;
   StandAlones& stand_alones;
+  // Shows a file in the internal browser; the path is UTF-8, an empty one does nothing. Set by the browser.
+  std::function<void(const std::string& path)>& show_in_browser;
 
   // The commands of these names show the window, as far as it isn't on show already.
   template <class Window>

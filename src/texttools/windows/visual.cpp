@@ -14,9 +14,6 @@ constexpr std::string_view kPreview =
     "aábcčdďeéěfghchiíjklmnoóprřsštťuúůvwxyýzž\r\nAÁBCČDĎEÉĚFGHCHIÍJKLMNOÓPQRŘSŠTŤUÚVWXYÝZŽ\r\n"_w;
 constexpr int kDefaultSnap = 240;  // twips
 
-QColor Shown(Color color) { return {RedOf(color), GreenOf(color), BlueOf(color)}; }
-Color Taken(const QColor& color) { return Rgb(color.red(), color.green(), color.blue()); }
-
 }  // namespace
 
 Visual::Visual(MainView& view, Session& session, SettingsRecord& settings, Doors doors, QWidget* parent)
@@ -56,9 +53,10 @@ void Visual::ConnectPreview() {
     });
   connect(ui_->Combo1, &QComboBox::editTextChanged, this, &Visual::Combo1_Change);
   connect(ui_->Command8, &QPushButton::clicked, this,
-          [this] { ui_->Label1->setTextColor(Shown(doors_.pick_color(Taken(ui_->Label1->TextColor())))); });
-  connect(ui_->Command9, &QPushButton::clicked, this,
-          [this] { ui_->Label1->setBackgroundColor(Shown(doors_.pick_color(Taken(ui_->Label1->BackgroundColor())))); });
+          [this] { ui_->Label1->setTextColor(ColorToQt(doors_.pick_color(ColorFromQt(ui_->Label1->TextColor())))); });
+  connect(ui_->Command9, &QPushButton::clicked, this, [this] {
+    ui_->Label1->setBackgroundColor(ColorToQt(doors_.pick_color(ColorFromQt(ui_->Label1->BackgroundColor()))));
+  });
 }
 
 void Visual::showEvent(QShowEvent* event) {
@@ -68,8 +66,8 @@ void Visual::showEvent(QShowEvent* event) {
 
 void Visual::Load() {
   const EditorLook look = view_.Look();
-  ui_->Label1->setTextColor(Shown(look.fore_color));
-  ui_->Label1->setBackgroundColor(Shown(look.back_color));
+  ui_->Label1->setTextColor(ColorToQt(look.fore_color));
+  ui_->Label1->setBackgroundColor(ColorToQt(look.back_color));
   ui_->Check2->setChecked(look.bold);
   ui_->Check3->setChecked(look.italic);
   FollowLineCounting();
@@ -120,7 +118,7 @@ void Visual::Command1_Click() {
   view_.SetEditorItalic(ui_->Check3->isChecked());
   view_.MarkBold(ui_->Check2->isChecked());
   view_.MarkItalic(ui_->Check3->isChecked());
-  view_.SetEditorColors(Taken(ui_->Label1->TextColor()), Taken(ui_->Label1->BackgroundColor()));
+  view_.SetEditorColors(ColorFromQt(ui_->Label1->TextColor()), ColorFromQt(ui_->Label1->BackgroundColor()));
   if (ui_->Option1->isChecked()) view_.SetEditorFont(std::string(kSansSerif));
   if (ui_->Option2->isChecked()) view_.SetEditorFont(std::string(kCourier));
   if (ui_->Option3->isChecked()) view_.SetEditorFont(std::string(kTerminal));

@@ -1,0 +1,19 @@
+// The pieces that every HTML-writing dialog builds its tags from. Texts are Windows-1250, written without escaping.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace pelmar {
+
+// A blank, the name, "=" and the value between double quotes.
+std::string Attribute(std::string_view name, std::string_view value);
+
+// Text between double quotes.
+std::string Quoted(std::string_view text);
+
+// Without the blanks at the left, or at both ends. Other white space stays.
+std::string_view LeftTrimmed(std::string_view text);
+std::string_view Trimmed(std::string_view text);
+
+}  // namespace pelmar
