@@ -5,6 +5,7 @@
 
 #include "accessories/windows/accessory_windows.h"
 #include "files/windows/file_windows.h"
+#include "html/dialogs/page_windows.h"
 #include "platform/qt/convert.h"
 #include "shell/windows/config.h"
 #include "shell/windows/shell_windows.h"
@@ -38,6 +39,7 @@ void Program::AddWindows() {
   AddShellWindows(parts);
   AddFileWindows(parts);
   AddTextWindows(parts);
+  AddPageWindows(parts);
   AddAccessoryWindows(parts);
 }
 
