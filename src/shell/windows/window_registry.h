@@ -41,10 +41,10 @@ class WindowRegistry {
     }
   }
 
-  // Destroys the window; its next use makes it anew.
+  // Forgets the window, whose next use makes it anew. It is destroyed behind the event at hand, which may be its own.
   template <class Window>
   void Unload() {
-    entries_.at(typeid(Window)).window.reset();
+    if (QWidget* window = entries_.at(typeid(Window)).window.release()) window->deleteLater();
   }
 
  private:
