@@ -2,10 +2,10 @@
 # The caller sets `root` (the source tree) and `step` (the word before each line that is told).
 
 build_packages="build-essential cmake ninja-build ccache qt6-base-dev qt6-tools-dev qt6-l10n-tools
-libgl-dev libx11-dev"
+libgl-dev libx11-dev librsvg2-bin"
 runtime_packages="libqt6svg6 qt6-qpa-plugins qt6-translations-l10n fonts-dejavu-core xdg-utils"
 test_packages="libgtest-dev libbenchmark-dev python3 xvfb openbox xdotool xclip wmctrl x11-utils
-imagemagick poppler-utils"
+imagemagick lintian dpkg-dev appstream desktop-file-utils fakeroot poppler-utils"
 
 tell() {
   printf '%s: %s\n' "$step" "$*" >&2
@@ -55,5 +55,6 @@ configure_and_build() {
   # A terminal gets ninja's one moving line, a log only what goes wrong.
   quiet=--quiet
   [ -t 2 ] && quiet=
-  ninja -C "$build" -j "$(nproc)" $quiet >&2
+  # Twice: headers made from forms change behind ninja's back, and what includes them is built by the second call.
+  ninja -C "$build" -j "$(nproc)" $quiet >&2 && ninja -C "$build" -j "$(nproc)" $quiet >&2
 }

@@ -1,5 +1,6 @@
 #include "html/dialogs/form_helpers.h"
 
+#include <QAbstractSlider>
 #include <QCheckBox>
 #include <QLabel>
 #include <QRadioButton>
@@ -26,6 +27,16 @@ void ConnectColorChoice(QAbstractButton* button, Swatch* swatch, QLabel* hex, st
                      hex->setText(Utf8ToQString(ColorToHex(color)));
                      if (taken) taken(swatch->Color());
                    });
+}
+
+QString BlankLed(int value) { return Utf8ToQString(NumberWithSignBlank(value)); }
+
+QString BlankLedPercent(int value) { return BlankLed(value) + QLatin1Char('%'); }
+
+void ShowValue(const QAbstractSlider* bar, QLabel* label, std::function<QString(int)> write) {
+  QObject::connect(bar, &QAbstractSlider::valueChanged, label, [label, write = std::move(write)](int value) {
+    label->setText(write ? write(value) : QString::number(value));
+  });
 }
 
 int SetOption(std::initializer_list<const QRadioButton*> options) {

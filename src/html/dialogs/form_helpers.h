@@ -1,5 +1,5 @@
 // What the events of many HTML dialogs have in common: controls that go with a check box, a colour with its hex label,
-// the set one of some options.
+// the set one of some options, the label of a value.
 #pragma once
 
 #include <QColor>
@@ -9,6 +9,7 @@
 #include "shell/common.h"
 
 class QAbstractButton;
+class QAbstractSlider;
 class QCheckBox;
 class QLabel;
 class QRadioButton;
@@ -25,6 +26,15 @@ void EnableWith(QCheckBox* box, std::initializer_list<QWidget*> widgets);
 // hex and to `taken`, where there is one.
 void ConnectColorChoice(QAbstractButton* button, Swatch* swatch, QLabel* hex, std::function<Color(Color)> pick,
                         std::function<void(const QColor&)> taken = {});
+
+// The number with a blank in front of it, as the labels of many values are written, and "%" where it is one of percent.
+QString BlankLed(int value);
+QString BlankLedPercent(int value);
+
+// Each change of the bar's value is written into the label, in plain digits where no other form is given. What the form
+// of the window says at first stays until then: such labels are what is written, and not all begin at their bar's
+// value.
+void ShowValue(const QAbstractSlider* bar, QLabel* label, std::function<QString(int)> write = {});
 
 // The index of the option that is set, from 0; 0 where none is.
 int SetOption(std::initializer_list<const QRadioButton*> options);

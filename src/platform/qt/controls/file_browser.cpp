@@ -32,6 +32,7 @@ void LinkFileBrowser(DriveList* place, FolderList* folders, FileList* files, QCo
   LinkFolderBrowser(place, folders);
   files->SetPath(folders->Path());
   if (!mask) return;
+  mask->setCompleter(nullptr);  // it would make "*.htm" of a typed "*.h"
   QObject::connect(mask, &QComboBox::currentTextChanged, files, &FileList::SetPattern);
   files->SetPattern(mask->currentText());
 }
