@@ -318,7 +318,8 @@ void MainWindow::ShowAccessory(StartMode mode) {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-  if (may_close && !may_close()) return event->ignore();
+  // The lock is no way out either, whoever asks.
+  if (text_->isHidden() || (may_close && !may_close())) return event->ignore();
   event->accept();
 }
 
