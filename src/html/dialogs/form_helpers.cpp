@@ -1,6 +1,7 @@
 #include "html/dialogs/form_helpers.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QLabel>
 #include <QRadioButton>
 #include <algorithm>
@@ -27,6 +28,8 @@ void ConnectColorChoice(QAbstractButton* button, Swatch* swatch, QLabel* hex, st
                      if (taken) taken(swatch->Color());
                    });
 }
+
+void AcceptFreeText(QComboBox* box) { box->setCompleter(nullptr); }
 
 int SetOption(std::initializer_list<const QRadioButton*> options) {
   const auto* const set =

@@ -10,6 +10,7 @@
 
 class QAbstractButton;
 class QCheckBox;
+class QComboBox;
 class QLabel;
 class QRadioButton;
 class QWidget;
@@ -25,6 +26,9 @@ void EnableWith(QCheckBox* box, std::initializer_list<QWidget*> widgets);
 // hex and to `taken`, where there is one.
 void ConnectColorChoice(QAbstractButton* button, Swatch* swatch, QLabel* hex, std::function<Color(Color)> pick,
                         std::function<void(const QColor&)> taken = {});
+
+// The box takes any text as it is typed: none is completed from the list.
+void AcceptFreeText(QComboBox* box);
 
 // The index of the option that is set, from 0; 0 where none is.
 int SetOption(std::initializer_list<const QRadioButton*> options);
