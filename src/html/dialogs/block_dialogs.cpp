@@ -12,8 +12,6 @@
 namespace pelmar {
 namespace {
 
-QString BlankLed(int value) { return Utf8ToQString(NumberWithSignBlank(value)); }
-
 // By the place of the set option, which goes through `aligns`.
 Align AlignOf(std::initializer_list<const QRadioButton*> options, std::initializer_list<Align> aligns) {
   return aligns.begin()[SetOption(options)];
@@ -33,22 +31,19 @@ bool Odstavec::Put() {
 Hr::Hr(TextBuffer& document, QWidget* parent) : FragmentDialog(document, parent) {
   EnableWith(ui_->Check1, {ui_->Option4, ui_->Option5, ui_->VScroll1});
   connect(ui_->Option4, &QRadioButton::toggled, this, [this](bool on) {
-    if (on) SetUnit(100, QStringLiteral("%"));
+    if (on) SetUnit(100, BlankLedPercent);
   });
   connect(ui_->Option5, &QRadioButton::toggled, this, [this](bool on) {
-    if (on) SetUnit(800, QString());
+    if (on) SetUnit(800, BlankLed);
   });
-  connect(ui_->VScroll1, &QScrollBar::valueChanged, this, &Hr::VScroll1_Change);
+  ShowValue(ui_->VScroll1, ui_->Label1,
+            [this](int value) { return ui_->Option4->isChecked() ? BlankLedPercent(value) : QString::number(value); });
 }
 Hr::~Hr() = default;
 
-void Hr::SetUnit(int maximum, const QString& unit) {
+void Hr::SetUnit(int maximum, QString (*write)(int)) {
   ui_->VScroll1->setMaximum(maximum);
-  ui_->Label1->setText(BlankLed(ui_->VScroll1->value()) + unit);
-}
-
-void Hr::VScroll1_Change(int value) {
-  ui_->Label1->setText(ui_->Option4->isChecked() ? BlankLed(value) + QLatin1Char('%') : QString::number(value));
+  ui_->Label1->setText(write(ui_->VScroll1->value()));
 }
 
 bool Hr::Put() {
@@ -56,13 +51,13 @@ bool Hr::Put() {
   spec.align = AlignOf({ui_->Option6, ui_->Option2, ui_->Option1, ui_->Option3},
                        {Align::kNone, Align::kLeft, Align::kCenter, Align::kRight});
   spec.no_shade = ui_->Shader->isChecked();
-  if (ui_->Check1->isChecked()) spec.width = TextFromQString(ui_->Label1->text());
+  spec.width = Written(ui_->Check1, ui_->Label1);
   InsertAtCaret(document_, HorizontalRule(spec));
   return true;
 }
 
 Nadpis::Nadpis(TextBuffer& document, QWidget* parent) : FragmentDialog(document, parent) {
-  connect(ui_->VScroll1, &QScrollBar::valueChanged, this, [this](int value) { ui_->Label1->setText(BlankLed(value)); });
+  ShowValue(ui_->VScroll1, ui_->Label1, BlankLed);
 }
 Nadpis::~Nadpis() = default;
 
@@ -82,7 +77,7 @@ Barva::Barva(TextBuffer& document, std::function<Color(Color)> pick_color, QWidg
   EnableWith(ui_->Check1, {ui_->VScroll4, ui_->Label4});
   EnableWith(ui_->Check2, {ui_->Combo1, ui_->Label9});
   EnableWith(ui_->Check3, {ui_->Command3, ui_->Label1, ui_->Label2, ui_->Label3});
-  connect(ui_->VScroll4, &QScrollBar::valueChanged, ui_->Label4, qOverload<int>(&QLabel::setNum));
+  ShowValue(ui_->VScroll4, ui_->Label4);
   ConnectColorChoice(ui_->Command3, ui_->Label1, ui_->Label2, std::move(pick_color));
 }
 Barva::~Barva() = default;
@@ -90,8 +85,8 @@ Barva::~Barva() = default;
 bool Barva::Put() {
   FontSpec spec;
   if (ui_->Check1->isChecked()) spec.size = ui_->VScroll4->value();
-  if (ui_->Check2->isChecked()) spec.face = TextFromQString(ui_->Combo1->currentText());
-  if (ui_->Check3->isChecked()) spec.color = TextFromQString(ui_->Label2->text());
+  spec.face = Written(ui_->Check2, ui_->Combo1);
+  spec.color = Written(ui_->Check3, ui_->Label2);
   WrapSelection(document_, Font(spec));
   return true;
 }

@@ -35,8 +35,7 @@ class Hr : public FragmentDialog<Ui::Hr> {
 
  private:
   bool Put() override;
-  void SetUnit(int maximum, const QString& unit);
-  void VScroll1_Change(int value);
+  void SetUnit(int maximum, QString (*write)(int));
 };
 
 class Nadpis : public FragmentDialog<Ui::Nadpis> {

@@ -73,11 +73,8 @@ bool HtmlID::Put() {
 }
 
 HTMLAscii::HTMLAscii(TextBuffer& document, QWidget* parent) : FragmentDialog(document, parent) {
-  connect(ui_->HScroll1, &QScrollBar::valueChanged, this, [this](int value) {
-    const char character = CharOf(value);
-    ui_->Label1->setNum(value);
-    ui_->Label2->setText(TextToQString({&character, 1}));
-  });
+  ShowValue(ui_->HScroll1, ui_->Label1);
+  ShowValue(ui_->HScroll1, ui_->Label2, [](int value) { return TextToQString(std::string(1, CharOf(value))); });
 }
 HTMLAscii::~HTMLAscii() = default;
 

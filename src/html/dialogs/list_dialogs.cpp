@@ -44,7 +44,7 @@ bool ItemListDialog<Form>::Put() {
   if (ui->Check2->isChecked())
     spec.type = static_cast<std::size_t>(ui->kind->buttons().indexOf(ui->kind->checkedButton()));
   spec.compact = ui->Check3->isChecked();
-  if (ui->Check1->isChecked()) spec.heading = TextFromQString(ui->Text2->text());
+  spec.heading = Written(ui->Check1, ui->Text2);
   spec.items = RowTexts(*ui->List1);
   InsertAtCaret(this->document_, BuildList(spec));
   return true;

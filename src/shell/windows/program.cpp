@@ -5,6 +5,7 @@
 
 #include "accessories/windows/accessory_windows.h"
 #include "files/windows/file_windows.h"
+#include "html/dialogs/page_windows.h"
 #include "html/dialogs/tag_windows.h"
 #include "platform/qt/convert.h"
 #include "shell/windows/config.h"
@@ -19,7 +20,7 @@ Program::Program(Platform& platform)
       editor_(platform),
       main_(editor_),
       session_(main_, editor_.documents, editor_.settings, editor_.opener, platform, editor_.file_number),
-      rescue_(editor_.documents, platform),
+      rescue_(ModifiedDocuments(editor_.documents), platform),
       timer_(main_, editor_) {
   AddWindows();
   main_.RefreshCommands();
@@ -39,6 +40,7 @@ void Program::AddWindows() {
   AddShellWindows(parts);
   AddFileWindows(parts);
   AddTextWindows(parts);
+  AddPageWindows(parts);
   AddAccessoryWindows(parts);
   AddTagWindows(parts);
 }

@@ -1,0 +1,31 @@
+// The `A` tags of the four link dialogs. Texts are Windows-1250.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace pelmar {
+
+// A tag that goes around the selection; where nothing is selected, `text` stands in it.
+struct LinkTag {
+  std::string open;
+  std::string text;
+
+  [[nodiscard]] std::string Around(std::string_view selection) const;
+};
+
+// The place in a document that links lead to.
+std::string AnchorTag(std::string_view name);
+
+LinkTag LinkToAnchor(std::string_view name);
+LinkTag LinkToMail(std::string_view address);
+
+struct LinkSpec {
+  std::string target;  // what stands in front of the fragment: FileAddress of a file, or an address as typed
+  std::optional<std::string> fragment;  // an empty one counts as none
+  std::optional<std::string> frame;
+};
+LinkTag LinkToDocument(const LinkSpec& link);
+
+}  // namespace pelmar

@@ -1,0 +1,37 @@
+#include "html/link.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "text/codepage.h"
+
+namespace pelmar {
+namespace {
+
+TEST(Link, AnchorsAndLinksToThem) {
+  EXPECT_EQ(AnchorTag("Kotva 1"), R"(<A NAME="Kotva 1"></A>)");
+  EXPECT_EQ(LinkToAnchor("x").Around("text"), R"(<A HREF="#x">text</A>)");
+  EXPECT_EQ(LinkToAnchor("x").Around(" "), R"(<A HREF="#x"> </A>)");
+  EXPECT_EQ(LinkToAnchor("část"_w).Around(""), R"(<A HREF="#část">Odkaz na část</A>)"_w);
+}
+
+TEST(Link, MailHasABlankBeforeItsEnd) {
+  EXPECT_EQ(LinkToMail("a@b").Around(""), R"(<A HREF="mailto:a@b" >mailto na a@b</A>)");
+  EXPECT_EQ(LinkToMail("a@b").Around("Pište"_w), R"(<A HREF="mailto:a@b" >Pište</A>)"_w);
+  EXPECT_EQ(LinkToMail("").Around(""), R"(<A HREF="mailto:" >mailto na </A>)");
+}
+
+TEST(Link, DocumentWithFragmentAndFrame) {
+  const std::vector<std::pair<LinkSpec, std::string>> cases = {
+      {{"file:///C:/web/x.htm", {}, {}}, R"(<A HREF="file:///C:/web/x.htm">Odkaz na file:///C:/web/x.htm</A>)"},
+      {{"x.htm", "a", "_top"}, R"(<A HREF="x.htm#a" TARGET="_top">Odkaz na x.htm#a</A>)"},
+      {{"x.htm", "", ""}, R"(<A HREF="x.htm" TARGET="">Odkaz na x.htm</A>)"},
+      {{"", "a", {}}, R"(<A HREF="#a">Odkaz na #a</A>)"},
+  };
+  for (const auto& [link, tag] : cases) EXPECT_EQ(LinkToDocument(link).Around(""), tag);
+  EXPECT_EQ(LinkToDocument(cases[1].first).Around("text"), R"(<A HREF="x.htm#a" TARGET="_top">text</A>)");
+}
+
+}  // namespace
+}  // namespace pelmar
