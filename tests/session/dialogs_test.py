@@ -27,8 +27,6 @@ class DialogsTest(unittest.TestCase):
             session.key("Return")
             session.wait_no_window("HTML  - Vytvoření")
             session.wait_window("Pelmar VEX ()*")
-            # The marker stands selected in the new page.
-            session.key("shift+Right")
             session.key("ctrl+Home", "ctrl+shift+End", "ctrl+Insert")
             session.wait_until(lambda: '<BODY BGCOLOR="#FFFFFF">' in session.clipboard(), "the page on the clipboard")
 
