@@ -6,6 +6,7 @@
 #include "accessories/windows/accessory_windows.h"
 #include "files/windows/file_windows.h"
 #include "html/dialogs/page_windows.h"
+#include "html/dialogs/tag_windows.h"
 #include "platform/qt/convert.h"
 #include "shell/windows/config.h"
 #include "shell/windows/shell_windows.h"
@@ -41,6 +42,7 @@ void Program::AddWindows() {
   AddTextWindows(parts);
   AddPageWindows(parts);
   AddAccessoryWindows(parts);
+  AddTagWindows(parts);
 }
 
 void Program::ShowAccessory(StartMode mode) {
