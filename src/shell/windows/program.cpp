@@ -5,6 +5,7 @@
 
 #include "accessories/windows/accessory_windows.h"
 #include "files/windows/file_windows.h"
+#include "html/dialogs/link_windows.h"
 #include "html/dialogs/page_windows.h"
 #include "html/dialogs/tag_windows.h"
 #include "platform/qt/convert.h"
@@ -41,6 +42,7 @@ void Program::AddWindows() {
   AddFileWindows(parts);
   AddTextWindows(parts);
   AddPageWindows(parts);
+  AddLinkWindows(parts);
   AddAccessoryWindows(parts);
   AddTagWindows(parts);
 }
