@@ -19,7 +19,7 @@ Program::Program(Platform& platform)
       editor_(platform),
       main_(editor_),
       session_(main_, editor_.documents, editor_.settings, editor_.opener, platform, editor_.file_number),
-      rescue_(editor_.documents, platform),
+      rescue_(ModifiedDocuments(editor_.documents), platform),
       timer_(main_, editor_) {
   AddWindows();
   main_.RefreshCommands();
