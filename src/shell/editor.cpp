@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "ciphers/commands.h"
 #include "html/insert.h"
 #include "texttools/commands.h"
 
@@ -54,6 +55,7 @@ Editor::Editor(Platform& platform_layer) : platform(platform_layer) {
   AddToolbarClipboard(*this);
   AddTagCommands(*this);
   AddTextToolCommands(*this);
+  AddCipherCommands(*this);
 }
 
 void NewDocument(Editor& editor) {
