@@ -6,6 +6,7 @@ libgl-dev libx11-dev librsvg2-bin"
 runtime_packages="libqt6svg6 qt6-qpa-plugins qt6-translations-l10n fonts-dejavu-core xdg-utils"
 test_packages="libgtest-dev libbenchmark-dev python3 xvfb openbox xdotool xclip wmctrl x11-utils
 imagemagick lintian dpkg-dev appstream desktop-file-utils fakeroot"
+fuzz_packages="clang libclang-rt-14-dev"
 
 tell() {
   printf '%s: %s\n' "$step" "$*" >&2

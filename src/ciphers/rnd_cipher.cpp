@@ -27,17 +27,21 @@ char CharacterOf(std::size_t symbol) {
   return symbol < kLetters ? CharOf('A' + static_cast<int>(symbol)) : kOthers[symbol - kLetters];
 }
 
-// Tells the progress some thirty times in a text.
+// Tells the progress some thirty times in a text, and at its end.
 class Milestones {
  public:
-  Milestones(const Progress& progress, std::size_t all) : progress_(progress), step_(all / 32 + 1) {}
-  void Pass(std::size_t done) const {
-    if (progress_ && done % step_ == 0) progress_(done);
+  Milestones(const Progress& progress, std::size_t all) : progress_(progress), all_(all), step_(all / 32 + 1) {}
+  void Pass(std::size_t done) {
+    if (done < next_ || !progress_) return;
+    progress_(done);
+    next_ = std::min(done + step_, all_);
   }
 
  private:
   const Progress& progress_;
+  std::size_t all_;
   std::size_t step_;
+  std::size_t next_ = 0;
 };
 
 // Finds symbols by digits. Every run of `depth` digits in a code is filed once, so that a block of text costs one
@@ -86,7 +90,7 @@ std::string PrepareText(std::string_view text) {
 }
 
 std::string RndEncipher(std::string_view text, const CipherTable& table, const Draw& draw, const Progress& progress) {
-  const Milestones milestones(progress, text.size());
+  Milestones milestones(progress, text.size());
   std::string out;
   out.reserve(text.size() * table.Depth);
   std::string_view code;
@@ -101,6 +105,7 @@ std::string RndEncipher(std::string_view text, const CipherTable& table, const D
       if (drawn < letters.size()) out += letters[drawn];
     }
   }
+  milestones.Pass(text.size());
   return out;
 }
 
@@ -108,15 +113,16 @@ std::string RndDecipher(std::string_view text, const CipherTable& table, const P
   if (table.Depth == 0) return {};
   const std::string digits = DigitsOf(text, table.ZeroLetters);
   const CodeIndex index(table);
-  const Milestones milestones(progress, digits.size() / table.Depth);
+  Milestones milestones(progress, digits.size());
   std::string out;
   std::size_t found = kSymbols;
   for (std::size_t at = 0; at < digits.size(); at += table.Depth) {
-    milestones.Pass(at / table.Depth);
+    milestones.Pass(at);
     const std::size_t match = index.Find(std::string_view(digits).substr(at, table.Depth));
     if (match < kSymbols) found = match;
     if (found < kSymbols) out += CharacterOf(found);
   }
+  milestones.Pass(digits.size());
   return out;
 }
 

@@ -4,6 +4,7 @@
 #include <QFileInfo>
 
 #include "accessories/windows/accessory_windows.h"
+#include "ciphers/windows/cipher_windows.h"
 #include "files/windows/file_windows.h"
 #include "html/dialogs/page_windows.h"
 #include "platform/qt/convert.h"
@@ -40,6 +41,7 @@ void Program::AddWindows() {
   AddFileWindows(parts);
   AddTextWindows(parts);
   AddPageWindows(parts);
+  AddCipherWindows(parts);
   AddAccessoryWindows(parts);
 }
 
