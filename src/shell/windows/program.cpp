@@ -4,6 +4,7 @@
 #include <QFileInfo>
 
 #include "accessories/windows/accessory_windows.h"
+#include "ciphers/windows/cipher_windows.h"
 #include "files/windows/file_windows.h"
 #include "html/dialogs/link_windows.h"
 #include "html/dialogs/page_windows.h"
@@ -43,6 +44,7 @@ void Program::AddWindows() {
   AddTextWindows(parts);
   AddPageWindows(parts);
   AddLinkWindows(parts);
+  AddCipherWindows(parts);
   AddAccessoryWindows(parts);
   AddTagWindows(parts);
 }
