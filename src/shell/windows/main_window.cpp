@@ -64,6 +64,7 @@ void MainWindow::MakeControls() {
   text_->setAccessibleName(QStringLiteral("Text dokumentu"));
   text_->UseBuffer(editor_.text);
   text_->setStandardShortcuts(false);
+  text_->SetCaretStays(true);
   bar_ = new StatusStrip(client_);
   bar_->raise();
   connect(tabs_, &QTabBar::currentChanged, this, [this](int index) { editor_.documents.SwitchTo(index + 1); });
