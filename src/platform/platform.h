@@ -67,6 +67,8 @@ class Platform {
   virtual bool CanRead(const std::string& path) = 0;  // opens for reading; false for a folder
   virtual FileBytes ReadFile(const std::string& path, std::optional<std::uint64_t> limit) = 0;
   virtual int WriteFile(const std::string& path, std::string_view bytes) = 0;  // 0 or errno
+  // A file that only its owner can read. EEXIST where anything has that name already, links that lead nowhere included.
+  virtual int WriteNewFile(const std::string& path, std::string_view bytes) = 0;  // 0 or errno
   virtual bool RemoveFile(const std::string& path) = 0;
 
   // Folders, with a separator at the end.

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "html/insert.h"
+#include "html/test_page.h"
 #include "texttools/commands.h"
 
 namespace pelmar {
@@ -54,6 +55,7 @@ Editor::Editor(Platform& platform_layer) : platform(platform_layer) {
   AddToolbarClipboard(*this);
   AddTagCommands(*this);
   AddTextToolCommands(*this);
+  AddPageTestCommands(*this);
 }
 
 void NewDocument(Editor& editor) {

@@ -88,6 +88,12 @@ int ScriptedPlatform::WriteFile(const std::string& path, std::string_view bytes)
   return 0;
 }
 
+int ScriptedPlatform::WriteNewFile(const std::string& path, std::string_view bytes) {
+  calls.push_back("create " + path);
+  if (const auto error = write_errors.find(path); error != write_errors.end()) return error->second;
+  return files.try_emplace(path, bytes).second ? 0 : EEXIST;
+}
+
 bool ScriptedPlatform::RemoveFile(const std::string& path) {
   calls.push_back("remove " + path);
   return files.erase(path) != 0;

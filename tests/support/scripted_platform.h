@@ -18,9 +18,9 @@ namespace pelmar {
 class ScriptedPlatform : public Platform {
  public:
   // One string a call, in order, texts as they were given: `message 52 "text" "title"`, `about "title" "text"`, `input
-  // "prompt" "title" "initial"`, `open "filter" 2`, `save "filter" 2`, `write path` (also a failed one), `remove path`,
-  // `recent path`, `default program path`, `start copy`, `clipboard "text"`, `clipboard clear`, `busy 1`. Reading
-  // leaves no trace.
+  // "prompt" "title" "initial"`, `open "filter" 2`, `save "filter" 2`, `write path` and `create path` (also failed
+  // ones), `remove path`, `recent path`, `default program path`, `start copy`, `clipboard "text"`, `clipboard clear`,
+  // `busy 1`. Reading leaves no trace.
   std::vector<std::string> calls;
   // The calls so far, which are then forgotten.
   std::vector<std::string> TakeCalls();
@@ -53,6 +53,7 @@ class ScriptedPlatform : public Platform {
   bool CanRead(const std::string& path) override;
   FileBytes ReadFile(const std::string& path, std::optional<std::uint64_t> limit) override;
   int WriteFile(const std::string& path, std::string_view bytes) override;
+  int WriteNewFile(const std::string& path, std::string_view bytes) override;
   bool RemoveFile(const std::string& path) override;
   std::string InstallFolder() override { return install_folder; }
   std::string ShareFolder() override { return share_folder; }

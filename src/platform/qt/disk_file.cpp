@@ -205,4 +205,14 @@ int ReplaceFile(const std::string& path, std::string_view bytes, mode_t new_mode
   return FolderRefuses(error) ? WriteInPlace(target, bytes) : error;
 }
 
+int CreateFile(const std::string& path, std::string_view bytes) {
+  Descriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+  if (!file.IsOpen()) return errno;
+  const int write_error = WriteAll(file.Number(), bytes);
+  const int close_error = file.Close();
+  const int error = write_error != 0 ? write_error : close_error;
+  if (error != 0) unlink(path.c_str());
+  return error;
+}
+
 }  // namespace pelmar

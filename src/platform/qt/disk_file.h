@@ -29,4 +29,8 @@ FileBytes ReadWholeFile(const std::string& path, std::optional<std::uint64_t> li
 // a crash in the middle can mix the two. A character device or a pipe gets the bytes directly.
 int ReplaceFile(const std::string& path, std::string_view bytes, mode_t new_mode = 0666);
 
+// Writes a file that wasn't there, for its owner alone; 0 or errno. EEXIST where anything has that name, a link that
+// leads nowhere included. After a failed write nothing stays behind.
+int CreateFile(const std::string& path, std::string_view bytes);
+
 }  // namespace pelmar

@@ -76,6 +76,8 @@ FileBytes QtPlatform::ReadFile(const std::string& path, std::optional<std::uint6
 
 int QtPlatform::WriteFile(const std::string& path, std::string_view bytes) { return ReplaceFile(path, bytes); }
 
+int QtPlatform::WriteNewFile(const std::string& path, std::string_view bytes) { return CreateFile(path, bytes); }
+
 bool QtPlatform::RemoveFile(const std::string& path) { return unlink(path.c_str()) == 0; }
 
 // Beside the program in a build tree, in the share folder of its prefix where it is installed.
