@@ -5,6 +5,7 @@
 
 #include "accessories/windows/accessory_windows.h"
 #include "files/windows/file_windows.h"
+#include "html/windows/browser_windows.h"
 #include "platform/qt/convert.h"
 #include "shell/windows/config.h"
 #include "shell/windows/shell_windows.h"
@@ -39,6 +40,7 @@ void Program::AddWindows() {
   AddFileWindows(parts);
   AddTextWindows(parts);
   AddAccessoryWindows(parts);
+  AddBrowserWindows(parts);
 }
 
 void Program::ShowAccessory(StartMode mode) {
