@@ -19,6 +19,16 @@ std::string Attribute(std::string_view name, std::string_view value) {
   return attribute += Quoted(value);
 }
 
+std::string ForwardSlashes(std::string_view path) {
+  std::string slashed(path);
+  std::replace(slashed.begin(), slashed.end(), '\\', '/');
+  return slashed;
+}
+
+std::string FileAddress(std::string_view path, bool relative) {
+  return relative ? ForwardSlashes(path) : PathToFileUrl(path);
+}
+
 std::string_view LeftTrimmed(std::string_view text) {
   text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
   return text;

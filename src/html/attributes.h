@@ -12,6 +12,12 @@ std::string Attribute(std::string_view name, std::string_view value);
 // Text between double quotes.
 std::string Quoted(std::string_view text);
 
+// Each backslash as a slash.
+std::string ForwardSlashes(std::string_view path);
+
+// How a tag names a file: by its URL, or with `relative` by the path as it stands, which is a bare name. Slashes only.
+std::string FileAddress(std::string_view path, bool relative);
+
 // Without the blanks at the left, or at both ends. Other white space stays.
 std::string_view LeftTrimmed(std::string_view text);
 std::string_view Trimmed(std::string_view text);

@@ -2,7 +2,9 @@
 
 #include <string>
 
+#include "ciphers/commands.h"
 #include "html/insert.h"
+#include "html/lists.h"
 #include "html/test_page.h"
 #include "texttools/commands.h"
 
@@ -55,6 +57,8 @@ Editor::Editor(Platform& platform_layer) : platform(platform_layer) {
   AddToolbarClipboard(*this);
   AddTagCommands(*this);
   AddTextToolCommands(*this);
+  AddListCommands(*this);
+  AddCipherCommands(*this);
   AddPageTestCommands(*this);
 }
 

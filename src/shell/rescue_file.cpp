@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 
+#include "shell/record_bytes.h"
 #include "text/codepage.h"
 
 namespace pelmar {
@@ -10,54 +11,20 @@ namespace {
 
 constexpr std::string_view kSignature = "PELMAR-RESCUE-1\n";
 
-// FNV-1a: guards against torn and foreign files, not against malice.
-std::uint64_t Checksum(std::string_view bytes) {
-  std::uint64_t sum = 14695981039346656037u;
-  for (char ch : bytes) sum = (sum ^ static_cast<std::uint64_t>(CodeOf(ch))) * 1099511628211u;
-  return sum;
+constexpr std::size_t kNumber = 8;
+
+void PutNumber(RecordWriter& writer, std::size_t value) { writer.Number(value, kNumber); }
+void PutString(RecordWriter& writer, std::string_view value) {
+  PutNumber(writer, value.size());
+  writer.Bytes(value);
 }
+std::string TakeString(RecordReader& reader) { return std::string(reader.Bytes(reader.Number(kNumber))); }
 
-void PutNumber(std::string& out, std::uint64_t value) {
-  for (int shift = 0; shift < 64; shift += 8) out += CharOf(static_cast<int>(value >> shift & 0xFF));
+// 0 where the number is no tab's.
+int TakeTab(RecordReader& reader) {
+  const std::uint64_t tab = reader.Number(kNumber);
+  return tab <= kTabCount ? static_cast<int>(tab) : 0;
 }
-
-void PutString(std::string& out, std::string_view value) {
-  PutNumber(out, value.size());
-  out += value;
-}
-
-class Reader {
- public:
-  explicit Reader(std::string_view bytes) : rest_(bytes) {}
-
-  [[nodiscard]] bool Failed() const { return failed_; }
-  [[nodiscard]] bool AtEnd() const { return rest_.empty(); }
-
-  std::uint64_t Number() {
-    const std::string_view field = Take(8);
-    std::uint64_t value = 0;
-    for (std::size_t i = 0; i < field.size(); ++i) value |= static_cast<std::uint64_t>(CodeOf(field[i])) << 8 * i;
-    return value;
-  }
-  int Tab() {
-    const std::uint64_t tab = Number();
-    failed_ = failed_ || tab < 1 || tab > kTabCount;
-    return failed_ ? 1 : static_cast<int>(tab);
-  }
-  std::string String() { return std::string(Take(Number())); }
-
- private:
-  std::string_view Take(std::uint64_t size) {
-    failed_ = failed_ || size > rest_.size();
-    if (failed_) return {};
-    const std::string_view field = rest_.substr(0, static_cast<std::size_t>(size));
-    rest_.remove_prefix(static_cast<std::size_t>(size));
-    return field;
-  }
-
-  std::string_view rest_;
-  bool failed_ = false;
-};
 
 }  // namespace
 
@@ -73,35 +40,31 @@ RescueRecord UnsavedDocuments(const Documents& documents) {
 }
 
 std::string RescueBytes(const RescueRecord& record) {
-  std::string body;
-  PutNumber(body, static_cast<std::uint64_t>(record.selected_tab));
+  RecordWriter writer;
+  PutNumber(writer, static_cast<std::size_t>(record.selected_tab));
   for (const RescuedDocument& document : record.documents) {
-    PutNumber(body, static_cast<std::uint64_t>(document.tab));
-    PutString(body, document.path);
-    PutString(body, document.text);
+    PutNumber(writer, static_cast<std::size_t>(document.tab));
+    PutString(writer, document.path);
+    PutString(writer, document.text);
   }
-  std::string bytes(kSignature);
-  PutNumber(bytes, Checksum(body));
-  return bytes + body;
+  return Sealed(kSignature, std::move(writer).Take());
 }
 
 std::optional<RescueRecord> ReadRescue(std::string_view bytes) {
-  if (!bytes.starts_with(kSignature)) return std::nullopt;
-  bytes.remove_prefix(kSignature.size());
-  Reader head(bytes.substr(0, 8));
-  const std::uint64_t sum = head.Number();
-  if (head.Failed() || Checksum(bytes.substr(8)) != sum) return std::nullopt;
-  Reader reader(bytes.substr(8));
+  const std::optional<std::string_view> body = SealedBody(kSignature, bytes);
+  if (!body) return std::nullopt;
+  RecordReader reader(*body);
   RescueRecord record;
-  record.selected_tab = reader.Tab();
-  while (!reader.AtEnd() && !reader.Failed()) {
+  record.selected_tab = TakeTab(reader);
+  if (record.selected_tab == 0) return std::nullopt;
+  while (!reader.AtEnd()) {
     RescuedDocument document;
-    document.tab = reader.Tab();
-    document.path = reader.String();
-    document.text = reader.String();
+    document.tab = TakeTab(reader);
+    document.path = TakeString(reader);
+    document.text = TakeString(reader);
+    if (reader.Failed() || document.tab == 0) return std::nullopt;
     record.documents.push_back(std::move(document));
   }
-  if (reader.Failed()) return std::nullopt;
   return record;
 }
 

@@ -15,7 +15,6 @@
 namespace pelmar {
 namespace {
 
-constexpr std::string_view kPrefix = "rescue-";
 constexpr std::string_view kSuffix = ".pelmar";
 
 constexpr std::string_view kLockSuffix = ".lock";
@@ -23,9 +22,9 @@ constexpr std::string_view kLockSuffix = ".lock";
 std::string LockPath(const std::string& rescue) { return rescue + std::string(kLockSuffix); }
 
 // Tells apart copies that had the same process number.
-std::string FileName() {
+std::string FileName(std::string_view prefix) {
   const auto now = std::chrono::system_clock::now().time_since_epoch();
-  return std::string(kPrefix) + std::to_string(::getpid()) + "-" +
+  return std::string(prefix) + std::to_string(::getpid()) + "-" +
          std::to_string(std::chrono::duration_cast<std::chrono::microseconds>(now).count()) + std::string(kSuffix);
 }
 
@@ -58,8 +57,8 @@ FileLock::~FileLock() {
   if (descriptor_ >= 0) ::close(descriptor_);
 }
 
-RescueStore::RescueStore(std::string folder, WriteFile write)
-    : folder_(std::move(folder)), path_(folder_ + FileName()), write_(std::move(write)) {}
+RescueStore::RescueStore(std::string folder, std::string_view prefix, WriteFile write)
+    : folder_(std::move(folder)), path_(folder_ + FileName(prefix)), write_(std::move(write)) {}
 
 int RescueStore::Keep(std::string_view bytes) {
   if (bytes.empty()) {
@@ -77,13 +76,13 @@ int RescueStore::Keep(std::string_view bytes) {
   return write_(path_, bytes);
 }
 
-std::vector<AbandonedRescue> FindAbandoned(const std::string& folder) {
+std::vector<AbandonedRescue> FindAbandoned(const std::string& folder, std::string_view prefix) {
   std::set<std::string> names;
   std::error_code error;
   for (std::filesystem::directory_iterator at(folder, error), end; !error && at != end; at.increment(error)) {
     std::string name = at->path().filename().string();
     if (name.ends_with(kLockSuffix)) name.resize(name.size() - kLockSuffix.size());
-    if (name.starts_with(kPrefix) && name.ends_with(kSuffix)) names.insert(name);
+    if (name.starts_with(prefix) && name.ends_with(kSuffix)) names.insert(name);
   }
   std::vector<AbandonedRescue> found;
   for (const std::string& name : names) {

@@ -1,6 +1,6 @@
-// Rescue files on the disk: one for each running copy, in the install folder. A copy holds a lock beside its file for
-// as long as it lives, so that no other copy takes it for abandoned; the system drops the lock of a process that dies.
-// The write is atomic. Calls come from one thread at a time; nothing here throws.
+// Rescue files on the disk: one of a kind for each running copy, in the install folder. A copy holds a lock beside its
+// file for as long as it lives, so that no other copy takes it for abandoned; the system drops the lock of a process
+// that dies. The write is atomic. Calls come from one thread at a time; nothing here throws.
 #pragma once
 
 #include <functional>
@@ -9,6 +9,9 @@
 #include <vector>
 
 namespace pelmar {
+
+inline constexpr std::string_view kDocumentsRescue = "rescue-";
+inline constexpr std::string_view kNotesRescue = "notes-rescue-";
 
 // A file lock that ends with the object. Empty where the lock couldn't be had.
 class FileLock {
@@ -30,8 +33,9 @@ class RescueStore {
   // 0 or errno, as Platform::WriteFile.
   using WriteFile = std::function<int(const std::string& path, std::string_view bytes)>;
 
-  // `folder` ends in a separator; it is used from the first Keep on.
-  RescueStore(std::string folder, WriteFile write);
+  // `folder` ends in a separator; it is used from the first Keep on. `prefix` begins the file's name and tells apart
+  // what is kept; none begins with another one.
+  RescueStore(std::string folder, std::string_view prefix, WriteFile write);
   RescueStore(const RescueStore&) = delete;
   RescueStore& operator=(const RescueStore&) = delete;
 
@@ -52,7 +56,7 @@ struct AbandonedRescue {
   std::string path;
   FileLock lock;
 };
-std::vector<AbandonedRescue> FindAbandoned(const std::string& folder);
+std::vector<AbandonedRescue> FindAbandoned(const std::string& folder, std::string_view prefix);
 // Removes the file and its lock.
 void Discard(AbandonedRescue& rescue);
 

@@ -1,8 +1,8 @@
 #include "shell/settings_record.h"
 
-#include <algorithm>
 #include <cstddef>
 
+#include "shell/record_bytes.h"
 #include "text/codepage.h"
 
 namespace pelmar {
@@ -10,56 +10,33 @@ namespace {
 
 constexpr std::size_t kLongestString = 65535;
 
-// Reads fields in file order. Once the bytes run out, everything that follows is zero and empty.
 class Reader {
  public:
-  explicit Reader(std::string_view bytes) : rest_(bytes) {}
+  explicit Reader(std::string_view bytes) : fields_(bytes) {}
 
-  std::uint32_t Number(std::size_t size) {
-    const std::string_view field = Take(size);
-    std::uint32_t value = 0;
-    for (std::size_t i = 0; i < field.size(); ++i) value |= static_cast<std::uint32_t>(CodeOf(field[i])) << 8 * i;
-    return value;
-  }
-  void Read(std::int32_t& value) { value = static_cast<std::int32_t>(Number(4)); }
-  void Read(std::uint8_t& value) { value = static_cast<std::uint8_t>(Number(1)); }
-  void Read(bool& value) { value = Number(2) != 0; }
-  void Read(std::string& value) {
-    const std::size_t count = Number(2);
-    value = Take(count);
-  }
+  void Read(std::int32_t& value) { value = static_cast<std::int32_t>(fields_.Number(4)); }
+  void Read(std::uint8_t& value) { value = static_cast<std::uint8_t>(fields_.Number(1)); }
+  void Read(bool& value) { value = fields_.Number(2) != 0; }
+  void Read(std::string& value) { value = fields_.Bytes(fields_.Number(2)); }
 
  private:
-  std::string_view Take(std::size_t size) {
-    if (size > rest_.size()) {
-      rest_ = {};
-      return {};
-    }
-    const std::string_view field = rest_.substr(0, size);
-    rest_.remove_prefix(size);
-    return field;
-  }
-
-  std::string_view rest_;
+  RecordReader fields_;
 };
 
 class Writer {
  public:
-  void Number(std::uint32_t value, std::size_t size) {
-    for (std::size_t i = 0; i < size; ++i) bytes_ += CharOf(static_cast<int>(value >> 8 * i & 0xFF));
-  }
-  void Write(std::int32_t value) { Number(static_cast<std::uint32_t>(value), 4); }
-  void Write(std::uint8_t value) { Number(value, 1); }
-  void Write(bool value) { Number(value ? 0xFFFF : 0, 2); }
+  void Write(std::int32_t value) { fields_.Number(static_cast<std::uint32_t>(value), 4); }
+  void Write(std::uint8_t value) { fields_.Number(value, 1); }
+  void Write(bool value) { fields_.Number(value ? 0xFFFF : 0, 2); }
   void Write(std::string_view value) {
     value = value.substr(0, kLongestString);
-    Number(static_cast<std::uint32_t>(value.size()), 2);
-    bytes_ += value;
+    fields_.Number(value.size(), 2);
+    fields_.Bytes(value);
   }
-  std::string Bytes() && { return std::move(bytes_); }
+  std::string Bytes() && { return std::move(fields_).Take(); }
 
  private:
-  std::string bytes_;
+  RecordWriter fields_;
 };
 
 }  // namespace

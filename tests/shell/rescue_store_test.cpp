@@ -36,7 +36,7 @@ struct RescueStoreTest : testing::Test {
   void LetACopyDie(const std::string& bytes) const {
     const pid_t child = ::fork();
     if (child == 0) {
-      RescueStore store(folder, WritePlainly);
+      RescueStore store(folder, kDocumentsRescue, WritePlainly);
       store.Keep(bytes);
       ::_exit(0);
     }
@@ -48,12 +48,12 @@ struct RescueStoreTest : testing::Test {
 };
 
 TEST_F(RescueStoreTest, AnOrdinaryEndLeavesNothing) {
-  RescueStore store(folder, WritePlainly);
+  RescueStore store(folder, kDocumentsRescue, WritePlainly);
   EXPECT_EQ(Files(), 0u);
   EXPECT_EQ(store.Keep("one"), 0);
   EXPECT_EQ(store.Keep("two"), 0);
   EXPECT_EQ(Content(store.Path()), "two");
-  EXPECT_TRUE(FindAbandoned(folder).empty());  // a living copy's file is nobody else's
+  EXPECT_TRUE(FindAbandoned(folder, kDocumentsRescue).empty());  // a living copy's file is nobody else's
   EXPECT_EQ(store.Keep({}), 0);
   EXPECT_EQ(Files(), 0u);
   EXPECT_EQ(store.Keep("again"), 0);
@@ -62,27 +62,27 @@ TEST_F(RescueStoreTest, AnOrdinaryEndLeavesNothing) {
 
 TEST_F(RescueStoreTest, WhatADeadCopyKeptIsFoundOnce) {
   LetACopyDie("lost");
-  RescueStore own(folder, WritePlainly);
+  RescueStore own(folder, kDocumentsRescue, WritePlainly);
   own.Keep("mine");
-  auto found = FindAbandoned(folder);
+  auto found = FindAbandoned(folder, kDocumentsRescue);
   ASSERT_EQ(found.size(), 1u);
   EXPECT_EQ(Content(found[0].path), "lost");
-  EXPECT_TRUE(FindAbandoned(folder).empty());  // held by the first finder
+  EXPECT_TRUE(FindAbandoned(folder, kDocumentsRescue).empty());  // held by the first finder
   Discard(found[0]);
-  EXPECT_TRUE(FindAbandoned(folder).empty());
+  EXPECT_TRUE(FindAbandoned(folder, kDocumentsRescue).empty());
   EXPECT_EQ(Content(own.Path()), "mine");
 }
 
 TEST_F(RescueStoreTest, AFinderThatDiesLeavesItForTheNext) {
   LetACopyDie("lost");
-  FindAbandoned(folder).clear();
-  EXPECT_EQ(FindAbandoned(folder).size(), 1u);
+  FindAbandoned(folder, kDocumentsRescue).clear();
+  EXPECT_EQ(FindAbandoned(folder, kDocumentsRescue).size(), 1u);
 }
 
 TEST_F(RescueStoreTest, AFolderThatCantBeWrittenIsAnError) {
-  RescueStore store("/nonexistent/folder/", WritePlainly);
+  RescueStore store("/nonexistent/folder/", kDocumentsRescue, WritePlainly);
   EXPECT_NE(store.Keep("x"), 0);
-  EXPECT_TRUE(FindAbandoned("/nonexistent/folder/").empty());
+  EXPECT_TRUE(FindAbandoned("/nonexistent/folder/", kDocumentsRescue).empty());
 }
 
 }  // namespace

@@ -20,7 +20,6 @@ class Otevri : public DialogWindow {
   ~Otevri() override;
 
  private:
-  void Dir1_KeyUp(int key);
   void File1_Click();
   void Command1_Click();
 

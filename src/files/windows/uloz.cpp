@@ -1,7 +1,6 @@
 #include "files/windows/uloz.h"
 
-#include <QDir>
-
+#include "platform/qt/controls/file_browser.h"
 #include "platform/qt/convert.h"
 #include "ui_uloz.h"
 
@@ -10,13 +9,9 @@ namespace pelmar {
 Uloz::Uloz(Documents& documents, Saver& saver, QWidget* parent)
     : DialogWindow(parent), documents_(documents), saver_(saver), ui_(std::make_unique<Ui::Uloz>()) {
   ui_->setupUi(this);
-  ui_->Dir1->SetPath(QDir::currentPath());
-  ui_->File1->SetPath(ui_->Dir1->Path());
-  ui_->Drive1->SetDrive(ui_->Dir1->Path());
+  LinkFileBrowser(ui_->Drive1, ui_->Dir1, ui_->File1);
   ui_->Text1->setFocus();
-  connect(ui_->Drive1, &DriveList::DriveChanged, ui_->Dir1, &FolderList::SetPath);
-  connect(ui_->Dir1, &FolderList::PathChanged, this, &Uloz::Dir1_Change);
-  connect(ui_->Dir1, &FolderList::KeyReleased, this, &Uloz::Dir1_KeyUp);
+  connect(ui_->Dir1, &FolderList::PathChanged, this, &Uloz::FieldChanged);
   connect(ui_->Text1, &QLineEdit::textChanged, this, &Uloz::FieldChanged);
   connect(ui_->Text2, &QComboBox::currentTextChanged, this, &Uloz::FieldChanged);
   connect(ui_->Command1, &QPushButton::clicked, this, &Uloz::Command1_Click);
@@ -26,16 +21,6 @@ Uloz::Uloz(Documents& documents, Saver& saver, QWidget* parent)
 }
 
 Uloz::~Uloz() { documents_.Target().on_primed = nullptr; }
-
-void Uloz::Dir1_Change() {
-  ui_->File1->SetPath(ui_->Dir1->Path());
-  FieldChanged();
-}
-
-void Uloz::Dir1_KeyUp(int key) {
-  ui_->File1->SetPath(ui_->Dir1->HighlightedPath());
-  if (key == Qt::Key_Return || key == Qt::Key_Enter) ui_->Dir1->SetPath(ui_->Dir1->HighlightedPath());
-}
 
 void Uloz::FieldChanged() {
   ui_->Command1->setEnabled(true);

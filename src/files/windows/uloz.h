@@ -21,8 +21,6 @@ class Uloz : public DialogWindow {
   ~Uloz() override;
 
  private:
-  void Dir1_Change();
-  void Dir1_KeyUp(int key);
   void FieldChanged();
   void Command1_Click();
   void TakeTarget();

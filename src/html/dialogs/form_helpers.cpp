@@ -1,7 +1,10 @@
 #include "html/dialogs/form_helpers.h"
 
+#include <QAbstractSlider>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QRadioButton>
 #include <algorithm>
 
@@ -9,6 +12,13 @@
 #include "platform/qt/convert.h"
 
 namespace pelmar {
+namespace {
+
+std::optional<std::string> TextIf(const QCheckBox* box, const QString& text) {
+  return box->isChecked() ? std::optional(TextFromQString(text)) : std::nullopt;
+}
+
+}  // namespace
 
 void EnableWith(QCheckBox* box, std::initializer_list<QWidget*> widgets) {
   for (QWidget* widget : widgets) {
@@ -26,6 +36,25 @@ void ConnectColorChoice(QAbstractButton* button, Swatch* swatch, QLabel* hex, st
                      hex->setText(Utf8ToQString(ColorToHex(color)));
                      if (taken) taken(swatch->Color());
                    });
+}
+
+void AcceptFreeText(QComboBox* box) { box->setCompleter(nullptr); }
+QString BlankLed(int value) { return Utf8ToQString(NumberWithSignBlank(value)); }
+
+QString BlankLedPercent(int value) { return BlankLed(value) + QLatin1Char('%'); }
+
+void ShowValue(const QAbstractSlider* bar, QLabel* label, std::function<QString(int)> write) {
+  QObject::connect(bar, &QAbstractSlider::valueChanged, label, [label, write = std::move(write)](int value) {
+    label->setText(write ? write(value) : QString::number(value));
+  });
+}
+
+std::optional<std::string> Written(const QCheckBox* box, const QLabel* field) { return TextIf(box, field->text()); }
+
+std::optional<std::string> Written(const QCheckBox* box, const QLineEdit* field) { return TextIf(box, field->text()); }
+
+std::optional<std::string> Written(const QCheckBox* box, const QComboBox* field) {
+  return TextIf(box, field->currentText());
 }
 
 int SetOption(std::initializer_list<const QRadioButton*> options) {

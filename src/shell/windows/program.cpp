@@ -4,7 +4,11 @@
 #include <QFileInfo>
 
 #include "accessories/windows/accessory_windows.h"
+#include "ciphers/windows/cipher_windows.h"
 #include "files/windows/file_windows.h"
+#include "html/dialogs/link_windows.h"
+#include "html/dialogs/page_windows.h"
+#include "html/dialogs/tag_windows.h"
 #include "html/windows/browser_windows.h"
 #include "platform/qt/convert.h"
 #include "shell/windows/config.h"
@@ -19,7 +23,7 @@ Program::Program(Platform& platform)
       editor_(platform),
       main_(editor_),
       session_(main_, editor_.documents, editor_.settings, editor_.opener, platform, editor_.file_number),
-      rescue_(editor_.documents, platform),
+      rescue_(ModifiedDocuments(editor_.documents), platform),
       timer_(main_, editor_) {
   AddWindows();
   main_.RefreshCommands();
@@ -39,7 +43,11 @@ void Program::AddWindows() {
   AddShellWindows(parts);
   AddFileWindows(parts);
   AddTextWindows(parts);
+  AddPageWindows(parts);
+  AddLinkWindows(parts);
+  AddCipherWindows(parts);
   AddAccessoryWindows(parts);
+  AddTagWindows(parts);
   AddBrowserWindows(parts);
 }
 

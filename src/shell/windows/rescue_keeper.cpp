@@ -13,10 +13,19 @@ constexpr int kDelay = 1000;
 
 }  // namespace
 
-RescueKeeper::RescueKeeper(Documents& documents, Platform& platform)
-    : documents_(documents),
+RescueContent ModifiedDocuments(const Documents& documents) {
+  return {kDocumentsRescue,
+          [&documents] {
+            const RescueRecord record = UnsavedDocuments(documents);
+            return record.documents.empty() ? std::string() : RescueBytes(record);
+          },
+          [&documents] { return ReadableRescue(UnsavedDocuments(documents).documents); }};
+}
+
+RescueKeeper::RescueKeeper(RescueContent content, Platform& platform)
+    : content_(std::move(content)),
       platform_(platform),
-      store_(platform.InstallFolder(),
+      store_(platform.InstallFolder(), content_.prefix,
              [&platform](const std::string& path, std::string_view bytes) { return platform.WriteFile(path, bytes); }) {
   writer_.setMaxThreadCount(1);
   timer_.setSingleShot(true);
@@ -30,13 +39,8 @@ void RescueKeeper::Touch() {
   if (!timer_.isActive()) timer_.start();
 }
 
-std::string RescueKeeper::Bytes() const {
-  const RescueRecord record = UnsavedDocuments(documents_);
-  return record.documents.empty() ? std::string() : RescueBytes(record);
-}
-
 void RescueKeeper::Keep() {
-  std::string bytes = Bytes();
+  std::string bytes = content_.bytes();
   if (bytes == kept_) return;
   kept_ = bytes;
   writer_.start([this, bytes = std::move(bytes)] { store_.Keep(bytes); });
@@ -45,23 +49,26 @@ void RescueKeeper::Keep() {
 std::string RescueKeeper::KeepNow() {
   timer_.stop();
   writer_.waitForDone();
-  const std::string bytes = Bytes();
-  if (bytes.empty()) return {};
-  if (store_.Keep(bytes) == 0) return store_.Path();
-  const std::string readable =
-      JoinPath(platform_.TempFolder(), "pelmar-rescued-" + std::to_string(QCoreApplication::applicationPid()) + ".txt");
-  const bool kept = platform_.WriteFile(readable, ReadableRescue(UnsavedDocuments(documents_).documents)) == 0;
+  kept_ = content_.bytes();
+  const int error = store_.Keep(kept_);
+  if (kept_.empty()) return {};
+  if (error == 0) return store_.Path();
+  const std::string name =
+      "pelmar-" + std::string(content_.prefix) + std::to_string(QCoreApplication::applicationPid()) + ".txt";
+  const std::string readable = JoinPath(platform_.TempFolder(), name);
+  const bool kept = platform_.WriteFile(readable, content_.readable()) == 0;
   return kept ? readable : std::string();
 }
 
 void RescueKeeper::End() {
   timer_.stop();
   writer_.waitForDone();
+  kept_.clear();
   store_.Keep({});
 }
 
 void OfferAbandoned(Documents& documents, Platform& platform) {
-  std::vector<AbandonedRescue> found = FindAbandoned(platform.InstallFolder());
+  std::vector<AbandonedRescue> found = FindAbandoned(platform.InstallFolder(), kDocumentsRescue);
   std::vector<RescueRecord> records;
   std::size_t count = 0;
   for (const AbandonedRescue& rescue : found) {

@@ -1,11 +1,13 @@
-// Keeps the modified documents in this copy's rescue file while the program runs: within two seconds of a change,
-// off the typing path, in a thread that does nothing else.
+// Keeps what isn't saved yet, the documents or the notes, in this copy's rescue file while the program runs: within two
+// seconds of a change, off the typing path, in a thread that does nothing else.
 #pragma once
 
 #include <QObject>
 #include <QThreadPool>
 #include <QTimer>
+#include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/platform.h"
@@ -15,26 +17,34 @@
 
 namespace pelmar {
 
+// What is kept. Both functions look at the state of now.
+struct RescueContent {
+  std::string_view prefix;                // of the rescue file's name
+  std::function<std::string()> bytes;     // "" where nothing has to be kept
+  std::function<std::string()> readable;  // the same for a person's eyes
+};
+
+RescueContent ModifiedDocuments(const Documents& documents);
+
 class RescueKeeper : public QObject {
   Q_OBJECT
 
  public:
-  RescueKeeper(Documents& documents, Platform& platform);
+  RescueKeeper(RescueContent content, Platform& platform);
   ~RescueKeeper() override;
 
   // Something changed that may have to be kept, or dropped.
   void Touch();
   // Writes at once and in this thread; where the install folder refuses, a readable file in the temporary folder.
-  // Returns where the documents lie, "" where none had to be kept or none could be.
+  // Returns where it lies, "" where none had to be kept or none could be.
   std::string KeepNow();
   // An ordinary end: nothing is left behind.
   void End();
 
  private:
   void Keep();
-  std::string Bytes() const;
 
-  Documents& documents_;
+  RescueContent content_;
   Platform& platform_;
   RescueStore store_;
   QTimer timer_;

@@ -33,6 +33,14 @@ class WindowRegistry {
     return found == entries_.end() ? nullptr : static_cast<Window*>(found->second.window.get());
   }
 
+  // Every window, each made now where it didn't exist.
+  void ForEach(const std::function<void(QWidget&)>& visit) {
+    for (auto& [type, entry] : entries_) {
+      if (!entry.window) entry.window = entry.make();
+      visit(*entry.window);
+    }
+  }
+
   // Destroys the window; its next use makes it anew.
   template <class Window>
   void Unload() {

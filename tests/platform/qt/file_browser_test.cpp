@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <QComboBox>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QPushButton>
@@ -9,6 +10,7 @@
 #include <filesystem>
 
 #include "platform/qt/controls/drive_list.h"
+#include "platform/qt/controls/file_browser.h"
 #include "platform/qt/controls/file_list.h"
 #include "platform/qt/controls/folder_list.h"
 #include "platform/qt/convert.h"
@@ -228,6 +230,40 @@ TEST(DriveList, FollowsAPathSilentlyAndTellsAChoice) {
   QTest::keyClick(&drives, Qt::Key_Home);
   ASSERT_EQ(changes.size(), 1);
   EXPECT_EQ(changes[0][0].toString(), QDir::homePath());
+}
+
+TEST(FileBrowser, PlaceLeadsFoldersLeadFilesUnderTheMask) {
+  const TempFolder temp;
+  temp.Put("inner/one.gif", "");
+  temp.Put("inner/two.txt", "");
+  temp.Put("a.gif", "");
+  const QString base = Utf8ToQString(temp.Path());
+  DriveList place;
+  FolderList folders;
+  FileList files;
+  QComboBox mask;
+  mask.setEditable(true);
+  mask.setEditText(QStringLiteral("*.GIF"));
+  LinkFileBrowser(&place, &folders, &files, &mask);
+  EXPECT_EQ(folders.Path(), QDir::currentPath());
+  EXPECT_EQ(files.Path(), QDir::currentPath());
+  EXPECT_EQ(files.Pattern(), QStringLiteral("*.GIF"));
+
+  folders.SetPath(base);
+  EXPECT_EQ(RowsOf(files), QStringList(QStringLiteral("a.gif")));
+  folders.setCurrentIndex(folders.model()->index(folders.model()->rowCount() - 1, 0));
+  QTest::keyRelease(&folders, Qt::Key_Down);  // shows the files without moving
+  EXPECT_EQ(RowsOf(files), QStringList(QStringLiteral("one.gif")));
+  EXPECT_EQ(folders.Path(), base);
+  mask.setEditText(QStringLiteral("*.txt"));
+  EXPECT_EQ(RowsOf(files), QStringList(QStringLiteral("two.txt")));
+  EXPECT_EQ(PickedPath(files), temp.Path() + "/inner/");
+  files.SetFileName(QStringLiteral("two.txt"));
+  EXPECT_EQ(PickedPath(files), temp.Path() + "/inner/two.txt");
+  QTest::keyClick(&folders, Qt::Key_Return);
+  EXPECT_EQ(folders.Path(), base + QStringLiteral("/inner"));
+  Q_EMIT place.DriveChanged(base);
+  EXPECT_EQ(files.Path(), base);
 }
 
 }  // namespace

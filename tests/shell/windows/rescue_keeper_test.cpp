@@ -30,7 +30,7 @@ struct RescueKeeperTest : testing::Test {
 };
 
 TEST_F(RescueKeeperTest, KeepsAChangeWithinTwoSecondsAndDropsItOnceSaved) {
-  RescueKeeper keeper(documents, platform);
+  RescueKeeper keeper(ModifiedDocuments(documents), platform);
   text.OnChange([&](const TextChange&) { keeper.Touch(); });
   text.SetText("typed");
   QElapsedTimer clock;
@@ -47,10 +47,10 @@ TEST_F(RescueKeeperTest, KeepsAChangeWithinTwoSecondsAndDropsItOnceSaved) {
 
 TEST_F(RescueKeeperTest, AReadOnlyInstallFolderFallsBackToAReadableFile) {
   platform.install_folder = "/nonexistent/";
-  RescueKeeper keeper(documents, platform);
+  RescueKeeper keeper(ModifiedDocuments(documents), platform);
   text.SetText("typed");
   const std::string path = keeper.KeepNow();
-  EXPECT_TRUE(path.starts_with("/tmp/pelmar-rescued-"));
+  EXPECT_TRUE(path.starts_with("/tmp/pelmar-rescue-"));
   EXPECT_EQ(platform.files[path], "Soubor:\r\ntyped\r\n\r\n");
 }
 

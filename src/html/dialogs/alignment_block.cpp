@@ -1,0 +1,33 @@
+#include "html/dialogs/alignment_block.h"
+
+#include "html/dialogs/form_helpers.h"
+#include "platform/qt/convert.h"
+#include "ui_alignment_block.h"
+
+namespace pelmar {
+
+AlignmentBlock::AlignmentBlock(QWidget* parent) : QWidget(parent), ui_(std::make_unique<Ui::AlignmentBlock>()) {
+  ui_->setupUi(this);
+  EnableWith(ui_->Check1, {ui_->Option1, ui_->Option2, ui_->Option3, ui_->Option4});
+  EnableWith(ui_->Check2, {ui_->Option5, ui_->Option6, ui_->Option7});
+  connect(ui_->Check1, &QCheckBox::toggled, this, &AlignmentBlock::EnableCharacter);
+  connect(ui_->Option4, &QRadioButton::toggled, this, &AlignmentBlock::EnableCharacter);
+}
+
+AlignmentBlock::~AlignmentBlock() = default;
+
+void AlignmentBlock::EnableCharacter() {
+  ui_->Text1->setEnabled(ui_->Check1->isChecked() && ui_->Option4->isChecked());
+}
+
+CellAlignment AlignmentBlock::Read() const {
+  CellAlignment alignment;
+  if (ui_->Check1->isChecked())
+    alignment.align = static_cast<CellAlign>(SetOption({ui_->Option1, ui_->Option2, ui_->Option3, ui_->Option4}));
+  alignment.character = TextFromQString(ui_->Text1->text());
+  if (ui_->Check2->isChecked())
+    alignment.valign = static_cast<CellVAlign>(SetOption({ui_->Option5, ui_->Option6, ui_->Option7}));
+  return alignment;
+}
+
+}  // namespace pelmar

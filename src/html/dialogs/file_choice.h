@@ -1,0 +1,47 @@
+// The file that a picture, a frame or a link leads to, as four dialogs let a person choose it: a file browser with a
+// mask, the switch that keeps only the name, the label that shows the path, and the two buttons that need a file.
+// While `files` is disabled the choice is switched off, and the buttons are the dialog's own affair.
+#pragma once
+
+#include <functional>
+#include <string>
+
+class QAbstractButton;
+class QCheckBox;
+class QComboBox;
+class QLabel;
+class QLineEdit;
+
+namespace pelmar {
+
+class DriveList;
+class FileList;
+class FolderList;
+
+// The controls of the dialog, which outlive the choice.
+struct FileChoice {
+  DriveList* places;
+  FolderList* folders;
+  FileList* files;
+  QComboBox* mask;
+  QCheckBox* relative;
+  QLabel* path;
+  QAbstractButton* ok;    // needs a file
+  QAbstractButton* show;  // needs a file with its folder; gets its picture here
+};
+
+// Links the controls, once, behind setupUi: the lists with each other; the choice of a file, another folder or mask and
+// the switch to RefreshFileChoice; the show button to `show_in_browser`, which takes the path as the label has it,
+// UTF-8. Until something is chosen or switched, label and buttons stay as the form has them.
+void LinkFileChoice(const FileChoice& choice, std::function<void(const std::string& path)> show_in_browser);
+
+// Writes folder and name into the label, or the name alone, and enables the buttons as far as they have what they need.
+void RefreshFileChoice(const FileChoice& choice);
+
+[[nodiscard]] bool HasFile(const FileChoice& choice);
+
+// Copies the label's path into the dialog's hidden working copy, with slashes for backslashes, and returns it in
+// Windows-1250.
+std::string TakePath(const FileChoice& choice, QLineEdit& working_copy);
+
+}  // namespace pelmar

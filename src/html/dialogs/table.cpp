@@ -1,0 +1,151 @@
+#include "html/dialogs/table.h"
+
+#include "html/dialogs/form_helpers.h"
+#include "html/insert.h"
+#include "platform/qt/convert.h"
+#include "ui_table.h"
+
+namespace pelmar {
+namespace {
+
+constexpr int kMostPercent = 100;
+constexpr int kMostPixels = 800;
+
+std::size_t ValueOf(const QScrollBar* bar) { return static_cast<std::size_t>(bar->value()); }
+
+void ShowPosition(QLabel* label, const QScrollBar* position, const QScrollBar* count) {
+  label->setText(QStringLiteral("%1/%2").arg(position->value()).arg(count->value()));
+}
+
+// The dialog's answer becomes the field's text, which the grid takes over as if it were typed.
+void AskInto(QLineEdit* field, const Table::AskAttributes& ask) {
+  if (const std::optional<std::string> attributes = ask()) field->setText(TextToQString(*attributes));
+}
+
+}  // namespace
+
+Table::Table(TextBuffer& document, AskAttributes ask_cell, AskAttributes ask_row, QWidget* parent)
+    : DialogWindow(parent), document_(document), ui_(std::make_unique<Ui::Table>()) {
+  ui_->setupUi(this);
+  MakeTabs();
+  ConnectGroups();
+  ConnectWalk(std::move(ask_cell), std::move(ask_row));
+  connect(ui_->Command1, &QPushButton::clicked, this, &Table::Command1_Click);
+  connect(ui_->Command2, &QPushButton::clicked, this, &Table::hide);
+}
+
+Table::~Table() = default;
+
+void Table::MakeTabs() {
+  ui_->TabStrip1->addTab(QStringLiteral("Celá tabulka"));
+  ui_->TabStrip1->setTabToolTip(0, QStringLiteral("Nastavení tabulky (velikost, atributy...)"));
+  ui_->TabStrip1->addTab(QStringLiteral("Buňka / Řádek"));
+  ui_->TabStrip1->setTabToolTip(1, QStringLiteral("Nastavení jedné určité buňky/ jednoho rádku "));
+  connect(ui_->TabStrip1, &QTabBar::currentChanged, ui_->pages, &QStackedWidget::setCurrentIndex);
+}
+
+void Table::ConnectGroups() {
+  EnableWith(ui_->Check1, {ui_->Option1, ui_->Option2, ui_->VScroll3, ui_->Label5});
+  EnableWith(ui_->Check2, {ui_->Option3, ui_->Option4, ui_->Option5});
+  EnableWith(ui_->Check3, {ui_->Text1});
+  EnableWith(ui_->Check4, {ui_->Option6, ui_->Option7, ui_->Option8, ui_->Option9, ui_->Option10, ui_->Option11,
+                           ui_->Option12, ui_->Option13, ui_->Label6, ui_->VScroll4, ui_->Label7});
+  EnableWith(ui_->Check5, {ui_->Option14, ui_->Option15, ui_->Option16, ui_->Option17});
+  EnableWith(ui_->Check6, {ui_->VScroll5, ui_->Label8});
+  EnableWith(ui_->Check7, {ui_->VScroll6, ui_->Label9});
+  EnableWith(ui_->Check8, {ui_->Text2, ui_->Option18, ui_->Option19, ui_->Option20, ui_->Option21});
+  connect(ui_->Option2, &QRadioButton::toggled, this, &Table::SetWidthUnit);
+  ShowValue(ui_->VScroll3, ui_->Label5, [percent = ui_->Option2](int value) {
+    return percent->isChecked() ? BlankLedPercent(value) : BlankLed(value);
+  });
+  // required: Label7 begins at " 1" over a bar at 0, and what it says is written
+  ShowValue(ui_->VScroll4, ui_->Label7, BlankLed);
+  ShowValue(ui_->VScroll5, ui_->Label8, BlankLed);
+  ShowValue(ui_->VScroll6, ui_->Label9, BlankLed);
+}
+
+void Table::ConnectWalk(AskAttributes ask_cell, AskAttributes ask_row) {
+  connect(ui_->VScroll1, &QScrollBar::valueChanged, this, &Table::VScroll1_Change);
+  connect(ui_->VScroll2, &QScrollBar::valueChanged, this, &Table::VScroll2_Change);
+  connect(ui_->HScroll1, &QScrollBar::valueChanged, this, &Table::ShowCell);
+  connect(ui_->VScroll7, &QScrollBar::valueChanged, this, &Table::ShowCell);
+  connect(ui_->VScroll8, &QScrollBar::valueChanged, this, &Table::ShowRow);
+  connect(ui_->Text4, &QLineEdit::textChanged, this, [this](const QString& text) { Text() = TextFromQString(text); });
+  connect(ui_->Text3, &QLineEdit::textChanged, this,
+          [this](const QString& text) { Attributes() = TextFromQString(text); });
+  connect(ui_->Text5, &QLineEdit::textChanged, this,
+          [this](const QString& text) { RowAttributes() = TextFromQString(text); });
+  connect(ui_->Command3, &QPushButton::clicked, this, [this, ask = std::move(ask_cell)] { AskInto(ui_->Text3, ask); });
+  connect(ui_->Command4, &QPushButton::clicked, ui_->Text3, &QLineEdit::clear);
+  connect(ui_->Command5, &QPushButton::clicked, ui_->Text5, &QLineEdit::clear);
+  connect(ui_->Command6, &QPushButton::clicked, this, [this, ask = std::move(ask_row)] { AskInto(ui_->Text5, ask); });
+}
+
+void Table::SetWidthUnit(bool percent) {
+  ui_->VScroll3->setMaximum(percent ? kMostPercent : kMostPixels);
+  const int value = ui_->VScroll3->value();
+  ui_->Label5->setText(percent ? BlankLedPercent(value) : BlankLed(value));
+}
+
+void Table::VScroll1_Change(int columns) {
+  ui_->Label3->setText(QString::number(columns));
+  ShowPosition(ui_->Label12, ui_->HScroll1, ui_->VScroll1);
+  ui_->HScroll1->setMaximum(columns);
+}
+
+void Table::VScroll2_Change(int rows) {
+  ui_->Label4->setText(QString::number(rows));
+  ShowPosition(ui_->Label13, ui_->VScroll7, ui_->VScroll2);
+  ShowPosition(ui_->Label16, ui_->VScroll8, ui_->VScroll2);
+  ui_->VScroll7->setMaximum(rows);
+  ui_->VScroll8->setMaximum(rows);
+}
+
+void Table::ShowCell() {
+  ShowPosition(ui_->Label12, ui_->HScroll1, ui_->VScroll1);
+  ShowPosition(ui_->Label13, ui_->VScroll7, ui_->VScroll2);
+  ui_->Text4->setText(TextToQString(Text()));
+  ui_->Text3->setText(TextToQString(Attributes()));
+}
+
+void Table::ShowRow() {
+  ShowPosition(ui_->Label16, ui_->VScroll8, ui_->VScroll2);
+  ui_->Text5->setText(TextToQString(RowAttributes()));
+}
+
+std::string& Table::Text() { return grid_.CellText.at(ValueOf(ui_->HScroll1)).at(ValueOf(ui_->VScroll7)); }
+
+std::string& Table::Attributes() { return grid_.CellAttrs.at(ValueOf(ui_->HScroll1)).at(ValueOf(ui_->VScroll7)); }
+
+std::string& Table::RowAttributes() { return grid_.RowAttrs.at(ValueOf(ui_->VScroll8)); }
+
+TableSpec Table::Read() const {
+  TableSpec spec;
+  spec.columns = ValueOf(ui_->VScroll1);
+  spec.rows = ValueOf(ui_->VScroll2);
+  spec.width = Written(ui_->Check1, ui_->Label5);
+  spec.cols = Written(ui_->Check9, ui_->Label3);
+  spec.colspec = Written(ui_->Check3, ui_->Text1);
+  if (ui_->Check2->isChecked())
+    spec.align = static_cast<TableAlign>(SetOption({ui_->Option3, ui_->Option4, ui_->Option5}));
+  if (const auto thickness = Written(ui_->Check4, ui_->Label7)) {
+    const int frame = SetOption({ui_->Option6, ui_->Option7, ui_->Option8, ui_->Option9, ui_->Option10, ui_->Option11,
+                                 ui_->Option12, ui_->Option13});
+    spec.border = {static_cast<TableFrame>(frame), *thickness};
+  }
+  if (ui_->Check5->isChecked())
+    spec.rules = static_cast<TableRules>(SetOption({ui_->Option14, ui_->Option15, ui_->Option16, ui_->Option17}));
+  spec.cell_spacing = Written(ui_->Check6, ui_->Label8);
+  spec.cell_padding = Written(ui_->Check7, ui_->Label9);
+  if (const auto text = Written(ui_->Check8, ui_->Text2))
+    spec.caption = {static_cast<CaptionSide>(SetOption({ui_->Option18, ui_->Option19, ui_->Option20, ui_->Option21})),
+                    *text};
+  return spec;
+}
+
+void Table::Command1_Click() {
+  InsertAtCaret(document_, BuildTable(Read(), grid_));
+  hide();
+}
+
+}  // namespace pelmar

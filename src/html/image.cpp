@@ -1,0 +1,35 @@
+#include "html/image.h"
+
+#include <array>
+#include <cstddef>
+#include <string_view>
+
+#include "html/attributes.h"
+
+namespace pelmar {
+namespace {
+
+// required: lower case, where other tags have these values in upper case
+constexpr std::array<std::string_view, 5> kAligns = {"top", "middle", "bottom", "left", "right"};
+
+}  // namespace
+
+std::string ImageTag(const ImageSpec& image) {
+  std::string tag = "<IMG" + Attribute("SRC", FileAddress(image.path, image.relative));
+  if (image.alt) tag += Attribute("ALT", *image.alt);
+  if (image.align) tag += Attribute("ALIGN", kAligns[static_cast<std::size_t>(*image.align)]);
+  if (image.size) {
+    tag += Attribute("WIDTH", LeftTrimmed(image.size->width));
+    tag += Attribute("HEIGHT", LeftTrimmed(image.size->height));
+  }
+  if (image.space) {
+    tag += Attribute("VSPACE", LeftTrimmed(image.space->vertical));
+    tag += Attribute("HSPACE", LeftTrimmed(image.space->horizontal));
+  }
+  if (image.border) tag += Attribute("BORDER", LeftTrimmed(*image.border));
+  if (image.low_source) tag += Attribute("LOWSRC", *image.low_source);
+  if (image.map) tag += Attribute("USEMAP", *image.map);
+  return tag + ">";
+}
+
+}  // namespace pelmar

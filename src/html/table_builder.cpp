@@ -1,0 +1,62 @@
+#include "html/table_builder.h"
+
+#include <string_view>
+
+#include "html/attributes.h"
+#include "shell/common.h"
+
+namespace pelmar {
+namespace {
+
+constexpr std::string_view kAligns[] = {"LEFT", "CENTER", "RIGHT"};
+constexpr std::string_view kFrames[] = {"NONE", "ABOVE", "BELOW", "HSIDES", "LHS", "RHS", "VSIDES", "BOX"};
+constexpr std::string_view kRules[] = {"NONE", "ROWS", "COLS", "ALL"};
+constexpr std::string_view kSides[] = {"TOP", "BOTTOM", "LEFT", "RIGHT"};
+
+template <class Choice, std::size_t Count>
+std::string_view Word(const std::string_view (&words)[Count], Choice choice) {
+  return words[static_cast<std::size_t>(choice)];
+}
+
+std::string OptionalNumber(std::string_view name, const std::optional<std::string>& label) {
+  return label ? Attribute(name, LeftTrimmed(*label)) : std::string();
+}
+
+std::string OpeningTag(const TableSpec& spec) {
+  std::string tag("<TABLE");
+  tag += OptionalNumber("WIDTH", spec.width);
+  tag += OptionalNumber("COLS", spec.cols);
+  if (spec.colspec) tag += Attribute("COLSPEC", *spec.colspec);
+  if (spec.align) tag += Attribute("ALIGN", Word(kAligns, *spec.align));
+  if (spec.border) {
+    tag += Attribute("FRAME", Word(kFrames, spec.border->frame));
+    tag += Attribute("BORDER", LeftTrimmed(spec.border->thickness));
+  }
+  if (spec.rules) tag += Attribute("RULES", Word(kRules, *spec.rules));
+  tag += OptionalNumber("CELLSPACING", spec.cell_spacing);
+  tag += OptionalNumber("CELLPADDING", spec.cell_padding);
+  return tag += '>';
+}
+
+std::string CaptionTag(const TableSpec::Caption& caption) {
+  return "<CAPTION" + Attribute("ALIGN", Word(kSides, caption.side)) + '>' + caption.text + "</CAPTION>";
+}
+
+std::string RowOf(const TableGrid& grid, std::size_t row, std::size_t columns) {
+  std::string line = "<TR" + grid.RowAttrs.at(row) + '>';
+  for (std::size_t column = 1; column <= columns; ++column)
+    line += "<TD" + grid.CellAttrs.at(column).at(row) + '>' + grid.CellText.at(column).at(row) + "</TD>";
+  return line += "</TR>";
+}
+
+}  // namespace
+
+std::string BuildTable(const TableSpec& spec, const TableGrid& grid) {
+  std::string table = OpeningTag(spec);
+  table += kCrLf;
+  if (spec.caption) (table += CaptionTag(*spec.caption)) += kCrLf;
+  for (std::size_t row = 1; row <= spec.rows; ++row) (table += RowOf(grid, row, spec.columns)) += kCrLf;
+  return table += "</TABLE>";
+}
+
+}  // namespace pelmar

@@ -1,0 +1,56 @@
+// A whole TABLE from the fields of its dialog and a grid of 20 by 20 cells. The grid outlives every change of the
+// table's size: what lies beyond it stays and comes back when the table grows. Texts are Windows-1250, written as they
+// are.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <string>
+
+namespace pelmar {
+
+// Columns and rows count from 1. A string of attributes begins with the blank that stands behind "<TD" or "<TR".
+struct TableGrid {
+  static constexpr std::size_t kMost = 20;
+  using Cells = std::array<std::array<std::string, kMost + 1>, kMost + 1>;
+
+  Cells CellText;   // by column, then row
+  Cells CellAttrs;  // the same
+  std::array<std::string, kMost + 1> RowAttrs;
+};
+
+enum class TableAlign { kLeft, kCenter, kRight };
+enum class TableFrame { kNone, kAbove, kBelow, kAboveAndBelow, kLeft, kRight, kLeftAndRight, kBox };
+enum class TableRules { kNone, kRows, kColumns, kAll };
+enum class CaptionSide { kTop, kBottom, kLeft, kRight };
+
+// What is switched off is absent. Numbers come as their labels show them, with a blank in front or not.
+struct TableSpec {
+  struct Border {
+    TableFrame frame = TableFrame::kNone;
+    std::string thickness;
+  };
+  struct Caption {
+    CaptionSide side = CaptionSide::kTop;
+    std::string text;
+  };
+
+  std::size_t columns = 1;
+  std::size_t rows = 1;
+  std::optional<std::string> width = std::nullopt;
+  std::optional<std::string> cols = std::nullopt;
+  std::optional<std::string> colspec = std::nullopt;
+  std::optional<TableAlign> align = std::nullopt;
+  std::optional<Border> border = std::nullopt;
+  std::optional<TableRules> rules = std::nullopt;
+  std::optional<std::string> cell_spacing = std::nullopt;
+  std::optional<std::string> cell_padding = std::nullopt;
+  std::optional<Caption> caption = std::nullopt;
+};
+
+// One line for the opening tag, the caption and each row; no line end behind "</TABLE>". At most kMost columns and
+// rows.
+std::string BuildTable(const TableSpec& spec, const TableGrid& grid);
+
+}  // namespace pelmar

@@ -1,0 +1,67 @@
+#include "html/table_tags.h"
+
+#include "html/attributes.h"
+#include "html/insert.h"
+#include "shell/common.h"
+#include "text/codepage.h"
+
+namespace pelmar {
+namespace {
+
+constexpr std::string_view kAligns[] = {"LEFT", "CENTER", "RIGHT", "CHAR"};
+constexpr std::string_view kVAligns[] = {"TOP", "MIDDLE", "BOTTOM"};
+constexpr std::string_view kSample = "Buňka"_w;
+constexpr std::size_t kBareTag = 4;    // "<TR>"
+constexpr std::size_t kNameInTag = 3;  // "<TR"
+
+std::string Attributes(const CellAlignment& alignment) {
+  std::string attributes;
+  if (alignment.align) {
+    attributes += Attribute("ALIGN", kAligns[static_cast<std::size_t>(*alignment.align)]);
+    if (alignment.align == CellAlign::kCharacter && !alignment.character.empty())
+      attributes += Attribute("CHAR", alignment.character);
+  }
+  if (alignment.valign) attributes += Attribute("VALIGN", kVAligns[static_cast<std::size_t>(*alignment.valign)]);
+  return attributes;
+}
+
+}  // namespace
+
+std::string RowTag(const RowSpec& spec) { return "<TR" + Attributes(spec.alignment) + '>'; }
+
+std::string CellTag(const CellSpec& spec) {
+  std::string tag(spec.header ? "<TH" : "<TD");
+  tag += Attributes(spec.alignment);
+  if (spec.bgcolor) tag += Attribute("BGCOLOR", *spec.bgcolor);
+  if (spec.colspan) tag += Attribute("COLSPAN", *spec.colspan);
+  if (spec.rowspan) tag += Attribute("ROWSPAN", *spec.rowspan);
+  if (spec.nowrap) tag += " NOWRAP";
+  if (spec.width) tag += Attribute("WIDTH", *spec.width);
+  return tag += '>';
+}
+
+std::string TagAttributes(std::string_view tag) {
+  if (tag.size() <= kBareTag) return {};
+  return std::string(tag.substr(kNameInTag, tag.size() - kBareTag));
+}
+
+void InsertRow(TextBuffer& box, const RowSpec& spec) {
+  std::string row = RowTag(spec);
+  for (int cell = 1; cell <= spec.cells; ++cell) {
+    row += "<TD>";
+    row += kSample;
+    row += std::to_string(cell) + "</TD>";
+  }
+  row += "</TR>";
+  InsertAtCaret(box, row += kCrLf);
+}
+
+void WrapInCell(TextBuffer& box, const CellSpec& spec) {
+  const std::string open = CellTag(spec);
+  const std::string_view close = spec.header ? "</TH>" : "</TD>";
+  std::string sample = open;
+  sample += kSample;
+  WrapSelection(box, open, close, sample += close);
+}
+
+}  // namespace pelmar

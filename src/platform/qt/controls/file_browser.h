@@ -1,0 +1,27 @@
+// The group of lists with which a person picks a file or a folder in a dialog: place, folder, files and a mask.
+// A dialog links its group once, behind setupUi, and listens to what it needs (FileClicked, PathChanged) itself.
+#pragma once
+
+#include <string>
+
+class QComboBox;
+
+namespace pelmar {
+
+class DriveList;
+class FileList;
+class FolderList;
+
+// The place leads the folder list, the folder list the file list, `mask` (null in a dialog without one) the names
+// shown. A key released in the folder list shows the files of the highlighted folder; Enter moves into it. The group
+// begins at the current folder of the process, with the mask that the form gives. A place or a folder that can't be
+// read changes nothing.
+void LinkFileBrowser(DriveList* place, FolderList* folders, FileList* files, QComboBox* mask = nullptr);
+
+// Place and folder in a dialog that shows no files.
+void LinkFolderBrowser(DriveList* place, FolderList* folders);
+
+// The folder of the list joined with the selected name, UTF-8; the folder and a separator where none is selected.
+std::string PickedPath(const FileList& files);
+
+}  // namespace pelmar

@@ -1,0 +1,125 @@
+#include "text/number_text.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <system_error>
+
+namespace pelmar {
+namespace {
+
+constexpr std::string_view kBlanks = " \t\r\n";
+
+bool IsDigit(char ch) { return ch >= '0' && ch <= '9'; }
+
+template <typename Number>
+std::string GeneralText(Number number, int digits) {
+  if (number == 0) return "0";  // without the sign of a negative zero
+  char buffer[32];
+  const auto end = std::to_chars(buffer, buffer + sizeof buffer, number, std::chars_format::general, digits).ptr;
+  std::replace(buffer, end, '.', ',');
+  std::replace(buffer, end, 'e', 'E');
+  return {buffer, end};
+}
+
+// Where the digits from `at` on end.
+std::size_t BehindDigits(std::string_view text, std::size_t at) {
+  while (at < text.size() && IsDigit(text[at])) ++at;
+  return at;
+}
+
+// How much of the text, from its start on, has the form of a number: sign, digits, mark, digits, exponent.
+std::size_t NumberLength(std::string_view text, char mark) {
+  const std::size_t start = text.starts_with('-') || text.starts_with('+') ? 1 : 0;
+  std::size_t end = BehindDigits(text, start);
+  std::size_t digits = end - start;
+  if (end < text.size() && text[end] == mark) {
+    const std::size_t decimals_end = BehindDigits(text, end + 1);
+    digits += decimals_end - end - 1;
+    end = decimals_end;
+  }
+  if (digits == 0) return 0;
+  if (end < text.size() && (text[end] == 'E' || text[end] == 'e')) {
+    std::size_t exponent = end + 1;
+    if (exponent < text.size() && (text[exponent] == '-' || text[exponent] == '+')) ++exponent;
+    const std::size_t exponent_end = BehindDigits(text, exponent);
+    if (exponent_end > exponent) end = exponent_end;
+  }
+  return end;
+}
+
+// Whether a number out of range, written with a point, is nearer to zero than any other.
+bool IsTiny(std::string_view number) {
+  const std::size_t exponent = number.find_first_of("eE");
+  if (exponent != std::string_view::npos) return number.substr(exponent + 1).starts_with('-');
+  return number.substr(0, number.find('.')).find_first_of("123456789") == std::string_view::npos;
+}
+
+// The value of a text of the form of a number, written with a point; nothing where it is too large.
+std::optional<double> ValueOf(std::string_view number) {
+  if (number.starts_with('+')) number.remove_prefix(1);
+  double value = 0;
+  const std::errc error = std::from_chars(number.data(), number.data() + number.size(), value).ec;
+  if (error == std::errc()) return value;
+  if (IsTiny(number)) return 0.0;
+  return std::nullopt;
+}
+
+}  // namespace
+
+std::string NumberText(double number) { return GeneralText(number, 15); }
+std::string NumberText(float number) { return GeneralText(number, 7); }
+
+std::string FixedText(double number, int decimals) {
+  // The first 15 digits of what is written tell a half from what only looks like one in binary.
+  constexpr int kDigits = 15;
+  const double size = std::abs(number);
+  const int whole = size < 1 ? 1 : static_cast<int>(std::floor(std::log10(size))) + 1;
+  char buffer[64];
+  const auto end =
+      std::to_chars(buffer, buffer + sizeof buffer, size, std::chars_format::fixed, std::max(kDigits - whole, 0)).ptr;
+  std::string text(buffer, end);
+  std::size_t mark = std::min(text.find('.'), text.size());
+  if (mark < text.size()) text.erase(mark, 1);
+
+  const auto wanted = mark + static_cast<std::size_t>(decimals);
+  const bool up = wanted < text.size() && text[wanted] >= '5';
+  text.resize(wanted, '0');
+  for (std::size_t i = text.size(); up;) {
+    if (i == 0) {
+      text.insert(text.begin(), '1');
+      ++mark;
+      break;
+    }
+    if (text[--i] != '9') {
+      ++text[i];
+      break;
+    }
+    text[i] = '0';
+  }
+  const bool negative = number < 0 && text.find_first_not_of('0') != std::string::npos;
+  text.insert(mark, 1, ',');
+  return negative ? '-' + text : text;
+}
+
+double LeadingNumber(std::string_view text) {
+  text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
+  for (std::size_t length = NumberLength(text, '.'); length > 0; length = NumberLength(text, '.')) {
+    text = text.substr(0, length);
+    if (const auto value = ValueOf(text)) return *value;
+    text.remove_suffix(1);  // a shorter part may be small enough
+  }
+  return 0;
+}
+
+std::optional<double> ParseNumber(std::string_view text) {
+  const std::size_t start = text.find_first_not_of(kBlanks);
+  if (start == std::string_view::npos) return std::nullopt;
+  text = text.substr(start, text.find_last_not_of(kBlanks) + 1 - start);
+  if (NumberLength(text, ',') != text.size()) return std::nullopt;
+  std::string with_point(text);
+  std::ranges::replace(with_point, ',', '.');
+  return ValueOf(with_point);
+}
+
+}  // namespace pelmar

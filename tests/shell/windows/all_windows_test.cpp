@@ -1,0 +1,133 @@
+// What every window of the program owes to a person who works by keyboard, listens to it, or has a small screen: names,
+// whole captions, nothing over anything else, and the tabulator key reaching each control.
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAbstractSlider>
+#include <QAccessible>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QTabBar>
+#include <QTest>
+
+#include "platform/qt/controls/elided_label.h"
+#include "platform/qt/controls/swatch.h"
+#include "platform/qt/controls/text_box.h"
+#include "shell/windows/program.h"
+#include "support/scripted_platform.h"
+
+namespace pelmar {
+namespace {
+
+// What a screen of 1024 by 600 leaves to a window inside its frame.
+constexpr QSize kSmallScreen(1016, 560);
+
+QString Named(const QWidget& widget) {
+  return widget.window()->objectName() + QLatin1Char('.') + widget.objectName() + QStringLiteral(" (") +
+         QLatin1String(widget.metaObject()->className()) + QLatin1Char(')');
+}
+
+bool IsInner(const QWidget& widget) {
+  return widget.objectName().isEmpty() || widget.objectName().startsWith(QLatin1String("qt_")) ||
+         qobject_cast<QAbstractScrollArea*>(widget.parentWidget()) != nullptr ||
+         qobject_cast<QComboBox*>(widget.parentWidget()) != nullptr;
+}
+
+// The controls that a person works with, without the toolkit's own parts of them.
+QList<QWidget*> Controls(const QWidget& window) {
+  QList<QWidget*> controls;
+  for (QWidget* widget : window.findChildren<QWidget*>()) {
+    const bool worked = qobject_cast<QAbstractButton*>(widget) || qobject_cast<QAbstractSlider*>(widget) ||
+                        qobject_cast<QLineEdit*>(widget) || qobject_cast<QComboBox*>(widget) ||
+                        qobject_cast<QAbstractItemView*>(widget) || qobject_cast<TextBox*>(widget) ||
+                        qobject_cast<QTabBar*>(widget) || widget->focusPolicy() != Qt::NoFocus;
+    if (worked && widget->isVisible() && !IsInner(*widget)) controls += widget;
+  }
+  return controls;
+}
+
+void ExpectNames(const QWidget& window) {
+  for (QWidget* control : Controls(window)) {
+    const QAccessibleInterface* face = QAccessible::queryAccessibleInterface(control);
+    EXPECT_TRUE(face != nullptr && !face->text(QAccessible::Name).isEmpty())
+        << Named(*control).toStdString() << " has no accessible name";
+  }
+}
+
+void ExpectWholeCaptions(const QWidget& window) {
+  for (const QLabel* label : window.findChildren<QLabel*>()) {
+    if (!label->isVisible() || label->wordWrap() || qobject_cast<const ElidedLabel*>(label) != nullptr) continue;
+    if (label->text().isEmpty()) continue;
+    EXPECT_LE(label->sizeHint().width(), label->width()) << Named(*label).toStdString() << " is cut";
+    EXPECT_LE(label->sizeHint().height(), label->height() + 1) << Named(*label).toStdString() << " is cut";
+  }
+  for (const QAbstractButton* button : window.findChildren<QAbstractButton*>()) {
+    if (!button->isVisible() || button->text().isEmpty() || IsInner(*button)) continue;
+    EXPECT_LE(button->minimumSizeHint().width(), button->width()) << Named(*button).toStdString() << " is cut";
+  }
+}
+
+void ExpectNoOverlap(const QWidget& window) {
+  const QList<QWidget*> all = window.findChildren<QWidget*>();
+  for (const QWidget* one : all) {
+    if (!one->isVisible() || IsInner(*one)) continue;
+    for (const QWidget* other : all) {
+      if (other <= one || other->parentWidget() != one->parentWidget() || !other->isVisible() || IsInner(*other))
+        continue;
+      // The greeting lies over its own shadow.
+      if (window.objectName() == QLatin1String("Start") && other->objectName().startsWith(QLatin1String("Label")) &&
+          one->objectName().startsWith(QLatin1String("Label")))
+        continue;
+      EXPECT_FALSE(one->geometry().intersects(other->geometry()))
+          << Named(*one).toStdString() << " and " << Named(*other).toStdString() << " overlap";
+    }
+  }
+}
+
+// All that is on and can be worked takes part in the round that the tabulator key makes; of a group of options the
+// arrow keys reach the others.
+void ExpectTabReachesAll(const QWidget& window) {
+  for (const QWidget* control : Controls(window)) {
+    if (!control->isEnabled()) continue;
+    // A swatch that only shows its colour, and a label whose text can be copied by mouse, are no controls.
+    if (qobject_cast<const QLabel*>(control)) continue;
+    if (qobject_cast<const Swatch*>(control) && control->focusPolicy() == Qt::NoFocus) continue;
+    const auto* option = qobject_cast<const QRadioButton*>(control);
+    if (option != nullptr && option->autoExclusive() && !option->isChecked()) continue;
+    const bool reached = (control->focusPolicy() & Qt::TabFocus) != 0;
+    EXPECT_TRUE(reached) << Named(*control).toStdString() << " can't be reached by keyboard";
+  }
+}
+
+void ExpectFits(QWidget& window) {
+  EXPECT_LE(window.width(), kSmallScreen.width()) << Named(window).toStdString() << " is too wide";
+  EXPECT_LE(window.height(), kSmallScreen.height()) << Named(window).toStdString() << " is too high";
+  EXPECT_FALSE(window.windowTitle().isEmpty()) << Named(window).toStdString() << " has no title";
+}
+
+TEST(AllWindows, AreWithinEverybodysReach) {
+  ScriptedPlatform platform;
+  platform.files["/share/pelmar.txt"] = "help";
+  Program program(platform);
+  int count = 0;
+  program.Windows().ForEach([&count](QWidget& window) {
+    ++count;
+    window.show();
+    // A layout inside a layout settles a round later.
+    for (int round = 0; round < 3; ++round) QCoreApplication::processEvents();
+    ExpectNames(window);
+    ExpectWholeCaptions(window);
+    ExpectNoOverlap(window);
+    ExpectTabReachesAll(window);
+    ExpectFits(window);
+    window.hide();
+  });
+  EXPECT_GE(count, 12);
+}
+
+}  // namespace
+}  // namespace pelmar

@@ -1,0 +1,41 @@
+// Finds and works the controls of a window by their names.
+#pragma once
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QTimer>
+#include <functional>
+#include <string>
+
+namespace pelmar {
+
+template <class Type>
+Type* Find(const QWidget& window, const char* name) {
+  return window.findChild<Type*>(QString::fromUtf8(name));
+}
+
+inline void Click(const QWidget& window, const char* name) { Find<QAbstractButton>(window, name)->click(); }
+
+inline void SetBar(const QWidget& window, const char* name, int value) {
+  Find<QScrollBar>(window, name)->setValue(value);
+}
+
+inline void SetField(const QWidget& window, const char* name, const QString& text) {
+  Find<QLineEdit>(window, name)->setText(text);
+}
+
+inline std::string LabelText(const QWidget& window, const char* name) {
+  return Find<QLabel>(window, name)->text().toStdString();
+}
+
+inline std::string LineText(const QWidget& window, const char* name) {
+  return Find<QLineEdit>(window, name)->text().toStdString();
+}
+
+// Does something in a dialog that the next call waits for.
+inline void Inside(std::function<void()> act) { QTimer::singleShot(0, qApp, std::move(act)); }
+
+}  // namespace pelmar
