@@ -27,11 +27,6 @@ constexpr std::pair<int, std::string_view> kSizeItems[] = {
 // Left, right, centre.
 constexpr Qt::Alignment kAlignments[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
 
-// "[*]" is a placeholder of the toolkit's; doubled it stands for itself.
-QString PlainTitle(const std::string& title) {
-  return Utf8ToQString(title).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
-}
-
 // The path of the first file of a drop, "" where it holds none.
 std::string DroppedFile(const QMimeData* mime) {
   const QList<QUrl> urls = mime->urls();

@@ -9,6 +9,7 @@
 #include "html/dialogs/link_windows.h"
 #include "html/dialogs/page_windows.h"
 #include "html/dialogs/tag_windows.h"
+#include "html/windows/browser_windows.h"
 #include "platform/qt/convert.h"
 #include "shell/windows/config.h"
 #include "shell/windows/shell_windows.h"
@@ -47,6 +48,7 @@ void Program::AddWindows() {
   AddCipherWindows(parts);
   AddAccessoryWindows(parts);
   AddTagWindows(parts);
+  AddBrowserWindows(parts);
 }
 
 void Program::ShowAccessory(StartMode mode) {
