@@ -41,7 +41,8 @@ class WindowRegistry {
     }
   }
 
-  // Forgets the window, whose next use makes it anew. It is destroyed behind the event at hand, which may be its own.
+  // Forgets the window; its next use makes it anew. It is destroyed when the event at hand is over, because that may be
+  // the window's own close.
   template <class Window>
   void Unload() {
     if (QWidget* window = entries_.at(typeid(Window)).window.release()) window->deleteLater();
