@@ -184,9 +184,9 @@ TEST_F(FileDialogsTest, TheProgramKnowsAllDialogsThatPickFiles) {
   Find<FolderList>(dialog, "Dir1")->SetPath(folder.path());
   Find<QPushButton>(dialog, "Command1")->click();
   QStringList reached;
-  for (const QWidget* window : QApplication::topLevelWidgets())
-    if (const auto* folders = Find<FolderList>(*window, "Dir1"); folders && folders->Path() == folder.path())
-      reached.append(window->objectName());
+  for (const QWidget* widget : QApplication::allWidgets())
+    if (const auto* folders = qobject_cast<const FolderList*>(widget); folders && folders->Path() == folder.path())
+      reached.append(folders->window()->objectName());
   reached.sort();
   EXPECT_EQ(reached.join(u' ').toStdString(), "DirSetup Dos_Unix_conv Frame Obrazek OdkazNaJiný Otevři Ulož Vytvoř");
 }
