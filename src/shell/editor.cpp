@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "ciphers/commands.h"
 #include "html/insert.h"
 #include "html/lists.h"
 #include "texttools/commands.h"
@@ -56,6 +57,7 @@ Editor::Editor(Platform& platform_layer) : platform(platform_layer) {
   AddTagCommands(*this);
   AddTextToolCommands(*this);
   AddListCommands(*this);
+  AddCipherCommands(*this);
 }
 
 void NewDocument(Editor& editor) {

@@ -4,7 +4,9 @@
 #include <QFileInfo>
 
 #include "accessories/windows/accessory_windows.h"
+#include "ciphers/windows/cipher_windows.h"
 #include "files/windows/file_windows.h"
+#include "html/dialogs/link_windows.h"
 #include "html/dialogs/page_windows.h"
 #include "html/dialogs/tag_windows.h"
 #include "platform/qt/convert.h"
@@ -41,6 +43,8 @@ void Program::AddWindows() {
   AddFileWindows(parts);
   AddTextWindows(parts);
   AddPageWindows(parts);
+  AddLinkWindows(parts);
+  AddCipherWindows(parts);
   AddAccessoryWindows(parts);
   AddTagWindows(parts);
 }

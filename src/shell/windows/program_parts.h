@@ -29,6 +29,13 @@ struct ProgramParts {
   // Shows a file in the internal browser; the path is UTF-8, an empty one does nothing. Set by the browser.
   std::function<void(const std::string& path)>& show_in_browser;
 
+  // The same for windows, which may be made before the browser has set it.
+  [[nodiscard]] std::function<void(const std::string& path)> BrowserDoor() const {
+    return [&show = show_in_browser](const std::string& path) {
+      if (show) show(path);
+    };
+  }
+
   // The commands of these names show the window, as far as it isn't on show already.
   template <class Window>
   void ShowBy(std::initializer_list<std::string_view> names) const {
