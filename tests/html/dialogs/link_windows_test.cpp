@@ -235,6 +235,35 @@ TEST_F(DocumentLinkWindow, LinksToAnAddress) {
   EXPECT_EQ(text.Text(), "<A HREF=\"http://žába.cz\">Odkaz na http://žába.cz</A>"_w);
 }
 
+TEST_F(DocumentLinkWindow, KeysAloneWorkIt) {
+  QApplication::setActiveWindow(&link);
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&link));
+  // By way of the window, as the system's keys come, so that access keys work.
+  const auto press = [this](Qt::Key key, Qt::KeyboardModifiers with = {}) {
+    QTest::keyClick(link.windowHandle(), key, with);
+  };
+  const auto access = [this, &press](Qt::Key key, const char* button) {
+    press(key, Qt::AltModifier);  // The button stays down for a moment.
+    EXPECT_TRUE(QTest::qWaitFor([this, button] { return Find<QAbstractButton>(link, button)->isChecked(); })) << button;
+  };
+  access(Qt::Key_A, "Option2");
+  press(Qt::Key_Tab);
+  EXPECT_EQ(link.focusWidget(), Find<QWidget>(link, "Text1"));
+  press(Qt::Key_End);
+  QTest::keyClicks(link.focusWidget(), QStringLiteral("a.cz"));
+  access(Qt::Key_K, "Check1");
+  access(Qt::Key_T, "Check3");
+  press(Qt::Key_Tab);
+  EXPECT_EQ(link.focusWidget(), Find<QWidget>(link, "Combo2"));
+  press(Qt::Key_Down);
+  press(Qt::Key_Down);
+  press(Qt::Key_Return);
+  EXPECT_EQ(text.Text(), "before,<A HREF=\"http://a.cz#Kotva1\" TARGET=\"_self\"> after</A>");
+  link.Present();
+  press(Qt::Key_Escape);
+  EXPECT_FALSE(link.isVisible());
+}
+
 struct SamplesWindow : LinkWindows {
   SettingsRecord settings;
   Template window{text, settings, nullptr};
@@ -277,6 +306,16 @@ TEST_F(SamplesWindow, TakesTheDocumentOverAndUndoBringsTheOldOneBack) {
   EXPECT_EQ(text.Text(), "before, after");
   window.Present();
   EXPECT_EQ(Preview(), SampleText("BAT2", settings));
+}
+
+TEST_F(SamplesWindow, KeysChooseFromTheFirstRowOn) {
+  QApplication::setActiveWindow(&window);
+  list->setFocus();
+  EXPECT_EQ(Preview(), "Vyber dokument\r\n");
+  QTest::keyClick(list, Qt::Key_Down);
+  EXPECT_EQ(Preview(), SampleText("HTML1", settings));
+  QTest::keyClick(list, Qt::Key_Down);
+  EXPECT_EQ(Preview(), SampleText("HTML2", settings));
 }
 
 TEST_F(SamplesWindow, WithoutAChoiceItsOwnWordsGoOver) {
