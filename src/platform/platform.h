@@ -68,7 +68,7 @@ struct PrintOutcome {
   std::string pdf;  // the path of the file that stands for the paper where there is no printer
 };
 
-// What the line-end conversion does with each piece of a file: appends to `out` what the piece becomes.
+// What becomes of the bytes of a file on their way into another. A result is valid until the next call.
 class FileRewriter {
  public:
   FileRewriter() = default;
@@ -76,9 +76,11 @@ class FileRewriter {
   FileRewriter& operator=(const FileRewriter&) = delete;
   virtual ~FileRewriter() = default;
 
-  virtual void Rewrite(std::string_view piece, std::string& out) = 0;
-  // Behind the last piece. Returns how many of all the bytes that were put out are to stay.
-  virtual std::uint64_t Finish(std::string& out) = 0;
+  virtual std::string_view Rewrite(std::string_view piece) = 0;
+  // What comes behind the last piece.
+  virtual std::string_view Finish() = 0;
+  // After Finish: how many of all the bytes that were given back are to stay, from the first on.
+  [[nodiscard]] virtual std::uint64_t Kept() const = 0;
 };
 
 // What happens to a longer old file behind the new content.

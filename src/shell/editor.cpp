@@ -2,7 +2,9 @@
 
 #include <string>
 
+#include "ciphers/commands.h"
 #include "html/insert.h"
+#include "html/lists.h"
 #include "texttools/commands.h"
 
 namespace pelmar {
@@ -54,6 +56,8 @@ Editor::Editor(Platform& platform_layer) : platform(platform_layer) {
   AddToolbarClipboard(*this);
   AddTagCommands(*this);
   AddTextToolCommands(*this);
+  AddListCommands(*this);
+  AddCipherCommands(*this);
 }
 
 void NewDocument(Editor& editor) {

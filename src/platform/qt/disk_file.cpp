@@ -204,17 +204,11 @@ int ForEachPiece(int file, const std::function<int(std::string_view)>& take) {
 
 // Writes from where `to` stands. `kept` becomes how many of the bytes that were written are to stay.
 int RewriteInto(int to, int from, FileRewriter& rewriter, std::uint64_t& kept) {
-  std::string out;
-  out.reserve(2 * kPiece);
-  const int error = ForEachPiece(from, [&](std::string_view piece) {
-    out.clear();
-    rewriter.Rewrite(piece, out);
-    return WriteAll(to, out);
-  });
+  const int error = ForEachPiece(from, [&](std::string_view piece) { return WriteAll(to, rewriter.Rewrite(piece)); });
   if (error != 0) return error;
-  out.clear();
-  kept = rewriter.Finish(out);
-  return WriteAll(to, out);
+  const int last_error = WriteAll(to, rewriter.Finish());
+  kept = rewriter.Kept();
+  return last_error;
 }
 
 // Everything of `old` behind that many bytes goes to the same place of `to`, whose own bytes there are cut.

@@ -64,6 +64,7 @@ void MainWindow::MakeControls() {
   text_->setAccessibleName(QStringLiteral("Text dokumentu"));
   text_->UseBuffer(editor_.text);
   text_->setStandardShortcuts(false);
+  text_->SetCaretStays(true);
   bar_ = new StatusStrip(client_);
   bar_->raise();
   connect(tabs_, &QTabBar::currentChanged, this, [this](int index) { editor_.documents.SwitchTo(index + 1); });
@@ -318,7 +319,8 @@ void MainWindow::ShowAccessory(StartMode mode) {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-  if (may_close && !may_close()) return event->ignore();
+  // The lock is no way out either, whoever asks.
+  if (text_->isHidden() || (may_close && !may_close())) return event->ignore();
   event->accept();
 }
 

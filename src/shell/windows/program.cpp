@@ -4,9 +4,11 @@
 #include <QFileInfo>
 
 #include "accessories/windows/accessory_windows.h"
+#include "ciphers/windows/cipher_windows.h"
 #include "files/windows/file_windows.h"
 #include "html/dialogs/link_windows.h"
 #include "html/dialogs/page_windows.h"
+#include "html/dialogs/tag_windows.h"
 #include "platform/qt/convert.h"
 #include "shell/windows/config.h"
 #include "shell/windows/shell_windows.h"
@@ -42,7 +44,9 @@ void Program::AddWindows() {
   AddTextWindows(parts);
   AddPageWindows(parts);
   AddLinkWindows(parts);
+  AddCipherWindows(parts);
   AddAccessoryWindows(parts);
+  AddTagWindows(parts);
 }
 
 void Program::ShowAccessory(StartMode mode) {

@@ -63,6 +63,7 @@ void Visual::showEvent(QShowEvent* event) {
 
 void Visual::Load() {
   const EditorLook look = view_.Look();
+  ui_->Label1->SetText(ToBytes(kPreview));
   ui_->Label1->setTextColor(ColorToQt(look.fore_color));
   ui_->Label1->setBackgroundColor(ColorToQt(look.back_color));
   ui_->Check2->setChecked(look.bold);

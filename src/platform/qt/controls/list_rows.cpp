@@ -23,12 +23,12 @@ class OneLineDelegate : public QStyledItemDelegate {
 }  // namespace
 
 void OnRowPicked(QListWidget& list, const std::function<void(int row)>& picked) {
-  const auto tell = [&list, picked] {
+  QObject::connect(&list, &QListWidget::itemSelectionChanged, &list, [&list, picked] {
     const QList<QListWidgetItem*> rows = list.selectedItems();
     if (!rows.isEmpty()) picked(list.row(rows.first()));
-  };
-  QObject::connect(&list, &QListWidget::itemSelectionChanged, &list, tell);
-  QObject::connect(&list, &QListWidget::itemClicked, &list, tell);
+  });
+  QObject::connect(&list, &QListWidget::itemClicked, &list,
+                   [&list, picked](const QListWidgetItem* item) { picked(list.row(item)); });
 }
 
 void ShowRowsOnOneLine(QListWidget& list) { list.setItemDelegate(new OneLineDelegate(&list)); }
