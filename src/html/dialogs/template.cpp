@@ -3,6 +3,7 @@
 #include <QHeaderView>
 
 #include "html/samples/templaty.h"
+#include "platform/qt/controls/first_choice.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/svg_icon.h"
 #include "text/codepage.h"
@@ -15,6 +16,7 @@ Template::Template(TextBuffer& document, const SettingsRecord& settings, QWidget
   ui_->setupUi(this);
   FillList();
   ui_->Text1->SetText(ToBytes("Vyber dokument\r\n"));
+  ChooseFirstByArrows(ui_->ListView1);
   connect(ui_->ListView1, &QTreeWidget::itemSelectionChanged, this, &Template::ListView1_Click);
   connect(ui_->ListView1, &QTreeWidget::itemClicked, this, &Template::ListView1_Click);
   connect(ui_->Command1, &QPushButton::clicked, this, &Template::Command1_Click);

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
@@ -14,11 +15,12 @@
 #include "html/dialogs/odkaz_na_jiny.h"
 #include "html/dialogs/template.h"
 #include "html/samples/templaty.h"
-#include "platform/qt/controls/file_list.h"
-#include "platform/qt/controls/folder_list.h"
 #include "platform/qt/controls/text_box.h"
 #include "platform/qt/convert.h"
+#include "shell/windows/program.h"
+#include "support/chosen_file.h"
 #include "support/controls.h"
+#include "support/scripted_platform.h"
 #include "support/temp_folder.h"
 #include "text/codepage.h"
 
@@ -41,14 +43,7 @@ struct LinkWindows : testing::Test {
   std::function<void(const std::string&)> Show() {
     return [this](const std::string& path) { shown.push_back(path); };
   }
-  void Choose(const QWidget& window, const char* name) {
-    Find<FolderList>(window, "Dir1")->SetPath(Utf8ToQString(temp.Path()));
-    auto* files = Find<FileList>(window, "File1");
-    const QModelIndexList found =
-        files->model()->match(files->model()->index(0, 0), Qt::DisplayRole, QString::fromUtf8(name));
-    ASSERT_EQ(found.size(), 1) << name;
-    files->setCurrentIndex(found.first());
-  }
+  void Choose(const QWidget& window, const char* name) { ChooseFile(window, temp.Path(), name); }
 };
 
 struct ImageWindow : LinkWindows {
@@ -240,6 +235,35 @@ TEST_F(DocumentLinkWindow, LinksToAnAddress) {
   EXPECT_EQ(text.Text(), "<A HREF=\"http://žába.cz\">Odkaz na http://žába.cz</A>"_w);
 }
 
+TEST_F(DocumentLinkWindow, KeysAloneWorkIt) {
+  QApplication::setActiveWindow(&link);
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&link));
+  // By way of the window, as the system's keys come, so that access keys work.
+  const auto press = [this](Qt::Key key, Qt::KeyboardModifiers with = {}) {
+    QTest::keyClick(link.windowHandle(), key, with);
+  };
+  const auto access = [this, &press](Qt::Key key, const char* button) {
+    press(key, Qt::AltModifier);  // The button stays down for a moment.
+    EXPECT_TRUE(QTest::qWaitFor([this, button] { return Find<QAbstractButton>(link, button)->isChecked(); })) << button;
+  };
+  access(Qt::Key_A, "Option2");
+  press(Qt::Key_Tab);
+  EXPECT_EQ(link.focusWidget(), Find<QWidget>(link, "Text1"));
+  press(Qt::Key_End);
+  QTest::keyClicks(link.focusWidget(), QStringLiteral("a.cz"));
+  access(Qt::Key_K, "Check1");
+  access(Qt::Key_T, "Check3");
+  press(Qt::Key_Tab);
+  EXPECT_EQ(link.focusWidget(), Find<QWidget>(link, "Combo2"));
+  press(Qt::Key_Down);
+  press(Qt::Key_Down);
+  press(Qt::Key_Return);
+  EXPECT_EQ(text.Text(), "before,<A HREF=\"http://a.cz#Kotva1\" TARGET=\"_self\"> after</A>");
+  link.Present();
+  press(Qt::Key_Escape);
+  EXPECT_FALSE(link.isVisible());
+}
+
 struct SamplesWindow : LinkWindows {
   SettingsRecord settings;
   Template window{text, settings, nullptr};
@@ -284,11 +308,41 @@ TEST_F(SamplesWindow, TakesTheDocumentOverAndUndoBringsTheOldOneBack) {
   EXPECT_EQ(Preview(), SampleText("BAT2", settings));
 }
 
+TEST_F(SamplesWindow, KeysChooseFromTheFirstRowOn) {
+  QApplication::setActiveWindow(&window);
+  list->setFocus();
+  EXPECT_EQ(Preview(), "Vyber dokument\r\n");
+  QTest::keyClick(list, Qt::Key_Down);
+  EXPECT_EQ(Preview(), SampleText("HTML1", settings));
+  QTest::keyClick(list, Qt::Key_Down);
+  EXPECT_EQ(Preview(), SampleText("HTML2", settings));
+}
+
 TEST_F(SamplesWindow, WithoutAChoiceItsOwnWordsGoOver) {
   QApplication::setActiveWindow(&window);
   list->setFocus();
   QTest::keyClick(list, Qt::Key_Return);
   EXPECT_EQ(text.Text(), "Vyber dokument\r\n");
+}
+
+TEST(LinkCommands, ShowTheirWindows) {
+  ScriptedPlatform platform;
+  Program program(platform);
+  const std::vector<std::pair<const char*, const char*>> commands = {
+      {"mnuobr", "Obrazek"},   {"Image", "Obrazek"},       {"mnukotva", "Kotva"},
+      {"mnuodkaz", "Odkaz"},   {"mnumailto", "MailTo"},    {"mnuodkazjiny", "OdkazNaJiný"},
+      {"Link", "OdkazNaJiný"}, {"mnutemplate", "Template"}};
+  for (const auto& [command, name] : commands) {
+    auto* action = program.Main().findChild<QAction*>(QLatin1String(command));
+    ASSERT_TRUE(action != nullptr && action->isEnabled()) << command;
+    action->trigger();
+    QWidget* found = nullptr;
+    for (QWidget* window : QApplication::topLevelWidgets())
+      if (window->isVisible() && window->objectName() == QString::fromUtf8(name)) found = window;
+    ASSERT_NE(found, nullptr) << command;
+    EXPECT_FALSE(found->isModal());
+    found->hide();
+  }
 }
 
 }  // namespace
