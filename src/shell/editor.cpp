@@ -2,7 +2,10 @@
 
 #include <string>
 
+#include "ciphers/commands.h"
 #include "html/insert.h"
+#include "html/lists.h"
+#include "html/test_page.h"
 #include "texttools/commands.h"
 
 namespace pelmar {
@@ -54,6 +57,9 @@ Editor::Editor(Platform& platform_layer) : platform(platform_layer) {
   AddToolbarClipboard(*this);
   AddTagCommands(*this);
   AddTextToolCommands(*this);
+  AddListCommands(*this);
+  AddCipherCommands(*this);
+  AddPageTestCommands(*this);
 }
 
 void NewDocument(Editor& editor) {

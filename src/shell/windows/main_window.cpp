@@ -27,11 +27,6 @@ constexpr std::pair<int, std::string_view> kSizeItems[] = {
 // Left, right, centre.
 constexpr Qt::Alignment kAlignments[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
 
-// "[*]" is a placeholder of the toolkit's; doubled it stands for itself.
-QString PlainTitle(const std::string& title) {
-  return Utf8ToQString(title).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
-}
-
 // The path of the first file of a drop, "" where it holds none.
 std::string DroppedFile(const QMimeData* mime) {
   const QList<QUrl> urls = mime->urls();
@@ -64,6 +59,7 @@ void MainWindow::MakeControls() {
   text_->setAccessibleName(QStringLiteral("Text dokumentu"));
   text_->UseBuffer(editor_.text);
   text_->setStandardShortcuts(false);
+  text_->SetCaretStays(true);
   bar_ = new StatusStrip(client_);
   bar_->raise();
   connect(tabs_, &QTabBar::currentChanged, this, [this](int index) { editor_.documents.SwitchTo(index + 1); });
@@ -304,7 +300,8 @@ void MainWindow::ShowAccessory(StartMode mode) {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-  if (may_close && !may_close()) return event->ignore();
+  // The lock is no way out either, whoever asks.
+  if (text_->isHidden() || (may_close && !may_close())) return event->ignore();
   event->accept();
 }
 

@@ -4,8 +4,12 @@
 #include <QFileInfo>
 
 #include "accessories/windows/accessory_windows.h"
+#include "ciphers/windows/cipher_windows.h"
 #include "files/windows/file_windows.h"
+#include "html/dialogs/link_windows.h"
 #include "html/dialogs/page_windows.h"
+#include "html/dialogs/tag_windows.h"
+#include "html/windows/browser_windows.h"
 #include "platform/qt/convert.h"
 #include "shell/windows/config.h"
 #include "shell/windows/shell_windows.h"
@@ -40,7 +44,11 @@ void Program::AddWindows() {
   AddFileWindows(parts);
   AddTextWindows(parts);
   AddPageWindows(parts);
+  AddLinkWindows(parts);
+  AddCipherWindows(parts);
   AddAccessoryWindows(parts);
+  AddTagWindows(parts);
+  AddBrowserWindows(parts);
 }
 
 void Program::ShowAccessory(StartMode mode) {

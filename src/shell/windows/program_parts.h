@@ -36,6 +36,13 @@ struct ProgramParts {
   std::function<void(const std::string& path)>& show_in_browser;
   Keepers& keepers;
 
+  // The same for windows, which may be made before the browser has set it.
+  [[nodiscard]] std::function<void(const std::string& path)> BrowserDoor() const {
+    return [&show = show_in_browser](const std::string& path) {
+      if (show) show(path);
+    };
+  }
+
   // The commands of these names show the window, as far as it isn't on show already.
   template <class Window>
   void ShowBy(std::initializer_list<std::string_view> names) const {

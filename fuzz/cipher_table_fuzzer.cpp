@@ -1,0 +1,44 @@
+// Any bytes as a cipher table: the reader may neither fall nor take more memory than the file has, what it read must be
+// writable and readable again, and everything that the window does with a table must end.
+#include <cstdint>
+#include <cstdlib>
+
+#include "ciphers/rnd_cipher.h"
+#include "ciphers/table_file.h"
+
+namespace {
+
+void Require(bool holds) {
+  if (!holds) std::abort();
+}
+
+std::size_t SizeOf(const pelmar::CipherTable& table) {
+  std::size_t size = table.OneLetters.size() + table.ZeroLetters.size() + table.Note.size();
+  for (const std::string& code : table.SymbolCodes) size += code.size();
+  return size;
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  using namespace pelmar;
+  const std::string_view bytes(reinterpret_cast<const char*>(data), size);
+  const CipherTable table = ReadTable(bytes);
+  Require(SizeOf(table) <= size);
+
+  const std::string written = TableBytes(table);
+  const CipherTable again = ReadTable(written);
+  Require(again.SymbolCodes == table.SymbolCodes && again.Depth == table.Depth && again.Note == table.Note);
+  Require(TableBytes(again) == written);
+
+  CodeRows(table);
+  LetterRows(table);
+  CoefficientsText(table, CountedDigits::kAll);
+  CoefficientsText(table, CountedDigits::kFirstEight);
+  constexpr std::string_view kText = ".AHOJ SVETE\r\nZ.";
+  const std::string cipher = RndEncipher(kText, table, [] { return 0.999; }, {});
+  Require(cipher.size() <= kText.size() * table.Depth);
+  Require(RndDecipher(cipher, table, {}).size() <= kText.size());
+  RndDecipher(bytes, table, {});
+  return 0;
+}

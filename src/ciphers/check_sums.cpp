@@ -1,0 +1,42 @@
+#include "ciphers/check_sums.h"
+
+#include <cstdio>
+
+#include "shell/common.h"
+#include "text/codepage.h"
+
+namespace pelmar {
+namespace {
+
+std::string Line(std::string_view name, std::int64_t sum) {
+  char digits[48];
+  std::snprintf(digits, sizeof digits, "%llX (%lld)", static_cast<unsigned long long>(sum),
+                static_cast<long long>(sum));
+  return std::string(name) + " součet je #" + digits;
+}
+
+}  // namespace
+
+CheckSums SumsOf(std::string_view text) {
+  CheckSums sums;
+  for (const char ch : text) sums.crc += CodeOf(ch);
+  for (std::size_t i = 0; i + 1 < text.size(); i += 2) {
+    sums.contra_crc += CodeOf(text[i + 1]) ^ CodeOf(text[i]);
+    sums.and_crc += CodeOf(text[i + 1]) & CodeOf(text[i]);
+  }
+  for (std::size_t i = 0; i + 3 < text.size(); i += 4)
+    sums.short_crc += (CodeOf(text[i + 3]) & CodeOf(text[i + 2])) ^ (CodeOf(text[i + 1]) & CodeOf(text[i]));
+  return sums;
+}
+
+std::string SumsMessage(const CheckSums& sums) {
+  return Line("CRC", sums.crc)
+      .append(kCrLf)
+      .append(Line("ContraCRC", sums.contra_crc))
+      .append(kCrLf)
+      .append(Line("&CRC", sums.and_crc))
+      .append(kCrLf)
+      .append(Line("ShortCRC", sums.short_crc));
+}
+
+}  // namespace pelmar

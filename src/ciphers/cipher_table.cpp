@@ -1,0 +1,75 @@
+#include "ciphers/cipher_table.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string_view>
+
+#include "ciphers/shift.h"
+#include "shell/common.h"
+#include "text/codepage.h"
+#include "text/number_text.h"
+
+namespace pelmar {
+namespace {
+
+// The integer part of two draws added.
+bool DrawDigit(const Draw& draw) {
+  const double first = draw();
+  return first + draw() >= 1;
+}
+
+// 1 for two parts of one size.
+double Imbalance(std::size_t part, std::size_t other) {
+  return std::abs(static_cast<double>(part) / static_cast<double>(other) - 1) + 1;
+}
+
+}  // namespace
+
+void GenerateCodes(CipherTable& table, int depth, const Draw& draw) {
+  table.Depth = static_cast<std::uint8_t>(depth);
+  for (std::string& code : table.SymbolCodes) {
+    code.clear();
+    for (int digit = 0; digit < depth; ++digit) code += DrawDigit(draw) ? '1' : '0';
+  }
+}
+
+void GenerateLetterSplit(CipherTable& table, const Draw& draw) {
+  table.OneLetters.clear();
+  table.ZeroLetters.clear();
+  for (char letter = 'A'; letter <= 'Z'; ++letter) (DrawDigit(draw) ? table.OneLetters : table.ZeroLetters) += letter;
+}
+
+std::vector<std::string> CodeRows(const CipherTable& table) {
+  const auto& codes = table.SymbolCodes;
+  std::vector<std::string> rows{"Hloubka: " + std::to_string(table.Depth)};
+  for (std::size_t i = 0; i < kLetters; ++i) rows.push_back(CharOf('A' + static_cast<int>(i)) + ("       " + codes[i]));
+  rows.push_back(std::string(kQuote).append(" ").append(kQuote).append("     ") + codes[26]);
+  rows.push_back("Chr(13) " + codes[27]);
+  rows.push_back("Chr(10) " + codes[28]);
+  return rows;
+}
+
+std::vector<std::string> LetterRows(const CipherTable& table) {
+  std::vector<std::string> rows;
+  for (const char letter : table.ZeroLetters) rows.push_back(std::string("0 : ") + letter);
+  rows.emplace_back("-----");
+  for (const char letter : table.OneLetters) rows.push_back(std::string("1 : ") + letter);
+  return rows;
+}
+
+std::optional<std::string> CoefficientsText(const CipherTable& table, CountedDigits counted) {
+  constexpr std::size_t kFirst = 8;
+  std::size_t ones = 0;
+  std::size_t zeros = 0;
+  for (const std::string_view code : table.SymbolCodes) {
+    const std::string_view digits = code.substr(0, counted == CountedDigits::kAll ? table.Depth : kFirst);
+    ones += static_cast<std::size_t>(std::ranges::count(digits, '1'));
+    zeros += static_cast<std::size_t>(std::ranges::count(digits, '0'));
+  }
+  if (table.ZeroLetters.empty() || zeros == 0) return std::nullopt;
+  const double a = Imbalance(table.OneLetters.size(), table.ZeroLetters.size());
+  const double b = Imbalance(ones, zeros);
+  return "Koeficient A:" + FixedText(a, 5) + " Koeficient B:" + FixedText(b, 5) + " Celkem:" + FixedText(a * b, 9);
+}
+
+}  // namespace pelmar

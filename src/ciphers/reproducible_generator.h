@@ -1,0 +1,38 @@
+// The one random source whose exact sequence matters: text that was enciphered on any machine at any time can only be
+// read with the same numbers. Nothing in here may change, not even for the better.
+#pragma once
+
+#include <bit>
+#include <cstdint>
+
+namespace pelmar {
+
+class ReproducibleGenerator {
+ public:
+  // required: of the key only the high half of the double counts, folded to 16 bits. Keys that differ below that give
+  // the same numbers.
+  void Reseed(double key) {
+    constexpr std::uint32_t kReset = 0x8000BF;
+    state_ = kReset;
+    Step();
+    const auto high = static_cast<std::uint32_t>(std::bit_cast<std::uint64_t>(key) >> 32);
+    const std::uint32_t folded = (high ^ high >> 16) & 0xFFFF;
+    state_ = (state_ & 0xFF) | folded << 8;
+  }
+
+  // 0 <= r < 1. Reseed comes before the first draw.
+  float Draw() { return static_cast<float>(Step()) / static_cast<float>(kModulus); }
+
+  // The integer part of r * range + 1 for the next draw r, exactly: 1 to range. The range is at most 256.
+  std::uint32_t DrawUpTo(std::uint32_t range) { return (Step() * range >> kBits) + 1; }
+
+ private:
+  static constexpr int kBits = 24;
+  static constexpr std::uint32_t kModulus = std::uint32_t{1} << kBits;
+
+  std::uint32_t Step() { return state_ = (state_ * 1140671485u + 12820163u) % kModulus; }
+
+  std::uint32_t state_ = 0;
+};
+
+}  // namespace pelmar

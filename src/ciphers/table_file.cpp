@@ -1,0 +1,97 @@
+#include "ciphers/table_file.h"
+
+#include <cerrno>
+#include <utility>
+
+#include "shell/record_bytes.h"
+
+namespace pelmar {
+namespace {
+
+constexpr int kFilterIndex = 0;
+constexpr std::uint64_t kLargestTable = (kSymbols + 3) * (2 + kLongestField) + 1;
+
+// File number 1 for as long as this lives.
+class OpenNumber {
+ public:
+  explicit OpenNumber(FileNumber& number) : number_(number) { number_.Open(); }
+  OpenNumber(const OpenNumber&) = delete;
+  OpenNumber& operator=(const OpenNumber&) = delete;
+  ~OpenNumber() { number_.Close(); }
+
+ private:
+  FileNumber& number_;
+};
+
+void Check(int error, const std::string& path) {
+  if (error != 0) throw RuntimeError(error, "Soubor " + path + " nelze otevřít");
+}
+
+}  // namespace
+
+CipherTable ReadTable(std::string_view bytes) {
+  RecordReader reader(bytes);
+  const auto text = [&reader] { return std::string(reader.Bytes(reader.Number(2))); };
+  CipherTable table;
+  for (std::string& code : table.SymbolCodes) code = text();
+  table.Depth = static_cast<std::uint8_t>(reader.Number(1));
+  table.OneLetters = text();
+  table.ZeroLetters = text();
+  table.Note = text();
+  return table;
+}
+
+std::string TableBytes(const CipherTable& table) {
+  RecordWriter writer;
+  const auto write = [&writer](std::string_view text) {
+    text = text.substr(0, kLongestField);
+    writer.Number(text.size(), 2);
+    writer.Bytes(text);
+  };
+  for (const std::string& code : table.SymbolCodes) write(code);
+  writer.Number(table.Depth, 1);
+  write(table.OneLetters);
+  write(table.ZeroLetters);
+  write(table.Note);
+  return std::move(writer).Take();
+}
+
+TableFiles::TableFiles(Platform& platform, Opener& opener, FileNumber& file_number)
+    : platform_(platform), opener_(opener), file_number_(file_number) {}
+
+void TableFiles::Load(CipherTable& table) {
+  path_ = platform_.OpenDialog(kTableFilter, kFilterIndex).value_or(path_);
+  if (path_.empty()) Check(ENOENT, path_);
+  const OpenNumber number(file_number_);
+  table = ReadTable(ReadOrMake());
+}
+
+std::string TableFiles::ReadOrMake() const {
+  FileBytes file = platform_.ReadFile(path_, kLargestTable);
+  if (file.error == ENOENT) {
+    Check(platform_.WriteFile(path_, {}), path_);
+    return {};
+  }
+  Check(file.error, path_);
+  return std::move(file.bytes);
+}
+
+bool TableFiles::MayWrite() {
+  return !opener_.FileExists(path_) ||
+         platform_.Message(MessageType::kYesNoWarning, "Opravdu uložit Tabulku ? - Soubor již existuje!",
+                           "RND Soubor") == Answer::kYes;
+}
+
+void TableFiles::Save(const CipherTable& table) {
+  path_ = platform_.SaveDialog(kTableFilter, kFilterIndex).value_or(path_);
+  if (path_.empty() || !MayWrite()) return;
+  try {
+    const OpenNumber number(file_number_);
+    const FileBytes old = platform_.ReadFile(path_, std::nullopt);
+    if (old.error != 0 && old.error != ENOENT) return;
+    platform_.WriteFile(path_, OverOldTail(TableBytes(table), old.bytes));
+  } catch (const RuntimeError&) {  // required: the command ends in silence
+  }
+}
+
+}  // namespace pelmar

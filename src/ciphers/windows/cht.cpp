@@ -1,0 +1,20 @@
+#include "ciphers/windows/cht.h"
+
+#include "ciphers/cht.h"
+#include "ui_cht.h"
+
+namespace pelmar {
+
+CHT::CHT(TextBuffer& document, Platform& platform, QWidget* parent)
+    : DialogWindow(parent), ui_(std::make_unique<Ui::CHT>()) {
+  ui_->setupUi(this);
+  ui_->Text1->setWordWrap(false);
+  ui_->Text1->Buffer().SetText(LookAlikeReminder());
+  connect(ui_->Command1, &QPushButton::clicked, this,
+          [&document, draw = DrawFrom(platform)] { document.SetText(HackerTranscription(document.Text(), draw)); });
+  connect(ui_->Command2, &QPushButton::clicked, this, &CHT::hide);
+}
+
+CHT::~CHT() = default;
+
+}  // namespace pelmar

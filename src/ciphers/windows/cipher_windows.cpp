@@ -1,0 +1,42 @@
+#include "ciphers/windows/cipher_windows.h"
+
+#include "ciphers/windows/cht.h"
+#include "ciphers/windows/confeld.h"
+#include "ciphers/windows/rnd_sifra.h"
+#include "ciphers/windows/shift.h"
+#include "ciphers/windows/shift_kod.h"
+#include "ciphers/windows/za_kod.h"
+#include "shell/windows/program_parts.h"
+
+namespace pelmar {
+namespace {
+
+void RotateSelection(const ProgramParts& parts) {
+  if (!parts.editor.text.HasSelection()) return void(parts.platform.Message(MessageType::kOk, "Vyber text!", "Posun"));
+  parts.windows.Unload<Shift>();  // each opening begins anew
+  parts.windows.Get<Shift>().exec();
+}
+
+}  // namespace
+
+void AddCipherWindows(const ProgramParts& parts) {
+  TextBuffer& text = parts.editor.text;
+  WindowRegistry& windows = parts.windows;
+  windows.Register<ZaKod>([parts, &text] {
+    const auto selected_tab = [&documents = parts.editor.documents] { return documents.SelectedTab(); };
+    return std::make_unique<ZaKod>(text, parts.platform, selected_tab, &parts.main);
+  });
+  windows.Register<ShiftKod>([parts, &text] { return std::make_unique<ShiftKod>(text, parts.platform, &parts.main); });
+  windows.Register<Shift>([parts, &text] { return std::make_unique<Shift>(text, &parts.main); });
+  windows.Register<Confeld>([parts, &text] { return std::make_unique<Confeld>(text, parts.platform, &parts.main); });
+  windows.Register<RND_Sifra>([parts] { return std::make_unique<RND_Sifra>(parts.editor, &parts.main); });
+  windows.Register<CHT>([parts, &text] { return std::make_unique<CHT>(text, parts.platform, &parts.main); });
+  parts.ShowBy<ZaKod>({"mnucode"});
+  parts.ShowBy<ShiftKod>({"mnu_encrypt_shift"});
+  parts.ShowBy<Confeld>({"Mnu_Encrypt_Confeld"});
+  parts.ShowBy<RND_Sifra>({"mnu_rnd_encrypt"});
+  parts.ShowBy<CHT>({"Mnu_Hack_cry"});
+  parts.editor.commands.Add("MnuSelTextPosun", [parts] { RotateSelection(parts); });
+}
+
+}  // namespace pelmar

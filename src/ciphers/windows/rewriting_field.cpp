@@ -1,0 +1,31 @@
+#include "ciphers/windows/rewriting_field.h"
+
+#include <QLineEdit>
+#include <algorithm>
+
+#include "platform/qt/convert.h"
+
+namespace pelmar {
+namespace {
+
+int CaretIn(const QString& shown, const QString& typed, int caret) {
+  const auto length = static_cast<int>(shown.size());
+  if (shown == QLatin1String("0")) return length;
+  // What went away stood before the number (a 0, a blank), or else behind it.
+  const int fallen = typed.endsWith(shown) ? static_cast<int>(typed.size()) - length : 0;
+  return std::clamp(caret - fallen, 0, length);
+}
+
+}  // namespace
+
+void RewriteOnChange(QLineEdit* field, std::function<std::string(std::string_view)> rewrite) {
+  QObject::connect(field, &QLineEdit::textChanged, field, [field, rewrite = std::move(rewrite)](const QString& typed) {
+    const QString shown = TextToQString(rewrite(TextFromQString(typed)));
+    if (shown == typed) return;
+    const int caret = CaretIn(shown, typed, field->cursorPosition());
+    field->setText(shown);
+    field->setCursorPosition(caret);
+  });
+}
+
+}  // namespace pelmar

@@ -1,0 +1,126 @@
+#include "ciphers/windows/rnd_sifra.h"
+
+#include <QListWidget>
+
+#include "platform/qt/convert.h"
+#include "shell/editor.h"
+#include "texttools/windows/field_helpers.h"
+#include "ui_rnd_sifra.h"
+
+namespace pelmar {
+namespace {
+
+void ShowOnly(QListWidget& list, const std::vector<std::string>& rows) {
+  list.clear();
+  ShowRows(list, rows);
+}
+
+}  // namespace
+
+RND_Sifra::RND_Sifra(Editor& editor, QWidget* parent)
+    : DialogWindow(parent),
+      document_(editor.text),
+      platform_(editor.platform),
+      files_(editor.platform, editor.opener, editor.file_number),
+      ui_(std::make_unique<Ui::RND_Sifra>()) {
+  ui_->setupUi(this);
+  connect(ui_->Command1, &QPushButton::clicked, this,
+          [this] { ui_->Text1->Buffer().SetText(PrepareText(document_.Text())); });
+  connect(ui_->Command2, &QPushButton::clicked, this, &RND_Sifra::Command2_Click);
+  connect(ui_->Command3, &QPushButton::clicked, this, &RND_Sifra::Command3_Click);
+  connect(ui_->Command4, &QPushButton::clicked, this, [this] { files_.Save(table_); });
+  connect(ui_->Command5, &QPushButton::clicked, this, &RND_Sifra::Command5_Click);
+  connect(ui_->Command6, &QPushButton::clicked, this, &RND_Sifra::Command6_Click);
+  connect(ui_->Command7, &QPushButton::clicked, this, &RND_Sifra::hide);
+  connect(ui_->Command8, &QPushButton::clicked, this, &RND_Sifra::Command8_Click);
+  connect(ui_->Command9, &QPushButton::clicked, this, &RND_Sifra::Command9_Click);
+  connect(ui_->HScroll1, &QScrollBar::valueChanged, ui_->Label9, qOverload<int>(&QLabel::setNum));
+  connect(ui_->Text2, &TextBox::TextChanged, this, &RND_Sifra::Text2_Change);
+}
+
+RND_Sifra::~RND_Sifra() = default;
+
+void RND_Sifra::Command2_Click() {
+  platform_.ReseedRandom();
+  GenerateNewCodes();
+  GenerateNewLetterSplit();
+  ui_->Text2->Buffer().SetText({});
+  if (ShowCoefficients(CountedDigits::kAll)) EnableTableButtons();
+}
+
+void RND_Sifra::Command3_Click() {
+  bool loaded = false;
+  try {
+    files_.Load(table_);
+    ShowCodes();
+    ShowLetters();
+    ui_->Text2->Buffer().SetText(table_.Note);
+    loaded = ShowCoefficients(CountedDigits::kFirstEight);
+  } catch (const RuntimeError&) {  // told below, like a table that can't be one
+  }
+  if (!loaded) return void(platform_.Message(MessageType::kOk, "Nepodařilo se otevřít ...", "Open RND"));
+  EnableTableButtons();
+}
+
+void RND_Sifra::Command5_Click() {
+  platform_.ReseedRandom();
+  const std::string& text = ui_->Text1->Buffer().Text();
+  document_.SetText(RndEncipher(text, table_, DrawFrom(platform_), StartProgress()));
+}
+
+void RND_Sifra::Command6_Click() {
+  if (table_.Depth == 0) return;  // no table but what an empty file left: it would cost the document
+  document_.SetText(RndDecipher(ui_->Text1->Buffer().Text(), table_, StartProgress()));
+}
+
+void RND_Sifra::Command8_Click() {
+  platform_.ReseedRandom();
+  GenerateNewCodes();
+  ShowCoefficients(CountedDigits::kFirstEight);
+}
+
+void RND_Sifra::Command9_Click() {
+  platform_.ReseedRandom();
+  GenerateNewLetterSplit();
+  ShowCoefficients(CountedDigits::kFirstEight);
+}
+
+void RND_Sifra::Text2_Change() {
+  TextBuffer& note = ui_->Text2->Buffer();
+  // No more than the file takes; this comes here again.
+  if (note.Size() > kLongestField) return note.Replace(kLongestField, note.Size() - kLongestField, {});
+  table_.Note = note.Text();
+}
+
+void RND_Sifra::GenerateNewCodes() {
+  GenerateCodes(table_, ui_->HScroll1->value(), DrawFrom(platform_));
+  ShowCodes();
+}
+
+void RND_Sifra::GenerateNewLetterSplit() {
+  GenerateLetterSplit(table_, DrawFrom(platform_));
+  ShowLetters();
+}
+
+void RND_Sifra::ShowCodes() { ShowOnly(*ui_->List1, CodeRows(table_)); }
+
+void RND_Sifra::ShowLetters() { ShowOnly(*ui_->List2, LetterRows(table_)); }
+
+bool RND_Sifra::ShowCoefficients(CountedDigits counted) {
+  const auto text = CoefficientsText(table_, counted);
+  ui_->Label6->setText(text ? Utf8ToQString(*text) : tr("Koeficienty nelze spočítat (dělení nulou)"));
+  return text.has_value();
+}
+
+void RND_Sifra::EnableTableButtons() {
+  for (QPushButton* button : {ui_->Command4, ui_->Command5, ui_->Command6, ui_->Command8, ui_->Command9})
+    button->setEnabled(true);
+}
+
+Progress RND_Sifra::StartProgress() {
+  ui_->Cnt->setMaximum(static_cast<int>(ui_->Text1->Buffer().Size()) + 1);
+  ui_->Cnt->setValue(0);
+  return [this](std::size_t done) { ui_->Cnt->setValue(static_cast<int>(done)); };
+}
+
+}  // namespace pelmar

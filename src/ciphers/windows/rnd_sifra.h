@@ -1,0 +1,50 @@
+// `RND_Sifra`: the RND cipher with its table, which lives in this window and in files. The cipher works on the prepared
+// text that is shown here and writes its result over the document.
+#pragma once
+
+#include <memory>
+
+#include "ciphers/rnd_cipher.h"
+#include "ciphers/table_file.h"
+#include "platform/qt/controls/dialog_window.h"
+
+namespace Ui {
+class RND_Sifra;
+}
+
+namespace pelmar {
+
+struct Editor;
+
+class RND_Sifra : public DialogWindow {
+  Q_OBJECT
+
+ public:
+  RND_Sifra(Editor& editor, QWidget* parent);
+  ~RND_Sifra() override;
+
+ private:
+  void Command2_Click();
+  void Command3_Click();
+  void Command5_Click();
+  void Command6_Click();
+  void Command8_Click();
+  void Command9_Click();
+  void Text2_Change();
+  void GenerateNewCodes();
+  void GenerateNewLetterSplit();
+  void ShowCodes();
+  void ShowLetters();
+  // False where they can't be computed, which the label then tells.
+  bool ShowCoefficients(CountedDigits counted);
+  void EnableTableButtons();
+  [[nodiscard]] Progress StartProgress();
+
+  TextBuffer& document_;
+  Platform& platform_;
+  TableFiles files_;
+  CipherTable table_;
+  std::unique_ptr<Ui::RND_Sifra> ui_;
+};
+
+}  // namespace pelmar

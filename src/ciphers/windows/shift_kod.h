@@ -1,0 +1,34 @@
+// `ShiftKod`: letters shifted by 0 to 26, over the document or over a pair of fields for quick text.
+#pragma once
+
+#include <memory>
+
+#include "platform/platform.h"
+#include "platform/qt/controls/dialog_window.h"
+#include "text/text_buffer.h"
+
+namespace Ui {
+class ShiftKod;
+}
+
+namespace pelmar {
+
+class ShiftKod : public DialogWindow {
+  Q_OBJECT
+
+ public:
+  ShiftKod(TextBuffer& document, Platform& platform, QWidget* parent);
+  ~ShiftKod() override;
+
+ private:
+  void HScroll1_Change(int value);
+  void Command4_Click();
+  void Apply(int shift);
+  void ShowQuickText(int shift);
+
+  TextBuffer& document_;
+  Platform& platform_;
+  std::unique_ptr<Ui::ShiftKod> ui_;
+};
+
+}  // namespace pelmar

@@ -1,0 +1,76 @@
+#include "ciphers/xor_cipher.h"
+
+#include <algorithm>
+
+#include "text/codepage.h"
+#include "text/number_text.h"
+
+namespace pelmar {
+namespace {
+
+constexpr char kBroken = '\b';
+
+// True when the person ends the run.
+bool EndsBroken(Platform& platform) {
+  platform.Message(MessageType::kOk, "Porusena intengrita textu!", "Kódování");
+  return platform.Message(MessageType::kYesNoWarning, "Ukončit proces? (doporučuji ne)", "Kódování") == Answer::kYes;
+}
+
+// Few enough steps that showing the progress costs little, short enough that the windows live.
+std::size_t StepSize(std::size_t length) {
+  constexpr std::size_t kSteps = 64;
+  constexpr std::size_t kSmallest = 4096;
+  constexpr std::size_t kLargest = 1 << 20;
+  return std::clamp(length / kSteps, kSmallest, kLargest);
+}
+
+}  // namespace
+
+std::string KeyText(std::string_view typed) {
+  std::string text(typed);
+  for (std::string next; (next = NumberText(LeadingNumber(text))) != text;) text = std::move(next);
+  return text;
+}
+
+void StreamCipher::Append(std::string_view text, std::string& output) {
+  constexpr std::uint32_t kKeyCodes = 254;  // the key byte is never 0 and never 255
+  const std::size_t before = output.size();
+  output.resize(before + text.size());
+  char* to = output.data() + before;
+  for (const char ch : text) {
+    const auto code = static_cast<unsigned char>(static_cast<unsigned char>(ch) ^ generator_.DrawUpTo(kKeyCodes));
+    *to = static_cast<char>(code);
+    to += code != 0 ? 1 : 0;
+  }
+  output.resize(static_cast<std::size_t>(to - output.data()));
+}
+
+void RewriteStream(TextBuffer& document, double key, std::string& output, Platform& platform,
+                   const std::function<bool(std::size_t done)>& on_progress) {
+  output.clear();
+  StreamCipher cipher(key);
+  const std::size_t length = document.Size();
+  const std::size_t step = StepSize(length);
+  // Somebody may shorten the document meanwhile: then its new end is the end of the run.
+  for (std::size_t done = 0; done < std::min(length, document.Size());) {
+    std::string_view part = std::string_view(document.Text()).substr(done, std::min(step, length - done));
+    if (part.front() == kBroken) {
+      if (EndsBroken(platform)) return;
+      part = std::string_view(&kBroken, 1);  // the character as it was read, whatever the document is by now
+    } else {
+      part = part.substr(0, part.find(kBroken));
+    }
+    cipher.Append(part, output);
+    done += part.size();
+    if (!on_progress(done)) return;
+  }
+  document.SetText(output);
+}
+
+std::string PrimitiveRewrite(std::string_view text) {
+  std::string result(text);
+  for (char& ch : result) ch = CharOf(-CodeOf(ch));
+  return result;
+}
+
+}  // namespace pelmar

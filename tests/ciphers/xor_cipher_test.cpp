@@ -1,0 +1,289 @@
+#include "ciphers/xor_cipher.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <random>
+#include <vector>
+
+#include "shell/editor.h"
+#include "support/scripted_platform.h"
+#include "text/codepage.h"
+#include "text/number_text.h"
+
+namespace pelmar {
+namespace {
+
+std::vector<int> KeyBytes(double key, int count) {
+  ReproducibleGenerator generator;
+  generator.Reseed(key);
+  std::vector<int> bytes;
+  for (int i = 0; i < count; ++i) bytes.push_back(static_cast<int>(generator.DrawUpTo(254)));
+  return bytes;
+}
+
+// The same generator once more, by other means: the double taken apart by its value, the products summed up bit by bit
+// and reduced at each step, the key byte from a division.
+class SecondGenerator {
+ public:
+  explicit SecondGenerator(double key) : state_(0x800000 + 0xBF) {
+    Next();
+    const long long high = HighHalf(key);
+    const long long low_part = high % 65536;
+    const long long high_part = high / 65536;
+    long long folded = 0;
+    for (long long bit = 1; bit < 65536; bit *= 2)
+      if (low_part / bit % 2 != high_part / bit % 2) folded += bit;
+    state_ = state_ % 256 + folded * 256;
+  }
+  double Next() {
+    long long sum = 12820163;
+    long long addend = state_;
+    for (long long factor = 1140671485; factor > 0; factor /= 2) {
+      if (factor % 2 == 1) sum = (sum + addend) % 16777216;
+      addend = addend * 2 % 16777216;
+    }
+    state_ = sum;
+    return static_cast<double>(state_) / 16777216;
+  }
+  int NextKeyByte() { return static_cast<int>(std::floor(Next() * 254 + 1)); }
+
+ private:
+  static long long HighHalf(double key) {
+    if (key == 0) return 0;
+    int exponent = 0;
+    const double mantissa = std::frexp(std::abs(key), &exponent);  // 0.5 to 1
+    const auto fraction = static_cast<long long>(std::floor((mantissa * 2 - 1) * 1048576));
+    return (key < 0 ? 2147483648 : 0) + (exponent + 1022LL) * 1048576 + fraction;
+  }
+
+  long long state_;
+};
+
+TEST(ReproducibleGenerator, GivesTheToldKeyBytes) {
+  EXPECT_EQ(KeyBytes(0, 6), (std::vector{85, 82, 23, 137, 34, 246}));
+  EXPECT_EQ(KeyBytes(1, 6), (std::vector{85, 18, 151, 195, 49, 137}));
+  EXPECT_EQ(KeyBytes(123, 6), (std::vector{203, 6, 180, 134, 159, 19}));
+}
+
+TEST(ReproducibleGenerator, EqualsASecondImplementation) {
+  std::vector<double> keys = {0,
+                              1,
+                              2,
+                              -1,
+                              123,
+                              0.5,
+                              1.5,
+                              0.1,
+                              1.0 / 3,
+                              3.14159265358979,
+                              1e15,
+                              1e100,
+                              1e-5,
+                              1e-300,
+                              -12345678901234,
+                              123456789012345,
+                              999999999999999,
+                              65535,
+                              65536,
+                              1.5e308};
+  std::mt19937_64 random(3);
+  for (int i = 0; i < 500; ++i) keys.push_back(static_cast<double>(random() % 1000000000000000));
+  for (int i = 0; i < 500; ++i)
+    keys.push_back(std::ldexp(static_cast<double>(random()), static_cast<int>(random() % 1000) - 500));
+  for (const double key : keys) {
+    ReproducibleGenerator generator;
+    ReproducibleGenerator bytes;
+    generator.Reseed(key);
+    bytes.Reseed(key);
+    SecondGenerator second(key);
+    SecondGenerator second_bytes(key);
+    for (int i = 0; i < 300; ++i) {
+      ASSERT_EQ(generator.Draw(), second.Next()) << key;
+      const auto byte = static_cast<int>(bytes.DrawUpTo(254));
+      ASSERT_EQ(byte, second_bytes.NextKeyByte()) << key;
+      ASSERT_TRUE(byte >= 1 && byte <= 254);
+    }
+  }
+}
+
+TEST(ReproducibleGenerator, KnowsTheHighHalfOfTheKeyAlone) {
+  const double near = 1 + std::ldexp(1, -40);
+  EXPECT_EQ(KeyBytes(near, 50), KeyBytes(1, 50));
+  EXPECT_NE(KeyBytes(1 + std::ldexp(1, -20), 50), KeyBytes(1, 50));
+}
+
+TEST(KeyText, IsANumberAndNoPassword) {
+  const struct {
+    const char *typed, *shown;
+  } cases[] = {
+      {"", "0"},
+      {"abc", "0"},
+      {"12ab", "12"},
+      {"1.5", "1"},
+      {"1,5", "1"},
+      {"007", "7"},
+      {"-", "0"},
+      {"-5", "-5"},
+      {"0.1", "0"},
+      {"-0.5", "0"},
+      {"1E5", "100000"},
+      {"1E20", "1E+20"},
+      {"1E-7", "1E-07"},
+      {"1.5E-7", "1"},
+      {" 12", "12"},
+      {"1E999", "1E+99"},
+      {"123456789012345", "123456789012345"},
+  };
+  for (const auto& c : cases) EXPECT_EQ(KeyText(c.typed), c.shown) << c.typed;
+}
+
+// Runs of a document through the whole rewrite.
+struct StreamTest : testing::Test {
+  ScriptedPlatform platform;
+  TextBuffer document;
+  std::string output;
+  std::vector<std::size_t> progress;
+
+  std::string Rewritten(std::string_view text, double key) {
+    document.SetText(std::string(text));
+    RewriteStream(document, key, output, platform, [this](std::size_t done) {
+      progress.push_back(done);
+      return true;
+    });
+    return document.Text();
+  }
+};
+
+TEST_F(StreamTest, ToldExample) {
+  EXPECT_EQ(Rewritten("ab", 0), "40");
+  EXPECT_EQ(Rewritten("40", LeadingNumber("abc")), "ab");
+  EXPECT_EQ(output, "ab");
+}
+
+TEST_F(StreamTest, AnEmptyDocumentIsLeftInPeace) {
+  EXPECT_EQ(Rewritten("", 5), "");
+  EXPECT_TRUE(progress.empty());
+  EXPECT_TRUE(platform.calls.empty());
+}
+
+TEST_F(StreamTest, UndoesItselfWhereNothingIsLost) {
+  std::mt19937 random(1);
+  int intact = 0;
+  for (int round = 0; round < 3000; ++round) {
+    const double key = static_cast<double>(random()) / (random() % 2 ? 1 : -7);
+    std::string text;
+    for (auto n = random() % 120; n > 0; --n) {
+      const char ch = CharOf(static_cast<int>(random() % 256));
+      text += ch == '\b' ? '\r' : ch;
+    }
+    std::string once;
+    StreamCipher(key).Append(text, once);
+    // One character lost shifts all behind it against the key.
+    const std::vector<int> bytes = KeyBytes(key, static_cast<int>(text.size()));
+    std::string expected;
+    for (std::size_t i = 0; i < text.size(); ++i)
+      if (const int code = CodeOf(text[i]) ^ bytes[i]) expected += CharOf(code);
+    ASSERT_EQ(once, expected);
+    if (once.size() != text.size()) continue;
+    ++intact;
+    std::string twice;
+    StreamCipher(key).Append(once, twice);
+    // A code 0 of the text comes back as the key byte's own value, which is dropped.
+    std::string without_zeros = text;
+    std::erase(without_zeros, '\0');
+    ASSERT_EQ(twice, without_zeros);
+  }
+  EXPECT_GT(intact, 2000);
+}
+
+TEST_F(StreamTest, DropsTheCharacterThatEqualsItsKeyByte) {
+  // Key 0 begins 85, 82, 23: "U" gives 0 and is lost, "R" behind it too.
+  EXPECT_EQ(Rewritten("URa", 0), std::string(1, CharOf('a' ^ 23)));
+  EXPECT_NE(Rewritten(document.Text(), 0), "a");
+}
+
+TEST_F(StreamTest, WarnsOfCode8AndGoesOn) {
+  const std::string text("a\bb\b", 4);
+  platform.answers = {Answer::kOk, Answer::kNo, Answer::kOk, Answer::kNo};
+  Rewritten(text, 7);
+  std::string plain;
+  StreamCipher(7).Append(text, plain);
+  EXPECT_EQ(document.Text(), plain);
+  const std::vector<std::string> warning = {"message 0 \"Porusena intengrita textu!\" \"Kódování\"",
+                                            "message 52 \"Ukončit proces? (doporučuji ne)\" \"Kódování\""};
+  EXPECT_EQ(platform.calls, (std::vector{warning[0], warning[1], warning[0], warning[1]}));
+  EXPECT_EQ(progress.back(), 4u);
+}
+
+TEST_F(StreamTest, AnAbandonedRunLeavesTheDocument) {
+  platform.answers = {Answer::kOk, Answer::kYes};
+  EXPECT_EQ(Rewritten("ab\bcd", 0), "ab\bcd");
+  EXPECT_EQ(output, "40");  // what was done stays until the next run
+  EXPECT_EQ(Rewritten("x", 0), std::string(1, CharOf('x' ^ 85)));
+}
+
+TEST_F(StreamTest, TellsItsProgressOften) {
+  Rewritten(std::string(64000, 'x'), 1);
+  EXPECT_GE(progress.size(), 10u);
+  EXPECT_LE(progress.size(), 70u);
+  EXPECT_EQ(progress.back(), 64000u);
+  EXPECT_TRUE(std::ranges::is_sorted(progress));
+}
+
+TEST_F(StreamTest, ReadsADocumentThatChangesUnderIt) {
+  const std::string text(20000, 'a');
+  const auto run = [&](const std::function<bool(std::size_t)>& meanwhile) {
+    document.SetText(text);
+    RewriteStream(document, 3, output, platform, meanwhile);
+  };
+  std::string all_a;
+  std::string all_b;
+  StreamCipher(3).Append(text, all_a);
+  StreamCipher(3).Append(std::string(text.size(), 'b'), all_b);
+  ASSERT_EQ(KeyBytes(3, 20000).size(), text.size());
+
+  std::size_t turned = 0;
+  run([&](std::size_t done) {
+    if (turned == 0) {
+      turned = done;
+      document.SetText(std::string(30000, 'b'));
+    }
+    return true;
+  });
+  // The length was taken once, each character at its turn.
+  StreamCipher cipher(3);
+  std::string expected;
+  cipher.Append(std::string(turned, 'a'), expected);
+  cipher.Append(std::string(text.size() - turned, 'b'), expected);
+  EXPECT_EQ(document.Text(), expected);
+
+  run([&](std::size_t) {
+    document.SetText("short");
+    return true;
+  });
+  EXPECT_EQ(document.Text(), all_a.substr(0, output.size()));
+  EXPECT_LT(output.size(), text.size());
+
+  run([&](std::size_t) { return false; });
+  EXPECT_EQ(document.Text(), text);
+}
+
+TEST(PrimitiveRewrite, TakesEachCodeFrom256) {
+  ScriptedPlatform platform;
+  Editor editor(platform);
+  std::string all;
+  for (int code = 0; code < 256; ++code) all += CharOf(code);
+  editor.text.SetText(all);
+  platform.answers = {Answer::kOk, Answer::kOk};
+  editor.commands.Run("mnuZaKodPrim");
+  for (int code = 0; code < 256; ++code)
+    EXPECT_EQ(CodeOf(editor.text.Text()[static_cast<std::size_t>(code)]), (256 - code) % 256);
+  EXPECT_EQ(platform.calls, std::vector<std::string>{"message 0 \"Ukončeno kódování.\" \"kód\""});
+  editor.commands.Run("mnuZaKodPrim");
+  EXPECT_EQ(editor.text.Text(), all);
+}
+
+}  // namespace
+}  // namespace pelmar
