@@ -5,8 +5,10 @@ build_packages="build-essential cmake ninja-build ccache qt6-base-dev qt6-tools-
 libgl-dev libx11-dev librsvg2-bin"
 runtime_packages="libqt6svg6 qt6-qpa-plugins qt6-translations-l10n fonts-dejavu-core xdg-utils"
 test_packages="libgtest-dev libbenchmark-dev python3 xvfb openbox xdotool xclip wmctrl x11-utils
-imagemagick lintian dpkg-dev appstream desktop-file-utils fakeroot"
+imagemagick lintian dpkg-dev appstream desktop-file-utils fakeroot poppler-utils"
+
 fuzz_packages="clang libclang-rt-14-dev"
+check_packages="$fuzz_packages clang-tidy git"
 
 tell() {
   printf '%s: %s\n' "$step" "$*" >&2
@@ -41,21 +43,31 @@ install_missing() {
   }
 }
 
-# Configures a preset (and further cmake arguments) when that wasn't done yet for this tree, then builds it.
+# Configures a preset when that wasn't done yet for this tree, then builds it. What follows the preset's name are further
+# arguments of cmake (they begin with "-") and the targets to build; all of them where none is named.
 configure_and_build() {
   preset=$1
   shift
   build=$root/build/$preset
+  options= targets=
+  for word in "$@"; do
+    case $word in
+      -*) options="$options $word" ;;
+      *) targets="$targets $word" ;;
+    esac
+  done
   if ! [ -f "$build/build.ninja" ] ||
     ! grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$root" "$build/CMakeCache.txt" 2>/dev/null; then
     tell "configuring build/$preset"
     rm -f "$build/CMakeCache.txt" "$build/build.ninja"
-    (cd "$root" && cmake --log-level=WARNING --preset "$preset" "$@" >&2) || return 1
+    (cd "$root" && cmake --log-level=WARNING --preset "$preset" $options >&2) || return 1
   fi
   tell "building what changed in build/$preset"
   # A terminal gets ninja's one moving line, a log only what goes wrong.
   quiet=--quiet
   [ -t 2 ] && quiet=
   # Twice: headers made from forms change behind ninja's back, and what includes them is built by the second call.
-  ninja -C "$build" -j "$(nproc)" $quiet >&2 && ninja -C "$build" -j "$(nproc)" $quiet >&2
+  for round in 1 2; do
+    ninja -C "$build" -j "$(nproc)" $quiet $targets >&2 || return 1
+  done
 }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -37,6 +38,52 @@ struct KeyStates {
   bool insert = false;
 };
 
+// What a text is printed in. The name is Windows-1250, the size in points.
+struct PrintFont {
+  std::string name;
+  double size = 8;
+  bool bold = false;
+  bool italic = false;
+};
+
+// The paper of a print job, for as long as the job is open. Distances are dots of the printer from the left edge of
+// what it can print on; lines count from 0 on each page.
+class Paper {
+ public:
+  Paper() = default;
+  Paper(const Paper&) = delete;
+  Paper& operator=(const Paper&) = delete;
+  virtual ~Paper() = default;
+
+  [[nodiscard]] virtual double Width() const = 0;
+  [[nodiscard]] virtual std::size_t LinesPerPage() const = 0;  // at least 1
+  // Where a text ends that begins at x. A tab leads to the next tab stop.
+  [[nodiscard]] virtual double EndOf(double x, std::string_view text) const = 0;
+  virtual void Put(std::size_t line, double x, std::string_view text) = 0;
+  virtual void NewPage() = 0;
+};
+
+struct PrintOutcome {
+  int error = 0;    // 0 or an errno
+  std::string pdf;  // the path of the file that stands for the paper where there is no printer
+};
+
+// What the line-end conversion does with each piece of a file: appends to `out` what the piece becomes.
+class FileRewriter {
+ public:
+  FileRewriter() = default;
+  FileRewriter(const FileRewriter&) = delete;
+  FileRewriter& operator=(const FileRewriter&) = delete;
+  virtual ~FileRewriter() = default;
+
+  virtual void Rewrite(std::string_view piece, std::string& out) = 0;
+  // Behind the last piece. Returns how many of all the bytes that were put out are to stay.
+  virtual std::uint64_t Finish(std::string& out) = 0;
+};
+
+// What happens to a longer old file behind the new content.
+enum class OldTail { kDrop, kKeep };
+
 class Platform {
  public:
   Platform() = default;
@@ -67,12 +114,23 @@ class Platform {
   virtual bool CanRead(const std::string& path) = 0;  // opens for reading; false for a folder
   virtual FileBytes ReadFile(const std::string& path, std::optional<std::uint64_t> limit) = 0;
   virtual int WriteFile(const std::string& path, std::string_view bytes) = 0;  // 0 or errno
+  // Reads one file and writes another, piece by piece, so that its size doesn't matter. The target is the new content
+  // once that is complete, and what it was until then. 0 or errno.
+  virtual int RewriteFile(const std::string& source, const std::string& target, OldTail tail,
+                          FileRewriter& rewriter) = 0;
+  // True where both paths lead to the same file.
+  virtual bool IsSameFile(const std::string& left, const std::string& right) = 0;
   virtual bool RemoveFile(const std::string& path) = 0;
 
   // Folders, with a separator at the end.
   virtual std::string InstallFolder() = 0;
   virtual std::string TempFolder() = 0;
   virtual std::string ShareFolder() = 0;  // what the package brings along
+
+  // Prints what `draw` puts on the paper on the system's default printer. Where there is none, the paper is a new PDF
+  // file in the person's documents folder. `name` (UTF-8) names the job and the file.
+  virtual PrintOutcome Print(const PrintFont& font, const std::string& name,
+                             const std::function<void(Paper&)>& draw) = 0;
 
   virtual void AddToRecentDocuments(const std::string& path) = 0;
   virtual bool OpenWithDefaultProgram(const std::string& path) = 0;

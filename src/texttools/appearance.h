@@ -6,6 +6,7 @@
 
 #include "shell/main_view.h"
 #include "shell/session.h"
+#include "text/codepage.h"
 
 namespace pelmar {
 
@@ -15,6 +16,10 @@ struct Editor;
 inline constexpr std::string_view kSansSerif = "MS Sans Serif";
 inline constexpr std::string_view kCourier = "Courier New";
 inline constexpr std::string_view kTerminal = "Terminal";
+
+// The text of every preview of a look.
+inline constexpr std::string_view kPreviewText =
+    "aábcčdďeéěfghchiíjklmnoóprřsštťuúůvwxyýzž\r\nAÁBCČDĎEÉĚFGHCHIÍJKLMNOÓPQRŘSŠTŤUÚVWXYÝZŽ\r\n"_w;
 
 // Bold, italic, sizes, inverted colours, alignment, the DOS and the basic look.
 void AddAppearanceCommands(Editor& editor, MainView& view, Session& session);

@@ -8,6 +8,7 @@
 #include "text/codepage.h"
 #include "texttools/find.h"
 #include "texttools/lines.h"
+#include "texttools/random_text.h"
 #include "texttools/transforms.h"
 
 namespace pelmar {
@@ -67,6 +68,24 @@ void AddLineTools(Editor& e) {
   e.commands.Add("mnucharcount", [&e] { CountCharacters(e); });
 }
 
+// A generator puts its text before the selection, which stays.
+void AddGenerator(Editor& e, std::string_view name, std::string (*generate)(const Draw&)) {
+  e.commands.Add(name, [&e, generate] {
+    e.platform.ReseedRandom();
+    InsertAtCaret(e.text, generate([&e] { return e.platform.Random(); }));
+  });
+}
+
+void AddRandomTexts(Editor& e) {
+  AddGenerator(e, "mnunahtex", RandomSentence);
+  AddGenerator(e, "mnunahslovo", RandomWord);
+  AddGenerator(e, "mnunahjmeno", RandomName);
+  AddBusy(e, "MnuSelTextDada", [&e] {
+    e.platform.ReseedRandom();
+    e.text.ReplaceSelection(ShuffledWords(std::string(e.text.SelText()), [&e] { return e.platform.Random(); }));
+  });
+}
+
 bool Confirmed(Editor& e, std::string_view question, std::string_view title) {
   return e.platform.Message(MessageType::kYesNoWarning, question, title) == Answer::kYes;
 }
@@ -95,6 +114,7 @@ void AddClipboardCommands(Editor& e) {
 void AddTextToolCommands(Editor& editor) {
   AddTransforms(editor);
   AddLineTools(editor);
+  AddRandomTexts(editor);
   AddClipboardCommands(editor);
   editor.commands.Add("mnusearch", [&editor] { FindPrimitively(editor.text, editor.platform); });
 }

@@ -45,13 +45,20 @@ std::string NumberLines(std::string_view text) {
   return out;
 }
 
+std::vector<std::string_view> WordsWithBlanks(std::string_view text) {
+  std::vector<std::string_view> words;
+  while (!text.empty()) {
+    const std::size_t blank = text.find(' ');
+    const std::size_t length = blank == std::string_view::npos ? text.size() : blank + 1;
+    words.push_back(text.substr(0, length));
+    text.remove_prefix(length);
+  }
+  return words;
+}
+
 std::string WordsToLines(std::string_view text) {
   std::string out;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    out += text[i];
-    if (text[i] == ' ' && i + 1 < text.size()) out += kCrLf;
-  }
-  if (!text.empty()) out += kCrLf;
+  for (const std::string_view word : WordsWithBlanks(text)) out.append(word).append(kCrLf);
   return out;
 }
 

@@ -18,8 +18,11 @@ std::string SortLines(std::string_view text, const SortedOrder& order);
 // Each line behind a number of five digits and a blank. required: the last character is lost.
 std::string NumberLines(std::string_view text);
 
-// Each word on a line of its own with the blank behind it; each further blank of a run is a line too. The result ends
-// in a line break. An empty text stays empty.
+// The words of a text, each with the one blank behind it; each further blank of a run is a word of its own. Line ends
+// are characters of their word. The last word has a blank only where the text ends in one.
+std::vector<std::string_view> WordsWithBlanks(std::string_view text);
+
+// Each of these words on a line of its own. The result ends in a line break. An empty text stays empty.
 std::string WordsToLines(std::string_view text);
 
 }  // namespace pelmar

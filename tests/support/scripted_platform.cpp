@@ -21,6 +21,24 @@ Value Take(std::deque<Value>& queue, const std::string& call) {
   return answer;
 }
 
+class ScriptedPaper : public Paper {
+ public:
+  explicit ScriptedPaper(ScriptedPlatform& platform) : platform_(platform) {}
+  [[nodiscard]] double Width() const override { return platform_.paper_width; }
+  [[nodiscard]] std::size_t LinesPerPage() const override { return platform_.lines_per_page; }
+  [[nodiscard]] double EndOf(double x, std::string_view text) const override {
+    return x + static_cast<double>(text.size());
+  }
+  void Put(std::size_t line, double x, std::string_view text) override {
+    platform_.calls.push_back("put " + std::to_string(line) + ' ' + std::to_string(static_cast<int>(x)) + ' ' +
+                              Quoted(text));
+  }
+  void NewPage() override { platform_.calls.emplace_back("page"); }
+
+ private:
+  ScriptedPlatform& platform_;
+};
+
 }  // namespace
 
 std::vector<std::string> ScriptedPlatform::TakeCalls() { return std::exchange(calls, {}); }
@@ -86,6 +104,31 @@ int ScriptedPlatform::WriteFile(const std::string& path, std::string_view bytes)
   if (path.ends_with('/') || files.contains(path + '/')) return EISDIR;
   files[path] = std::string(bytes);
   return 0;
+}
+
+// In pieces of three bytes, so that every border is met.
+int ScriptedPlatform::RewriteFile(const std::string& source, const std::string& target, OldTail tail,
+                                  FileRewriter& rewriter) {
+  calls.push_back("rewrite " + source + ' ' + target);
+  if (const int error = ReadError(source)) return error;
+  std::string out;
+  const std::string_view bytes = files[source];
+  for (std::size_t at = 0; at < bytes.size(); at += 3) rewriter.Rewrite(bytes.substr(at, 3), out);
+  out.resize(static_cast<std::size_t>(rewriter.Finish(out)));
+  if (const auto error = write_errors.find(target); error != write_errors.end()) return error->second;
+  const std::string& old = files[target];
+  if (tail == OldTail::kKeep && old.size() > out.size()) out += old.substr(out.size());
+  files[target] = out;
+  return 0;
+}
+
+PrintOutcome ScriptedPlatform::Print(const PrintFont& font, const std::string& name,
+                                     const std::function<void(Paper&)>& draw) {
+  calls.push_back("print " + name + ' ' + font.name + ' ' + std::to_string(static_cast<int>(font.size)) +
+                  (font.bold ? " bold" : "") + (font.italic ? " italic" : ""));
+  ScriptedPaper paper(*this);
+  draw(paper);
+  return print_outcome;
 }
 
 bool ScriptedPlatform::RemoveFile(const std::string& path) {

@@ -19,6 +19,7 @@ class ScriptedPlatform : public Platform {
  public:
   // One string a call, in order, texts as they were given: `message 52 "text" "title"`, `about "title" "text"`, `input
   // "prompt" "title" "initial"`, `open "filter" 2`, `save "filter" 2`, `write path` (also a failed one), `remove path`,
+  // `print name font size bold italic`, `page`, `put line x "text"`,
   // `recent path`, `default program path`, `start copy`, `clipboard "text"`, `clipboard clear`, `busy 1`. Reading
   // leaves no trace.
   std::vector<std::string> calls;
@@ -38,7 +39,10 @@ class ScriptedPlatform : public Platform {
   int reseeds = 0;
   std::string install_folder = "/install/", temp_folder = "/tmp/", share_folder = "/share/";
   bool opens_programs = true;  // what OpenWithDefaultProgram and StartAnotherCopy answer
-  int busy = 0;                // how many busy pointers are in force
+  PrintOutcome print_outcome;
+  double paper_width = 100;  // each character is one dot wide
+  std::size_t lines_per_page = 3;
+  int busy = 0;  // how many busy pointers are in force
 
   Answer Message(MessageType type, std::string_view text, std::string_view title) override;
   void ShowAbout(std::string_view title, std::string_view text) override;
@@ -53,10 +57,13 @@ class ScriptedPlatform : public Platform {
   bool CanRead(const std::string& path) override;
   FileBytes ReadFile(const std::string& path, std::optional<std::uint64_t> limit) override;
   int WriteFile(const std::string& path, std::string_view bytes) override;
+  int RewriteFile(const std::string& source, const std::string& target, OldTail tail, FileRewriter& rewriter) override;
+  bool IsSameFile(const std::string& left, const std::string& right) override { return left == right; }
   bool RemoveFile(const std::string& path) override;
   std::string InstallFolder() override { return install_folder; }
   std::string ShareFolder() override { return share_folder; }
   std::string TempFolder() override { return temp_folder; }
+  PrintOutcome Print(const PrintFont& font, const std::string& name, const std::function<void(Paper&)>& draw) override;
   void AddToRecentDocuments(const std::string& path) override;
   bool OpenWithDefaultProgram(const std::string& path) override;
   bool StartAnotherCopy() override;

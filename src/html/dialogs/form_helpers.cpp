@@ -2,7 +2,9 @@
 
 #include <QAbstractSlider>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QRadioButton>
 #include <algorithm>
 
@@ -10,6 +12,13 @@
 #include "platform/qt/convert.h"
 
 namespace pelmar {
+namespace {
+
+std::optional<std::string> TextIf(const QCheckBox* box, const QString& text) {
+  return box->isChecked() ? std::optional(TextFromQString(text)) : std::nullopt;
+}
+
+}  // namespace
 
 void EnableWith(QCheckBox* box, std::initializer_list<QWidget*> widgets) {
   for (QWidget* widget : widgets) {
@@ -37,6 +46,14 @@ void ShowValue(const QAbstractSlider* bar, QLabel* label, std::function<QString(
   QObject::connect(bar, &QAbstractSlider::valueChanged, label, [label, write = std::move(write)](int value) {
     label->setText(write ? write(value) : QString::number(value));
   });
+}
+
+std::optional<std::string> Written(const QCheckBox* box, const QLabel* field) { return TextIf(box, field->text()); }
+
+std::optional<std::string> Written(const QCheckBox* box, const QLineEdit* field) { return TextIf(box, field->text()); }
+
+std::optional<std::string> Written(const QCheckBox* box, const QComboBox* field) {
+  return TextIf(box, field->currentText());
 }
 
 int SetOption(std::initializer_list<const QRadioButton*> options) {

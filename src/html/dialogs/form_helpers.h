@@ -1,17 +1,21 @@
 // What the events of many HTML dialogs have in common: controls that go with a check box, a colour with its hex label,
-// the set one of some options, the label of a value.
+// the set one of some options, a value's label, a text that is switched off.
 #pragma once
 
 #include <QColor>
 #include <functional>
 #include <initializer_list>
+#include <optional>
+#include <string>
 
 #include "shell/common.h"
 
 class QAbstractButton;
 class QAbstractSlider;
 class QCheckBox;
+class QComboBox;
 class QLabel;
+class QLineEdit;
 class QRadioButton;
 class QWidget;
 
@@ -35,6 +39,11 @@ QString BlankLedPercent(int value);
 // of the window says at first stays until then: such labels are what is written, and not all begin at their bar's
 // value.
 void ShowValue(const QAbstractSlider* bar, QLabel* label, std::function<QString(int)> write = {});
+
+// What the field says, in Windows-1250, as long as the box is ticked.
+std::optional<std::string> Written(const QCheckBox* box, const QLabel* field);
+std::optional<std::string> Written(const QCheckBox* box, const QLineEdit* field);
+std::optional<std::string> Written(const QCheckBox* box, const QComboBox* field);
 
 // The index of the option that is set, from 0; 0 where none is.
 int SetOption(std::initializer_list<const QRadioButton*> options);

@@ -1,20 +1,24 @@
 #include "html/dialogs/page_windows.h"
 
 #include "accessories/windows/color_dialog.h"
+#include "html/dialogs/frame.h"
+#include "html/dialogs/frames.h"
 #include "html/dialogs/table.h"
 #include "html/dialogs/table_cell.h"
 #include "html/dialogs/table_row.h"
+#include "html/dialogs/vytvor.h"
 #include "shell/windows/program_parts.h"
 
 namespace pelmar {
 
-void AddPageWindows(const ProgramParts& parts) {
+namespace {
+
+void AddTables(const ProgramParts& parts) {
   TextBuffer& text = parts.editor.text;
-  WindowRegistry& windows = parts.windows;
-  windows.Register<TableRow>([parts, &text] { return std::make_unique<TableRow>(text, &parts.main); });
-  windows.Register<TableCell>(
+  parts.windows.Register<TableRow>([parts, &text] { return std::make_unique<TableRow>(text, &parts.main); });
+  parts.windows.Register<TableCell>(
       [parts, &text] { return std::make_unique<TableCell>(text, ColorPicker(parts.windows), &parts.main); });
-  windows.Register<Table>([parts, &text] {
+  parts.windows.Register<Table>([parts, &text] {
     return std::make_unique<Table>(
         text, [parts] { return parts.windows.Get<TableCell>().AskAttributes(); },
         [parts] { return parts.windows.Get<TableRow>().AskAttributes(); }, &parts.main);
@@ -22,6 +26,26 @@ void AddPageWindows(const ProgramParts& parts) {
   parts.ShowBy<Table>({"mnutable", "Table"});
   parts.ShowBy<TableRow>({"mnurow"});
   parts.ShowBy<TableCell>({"mnucell"});
+}
+
+}  // namespace
+
+void AddPageWindows(const ProgramParts& parts) {
+  TextBuffer& text = parts.editor.text;
+  // The browser may come later than these windows' registration.
+  const auto show = [parts](const std::string& path) {
+    if (parts.show_in_browser) parts.show_in_browser(path);
+  };
+  AddTables(parts);
+  parts.windows.Register<Frames>([parts, &text] { return std::make_unique<Frames>(text, &parts.main); });
+  parts.windows.Register<Frame>([parts, &text, show] { return std::make_unique<Frame>(text, show, &parts.main); });
+  parts.windows.Register<Vytvor>([parts, &text, show] {
+    return std::make_unique<Vytvor>(text, parts.main, parts.editor.settings, parts.platform,
+                                    Vytvor::Doors{ColorPicker(parts.windows), show}, &parts.main);
+  });
+  parts.ShowBy<Frames>({"mnuHTML_fset"});
+  parts.ShowBy<Frame>({"mnuHTML_Fme"});
+  parts.ShowBy<Vytvor>({"mnucreate", "Newhtml"});
 }
 
 }  // namespace pelmar

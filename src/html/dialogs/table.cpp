@@ -120,27 +120,24 @@ std::string& Table::Attributes() { return grid_.CellAttrs.at(ValueOf(ui_->HScrol
 std::string& Table::RowAttributes() { return grid_.RowAttrs.at(ValueOf(ui_->VScroll8)); }
 
 TableSpec Table::Read() const {
-  const auto written = [](const QCheckBox* box, const auto* field) {
-    return box->isChecked() ? std::optional(TextFromQString(field->text())) : std::nullopt;
-  };
   TableSpec spec;
   spec.columns = ValueOf(ui_->VScroll1);
   spec.rows = ValueOf(ui_->VScroll2);
-  spec.width = written(ui_->Check1, ui_->Label5);
-  spec.cols = written(ui_->Check9, ui_->Label3);
-  spec.colspec = written(ui_->Check3, ui_->Text1);
+  spec.width = Written(ui_->Check1, ui_->Label5);
+  spec.cols = Written(ui_->Check9, ui_->Label3);
+  spec.colspec = Written(ui_->Check3, ui_->Text1);
   if (ui_->Check2->isChecked())
     spec.align = static_cast<TableAlign>(SetOption({ui_->Option3, ui_->Option4, ui_->Option5}));
-  if (const auto thickness = written(ui_->Check4, ui_->Label7)) {
+  if (const auto thickness = Written(ui_->Check4, ui_->Label7)) {
     const int frame = SetOption({ui_->Option6, ui_->Option7, ui_->Option8, ui_->Option9, ui_->Option10, ui_->Option11,
                                  ui_->Option12, ui_->Option13});
     spec.border = {static_cast<TableFrame>(frame), *thickness};
   }
   if (ui_->Check5->isChecked())
     spec.rules = static_cast<TableRules>(SetOption({ui_->Option14, ui_->Option15, ui_->Option16, ui_->Option17}));
-  spec.cell_spacing = written(ui_->Check6, ui_->Label8);
-  spec.cell_padding = written(ui_->Check7, ui_->Label9);
-  if (const auto text = written(ui_->Check8, ui_->Text2))
+  spec.cell_spacing = Written(ui_->Check6, ui_->Label8);
+  spec.cell_padding = Written(ui_->Check7, ui_->Label9);
+  if (const auto text = Written(ui_->Check8, ui_->Text2))
     spec.caption = {static_cast<CaptionSide>(SetOption({ui_->Option18, ui_->Option19, ui_->Option20, ui_->Option21})),
                     *text};
   return spec;

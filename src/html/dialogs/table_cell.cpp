@@ -1,7 +1,6 @@
 #include "html/dialogs/table_cell.h"
 
 #include "html/dialogs/form_helpers.h"
-#include "platform/qt/convert.h"
 #include "ui_table_cell.h"
 
 namespace pelmar {
@@ -41,17 +40,14 @@ void TableCell::Check8_Click(bool percent) {
 }
 
 CellSpec TableCell::Read() const {
-  const auto written = [](const QCheckBox* box, const QLabel* label) {
-    return box->isChecked() ? std::optional(TextFromQString(label->text())) : std::nullopt;
-  };
   CellSpec spec;
   spec.header = ui_->Check9->isChecked();
   spec.alignment = ui_->alignment->Read();
-  spec.bgcolor = written(ui_->Check3, ui_->Label2);
-  spec.colspan = written(ui_->Check4, ui_->Label3);
-  spec.rowspan = written(ui_->Check5, ui_->Label4);
+  spec.bgcolor = Written(ui_->Check3, ui_->Label2);
+  spec.colspan = Written(ui_->Check4, ui_->Label3);
+  spec.rowspan = Written(ui_->Check5, ui_->Label4);
   spec.nowrap = ui_->Check6->isChecked();
-  spec.width = written(ui_->Check7, ui_->Label8);
+  spec.width = Written(ui_->Check7, ui_->Label8);
   return spec;
 }
 

@@ -9,6 +9,7 @@
 #include <climits>
 #include <cstdlib>
 #include <fstream>
+#include <functional>
 #include <memory>
 #include <new>
 #include <stdexcept>
@@ -118,17 +119,21 @@ void KeepOwner(int file, const struct stat& old) {
   if (now.st_uid != old.st_uid && fchown(file, old.st_uid, static_cast<gid_t>(-1)) != 0) return;
 }
 
-int WriteBesideAndRename(const std::string& path, std::string_view bytes, const struct stat* old, mode_t new_mode) {
+// Puts the content into an open file; 0 or errno.
+using Fill = std::function<int(int file)>;
+
+// A file system that can't sync has said nothing about the content.
+int Sync(int file) { return fsync(file) != 0 && errno != EINVAL && errno != ENOTSUP ? errno : 0; }
+
+int WriteBesideAndRename(const std::string& path, const Fill& fill, const struct stat* old, mode_t new_mode) {
   std::string beside = path.substr(0, path.rfind('/') + 1) + ".pelmar-XXXXXX";
   Descriptor file(mkostemp(beside.data(), O_CLOEXEC));
   if (!file.IsOpen()) return errno;
   const auto finish = [&]() -> int {
-    if (const int error = WriteAll(file.Number(), bytes)) return error;
+    if (const int error = fill(file.Number())) return error;
     if (old != nullptr) KeepOwner(file.Number(), *old);
     const mode_t mode = old != nullptr ? old->st_mode & 07777 : new_mode & ~Umask();
     if (fchmod(file.Number(), mode) != 0) return errno;
-    // A file system that can't sync has said nothing about the content.
-    if (fsync(file.Number()) != 0 && errno != EINVAL && errno != ENOTSUP) return errno;
     if (const int error = file.Close()) return error;
     return rename(beside.c_str(), path.c_str()) == 0 ? 0 : errno;
   };
@@ -154,8 +159,7 @@ int WriteInPlace(const std::string& path, std::string_view bytes) {
     if (error != 0 && lseek(file.Number(), 0, SEEK_SET) == 0) WriteAll(file.Number(), old);
   }
   if (ftruncate(file.Number(), error == 0 ? new_size : old_size) != 0 && error == 0) error = errno;
-  if (error == 0 && fsync(file.Number()) != 0 && errno != EINVAL && errno != ENOTSUP) error = errno;
-  return error;
+  return error == 0 ? Sync(file.Number()) : error;
 }
 
 int WriteToDevice(const std::string& path, std::string_view bytes) {
@@ -164,6 +168,60 @@ int WriteToDevice(const std::string& path, std::string_view bytes) {
   const int error = WriteAll(file.Number(), bytes);
   const int close_error = file.Close();
   return error != 0 ? error : close_error;
+}
+
+struct Target {
+  enum Kind { kNew, kOld, kDevice } kind = kNew;
+  std::string path;  // without links
+  struct stat old {};
+};
+
+// What there is to write to; an errno where that can't be written.
+int FindTarget(const std::string& path, Target& target) {
+  target.path = path;
+  if (const int error = FollowLinks(target.path)) return error;
+  if (stat(target.path.c_str(), &target.old) != 0) return errno != ENOENT || target.path.ends_with('/') ? errno : 0;
+  if (S_ISDIR(target.old.st_mode)) return EISDIR;
+  target.kind = S_ISREG(target.old.st_mode) ? Target::kOld : Target::kDevice;
+  if (target.kind == Target::kDevice) return S_ISCHR(target.old.st_mode) || S_ISFIFO(target.old.st_mode) ? 0 : EINVAL;
+  // The rename needs no permission on the old file, but the person has protected it.
+  return faccessat(AT_FDCWD, target.path.c_str(), W_OK, AT_EACCESS) == 0 ? 0 : errno;
+}
+
+constexpr std::size_t kPiece = 256 * 1024;  // stays in the processor's cache on its way through
+
+// Hands each piece of a file, from where it stands to its end, to `take`, which returns 0 or an errno.
+int ForEachPiece(int file, const std::function<int(std::string_view)>& take) {
+  std::string piece(kPiece, '\0');
+  while (true) {
+    const ssize_t got = read(file, piece.data(), piece.size());
+    if (got < 0 && errno == EINTR) continue;
+    if (got < 0) return errno;
+    if (got == 0) return 0;
+    if (const int error = take(std::string_view(piece).substr(0, static_cast<std::size_t>(got)))) return error;
+  }
+}
+
+// Writes from where `to` stands. `kept` becomes how many of the bytes that were written are to stay.
+int RewriteInto(int to, int from, FileRewriter& rewriter, std::uint64_t& kept) {
+  std::string out;
+  out.reserve(2 * kPiece);
+  const int error = ForEachPiece(from, [&](std::string_view piece) {
+    out.clear();
+    rewriter.Rewrite(piece, out);
+    return WriteAll(to, out);
+  });
+  if (error != 0) return error;
+  out.clear();
+  kept = rewriter.Finish(out);
+  return WriteAll(to, out);
+}
+
+// Everything of `old` behind that many bytes goes to the same place of `to`, whose own bytes there are cut.
+int CopyTail(int old, int to, std::uint64_t behind) {
+  const auto at = static_cast<off_t>(behind);
+  if (ftruncate(to, at) != 0 || lseek(to, at, SEEK_SET) < 0 || lseek(old, at, SEEK_SET) < 0) return errno;
+  return ForEachPiece(old, [to](std::string_view piece) { return WriteAll(to, piece); });
 }
 
 }  // namespace
@@ -189,20 +247,52 @@ FileBytes ReadWholeFile(const std::string& path, std::optional<std::uint64_t> li
 }
 
 int ReplaceFile(const std::string& path, std::string_view bytes, mode_t new_mode) {
-  std::string target = path;
-  if (const int error = FollowLinks(target)) return error;
-  struct stat old {};
-  if (stat(target.c_str(), &old) != 0) {
-    if (errno != ENOENT || target.ends_with('/')) return errno;
-    return WriteBesideAndRename(target, bytes, nullptr, new_mode);
+  Target target;
+  if (const int error = FindTarget(path, target)) return error;
+  const auto fill = [bytes](int file) {
+    const int error = WriteAll(file, bytes);
+    return error == 0 ? Sync(file) : error;
+  };
+  if (target.kind == Target::kDevice) return WriteToDevice(target.path, bytes);
+  if (target.kind == Target::kNew) return WriteBesideAndRename(target.path, fill, nullptr, new_mode);
+  const int error = WriteBesideAndRename(target.path, fill, &target.old, new_mode);
+  return FolderRefuses(error) ? WriteInPlace(target.path, bytes) : error;
+}
+
+int RewriteFileByPieces(const std::string& source, const std::string& target_path, OldTail tail,
+                        FileRewriter& rewriter) {
+  int error = 0;
+  const Descriptor from(OpenRegular(source, error));
+  if (!from.IsOpen()) return error;
+  Target target;
+  if ((error = FindTarget(target_path, target)) != 0) return error;
+  if (target.kind == Target::kDevice) return EINVAL;
+  std::optional<Descriptor> old;
+  if (target.kind == Target::kOld && tail == OldTail::kKeep) {
+    old.emplace(open(target.path.c_str(), O_RDONLY | O_CLOEXEC));
+    if (!old->IsOpen()) return errno;
   }
-  if (S_ISCHR(old.st_mode) || S_ISFIFO(old.st_mode)) return WriteToDevice(target, bytes);
-  if (S_ISDIR(old.st_mode)) return EISDIR;
-  if (!S_ISREG(old.st_mode)) return EINVAL;
-  // The rename needs no permission on the old file, but the person has protected it.
-  if (faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0) return errno;
-  const int error = WriteBesideAndRename(target, bytes, &old, new_mode);
-  return FolderRefuses(error) ? WriteInPlace(target, bytes) : error;
+  bool begun = false;
+  const auto fill = [&](int to) {
+    begun = true;
+    std::uint64_t kept = 0;
+    if (const int failed = RewriteInto(to, from.Number(), rewriter, kept)) return failed;
+    if (old) return CopyTail(old->Number(), to, kept);
+    return ftruncate(to, static_cast<off_t>(kept)) == 0 ? 0 : errno;
+  };
+  error = WriteBesideAndRename(target.path, fill, target.kind == Target::kOld ? &target.old : nullptr, 0666);
+  if (begun || target.kind != Target::kOld || !FolderRefuses(error)) return error;
+  const Descriptor in_place(open(target.path.c_str(), O_WRONLY | O_CLOEXEC));
+  if (!in_place.IsOpen()) return errno;
+  std::uint64_t kept = 0;
+  if ((error = RewriteInto(in_place.Number(), from.Number(), rewriter, kept)) != 0 || old) return error;
+  return ftruncate(in_place.Number(), static_cast<off_t>(kept)) == 0 ? 0 : errno;
+}
+
+bool LeadToSameFile(const std::string& left, const std::string& right) {
+  struct stat a {};
+  struct stat b {};
+  return stat(left.c_str(), &a) == 0 && stat(right.c_str(), &b) == 0 && a.st_dev == b.st_dev && a.st_ino == b.st_ino;
 }
 
 }  // namespace pelmar

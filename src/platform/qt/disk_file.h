@@ -29,4 +29,12 @@ FileBytes ReadWholeFile(const std::string& path, std::optional<std::uint64_t> li
 // a crash in the middle can mix the two. A character device or a pipe gets the bytes directly.
 int ReplaceFile(const std::string& path, std::string_view bytes, mode_t new_mode = 0666);
 
+// See Platform::RewriteFile. The source is a regular file. The new content goes to a file beside the target and is
+// renamed over it, with the care for links and permissions that ReplaceFile takes, but isn't brought to the disk first:
+// it can be made again from the source. Where the folder refuses that, the target itself is written.
+int RewriteFileByPieces(const std::string& source, const std::string& target, OldTail tail, FileRewriter& rewriter);
+
+// True where both paths lead to one file that is there.
+bool LeadToSameFile(const std::string& left, const std::string& right);
+
 }  // namespace pelmar

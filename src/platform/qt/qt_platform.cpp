@@ -19,6 +19,7 @@
 #include "platform/qt/dialogs.h"
 #include "platform/qt/disk_file.h"
 #include "platform/qt/install_folder.h"
+#include "platform/qt/printer.h"
 
 namespace pelmar {
 namespace {
@@ -76,6 +77,13 @@ FileBytes QtPlatform::ReadFile(const std::string& path, std::optional<std::uint6
 
 int QtPlatform::WriteFile(const std::string& path, std::string_view bytes) { return ReplaceFile(path, bytes); }
 
+int QtPlatform::RewriteFile(const std::string& source, const std::string& target, OldTail tail,
+                            FileRewriter& rewriter) {
+  return RewriteFileByPieces(source, target, tail, rewriter);
+}
+
+bool QtPlatform::IsSameFile(const std::string& left, const std::string& right) { return LeadToSameFile(left, right); }
+
 bool QtPlatform::RemoveFile(const std::string& path) { return unlink(path.c_str()) == 0; }
 
 // Beside the program in a build tree, in the share folder of its prefix where it is installed.
@@ -94,6 +102,11 @@ std::string QtPlatform::InstallFolder() {
 std::string QtPlatform::TempFolder() {
   const QString folder = QDir::tempPath();
   return Utf8FromQString(folder.endsWith(u'/') ? folder : folder + u'/');
+}
+
+PrintOutcome QtPlatform::Print(const PrintFont& font, const std::string& name,
+                               const std::function<void(Paper&)>& draw) {
+  return PrintOnDefault(font, Utf8ToQString(name), draw);
 }
 
 void QtPlatform::AddToRecentDocuments(const std::string& path) {

@@ -35,11 +35,15 @@ class QtPlatform : public Platform {
   bool CanRead(const std::string& path) override;
   FileBytes ReadFile(const std::string& path, std::optional<std::uint64_t> limit) override;
   int WriteFile(const std::string& path, std::string_view bytes) override;
+  int RewriteFile(const std::string& source, const std::string& target, OldTail tail, FileRewriter& rewriter) override;
+  bool IsSameFile(const std::string& left, const std::string& right) override;
   bool RemoveFile(const std::string& path) override;
 
   std::string InstallFolder() override;
   std::string TempFolder() override;
   std::string ShareFolder() override;
+
+  PrintOutcome Print(const PrintFont& font, const std::string& name, const std::function<void(Paper&)>& draw) override;
 
   void AddToRecentDocuments(const std::string& path) override;
   bool OpenWithDefaultProgram(const std::string& path) override;

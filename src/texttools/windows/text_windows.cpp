@@ -4,6 +4,7 @@
 #include "shell/windows/pos.h"
 #include "shell/windows/program_parts.h"
 #include "texttools/appearance.h"
+#include "texttools/windows/formatuj.h"
 #include "texttools/windows/hledani.h"
 #include "texttools/windows/visual.h"
 #include "texttools/windows/vyber.h"
@@ -27,6 +28,7 @@ void AddTextWindows(const ProgramParts& parts) {
   parts.ShowBy<Vyber>({"mnupresnvyb"});
   parts.ShowBy<Visual>({"mnumore"});
 
+  parts.editor.commands.Add("mnu_format", [parts, &text] { Formatuj(text, parts.platform, &parts.main).exec(); });
   AddAppearanceCommands(parts.editor, parts.main, parts.session);
   parts.main.on_line_counting = [&windows] {
     if (Visual* visual = windows.Find<Visual>()) visual->FollowLineCounting();

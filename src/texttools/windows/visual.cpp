@@ -3,15 +3,12 @@
 #include <QShowEvent>
 
 #include "platform/qt/convert.h"
-#include "text/codepage.h"
 #include "texttools/appearance.h"
 #include "ui_visual.h"
 
 namespace pelmar {
 namespace {
 
-constexpr std::string_view kPreview =
-    "aábcčdďeéěfghchiíjklmnoóprřsštťuúůvwxyýzž\r\nAÁBCČDĎEÉĚFGHCHIÍJKLMNOÓPQRŘSŠTŤUÚVWXYÝZŽ\r\n"_w;
 constexpr int kDefaultSnap = 240;  // twips
 
 }  // namespace
@@ -24,7 +21,7 @@ Visual::Visual(MainView& view, Session& session, SettingsRecord& settings, Doors
       doors_(std::move(doors)),
       ui_(std::make_unique<Ui::Visual>()) {
   ui_->setupUi(this);
-  ui_->Label1->SetText(ToBytes(kPreview));
+  ui_->Label1->SetText(ToBytes(kPreviewText));
   ConnectPreview();
   connect(ui_->Check1, &QCheckBox::clicked, this, [this](bool checked) { settings_.LineCounting = checked; });
   connect(ui_->VScroll7, &QScrollBar::valueChanged, this, &Visual::VScroll7_Change);

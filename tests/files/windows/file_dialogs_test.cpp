@@ -8,8 +8,12 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "files/line_ends.h"
+#include "files/windows/dir_setup.h"
+#include "files/windows/dos_unix_conv.h"
 #include "files/windows/otevri.h"
 #include "files/windows/uloz.h"
+#include "platform/qt/controls/drive_list.h"
 #include "platform/qt/controls/file_list.h"
 #include "platform/qt/controls/folder_list.h"
 #include "platform/qt/controls/text_box.h"
@@ -118,6 +122,59 @@ TEST_F(FileDialogsTest, SaveDialogHidesAfterARefusalToo) {
   EXPECT_FALSE(dialog.isVisible());
   Uloz late(editor.documents, editor.saver, nullptr);  // primed before it was made
   EXPECT_EQ(Utf8FromQString(Find<QLabel>(late, "Label1")->text()), PathOf("b.html"));
+}
+
+TEST_F(FileDialogsTest, ConversionWritesBesideTheChosenFile) {
+  Dos_Unix_conv dialog(platform, nullptr);
+  dialog.show();
+  auto* to_unix = Find<QPushButton>(dialog, "Command1");
+  auto* to_dos = Find<QPushButton>(dialog, "Command2");
+  EXPECT_FALSE(to_unix->isEnabled() || to_dos->isEnabled());
+  Find<FolderList>(dialog, "Dir1")->SetPath(folder.path());
+  Find<QComboBox>(dialog, "Text1")->setCurrentText(QStringLiteral("*.html"));
+  Choose(dialog, "b.html");
+  EXPECT_TRUE(to_unix->isEnabled() && to_dos->isEnabled());
+  EXPECT_EQ(Utf8FromQString(Find<QLabel>(dialog, "Label2")->text()), PathOf("b.html"));
+  platform.files[PathOf("b.html")] = "<B>\r\n";
+  to_unix->click();
+  to_dos->click();
+  const std::string stem = ConvertedPath(PathOf("b.html"), "");
+  EXPECT_EQ(platform.files[stem + "unx"], "<B>\n");
+  EXPECT_EQ(platform.files[stem + "dos"], "<B>\r\r\n");
+  EXPECT_TRUE(dialog.isVisible());
+  Find<QPushButton>(dialog, "Command3")->click();
+  EXPECT_FALSE(dialog.isVisible());
+}
+
+TEST_F(FileDialogsTest, WorkingFolderReachesEveryDialog) {
+  Otevri open(editor.opener, platform, nullptr);
+  std::unique_ptr<Uloz> save;  // made when it is first needed
+  const auto lists_of = [](QWidget& dialog) {
+    return DirSetup::Lists{Find<DriveList>(dialog, "Drive1"), Find<FolderList>(dialog, "Dir1")};
+  };
+  const auto save_lists = [&] {
+    if (!save) save = std::make_unique<Uloz>(editor.documents, editor.saver, nullptr);
+    return lists_of(*save);
+  };
+  DirSetup dialog({save_lists, [&] { return lists_of(open); }}, nullptr);
+  dialog.show();
+  Find<FolderList>(dialog, "Dir1")->SetPath(folder.path());
+  Find<DriveList>(dialog, "Drive1")->SetDrive(QStringLiteral("/"));
+  Find<QPushButton>(dialog, "Command2")->click();
+  EXPECT_EQ(save, nullptr);
+  dialog.show();
+  Find<QPushButton>(dialog, "Command1")->click();
+  EXPECT_FALSE(dialog.isVisible());
+  ASSERT_NE(save, nullptr);
+  EXPECT_EQ(Find<FileList>(open, "File1")->Path(), folder.path());
+  EXPECT_EQ(Find<DriveList>(open, "Drive1")->Drive(), QStringLiteral("/"));
+  EXPECT_EQ(Find<QLabel>(*save, "Label1")->text(), folder.filePath(QStringLiteral("Jméno.html")));
+  EXPECT_TRUE(Find<QPushButton>(*save, "Command1")->isEnabled());
+
+  // A folder where a list stands already counts as well.
+  Find<QPushButton>(*save, "Command1")->setEnabled(false);
+  Find<QPushButton>(dialog, "Command1")->click();
+  EXPECT_TRUE(Find<QPushButton>(*save, "Command1")->isEnabled());
 }
 
 }  // namespace

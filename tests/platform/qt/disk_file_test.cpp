@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <functional>
 
+#include "files/line_ends.h"
 #include "support/temp_folder.h"
 
 namespace pelmar {
@@ -190,6 +191,77 @@ TEST(ReplaceFile, WritesInPlaceWhereTheFolderRefuses) {
   }
   fs::permissions(folder.Path(), readable);
   AsOrdinaryUser([&] { EXPECT_EQ(ReplaceFile(folder.File("new"), "x"), EACCES); });
+}
+
+// Lines of all lengths, many times longer than what is read at once.
+std::string LongText(std::string_view line_end) {
+  std::string text;
+  for (int i = 0; i < 20'000; ++i)
+    text.append(static_cast<std::size_t>(i * 7919 % 300), 'x').append(line_end);
+  return text;
+}
+
+TEST(RewriteFileByPieces, BordersBetweenPiecesAreNotSeen) {
+  const TempFolder folder;
+  const std::string dos = folder.Put("a.txt", LongText("\r\n"));
+  const std::string unx = folder.File("a.unx");
+  ToLineFeeds to_line_feeds;
+  ASSERT_EQ(RewriteFileByPieces(dos, unx, OldTail::kKeep, to_line_feeds), 0);
+  EXPECT_TRUE(Content(unx) == LongText("\n"));
+  ToCrLf to_cr_lf;
+  ASSERT_EQ(RewriteFileByPieces(unx, dos, OldTail::kDrop, to_cr_lf), 0);
+  EXPECT_TRUE(Content(dos) == LongText("\r\n"));
+  EXPECT_EQ(EntriesOf(folder), 2U);
+}
+
+TEST(RewriteFileByPieces, AnOldTargetKeepsItsTailItsModeAndItsLink) {
+  const TempFolder folder;
+  const std::string source = folder.Put("a.txt", "1\r\n2");
+  const std::string target = folder.Put("real", "abcdefg");
+  fs::permissions(target, fs::perms::owner_all);
+  fs::create_symlink("real", folder.File("a.unx"));
+  ToLineFeeds keep;
+  EXPECT_EQ(RewriteFileByPieces(source, folder.File("a.unx"), OldTail::kKeep, keep), 0);
+  EXPECT_EQ(Content(target), "1\n2\nefg");
+  EXPECT_EQ(ModeOf(target), fs::perms::owner_all);
+  ToLineFeeds drop;
+  EXPECT_EQ(RewriteFileByPieces(source, folder.File("a.unx"), OldTail::kDrop, drop), 0);
+  EXPECT_EQ(Content(target), "1\n2\n");
+  EXPECT_TRUE(LeadToSameFile(target, folder.File("a.unx")));
+  EXPECT_FALSE(LeadToSameFile(target, source));
+  EXPECT_FALSE(LeadToSameFile(folder.File("none"), folder.File("none")));
+}
+
+TEST(RewriteFileByPieces, AFailureLeavesTheOldTarget) {
+  const TempFolder folder;
+  const std::string source = folder.Put("a.txt", LongText("\r\n"));
+  const std::string target = folder.Put("a.unx", "old");
+  {
+    const FullDisk full(4096);
+    ToLineFeeds rewriter;
+    EXPECT_EQ(RewriteFileByPieces(source, target, OldTail::kKeep, rewriter), EFBIG);
+  }
+  ToLineFeeds rewriter;
+  EXPECT_EQ(RewriteFileByPieces(folder.File("none"), target, OldTail::kKeep, rewriter), ENOENT);
+  EXPECT_EQ(RewriteFileByPieces(folder.Path(), target, OldTail::kKeep, rewriter), EISDIR);
+  EXPECT_EQ(Content(target), "old");
+  EXPECT_EQ(EntriesOf(folder), 2U);
+}
+
+TEST(RewriteFileByPieces, WritesInPlaceWhereTheFolderRefuses) {
+  const TempFolder folder;
+  const std::string source = folder.Put("a.txt", "1\n2\n");
+  const std::string target = folder.Put("a.dos", "old content");
+  for (const std::string& path : {source, target}) fs::permissions(path, fs::perms::all);
+  fs::permissions(folder.Path(), fs::perms::owner_exec | fs::perms::group_exec | fs::perms::others_exec);
+  AsOrdinaryUser([&] {
+    ToLineFeeds keep;
+    EXPECT_EQ(RewriteFileByPieces(source, target, OldTail::kKeep, keep), 0);
+    EXPECT_EQ(Content(target), "1\n2\ncontent");
+    ToCrLf drop;
+    EXPECT_EQ(RewriteFileByPieces(source, target, OldTail::kDrop, drop), 0);
+    EXPECT_EQ(Content(target), "1\r\n2\r\n");
+  });
 }
 
 }  // namespace

@@ -107,12 +107,17 @@ void GlyphTable::FillSigns(const QFont& font) {
   }
 }
 
+std::int64_t GlyphTable::EndOf(std::int64_t x, std::string_view text) const {
+  for (const char ch : text) x = ch == '\t' ? NextTab(x) : x + advances_.of[static_cast<unsigned char>(ch)];
+  return x;
+}
+
 void GlyphTable::Draw(QPainter& painter, QPointF origin, std::int64_t x, std::string_view text,
                       const QColor& colour) const {
   for (const char ch : text) {
     const auto code = static_cast<unsigned char>(ch);
     if (ch == '\t') {
-      x = (x / advances_.tab_stop + 1) * advances_.tab_stop;
+      x = NextTab(x);
       continue;
     }
     if (IsControlSign(code)) {

@@ -24,6 +24,9 @@ class GlyphTable {
   [[nodiscard]] int RowHeight() const { return row_height_; }
   [[nodiscard]] int Ascent() const { return ascent_; }
 
+  // Where a part of a row ends that begins at `x`, in layout units.
+  [[nodiscard]] std::int64_t EndOf(std::int64_t x, std::string_view text) const;
+
   // Draws a part of a row. `x` is its distance from the row's beginning, in layout units (tab stops count from there);
   // `origin` is where the row begins, on the top edge.
   void Draw(QPainter& painter, QPointF origin, std::int64_t x, std::string_view text, const QColor& colour) const;
@@ -38,6 +41,7 @@ class GlyphTable {
     std::vector<QPointF> places;
   };
 
+  [[nodiscard]] std::int64_t NextTab(std::int64_t x) const { return (x / advances_.tab_stop + 1) * advances_.tab_stop; }
   void FillFromFont(const QFont& font);
   void FillFromFallback(const QFont& font, std::size_t code);
   void FillSigns(const QFont& font);

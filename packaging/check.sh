@@ -1,0 +1,43 @@
+#!/bin/sh
+# What ./test --all runs behind the tests: the tests once more under the address and undefined behaviour sanitizers, each
+# fuzzer for a while, clang-tidy over what the last day changed, and each benchmark once to see that it still runs.
+root=$(dirname "$(dirname "$(readlink -f "$0")")")
+step=check
+. "$root/packaging/setup.sh"
+fuzz_seconds=20
+most_tidied=60  # files, which keeps a day of many changes within some minutes
+cd "$root" || exit 1
+
+configure_and_build asan core_tests window_tests || exit 1
+tell "running the core and window tests under the sanitizers"
+# The toolkit and its plug-ins keep some memory for the life of the process.
+ASAN_OPTIONS=detect_leaks=0 ctest --test-dir build/asan -R '^(core|windows)$' --output-on-failure --no-tests=error \
+  --timeout 900 || exit 1
+
+configure_and_build fuzz fuzzers || exit 1
+for fuzzer in build/fuzz/fuzz/*_fuzzer; do
+  tell "fuzzing with $(basename "$fuzzer") for $fuzz_seconds s"
+  log=$fuzzer.log
+  if ! "$fuzzer" -max_total_time=$fuzz_seconds -artifact_prefix="$fuzzer-" >"$log" 2>&1; then
+    tail -40 "$log" >&2
+    exit 1
+  fi
+done
+
+changed=$(git log --since='24 hours ago' --name-only --pretty=format: -- 'src/*.cpp' 2>/dev/null | sort -u |
+  while read -r file; do [ -n "$file" ] && [ -f "$file" ] && echo "$file"; done | head -n $most_tidied)
+if [ -n "$changed" ]; then
+  tell "clang-tidy over $(echo "$changed" | wc -l) changed files"
+  # In a tree without precompiled headers, which are the other compiler's own; of it only what forms and classes
+  # generate is built.
+  configure_and_build tidy pelmar_ui_autogen || exit 1
+  echo "$changed" | xargs -P "$(nproc)" -n 4 clang-tidy --quiet -p build/tidy >&2 || exit 1
+fi
+
+for benchmark in build/check/bench/*_bench; do
+  tell "running $(basename "$benchmark") once"
+  "$benchmark" --benchmark_min_time=0.001 >"$benchmark.log" 2>&1 || {
+    cat "$benchmark.log" >&2
+    exit 1
+  }
+done

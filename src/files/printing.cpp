@@ -1,0 +1,116 @@
+#include "files/printing.h"
+
+#include "shell/common.h"
+#include "shell/editor.h"
+
+namespace pelmar {
+namespace {
+
+constexpr std::string_view kMargin = "ZZZZZZZZ";
+constexpr std::string_view kBreaks = "\r\n";
+
+// Takes the text before the first of `ends` off the front of `text`.
+std::string_view TakeUpTo(std::string_view& text, std::string_view ends) {
+  const std::string_view taken = text.substr(0, text.find_first_of(ends));
+  text.remove_prefix(taken.size());
+  return taken;
+}
+
+// A document of another system has line ends of one character, which are line breaks on paper as well.
+std::size_t BreakLength(std::string_view text) { return text.starts_with(kCrLf) ? 2 : 1; }
+
+class WordWrap {
+ public:
+  using EndOf = std::function<double(double x, std::string_view text)>;
+
+  WordWrap(double page_width, const EndOf& end_of) : limit_(page_width - end_of(0, kMargin)), end_of_(end_of) {}
+
+  void AddWord(std::string_view word) {
+    const std::string_view first = TakeUpTo(word, kBreaks);
+    if (end_of_(x_, first) > limit_) EndLine();
+    Put(first);
+    while (!word.empty()) {
+      word.remove_prefix(BreakLength(word));
+      EndLine();
+      Put(TakeUpTo(word, kBreaks));
+    }
+    x_ = end_of_(x_, " ");
+  }
+
+  [[nodiscard]] std::vector<PrintedPiece> TakePieces() { return std::move(pieces_); }
+
+ private:
+  void EndLine() {
+    ++line_;
+    x_ = 0;
+  }
+
+  void Put(std::string_view text) {
+    if (text.empty()) return;
+    pieces_.push_back({line_, x_, text});
+    x_ = end_of_(x_, text);
+  }
+
+  double limit_;
+  const EndOf& end_of_;
+  std::vector<PrintedPiece> pieces_;
+  std::size_t line_ = 0;
+  double x_ = 0;
+};
+
+void PutOnPages(const std::vector<PrintedPiece>& pieces, Paper& paper) {
+  const std::size_t lines = paper.LinesPerPage();
+  std::size_t page = 0;
+  for (const PrintedPiece& piece : pieces) {
+    for (; page < piece.line / lines; ++page) paper.NewPage();
+    paper.Put(piece.line % lines, piece.x, piece.text);
+  }
+}
+
+bool OnlySelection(Editor& e) {
+  return e.text.HasSelection() &&
+         e.platform.Message(MessageType::kYesNoWarning, "Tisknout pouze výběr ?", "Tisk") == Answer::kYes;
+}
+
+}  // namespace
+
+std::vector<PrintedPiece> LayOutForPrint(std::string_view text, double page_width,
+                                         const std::function<double(double x, std::string_view text)>& end_of) {
+  WordWrap wrap(page_width, end_of);
+  while (!text.empty()) {
+    wrap.AddWord(TakeUpTo(text, " "));
+    if (!text.empty()) text.remove_prefix(1);
+  }
+  return wrap.TakePieces();
+}
+
+std::string PrintName(std::string_view path) {
+  std::string_view name = path.substr(path.find_last_of("/\\") + 1);
+  if (const std::size_t dot = name.rfind('.'); dot != 0 && dot != std::string_view::npos) name = name.substr(0, dot);
+  return name.empty() ? "Pelmar VEX" : std::string(name);
+}
+
+void PrintDocument(Editor& e, const EditorLook& look) {
+  const std::string text(OnlySelection(e) ? e.text.SelText() : std::string_view(e.text.Text()));
+  e.platform.SetBusyPointer(true);
+  const PrintOutcome outcome = e.platform.Print({look.font_name, look.font_size, look.bold, look.italic},
+                                                PrintName(e.documents.CurrentPath()), [&text](Paper& paper) {
+                                                  const auto end_of = [&paper](double x, std::string_view piece) {
+                                                    return paper.EndOf(x, piece);
+                                                  };
+                                                  PutOnPages(LayOutForPrint(text, paper.Width(), end_of), paper);
+                                                });
+  e.platform.SetBusyPointer(false);
+  if (outcome.error != 0) throw RuntimeError(outcome.error, "Tisk se nezdařil");
+  if (outcome.pdf.empty()) return;
+  e.platform.Message(MessageType::kOkInfo,
+                     "Není nastavena žádná tiskárna. Text je vytištěn do souboru" + std::string(kCrLf) + outcome.pdf,
+                     "Tisk");
+}
+
+void AddPrintCommands(Editor& editor, MainView& view) {
+  for (const std::string_view name : {"mnuprint", "Print"})
+    editor.commands.Add(name, [&editor, &view] { PrintDocument(editor, view.Look()); });
+}
+
+}  // namespace pelmar

@@ -1,0 +1,65 @@
+#include "html/dialogs/frame.h"
+
+#include "html/dialogs/form_helpers.h"
+#include "html/insert.h"
+#include "platform/qt/convert.h"
+#include "ui_frame.h"
+
+namespace pelmar {
+
+Frame::Frame(TextBuffer& document, std::function<void(const std::string&)> show_in_browser, QWidget* parent)
+    : DialogWindow(parent), document_(document), ui_(std::make_unique<Ui::Frame>()) {
+  ui_->setupUi(this);
+  LinkFileChoice(Choice(), std::move(show_in_browser));
+  EnableWith(ui_->Check4, {ui_->Text1});
+  EnableWith(ui_->Check6, {ui_->Combo3});
+  EnableWith(ui_->Check1, {ui_->Combo2});
+  EnableWith(ui_->Check7, {ui_->VScroll1});
+  EnableWith(ui_->Check8, {ui_->VScroll2});
+  EnableWith(ui_->Check9, {ui_->VScroll12, ui_->VScroll11, ui_->VScroll10});
+  EnableWith(ui_->Check3, {ui_->VScroll4, ui_->VScroll5});
+  // required: Label13 and Label4 begin at "0", which their bars never reach, and what they say is written
+  ShowValue(ui_->VScroll1, ui_->Label13);
+  ShowValue(ui_->VScroll2, ui_->Label4);
+  ShowValue(ui_->VScroll4, ui_->Label11);
+  ShowValue(ui_->VScroll5, ui_->Label12);
+  for (QScrollBar* channel : {ui_->VScroll12, ui_->VScroll11, ui_->VScroll10})
+    connect(channel, &QScrollBar::valueChanged, this, &Frame::ShowBorderColor);
+  connect(ui_->Command1, &QPushButton::clicked, this, &Frame::Command1_Click);
+  connect(ui_->Command2, &QPushButton::clicked, this, &Frame::hide);
+}
+
+Frame::~Frame() = default;
+
+FileChoice Frame::Choice() const {
+  return {ui_->Drive1, ui_->Dir1, ui_->File1, ui_->Combo1, ui_->Check5, ui_->Label1, ui_->Command1, ui_->Command3};
+}
+
+void Frame::ShowBorderColor() {
+  const Color color = Rgb(ui_->VScroll12->value(), ui_->VScroll11->value(), ui_->VScroll10->value());
+  ui_->Picture3->setColor(ColorToQt(color));
+  ui_->Label8->setText(Utf8ToQString(ColorToHex(color)));
+}
+
+FrameSpec Frame::Read() const {
+  FrameSpec spec;
+  spec.path = TakePath(Choice(), *ui_->Text);
+  spec.relative = ui_->Check5->isChecked();
+  spec.name = Written(ui_->Check4, ui_->Text1);
+  spec.align = Written(ui_->Check6, ui_->Combo3);
+  spec.border = Written(ui_->Check7, ui_->Label13);
+  spec.border_color = Written(ui_->Check9, ui_->Label8);
+  spec.spacing = Written(ui_->Check8, ui_->Label4);
+  spec.scrolling = Written(ui_->Check1, ui_->Combo2);
+  if (ui_->Check3->isChecked())
+    spec.margins = {TextFromQString(ui_->Label12->text()), TextFromQString(ui_->Label11->text())};
+  spec.noresize = ui_->Check2->isChecked();
+  return spec;
+}
+
+void Frame::Command1_Click() {
+  InsertAtCaret(document_, FrameTag(Read()));
+  hide();
+}
+
+}  // namespace pelmar

@@ -1,0 +1,96 @@
+#include "html/dialogs/vytvor.h"
+
+#include "html/dialogs/form_helpers.h"
+#include "html/insert.h"
+#include "platform/qt/convert.h"
+#include "texttools/appearance.h"
+#include "ui_vytvor.h"
+
+namespace pelmar {
+
+Vytvor::Vytvor(TextBuffer& document, MainView& view, const SettingsRecord& settings, Platform& platform,
+               const Doors& doors, QWidget* parent)
+    : DialogWindow(parent),
+      document_(document),
+      view_(view),
+      settings_(settings),
+      platform_(platform),
+      ui_(std::make_unique<Ui::Vytvor>()) {
+  ui_->setupUi(this);
+  ui_->Text1->SetText(ToBytes(kPreviewText));
+  ConnectColors(doors.pick_color);
+  EnableWith(ui_->Check8, {ui_->HScroll1});
+  ShowValue(ui_->HScroll1, ui_->Label14);
+  LinkFileChoice(Choice(), doors.show_in_browser);
+  EnableWith(ui_->Check3, {ui_->Drive1, ui_->Dir1, ui_->File1, ui_->Combo1, ui_->Check4});
+  connect(ui_->Check3, &QCheckBox::toggled, this, &Vytvor::Check3_Click);
+  connect(ui_->Command1, &QPushButton::clicked, this, &Vytvor::Command1_Click);
+  connect(ui_->Command2, &QPushButton::clicked, this, &Vytvor::hide);
+}
+
+Vytvor::~Vytvor() = default;
+
+FileChoice Vytvor::Choice() const {
+  return {ui_->Drive1, ui_->Dir1, ui_->File1, ui_->Combo1, ui_->Check4, ui_->Label10, ui_->Command1, ui_->Command3};
+}
+
+void Vytvor::ConnectColors(const std::function<Color(Color)>& pick_color) {
+  struct Row {
+    QCheckBox* box;
+    QPushButton* button;
+    Swatch* swatch;
+    QLabel* hex;
+    std::function<void(const QColor&)> preview;
+  };
+  const Row rows[] = {
+      {ui_->Check1, ui_->Command4, ui_->Label1, ui_->Label2,
+       [this](const QColor& color) { ui_->Text1->setBackgroundColor(color); }},
+      {ui_->Check2, ui_->Command7, ui_->Picture1, ui_->Label4,
+       [this](const QColor& color) { ui_->Text1->setTextColor(color); }},
+      {ui_->Check7, ui_->Command6, ui_->Picture4, ui_->Label13, {}},
+      {ui_->Check5, ui_->Command5, ui_->Picture2, ui_->Label12, {}},
+      {ui_->Check6, ui_->Command8, ui_->Picture3, ui_->Label11, {}},
+  };
+  for (const Row& row : rows) {
+    EnableWith(row.box, {row.button});
+    ConnectColorChoice(row.button, row.swatch, row.hex, pick_color, row.preview);
+  }
+}
+
+void Vytvor::Check3_Click(bool picture) {
+  if (picture) return RefreshFileChoice(Choice());
+  ui_->Command1->setEnabled(true);
+  ui_->Command3->setEnabled(false);
+}
+
+PageSpec Vytvor::Read() const {
+  const LocalTime now = platform_.Now();
+  PageSpec spec;
+  spec.author = settings_.UserName;
+  spec.created = DateText(now) + ' ' + TimeText(now);
+  spec.title = TextFromQString(ui_->Text2->text());
+  spec.background = Written(ui_->Check3, ui_->Label10);
+  spec.bgcolor = Written(ui_->Check1, ui_->Label2);
+  spec.text = Written(ui_->Check2, ui_->Label4);
+  spec.link = Written(ui_->Check7, ui_->Label13);
+  spec.vlink = Written(ui_->Check5, ui_->Label12);
+  spec.alink = Written(ui_->Check6, ui_->Label11);
+  if (ui_->Check8->isChecked()) spec.base_font = ui_->HScroll1->value();
+  return spec;
+}
+
+// required: the editor takes the swatches' colours, which differ from the hex labels as long as none was picked
+void Vytvor::ColorEditor() {
+  if (!ui_->Check1->isChecked() && !ui_->Check2->isChecked()) return;
+  const EditorLook look = view_.Look();
+  view_.SetEditorColors(ui_->Check2->isChecked() ? ColorFromQt(ui_->Picture1->Color()) : look.fore_color,
+                        ui_->Check1->isChecked() ? ColorFromQt(ui_->Label1->Color()) : look.back_color);
+}
+
+void Vytvor::Command1_Click() {
+  ColorEditor();
+  WrapInPage(document_, Read());
+  hide();
+}
+
+}  // namespace pelmar

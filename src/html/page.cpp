@@ -1,0 +1,63 @@
+#include "html/page.h"
+
+#include "html/attributes.h"
+#include "shell/common.h"
+
+namespace pelmar {
+namespace {
+
+std::string Line(std::string_view text) {
+  std::string line(text);
+  return line += kCrLf;
+}
+
+std::string OptionalAttribute(std::string_view name, const std::optional<std::string>& value) {
+  return value ? Attribute(name, *value) : std::string();
+}
+
+std::string BodyTag(const PageSpec& spec) {
+  std::string tag(" <BODY");
+  // required: a file's URL for a bare name too
+  if (spec.background) tag += Attribute("BACKGROUND", PathToFileUrl(*spec.background));
+  tag += OptionalAttribute("BGCOLOR", spec.bgcolor);
+  tag += OptionalAttribute("TEXT", spec.text);
+  tag += OptionalAttribute("LINK", spec.link);
+  tag += OptionalAttribute("VLINK", spec.vlink);
+  tag += OptionalAttribute("ALINK", spec.alink);
+  return tag += '>';
+}
+
+std::string HeadOf(const PageSpec& spec) {
+  std::string head = Line(R"(<!DOCTYPE HTML PUBLIC "-//W3C//DTD HTML 4.0 Final//EN">)") + Line(" <HEAD>");
+  head += CodePageAndGenerator();
+  head += Line("  <META NAME=\"AUTHOR\" CONTENT=" + Quoted(spec.author) + '>');
+  head += Line("  <META NAME=\"CREATED\" CONTENT=" + Quoted(spec.created) + '>');
+  head += Line("  <TITLE>" + spec.title + "</TITLE>");
+  head += Line(" </HEAD>");
+  head += Line(BodyTag(spec));
+  if (spec.base_font) head += Line("<BASEFONT SIZE=" + Quoted(std::to_string(*spec.base_font)) + '>');
+  return head;
+}
+
+}  // namespace
+
+std::string CodePageAndGenerator() {
+  return Line(R"(  <META HTTP-EQUIV="Content-Type" CONTENT="text/html; charset=windows-1250">)") +
+         Line(R"(  <META NAME="GENERATOR" CONTENT="Orvilanths PELmar VEX v8.9.2.1b CZ">)");
+}
+
+void PutAround(TextBuffer& box, std::string_view head, std::string_view sample, std::string_view tail) {
+  std::string body(box.Text());
+  if (body.empty()) body = sample;
+  std::string text(head);
+  text += body;
+  text += tail;
+  box.SetText(std::move(text));
+  box.Select(head.size(), head.size() + body.size());
+}
+
+void WrapInPage(TextBuffer& box, const PageSpec& spec) {
+  PutAround(box, HeadOf(spec), "---TEXT---", "\r\n\r\n </BODY>\r\n</HTML>");
+}
+
+}  // namespace pelmar

@@ -1,0 +1,36 @@
+#include "platform/qt/controls/list_rows.h"
+
+#include <QListWidget>
+#include <QStyledItemDelegate>
+
+namespace pelmar {
+namespace {
+
+class OneLineDelegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  [[nodiscard]] QString displayText(const QVariant& value, const QLocale& locale) const override {
+    QString text = QStyledItemDelegate::displayText(value, locale);
+    const QChar sign(0xB6);
+    return text.replace(QLatin1String("\r\n"), sign)
+        .replace(u'\r', sign)
+        .replace(u'\n', sign)
+        .replace(QChar::LineSeparator, sign);
+  }
+};
+
+}  // namespace
+
+void OnRowPicked(QListWidget& list, const std::function<void(int row)>& picked) {
+  const auto tell = [&list, picked] {
+    const QList<QListWidgetItem*> rows = list.selectedItems();
+    if (!rows.isEmpty()) picked(list.row(rows.first()));
+  };
+  QObject::connect(&list, &QListWidget::itemSelectionChanged, &list, tell);
+  QObject::connect(&list, &QListWidget::itemClicked, &list, tell);
+}
+
+void ShowRowsOnOneLine(QListWidget& list) { list.setItemDelegate(new OneLineDelegate(&list)); }
+
+}  // namespace pelmar
