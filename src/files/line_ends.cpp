@@ -7,14 +7,34 @@
 namespace pelmar {
 namespace {
 
-// The text up to the next `stop`, taken off the front of `text`; all of it where there is none.
-std::string_view TakeUpTo(std::string_view& text, char stop) {
-  const void* const found = text.empty() ? nullptr : std::memchr(text.data(), stop, text.size());
-  const std::size_t length =
-      found == nullptr ? text.size() : static_cast<std::size_t>(static_cast<const char*>(found) - text.data());
-  const std::string_view taken = text.substr(0, length);
-  text.remove_prefix(length);
-  return taken;
+constexpr std::size_t kWord = sizeof(std::uint64_t);
+
+// True where one of the eight characters is `ch`, found by arithmetic on all of them at once.
+bool Holds(std::uint64_t word, char ch) {
+  constexpr std::uint64_t kOnes = 0x0101010101010101;
+  const std::uint64_t same = word ^ (kOnes * static_cast<unsigned char>(ch));
+  return ((same - kOnes) & ~same & (kOnes << 7)) != 0;
+}
+
+// Copies `piece` to `to` and returns the end of what was written. `plain(word, at)` tells of eight characters whether
+// they stay as they are; others go one by one through `step(at, to)`. No branch looks at a single character, so that a
+// file of line ends alone is nearly as quick as any other.
+template <typename Plain, typename Step>
+char* CopyWith(std::string_view piece, char* to, Plain plain, Step step) {
+  const char* at = piece.data();
+  const char* const end = at + piece.size();
+  for (; end - at >= static_cast<std::ptrdiff_t>(kWord); at += kWord) {
+    std::uint64_t word = 0;
+    std::memcpy(&word, at, kWord);
+    if (plain(word, at)) {
+      std::memcpy(to, &word, kWord);
+      to += kWord;
+    } else {
+      for (std::size_t i = 0; i < kWord; ++i) to = step(at + i, to);
+    }
+  }
+  for (; at < end; ++at) to = step(at, to);
+  return to;
 }
 
 void Convert(Platform& platform, const std::string& path, std::string_view extension, OldTail tail,
@@ -33,42 +53,50 @@ void Convert(Platform& platform, const std::string& path, std::string_view exten
 
 }  // namespace
 
-void ToLineFeeds::Rewrite(std::string_view piece, std::string& out) {
-  if (piece.empty()) return;
-  const std::size_t had = out.size();
-  if (after_cr_ && piece.front() == '\n') piece.remove_prefix(1);
-  after_cr_ = false;
-  while (!piece.empty()) {
-    out += TakeUpTo(piece, '\r');
-    if (piece.empty()) break;
-    out += '\n';
-    piece.remove_prefix(1);
-    after_cr_ = piece.empty();
-    if (piece.starts_with('\n')) piece.remove_prefix(1);
-  }
-  put_ += out.size() - had;
-  if (out.size() > had) in_line_ = out.back() != '\n';
+std::string_view ToLineFeeds::Rewrite(std::string_view piece) {
+  if (piece.empty()) return {};
+  if (out_.size() < piece.size()) out_.resize(piece.size());
+  const bool after_cr = after_cr_;
+  after_cr_ = piece.back() == '\r';
+  if (after_cr && piece.front() == '\n') piece.remove_prefix(1);
+  if (piece.empty()) return {};
+  // With its first character done, each other one has one before it to look at.
+  out_[0] = piece.front() == '\r' ? '\n' : piece.front();
+  const char* const end = CopyWith(
+      piece.substr(1), out_.data() + 1,
+      [](std::uint64_t word, const char* at) { return !Holds(word, '\r') && at[-1] != '\r'; },
+      [](const char* at, char* to) {
+        *to = *at == '\r' ? '\n' : *at;
+        return to + !(at[-1] == '\r' && *at == '\n');
+      });
+  const std::string_view out(out_.data(), static_cast<std::size_t>(end - out_.data()));
+  in_line_ = out.back() != '\n';
+  kept_ += out.size();
+  return out;
 }
 
-std::uint64_t ToLineFeeds::Finish(std::string& out) {
-  if (!in_line_) return put_;
-  out += '\n';
-  return ++put_;
+std::string_view ToLineFeeds::Finish() {
+  const std::string_view out = in_line_ ? "\n" : "";
+  kept_ += out.size();
+  return out;
 }
 
-void ToCrLf::Rewrite(std::string_view piece, std::string& out) {
-  const std::size_t had = out.size();
-  while (true) {
-    out += TakeUpTo(piece, '\n');
-    if (piece.empty()) break;
-    out += kCrLf;
-    piece.remove_prefix(1);
-    last_line_end_ = put_ + out.size() - had;
-  }
-  put_ += out.size() - had;
+std::string_view ToCrLf::Rewrite(std::string_view piece) {
+  if (out_.size() < 2 * piece.size()) out_.resize(2 * piece.size());
+  const char* const end = CopyWith(
+      piece, out_.data(), [](std::uint64_t word, const char*) { return !Holds(word, '\n'); },
+      [](const char* at, char* to) {
+        *to = '\r';
+        to += *at == '\n';
+        *to = *at;
+        return to + 1;
+      });
+  const std::string_view out(out_.data(), static_cast<std::size_t>(end - out_.data()));
+  const void* const feed = out.empty() ? nullptr : memrchr(out.data(), '\n', out.size());
+  if (feed != nullptr) kept_ = put_ + static_cast<std::uint64_t>(static_cast<const char*>(feed) - out.data()) + 1;
+  put_ += out.size();
+  return out;
 }
-
-std::uint64_t ToCrLf::Finish(std::string&) { return last_line_end_; }
 
 std::string ConvertedPath(std::string_view path, std::string_view extension) {
   return std::string(path.substr(0, path.find('.') + 1)).append(extension);

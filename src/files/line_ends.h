@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/platform.h"
 
@@ -12,11 +13,13 @@ namespace pelmar {
 // CR LF, CR and LF each end a line; each line goes out with LF behind it, the last one too.
 class ToLineFeeds : public FileRewriter {
  public:
-  void Rewrite(std::string_view piece, std::string& out) override;
-  std::uint64_t Finish(std::string& out) override;
+  std::string_view Rewrite(std::string_view piece) override;
+  std::string_view Finish() override;
+  [[nodiscard]] std::uint64_t Kept() const override { return kept_; }
 
  private:
-  std::uint64_t put_ = 0;  // bytes that went out
+  std::vector<char> out_;
+  std::uint64_t kept_ = 0;
   bool after_cr_ = false;  // an LF that comes now belongs to the CR before it
   bool in_line_ = false;   // the last line has no end yet
 };
@@ -25,12 +28,14 @@ class ToLineFeeds : public FileRewriter {
 // the last LF is lost.
 class ToCrLf : public FileRewriter {
  public:
-  void Rewrite(std::string_view piece, std::string& out) override;
-  std::uint64_t Finish(std::string& out) override;
+  std::string_view Rewrite(std::string_view piece) override;
+  std::string_view Finish() override { return {}; }
+  [[nodiscard]] std::uint64_t Kept() const override { return kept_; }
 
  private:
+  std::vector<char> out_;
   std::uint64_t put_ = 0;
-  std::uint64_t last_line_end_ = 0;  // of the bytes that went out
+  std::uint64_t kept_ = 0;
 };
 
 // Where the conversion of a file goes. required: the path is cut behind its first full stop, be that in the name of a

@@ -1,6 +1,7 @@
 #include "html/link.h"
 
 #include "html/attributes.h"
+#include "html/insert.h"
 
 namespace pelmar {
 namespace {
@@ -9,8 +10,8 @@ std::string Opening(std::string_view target) { return "<A" + Attribute("HREF", t
 
 }  // namespace
 
-std::string LinkTag::Around(std::string_view selection) const {
-  return open + (selection.empty() ? text : std::string(selection)) + "</A>";
+void InsertLink(TextBuffer& document, const LinkTag& link) {
+  WrapSelection(document, link.open, "</A>", link.open + link.text + "</A>");
 }
 
 std::string AnchorTag(std::string_view name) { return "<A" + Attribute("NAME", name) + "></A>"; }

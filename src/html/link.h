@@ -5,15 +5,18 @@
 #include <string>
 #include <string_view>
 
+#include "text/text_buffer.h"
+
 namespace pelmar {
 
 // A tag that goes around the selection; where nothing is selected, `text` stands in it.
 struct LinkTag {
   std::string open;
   std::string text;
-
-  [[nodiscard]] std::string Around(std::string_view selection) const;
 };
+
+// The tag around the selection, or with its own text at the caret.
+void InsertLink(TextBuffer& document, const LinkTag& link);
 
 // The place in a document that links lead to.
 std::string AnchorTag(std::string_view name);

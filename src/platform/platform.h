@@ -68,7 +68,7 @@ struct PrintOutcome {
   std::string pdf;  // the path of the file that stands for the paper where there is no printer
 };
 
-// What the line-end conversion does with each piece of a file: appends to `out` what the piece becomes.
+// What becomes of the bytes of a file on their way into another. A result is valid until the next call.
 class FileRewriter {
  public:
   FileRewriter() = default;
@@ -76,9 +76,11 @@ class FileRewriter {
   FileRewriter& operator=(const FileRewriter&) = delete;
   virtual ~FileRewriter() = default;
 
-  virtual void Rewrite(std::string_view piece, std::string& out) = 0;
-  // Behind the last piece. Returns how many of all the bytes that were put out are to stay.
-  virtual std::uint64_t Finish(std::string& out) = 0;
+  virtual std::string_view Rewrite(std::string_view piece) = 0;
+  // What comes behind the last piece.
+  virtual std::string_view Finish() = 0;
+  // After Finish: how many of all the bytes that were given back are to stay, from the first on.
+  [[nodiscard]] virtual std::uint64_t Kept() const = 0;
 };
 
 // What happens to a longer old file behind the new content.
@@ -114,6 +116,8 @@ class Platform {
   virtual bool CanRead(const std::string& path) = 0;  // opens for reading; false for a folder
   virtual FileBytes ReadFile(const std::string& path, std::optional<std::uint64_t> limit) = 0;
   virtual int WriteFile(const std::string& path, std::string_view bytes) = 0;  // 0 or errno
+  // A file that only its owner can read. EEXIST where anything has that name already, links that lead nowhere included.
+  virtual int WriteNewFile(const std::string& path, std::string_view bytes) = 0;  // 0 or errno
   // Reads one file and writes another, piece by piece, so that its size doesn't matter. The target is the new content
   // once that is complete, and what it was until then. 0 or errno.
   virtual int RewriteFile(const std::string& source, const std::string& target, OldTail tail,

@@ -4,6 +4,8 @@
 
 #include "ciphers/commands.h"
 #include "html/insert.h"
+#include "html/lists.h"
+#include "html/test_page.h"
 #include "texttools/commands.h"
 
 namespace pelmar {
@@ -55,7 +57,9 @@ Editor::Editor(Platform& platform_layer) : platform(platform_layer) {
   AddToolbarClipboard(*this);
   AddTagCommands(*this);
   AddTextToolCommands(*this);
+  AddListCommands(*this);
   AddCipherCommands(*this);
+  AddPageTestCommands(*this);
 }
 
 void NewDocument(Editor& editor) {

@@ -3,6 +3,7 @@
 #include <functional>
 #include <string>
 
+#include "accessories/morse.h"
 #include "html/insert.h"
 #include "shell/editor.h"
 #include "text/codepage.h"
@@ -113,6 +114,7 @@ void AddClipboardCommands(Editor& e) {
 
 void AddTextToolCommands(Editor& editor) {
   AddTransforms(editor);
+  AddBusy(editor, "mnuMakeMorse", [&editor] { editor.text.ReplaceSelection(TextToMorse(editor.text.SelText())); });
   AddLineTools(editor);
   AddRandomTexts(editor);
   AddClipboardCommands(editor);

@@ -9,17 +9,27 @@
 namespace pelmar {
 namespace {
 
+// What the link makes of a document that is all selected.
+std::string Around(const LinkTag& link, std::string_view selection) {
+  TextBuffer document;
+  document.SetText(std::string(selection));
+  document.Select(0, document.Size());
+  InsertLink(document, link);
+  EXPECT_EQ(document.SelStart(), document.Size());
+  return document.Text();
+}
+
 TEST(Link, AnchorsAndLinksToThem) {
   EXPECT_EQ(AnchorTag("Kotva 1"), R"(<A NAME="Kotva 1"></A>)");
-  EXPECT_EQ(LinkToAnchor("x").Around("text"), R"(<A HREF="#x">text</A>)");
-  EXPECT_EQ(LinkToAnchor("x").Around(" "), R"(<A HREF="#x"> </A>)");
-  EXPECT_EQ(LinkToAnchor("část"_w).Around(""), R"(<A HREF="#část">Odkaz na část</A>)"_w);
+  EXPECT_EQ(Around(LinkToAnchor("x"), "text"), R"(<A HREF="#x">text</A>)");
+  EXPECT_EQ(Around(LinkToAnchor("x"), " "), R"(<A HREF="#x"> </A>)");
+  EXPECT_EQ(Around(LinkToAnchor("část"_w), ""), R"(<A HREF="#část">Odkaz na část</A>)"_w);
 }
 
 TEST(Link, MailHasABlankBeforeItsEnd) {
-  EXPECT_EQ(LinkToMail("a@b").Around(""), R"(<A HREF="mailto:a@b" >mailto na a@b</A>)");
-  EXPECT_EQ(LinkToMail("a@b").Around("Pište"_w), R"(<A HREF="mailto:a@b" >Pište</A>)"_w);
-  EXPECT_EQ(LinkToMail("").Around(""), R"(<A HREF="mailto:" >mailto na </A>)");
+  EXPECT_EQ(Around(LinkToMail("a@b"), ""), R"(<A HREF="mailto:a@b" >mailto na a@b</A>)");
+  EXPECT_EQ(Around(LinkToMail("a@b"), "Pište"_w), R"(<A HREF="mailto:a@b" >Pište</A>)"_w);
+  EXPECT_EQ(Around(LinkToMail(""), ""), R"(<A HREF="mailto:" >mailto na </A>)");
 }
 
 TEST(Link, DocumentWithFragmentAndFrame) {
@@ -29,8 +39,8 @@ TEST(Link, DocumentWithFragmentAndFrame) {
       {{"x.htm", "", ""}, R"(<A HREF="x.htm" TARGET="">Odkaz na x.htm</A>)"},
       {{"", "a", {}}, R"(<A HREF="#a">Odkaz na #a</A>)"},
   };
-  for (const auto& [link, tag] : cases) EXPECT_EQ(LinkToDocument(link).Around(""), tag);
-  EXPECT_EQ(LinkToDocument(cases[1].first).Around("text"), R"(<A HREF="x.htm#a" TARGET="_top">text</A>)");
+  for (const auto& [link, tag] : cases) EXPECT_EQ(Around(LinkToDocument(link), ""), tag);
+  EXPECT_EQ(Around(LinkToDocument(cases[1].first), "text"), R"(<A HREF="x.htm#a" TARGET="_top">text</A>)");
 }
 
 }  // namespace

@@ -106,6 +106,12 @@ int ScriptedPlatform::WriteFile(const std::string& path, std::string_view bytes)
   return 0;
 }
 
+int ScriptedPlatform::WriteNewFile(const std::string& path, std::string_view bytes) {
+  calls.push_back("create " + path);
+  if (const auto error = write_errors.find(path); error != write_errors.end()) return error->second;
+  return files.try_emplace(path, bytes).second ? 0 : EEXIST;
+}
+
 // In pieces of three bytes, so that every border is met.
 int ScriptedPlatform::RewriteFile(const std::string& source, const std::string& target, OldTail tail,
                                   FileRewriter& rewriter) {
@@ -113,8 +119,9 @@ int ScriptedPlatform::RewriteFile(const std::string& source, const std::string& 
   if (const int error = ReadError(source)) return error;
   std::string out;
   const std::string_view bytes = files[source];
-  for (std::size_t at = 0; at < bytes.size(); at += 3) rewriter.Rewrite(bytes.substr(at, 3), out);
-  out.resize(static_cast<std::size_t>(rewriter.Finish(out)));
+  for (std::size_t at = 0; at < bytes.size(); at += 3) out += rewriter.Rewrite(bytes.substr(at, 3));
+  out += rewriter.Finish();
+  out.resize(static_cast<std::size_t>(rewriter.Kept()));
   if (const auto error = write_errors.find(target); error != write_errors.end()) return error->second;
   const std::string& old = files[target];
   if (tail == OldTail::kKeep && old.size() > out.size()) out += old.substr(out.size());

@@ -1,5 +1,6 @@
 #include "accessories/windows/color_dialog.h"
 
+#include "platform/qt/controls/list_rows.h"
 #include "platform/qt/convert.h"
 #include "shell/windows/window_registry.h"
 #include "ui_color_dialog.h"
@@ -45,8 +46,7 @@ void ColorDialog::ConnectCommands() {
     platform_.ReseedRandom();
     Set(RandomChannels([this] { return platform_.Random(); }));
   });
-  connect(ui_->List1, &QListWidget::itemClicked, this,
-          [this](const QListWidgetItem* item) { Set(FromHistoryRow(Utf8FromQString(item->text()))); });
+  OnRowPicked(*ui_->List1, [this](int row) { Set(FromHistoryRow(Utf8FromQString(ui_->List1->item(row)->text()))); });
   connect(ui_->Command1, &QPushButton::clicked, this, &ColorDialog::Command1_Click);
   connect(ui_->Command2, &QPushButton::clicked, this, &ColorDialog::hide);
 }

@@ -11,6 +11,7 @@ Frame::Frame(TextBuffer& document, std::function<void(const std::string&)> show_
     : DialogWindow(parent), document_(document), ui_(std::make_unique<Ui::Frame>()) {
   ui_->setupUi(this);
   LinkFileChoice(Choice(), std::move(show_in_browser));
+  for (QComboBox* words : {ui_->Combo2, ui_->Combo3}) AcceptFreeText(words);
   EnableWith(ui_->Check4, {ui_->Text1});
   EnableWith(ui_->Check6, {ui_->Combo3});
   EnableWith(ui_->Check1, {ui_->Combo2});

@@ -32,16 +32,13 @@ void AddTables(const ProgramParts& parts) {
 
 void AddPageWindows(const ProgramParts& parts) {
   TextBuffer& text = parts.editor.text;
-  // The browser may come later than these windows' registration.
-  const auto show = [parts](const std::string& path) {
-    if (parts.show_in_browser) parts.show_in_browser(path);
-  };
   AddTables(parts);
   parts.windows.Register<Frames>([parts, &text] { return std::make_unique<Frames>(text, &parts.main); });
-  parts.windows.Register<Frame>([parts, &text, show] { return std::make_unique<Frame>(text, show, &parts.main); });
-  parts.windows.Register<Vytvor>([parts, &text, show] {
+  parts.windows.Register<Frame>(
+      [parts, &text] { return std::make_unique<Frame>(text, parts.BrowserDoor(), &parts.main); });
+  parts.windows.Register<Vytvor>([parts, &text] {
     return std::make_unique<Vytvor>(text, parts.main, parts.editor.settings, parts.platform,
-                                    Vytvor::Doors{ColorPicker(parts.windows), show}, &parts.main);
+                                    Vytvor::Doors{ColorPicker(parts.windows), parts.BrowserDoor()}, &parts.main);
   });
   parts.ShowBy<Frames>({"mnuHTML_fset"});
   parts.ShowBy<Frame>({"mnuHTML_Fme"});

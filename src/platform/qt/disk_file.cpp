@@ -204,17 +204,11 @@ int ForEachPiece(int file, const std::function<int(std::string_view)>& take) {
 
 // Writes from where `to` stands. `kept` becomes how many of the bytes that were written are to stay.
 int RewriteInto(int to, int from, FileRewriter& rewriter, std::uint64_t& kept) {
-  std::string out;
-  out.reserve(2 * kPiece);
-  const int error = ForEachPiece(from, [&](std::string_view piece) {
-    out.clear();
-    rewriter.Rewrite(piece, out);
-    return WriteAll(to, out);
-  });
+  const int error = ForEachPiece(from, [&](std::string_view piece) { return WriteAll(to, rewriter.Rewrite(piece)); });
   if (error != 0) return error;
-  out.clear();
-  kept = rewriter.Finish(out);
-  return WriteAll(to, out);
+  const int last_error = WriteAll(to, rewriter.Finish());
+  kept = rewriter.Kept();
+  return last_error;
 }
 
 // Everything of `old` behind that many bytes goes to the same place of `to`, whose own bytes there are cut.
@@ -293,6 +287,16 @@ bool LeadToSameFile(const std::string& left, const std::string& right) {
   struct stat a {};
   struct stat b {};
   return stat(left.c_str(), &a) == 0 && stat(right.c_str(), &b) == 0 && a.st_dev == b.st_dev && a.st_ino == b.st_ino;
+}
+
+int CreateFile(const std::string& path, std::string_view bytes) {
+  Descriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+  if (!file.IsOpen()) return errno;
+  const int write_error = WriteAll(file.Number(), bytes);
+  const int close_error = file.Close();
+  const int error = write_error != 0 ? write_error : close_error;
+  if (error != 0) unlink(path.c_str());
+  return error;
 }
 
 }  // namespace pelmar

@@ -3,9 +3,9 @@
 #include <QCloseEvent>
 #include <QMimeData>
 #include <QScreen>
-#include <QShortcut>
 #include <algorithm>
 
+#include "platform/qt/controls/tab_keys.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/outer_geometry.h"
 #include "platform/qt/svg_icon.h"
@@ -26,11 +26,6 @@ constexpr std::pair<int, std::string_view> kSizeItems[] = {
 
 // Left, right, centre.
 constexpr Qt::Alignment kAlignments[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
-
-// "[*]" is a placeholder of the toolkit's; doubled it stands for itself.
-QString PlainTitle(const std::string& title) {
-  return Utf8ToQString(title).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
-}
 
 // The path of the first file of a drop, "" where it holds none.
 std::string DroppedFile(const QMimeData* mime) {
@@ -64,6 +59,7 @@ void MainWindow::MakeControls() {
   text_->setAccessibleName(QStringLiteral("Text dokumentu"));
   text_->UseBuffer(editor_.text);
   text_->setStandardShortcuts(false);
+  text_->SetCaretStays(true);
   bar_ = new StatusStrip(client_);
   bar_->raise();
   connect(tabs_, &QTabBar::currentChanged, this, [this](int index) { editor_.documents.SwitchTo(index + 1); });
@@ -77,28 +73,14 @@ void MainWindow::MakeControls() {
   pop_up(bar_, "MnuPopUp");
   pop_up(toolbar_, "MnuPopUp");
   pop_up(text_, "MnuSel");
-  AddTabKeys();
+  // The strip itself takes no focus, so the keyboard reaches it by keys of its own.
+  AddTabKeys(*this, *tabs_);
   const auto count_lines = [this](bool count) {
     editor_.settings.LineCounting = count;
     if (on_line_counting) on_line_counting();
   };
   connect(bar_->Panel(3), &StatusPanel::Clicked, this, [count_lines] { count_lines(false); });
   connect(bar_->Panel(3), &StatusPanel::DoubleClicked, this, [count_lines] { count_lines(true); });
-}
-
-// The strip itself takes no focus, so the keyboard reaches it by keys of its own.
-void MainWindow::AddTabKeys() {
-  const auto step = [this](const QKeySequence& keys, int by) {
-    connect(new QShortcut(keys, this), &QShortcut::activated, this,
-            [this, by] { tabs_->setCurrentIndex((tabs_->currentIndex() + by + kTabCount) % kTabCount); });
-  };
-  step(QKeySequence(Qt::CTRL | Qt::Key_Tab), 1);
-  step(QKeySequence(Qt::CTRL | Qt::Key_PageDown), 1);
-  step(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab), -1);
-  step(QKeySequence(Qt::CTRL | Qt::Key_PageUp), -1);
-  for (int tab = 0; tab < kTabCount; ++tab)
-    connect(new QShortcut(QKeySequence(Qt::ALT | static_cast<Qt::Key>(Qt::Key_1 + tab)), this), &QShortcut::activated,
-            this, [this, tab] { tabs_->setCurrentIndex(tab); });
 }
 
 void MainWindow::AddViewCommands() {
@@ -318,7 +300,8 @@ void MainWindow::ShowAccessory(StartMode mode) {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-  if (may_close && !may_close()) return event->ignore();
+  // The lock is no way out either, whoever asks.
+  if (text_->isHidden() || (may_close && !may_close())) return event->ignore();
   event->accept();
 }
 

@@ -1,6 +1,7 @@
 #include "shell/windows/pass.h"
 
 #include "platform/qt/convert.h"
+#include "shell/windows/other_windows.h"
 #include "ui_pass.h"
 
 namespace pelmar {
@@ -23,7 +24,10 @@ void Pass::Run() {
   ui_->Text1->clear();
   ui_->Text1->setFocus();
   hide_text_(true);
-  exec();
+  {
+    const OtherWindowsAway away({this, parentWidget()});
+    exec();
+  }
   hide_text_(false);
 }
 

@@ -1,5 +1,6 @@
 #include "texttools/windows/hledani.h"
 
+#include "platform/qt/controls/list_rows.h"
 #include "platform/qt/convert.h"
 #include "texttools/windows/field_helpers.h"
 #include "ui_hledani.h"
@@ -15,8 +16,9 @@ Hledani::Hledani(TextBuffer& document, Platform& platform, QWidget* parent)
   connect(ui_->Command2, &QPushButton::clicked, this, [this] { Step(&Finder::Next); });
   connect(ui_->Command4, &QPushButton::clicked, this, [this] { Step(&Finder::New); });
   connect(ui_->Command3, &QPushButton::clicked, this, &Hledani::hide);
-  connect(ui_->History, &QListWidget::itemClicked, this, [this] {
-    finder_.PickHistory(static_cast<std::size_t>(ui_->History->currentRow()));
+  ShowRowsOnOneLine(*ui_->History);
+  OnRowPicked(*ui_->History, [this](int row) {
+    finder_.PickHistory(static_cast<std::size_t>(row));
     ui_->Find->setText(TextToQString(finder_.find));
   });
   finder_.Load();

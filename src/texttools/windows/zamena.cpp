@@ -1,5 +1,6 @@
 #include "texttools/windows/zamena.h"
 
+#include "platform/qt/controls/list_rows.h"
 #include "platform/qt/convert.h"
 #include "texttools/windows/field_helpers.h"
 #include "ui_zamena.h"
@@ -16,8 +17,10 @@ Zamena::Zamena(TextBuffer& document, Platform& platform, QWidget* parent)
   connect(ui_->Command6, &QPushButton::clicked, this, [this] { Step(&Replacer::ReplaceAll); });
   connect(ui_->Command4, &QPushButton::clicked, this, [this] { Step(&Replacer::New); });
   connect(ui_->Command3, &QPushButton::clicked, this, &Zamena::hide);
-  connect(ui_->History, &QListWidget::itemClicked, this, [this] { PickRow(ui_->History->currentRow()); });
-  connect(ui_->List1, &QListWidget::itemClicked, this, [this] { PickRow(ui_->List1->currentRow()); });
+  for (QListWidget* list : {ui_->History, ui_->List1}) {
+    ShowRowsOnOneLine(*list);
+    OnRowPicked(*list, [this](int row) { PickRow(row); });
+  }
   replacer_.Load();
   ShowFields();
   ui_->Find->setFocus();

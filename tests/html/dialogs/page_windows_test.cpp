@@ -5,11 +5,10 @@
 #include "html/dialogs/frame.h"
 #include "html/dialogs/frames.h"
 #include "html/dialogs/vytvor.h"
-#include "platform/qt/controls/file_list.h"
-#include "platform/qt/controls/folder_list.h"
 #include "platform/qt/controls/swatch.h"
 #include "platform/qt/controls/text_box.h"
 #include "platform/qt/convert.h"
+#include "support/chosen_file.h"
 #include "support/controls.h"
 #include "support/plain_view.h"
 #include "support/scripted_platform.h"
@@ -45,14 +44,7 @@ struct PageWindows : testing::Test {
     view.look.fore_color = Rgb(7, 7, 7);
     view.look.back_color = Rgb(8, 8, 8);
   }
-  void Choose(const QWidget& window, const char* name) {
-    Find<FolderList>(window, "Dir1")->SetPath(Utf8ToQString(temp.Path()));
-    auto* files = Find<FileList>(window, "File1");
-    const QModelIndexList found =
-        files->model()->match(files->model()->index(0, 0), Qt::DisplayRole, QString::fromUtf8(name));
-    ASSERT_EQ(found.size(), 1) << name;
-    files->setCurrentIndex(found.first());
-  }
+  void Choose(const QWidget& window, const char* name) { ChooseFile(window, temp.Path(), name); }
   // The page's BODY tag, on a document "x".
   std::string Body() {
     text.SetText("x");

@@ -182,6 +182,16 @@ TEST_F(FileListTest, ComingIntoFocusChoosesNothing) {
   EXPECT_EQ(clicks_.size(), 0);
 }
 
+TEST_F(FileListTest, TheFirstArrowKeyChoosesTheFirstRow) {
+  QApplication::setActiveWindow(&list_);
+  list_.setFocus();
+  QTest::keyClick(&list_, Qt::Key_Down);
+  EXPECT_EQ(list_.FileName(), QStringLiteral("a.txt"));
+  QTest::keyClick(&list_, Qt::Key_Down);
+  EXPECT_EQ(list_.FileName(), QStringLiteral("b.HTM"));
+  EXPECT_EQ(clicks_.size(), 2);
+}
+
 TEST_F(FileListTest, DoubleClickAndEnterActivate) {
   int activated = 0;
   const auto listening = QObject::connect(&list_, &FileList::FileActivated, [&] { ++activated; });

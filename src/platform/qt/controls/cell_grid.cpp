@@ -6,13 +6,8 @@
 #include <algorithm>
 
 namespace pelmar {
-namespace {
 
-constexpr int kCells = 3;
-
-}  // namespace
-
-CellGrid::CellGrid(QWidget* parent) : QWidget(parent) {
+CellGrid::CellGrid(int cells, QWidget* parent) : QWidget(parent), cells_(cells) {
   setMouseTracking(true);
   setFocusPolicy(Qt::StrongFocus);
 }
@@ -23,23 +18,35 @@ void CellGrid::Clear() {
 }
 
 QPoint CellGrid::CellAt(QPoint point) const {
-  return {std::clamp(point.x() * kCells / std::max(width(), 1), 0, kCells - 1) + 1,
-          std::clamp(point.y() * kCells / std::max(height(), 1), 0, kCells - 1) + 1};
+  return {std::clamp(point.x() * cells_ / std::max(width(), 1), 0, cells_ - 1) + 1,
+          std::clamp(point.y() * cells_ / std::max(height(), 1), 0, cells_ - 1) + 1};
+}
+
+QRect CellGrid::CellRect(int row, int column) const {
+  return {QPoint((column - 1) * width() / cells_ + 1, (row - 1) * height() / cells_ + 1),
+          QPoint(column * width() / cells_ - 1, row * height() / cells_ - 1)};
 }
 
 void CellGrid::Enter(int row, int column) {
-  row_ = std::clamp(row, 1, kCells);
-  column_ = std::clamp(column, 1, kCells);
+  row_ = std::clamp(row, 1, cells_);
+  column_ = std::clamp(column, 1, cells_);
   update();
   Q_EMIT CellEntered(row_, column_);
 }
 
+void CellGrid::GoByKeys(int rows, int columns) {
+  by_keys_ = true;
+  Enter(std::max(row_ + rows, 1), std::max(column_ + columns, 1));
+}
+
 void CellGrid::mouseMoveEvent(QMouseEvent* event) {
+  by_keys_ = false;
   const QPoint cell = CellAt(event->position().toPoint());
   Enter(cell.y(), cell.x());
 }
 
 void CellGrid::mouseReleaseEvent(QMouseEvent* event) {
+  by_keys_ = false;
   const QPoint cell = CellAt(event->position().toPoint());
   Enter(cell.y(), cell.x());
   Q_EMIT CellChosen(row_, column_);
@@ -48,13 +55,13 @@ void CellGrid::mouseReleaseEvent(QMouseEvent* event) {
 void CellGrid::keyPressEvent(QKeyEvent* event) {
   switch (event->key()) {
     case Qt::Key_Left:
-      return Enter(std::max(row_, 1), column_ - 1);
+      return GoByKeys(0, -1);
     case Qt::Key_Right:
-      return Enter(std::max(row_, 1), column_ + 1);
+      return GoByKeys(0, 1);
     case Qt::Key_Up:
-      return Enter(row_ - 1, std::max(column_, 1));
+      return GoByKeys(-1, 0);
     case Qt::Key_Down:
-      return Enter(row_ + 1, std::max(column_, 1));
+      return GoByKeys(1, 0);
     case Qt::Key_Space:
     case Qt::Key_Return:
     case Qt::Key_Enter:
@@ -69,15 +76,18 @@ void CellGrid::keyPressEvent(QKeyEvent* event) {
 void CellGrid::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), palette().brush(QPalette::Base));
-  if (row_ > 0) {
-    const QRect cell(QPoint((column_ - 1) * width() / kCells, (row_ - 1) * height() / kCells),
-                     QPoint(column_ * width() / kCells - 1, row_ * height() / kCells - 1));
-    painter.fillRect(cell, palette().brush(QPalette::Highlight));
+  for (int row = 1; row <= cells_; ++row) {
+    for (int column = 1; column <= cells_; ++column) {
+      const bool marked = row == row_ && column == column_;
+      const QRect cell = CellRect(row, column);
+      if (marked) painter.fillRect(cell, palette().brush(QPalette::Highlight));
+      PaintCell(painter, cell, row, column, marked);
+    }
   }
   painter.setPen(palette().color(QPalette::Mid));
-  for (int line = 1; line < kCells; ++line) {
-    painter.drawLine(line * width() / kCells, 0, line * width() / kCells, height());
-    painter.drawLine(0, line * height() / kCells, width(), line * height() / kCells);
+  for (int line = 1; line < cells_; ++line) {
+    painter.drawLine(line * width() / cells_, 0, line * width() / cells_, height());
+    painter.drawLine(0, line * height() / cells_, width(), line * height() / cells_);
   }
   painter.setPen(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid));
   painter.drawRect(rect().adjusted(0, 0, -1, -1));

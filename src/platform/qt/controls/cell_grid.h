@@ -1,4 +1,5 @@
-// A grid of three columns and three rows that follows the mouse, and the arrow keys.
+// A square grid of cells that follows the mouse, and the arrow keys. What lies in the cells is painted by subclasses.
+// Rows and columns count from 1.
 #pragma once
 
 #include <QWidget>
@@ -9,28 +10,41 @@ class CellGrid : public QWidget {
   Q_OBJECT
 
  public:
-  explicit CellGrid(QWidget* parent = nullptr);
+  explicit CellGrid(QWidget* parent = nullptr) : CellGrid(kCells, parent) {}
 
   QSize sizeHint() const override { return {216, 135}; }
+  // The marked cell was marked by the arrow keys, not by the mouse.
+  [[nodiscard]] bool MarkedByKeys() const { return row_ > 0 && by_keys_; }
   // No cell is marked.
   void Clear();
 
  Q_SIGNALS:
-  void CellEntered(int row, int column);  // from 1
+  void CellEntered(int row, int column);
   void CellChosen(int row, int column);
 
  protected:
+  CellGrid(int cells, QWidget* parent);
+
+  // The cell without its lines, and whether it is the marked one.
+  virtual void PaintCell(QPainter& /*painter*/, const QRect& /*cell*/, int /*row*/, int /*column*/, bool /*marked*/) {}
+
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  void Enter(int row, int column);
-  [[nodiscard]] QPoint CellAt(QPoint point) const;
+  static constexpr int kCells = 3;
 
+  void Enter(int row, int column);
+  void GoByKeys(int rows, int columns);
+  [[nodiscard]] QPoint CellAt(QPoint point) const;
+  [[nodiscard]] QRect CellRect(int row, int column) const;
+
+  int cells_ = kCells;
   int row_ = 0;
   int column_ = 0;
+  bool by_keys_ = false;
 };
 
 }  // namespace pelmar

@@ -1,7 +1,9 @@
 #include "platform/qt/controls/dialog_window.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QKeyEvent>
+#include <QPointer>
 #include <QShowEvent>
 
 #include "platform/qt/outer_geometry.h"
@@ -14,6 +16,14 @@ void DialogWindow::Present() {
   show();
   raise();
   activateWindow();
+}
+
+int DialogWindow::exec() {
+  const QPointer<QWidget> asker = QApplication::activeWindow();
+  const int result = QDialog::exec();
+  // The window manager would turn to the parent, the main window, whose text would take the next keys.
+  if (asker && asker->isVisible()) asker->activateWindow();
+  return result;
 }
 
 void DialogWindow::OnEnter(QWidget* field, std::function<void()> act) {

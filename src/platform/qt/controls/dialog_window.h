@@ -18,6 +18,9 @@ class DialogWindow : public QDialog {
   // Shows the window, or brings it to the front where it is on show already.
   void Present();
 
+  // Waits like a dialog of the window that asks, which is the active one again afterwards.
+  int exec() override;
+
  protected:
   // Enter in this field runs `act` and goes no further, so not to the default button either.
   void OnEnter(QWidget* field, std::function<void()> act);

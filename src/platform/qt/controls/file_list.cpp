@@ -7,6 +7,7 @@
 #include <QMetaMethod>
 #include <QScopedValueRollback>
 
+#include "platform/qt/controls/first_choice.h"
 #include "platform/qt/folder_entries.h"
 
 namespace pelmar {
@@ -43,6 +44,7 @@ FileList::FileList(QWidget* parent)
   setModel(names_);
   setUniformItemSizes(true);
   setEditTriggers(NoEditTriggers);
+  ChooseFirstByArrows(this);
   connect(this, &QListView::clicked, this, [this] {
     if (!click_told_) Q_EMIT FileClicked();
   });

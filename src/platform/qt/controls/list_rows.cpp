@@ -11,7 +11,8 @@ class OneLineDelegate : public QStyledItemDelegate {
   using QStyledItemDelegate::QStyledItemDelegate;
 
   [[nodiscard]] QString displayText(const QVariant& value, const QLocale& locale) const override {
-    QString text = QStyledItemDelegate::displayText(value, locale);
+    constexpr int kShown = 1000;  // more than a screen is wide; all of a huge row would take seconds to lay out
+    QString text = QStyledItemDelegate::displayText(value, locale).left(kShown);
     const QChar sign(0xB6);
     return text.replace(QLatin1String("\r\n"), sign)
         .replace(u'\r', sign)
@@ -23,12 +24,12 @@ class OneLineDelegate : public QStyledItemDelegate {
 }  // namespace
 
 void OnRowPicked(QListWidget& list, const std::function<void(int row)>& picked) {
-  const auto tell = [&list, picked] {
+  QObject::connect(&list, &QListWidget::itemSelectionChanged, &list, [&list, picked] {
     const QList<QListWidgetItem*> rows = list.selectedItems();
     if (!rows.isEmpty()) picked(list.row(rows.first()));
-  };
-  QObject::connect(&list, &QListWidget::itemSelectionChanged, &list, tell);
-  QObject::connect(&list, &QListWidget::itemClicked, &list, tell);
+  });
+  QObject::connect(&list, &QListWidget::itemClicked, &list,
+                   [&list, picked](const QListWidgetItem* item) { picked(list.row(item)); });
 }
 
 void ShowRowsOnOneLine(QListWidget& list) { list.setItemDelegate(new OneLineDelegate(&list)); }

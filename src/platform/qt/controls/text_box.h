@@ -76,6 +76,9 @@ class TextBox : public QAbstractScrollArea {
   [[nodiscard]] bool TabChangesFocus() const { return tab_changes_focus_; }
   void setTabChangesFocus(bool changes) { tab_changes_focus_ = changes; }
 
+  // True: while another window has the keyboard, a pale caret shows where that window's tools put their text.
+  void SetCaretStays(bool stays) { caret_stays_ = stays; }
+
   // What a key does, for menus. Changes nothing where the text is read-only.
   void Do(const TextKey& key);
   // Inserts the text of a clipboard or drop, by the clipboard's rules. Nothing where there is none.
@@ -173,6 +176,7 @@ class TextBox : public QAbstractScrollArea {
   bool read_only_ = false;
   bool standard_shortcuts_ = true;
   bool tab_changes_focus_ = false;
+  bool caret_stays_ = false;
   bool updating_bars_ = false;
   bool ready_ = false;  // shown at least once
 };

@@ -193,7 +193,8 @@ void TextBox::paintEvent(QPaintEvent* event) {
 
   if (composer_.Active()) PaintComposed(painter);
   const QRect caret = CaretRect();
-  if (blink_.Shown() && composer_.ShowsCaret()) painter.fillRect(caret, colours.text);
+  if (blink_.Shown() && composer_.ShowsCaret())
+    painter.fillRect(caret, hasFocus() ? colours.text : Between(colours.text, Background()));
   shown_caret_ = caret;
   if (!drop_place_) return;
   const std::size_t row = layout.RowOf(drop_place_->pos, drop_place_->at_row_end);
@@ -262,7 +263,11 @@ void TextBox::focusInEvent(QFocusEvent* event) {
 
 void TextBox::focusOutEvent(QFocusEvent* event) {
   QAbstractScrollArea::focusOutEvent(event);
-  blink_.Hide();
+  if (caret_stays_) {
+    blink_.Start(false);
+  } else {
+    blink_.Hide();
+  }
   viewport()->update();
 }
 

@@ -1,0 +1,116 @@
+#include "accessories/converter.h"
+
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <system_error>
+
+#include "accessories/calculator.h"
+#include "text/number_text.h"
+
+namespace pelmar {
+namespace {
+
+constexpr std::size_t kLongestDecimal = 9;
+constexpr std::size_t kLongestHex = 9;
+constexpr std::size_t kLongestOct = 11;
+
+struct Numeral {
+  std::int32_t value;
+  char letter;
+};
+constexpr Numeral kNumerals[] = {{1000, 'M'}, {500, 'D'}, {100, 'C'}, {50, 'L'}, {10, 'X'}, {5, 'V'}, {1, 'I'}};
+
+std::optional<double> ReadPrefixed(std::string_view digits, int base, std::size_t short_length) {
+  std::uint64_t value = 0;
+  const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value, base);
+  if (error == std::errc::invalid_argument) return 0.0;
+  if (error != std::errc() || value > std::numeric_limits<std::uint32_t>::max()) return std::nullopt;
+  const auto length = static_cast<std::size_t>(end - digits.data());
+  if (length <= short_length && value <= std::numeric_limits<std::uint16_t>::max())
+    return static_cast<std::int16_t>(value);
+  return static_cast<std::int32_t>(value);
+}
+
+std::string InBase(double value, int base) {
+  char digits[16];
+  const auto bits = static_cast<std::uint32_t>(static_cast<std::int32_t>(std::nearbyint(value)));
+  const char* const end = std::to_chars(std::begin(digits), std::end(digits), bits, base).ptr;
+  return std::string(static_cast<const char*>(digits), end);
+}
+
+}  // namespace
+
+std::optional<double> ReadNumber(std::string_view text) {
+  if (text.starts_with("&H")) return ReadPrefixed(text.substr(2), 16, 4);
+  if (text.starts_with("&O")) return ReadPrefixed(text.substr(2), 8, 6);
+  return LeadingNumber(text);
+}
+
+std::string ToHex(double value) {
+  std::string digits = InBase(value, 16);
+  for (char& digit : digits)
+    if (digit >= 'a') digit = static_cast<char>(digit - 'a' + 'A');
+  return digits;
+}
+
+std::string ToOct(double value) { return InBase(value, 8); }
+
+std::optional<std::string> ToRoman(std::int32_t n, const std::function<bool()>& go_on) {
+  if (n <= 0) return "0";
+  std::string roman;
+  for (const Numeral& numeral : kNumerals) {
+    for (; n >= numeral.value; n -= numeral.value) {
+      roman += numeral.letter;
+      if (!go_on()) return std::nullopt;
+    }
+  }
+  return roman;
+}
+
+std::string ToRoman(std::int32_t n) {
+  return *ToRoman(n, [] { return true; });
+}
+
+void Converter::Cut() {
+  // Each loss of a character is a change by itself, after which the length counts again.
+  if (Label1.size() > kLongestDecimal) Label1.resize(kLongestDecimal);
+  if (Label3.size() > kLongestHex) Label3.resize(kLongestHex);
+  if (Label6.size() > kLongestOct) Label6.resize(kLongestOct);
+}
+
+void Converter::Digit(std::string Converter::*field, char digit) {
+  AppendDigit(this->*field, digit);
+  Cut();
+}
+
+void Converter::DropLast(std::string Converter::*field) { DropLastDigit(this->*field); }
+
+std::optional<std::int32_t> Converter::FromDecimal() {
+  const std::optional<double> value = ReadNumber(Label1);
+  Label3 = ToHex(*value);
+  Label6 = ToOct(*value);
+  Cut();
+  return static_cast<std::int32_t>(std::nearbyint(*value));
+}
+
+std::optional<std::int32_t> Converter::FromHex() {
+  const std::optional<double> value = ReadNumber("&H" + Label3);
+  if (!value) return std::nullopt;
+  Label1 = NumberText(*value);
+  Label6 = ToOct(*value);
+  Cut();
+  // required: of the decimal field as it shows, which is cut for ten digits and more
+  return static_cast<std::int32_t>(LeadingNumber(Label1));
+}
+
+std::optional<std::int32_t> Converter::FromOct() {
+  const std::optional<double> value = ReadNumber("&O" + Label6);
+  if (!value) return std::nullopt;
+  Label1 = NumberText(*value);
+  Label3 = ToHex(*value);
+  Cut();
+  return static_cast<std::int32_t>(LeadingNumber(Label1));
+}
+
+}  // namespace pelmar

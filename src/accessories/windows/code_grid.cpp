@@ -1,0 +1,75 @@
+#include "accessories/windows/code_grid.h"
+
+#include <QEvent>
+#include <QPainter>
+
+#include "platform/qt/controls/glyph_table.h"
+#include "text/codepage.h"
+
+namespace pelmar {
+namespace {
+
+constexpr int kSide = 16;
+constexpr int kPreviewPoints = 36;
+constexpr int kPreviewEdge = 10;
+
+double WidthOf(const GlyphTable& glyphs, int code) {
+  return static_cast<double>(glyphs.Advances().of[static_cast<std::size_t>(code)]) / kUnitsPerPixel;
+}
+
+}  // namespace
+
+CodeGrid::CodeGrid(QWidget* parent) : CellGrid(kSide, parent) {}
+
+CodeGrid::~CodeGrid() = default;
+
+void CodeGrid::PaintCell(QPainter& painter, const QRect& cell, int row, int column, bool marked) {
+  const int code = CodeAt(row, column);
+  if (code == 0) return;  // required: never drawn
+  if (!glyphs_) glyphs_ = std::make_unique<GlyphTable>(font());
+  const char character = CharOf(code);
+  const double width = WidthOf(*glyphs_, code);
+  const QPointF origin(cell.left() + (cell.width() - width) / 2,
+                       cell.top() + (cell.height() - glyphs_->RowHeight()) / 2);
+  glyphs_->Draw(painter, origin, 0, {&character, 1},
+                palette().color(marked ? QPalette::HighlightedText : QPalette::Text));
+}
+
+void CodeGrid::changeEvent(QEvent* event) {
+  CellGrid::changeEvent(event);
+  if (event->type() != QEvent::FontChange) return;
+  glyphs_.reset();
+  update();
+}
+
+CodePreview::CodePreview(QWidget* parent) : QWidget(parent) {}
+
+CodePreview::~CodePreview() = default;
+
+void CodePreview::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::FontChange) glyphs_.reset();
+}
+
+void CodePreview::SetCode(int code) {
+  code_ = code;
+  update();
+}
+
+void CodePreview::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  painter.fillRect(rect(), palette().brush(QPalette::Base));
+  if (code_ >= 0) {
+    if (!glyphs_) {
+      QFont large = font();
+      large.setPointSize(kPreviewPoints);
+      glyphs_ = std::make_unique<GlyphTable>(large);
+    }
+    const char character = CharOf(code_);
+    glyphs_->Draw(painter, QPointF(kPreviewEdge, kPreviewEdge), 0, {&character, 1}, palette().color(QPalette::Text));
+  }
+  painter.setPen(palette().color(QPalette::Mid));
+  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+}  // namespace pelmar

@@ -1,0 +1,70 @@
+#include "accessories/windows/klavesnice.h"
+
+#include <QButtonGroup>
+#include <QKeyEvent>
+#include <map>
+
+#include "html/insert.h"
+#include "platform/qt/convert.h"
+#include "shell/common.h"
+#include "text/codepage.h"
+#include "ui_klavesnice.h"
+
+namespace pelmar {
+Klavesnice::Klavesnice(TextBuffer& document, QWidget* parent)
+    : DialogWindow(parent), document_(document), ui_(std::make_unique<Ui::Klavesnice>()) {
+  ui_->setupUi(this);
+  ConnectKeys();
+  ConnectShift();
+  // No key has the keyboard until the tabulator gives it one.
+  setFocusPolicy(Qt::StrongFocus);
+  setFocus();
+  new KeyPreview(*this, [this](const QKeyEvent& event) { return PhysicalKey(event); });
+}
+
+Klavesnice::~Klavesnice() = default;
+
+void Klavesnice::ConnectKeys() {
+  // In a group the arrow keys go from key to key by where they lie.
+  auto* group = new QButtonGroup(this);
+  group->setExclusive(false);
+  group->addButton(ui_->Check1);
+  group->addButton(ui_->Check2);
+  const std::map<const KeyCap*, std::string_view> named = {
+      {ui_->Command1, kCrLf}, {ui_->Command51, kCrLf}, {ui_->Command2, "\t"}, {ui_->Command29, " "}};
+  const QList<KeyCap*> keys = findChildren<KeyCap*>();
+  for (KeyCap* key : keys) {
+    group->addButton(key);
+    if (key == ui_->Command50) continue;
+    if (const auto found = named.find(key); found != named.end()) {
+      connect(key, &KeyCap::clicked, this, [this, text = found->second] { InsertAtCaret(document_, text); });
+    } else {
+      connect(key, &KeyCap::clicked, this,
+              [this, key] { InsertAtCaret(document_, Shifted(TextFromQString(key->text()))); });
+    }
+  }
+  connect(ui_->Command50, &KeyCap::clicked, this, &Klavesnice::hide);
+}
+
+void Klavesnice::ConnectShift() {
+  connect(ui_->Check1, &QCheckBox::toggled, ui_->Check2, &QCheckBox::setChecked);
+  connect(ui_->Check2, &QCheckBox::toggled, ui_->Check1, &QCheckBox::setChecked);
+}
+
+// Signs and digits have no upper case, so Shift leaves them as they are.
+std::string Klavesnice::Shifted(const std::string& text) const {
+  return ui_->Check1->isChecked() ? ToUpper(text) : text;
+}
+
+Preview Klavesnice::PhysicalKey(const QKeyEvent& event) {
+  const auto character = TypedCharacter(event);
+  if (!character) return Preview::kPass;
+  // The space bar works a key that the tabulator went to.
+  if (*character == ' ' && focusWidget() != this) return Preview::kPass;
+  // required: any character goes in as it is, so Enter puts in the character 13 alone
+  InsertAtCaret(document_, Shifted(std::string(1, *character)));
+  setFocus();
+  return Preview::kTake;
+}
+
+}  // namespace pelmar

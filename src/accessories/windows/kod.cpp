@@ -1,0 +1,99 @@
+#include "accessories/windows/kod.h"
+
+#include <QKeyEvent>
+
+#include "accessories/char_table.h"
+#include "html/insert.h"
+#include "platform/qt/convert.h"
+#include "text/codepage.h"
+#include "texttools/windows/field_helpers.h"
+#include "ui_kod.h"
+
+namespace pelmar {
+namespace {
+
+QString Character(int code) { return TextToQString(std::string(1, CharOf(code))); }
+
+// As everywhere, what is selected stays, behind the new text.
+void InsertInto(QLineEdit& field, const QString& text) {
+  if (field.hasSelectedText()) field.setCursorPosition(field.selectionStart());
+  field.insert(text);
+}
+
+void SetFamily(QWidget& widget, const QString& family) {
+  QFont font = widget.font();
+  font.setFamily(family);
+  widget.setFont(font);
+}
+
+}  // namespace
+
+Kod::Kod(TextBuffer& document, std::function<void(const QKeyEvent&)> stroke_main, QWidget* parent)
+    : DialogWindow(parent),
+      document_(document),
+      stroke_main_(std::move(stroke_main)),
+      ui_(std::make_unique<Ui::Kod>()) {
+  ui_->setupUi(this);
+  connect(ui_->Combo1, &QComboBox::currentTextChanged, this, &Kod::Combo1_Change);
+  connect(ui_->HScroll1, &QScrollBar::valueChanged, this, &Kod::HScroll1_Change);
+  connect(ui_->Command3, &QPushButton::clicked, this, &Kod::Command3_Click);
+  connect(ui_->Command4, &QPushButton::clicked, this, &Kod::Command4_Click);
+  connect(ui_->Command2, &QPushButton::clicked, this, &Kod::hide);
+  connect(ui_->Picture1, &CellGrid::CellEntered, this,
+          [this](int row, int column) { Point(CodeGrid::CodeAt(row, column)); });
+  connect(ui_->Picture1, &CellGrid::CellChosen, this,
+          [this](int row, int column) { Choose(CodeGrid::CodeAt(row, column)); });
+  new KeyPreview(*this, [this](const QKeyEvent& event) { return TypedKey(event); });
+}
+
+Kod::~Kod() = default;
+
+void Kod::Combo1_Change(const QString& font_name) {
+  SetFamily(*ui_->Picture1, font_name);
+  SetFamily(*ui_->Label2, font_name);
+  SetFamily(*ui_->Text1, font_name);
+  SetFamily(*ui_->Picture2, font_name);
+}
+
+void Kod::HScroll1_Change(int code) {
+  ui_->Label1->setText(QString::number(code));
+  // A caption ends at its first character of code 0, so that of code 0 is empty.
+  ui_->Label2->setText(code == 0 ? QString() : Character(code));
+}
+
+void Kod::Command3_Click() { InsertInto(*ui_->Text1, ui_->Label2->text()); }
+
+void Kod::Command4_Click() {
+  const std::string text = FieldText(*ui_->Text1);
+  if (!text.empty()) InsertAtCaret(document_, text);
+  ui_->Text1->clear();
+}
+
+void Kod::Point(int code) {
+  ui_->Label6->setText(QString::number(code));
+  ui_->Label7->setText(Utf8ToQString(CodeInHex(code)));
+  ui_->Label8->setText(Utf8ToQString(CharReference(code)));
+  ui_->Picture2->SetCode(code);
+  ui_->Picture1->setAccessibleDescription(Character(code) + QStringLiteral(", kód ") + QString::number(code));
+}
+
+void Kod::Choose(int code) {
+  if (code == 0) return;
+  if (ui_->Option1->isChecked()) return InsertAtCaret(document_, std::string(1, CharOf(code)));
+  if (ui_->Option2->isChecked()) return InsertAtCaret(document_, CharReference(code));
+  InsertInto(*ui_->Text1, Character(code));
+}
+
+Preview Kod::TypedKey(const QKeyEvent& event) {
+  const auto character = TypedCharacter(event);
+  if (!character || !ui_->Option1->isChecked()) return Preview::kPass;
+  const QWidget* focus = focusWidget();
+  // Keys that work a control of this window stay with it: the space bar on buttons, Enter on a cell.
+  if (*character == ' ' && qobject_cast<const QAbstractButton*>(focus)) return Preview::kPass;
+  if (*character == '\r' && focus == ui_->Picture1 && ui_->Picture1->MarkedByKeys()) return Preview::kPass;
+  stroke_main_(event);
+  // required: a field that has the keyboard gets the key as well
+  return focus == ui_->Text1 || focus == ui_->Combo1 ? Preview::kShare : Preview::kTake;
+}
+
+}  // namespace pelmar

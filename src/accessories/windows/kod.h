@@ -1,0 +1,41 @@
+// `kod`: the 256 codes as a grid. A click, or Enter on the cell that the arrow keys went to, puts the character or its
+// reference into the document, or collects it first. While characters go in directly, typed keys go to the document
+// too.
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "accessories/windows/key_preview.h"
+#include "platform/qt/controls/dialog_window.h"
+#include "text/text_buffer.h"
+
+namespace Ui {
+class Kod;
+}
+
+namespace pelmar {
+
+class Kod : public DialogWindow {
+  Q_OBJECT
+
+ public:
+  // `stroke_main` gives a key stroke to the main window and returns when it was handled.
+  Kod(TextBuffer& document, std::function<void(const QKeyEvent&)> stroke_main, QWidget* parent);
+  ~Kod() override;
+
+ private:
+  void Combo1_Change(const QString& font_name);
+  void HScroll1_Change(int code);
+  void Command3_Click();
+  void Command4_Click();
+  void Point(int code);
+  void Choose(int code);
+  Preview TypedKey(const QKeyEvent& event);
+
+  TextBuffer& document_;
+  std::function<void(const QKeyEvent&)> stroke_main_;
+  std::unique_ptr<Ui::Kod> ui_;
+};
+
+}  // namespace pelmar

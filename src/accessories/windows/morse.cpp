@@ -1,0 +1,64 @@
+#include "accessories/windows/morse.h"
+
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMenuBar>
+
+#include "accessories/morse.h"
+#include "html/insert.h"
+#include "platform/qt/convert.h"
+#include "ui_morse.h"
+
+namespace pelmar {
+
+Morse::Morse(Platform& platform, QWidget* parent)
+    : DialogWindow(parent), platform_(platform), ui_(std::make_unique<Ui::Morse>()) {
+  ui_->setupUi(this);
+  AddMenus();
+}
+
+Morse::~Morse() = default;
+
+void Morse::AddMenus() {
+  auto* bar = new QMenuBar(this);
+  layout()->setMenuBar(bar);
+  QMenu* text = AddMenu(bar, "mnu_Txt", "&Text");
+  AddItem(text, "mnu_clipmorse", "Morse ze schránky", [this] { mnu_clipmorse_Click(); });
+  AddItem(text, "mnuMakeMorse", "Vytvoř morseovku", [this] { mnuMakeMorse_Click(); });
+  for (const MorseMenu& signs : MorseMenus()) {
+    QMenu* menu = AddMenu(bar, signs.name, signs.caption);
+    for (const MorseItem& item : signs.items)
+      AddItem(menu, item.name, item.caption, [this, &item] { InsertAtCaret(ui_->Text1->Buffer(), item.sign); });
+  }
+}
+
+QMenu* Morse::AddMenu(QMenuBar* bar, std::string_view name, std::string_view caption) {
+  QMenu* menu = bar->addMenu(Utf8ToQString(caption));
+  menu->menuAction()->setObjectName(Utf8ToQString(name));
+  return menu;
+}
+
+void Morse::AddItem(QMenu* menu, std::string_view name, std::string_view caption, std::function<void()> run) {
+  QAction* action = menu->addAction(Utf8ToQString(caption));
+  action->setObjectName(Utf8ToQString(name));
+  connect(action, &QAction::triggered, this, std::move(run));
+}
+
+void Morse::mnu_clipmorse_Click() { ui_->Text1->Buffer().ReplaceSelection(TextToMorse(platform_.ClipboardText())); }
+
+void Morse::mnuMakeMorse_Click() {
+  TextBuffer& box = ui_->Text1->Buffer();
+  platform_.SetBusyPointer(true);
+  box.ReplaceSelection(TextToMorse(box.SelText()));
+  platform_.SetBusyPointer(false);
+}
+
+// The box takes no typed characters, so they come here.
+void Morse::keyPressEvent(QKeyEvent* event) {
+  const std::string typed = TextFromQString(TypedText(*event));
+  if (typed.empty()) return DialogWindow::keyPressEvent(event);
+  const std::string sign = TextToMorse(typed);
+  if (sign != typed) ui_->Text1->Buffer().ReplaceSelection(sign);
+}
+
+}  // namespace pelmar

@@ -1,0 +1,92 @@
+#include "html/blocks.h"
+
+#include "html/attributes.h"
+#include "html/insert.h"
+#include "shell/common.h"
+#include "text/codepage.h"
+
+namespace pelmar {
+namespace {
+
+// A blank, "ALIGN", "=" between blanks and the quoted value; nothing for kNone.
+std::string SpacedAlign(Align align) {
+  static constexpr std::string_view kValues[] = {"", "LEFT", "CENTER", "RIGHT"};
+  if (align == Align::kNone) return {};
+  return " ALIGN = " + Quoted(kValues[static_cast<std::size_t>(align)]);
+}
+
+std::string SpacedWidth(std::string_view width) { return " Width = " + Quoted(width); }
+
+Wrapping BlankWrapping(const std::string& open, const std::string& close, std::string_view sample) {
+  Wrapping wrapping{open + " ", " " + close, {}};
+  wrapping.sample = wrapping.open + std::string(sample) + wrapping.close;
+  return wrapping;
+}
+
+}  // namespace
+
+void WrapSelection(TextBuffer& document, const Wrapping& wrapping) {
+  WrapSelection(document, wrapping.open, wrapping.close, wrapping.sample);
+}
+
+Wrapping Paragraph(Align align) { return BlankWrapping("<P" + SpacedAlign(align) + " >", "</P>", "Odstavcový text"_w); }
+
+Wrapping Heading(const HeadingSpec& spec) {
+  const std::string tag = "H" + std::string(LeftTrimmed(spec.size));
+  const std::string wrap = spec.no_wrap ? " NOWRAP" : "";
+  return BlankWrapping("<" + tag + wrap + SpacedAlign(spec.align) + ">", "</" + tag + ">", "Nadpisový text"_w);
+}
+
+Wrapping Font(const FontSpec& spec) {
+  std::string open = "<FONT";
+  if (spec.size) open += Attribute("SIZE", std::to_string(*spec.size));
+  if (spec.face) open += Attribute("FACE", *spec.face);
+  if (spec.color) open += Attribute("COLOR", *spec.color);
+  open += ">";
+  // required: blanks around the sample only
+  return {open, "</FONT>", open + std::string(" fontové písmo </FONT>"_w)};
+}
+
+std::string HorizontalRule(const RuleSpec& spec) {
+  std::string rule = "<HR" + SpacedAlign(spec.align);
+  if (spec.no_shade) rule += " NOSHADE";
+  if (spec.width && !spec.width->empty()) rule += SpacedWidth(LeftTrimmed(*spec.width));
+  return rule + ">";
+}
+
+std::string LinedHeading(std::string_view text) {
+  const std::string width = SpacedWidth("60%") + ">";
+  return "<HR" + SpacedAlign(Align::kLeft) + width + "<H2>" + std::string(text) + "</H2><HR" +
+         SpacedAlign(Align::kRight) + width;
+}
+
+std::string TableHeading(std::string_view text) {
+  std::string table(R"(<table border="0" width="100%">)");
+  table.append(kCrLf).append(R"(<tr><td width="33%"><hr></td><td align="center">)").append(text);
+  return table.append(R"(</td><td width="33%"><hr></td></tr>)").append(kCrLf).append("</table>");
+}
+
+std::string Fraction(std::string_view numerator, std::string_view denominator) {
+  std::string fraction("<SUP>");
+  return fraction.append(numerator).append("</SUP>/<SUB>").append(denominator).append("</SUB>");
+}
+
+std::string CommentText(std::string_view text) {
+  std::string comment("<! ");  // required: not a comment of the language
+  return comment.append(text).append(" >");
+}
+
+std::string CharacterReference(int code) { return "&#" + std::to_string(code) + ";"; }
+
+std::string Smiley(const std::array<std::string, 5>& parts) {
+  std::string smiley;
+  for (const std::string& part : parts) smiley += part;
+  return std::string(Trimmed(smiley));
+}
+
+void PutDoctype(TextBuffer& document, std::string_view line) {
+  document.Replace(0, 0, std::string(line).append(kCrLf));
+  document.SetSelStart(0);
+}
+
+}  // namespace pelmar

@@ -1,0 +1,63 @@
+// `Odstavec`, `Hr`, `Nadpis` and `Barva`: paragraph, line, heading and font, with their options.
+#pragma once
+
+#include <functional>
+
+#include "html/dialogs/fragment_dialog.h"
+#include "shell/common.h"
+
+namespace Ui {
+class Odstavec;
+class Hr;
+class Nadpis;
+class Barva;
+}  // namespace Ui
+
+namespace pelmar {
+
+class Odstavec : public FragmentDialog<Ui::Odstavec> {
+  Q_OBJECT
+
+ public:
+  Odstavec(TextBuffer& document, QWidget* parent);
+  ~Odstavec() override;
+
+ private:
+  bool Put() override;
+};
+
+class Hr : public FragmentDialog<Ui::Hr> {
+  Q_OBJECT
+
+ public:
+  Hr(TextBuffer& document, QWidget* parent);
+  ~Hr() override;
+
+ private:
+  bool Put() override;
+  void SetUnit(int maximum, QString (*write)(int));
+};
+
+class Nadpis : public FragmentDialog<Ui::Nadpis> {
+  Q_OBJECT
+
+ public:
+  Nadpis(TextBuffer& document, QWidget* parent);
+  ~Nadpis() override;
+
+ private:
+  bool Put() override;
+};
+
+class Barva : public FragmentDialog<Ui::Barva> {
+  Q_OBJECT
+
+ public:
+  Barva(TextBuffer& document, std::function<Color(Color)> pick_color, QWidget* parent);
+  ~Barva() override;
+
+ private:
+  bool Put() override;
+};
+
+}  // namespace pelmar

@@ -1,0 +1,43 @@
+#include "html/dialogs/edi_tag.h"
+
+#include "html/insert.h"
+#include "html/tag_editor.h"
+#include "platform/qt/convert.h"
+#include "ui_edi_tag.h"
+
+namespace pelmar {
+
+EdiTag::EdiTag(TextBuffer& document, Platform& platform, std::function<Color(Color)> pick_color, QWidget* parent)
+    : DialogWindow(parent), document_(document), platform_(platform), ui_(std::make_unique<Ui::EdiTag>()) {
+  ui_->setupUi(this);
+  connect(ui_->Command3, &QPushButton::clicked, this, &EdiTag::Command3_Click);
+  connect(ui_->Command4, &QPushButton::clicked, this, &EdiTag::hide);
+  connect(ui_->Command5, &QPushButton::clicked, this,
+          [this, pick = std::move(pick_color)] { SetValue(Utf8ToQString(ColorToHex(pick(0)))); });
+  connect(ui_->Command6, &QPushButton::clicked, this, &EdiTag::Command6_Click);
+  connect(ui_->HScroll1, &QScrollBar::valueChanged, this,
+          [this](int value) { SetValue(QString::number(value) + QLatin1Char('%')); });
+}
+
+EdiTag::~EdiTag() = default;
+
+void EdiTag::Run() {
+  const TagAnalysis analysis = OpenTag(document_, platform_);
+  ui_->Text1->setText(TextToQString(analysis.name));
+  ui_->Attributes->Lists().SetRows(analysis.attributes);
+  ui_->Attributes->Lists().EditSelectedRows();
+  exec();
+}
+
+void EdiTag::Command3_Click() {
+  ReplaceSelection(document_, TagText(TextFromQString(ui_->Text1->text()), ui_->Attributes->Lists().Rows()));
+  hide();
+}
+
+void EdiTag::Command6_Click() {
+  if (const auto path = platform_.OpenDialog("Všechno(*.*)|*.*", 1)) SetValue(Utf8ToQString(PathToFileUrl(*path)));
+}
+
+void EdiTag::SetValue(const QString& value) { ui_->Attributes->ValueBox()->setEditText(value); }
+
+}  // namespace pelmar

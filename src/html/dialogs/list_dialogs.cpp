@@ -1,0 +1,73 @@
+#include "html/dialogs/list_dialogs.h"
+
+#include "html/dialogs/form_helpers.h"
+#include "html/dialogs/paired_lists.h"
+#include "html/insert.h"
+#include "platform/qt/convert.h"
+#include "ui_cis_seznam.h"
+#include "ui_seznam.h"
+#include "ui_seznam_def.h"
+
+namespace pelmar {
+
+template <class Form>
+ItemListDialog<Form>::ItemListDialog(TextBuffer& document, ListKind kind, QWidget* parent)
+    : FragmentDialog<Form>(document, parent, &Form::Command3, &Form::Command4), kind_(kind) {
+  const auto& ui = this->ui_;
+  for (QAbstractButton* type : ui->kind->buttons()) EnableWith(ui->Check2, {type});
+  EnableWith(ui->Check1, {ui->Text2});
+  QObject::connect(ui->Command1, &QPushButton::clicked, this, [this] { Command1_Click(); });
+  QObject::connect(ui->Command2, &QPushButton::clicked, this, [this] { Command2_Click(); });
+  this->OnEnter(ui->Text1, [this] {
+    Command1_Click();
+    this->ui_->Text1->selectAll();
+  });
+}
+
+template <class Form>
+void ItemListDialog<Form>::Command1_Click() {
+  AddRow(*this->ui_->List1, this->ui_->Text1->text());
+  this->ui_->Command2->setEnabled(true);
+}
+
+template <class Form>
+void ItemListDialog<Form>::Command2_Click() {
+  RemoveRow(*this->ui_->List1);
+  if (this->ui_->List1->count() == 0) this->ui_->Command2->setEnabled(false);
+}
+
+template <class Form>
+bool ItemListDialog<Form>::Put() {
+  const auto& ui = this->ui_;
+  ListSpec spec;
+  spec.kind = kind_;
+  if (ui->Check2->isChecked())
+    spec.type = static_cast<std::size_t>(ui->kind->buttons().indexOf(ui->kind->checkedButton()));
+  spec.compact = ui->Check3->isChecked();
+  spec.heading = Written(ui->Check1, ui->Text2);
+  spec.items = RowTexts(*ui->List1);
+  InsertAtCaret(this->document_, BuildList(spec));
+  return true;
+}
+
+Seznam::Seznam(TextBuffer& document, QWidget* parent) : ItemListDialog(document, ListKind::kBullets, parent) {}
+Seznam::~Seznam() = default;
+
+CisSeznam::CisSeznam(TextBuffer& document, QWidget* parent) : ItemListDialog(document, ListKind::kNumbers, parent) {}
+CisSeznam::~CisSeznam() = default;
+
+SeznamDef::SeznamDef(TextBuffer& document, QWidget* parent)
+    : FragmentDialog(document, parent, &Ui::SeznamDef::Command3, &Ui::SeznamDef::Command4) {
+  lists_ =
+      new PairedLists({ui_->Atribut, ui_->Hodnota, ui_->Atributs, ui_->Values, ui_->Command1, ui_->Command2}, this);
+  for (QLineEdit* field : {ui_->Atribut, ui_->Hodnota}) OnEnter(field, [this] { lists_->AddByEnter(); });
+}
+SeznamDef::~SeznamDef() = default;
+
+bool SeznamDef::Put() {
+  const AttributeLists rows = lists_->Rows();
+  InsertAtCaret(document_, BuildDefinitionList(rows.names, rows.values));
+  return true;
+}
+
+}  // namespace pelmar

@@ -1,0 +1,36 @@
+#include "html/dialogs/tag_dialogs.h"
+
+#include "html/tag_editor.h"
+#include "platform/qt/convert.h"
+#include "ui_attr.h"
+#include "ui_tagy.h"
+
+namespace pelmar {
+
+Attr::Attr(TextBuffer& document, Platform& platform, QWidget* parent)
+    : FragmentDialog(document, parent, &Ui::Attr::Command3, &Ui::Attr::Command4), platform_(platform) {
+  for (QComboBox* box : {ui_->Attributes->NameBox(), ui_->Attributes->ValueBox()})
+    OnEnter(box, [this] { ui_->Attributes->Lists().AddByEnter(); });
+}
+Attr::~Attr() = default;
+
+bool Attr::Put() { return AddAttributes(document_, ui_->Attributes->Lists().Rows(), platform_); }
+
+Tagy::Tagy(TextBuffer& document, QWidget* parent)
+    : FragmentDialog(document, parent, &Ui::Tagy::Command3, &Ui::Tagy::Command4) {
+  for (QComboBox* box : {ui_->Attributes->NameBox(), ui_->Attributes->ValueBox()})
+    OnEnter(box, [this] { ui_->Attributes->Lists().AddByEnter(); });
+}
+Tagy::~Tagy() = default;
+
+void Tagy::InsertCustomTag() {
+  pelmar::InsertCustomTag(
+      document_, {TextFromQString(ui_->TagText->text()), ui_->Attributes->Lists().Rows(), ui_->Check1->isChecked()});
+}
+
+bool Tagy::Put() {
+  InsertCustomTag();
+  return true;
+}
+
+}  // namespace pelmar

@@ -1,0 +1,55 @@
+#include "html/dialogs/template.h"
+
+#include <QHeaderView>
+
+#include "html/samples/templaty.h"
+#include "platform/qt/controls/first_choice.h"
+#include "platform/qt/convert.h"
+#include "platform/qt/svg_icon.h"
+#include "text/codepage.h"
+#include "ui_template.h"
+
+namespace pelmar {
+
+Template::Template(TextBuffer& document, const SettingsRecord& settings, QWidget* parent)
+    : DialogWindow(parent), document_(document), settings_(settings), ui_(std::make_unique<Ui::Template>()) {
+  ui_->setupUi(this);
+  FillList();
+  ui_->Text1->SetText(ToBytes("Vyber dokument\r\n"));
+  ChooseFirstByArrows(ui_->ListView1);
+  connect(ui_->ListView1, &QTreeWidget::itemSelectionChanged, this, &Template::ListView1_Click);
+  connect(ui_->ListView1, &QTreeWidget::itemClicked, this, &Template::ListView1_Click);
+  connect(ui_->Command1, &QPushButton::clicked, this, &Template::Command1_Click);
+  connect(ui_->Command2, &QPushButton::clicked, this, &Template::hide);
+}
+
+Template::~Template() = default;
+
+void Template::FillList() {
+  for (const Sample& sample : Samples()) {
+    auto* row = new QTreeWidgetItem(ui_->ListView1, {TextToQString(sample.text), TextToQString(sample.file_name)});
+    row->setData(0, Qt::UserRole, Utf8ToQString(sample.key));
+    row->setIcon(0, SvgIcon(QStringLiteral(":/icons/%1.svg").arg(Utf8ToQString(sample.picture))));
+  }
+  ui_->ListView1->header()->setSectionsMovable(false);
+  ui_->ListView1->resizeColumnToContents(0);
+  ui_->ListView1->setColumnWidth(0, ui_->ListView1->columnWidth(0) + 12);
+}
+
+void Template::ListView1_Click() {
+  const QList<QTreeWidgetItem*> chosen = ui_->ListView1->selectedItems();
+  if (chosen.isEmpty()) return;
+  ui_->Label1->setText(QStringLiteral("Zobrazení dokumentu :") + chosen.first()->text(0));
+  const std::string key = Utf8FromQString(chosen.first()->data(0, Qt::UserRole).toString());
+  ui_->Text1->SetText(ToBytes(SampleText(key, settings_)));
+}
+
+void Template::Command1_Click() {
+  // As one step of undo, because the old document goes without a question.
+  document_.Select(0, document_.Size());
+  document_.ReplaceSelection(ViewOf(ui_->Text1->Text()));
+  document_.SetSelStart(0);
+  hide();
+}
+
+}  // namespace pelmar

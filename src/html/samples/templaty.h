@@ -1,0 +1,46 @@
+// The sample documents: a table of them, and a routine for each that builds its text line by line. The texts are
+// Windows-1250 with CR LF between the lines and none behind the last; user name and address go into them as they are.
+#pragma once
+
+#include <initializer_list>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "shell/settings_record.h"
+
+namespace pelmar {
+
+struct Sample {
+  std::string_view key;
+  std::string_view text;       // what the list says, Windows-1250
+  std::string_view file_name;  // only shown
+  std::string_view picture;    // of the program's icons
+  std::string (*make)(const SettingsRecord& profile);
+};
+
+// In the order of the list.
+std::span<const Sample> Samples();
+
+// The sample of this key; "" for an unknown one.
+std::string SampleText(std::string_view key, const SettingsRecord& profile);
+
+namespace samples {
+
+std::string Html1(const SettingsRecord& profile);  // plain home page
+std::string Html2(const SettingsRecord& profile);  // dark page with a listing
+std::string Html3(const SettingsRecord& profile);  // page with previous and next links
+std::string Html4(const SettingsRecord& profile);  // page laid out by tables
+std::string Html5(const SettingsRecord& profile);  // page with a script
+std::string Ini1(const SettingsRecord& profile);   // settings of a CAD program
+std::string Ini2(const SettingsRecord& profile);   // settings of a mail program's tool bars
+std::string Inf1(const SettingsRecord& profile);   // CD autorun file
+std::string Bat1(const SettingsRecord& profile);   // DOS start-up batch
+std::string Bat2(const SettingsRecord& profile);   // clean-up batch
+std::string Diz1(const SettingsRecord& profile);   // description for a download archive
+
+// The lines with CR LF between them.
+std::string Lines(std::initializer_list<std::string_view> lines);
+
+}  // namespace samples
+}  // namespace pelmar

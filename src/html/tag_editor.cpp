@@ -1,0 +1,207 @@
+#include "html/tag_editor.h"
+
+#include <algorithm>
+#include <cerrno>
+
+#include "html/attributes.h"
+#include "html/insert.h"
+#include "shell/common.h"
+#include "text/codepage.h"
+
+namespace pelmar {
+namespace {
+
+constexpr char kMarker = "˙"_w[0];
+constexpr std::string_view kNoTag = "Není tag!";
+
+// `count` characters from `from` on. A negative count is the run-time failure that the analysis reports.
+std::string_view Middle(std::string_view text, std::size_t from, std::ptrdiff_t count) {
+  if (count < 0) throw RuntimeError(EINVAL, "záporná délka textu");
+  return text.substr(std::min(from, text.size()), static_cast<std::size_t>(count));
+}
+
+std::string Replaced(std::string_view text, std::string_view find, std::string_view with) {
+  std::string result;
+  result.reserve(text.size());
+  std::size_t from = 0;
+  for (std::size_t hit = text.find(find); hit != std::string_view::npos; hit = text.find(find, from)) {
+    result.append(text, from, hit - from).append(with);
+    from = hit + find.size();
+  }
+  return result.append(text, from);
+}
+
+// required: by way of the marker, so a marker that stands in the text turns into the new text as well
+std::string ReplacedByMarker(std::string_view text, std::string_view find, std::string_view with) {
+  const std::string_view marker(&kMarker, 1);
+  return Replaced(Replaced(text, find, marker), marker, with);
+}
+
+void CollapseBlanks(std::string& text) {
+  text.erase(std::unique(text.begin(), text.end(), [](char left, char right) { return left == ' ' && right == ' '; }),
+             text.end());
+}
+
+bool HasEquals(std::string_view text) { return text.find('=') != std::string_view::npos; }
+
+// The attributes with every value between one quote at each side and a blank behind each attribute.
+std::string Reformatted(std::string attributes) {
+  CollapseBlanks(attributes);
+  attributes = ReplacedByMarker(attributes, " =", "=");
+  attributes = ReplacedByMarker(attributes, "= ", "=");
+  attributes = ReplacedByMarker(attributes, "\" ", " ");
+  attributes = ReplacedByMarker(attributes, " ", "\" ");  // required: also the blanks inside a quoted value
+  attributes = ReplacedByMarker(attributes, "=\"", "=");
+  return ReplacedByMarker(attributes, "=", "=\"");  // required: also the "=" inside a value
+}
+
+// The pieces between the blanks. A piece that holds no "=" goes on with the value before it.
+std::vector<std::string> SplitAttributes(std::string_view attributes) {
+  std::vector<std::string> tag_parts;
+  for (std::size_t from = 0; from < attributes.size();) {
+    const std::size_t end = std::min(attributes.find(' ', from), attributes.size());
+    const std::string_view piece = attributes.substr(from, end - from);
+    if (tag_parts.empty() || HasEquals(piece)) {
+      tag_parts.emplace_back(piece);
+    } else {
+      // No piece is empty: in front of each blank stands a quote.
+      std::string& front = tag_parts.back();
+      front.pop_back();
+      front.append(" ").append(piece);
+    }
+    from = end + 1;
+  }
+  return tag_parts;
+}
+
+class Analyser {
+ public:
+  Analyser(std::string_view text, std::size_t sel_start) : text_(text), sel_start_(sel_start) {}
+
+  TagAnalysis Run() {
+    try {
+      Analyse();
+    } catch (const RuntimeError&) {
+      result_.failed_in = step_;
+    }
+    return std::move(result_);
+  }
+
+ private:
+  void Analyse() {
+    step_ = TagStep::kSearch;
+    if (!FindTag()) return;
+    step_ = TagStep::kReformat;
+    const std::size_t blank = TakeName();
+    if (blank == std::string_view::npos) return;
+    const auto count = static_cast<std::ptrdiff_t>(tag_.size() - blank) - 2;  // neither the blank nor the last one
+    const std::string attributes = Reformatted(std::string(Middle(tag_, blank + 1, count)) + ' ');
+    step_ = TagStep::kSplit;
+    const std::vector<std::string> tag_parts = SplitAttributes(attributes);
+    step_ = TagStep::kFill;
+    for (const std::string& part : tag_parts) FillRow(part);
+  }
+
+  // required: the last "<" counts, even where its tag was closed long before the caret
+  bool FindTag() {
+    const std::size_t start = text_.rfind('<', sel_start_);
+    if (start == std::string_view::npos || text_.find('>', text_.find('<')) == std::string_view::npos) return false;
+    result_.has_tag = true;
+    start_ = start;
+    const std::size_t end = text_.find('>', start);
+    tag_ = text_.substr(start, end == std::string_view::npos ? end : end - start + 1);
+    return true;
+  }
+
+  // The place of the tag's first blank.
+  std::size_t TakeName() {
+    const std::size_t blank = tag_.find(' ');
+    const std::string_view name = blank == std::string_view::npos
+                                      ? Middle(tag_, 1, static_cast<std::ptrdiff_t>(tag_.size()) - 2)
+                                      : tag_.substr(1, blank - 1);
+    result_.name = Trimmed(name);
+    result_.range = TagRange{start_, tag_.size()};
+    return blank;
+  }
+
+  void FillRow(const std::string& part) {
+    AttributeLists& lists = result_.attributes;
+    const std::size_t equals = part.find('=');
+    if (equals == std::string::npos) {
+      lists.names.push_back(part);
+      std::erase(lists.names.back(), kQuote[0]);
+      lists.values.emplace_back("True");
+      return;
+    }
+    lists.names.push_back(part.substr(0, equals));
+    lists.values.emplace_back(
+        Middle(part, equals + 2, static_cast<std::ptrdiff_t>(part.size()) - static_cast<std::ptrdiff_t>(equals) - 3));
+  }
+
+  std::string_view text_;
+  std::size_t sel_start_;
+  TagStep step_ = TagStep::kInit;
+  std::size_t start_ = 0;
+  std::string_view tag_;
+  TagAnalysis result_;
+};
+
+}  // namespace
+
+std::string_view TagStepName(TagStep step) {
+  static constexpr std::string_view kNames[] = {"Init", "Hledání tagu", "Přeformátování", "Analýza", "Přepis"};
+  return kNames[static_cast<std::size_t>(step)];
+}
+
+TagAnalysis AnalyseTag(std::string_view text, std::size_t sel_start) { return Analyser(text, sel_start).Run(); }
+
+TagAnalysis OpenTag(TextBuffer& document, Platform& platform) {
+  TagAnalysis analysis = AnalyseTag(document.Text(), document.SelStart());
+  if (!analysis.has_tag) platform.Message(MessageType::kOk, kNoTag, "EdiTag");
+  if (analysis.range) document.Select(analysis.range->start, analysis.range->start + analysis.range->length);
+  if (analysis.failed_in) {
+    std::string message = "Došlo k chybě při zpracování tagu. Ujistěte se, že se jedná o html tag ve správném formátu";
+    message.append(kCrLf).append("Kód chyby: ").append(TagStepName(*analysis.failed_in));
+    platform.Message(MessageType::kOk, message, "EdiTag");
+  }
+  return analysis;
+}
+
+std::string AttributesText(const AttributeLists& attributes) {
+  std::string text;
+  for (std::size_t row = 0; row < attributes.names.size(); ++row)
+    text += Attribute(attributes.names[row], row < attributes.values.size() ? attributes.values[row] : std::string());
+  return text;
+}
+
+std::string TagText(std::string_view name, const AttributeLists& attributes) {
+  std::string text("<");
+  return text.append(name).append(AttributesText(attributes)).append(">");
+}
+
+bool AddAttributes(TextBuffer& document, const AttributeLists& attributes, Platform& platform) {
+  const std::size_t caret = document.SelStart();
+  if (caret == 0) {
+    platform.Message(MessageType::kOk, "Na úplný začátek textu atributy vložit nelze. Posuňte kurzor do tagu.",
+                     "Atribut");
+    return false;
+  }
+  const std::size_t place = document.Text().find('>', caret - 1);
+  if (place == std::string::npos) {
+    platform.Message(MessageType::kOk, "Za kurzorem už žádný tag nekončí. Posuňte kurzor do tagu nebo před něj.",
+                     "Atribut");
+    return false;
+  }
+  document.SetSelStart(place);
+  ReplaceSelection(document, AttributesText(attributes));
+  return true;
+}
+
+void InsertCustomTag(TextBuffer& document, const CustomTag& tag) {
+  const std::string open = TagText(tag.name, tag.attributes);
+  if (!tag.closed) return InsertAtCaret(document, open);
+  const std::string close = "</" + tag.name + ">";
+  WrapSelection(document, open, close, open + std::string("Vlastní tag"_w) + close);
+}
+
+}  // namespace pelmar

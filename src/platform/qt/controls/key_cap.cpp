@@ -1,0 +1,64 @@
+#include "platform/qt/controls/key_cap.h"
+
+#include <QStyleOptionButton>
+#include <QStylePainter>
+#include <algorithm>
+
+namespace pelmar {
+namespace {
+
+constexpr int kEdge = 3;  // what the frame takes at each side
+
+QStringList Words(const QString& caption) { return caption.split(QLatin1Char(' '), Qt::SkipEmptyParts); }
+
+QSize RoomFor(const QStringList& words, const QFontMetrics& metrics) {
+  int width = 0;
+  for (const QString& word : words) width = std::max(width, metrics.horizontalAdvance(word));
+  return {width + 2 * kEdge, metrics.height() + 2 * kEdge};
+}
+
+void PaintCaption(QStylePainter& painter, const QWidget& key, const QString& caption, QPalette::ColorRole role) {
+  painter.setPen(key.palette().color(key.isEnabled() ? QPalette::Active : QPalette::Disabled, role));
+  painter.drawText(key.rect().adjusted(kEdge - 1, kEdge, 1 - kEdge, -kEdge), Qt::AlignCenter | Qt::TextWordWrap,
+                   caption);
+}
+
+void PaintFrame(QStylePainter& painter, QStyleOptionButton& option, const QWidget& key) {
+  option.text.clear();
+  option.icon = QIcon();
+  painter.drawControl(QStyle::CE_PushButtonBevel, option);
+  if (!option.state.testFlag(QStyle::State_HasFocus)) return;
+  painter.setPen(QPen(key.palette().color(QPalette::Highlight), 2));
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.drawRoundedRect(QRectF(key.rect()).adjusted(2, 2, -2, -2), 2, 2);
+}
+
+}  // namespace
+
+QSize KeyCap::minimumSizeHint() const { return RoomFor(Words(text()), fontMetrics()); }
+
+void KeyCap::paintEvent(QPaintEvent* /*event*/) {
+  QStylePainter painter(this);
+  QStyleOptionButton option;
+  initStyleOption(&option);
+  PaintFrame(painter, option, *this);
+  // A key that is higher than wide has a word a line.
+  const QString caption = height() > width() ? Words(text()).join(QLatin1Char('\n')) : text();
+  PaintCaption(painter, *this, caption, QPalette::ButtonText);
+}
+
+QSize LatchKey::minimumSizeHint() const { return RoomFor({text().trimmed()}, fontMetrics()); }
+
+void LatchKey::paintEvent(QPaintEvent* /*event*/) {
+  QStylePainter painter(this);
+  QStyleOptionButton option;
+  initStyleOption(&option);
+  if (isChecked()) {
+    option.state |= QStyle::State_Sunken;
+    option.palette.setBrush(QPalette::Button, palette().brush(QPalette::Highlight));
+  }
+  PaintFrame(painter, option, *this);
+  PaintCaption(painter, *this, text().trimmed(), isChecked() ? QPalette::HighlightedText : QPalette::ButtonText);
+}
+
+}  // namespace pelmar

@@ -1,0 +1,80 @@
+#include "shell/windows/other_windows.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QEvent>
+#include <algorithm>
+
+namespace pelmar {
+namespace {
+
+constexpr char kAway[] = "PelmarAway";
+
+// A window that is away, to assistive technology: nothing but its title. The toolkit goes on to list the windows that
+// are hidden, with all that they hold.
+class EmptyWindow : public QAccessibleObject {
+ public:
+  using QAccessibleObject::QAccessibleObject;
+
+  [[nodiscard]] QAccessibleInterface* parent() const override { return QAccessible::queryAccessibleInterface(qApp); }
+  [[nodiscard]] QAccessibleInterface* child(int) const override { return nullptr; }
+  [[nodiscard]] int childCount() const override { return 0; }
+  [[nodiscard]] int indexOfChild(const QAccessibleInterface*) const override { return -1; }
+  [[nodiscard]] QString text(QAccessible::Text part) const override {
+    return part == QAccessible::Name ? static_cast<QWidget*>(object())->windowTitle() : QString();
+  }
+  [[nodiscard]] QAccessible::Role role() const override { return QAccessible::Window; }
+  [[nodiscard]] QAccessible::State state() const override {
+    QAccessible::State state;
+    state.invisible = true;
+    return state;
+  }
+};
+
+QAccessibleInterface* MakeEmptyWindow(const QString&, QObject* object) {
+  return object->isWidgetType() && object->property(kAway).toBool() ? new EmptyWindow(object) : nullptr;
+}
+
+// What assistive technology knows of a window so far becomes void; what it asks from now on is answered anew.
+void ForgetFaces(QWidget& window) {
+  QList<QWidget*> widgets = window.findChildren<QWidget*>();
+  widgets.append(&window);
+  for (QWidget* widget : widgets)
+    if (QAccessibleInterface* face = QAccessible::queryAccessibleInterface(widget))
+      QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(face));
+}
+
+}  // namespace
+
+OtherWindowsAway::OtherWindowsAway(const std::vector<const QWidget*>& staying) {
+  QAccessible::installFactory(MakeEmptyWindow);
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    const bool stays = std::ranges::find(staying, window) != staying.end();
+    if (stays || !window->isVisible()) continue;
+    away_.emplace_back(window);
+    SetVisible(*window, false);
+  }
+}
+
+OtherWindowsAway::~OtherWindowsAway() {
+  for (const QPointer<QWidget>& window : away_)
+    if (window) SetVisible(*window, true);
+  QAccessible::removeFactory(MakeEmptyWindow);
+}
+
+void OtherWindowsAway::SetVisible(QWidget& window, bool visible) {
+  const bool activates = !window.testAttribute(Qt::WA_ShowWithoutActivating);
+  window.setAttribute(Qt::WA_ShowWithoutActivating);
+  window.installEventFilter(this);
+  window.setVisible(visible);
+  window.removeEventFilter(this);
+  window.setAttribute(Qt::WA_ShowWithoutActivating, !activates);
+  ForgetFaces(window);
+  window.setProperty(kAway, visible ? QVariant() : QVariant(true));
+}
+
+bool OtherWindowsAway::eventFilter(QObject*, QEvent* event) {
+  return event->type() == QEvent::Show || event->type() == QEvent::Hide;
+}
+
+}  // namespace pelmar
