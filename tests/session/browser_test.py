@@ -109,7 +109,7 @@ class BrowserTest(unittest.TestCase):
 
         # Another page, and the keys of the history.
         self.write("druha.htm", f'<TITLE>Druhá [*]</TITLE><BODY BGCOLOR="{PINK}">')
-        session.key("alt+a")
+        session.key("alt+a", "ctrl+a")
         session.type(f"file://{session.home}/druha.htm\n")
         self.shown("Druhá [*]")
         self.boxes(browser, {"page": PINK})
@@ -183,7 +183,7 @@ class BrowserTest(unittest.TestCase):
         path = self.write("a.html", f'<TITLE>Sama</TITLE><BODY BGCOLOR="{GREEN}">')
         browser = self.start("-browser", title=re.compile(r"HTML [Tt]estovací +browser.*"))
         self.assertEqual(len(session.windows()), 1)
-        session.key("alt+a")
+        session.key("alt+a", "ctrl+a")
         session.type(f"file://{path}\n")
         self.wait_title(browser, "HTML testovací browser (Sama)")
         self.boxes(browser, {"page": GREEN})
