@@ -25,6 +25,8 @@ QLabel* AddPanel(QStatusBar& bar, const char* name, const QString& accessible_na
   panel->setObjectName(QLatin1String(name));
   panel->setAccessibleName(accessible_name);
   panel->setTextFormat(Qt::PlainText);
+  panel->setMargin(2);
+  panel->setIndent(4);
   bar.addWidget(panel, stretch);
   return panel;
 }
