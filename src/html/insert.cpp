@@ -54,7 +54,8 @@ void InsertAtCaret(TextBuffer& box, std::string_view text) {
 }
 
 void ReplaceDocument(TextBuffer& box, std::string_view text) {
-  box.Replace(0, box.Size(), text);
+  // The text that the box has already is no change, whoever sets it.
+  if (text != box.Text()) box.Replace(0, box.Size(), text);
   box.SetSelStart(0);
 }
 
