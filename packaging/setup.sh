@@ -2,7 +2,7 @@
 # The caller sets `root` (the source tree) and `step` (the word before each line that is told).
 
 build_packages="build-essential cmake ninja-build ccache qt6-base-dev qt6-tools-dev qt6-l10n-tools
-libgl-dev libx11-dev librsvg2-bin"
+libgl-dev libx11-dev librsvg2-bin qt6-webengine-dev"
 runtime_packages="libqt6svg6 qt6-qpa-plugins qt6-translations-l10n fonts-dejavu-core xdg-utils"
 test_packages="libgtest-dev libbenchmark-dev python3 xvfb openbox xdotool xclip wmctrl x11-utils
 imagemagick lintian dpkg-dev appstream desktop-file-utils fakeroot poppler-utils"

@@ -116,6 +116,8 @@ class Platform {
   virtual bool CanRead(const std::string& path) = 0;  // opens for reading; false for a folder
   virtual FileBytes ReadFile(const std::string& path, std::optional<std::uint64_t> limit) = 0;
   virtual int WriteFile(const std::string& path, std::string_view bytes) = 0;  // 0 or errno
+  // A file that only its owner can read. EEXIST where anything has that name already, links that lead nowhere included.
+  virtual int WriteNewFile(const std::string& path, std::string_view bytes) = 0;  // 0 or errno
   // Reads one file and writes another, piece by piece, so that its size doesn't matter. The target is the new content
   // once that is complete, and what it was until then. 0 or errno.
   virtual int RewriteFile(const std::string& source, const std::string& target, OldTail tail,

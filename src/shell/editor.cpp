@@ -5,6 +5,7 @@
 #include "ciphers/commands.h"
 #include "html/insert.h"
 #include "html/lists.h"
+#include "html/test_page.h"
 #include "texttools/commands.h"
 
 namespace pelmar {
@@ -58,6 +59,7 @@ Editor::Editor(Platform& platform_layer) : platform(platform_layer) {
   AddTextToolCommands(*this);
   AddListCommands(*this);
   AddCipherCommands(*this);
+  AddPageTestCommands(*this);
 }
 
 void NewDocument(Editor& editor) {

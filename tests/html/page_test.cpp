@@ -105,9 +105,9 @@ TEST(Frameset, RowsColumnsAndTheDocument) {
   };
   const Case cases[] = {
       {{{}, {}, "Titulek"}, "", " <FRAMESET>", "Tento Prohlížeč nepodporuje Framesy"_w},
-      {{"*,50%,50", {}, "Titulek"}, "x", " <FRAMESET ROWS=\"*,50%,50\">", "x"},
-      {{{}, "*,50%,50", "Titulek"}, "x\r\ny", " <FRAMESET ROWS=\"*,50%,50\">", "x\r\ny"},
-      {{"1,*", "2,*", "Titulek"}, " ", " <FRAMESET ROWS=\"1,*\" ROWS=\"2,*\">", " "},
+      {{"*,50%,50", {}, "Titulek"}, "x", R"( <FRAMESET ROWS="*,50%,50">)", "x"},
+      {{{}, "*,50%,50", "Titulek"}, "x\r\ny", R"( <FRAMESET ROWS="*,50%,50">)", "x\r\ny"},
+      {{"1,*", "2,*", "Titulek"}, " ", R"( <FRAMESET ROWS="1,*" ROWS="2,*">)", " "},
   };
   for (const Case& c : cases) {
     TextBuffer box;

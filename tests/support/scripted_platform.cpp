@@ -106,6 +106,12 @@ int ScriptedPlatform::WriteFile(const std::string& path, std::string_view bytes)
   return 0;
 }
 
+int ScriptedPlatform::WriteNewFile(const std::string& path, std::string_view bytes) {
+  calls.push_back("create " + path);
+  if (const auto error = write_errors.find(path); error != write_errors.end()) return error->second;
+  return files.try_emplace(path, bytes).second ? 0 : EEXIST;
+}
+
 // In pieces of three bytes, so that every border is met.
 int ScriptedPlatform::RewriteFile(const std::string& source, const std::string& target, OldTail tail,
                                   FileRewriter& rewriter) {

@@ -18,10 +18,9 @@ namespace pelmar {
 class ScriptedPlatform : public Platform {
  public:
   // One string a call, in order, texts as they were given: `message 52 "text" "title"`, `about "title" "text"`, `input
-  // "prompt" "title" "initial"`, `open "filter" 2`, `save "filter" 2`, `write path` (also a failed one), `remove path`,
-  // `print name font size bold italic`, `page`, `put line x "text"`,
-  // `recent path`, `default program path`, `start copy`, `clipboard "text"`, `clipboard clear`, `busy 1`. Reading
-  // leaves no trace.
+  // "prompt" "title" "initial"`, `open "filter" 2`, `save "filter" 2`, `write path` and `create path` (also failed
+  // ones), `remove path`, `print name font size bold italic`, `page`, `put line x "text"`, `recent path`, `default
+  // program path`, `start copy`, `clipboard "text"`, `clipboard clear`, `busy 1`. Reading leaves no trace.
   std::vector<std::string> calls;
   // The calls so far, which are then forgotten.
   std::vector<std::string> TakeCalls();
@@ -57,6 +56,7 @@ class ScriptedPlatform : public Platform {
   bool CanRead(const std::string& path) override;
   FileBytes ReadFile(const std::string& path, std::optional<std::uint64_t> limit) override;
   int WriteFile(const std::string& path, std::string_view bytes) override;
+  int WriteNewFile(const std::string& path, std::string_view bytes) override;
   int RewriteFile(const std::string& source, const std::string& target, OldTail tail, FileRewriter& rewriter) override;
   bool IsSameFile(const std::string& left, const std::string& right) override { return left == right; }
   bool RemoveFile(const std::string& path) override;

@@ -1,6 +1,7 @@
 #include "accessories/windows/accessory_windows.h"
 
 #include "accessories/windows/color_dialog.h"
+#include "accessories/windows/notes_windows.h"
 #include "accessories/windows/tool_windows.h"
 #include "shell/windows/program_parts.h"
 
@@ -9,6 +10,7 @@ namespace pelmar {
 void AddAccessoryWindows(const ProgramParts& parts) {
   parts.windows.Register<ColorDialog>([parts] { return std::make_unique<ColorDialog>(parts.platform, &parts.main); });
   AddToolWindows(parts);
+  AddNotesWindows(parts);
 }
 
 }  // namespace pelmar

@@ -5,7 +5,7 @@
 #include <QWidget>
 #include <memory>
 
-#include "html/dialogs/list_rows.h"
+#include "html/dialogs/paired_lists.h"
 
 class QComboBox;
 

@@ -1,7 +1,7 @@
 #include "html/dialogs/list_dialogs.h"
 
 #include "html/dialogs/form_helpers.h"
-#include "html/dialogs/list_rows.h"
+#include "html/dialogs/paired_lists.h"
 #include "html/insert.h"
 #include "platform/qt/convert.h"
 #include "ui_cis_seznam.h"

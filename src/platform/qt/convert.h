@@ -19,6 +19,11 @@ inline QString Utf8ToQString(std::string_view utf8) {
 }
 inline std::string Utf8FromQString(const QString& string) { return string.toStdString(); }
 
+// A window's title. "[*]" is a placeholder of the toolkit's; doubled it stands for itself.
+inline QString PlainTitle(std::string_view utf8) {
+  return Utf8ToQString(utf8).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+}
+
 inline QColor ColorToQt(Color color) { return {RedOf(color), GreenOf(color), BlueOf(color)}; }
 inline Color ColorFromQt(const QColor& color) { return Rgb(color.red(), color.green(), color.blue()); }
 

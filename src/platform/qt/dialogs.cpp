@@ -5,15 +5,28 @@
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPointer>
+#include <QWindow>
+#include <algorithm>
 
 namespace pelmar {
 namespace {
+
+// A question must not lie under a window of ours that stays on top.
+void RaiseAboveAll(QDialog& dialog) {
+  const QWidgetList windows = QApplication::topLevelWidgets();
+  const auto on_top = [](const QWidget* window) {
+    if (!window->isVisible()) return false;
+    const QWindow* system = window->windowHandle();
+    return (system != nullptr ? system->flags() : window->windowFlags()).testFlag(Qt::WindowStaysOnTopHint);
+  };
+  if (std::any_of(windows.begin(), windows.end(), on_top)) dialog.setWindowFlag(Qt::WindowStaysOnTopHint);
+}
 
 // A dialog is its window's child, and dies with it should that close while the dialog waits.
 template <typename Dialog>
 class Asking {
  public:
-  Asking() : dialog_(new Dialog(QApplication::activeWindow())) {}
+  Asking() : dialog_(new Dialog(QApplication::activeWindow())) { RaiseAboveAll(*dialog_); }
   Asking(const Asking&) = delete;
   Asking& operator=(const Asking&) = delete;
   ~Asking() { delete dialog_.data(); }
@@ -47,6 +60,7 @@ QMessageBox::Icon IconOf(MessageType type) {
 Answer ShowMessage(MessageType type, const QString& text, const QString& title) {
   const bool question = type != MessageType::kOk && type != MessageType::kOkInfo;
   const QPointer<QMessageBox> box = new QMessageBox(QApplication::activeWindow());
+  RaiseAboveAll(*box);
   box->setWindowTitle(title);
   box->setTextFormat(Qt::PlainText);
   box->setText(text);

@@ -289,4 +289,14 @@ bool LeadToSameFile(const std::string& left, const std::string& right) {
   return stat(left.c_str(), &a) == 0 && stat(right.c_str(), &b) == 0 && a.st_dev == b.st_dev && a.st_ino == b.st_ino;
 }
 
+int CreateFile(const std::string& path, std::string_view bytes) {
+  Descriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+  if (!file.IsOpen()) return errno;
+  const int write_error = WriteAll(file.Number(), bytes);
+  const int close_error = file.Close();
+  const int error = write_error != 0 ? write_error : close_error;
+  if (error != 0) unlink(path.c_str());
+  return error;
+}
+
 }  // namespace pelmar

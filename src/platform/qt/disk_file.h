@@ -29,6 +29,10 @@ FileBytes ReadWholeFile(const std::string& path, std::optional<std::uint64_t> li
 // a crash in the middle can mix the two. A character device or a pipe gets the bytes directly.
 int ReplaceFile(const std::string& path, std::string_view bytes, mode_t new_mode = 0666);
 
+// Writes a file that wasn't there, for its owner alone; 0 or errno. EEXIST where anything has that name, a link that
+// leads nowhere included. After a failed write nothing stays behind.
+int CreateFile(const std::string& path, std::string_view bytes);
+
 // See Platform::RewriteFile. The source is a regular file. The new content goes to a file beside the target and is
 // renamed over it, with the care for links and permissions that ReplaceFile takes, but isn't brought to the disk first:
 // it can be made again from the source. Where the folder refuses that, the target itself is written.

@@ -44,6 +44,13 @@ void SetOuterHeight(QWidget& window, int twips) {
   window.resize(window.width(), PixelsOf(twips) - frame.top() - frame.bottom());
 }
 
+void SetOuterPlace(QWidget& window, const TwipsRect& place) {
+  const TwipsRect now = OuterGeometry(window);
+  if (place.width != now.width) SetOuterWidth(window, place.width);
+  if (place.height != now.height) SetOuterHeight(window, place.height);
+  if (place.left != now.left || place.top != now.top) MoveOuter(window, {PixelsOf(place.left), PixelsOf(place.top)});
+}
+
 QSize ScreenTwips(const QWidget& window) {
   const QSize size = window.screen()->size();
   return {TwipsOf(size.width()), TwipsOf(size.height())};

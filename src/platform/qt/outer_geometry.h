@@ -15,6 +15,9 @@ void SetOuterLeft(QWidget& window, int twips);
 void SetOuterTop(QWidget& window, int twips);
 void SetOuterWidth(QWidget& window, int twips);
 void SetOuterHeight(QWidget& window, int twips);
+// All four at once; only what differs is touched. Left and top set one after the other would undo each other on a
+// window whose first move is still on its way.
+void SetOuterPlace(QWidget& window, const TwipsRect& place);
 
 // The whole screen that the window is on.
 QSize ScreenTwips(const QWidget& window);

@@ -77,6 +77,8 @@ FileBytes QtPlatform::ReadFile(const std::string& path, std::optional<std::uint6
 
 int QtPlatform::WriteFile(const std::string& path, std::string_view bytes) { return ReplaceFile(path, bytes); }
 
+int QtPlatform::WriteNewFile(const std::string& path, std::string_view bytes) { return CreateFile(path, bytes); }
+
 int QtPlatform::RewriteFile(const std::string& source, const std::string& target, OldTail tail,
                             FileRewriter& rewriter) {
   return RewriteFileByPieces(source, target, tail, rewriter);

@@ -3,9 +3,9 @@
 #include <QCloseEvent>
 #include <QMimeData>
 #include <QScreen>
-#include <QShortcut>
 #include <algorithm>
 
+#include "platform/qt/controls/tab_keys.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/outer_geometry.h"
 #include "platform/qt/svg_icon.h"
@@ -26,11 +26,6 @@ constexpr std::pair<int, std::string_view> kSizeItems[] = {
 
 // Left, right, centre.
 constexpr Qt::Alignment kAlignments[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
-
-// "[*]" is a placeholder of the toolkit's; doubled it stands for itself.
-QString PlainTitle(const std::string& title) {
-  return Utf8ToQString(title).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
-}
 
 // The path of the first file of a drop, "" where it holds none.
 std::string DroppedFile(const QMimeData* mime) {
@@ -78,28 +73,14 @@ void MainWindow::MakeControls() {
   pop_up(bar_, "MnuPopUp");
   pop_up(toolbar_, "MnuPopUp");
   pop_up(text_, "MnuSel");
-  AddTabKeys();
+  // The strip itself takes no focus, so the keyboard reaches it by keys of its own.
+  AddTabKeys(*this, *tabs_);
   const auto count_lines = [this](bool count) {
     editor_.settings.LineCounting = count;
     if (on_line_counting) on_line_counting();
   };
   connect(bar_->Panel(3), &StatusPanel::Clicked, this, [count_lines] { count_lines(false); });
   connect(bar_->Panel(3), &StatusPanel::DoubleClicked, this, [count_lines] { count_lines(true); });
-}
-
-// The strip itself takes no focus, so the keyboard reaches it by keys of its own.
-void MainWindow::AddTabKeys() {
-  const auto step = [this](const QKeySequence& keys, int by) {
-    connect(new QShortcut(keys, this), &QShortcut::activated, this,
-            [this, by] { tabs_->setCurrentIndex((tabs_->currentIndex() + by + kTabCount) % kTabCount); });
-  };
-  step(QKeySequence(Qt::CTRL | Qt::Key_Tab), 1);
-  step(QKeySequence(Qt::CTRL | Qt::Key_PageDown), 1);
-  step(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab), -1);
-  step(QKeySequence(Qt::CTRL | Qt::Key_PageUp), -1);
-  for (int tab = 0; tab < kTabCount; ++tab)
-    connect(new QShortcut(QKeySequence(Qt::ALT | static_cast<Qt::Key>(Qt::Key_1 + tab)), this), &QShortcut::activated,
-            this, [this, tab] { tabs_->setCurrentIndex(tab); });
 }
 
 void MainWindow::AddViewCommands() {

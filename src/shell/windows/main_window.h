@@ -79,7 +79,6 @@ class MainWindow : public QMainWindow, public MainView {
 
  private:
   void MakeControls();
-  void AddTabKeys();
   void AddViewCommands();
   void FollowDocuments();
   void OpenDropped(const std::string& path);

@@ -9,6 +9,7 @@
 #include "html/dialogs/link_windows.h"
 #include "html/dialogs/page_windows.h"
 #include "html/dialogs/tag_windows.h"
+#include "html/windows/browser_windows.h"
 #include "platform/qt/convert.h"
 #include "shell/windows/config.h"
 #include "shell/windows/shell_windows.h"
@@ -38,7 +39,7 @@ Program::Program(Platform& platform)
 }
 
 void Program::AddWindows() {
-  const ProgramParts parts{platform_, editor_, main_, session_, windows_, stand_alones_, show_in_browser_};
+  const ProgramParts parts{platform_, editor_, main_, session_, windows_, stand_alones_, show_in_browser_, keepers_};
   AddShellWindows(parts);
   AddFileWindows(parts);
   AddTextWindows(parts);
@@ -47,6 +48,7 @@ void Program::AddWindows() {
   AddCipherWindows(parts);
   AddAccessoryWindows(parts);
   AddTagWindows(parts);
+  AddBrowserWindows(parts);
 }
 
 void Program::ShowAccessory(StartMode mode) {
@@ -78,6 +80,8 @@ void Program::TellRuntimeError(const RuntimeError& error) {
     text += "Neuložené dokumenty jsou zachovány v souboru\r\n" + kept +
             "\r\nPříští start programu je nabídne zpět.\r\n\r\n";
   }
+  for (const auto& keep : keepers_)
+    if (const std::string told = keep(); !told.empty()) text += told + "\r\n\r\n";
   text += "Program bude ukončen.";
   platform_.Message(MessageType::kOk, text, "Pelmar VEX");
 }

@@ -43,6 +43,7 @@ class Program {
   StatusTimer timer_;
   StandAlones stand_alones_;
   std::function<void(const std::string& path)> show_in_browser_;
+  Keepers keepers_;
   WindowRegistry windows_;  // last: its windows look at all the others
 };
 

@@ -7,6 +7,7 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/platform.h"
 #include "shell/editor.h"
@@ -19,6 +20,11 @@ namespace pelmar {
 // By mode, what shows an accessory that runs as the whole program.
 using StandAlones = std::map<StartMode, std::function<void()>>;
 
+// Called before an error ends the program. Each keeps what its window holds and returns a line that tells where
+// (UTF-8),
+// "" where there was nothing to keep.
+using Keepers = std::vector<std::function<std::string()>>;
+
 struct ProgramParts {
   Platform& platform;
   Editor& editor;
@@ -28,6 +34,7 @@ struct ProgramParts {
   StandAlones& stand_alones;
   // Shows a file in the internal browser; the path is UTF-8, an empty one does nothing. Set by the browser.
   std::function<void(const std::string& path)>& show_in_browser;
+  Keepers& keepers;
 
   // The same for windows, which may be made before the browser has set it.
   [[nodiscard]] std::function<void(const std::string& path)> BrowserDoor() const {

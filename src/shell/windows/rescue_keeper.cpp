@@ -67,6 +67,14 @@ void RescueKeeper::End() {
   store_.Keep({});
 }
 
+bool LeaveReadable(Platform& platform, const RescueRest& rest) {
+  if (rest.text.empty()) return true;
+  const std::string path = JoinPath(platform.InstallFolder(), rest.file_name);
+  if (platform.WriteFile(path, rest.text) != 0) return false;
+  if (!rest.told.empty()) platform.Message(MessageType::kOkInfo, rest.told + "\r\n" + path, "Záchrana");
+  return true;
+}
+
 void OfferAbandoned(Documents& documents, Platform& platform) {
   std::vector<AbandonedRescue> found = FindAbandoned(platform.InstallFolder(), kDocumentsRescue);
   std::vector<RescueRecord> records;
@@ -89,14 +97,10 @@ void OfferAbandoned(Documents& documents, Platform& platform) {
     for (const RescueRecord& record : records)
       left.insert(left.end(), record.documents.begin(), record.documents.end());
   }
-  if (!left.empty()) {
-    // What found no tab, or wasn't wanted now, stays readable in a text file until the next time.
-    const std::string path = JoinPath(platform.InstallFolder(), "rescued.txt");
-    if (platform.WriteFile(path, ReadableRescue(left)) != 0) return;
-    if (wanted)
-      platform.Message(MessageType::kOkInfo, "Všechny dokumenty se nevešly do záložek. Zbylé jsou v souboru\r\n" + path,
-                       "Záchrana");
-  }
+  // What found no tab, or wasn't wanted now, stays readable in a text file until the next time.
+  if (!LeaveReadable(platform, {"rescued.txt", ReadableRescue(left),
+                                wanted ? "Všechny dokumenty se nevešly do záložek. Zbylé jsou v souboru" : ""}))
+    return;
   for (AbandonedRescue& rescue : found) Discard(rescue);
 }
 

@@ -52,6 +52,15 @@ class RescueKeeper : public QObject {
   std::string kept_;
 };
 
+// What is left of a rescue: it stays readable in a file of the install folder, and the person is told where it lies,
+// unless `told` is empty. False where it can't be written; then the rescue file must stay.
+struct RescueRest {
+  std::string_view file_name;
+  std::string text;  // "" where nothing is left
+  std::string told;  // UTF-8, before the path
+};
+bool LeaveReadable(Platform& platform, const RescueRest& rest);
+
 // Offers back, once, what copies that died left behind in the install folder. Nothing to ask where there is nothing.
 void OfferAbandoned(Documents& documents, Platform& platform);
 

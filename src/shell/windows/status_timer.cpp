@@ -28,10 +28,7 @@ void StatusTimer::SnapWindows() {
     const QSize screen = ScreenTwips(*window);
     const TwipsRect place = OuterGeometry(*window);
     const TwipsRect snapped = Snap(place, editor_.settings.AutosnapDistance, screen.width(), screen.height());
-    if (snapped.width != place.width) SetOuterWidth(*window, snapped.width);
-    if (snapped.height != place.height) SetOuterHeight(*window, snapped.height);
-    if (snapped.left != place.left) SetOuterLeft(*window, snapped.left);
-    if (snapped.top != place.top) SetOuterTop(*window, snapped.top);
+    if (snapped != place) SetOuterPlace(*window, snapped);
   }
 }
 

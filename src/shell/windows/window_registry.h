@@ -41,10 +41,11 @@ class WindowRegistry {
     }
   }
 
-  // Destroys the window; its next use makes it anew.
+  // Forgets the window; its next use makes it anew. It is destroyed when the event at hand is over, because that may be
+  // the window's own close.
   template <class Window>
   void Unload() {
-    entries_.at(typeid(Window)).window.reset();
+    if (QWidget* window = entries_.at(typeid(Window)).window.release()) window->deleteLater();
   }
 
  private:

@@ -21,7 +21,6 @@ Visual::Visual(MainView& view, Session& session, SettingsRecord& settings, Doors
       doors_(std::move(doors)),
       ui_(std::make_unique<Ui::Visual>()) {
   ui_->setupUi(this);
-  ui_->Label1->SetText(ToBytes(kPreviewText));
   ConnectPreview();
   connect(ui_->Check1, &QCheckBox::clicked, this, [this](bool checked) { settings_.LineCounting = checked; });
   connect(ui_->VScroll7, &QScrollBar::valueChanged, this, &Visual::VScroll7_Change);
@@ -63,7 +62,7 @@ void Visual::showEvent(QShowEvent* event) {
 
 void Visual::Load() {
   const EditorLook look = view_.Look();
-  ui_->Label1->SetText(ToBytes(kPreview));
+  ui_->Label1->SetText(ToBytes(kPreviewText));
   ui_->Label1->setTextColor(ColorToQt(look.fore_color));
   ui_->Label1->setBackgroundColor(ColorToQt(look.back_color));
   ui_->Check2->setChecked(look.bold);

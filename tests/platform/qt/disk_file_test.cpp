@@ -193,6 +193,30 @@ TEST(ReplaceFile, WritesInPlaceWhereTheFolderRefuses) {
   AsOrdinaryUser([&] { EXPECT_EQ(ReplaceFile(folder.File("new"), "x"), EACCES); });
 }
 
+TEST(CreateFile, WritesForTheOwnerAndNeverOverAnything) {
+  const TempFolder folder;
+  const mode_t mask = umask(0);
+  EXPECT_EQ(CreateFile(folder.File("page"), "<P>"), 0);
+  umask(mask);
+  EXPECT_EQ(Content(folder.File("page")), "<P>");
+  EXPECT_EQ(ModeOf(folder.File("page")), fs::perms::owner_read | fs::perms::owner_write);
+
+  const std::string theirs = folder.Put("theirs", "old");
+  fs::create_symlink("theirs", folder.File("link"));
+  fs::create_symlink("planted", folder.File("link to nothing"));
+  fs::create_directory(folder.File("folder"));
+  for (const char* name : {"page", "theirs", "link", "link to nothing", "folder"})
+    EXPECT_EQ(CreateFile(folder.File(name), "x"), EEXIST) << name;
+  EXPECT_EQ(Content(theirs), "old");
+  EXPECT_EQ(Content(folder.File("page")), "<P>");
+  EXPECT_FALSE(fs::exists(folder.File("planted")));
+
+  EXPECT_EQ(CreateFile(folder.File("missing/page"), "x"), ENOENT);
+  const FullDisk full(4096);
+  EXPECT_EQ(CreateFile(folder.File("big"), std::string(5000, 'x')), EFBIG);
+  EXPECT_FALSE(fs::exists(folder.File("big")));
+}
+
 // Lines of all lengths, many times longer than what is read at once.
 std::string LongText(std::string_view line_end) {
   std::string text;

@@ -21,12 +21,6 @@ constexpr std::array<const char*, 32> kControlNames = {
     "NUL", "SOH", "STX", "ETX", "EOT", "ENQ", "ACK", "BEL", "BS",  "HT", "LF",  "VT",  "FF", "CR", "SO", "SI",
     "DLE", "DC1", "DC2", "DC3", "DC4", "NAK", "SYN", "ETB", "CAN", "EM", "SUB", "ESC", "FS", "GS", "RS", "US"};
 
-QString SignName(unsigned char code) {
-  if (code < kControlNames.size()) return QString::fromLatin1(kControlNames[code]);
-  if (code == 0x7F) return QStringLiteral("DEL");
-  return QString::number(code, 16).toUpper();
-}
-
 std::int32_t ToUnits(qreal pixels) { return static_cast<std::int32_t>(qRound(pixels * kUnitsPerPixel)); }
 qreal ToPixels(std::int64_t units) { return static_cast<qreal>(units) / kUnitsPerPixel; }
 
@@ -40,6 +34,12 @@ QRawFont SignFace(const QFont& font) {
 }
 
 }  // namespace
+
+QString SignName(unsigned char code) {
+  if (code < kControlNames.size()) return QString::fromLatin1(kControlNames[code]);
+  if (code == 0x7F) return QStringLiteral("DEL");
+  return QString::number(code, 16).toUpper();
+}
 
 bool IsControlSign(unsigned char code) {
   return (code < 0x20 && code != '\t') || (code >= 0x7F && UnicodeOf(code) == code && code < 0xA0);

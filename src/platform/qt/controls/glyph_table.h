@@ -62,5 +62,7 @@ class GlyphTable {
 
 // True for the codes that have no picture of their own and are shown by name.
 bool IsControlSign(unsigned char code);
+// That name: "CR", "DEL", or the code in hexadecimal; for a TAB too.
+QString SignName(unsigned char code);
 
 }  // namespace pelmar

@@ -11,7 +11,8 @@ class OneLineDelegate : public QStyledItemDelegate {
   using QStyledItemDelegate::QStyledItemDelegate;
 
   [[nodiscard]] QString displayText(const QVariant& value, const QLocale& locale) const override {
-    QString text = QStyledItemDelegate::displayText(value, locale);
+    constexpr int kShown = 1000;  // more than a screen is wide; all of a huge row would take seconds to lay out
+    QString text = QStyledItemDelegate::displayText(value, locale).left(kShown);
     const QChar sign(0xB6);
     return text.replace(QLatin1String("\r\n"), sign)
         .replace(u'\r', sign)

@@ -1,30 +1,16 @@
-#include "html/dialogs/list_rows.h"
+#include "html/dialogs/paired_lists.h"
 
 #include <QAbstractButton>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QScrollBar>
 #include <QSignalBlocker>
-#include <QStyledItemDelegate>
 
+#include "platform/qt/controls/list_rows.h"
 #include "platform/qt/convert.h"
 
 namespace pelmar {
 namespace {
-
-// Shows a row in one line, as the fields do: control characters as blanks, and no more of it than a screen is wide.
-class OneLineDelegate : public QStyledItemDelegate {
- public:
-  using QStyledItemDelegate::QStyledItemDelegate;
-
-  QString displayText(const QVariant& value, const QLocale&) const override {
-    constexpr int kShown = 500;
-    QString text = value.toString().left(kShown);
-    for (QChar& ch : text)
-      if (ch < QLatin1Char(' ')) ch = QLatin1Char(' ');
-    return text;
-  }
-};
 
 void Select(QListWidget& list, int row) {
   if (row >= 0 && row < list.count()) return list.setCurrentRow(row);
@@ -45,6 +31,7 @@ int SelectedRow(const QListWidget& list) {
 }
 
 void AddRow(QListWidget& list, const QString& text) {
+  const QSignalBlocker quiet(list);
   const int row = SelectedRow(list);
   list.insertItem(row < 0 ? list.count() : row, text);
 }
@@ -65,9 +52,11 @@ std::vector<std::string> RowTexts(const QListWidget& list) {
 
 PairedLists::PairedLists(const Parts& parts, QObject* parent) : QObject(parent), parts_(parts) {
   for (const auto& [list, other] : {std::pair{parts_.names, parts_.values}, {parts_.values, parts_.names}}) {
-    list->setItemDelegate(new OneLineDelegate(list));
-    connect(list, &QListWidget::itemSelectionChanged, this, [this, l = list, o = other] { Follow(l, o); });
-    connect(list, &QListWidget::itemClicked, this, [this, l = list, o = other] { Follow(l, o); });
+    ShowRowsOnOneLine(*list);
+    OnRowPicked(*list, [this, o = other](int row) { Follow(o, row); });
+    connect(list, &QListWidget::itemSelectionChanged, this, [l = list, o = other] {
+      if (SelectedRow(*l) < 0) Select(*o, -1);
+    });
     connect(list->verticalScrollBar(), &QScrollBar::valueChanged, other->verticalScrollBar(),
             [bar = other->verticalScrollBar()](int value) {
               if (value <= bar->maximum()) bar->setValue(value);  // a longer list scrolls on alone
@@ -81,13 +70,12 @@ PairedLists::PairedLists(const Parts& parts, QObject* parent) : QObject(parent),
   connect(parts_.remove, &QAbstractButton::clicked, this, &PairedLists::Remove);
 }
 
-void PairedLists::Follow(const QListWidget* clicked, QListWidget* other) {
-  const int row = SelectedRow(*clicked);
+void PairedLists::Follow(QListWidget* other, int row) {
   {
     const QSignalBlocker quiet(other);
     Select(*other, row);
   }
-  if (!edits_rows_ || row < 0) return;
+  if (!edits_rows_) return;
   parts_.name->setText(RowText(*parts_.names, row));
   parts_.value->setText(RowText(*parts_.values, row));
 }

@@ -4,7 +4,6 @@
 
 #include <QObject>
 #include <QString>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -53,7 +52,7 @@ class PairedLists : public QObject {
   void SetRows(const AttributeLists& rows);
 
  private:
-  void Follow(const QListWidget* clicked, QListWidget* other);
+  void Follow(QListWidget* other, int row);
   void FieldChanged(const QString& text, QListWidget* list);
   void Add();
   void Remove();

@@ -1,0 +1,83 @@
+#include "accessories/analysis.h"
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
+#include <numeric>
+
+#include "shell/common.h"
+#include "text/codepage.h"
+
+namespace pelmar {
+namespace {
+
+// The number with leading zeros, up to `width` characters.
+std::string Padded(std::uint64_t number, std::size_t width) {
+  std::string digits = std::to_string(number);
+  if (digits.size() < width) digits.insert(0, width - digits.size(), '0');
+  return digits;
+}
+
+// "000,00", halves rounded up.
+std::string Percent(std::int32_t count, std::size_t length) {
+  const std::uint64_t hundredths = (static_cast<std::uint64_t>(count) * 20000 + length) / (2 * length);
+  return Padded(hundredths / 100, 3) + "," + Padded(hundredths % 100, 2);
+}
+
+bool Ignored(std::size_t code, bool ignore_blank) { return ignore_blank && code == CodeOf(' '); }
+
+}  // namespace
+
+Analysis AnalyseText(std::string_view text) {
+  Analysis analysis;
+  analysis.length = text.size();
+  for (const char ch : text) ++analysis.counts[static_cast<std::size_t>(CodeOf(ch))];
+  analysis.counts[0] = 0;  // only the codes from 1 on are counted
+  std::iota(analysis.ranking.begin(), analysis.ranking.end(), std::uint8_t{1});
+  std::ranges::stable_sort(analysis.ranking, std::greater(), [&](std::uint8_t code) { return analysis.counts[code]; });
+  return analysis;
+}
+
+std::vector<Bar> GraphBars(const Analysis& analysis, bool wide, bool ignore_blank) {
+  std::int32_t most = 0;
+  for (std::size_t code = 1; code < kCodes; ++code)
+    if (!Ignored(code, ignore_blank)) most = std::max(most, analysis.counts[code]);
+  std::vector<Bar> bars;
+  if (most == 0) return bars;
+  const std::size_t last = wide ? kCodes - 1 : 128;
+  // required: the narrow graph leaves out codes that occur exactly once, the wide one those that don't occur
+  const std::int32_t left_out = wide ? 0 : 1;
+  for (std::size_t code = 1; code <= last; ++code) {
+    const std::int32_t count = analysis.counts[code];
+    if (count == left_out || Ignored(code, ignore_blank)) continue;
+    bars.push_back({static_cast<int>(code) * BarStep(wide), static_cast<double>(kGraphFull) * count / most});
+  }
+  return bars;
+}
+
+int CodeAt(double x, bool wide) {
+  const double place = x + 1;
+  return place == 0 ? -1 : static_cast<int>(std::floor(place / BarStep(wide)));
+}
+
+std::string PointedText(int code) {
+  return "Poloha: " + std::to_string(code) + " Znak: " + std::string(kQuote) + CharOf(code) + std::string(kQuote);
+}
+
+std::vector<std::string> AnalysisRows(const Analysis& analysis) {
+  std::vector<std::string> rows;
+  if (analysis.length == 0) return rows;
+  rows.reserve(analysis.ranking.size());
+  for (const std::uint8_t code : analysis.ranking) {
+    const std::int32_t count = analysis.counts[code];
+    rows.push_back(Padded(rows.size() + 1, 3) + " " + Padded(static_cast<std::uint64_t>(count), 5) + " " +
+                   Percent(count, analysis.length) + " " + Padded(code, 3) + " " + std::string(kQuote) + CharOf(code) +
+                   std::string(kQuote));
+  }
+  return rows;
+}
+
+// The 23rd, as long as the count has five digits.
+char CharOfRow(std::string_view row) { return row.size() < 2 ? '\0' : row[row.size() - 2]; }
+
+}  // namespace pelmar

@@ -1,0 +1,150 @@
+#include "accessories/windows/analytic.h"
+
+#include <QKeyEvent>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
+
+#include "accessories/analysis.h"
+#include "platform/qt/controls/glyph_table.h"
+#include "platform/qt/convert.h"
+#include "texttools/windows/field_helpers.h"
+#include "ui_analytic.h"
+
+namespace pelmar {
+namespace {
+
+// Control characters by their names: some would break the line, the others can't be seen.
+QString Readable(std::string_view text) {
+  QString readable;
+  for (const char ch : text) {
+    const auto code = static_cast<unsigned char>(ch);
+    readable += IsControlSign(code) || ch == '\t' ? SignName(code) : TextToQString({&ch, 1});
+  }
+  return readable;
+}
+
+// The rows keep their characters as they are, only their look differs.
+class RowDelegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+  [[nodiscard]] QString displayText(const QVariant& value, const QLocale&) const override {
+    return Readable(TextFromQString(value.toString()));
+  }
+};
+
+}  // namespace
+
+Analytic::Analytic(const TextBuffer& document, QWidget* parent)
+    : DialogWindow(parent), document_(document), ui_(std::make_unique<Ui::Analytic>()) {
+  ui_->setupUi(this);
+  ui_->List1->setItemDelegate(new RowDelegate(ui_->List1));
+  timer1_.setObjectName(QStringLiteral("Timer1"));
+  timer1_.setInterval(2000);
+  ConnectEvents();
+  AnalyseText(document_.Text());
+}
+
+Analytic::~Analytic() = default;
+
+void Analytic::ConnectEvents() {
+  connect(ui_->Command1, &QPushButton::clicked, this, &Analytic::Command1_Click);
+  connect(ui_->Command2, &QPushButton::clicked, this, &Analytic::hide);
+  connect(ui_->Command3, &QPushButton::clicked, this, &Analytic::Command3_Click);
+  for (QAbstractButton* choice :
+       std::initializer_list<QAbstractButton*>{ui_->Check1, ui_->Check2, ui_->Option1, ui_->Option2})
+    connect(choice, &QAbstractButton::clicked, this, [this] { AnalyseText(Source()); });
+  connect(ui_->Text1, &TextBox::TextChanged, this, &Analytic::Text1_Change);
+  connect(ui_->Text2, &QLineEdit::textChanged, this,
+          [this](const QString& sought) { ui_->Command3->setEnabled(!sought.isEmpty()); });
+  OnEnter(ui_->Text2, [this] { (ui_->Command3->isEnabled() ? ui_->Command3 : ui_->Command1)->click(); });
+  connect(ui_->Pic, &CharacterGraph::Pointed, this, &Analytic::Pic_Pointed);
+  connect(&timer1_, &QTimer::timeout, this, &Analytic::Timer1_Timer);
+  ui_->Check1->installEventFilter(this);
+  ui_->Picture2->installEventFilter(this);
+}
+
+const std::string& Analytic::Source() const {
+  return ui_->Option1->isChecked() ? document_.Text() : ui_->Text1->Buffer().Text();
+}
+
+void Analytic::AnalyseText(std::string_view text) {
+  ui_->Pic->Clear();
+  if (text.empty()) return;  // required: the list keeps its old rows
+  const Analysis analysis = pelmar::AnalyseText(text);
+  ui_->Pic->Show(GraphBars(analysis, ui_->Check1->isChecked(), ui_->Check2->isChecked()), ui_->Check1->isChecked());
+  ShowRows(AnalysisRows(analysis));
+}
+
+// In place: the list stays where it was scrolled to, and the selection goes with its character.
+void Analytic::ShowRows(const std::vector<std::string>& rows) {
+  QListWidget& list = *ui_->List1;
+  const QListWidgetItem* selected = list.currentItem();
+  const char selected_char = selected == nullptr ? '\0' : CharOfRow(TextFromQString(selected->text()));
+  const int scrolled = list.verticalScrollBar()->value();
+  for (std::size_t at = 0; at < rows.size(); ++at) {
+    const QString row = TextToQString(rows[at]);
+    QListWidgetItem* item = list.item(static_cast<int>(at));
+    if (item == nullptr) {
+      list.addItem(row);
+    } else if (item->text() != row) {
+      item->setText(row);
+    }
+    if (selected != nullptr && CharOfRow(rows[at]) == selected_char) list.setCurrentRow(static_cast<int>(at));
+  }
+  list.verticalScrollBar()->setValue(scrolled);
+}
+
+void Analytic::Command1_Click() { AnalyseText(Source()); }
+
+void Analytic::Command3_Click() {
+  const std::string sought = FieldText(*ui_->Text2);
+  for (int row = 0; row < ui_->List1->count(); ++row) {
+    if (CharOfRow(TextFromQString(ui_->List1->item(row)->text())) != sought[0]) continue;
+    ui_->List1->setCurrentRow(row);
+    return;
+  }
+}
+
+void Analytic::Pic_Pointed(double x) {
+  const int code = CodeAt(x, ui_->Check1->isChecked());
+  if (code < 0) return;
+  const QString text = Readable(PointedText(code));
+  ui_->Label2->setText(text);
+  ui_->Pic->setToolTip(text);
+}
+
+void Analytic::Text1_Change() {
+  AnalyseText(ui_->Text1->Buffer().Text());
+  ui_->Option2->setChecked(true);
+}
+
+void Analytic::Timer1_Timer() {
+  if (ui_->Check3->isChecked() && ui_->Option1->isChecked()) AnalyseText(document_.Text());
+}
+
+bool Analytic::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == ui_->Picture2 && event->type() == QEvent::MouseButtonPress) {
+    ui_->Label2->clear();
+    ui_->Pic->ForgetPlace();
+  }
+  // required: a character's key on the check box blanks the graph until the next analysis
+  if (watched == ui_->Check1 && event->type() == QEvent::KeyPress) {
+    const QString typed = static_cast<QKeyEvent*>(event)->text();
+    if (!typed.isEmpty() && typed[0].isPrint()) ui_->Pic->Clear();
+  }
+  return DialogWindow::eventFilter(watched, event);
+}
+
+void Analytic::showEvent(QShowEvent* event) {
+  DialogWindow::showEvent(event);
+  if (event->spontaneous()) return;
+  timer1_.start();
+  Timer1_Timer();  // what the ticks would have shown meanwhile
+}
+
+void Analytic::hideEvent(QHideEvent* event) {
+  if (!event->spontaneous()) timer1_.stop();
+  DialogWindow::hideEvent(event);
+}
+
+}  // namespace pelmar

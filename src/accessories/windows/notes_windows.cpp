@@ -1,0 +1,60 @@
+#include "accessories/windows/notes_windows.h"
+
+#include <QCoreApplication>
+
+#include "accessories/windows/analytic.h"
+#include "accessories/windows/poznamka.h"
+#include "files/checkpoints.h"
+#include "shell/windows/program_parts.h"
+
+namespace pelmar {
+namespace {
+
+std::unique_ptr<Poznamka> MakeNotes(const ProgramParts& parts) {
+  const StartMode mode = parts.session.Mode();
+  const auto end = [parts, mode] {
+    if (mode == StartMode::kNotes) return QCoreApplication::exit(0);
+    parts.windows.Unload<Poznamka>();
+  };
+  return std::make_unique<Poznamka>(
+      Poznamka::Surroundings{parts.platform, parts.editor.file_number, parts.editor.settings, parts.main, mode, end});
+}
+
+void ShowNotes(const ProgramParts& parts) {
+  auto& notes = parts.windows.Get<Poznamka>();
+  notes.Present();
+  notes.OfferRescued();
+}
+
+void AddCheckpoints(const ProgramParts& parts) {
+  TextBuffer& document = parts.editor.text;
+  parts.editor.commands.Add("mnu_chp_s", [parts, &document] {
+    SaveCheckpoint(document, parts.windows.Get<Poznamka>().Text(), parts.platform);
+  });
+  parts.editor.commands.Add("mnu_chp_v", [parts] { ShowNotes(parts); });
+  parts.editor.commands.Add("mnu_chp_r", [parts, &document] {
+    auto& notes = parts.windows.Get<Poznamka>();
+    notes.OfferRescued();  // the checkpoint may be among it
+    RestoreCheckpoint(notes.Text(), document, parts.platform);
+  });
+}
+
+std::string KeepNotes(WindowRegistry& windows) {
+  auto* notes = windows.Find<Poznamka>();
+  const std::string path = notes == nullptr ? std::string() : notes->KeepNow();
+  return path.empty() ? path : "Neuložené poznámky jsou zachovány v souboru\r\n" + path;
+}
+
+}  // namespace
+
+void AddNotesWindows(const ProgramParts& parts) {
+  parts.windows.Register<Poznamka>([parts] { return MakeNotes(parts); });
+  parts.windows.Register<Analytic>([parts] { return std::make_unique<Analytic>(parts.editor.text, &parts.main); });
+  parts.editor.commands.Add("mnupozn", [parts] { ShowNotes(parts); });
+  parts.stand_alones[StartMode::kNotes] = [parts] { ShowNotes(parts); };
+  parts.ShowBy<Analytic>({"mnu_analysis"});
+  AddCheckpoints(parts);
+  parts.keepers.emplace_back([&windows = parts.windows] { return KeepNotes(windows); });
+}
+
+}  // namespace pelmar

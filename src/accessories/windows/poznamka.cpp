@@ -1,0 +1,221 @@
+#include "accessories/windows/poznamka.h"
+
+#include <QCloseEvent>
+#include <QToolButton>
+
+#include "platform/qt/controls/tab_keys.h"
+#include "platform/qt/convert.h"
+#include "platform/qt/outer_geometry.h"
+#include "platform/qt/svg_icon.h"
+#include "shell/stand_alone.h"
+#include "ui_poznamka.h"
+
+namespace pelmar {
+namespace {
+
+constexpr int kTick = 10;  // milliseconds
+// A window manager may overlook a request while it moves the window itself, or refuse it for good.
+constexpr int kTries = 50;
+
+QFont FontOf(const EditorLook& look) {
+  QFont font(TextToQString(look.font_name));
+  if (look.font_size > 0) font.setPointSizeF(look.font_size);
+  font.setBold(look.bold);
+  font.setItalic(look.italic);
+  return font;
+}
+
+}  // namespace
+
+Poznamka::Poznamka(Surroundings around)
+    : around_(std::move(around)), ui_(std::make_unique<Ui::Poznamka>()), keeper_(Unsaved(), around_.platform) {
+  ui_->setupUi(this);
+  CentreOnScreen(*this);
+  SetAlwaysOnTop(*this, true);
+  ui_->Text1->setFont(FontOf(around_.main.Look()));
+  record_ = stored_ = LoadNotes(around_.platform, around_.file_number);
+  ShowPage(1);
+  ConnectCommands();
+  ui_->Text1->Buffer().OnChange([this](const TextChange&) { keeper_.Touch(); });
+  ui_->Text1->setFocus();
+  timer1_.setObjectName(QStringLiteral("Timer1"));
+  timer1_.setInterval(kTick);
+  connect(&timer1_, &QTimer::timeout, this, &Poznamka::Timer1_Timer);
+}
+
+Poznamka::~Poznamka() { keeper_.KeepNow(); }
+
+void Poznamka::ConnectCommands() {
+  const std::pair<QAction*, const char*> pictures[] = {
+      {ui_->Copy, "copy"}, {ui_->Paste, "paste"}, {ui_->Dock, "dock"}, {ui_->Close, "close"}};
+  for (const auto& [action, picture] : pictures) {
+    action->setIcon(SvgIcon(QStringLiteral(":/icons/%1.svg").arg(QLatin1String(picture))));
+    ui_->Toolbar1->widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
+    ui_->Toolbar1->widgetForAction(action)->setAccessibleName(action->toolTip());
+  }
+  connect(ui_->Copy, &QAction::triggered, this, [this] { around_.platform.SetClipboardText(Text().SelText()); });
+  connect(ui_->Paste, &QAction::triggered, this, [this] { Text().ReplaceSelection(around_.platform.ClipboardText()); });
+  connect(ui_->Close, &QAction::triggered, this, &Poznamka::close);
+  connect(ui_->TabStrip1, &QTabBar::currentChanged, this, &Poznamka::TabStrip1_Click);
+  AddTabKeys(*this, *ui_->TabStrip1);
+}
+
+TextBuffer& Poznamka::Text() { return ui_->Text1->Buffer(); }
+
+void Poznamka::Present() {
+  show();
+  raise();
+  activateWindow();
+}
+
+NotesRecord Poznamka::Now() const {
+  NotesRecord now = record_;
+  now.Page(page_) = ui_->Text1->Buffer().Text();
+  return now;
+}
+
+RescueContent Poznamka::Unsaved() {
+  const auto unsaved = [this] { return NotesToKeep(stored_, Now(), page_); };
+  return {kNotesRescue, [unsaved] { return unsaved().notes.empty() ? std::string() : NotesRescueBytes(unsaved()); },
+          [unsaved] { return ReadableNotes(unsaved().notes); }};
+}
+
+void Poznamka::ShowPage(int page) {
+  page_ = page;
+  const QSignalBlocker quiet(ui_->TabStrip1);
+  ui_->TabStrip1->setCurrentIndex(page - 1);
+  Text().SetText(record_.Page(page));
+}
+
+void Poznamka::TabStrip1_Click(int index) {
+  const NotesRecord now = Now();
+  if (RefuseOverlong(now)) return;
+  record_ = now;
+  ShowPage(index + 1);
+}
+
+bool Poznamka::RefuseOverlong(const NotesRecord& record) {
+  const int page = OverlongPage(record);
+  if (page == 0) return false;
+  record_ = record;
+  if (page == page_) {
+    const QSignalBlocker quiet(ui_->TabStrip1);
+    ui_->TabStrip1->setCurrentIndex(page - 1);
+  } else {
+    ShowPage(page);
+  }
+  around_.platform.Message(MessageType::kOk, OverlongMessage(page, record.Page(page).size()),
+                           Utf8FromQString(windowTitle()));
+  return true;
+}
+
+bool Poznamka::Unload() {
+  const NotesRecord now = Now();
+  if (RefuseOverlong(now)) return false;
+  record_ = now;
+  StoreNotes(record_, around_.platform, around_.file_number);
+  stored_ = record_;
+  keeper_.End();
+  return around_.mode != StartMode::kNotes || MayEndStandAlone(around_.platform, "Poznámky");
+}
+
+void Poznamka::closeEvent(QCloseEvent* event) {
+  if (!Unload()) {
+    event->ignore();
+    return Present();
+  }
+  event->accept();
+  around_.end();
+}
+
+void Poznamka::resizeEvent(QResizeEvent*) {
+  const int toolbar = ui_->Toolbar1->sizeHint().height();
+  const int row = ui_->TabStrip1->RowHeight();
+  ui_->Toolbar1->setGeometry(0, 0, width(), toolbar);
+  ui_->TabStrip1->setGeometry(0, toolbar, width(), ui_->TabStrip1->height());
+  if (toolbar + row >= height()) return;
+  ui_->TabStrip1->resize(width(), height() - toolbar);
+  ui_->Text1->setGeometry(0, toolbar + row, width(), height() - row - toolbar);
+}
+
+void Poznamka::showEvent(QShowEvent* event) {
+  if (!event->spontaneous()) {
+    if (windowIcon().isNull()) setWindowIcon(SvgIcon(QStringLiteral(":/icons/pelmar-vex.svg")));
+    timer1_.start();
+  }
+  QWidget::showEvent(event);
+}
+
+void Poznamka::hideEvent(QHideEvent* event) {
+  if (!event->spontaneous()) timer1_.stop();
+  QWidget::hideEvent(event);
+}
+
+NotesSurroundings Poznamka::Measures() const {
+  const QSize screen = ScreenTwips(*this);
+  NotesSurroundings now;
+  now.notes = OuterGeometry(*this);
+  now.main = around_.main.Place();
+  now.main_state = around_.main.WindowState();
+  now.mode = around_.mode;
+  now.docked = ui_->Dock->isChecked();
+  now.snap_distance = around_.settings.AutosnapDistance;
+  now.screen_width = screen.width();
+  now.screen_height = screen.height();
+  now.narrowest = now.notes.width - TwipsOf(width() - minimumWidth());
+  return now;
+}
+
+void Poznamka::Timer1_Timer() {
+  if (isMinimized() || isMaximized()) return;
+  const NotesSurroundings now = Measures();
+  if (now != placed_for_) {
+    placed_for_ = now;
+    tries_left_ = kTries;
+  }
+  if (tries_left_ == 0) return;
+  --tries_left_;
+  const TwipsRect place = PlaceNotes(now);
+  if (place == now.notes) {
+    tries_left_ = 0;
+  } else {
+    SetOuterPlace(*this, place);
+  }
+}
+
+void Poznamka::OfferRescued() {
+  Platform& platform = around_.platform;
+  std::vector<AbandonedRescue> found;
+  std::vector<UnsavedNotes> unsaved;
+  std::size_t count = 0;
+  for (AbandonedRescue& rescue : FindAbandoned(platform.InstallFolder(), kNotesRescue)) {
+    auto kept = ReadNotesRescue(platform.ReadFile(rescue.path, std::nullopt).bytes);
+    if (!kept) continue;
+    DropKnownNotes(*kept, Now());
+    count += kept->notes.size();
+    if (!kept->notes.empty()) unsaved.push_back(std::move(*kept));
+    found.push_back(std::move(rescue));
+  }
+  if (count > 0 && !SettleRescued(unsaved, count)) return;
+  for (AbandonedRescue& rescue : found) Discard(rescue);
+}
+
+bool Poznamka::SettleRescued(const std::vector<UnsavedNotes>& unsaved, std::size_t count) {
+  Platform& platform = around_.platform;
+  const std::string question =
+      "Poznámky minule nebyly uloženy. Zachované stránky: " + std::to_string(count) + ".\r\nVrátit je do poznámek ?";
+  const bool wanted = platform.Message(MessageType::kYesNoWarning, question, "Záchrana") == Answer::kYes;
+  std::vector<UnsavedNote> left;
+  if (wanted) {
+    record_ = Now();
+    left = BringBackNotes(record_, unsaved);
+    ShowPage(unsaved.front().page_on_show);
+    if (keeper_.KeepNow().empty()) return record_ == stored_;
+  } else {
+    for (const UnsavedNotes& of_one : unsaved) left.insert(left.end(), of_one.notes.begin(), of_one.notes.end());
+  }
+  return LeaveReadable(platform, {"notes-rescued.txt", ReadableNotes(left),
+                                  wanted ? "Všechny stránky se do poznámek nevešly. Zbylé jsou v souboru" : ""});
+}
+
+}  // namespace pelmar

@@ -1,0 +1,78 @@
+// `Poznamka`: five pages of notes, always on top, docked to the main window or snapped to the screen's edges. It lives
+// from its first use until it is closed; the file changes only then. What isn't stored yet lies in a rescue file, which
+// outlives the program and is offered back when the notes are next opened.
+#pragma once
+
+#include <QTimer>
+#include <QWidget>
+#include <functional>
+#include <memory>
+
+#include "accessories/notes.h"
+#include "accessories/notes_place.h"
+#include "shell/settings_record.h"
+#include "shell/windows/rescue_keeper.h"
+
+namespace Ui {
+class Poznamka;
+}
+
+namespace pelmar {
+
+class Poznamka : public QWidget {
+  Q_OBJECT
+
+ public:
+  struct Surroundings {
+    Platform& platform;
+    FileNumber& file_number;
+    const SettingsRecord& settings;
+    const MainView& main;
+    StartMode mode = StartMode::kEditor;
+    std::function<void()> end;  // after the close: forgets the window, or ends the program that it is
+  };
+
+  // Throws RuntimeError where the file can't be read or made.
+  explicit Poznamka(Surroundings around);
+  ~Poznamka() override;
+
+  void Present();
+  // Asks once about what earlier runs left behind, where they did.
+  void OfferRescued();
+  // The page on show.
+  [[nodiscard]] TextBuffer& Text();
+  // Keeps what isn't stored, at once. Returns the path of the rescue file, "" where there was nothing to keep.
+  std::string KeepNow() { return keeper_.KeepNow(); }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+
+ private:
+  void ConnectCommands();
+  void TabStrip1_Click(int index);
+  void Timer1_Timer();
+  bool Unload();
+  // False where what earlier runs left has to stay where it is.
+  bool SettleRescued(const std::vector<UnsavedNotes>& unsaved, std::size_t count);
+  bool RefuseOverlong(const NotesRecord& record);
+  void ShowPage(int page);
+  // The record with the text of the page on show.
+  [[nodiscard]] NotesRecord Now() const;
+  [[nodiscard]] NotesSurroundings Measures() const;
+  RescueContent Unsaved();
+
+  Surroundings around_;
+  std::unique_ptr<Ui::Poznamka> ui_;
+  NotesRecord record_;  // the page on show as it was when it was turned to
+  NotesRecord stored_;  // what the file holds, as far as this window knows
+  int page_ = 1;
+  QTimer timer1_;
+  NotesSurroundings placed_for_;  // what the last tick saw
+  int tries_left_ = 0;            // how often the same place is asked for again
+  RescueKeeper keeper_;
+};
+
+}  // namespace pelmar

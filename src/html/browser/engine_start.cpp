@@ -1,0 +1,66 @@
+#include "html/browser/engine_start.h"
+
+#include <sched.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QCoreApplication>
+#include <QLoggingCategory>
+#include <QOpenGLContext>
+#include <QQuickWindow>
+#include <cerrno>
+
+// The toolkit's own door for this, in no public header: the context that all others share.
+extern void qt_gl_set_global_share_context(QOpenGLContext* context);
+
+namespace pelmar {
+namespace {
+
+constexpr char kFlags[] = "QTWEBENGINE_CHROMIUM_FLAGS";
+constexpr char kNoSandbox[] = "QTWEBENGINE_DISABLE_SANDBOX";
+
+// The sandbox needs a user name space of its own, and refuses root. Without one the engine would end the whole program.
+bool SandboxWorks() {
+  if (geteuid() == 0) return false;
+  const pid_t child = fork();
+  if (child == 0) _exit(unshare(CLONE_NEWUSER | CLONE_NEWPID) == 0 ? 0 : 1);
+  int status = 1;
+  if (child > 0)
+    while (waitpid(child, &status, 0) < 0 && errno == EINTR) continue;
+  return child > 0 && WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
+
+// The engine draws by software here, and yet it looks at the shared context's format: an empty context is enough. The
+// ordinary way, AA_ShareOpenGLContexts, makes a real one at every start of the program.
+void ShareEmptyContext() {
+  if (QOpenGLContext::globalShareContext() != nullptr) return;
+  auto* context = new QOpenGLContext(qApp);
+  qt_gl_set_global_share_context(context);
+}
+
+}  // namespace
+
+ScopedVariable::ScopedVariable(const char* name, const QByteArray& value) : name_(name) {
+  if (qEnvironmentVariableIsSet(name)) old_ = qgetenv(name);
+  qputenv(name, value);
+}
+
+ScopedVariable::~ScopedVariable() {
+  if (old_) {
+    qputenv(name_, *old_);
+  } else {
+    qunsetenv(name_);
+  }
+}
+
+EngineStart::EngineStart() : flags_(kFlags, qgetenv(kFlags) + " --disable-gpu --lang=cs") {
+  if (!SandboxWorks()) no_sandbox_.emplace(kNoSandbox, "1");
+  ShareEmptyContext();
+  QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+  // Reports of its start go to its standard error, and to nobody's use.
+  QLoggingCategory::setFilterRules(QStringLiteral("default=false\nqt.webenginecontext=false"));
+}
+
+EngineStart::~EngineStart() { QLoggingCategory::setFilterRules(QString()); }
+
+}  // namespace pelmar

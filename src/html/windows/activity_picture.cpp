@@ -1,0 +1,25 @@
+#include "html/windows/activity_picture.h"
+
+#include <QPainter>
+
+#include "platform/qt/svg_icon.h"
+
+namespace pelmar {
+
+ActivityPicture::ActivityPicture(QWidget* parent) : QWidget(parent) {
+  for (int number = 1; number <= kFrames; ++number)
+    frames_[static_cast<std::size_t>(number - 1)] = SvgIcon(QStringLiteral(":/icons/activity%1.svg").arg(number));
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+void ActivityPicture::Step() {
+  frame_ = (frame_ + 1) % kFrames;
+  update();
+}
+
+void ActivityPicture::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  frames_[static_cast<std::size_t>(frame_)].paint(&painter, rect());
+}
+
+}  // namespace pelmar

@@ -1,0 +1,62 @@
+#include "html/windows/browser_windows.h"
+
+#include <QCoreApplication>
+#include <memory>
+
+#include "html/test_page.h"
+#include "html/windows/browser_module.h"
+#include "html/windows/frm_browser.h"
+#include "platform/qt/convert.h"
+#include "shell/windows/program_parts.h"
+
+namespace pelmar {
+namespace {
+
+void End(int status) {
+  // A loop that hasn't begun yet must not miss it.
+  QMetaObject::invokeMethod(
+      qApp, [status] { QCoreApplication::exit(status); }, Qt::QueuedConnection);
+}
+
+// The browser's window; nothing where its module is missing, which the person has been told then.
+FrmBrowser* Browser(const ProgramParts& parts, BrowserModule& module) {
+  if (FrmBrowser* browser = parts.windows.Find<FrmBrowser>()) return browser;
+  // The engine's start takes about a second.
+  parts.platform.SetBusyPointer(true);
+  FrmBrowser* browser = module.Maker() == nullptr ? nullptr : &parts.windows.Get<FrmBrowser>();
+  parts.platform.SetBusyPointer(false);
+  if (browser == nullptr)
+    parts.platform.Message(MessageType::kOk, Utf8FromQString(module.Problem()), "Interní browser");
+  return browser;
+}
+
+void AddShowCommand(const ProgramParts& parts, std::string_view name, PageEnd end) {
+  parts.editor.commands.Add(name, [parts, end] {
+    if (const auto page = PageToShow(parts.editor, end)) parts.show_in_browser(*page);
+  });
+}
+
+}  // namespace
+
+void AddBrowserWindows(const ProgramParts& parts) {
+  const auto module = std::make_shared<BrowserModule>();
+  parts.windows.Register<FrmBrowser>([parts, module] {
+    const bool alone = parts.session.Mode() == StartMode::kBrowser;
+    return std::make_unique<FrmBrowser>(*module->Maker(), parts.platform,
+                                        alone ? [] { End(EXIT_SUCCESS); } : std::function<void()>());
+  });
+  parts.show_in_browser = [parts, module](const std::string& path) {
+    if (path.empty()) return;
+    if (FrmBrowser* browser = Browser(parts, *module)) browser->ShowInBrowser(path);
+  };
+  parts.stand_alones[StartMode::kBrowser] = [parts, module] {
+    FrmBrowser* browser = Browser(parts, *module);
+    if (browser == nullptr) return End(EXIT_FAILURE);
+    browser->ShowAlone();
+  };
+  AddShowCommand(parts, "Mnu_Internal_Browser", PageEnd::kLineBreak);
+  // required: the toolbar's page ends as the text does, the menu's has one line break more
+  AddShowCommand(parts, "Browser", PageEnd::kAsItIs);
+}
+
+}  // namespace pelmar

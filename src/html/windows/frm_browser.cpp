@@ -1,0 +1,207 @@
+#include "html/windows/frm_browser.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QToolButton>
+
+#include "html/browser_texts.h"
+#include "html/windows/web_address.h"
+#include "platform/qt/convert.h"
+#include "platform/qt/outer_geometry.h"
+#include "platform/qt/svg_icon.h"
+#include "shell/stand_alone.h"
+#include "ui_frm_browser.h"
+
+namespace pelmar {
+namespace {
+
+constexpr int kTimerInterval = 5;  // ms
+constexpr std::string_view kOpenFilter = "Všechno (*.*)|*.*|htm (*.htm)|*.htm|html (*.html)|*.html";
+
+QLabel* AddPanel(QStatusBar& bar, const char* name, const QString& accessible_name, int stretch) {
+  auto* panel = new QLabel(&bar);
+  panel->setObjectName(QLatin1String(name));
+  panel->setAccessibleName(accessible_name);
+  panel->setTextFormat(Qt::PlainText);
+  bar.addWidget(panel, stretch);
+  return panel;
+}
+
+}  // namespace
+
+FrmBrowser::FrmBrowser(WebViewMaker& maker, Platform& platform, std::function<void()> end_program)
+    : StartingAddress(Utf8ToQString(kStartingAddress)),
+      platform_(platform),
+      end_program_(std::move(end_program)),
+      ui_(std::make_unique<Ui::FrmBrowser>()) {
+  ui_->setupUi(this);
+  setWindowIcon(SvgIcon(QStringLiteral(":/icons/pelmar-vex.svg")));
+  status_ = AddPanel(*ui_->StatusBar1, "Panel1", QStringLiteral("Stav"), 1);
+  progress_ = AddPanel(*ui_->StatusBar1, "Panel2", QStringLiteral("Průběh načítání"), 0);
+  timTimer.setObjectName(QStringLiteral("timTimer"));
+  timTimer.setInterval(kTimerInterval);
+  connect(&timTimer, &QTimer::timeout, this, &FrmBrowser::timTimer_Timer);
+  view_ = maker.Make(ui_->client);
+  ConnectView();
+  ConnectToolBar();
+  ConnectAddress();
+  if (end_program_) ui_->tbToolBar->actions().at(7)->setToolTip(QStringLiteral("Ukončit program"));
+}
+
+FrmBrowser::~FrmBrowser() = default;
+
+void FrmBrowser::ConnectView() {
+  view_->Widget()->setObjectName(QStringLiteral("brwWebBrowser"));
+  view_->Widget()->setAccessibleName(QStringLiteral("Stránka"));
+  ui_->page->addWidget(view_->Widget());
+  setTabOrder(ui_->cboAddress, view_->Widget());
+  view_->on_progress = [this](qint64 progress, qint64 maximum) { View_Progress(progress, maximum); };
+  view_->on_change = [this] {
+    ShowCaption();
+    // A page that was asked for in the page itself loads too.
+    if (view_->Busy()) timTimer.start();
+  };
+  view_->on_finished = [this] { View_Finished(); };
+}
+
+void FrmBrowser::ConnectToolBar() {
+  const auto on = [this](QAction* action, auto act) {
+    action->setIcon(SvgIcon(QStringLiteral(":/icons/%1.svg").arg(action->objectName().toLower())));
+    auto* button = qobject_cast<QToolButton*>(ui_->tbToolBar->widgetForAction(action));
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setAccessibleName(action->text());
+    connect(action, &QAction::triggered, this, [this, act] {
+      timTimer.start();
+      act();
+    });
+  };
+  on(ui_->Back, [this] { view_->Back(); });
+  on(ui_->Forward, [this] { view_->Forward(); });
+  on(ui_->Refresh, [this] { view_->Refresh(); });
+  on(ui_->Stop, [this] { Stop_Click(); });
+  on(ui_->Open, [this] { Open_Click(); });
+  on(ui_->Close, [this] { Close_Click(); });
+}
+
+void FrmBrowser::ConnectAddress() {
+  QLineEdit* line = ui_->cboAddress->lineEdit();
+  // The toolkit would complete what is typed, and load an entry of the list when the field is left.
+  ui_->cboAddress->setCompleter(nullptr);
+  disconnect(line, &QLineEdit::editingFinished, ui_->cboAddress, nullptr);
+  line->installEventFilter(this);
+  ui_->cboAddress->installEventFilter(this);
+  connect(ui_->cboAddress, &QComboBox::activated, this, &FrmBrowser::NavigateToBox);
+}
+
+bool FrmBrowser::eventFilter(QObject* watched, QEvent* event) {
+  // A turn of the wheel over the list is not a choice.
+  if (watched == ui_->cboAddress && event->type() == QEvent::Wheel) return true;
+  if (watched == ui_->cboAddress->lineEdit() && event->type() == QEvent::KeyPress) {
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+      NavigateToBox();
+      return true;
+    }
+  }
+  return QMainWindow::eventFilter(watched, event);
+}
+
+void FrmBrowser::ShowInBrowser(const std::string& path) {
+  if (path.empty()) return;
+  Visit(Utf8ToQString(PathToFileUrl(path)));
+  Present();
+  view_->Widget()->setFocus();
+}
+
+void FrmBrowser::ShowAlone() {
+  Present();
+  if (!StartingAddress.isEmpty()) Visit(StartingAddress);
+}
+
+void FrmBrowser::Present() {
+  show();
+  raise();
+  activateWindow();
+}
+
+void FrmBrowser::Visit(const QString& address) {
+  DontNavigateNow = true;
+  ui_->cboAddress->addItem(address);
+  ui_->cboAddress->setEditText(address);
+  DontNavigateNow = false;
+  timTimer.start();
+  view_->Load(UrlOfAddress(address));
+}
+
+void FrmBrowser::NavigateToBox() {
+  if (DontNavigateNow) return;
+  timTimer.start();
+  view_->Load(UrlOfAddress(ui_->cboAddress->currentText()));
+}
+
+void FrmBrowser::ShowCaption() { setWindowTitle(PlainTitle(BrowserCaption(Utf8FromQString(view_->LocationName())))); }
+
+void FrmBrowser::timTimer_Timer() {
+  if (view_->Busy()) {
+    status_->setText(QStringLiteral("Busy"));
+    ui_->Picture1->Step();
+    return;
+  }
+  timTimer.stop();
+  ShowCaption();
+  status_->setText(QStringLiteral("Idle"));
+}
+
+void FrmBrowser::View_Progress(qint64 progress, qint64 maximum) {
+  progress_->setText(Utf8ToQString(ProgressText(progress, maximum)));
+}
+
+void FrmBrowser::View_Finished() {
+  ShowCaption();
+  QComboBox& list = *ui_->cboAddress;
+  const QString address = AddressOfUrl(view_->LocationAddress());
+  DontNavigateNow = true;
+  for (int row = list.count() - 1; row >= 0; --row)
+    if (list.itemText(row) == address) list.removeItem(row);
+  list.insertItem(0, address);
+  list.setCurrentIndex(0);
+  DontNavigateNow = false;
+}
+
+void FrmBrowser::Stop_Click() {
+  timTimer.stop();
+  view_->Stop();
+  ShowCaption();
+  // No tick comes any more that would say so.
+  status_->setText(QStringLiteral("Idle"));
+}
+
+void FrmBrowser::Open_Click() {
+  if (const auto path = platform_.OpenDialog(kOpenFilter, 1)) Visit(Utf8ToQString(PathToFileUrl(*path)));
+}
+
+void FrmBrowser::Close_Click() {
+  hide();
+  if (!end_program_) return;
+  if (MayEndStandAlone(platform_, "Browser")) return end_program_();
+  show();
+}
+
+void FrmBrowser::closeEvent(QCloseEvent* event) {
+  // Where nothing is asked, the toolkit hides the window itself.
+  if (!end_program_) return event->accept();
+  event->ignore();
+  Close_Click();
+}
+
+void FrmBrowser::showEvent(QShowEvent* event) {
+  if (!centred_ && !event->spontaneous()) {
+    centred_ = true;
+    CentreOnScreen(*this);
+  }
+  QMainWindow::showEvent(event);
+}
+
+}  // namespace pelmar

@@ -1,0 +1,57 @@
+// A control that shows web pages, as the internal browser's window sees it. The real one lies in the module
+// pelmar-browser, which is loaded at its first use; tests have a scripted one. Everything runs on the interface thread.
+#pragma once
+
+#include <QString>
+#include <QUrl>
+#include <QtPlugin>
+#include <functional>
+#include <memory>
+
+class QWidget;
+
+namespace pelmar {
+
+class WebView {
+ public:
+  WebView() = default;
+  WebView(const WebView&) = delete;
+  WebView& operator=(const WebView&) = delete;
+  virtual ~WebView() = default;
+
+  // What is on the screen. This object owns it, though it is a child of the widget that the view was made for.
+  [[nodiscard]] virtual QWidget* Widget() = 0;
+
+  // Where there is nothing to do (no page to go back to), these do nothing.
+  virtual void Load(const QUrl& address) = 0;
+  virtual void Back() = 0;
+  virtual void Forward() = 0;
+  virtual void Refresh() = 0;
+  virtual void Stop() = 0;
+
+  [[nodiscard]] virtual bool Busy() const = 0;
+  [[nodiscard]] virtual QString LocationName() const = 0;  // the page's title; its file's name where it has none
+  [[nodiscard]] virtual QUrl LocationAddress() const = 0;
+
+  // Gives the words that the page shows, those of its frames too, when they have been collected.
+  virtual void ReadText(std::function<void(const QString& text)> then) = 0;
+
+  std::function<void(qint64 progress, qint64 maximum)> on_progress;  // a maximum of 0 when there is nothing to load
+  std::function<void()> on_change;                                   // the title changed or a load began
+  std::function<void()> on_finished;                                 // a load ended, well or not
+};
+
+// What the module's plug-in object is.
+class WebViewMaker {
+ public:
+  WebViewMaker() = default;
+  WebViewMaker(const WebViewMaker&) = delete;
+  WebViewMaker& operator=(const WebViewMaker&) = delete;
+  virtual ~WebViewMaker() = default;
+  [[nodiscard]] virtual std::unique_ptr<WebView> Make(QWidget* parent) = 0;
+};
+
+}  // namespace pelmar
+
+#define PELMAR_WEB_VIEW_MAKER "cz.pelmar.vex.WebViewMaker/1"
+Q_DECLARE_INTERFACE(pelmar::WebViewMaker, PELMAR_WEB_VIEW_MAKER)

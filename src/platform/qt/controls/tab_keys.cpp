@@ -1,0 +1,24 @@
+#include "platform/qt/controls/tab_keys.h"
+
+#include <QShortcut>
+#include <QTabBar>
+#include <algorithm>
+
+namespace pelmar {
+
+void AddTabKeys(QWidget& window, QTabBar& tabs) {
+  const auto on = [&](const QKeySequence& keys, auto act) {
+    QObject::connect(new QShortcut(keys, &window), &QShortcut::activated, &window, act);
+  };
+  const auto step = [&tabs](int by) {
+    return [&tabs, by] { tabs.setCurrentIndex((tabs.currentIndex() + by + tabs.count()) % tabs.count()); };
+  };
+  on(QKeySequence(Qt::CTRL | Qt::Key_Tab), step(1));
+  on(QKeySequence(Qt::CTRL | Qt::Key_PageDown), step(1));
+  on(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab), step(-1));
+  on(QKeySequence(Qt::CTRL | Qt::Key_PageUp), step(-1));
+  for (int tab = 0; tab < std::min(tabs.count(), 9); ++tab)
+    on(QKeySequence(Qt::ALT | static_cast<Qt::Key>(Qt::Key_1 + tab)), [&tabs, tab] { tabs.setCurrentIndex(tab); });
+}
+
+}  // namespace pelmar

@@ -1,0 +1,13 @@
+// Keys that go through a strip of tabs from anywhere in its window: Ctrl+Tab, Ctrl+Page Down and their reverses, and
+// Alt+1 to Alt+9 for the tab of that number.
+#pragma once
+
+class QTabBar;
+class QWidget;
+
+namespace pelmar {
+
+// The strip has its tabs already and lives as long as the window.
+void AddTabKeys(QWidget& window, QTabBar& tabs);
+
+}  // namespace pelmar

@@ -1,0 +1,165 @@
+#include "accessories/notes.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+
+#include "files/checkpoints.h"
+#include "shell/common.h"
+#include "support/scripted_platform.h"
+
+namespace pelmar {
+namespace {
+
+constexpr char kPath[] = "/install/notes.dat";
+
+std::string Bytes(std::initializer_list<int> codes) {
+  std::string bytes;
+  for (const int code : codes) bytes += static_cast<char>(code);
+  return bytes;
+}
+
+const NotesRecord kNotes{{"a\r\n", "", std::string(258, 'x'), "\xE8\xFF", std::string("\0z", 2)}};
+const std::string kNotesBytes =
+    Bytes({3, 0, 'a', 13, 10, 0, 0, 2, 1}) + std::string(258, 'x') + Bytes({2, 0, 0xE8, 0xFF, 2, 0, 0, 'z'});
+
+TEST(NotesFile, IsTheRecordToTheByte) {
+  EXPECT_EQ(NotesBytes(kNotes), kNotesBytes);
+  EXPECT_EQ(ReadNotes(kNotesBytes), kNotes);
+  EXPECT_EQ(NotesBytes({}), std::string(10, '\0'));
+}
+
+TEST(NotesFile, ADamagedOneReadsAsEmptyFromTheDamageOn) {
+  const struct {
+    std::string bytes;
+    NotesRecord expected;
+  } kCases[] = {
+      {"", {}},
+      {Bytes({5}), {}},                                           // half a count
+      {Bytes({5, 0, 'a', 'b'}), {}},                              // a count beyond the end
+      {Bytes({1, 0, 'a', 0xFF, 0xFF, 'b', 1, 0, 'c'}), {{"a"}}},  // what stands behind the damage can't be trusted
+      {Bytes({1, 0, 'a', 2, 0, 'b', 'c', 1}), {{"a", "bc"}}},
+      {kNotesBytes + "an older, longer record's tail", kNotes},
+  };
+  for (const auto& one : kCases) EXPECT_EQ(ReadNotes(one.bytes), one.expected) << one.bytes.size();
+}
+
+TEST(NotesFile, TakesPagesUpToWhatTheCountCanSay) {
+  NotesRecord record;
+  record.Page(4) = std::string(kLongestNote, 'x');
+  EXPECT_EQ(ReadNotes(NotesBytes(record)), record);
+  EXPECT_EQ(OverlongPage(record), 0);
+  record.Page(4) += 'x';
+  EXPECT_EQ(OverlongPage(record), 4);
+  EXPECT_THROW(NotesBytes(record), RuntimeError);
+}
+
+struct NotesOnDisk : testing::Test {
+  ScriptedPlatform platform;
+  FileNumber file_number;
+};
+
+TEST_F(NotesOnDisk, AMissingFileIsMadeEmpty) {
+  EXPECT_EQ(LoadNotes(platform, file_number), NotesRecord{});
+  EXPECT_EQ(platform.files.at(kPath), "");
+  StoreNotes({}, platform, file_number);
+  EXPECT_EQ(platform.files.at(kPath), std::string(10, '\0'));
+}
+
+TEST_F(NotesOnDisk, TheTailOfALongerRecordStays) {
+  platform.files[kPath] = kNotesBytes;
+  StoreNotes({{"b"}}, platform, file_number);
+  EXPECT_EQ(platform.files[kPath], Bytes({1, 0, 'b', 0, 0, 0, 0, 0, 0, 0, 0}) + kNotesBytes.substr(11));
+  EXPECT_EQ(LoadNotes(platform, file_number), (NotesRecord{{"b"}}));
+}
+
+TEST_F(NotesOnDisk, WhatCantBeReadIsNotWrittenOver) {
+  platform.files[kPath] = kNotesBytes;
+  platform.read_errors[kPath] = EACCES;
+  EXPECT_THROW(LoadNotes(platform, file_number), RuntimeError);
+  EXPECT_THROW(StoreNotes({}, platform, file_number), RuntimeError);
+  EXPECT_EQ(platform.files[kPath], kNotesBytes);
+  platform.read_errors.clear();
+  platform.write_errors[kPath] = EROFS;
+  EXPECT_THROW(StoreNotes({}, platform, file_number), RuntimeError);
+  EXPECT_FALSE(file_number.IsOpen());
+  platform.files.clear();
+  EXPECT_THROW(LoadNotes(platform, file_number), RuntimeError);
+  file_number.Open();  // an operation that was abandoned
+  EXPECT_THROW(LoadNotes(platform, file_number), RuntimeError);
+}
+
+TEST(NotesRescue, HoldsThePagesThatDifferFromTheFile) {
+  NotesRecord now = kNotes;
+  now.Page(1) = "new";
+  now.Page(3).clear();
+  const UnsavedNotes unsaved = NotesToKeep(kNotes, now, 3);
+  EXPECT_EQ(unsaved, (UnsavedNotes{3, {{1, "a\r\n", "new"}, {3, std::string(258, 'x'), ""}}}));
+  const std::string bytes = NotesRescueBytes(unsaved);
+  EXPECT_EQ(ReadNotesRescue(bytes), unsaved);
+  for (std::size_t size = 0; size < bytes.size(); ++size)
+    EXPECT_FALSE(ReadNotesRescue(std::string_view(bytes).substr(0, size)));
+  for (std::size_t at = 0; at < bytes.size(); at += 7) {
+    std::string damaged = bytes;
+    damaged[at] = static_cast<char>(damaged[at] ^ 0x40);
+    EXPECT_FALSE(ReadNotesRescue(damaged)) << at;
+  }
+}
+
+TEST(NotesRescue, EachPageComesBackToItsPlaceOrToAnEmptyOne) {
+  NotesRecord record{{"one", "two", "", "four", "five"}};
+  const std::vector<UnsavedNotes> unsaved = {
+      {1, {{1, "one", "ONE"}, {3, "", "THREE"}, {5, "older", ""}}},  // an emptied page gives way to what is there now
+      {2, {{1, "one", "another one"}, {2, "two", ""}}},
+      {1, {{4, "older", "no place"}}},
+  };
+  const std::vector<UnsavedNote> left = BringBackNotes(record, unsaved);
+  EXPECT_EQ(record, (NotesRecord{{"ONE", "another one", "THREE", "four", "five"}}));
+  EXPECT_EQ(left, (std::vector<UnsavedNote>{{4, "older", "no place"}}));
+  EXPECT_EQ(ReadableNotes(left), "Pozn\xE1mka 4:\r\nno place\r\n\r\n");
+}
+
+TEST(NotesRescue, WhatTheRecordHoldsAlreadyIsNotOffered) {
+  UnsavedNotes unsaved{1, {{1, "before", "a\r\n"}, {2, "", "b"}}};
+  DropKnownNotes(unsaved, kNotes);
+  EXPECT_EQ(unsaved.notes, (std::vector<UnsavedNote>{{2, "", "b"}}));
+}
+
+struct Checkpoints : testing::Test {
+  ScriptedPlatform platform;
+  TextBuffer document, note;
+};
+
+TEST_F(Checkpoints, TakesTheTextOverTheNote) {
+  note.SetText("old note");
+  document.SetText("text\r\n\xFF");
+  SaveCheckpoint(document, note, platform);
+  EXPECT_EQ(note.Text(), document.Text());
+  document.SetText("spoilt");
+  platform.answers = {Answer::kNo, Answer::kYes};
+  RestoreCheckpoint(note, document, platform);
+  EXPECT_EQ(document.Text(), "spoilt");
+  RestoreCheckpoint(note, document, platform);
+  EXPECT_EQ(document.Text(), "text\r\n\xFF");
+  const std::string question = "message 52 \"Opravdu vše vrátit ?\" \"Checkpoint\"";
+  EXPECT_EQ(platform.calls, (std::vector<std::string>{question, question}));
+}
+
+TEST_F(Checkpoints, AnEmptyNoteAsksNothing) {
+  document.SetText("text");
+  RestoreCheckpoint(note, document, platform);
+  EXPECT_EQ(document.Text(), "text");
+  EXPECT_TRUE(platform.calls.empty());
+}
+
+TEST_F(Checkpoints, ATextThatNoNoteHoldsIsRefused) {
+  note.SetText("old note");
+  document.SetText(std::string(kLongestNote + 1, 'x'));
+  platform.answers = {Answer::kOk};
+  SaveCheckpoint(document, note, platform);
+  EXPECT_EQ(note.Text(), "old note");
+  EXPECT_EQ(platform.calls.size(), 1u);
+}
+
+}  // namespace
+}  // namespace pelmar
