@@ -10,16 +10,34 @@ namespace {
 
 constexpr int kRowHeight = 330;  // twips
 
+QString Caption(int page) { return QStringLiteral("Poznámka %1").arg(page); }
+
 }  // namespace
 
 NoteTabs::NoteTabs(QWidget* parent) : QTabBar(parent) {
   setExpanding(false);
-  // Arrows would lie in the middle of the strip, under the text. What stays of a caption cut in the middle is the number.
+  // Arrows would lie in the middle of the strip, under the text.
   setUsesScrollButtons(false);
-  setElideMode(Qt::ElideMiddle);
   setDrawBase(false);
+  for (int page = 1; page <= kNotePages; ++page) {
+    const int tab = addTab(Caption(page));
+    setTabData(tab, QStringLiteral("Note%1").arg(page));
+    setAccessibleTabName(tab, Caption(page));
+    setTabToolTip(tab, Caption(page));
+  }
+}
+
+void NoteTabs::ShowCaptions(bool whole) {
+  for (int page = 1; page <= kNotePages; ++page) setTabText(page - 1, whole ? Caption(page) : QString::number(page));
+}
+
+void NoteTabs::resizeEvent(QResizeEvent* event) {
+  int whole = 0;
   for (int page = 1; page <= kNotePages; ++page)
-    setTabData(addTab(QStringLiteral("Poznámka %1").arg(page)), QStringLiteral("Note%1").arg(page));
+    whole += tabSizeHint(page - 1).width() + fontMetrics().horizontalAdvance(Caption(page)) -
+             fontMetrics().horizontalAdvance(tabText(page - 1));
+  ShowCaptions(whole <= width());
+  QTabBar::resizeEvent(event);
 }
 
 int NoteTabs::RowHeight() const { return std::max(PixelsOf(kRowHeight), fontMetrics().height() + 4); }

@@ -1,4 +1,5 @@
-// The tabs of the notes. The strip spans the window's whole client area; only its row of tabs shows, above the text.
+// The tabs of the notes. The strip spans the window's whole client area; only its row of tabs shows, above the text. In
+// a window too narrow for the captions the tabs show their numbers.
 #pragma once
 
 #include <QTabBar>
@@ -17,6 +18,10 @@ class NoteTabs : public QTabBar {
  protected:
   QSize tabSizeHint(int index) const override;
   QSize minimumTabSizeHint(int index) const override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  void ShowCaptions(bool whole);
 };
 
 }  // namespace pelmar

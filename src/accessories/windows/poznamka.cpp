@@ -14,6 +14,10 @@ namespace pelmar {
 namespace {
 
 constexpr int kTick = 10;  // milliseconds
+// A hundred wake-ups a second would cost a percent of a core for nothing. When nothing has moved for a second, the
+// timer goes slowly, for what no event tells (the distance, the screen), until something moves.
+constexpr int kQuietTick = 250;
+constexpr int kTicksUntilQuiet = 100;
 // A window manager may overlook a request while it moves the window itself, or refuse it for good.
 constexpr int kTries = 50;
 
@@ -23,6 +27,19 @@ QFont FontOf(const EditorLook& look) {
   font.setBold(look.bold);
   font.setItalic(look.italic);
   return font;
+}
+
+bool TellsOfMove(const QEvent& event) {
+  switch (event.type()) {
+    case QEvent::Move:
+    case QEvent::Resize:
+    case QEvent::WindowStateChange:
+    case QEvent::Show:
+    case QEvent::Hide:
+      return true;
+    default:
+      return false;
+  }
 }
 
 }  // namespace
@@ -41,6 +58,8 @@ Poznamka::Poznamka(Surroundings around)
   timer1_.setObjectName(QStringLiteral("Timer1"));
   timer1_.setInterval(kTick);
   connect(&timer1_, &QTimer::timeout, this, &Poznamka::Timer1_Timer);
+  connect(ui_->Dock, &QAction::toggled, this, &Poznamka::Wake);
+  if (around_.main_window != nullptr) around_.main_window->installEventFilter(this);
 }
 
 Poznamka::~Poznamka() { keeper_.KeepNow(); }
@@ -48,10 +67,14 @@ Poznamka::~Poznamka() { keeper_.KeepNow(); }
 void Poznamka::ConnectCommands() {
   const std::pair<QAction*, const char*> pictures[] = {
       {ui_->Copy, "copy"}, {ui_->Paste, "paste"}, {ui_->Dock, "dock"}, {ui_->Close, "close"}};
+  QWidget* before = ui_->TabStrip1;
   for (const auto& [action, picture] : pictures) {
     action->setIcon(SvgIcon(QStringLiteral(":/icons/%1.svg").arg(QLatin1String(picture))));
-    ui_->Toolbar1->widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
-    ui_->Toolbar1->widgetForAction(action)->setAccessibleName(action->toolTip());
+    QWidget* button = ui_->Toolbar1->widgetForAction(action);
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setAccessibleName(action->toolTip());
+    setTabOrder(before, button);
+    before = button;
   }
   connect(ui_->Copy, &QAction::triggered, this, [this] { around_.platform.SetClipboardText(Text().SelText()); });
   connect(ui_->Paste, &QAction::triggered, this, [this] { Text().ReplaceSelection(around_.platform.ClipboardText()); });
@@ -141,7 +164,8 @@ void Poznamka::resizeEvent(QResizeEvent*) {
 void Poznamka::showEvent(QShowEvent* event) {
   if (!event->spontaneous()) {
     if (windowIcon().isNull()) setWindowIcon(SvgIcon(QStringLiteral(":/icons/pelmar-vex.svg")));
-    timer1_.start();
+    timer1_.start(kTick);
+    Wake();
   }
   QWidget::showEvent(event);
 }
@@ -166,12 +190,29 @@ NotesSurroundings Poznamka::Measures() const {
   return now;
 }
 
+void Poznamka::Wake() {
+  quiet_ticks_ = 0;
+  if (timer1_.isActive() && timer1_.interval() != kTick) timer1_.start(kTick);
+}
+
+bool Poznamka::event(QEvent* event) {
+  if (TellsOfMove(*event)) Wake();
+  return QWidget::event(event);
+}
+
+bool Poznamka::eventFilter(QObject* watched, QEvent* event) {
+  if (TellsOfMove(*event)) Wake();
+  return QWidget::eventFilter(watched, event);
+}
+
 void Poznamka::Timer1_Timer() {
+  if (++quiet_ticks_ == kTicksUntilQuiet) timer1_.setInterval(kQuietTick);
   if (isMinimized() || isMaximized()) return;
   const NotesSurroundings now = Measures();
   if (now != placed_for_) {
     placed_for_ = now;
     tries_left_ = kTries;
+    Wake();
   }
   if (tries_left_ == 0) return;
   --tries_left_;

@@ -28,6 +28,7 @@ class Poznamka : public QWidget {
     FileNumber& file_number;
     const SettingsRecord& settings;
     const MainView& main;
+    QObject* main_window = nullptr;  // the same as an object, whose moves are followed
     StartMode mode = StartMode::kEditor;
     std::function<void()> end;  // after the close: forgets the window, or ends the program that it is
   };
@@ -45,6 +46,8 @@ class Poznamka : public QWidget {
   std::string KeepNow() { return keeper_.KeepNow(); }
 
  protected:
+  bool event(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
@@ -54,6 +57,7 @@ class Poznamka : public QWidget {
   void ConnectCommands();
   void TabStrip1_Click(int index);
   void Timer1_Timer();
+  void Wake();
   bool Unload();
   // False where what earlier runs left has to stay where it is.
   bool SettleRescued(const std::vector<UnsavedNotes>& unsaved, std::size_t count);
@@ -72,6 +76,7 @@ class Poznamka : public QWidget {
   QTimer timer1_;
   NotesSurroundings placed_for_;  // what the last tick saw
   int tries_left_ = 0;            // how often the same place is asked for again
+  int quiet_ticks_ = 0;
   RescueKeeper keeper_;
 };
 

@@ -49,7 +49,7 @@ struct PoznamkaTest : testing::Test {
   }
   Poznamka& Load(StartMode mode = StartMode::kEditor) {
     notes = std::make_unique<Poznamka>(
-        Poznamka::Surroundings{platform, file_number, settings, view, mode, [this] { ++ends; }});
+        Poznamka::Surroundings{platform, file_number, settings, view, nullptr, mode, [this] { ++ends; }});
     platform.calls.clear();
     return *notes;
   }
