@@ -15,7 +15,6 @@ constexpr std::string_view kFileName = "notes.dat";
 constexpr std::size_t kCountSize = 2;
 constexpr std::uint64_t kLongestRecord = kNotePages * (kCountSize + kLongestNote);
 
-constexpr std::string_view kRescueSignature = "PELMAR-NOTES-1\n";
 constexpr std::size_t kRescueNumber = 8;
 
 std::string NotesPath(Platform& platform) { return JoinPath(platform.InstallFolder(), kFileName); }
@@ -107,11 +106,11 @@ std::string NotesRescueBytes(const UnsavedNotes& unsaved) {
       writer.Bytes(*text);
     }
   }
-  return Sealed(kRescueSignature, std::move(writer).Take());
+  return Sealed(kNotesRescueSignature, std::move(writer).Take());
 }
 
 std::optional<UnsavedNotes> ReadNotesRescue(std::string_view bytes) {
-  const std::optional<std::string_view> body = SealedBody(kRescueSignature, bytes);
+  const std::optional<std::string_view> body = SealedBody(kNotesRescueSignature, bytes);
   if (!body) return std::nullopt;
   RecordReader reader(*body);
   UnsavedNotes unsaved;

@@ -54,6 +54,8 @@ struct UnsavedNotes {
 
 UnsavedNotes NotesToKeep(const NotesRecord& stored, const NotesRecord& now, int page_on_show);
 
+inline constexpr std::string_view kNotesRescueSignature = "PELMAR-NOTES-1\n";
+
 // The rescue file of the notes; nothing for bytes that weren't written whole.
 std::string NotesRescueBytes(const UnsavedNotes& unsaved);
 std::optional<UnsavedNotes> ReadNotesRescue(std::string_view bytes);

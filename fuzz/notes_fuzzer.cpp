@@ -1,0 +1,44 @@
+// The notes' file and rescue file, damaged in every way: what is read is never more than what was there, and what was
+// read is written so that it reads the same.
+#include <cstdint>
+#include <cstdlib>
+#include <string_view>
+
+#include "accessories/notes.h"
+#include "shell/record_bytes.h"
+
+namespace pelmar {
+namespace {
+
+void Expect(bool holds) {
+  if (!holds) std::abort();
+}
+
+void ReadFile(std::string_view bytes) {
+  const NotesRecord record = ReadNotes(bytes);
+  std::size_t size = 0;
+  for (const std::string& page : record.pages) size += page.size();
+  Expect(size <= bytes.size());
+  Expect(ReadNotes(NotesBytes(record)) == record);
+}
+
+void ReadRescue(std::string_view bytes) {
+  const auto unsaved = ReadNotesRescue(bytes);
+  if (!unsaved) return;
+  Expect(NotesRescueBytes(*unsaved) == bytes);
+  NotesRecord record = ReadNotes(bytes);
+  const auto left = BringBackNotes(record, {*unsaved});
+  Expect(left.size() <= unsaved->notes.size());
+}
+
+}  // namespace
+}  // namespace pelmar
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const std::string_view bytes(reinterpret_cast<const char*>(data), size);
+  pelmar::ReadFile(bytes);
+  pelmar::ReadRescue(bytes);
+  // Past the checksum, which keeps most damage from the fields behind it.
+  pelmar::ReadRescue(pelmar::Sealed(pelmar::kNotesRescueSignature, bytes));
+  return 0;
+}
