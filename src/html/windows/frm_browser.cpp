@@ -123,6 +123,7 @@ void FrmBrowser::ShowAlone() {
 }
 
 void FrmBrowser::Present() {
+  setWindowState(windowState() & ~Qt::WindowMinimized);
   show();
   raise();
   activateWindow();
