@@ -7,8 +7,8 @@
 
 namespace pelmar {
 
-// Asks whether `accessory` (in the accusative, as in "Poznámky") is to end. On true the caller ends the process at once:
-// neither the settings nor the recovery files are written in these modes.
+// Asks whether `accessory` (in the accusative, as in "Poznámky") is to end. On true the caller ends the process at
+// once: neither the settings nor the recovery files are written in these modes.
 bool MayEndStandAlone(Platform& platform, std::string_view accessory);
 
 }  // namespace pelmar

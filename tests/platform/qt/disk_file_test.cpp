@@ -220,8 +220,7 @@ TEST(CreateFile, WritesForTheOwnerAndNeverOverAnything) {
 // Lines of all lengths, many times longer than what is read at once.
 std::string LongText(std::string_view line_end) {
   std::string text;
-  for (int i = 0; i < 20'000; ++i)
-    text.append(static_cast<std::size_t>(i * 7919 % 300), 'x').append(line_end);
+  for (int i = 0; i < 20'000; ++i) text.append(static_cast<std::size_t>(i * 7919 % 300), 'x').append(line_end);
   return text;
 }
 
