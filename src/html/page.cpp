@@ -52,7 +52,7 @@ void PutAround(TextBuffer& box, std::string_view head, std::string_view sample, 
   std::string text(head);
   text += body;
   text += tail;
-  box.SetText(std::move(text));
+  box.Replace(0, box.Size(), text);  // one step of undo, as nothing is asked before
   box.Select(head.size(), head.size() + body.size());
 }
 

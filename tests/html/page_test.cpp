@@ -50,6 +50,9 @@ TEST(Page, TheDocumentIsWrappedAndSelectedEachTime) {
   WrapInPage(box, Page());
   EXPECT_EQ(box.Text(), Join({kPageHead, " <BODY>\r\n", once, kPageTail}));
   EXPECT_EQ(box.SelText(), once);
+  box.Undo();
+  box.Undo();
+  EXPECT_EQ(box.Text(), "a\r\nb");
 }
 
 TEST(Page, BodyAttributesInTheirOrder) {

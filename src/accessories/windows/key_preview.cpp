@@ -18,16 +18,11 @@ KeyPreview::KeyPreview(QWidget& window, std::function<Preview(const QKeyEvent&)>
 
 bool KeyPreview::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::KeyPress) return false;
-  switch (first_(*static_cast<QKeyEvent*>(event))) {
-    case Preview::kPass:
-      return false;
-    case Preview::kShare:
-      // Straight to the control: a key that it refuses would come by here again on its way to the window.
-      watched->event(event);
-      return true;
-    case Preview::kTake:
-      break;
-  }
+  const Preview preview = first_(*static_cast<QKeyEvent*>(event));
+  if (preview == Preview::kPass) return false;
+  // Straight to the control, and accepted whatever it says: a key that it refuses would come by here again on its way
+  // to the window.
+  if (preview == Preview::kShare) watched->event(event);
   event->accept();
   return true;
 }

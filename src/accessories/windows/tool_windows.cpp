@@ -1,11 +1,15 @@
 #include "accessories/windows/tool_windows.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QKeyEvent>
 
+#include "accessories/windows/kalkul.h"
 #include "accessories/windows/klavesnice.h"
 #include "accessories/windows/kod.h"
 #include "accessories/windows/morse.h"
+#include "accessories/windows/prev.h"
+#include "html/insert.h"
+#include "platform/qt/svg_icon.h"
 #include "shell/windows/program_parts.h"
 
 namespace pelmar {
@@ -20,6 +24,31 @@ void Stroke(MainWindow& main, const QKeyEvent& key) {
   }
 }
 
+// True where the calculator is the whole program.
+bool StandsAlone(const ProgramParts& parts) { return parts.session.Mode() == StartMode::kCalculator; }
+
+std::unique_ptr<Kalkul> MakeKalkul(const ProgramParts& parts) {
+  WindowRegistry& windows = parts.windows;
+  const bool alone = StandsAlone(parts);
+  const auto hand_over = [parts, alone](const std::string& number) {
+    if (alone) return parts.platform.SetClipboardText(number);
+    InsertAtCaret(parts.editor.text, number);
+  };
+  const auto hide_converter = [&windows] {
+    if (Prev* converter = windows.Find<Prev>()) converter->hide();
+  };
+  Kalkul::Doors doors{hand_over, [&windows] { windows.Get<Prev>().Present(); }, hide_converter,
+                      [&windows] { windows.Unload<Kalkul>(); }, [] { QCoreApplication::exit(0); }};
+  return std::make_unique<Kalkul>(parts.platform, alone, std::move(doors), alone ? nullptr : &parts.main);
+}
+
+std::unique_ptr<Prev> MakePrev(const ProgramParts& parts) {
+  const bool alone = StandsAlone(parts);
+  Prev::Doors doors{[&text = parts.editor.text](const std::string& number) { InsertAtCaret(text, number); },
+                    [&windows = parts.windows](const std::string& number) { windows.Get<Kalkul>().SetNumber(number); }};
+  return std::make_unique<Prev>(parts.platform, alone, std::move(doors), alone ? nullptr : &parts.main);
+}
+
 }  // namespace
 
 void AddToolWindows(const ProgramParts& parts) {
@@ -30,6 +59,13 @@ void AddToolWindows(const ProgramParts& parts) {
     return std::make_unique<Kod>(
         text, [&main = parts.main](const QKeyEvent& key) { Stroke(main, key); }, &parts.main);
   });
+  parts.windows.Register<Kalkul>([parts] { return MakeKalkul(parts); });
+  parts.windows.Register<Prev>([parts] { return MakePrev(parts); });
+  parts.stand_alones[StartMode::kCalculator] = [&windows = parts.windows] {
+    QGuiApplication::setWindowIcon(SvgIcon(QStringLiteral(":/icons/pelmar-vex.svg")));
+    windows.Get<Kalkul>().Present();
+  };
+  parts.ShowBy<Kalkul>({"mnucalk"});
   parts.ShowBy<Morse>({"mnumorse"});
   parts.ShowBy<Kod>({"mnuASCII"});
   parts.ShowBy<Klavesnice>({"mnuklavesnice"});

@@ -13,6 +13,7 @@ CHT::CHT(TextBuffer& document, Platform& platform, QWidget* parent)
   connect(ui_->Command1, &QPushButton::clicked, this,
           [&document, draw = DrawFrom(platform)] { document.SetText(HackerTranscription(document.Text(), draw)); });
   connect(ui_->Command2, &QPushButton::clicked, this, &CHT::hide);
+  ui_->Command1->setFocus();
 }
 
 CHT::~CHT() = default;

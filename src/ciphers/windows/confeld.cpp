@@ -15,6 +15,7 @@ Confeld::Confeld(TextBuffer& document, Platform& platform, QWidget* parent)
   connect(ui_->Command2, &QPushButton::clicked, this, [this] { Apply(CronfeldDecipher); });
   connect(ui_->Command3, &QPushButton::clicked, this, &Confeld::hide);
   connect(ui_->Command4, &QPushButton::clicked, this, &Confeld::Command4_Click);
+  ui_->Text1->setFocus();
 }
 
 Confeld::~Confeld() = default;

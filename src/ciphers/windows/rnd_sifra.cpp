@@ -36,6 +36,7 @@ RND_Sifra::RND_Sifra(Editor& editor, QWidget* parent)
   connect(ui_->Command9, &QPushButton::clicked, this, &RND_Sifra::Command9_Click);
   connect(ui_->HScroll1, &QScrollBar::valueChanged, ui_->Label9, qOverload<int>(&QLabel::setNum));
   connect(ui_->Text2, &TextBox::TextChanged, this, &RND_Sifra::Text2_Change);
+  ui_->Command1->setFocus();
 }
 
 RND_Sifra::~RND_Sifra() = default;

@@ -18,6 +18,7 @@ Shift::Shift(TextBuffer& document, QWidget* parent)
   connect(ui_->HScroll1, &QScrollBar::valueChanged, this, &Shift::HScroll1_Change);
   connect(ui_->Command1, &QPushButton::clicked, this, &Shift::Command1_Click);
   connect(ui_->Command2, &QPushButton::clicked, this, &Shift::reject);
+  ui_->HScroll1->setFocus();
 }
 
 Shift::~Shift() = default;

@@ -22,6 +22,7 @@ ZaKod::ZaKod(TextBuffer& document, Platform& platform, std::function<int()> sele
   RewriteOnChange(ui_->Text1, KeyText);
   connect(ui_->Command1, &QPushButton::clicked, this, &ZaKod::Command1_Click);
   connect(ui_->Command2, &QPushButton::clicked, this, &ZaKod::hide);
+  ui_->Text1->setFocus();
 }
 
 ZaKod::~ZaKod() = default;

@@ -5,12 +5,15 @@
 #include "files/windows/dos_unix_conv.h"
 #include "files/windows/otevri.h"
 #include "files/windows/uloz.h"
+#include "html/dialogs/frame.h"
+#include "html/dialogs/obrazek.h"
+#include "html/dialogs/odkaz_na_jiny.h"
+#include "html/dialogs/vytvor.h"
 #include "platform/qt/controls/drive_list.h"
 #include "platform/qt/controls/folder_list.h"
 #include "shell/windows/program_parts.h"
 
 namespace pelmar {
-
 namespace {
 
 // The lists of a dialog by their names, for the dialog of the working folders.
@@ -26,9 +29,8 @@ std::function<DirSetup::Lists()> ListsOf(const ProgramParts& parts) {
 // Every dialog that picks files.
 std::vector<std::function<DirSetup::Lists()>> FilePickers(const ProgramParts& parts) {
   return {
-      ListsOf<Uloz>(parts),
-      ListsOf<Otevri>(parts),
-      ListsOf<Dos_Unix_conv>(parts),
+      ListsOf<Vytvor>(parts),  ListsOf<Uloz>(parts),  ListsOf<Otevri>(parts),        ListsOf<OdkazNaJiny>(parts),
+      ListsOf<Obrazek>(parts), ListsOf<Frame>(parts), ListsOf<Dos_Unix_conv>(parts),
   };
 }
 

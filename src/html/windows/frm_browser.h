@@ -62,7 +62,7 @@ class FrmBrowser : public QMainWindow {
   std::unique_ptr<Ui::FrmBrowser> ui_;
   QLabel* status_ = nullptr;
   QLabel* progress_ = nullptr;
-  QTimer timTimer;
+  QTimer timTimer{this};
   bool centred_ = false;
   std::unique_ptr<WebView> view_;  // last: its page must not call into a window that is half gone
 };

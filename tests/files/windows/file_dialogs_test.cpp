@@ -19,6 +19,7 @@
 #include "platform/qt/controls/text_box.h"
 #include "platform/qt/convert.h"
 #include "shell/editor.h"
+#include "shell/windows/program.h"
 #include "support/scripted_platform.h"
 #include "text/codepage.h"
 
@@ -175,6 +176,19 @@ TEST_F(FileDialogsTest, WorkingFolderReachesEveryDialog) {
   Find<QPushButton>(*save, "Command1")->setEnabled(false);
   Find<QPushButton>(dialog, "Command1")->click();
   EXPECT_TRUE(Find<QPushButton>(*save, "Command1")->isEnabled());
+}
+
+TEST_F(FileDialogsTest, TheProgramKnowsAllDialogsThatPickFiles) {
+  Program program(platform);
+  auto& dialog = program.Windows().Get<DirSetup>();
+  Find<FolderList>(dialog, "Dir1")->SetPath(folder.path());
+  Find<QPushButton>(dialog, "Command1")->click();
+  QStringList reached;
+  for (const QWidget* widget : QApplication::allWidgets())
+    if (const auto* folders = qobject_cast<const FolderList*>(widget); folders && folders->Path() == folder.path())
+      reached.append(folders->window()->objectName());
+  reached.sort();
+  EXPECT_EQ(reached.join(u' ').toStdString(), "DirSetup Dos_Unix_conv Frame Obrazek OdkazNaJiný Otevři Ulož Vytvoř");
 }
 
 }  // namespace

@@ -9,7 +9,13 @@ namespace {
 
 constexpr int kEdge = 3;  // what the frame takes at each side
 
-QStringList Words(const QString& caption) { return caption.split(QLatin1Char(' '), Qt::SkipEmptyParts); }
+// Of a caption with an access key the sign itself is underlined only in words: a keypad of underlined digits is hard to
+// read.
+constexpr int kShortestWord = 3;
+
+QString Plain(QString caption) { return caption.remove(QLatin1Char('&')); }
+
+QStringList Words(const QString& caption) { return Plain(caption).split(QLatin1Char(' '), Qt::SkipEmptyParts); }
 
 QSize RoomFor(const QStringList& words, const QFontMetrics& metrics) {
   int width = 0;
@@ -19,8 +25,9 @@ QSize RoomFor(const QStringList& words, const QFontMetrics& metrics) {
 
 void PaintCaption(QStylePainter& painter, const QWidget& key, const QString& caption, QPalette::ColorRole role) {
   painter.setPen(key.palette().color(key.isEnabled() ? QPalette::Active : QPalette::Disabled, role));
-  painter.drawText(key.rect().adjusted(kEdge - 1, kEdge, 1 - kEdge, -kEdge), Qt::AlignCenter | Qt::TextWordWrap,
-                   caption);
+  const bool word = Plain(caption).size() >= kShortestWord;
+  painter.drawText(key.rect().adjusted(kEdge - 1, kEdge, 1 - kEdge, -kEdge),
+                   Qt::AlignCenter | Qt::TextWordWrap | (word ? Qt::TextShowMnemonic : Qt::TextHideMnemonic), caption);
 }
 
 void PaintFrame(QStylePainter& painter, QStyleOptionButton& option, const QWidget& key) {

@@ -1,0 +1,156 @@
+#include "accessories/windows/kalkul.h"
+
+#include <QButtonGroup>
+#include <QCloseEvent>
+#include <QKeyEvent>
+
+#include "platform/qt/convert.h"
+#include "shell/stand_alone.h"
+#include "ui_kalkul.h"
+
+namespace pelmar {
+
+Kalkul::Kalkul(Platform& platform, bool stand_alone, Doors doors, QWidget* parent)
+    : DialogWindow(parent),
+      platform_(platform),
+      stand_alone_(stand_alone),
+      doors_(std::move(doors)),
+      calculator_(platform),
+      ui_(std::make_unique<Ui::Kalkul>()) {
+  ui_->setupUi(this);
+  if (stand_alone_) {
+    setWindowFlags(Qt::Window);  // a program's window can be minimised, a dialog can't
+    ui_->Command19->setText(QStringLiteral("&Clip"));
+    ui_->Command20->setText(QStringLiteral("&Quit"));
+  }
+  // In a group the arrow keys go from key to key by where they lie.
+  auto* group = new QButtonGroup(this);
+  group->setExclusive(false);
+  for (QPushButton* button : findChildren<QPushButton*>()) group->addButton(button);
+  ConnectEntry();
+  ConnectOperators();
+  ConnectFunctions();
+  connect(ui_->Command19, &QPushButton::clicked, this, [this] { doors_.hand_over(calculator_.Cislo); });
+  connect(ui_->Command20, &QPushButton::clicked, this, &Kalkul::Command20_Click);
+  connect(ui_->Command35, &QPushButton::clicked, this, [this] { doors_.show_converter(); });
+  new KeyPreview(*this, [this](const QKeyEvent& event) { return PhysicalKey(event); });
+}
+
+Kalkul::~Kalkul() = default;
+
+void Kalkul::OnClick(QPushButton* key, std::function<void()> act) {
+  connect(key, &QPushButton::clicked, this, [this, act = std::move(act)] {
+    act();
+    Show();
+  });
+}
+
+void Kalkul::ConnectEntry() {
+  for (const char digit : std::string_view("0123456789"))
+    OnClick(KeyOf(digit), [this, digit] { calculator_.Digit(digit); });
+  OnClick(ui_->Command11, [this] { calculator_.Comma(); });
+  OnClick(ui_->Command21, [this] { calculator_.DropLast(); });
+  OnClick(ui_->Command22, [this] { calculator_.DropFirst(); });
+  OnClick(ui_->Command23, [this] { calculator_.Clear(); });
+}
+
+void Kalkul::ConnectOperators() {
+  const std::pair<QPushButton*, char> operators[] = {{ui_->Command12, '+'}, {ui_->Command13, '-'},
+                                                     {ui_->Command14, '*'}, {ui_->Command15, '/'},
+                                                     {ui_->Command32, 'L'}, {ui_->Command33, '^'}};
+  for (const auto& [key, symbol] : operators) OnClick(key, [this, symbol = symbol] { calculator_.Operator(symbol); });
+  OnClick(ui_->Command16, [this] { calculator_.Evaluate(); });
+}
+
+void Kalkul::ConnectFunctions() {
+  const std::pair<QPushButton*, void (Calculator::*)()> functions[] = {
+      {ui_->Command17, &Calculator::SquareRoot}, {ui_->Command18, &Calculator::Square},
+      {ui_->Command24, &Calculator::Sine},       {ui_->Command25, &Calculator::Cosine},
+      {ui_->Command26, &Calculator::Tangent},    {ui_->Command27, &Calculator::Pi},
+      {ui_->Command28, &Calculator::Absolute},   {ui_->Command29, &Calculator::Cotangent},
+      {ui_->Command30, &Calculator::Random},     {ui_->Command31, &Calculator::HalfFloor},
+      {ui_->Command34, &Calculator::E}};
+  for (const auto& [key, function] : functions)
+    OnClick(key, [this, function = function] { (calculator_.*function)(); });
+}
+
+void Kalkul::SetNumber(const std::string& number) {
+  calculator_.Cislo = number;
+  Show();
+}
+
+void Kalkul::Show() {
+  ui_->Cislo->setText(Utf8ToQString(calculator_.Cislo));
+  ui_->Label1->setText(Utf8ToQString(calculator_.Label1));
+  ui_->Label2->setText(Utf8ToQString(calculator_.Label2));
+  // A key that goes off while it has the keyboard would hand it to the next one; the number keeps it safe.
+  const QWidget* focus = focusWidget();
+  for (QPushButton* key : {ui_->Command12, ui_->Command13, ui_->Command14, ui_->Command15, ui_->Command32})
+    key->setEnabled(calculator_.OperatorsOn());
+  ui_->Command33->setEnabled(calculator_.PowerOn());
+  ui_->Command16->setEnabled(calculator_.EqualsOn());
+  if (focus != nullptr && !focus->isEnabled()) ui_->Cislo->setFocus();
+}
+
+void Kalkul::Command20_Click() {
+  hide();
+  doors_.hide_converter();
+  if (stand_alone_) MayUnload();
+}
+
+bool Kalkul::MayUnload() {
+  doors_.hide_converter();
+  if (!stand_alone_) return true;
+  if (!MayEndStandAlone(platform_, "Kalkulačku")) {
+    Present();
+    return false;
+  }
+  doors_.end_program();
+  return true;
+}
+
+void Kalkul::closeEvent(QCloseEvent* event) {
+  if (!MayUnload()) return event->ignore();
+  DialogWindow::closeEvent(event);
+  if (!stand_alone_) doors_.unload();
+}
+
+QPushButton* Kalkul::KeyOf(char character) const {
+  switch (character) {
+    case '0':
+      return ui_->Command10;
+    case ',':
+    case '.':
+      return ui_->Command11;
+    case '+':
+      return ui_->Command12;
+    case '-':
+      return ui_->Command13;
+    case '*':
+      return ui_->Command14;
+    case '/':
+      return ui_->Command15;
+    case '^':
+      return ui_->Command33;
+    case '=':
+    case '\r':
+      return ui_->Command16;
+    case '\b':
+      return ui_->Command21;
+    default:
+      break;
+  }
+  QPushButton* const digits[] = {ui_->Command1, ui_->Command2, ui_->Command3, ui_->Command4, ui_->Command5,
+                                 ui_->Command6, ui_->Command7, ui_->Command8, ui_->Command9};
+  return character >= '1' && character <= '9' ? digits[character - '1'] : nullptr;
+}
+
+Preview Kalkul::PhysicalKey(const QKeyEvent& event) {
+  const auto character = TypedCharacter(event);
+  QPushButton* key = event.key() == Qt::Key_Delete ? ui_->Command23 : character ? KeyOf(*character) : nullptr;
+  if (key == nullptr) return Preview::kPass;
+  key->click();
+  return Preview::kTake;
+}
+
+}  // namespace pelmar

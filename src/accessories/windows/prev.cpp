@@ -1,0 +1,115 @@
+#include "accessories/windows/prev.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QKeyEvent>
+#include <QPointer>
+#include <algorithm>
+
+#include "platform/qt/convert.h"
+#include "ui_prev.h"
+
+namespace pelmar {
+namespace {
+
+// How long the window may be deaf, and how long it listens, while the letters are counted out; in milliseconds.
+constexpr int kBreath = 10;
+
+}  // namespace
+
+Prev::Prev(Platform& platform, bool stand_alone, Doors doors, QWidget* parent)
+    : DialogWindow(parent), platform_(platform), doors_(std::move(doors)), ui_(std::make_unique<Ui::Prev>()) {
+  ui_->setupUi(this);
+  bases_ = {{ui_->Frame1, &Converter::Label1, ui_->Command35, ui_->Command38, ui_->Command42, &Converter::FromDecimal},
+            {ui_->Frame2, &Converter::Label3, ui_->Command36, ui_->Command39, ui_->Command43, &Converter::FromHex},
+            {ui_->Frame3, &Converter::Label6, ui_->Command37, ui_->Command40, ui_->Command44, &Converter::FromOct}};
+  for (const Base& base : bases_) {
+    ConnectBase(base);
+    base.to_text->setEnabled(!stand_alone);
+  }
+  connect(ui_->Command46, &QPushButton::clicked, this, [this] { doors_.to_text(roman_); });
+  connect(ui_->Command41, &QPushButton::clicked, this, [this] { doors_.to_calculator(converter_.Label1); });
+  connect(ui_->Command45, &QPushButton::clicked, this, &Prev::hide);
+  new KeyPreview(*this, [this](const QKeyEvent& event) { return PhysicalKey(event); });
+}
+
+Prev::~Prev() = default;
+
+void Prev::ConnectBase(const Base& base) {
+  for (const QPushButton* key : base.frame->findChildren<QPushButton*>()) {
+    if (key->text().size() != 1) continue;
+    connect(key, &QPushButton::clicked, this, [this, field = base.field, digit = key->text()[0].toLatin1()] {
+      converter_.Digit(field, digit);
+      ShowFields();
+    });
+  }
+  connect(base.drop_last, &QPushButton::clicked, this, [this, field = base.field] {
+    converter_.DropLast(field);
+    ShowFields();
+  });
+  connect(base.convert, &QPushButton::clicked, this, [this, &base] { Convert(base); });
+  connect(base.to_text, &QPushButton::clicked, this, [this, field = base.field] { doors_.to_text(converter_.*field); });
+}
+
+void Prev::Convert(const Base& base) {
+  const auto number = (converter_.*base.conversion)();
+  if (!number) {
+    platform_.Message(MessageType::kOk, "Číslo je příliš velké, nevejde se do 32 bitů", "Převody");
+    return;
+  }
+  ShowFields();
+  ShowRoman(*number);
+}
+
+// Long numerals take a while: the window stays alive meanwhile, and whatever the person begins then, or the window's
+// going away, gives up the one at work.
+void Prev::ShowRoman(std::int32_t number) {
+  const int mine = ++conversions_;
+  const QPointer<Prev> alive(this);
+  QElapsedTimer breath;
+  auto roman = ToRoman(number, [&] {
+    if (!breath.isValid() || breath.hasExpired(kBreath)) {
+      QCoreApplication::processEvents(QEventLoop::AllEvents, kBreath);
+      breath.start();
+    }
+    return alive && mine == conversions_;
+  });
+  if (!roman) return;
+  roman_ = std::move(*roman);
+  // A line of a million letters would take the toolkit half a second at each paint.
+  const auto longest = static_cast<std::size_t>(ui_->Label8->maxLength());
+  ui_->Label8->setText(roman_.size() <= longest
+                           ? Utf8ToQString(roman_)
+                           : QChar(0x2026) + Utf8ToQString(roman_).right(static_cast<qsizetype>(longest) - 1));
+}
+
+void Prev::ShowFields() {
+  ui_->Label1->setText(Utf8ToQString(converter_.Label1));
+  ui_->Label3->setText(Utf8ToQString(converter_.Label3));
+  ui_->Label6->setText(Utf8ToQString(converter_.Label6));
+}
+
+void Prev::hideEvent(QHideEvent* event) {
+  ++conversions_;
+  DialogWindow::hideEvent(event);
+}
+
+Preview Prev::PhysicalKey(const QKeyEvent& event) {
+  const auto character = TypedCharacter(event);
+  const auto base = std::find_if(bases_.begin(), bases_.end(),
+                                 [focus = focusWidget()](const Base& one) { return one.frame->isAncestorOf(focus); });
+  if (!character || base == bases_.end()) return Preview::kPass;
+  if (*character == '\r') {
+    base->convert->click();
+    return Preview::kTake;
+  }
+  const QString caption = *character == '\b' ? base->drop_last->text() : QString(QLatin1Char(*character)).toUpper();
+  for (QPushButton* key : base->frame->findChildren<QPushButton*>()) {
+    if (key->text() != caption) continue;
+    key->click();
+    return Preview::kTake;
+  }
+  return Preview::kPass;
+}
+
+}  // namespace pelmar

@@ -1,0 +1,66 @@
+// `Prev`: whole numbers in four notations, with a keypad for each of three bases. Keys of the real keyboard work the
+// keypad that has the focus.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "accessories/converter.h"
+#include "accessories/windows/key_preview.h"
+#include "platform/platform.h"
+#include "platform/qt/controls/dialog_window.h"
+
+class QGroupBox;
+class QPushButton;
+
+namespace Ui {
+class Prev;
+}
+
+namespace pelmar {
+
+class Prev : public DialogWindow {
+  Q_OBJECT
+
+ public:
+  struct Doors {
+    std::function<void(const std::string&)> to_text;
+    std::function<void(const std::string&)> to_calculator;
+  };
+
+  Prev(Platform& platform, bool stand_alone, Doors doors, QWidget* parent);
+  ~Prev() override;
+
+ protected:
+  void hideEvent(QHideEvent* event) override;
+
+ private:
+  // One of the three keypads.
+  struct Base {
+    QGroupBox* frame;
+    std::string Converter::*field;
+    QPushButton* drop_last;
+    QPushButton* convert;
+    QPushButton* to_text;
+    std::optional<std::int32_t> (Converter::*conversion)();
+  };
+
+  void ConnectBase(const Base& base);
+  void Convert(const Base& base);
+  void ShowRoman(std::int32_t number);
+  void ShowFields();
+  Preview PhysicalKey(const QKeyEvent& event);
+
+  Platform& platform_;
+  Doors doors_;
+  Converter converter_;
+  std::string roman_;
+  int conversions_ = 0;  // how many began; an older one that still runs sees that it is not the last
+  std::unique_ptr<Ui::Prev> ui_;
+  std::vector<Base> bases_;
+};
+
+}  // namespace pelmar
