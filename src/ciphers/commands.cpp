@@ -2,13 +2,14 @@
 
 #include "ciphers/check_sums.h"
 #include "ciphers/xor_cipher.h"
+#include "html/insert.h"
 #include "shell/editor.h"
 
 namespace pelmar {
 
 void AddCipherCommands(Editor& editor) {
   editor.commands.Add("mnuZaKodPrim", [&editor] {
-    editor.text.SetText(PrimitiveRewrite(editor.text.Text()));
+    ReplaceDocument(editor.text, PrimitiveRewrite(editor.text.Text()));
     editor.platform.Message(MessageType::kOk, "Ukončeno kódování.", "kód");
   });
   editor.commands.Add("mnu_crc", [&editor] {

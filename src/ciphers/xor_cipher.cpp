@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "html/insert.h"
 #include "text/codepage.h"
 #include "text/number_text.h"
 
@@ -64,7 +65,7 @@ void RewriteStream(TextBuffer& document, double key, std::string& output, Platfo
     done += part.size();
     if (!on_progress(done)) return;
   }
-  document.SetText(output);
+  ReplaceDocument(document, output);
 }
 
 std::string PrimitiveRewrite(std::string_view text) {

@@ -21,6 +21,10 @@ void InsertAtCaret(TextBuffer& box, std::string_view text);
 // `open` and `close` around the selection, or `sample` at the caret where nothing is selected.
 void WrapSelection(TextBuffer& box, std::string_view open, std::string_view close, std::string_view sample);
 
+// Another text in the place of the whole one, with the caret at its start: for commands that overwrite a document
+// without a question. One step of undo brings the old text back.
+void ReplaceDocument(TextBuffer& box, std::string_view text);
+
 // A command of the menu or the toolbar that wraps the selection.
 struct TagWrapper {
   std::string_view command;

@@ -1,7 +1,6 @@
 """The internal browser of the real program, looked at from outside: by the colours on the screen, the titles of the
 windows, the files that it leaves."""
 
-import os
 import re
 import shutil
 import stat
@@ -10,14 +9,14 @@ import sys
 import unittest
 
 sys.dont_write_bytecode = True
-from harness import Session, built  # noqa: E402
+from harness import AS_USER, Session, built  # noqa: E402
 from pages import read_pages  # noqa: E402
 from picture import Picture  # noqa: E402
 from settings import write_settings  # noqa: E402
 
 PROGRAM = built("pelmar-vex")
 MODULE = built("pelmar-browser.so")
-GREEN, YELLOW, RED, BLUE, PINK = "#00c000", "#ffff80", "#e00000", "#2000f0", "#ff00ff"
+GREEN, YELLOW, RED, BLUE, PINK, CYAN = "#00c000", "#ffff80", "#e00000", "#2000f0", "#ff00ff", "#00e0e0"
 # Nothing of these tests goes beyond this machine.
 NO_NETWORK = {name: "http://127.0.0.1:9" for name in ("http_proxy", "https_proxy")}
 
@@ -29,6 +28,10 @@ document.write('<DIV STYLE="background:{BLUE};width:50px;height:20px"></DIV>' + 
 RIGHT = f"""<BODY BGCOLOR="{YELLOW}"><TABLE BORDER="1"><TR><TD BGCOLOR="{RED}" WIDTH="120" HEIGHT="60">&nbsp;</TD>
 <TD>žluťoučký kůň</TD></TR></TABLE><P><IMG SRC="obr.gif" ALT="obrázek"></BODY>"""
 TABLE = {"table cell": RED, "picture": PINK, "script": BLUE, "left frame": GREEN, "right frame": YELLOW}
+
+
+def name_spaces_work():
+    return subprocess.run([*AS_USER, "unshare", "-U", "true"], stderr=subprocess.DEVNULL).returncode == 0
 
 
 @unittest.skipUnless(MODULE.exists(), "the browser module is not built")
@@ -57,12 +60,13 @@ class BrowserTest(unittest.TestCase):
         return window
 
     def press_toolbar_key(self, main):
-        """The last button of the toolbar; the pictures are on the grey of the bar."""
-        picture = Picture(self.session, main)
-        rows = range(picture.height // 8)
-        sky = "#bfdcf7"  # of the globe on that button
-        at = max((x, y) for x in range(picture.width) for y in rows if picture.color(x, y) == sky)
-        self.session.click(main, at[0], at[1])
+        """The last button of the toolbar, found by the sky of the globe on it."""
+        def find():
+            picture = Picture(self.session, main)
+            return max(((x, y) for x in range(picture.width) for y in range(picture.height // 8)
+                        if picture.color(x, y) == "#bfdcf7"), default=None)
+        x, y = self.session.wait_until(find, "the button of the browser")
+        self.session.click(main, x, y)
 
     def shown(self, title):
         """The browser with a page of this name."""
@@ -109,7 +113,7 @@ class BrowserTest(unittest.TestCase):
 
         # Another page, and the keys of the history.
         self.write("druha.htm", f'<TITLE>Druhá [*]</TITLE><BODY BGCOLOR="{PINK}">')
-        session.key("alt+a")
+        session.key("alt+a", "ctrl+a")
         session.type(f"file://{session.home}/druha.htm\n")
         self.shown("Druhá [*]")
         self.boxes(browser, {"page": PINK})
@@ -183,7 +187,7 @@ class BrowserTest(unittest.TestCase):
         path = self.write("a.html", f'<TITLE>Sama</TITLE><BODY BGCOLOR="{GREEN}">')
         browser = self.start("-browser", title=re.compile(r"HTML [Tt]estovací +browser.*"))
         self.assertEqual(len(session.windows()), 1)
-        session.key("alt+a")
+        session.key("alt+a", "ctrl+a")
         session.type(f"file://{path}\n")
         self.wait_title(browser, "HTML testovací browser (Sama)")
         self.boxes(browser, {"page": GREEN})
@@ -201,6 +205,22 @@ class BrowserTest(unittest.TestCase):
         session.key("alt+a")
         self.assertEqual(session.wait_exit(), 0)
         self.assertEqual({path.name: path.read_bytes() for path in session.data_folder.iterdir()}, before)
+
+    @unittest.skipUnless(name_spaces_work(), "an ordinary user gets no name space here, and the engine no sandbox")
+    def test_an_ordinary_user_gets_the_sandbox(self):
+        session = self.session
+        path = self.write_frames()
+        for file in (PROGRAM, MODULE):
+            shutil.copy(file, session.home)
+        session.start_as_user(session.home / PROGRAM.name, path, **NO_NETWORK)
+        main = session.wait_window(f"Pelmar VEX ({path})")
+        session.activate(main)
+        self.press_toolbar_key(main)
+        self.boxes(self.shown("Rámce"), TABLE)
+        listing = session._run("ps", "-eo", "pgid,args")
+        engine = [line for line in listing.split("\n") if line.split()[:1] == [str(session.program.pid)]]
+        self.assertTrue(any("QtWebEngineProcess" in line for line in engine), listing)
+        self.assertFalse(any("--no-sandbox" in line for line in engine), listing)
 
     def test_without_the_module_the_program_says_so(self):
         session = self.session
@@ -222,7 +242,66 @@ class BrowserTest(unittest.TestCase):
         session.key("Return")
         self.assertEqual(session.wait_exit(), 1)
 
-    def test_pages_are_read_back(self):
+    def test_what_the_dialogs_write_looks_as_it_should(self):
+        session = self.session
+        frames = self.make_pages()
+        main = self.start(frames, title=f"Pelmar VEX ({frames})")
+        self.press_toolbar_key(main)
+        browser = self.shown("Rámce")
+        box = self.boxes(browser, {"background": CYAN, "first cell": "#ffff00", "picture": PINK})
+        session.shot("browser-dialogs")
+        # The two frames are rows of 40 and 60 percent: the upper one, a sample, is white.
+        picture = Picture(session, browser)
+        top = box["background"].top
+        height = box["background"].bottom - top
+        self.assertAlmostEqual(height / (picture.height - 100), 0.6, delta=0.1)
+        self.assertEqual(picture.color(picture.width // 2, top - 30), "#ffffff")
+        self.assertTrue(box["background"].holds(box["first cell"]))
+        self.assertTrue(box["background"].holds(box["picture"]))
+        self.assertEqual(box["picture"].size, (40, 30))
+        self.assertGreater(box["picture"].top, box["first cell"].bottom)
+
+    def make_pages(self):
+        """What the samples, the page creator and the other dialogs write; returns the page with frames."""
+        subprocess.run([built("tests/page_maker"), self.session.home], check=True)
+        for name, color in (("obr.gif", PINK), ("pozadi.gif", CYAN)):
+            subprocess.run(["convert", "-size", "40x30", f"xc:{color}", self.session.home / name], check=True)
+        return self.session.home / "frames.html"
+
+    def test_pages_of_the_program_are_read_back(self):
+        frames = self.make_pages()
+        expected = {
+            "HTML1": ("My HOMEPAGE", ["WELCOME !", "Zamailujte mi!"]),
+            "HTML2": ("COOL PAGE", ["NADPIS", "Odstavec prvni", 'nearest "<"', "T.B.C."]),
+            "HTML3": ("Stars", ["Předchozí", "Sekce", "Nadpis", "Následující", "ďobek", "Menu :"]),
+            "HTML4": ("Goo page", ["Some integersting text", "ďále", "HERE WE GO", "Básně ni talek", "new", "F1"]),
+            "HTML5": ("Web Site Main Menu", ["Hlavní menu", "Vítejte"]),
+            "page": ("Stránka tvořená", ["Nadpis tabulky", "Žlutá", "Kůň", "dole vlevo", "dole vpravo", "Nadpis seznamu",
+                                         "první", "druhá", "pojem", "vysvětlení", "Linka", "ž", "na cil"]),
+            "frames": ("Rámce", ["WELCOME !", "Zamailujte mi!", "Žlutá", "na cil"]),
+        }
+        for name, page in zip(expected, read_pages(*(frames.with_name(f"{name}.html") for name in expected))):
+            title, words = expected[name]
+            with self.subTest(name):
+                self.assertEqual(page["title"], title)
+                at = 0
+                for word in words:
+                    at = page["text"].find(word, at)
+                    self.assertGreaterEqual(at, 0, f"{word!r} is missing or out of order in {page['text']!r}")
+                for unseen in ("skryto", "nepodporuje Framesy", "function rim"):
+                    self.assertNotIn(unseen, page["text"])
+
+    def test_the_script_of_the_sample_works_on_its_neighbours(self):
+        self.make_pages()
+        for number, name in enumerate(("citat1", "citat2", "citat3", "uvod", "novinky", "tip_dne", "fotka_dne")):
+            self.write(f"{name}.html", f"<P>{'horni' if number < 3 else 'hlavni'} je tu")
+        path = self.write("web.html", """<FRAMESET ROWS="20%,40%,*"><FRAME NAME="horni"><FRAME SRC="HTML5.html">
+            <FRAME NAME="hlavni"></FRAMESET>""")
+        text = read_pages(path)[0]["text"]
+        for words in ("horni je tu", "Hlavní menu", "hlavni je tu"):
+            self.assertIn(words, text)
+
+    def test_any_page_is_read_back(self):
         frames = self.write_frames()
         plain = self.write("bez.html", "<P>Příliš &lt;žluťoučký&gt; kůň<BR>druhý řádek<!-- skryto -->")
         first, second = read_pages(frames, plain)

@@ -23,6 +23,9 @@ from typing import NamedTuple
 
 from screen import Screen
 
+NOBODY = 65534
+# What runs a command as an ordinary user, where the test is run by root.
+AS_USER = ["setpriv", f"--reuid={NOBODY}", f"--regid={NOBODY}", "--clear-groups"] if os.geteuid() == 0 else []
 PATIENCE = 15.0  # seconds
 POLL = 0.02
 
@@ -63,6 +66,13 @@ class Session(Screen):
                                             cwd=folder or self.home, stdin=subprocess.DEVNULL, stdout=log, stderr=log,
                                             start_new_session=True)
         return self.program
+
+    def start_as_user(self, program, *arguments, **environment):
+        """As start(), by an ordinary user who owns the home."""
+        for path in (self.home, *self.home.rglob("*")):
+            if AS_USER and not path.is_socket():
+                os.chown(path, NOBODY, NOBODY, follow_symlinks=False)
+        return self.start(*AS_USER, program, *arguments, **environment)
 
     def running(self):
         return self.program is not None and self.program.poll() is None

@@ -2,6 +2,7 @@
 
 #include "ciphers/cronfeld.h"
 #include "ciphers/windows/rewriting_field.h"
+#include "html/insert.h"
 #include "platform/qt/convert.h"
 #include "ui_confeld.h"
 
@@ -25,7 +26,7 @@ void Confeld::Apply(std::string (*cipher)(std::string_view text, std::string_vie
   if (ui_->Check1->isChecked()) {
     ui_->Text2->Buffer().SetText(cipher(ui_->Text3->Buffer().Text(), password));
   } else {
-    document_.SetText(cipher(document_.Text(), password));
+    ReplaceDocument(document_, cipher(document_.Text(), password));
   }
 }
 

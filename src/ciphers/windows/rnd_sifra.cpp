@@ -2,6 +2,7 @@
 
 #include <QListWidget>
 
+#include "html/insert.h"
 #include "platform/qt/convert.h"
 #include "shell/editor.h"
 #include "texttools/windows/field_helpers.h"
@@ -66,12 +67,12 @@ void RND_Sifra::Command3_Click() {
 void RND_Sifra::Command5_Click() {
   platform_.ReseedRandom();
   const std::string& text = ui_->Text1->Buffer().Text();
-  document_.SetText(RndEncipher(text, table_, DrawFrom(platform_), StartProgress()));
+  ReplaceDocument(document_, RndEncipher(text, table_, DrawFrom(platform_), StartProgress()));
 }
 
 void RND_Sifra::Command6_Click() {
   if (table_.Depth == 0) return;  // no table but what an empty file left: it would cost the document
-  document_.SetText(RndDecipher(ui_->Text1->Buffer().Text(), table_, StartProgress()));
+  ReplaceDocument(document_, RndDecipher(ui_->Text1->Buffer().Text(), table_, StartProgress()));
 }
 
 void RND_Sifra::Command8_Click() {

@@ -2,6 +2,7 @@
 
 #include "ciphers/draw.h"
 #include "ciphers/shift.h"
+#include "html/insert.h"
 #include "platform/qt/convert.h"
 #include "ui_shift_kod.h"
 
@@ -42,7 +43,7 @@ void ShiftKod::Command4_Click() {
 
 void ShiftKod::Apply(int shift) {
   if (ui_->Check1->isChecked()) return ShowQuickText(shift);
-  document_.SetText(Shifted(document_.Text(), shift));
+  ReplaceDocument(document_, Shifted(document_.Text(), shift));
 }
 
 void ShiftKod::ShowQuickText(int shift) { ui_->Text2->Buffer().SetText(Shifted(ui_->Text1->Buffer().Text(), shift)); }

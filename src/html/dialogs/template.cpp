@@ -2,6 +2,7 @@
 
 #include <QHeaderView>
 
+#include "html/insert.h"
 #include "html/samples/templaty.h"
 #include "platform/qt/controls/first_choice.h"
 #include "platform/qt/convert.h"
@@ -45,10 +46,7 @@ void Template::ListView1_Click() {
 }
 
 void Template::Command1_Click() {
-  // As one step of undo, because the old document goes without a question.
-  document_.Select(0, document_.Size());
-  document_.ReplaceSelection(ViewOf(ui_->Text1->Text()));
-  document_.SetSelStart(0);
+  ReplaceDocument(document_, ui_->Text1->Buffer().Text());
   hide();
 }
 

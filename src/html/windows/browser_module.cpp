@@ -14,8 +14,7 @@ constexpr QLatin1String kFileName("/pelmar-browser.so");
 
 QStringList BrowserModule::UsualFolders() {
   const QString program = QCoreApplication::applicationDirPath();
-  return {program, program + QStringLiteral("/../" PELMAR_LIBRARY_FOLDER "/pelmar-vex"),
-          program + QStringLiteral("/../lib/pelmar-vex")};
+  return {program, program + QStringLiteral("/../" PELMAR_MODULE_FOLDER)};
 }
 
 WebViewMaker* BrowserModule::Maker() {

@@ -40,7 +40,8 @@ void AddShowCommand(const ProgramParts& parts, std::string_view name, PageEnd en
 
 void AddBrowserWindows(const ProgramParts& parts) {
   const auto module = std::make_shared<BrowserModule>();
-  parts.windows.Register<FrmBrowser>([parts, module] {
+  parts.windows.Register<FrmBrowser>([parts, module]() -> std::unique_ptr<FrmBrowser> {
+    if (module->Maker() == nullptr) return nullptr;
     const bool alone = parts.session.Mode() == StartMode::kBrowser;
     return std::make_unique<FrmBrowser>(*module->Maker(), parts.platform,
                                         alone ? [] { End(EXIT_SUCCESS); } : std::function<void()>());

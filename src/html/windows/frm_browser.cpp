@@ -25,6 +25,8 @@ QLabel* AddPanel(QStatusBar& bar, const char* name, const QString& accessible_na
   panel->setObjectName(QLatin1String(name));
   panel->setAccessibleName(accessible_name);
   panel->setTextFormat(Qt::PlainText);
+  panel->setMargin(2);
+  panel->setIndent(4);
   bar.addWidget(panel, stretch);
   return panel;
 }
@@ -90,7 +92,7 @@ void FrmBrowser::ConnectAddress() {
   // The toolkit would complete what is typed, and load an entry of the list when the field is left.
   ui_->cboAddress->setCompleter(nullptr);
   disconnect(line, &QLineEdit::editingFinished, ui_->cboAddress, nullptr);
-  line->installEventFilter(this);
+  // The box takes the keys and passes them on to its line.
   ui_->cboAddress->installEventFilter(this);
   connect(ui_->cboAddress, &QComboBox::activated, this, &FrmBrowser::NavigateToBox);
 }
@@ -98,7 +100,7 @@ void FrmBrowser::ConnectAddress() {
 bool FrmBrowser::eventFilter(QObject* watched, QEvent* event) {
   // A turn of the wheel over the list is not a choice.
   if (watched == ui_->cboAddress && event->type() == QEvent::Wheel) return true;
-  if (watched == ui_->cboAddress->lineEdit() && event->type() == QEvent::KeyPress) {
+  if (watched == ui_->cboAddress && event->type() == QEvent::KeyPress) {
     const int key = static_cast<QKeyEvent*>(event)->key();
     if (key == Qt::Key_Return || key == Qt::Key_Enter) {
       NavigateToBox();
@@ -137,6 +139,7 @@ void FrmBrowser::Visit(const QString& address) {
 
 void FrmBrowser::NavigateToBox() {
   if (DontNavigateNow) return;
+  ui_->cboAddress->lineEdit()->setModified(false);
   timTimer.start();
   view_->Load(UrlOfAddress(ui_->cboAddress->currentText()));
 }
@@ -160,14 +163,27 @@ void FrmBrowser::View_Progress(qint64 progress, qint64 maximum) {
 
 void FrmBrowser::View_Finished() {
   ShowCaption();
-  QComboBox& list = *ui_->cboAddress;
-  const QString address = AddressOfUrl(view_->LocationAddress());
+  QLineEdit& line = *ui_->cboAddress->lineEdit();
+  const bool half_typed = line.isModified();
+  const bool selected = line.hasSelectedText();
+  const QString typed = line.text();
   DontNavigateNow = true;
+  PutOnTop(AddressOfUrl(view_->LocationAddress()));
+  // The person is about to type another address, or in the middle of it.
+  if (half_typed) {
+    line.setText(typed);
+    line.setModified(true);
+  }
+  if (selected && !half_typed) line.selectAll();
+  DontNavigateNow = false;
+}
+
+void FrmBrowser::PutOnTop(const QString& address) {
+  QComboBox& list = *ui_->cboAddress;
   for (int row = list.count() - 1; row >= 0; --row)
     if (list.itemText(row) == address) list.removeItem(row);
   list.insertItem(0, address);
   list.setCurrentIndex(0);
-  DontNavigateNow = false;
 }
 
 void FrmBrowser::Stop_Click() {

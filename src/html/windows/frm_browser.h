@@ -53,6 +53,8 @@ class FrmBrowser : public QMainWindow {
   void timTimer_Timer();
   void View_Progress(qint64 progress, qint64 maximum);
   void View_Finished();
+  // Into the first row of the list, which is selected; its other rows of this address go.
+  void PutOnTop(const QString& address);
   void Stop_Click();
   void Open_Click();
   void Close_Click();

@@ -12,7 +12,8 @@ namespace pelmar {
 
 class WindowRegistry {
  public:
-  // `make` returns a new window; the registry owns it.
+  // `make` returns a new window; the registry owns it. It may return none where a module is missing that the window
+  // needs; who calls Get then has made sure that it isn't.
   template <class Window>
   void Register(std::function<std::unique_ptr<Window>()> make) {
     entries_[typeid(Window)].make = [make = std::move(make)]() -> std::unique_ptr<QWidget> { return make(); };
@@ -33,11 +34,11 @@ class WindowRegistry {
     return found == entries_.end() ? nullptr : static_cast<Window*>(found->second.window.get());
   }
 
-  // Every window, each made now where it didn't exist.
+  // Every window, each made now where it didn't exist; one that can't be made here is passed over.
   void ForEach(const std::function<void(QWidget&)>& visit) {
     for (auto& [type, entry] : entries_) {
       if (!entry.window) entry.window = entry.make();
-      visit(*entry.window);
+      if (entry.window) visit(*entry.window);
     }
   }
 

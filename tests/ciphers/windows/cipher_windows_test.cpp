@@ -180,6 +180,11 @@ TEST_F(CipherWindowsTest, ShiftKodWorksOnTheDocumentOrOnQuickText) {
   EXPECT_EQ(BoxText(dialog, "Text2"), "cde");
   EXPECT_EQ(Document(), "Ahoj, Čecho!\r\n"_w);
 
+  auto* bar = Find<QScrollBar>(dialog, "HScroll1");
+  for (const auto key : {Qt::Key_Home, Qt::Key_Right, Qt::Key_Right, Qt::Key_Left, Qt::Key_PageDown})
+    QTest::keyClick(bar, key);
+  EXPECT_EQ(LabelText(dialog, "Label4"), "6");
+
   platform.draws = {0.999, 0.0};
   Click(dialog, "Command4");
   EXPECT_EQ(LabelText(dialog, "Label4"), "26");
@@ -281,6 +286,10 @@ TEST_F(CipherWindowsTest, ChtRewritesAgainAndAgain) {
   platform.draws = {0.5, 0.99, 0.9, 0.9};
   Click(dialog, "Command1");
   EXPECT_EQ(Document(), "@q\r\n");
+  EXPECT_EQ(editor.text.Caret(), 0u);
+  EXPECT_TRUE(editor.text.Undo());
+  EXPECT_EQ(Document(), "aQ\r\n");
+  EXPECT_TRUE(editor.text.Redo());
   Click(dialog, "Command1");
   EXPECT_EQ(Document().substr(0, 1), "@");
   EXPECT_TRUE(dialog.isVisible());

@@ -629,6 +629,21 @@ TEST_F(TextBoxTest, InputMethodsSeeTheTextAroundTheCaretOnly) {
   EXPECT_EQ(box->inputMethodQuery(Qt::ImCursorRectangle).toRect(), box->CaretRect().translated(box->viewport()->pos()));
 }
 
+TEST_F(TextBoxTest, CaretStaysInSightWhereItShall) {
+  box->setBackgroundColor(Qt::white);
+  box->setTextColor(Qt::black);
+  for (const bool stays : {false, true}) {
+    box->SetCaretStays(stays);
+    box->setFocus();
+    box->clearFocus();
+    box->Buffer().SetText("      ");
+    box->Buffer().ReplaceSelection("   ");  // as a tool window does
+    const QImage image = box->viewport()->grab().toImage();
+    EXPECT_EQ(HasInk(image, box->CaretRect()), stays);
+    EXPECT_NE(image.pixelColor(box->CaretRect().center()), QColor(Qt::black));  // the full one is of the active window
+  }
+}
+
 TEST_F(TextBoxTest, TabGoesOnWhereItCanNotBeTyped) {
   QLineEdit before(&window);
   QLineEdit next(&window);

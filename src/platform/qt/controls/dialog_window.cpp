@@ -4,11 +4,22 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPointer>
+#include <QScrollBar>
 #include <QShowEvent>
 
 #include "platform/qt/outer_geometry.h"
 
 namespace pelmar {
+namespace {
+
+// The toolkit's scroll bars move against the arrows Left and Right. True when the key was one of them.
+bool MoveByArrow(QScrollBar& bar, int key) {
+  if (bar.orientation() != Qt::Horizontal || (key != Qt::Key_Left && key != Qt::Key_Right)) return false;
+  bar.triggerAction(key == Qt::Key_Left ? QAbstractSlider::SliderSingleStepSub : QAbstractSlider::SliderSingleStepAdd);
+  return true;
+}
+
+}  // namespace
 
 DialogWindow::DialogWindow(QWidget* parent) : QDialog(parent) {}
 
@@ -39,6 +50,7 @@ bool DialogWindow::eventFilter(QObject* watched, QEvent* event) {
       act->second();
       return true;
     }
+    if (auto* bar = qobject_cast<QScrollBar*>(watched); bar != nullptr && MoveByArrow(*bar, key)) return true;
   }
   return QDialog::eventFilter(watched, event);
 }
@@ -54,6 +66,7 @@ void DialogWindow::showEvent(QShowEvent* event) {
   if (!centred_ && !event->spontaneous()) {
     centred_ = true;
     CentreOnScreen(*this);
+    for (QScrollBar* bar : findChildren<QScrollBar*>()) bar->installEventFilter(this);
   }
   QDialog::showEvent(event);
 }
