@@ -197,6 +197,17 @@ class NotesTest(unittest.TestCase):
         found = [one.read_bytes() for one in self.session.data_folder.glob("notes-rescue-*.pelmar")]
         self.assertEqual([text in one for one in found], [True])
 
+    def test_a_file_that_cant_be_opened_ends_the_program_with_a_message(self):
+        session = self.session
+        self.file.mkdir()
+        self.start_editor()
+        session.type("kept")
+        session.key("F9")
+        session.activate(session.wait_window("Pelmar VEX"))
+        session.key("Return")
+        self.assertEqual(session.wait_exit(), 1)
+        self.assertTrue(any(b"kept" in one.read_bytes() for one in session.data_folder.glob("rescue-*.pelmar")))
+
     def test_checkpoint(self):
         session = self.session
         main = self.start_editor()
