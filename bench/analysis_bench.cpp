@@ -55,11 +55,3 @@ BENCHMARK(AnalyseAndDraw)->Name("analyse_and_draw_64000_characters (limit 5 ms)"
 
 }  // namespace
 }  // namespace pelmar
-
-int main(int argc, char** argv) {
-  setenv("QT_QPA_PLATFORM", "offscreen", 1);
-  QApplication app(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  return 0;
-}

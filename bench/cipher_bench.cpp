@@ -167,11 +167,3 @@ BENCHMARK(LetterCiphers)
 
 }  // namespace
 }  // namespace pelmar
-
-int main(int argc, char** argv) {
-  setenv("QT_QPA_PLATFORM", "offscreen", 1);
-  QApplication app(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  return 0;
-}

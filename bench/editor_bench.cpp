@@ -62,11 +62,3 @@ BENCHMARK(SwitchTab)->Name("tab_switch_with_64000_characters (limit 1 ms)")->Uni
 
 }  // namespace
 }  // namespace pelmar
-
-int main(int argc, char** argv) {
-  setenv("QT_QPA_PLATFORM", "offscreen", 1);
-  QApplication app(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  return 0;
-}

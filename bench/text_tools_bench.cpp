@@ -89,11 +89,3 @@ COMMAND("strip_diacritics", "2", mnuHackyCarky, Repeated("Příliš Žluťoučk�
 
 }  // namespace
 }  // namespace pelmar
-
-int main(int argc, char** argv) {
-  setenv("QT_QPA_PLATFORM", "offscreen", 1);
-  QApplication app(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  return 0;
-}
