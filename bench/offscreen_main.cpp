@@ -1,4 +1,4 @@
-// Runs the benchmarks of a program that shows windows, without a screen.
+// Runs the benchmarks of a program that needs windows but no screen.
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
@@ -6,7 +6,7 @@
 
 int main(int argc, char** argv) {
   setenv("QT_QPA_PLATFORM", "offscreen", 1);
-  QApplication app(argc, argv);
+  const QApplication app(argc, argv);
   benchmark::Initialize(&argc, argv);
   benchmark::RunSpecifiedBenchmarks();
   return 0;

@@ -96,6 +96,8 @@ QPalette Dark() {
   palette.setColor(QPalette::HighlightedText, Qt::white);
   palette.setColor(QPalette::ToolTipBase, QColor(53, 53, 53));
   palette.setColor(QPalette::ToolTipText, Qt::white);
+  for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+    palette.setColor(QPalette::Disabled, role, QColor(140, 140, 140));
   palette.setColor(QPalette::Link, QColor(90, 170, 255));
   return palette;
 }
@@ -136,8 +138,8 @@ int Main(int argc, char** argv) {
   Program program(platform);
   QStringList steps;
   for (int i = 2; i < argc; ++i) steps += QString::fromUtf8(argv[i]);
-  Run(program.Main(), QString::fromUtf8(argv[1]), steps);
   program.Run("-NOMSG");
+  Run(program.Main(), QString::fromUtf8(argv[1]), steps);
   return QApplication::exec();
 }
 
