@@ -37,7 +37,7 @@ class Analytic : public DialogWindow {
   [[nodiscard]] const std::string& Source() const;
 
   const TextBuffer& document_;
-  QTimer timer1_;
+  QTimer timer1_{this};
   std::unique_ptr<Ui::Analytic> ui_;
 };
 

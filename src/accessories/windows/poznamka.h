@@ -73,7 +73,7 @@ class Poznamka : public QWidget {
   NotesRecord record_;  // the page on show as it was when it was turned to
   NotesRecord stored_;  // what the file holds, as far as this window knows
   int page_ = 1;
-  QTimer timer1_;
+  QTimer timer1_{this};
   NotesSurroundings placed_for_;  // what the last tick saw
   int tries_left_ = 0;            // how often the same place is asked for again
   int quiet_ticks_ = 0;

@@ -3,9 +3,11 @@
 #include <QAction>
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 #include <QTabBar>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <QToolBar>
 
 #include "accessories/windows/poznamka.h"
@@ -216,6 +218,22 @@ TEST_F(PoznamkaTest, TheTickDocksAndSnaps) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return place().top == 0 && place().height == screen.height(); }, 1000));
   EXPECT_EQ(place().left + place().width, screen.width());
   EXPECT_EQ(notes->width(), notes->minimumWidth());
+}
+
+TEST_F(PoznamkaTest, TheTickRestsWhileNothingMoves) {
+  Load().Present();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(notes.get()));
+  const auto* timer = Find<QTimer>(*notes, "Timer1");
+  EXPECT_EQ(timer->interval(), 10);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return timer->interval() > 10; }, 5000));
+  settings.AutosnapDistance = 100000;  // no event tells of it
+  EXPECT_TRUE(QTest::qWaitFor([&] { return OuterGeometry(*notes).left == 0; }, 1000));
+  EXPECT_EQ(timer->interval(), 10);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return timer->interval() > 10; }, 5000));
+  SetOuterPlace(*notes, {3000, 3000, 4500, 4500});
+  EXPECT_EQ(timer->interval(), 10);
+  notes->hide();
+  EXPECT_FALSE(timer->isActive());
 }
 
 }  // namespace
