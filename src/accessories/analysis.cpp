@@ -7,21 +7,15 @@
 
 #include "shell/common.h"
 #include "text/codepage.h"
+#include "text/number_text.h"
 
 namespace pelmar {
 namespace {
 
-// The number with leading zeros, up to `width` characters.
-std::string Padded(std::uint64_t number, std::size_t width) {
-  std::string digits = std::to_string(number);
-  if (digits.size() < width) digits.insert(0, width - digits.size(), '0');
-  return digits;
-}
-
 // "000,00", halves rounded up.
 std::string Percent(std::int32_t count, std::size_t length) {
   const std::uint64_t hundredths = (static_cast<std::uint64_t>(count) * 20000 + length) / (2 * length);
-  return Padded(hundredths / 100, 3) + "," + Padded(hundredths % 100, 2);
+  return ZeroPadded(hundredths / 100, 3) + "," + ZeroPadded(hundredths % 100, 2);
 }
 
 bool Ignored(std::size_t code, bool ignore_blank) { return ignore_blank && code == CodeOf(' '); }
@@ -70,9 +64,9 @@ std::vector<std::string> AnalysisRows(const Analysis& analysis) {
   rows.reserve(analysis.ranking.size());
   for (const std::uint8_t code : analysis.ranking) {
     const std::int32_t count = analysis.counts[code];
-    rows.push_back(Padded(rows.size() + 1, 3) + " " + Padded(static_cast<std::uint64_t>(count), 5) + " " +
-                   Percent(count, analysis.length) + " " + Padded(code, 3) + " " + std::string(kQuote) + CharOf(code) +
-                   std::string(kQuote));
+    rows.push_back(ZeroPadded(rows.size() + 1, 3) + " " + ZeroPadded(static_cast<std::uint64_t>(count), 5) + " " +
+                   Percent(count, analysis.length) + " " + ZeroPadded(code, 3) + " " + std::string(kQuote) +
+                   CharOf(code) + std::string(kQuote));
   }
   return rows;
 }

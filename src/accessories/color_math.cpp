@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "text/number_text.h"
+
 namespace pelmar {
 namespace {
 
@@ -12,11 +14,6 @@ Channels Each(const Channels& c, Function function) {
 }
 
 int Mean(const Channels& c) { return (c.red + c.green + c.blue) / 3; }
-
-std::string ThreeDigits(int value) {
-  const std::string digits = std::to_string(value);
-  return std::string(digits.size() < 3 ? 3 - digits.size() : 0, '0') + digits;
-}
 
 int NumberOf(std::string_view digits) {
   int number = 0;
@@ -80,7 +77,8 @@ Channels MeanToMiddle(const Channels& c) {
 }
 
 std::string HistoryRow(const Channels& c) {
-  return ThreeDigits(c.red) + "," + ThreeDigits(c.green) + "," + ThreeDigits(c.blue);
+  const auto digits = [](int channel) { return ZeroPadded(static_cast<std::uint64_t>(channel), 3); };
+  return digits(c.red) + "," + digits(c.green) + "," + digits(c.blue);
 }
 
 Channels FromHistoryRow(std::string_view row) {

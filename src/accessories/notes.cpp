@@ -19,12 +19,7 @@ constexpr std::size_t kRescueNumber = 8;
 
 std::string NotesPath(Platform& platform) { return JoinPath(platform.InstallFolder(), kFileName); }
 
-// Runs one file operation, which returns an errno, on the program's file number.
-template <class Operation>
-void OnFile(FileNumber& file_number, const std::string& failure, Operation operation) {
-  file_number.Open();
-  const int error = operation();
-  file_number.Close();
+void Check(int error, const std::string& failure) {
   if (error != 0) throw RuntimeError(error, failure);
 }
 
@@ -71,22 +66,20 @@ std::string OverlongMessage(int page, std::size_t size) {
 
 NotesRecord LoadNotes(Platform& platform, FileNumber& file_number) {
   const std::string path = NotesPath(platform);
-  FileBytes file;
-  OnFile(file_number, "Soubor " + path + " nelze otevřít", [&] {
-    file = platform.ReadFile(path, kLongestRecord);
-    return file.error == ENOENT ? platform.WriteFile(path, {}) : file.error;
-  });
+  const OpenNumber number(file_number);
+  const FileBytes file = platform.ReadFile(path, kLongestRecord);
+  Check(file.error == ENOENT ? platform.WriteFile(path, {}) : file.error, "Soubor " + path + " nelze otevřít");
   return ReadNotes(file.bytes);
 }
 
 void StoreNotes(const NotesRecord& record, Platform& platform, FileNumber& file_number) {
   const std::string path = NotesPath(platform);
+  const std::string failure = "Soubor " + path + " nelze zapsat";
   const std::string bytes = NotesBytes(record);
-  OnFile(file_number, "Soubor " + path + " nelze zapsat", [&] {
-    const FileBytes old = platform.ReadFile(path, std::nullopt);
-    if (old.error != 0 && old.error != ENOENT) return old.error;
-    return platform.WriteFile(path, OverOldTail(bytes, old.bytes));
-  });
+  const OpenNumber number(file_number);
+  const FileBytes old = platform.ReadFile(path, std::nullopt);
+  if (old.error != ENOENT) Check(old.error, failure);
+  Check(platform.WriteFile(path, OverOldTail(bytes, old.bytes)), failure);
 }
 
 UnsavedNotes NotesToKeep(const NotesRecord& stored, const NotesRecord& now, int page_on_show) {

@@ -11,18 +11,6 @@ namespace {
 constexpr int kFilterIndex = 0;
 constexpr std::uint64_t kLargestTable = (kSymbols + 3) * (2 + kLongestField) + 1;
 
-// File number 1 for as long as this lives.
-class OpenNumber {
- public:
-  explicit OpenNumber(FileNumber& number) : number_(number) { number_.Open(); }
-  OpenNumber(const OpenNumber&) = delete;
-  OpenNumber& operator=(const OpenNumber&) = delete;
-  ~OpenNumber() { number_.Close(); }
-
- private:
-  FileNumber& number_;
-};
-
 void Check(int error, const std::string& path) {
   if (error != 0) throw RuntimeError(error, "Soubor " + path + " nelze otevřít");
 }

@@ -23,4 +23,16 @@ class FileNumber {
   bool open_ = false;
 };
 
+// The file number open for as long as this lives, for operations that set it free however they end.
+class OpenNumber {
+ public:
+  explicit OpenNumber(FileNumber& number) : number_(number) { number_.Open(); }
+  OpenNumber(const OpenNumber&) = delete;
+  OpenNumber& operator=(const OpenNumber&) = delete;
+  ~OpenNumber() { number_.Close(); }
+
+ private:
+  FileNumber& number_;
+};
+
 }  // namespace pelmar

@@ -3,6 +3,7 @@
 #include <cstddef>
 
 #include "text/codepage.h"
+#include "text/number_text.h"
 
 namespace pelmar {
 namespace {
@@ -38,11 +39,7 @@ constexpr FixedInsert kFixedInserts[] = {
     {"mnureg", "®"_w},         {"mnutm", "™"_w},
 };
 
-// A number of at least `width` digits.
-std::string Digits(int number, std::size_t width) {
-  std::string digits = std::to_string(number);
-  return digits.size() < width ? std::string(width - digits.size(), '0') + digits : digits;
-}
+std::string Digits(int number, std::size_t width) { return ZeroPadded(static_cast<std::uint64_t>(number), width); }
 
 }  // namespace
 

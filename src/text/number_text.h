@@ -3,6 +3,8 @@
 // alone and takes what it can, `ParseNumber` knows the comma alone and takes all or nothing.
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -13,6 +15,9 @@ namespace pelmar {
 // "1E+15", "1,5E-05". The exponent form begins at 15 (7) digits before the mark and below 0,0001. The number is finite.
 std::string NumberText(double number);
 std::string NumberText(float number);
+
+// A whole number of at least `width` digits, with zeros in front.
+std::string ZeroPadded(std::uint64_t number, std::size_t width);
 
 // With exactly `decimals` digits (1 or more) behind the mark, halves away from zero: FixedText(1.015625, 5) is
 // "1,01563". Only the first 15 significant digits count. The number is finite and below 1E+15.

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "shell/common.h"
+#include "text/number_text.h"
 
 namespace pelmar {
 namespace {
@@ -20,9 +21,7 @@ std::vector<std::string_view> LinesWithEnds(std::string_view text) {
 }
 
 void AppendNumber(std::string& out, int number) {
-  const std::string digits = std::to_string(number);
-  out.append(digits.size() < 5 ? 5 - digits.size() : 0, '0');
-  out += digits;
+  out += ZeroPadded(static_cast<std::uint64_t>(number), 5);
   out += ' ';
 }
 

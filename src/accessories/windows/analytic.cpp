@@ -13,22 +13,12 @@
 namespace pelmar {
 namespace {
 
-// Control characters by their names: some would break the line, the others can't be seen.
-QString Readable(std::string_view text) {
-  QString readable;
-  for (const char ch : text) {
-    const auto code = static_cast<unsigned char>(ch);
-    readable += IsControlSign(code) || ch == '\t' ? SignName(code) : TextToQString({&ch, 1});
-  }
-  return readable;
-}
-
 // The rows keep their characters as they are, only their look differs.
 class RowDelegate : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
   [[nodiscard]] QString displayText(const QVariant& value, const QLocale&) const override {
-    return Readable(TextFromQString(value.toString()));
+    return ReadableText(TextFromQString(value.toString()));
   }
 };
 
@@ -108,7 +98,7 @@ void Analytic::Command3_Click() {
 void Analytic::Pic_Pointed(double x) {
   const int code = CodeAt(x, ui_->Check1->isChecked());
   if (code < 0) return;
-  const QString text = Readable(PointedText(code));
+  const QString text = ReadableText(PointedText(code));
   ui_->Label2->setText(text);
   ui_->Pic->setToolTip(text);
 }

@@ -13,10 +13,6 @@ constexpr int kSide = 16;
 constexpr int kPreviewPoints = 36;
 constexpr int kPreviewEdge = 10;
 
-double WidthOf(const GlyphTable& glyphs, int code) {
-  return static_cast<double>(glyphs.Advances().of[static_cast<std::size_t>(code)]) / kUnitsPerPixel;
-}
-
 }  // namespace
 
 CodeGrid::CodeGrid(QWidget* parent) : CellGrid(kSide, parent) {}
@@ -28,11 +24,9 @@ void CodeGrid::PaintCell(QPainter& painter, const QRect& cell, int row, int colu
   if (code == 0) return;  // required: never drawn
   if (!glyphs_) glyphs_ = std::make_unique<GlyphTable>(font());
   const char character = CharOf(code);
-  const double width = WidthOf(*glyphs_, code);
-  const QPointF origin(cell.left() + (cell.width() - width) / 2,
-                       cell.top() + (cell.height() - glyphs_->RowHeight()) / 2);
-  glyphs_->Draw(painter, origin, 0, {&character, 1},
-                palette().color(marked ? QPalette::HighlightedText : QPalette::Text));
+  const QPointF at(cell.left() + (cell.width() - glyphs_->WidthAlone(character)) / 2,
+                   cell.top() + (cell.height() - glyphs_->RowHeight()) / 2);
+  glyphs_->DrawAlone(painter, at, character, palette().color(marked ? QPalette::HighlightedText : QPalette::Text));
 }
 
 void CodeGrid::changeEvent(QEvent* event) {
@@ -65,8 +59,7 @@ void CodePreview::paintEvent(QPaintEvent* /*event*/) {
       large.setPointSize(kPreviewPoints);
       glyphs_ = std::make_unique<GlyphTable>(large);
     }
-    const char character = CharOf(code_);
-    glyphs_->Draw(painter, QPointF(kPreviewEdge, kPreviewEdge), 0, {&character, 1}, palette().color(QPalette::Text));
+    glyphs_->DrawAlone(painter, QPointF(kPreviewEdge, kPreviewEdge), CharOf(code_), palette().color(QPalette::Text));
   }
   painter.setPen(palette().color(QPalette::Mid));
   painter.drawRect(rect().adjusted(0, 0, -1, -1));

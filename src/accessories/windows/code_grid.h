@@ -1,5 +1,5 @@
-// The pictures of the character table: the grid of the 256 codes, and one code at large. Control characters show as the
-// same signs as in a text box.
+// The pictures of the character table: the grid of the 256 codes, and one code at large. Control characters show by
+// their names, as in a text box, and so does the TAB.
 #pragma once
 
 #include <memory>

@@ -4,6 +4,7 @@
 
 #include "accessories/char_table.h"
 #include "html/insert.h"
+#include "platform/qt/controls/glyph_table.h"
 #include "platform/qt/convert.h"
 #include "text/codepage.h"
 #include "texttools/windows/field_helpers.h"
@@ -13,6 +14,7 @@ namespace pelmar {
 namespace {
 
 QString Character(int code) { return TextToQString(std::string(1, CharOf(code))); }
+QString Readable(int code) { return ReadableText(std::string(1, CharOf(code))); }
 
 // As everywhere, what is selected stays, behind the new text.
 void InsertInto(QLineEdit& field, const QString& text) {
@@ -34,6 +36,7 @@ Kod::Kod(TextBuffer& document, std::function<void(const QKeyEvent&)> stroke_main
       stroke_main_(std::move(stroke_main)),
       ui_(std::make_unique<Ui::Kod>()) {
   ui_->setupUi(this);
+  ui_->Combo1->setCompleter(nullptr);  // it would make "Courier New" of a typed "Courier"
   connect(ui_->Combo1, &QComboBox::currentTextChanged, this, &Kod::Combo1_Change);
   connect(ui_->HScroll1, &QScrollBar::valueChanged, this, &Kod::HScroll1_Change);
   connect(ui_->Command3, &QPushButton::clicked, this, &Kod::Command3_Click);
@@ -58,10 +61,12 @@ void Kod::Combo1_Change(const QString& font_name) {
 void Kod::HScroll1_Change(int code) {
   ui_->Label1->setText(QString::number(code));
   // A caption ends at its first character of code 0, so that of code 0 is empty.
-  ui_->Label2->setText(code == 0 ? QString() : Character(code));
+  ui_->Label2->setText(code == 0 ? QString() : Readable(code));
 }
 
-void Kod::Command3_Click() { InsertInto(*ui_->Text1, ui_->Label2->text()); }
+void Kod::Command3_Click() {
+  if (const int code = ui_->HScroll1->value(); code != 0) InsertInto(*ui_->Text1, Character(code));
+}
 
 void Kod::Command4_Click() {
   const std::string text = FieldText(*ui_->Text1);
@@ -74,7 +79,7 @@ void Kod::Point(int code) {
   ui_->Label7->setText(Utf8ToQString(CodeInHex(code)));
   ui_->Label8->setText(Utf8ToQString(CharReference(code)));
   ui_->Picture2->SetCode(code);
-  ui_->Picture1->setAccessibleDescription(Character(code) + QStringLiteral(", kód ") + QString::number(code));
+  ui_->Picture1->setAccessibleDescription(Readable(code) + QStringLiteral(", kód ") + QString::number(code));
 }
 
 void Kod::Choose(int code) {

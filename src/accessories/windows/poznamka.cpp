@@ -72,7 +72,7 @@ void Poznamka::ConnectCommands() {
     action->setIcon(SvgIcon(QStringLiteral(":/icons/%1.svg").arg(QLatin1String(picture))));
     QWidget* button = ui_->Toolbar1->widgetForAction(action);
     button->setFocusPolicy(Qt::TabFocus);
-    button->setAccessibleName(action->toolTip());
+    button->setAccessibleName(action->text());
     setTabOrder(before, button);
     before = button;
   }

@@ -85,6 +85,7 @@ TEST_F(PoznamkaTest, CopiesAndPastes) {
   Load().Present();
   notes->Text().SetText("one two");
   notes->Text().Select(0, 3);
+  EXPECT_EQ(Find<QAction>(*notes, "Copy")->toolTip(), QStringLiteral("Kopírovat výbět"));  // required: misspelled
   Press("Copy");
   EXPECT_EQ(platform.clipboard, "one");
   notes->Text().Select(4, 7);

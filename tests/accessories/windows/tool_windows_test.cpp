@@ -207,6 +207,46 @@ TEST_F(CharTableTest, PointerShowsTheCode) {
     EXPECT_EQ(Find<QWidget>(kod, name)->font().family(), QStringLiteral("Courier New")) << name;
 }
 
+TEST_F(CharTableTest, CodesWithoutAPictureShowByName) {
+  QTest::qWait(1);
+  const QSize size = kod.size();
+  const struct {
+    int code;
+    const char *shown, *collected;
+  } cases[] = {{9, "HT", "\t"}, {10, "LF", "\n"}, {13, "CR", "\r"}, {'A', "A", "A"}};
+  auto* collected = Find<QLineEdit>(kod, "Text1");
+  for (const auto& c : cases) {
+    Find<QScrollBar>(kod, "HScroll1")->setValue(c.code);
+    EXPECT_EQ(Label("Label2"), QLatin1String(c.shown));
+    collected->clear();
+    Click(kod, "Command3");
+    EXPECT_EQ(collected->text(), QLatin1String(c.collected));
+    QTest::qWait(1);
+    EXPECT_EQ(kod.size(), size) << c.code;  // the window doesn't jump about
+  }
+  const QImage picture = grid->grab().toImage();
+  const auto is_blank = [&](int code) {
+    const QRect inner(Cell(code) - QPoint(8, 6), QSize(16, 12));
+    const QImage cell = picture.copy(inner);
+    for (int y = 0; y < cell.height(); ++y)
+      for (int x = 0; x < cell.width(); ++x)
+        if (cell.pixel(x, y) != cell.pixel(0, 0)) return false;
+    return true;
+  };
+  EXPECT_FALSE(is_blank(9));
+  EXPECT_FALSE(is_blank(10));
+  EXPECT_TRUE(is_blank(0));
+  EXPECT_TRUE(is_blank(' '));
+}
+
+TEST_F(CharTableTest, AFontsNameStaysAsItIsTyped) {
+  Click(kod, "Option3");
+  auto* font = Find<QComboBox>(kod, "Combo1");
+  font->clearEditText();
+  QTest::keyClicks(font, QStringLiteral("Courier"));
+  EXPECT_EQ(font->currentText(), QStringLiteral("Courier"));
+}
+
 TEST_F(CharTableTest, TypedKeysGoToTheMainWindow) {
   grid->setFocus();
   QTest::keyClicks(grid, QStringLiteral("a "));

@@ -45,6 +45,15 @@ bool IsControlSign(unsigned char code) {
   return (code < 0x20 && code != '\t') || (code >= 0x7F && UnicodeOf(code) == code && code < 0xA0);
 }
 
+QString ReadableText(std::string_view text) {
+  QString readable;
+  for (const char ch : text) {
+    const auto code = static_cast<unsigned char>(ch);
+    readable += IsControlSign(code) || ch == '\t' ? SignName(code) : QString(QChar(UnicodeOf(code)));
+  }
+  return readable;
+}
+
 GlyphTable::GlyphTable(const QFont& font) : underline_(font.underline()), strike_out_(font.strikeOut()) {
   QFont plain(font);
   plain.setKerning(false);
@@ -99,12 +108,26 @@ void GlyphTable::FillSigns(const QFont& font) {
   sign_face_ = SignFace(font);
   for (std::size_t code = 0; code < 256; ++code) {
     if (!IsControlSign(static_cast<unsigned char>(code))) continue;
-    qreal width = 0;
-    const QString name = SignName(static_cast<unsigned char>(code));
-    for (const QPointF advance : sign_face_.advancesForGlyphIndexes(sign_face_.glyphIndexesForString(name)))
-      width += advance.x();
-    advances_.of[code] = ToUnits(qCeil(width + 2 * kSignPadding + kSignGap));
+    advances_.of[code] = ToUnits(SignWidth(static_cast<unsigned char>(code)));
   }
+}
+
+// In whole pixels, the gap behind it included.
+qreal GlyphTable::SignWidth(unsigned char code) const {
+  qreal width = 2 * kSignPadding + kSignGap;
+  const QList<quint32> glyphs = sign_face_.glyphIndexesForString(SignName(code));
+  for (const QPointF advance : sign_face_.advancesForGlyphIndexes(glyphs)) width += advance.x();
+  return qCeil(width);
+}
+
+qreal GlyphTable::WidthAlone(char ch) const {
+  const auto code = static_cast<unsigned char>(ch);
+  return ch == '\t' ? SignWidth(code) : ToPixels(advances_.of[code]);
+}
+
+void GlyphTable::DrawAlone(QPainter& painter, QPointF at, char ch, const QColor& colour) const {
+  if (ch == '\t') return DrawSign(painter, at, static_cast<unsigned char>(ch), colour);
+  Draw(painter, at, 0, {&ch, 1}, colour);
 }
 
 std::int64_t GlyphTable::EndOf(std::int64_t x, std::string_view text) const {
@@ -151,8 +174,7 @@ void GlyphTable::DrawRuns(QPainter& painter, const QColor& colour) const {
 void GlyphTable::DrawSign(QPainter& painter, QPointF at, unsigned char code, const QColor& colour) const {
   QColor tint = colour;
   tint.setAlphaF(0.18F);
-  const qreal width = ToPixels(advances_.of[code]) - kSignGap;
-  painter.fillRect(QRectF(at.x(), at.y() + 1, width, row_height_ - 2), tint);
+  painter.fillRect(QRectF(at.x(), at.y() + 1, WidthAlone(static_cast<char>(code)) - kSignGap, row_height_ - 2), tint);
 
   const QList<quint32> glyphs = sign_face_.glyphIndexesForString(SignName(code));
   const QList<QPointF> advances = sign_face_.advancesForGlyphIndexes(glyphs);

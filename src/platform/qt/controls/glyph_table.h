@@ -31,6 +31,11 @@ class GlyphTable {
   // `origin` is where the row begins, on the top edge.
   void Draw(QPainter& painter, QPointF origin, std::int64_t x, std::string_view text, const QColor& colour) const;
 
+  // One character by itself, where a TAB shows by its name like the other control characters. The width is in pixels,
+  // `at` the character's upper left corner.
+  [[nodiscard]] qreal WidthAlone(char ch) const;
+  void DrawAlone(QPainter& painter, QPointF at, char ch, const QColor& colour) const;
+
  private:
   struct Cell {
     quint32 glyph = 0;
@@ -46,6 +51,7 @@ class GlyphTable {
   void FillFromFallback(const QFont& font, std::size_t code);
   void FillSigns(const QFont& font);
   std::uint8_t FaceIndex(const QRawFont& face);
+  [[nodiscard]] qreal SignWidth(unsigned char code) const;
   void DrawSign(QPainter& painter, QPointF at, unsigned char code, const QColor& colour) const;
   void DrawRuns(QPainter& painter, const QColor& colour) const;
 
@@ -64,5 +70,8 @@ class GlyphTable {
 bool IsControlSign(unsigned char code);
 // That name: "CR", "DEL", or the code in hexadecimal; for a TAB too.
 QString SignName(unsigned char code);
+// A text for labels and lists, with the names of its control characters, TAB included, in their places: some would
+// break the line, the others can't be seen.
+QString ReadableText(std::string_view text);
 
 }  // namespace pelmar
