@@ -1,5 +1,6 @@
 #include "texttools/replace.h"
 
+#include "html/insert.h"
 #include "shell/common.h"
 #include "text/codepage.h"
 #include "texttools/find.h"
@@ -98,7 +99,7 @@ void Replacer::GoIdle() {
 
 void Replacer::ReplaceAll() {
   platform_.SetBusyPointer(true);
-  document_.SetText(ReplaceAllByMarker(document_.Text(), find, change));
+  ReplaceDocument(document_, ReplaceAllByMarker(document_.Text(), find, change));
   platform_.SetBusyPointer(false);
   find_on = lists_on = change_on = true;
   step_on = all_on = false;  // required: Rozlisovat stays off

@@ -39,6 +39,7 @@ void ConnectColorChoice(QAbstractButton* button, Swatch* swatch, QLabel* hex, st
 }
 
 void AcceptFreeText(QComboBox* box) { box->setCompleter(nullptr); }
+
 QString BlankLed(int value) { return Utf8ToQString(NumberWithSignBlank(value)); }
 
 QString BlankLedPercent(int value) { return BlankLed(value) + QLatin1Char('%'); }

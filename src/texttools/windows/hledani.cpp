@@ -32,8 +32,11 @@ void Hledani::Step(void (Finder::*step)()) {
   TakeFields();
   (finder_.*step)();
   ShowFields();
-  // The field that had the keyboard may be off now; Enter then goes on with the search.
-  if (finder_.next_on) ui_->Command2->setFocus();
+  // What had the keyboard may be off now. Enter goes on with a search, and behind its end the next term can be typed.
+  if (finder_.next_on)
+    ui_->Command2->setFocus();
+  else
+    ui_->Find->setFocus();
 }
 
 void Hledani::TakeFields() {

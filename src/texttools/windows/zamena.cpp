@@ -14,8 +14,11 @@ Zamena::Zamena(TextBuffer& document, Platform& platform, QWidget* parent)
   connect(ui_->Command1, &QPushButton::clicked, this, &Zamena::Start);
   connect(ui_->Command2, &QPushButton::clicked, this, [this] { Step(&Replacer::Next); });
   connect(ui_->Command5, &QPushButton::clicked, this, [this] { Step(&Replacer::Replace); });
-  connect(ui_->Command6, &QPushButton::clicked, this, [this] { Step(&Replacer::ReplaceAll); });
-  connect(ui_->Command4, &QPushButton::clicked, this, [this] { Step(&Replacer::New); });
+  for (const auto& [button, step] : {std::pair{ui_->Command6, &Replacer::ReplaceAll}, {ui_->Command4, &Replacer::New}})
+    connect(button, &QPushButton::clicked, this, [this, run = step] {
+      Step(run);
+      ui_->Find->setFocus();
+    });
   connect(ui_->Command3, &QPushButton::clicked, this, &Zamena::hide);
   for (QListWidget* list : {ui_->History, ui_->List1}) {
     ShowRowsOnOneLine(*list);
@@ -32,13 +35,15 @@ void Zamena::Start() {
   TakeFields();
   const bool found = replacer_.Start();
   ShowFields();
-  if (found) ui_->Command5->setFocus();
+  (found ? ui_->Command5 : ui_->Command4)->setFocus();
 }
 
 void Zamena::Step(void (Replacer::*step)()) {
   TakeFields();
   (replacer_.*step)();
   ShowFields();
+  // The button that had the keyboard is off, and the next one, where one Enter too many would go, replaces all.
+  if (!replacer_.step_on) ui_->Command4->setFocus();
 }
 
 void Zamena::PickRow(int row) {

@@ -2,8 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QScreen>
 #include <QTest>
+#include <QToolButton>
 #include <QWidget>
 #include <QWindow>
 
@@ -46,6 +50,29 @@ TEST(DialogWindow, IsCentredOnceAndKeepsItsPlace) {
   dialog.hide();
   dialog.Present();
   EXPECT_EQ(dialog.pos(), QPoint(5, 6));
+}
+
+TEST(DialogWindow, EnterPressesTheButtonThatHasTheFocus) {
+  DialogWindow dialog(nullptr);
+  QLineEdit field(&dialog);
+  QPushButton ok(&dialog);
+  QPushButton storno(&dialog);
+  QToolButton show(&dialog);
+  QCheckBox box(&dialog);
+  ok.setDefault(true);
+  storno.setAutoDefault(false);
+  show.setFocusPolicy(Qt::StrongFocus);
+  std::string pressed;
+  QObject::connect(&ok, &QAbstractButton::clicked, [&] { pressed += "ok "; });
+  QObject::connect(&storno, &QAbstractButton::clicked, [&] { pressed += "storno "; });
+  QObject::connect(&show, &QAbstractButton::clicked, [&] { pressed += "show "; });
+  dialog.Present();
+  for (QWidget* focus : std::initializer_list<QWidget*>{&field, &storno, &show, &box, &ok}) {
+    focus->setFocus();
+    QTest::keyClick(focus, Qt::Key_Return);
+  }
+  EXPECT_EQ(pressed, "ok storno show ok ok ");
+  EXPECT_FALSE(box.isChecked());
 }
 
 }  // namespace

@@ -58,6 +58,50 @@ TEST_F(SearchWindowsTest, HledaniShowsItsState) {
   EXPECT_FALSE(dialog.isVisible());
 }
 
+TEST_F(SearchWindowsTest, EnterGoesOnWithTheSearchAndEndsIt) {
+  text.SetText("a a");
+  Hledani dialog(text, platform, nullptr);
+  dialog.Present();
+  auto* term = Find<QLineEdit>(dialog, "Find");
+  const auto enter = [&dialog] { QTest::keyClick(dialog.focusWidget(), Qt::Key_Return); };
+  term->setText(QStringLiteral("a"));
+  enter();
+  enter();  // on Command2, though Command4 is the default button
+  EXPECT_EQ(text.SelStart(), 2U);
+  platform.answers = {Answer::kOk};
+  enter();
+  EXPECT_EQ(platform.calls.back(), "message 0 \"Nenalezeno !\" \"Hledání\"");
+  EXPECT_EQ(dialog.focusWidget(), term);  // for the next term
+}
+
+TEST_F(SearchWindowsTest, HledaniTakesALongSelectionOfSeveralLines) {
+  std::string lines(40'000, 'x');
+  lines += "\r\ny";
+  text.SetText("x" + lines + "\r\n" + lines);
+  text.Select(1, 1 + lines.size());
+  Hledani dialog(text, platform, nullptr);
+  dialog.Present();
+  Click(dialog, "Command1");
+  EXPECT_EQ(text.SelText(), lines);
+  Click(dialog, "Command2");
+  EXPECT_EQ(text.SelText(), lines);
+  EXPECT_EQ(text.SelEnd(), text.Size());
+}
+
+TEST_F(SearchWindowsTest, OneEnterTooManyDoesNotReplaceAll) {
+  text.SetText("a");
+  Zamena dialog(text, platform, nullptr);
+  dialog.Present();
+  Find<TextBox>(dialog, "Find")->SetText("a");
+  Find<TextBox>(dialog, "Chage")->SetText("b");
+  Click(dialog, "Command1");
+  platform.answers = {Answer::kOk};
+  for (int times = 0; times < 2; ++times) QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
+  EXPECT_TRUE(Find<QPushButton>(dialog, "Command6")->isEnabled());
+  EXPECT_EQ(text.Text(), "b");
+  EXPECT_EQ(dialog.focusWidget(), Find<TextBox>(dialog, "Find"));
+}
+
 TEST_F(SearchWindowsTest, ZamenaReplacesAndKeepsThePairs) {
   text.SetText("a\r\nb a\r\nb");
   Zamena dialog(text, platform, nullptr);
@@ -76,6 +120,9 @@ TEST_F(SearchWindowsTest, ZamenaReplacesAndKeepsThePairs) {
   EXPECT_EQ(Find<QLabel>(dialog, "Label5")->text(), QStringLiteral("1"));
   Click(dialog, "Command6");
   EXPECT_EQ(text.Text(), "c c");
+  EXPECT_TRUE(text.Undo());  // nothing was asked before
+  EXPECT_EQ(text.Text(), "c a\r\nb");
+  EXPECT_TRUE(text.Redo());
   EXPECT_FALSE(Find<QPushButton>(dialog, "Command6")->isEnabled());
   EXPECT_FALSE(Find<QCheckBox>(dialog, "Rozlisovat")->isEnabled());  // required
   term->SetText("other");

@@ -4,8 +4,10 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPointer>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QShowEvent>
+#include <QToolButton>
 
 #include "platform/qt/outer_geometry.h"
 
@@ -17,6 +19,11 @@ bool MoveByArrow(QScrollBar& bar, int key) {
   if (bar.orientation() != Qt::Horizontal || (key != Qt::Key_Left && key != Qt::Key_Right)) return false;
   bar.triggerAction(key == Qt::Key_Left ? QAbstractSlider::SliderSingleStepSub : QAbstractSlider::SliderSingleStepAdd);
   return true;
+}
+
+bool IsPlainEnter(const QKeyEvent& event) {
+  return (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) &&
+         (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
 }
 
 }  // namespace
@@ -59,6 +66,10 @@ void DialogWindow::keyPressEvent(QKeyEvent* event) {
   const QString name = property("cancelButton").toString();
   auto* cancel = name.isEmpty() ? nullptr : findChild<QAbstractButton*>(name);
   if (cancel != nullptr && event->matches(QKeySequence::Cancel)) return cancel->click();
+  // The toolkit would press the default button, whichever button the person has gone to.
+  QWidget* focus = focusWidget();
+  if (IsPlainEnter(*event) && (qobject_cast<QPushButton*>(focus) || qobject_cast<QToolButton*>(focus)))
+    return static_cast<QAbstractButton*>(focus)->click();
   QDialog::keyPressEvent(event);
 }
 

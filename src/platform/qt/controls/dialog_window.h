@@ -1,6 +1,7 @@
 // The base of the program's own dialogs: modeless unless executed, centred on the screen when first shown, and only
 // hidden on closing, so that the fields keep what they hold for the whole run. The form's property `cancelButton` names
-// the button that Escape presses; without one Escape closes the window as its system button does.
+// the button that Escape presses; without one Escape closes the window as its system button does. Enter presses the
+// button that has the focus, elsewhere the default one.
 #pragma once
 
 #include <QDialog>
