@@ -3,6 +3,7 @@
 #include <QListWidget>
 
 #include "html/insert.h"
+#include "platform/qt/controls/list_rows.h"
 #include "platform/qt/convert.h"
 #include "shell/editor.h"
 #include "texttools/windows/field_helpers.h"
@@ -25,6 +26,7 @@ RND_Sifra::RND_Sifra(Editor& editor, QWidget* parent)
       files_(editor.platform, editor.opener, editor.file_number),
       ui_(std::make_unique<Ui::RND_Sifra>()) {
   ui_->setupUi(this);
+  for (QListWidget* list : {ui_->List1, ui_->List2}) ShowRowsOnOneLine(*list);  // a table may be any file
   connect(ui_->Command1, &QPushButton::clicked, this,
           [this] { ui_->Text1->Buffer().SetText(PrepareText(document_.Text())); });
   connect(ui_->Command2, &QPushButton::clicked, this, &RND_Sifra::Command2_Click);

@@ -424,6 +424,18 @@ TEST_F(RndSifraTest, ALoadThatFailsSaysSo) {
   EXPECT_EQ(LabelText(dialog, "Label6"), "Koeficienty nelze spočítat (dělení nulou)");
 }
 
+TEST_F(RndSifraTest, AnyFileIsTakenAsATableAndKeepsItsRowsLow) {
+  CipherTable other;
+  other.SymbolCodes[0] = "\r\n\r\n";
+  platform.files["/other"] = TableBytes(other);
+  platform.opens = {"/other"};
+  platform.answers = {Answer::kOk};
+  Click(dialog, "Command3");
+  const auto* list = Find<QListWidget>(dialog, "List1");
+  EXPECT_EQ(Row("List1", 1), "A       \r\n\r\n");
+  EXPECT_EQ(list->visualItemRect(list->item(1)).height(), list->visualItemRect(list->item(2)).height());
+}
+
 TEST_F(RndSifraTest, TheNoteIsNoLongerThanTheFileTakes) {
   SetBox(dialog, "Text2", std::string(70000, 'n'));
   EXPECT_EQ(BoxText(dialog, "Text2").size(), 65535u);
