@@ -136,8 +136,8 @@ int Main(int argc, char** argv) {
   Program program(platform);
   QStringList steps;
   for (int i = 2; i < argc; ++i) steps += QString::fromUtf8(argv[i]);
-  Run(program.Main(), QString::fromUtf8(argv[1]), steps);
   program.Run("-NOMSG");
+  Run(program.Main(), QString::fromUtf8(argv[1]), steps);
   return QApplication::exec();
 }
 
