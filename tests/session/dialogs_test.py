@@ -24,7 +24,7 @@ class DialogsTest(unittest.TestCase):
             session.key("Return")
             session.wait_no_window("Výběr barvy")
             session.wait_until(lambda: session.active() == int(page.id, 16), "the page creator to be active again")
-            session.key("Return")
+            session.key("alt+o")
             session.wait_no_window("HTML  - Vytvoření")
             session.wait_window("Pelmar VEX ()*")
             session.key("ctrl+Home", "ctrl+shift+End", "ctrl+Insert")
