@@ -62,7 +62,7 @@ class SiteTest(unittest.TestCase):
             self.color()
             session.key("Tab", "space", "Tab", "space")  # wine-red text
             self.color(*["Page_Down"] * 8)
-            self.dialog("HTML  - Vytvoření", "Return")
+            self.dialog("HTML  - Vytvoření", "alt+o")
 
             session.type("Nase kocka")  # over the marker that stands selected
             session.key("shift+Home", "ctrl+l")
