@@ -57,7 +57,8 @@ void Saver::InsertFromFile() {
     file_number_.Open();
     const FileBytes file = platform_.ReadFile(*path, std::nullopt);
     file_number_.Close();
-    if (file.error != 0) return;  // required: the command ends in silence
+    // An empty file has no field to read. required: the command ends in silence
+    if (file.error != 0 || file.bytes.empty()) return;
     documents_.Text().ReplaceSelection(FirstField(file.bytes));
     opener_.RememberFile(*path);
   } catch (const RuntimeError&) {  // required: the command ends in silence

@@ -12,12 +12,11 @@ std::string ReleaseNotes() {
       "\r\n"
       "Text je od disku po obrazovku ve Windows-1250. Soubor se ukládá\r\n"
       "bajt po bajtu tak, jak stojí v okně.\r\n"
-      "====================\r\n"
-      "Poznámka této verze:\r\n"
       "\r\n"
-      "- Neuložené dokumenty přežijí pád programu i výpadek proudu.\r\n"
       "- Řádek může mít miliony znaků, psaní v něm zůstává plynulé.\r\n"
-      "- Osamělé znaky CR, LF a jiné řídicí znaky jsou vidět jako značky.\r\n"_w);
+      "- Osamělé znaky CR, LF a jiné řídicí znaky jsou vidět jako značky.\r\n"
+      "====================\r\n"
+      "Poznámka této verze:"_w);
 }
 
 }  // namespace pelmar

@@ -12,9 +12,7 @@ void SaveTarget::Prime(const std::string& path) {
     }
   } teller{*this};
   primed = true;
-  enabled = true;
   complete = false;
-  drive = path.substr(0, 3);
   folder = FilePart(path, 1);
   name = FilePart(path, 2);
   extension = FilePart(path, 3);

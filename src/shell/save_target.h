@@ -8,13 +8,11 @@
 namespace pelmar {
 
 struct SaveTarget {
-  std::string drive;      // Drive1: the first three characters of the path
-  std::string folder;     // Dir1
+  std::string folder;     // Drive1 and Dir1
   std::string name;       // Text1, without extension
   std::string extension;  // Text2, without the dot
   std::string label;      // Label1, the whole path
-  bool enabled = false;   // Command1
-  bool complete = false;  // the last priming reached its end; otherwise only drive and folder are of its path
+  bool complete = false;  // the last priming reached its end; otherwise only the folder is of its path
   bool primed = false;    // false: the dialog keeps its own initial fields
 
   // Told after each priming, complete or broken off.

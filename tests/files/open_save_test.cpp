@@ -243,11 +243,14 @@ TEST_F(FilesTest, InsertFromFileReadsOneField) {
   editor.text.SetText("12345");
   editor.text.Select(1, 3);
   platform.files["/in.txt"] = "abc, rest";
-  platform.opens = {"/in.txt", "/none.txt"};
+  platform.files["/empty.txt"] = "";
+  platform.opens = {"/in.txt", "/none.txt", "/empty.txt"};
   editor.commands.Run("mnuzesouboru");
   EXPECT_EQ(Text(), "1abc45");
   EXPECT_EQ(editor.settings.RecentFiles[0], "/in.txt");
   editor.commands.Run("mnuzesouboru");  // a failure is silent
+  editor.text.Select(1, 3);
+  editor.commands.Run("mnuzesouboru");  // no field to read, so the selection isn't lost
   EXPECT_EQ(Text(), "1abc45");
 }
 

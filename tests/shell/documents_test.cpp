@@ -81,7 +81,6 @@ TEST_F(DocumentsTest, OnlyDocumentsWithAPathPrimeTheSaveDialog) {
   documents.SwitchTo(3);
   EXPECT_EQ(documents.Target().name, "kept");
   documents.SwitchTo(1);
-  EXPECT_EQ(documents.Target().drive, "/a/");
   EXPECT_EQ(documents.Target().folder, "/a/");
   EXPECT_EQ(documents.Target().name, "one");
   EXPECT_EQ(documents.Target().extension, "txt");

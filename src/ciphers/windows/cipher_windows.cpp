@@ -13,8 +13,7 @@ namespace {
 
 void RotateSelection(const ProgramParts& parts) {
   if (!parts.editor.text.HasSelection()) return void(parts.platform.Message(MessageType::kOk, "Vyber text!", "Posun"));
-  parts.windows.Unload<Shift>();  // each opening begins anew
-  parts.windows.Get<Shift>().exec();
+  parts.windows.Anew<Shift>().exec();
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// The windows that open and save documents.
+// The windows that pick, open, save and convert files, and the printing of a document.
 #pragma once
 
 namespace pelmar {

@@ -11,9 +11,11 @@ Uloz::Uloz(Documents& documents, Saver& saver, QWidget* parent)
   ui_->setupUi(this);
   LinkFileBrowser(ui_->Drive1, ui_->Dir1, ui_->File1);
   ui_->Text1->setFocus();
+  ui_->Text2->setCompleter(nullptr);  // it would make "html" of a typed "h"
   connect(ui_->Dir1, &FolderList::PathChanged, this, &Uloz::FieldChanged);
   connect(ui_->Text1, &QLineEdit::textChanged, this, &Uloz::FieldChanged);
   connect(ui_->Text2, &QComboBox::currentTextChanged, this, &Uloz::FieldChanged);
+  connect(ui_->Text2, &QComboBox::textActivated, this, &Uloz::FieldChanged);  // the same extension again counts too
   connect(ui_->Command1, &QPushButton::clicked, this, &Uloz::Command1_Click);
   connect(ui_->Command2, &QPushButton::clicked, this, &Uloz::hide);
   documents_.Target().on_primed = [this] { TakeTarget(); };

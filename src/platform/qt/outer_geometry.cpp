@@ -31,8 +31,7 @@ TwipsRect OuterGeometry(const QWidget& window) {
   return {TwipsOf(outer.left()), TwipsOf(outer.top()), TwipsOf(outer.width()), TwipsOf(outer.height())};
 }
 
-void SetOuterLeft(QWidget& window, int twips) { MoveOuter(window, {PixelsOf(twips), Outer(window).top()}); }
-void SetOuterTop(QWidget& window, int twips) { MoveOuter(window, {Outer(window).left(), PixelsOf(twips)}); }
+void SetOuterPosition(QWidget& window, int left, int top) { MoveOuter(window, {PixelsOf(left), PixelsOf(top)}); }
 
 void SetOuterWidth(QWidget& window, int twips) {
   const QMargins frame = Frame(window);
@@ -48,7 +47,7 @@ void SetOuterPlace(QWidget& window, const TwipsRect& place) {
   const TwipsRect now = OuterGeometry(window);
   if (place.width != now.width) SetOuterWidth(window, place.width);
   if (place.height != now.height) SetOuterHeight(window, place.height);
-  if (place.left != now.left || place.top != now.top) MoveOuter(window, {PixelsOf(place.left), PixelsOf(place.top)});
+  if (place.left != now.left || place.top != now.top) SetOuterPosition(window, place.left, place.top);
 }
 
 QSize ScreenTwips(const QWidget& window) {
@@ -57,11 +56,13 @@ QSize ScreenTwips(const QWidget& window) {
 }
 
 void CentreOnScreen(QWidget& window) {
-  const QRect screen = window.screen()->availableGeometry();
   QRect outer(QPoint(), Outer(window).size());
-  outer.moveCenter(screen.center());
-  // A window larger than the screen keeps its title bar on it.
-  MoveOuter(window, {std::max(outer.left(), screen.left()), std::max(outer.top(), screen.top())});
+  outer.moveCenter(window.screen()->geometry().center());
+  // Clear of the desktop's panels; a window larger than what they leave keeps its title bar in sight.
+  const QRect free = window.screen()->availableGeometry();
+  const QPoint last = free.bottomRight() - outer.bottomRight() + outer.topLeft();
+  MoveOuter(window, {std::max(std::min(outer.left(), last.x()), free.left()),
+                     std::max(std::min(outer.top(), last.y()), free.top())});
 }
 
 void SetAlwaysOnTop(QWidget& window, bool on_top) {

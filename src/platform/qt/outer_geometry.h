@@ -11,12 +11,11 @@ class QWidget;
 namespace pelmar {
 
 TwipsRect OuterGeometry(const QWidget& window);
-void SetOuterLeft(QWidget& window, int twips);
-void SetOuterTop(QWidget& window, int twips);
+// Left and top together: set one after the other, the second would undo the first, whose answer is still on its way.
+void SetOuterPosition(QWidget& window, int left, int top);
 void SetOuterWidth(QWidget& window, int twips);
 void SetOuterHeight(QWidget& window, int twips);
-// All four at once; only what differs is touched. Left and top set one after the other would undo each other on a
-// window whose first move is still on its way.
+// All four at once; only what differs is touched.
 void SetOuterPlace(QWidget& window, const TwipsRect& place);
 
 // The whole screen that the window is on.

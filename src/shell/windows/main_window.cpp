@@ -4,6 +4,7 @@
 #include <QMimeData>
 #include <QScreen>
 #include <algorithm>
+#include <chrono>
 
 #include "platform/qt/controls/tab_keys.h"
 #include "platform/qt/convert.h"
@@ -19,6 +20,9 @@ namespace {
 constexpr QSize kSmallest(480, 320);
 // The window of a first start, where nothing is stored yet: room for the whole toolbar.
 constexpr QSize kFirstSize(820, 560);
+// How long a window manager may take to give a restored window its frame.
+constexpr std::chrono::milliseconds kRestoreTime(500);
+constexpr std::chrono::milliseconds kRestorePoll(20);
 
 constexpr std::pair<int, std::string_view> kSizeItems[] = {
     {8, "mnu08"}, {10, "mnu10"}, {12, "mnu12"}, {14, "mnu14"}, {17, "mnu17"}, {24, "mnu24"},
@@ -41,6 +45,8 @@ MainWindow::MainWindow(Editor& editor) : editor_(editor) {
   setProperty(kTagProperty, QLatin1String(kAutosnapTag));
   setAcceptDrops(true);
   setMinimumSize(kSmallest.boundedTo(screen()->size() / 2));
+  restore_timer_.setInterval(kRestorePoll);
+  connect(&restore_timer_, &QTimer::timeout, this, &MainWindow::FitToRestoredFrame);
   MakeControls();
   AddViewCommands();
   FollowDocuments();
@@ -183,8 +189,7 @@ void MainWindow::SetPlace(const TwipsRect& place) {
   if (place.height <= 0) wanted_place_.height = TwipsOf(first.height());
   SetOuterWidth(*this, wanted_place_.width);
   SetOuterHeight(*this, wanted_place_.height);
-  SetOuterLeft(*this, place.left);
-  SetOuterTop(*this, place.top);
+  SetOuterPosition(*this, place.left, place.top);
 }
 
 TwipsRect MainWindow::Place() const {
@@ -204,18 +209,32 @@ int MainWindow::WindowState() const {
 }
 
 void MainWindow::SetNormalState() {
-  if (isMaximized() || isMinimized()) showNormal();
+  if (!isMaximized() && !isMinimized()) return;
+  frame_left_ = windowHandle()->frameMargins();
+  restore_deadline_.setRemainingTime(kRestoreTime);
+  restore_timer_.start();
+  showNormal();
+}
+
+// A window manager may give a maximised window another frame than a normal one, and tells only later. A size that was
+// asked for in between is put right then.
+void MainWindow::FitToRestoredFrame() {
+  const bool changed = windowHandle()->frameMargins() != frame_left_;
+  if (!changed && !restore_deadline_.hasExpired()) return;
+  restore_timer_.stop();
+  if (changed) SetOuterSize(wanted_place_.width, wanted_place_.height);
 }
 
 void MainWindow::SetOuterSize(int width, int height) {
+  wanted_place_.width = width;
+  wanted_place_.height = height;
   SetOuterWidth(*this, width);
   SetOuterHeight(*this, height);
 }
 
 void MainWindow::MoveTo(const TwipsRect& place) {
   SetOuterSize(place.width, place.height);
-  SetOuterLeft(*this, place.left);
-  SetOuterTop(*this, place.top);
+  SetOuterPosition(*this, place.left, place.top);
 }
 
 void MainWindow::SetAlwaysOnTop(bool on_top) { pelmar::SetAlwaysOnTop(*this, on_top); }
@@ -281,7 +300,10 @@ void MainWindow::ShowConfig() {
 }
 
 void MainWindow::ShowMain() {
-  if (isVisible()) return;
+  if (isVisible()) {
+    raise();
+    return activateWindow();
+  }
   if (window_state_ == 1) return showMinimized();
   if (window_state_ == 2) return showMaximized();
   show();

@@ -2,7 +2,10 @@
 // forwards; what happens lies in the editor, the session and the commands.
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QMainWindow>
+#include <QMargins>
+#include <QTimer>
 #include <functional>
 
 #include "platform/qt/controls/text_box.h"
@@ -85,6 +88,7 @@ class MainWindow : public QMainWindow, public MainView {
   void ToggleBar(std::string_view item, QWidget* bar);
   void ToggleAlwaysOnTop();
   void FitToFrame();
+  void FitToRestoredFrame();
   void SetBoxFont(const QFont& font);
   [[nodiscard]] LayoutInput Measures() const;
 
@@ -98,6 +102,10 @@ class MainWindow : public QMainWindow, public MainView {
   StatusStrip* bar_ = nullptr;
   int window_state_ = 0;
   TwipsRect wanted_place_;
+  // From the request to leave a state until the frame of the next one is there.
+  QMargins frame_left_;
+  QDeadlineTimer restore_deadline_;
+  QTimer restore_timer_;
   bool frame_known_ = false;
   bool laying_out_ = false;
   bool main_active_ = false;

@@ -20,9 +20,8 @@ namespace pelmar {
 // By mode, what shows an accessory that runs as the whole program.
 using StandAlones = std::map<StartMode, std::function<void()>>;
 
-// Called before an error ends the program. Each keeps what its window holds and returns a line that tells where
-// (UTF-8),
-// "" where there was nothing to keep.
+// Called before an error ends the program. Each keeps what its window holds and returns a line that tells where, in
+// UTF-8, or "" where there was nothing to keep.
 using Keepers = std::vector<std::function<std::string()>>;
 
 struct ProgramParts {

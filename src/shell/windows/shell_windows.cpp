@@ -39,10 +39,11 @@ void AddShellWindows(const ProgramParts& parts) {
 
   parts.ShowBy<CustomizeToolbar>({"mnucust"});
   parts.ShowBy<Start>({"mnustart"});
-  parts.ShowBy<Hlp>({"mnuhlp", "Help"});
   parts.ShowBy<O>({"mnuabout"});
+  for (const std::string_view name : {"mnuhlp", "Help"})
+    parts.editor.commands.Add(name, [parts] { parts.windows.Anew<Hlp>().Present(); });
   for (const std::string_view name : {"Mnu_Lock", "Lock"})
-    parts.editor.commands.Add(name, [parts] { parts.windows.Get<Pass>().Run(); });
+    parts.editor.commands.Add(name, [parts] { parts.windows.Anew<Pass>().Run(); });
 }
 
 }  // namespace pelmar

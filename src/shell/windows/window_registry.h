@@ -34,6 +34,13 @@ class WindowRegistry {
     return found == entries_.end() ? nullptr : static_cast<Window*>(found->second.window.get());
   }
 
+  // The window at a new opening, for one that doesn't outlast its closing: made anew unless it is on show.
+  template <class Window>
+  Window& Anew() {
+    if (const Window* old = Find<Window>(); old != nullptr && !old->isVisible()) Unload<Window>();
+    return Get<Window>();
+  }
+
   // Every window, each made now where it didn't exist; one that can't be made here is passed over.
   void ForEach(const std::function<void(QWidget&)>& visit) {
     for (auto& [type, entry] : entries_) {

@@ -21,7 +21,7 @@ void AddTextWindows(const ProgramParts& parts) {
   windows.Register<Visual>([parts] {
     return std::make_unique<Visual>(
         parts.main, parts.session, parts.editor.settings,
-        Visual::Doors{ColorPicker(parts.windows), [parts] { parts.windows.Get<Pos>().Present(); }}, &parts.main);
+        Visual::Doors{ColorPicker(parts.windows), [parts] { parts.windows.Anew<Pos>().Present(); }}, &parts.main);
   });
   parts.ShowBy<Hledani>({"mnufind", "Find"});
   parts.ShowBy<Zamena>({"mnuchange"});

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QFile>
 #include <QLabel>
@@ -70,6 +71,8 @@ TEST_F(FileDialogsTest, OpenDialogPreviewsAsksAndOpens) {
   EXPECT_EQ(ViewOf(Find<TextBox>(dialog, "Text2")->Text()), "Není k dispozici"_w);
   Find<FolderList>(dialog, "Dir1")->SetPath(folder.path());
   EXPECT_EQ(Find<FileList>(dialog, "File1")->Path(), folder.path());
+  QTest::keyClick(Find<QComboBox>(dialog, "Text1"), Qt::Key_Down);  // goes on from the mask that shows
+  EXPECT_EQ(Find<FileList>(dialog, "File1")->Pattern(), QStringLiteral("*.html"));
   Find<QComboBox>(dialog, "Text1")->setCurrentText(QStringLiteral("*.txt"));
   EXPECT_EQ(Find<FileList>(dialog, "File1")->model()->rowCount(), 2);  // a mask ignores case
 
@@ -108,6 +111,23 @@ TEST_F(FileDialogsTest, SaveDialogShowsItsTargetAsItIsMade) {
   save->click();
   EXPECT_EQ(platform.files[PathOf("new.x.") + "čtu"], "content");
   EXPECT_FALSE(dialog.isVisible());
+}
+
+TEST_F(FileDialogsTest, ExtensionIsTakenAsItIsTypedOrChosen) {
+  Uloz dialog(editor.documents, editor.saver, nullptr);
+  dialog.Present();
+  auto* extension = Find<QComboBox>(dialog, "Text2");
+  auto* save = Find<QPushButton>(dialog, "Command1");
+  EXPECT_EQ(extension->currentText(), QStringLiteral("html"));
+  QTest::keyClick(extension, Qt::Key_Return);
+  EXPECT_FALSE(save->isEnabled());  // nothing was typed
+  extension->showPopup();
+  QTest::keyClick(extension->view(), Qt::Key_Return);  // "html" again
+  EXPECT_TRUE(save->isEnabled());
+  EXPECT_TRUE(Find<QLabel>(dialog, "Label1")->text().endsWith(QStringLiteral("/Jméno.html")));
+  extension->lineEdit()->selectAll();
+  QTest::keyClicks(extension, QStringLiteral("h"));
+  EXPECT_TRUE(Find<QLabel>(dialog, "Label1")->text().endsWith(QStringLiteral("/Jméno.h")));
 }
 
 TEST_F(FileDialogsTest, SaveDialogHidesAfterARefusalToo) {

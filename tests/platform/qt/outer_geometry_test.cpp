@@ -20,8 +20,7 @@ TEST(OuterGeometry, CountsTheFrameOnceTheWindowIsThere) {
   QWidget window;
   SetOuterWidth(window, 6000);
   SetOuterHeight(window, 4500);
-  SetOuterLeft(window, 1500);
-  SetOuterTop(window, 900);
+  SetOuterPosition(window, 1500, 900);
   EXPECT_EQ(OuterGeometry(window), (TwipsRect{1500, 900, 6000, 4500}));
   EXPECT_EQ(window.size(), QSize(400, 300));
   window.show();
@@ -29,7 +28,7 @@ TEST(OuterGeometry, CountsTheFrameOnceTheWindowIsThere) {
   const QMargins frame = window.windowHandle()->frameMargins();
   SetOuterWidth(window, 6000);
   SetOuterHeight(window, 4500);
-  SetOuterLeft(window, 3000);
+  SetOuterPosition(window, 3000, 900);
   QCoreApplication::processEvents();
   EXPECT_EQ(OuterGeometry(window), (TwipsRect{3000, 900, 6000, 4500}));
   EXPECT_EQ(window.width(), 400 - frame.left() - frame.right());

@@ -14,6 +14,7 @@
 #include "shell/windows/hlp.h"
 #include "shell/windows/o.h"
 #include "shell/windows/pass.h"
+#include "shell/windows/program.h"
 #include "shell/windows/start.h"
 #include "support/scripted_platform.h"
 #include "text/codepage.h"
@@ -145,6 +146,23 @@ TEST(HlpWindow, AMissingFileIsTold) {
   EXPECT_TRUE(platform.calls.back().starts_with("message 0 \"Chyba helpového systému - "));
 }
 
+TEST(HlpWindow, EachOpeningReadsTheFileAnew) {
+  ScriptedPlatform platform;
+  Program program(platform);
+  const auto open = [&]() -> Hlp& {
+    program.Main().findChild<QAction*>(QStringLiteral("mnuhlp"))->trigger();
+    return program.Windows().Get<Hlp>();
+  };
+  platform.answers = {Answer::kOk, Answer::kOk};
+  Find<QPushButton>(open(), "Command1")->click();
+  Find<QPushButton>(open(), "Command1")->click();
+  EXPECT_TRUE(platform.answers.empty());  // told at both
+  platform.files["/install/pelmar.txt"] = "there now";
+  Hlp& help = open();
+  EXPECT_EQ(ViewOf(Find<TextBox>(help, "Text1")->Text()), "there now");
+  EXPECT_EQ(&open(), &help);  // on show it stays as it is
+}
+
 TEST(AboutWindow, PlaysWithTheNameUnderTheMouse) {
   ScriptedPlatform platform;
   SettingsRecord settings;
@@ -152,8 +170,8 @@ TEST(AboutWindow, PlaysWithTheNameUnderTheMouse) {
   O about(settings, platform, nullptr);
   about.Present();
   EXPECT_EQ(Find<QLabel>(about, "Label3")->text(), QStringLiteral("Jan"));
-  EXPECT_NE(ViewOf(Find<TextBox>(about, "Text1")->Text()).find("====================\r\nPoznámka této verze:"_w),
-            std::string_view::npos);
+  EXPECT_TRUE(
+      ViewOf(Find<TextBox>(about, "Text1")->Text()).ends_with("\r\n====================\r\nPoznámka této verze:"_w));
   auto* name = Find<QLabel>(about, "Label2");
   QTest::mouseMove(&about, QPoint(3, 3));
   QTest::mouseMove(&about, QPoint(5, 5));

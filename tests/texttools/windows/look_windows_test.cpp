@@ -66,6 +66,8 @@ TEST(PosWindow, PlacesTheMainWindow) {
   auto* grid = Find<CellGrid>(pos, "Picture1");
   QTest::mouseMove(grid, QPoint(grid->width() - 4, 4));
   EXPECT_EQ(Find<QLabel>(pos, "Label1")->text(), QStringLiteral("Vpravo nahoře"));
+  QTest::mousePress(grid, Qt::LeftButton, {}, QPoint(4, 4));
+  QTest::mouseRelease(grid, Qt::LeftButton, {}, QPoint(-40, 4));  // drawn off the grid
   EXPECT_TRUE(view.calls.empty());
   QTest::mouseClick(grid, Qt::LeftButton, {}, QPoint(4, grid->height() - 4));
   const QSize screen = ScreenTwips(pos);

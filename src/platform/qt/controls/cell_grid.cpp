@@ -46,6 +46,8 @@ void CellGrid::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void CellGrid::mouseReleaseEvent(QMouseEvent* event) {
+  // Drawn off the grid, the button chooses nothing.
+  if (!rect().contains(event->position().toPoint())) return;
   by_keys_ = false;
   const QPoint cell = CellAt(event->position().toPoint());
   Enter(cell.y(), cell.x());
