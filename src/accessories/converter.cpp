@@ -36,7 +36,7 @@ std::string InBase(double value, int base) {
   char digits[16];
   const auto bits = static_cast<std::uint32_t>(static_cast<std::int32_t>(std::nearbyint(value)));
   const char* const end = std::to_chars(std::begin(digits), std::end(digits), bits, base).ptr;
-  return std::string(static_cast<const char*>(digits), end);
+  return {static_cast<const char*>(digits), end};
 }
 
 }  // namespace

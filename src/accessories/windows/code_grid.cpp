@@ -24,8 +24,8 @@ void CodeGrid::PaintCell(QPainter& painter, const QRect& cell, int row, int colu
   if (code == 0) return;  // required: never drawn
   if (!glyphs_) glyphs_ = std::make_unique<GlyphTable>(font());
   const char character = CharOf(code);
-  const QPointF at(cell.left() + (cell.width() - glyphs_->WidthAlone(character)) / 2,
-                   cell.top() + (cell.height() - glyphs_->RowHeight()) / 2);
+  const int above = (cell.height() - glyphs_->RowHeight()) / 2;  // a whole pixel, which keeps the row sharp
+  const QPointF at(cell.left() + (cell.width() - glyphs_->WidthAlone(character)) / 2, cell.top() + above);
   glyphs_->DrawAlone(painter, at, character, palette().color(marked ? QPalette::HighlightedText : QPalette::Text));
 }
 

@@ -20,7 +20,7 @@ namespace {
 template <class Window>
 std::function<DirSetup::Lists()> ListsOf(const ProgramParts& parts) {
   return [parts] {
-    Window& window = parts.windows.Get<Window>();
+    auto& window = parts.windows.Get<Window>();
     return DirSetup::Lists{window.template findChild<DriveList*>(QStringLiteral("Drive1")),
                            window.template findChild<FolderList*>(QStringLiteral("Dir1"))};
   };

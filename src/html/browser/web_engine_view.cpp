@@ -88,7 +88,7 @@ QString WebEngineView::LocationName() const { return page_->title(); }
 
 QUrl WebEngineView::LocationAddress() const { return page_->url(); }
 
-void WebEngineView::ReadText(std::function<void(const QString& text)> then) { page_->toPlainText(std::move(then)); }
+void WebEngineView::ReadText(std::function<void(const QString& text)> then) { page_->toPlainText(then); }
 
 void WebEngineView::ShowMenu(const QPoint& at) {
   auto* menu = new QMenu(view_.get());
