@@ -141,14 +141,7 @@ class NotesTest(unittest.TestCase):
         self.assertEqual(session.wait_exit(), 0)
         self.assertEqual(self.file.read_bytes(), record("first", "second"))
 
-        session.start(PROGRAM, "-NOTE")
-        session.activate(session.wait_window("Záchrana"))
-        session.key("Return")
-        session.wait_no_window("Záchrana")
-        session.close(session.window("Poznámky"))
-        session.activate(session.wait_window("Konec"))
-        session.key("alt+a")
-        self.assertEqual(session.wait_exit(), 0)
+        self.take_back_and_store()
         self.assertEqual(self.file.read_bytes(), record("first", "second and more!"))
         self.assertEqual(list(session.data_folder.glob("notes-rescue*")), [])
 
@@ -173,6 +166,12 @@ class NotesTest(unittest.TestCase):
             first.kill()
             first.wait()
         # The page has changed since: what the first copy held comes to an empty one.
+        self.take_back_and_store()
+        self.assertEqual(self.file.read_bytes(), record("of the second", "of the first"))
+
+    def take_back_and_store(self):
+        """Starts the notes alone, says Yes to what was rescued, and ends them."""
+        session = self.session
         session.start(PROGRAM, "-NOTE")
         session.activate(session.wait_window("Záchrana"))
         session.key("Return")
@@ -181,7 +180,6 @@ class NotesTest(unittest.TestCase):
         session.activate(session.wait_window("Konec"))
         session.key("alt+a")
         self.assertEqual(session.wait_exit(), 0)
-        self.assertEqual(self.file.read_bytes(), record("of the second", "of the first"))
 
     def start_alone_beside(self, other):
         """A second copy; no question may come about what the living first one keeps."""
