@@ -54,7 +54,7 @@ class PackageTest(unittest.TestCase):
         run("lintian", "--allow-root", "--fail-on", "error,warning", *self.packages)
         control = run("dpkg-deb", "-f", next(one for one in self.packages if one.name.startswith("pelmar-vex_")))
         # What the toolkit loads by itself can't be seen in the binary, so it must be named.
-        for package in ("libqt6widgets6", "libqt6svg6", "qt6-translations-l10n"):
+        for package in ("libqt6widgets6", "libqt6printsupport6", "libqt6svg6", "qt6-translations-l10n"):
             self.assertIn(package, re.search("Depends: (.*)", control)[1])
         self.assertIn("pelmar-vex-browser", re.search("Recommends: (.*)", control)[1])
 

@@ -1,5 +1,5 @@
 """A screen and a home of its own for a program under test: an X server on a free display, a window manager, and folders
-that go away afterwards. Nothing of the person's own desktop, settings or message bus is reached from it."""
+that go away afterwards. Nothing of the person's own desktop, settings, message bus or printers is reached from it."""
 
 import os
 import select
@@ -49,7 +49,7 @@ class Screen:
 
     def _environment(self):
         env = {name: value for name, value in os.environ.items() if name not in OUTSIDE}
-        env.update(HOME=str(self.home), LANG=self.language)
+        env.update(HOME=str(self.home), LANG=self.language, CUPS_SERVER=str(self.home / "no-print-server"))
         for name, folder in (("XDG_DATA_HOME", "data"), ("XDG_CONFIG_HOME", "config"), ("XDG_CACHE_HOME", "cache"),
                              ("XDG_STATE_HOME", "state"), ("XDG_RUNTIME_DIR", "runtime"), ("TMPDIR", "tmp")):
             path = self.home / folder

@@ -6,15 +6,13 @@
 #include <QStringList>
 
 #include "html/windows/web_view.h"
+#include "platform/qt/module.h"
 
 namespace pelmar {
 
 class BrowserModule {
  public:
-  // Where the module may lie: beside the program in a build tree, below its prefix where it is installed.
-  static QStringList UsualFolders();
-
-  explicit BrowserModule(QStringList folders = UsualFolders()) : folders_(std::move(folders)) {}
+  explicit BrowserModule(QStringList folders = ModuleFolders()) : folders_(std::move(folders)) {}
 
   // Loads the module where it wasn't yet. Nothing where it isn't installed or doesn't work, as Problem() then tells;
   // the next call tries again.

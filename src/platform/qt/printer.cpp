@@ -2,9 +2,9 @@
 
 #include <QDir>
 #include <QFile>
+#include <QPagedPaintDevice>
 #include <QPainter>
-#include <QPrinter>
-#include <QPrinterInfo>
+#include <QPdfWriter>
 #include <QStandardPaths>
 #include <algorithm>
 #include <cerrno>
@@ -12,28 +12,31 @@
 
 #include "platform/qt/controls/glyph_table.h"
 #include "platform/qt/convert.h"
+#include "platform/qt/module.h"
+#include "platform/qt/system_printer.h"
 
 namespace pelmar {
 namespace {
 
 constexpr qreal kPdfMargin = 15;  // millimetres
 
-QFont FontOn(QPrinter& printer, const PrintFont& font) {
+QFont FontOn(const QPagedPaintDevice& device, const PrintFont& font) {
   QFont result(TextToQString(font.name));
   result.setPointSizeF(font.size);
   result.setBold(font.bold);
   result.setItalic(font.italic);
-  return {result, &printer};
+  return {result, &device};
 }
 
 class QtPaper : public Paper {
  public:
-  QtPaper(QPrinter& printer, QPainter& painter, const QFont& font)
-      : printer_(printer), painter_(painter), glyphs_(font), page_(printer.pageRect(QPrinter::DevicePixel)) {}
+  QtPaper(QPagedPaintDevice& device, QPainter& painter, const QFont& font)
+      : device_(device), painter_(painter), glyphs_(font) {}
 
-  [[nodiscard]] double Width() const override { return page_.width(); }
+  // Without the margins, as the painter counts.
+  [[nodiscard]] double Width() const override { return device_.width(); }
   [[nodiscard]] std::size_t LinesPerPage() const override {
-    return std::max<std::size_t>(1, static_cast<std::size_t>(page_.height() / glyphs_.RowHeight()));
+    return std::max<std::size_t>(1, static_cast<std::size_t>(device_.height() / glyphs_.RowHeight()));
   }
   [[nodiscard]] double EndOf(double x, std::string_view text) const override {
     return ToDots(glyphs_.EndOf(ToUnits(x), text));
@@ -42,24 +45,53 @@ class QtPaper : public Paper {
     const QPointF row(0, static_cast<qreal>(line) * glyphs_.RowHeight());
     glyphs_.Draw(painter_, row, ToUnits(x), text, Qt::black);
   }
-  void NewPage() override { printer_.newPage(); }
+  void NewPage() override { device_.newPage(); }
 
  private:
   static std::int64_t ToUnits(double dots) { return std::llround(dots * kUnitsPerPixel); }
   static double ToDots(std::int64_t units) { return static_cast<double>(units) / kUnitsPerPixel; }
 
-  QPrinter& printer_;
+  QPagedPaintDevice& device_;
   QPainter& painter_;
   GlyphTable glyphs_;
-  QRectF page_;
 };
 
+bool PrintOn(QPagedPaintDevice& device, const PrintFont& font, const std::function<void(Paper&)>& draw) {
+  QPainter painter;
+  if (!painter.begin(&device)) return false;
+  QtPaper paper(device, painter, FontOn(device, font));
+  draw(paper);
+  return painter.end();
+}
+
+// Nothing where the module is missing: then there is no printer.
+SystemPrinter* FindPrinter() {
+  static SystemPrinter* const printer =
+      qobject_cast<SystemPrinter*>(LoadModule(ModuleFolders(), QStringLiteral("pelmar-printer.so")).plugin);
+  return printer;
+}
+
 // A full disk shows only by what is missing.
-bool IsWholePdf(const QString& path) {
+bool IsWholePdf(QFile& file) {
   constexpr qint64 kEnd = 32;
-  QFile file(path);
-  return file.open(QIODevice::ReadOnly) && file.size() > kEnd && file.seek(file.size() - kEnd) &&
-         file.readAll().contains("%%EOF");
+  return file.flush() && file.size() > kEnd && file.seek(file.size() - kEnd) && file.readAll().contains("%%EOF");
+}
+
+PrintOutcome PrintIntoPdf(const PrintFont& font, const QString& name, const std::function<void(Paper&)>& draw) {
+  const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  QDir().mkpath(folder);
+  QFile file(NewPdfPath(folder, name));
+  if (!file.open(QIODevice::ReadWrite | QIODevice::NewOnly)) return {.error = EACCES, .pdf = {}};
+  QPdfWriter writer(&file);
+  writer.setTitle(name);
+  writer.setCreator(QStringLiteral("Pelmar VEX"));
+  writer.setPageSize(QPageSize(QPageSize::A4));
+  writer.setPageMargins(QMarginsF(kPdfMargin, kPdfMargin, kPdfMargin, kPdfMargin), QPageLayout::Millimeter);
+  if (!PrintOn(writer, font, draw) || !IsWholePdf(file)) {
+    file.remove();
+    return {.error = EIO, .pdf = {}};
+  }
+  return {.error = 0, .pdf = Utf8FromQString(file.fileName())};
 }
 
 }  // namespace
@@ -72,29 +104,11 @@ QString NewPdfPath(const QString& folder, const QString& name) {
 }
 
 PrintOutcome PrintOnDefault(const PrintFont& font, const QString& name, const std::function<void(Paper&)>& draw) {
-  const QPrinterInfo standard = QPrinterInfo::defaultPrinter();
-  QPrinter printer(standard, QPrinter::HighResolution);
-  printer.setDocName(name);
-  QString pdf;
-  if (standard.isNull()) {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    if (!QDir().mkpath(folder)) return {.error = EACCES, .pdf = {}};
-    pdf = NewPdfPath(folder, name);
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName(pdf);
-    printer.setPageSize(QPageSize(QPageSize::A4));
-    printer.setPageMargins(QMarginsF(kPdfMargin, kPdfMargin, kPdfMargin, kPdfMargin), QPageLayout::Millimeter);
-  }
-  QPainter painter;
-  if (!painter.begin(&printer)) return {.error = EIO, .pdf = {}};
-  QtPaper paper(printer, painter, FontOn(printer, font));
-  draw(paper);
-  painter.end();
-  if (printer.printerState() == QPrinter::Error || (!pdf.isEmpty() && !IsWholePdf(pdf))) {
-    if (!pdf.isEmpty()) QFile::remove(pdf);
-    return {.error = EIO, .pdf = {}};
-  }
-  return {.error = 0, .pdf = Utf8FromQString(pdf)};
+  SystemPrinter* const printer = FindPrinter();
+  const std::unique_ptr<QPagedPaintDevice> job = printer == nullptr ? nullptr : printer->BeginJob(name);
+  if (job == nullptr) return PrintIntoPdf(font, name, draw);
+  const bool printed = PrintOn(*job, font, draw) && !printer->HasFailed(*job);
+  return {.error = printed ? 0 : EIO, .pdf = {}};
 }
 
 }  // namespace pelmar

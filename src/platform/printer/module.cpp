@@ -1,0 +1,42 @@
+// The plug-in object of the module pelmar-printer.
+#include <QLibrary>
+#include <QObject>
+#include <QPrinter>
+#include <QPrinterInfo>
+
+#include "platform/qt/system_printer.h"
+
+namespace pelmar {
+namespace {
+
+// The print server may refuse a job, which the toolkit doesn't tell: the server's library, loaded by the toolkit where
+// it uses it, remembers the answer to this thread's last request.
+bool ServerHasRefused() {
+  constexpr int kFirstFailure = 0x0100;  // of the Internet Printing Protocol's status codes
+  const auto last_answer = reinterpret_cast<int (*)()>(QLibrary::resolve(QStringLiteral("cups"), 2, "cupsLastError"));
+  return last_answer != nullptr && last_answer() >= kFirstFailure;
+}
+
+}  // namespace
+
+class PrinterPlugin : public QObject, public SystemPrinter {
+  Q_OBJECT
+  Q_PLUGIN_METADATA(IID PELMAR_SYSTEM_PRINTER)
+  Q_INTERFACES(pelmar::SystemPrinter)
+
+ public:
+  std::unique_ptr<QPagedPaintDevice> BeginJob(const QString& name) override {
+    const QPrinterInfo standard = QPrinterInfo::defaultPrinter();
+    if (standard.isNull()) return nullptr;
+    auto job = std::make_unique<QPrinter>(standard, QPrinter::HighResolution);
+    job->setDocName(name);
+    return job;
+  }
+  bool HasFailed(const QPagedPaintDevice& job) override {
+    return static_cast<const QPrinter&>(job).printerState() == QPrinter::Error || ServerHasRefused();
+  }
+};
+
+}  // namespace pelmar
+
+#include "module.moc"
