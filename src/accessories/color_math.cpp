@@ -15,14 +15,7 @@ Channels Each(const Channels& c, Function function) {
 
 int Mean(const Channels& c) { return (c.red + c.green + c.blue) / 3; }
 
-int NumberOf(std::string_view digits) {
-  int number = 0;
-  for (const char ch : digits) {
-    if (ch < '0' || ch > '9') break;
-    number = 10 * number + (ch - '0');
-  }
-  return number;
-}
+int NumberOf(std::string_view text) { return static_cast<int>(LeadingNumber(text)); }
 
 // The channel that is strictly before both others, 0 where none is.
 template <class Before>
@@ -44,11 +37,9 @@ Channels Inverted(const Channels& c) {
 
 Channels ToGrey(const Channels& c) { return {Mean(c), Mean(c), Mean(c)}; }
 
-Channels RandomChannels(const std::function<double()>& draw) {
+Channels RandomChannels(const Draw& draw) {
   Channels c;
-  c.red = static_cast<int>(draw() * 256);
-  c.green = static_cast<int>(draw() * 256);
-  c.blue = static_cast<int>(draw() * 256);
+  for (int* channel : {&c.red, &c.green, &c.blue}) *channel = static_cast<int>(DrawBelow(draw, 256));
   return c;
 }
 

@@ -1,11 +1,11 @@
 // The transformations of the colour dialog and the rows of its history. Channels are 0 to 255.
 #pragma once
 
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
 
+#include "platform/draw.h"
 #include "shell/common.h"
 
 namespace pelmar {
@@ -22,8 +22,8 @@ Color ColorOf(const Channels& channels);
 
 Channels Inverted(const Channels& c);
 Channels ToGrey(const Channels& c);
-// draw() gives r with 0 <= r < 1, once a channel, red first.
-Channels RandomChannels(const std::function<double()>& draw);
+// One draw a channel, red first.
+Channels RandomChannels(const Draw& draw);
 // A tenth less or more; halves go to the even neighbour.
 Channels Darker(const Channels& c);
 Channels Lighter(const Channels& c);

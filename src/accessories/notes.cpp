@@ -5,7 +5,6 @@
 
 #include "shell/common.h"
 #include "shell/record_bytes.h"
-#include "shell/settings_record.h"
 #include "text/codepage.h"
 
 namespace pelmar {

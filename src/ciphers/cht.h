@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "ciphers/draw.h"
+#include "platform/draw.h"
 
 namespace pelmar {
 

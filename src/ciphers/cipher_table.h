@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "ciphers/draw.h"
+#include "platform/draw.h"
 
 namespace pelmar {
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "ciphers/draw.h"
+#include "platform/draw.h"
 
 namespace pelmar {
 

@@ -8,7 +8,7 @@
 #include <string_view>
 
 #include "ciphers/cipher_table.h"
-#include "ciphers/draw.h"
+#include "platform/draw.h"
 
 namespace pelmar {
 

@@ -3,7 +3,10 @@
 #pragma once
 
 #include <cerrno>
+#include <string>
+#include <string_view>
 
+#include "platform/platform.h"
 #include "shell/common.h"
 
 namespace pelmar {
@@ -34,5 +37,8 @@ class OpenNumber {
  private:
   FileNumber& number_;
 };
+
+// Writes a file on the number. Throws RuntimeError where that fails.
+void WriteFileOn(FileNumber& number, Platform& platform, const std::string& path, std::string_view bytes);
 
 }  // namespace pelmar

@@ -4,6 +4,7 @@
 #include <utility>
 
 namespace pelmar {
+
 Opener::Opener(Documents& documents, SettingsRecord& settings, Platform& platform, FileNumber& file_number)
     : documents_(documents), settings_(settings), platform_(platform), file_number_(file_number) {}
 

@@ -8,7 +8,7 @@ Saver::Saver(Documents& documents, Opener& opener, Platform& platform, FileNumbe
 void Saver::SaveToPath(const std::string& path, std::string_view text) {
   if (!MayWrite(path)) return;
   try {
-    Write(path, text);
+    WriteFileOn(file_number_, platform_, path, text);
     documents_.SetCurrentPath(path);
     documents_.Target().Prime(path);
     documents_.ShowPathInTitle();
@@ -23,7 +23,7 @@ void Saver::SaveToPath(const std::string& path, std::string_view text) {
 void Saver::SaveTextCopy(const std::string& path, std::string_view text) {
   if (!MayWrite(path)) return;
   try {
-    Write(path, text);
+    WriteFileOn(file_number_, platform_, path, text);
     opener_.RememberFile(path);
   } catch (const RuntimeError& error) {
     TellError(path, error.Number());
@@ -54,9 +54,8 @@ void Saver::InsertFromFile() {
   const auto path = platform_.OpenDialog(kDocumentFilter, kDocumentFilterIndex);
   if (!path) return;
   try {
-    file_number_.Open();
+    const OpenNumber number(file_number_);
     const FileBytes file = platform_.ReadFile(*path, std::nullopt);
-    file_number_.Close();
     // An empty file has no field to read. required: the command ends in silence
     if (file.error != 0 || file.bytes.empty()) return;
     documents_.Text().ReplaceSelection(FirstField(file.bytes));
@@ -69,13 +68,6 @@ bool Saver::MayWrite(const std::string& path) {
   if (!opener_.FileExists(path)) return true;
   const std::string question = "Opravdu uložit " + path + "?\r\nSoubor již existuje a bude přepsán!";
   return platform_.Message(MessageType::kYesNoWarning, question, "Soubor") == Answer::kYes;
-}
-
-void Saver::Write(const std::string& path, std::string_view text) {
-  file_number_.Open();
-  const int error = platform_.WriteFile(path, text);
-  file_number_.Close();
-  if (error != 0) throw RuntimeError(error, "Soubor " + path + " nelze zapsat");
 }
 
 void Saver::TellError(const std::string& path, int error) {

@@ -34,7 +34,6 @@ class Saver {
 
  private:
   bool MayWrite(const std::string& path);
-  void Write(const std::string& path, std::string_view text);
   void TellError(const std::string& path, int error);
 
   Documents& documents_;

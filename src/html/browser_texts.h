@@ -10,7 +10,7 @@ namespace pelmar {
 // The page that a browser which is the whole program starts with.
 inline constexpr std::string_view kStartingAddress = "https://duckduckgo.com/";
 
-// How far a page is, in percent, "" where there is nothing to load. Up to 15 digits, with the Czech decimal comma.
+// How far a page is, in percent, "" where there is nothing to load.
 std::string ProgressText(std::int64_t progress, std::int64_t maximum);
 
 // The window's title for a page of this name.

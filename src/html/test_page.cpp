@@ -29,13 +29,12 @@ TestPage WriteTestPage(Editor& e, std::string_view extension, PageEnd end) {
   e.platform.ReseedRandom();
   TestPage page;
   int error = EEXIST;
-  e.file_number.Open();
+  const OpenNumber number(e.file_number);
   for (int tries = 0; error == EEXIST && tries < kMostNames; ++tries) {
     page.digits = DrawDigits(e.platform);
     page.path = folder + std::string(kPageName) + page.digits + std::string(extension);
     error = e.platform.WriteNewFile(page.path, text);
   }
-  e.file_number.Close();
   if (error != 0) throw RuntimeError(error, page.path);
   return page;
 }

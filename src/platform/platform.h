@@ -124,7 +124,6 @@ class Platform {
                           FileRewriter& rewriter) = 0;
   // True where both paths lead to the same file.
   virtual bool IsSameFile(const std::string& left, const std::string& right) = 0;
-  virtual bool RemoveFile(const std::string& path) = 0;
 
   // Folders, with a separator at the end.
   virtual std::string InstallFolder() = 0;
@@ -146,9 +145,7 @@ class Platform {
   // 0 <= r < 1, from the ordinary source.
   virtual double Random() = 0;
   virtual void ReseedRandom() = 0;  // from the clock
-  // < 0, 0, > 0 in the order of the Czech language, ignoring case.
-  virtual int CompareText(std::string_view left, std::string_view right) = 0;
-  // The indexes of the texts in that order, rising; equal ones keep theirs.
+  // The indexes of the texts in the order of the Czech language, ignoring case; equal ones keep their order.
   virtual std::vector<std::size_t> SortedOrder(const std::vector<std::string_view>& texts) = 0;
   virtual void SetBusyPointer(bool busy) = 0;
 };

@@ -68,14 +68,13 @@ std::string JoinPath(std::string_view folder, std::string_view name) {
   return path;
 }
 
+std::string HexByte(int value) {
+  constexpr std::string_view kDigits = "0123456789ABCDEF";
+  return {kDigits[static_cast<std::size_t>(value / 16)], kDigits[static_cast<std::size_t>(value % 16)]};
+}
+
 std::string ColorToHex(Color color) {
-  static constexpr std::string_view kDigits = "0123456789ABCDEF";
-  std::string hex = "#";
-  for (const int part : {RedOf(color), GreenOf(color), BlueOf(color)}) {
-    hex += kDigits[static_cast<std::size_t>(part / 16)];
-    hex += kDigits[static_cast<std::size_t>(part % 16)];
-  }
-  return hex;
+  return "#" + HexByte(RedOf(color)) + HexByte(GreenOf(color)) + HexByte(BlueOf(color));
 }
 
 std::string StripDiacritics(std::string_view text) {
@@ -85,7 +84,7 @@ std::string StripDiacritics(std::string_view text) {
   return plain;
 }
 
-std::string RandomCase(std::string_view text, const std::function<double()>& draw) {
+std::string RandomCase(std::string_view text, const Draw& draw) {
   std::string result(text);
   for (char& ch : result) ch = draw() < 0.5 ? ToLower(ch) : ToUpper(ch);
   return result;

@@ -1,13 +1,14 @@
 // Small routines that the whole program shares: path parts, file tests, colours, whole-text rewrites.
-// Positions inside these routines count from 1, as their results are told to users; nothing here holds state but the
-// one file number. Paths are UTF-8, texts Windows-1250.
+// Positions inside these routines count from 1, as their results are told to users. Paths are UTF-8, texts
+// Windows-1250.
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+
+#include "platform/draw.h"
 
 namespace pelmar {
 
@@ -46,14 +47,17 @@ std::string PathToFileUrl(std::string_view path);
 // Folder and name joined by the separator that the folder is written with, none added where it ends in one.
 std::string JoinPath(std::string_view folder, std::string_view name);
 
+// Two upper-case digits of a number from 0 to 255.
+std::string HexByte(int value);
+
 // "#RRGGBB", upper case.
 std::string ColorToHex(Color color);
 
 // Czech letters without their marks; letters of other languages stay.
 std::string StripDiacritics(std::string_view text);
 
-// Each character in upper or lower case as `draw` says; draw() returns r with 0 <= r < 1, once a character.
-std::string RandomCase(std::string_view text, const std::function<double()>& draw);
+// Each character in upper or lower case as `draw` says, one draw each.
+std::string RandomCase(std::string_view text, const Draw& draw);
 
 // Replaces each exact occurrence of `find`, from the left. The search goes on one character behind the start of each
 // replacement. required: the replacement's own later characters are read again, which callers rely on. Throws

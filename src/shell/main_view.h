@@ -60,7 +60,7 @@ class MainView {
   virtual void ShowAccessory(StartMode mode) = 0;
 };
 
-// The sizes that the editor's font can have; any other becomes 8.
+// A size of FontSizeItems; any other becomes 8.
 int EditorFontSize(int size);
 
 }  // namespace pelmar

@@ -217,6 +217,10 @@ constexpr ToolbarButton kToolbarButtons[] = {
     {"Browser", "Interní browser", "browser"},
 };
 
+constexpr FontSizeItem kFontSizeItems[] = {
+    {8, "mnu08"}, {10, "mnu10"}, {12, "mnu12"}, {14, "mnu14"}, {17, "mnu17"}, {24, "mnu24"},
+};
+
 constexpr std::string_view kItemsOfPath[] = {"Mnu_Reload_File", "Mnu_SaveFast"};
 constexpr std::string_view kItemsOfClipboard[] = {"mnuinsert", "mnuadd", "mnuclearclip", "mnunewclip"};
 constexpr std::string_view kItemsOfText[] = {"mnuclean",     "mnusave",   "mnuallselect", "mnuprint",
@@ -230,6 +234,7 @@ constexpr std::string_view kItemsOfSelection[] = {"mnucut",        "mnucopysel",
 
 std::span<const MenuItem> MenuItems() { return kMenuItems; }
 std::span<const ToolbarButton> ToolbarButtons() { return kToolbarButtons; }
+std::span<const FontSizeItem> FontSizeItems() { return kFontSizeItems; }
 std::span<const std::string_view> ItemsOfPath() { return kItemsOfPath; }
 std::span<const std::string_view> ItemsOfClipboard() { return kItemsOfClipboard; }
 std::span<const std::string_view> ItemsOfText() { return kItemsOfText; }

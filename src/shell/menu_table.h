@@ -26,6 +26,13 @@ struct ToolbarButton {
 };
 std::span<const ToolbarButton> ToolbarButtons();
 
+// The sizes that the editor's font can have, in points, by their items.
+struct FontSizeItem {
+  int points;
+  std::string_view item;
+};
+std::span<const FontSizeItem> FontSizeItems();
+
 // What the enabling of menu items depends on.
 struct MenuState {
   bool has_path = false;

@@ -1,9 +1,10 @@
 #include "shell/session.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
+#include "shell/menu_table.h"
+#include "shell/record_bytes.h"
 #include "text/codepage.h"
 
 namespace pelmar {
@@ -17,8 +18,8 @@ constexpr std::int32_t kAutosnapDefault = 240;
 }  // namespace
 
 int EditorFontSize(int size) {
-  static constexpr std::array kSizes = {8, 10, 12, 14, 17, 24};
-  return std::find(kSizes.begin(), kSizes.end(), size) == kSizes.end() ? 8 : size;
+  constexpr int kOther = 8;
+  return std::ranges::count(FontSizeItems(), size, &FontSizeItem::points) == 0 ? kOther : size;
 }
 
 Session::Session(MainView& view, Documents& documents, SettingsRecord& settings, Opener& opener, Platform& platform,
@@ -123,11 +124,7 @@ void Session::StoreSettings(bool with_window_state) {
 }
 
 void Session::Store(std::string_view name, std::string_view bytes) {
-  const std::string path = InstallPath(name);
-  file_number_.Open();
-  const int error = platform_.WriteFile(path, bytes);
-  file_number_.Close();
-  if (error != 0) throw RuntimeError(error, "Soubor " + path + " nelze zapsat");
+  WriteFileOn(file_number_, platform_, InstallPath(name), bytes);
 }
 
 std::string Session::InstallPath(std::string_view name) { return JoinPath(platform_.InstallFolder(), name); }

@@ -101,11 +101,6 @@ void ApplySettingsDefaults(SettingsRecord& record) {
   }
 }
 
-std::string OverOldTail(std::string fresh, std::string_view old) {
-  if (old.size() > fresh.size()) fresh += old.substr(fresh.size());
-  return fresh;
-}
-
 std::string StoredPath(std::string_view path) {
   std::string text = FromUtf8(path);
   const bool lossless = ToUtf8(text) == path;

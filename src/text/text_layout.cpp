@@ -72,8 +72,7 @@ std::size_t TextLayout::WrapAt(std::size_t start, std::size_t end) const {
   std::int64_t x = 0;
   std::size_t at = start;
   for (; at < end; ++at) {
-    const char ch = text[at];
-    const std::int64_t next = ch == '\t' ? NextTab(x) : x + rules_.advances.of[Index(ch)];
+    const std::int64_t next = After(x, text[at]);
     if (next > rules_.width) break;
     x = next;
   }

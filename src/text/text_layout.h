@@ -67,7 +67,7 @@ class TextLayout {
 
   // The distance of a caret stop from the row's beginning. A blank that hangs over the edge has no width.
   [[nodiscard]] std::int64_t XOf(std::size_t row, std::size_t pos) const;
-  // How far the character at `pos` moves on from `x`, counted from the row's beginning.
+  // Where a character ends that begins at `x`, both counted from the row's beginning.
   [[nodiscard]] std::int64_t After(std::int64_t x, char ch) const;
   // The caret stop nearest to `x`, and the character that covers it (the row's end behind the last one).
   [[nodiscard]] std::size_t StopAt(std::size_t row, std::int64_t x) const;

@@ -1,8 +1,10 @@
 #include "texttools/appearance.h"
 
-#include <utility>
+#include <algorithm>
 
 #include "shell/editor.h"
+#include "shell/menu_table.h"
+#include "text/number_text.h"
 
 namespace pelmar {
 namespace {
@@ -12,20 +14,7 @@ constexpr Color kWhite = Rgb(255, 255, 255);
 constexpr Color kDosGrey = Rgb(194, 194, 194);
 constexpr int kDosWidth = 9210;  // twips
 constexpr int kDosHeight = 6675;
-
-constexpr std::pair<std::string_view, int> kSizes[] = {
-    {"mnu08", 8}, {"mnu10", 10}, {"mnu12", 12}, {"mnu14", 14}, {"mnu17", 17}, {"mnu24", 24},
-};
-
-// The leading digits of a text as a number; more than any font's size is as much.
-int LeadingNumber(std::string_view text) {
-  int number = 0;
-  for (const char ch : text) {
-    if (ch < '0' || ch > '9' || number > 9999) break;
-    number = 10 * number + (ch - '0');
-  }
-  return number;
-}
+constexpr double kMostPoints = 9999;  // more than any font has
 
 void ApplyBasicLook(MainView& view, Session& session) {
   view.SetEditorFont(std::string(kSansSerif));
@@ -55,8 +44,8 @@ void ApplyDosLook(MainView& view, Session& session) {
 
 void AddAppearanceCommands(Editor& editor, MainView& view, Session& session) {
   Commands& commands = editor.commands;
-  for (const auto& [name, size] : kSizes)
-    commands.Add(name, [&session, points = size] { session.SetEditorFontSize(points); });
+  for (const FontSizeItem& size : FontSizeItems())
+    commands.Add(size.item, [&session, points = size.points] { session.SetEditorFontSize(points); });
   commands.Add("mnuEditBold", [&view] {
     const bool bold = !view.Look().bold;
     view.SetEditorBold(bold);
@@ -80,7 +69,7 @@ void AddAppearanceCommands(Editor& editor, MainView& view, Session& session) {
 SizeField NormalizeSize(std::string_view typed) {
   if (typed.empty() || typed == "0") typed = "1";
   SizeField field;
-  field.size = LeadingNumber(typed);
+  field.size = static_cast<int>(std::clamp(LeadingNumber(typed), 0.0, kMostPoints));
   field.text = std::to_string(field.size);
   if (field.text == "0") field.text = "1";
   if (field.text.size() >= 3) field.text.resize(2);

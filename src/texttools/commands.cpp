@@ -30,7 +30,7 @@ void AddTransforms(Editor& e) {
   AddTransform(e, "mnuHackyCarky", StripDiacritics);
   AddTransform(e, "mnu_untext", [&e](std::string_view text) {
     e.platform.ReseedRandom();
-    return RandomCase(text, [&e] { return e.platform.Random(); });
+    return RandomCase(text, DrawFrom(e.platform));
   });
 }
 
@@ -73,7 +73,7 @@ void AddLineTools(Editor& e) {
 void AddGenerator(Editor& e, std::string_view name, std::string (*generate)(const Draw&)) {
   e.commands.Add(name, [&e, generate] {
     e.platform.ReseedRandom();
-    InsertAtCaret(e.text, generate([&e] { return e.platform.Random(); }));
+    InsertAtCaret(e.text, generate(DrawFrom(e.platform)));
   });
 }
 
@@ -83,7 +83,7 @@ void AddRandomTexts(Editor& e) {
   AddGenerator(e, "mnunahjmeno", RandomName);
   AddBusy(e, "MnuSelTextDada", [&e] {
     e.platform.ReseedRandom();
-    e.text.ReplaceSelection(ShuffledWords(std::string(e.text.SelText()), [&e] { return e.platform.Random(); }));
+    e.text.ReplaceSelection(ShuffledWords(std::string(e.text.SelText()), DrawFrom(e.platform)));
   });
 }
 

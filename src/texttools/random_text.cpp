@@ -11,7 +11,9 @@ namespace pelmar {
 namespace {
 
 // A whole number from `least` on, `count` of them with equal chance.
-int Pick(const Draw& draw, int count, int least) { return static_cast<int>(draw() * count) + least; }
+int Pick(const Draw& draw, int count, int least) {
+  return static_cast<int>(DrawBelow(draw, static_cast<std::size_t>(count))) + least;
+}
 
 char Letter(const Draw& draw) { return static_cast<char>('a' + Pick(draw, 26, 0)); }
 char Capital(const Draw& draw) { return static_cast<char>('A' + Pick(draw, 26, 0)); }
@@ -112,7 +114,7 @@ std::string ShuffledWords(std::string_view text, const Draw& draw) {
   out.reserve(text.size());
   Remaining remaining(starts.size() - 1);
   for (std::size_t left = starts.size() - 1; left > 0; --left) {
-    const std::size_t word = remaining.Take(static_cast<std::uint32_t>(draw() * static_cast<double>(left)));
+    const std::size_t word = remaining.Take(static_cast<std::uint32_t>(DrawBelow(draw, left)));
     out.append(text, starts[word], starts[word + 1] - starts[word]);
   }
   return out;

@@ -1,14 +1,12 @@
-// Filler text of made-up words, and the shuffling of words. Each function takes its chances from `draw`, which returns
-// r with 0 <= r < 1; the order of the draws is fixed. Texts are Windows-1250.
+// Filler text of made-up words, and the shuffling of words. The order of the draws is fixed. Texts are Windows-1250.
 #pragma once
 
-#include <functional>
 #include <string>
 #include <string_view>
 
-namespace pelmar {
+#include "platform/draw.h"
 
-using Draw = std::function<double()>;
+namespace pelmar {
 
 // A sentence of 10 to 50 letters with its stop and a blank behind it.
 std::string RandomSentence(const Draw& draw);

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "accessories/char_table.h"
-
 namespace pelmar {
 namespace {
 
@@ -107,14 +105,6 @@ TEST(Conversions, RefuseMoreThan32BitsAndChangeNothing) {
   EXPECT_EQ(converter.Label6, "77777777777");
   for (int i = 0; i < 9; ++i) converter.DropLast(&Converter::Label3);
   EXPECT_EQ(converter.Label3, "0");
-}
-
-TEST(CharTable, WritesCodes) {
-  EXPECT_EQ(CodeInHex(0), "00");
-  EXPECT_EQ(CodeInHex(13), "0D");
-  EXPECT_EQ(CodeInHex(16), "10");
-  EXPECT_EQ(CodeInHex(255), "FF");
-  EXPECT_EQ(CharReference(7), "&#7;");
 }
 
 }  // namespace

@@ -138,11 +138,6 @@ PrintOutcome ScriptedPlatform::Print(const PrintFont& font, const std::string& n
   return print_outcome;
 }
 
-bool ScriptedPlatform::RemoveFile(const std::string& path) {
-  calls.push_back("remove " + path);
-  return files.erase(path) != 0;
-}
-
 void ScriptedPlatform::AddToRecentDocuments(const std::string& path) { calls.push_back("recent " + path); }
 
 bool ScriptedPlatform::OpenWithDefaultProgram(const std::string& path) {
@@ -162,14 +157,10 @@ double ScriptedPlatform::Random() {
   return draw;
 }
 
-int ScriptedPlatform::CompareText(std::string_view left, std::string_view right) {
-  return ToUpper(left).compare(ToUpper(right));
-}
-
 std::vector<std::size_t> ScriptedPlatform::SortedOrder(const std::vector<std::string_view>& texts) {
   std::vector<std::size_t> order(texts.size());
   std::iota(order.begin(), order.end(), std::size_t{0});
-  std::ranges::stable_sort(order, [&](std::size_t a, std::size_t b) { return CompareText(texts[a], texts[b]) < 0; });
+  std::ranges::stable_sort(order, {}, [&](std::size_t index) { return ToUpper(texts[index]); });
   return order;
 }
 

@@ -59,7 +59,6 @@ class ScriptedPlatform : public Platform {
   int WriteNewFile(const std::string& path, std::string_view bytes) override;
   int RewriteFile(const std::string& source, const std::string& target, OldTail tail, FileRewriter& rewriter) override;
   bool IsSameFile(const std::string& left, const std::string& right) override { return left == right; }
-  bool RemoveFile(const std::string& path) override;
   std::string InstallFolder() override { return install_folder; }
   std::string ShareFolder() override { return share_folder; }
   std::string TempFolder() override { return temp_folder; }
@@ -72,7 +71,6 @@ class ScriptedPlatform : public Platform {
   double Random() override;
   void ReseedRandom() override { ++reseeds; }
   // By the codes of the upper-case letters: the Czech order is the real platform's affair.
-  int CompareText(std::string_view left, std::string_view right) override;
   std::vector<std::size_t> SortedOrder(const std::vector<std::string_view>& texts) override;
   void SetBusyPointer(bool busy_now) override;
 

@@ -44,7 +44,7 @@ void ColorDialog::ConnectCommands() {
   apply(ui_->Command11, MeanToMiddle);
   connect(ui_->Command5, &QPushButton::clicked, this, [this] {
     platform_.ReseedRandom();
-    Set(RandomChannels([this] { return platform_.Random(); }));
+    Set(RandomChannels(DrawFrom(platform_)));
   });
   OnRowPicked(*ui_->List1, [this](int row) { Set(FromHistoryRow(Utf8FromQString(ui_->List1->item(row)->text()))); });
   connect(ui_->Command1, &QPushButton::clicked, this, &ColorDialog::Command1_Click);

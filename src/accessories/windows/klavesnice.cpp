@@ -11,6 +11,7 @@
 #include "ui_klavesnice.h"
 
 namespace pelmar {
+
 Klavesnice::Klavesnice(TextBuffer& document, QWidget* parent)
     : DialogWindow(parent), document_(document), ui_(std::make_unique<Ui::Klavesnice>()) {
   ui_->setupUi(this);

@@ -2,7 +2,7 @@
 
 #include <QKeyEvent>
 
-#include "accessories/char_table.h"
+#include "html/blocks.h"
 #include "html/insert.h"
 #include "platform/qt/controls/glyph_table.h"
 #include "platform/qt/convert.h"
@@ -76,8 +76,8 @@ void Kod::Command4_Click() {
 
 void Kod::Point(int code) {
   ui_->Label6->setText(QString::number(code));
-  ui_->Label7->setText(Utf8ToQString(CodeInHex(code)));
-  ui_->Label8->setText(Utf8ToQString(CharReference(code)));
+  ui_->Label7->setText(Utf8ToQString(HexByte(code)));
+  ui_->Label8->setText(Utf8ToQString(CharacterReference(code)));
   ui_->Picture2->SetCode(code);
   ui_->Picture1->setAccessibleDescription(Readable(code) + QStringLiteral(", kód ") + QString::number(code));
 }
@@ -85,7 +85,7 @@ void Kod::Point(int code) {
 void Kod::Choose(int code) {
   if (code == 0) return;
   if (ui_->Option1->isChecked()) return InsertAtCaret(document_, std::string(1, CharOf(code)));
-  if (ui_->Option2->isChecked()) return InsertAtCaret(document_, CharReference(code));
+  if (ui_->Option2->isChecked()) return InsertAtCaret(document_, CharacterReference(code));
   InsertInto(*ui_->Text1, Character(code));
 }
 

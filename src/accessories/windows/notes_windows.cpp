@@ -1,10 +1,11 @@
 #include "accessories/windows/notes_windows.h"
 
-#include <QCoreApplication>
+#include <cstdlib>
 
 #include "accessories/windows/analytic.h"
 #include "accessories/windows/poznamka.h"
 #include "files/checkpoints.h"
+#include "platform/qt/application.h"
 #include "shell/windows/program_parts.h"
 
 namespace pelmar {
@@ -13,7 +14,7 @@ namespace {
 std::unique_ptr<Poznamka> MakeNotes(const ProgramParts& parts) {
   const StartMode mode = parts.session.Mode();
   const auto end = [parts, mode] {
-    if (mode == StartMode::kNotes) return QCoreApplication::exit(0);
+    if (mode == StartMode::kNotes) return EndProgram(EXIT_SUCCESS);
     parts.windows.Unload<Poznamka>();
   };
   return std::make_unique<Poznamka>(Poznamka::Surroundings{parts.platform, parts.editor.file_number,

@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <cstdlib>
 
 #include "accessories/windows/kalkul.h"
 #include "accessories/windows/klavesnice.h"
@@ -9,6 +10,7 @@
 #include "accessories/windows/morse.h"
 #include "accessories/windows/prev.h"
 #include "html/insert.h"
+#include "platform/qt/application.h"
 #include "platform/qt/svg_icon.h"
 #include "shell/windows/program_parts.h"
 
@@ -38,7 +40,7 @@ std::unique_ptr<Kalkul> MakeKalkul(const ProgramParts& parts) {
     if (Prev* converter = windows.Find<Prev>()) converter->hide();
   };
   Kalkul::Doors doors{hand_over, [&windows] { windows.Get<Prev>().Present(); }, hide_converter,
-                      [&windows] { windows.Unload<Kalkul>(); }, [] { QCoreApplication::exit(0); }};
+                      [&windows] { windows.Unload<Kalkul>(); }, [] { EndProgram(EXIT_SUCCESS); }};
   return std::make_unique<Kalkul>(parts.platform, alone, std::move(doors), alone ? nullptr : &parts.main);
 }
 

@@ -112,7 +112,7 @@ void RND_Sifra::ShowLetters() { ShowOnly(*ui_->List2, LetterRows(table_)); }
 
 bool RND_Sifra::ShowCoefficients(CountedDigits counted) {
   const auto text = CoefficientsText(table_, counted);
-  ui_->Label6->setText(text ? Utf8ToQString(*text) : tr("Koeficienty nelze spočítat (dělení nulou)"));
+  ui_->Label6->setText(text ? Utf8ToQString(*text) : QStringLiteral("Koeficienty nelze spočítat (dělení nulou)"));
   return text.has_value();
 }
 

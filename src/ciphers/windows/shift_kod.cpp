@@ -1,8 +1,8 @@
 #include "ciphers/windows/shift_kod.h"
 
-#include "ciphers/draw.h"
 #include "ciphers/shift.h"
 #include "html/insert.h"
+#include "platform/draw.h"
 #include "platform/qt/convert.h"
 #include "ui_shift_kod.h"
 

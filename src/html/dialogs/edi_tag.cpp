@@ -1,5 +1,7 @@
 #include "html/dialogs/edi_tag.h"
 
+#include <QComboBox>
+
 #include "html/insert.h"
 #include "html/tag_editor.h"
 #include "platform/qt/convert.h"

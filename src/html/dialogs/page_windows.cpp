@@ -10,7 +10,6 @@
 #include "shell/windows/program_parts.h"
 
 namespace pelmar {
-
 namespace {
 
 void AddTables(const ProgramParts& parts) {

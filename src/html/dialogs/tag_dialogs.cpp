@@ -1,5 +1,7 @@
 #include "html/dialogs/tag_dialogs.h"
 
+#include <QComboBox>
+
 #include "html/tag_editor.h"
 #include "platform/qt/convert.h"
 #include "ui_attr.h"

@@ -10,12 +10,12 @@ namespace {
 std::string Cell(std::string_view name, std::string_view caption) {
   const std::string n(name);
   return Lines({
-      "     <TD>",
-      "      <A HREF=\"" + n + ".html\" TARGET=\"hlavni\" onmouseover=\"rim('" + n + "')\" onmouseout=\"rimm('" + n +
-          "')\"><IMG",
-      "       NAME=\"" + n + "\" SRC=\"obrazky/" + n + ".gif\" ALT=\"" + std::string(caption) +
-          "\" WIDTH=\"120\" HEIGHT=\"48\" BORDER=\"0\"></A>",
-      "     </TD>",
+      R"(     <TD>)",
+      R"(      <A HREF=")" + n + R"(.html" TARGET="hlavni" onmouseover="rim(')" + n + R"x(')" onmouseout="rimm(')x" +
+          n + R"x(')"><IMG)x",
+      R"(       NAME=")" + n + R"(" SRC="obrazky/)" + n + R"(.gif" ALT=")" + std::string(caption) +
+          R"(" WIDTH="120" HEIGHT="48" BORDER="0"></A>)",
+      R"(     </TD>)",
   });
 }
 

@@ -1,26 +1,21 @@
 #include "html/windows/browser_windows.h"
 
-#include <QCoreApplication>
+#include <cstdlib>
 #include <memory>
 
 #include "html/test_page.h"
 #include "html/windows/browser_module.h"
 #include "html/windows/frm_browser.h"
+#include "platform/qt/application.h"
 #include "platform/qt/convert.h"
 #include "shell/windows/program_parts.h"
 
 namespace pelmar {
 namespace {
 
-void End(int status) {
-  // A loop that hasn't begun yet must not miss it.
-  QMetaObject::invokeMethod(
-      qApp, [status] { QCoreApplication::exit(status); }, Qt::QueuedConnection);
-}
-
 // The browser's window; nothing where its module is missing, which the person has been told then.
 FrmBrowser* Browser(const ProgramParts& parts, BrowserModule& module) {
-  if (FrmBrowser* browser = parts.windows.Find<FrmBrowser>()) return browser;
+  if (auto* browser = parts.windows.Find<FrmBrowser>()) return browser;
   // The engine's start takes about a second.
   parts.platform.SetBusyPointer(true);
   FrmBrowser* browser = module.Maker() == nullptr ? nullptr : &parts.windows.Get<FrmBrowser>();
@@ -44,7 +39,7 @@ void AddBrowserWindows(const ProgramParts& parts) {
     if (module->Maker() == nullptr) return nullptr;
     const bool alone = parts.session.Mode() == StartMode::kBrowser;
     return std::make_unique<FrmBrowser>(*module->Maker(), parts.platform,
-                                        alone ? [] { End(EXIT_SUCCESS); } : std::function<void()>());
+                                        alone ? [] { EndProgram(EXIT_SUCCESS); } : std::function<void()>());
   });
   parts.show_in_browser = [parts, module](const std::string& path) {
     if (path.empty()) return;
@@ -52,7 +47,7 @@ void AddBrowserWindows(const ProgramParts& parts) {
   };
   parts.stand_alones[StartMode::kBrowser] = [parts, module] {
     FrmBrowser* browser = Browser(parts, *module);
-    if (browser == nullptr) return End(EXIT_FAILURE);
+    if (browser == nullptr) return EndProgram(EXIT_FAILURE);
     browser->ShowAlone();
   };
   AddShowCommand(parts, "Mnu_Internal_Browser", PageEnd::kLineBreak);

@@ -12,4 +12,9 @@ bool Application::notify(QObject* receiver, QEvent* event) {
   }
 }
 
+void EndProgram(int status) {
+  QMetaObject::invokeMethod(
+      qApp, [status] { QCoreApplication::exit(status); }, Qt::QueuedConnection);
+}
+
 }  // namespace pelmar

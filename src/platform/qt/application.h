@@ -18,4 +18,7 @@ class Application : public QApplication {
   std::function<void(const RuntimeError&)> on_runtime_error;
 };
 
+// Ends the program with this status when the event at hand is over, also where its loop hasn't begun yet.
+void EndProgram(int status);
+
 }  // namespace pelmar

@@ -1,7 +1,5 @@
 #include "platform/qt/qt_platform.h"
 
-#include <unistd.h>
-
 #include <QApplication>
 #include <QDateTime>
 #include <QDesktopServices>
@@ -86,8 +84,6 @@ int QtPlatform::RewriteFile(const std::string& source, const std::string& target
 
 bool QtPlatform::IsSameFile(const std::string& left, const std::string& right) { return LeadToSameFile(left, right); }
 
-bool QtPlatform::RemoveFile(const std::string& path) { return unlink(path.c_str()) == 0; }
-
 // Beside the program in a build tree, in the share folder of its prefix where it is installed.
 std::string QtPlatform::ShareFolder() {
   const QString installed = QCoreApplication::applicationDirPath() + QStringLiteral("/../share/pelmar-vex/");
@@ -141,10 +137,6 @@ void QtPlatform::ReseedRandom() {
   const auto ticks = static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count());
   std::seed_seq seed{static_cast<std::uint32_t>(ticks), static_cast<std::uint32_t>(ticks >> 32)};
   random_.seed(seed);
-}
-
-int QtPlatform::CompareText(std::string_view left, std::string_view right) {
-  return collator_.compare(TextToQString(left), TextToQString(right));
 }
 
 // A key for each text, made once, costs far less than a comparison for each pair.

@@ -38,7 +38,6 @@ class QtPlatform : public Platform {
   int WriteNewFile(const std::string& path, std::string_view bytes) override;
   int RewriteFile(const std::string& source, const std::string& target, OldTail tail, FileRewriter& rewriter) override;
   bool IsSameFile(const std::string& left, const std::string& right) override;
-  bool RemoveFile(const std::string& path) override;
 
   std::string InstallFolder() override;
   std::string TempFolder() override;
@@ -54,7 +53,6 @@ class QtPlatform : public Platform {
   KeyStates Keys() override;
   double Random() override;
   void ReseedRandom() override;
-  int CompareText(std::string_view left, std::string_view right) override;
   std::vector<std::size_t> SortedOrder(const std::vector<std::string_view>& texts) override;
   void SetBusyPointer(bool busy) override;
 

@@ -24,10 +24,6 @@ constexpr QSize kFirstSize(820, 560);
 constexpr std::chrono::milliseconds kRestoreTime(500);
 constexpr std::chrono::milliseconds kRestorePoll(20);
 
-constexpr std::pair<int, std::string_view> kSizeItems[] = {
-    {8, "mnu08"}, {10, "mnu10"}, {12, "mnu12"}, {14, "mnu14"}, {17, "mnu17"}, {24, "mnu24"},
-};
-
 // Left, right, centre.
 constexpr Qt::Alignment kAlignments[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
 
@@ -258,7 +254,7 @@ void MainWindow::SetEditorFontSize(int size) {
   QFont font = text_->font();
   font.setPointSize(size);
   SetBoxFont(font);
-  for (const auto& [points, item] : kSizeItems) menus_->Action(item)->setChecked(points == size);
+  for (const auto& [points, item] : FontSizeItems()) menus_->Action(item)->setChecked(points == size);
 }
 
 void MainWindow::SetEditorBold(bool bold) {

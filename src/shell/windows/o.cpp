@@ -29,7 +29,7 @@ void O::showEvent(QShowEvent* event) {
 
 void O::mouseMoveEvent(QMouseEvent* event) {
   platform_.ReseedRandom();
-  ui_->Label2->setText(TextToQString(RandomCase(kName, [this] { return platform_.Random(); })));
+  ui_->Label2->setText(TextToQString(RandomCase(kName, DrawFrom(platform_))));
   DialogWindow::mouseMoveEvent(event);
 }
 

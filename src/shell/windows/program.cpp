@@ -1,7 +1,7 @@
 #include "shell/windows/program.h"
 
-#include <QCoreApplication>
 #include <QFileInfo>
+#include <cstdlib>
 
 #include "accessories/windows/accessory_windows.h"
 #include "ciphers/windows/cipher_windows.h"
@@ -10,6 +10,7 @@
 #include "html/dialogs/page_windows.h"
 #include "html/dialogs/tag_windows.h"
 #include "html/windows/browser_windows.h"
+#include "platform/qt/application.h"
 #include "platform/qt/convert.h"
 #include "shell/windows/config.h"
 #include "shell/windows/shell_windows.h"
@@ -54,8 +55,7 @@ void Program::AddWindows() {
 void Program::ShowAccessory(StartMode mode) {
   if (const auto found = stand_alones_.find(mode); found != stand_alones_.end()) return found->second();
   platform_.Message(MessageType::kOk, "Tato část programu není nainstalována.", "Pelmar VEX");
-  QMetaObject::invokeMethod(
-      qApp, [] { QCoreApplication::exit(EXIT_FAILURE); }, Qt::QueuedConnection);
+  EndProgram(EXIT_FAILURE);
 }
 
 void Program::Run(const std::string& tail) {
@@ -69,7 +69,7 @@ void Program::Run(const std::string& tail) {
 bool Program::MayClose() {
   if (!session_.Close()) return false;
   rescue_.End();
-  QCoreApplication::exit(0);
+  EndProgram(EXIT_SUCCESS);
   return true;
 }
 

@@ -17,15 +17,17 @@
 namespace pelmar {
 namespace {
 
-TEST(CompareText, FollowsTheCzechAlphabet) {
+TEST(SortedOrder, FollowsTheCzechAlphabet) {
   QtPlatform platform;
-  const std::string_view ordered[] = {"",        "1",       "auto"_w, "cesta"_w, "Čáp"_w, "had"_w, "chata"_w,
-                                      "Chyba"_w, "ikona"_w, "řeka"_w, "sad"_w,   "šad"_w, "zub"_w, "Žába"_w};
-  for (std::size_t i = 0; i + 1 < std::size(ordered); ++i) {
-    EXPECT_LT(platform.CompareText(ordered[i], ordered[i + 1]), 0) << ordered[i + 1];
-    EXPECT_GT(platform.CompareText(ordered[i + 1], ordered[i]), 0) << ordered[i + 1];
+  const std::vector<std::string_view> ordered = {"",        "1",       "auto"_w, "cesta"_w, "Čáp"_w, "had"_w, "chata"_w,
+                                                 "Chyba"_w, "ikona"_w, "řeka"_w, "sad"_w,   "šad"_w, "zub"_w, "Žába"_w};
+  for (std::size_t i = 0; i + 1 < ordered.size(); ++i) {
+    EXPECT_EQ(platform.SortedOrder({ordered[i], ordered[i + 1]}), (std::vector<std::size_t>{0, 1})) << ordered[i + 1];
+    EXPECT_EQ(platform.SortedOrder({ordered[i + 1], ordered[i]}), (std::vector<std::size_t>{1, 0})) << ordered[i + 1];
   }
-  EXPECT_EQ(platform.CompareText("ŽLUŤOUČKÝ"_w, "žluťoučký"_w), 0);
+  // Equal but for the case: they keep their order.
+  EXPECT_EQ(platform.SortedOrder({"ŽLUŤOUČKÝ"_w, "žluťoučký"_w}), (std::vector<std::size_t>{0, 1}));
+  EXPECT_EQ(platform.SortedOrder({"žluťoučký"_w, "ŽLUŤOUČKÝ"_w}), (std::vector<std::size_t>{0, 1}));
 }
 
 TEST(BusyPointer, NestsAndIsLiftedWhileABoxShows) {

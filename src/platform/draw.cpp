@@ -1,0 +1,11 @@
+#include "platform/draw.h"
+
+#include "platform/platform.h"
+
+namespace pelmar {
+
+Draw DrawFrom(Platform& platform) {
+  return [&platform] { return platform.Random(); };
+}
+
+}  // namespace pelmar
