@@ -24,7 +24,8 @@ for fuzzer in build/fuzz/fuzz/*_fuzzer; do
   fi
 done
 
-changed=$(git log --since='24 hours ago' --name-only --pretty=format: -- 'src/*.cpp' 2>/dev/null | sort -u |
+# The latest first, so that a day of many changes leaves out those that were looked at before.
+changed=$(git log --since='24 hours ago' --name-only --pretty=format: -- 'src/*.cpp' 2>/dev/null | awk '!seen[$0]++' |
   while read -r file; do [ -n "$file" ] && [ -f "$file" ] && echo "$file"; done | head -n $most_tidied)
 if [ -n "$changed" ]; then
   tell "clang-tidy over $(echo "$changed" | wc -l) changed files"
