@@ -71,6 +71,7 @@ class Remaining {
     }
     --counts_[node];
     const std::size_t place = PlaceOfBit(bits_[node - words_], k);
+    // NOLINTNEXTLINE(clang-analyzer-core.UndefinedBinaryOperatorResult): the word has more than k bits
     bits_[node - words_] &= ~(std::uint64_t{1} << place);
     return (node - words_) * 64 + place;
   }

@@ -91,7 +91,8 @@ int FollowLinks(std::string& path) {
     const ssize_t length = readlink(path.c_str(), target.data(), target.size());
     if (length < 0) return errno == EINVAL || errno == ENOENT ? 0 : errno;
     target.resize(static_cast<std::size_t>(length));
-    path = target.starts_with('/') ? target : path.substr(0, path.rfind('/') + 1) + target;
+    path.resize(target.starts_with('/') ? 0 : path.rfind('/') + 1);
+    path += target;
   }
   return ELOOP;
 }
@@ -188,7 +189,7 @@ int FindTarget(const std::string& path, Target& target) {
   return faccessat(AT_FDCWD, target.path.c_str(), W_OK, AT_EACCESS) == 0 ? 0 : errno;
 }
 
-constexpr std::size_t kPiece = 256 * 1024;  // stays in the processor's cache on its way through
+constexpr std::size_t kPiece = std::size_t{256} << 10;  // stays in the processor's cache on its way through
 
 // Hands each piece of a file, from where it stands to its end, to `take`, which returns 0 or an errno.
 int ForEachPiece(int file, const std::function<int(std::string_view)>& take) {

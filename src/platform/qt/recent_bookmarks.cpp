@@ -22,8 +22,8 @@ enum class Place { kOther, kRoot, kEntry, kInfo, kMetadata, kApplications };
 // their prefixes; our own elements bring their declarations along, so that they hold under any prefixes of the file.
 class BookmarkCopier {
  public:
-  BookmarkCopier(const QByteArray& xbel, const QString& path, QString mime, const QDateTime& now)
-      : reader_(xbel), writer_(&result_), path_(path), mime_(std::move(mime)) {
+  BookmarkCopier(const QByteArray& xbel, QString path, QString mime, const QDateTime& now)
+      : reader_(xbel), writer_(&result_), path_(std::move(path)), mime_(std::move(mime)) {
     time_ = now.toUTC().toString(Qt::ISODate);
   }
 

@@ -44,7 +44,7 @@ class SvgIconEngine final : public QIconEngine {
   explicit SvgIconEngine(QString path) : path_(std::move(path)) {}
 
   QString key() const override { return QStringLiteral("pelmar-svg"); }
-  QString iconName() override { return QString(); }
+  QString iconName() override { return {}; }
   QIconEngine* clone() const override { return new SvgIconEngine(*this); }
   bool isNull() override { return path_.isEmpty(); }
 

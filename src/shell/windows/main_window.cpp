@@ -1,8 +1,10 @@
 #include "shell/windows/main_window.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QMimeData>
 #include <QScreen>
+#include <QWindow>
 #include <algorithm>
 #include <chrono>
 
@@ -338,6 +340,11 @@ void MainWindow::dropEvent(QDropEvent* event) {
 
 void MainWindow::OpenDropped(const std::string& path) {
   activateWindow();
+  // To open one leaves every later file operation failing, which a slip of the mouse must not bring about.
+  if (!HasExtension(path)) {
+    editor_.platform.Message(MessageType::kOk, "Soubor " + path + " nemá příponu, nelze ho otevřít.", "Soubor");
+    return;
+  }
   if (editor_.platform.Message(MessageType::kYesNoWarning, "Opravdu otevřít soubor ?", "Soubor") == Answer::kYes)
     editor_.opener.OpenPath(path);
 }

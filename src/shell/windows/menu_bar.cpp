@@ -3,6 +3,7 @@
 #include <QMenu>
 
 #include "platform/qt/convert.h"
+#include "text/codepage.h"
 
 namespace pelmar {
 namespace {
@@ -12,7 +13,7 @@ QKeyCombination KeysOf(std::string_view shortcut) {
   constexpr std::string_view kControl = "Ctrl+";
   const bool control = shortcut.starts_with(kControl);
   if (control) shortcut.remove_prefix(kControl.size());
-  int key = shortcut.front();
+  int key = CodeOf(shortcut.front());
   if (shortcut.size() > 1) {
     int number = 0;
     for (const char digit : shortcut.substr(1)) number = 10 * number + digit - '0';

@@ -1,6 +1,7 @@
 #include "shell/windows/other_windows.h"
 
 #include <QAccessible>
+#include <QAccessibleObject>
 #include <QApplication>
 #include <QEvent>
 #include <algorithm>

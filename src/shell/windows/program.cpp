@@ -32,10 +32,10 @@ Program::Program(Platform& platform)
   main_.show_config = [this] { windows_.Get<Config>().Run(); };
   main_.show_accessory = [this](StartMode mode) { ShowAccessory(mode); };
   main_.show_start = [this] { windows_.Get<Start>().Present(); };
-  editor_.text.OnChange([this](const TextChange&) { rescue_.Touch(); });
+  editor_.text.OnChange([this](const TextChange&) { TouchRescue(); });
   editor_.documents.on_title = [this, show = editor_.documents.on_title] {
     show();
-    rescue_.Touch();
+    TouchRescue();
   };
 }
 
@@ -52,7 +52,13 @@ void Program::AddWindows() {
   AddBrowserWindows(parts);
 }
 
+// An accessory that is the whole program has no document to keep, whatever its buttons put into the hidden one.
+void Program::TouchRescue() {
+  if (session_.Mode() == StartMode::kEditor) rescue_.Touch();
+}
+
 void Program::ShowAccessory(StartMode mode) {
+  rescue_.End();
   if (const auto found = stand_alones_.find(mode); found != stand_alones_.end()) return found->second();
   platform_.Message(MessageType::kOk, "Tato část programu není nainstalována.", "Pelmar VEX");
   EndProgram(EXIT_FAILURE);

@@ -33,6 +33,7 @@ class Program {
  private:
   void AddWindows();
   void ShowAccessory(StartMode mode);
+  void TouchRescue();
   bool MayClose();
 
   Platform& platform_;

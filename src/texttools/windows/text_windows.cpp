@@ -25,16 +25,16 @@ void AddTextWindows(const ProgramParts& parts) {
   });
   parts.ShowBy<Hledani>({"mnufind", "Find"});
   parts.ShowBy<Zamena>({"mnuchange"});
-  parts.ShowBy<Vyber>({"mnupresnvyb"});
-  parts.ShowBy<Visual>({"mnumore"});
+  parts.editor.commands.Add("mnupresnvyb", [&windows] { windows.Anew<Vyber>().Present(); });
+  parts.editor.commands.Add("mnumore", [&windows] { windows.Anew<Visual>().Present(); });
 
   parts.editor.commands.Add("mnu_format", [parts, &text] { Formatuj(text, parts.platform, &parts.main).exec(); });
   AddAppearanceCommands(parts.editor, parts.main, parts.session);
   parts.main.on_line_counting = [&windows] {
-    if (Visual* visual = windows.Find<Visual>()) visual->FollowLineCounting();
+    if (auto* visual = windows.Find<Visual>()) visual->FollowLineCounting();
   };
   parts.session.on_font_size = [&windows] {
-    if (Visual* visual = windows.Find<Visual>()) visual->FollowFontSize();
+    if (auto* visual = windows.Find<Visual>()) visual->FollowFontSize();
   };
 }
 

@@ -34,6 +34,7 @@ TEST(MorseWindow, CollectsSigns) {
   ScriptedPlatform platform;
   Morse morse(platform, nullptr);
   morse.Present();
+  EXPECT_EQ(morse.property("Tag").toString(), QStringLiteral("_AUTOSNAP"));
   auto* box = Find<TextBox>(morse, "Text1");
   const auto pick = [&morse](const char* item) { Find<QAction>(morse, item)->trigger(); };
   for (const char* item : {"mnuCH", "mnu0", "mnumorcz7", "mnumoapo", "mnurorumím"}) pick(item);

@@ -146,6 +146,8 @@ TEST_F(MainWindowTest, TogglesHideAndShowTheBars) {
   EXPECT_EQ(window.Text().y(), 0);
   EXPECT_GT(window.Text().height(), with_bars);
   EXPECT_EQ(window.Text().width(), with_tabs + 24);
+  QTest::keyClick(&window.Text(), Qt::Key_Tab, Qt::ControlModifier);
+  EXPECT_EQ(editor.documents.SelectedTab(), 1);  // with the strip the switching is gone
   for (const char* item : {"MnuTS", "MnuSBS", "mnuFTS"}) Find<QAction>(item)->trigger();
   EXPECT_EQ(window.Text().height(), with_bars);
 }
@@ -196,20 +198,28 @@ TEST_F(MainWindowTest, LookComesBackAsItWasSet) {
 
 TEST_F(MainWindowTest, ADroppedFileIsOpenedAfterAQuestion) {
   platform.files["/a/b.txt"] = "dropped";
-  QMimeData mime;
-  mime.setUrls({QUrl(QStringLiteral("http://x.cz/")), QUrl::fromLocalFile(QStringLiteral("/a/b.txt"))});
-  for (const Answer answer : {Answer::kNo, Answer::kYes}) {
+  platform.files["/a/Makefile"] = "all:";
+  const auto drop = [this](const QList<QUrl>& urls, Answer answer) {
     platform.answers = {answer};
+    QMimeData mime;
+    mime.setUrls(urls);
     QDragEnterEvent enter(QPoint(50, 50), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&window, &enter);
     EXPECT_TRUE(enter.isAccepted());
-    QDropEvent drop(QPointF(50, 50), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&window, &drop);
+    QDropEvent dropped(QPointF(50, 50), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&window, &dropped);
     EXPECT_EQ(platform.answers.size(), 1u);  // not while the other program waits for the drop
     QApplication::processEvents();
     EXPECT_TRUE(platform.answers.empty());
-    EXPECT_EQ(editor.text.Text(), answer == Answer::kYes ? "dropped" : "");
-  }
+  };
+  const QList<QUrl> page{QUrl(QStringLiteral("http://x.cz/")), QUrl::fromLocalFile(QStringLiteral("/a/b.txt"))};
+  drop(page, Answer::kNo);
+  EXPECT_EQ(editor.text.Text(), "");
+  drop(page, Answer::kYes);
+  EXPECT_EQ(editor.text.Text(), "dropped");
+  drop({QUrl::fromLocalFile(QStringLiteral("/a/Makefile"))}, Answer::kOk);  // a name that can't be opened
+  EXPECT_EQ(editor.text.Text(), "dropped");
+  EXPECT_FALSE(editor.file_number.IsOpen());
 }
 
 TEST_F(MainWindowTest, AHiddenTextCantBeReadAnywhere) {

@@ -4,10 +4,13 @@
 
 #include <QDir>
 #include <QElapsedTimer>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "accessories/windows/prev.h"
 #include "platform/qt/convert.h"
+#include "shell/windows/program.h"
 #include "support/scripted_platform.h"
 
 namespace pelmar {
@@ -52,6 +55,19 @@ TEST_F(RescueKeeperTest, AReadOnlyInstallFolderFallsBackToAReadableFile) {
   const std::string path = keeper.KeepNow();
   EXPECT_TRUE(path.starts_with("/tmp/pelmar-rescue-"));
   EXPECT_EQ(platform.files[path], "Soubor:\r\ntyped\r\n\r\n");
+}
+
+// The numeral goes into the editor's hidden document, which nobody would miss and no later start has to offer.
+TEST_F(RescueKeeperTest, AnAccessoryAloneKeepsNoDocument) {
+  SettingsRecord settings;
+  settings.UserName = settings.UserEmail = "jan";
+  platform.files[platform.install_folder + "pelmar.ini"] = SettingsBytes(settings);
+  Program program(platform);
+  program.Run("-CALC");
+  program.Windows().Get<Prev>().findChild<QPushButton*>(QStringLiteral("Command38"))->click();
+  program.Windows().Get<Prev>().findChild<QPushButton*>(QStringLiteral("Command46"))->click();
+  QTest::qWait(1200);
+  EXPECT_TRUE(Rescues().empty());
 }
 
 // Leaves a rescue file behind as a copy that died would: with its lock free.

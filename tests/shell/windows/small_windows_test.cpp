@@ -163,6 +163,27 @@ TEST(HlpWindow, EachOpeningReadsTheFileAnew) {
   EXPECT_EQ(&open(), &help);  // on show it stays as it is
 }
 
+TEST(Program, WindowsThatBeginAnewStandAtTheCentreAgain) {
+  ScriptedPlatform platform;
+  Program program(platform);
+  const auto open = [&](const char* item, const char* name) {
+    program.Main().findChild<QAction*>(QString::fromLatin1(item))->trigger();
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    QWidget* window = *std::ranges::find_if(windows, &QWidget::isVisible);
+    EXPECT_EQ(window->objectName(), QString::fromUtf8(name));
+    return window;
+  };
+  for (const auto& [item, name] : {std::pair{"mnumore", "Visual"}, {"mnupresnvyb", "Výběr"}}) {
+    QWidget* window = open(item, name);
+    const QPoint centre = window->pos();
+    window->move(1, 1);
+    window->close();
+    window = open(item, name);
+    EXPECT_EQ(window->pos(), centre) << name;
+    window->close();
+  }
+}
+
 TEST(AboutWindow, PlaysWithTheNameUnderTheMouse) {
   ScriptedPlatform platform;
   SettingsRecord settings;

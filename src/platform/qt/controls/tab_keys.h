@@ -7,7 +7,7 @@ class QWidget;
 
 namespace pelmar {
 
-// The strip has its tabs already and lives as long as the window.
+// The strip has its tabs already and lives as long as the window. While it is hidden the keys do nothing.
 void AddTabKeys(QWidget& window, QTabBar& tabs);
 
 }  // namespace pelmar
