@@ -110,6 +110,7 @@ class TextBox : public QAbstractScrollArea {
 
  protected:
   bool event(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
@@ -141,6 +142,7 @@ class TextBox : public QAbstractScrollArea {
   void UpdateScrollBars();
   void Relayout();
   void ShowAnew();
+  void GetReady();
   [[nodiscard]] bool Showing() const { return ready_ && isVisible(); }
   void KeepTopWhile(const std::function<void()>& change);
   void ShowCaretAnew();
@@ -178,7 +180,7 @@ class TextBox : public QAbstractScrollArea {
   bool tab_changes_focus_ = false;
   bool caret_stays_ = false;
   bool updating_bars_ = false;
-  bool ready_ = false;  // shown at least once
+  bool ready_ = false;  // on the screen at least once
 };
 
 }  // namespace pelmar

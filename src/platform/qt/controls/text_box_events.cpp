@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <QWheelEvent>
+#include <QWindow>
 #include <cmath>
 
 #include "platform/qt/clipboard_text.h"
@@ -229,14 +230,24 @@ void TextBox::resizeEvent(QResizeEvent* /*event*/) {
 void TextBox::showEvent(QShowEvent* event) {
   QAbstractScrollArea::showEvent(event);
   if (ready_) return ShowAnew();
-  // The font's table is made when the window is on its way to the screen, not before.
-  QMetaObject::invokeMethod(
-      this,
-      [this] {
-        ready_ = true;
-        ShowAnew();
-      },
-      Qt::QueuedConnection);
+  // The font's table is made when the window is on the screen, just before its first paint: until then the window
+  // manager has to do, and shall not have to wait for a processor.
+  QWindow* screen_window = window()->windowHandle();
+  if (screen_window != nullptr && !screen_window->isExposed()) return screen_window->installEventFilter(this);
+  QMetaObject::invokeMethod(this, &TextBox::GetReady, Qt::QueuedConnection);
+}
+
+bool TextBox::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Expose && watched == window()->windowHandle()) {
+    watched->removeEventFilter(this);
+    GetReady();
+  }
+  return QAbstractScrollArea::eventFilter(watched, event);
+}
+
+void TextBox::GetReady() {
+  ready_ = true;
+  ShowAnew();
 }
 
 void TextBox::ShowAnew() {
