@@ -62,16 +62,16 @@ void Calculator::Operator(char symbol) {
   Cislo = "0";
 }
 
-void Calculator::Evaluate() {
-  if (Label1.empty()) return;
+bool Calculator::Evaluate() {
+  if (Label1.empty()) return true;
   const std::optional<double> a = ParseNumber(Label2);
   const std::optional<double> b = ParseNumber(Cislo);
-  if (a && b && Label1 == "/" && *b == 0) {
-    platform_.Message(MessageType::kOk, "Není možno dělit nulou", "Dělení");
-  } else if (!a || !b || !Put(Combine(Label1.front(), *a, *b))) {
-    Refuse();
-  }
+  const bool by_zero = a && b && Label1 == "/" && *b == 0;
+  const bool done = a && b && !by_zero && Put(Combine(Label1.front(), *a, *b));
+  if (by_zero) platform_.Message(MessageType::kOk, "Není možno dělit nulou", "Dělení");
+  if (!done && !by_zero) Refuse();
   EndOperation();
+  return done;
 }
 
 void Calculator::EndOperation() {

@@ -32,8 +32,8 @@ class Calculator {
 
   // One of + - * / L ^.
   void Operator(char symbol);
-  // The operation is over afterwards, also where it failed; the person was told then and the number stays.
-  void Evaluate();
+  // The operation is over afterwards, also where it failed; the person was told then and the number stays. False then.
+  bool Evaluate();
 
   // Each puts its result in place of the number. Where there is none, the person is told, the number stays, and an
   // operator that waits is given up.

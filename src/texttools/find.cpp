@@ -71,7 +71,10 @@ void Finder::Show(std::size_t hit) {
   SelectHit(document_, hit, find.size());
 }
 
-void Finder::TellNothing() { platform_.Message(MessageType::kOk, "Nenalezeno !", "Hledání"); }
+void Finder::TellNothing() {
+  if (before_message) before_message();
+  platform_.Message(MessageType::kOk, "Nenalezeno !", "Hledání");
+}
 
 void Finder::GoIdle() {
   case_on = history_on = find_on = true;

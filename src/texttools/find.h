@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -26,6 +27,9 @@ class Finder {
   std::vector<std::string> history;      // History
   std::optional<std::int64_t> count;     // Label3
   std::optional<std::int64_t> position;  // Label5, from 0
+
+  // Told before a message in the middle of a step, for the window to show the fields as they are.
+  std::function<void()> before_message;
 
   [[nodiscard]] TextBuffer& Snapshot() { return snapshot_; }
 

@@ -81,6 +81,7 @@ void Replacer::SeekOn() {
 bool Replacer::Seek() {
   const std::size_t hit = FindFrom(snapshot_.Text(), find, static_cast<std::size_t>(found_pos_) + 1);
   if (hit == 0) {
+    if (before_message) before_message();
     platform_.Message(MessageType::kOk, "Nenalezeno !", "Hledání");
     return false;
   }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -29,6 +30,9 @@ class Replacer {
   std::vector<std::string> terms, changes;     // History and List1, row for row
   std::optional<std::int64_t> found_shown;     // Label3
   std::optional<std::int64_t> replaced_shown;  // Label5
+
+  // Told before a message in the middle of a step, for the window to show the fields as they are.
+  std::function<void()> before_message;
 
   [[nodiscard]] TextBuffer& Snapshot() { return snapshot_; }
 

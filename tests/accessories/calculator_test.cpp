@@ -21,7 +21,8 @@ void Press(Calculator& calculator, char key) {
     case 'c':
       return calculator.Clear();
     case '=':
-      return calculator.Evaluate();
+      calculator.Evaluate();
+      return;
     case 'l':
       return calculator.Operator('L');
     case 'r':

@@ -45,6 +45,7 @@ std::vector<std::string> ScriptedPlatform::TakeCalls() { return std::exchange(ca
 
 Answer ScriptedPlatform::Message(MessageType type, std::string_view text, std::string_view title) {
   calls.push_back("message " + std::to_string(static_cast<int>(type)) + ' ' + Quoted(text) + ' ' + Quoted(title));
+  if (on_message) on_message();
   const Answer answer = Take(answers, calls.back());
   const bool question = type != MessageType::kOk && type != MessageType::kOkInfo;
   if (question == (answer == Answer::kOk)) throw std::logic_error("no such button: " + calls.back());

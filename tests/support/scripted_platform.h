@@ -30,6 +30,7 @@ class ScriptedPlatform : public Platform {
 
   std::map<std::string, std::string> files;
   std::map<std::string, int> read_errors, write_errors;  // errno by path
+  std::function<void()> on_message;  // called while a message is on show
   std::optional<std::string> clipboard;
 
   LocalTime now{2024, 5, 6, 7, 8, 9};

@@ -149,6 +149,13 @@ Preview Kalkul::PhysicalKey(const QKeyEvent& event) {
   const auto character = TypedCharacter(event);
   QPushButton* key = event.key() == Qt::Key_Delete ? ui_->Command23 : character ? KeyOf(*character) : nullptr;
   if (key == nullptr) return Preview::kPass;
+  // Who types doesn't look at the keys: an operator behind another one ends the operation that waits first.
+  const bool chained = !key->isEnabled() && key != ui_->Command16;
+  if (chained && !calculator_.Evaluate()) {
+    Show();
+    return Preview::kTake;
+  }
+  if (chained) Show();
   key->click();
   return Preview::kTake;
 }

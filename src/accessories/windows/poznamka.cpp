@@ -163,7 +163,7 @@ void Poznamka::resizeEvent(QResizeEvent*) {
 
 void Poznamka::showEvent(QShowEvent* event) {
   if (!event->spontaneous()) {
-    if (windowIcon().isNull()) setWindowIcon(SvgIcon(QStringLiteral(":/icons/pelmar-vex.svg")));
+    ShowProgramIcon();
     timer1_.start(kTick);
     Wake();
   }

@@ -1,6 +1,6 @@
 #include "accessories/windows/tool_windows.h"
 
-#include <QGuiApplication>
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <cstdlib>
 
@@ -11,7 +11,6 @@
 #include "accessories/windows/prev.h"
 #include "html/insert.h"
 #include "platform/qt/application.h"
-#include "platform/qt/svg_icon.h"
 #include "shell/windows/program_parts.h"
 
 namespace pelmar {
@@ -63,10 +62,7 @@ void AddToolWindows(const ProgramParts& parts) {
   });
   parts.windows.Register<Kalkul>([parts] { return MakeKalkul(parts); });
   parts.windows.Register<Prev>([parts] { return MakePrev(parts); });
-  parts.stand_alones[StartMode::kCalculator] = [&windows = parts.windows] {
-    QGuiApplication::setWindowIcon(SvgIcon(QStringLiteral(":/icons/pelmar-vex.svg")));
-    windows.Get<Kalkul>().Present();
-  };
+  parts.stand_alones[StartMode::kCalculator] = [&windows = parts.windows] { windows.Get<Kalkul>().Present(); };
   parts.ShowBy<Kalkul>({"mnucalk"});
   parts.ShowBy<Morse>({"mnumorse"});
   parts.ShowBy<Kod>({"mnuASCII"});

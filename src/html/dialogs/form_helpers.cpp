@@ -38,7 +38,12 @@ void ConnectColorChoice(QAbstractButton* button, Swatch* swatch, QLabel* hex, st
                    });
 }
 
-void AcceptFreeText(QComboBox* box) { box->setCompleter(nullptr); }
+void AcceptFreeText(QComboBox* box) {
+  box->setCompleter(nullptr);
+  const QString text = box->currentText();
+  box->setCurrentIndex(box->findText(text));
+  box->setEditText(text);
+}
 
 QString BlankLed(int value) { return Utf8ToQString(NumberWithSignBlank(value)); }
 

@@ -1,5 +1,6 @@
 #include "html/dialogs/odkaz.h"
 
+#include "html/dialogs/form_helpers.h"
 #include "html/insert.h"
 #include "html/link.h"
 #include "platform/qt/convert.h"
@@ -10,7 +11,7 @@ namespace pelmar {
 Odkaz::Odkaz(TextBuffer& document, QWidget* parent)
     : DialogWindow(parent), document_(document), ui_(std::make_unique<Ui::Odkaz>()) {
   ui_->setupUi(this);
-  ui_->Combo1->setCompleter(nullptr);  // it would make "Kotva10" of a typed "Kotva1"
+  AcceptFreeText(ui_->Combo1);  // the toolkit would make "Kotva10" of a typed "Kotva1"
   connect(ui_->Command1, &QPushButton::clicked, this, &Odkaz::Command1_Click);
   connect(ui_->Command2, &QPushButton::clicked, this, &Odkaz::hide);
 }
@@ -21,6 +22,7 @@ void Odkaz::AddAnchor(const QString& name) {
   const QString typed = ui_->Combo1->currentText();  // which the first row of a list takes the place of
   ui_->Combo1->addItem(name);
   ui_->Combo1->setEditText(typed);
+  AcceptFreeText(ui_->Combo1);
 }
 
 void Odkaz::Command1_Click() {

@@ -13,7 +13,7 @@ OdkazNaJiny::OdkazNaJiny(TextBuffer& document, std::function<void(const std::str
   LinkFileChoice(Choice(), std::move(show_in_browser));
   EnableWith(ui_->Check1, {ui_->Text2});
   EnableWith(ui_->Check3, {ui_->Combo2});
-  ui_->Combo2->setCompleter(nullptr);  // it would make "_self" of a frame of one's own that is called "_s"
+  AcceptFreeText(ui_->Combo2);  // the toolkit would make "_self" of a frame of one's own that is called "_s"
   connect(ui_->Option1, &QRadioButton::toggled, this, &OdkazNaJiny::Option_Click);
   // A click on the option that is set already counts as well.
   connect(ui_->Option1, &QRadioButton::clicked, this, &OdkazNaJiny::Option_Click);

@@ -39,7 +39,7 @@ FrmBrowser::FrmBrowser(WebViewMaker& maker, Platform& platform, std::function<vo
       end_program_(std::move(end_program)),
       ui_(std::make_unique<Ui::FrmBrowser>()) {
   ui_->setupUi(this);
-  setWindowIcon(SvgIcon(QStringLiteral(":/icons/pelmar-vex.svg")));
+  ShowProgramIcon();
   status_ = AddPanel(*ui_->StatusBar1, "Panel1", QStringLiteral("Stav"), 1);
   progress_ = AddPanel(*ui_->StatusBar1, "Panel2", QStringLiteral("Průběh načítání"), 0);
   timTimer.setObjectName(QStringLiteral("timTimer"));

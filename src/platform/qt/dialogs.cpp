@@ -2,14 +2,20 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QGridLayout>
 #include <QInputDialog>
+#include <QMainWindow>
 #include <QMessageBox>
 #include <QPointer>
 #include <QWindow>
 #include <algorithm>
 
+#include "platform/qt/svg_icon.h"
+
 namespace pelmar {
 namespace {
+
+constexpr QSize kFileDialogSize(720, 440);
 
 // A question must not lie under a window of ours that stays on top.
 void RaiseAboveAll(QDialog& dialog) {
@@ -22,11 +28,33 @@ void RaiseAboveAll(QDialog& dialog) {
   if (std::any_of(windows.begin(), windows.end(), on_top)) dialog.setWindowFlag(Qt::WindowStaysOnTopHint);
 }
 
+// Whom a box stands over. Between two boxes, one after the other, no window is the active one for a moment.
+QWidget* Asker() {
+  if (QWidget* active = QApplication::activeWindow()) return active;
+  const QWidgetList windows = QApplication::topLevelWidgets();
+  const auto main = std::find_if(windows.begin(), windows.end(), [](const QWidget* window) {
+    return qobject_cast<const QMainWindow*>(window) && window->isVisible() && !window->isMinimized();
+  });
+  return main == windows.end() ? nullptr : *main;
+}
+
+// A box of few words would be too narrow for its title to be read.
+void LeaveRoomForTitle(QMessageBox& box) {
+  constexpr int kFrameButtons = 140;
+  auto* grid = qobject_cast<QGridLayout*>(box.layout());
+  if (grid == nullptr) return;
+  const int width = box.fontMetrics().horizontalAdvance(box.windowTitle()) + kFrameButtons;
+  grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
+}
+
 // A dialog is its window's child, and dies with it should that close while the dialog waits.
 template <typename Dialog>
 class Asking {
  public:
-  Asking() : dialog_(new Dialog(QApplication::activeWindow())) { RaiseAboveAll(*dialog_); }
+  Asking() : dialog_(new Dialog(Asker())) {
+    ShowProgramIcon();
+    RaiseAboveAll(*dialog_);
+  }
   Asking(const Asking&) = delete;
   Asking& operator=(const Asking&) = delete;
   ~Asking() { delete dialog_.data(); }
@@ -59,7 +87,8 @@ QMessageBox::Icon IconOf(MessageType type) {
 
 Answer ShowMessage(MessageType type, const QString& text, const QString& title) {
   const bool question = type != MessageType::kOk && type != MessageType::kOkInfo;
-  const QPointer<QMessageBox> box = new QMessageBox(QApplication::activeWindow());
+  ShowProgramIcon();
+  const QPointer<QMessageBox> box = new QMessageBox(Asker());
   RaiseAboveAll(*box);
   box->setWindowTitle(title);
   box->setTextFormat(Qt::PlainText);
@@ -72,6 +101,7 @@ Answer ShowMessage(MessageType type, const QString& text, const QString& title) 
   } else {
     box->setStandardButtons(QMessageBox::Ok);
   }
+  LeaveRoomForTitle(*box);
   const int button = box->exec();
   delete box.data();
   if (!question) return Answer::kOk;
@@ -104,6 +134,9 @@ std::optional<QString> AskForFile(FileDialogKind kind, const QString& filter, in
   const QStringList filters = NameFilters(filter);
   Asking<QFileDialog> dialog;
   if (!folder.isEmpty()) dialog->setDirectory(folder);
+  // Names alone: the columns would come too narrow, and their words not in Czech.
+  dialog->setViewMode(QFileDialog::List);
+  dialog->resize(kFileDialogSize);
   // The captions name their patterns themselves.
   dialog->setOption(QFileDialog::HideNameFilterDetails);
   if (kind == FileDialogKind::kSave) {

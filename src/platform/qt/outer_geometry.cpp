@@ -65,6 +65,12 @@ void CentreOnScreen(QWidget& window) {
                      std::max(std::min(outer.top(), last.y()), free.top())});
 }
 
+void FitScreen(QWidget& window) {
+  constexpr QSize kUsualFrame(8, 32);  // the window's own isn't known yet
+  const QSize room = window.screen()->availableGeometry().size() - kUsualFrame;
+  window.resize(window.size().boundedTo(room));
+}
+
 void SetAlwaysOnTop(QWidget& window, bool on_top) {
   // The widget's own call would hide a window on show; the system window's doesn't.
   if (window.windowHandle() != nullptr) return window.windowHandle()->setFlag(Qt::WindowStaysOnTopHint, on_top);

@@ -1,13 +1,46 @@
 #include "platform/qt/program_style.h"
 
+#include <QAbstractItemView>
+#include <QMenuBar>
+#include <QPainter>
+#include <QStyleOptionMenuItem>
+
 #include "platform/qt/svg_icon.h"
 
 namespace pelmar {
+namespace {
+
+bool HasKeyboard(const QWidget* widget) { return widget != nullptr && widget->hasFocus() && widget->isActiveWindow(); }
+
+}  // namespace
 
 QIcon ProgramStyle::standardIcon(StandardPixmap picture, const QStyleOption* option, const QWidget* widget) const {
   if (picture == SP_ToolBarHorizontalExtensionButton) return SvgIcon(QStringLiteral(":/icons/more.svg"));
   if (picture == SP_ToolBarVerticalExtensionButton) return SvgIcon(QStringLiteral(":/icons/more_below.svg"));
   return QProxyStyle::standardIcon(picture, option, widget);
+}
+
+int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                            QStyleHintReturn* answer) const {
+  // The buttons of message boxes look like those of the program's own dialogs.
+  if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+  return QProxyStyle::styleHint(hint, option, widget, answer);
+}
+
+void ProgramStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                               const QWidget* widget) const {
+  // A title of the menu bar that the keyboard is at, with no menu open, as behind an Escape.
+  const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+  if (element == CE_MenuBarItem && item != nullptr && item->state.testFlag(State_Selected) &&
+      qobject_cast<const QMenuBar*>(widget) && HasKeyboard(widget)) {
+    QStyleOptionMenuItem chosen(*item);
+    chosen.state |= State_Sunken;
+    return QProxyStyle::drawControl(element, &chosen, painter, widget);
+  }
+  QProxyStyle::drawControl(element, option, painter, widget);
+  if (element != CE_ShapedFrame || !qobject_cast<const QAbstractItemView*>(widget) || !HasKeyboard(widget)) return;
+  painter->setPen(option->palette.color(QPalette::Highlight));
+  painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
 }
 
 }  // namespace pelmar

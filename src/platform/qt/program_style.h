@@ -1,5 +1,6 @@
-// The desktop's own style, but for two pictures that every menu bar and toolbar asks for when it is made: the toolkit
-// would search its picture plug-ins for them before the first window is on the screen.
+// The desktop's own style, with what the program needs beside it: two pictures that every menu bar and toolbar asks for
+// when it is made come from the program itself, since the toolkit would search its picture plug-ins for them before the
+// first window is on the screen; and what has the keyboard is to be seen also where the style doesn't show it.
 #pragma once
 
 #include <QProxyStyle>
@@ -13,6 +14,10 @@ class ProgramStyle : public QProxyStyle {
   using QProxyStyle::QProxyStyle;
 
   QIcon standardIcon(StandardPixmap picture, const QStyleOption* option, const QWidget* widget) const override;
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* answer) const override;
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override;
 };
 
 }  // namespace pelmar

@@ -1,5 +1,6 @@
 #include "platform/qt/svg_icon.h"
 
+#include <QGuiApplication>
 #include <QHash>
 #include <QIconEngine>
 #include <QImage>
@@ -85,5 +86,10 @@ class SvgIconEngine final : public QIconEngine {
 }  // namespace
 
 QIcon SvgIcon(const QString& resource_path) { return QIcon(new SvgIconEngine(resource_path)); }
+
+void ShowProgramIcon() {
+  if (QGuiApplication::windowIcon().isNull())
+    QGuiApplication::setWindowIcon(SvgIcon(QStringLiteral(":/icons/pelmar-vex.svg")));
+}
 
 }  // namespace pelmar

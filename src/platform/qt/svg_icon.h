@@ -12,4 +12,8 @@ namespace pelmar {
 // draws nothing. Only for the interface thread.
 QIcon SvgIcon(const QString& resource_path);
 
+// Gives every window the program's icon, those to come too. The first call draws it, so it waits until a window needs
+// it.
+void ShowProgramIcon();
+
 }  // namespace pelmar

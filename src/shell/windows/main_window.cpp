@@ -2,8 +2,10 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QMimeData>
 #include <QScreen>
+#include <QShortcut>
 #include <QWindow>
 #include <algorithm>
 #include <chrono>
@@ -12,6 +14,7 @@
 #include "platform/qt/convert.h"
 #include "platform/qt/outer_geometry.h"
 #include "platform/qt/svg_icon.h"
+#include "shell/status.h"
 #include "shell/windows/status_timer.h"
 #include "text/codepage.h"
 
@@ -64,6 +67,7 @@ void MainWindow::MakeControls() {
   text_->UseBuffer(editor_.text);
   text_->setStandardShortcuts(false);
   text_->SetCaretStays(true);
+  text_->installEventFilter(this);
   bar_ = new StatusStrip(client_);
   bar_->raise();
   connect(tabs_, &QTabBar::currentChanged, this, [this](int index) { editor_.documents.SwitchTo(index + 1); });
@@ -79,6 +83,8 @@ void MainWindow::MakeControls() {
   pop_up(text_, "MnuSel");
   // The strip itself takes no focus, so the keyboard reaches it by keys of its own.
   AddTabKeys(*this, *tabs_);
+  connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, menus_,
+          [this] { menus_->setActiveAction(menus_->actions().constFirst()); });
   const auto count_lines = [this](bool count) {
     editor_.settings.LineCounting = count;
     if (on_line_counting) on_line_counting();
@@ -171,7 +177,7 @@ void MainWindow::FitToFrame() {
   if (frame_known_) return;
   frame_known_ = true;
   // The icon is rendered when it is set, which can wait until the window is there.
-  setWindowIcon(SvgIcon(QStringLiteral(":/icons/pelmar-vex.svg")));
+  ShowProgramIcon();
   const QSize before = size();
   if (!isMaximized() && !isMinimized()) {
     SetOuterWidth(*this, wanted_place_.width);
@@ -366,6 +372,12 @@ bool MainWindow::event(QEvent* event) {
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
   if (watched == client_ && event->type() == QEvent::Resize) ApplyLayout();
   if (watched == client_ && event->type() == QEvent::Paint) FitToFrame();
+  if (watched == text_ && event->type() == QEvent::KeyPress) {
+    const auto now = [this] {
+      return ComputeMenuState(editor_.text, editor_.documents.CurrentPath(), editor_.platform.ClipboardText());
+    };
+    if (menus_->RunGrey(*static_cast<QKeyEvent*>(event), now)) return true;
+  }
   return QMainWindow::eventFilter(watched, event);
 }
 

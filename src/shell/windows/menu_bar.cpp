@@ -1,6 +1,8 @@
 #include "shell/windows/menu_bar.h"
 
+#include <QKeyEvent>
 #include <QMenu>
+#include <utility>
 
 #include "platform/qt/convert.h"
 #include "text/codepage.h"
@@ -63,6 +65,24 @@ void MenuBar::Apply(const MenuState& state) {
   SetEnabled(ItemsOfClipboard(), state.has_clipboard);
   SetEnabled(ItemsOfText(), state.has_text);
   SetEnabled(ItemsOfSelection(), state.has_selection);
+}
+
+bool MenuBar::RunGrey(const QKeyEvent& keys, const std::function<MenuState()>& now) const {
+  const QKeySequence sequence(keys.keyCombination());
+  const std::pair<std::span<const std::string_view>, bool MenuState::*> groups[] = {
+      {ItemsOfPath(), &MenuState::has_path},
+      {ItemsOfClipboard(), &MenuState::has_clipboard},
+      {ItemsOfText(), &MenuState::has_text},
+      {ItemsOfSelection(), &MenuState::has_selection}};
+  for (const auto& [items, condition] : groups) {
+    for (const std::string_view name : items) {
+      const QAction* action = Action(name);
+      if (action->isEnabled() || action->shortcut() != sequence || !(now().*condition)) continue;
+      commands_.Run(name);
+      return true;
+    }
+  }
+  return false;
 }
 
 void MenuBar::SetEnabled(std::span<const std::string_view> names, bool enabled) {

@@ -3,12 +3,15 @@
 
 #include <QAction>
 #include <QMenuBar>
+#include <functional>
 #include <map>
 #include <string>
 #include <string_view>
 
 #include "shell/commands.h"
 #include "shell/menu_table.h"
+
+class QKeyEvent;
 
 namespace pelmar {
 
@@ -26,6 +29,9 @@ class MenuBar : public QMenuBar {
   void Refresh();
   // Enables the groups of items that follow the state of the text; an item without a command stays disabled.
   void Apply(const MenuState& state);
+  // The grey of an item is only as fresh as the last Apply. Runs the command of a grey item of those groups whose keys
+  // these are, where the state of now, asked for only then, lets it. False where there is none.
+  bool RunGrey(const QKeyEvent& keys, const std::function<MenuState()>& now) const;
 
  private:
   void SetEnabled(std::span<const std::string_view> names, bool enabled);

@@ -21,6 +21,7 @@ Hledani::Hledani(TextBuffer& document, Platform& platform, QWidget* parent)
     finder_.PickHistory(static_cast<std::size_t>(row));
     ui_->Find->setText(TextToQString(finder_.find));
   });
+  finder_.before_message = [this] { ShowFields(); };
   finder_.Load();
   ShowFields();
   ui_->Find->setFocus();

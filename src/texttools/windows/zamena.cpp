@@ -24,6 +24,7 @@ Zamena::Zamena(TextBuffer& document, Platform& platform, QWidget* parent)
     ShowRowsOnOneLine(*list);
     OnRowPicked(*list, [this](int row) { PickRow(row); });
   }
+  replacer_.before_message = [this] { ShowFields(); };
   replacer_.Load();
   ShowFields();
   ui_->Find->setFocus();

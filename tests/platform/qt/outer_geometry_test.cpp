@@ -3,11 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollBar>
 #include <QTest>
 #include <QToolButton>
+#include <QWheelEvent>
 #include <QWidget>
 #include <QWindow>
 
@@ -49,6 +52,40 @@ TEST(DialogWindow, IsCentredOnceAndKeepsItsPlace) {
   dialog.hide();
   dialog.Present();
   EXPECT_EQ(dialog.pos(), QPoint(5, 6));
+  DialogWindow large(&parent);
+  large.resize(9000, 9000);
+  large.Present();
+  EXPECT_TRUE(large.screen()->availableGeometry().contains(large.geometry()));
+}
+
+TEST(DialogWindow, BeginsInItsFirstFieldAndSparesValuesFromTheWheel) {
+  DialogWindow dialog(nullptr);
+  QLineEdit field(QStringLiteral("typed before"), &dialog);
+  QComboBox box(&dialog);
+  box.addItems({QStringLiteral("a"), QStringLiteral("b")});
+  QScrollBar bar(&dialog);
+  bar.setFocusPolicy(Qt::StrongFocus);
+  dialog.Present();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+  EXPECT_EQ(field.selectedText(), QStringLiteral("typed before"));
+  const auto turn = [](QWidget& widget) {
+    QWheelEvent wheel(QPointF(1, 1), widget.mapToGlobal(QPointF(1, 1)), {}, QPoint(0, -120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&widget, &wheel);
+  };
+  turn(box);
+  turn(bar);
+  EXPECT_EQ(box.currentIndex(), 0);
+  EXPECT_EQ(bar.value(), 0);
+  EXPECT_TRUE(field.hasFocus());
+  bar.setFocus();
+  turn(bar);
+  EXPECT_GT(bar.value(), 0);
+  dialog.hide();
+  field.deselect();
+  dialog.Present();
+  EXPECT_EQ(dialog.focusWidget(), &field);
+  EXPECT_EQ(field.selectedText(), QStringLiteral("typed before"));
 }
 
 TEST(DialogWindow, EnterPressesTheButtonThatHasTheFocus) {

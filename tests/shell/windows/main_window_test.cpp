@@ -137,6 +137,24 @@ TEST_F(MainWindowTest, BarsStandStillWhileAnotherWindowIsActive) {
   EXPECT_TRUE(window.Text().hasFocus());
 }
 
+// required: the items are only as fresh as the last tick. Their keys needn't wait for the next one.
+TEST_F(MainWindowTest, KeysOfGreyItemsGoByTheStateOfNow) {
+  timer.Tick();
+  editor.text.SetText("abc");
+  QAction* copy = Find<QAction>("mnucopysel");
+  Press(Qt::Key_K, Qt::ControlModifier);
+  EXPECT_EQ(platform.clipboard.value_or(""), "");  // nothing is selected
+  Press(Qt::Key_F4);
+  EXPECT_EQ(editor.text.SelText(), "abc");
+  Press(Qt::Key_K, Qt::ControlModifier);
+  EXPECT_EQ(platform.clipboard.value_or(""), "abc");
+  Press(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(editor.text.Text(), "abcabc");
+  EXPECT_FALSE(copy->isEnabled());
+  timer.Tick();
+  EXPECT_TRUE(Find<QAction>("mnuadd")->isEnabled());
+}
+
 TEST_F(MainWindowTest, TogglesHideAndShowTheBars) {
   const int with_bars = window.Text().height();
   const int with_tabs = window.Text().width();

@@ -107,10 +107,14 @@ TEST_F(SearchWindowsTest, ZamenaReplacesAndKeepsThePairs) {
   Zamena dialog(text, platform, nullptr);
   EXPECT_EQ(dialog.objectName(), QStringLiteral("Záměna"));
   dialog.Present();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
   auto* term = Find<TextBox>(dialog, "Find");
   auto* change = Find<TextBox>(dialog, "Chage");
   EXPECT_EQ(ViewOf(term->Text()), "Text");
   EXPECT_EQ(ViewOf(change->Text()), "Zaměň"_w);
+  EXPECT_EQ(ViewOf(term->SelText()), "Text");  // ready to be typed over
+  QTest::keyClick(term, Qt::Key_Tab);
+  EXPECT_EQ(ViewOf(change->SelText()), "Zaměň"_w);
   term->SetText("a\r\nb");
   change->SetText("c");
   Click(dialog, "Command1");
@@ -133,6 +137,20 @@ TEST_F(SearchWindowsTest, ZamenaReplacesAndKeepsThePairs) {
   EXPECT_EQ(ViewOf(term->Text()), "a\r\nb");
   EXPECT_EQ(ViewOf(change->Text()), "c");
   EXPECT_EQ(Find<QListWidget>(dialog, "History")->currentRow(), 0);
+}
+
+TEST_F(SearchWindowsTest, TheFieldsAreUpToDateBehindAMessage) {
+  text.SetText("a");
+  Zamena dialog(text, platform, nullptr);
+  dialog.Present();
+  Find<TextBox>(dialog, "Find")->SetText("a");
+  Find<TextBox>(dialog, "Chage")->SetText("x");
+  Click(dialog, "Command1");
+  QString shown;
+  platform.answers = {Answer::kOk};
+  platform.on_message = [&] { shown = Find<QLabel>(dialog, "Label5")->text(); };
+  Click(dialog, "Command5");
+  EXPECT_EQ(shown, QStringLiteral("1"));
 }
 
 TEST_F(SearchWindowsTest, VyberSetsTheSelection) {

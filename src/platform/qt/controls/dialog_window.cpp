@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
 #include <QKeyEvent>
 #include <QPointer>
 #include <QPushButton>
@@ -10,6 +11,7 @@
 #include <QToolButton>
 
 #include "platform/qt/outer_geometry.h"
+#include "platform/qt/svg_icon.h"
 
 namespace pelmar {
 namespace {
@@ -19,6 +21,12 @@ bool MoveByArrow(QScrollBar& bar, int key) {
   if (bar.orientation() != Qt::Horizontal || (key != Qt::Key_Left && key != Qt::Key_Right)) return false;
   bar.triggerAction(key == Qt::Key_Left ? QAbstractSlider::SliderSingleStepSub : QAbstractSlider::SliderSingleStepAdd);
   return true;
+}
+
+// A box to choose from, or a bar that stands for a value; the bars of lists and texts can't have the keyboard.
+bool HoldsValue(const QWidget& widget) {
+  return qobject_cast<const QComboBox*>(&widget) ||
+         (qobject_cast<const QScrollBar*>(&widget) && widget.focusPolicy() != Qt::NoFocus);
 }
 
 bool IsPlainEnter(const QKeyEvent& event) {
@@ -50,6 +58,13 @@ void DialogWindow::OnEnter(QWidget* field, std::function<void()> act) {
 }
 
 bool DialogWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Wheel) {
+    const auto* widget = qobject_cast<const QWidget*>(watched);
+    if (widget != nullptr && HoldsValue(*widget) && !widget->hasFocus()) {
+      event->ignore();  // for what lies around it
+      return true;
+    }
+  }
   if (event->type() == QEvent::KeyPress) {
     const int key = static_cast<QKeyEvent*>(event)->key();
     const auto act = on_enter_.find(watched);
@@ -74,12 +89,26 @@ void DialogWindow::keyPressEvent(QKeyEvent* event) {
 }
 
 void DialogWindow::showEvent(QShowEvent* event) {
-  if (!centred_ && !event->spontaneous()) {
-    centred_ = true;
-    CentreOnScreen(*this);
-    for (QScrollBar* bar : findChildren<QScrollBar*>()) bar->installEventFilter(this);
-  }
+  if (event->spontaneous()) return QDialog::showEvent(event);
+  if (!prepared_) Prepare();
   QDialog::showEvent(event);
+  // By the tabulator key's reason, with which fields select their text.
+  if (first_field_ && first_field_->isEnabled()) first_field_->setFocus(Qt::TabFocusReason);
+}
+
+void DialogWindow::Prepare() {
+  prepared_ = true;
+  ShowProgramIcon();
+  FitScreen(*this);
+  CentreOnScreen(*this);
+  for (QWidget* widget : findChildren<QWidget*>()) {
+    if (!HoldsValue(*widget)) continue;
+    widget->installEventFilter(this);
+    if (widget->focusPolicy() == Qt::WheelFocus) widget->setFocusPolicy(Qt::StrongFocus);
+  }
+  first_field_ = focusWidget();
+  for (QWidget* next = this; !first_field_ && (next = next->nextInFocusChain()) != this;)
+    if ((next->focusPolicy() & Qt::TabFocus) != 0 && next->isVisibleTo(this) && next->isEnabled()) first_field_ = next;
 }
 
 }  // namespace pelmar

@@ -1,10 +1,13 @@
 // The base of the program's own dialogs: modeless unless executed, centred on the screen when first shown, and only
-// hidden on closing, so that the fields keep what they hold for the whole run. The form's property `cancelButton` names
+// hidden on closing, so that the fields keep what they hold for the whole run. Each opening begins in the same field,
+// with its text selected. Boxes and bars that don't have the keyboard leave the mouse wheel alone, so that nobody
+// changes a value in passing. The form's property `cancelButton` names
 // the button that Escape presses; without one Escape closes the window as its system button does. Enter presses the
 // button that has the focus, elsewhere the default one.
 #pragma once
 
 #include <QDialog>
+#include <QPointer>
 #include <functional>
 #include <map>
 
@@ -31,8 +34,12 @@ class DialogWindow : public QDialog {
   void showEvent(QShowEvent* event) override;
 
  private:
+  // What the first opening needs only.
+  void Prepare();
+
   std::map<QObject*, std::function<void()>> on_enter_;
-  bool centred_ = false;
+  QPointer<QWidget> first_field_;
+  bool prepared_ = false;
 };
 
 }  // namespace pelmar

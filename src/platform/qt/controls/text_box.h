@@ -38,6 +38,7 @@ class TextBox : public QAbstractScrollArea {
   Q_PROPERTY(QColor backgroundColor READ BackgroundColor WRITE setBackgroundColor)
   Q_PROPERTY(bool standardShortcuts READ StandardShortcuts WRITE setStandardShortcuts)
   Q_PROPERTY(bool tabChangesFocus READ TabChangesFocus WRITE setTabChangesFocus)
+  Q_PROPERTY(bool tabSelectsAll READ TabSelectsAll WRITE setTabSelectsAll)
 
  public:
   explicit TextBox(QWidget* parent = nullptr);
@@ -75,6 +76,10 @@ class TextBox : public QAbstractScrollArea {
   // False: TAB is typed. Shift+TAB always goes to the field before, TAB in a read-only text to the next one.
   [[nodiscard]] bool TabChangesFocus() const { return tab_changes_focus_; }
   void setTabChangesFocus(bool changes) { tab_changes_focus_ = changes; }
+
+  // True: the whole text is selected when TAB leads here, as in a single-line field.
+  [[nodiscard]] bool TabSelectsAll() const { return tab_selects_all_; }
+  void setTabSelectsAll(bool selects) { tab_selects_all_ = selects; }
 
   // True: while another window has the keyboard, a pale caret shows where that window's tools put their text.
   void SetCaretStays(bool stays) { caret_stays_ = stays; }
@@ -178,6 +183,7 @@ class TextBox : public QAbstractScrollArea {
   bool read_only_ = false;
   bool standard_shortcuts_ = true;
   bool tab_changes_focus_ = false;
+  bool tab_selects_all_ = false;
   bool caret_stays_ = false;
   bool updating_bars_ = false;
   bool ready_ = false;  // on the screen at least once

@@ -39,6 +39,13 @@ void TextBox::keyPressEvent(QKeyEvent* event) {
     Do(*key);
     return event->accept();
   }
+  // The other key for the pop-up menu, for keyboards without one of its own.
+  if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
+    const QPoint at = CaretRect().bottomLeft();
+    QContextMenuEvent menu(QContextMenuEvent::Keyboard, at, viewport()->mapToGlobal(at));
+    QGuiApplication::sendEvent(viewport(), &menu);
+    return event->accept();
+  }
   const QString typed = TypedText(*event);
   if (typed.isEmpty() || read_only_) return event->ignore();
   buffer_->Type(PageText(typed));
@@ -268,6 +275,8 @@ void TextBox::changeEvent(QEvent* event) {
 
 void TextBox::focusInEvent(QFocusEvent* event) {
   QAbstractScrollArea::focusInEvent(event);
+  const bool by_tab = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+  if (tab_selects_all_ && by_tab) buffer_->Select(0, buffer_->Size());
   ShowCaretAnew();
   viewport()->update();
 }
