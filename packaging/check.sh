@@ -5,7 +5,7 @@ root=$(dirname "$(dirname "$(readlink -f "$0")")")
 step=check
 . "$root/packaging/setup.sh"
 fuzz_seconds=20
-most_tidied=60  # files, which keeps a day of many changes within some minutes
+most_tidied=100  # files, which keeps a day of many changes within some minutes
 cd "$root" || exit 1
 
 configure_and_build asan core_tests window_tests || exit 1
@@ -24,14 +24,14 @@ for fuzzer in build/fuzz/fuzz/*_fuzzer; do
   fi
 done
 
-# The latest first, so that a day of many changes leaves out those that were looked at before.
+# The latest first: what a day of many changes leaves out was among the latest of an earlier run.
 changed=$(git log --since='24 hours ago' --name-only --pretty=format: -- 'src/*.cpp' 2>/dev/null | awk '!seen[$0]++' |
   while read -r file; do [ -n "$file" ] && [ -f "$file" ] && echo "$file"; done | head -n $most_tidied)
 if [ -n "$changed" ]; then
   tell "clang-tidy over $(echo "$changed" | wc -l) changed files"
   # In a tree without precompiled headers, which are the other compiler's own; of it only what forms and classes
   # generate is built.
-  configure_and_build tidy pelmar_ui_autogen pelmar-browser_autogen || exit 1
+  configure_and_build tidy pelmar_ui_autogen pelmar-printer_autogen pelmar-browser_autogen || exit 1
   echo "$changed" | xargs -P "$(nproc)" -n 4 clang-tidy --quiet -p build/tidy >&2 || exit 1
 fi
 

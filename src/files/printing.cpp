@@ -103,8 +103,8 @@ void PrintDocument(Editor& e, const EditorLook& look) {
   e.platform.SetBusyPointer(false);
   if (outcome.error != 0) throw RuntimeError(outcome.error, "Tisk se nezdařil");
   if (outcome.pdf.empty()) return;
-  e.platform.Message(MessageType::kOkInfo,
-                     "Není nastavena žádná tiskárna. Text je vytištěn do souboru" + std::string(kCrLf) + outcome.pdf,
+  const std::string reason = outcome.problem.empty() ? "Není nastavena žádná tiskárna." : outcome.problem;
+  e.platform.Message(MessageType::kOkInfo, reason + " Text je vytištěn do souboru" + std::string(kCrLf) + outcome.pdf,
                      "Tisk");
 }
 

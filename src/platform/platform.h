@@ -66,6 +66,8 @@ class Paper {
 struct PrintOutcome {
   int error = 0;    // 0 or an errno
   std::string pdf;  // the path of the file that stands for the paper where there is no printer
+  // Why the system's printers couldn't be asked for, UTF-8; "" where they were, and none is the default one.
+  std::string problem = {};
 };
 
 // What becomes of the bytes of a file on their way into another. A result is valid until the next call.

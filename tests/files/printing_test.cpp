@@ -93,6 +93,10 @@ TEST_F(PrintTest, NamesThePdfAndThrowsAnError) {
   PrintDocument(editor, look);
   EXPECT_EQ(platform.calls.back(),
             "message 64 \"Není nastavena žádná tiskárna. Text je vytištěn do souboru\r\n/doc/x.pdf\" \"Tisk\"");
+  platform.answers = {Answer::kOk};
+  platform.print_outcome.problem = "Chybí modul.";
+  PrintDocument(editor, look);
+  EXPECT_EQ(platform.calls.back(), "message 64 \"Chybí modul. Text je vytištěn do souboru\r\n/doc/x.pdf\" \"Tisk\"");
   platform.print_outcome = {.error = EIO, .pdf = {}};
   EXPECT_THROW(PrintDocument(editor, look), RuntimeError);
   EXPECT_EQ(platform.busy, 0);

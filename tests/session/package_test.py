@@ -65,6 +65,7 @@ class PackageTest(unittest.TestCase):
         run("appstreamcli", "validate", "--no-net", share / "metainfo/cz.pelmar.vex.metainfo.xml")
         for size in (16, 48, 256):
             self.assertTrue((share / f"icons/hicolor/{size}x{size}/apps/pelmar-vex.png").is_file())
+        self.assertTrue(list(self.tree.glob("usr/lib/*/pelmar-vex/pelmar-printer.so")))
         before = sorted(self.tree.rglob("*"))
         with Session() as session:
             write_settings(session.data_folder)

@@ -19,7 +19,7 @@ class ScriptedPlatform : public Platform {
  public:
   // One string a call, in order, texts as they were given: `message 52 "text" "title"`, `about "title" "text"`, `input
   // "prompt" "title" "initial"`, `open "filter" 2`, `save "filter" 2`, `write path` and `create path` (also failed
-  // ones), `remove path`, `print name font size bold italic`, `page`, `put line x "text"`, `recent path`, `default
+  // ones), `print name font size bold italic`, `page`, `put line x "text"`, `recent path`, `default
   // program path`, `start copy`, `clipboard "text"`, `clipboard clear`, `busy 1`. Reading leaves no trace.
   std::vector<std::string> calls;
   // The calls so far, which are then forgotten.
@@ -30,7 +30,7 @@ class ScriptedPlatform : public Platform {
 
   std::map<std::string, std::string> files;
   std::map<std::string, int> read_errors, write_errors;  // errno by path
-  std::function<void()> on_message;  // called while a message is on show
+  std::function<void()> on_message;                      // called while a message is on show
   std::optional<std::string> clipboard;
 
   LocalTime now{2024, 5, 6, 7, 8, 9};

@@ -150,7 +150,8 @@ Preview Kalkul::PhysicalKey(const QKeyEvent& event) {
   QPushButton* key = event.key() == Qt::Key_Delete ? ui_->Command23 : character ? KeyOf(*character) : nullptr;
   if (key == nullptr) return Preview::kPass;
   // Who types doesn't look at the keys: an operator behind another one ends the operation that waits first.
-  const bool chained = !key->isEnabled() && key != ui_->Command16;
+  // Also the one that the keys on the screen leave on.
+  const bool chained = calculator_.EqualsOn() && (!key->isEnabled() || key == ui_->Command33);
   if (chained && !calculator_.Evaluate()) {
     Show();
     return Preview::kTake;

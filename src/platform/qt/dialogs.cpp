@@ -4,7 +4,6 @@
 #include <QFileDialog>
 #include <QGridLayout>
 #include <QInputDialog>
-#include <QMainWindow>
 #include <QMessageBox>
 #include <QPointer>
 #include <QWindow>
@@ -31,11 +30,12 @@ void RaiseAboveAll(QDialog& dialog) {
 // Whom a box stands over. Between two boxes, one after the other, no window is the active one for a moment.
 QWidget* Asker() {
   if (QWidget* active = QApplication::activeWindow()) return active;
+  if (QWidget* modal = QApplication::activeModalWidget()) return modal;
   const QWidgetList windows = QApplication::topLevelWidgets();
-  const auto main = std::find_if(windows.begin(), windows.end(), [](const QWidget* window) {
-    return qobject_cast<const QMainWindow*>(window) && window->isVisible() && !window->isMinimized();
+  const auto editor = std::find_if(windows.begin(), windows.end(), [](const QWidget* window) {
+    return window->objectName() == QLatin1String("Main") && window->isVisible() && !window->isMinimized();
   });
-  return main == windows.end() ? nullptr : *main;
+  return editor == windows.end() ? nullptr : *editor;
 }
 
 // A box of few words would be too narrow for its title to be read.

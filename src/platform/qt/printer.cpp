@@ -64,10 +64,15 @@ bool PrintOn(QPagedPaintDevice& device, const PrintFont& font, const std::functi
   return painter.end();
 }
 
-// Nothing where the module is missing: then there is no printer.
-SystemPrinter* FindPrinter() {
-  static SystemPrinter* const printer =
-      qobject_cast<SystemPrinter*>(LoadModule(ModuleFolders(), QStringLiteral("pelmar-printer.so")).plugin);
+// Loads the module where it wasn't yet. Nothing where that doesn't work, and `problem` tells why then.
+SystemPrinter* FindPrinter(QString& problem) {
+  static SystemPrinter* printer = nullptr;
+  if (printer != nullptr) return printer;
+  const LoadedModule module = LoadModule(ModuleFolders(), QStringLiteral("pelmar-printer.so"));
+  printer = qobject_cast<SystemPrinter*>(module.plugin);
+  if (printer == nullptr)
+    problem = module.error.isEmpty() ? QStringLiteral("Chybí modul pro tisk (pelmar-printer.so).")
+                                     : QStringLiteral("Modul pro tisk nelze použít (%1).").arg(module.error);
   return printer;
 }
 
@@ -81,7 +86,8 @@ PrintOutcome PrintIntoPdf(const PrintFont& font, const QString& name, const std:
   const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
   QDir().mkpath(folder);
   QFile file(NewPdfPath(folder, name));
-  if (!file.open(QIODevice::ReadWrite | QIODevice::NewOnly)) return {.error = EACCES, .pdf = {}};
+  errno = 0;
+  if (!file.open(QIODevice::ReadWrite | QIODevice::NewOnly)) return {.error = errno != 0 ? errno : EIO, .pdf = {}};
   QPdfWriter writer(&file);
   writer.setTitle(name);
   writer.setCreator(QStringLiteral("Pelmar VEX"));
@@ -104,9 +110,14 @@ QString NewPdfPath(const QString& folder, const QString& name) {
 }
 
 PrintOutcome PrintOnDefault(const PrintFont& font, const QString& name, const std::function<void(Paper&)>& draw) {
-  SystemPrinter* const printer = FindPrinter();
+  QString problem;
+  SystemPrinter* const printer = FindPrinter(problem);
   const std::unique_ptr<QPagedPaintDevice> job = printer == nullptr ? nullptr : printer->BeginJob(name);
-  if (job == nullptr) return PrintIntoPdf(font, name, draw);
+  if (job == nullptr) {
+    PrintOutcome outcome = PrintIntoPdf(font, name, draw);
+    outcome.problem = Utf8FromQString(problem);
+    return outcome;
+  }
   const bool printed = PrintOn(*job, font, draw) && !printer->HasFailed(*job);
   return {.error = printed ? 0 : EIO, .pdf = {}};
 }

@@ -68,6 +68,8 @@ void MenuBar::Apply(const MenuState& state) {
 }
 
 bool MenuBar::RunGrey(const QKeyEvent& keys, const std::function<MenuState()>& now) const {
+  // A key that the toolkit doesn't know is as empty as the keys of an item that has none.
+  if (keys.key() == 0 || keys.key() == Qt::Key_unknown) return false;
   const QKeySequence sequence(keys.keyCombination());
   const std::pair<std::span<const std::string_view>, bool MenuState::*> groups[] = {
       {ItemsOfPath(), &MenuState::has_path},

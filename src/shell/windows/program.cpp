@@ -80,7 +80,7 @@ bool Program::MayClose() {
 }
 
 void Program::TellRuntimeError(const RuntimeError& error) {
-  const std::string kept = rescue_.KeepNow();
+  const std::string kept = session_.Mode() == StartMode::kEditor ? rescue_.KeepNow() : std::string();
   std::string text = "Běhová chyba " + std::to_string(error.Number()) + ":\r\n" + error.what() + "\r\n\r\n";
   if (!kept.empty()) {
     text += "Neuložené dokumenty jsou zachovány v souboru\r\n" + kept +

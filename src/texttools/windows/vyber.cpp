@@ -1,7 +1,5 @@
 #include "texttools/windows/vyber.h"
 
-#include <QShowEvent>
-
 #include "platform/qt/convert.h"
 #include "ui_vyber.h"
 
@@ -12,26 +10,14 @@ Vyber::Vyber(TextBuffer& document, QWidget* parent)
   ui_->setupUi(this);
   connect(ui_->Start, &QScrollBar::valueChanged, this, [this](int value) { Change(ui_->Label1, value); });
   connect(ui_->Delka, &QScrollBar::valueChanged, this, [this](int value) { Change(ui_->Label2, value); });
+  Load();
 }
 
 Vyber::~Vyber() = default;
 
-void Vyber::showEvent(QShowEvent* event) {
-  if (!event->spontaneous()) Load();
-  DialogWindow::showEvent(event);
-}
-
 void Vyber::Load() {
   const int start = static_cast<int>(document_.SelStart());
   const int length = static_cast<int>(document_.SelLength());  // the first slider may collapse the selection
-  {
-    const QSignalBlocker quiet_start(ui_->Start);
-    const QSignalBlocker quiet_length(ui_->Delka);
-    ui_->Start->setValue(0);
-    ui_->Delka->setValue(0);
-  }
-  ui_->Label1->setText(QStringLiteral("0"));
-  ui_->Label2->setText(QStringLiteral("0"));
   ui_->Start->setMaximum(static_cast<int>(document_.Size()));
   ui_->Delka->setMaximum(static_cast<int>(document_.Size()));
   ui_->Start->setValue(start);

@@ -1,4 +1,5 @@
-// `Výběr`: the exact selection by two sliders. It reads the selection anew each time it is opened.
+// `Výběr`: the exact selection by two sliders. It reads the selection once, when it is made, so each opening takes a
+// new one.
 #pragma once
 
 #include <memory>
@@ -20,9 +21,6 @@ class Vyber : public DialogWindow {
  public:
   Vyber(TextBuffer& document, QWidget* parent);
   ~Vyber() override;
-
- protected:
-  void showEvent(QShowEvent* event) override;
 
  private:
   void Load();

@@ -105,6 +105,8 @@ TEST_F(KalkulTest, WorksByTheRealKeyboard) {
   type("3");
   QTest::keyClick(number, Qt::Key_Return);
   EXPECT_EQ(Cislo(), "8");
+  type("/2^3=");
+  EXPECT_EQ(Cislo(), "64");
   platform.answers = {Answer::kOk};
   type("/0-");  // what can't be computed is told, and nothing waits
   EXPECT_TRUE(platform.answers.empty());

@@ -148,6 +148,11 @@ TEST_F(MainWindowTest, KeysOfGreyItemsGoByTheStateOfNow) {
   EXPECT_EQ(editor.text.SelText(), "abc");
   Press(Qt::Key_K, Qt::ControlModifier);
   EXPECT_EQ(platform.clipboard.value_or(""), "abc");
+  for (const int unknown : {0, static_cast<int>(Qt::Key_unknown)}) {
+    QKeyEvent press(QEvent::KeyPress, unknown, Qt::NoModifier);
+    QApplication::sendEvent(&window.Text(), &press);
+  }
+  EXPECT_EQ(editor.text.Text(), "abc");  // no key of the items that have none
   Press(Qt::Key_V, Qt::ControlModifier);
   EXPECT_EQ(editor.text.Text(), "abcabc");
   EXPECT_FALSE(copy->isEnabled());

@@ -236,6 +236,8 @@ void TextBox::resizeEvent(QResizeEvent* /*event*/) {
 
 void TextBox::showEvent(QShowEvent* event) {
   QAbstractScrollArea::showEvent(event);
+  // Back from where the window manager had put the window: what was scrolled to stays.
+  if (ready_ && event->spontaneous()) return Relayout();
   if (ready_) return ShowAnew();
   // The font's table is made when the window is on the screen, just before its first paint: until then the window
   // manager has to do, and shall not have to wait for a processor.
