@@ -2,11 +2,11 @@
 
 namespace pelmar {
 
-std::string_view ProfileComplaint(const ProfileFields& fields) {
-  if (fields.name.empty()) return "Vyplňte prosím své jméno.";
-  if (fields.email.empty()) return "Vyplňte prosím E-m@il.";
+ProfileComplaint CheckProfile(const ProfileFields& fields) {
+  if (fields.name.empty()) return {ProfileField::kName, "Vyplňte prosím své jméno."};
+  if (fields.email.empty()) return {ProfileField::kEmail, "Vyplňte prosím E-m@il."};
   if (fields.check_password && fields.password != fields.password_again)
-    return "Zkontrolujete zprávnot zadaného hesla.";
+    return {ProfileField::kPassword, "Zkontrolujete zprávnot zadaného hesla."};
   return {};
 }
 

@@ -16,8 +16,14 @@ struct ProfileFields {
   std::string password_again;
 };
 
-// The message that the dialog shows (UTF-8) instead of accepting, "" where it accepts.
-std::string_view ProfileComplaint(const ProfileFields& fields);
+enum class ProfileField { kNone, kName, kEmail, kPassword };
+
+// Which field keeps the dialog from accepting, kNone where it accepts, and the message that it shows then (UTF-8).
+struct ProfileComplaint {
+  ProfileField field = ProfileField::kNone;
+  std::string_view message = {};
+};
+ProfileComplaint CheckProfile(const ProfileFields& fields);
 
 // Name, address and password. required: the password is stored without the check mark too, and uncompared then.
 void StoreProfile(const ProfileFields& fields, SettingsRecord& settings);

@@ -8,16 +8,20 @@ namespace {
 TEST(Profile, RefusesInTheToldOrder) {
   const struct {
     ProfileFields fields;
-    std::string_view complaint;
+    ProfileField field;
+    std::string_view message;
   } cases[] = {
-      {{"", "", true, "a", "b"}, "Vyplňte prosím své jméno."},
-      {{"Jan", "", true, "a", "b"}, "Vyplňte prosím E-m@il."},
-      {{"Jan", "@", true, "a", "A"}, "Zkontrolujete zprávnot zadaného hesla."},
-      {{"Jan", "@", true, "a", "a"}, ""},
-      {{"Jan", "@", true, "", ""}, ""},
-      {{"Jan", "@", false, "a", "b"}, ""},
+      {{"", "", true, "a", "b"}, ProfileField::kName, "Vyplňte prosím své jméno."},
+      {{"Jan", "", true, "a", "b"}, ProfileField::kEmail, "Vyplňte prosím E-m@il."},
+      {{"Jan", "@", true, "a", "A"}, ProfileField::kPassword, "Zkontrolujete zprávnot zadaného hesla."},
+      {{"Jan", "@", true, "a", "a"}, ProfileField::kNone, ""},
+      {{"Jan", "@", true, "", ""}, ProfileField::kNone, ""},
+      {{"Jan", "@", false, "a", "b"}, ProfileField::kNone, ""},
   };
-  for (const auto& c : cases) EXPECT_EQ(ProfileComplaint(c.fields), c.complaint);
+  for (const auto& c : cases) {
+    EXPECT_EQ(CheckProfile(c.fields).message, c.message);
+    EXPECT_EQ(CheckProfile(c.fields).field, c.field) << c.message;
+  }
 }
 
 // required: the password goes in without the check mark and without a comparison

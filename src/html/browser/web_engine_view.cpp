@@ -84,7 +84,12 @@ void WebEngineView::Stop() {
 
 bool WebEngineView::Busy() const { return expecting_.isActive() || page_->isLoading(); }
 
-QString WebEngineView::LocationName() const { return page_->title(); }
+QString WebEngineView::LocationName() const {
+  const QString title = page_->title();
+  // Where a page has no title, the engine makes one of the file's name, and encodes some of it.
+  const QString name = page_->url().fileName(QUrl::FullyDecoded);
+  return QUrl::fromPercentEncoding(title.toUtf8()) == name ? name : title;
+}
 
 QUrl WebEngineView::LocationAddress() const { return page_->url(); }
 

@@ -12,6 +12,12 @@ namespace {
 
 bool HasKeyboard(const QWidget* widget) { return widget != nullptr && widget->hasFocus() && widget->isActiveWindow(); }
 
+void DrawKeyboardFrame(QPainter& painter, const QStyleOption& option) {
+  painter.setPen(option.palette.color(QPalette::Highlight));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRect(option.rect.adjusted(0, 0, -1, -1));
+}
+
 }  // namespace
 
 QIcon ProgramStyle::standardIcon(StandardPixmap picture, const QStyleOption* option, const QWidget* widget) const {
@@ -38,9 +44,15 @@ void ProgramStyle::drawControl(ControlElement element, const QStyleOption* optio
     return QProxyStyle::drawControl(element, &chosen, painter, widget);
   }
   QProxyStyle::drawControl(element, option, painter, widget);
-  if (element != CE_ShapedFrame || !qobject_cast<const QAbstractItemView*>(widget) || !HasKeyboard(widget)) return;
-  painter->setPen(option->palette.color(QPalette::Highlight));
-  painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+  if (element == CE_ShapedFrame && qobject_cast<const QAbstractItemView*>(widget) && HasKeyboard(widget))
+    DrawKeyboardFrame(*painter, *option);
+}
+
+void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                                      const QWidget* widget) const {
+  QProxyStyle::drawComplexControl(control, option, painter, widget);
+  // A bar that stands for a value; those of lists and texts never have the keyboard.
+  if (control == CC_ScrollBar && HasKeyboard(widget)) DrawKeyboardFrame(*painter, *option);
 }
 
 }  // namespace pelmar

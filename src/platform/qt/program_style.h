@@ -18,6 +18,8 @@ class ProgramStyle : public QProxyStyle {
                 QStyleHintReturn* answer) const override;
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                    const QWidget* widget) const override;
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                          const QWidget* widget) const override;
 };
 
 }  // namespace pelmar

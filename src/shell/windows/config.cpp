@@ -34,9 +34,12 @@ ProfileFields Config::Fields() const {
 
 void Config::Command1_Click() {
   const ProfileFields fields = Fields();
-  if (const std::string_view complaint = ProfileComplaint(fields); !complaint.empty()) {
-    platform_.Message(MessageType::kOkInfo, complaint, "Config");
-    return;
+  if (const ProfileComplaint complaint = CheckProfile(fields); complaint.field != ProfileField::kNone) {
+    platform_.Message(MessageType::kOkInfo, complaint.message, "Config");
+    QLineEdit* const field = complaint.field == ProfileField::kName    ? ui_->Text1
+                             : complaint.field == ProfileField::kEmail ? ui_->Text2
+                                                                       : ui_->Text3;
+    return field->setFocus(Qt::TabFocusReason);
   }
   StoreProfile(fields, settings_);
   hide();

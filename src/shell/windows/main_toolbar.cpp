@@ -11,6 +11,14 @@
 namespace pelmar {
 namespace {
 
+// A long path without its middle, so that the menu stays narrower than a screen.
+QString Shortened(const QString& item) {
+  constexpr qsizetype kMost = 100;
+  constexpr qsizetype kBegin = 40;
+  if (item.size() <= kMost) return item;
+  return item.left(kBegin) + QChar(0x2026) + item.right(kMost - kBegin - 1);
+}
+
 // Behind the digit's own, every "&" of a path is a character of its name.
 QString EscapedMnemonics(const QString& item) {
   return item.left(1) + item.mid(1).replace(QLatin1Char('&'), QLatin1String("&&"));
@@ -81,7 +89,7 @@ void MainToolbar::Refresh() {
 void MainToolbar::ShowRecentFiles() {
   for (int number = 1; number <= 10; ++number)
     recent_[static_cast<std::size_t>(number - 1)]->setText(
-        EscapedMnemonics(Utf8ToQString(opener_.RecentItemText(number))));
+        EscapedMnemonics(Shortened(Utf8ToQString(opener_.RecentItemText(number)))));
 }
 
 }  // namespace pelmar

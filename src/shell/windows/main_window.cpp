@@ -47,7 +47,7 @@ MainWindow::MainWindow(Editor& editor) : editor_(editor) {
   setAcceptDrops(true);
   setMinimumSize(kSmallest.boundedTo(screen()->size() / 2));
   restore_timer_.setInterval(kRestorePoll);
-  connect(&restore_timer_, &QTimer::timeout, this, &MainWindow::FitToRestoredFrame);
+  connect(&restore_timer_, &QTimer::timeout, this, &MainWindow::FitToNewFrame);
   MakeControls();
   AddViewCommands();
   FollowDocuments();
@@ -150,6 +150,9 @@ LayoutInput MainWindow::Measures() const {
 void MainWindow::ApplyLayout() {
   if (laying_out_) return;
   laying_out_ = true;
+  // While the window still comes to its size, each step is the first one, or a step of few pixels would make panel 4
+  // alternate from the start on.
+  if (!ticked_) bar_->SetWidth(4, 0);
   const LayoutInput in = Measures();
   const LayoutResult out = ComputeLayout(in);
   const int bar_height = PixelsOf(in.bar_height);
@@ -161,29 +164,31 @@ void MainWindow::ApplyLayout() {
   text_->setGeometry(0, top, width, height);
   tabs_->SetStripWidth(client_->width() - width);
   tabs_->setGeometry(0, top, out.tabs_width ? PixelsOf(*out.tabs_width) : tabs_->width(), height);
-  // Before the frame is known the outer width is not the window's real one.
   if (out.panel4_width && frame_known_) bar_->SetWidth(4, *out.panel4_width);
   if (out.grow_outer_height > 0) resize(this->width(), this->height() + PixelsOf(out.grow_outer_height));
   laying_out_ = false;
 }
 
 void MainWindow::WidenContentPanel() {
-  if (isMinimized()) return;
+  // Before the frame is known the outer width is not the window's real one.
+  if (isMinimized() || !frame_known_) return;
+  ticked_ = true;
   if (const auto spare = SparePanelWidth(OuterGeometry(*this).width, bar_->Widths())) bar_->SetWidth(4, *spare);
 }
 
-// The frame's size is known from the first time the window is painted; only then outer sizes can be met.
+// The frame is there when the window is first painted, or a moment later; only then outer sizes can be met.
 void MainWindow::FitToFrame() {
-  if (frame_known_) return;
-  frame_known_ = true;
+  if (frame_known_ || restore_timer_.isActive()) return;
   // The icon is rendered when it is set, which can wait until the window is there.
   ShowProgramIcon();
-  const QSize before = size();
-  if (!isMaximized() && !isMinimized()) {
-    SetOuterWidth(*this, wanted_place_.width);
-    SetOuterHeight(*this, wanted_place_.height);
-  }
-  if (size() == before) ApplyLayout();
+  AwaitFrame({});
+  FitToNewFrame();
+}
+
+void MainWindow::AwaitFrame(const QMargins& left) {
+  frame_left_ = left;
+  restore_deadline_.setRemainingTime(kRestoreTime);
+  restore_timer_.start();
 }
 
 void MainWindow::SetPlace(const TwipsRect& place) {
@@ -214,19 +219,21 @@ int MainWindow::WindowState() const {
 
 void MainWindow::SetNormalState() {
   if (!isMaximized() && !isMinimized()) return;
-  frame_left_ = windowHandle()->frameMargins();
-  restore_deadline_.setRemainingTime(kRestoreTime);
-  restore_timer_.start();
+  AwaitFrame(windowHandle()->frameMargins());
   showNormal();
 }
 
 // A window manager may give a maximised window another frame than a normal one, and tells only later. A size that was
 // asked for in between is put right then.
-void MainWindow::FitToRestoredFrame() {
+void MainWindow::FitToNewFrame() {
   const bool changed = windowHandle()->frameMargins() != frame_left_;
   if (!changed && !restore_deadline_.hasExpired()) return;
   restore_timer_.stop();
-  if (changed) SetOuterSize(wanted_place_.width, wanted_place_.height);
+  const bool first = !frame_known_;
+  frame_known_ = true;
+  const QSize before = size();
+  if (changed && !isMaximized() && !isMinimized()) SetOuterSize(wanted_place_.width, wanted_place_.height);
+  if (first && size() == before) ApplyLayout();
 }
 
 void MainWindow::SetOuterSize(int width, int height) {

@@ -88,7 +88,9 @@ class MainWindow : public QMainWindow, public MainView {
   void ToggleBar(std::string_view item, QWidget* bar);
   void ToggleAlwaysOnTop();
   void FitToFrame();
-  void FitToRestoredFrame();
+  void FitToNewFrame();
+  // Waits for a frame other than the one that is left.
+  void AwaitFrame(const QMargins& left);
   void SetBoxFont(const QFont& font);
   [[nodiscard]] LayoutInput Measures() const;
 
@@ -107,6 +109,7 @@ class MainWindow : public QMainWindow, public MainView {
   QDeadlineTimer restore_deadline_;
   QTimer restore_timer_;
   bool frame_known_ = false;
+  bool ticked_ = false;  // panel 4 has got its width by a tick
   bool laying_out_ = false;
   bool main_active_ = false;
   bool accessory_mode_ = false;

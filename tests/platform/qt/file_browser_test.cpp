@@ -101,6 +101,17 @@ TEST_F(FolderListTest, EnterMovesAndEveryKeyIsToldWhenReleased) {
   EXPECT_EQ(keys[1][0].toInt(), Qt::Key_Return);
 }
 
+TEST_F(FolderListTest, TheHighlightComesBackFromAFolderThatCantBeEntered) {
+  list_.setCurrentIndex(list_.model()->index(list_.model()->rowCount() - 1, 0));
+  const QString gone = list_.HighlightedPath();
+  ASSERT_NE(gone, list_.Path());
+  ASSERT_TRUE(QDir(gone).removeRecursively());
+  changes_.clear();
+  QTest::keyClick(&list_, Qt::Key_Return);
+  EXPECT_EQ(list_.HighlightedPath(), list_.Path());
+  EXPECT_EQ(changes_.count(), 0);
+}
+
 TEST_F(FolderListTest, SeesWhatChangedWhileHidden) {
   list_.SetPath(base_ + QStringLiteral("/b/inner"));
   list_.hide();

@@ -213,7 +213,11 @@ TEST(ConfigWindow, StoresWhatIsValidAndEscapePressesOk) {
     QTest::keyClick(&config, Qt::Key_Escape);
     EXPECT_EQ(platform.calls.back(), "message 64 \"Vyplňte prosím své jméno.\" \"Config\"");
     EXPECT_TRUE(config.isVisible());
+    EXPECT_EQ(config.focusWidget(), Find<QLineEdit>(config, "Text1"));
     Find<QLineEdit>(config, "Text1")->setText(QStringLiteral("Jiří"));
+    platform.answers = {Answer::kOk};
+    QTest::keyClick(&config, Qt::Key_Escape);
+    EXPECT_EQ(config.focusWidget(), Find<QLineEdit>(config, "Text2"));  // which the message names
     Find<QLineEdit>(config, "Text2")->setText(QStringLiteral("j@x.cz"));
     QTest::keyClick(&config, Qt::Key_Escape);
   });

@@ -4,12 +4,14 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QShowEvent>
 #include <QToolButton>
 
+#include "platform/qt/controls/text_box.h"
 #include "platform/qt/outer_geometry.h"
 #include "platform/qt/svg_icon.h"
 
@@ -29,6 +31,14 @@ bool HoldsValue(const QWidget& widget) {
          (qobject_cast<const QScrollBar*>(&widget) && widget.focusPolicy() != Qt::NoFocus);
 }
 
+// What the tabulator key selects in a field.
+void SelectText(QWidget& field) {
+  if (auto* line = qobject_cast<QLineEdit*>(&field)) line->selectAll();
+  if (auto* box = qobject_cast<QComboBox*>(&field); box != nullptr && box->isEditable()) box->lineEdit()->selectAll();
+  if (auto* text = qobject_cast<TextBox*>(&field); text != nullptr && text->TabSelectsAll())
+    text->Buffer().Select(0, text->Buffer().Size());
+}
+
 bool IsPlainEnter(const QKeyEvent& event) {
   return (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) &&
          (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
@@ -39,9 +49,11 @@ bool IsPlainEnter(const QKeyEvent& event) {
 DialogWindow::DialogWindow(QWidget* parent) : QDialog(parent) {}
 
 void DialogWindow::Present() {
+  const bool on_show = isVisible();
   show();
   raise();
   activateWindow();
+  if (on_show) BeginInFirstField();
 }
 
 int DialogWindow::exec() {
@@ -92,12 +104,19 @@ void DialogWindow::showEvent(QShowEvent* event) {
   if (event->spontaneous()) return QDialog::showEvent(event);
   if (!prepared_) Prepare();
   QDialog::showEvent(event);
-  // By the tabulator key's reason, with which fields select their text.
-  if (first_field_ && first_field_->isEnabled()) first_field_->setFocus(Qt::TabFocusReason);
+  BeginInFirstField();
+}
+
+void DialogWindow::BeginInFirstField() {
+  if (!first_field_ || !first_field_->isEnabled()) return;
+  first_field_->setFocus(Qt::TabFocusReason);
+  // A window that isn't active yet gets the keyboard later, and for another reason than that key's.
+  SelectText(*first_field_);
 }
 
 void DialogWindow::Prepare() {
   prepared_ = true;
+  setAttribute(Qt::WA_KeyboardFocusChange);  // what has the keyboard shows it from the first moment on
   ShowProgramIcon();
   FitScreen(*this);
   CentreOnScreen(*this);

@@ -19,7 +19,7 @@ class DialogWindow : public QDialog {
  public:
   explicit DialogWindow(QWidget* parent);
 
-  // Shows the window, or brings it to the front where it is on show already.
+  // Shows the window, or brings it to the front where it is on show already. Begins in its first field.
   void Present();
 
   // Waits like a dialog of the window that asks, which is the active one again afterwards.
@@ -36,6 +36,7 @@ class DialogWindow : public QDialog {
  private:
   // What the first opening needs only.
   void Prepare();
+  void BeginInFirstField();
 
   std::map<QObject*, std::function<void()>> on_enter_;
   QPointer<QWidget> first_field_;

@@ -110,7 +110,7 @@ FolderList::FolderList(QWidget* parent) : QListView(parent), model_(new FolderMo
   setModel(model_);
   setItemDelegate(new IndentingDelegate(this));
   setEditTriggers(NoEditTriggers);
-  connect(this, &QListView::doubleClicked, this, [this] { SetPath(HighlightedPath()); });
+  connect(this, &QListView::doubleClicked, this, &FolderList::EnterHighlighted);
   path_ = Climb(QDir::currentPath());
   Fill(path_);
 }
@@ -139,7 +139,12 @@ void FolderList::keyPressEvent(QKeyEvent* event) {
   if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) return QListView::keyPressEvent(event);
   // Accepted, or the dialog's default button would act as well.
   event->accept();
-  SetPath(HighlightedPath());
+  EnterHighlighted();
+}
+
+void FolderList::EnterHighlighted() {
+  if (IsReadableFolder(HighlightedPath())) return SetPath(HighlightedPath());
+  Fill(path_);
 }
 
 void FolderList::keyReleaseEvent(QKeyEvent* event) {

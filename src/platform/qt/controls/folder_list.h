@@ -38,6 +38,8 @@ class FolderList : public QListView {
 
  private:
   void Fill(const QString& highlighted);
+  // Moves into the highlighted folder; the highlight goes back where that can't be read.
+  void EnterHighlighted();
 
   FolderModel* model_;
   QString path_;

@@ -27,7 +27,8 @@ void TextMouse::Press(QMouseEvent* event) {
   QGuiApplication::inputMethod()->commit();
   const QPoint at = event->position().toPoint();
   if (event->button() == Qt::LeftButton) return PressLeft(event);
-  if (event->button() == Qt::RightButton && !box_.IsSelectedAt(at)) box_.PutCaret(box_.PlaceAt(at), false);
+  // What is selected stays for the pop-up menu to work on, wherever the menu is asked for.
+  if (event->button() == Qt::RightButton && !box_.Buffer().HasSelection()) box_.PutCaret(box_.PlaceAt(at), false);
   if (event->button() != Qt::RightButton && event->button() != Qt::MiddleButton) event->ignore();
 }
 
