@@ -149,14 +149,13 @@ Preview Kalkul::PhysicalKey(const QKeyEvent& event) {
   const auto character = TypedCharacter(event);
   QPushButton* key = event.key() == Qt::Key_Delete ? ui_->Command23 : character ? KeyOf(*character) : nullptr;
   if (key == nullptr) return Preview::kPass;
-  // Who types doesn't look at the keys: an operator behind another one ends the operation that waits first.
-  // Also the one that the keys on the screen leave on.
-  const bool chained = calculator_.EqualsOn() && (!key->isEnabled() || key == ui_->Command33);
-  if (chained && !calculator_.Evaluate()) {
+  // Who types doesn't look at the keys: an operator behind another one, also the one that the keys on the screen leave
+  // on, ends the operation that waits first.
+  if (calculator_.EqualsOn() && (!key->isEnabled() || key == ui_->Command33)) {
+    const bool done = calculator_.Evaluate();
     Show();
-    return Preview::kTake;
+    if (!done) return Preview::kTake;
   }
-  if (chained) Show();
   key->click();
   return Preview::kTake;
 }

@@ -31,8 +31,8 @@ void EnableWith(QCheckBox* box, std::initializer_list<QWidget*> widgets);
 void ConnectColorChoice(QAbstractButton* button, Swatch* swatch, QLabel* hex, std::function<Color(Color)> pick,
                         std::function<void(const QColor&)> taken = {});
 
-// The box takes any text as it is typed: none is completed from the list, and where the
-// text of now isn't in it, the arrow key Down goes to the first row.
+// The box takes any text as it is typed: none is completed from the list, and where the text of now isn't in it, the
+// arrow key Down goes to the first row.
 void AcceptFreeText(QComboBox* box);
 
 // The number with a blank in front of it, as the labels of many values are written, and "%" where it is one of percent.

@@ -25,9 +25,9 @@ namespace {
 constexpr QSize kSmallest(480, 320);
 // The window of a first start, where nothing is stored yet: room for the whole toolbar.
 constexpr QSize kFirstSize(820, 560);
-// How long a window manager may take to give a restored window its frame.
-constexpr std::chrono::milliseconds kRestoreTime(500);
-constexpr std::chrono::milliseconds kRestorePoll(20);
+// How long a window manager may take to give a new or restored window its frame, and how often that is looked at.
+constexpr std::chrono::milliseconds kFrameTime(500);
+constexpr std::chrono::milliseconds kFramePoll(20);
 
 // Left, right, centre.
 constexpr Qt::Alignment kAlignments[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
@@ -46,8 +46,8 @@ MainWindow::MainWindow(Editor& editor) : editor_(editor) {
   setProperty(kTagProperty, QLatin1String(kAutosnapTag));
   setAcceptDrops(true);
   setMinimumSize(kSmallest.boundedTo(screen()->size() / 2));
-  restore_timer_.setInterval(kRestorePoll);
-  connect(&restore_timer_, &QTimer::timeout, this, &MainWindow::FitToNewFrame);
+  frame_timer_.setInterval(kFramePoll);
+  connect(&frame_timer_, &QTimer::timeout, this, &MainWindow::FitToNewFrame);
   MakeControls();
   AddViewCommands();
   FollowDocuments();
@@ -178,7 +178,7 @@ void MainWindow::WidenContentPanel() {
 
 // The frame is there when the window is first painted, or a moment later; only then outer sizes can be met.
 void MainWindow::FitToFrame() {
-  if (frame_known_ || restore_timer_.isActive()) return;
+  if (frame_known_ || frame_timer_.isActive()) return;
   // The icon is rendered when it is set, which can wait until the window is there.
   ShowProgramIcon();
   AwaitFrame({});
@@ -187,8 +187,8 @@ void MainWindow::FitToFrame() {
 
 void MainWindow::AwaitFrame(const QMargins& left) {
   frame_left_ = left;
-  restore_deadline_.setRemainingTime(kRestoreTime);
-  restore_timer_.start();
+  frame_deadline_.setRemainingTime(kFrameTime);
+  frame_timer_.start();
 }
 
 void MainWindow::SetPlace(const TwipsRect& place) {
@@ -227,8 +227,8 @@ void MainWindow::SetNormalState() {
 // asked for in between is put right then.
 void MainWindow::FitToNewFrame() {
   const bool changed = windowHandle()->frameMargins() != frame_left_;
-  if (!changed && !restore_deadline_.hasExpired()) return;
-  restore_timer_.stop();
+  if (!changed && !frame_deadline_.hasExpired()) return;
+  frame_timer_.stop();
   const bool first = !frame_known_;
   frame_known_ = true;
   const QSize before = size();

@@ -104,10 +104,10 @@ class MainWindow : public QMainWindow, public MainView {
   StatusStrip* bar_ = nullptr;
   int window_state_ = 0;
   TwipsRect wanted_place_;
-  // From the request to leave a state until the frame of the next one is there.
+  // From the first painting, or the request to leave a state, until the window's frame is there.
   QMargins frame_left_;
-  QDeadlineTimer restore_deadline_;
-  QTimer restore_timer_;
+  QDeadlineTimer frame_deadline_;
+  QTimer frame_timer_;
   bool frame_known_ = false;
   bool ticked_ = false;  // panel 4 has got its width by a tick
   bool laying_out_ = false;

@@ -13,8 +13,7 @@ constexpr int kTextMargin = 4;
 
 // How many characters the panels have room for at the start, but for panel 4, which begins with none and takes what is
 // left. The largest figures of a document fit in, and all seven into the window of the DOS look. Counted in average
-// characters, because measuring texts means loading the font's shaping before the first
-// window.
+// characters, because measuring texts means loading the font's shaping before the first window.
 constexpr int kCharacters[kPanelCount] = {23, 24, 25, 0, 6, 6, 5};
 constexpr QStringView kTips[kPanelCount] = {
     u"Pozice", u"Délka", u"Řádky (Click - off, DblCick - on)", u"Obsah", u"CAPS", u"NUM", u"INS",

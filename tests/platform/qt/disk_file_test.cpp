@@ -123,6 +123,7 @@ TEST(ReplaceFile, KeepsPermissionsAndLinks) {
 }
 
 TEST(ReplaceFile, KeepsTheOwner) {
+  // Only root can make a file of another owner, so there is nothing to keep for anyone else.
   if (geteuid() != 0) GTEST_SKIP() << "only root may write others' files";
   const TempFolder folder;
   const std::string path = folder.Put("theirs", "old");

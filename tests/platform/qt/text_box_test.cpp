@@ -557,6 +557,7 @@ TEST_F(TextBoxTest, RightButtonKeepsTheSelectionAndMenusMayBeTheWindows) {
 }
 
 TEST_F(TextBoxTest, PrimarySelectionIsSetAndPasted) {
+  // Where the platform has no primary selection there is nothing to set or to paste.
   if (!Clipboard().supportsSelection()) GTEST_SKIP() << "this platform has no primary selection";
   Set("one two");
   QTest::mouseDClick(box->viewport(), Qt::LeftButton, {}, PointOf(1));

@@ -25,6 +25,14 @@ Type* Find(const QWidget& window, const char* name) {
 }
 void Click(const QWidget& window, const char* name) { Find<QPushButton>(window, name)->click(); }
 
+// Opens the dialog on two terms and finds the first match of the one.
+void FindFirst(Zamena& dialog, const char* term, const char* change) {
+  dialog.Present();
+  Find<TextBox>(dialog, "Find")->SetText(term);
+  Find<TextBox>(dialog, "Chage")->SetText(change);
+  Click(dialog, "Command1");
+}
+
 struct SearchWindowsTest : testing::Test {
   ScriptedPlatform platform;
   TextBuffer text;
@@ -91,10 +99,7 @@ TEST_F(SearchWindowsTest, HledaniTakesALongSelectionOfSeveralLines) {
 TEST_F(SearchWindowsTest, OneEnterTooManyDoesNotReplaceAll) {
   text.SetText("a");
   Zamena dialog(text, platform, nullptr);
-  dialog.Present();
-  Find<TextBox>(dialog, "Find")->SetText("a");
-  Find<TextBox>(dialog, "Chage")->SetText("b");
-  Click(dialog, "Command1");
+  FindFirst(dialog, "a", "b");
   platform.answers = {Answer::kOk};
   for (int times = 0; times < 2; ++times) QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
   EXPECT_TRUE(Find<QPushButton>(dialog, "Command6")->isEnabled());
@@ -142,10 +147,7 @@ TEST_F(SearchWindowsTest, ZamenaReplacesAndKeepsThePairs) {
 TEST_F(SearchWindowsTest, TheFieldsAreUpToDateBehindAMessage) {
   text.SetText("a");
   Zamena dialog(text, platform, nullptr);
-  dialog.Present();
-  Find<TextBox>(dialog, "Find")->SetText("a");
-  Find<TextBox>(dialog, "Chage")->SetText("x");
-  Click(dialog, "Command1");
+  FindFirst(dialog, "a", "x");
   QString shown;
   platform.answers = {Answer::kOk};
   platform.on_message = [&] { shown = Find<QLabel>(dialog, "Label5")->text(); };
