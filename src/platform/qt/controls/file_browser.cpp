@@ -10,17 +10,9 @@
 #include "shell/common.h"
 
 namespace pelmar {
-namespace {
-
-bool IsEnter(int key) { return key == Qt::Key_Return || key == Qt::Key_Enter; }
-
-}  // namespace
 
 void LinkFolderBrowser(DriveList* place, FolderList* folders) {
   QObject::connect(place, &DriveList::DriveChanged, folders, &FolderList::SetPath);
-  QObject::connect(folders, &FolderList::KeyReleased, folders, [folders](int key) {
-    if (IsEnter(key)) folders->SetPath(folders->HighlightedPath());
-  });
   folders->SetPath(QDir::currentPath());
   place->SetDrive(folders->Path());
 }
