@@ -9,7 +9,8 @@
 #include "platform/qt/fonts.h"
 #include "platform/qt/program_style.h"
 #include "platform/qt/qt_platform.h"
-#include "shell/windows/program.h"
+#include "platform/runtime_error.h"
+#include "program/program.h"
 
 namespace {
 

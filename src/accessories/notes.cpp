@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <cerrno>
 
-#include "shell/common.h"
+#include "platform/paths.h"
+#include "platform/runtime_error.h"
 #include "shell/record_bytes.h"
 #include "text/codepage.h"
 

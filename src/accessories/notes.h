@@ -9,8 +9,8 @@
 #include <string_view>
 #include <vector>
 
-#include "files/file_number.h"
 #include "platform/platform.h"
+#include "shell/file_number.h"
 
 namespace pelmar {
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "html/insert.h"
 #include "text/codepage.h"
+#include "text/insert.h"
 #include "text/number_text.h"
 
 namespace pelmar {

@@ -2,6 +2,8 @@
 
 #include <cstring>
 
+#include "platform/busy.h"
+#include "platform/runtime_error.h"
 #include "shell/common.h"
 
 namespace pelmar {
@@ -45,10 +47,9 @@ void Convert(Platform& platform, const std::string& path, std::string_view exten
                      "Konverze UNIX <-> DOS");
     return;
   }
-  platform.SetBusyPointer(true);
-  const int error = platform.RewriteFile(path, target, tail, rewriter);
-  platform.SetBusyPointer(false);
-  if (error != 0) throw RuntimeError(error, "Konverze souboru " + path + " do " + target + ": " + std::strerror(error));
+  const BusyPointer busy(platform);
+  if (const int error = platform.RewriteFile(path, target, tail, rewriter))
+    throw RuntimeError(error, "Konverze souboru " + path + " do " + target + ": " + std::strerror(error));
 }
 
 }  // namespace

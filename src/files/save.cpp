@@ -1,5 +1,8 @@
 #include "files/save.h"
 
+#include "platform/paths.h"
+#include "platform/runtime_error.h"
+
 namespace pelmar {
 
 Saver::Saver(Documents& documents, Opener& opener, Platform& platform, FileNumber& file_number)

@@ -3,9 +3,9 @@
 #include <algorithm>
 
 #include "html/attributes.h"
-#include "html/insert.h"
 #include "shell/common.h"
 #include "shell/editor.h"
+#include "text/insert.h"
 
 namespace pelmar {
 namespace {

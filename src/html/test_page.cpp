@@ -3,7 +3,10 @@
 #include <cerrno>
 #include <cstdint>
 
-#include "html/insert.h"
+#include "platform/busy.h"
+#include "platform/runtime_error.h"
+#include "shell/common.h"
+#include "text/insert.h"
 
 namespace pelmar {
 namespace {
@@ -53,9 +56,8 @@ std::optional<TestPage> TryTestPage(Editor& e, std::string_view extension, PageE
 }
 
 void RemoveHtml(Editor& e) {
-  e.platform.SetBusyPointer(true);
+  const BusyPointer busy(e.platform);
   ReplaceSelection(e.text, StripHtml(e.text.SelText()));
-  e.platform.SetBusyPointer(false);
 }
 
 void TestHtml(Editor& e) {

@@ -4,8 +4,8 @@
 
 #include <cerrno>
 
-#include "files/checkpoints.h"
-#include "shell/common.h"
+#include "accessories/checkpoints.h"
+#include "platform/runtime_error.h"
 #include "support/scripted_platform.h"
 
 namespace pelmar {

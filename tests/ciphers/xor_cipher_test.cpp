@@ -7,8 +7,8 @@
 #include <random>
 #include <vector>
 
-#include "shell/editor.h"
 #include "support/scripted_platform.h"
+#include "support/whole_editor.h"
 #include "text/codepage.h"
 #include "text/number_text.h"
 
@@ -272,7 +272,7 @@ TEST_F(StreamTest, ReadsADocumentThatChangesUnderIt) {
 
 TEST(PrimitiveRewrite, TakesEachCodeFrom256) {
   ScriptedPlatform platform;
-  Editor editor(platform);
+  WholeEditor editor(platform);
   std::string all;
   for (int code = 0; code < 256; ++code) all += CharOf(code);
   editor.text.SetText(all);

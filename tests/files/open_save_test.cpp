@@ -2,8 +2,9 @@
 
 #include <cerrno>
 
-#include "shell/editor.h"
+#include "platform/runtime_error.h"
 #include "support/scripted_platform.h"
+#include "support/whole_editor.h"
 #include "text/codepage.h"
 
 namespace pelmar {
@@ -14,7 +15,7 @@ using Calls = std::vector<std::string>;
 
 struct FilesTest : testing::Test {
   ScriptedPlatform platform;
-  Editor editor{platform};
+  WholeEditor editor{platform};
   Documents& documents = editor.documents;
 
   void Answers(std::initializer_list<Answer> answers) { platform.answers = answers; }

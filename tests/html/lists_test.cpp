@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "shell/editor.h"
 #include "support/scripted_platform.h"
+#include "support/whole_editor.h"
 #include "text/codepage.h"
 
 namespace pelmar {
@@ -38,7 +38,7 @@ TEST(Lists, OfDefinitions) {
 
 TEST(Lists, OfTheSelectedLines) {
   ScriptedPlatform platform;
-  Editor editor(platform);
+  WholeEditor editor(platform);
   const std::pair<std::string, std::string_view> cases[] = {
       {"a\r\nbc", "<UL><LI>a</LI>\r\n<LI>b</LI></UL>"},  // required: the last character is lost
       {"x", "<UL><LI></LI></UL>"},

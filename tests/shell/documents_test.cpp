@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "shell/common.h"
+#include "platform/runtime_error.h"
+#include "program/session.h"
 #include "shell/rescue_file.h"
-#include "shell/session.h"
 
 namespace pelmar {
 namespace {

@@ -3,7 +3,7 @@
 #include <QEvent>
 #include <QPainter>
 
-#include "platform/qt/controls/glyph_table.h"
+#include "platform/qt/glyph_table.h"
 #include "text/codepage.h"
 
 namespace pelmar {

@@ -7,6 +7,7 @@
 #include "platform/qt/convert.h"
 #include "platform/qt/outer_geometry.h"
 #include "platform/qt/svg_icon.h"
+#include "platform/twips.h"
 #include "shell/stand_alone.h"
 #include "ui_poznamka.h"
 

@@ -2,8 +2,8 @@
 
 #include "html/blocks.h"
 #include "html/dialogs/form_helpers.h"
-#include "html/insert.h"
 #include "platform/qt/convert.h"
+#include "text/insert.h"
 #include "ui_barva.h"
 #include "ui_hr.h"
 #include "ui_nadpis.h"

@@ -2,8 +2,8 @@
 
 #include "html/dialogs/form_helpers.h"
 #include "html/dialogs/paired_lists.h"
-#include "html/insert.h"
 #include "platform/qt/convert.h"
+#include "text/insert.h"
 #include "ui_cis_seznam.h"
 #include "ui_seznam.h"
 #include "ui_seznam_def.h"

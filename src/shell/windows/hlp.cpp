@@ -2,8 +2,8 @@
 
 #include <cstring>
 
+#include "platform/paths.h"
 #include "platform/qt/convert.h"
-#include "shell/common.h"
 #include "shell/help.h"
 #include "ui_hlp.h"
 

@@ -3,7 +3,7 @@
 #include <QCoreApplication>
 #include <utility>
 
-#include "shell/common.h"
+#include "platform/paths.h"
 
 namespace pelmar {
 namespace {

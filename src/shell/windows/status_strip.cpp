@@ -3,6 +3,7 @@
 #include <QMouseEvent>
 
 #include "platform/qt/convert.h"
+#include "platform/twips.h"
 #include "shell/window_geometry.h"
 
 namespace pelmar {

@@ -8,6 +8,7 @@
 #include "platform/platform.h"
 #include "platform/qt/controls/elided_label.h"
 #include "shell/status.h"
+#include "shell/window_geometry.h"
 
 namespace pelmar {
 

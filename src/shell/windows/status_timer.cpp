@@ -3,6 +3,7 @@
 #include <QApplication>
 
 #include "platform/qt/outer_geometry.h"
+#include "platform/twips.h"
 #include "shell/status.h"
 #include "shell/window_geometry.h"
 #include "shell/windows/main_window.h"

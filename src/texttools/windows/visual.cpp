@@ -13,10 +13,9 @@ constexpr int kDefaultSnap = 240;  // twips
 
 }  // namespace
 
-Visual::Visual(MainView& view, Session& session, SettingsRecord& settings, Doors doors, QWidget* parent)
+Visual::Visual(MainView& view, SettingsRecord& settings, Doors doors, QWidget* parent)
     : DialogWindow(parent),
       view_(view),
-      session_(session),
       settings_(settings),
       doors_(std::move(doors)),
       ui_(std::make_unique<Ui::Visual>()) {
@@ -30,7 +29,7 @@ Visual::Visual(MainView& view, Session& session, SettingsRecord& settings, Doors
   connect(ui_->Command1, &QPushButton::clicked, this, &Visual::Command1_Click);
   connect(ui_->Command2, &QPushButton::clicked, this, &Visual::hide);
   connect(ui_->Command3, &QPushButton::clicked, this, &Visual::Command3_Click);
-  connect(ui_->Command4, &QPushButton::clicked, this, [this] { ApplyDosLook(view_, session_); });
+  connect(ui_->Command4, &QPushButton::clicked, this, [this] { ApplyDosLook(view_); });
   connect(ui_->Command7, &QPushButton::clicked, this, [this] { doors_.show_pos(); });
 }
 
@@ -119,7 +118,7 @@ void Visual::Command1_Click() {
   if (ui_->Option1->isChecked()) view_.SetEditorFont(std::string(kSansSerif));
   if (ui_->Option2->isChecked()) view_.SetEditorFont(std::string(kCourier));
   if (ui_->Option3->isChecked()) view_.SetEditorFont(std::string(kTerminal));
-  session_.SetEditorFontSize(NormalizeSize(TextFromQString(ui_->Combo1->currentText())).size);
+  view_.SetEditorFontSize(NormalizeSize(TextFromQString(ui_->Combo1->currentText())).size);
 }
 
 }  // namespace pelmar

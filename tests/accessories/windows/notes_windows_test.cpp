@@ -14,6 +14,7 @@
 #include "platform/qt/controls/text_box.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/outer_geometry.h"
+#include "platform/twips.h"
 #include "support/plain_view.h"
 #include "support/scripted_platform.h"
 

@@ -16,10 +16,10 @@
 #include "ciphers/xor_cipher.h"
 #include "platform/qt/controls/text_box.h"
 #include "platform/qt/convert.h"
-#include "shell/editor.h"
-#include "shell/windows/program.h"
+#include "program/program.h"
 #include "support/controls.h"
 #include "support/scripted_platform.h"
+#include "support/whole_editor.h"
 #include "text/codepage.h"
 
 namespace pelmar {
@@ -27,7 +27,7 @@ namespace {
 
 struct CipherWindowsTest : testing::Test {
   ScriptedPlatform platform;
-  Editor editor{platform};
+  WholeEditor editor{platform};
 
   void Document(std::string_view text) { editor.text.SetText(std::string(text)); }
   [[nodiscard]] const std::string& Document() const { return editor.text.Text(); }
@@ -297,7 +297,7 @@ TEST_F(CipherWindowsTest, ChtRewritesAgainAndAgain) {
 }
 
 struct RndSifraTest : CipherWindowsTest {
-  RND_Sifra dialog{editor, nullptr};
+  RND_Sifra dialog{editor, editor.opener, nullptr};
   std::mt19937 random{7};
 
   RndSifraTest() { dialog.Present(); }
@@ -387,7 +387,7 @@ TEST_F(RndSifraTest, SavesAndLoadsTheTable) {
   const std::string made = LabelText(dialog, "Label6");
   const std::string codes = Row("List1", 5);
 
-  RND_Sifra other(editor, nullptr);
+  RND_Sifra other(editor, editor.opener, nullptr);
   other.Present();
   platform.opens = {"/a.pvt"};
   Click(other, "Command3");

@@ -12,6 +12,7 @@
 #include "html/dialogs/inline_dialogs.h"
 #include "html/dialogs/list_dialogs.h"
 #include "html/dialogs/tag_dialogs.h"
+#include "platform/color.h"
 #include "platform/qt/controls/swatch.h"
 #include "platform/qt/convert.h"
 #include "support/controls.h"

@@ -7,9 +7,12 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include "platform/color.h"
 #include "platform/qt/convert.h"
+#include "shell/window_geometry.h"
 #include "shell/windows/status_timer.h"
 #include "support/scripted_platform.h"
+#include "support/whole_editor.h"
 #include "text/codepage.h"
 
 namespace pelmar {
@@ -17,8 +20,8 @@ namespace {
 
 struct MainWindowTest : testing::Test {
   ScriptedPlatform platform;
-  Editor editor{platform};
-  MainWindow window{editor};
+  WholeEditor editor{platform};
+  MainWindow window{editor, editor.opener};
   StatusTimer timer{window, editor};
 
   MainWindowTest() {

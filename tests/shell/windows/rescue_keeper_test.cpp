@@ -10,7 +10,7 @@
 
 #include "accessories/windows/prev.h"
 #include "platform/qt/convert.h"
-#include "shell/windows/program.h"
+#include "program/program.h"
 #include "support/scripted_platform.h"
 
 namespace pelmar {

@@ -11,14 +11,16 @@
 #include <QTimer>
 
 #include "accessories/windows/color_dialog.h"
+#include "platform/color.h"
 #include "platform/qt/controls/cell_grid.h"
 #include "platform/qt/controls/swatch.h"
 #include "platform/qt/controls/text_box.h"
 #include "platform/qt/outer_geometry.h"
-#include "shell/editor.h"
+#include "platform/twips.h"
 #include "shell/windows/pos.h"
 #include "support/plain_view.h"
 #include "support/scripted_platform.h"
+#include "support/whole_editor.h"
 #include "texttools/windows/visual.h"
 
 namespace pelmar {
@@ -82,10 +84,9 @@ TEST(PosWindow, PlacesTheMainWindow) {
 
 struct VisualTest : testing::Test {
   ScriptedPlatform platform;
-  Editor editor{platform};
+  WholeEditor editor{platform};
   PlainView view;
-  Session session{view, editor.documents, editor.settings, editor.opener, platform, editor.file_number};
-  Visual visual{view, session, editor.settings, {[](Color color) { return color + 1; }, [] {}}, nullptr};
+  Visual visual{view, editor.settings, {[](Color color) { return color + 1; }, [] {}}, nullptr};
 
   VisualTest() {
     view.look = {"Courier New", Rgb(10, 0, 0), Rgb(200, 200, 200), 12, true, false};

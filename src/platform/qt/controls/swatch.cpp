@@ -2,7 +2,7 @@
 
 #include <QPainter>
 
-#include "shell/window_geometry.h"
+#include "platform/twips.h"
 
 namespace pelmar {
 

@@ -1,4 +1,4 @@
-#include "shell/windows/program.h"
+#include "program/program.h"
 
 #include <QFileInfo>
 #include <cstdlib>
@@ -12,6 +12,8 @@
 #include "html/windows/browser_windows.h"
 #include "platform/qt/application.h"
 #include "platform/qt/convert.h"
+#include "platform/runtime_error.h"
+#include "program/commands.h"
 #include "shell/windows/config.h"
 #include "shell/windows/shell_windows.h"
 #include "shell/windows/start.h"
@@ -22,10 +24,13 @@ namespace pelmar {
 Program::Program(Platform& platform)
     : platform_(platform),
       editor_(platform),
-      main_(editor_),
-      session_(main_, editor_.documents, editor_.settings, editor_.opener, platform, editor_.file_number),
+      main_(editor_, files_.opener),
+      session_(main_, editor_.documents, editor_.settings, files_.opener, platform, editor_.file_number),
       rescue_(ModifiedDocuments(editor_.documents), platform),
       timer_(main_, editor_) {
+  AddCommands(editor_, files_);
+  doors_.store_settings = [this] { session_.StoreSettings(false); };
+  doors_.mode = [this] { return session_.Mode(); };
   AddWindows();
   main_.RefreshCommands();
   main_.may_close = [this] { return MayClose(); };
@@ -40,7 +45,7 @@ Program::Program(Platform& platform)
 }
 
 void Program::AddWindows() {
-  const ProgramParts parts{platform_, editor_, main_, session_, windows_, stand_alones_, show_in_browser_, keepers_};
+  const ProgramParts parts{platform_, editor_, files_, main_, windows_, stand_alones_, keepers_, file_pickers_, doors_};
   AddShellWindows(parts);
   AddFileWindows(parts);
   AddTextWindows(parts);

@@ -1,4 +1,4 @@
-#include "files/file_number.h"
+#include "shell/file_number.h"
 
 namespace pelmar {
 

@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "platform/platform.h"
-#include "shell/common.h"
+#include "platform/runtime_error.h"
 
 namespace pelmar {
 

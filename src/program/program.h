@@ -5,9 +5,11 @@
 #include <memory>
 #include <string>
 
+#include "files/files.h"
 #include "platform/platform.h"
+#include "platform/runtime_error.h"
+#include "program/session.h"
 #include "shell/editor.h"
-#include "shell/session.h"
 #include "shell/windows/main_window.h"
 #include "shell/windows/program_parts.h"
 #include "shell/windows/rescue_keeper.h"
@@ -38,13 +40,15 @@ class Program {
 
   Platform& platform_;
   Editor editor_;
+  Files files_{editor_};
   MainWindow main_;
   Session session_;
   RescueKeeper rescue_;
   StatusTimer timer_;
   StandAlones stand_alones_;
-  std::function<void(const std::string& path)> show_in_browser_;
   Keepers keepers_;
+  FilePickers file_pickers_;
+  Doors doors_;
   WindowRegistry windows_;  // last: its windows look at all the others
 };
 

@@ -2,7 +2,6 @@
 // read here and written here: the settings file and the two recovery files. The order of the steps is required.
 #pragma once
 
-#include <functional>
 #include <string>
 #include <string_view>
 
@@ -25,12 +24,6 @@ class Session {
 
   // Writes the settings file; both the close and the profile dialog do, the latter without the window's state.
   void StoreSettings(bool with_window_state);
-
-  // The one way to change the editor's font size: six sizes are taken, any other becomes 8.
-  void SetEditorFontSize(int size);
-
-  // Told after each change of the size, for the dialog that shows it.
-  std::function<void()> on_font_size;
 
   [[nodiscard]] StartMode Mode() const { return mode_; }
 
