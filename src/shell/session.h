@@ -32,6 +32,10 @@ class Session {
   // Told after each change of the size, for the dialog that shows it.
   std::function<void()> on_font_size;
 
+  // True from the close that the person didn't refuse: the program ends as soon as its events are handled, and what is
+  // stored is final.
+  [[nodiscard]] bool Closed() const { return closed_; }
+
   [[nodiscard]] StartMode Mode() const { return mode_; }
 
  private:
@@ -39,6 +43,7 @@ class Session {
   void LoadSettings();
   void ApplyLook();
   void Act(std::string_view tail);
+  bool MayEnd();
   void Store(std::string_view name, std::string_view bytes);
   std::string InstallPath(std::string_view name);
 
@@ -49,6 +54,7 @@ class Session {
   Platform& platform_;
   FileNumber& file_number_;
   StartMode mode_ = StartMode::kEditor;
+  bool closed_ = false;
 };
 
 // "\autosave_all_files.txt": a block for each slot, empty ones too.
