@@ -3,12 +3,15 @@
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
+#include <cstdio>
 #include <cstdlib>
+#include <span>
 
 #include "platform/qt/application.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/program_style.h"
 #include "platform/qt/qt_platform.h"
+#include "shell/terminal_answer.h"
 #include "shell/windows/program.h"
 
 namespace {
@@ -19,9 +22,19 @@ void PreferX11() {
     qputenv("QT_QPA_PLATFORM", "xcb");
 }
 
+// A status that a script can trust: a full disk or a closed output is an error.
+int Print(std::string_view text) {
+  const bool written = std::fwrite(text.data(), 1, text.size(), stdout) == text.size() && std::fflush(stdout) == 0;
+  return written ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
+  // Before anything else, for it works without a display and leaves no trace.
+  if (argc > 0)
+    if (const auto text = pelmar::TerminalAnswer(std::span(argv, static_cast<std::size_t>(argc)).subspan(1)))
+      return Print(*text);
   PreferX11();
   QStringList arguments;
   for (int i = 1; i < argc; ++i) arguments.append(QString::fromLocal8Bit(argv[i]));
