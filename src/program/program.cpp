@@ -31,6 +31,7 @@ Program::Program(Platform& platform)
   AddCommands(editor_, files_);
   doors_.store_settings = [this] { session_.StoreSettings(false); };
   doors_.mode = [this] { return session_.Mode(); };
+  doors_.closed = [this] { return session_.Closed(); };
   AddWindows();
   main_.RefreshCommands();
   main_.may_close = [this] { return MayClose(); };

@@ -91,6 +91,11 @@ bool Session::Close() {
   Store(kRecoveryName, documents_.Text().Text());
   Store(kAllFilesName, AllFilesText(documents_));
   StoreSettings(true);
+  closed_ = MayEnd();
+  return closed_;
+}
+
+bool Session::MayEnd() {
   const int unsaved = documents_.UnsavedCount();
   if (unsaved == 0) return true;
   const std::string question = std::to_string(unsaved) + " neuložené zněněné soubory! Opravdu konec?";

@@ -25,6 +25,10 @@ class Session {
   // Writes the settings file; both the close and the profile dialog do, the latter without the window's state.
   void StoreSettings(bool with_window_state);
 
+  // True from the close that the person didn't refuse: the program ends as soon as its events are handled, and what is
+  // stored is final.
+  [[nodiscard]] bool Closed() const { return closed_; }
+
   [[nodiscard]] StartMode Mode() const { return mode_; }
 
  private:
@@ -32,6 +36,7 @@ class Session {
   void LoadSettings();
   void ApplyLook();
   void Act(std::string_view tail);
+  bool MayEnd();
   void Store(std::string_view name, std::string_view bytes);
   std::string InstallPath(std::string_view name);
 
@@ -42,6 +47,7 @@ class Session {
   Platform& platform_;
   FileNumber& file_number_;
   StartMode mode_ = StartMode::kEditor;
+  bool closed_ = false;
 };
 
 // "\autosave_all_files.txt": a block for each slot, empty ones too.

@@ -9,6 +9,7 @@
 #include "platform/color.h"
 #include "platform/runtime_error.h"
 #include "platform/twips.h"
+#include "shell/terminal_answer.h"
 #include "support/plain_view.h"
 #include "support/scripted_platform.h"
 #include "support/whole_editor.h"
@@ -196,6 +197,17 @@ TEST_F(SessionTest, ConfigStoresAllButTheWindowsState) {
   session.Start("");
   EXPECT_EQ(ReadSettings(platform.files[kSettings]).UserName, "Eva");
   EXPECT_EQ(ReadSettings(platform.files[kSettings]).WindowState, 2);
+}
+
+TEST(TerminalAnswer, OneOfTwoSwitchesAndNothingBesideIt) {
+  const auto answers = [](std::vector<std::string> words) {
+    std::vector<char*> arguments;
+    for (std::string& word : words) arguments.push_back(word.data());
+    return TerminalAnswer(arguments).has_value();
+  };
+  for (const char* one : {"--help", "--version"}) EXPECT_TRUE(answers({one})) << one;
+  for (const Calls& tail : {Calls{}, {""}, {"--HELP"}, {"-h"}, {"--help", "x"}, {"x", "--version"}, {"--version "}})
+    EXPECT_FALSE(answers(tail));
 }
 
 }  // namespace

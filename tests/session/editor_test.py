@@ -1,6 +1,7 @@
 """The main job with the real program: open, edit, use the menus' keys, switch tabs, save, close, start again, and lose
 power in between."""
 
+import subprocess
 import sys
 import unittest
 
@@ -123,6 +124,17 @@ class EditorTest(unittest.TestCase):
         session.key("Return")
         self.assertEqual(session.wait_exit(), 1)
         self.assertTrue(any(b"plain" in one.read_bytes() for one in session.data_folder.glob("rescue-*.pelmar")))
+
+    def test_the_terminals_switches_print_and_touch_nothing(self):
+        home = self.session.home / "other"
+        home.mkdir()
+        for switch, printed in (("--help", "-NOMSG"), ("--version", "Pelmar VEX 8.")):
+            done = subprocess.run([PROGRAM, switch], env={"HOME": str(home)}, capture_output=True, timeout=15)
+            self.assertEqual((done.returncode, done.stderr), (0, b""))
+            self.assertIn(printed, done.stdout.decode())
+            with open("/dev/full", "wb") as full:
+                self.assertEqual(subprocess.run([PROGRAM, switch], env={"HOME": str(home)}, stdout=full).returncode, 1)
+        self.assertEqual(list(home.iterdir()), [])
 
     def test_first_start_asks_for_the_profile(self):
         session = self.session

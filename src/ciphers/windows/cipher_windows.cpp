@@ -22,7 +22,8 @@ void AddCipherWindows(const ProgramParts& parts) {
   TextBuffer& text = parts.editor.text;
   WindowRegistry& windows = parts.windows;
   windows.Register<ZaKod>([parts, &text] {
-    const auto selected_tab = [&documents = parts.editor.documents] { return documents.SelectedTab(); };
+    // Behind the close everything is stored, and a run that still goes on would rewrite the document once more.
+    const auto selected_tab = [parts] { return parts.doors.closed() ? 0 : parts.editor.documents.SelectedTab(); };
     return std::make_unique<ZaKod>(text, parts.platform, selected_tab, &parts.main);
   });
   windows.Register<ShiftKod>([parts, &text] { return std::make_unique<ShiftKod>(text, parts.platform, &parts.main); });

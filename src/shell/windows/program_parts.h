@@ -33,6 +33,7 @@ using FilePickers = std::vector<std::function<FolderBrowser()>>;
 struct Doors {
   std::function<void()> store_settings;  // without the window's state
   std::function<StartMode()> mode;
+  std::function<bool()> closed;  // the person has let the program end, and what is stored is final
   // Shows a file in the internal browser; the path is UTF-8, an empty one does nothing. Set by the browser.
   std::function<void(const std::string& path)> show_in_browser;
   // Asks for a colour, beginning with the given one. Set by the colour dialog.

@@ -44,7 +44,7 @@ void StatusPanel::mouseDoubleClickEvent(QMouseEvent* event) {
   ElidedLabel::mouseDoubleClickEvent(event);
 }
 
-StatusStrip::StatusStrip(QWidget* parent) : QStatusBar(parent) {
+StatusStrip::StatusStrip(QWidget* parent) : QStatusBar(parent), notice_(new ElidedLabel(this)) {
   setObjectName(QStringLiteral("Bar1"));
   setSizeGripEnabled(false);
   for (int number = 1; number <= kPanelCount; ++number) {
@@ -58,6 +58,13 @@ StatusStrip::StatusStrip(QWidget* parent) : QStatusBar(parent) {
   }
   for (const std::size_t at : {4u, 5u, 6u}) panels_[at]->setText(kTips[at].toString());
   Show(KeyStates{});
+  notice_->setObjectName(QStringLiteral("Notice"));
+  notice_->setElideMode(Qt::ElideRight);
+  notice_->setIndent(kTextMargin);
+  notice_->setFrameStyle(QFrame::StyledPanel | QFrame::Raised);
+  notice_->setAutoFillBackground(true);
+  notice_->hide();
+  notice_->raise();
 }
 
 void StatusStrip::Show(const PanelTexts& texts) {
@@ -71,6 +78,14 @@ void StatusStrip::Show(const KeyStates& keys) {
   panels_[4]->setEnabled(keys.caps);
   panels_[5]->setEnabled(keys.num);
   panels_[6]->setEnabled(keys.insert);
+}
+
+void StatusStrip::SetNotice(const QString& text) {
+  if (text == notice_->text()) return;
+  notice_->setText(text);
+  notice_->setToolTip(text);
+  notice_->setVisible(!text.isEmpty());
+  Place();
 }
 
 void StatusStrip::SetWidth(int number, int twips) {
@@ -94,6 +109,11 @@ void StatusStrip::Place() {
     panels_[i]->setGeometry(left, kGap, std::max(0, width - kGap), height() - 2 * kGap);
     left += width;
   }
+  const QRect content = panels_[3]->geometry();
+  const int wanted = notice_->fontMetrics().horizontalAdvance(notice_->text()) + 4 * kTextMargin;
+  const int end = std::min(content.right() + 1, width() - kGap);
+  const int begin = std::max(kGap, std::min(content.left(), end - wanted));
+  notice_->setGeometry(begin, kGap, end - begin, content.height());
 }
 
 }  // namespace pelmar

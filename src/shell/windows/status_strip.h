@@ -43,6 +43,10 @@ class StatusStrip : public QStatusBar {
   void Show(const PanelTexts& texts);
   void Show(const KeyStates& keys);
 
+  // A line over the panels for as long as it isn't empty; what they show stays as it is. Beginning with the fourth, it
+  // covers as many as it needs.
+  void SetNotice(const QString& text);
+
   // Widths in twips, as the layout counts them.
   [[nodiscard]] std::array<int, kPanelCount> Widths() const { return widths_; }
   void SetWidth(int number, int twips);
@@ -57,6 +61,7 @@ class StatusStrip : public QStatusBar {
 
   std::array<StatusPanel*, kPanelCount> panels_{};
   std::array<int, kPanelCount> widths_{};
+  ElidedLabel* notice_;
 };
 
 }  // namespace pelmar

@@ -12,6 +12,7 @@ namespace pelmar {
 namespace {
 
 constexpr int kInterval = 500;
+constexpr QStringView kFilesStuck = u"Soubory nelze otevírat ani ukládat, pomůže jen nový start programu";
 
 }  // namespace
 
@@ -43,6 +44,8 @@ void StatusTimer::Tick() {
   bar.Show(ComputePanels(editor_.text, editor_.settings.LineCounting,
                          has_clipboard ? std::optional<std::string_view>(clipboard) : std::nullopt));
   bar.Show(editor_.platform.Keys());
+  // The main window isn't active while an operation is at work on a file: this one was abandoned.
+  bar.SetNotice(editor_.file_number.IsOpen() ? kFilesStuck.toString() : QString());
   window_.WidenContentPanel();
 }
 

@@ -24,7 +24,11 @@ void AddTextWindows(const ProgramParts& parts) {
   });
   parts.ShowBy<Hledani>({"mnufind", "Find"});
   parts.ShowBy<Zamena>({"mnuchange"});
-  parts.editor.commands.Add("mnupresnvyb", [&windows] { windows.Anew<Vyber>().Present(); });
+  parts.editor.commands.Add("mnupresnvyb", [&windows] {
+    Vyber& window = windows.Anew<Vyber>();
+    if (window.isVisible()) window.Load();  // the selection may be another one by now
+    window.Present();
+  });
   parts.editor.commands.Add("mnumore", [&windows] { windows.Anew<Visual>().Present(); });
 
   parts.editor.commands.Add("mnu_format", [parts, &text] { Formatuj(text, parts.platform, &parts.main).exec(); });

@@ -46,6 +46,7 @@ void Visual::ConnectPreview() {
     connect(option, &QRadioButton::toggled, this, [this, family = Utf8ToQString(name)](bool on) {
       if (on) SetPreviewFont([&family](QFont& font) { font.setFamily(family); });
     });
+  ui_->Combo1->setCompleter(nullptr);  // it would make "24" of a typed "2"
   connect(ui_->Combo1, &QComboBox::editTextChanged, this, &Visual::Combo1_Change);
   connect(ui_->Command8, &QPushButton::clicked, this,
           [this] { ui_->Label1->setTextColor(ColorToQt(doors_.pick_color(ColorFromQt(ui_->Label1->TextColor())))); });
@@ -77,7 +78,9 @@ void Visual::Load() {
 
 void Visual::FollowFontSize() {
   // A size that isn't in the list selects nothing.
-  ui_->Combo1->setCurrentIndex(ui_->Combo1->findText(QString::number(view_.Look().font_size)));
+  const int row = ui_->Combo1->findText(QString::number(view_.Look().font_size));
+  ui_->Combo1->setCurrentIndex(row);
+  if (row >= 0) Combo1_Change();  // no event tells the preview of the size that the box shows already
 }
 
 void Visual::FollowLineCounting() { ui_->Check1->setChecked(settings_.LineCounting); }

@@ -119,6 +119,7 @@ TEST_F(ZaKodTest, CodeEightAsksAndMayEndTheRun) {
   Click(dialog, "Command1");
   EXPECT_EQ(Document(), text);
   EXPECT_EQ(LineText(dialog, "Txt"), "40");
+  EXPECT_EQ(Find<QProgressBar>(dialog, "ProgressBar1")->value(), 3);
   EXPECT_EQ(platform.calls.size(), 2u);
   platform.answers = {Answer::kOk, Answer::kNo};
   Click(dialog, "Command1");
@@ -150,6 +151,20 @@ TEST_F(ZaKodTest, WhatIsPressedMeanwhileIsSafe) {
   });
   Click(dialog, "Command1");
   EXPECT_EQ(Document(), "other");
+}
+
+TEST_F(CipherWindowsTest, QuittingEndsTheRunOfTheStreamCipher) {
+  Program program(platform);
+  TextBuffer& text = Find<TextBox>(program.Main(), "Text1")->Buffer();
+  text.SetText(std::string(64000, 'a'));
+  platform.answers = {Answer::kYes};
+  Inside([&] {
+    Inside([&] { program.Main().close(); });  // handled while the run goes on
+    Click(program.Windows().Get<ZaKod>(), "Command1");
+  });
+  EXPECT_EQ(QCoreApplication::exec(), 0);
+  EXPECT_EQ(text.Text(), platform.files["/install/autosave_pelmar_vex.txt"]);
+  EXPECT_EQ(text.Text().front(), 'a');
 }
 
 TEST_F(CipherWindowsTest, ShiftKodWorksOnTheDocumentOrOnQuickText) {

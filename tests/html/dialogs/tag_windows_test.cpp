@@ -110,6 +110,8 @@ TEST_F(TagWindows, WidthOfTheLineFollowsItsUnit) {
   EXPECT_EQ(LabelText(line, "Label1"), " 50");
   SetBar(line, "VScroll1", 800);
   EXPECT_EQ(LabelText(line, "Label1"), "800");
+  Click(line, "Option5");  // required: the unit that is set already counts as well
+  EXPECT_EQ(LabelText(line, "Label1"), " 800");
   Click(line, "Option2");
   EXPECT_EQ(Made(line), R"(<HR ALIGN = "LEFT" NOSHADE Width = "800">)");
   Click(line, "Option4");

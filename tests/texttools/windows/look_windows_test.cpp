@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
@@ -103,6 +104,20 @@ TEST_F(VisualTest, LoadsTheLookOfTheTextBox) {
   EXPECT_EQ(Find<QComboBox>(visual, "Combo1")->currentText(), QStringLiteral("12"));
   EXPECT_EQ(Find<TextBox>(visual, "Label1")->TextColor(), QColor(10, 0, 0));
   EXPECT_EQ(Find<QLabel>(visual, "Label12")->text(), QStringLiteral("300"));
+  for (const int size : {8, 10}) {
+    view.look.font_size = size;
+    Visual another(view, session, editor.settings, {}, nullptr);
+    another.Present();
+    EXPECT_EQ(Find<TextBox>(another, "Label1")->font().pointSize(), size);
+  }
+}
+
+TEST_F(VisualTest, ASizeIsTakenAsItIsTyped) {
+  auto* box = Find<QComboBox>(visual, "Combo1");
+  box->lineEdit()->selectAll();
+  QTest::keyClicks(box->lineEdit(), QStringLiteral("2"));
+  EXPECT_EQ(box->currentText(), QStringLiteral("2"));
+  EXPECT_EQ(Find<TextBox>(visual, "Label1")->font().pointSize(), 2);
 }
 
 TEST_F(VisualTest, AppliesThePreview) {
