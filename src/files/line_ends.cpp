@@ -2,6 +2,7 @@
 
 #include <cstring>
 
+#include "files/file_number.h"
 #include "shell/common.h"
 
 namespace pelmar {
@@ -46,9 +47,11 @@ void Convert(Platform& platform, const std::string& path, std::string_view exten
     return;
   }
   platform.SetBusyPointer(true);
-  const int error = platform.RewriteFile(path, target, tail, rewriter);
+  const WriteOutcome outcome = platform.RewriteFile(path, target, tail, rewriter);
   platform.SetBusyPointer(false);
-  if (error != 0) throw RuntimeError(error, "Konverze souboru " + path + " do " + target + ": " + std::strerror(error));
+  if (outcome.error == 0) return;
+  throw RuntimeError(outcome.error, "Konverze souboru " + path + " do " + target + ": " + std::strerror(outcome.error) +
+                                        KeptNotice(outcome));
 }
 
 }  // namespace
