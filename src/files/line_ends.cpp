@@ -5,6 +5,7 @@
 #include "platform/busy.h"
 #include "platform/runtime_error.h"
 #include "shell/common.h"
+#include "shell/file_number.h"
 
 namespace pelmar {
 namespace {
@@ -48,8 +49,10 @@ void Convert(Platform& platform, const std::string& path, std::string_view exten
     return;
   }
   const BusyPointer busy(platform);
-  if (const int error = platform.RewriteFile(path, target, tail, rewriter))
-    throw RuntimeError(error, "Konverze souboru " + path + " do " + target + ": " + std::strerror(error));
+  const WriteOutcome outcome = platform.RewriteFile(path, target, tail, rewriter);
+  if (outcome.error == 0) return;
+  throw RuntimeError(outcome.error, "Konverze souboru " + path + " do " + target + ": " + std::strerror(outcome.error) +
+                                        KeptNotice(outcome));
 }
 
 }  // namespace

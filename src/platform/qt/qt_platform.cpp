@@ -73,13 +73,15 @@ FileBytes QtPlatform::ReadFile(const std::string& path, std::optional<std::uint6
   return ReadWholeFile(path, limit);
 }
 
-int QtPlatform::WriteFile(const std::string& path, std::string_view bytes) { return ReplaceFile(path, bytes); }
+WriteOutcome QtPlatform::WriteDocument(const std::string& path, std::string_view bytes) {
+  return ReplaceFile(path, bytes, InstallFolder());
+}
 
 int QtPlatform::WriteNewFile(const std::string& path, std::string_view bytes) { return CreateFile(path, bytes); }
 
-int QtPlatform::RewriteFile(const std::string& source, const std::string& target, OldTail tail,
-                            FileRewriter& rewriter) {
-  return RewriteFileByPieces(source, target, tail, rewriter);
+WriteOutcome QtPlatform::RewriteFile(const std::string& source, const std::string& target, OldTail tail,
+                                     FileRewriter& rewriter) {
+  return RewriteFileByPieces(source, target, tail, rewriter, InstallFolder());
 }
 
 bool QtPlatform::IsSameFile(const std::string& left, const std::string& right) { return LeadToSameFile(left, right); }
