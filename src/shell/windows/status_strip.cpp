@@ -1,6 +1,7 @@
 #include "shell/windows/status_strip.h"
 
 #include <QMouseEvent>
+#include <algorithm>
 
 #include "platform/qt/convert.h"
 #include "platform/twips.h"
@@ -85,7 +86,7 @@ void StatusStrip::SetNotice(const QString& text) {
   notice_->setText(text);
   notice_->setToolTip(text);
   notice_->setVisible(!text.isEmpty());
-  Place();
+  PlaceNotice();
 }
 
 void StatusStrip::SetWidth(int number, int twips) {
@@ -109,10 +110,16 @@ void StatusStrip::Place() {
     panels_[i]->setGeometry(left, kGap, std::max(0, width - kGap), height() - 2 * kGap);
     left += width;
   }
+  PlaceNotice();
+}
+
+void StatusStrip::PlaceNotice() {
   const QRect content = panels_[3]->geometry();
   const int wanted = notice_->fontMetrics().horizontalAdvance(notice_->text()) + 4 * kTextMargin;
   const int end = std::min(content.right() + 1, width() - kGap);
-  const int begin = std::max(kGap, std::min(content.left(), end - wanted));
+  int begin = kGap;
+  for (const std::size_t at : {1u, 2u, 3u})
+    if (panels_[at]->x() <= end - wanted) begin = panels_[at]->x();
   notice_->setGeometry(begin, kGap, end - begin, content.height());
 }
 

@@ -43,8 +43,8 @@ class StatusStrip : public QStatusBar {
   void Show(const PanelTexts& texts);
   void Show(const KeyStates& keys);
 
-  // A line over the panels for as long as it isn't empty; what they show stays as it is. Beginning with the fourth, it
-  // covers as many as it needs.
+  // A line over the panels for as long as it isn't empty; what they show stays as it is. From the fourth to the left,
+  // it covers as many as it needs.
   void SetNotice(const QString& text);
 
   // Widths in twips, as the layout counts them.
@@ -58,6 +58,7 @@ class StatusStrip : public QStatusBar {
 
  private:
   void Place();
+  void PlaceNotice();
 
   std::array<StatusPanel*, kPanelCount> panels_{};
   std::array<int, kPanelCount> widths_{};

@@ -114,6 +114,8 @@ TEST_F(VisualTest, LoadsTheLookOfTheTextBox) {
 
 TEST_F(VisualTest, ASizeIsTakenAsItIsTyped) {
   auto* box = Find<QComboBox>(visual, "Combo1");
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&visual));
+  box->setFocus();  // or nothing would be completed
   box->lineEdit()->selectAll();
   QTest::keyClicks(box->lineEdit(), QStringLiteral("2"));
   EXPECT_EQ(box->currentText(), QStringLiteral("2"));
