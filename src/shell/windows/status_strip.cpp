@@ -1,6 +1,7 @@
 #include "shell/windows/status_strip.h"
 
 #include <QMouseEvent>
+#include <algorithm>
 
 #include "platform/qt/convert.h"
 #include "shell/window_geometry.h"
@@ -57,6 +58,8 @@ StatusStrip::StatusStrip(QWidget* parent) : QStatusBar(parent) {
   }
   for (const std::size_t at : {4u, 5u, 6u}) panels_[at]->setText(kTips[at].toString());
   Show(KeyStates{});
+  unkept_ = new UnkeptLabel(QStringLiteral("Neuložená práce se teď nezachovává !"), this);
+  unkept_->hide();
 }
 
 void StatusStrip::Show(const PanelTexts& texts) {
@@ -70,6 +73,11 @@ void StatusStrip::Show(const KeyStates& keys) {
   panels_[4]->setEnabled(keys.caps);
   panels_[5]->setEnabled(keys.num);
   panels_[6]->setEnabled(keys.insert);
+}
+
+void StatusStrip::ShowUnkept(int error) {
+  unkept_->SetError(error);
+  unkept_->setVisible(error != 0);
 }
 
 void StatusStrip::SetWidth(int number, int twips) {
@@ -93,6 +101,10 @@ void StatusStrip::Place() {
     panels_[i]->setGeometry(left, kGap, std::max(0, width - kGap), height() - 2 * kGap);
     left += width;
   }
+  // Where the window is too narrow for it there, the warning stands at the right edge.
+  const int warning = std::min(unkept_->sizeHint().width(), width());
+  const int beside = std::min(panels_[3]->x(), width() - warning);
+  unkept_->setGeometry(beside, kGap, warning, height() - 2 * kGap);
 }
 
 }  // namespace pelmar

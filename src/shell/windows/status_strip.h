@@ -8,6 +8,7 @@
 #include "platform/platform.h"
 #include "platform/qt/controls/elided_label.h"
 #include "shell/status.h"
+#include "shell/windows/unkept_label.h"
 
 namespace pelmar {
 
@@ -41,6 +42,8 @@ class StatusStrip : public QStatusBar {
   [[nodiscard]] StatusPanel* Panel(int number) const { return panels_[static_cast<std::size_t>(number - 1)]; }
   void Show(const PanelTexts& texts);
   void Show(const KeyStates& keys);
+  // With an errno, the warning lies over the panels from the fourth on, which go on beneath; 0 takes it away.
+  void ShowUnkept(int error);
 
   // Widths in twips, as the layout counts them.
   [[nodiscard]] std::array<int, kPanelCount> Widths() const { return widths_; }
@@ -55,6 +58,7 @@ class StatusStrip : public QStatusBar {
   void Place();
 
   std::array<StatusPanel*, kPanelCount> panels_{};
+  UnkeptLabel* unkept_ = nullptr;
   std::array<int, kPanelCount> widths_{};
 };
 
