@@ -8,6 +8,7 @@
 #include <span>
 
 #include "platform/qt/application.h"
+#include "platform/qt/end_requests.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/program_style.h"
 #include "platform/qt/qt_platform.h"
@@ -62,6 +63,10 @@ int main(int argc, char** argv) {
     platform.FinishBackgroundWork();
     std::_Exit(EXIT_FAILURE);
   };
+  const pelmar::EndRequests end_requests([&program, &platform] {
+    program.KeepUnsaved();
+    platform.FinishBackgroundWork();
+  });
   try {
     program.Run(pelmar::CommandTail(arguments));
   } catch (const pelmar::RuntimeError& error) {

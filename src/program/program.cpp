@@ -38,6 +38,7 @@ Program::Program(Platform& platform)
   main_.show_config = [this] { windows_.Get<Config>().Run(); };
   main_.show_accessory = [this](StartMode mode) { ShowAccessory(mode); };
   main_.show_start = [this] { windows_.Get<Start>().Present(); };
+  rescue_.on_failure = [this](int error) { main_.Bar().ShowUnkept(error); };
   editor_.text.OnChange([this](const TextChange&) { TouchRescue(); });
   editor_.documents.on_title = [this, show = editor_.documents.on_title] {
     show();
@@ -74,8 +75,7 @@ void Program::Run(const std::string& tail) {
   timer_.start();
   session_.Start(tail);
   // Only the editor asks, when it stands; the accessories leave what they find to it.
-  if (session_.Mode() == StartMode::kEditor)
-    QTimer::singleShot(0, &main_, [this] { OfferAbandoned(editor_.documents, platform_); });
+  if (session_.Mode() == StartMode::kEditor) QTimer::singleShot(0, &main_, [this] { rescue_.Offer(); });
 }
 
 bool Program::MayClose() {
@@ -83,6 +83,11 @@ bool Program::MayClose() {
   rescue_.End();
   EndProgram(EXIT_SUCCESS);
   return true;
+}
+
+void Program::KeepUnsaved() {
+  if (session_.Mode() == StartMode::kEditor) rescue_.KeepNow();
+  for (const auto& keep : keepers_) keep();
 }
 
 void Program::TellRuntimeError(const RuntimeError& error) {

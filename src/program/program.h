@@ -25,6 +25,9 @@ class Program {
   // Starts with the command tail (UTF-8).
   void Run(const std::string& tail);
 
+  // Puts all that isn't saved on the disk at once and in silence, before the system ends the program.
+  void KeepUnsaved();
+
   // What an error that no command caught leads to: the modified documents are kept, the person is told what failed and
   // where they lie. The caller ends the process.
   void TellRuntimeError(const RuntimeError& error);

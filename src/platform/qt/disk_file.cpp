@@ -153,7 +153,7 @@ bool LeadToSameFile(const std::string& left, const std::string& right) {
 }
 
 int CreateFile(const std::string& path, std::string_view bytes) {
-  Descriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+  Descriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
   if (!file.IsOpen()) return errno;
   const int write_error = WriteAll(file.Number(), bytes);
   const int close_error = file.Close();

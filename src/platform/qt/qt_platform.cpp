@@ -4,6 +4,7 @@
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QProcess>
@@ -99,8 +100,10 @@ std::string QtPlatform::InstallFolder() {
   return install_folder_;
 }
 
+// The toolkit's own answer for a folder that isn't there is "", with which files would go to the root of the disk.
 std::string QtPlatform::TempFolder() {
-  const QString folder = QDir::tempPath();
+  const QString set = QFile::decodeName(qgetenv("TMPDIR"));
+  const QString folder = set.isEmpty() ? QStringLiteral("/tmp") : QDir::cleanPath(QFileInfo(set).absoluteFilePath());
   return Utf8FromQString(folder.endsWith(u'/') ? folder : folder + u'/');
 }
 

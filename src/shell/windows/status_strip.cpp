@@ -66,6 +66,8 @@ StatusStrip::StatusStrip(QWidget* parent) : QStatusBar(parent), notice_(new Elid
   notice_->setAutoFillBackground(true);
   notice_->hide();
   notice_->raise();
+  unkept_ = new UnkeptLabel(QStringLiteral("Neuložená práce se teď nezachovává !"), this);
+  unkept_->hide();
 }
 
 void StatusStrip::Show(const PanelTexts& texts) {
@@ -89,6 +91,11 @@ void StatusStrip::SetNotice(const QString& text) {
   PlaceNotice();
 }
 
+void StatusStrip::ShowUnkept(int error) {
+  unkept_->SetError(error);
+  unkept_->setVisible(error != 0);
+}
+
 void StatusStrip::SetWidth(int number, int twips) {
   int& width = widths_[static_cast<std::size_t>(number - 1)];
   if (width == twips) return;
@@ -110,6 +117,10 @@ void StatusStrip::Place() {
     panels_[i]->setGeometry(left, kGap, std::max(0, width - kGap), height() - 2 * kGap);
     left += width;
   }
+  // Where the window is too narrow for it there, the warning stands at the right edge.
+  const int warning = std::min(unkept_->sizeHint().width(), width());
+  const int beside = std::min(panels_[3]->x(), width() - warning);
+  unkept_->setGeometry(beside, kGap, warning, height() - 2 * kGap);
   PlaceNotice();
 }
 

@@ -11,7 +11,7 @@
 
 #include "platform/qt/controls/text_box.h"
 #include "platform/qt/convert.h"
-#include "shell/windows/program.h"
+#include "program/program.h"
 #include "support/scripted_platform.h"
 #include "text/codepage.h"
 #include "texttools/windows/hledani.h"
