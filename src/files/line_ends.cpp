@@ -2,6 +2,7 @@
 
 #include <cstring>
 
+#include "platform/error_text.h"
 #include "shell/common.h"
 
 namespace pelmar {
@@ -48,7 +49,7 @@ void Convert(Platform& platform, const std::string& path, std::string_view exten
   platform.SetBusyPointer(true);
   const int error = platform.RewriteFile(path, target, tail, rewriter);
   platform.SetBusyPointer(false);
-  if (error != 0) throw RuntimeError(error, "Konverze souboru " + path + " do " + target + ": " + std::strerror(error));
+  if (error != 0) throw RuntimeError(error, "Konverze souboru " + path + " do " + target + ": " + ErrorText(error));
 }
 
 }  // namespace
