@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "platform/busy.h"
+#include "platform/error_text.h"
 #include "platform/runtime_error.h"
 #include "shell/common.h"
 #include "shell/file_number.h"
@@ -51,7 +52,7 @@ void Convert(Platform& platform, const std::string& path, std::string_view exten
   const BusyPointer busy(platform);
   const WriteOutcome outcome = platform.RewriteFile(path, target, tail, rewriter);
   if (outcome.error == 0) return;
-  throw RuntimeError(outcome.error, "Konverze souboru " + path + " do " + target + ": " + std::strerror(outcome.error) +
+  throw RuntimeError(outcome.error, "Konverze souboru " + path + " do " + target + ": " + ErrorText(outcome.error) +
                                         KeptNotice(outcome));
 }
 

@@ -9,6 +9,7 @@ constexpr int kTabStripWidth = 360;
 constexpr int kPanelMargin = 420;
 constexpr int kNeededMargin = 270;
 constexpr int kTextOverlap = 10;
+constexpr int kMostRequests = 20;
 
 }  // namespace
 
@@ -21,6 +22,13 @@ TwipsRect Snap(TwipsRect f, int d, int screen_width, int screen_height) {
   if (f.left + f.width - screen_width > -d) f.left = screen_width - f.width;
   if (f.top + f.height - screen_height > -d) f.top = screen_height - f.height;
   return f;
+}
+
+bool PlaceRequests::Worthwhile(const TwipsRect& now, const TwipsRect& wanted) {
+  if (now != now_ || wanted != wanted_) in_vain_ = 0;
+  now_ = now;
+  wanted_ = wanted;
+  return ++in_vain_ <= kMostRequests;
 }
 
 std::optional<int> SparePanelWidth(int outer_width, const std::array<int, kPanelCount>& widths) {

@@ -15,6 +15,19 @@ inline constexpr int kPanelCount = 7;
 // wide or high as the screen becomes just so.
 TwipsRect Snap(TwipsRect window, int distance, int screen_width, int screen_height);
 
+// Asking a window's place of the system, as long as that may help: a window manager overlooks requests while it moves
+// the window itself, and some never let a program place its windows.
+class PlaceRequests {
+ public:
+  // False where a window at `now` was asked often enough to go to `wanted`.
+  bool Worthwhile(const TwipsRect& now, const TwipsRect& wanted);
+
+ private:
+  TwipsRect now_;
+  TwipsRect wanted_;
+  int in_vain_ = 0;
+};
+
 // The width that panel 4 takes, nothing where it keeps its own. required: the sum includes panel 4's present width, so
 // that the width alternates between two values where both are above 0.
 std::optional<int> SparePanelWidth(int outer_width, const std::array<int, kPanelCount>& widths);

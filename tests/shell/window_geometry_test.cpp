@@ -26,6 +26,18 @@ TEST(Snap, PullsWindowsToTheEdges) {
   for (const auto& c : cases) EXPECT_EQ(Snap(c.before, 240, kScreenWidth, kScreenHeight), c.after) << c.what;
 }
 
+TEST(PlaceRequests, RestWhereTheyAreInVain) {
+  const TwipsRect here = {100, 100, 9000, 6000};
+  const TwipsRect edge = {0, 0, 9000, 6000};
+  PlaceRequests requests;
+  int asked = 0;
+  while (asked < 1000 && requests.Worthwhile(here, edge)) ++asked;
+  EXPECT_EQ(asked, 20);
+  EXPECT_TRUE(requests.Worthwhile({90, 100, 9000, 6000}, edge));  // the person moved it
+  EXPECT_TRUE(requests.Worthwhile(here, edge));
+  EXPECT_TRUE(requests.Worthwhile(here, {0, 100, 9000, 6000}));
+}
+
 // required: the sum counts panel 4 itself, so two widths take turns
 TEST(SparePanelWidth, AlternatesOnceBothWidthsAreAboveZero) {
   std::array<int, kPanelCount> widths = {1500, 1500, 1500, 0, 500, 500, 500};

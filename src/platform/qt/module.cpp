@@ -3,8 +3,20 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QPluginLoader>
+#include <QRegularExpression>
 
 namespace pelmar {
+namespace {
+
+// The loader's words are English for the most part; a person needs to know whether a library is missing.
+QString Reason(const QString& path, const QString& words) {
+  static const QRegularExpression missing(QStringLiteral(R"(\(([^/():\s]+\.so[.\d]*): )"));
+  if (const auto match = missing.match(words); match.hasMatch())
+    return QStringLiteral("Chybí knihovna %1").arg(match.captured(1));
+  return QStringLiteral("Soubor %1 je poškozen nebo z jiné verze programu").arg(path);
+}
+
+}  // namespace
 
 QStringList ModuleFolders() {
   const QString program = QCoreApplication::applicationDirPath();
@@ -17,7 +29,8 @@ LoadedModule LoadModule(const QStringList& folders, const QString& file_name) {
     if (!QFileInfo::exists(path)) continue;
     QPluginLoader loader(path);
     QObject* plugin = loader.instance();
-    return {.plugin = plugin, .path = path, .error = plugin == nullptr ? loader.errorString() : QString()};
+    return {
+        .plugin = plugin, .path = path, .error = plugin == nullptr ? Reason(path, loader.errorString()) : QString()};
   }
   return {};
 }

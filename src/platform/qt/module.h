@@ -14,7 +14,7 @@ QStringList ModuleFolders();
 struct LoadedModule {
   QObject* plugin = nullptr;  // lives as long as the program; nothing where the module couldn't be loaded
   QString path;               // "" where none of the folders has the module
-  QString error;              // the system's own words; "" where it was loaded or isn't there
+  QString error;              // why, in Czech; "" where it was loaded or isn't there
 };
 
 // Loads the file out of the first folder that has it.

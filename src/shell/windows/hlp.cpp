@@ -1,7 +1,6 @@
 #include "shell/windows/hlp.h"
 
-#include <cstring>
-
+#include "platform/error_text.h"
 #include "platform/paths.h"
 #include "platform/qt/convert.h"
 #include "shell/help.h"
@@ -26,7 +25,7 @@ void Hlp::Load() {
   FileBytes file = platform_.ReadFile(JoinPath(platform_.InstallFolder(), "pelmar.txt"), std::nullopt);
   if (file.error != 0) file = platform_.ReadFile(JoinPath(platform_.ShareFolder(), "pelmar.txt"), std::nullopt);
   if (file.error == 0) return ui_->Text1->SetText(ToBytes(file.bytes));
-  platform_.Message(MessageType::kOk, std::string("Chyba helpového systému - pelmar.txt: ") + std::strerror(file.error),
+  platform_.Message(MessageType::kOk, "Chyba helpového systému - pelmar.txt: " + ErrorText(file.error),
                     "Help k Pelmar VEX");
 }
 

@@ -5,7 +5,6 @@
 #include "platform/qt/outer_geometry.h"
 #include "platform/twips.h"
 #include "shell/status.h"
-#include "shell/window_geometry.h"
 #include "shell/windows/main_window.h"
 
 namespace pelmar {
@@ -24,13 +23,14 @@ StatusTimer::StatusTimer(MainWindow& window, Editor& editor) : QTimer(&window), 
 
 void StatusTimer::SnapWindows() {
   const QWidgetList windows = QApplication::topLevelWidgets();
+  std::erase_if(requests_, [&](const auto& of_window) { return !windows.contains(of_window.first); });
   for (QWidget* window : windows) {
     if (window->property(kTagProperty).toString() != QLatin1String(kAutosnapTag)) continue;
     if (!window->isVisible() || window->isMinimized() || window->isMaximized()) continue;
     const QSize screen = ScreenTwips(*window);
     const TwipsRect place = OuterGeometry(*window);
     const TwipsRect snapped = Snap(place, editor_.settings.AutosnapDistance, screen.width(), screen.height());
-    if (snapped != place) SetOuterPlace(*window, snapped);
+    if (snapped != place && requests_[window].Worthwhile(place, snapped)) SetOuterPlace(*window, snapped);
   }
 }
 

@@ -3,8 +3,10 @@
 #pragma once
 
 #include <QTimer>
+#include <map>
 
 #include "shell/editor.h"
+#include "shell/window_geometry.h"
 
 namespace pelmar {
 
@@ -25,6 +27,7 @@ class StatusTimer : public QTimer {
  private:
   void SnapWindows();
 
+  std::map<const QWidget*, PlaceRequests> requests_;
   MainWindow& window_;
   Editor& editor_;
 };

@@ -143,7 +143,8 @@ TEST(HlpWindow, AMissingFileIsTold) {
   platform.answers = {Answer::kOk};
   const Hlp help(
       platform, [] {}, nullptr);
-  EXPECT_TRUE(platform.calls.back().starts_with("message 0 \"Chyba helpového systému - "));
+  EXPECT_EQ(platform.calls.back(),
+            "message 0 \"Chyba helpového systému - pelmar.txt: soubor nebo složka neexistuje\" \"Help k Pelmar VEX\"");
 }
 
 TEST(HlpWindow, EachOpeningReadsTheFileAnew) {
