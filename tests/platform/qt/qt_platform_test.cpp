@@ -38,7 +38,7 @@ TEST(TempFolder, IsWhatTheEnvironmentSays) {
     qputenv("TMPDIR", set);
     EXPECT_EQ(platform.TempFolder(), expected);
   }
-  qputenv("TMPDIR", before);
+  before.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before);
 }
 
 TEST(BusyPointer, NestsAndIsLiftedWhileABoxShows) {
