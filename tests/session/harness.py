@@ -143,6 +143,26 @@ class Session(Screen):
         """What the close box does; the program may ask and refuse."""
         self._run("wmctrl", "-i", "-c", window.id)
 
+    def place(self, window):
+        """Left, top, width and height with the frame."""
+        info = self._run("xwininfo", "-id", window.id)
+        left, top, width, height = (int(re.search(name + r":\s+(-?\d+)", info)[1]) for name in (
+            "Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
+        extents = re.findall(r"\d+", self._run("xprop", "-id", window.id, "_NET_FRAME_EXTENTS").partition("=")[2])
+        west, east, north, south = (int(one) for one in extents or "0000")
+        return left - west, top - north, width + west + east, height + north + south
+
+    def wait_place(self, window, check, what):
+        """Waits for a place with the frame, or for one that the check likes."""
+        fits = check if callable(check) else lambda *now: now == check
+        try:
+            self.wait_until(lambda: fits(*self.place(window)), what, patience=5)
+        except AssertionError as error:
+            raise AssertionError(f"{error}; it is at {self.place(window)}") from None
+
+    def maximise(self, window, do=True):
+        self._run("wmctrl", "-i", "-r", window.id, "-b", f"{'add' if do else 'remove'},maximized_vert,maximized_horz")
+
     # Keys, mouse, clipboard.
 
     def key(self, *keys, window=None):

@@ -54,23 +54,8 @@ class NotesTest(unittest.TestCase):
             lambda: any(text in one.read_bytes() for one in folder.glob("notes-rescue-*.pelmar")),
             "the notes' rescue file", patience=3)
 
-    def place(self, window):
-        """Left, top, width and height with the frame."""
-        info = self.session._run("xwininfo", "-id", window.id)
-        left, top, width, height = (int(re.search(name + r":\s+(-?\d+)", info)[1]) for name in (
-            "Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
-        frame = self.session._run("xprop", "-id", window.id, "_NET_FRAME_EXTENTS").split("=")[1].split(",")
-        west, east, north, south = (int(one) for one in frame)
-        return left - west, top - north, width + west + east, height + north + south
-
     def move(self, window, left, top, width=-1, height=-1):
         self.session._run("wmctrl", "-i", "-r", window.id, "-e", f"0,{left},{top},{width},{height}")
-
-    def wait_place(self, window, check, what):
-        try:
-            self.session.wait_until(lambda: check(*self.place(window)), what, patience=5)
-        except AssertionError as error:
-            raise AssertionError(f"{error}; it is at {self.place(window)}") from None
 
     def test_stored_at_the_close_and_found_by_the_notes_alone(self):
         session = self.session
@@ -81,6 +66,11 @@ class NotesTest(unittest.TestCase):
         session.type("second")
         self.assertEqual(self.file.read_bytes(), b"")
         session.shot("notes")
+        session._run("xdotool", "windowminimize", notes.id)
+        session.wait_until(lambda: "Iconic" in session._run("xprop", "-id", notes.id, "WM_STATE"), "them minimised")
+        session.activate(main)
+        session.key("F9")
+        session.wait_until(lambda: session.active() == int(notes.id, 16), "the notes to come back")
         session.close(notes)
         session.wait_no_window("Poznámky")
         self.assertEqual(self.file.read_bytes(), record("milk\r\nbread", "second"))
@@ -209,36 +199,36 @@ class NotesTest(unittest.TestCase):
         main = self.start_editor()
         self.move(main, 100, 150, 700, 500)
         notes = self.open_notes()
-        frame = self.place(notes)
+        frame = self.session.place(notes)
         # Snapping: nearer than 16 pixels to an edge goes to it.
         self.move(notes, 9, 200)
-        self.wait_place(notes, lambda left, top, *_: (left, top) == (0, 200), "the notes at the left edge")
+        self.session.wait_place(notes, lambda left, top, *_: (left, top) == (0, 200), "the notes at the left edge")
         width, height = frame[2:]
         self.move(notes, SCREEN[0] - width - 9, SCREEN[1] - height - 11)
-        self.wait_place(notes, lambda left, top, *_: (left, top) == (SCREEN[0] - width, SCREEN[1] - height),
+        self.session.wait_place(notes, lambda left, top, *_: (left, top) == (SCREEN[0] - width, SCREEN[1] - height),
                         "the notes in the lower right corner")
         # Docking beside the main window, wherever that goes.
         session.activate(notes)
         self.press_dock(notes)
 
         def beside(*place):
-            left, top, w, h = self.place(main)
+            left, top, w, h = self.session.place(main)
             return place == (left + w, top, SCREEN[0] - left - w, h)
-        self.wait_place(notes, beside, "the notes beside the main window")
+        self.session.wait_place(notes, beside, "the notes beside the main window")
         session.shot("notes-docked")
         self.move(main, 60, 40, 600, 620)
-        self.wait_place(notes, beside, "the notes with the moved main window")
+        self.session.wait_place(notes, beside, "the notes with the moved main window")
         self.move(notes, 400, 400)
-        self.wait_place(notes, beside, "the notes back beside the main window")
+        self.session.wait_place(notes, beside, "the notes back beside the main window")
         # At full height beside a maximised one.
-        session._run("wmctrl", "-i", "-r", main.id, "-b", "add,maximized_vert,maximized_horz")
-        self.wait_place(notes, lambda left, top, w, h: (top, left + w, h) == (0, SCREEN[0], SCREEN[1]) and w < 260,
+        session.maximise(main)
+        self.session.wait_place(notes, lambda left, top, w, h: (top, left + w, h) == (0, SCREEN[0], SCREEN[1]) and w < 260,
                         "the notes at full height")
         session.shot("notes-full-height")
         state = session._run("xprop", "-id", notes.id, "_NET_WM_STATE")
         self.assertIn("_NET_WM_STATE_ABOVE", state)
-        session._run("wmctrl", "-i", "-r", main.id, "-b", "remove,maximized_vert,maximized_horz")
-        self.wait_place(notes, beside, "the notes beside the restored main window")
+        session.maximise(main, False)
+        self.session.wait_place(notes, beside, "the notes beside the restored main window")
 
     def press_dock(self, notes):
         """By keyboard: the round of the tabulator leads from the text over the tabs to the buttons."""
@@ -248,7 +238,7 @@ class NotesTest(unittest.TestCase):
         session = self.session
         notes = self.start_alone()
         self.press_dock(notes)
-        self.wait_place(notes, lambda left, top, w, h: (left + w, top + h) == SCREEN, "the notes in the corner")
+        self.session.wait_place(notes, lambda left, top, w, h: (left + w, top + h) == SCREEN, "the notes in the corner")
 
     def test_costs_little_while_nothing_moves(self):
         session = self.session

@@ -1,9 +1,11 @@
 #include "accessories/windows/key_preview.h"
 
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QWidget>
 #include <utility>
 
+#include "platform/qt/clipboard_text.h"
 #include "platform/qt/controls/text_keys.h"
 #include "platform/qt/convert.h"
 
@@ -11,12 +13,16 @@ namespace pelmar {
 
 KeyPreview::KeyPreview(QWidget& window, std::function<Preview(const QKeyEvent&)> first)
     : QObject(&window), first_(std::move(first)) {
-  window.installEventFilter(this);
-  const QList<QWidget*> widgets = window.findChildren<QWidget*>();
-  for (QWidget* widget : widgets) widget->installEventFilter(this);
+  const QList<QWidget*> widgets = window.findChildren<QWidget*>() << &window;
+  for (QWidget* widget : widgets) {
+    widget->installEventFilter(this);
+    // Or nothing would compose letters while a button has the keyboard.
+    widget->setAttribute(Qt::WA_InputMethodEnabled);
+  }
 }
 
 bool KeyPreview::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::InputMethod) return TakesComposed(*static_cast<QInputMethodEvent*>(event));
   if (event->type() != QEvent::KeyPress) return false;
   const Preview preview = first_(*static_cast<QKeyEvent*>(event));
   if (preview == Preview::kPass) return false;
@@ -25,6 +31,16 @@ bool KeyPreview::eventFilter(QObject* watched, QEvent* event) {
   if (preview == Preview::kShare) watched->event(event);
   event->accept();
   return true;
+}
+
+// What dead keys or an input method composed comes without a key of its own. Shared, it reaches the control as it came.
+bool KeyPreview::TakesComposed(const QInputMethodEvent& event) {
+  bool taken = false;
+  for (const char letter : PageText(event.commitString())) {
+    const QKeyEvent key(QEvent::KeyPress, 0, Qt::NoModifier, TextToQString(std::string(1, letter)));
+    taken = first_(key) == Preview::kTake;
+  }
+  return taken;
 }
 
 std::optional<char> TypedCharacter(const QKeyEvent& event) {

@@ -1,4 +1,4 @@
-// Lets a window have each key press before the control that has the keyboard.
+// Lets a window have each key press, and each composed letter, before the control that has the keyboard.
 // A preview is made last in the window's constructor, when all its controls are there.
 #pragma once
 
@@ -6,6 +6,7 @@
 #include <functional>
 #include <optional>
 
+class QInputMethodEvent;
 class QKeyEvent;
 class QWidget;
 
@@ -25,6 +26,8 @@ class KeyPreview : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  [[nodiscard]] bool TakesComposed(const QInputMethodEvent& event);
+
   std::function<Preview(const QKeyEvent&)> first_;
 };
 

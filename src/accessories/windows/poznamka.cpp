@@ -6,6 +6,7 @@
 #include "platform/qt/controls/tab_keys.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/outer_geometry.h"
+#include "platform/qt/placement.h"
 #include "platform/qt/svg_icon.h"
 #include "platform/twips.h"
 #include "shell/stand_alone.h"
@@ -94,11 +95,7 @@ void Poznamka::ConnectCommands() {
 
 TextBuffer& Poznamka::Text() { return ui_->Text1->Buffer(); }
 
-void Poznamka::Present() {
-  show();
-  raise();
-  activateWindow();
-}
+void Poznamka::Present() { BringToFront(*this); }
 
 NotesRecord Poznamka::Now() const {
   NotesRecord now = record_;

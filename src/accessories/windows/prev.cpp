@@ -14,6 +14,7 @@ namespace {
 
 // How long the window may be deaf, and how long it listens, while the letters are counted out; in milliseconds.
 constexpr int kBreath = 10;
+constexpr std::size_t kLongestShown = 32767;
 
 }  // namespace
 
@@ -77,10 +78,9 @@ void Prev::ShowRoman(std::int32_t number) {
   if (!roman) return;
   roman_ = std::move(*roman);
   // A line of a million letters would take the toolkit half a second at each paint.
-  const auto longest = static_cast<std::size_t>(ui_->Label8->maxLength());
-  ui_->Label8->setText(roman_.size() <= longest
+  ui_->Label8->setText(roman_.size() <= kLongestShown
                            ? Utf8ToQString(roman_)
-                           : QChar(0x2026) + Utf8ToQString(roman_).right(static_cast<qsizetype>(longest) - 1));
+                           : QChar(0x2026) + Utf8ToQString(roman_.substr(roman_.size() - kLongestShown + 1)));
 }
 
 void Prev::ShowFields() {

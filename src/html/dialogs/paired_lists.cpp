@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QSignalBlocker>
 
@@ -76,6 +77,7 @@ void PairedLists::Follow(QListWidget* other, int row) {
     Select(*other, row);
   }
   if (!edits_rows_) return;
+  const QScopedValueRollback<bool> following(following_, true);
   parts_.name->setText(RowText(*parts_.names, row));
   parts_.value->setText(RowText(*parts_.values, row));
 }
@@ -83,7 +85,8 @@ void PairedLists::Follow(QListWidget* other, int row) {
 void PairedLists::FieldChanged(const QString& text, QListWidget* list) {
   // required: by the field that changed last, whatever the other one holds
   parts_.add->setEnabled(!text.isEmpty());
-  if (!edits_rows_) return;
+  // A row that was only looked at stays as it is.
+  if (!edits_rows_ || following_) return;
   if (const int row = SelectedRow(*list); row >= 0) list->item(row)->setText(text);
 }
 

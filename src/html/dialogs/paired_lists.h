@@ -59,6 +59,7 @@ class PairedLists : public QObject {
 
   Parts parts_;
   bool edits_rows_ = false;
+  bool following_ = false;  // the fields are taking the texts of a row
 };
 
 }  // namespace pelmar

@@ -11,6 +11,7 @@
 #include "platform/paths.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/outer_geometry.h"
+#include "platform/qt/placement.h"
 #include "platform/qt/svg_icon.h"
 #include "shell/stand_alone.h"
 #include "ui_frm_browser.h"
@@ -123,12 +124,7 @@ void FrmBrowser::ShowAlone() {
   if (!StartingAddress.isEmpty()) Visit(StartingAddress);
 }
 
-void FrmBrowser::Present() {
-  setWindowState(windowState() & ~Qt::WindowMinimized);
-  show();
-  raise();
-  activateWindow();
-}
+void FrmBrowser::Present() { BringToFront(*this); }
 
 void FrmBrowser::Visit(const QString& address) {
   DontNavigateNow = true;

@@ -11,6 +11,7 @@
 #include <QWindow>
 #include <algorithm>
 
+#include "platform/qt/any_length.h"
 #include "platform/qt/svg_icon.h"
 
 namespace pelmar {
@@ -146,6 +147,8 @@ std::optional<QString> AskForText(const QString& prompt, const QString& title, c
   Asking<QInputDialog> dialog;
   dialog->setWindowTitle(title);
   dialog->setLabelText(prompt);
+  dialog->setInputMode(QInputDialog::TextInput);
+  TakeAnyLength(*dialog->findChild<QLineEdit*>());
   dialog->setTextValue(initial);
   if (!dialog.Accepted()) return std::nullopt;
   return dialog->textValue();

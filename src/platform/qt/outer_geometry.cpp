@@ -3,7 +3,6 @@
 #include <QScreen>
 #include <QWidget>
 #include <QWindow>
-#include <algorithm>
 
 namespace pelmar {
 namespace {
@@ -55,20 +54,17 @@ QSize ScreenTwips(const QWidget& window) {
   return {TwipsOf(size.width()), TwipsOf(size.height())};
 }
 
-void CentreOnScreen(QWidget& window) {
-  QRect outer(QPoint(), Outer(window).size());
-  outer.moveCenter(window.screen()->geometry().center());
-  // Clear of the desktop's panels; a window larger than what they leave keeps its title bar in sight.
-  const QRect free = window.screen()->availableGeometry();
-  const QPoint last = free.bottomRight() - outer.bottomRight() + outer.topLeft();
-  MoveOuter(window, {std::max(std::min(outer.left(), last.x()), free.left()),
-                     std::max(std::min(outer.top(), last.y()), free.top())});
-}
-
 void FitScreen(QWidget& window) {
   constexpr QSize kUsualFrame(8, 32);  // the window's own isn't known yet
   const QSize room = window.screen()->availableGeometry().size() - kUsualFrame;
   window.resize(window.size().boundedTo(room));
+}
+
+void BringToFront(QWidget& window) {
+  window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+  window.show();
+  window.raise();
+  window.activateWindow();
 }
 
 void SetAlwaysOnTop(QWidget& window, bool on_top) {

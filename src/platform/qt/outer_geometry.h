@@ -20,9 +20,12 @@ void SetOuterPlace(QWidget& window, const TwipsRect& place);
 
 // The whole screen that the window is on.
 QSize ScreenTwips(const QWidget& window);
-void CentreOnScreen(QWidget& window);
 // Makes a window that isn't on show yet no larger than the screen leaves room for, as far as its contents allow.
 void FitScreen(QWidget& window);
+
+// Shows the window, or brings it back to the front where it is on show already, also out of its icon. It gets the
+// keyboard.
+void BringToFront(QWidget& window);
 
 // Keeps the window above all others, or no longer. A window on show stays so, without a flicker.
 void SetAlwaysOnTop(QWidget& window, bool on_top);

@@ -30,6 +30,8 @@ int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QW
                             QStyleHintReturn* answer) const {
   // The buttons of message boxes look like those of the program's own dialogs.
   if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+  // A turn of the wheel over the tabs is not a choice; the document behind would change, and its undo be gone.
+  if (hint == SH_TabBar_AllowWheelScrolling) return 0;
   return QProxyStyle::styleHint(hint, option, widget, answer);
 }
 

@@ -1,6 +1,7 @@
 // The desktop's own style, with what the program needs beside it: two pictures that every menu bar and toolbar asks for
 // when it is made come from the program itself, since the toolkit would search its picture plug-ins for them before the
-// first window is on the screen; and what has the keyboard is to be seen also where the style doesn't show it.
+// first window is on the screen; what has the keyboard is to be seen also where the style doesn't show it; and the
+// wheel leaves tabs alone.
 #pragma once
 
 #include <QProxyStyle>

@@ -8,7 +8,6 @@
 #include <QShortcut>
 #include <QWindow>
 #include <algorithm>
-#include <chrono>
 
 #include "platform/paths.h"
 #include "platform/qt/controls/tab_keys.h"
@@ -28,9 +27,6 @@ namespace {
 constexpr QSize kSmallest(480, 320);
 // The window of a first start, where nothing is stored yet: room for the whole toolbar.
 constexpr QSize kFirstSize(820, 560);
-// How long a window manager may take to give a new or restored window its frame, and how often that is looked at.
-constexpr std::chrono::milliseconds kFrameTime(500);
-constexpr std::chrono::milliseconds kFramePoll(20);
 
 // Left, right, centre.
 constexpr Qt::Alignment kAlignments[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
@@ -44,13 +40,13 @@ std::string DroppedFile(const QMimeData* mime) {
 
 }  // namespace
 
-MainWindow::MainWindow(Editor& editor, Opener& opener) : editor_(editor), opener_(opener) {
+MainWindow::MainWindow(Editor& editor, Opener& opener)
+    : editor_(editor), opener_(opener), placement_(*this, [this](const TwipsRect& now) { return Wanted(now); }) {
   setObjectName(QStringLiteral("Main"));
   setProperty(kTagProperty, QLatin1String(kAutosnapTag));
   setAcceptDrops(true);
   setMinimumSize(kSmallest.boundedTo(screen()->size() / 2));
-  frame_timer_.setInterval(kFramePoll);
-  connect(&frame_timer_, &QTimer::timeout, this, &MainWindow::FitToNewFrame);
+  placement_.on_frame = [this] { ApplyLayout(); };
   MakeControls();
   AddViewCommands();
   FollowDocuments();
@@ -167,31 +163,30 @@ void MainWindow::ApplyLayout() {
   text_->setGeometry(0, top, width, height);
   tabs_->SetStripWidth(client_->width() - width);
   tabs_->setGeometry(0, top, out.tabs_width ? PixelsOf(*out.tabs_width) : tabs_->width(), height);
-  if (out.panel4_width && frame_known_) bar_->SetWidth(4, *out.panel4_width);
+  if (out.panel4_width && placement_.FrameKnown()) bar_->SetWidth(4, *out.panel4_width);
   if (out.grow_outer_height > 0) resize(this->width(), this->height() + PixelsOf(out.grow_outer_height));
   laying_out_ = false;
 }
 
 void MainWindow::WidenContentPanel() {
   // Before the frame is known the outer width is not the window's real one.
-  if (isMinimized() || !frame_known_) return;
+  if (isMinimized() || !placement_.FrameKnown()) return;
   ticked_ = true;
   if (const auto spare = SparePanelWidth(OuterGeometry(*this).width, bar_->Widths())) bar_->SetWidth(4, *spare);
 }
 
 // The frame is there when the window is first painted, or a moment later; only then outer sizes can be met.
 void MainWindow::FitToFrame() {
-  if (frame_known_ || frame_timer_.isActive()) return;
+  if (fitted_) return;
+  fitted_ = true;
   // The icon is rendered when it is set, which can wait until the window is there.
   ShowProgramIcon();
-  AwaitFrame({});
-  FitToNewFrame();
+  placement_.Begin({}, window_state_ == 2);
 }
 
-void MainWindow::AwaitFrame(const QMargins& left) {
-  frame_left_ = left;
-  frame_deadline_.setRemainingTime(kFrameTime);
-  frame_timer_.start();
+TwipsRect MainWindow::Wanted(const TwipsRect& now) const {
+  if (wants_position_) return wanted_place_;
+  return {now.left, now.top, wanted_place_.width, wanted_place_.height};
 }
 
 void MainWindow::SetPlace(const TwipsRect& place) {
@@ -206,6 +201,8 @@ void MainWindow::SetPlace(const TwipsRect& place) {
 
 TwipsRect MainWindow::Place() const {
   if (!isMinimized()) return OuterGeometry(*this);
+  // Minimised since the start it has never had a frame.
+  if (!placement_.FrameKnown()) return wanted_place_;
   // An iconified window keeps the place that it comes back to.
   const QRect normal = normalGeometry();
   const QMargins frame = windowHandle() != nullptr ? windowHandle()->frameMargins() : QMargins();
@@ -220,26 +217,16 @@ int MainWindow::WindowState() const {
   return isMaximized() ? 2 : 0;
 }
 
+// A window manager may give a maximised window another frame than a normal one, and tells only later. What is asked for
+// in between is put right then.
 void MainWindow::SetNormalState() {
   if (!isMaximized() && !isMinimized()) return;
-  AwaitFrame(windowHandle()->frameMargins());
+  placement_.Begin(windowHandle()->frameMargins());
   showNormal();
 }
 
-// A window manager may give a maximised window another frame than a normal one, and tells only later. A size that was
-// asked for in between is put right then.
-void MainWindow::FitToNewFrame() {
-  const bool changed = windowHandle()->frameMargins() != frame_left_;
-  if (!changed && !frame_deadline_.hasExpired()) return;
-  frame_timer_.stop();
-  const bool first = !frame_known_;
-  frame_known_ = true;
-  const QSize before = size();
-  if (changed && !isMaximized() && !isMinimized()) SetOuterSize(wanted_place_.width, wanted_place_.height);
-  if (first && size() == before) ApplyLayout();
-}
-
 void MainWindow::SetOuterSize(int width, int height) {
+  wants_position_ = false;
   wanted_place_.width = width;
   wanted_place_.height = height;
   SetOuterWidth(*this, width);
@@ -248,6 +235,8 @@ void MainWindow::SetOuterSize(int width, int height) {
 
 void MainWindow::MoveTo(const TwipsRect& place) {
   SetOuterSize(place.width, place.height);
+  wants_position_ = true;
+  wanted_place_ = place;
   SetOuterPosition(*this, place.left, place.top);
 }
 
@@ -314,10 +303,7 @@ void MainWindow::ShowConfig() {
 }
 
 void MainWindow::ShowMain() {
-  if (isVisible()) {
-    raise();
-    return activateWindow();
-  }
+  if (isVisible()) return BringToFront(*this);
   if (window_state_ == 1) return showMinimized();
   if (window_state_ == 2) return showMaximized();
   show();

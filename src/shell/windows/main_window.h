@@ -2,14 +2,12 @@
 // forwards; what happens lies in the editor, the session and the commands.
 #pragma once
 
-#include <QDeadlineTimer>
 #include <QMainWindow>
-#include <QMargins>
-#include <QTimer>
 #include <functional>
 
 #include "files/open.h"
 #include "platform/qt/controls/text_box.h"
+#include "platform/qt/placement.h"
 #include "platform/twips.h"
 #include "shell/editor.h"
 #include "shell/main_view.h"
@@ -91,9 +89,7 @@ class MainWindow : public QMainWindow, public MainView {
   void ToggleBar(std::string_view item, QWidget* bar);
   void ToggleAlwaysOnTop();
   void FitToFrame();
-  void FitToNewFrame();
-  // Waits for a frame other than the one that is left.
-  void AwaitFrame(const QMargins& left);
+  [[nodiscard]] TwipsRect Wanted(const TwipsRect& now) const;
   void SetBoxFont(const QFont& font);
   [[nodiscard]] LayoutInput Measures() const;
 
@@ -108,11 +104,9 @@ class MainWindow : public QMainWindow, public MainView {
   StatusStrip* bar_ = nullptr;
   int window_state_ = 0;
   TwipsRect wanted_place_;
-  // From the first painting, or the request to leave a state, until the window's frame is there.
-  QMargins frame_left_;
-  QDeadlineTimer frame_deadline_;
-  QTimer frame_timer_;
-  bool frame_known_ = false;
+  bool wants_position_ = true;  // and not the size alone
+  Placement placement_;
+  bool fitted_ = false;  // from the first painting on
   bool ticked_ = false;  // panel 4 has got its width by a tick
   bool laying_out_ = false;
   bool main_active_ = false;

@@ -67,6 +67,9 @@ TEST_F(PoznamkaTest, KeepsFivePagesAndStoresThemAtTheEnd) {
   EXPECT_EQ(Find<TextBox>(*notes, "Text1")->font().pointSize(), 14);
   EXPECT_TRUE(Find<TextBox>(*notes, "Text1")->font().bold());
   EXPECT_EQ(notes->Text().Text(), "first");
+  notes->showMinimized();
+  notes->Present();
+  EXPECT_FALSE(notes->isMinimized());
   notes->Text().Type("my ");
   Tabs().setCurrentIndex(1);
   EXPECT_EQ(notes->Text().Text(), "second");

@@ -114,6 +114,22 @@ TEST_F(KeyboardTest, ASelectionIsPushedOn) {
   EXPECT_FALSE(text.HasSelection());
 }
 
+// As dead keys and input methods give it.
+void Compose(QWidget& receiver, const QString& letters) {
+  EXPECT_TRUE(receiver.testAttribute(Qt::WA_InputMethodEnabled));
+  QInputMethodEvent event(QString(), {});
+  event.setCommitString(letters);
+  QCoreApplication::sendEvent(&receiver, &event);
+}
+
+TEST_F(KeyboardTest, ComposedLettersLandInTheDocument) {
+  Compose(keyboard, QString(QChar(u'\u0148')));
+  Find<KeyCap>(keyboard, "Command3")->setFocus();
+  Click(keyboard, "Check1");
+  Compose(*Find<KeyCap>(keyboard, "Command3"), QStringLiteral("ďo\u0301😀"));
+  EXPECT_EQ(Take(), "ňĎÓ?"_w);
+}
+
 TEST_F(KeyboardTest, PhysicalKeysLandInTheDocument) {
   EXPECT_EQ(keyboard.focusWidget(), &keyboard);
   Click(keyboard, "Check1");
@@ -264,6 +280,14 @@ TEST_F(CharTableTest, TypedKeysGoToTheMainWindow) {
   QTest::keyClick(field, Qt::Key_Return);
   EXPECT_EQ(strokes, "a \rb\r");
   EXPECT_EQ(field->text(), QStringLiteral("b"));
+  // Composed letters go the same ways.
+  strokes.clear();
+  Compose(*grid, QStringLiteral("ň"));
+  Compose(*field, QStringLiteral("ď"));
+  EXPECT_EQ(strokes, "ňď"_w);
+  EXPECT_EQ(field->text(), QStringLiteral("bď"));
+  field->setText(QStringLiteral("b"));
+  strokes = "a \rb\r";
   auto* option = Find<QRadioButton>(kod, "Option3");
   option->setFocus();
   QTest::keyClick(option, Qt::Key_Space);

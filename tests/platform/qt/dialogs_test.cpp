@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QTest>
 #include <QTimer>
@@ -75,6 +76,12 @@ TEST(InputBox, GivesTheTextOrNothing) {
     WhenShown<QInputDialog>(act);
     return AskForText(QStringLiteral("Výzva"), QStringLiteral("Titul"), QStringLiteral("původní"));
   };
+  const QString longest(40000, QLatin1Char('A'));
+  EXPECT_EQ(ask([&](QInputDialog& box) {
+              box.findChild<QLineEdit*>()->setText(longest);
+              box.accept();
+            }),
+            longest);
   EXPECT_EQ(ask([](QInputDialog& box) {
               EXPECT_EQ(box.labelText(), QStringLiteral("Výzva"));
               EXPECT_EQ(box.windowTitle(), QStringLiteral("Titul"));

@@ -53,6 +53,9 @@ TEST(DialogWindow, IsCentredOnceAndKeepsItsPlace) {
   dialog.hide();
   dialog.Present();
   EXPECT_EQ(dialog.pos(), QPoint(5, 6));
+  dialog.showMinimized();
+  dialog.Present();
+  EXPECT_FALSE(dialog.isMinimized());
   DialogWindow large(&parent);
   large.resize(9000, 9000);
   large.Present();

@@ -13,6 +13,9 @@
 #include <QScrollBar>
 #include <QTabBar>
 #include <QTest>
+#include <QWheelEvent>
+#include <limits>
+#include <map>
 
 #include "platform/qt/controls/elided_label.h"
 #include "platform/qt/controls/swatch.h"
@@ -105,6 +108,30 @@ void ExpectTabReachesAll(const QWidget& window) {
   }
 }
 
+// No field cuts what it is given, but for those that are told to.
+void ExpectRoom(const QWidget& window) {
+  const std::map<QString, int> limits = {{QStringLiteral("Config.Text3"), 8},   {QStringLiteral("Config.Text4"), 8},
+                                         {QStringLiteral("Pass.Text1"), 8},     {QStringLiteral("ZaKod.Text1"), 15},
+                                         {QStringLiteral("Confeld.Text1"), 15}, {QStringLiteral("Analytic.Text2"), 1}};
+  for (const QLineEdit* field : window.findChildren<QLineEdit*>()) {
+    const auto limit = limits.find(window.objectName() + QLatin1Char('.') + field->objectName());
+    EXPECT_EQ(field->maxLength(), limit == limits.end() ? std::numeric_limits<int>::max() : limit->second)
+        << Named(*field).toStdString();
+  }
+}
+
+// The wheel in passing chooses nothing.
+void ExpectTabsStay(QWidget& window) {
+  for (QTabBar* tabs : window.findChildren<QTabBar*>()) {
+    const int before = tabs->currentIndex();
+    for (const int turn : {-120, 120}) {
+      QWheelEvent wheel({5, 5}, tabs->mapToGlobal(QPointF(5, 5)), {}, {0, turn}, {}, {}, Qt::NoScrollPhase, false);
+      QCoreApplication::sendEvent(tabs, &wheel);
+      EXPECT_EQ(tabs->currentIndex(), before) << Named(*tabs).toStdString();
+    }
+  }
+}
+
 void ExpectFits(QWidget& window) {
   EXPECT_LE(window.width(), kSmallScreen.width()) << Named(window).toStdString() << " is too wide";
   EXPECT_LE(window.height(), kSmallScreen.height()) << Named(window).toStdString() << " is too high";
@@ -126,9 +153,12 @@ TEST(AllWindows, AreWithinEverybodysReach) {
     ExpectNoOverlap(window);
     ExpectTabReachesAll(window);
     ExpectFits(window);
+    ExpectRoom(window);
+    ExpectTabsStay(window);
     window.hide();
   });
   EXPECT_GE(count, 12);
+  ExpectTabsStay(program.Main());
 }
 
 }  // namespace

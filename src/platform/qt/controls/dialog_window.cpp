@@ -13,6 +13,7 @@
 
 #include "platform/qt/controls/text_box.h"
 #include "platform/qt/outer_geometry.h"
+#include "platform/qt/placement.h"
 #include "platform/qt/svg_icon.h"
 
 namespace pelmar {
@@ -50,9 +51,7 @@ DialogWindow::DialogWindow(QWidget* parent) : QDialog(parent) {}
 
 void DialogWindow::Present() {
   const bool on_show = isVisible();
-  show();
-  raise();
-  activateWindow();
+  BringToFront(*this);
   if (on_show) BeginInFirstField();
 }
 
