@@ -53,6 +53,7 @@ class StatusStrip : public QStatusBar {
 
  private:
   void Place();
+  void ShowKey(std::size_t at, bool on);
 
   std::array<StatusPanel*, kPanelCount> panels_{};
   std::array<int, kPanelCount> widths_{};
