@@ -17,6 +17,7 @@
 #include "ciphers/windows/rnd_sifra.h"
 #include "ciphers/windows/za_kod.h"
 #include "ciphers/xor_cipher.h"
+#include "files/files.h"
 #include "platform/qt/qt_platform.h"
 #include "shell/windows/main_window.h"
 
@@ -35,7 +36,8 @@ std::string Page() {
 struct Desk {
   QtPlatform platform;
   Editor editor{platform};
-  MainWindow window{editor};
+  Files files{editor};
+  MainWindow window{editor, files.opener};
 
   Desk() {
     window.RefreshCommands();
@@ -108,7 +110,7 @@ BENCHMARK(Stream)->Name("stream_alone (limit 100 MB/s)")->Unit(benchmark::kMilli
 
 // A dialog with a table of depth 64 and the page prepared.
 struct RndDesk : Desk {
-  RND_Sifra dialog{editor, &window};
+  RND_Sifra dialog{editor, files.opener, &window};
 
   RndDesk() {
     dialog.Present();

@@ -5,6 +5,7 @@
 #include <QTest>
 #include <cstdlib>
 
+#include "files/files.h"
 #include "platform/qt/qt_platform.h"
 #include "shell/windows/main_window.h"
 #include "shell/windows/status_timer.h"
@@ -24,7 +25,8 @@ std::string Page(char letter) {
 struct Desk {
   QtPlatform platform;
   Editor editor{platform};
-  MainWindow window{editor};
+  Files files{editor};
+  MainWindow window{editor, files.opener};
   StatusTimer timer{window, editor};
 
   Desk() {

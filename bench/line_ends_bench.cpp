@@ -83,7 +83,7 @@ void Measure(const char* name, const std::string& folder, std::size_t mebibytes,
   const Times copy = BestOfThree(target, [&] { Copy(source, target); });
   const Times conversion = BestOfThree(target, [&] {
     Rewriter rewriter;
-    if (RewriteFileByPieces(source, target, OldTail::kDrop, rewriter) != 0) std::abort();
+    if (RewriteFileByPieces(source, target, OldTail::kDrop, rewriter, folder + "/").error != 0) std::abort();
   });
   unlink(source.c_str());
   rusage usage{};

@@ -8,6 +8,7 @@
 
 #include "platform/qt/qt_platform.h"
 #include "shell/editor.h"
+#include "texttools/commands.h"
 #include "texttools/replace.h"
 
 namespace pelmar {
@@ -36,6 +37,7 @@ struct Desk {
   QtPlatform platform;
   Editor editor{platform};
 
+  Desk() { AddTextToolCommands(editor); }
   void Select(const std::string& text) {
     editor.text.SetText(text);
     editor.text.Select(0, text.size());

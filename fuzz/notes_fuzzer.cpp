@@ -23,12 +23,12 @@ void ReadFile(std::string_view bytes) {
 }
 
 void ReadRescue(std::string_view bytes) {
-  const auto unsaved = ReadNotesRescue(bytes);
+  const auto unsaved = ReadRescue(kNotesRescue, bytes);
   if (!unsaved) return;
-  Expect(NotesRescueBytes(*unsaved) == bytes);
+  Expect(unsaved->texts.empty() || RescueBytes(kNotesRescue, *unsaved) == bytes);
   NotesRecord record = ReadNotes(bytes);
   const auto left = BringBackNotes(record, {*unsaved});
-  Expect(left.size() <= unsaved->notes.size());
+  Expect(left.size() <= unsaved->texts.size());
 }
 
 }  // namespace
@@ -39,6 +39,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   pelmar::ReadFile(bytes);
   pelmar::ReadRescue(bytes);
   // Past the checksum, which keeps most damage from the fields behind it.
-  pelmar::ReadRescue(pelmar::Sealed(pelmar::kNotesRescueSignature, bytes));
+  pelmar::ReadRescue(pelmar::Sealed(pelmar::kNotesRescue.signature, bytes));
   return 0;
 }

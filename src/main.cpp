@@ -3,13 +3,18 @@
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
+#include <cstdio>
 #include <cstdlib>
+#include <span>
 
 #include "platform/qt/application.h"
+#include "platform/qt/end_requests.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/program_style.h"
 #include "platform/qt/qt_platform.h"
-#include "shell/windows/program.h"
+#include "platform/runtime_error.h"
+#include "program/program.h"
+#include "shell/terminal_answer.h"
 
 namespace {
 
@@ -19,9 +24,19 @@ void PreferX11() {
     qputenv("QT_QPA_PLATFORM", "xcb");
 }
 
+// A status that a script can trust: a full disk or a closed output is an error.
+int Print(std::string_view text) {
+  const bool written = std::fwrite(text.data(), 1, text.size(), stdout) == text.size() && std::fflush(stdout) == 0;
+  return written ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
+  // Before anything else, for it works without a display and leaves no trace.
+  if (argc > 0)
+    if (const auto text = pelmar::TerminalAnswer(std::span(argv, static_cast<std::size_t>(argc)).subspan(1)))
+      return Print(*text);
   PreferX11();
   QStringList arguments;
   for (int i = 1; i < argc; ++i) arguments.append(QString::fromLocal8Bit(argv[i]));
@@ -48,6 +63,10 @@ int main(int argc, char** argv) {
     platform.FinishBackgroundWork();
     std::_Exit(EXIT_FAILURE);
   };
+  const pelmar::EndRequests end_requests([&program, &platform] {
+    program.KeepUnsaved();
+    platform.FinishBackgroundWork();
+  });
   try {
     program.Run(pelmar::CommandTail(arguments));
   } catch (const pelmar::RuntimeError& error) {

@@ -9,6 +9,12 @@ namespace {
 
 constexpr double kRadian = 3.14159265358979 / 180;
 
+// The value of a typed number. A comma of which all digits are gone is 0, as the "0," is that it comes from.
+std::optional<double> Read(std::string_view number) {
+  const std::string_view unsigned_part = number.substr(number.starts_with('-') ? 1 : 0);
+  return unsigned_part == "," ? 0.0 : ParseNumber(number);
+}
+
 // What is not finite stands for what can't be computed.
 double Combine(char symbol, double a, double b) {
   switch (symbol) {
@@ -64,8 +70,8 @@ void Calculator::Operator(char symbol) {
 
 bool Calculator::Evaluate() {
   if (Label1.empty()) return true;
-  const std::optional<double> a = ParseNumber(Label2);
-  const std::optional<double> b = ParseNumber(Cislo);
+  const std::optional<double> a = Read(Label2);
+  const std::optional<double> b = Read(Cislo);
   const bool by_zero = a && b && Label1 == "/" && *b == 0;
   const bool done = a && b && !by_zero && Put(Combine(Label1.front(), *a, *b));
   if (by_zero) platform_.Message(MessageType::kOk, "Není možno dělit nulou", "Dělení");
@@ -91,7 +97,7 @@ void Calculator::Refuse() {
 }
 
 void Calculator::Apply(double (*function)(double)) {
-  const std::optional<double> x = ParseNumber(Cislo);
+  const std::optional<double> x = Read(Cislo);
   if (!x || !Put(function(*x))) Refuse();
 }
 
@@ -124,7 +130,7 @@ void Calculator::Cotangent() {
 }
 
 void Calculator::SquareRoot() {
-  const std::optional<double> x = ParseNumber(Cislo);
+  const std::optional<double> x = Read(Cislo);
   if (!x || !Put(std::sqrt(*x))) platform_.Message(MessageType::kOk, "Nelze odmocnit záporné číslo", "Odmocnina");
 }
 

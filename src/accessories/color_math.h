@@ -5,8 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/color.h"
 #include "platform/draw.h"
-#include "shell/common.h"
 
 namespace pelmar {
 

@@ -32,10 +32,18 @@ std::optional<double> ReadPrefixed(std::string_view digits, int base, std::size_
   return static_cast<std::int32_t>(value);
 }
 
-std::string InBase(double value, int base) {
+// The whole number next to the value; nothing where it doesn't fit.
+std::optional<std::int32_t> Whole(std::optional<double> value) {
+  using Limits = std::numeric_limits<std::int32_t>;
+  const double whole = std::nearbyint(value.value_or(std::nan("")));
+  if (!(whole >= Limits::min() && whole <= Limits::max())) return std::nullopt;
+  return static_cast<std::int32_t>(whole);
+}
+
+std::string InBase(std::int32_t value, int base) {
   char digits[16];
-  const auto bits = static_cast<std::uint32_t>(static_cast<std::int32_t>(std::nearbyint(value)));
-  const char* const end = std::to_chars(std::begin(digits), std::end(digits), bits, base).ptr;
+  const char* const end =
+      std::to_chars(std::begin(digits), std::end(digits), static_cast<std::uint32_t>(value), base).ptr;
   return {static_cast<const char*>(digits), end};
 }
 
@@ -47,14 +55,14 @@ std::optional<double> ReadNumber(std::string_view text) {
   return LeadingNumber(text);
 }
 
-std::string ToHex(double value) {
+std::string ToHex(std::int32_t value) {
   std::string digits = InBase(value, 16);
   for (char& digit : digits)
     if (digit >= 'a') digit = static_cast<char>(digit - 'a' + 'A');
   return digits;
 }
 
-std::string ToOct(double value) { return InBase(value, 8); }
+std::string ToOct(std::int32_t value) { return InBase(value, 8); }
 
 std::optional<std::string> ToRoman(std::int32_t n, const std::function<bool()>& go_on) {
   if (n <= 0) return "0";
@@ -87,30 +95,31 @@ void Converter::Digit(std::string Converter::*field, char digit) {
 void Converter::DropLast(std::string Converter::*field) { DropLastDigit(this->*field); }
 
 std::optional<std::int32_t> Converter::FromDecimal() {
-  const std::optional<double> value = ReadNumber(Label1);
+  const std::optional<std::int32_t> value = Whole(ReadNumber(Label1));
+  if (!value) return std::nullopt;
   Label3 = ToHex(*value);
   Label6 = ToOct(*value);
   Cut();
-  return static_cast<std::int32_t>(std::nearbyint(*value));
+  return value;
 }
 
 std::optional<std::int32_t> Converter::FromHex() {
-  const std::optional<double> value = ReadNumber("&H" + Label3);
+  const std::optional<std::int32_t> value = Whole(ReadNumber("&H" + Label3));
   if (!value) return std::nullopt;
-  Label1 = NumberText(*value);
+  Label1 = std::to_string(*value);
   Label6 = ToOct(*value);
   Cut();
   // required: of the decimal field as it shows, which is cut for ten digits and more
-  return static_cast<std::int32_t>(LeadingNumber(Label1));
+  return Whole(LeadingNumber(Label1));
 }
 
 std::optional<std::int32_t> Converter::FromOct() {
-  const std::optional<double> value = ReadNumber("&O" + Label6);
+  const std::optional<std::int32_t> value = Whole(ReadNumber("&O" + Label6));
   if (!value) return std::nullopt;
-  Label1 = NumberText(*value);
+  Label1 = std::to_string(*value);
   Label3 = ToHex(*value);
   Cut();
-  return static_cast<std::int32_t>(LeadingNumber(Label1));
+  return Whole(LeadingNumber(Label1));
 }
 
 }  // namespace pelmar

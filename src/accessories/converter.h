@@ -13,9 +13,9 @@ namespace pelmar {
 // 16-bit value, longer ones a signed 32-bit one. Nothing where the digits don't fit 32 bits.
 std::optional<double> ReadNumber(std::string_view text);
 
-// Of the value as a signed 32-bit integer, which it has to fit, in two's complement; upper case, no leading zeros.
-std::string ToHex(double value);
-std::string ToOct(double value);
+// In two's complement; upper case, no leading zeros.
+std::string ToHex(std::int32_t value);
+std::string ToOct(std::int32_t value);
 
 // Additive numerals with no upper bound, "0" for what isn't above 0. `go_on` is called after each letter; once it says
 // false, nothing is returned.

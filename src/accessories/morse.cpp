@@ -1,6 +1,8 @@
 #include "accessories/morse.h"
 
+#include "platform/busy.h"
 #include "shell/common.h"
+#include "shell/editor.h"
 #include "text/codepage.h"
 
 namespace pelmar {
@@ -113,5 +115,12 @@ std::string TextToMorse(std::string_view text) {
 }
 
 std::span<const MorseMenu> MorseMenus() { return kMenus; }
+
+void AddMorseCommand(Editor& editor) {
+  editor.commands.Add("mnuMakeMorse", [&editor] {
+    const BusyPointer busy(editor.platform);
+    editor.text.ReplaceSelection(TextToMorse(editor.text.SelText()));
+  });
+}
 
 }  // namespace pelmar

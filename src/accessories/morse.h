@@ -8,6 +8,8 @@
 
 namespace pelmar {
 
+struct Editor;
+
 // Each sign ends in "/". Letters lose their diacritics; what has no sign passes through, with no separator.
 std::string TextToMorse(std::string_view text);
 
@@ -26,5 +28,8 @@ struct MorseMenu {
 
 // The menus of signs, from left to right.
 std::span<const MorseMenu> MorseMenus();
+
+// mnuMakeMorse: the selection in Morse code.
+void AddMorseCommand(Editor& editor);
 
 }  // namespace pelmar

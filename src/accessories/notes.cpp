@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <cerrno>
 
-#include "shell/common.h"
+#include "platform/paths.h"
+#include "platform/runtime_error.h"
 #include "shell/record_bytes.h"
 #include "text/codepage.h"
 
@@ -14,17 +15,10 @@ constexpr std::string_view kFileName = "notes.dat";
 constexpr std::size_t kCountSize = 2;
 constexpr std::uint64_t kLongestRecord = kNotePages * (kCountSize + kLongestNote);
 
-constexpr std::size_t kRescueNumber = 8;
-
 std::string NotesPath(Platform& platform) { return JoinPath(platform.InstallFolder(), kFileName); }
 
 void Check(int error, const std::string& failure) {
   if (error != 0) throw RuntimeError(error, failure);
-}
-
-int TakePage(RecordReader& reader) {
-  const std::uint64_t page = reader.Number(kRescueNumber);
-  return page <= kNotePages ? static_cast<int>(page) : 0;
 }
 
 bool TakeEmptyPage(NotesRecord& record, const std::string& text) {
@@ -81,68 +75,34 @@ void StoreNotes(const NotesRecord& record, Platform& platform, FileNumber& file_
   Check(platform.WriteFile(path, OverOldTail(bytes, old.bytes)), failure);
 }
 
-UnsavedNotes NotesToKeep(const NotesRecord& stored, const NotesRecord& now, int page_on_show) {
-  UnsavedNotes unsaved{page_on_show, {}};
+RescueRecord NotesToKeep(const NotesRecord& stored, const NotesRecord& now, int page_on_show) {
+  static_assert(kRescuePlaces == kNotePages);
+  RescueRecord unsaved{page_on_show, {}};
   for (int page = 1; page <= kNotePages; ++page)
-    if (now.Page(page) != stored.Page(page)) unsaved.notes.push_back({page, stored.Page(page), now.Page(page)});
+    if (now.Page(page) != stored.Page(page)) unsaved.texts.push_back({page, stored.Page(page), now.Page(page)});
   return unsaved;
 }
 
-std::string NotesRescueBytes(const UnsavedNotes& unsaved) {
-  RecordWriter writer;
-  writer.Number(static_cast<std::uint64_t>(unsaved.page_on_show), kRescueNumber);
-  for (const UnsavedNote& note : unsaved.notes) {
-    writer.Number(static_cast<std::uint64_t>(note.page), kRescueNumber);
-    for (const std::string* text : {&note.before, &note.text}) {
-      writer.Number(text->size(), kRescueNumber);
-      writer.Bytes(*text);
-    }
-  }
-  return Sealed(kNotesRescueSignature, std::move(writer).Take());
-}
-
-std::optional<UnsavedNotes> ReadNotesRescue(std::string_view bytes) {
-  const std::optional<std::string_view> body = SealedBody(kNotesRescueSignature, bytes);
-  if (!body) return std::nullopt;
-  RecordReader reader(*body);
-  UnsavedNotes unsaved;
-  unsaved.page_on_show = TakePage(reader);
-  if (unsaved.page_on_show == 0) return std::nullopt;
-  while (!reader.AtEnd()) {
-    UnsavedNote note;
-    note.page = TakePage(reader);
-    note.before = reader.Bytes(reader.Number(kRescueNumber));
-    note.text = reader.Bytes(reader.Number(kRescueNumber));
-    if (reader.Failed() || note.page == 0) return std::nullopt;
-    unsaved.notes.push_back(std::move(note));
-  }
-  return unsaved;
-}
-
-void DropKnownNotes(UnsavedNotes& unsaved, const NotesRecord& record) {
-  std::erase_if(unsaved.notes, [&](const UnsavedNote& note) { return record.Page(note.page) == note.text; });
-}
-
-std::vector<UnsavedNote> BringBackNotes(NotesRecord& record, const std::vector<UnsavedNotes>& unsaved) {
-  std::vector<UnsavedNote> moved;
-  for (const UnsavedNotes& of_one : unsaved) {
-    for (const UnsavedNote& note : of_one.notes) {
-      if (record.Page(note.page) == note.before) {
-        record.Page(note.page) = note.text;
+std::vector<RescuedText> BringBackNotes(NotesRecord& record, const std::vector<RescueRecord>& unsaved) {
+  std::vector<RescuedText> moved;
+  for (const RescueRecord& of_one : unsaved) {
+    for (const RescuedText& note : of_one.texts) {
+      if (record.Page(note.place) == note.origin) {
+        record.Page(note.place) = note.text;
       } else if (!note.text.empty()) {
         moved.push_back(note);
       }
     }
   }
   // Empty pages are given away only when every page that can is back in its own place.
-  std::erase_if(moved, [&](const UnsavedNote& note) { return TakeEmptyPage(record, note.text); });
+  std::erase_if(moved, [&](const RescuedText& note) { return TakeEmptyPage(record, note.text); });
   return moved;
 }
 
-std::string ReadableNotes(const std::vector<UnsavedNote>& notes) {
+std::string ReadableNotes(const std::vector<RescuedText>& notes) {
   std::string text;
-  for (const UnsavedNote& note : notes)
-    text += std::string("Poznámka "_w) + std::to_string(note.page) + ":\r\n" + note.text + "\r\n\r\n";
+  for (const RescuedText& note : notes)
+    text += std::string("Poznámka "_w) + std::to_string(note.place) + ":\r\n" + note.text + "\r\n\r\n";
   return text;
 }
 

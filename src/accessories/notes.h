@@ -4,13 +4,13 @@
 #pragma once
 
 #include <array>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "files/file_number.h"
 #include "platform/platform.h"
+#include "shell/file_number.h"
+#include "shell/rescue_file.h"
 
 namespace pelmar {
 
@@ -38,36 +38,14 @@ std::string OverlongMessage(int page, std::size_t size);
 NotesRecord LoadNotes(Platform& platform, FileNumber& file_number);
 void StoreNotes(const NotesRecord& record, Platform& platform, FileNumber& file_number);
 
-// A page as it stood in the file, and as it was last seen.
-struct UnsavedNote {
-  int page = 1;
-  std::string before;
-  std::string text;
-  bool operator==(const UnsavedNote&) const = default;
-};
-
-struct UnsavedNotes {
-  int page_on_show = 1;
-  std::vector<UnsavedNote> notes;
-  bool operator==(const UnsavedNotes&) const = default;
-};
-
-UnsavedNotes NotesToKeep(const NotesRecord& stored, const NotesRecord& now, int page_on_show);
-
-inline constexpr std::string_view kNotesRescueSignature = "PELMAR-NOTES-1\n";
-
-// The rescue file of the notes; nothing for bytes that weren't written whole.
-std::string NotesRescueBytes(const UnsavedNotes& unsaved);
-std::optional<UnsavedNotes> ReadNotesRescue(std::string_view bytes);
-
-// Without the pages that the record holds already.
-void DropKnownNotes(UnsavedNotes& unsaved, const NotesRecord& record);
+// The pages that differ from what is stored.
+RescueRecord NotesToKeep(const NotesRecord& stored, const NotesRecord& now, int page_on_show);
 
 // Brings pages back: each to its own place where that still holds what it held before, else to the next empty page.
 // Those that found no place are returned; an emptied page needs none.
-std::vector<UnsavedNote> BringBackNotes(NotesRecord& record, const std::vector<UnsavedNotes>& unsaved);
+std::vector<RescuedText> BringBackNotes(NotesRecord& record, const std::vector<RescueRecord>& unsaved);
 
 // The pages as a text that a person reads.
-std::string ReadableNotes(const std::vector<UnsavedNote>& notes);
+std::string ReadableNotes(const std::vector<RescuedText>& notes);
 
 }  // namespace pelmar

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "shell/window_geometry.h"
+
 namespace pelmar {
 
 TwipsRect PlaceNotes(const NotesSurroundings& around) {

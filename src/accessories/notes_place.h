@@ -2,8 +2,8 @@
 // at full height beside a maximised one, or in the screen's corner. Outer places in twips.
 #pragma once
 
+#include "platform/twips.h"
 #include "shell/main_view.h"
-#include "shell/window_geometry.h"
 
 namespace pelmar {
 

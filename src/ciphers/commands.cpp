@@ -2,8 +2,8 @@
 
 #include "ciphers/check_sums.h"
 #include "ciphers/xor_cipher.h"
-#include "html/insert.h"
 #include "shell/editor.h"
+#include "text/insert.h"
 
 namespace pelmar {
 

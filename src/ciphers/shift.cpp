@@ -34,7 +34,8 @@ std::string Shiftp(std::string_view text, std::int16_t shift) {
 
 std::string Rotated(std::string_view text, std::size_t count) {
   std::string result(text);
-  std::rotate(result.begin(), result.begin() + static_cast<std::ptrdiff_t>(count), result.end());
+  const auto front = static_cast<std::ptrdiff_t>(std::min(count, result.size()));
+  std::rotate(result.begin(), result.begin() + front, result.end());
   return result;
 }
 

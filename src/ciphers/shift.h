@@ -24,7 +24,7 @@ char ShiftedLetter(char letter, int shift);
 // Every letter moved forward by `shift`, all else as it stands. 26 - shift takes a shift of 0 to 26 back.
 std::string Shiftp(std::string_view text, std::int16_t shift);
 
-// The first `count` characters moved behind the others; count is at most the length.
+// The first `count` characters moved behind the others; as it stands where there are no more than that.
 std::string Rotated(std::string_view text, std::size_t count);
 
 }  // namespace pelmar

@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <utility>
 
+#include "platform/runtime_error.h"
 #include "shell/record_bytes.h"
 
 namespace pelmar {

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "html/insert.h"
 #include "text/codepage.h"
+#include "text/insert.h"
 #include "text/number_text.h"
 
 namespace pelmar {
@@ -56,7 +56,8 @@ void RewriteStream(TextBuffer& document, double key, std::string& output, Platfo
   for (std::size_t done = 0; done < std::min(length, document.Size());) {
     std::string_view part = std::string_view(document.Text()).substr(done, std::min(step, length - done));
     if (part.front() == kBroken) {
-      if (EndsBroken(platform)) return;
+      // The progress stands at the character that the messages are about.
+      if (!on_progress(done + 1) || EndsBroken(platform)) return;
       part = std::string_view(&kBroken, 1);  // the character as it was read, whatever the document is by now
     } else {
       part = part.substr(0, part.find(kBroken));

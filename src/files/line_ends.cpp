@@ -2,8 +2,11 @@
 
 #include <cstring>
 
+#include "platform/busy.h"
 #include "platform/error_text.h"
+#include "platform/runtime_error.h"
 #include "shell/common.h"
+#include "shell/file_number.h"
 
 namespace pelmar {
 namespace {
@@ -46,10 +49,11 @@ void Convert(Platform& platform, const std::string& path, std::string_view exten
                      "Konverze UNIX <-> DOS");
     return;
   }
-  platform.SetBusyPointer(true);
-  const int error = platform.RewriteFile(path, target, tail, rewriter);
-  platform.SetBusyPointer(false);
-  if (error != 0) throw RuntimeError(error, "Konverze souboru " + path + " do " + target + ": " + ErrorText(error));
+  const BusyPointer busy(platform);
+  const WriteOutcome outcome = platform.RewriteFile(path, target, tail, rewriter);
+  if (outcome.error == 0) return;
+  throw RuntimeError(outcome.error, "Konverze souboru " + path + " do " + target + ": " + ErrorText(outcome.error) +
+                                        KeptNotice(outcome));
 }
 
 }  // namespace

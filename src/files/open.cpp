@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/runtime_error.h"
+
 namespace pelmar {
 
 Opener::Opener(Documents& documents, SettingsRecord& settings, Platform& platform, FileNumber& file_number)

@@ -8,9 +8,9 @@
 #include <string>
 #include <string_view>
 
-#include "files/file_number.h"
 #include "platform/platform.h"
 #include "shell/documents.h"
+#include "shell/file_number.h"
 #include "shell/settings_record.h"
 #include "text/codepage.h"
 

@@ -1,5 +1,7 @@
 #include "files/printing.h"
 
+#include "platform/busy.h"
+#include "platform/runtime_error.h"
 #include "shell/common.h"
 #include "shell/editor.h"
 
@@ -90,17 +92,20 @@ std::string PrintName(std::string_view path) {
   return name.empty() ? "Pelmar VEX" : std::string(name);
 }
 
-void PrintDocument(Editor& e, const EditorLook& look) {
+PrintOutcome PutOnPaper(Editor& e, const EditorLook& look) {
   const std::string text(OnlySelection(e) ? e.text.SelText() : std::string_view(e.text.Text()));
-  e.platform.SetBusyPointer(true);
-  const PrintOutcome outcome = e.platform.Print({look.font_name, look.font_size, look.bold, look.italic},
-                                                PrintName(e.documents.CurrentPath()), [&text](Paper& paper) {
-                                                  const auto end_of = [&paper](double x, std::string_view piece) {
-                                                    return paper.EndOf(x, piece);
-                                                  };
-                                                  PutOnPages(LayOutForPrint(text, paper.Width(), end_of), paper);
-                                                });
-  e.platform.SetBusyPointer(false);
+  const BusyPointer busy(e.platform);
+  return e.platform.Print({look.font_name, look.font_size, look.bold, look.italic},
+                          PrintName(e.documents.CurrentPath()), [&text](Paper& paper) {
+                            const auto end_of = [&paper](double x, std::string_view piece) {
+                              return paper.EndOf(x, piece);
+                            };
+                            PutOnPages(LayOutForPrint(text, paper.Width(), end_of), paper);
+                          });
+}
+
+void PrintDocument(Editor& e, const EditorLook& look) {
+  const PrintOutcome outcome = PutOnPaper(e, look);
   if (outcome.error != 0) throw RuntimeError(outcome.error, "Tisk se nezdařil");
   if (outcome.pdf.empty()) return;
   const std::string reason = outcome.problem.empty() ? "Není nastavena žádná tiskárna." : outcome.problem;

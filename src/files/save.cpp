@@ -1,14 +1,18 @@
 #include "files/save.h"
 
+#include "platform/paths.h"
+#include "platform/runtime_error.h"
+
 namespace pelmar {
 
 Saver::Saver(Documents& documents, Opener& opener, Platform& platform, FileNumber& file_number)
     : documents_(documents), opener_(opener), platform_(platform), file_number_(file_number) {}
 
-void Saver::SaveToPath(const std::string& path, std::string_view text) {
+void Saver::SaveToPath(const std::string& path) {
   if (!MayWrite(path)) return;
   try {
-    WriteFileOn(file_number_, platform_, path, text);
+    const WriteOutcome outcome = Write(path, documents_.Text().Text());
+    if (outcome.error != 0) return TellError(path, outcome);
     documents_.SetCurrentPath(path);
     documents_.Target().Prime(path);
     documents_.ShowPathInTitle();
@@ -16,17 +20,18 @@ void Saver::SaveToPath(const std::string& path, std::string_view text) {
     documents_.ShowPathOnTab();
     documents_.SettleSlot();
   } catch (const RuntimeError& error) {
-    TellError(path, error.Number());
+    TellError(path, {.error = error.Number()});
   }
 }
 
 void Saver::SaveTextCopy(const std::string& path, std::string_view text) {
   if (!MayWrite(path)) return;
   try {
-    WriteFileOn(file_number_, platform_, path, text);
+    const WriteOutcome outcome = Write(path, text);
+    if (outcome.error != 0) return TellError(path, outcome);
     opener_.RememberFile(path);
   } catch (const RuntimeError& error) {
-    TellError(path, error.Number());
+    TellError(path, {.error = error.Number()});
   }
 }
 
@@ -40,14 +45,14 @@ void Saver::SaveSelectionAs() {
 
 void Saver::SaveStandard() {
   const auto path = platform_.SaveDialog(kDocumentFilter, kDocumentFilterIndex);
-  if (path) SaveToPath(*path, documents_.Text().Text());
+  if (path) SaveToPath(*path);
 }
 
 void Saver::SaveFast() {
   const std::string path = documents_.CurrentPath();
   const std::string question = "Opravdu uložit soubor?\r\n\"" + path + "\"";
   if (platform_.Message(MessageType::kYesNoWarning, question, "Soubor") != Answer::kYes) return;
-  SaveToPath(path, documents_.Text().Text());
+  SaveToPath(path);
 }
 
 void Saver::InsertFromFile() {
@@ -70,9 +75,16 @@ bool Saver::MayWrite(const std::string& path) {
   return platform_.Message(MessageType::kYesNoWarning, question, "Soubor") == Answer::kYes;
 }
 
-void Saver::TellError(const std::string& path, int error) {
-  platform_.Message(MessageType::kOk, "Chyba ukládání!\r\nSoubor: " + path + "\r\nKód chyby " + std::to_string(error),
-                    "Pelmar VEX");
+WriteOutcome Saver::Write(const std::string& path, std::string_view text) {
+  const OpenNumber number(file_number_);
+  return platform_.WriteDocument(path, text);
+}
+
+void Saver::TellError(const std::string& path, const WriteOutcome& outcome) {
+  platform_.Message(
+      MessageType::kOk,
+      "Chyba ukládání!\r\nSoubor: " + path + "\r\nKód chyby " + std::to_string(outcome.error) + KeptNotice(outcome),
+      "Pelmar VEX");
 }
 
 std::string TargetPath(std::string_view folder, std::string_view name, std::string_view extension) {

@@ -13,9 +13,9 @@ class Saver {
  public:
   Saver(Documents& documents, Opener& opener, Platform& platform, FileNumber& file_number);
 
-  // Saves and makes the path the document's file. Asks before it overwrites; what fails is told, and steps already done
-  // stay done.
-  void SaveToPath(const std::string& path, std::string_view text);
+  // Saves the document and makes the path its file. Asks before it overwrites, and takes the text as it is when that is
+  // answered; what fails is told, and steps already done stay done.
+  void SaveToPath(const std::string& path);
 
   // Writes a file; the document stays as it was.
   void SaveTextCopy(const std::string& path, std::string_view text);
@@ -34,7 +34,8 @@ class Saver {
 
  private:
   bool MayWrite(const std::string& path);
-  void TellError(const std::string& path, int error);
+  WriteOutcome Write(const std::string& path, std::string_view text);
+  void TellError(const std::string& path, const WriteOutcome& outcome);
 
   Documents& documents_;
   Opener& opener_;

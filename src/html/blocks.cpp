@@ -1,9 +1,9 @@
 #include "html/blocks.h"
 
 #include "html/attributes.h"
-#include "html/insert.h"
 #include "shell/common.h"
 #include "text/codepage.h"
+#include "text/insert.h"
 
 namespace pelmar {
 namespace {

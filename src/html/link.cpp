@@ -1,7 +1,7 @@
 #include "html/link.h"
 
 #include "html/attributes.h"
-#include "html/insert.h"
+#include "text/insert.h"
 
 namespace pelmar {
 namespace {

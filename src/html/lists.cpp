@@ -1,17 +1,22 @@
 #include "html/lists.h"
 
 #include <algorithm>
+#include <span>
 
 #include "html/attributes.h"
-#include "html/insert.h"
 #include "shell/common.h"
 #include "shell/editor.h"
+#include "text/insert.h"
 
 namespace pelmar {
 namespace {
 
 constexpr std::string_view kBulletTypes[] = {"disk", "circle", "square"};
 constexpr std::string_view kNumberTypes[] = {"1", "a", "A", "I", "i"};
+
+std::span<const std::string_view> TypesOf(ListKind kind) {
+  return kind == ListKind::kBullets ? std::span<const std::string_view>(kBulletTypes) : kNumberTypes;
+}
 
 std::string_view TagOf(ListKind kind) { return kind == ListKind::kBullets ? "UL" : "OL"; }
 
@@ -33,8 +38,8 @@ void MakeListOfSelection(Editor& e, ListKind kind) {
 std::string BuildList(const ListSpec& spec) {
   std::string list("<");
   list += TagOf(spec.kind);
-  if (spec.type)
-    list += Attribute("TYPE", spec.kind == ListKind::kBullets ? kBulletTypes[*spec.type] : kNumberTypes[*spec.type]);
+  const std::span<const std::string_view> types = TypesOf(spec.kind);
+  if (spec.type && *spec.type < types.size()) list += Attribute("TYPE", types[*spec.type]);
   if (spec.compact) list += " COMPACT";
   list += ">";
   if (spec.heading) list.append(kCrLf).append(Element("LH", *spec.heading));

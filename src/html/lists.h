@@ -15,7 +15,7 @@ enum class ListKind { kBullets, kNumbers };
 
 struct ListSpec {
   ListKind kind = ListKind::kBullets;
-  std::optional<std::size_t> type;  // from 0, in the order of the kind's options
+  std::optional<std::size_t> type;  // from 0, in the order of the kind's options; none is written beyond them
   bool compact = false;
   std::optional<std::string> heading;
   std::vector<std::string> items;

@@ -1,6 +1,7 @@
 #include "html/page.h"
 
 #include "html/attributes.h"
+#include "platform/paths.h"
 #include "shell/common.h"
 
 namespace pelmar {

@@ -1,9 +1,9 @@
 #include "html/table_tags.h"
 
 #include "html/attributes.h"
-#include "html/insert.h"
 #include "shell/common.h"
 #include "text/codepage.h"
+#include "text/insert.h"
 
 namespace pelmar {
 namespace {

@@ -4,9 +4,10 @@
 #include <cerrno>
 
 #include "html/attributes.h"
-#include "html/insert.h"
+#include "platform/runtime_error.h"
 #include "shell/common.h"
 #include "text/codepage.h"
+#include "text/insert.h"
 
 namespace pelmar {
 namespace {

@@ -1,61 +1,39 @@
 #include "html/test_page.h"
 
-#include <cerrno>
-#include <cstdint>
-
-#include "html/insert.h"
+#include "platform/busy.h"
+#include "platform/runtime_error.h"
+#include "shell/common.h"
+#include "shell/temp_file.h"
+#include "text/insert.h"
 
 namespace pelmar {
 namespace {
 
 constexpr std::string_view kPageName = "$$$PelmarTemp";
-// Names that others have taken already are passed over, but not for ever.
-constexpr int kMostNames = 100;
-
-struct TestPage {
-  std::string path;
-  std::string digits;  // what the name has behind its fixed part
-};
-
-std::string DrawDigits(Platform& platform) {
-  return std::to_string(static_cast<std::int64_t>(platform.Random() * 99'999'999.0));
-}
-
-// Throws RuntimeError where the page can't be written.
-TestPage WriteTestPage(Editor& e, std::string_view extension, PageEnd end) {
-  std::string text = e.text.Text();
-  if (end == PageEnd::kLineBreak) text += kCrLf;
-  const std::string folder = e.platform.TempFolder();
-  e.platform.ReseedRandom();
-  TestPage page;
-  int error = EEXIST;
-  const OpenNumber number(e.file_number);
-  for (int tries = 0; error == EEXIST && tries < kMostNames; ++tries) {
-    page.digits = DrawDigits(e.platform);
-    page.path = folder + std::string(kPageName) + page.digits + std::string(extension);
-    error = e.platform.WriteNewFile(page.path, text);
-  }
-  if (error != 0) throw RuntimeError(error, page.path);
-  return page;
-}
 
 // Nothing where the page can't be written; the person has been told then.
-std::optional<TestPage> TryTestPage(Editor& e, std::string_view extension, PageEnd end, std::string_view title) {
+std::optional<TempFile> TryTestPage(Editor& e, std::string_view extension, PageEnd end, std::string_view title) {
+  std::string text = e.text.Text();
+  if (end == PageEnd::kLineBreak) text += kCrLf;
+  TempFile page;
   try {
-    return WriteTestPage(e, extension, end);
+    e.platform.ReseedRandom();
+    const OpenNumber number(e.file_number);
+    page = WriteTempFile(e.platform, kPageName, extension, text);
   } catch (const RuntimeError& error) {
-    e.platform.Message(MessageType::kOk,
-                       "Testovací stránku nelze zapsat do složky " + e.platform.TempFolder() + "\r\nKód chyby " +
-                           std::to_string(error.Number()),
-                       title);
-    return std::nullopt;
+    page.error = error.Number();
   }
+  if (page.error == 0) return page;
+  e.platform.Message(MessageType::kOk,
+                     "Testovací stránku nelze zapsat do složky " + e.platform.TempFolder() + "\r\nKód chyby " +
+                         std::to_string(page.error),
+                     title);
+  return std::nullopt;
 }
 
 void RemoveHtml(Editor& e) {
-  e.platform.SetBusyPointer(true);
+  const BusyPointer busy(e.platform);
   ReplaceSelection(e.text, StripHtml(e.text.SelText()));
-  e.platform.SetBusyPointer(false);
 }
 
 void TestHtml(Editor& e) {
@@ -65,7 +43,7 @@ void TestHtml(Editor& e) {
     e.platform.OpenWithDefaultProgram(path);
     return;
   }
-  const std::optional<TestPage> page = TryTestPage(e, ".htm", PageEnd::kLineBreak, "Testuj html");
+  const std::optional<TempFile> page = TryTestPage(e, ".htm", PageEnd::kLineBreak, "Testuj html");
   if (!page) return;
   // required: the name that is opened lacks the fixed part of the name that was written, and no message follows
   e.platform.OpenWithDefaultProgram(e.platform.TempFolder() + page->digits + ".htm");
@@ -91,7 +69,7 @@ std::string StripHtml(std::string_view text) {
 
 std::optional<std::string> PageToShow(Editor& editor, PageEnd end) {
   if (const std::string& path = editor.documents.CurrentPath(); !path.empty()) return path;
-  const std::optional<TestPage> page = TryTestPage(editor, ".html", end, "Interní browser");
+  const std::optional<TempFile> page = TryTestPage(editor, ".html", end, "Interní browser");
   return page ? std::optional(page->path) : std::nullopt;
 }
 

@@ -32,6 +32,12 @@ struct FileBytes {
   std::string bytes;
 };
 
+struct WriteOutcome {
+  int error = 0;  // 0 or an errno
+  // The file that holds the old content, where a failed write damaged that and couldn't put it back.
+  std::string kept = {};
+};
+
 struct KeyStates {
   bool caps = false;
   bool num = false;
@@ -114,16 +120,19 @@ class Platform {
   virtual void ClearClipboard() = 0;
 
   // Files. Reading reads all, at most `limit` bytes where one is given (a longer file then gives limit bytes).
-  // Writing puts the new content beside and renames it over, so that the old file stays whole until the new one is.
+  // Writing puts the new content beside and renames it over, so that the old file stays whole until the new one is, or,
+  // where that would cost the file a link or an attribute, keeps the old content until the new one is written.
   virtual bool CanRead(const std::string& path) = 0;  // opens for reading; false for a folder
   virtual FileBytes ReadFile(const std::string& path, std::optional<std::uint64_t> limit) = 0;
-  virtual int WriteFile(const std::string& path, std::string_view bytes) = 0;  // 0 or errno
+  virtual WriteOutcome WriteDocument(const std::string& path, std::string_view bytes) = 0;
+  // The same for files of the program's own. 0 or errno.
+  int WriteFile(const std::string& path, std::string_view bytes) { return WriteDocument(path, bytes).error; }
   // A file that only its owner can read. EEXIST where anything has that name already, links that lead nowhere included.
   virtual int WriteNewFile(const std::string& path, std::string_view bytes) = 0;  // 0 or errno
   // Reads one file and writes another, piece by piece, so that its size doesn't matter. The target is the new content
-  // once that is complete, and what it was until then. 0 or errno.
-  virtual int RewriteFile(const std::string& source, const std::string& target, OldTail tail,
-                          FileRewriter& rewriter) = 0;
+  // once that is complete, and what it was until then.
+  virtual WriteOutcome RewriteFile(const std::string& source, const std::string& target, OldTail tail,
+                                   FileRewriter& rewriter) = 0;
   // True where both paths lead to the same file.
   virtual bool IsSameFile(const std::string& left, const std::string& right) = 0;
 

@@ -4,78 +4,17 @@
 #include <cerrno>
 #include <cstddef>
 
+#include "platform/runtime_error.h"
 #include "text/codepage.h"
 
 namespace pelmar {
 namespace {
-
-bool IsSeparator(char ch) { return ch == '\\' || ch == '/'; }
-
-// Positions from 1, found by the walk that the three parts share.
-struct PathSplit {
-  std::size_t separator;
-  std::size_t dot;
-};
-
-PathSplit Split(std::string_view path) {
-  if (path.empty()) throw RuntimeError(EINVAL, "FilePart: prázdná cesta");
-  const std::size_t last = path.find_last_of("\\/");
-  const std::size_t separator = last == std::string_view::npos ? path.size() : last + 1;
-  const std::size_t point = path.substr(separator - 1).find_last_of('.');
-  return {separator, point == std::string_view::npos ? separator : separator + point};
-}
 
 constexpr std::string_view kMarked = "áÁčČďĎéěÉĚíÍňŇóÓřŘšŠťŤůúŮÚýÝžŽ"_w;
 constexpr std::string_view kPlain = "aAcCdDeeEEiInNoOrRsStTuuUUyYzZ"_w;
 static_assert(kMarked.size() == kPlain.size());
 
 }  // namespace
-
-std::string FilePart(std::string_view path, int part) {
-  const auto [separator, dot] = Split(path);
-  switch (part) {
-    case 1:
-      return std::string(path.substr(0, separator));
-    case 2:
-      if (dot == separator) throw RuntimeError(EINVAL, "FilePart: jméno souboru nemá příponu: " + std::string(path));
-      return std::string(path.substr(separator, dot - separator - 1));
-    case 3:
-      return std::string(path.substr(dot));
-    default:
-      return {};
-  }
-}
-
-bool HasExtension(std::string_view path) {
-  if (path.empty()) return false;
-  const auto [separator, dot] = Split(path);
-  return dot != separator;
-}
-
-std::string PathToFileUrl(std::string_view path) {
-  // The slash of a native absolute path is the third one already.
-  std::string url = path.starts_with('/') ? "file://" : "file:///";
-  url += path;
-  std::replace(url.begin(), url.end(), '\\', '/');
-  return url;
-}
-
-std::string JoinPath(std::string_view folder, std::string_view name) {
-  std::string path(folder);
-  const bool backslashed = folder.find('\\') != std::string_view::npos && folder.find('/') == std::string_view::npos;
-  if (path.empty() || !IsSeparator(path.back())) path += backslashed ? '\\' : '/';
-  path += name;
-  return path;
-}
-
-std::string HexByte(int value) {
-  constexpr std::string_view kDigits = "0123456789ABCDEF";
-  return {kDigits[static_cast<std::size_t>(value / 16)], kDigits[static_cast<std::size_t>(value % 16)]};
-}
-
-std::string ColorToHex(Color color) {
-  return "#" + HexByte(RedOf(color)) + HexByte(GreenOf(color)) + HexByte(BlueOf(color));
-}
 
 std::string StripDiacritics(std::string_view text) {
   std::string plain(text);

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "shell/common.h"
+#include "platform/paths.h"
 
 namespace pelmar {
 

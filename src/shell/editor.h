@@ -2,11 +2,10 @@
 // window of their own. Windows get the parts they need from here through their constructors.
 #pragma once
 
-#include "files/open.h"
-#include "files/save.h"
 #include "platform/platform.h"
 #include "shell/commands.h"
 #include "shell/documents.h"
+#include "shell/file_number.h"
 #include "shell/settings_record.h"
 #include "text/text_buffer.h"
 
@@ -20,8 +19,6 @@ struct Editor {
   FileNumber file_number;
   TextBuffer text;
   Documents documents{text};
-  Opener opener{documents, settings, platform, file_number};
-  Saver saver{documents, opener, platform, file_number};
   Commands commands;
 };
 

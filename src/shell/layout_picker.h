@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-#include "shell/window_geometry.h"
+#include "platform/twips.h"
 
 namespace pelmar {
 

@@ -3,10 +3,12 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 
+#include "platform/color.h"
+#include "platform/twips.h"
 #include "shell/settings_record.h"
-#include "shell/window_geometry.h"
 
 namespace pelmar {
 
@@ -41,10 +43,13 @@ class MainView {
   // Width, height, left and top, in this order.
   virtual void MoveTo(const TwipsRect& place) = 0;
 
-  // The size sets the check marks of its menu items too; bold and italic have marks of their own.
+  // The one way to change the editor's font size: six sizes are taken, any other becomes 8.
+  void SetEditorFontSize(int size);
+  std::function<void()> on_font_size;  // told after each change of the size, for the dialog that shows it
+
+  // Bold and italic have marks of their own.
   virtual void SetEditorColors(Color fore, Color back) = 0;
   virtual void SetEditorFont(const std::string& name) = 0;
-  virtual void SetEditorFontSize(int size) = 0;  // one of the six
   virtual void SetEditorBold(bool bold) = 0;
   virtual void SetEditorItalic(bool italic) = 0;
   virtual void MarkBold(bool bold) = 0;
@@ -58,9 +63,10 @@ class MainView {
   virtual void ShowMain() = 0;
   virtual void ShowStart() = 0;  // instead of the main window
   virtual void ShowAccessory(StartMode mode) = 0;
-};
 
-// A size of FontSizeItems; any other becomes 8.
-int EditorFontSize(int size);
+ protected:
+  // One of the six sizes; the check marks of its menu items go with it.
+  virtual void ApplyEditorFontSize(int size) = 0;
+};
 
 }  // namespace pelmar

@@ -1,5 +1,6 @@
-// The bytes of a rescue file: the modified documents of one running copy, kept while it runs so that a crash or a power
-// loss takes nothing. Binary with a signature and a checksum; what doesn't check out is no rescue file.
+// The bytes of a rescue file: what one running copy hasn't saved yet, its documents or its notes, kept while it runs so
+// that a crash or a power loss takes nothing. Binary with a signature and a checksum; what doesn't check out is no
+// rescue file.
 #pragma once
 
 #include <optional>
@@ -7,36 +8,35 @@
 #include <string_view>
 #include <vector>
 
-#include "shell/documents.h"
-
 namespace pelmar {
 
-struct RescuedDocument {
-  int tab = 1;
-  std::string path;  // UTF-8, empty for a document never saved
+// What is kept. The prefix begins the name of the file, and none begins with another one.
+struct RescueKind {
+  std::string_view prefix;
+  std::string_view signature;
+};
+inline constexpr RescueKind kDocumentsRescue{"rescue-", "PELMAR-RESCUE-1\n"};
+inline constexpr RescueKind kNotesRescue{"notes-rescue-", "PELMAR-NOTES-1\n"};
+
+inline constexpr int kRescuePlaces = 5;
+
+struct RescuedText {
+  int place = 1;       // the tab or the page, from 1
+  std::string origin;  // a document's path (UTF-8, empty where it was never saved), or a page as it was last stored
   std::string text;
-  bool operator==(const RescuedDocument&) const = default;
+  bool operator==(const RescuedText&) const = default;
 };
 
 struct RescueRecord {
-  int selected_tab = 1;
-  std::vector<RescuedDocument> documents;
+  int shown = 1;  // the place on show
+  std::vector<RescuedText> texts;
   bool operator==(const RescueRecord&) const = default;
 };
 
-// The documents of the running program that have unsaved changes.
-RescueRecord UnsavedDocuments(const Documents& documents);
-
-std::string RescueBytes(const RescueRecord& record);
+// "" where there is no text to keep.
+std::string RescueBytes(const RescueKind& kind, const RescueRecord& record);
 
 // Nothing for bytes that RescueBytes didn't write whole. Never allocates more than the bytes' own size.
-std::optional<RescueRecord> ReadRescue(std::string_view bytes);
-
-// Brings documents back: each into its own tab, or into the next empty one where its own holds a document with a path
-// or one brought back before. Those that found no place are returned.
-std::vector<RescuedDocument> BringBack(Documents& documents, const std::vector<RescueRecord>& records);
-
-// The documents as a text file that a person reads: a head line with the path, then the text, for each.
-std::string ReadableRescue(const std::vector<RescuedDocument>& documents);
+std::optional<RescueRecord> ReadRescue(const RescueKind& kind, std::string_view bytes);
 
 }  // namespace pelmar

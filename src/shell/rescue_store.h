@@ -10,9 +10,6 @@
 
 namespace pelmar {
 
-inline constexpr std::string_view kDocumentsRescue = "rescue-";
-inline constexpr std::string_view kNotesRescue = "notes-rescue-";
-
 // A file lock that ends with the object. Empty where the lock couldn't be had.
 class FileLock {
  public:

@@ -1,6 +1,6 @@
 #include "shell/save_target.h"
 
-#include "shell/common.h"
+#include "platform/paths.h"
 
 namespace pelmar {
 

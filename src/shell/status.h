@@ -12,8 +12,6 @@
 
 namespace pelmar {
 
-inline constexpr int kPanelCount = 7;
-
 struct PanelTexts {
   std::string length;    // panel 1
   std::string position;  // panel 2

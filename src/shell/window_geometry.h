@@ -5,22 +5,11 @@
 #include <array>
 #include <optional>
 
-#include "shell/status.h"
+#include "platform/twips.h"
 
 namespace pelmar {
 
-inline constexpr int kTwipsPerPixel = 15;
-constexpr int TwipsOf(int pixels) { return pixels * kTwipsPerPixel; }
-// To the nearest whole pixel.
-constexpr int PixelsOf(int twips) { return (twips + (twips < 0 ? -7 : 7)) / kTwipsPerPixel; }
-
-struct TwipsRect {
-  int left = 0;
-  int top = 0;
-  int width = 0;
-  int height = 0;
-  bool operator==(const TwipsRect&) const = default;
-};
+inline constexpr int kPanelCount = 7;
 
 // One tick of snapping: a window nearer than `distance` to an edge of the screen goes to it, and one that is nearly as
 // wide or high as the screen becomes just so.

@@ -86,12 +86,6 @@ std::string ToUtf8(std::string_view text) {
   return utf8;
 }
 
-bool IsUtf8(std::string_view bytes) {
-  for (std::size_t at = 0; at < bytes.size();)
-    if (DecodeUtf8(bytes, at) == 0xFFFFFFFF) return false;
-  return true;
-}
-
 char ToUpper(char ch) { return kToUpper[static_cast<std::size_t>(CodeOf(ch))]; }
 char ToLower(char ch) { return kToLower[static_cast<std::size_t>(CodeOf(ch))]; }
 std::string ToUpper(std::string_view text) { return Mapped(text, kToUpper); }

@@ -9,6 +9,8 @@
 #include <string>
 #include <string_view>
 
+#include "text/utf8.h"
+
 namespace pelmar {
 
 // The Unicode characters of the codes 0x80 to 0xFF; codes below are ASCII and stand for themselves.
@@ -44,9 +46,6 @@ std::string FromUtf8(std::string_view utf8);
 std::string ToUtf8(std::string_view text);
 std::string FromUtf16(std::u16string_view utf16);
 
-// True where the string is well-formed UTF-8 (ASCII included).
-bool IsUtf8(std::string_view bytes);
-
 // A character's code, 0 to 255, and back.
 constexpr int CodeOf(char ch) { return static_cast<unsigned char>(ch); }
 constexpr char CharOf(int code) { return static_cast<char>(static_cast<unsigned char>(code)); }
@@ -59,28 +58,6 @@ std::string ToLower(std::string_view text);
 
 // A letter of the page in either case, ß included.
 bool IsLetter(char ch);
-
-// Decodes one character of well-formed UTF-8 at `at` and moves `at` behind it; 0xFFFFFFFF for a malformed byte.
-constexpr char32_t DecodeUtf8(std::string_view utf8, std::size_t& at) {
-  const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(utf8[i]); };
-  const unsigned char lead = byte(at++);
-  if (lead < 0x80) return lead;
-  const int more = lead >= 0xF0 && lead < 0xF5   ? 3
-                   : lead >= 0xE0 && lead < 0xF0 ? 2
-                   : lead >= 0xC2 && lead < 0xE0 ? 1
-                                                 : 0;
-  if (more == 0 || at + static_cast<std::size_t>(more) > utf8.size()) return 0xFFFFFFFF;
-  char32_t value = lead & (0x3Fu >> more);
-  for (int i = 0; i < more; ++i) {
-    const unsigned char next = byte(at + static_cast<std::size_t>(i));
-    if ((next & 0xC0) != 0x80) return 0xFFFFFFFF;
-    value = value << 6 | (next & 0x3Fu);
-  }
-  const bool overlong = (more == 2 && value < 0x800) || (more == 3 && value < 0x10000);
-  if (overlong || value > 0x10FFFF || (value >= 0xD800 && value < 0xE000)) return 0xFFFFFFFF;
-  at += static_cast<std::size_t>(more);
-  return value;
-}
 
 namespace literal {
 

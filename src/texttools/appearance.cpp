@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/color.h"
 #include "shell/editor.h"
 #include "shell/menu_table.h"
 #include "text/number_text.h"
@@ -16,12 +17,12 @@ constexpr int kDosWidth = 9210;  // twips
 constexpr int kDosHeight = 6675;
 constexpr double kMostPoints = 9999;  // more than any font has
 
-void ApplyBasicLook(MainView& view, Session& session) {
+void ApplyBasicLook(MainView& view) {
   view.SetEditorFont(std::string(kSansSerif));
   view.SetEditorItalic(false);
   view.MarkItalic(false);
   view.SetEditorBold(false);  // required: the check mark of mnuEditBold stays as it was
-  session.SetEditorFontSize(8);
+  view.SetEditorFontSize(8);
   view.SetEditorColors(kBlack, kWhite);
 }
 
@@ -29,12 +30,12 @@ void ApplyBasicLook(MainView& view, Session& session) {
 
 Color InvertedColor(Color color) { return kWhite - color; }
 
-void ApplyDosLook(MainView& view, Session& session) {
+void ApplyDosLook(MainView& view) {
   view.SetNormalState();
   view.SetOuterSize(kDosWidth, kDosHeight);
   view.SetEditorColors(kDosGrey, kBlack);
   view.SetEditorFont(std::string(kCourier));
-  session.SetEditorFontSize(8);
+  view.SetEditorFontSize(8);
   view.SetEditorBold(false);
   view.MarkBold(false);
   view.SetEditorItalic(false);
@@ -42,10 +43,10 @@ void ApplyDosLook(MainView& view, Session& session) {
   view.SetEditorColors(kDosGrey, kBlack);
 }
 
-void AddAppearanceCommands(Editor& editor, MainView& view, Session& session) {
+void AddAppearanceCommands(Editor& editor, MainView& view) {
   Commands& commands = editor.commands;
   for (const FontSizeItem& size : FontSizeItems())
-    commands.Add(size.item, [&session, points = size.points] { session.SetEditorFontSize(points); });
+    commands.Add(size.item, [&view, points = size.points] { view.SetEditorFontSize(points); });
   commands.Add("mnuEditBold", [&view] {
     const bool bold = !view.Look().bold;
     view.SetEditorBold(bold);
@@ -61,9 +62,8 @@ void AddAppearanceCommands(Editor& editor, MainView& view, Session& session) {
     view.SetEditorColors(InvertedColor(look.fore_color), InvertedColor(look.back_color));
   });
   commands.Add("Mnu_Change_Alingment", [&view] { view.SetAlignment((view.Alignment() + 1) % 3); });
-  for (const std::string_view name : {"mnu_Text_Dos", "Dos"})
-    commands.Add(name, [&view, &session] { ApplyDosLook(view, session); });
-  commands.Add("mnubasic", [&view, &session] { ApplyBasicLook(view, session); });
+  for (const std::string_view name : {"mnu_Text_Dos", "Dos"}) commands.Add(name, [&view] { ApplyDosLook(view); });
+  commands.Add("mnubasic", [&view] { ApplyBasicLook(view); });
 }
 
 SizeField NormalizeSize(std::string_view typed) {

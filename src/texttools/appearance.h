@@ -5,7 +5,6 @@
 #include <string_view>
 
 #include "shell/main_view.h"
-#include "shell/session.h"
 #include "text/codepage.h"
 
 namespace pelmar {
@@ -22,10 +21,10 @@ inline constexpr std::string_view kPreviewText =
     "aábcčdďeéěfghchiíjklmnoóprřsštťuúůvwxyýzž\r\nAÁBCČDĎEÉĚFGHCHIÍJKLMNOÓPQRŘSŠTŤUÚVWXYÝZŽ\r\n"_w;
 
 // Bold, italic, sizes, inverted colours, alignment, the DOS and the basic look.
-void AddAppearanceCommands(Editor& editor, MainView& view, Session& session);
+void AddAppearanceCommands(Editor& editor, MainView& view);
 
 // Normal state, a fixed size, light grey on black.
-void ApplyDosLook(MainView& view, Session& session);
+void ApplyDosLook(MainView& view);
 
 // A colour's opposite, as plain numbers.
 Color InvertedColor(Color color);

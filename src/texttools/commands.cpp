@@ -3,10 +3,11 @@
 #include <functional>
 #include <string>
 
-#include "accessories/morse.h"
-#include "html/insert.h"
+#include "platform/busy.h"
+#include "shell/common.h"
 #include "shell/editor.h"
 #include "text/codepage.h"
+#include "text/insert.h"
 #include "texttools/find.h"
 #include "texttools/lines.h"
 #include "texttools/random_text.h"
@@ -52,9 +53,8 @@ void NumberSelectedLines(Editor& e) {
 // With the hourglass while it works.
 void AddBusy(Editor& e, std::string_view name, std::function<void()> work) {
   e.commands.Add(name, [&e, work = std::move(work)] {
-    e.platform.SetBusyPointer(true);
+    const BusyPointer busy(e.platform);
     work();
-    e.platform.SetBusyPointer(false);
   });
 }
 
@@ -114,7 +114,6 @@ void AddClipboardCommands(Editor& e) {
 
 void AddTextToolCommands(Editor& editor) {
   AddTransforms(editor);
-  AddBusy(editor, "mnuMakeMorse", [&editor] { editor.text.ReplaceSelection(TextToMorse(editor.text.SelText())); });
   AddLineTools(editor);
   AddRandomTexts(editor);
   AddClipboardCommands(editor);

@@ -1,7 +1,7 @@
 #include "texttools/find.h"
 
 #include "text/codepage.h"
-#include "texttools/search.h"
+#include "text/search.h"
 
 namespace pelmar {
 namespace {

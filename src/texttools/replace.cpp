@@ -1,10 +1,11 @@
 #include "texttools/replace.h"
 
-#include "html/insert.h"
+#include "platform/busy.h"
 #include "shell/common.h"
 #include "text/codepage.h"
+#include "text/insert.h"
+#include "text/search.h"
 #include "texttools/find.h"
-#include "texttools/search.h"
 
 namespace pelmar {
 namespace {
@@ -99,9 +100,8 @@ void Replacer::GoIdle() {
 }
 
 void Replacer::ReplaceAll() {
-  platform_.SetBusyPointer(true);
+  const BusyPointer busy(platform_);
   ReplaceDocument(document_, ReplaceAllByMarker(document_.Text(), find, change));
-  platform_.SetBusyPointer(false);
   find_on = lists_on = change_on = true;
   step_on = all_on = false;  // required: Rozlisovat stays off
   found_shown = replaced_shown = std::nullopt;

@@ -64,6 +64,10 @@ constexpr SequenceCase kSequences[] = {
     {",", "0,"},
     {",0", "0,0"},
     {",,5,", "0,5"},
+    {",>", ","},
+    {",>q", "0"},  // a comma alone is a number
+    {"5+,>=", "5"},
+    {"5-7=<,a", "0"},
     {"5+3=", "8"},
     {"5+3=2", "82"},  // nothing tells a result from typed digits
     {"12<", "1"},
@@ -136,6 +140,7 @@ struct FailureCase {
 constexpr FailureCase kFailures[] = {
     {"7/0=", kDivision, "0"},
     {"7/,=", kDivision, "0,"},
+    {"7/,>=", kDivision, ","},
     {"5-7=r", kRoot, "-2"},
     {"er", kRoot, "2.718282"},
     {"1+er", kRoot, "2.718282", "+"},

@@ -105,6 +105,11 @@ TEST(Conversions, RefuseMoreThan32BitsAndChangeNothing) {
   EXPECT_EQ(converter.Label6, "77777777777");
   for (int i = 0; i < 9; ++i) converter.DropLast(&Converter::Label3);
   EXPECT_EQ(converter.Label3, "0");
+  for (const char* decimal : {"2147483648", "-2147483649", "1E+99", "&HFFFFFFFFF"}) {
+    converter.Label1 = decimal;
+    EXPECT_EQ(converter.FromDecimal(), std::nullopt) << decimal;
+    EXPECT_EQ(converter.Label3, "0") << decimal;
+  }
 }
 
 }  // namespace

@@ -4,8 +4,8 @@
 
 #include <set>
 
-#include "shell/editor.h"
 #include "support/scripted_platform.h"
+#include "support/whole_editor.h"
 #include "text/codepage.h"
 
 namespace pelmar {
@@ -60,7 +60,7 @@ TEST(Morse, MenusHaveOneNameForEachItemAndTheirOwnSigns) {
 
 TEST(Morse, CommandRewritesTheSelection) {
   ScriptedPlatform platform;
-  Editor editor(platform);
+  WholeEditor editor(platform);
   editor.text.SetText("x sos y");
   editor.commands.Run("mnuMakeMorse");  // nothing selected: nothing changes
   EXPECT_EQ(editor.text.Text(), "x sos y");

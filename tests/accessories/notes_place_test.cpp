@@ -1,4 +1,5 @@
 #include "accessories/notes_place.h"
+#include "platform/twips.h"
 
 #include <gtest/gtest.h>
 

@@ -4,8 +4,8 @@
 
 #include <cerrno>
 
-#include "files/checkpoints.h"
-#include "shell/common.h"
+#include "accessories/checkpoints.h"
+#include "platform/runtime_error.h"
 #include "support/scripted_platform.h"
 
 namespace pelmar {
@@ -93,36 +93,20 @@ TEST(NotesRescue, HoldsThePagesThatDifferFromTheFile) {
   NotesRecord now = kNotes;
   now.Page(1) = "new";
   now.Page(3).clear();
-  const UnsavedNotes unsaved = NotesToKeep(kNotes, now, 3);
-  EXPECT_EQ(unsaved, (UnsavedNotes{3, {{1, "a\r\n", "new"}, {3, std::string(258, 'x'), ""}}}));
-  const std::string bytes = NotesRescueBytes(unsaved);
-  EXPECT_EQ(ReadNotesRescue(bytes), unsaved);
-  for (std::size_t size = 0; size < bytes.size(); ++size)
-    EXPECT_FALSE(ReadNotesRescue(std::string_view(bytes).substr(0, size)));
-  for (std::size_t at = 0; at < bytes.size(); at += 7) {
-    std::string damaged = bytes;
-    damaged[at] = static_cast<char>(damaged[at] ^ 0x40);
-    EXPECT_FALSE(ReadNotesRescue(damaged)) << at;
-  }
+  EXPECT_EQ(NotesToKeep(kNotes, now, 3), (RescueRecord{3, {{1, "a\r\n", "new"}, {3, std::string(258, 'x'), ""}}}));
 }
 
 TEST(NotesRescue, EachPageComesBackToItsPlaceOrToAnEmptyOne) {
   NotesRecord record{{"one", "two", "", "four", "five"}};
-  const std::vector<UnsavedNotes> unsaved = {
+  const std::vector<RescueRecord> unsaved = {
       {1, {{1, "one", "ONE"}, {3, "", "THREE"}, {5, "older", ""}}},  // an emptied page gives way to what is there now
       {2, {{1, "one", "another one"}, {2, "two", ""}}},
       {1, {{4, "older", "no place"}}},
   };
-  const std::vector<UnsavedNote> left = BringBackNotes(record, unsaved);
+  const std::vector<RescuedText> left = BringBackNotes(record, unsaved);
   EXPECT_EQ(record, (NotesRecord{{"ONE", "another one", "THREE", "four", "five"}}));
-  EXPECT_EQ(left, (std::vector<UnsavedNote>{{4, "older", "no place"}}));
+  EXPECT_EQ(left, (std::vector<RescuedText>{{4, "older", "no place"}}));
   EXPECT_EQ(ReadableNotes(left), "Pozn\xE1mka 4:\r\nno place\r\n\r\n");
-}
-
-TEST(NotesRescue, WhatTheRecordHoldsAlreadyIsNotOffered) {
-  UnsavedNotes unsaved{1, {{1, "before", "a\r\n"}, {2, "", "b"}}};
-  DropKnownNotes(unsaved, kNotes);
-  EXPECT_EQ(unsaved.notes, (std::vector<UnsavedNote>{{2, "", "b"}}));
 }
 
 struct Checkpoints : testing::Test {

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "shell/editor.h"
 #include "support/scripted_platform.h"
+#include "support/whole_editor.h"
 #include "text/codepage.h"
 
 namespace pelmar {
@@ -36,7 +36,7 @@ TEST(CheckSums, ToldExamples) {
 
 TEST(CheckSums, AreToldInFourLines) {
   ScriptedPlatform platform;
-  Editor editor(platform);
+  WholeEditor editor(platform);
   editor.text.SetText("ABCD");
   platform.answers = {Answer::kOk, Answer::kOk};
   editor.commands.Run("mnu_crc");

@@ -57,7 +57,7 @@ TEST(Shiftp, UpperCharIsItsOwnUpperCase) {
 TEST(Rotated, MovesTheFrontBehindTheRest) {
   EXPECT_EQ(Rotated("abcd", 1), "bcda");
   EXPECT_EQ(Rotated("abcd", 3), "dabc");
-  EXPECT_EQ(Rotated("abcd", 4), "abcd");
+  for (const std::size_t all : {4, 5, 1000}) EXPECT_EQ(Rotated("abcd", all), "abcd");
   EXPECT_EQ(Rotated("\r\na", 1), "\na\r");
 }
 

@@ -6,8 +6,9 @@
 #include <random>
 
 #include "ciphers/rnd_cipher.h"
-#include "shell/editor.h"
+#include "platform/runtime_error.h"
 #include "support/scripted_platform.h"
+#include "support/whole_editor.h"
 
 namespace pelmar {
 namespace {
@@ -86,7 +87,7 @@ TEST(TableFile, AnyBytesMakeATableThatCanBeWorkedWith) {
 
 struct TableFilesTest : testing::Test {
   ScriptedPlatform platform;
-  Editor editor{platform};
+  WholeEditor editor{platform};
   TableFiles files{platform, editor.opener, editor.file_number};
   CipherTable table = Table(8, "mine");
 

@@ -7,8 +7,8 @@
 #include <random>
 #include <vector>
 
-#include "shell/editor.h"
 #include "support/scripted_platform.h"
+#include "support/whole_editor.h"
 #include "text/codepage.h"
 #include "text/number_text.h"
 
@@ -156,18 +156,6 @@ struct StreamTest : testing::Test {
   }
 };
 
-TEST_F(StreamTest, ToldExample) {
-  EXPECT_EQ(Rewritten("ab", 0), "40");
-  EXPECT_EQ(Rewritten("40", LeadingNumber("abc")), "ab");
-  EXPECT_EQ(output, "ab");
-}
-
-TEST_F(StreamTest, AnEmptyDocumentIsLeftInPeace) {
-  EXPECT_EQ(Rewritten("", 5), "");
-  EXPECT_TRUE(progress.empty());
-  EXPECT_TRUE(platform.calls.empty());
-}
-
 TEST_F(StreamTest, UndoesItselfWhereNothingIsLost) {
   std::mt19937 random(1);
   int intact = 0;
@@ -215,13 +203,6 @@ TEST_F(StreamTest, WarnsOfCode8AndGoesOn) {
                                             "message 52 \"Ukončit proces? (doporučuji ne)\" \"Kódování\""};
   EXPECT_EQ(platform.calls, (std::vector{warning[0], warning[1], warning[0], warning[1]}));
   EXPECT_EQ(progress.back(), 4u);
-}
-
-TEST_F(StreamTest, AnAbandonedRunLeavesTheDocument) {
-  platform.answers = {Answer::kOk, Answer::kYes};
-  EXPECT_EQ(Rewritten("ab\bcd", 0), "ab\bcd");
-  EXPECT_EQ(output, "40");  // what was done stays until the next run
-  EXPECT_EQ(Rewritten("x", 0), std::string(1, CharOf('x' ^ 85)));
 }
 
 TEST_F(StreamTest, TellsItsProgressOften) {
@@ -272,7 +253,7 @@ TEST_F(StreamTest, ReadsADocumentThatChangesUnderIt) {
 
 TEST(PrimitiveRewrite, TakesEachCodeFrom256) {
   ScriptedPlatform platform;
-  Editor editor(platform);
+  WholeEditor editor(platform);
   std::string all;
   for (int code = 0; code < 256; ++code) all += CharOf(code);
   editor.text.SetText(all);

@@ -4,7 +4,7 @@
 
 #include <cerrno>
 
-#include "shell/common.h"
+#include "platform/runtime_error.h"
 #include "support/scripted_platform.h"
 
 namespace pelmar {

@@ -2,8 +2,9 @@
 
 #include <cerrno>
 
-#include "shell/editor.h"
+#include "platform/runtime_error.h"
 #include "support/scripted_platform.h"
+#include "support/whole_editor.h"
 #include "text/codepage.h"
 
 namespace pelmar {
@@ -14,7 +15,7 @@ using Calls = std::vector<std::string>;
 
 struct FilesTest : testing::Test {
   ScriptedPlatform platform;
-  Editor editor{platform};
+  WholeEditor editor{platform};
   Documents& documents = editor.documents;
 
   void Answers(std::initializer_list<Answer> answers) { platform.answers = answers; }
@@ -109,7 +110,7 @@ TEST_F(FilesTest, ANameWithoutDotFromTheMenuStopsHalfWay) {
   Answers({Answer::kOk, Answer::kOk});
   editor.opener.OpenPath("/a/b.txt");
   EXPECT_EQ(platform.calls.back(), "message 0 \"Soubor /a/b.txt nenalezen!\" \"Soubor\"");
-  editor.saver.SaveToPath("/a/b.txt", "lost?");
+  editor.saver.SaveToPath("/a/b.txt");
   EXPECT_TRUE(platform.calls.back().starts_with("message 0 \"Chyba ukládání!"));
   EXPECT_EQ(platform.files["/a/b.txt"], "b");
 }
@@ -136,7 +137,7 @@ TEST_F(FilesTest, ReloadAsksAndLosesTheChanges) {
 
 TEST_F(FilesTest, SaveAdoptsThePath) {
   editor.text.SetText("new\r\n");
-  editor.saver.SaveToPath("/a/x.y.txt", editor.text.Text());
+  editor.saver.SaveToPath("/a/x.y.txt");
   EXPECT_EQ(platform.TakeCalls(), (Calls{"write /a/x.y.txt", "recent /a/x.y.txt"}));
   EXPECT_EQ(platform.files["/a/x.y.txt"], "new\r\n");
   EXPECT_EQ(documents.Title(), "Pelmar VEX (/a/x.y.txt)");
@@ -149,13 +150,14 @@ TEST_F(FilesTest, SaveAsksBeforeItOverwrites) {
   platform.files["/a.txt"] = "old";
   editor.text.SetText("new");
   Answers({Answer::kNo, Answer::kYes});
-  editor.saver.SaveToPath("/a.txt", "new");
+  editor.saver.SaveToPath("/a.txt");
   EXPECT_EQ(platform.TakeCalls(),
             (Calls{"message 52 \"Opravdu uložit /a.txt?\r\nSoubor již existuje a bude přepsán!\" \"Soubor\""}));
   EXPECT_TRUE(documents.Marked());
   EXPECT_EQ(documents.CurrentPath(), "");
-  editor.saver.SaveToPath("/a.txt", "new");
-  EXPECT_EQ(platform.files["/a.txt"], "new");
+  platform.on_message = [&] { editor.text.Type("typed meanwhile, "); };
+  editor.saver.SaveToPath("/a.txt");
+  EXPECT_EQ(platform.files["/a.txt"], "typed meanwhile, new");
   EXPECT_FALSE(documents.Marked());
 }
 
@@ -179,19 +181,25 @@ TEST_F(FilesTest, AFailedSaveIsToldAndChangesNothing) {
   platform.write_errors["/a.txt"] = ENOSPC;
   editor.text.SetText("new");
   Answers({Answer::kYes, Answer::kOk});
-  editor.saver.SaveToPath("/a.txt", "new");
-  EXPECT_EQ(platform.calls.back(), "message 0 \"Chyba ukládání!\r\nSoubor: /a.txt\r\nKód chyby " +
-                                       std::to_string(ENOSPC) + "\" \"Pelmar VEX\"");
+  editor.saver.SaveToPath("/a.txt");
+  const std::string told = "message 0 \"Chyba ukládání!\r\nSoubor: /a.txt\r\nKód chyby " + std::to_string(ENOSPC);
+  EXPECT_EQ(platform.calls.back(), told + "\" \"Pelmar VEX\"");
   EXPECT_EQ(platform.files["/a.txt"], "old");
   EXPECT_EQ(documents.CurrentPath(), "");
   EXPECT_TRUE(documents.Marked());
+  platform.kept_content = "/install/puvodni-1-a.txt";
+  Answers({Answer::kYes, Answer::kOk});
+  editor.saver.SaveToPath("/a.txt");
+  EXPECT_EQ(platform.calls.back(), told +
+                                       "\r\nSoubor je poškozen, jeho původní obsah leží v "
+                                       "/install/puvodni-1-a.txt\" \"Pelmar VEX\"");
 }
 
 // required: the file is on the disk and the path changed, but title, tab and flag didn't follow
 TEST_F(FilesTest, SavingANameWithoutDotFailsHalfWay) {
   editor.text.SetText("new");
   Answers({Answer::kOk});
-  editor.saver.SaveToPath("/README", "new");
+  editor.saver.SaveToPath("/README");
   EXPECT_EQ(platform.files["/README"], "new");
   EXPECT_EQ(documents.CurrentPath(), "/README");
   EXPECT_EQ(documents.Title(), "Pelmar VEX ()*");

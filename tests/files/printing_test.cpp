@@ -4,9 +4,10 @@
 
 #include <cerrno>
 
-#include "shell/editor.h"
+#include "platform/runtime_error.h"
 #include "support/plain_view.h"
 #include "support/scripted_platform.h"
+#include "support/whole_editor.h"
 
 namespace pelmar {
 namespace {
@@ -54,7 +55,7 @@ TEST(PrintName, IsTheFilesName) {
 
 struct PrintTest : testing::Test {
   ScriptedPlatform platform;
-  Editor editor{platform};
+  WholeEditor editor{platform};
   EditorLook look;
 
   PrintTest() {

@@ -1,4 +1,5 @@
-#include "html/insert.h"
+#include "text/insert.h"
+#include "html/tag_commands.h"
 
 #include <gtest/gtest.h>
 

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "shell/editor.h"
 #include "support/scripted_platform.h"
+#include "support/whole_editor.h"
 #include "text/codepage.h"
 
 namespace pelmar {
@@ -20,6 +20,7 @@ TEST(Lists, OfItems) {
       {{ListKind::kBullets, 0, false, "", {}}, "<UL TYPE=\"disk\">\r\n<LH></LH>\r\n</UL>"},
       {{ListKind::kBullets, 1, false, {}, {}}, "<UL TYPE=\"circle\">\r\n</UL>"},
       {{ListKind::kBullets, 2, true, {}, {}}, "<UL TYPE=\"square\" COMPACT>\r\n</UL>"},
+      {{ListKind::kBullets, 3, false, {}, {}}, "<UL>\r\n</UL>"},  // there is no such type
       {{ListKind::kNumbers, 0, false, {}, {}}, "<OL TYPE=\"1\">\r\n</OL>"},
       {{ListKind::kNumbers, 1, false, {}, {}}, "<OL TYPE=\"a\">\r\n</OL>"},
       {{ListKind::kNumbers, 2, false, {}, {}}, "<OL TYPE=\"A\">\r\n</OL>"},
@@ -38,7 +39,7 @@ TEST(Lists, OfDefinitions) {
 
 TEST(Lists, OfTheSelectedLines) {
   ScriptedPlatform platform;
-  Editor editor(platform);
+  WholeEditor editor(platform);
   const std::pair<std::string, std::string_view> cases[] = {
       {"a\r\nbc", "<UL><LI>a</LI>\r\n<LI>b</LI></UL>"},  // required: the last character is lost
       {"x", "<UL><LI></LI></UL>"},

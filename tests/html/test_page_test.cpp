@@ -5,6 +5,7 @@
 #include <cerrno>
 
 #include "support/scripted_platform.h"
+#include "support/whole_editor.h"
 
 namespace pelmar {
 namespace {
@@ -31,7 +32,7 @@ TEST(StripHtml, DropsFromEachLessThanToTheNextGreaterThan) {
 
 struct PageTest : testing::Test {
   ScriptedPlatform platform;
-  Editor editor{platform};
+  WholeEditor editor{platform};
 };
 
 TEST_F(PageTest, NoHtmlCleansTheSelectionAlone) {

@@ -1,6 +1,6 @@
-"""The main job with the real program: open, edit, use the menus' keys, switch tabs, save, close, start again, and lose
-power in between."""
+"""The main job with the real program: open, edit, use the menus' keys, switch tabs, save, close, start again."""
 
+import subprocess
 import sys
 import unittest
 
@@ -84,36 +84,6 @@ class EditorTest(unittest.TestCase):
         self.assertEqual(session.wait_exit(), 0)
         self.assertEqual((session.data_folder / "autosave_pelmar_vex.txt").read_bytes(), expected)
 
-    def test_a_killed_program_gives_its_documents_back(self):
-        session = self.session
-        main = self.start("-nomsg", title="Pelmar VEX ()")
-        session.type("never saved")
-        session.key("alt+3")
-        session.type("third")
-        self.wait_title(main, "Pelmar VEX ()*")
-        session.wait_until(lambda: any(b"third" in one.read_bytes() for one in session.data_folder.glob("rescue-*.pelmar")),
-                           "the rescue file", patience=3)
-        session.kill()
-        main = self.start("-NOMSG", title="Záchrana")
-        session.key("Return")
-        session.wait_no_window("Záchrana")
-        main = session.wait_window("Pelmar VEX ()*")
-        session.activate(main)
-        session.shot("rescued")
-        session.key("alt+1")
-        session.key("alt+3", "ctrl+End")
-        session.type("!")
-        session.key("ctrl+F4")
-        session.wait_window("Konec")
-        session.key("Return")
-        self.assertEqual(session.wait_exit(), 0)
-        self.assertEqual((session.data_folder / "autosave_pelmar_vex.txt").read_bytes(), b"third!")
-        everything = (session.data_folder / "autosave_all_files.txt").read_bytes()
-        self.assertTrue(everything.startswith(b"Soubor:\r\nnever saved\r\n\r\n"))
-        # Asked once: an ordinary start follows.
-        self.start("-NOMSG", title="Pelmar VEX ()")
-        self.assertEqual(list(session.data_folder.glob("rescue*")), [])
-
     def test_a_name_without_a_full_stop_ends_the_program_but_loses_nothing(self):
         session = self.session
         (session.home / "README").write_bytes(b"plain")
@@ -123,6 +93,17 @@ class EditorTest(unittest.TestCase):
         session.key("Return")
         self.assertEqual(session.wait_exit(), 1)
         self.assertTrue(any(b"plain" in one.read_bytes() for one in session.data_folder.glob("rescue-*.pelmar")))
+
+    def test_the_terminals_switches_print_and_touch_nothing(self):
+        home = self.session.home / "other"
+        home.mkdir()
+        for switch, printed in (("--help", "-NOMSG"), ("--version", "Pelmar VEX 8.")):
+            done = subprocess.run([PROGRAM, switch], env={"HOME": str(home)}, capture_output=True, timeout=15)
+            self.assertEqual((done.returncode, done.stderr), (0, b""))
+            self.assertIn(printed, done.stdout.decode())
+            with open("/dev/full", "wb") as full:
+                self.assertEqual(subprocess.run([PROGRAM, switch], env={"HOME": str(home)}, stdout=full).returncode, 1)
+        self.assertEqual(list(home.iterdir()), [])
 
     def test_first_start_asks_for_the_profile(self):
         session = self.session

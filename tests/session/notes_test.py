@@ -1,5 +1,5 @@
-"""The notes with the real program and a real window manager: stored at their close, alone as the whole program, lost with
-the power and offered back, docked to the main window and snapped to the screen, and cheap while nothing moves."""
+"""The notes with the real program and a real window manager: stored at their close, alone as the whole program, kept
+apart by two copies, docked to the main window and snapped to the screen, and cheap while nothing moves."""
 
 import os
 import re
@@ -110,40 +110,6 @@ class NotesTest(unittest.TestCase):
         self.assertEqual(self.file.read_bytes(), record("milk\r\nbread!", "a second"))
         # Neither settings nor recovery files are written in this mode.
         self.assertEqual(kept, {path: path.read_bytes() for path in session.data_folder.iterdir() if path != self.file})
-
-    def test_a_killed_program_gives_its_notes_back(self):
-        session = self.session
-        self.file.write_bytes(record("first", "second"))
-        self.start_alone()
-        session.key("alt+2", "ctrl+End")
-        session.type(" and more")
-        self.wait_rescue(b"second and more")
-        session.kill()
-        self.assertEqual(self.file.read_bytes(), record("first", "second"))
-
-        # The editor's own rescue has nothing to say; the notes ask when they are opened.
-        main = self.start_editor()
-        session.key("F9")
-        question = session.wait_window("Záchrana")
-        session.shot("notes-rescued")
-        # No question lies under the notes, which stay on top.
-        session.wait_until(lambda: "ABOVE" in session._run("xprop", "-id", question.id, "_NET_WM_STATE"), "it on top")
-        session.activate(question)
-        session.key("Return")
-        session.wait_no_window("Záchrana")
-        notes = session.window("Poznámky")
-        session.activate(notes)
-        session.key("ctrl+End")
-        session.type("!")
-        # The main window's end asks no other window and stores no notes, but loses none.
-        self.wait_rescue(b"second and more!")
-        session.close(main)
-        self.assertEqual(session.wait_exit(), 0)
-        self.assertEqual(self.file.read_bytes(), record("first", "second"))
-
-        self.take_back_and_store()
-        self.assertEqual(self.file.read_bytes(), record("first", "second and more!"))
-        self.assertEqual(list(session.data_folder.glob("notes-rescue*")), [])
 
     def test_two_copies_keep_their_notes_apart(self):
         session = self.session

@@ -1,4 +1,7 @@
 #include "shell/common.h"
+#include "platform/color.h"
+#include "platform/paths.h"
+#include "platform/runtime_error.h"
 
 #include <gtest/gtest.h>
 

@@ -2,9 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include "shell/common.h"
+#include "platform/runtime_error.h"
+#include "program/session.h"
 #include "shell/rescue_file.h"
-#include "shell/session.h"
+#include "shell/rescued_documents.h"
 
 namespace pelmar {
 namespace {
@@ -115,7 +116,7 @@ TEST_F(DocumentsTest, AllFilesTextHasABlockForEachSlot) {
             "Soubor:\r\n\r\n\r\nSoubor:\r\n\r\n\r\nSoubor:\r\n\r\n\r\nSoubor:\r\n\r\n\r\n");
 }
 
-TEST_F(DocumentsTest, RescueKeepsExactlyTheUnsavedDocuments) {
+TEST_F(DocumentsTest, RescueKeepsTheUnsavedDocumentsAndBringsThemBack) {
   Adopt("/a/one.txt", "one");
   Type("!");
   documents.SwitchTo(2);
@@ -124,37 +125,25 @@ TEST_F(DocumentsTest, RescueKeepsExactlyTheUnsavedDocuments) {
   Type("never saved");
   const RescueRecord kept = UnsavedDocuments(documents);
   EXPECT_EQ(kept, (RescueRecord{4, {{1, "/a/one.txt", "one!"}, {4, "", "never saved"}}}));
-  EXPECT_EQ(ReadRescue(RescueBytes(kept)), kept);
-}
 
-TEST(Rescue, TornOrForeignBytesAreNoRescue) {
-  const std::string bytes = RescueBytes({2, {{2, "/x", std::string(300, 'y')}, {5, "", "z"}}});
-  for (std::size_t length = 0; length < bytes.size(); ++length)
-    EXPECT_FALSE(ReadRescue(std::string_view(bytes).substr(0, length))) << length;
-  for (std::size_t i = 0; i < bytes.size(); i += 7) {
-    std::string damaged = bytes;
-    damaged[i] = static_cast<char>(damaged[i] ^ 0x20);
-    EXPECT_FALSE(ReadRescue(damaged)) << i;
-  }
-}
-
-TEST_F(DocumentsTest, RescuedDocumentsComeBackIntoTheirTabs) {
-  EXPECT_TRUE(BringBack(documents, {{4, {{1, "/a/one.txt", "one!"}, {4, "", "new"}}}}).empty());
-  EXPECT_EQ(documents.SelectedTab(), 4);
-  EXPECT_EQ(text.Text(), "new");
-  EXPECT_EQ(documents.Title(), "Pelmar VEX ()*");
-  documents.SwitchTo(1);
-  EXPECT_EQ(documents.Title(), "Pelmar VEX (/a/one.txt)*");
-  EXPECT_EQ(documents.Face(1).Caption, "one.txt");
-  EXPECT_EQ(documents.UnsavedCount(), 2);
+  TextBuffer box;
+  Documents later(box);
+  EXPECT_TRUE(BringBackDocuments(later, {kept}).empty());
+  EXPECT_EQ(later.SelectedTab(), 4);
+  EXPECT_EQ(box.Text(), "never saved");
+  EXPECT_EQ(later.Title(), "Pelmar VEX ()*");
+  later.SwitchTo(1);
+  EXPECT_EQ(later.Title(), "Pelmar VEX (/a/one.txt)*");
+  EXPECT_EQ(later.Face(1).Caption, "one.txt");
+  EXPECT_EQ(later.UnsavedCount(), 2);
 }
 
 TEST_F(DocumentsTest, RescueNeverOverwritesADocumentOfThisRun) {
   Adopt("/given.txt", "given");
-  const RescueRecord first{1, {{1, "/a/README", "1"}, {2, "", "2"}, {3, "", "3"}, {4, "", "4"}, {5, "", "5"}}};
-  const auto left = BringBack(documents, {first});
-  ASSERT_EQ(left.size(), 1u);  // four free tabs, five documents
-  EXPECT_EQ(left[0].text, "5");
+  const RescueRecord first{1,
+                           {{1, "/a/README", "1"}, {2, "", "2"}, {3, "", "3"}, {4, "", "4"}, {5, "/\u65e5.txt", "5"}}};
+  // Four free tabs, five documents. A path outside the code page stays a path.
+  EXPECT_EQ(ReadableDocuments(BringBackDocuments(documents, {first})), "Soubor:/\u65e5.txt\r\n5\r\n\r\n");
   EXPECT_EQ(documents.Slot(1).Text, "given");
   EXPECT_EQ(documents.Slot(2).Text, "1");
   documents.SwitchTo(1);

@@ -9,8 +9,12 @@
 #include <fstream>
 #include <iterator>
 
+#include "shell/rescue_file.h"
+
 namespace pelmar {
 namespace {
+
+constexpr std::string_view kPrefix = kDocumentsRescue.prefix;
 
 int WritePlainly(const std::string& path, std::string_view bytes) {
   std::ofstream(path, std::ios::binary) << bytes;
@@ -36,7 +40,7 @@ struct RescueStoreTest : testing::Test {
   void LetACopyDie(const std::string& bytes) const {
     const pid_t child = ::fork();
     if (child == 0) {
-      RescueStore store(folder, kDocumentsRescue, WritePlainly);
+      RescueStore store(folder, kPrefix, WritePlainly);
       store.Keep(bytes);
       ::_exit(0);
     }
@@ -48,41 +52,45 @@ struct RescueStoreTest : testing::Test {
 };
 
 TEST_F(RescueStoreTest, AnOrdinaryEndLeavesNothing) {
-  RescueStore store(folder, kDocumentsRescue, WritePlainly);
+  RescueStore store(folder, kPrefix, WritePlainly);
   EXPECT_EQ(Files(), 0u);
   EXPECT_EQ(store.Keep("one"), 0);
   EXPECT_EQ(store.Keep("two"), 0);
   EXPECT_EQ(Content(store.Path()), "two");
-  EXPECT_TRUE(FindAbandoned(folder, kDocumentsRescue).empty());  // a living copy's file is nobody else's
+  EXPECT_TRUE(FindAbandoned(folder, kPrefix).empty());  // a living copy's file is nobody else's
   EXPECT_EQ(store.Keep({}), 0);
   EXPECT_EQ(Files(), 0u);
   EXPECT_EQ(store.Keep("again"), 0);
   EXPECT_EQ(Content(store.Path()), "again");
 }
 
-TEST_F(RescueStoreTest, WhatADeadCopyKeptIsFoundOnce) {
+TEST_F(RescueStoreTest, WhatADeadCopyKeptIsFoundOnceUntilItIsDiscarded) {
   LetACopyDie("lost");
-  RescueStore own(folder, kDocumentsRescue, WritePlainly);
+  RescueStore own(folder, kPrefix, WritePlainly);
   own.Keep("mine");
-  auto found = FindAbandoned(folder, kDocumentsRescue);
+  FindAbandoned(folder, kPrefix).clear();  // a finder that dies leaves it for the next
+  auto found = FindAbandoned(folder, kPrefix);
   ASSERT_EQ(found.size(), 1u);
   EXPECT_EQ(Content(found[0].path), "lost");
-  EXPECT_TRUE(FindAbandoned(folder, kDocumentsRescue).empty());  // held by the first finder
+  EXPECT_TRUE(FindAbandoned(folder, kPrefix).empty());  // held by the first finder
   Discard(found[0]);
-  EXPECT_TRUE(FindAbandoned(folder, kDocumentsRescue).empty());
+  EXPECT_TRUE(FindAbandoned(folder, kPrefix).empty());
   EXPECT_EQ(Content(own.Path()), "mine");
+  EXPECT_NE(RescueStore("/nonexistent/folder/", kPrefix, WritePlainly).Keep("x"), 0);
 }
 
-TEST_F(RescueStoreTest, AFinderThatDiesLeavesItForTheNext) {
-  LetACopyDie("lost");
-  FindAbandoned(folder, kDocumentsRescue).clear();
-  EXPECT_EQ(FindAbandoned(folder, kDocumentsRescue).size(), 1u);
-}
-
-TEST_F(RescueStoreTest, AFolderThatCantBeWrittenIsAnError) {
-  RescueStore store("/nonexistent/folder/", kDocumentsRescue, WritePlainly);
-  EXPECT_NE(store.Keep("x"), 0);
-  EXPECT_TRUE(FindAbandoned("/nonexistent/folder/", kDocumentsRescue).empty());
+TEST(RescueFile, ReadsWhatWasWrittenWholeAndOfItsKindAlone) {
+  const RescueRecord record{2, {{2, "/x", std::string(300, 'y')}, {5, "", "z"}}};
+  const std::string bytes = RescueBytes(kNotesRescue, record);
+  EXPECT_EQ(ReadRescue(kNotesRescue, bytes), record);
+  EXPECT_FALSE(ReadRescue(kDocumentsRescue, bytes));
+  EXPECT_EQ(RescueBytes(kNotesRescue, {2, {}}), "");
+  for (std::size_t at = 0; at < bytes.size(); ++at) {
+    EXPECT_FALSE(ReadRescue(kNotesRescue, std::string_view(bytes).substr(0, at))) << at;
+    std::string damaged = bytes;
+    damaged[at] = static_cast<char>(damaged[at] ^ 0x20);
+    EXPECT_FALSE(ReadRescue(kNotesRescue, damaged)) << at;
+  }
 }
 
 }  // namespace

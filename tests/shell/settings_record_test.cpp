@@ -5,6 +5,7 @@
 #include <random>
 #include <string>
 
+#include "platform/color.h"
 #include "shell/record_bytes.h"
 #include "text/codepage.h"
 

@@ -1,4 +1,5 @@
 #include "shell/window_geometry.h"
+#include "platform/twips.h"
 
 #include <gtest/gtest.h>
 

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/twips.h"
 #include "shell/main_view.h"
 
 namespace pelmar {
@@ -38,7 +39,7 @@ class PlainView : public MainView {
     look.font_name = name;
     calls.push_back("font");
   }
-  void SetEditorFontSize(int size) override {
+  void ApplyEditorFontSize(int size) override {
     look.font_size = size;
     calls.push_back("size");
   }

@@ -92,6 +92,11 @@ int ScriptedPlatform::ReadError(const std::string& path) const {
   return files.contains(path) ? 0 : ENOENT;
 }
 
+int ScriptedPlatform::WriteError(const std::string& path) const {
+  const auto error = write_errors.find(path);
+  return error == write_errors.end() ? 0 : error->second;
+}
+
 bool ScriptedPlatform::CanRead(const std::string& path) { return ReadError(path) == 0; }
 
 FileBytes ScriptedPlatform::ReadFile(const std::string& path, std::optional<std::uint64_t> limit) {
@@ -99,35 +104,35 @@ FileBytes ScriptedPlatform::ReadFile(const std::string& path, std::optional<std:
   return {.error = 0, .bytes = files[path].substr(0, limit.value_or(std::string::npos))};
 }
 
-int ScriptedPlatform::WriteFile(const std::string& path, std::string_view bytes) {
+WriteOutcome ScriptedPlatform::WriteDocument(const std::string& path, std::string_view bytes) {
   calls.push_back("write " + path);
-  if (const auto error = write_errors.find(path); error != write_errors.end()) return error->second;
-  if (path.ends_with('/') || files.contains(path + '/')) return EISDIR;
+  if (const int error = WriteError(path)) return {.error = error, .kept = kept_content};
+  if (path.ends_with('/') || files.contains(path + '/')) return {.error = EISDIR};
   files[path] = std::string(bytes);
-  return 0;
+  return {};
 }
 
 int ScriptedPlatform::WriteNewFile(const std::string& path, std::string_view bytes) {
   calls.push_back("create " + path);
-  if (const auto error = write_errors.find(path); error != write_errors.end()) return error->second;
+  if (const int error = WriteError(path)) return error;
   return files.try_emplace(path, bytes).second ? 0 : EEXIST;
 }
 
 // In pieces of three bytes, so that every border is met.
-int ScriptedPlatform::RewriteFile(const std::string& source, const std::string& target, OldTail tail,
-                                  FileRewriter& rewriter) {
+WriteOutcome ScriptedPlatform::RewriteFile(const std::string& source, const std::string& target, OldTail tail,
+                                           FileRewriter& rewriter) {
   calls.push_back("rewrite " + source + ' ' + target);
-  if (const int error = ReadError(source)) return error;
+  if (const int error = ReadError(source)) return {.error = error};
   std::string out;
   const std::string_view bytes = files[source];
   for (std::size_t at = 0; at < bytes.size(); at += 3) out += rewriter.Rewrite(bytes.substr(at, 3));
   out += rewriter.Finish();
   out.resize(static_cast<std::size_t>(rewriter.Kept()));
-  if (const auto error = write_errors.find(target); error != write_errors.end()) return error->second;
+  if (const int error = WriteError(target)) return {.error = error, .kept = kept_content};
   const std::string& old = files[target];
   if (tail == OldTail::kKeep && old.size() > out.size()) out += old.substr(out.size());
   files[target] = out;
-  return 0;
+  return {};
 }
 
 PrintOutcome ScriptedPlatform::Print(const PrintFont& font, const std::string& name,

@@ -30,6 +30,7 @@ class ScriptedPlatform : public Platform {
 
   std::map<std::string, std::string> files;
   std::map<std::string, int> read_errors, write_errors;  // errno by path
+  std::string kept_content;                              // what failed writes tell of the old content
   std::function<void()> on_message;                      // called while a message is on show
   std::optional<std::string> clipboard;
 
@@ -56,9 +57,10 @@ class ScriptedPlatform : public Platform {
   void ClearClipboard() override;
   bool CanRead(const std::string& path) override;
   FileBytes ReadFile(const std::string& path, std::optional<std::uint64_t> limit) override;
-  int WriteFile(const std::string& path, std::string_view bytes) override;
+  WriteOutcome WriteDocument(const std::string& path, std::string_view bytes) override;
   int WriteNewFile(const std::string& path, std::string_view bytes) override;
-  int RewriteFile(const std::string& source, const std::string& target, OldTail tail, FileRewriter& rewriter) override;
+  WriteOutcome RewriteFile(const std::string& source, const std::string& target, OldTail tail,
+                           FileRewriter& rewriter) override;
   bool IsSameFile(const std::string& left, const std::string& right) override { return left == right; }
   std::string InstallFolder() override { return install_folder; }
   std::string ShareFolder() override { return share_folder; }
@@ -77,6 +79,7 @@ class ScriptedPlatform : public Platform {
 
  private:
   [[nodiscard]] int ReadError(const std::string& path) const;
+  [[nodiscard]] int WriteError(const std::string& path) const;
 
   int drawn_ = 0;
 };

@@ -36,8 +36,15 @@ TEST(CodePage, WhatThePageLacksBecomesOneQuestionMark) {
   };
   for (const auto& c : cases) EXPECT_EQ(FromUtf8(c.utf8), c.expected) << c.utf8;
   EXPECT_EQ(FromUtf16(u"a\U0001F600b\xD800"), "a?b?");
-  EXPECT_TRUE(IsUtf8("kůň"));
-  EXPECT_FALSE(IsUtf8("k\xF9\xF2"));
+}
+
+TEST(Utf8, IsWellFormedToTheLastBit) {
+  for (const std::string_view good : {"kůň", "\u0800\uD7FF\uE000\uFFFF", "\U00010000\U0010FFFF", "\uFEFFa"})
+    EXPECT_TRUE(IsUtf8(good) && LooksLikeUtf8(good)) << good;
+  EXPECT_TRUE(IsUtf8("kun\x7F") && !LooksLikeUtf8("kun\x7F") && !LooksLikeUtf8(""));
+  for (const std::string_view bad : {"k\xF9\xF2", "\xC1\xBF", "\xE0\x9F\xBF", "\xED\xA0\x80", "\xF0\x8F\xBF\xBF",
+                                     "\xF4\x90\x80\x80", "\xF5", "\x80", "ů\xC5", "\xE2\x82", "\xE2\x82\xC5\xAF"})
+    EXPECT_FALSE(IsUtf8(bad) || LooksLikeUtf8(bad)) << bad;
 }
 
 TEST(CodePage, CaseCoversAllLettersOfThePage) {

@@ -4,21 +4,22 @@
 
 #include <algorithm>
 
-#include "shell/editor.h"
+#include "platform/color.h"
+#include "platform/twips.h"
 #include "shell/layout_picker.h"
 #include "support/plain_view.h"
 #include "support/scripted_platform.h"
+#include "support/whole_editor.h"
 
 namespace pelmar {
 namespace {
 
 struct AppearanceTest : testing::Test {
   ScriptedPlatform platform;
-  Editor editor{platform};
+  WholeEditor editor{platform};
   PlainView view;
-  Session session{view, editor.documents, editor.settings, editor.opener, platform, editor.file_number};
 
-  AppearanceTest() { AddAppearanceCommands(editor, view, session); }
+  AppearanceTest() { AddAppearanceCommands(editor, view); }
   [[nodiscard]] bool Told(const char* call) const { return std::ranges::find(view.calls, call) != view.calls.end(); }
 };
 

@@ -4,9 +4,9 @@
 
 #include "support/scripted_platform.h"
 #include "text/codepage.h"
+#include "text/search.h"
 #include "texttools/find.h"
 #include "texttools/replace.h"
-#include "texttools/search.h"
 
 namespace pelmar {
 namespace {

@@ -9,8 +9,8 @@
 #include <stdexcept>
 #include <vector>
 
-#include "shell/editor.h"
 #include "support/scripted_platform.h"
+#include "support/whole_editor.h"
 
 namespace pelmar {
 namespace {
@@ -107,7 +107,7 @@ TEST(ShuffledWords, RunsTheLastWordIntoItsFollower) {
 
 TEST(RandomTextCommands, InsertBeforeTheSelectionAndShuffleIt) {
   ScriptedPlatform platform;
-  Editor editor(platform);
+  WholeEditor editor(platform);
   editor.text.SetText("xabcx");
   editor.text.Select(1, 4);
   platform.draws = {0.0, 0.0, 0.0};

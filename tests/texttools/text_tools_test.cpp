@@ -4,8 +4,8 @@
 #include <numeric>
 #include <random>
 
-#include "shell/editor.h"
 #include "support/scripted_platform.h"
+#include "support/whole_editor.h"
 #include "text/codepage.h"
 #include "texttools/lines.h"
 #include "texttools/transforms.h"
@@ -89,7 +89,7 @@ TEST(WordsToLines, BreaksBehindEachBlank) {
 
 struct TextToolsTest : testing::Test {
   ScriptedPlatform platform;
-  Editor editor{platform};
+  WholeEditor editor{platform};
 
   void Select(std::string_view text, std::size_t start, std::size_t end) {
     editor.text.SetText(std::string(text));

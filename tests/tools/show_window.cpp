@@ -25,8 +25,8 @@
 #include "platform/qt/fonts.h"
 #include "platform/qt/program_style.h"
 #include "platform/qt/qt_platform.h"
+#include "program/program.h"
 #include "shell/settings_record.h"
-#include "shell/windows/program.h"
 
 namespace pelmar {
 namespace {

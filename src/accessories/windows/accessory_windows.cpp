@@ -9,6 +9,9 @@ namespace pelmar {
 
 void AddAccessoryWindows(const ProgramParts& parts) {
   parts.windows.Register<ColorDialog>([parts] { return std::make_unique<ColorDialog>(parts.platform, &parts.main); });
+  parts.doors.pick_color = [&windows = parts.windows](Color color) {
+    return windows.Get<ColorDialog>().PickColor(color);
+  };
   AddToolWindows(parts);
   AddNotesWindows(parts);
 }

@@ -5,9 +5,9 @@
 #include <QStyledItemDelegate>
 
 #include "accessories/analysis.h"
-#include "platform/qt/controls/glyph_table.h"
+#include "platform/qt/controls/field_helpers.h"
 #include "platform/qt/convert.h"
-#include "texttools/windows/field_helpers.h"
+#include "platform/qt/glyph_table.h"
 #include "ui_analytic.h"
 
 namespace pelmar {

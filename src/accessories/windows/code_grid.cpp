@@ -4,7 +4,7 @@
 #include <QPainter>
 
 #include "platform/qt/controls/accessible_face.h"
-#include "platform/qt/controls/glyph_table.h"
+#include "platform/qt/glyph_table.h"
 #include "text/codepage.h"
 
 namespace pelmar {

@@ -1,8 +1,8 @@
 #include "accessories/windows/color_dialog.h"
 
+#include "platform/color.h"
 #include "platform/qt/controls/list_rows.h"
 #include "platform/qt/convert.h"
-#include "shell/windows/window_registry.h"
 #include "ui_color_dialog.h"
 
 namespace pelmar {
@@ -87,10 +87,6 @@ void ColorDialog::Command1_Click() {
   ui_->List1->addItem(Utf8ToQString(HistoryRow(Now())));
   picked_color_ = ColorOf(Now());
   hide();
-}
-
-std::function<Color(Color)> ColorPicker(WindowRegistry& windows) {
-  return [&windows](Color color) { return windows.Get<ColorDialog>().PickColor(color); };
 }
 
 }  // namespace pelmar

@@ -1,7 +1,6 @@
 // `ColorDialog`: a colour by three sliders, with transformations and a history. PickColor is its only door.
 #pragma once
 
-#include <functional>
 #include <memory>
 
 #include "accessories/color_math.h"
@@ -16,8 +15,6 @@ class ColorDialog;
 }
 
 namespace pelmar {
-
-class WindowRegistry;
 
 class ColorDialog : public DialogWindow {
   Q_OBJECT
@@ -41,8 +38,5 @@ class ColorDialog : public DialogWindow {
   Color picked_color_ = 0;  // PickedColor
   std::unique_ptr<Ui::ColorDialog> ui_;
 };
-
-// PickColor of the program's one colour dialog.
-std::function<Color(Color)> ColorPicker(WindowRegistry& windows);
 
 }  // namespace pelmar

@@ -4,10 +4,10 @@
 #include <QKeyEvent>
 #include <map>
 
-#include "html/insert.h"
 #include "platform/qt/convert.h"
 #include "shell/common.h"
 #include "text/codepage.h"
+#include "text/insert.h"
 #include "ui_klavesnice.h"
 
 namespace pelmar {

@@ -3,11 +3,12 @@
 #include <QKeyEvent>
 
 #include "html/blocks.h"
-#include "html/insert.h"
-#include "platform/qt/controls/glyph_table.h"
+#include "platform/color.h"
+#include "platform/qt/controls/field_helpers.h"
 #include "platform/qt/convert.h"
+#include "platform/qt/glyph_table.h"
 #include "text/codepage.h"
-#include "texttools/windows/field_helpers.h"
+#include "text/insert.h"
 #include "ui_kod.h"
 
 namespace pelmar {

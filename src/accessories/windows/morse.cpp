@@ -5,8 +5,9 @@
 #include <QMenuBar>
 
 #include "accessories/morse.h"
-#include "html/insert.h"
+#include "platform/busy.h"
 #include "platform/qt/convert.h"
+#include "text/insert.h"
 #include "ui_morse.h"
 
 namespace pelmar {
@@ -48,9 +49,8 @@ void Morse::mnu_clipmorse_Click() { ui_->Text1->Buffer().ReplaceSelection(TextTo
 
 void Morse::mnuMakeMorse_Click() {
   TextBuffer& box = ui_->Text1->Buffer();
-  platform_.SetBusyPointer(true);
+  const BusyPointer busy(platform_);
   box.ReplaceSelection(TextToMorse(box.SelText()));
-  platform_.SetBusyPointer(false);
 }
 
 // The box takes no typed characters, so they come here.

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "accessories/notes.h"
-#include "shell/window_geometry.h"
+#include "platform/twips.h"
 
 namespace pelmar {
 namespace {

@@ -2,9 +2,9 @@
 
 #include <cstdlib>
 
+#include "accessories/checkpoints.h"
 #include "accessories/windows/analytic.h"
 #include "accessories/windows/poznamka.h"
-#include "files/checkpoints.h"
 #include "platform/qt/application.h"
 #include "shell/windows/program_parts.h"
 
@@ -12,7 +12,7 @@ namespace pelmar {
 namespace {
 
 std::unique_ptr<Poznamka> MakeNotes(const ProgramParts& parts) {
-  const StartMode mode = parts.session.Mode();
+  const StartMode mode = parts.doors.mode();
   const auto end = [parts, mode] {
     if (mode == StartMode::kNotes) return EndProgram(EXIT_SUCCESS);
     parts.windows.Unload<Poznamka>();

@@ -8,7 +8,9 @@
 #include "platform/qt/convert.h"
 #include "platform/qt/outer_geometry.h"
 #include "platform/qt/svg_icon.h"
+#include "platform/twips.h"
 #include "shell/stand_alone.h"
+#include "shell/windows/unkept_label.h"
 #include "ui_poznamka.h"
 
 namespace pelmar {
@@ -83,6 +85,13 @@ void Poznamka::ConnectCommands() {
   connect(ui_->Close, &QAction::triggered, this, &Poznamka::close);
   connect(ui_->TabStrip1, &QTabBar::currentChanged, this, &Poznamka::TabStrip1_Click);
   AddTabKeys(*this, *ui_->TabStrip1);
+  auto* unkept = new UnkeptLabel(QStringLiteral("Nezachovává se !"), ui_->Toolbar1);
+  QAction* warning = ui_->Toolbar1->addWidget(unkept);
+  warning->setVisible(false);
+  keeper_.on_failure = [unkept, warning](int error) {
+    unkept->SetError(error);
+    warning->setVisible(error != 0);
+  };
 }
 
 TextBuffer& Poznamka::Text() { return ui_->Text1->Buffer(); }
@@ -100,9 +109,22 @@ NotesRecord Poznamka::Now() const {
 }
 
 RescueContent Poznamka::Unsaved() {
-  const auto unsaved = [this] { return NotesToKeep(stored_, Now(), page_); };
-  return {kNotesRescue, [unsaved] { return unsaved().notes.empty() ? std::string() : NotesRescueBytes(unsaved()); },
-          [unsaved] { return ReadableNotes(unsaved().notes); }};
+  return {.kind = kNotesRescue,
+          .unsaved = [this] { return NotesToKeep(stored_, Now(), page_); },
+          .readable = ReadableNotes,
+          .known = [this](const RescuedText& note) { return Now().Page(note.place) == note.text; },
+          .bring_back = [this](const auto& records) { return BringBack(records); },
+          .found = "Poznámky minule nebyly uloženy. Zachované stránky: ",
+          .wanted = "Vrátit je do poznámek ?",
+          .rest_name = "notes-rescued.txt",
+          .rest_told = "Všechny stránky se do poznámek nevešly. Zbylé jsou v souboru"};
+}
+
+std::vector<RescuedText> Poznamka::BringBack(const std::vector<RescueRecord>& records) {
+  record_ = Now();
+  const std::vector<RescuedText> left = BringBackNotes(record_, records);
+  ShowPage(records.front().shown);
+  return left;
 }
 
 void Poznamka::ShowPage(int page) {
@@ -224,41 +246,6 @@ void Poznamka::Timer1_Timer() {
   } else {
     SetOuterPlace(*this, place);
   }
-}
-
-void Poznamka::OfferRescued() {
-  Platform& platform = around_.platform;
-  std::vector<AbandonedRescue> found;
-  std::vector<UnsavedNotes> unsaved;
-  std::size_t count = 0;
-  for (AbandonedRescue& rescue : FindAbandoned(platform.InstallFolder(), kNotesRescue)) {
-    auto kept = ReadNotesRescue(platform.ReadFile(rescue.path, std::nullopt).bytes);
-    if (!kept) continue;
-    DropKnownNotes(*kept, Now());
-    count += kept->notes.size();
-    if (!kept->notes.empty()) unsaved.push_back(std::move(*kept));
-    found.push_back(std::move(rescue));
-  }
-  if (count > 0 && !SettleRescued(unsaved, count)) return;
-  for (AbandonedRescue& rescue : found) Discard(rescue);
-}
-
-bool Poznamka::SettleRescued(const std::vector<UnsavedNotes>& unsaved, std::size_t count) {
-  Platform& platform = around_.platform;
-  const std::string question =
-      "Poznámky minule nebyly uloženy. Zachované stránky: " + std::to_string(count) + ".\r\nVrátit je do poznámek ?";
-  const bool wanted = platform.Message(MessageType::kYesNoWarning, question, "Záchrana") == Answer::kYes;
-  std::vector<UnsavedNote> left;
-  if (wanted) {
-    record_ = Now();
-    left = BringBackNotes(record_, unsaved);
-    ShowPage(unsaved.front().page_on_show);
-    if (keeper_.KeepNow().empty()) return record_ == stored_;
-  } else {
-    for (const UnsavedNotes& of_one : unsaved) left.insert(left.end(), of_one.notes.begin(), of_one.notes.end());
-  }
-  return LeaveReadable(platform, {"notes-rescued.txt", ReadableNotes(left),
-                                  wanted ? "Všechny stránky se do poznámek nevešly. Zbylé jsou v souboru" : ""});
 }
 
 }  // namespace pelmar

@@ -39,7 +39,7 @@ class Poznamka : public QWidget {
 
   void Present();
   // Asks once about what earlier runs left behind, where they did.
-  void OfferRescued();
+  void OfferRescued() { keeper_.Offer(); }
   // The page on show.
   [[nodiscard]] TextBuffer& Text();
   // Keeps what isn't stored, at once. Returns the path of the rescue file, "" where there was nothing to keep.
@@ -59,14 +59,13 @@ class Poznamka : public QWidget {
   void Timer1_Timer();
   void Wake();
   bool Unload();
-  // False where what earlier runs left has to stay where it is.
-  bool SettleRescued(const std::vector<UnsavedNotes>& unsaved, std::size_t count);
   bool RefuseOverlong(const NotesRecord& record);
   void ShowPage(int page);
   // The record with the text of the page on show.
   [[nodiscard]] NotesRecord Now() const;
   [[nodiscard]] NotesSurroundings Measures() const;
   RescueContent Unsaved();
+  std::vector<RescuedText> BringBack(const std::vector<RescueRecord>& records);
 
   Surroundings around_;
   std::unique_ptr<Ui::Poznamka> ui_;

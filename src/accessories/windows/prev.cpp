@@ -47,7 +47,7 @@ void Prev::ConnectBase(const Base& base) {
     converter_.DropLast(field);
     ShowFields();
   });
-  connect(base.convert, &QPushButton::clicked, this, [this, &base] { Convert(base); });
+  connect(base.convert, &QPushButton::clicked, this, [this, base] { Convert(base); });
   connect(base.to_text, &QPushButton::clicked, this, [this, field = base.field] { doors_.to_text(converter_.*field); });
 }
 

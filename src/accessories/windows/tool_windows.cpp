@@ -9,9 +9,9 @@
 #include "accessories/windows/kod.h"
 #include "accessories/windows/morse.h"
 #include "accessories/windows/prev.h"
-#include "html/insert.h"
 #include "platform/qt/application.h"
 #include "shell/windows/program_parts.h"
+#include "text/insert.h"
 
 namespace pelmar {
 namespace {
@@ -26,7 +26,7 @@ void Stroke(MainWindow& main, const QKeyEvent& key) {
 }
 
 // True where the calculator is the whole program.
-bool StandsAlone(const ProgramParts& parts) { return parts.session.Mode() == StartMode::kCalculator; }
+bool StandsAlone(const ProgramParts& parts) { return parts.doors.mode() == StartMode::kCalculator; }
 
 std::unique_ptr<Kalkul> MakeKalkul(const ProgramParts& parts) {
   WindowRegistry& windows = parts.windows;

@@ -1,7 +1,7 @@
 #include "ciphers/windows/cht.h"
 
 #include "ciphers/cht.h"
-#include "html/insert.h"
+#include "text/insert.h"
 #include "ui_cht.h"
 
 namespace pelmar {

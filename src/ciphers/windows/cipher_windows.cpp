@@ -22,13 +22,15 @@ void AddCipherWindows(const ProgramParts& parts) {
   TextBuffer& text = parts.editor.text;
   WindowRegistry& windows = parts.windows;
   windows.Register<ZaKod>([parts, &text] {
-    const auto selected_tab = [&documents = parts.editor.documents] { return documents.SelectedTab(); };
+    // Behind the close everything is stored, and a run that still goes on would rewrite the document once more.
+    const auto selected_tab = [parts] { return parts.doors.closed() ? 0 : parts.editor.documents.SelectedTab(); };
     return std::make_unique<ZaKod>(text, parts.platform, selected_tab, &parts.main);
   });
   windows.Register<ShiftKod>([parts, &text] { return std::make_unique<ShiftKod>(text, parts.platform, &parts.main); });
   windows.Register<Shift>([parts, &text] { return std::make_unique<Shift>(text, &parts.main); });
   windows.Register<Confeld>([parts, &text] { return std::make_unique<Confeld>(text, parts.platform, &parts.main); });
-  windows.Register<RND_Sifra>([parts] { return std::make_unique<RND_Sifra>(parts.editor, &parts.main); });
+  windows.Register<RND_Sifra>(
+      [parts] { return std::make_unique<RND_Sifra>(parts.editor, parts.files.opener, &parts.main); });
   windows.Register<CHT>([parts, &text] { return std::make_unique<CHT>(text, parts.platform, &parts.main); });
   parts.ShowBy<ZaKod>({"mnucode"});
   parts.ShowBy<ShiftKod>({"mnu_encrypt_shift"});

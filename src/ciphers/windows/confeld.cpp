@@ -2,8 +2,8 @@
 
 #include "ciphers/cronfeld.h"
 #include "ciphers/windows/rewriting_field.h"
-#include "html/insert.h"
 #include "platform/qt/convert.h"
+#include "text/insert.h"
 #include "ui_confeld.h"
 
 namespace pelmar {

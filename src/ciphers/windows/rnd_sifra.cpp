@@ -2,11 +2,12 @@
 
 #include <QListWidget>
 
-#include "html/insert.h"
+#include "platform/qt/controls/field_helpers.h"
 #include "platform/qt/controls/list_rows.h"
 #include "platform/qt/convert.h"
+#include "platform/runtime_error.h"
 #include "shell/editor.h"
-#include "texttools/windows/field_helpers.h"
+#include "text/insert.h"
 #include "ui_rnd_sifra.h"
 
 namespace pelmar {
@@ -19,11 +20,11 @@ void ShowOnly(QListWidget& list, const std::vector<std::string>& rows) {
 
 }  // namespace
 
-RND_Sifra::RND_Sifra(Editor& editor, QWidget* parent)
+RND_Sifra::RND_Sifra(Editor& editor, Opener& opener, QWidget* parent)
     : DialogWindow(parent),
       document_(editor.text),
       platform_(editor.platform),
-      files_(editor.platform, editor.opener, editor.file_number),
+      files_(editor.platform, opener, editor.file_number),
       ui_(std::make_unique<Ui::RND_Sifra>()) {
   ui_->setupUi(this);
   for (QListWidget* list : {ui_->List1, ui_->List2}) ShowRowsOnOneLine(*list);  // a table may be any file

@@ -15,12 +15,13 @@ class RND_Sifra;
 namespace pelmar {
 
 struct Editor;
+class Opener;
 
 class RND_Sifra : public DialogWindow {
   Q_OBJECT
 
  public:
-  RND_Sifra(Editor& editor, QWidget* parent);
+  RND_Sifra(Editor& editor, Opener& opener, QWidget* parent);
   ~RND_Sifra() override;
 
  private:

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "ciphers/shift.h"
-#include "html/insert.h"
+#include "text/insert.h"
 #include "ui_shift.h"
 
 namespace pelmar {

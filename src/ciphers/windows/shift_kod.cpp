@@ -1,9 +1,9 @@
 #include "ciphers/windows/shift_kod.h"
 
 #include "ciphers/shift.h"
-#include "html/insert.h"
 #include "platform/draw.h"
 #include "platform/qt/convert.h"
+#include "text/insert.h"
 #include "ui_shift_kod.h"
 
 namespace pelmar {

@@ -19,7 +19,8 @@ class ZaKod : public DialogWindow {
   Q_OBJECT
 
  public:
-  // `selected_tab` tells which document is in the text box: the result belongs to no other.
+  // `selected_tab` tells which document is in the text box, 0 once the program is ending: the result belongs to no
+  // other.
   ZaKod(TextBuffer& document, Platform& platform, std::function<int()> selected_tab, QWidget* parent);
   ~ZaKod() override;
 

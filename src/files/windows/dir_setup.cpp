@@ -5,8 +5,8 @@
 
 namespace pelmar {
 
-DirSetup::DirSetup(std::vector<std::function<Lists()>> dialogs, QWidget* parent)
-    : DialogWindow(parent), dialogs_(std::move(dialogs)), ui_(std::make_unique<Ui::DirSetup>()) {
+DirSetup::DirSetup(const std::vector<std::function<FolderBrowser()>>& dialogs, QWidget* parent)
+    : DialogWindow(parent), dialogs_(dialogs), ui_(std::make_unique<Ui::DirSetup>()) {
   ui_->setupUi(this);
   ui_->Dir1->setFocus();
   LinkFolderBrowser(ui_->Drive1, ui_->Dir1);
@@ -17,9 +17,9 @@ DirSetup::DirSetup(std::vector<std::function<Lists()>> dialogs, QWidget* parent)
 DirSetup::~DirSetup() = default;
 
 void DirSetup::Command1_Click() {
-  for (const auto& lists : dialogs_) lists().Drive1->SetDrive(ui_->Drive1->Drive());
-  for (const auto& lists : dialogs_) {
-    FolderList* const folders = lists().Dir1;
+  for (const auto& browser : dialogs_) browser().drives->SetDrive(ui_->Drive1->Drive());
+  for (const auto& browser : dialogs_) {
+    FolderList* const folders = browser().folders;
     const bool there = folders->Path() == ui_->Dir1->Path();
     folders->SetPath(ui_->Dir1->Path());
     // The choice counts for the dialog also where its list stood there already.

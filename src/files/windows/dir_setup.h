@@ -13,26 +13,20 @@ class DirSetup;
 
 namespace pelmar {
 
-class DriveList;
-class FolderList;
+struct FolderBrowser;
 
 class DirSetup : public DialogWindow {
   Q_OBJECT
 
  public:
-  // The lists of one dialog, which is made when they are asked for.
-  struct Lists {
-    DriveList* Drive1;
-    FolderList* Dir1;
-  };
-
-  DirSetup(std::vector<std::function<Lists()>> dialogs, QWidget* parent);
+  // The folder browsers of the dialogs, each of which is made when it is asked for.
+  DirSetup(const std::vector<std::function<FolderBrowser()>>& dialogs, QWidget* parent);
   ~DirSetup() override;
 
  private:
   void Command1_Click();
 
-  std::vector<std::function<Lists()>> dialogs_;
+  const std::vector<std::function<FolderBrowser()>>& dialogs_;
   std::unique_ptr<Ui::DirSetup> ui_;
 };
 

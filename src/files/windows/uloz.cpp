@@ -42,7 +42,7 @@ void Uloz::TakeTarget() {
 }
 
 void Uloz::Command1_Click() {
-  saver_.SaveToPath(Utf8FromQString(ui_->Label1->text()), documents_.Text().Text());
+  saver_.SaveToPath(Utf8FromQString(ui_->Label1->text()));
   hide();
 }
 

@@ -2,8 +2,8 @@
 
 #include "html/blocks.h"
 #include "html/dialogs/form_helpers.h"
-#include "html/insert.h"
 #include "platform/qt/convert.h"
+#include "text/insert.h"
 #include "ui_barva.h"
 #include "ui_hr.h"
 #include "ui_nadpis.h"
@@ -30,12 +30,15 @@ bool Odstavec::Put() {
 
 Hr::Hr(TextBuffer& document, QWidget* parent) : FragmentDialog(document, parent) {
   EnableWith(ui_->Check1, {ui_->Option4, ui_->Option5, ui_->VScroll1});
-  connect(ui_->Option4, &QRadioButton::toggled, this, [this](bool on) {
-    if (on) SetUnit(100, BlankLedPercent);
-  });
-  connect(ui_->Option5, &QRadioButton::toggled, this, [this](bool on) {
-    if (on) SetUnit(800, BlankLed);
-  });
+  // A click on the unit that is set already counts as well; the arrow keys choose without one.
+  for (const auto chosen : {&QRadioButton::toggled, &QRadioButton::clicked}) {
+    connect(ui_->Option4, chosen, this, [this](bool on) {
+      if (on) SetUnit(100, BlankLedPercent);
+    });
+    connect(ui_->Option5, chosen, this, [this](bool on) {
+      if (on) SetUnit(800, BlankLed);
+    });
+  }
   ShowValue(ui_->VScroll1, ui_->Label1,
             [this](int value) { return ui_->Option4->isChecked() ? BlankLedPercent(value) : QString::number(value); });
 }

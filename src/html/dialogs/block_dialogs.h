@@ -4,7 +4,7 @@
 #include <functional>
 
 #include "html/dialogs/fragment_dialog.h"
-#include "shell/common.h"
+#include "platform/color.h"
 
 namespace Ui {
 class Odstavec;

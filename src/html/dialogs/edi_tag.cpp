@@ -2,9 +2,10 @@
 
 #include <QComboBox>
 
-#include "html/insert.h"
 #include "html/tag_editor.h"
+#include "platform/paths.h"
 #include "platform/qt/convert.h"
+#include "text/insert.h"
 #include "ui_edi_tag.h"
 
 namespace pelmar {

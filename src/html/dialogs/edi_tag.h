@@ -5,9 +5,9 @@
 #include <functional>
 #include <memory>
 
+#include "platform/color.h"
 #include "platform/platform.h"
 #include "platform/qt/controls/dialog_window.h"
-#include "shell/common.h"
 #include "text/text_buffer.h"
 
 namespace Ui {

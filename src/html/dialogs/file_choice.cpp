@@ -21,6 +21,7 @@ void LinkFileChoice(const FileChoice& choice, std::function<void(const std::stri
   LinkFileBrowser(choice.places, choice.folders, choice.files, choice.mask);
   const auto refresh = [choice] { RefreshFileChoice(choice); };
   QObject::connect(choice.files, &FileList::FileClicked, choice.path, refresh);
+  QObject::connect(choice.files, &FileList::FileGone, choice.path, refresh);
   QObject::connect(choice.files, &FileList::PathChanged, choice.path, refresh);
   QObject::connect(choice.files, &FileList::PatternChanged, choice.path, refresh);
   QObject::connect(choice.relative, &QCheckBox::toggled, choice.path, refresh);

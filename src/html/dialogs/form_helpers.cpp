@@ -10,6 +10,7 @@
 
 #include "platform/qt/controls/swatch.h"
 #include "platform/qt/convert.h"
+#include "shell/common.h"
 
 namespace pelmar {
 namespace {

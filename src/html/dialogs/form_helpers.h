@@ -8,7 +8,7 @@
 #include <optional>
 #include <string>
 
-#include "shell/common.h"
+#include "platform/color.h"
 
 class QAbstractButton;
 class QAbstractSlider;

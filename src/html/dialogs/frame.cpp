@@ -1,8 +1,9 @@
 #include "html/dialogs/frame.h"
 
 #include "html/dialogs/form_helpers.h"
-#include "html/insert.h"
+#include "platform/color.h"
 #include "platform/qt/convert.h"
+#include "text/insert.h"
 #include "ui_frame.h"
 
 namespace pelmar {

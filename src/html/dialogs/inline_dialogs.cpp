@@ -4,9 +4,9 @@
 
 #include "html/blocks.h"
 #include "html/dialogs/form_helpers.h"
-#include "html/insert.h"
 #include "platform/qt/convert.h"
 #include "text/codepage.h"
+#include "text/insert.h"
 #include "ui_comment.h"
 #include "ui_html_ascii.h"
 #include "ui_html_id.h"

@@ -1,8 +1,8 @@
 #include "html/dialogs/kotva.h"
 
-#include "html/insert.h"
 #include "html/link.h"
 #include "platform/qt/convert.h"
+#include "text/insert.h"
 #include "ui_kotva.h"
 
 namespace pelmar {

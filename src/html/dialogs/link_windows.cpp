@@ -26,6 +26,8 @@ void AddLinkWindows(const ProgramParts& parts) {
       [parts, &text] { return std::make_unique<MailTo>(text, parts.editor.settings.UserEmail, &parts.main); });
   windows.Register<Template>(
       [parts, &text] { return std::make_unique<Template>(text, parts.editor.settings, &parts.main); });
+  parts.AddFilePicker<Obrazek>();
+  parts.AddFilePicker<OdkazNaJiny>();
   parts.ShowBy<Obrazek>({"mnuobr", "Image"});
   parts.ShowBy<OdkazNaJiny>({"mnuodkazjiny", "Link"});
   parts.ShowBy<Odkaz>({"mnuodkaz"});

@@ -2,8 +2,8 @@
 
 #include "html/dialogs/form_helpers.h"
 #include "html/dialogs/paired_lists.h"
-#include "html/insert.h"
 #include "platform/qt/convert.h"
+#include "text/insert.h"
 #include "ui_cis_seznam.h"
 #include "ui_seznam.h"
 #include "ui_seznam_def.h"
@@ -41,8 +41,8 @@ bool ItemListDialog<Form>::Put() {
   const auto& ui = this->ui_;
   ListSpec spec;
   spec.kind = kind_;
-  if (ui->Check2->isChecked())
-    spec.type = static_cast<std::size_t>(ui->kind->buttons().indexOf(ui->kind->checkedButton()));
+  const qsizetype type = ui->kind->buttons().indexOf(ui->kind->checkedButton());
+  if (ui->Check2->isChecked() && type >= 0) spec.type = static_cast<std::size_t>(type);
   spec.compact = ui->Check3->isChecked();
   spec.heading = Written(ui->Check1, ui->Text2);
   spec.items = RowTexts(*ui->List1);

@@ -1,8 +1,8 @@
 #include "html/dialogs/obrazek.h"
 
 #include "html/dialogs/form_helpers.h"
-#include "html/insert.h"
 #include "platform/qt/convert.h"
+#include "text/insert.h"
 #include "ui_obrazek.h"
 
 namespace pelmar {

@@ -1,9 +1,9 @@
 #include "html/dialogs/odkaz.h"
 
 #include "html/dialogs/form_helpers.h"
-#include "html/insert.h"
 #include "html/link.h"
 #include "platform/qt/convert.h"
+#include "text/insert.h"
 #include "ui_odkaz.h"
 
 namespace pelmar {

@@ -1,6 +1,5 @@
 #include "html/dialogs/page_windows.h"
 
-#include "accessories/windows/color_dialog.h"
 #include "html/dialogs/frame.h"
 #include "html/dialogs/frames.h"
 #include "html/dialogs/table.h"
@@ -16,7 +15,7 @@ void AddTables(const ProgramParts& parts) {
   TextBuffer& text = parts.editor.text;
   parts.windows.Register<TableRow>([parts, &text] { return std::make_unique<TableRow>(text, &parts.main); });
   parts.windows.Register<TableCell>(
-      [parts, &text] { return std::make_unique<TableCell>(text, ColorPicker(parts.windows), &parts.main); });
+      [parts, &text] { return std::make_unique<TableCell>(text, parts.ColorDoor(), &parts.main); });
   parts.windows.Register<Table>([parts, &text] {
     return std::make_unique<Table>(
         text, [parts] { return parts.windows.Get<TableCell>().AskAttributes(); },
@@ -37,8 +36,10 @@ void AddPageWindows(const ProgramParts& parts) {
       [parts, &text] { return std::make_unique<Frame>(text, parts.BrowserDoor(), &parts.main); });
   parts.windows.Register<Vytvor>([parts, &text] {
     return std::make_unique<Vytvor>(text, parts.main, parts.editor.settings, parts.platform,
-                                    Vytvor::Doors{ColorPicker(parts.windows), parts.BrowserDoor()}, &parts.main);
+                                    Vytvor::Doors{parts.ColorDoor(), parts.BrowserDoor()}, &parts.main);
   });
+  parts.AddFilePicker<Frame>();
+  parts.AddFilePicker<Vytvor>();
   parts.ShowBy<Frames>({"mnuHTML_fset"});
   parts.ShowBy<Frame>({"mnuHTML_Fme"});
   parts.ShowBy<Vytvor>({"mnucreate", "Newhtml"});

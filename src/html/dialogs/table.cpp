@@ -1,8 +1,8 @@
 #include "html/dialogs/table.h"
 
 #include "html/dialogs/form_helpers.h"
-#include "html/insert.h"
 #include "platform/qt/convert.h"
+#include "text/insert.h"
 #include "ui_table.h"
 
 namespace pelmar {

@@ -6,7 +6,7 @@
 
 #include "html/dialogs/attributes_dialog.h"
 #include "html/table_tags.h"
-#include "shell/common.h"
+#include "platform/color.h"
 
 namespace Ui {
 class TableCell;

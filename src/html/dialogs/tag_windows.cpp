@@ -1,6 +1,5 @@
 #include "html/dialogs/tag_windows.h"
 
-#include "accessories/windows/color_dialog.h"
 #include "html/dialogs/block_dialogs.h"
 #include "html/dialogs/edi_tag.h"
 #include "html/dialogs/inline_dialogs.h"
@@ -31,7 +30,7 @@ void AddFragmentWindows(const ProgramParts& parts) {
   Add<HTMLAscii>(parts, {"MnuHTMLASCII"});
   Add<Smajl>(parts, {"mnusmajl"});
   parts.windows.Register<Barva>(
-      [parts] { return std::make_unique<Barva>(parts.editor.text, ColorPicker(parts.windows), &parts.main); });
+      [parts] { return std::make_unique<Barva>(parts.editor.text, parts.ColorDoor(), &parts.main); });
   parts.ShowBy<Barva>({"mnubarva"});
 }
 
@@ -49,9 +48,8 @@ void AddTagEditors(const ProgramParts& parts) {
   parts.windows.Register<Attr>(
       [parts] { return std::make_unique<Attr>(parts.editor.text, parts.platform, &parts.main); });
   parts.ShowBy<Attr>({"mnuatr"});
-  parts.editor.commands.Add("Mnu_Edit_Tag", [parts] {
-    EdiTag(parts.editor.text, parts.platform, ColorPicker(parts.windows), &parts.main).Run();
-  });
+  parts.editor.commands.Add(
+      "Mnu_Edit_Tag", [parts] { EdiTag(parts.editor.text, parts.platform, parts.ColorDoor(), &parts.main).Run(); });
 }
 
 }  // namespace

@@ -2,12 +2,12 @@
 
 #include <QHeaderView>
 
-#include "html/insert.h"
 #include "html/samples/templaty.h"
 #include "platform/qt/controls/first_choice.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/svg_icon.h"
 #include "text/codepage.h"
+#include "text/insert.h"
 #include "ui_template.h"
 
 namespace pelmar {

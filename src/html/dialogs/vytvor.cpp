@@ -1,7 +1,7 @@
 #include "html/dialogs/vytvor.h"
 
 #include "html/dialogs/form_helpers.h"
-#include "html/insert.h"
+#include "html/tag_commands.h"
 #include "platform/qt/convert.h"
 #include "texttools/appearance.h"
 #include "ui_vytvor.h"

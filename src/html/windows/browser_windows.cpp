@@ -6,6 +6,7 @@
 #include "html/test_page.h"
 #include "html/windows/browser_module.h"
 #include "html/windows/frm_browser.h"
+#include "platform/busy.h"
 #include "platform/qt/application.h"
 #include "platform/qt/convert.h"
 #include "shell/windows/program_parts.h"
@@ -16,18 +17,17 @@ namespace {
 // The browser's window; nothing where its module is missing, which the person has been told then.
 FrmBrowser* Browser(const ProgramParts& parts, BrowserModule& module) {
   if (auto* browser = parts.windows.Find<FrmBrowser>()) return browser;
-  // The engine's start takes about a second.
-  parts.platform.SetBusyPointer(true);
-  FrmBrowser* browser = module.Maker() == nullptr ? nullptr : &parts.windows.Get<FrmBrowser>();
-  parts.platform.SetBusyPointer(false);
-  if (browser == nullptr)
-    parts.platform.Message(MessageType::kOk, Utf8FromQString(module.Problem()), "Interní browser");
-  return browser;
+  {
+    const BusyPointer busy(parts.platform);  // the engine's start takes about a second
+    if (module.Maker() != nullptr) return &parts.windows.Get<FrmBrowser>();
+  }
+  parts.platform.Message(MessageType::kOk, Utf8FromQString(module.Problem()), "Interní browser");
+  return nullptr;
 }
 
 void AddShowCommand(const ProgramParts& parts, std::string_view name, PageEnd end) {
   parts.editor.commands.Add(name, [parts, end] {
-    if (const auto page = PageToShow(parts.editor, end)) parts.show_in_browser(*page);
+    if (const auto page = PageToShow(parts.editor, end)) parts.doors.show_in_browser(*page);
   });
 }
 
@@ -37,11 +37,11 @@ void AddBrowserWindows(const ProgramParts& parts) {
   const auto module = std::make_shared<BrowserModule>();
   parts.windows.Register<FrmBrowser>([parts, module]() -> std::unique_ptr<FrmBrowser> {
     if (module->Maker() == nullptr) return nullptr;
-    const bool alone = parts.session.Mode() == StartMode::kBrowser;
+    const bool alone = parts.doors.mode() == StartMode::kBrowser;
     return std::make_unique<FrmBrowser>(*module->Maker(), parts.platform,
                                         alone ? [] { EndProgram(EXIT_SUCCESS); } : std::function<void()>());
   });
-  parts.show_in_browser = [parts, module](const std::string& path) {
+  parts.doors.show_in_browser = [parts, module](const std::string& path) {
     if (path.empty()) return;
     if (FrmBrowser* browser = Browser(parts, *module)) browser->ShowInBrowser(path);
   };

@@ -2,6 +2,7 @@
 
 #include <QFileInfo>
 
+#include "platform/paths.h"
 #include "platform/qt/convert.h"
 
 namespace pelmar {

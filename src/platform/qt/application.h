@@ -4,7 +4,7 @@
 #include <QApplication>
 #include <functional>
 
-#include "shell/common.h"
+#include "platform/runtime_error.h"
 
 namespace pelmar {
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "shell/common.h"
+#include "platform/color.h"
 
 namespace pelmar {
 

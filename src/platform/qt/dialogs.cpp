@@ -2,9 +2,11 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QGridLayout>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QMimeDatabase>
 #include <QPointer>
 #include <QWindow>
 #include <algorithm>
@@ -66,6 +68,38 @@ class Asking {
 
  private:
   QPointer<Dialog> dialog_;
+};
+
+// The toolkit's own reads the beginning of each listed file, which may take for ever: on a disk over a slow net, in
+// folders of the system.
+class IconsByName : public QFileIconProvider {
+ public:
+  using QFileIconProvider::icon;
+  [[nodiscard]] QIcon icon(const QFileInfo& info) const override {
+    if (info.isDir()) return icon(info.isRoot() ? Drive : Folder);
+    const QMimeType type = TypeOf(info);
+    return QIcon::fromTheme(type.iconName(), QIcon::fromTheme(type.genericIconName(), icon(File)));
+  }
+  [[nodiscard]] QString type(const QFileInfo& info) const override {
+    return info.isDir() ? QFileIconProvider::type(info) : TypeOf(info).comment();
+  }
+
+ private:
+  [[nodiscard]] QMimeType TypeOf(const QFileInfo& info) const {
+    return types_.mimeTypeForFile(info.fileName(), QMimeDatabase::MatchExtension);
+  }
+
+  QMimeDatabase types_;
+};
+
+// A base, so that it outlives the dialog's thread, which looks for icons until the dialog is gone.
+struct WithIconsByName {
+  IconsByName icons;
+};
+
+class FileDialog : private WithIconsByName, public QFileDialog {
+ public:
+  explicit FileDialog(QWidget* parent) : QFileDialog(parent) { setIconProvider(&icons); }
 };
 
 QMessageBox::Icon IconOf(MessageType type) {
@@ -132,7 +166,7 @@ QStringList NameFilters(const QString& filter) {
 
 std::optional<QString> AskForFile(FileDialogKind kind, const QString& filter, int filter_index, QString& folder) {
   const QStringList filters = NameFilters(filter);
-  Asking<QFileDialog> dialog;
+  Asking<FileDialog> dialog;
   if (!folder.isEmpty()) dialog->setDirectory(folder);
   // Names alone: the columns would come too narrow, and their words not in Czech.
   dialog->setViewMode(QFileDialog::List);

@@ -17,26 +17,31 @@ namespace pelmar {
 // A regular file that opens for reading.
 bool CanReadFile(const std::string& path);
 
-// All bytes up to the end or the limit. EISDIR for a folder, EINVAL for anything else that isn't a regular file.
+// All bytes that the file has as it is opened, up to the limit. EISDIR for a folder, EINVAL for anything else that
+// isn't a regular file or that the system makes up while it is read, EFBIG without a limit for more than kLongestWhole.
 FileBytes ReadWholeFile(const std::string& path, std::optional<std::uint64_t> limit);
 
-// Makes `bytes` the content of the file; 0 or errno. The content is written to a new file beside, brought to the disk
-// and renamed over the old one, whose permissions, owner and group it keeps as far as the system lets it. A link stays
-// a link, its target is replaced. `new_mode` is for a file that wasn't there, before the umask.
+inline constexpr std::uint64_t kLongestWhole = std::uint64_t{1} << 30;
+
+// Makes `bytes` the content of the file. The content is written to a new file beside, brought to the disk and renamed
+// over the old one, whose owner, group, permissions (but for set-id bits), access list and extended attributes it
+// takes. A link stays a link, its target is replaced. `new_mode` is for a file that wasn't there, before the umask.
 //
-// Where the folder refuses that (not writable, or sticky) and the file itself may be written, it is written in place:
-// the room is reserved before the first old byte is touched, and after a failed write the old bytes are put back. Only
-// a crash in the middle can mix the two. A character device or a pipe gets the bytes directly.
-int ReplaceFile(const std::string& path, std::string_view bytes, mode_t new_mode = 0666);
+// Where the folder refuses that (not writable, or sticky), the new file can't have an attribute of the old one or that
+// has other names, it is written in place, if it may be written: the room is reserved and the old content kept in
+// `keep_folder` before the first old byte is touched, and after a failure it is put back. Only there can a crash in the
+// middle mix the two. A character device or a pipe gets the bytes directly.
+WriteOutcome ReplaceFile(const std::string& path, std::string_view bytes, const std::string& keep_folder,
+                         mode_t new_mode = 0666);
 
 // Writes a file that wasn't there, for its owner alone; 0 or errno. EEXIST where anything has that name, a link that
 // leads nowhere included. After a failed write nothing stays behind.
 int CreateFile(const std::string& path, std::string_view bytes);
 
-// See Platform::RewriteFile. The source is a regular file. The new content goes to a file beside the target and is
-// renamed over it, with the care for links and permissions that ReplaceFile takes, but isn't brought to the disk first:
-// it can be made again from the source. Where the folder refuses that, the target itself is written.
-int RewriteFileByPieces(const std::string& source, const std::string& target, OldTail tail, FileRewriter& rewriter);
+// See Platform::RewriteFile. The source is a regular file. The target is written with the care that ReplaceFile takes,
+// but isn't brought to the disk before the rename: it can be made again from the source.
+WriteOutcome RewriteFileByPieces(const std::string& source, const std::string& target, OldTail tail,
+                                 FileRewriter& rewriter, const std::string& keep_folder);
 
 // True where both paths lead to one file that is there.
 bool LeadToSameFile(const std::string& left, const std::string& right);

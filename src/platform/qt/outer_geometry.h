@@ -4,7 +4,7 @@
 
 #include <QSize>
 
-#include "shell/window_geometry.h"
+#include "platform/twips.h"
 
 class QWidget;
 

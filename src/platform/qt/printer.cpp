@@ -10,8 +10,8 @@
 #include <cerrno>
 #include <cmath>
 
-#include "platform/qt/controls/glyph_table.h"
 #include "platform/qt/convert.h"
+#include "platform/qt/glyph_table.h"
 #include "platform/qt/module.h"
 #include "platform/qt/system_printer.h"
 

@@ -4,6 +4,7 @@
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QProcess>
@@ -73,13 +74,15 @@ FileBytes QtPlatform::ReadFile(const std::string& path, std::optional<std::uint6
   return ReadWholeFile(path, limit);
 }
 
-int QtPlatform::WriteFile(const std::string& path, std::string_view bytes) { return ReplaceFile(path, bytes); }
+WriteOutcome QtPlatform::WriteDocument(const std::string& path, std::string_view bytes) {
+  return ReplaceFile(path, bytes, InstallFolder());
+}
 
 int QtPlatform::WriteNewFile(const std::string& path, std::string_view bytes) { return CreateFile(path, bytes); }
 
-int QtPlatform::RewriteFile(const std::string& source, const std::string& target, OldTail tail,
-                            FileRewriter& rewriter) {
-  return RewriteFileByPieces(source, target, tail, rewriter);
+WriteOutcome QtPlatform::RewriteFile(const std::string& source, const std::string& target, OldTail tail,
+                                     FileRewriter& rewriter) {
+  return RewriteFileByPieces(source, target, tail, rewriter, InstallFolder());
 }
 
 bool QtPlatform::IsSameFile(const std::string& left, const std::string& right) { return LeadToSameFile(left, right); }
@@ -97,8 +100,10 @@ std::string QtPlatform::InstallFolder() {
   return install_folder_;
 }
 
+// The toolkit's own answer for a folder that isn't there is "", with which files would go to the root of the disk.
 std::string QtPlatform::TempFolder() {
-  const QString folder = QDir::tempPath();
+  const QString set = QFile::decodeName(qgetenv("TMPDIR"));
+  const QString folder = set.isEmpty() ? QStringLiteral("/tmp") : QDir::cleanPath(QFileInfo(set).absoluteFilePath());
   return Utf8FromQString(folder.endsWith(u'/') ? folder : folder + u'/');
 }
 

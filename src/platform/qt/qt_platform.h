@@ -34,9 +34,10 @@ class QtPlatform : public Platform {
 
   bool CanRead(const std::string& path) override;
   FileBytes ReadFile(const std::string& path, std::optional<std::uint64_t> limit) override;
-  int WriteFile(const std::string& path, std::string_view bytes) override;
+  WriteOutcome WriteDocument(const std::string& path, std::string_view bytes) override;
   int WriteNewFile(const std::string& path, std::string_view bytes) override;
-  int RewriteFile(const std::string& source, const std::string& target, OldTail tail, FileRewriter& rewriter) override;
+  WriteOutcome RewriteFile(const std::string& source, const std::string& target, OldTail tail,
+                           FileRewriter& rewriter) override;
   bool IsSameFile(const std::string& left, const std::string& right) override;
 
   std::string InstallFolder() override;

@@ -74,6 +74,10 @@ class LockedList {
   bool may_write_ = false;
 };
 
+std::string FolderOf(const QString& path) {
+  return QFile::encodeName(QFileInfo(path).path() + QLatin1Char('/')).toStdString();
+}
+
 }  // namespace
 
 void AddToRecentList(const QString& list_path, const QString& path) {
@@ -85,7 +89,7 @@ void AddToRecentList(const QString& list_path, const QString& path) {
   const FileBytes old = ReadWholeFile(native.toStdString(), kLongestList + 1);
   if ((old.error != 0 && old.error != ENOENT) || old.bytes.size() > kLongestList) return;
   const QByteArray list = AddBookmark(ToBytes(old.bytes), path, mime, QDateTime::currentDateTimeUtc());
-  if (!list.isEmpty()) ReplaceFile(native.toStdString(), ViewOf(list), 0600);
+  if (!list.isEmpty()) ReplaceFile(native.toStdString(), ViewOf(list), FolderOf(list_path), 0600);
 }
 
 RecentDocuments::RecentDocuments(QString list_path) : list_path_(std::move(list_path)) { pool_.setMaxThreadCount(1); }

@@ -1,8 +1,8 @@
 #include "shell/windows/hlp.h"
 
 #include "platform/error_text.h"
+#include "platform/paths.h"
 #include "platform/qt/convert.h"
-#include "shell/common.h"
 #include "shell/help.h"
 #include "ui_hlp.h"
 

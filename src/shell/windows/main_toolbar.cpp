@@ -11,6 +11,9 @@
 namespace pelmar {
 namespace {
 
+// What stands before the path in the text of an item: the digit with its "&", and a blank.
+constexpr qsizetype kBeforePath = 3;
+
 // A long path without its middle, so that the menu stays narrower than a screen.
 QString Shortened(const QString& item) {
   constexpr qsizetype kMost = 100;
@@ -52,6 +55,7 @@ MainToolbar::MainToolbar(const Commands& commands, Opener& opener, QWidget* pare
 
 void MainToolbar::AddRecentMenu(QAction* action) {
   auto* menu = new QMenu(this);
+  menu->setToolTipsVisible(true);
   for (int number = 1; number <= 10; ++number) {
     QAction* item = menu->addAction(QString());
     item->setObjectName(QStringLiteral("M%1").arg(number));
@@ -87,9 +91,12 @@ void MainToolbar::Refresh() {
 }
 
 void MainToolbar::ShowRecentFiles() {
-  for (int number = 1; number <= 10; ++number)
-    recent_[static_cast<std::size_t>(number - 1)]->setText(
-        EscapedMnemonics(Shortened(Utf8ToQString(opener_.RecentItemText(number)))));
+  for (int number = 1; number <= 10; ++number) {
+    const QString item = Utf8ToQString(opener_.RecentItemText(number));
+    QAction* action = recent_[static_cast<std::size_t>(number - 1)];
+    action->setText(EscapedMnemonics(Shortened(item)));
+    action->setToolTip(item.mid(kBeforePath));  // the path as a whole
+  }
 }
 
 }  // namespace pelmar

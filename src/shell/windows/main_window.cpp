@@ -10,11 +10,14 @@
 #include <algorithm>
 #include <chrono>
 
+#include "platform/paths.h"
 #include "platform/qt/controls/tab_keys.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/outer_geometry.h"
 #include "platform/qt/svg_icon.h"
+#include "platform/twips.h"
 #include "shell/status.h"
+#include "shell/window_geometry.h"
 #include "shell/windows/status_timer.h"
 #include "text/codepage.h"
 
@@ -41,7 +44,7 @@ std::string DroppedFile(const QMimeData* mime) {
 
 }  // namespace
 
-MainWindow::MainWindow(Editor& editor) : editor_(editor) {
+MainWindow::MainWindow(Editor& editor, Opener& opener) : editor_(editor), opener_(opener) {
   setObjectName(QStringLiteral("Main"));
   setProperty(kTagProperty, QLatin1String(kAutosnapTag));
   setAcceptDrops(true);
@@ -60,7 +63,7 @@ void MainWindow::MakeControls() {
   client_ = new QWidget(this);
   setCentralWidget(client_);
   client_->installEventFilter(this);
-  toolbar_ = new MainToolbar(editor_.commands, editor_.opener, client_);
+  toolbar_ = new MainToolbar(editor_.commands, opener_, client_);
   toolbar_->setAccessibleName(QStringLiteral("Panel nástrojů"));
   tabs_ = new FileTab(client_);
   text_ = new TextBox(client_);
@@ -108,7 +111,7 @@ void MainWindow::FollowDocuments() {
   editor_.documents.on_title = [this] { setWindowTitle(PlainTitle(editor_.documents.Title())); };
   editor_.documents.on_face = [this](int tab) { tabs_->SetFace(tab, editor_.documents.Face(tab)); };
   editor_.documents.on_selected = [this](int tab) { tabs_->setCurrentIndex(tab - 1); };
-  editor_.opener.on_recent_files = [this] { ShowRecentFiles(); };
+  opener_.on_recent_files = [this] { ShowRecentFiles(); };
   editor_.documents.on_title();
 }
 
@@ -268,7 +271,7 @@ void MainWindow::SetEditorFont(const std::string& name) {
   SetBoxFont(font);
 }
 
-void MainWindow::SetEditorFontSize(int size) {
+void MainWindow::ApplyEditorFontSize(int size) {
   QFont font = text_->font();
   font.setPointSize(size);
   SetBoxFont(font);
@@ -362,7 +365,7 @@ void MainWindow::OpenDropped(const std::string& path) {
     return;
   }
   if (editor_.platform.Message(MessageType::kYesNoWarning, "Opravdu otevřít soubor ?", "Soubor") == Answer::kYes)
-    editor_.opener.OpenPath(path);
+    opener_.OpenPath(path);
 }
 
 void MainWindow::changeEvent(QEvent* event) {

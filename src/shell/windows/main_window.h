@@ -8,9 +8,12 @@
 #include <QTimer>
 #include <functional>
 
+#include "files/open.h"
 #include "platform/qt/controls/text_box.h"
+#include "platform/twips.h"
 #include "shell/editor.h"
 #include "shell/main_view.h"
+#include "shell/window_geometry.h"
 #include "shell/windows/file_tab.h"
 #include "shell/windows/main_toolbar.h"
 #include "shell/windows/menu_bar.h"
@@ -22,7 +25,7 @@ class MainWindow : public QMainWindow, public MainView {
   Q_OBJECT
 
  public:
-  explicit MainWindow(Editor& editor);
+  MainWindow(Editor& editor, Opener& opener);
 
   [[nodiscard]] TextBox& Text() { return *text_; }
   [[nodiscard]] MenuBar& Menus() { return *menus_; }
@@ -58,7 +61,6 @@ class MainWindow : public QMainWindow, public MainView {
   void MoveTo(const TwipsRect& place) override;
   void SetEditorColors(Color fore, Color back) override;
   void SetEditorFont(const std::string& name) override;
-  void SetEditorFontSize(int size) override;
   void SetEditorBold(bool bold) override;
   void SetEditorItalic(bool italic) override;
   void MarkBold(bool bold) override;
@@ -73,6 +75,7 @@ class MainWindow : public QMainWindow, public MainView {
   void ShowAccessory(StartMode mode) override;
 
  protected:
+  void ApplyEditorFontSize(int size) override;
   void closeEvent(QCloseEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
@@ -95,6 +98,7 @@ class MainWindow : public QMainWindow, public MainView {
   [[nodiscard]] LayoutInput Measures() const;
 
   Editor& editor_;
+  Opener& opener_;
   TextBuffer nothing_;  // what the box shows while the text is hidden
   QWidget* client_ = nullptr;
   MenuBar* menus_ = nullptr;

@@ -21,8 +21,9 @@ class MenuBar : public QMenuBar {
  public:
   explicit MenuBar(const Commands& commands, QWidget* parent = nullptr);
 
-  // The action of an item, the menu's own for a submenu. The name has to exist.
-  [[nodiscard]] QAction* Action(std::string_view name) const { return actions_.find(name)->second; }
+  // The action of an item, the menu's own for a submenu. A name that doesn't exist throws std::out_of_range.
+  [[nodiscard]] QAction* Action(std::string_view name) const { return actions_.at(std::string(name)); }
+  // Null for an item that is none.
   [[nodiscard]] QMenu* Submenu(std::string_view name) const { return Action(name)->menu(); }
 
   // Enables every item that has a command or a menu by now.

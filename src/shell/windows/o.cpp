@@ -1,6 +1,7 @@
 #include "shell/windows/o.h"
 
 #include "platform/qt/convert.h"
+#include "shell/common.h"
 #include "shell/release_notes.h"
 #include "ui_o.h"
 

@@ -9,9 +9,11 @@
 #include <string_view>
 #include <vector>
 
+#include "files/files.h"
+#include "platform/color.h"
 #include "platform/platform.h"
+#include "platform/qt/controls/file_browser.h"
 #include "shell/editor.h"
-#include "shell/session.h"
 #include "shell/windows/main_window.h"
 #include "shell/windows/window_registry.h"
 
@@ -24,22 +26,45 @@ using StandAlones = std::map<StartMode, std::function<void()>>;
 // UTF-8, or "" where there was nothing to keep.
 using Keepers = std::vector<std::function<std::string()>>;
 
+// The folder browsers of the dialogs that pick files, each made when it is asked for.
+using FilePickers = std::vector<std::function<FolderBrowser()>>;
+
+// What the program offers its windows beside what it is made of.
+struct Doors {
+  std::function<void()> store_settings;  // without the window's state
+  std::function<StartMode()> mode;
+  std::function<bool()> closed;  // the person has let the program end, and what is stored is final
+  // Shows a file in the internal browser; the path is UTF-8, an empty one does nothing. Set by the browser.
+  std::function<void(const std::string& path)> show_in_browser;
+  // Asks for a colour, beginning with the given one. Set by the colour dialog.
+  std::function<Color(Color)> pick_color;
+};
+
 struct ProgramParts {
   Platform& platform;
   Editor& editor;
+  Files& files;
   MainWindow& main;
-  Session& session;
   WindowRegistry& windows;
   StandAlones& stand_alones;
-  // Shows a file in the internal browser; the path is UTF-8, an empty one does nothing. Set by the browser.
-  std::function<void(const std::string& path)>& show_in_browser;
   Keepers& keepers;
+  FilePickers& file_pickers;
+  Doors& doors;
 
-  // The same for windows, which may be made before the browser has set it.
+  // The doors for windows, which may be made before somebody has set them.
   [[nodiscard]] std::function<void(const std::string& path)> BrowserDoor() const {
-    return [&show = show_in_browser](const std::string& path) {
+    return [&show = doors.show_in_browser](const std::string& path) {
       if (show) show(path);
     };
+  }
+  [[nodiscard]] std::function<Color(Color)> ColorDoor() const {
+    return [&pick = doors.pick_color](Color color) { return pick ? pick(color) : color; };
+  }
+
+  // The window is one that picks files: its lists `Drive1` and `Dir1` follow the working folders.
+  template <class Window>
+  void AddFilePicker() const {
+    file_pickers.emplace_back([&shown = windows] { return FolderBrowserOf(shown.Get<Window>()); });
   }
 
   // The commands of these names show the window, as far as it isn't on show already.

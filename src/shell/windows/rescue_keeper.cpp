@@ -1,107 +1,174 @@
 #include "shell/windows/rescue_keeper.h"
 
-#include <QCoreApplication>
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
-#include "shell/common.h"
+#include "platform/paths.h"
+#include "shell/rescued_documents.h"
+#include "shell/temp_file.h"
 
 namespace pelmar {
 namespace {
 
 // Leaves time for the write within the two seconds that are promised.
 constexpr int kDelay = 1000;
+// A write that failed is tried again after pauses that double from kDelay up to this.
+constexpr int kLongestPause = 60'000;
 
 }  // namespace
 
-RescueContent ModifiedDocuments(const Documents& documents) {
-  return {kDocumentsRescue,
-          [&documents] {
-            const RescueRecord record = UnsavedDocuments(documents);
-            return record.documents.empty() ? std::string() : RescueBytes(record);
-          },
-          [&documents] { return ReadableRescue(UnsavedDocuments(documents).documents); }};
+RescueContent ModifiedDocuments(Documents& documents) {
+  return {.kind = kDocumentsRescue,
+          .unsaved = [&documents] { return UnsavedDocuments(documents); },
+          .readable = ReadableDocuments,
+          .known = [](const RescuedText&) { return false; },
+          .bring_back = [&documents](const auto& records) { return BringBackDocuments(documents, records); },
+          .found = "Program minule neskončil řádně. Zachované neuložené dokumenty: ",
+          .wanted = "Vrátit je do editoru ?",
+          .rest_name = "rescued.txt",
+          .rest_told = "Všechny dokumenty se nevešly do záložek. Zbylé jsou v souboru"};
 }
 
 RescueKeeper::RescueKeeper(RescueContent content, Platform& platform)
     : content_(std::move(content)),
       platform_(platform),
-      store_(platform.InstallFolder(), content_.prefix,
-             [&platform](const std::string& path, std::string_view bytes) { return platform.WriteFile(path, bytes); }) {
+      store_(platform.InstallFolder(), content_.kind.prefix,
+             [&platform](const std::string& path, std::string_view bytes) { return platform.WriteFile(path, bytes); }),
+      pause_(kDelay) {
   writer_.setMaxThreadCount(1);
   timer_.setSingleShot(true);
-  timer_.setInterval(kDelay);
   connect(&timer_, &QTimer::timeout, this, &RescueKeeper::Keep);
 }
 
 RescueKeeper::~RescueKeeper() { writer_.waitForDone(); }
 
 void RescueKeeper::Touch() {
-  if (!timer_.isActive()) timer_.start();
+  pause_ = kDelay;
+  if (!timer_.isActive() || timer_.remainingTime() > kDelay) timer_.start(kDelay);
 }
 
 void RescueKeeper::Keep() {
-  std::string bytes = content_.bytes();
-  if (bytes == kept_) return;
-  kept_ = bytes;
-  writer_.start([this, bytes = std::move(bytes)] { store_.Keep(bytes); });
+  RescueRecord now = content_.unsaved();
+  if (given_ == now && owed_.files.empty()) return;
+  given_ = now;
+  writer_.start([this, write = ++writes_, now = std::move(now)] {
+    const int error = store_.Keep(RescueBytes(content_.kind, now));
+    // Only the last write tells how things stand.
+    const auto wrote = [this, write, error] {
+      if (write != writes_) return;
+      Wrote(error);
+      TellRest();
+    };
+    QMetaObject::invokeMethod(this, wrote, Qt::QueuedConnection);
+  });
+}
+
+int RescueKeeper::Write() {
+  writer_.waitForDone();
+  timer_.stop();
+  ++writes_;
+  given_ = content_.unsaved();
+  const int error = store_.Keep(RescueBytes(content_.kind, *given_));
+  Wrote(error);
+  return error;
+}
+
+void RescueKeeper::Wrote(int error) {
+  if (error == 0) {
+    Settle();
+  } else {
+    given_.reset();
+  }
+  TellFailure(error);
+  if (error == 0 && owed_.files.empty()) {
+    pause_ = kDelay;
+  } else if (!timer_.isActive()) {
+    timer_.start(pause_);
+    pause_ = std::min(2 * pause_, kLongestPause);
+  }
+}
+
+void RescueKeeper::TellFailure(int error) {
+  if (std::exchange(failure_, error) != error && on_failure) on_failure(error);
+}
+
+// What came back has just been written; the old files go as soon as the rest lies on the disk as well.
+void RescueKeeper::Settle() {
+  if (!owed_.rest.empty()) {
+    if (platform_.WriteFile(JoinPath(platform_.InstallFolder(), content_.rest_name), owed_.rest) != 0) return;
+    owed_.rest.clear();
+  }
+  for (AbandonedRescue& rescue : owed_.files) Discard(rescue);
+  owed_.files.clear();
 }
 
 std::string RescueKeeper::KeepNow() {
-  timer_.stop();
-  writer_.waitForDone();
-  kept_ = content_.bytes();
-  const int error = store_.Keep(kept_);
-  if (kept_.empty()) return {};
-  if (error == 0) return store_.Path();
-  const std::string name =
-      "pelmar-" + std::string(content_.prefix) + std::to_string(QCoreApplication::applicationPid()) + ".txt";
-  const std::string readable = JoinPath(platform_.TempFolder(), name);
-  const bool kept = platform_.WriteFile(readable, content_.readable()) == 0;
-  return kept ? readable : std::string();
+  const int error = Write();
+  if (error == 0) return given_->texts.empty() ? std::string() : store_.Path();
+  const std::string readable = content_.readable(content_.unsaved().texts);
+  if (readable.empty()) return {};
+  const TempFile file = WriteTempFile(platform_, "pelmar-" + std::string(content_.kind.prefix), ".txt", readable);
+  return file.error == 0 ? file.path : std::string();
 }
 
 void RescueKeeper::End() {
-  timer_.stop();
   writer_.waitForDone();
-  kept_.clear();
+  timer_.stop();
+  ++writes_;
+  given_.reset();
   store_.Keep({});
+  Settle();
+  TellFailure(0);
 }
 
-bool LeaveReadable(Platform& platform, const RescueRest& rest) {
-  if (rest.text.empty()) return true;
-  const std::string path = JoinPath(platform.InstallFolder(), rest.file_name);
-  if (platform.WriteFile(path, rest.text) != 0) return false;
-  if (!rest.told.empty()) platform.Message(MessageType::kOkInfo, rest.told + "\r\n" + path, "Záchrana");
-  return true;
+// A file that can't be read, or isn't whole, stays where it is.
+RescueKeeper::Found RescueKeeper::FindOffers() {
+  Found found;
+  std::vector<RescuedText> seen;
+  // A copy that died between keeping what it had brought back and letting go of the old file leaves a text twice.
+  const auto superfluous = [&](const RescuedText& text) {
+    if (content_.known(text) || std::ranges::find(seen, text) != seen.end()) return true;
+    seen.push_back(text);
+    return false;
+  };
+  for (AbandonedRescue& rescue : FindAbandoned(platform_.InstallFolder(), content_.kind.prefix)) {
+    auto record = ReadRescue(content_.kind, platform_.ReadFile(rescue.path, std::nullopt).bytes);
+    if (!record) continue;
+    std::erase_if(record->texts, superfluous);
+    if (!record->texts.empty()) found.records.push_back(std::move(*record));
+    found.files.push_back(std::move(rescue));
+  }
+  return found;
 }
 
-void OfferAbandoned(Documents& documents, Platform& platform) {
-  std::vector<AbandonedRescue> found = FindAbandoned(platform.InstallFolder(), kDocumentsRescue);
-  std::vector<RescueRecord> records;
-  std::size_t count = 0;
-  for (const AbandonedRescue& rescue : found) {
-    if (auto record = ReadRescue(platform.ReadFile(rescue.path, std::nullopt).bytes)) {
-      count += record->documents.size();
-      records.push_back(std::move(*record));
-    }
+void RescueKeeper::Offer() {
+  Found found = FindOffers();
+  std::vector<RescuedText> left;
+  for (const RescueRecord& record : found.records) left.insert(left.end(), record.texts.begin(), record.texts.end());
+  bool wanted = false;
+  if (!left.empty()) {
+    const std::string question =
+        std::string(content_.found) + std::to_string(left.size()) + ".\r\n" + std::string(content_.wanted);
+    wanted = platform_.Message(MessageType::kYesNoWarning, question, "Záchrana") == Answer::kYes;
   }
-  if (count == 0) return;
-  const std::string question =
-      "Program minule neskončil řádně. Zachované neuložené dokumenty: " + std::to_string(count) +
-      ".\r\nVrátit je do editoru ?";
-  const bool wanted = platform.Message(MessageType::kYesNoWarning, question, "Záchrana") == Answer::kYes;
-  std::vector<RescuedDocument> left;
-  if (wanted) {
-    left = BringBack(documents, records);
-  } else {
-    for (const RescueRecord& record : records)
-      left.insert(left.end(), record.documents.begin(), record.documents.end());
-  }
-  // What found no tab, or wasn't wanted now, stays readable in a text file until the next time.
-  if (!LeaveReadable(platform, {"rescued.txt", ReadableRescue(left),
-                                wanted ? "Všechny dokumenty se nevešly do záložek. Zbylé jsou v souboru" : ""}))
-    return;
-  for (AbandonedRescue& rescue : found) Discard(rescue);
+  if (wanted) left = content_.bring_back(found.records);
+  // Only now: what is written while the question stands holds nothing of these files yet.
+  std::ranges::move(found.files, std::back_inserter(owed_.files));
+  // What found no place, or wasn't wanted now, stays readable in a text file until the next time.
+  owed_.rest += content_.readable(left);
+  owed_.tell = owed_.tell || (wanted && !left.empty());
+  if (owed_.files.empty()) return;
+  Write();
+  TellRest();
+}
+
+void RescueKeeper::TellRest() {
+  if (!owed_.tell || !owed_.files.empty()) return;
+  owed_.tell = false;
+  platform_.Message(MessageType::kOkInfo,
+                    std::string(content_.rest_told) + "\r\n" + JoinPath(platform_.InstallFolder(), content_.rest_name),
+                    "Záchrana");
 }
 
 }  // namespace pelmar

@@ -1,11 +1,13 @@
 // Keeps what isn't saved yet, the documents or the notes, in this copy's rescue file while the program runs: within two
-// seconds of a change, off the typing path, in a thread that does nothing else.
+// seconds of a change, off the typing path, in a thread that does nothing else. It also brings back what copies that
+// died have left, and lets go of their files only when all of it lies on the disk again.
 #pragma once
 
 #include <QObject>
 #include <QThreadPool>
 #include <QTimer>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,14 +19,23 @@
 
 namespace pelmar {
 
-// What is kept. Both functions look at the state of now.
+// What is kept, and how it comes back. The functions work on the state of now.
 struct RescueContent {
-  std::string_view prefix;                // of the rescue file's name
-  std::function<std::string()> bytes;     // "" where nothing has to be kept
-  std::function<std::string()> readable;  // the same for a person's eyes
+  RescueKind kind;
+  std::function<RescueRecord()> unsaved;
+  // For a person's eyes.
+  std::function<std::string(const std::vector<RescuedText>&)> readable;
+  // Nothing is lost where such a text doesn't come back.
+  std::function<bool(const RescuedText&)> known;
+  // Returns what found no place.
+  std::function<std::vector<RescuedText>(const std::vector<RescueRecord>&)> bring_back;
+  // The question's words before and behind the number of texts, UTF-8.
+  std::string_view found, wanted;
+  // Where what doesn't come back stays readable, and what a person is told of that.
+  std::string_view rest_name, rest_told;
 };
 
-RescueContent ModifiedDocuments(const Documents& documents);
+RescueContent ModifiedDocuments(Documents& documents);
 
 class RescueKeeper : public QObject {
   Q_OBJECT
@@ -38,30 +49,44 @@ class RescueKeeper : public QObject {
   // Writes at once and in this thread; where the install folder refuses, a readable file in the temporary folder.
   // Returns where it lies, "" where none had to be kept or none could be.
   std::string KeepNow();
+  // Asks once about what copies that died left behind in the install folder; nothing where there is nothing.
+  void Offer();
   // An ordinary end: nothing is left behind.
   void End();
 
+  // Told when writing begins to fail, with the errno, and with 0 when it works again.
+  std::function<void(int error)> on_failure;
+
  private:
+  // Old rescue files whose texts came back or were refused, until their content is safe elsewhere.
+  struct Owed {
+    std::vector<AbandonedRescue> files;
+    std::string rest;   // is to stay readable
+    bool tell = false;  // of that, once it is
+  };
+  struct Found {
+    std::vector<AbandonedRescue> files;
+    std::vector<RescueRecord> records;
+  };
+
   void Keep();
+  int Write();
+  void Wrote(int error);
+  void Settle();
+  void TellFailure(int error);
+  void TellRest();
+  Found FindOffers();
 
   RescueContent content_;
   Platform& platform_;
   RescueStore store_;
   QTimer timer_;
   QThreadPool writer_;
-  std::string kept_;
+  std::optional<RescueRecord> given_;  // what the last write was given; nothing where it failed
+  int writes_ = 0;
+  int pause_;
+  int failure_ = 0;
+  Owed owed_;
 };
-
-// What is left of a rescue: it stays readable in a file of the install folder, and the person is told where it lies,
-// unless `told` is empty. False where it can't be written; then the rescue file must stay.
-struct RescueRest {
-  std::string_view file_name;
-  std::string text;  // "" where nothing is left
-  std::string told;  // UTF-8, before the path
-};
-bool LeaveReadable(Platform& platform, const RescueRest& rest);
-
-// Offers back, once, what copies that died left behind in the install folder. Nothing to ask where there is nothing.
-void OfferAbandoned(Documents& documents, Platform& platform);
 
 }  // namespace pelmar

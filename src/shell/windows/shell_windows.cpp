@@ -1,6 +1,5 @@
 #include "shell/windows/shell_windows.h"
 
-#include "files/windows/otevri.h"
 #include "shell/windows/config.h"
 #include "shell/windows/customize_toolbar.h"
 #include "shell/windows/hlp.h"
@@ -16,7 +15,7 @@ void AddShellWindows(const ProgramParts& parts) {
   WindowRegistry& windows = parts.windows;
   windows.Register<Config>([parts] {
     return std::make_unique<Config>(
-        parts.editor.settings, parts.platform, [parts] { parts.session.StoreSettings(false); }, &parts.main);
+        parts.editor.settings, parts.platform, [parts] { parts.doors.store_settings(); }, &parts.main);
   });
   windows.Register<Pass>([parts] {
     return std::make_unique<Pass>(
@@ -25,7 +24,7 @@ void AddShellWindows(const ProgramParts& parts) {
   windows.Register<Start>([parts] {
     return std::make_unique<Start>(
         parts.editor.settings,
-        Start::Doors{[parts] { parts.main.ShowMain(); }, [parts] { parts.windows.Get<Otevri>().Present(); },
+        Start::Doors{[parts] { parts.main.ShowMain(); }, [parts] { parts.editor.commands.Run("mnuopen"); },
                      [parts] { parts.windows.Get<Config>().Run(); }});
   });
   windows.Register<Hlp>([parts] {

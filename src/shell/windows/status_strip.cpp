@@ -1,8 +1,10 @@
 #include "shell/windows/status_strip.h"
 
 #include <QMouseEvent>
+#include <algorithm>
 
 #include "platform/qt/convert.h"
+#include "platform/twips.h"
 #include "shell/window_geometry.h"
 
 namespace pelmar {
@@ -43,7 +45,7 @@ void StatusPanel::mouseDoubleClickEvent(QMouseEvent* event) {
   ElidedLabel::mouseDoubleClickEvent(event);
 }
 
-StatusStrip::StatusStrip(QWidget* parent) : QStatusBar(parent) {
+StatusStrip::StatusStrip(QWidget* parent) : QStatusBar(parent), notice_(new ElidedLabel(this)) {
   setObjectName(QStringLiteral("Bar1"));
   setSizeGripEnabled(false);
   for (int number = 1; number <= kPanelCount; ++number) {
@@ -57,6 +59,15 @@ StatusStrip::StatusStrip(QWidget* parent) : QStatusBar(parent) {
   }
   for (const std::size_t at : {4u, 5u, 6u}) panels_[at]->setText(kTips[at].toString());
   Show(KeyStates{});
+  notice_->setObjectName(QStringLiteral("Notice"));
+  notice_->setElideMode(Qt::ElideRight);
+  notice_->setIndent(kTextMargin);
+  notice_->setFrameStyle(QFrame::StyledPanel | QFrame::Raised);
+  notice_->setAutoFillBackground(true);
+  notice_->hide();
+  notice_->raise();
+  unkept_ = new UnkeptLabel(QStringLiteral("Neuložená práce se teď nezachovává !"), this);
+  unkept_->hide();
 }
 
 void StatusStrip::Show(const PanelTexts& texts) {
@@ -80,6 +91,19 @@ void StatusStrip::ShowKey(std::size_t at, bool on) {
   panel.setAccessibleName(kTips[at].toString() + (on ? QStringLiteral(" zapnuto") : QStringLiteral(" vypnuto")));
 }
 
+void StatusStrip::SetNotice(const QString& text) {
+  if (text == notice_->text()) return;
+  notice_->setText(text);
+  notice_->setToolTip(text);
+  notice_->setVisible(!text.isEmpty());
+  PlaceNotice();
+}
+
+void StatusStrip::ShowUnkept(int error) {
+  unkept_->SetError(error);
+  unkept_->setVisible(error != 0);
+}
+
 void StatusStrip::SetWidth(int number, int twips) {
   int& width = widths_[static_cast<std::size_t>(number - 1)];
   if (width == twips) return;
@@ -101,6 +125,21 @@ void StatusStrip::Place() {
     panels_[i]->setGeometry(left, kGap, std::max(0, width - kGap), height() - 2 * kGap);
     left += width;
   }
+  // Where the window is too narrow for it there, the warning stands at the right edge.
+  const int warning = std::min(unkept_->sizeHint().width(), width());
+  const int beside = std::min(panels_[3]->x(), width() - warning);
+  unkept_->setGeometry(beside, kGap, warning, height() - 2 * kGap);
+  PlaceNotice();
+}
+
+void StatusStrip::PlaceNotice() {
+  const QRect content = panels_[3]->geometry();
+  const int wanted = notice_->fontMetrics().horizontalAdvance(notice_->text()) + 4 * kTextMargin;
+  const int end = std::min(content.right() + 1, width() - kGap);
+  int begin = kGap;
+  for (const std::size_t at : {1u, 2u, 3u})
+    if (panels_[at]->x() <= end - wanted) begin = panels_[at]->x();
+  notice_->setGeometry(begin, kGap, end - begin, content.height());
 }
 
 }  // namespace pelmar

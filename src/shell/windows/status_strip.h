@@ -8,6 +8,8 @@
 #include "platform/platform.h"
 #include "platform/qt/controls/elided_label.h"
 #include "shell/status.h"
+#include "shell/window_geometry.h"
+#include "shell/windows/unkept_label.h"
 
 namespace pelmar {
 
@@ -41,6 +43,12 @@ class StatusStrip : public QStatusBar {
   [[nodiscard]] StatusPanel* Panel(int number) const { return panels_[static_cast<std::size_t>(number - 1)]; }
   void Show(const PanelTexts& texts);
   void Show(const KeyStates& keys);
+  // With an errno, the warning lies over the panels from the fourth on, which go on beneath; 0 takes it away.
+  void ShowUnkept(int error);
+
+  // A line over the panels for as long as it isn't empty; what they show stays as it is. From the fourth to the left,
+  // it covers as many as it needs.
+  void SetNotice(const QString& text);
 
   // Widths in twips, as the layout counts them.
   [[nodiscard]] std::array<int, kPanelCount> Widths() const { return widths_; }
@@ -54,9 +62,12 @@ class StatusStrip : public QStatusBar {
  private:
   void Place();
   void ShowKey(std::size_t at, bool on);
+  void PlaceNotice();
 
   std::array<StatusPanel*, kPanelCount> panels_{};
+  UnkeptLabel* unkept_ = nullptr;
   std::array<int, kPanelCount> widths_{};
+  ElidedLabel* notice_;
 };
 
 }  // namespace pelmar

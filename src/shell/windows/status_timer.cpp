@@ -3,6 +3,7 @@
 #include <QApplication>
 
 #include "platform/qt/outer_geometry.h"
+#include "platform/twips.h"
 #include "shell/status.h"
 #include "shell/windows/main_window.h"
 
@@ -10,6 +11,7 @@ namespace pelmar {
 namespace {
 
 constexpr int kInterval = 500;
+constexpr QStringView kFilesStuck = u"Soubory nelze otevírat ani ukládat, pomůže jen nový start programu";
 
 }  // namespace
 
@@ -42,6 +44,8 @@ void StatusTimer::Tick() {
   bar.Show(ComputePanels(editor_.text, editor_.settings.LineCounting,
                          has_clipboard ? std::optional<std::string_view>(clipboard) : std::nullopt));
   bar.Show(editor_.platform.Keys());
+  // The main window isn't active while an operation is at work on a file: this one was abandoned.
+  bar.SetNotice(editor_.file_number.IsOpen() ? kFilesStuck.toString() : QString());
   window_.WidenContentPanel();
 }
 

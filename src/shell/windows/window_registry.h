@@ -6,6 +6,8 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <stdexcept>
+#include <string>
 #include <typeindex>
 
 namespace pelmar {
@@ -13,17 +15,19 @@ namespace pelmar {
 class WindowRegistry {
  public:
   // `make` returns a new window; the registry owns it. It may return none where a module is missing that the window
-  // needs; who calls Get then has made sure that it isn't.
+  // needs, which then can't be got.
   template <class Window>
   void Register(std::function<std::unique_ptr<Window>()> make) {
     entries_[typeid(Window)].make = [make = std::move(make)]() -> std::unique_ptr<QWidget> { return make(); };
   }
 
-  // The window, made now where it didn't exist. It has to be registered.
+  // The window, made now where it didn't exist. Throws std::out_of_range for one that isn't registered, and
+  // std::logic_error for one that can't be made.
   template <class Window>
   Window& Get() {
     Entry& entry = entries_.at(typeid(Window));
     if (!entry.window) entry.window = entry.make();
+    if (!entry.window) throw std::logic_error(std::string("no window of the type ") + typeid(Window).name());
     return static_cast<Window&>(*entry.window);
   }
 

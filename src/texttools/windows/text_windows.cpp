@@ -1,6 +1,5 @@
 #include "texttools/windows/text_windows.h"
 
-#include "accessories/windows/color_dialog.h"
 #include "shell/windows/pos.h"
 #include "shell/windows/program_parts.h"
 #include "texttools/appearance.h"
@@ -19,21 +18,25 @@ void AddTextWindows(const ProgramParts& parts) {
   windows.Register<Zamena>([parts, &text] { return std::make_unique<Zamena>(text, parts.platform, &parts.main); });
   windows.Register<Vyber>([parts, &text] { return std::make_unique<Vyber>(text, &parts.main); });
   windows.Register<Visual>([parts] {
-    return std::make_unique<Visual>(
-        parts.main, parts.session, parts.editor.settings,
-        Visual::Doors{ColorPicker(parts.windows), [parts] { parts.windows.Anew<Pos>().Present(); }}, &parts.main);
+    return std::make_unique<Visual>(parts.main, parts.editor.settings,
+                                    Visual::Doors{parts.ColorDoor(), [parts] { parts.windows.Anew<Pos>().Present(); }},
+                                    &parts.main);
   });
   parts.ShowBy<Hledani>({"mnufind", "Find"});
   parts.ShowBy<Zamena>({"mnuchange"});
-  parts.editor.commands.Add("mnupresnvyb", [&windows] { windows.Anew<Vyber>().Present(); });
+  parts.editor.commands.Add("mnupresnvyb", [&windows] {
+    Vyber& window = windows.Anew<Vyber>();
+    if (window.isVisible()) window.Load();  // the selection may be another one by now
+    window.Present();
+  });
   parts.editor.commands.Add("mnumore", [&windows] { windows.Anew<Visual>().Present(); });
 
   parts.editor.commands.Add("mnu_format", [parts, &text] { Formatuj(text, parts.platform, &parts.main).exec(); });
-  AddAppearanceCommands(parts.editor, parts.main, parts.session);
+  AddAppearanceCommands(parts.editor, parts.main);
   parts.main.on_line_counting = [&windows] {
     if (auto* visual = windows.Find<Visual>()) visual->FollowLineCounting();
   };
-  parts.session.on_font_size = [&windows] {
+  parts.main.on_font_size = [&windows] {
     if (auto* visual = windows.Find<Visual>()) visual->FollowFontSize();
   };
 }

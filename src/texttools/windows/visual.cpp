@@ -13,10 +13,9 @@ constexpr int kDefaultSnap = 240;  // twips
 
 }  // namespace
 
-Visual::Visual(MainView& view, Session& session, SettingsRecord& settings, Doors doors, QWidget* parent)
+Visual::Visual(MainView& view, SettingsRecord& settings, Doors doors, QWidget* parent)
     : DialogWindow(parent),
       view_(view),
-      session_(session),
       settings_(settings),
       doors_(std::move(doors)),
       ui_(std::make_unique<Ui::Visual>()) {
@@ -30,7 +29,7 @@ Visual::Visual(MainView& view, Session& session, SettingsRecord& settings, Doors
   connect(ui_->Command1, &QPushButton::clicked, this, &Visual::Command1_Click);
   connect(ui_->Command2, &QPushButton::clicked, this, &Visual::hide);
   connect(ui_->Command3, &QPushButton::clicked, this, &Visual::Command3_Click);
-  connect(ui_->Command4, &QPushButton::clicked, this, [this] { ApplyDosLook(view_, session_); });
+  connect(ui_->Command4, &QPushButton::clicked, this, [this] { ApplyDosLook(view_); });
   connect(ui_->Command7, &QPushButton::clicked, this, [this] { doors_.show_pos(); });
 }
 
@@ -47,6 +46,7 @@ void Visual::ConnectPreview() {
     connect(option, &QRadioButton::toggled, this, [this, family = Utf8ToQString(name)](bool on) {
       if (on) SetPreviewFont([&family](QFont& font) { font.setFamily(family); });
     });
+  ui_->Combo1->setCompleter(nullptr);  // it would make "24" of a typed "2"
   connect(ui_->Combo1, &QComboBox::editTextChanged, this, &Visual::Combo1_Change);
   connect(ui_->Command8, &QPushButton::clicked, this,
           [this] { ui_->Label1->setTextColor(ColorToQt(doors_.pick_color(ColorFromQt(ui_->Label1->TextColor())))); });
@@ -78,7 +78,9 @@ void Visual::Load() {
 
 void Visual::FollowFontSize() {
   // A size that isn't in the list selects nothing.
-  ui_->Combo1->setCurrentIndex(ui_->Combo1->findText(QString::number(view_.Look().font_size)));
+  const int row = ui_->Combo1->findText(QString::number(view_.Look().font_size));
+  ui_->Combo1->setCurrentIndex(row);
+  if (row >= 0) Combo1_Change();  // no event tells the preview of the size that the box shows already
 }
 
 void Visual::FollowLineCounting() { ui_->Check1->setChecked(settings_.LineCounting); }
@@ -119,7 +121,7 @@ void Visual::Command1_Click() {
   if (ui_->Option1->isChecked()) view_.SetEditorFont(std::string(kSansSerif));
   if (ui_->Option2->isChecked()) view_.SetEditorFont(std::string(kCourier));
   if (ui_->Option3->isChecked()) view_.SetEditorFont(std::string(kTerminal));
-  session_.SetEditorFontSize(NormalizeSize(TextFromQString(ui_->Combo1->currentText())).size);
+  view_.SetEditorFontSize(NormalizeSize(TextFromQString(ui_->Combo1->currentText())).size);
 }
 
 }  // namespace pelmar

@@ -5,7 +5,7 @@
 #include <memory>
 
 #include "platform/qt/controls/dialog_window.h"
-#include "shell/session.h"
+#include "shell/main_view.h"
 
 namespace Ui {
 class Visual;
@@ -21,7 +21,7 @@ class Visual : public DialogWindow {
     std::function<Color(Color)> pick_color;
     std::function<void()> show_pos;
   };
-  Visual(MainView& view, Session& session, SettingsRecord& settings, Doors doors, QWidget* parent);
+  Visual(MainView& view, SettingsRecord& settings, Doors doors, QWidget* parent);
   ~Visual() override;
 
   // The main text box took another size, or the status bar switched the counting.
@@ -41,7 +41,6 @@ class Visual : public DialogWindow {
   void Command3_Click();
 
   MainView& view_;
-  Session& session_;
   SettingsRecord& settings_;
   Doors doors_;
   std::unique_ptr<Ui::Visual> ui_;

@@ -1,5 +1,5 @@
-// `Výběr`: the exact selection by two sliders. It reads the selection once, when it is made, so each opening takes a
-// new one.
+// `Výběr`: the exact selection by two sliders. It reads the selection when it is made and when it is told to, so each
+// opening takes a new one.
 #pragma once
 
 #include <memory>
@@ -22,8 +22,10 @@ class Vyber : public DialogWindow {
   Vyber(TextBuffer& document, QWidget* parent);
   ~Vyber() override;
 
- private:
+  // Takes the selection of now into the sliders, which keep it as it is.
   void Load();
+
+ private:
   void Change(QLabel* label, int value);
 
   TextBuffer& document_;

@@ -1,8 +1,8 @@
 #include "texttools/windows/zamena.h"
 
+#include "platform/qt/controls/field_helpers.h"
 #include "platform/qt/controls/list_rows.h"
 #include "platform/qt/convert.h"
-#include "texttools/windows/field_helpers.h"
 #include "ui_zamena.h"
 
 namespace pelmar {

@@ -11,7 +11,7 @@
 #include "accessories/windows/kalkul.h"
 #include "accessories/windows/prev.h"
 #include "platform/qt/controls/text_box.h"
-#include "shell/windows/program.h"
+#include "program/program.h"
 #include "support/scripted_platform.h"
 
 namespace pelmar {

@@ -3,7 +3,6 @@
 #include <QAction>
 #include <QDir>
 #include <QFile>
-#include <QRegularExpression>
 #include <QTabBar>
 #include <QTemporaryDir>
 #include <QTest>
@@ -14,6 +13,7 @@
 #include "platform/qt/controls/text_box.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/outer_geometry.h"
+#include "platform/twips.h"
 #include "support/plain_view.h"
 #include "support/scripted_platform.h"
 
@@ -129,69 +129,45 @@ TEST_F(PoznamkaTest, AnOverlongPageIsRefusedBeforeAnythingIsLost) {
   EXPECT_EQ(ReadNotes(File()).Page(1).size(), kLongestNote);
 }
 
-TEST_F(PoznamkaTest, WhatIsNotStoredIsKeptAndGoneAfterTheClose) {
-  Load().Present();
-  notes->Text().SetText("typed");
-  ASSERT_TRUE(QTest::qWaitFor([&] { return !Locks().isEmpty(); }, 2000));
-  EXPECT_EQ(notes->KeepNow(), RescuePath());  // behind the writer's thread
-  EXPECT_EQ(ReadNotesRescue(platform.files[RescuePath()]), (UnsavedNotes{1, {{1, "", "typed"}}}));
-  notes->close();
-  EXPECT_EQ(Locks(), QStringList());
-}
-
-TEST_F(PoznamkaTest, AnEndWithoutACloseLeavesItForTheNextTime) {
+TEST_F(PoznamkaTest, WhatIsNotStoredIsKeptUntilTheClose) {
   Load();
   notes->Text().SetText("typed");
-  notes.reset();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !Locks().isEmpty(); }, 2000));
+  notes.reset();  // an end of the program without a close
   EXPECT_EQ(File(), "");
-  EXPECT_EQ(ReadNotesRescue(platform.files[RescuePath()])->notes[0].text, "typed");
+  EXPECT_EQ(ReadRescue(kNotesRescue, platform.files[RescuePath()]), (RescueRecord{1, {{1, "", "typed"}}}));
+  platform.answers = {Answer::kYes};
+  Load().Present();
+  QFile(QString::fromStdString(RescuePath())).open(QIODevice::WriteOnly);  // what only the platform has
+  notes->OfferRescued();
+  notes->close();
+  EXPECT_EQ(Locks(), QStringList());
+  EXPECT_EQ(File(), NotesBytes({{"typed"}}));
 }
 
 // Two copies that died: real files tell that they are there, the bytes are the platform's.
-struct NotesOffer : PoznamkaTest {
-  NotesOffer() {
-    Leave("notes-rescue-1-1.pelmar", {2, {{1, "first", "FIRST"}, {2, "", "SECOND"}}});
-    Leave("notes-rescue-2-1.pelmar", {1, {{1, "first", "another first"}}});
-    File() = NotesBytes({{"first"}});
-    Load().Present();
+TEST_F(PoznamkaTest, ADeadCopysPagesComeBackButStayUnstored) {
+  const std::pair<const char*, RescueRecord> dead[] = {
+      {"notes-rescue-1-1.pelmar", {2, {{1, "first", "FIRST"}, {2, "", "SECOND"}}}},
+      {"notes-rescue-2-1.pelmar", {1, {{1, "first", "another first"}, {3, "", ""}}}}};  // the last is known
+  for (const auto& [name, record] : dead) {
+    QFile(folder.filePath(QLatin1String(name))).open(QIODevice::WriteOnly);
+    platform.files[platform.install_folder + name] = RescueBytes(kNotesRescue, record);
   }
-  void Leave(const std::string& name, const UnsavedNotes& unsaved) {
-    QFile file(folder.filePath(Utf8ToQString(name)));
-    file.open(QIODevice::WriteOnly);
-    platform.files[platform.install_folder + name] = NotesRescueBytes(unsaved);
-  }
-  [[nodiscard]] qsizetype Left() const {
-    return Locks().filter(QRegularExpression(QStringLiteral("-1.pelmar$"))).size();
-  }
-};
-
-TEST_F(NotesOffer, YesBringsThePagesBackButStoresNothing) {
+  File() = NotesBytes({{"first"}});
+  Load().Present();
   platform.answers = {Answer::kYes};
   notes->OfferRescued();
-  EXPECT_EQ(Left(), 0);
+  EXPECT_EQ(
+      platform.calls[0],
+      "message 52 \"Poznámky minule nebyly uloženy. Zachované stránky: 3.\r\nVrátit je do poznámek ?\" \"Záchrana\"");
+  EXPECT_EQ(Locks().size(), 2);  // this copy's own, with its lock
   EXPECT_EQ(Tabs().currentIndex(), 1);
   EXPECT_EQ(notes->Text().Text(), "SECOND");
   EXPECT_EQ(File(), NotesBytes({{"first"}}));
-  EXPECT_EQ(ReadNotesRescue(platform.files[RescuePath()])->notes.size(), 2u);
   notes->OfferRescued();  // asked once
   notes->close();
   EXPECT_EQ(File(), NotesBytes({{"FIRST", "SECOND", "another first"}}));
-}
-
-TEST_F(NotesOffer, NoLeavesThemReadable) {
-  platform.answers = {Answer::kNo};
-  notes->OfferRescued();
-  EXPECT_EQ(Left(), 0);
-  EXPECT_EQ(notes->Text().Text(), "first");
-  EXPECT_EQ(platform.files[platform.install_folder + "notes-rescued.txt"],
-            "Pozn\xE1mka 1:\r\nFIRST\r\n\r\nPozn\xE1mka 2:\r\nSECOND\r\n\r\nPozn\xE1mka 1:\r\nanother first\r\n\r\n");
-}
-
-TEST_F(NotesOffer, WhatCantBeKeptElsewhereStays) {
-  platform.answers = {Answer::kNo};
-  platform.write_errors[platform.install_folder + "notes-rescued.txt"] = 28;
-  notes->OfferRescued();
-  EXPECT_EQ(Left(), 2);
 }
 
 TEST_F(PoznamkaTest, LaysItsControlsOut) {

@@ -17,7 +17,7 @@
 #include "platform/qt/controls/key_cap.h"
 #include "platform/qt/controls/text_box.h"
 #include "platform/qt/convert.h"
-#include "shell/windows/program.h"
+#include "program/program.h"
 #include "support/scripted_platform.h"
 #include "text/codepage.h"
 

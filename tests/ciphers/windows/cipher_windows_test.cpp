@@ -16,10 +16,10 @@
 #include "ciphers/xor_cipher.h"
 #include "platform/qt/controls/text_box.h"
 #include "platform/qt/convert.h"
-#include "shell/editor.h"
-#include "shell/windows/program.h"
+#include "program/program.h"
 #include "support/controls.h"
 #include "support/scripted_platform.h"
+#include "support/whole_editor.h"
 #include "text/codepage.h"
 
 namespace pelmar {
@@ -27,7 +27,7 @@ namespace {
 
 struct CipherWindowsTest : testing::Test {
   ScriptedPlatform platform;
-  Editor editor{platform};
+  WholeEditor editor{platform};
 
   void Document(std::string_view text) { editor.text.SetText(std::string(text)); }
   [[nodiscard]] const std::string& Document() const { return editor.text.Text(); }
@@ -119,6 +119,7 @@ TEST_F(ZaKodTest, CodeEightAsksAndMayEndTheRun) {
   Click(dialog, "Command1");
   EXPECT_EQ(Document(), text);
   EXPECT_EQ(LineText(dialog, "Txt"), "40");
+  EXPECT_EQ(Find<QProgressBar>(dialog, "ProgressBar1")->value(), 3);
   EXPECT_EQ(platform.calls.size(), 2u);
   platform.answers = {Answer::kOk, Answer::kNo};
   Click(dialog, "Command1");
@@ -150,6 +151,20 @@ TEST_F(ZaKodTest, WhatIsPressedMeanwhileIsSafe) {
   });
   Click(dialog, "Command1");
   EXPECT_EQ(Document(), "other");
+}
+
+TEST_F(CipherWindowsTest, QuittingEndsTheRunOfTheStreamCipher) {
+  Program program(platform);
+  TextBuffer& text = Find<TextBox>(program.Main(), "Text1")->Buffer();
+  text.SetText(std::string(64000, 'a'));
+  platform.answers = {Answer::kYes};
+  Inside([&] {
+    Inside([&] { program.Main().close(); });  // handled while the run goes on
+    Click(program.Windows().Get<ZaKod>(), "Command1");
+  });
+  EXPECT_EQ(QCoreApplication::exec(), 0);
+  EXPECT_EQ(text.Text(), platform.files["/install/autosave_pelmar_vex.txt"]);
+  EXPECT_EQ(text.Text().front(), 'a');
 }
 
 TEST_F(CipherWindowsTest, ShiftKodWorksOnTheDocumentOrOnQuickText) {
@@ -297,7 +312,7 @@ TEST_F(CipherWindowsTest, ChtRewritesAgainAndAgain) {
 }
 
 struct RndSifraTest : CipherWindowsTest {
-  RND_Sifra dialog{editor, nullptr};
+  RND_Sifra dialog{editor, editor.opener, nullptr};
   std::mt19937 random{7};
 
   RndSifraTest() { dialog.Present(); }
@@ -387,7 +402,7 @@ TEST_F(RndSifraTest, SavesAndLoadsTheTable) {
   const std::string made = LabelText(dialog, "Label6");
   const std::string codes = Row("List1", 5);
 
-  RND_Sifra other(editor, nullptr);
+  RND_Sifra other(editor, editor.opener, nullptr);
   other.Present();
   platform.opens = {"/a.pvt"};
   Click(other, "Command3");

@@ -19,9 +19,9 @@
 #include "platform/qt/controls/folder_list.h"
 #include "platform/qt/controls/text_box.h"
 #include "platform/qt/convert.h"
-#include "shell/editor.h"
-#include "shell/windows/program.h"
+#include "program/program.h"
 #include "support/scripted_platform.h"
+#include "support/whole_editor.h"
 #include "text/codepage.h"
 
 namespace pelmar {
@@ -31,7 +31,7 @@ namespace {
 struct FileDialogsTest : testing::Test {
   QTemporaryDir folder;
   ScriptedPlatform platform;
-  Editor editor{platform};
+  WholeEditor editor{platform};
 
   FileDialogsTest() {
     AddFile("a.TXT", "text of a");

@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QTest>
 #include <QVBoxLayout>
+#include <filesystem>
 
 #include "platform/qt/controls/drive_list.h"
 #include "platform/qt/controls/file_list.h"
@@ -81,6 +82,14 @@ TEST_F(FileChoiceTest, EveryEventKeepsLabelAndButtonsRight) {
   EXPECT_EQ(State(), temp.Path() + "/sub/");
   relative.setChecked(true);
   EXPECT_EQ(State(), "");
+  relative.setChecked(false);
+  mask.setCurrentText(QStringLiteral("*.gif"));
+  Choose("c.gif");
+  window.hide();
+  std::filesystem::remove(temp.File("sub/c.gif"));
+  window.show();
+  EXPECT_EQ(State(), temp.Path() + "/sub/");
+  relative.setChecked(true);
   folders.SetPath(QStringLiteral("/"));
   relative.setChecked(false);
   EXPECT_EQ(State(), "/");  // one separator, not two

@@ -17,7 +17,7 @@
 #include "html/samples/templaty.h"
 #include "platform/qt/controls/text_box.h"
 #include "platform/qt/convert.h"
-#include "shell/windows/program.h"
+#include "program/program.h"
 #include "support/chosen_file.h"
 #include "support/controls.h"
 #include "support/scripted_platform.h"

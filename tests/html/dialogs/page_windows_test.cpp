@@ -5,6 +5,7 @@
 #include "html/dialogs/frame.h"
 #include "html/dialogs/frames.h"
 #include "html/dialogs/vytvor.h"
+#include "platform/color.h"
 #include "platform/qt/controls/swatch.h"
 #include "platform/qt/controls/text_box.h"
 #include "platform/qt/convert.h"

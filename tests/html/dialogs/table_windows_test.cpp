@@ -7,6 +7,7 @@
 #include "html/dialogs/table.h"
 #include "html/dialogs/table_cell.h"
 #include "html/dialogs/table_row.h"
+#include "platform/color.h"
 #include "support/controls.h"
 #include "text/codepage.h"
 

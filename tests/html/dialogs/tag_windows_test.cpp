@@ -12,6 +12,7 @@
 #include "html/dialogs/inline_dialogs.h"
 #include "html/dialogs/list_dialogs.h"
 #include "html/dialogs/tag_dialogs.h"
+#include "platform/color.h"
 #include "platform/qt/controls/swatch.h"
 #include "platform/qt/convert.h"
 #include "support/controls.h"
@@ -109,6 +110,8 @@ TEST_F(TagWindows, WidthOfTheLineFollowsItsUnit) {
   EXPECT_EQ(LabelText(line, "Label1"), " 50");
   SetBar(line, "VScroll1", 800);
   EXPECT_EQ(LabelText(line, "Label1"), "800");
+  Click(line, "Option5");  // required: the unit that is set already counts as well
+  EXPECT_EQ(LabelText(line, "Label1"), " 800");
   Click(line, "Option2");
   EXPECT_EQ(Made(line), R"(<HR ALIGN = "LEFT" NOSHADE Width = "800">)");
   Click(line, "Option4");

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractFileIconProvider>
 #include <QApplication>
 #include <QComboBox>
 #include <QFileDialog>
@@ -97,6 +98,8 @@ TEST(FileDialog, TurnsFiltersIntoTheToolkits) {
 TEST(FileDialog, StartsWithTheGivenFilterAndRemembersTheFolder) {
   const TempFolder temp;
   const QString wanted = Utf8ToQString(temp.Put("inner/Dopis.TXT", "x"));
+  const QString document = Utf8ToQString(temp.Put("inner/leták", "%PDF-1.4\n"));
+  const QString picture = Utf8ToQString(temp.Put("inner/obraz", "\x89PNG\r\n\x1a\n"));
   const QString filter = QStringLiteral("Všechno (*.*)|*.*|jen text (*.txt)|*.txt");
   QString folder = Utf8ToQString(temp.Path());
   WhenShown<QFileDialog>([&](QFileDialog& dialog) {
@@ -106,6 +109,11 @@ TEST(FileDialog, StartsWithTheGivenFilterAndRemembersTheFolder) {
     ASSERT_NE(types, nullptr);
     EXPECT_EQ(types->currentText().trimmed(), QStringLiteral("jen text (*.txt)"));
     EXPECT_EQ(types->itemText(0).trimmed(), QStringLiteral("Všechno (*.*)"));
+    // Kinds go by the names alone: nobody reads the files.
+    const QAbstractFileIconProvider* icons = dialog.iconProvider();
+    EXPECT_EQ(icons->type(QFileInfo(document)), icons->type(QFileInfo(picture)));
+    EXPECT_NE(icons->type(QFileInfo(document)), icons->type(QFileInfo(wanted)));
+    EXPECT_FALSE(icons->icon(QFileInfo(document)).isNull());
     dialog.selectFile(wanted);
     static_cast<QDialog&>(dialog).accept();
   });

@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
 #include <filesystem>
@@ -172,6 +173,46 @@ TEST_F(FileListTest, TheProgramsChoiceRaisesNoClick) {
   EXPECT_EQ(patterns.size(), 3);
 }
 
+TEST_F(FileListTest, FollowsTheFolderWhileItIsOnShow) {
+  const auto shows = [this](const char* names) {
+    EXPECT_TRUE(QTest::qWaitFor([&] { return RowsOf(list_).join(u' ') == QLatin1String(names); }, 5000))
+        << RowsOf(list_).join(u' ').toStdString();
+  };
+  QSignalSpy gone(&list_, &FileList::FileGone);
+  const auto drop = [this](const char* name) { std::filesystem::remove(temp_.File(name)); };
+  list_.SetFileName(QStringLiteral("c.htm"));
+  temp_.Put("aa.txt", "");
+  drop("b.HTM");
+  shows("a.txt aa.txt c.htm d");
+  EXPECT_EQ(list_.FileName(), QStringLiteral("c.htm"));
+  EXPECT_EQ(gone.size(), 0);
+  drop("c.htm");
+  shows("a.txt aa.txt d");
+  EXPECT_EQ(list_.FileName(), QString());
+  EXPECT_EQ(gone.size(), 1);
+  list_.hide();
+  drop("a.txt");
+  list_.show();  // what changed meanwhile
+  EXPECT_EQ(RowsOf(list_).first(), QStringLiteral("aa.txt"));
+  list_.SetPath(base_ + QStringLiteral("/sub"));
+  temp_.Put("sub/e.htm", "");
+  shows("c.htm e.htm");
+  EXPECT_EQ(clicks_.size(), 0);
+}
+
+TEST_F(FileListTest, StaysScrolledAsTheFolderChanges) {
+  for (int i = 100; i < 300; ++i) temp_.Put("f" + std::to_string(i), "");
+  list_.SetPath(base_);
+  list_.SetFileName(QStringLiteral("a.txt"));
+  list_.scrollTo(list_.model()->index(150, 0));
+  const int scrolled = list_.verticalScrollBar()->value();
+  ASSERT_GT(scrolled, 0);
+  temp_.Put("zz", "");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return RowsOf(list_).last() == QLatin1String("zz"); }, 5000));
+  EXPECT_EQ(list_.verticalScrollBar()->value(), scrolled);
+  EXPECT_EQ(list_.FileName(), QStringLiteral("a.txt"));
+}
+
 TEST_F(FileListTest, ThePersonsChoiceIsOneClickEach) {
   Click(list_, QStringLiteral("b.HTM"));
   EXPECT_EQ(list_.FileName(), QStringLiteral("b.HTM"));
@@ -186,16 +227,10 @@ TEST_F(FileListTest, ThePersonsChoiceIsOneClickEach) {
   EXPECT_EQ(clicks_.size(), 3);
 }
 
-TEST_F(FileListTest, ComingIntoFocusChoosesNothing) {
-  QApplication::setActiveWindow(&list_);
-  list_.setFocus();
-  EXPECT_EQ(list_.FileName(), QString());
-  EXPECT_EQ(clicks_.size(), 0);
-}
-
 TEST_F(FileListTest, TheFirstArrowKeyChoosesTheFirstRow) {
   QApplication::setActiveWindow(&list_);
   list_.setFocus();
+  EXPECT_EQ(list_.FileName(), QString());  // coming into focus chooses nothing
   QTest::keyClick(&list_, Qt::Key_Down);
   EXPECT_EQ(list_.FileName(), QStringLiteral("a.txt"));
   QTest::keyClick(&list_, Qt::Key_Down);

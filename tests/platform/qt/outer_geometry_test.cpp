@@ -15,6 +15,7 @@
 #include <QWindow>
 
 #include "platform/qt/controls/dialog_window.h"
+#include "platform/twips.h"
 
 namespace pelmar {
 namespace {

@@ -10,8 +10,8 @@
 #include "files/printing.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/fonts.h"
-#include "shell/editor.h"
 #include "support/scripted_platform.h"
+#include "support/whole_editor.h"
 #include "text/codepage.h"
 
 namespace pelmar {
@@ -40,7 +40,7 @@ struct PaperPlatform : ScriptedPlatform {
 
 struct PrinterTest : testing::Test {
   PaperPlatform platform;
-  Editor editor{platform};
+  WholeEditor editor{platform};
   EditorLook look;
 
   PrinterTest() {

@@ -30,6 +30,17 @@ TEST(SortedOrder, FollowsTheCzechAlphabet) {
   EXPECT_EQ(platform.SortedOrder({"žluťoučký"_w, "ŽLUŤOUČKÝ"_w}), (std::vector<std::size_t>{0, 1}));
 }
 
+// A folder that isn't there stays what was asked for, so that writing to it fails, rather than becoming the root.
+TEST(TempFolder, IsWhatTheEnvironmentSays) {
+  QtPlatform platform;
+  const QByteArray before = qgetenv("TMPDIR");
+  for (const auto& [set, expected] : {std::pair("/nonexistent/x", "/nonexistent/x/"), {"/", "/"}, {"", "/tmp/"}}) {
+    qputenv("TMPDIR", set);
+    EXPECT_EQ(platform.TempFolder(), expected);
+  }
+  qputenv("TMPDIR", before);
+}
+
 TEST(BusyPointer, NestsAndIsLiftedWhileABoxShows) {
   QtPlatform platform;
   const auto busy = [] { return QGuiApplication::overrideCursor() != nullptr; };

@@ -17,7 +17,7 @@
 #include "platform/qt/controls/elided_label.h"
 #include "platform/qt/controls/swatch.h"
 #include "platform/qt/controls/text_box.h"
-#include "shell/windows/program.h"
+#include "program/program.h"
 #include "support/scripted_platform.h"
 
 namespace pelmar {

@@ -13,8 +13,8 @@
 #include <QTimer>
 
 #include "platform/qt/controls/text_box.h"
+#include "program/program.h"
 #include "shell/windows/pass.h"
-#include "shell/windows/program.h"
 #include "support/scripted_platform.h"
 #include "texttools/windows/hledani.h"
 #include "texttools/windows/visual.h"

@@ -7,9 +7,13 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include "platform/color.h"
 #include "platform/qt/convert.h"
+#include "shell/window_geometry.h"
 #include "shell/windows/status_timer.h"
+#include "shell/windows/window_registry.h"
 #include "support/scripted_platform.h"
+#include "support/whole_editor.h"
 #include "text/codepage.h"
 
 namespace pelmar {
@@ -17,8 +21,8 @@ namespace {
 
 struct MainWindowTest : testing::Test {
   ScriptedPlatform platform;
-  Editor editor{platform};
-  MainWindow window{editor};
+  WholeEditor editor{platform};
+  MainWindow window{editor, editor.opener};
   StatusTimer timer{window, editor};
 
   MainWindowTest() {
@@ -47,6 +51,7 @@ TEST_F(MainWindowTest, EveryItemAndButtonIsThereUnderItsName) {
     EXPECT_EQ(action->shortcut(), QKeySequence(Utf8ToQString(item.shortcut))) << item.name;
     EXPECT_EQ(action->isChecked(), item.kind == MenuKind::kToggleOn) << item.name;
   }
+  EXPECT_THROW((void)window.Menus().Action("mnunone"), std::out_of_range);
   EXPECT_EQ(Find<QAction>("Mnu_Sort_Lines")->text(), QStringLiteral("&Seřadit řádky podle abedcedy"));
   EXPECT_EQ(window.Menus().Submenu("mnuhtml")->actions().at(6)->objectName(), QStringLiteral("mnuframes"));
   QStringList keys;
@@ -118,6 +123,26 @@ TEST_F(MainWindowTest, TickSetsMenusAndPanels) {
   EXPECT_FALSE(editor.settings.LineCounting);
   QTest::mouseDClick(Find<QWidget>("Panel3"), Qt::LeftButton);
   EXPECT_TRUE(editor.settings.LineCounting);
+}
+
+TEST_F(MainWindowTest, TheBarTellsThatFilesCantBeReachedAnyMore) {
+  const auto* notice = Find<QLabel>("Notice");
+  platform.files["/a.txt"] = platform.files["/README"] = "x";
+  platform.opens = {"/a.txt", "/README"};
+  for (const bool stuck : {false, true}) {
+    editor.opener.OpenStandard();
+    timer.Tick();
+    EXPECT_EQ(notice->isVisible(), stuck);
+  }
+  EXPECT_TRUE(notice->text().contains(QStringLiteral("nový start")));
+  EXPECT_EQ(Find<QLabel>("Panel1")->text(), QStringLiteral("Počet znaků : 1"));
+  for (const int width : {1200, 480}) {
+    window.resize(width, 400);
+    timer.Tick();
+    EXPECT_GE(notice->width(), notice->fontMetrics().horizontalAdvance(notice->text())) << width;
+    EXPECT_TRUE(window.Bar().rect().contains(notice->geometry())) << width;
+  }
+  for (const std::string& call : platform.calls) EXPECT_FALSE(call.starts_with("message")) << call;  // required
 }
 
 TEST_F(MainWindowTest, BarsStandStillWhileAnotherWindowIsActive) {
@@ -194,6 +219,13 @@ TEST_F(MainWindowTest, RecentMenuShowsAndOpensTheEntries) {
   EXPECT_EQ(Find<QAction>("M1")->text(), QStringLiteral("&0 /three.txt"));
   EXPECT_EQ(Find<QAction>("M2")->text(), QStringLiteral("&1 /one&&two.txt"));
   EXPECT_EQ(Find<QAction>("M10")->text(), QStringLiteral("&9 "));
+  const std::string deep = "/" + std::string(200, 'd') + "/a.txt";
+  editor.opener.PushRecentFile(deep);
+  EXPECT_LE(Find<QAction>("M1")->text().size(), 101);
+  EXPECT_EQ(Find<QAction>("M1")->toolTip(), Utf8ToQString(deep));
+  EXPECT_TRUE(Find<QAction>("Recent")->menu()->toolTipsVisible());
+  editor.opener.PushRecentFile("/one&two.txt");
+  editor.opener.PushRecentFile("/three.txt");
   Find<QAction>("M2")->trigger();
   EXPECT_EQ(editor.text.Text(), "1");
 }
@@ -256,6 +288,13 @@ TEST_F(MainWindowTest, AHiddenTextCantBeReadAnywhere) {
   window.HideText(false);
   EXPECT_EQ(window.Text().SelText(), QByteArray("secret"));
   EXPECT_EQ(editor.documents.Slot(1).Text, "secret");
+}
+
+TEST(WindowRegistry, AWindowThatCantBeMadeIsNoNullReference) {
+  WindowRegistry windows;
+  windows.Register<QLabel>([] { return std::unique_ptr<QLabel>(); });
+  EXPECT_THROW(windows.Get<QLabel>(), std::logic_error);
+  EXPECT_EQ(windows.Find<QLabel>(), nullptr);
 }
 
 TEST_F(MainWindowTest, ARefusedCloseKeepsTheWindow) {

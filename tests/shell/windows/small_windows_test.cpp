@@ -10,11 +10,11 @@
 
 #include "platform/qt/controls/text_box.h"
 #include "platform/qt/convert.h"
+#include "program/program.h"
 #include "shell/windows/config.h"
 #include "shell/windows/hlp.h"
 #include "shell/windows/o.h"
 #include "shell/windows/pass.h"
-#include "shell/windows/program.h"
 #include "shell/windows/start.h"
 #include "support/scripted_platform.h"
 #include "text/codepage.h"

@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
@@ -11,14 +12,16 @@
 #include <QTimer>
 
 #include "accessories/windows/color_dialog.h"
+#include "platform/color.h"
 #include "platform/qt/controls/cell_grid.h"
 #include "platform/qt/controls/swatch.h"
 #include "platform/qt/controls/text_box.h"
 #include "platform/qt/outer_geometry.h"
-#include "shell/editor.h"
+#include "platform/twips.h"
 #include "shell/windows/pos.h"
 #include "support/plain_view.h"
 #include "support/scripted_platform.h"
+#include "support/whole_editor.h"
 #include "texttools/windows/visual.h"
 
 namespace pelmar {
@@ -82,10 +85,9 @@ TEST(PosWindow, PlacesTheMainWindow) {
 
 struct VisualTest : testing::Test {
   ScriptedPlatform platform;
-  Editor editor{platform};
+  WholeEditor editor{platform};
   PlainView view;
-  Session session{view, editor.documents, editor.settings, editor.opener, platform, editor.file_number};
-  Visual visual{view, session, editor.settings, {[](Color color) { return color + 1; }, [] {}}, nullptr};
+  Visual visual{view, editor.settings, {[](Color color) { return color + 1; }, [] {}}, nullptr};
 
   VisualTest() {
     view.look = {"Courier New", Rgb(10, 0, 0), Rgb(200, 200, 200), 12, true, false};
@@ -102,6 +104,22 @@ TEST_F(VisualTest, LoadsTheLookOfTheTextBox) {
   EXPECT_EQ(Find<QComboBox>(visual, "Combo1")->currentText(), QStringLiteral("12"));
   EXPECT_EQ(Find<TextBox>(visual, "Label1")->TextColor(), QColor(10, 0, 0));
   EXPECT_EQ(Find<QLabel>(visual, "Label12")->text(), QStringLiteral("300"));
+  for (const int size : {8, 10}) {
+    view.look.font_size = size;
+    Visual another(view, session, editor.settings, {}, nullptr);
+    another.Present();
+    EXPECT_EQ(Find<TextBox>(another, "Label1")->font().pointSize(), size);
+  }
+}
+
+TEST_F(VisualTest, ASizeIsTakenAsItIsTyped) {
+  auto* box = Find<QComboBox>(visual, "Combo1");
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&visual));
+  box->setFocus();  // or nothing would be completed
+  box->lineEdit()->selectAll();
+  QTest::keyClicks(box->lineEdit(), QStringLiteral("2"));
+  EXPECT_EQ(box->currentText(), QStringLiteral("2"));
+  EXPECT_EQ(Find<TextBox>(visual, "Label1")->font().pointSize(), 2);
 }
 
 TEST_F(VisualTest, AppliesThePreview) {

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QAction>
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -10,6 +11,7 @@
 
 #include "platform/qt/controls/text_box.h"
 #include "platform/qt/convert.h"
+#include "program/program.h"
 #include "support/scripted_platform.h"
 #include "text/codepage.h"
 #include "texttools/windows/hledani.h"
@@ -173,11 +175,23 @@ TEST_F(SearchWindowsTest, VyberSetsTheSelection) {
   EXPECT_EQ(length->value(), 4);
   EXPECT_EQ(text.SelText(), "6789");
   EXPECT_EQ(Find<QLabel>(dialog, "Label2")->text(), QStringLiteral("4"));
-  text.Select(1, 1);
-  Vyber another(text, nullptr);
-  EXPECT_EQ(Find<QScrollBar>(another, "Start")->value(), 1);
-  EXPECT_EQ(Find<QScrollBar>(another, "Delka")->value(), 0);
-  EXPECT_FALSE(text.HasSelection());
+}
+
+TEST_F(SearchWindowsTest, VyberBeginsWithTheSelectionAtEachCommand) {
+  Program program(platform);
+  TextBuffer& document = Find<TextBox>(program.Main(), "Text1")->Buffer();
+  document.SetText("0123456789");
+  const std::pair<std::size_t, std::size_t> ranges[] = {{1, 1}, {2, 9}, {2, 4}, {5, 7}, {0, 10}, {10, 10}};
+  for (const auto& [start, end] : ranges) {
+    document.Select(start, end);
+    Find<QAction>(program.Main(), "mnupresnvyb")->trigger();  // which is open already from the second time on
+    const Vyber& dialog = program.Windows().Get<Vyber>();
+    EXPECT_EQ(Find<QScrollBar>(dialog, "Start")->value(), static_cast<int>(start));
+    EXPECT_EQ(Find<QScrollBar>(dialog, "Delka")->value(), static_cast<int>(end - start));
+    EXPECT_EQ(document.SelStart(), start);
+    EXPECT_EQ(document.SelEnd(), end);
+    EXPECT_EQ(Find<QLabel>(dialog, "Label5")->text(), TextToQString(document.SelText()));
+  }
 }
 
 }  // namespace

@@ -3,11 +3,11 @@
 #include <QComboBox>
 #include <QDir>
 
+#include "platform/paths.h"
 #include "platform/qt/controls/drive_list.h"
 #include "platform/qt/controls/file_list.h"
 #include "platform/qt/controls/folder_list.h"
 #include "platform/qt/convert.h"
-#include "shell/common.h"
 
 namespace pelmar {
 
@@ -15,6 +15,11 @@ void LinkFolderBrowser(DriveList* place, FolderList* folders) {
   QObject::connect(place, &DriveList::DriveChanged, folders, &FolderList::SetPath);
   folders->SetPath(QDir::currentPath());
   place->SetDrive(folders->Path());
+}
+
+FolderBrowser FolderBrowserOf(const QWidget& dialog) {
+  return {dialog.findChild<DriveList*>(QStringLiteral("Drive1")),
+          dialog.findChild<FolderList*>(QStringLiteral("Dir1"))};
 }
 
 void LinkFileBrowser(DriveList* place, FolderList* folders, FileList* files, QComboBox* mask) {

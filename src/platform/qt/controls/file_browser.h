@@ -5,12 +5,22 @@
 #include <string>
 
 class QComboBox;
+class QWidget;
 
 namespace pelmar {
 
 class DriveList;
 class FileList;
 class FolderList;
+
+// The two lists by which a dialog's folder is led from outside.
+struct FolderBrowser {
+  DriveList* drives;
+  FolderList* folders;
+};
+
+// Those of a dialog, by their names `Drive1` and `Dir1`.
+FolderBrowser FolderBrowserOf(const QWidget& dialog);
 
 // The place leads the folder list, the folder list the file list, `mask` (null in a dialog without one) the names
 // shown. A key released in the folder list shows the files of the highlighted folder; Enter moves into it. The group

@@ -2,15 +2,25 @@
 
 #include <QAbstractListModel>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QMetaMethod>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 
 #include "platform/qt/controls/first_choice.h"
 #include "platform/qt/folder_entries.h"
 
 namespace pelmar {
+namespace {
+
+// How long a change of the folder waits for others, in milliseconds, and how many times the length of a reading at
+// least: a folder of many files that changes all the time costs a tenth of the processor at most.
+constexpr int kSettle = 200;
+constexpr int kReadings = 10;
+
+}  // namespace
 
 class FileNames : public QAbstractListModel {
  public:
@@ -21,6 +31,8 @@ class FileNames : public QAbstractListModel {
     names_ = std::move(names);
     endResetModel();
   }
+
+  [[nodiscard]] const QStringList& Names() const { return names_; }
 
   [[nodiscard]] QModelIndex IndexOf(const QString& name) const {
     return name.isEmpty() ? QModelIndex() : index(static_cast<int>(names_.indexOf(name)), 0);
@@ -49,6 +61,12 @@ FileList::FileList(QWidget* parent)
     if (!click_told_) Q_EMIT FileClicked();
   });
   connect(this, &QListView::doubleClicked, this, &FileList::FileActivated);
+  settle_.setSingleShot(true);
+  settle_.setInterval(kSettle);
+  connect(&settle_, &QTimer::timeout, this, &FileList::ReadAnew);
+  connect(&watcher_, &QFileSystemWatcher::directoryChanged, this, [this] {
+    if (!settle_.isActive()) settle_.start();
+  });
   Fill({});
 }
 
@@ -56,10 +74,11 @@ void FileList::SetPath(const QString& path) {
   if (path.isEmpty()) return;
   const QString clean = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
   if (!IsReadableFolder(clean)) return;
-  const bool changed = clean != path_;
+  if (clean == path_) return ReadAnew();
   path_ = clean;
-  Fill(changed ? QString() : FileName());
-  if (changed) Q_EMIT PathChanged(path_);
+  Fill({});
+  if (isVisible()) Watch();
+  Q_EMIT PathChanged(path_);
 }
 
 void FileList::SetPattern(const QString& pattern) {
@@ -86,6 +105,31 @@ void FileList::Fill(const QString& selected) {
   const QScopedValueRollback<bool> by_program(by_program_, true);
   names_->Show(FilesOf(path_, pattern_));
   SetFileName(selected);
+}
+
+void FileList::ReadAnew() {
+  QElapsedTimer clock;
+  clock.start();
+  QStringList names = FilesOf(path_, pattern_);
+  settle_.setInterval(qMax<int>(kSettle, static_cast<int>(clock.elapsed()) * kReadings));
+  if (names == names_->Names()) return;
+  const QString selected = FileName();
+  const int scrolled = verticalScrollBar()->value();
+  {
+    const QScopedValueRollback<bool> by_program(by_program_, true);
+    names_->Show(std::move(names));
+    SetFileName(selected);
+  }
+  executeDelayedItemsLayout();  // which gives the bar its range
+  verticalScrollBar()->setValue(scrolled);
+  if (FileName() != selected) Q_EMIT FileGone();
+}
+
+// The one folder, for as long as it is on show: what changes meanwhile is read when it comes back.
+void FileList::Watch() {
+  if (const QStringList watched = watcher_.directories(); !watched.isEmpty()) watcher_.removePaths(watched);
+  settle_.stop();
+  watcher_.addPath(path_);
 }
 
 void FileList::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
@@ -119,7 +163,16 @@ void FileList::keyPressEvent(QKeyEvent* event) {
 
 void FileList::showEvent(QShowEvent* event) {
   QListView::showEvent(event);
-  if (!event->spontaneous()) Fill(FileName());
+  if (event->spontaneous()) return;
+  Watch();
+  ReadAnew();
+}
+
+void FileList::hideEvent(QHideEvent* event) {
+  QListView::hideEvent(event);
+  if (event->spontaneous()) return;
+  settle_.stop();
+  if (const QStringList watched = watcher_.directories(); !watched.isEmpty()) watcher_.removePaths(watched);
 }
 
 }  // namespace pelmar

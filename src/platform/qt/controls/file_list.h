@@ -1,8 +1,11 @@
-// The file list of the file browser dialogs: the names of a folder's files that match a mask.
+// The file list of the file browser dialogs: the names of a folder's files that match a mask. While it is on show it
+// follows the folder, with the selection and the scrolling as they are.
 // Setting a property is the program's doing and raises no click; FileClicked and FileActivated are the person's.
 #pragma once
 
+#include <QFileSystemWatcher>
 #include <QListView>
+#include <QTimer>
 
 namespace pelmar {
 
@@ -37,6 +40,8 @@ class FileList : public QListView {
   void PatternChanged(const QString& pattern);
   // A file was clicked (again), or selected with the keyboard.
   void FileClicked();
+  // The selected file went out of the folder, and nothing is selected any more.
+  void FileGone();
   // Double click or Enter. Where nobody listens, Enter goes on to the dialog's default button.
   void FileActivated();
 
@@ -46,12 +51,18 @@ class FileList : public QListView {
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void showEvent(QShowEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
 
  private:
   void Fill(const QString& selected);
+  // The same folder again.
+  void ReadAnew();
+  void Watch();
 
   FileNames* names_;
   QString path_, pattern_;
+  QFileSystemWatcher watcher_;
+  QTimer settle_;  // from a change of the folder until it is read
   bool by_program_ = false;
   bool click_told_ = false;  // by the change of the selection that the press at hand made
 };

@@ -3,7 +3,7 @@
 #include <QPainter>
 
 #include "platform/qt/controls/accessible_face.h"
-#include "shell/window_geometry.h"
+#include "platform/twips.h"
 
 namespace pelmar {
 

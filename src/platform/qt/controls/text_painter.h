@@ -6,7 +6,7 @@
 #include <QPainter>
 #include <QRectF>
 
-#include "platform/qt/controls/glyph_table.h"
+#include "platform/qt/glyph_table.h"
 #include "text/caret_moves.h"
 #include "text/text_layout.h"
 

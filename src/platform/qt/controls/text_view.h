@@ -10,7 +10,7 @@
 #include <optional>
 #include <utility>
 
-#include "platform/qt/controls/glyph_table.h"
+#include "platform/qt/glyph_table.h"
 #include "text/caret_mover.h"
 #include "text/text_layout.h"
 

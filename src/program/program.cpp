@@ -1,4 +1,4 @@
-#include "shell/windows/program.h"
+#include "program/program.h"
 
 #include <QFileInfo>
 #include <cstdlib>
@@ -12,6 +12,8 @@
 #include "html/windows/browser_windows.h"
 #include "platform/qt/application.h"
 #include "platform/qt/convert.h"
+#include "platform/runtime_error.h"
+#include "program/commands.h"
 #include "shell/windows/config.h"
 #include "shell/windows/shell_windows.h"
 #include "shell/windows/start.h"
@@ -22,16 +24,21 @@ namespace pelmar {
 Program::Program(Platform& platform)
     : platform_(platform),
       editor_(platform),
-      main_(editor_),
-      session_(main_, editor_.documents, editor_.settings, editor_.opener, platform, editor_.file_number),
+      main_(editor_, files_.opener),
+      session_(main_, editor_.documents, editor_.settings, files_.opener, platform, editor_.file_number),
       rescue_(ModifiedDocuments(editor_.documents), platform),
       timer_(main_, editor_) {
+  AddCommands(editor_, files_);
+  doors_.store_settings = [this] { session_.StoreSettings(false); };
+  doors_.mode = [this] { return session_.Mode(); };
+  doors_.closed = [this] { return session_.Closed(); };
   AddWindows();
   main_.RefreshCommands();
   main_.may_close = [this] { return MayClose(); };
   main_.show_config = [this] { windows_.Get<Config>().Run(); };
   main_.show_accessory = [this](StartMode mode) { ShowAccessory(mode); };
   main_.show_start = [this] { windows_.Get<Start>().Present(); };
+  rescue_.on_failure = [this](int error) { main_.Bar().ShowUnkept(error); };
   editor_.text.OnChange([this](const TextChange&) { TouchRescue(); });
   editor_.documents.on_title = [this, show = editor_.documents.on_title] {
     show();
@@ -40,7 +47,7 @@ Program::Program(Platform& platform)
 }
 
 void Program::AddWindows() {
-  const ProgramParts parts{platform_, editor_, main_, session_, windows_, stand_alones_, show_in_browser_, keepers_};
+  const ProgramParts parts{platform_, editor_, files_, main_, windows_, stand_alones_, keepers_, file_pickers_, doors_};
   AddShellWindows(parts);
   AddFileWindows(parts);
   AddTextWindows(parts);
@@ -68,8 +75,7 @@ void Program::Run(const std::string& tail) {
   timer_.start();
   session_.Start(tail);
   // Only the editor asks, when it stands; the accessories leave what they find to it.
-  if (session_.Mode() == StartMode::kEditor)
-    QTimer::singleShot(0, &main_, [this] { OfferAbandoned(editor_.documents, platform_); });
+  if (session_.Mode() == StartMode::kEditor) QTimer::singleShot(0, &main_, [this] { rescue_.Offer(); });
 }
 
 bool Program::MayClose() {
@@ -77,6 +83,11 @@ bool Program::MayClose() {
   rescue_.End();
   EndProgram(EXIT_SUCCESS);
   return true;
+}
+
+void Program::KeepUnsaved() {
+  if (session_.Mode() == StartMode::kEditor) rescue_.KeepNow();
+  for (const auto& keep : keepers_) keep();
 }
 
 void Program::TellRuntimeError(const RuntimeError& error) {

@@ -2,7 +2,6 @@
 // read here and written here: the settings file and the two recovery files. The order of the steps is required.
 #pragma once
 
-#include <functional>
 #include <string>
 #include <string_view>
 
@@ -26,11 +25,9 @@ class Session {
   // Writes the settings file; both the close and the profile dialog do, the latter without the window's state.
   void StoreSettings(bool with_window_state);
 
-  // The one way to change the editor's font size: six sizes are taken, any other becomes 8.
-  void SetEditorFontSize(int size);
-
-  // Told after each change of the size, for the dialog that shows it.
-  std::function<void()> on_font_size;
+  // True from the close that the person didn't refuse: the program ends as soon as its events are handled, and what is
+  // stored is final.
+  [[nodiscard]] bool Closed() const { return closed_; }
 
   [[nodiscard]] StartMode Mode() const { return mode_; }
 
@@ -39,6 +36,7 @@ class Session {
   void LoadSettings();
   void ApplyLook();
   void Act(std::string_view tail);
+  bool MayEnd();
   void Store(std::string_view name, std::string_view bytes);
   std::string InstallPath(std::string_view name);
 
@@ -49,6 +47,7 @@ class Session {
   Platform& platform_;
   FileNumber& file_number_;
   StartMode mode_ = StartMode::kEditor;
+  bool closed_ = false;
 };
 
 // "\autosave_all_files.txt": a block for each slot, empty ones too.

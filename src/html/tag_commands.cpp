@@ -1,8 +1,10 @@
-#include "html/insert.h"
+#include "html/tag_commands.h"
 
 #include <cstddef>
 
+#include "shell/editor.h"
 #include "text/codepage.h"
+#include "text/insert.h"
 #include "text/number_text.h"
 
 namespace pelmar {
@@ -43,30 +45,6 @@ std::string Digits(int number, std::size_t width) { return ZeroPadded(static_cas
 
 }  // namespace
 
-void ReplaceSelection(TextBuffer& box, std::string_view text) { box.ReplaceSelection(text); }
-
-void InsertAtCaret(TextBuffer& box, std::string_view text) {
-  box.SetSelLength(0);
-  box.ReplaceSelection(text);
-}
-
-void ReplaceDocument(TextBuffer& box, std::string_view text) {
-  // The text that the box has already is no change, whoever sets it.
-  if (text != box.Text()) box.Replace(0, box.Size(), text);
-  box.SetSelStart(0);
-}
-
-void WrapSelection(TextBuffer& box, std::string_view open, std::string_view close, std::string_view sample) {
-  if (!box.HasSelection()) {
-    box.ReplaceSelection(sample);
-    return;
-  }
-  std::string text(open);
-  text += box.SelText();
-  text += close;
-  box.ReplaceSelection(text);
-}
-
 std::span<const TagWrapper> TagWrappers() { return kTagWrappers; }
 std::span<const FixedInsert> FixedInserts() { return kFixedInserts; }
 
@@ -80,6 +58,16 @@ std::string TimeText(const LocalTime& time) {
 
 std::string EmailText(const SettingsRecord& settings) {
   return "\"" + settings.UserName + "\" <" + settings.UserEmail + ">";
+}
+
+void AddTagCommands(Editor& e) {
+  for (const TagWrapper& tag : TagWrappers())
+    e.commands.Add(tag.command, [&e, &tag] { WrapSelection(e.text, tag.open, tag.close, tag.sample); });
+  for (const FixedInsert& insert : FixedInserts())
+    e.commands.Add(insert.command, [&e, &insert] { InsertAtCaret(e.text, insert.text); });
+  e.commands.Add("mnudate", [&e] { InsertAtCaret(e.text, DateText(e.platform.Now())); });
+  e.commands.Add("mnutime", [&e] { InsertAtCaret(e.text, TimeText(e.platform.Now())); });
+  e.commands.Add("mnuemail", [&e] { InsertAtCaret(e.text, EmailText(e.settings)); });
 }
 
 }  // namespace pelmar

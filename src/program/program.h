@@ -5,9 +5,11 @@
 #include <memory>
 #include <string>
 
+#include "files/files.h"
 #include "platform/platform.h"
+#include "platform/runtime_error.h"
+#include "program/session.h"
 #include "shell/editor.h"
-#include "shell/session.h"
 #include "shell/windows/main_window.h"
 #include "shell/windows/program_parts.h"
 #include "shell/windows/rescue_keeper.h"
@@ -22,6 +24,9 @@ class Program {
 
   // Starts with the command tail (UTF-8).
   void Run(const std::string& tail);
+
+  // Puts all that isn't saved on the disk at once and in silence, before the system ends the program.
+  void KeepUnsaved();
 
   // What an error that no command caught leads to: the modified documents are kept, the person is told what failed and
   // where they lie. The caller ends the process.
@@ -38,13 +43,15 @@ class Program {
 
   Platform& platform_;
   Editor editor_;
+  Files files_{editor_};
   MainWindow main_;
   Session session_;
   RescueKeeper rescue_;
   StatusTimer timer_;
   StandAlones stand_alones_;
-  std::function<void(const std::string& path)> show_in_browser_;
   Keepers keepers_;
+  FilePickers file_pickers_;
+  Doors doors_;
   WindowRegistry windows_;  // last: its windows look at all the others
 };
 

@@ -1,4 +1,4 @@
-#include "texttools/search.h"
+#include "text/search.h"
 
 namespace pelmar {
 

@@ -1,9 +1,12 @@
-#include "shell/session.h"
+#include "program/session.h"
 
 #include <algorithm>
 #include <cmath>
 
-#include "shell/menu_table.h"
+#include "platform/color.h"
+#include "platform/paths.h"
+#include "platform/runtime_error.h"
+#include "platform/twips.h"
 #include "shell/record_bytes.h"
 #include "text/codepage.h"
 
@@ -16,11 +19,6 @@ constexpr std::string_view kSettingsName = "pelmar.ini";
 constexpr std::int32_t kAutosnapDefault = 240;
 
 }  // namespace
-
-int EditorFontSize(int size) {
-  constexpr int kOther = 8;
-  return std::ranges::count(FontSizeItems(), size, &FontSizeItem::points) == 0 ? kOther : size;
-}
 
 Session::Session(MainView& view, Documents& documents, SettingsRecord& settings, Opener& opener, Platform& platform,
                  FileNumber& file_number)
@@ -71,16 +69,11 @@ void Session::LoadSettings() {
 void Session::ApplyLook() {
   view_.SetEditorFont(settings_.FontName);
   view_.SetEditorColors(settings_.ForeColor, settings_.BackColor);
-  SetEditorFontSize(settings_.FontSize);
+  view_.SetEditorFontSize(settings_.FontSize);
   view_.SetEditorBold(settings_.FontBold);
   view_.MarkBold(settings_.FontBold);
   view_.SetEditorItalic(settings_.FontItalic);
   view_.MarkItalic(settings_.FontItalic);
-}
-
-void Session::SetEditorFontSize(int size) {
-  view_.SetEditorFontSize(EditorFontSize(size));
-  if (on_font_size) on_font_size();
 }
 
 void Session::Act(std::string_view tail) {
@@ -98,6 +91,11 @@ bool Session::Close() {
   Store(kRecoveryName, documents_.Text().Text());
   Store(kAllFilesName, AllFilesText(documents_));
   StoreSettings(true);
+  closed_ = MayEnd();
+  return closed_;
+}
+
+bool Session::MayEnd() {
   const int unsaved = documents_.UnsavedCount();
   if (unsaved == 0) return true;
   const std::string question = std::to_string(unsaved) + " neuložené zněněné soubory! Opravdu konec?";

@@ -1,4 +1,4 @@
-#include "files/checkpoints.h"
+#include "accessories/checkpoints.h"
 
 #include <string>
 

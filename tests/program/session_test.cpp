@@ -1,4 +1,4 @@
-#include "shell/session.h"
+#include "program/session.h"
 
 #include <gtest/gtest.h>
 
@@ -6,9 +6,13 @@
 #include <cerrno>
 #include <functional>
 
-#include "shell/editor.h"
+#include "platform/color.h"
+#include "platform/runtime_error.h"
+#include "platform/twips.h"
+#include "shell/terminal_answer.h"
 #include "support/plain_view.h"
 #include "support/scripted_platform.h"
+#include "support/whole_editor.h"
 #include "text/codepage.h"
 
 namespace pelmar {
@@ -18,7 +22,7 @@ using Calls = std::vector<std::string>;
 
 struct SessionTest : testing::Test {
   ScriptedPlatform platform;
-  Editor editor{platform};
+  WholeEditor editor{platform};
   PlainView view;
   Session session{view, editor.documents, editor.settings, editor.opener, platform, editor.file_number};
 
@@ -69,7 +73,7 @@ TEST_F(SessionTest, SettingsAreAppliedAndRepaired) {
   EXPECT_EQ(std::ranges::count(view.calls, "top"), 1);
   for (const auto& [size, expected] :
        {std::pair{8, 8}, {10, 10}, {12, 12}, {14, 14}, {17, 17}, {24, 24}, {0, 8}, {25, 8}})
-    EXPECT_EQ(EditorFontSize(size), expected);
+    EXPECT_EQ((view.SetEditorFontSize(size), view.look.font_size), expected);
 }
 
 TEST_F(SessionTest, TextComesFromTheRecoveryFileOrTheClipboard) {
@@ -88,7 +92,7 @@ TEST_F(SessionTest, TextComesFromTheRecoveryFileOrTheClipboard) {
     ScriptedPlatform system;
     if (c.recovery) system.files[kRecovery] = std::string(*c.recovery, 'r');
     system.clipboard = c.clipboard;
-    Editor e{system};
+    WholeEditor e{system};
     PlainView v;
     Session(v, e.documents, e.settings, e.opener, system, e.file_number).Start("");
     EXPECT_EQ(e.text.Text() == c.expected, true) << c.recovery.value_or(1);
@@ -120,7 +124,7 @@ TEST_F(SessionTest, CommandTails) {
     SettingsRecord r = Stored();
     r.ShowStart = c.show_start;
     system.files[kSettings] = SettingsBytes(r);
-    Editor e{system};
+    WholeEditor e{system};
     PlainView v;
     Session(v, e.documents, e.settings, e.opener, system, e.file_number).Start(c.tail);
     EXPECT_EQ(v.calls.back(), c.shown) << c.tail;
@@ -193,6 +197,17 @@ TEST_F(SessionTest, ConfigStoresAllButTheWindowsState) {
   session.Start("");
   EXPECT_EQ(ReadSettings(platform.files[kSettings]).UserName, "Eva");
   EXPECT_EQ(ReadSettings(platform.files[kSettings]).WindowState, 2);
+}
+
+TEST(TerminalAnswer, OneOfTwoSwitchesAndNothingBesideIt) {
+  const auto answers = [](std::vector<std::string> words) {
+    std::vector<char*> arguments;
+    for (std::string& word : words) arguments.push_back(word.data());
+    return TerminalAnswer(arguments).has_value();
+  };
+  for (const char* one : {"--help", "--version"}) EXPECT_TRUE(answers({one})) << one;
+  for (const Calls& tail : {Calls{}, {""}, {"--HELP"}, {"-h"}, {"--help", "x"}, {"x", "--version"}, {"--version "}})
+    EXPECT_FALSE(answers(tail));
 }
 
 }  // namespace

@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "platform/platform.h"
-#include "shell/common.h"
+#include "platform/runtime_error.h"
 
 namespace pelmar {
 
@@ -37,6 +37,9 @@ class OpenNumber {
  private:
   FileNumber& number_;
 };
+
+// What a person has to know of a failed write beside its error: a line behind a message, "" as a rule.
+std::string KeptNotice(const WriteOutcome& outcome);
 
 // Writes a file on the number. Throws RuntimeError where that fails.
 void WriteFileOn(FileNumber& number, Platform& platform, const std::string& path, std::string_view bytes);

@@ -1,4 +1,4 @@
-#include "platform/qt/controls/glyph_table.h"
+#include "platform/qt/glyph_table.h"
 
 #include <QFontMetricsF>
 #include <QGlyphRun>

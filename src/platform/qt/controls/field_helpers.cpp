@@ -1,4 +1,4 @@
-#include "texttools/windows/field_helpers.h"
+#include "platform/qt/controls/field_helpers.h"
 
 #include <QLabel>
 #include <QLineEdit>

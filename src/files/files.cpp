@@ -1,0 +1,17 @@
+#include "files/files.h"
+
+namespace pelmar {
+
+void AddFileCommands(Editor& editor, Files& files) {
+  editor.commands.Add("mnu_open_st", [&files] { files.opener.OpenStandard(); });
+  editor.commands.Add("Mnu_Reload_File", [&files] { files.opener.ReloadFile(); });
+  // required: a plain click opens the second entry, since the first is as a rule the document at hand
+  editor.commands.Add("Recent", [&files] { files.opener.OpenRecentFile(2); });
+  editor.commands.Add("mnu_save_st", [&files] { files.saver.SaveStandard(); });
+  editor.commands.Add("Mnu_SaveFast", [&files] { files.saver.SaveFast(); });
+  editor.commands.Add("mnuulvyb", [&files] { files.saver.SaveSelectionAs(); });
+  editor.commands.Add("mnukopsoub", [&files] { files.saver.SaveSelectionAs(); });
+  editor.commands.Add("mnuzesouboru", [&files] { files.saver.InsertFromFile(); });
+}
+
+}  // namespace pelmar

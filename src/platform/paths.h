@@ -1,0 +1,23 @@
+// Parts of paths. Paths are UTF-8; both "\\" and "/" separate.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace pelmar {
+
+// Part 1 of a path is its folder with the closing separator, 2 the name without extension, 3 the extension; any other
+// number gives "". Throws RuntimeError (EINVAL) for an empty path, and for part 2 of a path
+// whose name holds no full stop.
+std::string FilePart(std::string_view path, int part);
+
+// False for a path whose name holds no full stop, as part 2 refuses it, and for an empty one.
+bool HasExtension(std::string_view path);
+
+// "file:///" and the path, each backslash as "/", nothing encoded. A native absolute path gets three slashes in all.
+std::string PathToFileUrl(std::string_view path);
+
+// Folder and name joined by the separator that the folder is written with, none added where it ends in one.
+std::string JoinPath(std::string_view folder, std::string_view name);
+
+}  // namespace pelmar

@@ -1,0 +1,134 @@
+#include "platform/qt/file_target.h"
+
+#include <unistd.h>
+
+#include <climits>
+#include <cstdlib>
+#include <optional>
+
+#include "platform/qt/file_attributes.h"
+#include "platform/qt/new_file.h"
+
+namespace pelmar {
+namespace {
+
+// Where the path leads once its links are followed; the last one may lead to nothing yet.
+int FollowLinks(std::string& path) {
+  constexpr int kMostLinks = 40;
+  for (int links = 0; links < kMostLinks; ++links) {
+    std::string target(PATH_MAX, '\0');
+    const ssize_t length = readlink(path.c_str(), target.data(), target.size());
+    if (length < 0) return errno == EINVAL || errno == ENOENT ? 0 : errno;
+    target.resize(static_cast<std::size_t>(length));
+    path.resize(target.starts_with('/') ? 0 : path.rfind('/') + 1);
+    path += target;
+  }
+  return ELOOP;
+}
+
+// The refusals that come from the folder, not from the disk or the content.
+bool FolderRefuses(int error) { return error == EACCES || error == EPERM || error == EROFS || error == EBUSY; }
+
+int Fill(int to, const Target& target, const NewContent& content) {
+  Descriptor old;
+  if (content.reads_old && target.kind == Target::kOld) {
+    old = Descriptor(open(target.path.c_str(), O_RDONLY | kOpenSafely));
+    if (!old.IsOpen()) return errno;
+  }
+  if (const int error = content.fill(to, old.Number())) return error;
+  return content.to_disk ? Sync(to) : 0;
+}
+
+// The old content of a file that is written in place.
+class KeptContent {
+ public:
+  int Keep(int file, const Target& target, const std::string& folder) {
+    constexpr std::size_t kLongestName = 200;  // in bytes; one of a file may have 255
+    std::string name = "-" + target.path.substr(target.path.rfind('/') + 1);
+    if (name.size() > kLongestName) name.clear();
+    path_ = folder + "puvodni-XXXXXX" + name;
+    file_ = Descriptor(mkostemps(path_.data(), static_cast<int>(name.size()), O_CLOEXEC));
+    if (!file_.IsOpen()) return errno;
+    int error = CopyWhole(file, file_.Number());
+    if (error == 0) error = Sync(file_.Number());
+    if (error == 0) error = SyncFolder(folder);
+    if (error != 0) Discard();
+    return error;
+  }
+  int PutBack(int file) {
+    const int error = CopyWhole(file_.Number(), file);
+    return error == 0 ? Sync(file) : error;
+  }
+  void Discard() { unlink(path_.c_str()); }
+  [[nodiscard]] const std::string& Path() const { return path_; }
+  [[nodiscard]] int Number() const { return file_.Number(); }
+
+ private:
+  static int SyncFolder(const std::string& folder) {
+    const Descriptor opened(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    return opened.IsOpen() ? Sync(opened.Number()) : errno;
+  }
+
+  std::string path_;
+  Descriptor file_;
+};
+
+// The room for all of it, so that a full disk is met before the first old byte is touched. A file system that can't
+// reserve has said nothing about the room.
+int Reserve(int file, std::uint64_t size) {
+  if (size == 0 || fallocate(file, FALLOC_FL_KEEP_SIZE, 0, static_cast<off_t>(size)) == 0) return 0;
+  return errno == ENOSPC || errno == EDQUOT || errno == EFBIG ? errno : 0;
+}
+
+int Overwrite(int file, const NewContent& content, const KeptContent& kept) {
+  if (lseek(file, 0, SEEK_SET) < 0 || lseek(kept.Number(), 0, SEEK_SET) < 0) return errno;
+  const int error = content.fill(file, content.reads_old ? kept.Number() : -1);
+  return error == 0 ? Sync(file) : error;
+}
+
+}  // namespace
+
+int FindTarget(const std::string& path, Target& target) {
+  target.path = path;
+  if (const int error = FollowLinks(target.path)) return error;
+  if (stat(target.path.c_str(), &target.old) != 0) return errno != ENOENT || target.path.ends_with('/') ? errno : 0;
+  if (S_ISDIR(target.old.st_mode)) return EISDIR;
+  target.kind = S_ISREG(target.old.st_mode) ? Target::kOld : Target::kDevice;
+  if (target.kind == Target::kDevice) return S_ISCHR(target.old.st_mode) || S_ISFIFO(target.old.st_mode) ? 0 : EINVAL;
+  // The rename needs no permission on the old file, but the person has protected it.
+  return faccessat(AT_FDCWD, target.path.c_str(), W_OK, AT_EACCESS) == 0 ? 0 : errno;
+}
+
+Beside WriteBeside(const Target& target, const NewContent& content, mode_t new_mode) {
+  const bool old = target.kind == Target::kOld;
+  // Other names of the file have to lead to the new content too.
+  if (old && target.old.st_nlink > 1) return {.error = EMLINK, .try_in_place = true};
+  ClearLeftFiles(target.path);
+  NewFile file(target.path, old ? 0600 : new_mode);
+  if (file.Error() != 0) return {.error = file.Error(), .try_in_place = old && FolderRefuses(file.Error())};
+  if (old) {
+    const int error = GiveAttributes(file.Number(), target.path, target.old);
+    if (error != 0) return {.error = error, .try_in_place = true};
+  }
+  if (const int error = Fill(file.Number(), target, content)) return {.error = error};
+  const int error = old ? file.TakeNameOf(target.path) : file.TakeNewName(target.path);
+  if (error == 0 || !old || !FolderRefuses(error)) return {.error = error};
+  return {.error = error, .try_in_place = true, .content = Descriptor(fcntl(file.Number(), F_DUPFD_CLOEXEC, 0))};
+}
+
+WriteOutcome WriteInPlace(const Target& target, const NewContent& content, const std::string& keep_folder) {
+  const Descriptor file(open(target.path.c_str(), O_RDWR | O_NOFOLLOW | kOpenSafely));
+  if (!file.IsOpen()) return {.error = errno};
+  if (const int error = Reserve(file.Number(), content.size)) return {.error = error};
+  KeptContent kept;
+  if (const int error = kept.Keep(file.Number(), target, keep_folder)) return {.error = error};
+  const int error = Overwrite(file.Number(), content, kept);
+  if (error != 0 && kept.PutBack(file.Number()) != 0) return {.error = error, .kept = kept.Path()};
+  kept.Discard();
+  // Where the writer isn't the owner, the system has taken the set-id bits away.
+  if (error == 0 && (target.old.st_mode & (S_ISUID | S_ISGID)) != 0)
+    fchmod(file.Number(), target.old.st_mode & kKeptMode);
+  return {.error = error};
+}
+
+}  // namespace pelmar

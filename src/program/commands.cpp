@@ -1,0 +1,23 @@
+#include "program/commands.h"
+
+#include "accessories/morse.h"
+#include "ciphers/commands.h"
+#include "files/files.h"
+#include "html/lists.h"
+#include "html/tag_commands.h"
+#include "html/test_page.h"
+#include "texttools/commands.h"
+
+namespace pelmar {
+
+void AddCommands(Editor& editor, Files& files) {
+  AddFileCommands(editor, files);
+  AddTagCommands(editor);
+  AddTextToolCommands(editor);
+  AddListCommands(editor);
+  AddCipherCommands(editor);
+  AddPageTestCommands(editor);
+  AddMorseCommand(editor);
+}
+
+}  // namespace pelmar

@@ -1,0 +1,57 @@
+#include "shell/rescued_documents.h"
+
+#include <array>
+
+#include "shell/settings_record.h"
+
+namespace pelmar {
+
+static_assert(kRescuePlaces == kTabCount);
+
+RescueRecord UnsavedDocuments(const Documents& documents) {
+  RescueRecord record{documents.SelectedTab(), {}};
+  for (int tab = 1; tab <= kTabCount; ++tab) {
+    if (!documents.IsUnsaved(tab)) continue;
+    // The slot of the current tab always holds its live text; its path may still be that of the tab left before.
+    const std::string& path = tab == documents.SelectedTab() ? documents.CurrentPath() : documents.Slot(tab).Path;
+    record.texts.push_back({tab, path, documents.Slot(tab).Text});
+  }
+  return record;
+}
+
+std::vector<RescuedText> BringBackDocuments(Documents& documents, const std::vector<RescueRecord>& records) {
+  std::array<bool, kTabCount + 1> taken{};
+  for (int tab = 1; tab <= kTabCount; ++tab)
+    taken[static_cast<std::size_t>(tab)] = !documents.Face(tab).ToolTipText.empty();
+  const auto place_of = [&](int wanted) {
+    if (!taken[static_cast<std::size_t>(wanted)]) return wanted;
+    for (int tab = 1; tab <= kTabCount; ++tab)
+      if (!taken[static_cast<std::size_t>(tab)] && documents.Slot(tab).Text.empty()) return tab;
+    return 0;
+  };
+  std::vector<RescuedText> homeless;
+  int selected = documents.SelectedTab();
+  for (const RescueRecord& record : records) {
+    for (const RescuedText& document : record.texts) {
+      const int tab = place_of(document.place);
+      if (tab == 0) {
+        homeless.push_back(document);
+        continue;
+      }
+      taken[static_cast<std::size_t>(tab)] = true;
+      documents.Restore(tab, document.text, document.origin);
+      if (document.place == record.shown) selected = tab;
+    }
+  }
+  documents.SwitchTo(selected);
+  return homeless;
+}
+
+std::string ReadableDocuments(const std::vector<RescuedText>& documents) {
+  std::string text;
+  for (const RescuedText& document : documents)
+    text += "Soubor:" + StoredPath(document.origin) + "\r\n" + document.text + "\r\n\r\n";
+  return text;
+}
+
+}  // namespace pelmar
