@@ -5,7 +5,8 @@ build_packages="build-essential cmake ninja-build ccache qt6-base-dev qt6-tools-
 libgl-dev libx11-dev librsvg2-bin qt6-webengine-dev"
 runtime_packages="libqt6svg6 qt6-qpa-plugins qt6-translations-l10n fonts-dejavu-core xdg-utils"
 test_packages="libgtest-dev libbenchmark-dev python3 xvfb openbox xdotool xclip wmctrl x11-utils
-imagemagick cups-daemon cups-client lintian dpkg-dev appstream desktop-file-utils fakeroot poppler-utils"
+imagemagick cups-daemon cups-client lintian dpkg-dev appstream desktop-file-utils fakeroot poppler-utils
+dbus-daemon at-spi2-core gir1.2-atspi-2.0 python3-gi weston qt6-wayland"
 fuzz_packages="clang libclang-rt-14-dev"
 check_packages="$fuzz_packages clang-tidy git"
 

@@ -101,6 +101,7 @@ void Analytic::Pic_Pointed(double x) {
   const QString text = ReadableText(PointedText(code));
   ui_->Label2->setText(text);
   ui_->Pic->setToolTip(text);
+  ui_->Pic->setAccessibleDescription(QStringLiteral("%1, výška %2 %").arg(text).arg(ui_->Pic->PointedShare()));
 }
 
 void Analytic::Text1_Change() {

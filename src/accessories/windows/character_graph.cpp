@@ -1,14 +1,40 @@
 #include "accessories/windows/character_graph.h"
 
+#include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
 
+#include "platform/qt/controls/accessible_face.h"
+
 namespace pelmar {
+namespace {
+
+// The graph as assistive technology sees it: its value is the code that is pointed at, its description says more.
+class GraphAccessible : public QAccessibleWidget, public QAccessibleValueInterface {
+ public:
+  explicit GraphAccessible(CharacterGraph& graph) : QAccessibleWidget(&graph, QAccessible::Chart), graph_(graph) {}
+
+  void* interface_cast(QAccessible::InterfaceType type) override {
+    if (type == QAccessible::ValueInterface) return static_cast<QAccessibleValueInterface*>(this);
+    return QAccessibleWidget::interface_cast(type);
+  }
+  [[nodiscard]] QVariant currentValue() const override { return graph_.PointedCode(); }
+  void setCurrentValue(const QVariant& code) override { graph_.GoTo(code.toInt()); }
+  [[nodiscard]] QVariant minimumValue() const override { return 0; }
+  [[nodiscard]] QVariant maximumValue() const override { return graph_.LastCode(); }
+  [[nodiscard]] QVariant minimumStepSize() const override { return 1; }
+
+ private:
+  CharacterGraph& graph_;
+};
+
+}  // namespace
 
 CharacterGraph::CharacterGraph(QWidget* parent) : QWidget(parent) {
+  InstallFace<CharacterGraph, GraphAccessible>();
   setMouseTracking(true);
   setFocusPolicy(Qt::StrongFocus);
   setAttribute(Qt::WA_OpaquePaintEvent);
@@ -34,7 +60,21 @@ void CharacterGraph::Point(double x) {
   place_ = x;
   update();
   Q_EMIT Pointed(x);
+  if (!QAccessible::isActive()) return;
+  QAccessibleValueChangeEvent event(this, PointedCode());
+  QAccessible::updateAccessibility(&event);
 }
+
+int CharacterGraph::PointedCode() const { return place_ ? std::max(CodeAt(*place_, wide_), 0) : 0; }
+int CharacterGraph::LastCode() const { return kGraphWidth / BarStep(wide_); }
+
+int CharacterGraph::PointedShare() const {
+  const int x = PointedCode() * BarStep(wide_);
+  const auto bar = std::ranges::find(bars_, x, &Bar::x);
+  return bar == bars_.end() ? 0 : qRound(100 * bar->height / kGraphFull);
+}
+
+void CharacterGraph::GoTo(int code) { Point(std::clamp(code, 0, LastCode()) * BarStep(wide_)); }
 
 void CharacterGraph::mouseMoveEvent(QMouseEvent* event) {
   Point(event->position().x() * kGraphWidth / std::max(width(), 1));
@@ -44,22 +84,20 @@ void CharacterGraph::mouseMoveEvent(QMouseEvent* event) {
 void CharacterGraph::mousePressEvent(QMouseEvent* event) { event->accept(); }
 
 void CharacterGraph::keyPressEvent(QKeyEvent* event) {
-  const int last = kGraphWidth / BarStep(wide_);
-  const int code = place_ ? std::max(CodeAt(*place_, wide_), 0) : 0;
-  const auto go_to = [&](int to) { Point(std::clamp(to, 0, last) * BarStep(wide_)); };
+  const int code = PointedCode();
   switch (event->key()) {
     case Qt::Key_Left:
-      return go_to(code - 1);
+      return GoTo(code - 1);
     case Qt::Key_Right:
-      return go_to(code + 1);
+      return GoTo(code + 1);
     case Qt::Key_PageUp:
-      return go_to(code - 16);
+      return GoTo(code - 16);
     case Qt::Key_PageDown:
-      return go_to(code + 16);
+      return GoTo(code + 16);
     case Qt::Key_Home:
-      return go_to(0);
+      return GoTo(0);
     case Qt::Key_End:
-      return go_to(last);
+      return GoTo(LastCode());
     default:
       QWidget::keyPressEvent(event);
   }
@@ -78,7 +116,7 @@ void CharacterGraph::PaintColumn(QPainter& painter, double x, double top, const 
 void CharacterGraph::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), Qt::white);
-  if (place_) PaintColumn(painter, std::max(CodeAt(*place_, wide_), 0) * BarStep(wide_), 0, QColor(150, 195, 240));
+  if (place_) PaintColumn(painter, PointedCode() * BarStep(wide_), 0, QColor(150, 195, 240));
   for (const Bar& bar : bars_) PaintColumn(painter, bar.x, kGraphFull - bar.height, Qt::black);
   const QColor frame = palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid);
   for (const QRect& edge : {QRect(0, 0, width(), 1), QRect(0, height() - 1, width(), 1), QRect(0, 0, 1, height()),

@@ -23,6 +23,12 @@ class CharacterGraph : public QWidget {
   // No place is pointed at.
   void ForgetPlace();
 
+  // The code that is pointed at, 0 where none is, and how high its bar stands, in percent.
+  [[nodiscard]] int PointedCode() const;
+  [[nodiscard]] int PointedShare() const;
+  [[nodiscard]] int LastCode() const;
+  void GoTo(int code);
+
  Q_SIGNALS:
   void Pointed(double x);  // in the graph's scale
 

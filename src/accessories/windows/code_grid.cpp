@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QPainter>
 
+#include "platform/qt/controls/accessible_face.h"
 #include "platform/qt/glyph_table.h"
 #include "text/codepage.h"
 
@@ -36,7 +37,7 @@ void CodeGrid::changeEvent(QEvent* event) {
   update();
 }
 
-CodePreview::CodePreview(QWidget* parent) : QWidget(parent) {}
+CodePreview::CodePreview(QWidget* parent) : QWidget(parent) { SetAccessibleRole(*this, QAccessible::Graphic); }
 
 CodePreview::~CodePreview() = default;
 

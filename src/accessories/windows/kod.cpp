@@ -17,6 +17,8 @@ namespace {
 QString Character(int code) { return TextToQString(std::string(1, CharOf(code))); }
 QString Readable(int code) { return ReadableText(std::string(1, CharOf(code))); }
 
+QString SpokenName(int code) { return QStringLiteral("%1, kód %2").arg(Readable(code)).arg(code); }
+
 // As everywhere, what is selected stays, behind the new text.
 void InsertInto(QLineEdit& field, const QString& text) {
   if (field.hasSelectedText()) field.setCursorPosition(field.selectionStart());
@@ -47,6 +49,7 @@ Kod::Kod(TextBuffer& document, std::function<void(const QKeyEvent&)> stroke_main
           [this](int row, int column) { Point(CodeGrid::CodeAt(row, column)); });
   connect(ui_->Picture1, &CellGrid::CellChosen, this,
           [this](int row, int column) { Choose(CodeGrid::CodeAt(row, column)); });
+  ui_->Picture1->NameCells([](int row, int column) { return SpokenName(CodeGrid::CodeAt(row, column)); });
   new KeyPreview(*this, [this](const QKeyEvent& event) { return TypedKey(event); });
 }
 
@@ -80,7 +83,7 @@ void Kod::Point(int code) {
   ui_->Label7->setText(Utf8ToQString(HexByte(code)));
   ui_->Label8->setText(Utf8ToQString(CharacterReference(code)));
   ui_->Picture2->SetCode(code);
-  ui_->Picture1->setAccessibleDescription(Readable(code) + QStringLiteral(", kód ") + QString::number(code));
+  ui_->Picture2->setAccessibleDescription(SpokenName(code));
 }
 
 void Kod::Choose(int code) {

@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QToolButton>
 
+#include "platform/qt/controls/accessible_face.h"
 #include "platform/qt/controls/tab_keys.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/outer_geometry.h"
@@ -50,6 +51,7 @@ bool TellsOfMove(const QEvent& event) {
 Poznamka::Poznamka(Surroundings around)
     : around_(std::move(around)), ui_(std::make_unique<Ui::Poznamka>()), keeper_(Unsaved(), around_.platform) {
   ui_->setupUi(this);
+  SetAccessibleRole(*this, QAccessible::Window);
   CentreOnScreen(*this);
   SetAlwaysOnTop(*this, true);
   ui_->Text1->setFont(FontOf(around_.main.Look()));

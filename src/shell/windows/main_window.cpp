@@ -54,11 +54,13 @@ MainWindow::MainWindow(Editor& editor, Opener& opener)
 
 void MainWindow::MakeControls() {
   menus_ = new MenuBar(editor_.commands, this);
+  menus_->setAccessibleName(QStringLiteral("Hlavní nabídka"));
   setMenuBar(menus_);
   client_ = new QWidget(this);
   setCentralWidget(client_);
   client_->installEventFilter(this);
   toolbar_ = new MainToolbar(editor_.commands, opener_, client_);
+  toolbar_->setAccessibleName(QStringLiteral("Panel nástrojů"));
   tabs_ = new FileTab(client_);
   text_ = new TextBox(client_);
   text_->setObjectName(QStringLiteral("Text1"));
@@ -68,6 +70,7 @@ void MainWindow::MakeControls() {
   text_->SetCaretStays(true);
   text_->installEventFilter(this);
   bar_ = new StatusStrip(client_);
+  bar_->setAccessibleName(QStringLiteral("Stavový řádek"));
   bar_->raise();
   connect(tabs_, &QTabBar::currentChanged, this, [this](int index) { editor_.documents.SwitchTo(index + 1); });
   // The lower, right-hand menus of the main menu are pop-ups too.

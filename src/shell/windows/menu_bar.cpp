@@ -35,6 +35,7 @@ MenuBar::MenuBar(const Commands& commands, QWidget* parent) : QMenuBar(parent), 
     QAction* action = nullptr;
     if (item.kind == MenuKind::kSubmenu) {
       auto* menu = new QMenu(caption, this);
+      menu->setAccessibleName(QString(caption).remove(QLatin1Char('&')));
       action = menu->menuAction();
       open.push_back(menu);
     } else {

@@ -19,6 +19,7 @@ Pos::Pos(MainView& main, QWidget* parent) : DialogWindow(parent), main_(main), u
     main_.SetNormalState();
     main_.MoveTo(place_of(row, column).place);
   });
+  ui_->Picture1->NameCells([place_of](int row, int column) { return Utf8ToQString(place_of(row, column).name); });
   connect(ui_->Command1, &QPushButton::clicked, this, &Pos::hide);
 }
 

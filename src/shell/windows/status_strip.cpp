@@ -78,9 +78,17 @@ void StatusStrip::Show(const PanelTexts& texts) {
 }
 
 void StatusStrip::Show(const KeyStates& keys) {
-  panels_[4]->setEnabled(keys.caps);
-  panels_[5]->setEnabled(keys.num);
-  panels_[6]->setEnabled(keys.insert);
+  ShowKey(4, keys.caps);
+  ShowKey(5, keys.num);
+  ShowKey(6, keys.insert);
+}
+
+// Who sees the panel knows the state by its grey, who listens by its name.
+void StatusStrip::ShowKey(std::size_t at, bool on) {
+  StatusPanel& panel = *panels_[at];
+  if (panel.isEnabled() == on && !panel.accessibleName().isEmpty()) return;
+  panel.setEnabled(on);
+  panel.setAccessibleName(kTips[at].toString() + (on ? QStringLiteral(" zapnuto") : QStringLiteral(" vypnuto")));
 }
 
 void StatusStrip::SetNotice(const QString& text) {

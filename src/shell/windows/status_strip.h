@@ -61,6 +61,7 @@ class StatusStrip : public QStatusBar {
 
  private:
   void Place();
+  void ShowKey(std::size_t at, bool on);
   void PlaceNotice();
 
   std::array<StatusPanel*, kPanelCount> panels_{};

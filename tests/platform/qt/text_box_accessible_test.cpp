@@ -103,8 +103,9 @@ TEST_F(Accessible, ChangesAreTold) {
   box.SetSelLength(2);
   box.SetSelText("xy\r\n");
   box.SetText("");
-  EXPECT_EQ(teller.told, (std::vector<std::string>{"inserted abc", "selection 1-1", "caret 1", "selection 1-3",
-                                                   "caret 3", "1 -bc +xy\r\n", "0 -axy\r\n +"}));
+  EXPECT_EQ(teller.told,
+            (std::vector<std::string>{"inserted abc", "caret 0", "selection 1-1", "caret 1", "selection 1-3", "caret 3",
+                                      "1 -bc +xy\r\n", "caret 5", "0 -axy\r\n +", "caret 0"}));
 }
 
 }  // namespace

@@ -54,10 +54,17 @@ QList<QWidget*> Controls(const QWidget& window) {
 }
 
 void ExpectNames(const QWidget& window) {
+  EXPECT_NE(QAccessible::queryAccessibleInterface(const_cast<QWidget*>(&window))->role(), QAccessible::Client);
   for (QWidget* control : Controls(window)) {
     const QAccessibleInterface* face = QAccessible::queryAccessibleInterface(control);
-    EXPECT_TRUE(face != nullptr && !face->text(QAccessible::Name).isEmpty())
-        << Named(*control).toStdString() << " has no accessible name";
+    ASSERT_NE(face, nullptr) << Named(*control).toStdString();
+    const QString name = face->text(QAccessible::Name);
+    // The name of a box to choose from is what it holds.
+    const bool spoken = qobject_cast<QComboBox*>(control)
+                            ? !face->relations(QAccessible::Label).isEmpty()
+                            : std::any_of(name.begin(), name.end(), [](QChar ch) { return ch.isLetterOrNumber(); });
+    EXPECT_TRUE(spoken) << Named(*control).toStdString() << " has no name but \"" << name.toStdString() << '"';
+    EXPECT_NE(face->role(), QAccessible::Client) << Named(*control).toStdString() << " has no role";
   }
 }
 

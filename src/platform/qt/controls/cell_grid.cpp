@@ -5,11 +5,15 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "platform/qt/controls/accessible_face.h"
+#include "platform/qt/controls/cell_grid_accessible.h"
+
 namespace pelmar {
 
 CellGrid::CellGrid(int cells, QWidget* parent) : QWidget(parent), cells_(cells) {
   setMouseTracking(true);
   setFocusPolicy(Qt::StrongFocus);
+  InstallFace<CellGrid, CellGridAccessible>();
 }
 
 void CellGrid::Clear() {
@@ -37,6 +41,19 @@ void CellGrid::Enter(int row, int column) {
 void CellGrid::GoByKeys(int rows, int columns) {
   by_keys_ = true;
   Enter(std::max(row_ + rows, 1), std::max(column_ + columns, 1));
+  if (!QAccessible::isActive()) return;
+  QAccessibleEvent event(this, QAccessible::Focus);
+  event.setChild(Marked());
+  QAccessible::updateAccessibility(&event);
+}
+
+QString CellGrid::CellName(int number) const {
+  return name_ ? name_(number / cells_ + 1, number % cells_ + 1) : QString::number(number);
+}
+
+void CellGrid::Choose(int number) {
+  Enter(number / cells_ + 1, number % cells_ + 1);
+  Q_EMIT CellChosen(row_, column_);
 }
 
 void CellGrid::mouseMoveEvent(QMouseEvent* event) {

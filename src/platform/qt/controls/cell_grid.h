@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QWidget>
+#include <functional>
 
 namespace pelmar {
 
@@ -17,6 +18,17 @@ class CellGrid : public QWidget {
   [[nodiscard]] bool MarkedByKeys() const { return row_ > 0 && by_keys_; }
   // No cell is marked.
   void Clear();
+  // What a cell is called by who can't see it.
+  void NameCells(std::function<QString(int row, int column)> name) { name_ = std::move(name); }
+
+  // Cells by their numbers in reading order, from 0; -1 where none is marked.
+  [[nodiscard]] int Cells() const { return cells_; }  // in each row and each column
+  [[nodiscard]] int Marked() const { return row_ > 0 ? (row_ - 1) * cells_ + column_ - 1 : -1; }
+  [[nodiscard]] QString CellName(int number) const;
+  void Choose(int number);
+
+  [[nodiscard]] QPoint CellAt(QPoint point) const;  // column and row
+  [[nodiscard]] QRect CellRect(int row, int column) const;
 
  Q_SIGNALS:
   void CellEntered(int row, int column);
@@ -38,9 +50,8 @@ class CellGrid : public QWidget {
 
   void Enter(int row, int column);
   void GoByKeys(int rows, int columns);
-  [[nodiscard]] QPoint CellAt(QPoint point) const;
-  [[nodiscard]] QRect CellRect(int row, int column) const;
 
+  std::function<QString(int row, int column)> name_;
   int cells_ = kCells;
   int row_ = 0;
   int column_ = 0;

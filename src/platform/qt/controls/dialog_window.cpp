@@ -11,6 +11,7 @@
 #include <QShowEvent>
 #include <QToolButton>
 
+#include "platform/qt/controls/accessible_face.h"
 #include "platform/qt/controls/text_box.h"
 #include "platform/qt/outer_geometry.h"
 #include "platform/qt/placement.h"
@@ -119,6 +120,7 @@ void DialogWindow::Prepare() {
   ShowProgramIcon();
   FitScreen(*this);
   CentreOnScreen(*this);
+  LabelBoxes(*this);
   for (QWidget* widget : findChildren<QWidget*>()) {
     if (!HoldsValue(*widget)) continue;
     widget->installEventFilter(this);

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 
+#include "platform/qt/controls/accessible_face.h"
 #include "platform/twips.h"
 
 namespace pelmar {
@@ -23,6 +24,8 @@ void Swatch::paintEvent(QPaintEvent*) {
   painter.drawRect(rect().adjusted(2, 2, -2, -2));
 }
 
+GradientBar::GradientBar(QWidget* parent) : QWidget(parent) { SetAccessibleRole(*this, QAccessible::Graphic); }
+
 void GradientBar::SetColors(const QColor& top, const QColor& bottom) {
   top_ = top;
   bottom_ = bottom;
@@ -38,6 +41,8 @@ void GradientBar::paintEvent(QPaintEvent*) {
   painter.setPen(palette().color(QPalette::Mid));
   painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
+
+ValueBar::ValueBar(QWidget* parent) : QWidget(parent) { SetAccessibleRole(*this, QAccessible::Graphic); }
 
 void ValueBar::SetTwips(int twips) {
   twips_ = twips;

@@ -30,7 +30,7 @@ class GradientBar : public QWidget {
   Q_OBJECT
 
  public:
-  explicit GradientBar(QWidget* parent = nullptr) : QWidget(parent) {}
+  explicit GradientBar(QWidget* parent = nullptr);
 
   void SetColors(const QColor& top, const QColor& bottom);
 
@@ -47,7 +47,7 @@ class ValueBar : public QWidget {
   Q_OBJECT
 
  public:
-  explicit ValueBar(QWidget* parent = nullptr) : QWidget(parent) {}
+  explicit ValueBar(QWidget* parent = nullptr);
 
   void SetTwips(int twips);
   QSize sizeHint() const override { return {104, 18}; }

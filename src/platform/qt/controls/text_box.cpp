@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "platform/qt/clipboard_text.h"
+#include "platform/qt/controls/accessible_face.h"
 #include "platform/qt/controls/text_box_accessible.h"
 #include "platform/qt/convert.h"
 
@@ -35,7 +36,7 @@ TextBox::TextBox(QWidget* parent)
       mouse_(*this),
       drop_(*this),
       teller_(std::make_unique<TextBoxTeller>(*this)) {
-  InstallTextBoxAccessible();
+  InstallFace<TextBox, TextBoxAccessible>();
   setFocusPolicy(Qt::WheelFocus);
   setAttribute(Qt::WA_InputMethodEnabled);
   setInputMethodHints(Qt::ImhMultiLine);

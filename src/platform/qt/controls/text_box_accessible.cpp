@@ -8,11 +8,6 @@
 namespace pelmar {
 namespace {
 
-QAccessibleInterface* MakeAccessible(const QString& /*class_name*/, QObject* object) {
-  auto* box = qobject_cast<TextBox*>(object);
-  return box == nullptr ? nullptr : new TextBoxAccessible(*box);
-}
-
 // An offset from outside; -1 and -2 stand for the end and the caret, as the protocol has it.
 std::size_t PosOf(int offset, const TextBuffer& buffer) {
   if (offset == -2) return buffer.Caret();
@@ -21,14 +16,6 @@ std::size_t PosOf(int offset, const TextBuffer& buffer) {
 }
 
 }  // namespace
-
-void InstallTextBoxAccessible() {
-  static const bool installed = [] {
-    QAccessible::installFactory(&MakeAccessible);
-    return true;
-  }();
-  Q_UNUSED(installed);
-}
 
 TextBoxAccessible::TextBoxAccessible(TextBox& box) : QAccessibleWidget(&box, QAccessible::EditableText), box_(box) {}
 
@@ -177,13 +164,14 @@ void TextBoxTeller::Changed(const TextChange& change) {
     event.setCursorPosition(static_cast<int>(box_.Buffer().Caret()));
     Send(event);
     told_.replace(change.pos, change.removed, inserted);
-    return;
+  } else {
+    told_ = text;
+    knows_text_ = true;
+    QAccessibleTextInsertEvent event(&box_, static_cast<int>(change.pos), TextToQString(inserted));
+    event.setCursorPosition(static_cast<int>(box_.Buffer().Caret()));
+    Send(event);
   }
-  told_ = text;
-  knows_text_ = true;
-  QAccessibleTextInsertEvent event(&box_, static_cast<int>(change.pos), TextToQString(inserted));
-  event.setCursorPosition(static_cast<int>(box_.Buffer().Caret()));
-  Send(event);
+  TellCaret();
 }
 
 void TextBoxTeller::CaretMoved() {
@@ -195,6 +183,11 @@ void TextBoxTeller::CaretMoved() {
   QAccessibleTextSelectionEvent selection(&box_, box_.SelStart(), box_.SelStart() + box_.SelLength());
   selection.setCursorPosition(static_cast<int>(box_.Buffer().Caret()));
   Send(selection);
+  TellCaret();
+}
+
+// The text events carry the place too, but magnifiers and braille displays follow this one alone.
+void TextBoxTeller::TellCaret() {
   QAccessibleTextCursorEvent caret(&box_, static_cast<int>(box_.Buffer().Caret()));
   Send(caret);
 }

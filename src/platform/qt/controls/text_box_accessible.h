@@ -63,12 +63,11 @@ class TextBoxTeller {
   virtual void Send(QAccessibleEvent& event) { QAccessible::updateAccessibility(&event); }
 
  private:
+  void TellCaret();
+
   TextBox& box_;
   std::string told_;  // the text as last told: whoever listens wants to hear what was removed
   bool knows_text_ = false;
 };
-
-// Makes the interface known to the toolkit; once is enough.
-void InstallTextBoxAccessible();
 
 }  // namespace pelmar

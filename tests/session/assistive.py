@@ -1,0 +1,160 @@
+"""The program as assistive technology meets it, over the accessibility bus: its tree of objects, what can be done to
+them, and the events that it sends. The bus is one of the test's own and needs no screen.
+
+A test that uses it ends in run_on_bus(), in the place of unittest.main().
+"""
+
+import os
+import subprocess
+import sys
+import tempfile
+import time
+import unittest
+
+from harness import PATIENCE, POLL
+
+ON_BUS = "PELMAR_ON_BUS"
+LONG = 1000 * int(PATIENCE)  # milliseconds
+if ON_BUS in os.environ:
+    import gi
+    gi.require_version("Atspi", "2.0")
+    from gi.repository import Atspi, GLib
+else:
+    Atspi = GLib = None
+
+
+def run_on_bus():
+    """Runs the tests on a message bus of their own, by the distribution's Python, which has the bindings."""
+    if ON_BUS in os.environ:
+        unittest.main()
+    with tempfile.TemporaryDirectory(prefix="pelmar-bus-") as folder:
+        env = {**os.environ, ON_BUS: "1", "XDG_RUNTIME_DIR": folder, "XDG_CACHE_HOME": folder}
+        sys.exit(subprocess.call(["dbus-run-session", "--", "/usr/bin/python3", "-B", "-W", "ignore::DeprecationWarning", *sys.argv], env=env))
+
+
+def program_environment():
+    """What a program under test needs to be heard."""
+    return {"DBUS_SESSION_BUS_ADDRESS": os.environ["DBUS_SESSION_BUS_ADDRESS"], "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
+
+
+def wait_for(check, what, patience=PATIENCE):
+    """Calls check() until it gives something true, and returns that. Events come in meanwhile."""
+    deadline = time.monotonic() + patience
+    while True:
+        while GLib.MainContext.default().iteration(False):
+            pass
+        try:
+            if result := check():
+                return result
+        except GLib.GError:
+            pass  # what was asked is gone meanwhile
+        if time.monotonic() > deadline:
+            raise AssertionError(f"waited for {what() if callable(what) else what} in vain")
+        time.sleep(POLL)
+
+
+def children(node):
+    found = (node.get_child_at_index(number) for number in range(node.get_child_count()))
+    return [child for child in found if child is not None]
+
+
+def walk(node):
+    """The node and all that lies below it."""
+    yield node
+    for child in children(node):
+        yield from walk(child)
+
+
+def shows(node):
+    return node.get_state_set().contains(Atspi.StateType.SHOWING)
+
+
+def can_focus(node):
+    return node.get_state_set().contains(Atspi.StateType.FOCUSABLE)
+
+
+def face(node):
+    return node.get_role_name(), node.get_name()
+
+
+def labels_of(node):
+    """The texts of the labels that the node is told to have."""
+    return [relation.get_target(number).get_name() for relation in node.get_relation_set()
+            if relation.get_relation_type() == Atspi.RelationType.LABELLED_BY
+            for number in range(relation.get_n_targets())]
+
+
+def press(node):
+    """Does what the node is for. Where that asks a question, the answer to this call comes only behind it."""
+    Atspi.set_timeout(300, 300)
+    try:
+        node.do_action(0)
+    except GLib.GError:
+        pass
+    Atspi.set_timeout(LONG, LONG)
+
+
+class Program:
+    """The program that runs on the bus."""
+
+    def windows(self):
+        desktop = Atspi.get_desktop(0)
+        return [window for program in children(desktop) if program.get_name() == "pelmar-vex"
+                for window in children(program)]
+
+    def window(self, title):
+        """Waits for a window on show whose title begins so, and gives it."""
+        return wait_for(lambda: next((one for one in self.windows() if one.get_name().startswith(title) and shows(one)),
+                                     None), lambda: f"window {title!r} among {[face(one) for one in self.windows()]}")
+
+    def gone(self, title):
+        wait_for(lambda: not any(one.get_name().startswith(title) and shows(one) for one in self.windows()),
+                 f"the end of window {title!r}")
+
+    def find(self, window, role, name):
+        """Waits for the object of this role and name in the window of this title."""
+        def look():
+            return next((node for node in walk(self.window(window)) if face(node) == (role, name)), None)
+        return wait_for(look, f"{role} {name!r} in {window!r}")
+
+    def menu(self, caption, window="Pelmar VEX"):
+        """Does what the menu item says, once it is enabled."""
+        item = self.find(window, "menu item", caption)
+        wait_for(lambda: item.get_state_set().contains(Atspi.StateType.ENABLED), f"menu item {caption!r} to be enabled")
+        press(item)
+
+    def push_menu(self, caption):
+        """Opens a menu of the menu bar, or closes it."""
+        press(self.find("Pelmar VEX", "menu item", caption))
+
+    def push(self, window, button):
+        press(self.find(window, "push button", button))
+
+
+class Ears:
+    """Hears the events of these types until the block ends."""
+
+    def __init__(self, *types):
+        self.types = types
+        self.heard = []  # (type, name of the source, detail)
+
+    def __enter__(self):
+        self.listener = Atspi.EventListener.new(self._hear)
+        for one in self.types:
+            self.listener.register(one)
+        return self
+
+    def __exit__(self, *_):
+        for one in self.types:
+            self.listener.deregister(one)
+
+    def _hear(self, event, *_):
+        self.heard.append((event.type, event.source.get_name(), event.detail1))
+
+    def wait(self, *expected):
+        """Waits until these events were heard, in this order, whatever came between; forgets all until then."""
+        def all_heard():
+            rest = iter(self.heard)
+            return all(one in rest for one in expected)
+        wait_for(all_heard, lambda: f"{expected} in {self.heard}")
+        self.heard.clear()
