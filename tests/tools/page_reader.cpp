@@ -1,9 +1,10 @@
 // Reads web pages as a person sees them, through the program's own browser module.
 //
-//   page_reader FILE...
+//   page_reader [--linger MS] FILE...
 //
 // Prints a JSON list with an object for each file: "file", "title", "text" (the visible words, those of frames too) and
 // "address" (where the page ended up). Exits with status 1 where the module is missing or a page doesn't come.
+// With --linger each page stays for a while after it has come.
 #include <QApplication>
 #include <QFileInfo>
 #include <QJsonArray>
@@ -23,7 +24,7 @@ constexpr int kPatience = 30'000;  // ms for each page
 
 class Reader {
  public:
-  Reader(WebViewMaker& maker, QStringList files) : view_(maker.Make(&window_)), files_(std::move(files)) {
+  Reader(WebViewMaker& maker, QStringList files, int linger) : view_(maker.Make(&window_)), files_(std::move(files)) {
     window_.resize(800, 600);
     view_->Widget()->resize(window_.size());
     window_.show();
@@ -32,7 +33,11 @@ class Reader {
       std::fprintf(stderr, "page_reader: %s doesn't come\n", qUtf8Printable(files_.constFirst()));
       QCoreApplication::exit(1);
     });
-    view_->on_finished = [this] { view_->ReadText([this](const QString& text) { Note(text); }); };
+    linger_.setSingleShot(true);
+    linger_.setInterval(linger);
+    QObject::connect(&linger_, &QTimer::timeout, qApp,
+                     [this] { view_->ReadText([this](const QString& text) { Note(text); }); });
+    view_->on_finished = [this] { linger_.start(); };
     Next();
   }
 
@@ -58,7 +63,7 @@ class Reader {
   std::unique_ptr<WebView> view_;
   QStringList files_;
   QJsonArray pages_;
-  QTimer patience_;
+  QTimer patience_, linger_;
 };
 
 int Main(int argc, char** argv) {
@@ -70,7 +75,13 @@ int Main(int argc, char** argv) {
     std::fprintf(stderr, "page_reader: %s\n", qUtf8Printable(module.Problem()));
     return 1;
   }
-  const Reader reader(*maker, QCoreApplication::arguments().mid(1));
+  QStringList files = QCoreApplication::arguments().mid(1);
+  int linger = 0;
+  if (files.value(0) == QLatin1String("--linger")) {
+    linger = files.value(1).toInt();
+    files = files.mid(2);
+  }
+  const Reader reader(*maker, files, linger);
   return QCoreApplication::exec();
 }
 

@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QLoggingCategory>
+#include <QNetworkProxy>
 #include <QOpenGLContext>
 #include <QQuickWindow>
 #include <cerrno>
@@ -17,6 +18,15 @@ namespace pelmar {
 namespace {
 
 constexpr char kFlags[] = "QTWEBENGINE_CHROMIUM_FLAGS";
+// All that reaches the net goes over TCP and through the program's gate, which also asks for the names of hosts.
+constexpr char kOnlyThroughTheGate[] =
+    " --force-webrtc-ip-handling-policy=disable_non_proxied_udp --disable-quic --dns-prefetch-disable"
+    " --host-resolver-rules=\"MAP * ~NOTFOUND, EXCLUDE ";
+// What the engine would follow before it looks at the variable of the gate. A desktop's own settings are among it.
+constexpr const char* kBeforeTheGate[] = {
+    "auto_proxy",    "AUTO_PROXY",          "all_proxy",       "ALL_PROXY",        "http_proxy",
+    "HTTP_PROXY",    "https_proxy",         "HTTPS_PROXY",     "ftp_proxy",        "FTP_PROXY",
+    "SOCKS_VERSION", "XDG_CURRENT_DESKTOP", "DESKTOP_SESSION", "KDE_FULL_SESSION", "GNOME_DESKTOP_SESSION_ID"};
 constexpr char kNoSandbox[] = "QTWEBENGINE_DISABLE_SANDBOX";
 
 // The sandbox needs a user name space of its own, and refuses root. Without one the engine would end the whole program.
@@ -42,7 +52,11 @@ void ShareEmptyContext() {
 
 ScopedVariable::ScopedVariable(const char* name, const QByteArray& value) : name_(name) {
   if (qEnvironmentVariableIsSet(name)) old_ = qgetenv(name);
-  qputenv(name, value);
+  if (value.isNull()) {
+    qunsetenv(name);
+  } else {
+    qputenv(name, value);
+  }
 }
 
 ScopedVariable::~ScopedVariable() {
@@ -53,9 +67,16 @@ ScopedVariable::~ScopedVariable() {
   }
 }
 
-EngineStart::EngineStart() : flags_(kFlags, qgetenv(kFlags) + " --disable-gpu --lang=cs") {
-  if (!SandboxWorks()) no_sandbox_.emplace(kNoSandbox, "1");
+EngineStart::EngineStart(const NetGate& gate) {
+  const auto set = [this](const char* name, const QByteArray& value) { variables_.emplace_back(name, value); };
+  set(kFlags, qgetenv(kFlags) + " --disable-gpu --lang=cs" + kOnlyThroughTheGate + kGateHost + "\"");
+  set("SOCKS_SERVER", gate.Address());
+  // Servers of this machine too.
+  set("no_proxy", "<-loopback>");
+  for (const char* name : kBeforeTheGate) set(name, QByteArray());
+  if (!SandboxWorks()) set(kNoSandbox, "1");
   ShareEmptyContext();
+  QNetworkProxyFactory::setUseSystemConfiguration(true);
   QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
   // Reports of its start go to its standard error, and to nobody's use.
   QLoggingCategory::setFilterRules(QStringLiteral("default=false\nqt.webenginecontext=false"));

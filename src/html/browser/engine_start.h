@@ -2,11 +2,14 @@
 #pragma once
 
 #include <QByteArray>
+#include <list>
 #include <optional>
+
+#include "html/browser/net_gate.h"
 
 namespace pelmar {
 
-// A variable of the environment, set while this lives.
+// A variable of the environment, set, or not there for a null value, while this lives.
 class ScopedVariable {
  public:
   ScopedVariable(const char* name, const QByteArray& value);
@@ -23,14 +26,13 @@ class ScopedVariable {
 // that this one starts aren't touched.
 class EngineStart {
  public:
-  EngineStart();
+  explicit EngineStart(const NetGate& gate);
   EngineStart(const EngineStart&) = delete;
   EngineStart& operator=(const EngineStart&) = delete;
   ~EngineStart();
 
  private:
-  ScopedVariable flags_;
-  std::optional<ScopedVariable> no_sandbox_;
+  std::list<ScopedVariable> variables_;
 };
 
 }  // namespace pelmar

@@ -13,8 +13,9 @@ class BrowserPlugin : public QObject, public WebViewMaker {
 
  public:
   std::unique_ptr<WebView> Make(QWidget* parent) override {
-    const EngineStart start;
-    return std::make_unique<WebEngineView>(parent);
+    auto gate = std::make_unique<NetGate>();
+    const EngineStart start(*gate);
+    return std::make_unique<WebEngineView>(std::move(gate), parent);
   }
 };
 

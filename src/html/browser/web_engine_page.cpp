@@ -1,7 +1,10 @@
 #include "html/browser/web_engine_page.h"
 
 #include <QAction>
+#include <QCheckBox>
+#include <QCoreApplication>
 #include <QInputDialog>
+#include <QLayout>
 #include <QMessageBox>
 #include <QWebEngineCertificateError>
 #include <QWebEngineClientCertificateSelection>
@@ -14,30 +17,40 @@
 #include <QWebEngineView>
 #include <utility>
 
+#include "html/windows/web_address.h"
+
 namespace pelmar {
 namespace {
 
 QString Title() { return QStringLiteral("Zpráva stránky"); }
 
-constexpr int kLongestShown = 300;  // characters of an address in a question
+// The engine's own question, asked as a page's.
+constexpr char kLeaving[] = "Are you sure you want to leave this page? Changes that you made may not be saved.";
+constexpr int kLongestShown = 300;      // characters of an address in a question
+constexpr int kMostUnasked = 2;         // questions before a page may be silenced
+constexpr int kLongestQuestion = 2000;  // characters of a page's own words
 
 bool IsOfTheNet(const QUrl& address) {
   return address.scheme() == QLatin1String("http") || address.scheme() == QLatin1String("https");
 }
 
-QMessageBox::StandardButton Ask(QWebEnginePage* page, const QString& text, QMessageBox::StandardButtons buttons,
-                                QMessageBox::StandardButton default_button = QMessageBox::Ok) {
-  QMessageBox box(QMessageBox::NoIcon, Title(), text, buttons, QWebEngineView::forPage(page));
-  box.setTextFormat(Qt::PlainText);
-  box.setDefaultButton(default_button);
-  return static_cast<QMessageBox::StandardButton>(box.exec());
+// What a frame of a page may hold besides.
+bool MayBeFramed(const QUrl& address) {
+  return MayBeShown(address) || address.scheme() == QLatin1String("about") || address.scheme() == QLatin1String("blob");
 }
 
 }  // namespace
 
-WebEnginePage::WebEnginePage(QWebEngineProfile* profile, QObject* parent) : QWebEnginePage(profile, parent) {
+WebEnginePage::WebEnginePage(QWebEngineProfile* profile, NetGate& gate, QObject* parent)
+    : QWebEnginePage(profile, parent), gate_(gate) {
   settings()->setDefaultTextEncoding(QStringLiteral("windows-1250"));
+  settings()->setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
   settings()->setAttribute(QWebEngineSettings::LocalContentCanAccessFileUrls, true);
+  // Not for good: what the engine's own rule stops, nobody hears of. The refusal and the gate hold it back.
+  settings()->setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, true);
+  settings()->setAttribute(QWebEngineSettings::HyperlinkAuditingEnabled, false);
+  // A window only where the person has clicked: a page could ask for them without end.
+  settings()->setAttribute(QWebEngineSettings::JavascriptCanOpenWindows, false);
   settings()->setAttribute(QWebEngineSettings::FocusOnNavigationEnabled, false);
   NameActions();
   RefuseRequests();
@@ -51,7 +64,8 @@ void WebEnginePage::OpenHere(const QUrl& address) {
   if (IsOfTheNet(address) || (address.isLocalFile() && url().isLocalFile())) load(address);
 }
 
-bool WebEnginePage::LeavesTheDisk(const QUrl& address) const { return url().isLocalFile() && IsOfTheNet(address); }
+// All that isn't of the net counts as local: an empty page can have been opened by a local one.
+bool WebEnginePage::LeavesTheDisk(const QUrl& address) const { return !IsOfTheNet(url()) && IsOfTheNet(address); }
 
 // The scripts of a local page may read other local files, and an address can carry them away. So such a page reaches
 // the net only where the person has seen the address.
@@ -61,17 +75,37 @@ void WebEnginePage::AskToLeaveTheDisk(const QUrl& address) {
     const QString shown = address.toString(QUrl::FullyEncoded);
     const bool all = shown.size() <= kLongestShown;
     const QString text = question.arg(all ? shown : shown.left(kLongestShown) + QStringLiteral(" ..."));
-    if (Ask(this, text, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes) load(address);
+    if (AskInBox(QStringLiteral("Pelmar VEX"), text, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) && on_leave)
+      on_leave(address);
   };
   // Not within the engine's own call.
   QMetaObject::invokeMethod(this, ask, Qt::QueuedConnection);
 }
 
 bool WebEnginePage::acceptNavigationRequest(const QUrl& address, NavigationType type, bool is_main_frame) {
-  const bool by_page = type == NavigationTypeLinkClicked || type == NavigationTypeOther;
-  if (!is_main_frame || !by_page || !LeavesTheDisk(address)) return true;
-  AskToLeaveTheDisk(address);
-  return false;
+  if (!is_main_frame) return MayBeFramed(address);
+  if (!MayBeShown(address)) return false;
+  const bool let_go = std::exchange(leaving_, false) || (type == NavigationTypeRedirect && gate_.IsOpen());
+  if (LeavesTheDisk(address) && !let_go) {
+    AskToLeaveTheDisk(address);
+    return false;
+  }
+  SetLoadsFromNet(std::exchange(reloading_from_net_, false));
+  // Before the first script of the coming page runs.
+  gate_.SetOpen(IsOfTheNet(address) || loads_from_net_);
+  if (on_coming) on_coming();
+  return true;
+}
+
+void WebEnginePage::ReloadFromNet() {
+  reloading_from_net_ = true;
+  SetLoadsFromNet(true);
+  triggerAction(Reload);
+}
+
+void WebEnginePage::SetLoadsFromNet(bool on) {
+  loads_from_net_ = on;
+  settings()->setAttribute(QWebEngineSettings::JavascriptEnabled, !on);
 }
 
 void WebEnginePage::NameActions() {
@@ -105,15 +139,66 @@ void WebEnginePage::RefuseRequests() {
           [](QWebEngineCertificateError error) { error.rejectCertificate(); });
 }
 
-void WebEnginePage::javaScriptAlert(const QUrl&, const QString& text) { Ask(this, text, QMessageBox::Ok); }
+void WebEnginePage::Silence() {
+  silenced_ = true;
+  if (question_ != nullptr) question_->reject();
+}
+
+void WebEnginePage::HearAgain() {
+  silenced_ = false;
+  questions_ = 0;
+}
+
+bool WebEnginePage::Ask(QDialog& question) {
+  QWidget* view = QWebEngineView::forPage(this);
+  if (silenced_ || question_ != nullptr || view == nullptr || !view->isVisible()) return false;
+  auto* silence = ++questions_ > kMostUnasked
+                      ? new QCheckBox(QStringLiteral("&Další zprávy této stránky neukazovat"), &question)
+                      : nullptr;
+  if (auto* box = qobject_cast<QMessageBox*>(&question); box != nullptr && silence != nullptr) {
+    box->setCheckBox(silence);
+  } else if (silence != nullptr) {
+    question.sizeHint();  // makes its layout
+    question.layout()->addWidget(silence);
+  }
+  // The editor and its other windows go on.
+  question.setWindowModality(Qt::WindowModal);
+  question_ = &question;
+  const QPointer<WebEnginePage> self = this;
+  const int result = question.exec();
+  if (self == nullptr) return false;
+  question_ = nullptr;
+  if (silence != nullptr && silence->isChecked()) silenced_ = true;
+  if (on_answered) QMetaObject::invokeMethod(this, on_answered, Qt::QueuedConnection);
+  return result == QDialog::Accepted || result == QMessageBox::Yes || result == QMessageBox::Ok;
+}
+
+bool WebEnginePage::AskInBox(const QString& title, const QString& text, QMessageBox::StandardButtons buttons,
+                             QMessageBox::StandardButton default_button) {
+  const QString shown = text.size() <= kLongestQuestion ? text : text.left(kLongestQuestion) + QStringLiteral(" ...");
+  QMessageBox box(QMessageBox::NoIcon, title, shown, buttons, QWebEngineView::forPage(this));
+  box.setTextFormat(Qt::PlainText);
+  box.setDefaultButton(default_button);
+  return Ask(box);
+}
+
+void WebEnginePage::javaScriptAlert(const QUrl&, const QString& text) {
+  AskInBox(Title(), text, QMessageBox::Ok, QMessageBox::Ok);
+}
 
 bool WebEnginePage::javaScriptConfirm(const QUrl&, const QString& text) {
-  return Ask(this, text, QMessageBox::Ok | QMessageBox::Cancel) == QMessageBox::Ok;
+  // A page that has been silenced can't keep the person from leaving it.
+  if (silenced_ && text == QCoreApplication::translate("QWebEnginePage", kLeaving)) return true;
+  return AskInBox(Title(), text, QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Ok);
 }
 
 bool WebEnginePage::javaScriptPrompt(const QUrl&, const QString& text, const QString& initial, QString* result) {
-  bool accepted = false;
-  *result = QInputDialog::getText(QWebEngineView::forPage(this), Title(), text, QLineEdit::Normal, initial, &accepted);
+  QInputDialog dialog(QWebEngineView::forPage(this));
+  dialog.setWindowTitle(Title());
+  dialog.setLabelText(text.left(kLongestQuestion));
+  dialog.setTextValue(initial);
+  const bool accepted = Ask(dialog);
+  *result = dialog.textValue();
   return accepted;
 }
 

@@ -1,9 +1,12 @@
 #include "html/windows/frm_browser.h"
 
 #include <QCloseEvent>
+#include <QFile>
+#include <QFileInfo>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QToolButton>
 
 #include "html/browser_texts.h"
@@ -19,7 +22,9 @@
 namespace pelmar {
 namespace {
 
-constexpr int kTimerInterval = 5;  // ms
+constexpr int kTimerInterval = 5;                 // ms
+constexpr qint64 kLongestPage = 4 * 1024 * 1024;  // bytes that are looked at
+constexpr int kLongestShown = 300;                // characters of an address in a message
 constexpr std::string_view kOpenFilter = "Všechno (*.*)|*.*|htm (*.htm)|*.htm|html (*.html)|*.html";
 
 QLabel* AddPanel(QStatusBar& bar, const char* name, const QString& accessible_name, int stretch) {
@@ -41,9 +46,11 @@ FrmBrowser::FrmBrowser(WebViewMaker& maker, Platform& platform, std::function<vo
       end_program_(std::move(end_program)),
       ui_(std::make_unique<Ui::FrmBrowser>()) {
   ui_->setupUi(this);
+  ui_->netLine->hide();
   ShowProgramIcon();
   status_ = AddPanel(*ui_->StatusBar1, "Panel1", QStringLiteral("Stav"), 1);
   progress_ = AddPanel(*ui_->StatusBar1, "Panel2", QStringLiteral("Průběh načítání"), 0);
+  encoding_ = AddPanel(*ui_->StatusBar1, "Panel3", QStringLiteral("Kódování stránky"), 0);
   timTimer.setObjectName(QStringLiteral("timTimer"));
   timTimer.setInterval(kTimerInterval);
   connect(&timTimer, &QTimer::timeout, this, &FrmBrowser::timTimer_Timer);
@@ -67,7 +74,9 @@ void FrmBrowser::ConnectView() {
     // A page that was asked for in the page itself loads too.
     if (view_->Busy()) timTimer.start();
   };
+  view_->on_withheld = [this](bool withheld) { ui_->netLine->setVisible(withheld); };
   view_->on_finished = [this] { View_Finished(); };
+  connect(ui_->LoadNet, &QPushButton::clicked, this, &FrmBrowser::LoadNet_Click);
 }
 
 void FrmBrowser::ConnectToolBar() {
@@ -131,15 +140,26 @@ void FrmBrowser::Visit(const QString& address) {
   ui_->cboAddress->addItem(address);
   ui_->cboAddress->setEditText(address);
   DontNavigateNow = false;
+  Load(address);
+}
+
+void FrmBrowser::Load(const QString& address) {
+  const QUrl url = UrlOfAddress(address);
+  if (url.isValid() && !MayBeShown(url)) {
+    const QString refusal = QStringLiteral(
+        "Takovou adresu interní browser neotvírá:\r\n%1\r\n\r\nOtvírá http, https, file, data a about:blank.");
+    platform_.Message(MessageType::kOkInfo, Utf8FromQString(refusal.arg(address.trimmed().left(kLongestShown))),
+                      "Interní browser");
+    return;
+  }
   timTimer.start();
-  view_->Load(UrlOfAddress(address));
+  view_->Load(url);
 }
 
 void FrmBrowser::NavigateToBox() {
   if (DontNavigateNow) return;
   ui_->cboAddress->lineEdit()->setModified(false);
-  timTimer.start();
-  view_->Load(UrlOfAddress(ui_->cboAddress->currentText()));
+  Load(ui_->cboAddress->currentText());
 }
 
 void FrmBrowser::ShowCaption() { setWindowTitle(PlainTitle(BrowserCaption(Utf8FromQString(view_->LocationName())))); }
@@ -159,8 +179,18 @@ void FrmBrowser::View_Progress(qint64 progress, qint64 maximum) {
   progress_->setText(Utf8ToQString(ProgressText(progress, maximum)));
 }
 
+void FrmBrowser::ShowEncoding() {
+  // Read without waiting, and no more than a page is long.
+  QFile file(view_->LocationAddress().toLocalFile());
+  const bool told = QFileInfo(file).isFile() && file.open(QIODevice::ReadOnly) &&
+                    IsUndeclaredUtf8(file.read(kLongestPage).toStdString());
+  encoding_->setText(told ? QStringLiteral("Stránka je v UTF-8 a neuvádí to: převede ji Konverze dos - unix")
+                          : QString());
+}
+
 void FrmBrowser::View_Finished() {
   ShowCaption();
+  ShowEncoding();
   QLineEdit& line = *ui_->cboAddress->lineEdit();
   const bool half_typed = line.isModified();
   const bool selected = line.hasSelectedText();
@@ -196,8 +226,15 @@ void FrmBrowser::Open_Click() {
   if (const auto path = platform_.OpenDialog(kOpenFilter, 1)) Visit(Utf8ToQString(PathToFileUrl(*path)));
 }
 
+void FrmBrowser::LoadNet_Click() {
+  timTimer.start();
+  view_->LoadFromNet();
+  view_->Widget()->setFocus();
+}
+
 void FrmBrowser::Close_Click() {
   hide();
+  view_->EndIfStuck();
   if (!end_program_) return;
   if (MayEndStandAlone(platform_, "Browser")) return end_program_();
   show();
@@ -205,7 +242,10 @@ void FrmBrowser::Close_Click() {
 
 void FrmBrowser::closeEvent(QCloseEvent* event) {
   // Where nothing is asked, the toolkit hides the window itself.
-  if (!end_program_) return event->accept();
+  if (!end_program_) {
+    view_->EndIfStuck();
+    return event->accept();
+  }
   event->ignore();
   Close_Click();
 }

@@ -49,21 +49,27 @@ class FrmBrowser : public QMainWindow {
   // The address into the box and, new, into its list; then it is loaded.
   void Visit(const QString& address);
   void NavigateToBox();
+  // Loads the address, or says why it doesn't.
+  void Load(const QString& address);
   void ShowCaption();
   void timTimer_Timer();
   void View_Progress(qint64 progress, qint64 maximum);
   void View_Finished();
+  // Says where a local page is in UTF-8 that it doesn't declare.
+  void ShowEncoding();
   // Into the first row of the list, which is selected; its other rows of this address go.
   void PutOnTop(const QString& address);
   void Stop_Click();
   void Open_Click();
   void Close_Click();
+  void LoadNet_Click();
 
   Platform& platform_;
   std::function<void()> end_program_;
   std::unique_ptr<Ui::FrmBrowser> ui_;
   QLabel* status_ = nullptr;
   QLabel* progress_ = nullptr;
+  QLabel* encoding_ = nullptr;
   QTimer timTimer{this};
   bool centred_ = false;
   std::unique_ptr<WebView> view_;  // last: its page must not call into a window that is half gone

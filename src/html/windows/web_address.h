@@ -13,4 +13,13 @@ QUrl UrlOfAddress(const QString& address);
 
 QString AddressOfUrl(const QUrl& url);
 
+// Whether a page of this address may be shown: of the net (http, https), a file, data, or the empty page. All others
+// lead into the engine, where some end the whole program, or to what it doesn't know.
+inline bool MayBeShown(const QUrl& url) {
+  const QString scheme = url.scheme();
+  for (const char* shown : {"http", "https", "file", "data"})
+    if (scheme == QLatin1String(shown)) return true;
+  return url.toString() == QLatin1String("about:blank");
+}
+
 }  // namespace pelmar

@@ -28,6 +28,10 @@ class WebView {
   virtual void Forward() = 0;
   virtual void Refresh() = 0;
   virtual void Stop() = 0;
+  // Ends a page that doesn't answer within three seconds. The commands above do that too.
+  virtual void EndIfStuck() = 0;
+  // Loads the present page again, and what it has on the net with it, this once.
+  virtual void LoadFromNet() = 0;
 
   [[nodiscard]] virtual bool Busy() const = 0;
   [[nodiscard]] virtual QString LocationName() const = 0;  // the page's title; its file's name where it has none
@@ -38,7 +42,9 @@ class WebView {
 
   std::function<void(qint64 progress, qint64 maximum)> on_progress;  // a maximum of 0 when there is nothing to load
   std::function<void()> on_change;                                   // the title changed or a load began
-  std::function<void()> on_finished;                                 // a load ended, well or not
+  std::function<void(bool)>
+      on_withheld;                    // a local page has parts on the net that it didn't get; false: another page comes
+  std::function<void()> on_finished;  // a load ended, well or not
 };
 
 // What the module's plug-in object is.
@@ -53,5 +59,5 @@ class WebViewMaker {
 
 }  // namespace pelmar
 
-#define PELMAR_WEB_VIEW_MAKER "cz.pelmar.vex.WebViewMaker/1"
+#define PELMAR_WEB_VIEW_MAKER "cz.pelmar.vex.WebViewMaker/2"
 Q_DECLARE_INTERFACE(pelmar::WebViewMaker, PELMAR_WEB_VIEW_MAKER)

@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 #include <QToolBar>
@@ -47,6 +48,8 @@ class ScriptedView : public WebView {
   void Forward() override { calls += QStringLiteral("forward"); }
   void Refresh() override { calls += QStringLiteral("refresh"); }
   void Stop() override { calls += QStringLiteral("stop"); }
+  void EndIfStuck() override { calls += QStringLiteral("end if stuck"); }
+  void LoadFromNet() override { calls += QStringLiteral("load from net"); }
   [[nodiscard]] bool Busy() const override { return busy; }
   [[nodiscard]] QString LocationName() const override { return name; }
   [[nodiscard]] QUrl LocationAddress() const override { return address; }
@@ -83,7 +86,7 @@ struct BrowserTest : testing::Test {
   }
   QComboBox& Address() { return Find<QComboBox>("cboAddress"); }
   QTimer& Timer() { return Find<QTimer>("timTimer"); }
-  QString Panel(int number) { return Find<QLabel>(number == 1 ? "Panel1" : "Panel2").text(); }
+  QString Panel(int number) { return Find<QLabel>(qPrintable(QStringLiteral("Panel%1").arg(number))).text(); }
   void Press(const char* key) { Find<QAction>(key).trigger(); }
   QStringList List() {
     QStringList rows;
@@ -224,6 +227,57 @@ TEST_F(BrowserTest, AddressesAreLoadedByEnterAndByChoice) {
   EXPECT_TRUE(maker.calls.isEmpty());
 }
 
+TEST_F(BrowserTest, AddressesOfTheEngineAreRefused) {
+  Make();
+  for (const char* refused : {"chrome://crash", "CHROME://gpucrash", "about:crash", "about:", "about:blank2", "qrc:/x",
+                              "view-source:http://x.cz", "javascript:1", "blob:x", "ftp://x.cz/", "mailto:a@x.cz"}) {
+    Address().lineEdit()->setText(QLatin1String(refused));
+    QTest::keyClick(&Address(), Qt::Key_Return);
+    EXPECT_TRUE(maker.calls.isEmpty()) << refused;
+    EXPECT_TRUE(platform.calls.back().starts_with("message 64 \"Takovou adresu interní browser neotvírá:\r\n" +
+                                                  std::string(refused)))
+        << platform.calls.back();
+    EXPECT_FALSE(Timer().isActive());
+  }
+  for (const char* taken : {"https://x.cz/", "data:text/html,a", "about:blank", "file:///a.html"}) {
+    Address().lineEdit()->setText(QLatin1String(taken));
+    QTest::keyClick(&Address(), Qt::Key_Return);
+    EXPECT_EQ(TakeCalls(), QStringList{QStringLiteral("load ") + QLatin1String(taken)});
+  }
+}
+
+TEST_F(BrowserTest, OffersWhatLiesOnTheNet) {
+  Make();
+  window->ShowInBrowser("/a.html");
+  EXPECT_FALSE(Find<QWidget>("netLine").isVisible());
+  maker.view->on_withheld(true);
+  EXPECT_TRUE(Find<QWidget>("netLine").isVisible());
+  TakeCalls();
+  Find<QPushButton>("LoadNet").click();
+  EXPECT_EQ(TakeCalls(), QStringList{QStringLiteral("load from net")});
+  maker.view->on_withheld(false);
+  EXPECT_FALSE(Find<QWidget>("netLine").isVisible());
+}
+
+TEST_F(BrowserTest, SaysThatAPageIsInUtf8) {
+  const TempFolder folder;
+  Make();
+  const struct {
+    std::string page;
+    bool told;
+  } cases[] = {{"<P>k\xC5\xAF\xC5\x88", true},
+               {"<P>k\xF9\xF2", false},
+               {"<P>kun", false},
+               {"\xEF\xBB\xBFk\xC5\xAF\xC5\x88", false},
+               {"<META Charset=utf-8>k\xC5\xAF\xC5\x88", false},
+               {std::string(1100, ' ') + "charset=utf-8 k\xC5\xAF\xC5\x88", true}};
+  for (const auto& c : cases) {
+    window->ShowInBrowser(folder.Put("a.html", c.page));
+    maker.view->Finish({});
+    EXPECT_EQ(Panel(3).contains(QStringLiteral("UTF-8")), c.told) << c.page;
+  }
+}
+
 TEST_F(BrowserTest, TheToolBarStartsTheTimerAndActs) {
   Make();
   QStringList keys;
@@ -266,6 +320,7 @@ TEST_F(BrowserTest, ClosingHidesAndKeepsTheHistory) {
   EXPECT_TRUE(window->close());
   EXPECT_FALSE(window->isVisible());
   EXPECT_EQ(List().size(), 1);
+  EXPECT_EQ(TakeCalls().mid(1), (QStringList{QStringLiteral("end if stuck"), QStringLiteral("end if stuck")}));
   EXPECT_TRUE(platform.calls.empty());
 }
 

@@ -1,0 +1,38 @@
+#include "html/browser/net_refusal.h"
+
+#include "html/windows/web_address.h"
+
+namespace pelmar {
+namespace {
+
+bool IsOfTheNet(const QString& scheme) {
+  return scheme.startsWith(QLatin1String("http")) || scheme == QLatin1String("ws") || scheme == QLatin1String("wss");
+}
+
+bool IsMissed(QWebEngineUrlRequestInfo::ResourceType type) {
+  switch (type) {
+    case QWebEngineUrlRequestInfo::ResourceTypeMainFrame:
+    case QWebEngineUrlRequestInfo::ResourceTypePrefetch:
+    case QWebEngineUrlRequestInfo::ResourceTypeFavicon:
+    case QWebEngineUrlRequestInfo::ResourceTypePing:
+    case QWebEngineUrlRequestInfo::ResourceTypeCspReport:
+      return false;
+    default:
+      return true;
+  }
+}
+
+}  // namespace
+
+void NetRefusal::interceptRequest(QWebEngineUrlRequestInfo& request) {
+  const QString scheme = request.requestUrl().scheme();
+  if (IsOfTheNet(scheme)) {
+    if (gate_.IsOpen()) return;
+    request.block(true);
+    if (on_withheld && IsMissed(request.resourceType())) on_withheld();
+  } else if (!MayBeShown(request.requestUrl()) && scheme != QLatin1String("blob") && scheme != QLatin1String("about")) {
+    request.block(true);
+  }
+}
+
+}  // namespace pelmar
