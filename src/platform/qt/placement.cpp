@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <chrono>
 
+#include "platform/twips.h"
+
 namespace pelmar {
 namespace {
 

@@ -10,6 +10,7 @@
 #include <functional>
 
 #include "platform/qt/outer_geometry.h"
+#include "platform/twips.h"
 
 namespace pelmar {
 
