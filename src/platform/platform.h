@@ -120,6 +120,8 @@ class Platform {
   virtual int WriteFile(const std::string& path, std::string_view bytes) = 0;  // 0 or errno
   // A file that only its owner can read. EEXIST where anything has that name already, links that lead nowhere included.
   virtual int WriteNewFile(const std::string& path, std::string_view bytes) = 0;  // 0 or errno
+  // Hands a file to `take` piece by piece, until that returns false. 0 or errno.
+  virtual int ReadByPieces(const std::string& path, const std::function<bool(std::string_view piece)>& take) = 0;
   // Reads one file and writes another, piece by piece, so that its size doesn't matter. The target is the new content
   // once that is complete, and what it was until then. 0 or errno.
   virtual int RewriteFile(const std::string& source, const std::string& target, OldTail tail,

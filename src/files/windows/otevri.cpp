@@ -2,9 +2,16 @@
 
 #include "platform/qt/controls/file_browser.h"
 #include "platform/qt/convert.h"
+#include "text/utf8.h"
 #include "ui_otevri.h"
 
 namespace pelmar {
+namespace {
+
+constexpr std::string_view kUtf8Hint =
+    "Soubor je v UTF-8, čte se jako Windows-1250. Převede ho „Konverze dos - unix“ v nabídce Soubor.";
+
+}  // namespace
 
 Otevri::Otevri(Opener& opener, Platform& platform, QWidget* parent)
     : DialogWindow(parent), opener_(opener), platform_(platform), ui_(std::make_unique<Ui::Otevri>()) {
@@ -23,7 +30,9 @@ void Otevri::File1_Click() {
   ui_->Command1->setEnabled(true);
   const std::string path = PickedPath(*ui_->File1);
   ui_->Label1->setText(Utf8ToQString(path));
-  ui_->Text2->SetText(ToBytes(opener_.Preview(path)));
+  const std::string preview = opener_.Preview(path);
+  ui_->Text2->SetText(ToBytes(preview));
+  ui_->Label3->setText(LooksLikeUtf8(preview) ? Utf8ToQString(kUtf8Hint) : QString());
 }
 
 void Otevri::Command1_Click() {

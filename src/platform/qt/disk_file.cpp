@@ -241,6 +241,15 @@ FileBytes ReadWholeFile(const std::string& path, std::optional<std::uint64_t> li
   return result;
 }
 
+int ReadFileByPieces(const std::string& path, const std::function<bool(std::string_view)>& take) {
+  constexpr int kEnough = -1;
+  int error = 0;
+  const Descriptor file(OpenRegular(path, error));
+  if (!file.IsOpen()) return error;
+  error = ForEachPiece(file.Number(), [&](std::string_view piece) { return take(piece) ? 0 : kEnough; });
+  return error == kEnough ? 0 : error;
+}
+
 int ReplaceFile(const std::string& path, std::string_view bytes, mode_t new_mode) {
   Target target;
   if (const int error = FindTarget(path, target)) return error;

@@ -6,6 +6,7 @@
 #include <sys/types.h>
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -19,6 +20,9 @@ bool CanReadFile(const std::string& path);
 
 // All bytes up to the end or the limit. EISDIR for a folder, EINVAL for anything else that isn't a regular file.
 FileBytes ReadWholeFile(const std::string& path, std::optional<std::uint64_t> limit);
+
+// See Platform::ReadByPieces; errors as above.
+int ReadFileByPieces(const std::string& path, const std::function<bool(std::string_view)>& take);
 
 // Makes `bytes` the content of the file; 0 or errno. The content is written to a new file beside, brought to the disk
 // and renamed over the old one, whose permissions, owner and group it keeps as far as the system lets it. A link stays

@@ -77,6 +77,10 @@ int QtPlatform::WriteFile(const std::string& path, std::string_view bytes) { ret
 
 int QtPlatform::WriteNewFile(const std::string& path, std::string_view bytes) { return CreateFile(path, bytes); }
 
+int QtPlatform::ReadByPieces(const std::string& path, const std::function<bool(std::string_view)>& take) {
+  return ReadFileByPieces(path, take);
+}
+
 int QtPlatform::RewriteFile(const std::string& source, const std::string& target, OldTail tail,
                             FileRewriter& rewriter) {
   return RewriteFileByPieces(source, target, tail, rewriter);

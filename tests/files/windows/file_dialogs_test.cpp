@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractItemView>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QFile>
 #include <QLabel>
@@ -79,7 +80,13 @@ TEST_F(FileDialogsTest, OpenDialogPreviewsAsksAndOpens) {
   Choose(dialog, "big.txt");
   EXPECT_TRUE(open->isEnabled());
   EXPECT_EQ(ViewOf(Find<TextBox>(dialog, "Text2")->Text()), "Není k dispozici"_w);
+  auto* encoding = Find<QLabel>(dialog, "Label3");
+  platform.files[PathOf("a.TXT")] = "kůň";
   Choose(dialog, "a.TXT");
+  EXPECT_TRUE(encoding->text().contains(QStringLiteral("UTF-8")));
+  platform.files[PathOf("a.TXT")] = "text of a";
+  Choose(dialog, "a.TXT");
+  EXPECT_TRUE(encoding->text().isEmpty());
   EXPECT_EQ(Utf8FromQString(Find<QLabel>(dialog, "Label1")->text()), PathOf("a.TXT"));
   EXPECT_EQ(ViewOf(Find<TextBox>(dialog, "Text2")->Text()), "text of a");
   platform.answers = {Answer::kNo, Answer::kYes};
@@ -150,7 +157,9 @@ TEST_F(FileDialogsTest, ConversionWritesBesideTheChosenFile) {
   dialog.show();
   auto* to_unix = Find<QPushButton>(dialog, "Command1");
   auto* to_dos = Find<QPushButton>(dialog, "Command2");
-  EXPECT_FALSE(to_unix->isEnabled() || to_dos->isEnabled());
+  auto* to_page = Find<QPushButton>(dialog, "Command4");
+  auto* to_utf8 = Find<QPushButton>(dialog, "Command5");
+  EXPECT_FALSE(to_unix->isEnabled() || to_dos->isEnabled() || to_page->isEnabled() || to_utf8->isEnabled());
   Find<FolderList>(dialog, "Dir1")->SetPath(folder.path());
   Find<QComboBox>(dialog, "Text1")->setCurrentText(QStringLiteral("*.html"));
   Choose(dialog, "b.html");
@@ -162,6 +171,11 @@ TEST_F(FileDialogsTest, ConversionWritesBesideTheChosenFile) {
   const std::string stem = ConvertedPath(PathOf("b.html"), "");
   EXPECT_EQ(platform.files[stem + "unx"], "<B>\n");
   EXPECT_EQ(platform.files[stem + "dos"], "<B>\r\r\n");
+  to_page->click();
+  EXPECT_EQ(platform.files[stem + "1250"], "<B>\r\n");
+  Find<QCheckBox>(dialog, "Check1")->click();
+  to_utf8->click();
+  EXPECT_EQ(platform.files[stem + "utf8"], "\xEF\xBB\xBF<B>\r\n");
   EXPECT_TRUE(dialog.isVisible());
   Find<QPushButton>(dialog, "Command3")->click();
   EXPECT_FALSE(dialog.isVisible());
