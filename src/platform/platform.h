@@ -1,6 +1,7 @@
 // All that the program asks of the system, behind one interface. The program's answer is Qt's (platform/qt); tests
-// answer from a script. Paths, messages and titles are UTF-8; texts of documents and the clipboard are Windows-1250.
-// No function throws unless it says so; failures come back as values.
+// answer from a script. Messages and titles are UTF-8, texts of documents and the clipboard are Windows-1250. A path is
+// the bytes that the system gave, UTF-8 as a rule; in a message it shows as well where it isn't. No function throws
+// unless it says so; failures come back as values.
 #pragma once
 
 #include <cstdint>

@@ -3,7 +3,6 @@
 #include "files/encodings.h"
 #include "files/line_ends.h"
 #include "platform/qt/controls/file_browser.h"
-#include "platform/qt/convert.h"
 #include "ui_dos_unix_conv.h"
 
 namespace pelmar {
@@ -30,11 +29,11 @@ Dos_Unix_conv::~Dos_Unix_conv() = default;
 
 void Dos_Unix_conv::File1_Click() {
   for (QPushButton* convert : {ui_->Command1, ui_->Command2, ui_->Command4, ui_->Command5}) convert->setEnabled(true);
-  ui_->Label2->setText(Utf8ToQString(PickedPath(*ui_->File1)));
+  ShowPath(*ui_->Label2, PickedPath(*ui_->File1));
 }
 
 void Dos_Unix_conv::Convert(const std::function<void(const std::string& path)>& convert) {
-  convert(Utf8FromQString(ui_->Label2->text()));
+  convert(PathOn(*ui_->Label2));
   ui_->File1->SetPath(ui_->File1->Path());  // the new file shows
 }
 

@@ -29,7 +29,7 @@ Otevri::~Otevri() = default;
 void Otevri::File1_Click() {
   ui_->Command1->setEnabled(true);
   const std::string path = PickedPath(*ui_->File1);
-  ui_->Label1->setText(Utf8ToQString(path));
+  ShowPath(*ui_->Label1, path);
   const std::string preview = opener_.Preview(path);
   ui_->Text2->SetText(ToBytes(preview));
   ui_->Label3->setText(LooksLikeUtf8(preview) ? Utf8ToQString(kUtf8Hint) : QString());
@@ -37,7 +37,7 @@ void Otevri::File1_Click() {
 
 void Otevri::Command1_Click() {
   if (platform_.Message(MessageType::kYesNoWarning, "Opravdu otevřít soubor ?", "Soubor") != Answer::kYes) return;
-  opener_.OpenPath(Utf8FromQString(ui_->Label1->text()));
+  opener_.OpenPath(PathOn(*ui_->Label1));
   hide();
 }
 

@@ -4,6 +4,7 @@
 
 #include <QString>
 #include <QUrl>
+#include <string_view>
 
 namespace pelmar {
 
@@ -12,5 +13,7 @@ namespace pelmar {
 QUrl UrlOfAddress(const QString& address);
 
 QString AddressOfUrl(const QUrl& url);
+// Percent-encoded where the path is no UTF-8, since a person couldn't write it otherwise.
+QString AddressOfFile(std::string_view path);
 
 }  // namespace pelmar

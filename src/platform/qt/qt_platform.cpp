@@ -16,6 +16,7 @@
 #include "platform/qt/convert.h"
 #include "platform/qt/dialogs.h"
 #include "platform/qt/disk_file.h"
+#include "platform/qt/folder_entries.h"
 #include "platform/qt/install_folder.h"
 #include "platform/qt/printer.h"
 
@@ -24,9 +25,9 @@ namespace {
 
 QString DataHome() { return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation); }
 
-std::optional<std::string> ToUtf8(const std::optional<QString>& answer) {
+std::optional<std::string> ToPath(const std::optional<QString>& answer) {
   if (!answer) return std::nullopt;
-  return Utf8FromQString(*answer);
+  return PathFromQString(*answer);
 }
 
 }  // namespace
@@ -46,17 +47,19 @@ void QtPlatform::ShowAbout(std::string_view title, std::string_view text) {
 std::optional<std::string> QtPlatform::InputBox(std::string_view prompt, std::string_view title,
                                                 std::string_view initial) {
   const BusyPointer::Lift lift(pointer_);
-  return ToUtf8(AskForText(Utf8ToQString(prompt), Utf8ToQString(title), Utf8ToQString(initial)));
+  const auto answer = AskForText(Utf8ToQString(prompt), Utf8ToQString(title), Utf8ToQString(initial));
+  if (!answer) return std::nullopt;
+  return Utf8FromQString(*answer);
 }
 
 std::optional<std::string> QtPlatform::OpenDialog(std::string_view filter, int filter_index) {
   const BusyPointer::Lift lift(pointer_);
-  return ToUtf8(AskForFile(FileDialogKind::kOpen, Utf8ToQString(filter), filter_index, dialog_folder_));
+  return ToPath(AskForFile(FileDialogKind::kOpen, Utf8ToQString(filter), filter_index, dialog_folder_));
 }
 
 std::optional<std::string> QtPlatform::SaveDialog(std::string_view filter, int filter_index) {
   const BusyPointer::Lift lift(pointer_);
-  return ToUtf8(AskForFile(FileDialogKind::kSave, Utf8ToQString(filter), filter_index, dialog_folder_));
+  return ToPath(AskForFile(FileDialogKind::kSave, Utf8ToQString(filter), filter_index, dialog_folder_));
 }
 
 std::string QtPlatform::ClipboardText() { return clipboard_.Text().value_or(std::string()); }
@@ -111,13 +114,9 @@ PrintOutcome QtPlatform::Print(const PrintFont& font, const std::string& name,
   return PrintOnDefault(font, Utf8ToQString(name), draw);
 }
 
-void QtPlatform::AddToRecentDocuments(const std::string& path) {
-  recent_.Add(QDir::cleanPath(QFileInfo(Utf8ToQString(path)).absoluteFilePath()));
-}
+void QtPlatform::AddToRecentDocuments(const std::string& path) { recent_.Add(CleanFolder(PathToQString(path))); }
 
-bool QtPlatform::OpenWithDefaultProgram(const std::string& path) {
-  return QDesktopServices::openUrl(QUrl::fromLocalFile(Utf8ToQString(path)));
-}
+bool QtPlatform::OpenWithDefaultProgram(const std::string& path) { return QDesktopServices::openUrl(UrlOfPath(path)); }
 
 bool QtPlatform::StartAnotherCopy() {
   return QProcess::startDetached(QCoreApplication::applicationFilePath(), {}, Utf8ToQString(InstallFolder()));

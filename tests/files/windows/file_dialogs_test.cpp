@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
+#include <fstream>
 
 #include "files/line_ends.h"
 #include "files/windows/dir_setup.h"
@@ -55,7 +56,7 @@ struct FileDialogsTest : testing::Test {
     auto* list = Find<FileList>(dialog, "File1");
     for (int row = 0; row < list->model()->rowCount(); ++row) {
       const QModelIndex index = list->model()->index(row, 0);
-      if (index.data().toString() != QLatin1String(name)) continue;
+      if (index.data().toString() != QString::fromUtf8(name)) continue;
       return QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(index).center());
     }
     FAIL() << name << " isn't in the list";
@@ -97,6 +98,30 @@ TEST_F(FileDialogsTest, OpenDialogPreviewsAsksAndOpens) {
   open->click();
   EXPECT_EQ(editor.text.Text(), "text of a");
   EXPECT_FALSE(dialog.isVisible());
+}
+
+TEST_F(FileDialogsTest, ANameThatIsNoUtf8IsShownOpenedAndSavedByItsBytes) {
+  const std::string path = Utf8FromQString(folder.path()) + "/k\xF9\xF2.txt";
+  std::ofstream(path).close();
+  platform.files[path] = "horse";
+  Otevri open(editor.opener, platform, nullptr);
+  Uloz save(editor.documents, editor.saver, nullptr);
+  open.show();
+  Find<FolderList>(open, "Dir1")->SetPath(folder.path());
+  Choose(open, "kůň.txt");
+  EXPECT_EQ(Find<QLabel>(open, "Label1")->text(), folder.filePath(QStringLiteral("kůň.txt")));
+  platform.answers = {Answer::kYes};
+  Find<QPushButton>(open, "Command1")->click();
+  EXPECT_EQ(editor.text.Text(), "horse");
+  EXPECT_EQ(editor.documents.CurrentPath(), path);
+  EXPECT_EQ(editor.settings.RecentFiles[0], path);
+  editor.text.SetText("mare");
+  platform.answers = {Answer::kYes};
+  Find<QPushButton>(save, "Command1")->click();
+  EXPECT_EQ(platform.files[path], "mare");
+  Find<QComboBox>(save, "Text2")->setCurrentText(QStringLiteral("htm"));  // the name is still the old one
+  Find<QPushButton>(save, "Command1")->click();
+  EXPECT_EQ(platform.files[path.substr(0, path.size() - 3) + "htm"], "mare");
 }
 
 TEST_F(FileDialogsTest, SaveDialogShowsItsTargetAsItIsMade) {
