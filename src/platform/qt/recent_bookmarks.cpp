@@ -15,7 +15,7 @@ QString BookmarkNamespace() { return QStringLiteral("http://www.freedesktop.org/
 QString MimeNamespace() { return QStringLiteral("http://www.freedesktop.org/standards/shared-mime-info"); }
 QString MetadataOwner() { return QStringLiteral("http://freedesktop.org"); }
 QString ProgramName() { return QStringLiteral("Pelmar VEX"); }
-QString ProgramCommand() { return QStringLiteral("'pelmar-vex %u'"); }
+QString ProgramCommand() { return QStringLiteral("'pelmar-vex %f'"); }
 
 // Where the copier stands inside the entry of our file. Anything else has no name.
 enum class Place { kOther, kRoot, kEntry, kInfo, kMetadata, kApplications };

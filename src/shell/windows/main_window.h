@@ -7,6 +7,8 @@
 #include <QMargins>
 #include <QTimer>
 #include <functional>
+#include <string>
+#include <vector>
 
 #include "platform/qt/controls/text_box.h"
 #include "shell/editor.h"
@@ -84,7 +86,8 @@ class MainWindow : public QMainWindow, public MainView {
   void MakeControls();
   void AddViewCommands();
   void FollowDocuments();
-  void OpenDropped(const std::string& path);
+  void OpenDropped(std::vector<std::string> paths);
+  void Tell(const std::string& text);
   void ToggleBar(std::string_view item, QWidget* bar);
   void ToggleAlwaysOnTop();
   void FitToFrame();
