@@ -32,7 +32,9 @@ void Otevri::File1_Click() {
   ShowPath(*ui_->Label1, path);
   const std::string preview = opener_.Preview(path);
   ui_->Text2->SetText(ToBytes(preview));
-  ui_->Label3->setText(LooksLikeUtf8(preview) ? Utf8ToQString(kUtf8Hint) : QString());
+  const QString hint = LooksLikeUtf8(preview) ? Utf8ToQString(kUtf8Hint) : QString();
+  ui_->Label3->setText(hint);
+  ui_->Label3->setToolTip(hint);  // a narrow dialog cuts the line
 }
 
 void Otevri::Command1_Click() {
