@@ -8,6 +8,7 @@
 #include <span>
 
 #include "platform/qt/application.h"
+#include "platform/qt/convert.h"
 #include "platform/qt/end_requests.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/program_style.h"
@@ -39,7 +40,7 @@ int main(int argc, char** argv) {
       return Print(*text);
   PreferX11();
   QStringList arguments;
-  for (int i = 1; i < argc; ++i) arguments.append(QString::fromLocal8Bit(argv[i]));
+  for (int i = 1; i < argc; ++i) arguments.append(pelmar::PathToQString(argv[i]));
   // The command tail is the program's own; the toolkit sees none of it.
   int own_argc = 1;
   // A menu bar of the desktop would be looked for on the session bus, which may have to be started first.

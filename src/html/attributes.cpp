@@ -2,8 +2,10 @@
 
 #include <algorithm>
 
+#include "platform/color.h"
 #include "platform/paths.h"
 #include "shell/common.h"
+#include "text/codepage.h"
 
 namespace pelmar {
 
@@ -24,6 +26,21 @@ std::string ForwardSlashes(std::string_view path) {
   std::string slashed(path);
   std::replace(slashed.begin(), slashed.end(), '\\', '/');
   return slashed;
+}
+
+std::string LinkText(std::string_view path) {
+  std::string text;
+  for (std::size_t at = 0; at < path.size();) {
+    const std::size_t from = at;
+    const char32_t character = DecodeUtf8(path, at);
+    const unsigned char code = CodeOfUnicode(character);
+    if (code != '?' || character == U'?') {
+      text += static_cast<char>(code);
+      continue;
+    }
+    for (const char byte : path.substr(from, at - from)) text += '%' + HexByte(CodeOf(byte));
+  }
+  return text;
 }
 
 std::string FileAddress(std::string_view path, bool relative) {

@@ -15,6 +15,10 @@ std::string Quoted(std::string_view text);
 // Each backslash as a slash.
 std::string ForwardSlashes(std::string_view path);
 
+// A path, as the system gives it, in a link of a document. Bytes are percent-encoded only where the link could not lead
+// to the file otherwise: those of characters that Windows-1250 lacks, and those that are no UTF-8.
+std::string LinkText(std::string_view path);
+
 // How a tag names a file: by its URL, or with `relative` by the path as it stands, which is a bare name. Slashes only.
 std::string FileAddress(std::string_view path, bool relative);
 

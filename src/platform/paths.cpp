@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <charconv>
 #include <cstddef>
 
 #include "platform/runtime_error.h"
+#include "text/codepage.h"
 
 namespace pelmar {
 namespace {
@@ -54,6 +56,26 @@ std::string PathToFileUrl(std::string_view path) {
   url += path;
   std::replace(url.begin(), url.end(), '\\', '/');
   return url;
+}
+
+std::optional<std::string> PathFromFileUrl(std::string_view url) {
+  constexpr std::string_view kScheme = "file://";
+  constexpr std::string_view kThisComputer = "localhost";
+  if (ToLower(url.substr(0, kScheme.size())) != kScheme) return std::nullopt;
+  url.remove_prefix(kScheme.size());
+  if (ToLower(url.substr(0, kThisComputer.size())) == kThisComputer) url.remove_prefix(kThisComputer.size());
+  if (!url.starts_with('/')) return std::nullopt;
+  std::string path;
+  for (std::size_t at = 0; at < url.size(); ++at) {
+    unsigned byte = 0;
+    const auto digits = url.substr(at + 1, 2);
+    const bool encoded = url[at] == '%' && digits.size() == 2 &&
+                         std::from_chars(digits.data(), digits.data() + 2, byte, 16).ptr == digits.data() + 2;
+    if (encoded && byte == 0) return std::nullopt;
+    path += encoded ? static_cast<char>(byte) : url[at];
+    if (encoded) at += 2;
+  }
+  return path;
 }
 
 std::string JoinPath(std::string_view folder, std::string_view name) {

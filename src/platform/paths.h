@@ -1,6 +1,7 @@
 // Parts of paths. Paths are UTF-8; both "\\" and "/" separate.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -16,6 +17,9 @@ bool HasExtension(std::string_view path);
 
 // "file:///" and the path, each backslash as "/", nothing encoded. A native absolute path gets three slashes in all.
 std::string PathToFileUrl(std::string_view path);
+
+// The path that a "file://" URL of this computer names, percent-decoded; nothing for any other string.
+std::optional<std::string> PathFromFileUrl(std::string_view url);
 
 // Folder and name joined by the separator that the folder is written with, none added where it ends in one.
 std::string JoinPath(std::string_view folder, std::string_view name);

@@ -1,6 +1,7 @@
 // All that the program asks of the system, behind one interface. The program's answer is Qt's (platform/qt); tests
-// answer from a script. Paths, messages and titles are UTF-8; texts of documents and the clipboard are Windows-1250.
-// No function throws unless it says so; failures come back as values.
+// answer from a script. Messages and titles are UTF-8, texts of documents and the clipboard are Windows-1250. A path is
+// the bytes that the system gave, UTF-8 as a rule; in a message it shows as well where it isn't. No function throws
+// unless it says so; failures come back as values.
 #pragma once
 
 #include <cstdint>
@@ -129,6 +130,8 @@ class Platform {
   int WriteFile(const std::string& path, std::string_view bytes) { return WriteDocument(path, bytes).error; }
   // A file that only its owner can read. EEXIST where anything has that name already, links that lead nowhere included.
   virtual int WriteNewFile(const std::string& path, std::string_view bytes) = 0;  // 0 or errno
+  // Hands a file to `take` piece by piece, until that returns false. 0 or errno.
+  virtual int ReadByPieces(const std::string& path, const std::function<bool(std::string_view piece)>& take) = 0;
   // Reads one file and writes another, piece by piece, so that its size doesn't matter. The target is the new content
   // once that is complete, and what it was until then.
   virtual WriteOutcome RewriteFile(const std::string& source, const std::string& target, OldTail tail,

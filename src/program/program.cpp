@@ -1,7 +1,7 @@
 #include "program/program.h"
 
-#include <QFileInfo>
 #include <cstdlib>
+#include <filesystem>
 
 #include "accessories/windows/accessory_windows.h"
 #include "ciphers/windows/cipher_windows.h"
@@ -104,9 +104,12 @@ void Program::TellRuntimeError(const RuntimeError& error) {
 }
 
 std::string CommandTail(const QStringList& arguments) {
-  const QString tail = arguments.join(QLatin1Char(' '));
-  const QFileInfo file(tail);
-  return Utf8FromQString(!tail.isEmpty() && file.isRelative() && file.exists() ? file.absoluteFilePath() : tail);
+  const std::string tail = PathFromQString(arguments.join(QLatin1Char(' ')));
+  const std::filesystem::path file(tail);
+  std::error_code error;
+  if (file.is_relative() && std::filesystem::exists(file, error))
+    return std::filesystem::absolute(file, error).native();
+  return PathFromFileUrl(tail).value_or(tail);
 }
 
 }  // namespace pelmar

@@ -49,6 +49,15 @@ int Documents::UnsavedCount() const {
   return count;
 }
 
+int Documents::EmptyTab() const {
+  for (int step = 0; step < kTabCount; ++step) {
+    const int tab = (selected_ + step) % kTabCount + 1;
+    const bool no_text = tab == selected_ ? text_.Empty() : Slot(tab).Text.empty();
+    if (no_text && Face(tab).ToolTipText.empty() && !IsUnsaved(tab)) return tab;
+  }
+  return 0;
+}
+
 void Documents::ClearCurrent() {
   SetFace({}, {});
   Current() = {};

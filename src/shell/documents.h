@@ -51,6 +51,9 @@ class Documents {
   // The number that the question at the close tells.
   [[nodiscard]] int UnsavedCount() const;
 
+  // The next tab behind the current one that holds nothing, 0 where there is none.
+  [[nodiscard]] int EmptyTab() const;
+
   // Empties the current tab; the question has been answered.
   void ClearCurrent();
   // The start's fresh state: no path, no mark.

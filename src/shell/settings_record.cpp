@@ -39,6 +39,17 @@ class Writer {
   RecordWriter fields_;
 };
 
+std::string EncodedUrl(std::string_view path) {
+  std::string url = "file://";
+  for (const char byte : path) {
+    if (CodeOf(byte) >= 0x80 || byte == '%')
+      url += '%' + HexByte(CodeOf(byte));
+    else
+      url += byte;
+  }
+  return url;
+}
+
 }  // namespace
 
 SettingsRecord ReadSettings(std::string_view bytes) {
@@ -102,12 +113,16 @@ void ApplySettingsDefaults(SettingsRecord& record) {
 }
 
 std::string StoredPath(std::string_view path) {
+  if (!IsUtf8(path) && path.starts_with('/')) return EncodedUrl(path);
   std::string text = FromUtf8(path);
   const bool lossless = ToUtf8(text) == path;
   const bool ambiguous = IsUtf8(text) && text != path;
   return lossless && !ambiguous ? text : std::string(path);
 }
 
-std::string PathFromStored(std::string_view bytes) { return IsUtf8(bytes) ? std::string(bytes) : ToUtf8(bytes); }
+std::string PathFromStored(std::string_view bytes) {
+  if (auto path = PathFromFileUrl(bytes)) return *path;
+  return IsUtf8(bytes) ? std::string(bytes) : ToUtf8(bytes);
+}
 
 }  // namespace pelmar

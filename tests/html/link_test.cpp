@@ -4,6 +4,7 @@
 
 #include <vector>
 
+#include "html/attributes.h"
 #include "text/codepage.h"
 
 namespace pelmar {
@@ -24,6 +25,12 @@ TEST(Link, AnchorsAndLinksToThem) {
   EXPECT_EQ(Around(LinkToAnchor("x"), "text"), R"(<A HREF="#x">text</A>)");
   EXPECT_EQ(Around(LinkToAnchor("x"), " "), R"(<A HREF="#x"> </A>)");
   EXPECT_EQ(Around(LinkToAnchor("část"_w), ""), R"(<A HREF="#část">Odkaz na část</A>)"_w);
+}
+
+TEST(Link, OnlyWhatCouldNotLeadToItsFileIsEncoded) {
+  EXPECT_EQ(LinkText("/moje složka/50%#.htm"), "/moje složka/50%#.htm"_w);
+  EXPECT_EQ(LinkText("Жč?😀.htm"), "%D0%96č?%F0%9F%98%80.htm"_w);
+  EXPECT_EQ(LinkText("k\xF9\xF2\xC5.htm"), "k%F9%F2%C5.htm");
 }
 
 TEST(Link, MailHasABlankBeforeItsEnd) {

@@ -111,7 +111,8 @@ TEST(SettingsRecord, DefaultsAndOldTail) {
 }
 
 TEST(SettingsRecord, PathsOutsideTheCodePageComeBack) {
-  for (const std::string path : {"/home/jan/kůň.txt", "/a.txt", "/home/Ж/x.txt", "", "/Ă©.txt", "/Ä.txt"})
+  for (const std::string path :
+       {"/home/jan/kůň.txt", "/a.txt", "/home/Ж/x.txt", "", "/Ă©.txt", "/Ä.txt", "/d\xE8/%41 \xF9.txt"})
     EXPECT_EQ(PathFromStored(StoredPath(path)), path) << path;
   EXPECT_EQ(StoredPath("/kůň.txt"), "/kůň.txt"_w);
 }

@@ -119,6 +119,13 @@ int ScriptedPlatform::WriteNewFile(const std::string& path, std::string_view byt
 }
 
 // In pieces of three bytes, so that every border is met.
+int ScriptedPlatform::ReadByPieces(const std::string& path, const std::function<bool(std::string_view)>& take) {
+  if (const int error = ReadError(path)) return error;
+  const std::string_view bytes = files[path];
+  for (std::size_t at = 0; at < bytes.size() && take(bytes.substr(at, 3)); at += 3) continue;
+  return 0;
+}
+
 WriteOutcome ScriptedPlatform::RewriteFile(const std::string& source, const std::string& target, OldTail tail,
                                            FileRewriter& rewriter) {
   calls.push_back("rewrite " + source + ' ' + target);

@@ -59,6 +59,7 @@ class ScriptedPlatform : public Platform {
   FileBytes ReadFile(const std::string& path, std::optional<std::uint64_t> limit) override;
   WriteOutcome WriteDocument(const std::string& path, std::string_view bytes) override;
   int WriteNewFile(const std::string& path, std::string_view bytes) override;
+  int ReadByPieces(const std::string& path, const std::function<bool(std::string_view piece)>& take) override;
   WriteOutcome RewriteFile(const std::string& source, const std::string& target, OldTail tail,
                            FileRewriter& rewriter) override;
   bool IsSameFile(const std::string& left, const std::string& right) override { return left == right; }

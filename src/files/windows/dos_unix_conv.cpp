@@ -1,8 +1,8 @@
 #include "files/windows/dos_unix_conv.h"
 
+#include "files/encodings.h"
 #include "files/line_ends.h"
 #include "platform/qt/controls/file_browser.h"
-#include "platform/qt/convert.h"
 #include "ui_dos_unix_conv.h"
 
 namespace pelmar {
@@ -13,21 +13,27 @@ Dos_Unix_conv::Dos_Unix_conv(Platform& platform, QWidget* parent)
   ui_->File1->setFocus();
   LinkFileBrowser(ui_->Drive1, ui_->Dir1, ui_->File1, ui_->Text1);
   connect(ui_->File1, &FileList::FileClicked, this, &Dos_Unix_conv::File1_Click);
-  connect(ui_->Command1, &QPushButton::clicked, this, [this] { Convert(ConvertToUnix); });
-  connect(ui_->Command2, &QPushButton::clicked, this, [this] { Convert(ConvertToDos); });
+  connect(ui_->Command1, &QPushButton::clicked, this,
+          [this] { Convert([this](const std::string& path) { ConvertToUnix(platform_, path); }); });
+  connect(ui_->Command2, &QPushButton::clicked, this,
+          [this] { Convert([this](const std::string& path) { ConvertToDos(platform_, path); }); });
+  connect(ui_->Command4, &QPushButton::clicked, this,
+          [this] { Convert([this](const std::string& path) { ConvertToPage(platform_, path); }); });
+  connect(ui_->Command5, &QPushButton::clicked, this, [this] {
+    Convert([this](const std::string& path) { ConvertToUtf8(platform_, path, ui_->Check1->isChecked()); });
+  });
   connect(ui_->Command3, &QPushButton::clicked, this, &Dos_Unix_conv::hide);
 }
 
 Dos_Unix_conv::~Dos_Unix_conv() = default;
 
 void Dos_Unix_conv::File1_Click() {
-  ui_->Command1->setEnabled(true);
-  ui_->Command2->setEnabled(true);
-  ui_->Label2->setText(Utf8ToQString(PickedPath(*ui_->File1)));
+  for (QPushButton* convert : {ui_->Command1, ui_->Command2, ui_->Command4, ui_->Command5}) convert->setEnabled(true);
+  ShowPath(*ui_->Label2, PickedPath(*ui_->File1));
 }
 
-void Dos_Unix_conv::Convert(void (*convert)(Platform&, const std::string& path)) {
-  convert(platform_, Utf8FromQString(ui_->Label2->text()));
+void Dos_Unix_conv::Convert(const std::function<void(const std::string& path)>& convert) {
+  convert(PathOn(*ui_->Label2));
   ui_->File1->SetPath(ui_->File1->Path());  // the new file shows
 }
 

@@ -1,7 +1,10 @@
-// `Dos_Unix_conv`: converts a file on disk between the line ends of DOS and of Unix, into a new file beside it.
+// `Dos_Unix_conv`: converts a file on disk between the line ends of DOS and of Unix, or between UTF-8 and Windows-1250,
+// into a new file beside it.
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <string>
 
 #include "platform/platform.h"
 #include "platform/qt/controls/dialog_window.h"
@@ -21,7 +24,7 @@ class Dos_Unix_conv : public DialogWindow {
 
  private:
   void File1_Click();
-  void Convert(void (*convert)(Platform&, const std::string& path));
+  void Convert(const std::function<void(const std::string& path)>& convert);
 
   Platform& platform_;
   std::unique_ptr<Ui::Dos_Unix_conv> ui_;

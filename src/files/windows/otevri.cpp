@@ -2,9 +2,16 @@
 
 #include "platform/qt/controls/file_browser.h"
 #include "platform/qt/convert.h"
+#include "text/utf8.h"
 #include "ui_otevri.h"
 
 namespace pelmar {
+namespace {
+
+constexpr std::string_view kUtf8Hint =
+    "Soubor je v UTF-8, čte se jako Windows-1250. Převede ho „Konverze dos - unix“ v nabídce Soubor.";
+
+}  // namespace
 
 Otevri::Otevri(Opener& opener, Platform& platform, QWidget* parent)
     : DialogWindow(parent), opener_(opener), platform_(platform), ui_(std::make_unique<Ui::Otevri>()) {
@@ -22,13 +29,17 @@ Otevri::~Otevri() = default;
 void Otevri::File1_Click() {
   ui_->Command1->setEnabled(true);
   const std::string path = PickedPath(*ui_->File1);
-  ui_->Label1->setText(Utf8ToQString(path));
-  ui_->Text2->SetText(ToBytes(opener_.Preview(path)));
+  ShowPath(*ui_->Label1, path);
+  const std::string preview = opener_.Preview(path);
+  ui_->Text2->SetText(ToBytes(preview));
+  const QString hint = LooksLikeUtf8(preview) ? Utf8ToQString(kUtf8Hint) : QString();
+  ui_->Label3->setText(hint);
+  ui_->Label3->setToolTip(hint);  // a narrow dialog cuts the line
 }
 
 void Otevri::Command1_Click() {
   if (platform_.Message(MessageType::kYesNoWarning, "Opravdu otevřít soubor ?", "Soubor") != Answer::kYes) return;
-  opener_.OpenPath(Utf8FromQString(ui_->Label1->text()));
+  opener_.OpenPath(PathOn(*ui_->Label1));
   hide();
 }
 

@@ -26,23 +26,28 @@ Uloz::~Uloz() { documents_.Target().on_primed = nullptr; }
 
 void Uloz::FieldChanged() {
   ui_->Command1->setEnabled(true);
-  ui_->Label1->setText(Utf8ToQString(TargetPath(Utf8FromQString(ui_->Dir1->Path()), Utf8FromQString(ui_->Text1->text()),
-                                                Utf8FromQString(ui_->Text2->currentText()))));
+  // A name that still stands as it was primed keeps its bytes.
+  const SaveTarget& target = documents_.Target();
+  const auto typed = [](const QString& text, const std::string& primed) {
+    return text == Utf8ToQString(primed) ? primed : Utf8FromQString(text);
+  };
+  ShowPath(*ui_->Label1, TargetPath(PathFromQString(ui_->Dir1->Path()), typed(ui_->Text1->text(), target.name),
+                                    typed(ui_->Text2->currentText(), target.extension)));
 }
 
 void Uloz::TakeTarget() {
   const SaveTarget& target = documents_.Target();
   ui_->Command1->setEnabled(true);
-  ui_->Drive1->SetDrive(Utf8ToQString(target.folder));
-  ui_->Dir1->SetPath(Utf8ToQString(target.folder));
+  ui_->Drive1->SetDrive(PathToQString(target.folder));
+  ui_->Dir1->SetPath(PathToQString(target.folder));
   if (!target.complete) return;
   ui_->Text1->setText(Utf8ToQString(target.name));
   ui_->Text2->setCurrentText(Utf8ToQString(target.extension));
-  ui_->Label1->setText(Utf8ToQString(target.label));
+  ShowPath(*ui_->Label1, target.label);
 }
 
 void Uloz::Command1_Click() {
-  saver_.SaveToPath(Utf8FromQString(ui_->Label1->text()));
+  saver_.SaveToPath(PathOn(*ui_->Label1));
   hide();
 }
 

@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 
+#include "html/attributes.h"
 #include "html/tag_editor.h"
 #include "platform/paths.h"
 #include "platform/qt/convert.h"
@@ -38,7 +39,8 @@ void EdiTag::Command3_Click() {
 }
 
 void EdiTag::Command6_Click() {
-  if (const auto path = platform_.OpenDialog("Všechno(*.*)|*.*", 1)) SetValue(Utf8ToQString(PathToFileUrl(*path)));
+  if (const auto path = platform_.OpenDialog("Všechno(*.*)|*.*", 1))
+    SetValue(TextToQString(PathToFileUrl(LinkText(*path))));
 }
 
 void EdiTag::SetValue(const QString& value) { ui_->Attributes->ValueBox()->setEditText(value); }

@@ -26,12 +26,12 @@ void LinkFileChoice(const FileChoice& choice, std::function<void(const std::stri
   QObject::connect(choice.files, &FileList::PatternChanged, choice.path, refresh);
   QObject::connect(choice.relative, &QCheckBox::toggled, choice.path, refresh);
   QObject::connect(choice.show, &QAbstractButton::clicked, choice.path,
-                   [path = choice.path, show = std::move(show_in_browser)] { show(Utf8FromQString(path->text())); });
+                   [path = choice.path, show = std::move(show_in_browser)] { show(PathOn(*path)); });
 }
 
 void RefreshFileChoice(const FileChoice& choice) {
   const bool relative = choice.relative->isChecked();
-  choice.path->setText(relative ? choice.files->FileName() : Utf8ToQString(PickedPath(*choice.files)));
+  ShowPath(*choice.path, relative ? PathFromQString(choice.files->FileName()) : PickedPath(*choice.files));
   if (!choice.files->isEnabled()) return;
   choice.ok->setEnabled(HasFile(choice));
   choice.show->setEnabled(HasFile(choice) && !relative);
@@ -40,8 +40,9 @@ void RefreshFileChoice(const FileChoice& choice) {
 bool HasFile(const FileChoice& choice) { return !choice.files->FileName().isEmpty(); }
 
 std::string TakePath(const FileChoice& choice, QLineEdit& working_copy) {
-  working_copy.setText(Utf8ToQString(ForwardSlashes(Utf8FromQString(choice.path->text()))));
-  return TextFromQString(working_copy.text());
+  const std::string path = ForwardSlashes(PathOn(*choice.path));
+  working_copy.setText(Utf8ToQString(path));
+  return LinkText(path);
 }
 
 }  // namespace pelmar

@@ -31,8 +31,8 @@ struct FileChoice {
 };
 
 // Links the controls, once, behind setupUi: the lists with each other; the choice of a file, another folder or mask and
-// the switch to RefreshFileChoice; the show button to `show_in_browser`, which takes the path as the label has it,
-// UTF-8. Until something is chosen or switched, label and buttons stay as the form has them.
+// the switch to RefreshFileChoice; the show button to `show_in_browser`, which takes the label's path. Until something
+// is chosen or switched, label and buttons stay as the form has them.
 void LinkFileChoice(const FileChoice& choice, std::function<void(const std::string& path)> show_in_browser);
 
 // Writes folder and name into the label, or the name alone, and enables the buttons as far as they have what they need.
@@ -40,8 +40,8 @@ void RefreshFileChoice(const FileChoice& choice);
 
 [[nodiscard]] bool HasFile(const FileChoice& choice);
 
-// Copies the label's path into the dialog's hidden working copy, with slashes for backslashes, and returns it in
-// Windows-1250.
+// Copies the label's path into the dialog's hidden working copy, with slashes for backslashes, and returns it as a link
+// names it.
 std::string TakePath(const FileChoice& choice, QLineEdit& working_copy);
 
 }  // namespace pelmar

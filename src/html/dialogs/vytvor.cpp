@@ -1,7 +1,9 @@
 #include "html/dialogs/vytvor.h"
 
+#include "html/attributes.h"
 #include "html/dialogs/form_helpers.h"
 #include "html/tag_commands.h"
+#include "platform/qt/controls/file_browser.h"
 #include "platform/qt/convert.h"
 #include "texttools/appearance.h"
 #include "ui_vytvor.h"
@@ -69,7 +71,7 @@ PageSpec Vytvor::Read() const {
   spec.author = settings_.UserName;
   spec.created = DateText(now) + ' ' + TimeText(now);
   spec.title = TextFromQString(ui_->Text2->text());
-  spec.background = Written(ui_->Check3, ui_->Label10);
+  if (ui_->Check3->isChecked()) spec.background = LinkText(PathOn(*ui_->Label10));
   spec.bgcolor = Written(ui_->Check1, ui_->Label2);
   spec.text = Written(ui_->Check2, ui_->Label4);
   spec.link = Written(ui_->Check7, ui_->Label13);

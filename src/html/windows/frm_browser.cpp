@@ -123,7 +123,7 @@ bool FrmBrowser::eventFilter(QObject* watched, QEvent* event) {
 
 void FrmBrowser::ShowInBrowser(const std::string& path) {
   if (path.empty()) return;
-  Visit(Utf8ToQString(PathToFileUrl(path)));
+  Visit(AddressOfFile(path));
   Present();
   view_->Widget()->setFocus();
 }
@@ -223,7 +223,7 @@ void FrmBrowser::Stop_Click() {
 }
 
 void FrmBrowser::Open_Click() {
-  if (const auto path = platform_.OpenDialog(kOpenFilter, 1)) Visit(Utf8ToQString(PathToFileUrl(*path)));
+  if (const auto path = platform_.OpenDialog(kOpenFilter, 1)) Visit(AddressOfFile(*path));
 }
 
 void FrmBrowser::LoadNet_Click() {

@@ -4,6 +4,7 @@
 
 #include "platform/paths.h"
 #include "platform/qt/convert.h"
+#include "text/utf8.h"
 
 namespace pelmar {
 namespace {
@@ -24,9 +25,13 @@ QUrl UrlOfAddress(const QString& address) {
   return url;
 }
 
+QString AddressOfFile(std::string_view path) {
+  return IsUtf8(path) ? Utf8ToQString(PathToFileUrl(path)) : QString::fromLatin1(UrlOfPath(path).toEncoded());
+}
+
 QString AddressOfUrl(const QUrl& url) {
   if (!url.isLocalFile() || url.hasQuery()) return url.toString();
-  const QString address = Utf8ToQString(PathToFileUrl(Utf8FromQString(url.toLocalFile())));
+  const QString address = AddressOfFile(PathOfUrl(url));
   return url.hasFragment() ? address + QLatin1Char('#') + url.fragment() : address;
 }
 

@@ -4,6 +4,7 @@
 
 #include <QString>
 #include <QUrl>
+#include <string_view>
 
 namespace pelmar {
 
@@ -12,6 +13,8 @@ namespace pelmar {
 QUrl UrlOfAddress(const QString& address);
 
 QString AddressOfUrl(const QUrl& url);
+// Percent-encoded where the path is no UTF-8, since a person couldn't write it otherwise.
+QString AddressOfFile(std::string_view path);
 
 // Whether a page of this address may be shown: of the net (http, https), a file, data, or the empty page. All others
 // lead into the engine, where some end the whole program, or to what it doesn't know.

@@ -12,6 +12,7 @@
 #include <algorithm>
 
 #include "platform/qt/any_length.h"
+#include "platform/qt/convert.h"
 #include "platform/qt/svg_icon.h"
 
 namespace pelmar {
@@ -185,8 +186,9 @@ std::optional<QString> AskForFile(FileDialogKind kind, const QString& filter, in
   }
   dialog->setNameFilters(filters);
   if (filter_index >= 1 && filter_index <= filters.size()) dialog->selectNameFilter(filters[filter_index - 1]);
-  if (!dialog.Accepted() || dialog->selectedFiles().isEmpty()) return std::nullopt;
-  const QString path = dialog->selectedFiles().constFirst();
+  if (!dialog.Accepted() || dialog->selectedUrls().isEmpty()) return std::nullopt;
+  // By its URL, which a dialog of the desktop's own may fill with bytes that are no UTF-8.
+  const QString path = PathToQString(PathOfUrl(dialog->selectedUrls().constFirst()));
   folder = QFileInfo(path).path();
   return path;
 }

@@ -118,6 +118,15 @@ FileBytes ReadWholeFile(const std::string& path, std::optional<std::uint64_t> li
   return result;
 }
 
+int ReadFileByPieces(const std::string& path, const std::function<bool(std::string_view)>& take) {
+  constexpr int kEnough = -1;
+  const Source source = OpenRegular(path);
+  if (source.error != 0) return source.error;
+  const int error =
+      ForEachPiece(source.file.Number(), [&](std::string_view piece) { return take(piece) ? 0 : kEnough; });
+  return error == kEnough ? 0 : error;
+}
+
 WriteOutcome ReplaceFile(const std::string& path, std::string_view bytes, const std::string& keep_folder,
                          mode_t new_mode) {
   Target target;

@@ -6,6 +6,7 @@
 #include <sys/types.h>
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -20,6 +21,9 @@ bool CanReadFile(const std::string& path);
 // All bytes that the file has as it is opened, up to the limit. EISDIR for a folder, EINVAL for anything else that
 // isn't a regular file or that the system makes up while it is read, EFBIG without a limit for more than kLongestWhole.
 FileBytes ReadWholeFile(const std::string& path, std::optional<std::uint64_t> limit);
+
+// See Platform::ReadByPieces; errors as above.
+int ReadFileByPieces(const std::string& path, const std::function<bool(std::string_view)>& take);
 
 inline constexpr std::uint64_t kLongestWhole = std::uint64_t{1} << 30;
 

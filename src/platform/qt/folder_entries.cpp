@@ -12,11 +12,13 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <utility>
 #include <vector>
 
+#include "platform/qt/convert.h"
 #include "platform/qt/czech_collation.h"
 
 namespace pelmar {
@@ -55,16 +57,17 @@ mode_t KindOf(int folder, const dirent& entry) {
 }
 
 QStringList NamesOf(const QString& path, mode_t kind, const std::function<bool(const QString&)>& wanted) {
-  const std::unique_ptr<DIR, int (*)(DIR*)> folder(opendir(QFile::encodeName(path).constData()), &closedir);
+  const std::unique_ptr<DIR, int (*)(DIR*)> folder(opendir(PathFromQString(path).c_str()), &closedir);
   if (!folder) return {};
   const QCollator collator = CzechCollator();
   std::vector<std::pair<QCollatorSortKey, QString>> names;
   while (const dirent* entry = readdir(folder.get())) {
     const std::string_view name = entry->d_name;
     if (name == "." || name == "..") continue;
-    QString decoded = QFile::decodeName(entry->d_name);
-    if (!wanted(decoded) || KindOf(dirfd(folder.get()), *entry) != kind) continue;
-    names.emplace_back(collator.sortKey(decoded), std::move(decoded));
+    QString decoded = PathToQString(name);
+    const QString shown = ShownPath(decoded);
+    if (!wanted(shown) || KindOf(dirfd(folder.get()), *entry) != kind) continue;
+    names.emplace_back(collator.sortKey(shown), std::move(decoded));
   }
   std::sort(names.begin(), names.end(), [](const auto& left, const auto& right) {
     const int order = left.first.compare(right.first);
@@ -97,9 +100,18 @@ bool MatchesMask(QStringView name, const QStringList& masks) {
 
 bool IsReadableFolder(const QString& path) {
   struct stat state {};
-  const QByteArray native = QFile::encodeName(path);
-  return stat(native.constData(), &state) == 0 && S_ISDIR(state.st_mode) &&
-         faccessat(AT_FDCWD, native.constData(), R_OK | X_OK, AT_EACCESS) == 0;
+  const std::string native = PathFromQString(path);
+  return stat(native.c_str(), &state) == 0 && S_ISDIR(state.st_mode) &&
+         faccessat(AT_FDCWD, native.c_str(), R_OK | X_OK, AT_EACCESS) == 0;
+}
+
+QString CurrentFolder() {
+  std::error_code error;
+  return PathToQString(std::filesystem::current_path(error).native());
+}
+
+QString CleanFolder(const QString& path) {
+  return QDir::cleanPath(path.startsWith(u'/') ? path : CurrentFolder() + u'/' + path);
 }
 
 QStringList SubfoldersOf(const QString& path) {

@@ -1,4 +1,5 @@
-// What the file browser's lists show: the entries of a folder, by name and kind alone, in Czech order. A folder of
+// What the file browser's lists show: the entries of a folder, by name and kind alone, in Czech order. Paths and names
+// are as PathToQString gives them; masks and the order go by what a person sees of them. A folder of
 // tens of thousands of files must open at once, so nothing is asked about a file beyond what its folder says.
 #pragma once
 
@@ -14,6 +15,11 @@ QStringList SplitMask(const QString& mask);
 
 // False where the folder can't be listed and entered.
 bool IsReadableFolder(const QString& path);
+
+// The current folder of the process.
+QString CurrentFolder();
+// The whole path of a folder, without "." and "..", and without a separator at its end.
+QString CleanFolder(const QString& path);
 
 // The names, sorted. Those that begin with a full stop are hidden from both: folders unless `path` itself lies in a
 // hidden one, files also unless a mask begins with a full stop. Links count as what they lead to. Nothing for a folder

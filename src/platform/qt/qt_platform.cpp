@@ -17,6 +17,7 @@
 #include "platform/qt/convert.h"
 #include "platform/qt/dialogs.h"
 #include "platform/qt/disk_file.h"
+#include "platform/qt/folder_entries.h"
 #include "platform/qt/install_folder.h"
 #include "platform/qt/printer.h"
 
@@ -25,9 +26,9 @@ namespace {
 
 QString DataHome() { return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation); }
 
-std::optional<std::string> ToUtf8(const std::optional<QString>& answer) {
+std::optional<std::string> ToPath(const std::optional<QString>& answer) {
   if (!answer) return std::nullopt;
-  return Utf8FromQString(*answer);
+  return PathFromQString(*answer);
 }
 
 }  // namespace
@@ -47,17 +48,19 @@ void QtPlatform::ShowAbout(std::string_view title, std::string_view text) {
 std::optional<std::string> QtPlatform::InputBox(std::string_view prompt, std::string_view title,
                                                 std::string_view initial) {
   const BusyPointer::Lift lift(pointer_);
-  return ToUtf8(AskForText(Utf8ToQString(prompt), Utf8ToQString(title), Utf8ToQString(initial)));
+  const auto answer = AskForText(Utf8ToQString(prompt), Utf8ToQString(title), Utf8ToQString(initial));
+  if (!answer) return std::nullopt;
+  return Utf8FromQString(*answer);
 }
 
 std::optional<std::string> QtPlatform::OpenDialog(std::string_view filter, int filter_index) {
   const BusyPointer::Lift lift(pointer_);
-  return ToUtf8(AskForFile(FileDialogKind::kOpen, Utf8ToQString(filter), filter_index, dialog_folder_));
+  return ToPath(AskForFile(FileDialogKind::kOpen, Utf8ToQString(filter), filter_index, dialog_folder_));
 }
 
 std::optional<std::string> QtPlatform::SaveDialog(std::string_view filter, int filter_index) {
   const BusyPointer::Lift lift(pointer_);
-  return ToUtf8(AskForFile(FileDialogKind::kSave, Utf8ToQString(filter), filter_index, dialog_folder_));
+  return ToPath(AskForFile(FileDialogKind::kSave, Utf8ToQString(filter), filter_index, dialog_folder_));
 }
 
 std::string QtPlatform::ClipboardText() { return clipboard_.Text().value_or(std::string()); }
@@ -79,6 +82,10 @@ WriteOutcome QtPlatform::WriteDocument(const std::string& path, std::string_view
 }
 
 int QtPlatform::WriteNewFile(const std::string& path, std::string_view bytes) { return CreateFile(path, bytes); }
+
+int QtPlatform::ReadByPieces(const std::string& path, const std::function<bool(std::string_view)>& take) {
+  return ReadFileByPieces(path, take);
+}
 
 WriteOutcome QtPlatform::RewriteFile(const std::string& source, const std::string& target, OldTail tail,
                                      FileRewriter& rewriter) {
@@ -112,13 +119,9 @@ PrintOutcome QtPlatform::Print(const PrintFont& font, const std::string& name,
   return PrintOnDefault(font, Utf8ToQString(name), draw);
 }
 
-void QtPlatform::AddToRecentDocuments(const std::string& path) {
-  recent_.Add(QDir::cleanPath(QFileInfo(Utf8ToQString(path)).absoluteFilePath()));
-}
+void QtPlatform::AddToRecentDocuments(const std::string& path) { recent_.Add(CleanFolder(PathToQString(path))); }
 
-bool QtPlatform::OpenWithDefaultProgram(const std::string& path) {
-  return QDesktopServices::openUrl(QUrl::fromLocalFile(Utf8ToQString(path)));
-}
+bool QtPlatform::OpenWithDefaultProgram(const std::string& path) { return QDesktopServices::openUrl(UrlOfPath(path)); }
 
 bool QtPlatform::StartAnotherCopy() {
   return QProcess::startDetached(QCoreApplication::applicationFilePath(), {}, Utf8ToQString(InstallFolder()));

@@ -6,6 +6,8 @@
 #include <utility>
 #include <vector>
 
+#include "platform/qt/convert.h"
+
 namespace pelmar {
 namespace {
 
@@ -13,7 +15,7 @@ QString BookmarkNamespace() { return QStringLiteral("http://www.freedesktop.org/
 QString MimeNamespace() { return QStringLiteral("http://www.freedesktop.org/standards/shared-mime-info"); }
 QString MetadataOwner() { return QStringLiteral("http://freedesktop.org"); }
 QString ProgramName() { return QStringLiteral("Pelmar VEX"); }
-QString ProgramCommand() { return QStringLiteral("'pelmar-vex %u'"); }
+QString ProgramCommand() { return QStringLiteral("'pelmar-vex %f'"); }
 
 // Where the copier stands inside the entry of our file. Anything else has no name.
 enum class Place { kOther, kRoot, kEntry, kInfo, kMetadata, kApplications };
@@ -139,7 +141,7 @@ class BookmarkCopier {
   // By the decoded name: programs differ in what they encode.
   [[nodiscard]] bool IsOurFile() const {
     const QUrl url = QUrl::fromEncoded(reader_.attributes().value(QLatin1String("href")).toUtf8());
-    return url.isLocalFile() && url.toLocalFile() == path_;
+    return url.isLocalFile() && PathToQString(PathOfUrl(url)) == path_;
   }
 
   [[nodiscard]] bool IsOurApplication() const {
@@ -187,7 +189,7 @@ class BookmarkCopier {
     writer_.writeCharacters(QStringLiteral("\n  "));
     writer_.writeStartElement(QStringLiteral("bookmark"));
     writer_.writeAttribute(QStringLiteral("href"),
-                           QString::fromLatin1(QUrl::fromLocalFile(path_).toEncoded(QUrl::FullyEncoded)));
+                           QString::fromLatin1(UrlOfPath(PathFromQString(path_)).toEncoded(QUrl::FullyEncoded)));
     for (const char* name : {"added", "modified", "visited"}) writer_.writeAttribute(QLatin1String(name), time_);
     WriteInfo();
     writer_.writeEndElement();

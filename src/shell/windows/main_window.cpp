@@ -31,11 +31,21 @@ constexpr QSize kFirstSize(820, 560);
 // Left, right, centre.
 constexpr Qt::Alignment kAlignments[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
 
-// The path of the first file of a drop, "" where it holds none.
-std::string DroppedFile(const QMimeData* mime) {
-  const QList<QUrl> urls = mime->urls();
-  const auto local = std::find_if(urls.begin(), urls.end(), [](const QUrl& url) { return url.isLocalFile(); });
-  return local == urls.end() ? std::string() : Utf8FromQString(local->toLocalFile());
+// The paths of the files of a drop.
+std::vector<std::string> DroppedFiles(const QMimeData* mime) {
+  std::vector<std::string> paths;
+  for (const QUrl& url : mime->urls())
+    if (url.isLocalFile()) paths.push_back(PathOfUrl(url));
+  return paths;
+}
+
+// One path a line, as many as a message can hold.
+std::string ListOf(const std::vector<std::string>& paths) {
+  constexpr std::size_t kMost = 10;
+  std::string list;
+  for (std::size_t i = 0; i < std::min(kMost, paths.size()); ++i) list += "\r\n" + paths[i];
+  if (paths.size() > kMost) list += "\r\n... a další: " + std::to_string(paths.size() - kMost);
+  return list;
 }
 
 }  // namespace
@@ -333,26 +343,42 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
   // A drop reaches a window also while a dialog or the lock keeps it from the person.
   if (QApplication::activeModalWidget() != nullptr) return;
-  if (!DroppedFile(event->mimeData()).empty()) event->acceptProposedAction();
+  if (!DroppedFiles(event->mimeData()).empty()) event->acceptProposedAction();
 }
 
 void MainWindow::dropEvent(QDropEvent* event) {
   event->acceptProposedAction();
   // The question comes after the drop, or the program that the file comes from would wait for its answer too.
   QMetaObject::invokeMethod(
-      this, [this, path = DroppedFile(event->mimeData())] { OpenDropped(path); }, Qt::QueuedConnection);
+      this, [this, paths = DroppedFiles(event->mimeData())] { OpenDropped(paths); }, Qt::QueuedConnection);
 }
 
-void MainWindow::OpenDropped(const std::string& path) {
+void MainWindow::OpenDropped(std::vector<std::string> paths) {
   activateWindow();
   // To open one leaves every later file operation failing, which a slip of the mouse must not bring about.
-  if (!HasExtension(path)) {
-    editor_.platform.Message(MessageType::kOk, "Soubor " + path + " nemá příponu, nelze ho otevřít.", "Soubor");
-    return;
+  const auto nameless = std::stable_partition(paths.begin(), paths.end(), HasExtension);
+  const std::vector<std::string> refused(nameless, paths.end());
+  paths.erase(nameless, paths.end());
+  if (refused.size() == 1) {
+    Tell("Soubor " + refused.front() + " nemá příponu, nelze ho otevřít.");
+  } else if (!refused.empty()) {
+    Tell("Soubory bez přípony nelze otevřít:" + ListOf(refused));
   }
-  if (editor_.platform.Message(MessageType::kYesNoWarning, "Opravdu otevřít soubor ?", "Soubor") == Answer::kYes)
-    opener_.OpenPath(path);
+  if (paths.empty() ||
+      editor_.platform.Message(MessageType::kYesNoWarning, "Opravdu otevřít soubor ?", "Soubor") != Answer::kYes)
+    return;
+  // The first one takes the place of the current document, as a single one does; the others lose nobody anything.
+  auto path = paths.begin();
+  opener_.OpenPath(*path);
+  while (++path != paths.end()) {
+    const int tab = editor_.documents.EmptyTab();
+    if (tab == 0) return Tell("Není volná záložka, neotevřeny zůstaly soubory:" + ListOf({path, paths.end()}));
+    editor_.documents.SwitchTo(tab);
+    opener_.OpenPath(*path);
+  }
 }
+
+void MainWindow::Tell(const std::string& text) { editor_.platform.Message(MessageType::kOk, text, "Soubor"); }
 
 void MainWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);

@@ -4,6 +4,8 @@
 
 #include <QMainWindow>
 #include <functional>
+#include <string>
+#include <vector>
 
 #include "files/open.h"
 #include "platform/qt/controls/text_box.h"
@@ -85,7 +87,8 @@ class MainWindow : public QMainWindow, public MainView {
   void MakeControls();
   void AddViewCommands();
   void FollowDocuments();
-  void OpenDropped(const std::string& path);
+  void OpenDropped(std::vector<std::string> paths);
+  void Tell(const std::string& text);
   void ToggleBar(std::string_view item, QWidget* bar);
   void ToggleAlwaysOnTop();
   void FitToFrame();

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractItemView>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QFile>
 #include <QLabel>
@@ -8,6 +9,7 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
+#include <fstream>
 
 #include "files/line_ends.h"
 #include "files/windows/dir_setup.h"
@@ -54,7 +56,7 @@ struct FileDialogsTest : testing::Test {
     auto* list = Find<FileList>(dialog, "File1");
     for (int row = 0; row < list->model()->rowCount(); ++row) {
       const QModelIndex index = list->model()->index(row, 0);
-      if (index.data().toString() != QLatin1String(name)) continue;
+      if (index.data().toString() != QString::fromUtf8(name)) continue;
       return QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(index).center());
     }
     FAIL() << name << " isn't in the list";
@@ -79,7 +81,13 @@ TEST_F(FileDialogsTest, OpenDialogPreviewsAsksAndOpens) {
   Choose(dialog, "big.txt");
   EXPECT_TRUE(open->isEnabled());
   EXPECT_EQ(ViewOf(Find<TextBox>(dialog, "Text2")->Text()), "Není k dispozici"_w);
+  auto* encoding = Find<QLabel>(dialog, "Label3");
+  platform.files[PathOf("a.TXT")] = "kůň";
   Choose(dialog, "a.TXT");
+  EXPECT_TRUE(encoding->text().contains(QStringLiteral("UTF-8")));
+  platform.files[PathOf("a.TXT")] = "text of a";
+  Choose(dialog, "a.TXT");
+  EXPECT_TRUE(encoding->text().isEmpty());
   EXPECT_EQ(Utf8FromQString(Find<QLabel>(dialog, "Label1")->text()), PathOf("a.TXT"));
   EXPECT_EQ(ViewOf(Find<TextBox>(dialog, "Text2")->Text()), "text of a");
   platform.answers = {Answer::kNo, Answer::kYes};
@@ -90,6 +98,30 @@ TEST_F(FileDialogsTest, OpenDialogPreviewsAsksAndOpens) {
   open->click();
   EXPECT_EQ(editor.text.Text(), "text of a");
   EXPECT_FALSE(dialog.isVisible());
+}
+
+TEST_F(FileDialogsTest, ANameThatIsNoUtf8IsShownOpenedAndSavedByItsBytes) {
+  const std::string path = Utf8FromQString(folder.path()) + "/k\xF9\xF2.txt";
+  std::ofstream(path).close();
+  platform.files[path] = "horse";
+  Otevri open(editor.opener, platform, nullptr);
+  Uloz save(editor.documents, editor.saver, nullptr);
+  open.show();
+  Find<FolderList>(open, "Dir1")->SetPath(folder.path());
+  Choose(open, "kůň.txt");
+  EXPECT_EQ(Find<QLabel>(open, "Label1")->text(), folder.filePath(QStringLiteral("kůň.txt")));
+  platform.answers = {Answer::kYes};
+  Find<QPushButton>(open, "Command1")->click();
+  EXPECT_EQ(editor.text.Text(), "horse");
+  EXPECT_EQ(editor.documents.CurrentPath(), path);
+  EXPECT_EQ(editor.settings.RecentFiles[0], path);
+  editor.text.SetText("mare");
+  platform.answers = {Answer::kYes};
+  Find<QPushButton>(save, "Command1")->click();
+  EXPECT_EQ(platform.files[path], "mare");
+  Find<QComboBox>(save, "Text2")->setCurrentText(QStringLiteral("htm"));  // the name is still the old one
+  Find<QPushButton>(save, "Command1")->click();
+  EXPECT_EQ(platform.files[path.substr(0, path.size() - 3) + "htm"], "mare");
 }
 
 TEST_F(FileDialogsTest, SaveDialogShowsItsTargetAsItIsMade) {
@@ -150,7 +182,9 @@ TEST_F(FileDialogsTest, ConversionWritesBesideTheChosenFile) {
   dialog.show();
   auto* to_unix = Find<QPushButton>(dialog, "Command1");
   auto* to_dos = Find<QPushButton>(dialog, "Command2");
-  EXPECT_FALSE(to_unix->isEnabled() || to_dos->isEnabled());
+  auto* to_page = Find<QPushButton>(dialog, "Command4");
+  auto* to_utf8 = Find<QPushButton>(dialog, "Command5");
+  EXPECT_FALSE(to_unix->isEnabled() || to_dos->isEnabled() || to_page->isEnabled() || to_utf8->isEnabled());
   Find<FolderList>(dialog, "Dir1")->SetPath(folder.path());
   Find<QComboBox>(dialog, "Text1")->setCurrentText(QStringLiteral("*.html"));
   Choose(dialog, "b.html");
@@ -162,6 +196,11 @@ TEST_F(FileDialogsTest, ConversionWritesBesideTheChosenFile) {
   const std::string stem = ConvertedPath(PathOf("b.html"), "");
   EXPECT_EQ(platform.files[stem + "unx"], "<B>\n");
   EXPECT_EQ(platform.files[stem + "dos"], "<B>\r\r\n");
+  to_page->click();
+  EXPECT_EQ(platform.files[stem + "1250"], "<B>\r\n");
+  Find<QCheckBox>(dialog, "Check1")->click();
+  to_utf8->click();
+  EXPECT_EQ(platform.files[stem + "utf8"], "\xEF\xBB\xBF<B>\r\n");
   EXPECT_TRUE(dialog.isVisible());
   Find<QPushButton>(dialog, "Command3")->click();
   EXPECT_FALSE(dialog.isVisible());

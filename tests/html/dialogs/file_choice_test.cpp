@@ -12,6 +12,7 @@
 #include <filesystem>
 
 #include "platform/qt/controls/drive_list.h"
+#include "platform/qt/controls/file_browser.h"
 #include "platform/qt/controls/file_list.h"
 #include "platform/qt/controls/folder_list.h"
 #include "platform/qt/convert.h"
@@ -117,6 +118,10 @@ TEST_F(FileChoiceTest, ThePathGoesToTheBrowserAndToTheTag) {
   path.setText(QStringLiteral("C:\\a\\č.gif"));
   EXPECT_EQ(TakePath(choice, copy), "C:/a/č.gif"_w);
   EXPECT_EQ(copy.text(), QStringLiteral("C:/a/č.gif"));
+  ShowPath(path, "/Ж/k\xF9.gif");
+  EXPECT_EQ(TakePath(choice, copy), "/%D0%96/k%F9.gif");
+  show.click();
+  EXPECT_EQ(shown.back(), "/Ж/k\xF9.gif");
 }
 
 }  // namespace

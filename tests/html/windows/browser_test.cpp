@@ -368,6 +368,9 @@ TEST(WebAddress, FilesAreNamedAsTheyStand) {
   EXPECT_EQ(UrlOfAddress(file(plain) + QStringLiteral("#část")), part);
   EXPECT_EQ(AddressOfUrl(part), file(plain) + QStringLiteral("#část"));
   EXPECT_EQ(UrlOfAddress(file(plain) + QStringLiteral("?a=1")).query(), QStringLiteral("a=1"));
+  EXPECT_EQ(AddressOfFile("/a č#.htm"), QStringLiteral("file:///a č#.htm"));
+  EXPECT_EQ(AddressOfFile("/a \xE8#.htm"), QStringLiteral("file:///a%20%E8%23.htm"));
+  EXPECT_EQ(AddressOfUrl(UrlOfAddress(AddressOfFile("/a \xE8#.htm"))), AddressOfFile("/a \xE8#.htm"));
   // A path without the scheme, as a person would paste it.
   EXPECT_EQ(UrlOfAddress(QStringLiteral(" ") + plain + QStringLiteral(" ")), QUrl::fromLocalFile(plain));
   EXPECT_EQ(UrlOfAddress(QStringLiteral("file:///C:/a b.htm")).toString(), QStringLiteral("file:///C:/a b.htm"));

@@ -68,6 +68,24 @@ TEST(FolderEntries, AreSortedInCzechAndTakenByKind) {
   EXPECT_FALSE(IsReadableFolder(path + QStringLiteral("/missing")));
 }
 
+TEST(FolderEntries, KeepTheBytesOfNamesThatAreNoUtf8) {
+  const TempFolder temp;
+  temp.Put("d\xE9/k\xF9\xF2.txt", "");
+  temp.Put("d\xE9/ku\xED\xB2\x8D😀.txt", "");
+  const QString folder = PathToQString(temp.File("d\xE9"));
+  EXPECT_TRUE(IsReadableFolder(folder));
+  EXPECT_EQ(CleanFolder(folder + QStringLiteral("/x/../")), folder);
+  const QStringList names = FilesOf(folder, QStringLiteral("k?*.txt"));
+  ASSERT_EQ(names.size(), 2);
+  EXPECT_EQ(PathFromQString(names[0]), "ku\xED\xB2\x8D😀.txt");
+  EXPECT_EQ(PathFromQString(names[1]), "k\xF9\xF2.txt");
+  EXPECT_EQ(ShownPath(names[1]), QStringLiteral("kůň.txt"));
+  EXPECT_EQ(Utf8ToQString("Žába k\xF9\xF2.txt"), QStringLiteral("Žába kůň.txt"));
+  EXPECT_EQ(FilesOf(folder, QStringLiteral("*ůň*")).size(), 1);  // a mask is what a person sees
+  for (const char* path : {"/k\xF9\xF2 %#?.txt", "/kůň %#?.txt"}) EXPECT_EQ(PathOfUrl(UrlOfPath(path)), path);
+  EXPECT_EQ(UrlOfPath("/k\xF9 %.txt").toEncoded().toStdString(), "file:///k%F9%20%25.txt");
+}
+
 TEST(MountedPlaces, AreHomeRootAndTheUsualPlacesForDisks) {
   const TempFolder temp;
   const std::string mounts =

@@ -21,7 +21,7 @@ QByteArray InList(const QByteArray& entries) {
 }
 
 const char* const kOurNote =
-    R"(<bookmark:application name="Pelmar VEX" exec="'pelmar-vex %u'" modified="2024-05-06T12:00:00Z" count="1"/>)";
+    R"(<bookmark:application name="Pelmar VEX" exec="'pelmar-vex %f'" modified="2024-05-06T12:00:00Z" count="1"/>)";
 
 QByteArray OurEntry() {
   return QByteArray(R"(
@@ -56,7 +56,7 @@ TEST(AddBookmark, UpdatesTheEntryOfTheFile) {
   const QByteArray other = R"(<bookmark:application name="other" exec="o" count="3"/>)";
   const QByteArray type = R"(<mime:mime-type type="text/x-old"/>)", plain = R"(<mime:mime-type type="text/plain"/>)";
   const auto note = [](const char* count, const char* time) {
-    return QByteArray(R"(<bookmark:application name="Pelmar VEX" exec="'pelmar-vex %u'" modified=")") + time +
+    return QByteArray(R"(<bookmark:application name="Pelmar VEX" exec="'pelmar-vex %f'" modified=")") + time +
            R"(" count=")" + count + R"("/>)";
   };
   const auto metadata = [](const QByteArray& content) {

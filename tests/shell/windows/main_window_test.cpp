@@ -6,13 +6,17 @@
 #include <QMimeData>
 #include <QSignalSpy>
 #include <QTest>
+#include <deque>
+#include <filesystem>
 
 #include "platform/color.h"
 #include "platform/qt/convert.h"
+#include "program/program.h"
 #include "shell/window_geometry.h"
 #include "shell/windows/status_timer.h"
 #include "shell/windows/window_registry.h"
 #include "support/scripted_platform.h"
+#include "support/temp_folder.h"
 #include "support/whole_editor.h"
 #include "text/codepage.h"
 
@@ -254,8 +258,8 @@ TEST_F(MainWindowTest, LookComesBackAsItWasSet) {
 TEST_F(MainWindowTest, ADroppedFileIsOpenedAfterAQuestion) {
   platform.files["/a/b.txt"] = "dropped";
   platform.files["/a/Makefile"] = "all:";
-  const auto drop = [this](const QList<QUrl>& urls, Answer answer) {
-    platform.answers = {answer};
+  const auto drop = [this](const QList<QUrl>& urls, const std::deque<Answer>& answers) {
+    platform.answers = answers;
     QMimeData mime;
     mime.setUrls(urls);
     QDragEnterEvent enter(QPoint(50, 50), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
@@ -263,18 +267,52 @@ TEST_F(MainWindowTest, ADroppedFileIsOpenedAfterAQuestion) {
     EXPECT_TRUE(enter.isAccepted());
     QDropEvent dropped(QPointF(50, 50), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&window, &dropped);
-    EXPECT_EQ(platform.answers.size(), 1u);  // not while the other program waits for the drop
+    EXPECT_EQ(platform.answers, answers);  // not while the other program waits for the drop
     QApplication::processEvents();
     EXPECT_TRUE(platform.answers.empty());
   };
   const QList<QUrl> page{QUrl(QStringLiteral("http://x.cz/")), QUrl::fromLocalFile(QStringLiteral("/a/b.txt"))};
-  drop(page, Answer::kNo);
+  drop(page, {Answer::kNo});
   EXPECT_EQ(editor.text.Text(), "");
-  drop(page, Answer::kYes);
+  drop(page, {Answer::kYes});
   EXPECT_EQ(editor.text.Text(), "dropped");
-  drop({QUrl::fromLocalFile(QStringLiteral("/a/Makefile"))}, Answer::kOk);  // a name that can't be opened
+  drop({QUrl::fromLocalFile(QStringLiteral("/a/Makefile"))}, {Answer::kOk});  // a name that can't be opened
   EXPECT_EQ(editor.text.Text(), "dropped");
   EXPECT_FALSE(editor.file_number.IsOpen());
+
+  // The others of several go to the next empty tabs, as far as there are any.
+  QList<QUrl> many;
+  for (const char* name : {"1", "2", "3", "4", "5", "6"}) {
+    platform.files[std::string("/a/") + name + ".txt"] = name;
+    many += QUrl::fromLocalFile(QStringLiteral("/a/%1.txt").arg(QLatin1String(name)));
+  }
+  editor.documents.SwitchTo(4);
+  editor.text.SetText("mine");
+  editor.documents.SwitchTo(2);
+  drop(many, {Answer::kYes, Answer::kOk});
+  EXPECT_EQ(platform.calls.back(),
+            "message 0 \"Není volná záložka, neotevřeny zůstaly soubory:\r\n/a/4.txt\r\n/a/5.txt"
+            "\r\n/a/6.txt\" \"Soubor\"");
+  editor.documents.SwitchTo(1);
+  EXPECT_EQ(editor.text.Text(), "dropped");
+  for (const auto& [tab, text] : {std::pair(2, "1"), std::pair(3, "2"), std::pair(4, "mine"), std::pair(5, "3")}) {
+    editor.documents.SwitchTo(tab);
+    EXPECT_EQ(editor.text.Text(), text);
+  }
+}
+
+TEST(CommandTail, NamesAFileByItsPathOrItsUrl) {
+  const TempFolder temp;
+  temp.Put("a b\xE8.txt", "");
+  const auto here = std::filesystem::current_path();
+  std::filesystem::current_path(temp.Path());
+  const auto tail = [](const QStringList& arguments) { return CommandTail(arguments); };
+  EXPECT_EQ(tail({QStringLiteral("a"), PathToQString("b\xE8.txt")}), temp.File("a b\xE8.txt"));
+  EXPECT_EQ(tail({QStringLiteral("file:///x/%C4%8D%20%e8.txt")}), "/x/č \xE8.txt");
+  EXPECT_EQ(tail({QStringLiteral("File://localhost/50%.txt")}), "/50%.txt");
+  for (const char* other : {"", "-CALC", "missing.txt", "file://server/a.txt", "file:///a%00.txt", "http://x.cz/"})
+    EXPECT_EQ(tail({QLatin1String(other)}), other);
+  std::filesystem::current_path(here);
 }
 
 TEST_F(MainWindowTest, AHiddenTextCantBeReadAnywhere) {

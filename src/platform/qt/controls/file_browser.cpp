@@ -1,19 +1,25 @@
 #include "platform/qt/controls/file_browser.h"
 
 #include <QComboBox>
-#include <QDir>
+#include <QLabel>
 
 #include "platform/paths.h"
 #include "platform/qt/controls/drive_list.h"
 #include "platform/qt/controls/file_list.h"
 #include "platform/qt/controls/folder_list.h"
 #include "platform/qt/convert.h"
+#include "platform/qt/folder_entries.h"
 
 namespace pelmar {
+namespace {
+
+constexpr char kPathProperty[] = "path";
+
+}  // namespace
 
 void LinkFolderBrowser(DriveList* place, FolderList* folders) {
   QObject::connect(place, &DriveList::DriveChanged, folders, &FolderList::SetPath);
-  folders->SetPath(QDir::currentPath());
+  folders->SetPath(CurrentFolder());
   place->SetDrive(folders->Path());
 }
 
@@ -37,7 +43,17 @@ void LinkFileBrowser(DriveList* place, FolderList* folders, FileList* files, QCo
 }
 
 std::string PickedPath(const FileList& files) {
-  return JoinPath(Utf8FromQString(files.Path()), Utf8FromQString(files.FileName()));
+  return JoinPath(PathFromQString(files.Path()), PathFromQString(files.FileName()));
+}
+
+void ShowPath(QLabel& label, const std::string& path) {
+  label.setText(Utf8ToQString(path));
+  label.setProperty(kPathProperty, ToBytes(path));
+}
+
+std::string PathOn(const QLabel& label) {
+  const QByteArray path = label.property(kPathProperty).toByteArray();
+  return Utf8ToQString(ViewOf(path)) == label.text() ? path.toStdString() : Utf8FromQString(label.text());
 }
 
 }  // namespace pelmar

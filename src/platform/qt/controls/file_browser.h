@@ -5,6 +5,7 @@
 #include <string>
 
 class QComboBox;
+class QLabel;
 class QWidget;
 
 namespace pelmar {
@@ -31,7 +32,11 @@ void LinkFileBrowser(DriveList* place, FolderList* folders, FileList* files, QCo
 // Place and folder in a dialog that shows no files.
 void LinkFolderBrowser(DriveList* place, FolderList* folders);
 
-// The folder of the list joined with the selected name, UTF-8; the folder and a separator where none is selected.
+// A path in a label, which keeps its bytes, and the path that a label shows; any other text of it counts as one too.
+void ShowPath(QLabel& label, const std::string& path);
+std::string PathOn(const QLabel& label);
+
+// The folder of the list joined with the selected name, as bytes; the folder and a separator where none is selected.
 std::string PickedPath(const FileList& files);
 
 }  // namespace pelmar

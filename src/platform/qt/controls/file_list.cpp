@@ -1,15 +1,14 @@
 #include "platform/qt/controls/file_list.h"
 
 #include <QAbstractListModel>
-#include <QDir>
 #include <QElapsedTimer>
-#include <QFileInfo>
 #include <QKeyEvent>
 #include <QMetaMethod>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 
 #include "platform/qt/controls/first_choice.h"
+#include "platform/qt/convert.h"
 #include "platform/qt/folder_entries.h"
 
 namespace pelmar {
@@ -44,15 +43,17 @@ class FileNames : public QAbstractListModel {
 
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override {
     if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::ToolTipRole)) return {};
-    return names_[index.row()];
+    return ShownPath(names_[index.row()]);
   }
+
+  [[nodiscard]] const QString& Name(int row) const { return names_[row]; }
 
  private:
   QStringList names_;
 };
 
 FileList::FileList(QWidget* parent)
-    : QListView(parent), names_(new FileNames(this)), path_(QDir::currentPath()), pattern_(QStringLiteral("*.*")) {
+    : QListView(parent), names_(new FileNames(this)), path_(CurrentFolder()), pattern_(QStringLiteral("*.*")) {
   setModel(names_);
   setUniformItemSizes(true);
   setEditTriggers(NoEditTriggers);
@@ -72,7 +73,7 @@ FileList::FileList(QWidget* parent)
 
 void FileList::SetPath(const QString& path) {
   if (path.isEmpty()) return;
-  const QString clean = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+  const QString clean = CleanFolder(path);
   if (!IsReadableFolder(clean)) return;
   if (clean == path_) return ReadAnew();
   path_ = clean;
@@ -91,7 +92,7 @@ void FileList::SetPattern(const QString& pattern) {
 // By the selection: the view makes a row current that nobody chose when it comes into focus.
 QString FileList::FileName() const {
   const QModelIndexList rows = selectionModel()->selectedIndexes();
-  return rows.isEmpty() ? QString() : rows.constFirst().data().toString();
+  return rows.isEmpty() ? QString() : names_->Name(rows.constFirst().row());
 }
 
 void FileList::SetFileName(const QString& name) {

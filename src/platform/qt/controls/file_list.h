@@ -1,5 +1,6 @@
 // The file list of the file browser dialogs: the names of a folder's files that match a mask. While it is on show it
 // follows the folder, with the selection and the scrolling as they are.
+// Paths and names are as PathToQString gives them; the rows show them as ShownPath does.
 // Setting a property is the program's doing and raises no click; FileClicked and FileActivated are the person's.
 #pragma once
 

@@ -1,12 +1,12 @@
 #include "platform/qt/controls/folder_list.h"
 
 #include <QAbstractListModel>
-#include <QDir>
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QStyledItemDelegate>
 #include <vector>
 
+#include "platform/qt/convert.h"
 #include "platform/qt/folder_entries.h"
 
 namespace pelmar {
@@ -51,11 +51,12 @@ class FolderModel : public QAbstractListModel {
     const Row& row = rows_[static_cast<std::size_t>(index.row())];
     switch (role) {
       case Qt::DisplayRole:
-        return row.name;
+        return ShownPath(row.name);
       case Qt::DecorationRole:
         return index.row() < open_rows_ ? open_ : closed_;
       case Qt::ToolTipRole:
       case Qt::AccessibleDescriptionRole:
+        return ShownPath(row.path);
       case kPath:
         return row.path;
       case kDepth:
@@ -111,13 +112,13 @@ FolderList::FolderList(QWidget* parent) : QListView(parent), model_(new FolderMo
   setItemDelegate(new IndentingDelegate(this));
   setEditTriggers(NoEditTriggers);
   connect(this, &QListView::doubleClicked, this, &FolderList::EnterHighlighted);
-  path_ = Climb(QDir::currentPath());
+  path_ = Climb(CurrentFolder());
   Fill(path_);
 }
 
 void FolderList::SetPath(const QString& path) {
   if (path.isEmpty()) return;
-  const QString clean = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+  const QString clean = CleanFolder(path);
   if (!IsReadableFolder(clean)) return;
   const bool changed = clean != path_;
   path_ = clean;

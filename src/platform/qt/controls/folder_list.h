@@ -17,7 +17,7 @@ class FolderList : public QListView {
   // Begins at the current folder of the process.
   explicit FolderList(QWidget* parent = nullptr);
 
-  // Absolute, without "/" at the end (but for the root itself).
+  // Absolute, without "/" at the end (but for the root itself), as PathToQString gives it.
   [[nodiscard]] const QString& Path() const { return path_; }
   // A path that isn't a readable folder changes nothing. The folder's own row is highlighted. The same path again
   // reads the folder anew.

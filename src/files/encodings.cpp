@@ -1,0 +1,185 @@
+#include "files/encodings.h"
+
+#include <array>
+#include <cstdio>
+
+#include "platform/busy.h"
+#include "shell/file_number.h"
+#include "text/codepage.h"
+
+namespace pelmar {
+namespace {
+
+constexpr std::string_view kTitle = "Konverze UNIX <-> DOS";
+constexpr std::string_view kMark = "\xEF\xBB\xBF";
+
+bool IsOutsidePage(char32_t character) { return character != U'?' && CodeOfUnicode(character) == '?'; }
+
+void Tell(Platform& platform, const std::string& text) { platform.Message(MessageType::kOk, text, kTitle); }
+
+bool Agreed(Platform& platform, const std::string& text) {
+  return platform.Message(MessageType::kYesNoWarning, text, kTitle) == Answer::kYes;
+}
+
+std::string Told(const FilePlace& place) {
+  return "řádek " + std::to_string(place.line) + ", sloupec " + std::to_string(place.column) + ", bajt " +
+         std::to_string(place.byte);
+}
+
+// As "→ (U+2192)"; what can't be seen by its number alone.
+std::string Told(char32_t character, std::string_view utf8) {
+  std::array<char, 16> number{};
+  std::snprintf(number.data(), number.size(), "U+%04X", static_cast<unsigned>(character));
+  return character < 0xA0 ? number.data() : std::string(utf8) + " (" + number.data() + ")";
+}
+
+std::string Utf8Of(char32_t character) {
+  std::string utf8;
+  const auto tail = [&](int shift) { utf8 += static_cast<char>(0x80 | (character >> shift & 0x3F)); };
+  if (character < 0x800) {
+    utf8 += static_cast<char>(0xC0 | character >> 6);
+  } else if (character < 0x10000) {
+    utf8 += static_cast<char>(0xE0 | character >> 12);
+    tail(6);
+  } else {
+    utf8 += static_cast<char>(0xF0 | character >> 18);
+    tail(12);
+    tail(6);
+  }
+  tail(0);
+  return utf8;
+}
+
+void TellError(Platform& platform, const std::string& path, const WriteOutcome& outcome) {
+  Tell(platform, "Soubor se nepodařilo převést!\r\nSoubor: " + path + "\r\nKód chyby " + std::to_string(outcome.error) +
+                     KeptNotice(outcome));
+}
+
+// False where the file can't be read, which is told.
+bool Survey(Platform& platform, const std::string& path, Utf8Survey& survey) {
+  int error = 0;
+  {
+    const BusyPointer busy(platform);
+    error = platform.ReadByPieces(path, [&](std::string_view piece) { return survey.Take(piece); });
+  }
+  survey.Finish();
+  if (error != 0) TellError(platform, path, {.error = error});
+  return error == 0;
+}
+
+// Whether the target may be written, as far as the person is asked.
+bool MayWrite(Platform& platform, const std::string& path, const std::string& target) {
+  if (platform.IsSameFile(path, target)) {
+    Tell(platform, "Výsledek by přepsal převáděný soubor:\r\n" + target);
+    return false;
+  }
+  return !platform.CanRead(target) ||
+         Agreed(platform, "Opravdu uložit " + target + "?\r\nSoubor již existuje a bude přepsán!");
+}
+
+void Write(Platform& platform, const std::string& path, const std::string& target, FileRewriter& rewriter) {
+  WriteOutcome outcome;
+  {
+    const BusyPointer busy(platform);
+    outcome = platform.RewriteFile(path, target, OldTail::kDrop, rewriter);
+  }
+  if (outcome.error != 0) TellError(platform, target, outcome);
+}
+
+}  // namespace
+
+bool Utf8Survey::Take(std::string_view piece) {
+  for (const char byte : piece) {
+    if (malformed) return false;
+    const char32_t character = decoder_.Take(byte);
+    ++read_;
+    if (character == kUnfinishedUtf8) continue;
+    if (character == kMalformedUtf8)
+      malformed = place_;
+    else
+      Note(character);
+  }
+  return !malformed;
+}
+
+void Utf8Survey::Finish() {
+  if (!malformed && decoder_.InCharacter()) malformed = place_;
+}
+
+void Utf8Survey::Note(char32_t character) {
+  beyond_ascii |= character >= 0x80;
+  const bool mark = character == kByteOrderMark && place_.byte == 1;
+  if (!mark && IsOutsidePage(character) && outside++ == 0) {
+    first_outside = place_;
+    first_character = character;
+  }
+  place_.byte = read_ + 1;
+  const bool ends_line = character == '\r' || (character == '\n' && !after_cr_);
+  if (ends_line) {
+    ++place_.line;
+    place_.column = 1;
+  } else if (!mark && character != '\n') {
+    ++place_.column;
+  }
+  after_cr_ = character == '\r';
+}
+
+std::string_view Utf8ToPage::Rewrite(std::string_view piece) {
+  out_.clear();
+  for (const char byte : piece) {
+    const char32_t character = decoder_.Take(byte);
+    if (character == kUnfinishedUtf8) continue;
+    if (begun_ || character != kByteOrderMark) out_ += static_cast<char>(CodeOfUnicode(character));
+    begun_ = true;
+  }
+  kept_ += out_.size();
+  return out_;
+}
+
+std::string_view PageToUtf8::Rewrite(std::string_view piece) {
+  out_ = ToUtf8(piece);
+  if (mark_) out_.insert(0, kMark);
+  mark_ = false;
+  kept_ += out_.size();
+  return out_;
+}
+
+std::string PathBeside(std::string_view path, std::string_view extension) {
+  const std::size_t separator = path.find_last_of("\\/");
+  const std::size_t name = separator == std::string_view::npos ? 0 : separator + 1;
+  const std::size_t dot = path.rfind('.');
+  const bool has_extension = dot != std::string_view::npos && dot > name;
+  return std::string(path.substr(0, has_extension ? dot : path.size())).append(".").append(extension);
+}
+
+void ConvertToPage(Platform& platform, const std::string& path) {
+  const std::string target = PathBeside(path, "1250");
+  Utf8Survey survey;
+  if (!Survey(platform, path, survey)) return;
+  if (survey.malformed)
+    return Tell(platform,
+                "Soubor " + path + " není v UTF-8:\r\n" + Told(*survey.malformed) + ".\r\nNic nebylo zapsáno.");
+  if (survey.outside > 0 &&
+      !Agreed(platform, "Soubor " + path + " obsahuje znaky, které ve Windows-1250 nejsou, celkem " +
+                            std::to_string(survey.outside) + ".\r\nPrvní je " +
+                            Told(survey.first_character, Utf8Of(survey.first_character)) + ": " +
+                            Told(survey.first_outside) + ".\r\n\r\nZapsat místo nich \"?\" ?"))
+    return;
+  if (!MayWrite(platform, path, target)) return;
+  Utf8ToPage rewriter;
+  Write(platform, path, target, rewriter);
+}
+
+void ConvertToUtf8(Platform& platform, const std::string& path, bool byte_order_mark) {
+  const std::string target = PathBeside(path, "utf8");
+  Utf8Survey survey;
+  if (!Survey(platform, path, survey)) return;
+  if (!survey.malformed && survey.beyond_ascii &&
+      !Agreed(platform, "Soubor " + path + " je v UTF-8 už teď.\r\nOpravdu převést ?"))
+    return;
+  if (!MayWrite(platform, path, target)) return;
+  PageToUtf8 rewriter(byte_order_mark);
+  Write(platform, path, target, rewriter);
+}
+
+}  // namespace pelmar
