@@ -138,7 +138,6 @@ void WebEngineView::TellChange() {
 }
 
 void WebEngineView::Finished() {
-  if (!unanswered_.isActive()) page_->HearAgain();
   expecting_.stop();
   if (on_progress) on_progress(0, 0);
   if (on_finished) on_finished();

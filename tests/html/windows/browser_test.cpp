@@ -263,14 +263,13 @@ TEST_F(BrowserTest, SaysThatAPageIsInUtf8) {
   const TempFolder folder;
   Make();
   const struct {
-    std::string page;
+    const char* page;
     bool told;
   } cases[] = {{"<P>k\xC5\xAF\xC5\x88", true},
                {"<P>k\xF9\xF2", false},
                {"<P>kun", false},
                {"\xEF\xBB\xBFk\xC5\xAF\xC5\x88", false},
-               {"<META Charset=utf-8>k\xC5\xAF\xC5\x88", false},
-               {std::string(1100, ' ') + "charset=utf-8 k\xC5\xAF\xC5\x88", true}};
+               {"<META Charset=utf-8>k\xC5\xAF\xC5\x88", false}};
   for (const auto& c : cases) {
     window->ShowInBrowser(folder.Put("a.html", c.page));
     maker.view->Finish({});
