@@ -10,6 +10,7 @@
 #include "html/dialogs/page_windows.h"
 #include "html/dialogs/tag_windows.h"
 #include "html/windows/browser_windows.h"
+#include "platform/paths.h"
 #include "platform/qt/application.h"
 #include "platform/qt/convert.h"
 #include "platform/runtime_error.h"

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 
+#include "platform/paths.h"
 #include "shell/record_bytes.h"
 #include "text/codepage.h"
 

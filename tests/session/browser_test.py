@@ -343,6 +343,24 @@ class BrowserTest(unittest.TestCase):
                     self.wait_title(browser, "HTML testovací browser (Good)")
                     self.boxes(browser, {"page": GREEN})
 
+    def test_a_pages_questions_leave_the_editor_alone_and_end_by_the_persons_word(self):
+        session = self.session
+        path = self.write("alerts.html", """<TITLE>alerts</TITLE><SCRIPT>setTimeout(() => {
+            for (let i = 0; i < 9; ++i) alert(i); document.title = 'done' }, 300)</SCRIPT>""")
+        main = self.start(path, title=f"Pelmar VEX ({path})")
+        self.press_toolbar_key(main)
+        session.wait_window("Zpráva stránky", patience=30)
+        session.activate(main)
+        session.type("x")
+        self.wait_title(main, f"Pelmar VEX ({path})*")
+        time.sleep(3.5)  # a page that waits for its answer is not a stuck one
+        for keys in (["Return"], ["Return"], ["alt+d", "Return"]):
+            box = session.wait_window("Zpráva stránky")
+            session.activate(box)
+            session.key(*keys)
+            session.wait_until(lambda: box.id not in [w.id for w in session.windows()], "the end of the box")
+        session.wait_window("HTML testovací browser (done)")
+
     def test_it_can_be_the_whole_program(self):
         session = self.session
         before = {path.name: path.read_bytes() for path in session.data_folder.iterdir()}

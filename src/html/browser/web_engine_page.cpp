@@ -144,14 +144,14 @@ void WebEnginePage::Silence() {
   if (question_ != nullptr) question_->reject();
 }
 
-void WebEnginePage::HearAgain() {
-  silenced_ = false;
+void WebEnginePage::ForgetQuestions() {
+  muted_ = false;
   questions_ = 0;
 }
 
 bool WebEnginePage::Ask(QDialog& question) {
   QWidget* view = QWebEngineView::forPage(this);
-  if (silenced_ || question_ != nullptr || view == nullptr || !view->isVisible()) return false;
+  if (silenced_ || muted_ || question_ != nullptr || view == nullptr || !view->isVisible()) return false;
   auto* silence = ++questions_ > kMostUnasked
                       ? new QCheckBox(QStringLiteral("&Další zprávy této stránky neukazovat"), &question)
                       : nullptr;
@@ -164,11 +164,12 @@ bool WebEnginePage::Ask(QDialog& question) {
   // The editor and its other windows go on.
   question.setWindowModality(Qt::WindowModal);
   question_ = &question;
+  if (on_asking) on_asking();
   const QPointer<WebEnginePage> self = this;
   const int result = question.exec();
   if (self == nullptr) return false;
   question_ = nullptr;
-  if (silence != nullptr && silence->isChecked()) silenced_ = true;
+  if (silence != nullptr && silence->isChecked()) muted_ = true;
   if (on_answered) QMetaObject::invokeMethod(this, on_answered, Qt::QueuedConnection);
   return result == QDialog::Accepted || result == QMessageBox::Yes || result == QMessageBox::Ok;
 }
@@ -188,7 +189,7 @@ void WebEnginePage::javaScriptAlert(const QUrl&, const QString& text) {
 
 bool WebEnginePage::javaScriptConfirm(const QUrl&, const QString& text) {
   // A page that has been silenced can't keep the person from leaving it.
-  if (silenced_ && text == QCoreApplication::translate("QWebEnginePage", kLeaving)) return true;
+  if ((silenced_ || muted_) && text == QCoreApplication::translate("QWebEnginePage", kLeaving)) return true;
   return AskInBox(Title(), text, QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Ok);
 }
 

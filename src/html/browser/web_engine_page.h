@@ -30,11 +30,14 @@ class WebEnginePage : public QWebEnginePage {
 
   // The person has given a command: an open question is answered with No, and so is every one until HearAgain().
   void Silence();
-  void HearAgain();
+  void HearAgain() { silenced_ = false; }
+  // Another page is asked for, which nobody has wished to be spared of.
+  void ForgetQuestions();
   [[nodiscard]] bool RunsScripts() const { return !loads_from_net_; }
   [[nodiscard]] bool Asking() const { return question_ != nullptr; }
 
   std::function<void()> on_coming;                    // another page is about to come
+  std::function<void()> on_asking;                    // a question is about to be shown
   std::function<void()> on_answered;                  // a question has gone
   std::function<void(const QUrl& address)> on_leave;  // the person lets a local page go to the net
 
@@ -50,7 +53,7 @@ class WebEnginePage : public QWebEnginePage {
   void OpenHere(const QUrl& address);
   void AskToLeaveTheDisk(const QUrl& address);
   // Shows a question of the page, and the offer to be spared further ones from the third on. False for No, and where
-  // the page asks while it is hidden, already asks or has been silenced.
+  // the page asks while it is hidden, already asks or is not to be heard.
   bool Ask(QDialog& question);
   bool AskInBox(const QString& title, const QString& text, QMessageBox::StandardButtons buttons,
                 QMessageBox::StandardButton default_button);
@@ -63,7 +66,8 @@ class WebEnginePage : public QWebEnginePage {
   bool reloading_from_net_ = false;
   bool leaving_ = false;
   QPointer<QDialog> question_;
-  int questions_ = 0;  // since the person's last command
+  int questions_ = 0;   // of the page
+  bool muted_ = false;  // the person wants no more of them
   bool silenced_ = false;
 };
 

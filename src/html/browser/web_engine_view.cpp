@@ -56,6 +56,11 @@ void WebEngineView::ConnectPage() {
   connect(page_, &QWebEnginePage::loadFinished, this, &WebEngineView::Finished);
   connect(page_, &QWebEnginePage::renderProcessTerminated, this, &WebEngineView::ProcessEnded);
   page_->on_leave = [this](const QUrl& address) { Load(address); };
+  // A page that asks isn't stuck, however long the person thinks.
+  page_->on_asking = [this] {
+    unanswered_.stop();
+    held_up_ = {};
+  };
   page_->on_answered = [this] {
     if (const auto step = std::exchange(after_question_, {})) step();
   };
@@ -75,6 +80,7 @@ void WebEngineView::Go(bool to_net, std::function<void()> step) {
     after_question_ = [this, to_net, step] { Go(to_net, step); };
     return;
   }
+  page_->ForgetQuestions();
   Expect();
   if (to_net) {
     const auto leave = [this, step] {
