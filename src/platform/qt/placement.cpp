@@ -16,9 +16,9 @@ namespace {
 // How long a window manager may take, and how often the window is looked at meanwhile.
 constexpr std::chrono::milliseconds kPatience(500);
 constexpr std::chrono::milliseconds kPoll(20);
-// Behind a state the answer to an earlier wish may still be on its way when the window seems to be there. A window that
-// was just shown is met once: it may be moved by somebody else next.
-constexpr int kOftenBehindState = 5;
+// An answer to an earlier wish, or a step on the way into the frame, may make a window seem to be where it isn't going
+// to stay.
+constexpr int kOftenEnough = 20;
 
 // The frame that a new window will most likely get: that of another one of ours.
 QMargins UsualFrame() {
@@ -45,7 +45,8 @@ TwipsRect InTheMiddle(const QWidget& window, const TwipsRect& now) {
 
 }  // namespace
 
-Placement::Placement(QWidget& window, Wish wish) : QObject(&window), window_(window), wish_(std::move(wish)) {
+Placement::Placement(QWidget& window, Wish wish, Trust trust)
+    : QObject(&window), window_(window), wish_(std::move(wish)), trust_(trust) {
   timer_.setInterval(kPoll);
   connect(&timer_, &QTimer::timeout, this, &Placement::Look);
 }
@@ -79,7 +80,8 @@ void Placement::Look() {
     frame_known_ = true;
     if (on_frame) on_frame();
   }
-  if (late || met_ >= (left_.isNull() ? 1 : kOftenBehindState)) End();
+  const bool trusted = trust_ == Trust::kFirst && left_.isNull();
+  if (late || met_ >= (trusted ? 1 : kOftenEnough)) End();
 }
 
 void Placement::Apply() {
@@ -105,11 +107,14 @@ void CentreOnScreen(QWidget& window) {
   // What is asked for before there is a frame comes to be the place of the inner area, or else of the frame.
   const QPoint asked(PixelsOf(place.left) + frame.left(), PixelsOf(place.top) + frame.top());
   window.move(asked);
-  auto* placement = new Placement(window, [&window, asked](const TwipsRect& now) {
-    const QPoint outer(PixelsOf(now.left), PixelsOf(now.top));
-    // Whoever has moved it meanwhile has the last word.
-    return outer == asked || window.geometry().topLeft() == asked ? InTheMiddle(window, now) : now;
-  });
+  auto* placement = new Placement(
+      window,
+      [&window, asked](const TwipsRect& now) {
+        const QPoint outer(PixelsOf(now.left), PixelsOf(now.top));
+        // Whoever has moved it meanwhile has the last word.
+        return outer == asked || window.geometry().topLeft() == asked ? InTheMiddle(window, now) : now;
+      },
+      Placement::Trust::kLasting);
   placement->on_end = [placement] { placement->deleteLater(); };
   placement->Begin();
 }

@@ -19,8 +19,12 @@ class Placement : public QObject {
   // The outer place that is wanted of a window that is at `now`.
   using Wish = std::function<TwipsRect(const TwipsRect& now)>;
 
+  // Whether the first look that finds a new window where it should be is enough, so that somebody else may move it
+  // next; or several in a row, for a wish that leaves a moved window alone.
+  enum class Trust { kFirst, kLasting };
+
   // Does nothing until it is told to begin.
-  Placement(QWidget& window, Wish wish);
+  Placement(QWidget& window, Wish wish, Trust trust = Trust::kFirst);
 
   // Sees to the wish until it is met, as soon as the window is on show and has another frame than the one that is left.
   // A window that is wanted maximised is kept so meanwhile; its place isn't asked for.
@@ -43,6 +47,7 @@ class Placement : public QObject {
 
   QWidget& window_;
   Wish wish_;
+  Trust trust_;
   QTimer timer_;
   QMargins left_;
   QDeadlineTimer deadline_;
