@@ -1,5 +1,7 @@
 #include "files/printing.h"
 
+#include <optional>
+
 #include "shell/common.h"
 #include "shell/editor.h"
 
@@ -67,9 +69,17 @@ void PutOnPages(const std::vector<PrintedPiece>& pieces, Paper& paper) {
   }
 }
 
-bool OnlySelection(Editor& e) {
-  return e.text.HasSelection() &&
-         e.platform.Message(MessageType::kYesNoWarning, "Tisknout pouze výběr ?", "Tisk") == Answer::kYes;
+// Nothing where the person closed the question without an answer.
+std::optional<std::string> TextToPrint(Editor& e) {
+  if (!e.text.HasSelection()) return e.text.Text();
+  switch (e.platform.Message(MessageType::kYesNoWarning, "Tisknout pouze výběr ?", "Tisk")) {
+    case Answer::kYes:
+      return std::string(e.text.SelText());
+    case Answer::kNo:
+      return e.text.Text();
+    default:
+      return std::nullopt;
+  }
 }
 
 }  // namespace
@@ -91,14 +101,15 @@ std::string PrintName(std::string_view path) {
 }
 
 void PrintDocument(Editor& e, const EditorLook& look) {
-  const std::string text(OnlySelection(e) ? e.text.SelText() : std::string_view(e.text.Text()));
+  const std::optional<std::string> text = TextToPrint(e);
+  if (!text) return;
   e.platform.SetBusyPointer(true);
   const PrintOutcome outcome = e.platform.Print({look.font_name, look.font_size, look.bold, look.italic},
                                                 PrintName(e.documents.CurrentPath()), [&text](Paper& paper) {
                                                   const auto end_of = [&paper](double x, std::string_view piece) {
                                                     return paper.EndOf(x, piece);
                                                   };
-                                                  PutOnPages(LayOutForPrint(text, paper.Width(), end_of), paper);
+                                                  PutOnPages(LayOutForPrint(*text, paper.Width(), end_of), paper);
                                                 });
   e.platform.SetBusyPointer(false);
   if (outcome.error != 0) throw RuntimeError(outcome.error, "Tisk se nezdařil");
