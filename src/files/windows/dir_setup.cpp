@@ -8,7 +8,6 @@ namespace pelmar {
 DirSetup::DirSetup(std::vector<std::function<Lists()>> dialogs, QWidget* parent)
     : DialogWindow(parent), dialogs_(std::move(dialogs)), ui_(std::make_unique<Ui::DirSetup>()) {
   ui_->setupUi(this);
-  ui_->Dir1->setFocus();
   LinkFolderBrowser(ui_->Drive1, ui_->Dir1);
   connect(ui_->Command1, &QPushButton::clicked, this, &DirSetup::Command1_Click);
   connect(ui_->Command2, &QPushButton::clicked, this, &DirSetup::hide);
