@@ -1,5 +1,7 @@
 #include "files/printing.h"
 
+#include <optional>
+
 #include "platform/busy.h"
 #include "platform/runtime_error.h"
 #include "shell/common.h"
@@ -69,9 +71,17 @@ void PutOnPages(const std::vector<PrintedPiece>& pieces, Paper& paper) {
   }
 }
 
-bool OnlySelection(Editor& e) {
-  return e.text.HasSelection() &&
-         e.platform.Message(MessageType::kYesNoWarning, "Tisknout pouze výběr ?", "Tisk") == Answer::kYes;
+// Nothing where the person closed the question without an answer.
+std::optional<std::string> TextToPrint(Editor& e) {
+  if (!e.text.HasSelection()) return e.text.Text();
+  switch (e.platform.Message(MessageType::kYesNoWarning, "Tisknout pouze výběr ?", "Tisk")) {
+    case Answer::kYes:
+      return std::string(e.text.SelText());
+    case Answer::kNo:
+      return e.text.Text();
+    default:
+      return std::nullopt;
+  }
 }
 
 }  // namespace
@@ -92,8 +102,7 @@ std::string PrintName(std::string_view path) {
   return name.empty() ? "Pelmar VEX" : std::string(name);
 }
 
-PrintOutcome PutOnPaper(Editor& e, const EditorLook& look) {
-  const std::string text(OnlySelection(e) ? e.text.SelText() : std::string_view(e.text.Text()));
+PrintOutcome PutOnPaper(Editor& e, const EditorLook& look, const std::string& text) {
   const BusyPointer busy(e.platform);
   return e.platform.Print({look.font_name, look.font_size, look.bold, look.italic},
                           PrintName(e.documents.CurrentPath()), [&text](Paper& paper) {
@@ -105,7 +114,9 @@ PrintOutcome PutOnPaper(Editor& e, const EditorLook& look) {
 }
 
 void PrintDocument(Editor& e, const EditorLook& look) {
-  const PrintOutcome outcome = PutOnPaper(e, look);
+  const std::optional<std::string> text = TextToPrint(e);
+  if (!text) return;
+  const PrintOutcome outcome = PutOnPaper(e, look, *text);
   if (outcome.error != 0) throw RuntimeError(outcome.error, "Tisk se nezdařil");
   if (outcome.pdf.empty()) return;
   const std::string reason = outcome.problem.empty() ? "Není nastavena žádná tiskárna." : outcome.problem;

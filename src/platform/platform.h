@@ -22,7 +22,12 @@ enum class MessageType {
   kYesNoStop = 276,     // Yes and No (default), stop
 };
 
-enum class Answer { kOk, kYes, kNo };
+enum class Answer {
+  kOk,
+  kYes,
+  kNo,
+  kNone,  // a question closed without an answer; to most of them as good as No
+};
 
 struct LocalTime {
   int year = 0, month = 0, day = 0, hour = 0, minute = 0, second = 0;

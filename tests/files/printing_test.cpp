@@ -85,6 +85,10 @@ TEST_F(PrintTest, AsksAboutTheSelection) {
   PrintDocument(editor, look);
   EXPECT_EQ(platform.calls.size(), 12u);  // the whole text
   EXPECT_EQ(editor.text.SelText(), "a");
+  platform.TakeCalls();
+  platform.answers = {Answer::kNone};
+  PrintDocument(editor, look);
+  EXPECT_EQ(platform.calls.size(), 1u);  // only the question
 }
 
 TEST_F(PrintTest, NamesThePdfAndThrowsAnError) {

@@ -6,7 +6,7 @@
 // A step is a command's name (mnutable), a click on a control of the front window (Command1!), a property of one
 // (Text1.text=abc), or a number of milliseconds to wait (500). Each window on show at the end is saved as
 // PREFIX-NAME.png. With QT_QPA_PLATFORM=offscreen no screen is needed; QT_SCALE_FACTOR=2 makes pictures at 200%, and
-// PELMAR_DARK=1 shows a dark desktop.
+// PELMAR_DARK=1 shows a dark desktop, PELMAR_POINTS=14 a larger font.
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
@@ -15,6 +15,7 @@
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QPalette>
+#include <QStyle>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QTranslator>
@@ -128,7 +129,16 @@ int Main(int argc, char** argv) {
   QApplication::setQuitOnLastWindowClosed(false);
   Application application(own_arguments, own_name);
   QApplication::setStyle(new ProgramStyle);
-  if (qEnvironmentVariableIsSet("PELMAR_DARK")) QApplication::setPalette(Dark());
+  if (qEnvironmentVariableIsSet("PELMAR_DARK")) {
+    QPalette dark = Dark();
+    QApplication::style()->polish(dark);  // as it does with what a desktop gives
+    QApplication::setPalette(dark);
+  }
+  if (const int points = qEnvironmentVariableIntValue("PELMAR_POINTS"); points > 0) {
+    QFont font = QApplication::font();
+    font.setPointSize(points);
+    QApplication::setFont(font);
+  }
   SubstituteFonts();
   QTranslator czech;
   if (czech.load(QLocale(QLocale::Czech), QStringLiteral("qtbase"), QStringLiteral("_"),

@@ -3,6 +3,7 @@
 #include <QButtonGroup>
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QLabel>
 
 #include "platform/qt/convert.h"
 #include "shell/stand_alone.h"
@@ -23,6 +24,8 @@ Kalkul::Kalkul(Platform& platform, bool stand_alone, Doors doors, QWidget* paren
     ui_->Command19->setText(QStringLiteral("&Clip"));
     ui_->Command20->setText(QStringLiteral("&Quit"));
   }
+  cut_ = new QLabel(QStringLiteral("…"), ui_->Cislo);
+  cut_->hide();
   // In a group the arrow keys go from key to key by where they lie.
   auto* group = new QButtonGroup(this);
   group->setExclusive(false);
@@ -82,6 +85,7 @@ void Kalkul::SetNumber(const std::string& number) {
 void Kalkul::Show() {
   ui_->Cislo->setText(Utf8ToQString(calculator_.Cislo));
   ui_->Label1->setText(Utf8ToQString(calculator_.Label1));
+  ShowCut();
   ui_->Label2->setText(Utf8ToQString(calculator_.Label2));
   // A key that goes off while it has the keyboard would hand it to the next one; the number keeps it safe.
   const QWidget* focus = focusWidget();
@@ -90,6 +94,15 @@ void Kalkul::Show() {
   ui_->Command33->setEnabled(calculator_.PowerOn());
   ui_->Command16->setEnabled(calculator_.EqualsOn());
   if (focus != nullptr && !focus->isEnabled()) ui_->Cislo->setFocus();
+}
+
+void Kalkul::ShowCut() {
+  constexpr int kEdges = 12;  // frame and margins of the field
+  const bool cut = ui_->Cislo->fontMetrics().horizontalAdvance(ui_->Cislo->text()) > ui_->Cislo->width() - kEdges;
+  cut_->setGeometry(kEdges / 2, 0, cut_->sizeHint().width(), ui_->Cislo->height());
+  cut_->setVisible(cut);
+  ui_->Cislo->setTextMargins(cut ? cut_->width() + kEdges / 2 : 0, 0, 0, 0);
+  ui_->Cislo->setToolTip(cut ? ui_->Cislo->text() : QString());
 }
 
 void Kalkul::Command20_Click() {
@@ -113,6 +126,11 @@ void Kalkul::closeEvent(QCloseEvent* event) {
   if (!MayUnload()) return event->ignore();
   DialogWindow::closeEvent(event);
   if (!stand_alone_) doors_.unload();
+}
+
+void Kalkul::showEvent(QShowEvent* event) {
+  DialogWindow::showEvent(event);
+  ShowCut();  // also of a number that came before
 }
 
 QPushButton* Kalkul::KeyOf(char character) const {

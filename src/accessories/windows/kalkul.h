@@ -9,6 +9,7 @@
 #include "accessories/windows/key_preview.h"
 #include "platform/qt/controls/dialog_window.h"
 
+class QLabel;
 class QPushButton;
 
 namespace Ui {
@@ -37,6 +38,7 @@ class Kalkul : public DialogWindow {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void showEvent(QShowEvent* event) override;
 
  private:
   void ConnectEntry();
@@ -48,12 +50,14 @@ class Kalkul : public DialogWindow {
   Preview PhysicalKey(const QKeyEvent& event);
   [[nodiscard]] QPushButton* KeyOf(char character) const;
   void Show();
+  void ShowCut();
 
   Platform& platform_;
   bool stand_alone_;
   Doors doors_;
   Calculator calculator_;
   std::unique_ptr<Ui::Kalkul> ui_;
+  QLabel* cut_;  // dots before a number of which only the end is to be seen
 };
 
 }  // namespace pelmar

@@ -77,9 +77,9 @@ bool Nadpis::Put() {
 Barva::Barva(TextBuffer& document, std::function<Color(Color)> pick_color, QWidget* parent)
     : FragmentDialog(document, parent) {
   AcceptFreeText(ui_->Combo1);
-  EnableWith(ui_->Check1, {ui_->VScroll4, ui_->Label4});
+  EnableWith(ui_->Check1, {ui_->VScroll4});
   EnableWith(ui_->Check2, {ui_->Combo1});
-  EnableWith(ui_->Check3, {ui_->Command3, ui_->Label1, ui_->Label2});
+  EnableWith(ui_->Check3, {ui_->Command3, ui_->Label1});
   ShowValue(ui_->VScroll4, ui_->Label4);
   ConnectColorChoice(ui_->Command3, ui_->Label1, ui_->Label2, std::move(pick_color));
 }

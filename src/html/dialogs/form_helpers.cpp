@@ -3,6 +3,7 @@
 #include <QAbstractSlider>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
@@ -19,6 +20,22 @@ std::optional<std::string> TextIf(const QCheckBox* box, const QString& text) {
   return box->isChecked() ? std::optional(TextFromQString(text)) : std::nullopt;
 }
 
+class GreyFollower : public QObject {
+ public:
+  GreyFollower(QWidget* source, QWidget* follower) : QObject(follower), follower_(follower) {
+    source->installEventFilter(this);
+    follower->setEnabled(source->isEnabled());
+  }
+
+  bool eventFilter(QObject* source, QEvent* event) override {
+    if (event->type() == QEvent::EnabledChange) follower_->setEnabled(static_cast<QWidget*>(source)->isEnabled());
+    return false;
+  }
+
+ private:
+  QWidget* follower_;
+};
+
 }  // namespace
 
 void EnableWith(QCheckBox* box, std::initializer_list<QWidget*> widgets) {
@@ -28,8 +45,11 @@ void EnableWith(QCheckBox* box, std::initializer_list<QWidget*> widgets) {
   }
 }
 
+void GreyWith(QWidget* source, QWidget* follower) { new GreyFollower(source, follower); }
+
 void ConnectColorChoice(QAbstractButton* button, Swatch* swatch, QLabel* hex, std::function<Color(Color)> pick,
                         std::function<void(const QColor&)> taken) {
+  GreyWith(button, hex);
   QObject::connect(button, &QAbstractButton::clicked, swatch,
                    [swatch, hex, pick = std::move(pick), taken = std::move(taken)] {
                      const Color color = pick(ColorFromQt(swatch->Color()));
@@ -50,7 +70,8 @@ QString BlankLed(int value) { return Utf8ToQString(NumberWithSignBlank(value)); 
 
 QString BlankLedPercent(int value) { return BlankLed(value) + QLatin1Char('%'); }
 
-void ShowValue(const QAbstractSlider* bar, QLabel* label, std::function<QString(int)> write) {
+void ShowValue(QAbstractSlider* bar, QLabel* label, std::function<QString(int)> write) {
+  GreyWith(bar, label);
   QObject::connect(bar, &QAbstractSlider::valueChanged, label, [label, write = std::move(write)](int value) {
     label->setText(write ? write(value) : QString::number(value));
   });

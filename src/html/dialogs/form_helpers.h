@@ -26,8 +26,11 @@ class Swatch;
 // The widgets are enabled while the box is ticked, from now on.
 void EnableWith(QCheckBox* box, std::initializer_list<QWidget*> widgets);
 
+// What belongs to a control and shows its value goes grey with it, and keeps what it says.
+void GreyWith(QWidget* source, QWidget* follower);
+
 // The button asks `pick` for a colour, beginning with the swatch's; the answer goes into the swatch, into the label in
-// hex and to `taken`, where there is one.
+// hex and to `taken`, where there is one. The label goes grey with the button.
 void ConnectColorChoice(QAbstractButton* button, Swatch* swatch, QLabel* hex, std::function<Color(Color)> pick,
                         std::function<void(const QColor&)> taken = {});
 
@@ -41,8 +44,8 @@ QString BlankLedPercent(int value);
 
 // Each change of the bar's value is written into the label, in plain digits where no other form is given. What the form
 // of the window says at first stays until then: such labels are what is written, and not all begin at their bar's
-// value.
-void ShowValue(const QAbstractSlider* bar, QLabel* label, std::function<QString(int)> write = {});
+// value. The label goes grey with the bar.
+void ShowValue(QAbstractSlider* bar, QLabel* label, std::function<QString(int)> write = {});
 
 // What the field says, in Windows-1250, as long as the box is ticked.
 std::optional<std::string> Written(const QCheckBox* box, const QLabel* field);

@@ -21,6 +21,7 @@ TableCell::TableCell(TextBuffer& document, std::function<Color(Color)> pick_colo
   EnableWith(ui_->Check5, {ui_->VScroll5});
   ShowValue(ui_->VScroll5, ui_->Label4);
   EnableWith(ui_->Check7, {ui_->VScroll6, ui_->Check8});
+  GreyWith(ui_->VScroll6, ui_->Label8);
   connect(ui_->VScroll6, &QScrollBar::valueChanged, this, &TableCell::VScroll6_Change);
   connect(ui_->Check8, &QCheckBox::toggled, this, &TableCell::Check8_Click);
   connect(ui_->Command1, &QPushButton::clicked, this, &TableCell::Command1_Click);

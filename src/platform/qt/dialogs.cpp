@@ -5,11 +5,14 @@
 #include <QFileIconProvider>
 #include <QGridLayout>
 #include <QInputDialog>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QMimeDatabase>
 #include <QPointer>
+#include <QStyle>
 #include <QWindow>
 #include <algorithm>
+#include <functional>
 
 #include "platform/qt/any_length.h"
 #include "platform/qt/convert.h"
@@ -50,6 +53,26 @@ void LeaveRoomForTitle(QMessageBox& box) {
   const int width = box.fontMetrics().horizontalAdvance(box.windowTitle()) + kFrameButtons;
   grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
 }
+
+// A box that tells Escape and the close box of a question from its No: the toolkit's would press the button.
+class Box : public QMessageBox {
+ public:
+  using QMessageBox::QMessageBox;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (IsQuestion() && event->matches(QKeySequence::Cancel)) return done(QMessageBox::NoButton);
+    QMessageBox::keyPressEvent(event);
+  }
+
+  void closeEvent(QCloseEvent* event) override {
+    QMessageBox::closeEvent(event);
+    if (IsQuestion()) setResult(QMessageBox::NoButton);
+  }
+
+ private:
+  [[nodiscard]] bool IsQuestion() const { return standardButtons().testFlag(QMessageBox::No); }
+};
 
 // A dialog is its window's child, and dies with it should that close while the dialog waits.
 template <typename Dialog>
@@ -119,29 +142,42 @@ QMessageBox::Icon IconOf(MessageType type) {
   }
 }
 
-}  // namespace
-
-Answer ShowMessage(MessageType type, const QString& text, const QString& title) {
-  const bool question = type != MessageType::kOk && type != MessageType::kOkInfo;
+// The answer is a standard button.
+int Show(const QString& text, const QString& title, const std::function<void(Box&)>& equip) {
   ShowProgramIcon();
-  const QPointer<QMessageBox> box = new QMessageBox(Asker());
+  const QPointer<Box> box = new Box(Asker());
   RaiseAboveAll(*box);
   box->setWindowTitle(title);
   box->setTextFormat(Qt::PlainText);
   box->setText(text);
-  box->setIcon(IconOf(type));
-  if (question) {
-    box->setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-    box->setDefaultButton(type == MessageType::kYesNoStop ? QMessageBox::No : QMessageBox::Yes);
-    box->setEscapeButton(QMessageBox::No);
-  } else {
-    box->setStandardButtons(QMessageBox::Ok);
-  }
+  equip(*box);
   LeaveRoomForTitle(*box);
   const int button = box->exec();
   delete box.data();
+  return button;
+}
+
+}  // namespace
+
+Answer ShowMessage(MessageType type, const QString& text, const QString& title) {
+  const bool question = type != MessageType::kOk && type != MessageType::kOkInfo;
+  const int button = Show(text, title, [&](Box& box) {
+    box.setIcon(IconOf(type));
+    if (!question) return box.setStandardButtons(QMessageBox::Ok);
+    box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    box.setDefaultButton(type == MessageType::kYesNoStop ? QMessageBox::No : QMessageBox::Yes);
+    box.setEscapeButton(QMessageBox::No);  // lets the close box work
+  });
   if (!question) return Answer::kOk;
-  return button == QMessageBox::Yes ? Answer::kYes : Answer::kNo;
+  return button == QMessageBox::Yes ? Answer::kYes : button == QMessageBox::No ? Answer::kNo : Answer::kNone;
+}
+
+void ShowAbout(const QString& title, const QString& text) {
+  Show(text, title, [](Box& box) {
+    const int size = box.style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &box);
+    box.setIconPixmap(QApplication::windowIcon().pixmap(QSize(size, size), box.devicePixelRatio()));
+    box.setStandardButtons(QMessageBox::Ok);
+  });
 }
 
 std::optional<QString> AskForText(const QString& prompt, const QString& title, const QString& initial) {

@@ -13,6 +13,9 @@ namespace pelmar {
 
 Answer ShowMessage(MessageType type, const QString& text, const QString& title);
 
+// With the program's icon.
+void ShowAbout(const QString& title, const QString& text);
+
 std::optional<QString> AskForText(const QString& prompt, const QString& title, const QString& initial);
 
 enum class FileDialogKind { kOpen, kSave };

@@ -54,10 +54,26 @@ QSize ScreenTwips(const QWidget& window) {
   return {TwipsOf(size.width()), TwipsOf(size.height())};
 }
 
-void FitScreen(QWidget& window) {
+QSize RoomOnScreen(const QWidget& window) {
   constexpr QSize kUsualFrame(8, 32);  // the window's own isn't known yet
-  const QSize room = window.screen()->availableGeometry().size() - kUsualFrame;
-  window.resize(window.size().boundedTo(room));
+  return window.screen()->availableGeometry().size() - kUsualFrame;
+}
+
+bool MoveAside(QWidget& window, const QRect& place) {
+  const QRect outer = Outer(window);
+  if (!outer.intersects(place)) return false;
+  const QRect free = window.screen()->availableGeometry();
+  // Below and above first: what lies beside a line goes on there.
+  const QPoint corners[] = {{outer.left(), place.bottom() + 1},
+                            {outer.left(), place.top() - outer.height()},
+                            {place.right() + 1, outer.top()},
+                            {place.left() - outer.width(), outer.top()}};
+  for (const QPoint corner : corners) {
+    if (!free.contains(QRect(corner, outer.size()))) continue;
+    MoveOuter(window, corner);
+    return true;
+  }
+  return false;
 }
 
 void BringToFront(QWidget& window) {

@@ -20,8 +20,11 @@ void SetOuterPlace(QWidget& window, const TwipsRect& place);
 
 // The whole screen that the window is on.
 QSize ScreenTwips(const QWidget& window);
-// Makes a window that isn't on show yet no larger than the screen leaves room for, as far as its contents allow.
-void FitScreen(QWidget& window);
+// What the screen leaves to a window that isn't on show yet, inside its frame.
+QSize RoomOnScreen(const QWidget& window);
+// Moves a window that covers `place` (on the screen, in logical pixels) just off it. False where it doesn't cover it,
+// or where the screen has no room for it elsewhere.
+bool MoveAside(QWidget& window, const QRect& place);
 
 // Shows the window, or brings it back to the front where it is on show already, also out of its icon. It gets the
 // keyboard.

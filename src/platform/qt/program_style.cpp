@@ -4,11 +4,44 @@
 #include <QMenuBar>
 #include <QPainter>
 #include <QStyleOptionMenuItem>
+#include <algorithm>
+#include <cmath>
 
 #include "platform/qt/svg_icon.h"
 
 namespace pelmar {
 namespace {
+
+// How much of the colour of texts is mixed into that of the ground, in percent, for the contrast wanted: the relation
+// of two luminances, from 1 for the same to 21 for black on white.
+constexpr double kReadable = 4.5;
+constexpr double kVisible = 3.7;  // above the 3 that a sign needs, since its edge is blurred
+constexpr double kStep = 0.05;
+
+double Luminance(const QColor& color) {
+  const auto linear = [](double part) {
+    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+double Contrast(const QColor& one, const QColor& other) {
+  const double a = Luminance(one), b = Luminance(other);
+  return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+}
+
+QColor Mixed(const QColor& ground, const QColor& text, double share) {
+  const auto mix = [share](double from, double to) { return static_cast<float>(from + (to - from) * share); };
+  return QColor::fromRgbF(mix(ground.redF(), text.redF()), mix(ground.greenF(), text.greenF()),
+                          mix(ground.blueF(), text.blueF()));
+}
+
+// The colour between the two that is just strong enough.
+QColor OfContrast(double wanted, const QColor& ground, const QColor& text) {
+  for (double share = kStep; share < 1; share += kStep)
+    if (const QColor mixed = Mixed(ground, text, share); Contrast(ground, mixed) >= wanted) return mixed;
+  return text;
+}
 
 bool HasKeyboard(const QWidget* widget) { return widget != nullptr && widget->hasFocus() && widget->isActiveWindow(); }
 
@@ -33,6 +66,40 @@ int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QW
   // A turn of the wheel over the tabs is not a choice; the document behind would change, and its undo be gone.
   if (hint == SH_TabBar_AllowWheelScrolling) return 0;
   return QProxyStyle::styleHint(hint, option, widget, answer);
+}
+
+QSize ProgramStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                                     const QWidget* widget) const {
+  QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+  // The usual style widens short captions and lets long ones touch the rim.
+  constexpr int kBesideCaption = 12;
+  const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+  if (type == CT_PushButton && button != nullptr && !button->text.isEmpty())
+    size.setWidth(std::max(size.width(), contents.width() + 2 * kBesideCaption));
+  return size;
+}
+
+void ProgramStyle::polish(QPalette& palette) {
+  QProxyStyle::polish(palette);
+  // A search puts its fields off just when the person decides by what stands in them.
+  const QColor ground = palette.color(QPalette::Disabled, QPalette::Base);
+  if (Contrast(ground, palette.color(QPalette::Disabled, QPalette::Text)) >= kReadable) return;
+  palette.setColor(QPalette::Disabled, QPalette::Text,
+                   OfContrast(kReadable, ground, palette.color(QPalette::Active, QPalette::Text)));
+}
+
+void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                                 const QWidget* widget) const {
+  const auto* box = qstyleoption_cast<const QStyleOptionButton*>(option);
+  if ((element != PE_IndicatorCheckBox && element != PE_IndicatorRadioButton) || box == nullptr)
+    return QProxyStyle::drawPrimitive(element, option, painter, widget);
+  // The usual style darkens the ground by a third or more for the rim, which on a dark one can't be seen.
+  const int darkens = element == PE_IndicatorRadioButton ? 150 : 127;
+  QStyleOptionButton rimmed(*box);
+  const QColor rim = OfContrast(kVisible, box->palette.color(QPalette::Window),
+                                box->palette.color(QPalette::Active, QPalette::WindowText));
+  rimmed.palette.setColor(QPalette::Window, rim.lighter(darkens));
+  QProxyStyle::drawPrimitive(element, &rimmed, painter, widget);
 }
 
 void ProgramStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,

@@ -1,7 +1,8 @@
 // The desktop's own style, with what the program needs beside it: two pictures that every menu bar and toolbar asks for
 // when it is made come from the program itself, since the toolkit would search its picture plug-ins for them before the
-// first window is on the screen; what has the keyboard is to be seen also where the style doesn't show it; and the
-// wheel leaves tabs alone.
+// first window is on the screen; what has the keyboard is to be seen also where the style doesn't show it; and so is,
+// on a dark desktop too, what is off: the text of its fields and the rims of boxes and options. The wheel leaves tabs
+// alone.
 #pragma once
 
 #include <QProxyStyle>
@@ -17,6 +18,12 @@ class ProgramStyle : public QProxyStyle {
   QIcon standardIcon(StandardPixmap picture, const QStyleOption* option, const QWidget* widget) const override;
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* answer) const override;
+  QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                         const QWidget* widget) const override;
+  void polish(QPalette& palette) override;
+  using QProxyStyle::polish;
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                    const QWidget* widget) const override;
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,

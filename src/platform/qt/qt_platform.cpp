@@ -6,7 +6,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QMessageBox>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QUrl>
@@ -42,7 +41,7 @@ Answer QtPlatform::Message(MessageType type, std::string_view text, std::string_
 
 void QtPlatform::ShowAbout(std::string_view title, std::string_view text) {
   const BusyPointer::Lift lift(pointer_);
-  QMessageBox::about(QApplication::activeWindow(), Utf8ToQString(title), Utf8ToQString(text));
+  pelmar::ShowAbout(Utf8ToQString(title), Utf8ToQString(text));
 }
 
 std::optional<std::string> QtPlatform::InputBox(std::string_view prompt, std::string_view title,

@@ -118,12 +118,24 @@ void StatusStrip::resizeEvent(QResizeEvent* event) {
   Place();
 }
 
+// The widths are the layout's and stay; where they go beyond a narrow window, the panels of the keys keep theirs and
+// what lies before them shares the rest, each with its own dots.
 void StatusStrip::Place() {
+  constexpr std::size_t kFirstKey = 4;
+  const auto sum = [this](std::size_t from, std::size_t to) {
+    int pixels = 0;
+    for (std::size_t i = from; i < to; ++i) pixels += PixelsOf(widths_[i]);
+    return pixels;
+  };
+  const int texts = sum(0, kFirstKey);
+  const int room = width() - kGap - sum(kFirstKey, panels_.size());
+  const double share = texts > room && texts > 0 ? std::max(0, room) / static_cast<double>(texts) : 1;
   int left = kGap;
   for (std::size_t i = 0; i < panels_.size(); ++i) {
-    const int width = PixelsOf(widths_[i]);
-    panels_[i]->setGeometry(left, kGap, std::max(0, width - kGap), height() - 2 * kGap);
-    left += width;
+    const int own = PixelsOf(widths_[i]);
+    const int shown = i < kFirstKey ? static_cast<int>(own * share) : own;
+    panels_[i]->setGeometry(left, kGap, std::max(0, shown - kGap), height() - 2 * kGap);
+    left += shown;
   }
   // Where the window is too narrow for it there, the warning stands at the right edge.
   const int warning = std::min(unkept_->sizeHint().width(), width());

@@ -3,12 +3,16 @@
 #include "platform/qt/controls/field_helpers.h"
 #include "platform/qt/controls/list_rows.h"
 #include "platform/qt/convert.h"
+#include "platform/qt/outer_geometry.h"
 #include "ui_hledani.h"
 
 namespace pelmar {
 
-Hledani::Hledani(TextBuffer& document, Platform& platform, QWidget* parent)
-    : DialogWindow(parent), finder_(document, platform), ui_(std::make_unique<Ui::Hledani>()) {
+Hledani::Hledani(TextBuffer& document, Platform& platform, std::function<QRect()> match, QWidget* parent)
+    : DialogWindow(parent),
+      finder_(document, platform),
+      match_(std::move(match)),
+      ui_(std::make_unique<Ui::Hledani>()) {
   ui_->setupUi(this);
   ui_->Text1->UseBuffer(finder_.Snapshot());
   connect(ui_->Command1, &QPushButton::clicked, this, [this] { Step(&Finder::Start); });
@@ -34,10 +38,9 @@ void Hledani::Step(void (Finder::*step)()) {
   (finder_.*step)();
   ShowFields();
   // What had the keyboard may be off now. Enter goes on with a search, and behind its end the next term can be typed.
-  if (finder_.next_on)
-    ui_->Command2->setFocus();
-  else
-    ui_->Find->setFocus();
+  if (!finder_.next_on) return ui_->Find->setFocus();
+  ui_->Command2->setFocus();
+  MoveAside(*this, match_());
 }
 
 void Hledani::TakeFields() {

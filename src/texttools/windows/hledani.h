@@ -1,6 +1,8 @@
 // `Hledání`: finding step by step in a snapshot of the document, with a history of what was sought.
 #pragma once
 
+#include <QRect>
+#include <functional>
 #include <memory>
 
 #include "platform/qt/controls/dialog_window.h"
@@ -16,7 +18,8 @@ class Hledani : public DialogWindow {
   Q_OBJECT
 
  public:
-  Hledani(TextBuffer& document, Platform& platform, QWidget* parent);
+  // `match` is where on the screen the match shows, nothing where it doesn't: the window moves off it.
+  Hledani(TextBuffer& document, Platform& platform, std::function<QRect()> match, QWidget* parent);
   ~Hledani() override;
 
  private:
@@ -25,6 +28,7 @@ class Hledani : public DialogWindow {
   void ShowFields();
 
   Finder finder_;
+  std::function<QRect()> match_;
   std::unique_ptr<Ui::Hledani> ui_;
 };
 

@@ -10,12 +10,26 @@
 #include "texttools/windows/zamena.h"
 
 namespace pelmar {
+namespace {
+
+QRect SelectionOnScreen(const TextBox& box) {
+  const TextBuffer& text = box.Buffer();
+  if (!text.HasSelection() || !box.isVisible()) return {};
+  const QRect whole = box.CharRect(text.SelStart()) | box.CharRect(text.SelStart() + text.SelLength() - 1);
+  const QRect shown = whole & box.viewport()->rect();
+  return {box.viewport()->mapToGlobal(shown.topLeft()), shown.size()};
+}
+
+}  // namespace
 
 void AddTextWindows(const ProgramParts& parts) {
   TextBuffer& text = parts.editor.text;
   WindowRegistry& windows = parts.windows;
-  windows.Register<Hledani>([parts, &text] { return std::make_unique<Hledani>(text, parts.platform, &parts.main); });
-  windows.Register<Zamena>([parts, &text] { return std::make_unique<Zamena>(text, parts.platform, &parts.main); });
+  const auto match = [&box = parts.main.Text()] { return SelectionOnScreen(box); };
+  windows.Register<Hledani>(
+      [parts, &text, match] { return std::make_unique<Hledani>(text, parts.platform, match, &parts.main); });
+  windows.Register<Zamena>(
+      [parts, &text, match] { return std::make_unique<Zamena>(text, parts.platform, match, &parts.main); });
   windows.Register<Vyber>([parts, &text] { return std::make_unique<Vyber>(text, &parts.main); });
   windows.Register<Visual>([parts] {
     return std::make_unique<Visual>(parts.main, parts.editor.settings,

@@ -3,12 +3,16 @@
 #include "platform/qt/controls/field_helpers.h"
 #include "platform/qt/controls/list_rows.h"
 #include "platform/qt/convert.h"
+#include "platform/qt/outer_geometry.h"
 #include "ui_zamena.h"
 
 namespace pelmar {
 
-Zamena::Zamena(TextBuffer& document, Platform& platform, QWidget* parent)
-    : DialogWindow(parent), replacer_(document, platform), ui_(std::make_unique<Ui::Zamena>()) {
+Zamena::Zamena(TextBuffer& document, Platform& platform, std::function<QRect()> match, QWidget* parent)
+    : DialogWindow(parent),
+      replacer_(document, platform),
+      match_(std::move(match)),
+      ui_(std::make_unique<Ui::Zamena>()) {
   ui_->setupUi(this);
   ui_->Text1->UseBuffer(replacer_.Snapshot());
   connect(ui_->Command1, &QPushButton::clicked, this, &Zamena::Start);
@@ -37,6 +41,7 @@ void Zamena::Start() {
   const bool found = replacer_.Start();
   ShowFields();
   (found ? ui_->Command5 : ui_->Command4)->setFocus();
+  if (found) MoveAside(*this, match_());
 }
 
 void Zamena::Step(void (Replacer::*step)()) {
@@ -44,7 +49,8 @@ void Zamena::Step(void (Replacer::*step)()) {
   (replacer_.*step)();
   ShowFields();
   // The button that had the keyboard is off, and the next one, where one Enter too many would go, replaces all.
-  if (!replacer_.step_on) ui_->Command4->setFocus();
+  if (!replacer_.step_on) return ui_->Command4->setFocus();
+  MoveAside(*this, match_());
 }
 
 void Zamena::PickRow(int row) {

@@ -1,6 +1,8 @@
 // `Záměna`: replacing step by step or all at once, with two histories that go row by row.
 #pragma once
 
+#include <QRect>
+#include <functional>
 #include <memory>
 
 #include "platform/qt/controls/dialog_window.h"
@@ -16,7 +18,8 @@ class Zamena : public DialogWindow {
   Q_OBJECT
 
  public:
-  Zamena(TextBuffer& document, Platform& platform, QWidget* parent);
+  // `match` is where on the screen the match shows, nothing where it doesn't: the window moves off it.
+  Zamena(TextBuffer& document, Platform& platform, std::function<QRect()> match, QWidget* parent);
   ~Zamena() override;
 
  private:
@@ -27,6 +30,7 @@ class Zamena : public DialogWindow {
   void ShowFields();
 
   Replacer replacer_;
+  std::function<QRect()> match_;
   std::unique_ptr<Ui::Zamena> ui_;
 };
 

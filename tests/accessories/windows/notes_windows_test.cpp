@@ -76,6 +76,12 @@ TEST_F(PoznamkaTest, KeepsFivePagesAndStoresThemAtTheEnd) {
   ASSERT_TRUE(QTest::qWaitForWindowActive(notes.get()));
   QTest::keyClick(notes.get(), Qt::Key_5, Qt::AltModifier);
   EXPECT_EQ(Tabs().tabData(Tabs().currentIndex()).toString(), QStringLiteral("Note5"));
+  // A Czech keyboard has other characters on the keys of the numbers.
+  for (const auto& [code, key] : {std::pair(11u, "Note2"), {14u, "Note5"}, {15u, "Note5"}}) {
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Plus, Qt::AltModifier, code, 0, 0, QStringLiteral("+"));
+    QCoreApplication::sendEvent(Find<TextBox>(*notes, "Text1"), &press);
+    EXPECT_EQ(Tabs().tabData(Tabs().currentIndex()).toString(), QLatin1String(key)) << code;
+  }
   notes->Text().SetText("fifth");
   EXPECT_EQ(File(), NotesBytes({{"first", "second"}}));  // only the close writes
   notes->close();

@@ -95,7 +95,8 @@ TEST_F(FileDialogsTest, OpenDialogPreviewsAsksAndOpens) {
   EXPECT_EQ(platform.calls.back(), "message 52 \"Opravdu otevřít soubor ?\" \"Soubor\"");
   EXPECT_TRUE(dialog.isVisible());
   EXPECT_TRUE(editor.text.Empty());
-  open->click();
+  auto* list = Find<FileList>(dialog, "File1");
+  QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(list->currentIndex()).center());
   EXPECT_EQ(editor.text.Text(), "text of a");
   EXPECT_FALSE(dialog.isVisible());
 }

@@ -39,8 +39,8 @@ TEST(Message, HasTheButtonsThePictureAndTheDefaultOfItsType) {
   } cases[] = {
       {MessageType::kOk, Box::Ok, Box::NoIcon, Answer::kOk, Answer::kOk},
       {MessageType::kOkInfo, Box::Ok, Box::Information, Answer::kOk, Answer::kOk},
-      {MessageType::kYesNoWarning, Box::Yes | Box::No, Box::Warning, Answer::kYes, Answer::kNo},
-      {MessageType::kYesNoStop, Box::Yes | Box::No, Box::Critical, Answer::kNo, Answer::kNo},
+      {MessageType::kYesNoWarning, Box::Yes | Box::No, Box::Warning, Answer::kYes, Answer::kNone},
+      {MessageType::kYesNoStop, Box::Yes | Box::No, Box::Critical, Answer::kNo, Answer::kNone},
   };
   for (const auto& c : cases) {
     const QString text = QStringLiteral("Opravdu uložit <b>a&b</b>?\r\n\"x\"");
@@ -68,7 +68,7 @@ TEST(Message, OutlivesTheWindowUnderIt) {
     EXPECT_EQ(box.parent(), window);
     delete window;
   });
-  EXPECT_EQ(ShowMessage(MessageType::kYesNoWarning, QStringLiteral("?"), QString()), Answer::kNo);
+  EXPECT_EQ(ShowMessage(MessageType::kYesNoWarning, QStringLiteral("?"), QString()), Answer::kNone);
 }
 
 TEST(InputBox, GivesTheTextOrNothing) {

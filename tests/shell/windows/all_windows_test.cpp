@@ -6,10 +6,13 @@
 #include <QAbstractItemView>
 #include <QAbstractSlider>
 #include <QAccessible>
+#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QRadioButton>
+#include <QRegularExpression>
 #include <QScrollBar>
 #include <QTabBar>
 #include <QTest>
@@ -17,7 +20,10 @@
 #include <limits>
 #include <map>
 
+#include "platform/qt/controls/dialog_window.h"
+#include "platform/qt/controls/drive_list.h"
 #include "platform/qt/controls/elided_label.h"
+#include "platform/qt/controls/key_cap.h"
 #include "platform/qt/controls/swatch.h"
 #include "platform/qt/controls/text_box.h"
 #include "program/program.h"
@@ -145,6 +151,88 @@ void ExpectFits(QWidget& window) {
   EXPECT_FALSE(window.windowTitle().isEmpty()) << Named(window).toStdString() << " has no title";
 }
 
+// Down on a list of places would lose the folder, and on a strip of tabs nothing can be typed.
+void ExpectAGoodBeginning(const QWidget& window) {
+  const QWidget* first = window.focusWidget();
+  EXPECT_FALSE(qobject_cast<const DriveList*>(first) || qobject_cast<const QTabBar*>(first))
+      << Named(*first).toStdString() << " is where the keyboard begins";
+}
+
+// What a bar says beside it is as grey as the bar.
+void ExpectGreyTogether(const QWidget& window) {
+  static const QRegularExpression number(QStringLiteral("^ ?\\d+%?$"));
+  for (const QScrollBar* bar : window.findChildren<QScrollBar*>()) {
+    if (!bar->isVisible() || IsInner(*bar)) continue;
+    for (const QLabel* label : bar->parentWidget()->findChildren<QLabel*>(Qt::FindDirectChildrenOnly)) {
+      const QRect beside(bar->geometry().right(), bar->y(), 80, bar->height());
+      if (label->isVisible() && number.match(label->text()).hasMatch() && label->geometry().intersects(beside)) {
+        EXPECT_EQ(label->isEnabled(), bar->isEnabled()) << Named(*label).toStdString();
+      }
+    }
+  }
+}
+
+// Enter in one field of several doesn't end the dialog, unless all of them lead to its default button.
+void ExpectEnterGoesOn(QWidget& window) {
+  auto* dialog = qobject_cast<DialogWindow*>(&window);
+  const QList<QPushButton*> buttons = window.findChildren<QPushButton*>();
+  const auto found = std::find_if(buttons.begin(), buttons.end(), [](auto* button) { return button->isDefault(); });
+  if (dialog == nullptr || found == buttons.end() || window.property("defaultFromFields").toBool()) return;
+  int pressed = 0;
+  QPushButton trap(&window);  // in the place of the default button, so that nothing is put into the text
+  trap.setDefault(true);
+  trap.show();
+  QObject::connect(&trap, &QPushButton::clicked, [&] { ++pressed; });
+  for (QWidget* field : Controls(window)) {
+    const auto* line = qobject_cast<QLineEdit*>(field);
+    if ((line == nullptr || line->isReadOnly()) && !qobject_cast<QComboBox*>(field)) continue;
+    if (!field->isEnabled()) continue;
+    field->setFocus();
+    QTest::keyClick(field, Qt::Key_Return);
+  }
+  EXPECT_LE(pressed, 1) << window.objectName().toStdString();
+  (*found)->setDefault(true);
+}
+
+// The buttons that end a dialog, and the whole of a window, on a screen of 1024 by 600 at 150%.
+void ExpectButtonsInSight(DialogWindow& window) {
+  constexpr QSize kTinyScreen(675, 368);
+  window.FitInto(kTinyScreen);
+  window.show();
+  for (int round = 0; round < 3; ++round) QCoreApplication::processEvents();
+  EXPECT_EQ(window.size().boundedTo(kTinyScreen), window.size()) << window.objectName().toStdString();
+  const QString cancel = window.property("cancelButton").toString();
+  for (const QPushButton* button : window.findChildren<QPushButton*>()) {
+    if (qobject_cast<const KeyCap*>(button) || (!button->isDefault() && button->objectName() != cancel)) continue;
+    EXPECT_EQ(button->visibleRegion().boundingRect(), button->rect()) << Named(*button).toStdString();
+  }
+  window.hide();
+}
+
+TEST(AllWindows, FitASmallScreenWithLargeLetters) {
+  const QFont font = QApplication::font();
+  QFont large = font;
+  large.setPointSize(14);
+  QApplication::setFont(large);
+  ScriptedPlatform platform;
+  platform.files["/share/pelmar.txt"] = "help";
+  Program program(platform);
+  program.Main().resize(660, 330);
+  program.Main().show();
+  for (int panel = 5; panel <= kPanelCount; ++panel) {
+    const StatusPanel* shown = program.Main().Bar().Panel(panel);
+    EXPECT_GE(shown->width(), shown->fontMetrics().horizontalAdvance(shown->text())) << panel;
+    EXPECT_EQ(shown->visibleRegion().boundingRect(), shown->rect()) << panel;
+  }
+  program.Windows().ForEach([](QWidget& window) {
+    if (auto* dialog = qobject_cast<DialogWindow*>(&window)) ExpectButtonsInSight(*dialog);
+    window.show();
+    ExpectWholeCaptions(window);
+    window.hide();
+  });
+  QApplication::setFont(font);
+}
+
 TEST(AllWindows, AreWithinEverybodysReach) {
   ScriptedPlatform platform;
   platform.files["/share/pelmar.txt"] = "help";
@@ -162,6 +250,9 @@ TEST(AllWindows, AreWithinEverybodysReach) {
     ExpectFits(window);
     ExpectRoom(window);
     ExpectTabsStay(window);
+    ExpectAGoodBeginning(window);
+    ExpectGreyTogether(window);
+    ExpectEnterGoesOn(window);
     window.hide();
   });
   EXPECT_GE(count, 12);

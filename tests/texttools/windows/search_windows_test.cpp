@@ -42,9 +42,12 @@ struct SearchWindowsTest : testing::Test {
 
 TEST_F(SearchWindowsTest, HledaniShowsItsState) {
   text.SetText("jedna dvě jedna"_w.data());
-  Hledani dialog(text, platform, nullptr);
+  QRect match;
+  Hledani dialog(
+      text, platform, [&match] { return match; }, nullptr);
   EXPECT_EQ(dialog.objectName(), QStringLiteral("Hledání"));
   dialog.Present();
+  match = QRect(dialog.geometry().center() - QPoint(0, 90), QSize(30, 12));
   auto* term = Find<QLineEdit>(dialog, "Find");
   EXPECT_EQ(term->text(), QStringLiteral("Text"));
   EXPECT_FALSE(Find<QPushButton>(dialog, "Command2")->isEnabled());
@@ -54,6 +57,8 @@ TEST_F(SearchWindowsTest, HledaniShowsItsState) {
   EXPECT_EQ(Find<QLabel>(dialog, "Label3")->text(), QStringLiteral("1"));
   EXPECT_EQ(Find<QLabel>(dialog, "Label5")->text(), QStringLiteral("0"));
   EXPECT_FALSE(term->isEnabled());
+  // It moves off what it found.
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !dialog.geometry().intersects(match); }));
   Click(dialog, "Command2");
   EXPECT_EQ(Find<QLabel>(dialog, "Label5")->text(), QStringLiteral("10"));
   platform.answers = {Answer::kOk};
@@ -62,6 +67,7 @@ TEST_F(SearchWindowsTest, HledaniShowsItsState) {
   term->setText(QStringLiteral("x"));
   auto* history = Find<QListWidget>(dialog, "History");
   ASSERT_EQ(history->count(), 1);
+  history->setFocus();  // which makes the one entry current
   QTest::keyClick(history, Qt::Key_Down);  // the keyboard picks as the mouse does
   EXPECT_EQ(term->text(), QStringLiteral("jedna"));
   Click(dialog, "Command3");
@@ -70,7 +76,8 @@ TEST_F(SearchWindowsTest, HledaniShowsItsState) {
 
 TEST_F(SearchWindowsTest, EnterGoesOnWithTheSearchAndEndsIt) {
   text.SetText("a a");
-  Hledani dialog(text, platform, nullptr);
+  Hledani dialog(
+      text, platform, [] { return QRect(); }, nullptr);
   dialog.Present();
   auto* term = Find<QLineEdit>(dialog, "Find");
   const auto enter = [&dialog] { QTest::keyClick(dialog.focusWidget(), Qt::Key_Return); };
@@ -89,7 +96,8 @@ TEST_F(SearchWindowsTest, HledaniTakesALongSelectionOfSeveralLines) {
   lines += "\r\ny";
   text.SetText("x" + lines + "\r\n" + lines);
   text.Select(1, 1 + lines.size());
-  Hledani dialog(text, platform, nullptr);
+  Hledani dialog(
+      text, platform, [] { return QRect(); }, nullptr);
   dialog.Present();
   Click(dialog, "Command1");
   EXPECT_EQ(text.SelText(), lines);
@@ -100,7 +108,8 @@ TEST_F(SearchWindowsTest, HledaniTakesALongSelectionOfSeveralLines) {
 
 TEST_F(SearchWindowsTest, OneEnterTooManyDoesNotReplaceAll) {
   text.SetText("a");
-  Zamena dialog(text, platform, nullptr);
+  Zamena dialog(
+      text, platform, [] { return QRect(); }, nullptr);
   FindFirst(dialog, "a", "b");
   platform.answers = {Answer::kOk};
   for (int times = 0; times < 2; ++times) QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
@@ -111,7 +120,8 @@ TEST_F(SearchWindowsTest, OneEnterTooManyDoesNotReplaceAll) {
 
 TEST_F(SearchWindowsTest, ZamenaReplacesAndKeepsThePairs) {
   text.SetText("a\r\nb a\r\nb");
-  Zamena dialog(text, platform, nullptr);
+  Zamena dialog(
+      text, platform, [] { return QRect(); }, nullptr);
   EXPECT_EQ(dialog.objectName(), QStringLiteral("Záměna"));
   dialog.Present();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
@@ -148,7 +158,8 @@ TEST_F(SearchWindowsTest, ZamenaReplacesAndKeepsThePairs) {
 
 TEST_F(SearchWindowsTest, TheFieldsAreUpToDateBehindAMessage) {
   text.SetText("a");
-  Zamena dialog(text, platform, nullptr);
+  Zamena dialog(
+      text, platform, [] { return QRect(); }, nullptr);
   FindFirst(dialog, "a", "x");
   QString shown;
   platform.answers = {Answer::kOk};

@@ -1,17 +1,23 @@
 #include "platform/qt/controls/dialog_window.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QShowEvent>
+#include <QStackedWidget>
+#include <QTabBar>
 #include <QToolButton>
+#include <algorithm>
 
 #include "platform/qt/controls/accessible_face.h"
+#include "platform/qt/controls/scrolled_contents.h"
 #include "platform/qt/controls/text_box.h"
 #include "platform/qt/outer_geometry.h"
 #include "platform/qt/placement.h"
@@ -19,6 +25,8 @@
 
 namespace pelmar {
 namespace {
+
+constexpr int kFrameButtons = 140;  // what a frame needs beside the title
 
 // The toolkit's scroll bars move against the arrows Left and Right. True when the key was one of them.
 bool MoveByArrow(QScrollBar& bar, int key) {
@@ -44,6 +52,32 @@ void SelectText(QWidget& field) {
 bool IsPlainEnter(const QKeyEvent& event) {
   return (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) &&
          (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+}
+
+// What a person fills in or chooses from, but for the toolkit's own fields inside of others.
+bool IsField(const QWidget& widget) {
+  if (const auto* line = qobject_cast<const QLineEdit*>(&widget))
+    return !line->isReadOnly() && !qobject_cast<const QComboBox*>(widget.parentWidget());
+  if (const auto* text = qobject_cast<const TextBox*>(&widget)) return !text->IsReadOnly();
+  return qobject_cast<const QComboBox*>(&widget) || qobject_cast<const QAbstractItemView*>(&widget);
+}
+
+bool TakesTab(const QWidget& widget, const QWidget& window) {
+  return (widget.focusPolicy() & Qt::TabFocus) != 0 && widget.isVisibleTo(&window) && widget.isEnabled();
+}
+
+// The fields as the tabulator key goes through them.
+QList<QWidget*> FieldsInOrder(QWidget& window) {
+  QList<QWidget*> fields;
+  for (QWidget* next = window.nextInFocusChain(); next != &window; next = next->nextInFocusChain())
+    if (IsField(*next) && TakesTab(*next, window)) fields += next;
+  return fields;
+}
+
+// Behind tabs lie more fields than show, and those that do are filled for one row or cell after the other.
+bool LiesBehindTabs(const QWidget* widget) {
+  while (widget != nullptr && !qobject_cast<const QStackedWidget*>(widget)) widget = widget->parentWidget();
+  return widget != nullptr;
 }
 
 }  // namespace
@@ -97,7 +131,20 @@ void DialogWindow::keyPressEvent(QKeyEvent* event) {
   QWidget* focus = focusWidget();
   if (IsPlainEnter(*event) && (qobject_cast<QPushButton*>(focus) || qobject_cast<QToolButton*>(focus)))
     return static_cast<QAbstractButton*>(focus)->click();
+  if (IsPlainEnter(*event) && GoToNextField()) return;
   QDialog::keyPressEvent(event);
+}
+
+// False where Enter is for the default button.
+bool DialogWindow::GoToNextField() {
+  if (property("defaultFromFields").toBool()) return false;
+  const QList<QWidget*> fields = FieldsInOrder(*this);
+  const auto at = fields.indexOf(focusWidget());
+  if (at < 0) return false;
+  const bool last = at + 1 == fields.size();
+  if (last && !LiesBehindTabs(fields[at])) return false;
+  fields[last ? 0 : at + 1]->setFocus(Qt::TabFocusReason);
+  return true;
 }
 
 void DialogWindow::showEvent(QShowEvent* event) {
@@ -118,7 +165,10 @@ void DialogWindow::Prepare() {
   prepared_ = true;
   setAttribute(Qt::WA_KeyboardFocusChange);  // what has the keyboard shows it from the first moment on
   ShowProgramIcon();
-  FitScreen(*this);
+  first_field_ = focusWidget();
+  for (QWidget* next = this; !first_field_ && (next = next->nextInFocusChain()) != this;)
+    if (TakesTab(*next, *this) && !qobject_cast<QTabBar*>(next)) first_field_ = next;
+  FitInto(RoomOnScreen(*this));
   CentreOnScreen(*this);
   LabelBoxes(*this);
   for (QWidget* widget : findChildren<QWidget*>()) {
@@ -126,9 +176,27 @@ void DialogWindow::Prepare() {
     widget->installEventFilter(this);
     if (widget->focusPolicy() == Qt::WheelFocus) widget->setFocusPolicy(Qt::StrongFocus);
   }
-  first_field_ = focusWidget();
-  for (QWidget* next = this; !first_field_ && (next = next->nextInFocusChain()) != this;)
-    if ((next->focusPolicy() & Qt::TabFocus) != 0 && next->isVisibleTo(this) && next->isEnabled()) first_field_ = next;
+}
+
+void DialogWindow::FitInto(QSize room) {
+  ensurePolished();
+  for (QWidget* widget : findChildren<QWidget*>()) widget->ensurePolished();  // only now their letters are known
+  if (!testAttribute(Qt::WA_Resized)) adjustSize();  // by its contents, as the toolkit does for a form without a size
+  const QSize least = layout() != nullptr ? layout()->totalMinimumSize() : QSize();
+  if (least.width() > room.width() || least.height() > room.height()) ScrollContents(*this, EndingButtons());
+  const int title = fontMetrics().horizontalAdvance(windowTitle()) + kFrameButtons;
+  resize(QSize(std::max(width(), title), height()).boundedTo(room));
+}
+
+// The default one and the one that Escape presses, as they stand in the form.
+QList<QPushButton*> DialogWindow::EndingButtons() const {
+  const QString cancel = property("cancelButton").toString();
+  QList<QPushButton*> ending = findChildren<QPushButton*>();
+  ending.removeIf([&cancel](const QPushButton* button) {
+    return button->metaObject() != &QPushButton::staticMetaObject ||
+           (!button->isDefault() && button->objectName() != cancel);
+  });
+  return ending;
 }
 
 }  // namespace pelmar

@@ -1,15 +1,19 @@
 // The base of the program's own dialogs: modeless unless executed, centred on the screen when first shown, and only
 // hidden on closing, so that the fields keep what they hold for the whole run. Each opening begins in the same field,
 // with its text selected. Boxes and bars that don't have the keyboard leave the mouse wheel alone, so that nobody
-// changes a value in passing. The form's property `cancelButton` names
-// the button that Escape presses; without one Escape closes the window as its system button does. Enter presses the
-// button that has the focus, elsewhere the default one.
+// changes a value in passing. The form's property `cancelButton` names the button that Escape presses; without one
+// Escape closes the window as its system button does. Enter presses the button that has the focus; in a field it goes
+// on to the next one, so that nothing half-filled is put into the text; from the last field, and from all that isn't a
+// field, it presses the default button. The form's property `defaultFromFields` lets it do so from every field. On a
+// screen too small for the form its contents scroll, and the buttons that end the dialog stay in sight.
 #pragma once
 
 #include <QDialog>
 #include <QPointer>
 #include <functional>
 #include <map>
+
+class QPushButton;
 
 namespace pelmar {
 
@@ -21,6 +25,9 @@ class DialogWindow : public QDialog {
 
   // Shows the window, or brings it to the front where it is on show already. Begins in its first field.
   void Present();
+
+  // Before the first showing: no larger than `room`, in logical pixels inside the frame.
+  void FitInto(QSize room);
 
   // Waits like a dialog of the window that asks, which is the active one again afterwards.
   int exec() override;
@@ -37,6 +44,8 @@ class DialogWindow : public QDialog {
   // What the first opening needs only.
   void Prepare();
   void BeginInFirstField();
+  bool GoToNextField();
+  QList<QPushButton*> EndingButtons() const;
 
   std::map<QObject*, std::function<void()>> on_enter_;
   QPointer<QWidget> first_field_;

@@ -21,6 +21,7 @@ void LinkFolderBrowser(DriveList* place, FolderList* folders) {
   QObject::connect(place, &DriveList::DriveChanged, folders, &FolderList::SetPath);
   folders->SetPath(CurrentFolder());
   place->SetDrive(folders->Path());
+  folders->setFocus();
 }
 
 FolderBrowser FolderBrowserOf(const QWidget& dialog) {
@@ -33,6 +34,7 @@ void LinkFileBrowser(DriveList* place, FolderList* folders, FileList* files, QCo
   QObject::connect(folders, &FolderList::KeyReleased, files,
                    [folders, files] { files->SetPath(folders->HighlightedPath()); });
   LinkFolderBrowser(place, folders);
+  files->setFocus();
   files->SetPath(folders->Path());
   if (!mask) return;
   mask->setCompleter(nullptr);  // it would make "*.htm" of a typed "*.h"

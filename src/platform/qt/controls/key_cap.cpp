@@ -9,11 +9,14 @@ namespace {
 
 constexpr int kEdge = 3;  // what the frame takes at each side
 
-// Of a caption with an access key the sign itself is underlined only in words: a keypad of underlined digits is hard to
-// read.
-constexpr int kShortestWord = 3;
-
 QString Plain(QString caption) { return caption.remove(QLatin1Char('&')); }
+
+// The access key is underlined where it is a letter: digits and signs are typed as they are, and a keypad of underlined
+// ones is hard to read.
+bool ShowsAccessKey(const QString& caption) {
+  const auto at = caption.indexOf(QLatin1Char('&')) + 1;
+  return at > 0 && at < caption.size() && caption[at].isLetter();
+}
 
 QStringList Words(const QString& caption) { return Plain(caption).split(QLatin1Char(' '), Qt::SkipEmptyParts); }
 
@@ -23,11 +26,19 @@ QSize RoomFor(const QStringList& words, const QFontMetrics& metrics) {
   return {width + 2 * kEdge, metrics.height() + 2 * kEdge};
 }
 
+// In letters as small as the caption needs to be whole: a key keeps its size, also where the desktop's letters are
+// large.
 void PaintCaption(QStylePainter& painter, const QWidget& key, const QString& caption, QPalette::ColorRole role) {
+  constexpr int kSmallest = 6;
   painter.setPen(key.palette().color(key.isEnabled() ? QPalette::Active : QPalette::Disabled, role));
-  const bool word = Plain(caption).size() >= kShortestWord;
-  painter.drawText(key.rect().adjusted(kEdge - 1, kEdge, 1 - kEdge, -kEdge),
-                   Qt::AlignCenter | Qt::TextWordWrap | (word ? Qt::TextShowMnemonic : Qt::TextHideMnemonic), caption);
+  const QRect room = key.rect().adjusted(kEdge - 1, kEdge, 1 - kEdge, -kEdge);
+  const int flags =
+      Qt::AlignCenter | Qt::TextWordWrap | (ShowsAccessKey(caption) ? Qt::TextShowMnemonic : Qt::TextHideMnemonic);
+  QFont letters = key.font();
+  while (letters.pointSize() > kSmallest && !room.contains(QFontMetrics(letters).boundingRect(room, flags, caption)))
+    letters.setPointSize(letters.pointSize() - 1);
+  painter.setFont(letters);
+  painter.drawText(room, flags, caption);
 }
 
 void PaintFrame(QStylePainter& painter, QStyleOptionButton& option, const QWidget& key) {

@@ -3,6 +3,8 @@
 #include <QListWidget>
 #include <QStyledItemDelegate>
 
+#include "platform/qt/controls/first_choice.h"
+
 namespace pelmar {
 namespace {
 
@@ -24,6 +26,7 @@ class OneLineDelegate : public QStyledItemDelegate {
 }  // namespace
 
 void OnRowPicked(QListWidget& list, const std::function<void(int row)>& picked) {
+  ChooseFirstByArrows(&list);
   QObject::connect(&list, &QListWidget::itemSelectionChanged, &list, [&list, picked] {
     const QList<QListWidgetItem*> rows = list.selectedItems();
     if (!rows.isEmpty()) picked(list.row(rows.first()));

@@ -1,5 +1,5 @@
 // Keys that go through a strip of tabs from anywhere in its window: Ctrl+Tab, Ctrl+Page Down and their reverses, and
-// Alt+1 to Alt+9 for the tab of that number.
+// Alt+1 to Alt+9 for the tab of that number, also where a keyboard has other characters on these keys.
 #pragma once
 
 class QTabBar;
