@@ -35,9 +35,9 @@ class PictureAndSampleTest(unittest.TestCase):
         self.main = session.wait_window(f"Pelmar VEX ({self.document})")
         session.activate(self.main)
 
-        # From the place to the folders, into "sub" below the highlighted one; over the mask to the files; Enter.
+        # From the files back to the folders, into "sub" below the highlighted one; over the mask to the files; Enter.
         session.key("ctrl+p")
-        self.in_dialog("HTML Obrázek", "Tab", "Down", "Return", "Tab", "Tab", "Down", "Return")
+        self.in_dialog("HTML Obrázek", *["shift+Tab"] * 2, "Down", "Return", "Tab", "Tab", "Down", "Return")
 
         self.save()
         picture = f'<IMG SRC="file://{self.web}/sub/logo.gif">'
