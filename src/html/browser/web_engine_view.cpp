@@ -1,6 +1,6 @@
 #include "html/browser/web_engine_view.h"
 
-#include <signal.h>
+#include <csignal>
 
 #include <QMenu>
 #include <QWebEngineContextMenuRequest>

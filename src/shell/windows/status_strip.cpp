@@ -147,7 +147,9 @@ void StatusStrip::Place() {
 void StatusStrip::PlaceNotice() {
   const QRect content = panels_[3]->geometry();
   const int wanted = notice_->fontMetrics().horizontalAdvance(notice_->text()) + 4 * kTextMargin;
-  const int end = std::min(content.right() + 1, width() - kGap);
+  const int most = width() - kGap;
+  // In a narrow window it covers the panels of the keys too.
+  const int end = wanted <= content.right() ? std::min(content.right() + 1, most) : most;
   int begin = kGap;
   for (const std::size_t at : {1u, 2u, 3u})
     if (panels_[at]->x() <= end - wanted) begin = panels_[at]->x();

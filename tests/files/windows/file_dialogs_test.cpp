@@ -17,6 +17,7 @@
 #include "files/windows/otevri.h"
 #include "files/windows/uloz.h"
 #include "platform/qt/controls/drive_list.h"
+#include "platform/qt/controls/file_browser.h"
 #include "platform/qt/controls/file_list.h"
 #include "platform/qt/controls/folder_list.h"
 #include "platform/qt/controls/text_box.h"
@@ -210,14 +211,12 @@ TEST_F(FileDialogsTest, ConversionWritesBesideTheChosenFile) {
 TEST_F(FileDialogsTest, WorkingFolderReachesEveryDialog) {
   Otevri open(editor.opener, platform, nullptr);
   std::unique_ptr<Uloz> save;  // made when it is first needed
-  const auto lists_of = [](QWidget& dialog) {
-    return DirSetup::Lists{Find<DriveList>(dialog, "Drive1"), Find<FolderList>(dialog, "Dir1")};
-  };
   const auto save_lists = [&] {
     if (!save) save = std::make_unique<Uloz>(editor.documents, editor.saver, nullptr);
-    return lists_of(*save);
+    return FolderBrowserOf(*save);
   };
-  DirSetup dialog({save_lists, [&] { return lists_of(open); }}, nullptr);
+  const std::vector<std::function<FolderBrowser()>> dialogs = {save_lists, [&] { return FolderBrowserOf(open); }};
+  DirSetup dialog(dialogs, nullptr);
   dialog.show();
   Find<FolderList>(dialog, "Dir1")->SetPath(folder.path());
   Find<DriveList>(dialog, "Drive1")->SetDrive(QStringLiteral("/"));

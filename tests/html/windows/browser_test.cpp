@@ -232,6 +232,7 @@ TEST_F(BrowserTest, AddressesOfTheEngineAreRefused) {
   for (const char* refused : {"chrome://crash", "CHROME://gpucrash", "about:crash", "about:", "about:blank2", "qrc:/x",
                               "view-source:http://x.cz", "javascript:1", "blob:x", "ftp://x.cz/", "mailto:a@x.cz"}) {
     Address().lineEdit()->setText(QLatin1String(refused));
+    platform.answers = {Answer::kOk};
     QTest::keyClick(&Address(), Qt::Key_Return);
     EXPECT_TRUE(maker.calls.isEmpty()) << refused;
     EXPECT_TRUE(platform.calls.back().starts_with("message 64 \"Takovou adresu interní browser neotvírá:\r\n" +

@@ -106,7 +106,7 @@ TEST_F(VisualTest, LoadsTheLookOfTheTextBox) {
   EXPECT_EQ(Find<QLabel>(visual, "Label12")->text(), QStringLiteral("300"));
   for (const int size : {8, 10}) {
     view.look.font_size = size;
-    Visual another(view, session, editor.settings, {}, nullptr);
+    Visual another(view, editor.settings, {}, nullptr);
     another.Present();
     EXPECT_EQ(Find<TextBox>(another, "Label1")->font().pointSize(), size);
   }
