@@ -14,7 +14,7 @@
 namespace pelmar {
 namespace {
 
-constexpr qint64 kMostHeld = 256 * 1024;  // bytes that wait on one side for the other
+constexpr qint64 kMostHeld = qint64{256} * 1024;  // bytes that wait on one side for the other
 constexpr char kVersion = 5, kConnect = 1, kAddress4 = 1, kName = 3, kAddress6 = 4, kDone = 0, kRefused = 2,
                kFailed = 5;
 constexpr qsizetype kHeadLength = 4, kPortLength = 2;

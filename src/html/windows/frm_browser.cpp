@@ -23,7 +23,7 @@ namespace pelmar {
 namespace {
 
 constexpr int kTimerInterval = 5;                 // ms
-constexpr qint64 kLongestPage = 4 * 1024 * 1024;  // bytes that are looked at
+constexpr qint64 kLongestPage = qint64{4} << 20;  // bytes that are looked at
 constexpr int kLongestShown = 300;                // characters of an address in a message
 constexpr std::string_view kOpenFilter = "Všechno (*.*)|*.*|htm (*.htm)|*.htm|html (*.html)|*.html";
 
