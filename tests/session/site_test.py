@@ -106,7 +106,7 @@ class SiteTest(unittest.TestCase):
 
     def table(self):
         """Two columns, then the texts of the two cells on the other tab."""
-        self.dialog("HTML Tabulka", "Tab", "Right", "shift+Tab", "Right", "Tab", "Tab", "Tab", "=Micka",
+        self.dialog("HTML Tabulka", "Right", "shift+Tab", "Right", "Tab", "Tab", "Tab", "=Micka",
                     "shift+Tab", "shift+Tab", "Right", "Tab", "Tab", "=5 let", "alt+o")
 
 

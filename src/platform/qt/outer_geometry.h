@@ -2,6 +2,7 @@
 // is mapped its frame is unknown and counts as nothing; a position set then is still the frame's.
 #pragma once
 
+#include <QRect>
 #include <QSize>
 
 #include "platform/twips.h"

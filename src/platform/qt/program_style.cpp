@@ -16,7 +16,7 @@ namespace {
 // of two luminances, from 1 for the same to 21 for black on white.
 constexpr double kReadable = 4.5;
 constexpr double kVisible = 3.7;  // above the 3 that a sign needs, since its edge is blurred
-constexpr double kStep = 0.05;
+constexpr int kSteps = 20;
 
 double Luminance(const QColor& color) {
   const auto linear = [](double part) {
@@ -38,8 +38,9 @@ QColor Mixed(const QColor& ground, const QColor& text, double share) {
 
 // The colour between the two that is just strong enough.
 QColor OfContrast(double wanted, const QColor& ground, const QColor& text) {
-  for (double share = kStep; share < 1; share += kStep)
-    if (const QColor mixed = Mixed(ground, text, share); Contrast(ground, mixed) >= wanted) return mixed;
+  for (int step = 1; step < kSteps; ++step)
+    if (const QColor mixed = Mixed(ground, text, static_cast<double>(step) / kSteps); Contrast(ground, mixed) >= wanted)
+      return mixed;
   return text;
 }
 

@@ -39,7 +39,7 @@ void AddTextWindows(const ProgramParts& parts) {
   parts.ShowBy<Hledani>({"mnufind", "Find"});
   parts.ShowBy<Zamena>({"mnuchange"});
   parts.editor.commands.Add("mnupresnvyb", [&windows] {
-    Vyber& window = windows.Anew<Vyber>();
+    auto& window = windows.Anew<Vyber>();
     if (window.isVisible()) window.Load();  // the selection may be another one by now
     window.Present();
   });
