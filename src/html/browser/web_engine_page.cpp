@@ -169,7 +169,8 @@ bool WebEnginePage::Ask(QDialog& question) {
   const int result = question.exec();
   if (self == nullptr) return false;
   question_ = nullptr;
-  if (silence != nullptr && silence->isChecked()) muted_ = true;
+  // Its key presses the box for a moment before it takes effect, and Enter may come sooner.
+  if (silence != nullptr && (silence->isChecked() || silence->isDown())) muted_ = true;
   if (on_answered) QMetaObject::invokeMethod(this, on_answered, Qt::QueuedConnection);
   return result == QDialog::Accepted || result == QMessageBox::Yes || result == QMessageBox::Ok;
 }
