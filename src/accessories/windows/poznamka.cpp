@@ -119,7 +119,7 @@ RescueContent Poznamka::Unsaved() {
 
 std::vector<RescuedText> Poznamka::BringBack(const std::vector<RescueRecord>& records) {
   record_ = Now();
-  const std::vector<RescuedText> left = BringBackNotes(record_, records);
+  std::vector<RescuedText> left = BringBackNotes(record_, records);
   ShowPage(records.front().shown);
   return left;
 }
