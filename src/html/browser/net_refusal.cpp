@@ -5,7 +5,7 @@
 namespace pelmar {
 namespace {
 
-bool IsOfTheNet(const QString& scheme) {
+bool ReachesTheNet(const QString& scheme) {
   return scheme.startsWith(QLatin1String("http")) || scheme == QLatin1String("ws") || scheme == QLatin1String("wss");
 }
 
@@ -26,7 +26,7 @@ bool IsMissed(QWebEngineUrlRequestInfo::ResourceType type) {
 
 void NetRefusal::interceptRequest(QWebEngineUrlRequestInfo& request) {
   const QString scheme = request.requestUrl().scheme();
-  if (IsOfTheNet(scheme)) {
+  if (ReachesTheNet(scheme)) {
     if (gate_.IsOpen()) return;
     request.block(true);
     if (on_withheld && IsMissed(request.resourceType())) on_withheld();

@@ -30,10 +30,6 @@ constexpr int kLongestShown = 300;      // characters of an address in a questio
 constexpr int kMostUnasked = 2;         // questions before a page may be silenced
 constexpr int kLongestQuestion = 2000;  // characters of a page's own words
 
-bool IsOfTheNet(const QUrl& address) {
-  return address.scheme() == QLatin1String("http") || address.scheme() == QLatin1String("https");
-}
-
 // What a frame of a page may hold besides.
 bool MayBeFramed(const QUrl& address) {
   return MayBeShown(address) || address.scheme() == QLatin1String("about") || address.scheme() == QLatin1String("blob");

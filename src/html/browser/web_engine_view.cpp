@@ -18,8 +18,6 @@ namespace {
 constexpr int kLongestExpectation = 1000;  // ms
 constexpr int kLongestSilence = 3000;      // ms, of a page that is to answer
 
-bool IsOfTheNet(const QUrl& address) { return address.scheme().startsWith(QLatin1String("http")); }
-
 }  // namespace
 
 WebEngineView::WebEngineView(std::unique_ptr<NetGate> gate, QWidget* parent)

@@ -16,6 +16,10 @@ QString AddressOfUrl(const QUrl& url);
 // Percent-encoded where the path is no UTF-8, since a person couldn't write it otherwise.
 QString AddressOfFile(std::string_view path);
 
+inline bool IsOfTheNet(const QUrl& url) {
+  return url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https");
+}
+
 // Whether a page of this address may be shown: of the net (http, https), a file, data, or the empty page. All others
 // lead into the engine, where some end the whole program, or to what it doesn't know.
 inline bool MayBeShown(const QUrl& url) {
