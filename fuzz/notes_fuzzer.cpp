@@ -14,7 +14,7 @@ void Expect(bool holds) {
   if (!holds) std::abort();
 }
 
-void ReadFile(std::string_view bytes) {
+void CheckFile(std::string_view bytes) {
   const NotesRecord record = ReadNotes(bytes);
   std::size_t size = 0;
   for (const std::string& page : record.pages) size += page.size();
@@ -22,7 +22,7 @@ void ReadFile(std::string_view bytes) {
   Expect(ReadNotes(NotesBytes(record)) == record);
 }
 
-void ReadRescue(std::string_view bytes) {
+void CheckRescue(std::string_view bytes) {
   const auto unsaved = ReadRescue(kNotesRescue, bytes);
   if (!unsaved) return;
   Expect(unsaved->texts.empty() || RescueBytes(kNotesRescue, *unsaved) == bytes);
@@ -36,9 +36,9 @@ void ReadRescue(std::string_view bytes) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string_view bytes(reinterpret_cast<const char*>(data), size);
-  pelmar::ReadFile(bytes);
-  pelmar::ReadRescue(bytes);
+  pelmar::CheckFile(bytes);
+  pelmar::CheckRescue(bytes);
   // Past the checksum, which keeps most damage from the fields behind it.
-  pelmar::ReadRescue(pelmar::Sealed(pelmar::kNotesRescue.signature, bytes));
+  pelmar::CheckRescue(pelmar::Sealed(pelmar::kNotesRescue.signature, bytes));
   return 0;
 }
