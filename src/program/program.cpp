@@ -41,7 +41,7 @@ Program::Program(Platform& platform)
   AddWindows();
   main_.RefreshCommands();
   main_.may_close = [this] { return MayClose(); };
-  rescue_.on_failure = [this](int error) { main_.Bar().ShowUnkept(error); };
+  rescue_.on_failure = [this](int error) { main_.Bar().SetUnkept(error); };
   editor_.text.OnChange([this](const TextChange&) { TouchRescue(); });
   editor_.documents.on_title = [this, show = editor_.documents.on_title] {
     show();

@@ -47,7 +47,4 @@ int CreateFile(const std::string& path, std::string_view bytes);
 WriteOutcome RewriteFileByPieces(const std::string& source, const std::string& target, OldTail tail,
                                  FileRewriter& rewriter, const std::string& keep_folder);
 
-// True where both paths lead to one file that is there.
-bool LeadToSameFile(const std::string& left, const std::string& right);
-
 }  // namespace pelmar

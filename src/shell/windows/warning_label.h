@@ -1,22 +1,22 @@
-// The warning that unsaved work can't be kept in a rescue file just now, as on a full disk. Whoever owns it shows it
-// for as long as that holds.
+// A warning that stands for as long as what it says holds, told to assistive technology each time it comes up.
 #pragma once
 
 #include <QLabel>
 
 namespace pelmar {
 
-class UnkeptLabel : public QLabel {
+class WarningLabel : public QLabel {
   Q_OBJECT
 
  public:
-  explicit UnkeptLabel(const QString& text, QWidget* parent);
-
-  // The errno of the failed write, for the tool-tip.
-  void SetError(int error);
+  explicit WarningLabel(QWidget* parent);
 
  protected:
   void showEvent(QShowEvent* event) override;
 };
+
+// The tool-tip of a warning that unsaved work can't be kept in a rescue file just now, as on a full disk; with the
+// errno of the failed write.
+QString UnkeptTip(int error);
 
 }  // namespace pelmar
