@@ -8,7 +8,6 @@
 #include "platform/paths.h"
 #include "platform/runtime_error.h"
 #include "platform/twips.h"
-#include "shell/record_bytes.h"
 #include "text/codepage.h"
 
 namespace pelmar {
@@ -117,9 +116,7 @@ void Session::StoreSettings(bool with_window_state) {
   settings_.FontSize = static_cast<std::uint8_t>(std::lround(std::clamp(look.font_size, 0.0, 255.0)));
   settings_.FontBold = look.bold;
   settings_.FontItalic = look.italic;
-  // The file isn't cut: what an older, longer record left behind the new one stays.
-  const FileBytes old = platform_.ReadFile(InstallPath(kSettingsName), std::nullopt);
-  Store(kSettingsName, OverOldTail(SettingsBytes(settings_), old.bytes));
+  WriteRecordOn(file_number_, platform_, InstallPath(kSettingsName), SettingsBytes(settings_));
 }
 
 void Session::Store(std::string_view name, std::string_view bytes) {
