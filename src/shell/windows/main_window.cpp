@@ -117,7 +117,7 @@ void MainWindow::FollowDocuments() {
   editor_.documents.on_title = [this] { setWindowTitle(PlainTitle(editor_.documents.Title())); };
   editor_.documents.on_face = [this](int tab) { tabs_->SetFace(tab, editor_.documents.Face(tab)); };
   editor_.documents.on_selected = [this](int tab) { tabs_->setCurrentIndex(tab - 1); };
-  opener_.on_recent_files = [this] { ShowRecentFiles(); };
+  opener_.on_recent_files = [this] { toolbar_->ShowRecentFiles(); };
   editor_.documents.on_title();
 }
 
@@ -309,29 +309,11 @@ EditorLook MainWindow::Look() const {
           font.italic()};
 }
 
-void MainWindow::ShowRecentFiles() { toolbar_->ShowRecentFiles(); }
-
-void MainWindow::ShowConfig() {
-  if (show_config) show_config();
-}
-
 void MainWindow::ShowMain() {
   if (isVisible()) return BringToFront(*this);
   if (window_state_ == 1) return showMinimized();
   if (window_state_ == 2) return showMaximized();
   show();
-}
-
-void MainWindow::ShowStart() {
-  if (!show_start) return ShowMain();
-  hide();
-  show_start();
-}
-
-void MainWindow::ShowAccessory(StartMode mode) {
-  accessory_mode_ = true;
-  hide();
-  if (show_accessory) show_accessory(mode);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
@@ -388,7 +370,7 @@ void MainWindow::changeEvent(QEvent* event) {
 bool MainWindow::event(QEvent* event) {
   if (event->type() == QEvent::WindowActivate) {
     main_active_ = true;
-    if (!accessory_mode_) text_->setFocus();
+    if (isVisible()) text_->setFocus();  // an accessory that runs as the whole program has it hidden
   }
   if (event->type() == QEvent::WindowDeactivate) main_active_ = false;
   return QMainWindow::event(event);

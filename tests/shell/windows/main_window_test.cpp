@@ -130,7 +130,7 @@ TEST_F(MainWindowTest, TickSetsMenusAndPanels) {
 }
 
 TEST_F(MainWindowTest, TheBarTellsThatFilesCantBeReachedAnyMore) {
-  const auto* notice = Find<QLabel>("Notice");
+  const auto* notice = Find<QLabel>("Warning");
   platform.files["/a.txt"] = platform.files["/README"] = "x";
   platform.opens = {"/a.txt", "/README"};
   for (const bool stuck : {false, true}) {
@@ -147,6 +147,11 @@ TEST_F(MainWindowTest, TheBarTellsThatFilesCantBeReachedAnyMore) {
     EXPECT_TRUE(window.Bar().rect().contains(notice->geometry())) << width;
   }
   for (const std::string& call : platform.calls) EXPECT_FALSE(call.starts_with("message")) << call;  // required
+  for (const int error : {ENOSPC, 0}) {  // work that is lost with a new start comes first
+    window.Bar().SetUnkept(error);
+    EXPECT_EQ(notice->text().contains(QStringLiteral("nový start")), error == 0);
+    EXPECT_TRUE(notice->isVisible());
+  }
 }
 
 TEST_F(MainWindowTest, BarsStandStillWhileAnotherWindowIsActive) {
