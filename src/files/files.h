@@ -2,6 +2,7 @@
 #pragma once
 
 #include "files/open.h"
+#include "files/outside_changes.h"
 #include "files/save.h"
 #include "shell/editor.h"
 
@@ -10,9 +11,11 @@ namespace pelmar {
 struct Files {
   // The editor outlives them.
   explicit Files(Editor& editor)
-      : opener(editor.documents, editor.settings, editor.platform, editor.file_number),
-        saver(editor.documents, opener, editor.platform, editor.file_number) {}
+      : outside(editor.documents, editor.platform),
+        opener(editor.documents, editor.settings, editor.platform, editor.file_number, outside),
+        saver(editor.documents, opener, editor.platform, editor.file_number, outside) {}
 
+  OutsideChanges outside;
   Opener opener;
   Saver saver;
 };

@@ -7,8 +7,9 @@
 
 namespace pelmar {
 
-Opener::Opener(Documents& documents, SettingsRecord& settings, Platform& platform, FileNumber& file_number)
-    : documents_(documents), settings_(settings), platform_(platform), file_number_(file_number) {}
+Opener::Opener(Documents& documents, SettingsRecord& settings, Platform& platform, FileNumber& file_number,
+               OutsideChanges& outside)
+    : documents_(documents), settings_(settings), platform_(platform), file_number_(file_number), outside_(outside) {}
 
 bool Opener::FileExists(const std::string& path) {
   // required: a stuck file number fails every open until the next start, so the test may not set it free
@@ -23,6 +24,7 @@ void Opener::OpenPath(const std::string& path) {
     return;
   }
   file_number_.Open();
+  const auto stamp = platform_.Stamp(path);
   FileBytes file = platform_.ReadFile(path, kLargestDocument + 1);
   if (file.error != 0) {
     file_number_.Close();
@@ -34,6 +36,7 @@ void Opener::OpenPath(const std::string& path) {
     return;
   }
   documents_.SetCurrentPath(path);
+  outside_.Note(stamp);
   documents_.Text().SetText(std::move(file.bytes));
   documents_.Target().Prime(path);  // required: its error leaves the rest undone and file number 1 open
   documents_.ShowPathInTitle();

@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "files/outside_changes.h"
 #include "platform/platform.h"
 #include "shell/documents.h"
 #include "shell/file_number.h"
@@ -28,7 +29,8 @@ inline constexpr std::string_view kNoPreview = "Není k dispozici"_w;
 
 class Opener {
  public:
-  Opener(Documents& documents, SettingsRecord& settings, Platform& platform, FileNumber& file_number);
+  Opener(Documents& documents, SettingsRecord& settings, Platform& platform, FileNumber& file_number,
+         OutsideChanges& outside);
 
   // Opens a file into the current tab, or tells why it can't. A name without a full stop throws RuntimeError when the
   // text is already in, and leaves file number 1 open: required.
@@ -63,6 +65,7 @@ class Opener {
   SettingsRecord& settings_;
   Platform& platform_;
   FileNumber& file_number_;
+  OutsideChanges& outside_;
 };
 
 // The rule of the recent list on its own: the path goes to the head, those before its old place move down by one.

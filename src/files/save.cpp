@@ -5,8 +5,8 @@
 
 namespace pelmar {
 
-Saver::Saver(Documents& documents, Opener& opener, Platform& platform, FileNumber& file_number)
-    : documents_(documents), opener_(opener), platform_(platform), file_number_(file_number) {}
+Saver::Saver(Documents& documents, Opener& opener, Platform& platform, FileNumber& file_number, OutsideChanges& outside)
+    : documents_(documents), opener_(opener), platform_(platform), file_number_(file_number), outside_(outside) {}
 
 void Saver::SaveToPath(const std::string& path) {
   if (!MayWrite(path)) return;
@@ -14,6 +14,7 @@ void Saver::SaveToPath(const std::string& path) {
     const WriteOutcome outcome = Write(path, documents_.Text().Text());
     if (outcome.error != 0) return TellError(path, outcome);
     documents_.SetCurrentPath(path);
+    outside_.Note(platform_.Stamp(path));
     documents_.Target().Prime(path);
     documents_.ShowPathInTitle();
     opener_.RememberFile(path);
@@ -50,7 +51,9 @@ void Saver::SaveStandard() {
 
 void Saver::SaveFast() {
   const std::string path = documents_.CurrentPath();
-  const std::string question = "Opravdu uložit soubor?\r\n\"" + path + "\"";
+  std::string question = "Opravdu uložit soubor?\r\n\"" + path + "\"";
+  if (const OutsideChange change = outside_.OfCurrent(); change != OutsideChange::kNone)
+    question.append("\r\n").append(OutsideNotice(change)).append("!");
   if (platform_.Message(MessageType::kYesNoWarning, question, "Soubor") != Answer::kYes) return;
   SaveToPath(path);
 }

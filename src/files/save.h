@@ -11,7 +11,7 @@ namespace pelmar {
 
 class Saver {
  public:
-  Saver(Documents& documents, Opener& opener, Platform& platform, FileNumber& file_number);
+  Saver(Documents& documents, Opener& opener, Platform& platform, FileNumber& file_number, OutsideChanges& outside);
 
   // Saves the document and makes the path its file. Asks before it overwrites, and takes the text as it is when that is
   // answered; what fails is told, and steps already done stay done.
@@ -26,7 +26,7 @@ class Saver {
   // The system's save dialog, then SaveToPath.
   void SaveStandard();
 
-  // Saves to the current path after a question of its own.
+  // Saves to the current path after a question of its own, which says where another program was at the file.
   void SaveFast();
 
   // The system's open dialog, then the file's first field over the selection.
@@ -41,6 +41,7 @@ class Saver {
   Opener& opener_;
   Platform& platform_;
   FileNumber& file_number_;
+  OutsideChanges& outside_;
 };
 
 // The path that Ulož builds from its three fields; the dot is always there.

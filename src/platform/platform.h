@@ -44,6 +44,13 @@ struct WriteOutcome {
   std::string kept = {};
 };
 
+// Tells two contents that one path led to apart without reading them.
+struct FileStamp {
+  std::uint64_t device = 0, node = 0, size = 0;
+  std::int64_t changed = 0;  // nanoseconds since 1970
+  bool operator==(const FileStamp&) const = default;
+};
+
 struct KeyStates {
   bool caps = false;
   bool num = false;
@@ -141,6 +148,8 @@ class Platform {
   // once that is complete, and what it was until then.
   virtual WriteOutcome RewriteFile(const std::string& source, const std::string& target, OldTail tail,
                                    FileRewriter& rewriter) = 0;
+  // Nothing where the path leads to no file.
+  virtual std::optional<FileStamp> Stamp(const std::string& path) = 0;
   // True where both paths lead to the same file.
   virtual bool IsSameFile(const std::string& left, const std::string& right) = 0;
 

@@ -99,6 +99,12 @@ int ScriptedPlatform::WriteError(const std::string& path) const {
 
 bool ScriptedPlatform::CanRead(const std::string& path) { return ReadError(path) == 0; }
 
+std::optional<FileStamp> ScriptedPlatform::Stamp(const std::string& path) {
+  const auto found = files.find(path);
+  if (found == files.end()) return std::nullopt;
+  return FileStamp{.node = std::hash<std::string>()(found->second), .size = found->second.size()};
+}
+
 FileBytes ScriptedPlatform::ReadFile(const std::string& path, std::optional<std::uint64_t> limit) {
   if (const int error = ReadError(path)) return {.error = error, .bytes = {}};
   return {.error = 0, .bytes = files[path].substr(0, limit.value_or(std::string::npos))};

@@ -62,6 +62,8 @@ class ScriptedPlatform : public Platform {
   int ReadByPieces(const std::string& path, const std::function<bool(std::string_view piece)>& take) override;
   WriteOutcome RewriteFile(const std::string& source, const std::string& target, OldTail tail,
                            FileRewriter& rewriter) override;
+  // A file's stamp is its bytes', by a checksum.
+  std::optional<FileStamp> Stamp(const std::string& path) override;
   bool IsSameFile(const std::string& left, const std::string& right) override { return left == right; }
   std::string InstallFolder() override { return install_folder; }
   std::string ShareFolder() override { return share_folder; }

@@ -161,6 +161,15 @@ bool LeadToSameFile(const std::string& left, const std::string& right) {
   return stat(left.c_str(), &a) == 0 && stat(right.c_str(), &b) == 0 && a.st_dev == b.st_dev && a.st_ino == b.st_ino;
 }
 
+std::optional<FileStamp> StampOf(const std::string& path) {
+  struct stat found {};
+  if (stat(path.c_str(), &found) != 0) return std::nullopt;
+  return FileStamp{.device = found.st_dev,
+                   .node = found.st_ino,
+                   .size = static_cast<std::uint64_t>(found.st_size),
+                   .changed = found.st_mtim.tv_sec * std::int64_t{1'000'000'000} + found.st_mtim.tv_nsec};
+}
+
 int CreateFile(const std::string& path, std::string_view bytes) {
   Descriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
   if (!file.IsOpen()) return errno;

@@ -50,4 +50,6 @@ WriteOutcome RewriteFileByPieces(const std::string& source, const std::string& t
 // True where both paths lead to one file that is there.
 bool LeadToSameFile(const std::string& left, const std::string& right);
 
+std::optional<FileStamp> StampOf(const std::string& path);
+
 }  // namespace pelmar

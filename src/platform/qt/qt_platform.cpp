@@ -93,6 +93,8 @@ WriteOutcome QtPlatform::RewriteFile(const std::string& source, const std::strin
 
 bool QtPlatform::IsSameFile(const std::string& left, const std::string& right) { return LeadToSameFile(left, right); }
 
+std::optional<FileStamp> QtPlatform::Stamp(const std::string& path) { return StampOf(path); }
+
 // Beside the program in a build tree, in the share folder of its prefix where it is installed.
 std::string QtPlatform::ShareFolder() {
   const QString installed = QCoreApplication::applicationDirPath() + QStringLiteral("/../share/pelmar-vex/");

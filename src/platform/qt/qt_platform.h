@@ -39,6 +39,7 @@ class QtPlatform : public Platform {
   int ReadByPieces(const std::string& path, const std::function<bool(std::string_view piece)>& take) override;
   WriteOutcome RewriteFile(const std::string& source, const std::string& target, OldTail tail,
                            FileRewriter& rewriter) override;
+  std::optional<FileStamp> Stamp(const std::string& path) override;
   bool IsSameFile(const std::string& left, const std::string& right) override;
 
   std::string InstallFolder() override;

@@ -483,6 +483,9 @@ TEST(RewriteFileByPieces, AnOldTargetKeepsItsTailItsModeAndItsLink) {
   EXPECT_EQ(Content(target), "1\n2\n");
   EXPECT_TRUE(LeadToSameFile(target, folder.File("a.unx")));
   EXPECT_FALSE(LeadToSameFile(target, source));
+  EXPECT_EQ(StampOf(target), StampOf(folder.File("a.unx")));
+  EXPECT_NE(StampOf(target), StampOf(source));
+  EXPECT_EQ(StampOf(folder.File("none")), std::nullopt);
   EXPECT_FALSE(LeadToSameFile(folder.File("none"), folder.File("none")));
 }
 
