@@ -3,22 +3,13 @@
 #include <cstdlib>
 #include <filesystem>
 
-#include "accessories/windows/accessory_windows.h"
-#include "ciphers/windows/cipher_windows.h"
-#include "files/windows/file_windows.h"
-#include "html/dialogs/link_windows.h"
-#include "html/dialogs/page_windows.h"
-#include "html/dialogs/tag_windows.h"
-#include "html/windows/browser_windows.h"
 #include "platform/paths.h"
 #include "platform/qt/application.h"
 #include "platform/qt/convert.h"
 #include "platform/runtime_error.h"
 #include "program/commands.h"
 #include "shell/windows/config.h"
-#include "shell/windows/shell_windows.h"
 #include "shell/windows/start.h"
-#include "texttools/windows/text_windows.h"
 
 namespace pelmar {
 
@@ -57,7 +48,8 @@ void Program::AddWindows() {
   AddPageWindows(parts);
   AddLinkWindows(parts);
   AddCipherWindows(parts);
-  AddAccessoryWindows(parts);
+  AddToolWindows(parts);
+  AddNotesWindows(parts);
   AddTagWindows(parts);
   AddBrowserWindows(parts);
 }
