@@ -21,7 +21,7 @@ class RND_Sifra : public DialogWindow {
   Q_OBJECT
 
  public:
-  RND_Sifra(Editor& editor, Opener& opener, QWidget* parent);
+  RND_Sifra(Editor& editor, QWidget* parent);
   ~RND_Sifra() override;
 
  private:
