@@ -16,13 +16,13 @@ namespace pelmar {
 Program::Program(Platform& platform)
     : platform_(platform),
       editor_(platform),
-      main_(editor_, files_.opener),
+      main_(editor_, files_),
       session_(main_,
                {.show_config = [this] { windows_.Get<Config>().Run(); },
                 .show_main = [this] { main_.ShowMain(); },
                 .show_start = [this] { windows_.Get<Start>().Present(); },
                 .show_accessory = [this](StartMode mode) { ShowAccessory(mode); }},
-               editor_, files_.opener),
+               editor_, files_),
       rescue_(ModifiedDocuments(editor_.documents), platform),
       timer_(main_, editor_) {
   AddCommands(editor_, files_);

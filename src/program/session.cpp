@@ -20,12 +20,12 @@ constexpr std::int32_t kAutosnapDefault = 240;
 
 }  // namespace
 
-Session::Session(MainView& view, Doors doors, Editor& editor, Opener& opener)
+Session::Session(MainView& view, Doors doors, Editor& editor, Files& files)
     : view_(view),
       doors_(std::move(doors)),
       documents_(editor.documents),
       settings_(editor.settings),
-      opener_(opener),
+      files_(files),
       platform_(editor.platform),
       file_number_(editor.file_number) {}
 
@@ -35,7 +35,7 @@ void Session::Start(std::string_view tail) {
   documents_.ForgetFirstSlotsMark();
   LoadSettings();
   ApplySettingsDefaults(settings_);
-  if (opener_.on_recent_files) opener_.on_recent_files();
+  files_.recent.changed.Tell();
   view_.SetPlace({settings_.Left, settings_.Top, settings_.Width, settings_.Height});
   if (settings_.WindowState < 0 || settings_.WindowState > 2) settings_.WindowState = 0;
   view_.SetWindowState(settings_.WindowState);
@@ -49,7 +49,7 @@ void Session::Start(std::string_view tail) {
 
 void Session::LoadText() {
   const std::string path = InstallPath(kRecoveryName);
-  if (opener_.FileExists(path)) {
+  if (FileExists(file_number_, platform_, path)) {
     // A longer file is passed over in silence and stays where it is.
     FileBytes file = platform_.ReadFile(path, kLargestDocument + 1);
     if (file.error != 0) throw RuntimeError(file.error, "Soubor " + path + " nelze číst");
@@ -60,7 +60,7 @@ void Session::LoadText() {
 
 void Session::LoadSettings() {
   const std::string path = InstallPath(kSettingsName);
-  if (!opener_.FileExists(path)) return;
+  if (!FileExists(file_number_, platform_, path)) return;
   const FileBytes file = platform_.ReadFile(path, std::nullopt);
   if (file.error != 0) throw RuntimeError(file.error, "Soubor " + path + " nelze číst");
   settings_ = ReadSettings(file.bytes);
@@ -84,7 +84,7 @@ void Session::Act(std::string_view tail) {
   if (mode_ != StartMode::kEditor) return doors_.show_accessory(mode_);
   if (tail.empty() && settings_.ShowStart) return doors_.show_start();
   doors_.show_main();
-  if (!tail.empty() && upper != "-NOMSG") opener_.OpenPath(std::string(tail));
+  if (!tail.empty() && upper != "-NOMSG") files_.opener.OpenPath(std::string(tail));
 }
 
 bool Session::Close() {

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "files/open.h"
+#include "files/files.h"
 #include "shell/editor.h"
 #include "shell/main_view.h"
 #include "shell/stand_alone.h"
@@ -22,7 +22,7 @@ class Session {
     std::function<void()> show_start;  // instead of the main window
     std::function<void(StartMode)> show_accessory;
   };
-  Session(MainView& view, Doors doors, Editor& editor, Opener& opener);
+  Session(MainView& view, Doors doors, Editor& editor, Files& files);
 
   // The load of the main window, up to and including what the command tail asks for.
   void Start(std::string_view tail);
@@ -53,7 +53,7 @@ class Session {
   Doors doors_;
   Documents& documents_;
   SettingsRecord& settings_;
-  Opener& opener_;
+  Files& files_;
   Platform& platform_;
   FileNumber& file_number_;
   StartMode mode_ = StartMode::kEditor;

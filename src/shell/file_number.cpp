@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "platform/paths.h"
+
 namespace pelmar {
 namespace {
 
@@ -13,6 +15,11 @@ constexpr char kCantWrite[] = " nelze zapsat";
 constexpr char kCantOpen[] = " nelze otevřít";
 
 }  // namespace
+
+bool FileExists(const FileNumber& number, Platform& platform, const std::string& path) {
+  if (number.IsOpen()) return false;
+  return platform.CanRead(path.substr(0, path.size() - (EndsInSeparator(path) ? 1 : 0)));
+}
 
 std::string KeptNotice(const WriteOutcome& outcome) {
   return outcome.kept.empty() ? "" : "\r\nSoubor je poškozen, jeho původní obsah leží v " + outcome.kept;

@@ -33,11 +33,10 @@ struct Desk {
        .show_accessory =
            [this](StartMode mode) { view.calls.push_back("accessory " + std::to_string(static_cast<int>(mode))); }},
       editor,
-      editor.opener};
+      editor.files};
+  Listening recent{editor.files.recent.changed.Add([this] { view.calls.push_back("recent"); })};
 
-  explicit Desk(Platform& platform) : editor(platform) {
-    editor.opener.on_recent_files = [this] { view.calls.push_back("recent"); };
-  }
+  explicit Desk(Platform& platform) : editor(platform) {}
 };
 
 struct SessionTest : testing::Test {
