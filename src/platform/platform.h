@@ -130,9 +130,12 @@ class Platform {
   virtual std::optional<std::string> OpenDialog(std::string_view filter, int filter_index) = 0;
   virtual std::optional<std::string> SaveDialog(std::string_view filter, int filter_index) = 0;
 
-  // Plain text of the clipboard; "" where it holds none. A text that another program put there gets CR LF line breaks.
-  virtual std::string ClipboardText() = 0;
-  virtual bool ClipboardHasText() = 0;
+  // Plain text of the clipboard, nothing where it holds none; valid until the clipboard changes. A text that another
+  // program put there gets CR LF line breaks.
+  virtual const std::optional<std::string>& ClipboardContent() = 0;
+  std::string ClipboardText() { return ClipboardContent().value_or(std::string()); }
+  // Another number after each change.
+  virtual std::uint64_t ClipboardRevision() = 0;
   virtual void SetClipboardText(std::string_view text) = 0;
   virtual void ClearClipboard() = 0;
 

@@ -32,12 +32,9 @@ Program::Program(Platform& platform)
   AddWindows();
   main_.RefreshCommands();
   main_.may_close = [this] { return MayClose(); };
-  rescue_.on_failure = [this](int error) { main_.Bar().SetUnkept(error); };
-  editor_.text.OnChange([this](const TextChange&) { TouchRescue(); });
-  editor_.documents.on_title = [this, show = editor_.documents.on_title] {
-    show();
-    TouchRescue();
-  };
+  rescue_.on_failure = [this](int error) { main_.Bar().WarnOfUnkept(error); };
+  heard_ = {editor_.text.OnChange([this](const TextChange&) { TouchRescue(); }),
+            editor_.documents.title_changed.Add([this] { TouchRescue(); })};
 }
 
 void Program::AddWindows() {

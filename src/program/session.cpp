@@ -55,7 +55,7 @@ void Session::LoadText() {
     if (file.error != 0) throw RuntimeError(file.error, "Soubor " + path + " nelze číst");
     if (file.bytes.size() <= kLargestDocument) documents_.Text().SetText(std::move(file.bytes));
   }
-  if (documents_.Text().Empty() && platform_.ClipboardHasText()) documents_.Text().SetText(platform_.ClipboardText());
+  if (documents_.Text().Empty() && platform_.ClipboardContent()) documents_.Text().SetText(platform_.ClipboardText());
 }
 
 void Session::LoadSettings() {
@@ -128,8 +128,7 @@ std::string Session::InstallPath(std::string_view name) { return JoinPath(platfo
 std::string AllFilesText(const Documents& documents) {
   std::string text;
   for (int tab = 1; tab <= kTabCount; ++tab) {
-    const DocSlot& slot = documents.Slot(tab);
-    text += "Soubor:" + StoredPath(slot.Path) + "\r\n" + slot.Text + "\r\n\r\n";
+    text += "Soubor:" + StoredPath(documents.Slot(tab).Path) + "\r\n" + documents.TextOf(tab) + "\r\n\r\n";
   }
   return text;
 }

@@ -72,10 +72,6 @@ std::optional<std::string> ScriptedPlatform::SaveDialog(std::string_view filter,
   return Take(saves, calls.back());
 }
 
-std::string ScriptedPlatform::ClipboardText() { return clipboard.value_or(std::string()); }
-
-bool ScriptedPlatform::ClipboardHasText() { return clipboard.has_value(); }
-
 void ScriptedPlatform::SetClipboardText(std::string_view text) {
   calls.push_back("clipboard " + Quoted(text));
   clipboard = std::string(text);

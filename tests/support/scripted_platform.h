@@ -53,8 +53,8 @@ class ScriptedPlatform : public Platform {
                                       std::string_view initial) override;
   std::optional<std::string> OpenDialog(std::string_view filter, int filter_index) override;
   std::optional<std::string> SaveDialog(std::string_view filter, int filter_index) override;
-  std::string ClipboardText() override;
-  bool ClipboardHasText() override;
+  const std::optional<std::string>& ClipboardContent() override { return clipboard; }
+  std::uint64_t ClipboardRevision() override { return 1 + std::hash<std::optional<std::string>>()(clipboard) / 2; }
   void SetClipboardText(std::string_view text) override;
   void ClearClipboard() override;
   bool CanRead(const std::string& path) override;

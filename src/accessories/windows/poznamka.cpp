@@ -58,7 +58,7 @@ Poznamka::Poznamka(Surroundings around)
   record_ = stored_ = LoadNotes(around_.platform, around_.file_number);
   ShowPage(1);
   ConnectCommands();
-  ui_->Text1->Buffer().OnChange([this](const TextChange&) { keeper_.Touch(); });
+  changes_ = ui_->Text1->Buffer().OnChange([this](const TextChange&) { keeper_.Touch(); });
   ui_->Text1->setFocus();
   timer1_.setObjectName(QStringLiteral("Timer1"));
   timer1_.setInterval(kTick);

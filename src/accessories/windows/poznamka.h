@@ -79,6 +79,7 @@ class Poznamka : public QWidget {
   int tries_left_ = 0;            // how often the same place is asked for again
   int quiet_ticks_ = 0;
   RescueKeeper keeper_;
+  Listening changes_;
 };
 
 }  // namespace pelmar

@@ -2,6 +2,7 @@
 #include "files/windows/dir_setup.h"
 #include "files/windows/dos_unix_conv.h"
 #include "files/windows/otevri.h"
+#include "files/windows/outside_watch.h"
 #include "files/windows/uloz.h"
 #include "shell/windows/program_parts.h"
 
@@ -17,6 +18,7 @@ void AddFileWindows(const ProgramParts& parts) {
   parts.AddFilePicker<Uloz>();
   parts.AddFilePicker<Dos_Unix_conv>();
   AddPrintCommands(parts.editor, parts.main);
+  new OutsideWatch(parts.main, parts.editor, parts.files.outside);
 }
 
 }  // namespace pelmar

@@ -63,10 +63,6 @@ std::optional<std::string> QtPlatform::SaveDialog(std::string_view filter, int f
   return ToPath(AskForFile(FileDialogKind::kSave, Utf8ToQString(filter), filter_index, dialog_folder_));
 }
 
-std::string QtPlatform::ClipboardText() { return clipboard_.Text().value_or(std::string()); }
-
-bool QtPlatform::ClipboardHasText() { return clipboard_.Text().has_value(); }
-
 void QtPlatform::SetClipboardText(std::string_view text) { clipboard_.SetText(text); }
 
 void QtPlatform::ClearClipboard() { clipboard_.Clear(); }

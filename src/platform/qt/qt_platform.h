@@ -27,8 +27,8 @@ class QtPlatform : public Platform {
   std::optional<std::string> OpenDialog(std::string_view filter, int filter_index) override;
   std::optional<std::string> SaveDialog(std::string_view filter, int filter_index) override;
 
-  std::string ClipboardText() override;
-  bool ClipboardHasText() override;
+  const std::optional<std::string>& ClipboardContent() override { return clipboard_.Text(); }
+  std::uint64_t ClipboardRevision() override { return clipboard_.Revision(); }
   void SetClipboardText(std::string_view text) override;
   void ClearClipboard() override;
 

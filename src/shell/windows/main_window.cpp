@@ -114,11 +114,13 @@ void MainWindow::AddViewCommands() {
 }
 
 void MainWindow::FollowDocuments() {
-  editor_.documents.on_title = [this] { setWindowTitle(PlainTitle(editor_.documents.Title())); };
-  editor_.documents.on_face = [this](int tab) { tabs_->SetFace(tab, editor_.documents.Face(tab)); };
-  editor_.documents.on_selected = [this](int tab) { tabs_->setCurrentIndex(tab - 1); };
-  recent_files_ = files_.recent.changed.Add([this] { toolbar_->ShowRecentFiles(); });
-  editor_.documents.on_title();
+  Documents& documents = editor_.documents;
+  const auto show_title = [this] { setWindowTitle(PlainTitle(editor_.documents.Title())); };
+  heard_ = {documents.title_changed.Add(show_title),
+            documents.face_changed.Add([this](int tab) { tabs_->SetFace(tab, editor_.documents.Face(tab)); }),
+            documents.tab_selected.Add([this](int tab) { tabs_->setCurrentIndex(tab - 1); }),
+            files_.recent.changed.Add([this] { toolbar_->ShowRecentFiles(); })};
+  show_title();
 }
 
 void MainWindow::RefreshCommands() {
@@ -381,7 +383,7 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
   if (watched == client_ && event->type() == QEvent::Paint) FitToFrame();
   if (watched == text_ && event->type() == QEvent::KeyPress) {
     const auto now = [this] {
-      return ComputeMenuState(editor_.text, editor_.documents.CurrentPath(), editor_.platform.ClipboardText());
+      return ComputeMenuState(editor_.text, editor_.documents.CurrentPath(), editor_.platform.ClipboardContent());
     };
     if (menus_->RunGrey(*static_cast<QKeyEvent*>(event), now)) return true;
   }

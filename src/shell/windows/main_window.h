@@ -90,7 +90,7 @@ class MainWindow : public QMainWindow, public MainView {
 
   Editor& editor_;
   Files& files_;
-  Listening recent_files_;
+  std::vector<Listening> heard_;
   TextBuffer nothing_;  // what the box shows while the text is hidden
   QWidget* client_ = nullptr;
   MenuBar* menus_ = nullptr;

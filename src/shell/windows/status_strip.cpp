@@ -67,8 +67,9 @@ void StatusStrip::Show(const PanelTexts& texts) {
   panels_[0]->SetContent(texts.length);
   panels_[1]->SetContent(texts.position);
   panels_[2]->SetContent(texts.lines);
-  panels_[3]->SetContent(texts.content);
 }
+
+void StatusStrip::ShowContent(const std::string& text) { panels_[3]->SetContent(text); }
 
 void StatusStrip::Show(const KeyStates& keys) {
   ShowKey(4, keys.caps);
@@ -84,24 +85,22 @@ void StatusStrip::ShowKey(std::size_t at, bool on) {
   panel.setAccessibleName(kTips[at].toString() + (on ? QStringLiteral(" zapnuto") : QStringLiteral(" vypnuto")));
 }
 
-void StatusStrip::SetNotice(const QString& text) {
-  if (text == notice_) return;
-  notice_ = text;
-  ShowWarning();
-}
-
-void StatusStrip::SetUnkept(int error) {
-  unkept_ = error;
-  ShowWarning();
-}
-
-void StatusStrip::ShowWarning() {
-  const QString text = unkept_ != 0 ? QStringLiteral("Neuložená práce se teď nezachovává !") : notice_;
+void StatusStrip::Warn(Warning of, const QString& text, const QString& tip) {
+  auto& warning = warnings_[static_cast<std::size_t>(of)];
+  if (warning.text == text && warning.tip == tip) return;
+  warning = {text, tip};
+  const auto gravest = std::ranges::find_if(warnings_, [](const auto& one) { return !one.text.isEmpty(); });
   warning_->hide();
-  warning_->setText(text);
-  warning_->setToolTip(unkept_ != 0 ? UnkeptTip(unkept_) : text);
+  if (gravest == std::end(warnings_)) return;
+  warning_->setText(gravest->text);
+  warning_->setToolTip(gravest->tip.isEmpty() ? gravest->text : gravest->tip);
   PlaceWarning();
-  warning_->setVisible(!text.isEmpty());
+  warning_->show();
+}
+
+void StatusStrip::WarnOfUnkept(int error) {
+  if (error == 0) return Warn(Warning::kUnkept, {});
+  Warn(Warning::kUnkept, QStringLiteral("Neuložená práce se teď nezachovává !"), UnkeptTip(error));
 }
 
 void StatusStrip::SetWidth(int number, int twips) {

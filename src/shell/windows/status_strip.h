@@ -34,6 +34,11 @@ class StatusPanel : public ElidedLabel {
   std::string content_;
 };
 
+// What the bar warns of, the gravest first: unsaved work can't be kept in a rescue file; no file can be opened or
+// saved; another program was at the file of the document.
+enum class Warning { kUnkept, kFilesStuck, kChangedOutside };
+inline constexpr int kWarningCount = 3;
+
 class StatusStrip : public QStatusBar {
   Q_OBJECT
 
@@ -42,11 +47,13 @@ class StatusStrip : public QStatusBar {
 
   [[nodiscard]] StatusPanel* Panel(int number) const { return panels_[static_cast<std::size_t>(number - 1)]; }
   void Show(const PanelTexts& texts);
+  void ShowContent(const std::string& text);
   void Show(const KeyStates& keys);
-  // Two things to warn of, "" and 0 for none, in one line over the panels, which go on beneath: a notice, and before it
-  // the errno with which unsaved work can't be kept. From the fourth to the left, it covers as many as it needs.
-  void SetNotice(const QString& text);
-  void SetUnkept(int error);
+  // "" where there is no more to warn of. One line over the panels, which go on beneath, says the gravest; from the
+  // fourth to the left, it covers as many as it needs. The tip says what there is more to say.
+  void Warn(Warning of, const QString& text, const QString& tip = {});
+  // With the errno; 0 takes it away.
+  void WarnOfUnkept(int error);
 
   // Widths in twips, as the layout counts them.
   [[nodiscard]] std::array<int, kPanelCount> Widths() const { return widths_; }
@@ -66,8 +73,9 @@ class StatusStrip : public QStatusBar {
   std::array<StatusPanel*, kPanelCount> panels_{};
   std::array<int, kPanelCount> widths_{};
   WarningLabel* warning_ = nullptr;
-  QString notice_;
-  int unkept_ = 0;
+  struct {
+    QString text, tip;
+  } warnings_[kWarningCount];
 };
 
 }  // namespace pelmar

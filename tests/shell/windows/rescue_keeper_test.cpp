@@ -47,7 +47,7 @@ struct RescueKeeperTest : testing::Test {
 
 TEST_F(RescueKeeperTest, KeepsAChangeWithinTwoSecondsAndDropsItOnceSaved) {
   RescueKeeper keeper(ModifiedDocuments(documents), platform);
-  text.OnChange([&](const TextChange&) { keeper.Touch(); });
+  const Listening heard = text.OnChange([&](const TextChange&) { keeper.Touch(); });
   text.SetText("typed");
   ASSERT_TRUE(QTest::qWaitFor([&] { return !platform.calls.empty(); }, 2000));
   const std::string path = platform.calls[0].substr(6);
