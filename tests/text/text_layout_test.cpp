@@ -127,7 +127,9 @@ TEST(TextLayout, EveryStopIsFoundAgainWhereItIsShown) {
         const std::size_t row = laid.layout.RowOf(pos);
         if (pos > laid.layout.RowEnd(row)) continue;  // inside a CR LF
         const std::int64_t x = laid.layout.RowLeft(row) + laid.layout.XOf(row, pos);
-        ASSERT_EQ(PlaceInRow(laid.layout, row, x).pos, pos) << "wrap " << wrap;
+        const TextPlace place = PlaceInRow(laid.layout, row, x);
+        ASSERT_EQ(place.pos, pos) << "wrap " << wrap;
+        ASSERT_EQ(place.at_row_end, pos == laid.layout.RowEnd(row) && !laid.layout.EndsLine(row));
         ASSERT_EQ(laid.layout.CharAt(row, laid.layout.XOf(row, pos)), pos);
         ASSERT_LE(laid.layout.RowLeft(row) + laid.layout.RowWidth(row), laid.layout.ContentWidth());
       }
@@ -206,8 +208,13 @@ TEST(CaretMover, EndOfAWrappedRowShowsTheCaretOnThatRow) {
   Laid laid("abcdef", Rules(3));
   EXPECT_EQ(laid.Go(CaretMove::kRowEnd), 3u);
   EXPECT_EQ(laid.mover.Row(laid.buffer), 0u);
+  EXPECT_TRUE(PlaceInRow(laid.layout, 0, 40 * kUnitsPerPixel).at_row_end);
   EXPECT_EQ(laid.Go(CaretMove::kRowEnd), 3u);
   EXPECT_EQ(laid.Go(CaretMove::kRowStart), 0u);
+  laid.Go(CaretMove::kRowEnd);
+  laid.mover.Forget();
+  EXPECT_EQ(laid.mover.Row(laid.buffer), 1u);
+  laid.Go(CaretMove::kUp);
   laid.Go(CaretMove::kRowEnd);
   EXPECT_EQ(laid.Go(CaretMove::kDown), 6u);  // the aim is the row's end
   laid.Go(CaretMove::kRowStart);
