@@ -144,7 +144,9 @@ TEST_F(SearchTest, PrimitiveFindAsksItsWayThroughTheLiveText) {
 
 TEST_F(SearchTest, ReplaceStepsAndReadsItsReplacementAgain) {
   Text("a a a");
+  replacer.step_on = true;
   replacer.Load();
+  EXPECT_FALSE(replacer.step_on);
   replacer.find = "a";
   replacer.change = "ba";
   EXPECT_TRUE(replacer.Start());
@@ -182,7 +184,8 @@ TEST_F(SearchTest, ReplaceWithoutCaseKeepsTheHistoryAsTyped) {
   EXPECT_EQ(Selection(), (Range{5, 3}));
   replacer.ReplaceAll();  // required: the folded term misses the lower-case occurrence
   EXPECT_EQ(text.Text(), "voda čaj"_w);
-  EXPECT_FALSE(replacer.all_on || replacer.case_on);
+  EXPECT_TRUE(replacer.find_on && replacer.lists_on && replacer.change_on);
+  EXPECT_FALSE(replacer.all_on || replacer.case_on || replacer.step_on);
   EXPECT_EQ(replacer.found_shown, std::nullopt);
   replacer.PickRow(0);
   EXPECT_EQ(replacer.find, "čaj"_w);
