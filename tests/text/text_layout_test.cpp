@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "text/caret_mover.h"
-#include "text/caret_moves.h"
 #include "text/codepage.h"
+#include "text/text_stops.h"
 
 namespace pelmar {
 namespace {
@@ -173,7 +173,7 @@ TEST(TextLayout, AlignsRowsInTheWindowOrInTheWidestRow) {
   EXPECT_EQ(laid.layout.RowLeft(1), 20 * kUnitsPerPixel);
 }
 
-TEST(CaretMoves, StepsAndWords) {
+TEST(TextStops, StepsAndWords) {
   const std::string text = "ab, c\r\n\r\n  d\re\xE8";  // è of the page's own: a letter
   const std::vector<std::size_t> steps{0, 1, 2, 3, 4, 5, 7, 9, 10, 11, 12, 13, 14, 15};
   std::vector<std::size_t> seen{0};
