@@ -8,8 +8,8 @@
 
 #include "support/random_source.h"
 #include "text/caret_mover.h"
-#include "text/caret_moves.h"
 #include "text/codepage.h"
+#include "text/text_stops.h"
 
 namespace pelmar {
 namespace {
@@ -161,7 +161,7 @@ std::vector<std::size_t> Walk(std::string_view text, std::size_t from, std::size
   return seen;
 }
 
-TEST(CaretMoves, StepsAndWords) {
+TEST(TextStops, StepsAndWords) {
   using Stops = std::vector<std::size_t>;
   const std::string text = "ab, c\r\n\r\n  d\re\xE8";  // è of the page's own: a letter
   Stops steps = Walk(text, 0, text.size(), NextStop);

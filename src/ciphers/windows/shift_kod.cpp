@@ -1,8 +1,8 @@
 #include "ciphers/windows/shift_kod.h"
 
 #include "ciphers/shift.h"
-#include "platform/draw.h"
 #include "platform/qt/convert.h"
+#include "platform/random.h"
 #include "text/insert.h"
 #include "ui_shift_kod.h"
 
