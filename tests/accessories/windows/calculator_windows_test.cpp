@@ -12,16 +12,12 @@
 #include "accessories/windows/prev.h"
 #include "platform/qt/controls/text_box.h"
 #include "program/program.h"
+#include "support/controls.h"
 #include "support/scripted_platform.h"
 
 namespace pelmar {
 namespace {
 
-template <class Type>
-Type* Find(const QWidget& window, const char* name) {
-  return window.findChild<Type*>(QLatin1String(name));
-}
-void Click(const QWidget& window, const char* name) { Find<QAbstractButton>(window, name)->click(); }
 QString Field(const QWidget& window, const char* name) { return Find<QLineEdit>(window, name)->text(); }
 
 struct KalkulTest : testing::Test {
