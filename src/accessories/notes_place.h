@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "platform/twips.h"
-#include "shell/main_view.h"
+#include "shell/stand_alone.h"
 
 namespace pelmar {
 

@@ -11,10 +11,12 @@ namespace pelmar {
 struct Files {
   // The editor outlives them.
   explicit Files(Editor& editor)
-      : outside(editor.documents, editor.platform),
-        opener(editor.documents, editor.settings, editor.platform, editor.file_number, outside),
-        saver(editor.documents, opener, editor.platform, editor.file_number, outside) {}
+      : recent(editor.settings, editor.platform),
+        outside(editor.documents, editor.platform),
+        opener(editor.documents, recent, outside, editor.platform, editor.file_number),
+        saver(editor.documents, recent, outside, editor.platform, editor.file_number) {}
 
+  RecentFiles recent;
   OutsideChanges outside;
   Opener opener;
   Saver saver;

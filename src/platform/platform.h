@@ -1,7 +1,11 @@
 // All that the program asks of the system, behind one interface. The program's answer is Qt's (platform/qt); tests
 // answer from a script. Messages and titles are UTF-8, texts of documents and the clipboard are Windows-1250. A path is
-// the bytes that the system gave, UTF-8 as a rule; in a message it shows as well where it isn't. No function throws
-// unless it says so; failures come back as values.
+// the bytes that the system gave, UTF-8 as a rule; in a message it shows as well where it isn't.
+//
+// How failures are told: a call that touches a file gives an errno, 0 for none, alone or as the `error` of what else it
+// gives; one whose failure has no reason that matters gives a bool or an optional. No call throws. RuntimeError is
+// thrown above, where a command can't go on (shell/file_number.h has the common cases), and caught only by commands
+// that end in silence or have a message of their own; what nobody catches ends the program, with its documents kept.
 #pragma once
 
 #include <cstdint>
@@ -138,8 +142,8 @@ class Platform {
   virtual bool CanRead(const std::string& path) = 0;  // opens for reading; false for a folder
   virtual FileBytes ReadFile(const std::string& path, std::optional<std::uint64_t> limit) = 0;
   virtual WriteOutcome WriteDocument(const std::string& path, std::string_view bytes) = 0;
-  // The same for files of the program's own. 0 or errno.
-  int WriteFile(const std::string& path, std::string_view bytes) { return WriteDocument(path, bytes).error; }
+  // The same for what is put on the disk unasked: where the file is new, only its owner can read it. 0 or errno.
+  virtual int WritePrivateFile(const std::string& path, std::string_view bytes) = 0;
   // A file that only its owner can read. EEXIST where anything has that name already, links that lead nowhere included.
   virtual int WriteNewFile(const std::string& path, std::string_view bytes) = 0;  // 0 or errno
   // Hands a file to `take` piece by piece, until that returns false. 0 or errno.

@@ -16,8 +16,13 @@ namespace pelmar {
 Program::Program(Platform& platform)
     : platform_(platform),
       editor_(platform),
-      main_(editor_, files_.opener),
-      session_(main_, editor_.documents, editor_.settings, files_.opener, platform, editor_.file_number),
+      main_(editor_, files_),
+      session_(main_,
+               {.show_config = [this] { windows_.Get<Config>().Run(); },
+                .show_main = [this] { main_.ShowMain(); },
+                .show_start = [this] { windows_.Get<Start>().Present(); },
+                .show_accessory = [this](StartMode mode) { ShowAccessory(mode); }},
+               editor_, files_),
       rescue_(ModifiedDocuments(editor_.documents), platform),
       timer_(main_, editor_) {
   AddCommands(editor_, files_);
@@ -27,10 +32,7 @@ Program::Program(Platform& platform)
   AddWindows();
   main_.RefreshCommands();
   main_.may_close = [this] { return MayClose(); };
-  main_.show_config = [this] { windows_.Get<Config>().Run(); };
-  main_.show_accessory = [this](StartMode mode) { ShowAccessory(mode); };
-  main_.show_start = [this] { windows_.Get<Start>().Present(); };
-  rescue_.on_failure = [this](int error) { main_.Bar().ShowUnkept(error); };
+  rescue_.on_failure = [this](int error) { main_.Bar().SetUnkept(error); };
   editor_.text.OnChange([this](const TextChange&) { TouchRescue(); });
   editor_.documents.on_title = [this, show = editor_.documents.on_title] {
     show();

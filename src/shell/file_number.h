@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cerrno>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -38,10 +39,19 @@ class OpenNumber {
   FileNumber& number_;
 };
 
+// True when the path opens for reading. required: while the number is stuck nothing is found, so that every later
+// operation fails until the next start; the test may not set it free.
+bool FileExists(const FileNumber& number, Platform& platform, const std::string& path);
+
 // What a person has to know of a failed write beside its error: a line behind a message, "" as a rule.
 std::string KeptNotice(const WriteOutcome& outcome);
 
-// Writes a file on the number. Throws RuntimeError where that fails.
+// Files of the program's own, on the number. All throw RuntimeError where a step fails.
 void WriteFileOn(FileNumber& number, Platform& platform, const std::string& path, std::string_view bytes);
+// Over the start of a file that isn't cut: the tail of a longer old one stays behind the record. What can't be read
+// isn't written over.
+void WriteRecordOn(FileNumber& number, Platform& platform, const std::string& path, std::string record);
+// The first bytes of a file, which is made, empty, where it is missing.
+std::string ReadOrMakeOn(FileNumber& number, Platform& platform, const std::string& path, std::uint64_t limit);
 
 }  // namespace pelmar

@@ -7,6 +7,7 @@
 #include <deque>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -29,6 +30,7 @@ class ScriptedPlatform : public Platform {
   std::deque<std::optional<std::string>> inputs, opens, saves;
 
   std::map<std::string, std::string> files;
+  std::set<std::string> private_files;
   std::map<std::string, int> read_errors, write_errors;  // errno by path
   std::string kept_content;                              // what failed writes tell of the old content
   std::function<void()> on_message;                      // called while a message is on show
@@ -58,6 +60,10 @@ class ScriptedPlatform : public Platform {
   bool CanRead(const std::string& path) override;
   FileBytes ReadFile(const std::string& path, std::optional<std::uint64_t> limit) override;
   WriteOutcome WriteDocument(const std::string& path, std::string_view bytes) override;
+  int WritePrivateFile(const std::string& path, std::string_view bytes) override {
+    private_files.insert(path);
+    return WriteDocument(path, bytes).error;
+  }
   int WriteNewFile(const std::string& path, std::string_view bytes) override;
   int ReadByPieces(const std::string& path, const std::function<bool(std::string_view piece)>& take) override;
   WriteOutcome RewriteFile(const std::string& source, const std::string& target, OldTail tail,

@@ -11,7 +11,7 @@
 #include "platform/qt/svg_icon.h"
 #include "platform/twips.h"
 #include "shell/stand_alone.h"
-#include "shell/windows/unkept_label.h"
+#include "shell/windows/warning_label.h"
 #include "ui_poznamka.h"
 
 namespace pelmar {
@@ -78,11 +78,12 @@ void Poznamka::ConnectCommands() {
   connect(ui_->Close, &QAction::triggered, this, &Poznamka::close);
   connect(ui_->TabStrip1, &QTabBar::currentChanged, this, &Poznamka::TabStrip1_Click);
   AddTabKeys(*this, *ui_->TabStrip1);
-  auto* unkept = new UnkeptLabel(QStringLiteral("Nezachovává se !"), ui_->Toolbar1);
+  auto* unkept = new WarningLabel(ui_->Toolbar1);
+  unkept->setText(QStringLiteral("Nezachovává se !"));
   QAction* warning = ui_->Toolbar1->addWidget(unkept);
   warning->setVisible(false);
   keeper_.on_failure = [unkept, warning](int error) {
-    unkept->SetError(error);
+    unkept->setToolTip(UnkeptTip(error));
     warning->setVisible(error != 0);
   };
 }

@@ -24,7 +24,7 @@ void AddCipherWindows(const ProgramParts& parts) {
   parts.Add<ZaKod>({"mnucode"}, text, platform, selected_tab);
   parts.Add<ShiftKod>({"mnu_encrypt_shift"}, text, platform);
   parts.Add<Confeld>({"Mnu_Encrypt_Confeld"}, text, platform);
-  parts.Add<RND_Sifra>({"mnu_rnd_encrypt"}, std::ref(parts.editor), std::ref(parts.files.opener));
+  parts.Add<RND_Sifra>({"mnu_rnd_encrypt"}, std::ref(parts.editor));
   parts.Add<CHT>({"Mnu_Hack_cry"}, text, platform);
   parts.Add<Shift>({}, text);
   parts.editor.commands.Add("MnuSelTextPosun", [parts] { RotateSelection(parts); });

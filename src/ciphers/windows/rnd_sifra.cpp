@@ -20,11 +20,11 @@ void ShowOnly(QListWidget& list, const std::vector<std::string>& rows) {
 
 }  // namespace
 
-RND_Sifra::RND_Sifra(Editor& editor, Opener& opener, QWidget* parent)
+RND_Sifra::RND_Sifra(Editor& editor, QWidget* parent)
     : FormDialog(parent),
       document_(editor.text),
       platform_(editor.platform),
-      files_(editor.platform, opener, editor.file_number) {
+      files_(editor.platform, editor.file_number) {
   for (QListWidget* list : {ui_->List1, ui_->List2}) ShowRowsOnOneLine(*list);  // a table may be any file
   connect(ui_->Command1, &QPushButton::clicked, this,
           [this] { ui_->Text1->Buffer().SetText(PrepareText(document_.Text())); });

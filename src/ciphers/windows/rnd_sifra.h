@@ -5,6 +5,7 @@
 #include "ciphers/rnd_cipher.h"
 #include "ciphers/table_file.h"
 #include "platform/qt/controls/dialog_window.h"
+#include "text/text_buffer.h"
 
 namespace Ui {
 class RND_Sifra;
@@ -19,7 +20,7 @@ class RND_Sifra : public FormDialog<Ui::RND_Sifra> {
   Q_OBJECT
 
  public:
-  RND_Sifra(Editor& editor, Opener& opener, QWidget* parent);
+  RND_Sifra(Editor& editor, QWidget* parent);
 
  private:
   void Command2_Click();

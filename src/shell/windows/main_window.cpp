@@ -50,8 +50,8 @@ std::string ListOf(const std::vector<std::string>& paths) {
 
 }  // namespace
 
-MainWindow::MainWindow(Editor& editor, Opener& opener)
-    : editor_(editor), opener_(opener), placement_(*this, [this](const TwipsRect& now) { return Wanted(now); }) {
+MainWindow::MainWindow(Editor& editor, Files& files)
+    : editor_(editor), files_(files), placement_(*this, [this](const TwipsRect& now) { return Wanted(now); }) {
   setObjectName(QStringLiteral("Main"));
   setProperty(kTagProperty, QLatin1String(kAutosnapTag));
   setAcceptDrops(true);
@@ -69,7 +69,7 @@ void MainWindow::MakeControls() {
   client_ = new QWidget(this);
   setCentralWidget(client_);
   client_->installEventFilter(this);
-  toolbar_ = new MainToolbar(editor_.commands, opener_, client_);
+  toolbar_ = new MainToolbar(editor_.commands, files_, client_);
   toolbar_->setAccessibleName(QStringLiteral("Panel nástrojů"));
   tabs_ = new FileTab(client_);
   text_ = new TextBox(client_);
@@ -117,7 +117,7 @@ void MainWindow::FollowDocuments() {
   editor_.documents.on_title = [this] { setWindowTitle(PlainTitle(editor_.documents.Title())); };
   editor_.documents.on_face = [this](int tab) { tabs_->SetFace(tab, editor_.documents.Face(tab)); };
   editor_.documents.on_selected = [this](int tab) { tabs_->setCurrentIndex(tab - 1); };
-  opener_.on_recent_files = [this] { ShowRecentFiles(); };
+  recent_files_ = files_.recent.changed.Add([this] { toolbar_->ShowRecentFiles(); });
   editor_.documents.on_title();
 }
 
@@ -309,29 +309,11 @@ EditorLook MainWindow::Look() const {
           font.italic()};
 }
 
-void MainWindow::ShowRecentFiles() { toolbar_->ShowRecentFiles(); }
-
-void MainWindow::ShowConfig() {
-  if (show_config) show_config();
-}
-
 void MainWindow::ShowMain() {
   if (isVisible()) return BringToFront(*this);
   if (window_state_ == 1) return showMinimized();
   if (window_state_ == 2) return showMaximized();
   show();
-}
-
-void MainWindow::ShowStart() {
-  if (!show_start) return ShowMain();
-  hide();
-  show_start();
-}
-
-void MainWindow::ShowAccessory(StartMode mode) {
-  accessory_mode_ = true;
-  hide();
-  if (show_accessory) show_accessory(mode);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
@@ -369,12 +351,12 @@ void MainWindow::OpenDropped(std::vector<std::string> paths) {
     return;
   // The first one takes the place of the current document, as a single one does; the others lose nobody anything.
   auto path = paths.begin();
-  opener_.OpenPath(*path);
+  files_.opener.OpenPath(*path);
   while (++path != paths.end()) {
     const int tab = editor_.documents.EmptyTab();
     if (tab == 0) return Tell("Není volná záložka, neotevřeny zůstaly soubory:" + ListOf({path, paths.end()}));
     editor_.documents.SwitchTo(tab);
-    opener_.OpenPath(*path);
+    files_.opener.OpenPath(*path);
   }
 }
 
@@ -388,7 +370,7 @@ void MainWindow::changeEvent(QEvent* event) {
 bool MainWindow::event(QEvent* event) {
   if (event->type() == QEvent::WindowActivate) {
     main_active_ = true;
-    if (!accessory_mode_) text_->setFocus();
+    if (isVisible()) text_->setFocus();  // an accessory that runs as the whole program has it hidden
   }
   if (event->type() == QEvent::WindowDeactivate) main_active_ = false;
   return QMainWindow::event(event);

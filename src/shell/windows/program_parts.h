@@ -15,6 +15,7 @@
 #include "platform/platform.h"
 #include "platform/qt/controls/file_browser.h"
 #include "shell/editor.h"
+#include "shell/stand_alone.h"
 #include "shell/windows/main_window.h"
 #include "shell/windows/window_registry.h"
 

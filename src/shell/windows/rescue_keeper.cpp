@@ -34,7 +34,7 @@ RescueKeeper::RescueKeeper(RescueContent content, Platform& platform)
     : content_(std::move(content)),
       platform_(platform),
       store_(platform.InstallFolder(), content_.kind.prefix,
-             [&platform](const std::string& path, std::string_view bytes) { return platform.WriteFile(path, bytes); }),
+             [&platform](const auto& path, std::string_view bytes) { return platform.WritePrivateFile(path, bytes); }),
       pause_(kDelay) {
   writer_.setMaxThreadCount(1);
   timer_.setSingleShot(true);
@@ -96,7 +96,7 @@ void RescueKeeper::TellFailure(int error) {
 // What came back has just been written; the old files go as soon as the rest lies on the disk as well.
 void RescueKeeper::Settle() {
   if (!owed_.rest.empty()) {
-    if (platform_.WriteFile(JoinPath(platform_.InstallFolder(), content_.rest_name), owed_.rest) != 0) return;
+    if (platform_.WritePrivateFile(JoinPath(platform_.InstallFolder(), content_.rest_name), owed_.rest) != 0) return;
     owed_.rest.clear();
   }
   for (AbandonedRescue& rescue : owed_.files) Discard(rescue);

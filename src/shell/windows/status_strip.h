@@ -9,7 +9,7 @@
 #include "platform/qt/controls/elided_label.h"
 #include "shell/status.h"
 #include "shell/window_geometry.h"
-#include "shell/windows/unkept_label.h"
+#include "shell/windows/warning_label.h"
 
 namespace pelmar {
 
@@ -43,12 +43,10 @@ class StatusStrip : public QStatusBar {
   [[nodiscard]] StatusPanel* Panel(int number) const { return panels_[static_cast<std::size_t>(number - 1)]; }
   void Show(const PanelTexts& texts);
   void Show(const KeyStates& keys);
-  // With an errno, the warning lies over the panels from the fourth on, which go on beneath; 0 takes it away.
-  void ShowUnkept(int error);
-
-  // A line over the panels for as long as it isn't empty; what they show stays as it is. From the fourth to the left,
-  // it covers as many as it needs.
+  // Two things to warn of, "" and 0 for none, in one line over the panels, which go on beneath: a notice, and before it
+  // the errno with which unsaved work can't be kept. From the fourth to the left, it covers as many as it needs.
   void SetNotice(const QString& text);
+  void SetUnkept(int error);
 
   // Widths in twips, as the layout counts them.
   [[nodiscard]] std::array<int, kPanelCount> Widths() const { return widths_; }
@@ -62,12 +60,14 @@ class StatusStrip : public QStatusBar {
  private:
   void Place();
   void ShowKey(std::size_t at, bool on);
-  void PlaceNotice();
+  void ShowWarning();
+  void PlaceWarning();
 
   std::array<StatusPanel*, kPanelCount> panels_{};
-  UnkeptLabel* unkept_ = nullptr;
   std::array<int, kPanelCount> widths_{};
-  ElidedLabel* notice_;
+  WarningLabel* warning_ = nullptr;
+  QString notice_;
+  int unkept_ = 0;
 };
 
 }  // namespace pelmar
