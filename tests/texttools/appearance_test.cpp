@@ -67,6 +67,17 @@ TEST_F(AppearanceTest, DosAndBasicLook) {
   EXPECT_EQ(view.place.width, 9210);
 }
 
+TEST(Visual, ALookWithoutAFontLeavesTheFont) {
+  PlainView view;
+  view.look = {"Terminal", 1, 2, 12, false, true};
+  ApplyLook(view, {"", 3, 4, 11, true, false});
+  EXPECT_EQ(view.calls, (std::vector<std::string>{"bold", "italic", "bold mark", "no italic mark", "colors", "size"}));
+  EXPECT_EQ(view.look.font_name, "Terminal");
+  EXPECT_EQ(view.look.font_size, 8);  // a size outside the six
+  ApplyLook(view, {"Courier New"});
+  EXPECT_EQ(view.look.font_name, "Courier New");
+}
+
 TEST(Visual, SizeField) {
   const struct {
     std::string_view typed;

@@ -25,12 +25,12 @@ struct SearchTest : testing::Test {
 using Range = std::pair<std::size_t, std::size_t>;
 
 TEST(FindFrom, EmptyTermsAndBorders) {
-  EXPECT_EQ(FindFrom("abab", "ab", 1), 1u);
-  EXPECT_EQ(FindFrom("abab", "ab", 2), 3u);
-  EXPECT_EQ(FindFrom("abab", "ab", 5), 0u);
-  EXPECT_EQ(FindFrom("ab", "", 2), 2u);
-  EXPECT_EQ(FindFrom("ab", "", 3), 0u);
-  EXPECT_EQ(FindFrom("", "", 1), 0u);
+  EXPECT_EQ(FindFrom("abab", "ab", 0), 0u);
+  EXPECT_EQ(FindFrom("abab", "ab", 1), 2u);
+  for (const std::size_t from : {3u, 4u, 5u}) EXPECT_EQ(FindFrom("abab", "ab", from), std::nullopt);
+  EXPECT_EQ(FindFrom("ab", "", 1), 1u);
+  EXPECT_EQ(FindFrom("ab", "", 2), std::nullopt);
+  EXPECT_EQ(FindFrom("", "", 0), std::nullopt);
 }
 
 TEST_F(SearchTest, FindStepsThroughOverlappingMatches) {
