@@ -1,7 +1,8 @@
 #include "shell/window_geometry.h"
-#include "platform/twips.h"
 
 #include <gtest/gtest.h>
+
+#include "platform/twips.h"
 
 namespace pelmar {
 namespace {
@@ -61,20 +62,18 @@ LayoutInput Window() {
 }
 
 TEST(Layout, FollowsTheBarsThatAreVisible) {
-  LayoutResult out = ComputeLayout(Window());
-  EXPECT_EQ(out.text_width, 11540);
-  EXPECT_EQ(out.tabs_width, 11900);
-  EXPECT_EQ(out.text_top, 500);
-  EXPECT_EQ(out.text_height, 7210);
-  EXPECT_EQ(out.panel4_width, 7080);
-  EXPECT_EQ(out.grow_outer_height, 0);
-  LayoutInput bare = Window();
-  bare.toolbar_visible = bare.bar_visible = bare.tabs_visible = false;
-  out = ComputeLayout(bare);
-  EXPECT_EQ(out.text_width, 11900);
-  EXPECT_EQ(out.tabs_width, std::nullopt);
-  EXPECT_EQ(out.text_top, 0);
-  EXPECT_EQ(out.text_height, 8010);
+  LayoutInput in = Window();
+  EXPECT_EQ(ComputeLayout(in).text_width, 11540);
+  EXPECT_EQ(ComputeLayout(in).tabs_width, 11900);
+  EXPECT_EQ(ComputeLayout(in).text_top, 500);
+  EXPECT_EQ(ComputeLayout(in).text_height, 7210);
+  EXPECT_EQ(ComputeLayout(in).panel4_width, 7080);
+  EXPECT_EQ(ComputeLayout(in).grow_outer_height, 0);
+  in.toolbar_visible = in.bar_visible = in.tabs_visible = false;
+  EXPECT_EQ(ComputeLayout(in).text_width, 11900);
+  EXPECT_EQ(ComputeLayout(in).tabs_width, std::nullopt);
+  EXPECT_EQ(ComputeLayout(in).text_top, 0);
+  EXPECT_EQ(ComputeLayout(in).text_height, 8010);
 }
 
 TEST(Layout, KeepsRoomForItsBars) {
