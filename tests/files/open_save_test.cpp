@@ -3,6 +3,7 @@
 #include <cerrno>
 
 #include "platform/runtime_error.h"
+#include "support/document_state.h"
 #include "support/scripted_platform.h"
 #include "support/whole_editor.h"
 #include "text/codepage.h"
@@ -31,10 +32,7 @@ TEST_F(FilesTest, OpenPutsTheFileIntoTheCurrentTab) {
   platform.files["/a/p\xC5\x99.html"] = "x\0\xFFy"s;
   editor.opener.OpenPath("/a/p\xC5\x99.html");
   EXPECT_EQ(Text(), "x\0\xFFy"s);
-  EXPECT_EQ(documents.Title(), "Pelmar VEX (/a/př.html)");
-  EXPECT_EQ(documents.Face(1).Caption, "př.html");
-  EXPECT_EQ(documents.Slot(1).Path, "/a/př.html");
-  EXPECT_EQ(documents.UnsavedCount(), 0);
+  EXPECT_EQ(StateOf(documents), "(/a/př.html)|př.html|/a/př.html|/a/př.html|0");
   EXPECT_EQ(documents.Target().Path(), "/a/př.html");
   EXPECT_EQ(editor.settings.RecentFiles[0], "/a/př.html");
   EXPECT_EQ(platform.TakeCalls(), (Calls{"recent /a/př.html"}));
@@ -61,22 +59,22 @@ TEST_F(FilesTest, TheLimitIsExactAndWhatCantBeReadIsNotFound) {
 }
 
 TEST_F(FilesTest, RecentFilesMoveToTheHead) {
-  for (int i = 1; i <= 11; ++i) editor.files.recent.PushRecentFile("/f" + std::to_string(i) + ".txt");
-  EXPECT_EQ(editor.settings.RecentFiles[0], "/f11.txt");
-  EXPECT_EQ(editor.settings.RecentFiles[9], "/f2.txt");  // the first fell out
+  RecentFiles& recent = editor.files.recent;
+  const auto listed = [&recent] {
+    std::string items;
+    for (int i = 1; i <= 10; ++i) items += recent.ItemText(i) + ' ';
+    return items;
+  };
+  for (int i = 1; i <= 11; ++i) recent.PushRecentFile("/" + std::to_string(i));  // the first falls out
+  EXPECT_EQ(listed(), "&0 /11 &1 /10 &2 /9 &3 /8 &4 /7 &5 /6 &6 /5 &7 /4 &8 /3 &9 /2 ");
   int shown = 0;
-  const Listening heard = editor.files.recent.changed.Add([&] { ++shown; });
-  editor.files.recent.PushRecentFile("/f7.txt");  // entry 5
-  EXPECT_EQ(editor.settings.RecentFiles[0], "/f7.txt");
-  EXPECT_EQ(editor.settings.RecentFiles[4], "/f8.txt");
-  EXPECT_EQ(editor.settings.RecentFiles[5], "/f6.txt");
-  editor.files.recent.PushRecentFile("/f7.txt");
-  editor.files.recent.PushRecentFile("");
+  const Listening heard = recent.changed.Add([&] { ++shown; });
+  for (const char* path : {"/7", "/7", ""}) recent.PushRecentFile(path);
+  EXPECT_EQ(listed(), "&0 /7 &1 /11 &2 /10 &3 /9 &4 /8 &5 /6 &6 /5 &7 /4 &8 /3 &9 /2 ");
   EXPECT_EQ(shown, 1);
-  EXPECT_EQ(editor.files.recent.ItemText(1), "&0 /f7.txt");
-  EXPECT_EQ(editor.files.recent.ItemText(10), "&9 /f2.txt");
-  editor.files.recent.PushRecentFile("/F7.txt");  // case counts
-  EXPECT_EQ(editor.settings.RecentFiles[1], "/f7.txt");
+  recent.PushRecentFile("/a");
+  recent.PushRecentFile("/A");  // case counts
+  EXPECT_TRUE(listed().starts_with("&0 /A &1 /a &2 /7 "));
 }
 
 TEST_F(FilesTest, RecentButtonOpensTheSecondEntry) {
@@ -96,8 +94,7 @@ TEST_F(FilesTest, ANameWithoutDotFromTheMenuStopsHalfWay) {
   EXPECT_EQ(Said("mnu_open_st", {}), "open \"" + std::string(kDocumentFilter) + "\" 2");
   EXPECT_EQ(Text(), "readme");
   EXPECT_EQ(documents.CurrentPath(), "/a/README");
-  EXPECT_EQ(documents.Title(), "Pelmar VEX ()*");
-  EXPECT_EQ(documents.Face(1).ToolTipText, "");
+  EXPECT_EQ(StateOf(documents), "()*|||/a/README|1");
   EXPECT_EQ(editor.settings.RecentFiles[0], "");
   platform.answers = {Answer::kOk, Answer::kOk};
   editor.opener.OpenPath("/a/b.txt");
@@ -128,10 +125,8 @@ TEST_F(FilesTest, SaveAdoptsThePath) {
   editor.saver.SaveToPath("/a/x.y.txt");
   EXPECT_EQ(platform.TakeCalls(), (Calls{"write /a/x.y.txt", "recent /a/x.y.txt"}));
   EXPECT_EQ(platform.files["/a/x.y.txt"], "new\r\n");
-  EXPECT_EQ(documents.Title(), "Pelmar VEX (/a/x.y.txt)");
-  EXPECT_EQ(documents.Face(1).Caption, "x.y.txt");
+  EXPECT_EQ(StateOf(documents), "(/a/x.y.txt)|x.y.txt|/a/x.y.txt|/a/x.y.txt|0");
   EXPECT_EQ(documents.Target().Name(), "x.y");
-  EXPECT_EQ(documents.UnsavedCount(), 0);
 }
 
 TEST_F(FilesTest, SaveAsksBeforeItOverwrites) {
@@ -199,8 +194,7 @@ TEST_F(FilesTest, SavingANameWithoutDotFailsHalfWay) {
   editor.saver.SaveToPath("/README");
   EXPECT_EQ(platform.files["/README"], "new");
   EXPECT_EQ(documents.CurrentPath(), "/README");
-  EXPECT_EQ(documents.Title(), "Pelmar VEX ()*");
-  EXPECT_EQ(documents.Face(1).Caption, "");
+  EXPECT_EQ(StateOf(documents), "()*||||1");
   EXPECT_EQ(platform.calls.back(), "message 0 \"Chyba ukládání!\r\nSoubor: /README\r\nKód chyby " +
                                        std::to_string(EINVAL) + "\" \"Pelmar VEX\"");
 }
@@ -214,8 +208,7 @@ TEST_F(FilesTest, TheDialogsSaveTheSelectionAsACopyAndTheWholeText) {
   EXPECT_TRUE(platform.files.empty());
   editor.commands.Run("mnuulvyb");
   EXPECT_EQ(platform.files["/part.txt"], "bc");
-  EXPECT_EQ(documents.Title(), "Pelmar VEX ()*");
-  EXPECT_EQ(documents.CurrentPath(), "");
+  EXPECT_EQ(StateOf(documents), "()*||||1");
   EXPECT_EQ(editor.settings.RecentFiles[0], "/part.txt");
   EXPECT_EQ(Said("mnu_save_st", {}), "save \"" + std::string(kDocumentFilter) + "\" 2");
   editor.commands.Run("mnu_save_st");

@@ -88,6 +88,7 @@ TEST_F(PageTest, APageThatCannotBeWrittenIsTold) {
   platform.draws.assign(1000, 0.0);
   platform.files["/tmp/$$$PelmarTemp0.html"] = "somebody's";
   EXPECT_EQ(PageToShow(editor, PageEnd::kAsItIs), std::nullopt);
+  EXPECT_TRUE(platform.calls.back().ends_with("\" \"Interní browser\""));
   // File number 1 was left open by another command.
   editor.file_number.Open();
   EXPECT_EQ(PageToShow(editor, PageEnd::kAsItIs), std::nullopt);
