@@ -47,14 +47,11 @@ struct NotesOnDisk : testing::Test {
   FileNumber file_number;
 };
 
-TEST_F(NotesOnDisk, AMissingFileIsMadeEmpty) {
+TEST_F(NotesOnDisk, AMissingFileIsMadeEmptyAndTheTailOfALongerRecordStays) {
   EXPECT_EQ(LoadNotes(platform, file_number), NotesRecord{});
   EXPECT_EQ(platform.files.at(kPath), "");
   StoreNotes({}, platform, file_number);
   EXPECT_EQ(platform.files.at(kPath), std::string(10, '\0'));
-}
-
-TEST_F(NotesOnDisk, TheTailOfALongerRecordStays) {
   platform.files[kPath] = kNotesBytes;
   StoreNotes({{"b"}}, platform, file_number);
   EXPECT_EQ(platform.files[kPath], Bytes({1, 0, 'b', 0, 0, 0, 0, 0, 0, 0, 0}) + kNotesBytes.substr(11));

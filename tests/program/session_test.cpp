@@ -97,24 +97,21 @@ TEST_F(SessionTest, SettingsAreAppliedAndRepaired) {
 }
 
 TEST_F(SessionTest, TextComesFromTheRecoveryFileOrTheClipboard) {
-  const struct {
-    std::optional<std::size_t> recovery;  // its length
-    std::optional<std::string> clipboard;
-    std::string expected;
-  } cases[] = {
-      {64000, "clip", std::string(64000, 'r')},
-      {64001, "clip", "clip"},
-      {64001, std::nullopt, ""},
-      {0, "clip", "clip"},
+  const std::string longest(64000, 'r');
+  const std::tuple<std::optional<std::string>, std::optional<std::string>, std::string> cases[] = {
+      {longest, "clip", longest},
+      {longest + 'r', "clip", "clip"},
+      {longest + 'r', std::nullopt, ""},
+      {"", "clip", "clip"},
       {std::nullopt, std::string(70000, 'c'), std::string(70000, 'c')},  // no length test here
   };
-  for (const auto& c : cases) {
+  for (const auto& [recovery, clipboard, text] : cases) {
     ScriptedPlatform system;
-    if (c.recovery) system.files[kRecovery] = std::string(*c.recovery, 'r');
-    system.clipboard = c.clipboard;
+    if (recovery) system.files[kRecovery] = *recovery;
+    system.clipboard = clipboard;
     Desk one(system);
     one.session.Start("");
-    EXPECT_EQ(one.editor.text.Text() == c.expected, true) << c.recovery.value_or(1);
+    EXPECT_TRUE(one.editor.text.Text() == text) << text.size();
     EXPECT_EQ(one.editor.documents.Title(), "Pelmar VEX ()");
     EXPECT_EQ(one.editor.documents.UnsavedCount(), 0);
     EXPECT_TRUE(system.calls.empty());
@@ -181,15 +178,13 @@ TEST_F(SessionTest, CloseWritesTheFilesBeforeItAsks) {
   EXPECT_TRUE(session.Close());
 }
 
-TEST_F(SessionTest, CloseWithoutChangesAsksNothing) {
+TEST_F(SessionTest, CloseWithoutChangesAsksNothingAndOneThatCannotWriteIsARuntimeError) {
   Store(Stored());
   platform.files[kRecovery] = "restored";
   session.Start("");
   EXPECT_TRUE(session.Close());
   EXPECT_EQ(platform.files[kRecovery], "restored");
-}
-
-TEST_F(SessionTest, AReadOnlyInstallFolderIsARuntimeErrorWithoutAQuestion) {
+  platform.TakeCalls();
   platform.write_errors[kRecovery] = EROFS;
   editor.text.SetText("changed");
   try {
