@@ -2,120 +2,32 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <map>
+
 #include "support/scripted_platform.h"
 
 namespace pelmar {
 namespace {
 
-// Keys of a sequence, one character each: digits, comma and operators as they are, and
-//   l log  < drop last  > drop first  c CE  = equals
-//   r root  q square  a Abs  i Int  s Sinus  o Cosinus  t Tangens  g Cotangens  p PI  e e
-void Press(Calculator& calculator, char key) {
-  switch (key) {
-    case ',':
-      return calculator.Comma();
-    case '<':
-      return calculator.DropLast();
-    case '>':
-      return calculator.DropFirst();
-    case 'c':
-      return calculator.Clear();
-    case '=':
-      calculator.Evaluate();
-      return;
-    case 'l':
-      return calculator.Operator('L');
-    case 'r':
-      return calculator.SquareRoot();
-    case 'q':
-      return calculator.Square();
-    case 'a':
-      return calculator.Absolute();
-    case 'i':
-      return calculator.HalfFloor();
-    case 's':
-      return calculator.Sine();
-    case 'o':
-      return calculator.Cosine();
-    case 't':
-      return calculator.Tangent();
-    case 'g':
-      return calculator.Cotangent();
-    case 'p':
-      return calculator.Pi();
-    case 'e':
-      return calculator.E();
-    default:
-      return key >= '0' && key <= '9' ? calculator.Digit(key) : calculator.Operator(key);
-  }
-}
-
-struct SequenceCase {
-  std::string_view keys;
-  std::string_view cislo;
-  std::string_view pending = "";
-  std::string_view first = "";
+// The keys that are neither a digit nor an operator.
+const std::map<char, std::function<void(Calculator&)>> kKeys = {
+    {',', &Calculator::Comma},     {'<', &Calculator::DropLast}, {'>', &Calculator::DropFirst},
+    {'c', &Calculator::Clear},     {'=', &Calculator::Evaluate}, {'r', &Calculator::SquareRoot},
+    {'q', &Calculator::Square},    {'a', &Calculator::Absolute}, {'i', &Calculator::HalfFloor},
+    {'s', &Calculator::Sine},      {'o', &Calculator::Cosine},   {'t', &Calculator::Tangent},
+    {'g', &Calculator::Cotangent}, {'p', &Calculator::Pi},       {'e', &Calculator::E},
 };
 
-constexpr SequenceCase kSequences[] = {
-    {"", "0"},
-    {"007", "7"},
-    {"100", "100"},
-    {",", "0,"},
-    {",0", "0,0"},
-    {",,5,", "0,5"},
-    {",>", ","},
-    {",>q", "0"},  // a comma alone is a number
-    {"5+,>=", "5"},
-    {"5-7=<,a", "0"},
-    {"5+3=", "8"},
-    {"5+3=2", "82"},  // nothing tells a result from typed digits
-    {"12<", "1"},
-    {"1<", "0"},
-    {"12>", "2"},
-    {"1>", "0"},
-    {"5-7=", "-2"},
-    {"5-7=<", "-"},
-    {"5-7=>", "2"},
-    {"5-7=a", "2"},
-    {"7+", "0", "+", "7"},
-    {"7+4c", "0", "+", "7"},
-    {"7+9r", "3", "+", "7"},  // functions leave a waiting operator alone
-    {"7+9r=", "10"},
-    {"8l2=", "3"},
-    {"2^10=", "1024"},
-    {"8/3^", "0", "^", "3"},  // the first operand is lost
-    {"8l3^2=", "9"},
-    {"1/3=", "0,333333333333333"},
-    {"2/3=", "0,666666666666667"},
-    {",1+,2=", "0,3"},
-    {"99999999*99999999=", "9,9999998E+15"},
-    {"1/100000=", "1E-05"},
-    {"0-5=*0=", "0"},
-    {"3q", "9"},
-    {"2,3i", "2"},
-    {"2,7i", "2,5"},
-    {"0-2,3=i", "-2,5"},
-    {"90s", "1"},
-    {"60o", "0,500000000000001"},
-    {"45t", "0,999999999999998"},
-    {"45g", "1"},
-    {"p", "3,14159265358979"},
-    {"5e", "2.718282"},
-    {"p*2=", "6,28318530717958"},
-    {"4r", "2"},
-    {"5=", "5"},  // there is nothing to evaluate
-};
-
-TEST(CalculatorKeys, Sequences) {
-  for (const SequenceCase& c : kSequences) {
-    ScriptedPlatform platform;
-    Calculator calculator(platform);
-    for (const char key : c.keys) Press(calculator, key);
-    EXPECT_EQ(calculator.Cislo, c.cislo) << c.keys;
-    EXPECT_EQ(calculator.Label1, c.pending) << c.keys;
-    EXPECT_EQ(calculator.Label2, c.first) << c.keys;
-    EXPECT_EQ(platform.TakeCalls(), std::vector<std::string>{}) << c.keys;
+void Press(Calculator& calculator, std::string_view keys) {
+  for (const char key : keys) {
+    if (const auto found = kKeys.find(key); found != kKeys.end()) {
+      found->second(calculator);
+    } else if (key >= '0' && key <= '9') {
+      calculator.Digit(key);
+    } else {
+      calculator.Operator(key);
+    }
   }
 }
 
@@ -140,61 +52,86 @@ TEST(CalculatorKeys, TypedOperatorsChain) {
   }
 }
 
-TEST(CalculatorKeys, TangentOfTheRightAngleIsLarge) {
+struct CalculatorTest : testing::Test {
   ScriptedPlatform platform;
-  Calculator calculator(platform);
-  for (const char key : std::string_view("90t")) Press(calculator, key);
-  EXPECT_GE(calculator.Cislo.size(), 15u) << calculator.Cislo;
-}
 
-constexpr std::string_view kDivision = R"(message 0 "Není možno dělit nulou" "Dělení")";
-constexpr std::string_view kRoot = R"(message 0 "Nelze odmocnit záporné číslo" "Odmocnina")";
-constexpr std::string_view kOther = R"(message 0 "Výsledek nelze vypočítat" "Kalkulátor")";
-
-struct FailureCase {
-  std::string_view keys;
-  std::string_view message;
-  std::string_view cislo;
-  std::string_view pending = "";
-};
-
-constexpr FailureCase kFailures[] = {
-    {"7/0=", kDivision, "0"},
-    {"7/,=", kDivision, "0,"},
-    {"7/,>=", kDivision, ","},
-    {"5-7=r", kRoot, "-2"},
-    {"er", kRoot, "2.718282"},
-    {"1+er", kRoot, "2.718282", "+"},
-    {"0l2=", kOther, "2"},
-    {"5-7=l2=", kOther, "2"},
-    {"5l1=", kOther, "1"},
-    {"5l0=", kOther, "0"},
-    {"5-7=^,5=", kOther, "0,5"},
-    {"e+1=", kOther, "1"},
-    {"1+e=", kOther, "2.718282"},
-    {"5-7=<+1=", kOther, "1"},
-    {"5-7=<q", kOther, "-"},
-    {"9+eq", kOther, "2.718282"},              // a failed function gives a waiting operator up
-    {"99999999*99999999=<<+1=", kOther, "1"},  // "9,9999998E+"
-    {"0g", kOther, "0"},
-    {"10^308=q", kOther, "1E+308"},
-    {"10^999=", kOther, "999"},
-};
-
-TEST(CalculatorKeys, Failures) {
-  for (const FailureCase& c : kFailures) {
-    ScriptedPlatform platform;
-    platform.answers = {Answer::kOk};
+  // The operand and the operator that wait, and the number, after keys that call for the message, if any.
+  std::string After(std::string_view keys, std::string_view message = "") {
     Calculator calculator(platform);
-    for (const char key : c.keys) Press(calculator, key);
-    EXPECT_EQ(platform.TakeCalls(), std::vector<std::string>{std::string(c.message)}) << c.keys;
-    EXPECT_EQ(calculator.Cislo, c.cislo) << c.keys;
-    EXPECT_EQ(calculator.Label1, c.pending) << c.keys;
+    platform.answers = {Answer::kOk};
+    Press(calculator, keys);
+    const std::vector<std::string> told = platform.TakeCalls();
+    EXPECT_EQ(told, message.empty() ? std::vector<std::string>{} : std::vector{std::string(message)}) << keys;
+    return calculator.Label2 + calculator.Label1 + calculator.Cislo;
   }
+};
+
+TEST_F(CalculatorTest, TypesAndComputes) {
+  const std::pair<std::string_view, std::string_view> cases[] = {
+      {"007", "7"},
+      {",,0,5", "0,05"},
+      {",>", ","},
+      {",>q", "0"},  // a comma alone is a number
+      {"5-7=<,a", "0"},
+      {"5+3=2", "82"},  // nothing tells a result from typed digits
+      {"12<", "1"},
+      {"1<", "0"},
+      {"12>", "2"},
+      {"1>", "0"},
+      {"5-7=", "-2"},
+      {"7+4c", "7+0"},
+      {"7+9r", "7+3"},  // functions leave a waiting operator alone
+      {"8L2=", "3"},
+      {"8/3^", "3^0"},  // the first operand is lost
+      {"2^10=*3=", "3072"},
+      {"2/3=", "0,666666666666667"},
+      {",1+,2=", "0,3"},
+      {"99999999*99999999=", "9,9999998E+15"},
+      {"1/100000=", "1E-05"},
+      {"0-5=*0=", "0"},
+      {"5=", "5"},  // there is nothing to evaluate
+  };
+  for (const auto& [keys, shown] : cases) EXPECT_EQ(After(keys), shown) << keys;
 }
 
-TEST(CalculatorKeys, WhatCanBePressed) {
-  ScriptedPlatform platform;
+TEST_F(CalculatorTest, Functions) {
+  const std::pair<std::string_view, std::string_view> cases[] = {
+      {"3q", "9"},        {"4r", "2"},
+      {"5-7=a", "2"},     {"2,3i", "2"},
+      {"2,5i", "2,5"},    {"0-2,3=i", "-2,5"},
+      {"90s", "1"},       {"60o", "0,500000000000001"},
+      {"45g", "1"},       {"45t", "0,999999999999998"},
+      {"5e", "2.718282"}, {"p", "3,14159265358979"},
+  };
+  for (const auto& [keys, shown] : cases) EXPECT_EQ(After(keys), shown) << keys;
+  EXPECT_GE(After("90t").size(), 15u);
+}
+
+TEST_F(CalculatorTest, TellsWhatItCantCompute) {
+  constexpr std::string_view kDivision = R"(message 0 "Není možno dělit nulou" "Dělení")";
+  constexpr std::string_view kRoot = R"(message 0 "Nelze odmocnit záporné číslo" "Odmocnina")";
+  constexpr std::string_view kOther = R"(message 0 "Výsledek nelze vypočítat" "Kalkulátor")";
+  const std::tuple<std::string_view, std::string_view, std::string_view> cases[] = {
+      {"7/0=", kDivision, "0"},
+      {"7/,>=", kDivision, ","},
+      {"5-7=r", kRoot, "-2"},
+      {"1+er", kRoot, "1+2.718282"},
+      {"0L2=", kOther, "2"},
+      {"5L1=", kOther, "1"},
+      {"5L0=", kOther, "0"},
+      {"5-7=^,5=", kOther, "0,5"},
+      {"e+1=", kOther, "1"},
+      {"1+e=", kOther, "2.718282"},
+      {"5-7=<q", kOther, "-"},
+      {"9+eq", kOther, "2.718282"},              // a failed function gives a waiting operator up
+      {"99999999*99999999=<<+1=", kOther, "1"},  // "9,9999998E+"
+      {"0g", kOther, "0"},
+      {"10^999=", kOther, "999"},
+  };
+  for (const auto& [keys, message, shown] : cases) EXPECT_EQ(After(keys, message), shown) << keys;
+}
+
+TEST_F(CalculatorTest, WhatCanBePressed) {
   Calculator calculator(platform);
   const auto on = [&calculator] {
     return std::string(calculator.OperatorsOn() ? "o" : "-") + (calculator.PowerOn() ? "p" : "-") +
@@ -202,17 +139,15 @@ TEST(CalculatorKeys, WhatCanBePressed) {
   };
   EXPECT_EQ(on(), "op-");
   for (const char symbol : std::string_view("+-*^/L")) {
-    calculator.Operator(symbol);
+    Press(calculator, {&symbol, 1});
     EXPECT_EQ(on(), symbol == '/' || symbol == 'L' ? "-p=" : "--=") << symbol;
     platform.answers = {Answer::kOk};
-    calculator.Digit('3');
-    calculator.Evaluate();
+    Press(calculator, "3=");
     EXPECT_EQ(on(), "op-") << symbol;
   }
 }
 
-TEST(CalculatorKeys, RandomIsBelowOneAndHasSevenDigits) {
-  ScriptedPlatform platform;
+TEST_F(CalculatorTest, RandomIsBelowOneAndHasSevenDigits) {
   platform.draws = {0, 0.25, 0.123456789, 0.99999999};
   Calculator calculator(platform);
   for (const std::string_view expected : {"0", "0,25", "0,1234568", "0,9999999"}) {

@@ -23,28 +23,16 @@ const NotesRecord kNotes{{"a\r\n", "", std::string(258, 'x'), "\xE8\xFF", std::s
 const std::string kNotesBytes =
     Bytes({3, 0, 'a', 13, 10, 0, 0, 2, 1}) + std::string(258, 'x') + Bytes({2, 0, 0xE8, 0xFF, 2, 0, 0, 'z'});
 
-TEST(NotesFile, IsTheRecordToTheByte) {
+TEST(NotesFile, IsTheRecordToTheByteAndEmptyFromADamageOn) {
   EXPECT_EQ(NotesBytes(kNotes), kNotesBytes);
-  EXPECT_EQ(ReadNotes(kNotesBytes), kNotes);
   EXPECT_EQ(NotesBytes({}), std::string(10, '\0'));
-}
-
-TEST(NotesFile, ADamagedOneReadsAsEmptyFromTheDamageOn) {
-  const struct {
-    std::string bytes;
-    NotesRecord expected;
-  } kCases[] = {
-      {"", {}},
+  const std::pair<std::string, NotesRecord> cases[] = {
       {Bytes({5}), {}},                                           // half a count
-      {Bytes({5, 0, 'a', 'b'}), {}},                              // a count beyond the end
       {Bytes({1, 0, 'a', 0xFF, 0xFF, 'b', 1, 0, 'c'}), {{"a"}}},  // what stands behind the damage can't be trusted
       {Bytes({1, 0, 'a', 2, 0, 'b', 'c', 1}), {{"a", "bc"}}},
       {kNotesBytes + "an older, longer record's tail", kNotes},
   };
-  for (const auto& one : kCases) EXPECT_EQ(ReadNotes(one.bytes), one.expected) << one.bytes.size();
-}
-
-TEST(NotesFile, TakesPagesUpToWhatTheCountCanSay) {
+  for (const auto& [bytes, record] : cases) EXPECT_EQ(ReadNotes(bytes), record) << bytes.size();
   NotesRecord record;
   record.Page(4) = std::string(kLongestNote, 'x');
   EXPECT_EQ(ReadNotes(NotesBytes(record)), record);
@@ -59,14 +47,11 @@ struct NotesOnDisk : testing::Test {
   FileNumber file_number;
 };
 
-TEST_F(NotesOnDisk, AMissingFileIsMadeEmpty) {
+TEST_F(NotesOnDisk, AMissingFileIsMadeEmptyAndTheTailOfALongerRecordStays) {
   EXPECT_EQ(LoadNotes(platform, file_number), NotesRecord{});
   EXPECT_EQ(platform.files.at(kPath), "");
   StoreNotes({}, platform, file_number);
   EXPECT_EQ(platform.files.at(kPath), std::string(10, '\0'));
-}
-
-TEST_F(NotesOnDisk, TheTailOfALongerRecordStays) {
   platform.files[kPath] = kNotesBytes;
   StoreNotes({{"b"}}, platform, file_number);
   EXPECT_EQ(platform.files[kPath], Bytes({1, 0, 'b', 0, 0, 0, 0, 0, 0, 0, 0}) + kNotesBytes.substr(11));
@@ -109,14 +94,13 @@ TEST(NotesRescue, EachPageComesBackToItsPlaceOrToAnEmptyOne) {
   EXPECT_EQ(ReadableNotes(left), "Pozn\xE1mka 4:\r\nno place\r\n\r\n");
 }
 
-struct Checkpoints : testing::Test {
+TEST(Checkpoint, TakesTheTextOverTheNoteAndAsksBeforeItGivesItBack) {
   ScriptedPlatform platform;
   TextBuffer document, note;
-};
-
-TEST_F(Checkpoints, TakesTheTextOverTheNote) {
-  note.SetText("old note");
   document.SetText("text\r\n\xFF");
+  RestoreCheckpoint(note, document, platform);  // an empty note asks nothing
+  EXPECT_EQ(document.Size(), 7u);
+  note.SetText("old note");
   SaveCheckpoint(document, note, platform);
   EXPECT_EQ(note.Text(), document.Text());
   document.SetText("spoilt");
@@ -126,22 +110,11 @@ TEST_F(Checkpoints, TakesTheTextOverTheNote) {
   RestoreCheckpoint(note, document, platform);
   EXPECT_EQ(document.Text(), "text\r\n\xFF");
   const std::string question = "message 52 \"Opravdu vše vrátit ?\" \"Checkpoint\"";
-  EXPECT_EQ(platform.calls, (std::vector<std::string>{question, question}));
-}
-
-TEST_F(Checkpoints, AnEmptyNoteAsksNothing) {
-  document.SetText("text");
-  RestoreCheckpoint(note, document, platform);
-  EXPECT_EQ(document.Text(), "text");
-  EXPECT_TRUE(platform.calls.empty());
-}
-
-TEST_F(Checkpoints, ATextThatNoNoteHoldsIsRefused) {
-  note.SetText("old note");
-  document.SetText(std::string(kLongestNote + 1, 'x'));
+  EXPECT_EQ(platform.TakeCalls(), (std::vector<std::string>{question, question}));
+  document.SetText(std::string(kLongestNote + 1, 'x'));  // no note holds it
   platform.answers = {Answer::kOk};
   SaveCheckpoint(document, note, platform);
-  EXPECT_EQ(note.Text(), "old note");
+  EXPECT_EQ(note.Size(), 7u);
   EXPECT_EQ(platform.calls.size(), 1u);
 }
 

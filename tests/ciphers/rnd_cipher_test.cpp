@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <set>
 
 #include "support/random_source.h"
 #include "text/codepage.h"
@@ -24,12 +23,10 @@ CipherTable PlainTable(int depth) {
 
 TEST(RndCipher, PreparesTheText) {
   EXPECT_EQ(PrepareText("Žluťoučký kůň,\r\n5× úpěl\tĎÁBELSKÉ."_w), "ZLUTOUCKY KUN\r\n UPELDABELSKE");
-  EXPECT_EQ(PrepareText("äöüĺľŕ"_w), "");  // letters of other languages keep their marks and go
-  EXPECT_EQ(PrepareText(""), "");
-  EXPECT_EQ(PrepareText("ABC XYZ"), "ABC XYZ");
+  EXPECT_EQ(PrepareText("ABCäöüĺľŕ XYZ"_w), "ABC XYZ");  // letters of other languages keep their marks and go
 }
 
-TEST(RndCipher, GeneratesCodesFromPairsOfDraws) {
+TEST(RndCipher, GeneratesFromPairsOfDraws) {
   CipherTable table;
   table.OneLetters = "keep";
   table.Note = "note";
@@ -47,29 +44,6 @@ TEST(RndCipher, GeneratesCodesFromPairsOfDraws) {
   EXPECT_EQ(table.Note, "note");
 }
 
-TEST(RndCipher, GeneratedTablesAreOfTheToldKind) {
-  RandomSource source(42);
-  int with_twins = 0;
-  for (int round = 0; round < 600; ++round) {
-    CipherTable table;
-    const int depth = 8 + round % 2 * 56;
-    GenerateCodes(table, depth, source.Draws());
-    GenerateLetterSplit(table, source.Draws());
-    for (const std::string& code : table.SymbolCodes) {
-      ASSERT_EQ(code.size(), static_cast<std::size_t>(depth));
-      ASSERT_EQ(code.find_first_not_of("01"), std::string::npos);
-    }
-    ASSERT_TRUE(std::ranges::is_sorted(table.OneLetters) && std::ranges::is_sorted(table.ZeroLetters));
-    std::string all = table.OneLetters + table.ZeroLetters;
-    std::ranges::sort(all);
-    ASSERT_EQ(all, "ABCDEFGHIJKLMNOPQRSTUVWXYZ");
-    const std::set<std::string> different(table.SymbolCodes.begin(), table.SymbolCodes.end());
-    if (depth == 8 && different.size() < kSymbols) ++with_twins;
-  }
-  // 81 of 100 at depth 8.
-  EXPECT_NEAR(with_twins / 300.0, 0.81, 0.08);
-}
-
 TEST(RndCipher, ListsTheTable) {
   CipherTable table = PlainTable(8);
   table.ZeroLetters = "XY";
@@ -82,11 +56,11 @@ TEST(RndCipher, ListsTheTable) {
   EXPECT_EQ(rows[28], "Chr(13) 00011011");
   EXPECT_EQ(rows[29], "Chr(10) 00011100");
   EXPECT_EQ(LetterRows(table), (std::vector<std::string>{"0 : X", "0 : Y", "-----", "1 : B"}));
-  EXPECT_EQ(LetterRows({}), std::vector<std::string>{"-----"});
 }
 
 TEST(RndCipher, CoefficientsCountInTwoWays) {
   CipherTable table;
+  EXPECT_EQ(CoefficientsText(table, CountedDigits::kFirstEight), std::nullopt);
   table.Depth = 16;
   table.OneLetters = std::string(16, 'A');
   table.ZeroLetters = std::string(10, 'B');
@@ -101,16 +75,12 @@ TEST(RndCipher, CoefficientsCountInTwoWays) {
   table.OneLetters.clear();
   EXPECT_EQ(CoefficientsText(table, CountedDigits::kFirstEight),
             "Koeficient A:2,00000 Koeficient B:1,00000 Celkem:2,000000000");
-}
-
-TEST(RndCipher, CoefficientsNeedSomethingToDivideBy) {
-  CipherTable table = PlainTable(8);
-  table.ZeroLetters.clear();
-  EXPECT_EQ(CoefficientsText(table, CountedDigits::kAll), std::nullopt);
-  table = PlainTable(8);
+  // Without zeros there is nothing to divide by.
   for (std::string& code : table.SymbolCodes) code = "11111111";
   EXPECT_EQ(CoefficientsText(table, CountedDigits::kAll), std::nullopt);
-  EXPECT_EQ(CoefficientsText({}, CountedDigits::kFirstEight), std::nullopt);
+  table = PlainTable(8);
+  table.ZeroLetters.clear();
+  EXPECT_EQ(CoefficientsText(table, CountedDigits::kAll), std::nullopt);
 }
 
 TEST(RndCipher, WritesADigitAsALetterOfItsSet) {
@@ -119,11 +89,9 @@ TEST(RndCipher, WritesADigitAsALetterOfItsSet) {
   const auto cipher = [&table](std::string_view text, double r) {
     return RndEncipher(text, table, [r] { return r; }, {});
   };
-  EXPECT_EQ(cipher("A", 0), "ANANAANN");
   EXPECT_EQ(cipher("A", 0.9999), "MZMZMMZZ");
-  EXPECT_EQ(cipher("", 0), "");
-  EXPECT_EQ(cipher("A.A", 0), "ANANAANNANANAANNANANAANN");  // required: the one before it again
-  EXPECT_EQ(cipher("." + std::string("A"), 0), "NNNNNNNNANANAANN");
+  EXPECT_EQ(cipher("A.", 0), "ANANAANNANANAANN");  // required: the one before it again
+  EXPECT_EQ(cipher(".A", 0), "NNNNNNNNANANAANN");
   table.ZeroLetters.clear();
   EXPECT_EQ(cipher("A", 0), "NNNN");  // draws from an empty set yield nothing
 }
@@ -131,18 +99,12 @@ TEST(RndCipher, WritesADigitAsALetterOfItsSet) {
 TEST(RndCipher, DecipheringUndoesEnciphering) {
   RandomSource source(42);
   for (int round = 0; round < 2000; ++round) {
-    const int depth = 8 + round % 57;
-    CipherTable table = PlainTable(depth);
-    for (std::string& code : table.SymbolCodes)
-      for (char& digit : code) digit = digit == '0' ? '1' : '0';
+    CipherTable table = PlainTable(8 + round % 57);
     GenerateLetterSplit(table, source.Draws());
-    if (table.ZeroLetters.empty() || table.OneLetters.empty()) continue;
     const std::string text = source.Text(59, "ABCDEFGHIJKLMNOPQRSTUVWXYZ \r\n");
-    const std::string one = RndEncipher(text, table, source.Draws(), {});
-    ASSERT_EQ(one.size(), text.size() * static_cast<std::size_t>(depth));
-    ASSERT_EQ(PrepareText(one), one);
-    ASSERT_EQ(RndDecipher(one, table, {}), text);
-    ASSERT_TRUE(text.size() < 4 || RndEncipher(text, table, source.Draws(), {}) != one);
+    const std::string cipher = RndEncipher(text, table, source.Draws(), {});
+    ASSERT_EQ(PrepareText(cipher), cipher);
+    ASSERT_EQ(RndDecipher(cipher, table, {}), text);
   }
 }
 
@@ -157,28 +119,12 @@ std::string SlowlyDeciphered(const std::string& text, const CipherTable& table) 
     for (std::size_t j = 1; j <= kSymbols; ++j)
       if (table.SymbolCodes[j - 1].find(block) != std::string::npos) found = j;
     if (found >= 1 && found <= 26) out += CharOf(static_cast<int>(64 + found));
-    if (found == 27) out += ' ';
-    if (found == 28) out += '\r';
-    if (found == 29) out += '\n';
+    if (found > 26) out += " \r\n"[found - 27];
   }
   return out;
 }
 
-TEST(RndCipher, DecipheringHasTheToldFaults) {
-  CipherTable table = PlainTable(8);
-  const std::pair<std::string_view, std::string_view> cases[] = {
-      {"AAAAAAAANNNNNNNN", "AA"},   // required: no match repeats the character before
-      {"NNNNNNNNAAAAAAAA", "A"},    // none before: nothing
-      {"AAAAAAA\nAAAAAAAA", "BA"},  // what is no letter counts as 1
-      {"aAAAAAAA", ""},             // exact case
-      {"AAAAAAAANNN", "A\n"}};      // required: the rest matches in the middle: 00011100
-  for (const auto& [text, plain] : cases) EXPECT_EQ(RndDecipher(text, table, {}), plain) << text;
-  table.SymbolCodes[3] = table.SymbolCodes[0];
-  EXPECT_EQ(RndDecipher("AAAAAAAA", table, {}), "D");  // required: of twins the last
-  table.Depth = 0;
-  EXPECT_EQ(RndDecipher("AAAAAAAA", table, {}), "");
-}
-
+// required: no match repeats the character before, of twins the last counts, a rest of a block matches anywhere
 TEST(RndCipher, DecipheringEqualsTheWalkThroughAllCodes) {
   RandomSource source(42);
   for (int round = 0; round < 3000; ++round) {
@@ -187,9 +133,10 @@ TEST(RndCipher, DecipheringEqualsTheWalkThroughAllCodes) {
     for (std::string& code : table.SymbolCodes) code = source.Text(12, "01");
     table.Depth = static_cast<std::uint8_t>(1 + source.Below(9));
     table.ZeroLetters = source.Text(4, "ABCDEFGH");
-    const std::string text = source.Text(79, "ABCDEFGH");
+    const std::string text = source.Text(79, "ABCDEFGHa\n");
     ASSERT_EQ(RndDecipher(text, table, {}), SlowlyDeciphered(text, table));
   }
+  EXPECT_EQ(RndDecipher("AAAAAAAA", {}, {}), "");  // no depth
 }
 
 TEST(RndCipher, TellsItsProgress) {

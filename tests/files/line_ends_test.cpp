@@ -5,6 +5,7 @@
 #include <cerrno>
 
 #include "platform/runtime_error.h"
+#include "support/random_source.h"
 #include "support/scripted_platform.h"
 
 namespace pelmar {
@@ -16,34 +17,32 @@ TEST(LineEnds, ConvertedPathIsCutAtTheFirstFullStop) {
   EXPECT_EQ(ConvertedPath("/a/b", "unx"), "unx");           // required
 }
 
-TEST(LineEnds, BothDirections) {
-  const struct {
-    std::string_view source, unix, dos;
-  } cases[] = {
-      {"", "", ""},
-      {"a", "a\n", ""},  // required: what stands behind the last line feed is lost
-      {"a\r\nb", "a\nb\n", "a\r\r\n"},
-      {"a\nb\n", "a\nb\n", "a\r\nb\r\n"},
-      {"a\r\nb\r\n", "a\nb\n", "a\r\r\nb\r\r\n"},
-      {"a\rb\r", "a\nb\n", ""},
-      {"\r", "\n", ""},
-      {"\n\n", "\n\n", "\r\n\r\n"},
-      {"\r\r\n\n\r", "\n\n\n\n", "\r\r\r\n\r\n"},
-      {"ab\r\ncd\r\nef\r\n", "ab\ncd\nef\n", "ab\r\r\ncd\r\r\nef\r\r\n"},
-  };
-  ScriptedPlatform platform;
-  for (const auto& c : cases) {
-    // With bytes in front, each border between two pieces falls on each place once.
-    for (const std::string_view front : {"", "x", "xy"}) {
-      platform.files = {{"/f.txt", std::string(front) + std::string(c.source)}};
-      ConvertToUnix(platform, "/f.txt");
-      ConvertToDos(platform, "/f.txt");
-      const bool bare = c.source.empty() && !front.empty();
-      EXPECT_EQ(platform.files["/f.unx"], std::string(front) + std::string(c.unix) + (bare ? "\n" : "")) << c.source;
-      EXPECT_EQ(platform.files["/f.dos"], c.dos.empty() ? "" : std::string(front) + std::string(c.dos)) << c.source;
-    }
+// The whole of what a rewriter makes of a text that comes in pieces of any length.
+std::string Rewritten(FileRewriter&& rewriter, std::string_view text, RandomSource& random) {
+  std::string out;
+  while (!text.empty()) {
+    const std::string piece(text.substr(0, 1 + random.Below(30)));
+    out += rewriter.Rewrite(piece);
+    text.remove_prefix(piece.size());
   }
-  EXPECT_EQ(platform.busy, 0);
+  out += rewriter.Finish();
+  return out.substr(0, rewriter.Kept());
+}
+
+TEST(LineEnds, EqualASlowWalkThroughRandomTexts) {
+  RandomSource random(8);
+  for (int round = 0; round < 3000; ++round) {
+    const std::string text = random.Text(90, round % 2 ? "a\r\n" : "abcdefghijkl\r\n\x0B\x8D\x8A");
+    std::string unix_text, dos_text;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+      if (text[i] != '\n' || i == 0 || text[i - 1] != '\r') unix_text += text[i] == '\r' ? '\n' : text[i];
+      dos_text += text[i] == '\n' ? "\r\n" : std::string(1, text[i]);
+    }
+    if (!unix_text.empty() && unix_text.back() != '\n') unix_text += '\n';
+    dos_text.resize(dos_text.rfind('\n') + 1);  // required: what stands behind the last line feed is lost
+    ASSERT_EQ(Rewritten(ToLineFeeds(), text, random), unix_text) << text;
+    ASSERT_EQ(Rewritten(ToCrLf(), text, random), dos_text) << text;
+  }
 }
 
 TEST(LineEnds, OnlyTheUnixTargetKeepsALongerTail) {

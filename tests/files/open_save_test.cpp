@@ -3,6 +3,7 @@
 #include <cerrno>
 
 #include "platform/runtime_error.h"
+#include "support/document_state.h"
 #include "support/scripted_platform.h"
 #include "support/whole_editor.h"
 #include "text/codepage.h"
@@ -18,7 +19,12 @@ struct FilesTest : testing::Test {
   WholeEditor editor{platform};
   Documents& documents = editor.documents;
 
-  void Answers(std::initializer_list<Answer> answers) { platform.answers = answers; }
+  // What is said last while a command runs and these answers are given.
+  std::string Said(std::string_view command, std::deque<Answer> answers) {
+    platform.answers = std::move(answers);
+    editor.commands.Run(command);
+    return platform.calls.empty() ? "" : platform.calls.back();
+  }
   [[nodiscard]] const std::string& Text() const { return editor.text.Text(); }
 };
 
@@ -26,69 +32,54 @@ TEST_F(FilesTest, OpenPutsTheFileIntoTheCurrentTab) {
   platform.files["/a/p\xC5\x99.html"] = "x\0\xFFy"s;
   editor.opener.OpenPath("/a/p\xC5\x99.html");
   EXPECT_EQ(Text(), "x\0\xFFy"s);
-  EXPECT_EQ(documents.Title(), "Pelmar VEX (/a/př.html)");
-  EXPECT_EQ(documents.Face(1).Caption, "př.html");
-  EXPECT_EQ(documents.Slot(1).Path, "/a/př.html");
-  EXPECT_EQ(documents.UnsavedCount(), 0);
+  EXPECT_EQ(StateOf(documents), "(/a/př.html)|př.html|/a/př.html|/a/př.html|0");
   EXPECT_EQ(documents.Target().Path(), "/a/př.html");
   EXPECT_EQ(editor.settings.RecentFiles[0], "/a/př.html");
   EXPECT_EQ(platform.TakeCalls(), (Calls{"recent /a/př.html"}));
 }
 
-TEST_F(FilesTest, TheLimitIsExact) {
-  platform.files["/a/full.txt"] = std::string(64000, 'f');
-  platform.files["/a/over.txt"] = std::string(64001, 'o');
-  editor.opener.OpenPath("/a/full.txt");
-  EXPECT_EQ(Text().size(), 64000u);
-  Answers({Answer::kOk});
-  editor.opener.OpenPath("/a/over.txt");
-  EXPECT_EQ(Text().front(), 'f');
-  EXPECT_EQ(documents.CurrentPath(), "/a/full.txt");
-  EXPECT_EQ(editor.settings.RecentFiles[1], "");
-  EXPECT_EQ(platform.calls.back(), "message 0 \"Nelze otevřít /a/over.txt, Soubor příliš velký\" \"Soubor\"");
-  EXPECT_EQ(editor.opener.Preview("/a/full.txt").size(), 64000u);
-  EXPECT_EQ(editor.opener.Preview("/a/over.txt"), "Není k dispozici"_w);
-  EXPECT_EQ(editor.opener.Preview("/a/none.txt"), "Není k dispozici"_w);
-}
-
-TEST_F(FilesTest, MissingFoldersAndUnreadableFilesAreNotFound) {
-  platform.files["/a/dir/"] = "";
+TEST_F(FilesTest, TheLimitIsExactAndWhatCantBeReadIsNotFound) {
+  platform.files = {
+      {"/a/full.txt", std::string(64000, 'f')}, {"/a/over.txt", std::string(64001, 'o')}, {"/a/dir/", ""}};
   platform.read_errors["/a/locked.txt"] = EACCES;
-  editor.text.SetText("mine");
-  for (const std::string path : {"/a/none.txt", "/a/dir", "/a/dir/", "/a/locked.txt", "\"/a/x.txt\"", ""}) {
-    Answers({Answer::kOk});
+  editor.opener.OpenPath("/a/full.txt");
+  for (const std::string path :
+       {"/a/over.txt", "/a/none.txt", "/a/dir", "/a/dir/", "/a/locked.txt", "\"/a/x.txt\"", ""}) {
+    platform.answers = {Answer::kOk};
     editor.opener.OpenPath(path);
-    EXPECT_EQ(platform.calls.back(), "message 0 \"Soubor " + path + " nenalezen!\" \"Soubor\"");
+    EXPECT_EQ(platform.calls.back(), path == "/a/over.txt"
+                                         ? "message 0 \"Nelze otevřít /a/over.txt, Soubor příliš velký\" \"Soubor\""
+                                         : "message 0 \"Soubor " + path + " nenalezen!\" \"Soubor\"");
+    EXPECT_EQ(Text().size(), 64000u);
+    EXPECT_EQ(documents.CurrentPath(), "/a/full.txt");
+    EXPECT_EQ(editor.settings.RecentFiles[1], "");
+    EXPECT_EQ(editor.opener.Preview(path), "Není k dispozici"_w);
   }
-  EXPECT_EQ(Text(), "mine");
-  EXPECT_TRUE(documents.Marked());
+  EXPECT_EQ(editor.opener.Preview("/a/full.txt").size(), 64000u);
 }
 
 TEST_F(FilesTest, RecentFilesMoveToTheHead) {
-  for (int i = 1; i <= 11; ++i) editor.files.recent.PushRecentFile("/f" + std::to_string(i) + ".txt");
-  EXPECT_EQ(editor.settings.RecentFiles[0], "/f11.txt");
-  EXPECT_EQ(editor.settings.RecentFiles[9], "/f2.txt");  // the first fell out
+  RecentFiles& recent = editor.files.recent;
+  const auto listed = [&recent] {
+    std::string items;
+    for (int i = 1; i <= 10; ++i) items += recent.ItemText(i) + ' ';
+    return items;
+  };
+  for (int i = 1; i <= 11; ++i) recent.PushRecentFile("/" + std::to_string(i));  // the first falls out
+  EXPECT_EQ(listed(), "&0 /11 &1 /10 &2 /9 &3 /8 &4 /7 &5 /6 &6 /5 &7 /4 &8 /3 &9 /2 ");
   int shown = 0;
-  const Listening heard = editor.files.recent.changed.Add([&] { ++shown; });
-  editor.files.recent.PushRecentFile("/f7.txt");  // entry 5
-  EXPECT_EQ(editor.settings.RecentFiles[0], "/f7.txt");
-  EXPECT_EQ(editor.settings.RecentFiles[4], "/f8.txt");
-  EXPECT_EQ(editor.settings.RecentFiles[5], "/f6.txt");
-  editor.files.recent.PushRecentFile("/f7.txt");
-  editor.files.recent.PushRecentFile("");
+  const Listening heard = recent.changed.Add([&] { ++shown; });
+  for (const char* path : {"/7", "/7", ""}) recent.PushRecentFile(path);
+  EXPECT_EQ(listed(), "&0 /7 &1 /11 &2 /10 &3 /9 &4 /8 &5 /6 &6 /5 &7 /4 &8 /3 &9 /2 ");
   EXPECT_EQ(shown, 1);
-  EXPECT_EQ(editor.files.recent.ItemText(1), "&0 /f7.txt");
-  EXPECT_EQ(editor.files.recent.ItemText(10), "&9 /f2.txt");
-  editor.files.recent.PushRecentFile("/F7.txt");  // case counts
-  EXPECT_EQ(editor.settings.RecentFiles[1], "/f7.txt");
+  recent.PushRecentFile("/a");
+  recent.PushRecentFile("/A");  // case counts
+  EXPECT_TRUE(listed().starts_with("&0 /A &1 /a &2 /7 "));
 }
 
 TEST_F(FilesTest, RecentButtonOpensTheSecondEntry) {
-  Answers({Answer::kOk});
-  editor.commands.Run("Recent");
-  EXPECT_EQ(platform.calls.back(), "message 0 \"Soubor  nenalezen!\" \"Soubor\"");
-  platform.files["/one.txt"] = "1";
-  platform.files["/two.txt"] = "2";
+  EXPECT_EQ(Said("Recent", {Answer::kOk}), "message 0 \"Soubor  nenalezen!\" \"Soubor\"");
+  platform.files = {{"/one.txt", "1"}, {"/two.txt", "2"}};
   editor.opener.OpenPath("/one.txt");
   editor.opener.OpenPath("/two.txt");
   editor.commands.Run("Recent");
@@ -98,41 +89,35 @@ TEST_F(FilesTest, RecentButtonOpensTheSecondEntry) {
 
 // required: text and path are in, the rest isn't, nobody says anything, and file number 1 stays taken
 TEST_F(FilesTest, ANameWithoutDotFromTheMenuStopsHalfWay) {
-  platform.files["/a/README"] = "readme";
-  platform.files["/a/b.txt"] = "b";
+  platform.files = {{"/a/README", "readme"}, {"/a/b.txt", "b"}};
   platform.opens = {"/a/README"};
-  editor.commands.Run("mnu_open_st");
+  EXPECT_EQ(Said("mnu_open_st", {}), "open \"" + std::string(kDocumentFilter) + "\" 2");
   EXPECT_EQ(Text(), "readme");
   EXPECT_EQ(documents.CurrentPath(), "/a/README");
-  EXPECT_EQ(documents.Title(), "Pelmar VEX ()*");
-  EXPECT_EQ(documents.Face(1).ToolTipText, "");
+  EXPECT_EQ(StateOf(documents), "()*|||/a/README|1");
   EXPECT_EQ(editor.settings.RecentFiles[0], "");
-  Answers({Answer::kOk, Answer::kOk});
+  platform.answers = {Answer::kOk, Answer::kOk};
   editor.opener.OpenPath("/a/b.txt");
   EXPECT_EQ(platform.calls.back(), "message 0 \"Soubor /a/b.txt nenalezen!\" \"Soubor\"");
+  EXPECT_EQ(editor.opener.Preview("/a/b.txt"), "Není k dispozici"_w);
   editor.saver.SaveToPath("/a/b.txt");
   EXPECT_TRUE(platform.calls.back().starts_with("message 0 \"Chyba ukládání!"));
   EXPECT_EQ(platform.files["/a/b.txt"], "b");
-}
-
-TEST_F(FilesTest, ANameWithoutDotElsewhereIsARuntimeError) {
-  platform.files["/README"] = "readme";
-  EXPECT_THROW(editor.opener.OpenPath("/README"), RuntimeError);
+  editor.file_number.Close();
+  EXPECT_THROW(editor.opener.OpenPath("/a/README"), RuntimeError);  // elsewhere it is an error
 }
 
 TEST_F(FilesTest, ReloadAsksAndLosesTheChanges) {
   platform.files["/a.txt"] = "saved";
   editor.opener.OpenPath("/a.txt");
   editor.text.Type("new");
-  Answers({Answer::kNo, Answer::kYes});
-  editor.commands.Run("Mnu_Reload_File");
+  EXPECT_EQ(Said("Mnu_Reload_File", {Answer::kNo}),
+            "message 52 \"Opravdu reload souboru ?\r\nZměny od posledního uložení \"/a.txt\" Budou ztraceny!\" "
+            "\"Reload\"");
   EXPECT_EQ(Text(), "newsaved");
-  editor.commands.Run("Mnu_Reload_File");
+  Said("Mnu_Reload_File", {Answer::kYes});
   EXPECT_EQ(Text(), "saved");
   EXPECT_FALSE(documents.Marked());
-  EXPECT_EQ(
-      platform.calls[1],
-      "message 52 \"Opravdu reload souboru ?\r\nZměny od posledního uložení \"/a.txt\" Budou ztraceny!\" \"Reload\"");
 }
 
 TEST_F(FilesTest, SaveAdoptsThePath) {
@@ -140,16 +125,14 @@ TEST_F(FilesTest, SaveAdoptsThePath) {
   editor.saver.SaveToPath("/a/x.y.txt");
   EXPECT_EQ(platform.TakeCalls(), (Calls{"write /a/x.y.txt", "recent /a/x.y.txt"}));
   EXPECT_EQ(platform.files["/a/x.y.txt"], "new\r\n");
-  EXPECT_EQ(documents.Title(), "Pelmar VEX (/a/x.y.txt)");
-  EXPECT_EQ(documents.Face(1).Caption, "x.y.txt");
+  EXPECT_EQ(StateOf(documents), "(/a/x.y.txt)|x.y.txt|/a/x.y.txt|/a/x.y.txt|0");
   EXPECT_EQ(documents.Target().Name(), "x.y");
-  EXPECT_EQ(documents.UnsavedCount(), 0);
 }
 
 TEST_F(FilesTest, SaveAsksBeforeItOverwrites) {
   platform.files["/a.txt"] = "old";
   editor.text.SetText("new");
-  Answers({Answer::kNo, Answer::kYes});
+  platform.answers = {Answer::kNo, Answer::kYes};
   editor.saver.SaveToPath("/a.txt");
   EXPECT_EQ(platform.TakeCalls(),
             (Calls{"message 52 \"Opravdu uložit /a.txt?\r\nSoubor již existuje a bude přepsán!\" \"Soubor\""}));
@@ -161,40 +144,26 @@ TEST_F(FilesTest, SaveAsksBeforeItOverwrites) {
   EXPECT_FALSE(documents.Marked());
 }
 
-TEST_F(FilesTest, FastSaveAsksTwice) {
-  platform.files["/a.txt"] = "old";
-  editor.opener.OpenPath("/a.txt");
-  editor.text.Type("+");
-  platform.calls.clear();
-  Answers({Answer::kYes, Answer::kYes});
-  editor.commands.Run("Mnu_SaveFast");
-  EXPECT_EQ(platform.calls[0], "message 52 \"Opravdu uložit soubor?\r\n\"/a.txt\"\" \"Soubor\"");
-  EXPECT_EQ(platform.files["/a.txt"], "+old");
-  platform.files.erase("/a.txt");
-  Answers({Answer::kYes});
-  editor.commands.Run("Mnu_SaveFast");
-  EXPECT_EQ(platform.files["/a.txt"], "+old");
-}
-
-TEST_F(FilesTest, AFastSaveSaysWhatAnotherProgramDid) {
+TEST_F(FilesTest, AFastSaveAsksTwiceAndSaysWhatAnotherProgramDid) {
   const std::string ask = "message 52 \"Opravdu uložit soubor?\r\n\"/a.txt\"", to_end = "\" \"Soubor\"";
-  const auto asked = [&] {
-    Answers({Answer::kNo});
-    editor.commands.Run("Mnu_SaveFast");
-    return platform.calls.back();
-  };
   editor.text.SetText("mine");
   editor.saver.SaveToPath("/a.txt");
-  EXPECT_EQ(asked(), ask + to_end);
+  EXPECT_EQ(Said("Mnu_SaveFast", {Answer::kNo}), ask + to_end);
   platform.files["/a.txt"] = "their";
-  EXPECT_EQ(asked(), ask + "\r\nSoubor na disku mezitím změnil jiný program!" + to_end);
+  EXPECT_EQ(Said("Mnu_SaveFast", {Answer::kNo}), ask + "\r\nSoubor na disku mezitím změnil jiný program!" + to_end);
+  EXPECT_EQ(platform.files["/a.txt"], "their");
   documents.SwitchTo(2);  // each document has its own
   EXPECT_EQ(editor.files.outside.OfCurrent(), OutsideChange::kNone);
   editor.opener.OpenPath("/a.txt");
-  EXPECT_EQ(asked(), ask + to_end);
+  EXPECT_EQ(Said("Mnu_SaveFast", {Answer::kNo}), ask + to_end);
   documents.SwitchTo(1);
+  Said("Mnu_SaveFast", {Answer::kYes, Answer::kYes});
+  EXPECT_EQ(platform.files["/a.txt"], "mine");
+  EXPECT_EQ(editor.files.outside.OfCurrent(), OutsideChange::kNone);
   platform.files.erase("/a.txt");
-  EXPECT_EQ(asked(), ask + "\r\nSoubor na disku už není!" + to_end);
+  EXPECT_EQ(Said("Mnu_SaveFast", {Answer::kNo}), ask + "\r\nSoubor na disku už není!" + to_end);
+  Said("Mnu_SaveFast", {Answer::kYes});
+  EXPECT_EQ(platform.files["/a.txt"], "mine");
   documents.ClearCurrent();
   EXPECT_EQ(editor.files.outside.OfCurrent(), OutsideChange::kNone);
 }
@@ -203,7 +172,7 @@ TEST_F(FilesTest, AFailedSaveIsToldAndChangesNothing) {
   platform.files["/a.txt"] = "old";
   platform.write_errors["/a.txt"] = ENOSPC;
   editor.text.SetText("new");
-  Answers({Answer::kYes, Answer::kOk});
+  platform.answers = {Answer::kYes, Answer::kOk, Answer::kYes, Answer::kOk};
   editor.saver.SaveToPath("/a.txt");
   const std::string told = "message 0 \"Chyba ukládání!\r\nSoubor: /a.txt\r\nKód chyby " + std::to_string(ENOSPC);
   EXPECT_EQ(platform.calls.back(), told + "\" \"Pelmar VEX\"");
@@ -211,86 +180,68 @@ TEST_F(FilesTest, AFailedSaveIsToldAndChangesNothing) {
   EXPECT_EQ(documents.CurrentPath(), "");
   EXPECT_TRUE(documents.Marked());
   platform.kept_content = "/install/puvodni-1-a.txt";
-  Answers({Answer::kYes, Answer::kOk});
-  editor.saver.SaveToPath("/a.txt");
+  editor.saver.SaveTextCopy("/a.txt", "copy");
   EXPECT_EQ(platform.calls.back(), told +
                                        "\r\nSoubor je poškozen, jeho původní obsah leží v "
                                        "/install/puvodni-1-a.txt\" \"Pelmar VEX\"");
+  EXPECT_EQ(editor.settings.RecentFiles[0], "");
 }
 
 // required: the file is on the disk and the path changed, but title, tab and flag didn't follow
 TEST_F(FilesTest, SavingANameWithoutDotFailsHalfWay) {
   editor.text.SetText("new");
-  Answers({Answer::kOk});
+  platform.answers = {Answer::kOk};
   editor.saver.SaveToPath("/README");
   EXPECT_EQ(platform.files["/README"], "new");
   EXPECT_EQ(documents.CurrentPath(), "/README");
-  EXPECT_EQ(documents.Title(), "Pelmar VEX ()*");
-  EXPECT_EQ(documents.Face(1).Caption, "");
+  EXPECT_EQ(StateOf(documents), "()*||||1");
   EXPECT_EQ(platform.calls.back(), "message 0 \"Chyba ukládání!\r\nSoubor: /README\r\nKód chyby " +
                                        std::to_string(EINVAL) + "\" \"Pelmar VEX\"");
 }
 
-TEST_F(FilesTest, SelectionIsSavedAsACopy) {
+TEST_F(FilesTest, TheDialogsSaveTheSelectionAsACopyAndTheWholeText) {
   editor.text.SetText("abc");
-  editor.commands.Run("mnuulvyb");  // nothing selected: not even a dialog
-  EXPECT_TRUE(platform.calls.empty());
+  EXPECT_EQ(Said("mnuulvyb", {}), "");  // nothing selected: not even a dialog
   editor.text.Select(1, 3);
-  platform.saves = {std::nullopt, "/part.txt"};
-  editor.commands.Run("mnukopsoub");
+  platform.saves = {std::nullopt, "/part.txt", std::nullopt, "/all.txt"};
+  EXPECT_EQ(Said("mnukopsoub", {}), "save \"" + std::string(kDocumentFilter) + "\" 2");
   EXPECT_TRUE(platform.files.empty());
   editor.commands.Run("mnuulvyb");
   EXPECT_EQ(platform.files["/part.txt"], "bc");
-  EXPECT_EQ(documents.Title(), "Pelmar VEX ()*");
-  EXPECT_EQ(documents.CurrentPath(), "");
+  EXPECT_EQ(StateOf(documents), "()*||||1");
   EXPECT_EQ(editor.settings.RecentFiles[0], "/part.txt");
-}
-
-TEST_F(FilesTest, SystemSaveDialogSavesTheWholeText) {
-  editor.text.SetText("abc");
-  platform.saves = {"/all.txt"};
+  EXPECT_EQ(Said("mnu_save_st", {}), "save \"" + std::string(kDocumentFilter) + "\" 2");
   editor.commands.Run("mnu_save_st");
   EXPECT_EQ(platform.files["/all.txt"], "abc");
   EXPECT_EQ(documents.CurrentPath(), "/all.txt");
-  EXPECT_EQ(platform.calls.front(), "save \"" + std::string(kDocumentFilter) + "\" 2");
 }
 
 TEST_F(FilesTest, InsertFromFileReadsOneField) {
-  const struct {
-    std::string_view bytes, field;
-  } cases[] = {
-      {"abc,def", "abc"},
-      {"  abc  \r\ndef", "abc"},
-      {"\"a, b\r\nc\" ,d", "a, b\r\nc"},
-      {"", ""},
-      {",x", ""},
-      {"\"open", "open"},
-      {"a\nb", "a"},
-      {"   ", ""},
-      {"a \"b\" c,d", "a \"b\" c"},
-      {"\r\nx", ""},
+  const std::pair<std::string_view, std::string_view> cases[] = {
+      {" \t abc \t,def", "abc"}, {"\"a, b\r\nc\" ,d", "a, b\r\nc"}, {"", ""},    {",x", ""},
+      {"\"open", "open"},        {"a \"b\" c\nd", "a \"b\" c"},     {"   ", ""}, {"\r\nx", ""},
   };
-  for (const auto& c : cases) EXPECT_EQ(FirstField(c.bytes), c.field) << c.bytes;
+  for (const auto& [bytes, field] : cases) EXPECT_EQ(FirstField(bytes), field) << bytes;
   editor.text.SetText("12345");
   editor.text.Select(1, 3);
-  platform.files["/in.txt"] = "abc, rest";
-  platform.files["/empty.txt"] = "";
-  platform.opens = {"/in.txt", "/none.txt", "/empty.txt"};
+  platform.files = {{"/in.txt", "abc, rest"}, {"/empty.txt", ""}};
+  platform.opens = {"/in.txt", "/none.txt", "/empty.txt", std::nullopt};
   editor.commands.Run("mnuzesouboru");
   EXPECT_EQ(Text(), "1abc45");
   EXPECT_EQ(editor.settings.RecentFiles[0], "/in.txt");
-  editor.commands.Run("mnuzesouboru");  // a failure is silent
   editor.text.Select(1, 3);
-  editor.commands.Run("mnuzesouboru");  // no field to read, so the selection isn't lost
+  // A failure is silent, and where there is no field to read, the selection isn't lost.
+  for (int i = 0; i < 3; ++i) editor.commands.Run("mnuzesouboru");
   EXPECT_EQ(Text(), "1abc45");
+  EXPECT_FALSE(editor.file_number.IsOpen());
 }
 
 TEST_F(FilesTest, NewDocumentAsksAlways) {
-  Answers({Answer::kNo, Answer::kYes});
-  editor.commands.Run("New");
-  EXPECT_EQ(platform.calls.back(), "message 52 \"Opravdu nový soubor ?\" \"Nový\"");
+  EXPECT_EQ(Said("New", {Answer::kNo}), "message 52 \"Opravdu nový soubor ?\" \"Nový\"");
   editor.text.SetText("x");
-  editor.commands.Run("mnuclean");
+  Said("New", {Answer::kNo});
+  EXPECT_EQ(Text(), "x");
+  Said("mnuclean", {Answer::kYes});
   EXPECT_EQ(Text(), "");
   EXPECT_FALSE(documents.Marked());
 }

@@ -18,32 +18,26 @@ double EndOf(double x, std::string_view text) {
   return x;
 }
 
-using Pieces = std::vector<PrintedPiece>;
 constexpr double kPage = 18;  // ten columns for text, eight for the "Z"s
 
-TEST(PrintLayout, WrapsAtBlanks) {
-  EXPECT_EQ(LayOutForPrint("", kPage, EndOf), Pieces());
-  EXPECT_EQ(LayOutForPrint("abcd efgh ij", kPage, EndOf), (Pieces{{0, 0, "abcd"}, {0, 5, "efgh"}, {1, 0, "ij"}}));
-  EXPECT_EQ(LayOutForPrint("abcd efghi", kPage, EndOf), (Pieces{{0, 0, "abcd"}, {0, 5, "efghi"}}));  // fits exactly
-  EXPECT_EQ(LayOutForPrint("a   b", kPage, EndOf), (Pieces{{0, 0, "a"}, {0, 4, "b"}}));
-  EXPECT_EQ(LayOutForPrint("a\tb c", kPage, EndOf), (Pieces{{0, 0, "a\tb"}, {1, 0, "c"}}));
-  // Blanks run past the margin like words without width, each line with as many as fit.
-  EXPECT_EQ(LayOutForPrint(std::string(12, ' ') + "x", kPage, EndOf), (Pieces{{1, 1, "x"}}));
-}
-
-TEST(PrintLayout, AWideWordBeginsALineAndIsNotBroken) {
-  EXPECT_EQ(LayOutForPrint("ab abcdefghijklmnopqrstuvwxyz c", kPage, EndOf),
-            (Pieces{{0, 0, "ab"}, {1, 0, "abcdefghijklmnopqrstuvwxyz"}, {2, 0, "c"}}));
-  EXPECT_EQ(LayOutForPrint("abcdefghijk", kPage, EndOf), (Pieces{{1, 0, "abcdefghijk"}}));  // required
-}
-
-TEST(PrintLayout, LineBreaksOfTheTextBreakLines) {
-  EXPECT_EQ(LayOutForPrint("ab\r\n\r\ncd\nef gh\rij", kPage, EndOf),
-            (Pieces{{0, 0, "ab"}, {2, 0, "cd"}, {3, 0, "ef"}, {3, 3, "gh"}, {4, 0, "ij"}}));
-  // Only what stands before the break has to fit.
-  EXPECT_EQ(LayOutForPrint("abcde fg\r\nhijklmno p", kPage, EndOf),
-            (Pieces{{0, 0, "abcde"}, {0, 6, "fg"}, {1, 0, "hijklmno"}, {1, 9, "p"}}));
-  EXPECT_EQ(LayOutForPrint("\r\n", kPage, EndOf), Pieces());
+TEST(PrintLayout, WrapsAtBlanksAndBreaks) {
+  const std::pair<std::string, std::vector<PrintedPiece>> cases[] = {
+      {"", {}},
+      {"abcd efgh ij", {{0, 0, "abcd"}, {0, 5, "efgh"}, {1, 0, "ij"}}},
+      {"abcd efghi", {{0, 0, "abcd"}, {0, 5, "efghi"}}},  // fits exactly
+      {"a   b", {{0, 0, "a"}, {0, 4, "b"}}},
+      {"a\tb c", {{0, 0, "a\tb"}, {1, 0, "c"}}},
+      // Blanks run past the margin like words without width, each line with as many as fit.
+      {"            x", {{1, 1, "x"}}},
+      // A wide word begins a line and isn't broken. required: a first one too
+      {"ab abcdefghijklmnopqrstuvwxyz c", {{0, 0, "ab"}, {1, 0, "abcdefghijklmnopqrstuvwxyz"}, {2, 0, "c"}}},
+      {"abcdefghijk", {{1, 0, "abcdefghijk"}}},
+      {"ab\r\n\r\ncd\nef gh\rij", {{0, 0, "ab"}, {2, 0, "cd"}, {3, 0, "ef"}, {3, 3, "gh"}, {4, 0, "ij"}}},
+      // Only what stands before the break has to fit.
+      {"abcde fg\r\nhijklmno p", {{0, 0, "abcde"}, {0, 6, "fg"}, {1, 0, "hijklmno"}, {1, 9, "p"}}},
+      {"\r\n", {}},
+  };
+  for (const auto& [text, pieces] : cases) EXPECT_EQ(LayOutForPrint(text, kPage, EndOf), pieces) << text;
 }
 
 TEST(PrintName, IsTheFilesName) {

@@ -97,24 +97,21 @@ TEST_F(SessionTest, SettingsAreAppliedAndRepaired) {
 }
 
 TEST_F(SessionTest, TextComesFromTheRecoveryFileOrTheClipboard) {
-  const struct {
-    std::optional<std::size_t> recovery;  // its length
-    std::optional<std::string> clipboard;
-    std::string expected;
-  } cases[] = {
-      {64000, "clip", std::string(64000, 'r')},
-      {64001, "clip", "clip"},
-      {64001, std::nullopt, ""},
-      {0, "clip", "clip"},
+  const std::string longest(64000, 'r');
+  const std::tuple<std::optional<std::string>, std::optional<std::string>, std::string> cases[] = {
+      {longest, "clip", longest},
+      {longest + 'r', "clip", "clip"},
+      {longest + 'r', std::nullopt, ""},
+      {"", "clip", "clip"},
       {std::nullopt, std::string(70000, 'c'), std::string(70000, 'c')},  // no length test here
   };
-  for (const auto& c : cases) {
+  for (const auto& [recovery, clipboard, text] : cases) {
     ScriptedPlatform system;
-    if (c.recovery) system.files[kRecovery] = std::string(*c.recovery, 'r');
-    system.clipboard = c.clipboard;
+    if (recovery) system.files[kRecovery] = *recovery;
+    system.clipboard = clipboard;
     Desk one(system);
     one.session.Start("");
-    EXPECT_EQ(one.editor.text.Text() == c.expected, true) << c.recovery.value_or(1);
+    EXPECT_TRUE(one.editor.text.Text() == text) << text.size();
     EXPECT_EQ(one.editor.documents.Title(), "Pelmar VEX ()");
     EXPECT_EQ(one.editor.documents.UnsavedCount(), 0);
     EXPECT_TRUE(system.calls.empty());
@@ -122,32 +119,26 @@ TEST_F(SessionTest, TextComesFromTheRecoveryFileOrTheClipboard) {
 }
 
 TEST_F(SessionTest, CommandTails) {
-  const struct {
-    std::string tail, shown;
-    bool show_start = false;
-  } cases[] = {
-      {"", "main"},
-      {"", "start", true},
-      {"-NOMSG", "main", true},
-      {"-nomsg", "main", true},
-      {"-CALC", "accessory 1"},
-      {"-calc", "accessory 1", true},
-      {"-NOTE", "accessory 2"},
-      {"-Browser", "accessory 3"},
-      {"/a.txt", "main", true},
+  const std::tuple<std::string, bool, std::string> cases[] = {
+      {"", false, "main"},
+      {"", true, "start"},
+      {"-nomsg", true, "main"},
+      {"-CALC", false, "accessory 1"},
+      {"-calc", true, "accessory 1"},
+      {"-NOTE", false, "accessory 2"},
+      {"-Browser", false, "accessory 3"},
+      {"/a.txt", true, "main"},
   };
-  for (const auto& c : cases) {
+  for (const auto& [tail, show_start, shown] : cases) {
     ScriptedPlatform system;
-    system.files["/a.txt"] = "file";
-    system.files[kRecovery] = "recovered";
     SettingsRecord r = Stored();
-    r.ShowStart = c.show_start;
-    system.files[kSettings] = SettingsBytes(r);
+    r.ShowStart = show_start;
+    system.files = {{"/a.txt", "file"}, {kRecovery, "recovered"}, {kSettings, SettingsBytes(r)}};
     Desk one(system);
-    one.session.Start(c.tail);
+    one.session.Start(tail);
     std::erase(one.view.calls, "recent");  // the file that was opened, behind the last step
-    EXPECT_EQ(one.view.calls.back(), c.shown) << c.tail;
-    EXPECT_EQ(one.editor.text.Text(), c.tail == "/a.txt" ? "file" : "recovered");
+    EXPECT_EQ(one.view.calls.back(), shown) << tail;
+    EXPECT_EQ(one.editor.text.Text(), tail == "/a.txt" ? "file" : "recovered");
   }
   Store(Stored());
   platform.answers = {Answer::kOk};
@@ -161,37 +152,39 @@ TEST_F(SessionTest, CloseWritesTheFilesBeforeItAsks) {
   editor.text.SetText("text\r\n");
   view.place = {150, 300, 9000, 6000};
   view.state = 2;
-  view.look = {"Font", Rgb(1, 1, 1), Rgb(2, 2, 2), 11.6, true, true};
+  view.look = {"Font", Rgb(1, 1, 1), Rgb(2, 2, 2), 11.6, true, false};
   editor.documents.SwitchTo(2);
   editor.text.SetText("second");
-  platform.answers = {Answer::kNo};
+  platform.answers = {Answer::kNo, Answer::kYes};
   EXPECT_FALSE(session.Close());
   EXPECT_EQ(platform.TakeCalls(), (Calls{"write /install/autosave_pelmar_vex.txt",
                                          "write /install/autosave_all_files.txt", "write /install/pelmar.ini",
                                          "message 52 \"2 neuložené zněněné soubory! Opravdu konec?\" \"Konec\""}));
   EXPECT_EQ(platform.files[kRecovery], "second");
-  EXPECT_EQ(platform.files[kAllFiles].substr(0, 40), "Soubor:\r\ntext\r\n\r\n\r\nSoubor:\r\nsecond\r\n\r\nSo");
-  const std::string& ini = platform.files[kSettings];
-  EXPECT_EQ(ini.size(), 200u);  // the old tail stays
-  EXPECT_EQ(ini.back(), 'T');
-  const SettingsRecord stored = ReadSettings(ini);
-  EXPECT_EQ(stored.Top, 300);
-  EXPECT_EQ(stored.WindowState, 2);
-  EXPECT_EQ(stored.FontSize, 12);
-  EXPECT_TRUE(stored.FontBold);
-  platform.answers = {Answer::kYes};
+  EXPECT_EQ(platform.files[kAllFiles], AllFilesText(editor.documents));
+  SettingsRecord r;
+  r.Left = 150;
+  r.Top = 300;
+  r.Width = 9000;
+  r.Height = 6000;
+  r.WindowState = 2;
+  r.FontName = "Font";
+  r.ForeColor = Rgb(1, 1, 1);
+  r.BackColor = Rgb(2, 2, 2);
+  r.FontSize = 12;
+  r.FontBold = true;
+  const std::string bytes = SettingsBytes(r);
+  EXPECT_EQ(platform.files[kSettings], bytes + std::string(200 - bytes.size(), 'T'));  // the old tail stays
   EXPECT_TRUE(session.Close());
 }
 
-TEST_F(SessionTest, CloseWithoutChangesAsksNothing) {
+TEST_F(SessionTest, CloseWithoutChangesAsksNothingAndOneThatCannotWriteIsARuntimeError) {
   Store(Stored());
   platform.files[kRecovery] = "restored";
   session.Start("");
   EXPECT_TRUE(session.Close());
   EXPECT_EQ(platform.files[kRecovery], "restored");
-}
-
-TEST_F(SessionTest, AReadOnlyInstallFolderIsARuntimeErrorWithoutAQuestion) {
+  platform.TakeCalls();
   platform.write_errors[kRecovery] = EROFS;
   editor.text.SetText("changed");
   try {

@@ -6,6 +6,7 @@
 #include "program/session.h"
 #include "shell/rescue_file.h"
 #include "shell/rescued_documents.h"
+#include "support/document_state.h"
 
 namespace pelmar {
 namespace {
@@ -20,68 +21,56 @@ struct DocumentsTest : testing::Test {
   }
 };
 
-TEST_F(DocumentsTest, ChangeMarksTheTitleAndFillsTheSlot) {
-  EXPECT_EQ(documents.Title(), "Pelmar VEX ()");
+TEST_F(DocumentsTest, AChangeMarksTheTitleAndASwitchKeepsTextPathAndMark) {
+  EXPECT_EQ(StateOf(documents), "()||||0");
   Type("a");
-  EXPECT_EQ(documents.Title(), "Pelmar VEX ()*");
-  Type("b");
-  EXPECT_EQ(documents.Title(), "Pelmar VEX ()*");
-  EXPECT_EQ(documents.TextOf(1), "ab");
-  EXPECT_FALSE(documents.Slot(1).Modified);  // the mark of the current tab lives in the title alone
-  EXPECT_EQ(documents.UnsavedCount(), 1);
-}
-
-TEST_F(DocumentsTest, SwitchingKeepsTextPathAndMark) {
+  EXPECT_EQ(StateOf(documents), "()*||||1");  // the mark of the current tab lives in the title alone
+  EXPECT_EQ(documents.TextOf(1), "a");
   documents.MakeCurrent("/a/one.txt", "one");
-  EXPECT_EQ(documents.Face(1).Caption, "one.txt");
-  EXPECT_EQ(documents.Face(1).ToolTipText, "/a/one.txt");
+  EXPECT_EQ(StateOf(documents), "(/a/one.txt)|one.txt|/a/one.txt|/a/one.txt|0");
   Type("!");
   documents.SwitchTo(3);
   EXPECT_EQ(text.Text(), "");
-  EXPECT_EQ(documents.CurrentPath(), "");
-  EXPECT_EQ(documents.Title(), "Pelmar VEX ()");
   EXPECT_TRUE(documents.Slot(1).Modified);
   Type("three");
-  EXPECT_EQ(documents.UnsavedCount(), 2);
+  EXPECT_EQ(StateOf(documents), "()*||||2");
   documents.SwitchTo(1);
   EXPECT_EQ(text.Text(), "one!");
   EXPECT_EQ(text.SelStart(), 0u);
   EXPECT_FALSE(text.CanUndo());
-  EXPECT_EQ(documents.Title(), "Pelmar VEX (/a/one.txt)*");
-  EXPECT_EQ(documents.UnsavedCount(), 2);  // by its flag and by the title, but once
+  // Unsaved by its flag and by the title, but counted once.
+  EXPECT_EQ(StateOf(documents), "(/a/one.txt)*|one.txt|/a/one.txt|!|2");
 }
 
 // required: the change that a switch raises still writes the path of the tab that was left
 TEST_F(DocumentsTest, EnteredSlotHoldsTheLeftPathUntilTheNextChange) {
   documents.MakeCurrent("/a/one.txt", "one");
   documents.SwitchTo(2);
-  EXPECT_EQ(documents.Slot(2).Path, "/a/one.txt");
-  EXPECT_NE(AllFilesText(documents).find("Soubor:/a/one.txt\r\n\r\n\r\n"), std::string::npos);
+  EXPECT_EQ(AllFilesText(documents),
+            "Soubor:/a/one.txt\r\none\r\n\r\nSoubor:/a/one.txt\r\n\r\n\r\n"
+            "Soubor:\r\n\r\n\r\nSoubor:\r\n\r\n\r\nSoubor:\r\n\r\n\r\n");
   Type("x");
-  EXPECT_EQ(documents.Slot(2).Path, "");
+  EXPECT_EQ(StateOf(documents), "()*||||1");
   documents.SwitchTo(1);
   documents.SwitchTo(4);
-  EXPECT_EQ(documents.Slot(4).Path, "/a/one.txt");
+  EXPECT_EQ(StateOf(documents), "()|||/a/one.txt|1");
   documents.SwitchTo(5);  // two empty texts: no change, so the slot keeps its path
-  EXPECT_EQ(documents.Slot(5).Path, "");
+  EXPECT_EQ(StateOf(documents), "()||||1");
 }
 
 TEST_F(DocumentsTest, OnlyDocumentsWithAPathPrimeTheSaveDialog) {
+  const auto primed = [this] {
+    const SaveTarget& target = documents.Target();
+    return target.Path() + '|' + target.Folder() + '|' + target.Name() + '|' + target.Extension();
+  };
   documents.MakeCurrent("/a/one.txt", "one");
   documents.SwitchTo(2);
   documents.Target().Prime("/b/kept.txt");
   documents.SwitchTo(3);
-  EXPECT_EQ(documents.Target().Path(), "/b/kept.txt");
+  EXPECT_EQ(primed(), "/b/kept.txt|/b/|kept|txt");
   documents.SwitchTo(1);
-  EXPECT_EQ(documents.Target().Folder(), "/a/");
-  EXPECT_EQ(documents.Target().Name(), "one");
-  EXPECT_EQ(documents.Target().Extension(), "txt");
-  EXPECT_EQ(documents.Target().Path(), "/a/one.txt");
-}
-
-TEST_F(DocumentsTest, PrimingBreaksOffAtANameWithoutDot) {
-  documents.Target().Prime("/a/one.txt");
-  EXPECT_THROW(documents.Target().Prime("/b/README"), RuntimeError);
+  EXPECT_EQ(primed(), "/a/one.txt|/a/|one|txt");
+  EXPECT_THROW(documents.Target().Prime("/b/README"), RuntimeError);  // required: half of it
   EXPECT_EQ(documents.Target().Folder(), "/b/");
   EXPECT_EQ(documents.Target().Name(), "one");
   EXPECT_FALSE(documents.Target().Complete());
@@ -91,20 +80,8 @@ TEST_F(DocumentsTest, ClearCurrentLeavesTheOldPathInTheSlot) {
   documents.MakeCurrent("/a/one.txt", "one");
   Type("!");
   documents.ClearCurrent();
-  EXPECT_EQ(documents.Title(), "Pelmar VEX ()");
+  EXPECT_EQ(StateOf(documents), "()|||/a/one.txt|0");  // required: written back by the change
   EXPECT_EQ(documents.CurrentPath(), "");
-  EXPECT_EQ(documents.Face(1).Caption, "");
-  EXPECT_EQ(documents.Face(1).ToolTipText, "");
-  EXPECT_EQ(documents.Slot(1).Path, "/a/one.txt");  // required: written back by the change
-  EXPECT_FALSE(documents.Slot(1).Modified);
-  EXPECT_EQ(documents.UnsavedCount(), 0);
-}
-
-TEST_F(DocumentsTest, AllFilesTextHasABlockForEachSlot) {
-  documents.MakeCurrent("/a/one.txt", "one");
-  EXPECT_EQ(AllFilesText(documents),
-            "Soubor:/a/one.txt\r\none\r\n\r\n"
-            "Soubor:\r\n\r\n\r\nSoubor:\r\n\r\n\r\nSoubor:\r\n\r\n\r\nSoubor:\r\n\r\n\r\n");
 }
 
 TEST_F(DocumentsTest, RescueKeepsTheUnsavedDocumentsAndBringsThemBack) {
@@ -122,11 +99,9 @@ TEST_F(DocumentsTest, RescueKeepsTheUnsavedDocumentsAndBringsThemBack) {
   EXPECT_TRUE(BringBackDocuments(later, {kept}).empty());
   EXPECT_EQ(later.SelectedTab(), 4);
   EXPECT_EQ(box.Text(), "never saved");
-  EXPECT_EQ(later.Title(), "Pelmar VEX ()*");
+  EXPECT_EQ(StateOf(later), "()*|||!|2");
   later.SwitchTo(1);
-  EXPECT_EQ(later.Title(), "Pelmar VEX (/a/one.txt)*");
-  EXPECT_EQ(later.Face(1).Caption, "one.txt");
-  EXPECT_EQ(later.UnsavedCount(), 2);
+  EXPECT_EQ(StateOf(later), "(/a/one.txt)*|one.txt|/a/one.txt|!|2");
 }
 
 TEST_F(DocumentsTest, RescueNeverOverwritesADocumentOfThisRun) {

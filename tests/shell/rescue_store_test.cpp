@@ -4,12 +4,12 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 
 #include "shell/rescue_file.h"
+#include "support/temp_folder.h"
 
 namespace pelmar {
 namespace {
@@ -21,17 +21,10 @@ int WritePlainly(const std::string& path, std::string_view bytes) {
   return 0;
 }
 
-std::string Content(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
-
 struct RescueStoreTest : testing::Test {
-  RescueStoreTest() {
-    std::string name = (std::filesystem::temp_directory_path() / "rescueXXXXXX").string();
-    folder = std::string(::mkdtemp(name.data())) + "/";
-  }
-  ~RescueStoreTest() override { std::filesystem::remove_all(folder); }
+  TempFolder temp;
+  const std::string folder = temp.Path() + "/";
+
   [[nodiscard]] std::size_t Files() const {
     return static_cast<std::size_t>(
         std::distance(std::filesystem::directory_iterator(folder), std::filesystem::directory_iterator()));
@@ -47,8 +40,6 @@ struct RescueStoreTest : testing::Test {
     int status = 0;
     ::waitpid(child, &status, 0);
   }
-
-  std::string folder;
 };
 
 TEST_F(RescueStoreTest, AnOrdinaryEndLeavesNothing) {

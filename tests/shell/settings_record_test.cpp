@@ -2,10 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <random>
 #include <string>
 
 #include "platform/color.h"
+#include "support/random_source.h"
 #include "text/codepage.h"
 
 namespace pelmar {
@@ -23,7 +23,6 @@ SettingsRecord FullRecord() {
   r.BackColor = Rgb(255, 254, 253);
   r.FontSize = 14;
   r.FontBold = true;
-  r.FontItalic = true;
   r.UserName = "Jan";
   r.UserEmail = "j@x.cz";
   r.ShowStart = true;
@@ -37,34 +36,21 @@ SettingsRecord FullRecord() {
 
 TEST(SettingsRecord, HasTheToldBytes) {
   EXPECT_EQ(SettingsBytes({}), std::string(71, '\0'));
-  SettingsRecord r;
-  r.Width = 0x01020304;
-  r.Height = -1;
-  r.AlwaysOnTopFlag = true;
-  r.FontName = "Až"_w;
-  r.ForeColor = Rgb(0x11, 0x22, 0x33);
-  r.FontSize = 8;
-  const std::string bytes = SettingsBytes(r);
-  EXPECT_EQ(bytes.size(), 73u);
-  EXPECT_EQ(bytes.substr(0, 8), "\x04\x03\x02\x01\xFF\xFF\xFF\xFF");
-  EXPECT_EQ(bytes.substr(16, 10), std::string("\xFF\xFF\x02\x00"  // flag, count
-                                              "A\x9E"
-                                              "\x11\x22\x33\x00",
-                                              10));
-  EXPECT_EQ(bytes[30], 8);
-}
-
-TEST(SettingsRecord, ReadsBackWhatItWrote) {
+  std::string expected(
+      "\xE0\x2E\0\0\x28\x23\0\0\xF1\xFF\xFF\xFF\xA0\x05\0\0\xFF\xFF"  // the place, always on top
+      "\5\0P\xEDsmo\1\2\3\0\xFF\xFE\xFD\0\x0E\xFF\xFF\0\0"            // the font and its colours
+      "\3\0Jan\6\0j@x.cz\xFF\xFF\x2C\1\0\0\5\0tajn\xE9",
+      18 + 7 + 8 + 5 + 5 + 8 + 2 + 4 + 7);
+  for (int i = 0; i < 10; ++i) expected += std::string("\x0C\0/soubor", 9) + std::to_string(i) + ".txt";
+  expected += std::string("\2\0\0\0\xFF\xFF", 6);
   const SettingsRecord r = FullRecord();
-  EXPECT_EQ(ReadSettings(SettingsBytes(r)), r);
-  EXPECT_EQ(ReadSettings(SettingsBytes(r) + "an old tail"), r);
+  EXPECT_EQ(SettingsBytes(r), expected);
+  EXPECT_EQ(ReadSettings(expected + "an old tail"), r);
   SettingsRecord long_name;
   long_name.FontName = std::string(300, 'x');
-  EXPECT_EQ(ReadSettings(SettingsBytes(long_name)).FontName.size(), 300u);
-  EXPECT_EQ(SettingsBytes(long_name).substr(18, 2), "\x2C\x01");
-  SettingsRecord too_long;
-  too_long.UserName = std::string(70000, 'x');
-  EXPECT_EQ(ReadSettings(SettingsBytes(too_long)).UserName.size(), 65535u);
+  EXPECT_EQ(ReadSettings(SettingsBytes(long_name)), long_name);
+  long_name.UserName = std::string(70000, 'x');
+  EXPECT_EQ(ReadSettings(SettingsBytes(long_name)).UserName.size(), 65535u);
 }
 
 // Every short length: the fields that are whole keep their values, the rest reads as zero and empty.
@@ -80,21 +66,17 @@ TEST(SettingsRecord, ShortFilesReadAsZeroFromTheirEndOn) {
 }
 
 TEST(SettingsRecord, DamagedFilesNeverReadBeyondTheirEnd) {
-  std::mt19937 random(1);
+  RandomSource random(1);
   for (int round = 0; round < 2000; ++round) {
-    std::string bytes(random() % 201, '\0');
-    for (char& ch : bytes) ch = CharOf(static_cast<int>(random() & 0xFF));
+    const std::string bytes = random.Bytes(200);
     const SettingsRecord r = ReadSettings(bytes);
-    std::size_t total = r.FontName.size() + r.UserName.size() + r.UserEmail.size() + r.LockPassword.size();
-    ASSERT_LE(total, bytes.size());
+    ASSERT_LE(r.FontName.size() + r.UserName.size() + r.UserEmail.size() + r.LockPassword.size(), bytes.size());
     ASSERT_EQ(ReadSettings(SettingsBytes(r)), r);
   }
   // A count beyond the end is no string, and nothing behind it counts.
   std::string bytes = SettingsBytes(FullRecord());
-  bytes[18] = '\xFF';
-  bytes[19] = '\xFF';
-  EXPECT_EQ(ReadSettings(bytes).FontName, "");
-  EXPECT_EQ(ReadSettings(bytes).FontSize, 0);
+  bytes[18] = bytes[19] = '\xFF';
+  EXPECT_EQ(ReadSettings(bytes), ReadSettings(bytes.substr(0, 18)));
   EXPECT_EQ(ReadSettings(bytes).Left, 1440);
 }
 

@@ -1,7 +1,8 @@
 #include "shell/window_geometry.h"
-#include "platform/twips.h"
 
 #include <gtest/gtest.h>
+
+#include "platform/twips.h"
 
 namespace pelmar {
 namespace {
@@ -60,36 +61,29 @@ LayoutInput Window() {
   return in;
 }
 
-TEST(Layout, FollowsTheBarsThatAreVisible) {
-  LayoutResult out = ComputeLayout(Window());
-  EXPECT_EQ(out.text_width, 11540);
-  EXPECT_EQ(out.tabs_width, 11900);
-  EXPECT_EQ(out.text_top, 500);
-  EXPECT_EQ(out.text_height, 7210);
-  EXPECT_EQ(out.panel4_width, 7080);
-  EXPECT_EQ(out.grow_outer_height, 0);
-  LayoutInput bare = Window();
-  bare.toolbar_visible = bare.bar_visible = bare.tabs_visible = false;
-  out = ComputeLayout(bare);
-  EXPECT_EQ(out.text_width, 11900);
-  EXPECT_EQ(out.tabs_width, std::nullopt);
-  EXPECT_EQ(out.text_top, 0);
-  EXPECT_EQ(out.text_height, 8010);
+// Top, height and width of the text, the widths of the tabs and of panel 4, by how much the window has to grow.
+std::string Laid(const LayoutInput& in) {
+  const LayoutResult out = ComputeLayout(in);
+  std::string laid = std::to_string(out.text_top);
+  for (const std::optional<int>& part : {out.text_height, out.text_width, out.tabs_width, out.panel4_width})
+    laid += part ? ' ' + std::to_string(*part) : " -";
+  return laid + ' ' + std::to_string(out.grow_outer_height);
 }
 
-TEST(Layout, KeepsRoomForItsBars) {
+TEST(Layout, FollowsTheBarsThatAreVisibleAndKeepsRoomForThem) {
   LayoutInput in = Window();
+  EXPECT_EQ(Laid(in), "500 7210 11540 11900 7080 0");
   in.inner_height = 1069;
-  EXPECT_EQ(ComputeLayout(in).grow_outer_height, 1);
+  EXPECT_EQ(Laid(in), "500 279 11540 11900 7080 1");
   in.bar_visible = false;
-  EXPECT_EQ(ComputeLayout(in).grow_outer_height, 0);
+  EXPECT_EQ(Laid(in), "500 579 11540 11900 7080 0");
   in.inner_height = 0;
-  EXPECT_EQ(ComputeLayout(in).grow_outer_height, 0);
+  EXPECT_EQ(Laid(in), "500 -490 11540 11900 7080 0");
+  in.toolbar_visible = in.tabs_visible = false;
+  in.inner_height = 269;
+  EXPECT_EQ(Laid(in), "0 279 11900 - 7080 1");
   in.minimised = true;
-  const LayoutResult out = ComputeLayout(in);
-  EXPECT_EQ(out.text_width, std::nullopt);
-  EXPECT_EQ(out.panel4_width, std::nullopt);
-  EXPECT_EQ(out.text_top, 500);
+  EXPECT_EQ(Laid(in), "0 - - - - 0");
 }
 
 }  // namespace

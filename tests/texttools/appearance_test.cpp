@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include <cmath>
 
 #include "platform/color.h"
 #include "platform/twips.h"
@@ -20,25 +20,28 @@ struct AppearanceTest : testing::Test {
   PlainView view;
 
   AppearanceTest() { AddAppearanceCommands(editor, view); }
-  [[nodiscard]] bool Told(const char* call) const { return std::ranges::find(view.calls, call) != view.calls.end(); }
+  // The look behind a command, and the marks that it set in the menu.
+  std::string After(const char* command) {
+    view.calls.clear();
+    editor.commands.Run(command);
+    std::string shown = view.look.font_name + ' ' + std::to_string(std::lround(view.look.font_size));
+    if (view.look.bold) shown += " bold";
+    if (view.look.italic) shown += " italic";
+    shown += ' ' + ColorToHex(view.look.fore_color) + ' ' + ColorToHex(view.look.back_color);
+    for (const std::string& call : view.calls)
+      if (call.ends_with(" mark") || call == "normal") shown += ", " + call;
+    return shown;
+  }
 };
 
-TEST_F(AppearanceTest, StyleSizeAndColours) {
-  editor.commands.Run("mnu17");
-  EXPECT_EQ(view.look.font_size, 17);
-  editor.commands.Run("mnuEditBold");
-  EXPECT_TRUE(view.look.bold && Told("bold mark"));
-  editor.commands.Run("mnuEditBold");
-  EXPECT_FALSE(view.look.bold);
-  EXPECT_TRUE(Told("no bold mark"));
-  editor.commands.Run("mnuitalic");
-  EXPECT_TRUE(view.look.italic && Told("italic mark"));
-  view.SetEditorColors(Rgb(1, 2, 3), Rgb(255, 255, 255));
-  editor.commands.Run("mnuinvert");
-  EXPECT_EQ(view.look.fore_color, Rgb(254, 253, 252));
-  EXPECT_EQ(view.look.back_color, 0);
-  editor.commands.Run("mnuinvert");
-  EXPECT_EQ(view.look.fore_color, Rgb(1, 2, 3));
+TEST_F(AppearanceTest, StyleSizeColoursAndAlignment) {
+  view.look = {"Font", Rgb(1, 2, 3), Rgb(255, 255, 255), 8, false, false};
+  EXPECT_EQ(After("mnu17"), "Font 17 #010203 #FFFFFF");
+  EXPECT_EQ(After("mnuEditBold"), "Font 17 bold #010203 #FFFFFF, bold mark");
+  EXPECT_EQ(After("mnuitalic"), "Font 17 bold italic #010203 #FFFFFF, italic mark");
+  EXPECT_EQ(After("mnuEditBold"), "Font 17 italic #010203 #FFFFFF, no bold mark");
+  EXPECT_EQ(After("mnuinvert"), "Font 17 italic #FEFDFC #000000");
+  EXPECT_EQ(After("mnuinvert"), "Font 17 italic #010203 #FFFFFF");
   for (const int expected : {1, 2, 0}) {
     editor.commands.Run("Mnu_Change_Alingment");
     EXPECT_EQ(view.alignment, expected);
@@ -47,24 +50,12 @@ TEST_F(AppearanceTest, StyleSizeAndColours) {
 
 TEST_F(AppearanceTest, DosAndBasicLook) {
   view.look.bold = view.look.italic = true;
-  editor.commands.Run("Dos");
-  EXPECT_TRUE(Told("normal"));
-  EXPECT_TRUE(Told("no bold mark") && Told("no italic mark"));
-  EXPECT_EQ(view.place.width, 9210);
-  EXPECT_EQ(view.place.height, 6675);
-  EXPECT_EQ(view.look.fore_color, Rgb(194, 194, 194));
-  EXPECT_EQ(view.look.back_color, 0);
-  EXPECT_EQ(view.look.font_name, "Courier New");
-  EXPECT_FALSE(view.look.bold || view.look.italic);
+  EXPECT_EQ(After("Dos"), "Courier New 8 #C2C2C2 #000000, normal, no bold mark, no italic mark");
+  EXPECT_EQ(view.place, (TwipsRect{0, 0, 9210, 6675}));
   view.look.bold = view.look.italic = true;
-  view.calls.clear();
-  editor.commands.Run("mnubasic");
-  EXPECT_EQ(view.look.font_name, "MS Sans Serif");
-  EXPECT_FALSE(view.look.bold || view.look.italic);
-  EXPECT_FALSE(Told("no bold mark"));  // required: the mark of mnuEditBold stays
-  EXPECT_TRUE(Told("no italic mark"));
-  EXPECT_EQ(view.look.back_color, 0xFFFFFF);
-  EXPECT_EQ(view.place.width, 9210);
+  view.place = {};
+  EXPECT_EQ(After("mnubasic"), "MS Sans Serif 8 #000000 #FFFFFF, no italic mark");  // required: not that of bold
+  EXPECT_EQ(view.place, TwipsRect{});
 }
 
 TEST(Visual, ALookWithoutAFontLeavesTheFont) {
@@ -79,32 +70,24 @@ TEST(Visual, ALookWithoutAFontLeavesTheFont) {
 }
 
 TEST(Visual, SizeField) {
-  const struct {
-    std::string_view typed;
-    SizeField field;
-  } cases[] = {
-      {"", {"1", 1}},   {"0", {"1", 1}},      {"00", {"1", 1}},  {"11", {"11", 11}},
-      {"08", {"8", 8}}, {"123", {"12", 123}}, {"abc", {"1", 1}}, {"9x", {"9", 9}},
+  const std::pair<std::string_view, SizeField> cases[] = {
+      {"", {"1", 1}},       {"00", {"1", 1}},  {"11", {"11", 11}}, {"08", {"8", 8}},
+      {"123", {"12", 123}}, {"abc", {"1", 1}}, {"9x", {"9", 9}},   {"99999", {"99", 9999}},
   };
-  for (const auto& c : cases) EXPECT_EQ(NormalizeSize(c.typed), c.field) << c.typed;
+  for (const auto& [typed, field] : cases) EXPECT_EQ(NormalizeSize(typed), field) << typed;
 }
 
 TEST(LayoutPicker, NineParts) {
-  const struct {
-    int row, column;
-    std::string_view name;
-    TwipsRect place;
-  } cases[] = {
+  const std::tuple<int, int, std::string_view, TwipsRect> cases[] = {
       {1, 1, "Vlevo nahoře", {0, 0, 600, 400}},    {1, 2, "Nahoře", {0, 0, 1200, 400}},
       {1, 3, "Vpravo nahoře", {600, 0, 600, 400}}, {2, 1, "Vlevo", {0, 0, 600, 800}},
       {2, 2, "Maximalizace", {0, 0, 1200, 800}},   {2, 3, "Vpravo", {600, 0, 600, 800}},
       {3, 1, "Vlevo dole", {0, 400, 600, 400}},    {3, 2, "Dole", {0, 400, 1200, 400}},
       {3, 3, "Vpravo dole", {600, 400, 600, 400}},
   };
-  for (const auto& c : cases) {
-    const ScreenPlace place = PlaceOfCell(c.row, c.column, 1200, 800);
-    EXPECT_EQ(place.name, c.name);
-    EXPECT_EQ(place.place, c.place) << c.name;
+  for (const auto& [row, column, name, place] : cases) {
+    EXPECT_EQ(PlaceOfCell(row, column, 1200, 800).name, name);
+    EXPECT_EQ(PlaceOfCell(row, column, 1200, 800).place, place) << name;
   }
 }
 

@@ -2,74 +2,46 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cctype>
-#include <deque>
-#include <random>
 #include <stdexcept>
 #include <vector>
 
+#include "support/random_source.h"
 #include "support/scripted_platform.h"
 #include "support/whole_editor.h"
 
 namespace pelmar {
 namespace {
 
-// Draws that are all used up by one call.
-struct Draws {
-  std::deque<double> left;
-  Draw Source() {
-    return [this] {
-      if (left.empty()) throw std::logic_error("one draw too many");
-      const double draw = left.front();
-      left.pop_front();
-      return draw;
-    };
-  }
-};
+// What a generator makes of these draws, all of which it uses up.
+std::string Drawn(std::string (*generate)(const Draw&), const std::vector<double>& draws) {
+  std::size_t used = 0;
+  const std::string text = generate([&] {
+    if (used == draws.size()) throw std::logic_error("one draw too many");
+    return draws[used++];
+  });
+  EXPECT_EQ(used, draws.size()) << text;
+  return text;
+}
 
-Draw Uniform(unsigned seed) {
-  return [random = std::mt19937(seed)]() mutable { return static_cast<double>(random()) / 4294967296.0; };
+// What it makes of the largest length and "x" as each letter.
+std::string Longest(std::string (*generate)(const Draw&), double first_draw) {
+  int draws = 0;
+  return generate([&] { return ++draws == 1 ? first_draw : 0.9; });
 }
 
 TEST(RandomText, DrawsInTheToldOrder) {
   // Nine letters behind the first; the second of them ends a word with a comma, the fourth one without.
-  Draws draws{{0.0,  0.999, 0.0,   0.0,             // 9 letters, capital Z, "a" goes on
-               0.04, 0.25,  0.49,                   // "b", a word's end, a comma
-               0.0,  0.99,  0.0,   0.3,  0.6,       // "a" goes on, "a", a word's end, no comma
-               0.0,  0.0,   0.0,   0.0,  0.0, 0.0,  // "aaa"
-               0.0,  0.0,   0.999, 0.99, 0.5}};     // "a", "z", the stop
-  EXPECT_EQ(RandomSentence(draws.Source()), "Zab, aa aaaaz? ");
-  EXPECT_TRUE(draws.left.empty());
-  draws.left = {0.0, 0.0, 0.999};
-  EXPECT_EQ(RandomWord(draws.Source()), "az ");
-  draws.left = {0.0, 0.0, 0.999, 0.12, 0.04, 0.0, 0.0};
-  EXPECT_EQ(RandomName(draws.Source()), "Az Baa ");
-  EXPECT_TRUE(draws.left.empty());
-}
-
-TEST(RandomText, SentencesKeepTheirShape) {
-  const Draw draw = Uniform(3);
-  std::size_t shortest = 99;
-  std::size_t longest = 0;
-  for (int round = 0; round < 3000; ++round) {
-    const std::string text = RandomSentence(draw);
-    const auto letters = static_cast<std::size_t>(std::ranges::count_if(text, [](char ch) { return ch >= 'A'; }));
-    shortest = std::min(shortest, letters);
-    longest = std::max(longest, letters);
-    ASSERT_TRUE(std::isupper(static_cast<unsigned char>(text[0])));
-    ASSERT_TRUE(std::none_of(text.begin() + 1, text.end(), [](char ch) { return ch >= 'A' && ch <= 'Z'; })) << text;
-    ASSERT_EQ(text.find("  "), std::string::npos) << text;
-    ASSERT_EQ(text.back(), ' ');
-    for (std::size_t comma = text.find(','); comma != std::string::npos; comma = text.find(',', comma + 1))
-      ASSERT_EQ(text[comma + 1], ' ');
-  }
-  EXPECT_EQ(shortest, 10u);
-  EXPECT_EQ(longest, 50u);
-  for (int round = 0; round < 300; ++round) {
-    const std::size_t size = RandomWord(draw).size();
-    ASSERT_TRUE(size >= 3 && size <= 11) << size;
-  }
+  EXPECT_EQ(Drawn(RandomSentence, {0.0,  0.999, 0.0,   0.0,             // 9 letters, capital Z, "a" goes on
+                                   0.04, 0.25,  0.49,                   // "b", a word's end, a comma
+                                   0.0,  0.99,  0.0,   0.3,  0.6,       // "a" goes on, "a", a word's end, no comma
+                                   0.0,  0.0,   0.0,   0.0,  0.0, 0.0,  // "aaa"
+                                   0.0,  0.0,   0.999, 0.99, 0.5}),     // "a", "z", the stop
+            "Zab, aa aaaaz? ");
+  EXPECT_EQ(Drawn(RandomWord, {0.0, 0.0, 0.999}), "az ");
+  EXPECT_EQ(Drawn(RandomName, {0.0, 0.0, 0.999, 0.12, 0.04, 0.0, 0.0}), "Az Baa ");
+  EXPECT_EQ(Longest(RandomSentence, 0.999), "X" + std::string(49, 'x') + "! ");
+  EXPECT_EQ(Longest(RandomWord, 0.999), std::string(10, 'x') + " ");
+  EXPECT_EQ(Longest(RandomName, 0.999), "X" + std::string(9, 'x') + " X" + std::string(9, 'x') + " ");
 }
 
 // The told loop: the drawn word goes out, those behind it move down.
@@ -88,45 +60,40 @@ std::string ToldShuffle(const std::string& text, const Draw& draw) {
   return out;
 }
 
+// required: the last word runs into its follower
 TEST(ShuffledWords, EqualsTheToldLoopOnRandomTexts) {
-  std::mt19937 random(7);
+  RandomSource random(7);
   for (unsigned round = 0; round < 3000; ++round) {
-    std::string text;
-    for (std::size_t n = 1 + random() % (round % 8 ? 40 : 900); n > 0; --n) text += "ab  \r\n"[random() % 6];
-    ASSERT_EQ(ShuffledWords(text, Uniform(round)), ToldShuffle(text, Uniform(round))) << text;
+    const std::string text = random.Text(round % 8 != 0 ? 40 : 900, "ab  \r\n");
+    RandomSource draws(round), told_draws(round);
+    ASSERT_EQ(ShuffledWords(text, draws.Draws()), ToldShuffle(text, told_draws.Draws())) << text;
   }
-}
-
-TEST(ShuffledWords, RunsTheLastWordIntoItsFollower) {
-  Draws draws{{0.5, 0.0}};
-  EXPECT_EQ(ShuffledWords("a b", draws.Source()), "ba ");  // required
-  draws.left = {0.5, 0.9};
-  EXPECT_EQ(ShuffledWords("one ", draws.Source()), "one ");
-  EXPECT_EQ(ShuffledWords("", draws.Source()), "");
 }
 
 TEST(RandomTextCommands, InsertBeforeTheSelectionAndShuffleIt) {
   ScriptedPlatform platform;
   WholeEditor editor(platform);
-  editor.text.SetText("xabcx");
+  editor.text.SetText("xa bx");
   editor.text.Select(1, 4);
-  platform.draws = {0.0, 0.0, 0.0};
+  platform.draws = {0.0, 0.0,  0.0,                   // "aa "
+                    0.0, 0.04, 0.0, 0.0, 0.04, 0.0};  // "Ba Ba "
   editor.commands.Run("mnunahslovo");
-  EXPECT_EQ(editor.text.Text(), "xaa abcx");
+  EXPECT_EQ(editor.text.Text(), "xaa a bx");
   EXPECT_FALSE(editor.text.HasSelection());
-  EXPECT_EQ(editor.text.SelStart(), 4u);
   editor.commands.Run("mnunahjmeno");
-  editor.commands.Run("mnunahtex");
-  EXPECT_EQ(platform.reseeds, 3);
-
-  editor.text.SetText("xa b");
-  editor.text.Select(1, 4);
+  EXPECT_EQ(editor.text.Text(), "xaa Ba Ba a bx");
+  editor.text.Select(10, 13);
   platform.draws = {0.5, 0.0};
   editor.commands.Run("MnuSelTextDada");
-  EXPECT_EQ(editor.text.Text(), "xba ");
+  EXPECT_EQ(editor.text.Text(), "xaa Ba Ba ba x");
+  EXPECT_EQ(platform.reseeds, 3);
+  EXPECT_EQ(platform.TakeCalls(), (std::vector<std::string>{"busy 1", "busy 0"}));
   editor.commands.Run("MnuSelTextDada");  // nothing selected
-  EXPECT_EQ(editor.text.Text(), "xba ");
-  EXPECT_EQ(platform.TakeCalls(), (std::vector<std::string>{"busy 1", "busy 0", "busy 1", "busy 0"}));
+  EXPECT_EQ(editor.text.Text(), "xaa Ba Ba ba x");
+  editor.text.SetText("");
+  platform.draws.assign(99, 0.9);
+  editor.commands.Run("mnunahtex");
+  EXPECT_TRUE(editor.text.Text().ends_with("x! "));
 }
 
 }  // namespace

@@ -1,9 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <numeric>
-#include <random>
-
 #include "support/scripted_platform.h"
 #include "support/whole_editor.h"
 #include "text/codepage.h"
@@ -15,76 +11,21 @@ namespace {
 
 TEST(Transforms, ProperCaseAndReverse) {
   EXPECT_EQ(ProperCase("ŽLUŤOUČKÝ kůň\tčeká\r\nna-dvoře. že"_w), "Žluťoučký Kůň\tČeká\r\nNa-dvoře. Že"_w);
-  EXPECT_EQ(ProperCase(""), "");
   EXPECT_EQ(Reversed("ab\r\nc"), "c\n\rba");
 }
 
-std::vector<std::size_t> OrderWithoutCase(const std::vector<std::string_view>& lines) {
-  return ScriptedPlatform().SortedOrder(lines);
-}
-
-// The told two-way bubble sort.
-std::string BubbleSorted(std::string_view text) {
-  std::vector<std::string> entries{""};
-  for (const char ch : text) {
-    entries.back() += ch;
-    if (ch != '\n') continue;
-    if (entries.back() == "\r\n") {
-      entries.back().clear();
-    } else {
-      entries.emplace_back();
-    }
-  }
-  if (entries.back().empty()) entries.pop_back();
-  const auto greater = [](const std::string& a, const std::string& b) { return ToUpper(a) > ToUpper(b); };
-  const int n = static_cast<int>(entries.size());
-  const auto at = [&](int i) -> std::string& { return entries[static_cast<std::size_t>(i - 1)]; };
-  bool done = n == 0;
-  for (int lo = 0; !done; ++lo) {
-    done = true;
-    const auto test = [&](int i) {
-      if (!greater(at(i), at(i + 1))) return;
-      std::swap(at(i), at(i + 1));
-      done = false;
-    };
-    for (int i = lo + 1; i <= n - lo - 1; ++i) test(i);
-    for (int i = n - lo - 1; i >= lo + 1; --i) test(i);
-  }
-  return std::accumulate(entries.begin(), entries.end(), std::string());
-}
-
-TEST(SortLines, KeepsLineEndsAndDropsBlankLines) {
-  EXPECT_EQ(SortLines("b\r\n\r\na\r\n", OrderWithoutCase), "a\r\nb\r\n");
-  EXPECT_EQ(SortLines("b\r\na", OrderWithoutCase), "ab\r\n");  // required: the end is missing where it was
-  EXPECT_EQ(SortLines("b\n\na\r\n", OrderWithoutCase), "\na\r\nb\n");
-  EXPECT_EQ(SortLines("a2\r\nA1\r\na1\r\n", OrderWithoutCase), "A1\r\na1\r\na2\r\n");
-  EXPECT_EQ(SortLines("", OrderWithoutCase), "");
-  EXPECT_EQ(SortLines("\r\n\r\n", OrderWithoutCase), "");
-}
-
-TEST(SortLines, EqualsTheToldBubbleSort) {
-  std::mt19937 random(11);
-  for (int round = 0; round < 3000; ++round) {
-    std::string text;
-    for (std::size_t n = random() % 30; n > 0; --n) text += "aAbB\r\n\n"[random() % 7];
-    ASSERT_EQ(SortLines(text, OrderWithoutCase), BubbleSorted(text));
-  }
-}
-
-TEST(NumberLines, LosesTheLastCharacter) {
-  EXPECT_EQ(NumberLines("a\r\nb\r\n"), "00001 a\r\n00002 b\r");  // required
-  EXPECT_EQ(NumberLines("abc"), "00001 ab");
+TEST(Lines, SortedNumberedAndOfWords) {
+  const auto sorted = [](std::string_view text) {
+    return SortLines(text, [](const auto& lines) { return ScriptedPlatform().SortedOrder(lines); });
+  };
+  EXPECT_EQ(sorted("b\r\n\r\na"), "ab\r\n");  // required: the end is missing where it was, a blank line is dropped
+  EXPECT_EQ(sorted("b\n\na2\r\nA1\r\na1\r\n"), "\nA1\r\na1\r\na2\r\nb\n");
+  EXPECT_EQ(sorted("\r\n\r\n"), "");
+  EXPECT_EQ(NumberLines("a\r\nb\r\n"), "00001 a\r\n00002 b\r");  // required: the last character is lost
   EXPECT_EQ(NumberLines("x"), "00001 ");
-  std::string many;
-  for (int i = 0; i < 100; ++i) many += "\n";
-  EXPECT_NE(NumberLines(many).find("\n00100 "), std::string::npos);
-}
-
-TEST(WordsToLines, BreaksBehindEachBlank) {
+  EXPECT_TRUE(NumberLines(std::string(100, '\n')).ends_with("00099 \n00100 "));
+  EXPECT_EQ(WordsToLines("a\r\nb  c "), "a\r\nb \r\n \r\nc \r\n");
   EXPECT_EQ(WordsToLines("ab cd"), "ab \r\ncd\r\n");
-  EXPECT_EQ(WordsToLines("a  b "), "a \r\n \r\nb \r\n");
-  EXPECT_EQ(WordsToLines("a\r\nb c"), "a\r\nb \r\nc\r\n");
-  EXPECT_EQ(WordsToLines(""), "");
 }
 
 struct TextToolsTest : testing::Test {
