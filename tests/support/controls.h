@@ -1,6 +1,8 @@
 // Finds and works the controls of a window by their names.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QLabel>
@@ -37,5 +39,15 @@ inline std::string LineText(const QWidget& window, const char* name) {
 
 // Does something in a dialog that the next call waits for.
 inline void Inside(std::function<void()> act) { QTimer::singleShot(0, qApp, std::move(act)); }
+
+// The same with the dialog, which has to be of that type.
+template <class Dialog>
+void InDialog(std::function<void(Dialog&)> act) {
+  Inside([act = std::move(act)] {
+    auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    act(*dialog);
+  });
+}
 
 }  // namespace pelmar
