@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QTimer>
+#include <QWheelEvent>
 #include <functional>
 #include <string>
 
@@ -35,6 +36,14 @@ inline std::string LabelText(const QWidget& window, const char* name) {
 
 inline std::string LineText(const QWidget& window, const char* name) {
   return Find<QLineEdit>(window, name)->text().toStdString();
+}
+
+// True where the widget takes it.
+inline bool RollWheel(QWidget& widget, QPoint pixels, QPoint angle, Qt::KeyboardModifiers modifiers = {}) {
+  QWheelEvent wheel(QPointF(1, 1), widget.mapToGlobal(QPointF(1, 1)), pixels, angle, {}, modifiers, Qt::NoScrollPhase,
+                    false);
+  QApplication::sendEvent(&widget, &wheel);
+  return wheel.isAccepted();
 }
 
 // Does something in a dialog that the next call waits for.

@@ -50,12 +50,13 @@ TEST(Message, HasTheButtonsThePictureAndTheDefaultOfItsType) {
   }
 }
 
-TEST(Message, OutlivesTheWindowUnderIt) {
-  auto* window = new QWidget;
+TEST(Message, StandsAboveItsWindowAndOutlivesIt) {
+  auto* window = new QWidget(nullptr, Qt::WindowStaysOnTopHint);
   window->show();
   QApplication::setActiveWindow(window);
   InDialog<QMessageBox>([&](QMessageBox& box) {
     EXPECT_EQ(box.parent(), window);
+    EXPECT_TRUE(box.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
     delete window;
   });
   EXPECT_EQ(ShowMessage(MessageType::kYesNoWarning, QStringLiteral("?"), QString()), Answer::kNone);

@@ -10,12 +10,12 @@
 #include <QScrollBar>
 #include <QTest>
 #include <QToolButton>
-#include <QWheelEvent>
 #include <QWidget>
 #include <QWindow>
 
 #include "platform/qt/controls/dialog_window.h"
 #include "platform/twips.h"
+#include "support/controls.h"
 
 namespace pelmar {
 namespace {
@@ -69,18 +69,13 @@ TEST(DialogWindow, BeginsInItsFirstFieldAndSparesValuesFromTheWheel) {
   dialog.Present();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
   EXPECT_EQ(field.selectedText(), QStringLiteral("typed before"));
-  const auto turn = [](QWidget& widget) {
-    QWheelEvent wheel(QPointF(1, 1), widget.mapToGlobal(QPointF(1, 1)), {}, QPoint(0, -120), Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&widget, &wheel);
-  };
-  turn(box);
-  turn(bar);
+  RollWheel(box, {}, {0, -120});
+  RollWheel(bar, {}, {0, -120});
   EXPECT_EQ(box.currentIndex(), 0);
   EXPECT_EQ(bar.value(), 0);
   EXPECT_TRUE(field.hasFocus());
   bar.setFocus();
-  turn(bar);
+  RollWheel(bar, {}, {0, -120});
   EXPECT_GT(bar.value(), 0);
   dialog.hide();
   field.deselect();

@@ -74,10 +74,11 @@ TEST(AddBookmark, UpdatesTheEntryOfTheFile) {
               InFull(entry + R"(NOW" visited="NOW" x="y">)" + after + end).toStdString());
 }
 
-TEST(AddBookmark, HoldsUnderOtherPrefixes) {
-  const QByteArray list = R"(<xbel version="1.0" xmlns:b="http://www.freedesktop.org/standards/desktop-bookmarks">
+TEST(AddBookmark, HoldsUnderOtherPrefixesAndBehindADocumentType) {
+  const QByteArray list =
+      R"(<!DOCTYPE xbel><xbel version="1.0" xmlns:b="http://www.freedesktop.org/standards/desktop-bookmarks">
 <bookmark href="file:///a"><info><META><b:applications><b:application name="Pelmar VEX" count="1"/>)"
-                          R"(</b:applications></META></info></bookmark></xbel>)";
+      R"(</b:applications></META></info></bookmark></xbel>)";
   EXPECT_TRUE(Add(list, "/a").contains(R"(<b:application name="Pelmar VEX" count="2" )"));
   // Readable again only if the prefixes of the new elements are declared.
   EXPECT_TRUE(Add(Add(list, "/b"), "/b").contains(R"(count="2")"));
