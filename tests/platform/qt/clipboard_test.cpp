@@ -8,39 +8,30 @@
 #include <memory>
 
 #include "platform/qt/clipboard_text.h"
-#include "platform/qt/convert.h"
 #include "text/codepage.h"
 
 namespace pelmar {
 namespace {
 
-TEST(ClipboardText, OurOwnTextComesBackToTheByte) {
+TEST(ClipboardText, OurOwnComesBackToTheByteAndOthersGetUnicodeLines) {
   std::string all;
   for (int code = 0; code < 256; ++code) all += CharOf(code);
   all += "\r\n\n\r";
-  const std::unique_ptr<QMimeData> mime(MimeFromText(all));
-  EXPECT_EQ(TextFromMime(mime.get()), all);
+  EXPECT_EQ(TextFromMime(std::unique_ptr<QMimeData>(MimeFromText(all)).get()), all);
+  const std::unique_ptr<QMimeData> mime(MimeFromText("\x8Elut\xFD\x81\r\nk\xF9\xF2\n\r"));
+  EXPECT_EQ(mime->text(), QStringLiteral("Žlutý") + QChar(0x81) + QStringLiteral("\nkůň\n\r"));
 }
 
-TEST(ClipboardText, OthersGetUnicodeLines) {
-  const std::unique_ptr<QMimeData> mime(MimeFromText("Žluťoučký\r\nkůň\r\n"_w));
-  EXPECT_EQ(mime->text(), QStringLiteral("Žluťoučký\nkůň\n"));
-}
-
-TEST(ClipboardText, OthersTextGetsOurLines) {
-  const struct {
-    QString theirs;
-    std::string_view ours;
-  } cases[] = {
-      {QStringLiteral("a\nb\n"), "a\r\nb\r\n"},
-      {QStringLiteral("a\r\nb\n\nc\r"), "a\r\nb\r\n\r\nc\r"},
-      {QStringLiteral("\n"), "\r\n"},
+TEST(ClipboardText, OthersTextGetsOurLinesAndLetters) {
+  const std::pair<QString, std::string_view> cases[] = {
+      {QStringLiteral("\na\r\nb\n\nc\r"), "\r\na\r\nb\r\n\r\nc\r"},
       {QStringLiteral("příliš → žlutý 🐎"), "příliš ? žlutý ?"_w},
+      {QStringLiteral("c\u030Carka"), "čarka"_w},  // the accent apart
   };
-  for (const auto& c : cases) {
+  for (const auto& [theirs, ours] : cases) {
     QMimeData mime;
-    mime.setText(c.theirs);
-    EXPECT_EQ(TextFromMime(&mime), c.ours);
+    mime.setText(theirs);
+    EXPECT_EQ(TextFromMime(&mime), ours);
   }
   QMimeData picture;
   picture.setData(QStringLiteral("image/png"), "x");

@@ -3,31 +3,19 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractFileIconProvider>
-#include <QApplication>
 #include <QComboBox>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QTest>
-#include <QTimer>
-#include <functional>
 
 #include "platform/qt/convert.h"
+#include "support/controls.h"
 #include "support/temp_folder.h"
 
 namespace pelmar {
 namespace {
-
-// Runs `act` on the dialog that the code under test opens next.
-template <typename Dialog>
-void WhenShown(std::function<void(Dialog&)> act) {
-  QTimer::singleShot(0, qApp, [act = std::move(act)] {
-    auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
-    ASSERT_NE(dialog, nullptr);
-    act(*dialog);
-  });
-}
 
 TEST(Message, HasTheButtonsThePictureAndTheDefaultOfItsType) {
   using Box = QMessageBox;
@@ -42,58 +30,55 @@ TEST(Message, HasTheButtonsThePictureAndTheDefaultOfItsType) {
       {MessageType::kYesNoWarning, Box::Yes | Box::No, Box::Warning, Answer::kYes, Answer::kNone},
       {MessageType::kYesNoStop, Box::Yes | Box::No, Box::Critical, Answer::kNo, Answer::kNone},
   };
+  const QString text = QStringLiteral("Opravdu uložit <b>a&b</b>?\r\n\"x\""), title = QStringLiteral("Soubor");
   for (const auto& c : cases) {
-    const QString text = QStringLiteral("Opravdu uložit <b>a&b</b>?\r\n\"x\"");
-    WhenShown<Box>([&](Box& box) {
-      EXPECT_EQ(box.text(), text);
-      EXPECT_EQ(box.textFormat(), Qt::PlainText);
-      EXPECT_EQ(box.windowTitle(), QStringLiteral("Soubor"));
-      EXPECT_EQ(box.standardButtons(), c.buttons);
-      EXPECT_EQ(box.icon(), c.icon);
-      QTest::keyClick(&box, Qt::Key_Return);
-    });
-    EXPECT_EQ(ShowMessage(c.type, text, QStringLiteral("Soubor")), c.enter);
-    WhenShown<Box>([](Box& box) { QTest::keyClick(&box, Qt::Key_Escape); });
-    EXPECT_EQ(ShowMessage(c.type, text, QString()), c.escape);
-    WhenShown<Box>([](Box& box) { box.close(); });
-    EXPECT_EQ(ShowMessage(c.type, text, QString()), c.escape);
+    const auto answer = [&](const std::function<void(Box&)>& act) {
+      InDialog<Box>(act);
+      return ShowMessage(c.type, text, title);
+    };
+    EXPECT_EQ(answer([&](Box& box) {
+                EXPECT_EQ(box.text(), text);
+                EXPECT_EQ(box.textFormat(), Qt::PlainText);
+                EXPECT_EQ(box.windowTitle(), title);
+                EXPECT_EQ(box.standardButtons(), c.buttons);
+                EXPECT_EQ(box.icon(), c.icon);
+                QTest::keyClick(&box, Qt::Key_Return);
+              }),
+              c.enter);
+    EXPECT_EQ(answer([](Box& box) { QTest::keyClick(&box, Qt::Key_Escape); }), c.escape);
+    EXPECT_EQ(answer([](Box& box) { box.close(); }), c.escape);
   }
 }
 
-TEST(Message, OutlivesTheWindowUnderIt) {
-  auto* window = new QWidget;
+TEST(Message, StandsAboveItsWindowAndOutlivesIt) {
+  auto* window = new QWidget(nullptr, Qt::WindowStaysOnTopHint);
   window->show();
   QApplication::setActiveWindow(window);
-  WhenShown<QMessageBox>([&](QMessageBox& box) {
+  InDialog<QMessageBox>([&](QMessageBox& box) {
     EXPECT_EQ(box.parent(), window);
+    EXPECT_TRUE(box.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
     delete window;
   });
   EXPECT_EQ(ShowMessage(MessageType::kYesNoWarning, QStringLiteral("?"), QString()), Answer::kNone);
 }
 
 TEST(InputBox, GivesTheTextOrNothing) {
-  const auto ask = [](const std::function<void(QInputDialog&)>& act) {
-    WhenShown<QInputDialog>(act);
-    return AskForText(QStringLiteral("Výzva"), QStringLiteral("Titul"), QStringLiteral("původní"));
-  };
-  const QString longest(40000, QLatin1Char('A'));
-  EXPECT_EQ(ask([&](QInputDialog& box) {
-              box.findChild<QLineEdit*>()->setText(longest);
-              box.accept();
-            }),
-            longest);
-  EXPECT_EQ(ask([](QInputDialog& box) {
-              EXPECT_EQ(box.labelText(), QStringLiteral("Výzva"));
-              EXPECT_EQ(box.windowTitle(), QStringLiteral("Titul"));
-              box.accept();
-            }),
-            QStringLiteral("původní"));
-  EXPECT_EQ(ask([](QInputDialog& box) {
-              box.setTextValue(QString());
-              box.accept();
-            }),
-            QString());
-  EXPECT_EQ(ask([](QInputDialog& box) { box.reject(); }), std::nullopt);
+  const QString initial = QStringLiteral("původní"), longest(40000, QLatin1Char('A'));
+  const struct {
+    QString typed;
+    bool accepted;
+    std::optional<QString> answer;
+  } cases[] = {{initial, true, initial}, {longest, true, longest}, {{}, true, QString()}, {longest, false, {}}};
+  for (const auto& c : cases) {
+    InDialog<QInputDialog>([&](QInputDialog& box) {
+      EXPECT_EQ(box.labelText(), QStringLiteral("Výzva"));
+      EXPECT_EQ(box.windowTitle(), QStringLiteral("Titul"));
+      EXPECT_EQ(box.textValue(), initial);
+      box.findChild<QLineEdit*>()->setText(c.typed);
+      c.accepted ? box.accept() : box.reject();
+    });
+    EXPECT_EQ(AskForText(QStringLiteral("Výzva"), QStringLiteral("Titul"), initial), c.answer);
+  }
 }
 
 TEST(FileDialog, TurnsFiltersIntoTheToolkits) {
@@ -109,7 +94,7 @@ TEST(FileDialog, StartsWithTheGivenFilterAndRemembersTheFolder) {
   const QString picture = Utf8ToQString(temp.Put("inner/obraz", "\x89PNG\r\n\x1a\n"));
   const QString filter = QStringLiteral("Všechno (*.*)|*.*|jen text (*.txt)|*.txt");
   QString folder = Utf8ToQString(temp.Path());
-  WhenShown<QFileDialog>([&](QFileDialog& dialog) {
+  InDialog<QFileDialog>([&](QFileDialog& dialog) {
     EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptOpen);
     EXPECT_EQ(dialog.directory().path(), Utf8ToQString(temp.Path()));
     auto* types = dialog.findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
@@ -127,7 +112,7 @@ TEST(FileDialog, StartsWithTheGivenFilterAndRemembersTheFolder) {
   EXPECT_EQ(AskForFile(FileDialogKind::kOpen, filter, 2, folder), wanted);
   EXPECT_EQ(folder, QFileInfo(wanted).path());
 
-  WhenShown<QFileDialog>([&](QFileDialog& dialog) { dialog.reject(); });
+  InDialog<QFileDialog>([&](QFileDialog& dialog) { dialog.reject(); });
   EXPECT_EQ(AskForFile(FileDialogKind::kOpen, filter, 9, folder), std::nullopt);
   EXPECT_EQ(folder, QFileInfo(wanted).path());
 }
@@ -136,7 +121,7 @@ TEST(FileDialog, SavingOverAFileAsksNothing) {
   const TempFolder temp;
   const QString existing = Utf8ToQString(temp.Put("a.txt", "x"));
   QString folder = Utf8ToQString(temp.Path());
-  WhenShown<QFileDialog>([&](QFileDialog& dialog) {
+  InDialog<QFileDialog>([&](QFileDialog& dialog) {
     EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
     dialog.selectFile(existing);
     // A question would stop here until somebody answers.

@@ -26,9 +26,13 @@ bool Fails() {
 }
 
 template <typename Result, typename... Arguments>
-Result Pass(const char* name, Arguments... arguments) {
-  if (Fails()) return -1;
+Result Real(const char* name, Arguments... arguments) {
   return reinterpret_cast<Result (*)(Arguments...)>(dlsym(RTLD_NEXT, name))(arguments...);
+}
+
+template <typename Result, typename... Arguments>
+Result Pass(const char* name, Arguments... arguments) {
+  return Fails() ? -1 : Real<Result>(name, arguments...);
 }
 
 }  // namespace
@@ -61,7 +65,15 @@ int open(const char* path, int flags, ...) {
   return pelmar::Pass<int>("open", path, flags, mode);
 }
 ssize_t read(int file, void* bytes, size_t size) { return pelmar::Pass<ssize_t>("read", file, bytes, size); }
-ssize_t write(int file, const void* bytes, size_t size) { return pelmar::Pass<ssize_t>("write", file, bytes, size); }
+// One that fails has written a half, as on a disk that fills up.
+ssize_t write(int file, const void* bytes, size_t size) {
+  const bool fails = pelmar::Fails();
+  const int error = errno;
+  const ssize_t written = pelmar::Real<ssize_t>("write", file, bytes, fails ? size / 2 : size);
+  if (!fails) return written;
+  errno = error;
+  return -1;
+}
 off_t lseek(int file, off_t at, int from) { return pelmar::Pass<off_t>("lseek", file, at, from); }
 int ftruncate(int file, off_t size) { return pelmar::Pass<int>("ftruncate", file, size); }
 int fallocate(int file, int mode, off_t at, off_t size) { return pelmar::Pass<int>("fallocate", file, mode, at, size); }

@@ -14,11 +14,9 @@ TEST(InstallFolder, IsTheProgramsOwnOnlyWithAMarkInIt) {
   const struct {
     const char *file, *content;
     bool own;
-  } cases[] = {
-      {"pelmar.ini", "any", true}, {"pelmar.ini", "", true},      {"portable", "", true},
-      {"portable", "text", false}, {"portable/file", "x", false}, {"pelmar.ini/file", "x", false},
-      {"other", "", false},
-  };
+  } cases[] = {{"pelmar.ini", "any", true},    {"pelmar.ini", "", true}, {"portable", "", true},
+               {"portable", "text", false},    {"other", "", false},     {"portable/file", "x", false},
+               {"pelmar.ini/file", "x", false}};
   for (const auto& c : cases) {
     const TempFolder program, data;
     program.Put(c.file, c.content);
@@ -29,17 +27,18 @@ TEST(InstallFolder, IsTheProgramsOwnOnlyWithAMarkInIt) {
 }
 
 TEST(InstallFolder, IsMadeForTheUserAloneAndThenKept) {
+  using std::filesystem::perms;
   const TempFolder program, data;
-  const auto find = [&] { FindInstallFolder(Utf8ToQString(program.Path()), Utf8ToQString(data.Path())); };
-  find();
   const std::string own = data.File("pelmar-vex");
-  EXPECT_EQ(std::filesystem::status(own).permissions(), std::filesystem::perms::owner_all);
+  const auto mode = [&] {
+    FindInstallFolder(Utf8ToQString(program.Path()), Utf8ToQString(data.Path()));
+    return std::filesystem::status(own).permissions();
+  };
+  EXPECT_EQ(mode(), perms::owner_all);
   data.Put("pelmar-vex/notes.dat", "notes");
-  std::filesystem::permissions(own, std::filesystem::perms::owner_all | std::filesystem::perms::group_read);
-  find();
+  std::filesystem::permissions(own, perms::owner_all | perms::group_read);
+  EXPECT_EQ(mode(), perms::owner_all | perms::group_read);
   EXPECT_EQ(Content(own + "/notes.dat"), "notes");
-  EXPECT_EQ(std::filesystem::status(own).permissions(),
-            std::filesystem::perms::owner_all | std::filesystem::perms::group_read);
 }
 
 }  // namespace

@@ -10,45 +10,43 @@
 #include <QScrollBar>
 #include <QTest>
 #include <QToolButton>
-#include <QWheelEvent>
 #include <QWidget>
 #include <QWindow>
 
 #include "platform/qt/controls/dialog_window.h"
 #include "platform/twips.h"
+#include "support/controls.h"
 
 namespace pelmar {
 namespace {
 
+void Place(QWidget& window, const TwipsRect& place) {
+  SetOuterWidth(window, place.width);
+  SetOuterHeight(window, place.height);
+  SetOuterPosition(window, place.left, place.top);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(OuterGeometry(window), place);
+}
+
 TEST(OuterGeometry, CountsTheFrameOnceTheWindowIsThere) {
   QWidget window;
-  SetOuterWidth(window, 6000);
-  SetOuterHeight(window, 4500);
-  SetOuterPosition(window, 1500, 900);
-  EXPECT_EQ(OuterGeometry(window), (TwipsRect{1500, 900, 6000, 4500}));
+  Place(window, {1500, 900, 6000, 4500});
   EXPECT_EQ(window.size(), QSize(400, 300));
   window.show();
   ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+  Place(window, {3000, 900, 6000, 4500});
   const QMargins frame = window.windowHandle()->frameMargins();
-  SetOuterWidth(window, 6000);
-  SetOuterHeight(window, 4500);
-  SetOuterPosition(window, 3000, 900);
-  QCoreApplication::processEvents();
-  EXPECT_EQ(OuterGeometry(window), (TwipsRect{3000, 900, 6000, 4500}));
   EXPECT_EQ(window.width(), 400 - frame.left() - frame.right());
   EXPECT_EQ(ScreenTwips(window), window.screen()->size() * 15);
 }
 
 TEST(DialogWindow, IsCentredOnceAndKeepsItsPlace) {
-  QWidget parent;
-  parent.setGeometry(0, 0, 100, 100);
-  parent.show();
-  DialogWindow dialog(&parent);
+  DialogWindow dialog(nullptr), large(nullptr);
+  const QRect screen = dialog.screen()->availableGeometry();
   dialog.resize(300, 200);
   dialog.Present();
   ASSERT_TRUE(QTest::qWaitForWindowExposed(&dialog));
-  const QPoint off = dialog.frameGeometry().center() - dialog.screen()->availableGeometry().center();
-  EXPECT_LE(off.manhattanLength(), 12);
+  EXPECT_LE((dialog.frameGeometry().center() - screen.center()).manhattanLength(), 12);
   dialog.move(5, 6);
   dialog.hide();
   dialog.Present();
@@ -56,10 +54,9 @@ TEST(DialogWindow, IsCentredOnceAndKeepsItsPlace) {
   dialog.showMinimized();
   dialog.Present();
   EXPECT_FALSE(dialog.isMinimized());
-  DialogWindow large(&parent);
   large.resize(9000, 9000);
   large.Present();
-  EXPECT_TRUE(large.screen()->availableGeometry().contains(large.geometry()));
+  EXPECT_TRUE(screen.contains(large.geometry()));
 }
 
 TEST(DialogWindow, BeginsInItsFirstFieldAndSparesValuesFromTheWheel) {
@@ -72,18 +69,13 @@ TEST(DialogWindow, BeginsInItsFirstFieldAndSparesValuesFromTheWheel) {
   dialog.Present();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
   EXPECT_EQ(field.selectedText(), QStringLiteral("typed before"));
-  const auto turn = [](QWidget& widget) {
-    QWheelEvent wheel(QPointF(1, 1), widget.mapToGlobal(QPointF(1, 1)), {}, QPoint(0, -120), Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&widget, &wheel);
-  };
-  turn(box);
-  turn(bar);
+  RollWheel(box, {}, {0, -120});
+  RollWheel(bar, {}, {0, -120});
   EXPECT_EQ(box.currentIndex(), 0);
   EXPECT_EQ(bar.value(), 0);
   EXPECT_TRUE(field.hasFocus());
   bar.setFocus();
-  turn(bar);
+  RollWheel(bar, {}, {0, -120});
   EXPECT_GT(bar.value(), 0);
   dialog.hide();
   field.deselect();
@@ -95,23 +87,22 @@ TEST(DialogWindow, BeginsInItsFirstFieldAndSparesValuesFromTheWheel) {
 TEST(DialogWindow, EnterPressesTheButtonThatHasTheFocus) {
   DialogWindow dialog(nullptr);
   QLineEdit field(&dialog);
-  QPushButton ok(&dialog);
-  QPushButton storno(&dialog);
+  QPushButton ok(QStringLiteral("ok"), &dialog), storno(QStringLiteral("storno"), &dialog);
   QToolButton show(&dialog);
   QCheckBox box(&dialog);
   ok.setDefault(true);
   storno.setAutoDefault(false);
+  show.setText(QStringLiteral("show"));
   show.setFocusPolicy(Qt::StrongFocus);
-  std::string pressed;
-  QObject::connect(&ok, &QAbstractButton::clicked, [&] { pressed += "ok "; });
-  QObject::connect(&storno, &QAbstractButton::clicked, [&] { pressed += "storno "; });
-  QObject::connect(&show, &QAbstractButton::clicked, [&] { pressed += "show "; });
+  QStringList pressed;
+  for (QAbstractButton* button : std::initializer_list<QAbstractButton*>{&ok, &storno, &show})
+    QObject::connect(button, &QAbstractButton::clicked, [&, button] { pressed += button->text(); });
   dialog.Present();
   for (QWidget* focus : std::initializer_list<QWidget*>{&field, &storno, &show, &box, &ok}) {
     focus->setFocus();
     QTest::keyClick(focus, Qt::Key_Return);
   }
-  EXPECT_EQ(pressed, "ok storno show ok ok ");
+  EXPECT_EQ(pressed.join(u' '), QStringLiteral("ok storno show ok ok"));
   EXPECT_FALSE(box.isChecked());
 }
 

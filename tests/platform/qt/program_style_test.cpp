@@ -5,7 +5,11 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
+#include <QListWidget>
 #include <QRadioButton>
+#include <QScrollBar>
+#include <QTest>
 #include <cmath>
 
 namespace pelmar {
@@ -50,6 +54,24 @@ TEST(ProgramStyle, ShowsWhatIsOffOnLightAndDarkGround) {
         box->setEnabled(on);
         EXPECT_GE(RimContrast(*box, ground), 3) << box->metaObject()->className() << ground.red() << on;
       }
+    }
+  }
+}
+
+TEST(ProgramStyle, FramesTheBarOrTheListThatHasTheKeyboard) {
+  QWidget window;
+  window.resize(300, 300);
+  QScrollBar bar(&window);
+  QListWidget list(&window);
+  QComboBox box(&window);
+  bar.setFocusPolicy(Qt::StrongFocus);
+  window.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  for (QWidget* focus : std::initializer_list<QWidget*>{&bar, &list, &box}) {
+    focus->setFocus();
+    for (QWidget* widget : std::initializer_list<QWidget*>{&bar, &list, &box}) {
+      const QColor corner = widget->grab().toImage().pixelColor(0, 0);
+      EXPECT_EQ(corner == widget->palette().color(QPalette::Highlight), widget == focus && widget != &box);
     }
   }
 }
