@@ -40,7 +40,7 @@ PROGRAM = built("pelmar-vex")
 
 
 class Window(NamedTuple):
-    id: str
+    id: int
     title: str
 
 
@@ -102,7 +102,7 @@ class Session(Screen):
         """All managed windows, oldest first."""
         listing = self.run("wmctrl", "-l", check=False)
         found = (re.match(r"(0x\w+) +-?\d+ +\S+ (.*)", line) for line in listing.split("\n"))
-        return [Window(*match.groups()) for match in found if match]
+        return [Window(int(match[1], 16), match[2]) for match in found if match]
 
     def titles(self):
         return [window.title for window in self.windows()]
@@ -118,29 +118,26 @@ class Session(Screen):
         return next((one for one in reversed(self.windows()) if fits(one.title)), None)
 
     def wait_window(self, title, patience=PATIENCE):
-        """Waits until a window of this title is there, visible, and has the keyboard."""
+        """Waits until a window of this title is there and has the keyboard."""
         def ready():
             found = self.window(title)
-            return found if found and self.active() == int(found.id, 16) and self.shows(found) else None
+            return found if found and self.active() == found.id else None
         return self.wait_until(ready, f"a window {title!r}", patience)
-
-    def shows(self, window):
-        return "IsViewable" in self.run("xwininfo", "-id", window.id, check=False)
 
     def wait_gone(self, window):
         """Waits until the window is gone and another one has the keyboard, if there is one."""
         def gone():
-            left = [int(one.id, 16) for one in self.windows()]
-            return int(window.id, 16) not in left and (not left or self.active() in left)
+            left = [one.id for one in self.windows()]
+            return window.id not in left and (not left or self.active() in left)
         self.wait_until(gone, f"the end of {window.title!r}", needs_program=False)
 
     def activate(self, window):
         """Brings the window to the front and waits until it has the keyboard."""
         self.run("wmctrl", "-i", "-a", window.id)
-        self.wait_until(lambda: self.active() == int(window.id, 16), f"window {window.title!r} to be active")
+        self.wait_until(lambda: self.active() == window.id, f"window {window.title!r} to be active")
 
     def active(self):
-        """The number of the active window, or None."""
+        """The id of the window that has the keyboard, or None."""
         found = re.search(r"# (0x[0-9a-f]+)", self.run("xprop", "-root", "_NET_ACTIVE_WINDOW", check=False))
         return int(found[1], 16) if found else None
 
@@ -190,7 +187,7 @@ class Session(Screen):
 
     def click(self, window, x, y):
         """Clicks at a place counted from the window's inner top left corner."""
-        self.run("xdotool", "mousemove", "--window", window.id, str(x), str(y), "click", "1")
+        self.run("xdotool", "mousemove", "--window", window.id, x, y, "click", "1")
 
     def clipboard(self):
         """The text on the clipboard; empty when there is none."""
@@ -233,9 +230,10 @@ class Session(Screen):
 
     def run(self, *command, check=True):
         """What a command prints that works on the screen."""
-        done = subprocess.run(command, env=self.env, stdout=subprocess.PIPE, stderr=subprocess.PIPE, timeout=PATIENCE)
+        words = [str(word) for word in command]
+        done = subprocess.run(words, env=self.env, stdout=subprocess.PIPE, stderr=subprocess.PIPE, timeout=PATIENCE)
         if check and done.returncode:
-            raise AssertionError(f"{' '.join(command)}: {done.stderr.decode(errors='replace').strip()}")
+            raise AssertionError(f"{' '.join(words)}: {done.stderr.decode(errors='replace').strip()}")
         return done.stdout.decode(errors="replace")
 
 

@@ -69,7 +69,7 @@ class PrintTest(EditorCase):
         main = self.print_document("-E")
         job, = self.session.wait_until(self.jobs, "a print job")
         self.session.wait_until(lambda: b"%%EOF" in job.read_bytes()[-32:], "the whole job")
-        self.assertEqual(self.session.run("pdftotext", str(job), "-").split(),
+        self.assertEqual(self.session.run("pdftotext", job, "-").split(),
                          "Příliš žluťoučký kůň úpěl ďábelské ódy".split())
         self.assertEqual(self.session.titles(), [main.title])
         self.end(main, asks=False)
