@@ -21,7 +21,7 @@ import unittest
 from pathlib import Path
 from typing import NamedTuple
 
-from screen import Screen
+from screen import SIZE, Screen
 from settings import write_settings
 
 NOBODY = 65534
@@ -164,6 +164,13 @@ class Session(Screen):
         except AssertionError as error:
             raise AssertionError(f"{error}; it is at {self.place(window)}") from None
 
+    def wait_centred(self, title):
+        """The window of this title, once it stands in the middle of the screen."""
+        window = self.wait_window(title)
+        self.wait_place(window, lambda left, top, width, height: (
+            (SIZE[0] - width) // 2, (SIZE[1] - height) // 2, width, height), f"{title!r} in the middle")
+        return window
+
     def move(self, window, left, top, width=-1, height=-1):
         self.run("wmctrl", "-i", "-r", window.id, "-e", f"0,{left},{top},{width},{height}")
 
@@ -260,7 +267,7 @@ class EditorCase(unittest.TestCase):
         self.session.wait_until(lambda: self.session.title(window) == title, f"the title {title!r}")
 
     def wait_changed(self, window):
-        self.session.wait_until(lambda: self.session.title(window).endswith("*"), "the mark of a changed document")
+        self.session.wait_until(lambda: (self.session.title(window) or "").endswith("*"), "the mark of a change")
 
     def answer(self, title, *keys):
         """Keys for a box or dialog that is to come, which they end; Return where none are told."""

@@ -23,7 +23,7 @@ class NotesTest(EditorCase):
 
     def open_notes(self):
         self.session.key("F9")
-        return self.session.wait_window("Poznámky")
+        return self.session.wait_centred("Poznámky")
 
     def stored(self, *pages):
         self.assertEqual(self.file.read_bytes(), record(*pages))

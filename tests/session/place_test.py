@@ -20,27 +20,21 @@ class PlaceTest(EditorCase):
         width, height, top, left = struct.unpack_from("<iiii", record)
         return left, top, width, height, struct.unpack("<i", record[-6:-2])[0]
 
-    def wait_centred(self, title):
-        window = self.session.wait_window(title)
-        self.session.wait_place(window, lambda left, top, width, height: (
-            (SIZE[0] - width) // 2, (SIZE[1] - height) // 2, width, height), f"{title!r} in the middle")
-        return window
-
     def test_dialogs_stand_in_the_middle(self):
         session = self.session
         write_settings(self.folder, show_start=True, user_name="")
         session.start(PROGRAM)
-        self.wait_centred("Config")
+        self.session.wait_centred("Config")
         session.type("Jan")
         self.answer("Config")
-        self.wait_centred("Pelmar VEX")
+        self.session.wait_centred("Pelmar VEX")
         session.key("Return")
         main = session.wait_window("Pelmar VEX ()")
         for title, *keys in (("HTML  - Vytvoření", "alt+s", "v"), ("Pelmar VEX - Kalkulátor", "F7"),
                              ("Poznámky", "F9")):
             session.activate(main)
             session.key(*keys)
-            dialog = self.wait_centred(title)
+            dialog = self.session.wait_centred(title)
             session.close(dialog)
             session.wait_gone(dialog)
 
