@@ -45,7 +45,7 @@ TEST(CalculatorKeys, TypedOperatorsChain) {
     platform.answers = std::deque<Answer>(c.told, Answer::kOk);
     Calculator calculator(platform);
     for (const char key : c.keys)
-      if (calculator.MakeWayFor(key)) Press(calculator, key);
+      if (calculator.MakeWayFor(key)) Press(calculator, {&key, 1});
     EXPECT_EQ(calculator.Cislo, c.cislo) << c.keys;
     EXPECT_EQ(calculator.Label2 + calculator.Label1, c.pending) << c.keys;
     EXPECT_TRUE(platform.answers.empty()) << c.keys;

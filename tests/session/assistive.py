@@ -15,6 +15,9 @@ from harness import PATIENCE, POLL
 
 ON_BUS = "PELMAR_ON_BUS"
 LONG = 1000 * int(PATIENCE)  # milliseconds
+# What a program under test needs to be heard.
+HEARD = {"DBUS_SESSION_BUS_ADDRESS": os.environ.get("DBUS_SESSION_BUS_ADDRESS", ""),
+         "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
 if ON_BUS in os.environ:
     import gi
     gi.require_version("Atspi", "2.0")
@@ -29,12 +32,8 @@ def run_on_bus():
         unittest.main()
     with tempfile.TemporaryDirectory(prefix="pelmar-bus-") as folder:
         env = {**os.environ, ON_BUS: "1", "XDG_RUNTIME_DIR": folder, "XDG_CACHE_HOME": folder}
-        sys.exit(subprocess.call(["dbus-run-session", "--", "/usr/bin/python3", "-B", "-W", "ignore::DeprecationWarning", *sys.argv], env=env))
-
-
-def program_environment():
-    """What a program under test needs to be heard."""
-    return {"DBUS_SESSION_BUS_ADDRESS": os.environ["DBUS_SESSION_BUS_ADDRESS"], "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
+        python = ["/usr/bin/python3", "-B", "-W", "ignore::DeprecationWarning"]
+        sys.exit(subprocess.call(["dbus-run-session", "--", *python, *sys.argv], env=env))
 
 
 def wait_for(check, what, patience=PATIENCE):
@@ -65,50 +64,29 @@ def walk(node):
         yield from walk(child)
 
 
-def shows(node):
-    return node.get_state_set().contains(Atspi.StateType.SHOWING)
-
-
-def can_focus(node):
-    return node.get_state_set().contains(Atspi.StateType.FOCUSABLE)
+def has(node, state):
+    return node.get_state_set().contains(getattr(Atspi.StateType, state))
 
 
 def face(node):
     return node.get_role_name(), node.get_name()
 
 
-def labels_of(node):
-    """The texts of the labels that the node is told to have."""
-    return [relation.get_target(number).get_name() for relation in node.get_relation_set()
-            if relation.get_relation_type() == Atspi.RelationType.LABELLED_BY
-            for number in range(relation.get_n_targets())]
-
-
-def press(node):
-    """Does what the node is for. Where that asks a question, the answer to this call comes only behind it."""
-    Atspi.set_timeout(300, 300)
-    try:
-        node.do_action(0)
-    except GLib.GError:
-        pass
-    Atspi.set_timeout(LONG, LONG)
-
-
 class Program:
     """The program that runs on the bus."""
 
     def windows(self):
-        desktop = Atspi.get_desktop(0)
-        return [window for program in children(desktop) if program.get_name() == "pelmar-vex"
-                for window in children(program)]
+        """Those on show."""
+        return [window for program in children(Atspi.get_desktop(0)) if program.get_name() == "pelmar-vex"
+                for window in children(program) if has(window, "SHOWING")]
 
     def window(self, title):
-        """Waits for a window on show whose title begins so, and gives it."""
-        return wait_for(lambda: next((one for one in self.windows() if one.get_name().startswith(title) and shows(one)),
-                                     None), lambda: f"window {title!r} among {[face(one) for one in self.windows()]}")
+        """Waits for a window whose title begins so, and gives it."""
+        return wait_for(lambda: next((one for one in self.windows() if one.get_name().startswith(title)), None),
+                        lambda: f"window {title!r} among {[face(one) for one in self.windows()]}")
 
     def gone(self, title):
-        wait_for(lambda: not any(one.get_name().startswith(title) and shows(one) for one in self.windows()),
+        wait_for(lambda: not any(one.get_name().startswith(title) for one in self.windows()),
                  f"the end of window {title!r}")
 
     def find(self, window, role, name):
@@ -117,18 +95,22 @@ class Program:
             return next((node for node in walk(self.window(window)) if face(node) == (role, name)), None)
         return wait_for(look, f"{role} {name!r} in {window!r}")
 
-    def menu(self, caption, window="Pelmar VEX"):
-        """Does what the menu item says, once it is enabled."""
-        item = self.find(window, "menu item", caption)
-        wait_for(lambda: item.get_state_set().contains(Atspi.StateType.ENABLED), f"menu item {caption!r} to be enabled")
-        press(item)
+    def press(self, window, role, name):
+        """Does what the item or button is for, once it is enabled."""
+        node = self.find(window, role, name)
+        wait_for(lambda: has(node, "ENABLED"), f"{name!r} to be enabled")
+        Atspi.set_timeout(300, 300)
+        try:
+            node.do_action(0)
+        except GLib.GError:
+            pass  # where it asks a question, the answer to this call comes only behind that
+        Atspi.set_timeout(LONG, LONG)
 
-    def push_menu(self, caption):
-        """Opens a menu of the menu bar, or closes it."""
-        press(self.find("Pelmar VEX", "menu item", caption))
+    def menu(self, caption):
+        self.press("Pelmar VEX", "menu item", caption)
 
     def push(self, window, button):
-        press(self.find(window, "push button", button))
+        self.press(window, "push button", button)
 
 
 class Ears:

@@ -5,7 +5,7 @@ import threading
 
 
 class CountingServer:
-    def __init__(self, page=""):
+    def __init__(self, page):
         self.page = page
         self.arrived = []  # the first line of each connection, "udp" for each packet
         self.tcp = socket.create_server(("127.0.0.1", 0))
@@ -32,15 +32,15 @@ class CountingServer:
             threading.Thread(target=self._answer, args=(connection,), daemon=True).start()
 
     def _answer(self, connection):
+        """With the page, or with where "?to=" in the address leads."""
         with connection:
             connection.settimeout(5)
             try:
                 line = connection.recv(4096).split(b"\r\n")[0].decode(errors="replace")
                 self.arrived.append(line or "nothing")
-                location = "Location: " + line.split("?to=")[1].split()[0] if "?to=" in line else "X: x"
-                status = "302 Found" if "?to=" in line else "200 OK"
-                connection.sendall(f"HTTP/1.1 {status}\r\nContent-Type: text/html\r\n{location}\r\n"
-                                   f"Connection: close\r\n\r\n{self.page}".encode())
+                head = f"302 Found\r\nLocation: {line.split('?to=')[1].split()[0]}" if "?to=" in line else "200 OK"
+                head += "\r\nContent-Type: text/html\r\nConnection: close"
+                connection.sendall(f"HTTP/1.1 {head}\r\n\r\n{self.page}".encode())
             except OSError:
                 self.arrived.append("nothing")
 

@@ -3,14 +3,11 @@
 import os
 import shutil
 import subprocess
-import sys
 import tempfile
 import unittest
 from pathlib import Path
 
-sys.dont_write_bytecode = True
-from harness import AS_USER, NOBODY, Session, built  # noqa: E402
-from settings import write_settings  # noqa: E402
+from harness import AS_USER, NOBODY, EditorCase
 
 SERVER = """Listen {0}/socket
 DefaultAuthType None
@@ -37,56 +34,49 @@ Sandboxing relaxed
 """
 
 
-class PrintTest(unittest.TestCase):
+class PrintTest(EditorCase):
     def setUp(self):
-        self.folder = Path(tempfile.mkdtemp(prefix="pelmar-printer-"))
-        self.addCleanup(shutil.rmtree, self.folder, ignore_errors=True)
-        (self.folder / "server.conf").write_text(SERVER.format(self.folder))
-        (self.folder / "files.conf").write_text(SERVER_FILES.format(self.folder))
+        super().setUp()
+        self.server = Path(tempfile.mkdtemp(prefix="pelmar-printer-"))
+        self.addCleanup(shutil.rmtree, self.server, ignore_errors=True)
+        files = self.server / "server.conf", self.server / "files.conf"
+        for file, text in zip(files, (SERVER, SERVER_FILES)):
+            file.write_text(text.format(self.server))
         if AS_USER:
-            os.chown(self.folder, NOBODY, NOBODY)
-            self.folder.chmod(0o711)
-        server = subprocess.Popen([*AS_USER, "/usr/sbin/cupsd", "-f", "-c", self.folder / "server.conf",
-                                   "-s", self.folder / "files.conf"], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+            os.chown(self.server, NOBODY, NOBODY)
+            self.server.chmod(0o711)
+        server = subprocess.Popen([*AS_USER, "/usr/sbin/cupsd", "-f", "-c", files[0], "-s", files[1]],
+                                  stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         self.addCleanup(server.wait)
         self.addCleanup(server.terminate)
-        self.session = Session()
-        self.session.__enter__()
-        self.addCleanup(self.session.__exit__)
-        self.session.env["CUPS_SERVER"] = str(self.folder / "socket")
-        self.session.wait_until((self.folder / "socket").exists, "the print server", needs_program=False)
-        write_settings(self.session.data_folder)
-        self.page = self.session.home / "page.html"
+        self.session.env["CUPS_SERVER"] = str(self.server / "socket")
+        self.session.wait_until((self.server / "socket").exists, "the print server", needs_program=False)
 
-    def printer(self, *arguments):
-        subprocess.run(["lpadmin", "-p", "Test", "-v", "file:///dev/null", *arguments], env=self.session.env, check=True)
-        subprocess.run(["lpadmin", "-d", "Test"], env=self.session.env, check=True)
-
-    def print_document(self, text):
-        self.page.write_bytes(text.encode("cp1250"))
-        self.session.start(built("pelmar-vex"), self.page)
-        main = self.session.wait_window(f"Pelmar VEX ({self.page})")
-        self.session.key("alt+s", "t", window=main)
+    def print_document(self, *printer):
+        """Prints on a printer with these options."""
+        self.session.run("lpadmin", "-p", "Test", "-v", "file:///dev/null", *printer)
+        self.session.run("lpadmin", "-d", "Test")
+        page = self.session.home / "page.html"
+        page.write_bytes("Příliš žluťoučký kůň\r\núpěl ďábelské ódy".encode("cp1250"))
+        main = self.start_with(page)
+        self.session.key("alt+s", "t")
         return main
 
     def jobs(self):
-        return sorted((self.folder / "jobs").glob("d*"))
+        return sorted((self.server / "jobs").glob("d*"))
 
     def test_the_words_reach_the_printer_without_a_question(self):
-        self.printer("-E")
-        main = self.print_document("Příliš žluťoučký kůň\r\núpěl ďábelské ódy")
+        main = self.print_document("-E")
         job, = self.session.wait_until(self.jobs, "a print job")
         self.session.wait_until(lambda: b"%%EOF" in job.read_bytes()[-32:], "the whole job")
-        read = subprocess.run(["pdftotext", job, "-"], stdout=subprocess.PIPE, text=True, check=True).stdout
-        self.assertEqual(read.split(), "Příliš žluťoučký kůň úpěl ďábelské ódy".split())
+        self.assertEqual(self.session.run("pdftotext", job, "-").split(),
+                         "Příliš žluťoučký kůň úpěl ďábelské ódy".split())
         self.assertEqual(self.session.titles(), [main.title])
-        self.session.close(main)
-        self.assertEqual(self.session.wait_exit(), 0)
+        self.end(main, asks=False)
 
     def test_a_printer_that_refuses_is_told(self):
-        self.printer()  # not enabled, accepts no jobs
-        self.print_document("words")
-        self.session.wait_window("Pelmar VEX")
+        self.print_document()  # not enabled, accepts no jobs
+        self.answer("Pelmar VEX")
         self.assertEqual(self.jobs(), [])
 
 

@@ -8,6 +8,7 @@ import subprocess
 import tempfile
 from pathlib import Path
 
+SIZE = (1280, 1024)
 # What would let a program out of the screen made here.
 OUTSIDE = ("WAYLAND_DISPLAY", "XAUTHORITY", "SESSION_MANAGER", "DBUS_SESSION_BUS_ADDRESS", "QT_QPA_PLATFORM",
            "QT_STYLE_OVERRIDE", "QT_SCALE_FACTOR", "LC_ALL", "LANGUAGE")
@@ -16,9 +17,7 @@ OUTSIDE = ("WAYLAND_DISPLAY", "XAUTHORITY", "SESSION_MANAGER", "DBUS_SESSION_BUS
 class Screen:
     """Use as a context manager. `env` is the environment for programs, `home` the temporary home."""
 
-    def __init__(self, size="1280x1024", language="C.UTF-8"):
-        self.size = size
-        self.language = language
+    def __init__(self):
         self.children = []
 
     def __enter__(self):
@@ -49,7 +48,7 @@ class Screen:
 
     def _environment(self):
         env = {name: value for name, value in os.environ.items() if name not in OUTSIDE}
-        env.update(HOME=str(self.home), LANG=self.language, CUPS_SERVER=str(self.home / "no-print-server"))
+        env.update(HOME=str(self.home), LANG="C.UTF-8", CUPS_SERVER=str(self.home / "no-print-server"))
         for name, folder in (("XDG_DATA_HOME", "data"), ("XDG_CONFIG_HOME", "config"), ("XDG_CACHE_HOME", "cache"),
                              ("XDG_STATE_HOME", "state"), ("XDG_RUNTIME_DIR", "runtime"), ("TMPDIR", "tmp")):
             path = self.home / folder
@@ -60,7 +59,7 @@ class Screen:
     def _start_server(self):
         read_end, write_end = os.pipe()
         self.children.append(subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write_end), "-screen", "0", self.size + "x24", "-nolisten", "tcp", "-noreset"],
+            ["Xvfb", "-displayfd", str(write_end), "-screen", "0", "%dx%dx24" % SIZE, "-nolisten", "tcp", "-noreset"],
             pass_fds=[write_end], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL))
         os.close(write_end)
         with os.fdopen(read_end) as pipe:

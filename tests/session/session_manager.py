@@ -1,5 +1,5 @@
-"""The desktop's session manager as far as a program at the end of the session meets it, over the system's own library: each
-client that registers is asked to save itself, at the end once more, and is told to die when it has."""
+"""The desktop's session manager as far as a program at the end of the session meets it, over the system's own library:
+each client that registers is asked to save itself, at the end once more, and is told to die when it has."""
 
 import ctypes
 import select
@@ -7,13 +7,9 @@ import time
 from ctypes import CFUNCTYPE, POINTER, byref, c_char_p, c_int, c_ulong, c_void_p, cast
 
 SAVE_GLOBAL, SAVE_LOCAL = 0, 1
-CALLBACKS = ("register_client", "interact_request", "interact_done", "save_yourself_request",
-             "save_yourself_phase2_request", "save_yourself_done", "close_connection", "set_properties",
-             "delete_properties", "get_properties")
-
-
-class Callbacks(ctypes.Structure):
-    _fields_ = [(name + part, c_void_p) for name in CALLBACKS for part in ("", "_data")]
+# The library's table: a function for each, with data of ours behind it.
+CALLBACKS = ("register", "interact_request", "interact_done", "save_request", "phase2_request", "done", "close",
+             "properties", "delete_properties", "get_properties")
 
 
 class Value(ctypes.Structure):
@@ -29,36 +25,36 @@ class SessionManager:
 
     def __init__(self):
         self.ice, self.sm = ctypes.CDLL("libICE.so.6"), ctypes.CDLL("libSM.so.6")
-        for library, name, result in ((self.ice, "IceComposeNetworkIdList", c_char_p),
-                                      (self.ice, "IceAcceptConnection", c_void_p),
-                                      (self.sm, "SmsGenerateClientID", c_void_p)):
-            getattr(library, name).restype = result
+        self.ice.IceComposeNetworkIdList.restype = c_char_p
+        self.ice.IceAcceptConnection.restype = self.sm.SmsGenerateClientID.restype = c_void_p
         self.restart, self.saves, self.ending, self.clients, self.connections = None, 0, False, [], {}
-        types = {"register_client": (self.register, c_int, c_char_p), "save_yourself_done": (self.done, None, c_int),
-                 "set_properties": (self.properties, None, c_int, POINTER(POINTER(Property)))}
-        self.kept = {name: CFUNCTYPE(result, c_void_p, c_void_p, *rest)(function)
-                     for name, (function, result, *rest) in types.items()}
-        self.kept["other"] = CFUNCTYPE(None, c_void_p, c_void_p)(lambda *_: None)
-        self.new = CFUNCTYPE(c_int, c_void_p, c_void_p, POINTER(c_ulong), POINTER(Callbacks), c_void_p)(self.connect)
-        self.allow = CFUNCTYPE(c_int, c_char_p)(lambda host: 1)
+        nothing = CFUNCTYPE(None, c_void_p, c_void_p)(lambda *_: None)
+        self.functions = {
+            "register": CFUNCTYPE(c_int, c_void_p, c_void_p, c_char_p)(self.register),
+            "done": CFUNCTYPE(None, c_void_p, c_void_p, c_int)(self.done),
+            "properties": CFUNCTYPE(None, c_void_p, c_void_p, c_int, POINTER(POINTER(Property)))(self.properties)}
+        table = [self.functions.get(name, nothing) for name in CALLBACKS]
+
+        @CFUNCTYPE(c_int, c_void_p, c_void_p, POINTER(c_ulong), POINTER(c_void_p), c_void_p)
+        def connect(client, data, mask, callbacks, reason):
+            mask[0] = (1 << len(CALLBACKS)) - 1
+            for number, function in enumerate(table):
+                callbacks[2 * number] = cast(function, c_void_p)
+            return 1
+        allow = CFUNCTYPE(c_int, c_char_p)(lambda host: 1)
         # The library's own handler ends the test with the first client that dies.
-        self.died = CFUNCTYPE(None, c_void_p)(lambda client: None)
-        self.ice.IceSetIOErrorHandler(self.died)
+        died = CFUNCTYPE(None, c_void_p)(lambda client: None)
+        self.kept = table, connect, allow, died  # for as long as the library calls them
+        self.ice.IceSetIOErrorHandler(died)
         error, count, listeners = ctypes.create_string_buffer(256), c_int(), c_void_p()
-        if not (self.sm.SmsInitialize(b"test", b"1", self.new, None, self.allow, 256, error)
+        if not (self.sm.SmsInitialize(b"test", b"1", connect, None, allow, 256, error)
                 and self.ice.IceListenForConnections(byref(count), byref(listeners), 256, error)):
             raise RuntimeError(error.value)
         self.address = self.ice.IceComposeNetworkIdList(count, listeners).decode()
         self.listeners = {}
         for one in cast(listeners, POINTER(c_void_p))[:count.value]:
-            self.ice.IceSetHostBasedAuthProc(c_void_p(one), self.allow)
+            self.ice.IceSetHostBasedAuthProc(c_void_p(one), allow)
             self.listeners[self.ice.IceGetListenConnectionNumber(c_void_p(one))] = c_void_p(one)
-
-    def connect(self, client, data, mask, callbacks, reason):
-        mask[0] = (1 << len(CALLBACKS)) - 1
-        for name in CALLBACKS:
-            setattr(callbacks.contents, name, cast(self.kept.get(name, self.kept["other"]), c_void_p))
-        return 1
 
     def register(self, client, data, previous):
         self.sm.SmsRegisterClientReply(c_void_p(client), c_void_p(self.sm.SmsGenerateClientID(c_void_p(client))))
