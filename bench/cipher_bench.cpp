@@ -37,7 +37,7 @@ struct Desk {
   QtPlatform platform;
   Editor editor{platform};
   Files files{editor};
-  MainWindow window{editor, files.opener};
+  MainWindow window{editor, files};
 
   Desk() {
     window.RefreshCommands();
@@ -110,7 +110,7 @@ BENCHMARK(Stream)->Name("stream_alone (limit 100 MB/s)")->Unit(benchmark::kMilli
 
 // A dialog with a table of depth 64 and the page prepared.
 struct RndDesk : Desk {
-  RND_Sifra dialog{editor, files.opener, &window};
+  RND_Sifra dialog{editor, &window};
 
   RndDesk() {
     dialog.Present();

@@ -56,7 +56,7 @@ struct Desk {
   BenchPlatform platform;
   Editor editor{platform};
   Files files{editor};
-  MainWindow window{editor, files.opener};
+  MainWindow window{editor, files};
   StatusTimer timer{window, editor};
 
   explicit Desk(const benchmark::State& state) {

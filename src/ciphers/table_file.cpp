@@ -45,8 +45,7 @@ std::string TableBytes(const CipherTable& table) {
   return std::move(writer).Take();
 }
 
-TableFiles::TableFiles(Platform& platform, Opener& opener, FileNumber& file_number)
-    : platform_(platform), opener_(opener), file_number_(file_number) {}
+TableFiles::TableFiles(Platform& platform, FileNumber& file_number) : platform_(platform), file_number_(file_number) {}
 
 void TableFiles::Load(CipherTable& table) {
   path_ = platform_.OpenDialog(kTableFilter, kFilterIndex).value_or(path_);
@@ -66,7 +65,7 @@ std::string TableFiles::ReadOrMake() const {
 }
 
 bool TableFiles::MayWrite() {
-  return !opener_.FileExists(path_) ||
+  return !FileExists(file_number_, platform_, path_) ||
          platform_.Message(MessageType::kYesNoWarning, "Opravdu uložit Tabulku ? - Soubor již existuje!",
                            "RND Soubor") == Answer::kYes;
 }

@@ -7,7 +7,8 @@
 #include <string_view>
 
 #include "ciphers/cipher_table.h"
-#include "files/open.h"
+#include "platform/platform.h"
+#include "shell/file_number.h"
 
 namespace pelmar {
 
@@ -23,7 +24,7 @@ std::string TableBytes(const CipherTable& table);
 // The open and the save dialog of the cipher, which share the name of the last file.
 class TableFiles {
  public:
-  TableFiles(Platform& platform, Opener& opener, FileNumber& file_number);
+  TableFiles(Platform& platform, FileNumber& file_number);
 
   // Puts what a file holds in the place of the table. required: a cancelled dialog means the file from before, and a
   // file that isn't there is made, empty, and read. Throws RuntimeError, and leaves the table alone, where the file
@@ -39,7 +40,6 @@ class TableFiles {
   [[nodiscard]] bool MayWrite();
 
   Platform& platform_;
-  Opener& opener_;
   FileNumber& file_number_;
   std::string path_;
 };

@@ -10,9 +10,11 @@ namespace pelmar {
 struct Files {
   // The editor outlives them.
   explicit Files(Editor& editor)
-      : opener(editor.documents, editor.settings, editor.platform, editor.file_number),
-        saver(editor.documents, opener, editor.platform, editor.file_number) {}
+      : recent(editor.settings, editor.platform),
+        opener(editor.documents, recent, editor.platform, editor.file_number),
+        saver(editor.documents, recent, editor.platform, editor.file_number) {}
 
+  RecentFiles recent;
   Opener opener;
   Saver saver;
 };

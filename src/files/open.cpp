@@ -1,51 +1,39 @@
 #include "files/open.h"
 
-#include <algorithm>
+#include <cerrno>
 #include <utility>
 
+#include "platform/paths.h"
 #include "platform/runtime_error.h"
 
 namespace pelmar {
 
-Opener::Opener(Documents& documents, SettingsRecord& settings, Platform& platform, FileNumber& file_number)
-    : documents_(documents), settings_(settings), platform_(platform), file_number_(file_number) {}
-
-bool Opener::FileExists(const std::string& path) {
-  // required: a stuck file number fails every open until the next start, so the test may not set it free
-  if (file_number_.IsOpen()) return false;
-  const bool separator = path.ends_with('\\') || path.ends_with('/');
-  return platform_.CanRead(separator ? path.substr(0, path.size() - 1) : path);
-}
+Opener::Opener(Documents& documents, RecentFiles& recent, Platform& platform, FileNumber& file_number)
+    : documents_(documents), recent_(recent), platform_(platform), file_number_(file_number) {}
 
 void Opener::OpenPath(const std::string& path) {
-  if (!FileExists(path)) {
+  // That the file can be read is the test for its being there, so it is opened once, where all goes well. The name of a
+  // file doesn't end in a separator, but the test overlooks one.
+  FileBytes file{.error = ENOTDIR, .bytes = {}};
+  if (!file_number_.IsOpen() && !EndsInSeparator(path)) file = platform_.ReadFile(path, kLargestDocument + 1);
+  if (file.error != 0 && !FileExists(file_number_, platform_, path)) {
     platform_.Message(MessageType::kOk, "Soubor " + path + " nenalezen!", "Soubor");
     return;
   }
-  file_number_.Open();
-  FileBytes file = platform_.ReadFile(path, kLargestDocument + 1);
-  if (file.error != 0) {
-    file_number_.Close();
-    throw RuntimeError(file.error, "Soubor " + path + " nelze číst");
-  }
+  if (file.error != 0) throw RuntimeError(file.error, "Soubor " + path + " nelze číst");
   if (file.bytes.size() > kLargestDocument) {
     platform_.Message(MessageType::kOk, "Nelze otevřít " + path + ", Soubor příliš velký", "Soubor");
-    file_number_.Close();
     return;
   }
-  documents_.SetCurrentPath(path);
-  documents_.Text().SetText(std::move(file.bytes));
-  documents_.Target().Prime(path);  // required: its error leaves the rest undone and file number 1 open
-  documents_.ShowPathInTitle();
-  RememberFile(path);
-  documents_.ShowPathOnTab();
-  documents_.SettleSlot();
+  file_number_.Open();
+  documents_.MakeCurrent(path, std::move(file.bytes));  // required: its error leaves file number 1 open
+  recent_.Remember(path);
   file_number_.Close();
 }
 
 void Opener::OpenRecentFile(int number) {
   try {
-    OpenPath(std::string(settings_.RecentFiles.at(static_cast<std::size_t>(number - 1))));
+    OpenPath(std::string(recent_.Path(number)));
   } catch (const RuntimeError&) {  // required: the command ends in silence
   }
 }
@@ -70,33 +58,11 @@ void Opener::ReloadFile() {
   }
 }
 
-void Opener::RememberFile(const std::string& path) {
-  platform_.AddToRecentDocuments(path);
-  PushRecentFile(path);
-}
-
-void Opener::PushRecentFile(const std::string& path) {
-  if (MoveToHead(settings_.RecentFiles, path) && on_recent_files) on_recent_files();
-}
-
-std::string Opener::RecentItemText(int number) const {
-  return "&" + std::to_string(number - 1) + " " + settings_.RecentFiles.at(static_cast<std::size_t>(number - 1));
-}
-
 std::string Opener::Preview(const std::string& path) {
   if (file_number_.IsOpen()) return std::string(kNoPreview);
   FileBytes file = platform_.ReadFile(path, kLargestDocument + 1);
   if (file.error != 0 || file.bytes.size() > kLargestDocument) return std::string(kNoPreview);
   return std::move(file.bytes);
-}
-
-bool MoveToHead(std::array<std::string, 10>& entries, const std::string& path) {
-  if (path.empty() || entries.front() == path) return false;
-  const auto found = std::find(entries.begin(), entries.end(), path);
-  const auto last = found == entries.end() ? entries.end() - 1 : found;
-  std::rotate(entries.begin(), last, last + 1);
-  entries.front() = path;
-  return true;
 }
 
 }  // namespace pelmar

@@ -1,17 +1,15 @@
-// Everything that brings a file into the current tab: OpenPath with its limit of 64,000 bytes, and the list of recent
-// files. An open replaces the current document and asks nothing. Paths are UTF-8.
+// Everything that brings a file into the current tab: OpenPath with its limit of 64,000 bytes, and the commands over
+// it. An open replaces the current document and asks nothing. Paths are UTF-8.
 #pragma once
 
-#include <array>
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <string_view>
 
+#include "files/recent_files.h"
 #include "platform/platform.h"
 #include "shell/documents.h"
 #include "shell/file_number.h"
-#include "shell/settings_record.h"
 #include "text/codepage.h"
 
 namespace pelmar {
@@ -28,7 +26,7 @@ inline constexpr std::string_view kNoPreview = "Není k dispozici"_w;
 
 class Opener {
  public:
-  Opener(Documents& documents, SettingsRecord& settings, Platform& platform, FileNumber& file_number);
+  Opener(Documents& documents, RecentFiles& recent, Platform& platform, FileNumber& file_number);
 
   // Opens a file into the current tab, or tells why it can't. A name without a full stop throws RuntimeError when the
   // text is already in, and leaves file number 1 open: required.
@@ -43,30 +41,14 @@ class Opener {
   // Reads the current file again after a question; failures end the command in silence.
   void ReloadFile();
 
-  // Puts a path at the head of the recent files and shows them; an empty path and the path at the head change nothing.
-  void PushRecentFile(const std::string& path);
-  // Adds a path to the system's recent documents and to the program's own.
-  void RememberFile(const std::string& path);
-  // The texts of the ten items of the "Recent" button, by entry from 1.
-  [[nodiscard]] std::string RecentItemText(int number) const;
-
-  // True when the path opens for reading. Uses file number 1, and closes it in any case.
-  bool FileExists(const std::string& path);
-
   // What the preview of a file shows: its bytes, or a fixed text where it is too long or can't be read.
   std::string Preview(const std::string& path);
 
-  std::function<void()> on_recent_files;  // ShowRecentFiles
-
  private:
   Documents& documents_;
-  SettingsRecord& settings_;
+  RecentFiles& recent_;
   Platform& platform_;
   FileNumber& file_number_;
 };
-
-// The rule of the recent list on its own: the path goes to the head, those before its old place move down by one.
-// Returns false where nothing changed.
-bool MoveToHead(std::array<std::string, 10>& entries, const std::string& path);
 
 }  // namespace pelmar

@@ -1,24 +1,21 @@
 #include "files/save.h"
 
+#include "files/open.h"
 #include "platform/paths.h"
 #include "platform/runtime_error.h"
 
 namespace pelmar {
 
-Saver::Saver(Documents& documents, Opener& opener, Platform& platform, FileNumber& file_number)
-    : documents_(documents), opener_(opener), platform_(platform), file_number_(file_number) {}
+Saver::Saver(Documents& documents, RecentFiles& recent, Platform& platform, FileNumber& file_number)
+    : documents_(documents), recent_(recent), platform_(platform), file_number_(file_number) {}
 
 void Saver::SaveToPath(const std::string& path) {
   if (!MayWrite(path)) return;
   try {
     const WriteOutcome outcome = Write(path, documents_.Text().Text());
     if (outcome.error != 0) return TellError(path, outcome);
-    documents_.SetCurrentPath(path);
-    documents_.Target().Prime(path);
-    documents_.ShowPathInTitle();
-    opener_.RememberFile(path);
-    documents_.ShowPathOnTab();
-    documents_.SettleSlot();
+    documents_.MakeCurrent(path);
+    recent_.Remember(path);
   } catch (const RuntimeError& error) {
     TellError(path, {.error = error.Number()});
   }
@@ -29,7 +26,7 @@ void Saver::SaveTextCopy(const std::string& path, std::string_view text) {
   try {
     const WriteOutcome outcome = Write(path, text);
     if (outcome.error != 0) return TellError(path, outcome);
-    opener_.RememberFile(path);
+    recent_.Remember(path);
   } catch (const RuntimeError& error) {
     TellError(path, {.error = error.Number()});
   }
@@ -64,13 +61,13 @@ void Saver::InsertFromFile() {
     // An empty file has no field to read. required: the command ends in silence
     if (file.error != 0 || file.bytes.empty()) return;
     documents_.Text().ReplaceSelection(FirstField(file.bytes));
-    opener_.RememberFile(*path);
+    recent_.Remember(*path);
   } catch (const RuntimeError&) {  // required: the command ends in silence
   }
 }
 
 bool Saver::MayWrite(const std::string& path) {
-  if (!opener_.FileExists(path)) return true;
+  if (!FileExists(file_number_, platform_, path)) return true;
   const std::string question = "Opravdu uložit " + path + "?\r\nSoubor již existuje a bude přepsán!";
   return platform_.Message(MessageType::kYesNoWarning, question, "Soubor") == Answer::kYes;
 }

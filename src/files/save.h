@@ -5,13 +5,16 @@
 #include <string>
 #include <string_view>
 
-#include "files/open.h"
+#include "files/recent_files.h"
+#include "platform/platform.h"
+#include "shell/documents.h"
+#include "shell/file_number.h"
 
 namespace pelmar {
 
 class Saver {
  public:
-  Saver(Documents& documents, Opener& opener, Platform& platform, FileNumber& file_number);
+  Saver(Documents& documents, RecentFiles& recent, Platform& platform, FileNumber& file_number);
 
   // Saves the document and makes the path its file. Asks before it overwrites, and takes the text as it is when that is
   // answered; what fails is told, and steps already done stay done.
@@ -38,7 +41,7 @@ class Saver {
   void TellError(const std::string& path, const WriteOutcome& outcome);
 
   Documents& documents_;
-  Opener& opener_;
+  RecentFiles& recent_;
   Platform& platform_;
   FileNumber& file_number_;
 };

@@ -50,6 +50,8 @@ bool HasExtension(std::string_view path) {
   return dot != separator;
 }
 
+bool EndsInSeparator(std::string_view path) { return !path.empty() && IsSeparator(path.back()); }
+
 std::string PathToFileUrl(std::string_view path) {
   // The slash of a native absolute path is the third one already.
   std::string url = path.starts_with('/') ? "file://" : "file:///";
@@ -81,7 +83,7 @@ std::optional<std::string> PathFromFileUrl(std::string_view url) {
 std::string JoinPath(std::string_view folder, std::string_view name) {
   std::string path(folder);
   const bool backslashed = folder.find('\\') != std::string_view::npos && folder.find('/') == std::string_view::npos;
-  if (path.empty() || !IsSeparator(path.back())) path += backslashed ? '\\' : '/';
+  if (!EndsInSeparator(path)) path += backslashed ? '\\' : '/';
   path += name;
   return path;
 }

@@ -15,6 +15,8 @@ std::string FilePart(std::string_view path, int part);
 // False for a path whose name holds no full stop, as part 2 refuses it, and for an empty one.
 bool HasExtension(std::string_view path);
 
+bool EndsInSeparator(std::string_view path);
+
 // "file:///" and the path, each backslash as "/", nothing encoded. A native absolute path gets three slashes in all.
 std::string PathToFileUrl(std::string_view path);
 

@@ -25,7 +25,7 @@ namespace pelmar {
 Program::Program(Platform& platform)
     : platform_(platform),
       editor_(platform),
-      main_(editor_, files_.opener),
+      main_(editor_, files_),
       session_(main_, editor_.documents, editor_.settings, files_.opener, platform, editor_.file_number),
       rescue_(ModifiedDocuments(editor_.documents), platform),
       timer_(main_, editor_) {

@@ -49,7 +49,7 @@ void Session::Start(std::string_view tail) {
 
 void Session::LoadText() {
   const std::string path = InstallPath(kRecoveryName);
-  if (opener_.FileExists(path)) {
+  if (FileExists(file_number_, platform_, path)) {
     // A longer file is passed over in silence and stays where it is.
     FileBytes file = platform_.ReadFile(path, kLargestDocument + 1);
     if (file.error != 0) throw RuntimeError(file.error, "Soubor " + path + " nelze číst");
@@ -60,7 +60,7 @@ void Session::LoadText() {
 
 void Session::LoadSettings() {
   const std::string path = InstallPath(kSettingsName);
-  if (!opener_.FileExists(path)) return;
+  if (!FileExists(file_number_, platform_, path)) return;
   const FileBytes file = platform_.ReadFile(path, std::nullopt);
   if (file.error != 0) throw RuntimeError(file.error, "Soubor " + path + " nelze číst");
   settings_ = ReadSettings(file.bytes);

@@ -88,14 +88,19 @@ void Documents::Restore(int tab, std::string text, const std::string& path) {
 
 void Documents::ShowPathInTitle() { SetTitle("Pelmar VEX (" + current_path_ + ")"); }
 
-void Documents::ShowPathOnTab() {
-  faces_[Index(selected_)].ToolTipText = current_path_;
-  SetFace(FilePart(current_path_, 2) + "." + FilePart(current_path_, 3), current_path_);
+void Documents::MakeCurrent(const std::string& path) {
+  current_path_ = path;
+  target_.Prime(path);  // required: its error leaves the rest undone
+  ShowPathInTitle();
+  SetFace(FilePart(path, 2) + "." + FilePart(path, 3), path);
+  Current().Path = path;
+  Current().Modified = false;
 }
 
-void Documents::SettleSlot() {
-  Current().Path = current_path_;
-  Current().Modified = false;
+void Documents::MakeCurrent(const std::string& path, std::string text) {
+  current_path_ = path;  // required: the change that the text raises sees it already
+  text_.SetText(std::move(text));
+  MakeCurrent(path);
 }
 
 void Documents::SetTitle(std::string title) {

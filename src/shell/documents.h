@@ -63,11 +63,11 @@ class Documents {
   // A document that a crash left behind comes back into its tab, which becomes the selected one, marked as unsaved.
   void Restore(int tab, std::string text, const std::string& path);
 
-  // Steps that opening and saving share; the order in which they are called is required.
-  void SetCurrentPath(const std::string& path) { current_path_ = path; }
-  void ShowPathInTitle();  // without "*"
-  void ShowPathOnTab();    // throws RuntimeError for a name without a full stop
-  void SettleSlot();       // the slot's path is the current one, and it isn't modified
+  // The file at the path is the current document from here on, and the text is what it holds: the end of a save.
+  // Throws RuntimeError for a name without a full stop, when nothing but the current path has changed.
+  void MakeCurrent(const std::string& path);
+  // The same for a file that is opened; its text comes in first, also where it throws.
+  void MakeCurrent(const std::string& path, std::string text);
 
   std::function<void()> on_title;
   std::function<void(int tab)> on_face;
@@ -77,6 +77,7 @@ class Documents {
   static std::size_t Index(int tab) { return static_cast<std::size_t>(tab - 1); }
   DocSlot& Current() { return slots_[Index(selected_)]; }
   void TextChanged();
+  void ShowPathInTitle();  // without "*"
   void SetTitle(std::string title);
   void SetFace(std::string caption, std::string tool_tip);
 

@@ -38,6 +38,10 @@ class OpenNumber {
   FileNumber& number_;
 };
 
+// True when the path opens for reading. required: while the number is stuck nothing is found, so that every later
+// operation fails until the next start; the test may not set it free.
+bool FileExists(const FileNumber& number, Platform& platform, const std::string& path);
+
 // What a person has to know of a failed write beside its error: a line behind a message, "" as a rule.
 std::string KeptNotice(const WriteOutcome& outcome);
 

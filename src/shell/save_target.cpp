@@ -1,23 +1,12 @@
 #include "shell/save_target.h"
 
-#include "platform/paths.h"
-
 namespace pelmar {
 
 void SaveTarget::Prime(const std::string& path) {
-  struct Teller {
-    SaveTarget& target;
-    ~Teller() {
-      if (target.on_primed) target.on_primed();
-    }
-  } teller{*this};
-  primed = true;
-  complete = false;
-  folder = FilePart(path, 1);
-  name = FilePart(path, 2);
-  extension = FilePart(path, 3);
-  label = path;
-  complete = true;
+  path_ = path;
+  if (HasExtension(path)) file_ = path;
+  primed.Tell();
+  FilePart(path, 2);  // required: this is where an open or a save of such a name breaks off
 }
 
 }  // namespace pelmar

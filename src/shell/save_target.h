@@ -1,26 +1,35 @@
-// What the dialog Ulož was last primed with: each open, each save and each switch to a tab with a path leaves its file
+// What the dialog Ulož was last primed with: each open, each save and each switch to a tab with a path leaves its path
 // here, so that the dialog needn't exist for it. Paths are UTF-8.
 #pragma once
 
-#include <functional>
 #include <string>
+
+#include "platform/paths.h"
+#include "text/listeners.h"
 
 namespace pelmar {
 
-struct SaveTarget {
-  std::string folder;     // Drive1 and Dir1
-  std::string name;       // Text1, without extension
-  std::string extension;  // Text2, without the dot
-  std::string label;      // Label1, the whole path
-  bool complete = false;  // the last priming reached its end; otherwise only the folder is of its path
-  bool primed = false;    // false: the dialog keeps its own initial fields
-
-  // Told after each priming, complete or broken off.
-  std::function<void()> on_primed;
-
-  // Fills the fields from the path in their order. Throws RuntimeError for a name without a full stop, after the fields
-  // before the name were set.
+class SaveTarget {
+ public:
+  // Throws RuntimeError for a name without a full stop, of which only the folder is taken.
   void Prime(const std::string& path);
+
+  // False: the dialog keeps its own initial fields.
+  [[nodiscard]] bool Primed() const { return !path_.empty(); }
+  // False: the last priming broke off, and name and extension are still those of the one before it.
+  [[nodiscard]] bool Complete() const { return file_ == path_; }
+
+  [[nodiscard]] const std::string& Path() const { return path_; }
+  [[nodiscard]] std::string Folder() const { return FilePart(path_, 1); }
+  [[nodiscard]] std::string Name() const { return file_.empty() ? std::string() : FilePart(file_, 2); }
+  [[nodiscard]] std::string Extension() const { return file_.empty() ? std::string() : FilePart(file_, 3); }
+
+  // Told after each priming, also after one that breaks off.
+  Listeners<> primed;
+
+ private:
+  std::string path_;
+  std::string file_;  // the last path whose name could be taken
 };
 
 }  // namespace pelmar

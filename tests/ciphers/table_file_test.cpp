@@ -88,7 +88,7 @@ TEST(TableFile, AnyBytesMakeATableThatCanBeWorkedWith) {
 struct TableFilesTest : testing::Test {
   ScriptedPlatform platform;
   WholeEditor editor{platform};
-  TableFiles files{platform, editor.opener, editor.file_number};
+  TableFiles files{platform, editor.file_number};
   CipherTable table = Table(8, "mine");
 
   // Whether the load went as far as to replace the table.

@@ -30,7 +30,7 @@ TEST_F(FilesTest, OpenPutsTheFileIntoTheCurrentTab) {
   EXPECT_EQ(documents.Face(1).Caption, "př.html");
   EXPECT_EQ(documents.Slot(1).Path, "/a/př.html");
   EXPECT_EQ(documents.UnsavedCount(), 0);
-  EXPECT_EQ(documents.Target().label, "/a/př.html");
+  EXPECT_EQ(documents.Target().Path(), "/a/př.html");
   EXPECT_EQ(editor.settings.RecentFiles[0], "/a/př.html");
   EXPECT_EQ(platform.TakeCalls(), (Calls{"recent /a/př.html"}));
 }
@@ -65,21 +65,21 @@ TEST_F(FilesTest, MissingFoldersAndUnreadableFilesAreNotFound) {
 }
 
 TEST_F(FilesTest, RecentFilesMoveToTheHead) {
-  for (int i = 1; i <= 11; ++i) editor.opener.PushRecentFile("/f" + std::to_string(i) + ".txt");
+  for (int i = 1; i <= 11; ++i) editor.files.recent.PushRecentFile("/f" + std::to_string(i) + ".txt");
   EXPECT_EQ(editor.settings.RecentFiles[0], "/f11.txt");
   EXPECT_EQ(editor.settings.RecentFiles[9], "/f2.txt");  // the first fell out
   int shown = 0;
-  editor.opener.on_recent_files = [&] { ++shown; };
-  editor.opener.PushRecentFile("/f7.txt");  // entry 5
+  const Listening heard = editor.files.recent.changed.Add([&] { ++shown; });
+  editor.files.recent.PushRecentFile("/f7.txt");  // entry 5
   EXPECT_EQ(editor.settings.RecentFiles[0], "/f7.txt");
   EXPECT_EQ(editor.settings.RecentFiles[4], "/f8.txt");
   EXPECT_EQ(editor.settings.RecentFiles[5], "/f6.txt");
-  editor.opener.PushRecentFile("/f7.txt");
-  editor.opener.PushRecentFile("");
+  editor.files.recent.PushRecentFile("/f7.txt");
+  editor.files.recent.PushRecentFile("");
   EXPECT_EQ(shown, 1);
-  EXPECT_EQ(editor.opener.RecentItemText(1), "&0 /f7.txt");
-  EXPECT_EQ(editor.opener.RecentItemText(10), "&9 /f2.txt");
-  editor.opener.PushRecentFile("/F7.txt");  // case counts
+  EXPECT_EQ(editor.files.recent.ItemText(1), "&0 /f7.txt");
+  EXPECT_EQ(editor.files.recent.ItemText(10), "&9 /f2.txt");
+  editor.files.recent.PushRecentFile("/F7.txt");  // case counts
   EXPECT_EQ(editor.settings.RecentFiles[1], "/f7.txt");
 }
 
@@ -142,7 +142,7 @@ TEST_F(FilesTest, SaveAdoptsThePath) {
   EXPECT_EQ(platform.files["/a/x.y.txt"], "new\r\n");
   EXPECT_EQ(documents.Title(), "Pelmar VEX (/a/x.y.txt)");
   EXPECT_EQ(documents.Face(1).Caption, "x.y.txt");
-  EXPECT_EQ(documents.Target().name, "x.y");
+  EXPECT_EQ(documents.Target().Name(), "x.y");
   EXPECT_EQ(documents.UnsavedCount(), 0);
 }
 

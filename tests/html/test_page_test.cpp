@@ -51,7 +51,7 @@ TEST_F(PageTest, NoHtmlCleansTheSelectionAlone) {
 }
 
 TEST_F(PageTest, TestHtmlShowsTheSavedFile) {
-  editor.documents.SetCurrentPath("/home/jan/a.html");
+  editor.documents.MakeCurrent("/home/jan/a.html");
   editor.text.SetText("unsaved");
   platform.answers = {Answer::kYes};
   editor.commands.Run("mnutest");
@@ -69,7 +69,7 @@ TEST_F(PageTest, TestHtmlWritesOneNameAndOpensAnother) {
   EXPECT_EQ(platform.calls, (Calls{"create /tmp/$$$PelmarTemp49999999.htm", "default program /tmp/49999999.htm"}));
   EXPECT_EQ(platform.files["/tmp/$$$PelmarTemp49999999.htm"], "<P>\r\n");
 
-  editor.documents.SetCurrentPath("/home/jan/a.html");
+  editor.documents.MakeCurrent("/home/jan/a.html");
   platform.answers = {Answer::kNo};
   platform.draws = {0.0};
   editor.commands.Run("mnutest");
@@ -84,7 +84,7 @@ TEST_F(PageTest, ThePageToShowIsTheFileOrANewPageEachTime) {
   EXPECT_EQ(PageToShow(editor, PageEnd::kAsItIs), "/tmp/$$$PelmarTemp24999999.html");
   EXPECT_EQ(platform.files["/tmp/$$$PelmarTemp99999998.html"], "<P>\r\n");
   EXPECT_EQ(platform.files["/tmp/$$$PelmarTemp24999999.html"], "<P>");
-  editor.documents.SetCurrentPath("/home/jan/a.html");
+  editor.documents.MakeCurrent("/home/jan/a.html");
   platform.TakeCalls();
   EXPECT_EQ(PageToShow(editor, PageEnd::kAsItIs), "/home/jan/a.html");
   EXPECT_TRUE(platform.calls.empty());

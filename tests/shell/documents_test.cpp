@@ -14,15 +14,6 @@ struct DocumentsTest : testing::Test {
   TextBuffer text;
   Documents documents{text};
 
-  // What opening a file does to the documents.
-  void Adopt(const std::string& path, const std::string& content) {
-    documents.SetCurrentPath(path);
-    text.SetText(content);
-    documents.Target().Prime(path);
-    documents.ShowPathInTitle();
-    documents.ShowPathOnTab();
-    documents.SettleSlot();
-  }
   void Type(const std::string& more) {
     text.SetSelStart(text.Size());
     text.Type(more);
@@ -41,7 +32,7 @@ TEST_F(DocumentsTest, ChangeMarksTheTitleAndFillsTheSlot) {
 }
 
 TEST_F(DocumentsTest, SwitchingKeepsTextPathAndMark) {
-  Adopt("/a/one.txt", "one");
+  documents.MakeCurrent("/a/one.txt", "one");
   EXPECT_EQ(documents.Face(1).Caption, "one.txt");
   EXPECT_EQ(documents.Face(1).ToolTipText, "/a/one.txt");
   Type("!");
@@ -62,7 +53,7 @@ TEST_F(DocumentsTest, SwitchingKeepsTextPathAndMark) {
 
 // required: the change that a switch raises still writes the path of the tab that was left
 TEST_F(DocumentsTest, EnteredSlotHoldsTheLeftPathUntilTheNextChange) {
-  Adopt("/a/one.txt", "one");
+  documents.MakeCurrent("/a/one.txt", "one");
   documents.SwitchTo(2);
   EXPECT_EQ(documents.Slot(2).Path, "/a/one.txt");
   EXPECT_NE(AllFilesText(documents).find("Soubor:/a/one.txt\r\n\r\n\r\n"), std::string::npos);
@@ -76,28 +67,28 @@ TEST_F(DocumentsTest, EnteredSlotHoldsTheLeftPathUntilTheNextChange) {
 }
 
 TEST_F(DocumentsTest, OnlyDocumentsWithAPathPrimeTheSaveDialog) {
-  Adopt("/a/one.txt", "one");
+  documents.MakeCurrent("/a/one.txt", "one");
   documents.SwitchTo(2);
-  documents.Target().name = "kept";
+  documents.Target().Prime("/b/kept.txt");
   documents.SwitchTo(3);
-  EXPECT_EQ(documents.Target().name, "kept");
+  EXPECT_EQ(documents.Target().Path(), "/b/kept.txt");
   documents.SwitchTo(1);
-  EXPECT_EQ(documents.Target().folder, "/a/");
-  EXPECT_EQ(documents.Target().name, "one");
-  EXPECT_EQ(documents.Target().extension, "txt");
-  EXPECT_EQ(documents.Target().label, "/a/one.txt");
+  EXPECT_EQ(documents.Target().Folder(), "/a/");
+  EXPECT_EQ(documents.Target().Name(), "one");
+  EXPECT_EQ(documents.Target().Extension(), "txt");
+  EXPECT_EQ(documents.Target().Path(), "/a/one.txt");
 }
 
 TEST_F(DocumentsTest, PrimingBreaksOffAtANameWithoutDot) {
   documents.Target().Prime("/a/one.txt");
   EXPECT_THROW(documents.Target().Prime("/b/README"), RuntimeError);
-  EXPECT_EQ(documents.Target().folder, "/b/");
-  EXPECT_EQ(documents.Target().name, "one");
-  EXPECT_FALSE(documents.Target().complete);
+  EXPECT_EQ(documents.Target().Folder(), "/b/");
+  EXPECT_EQ(documents.Target().Name(), "one");
+  EXPECT_FALSE(documents.Target().Complete());
 }
 
 TEST_F(DocumentsTest, ClearCurrentLeavesTheOldPathInTheSlot) {
-  Adopt("/a/one.txt", "one");
+  documents.MakeCurrent("/a/one.txt", "one");
   Type("!");
   documents.ClearCurrent();
   EXPECT_EQ(documents.Title(), "Pelmar VEX ()");
@@ -110,17 +101,17 @@ TEST_F(DocumentsTest, ClearCurrentLeavesTheOldPathInTheSlot) {
 }
 
 TEST_F(DocumentsTest, AllFilesTextHasABlockForEachSlot) {
-  Adopt("/a/one.txt", "one");
+  documents.MakeCurrent("/a/one.txt", "one");
   EXPECT_EQ(AllFilesText(documents),
             "Soubor:/a/one.txt\r\none\r\n\r\n"
             "Soubor:\r\n\r\n\r\nSoubor:\r\n\r\n\r\nSoubor:\r\n\r\n\r\nSoubor:\r\n\r\n\r\n");
 }
 
 TEST_F(DocumentsTest, RescueKeepsTheUnsavedDocumentsAndBringsThemBack) {
-  Adopt("/a/one.txt", "one");
+  documents.MakeCurrent("/a/one.txt", "one");
   Type("!");
   documents.SwitchTo(2);
-  Adopt("/a/two.txt", "two");  // saved
+  documents.MakeCurrent("/a/two.txt", "two");  // saved
   documents.SwitchTo(4);
   Type("never saved");
   const RescueRecord kept = UnsavedDocuments(documents);
@@ -139,7 +130,7 @@ TEST_F(DocumentsTest, RescueKeepsTheUnsavedDocumentsAndBringsThemBack) {
 }
 
 TEST_F(DocumentsTest, RescueNeverOverwritesADocumentOfThisRun) {
-  Adopt("/given.txt", "given");
+  documents.MakeCurrent("/given.txt", "given");
   const RescueRecord first{1,
                            {{1, "/a/README", "1"}, {2, "", "2"}, {3, "", "3"}, {4, "", "4"}, {5, "/\u65e5.txt", "5"}}};
   // Four free tabs, five documents. A path outside the code page stays a path.

@@ -29,8 +29,7 @@ void AddCipherWindows(const ProgramParts& parts) {
   windows.Register<ShiftKod>([parts, &text] { return std::make_unique<ShiftKod>(text, parts.platform, &parts.main); });
   windows.Register<Shift>([parts, &text] { return std::make_unique<Shift>(text, &parts.main); });
   windows.Register<Confeld>([parts, &text] { return std::make_unique<Confeld>(text, parts.platform, &parts.main); });
-  windows.Register<RND_Sifra>(
-      [parts] { return std::make_unique<RND_Sifra>(parts.editor, parts.files.opener, &parts.main); });
+  windows.Register<RND_Sifra>([parts] { return std::make_unique<RND_Sifra>(parts.editor, &parts.main); });
   windows.Register<CHT>([parts, &text] { return std::make_unique<CHT>(text, parts.platform, &parts.main); });
   parts.ShowBy<ZaKod>({"mnucode"});
   parts.ShowBy<ShiftKod>({"mnu_encrypt_shift"});

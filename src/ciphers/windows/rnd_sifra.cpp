@@ -20,11 +20,11 @@ void ShowOnly(QListWidget& list, const std::vector<std::string>& rows) {
 
 }  // namespace
 
-RND_Sifra::RND_Sifra(Editor& editor, Opener& opener, QWidget* parent)
+RND_Sifra::RND_Sifra(Editor& editor, QWidget* parent)
     : DialogWindow(parent),
       document_(editor.text),
       platform_(editor.platform),
-      files_(editor.platform, opener, editor.file_number),
+      files_(editor.platform, editor.file_number),
       ui_(std::make_unique<Ui::RND_Sifra>()) {
   ui_->setupUi(this);
   for (QListWidget* list : {ui_->List1, ui_->List2}) ShowRowsOnOneLine(*list);  // a table may be any file

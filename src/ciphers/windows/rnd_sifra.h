@@ -7,6 +7,7 @@
 #include "ciphers/rnd_cipher.h"
 #include "ciphers/table_file.h"
 #include "platform/qt/controls/dialog_window.h"
+#include "text/text_buffer.h"
 
 namespace Ui {
 class RND_Sifra;
@@ -21,7 +22,7 @@ class RND_Sifra : public DialogWindow {
   Q_OBJECT
 
  public:
-  RND_Sifra(Editor& editor, Opener& opener, QWidget* parent);
+  RND_Sifra(Editor& editor, QWidget* parent);
   ~RND_Sifra() override;
 
  private:

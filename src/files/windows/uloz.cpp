@@ -18,11 +18,11 @@ Uloz::Uloz(Documents& documents, Saver& saver, QWidget* parent)
   connect(ui_->Text2, &QComboBox::textActivated, this, &Uloz::FieldChanged);  // the same extension again counts too
   connect(ui_->Command1, &QPushButton::clicked, this, &Uloz::Command1_Click);
   connect(ui_->Command2, &QPushButton::clicked, this, &Uloz::hide);
-  documents_.Target().on_primed = [this] { TakeTarget(); };
-  if (documents_.Target().primed) TakeTarget();
+  priming_ = documents_.Target().primed.Add([this] { TakeTarget(); });
+  if (documents_.Target().Primed()) TakeTarget();
 }
 
-Uloz::~Uloz() { documents_.Target().on_primed = nullptr; }
+Uloz::~Uloz() = default;
 
 void Uloz::FieldChanged() {
   ui_->Command1->setEnabled(true);
@@ -31,19 +31,20 @@ void Uloz::FieldChanged() {
   const auto typed = [](const QString& text, const std::string& primed) {
     return text == Utf8ToQString(primed) ? primed : Utf8FromQString(text);
   };
-  ShowPath(*ui_->Label1, TargetPath(PathFromQString(ui_->Dir1->Path()), typed(ui_->Text1->text(), target.name),
-                                    typed(ui_->Text2->currentText(), target.extension)));
+  ShowPath(*ui_->Label1, TargetPath(PathFromQString(ui_->Dir1->Path()), typed(ui_->Text1->text(), target.Name()),
+                                    typed(ui_->Text2->currentText(), target.Extension())));
 }
 
 void Uloz::TakeTarget() {
   const SaveTarget& target = documents_.Target();
   ui_->Command1->setEnabled(true);
-  ui_->Drive1->SetDrive(PathToQString(target.folder));
-  ui_->Dir1->SetPath(PathToQString(target.folder));
-  if (!target.complete) return;
-  ui_->Text1->setText(Utf8ToQString(target.name));
-  ui_->Text2->setCurrentText(Utf8ToQString(target.extension));
-  ShowPath(*ui_->Label1, target.label);
+  const QString folder = PathToQString(target.Folder());
+  ui_->Drive1->SetDrive(folder);
+  ui_->Dir1->SetPath(folder);
+  if (!target.Complete()) return;
+  ui_->Text1->setText(Utf8ToQString(target.Name()));
+  ui_->Text2->setCurrentText(Utf8ToQString(target.Extension()));
+  ShowPath(*ui_->Label1, target.Path());
 }
 
 void Uloz::Command1_Click() {

@@ -28,6 +28,7 @@ class Uloz : public DialogWindow {
   Documents& documents_;
   Saver& saver_;
   std::unique_ptr<Ui::Uloz> ui_;
+  Listening priming_;
 };
 
 }  // namespace pelmar

@@ -29,8 +29,8 @@ QString EscapedMnemonics(const QString& item) {
 
 }  // namespace
 
-MainToolbar::MainToolbar(const Commands& commands, Opener& opener, QWidget* parent)
-    : QToolBar(parent), commands_(commands), opener_(opener) {
+MainToolbar::MainToolbar(const Commands& commands, Files& files, QWidget* parent)
+    : QToolBar(parent), commands_(commands), files_(files) {
   setObjectName(QStringLiteral("Toolbar1"));
   setMovable(false);
   setFloatable(false);
@@ -59,7 +59,7 @@ void MainToolbar::AddRecentMenu(QAction* action) {
   for (int number = 1; number <= 10; ++number) {
     QAction* item = menu->addAction(QString());
     item->setObjectName(QStringLiteral("M%1").arg(number));
-    connect(item, &QAction::triggered, this, [this, number] { opener_.OpenRecentFile(number); });
+    connect(item, &QAction::triggered, this, [this, number] { files_.opener.OpenRecentFile(number); });
     recent_[static_cast<std::size_t>(number - 1)] = item;
   }
   action->setMenu(menu);
@@ -92,7 +92,7 @@ void MainToolbar::Refresh() {
 
 void MainToolbar::ShowRecentFiles() {
   for (int number = 1; number <= 10; ++number) {
-    const QString item = Utf8ToQString(opener_.RecentItemText(number));
+    const QString item = Utf8ToQString(files_.recent.ItemText(number));
     QAction* action = recent_[static_cast<std::size_t>(number - 1)];
     action->setText(EscapedMnemonics(Shortened(item)));
     action->setToolTip(item.mid(kBeforePath));  // the path as a whole

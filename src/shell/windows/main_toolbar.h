@@ -4,7 +4,7 @@
 #include <QToolBar>
 #include <array>
 
-#include "files/open.h"
+#include "files/files.h"
 #include "shell/commands.h"
 
 namespace pelmar {
@@ -13,7 +13,7 @@ class MainToolbar : public QToolBar {
   Q_OBJECT
 
  public:
-  MainToolbar(const Commands& commands, Opener& opener, QWidget* parent = nullptr);
+  MainToolbar(const Commands& commands, Files& files, QWidget* parent = nullptr);
 
   // Enables every button that has a command by now.
   void Refresh();
@@ -27,7 +27,7 @@ class MainToolbar : public QToolBar {
   void AddRecentMenu(QAction* action);
 
   const Commands& commands_;
-  Opener& opener_;
+  Files& files_;
   QList<QAction*> initial_;
   std::array<QAction*, 10> recent_{};
 };

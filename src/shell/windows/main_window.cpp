@@ -50,8 +50,8 @@ std::string ListOf(const std::vector<std::string>& paths) {
 
 }  // namespace
 
-MainWindow::MainWindow(Editor& editor, Opener& opener)
-    : editor_(editor), opener_(opener), placement_(*this, [this](const TwipsRect& now) { return Wanted(now); }) {
+MainWindow::MainWindow(Editor& editor, Files& files)
+    : editor_(editor), files_(files), placement_(*this, [this](const TwipsRect& now) { return Wanted(now); }) {
   setObjectName(QStringLiteral("Main"));
   setProperty(kTagProperty, QLatin1String(kAutosnapTag));
   setAcceptDrops(true);
@@ -69,7 +69,7 @@ void MainWindow::MakeControls() {
   client_ = new QWidget(this);
   setCentralWidget(client_);
   client_->installEventFilter(this);
-  toolbar_ = new MainToolbar(editor_.commands, opener_, client_);
+  toolbar_ = new MainToolbar(editor_.commands, files_, client_);
   toolbar_->setAccessibleName(QStringLiteral("Panel nástrojů"));
   tabs_ = new FileTab(client_);
   text_ = new TextBox(client_);
@@ -117,7 +117,7 @@ void MainWindow::FollowDocuments() {
   editor_.documents.on_title = [this] { setWindowTitle(PlainTitle(editor_.documents.Title())); };
   editor_.documents.on_face = [this](int tab) { tabs_->SetFace(tab, editor_.documents.Face(tab)); };
   editor_.documents.on_selected = [this](int tab) { tabs_->setCurrentIndex(tab - 1); };
-  opener_.on_recent_files = [this] { ShowRecentFiles(); };
+  recent_files_ = files_.recent.changed.Add([this] { ShowRecentFiles(); });
   editor_.documents.on_title();
 }
 
@@ -369,12 +369,12 @@ void MainWindow::OpenDropped(std::vector<std::string> paths) {
     return;
   // The first one takes the place of the current document, as a single one does; the others lose nobody anything.
   auto path = paths.begin();
-  opener_.OpenPath(*path);
+  files_.opener.OpenPath(*path);
   while (++path != paths.end()) {
     const int tab = editor_.documents.EmptyTab();
     if (tab == 0) return Tell("Není volná záložka, neotevřeny zůstaly soubory:" + ListOf({path, paths.end()}));
     editor_.documents.SwitchTo(tab);
-    opener_.OpenPath(*path);
+    files_.opener.OpenPath(*path);
   }
 }
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "files/open.h"
+#include "files/files.h"
 #include "platform/qt/controls/text_box.h"
 #include "platform/qt/placement.h"
 #include "platform/twips.h"
@@ -25,7 +25,7 @@ class MainWindow : public QMainWindow, public MainView {
   Q_OBJECT
 
  public:
-  MainWindow(Editor& editor, Opener& opener);
+  MainWindow(Editor& editor, Files& files);
 
   [[nodiscard]] TextBox& Text() { return *text_; }
   [[nodiscard]] MenuBar& Menus() { return *menus_; }
@@ -97,7 +97,8 @@ class MainWindow : public QMainWindow, public MainView {
   [[nodiscard]] LayoutInput Measures() const;
 
   Editor& editor_;
-  Opener& opener_;
+  Files& files_;
+  Listening recent_files_;
   TextBuffer nothing_;  // what the box shows while the text is hidden
   QWidget* client_ = nullptr;
   MenuBar* menus_ = nullptr;

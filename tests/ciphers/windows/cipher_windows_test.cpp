@@ -312,7 +312,7 @@ TEST_F(CipherWindowsTest, ChtRewritesAgainAndAgain) {
 }
 
 struct RndSifraTest : CipherWindowsTest {
-  RND_Sifra dialog{editor, editor.opener, nullptr};
+  RND_Sifra dialog{editor, nullptr};
   std::mt19937 random{7};
 
   RndSifraTest() { dialog.Present(); }
@@ -402,7 +402,7 @@ TEST_F(RndSifraTest, SavesAndLoadsTheTable) {
   const std::string made = LabelText(dialog, "Label6");
   const std::string codes = Row("List1", 5);
 
-  RND_Sifra other(editor, editor.opener, nullptr);
+  RND_Sifra other(editor, nullptr);
   other.Present();
   platform.opens = {"/a.pvt"};
   Click(other, "Command3");

@@ -26,7 +26,7 @@ namespace {
 struct MainWindowTest : testing::Test {
   ScriptedPlatform platform;
   WholeEditor editor{platform};
-  MainWindow window{editor, editor.opener};
+  MainWindow window{editor, editor.files};
   StatusTimer timer{window, editor};
 
   MainWindowTest() {
@@ -224,12 +224,12 @@ TEST_F(MainWindowTest, RecentMenuShowsAndOpensTheEntries) {
   EXPECT_EQ(Find<QAction>("M2")->text(), QStringLiteral("&1 /one&&two.txt"));
   EXPECT_EQ(Find<QAction>("M10")->text(), QStringLiteral("&9 "));
   const std::string deep = "/" + std::string(200, 'd') + "/a.txt";
-  editor.opener.PushRecentFile(deep);
+  editor.files.recent.PushRecentFile(deep);
   EXPECT_LE(Find<QAction>("M1")->text().size(), 101);
   EXPECT_EQ(Find<QAction>("M1")->toolTip(), Utf8ToQString(deep));
   EXPECT_TRUE(Find<QAction>("Recent")->menu()->toolTipsVisible());
-  editor.opener.PushRecentFile("/one&two.txt");
-  editor.opener.PushRecentFile("/three.txt");
+  editor.files.recent.PushRecentFile("/one&two.txt");
+  editor.files.recent.PushRecentFile("/three.txt");
   Find<QAction>("M2")->trigger();
   EXPECT_EQ(editor.text.Text(), "1");
 }
