@@ -17,10 +17,6 @@ constexpr std::uint64_t kLongestRecord = kNotePages * (kCountSize + kLongestNote
 
 std::string NotesPath(Platform& platform) { return JoinPath(platform.InstallFolder(), kFileName); }
 
-void Check(int error, const std::string& failure) {
-  if (error != 0) throw RuntimeError(error, failure);
-}
-
 bool TakeEmptyPage(NotesRecord& record, const std::string& text) {
   const auto empty = std::ranges::find_if(record.pages, &std::string::empty);
   if (empty == record.pages.end()) return false;
@@ -58,21 +54,11 @@ std::string OverlongMessage(int page, std::size_t size) {
 }
 
 NotesRecord LoadNotes(Platform& platform, FileNumber& file_number) {
-  const std::string path = NotesPath(platform);
-  const OpenNumber number(file_number);
-  const FileBytes file = platform.ReadFile(path, kLongestRecord);
-  Check(file.error == ENOENT ? platform.WriteFile(path, {}) : file.error, "Soubor " + path + " nelze otevřít");
-  return ReadNotes(file.bytes);
+  return ReadNotes(ReadOrMakeOn(file_number, platform, NotesPath(platform), kLongestRecord));
 }
 
 void StoreNotes(const NotesRecord& record, Platform& platform, FileNumber& file_number) {
-  const std::string path = NotesPath(platform);
-  const std::string failure = "Soubor " + path + " nelze zapsat";
-  const std::string bytes = NotesBytes(record);
-  const OpenNumber number(file_number);
-  const FileBytes old = platform.ReadFile(path, std::nullopt);
-  if (old.error != ENOENT) Check(old.error, failure);
-  Check(platform.WriteFile(path, OverOldTail(bytes, old.bytes)), failure);
+  WriteRecordOn(file_number, platform, NotesPath(platform), NotesBytes(record));
 }
 
 RescueRecord NotesToKeep(const NotesRecord& stored, const NotesRecord& now, int page_on_show) {

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "platform/twips.h"
-#include "shell/main_view.h"
+#include "shell/stand_alone.h"
 
 namespace pelmar {
 

@@ -12,10 +12,6 @@ namespace {
 constexpr int kFilterIndex = 0;
 constexpr std::uint64_t kLargestTable = (kSymbols + 3) * (2 + kLongestField) + 1;
 
-void Check(int error, const std::string& path) {
-  if (error != 0) throw RuntimeError(error, "Soubor " + path + " nelze otevřít");
-}
-
 }  // namespace
 
 CipherTable ReadTable(std::string_view bytes) {
@@ -49,19 +45,8 @@ TableFiles::TableFiles(Platform& platform, FileNumber& file_number) : platform_(
 
 void TableFiles::Load(CipherTable& table) {
   path_ = platform_.OpenDialog(kTableFilter, kFilterIndex).value_or(path_);
-  if (path_.empty()) Check(ENOENT, path_);
-  const OpenNumber number(file_number_);
-  table = ReadTable(ReadOrMake());
-}
-
-std::string TableFiles::ReadOrMake() const {
-  FileBytes file = platform_.ReadFile(path_, kLargestTable);
-  if (file.error == ENOENT) {
-    Check(platform_.WriteFile(path_, {}), path_);
-    return {};
-  }
-  Check(file.error, path_);
-  return std::move(file.bytes);
+  if (path_.empty()) throw RuntimeError(ENOENT, "Soubor nelze otevřít");
+  table = ReadTable(ReadOrMakeOn(file_number_, platform_, path_, kLargestTable));
 }
 
 bool TableFiles::MayWrite() {
@@ -74,10 +59,7 @@ void TableFiles::Save(const CipherTable& table) {
   path_ = platform_.SaveDialog(kTableFilter, kFilterIndex).value_or(path_);
   if (path_.empty() || !MayWrite()) return;
   try {
-    const OpenNumber number(file_number_);
-    const FileBytes old = platform_.ReadFile(path_, std::nullopt);
-    if (old.error != 0 && old.error != ENOENT) return;
-    platform_.WriteFile(path_, OverOldTail(TableBytes(table), old.bytes));
+    WriteRecordOn(file_number_, platform_, path_, TableBytes(table));
   } catch (const RuntimeError&) {  // required: the command ends in silence
   }
 }

@@ -36,7 +36,6 @@ class TableFiles {
   void Save(const CipherTable& table);
 
  private:
-  [[nodiscard]] std::string ReadOrMake() const;
   [[nodiscard]] bool MayWrite();
 
   Platform& platform_;

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdio>
 
+#include "files/line_ends.h"
 #include "platform/busy.h"
 #include "shell/file_number.h"
 #include "text/codepage.h"
@@ -10,15 +11,14 @@
 namespace pelmar {
 namespace {
 
-constexpr std::string_view kTitle = "Konverze UNIX <-> DOS";
 constexpr std::string_view kMark = "\xEF\xBB\xBF";
 
 bool IsOutsidePage(char32_t character) { return character != U'?' && CodeOfUnicode(character) == '?'; }
 
-void Tell(Platform& platform, const std::string& text) { platform.Message(MessageType::kOk, text, kTitle); }
+void Tell(Platform& platform, const std::string& text) { platform.Message(MessageType::kOk, text, kConversionTitle); }
 
 bool Agreed(Platform& platform, const std::string& text) {
-  return platform.Message(MessageType::kYesNoWarning, text, kTitle) == Answer::kYes;
+  return platform.Message(MessageType::kYesNoWarning, text, kConversionTitle) == Answer::kYes;
 }
 
 std::string Told(const FilePlace& place) {
@@ -27,27 +27,13 @@ std::string Told(const FilePlace& place) {
 }
 
 // As "→ (U+2192)"; what can't be seen by its number alone.
-std::string Told(char32_t character, std::string_view utf8) {
+std::string Told(char32_t character) {
   std::array<char, 16> number{};
   std::snprintf(number.data(), number.size(), "U+%04X", static_cast<unsigned>(character));
-  return character < 0xA0 ? number.data() : std::string(utf8) + " (" + number.data() + ")";
-}
-
-std::string Utf8Of(char32_t character) {
-  std::string utf8;
-  const auto tail = [&](int shift) { utf8 += static_cast<char>(0x80 | (character >> shift & 0x3F)); };
-  if (character < 0x800) {
-    utf8 += static_cast<char>(0xC0 | character >> 6);
-  } else if (character < 0x10000) {
-    utf8 += static_cast<char>(0xE0 | character >> 12);
-    tail(6);
-  } else {
-    utf8 += static_cast<char>(0xF0 | character >> 18);
-    tail(12);
-    tail(6);
-  }
-  tail(0);
-  return utf8;
+  if (character < 0xA0) return number.data();
+  std::string told;
+  AppendUtf8(told, character);
+  return told + " (" + number.data() + ")";
 }
 
 void TellError(Platform& platform, const std::string& path, const WriteOutcome& outcome) {
@@ -69,12 +55,9 @@ bool Survey(Platform& platform, const std::string& path, Utf8Survey& survey) {
 
 // Whether the target may be written, as far as the person is asked.
 bool MayWrite(Platform& platform, const std::string& path, const std::string& target) {
-  if (platform.IsSameFile(path, target)) {
-    Tell(platform, "Výsledek by přepsal převáděný soubor:\r\n" + target);
-    return false;
-  }
-  return !platform.CanRead(target) ||
-         Agreed(platform, "Opravdu uložit " + target + "?\r\nSoubor již existuje a bude přepsán!");
+  return !IsOwnSource(platform, path, target) &&
+         (!platform.CanRead(target) ||
+          Agreed(platform, "Opravdu uložit " + target + "?\r\nSoubor již existuje a bude přepsán!"));
 }
 
 void Write(Platform& platform, const std::string& path, const std::string& target, FileRewriter& rewriter) {
@@ -161,8 +144,7 @@ void ConvertToPage(Platform& platform, const std::string& path) {
                 "Soubor " + path + " není v UTF-8:\r\n" + Told(*survey.malformed) + ".\r\nNic nebylo zapsáno.");
   if (survey.outside > 0 &&
       !Agreed(platform, "Soubor " + path + " obsahuje znaky, které ve Windows-1250 nejsou, celkem " +
-                            std::to_string(survey.outside) + ".\r\nPrvní je " +
-                            Told(survey.first_character, Utf8Of(survey.first_character)) + ": " +
+                            std::to_string(survey.outside) + ".\r\nPrvní je " + Told(survey.first_character) + ": " +
                             Told(survey.first_outside) + ".\r\n\r\nZapsat místo nich \"?\" ?"))
     return;
   if (!MayWrite(platform, path, target)) return;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "files/open.h"
+#include "files/outside_changes.h"
 #include "files/save.h"
 #include "shell/editor.h"
 
@@ -11,10 +12,19 @@ struct Files {
   // The editor outlives them.
   explicit Files(Editor& editor)
       : recent(editor.settings, editor.platform),
+<<<<<<< HEAD
         opener(editor.documents, recent, editor.platform, editor.file_number),
         saver(editor.documents, recent, editor.platform, editor.file_number) {}
 
   RecentFiles recent;
+=======
+        outside(editor.documents, editor.platform),
+        opener(editor.documents, recent, outside, editor.platform, editor.file_number),
+        saver(editor.documents, recent, outside, editor.platform, editor.file_number) {}
+
+  RecentFiles recent;
+  OutsideChanges outside;
+>>>>>>> flow2
   Opener opener;
   Saver saver;
 };

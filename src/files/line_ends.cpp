@@ -5,7 +5,6 @@
 #include "platform/busy.h"
 #include "platform/error_text.h"
 #include "platform/runtime_error.h"
-#include "shell/common.h"
 #include "shell/file_number.h"
 
 namespace pelmar {
@@ -44,11 +43,7 @@ char* CopyWith(std::string_view piece, char* to, Plain plain, Step step) {
 void Convert(Platform& platform, const std::string& path, std::string_view extension, OldTail tail,
              FileRewriter& rewriter) {
   const std::string target = ConvertedPath(path, extension);
-  if (platform.IsSameFile(path, target)) {
-    platform.Message(MessageType::kOk, "Výsledek by přepsal převáděný soubor:" + std::string(kCrLf) + target,
-                     "Konverze UNIX <-> DOS");
-    return;
-  }
+  if (IsOwnSource(platform, path, target)) return;
   const BusyPointer busy(platform);
   const WriteOutcome outcome = platform.RewriteFile(path, target, tail, rewriter);
   if (outcome.error == 0) return;
@@ -101,6 +96,12 @@ std::string_view ToCrLf::Rewrite(std::string_view piece) {
   if (feed != nullptr) kept_ = put_ + static_cast<std::uint64_t>(static_cast<const char*>(feed) - out.data()) + 1;
   put_ += out.size();
   return out;
+}
+
+bool IsOwnSource(Platform& platform, const std::string& path, const std::string& target) {
+  if (!platform.IsSameFile(path, target)) return false;
+  platform.Message(MessageType::kOk, "Výsledek by přepsal převáděný soubor:\r\n" + target, kConversionTitle);
+  return true;
 }
 
 std::string ConvertedPath(std::string_view path, std::string_view extension) {

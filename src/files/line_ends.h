@@ -38,6 +38,12 @@ class ToCrLf : public FileRewriter {
   std::uint64_t kept_ = 0;
 };
 
+// The title of what a conversion says.
+inline constexpr std::string_view kConversionTitle = "Konverze UNIX <-> DOS";
+
+// True, which is told, where the result would take the place of what it is made from.
+bool IsOwnSource(Platform& platform, const std::string& path, const std::string& target);
+
 // Where the conversion of a file goes. required: the path is cut behind its first full stop, be that in the name of a
 // folder; a path without one gives the bare extension, a file in the current folder.
 std::string ConvertedPath(std::string_view path, std::string_view extension);

@@ -124,9 +124,9 @@ void PrintDocument(Editor& e, const EditorLook& look) {
                      "Tisk");
 }
 
-void AddPrintCommands(Editor& editor, MainView& view) {
+void AddPrintCommands(Editor& editor, MainLook& look) {
   for (const std::string_view name : {"mnuprint", "Print"})
-    editor.commands.Add(name, [&editor, &view] { PrintDocument(editor, view.Look()); });
+    editor.commands.Add(name, [&editor, &look] { PrintDocument(editor, look.Look()); });
 }
 
 }  // namespace pelmar

@@ -34,6 +34,6 @@ std::string PrintName(std::string_view path);
 // Asks about a selection and prints. Throws RuntimeError where the printer fails.
 void PrintDocument(Editor& editor, const EditorLook& look);
 
-void AddPrintCommands(Editor& editor, MainView& view);
+void AddPrintCommands(Editor& editor, MainLook& look);
 
 }  // namespace pelmar

@@ -1,7 +1,11 @@
 // All that the program asks of the system, behind one interface. The program's answer is Qt's (platform/qt); tests
 // answer from a script. Messages and titles are UTF-8, texts of documents and the clipboard are Windows-1250. A path is
-// the bytes that the system gave, UTF-8 as a rule; in a message it shows as well where it isn't. No function throws
-// unless it says so; failures come back as values.
+// the bytes that the system gave, UTF-8 as a rule; in a message it shows as well where it isn't.
+//
+// How failures are told: a call that touches a file gives an errno, 0 for none, alone or as the `error` of what else it
+// gives; one whose failure has no reason that matters gives a bool or an optional. No call throws. RuntimeError is
+// thrown above, where a command can't go on (shell/file_number.h has the common cases), and caught only by commands
+// that end in silence or have a message of their own; what nobody catches ends the program, with its documents kept.
 #pragma once
 
 #include <cstdint>
@@ -42,6 +46,13 @@ struct WriteOutcome {
   int error = 0;  // 0 or an errno
   // The file that holds the old content, where a failed write damaged that and couldn't put it back.
   std::string kept = {};
+};
+
+// Tells two contents that one path led to apart without reading them.
+struct FileStamp {
+  std::uint64_t device = 0, node = 0, size = 0;
+  std::int64_t changed = 0;  // nanoseconds since 1970
+  bool operator==(const FileStamp&) const = default;
 };
 
 struct KeyStates {
@@ -119,9 +130,12 @@ class Platform {
   virtual std::optional<std::string> OpenDialog(std::string_view filter, int filter_index) = 0;
   virtual std::optional<std::string> SaveDialog(std::string_view filter, int filter_index) = 0;
 
-  // Plain text of the clipboard; "" where it holds none. A text that another program put there gets CR LF line breaks.
-  virtual std::string ClipboardText() = 0;
-  virtual bool ClipboardHasText() = 0;
+  // Plain text of the clipboard, nothing where it holds none; valid until the clipboard changes. A text that another
+  // program put there gets CR LF line breaks.
+  virtual const std::optional<std::string>& ClipboardContent() = 0;
+  std::string ClipboardText() { return ClipboardContent().value_or(std::string()); }
+  // Another number after each change.
+  virtual std::uint64_t ClipboardRevision() = 0;
   virtual void SetClipboardText(std::string_view text) = 0;
   virtual void ClearClipboard() = 0;
 
@@ -131,8 +145,8 @@ class Platform {
   virtual bool CanRead(const std::string& path) = 0;  // opens for reading; false for a folder
   virtual FileBytes ReadFile(const std::string& path, std::optional<std::uint64_t> limit) = 0;
   virtual WriteOutcome WriteDocument(const std::string& path, std::string_view bytes) = 0;
-  // The same for files of the program's own. 0 or errno.
-  int WriteFile(const std::string& path, std::string_view bytes) { return WriteDocument(path, bytes).error; }
+  // The same for what is put on the disk unasked: where the file is new, only its owner can read it. 0 or errno.
+  virtual int WritePrivateFile(const std::string& path, std::string_view bytes) = 0;
   // A file that only its owner can read. EEXIST where anything has that name already, links that lead nowhere included.
   virtual int WriteNewFile(const std::string& path, std::string_view bytes) = 0;  // 0 or errno
   // Hands a file to `take` piece by piece, until that returns false. 0 or errno.
@@ -141,6 +155,8 @@ class Platform {
   // once that is complete, and what it was until then.
   virtual WriteOutcome RewriteFile(const std::string& source, const std::string& target, OldTail tail,
                                    FileRewriter& rewriter) = 0;
+  // Nothing where the path leads to no file.
+  virtual std::optional<FileStamp> Stamp(const std::string& path) = 0;
   // True where both paths lead to the same file.
   virtual bool IsSameFile(const std::string& left, const std::string& right) = 0;
 

@@ -3,22 +3,13 @@
 #include <cstdlib>
 #include <filesystem>
 
-#include "accessories/windows/accessory_windows.h"
-#include "ciphers/windows/cipher_windows.h"
-#include "files/windows/file_windows.h"
-#include "html/dialogs/link_windows.h"
-#include "html/dialogs/page_windows.h"
-#include "html/dialogs/tag_windows.h"
-#include "html/windows/browser_windows.h"
 #include "platform/paths.h"
 #include "platform/qt/application.h"
 #include "platform/qt/convert.h"
 #include "platform/runtime_error.h"
 #include "program/commands.h"
 #include "shell/windows/config.h"
-#include "shell/windows/shell_windows.h"
 #include "shell/windows/start.h"
-#include "texttools/windows/text_windows.h"
 
 namespace pelmar {
 
@@ -26,7 +17,16 @@ Program::Program(Platform& platform)
     : platform_(platform),
       editor_(platform),
       main_(editor_, files_),
+<<<<<<< HEAD
       session_(main_, editor_.documents, editor_.settings, files_.opener, platform, editor_.file_number),
+=======
+      session_(main_,
+               {.show_config = [this] { windows_.Get<Config>().Run(); },
+                .show_main = [this] { main_.ShowMain(); },
+                .show_start = [this] { windows_.Get<Start>().Present(); },
+                .show_accessory = [this](StartMode mode) { ShowAccessory(mode); }},
+               editor_, files_),
+>>>>>>> flow2
       rescue_(ModifiedDocuments(editor_.documents), platform),
       timer_(main_, editor_) {
   AddCommands(editor_, files_);
@@ -36,15 +36,9 @@ Program::Program(Platform& platform)
   AddWindows();
   main_.RefreshCommands();
   main_.may_close = [this] { return MayClose(); };
-  main_.show_config = [this] { windows_.Get<Config>().Run(); };
-  main_.show_accessory = [this](StartMode mode) { ShowAccessory(mode); };
-  main_.show_start = [this] { windows_.Get<Start>().Present(); };
-  rescue_.on_failure = [this](int error) { main_.Bar().ShowUnkept(error); };
-  editor_.text.OnChange([this](const TextChange&) { TouchRescue(); });
-  editor_.documents.on_title = [this, show = editor_.documents.on_title] {
-    show();
-    TouchRescue();
-  };
+  rescue_.on_failure = [this](int error) { main_.Bar().WarnOfUnkept(error); };
+  heard_ = {editor_.text.OnChange([this](const TextChange&) { TouchRescue(); }),
+            editor_.documents.title_changed.Add([this] { TouchRescue(); })};
 }
 
 void Program::AddWindows() {
@@ -55,7 +49,8 @@ void Program::AddWindows() {
   AddPageWindows(parts);
   AddLinkWindows(parts);
   AddCipherWindows(parts);
-  AddAccessoryWindows(parts);
+  AddToolWindows(parts);
+  AddNotesWindows(parts);
   AddTagWindows(parts);
   AddBrowserWindows(parts);
 }

@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "files/files.h"
 #include "platform/platform.h"
@@ -48,6 +49,7 @@ class Program {
   Session session_;
   RescueKeeper rescue_;
   StatusTimer timer_;
+  std::vector<Listening> heard_;
   StandAlones stand_alones_;
   Keepers keepers_;
   FilePickers file_pickers_;

@@ -2,12 +2,12 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "platform/color.h"
 #include "platform/paths.h"
 #include "platform/runtime_error.h"
 #include "platform/twips.h"
-#include "shell/record_bytes.h"
 #include "text/codepage.h"
 
 namespace pelmar {
@@ -20,14 +20,14 @@ constexpr std::int32_t kAutosnapDefault = 240;
 
 }  // namespace
 
-Session::Session(MainView& view, Documents& documents, SettingsRecord& settings, Opener& opener, Platform& platform,
-                 FileNumber& file_number)
+Session::Session(MainView& view, Doors doors, Editor& editor, Files& files)
     : view_(view),
-      documents_(documents),
-      settings_(settings),
-      opener_(opener),
-      platform_(platform),
-      file_number_(file_number) {}
+      doors_(std::move(doors)),
+      documents_(editor.documents),
+      settings_(editor.settings),
+      files_(files),
+      platform_(editor.platform),
+      file_number_(editor.file_number) {}
 
 void Session::Start(std::string_view tail) {
   view_.SetEditorColors(Rgb(0, 0, 0), Rgb(255, 255, 255));
@@ -35,12 +35,12 @@ void Session::Start(std::string_view tail) {
   documents_.ForgetFirstSlotsMark();
   LoadSettings();
   ApplySettingsDefaults(settings_);
-  view_.ShowRecentFiles();
+  files_.recent.changed.Tell();
   view_.SetPlace({settings_.Left, settings_.Top, settings_.Width, settings_.Height});
   if (settings_.WindowState < 0 || settings_.WindowState > 2) settings_.WindowState = 0;
   view_.SetWindowState(settings_.WindowState);
   ApplyLook();
-  if (settings_.UserEmail.empty() || settings_.UserName.empty()) view_.ShowConfig();
+  if (settings_.UserEmail.empty() || settings_.UserName.empty()) doors_.show_config();
   if (settings_.AutosnapDistance == 0) settings_.AutosnapDistance = kAutosnapDefault;
   view_.SetAlwaysOnTop(settings_.AlwaysOnTopFlag);
   documents_.ForgetPath();
@@ -55,7 +55,7 @@ void Session::LoadText() {
     if (file.error != 0) throw RuntimeError(file.error, "Soubor " + path + " nelze číst");
     if (file.bytes.size() <= kLargestDocument) documents_.Text().SetText(std::move(file.bytes));
   }
-  if (documents_.Text().Empty() && platform_.ClipboardHasText()) documents_.Text().SetText(platform_.ClipboardText());
+  if (documents_.Text().Empty() && platform_.ClipboardContent()) documents_.Text().SetText(platform_.ClipboardText());
 }
 
 void Session::LoadSettings() {
@@ -81,10 +81,10 @@ void Session::Act(std::string_view tail) {
   if (upper == "-CALC") mode_ = StartMode::kCalculator;
   if (upper == "-NOTE") mode_ = StartMode::kNotes;
   if (upper == "-BROWSER") mode_ = StartMode::kBrowser;
-  if (mode_ != StartMode::kEditor) return view_.ShowAccessory(mode_);
-  if (tail.empty() && settings_.ShowStart) return view_.ShowStart();
-  view_.ShowMain();
-  if (!tail.empty() && upper != "-NOMSG") opener_.OpenPath(std::string(tail));
+  if (mode_ != StartMode::kEditor) return doors_.show_accessory(mode_);
+  if (tail.empty() && settings_.ShowStart) return doors_.show_start();
+  doors_.show_main();
+  if (!tail.empty() && upper != "-NOMSG") files_.opener.OpenPath(std::string(tail));
 }
 
 bool Session::Close() {
@@ -116,9 +116,7 @@ void Session::StoreSettings(bool with_window_state) {
   settings_.FontSize = static_cast<std::uint8_t>(std::lround(std::clamp(look.font_size, 0.0, 255.0)));
   settings_.FontBold = look.bold;
   settings_.FontItalic = look.italic;
-  // The file isn't cut: what an older, longer record left behind the new one stays.
-  const FileBytes old = platform_.ReadFile(InstallPath(kSettingsName), std::nullopt);
-  Store(kSettingsName, OverOldTail(SettingsBytes(settings_), old.bytes));
+  WriteRecordOn(file_number_, platform_, InstallPath(kSettingsName), SettingsBytes(settings_));
 }
 
 void Session::Store(std::string_view name, std::string_view bytes) {
@@ -130,8 +128,7 @@ std::string Session::InstallPath(std::string_view name) { return JoinPath(platfo
 std::string AllFilesText(const Documents& documents) {
   std::string text;
   for (int tab = 1; tab <= kTabCount; ++tab) {
-    const DocSlot& slot = documents.Slot(tab);
-    text += "Soubor:" + StoredPath(slot.Path) + "\r\n" + slot.Text + "\r\n\r\n";
+    text += "Soubor:" + StoredPath(documents.Slot(tab).Path) + "\r\n" + documents.TextOf(tab) + "\r\n\r\n";
   }
   return text;
 }

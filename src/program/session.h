@@ -2,18 +2,27 @@
 // read here and written here: the settings file and the two recovery files. The order of the steps is required.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
-#include "files/open.h"
+#include "files/files.h"
+#include "shell/editor.h"
 #include "shell/main_view.h"
+#include "shell/stand_alone.h"
 
 namespace pelmar {
 
 class Session {
  public:
-  Session(MainView& view, Documents& documents, SettingsRecord& settings, Opener& opener, Platform& platform,
-          FileNumber& file_number);
+  // How the start goes on. The main window stays hidden until it is shown.
+  struct Doors {
+    std::function<void()> show_config;  // modal
+    std::function<void()> show_main;
+    std::function<void()> show_start;  // instead of the main window
+    std::function<void(StartMode)> show_accessory;
+  };
+  Session(MainView& view, Doors doors, Editor& editor, Files& files);
 
   // The load of the main window, up to and including what the command tail asks for.
   void Start(std::string_view tail);
@@ -41,9 +50,10 @@ class Session {
   std::string InstallPath(std::string_view name);
 
   MainView& view_;
+  Doors doors_;
   Documents& documents_;
   SettingsRecord& settings_;
-  Opener& opener_;
+  Files& files_;
   Platform& platform_;
   FileNumber& file_number_;
   StartMode mode_ = StartMode::kEditor;

@@ -6,9 +6,10 @@
 
 namespace pelmar {
 
-Documents::Documents(TextBuffer& text) : text_(text), title_("Pelmar VEX ()") {
-  text_.OnChange([this](const TextChange&) { TextChanged(); });
-}
+Documents::Documents(TextBuffer& text)
+    : text_(text), changes_(text.OnChange([this](const TextChange&) { TextChanged(); })) {}
+
+std::string Documents::Title() const { return "Pelmar VEX (" + title_.path + (title_.marked ? ")*" : ")"); }
 
 void Documents::LeaveTab() {
   Current().Text = text_.Text();
@@ -20,24 +21,24 @@ void Documents::LeaveTab() {
 void Documents::EnterTab(int entered) {
   selected_ = entered;
   // required: the change that this raises still sees the path of the tab that was left, and writes it into the slot
-  text_.SetText(std::string(Current().Text));
+  entering_ = true;
+  text_.SetText(std::exchange(Current().Text, {}));
+  entering_ = false;
   current_path_ = faces_[Index(entered)].ToolTipText;
-  ShowPathInTitle();
   // Only a document that a rescue brought back can have a name that Prime refuses.
   if (!current_path_.empty() && HasExtension(current_path_)) target_.Prime(current_path_);
-  if (Current().Modified) SetTitle(title_ + "*");
+  SetTitle(current_path_, Current().Modified);
 }
 
 void Documents::SwitchTo(int tab) {
   if (tab == selected_) return;
   LeaveTab();
   EnterTab(tab);
-  if (on_selected) on_selected(tab);
+  tab_selected.Tell(tab);
 }
 
 void Documents::TextChanged() {
-  if (!Marked()) SetTitle(title_ + "*");
-  Current().Text = text_.Text();
+  if (!entering_) SetTitle(title_.path, true);
   Current().Path = current_path_;
 }
 
@@ -52,8 +53,7 @@ int Documents::UnsavedCount() const {
 int Documents::EmptyTab() const {
   for (int step = 0; step < kTabCount; ++step) {
     const int tab = (selected_ + step) % kTabCount + 1;
-    const bool no_text = tab == selected_ ? text_.Empty() : Slot(tab).Text.empty();
-    if (no_text && Face(tab).ToolTipText.empty() && !IsUnsaved(tab)) return tab;
+    if (TextOf(tab).empty() && Face(tab).ToolTipText.empty() && !IsUnsaved(tab)) return tab;
   }
   return 0;
 }
@@ -83,10 +83,10 @@ void Documents::Restore(int tab, std::string text, const std::string& path) {
   text_.SetText(std::move(text));
   Current().Path = path;
   Current().Modified = true;
-  SetTitle("Pelmar VEX (" + current_path_ + ")*");
+  SetTitle(current_path_, true);
 }
 
-void Documents::ShowPathInTitle() { SetTitle("Pelmar VEX (" + current_path_ + ")"); }
+void Documents::ShowPathInTitle() { SetTitle(current_path_, false); }
 
 void Documents::MakeCurrent(const std::string& path) {
   current_path_ = path;
@@ -95,6 +95,15 @@ void Documents::MakeCurrent(const std::string& path) {
   SetFace(FilePart(path, 2) + "." + FilePart(path, 3), path);
   Current().Path = path;
   Current().Modified = false;
+<<<<<<< HEAD
+}
+
+void Documents::MakeCurrent(const std::string& path, std::string text) {
+  current_path_ = path;  // required: the change that the text raises sees it already
+  text_.SetText(std::move(text));
+  MakeCurrent(path);
+=======
+>>>>>>> flow2
 }
 
 void Documents::MakeCurrent(const std::string& path, std::string text) {
@@ -103,15 +112,16 @@ void Documents::MakeCurrent(const std::string& path, std::string text) {
   MakeCurrent(path);
 }
 
-void Documents::SetTitle(std::string title) {
+void Documents::SetTitle(std::string path, bool marked) {
+  TitleParts title{std::move(path), marked};
   if (title == title_) return;
   title_ = std::move(title);
-  if (on_title) on_title();
+  title_changed.Tell();
 }
 
 void Documents::SetFace(std::string caption, std::string tool_tip) {
   faces_[Index(selected_)] = {std::move(caption), std::move(tool_tip)};
-  if (on_face) on_face(selected_);
+  face_changed.Tell(selected_);
 }
 
 }  // namespace pelmar

@@ -5,10 +5,10 @@
 #pragma once
 
 #include <array>
-#include <functional>
 #include <string>
 
 #include "shell/save_target.h"
+#include "text/listeners.h"
 #include "text/text_buffer.h"
 
 namespace pelmar {
@@ -16,7 +16,7 @@ namespace pelmar {
 inline constexpr int kTabCount = 5;
 
 struct DocSlot {
-  std::string Text;
+  std::string Text;  // of a tab that isn't on show; the box holds the other one
   std::string Path;
   bool Modified = false;  // the document that a tab switch left behind had unsaved changes
 };
@@ -37,11 +37,12 @@ class Documents {
   void SwitchTo(int tab);
 
   [[nodiscard]] int SelectedTab() const { return selected_; }
+  [[nodiscard]] const std::string& TextOf(int tab) const { return tab == selected_ ? text_.Text() : Slot(tab).Text; }
   [[nodiscard]] const DocSlot& Slot(int tab) const { return slots_[Index(tab)]; }
   [[nodiscard]] const TabFace& Face(int tab) const { return faces_[Index(tab)]; }
   [[nodiscard]] const std::string& CurrentPath() const { return current_path_; }
-  [[nodiscard]] const std::string& Title() const { return title_; }
-  [[nodiscard]] bool Marked() const { return title_.ends_with('*'); }
+  [[nodiscard]] std::string Title() const;
+  [[nodiscard]] bool Marked() const { return title_.marked; }
   [[nodiscard]] TextBuffer& Text() { return text_; }
   [[nodiscard]] const TextBuffer& Text() const { return text_; }
   [[nodiscard]] SaveTarget& Target() { return target_; }
@@ -69,16 +70,26 @@ class Documents {
   // The same for a file that is opened; its text comes in first, also where it throws.
   void MakeCurrent(const std::string& path, std::string text);
 
-  std::function<void()> on_title;
-  std::function<void(int tab)> on_face;
-  std::function<void(int tab)> on_selected;  // told when code, not a click, selects a tab
+  Listeners<> title_changed;
+  Listeners<int> face_changed;  // of this tab
+  Listeners<int> tab_selected;  // this one, by code and not by a click
 
  private:
+  struct TitleParts {
+    std::string path;
+    bool marked = false;
+    bool operator==(const TitleParts&) const = default;
+  };
+
   static std::size_t Index(int tab) { return static_cast<std::size_t>(tab - 1); }
   DocSlot& Current() { return slots_[Index(selected_)]; }
   void TextChanged();
   void ShowPathInTitle();  // without "*"
+<<<<<<< HEAD
   void SetTitle(std::string title);
+=======
+  void SetTitle(std::string path, bool marked);
+>>>>>>> flow2
   void SetFace(std::string caption, std::string tool_tip);
 
   TextBuffer& text_;
@@ -86,8 +97,10 @@ class Documents {
   std::array<TabFace, kTabCount> faces_;
   int selected_ = 1;
   std::string current_path_;
-  std::string title_;
+  TitleParts title_;
   SaveTarget target_;
+  bool entering_ = false;  // the title is told once, when all of the tab is there
+  Listening changes_;
 };
 
 }  // namespace pelmar

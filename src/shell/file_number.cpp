@@ -1,8 +1,28 @@
 #include "shell/file_number.h"
 
+<<<<<<< HEAD
+=======
+#include <utility>
+
+>>>>>>> flow2
 #include "platform/paths.h"
 
 namespace pelmar {
+namespace {
+
+void Check(const WriteOutcome& outcome, const std::string& path, const char* what) {
+  if (outcome.error != 0) throw RuntimeError(outcome.error, "Soubor " + path + what + KeptNotice(outcome));
+}
+
+constexpr char kCantWrite[] = " nelze zapsat";
+constexpr char kCantOpen[] = " nelze otevřít";
+
+}  // namespace
+
+bool FileExists(const FileNumber& number, Platform& platform, const std::string& path) {
+  if (number.IsOpen()) return false;
+  return platform.CanRead(path.substr(0, path.size() - (EndsInSeparator(path) ? 1 : 0)));
+}
 
 bool FileExists(const FileNumber& number, Platform& platform, const std::string& path) {
   if (number.IsOpen()) return false;
@@ -15,8 +35,23 @@ std::string KeptNotice(const WriteOutcome& outcome) {
 
 void WriteFileOn(FileNumber& number, Platform& platform, const std::string& path, std::string_view bytes) {
   const OpenNumber open(number);
-  const WriteOutcome outcome = platform.WriteDocument(path, bytes);
-  if (outcome.error != 0) throw RuntimeError(outcome.error, "Soubor " + path + " nelze zapsat" + KeptNotice(outcome));
+  Check(platform.WriteDocument(path, bytes), path, kCantWrite);
+}
+
+void WriteRecordOn(FileNumber& number, Platform& platform, const std::string& path, std::string record) {
+  const OpenNumber open(number);
+  const FileBytes old = platform.ReadFile(path, std::nullopt);
+  // What isn't a regular file has no tail.
+  if (old.error != ENOENT && old.error != EINVAL) Check({.error = old.error}, path, kCantWrite);
+  if (old.bytes.size() > record.size()) record += old.bytes.substr(record.size());
+  Check(platform.WriteDocument(path, record), path, kCantWrite);
+}
+
+std::string ReadOrMakeOn(FileNumber& number, Platform& platform, const std::string& path, std::uint64_t limit) {
+  const OpenNumber open(number);
+  FileBytes file = platform.ReadFile(path, limit);
+  Check(file.error == ENOENT ? platform.WriteDocument(path, {}) : WriteOutcome{.error = file.error}, path, kCantOpen);
+  return std::move(file.bytes);
 }
 
 }  // namespace pelmar

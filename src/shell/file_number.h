@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cerrno>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -45,7 +46,12 @@ bool FileExists(const FileNumber& number, Platform& platform, const std::string&
 // What a person has to know of a failed write beside its error: a line behind a message, "" as a rule.
 std::string KeptNotice(const WriteOutcome& outcome);
 
-// Writes a file on the number. Throws RuntimeError where that fails.
+// Files of the program's own, on the number. All throw RuntimeError where a step fails.
 void WriteFileOn(FileNumber& number, Platform& platform, const std::string& path, std::string_view bytes);
+// Over the start of a file that isn't cut: the tail of a longer old one stays behind the record. What can't be read
+// isn't written over.
+void WriteRecordOn(FileNumber& number, Platform& platform, const std::string& path, std::string record);
+// The first bytes of a file, which is made, empty, where it is missing.
+std::string ReadOrMakeOn(FileNumber& number, Platform& platform, const std::string& path, std::uint64_t limit);
 
 }  // namespace pelmar

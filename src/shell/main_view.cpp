@@ -6,7 +6,7 @@
 
 namespace pelmar {
 
-void MainView::SetEditorFontSize(int size) {
+void MainLook::SetEditorFontSize(int size) {
   constexpr int kOther = 8;
   ApplyEditorFontSize(std::ranges::count(FontSizeItems(), size, &FontSizeItem::points) == 0 ? kOther : size);
   if (on_font_size) on_font_size();

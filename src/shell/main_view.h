@@ -1,5 +1,5 @@
-// What the start, the close and the timer ask of the main window. The window is the program's; tests have a plain one.
-// Sizes are outer ones in twips.
+// What the core asks of the main window, by its two roles: a place on the screen, and the look of its text box. The
+// window is the program's; tests have a plain one. Sizes are outer ones in twips.
 #pragma once
 
 #include <cstdint>
@@ -22,15 +22,12 @@ struct EditorLook {
   bool italic = false;
 };
 
-// The editor, or one accessory that runs as the whole program.
-enum class StartMode { kEditor, kCalculator, kNotes, kBrowser };
-
-class MainView {
+class MainPlace {
  public:
-  MainView() = default;
-  MainView(const MainView&) = delete;
-  MainView& operator=(const MainView&) = delete;
-  virtual ~MainView() = default;
+  MainPlace() = default;
+  MainPlace(const MainPlace&) = delete;
+  MainPlace& operator=(const MainPlace&) = delete;
+  virtual ~MainPlace() = default;
 
   virtual void SetPlace(const TwipsRect& place) = 0;
   [[nodiscard]] virtual TwipsRect Place() const = 0;
@@ -42,6 +39,14 @@ class MainView {
   virtual void SetOuterSize(int width, int height) = 0;
   // Width, height, left and top, in this order.
   virtual void MoveTo(const TwipsRect& place) = 0;
+};
+
+class MainLook {
+ public:
+  MainLook() = default;
+  MainLook(const MainLook&) = delete;
+  MainLook& operator=(const MainLook&) = delete;
+  virtual ~MainLook() = default;
 
   // The one way to change the editor's font size: six sizes are taken, any other becomes 8.
   void SetEditorFontSize(int size);
@@ -58,15 +63,11 @@ class MainView {
   [[nodiscard]] virtual int Alignment() const = 0;
   [[nodiscard]] virtual EditorLook Look() const = 0;
 
-  virtual void ShowRecentFiles() = 0;
-  virtual void ShowConfig() = 0;  // modal
-  virtual void ShowMain() = 0;
-  virtual void ShowStart() = 0;  // instead of the main window
-  virtual void ShowAccessory(StartMode mode) = 0;
-
  protected:
   // One of the six sizes; the check marks of its menu items go with it.
   virtual void ApplyEditorFontSize(int size) = 0;
 };
+
+class MainView : public MainPlace, public MainLook {};
 
 }  // namespace pelmar

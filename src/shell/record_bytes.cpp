@@ -38,11 +38,6 @@ void RecordWriter::Number(std::uint64_t value, std::size_t size) {
   for (std::size_t i = 0; i < size; ++i) bytes_ += CharOf(static_cast<int>(value >> 8 * i & 0xFF));
 }
 
-std::string OverOldTail(std::string fresh, std::string_view old) {
-  if (old.size() > fresh.size()) fresh += old.substr(fresh.size());
-  return fresh;
-}
-
 std::string Sealed(std::string_view signature, std::string_view body) {
   RecordWriter writer;
   writer.Bytes(signature);

@@ -38,9 +38,6 @@ class RecordWriter {
   std::string bytes_;
 };
 
-// `fresh` over the start of `old`: a file that isn't cut keeps the tail of a longer old one.
-std::string OverOldTail(std::string fresh, std::string_view old);
-
 // The body behind a signature and its checksum, which guards against torn and foreign files, not against malice.
 std::string Sealed(std::string_view signature, std::string_view body);
 // The body of what Sealed wrote whole with this signature, otherwise nothing.

@@ -27,7 +27,7 @@ class FileLock {
 
 class RescueStore {
  public:
-  // 0 or errno, as Platform::WriteFile.
+  // 0 or errno, as Platform::WritePrivateFile.
   using WriteFile = std::function<int(const std::string& path, std::string_view bytes)>;
 
   // `folder` ends in a separator; it is used from the first Keep on. `prefix` begins the file's name and tells apart

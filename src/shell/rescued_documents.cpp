@@ -12,9 +12,9 @@ RescueRecord UnsavedDocuments(const Documents& documents) {
   RescueRecord record{documents.SelectedTab(), {}};
   for (int tab = 1; tab <= kTabCount; ++tab) {
     if (!documents.IsUnsaved(tab)) continue;
-    // The slot of the current tab always holds its live text; its path may still be that of the tab left before.
+    // The path in the slot of the current tab may still be that of the tab left before.
     const std::string& path = tab == documents.SelectedTab() ? documents.CurrentPath() : documents.Slot(tab).Path;
-    record.texts.push_back({tab, path, documents.Slot(tab).Text});
+    record.texts.push_back({tab, path, documents.TextOf(tab)});
   }
   return record;
 }
@@ -26,7 +26,7 @@ std::vector<RescuedText> BringBackDocuments(Documents& documents, const std::vec
   const auto place_of = [&](int wanted) {
     if (!taken[static_cast<std::size_t>(wanted)]) return wanted;
     for (int tab = 1; tab <= kTabCount; ++tab)
-      if (!taken[static_cast<std::size_t>(tab)] && documents.Slot(tab).Text.empty()) return tab;
+      if (!taken[static_cast<std::size_t>(tab)] && documents.TextOf(tab).empty()) return tab;
     return 0;
   };
   std::vector<RescuedText> homeless;

@@ -8,13 +8,9 @@ namespace {
 
 constexpr std::size_t kSelectionShown = 50;
 
-std::string SelectionContent(const TextBuffer& box) {
-  return std::string("Výběr : "_w).append(box.SelText().substr(0, kSelectionShown));
-}
-
 }  // namespace
 
-PanelTexts ComputePanels(const TextBuffer& box, bool line_counting, std::optional<std::string_view> clipboard) {
+PanelTexts ComputePanels(const TextBuffer& box, bool line_counting) {
   PanelTexts panels;
   const std::string_view text = box.Text();
   const std::size_t start = box.SelStart();
@@ -25,20 +21,24 @@ PanelTexts ComputePanels(const TextBuffer& box, bool line_counting, std::optiona
     panels.length = std::string("Počet znaků :"_w) + NumberWithSignBlank(static_cast<std::int64_t>(text.size()));
     panels.position = "Pozice kurzoru :" + NumberWithSignBlank(static_cast<std::int64_t>(start));
     panels.lines = std::string("Řádek "_w) + std::to_string(before) + " z " + std::to_string(all);
-    panels.content = clipboard ? std::string("Schránka : "_w).append(*clipboard) : SelectionContent(box);
   } else {
     panels.length = std::string("Znaky Výběru :"_w) + NumberWithSignBlank(static_cast<std::int64_t>(box.SelLength()));
     panels.position = std::string("Pozice výběru :"_w) + NumberWithSignBlank(static_cast<std::int64_t>(start));
     panels.lines = std::string("Řádeky "_w) + std::to_string(before) + "-" + std::to_string(before + selected) + " z " +
                    std::to_string(all);
-    panels.content = SelectionContent(box);
   }
   if (!line_counting) panels.lines = "(OFF)";
   return panels;
 }
 
-MenuState ComputeMenuState(const TextBuffer& box, std::string_view current_path, std::string_view clipboard) {
-  return {!current_path.empty(), !clipboard.empty(), !box.Empty(), box.HasSelection()};
+std::string ComputeContent(const TextBuffer& box, const std::optional<std::string>& clipboard) {
+  if (clipboard && !box.HasSelection()) return std::string("Schránka : "_w).append(*clipboard);
+  return std::string("Výběr : "_w).append(box.SelText().substr(0, kSelectionShown));
+}
+
+MenuState ComputeMenuState(const TextBuffer& box, std::string_view current_path,
+                           const std::optional<std::string>& clipboard) {
+  return {!current_path.empty(), clipboard && !clipboard->empty(), !box.Empty(), box.HasSelection()};
 }
 
 }  // namespace pelmar

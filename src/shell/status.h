@@ -2,7 +2,6 @@
 // Panel texts are Windows-1250, because they show the document and the clipboard.
 #pragma once
 
-#include <array>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -16,12 +15,15 @@ struct PanelTexts {
   std::string length;    // panel 1
   std::string position;  // panel 2
   std::string lines;     // panel 3
-  std::string content;   // panel 4
 };
 
-// `clipboard` is nothing where the clipboard offers no plain text. Only line feeds count as lines, from 0.
-PanelTexts ComputePanels(const TextBuffer& box, bool line_counting, std::optional<std::string_view> clipboard);
+// Only line feeds count as lines, from 0.
+PanelTexts ComputePanels(const TextBuffer& box, bool line_counting);
 
-MenuState ComputeMenuState(const TextBuffer& box, std::string_view current_path, std::string_view clipboard);
+// Panel 4. `clipboard` is nothing where the clipboard offers no plain text.
+std::string ComputeContent(const TextBuffer& box, const std::optional<std::string>& clipboard);
+
+MenuState ComputeMenuState(const TextBuffer& box, std::string_view current_path,
+                           const std::optional<std::string>& clipboard);
 
 }  // namespace pelmar

@@ -30,19 +30,6 @@ consteval auto SortedByUnicode() {
 
 constexpr auto kByUnicode = SortedByUnicode();
 
-void AppendUtf8(std::string& out, char16_t unit) {
-  if (unit < 0x80) {
-    out += static_cast<char>(unit);
-  } else if (unit < 0x800) {
-    out += static_cast<char>(0xC0 | unit >> 6);
-    out += static_cast<char>(0x80 | (unit & 0x3F));
-  } else {
-    out += static_cast<char>(0xE0 | unit >> 12);
-    out += static_cast<char>(0x80 | (unit >> 6 & 0x3F));
-    out += static_cast<char>(0x80 | (unit & 0x3F));
-  }
-}
-
 std::string Mapped(std::string_view text, const std::array<char, 256>& table) {
   std::string result(text);
   for (char& ch : result) ch = table[static_cast<std::size_t>(CodeOf(ch))];

@@ -19,9 +19,6 @@ void AppendLineStarts(std::string_view text, std::size_t from, std::size_t to, s
 
 TextBuffer::TextBuffer() : line_starts_{0} {}
 
-void TextBuffer::OnChange(ChangeListener listener) { change_listeners_.push_back(std::move(listener)); }
-void TextBuffer::OnSelection(SelectionListener listener) { selection_listeners_.push_back(std::move(listener)); }
-
 void TextBuffer::SetText(std::string text) {
   undo_.clear();
   redo_.clear();
@@ -36,7 +33,7 @@ void TextBuffer::SetText(std::string text) {
   ++revision_;
   anchor_ = caret_ = 0;
   IndexAllLines();
-  TellChange(change);
+  changed_.Tell(change);
 }
 
 void TextBuffer::SetSelStart(std::size_t start) { Select(start, start); }
@@ -53,7 +50,7 @@ void TextBuffer::Select(std::size_t anchor, std::size_t caret) {
   anchor_ = anchor;
   caret_ = caret;
   run_ = Run::kNone;
-  TellSelection();
+  moved_.Tell();
 }
 
 void TextBuffer::ReplaceSelection(std::string_view text) { Edit(SelStart(), SelLength(), text, Run::kNone); }
@@ -86,7 +83,7 @@ void TextBuffer::Edit(std::size_t pos, std::size_t length, std::string_view text
   Remember(pos, length, copy, run);
   Apply(pos, length, copy);
   run_ = copy.ends_with('\n') ? Run::kNone : run;
-  TellChange({pos, length, copy.size(), false});
+  changed_.Tell({pos, length, copy.size(), false});
 }
 
 void TextBuffer::Remember(std::size_t pos, std::size_t length, std::string_view text, Run run) {
@@ -145,7 +142,7 @@ bool TextBuffer::TakeBack(std::vector<Step>& from, std::vector<Step>& to, bool f
   run_ = Run::kNone;
   const TextChange change{step.pos, length, text.size(), false};
   to.push_back(std::move(step));
-  TellChange(change);
+  changed_.Tell(change);
   return true;
 }
 
@@ -187,14 +184,6 @@ void TextBuffer::ReindexLines(const TextChange& change) {
     line_starts_.erase(line_starts_.begin() + moved_at, line_starts_.begin() + moved_at + (dropped - fresh_count));
   }
   std::copy(fresh.begin(), fresh.end(), line_starts_.begin() + moved_at);
-}
-
-void TextBuffer::TellChange(const TextChange& change) const {
-  for (const auto& listener : change_listeners_) listener(change);
-}
-
-void TextBuffer::TellSelection() const {
-  for (const auto& listener : selection_listeners_) listener();
 }
 
 }  // namespace pelmar

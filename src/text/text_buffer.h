@@ -9,7 +9,10 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
+
+#include "text/listeners.h"
 
 namespace pelmar {
 
@@ -30,10 +33,10 @@ class TextBuffer {
   TextBuffer(const TextBuffer&) = delete;
   TextBuffer& operator=(const TextBuffer&) = delete;
 
-  // Listeners are called in the order in which they were added and live as long as the buffer.
-  void OnChange(ChangeListener listener);
+  // Called after each change of content, in the order of the calls, for as long as the handle lives.
+  [[nodiscard]] Listening OnChange(ChangeListener listener) { return changed_.Add(std::move(listener)); }
   // Called after every move of caret or anchor that no change of content caused.
-  void OnSelection(SelectionListener listener);
+  [[nodiscard]] Listening OnSelection(SelectionListener listener) { return moved_.Add(std::move(listener)); }
 
   [[nodiscard]] const std::string& Text() const { return text_; }
   [[nodiscard]] std::size_t Size() const { return text_.size(); }
@@ -104,8 +107,6 @@ class TextBuffer {
   bool TakeBack(std::vector<Step>& from, std::vector<Step>& to, bool forward);
   void IndexAllLines();
   void ReindexLines(const TextChange& change);
-  void TellChange(const TextChange& change) const;
-  void TellSelection() const;
 
   std::string text_;
   std::size_t anchor_ = 0;
@@ -116,8 +117,8 @@ class TextBuffer {
   std::size_t history_bytes_ = 0;
   Run run_ = Run::kNone;
   std::uint64_t revision_ = 0;
-  std::vector<ChangeListener> change_listeners_;
-  std::vector<SelectionListener> selection_listeners_;
+  Listeners<const TextChange&> changed_;
+  Listeners<> moved_;
 };
 
 }  // namespace pelmar

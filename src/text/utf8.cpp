@@ -4,6 +4,25 @@
 
 namespace pelmar {
 
+void AppendUtf8(std::string& utf8, char32_t character) {
+  const auto tail = [&](int shift) { utf8 += static_cast<char>(0x80 | (character >> shift & 0x3F)); };
+  if (character < 0x80) {
+    utf8 += static_cast<char>(character);
+    return;
+  }
+  if (character < 0x800) {
+    utf8 += static_cast<char>(0xC0 | character >> 6);
+  } else if (character < 0x10000) {
+    utf8 += static_cast<char>(0xE0 | character >> 12);
+    tail(6);
+  } else {
+    utf8 += static_cast<char>(0xF0 | character >> 18);
+    tail(12);
+    tail(6);
+  }
+  tail(0);
+}
+
 bool IsUtf8(std::string_view bytes) {
   Utf8Decoder decoder;
   for (const char byte : bytes)

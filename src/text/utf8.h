@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 
 namespace pelmar {
@@ -61,6 +62,9 @@ constexpr char32_t DecodeUtf8(std::string_view utf8, std::size_t& at) {
   ++at;
   return kMalformedUtf8;
 }
+
+// Puts a character (of Unicode, no surrogate) behind a text in UTF-8.
+void AppendUtf8(std::string& utf8, char32_t character);
 
 // True where the string is well-formed UTF-8 (ASCII included).
 bool IsUtf8(std::string_view bytes);

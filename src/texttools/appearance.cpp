@@ -17,7 +17,7 @@ constexpr int kDosWidth = 9210;  // twips
 constexpr int kDosHeight = 6675;
 constexpr double kMostPoints = 9999;  // more than any font has
 
-void ApplyBasicLook(MainView& view) {
+void ApplyBasicLook(MainLook& view) {
   view.SetEditorFont(std::string(kSansSerif));
   view.SetEditorItalic(false);
   view.MarkItalic(false);

@@ -176,6 +176,29 @@ TEST_F(FilesTest, FastSaveAsksTwice) {
   EXPECT_EQ(platform.files["/a.txt"], "+old");
 }
 
+TEST_F(FilesTest, AFastSaveSaysWhatAnotherProgramDid) {
+  const std::string ask = "message 52 \"Opravdu uložit soubor?\r\n\"/a.txt\"", to_end = "\" \"Soubor\"";
+  const auto asked = [&] {
+    Answers({Answer::kNo});
+    editor.commands.Run("Mnu_SaveFast");
+    return platform.calls.back();
+  };
+  editor.text.SetText("mine");
+  editor.saver.SaveToPath("/a.txt");
+  EXPECT_EQ(asked(), ask + to_end);
+  platform.files["/a.txt"] = "their";
+  EXPECT_EQ(asked(), ask + "\r\nSoubor na disku mezitím změnil jiný program!" + to_end);
+  documents.SwitchTo(2);  // each document has its own
+  EXPECT_EQ(editor.files.outside.OfCurrent(), OutsideChange::kNone);
+  editor.opener.OpenPath("/a.txt");
+  EXPECT_EQ(asked(), ask + to_end);
+  documents.SwitchTo(1);
+  platform.files.erase("/a.txt");
+  EXPECT_EQ(asked(), ask + "\r\nSoubor na disku už není!" + to_end);
+  documents.ClearCurrent();
+  EXPECT_EQ(editor.files.outside.OfCurrent(), OutsideChange::kNone);
+}
+
 TEST_F(FilesTest, AFailedSaveIsToldAndChangesNothing) {
   platform.files["/a.txt"] = "old";
   platform.write_errors["/a.txt"] = ENOSPC;

@@ -38,7 +38,7 @@ struct PageTest : testing::Test {
 TEST_F(PageTest, NoHtmlCleansTheSelectionAlone) {
   editor.text.SetText("<B>a</B><I>b</I>");
   int changes = 0;
-  editor.text.OnChange([&changes](const TextChange&) { ++changes; });
+  const Listening heard = editor.text.OnChange([&changes](const TextChange&) { ++changes; });
   editor.commands.Run("mnuNoHtml");
   EXPECT_EQ(changes, 0);
   EXPECT_EQ(editor.text.Text(), "<B>a</B><I>b</I>");

@@ -20,11 +20,31 @@ namespace {
 
 using Calls = std::vector<std::string>;
 
+// The editor under a plain window, whose calls and those of the start's doors stand in one list.
+struct Desk {
+  WholeEditor editor;
+  PlainView view;
+  std::function<void()> config;
+  Session session{
+      view,
+      {.show_config = [this] { view.calls.push_back("config"), config ? config() : void(); },
+       .show_main = [this] { view.calls.push_back("main"); },
+       .show_start = [this] { view.calls.push_back("start"); },
+       .show_accessory =
+           [this](StartMode mode) { view.calls.push_back("accessory " + std::to_string(static_cast<int>(mode))); }},
+      editor,
+      editor.files};
+  Listening recent{editor.files.recent.changed.Add([this] { view.calls.push_back("recent"); })};
+
+  explicit Desk(Platform& platform) : editor(platform) {}
+};
+
 struct SessionTest : testing::Test {
   ScriptedPlatform platform;
-  WholeEditor editor{platform};
-  PlainView view;
-  Session session{view, editor.documents, editor.settings, editor.opener, platform, editor.file_number};
+  Desk desk{platform};
+  WholeEditor& editor = desk.editor;
+  PlainView& view = desk.view;
+  Session& session = desk.session;
 
   static constexpr const char* kRecovery = "/install/autosave_pelmar_vex.txt";
   static constexpr const char* kAllFiles = "/install/autosave_all_files.txt";
@@ -92,12 +112,11 @@ TEST_F(SessionTest, TextComesFromTheRecoveryFileOrTheClipboard) {
     ScriptedPlatform system;
     if (c.recovery) system.files[kRecovery] = std::string(*c.recovery, 'r');
     system.clipboard = c.clipboard;
-    WholeEditor e{system};
-    PlainView v;
-    Session(v, e.documents, e.settings, e.opener, system, e.file_number).Start("");
-    EXPECT_EQ(e.text.Text() == c.expected, true) << c.recovery.value_or(1);
-    EXPECT_EQ(e.documents.Title(), "Pelmar VEX ()");
-    EXPECT_EQ(e.documents.UnsavedCount(), 0);
+    Desk one(system);
+    one.session.Start("");
+    EXPECT_EQ(one.editor.text.Text() == c.expected, true) << c.recovery.value_or(1);
+    EXPECT_EQ(one.editor.documents.Title(), "Pelmar VEX ()");
+    EXPECT_EQ(one.editor.documents.UnsavedCount(), 0);
     EXPECT_TRUE(system.calls.empty());
   }
 }
@@ -124,11 +143,11 @@ TEST_F(SessionTest, CommandTails) {
     SettingsRecord r = Stored();
     r.ShowStart = c.show_start;
     system.files[kSettings] = SettingsBytes(r);
-    WholeEditor e{system};
-    PlainView v;
-    Session(v, e.documents, e.settings, e.opener, system, e.file_number).Start(c.tail);
-    EXPECT_EQ(v.calls.back(), c.shown) << c.tail;
-    EXPECT_EQ(e.text.Text(), c.tail == "/a.txt" ? "file" : "recovered");
+    Desk one(system);
+    one.session.Start(c.tail);
+    std::erase(one.view.calls, "recent");  // the file that was opened, behind the last step
+    EXPECT_EQ(one.view.calls.back(), c.shown) << c.tail;
+    EXPECT_EQ(one.editor.text.Text(), c.tail == "/a.txt" ? "file" : "recovered");
   }
   Store(Stored());
   platform.answers = {Answer::kOk};
@@ -189,7 +208,7 @@ TEST_F(SessionTest, ConfigStoresAllButTheWindowsState) {
   r.UserName.clear();
   r.WindowState = 2;
   Store(r);
-  view.config = [this] {
+  desk.config = [this] {
     editor.settings.UserName = "Eva";
     view.state = 1;
     session.StoreSettings(false);

@@ -26,7 +26,7 @@ TEST_F(DocumentsTest, ChangeMarksTheTitleAndFillsTheSlot) {
   EXPECT_EQ(documents.Title(), "Pelmar VEX ()*");
   Type("b");
   EXPECT_EQ(documents.Title(), "Pelmar VEX ()*");
-  EXPECT_EQ(documents.Slot(1).Text, "ab");
+  EXPECT_EQ(documents.TextOf(1), "ab");
   EXPECT_FALSE(documents.Slot(1).Modified);  // the mark of the current tab lives in the title alone
   EXPECT_EQ(documents.UnsavedCount(), 1);
 }
@@ -135,8 +135,8 @@ TEST_F(DocumentsTest, RescueNeverOverwritesADocumentOfThisRun) {
                            {{1, "/a/README", "1"}, {2, "", "2"}, {3, "", "3"}, {4, "", "4"}, {5, "/\u65e5.txt", "5"}}};
   // Four free tabs, five documents. A path outside the code page stays a path.
   EXPECT_EQ(ReadableDocuments(BringBackDocuments(documents, {first})), "Soubor:/\u65e5.txt\r\n5\r\n\r\n");
-  EXPECT_EQ(documents.Slot(1).Text, "given");
-  EXPECT_EQ(documents.Slot(2).Text, "1");
+  EXPECT_EQ(documents.TextOf(1), "given");
+  EXPECT_EQ(documents.TextOf(2), "1");
   documents.SwitchTo(1);
   documents.SwitchTo(2);  // a name without a full stop doesn't break the switch
   EXPECT_EQ(documents.CurrentPath(), "/a/README");

@@ -6,7 +6,6 @@
 #include <string>
 
 #include "platform/color.h"
-#include "shell/record_bytes.h"
 #include "text/codepage.h"
 
 namespace pelmar {
@@ -99,15 +98,13 @@ TEST(SettingsRecord, DamagedFilesNeverReadBeyondTheirEnd) {
   EXPECT_EQ(ReadSettings(bytes).Left, 1440);
 }
 
-TEST(SettingsRecord, DefaultsAndOldTail) {
+TEST(SettingsRecord, Defaults) {
   SettingsRecord r;
   r.ForeColor = r.BackColor = Rgb(255, 0, 0);
   ApplySettingsDefaults(r);
   EXPECT_EQ(r.FontName, "Courier New");
   EXPECT_EQ(r.ForeColor, 0);
   EXPECT_EQ(r.BackColor, 0xFFFFFF);
-  EXPECT_EQ(OverOldTail("abc", "12345"), "abc45");
-  EXPECT_EQ(OverOldTail("abc", "1"), "abc");
 }
 
 TEST(SettingsRecord, PathsOutsideTheCodePageComeBack) {

@@ -1,7 +1,6 @@
 // A main window without glass: it keeps what it is told and writes down what it is asked, in order.
 #pragma once
 
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -17,7 +16,6 @@ class PlainView : public MainView {
   int state = 0;
   int alignment = 0;
   EditorLook look;
-  std::function<void()> config;
 
   void SetPlace(const TwipsRect& p) override {
     place = p;
@@ -62,16 +60,6 @@ class PlainView : public MainView {
   }
   void MoveTo(const TwipsRect& p) override { place = p; }
   EditorLook Look() const override { return look; }
-  void ShowRecentFiles() override { calls.push_back("recent"); }
-  void ShowConfig() override {
-    calls.push_back("config");
-    if (config) config();
-  }
-  void ShowMain() override { calls.push_back("main"); }
-  void ShowStart() override { calls.push_back("start"); }
-  void ShowAccessory(StartMode mode) override {
-    calls.push_back("accessory " + std::to_string(static_cast<int>(mode)));
-  }
 };
 
 }  // namespace pelmar

@@ -72,10 +72,6 @@ std::optional<std::string> ScriptedPlatform::SaveDialog(std::string_view filter,
   return Take(saves, calls.back());
 }
 
-std::string ScriptedPlatform::ClipboardText() { return clipboard.value_or(std::string()); }
-
-bool ScriptedPlatform::ClipboardHasText() { return clipboard.has_value(); }
-
 void ScriptedPlatform::SetClipboardText(std::string_view text) {
   calls.push_back("clipboard " + Quoted(text));
   clipboard = std::string(text);
@@ -98,6 +94,12 @@ int ScriptedPlatform::WriteError(const std::string& path) const {
 }
 
 bool ScriptedPlatform::CanRead(const std::string& path) { return ReadError(path) == 0; }
+
+std::optional<FileStamp> ScriptedPlatform::Stamp(const std::string& path) {
+  const auto found = files.find(path);
+  if (found == files.end()) return std::nullopt;
+  return FileStamp{.node = std::hash<std::string>()(found->second), .size = found->second.size()};
+}
 
 FileBytes ScriptedPlatform::ReadFile(const std::string& path, std::optional<std::uint64_t> limit) {
   if (const int error = ReadError(path)) return {.error = error, .bytes = {}};

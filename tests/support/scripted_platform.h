@@ -7,6 +7,7 @@
 #include <deque>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -29,6 +30,7 @@ class ScriptedPlatform : public Platform {
   std::deque<std::optional<std::string>> inputs, opens, saves;
 
   std::map<std::string, std::string> files;
+  std::set<std::string> private_files;
   std::map<std::string, int> read_errors, write_errors;  // errno by path
   std::string kept_content;                              // what failed writes tell of the old content
   std::function<void()> on_message;                      // called while a message is on show
@@ -51,17 +53,23 @@ class ScriptedPlatform : public Platform {
                                       std::string_view initial) override;
   std::optional<std::string> OpenDialog(std::string_view filter, int filter_index) override;
   std::optional<std::string> SaveDialog(std::string_view filter, int filter_index) override;
-  std::string ClipboardText() override;
-  bool ClipboardHasText() override;
+  const std::optional<std::string>& ClipboardContent() override { return clipboard; }
+  std::uint64_t ClipboardRevision() override { return 1 + std::hash<std::optional<std::string>>()(clipboard) / 2; }
   void SetClipboardText(std::string_view text) override;
   void ClearClipboard() override;
   bool CanRead(const std::string& path) override;
   FileBytes ReadFile(const std::string& path, std::optional<std::uint64_t> limit) override;
   WriteOutcome WriteDocument(const std::string& path, std::string_view bytes) override;
+  int WritePrivateFile(const std::string& path, std::string_view bytes) override {
+    private_files.insert(path);
+    return WriteDocument(path, bytes).error;
+  }
   int WriteNewFile(const std::string& path, std::string_view bytes) override;
   int ReadByPieces(const std::string& path, const std::function<bool(std::string_view piece)>& take) override;
   WriteOutcome RewriteFile(const std::string& source, const std::string& target, OldTail tail,
                            FileRewriter& rewriter) override;
+  // A file's stamp is its bytes', by a checksum.
+  std::optional<FileStamp> Stamp(const std::string& path) override;
   bool IsSameFile(const std::string& left, const std::string& right) override { return left == right; }
   std::string InstallFolder() override { return install_folder; }
   std::string ShareFolder() override { return share_folder; }

@@ -43,7 +43,7 @@ TEST(TextBuffer, SelectionIsClippedAndExactToTheByte) {
 TEST(TextBuffer, TellsEachChangeOnceAndNoneForTheSameText) {
   TextBuffer b;
   std::vector<TextChange> told;
-  b.OnChange([&](const TextChange& change) { told.push_back(change); });
+  const Listening heard = b.OnChange([&](const TextChange& change) { told.push_back(change); });
   b.SetText("");
   EXPECT_TRUE(told.empty());
   b.SetText("abc");

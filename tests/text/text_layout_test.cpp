@@ -106,7 +106,7 @@ TEST(TextLayout, RowsAndPlacesFollowAnyEditAsIfLaidOutAnew) {
       Laid laid(piece(300), rules);
       if (round == 0) laid.buffer.Replace(0, 0, std::string(9000, 'b') + '\t' + std::string(3000, 'a'));
       laid.layout.Lay(laid.buffer, rules);
-      laid.buffer.OnChange([&](const TextChange& change) { laid.layout.Update(change); });
+      const Listening heard = laid.buffer.OnChange([&](const TextChange& change) { laid.layout.Update(change); });
       for (int edit = 0; edit < 40; ++edit) {
         const std::size_t pos = random() % (laid.buffer.Size() + 1);
         laid.buffer.Replace(pos, random() % 12, piece(8));
@@ -124,7 +124,7 @@ TEST(TextLayout, RowsAndPlacesFollowAnyEditAsIfLaidOutAnew) {
 TEST(TextLayout, TellsWhichRowsAChangeTouched) {
   Laid laid("aaa bbb ccc\r\nddd\r\neee", Rules(4));
   RowsChange told;
-  laid.buffer.OnChange([&](const TextChange& change) { told = laid.layout.Update(change); });
+  const Listening heard = laid.buffer.OnChange([&](const TextChange& change) { told = laid.layout.Update(change); });
   laid.buffer.Replace(14, 1, "x");  // the same row, and the one before it is looked at
   EXPECT_EQ(told.first, 2u);
   EXPECT_EQ(told.removed, 2u);

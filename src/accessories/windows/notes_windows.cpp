@@ -1,5 +1,3 @@
-#include "accessories/windows/notes_windows.h"
-
 #include <cstdlib>
 
 #include "accessories/checkpoints.h"
@@ -50,10 +48,9 @@ std::string KeepNotes(WindowRegistry& windows) {
 
 void AddNotesWindows(const ProgramParts& parts) {
   parts.windows.Register<Poznamka>([parts] { return MakeNotes(parts); });
-  parts.windows.Register<Analytic>([parts] { return std::make_unique<Analytic>(parts.editor.text, &parts.main); });
+  parts.Add<Analytic>({"mnu_analysis"}, std::cref(parts.editor.text));
   parts.editor.commands.Add("mnupozn", [parts] { ShowNotes(parts); });
   parts.stand_alones[StartMode::kNotes] = [parts] { ShowNotes(parts); };
-  parts.ShowBy<Analytic>({"mnu_analysis"});
   AddCheckpoints(parts);
   parts.keepers.emplace_back([&windows = parts.windows] { return KeepNotes(windows); });
 }

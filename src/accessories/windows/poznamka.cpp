@@ -11,7 +11,7 @@
 #include "platform/qt/svg_icon.h"
 #include "platform/twips.h"
 #include "shell/stand_alone.h"
-#include "shell/windows/unkept_label.h"
+#include "shell/windows/warning_label.h"
 #include "ui_poznamka.h"
 
 namespace pelmar {
@@ -58,7 +58,7 @@ Poznamka::Poznamka(Surroundings around)
   record_ = stored_ = LoadNotes(around_.platform, around_.file_number);
   ShowPage(1);
   ConnectCommands();
-  ui_->Text1->Buffer().OnChange([this](const TextChange&) { keeper_.Touch(); });
+  changes_ = ui_->Text1->Buffer().OnChange([this](const TextChange&) { keeper_.Touch(); });
   ui_->Text1->setFocus();
   timer1_.setObjectName(QStringLiteral("Timer1"));
   timer1_.setInterval(kTick);
@@ -86,11 +86,12 @@ void Poznamka::ConnectCommands() {
   connect(ui_->Close, &QAction::triggered, this, &Poznamka::close);
   connect(ui_->TabStrip1, &QTabBar::currentChanged, this, &Poznamka::TabStrip1_Click);
   AddTabKeys(*this, *ui_->TabStrip1);
-  auto* unkept = new UnkeptLabel(QStringLiteral("Nezachovává se !"), ui_->Toolbar1);
+  auto* unkept = new WarningLabel(ui_->Toolbar1);
+  unkept->setText(QStringLiteral("Nezachovává se !"));
   QAction* warning = ui_->Toolbar1->addWidget(unkept);
   warning->setVisible(false);
   keeper_.on_failure = [unkept, warning](int error) {
-    unkept->SetError(error);
+    unkept->setToolTip(UnkeptTip(error));
     warning->setVisible(error != 0);
   };
 }

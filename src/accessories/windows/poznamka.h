@@ -10,7 +10,9 @@
 
 #include "accessories/notes.h"
 #include "accessories/notes_place.h"
+#include "shell/main_view.h"
 #include "shell/settings_record.h"
+#include "shell/stand_alone.h"
 #include "shell/windows/rescue_keeper.h"
 
 namespace Ui {
@@ -77,6 +79,7 @@ class Poznamka : public QWidget {
   int tries_left_ = 0;            // how often the same place is asked for again
   int quiet_ticks_ = 0;
   RescueKeeper keeper_;
+  Listening changes_;
 };
 
 }  // namespace pelmar

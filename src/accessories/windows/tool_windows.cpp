@@ -1,9 +1,8 @@
-#include "accessories/windows/tool_windows.h"
-
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <cstdlib>
 
+#include "accessories/windows/color_dialog.h"
 #include "accessories/windows/kalkul.h"
 #include "accessories/windows/klavesnice.h"
 #include "accessories/windows/kod.h"
@@ -53,20 +52,19 @@ std::unique_ptr<Prev> MakePrev(const ProgramParts& parts) {
 }  // namespace
 
 void AddToolWindows(const ProgramParts& parts) {
-  TextBuffer& text = parts.editor.text;
-  parts.windows.Register<Morse>([parts] { return std::make_unique<Morse>(parts.platform, &parts.main); });
-  parts.windows.Register<Klavesnice>([parts, &text] { return std::make_unique<Klavesnice>(text, &parts.main); });
-  parts.windows.Register<Kod>([parts, &text] {
-    return std::make_unique<Kod>(
-        text, [&main = parts.main](const QKeyEvent& key) { Stroke(main, key); }, &parts.main);
-  });
+  const auto text = std::ref(parts.editor.text);
+  const auto platform = std::ref(parts.platform);
+  parts.Add<ColorDialog>({}, platform);
+  parts.doors.pick_color = [&windows = parts.windows](Color color) {
+    return windows.Get<ColorDialog>().PickColor(color);
+  };
+  parts.Add<Morse>({"mnumorse"}, platform);
+  parts.Add<Klavesnice>({"mnuklavesnice"}, text);
+  parts.Add<Kod>({"mnuASCII"}, text, [&main = parts.main](const QKeyEvent& key) { Stroke(main, key); });
   parts.windows.Register<Kalkul>([parts] { return MakeKalkul(parts); });
   parts.windows.Register<Prev>([parts] { return MakePrev(parts); });
   parts.stand_alones[StartMode::kCalculator] = [&windows = parts.windows] { windows.Get<Kalkul>().Present(); };
   parts.ShowBy<Kalkul>({"mnucalk"});
-  parts.ShowBy<Morse>({"mnumorse"});
-  parts.ShowBy<Kod>({"mnuASCII"});
-  parts.ShowBy<Klavesnice>({"mnuklavesnice"});
 }
 
 }  // namespace pelmar

@@ -1,5 +1,3 @@
-#include "ciphers/windows/cipher_windows.h"
-
 #include "ciphers/windows/cht.h"
 #include "ciphers/windows/confeld.h"
 #include "ciphers/windows/rnd_sifra.h"
@@ -19,6 +17,7 @@ void RotateSelection(const ProgramParts& parts) {
 }  // namespace
 
 void AddCipherWindows(const ProgramParts& parts) {
+<<<<<<< HEAD
   TextBuffer& text = parts.editor.text;
   WindowRegistry& windows = parts.windows;
   windows.Register<ZaKod>([parts, &text] {
@@ -36,6 +35,18 @@ void AddCipherWindows(const ProgramParts& parts) {
   parts.ShowBy<Confeld>({"Mnu_Encrypt_Confeld"});
   parts.ShowBy<RND_Sifra>({"mnu_rnd_encrypt"});
   parts.ShowBy<CHT>({"Mnu_Hack_cry"});
+=======
+  const auto text = std::ref(parts.editor.text);
+  const auto platform = std::ref(parts.platform);
+  // Behind the close everything is stored, and a run that still goes on would rewrite the document once more.
+  const auto selected_tab = [parts] { return parts.doors.closed() ? 0 : parts.editor.documents.SelectedTab(); };
+  parts.Add<ZaKod>({"mnucode"}, text, platform, selected_tab);
+  parts.Add<ShiftKod>({"mnu_encrypt_shift"}, text, platform);
+  parts.Add<Confeld>({"Mnu_Encrypt_Confeld"}, text, platform);
+  parts.Add<RND_Sifra>({"mnu_rnd_encrypt"}, std::ref(parts.editor));
+  parts.Add<CHT>({"Mnu_Hack_cry"}, text, platform);
+  parts.Add<Shift>({}, text);
+>>>>>>> flow2
   parts.editor.commands.Add("MnuSelTextPosun", [parts] { RotateSelection(parts); });
 }
 

@@ -1,7 +1,6 @@
 #include "html/dialogs/alignment_block.h"
 
 #include "html/dialogs/form_helpers.h"
-#include "platform/qt/convert.h"
 #include "ui_alignment_block.h"
 
 namespace pelmar {
@@ -21,13 +20,13 @@ void AlignmentBlock::EnableCharacter() {
 }
 
 CellAlignment AlignmentBlock::Read() const {
-  CellAlignment alignment;
-  if (ui_->Check1->isChecked())
-    alignment.align = static_cast<CellAlign>(SetOption({ui_->Option1, ui_->Option2, ui_->Option3, ui_->Option4}));
-  alignment.character = TextFromQString(ui_->Text1->text());
-  if (ui_->Check2->isChecked())
-    alignment.valign = static_cast<CellVAlign>(SetOption({ui_->Option5, ui_->Option6, ui_->Option7}));
-  return alignment;
+  using enum CellAlign;
+  using enum CellVAlign;
+  return {SetOption<CellAlign>(
+              ui_->Check1,
+              {{ui_->Option1, kLeft}, {ui_->Option2, kCenter}, {ui_->Option3, kRight}, {ui_->Option4, kCharacter}}),
+          FieldText(*ui_->Text1),
+          SetOption<CellVAlign>(ui_->Check2, {{ui_->Option5, kTop}, {ui_->Option6, kMiddle}, {ui_->Option7, kBottom}})};
 }
 
 }  // namespace pelmar

@@ -6,22 +6,28 @@
 #include <optional>
 #include <string>
 
-#include "platform/qt/controls/dialog_window.h"
+#include "html/table_tags.h"
+#include "platform/qt/controls/fragment_dialog.h"
 
 namespace pelmar {
 
-class AttributesDialog : public DialogWindow {
-  Q_OBJECT
-
+template <class Form>
+class AttributesDialog : public FragmentDialog<Form> {
  public:
   // Waits for the attributes, with the blank before the first; "" for none of them, nothing on cancel.
-  std::optional<std::string> AskAttributes();
+  std::optional<std::string> AskAttributes() {
+    this->hide();  // a window on show can't become modal
+    answer_.reset();
+    for_builder_ = true;
+    EnableForEditor(false);
+    this->exec();
+    EnableForEditor(true);
+    for_builder_ = false;
+    return answer_;
+  }
 
  protected:
-  using DialogWindow::DialogWindow;
-
-  // The window's Command1 comes here.
-  void Command1_Click();
+  using FragmentDialog<Form>::FragmentDialog;
 
   [[nodiscard]] virtual std::string OpeningTag() const = 0;
   virtual void InsertTags() = 0;
@@ -29,6 +35,14 @@ class AttributesDialog : public DialogWindow {
   virtual void EnableForEditor(bool enabled) = 0;
 
  private:
+  bool Put() override {
+    if (for_builder_)
+      answer_ = TagAttributes(OpeningTag());
+    else
+      InsertTags();
+    return true;
+  }
+
   bool for_builder_ = false;
   std::optional<std::string> answer_;
 };

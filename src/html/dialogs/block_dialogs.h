@@ -3,8 +3,8 @@
 
 #include <functional>
 
-#include "html/dialogs/fragment_dialog.h"
 #include "platform/color.h"
+#include "platform/qt/controls/fragment_dialog.h"
 
 namespace Ui {
 class Odstavec;
@@ -20,7 +20,6 @@ class Odstavec : public FragmentDialog<Ui::Odstavec> {
 
  public:
   Odstavec(TextBuffer& document, QWidget* parent);
-  ~Odstavec() override;
 
  private:
   bool Put() override;
@@ -31,11 +30,9 @@ class Hr : public FragmentDialog<Ui::Hr> {
 
  public:
   Hr(TextBuffer& document, QWidget* parent);
-  ~Hr() override;
 
  private:
   bool Put() override;
-  void SetUnit(int maximum, QString (*write)(int));
 };
 
 class Nadpis : public FragmentDialog<Ui::Nadpis> {
@@ -43,7 +40,6 @@ class Nadpis : public FragmentDialog<Ui::Nadpis> {
 
  public:
   Nadpis(TextBuffer& document, QWidget* parent);
-  ~Nadpis() override;
 
  private:
   bool Put() override;
@@ -54,7 +50,6 @@ class Barva : public FragmentDialog<Ui::Barva> {
 
  public:
   Barva(TextBuffer& document, std::function<Color(Color)> pick_color, QWidget* parent);
-  ~Barva() override;
 
  private:
   bool Put() override;

@@ -5,25 +5,20 @@
 #include "html/attributes.h"
 #include "html/tag_editor.h"
 #include "platform/paths.h"
+#include "platform/qt/controls/field_helpers.h"
 #include "platform/qt/convert.h"
-#include "text/insert.h"
 #include "ui_edi_tag.h"
 
 namespace pelmar {
 
 EdiTag::EdiTag(TextBuffer& document, Platform& platform, std::function<Color(Color)> pick_color, QWidget* parent)
-    : DialogWindow(parent), document_(document), platform_(platform), ui_(std::make_unique<Ui::EdiTag>()) {
-  ui_->setupUi(this);
-  connect(ui_->Command3, &QPushButton::clicked, this, &EdiTag::Command3_Click);
-  connect(ui_->Command4, &QPushButton::clicked, this, &EdiTag::hide);
+    : FragmentDialog(document, parent, &Ui::EdiTag::Command3, &Ui::EdiTag::Command4), platform_(platform) {
   connect(ui_->Command5, &QPushButton::clicked, this,
           [this, pick = std::move(pick_color)] { SetValue(Utf8ToQString(ColorToHex(pick(0)))); });
   connect(ui_->Command6, &QPushButton::clicked, this, &EdiTag::Command6_Click);
   connect(ui_->HScroll1, &QScrollBar::valueChanged, this,
           [this](int value) { SetValue(QString::number(value) + QLatin1Char('%')); });
 }
-
-EdiTag::~EdiTag() = default;
 
 void EdiTag::Run() {
   const TagAnalysis analysis = OpenTag(document_, platform_);
@@ -33,9 +28,9 @@ void EdiTag::Run() {
   exec();
 }
 
-void EdiTag::Command3_Click() {
-  ReplaceSelection(document_, TagText(TextFromQString(ui_->Text1->text()), ui_->Attributes->Lists().Rows()));
-  hide();
+bool EdiTag::Put() {
+  ReplaceSelection(document_, TagText(FieldText(*ui_->Text1), ui_->Attributes->Lists().Rows()));
+  return true;
 }
 
 void EdiTag::Command6_Click() {

@@ -3,12 +3,10 @@
 #pragma once
 
 #include <functional>
-#include <memory>
 
 #include "platform/color.h"
 #include "platform/platform.h"
-#include "platform/qt/controls/dialog_window.h"
-#include "text/text_buffer.h"
+#include "platform/qt/controls/fragment_dialog.h"
 
 namespace Ui {
 class EdiTag;
@@ -16,24 +14,21 @@ class EdiTag;
 
 namespace pelmar {
 
-class EdiTag : public DialogWindow {
+class EdiTag : public FragmentDialog<Ui::EdiTag> {
   Q_OBJECT
 
  public:
   EdiTag(TextBuffer& document, Platform& platform, std::function<Color(Color)> pick_color, QWidget* parent);
-  ~EdiTag() override;
 
   // Reads the tag, with a message where that fails, and returns when the dialog is closed.
   void Run();
 
  private:
-  void Command3_Click();
+  bool Put() override;
   void Command6_Click();
   void SetValue(const QString& value);
 
-  TextBuffer& document_;
   Platform& platform_;
-  std::unique_ptr<Ui::EdiTag> ui_;
 };
 
 }  // namespace pelmar

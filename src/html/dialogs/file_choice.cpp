@@ -16,33 +16,33 @@
 
 namespace pelmar {
 
-void LinkFileChoice(const FileChoice& choice, std::function<void(const std::string&)> show_in_browser) {
-  choice.show->setIcon(SvgIcon(QStringLiteral(":/icons/browser.svg")));
-  LinkFileBrowser(choice.places, choice.folders, choice.files, choice.mask);
-  const auto refresh = [choice] { RefreshFileChoice(choice); };
-  QObject::connect(choice.files, &FileList::FileClicked, choice.path, refresh);
-  QObject::connect(choice.files, &FileList::FileGone, choice.path, refresh);
-  QObject::connect(choice.files, &FileList::PathChanged, choice.path, refresh);
-  QObject::connect(choice.files, &FileList::PatternChanged, choice.path, refresh);
-  QObject::connect(choice.relative, &QCheckBox::toggled, choice.path, refresh);
-  QObject::connect(choice.show, &QAbstractButton::clicked, choice.path,
-                   [path = choice.path, show = std::move(show_in_browser)] { show(PathOn(*path)); });
+void FileChoice::Link(std::function<void(const std::string&)> show_in_browser) const {
+  show->setIcon(SvgIcon(QStringLiteral(":/icons/browser.svg")));
+  LinkFileBrowser(places, folders, files, mask);
+  const auto refresh = [choice = *this] { choice.Refresh(); };
+  QObject::connect(files, &FileList::FileClicked, path, refresh);
+  QObject::connect(files, &FileList::FileGone, path, refresh);
+  QObject::connect(files, &FileList::PathChanged, path, refresh);
+  QObject::connect(files, &FileList::PatternChanged, path, refresh);
+  QObject::connect(relative, &QCheckBox::toggled, path, refresh);
+  QObject::connect(show, &QAbstractButton::clicked, path,
+                   [shown = path, show_path = std::move(show_in_browser)] { show_path(PathOn(*shown)); });
 }
 
-void RefreshFileChoice(const FileChoice& choice) {
-  const bool relative = choice.relative->isChecked();
-  ShowPath(*choice.path, relative ? PathFromQString(choice.files->FileName()) : PickedPath(*choice.files));
-  if (!choice.files->isEnabled()) return;
-  choice.ok->setEnabled(HasFile(choice));
-  choice.show->setEnabled(HasFile(choice) && !relative);
+void FileChoice::Refresh() const {
+  const bool name_only = relative->isChecked();
+  ShowPath(*path, name_only ? PathFromQString(files->FileName()) : PickedPath(*files));
+  if (!files->isEnabled()) return;
+  ok->setEnabled(HasFile());
+  show->setEnabled(HasFile() && !name_only);
 }
 
-bool HasFile(const FileChoice& choice) { return !choice.files->FileName().isEmpty(); }
+bool FileChoice::HasFile() const { return !files->FileName().isEmpty(); }
 
-std::string TakePath(const FileChoice& choice, QLineEdit& working_copy) {
-  const std::string path = ForwardSlashes(PathOn(*choice.path));
-  working_copy.setText(Utf8ToQString(path));
-  return LinkText(path);
+std::string FileChoice::TakePath(QLineEdit& working_copy) const {
+  const std::string taken = ForwardSlashes(PathOn(*path));
+  working_copy.setText(Utf8ToQString(taken));
+  return LinkText(taken);
 }
 
 }  // namespace pelmar

@@ -20,6 +20,27 @@ class FolderList;
 
 // The controls of the dialog, which outlive the choice.
 struct FileChoice {
+  // Those that have the same names in all four forms, and the two that haven't.
+  template <class Form>
+  static FileChoice Of(const Form& ui, QCheckBox* relative, QLabel* path) {
+    return {ui.Drive1, ui.Dir1, ui.File1, ui.Combo1, relative, path, ui.Command1, ui.Command3};
+  }
+
+  // Links the controls, once: the lists with each other; the choice of a file, another folder or mask and the switch to
+  // Refresh; the show button to `show_in_browser`, which takes the label's path. Until something is chosen or switched,
+  // label and buttons stay as the form has them.
+  void Link(std::function<void(const std::string& path)> show_in_browser) const;
+
+  // Writes folder and name into the label, or the name alone, and enables the buttons as far as they have what they
+  // need.
+  void Refresh() const;
+
+  [[nodiscard]] bool HasFile() const;
+
+  // Copies the label's path into the dialog's hidden working copy, with slashes for backslashes, and returns it as a
+  // link names it.
+  std::string TakePath(QLineEdit& working_copy) const;
+
   DriveList* places;
   FolderList* folders;
   FileList* files;
@@ -29,19 +50,5 @@ struct FileChoice {
   QAbstractButton* ok;    // needs a file
   QAbstractButton* show;  // needs a file with its folder; gets its picture here
 };
-
-// Links the controls, once, behind setupUi: the lists with each other; the choice of a file, another folder or mask and
-// the switch to RefreshFileChoice; the show button to `show_in_browser`, which takes the label's path. Until something
-// is chosen or switched, label and buttons stay as the form has them.
-void LinkFileChoice(const FileChoice& choice, std::function<void(const std::string& path)> show_in_browser);
-
-// Writes folder and name into the label, or the name alone, and enables the buttons as far as they have what they need.
-void RefreshFileChoice(const FileChoice& choice);
-
-[[nodiscard]] bool HasFile(const FileChoice& choice);
-
-// Copies the label's path into the dialog's hidden working copy, with slashes for backslashes, and returns it as a link
-// names it.
-std::string TakePath(const FileChoice& choice, QLineEdit& working_copy);
 
 }  // namespace pelmar

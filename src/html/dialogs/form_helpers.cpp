@@ -1,13 +1,9 @@
 #include "html/dialogs/form_helpers.h"
 
 #include <QAbstractSlider>
-#include <QCheckBox>
 #include <QComboBox>
 #include <QEvent>
 #include <QLabel>
-#include <QLineEdit>
-#include <QRadioButton>
-#include <algorithm>
 
 #include "platform/qt/controls/swatch.h"
 #include "platform/qt/convert.h"
@@ -15,10 +11,6 @@
 
 namespace pelmar {
 namespace {
-
-std::optional<std::string> TextIf(const QCheckBox* box, const QString& text) {
-  return box->isChecked() ? std::optional(TextFromQString(text)) : std::nullopt;
-}
 
 class GreyFollower : public QObject {
  public:
@@ -66,29 +58,27 @@ void AcceptFreeText(QComboBox* box) {
   box->setEditText(text);
 }
 
-QString BlankLed(int value) { return Utf8ToQString(NumberWithSignBlank(value)); }
+QString Plain(int value) { return QString::number(value); }
 
-QString BlankLedPercent(int value) { return BlankLed(value) + QLatin1Char('%'); }
+QString BlankLed(int value) { return Utf8ToQString(NumberWithSignBlank(value)); }
 
 void ShowValue(QAbstractSlider* bar, QLabel* label, std::function<QString(int)> write) {
   GreyWith(bar, label);
-  QObject::connect(bar, &QAbstractSlider::valueChanged, label, [label, write = std::move(write)](int value) {
-    label->setText(write ? write(value) : QString::number(value));
+  QObject::connect(bar, &QAbstractSlider::valueChanged, label,
+                   [label, write = std::move(write)](int value) { label->setText(write(value)); });
+}
+
+void LinkUnit(QAbstractButton* percent, QAbstractSlider* bar, QLabel* label, WriteNumber write, BarRange in_percent,
+              BarRange in_pixels) {
+  const auto in_unit = [percent, write](int value) {
+    return percent->isChecked() ? write(value) + QLatin1Char('%') : write(value);
+  };
+  ShowValue(bar, label, in_unit);
+  QObject::connect(percent, &QAbstractButton::toggled, label, [=](bool on) {
+    const BarRange range = on ? in_percent : in_pixels;
+    bar->setRange(range.least, range.most);
+    label->setText(in_unit(bar->value()));
   });
-}
-
-std::optional<std::string> Written(const QCheckBox* box, const QLabel* field) { return TextIf(box, field->text()); }
-
-std::optional<std::string> Written(const QCheckBox* box, const QLineEdit* field) { return TextIf(box, field->text()); }
-
-std::optional<std::string> Written(const QCheckBox* box, const QComboBox* field) {
-  return TextIf(box, field->currentText());
-}
-
-int SetOption(std::initializer_list<const QRadioButton*> options) {
-  const auto* const set =
-      std::find_if(options.begin(), options.end(), [](const QRadioButton* option) { return option->isChecked(); });
-  return set == options.end() ? 0 : static_cast<int>(set - options.begin());
 }
 
 }  // namespace pelmar

@@ -1,23 +1,20 @@
 // What the events of many HTML dialogs have in common: controls that go with a check box, a colour with its hex label,
-// the set one of some options, a value's label, a text that is switched off.
+// the value of the option that is set, a value's label, a size in percent or pixels, a text that is switched off.
 #pragma once
 
+#include <QCheckBox>
 #include <QColor>
+#include <QRadioButton>
 #include <functional>
 #include <initializer_list>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "platform/color.h"
+#include "platform/qt/controls/field_helpers.h"
 
-class QAbstractButton;
 class QAbstractSlider;
-class QCheckBox;
-class QComboBox;
-class QLabel;
-class QLineEdit;
-class QRadioButton;
-class QWidget;
 
 namespace pelmar {
 
@@ -38,21 +35,45 @@ void ConnectColorChoice(QAbstractButton* button, Swatch* swatch, QLabel* hex, st
 // arrow key Down goes to the first row.
 void AcceptFreeText(QComboBox* box);
 
-// The number with a blank in front of it, as the labels of many values are written, and "%" where it is one of percent.
+// How a label writes a number: in plain digits, or with a blank in front of it, as most do.
+using WriteNumber = QString (*)(int);
+QString Plain(int value);
 QString BlankLed(int value);
-QString BlankLedPercent(int value);
 
-// Each change of the bar's value is written into the label, in plain digits where no other form is given. What the form
-// of the window says at first stays until then: such labels are what is written, and not all begin at their bar's
-// value. The label goes grey with the bar.
-void ShowValue(QAbstractSlider* bar, QLabel* label, std::function<QString(int)> write = {});
+// Each change of the bar's value is written into the label. What the form of the window says at first stays until then:
+// such labels are what is written, and not all begin at their bar's value. The label goes grey with the bar.
+void ShowValue(QAbstractSlider* bar, QLabel* label, std::function<QString(int)> write = Plain);
+
+struct BarRange {
+  int least, most;
+};
+// The bar counts in percent while that button is set and in pixels otherwise, as far as the unit goes; the label shows
+// the number, in percent with "%" behind it.
+void LinkUnit(QAbstractButton* percent, QAbstractSlider* bar, QLabel* label, WriteNumber write = BlankLed,
+              BarRange in_percent = {1, 100}, BarRange in_pixels = {1, 800});
 
 // What the field says, in Windows-1250, as long as the box is ticked.
-std::optional<std::string> Written(const QCheckBox* box, const QLabel* field);
-std::optional<std::string> Written(const QCheckBox* box, const QLineEdit* field);
-std::optional<std::string> Written(const QCheckBox* box, const QComboBox* field);
+template <class Field>
+std::optional<std::string> Written(const QCheckBox* box, const Field* field) {
+  return box->isChecked() ? std::optional(FieldText(*field)) : std::nullopt;
+}
 
-// The index of the option that is set, from 0; 0 where none is.
-int SetOption(std::initializer_list<const QRadioButton*> options);
+// Options and what each of them stands for.
+template <class Value>
+using Options = std::initializer_list<std::pair<const QRadioButton*, Value>>;
+
+// What the set option stands for; the first one where none is set.
+template <class Value>
+Value SetOption(Options<Value> options) {
+  for (const auto& [option, value] : options)
+    if (option->isChecked()) return value;
+  return options.begin()->second;
+}
+
+// The same as long as the box is ticked.
+template <class Value>
+std::optional<Value> SetOption(const QCheckBox* box, Options<Value> options) {
+  return box->isChecked() ? std::optional(SetOption<Value>(options)) : std::nullopt;
+}
 
 }  // namespace pelmar

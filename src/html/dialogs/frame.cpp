@@ -3,15 +3,13 @@
 #include "html/dialogs/form_helpers.h"
 #include "platform/color.h"
 #include "platform/qt/convert.h"
-#include "text/insert.h"
 #include "ui_frame.h"
 
 namespace pelmar {
 
 Frame::Frame(TextBuffer& document, std::function<void(const std::string&)> show_in_browser, QWidget* parent)
-    : DialogWindow(parent), document_(document), ui_(std::make_unique<Ui::Frame>()) {
-  ui_->setupUi(this);
-  LinkFileChoice(Choice(), std::move(show_in_browser));
+    : FragmentDialog(document, parent), choice_(FileChoice::Of(*ui_, ui_->Check5, ui_->Label1)) {
+  choice_.Link(std::move(show_in_browser));
   for (QComboBox* words : {ui_->Combo2, ui_->Combo3}) AcceptFreeText(words);
   EnableWith(ui_->Check4, {ui_->Text1});
   EnableWith(ui_->Check6, {ui_->Combo3});
@@ -28,14 +26,6 @@ Frame::Frame(TextBuffer& document, std::function<void(const std::string&)> show_
   ShowValue(ui_->VScroll5, ui_->Label12);
   for (QScrollBar* channel : {ui_->VScroll12, ui_->VScroll11, ui_->VScroll10})
     connect(channel, &QScrollBar::valueChanged, this, &Frame::ShowBorderColor);
-  connect(ui_->Command1, &QPushButton::clicked, this, &Frame::Command1_Click);
-  connect(ui_->Command2, &QPushButton::clicked, this, &Frame::hide);
-}
-
-Frame::~Frame() = default;
-
-FileChoice Frame::Choice() const {
-  return {ui_->Drive1, ui_->Dir1, ui_->File1, ui_->Combo1, ui_->Check5, ui_->Label1, ui_->Command1, ui_->Command3};
 }
 
 void Frame::ShowBorderColor() {
@@ -46,7 +36,7 @@ void Frame::ShowBorderColor() {
 
 FrameSpec Frame::Read() const {
   FrameSpec spec;
-  spec.path = TakePath(Choice(), *ui_->Text);
+  spec.path = choice_.TakePath(*ui_->Text);
   spec.relative = ui_->Check5->isChecked();
   spec.name = Written(ui_->Check4, ui_->Text1);
   spec.align = Written(ui_->Check6, ui_->Combo3);
@@ -54,15 +44,11 @@ FrameSpec Frame::Read() const {
   spec.border_color = Written(ui_->Check9, ui_->Label8);
   spec.spacing = Written(ui_->Check8, ui_->Label4);
   spec.scrolling = Written(ui_->Check1, ui_->Combo2);
-  if (ui_->Check3->isChecked())
-    spec.margins = {TextFromQString(ui_->Label12->text()), TextFromQString(ui_->Label11->text())};
+  if (ui_->Check3->isChecked()) spec.margins = {FieldText(*ui_->Label12), FieldText(*ui_->Label11)};
   spec.noresize = ui_->Check2->isChecked();
   return spec;
 }
 
-void Frame::Command1_Click() {
-  InsertAtCaret(document_, FrameTag(Read()));
-  hide();
-}
+bool Frame::Put() { return Insert(FrameTag(Read())); }
 
 }  // namespace pelmar

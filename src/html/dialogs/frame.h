@@ -1,13 +1,9 @@
 // `Frame`: one FRAME tag at the caret, for a file that is chosen from lists.
 #pragma once
 
-#include <functional>
-#include <memory>
-#include <string>
-
 #include "html/dialogs/file_choice.h"
 #include "html/frames.h"
-#include "platform/qt/controls/dialog_window.h"
+#include "platform/qt/controls/fragment_dialog.h"
 
 namespace Ui {
 class Frame;
@@ -15,21 +11,18 @@ class Frame;
 
 namespace pelmar {
 
-class Frame : public DialogWindow {
+class Frame : public FragmentDialog<Ui::Frame> {
   Q_OBJECT
 
  public:
   Frame(TextBuffer& document, std::function<void(const std::string& path)> show_in_browser, QWidget* parent);
-  ~Frame() override;
 
  private:
-  [[nodiscard]] FileChoice Choice() const;
   void ShowBorderColor();
   [[nodiscard]] FrameSpec Read() const;
-  void Command1_Click();
+  bool Put() override;
 
-  TextBuffer& document_;
-  std::unique_ptr<Ui::Frame> ui_;
+  FileChoice choice_;
 };
 
 }  // namespace pelmar

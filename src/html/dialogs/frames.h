@@ -1,10 +1,7 @@
 // `Frames`: a frameset page around the document.
 #pragma once
 
-#include <memory>
-
-#include "platform/qt/controls/dialog_window.h"
-#include "text/text_buffer.h"
+#include "platform/qt/controls/fragment_dialog.h"
 
 namespace Ui {
 class Frames;
@@ -12,18 +9,14 @@ class Frames;
 
 namespace pelmar {
 
-class Frames : public DialogWindow {
+class Frames : public FragmentDialog<Ui::Frames> {
   Q_OBJECT
 
  public:
   Frames(TextBuffer& document, QWidget* parent);
-  ~Frames() override;
 
  private:
-  void Command1_Click();
-
-  TextBuffer& document_;
-  std::unique_ptr<Ui::Frames> ui_;
+  bool Put() override;
 };
 
 }  // namespace pelmar

@@ -2,7 +2,7 @@
 // or one character.
 #pragma once
 
-#include "html/dialogs/fragment_dialog.h"
+#include "platform/qt/controls/fragment_dialog.h"
 
 namespace Ui {
 class LineLabel;
@@ -22,7 +22,6 @@ class LineLabel : public FragmentDialog<Ui::LineLabel> {
 
  public:
   LineLabel(TextBuffer& document, QWidget* parent);
-  ~LineLabel() override;
 
  private:
   bool Put() override;
@@ -33,7 +32,6 @@ class Label : public FragmentDialog<Ui::Label> {
 
  public:
   Label(TextBuffer& document, QWidget* parent);
-  ~Label() override;
 
  private:
   bool Put() override;
@@ -44,7 +42,6 @@ class Zlomek : public FragmentDialog<Ui::Zlomek> {
 
  public:
   Zlomek(TextBuffer& document, QWidget* parent);
-  ~Zlomek() override;
 
  private:
   bool Put() override;
@@ -55,7 +52,6 @@ class Comment : public FragmentDialog<Ui::Comment> {
 
  public:
   Comment(TextBuffer& document, QWidget* parent);
-  ~Comment() override;
 
  private:
   bool Put() override;
@@ -66,7 +62,6 @@ class Meta : public FragmentDialog<Ui::Meta> {
 
  public:
   Meta(TextBuffer& document, QWidget* parent);
-  ~Meta() override;
 
  private:
   bool Put() override;
@@ -77,7 +72,6 @@ class HtmlID : public FragmentDialog<Ui::HtmlID> {
 
  public:
   HtmlID(TextBuffer& document, QWidget* parent);
-  ~HtmlID() override;
 
  private:
   bool Put() override;
@@ -88,7 +82,6 @@ class HTMLAscii : public FragmentDialog<Ui::HTMLAscii> {
 
  public:
   HTMLAscii(TextBuffer& document, QWidget* parent);
-  ~HTMLAscii() override;
 
  private:
   bool Put() override;
@@ -99,7 +92,6 @@ class Smajl : public FragmentDialog<Ui::Smajl> {
 
  public:
   Smajl(TextBuffer& document, QWidget* parent);
-  ~Smajl() override;
 
  private:
   bool Put() override;

@@ -2,10 +2,8 @@
 #pragma once
 
 #include <functional>
-#include <memory>
 
-#include "platform/qt/controls/dialog_window.h"
-#include "text/text_buffer.h"
+#include "platform/qt/controls/fragment_dialog.h"
 
 namespace Ui {
 class Kotva;
@@ -13,19 +11,16 @@ class Kotva;
 
 namespace pelmar {
 
-class Kotva : public DialogWindow {
+class Kotva : public FragmentDialog<Ui::Kotva> {
   Q_OBJECT
 
  public:
   Kotva(TextBuffer& document, std::function<void(const QString& name)> remember, QWidget* parent);
-  ~Kotva() override;
 
  private:
-  void Command1_Click();
+  bool Put() override;
 
-  TextBuffer& document_;
   std::function<void(const QString& name)> remember_;
-  std::unique_ptr<Ui::Kotva> ui_;
 };
 
 }  // namespace pelmar

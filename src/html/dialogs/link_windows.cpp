@@ -1,5 +1,3 @@
-#include "html/dialogs/link_windows.h"
-
 #include "html/dialogs/kotva.h"
 #include "html/dialogs/mail_to.h"
 #include "html/dialogs/obrazek.h"
@@ -11,29 +9,17 @@
 namespace pelmar {
 
 void AddLinkWindows(const ProgramParts& parts) {
-  TextBuffer& text = parts.editor.text;
-  WindowRegistry& windows = parts.windows;
-  windows.Register<Obrazek>(
-      [parts, &text] { return std::make_unique<Obrazek>(text, parts.BrowserDoor(), &parts.main); });
-  windows.Register<OdkazNaJiny>(
-      [parts, &text] { return std::make_unique<OdkazNaJiny>(text, parts.BrowserDoor(), &parts.main); });
-  windows.Register<Odkaz>([parts, &text] { return std::make_unique<Odkaz>(text, &parts.main); });
-  windows.Register<Kotva>([parts, &text] {
-    const auto remember = [parts](const QString& name) { parts.windows.Get<Odkaz>().AddAnchor(name); };
-    return std::make_unique<Kotva>(text, remember, &parts.main);
-  });
-  windows.Register<MailTo>(
-      [parts, &text] { return std::make_unique<MailTo>(text, parts.editor.settings.UserEmail, &parts.main); });
-  windows.Register<Template>(
-      [parts, &text] { return std::make_unique<Template>(text, parts.editor.settings, &parts.main); });
+  const auto text = std::ref(parts.editor.text);
+  const auto settings = std::cref(parts.editor.settings);
+  const auto remember = [&windows = parts.windows](const QString& name) { windows.Get<Odkaz>().AddAnchor(name); };
+  parts.Add<Obrazek>({"mnuobr", "Image"}, text, parts.BrowserDoor());
+  parts.Add<OdkazNaJiny>({"mnuodkazjiny", "Link"}, text, parts.BrowserDoor());
+  parts.Add<Odkaz>({"mnuodkaz"}, text);
+  parts.Add<Kotva>({"mnukotva"}, text, remember);
+  parts.Add<MailTo>({"mnumailto"}, text, std::cref(settings.get().UserEmail));
+  parts.Add<Template>({"mnutemplate"}, text, settings);
   parts.AddFilePicker<Obrazek>();
   parts.AddFilePicker<OdkazNaJiny>();
-  parts.ShowBy<Obrazek>({"mnuobr", "Image"});
-  parts.ShowBy<OdkazNaJiny>({"mnuodkazjiny", "Link"});
-  parts.ShowBy<Odkaz>({"mnuodkaz"});
-  parts.ShowBy<Kotva>({"mnukotva"});
-  parts.ShowBy<MailTo>({"mnumailto"});
-  parts.ShowBy<Template>({"mnutemplate"});
 }
 
 }  // namespace pelmar

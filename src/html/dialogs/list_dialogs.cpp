@@ -2,8 +2,6 @@
 
 #include "html/dialogs/form_helpers.h"
 #include "html/dialogs/paired_lists.h"
-#include "platform/qt/convert.h"
-#include "text/insert.h"
 #include "ui_cis_seznam.h"
 #include "ui_seznam.h"
 #include "ui_seznam_def.h"
@@ -46,15 +44,12 @@ bool ItemListDialog<Form>::Put() {
   spec.compact = ui->Check3->isChecked();
   spec.heading = Written(ui->Check1, ui->Text2);
   spec.items = RowTexts(*ui->List1);
-  InsertAtCaret(this->document_, BuildList(spec));
-  return true;
+  return this->Insert(BuildList(spec));
 }
 
 Seznam::Seznam(TextBuffer& document, QWidget* parent) : ItemListDialog(document, ListKind::kBullets, parent) {}
-Seznam::~Seznam() = default;
 
 CisSeznam::CisSeznam(TextBuffer& document, QWidget* parent) : ItemListDialog(document, ListKind::kNumbers, parent) {}
-CisSeznam::~CisSeznam() = default;
 
 SeznamDef::SeznamDef(TextBuffer& document, QWidget* parent)
     : FragmentDialog(document, parent, &Ui::SeznamDef::Command3, &Ui::SeznamDef::Command4) {
@@ -62,12 +57,10 @@ SeznamDef::SeznamDef(TextBuffer& document, QWidget* parent)
       new PairedLists({ui_->Atribut, ui_->Hodnota, ui_->Atributs, ui_->Values, ui_->Command1, ui_->Command2}, this);
   for (QLineEdit* field : {ui_->Atribut, ui_->Hodnota}) OnEnter(field, [this] { lists_->AddByEnter(); });
 }
-SeznamDef::~SeznamDef() = default;
 
 bool SeznamDef::Put() {
   const AttributeLists rows = lists_->Rows();
-  InsertAtCaret(document_, BuildDefinitionList(rows.names, rows.values));
-  return true;
+  return Insert(BuildDefinitionList(rows.names, rows.values));
 }
 
 }  // namespace pelmar

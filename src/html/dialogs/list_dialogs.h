@@ -2,8 +2,8 @@
 // Their items stay from one opening to the next.
 #pragma once
 
-#include "html/dialogs/fragment_dialog.h"
 #include "html/lists.h"
+#include "platform/qt/controls/fragment_dialog.h"
 
 namespace Ui {
 class Seznam;
@@ -35,7 +35,6 @@ class Seznam : public ItemListDialog<Ui::Seznam> {
 
  public:
   Seznam(TextBuffer& document, QWidget* parent);
-  ~Seznam() override;
 };
 
 class CisSeznam : public ItemListDialog<Ui::CisSeznam> {
@@ -43,7 +42,6 @@ class CisSeznam : public ItemListDialog<Ui::CisSeznam> {
 
  public:
   CisSeznam(TextBuffer& document, QWidget* parent);
-  ~CisSeznam() override;
 };
 
 class SeznamDef : public FragmentDialog<Ui::SeznamDef> {
@@ -51,7 +49,6 @@ class SeznamDef : public FragmentDialog<Ui::SeznamDef> {
 
  public:
   SeznamDef(TextBuffer& document, QWidget* parent);
-  ~SeznamDef() override;
 
  private:
   bool Put() override;

@@ -2,10 +2,7 @@
 // were made in this run, in their order, whichever document they went to.
 #pragma once
 
-#include <memory>
-
-#include "platform/qt/controls/dialog_window.h"
-#include "text/text_buffer.h"
+#include "platform/qt/controls/fragment_dialog.h"
 
 namespace Ui {
 class Odkaz;
@@ -13,21 +10,17 @@ class Odkaz;
 
 namespace pelmar {
 
-class Odkaz : public DialogWindow {
+class Odkaz : public FragmentDialog<Ui::Odkaz> {
   Q_OBJECT
 
  public:
   Odkaz(TextBuffer& document, QWidget* parent);
-  ~Odkaz() override;
 
   // At the end of the list, also a name that stands in it already. The field keeps its text.
   void AddAnchor(const QString& name);
 
  private:
-  void Command1_Click();
-
-  TextBuffer& document_;
-  std::unique_ptr<Ui::Odkaz> ui_;
+  bool Put() override;
 };
 
 }  // namespace pelmar

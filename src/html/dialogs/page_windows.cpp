@@ -1,5 +1,3 @@
-#include "html/dialogs/page_windows.h"
-
 #include "html/dialogs/frame.h"
 #include "html/dialogs/frames.h"
 #include "html/dialogs/table.h"
@@ -9,40 +7,20 @@
 #include "shell/windows/program_parts.h"
 
 namespace pelmar {
-namespace {
-
-void AddTables(const ProgramParts& parts) {
-  TextBuffer& text = parts.editor.text;
-  parts.windows.Register<TableRow>([parts, &text] { return std::make_unique<TableRow>(text, &parts.main); });
-  parts.windows.Register<TableCell>(
-      [parts, &text] { return std::make_unique<TableCell>(text, parts.ColorDoor(), &parts.main); });
-  parts.windows.Register<Table>([parts, &text] {
-    return std::make_unique<Table>(
-        text, [parts] { return parts.windows.Get<TableCell>().AskAttributes(); },
-        [parts] { return parts.windows.Get<TableRow>().AskAttributes(); }, &parts.main);
-  });
-  parts.ShowBy<Table>({"mnutable", "Table"});
-  parts.ShowBy<TableRow>({"mnurow"});
-  parts.ShowBy<TableCell>({"mnucell"});
-}
-
-}  // namespace
 
 void AddPageWindows(const ProgramParts& parts) {
-  TextBuffer& text = parts.editor.text;
-  AddTables(parts);
-  parts.windows.Register<Frames>([parts, &text] { return std::make_unique<Frames>(text, &parts.main); });
-  parts.windows.Register<Frame>(
-      [parts, &text] { return std::make_unique<Frame>(text, parts.BrowserDoor(), &parts.main); });
-  parts.windows.Register<Vytvor>([parts, &text] {
-    return std::make_unique<Vytvor>(text, parts.main, parts.editor.settings, parts.platform,
-                                    Vytvor::Doors{parts.ColorDoor(), parts.BrowserDoor()}, &parts.main);
-  });
+  const auto text = std::ref(parts.editor.text);
+  const auto ask_cell = [&windows = parts.windows] { return windows.Get<TableCell>().AskAttributes(); };
+  const auto ask_row = [&windows = parts.windows] { return windows.Get<TableRow>().AskAttributes(); };
+  parts.Add<Table>({"mnutable", "Table"}, text, ask_cell, ask_row);
+  parts.Add<TableRow>({"mnurow"}, text);
+  parts.Add<TableCell>({"mnucell"}, text, parts.ColorDoor());
+  parts.Add<Frames>({"mnuHTML_fset"}, text);
+  parts.Add<Frame>({"mnuHTML_Fme"}, text, parts.BrowserDoor());
+  parts.Add<Vytvor>({"mnucreate", "Newhtml"}, text, std::ref(parts.main), std::cref(parts.editor.settings),
+                    std::ref(parts.platform), Vytvor::Doors{parts.ColorDoor(), parts.BrowserDoor()});
   parts.AddFilePicker<Frame>();
   parts.AddFilePicker<Vytvor>();
-  parts.ShowBy<Frames>({"mnuHTML_fset"});
-  parts.ShowBy<Frame>({"mnuHTML_Fme"});
-  parts.ShowBy<Vytvor>({"mnucreate", "Newhtml"});
 }
 
 }  // namespace pelmar

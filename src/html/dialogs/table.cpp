@@ -2,14 +2,10 @@
 
 #include "html/dialogs/form_helpers.h"
 #include "platform/qt/convert.h"
-#include "text/insert.h"
 #include "ui_table.h"
 
 namespace pelmar {
 namespace {
-
-constexpr int kMostPercent = 100;
-constexpr int kMostPixels = 800;
 
 std::size_t ValueOf(const QScrollBar* bar) { return static_cast<std::size_t>(bar->value()); }
 
@@ -22,19 +18,43 @@ void AskInto(QLineEdit* field, const Table::AskAttributes& ask) {
   if (const std::optional<std::string> attributes = ask()) field->setText(TextToQString(*attributes));
 }
 
+std::optional<TableAlign> AlignOf(const Ui::Table& ui) {
+  using enum TableAlign;
+  return SetOption<TableAlign>(ui.Check2, {{ui.Option3, kLeft}, {ui.Option4, kCenter}, {ui.Option5, kRight}});
+}
+
+TableFrame FrameOf(const Ui::Table& ui) {
+  using enum TableFrame;
+  return SetOption<TableFrame>({{ui.Option6, kNone},
+                                {ui.Option7, kAbove},
+                                {ui.Option8, kBelow},
+                                {ui.Option9, kAboveAndBelow},
+                                {ui.Option10, kLeft},
+                                {ui.Option11, kRight},
+                                {ui.Option12, kLeftAndRight},
+                                {ui.Option13, kBox}});
+}
+
+std::optional<TableRules> RulesOf(const Ui::Table& ui) {
+  using enum TableRules;
+  return SetOption<TableRules>(
+      ui.Check5, {{ui.Option14, kNone}, {ui.Option15, kRows}, {ui.Option16, kColumns}, {ui.Option17, kAll}});
+}
+
+CaptionSide SideOf(const Ui::Table& ui) {
+  using enum CaptionSide;
+  return SetOption<CaptionSide>(
+      {{ui.Option18, kTop}, {ui.Option19, kBottom}, {ui.Option20, kLeft}, {ui.Option21, kRight}});
+}
+
 }  // namespace
 
 Table::Table(TextBuffer& document, AskAttributes ask_cell, AskAttributes ask_row, QWidget* parent)
-    : DialogWindow(parent), document_(document), ui_(std::make_unique<Ui::Table>()) {
-  ui_->setupUi(this);
+    : FragmentDialog(document, parent) {
   MakeTabs();
   ConnectGroups();
   ConnectWalk(std::move(ask_cell), std::move(ask_row));
-  connect(ui_->Command1, &QPushButton::clicked, this, &Table::Command1_Click);
-  connect(ui_->Command2, &QPushButton::clicked, this, &Table::hide);
 }
-
-Table::~Table() = default;
 
 void Table::MakeTabs() {
   ui_->TabStrip1->addTab(QStringLiteral("Celá tabulka"));
@@ -54,10 +74,7 @@ void Table::ConnectGroups() {
   EnableWith(ui_->Check6, {ui_->VScroll5});
   EnableWith(ui_->Check7, {ui_->VScroll6});
   EnableWith(ui_->Check8, {ui_->Text2, ui_->Option18, ui_->Option19, ui_->Option20, ui_->Option21});
-  connect(ui_->Option2, &QRadioButton::toggled, this, &Table::SetWidthUnit);
-  ShowValue(ui_->VScroll3, ui_->Label5, [percent = ui_->Option2](int value) {
-    return percent->isChecked() ? BlankLedPercent(value) : BlankLed(value);
-  });
+  LinkUnit(ui_->Option2, ui_->VScroll3, ui_->Label5);
   // required: Label7 begins at " 1" over a bar at 0, and what it says is written
   ShowValue(ui_->VScroll4, ui_->Label7, BlankLed);
   ShowValue(ui_->VScroll5, ui_->Label8, BlankLed);
@@ -79,12 +96,6 @@ void Table::ConnectWalk(AskAttributes ask_cell, AskAttributes ask_row) {
   connect(ui_->Command4, &QPushButton::clicked, ui_->Text3, &QLineEdit::clear);
   connect(ui_->Command5, &QPushButton::clicked, ui_->Text5, &QLineEdit::clear);
   connect(ui_->Command6, &QPushButton::clicked, this, [this, ask = std::move(ask_row)] { AskInto(ui_->Text5, ask); });
-}
-
-void Table::SetWidthUnit(bool percent) {
-  ui_->VScroll3->setMaximum(percent ? kMostPercent : kMostPixels);
-  const int value = ui_->VScroll3->value();
-  ui_->Label5->setText(percent ? BlankLedPercent(value) : BlankLed(value));
 }
 
 void Table::VScroll1_Change(int columns) {
@@ -126,26 +137,15 @@ TableSpec Table::Read() const {
   spec.width = Written(ui_->Check1, ui_->Label5);
   spec.cols = Written(ui_->Check9, ui_->Label3);
   spec.colspec = Written(ui_->Check3, ui_->Text1);
-  if (ui_->Check2->isChecked())
-    spec.align = static_cast<TableAlign>(SetOption({ui_->Option3, ui_->Option4, ui_->Option5}));
-  if (const auto thickness = Written(ui_->Check4, ui_->Label7)) {
-    const int frame = SetOption({ui_->Option6, ui_->Option7, ui_->Option8, ui_->Option9, ui_->Option10, ui_->Option11,
-                                 ui_->Option12, ui_->Option13});
-    spec.border = {static_cast<TableFrame>(frame), *thickness};
-  }
-  if (ui_->Check5->isChecked())
-    spec.rules = static_cast<TableRules>(SetOption({ui_->Option14, ui_->Option15, ui_->Option16, ui_->Option17}));
+  spec.align = AlignOf(*ui_);
+  if (const auto thickness = Written(ui_->Check4, ui_->Label7)) spec.border = {FrameOf(*ui_), *thickness};
+  spec.rules = RulesOf(*ui_);
   spec.cell_spacing = Written(ui_->Check6, ui_->Label8);
   spec.cell_padding = Written(ui_->Check7, ui_->Label9);
-  if (const auto text = Written(ui_->Check8, ui_->Text2))
-    spec.caption = {static_cast<CaptionSide>(SetOption({ui_->Option18, ui_->Option19, ui_->Option20, ui_->Option21})),
-                    *text};
+  if (const auto text = Written(ui_->Check8, ui_->Text2)) spec.caption = {SideOf(*ui_), *text};
   return spec;
 }
 
-void Table::Command1_Click() {
-  InsertAtCaret(document_, BuildTable(Read(), grid_));
-  hide();
-}
+bool Table::Put() { return Insert(BuildTable(Read(), grid_)); }
 
 }  // namespace pelmar

@@ -3,13 +3,11 @@
 #pragma once
 
 #include <functional>
-#include <memory>
 #include <optional>
 #include <string>
 
 #include "html/table_builder.h"
-#include "platform/qt/controls/dialog_window.h"
-#include "text/text_buffer.h"
+#include "platform/qt/controls/fragment_dialog.h"
 
 class QLineEdit;
 
@@ -19,7 +17,7 @@ class Table;
 
 namespace pelmar {
 
-class Table : public DialogWindow {
+class Table : public FragmentDialog<Ui::Table> {
   Q_OBJECT
 
  public:
@@ -27,28 +25,24 @@ class Table : public DialogWindow {
   using AskAttributes = std::function<std::optional<std::string>()>;
 
   Table(TextBuffer& document, AskAttributes ask_cell, AskAttributes ask_row, QWidget* parent);
-  ~Table() override;
 
  private:
   void MakeTabs();
   void ConnectGroups();
   void ConnectWalk(AskAttributes ask_cell, AskAttributes ask_row);
-  void SetWidthUnit(bool percent);
   void VScroll1_Change(int columns);
   void VScroll2_Change(int rows);
   void ShowCell();
   void ShowRow();
   [[nodiscard]] TableSpec Read() const;
-  void Command1_Click();
+  bool Put() override;
 
   // The strings at the present position.
   std::string& Text();
   std::string& Attributes();
   std::string& RowAttributes();
 
-  TextBuffer& document_;
   TableGrid grid_;
-  std::unique_ptr<Ui::Table> ui_;
 };
 
 }  // namespace pelmar

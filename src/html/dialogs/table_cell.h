@@ -2,10 +2,8 @@
 #pragma once
 
 #include <functional>
-#include <memory>
 
 #include "html/dialogs/attributes_dialog.h"
-#include "html/table_tags.h"
 #include "platform/color.h"
 
 namespace Ui {
@@ -14,23 +12,17 @@ class TableCell;
 
 namespace pelmar {
 
-class TableCell : public AttributesDialog {
+class TableCell : public AttributesDialog<Ui::TableCell> {
   Q_OBJECT
 
  public:
   TableCell(TextBuffer& document, std::function<Color(Color)> pick_color, QWidget* parent);
-  ~TableCell() override;
 
  private:
-  void VScroll6_Change();
-  void Check8_Click(bool percent);
   [[nodiscard]] CellSpec Read() const;
   [[nodiscard]] std::string OpeningTag() const override;
   void InsertTags() override;
   void EnableForEditor(bool enabled) override;
-
-  TextBuffer& document_;
-  std::unique_ptr<Ui::TableCell> ui_;
 };
 
 }  // namespace pelmar

@@ -5,15 +5,9 @@
 
 namespace pelmar {
 
-TableRow::TableRow(TextBuffer& document, QWidget* parent)
-    : AttributesDialog(parent), document_(document), ui_(std::make_unique<Ui::TableRow>()) {
-  ui_->setupUi(this);
+TableRow::TableRow(TextBuffer& document, QWidget* parent) : AttributesDialog(document, parent) {
   ShowValue(ui_->VScroll1, ui_->Label2);
-  connect(ui_->Command1, &QPushButton::clicked, this, &TableRow::Command1_Click);
-  connect(ui_->Command2, &QPushButton::clicked, this, &TableRow::hide);
 }
-
-TableRow::~TableRow() = default;
 
 RowSpec TableRow::Read() const { return {ui_->alignment->Read(), ui_->VScroll1->value()}; }
 

@@ -3,7 +3,7 @@
 #include <QComboBox>
 
 #include "html/tag_editor.h"
-#include "platform/qt/convert.h"
+#include "platform/qt/controls/field_helpers.h"
 #include "ui_attr.h"
 #include "ui_tagy.h"
 
@@ -14,7 +14,6 @@ Attr::Attr(TextBuffer& document, Platform& platform, QWidget* parent)
   for (QComboBox* box : {ui_->Attributes->NameBox(), ui_->Attributes->ValueBox()})
     OnEnter(box, [this] { ui_->Attributes->Lists().AddByEnter(); });
 }
-Attr::~Attr() = default;
 
 bool Attr::Put() { return AddAttributes(document_, ui_->Attributes->Lists().Rows(), platform_); }
 
@@ -23,11 +22,10 @@ Tagy::Tagy(TextBuffer& document, QWidget* parent)
   for (QComboBox* box : {ui_->Attributes->NameBox(), ui_->Attributes->ValueBox()})
     OnEnter(box, [this] { ui_->Attributes->Lists().AddByEnter(); });
 }
-Tagy::~Tagy() = default;
 
 void Tagy::InsertCustomTag() {
-  pelmar::InsertCustomTag(
-      document_, {TextFromQString(ui_->TagText->text()), ui_->Attributes->Lists().Rows(), ui_->Check1->isChecked()});
+  pelmar::InsertCustomTag(document_,
+                          {FieldText(*ui_->TagText), ui_->Attributes->Lists().Rows(), ui_->Check1->isChecked()});
 }
 
 bool Tagy::Put() {

@@ -2,8 +2,8 @@
 // stay from one opening to the next.
 #pragma once
 
-#include "html/dialogs/fragment_dialog.h"
 #include "platform/platform.h"
+#include "platform/qt/controls/fragment_dialog.h"
 
 namespace Ui {
 class Attr;
@@ -17,7 +17,6 @@ class Attr : public FragmentDialog<Ui::Attr> {
 
  public:
   Attr(TextBuffer& document, Platform& platform, QWidget* parent);
-  ~Attr() override;
 
  private:
   bool Put() override;
@@ -30,7 +29,6 @@ class Tagy : public FragmentDialog<Ui::Tagy> {
 
  public:
   Tagy(TextBuffer& document, QWidget* parent);
-  ~Tagy() override;
 
   // Writes the tag that the fields hold, also while the window is hidden.
   void InsertCustomTag();

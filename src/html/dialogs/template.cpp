@@ -7,24 +7,18 @@
 #include "platform/qt/convert.h"
 #include "platform/qt/svg_icon.h"
 #include "text/codepage.h"
-#include "text/insert.h"
 #include "ui_template.h"
 
 namespace pelmar {
 
 Template::Template(TextBuffer& document, const SettingsRecord& settings, QWidget* parent)
-    : DialogWindow(parent), document_(document), settings_(settings), ui_(std::make_unique<Ui::Template>()) {
-  ui_->setupUi(this);
+    : FragmentDialog(document, parent), settings_(settings) {
   FillList();
   ui_->Text1->SetText(ToBytes("Vyber dokument\r\n"));
   ChooseFirstByArrows(ui_->ListView1);
   connect(ui_->ListView1, &QTreeWidget::itemSelectionChanged, this, &Template::ListView1_Click);
   connect(ui_->ListView1, &QTreeWidget::itemClicked, this, &Template::ListView1_Click);
-  connect(ui_->Command1, &QPushButton::clicked, this, &Template::Command1_Click);
-  connect(ui_->Command2, &QPushButton::clicked, this, &Template::hide);
 }
-
-Template::~Template() = default;
 
 void Template::FillList() {
   for (const Sample& sample : Samples()) {
@@ -45,9 +39,9 @@ void Template::ListView1_Click() {
   ui_->Text1->SetText(ToBytes(SampleText(key, settings_)));
 }
 
-void Template::Command1_Click() {
+bool Template::Put() {
   ReplaceDocument(document_, ui_->Text1->Buffer().Text());
-  hide();
+  return true;
 }
 
 }  // namespace pelmar

@@ -1,12 +1,8 @@
 // `Template`: the sample documents with a preview; the chosen one becomes the whole document.
 #pragma once
 
-#include <functional>
-#include <memory>
-
-#include "platform/qt/controls/dialog_window.h"
+#include "platform/qt/controls/fragment_dialog.h"
 #include "shell/settings_record.h"
-#include "text/text_buffer.h"
 
 namespace Ui {
 class Template;
@@ -14,21 +10,18 @@ class Template;
 
 namespace pelmar {
 
-class Template : public DialogWindow {
+class Template : public FragmentDialog<Ui::Template> {
   Q_OBJECT
 
  public:
   Template(TextBuffer& document, const SettingsRecord& settings, QWidget* parent);
-  ~Template() override;
 
  private:
   void FillList();
   void ListView1_Click();
-  void Command1_Click();
+  bool Put() override;
 
-  TextBuffer& document_;
   const SettingsRecord& settings_;
-  std::unique_ptr<Ui::Template> ui_;
 };
 
 }  // namespace pelmar

@@ -12,28 +12,18 @@ namespace pelmar {
 
 Vytvor::Vytvor(TextBuffer& document, MainView& view, const SettingsRecord& settings, Platform& platform,
                const Doors& doors, QWidget* parent)
-    : DialogWindow(parent),
-      document_(document),
+    : FragmentDialog(document, parent),
       view_(view),
       settings_(settings),
       platform_(platform),
-      ui_(std::make_unique<Ui::Vytvor>()) {
-  ui_->setupUi(this);
+      choice_(FileChoice::Of(*ui_, ui_->Check4, ui_->Label10)) {
   ui_->Text1->SetText(ToBytes(kPreviewText));
   ConnectColors(doors.pick_color);
   EnableWith(ui_->Check8, {ui_->HScroll1});
   ShowValue(ui_->HScroll1, ui_->Label14);
-  LinkFileChoice(Choice(), doors.show_in_browser);
+  choice_.Link(doors.show_in_browser);
   EnableWith(ui_->Check3, {ui_->Drive1, ui_->Dir1, ui_->File1, ui_->Combo1, ui_->Check4});
   connect(ui_->Check3, &QCheckBox::toggled, this, &Vytvor::Check3_Click);
-  connect(ui_->Command1, &QPushButton::clicked, this, &Vytvor::Command1_Click);
-  connect(ui_->Command2, &QPushButton::clicked, this, &Vytvor::hide);
-}
-
-Vytvor::~Vytvor() = default;
-
-FileChoice Vytvor::Choice() const {
-  return {ui_->Drive1, ui_->Dir1, ui_->File1, ui_->Combo1, ui_->Check4, ui_->Label10, ui_->Command1, ui_->Command3};
 }
 
 void Vytvor::ConnectColors(const std::function<Color(Color)>& pick_color) {
@@ -60,7 +50,7 @@ void Vytvor::ConnectColors(const std::function<Color(Color)>& pick_color) {
 }
 
 void Vytvor::Check3_Click(bool picture) {
-  if (picture) return RefreshFileChoice(Choice());
+  if (picture) return choice_.Refresh();
   ui_->Command1->setEnabled(true);
   ui_->Command3->setEnabled(false);
 }
@@ -70,7 +60,7 @@ PageSpec Vytvor::Read() const {
   PageSpec spec;
   spec.author = settings_.UserName;
   spec.created = DateText(now) + ' ' + TimeText(now);
-  spec.title = TextFromQString(ui_->Text2->text());
+  spec.title = FieldText(*ui_->Text2);
   if (ui_->Check3->isChecked()) spec.background = LinkText(PathOn(*ui_->Label10));
   spec.bgcolor = Written(ui_->Check1, ui_->Label2);
   spec.text = Written(ui_->Check2, ui_->Label4);
@@ -89,10 +79,10 @@ void Vytvor::ColorEditor() {
                         ui_->Check1->isChecked() ? ColorFromQt(ui_->Label1->Color()) : look.back_color);
 }
 
-void Vytvor::Command1_Click() {
+bool Vytvor::Put() {
   ColorEditor();
   WrapInPage(document_, Read());
-  hide();
+  return true;
 }
 
 }  // namespace pelmar

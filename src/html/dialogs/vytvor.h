@@ -1,14 +1,10 @@
 // `Vytvoř`: a whole page around the document. Its colours of background and text become those of the editor too.
 #pragma once
 
-#include <functional>
-#include <memory>
-#include <string>
-
 #include "html/dialogs/file_choice.h"
 #include "html/page.h"
 #include "platform/platform.h"
-#include "platform/qt/controls/dialog_window.h"
+#include "platform/qt/controls/fragment_dialog.h"
 #include "shell/main_view.h"
 
 namespace Ui {
@@ -17,7 +13,7 @@ class Vytvor;
 
 namespace pelmar {
 
-class Vytvor : public DialogWindow {
+class Vytvor : public FragmentDialog<Ui::Vytvor> {
   Q_OBJECT
 
  public:
@@ -27,21 +23,18 @@ class Vytvor : public DialogWindow {
   };
   Vytvor(TextBuffer& document, MainView& view, const SettingsRecord& settings, Platform& platform, const Doors& doors,
          QWidget* parent);
-  ~Vytvor() override;
 
  private:
-  [[nodiscard]] FileChoice Choice() const;
   void ConnectColors(const std::function<Color(Color)>& pick_color);
   void Check3_Click(bool picture);
   [[nodiscard]] PageSpec Read() const;
   void ColorEditor();
-  void Command1_Click();
+  bool Put() override;
 
-  TextBuffer& document_;
   MainView& view_;
   const SettingsRecord& settings_;
   Platform& platform_;
-  std::unique_ptr<Ui::Vytvor> ui_;
+  FileChoice choice_;
 };
 
 }  // namespace pelmar

@@ -1,5 +1,3 @@
-#include "html/windows/browser_windows.h"
-
 #include <cstdlib>
 #include <memory>
 

@@ -2,6 +2,7 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <utility>
 
 #include "platform/qt/clipboard_owner.h"
 #include "platform/qt/clipboard_text.h"
@@ -9,23 +10,23 @@
 namespace pelmar {
 
 Clipboard::Clipboard() {
-  connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, [this] { fresh_ = false; });
+  connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, [this] { ++revision_; });
 }
 
 const std::optional<std::string>& Clipboard::Text() {
-  if (fresh_) return text_;
-  fresh_ = true;  // Before the fetch: a change announced during it must not get lost.
+  // Before the fetch: a change announced during it must not get lost.
+  if (std::exchange(fetched_, revision_) == revision_) return text_;
   text_ = ClipboardHasOwner() ? TextFromMime(QGuiApplication::clipboard()->mimeData()) : std::nullopt;
   return text_;
 }
 
 void Clipboard::SetText(std::string_view text) {
-  fresh_ = false;
+  ++revision_;
   QGuiApplication::clipboard()->setMimeData(MimeFromText(text));
 }
 
 void Clipboard::Clear() {
-  fresh_ = false;
+  ++revision_;
   QGuiApplication::clipboard()->clear();
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QObject>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -16,12 +17,15 @@ class Clipboard : public QObject {
   Clipboard();
 
   const std::optional<std::string>& Text();
+  // Another number after each change.
+  [[nodiscard]] std::uint64_t Revision() const { return revision_; }
   void SetText(std::string_view text);
   void Clear();
 
  private:
   std::optional<std::string> text_;
-  bool fresh_ = false;
+  std::uint64_t revision_ = 1;
+  std::uint64_t fetched_ = 0;  // the revision whose text is here
 };
 
 }  // namespace pelmar

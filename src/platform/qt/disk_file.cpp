@@ -71,13 +71,10 @@ int WriteToDevice(const std::string& path, std::string_view bytes) {
   return error != 0 ? error : close_error;
 }
 
-// Writes from where `to` stands. `kept` becomes how many of the bytes that were written are to stay.
-int RewriteInto(int to, int from, FileRewriter& rewriter, std::uint64_t& kept) {
+// Writes from where `to` stands.
+int RewriteInto(int to, int from, FileRewriter& rewriter) {
   const int error = ForEachPiece(from, [&](std::string_view piece) { return WriteAll(to, rewriter.Rewrite(piece)); });
-  if (error != 0) return error;
-  const int last_error = WriteAll(to, rewriter.Finish());
-  kept = rewriter.Kept();
-  return last_error;
+  return error != 0 ? error : WriteAll(to, rewriter.Finish());
 }
 
 // Everything of `old` behind that many bytes goes to the same place of `to`, whose own bytes there are cut.
@@ -129,8 +126,8 @@ int ReadFileByPieces(const std::string& path, const std::function<bool(std::stri
 
 WriteOutcome ReplaceFile(const std::string& path, std::string_view bytes, const std::string& keep_folder,
                          mode_t new_mode) {
-  Target target;
-  if (const int error = FindTarget(path, target)) return {.error = error};
+  const Target target = FindTarget(path);
+  if (target.error != 0) return {.error = target.error};
   if (target.kind == Target::kDevice) return {.error = WriteToDevice(target.path, bytes)};
   const auto fill = [bytes](int to, int) {
     if (const int error = WriteAll(to, bytes)) return error;
@@ -143,22 +140,24 @@ WriteOutcome RewriteFileByPieces(const std::string& source_path, const std::stri
                                  FileRewriter& rewriter, const std::string& keep_folder) {
   const Source source = OpenRegular(source_path);
   if (source.error != 0) return {.error = source.error};
-  Target target;
-  if (const int error = FindTarget(target_path, target)) return {.error = error};
+  const Target target = FindTarget(target_path);
+  if (target.error != 0) return {.error = target.error};
   if (target.kind == Target::kDevice) return {.error = EINVAL};
   const auto fill = [&](int to, int old) {
-    std::uint64_t kept = 0;
-    if (const int error = RewriteInto(to, source.file.Number(), rewriter, kept)) return error;
-    return CopyTail(old, to, kept);
+    const int error = RewriteInto(to, source.file.Number(), rewriter);
+    return error != 0 ? error : CopyTail(old, to, rewriter.Kept());
   };
   const NewContent content{.fill = fill, .reads_old = tail == OldTail::kKeep, .to_disk = false};
   return WriteOver(target, content, keep_folder, 0666);
 }
 
-bool LeadToSameFile(const std::string& left, const std::string& right) {
-  struct stat a {};
-  struct stat b {};
-  return stat(left.c_str(), &a) == 0 && stat(right.c_str(), &b) == 0 && a.st_dev == b.st_dev && a.st_ino == b.st_ino;
+std::optional<FileStamp> StampOf(const std::string& path) {
+  struct stat found {};
+  if (stat(path.c_str(), &found) != 0) return std::nullopt;
+  return FileStamp{.device = found.st_dev,
+                   .node = found.st_ino,
+                   .size = static_cast<std::uint64_t>(found.st_size),
+                   .changed = found.st_mtim.tv_sec * std::int64_t{1'000'000'000} + found.st_mtim.tv_nsec};
 }
 
 int CreateFile(const std::string& path, std::string_view bytes) {

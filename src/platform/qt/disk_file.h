@@ -47,7 +47,6 @@ int CreateFile(const std::string& path, std::string_view bytes);
 WriteOutcome RewriteFileByPieces(const std::string& source, const std::string& target, OldTail tail,
                                  FileRewriter& rewriter, const std::string& keep_folder);
 
-// True where both paths lead to one file that is there.
-bool LeadToSameFile(const std::string& left, const std::string& right);
+std::optional<FileStamp> StampOf(const std::string& path);
 
 }  // namespace pelmar

@@ -80,6 +80,17 @@ int Reserve(int file, std::uint64_t size) {
   return errno == ENOSPC || errno == EDQUOT || errno == EFBIG ? errno : 0;
 }
 
+// What lies at the path; an errno where that can't be written.
+int Look(Target& target) {
+  if (stat(target.path.c_str(), &target.old) != 0) return errno != ENOENT || target.path.ends_with('/') ? errno : 0;
+  const mode_t mode = target.old.st_mode;
+  if (S_ISDIR(mode)) return EISDIR;
+  target.kind = S_ISREG(mode) ? Target::kOld : Target::kDevice;
+  if (target.kind == Target::kDevice) return S_ISCHR(mode) || S_ISFIFO(mode) ? 0 : EINVAL;
+  // The rename needs no permission on the old file, but the person has protected it.
+  return faccessat(AT_FDCWD, target.path.c_str(), W_OK, AT_EACCESS) == 0 ? 0 : errno;
+}
+
 int Overwrite(int file, const NewContent& content, const KeptContent& kept) {
   if (lseek(file, 0, SEEK_SET) < 0 || lseek(kept.Number(), 0, SEEK_SET) < 0) return errno;
   const int error = content.fill(file, content.reads_old ? kept.Number() : -1);
@@ -88,15 +99,11 @@ int Overwrite(int file, const NewContent& content, const KeptContent& kept) {
 
 }  // namespace
 
-int FindTarget(const std::string& path, Target& target) {
-  target.path = path;
-  if (const int error = FollowLinks(target.path)) return error;
-  if (stat(target.path.c_str(), &target.old) != 0) return errno != ENOENT || target.path.ends_with('/') ? errno : 0;
-  if (S_ISDIR(target.old.st_mode)) return EISDIR;
-  target.kind = S_ISREG(target.old.st_mode) ? Target::kOld : Target::kDevice;
-  if (target.kind == Target::kDevice) return S_ISCHR(target.old.st_mode) || S_ISFIFO(target.old.st_mode) ? 0 : EINVAL;
-  // The rename needs no permission on the old file, but the person has protected it.
-  return faccessat(AT_FDCWD, target.path.c_str(), W_OK, AT_EACCESS) == 0 ? 0 : errno;
+Target FindTarget(const std::string& path) {
+  Target target{.path = path};
+  target.error = FollowLinks(target.path);
+  if (target.error == 0) target.error = Look(target);
+  return target;
 }
 
 Beside WriteBeside(const Target& target, const NewContent& content, mode_t new_mode) {

@@ -14,13 +14,14 @@
 namespace pelmar {
 
 struct Target {
-  enum Kind { kNew, kOld, kDevice } kind = kNew;
+  int error = 0;     // why it can't be written
   std::string path;  // without links
+  enum Kind { kNew, kOld, kDevice } kind = kNew;
   struct stat old {};
 };
 
-// What there is to write to; an errno where that can't be written.
-int FindTarget(const std::string& path, Target& target);
+// What there is to write to.
+Target FindTarget(const std::string& path);
 
 struct NewContent {
   // Writes the content into `to`, which stands at its start, and cuts that behind it. `old` is open on the old content

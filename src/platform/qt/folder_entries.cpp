@@ -1,6 +1,5 @@
 #include "platform/qt/folder_entries.h"
 
-#include <dirent.h>
 #include <fcntl.h>
 #include <mntent.h>
 #include <sys/stat.h>
@@ -47,27 +46,18 @@ bool MatchesOne(QStringView name, QStringView mask) {
 
 bool LiesInHidden(const QString& path) { return path.contains(QLatin1String("/.")); }
 
-// Kind by the folder's own entry; only for a link, or where the file system keeps no kinds, the file is looked at.
-mode_t KindOf(int folder, const dirent& entry) {
-  if (entry.d_type == DT_DIR) return S_IFDIR;
-  if (entry.d_type == DT_REG) return S_IFREG;
-  if (entry.d_type != DT_LNK && entry.d_type != DT_UNKNOWN) return 0;
-  struct stat state {};
-  return fstatat(folder, entry.d_name, &state, 0) == 0 ? state.st_mode & S_IFMT : 0;
-}
-
-QStringList NamesOf(const QString& path, mode_t kind, const std::function<bool(const QString&)>& wanted) {
-  const std::unique_ptr<DIR, int (*)(DIR*)> folder(opendir(PathFromQString(path).c_str()), &closedir);
-  if (!folder) return {};
+// Of the folders in it, or of the files. Only a link, or where the file system keeps no kinds, costs a look at the file
+// itself.
+QStringList NamesOf(const QString& path, bool folders, const std::function<bool(const QString&)>& wanted) {
   const QCollator collator = CzechCollator();
   std::vector<std::pair<QCollatorSortKey, QString>> names;
-  while (const dirent* entry = readdir(folder.get())) {
-    const std::string_view name = entry->d_name;
-    if (name == "." || name == "..") continue;
-    QString decoded = PathToQString(name);
-    const QString shown = ShownPath(decoded);
-    if (!wanted(shown) || KindOf(dirfd(folder.get()), *entry) != kind) continue;
-    names.emplace_back(collator.sortKey(shown), std::move(decoded));
+  std::error_code error;
+  for (std::filesystem::directory_iterator at(PathFromQString(path), error), end; at != end; at.increment(error)) {
+    std::error_code gone;
+    if (!(folders ? at->is_directory(gone) : at->is_regular_file(gone))) continue;
+    QString name = PathToQString(at->path().filename().native());
+    const QString shown = ShownPath(name);
+    if (wanted(shown)) names.emplace_back(collator.sortKey(shown), std::move(name));
   }
   std::sort(names.begin(), names.end(), [](const auto& left, const auto& right) {
     const int order = left.first.compare(right.first);
@@ -116,14 +106,14 @@ QString CleanFolder(const QString& path) {
 
 QStringList SubfoldersOf(const QString& path) {
   const bool with_hidden = LiesInHidden(path);
-  return NamesOf(path, S_IFDIR, [&](const QString& name) { return with_hidden || !name.startsWith(u'.'); });
+  return NamesOf(path, true, [&](const QString& name) { return with_hidden || !name.startsWith(u'.'); });
 }
 
 QStringList FilesOf(const QString& path, const QString& mask) {
   const QStringList masks = SplitMask(mask);
   const bool with_hidden =
       LiesInHidden(path) || std::any_of(masks.begin(), masks.end(), [](const auto& m) { return m.startsWith(u'.'); });
-  return NamesOf(path, S_IFREG, [&](const QString& name) {
+  return NamesOf(path, false, [&](const QString& name) {
     return (with_hidden || !name.startsWith(u'.')) && MatchesMask(name, masks);
   });
 }

@@ -11,6 +11,7 @@
 #include <QUrl>
 #include <algorithm>
 #include <chrono>
+#include <filesystem>
 #include <numeric>
 
 #include "platform/qt/convert.h"
@@ -35,36 +36,32 @@ std::optional<std::string> ToPath(const std::optional<QString>& answer) {
 QtPlatform::QtPlatform() : recent_(DataHome() + QStringLiteral("/recently-used.xbel")) {}
 
 Answer QtPlatform::Message(MessageType type, std::string_view text, std::string_view title) {
-  const BusyPointer::Lift lift(pointer_);
+  const WaitCursor::Lift lift(pointer_);
   return ShowMessage(type, Utf8ToQString(text), Utf8ToQString(title));
 }
 
 void QtPlatform::ShowAbout(std::string_view title, std::string_view text) {
-  const BusyPointer::Lift lift(pointer_);
+  const WaitCursor::Lift lift(pointer_);
   pelmar::ShowAbout(Utf8ToQString(title), Utf8ToQString(text));
 }
 
 std::optional<std::string> QtPlatform::InputBox(std::string_view prompt, std::string_view title,
                                                 std::string_view initial) {
-  const BusyPointer::Lift lift(pointer_);
+  const WaitCursor::Lift lift(pointer_);
   const auto answer = AskForText(Utf8ToQString(prompt), Utf8ToQString(title), Utf8ToQString(initial));
   if (!answer) return std::nullopt;
   return Utf8FromQString(*answer);
 }
 
 std::optional<std::string> QtPlatform::OpenDialog(std::string_view filter, int filter_index) {
-  const BusyPointer::Lift lift(pointer_);
+  const WaitCursor::Lift lift(pointer_);
   return ToPath(AskForFile(FileDialogKind::kOpen, Utf8ToQString(filter), filter_index, dialog_folder_));
 }
 
 std::optional<std::string> QtPlatform::SaveDialog(std::string_view filter, int filter_index) {
-  const BusyPointer::Lift lift(pointer_);
+  const WaitCursor::Lift lift(pointer_);
   return ToPath(AskForFile(FileDialogKind::kSave, Utf8ToQString(filter), filter_index, dialog_folder_));
 }
-
-std::string QtPlatform::ClipboardText() { return clipboard_.Text().value_or(std::string()); }
-
-bool QtPlatform::ClipboardHasText() { return clipboard_.Text().has_value(); }
 
 void QtPlatform::SetClipboardText(std::string_view text) { clipboard_.SetText(text); }
 
@@ -80,6 +77,10 @@ WriteOutcome QtPlatform::WriteDocument(const std::string& path, std::string_view
   return ReplaceFile(path, bytes, InstallFolder());
 }
 
+int QtPlatform::WritePrivateFile(const std::string& path, std::string_view bytes) {
+  return ReplaceFile(path, bytes, InstallFolder(), 0600).error;
+}
+
 int QtPlatform::WriteNewFile(const std::string& path, std::string_view bytes) { return CreateFile(path, bytes); }
 
 int QtPlatform::ReadByPieces(const std::string& path, const std::function<bool(std::string_view)>& take) {
@@ -91,7 +92,12 @@ WriteOutcome QtPlatform::RewriteFile(const std::string& source, const std::strin
   return RewriteFileByPieces(source, target, tail, rewriter, InstallFolder());
 }
 
-bool QtPlatform::IsSameFile(const std::string& left, const std::string& right) { return LeadToSameFile(left, right); }
+bool QtPlatform::IsSameFile(const std::string& left, const std::string& right) {
+  std::error_code none;
+  return std::filesystem::equivalent(left, right, none);
+}
+
+std::optional<FileStamp> QtPlatform::Stamp(const std::string& path) { return StampOf(path); }
 
 // Beside the program in a build tree, in the share folder of its prefix where it is installed.
 std::string QtPlatform::ShareFolder() {

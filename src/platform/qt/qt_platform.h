@@ -8,11 +8,11 @@
 #include <string_view>
 
 #include "platform/platform.h"
-#include "platform/qt/busy_pointer.h"
 #include "platform/qt/clipboard.h"
 #include "platform/qt/czech_collation.h"
 #include "platform/qt/key_states.h"
 #include "platform/qt/recent_documents.h"
+#include "platform/qt/wait_cursor.h"
 
 namespace pelmar {
 
@@ -27,18 +27,20 @@ class QtPlatform : public Platform {
   std::optional<std::string> OpenDialog(std::string_view filter, int filter_index) override;
   std::optional<std::string> SaveDialog(std::string_view filter, int filter_index) override;
 
-  std::string ClipboardText() override;
-  bool ClipboardHasText() override;
+  const std::optional<std::string>& ClipboardContent() override { return clipboard_.Text(); }
+  std::uint64_t ClipboardRevision() override { return clipboard_.Revision(); }
   void SetClipboardText(std::string_view text) override;
   void ClearClipboard() override;
 
   bool CanRead(const std::string& path) override;
   FileBytes ReadFile(const std::string& path, std::optional<std::uint64_t> limit) override;
   WriteOutcome WriteDocument(const std::string& path, std::string_view bytes) override;
+  int WritePrivateFile(const std::string& path, std::string_view bytes) override;
   int WriteNewFile(const std::string& path, std::string_view bytes) override;
   int ReadByPieces(const std::string& path, const std::function<bool(std::string_view piece)>& take) override;
   WriteOutcome RewriteFile(const std::string& source, const std::string& target, OldTail tail,
                            FileRewriter& rewriter) override;
+  std::optional<FileStamp> Stamp(const std::string& path) override;
   bool IsSameFile(const std::string& left, const std::string& right) override;
 
   std::string InstallFolder() override;
@@ -62,7 +64,7 @@ class QtPlatform : public Platform {
   void FinishBackgroundWork();
 
  private:
-  BusyPointer pointer_;
+  WaitCursor pointer_;
   Clipboard clipboard_;
   InsertKey insert_;
   QCollator collator_ = CzechCollator();

@@ -114,11 +114,21 @@ void MainWindow::AddViewCommands() {
 }
 
 void MainWindow::FollowDocuments() {
+<<<<<<< HEAD
   editor_.documents.on_title = [this] { setWindowTitle(PlainTitle(editor_.documents.Title())); };
   editor_.documents.on_face = [this](int tab) { tabs_->SetFace(tab, editor_.documents.Face(tab)); };
   editor_.documents.on_selected = [this](int tab) { tabs_->setCurrentIndex(tab - 1); };
   recent_files_ = files_.recent.changed.Add([this] { ShowRecentFiles(); });
   editor_.documents.on_title();
+=======
+  Documents& documents = editor_.documents;
+  const auto show_title = [this] { setWindowTitle(PlainTitle(editor_.documents.Title())); };
+  heard_ = {documents.title_changed.Add(show_title),
+            documents.face_changed.Add([this](int tab) { tabs_->SetFace(tab, editor_.documents.Face(tab)); }),
+            documents.tab_selected.Add([this](int tab) { tabs_->setCurrentIndex(tab - 1); }),
+            files_.recent.changed.Add([this] { toolbar_->ShowRecentFiles(); })};
+  show_title();
+>>>>>>> flow2
 }
 
 void MainWindow::RefreshCommands() {
@@ -309,29 +319,11 @@ EditorLook MainWindow::Look() const {
           font.italic()};
 }
 
-void MainWindow::ShowRecentFiles() { toolbar_->ShowRecentFiles(); }
-
-void MainWindow::ShowConfig() {
-  if (show_config) show_config();
-}
-
 void MainWindow::ShowMain() {
   if (isVisible()) return BringToFront(*this);
   if (window_state_ == 1) return showMinimized();
   if (window_state_ == 2) return showMaximized();
   show();
-}
-
-void MainWindow::ShowStart() {
-  if (!show_start) return ShowMain();
-  hide();
-  show_start();
-}
-
-void MainWindow::ShowAccessory(StartMode mode) {
-  accessory_mode_ = true;
-  hide();
-  if (show_accessory) show_accessory(mode);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
@@ -388,7 +380,7 @@ void MainWindow::changeEvent(QEvent* event) {
 bool MainWindow::event(QEvent* event) {
   if (event->type() == QEvent::WindowActivate) {
     main_active_ = true;
-    if (!accessory_mode_) text_->setFocus();
+    if (isVisible()) text_->setFocus();  // an accessory that runs as the whole program has it hidden
   }
   if (event->type() == QEvent::WindowDeactivate) main_active_ = false;
   return QMainWindow::event(event);
@@ -399,7 +391,7 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
   if (watched == client_ && event->type() == QEvent::Paint) FitToFrame();
   if (watched == text_ && event->type() == QEvent::KeyPress) {
     const auto now = [this] {
-      return ComputeMenuState(editor_.text, editor_.documents.CurrentPath(), editor_.platform.ClipboardText());
+      return ComputeMenuState(editor_.text, editor_.documents.CurrentPath(), editor_.platform.ClipboardContent());
     };
     if (menus_->RunGrey(*static_cast<QKeyEvent*>(event), now)) return true;
   }

@@ -36,12 +36,9 @@ class MainWindow : public QMainWindow, public MainView {
 
   // Asked before the window closes; false keeps it open.
   std::function<bool()> may_close;
-  // Other windows, which come with their own subsystems.
-  std::function<void()> show_config;
-  std::function<void()> show_start;
   std::function<void()> on_line_counting;  // told when a click in the status bar changed it
-  std::function<void(StartMode)> show_accessory;
 
+  void ShowMain();
   // Called when all commands are there: enables what they serve.
   void RefreshCommands();
   // While the lock is closed the text is neither on the screen nor within reach of assistive technology.
@@ -68,11 +65,6 @@ class MainWindow : public QMainWindow, public MainView {
   void SetAlignment(int alignment) override;
   [[nodiscard]] int Alignment() const override;
   [[nodiscard]] EditorLook Look() const override;
-  void ShowRecentFiles() override;
-  void ShowConfig() override;
-  void ShowMain() override;
-  void ShowStart() override;
-  void ShowAccessory(StartMode mode) override;
 
  protected:
   void ApplyEditorFontSize(int size) override;
@@ -98,7 +90,11 @@ class MainWindow : public QMainWindow, public MainView {
 
   Editor& editor_;
   Files& files_;
+<<<<<<< HEAD
   Listening recent_files_;
+=======
+  std::vector<Listening> heard_;
+>>>>>>> flow2
   TextBuffer nothing_;  // what the box shows while the text is hidden
   QWidget* client_ = nullptr;
   MenuBar* menus_ = nullptr;
@@ -114,7 +110,6 @@ class MainWindow : public QMainWindow, public MainView {
   bool ticked_ = false;  // panel 4 has got its width by a tick
   bool laying_out_ = false;
   bool main_active_ = false;
-  bool accessory_mode_ = false;
 };
 
 }  // namespace pelmar

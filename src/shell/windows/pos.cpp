@@ -7,7 +7,7 @@
 
 namespace pelmar {
 
-Pos::Pos(MainView& main, QWidget* parent) : DialogWindow(parent), main_(main), ui_(std::make_unique<Ui::Pos>()) {
+Pos::Pos(MainPlace& main, QWidget* parent) : DialogWindow(parent), main_(main), ui_(std::make_unique<Ui::Pos>()) {
   ui_->setupUi(this);
   const auto place_of = [this](int row, int column) {
     const QSize screen = ScreenTwips(*this);

@@ -17,14 +17,14 @@ class Pos : public DialogWindow {
 
  public:
   // `main` is the window that is placed.
-  Pos(MainView& main, QWidget* parent);
+  Pos(MainPlace& main, QWidget* parent);
   ~Pos() override;
 
  protected:
   void mouseMoveEvent(QMouseEvent* event) override;
 
  private:
-  MainView& main_;
+  MainPlace& main_;
   std::unique_ptr<Ui::Pos> ui_;
 };
 

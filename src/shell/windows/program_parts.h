@@ -1,4 +1,4 @@
-// What the windows and commands of all subsystems are made from. Each subsystem adds its own to it, in one function of
+// What the windows and commands of all subsystems are made from. Each subsystem adds its own to it, in a function of
 // its windows folder; the parts outlive every window.
 #pragma once
 
@@ -7,6 +7,7 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <vector>
 
 #include "files/files.h"
@@ -14,6 +15,7 @@
 #include "platform/platform.h"
 #include "platform/qt/controls/file_browser.h"
 #include "shell/editor.h"
+#include "shell/stand_alone.h"
 #include "shell/windows/main_window.h"
 #include "shell/windows/window_registry.h"
 
@@ -61,6 +63,16 @@ struct ProgramParts {
     return [&pick = doors.pick_color](Color color) { return pick ? pick(color) : color; };
   }
 
+  // Registers the window, and the commands of these names to show it. It is made from `with`, where std::ref stands for
+  // what isn't copied, and from the main window as its parent.
+  template <class Window, class... With>
+  void Add(std::initializer_list<std::string_view> names, With... with) const {
+    windows.Register<Window>([&parent = main, kept = std::make_tuple(std::move(with)...)] {
+      return std::apply([&](auto&... each) { return std::make_unique<Window>(each..., &parent); }, kept);
+    });
+    ShowBy<Window>(names);
+  }
+
   // The window is one that picks files: its lists `Drive1` and `Dir1` follow the working folders.
   template <class Window>
   void AddFilePicker() const {
@@ -74,5 +86,17 @@ struct ProgramParts {
       editor.commands.Add(name, [&shown = windows] { shown.Get<Window>().Present(); });
   }
 };
+
+// What each subsystem adds, defined in its windows folder. Program calls them all.
+void AddShellWindows(const ProgramParts& parts);
+void AddFileWindows(const ProgramParts& parts);
+void AddTextWindows(const ProgramParts& parts);
+void AddPageWindows(const ProgramParts& parts);  // whole pages, framesets, tables
+void AddLinkWindows(const ProgramParts& parts);  // pictures, links, sample documents
+void AddTagWindows(const ProgramParts& parts);   // tags, lists, small fragments
+void AddBrowserWindows(const ProgramParts& parts);
+void AddCipherWindows(const ProgramParts& parts);
+void AddToolWindows(const ProgramParts& parts);   // calculator, tables, colours
+void AddNotesWindows(const ProgramParts& parts);  // notes and their checkpoints, character analysis
 
 }  // namespace pelmar

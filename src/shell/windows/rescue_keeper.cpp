@@ -34,7 +34,7 @@ RescueKeeper::RescueKeeper(RescueContent content, Platform& platform)
     : content_(std::move(content)),
       platform_(platform),
       store_(platform.InstallFolder(), content_.kind.prefix,
-             [&platform](const std::string& path, std::string_view bytes) { return platform.WriteFile(path, bytes); }),
+             [&platform](const auto& path, std::string_view bytes) { return platform.WritePrivateFile(path, bytes); }),
       pause_(kDelay) {
   writer_.setMaxThreadCount(1);
   timer_.setSingleShot(true);
@@ -49,11 +49,9 @@ void RescueKeeper::Touch() {
 }
 
 void RescueKeeper::Keep() {
-  RescueRecord now = content_.unsaved();
-  if (given_ == now && owed_.files.empty()) return;
-  given_ = now;
-  writer_.start([this, write = ++writes_, now = std::move(now)] {
-    const int error = store_.Keep(RescueBytes(content_.kind, now));
+  // The copy is all that a long document costs the person who types.
+  writer_.start([this, write = ++writes_, now = content_.unsaved()]() mutable {
+    const int error = WriteChanged(std::move(now));
     // Only the last write tells how things stand.
     const auto wrote = [this, write, error] {
       if (write != writes_) return;
@@ -64,22 +62,26 @@ void RescueKeeper::Keep() {
   });
 }
 
+int RescueKeeper::WriteChanged(RescueRecord record) {
+  if (written_ == record) return 0;
+  const int error = store_.Keep(RescueBytes(content_.kind, record));
+  written_.reset();
+  if (error == 0) written_ = std::move(record);
+  return error;
+}
+
 int RescueKeeper::Write() {
   writer_.waitForDone();
   timer_.stop();
   ++writes_;
-  given_ = content_.unsaved();
-  const int error = store_.Keep(RescueBytes(content_.kind, *given_));
+  written_.reset();
+  const int error = WriteChanged(content_.unsaved());
   Wrote(error);
   return error;
 }
 
 void RescueKeeper::Wrote(int error) {
-  if (error == 0) {
-    Settle();
-  } else {
-    given_.reset();
-  }
+  if (error == 0) Settle();
   TellFailure(error);
   if (error == 0 && owed_.files.empty()) {
     pause_ = kDelay;
@@ -96,7 +98,7 @@ void RescueKeeper::TellFailure(int error) {
 // What came back has just been written; the old files go as soon as the rest lies on the disk as well.
 void RescueKeeper::Settle() {
   if (!owed_.rest.empty()) {
-    if (platform_.WriteFile(JoinPath(platform_.InstallFolder(), content_.rest_name), owed_.rest) != 0) return;
+    if (platform_.WritePrivateFile(JoinPath(platform_.InstallFolder(), content_.rest_name), owed_.rest) != 0) return;
     owed_.rest.clear();
   }
   for (AbandonedRescue& rescue : owed_.files) Discard(rescue);
@@ -105,7 +107,7 @@ void RescueKeeper::Settle() {
 
 std::string RescueKeeper::KeepNow() {
   const int error = Write();
-  if (error == 0) return given_->texts.empty() ? std::string() : store_.Path();
+  if (error == 0) return written_->texts.empty() ? std::string() : store_.Path();
   const std::string readable = content_.readable(content_.unsaved().texts);
   if (readable.empty()) return {};
   const TempFile file = WriteTempFile(platform_, "pelmar-" + std::string(content_.kind.prefix), ".txt", readable);
@@ -116,7 +118,7 @@ void RescueKeeper::End() {
   writer_.waitForDone();
   timer_.stop();
   ++writes_;
-  given_.reset();
+  written_.reset();
   store_.Keep({});
   Settle();
   TellFailure(0);

@@ -71,6 +71,7 @@ class RescueKeeper : public QObject {
 
   void Keep();
   int Write();
+  int WriteChanged(RescueRecord record);
   void Wrote(int error);
   void Settle();
   void TellFailure(int error);
@@ -82,7 +83,7 @@ class RescueKeeper : public QObject {
   RescueStore store_;
   QTimer timer_;
   QThreadPool writer_;
-  std::optional<RescueRecord> given_;  // what the last write was given; nothing where it failed
+  std::optional<RescueRecord> written_;  // what lies on the disk, for the thread that writes; nothing where that failed
   int writes_ = 0;
   int pause_;
   int failure_ = 0;

@@ -45,7 +45,7 @@ void StatusPanel::mouseDoubleClickEvent(QMouseEvent* event) {
   ElidedLabel::mouseDoubleClickEvent(event);
 }
 
-StatusStrip::StatusStrip(QWidget* parent) : QStatusBar(parent), notice_(new ElidedLabel(this)) {
+StatusStrip::StatusStrip(QWidget* parent) : QStatusBar(parent) {
   setObjectName(QStringLiteral("Bar1"));
   setSizeGripEnabled(false);
   for (int number = 1; number <= kPanelCount; ++number) {
@@ -59,23 +59,17 @@ StatusStrip::StatusStrip(QWidget* parent) : QStatusBar(parent), notice_(new Elid
   }
   for (const std::size_t at : {4u, 5u, 6u}) panels_[at]->setText(kTips[at].toString());
   Show(KeyStates{});
-  notice_->setObjectName(QStringLiteral("Notice"));
-  notice_->setElideMode(Qt::ElideRight);
-  notice_->setIndent(kTextMargin);
-  notice_->setFrameStyle(QFrame::StyledPanel | QFrame::Raised);
-  notice_->setAutoFillBackground(true);
-  notice_->hide();
-  notice_->raise();
-  unkept_ = new UnkeptLabel(QStringLiteral("Neuložená práce se teď nezachovává !"), this);
-  unkept_->hide();
+  warning_ = new WarningLabel(this);
+  warning_->hide();
 }
 
 void StatusStrip::Show(const PanelTexts& texts) {
   panels_[0]->SetContent(texts.length);
   panels_[1]->SetContent(texts.position);
   panels_[2]->SetContent(texts.lines);
-  panels_[3]->SetContent(texts.content);
 }
+
+void StatusStrip::ShowContent(const std::string& text) { panels_[3]->SetContent(text); }
 
 void StatusStrip::Show(const KeyStates& keys) {
   ShowKey(4, keys.caps);
@@ -91,17 +85,22 @@ void StatusStrip::ShowKey(std::size_t at, bool on) {
   panel.setAccessibleName(kTips[at].toString() + (on ? QStringLiteral(" zapnuto") : QStringLiteral(" vypnuto")));
 }
 
-void StatusStrip::SetNotice(const QString& text) {
-  if (text == notice_->text()) return;
-  notice_->setText(text);
-  notice_->setToolTip(text);
-  notice_->setVisible(!text.isEmpty());
-  PlaceNotice();
+void StatusStrip::Warn(Warning of, const QString& text, const QString& tip) {
+  auto& warning = warnings_[static_cast<std::size_t>(of)];
+  if (warning.text == text && warning.tip == tip) return;
+  warning = {text, tip};
+  const auto gravest = std::ranges::find_if(warnings_, [](const auto& one) { return !one.text.isEmpty(); });
+  warning_->hide();
+  if (gravest == std::end(warnings_)) return;
+  warning_->setText(gravest->text);
+  warning_->setToolTip(gravest->tip.isEmpty() ? gravest->text : gravest->tip);
+  PlaceWarning();
+  warning_->show();
 }
 
-void StatusStrip::ShowUnkept(int error) {
-  unkept_->SetError(error);
-  unkept_->setVisible(error != 0);
+void StatusStrip::WarnOfUnkept(int error) {
+  if (error == 0) return Warn(Warning::kUnkept, {});
+  Warn(Warning::kUnkept, QStringLiteral("Neuložená práce se teď nezachovává !"), UnkeptTip(error));
 }
 
 void StatusStrip::SetWidth(int number, int twips) {
@@ -137,23 +136,19 @@ void StatusStrip::Place() {
     panels_[i]->setGeometry(left, kGap, std::max(0, shown - kGap), height() - 2 * kGap);
     left += shown;
   }
-  // Where the window is too narrow for it there, the warning stands at the right edge.
-  const int warning = std::min(unkept_->sizeHint().width(), width());
-  const int beside = std::min(panels_[3]->x(), width() - warning);
-  unkept_->setGeometry(beside, kGap, warning, height() - 2 * kGap);
-  PlaceNotice();
+  PlaceWarning();
 }
 
-void StatusStrip::PlaceNotice() {
+void StatusStrip::PlaceWarning() {
   const QRect content = panels_[3]->geometry();
-  const int wanted = notice_->fontMetrics().horizontalAdvance(notice_->text()) + 4 * kTextMargin;
+  const int wanted = warning_->sizeHint().width();
   const int most = width() - kGap;
   // In a narrow window it covers the panels of the keys too.
   const int end = wanted <= content.right() ? std::min(content.right() + 1, most) : most;
   int begin = kGap;
   for (const std::size_t at : {1u, 2u, 3u})
     if (panels_[at]->x() <= end - wanted) begin = panels_[at]->x();
-  notice_->setGeometry(begin, kGap, end - begin, content.height());
+  warning_->setGeometry(begin, kGap, end - begin, content.height());
 }
 
 }  // namespace pelmar

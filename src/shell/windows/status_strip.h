@@ -9,7 +9,7 @@
 #include "platform/qt/controls/elided_label.h"
 #include "shell/status.h"
 #include "shell/window_geometry.h"
-#include "shell/windows/unkept_label.h"
+#include "shell/windows/warning_label.h"
 
 namespace pelmar {
 
@@ -34,6 +34,11 @@ class StatusPanel : public ElidedLabel {
   std::string content_;
 };
 
+// What the bar warns of, the gravest first: unsaved work can't be kept in a rescue file; no file can be opened or
+// saved; another program was at the file of the document.
+enum class Warning { kUnkept, kFilesStuck, kChangedOutside };
+inline constexpr int kWarningCount = 3;
+
 class StatusStrip : public QStatusBar {
   Q_OBJECT
 
@@ -42,13 +47,13 @@ class StatusStrip : public QStatusBar {
 
   [[nodiscard]] StatusPanel* Panel(int number) const { return panels_[static_cast<std::size_t>(number - 1)]; }
   void Show(const PanelTexts& texts);
+  void ShowContent(const std::string& text);
   void Show(const KeyStates& keys);
-  // With an errno, the warning lies over the panels from the fourth on, which go on beneath; 0 takes it away.
-  void ShowUnkept(int error);
-
-  // A line over the panels for as long as it isn't empty; what they show stays as it is. From the fourth to the left,
-  // it covers as many as it needs.
-  void SetNotice(const QString& text);
+  // "" where there is no more to warn of. One line over the panels, which go on beneath, says the gravest; from the
+  // fourth to the left, it covers as many as it needs. The tip says what there is more to say.
+  void Warn(Warning of, const QString& text, const QString& tip = {});
+  // With the errno; 0 takes it away.
+  void WarnOfUnkept(int error);
 
   // Widths in twips, as the layout counts them.
   [[nodiscard]] std::array<int, kPanelCount> Widths() const { return widths_; }
@@ -62,12 +67,15 @@ class StatusStrip : public QStatusBar {
  private:
   void Place();
   void ShowKey(std::size_t at, bool on);
-  void PlaceNotice();
+  void ShowWarning();
+  void PlaceWarning();
 
   std::array<StatusPanel*, kPanelCount> panels_{};
-  UnkeptLabel* unkept_ = nullptr;
   std::array<int, kPanelCount> widths_{};
-  ElidedLabel* notice_;
+  WarningLabel* warning_ = nullptr;
+  struct {
+    QString text, tip;
+  } warnings_[kWarningCount];
 };
 
 }  // namespace pelmar

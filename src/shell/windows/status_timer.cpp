@@ -1,6 +1,7 @@
 #include "shell/windows/status_timer.h"
 
 #include <QApplication>
+#include <utility>
 
 #include "platform/qt/outer_geometry.h"
 #include "platform/twips.h"
@@ -34,18 +35,34 @@ void StatusTimer::SnapWindows() {
   }
 }
 
+// What they show may be as long as the document and the clipboard, so nothing is done for what hasn't changed.
+void StatusTimer::ShowPanels(const std::optional<std::string>& clipboard) {
+  const TextBuffer& text = editor_.text;
+  const Shown now{.text = text.Revision(),
+                  .start = text.SelStart(),
+                  .end = text.SelEnd(),
+                  .clipboard = editor_.platform.ClipboardRevision(),
+                  .line_counting = editor_.settings.LineCounting};
+  const std::optional<Shown> before = std::exchange(shown_, now);
+  if (before == now) return;
+  const bool other_clipboard = !before || before->clipboard != now.clipboard;
+  Shown of_text = now;
+  if (before) of_text.clipboard = before->clipboard;
+  if (before != of_text) window_.Bar().Show(ComputePanels(text, now.line_counting));
+  const bool selected = now.start != now.end || (before && before->start != before->end);
+  if (selected || other_clipboard) window_.Bar().ShowContent(ComputeContent(text, clipboard));
+}
+
 void StatusTimer::Tick() {
   SnapWindows();
   if (!window_.MainActive()) return;
-  const bool has_clipboard = editor_.platform.ClipboardHasText();
-  const std::string clipboard = editor_.platform.ClipboardText();
+  const std::optional<std::string>& clipboard = editor_.platform.ClipboardContent();
   window_.Menus().Apply(ComputeMenuState(editor_.text, editor_.documents.CurrentPath(), clipboard));
+  ShowPanels(clipboard);
   StatusStrip& bar = window_.Bar();
-  bar.Show(ComputePanels(editor_.text, editor_.settings.LineCounting,
-                         has_clipboard ? std::optional<std::string_view>(clipboard) : std::nullopt));
   bar.Show(editor_.platform.Keys());
   // The main window isn't active while an operation is at work on a file: this one was abandoned.
-  bar.SetNotice(editor_.file_number.IsOpen() ? kFilesStuck.toString() : QString());
+  bar.Warn(Warning::kFilesStuck, editor_.file_number.IsOpen() ? kFilesStuck.toString() : QString());
   window_.WidenContentPanel();
 }
 

@@ -3,7 +3,10 @@
 #pragma once
 
 #include <QTimer>
+#include <cstdint>
 #include <map>
+#include <optional>
+#include <string>
 
 #include "shell/editor.h"
 #include "shell/window_geometry.h"
@@ -25,11 +28,22 @@ class StatusTimer : public QTimer {
   void Tick();
 
  private:
+  // What the panels were computed from.
+  struct Shown {
+    std::uint64_t text = 0;
+    std::size_t start = 0, end = 0;
+    std::uint64_t clipboard = 0;
+    bool line_counting = false;
+    bool operator==(const Shown&) const = default;
+  };
+
   void SnapWindows();
+  void ShowPanels(const std::optional<std::string>& clipboard);
 
   std::map<const QWidget*, PlaceRequests> requests_;
   MainWindow& window_;
   Editor& editor_;
+  std::optional<Shown> shown_;
 };
 
 }  // namespace pelmar

@@ -1,5 +1,3 @@
-#include "texttools/windows/text_windows.h"
-
 #include "shell/windows/pos.h"
 #include "shell/windows/program_parts.h"
 #include "texttools/appearance.h"
@@ -23,29 +21,22 @@ QRect SelectionOnScreen(const TextBox& box) {
 }  // namespace
 
 void AddTextWindows(const ProgramParts& parts) {
-  TextBuffer& text = parts.editor.text;
+  const auto text = std::ref(parts.editor.text);
+  const auto platform = std::ref(parts.platform);
   WindowRegistry& windows = parts.windows;
   const auto match = [&box = parts.main.Text()] { return SelectionOnScreen(box); };
-  windows.Register<Hledani>(
-      [parts, &text, match] { return std::make_unique<Hledani>(text, parts.platform, match, &parts.main); });
-  windows.Register<Zamena>(
-      [parts, &text, match] { return std::make_unique<Zamena>(text, parts.platform, match, &parts.main); });
-  windows.Register<Vyber>([parts, &text] { return std::make_unique<Vyber>(text, &parts.main); });
-  windows.Register<Visual>([parts] {
-    return std::make_unique<Visual>(parts.main, parts.editor.settings,
-                                    Visual::Doors{parts.ColorDoor(), [parts] { parts.windows.Anew<Pos>().Present(); }},
-                                    &parts.main);
-  });
-  parts.ShowBy<Hledani>({"mnufind", "Find"});
-  parts.ShowBy<Zamena>({"mnuchange"});
+  parts.Add<Hledani>({"mnufind", "Find"}, text, platform, match);
+  parts.Add<Zamena>({"mnuchange"}, text, platform, match);
+  parts.Add<Vyber>({}, text);
+  parts.Add<Visual>({}, std::ref(parts.main), std::ref(parts.editor.settings),
+                    Visual::Doors{parts.ColorDoor(), [&windows] { windows.Anew<Pos>().Present(); }});
   parts.editor.commands.Add("mnupresnvyb", [&windows] {
     auto& window = windows.Anew<Vyber>();
     if (window.isVisible()) window.Load();  // the selection may be another one by now
     window.Present();
   });
   parts.editor.commands.Add("mnumore", [&windows] { windows.Anew<Visual>().Present(); });
-
-  parts.editor.commands.Add("mnu_format", [parts, &text] { Formatuj(text, parts.platform, &parts.main).exec(); });
+  parts.editor.commands.Add("mnu_format", [parts] { Formatuj(parts.editor.text, parts.platform, &parts.main).exec(); });
   AddAppearanceCommands(parts.editor, parts.main);
   parts.main.on_line_counting = [&windows] {
     if (auto* visual = windows.Find<Visual>()) visual->FollowLineCounting();

@@ -49,7 +49,7 @@ struct FileChoiceTest : testing::Test {
     ok.setEnabled(false);
     show.setEnabled(false);
     window.show();
-    LinkFileChoice(choice, [this](const std::string& chosen) { shown.push_back(chosen); });
+    choice.Link([this](const std::string& chosen) { shown.push_back(chosen); });
   }
   void Choose(const char* name) {
     for (int row = 0; row < files.model()->rowCount(); ++row) {
@@ -102,9 +102,9 @@ TEST_F(FileChoiceTest, AChoiceThatIsSwitchedOffLeavesTheButtonsAlone) {
   files.setEnabled(false);
   folders.SetPath(Utf8ToQString(temp.File("sub")));  // as when the folder was removed while the dialog was hidden
   EXPECT_EQ(State(), temp.Path() + "/sub/ ok show");
-  EXPECT_FALSE(HasFile(choice));
+  EXPECT_FALSE(choice.HasFile());
   files.setEnabled(true);
-  RefreshFileChoice(choice);
+  choice.Refresh();
   EXPECT_EQ(State(), temp.Path() + "/sub/");
 }
 
@@ -114,12 +114,12 @@ TEST_F(FileChoiceTest, ThePathGoesToTheBrowserAndToTheTag) {
   show.click();
   EXPECT_EQ(shown, std::vector<std::string>{temp.Path() + "/žába.gif"});
   QLineEdit copy;
-  EXPECT_EQ(TakePath(choice, copy), temp.Path() + std::string("/žába.gif"_w));
+  EXPECT_EQ(choice.TakePath(copy), temp.Path() + std::string("/žába.gif"_w));
   path.setText(QStringLiteral("C:\\a\\č.gif"));
-  EXPECT_EQ(TakePath(choice, copy), "C:/a/č.gif"_w);
+  EXPECT_EQ(choice.TakePath(copy), "C:/a/č.gif"_w);
   EXPECT_EQ(copy.text(), QStringLiteral("C:/a/č.gif"));
   ShowPath(path, "/Ж/k\xF9.gif");
-  EXPECT_EQ(TakePath(choice, copy), "/%D0%96/k%F9.gif");
+  EXPECT_EQ(choice.TakePath(copy), "/%D0%96/k%F9.gif");
   show.click();
   EXPECT_EQ(shown.back(), "/Ж/k\xF9.gif");
 }

@@ -294,7 +294,7 @@ TEST_F(SamplesWindow, ShowsTheSampleOfTheRowAnewAtEachClick) {
 
 TEST_F(SamplesWindow, TakesTheDocumentOverAndUndoBringsTheOldOneBack) {
   int changes = 0;
-  text.OnChange([&changes](const TextChange&) { ++changes; });
+  const Listening heard = text.OnChange([&changes](const TextChange&) { ++changes; });
   Choose(9);
   EXPECT_EQ(changes, 0);
   Click(window, "Command1");

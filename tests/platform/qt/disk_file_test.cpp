@@ -16,6 +16,7 @@
 
 #include "files/line_ends.h"
 #include "platform/qt/failing_calls.h"
+#include "platform/qt/qt_platform.h"
 #include "support/temp_folder.h"
 
 namespace pelmar {
@@ -66,9 +67,9 @@ class KeepFolder : public TempFolder {
 };
 
 // Saves as the program does, with nothing that went wrong on the way back.
-int Save(const std::string& path, std::string_view bytes, mode_t new_mode = 0666) {
+int Save(const std::string& path, std::string_view bytes) {
   const KeepFolder keep;
-  const WriteOutcome outcome = ReplaceFile(path, bytes, keep.Prefix(), new_mode);
+  const WriteOutcome outcome = ReplaceFile(path, bytes, keep.Prefix());
   EXPECT_EQ(outcome.kept, "");
   EXPECT_EQ(EntriesOf(keep), 0U);
   return outcome.error;
@@ -148,7 +149,7 @@ TEST(ReplaceFile, FollowsLinksAndKeepsTheMask) {
 
   const mode_t mask = umask(027);
   EXPECT_EQ(Save(folder.File("fresh"), ""), 0);
-  EXPECT_EQ(Save(folder.File("secret"), "", 0600), 0);
+  EXPECT_EQ(QtPlatform().WritePrivateFile(folder.File("secret"), ""), 0);
   umask(mask);
   EXPECT_EQ(Content(folder.File("fresh")), "");
   EXPECT_EQ(ModeOf(folder.File("fresh")), fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
@@ -481,9 +482,13 @@ TEST(RewriteFileByPieces, AnOldTargetKeepsItsTailItsModeAndItsLink) {
   EXPECT_EQ(Rewrite(folder.File("none"), target, OldTail::kDrop, drop), ENOENT);
   EXPECT_EQ(Rewrite(folder.Path(), target, OldTail::kDrop, drop), EISDIR);
   EXPECT_EQ(Content(target), "1\n2\n");
-  EXPECT_TRUE(LeadToSameFile(target, folder.File("a.unx")));
-  EXPECT_FALSE(LeadToSameFile(target, source));
-  EXPECT_FALSE(LeadToSameFile(folder.File("none"), folder.File("none")));
+  QtPlatform platform;
+  EXPECT_TRUE(platform.IsSameFile(target, folder.File("a.unx")));
+  EXPECT_FALSE(platform.IsSameFile(target, source));
+  EXPECT_FALSE(platform.IsSameFile(folder.File("none"), folder.File("none")));
+  EXPECT_EQ(platform.Stamp(target), platform.Stamp(folder.File("a.unx")));
+  EXPECT_NE(platform.Stamp(target), platform.Stamp(source));
+  EXPECT_EQ(platform.Stamp(folder.File("none")), std::nullopt);
 }
 
 TEST(RewriteFileByPieces, WritesInPlaceWhereTheFolderRefuses) {

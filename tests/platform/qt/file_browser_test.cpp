@@ -304,6 +304,9 @@ TEST(FileBrowser, PlaceLeadsFoldersLeadFilesUnderTheMask) {
   EXPECT_EQ(folders.Path(), QDir::currentPath());
   EXPECT_EQ(files.Path(), QDir::currentPath());
   EXPECT_EQ(files.Pattern(), QStringLiteral("*.GIF"));
+  EXPECT_EQ(files.model()->rowCount() + folders.model()->rowCount(), 0);  // neither reads a folder before it shows
+  folders.show();
+  files.show();
 
   folders.SetPath(base);
   EXPECT_EQ(RowsOf(files), QStringList(QStringLiteral("a.gif")));

@@ -13,10 +13,13 @@ namespace {
 class WritingTeller : public TextBoxTeller {
  public:
   explicit WritingTeller(TextBox& box) : TextBoxTeller(box) {
-    box.Buffer().OnChange([this](const TextChange& change) { Changed(change); });
-    box.Buffer().OnSelection([this] { CaretMoved(); });
+    heard_ = {box.Buffer().OnChange([this](const TextChange& change) { Changed(change); }),
+              box.Buffer().OnSelection([this] { CaretMoved(); })};
   }
   std::vector<std::string> told;
+
+ private:
+  std::array<Listening, 2> heard_;
 
  protected:
   [[nodiscard]] bool IsHeard() const override { return true; }

@@ -439,7 +439,7 @@ TEST_F(TextBoxTest, TwoBoxesShowOneBufferAndMayGoBeforeIt) {
 TEST_F(TextBoxTest, FollowsListenersThatChangeTheTextThemselves) {
   TextBuffer buffer;
   bool cut = true;
-  buffer.OnChange([&](const TextChange&) {  // heard before the box hears
+  const Listening heard = buffer.OnChange([&](const TextChange&) {  // heard before the box hears
     if (std::exchange(cut, true)) return;
     buffer.Replace(0, 3, "x\r\ny\r\nz");
   });

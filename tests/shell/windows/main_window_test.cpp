@@ -9,6 +9,7 @@
 #include <deque>
 #include <filesystem>
 
+#include "files/windows/outside_watch.h"
 #include "platform/color.h"
 #include "platform/qt/convert.h"
 #include "program/program.h"
@@ -130,7 +131,7 @@ TEST_F(MainWindowTest, TickSetsMenusAndPanels) {
 }
 
 TEST_F(MainWindowTest, TheBarTellsThatFilesCantBeReachedAnyMore) {
-  const auto* notice = Find<QLabel>("Notice");
+  const auto* notice = Find<QLabel>("Warning");
   platform.files["/a.txt"] = platform.files["/README"] = "x";
   platform.opens = {"/a.txt", "/README"};
   for (const bool stuck : {false, true}) {
@@ -147,6 +148,37 @@ TEST_F(MainWindowTest, TheBarTellsThatFilesCantBeReachedAnyMore) {
     EXPECT_TRUE(window.Bar().rect().contains(notice->geometry())) << width;
   }
   for (const std::string& call : platform.calls) EXPECT_FALSE(call.starts_with("message")) << call;  // required
+  for (const int error : {ENOSPC, 0}) {  // work that is lost with a new start comes first
+    window.Bar().WarnOfUnkept(error);
+    EXPECT_EQ(notice->text().contains(QStringLiteral("nový start")), error == 0);
+    EXPECT_TRUE(notice->isVisible());
+  }
+}
+
+TEST_F(MainWindowTest, TheBarTellsThatAnotherProgramWasAtTheFile) {
+  new OutsideWatch(window, editor, editor.files.outside);
+  const auto* warning = Find<QLabel>("Warning");
+  const auto leave_and_return = [this] {
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&other));
+    window.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+  };
+  platform.files["/a.txt"] = "x";
+  editor.opener.OpenPath("/a.txt");
+  leave_and_return();
+  EXPECT_FALSE(warning->isVisible());
+  platform.files["/a.txt"] = "theirs";
+  leave_and_return();
+  EXPECT_EQ(warning->text(), QStringLiteral("Soubor na disku mezitím změnil jiný program"));
+  editor.documents.SwitchTo(2);
+  EXPECT_FALSE(warning->isVisible());
+  editor.documents.SwitchTo(1);
+  EXPECT_TRUE(warning->isVisible());
+  editor.text.Type("z");  // which marks the title as well
+  EXPECT_FALSE(warning->isVisible());
 }
 
 TEST_F(MainWindowTest, BarsStandStillWhileAnotherWindowIsActive) {
@@ -325,7 +357,7 @@ TEST_F(MainWindowTest, AHiddenTextCantBeReadAnywhere) {
   for (int panel = 1; panel <= 4; ++panel) EXPECT_EQ(window.Bar().Panel(panel)->text(), QString());
   window.HideText(false);
   EXPECT_EQ(window.Text().SelText(), QByteArray("secret"));
-  EXPECT_EQ(editor.documents.Slot(1).Text, "secret");
+  EXPECT_EQ(editor.documents.TextOf(1), "secret");
 }
 
 TEST(WindowRegistry, AWindowThatCantBeMadeIsNoNullReference) {

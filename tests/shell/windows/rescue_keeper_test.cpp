@@ -47,11 +47,15 @@ struct RescueKeeperTest : testing::Test {
 
 TEST_F(RescueKeeperTest, KeepsAChangeWithinTwoSecondsAndDropsItOnceSaved) {
   RescueKeeper keeper(ModifiedDocuments(documents), platform);
-  text.OnChange([&](const TextChange&) { keeper.Touch(); });
+  const Listening heard = text.OnChange([&](const TextChange&) { keeper.Touch(); });
   text.SetText("typed");
   ASSERT_TRUE(QTest::qWaitFor([&] { return !platform.calls.empty(); }, 2000));
   const std::string path = platform.calls[0].substr(6);
   EXPECT_EQ(Kept(path), (RescueRecord{1, {{1, "", "typed"}}}));
+<<<<<<< HEAD
+=======
+  EXPECT_TRUE(platform.private_files.contains(path));
+>>>>>>> flow2
   documents.MakeCurrent("/a.txt");  // saved: nothing left to keep
   EXPECT_EQ(keeper.KeepNow(), "");
   keeper.End();
@@ -157,7 +161,7 @@ TEST_F(RescueKeeperTest, TheStatusBarSaysForAsLongAsItHoldsThatNothingIsKept) {
   platform.files[In("pelmar.ini")] = SettingsBytes(settings);
   Program program(platform);
   program.Run("-NOMSG");
-  auto* warning = program.Main().Bar().findChild<QLabel*>(QStringLiteral("Unkept"));
+  auto* warning = program.Main().Bar().findChild<QLabel*>(QStringLiteral("Warning"));
   const auto type = [&](const char* more) { program.Main().Text().Buffer().Type(more); };
   type("a");
   ASSERT_TRUE(QTest::qWaitFor([&] { return !platform.calls.empty(); }, 2000));

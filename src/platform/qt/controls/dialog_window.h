@@ -12,6 +12,7 @@
 #include <QPointer>
 #include <functional>
 #include <map>
+#include <memory>
 
 class QPushButton;
 
@@ -50,6 +51,16 @@ class DialogWindow : public QDialog {
   std::map<QObject*, std::function<void()>> on_enter_;
   QPointer<QWidget> first_field_;
   bool prepared_ = false;
+};
+
+// A window with its form. Sharing lets the windows do without destructors of their own, which would have to know the
+// form: nobody else holds it.
+template <class Form>
+class FormDialog : public DialogWindow {
+ protected:
+  explicit FormDialog(QWidget* parent) : DialogWindow(parent), ui_(std::make_shared<Form>()) { ui_->setupUi(this); }
+
+  const std::shared_ptr<Form> ui_;
 };
 
 }  // namespace pelmar

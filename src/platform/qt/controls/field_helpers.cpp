@@ -1,5 +1,6 @@
 #include "platform/qt/controls/field_helpers.h"
 
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -9,6 +10,8 @@
 namespace pelmar {
 
 std::string FieldText(const QLineEdit& field) { return TextFromQString(field.text()); }
+std::string FieldText(const QComboBox& field) { return TextFromQString(field.currentText()); }
+std::string FieldText(const QLabel& field) { return TextFromQString(field.text()); }
 
 void ShowFieldText(QLineEdit& field, const std::string& text) {
   const QString shown = TextToQString(text);

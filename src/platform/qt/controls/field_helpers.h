@@ -6,14 +6,17 @@
 #include <string>
 #include <vector>
 
+class QComboBox;
 class QLabel;
 class QLineEdit;
 class QListWidget;
 
 namespace pelmar {
 
-// A single-line field that may hold line breaks: they show as blanks and come back as they were.
+// What stands in a field. A single-line one may hold line breaks: they show as blanks and come back as they were.
 std::string FieldText(const QLineEdit& field);
+std::string FieldText(const QComboBox& field);
+std::string FieldText(const QLabel& field);
 void ShowFieldText(QLineEdit& field, const std::string& text);
 
 // Adds the rows that a growing list doesn't show yet.

@@ -1,11 +1,11 @@
 #include "platform/qt/controls/file_list.h"
 
-#include <QAbstractListModel>
 #include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QMetaMethod>
 #include <QScopedValueRollback>
 #include <QScrollBar>
+#include <QStringListModel>
 
 #include "platform/qt/controls/first_choice.h"
 #include "platform/qt/convert.h"
@@ -21,35 +21,15 @@ constexpr int kReadings = 10;
 
 }  // namespace
 
-class FileNames : public QAbstractListModel {
+// The names, which the rows show as a person reads them.
+class FileNames : public QStringListModel {
  public:
-  using QAbstractListModel::QAbstractListModel;
-
-  void Show(QStringList names) {
-    beginResetModel();
-    names_ = std::move(names);
-    endResetModel();
-  }
-
-  [[nodiscard]] const QStringList& Names() const { return names_; }
-
-  [[nodiscard]] QModelIndex IndexOf(const QString& name) const {
-    return name.isEmpty() ? QModelIndex() : index(static_cast<int>(names_.indexOf(name)), 0);
-  }
-
-  [[nodiscard]] int rowCount(const QModelIndex& parent) const override {
-    return parent.isValid() ? 0 : static_cast<int>(names_.size());
-  }
+  using QStringListModel::QStringListModel;
 
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override {
-    if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::ToolTipRole)) return {};
-    return ShownPath(names_[index.row()]);
+    if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
+    return ShownPath(QStringListModel::data(index, Qt::EditRole).toString());
   }
-
-  [[nodiscard]] const QString& Name(int row) const { return names_[row]; }
-
- private:
-  QStringList names_;
 };
 
 FileList::FileList(QWidget* parent)
@@ -68,17 +48,16 @@ FileList::FileList(QWidget* parent)
   connect(&watcher_, &QFileSystemWatcher::directoryChanged, this, [this] {
     if (!settle_.isActive()) settle_.start();
   });
-  Fill({});
 }
 
 void FileList::SetPath(const QString& path) {
   if (path.isEmpty()) return;
   const QString clean = CleanFolder(path);
   if (!IsReadableFolder(clean)) return;
-  if (clean == path_) return ReadAnew();
+  if (clean == path_) return read_ ? ReadAnew() : void();
   path_ = clean;
   Fill({});
-  if (isVisible()) Watch();
+  Watch(isVisible());
   Q_EMIT PathChanged(path_);
 }
 
@@ -92,45 +71,47 @@ void FileList::SetPattern(const QString& pattern) {
 // By the selection: the view makes a row current that nobody chose when it comes into focus.
 QString FileList::FileName() const {
   const QModelIndexList rows = selectionModel()->selectedIndexes();
-  return rows.isEmpty() ? QString() : names_->Name(rows.constFirst().row());
+  return rows.isEmpty() ? QString() : names_->stringList().at(rows.constFirst().row());
 }
 
 void FileList::SetFileName(const QString& name) {
+  if (!read_) ReadAnew();
   const QScopedValueRollback<bool> by_program(by_program_, true);
-  const QModelIndex row = names_->IndexOf(name);
-  if (!row.isValid()) return clearSelection();
-  selectionModel()->setCurrentIndex(row, QItemSelectionModel::ClearAndSelect);
+  const auto row = static_cast<int>(names_->stringList().indexOf(name));
+  if (row < 0) return clearSelection();
+  selectionModel()->setCurrentIndex(names_->index(row), QItemSelectionModel::ClearAndSelect);
 }
 
 void FileList::Fill(const QString& selected) {
+  if (read_) Show(FilesOf(path_, pattern_), selected);
+}
+
+void FileList::Show(const QStringList& names, const QString& selected) {
   const QScopedValueRollback<bool> by_program(by_program_, true);
-  names_->Show(FilesOf(path_, pattern_));
+  names_->setStringList(names);
   SetFileName(selected);
 }
 
 void FileList::ReadAnew() {
+  read_ = true;
   QElapsedTimer clock;
   clock.start();
-  QStringList names = FilesOf(path_, pattern_);
+  const QStringList names = FilesOf(path_, pattern_);
   settle_.setInterval(qMax<int>(kSettle, static_cast<int>(clock.elapsed()) * kReadings));
-  if (names == names_->Names()) return;
+  if (names == names_->stringList()) return;
   const QString selected = FileName();
   const int scrolled = verticalScrollBar()->value();
-  {
-    const QScopedValueRollback<bool> by_program(by_program_, true);
-    names_->Show(std::move(names));
-    SetFileName(selected);
-  }
+  Show(names, selected);
   executeDelayedItemsLayout();  // which gives the bar its range
   verticalScrollBar()->setValue(scrolled);
   if (FileName() != selected) Q_EMIT FileGone();
 }
 
 // The one folder, for as long as it is on show: what changes meanwhile is read when it comes back.
-void FileList::Watch() {
+void FileList::Watch(bool watch) {
   if (const QStringList watched = watcher_.directories(); !watched.isEmpty()) watcher_.removePaths(watched);
   settle_.stop();
-  watcher_.addPath(path_);
+  if (watch) watcher_.addPath(path_);
 }
 
 void FileList::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
@@ -165,15 +146,13 @@ void FileList::keyPressEvent(QKeyEvent* event) {
 void FileList::showEvent(QShowEvent* event) {
   QListView::showEvent(event);
   if (event->spontaneous()) return;
-  Watch();
+  Watch(true);
   ReadAnew();
 }
 
 void FileList::hideEvent(QHideEvent* event) {
   QListView::hideEvent(event);
-  if (event->spontaneous()) return;
-  settle_.stop();
-  if (const QStringList watched = watcher_.directories(); !watched.isEmpty()) watcher_.removePaths(watched);
+  if (!event->spontaneous()) Watch(false);
 }
 
 }  // namespace pelmar

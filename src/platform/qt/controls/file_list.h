@@ -56,14 +56,16 @@ class FileList : public QListView {
 
  private:
   void Fill(const QString& selected);
+  void Show(const QStringList& names, const QString& selected);
   // The same folder again.
   void ReadAnew();
-  void Watch();
+  void Watch(bool watch);
 
   FileNames* names_;
   QString path_, pattern_;
   QFileSystemWatcher watcher_;
-  QTimer settle_;  // from a change of the folder until it is read
+  QTimer settle_;      // from a change of the folder until it is read
+  bool read_ = false;  // a dialog sets path and mask before its first opening, and none of that needs the names
   bool by_program_ = false;
   bool click_told_ = false;  // by the change of the selection that the press at hand made
 };

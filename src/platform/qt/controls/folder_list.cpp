@@ -113,7 +113,6 @@ FolderList::FolderList(QWidget* parent) : QListView(parent), model_(new FolderMo
   setEditTriggers(NoEditTriggers);
   connect(this, &QListView::doubleClicked, this, &FolderList::EnterHighlighted);
   path_ = Climb(CurrentFolder());
-  Fill(path_);
 }
 
 void FolderList::SetPath(const QString& path) {
@@ -131,6 +130,7 @@ QString FolderList::HighlightedPath() const {
 }
 
 void FolderList::Fill(const QString& highlighted) {
+  if (!read_) return;
   const int own_row = model_->Show(path_);
   const int row = model_->RowOf(highlighted);
   setCurrentIndex(model_->index(row >= 0 ? row : own_row, 0));
@@ -156,6 +156,7 @@ void FolderList::keyReleaseEvent(QKeyEvent* event) {
 void FolderList::showEvent(QShowEvent* event) {
   QListView::showEvent(event);
   if (event->spontaneous()) return;
+  read_ = true;
   if (const QString there = Climb(path_); there != path_) return SetPath(there);
   Fill(HighlightedPath());
 }

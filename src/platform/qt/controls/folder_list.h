@@ -43,6 +43,7 @@ class FolderList : public QListView {
 
   FolderModel* model_;
   QString path_;
+  bool read_ = false;  // a dialog sets the path before its first opening, which doesn't need the rows
 };
 
 }  // namespace pelmar

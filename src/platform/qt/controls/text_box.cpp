@@ -49,20 +49,13 @@ TextBox::TextBox(QWidget* parent)
   UseBuffer(*own_buffer_);
 }
 
-TextBox::~TextBox() { *listening_ = false; }
+TextBox::~TextBox() = default;
 
 void TextBox::UseBuffer(TextBuffer& buffer) {
   if (buffer_ == &buffer) return;
-  if (listening_) *listening_ = false;
-  listening_ = std::make_shared<bool>(true);
   buffer_ = &buffer;
-  // Listeners live as long as the buffer, which may be longer than this control.
-  buffer.OnChange([this, on = listening_](const TextChange& change) {
-    if (*on) FollowChange(change);
-  });
-  buffer.OnSelection([this, on = listening_] {
-    if (*on) FollowSelection();
-  });
+  changes_ = buffer.OnChange([this](const TextChange& change) { FollowChange(change); });
+  moves_ = buffer.OnSelection([this] { FollowSelection(); });
   mover_.Forget();
   composer_.Clear();
   teller_->Forget();

@@ -166,7 +166,7 @@ class TextBox : public QAbstractScrollArea {
 
   std::unique_ptr<TextBuffer> own_buffer_;
   TextBuffer* buffer_ = nullptr;
-  std::shared_ptr<bool> listening_;  // false in listeners of buffers that are no longer shown
+  Listening changes_, moves_;
   std::unique_ptr<TextView> view_;
   CaretMover mover_;
   CaretBlink blink_;

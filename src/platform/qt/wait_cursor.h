@@ -4,25 +4,25 @@
 
 namespace pelmar {
 
-class BusyPointer {
+class WaitCursor {
  public:
-  BusyPointer() = default;
-  BusyPointer(const BusyPointer&) = delete;
-  BusyPointer& operator=(const BusyPointer&) = delete;
-  ~BusyPointer();
+  WaitCursor() = default;
+  WaitCursor(const WaitCursor&) = delete;
+  WaitCursor& operator=(const WaitCursor&) = delete;
+  ~WaitCursor();
 
   // Each true wants its false; a false too many does nothing.
   void Set(bool busy);
 
   class Lift {
    public:
-    explicit Lift(BusyPointer& pointer);
+    explicit Lift(WaitCursor& pointer);
     Lift(const Lift&) = delete;
     Lift& operator=(const Lift&) = delete;
     ~Lift();
 
    private:
-    BusyPointer& pointer_;
+    WaitCursor& pointer_;
   };
 
  private:

@@ -1,21 +1,21 @@
-#include "platform/qt/busy_pointer.h"
+#include "platform/qt/wait_cursor.h"
 
 #include <QCursor>
 #include <QGuiApplication>
 
 namespace pelmar {
 
-BusyPointer::~BusyPointer() {
+WaitCursor::~WaitCursor() {
   if (shown_ && QGuiApplication::instance() != nullptr) QGuiApplication::restoreOverrideCursor();
 }
 
-void BusyPointer::Set(bool busy) {
+void WaitCursor::Set(bool busy) {
   if (!busy && wanted_ == 0) return;
   wanted_ += busy ? 1 : -1;
   Show();
 }
 
-void BusyPointer::Show() {
+void WaitCursor::Show() {
   const bool show = wanted_ > 0 && lifted_ == 0;
   if (show == shown_) return;
   shown_ = show;
@@ -26,12 +26,12 @@ void BusyPointer::Show() {
   }
 }
 
-BusyPointer::Lift::Lift(BusyPointer& pointer) : pointer_(pointer) {
+WaitCursor::Lift::Lift(WaitCursor& pointer) : pointer_(pointer) {
   ++pointer_.lifted_;
   pointer_.Show();
 }
 
-BusyPointer::Lift::~Lift() {
+WaitCursor::Lift::~Lift() {
   --pointer_.lifted_;
   pointer_.Show();
 }

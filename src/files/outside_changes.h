@@ -1,0 +1,42 @@
+// Which documents another program has written or taken away since they were opened or saved here. Nothing is reloaded
+// by itself: the person is told, and a save that asks says so too.
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/platform.h"
+#include "shell/documents.h"
+
+namespace pelmar {
+
+enum class OutsideChange { kNone, kWritten, kGone };
+
+class OutsideChanges {
+ public:
+  OutsideChanges(const Documents& documents, Platform& platform) : documents_(documents), platform_(platform) {}
+
+  // The current document and its file are the same from here on. `stamp` is the file's from before it was read, or
+  // behind the write.
+  void Note(const std::optional<FileStamp>& stamp);
+
+  // Asks the disk about the current document's file; kNone where that was neither opened nor saved here.
+  [[nodiscard]] OutsideChange OfCurrent() const;
+
+ private:
+  struct Known {
+    std::string path;
+    FileStamp stamp;
+  };
+
+  const Documents& documents_;
+  Platform& platform_;
+  std::array<std::optional<Known>, kTabCount> known_;
+};
+
+// What a person is told of it, UTF-8; "" for kNone.
+std::string_view OutsideNotice(OutsideChange change);
+
+}  // namespace pelmar

@@ -1,0 +1,28 @@
+#include "shell/windows/warning_label.h"
+
+#include <QAccessible>
+
+namespace pelmar {
+
+WarningLabel::WarningLabel(QWidget* parent) : QLabel(parent) {
+  setObjectName(QStringLiteral("Warning"));
+  setContentsMargins(4, 0, 4, 0);
+  setAutoFillBackground(true);
+  setBackgroundRole(QPalette::Highlight);
+  setForegroundRole(QPalette::HighlightedText);
+}
+
+void WarningLabel::showEvent(QShowEvent* event) {
+  QLabel::showEvent(event);
+  QAccessibleEvent alert(this, QAccessible::Alert);
+  QAccessible::updateAccessibility(&alert);
+}
+
+QString UnkeptTip(int error) {
+  return QStringLiteral(
+             "Neuložené změny teď nelze zachovat pro případ pádu (kód chyby %1).\n"
+             "Uložte je, nebo uvolněte místo na disku; program to zkouší znovu.")
+      .arg(error);
+}
+
+}  // namespace pelmar
