@@ -12,19 +12,12 @@ struct Files {
   // The editor outlives them.
   explicit Files(Editor& editor)
       : recent(editor.settings, editor.platform),
-<<<<<<< HEAD
-        opener(editor.documents, recent, editor.platform, editor.file_number),
-        saver(editor.documents, recent, editor.platform, editor.file_number) {}
-
-  RecentFiles recent;
-=======
         outside(editor.documents, editor.platform),
         opener(editor.documents, recent, outside, editor.platform, editor.file_number),
         saver(editor.documents, recent, outside, editor.platform, editor.file_number) {}
 
   RecentFiles recent;
   OutsideChanges outside;
->>>>>>> flow2
   Opener opener;
   Saver saver;
 };

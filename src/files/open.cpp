@@ -8,19 +8,12 @@
 
 namespace pelmar {
 
-<<<<<<< HEAD
-Opener::Opener(Documents& documents, RecentFiles& recent, Platform& platform, FileNumber& file_number)
-    : documents_(documents), recent_(recent), platform_(platform), file_number_(file_number) {}
-
-void Opener::OpenPath(const std::string& path) {
-=======
 Opener::Opener(Documents& documents, RecentFiles& recent, OutsideChanges& outside, Platform& platform,
                FileNumber& file_number)
     : documents_(documents), recent_(recent), outside_(outside), platform_(platform), file_number_(file_number) {}
 
 void Opener::OpenPath(const std::string& path) {
   const auto stamp = platform_.Stamp(path);
->>>>>>> flow2
   // That the file can be read is the test for its being there, so it is opened once, where all goes well. The name of a
   // file doesn't end in a separator, but the test overlooks one.
   FileBytes file{.error = ENOTDIR, .bytes = {}};
@@ -36,10 +29,7 @@ void Opener::OpenPath(const std::string& path) {
   }
   file_number_.Open();
   documents_.MakeCurrent(path, std::move(file.bytes));  // required: its error leaves file number 1 open
-<<<<<<< HEAD
-=======
   outside_.Note(stamp);
->>>>>>> flow2
   recent_.Remember(path);
   file_number_.Close();
 }

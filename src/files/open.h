@@ -6,10 +6,7 @@
 #include <string>
 #include <string_view>
 
-<<<<<<< HEAD
-=======
 #include "files/outside_changes.h"
->>>>>>> flow2
 #include "files/recent_files.h"
 #include "platform/platform.h"
 #include "shell/documents.h"
@@ -30,12 +27,8 @@ inline constexpr std::string_view kNoPreview = "Není k dispozici"_w;
 
 class Opener {
  public:
-<<<<<<< HEAD
-  Opener(Documents& documents, RecentFiles& recent, Platform& platform, FileNumber& file_number);
-=======
   Opener(Documents& documents, RecentFiles& recent, OutsideChanges& outside, Platform& platform,
          FileNumber& file_number);
->>>>>>> flow2
 
   // Opens a file into the current tab, or tells why it can't. A name without a full stop throws RuntimeError when the
   // text is already in, and leaves file number 1 open: required.
@@ -56,10 +49,7 @@ class Opener {
  private:
   Documents& documents_;
   RecentFiles& recent_;
-<<<<<<< HEAD
-=======
   OutsideChanges& outside_;
->>>>>>> flow2
   Platform& platform_;
   FileNumber& file_number_;
 };

@@ -6,14 +6,9 @@
 
 namespace pelmar {
 
-<<<<<<< HEAD
-Saver::Saver(Documents& documents, RecentFiles& recent, Platform& platform, FileNumber& file_number)
-    : documents_(documents), recent_(recent), platform_(platform), file_number_(file_number) {}
-=======
 Saver::Saver(Documents& documents, RecentFiles& recent, OutsideChanges& outside, Platform& platform,
              FileNumber& file_number)
     : documents_(documents), recent_(recent), outside_(outside), platform_(platform), file_number_(file_number) {}
->>>>>>> flow2
 
 void Saver::SaveToPath(const std::string& path) {
   if (!MayWrite(path)) return;
@@ -21,10 +16,7 @@ void Saver::SaveToPath(const std::string& path) {
     const WriteOutcome outcome = Write(path, documents_.Text().Text());
     if (outcome.error != 0) return TellError(path, outcome);
     documents_.MakeCurrent(path);
-<<<<<<< HEAD
-=======
     outside_.Note(platform_.Stamp(path));
->>>>>>> flow2
     recent_.Remember(path);
   } catch (const RuntimeError& error) {
     TellError(path, {.error = error.Number()});

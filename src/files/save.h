@@ -5,10 +5,7 @@
 #include <string>
 #include <string_view>
 
-<<<<<<< HEAD
-=======
 #include "files/outside_changes.h"
->>>>>>> flow2
 #include "files/recent_files.h"
 #include "platform/platform.h"
 #include "shell/documents.h"
@@ -18,12 +15,8 @@ namespace pelmar {
 
 class Saver {
  public:
-<<<<<<< HEAD
-  Saver(Documents& documents, RecentFiles& recent, Platform& platform, FileNumber& file_number);
-=======
   Saver(Documents& documents, RecentFiles& recent, OutsideChanges& outside, Platform& platform,
         FileNumber& file_number);
->>>>>>> flow2
 
   // Saves the document and makes the path its file. Asks before it overwrites, and takes the text as it is when that is
   // answered; what fails is told, and steps already done stay done.
@@ -51,10 +44,7 @@ class Saver {
 
   Documents& documents_;
   RecentFiles& recent_;
-<<<<<<< HEAD
-=======
   OutsideChanges& outside_;
->>>>>>> flow2
   Platform& platform_;
   FileNumber& file_number_;
 };

@@ -17,16 +17,12 @@ Program::Program(Platform& platform)
     : platform_(platform),
       editor_(platform),
       main_(editor_, files_),
-<<<<<<< HEAD
-      session_(main_, editor_.documents, editor_.settings, files_.opener, platform, editor_.file_number),
-=======
       session_(main_,
                {.show_config = [this] { windows_.Get<Config>().Run(); },
                 .show_main = [this] { main_.ShowMain(); },
                 .show_start = [this] { windows_.Get<Start>().Present(); },
                 .show_accessory = [this](StartMode mode) { ShowAccessory(mode); }},
                editor_, files_),
->>>>>>> flow2
       rescue_(ModifiedDocuments(editor_.documents), platform),
       timer_(main_, editor_) {
   AddCommands(editor_, files_);

@@ -95,15 +95,6 @@ void Documents::MakeCurrent(const std::string& path) {
   SetFace(FilePart(path, 2) + "." + FilePart(path, 3), path);
   Current().Path = path;
   Current().Modified = false;
-<<<<<<< HEAD
-}
-
-void Documents::MakeCurrent(const std::string& path, std::string text) {
-  current_path_ = path;  // required: the change that the text raises sees it already
-  text_.SetText(std::move(text));
-  MakeCurrent(path);
-=======
->>>>>>> flow2
 }
 
 void Documents::MakeCurrent(const std::string& path, std::string text) {

@@ -85,11 +85,7 @@ class Documents {
   DocSlot& Current() { return slots_[Index(selected_)]; }
   void TextChanged();
   void ShowPathInTitle();  // without "*"
-<<<<<<< HEAD
-  void SetTitle(std::string title);
-=======
   void SetTitle(std::string path, bool marked);
->>>>>>> flow2
   void SetFace(std::string caption, std::string tool_tip);
 
   TextBuffer& text_;

@@ -1,10 +1,7 @@
 #include "shell/file_number.h"
 
-<<<<<<< HEAD
-=======
 #include <utility>
 
->>>>>>> flow2
 #include "platform/paths.h"
 
 namespace pelmar {
@@ -18,11 +15,6 @@ constexpr char kCantWrite[] = " nelze zapsat";
 constexpr char kCantOpen[] = " nelze otevřít";
 
 }  // namespace
-
-bool FileExists(const FileNumber& number, Platform& platform, const std::string& path) {
-  if (number.IsOpen()) return false;
-  return platform.CanRead(path.substr(0, path.size() - (EndsInSeparator(path) ? 1 : 0)));
-}
 
 bool FileExists(const FileNumber& number, Platform& platform, const std::string& path) {
   if (number.IsOpen()) return false;

@@ -17,25 +17,6 @@ void RotateSelection(const ProgramParts& parts) {
 }  // namespace
 
 void AddCipherWindows(const ProgramParts& parts) {
-<<<<<<< HEAD
-  TextBuffer& text = parts.editor.text;
-  WindowRegistry& windows = parts.windows;
-  windows.Register<ZaKod>([parts, &text] {
-    // Behind the close everything is stored, and a run that still goes on would rewrite the document once more.
-    const auto selected_tab = [parts] { return parts.doors.closed() ? 0 : parts.editor.documents.SelectedTab(); };
-    return std::make_unique<ZaKod>(text, parts.platform, selected_tab, &parts.main);
-  });
-  windows.Register<ShiftKod>([parts, &text] { return std::make_unique<ShiftKod>(text, parts.platform, &parts.main); });
-  windows.Register<Shift>([parts, &text] { return std::make_unique<Shift>(text, &parts.main); });
-  windows.Register<Confeld>([parts, &text] { return std::make_unique<Confeld>(text, parts.platform, &parts.main); });
-  windows.Register<RND_Sifra>([parts] { return std::make_unique<RND_Sifra>(parts.editor, &parts.main); });
-  windows.Register<CHT>([parts, &text] { return std::make_unique<CHT>(text, parts.platform, &parts.main); });
-  parts.ShowBy<ZaKod>({"mnucode"});
-  parts.ShowBy<ShiftKod>({"mnu_encrypt_shift"});
-  parts.ShowBy<Confeld>({"Mnu_Encrypt_Confeld"});
-  parts.ShowBy<RND_Sifra>({"mnu_rnd_encrypt"});
-  parts.ShowBy<CHT>({"Mnu_Hack_cry"});
-=======
   const auto text = std::ref(parts.editor.text);
   const auto platform = std::ref(parts.platform);
   // Behind the close everything is stored, and a run that still goes on would rewrite the document once more.
@@ -46,7 +27,6 @@ void AddCipherWindows(const ProgramParts& parts) {
   parts.Add<RND_Sifra>({"mnu_rnd_encrypt"}, std::ref(parts.editor));
   parts.Add<CHT>({"Mnu_Hack_cry"}, text, platform);
   parts.Add<Shift>({}, text);
->>>>>>> flow2
   parts.editor.commands.Add("MnuSelTextPosun", [parts] { RotateSelection(parts); });
 }
 

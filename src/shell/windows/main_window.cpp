@@ -114,13 +114,6 @@ void MainWindow::AddViewCommands() {
 }
 
 void MainWindow::FollowDocuments() {
-<<<<<<< HEAD
-  editor_.documents.on_title = [this] { setWindowTitle(PlainTitle(editor_.documents.Title())); };
-  editor_.documents.on_face = [this](int tab) { tabs_->SetFace(tab, editor_.documents.Face(tab)); };
-  editor_.documents.on_selected = [this](int tab) { tabs_->setCurrentIndex(tab - 1); };
-  recent_files_ = files_.recent.changed.Add([this] { ShowRecentFiles(); });
-  editor_.documents.on_title();
-=======
   Documents& documents = editor_.documents;
   const auto show_title = [this] { setWindowTitle(PlainTitle(editor_.documents.Title())); };
   heard_ = {documents.title_changed.Add(show_title),
@@ -128,7 +121,6 @@ void MainWindow::FollowDocuments() {
             documents.tab_selected.Add([this](int tab) { tabs_->setCurrentIndex(tab - 1); }),
             files_.recent.changed.Add([this] { toolbar_->ShowRecentFiles(); })};
   show_title();
->>>>>>> flow2
 }
 
 void MainWindow::RefreshCommands() {

@@ -90,11 +90,7 @@ class MainWindow : public QMainWindow, public MainView {
 
   Editor& editor_;
   Files& files_;
-<<<<<<< HEAD
-  Listening recent_files_;
-=======
   std::vector<Listening> heard_;
->>>>>>> flow2
   TextBuffer nothing_;  // what the box shows while the text is hidden
   QWidget* client_ = nullptr;
   MenuBar* menus_ = nullptr;

@@ -52,10 +52,7 @@ TEST_F(RescueKeeperTest, KeepsAChangeWithinTwoSecondsAndDropsItOnceSaved) {
   ASSERT_TRUE(QTest::qWaitFor([&] { return !platform.calls.empty(); }, 2000));
   const std::string path = platform.calls[0].substr(6);
   EXPECT_EQ(Kept(path), (RescueRecord{1, {{1, "", "typed"}}}));
-<<<<<<< HEAD
-=======
   EXPECT_TRUE(platform.private_files.contains(path));
->>>>>>> flow2
   documents.MakeCurrent("/a.txt");  // saved: nothing left to keep
   EXPECT_EQ(keeper.KeepNow(), "");
   keeper.End();
