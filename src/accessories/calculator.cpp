@@ -80,6 +80,11 @@ bool Calculator::Evaluate() {
   return done;
 }
 
+bool Calculator::MakeWayFor(char typed) {
+  const bool is_operator = std::string_view("+-*/^").find(typed) != std::string_view::npos;
+  return !is_operator || Evaluate();
+}
+
 void Calculator::EndOperation() {
   Label1.clear();
   Label2.clear();

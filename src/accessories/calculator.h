@@ -32,6 +32,9 @@ class Calculator {
 
   // One of + - * / L ^.
   void Operator(char symbol);
+  // Who types doesn't look at the keys: where an operator (+ - * / ^) is typed behind another one, also one that the
+  // keys on the screen leave on, the operation that waits ends first. False where that failed, and no operator follows.
+  bool MakeWayFor(char typed);
   // The operation is over afterwards, also where it failed; the person was told then and the number stays. False then.
   bool Evaluate();
 

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "platform/color.h"
-#include "platform/draw.h"
+#include "platform/random.h"
 
 namespace pelmar {
 

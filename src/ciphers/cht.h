@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/draw.h"
+#include "platform/random.h"
 
 namespace pelmar {
 

@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/draw.h"
+#include "platform/random.h"
 
 namespace pelmar {
 

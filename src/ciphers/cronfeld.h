@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/draw.h"
+#include "platform/random.h"
 
 namespace pelmar {
 

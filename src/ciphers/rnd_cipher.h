@@ -8,7 +8,7 @@
 #include <string_view>
 
 #include "ciphers/cipher_table.h"
-#include "platform/draw.h"
+#include "platform/random.h"
 
 namespace pelmar {
 

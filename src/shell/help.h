@@ -1,12 +1,19 @@
-// The help window's search: case doesn't matter, positions count from 1 in what the person is told.
+// The help: the text of pelmar.txt and the search in it.
 #pragma once
 
 #include <optional>
+#include <string>
 #include <string_view>
+
+#include "platform/platform.h"
+#include "text/text_buffer.h"
 
 namespace pelmar {
 
-// The position (from 1) of the next hit behind position `after`, nothing where there is none. `after` is 0 at first.
-std::optional<std::size_t> FindInHelp(std::string_view text, std::string_view term, std::size_t after);
+// The person's own file or that of the package; nothing where neither can be read, which the person is told.
+std::optional<std::string> LoadHelp(Platform& platform);
+
+// From hit to hit as long as the person wants to go on. Case doesn't matter.
+void SearchHelp(TextBuffer& text, std::string_view term, Platform& platform);
 
 }  // namespace pelmar

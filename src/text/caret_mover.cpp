@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "text/caret_moves.h"
+#include "text/text_stops.h"
 
 namespace pelmar {
 

@@ -2,10 +2,16 @@
 
 namespace pelmar {
 
-std::size_t FindFrom(std::string_view text, std::string_view term, std::size_t from) {
-  if (from < 1 || from > text.size()) return 0;
-  const std::size_t hit = text.find(term, from - 1);
-  return hit == std::string_view::npos ? 0 : hit + 1;
+std::optional<std::size_t> FindFrom(std::string_view text, std::string_view term, std::size_t from) {
+  const std::size_t hit = from < text.size() ? text.find(term, from) : std::string_view::npos;
+  return hit == std::string_view::npos ? std::nullopt : std::optional(hit);
 }
+
+void SelectHit(TextBuffer& text, std::size_t hit, std::size_t length) {
+  text.SetSelStart(hit);
+  text.SetSelLength(length);
+}
+
+std::string GoOnQuestion(std::size_t hit) { return "Nalezeno na " + std::to_string(hit + 1) + " místě, pokračovat ?"; }
 
 }  // namespace pelmar

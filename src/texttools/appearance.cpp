@@ -33,14 +33,17 @@ Color InvertedColor(Color color) { return kWhite - color; }
 void ApplyDosLook(MainView& view) {
   view.SetNormalState();
   view.SetOuterSize(kDosWidth, kDosHeight);
-  view.SetEditorColors(kDosGrey, kBlack);
-  view.SetEditorFont(std::string(kCourier));
-  view.SetEditorFontSize(8);
-  view.SetEditorBold(false);
-  view.MarkBold(false);
-  view.SetEditorItalic(false);
-  view.MarkItalic(false);
-  view.SetEditorColors(kDosGrey, kBlack);
+  ApplyLook(view, {std::string(kCourier), kDosGrey, kBlack});
+}
+
+void ApplyLook(MainView& view, const EditorLook& look) {
+  view.SetEditorBold(look.bold);
+  view.SetEditorItalic(look.italic);
+  view.MarkBold(look.bold);
+  view.MarkItalic(look.italic);
+  view.SetEditorColors(look.fore_color, look.back_color);
+  if (!look.font_name.empty()) view.SetEditorFont(look.font_name);
+  view.SetEditorFontSize(static_cast<int>(look.font_size));
 }
 
 void AddAppearanceCommands(Editor& editor, MainView& view) {

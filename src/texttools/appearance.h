@@ -26,6 +26,9 @@ void AddAppearanceCommands(Editor& editor, MainView& view);
 // Normal state, a fixed size, light grey on black.
 void ApplyDosLook(MainView& view);
 
+// The whole look with the marks of bold and italic. No name leaves the font as it is.
+void ApplyLook(MainView& view, const EditorLook& look);
+
 // A colour's opposite, as plain numbers.
 Color InvertedColor(Color color);
 

@@ -4,15 +4,8 @@
 #include "text/search.h"
 
 namespace pelmar {
-namespace {
 
-// Selects a hit (from 1) in the document, clipped to its end.
-void SelectHit(TextBuffer& document, std::size_t hit, std::size_t length) {
-  document.SetSelStart(hit - 1);
-  document.SetSelLength(length);
-}
-
-}  // namespace
+void TellNothingFound(Platform& platform) { platform.Message(MessageType::kOk, "Nenalezeno !", "Hledání"); }
 
 std::string DefaultTerm(const TextBuffer& document) {
   return document.HasSelection() ? std::string(document.SelText()) : "Text";
@@ -39,18 +32,15 @@ void Finder::Start() {
   snapshot_.SetText(std::move(text));
   history.push_back(find);  // required: behind the folding, so that an upper-cased term stands so in the list
   count = position = 0;
-  const std::size_t hit = FindFrom(snapshot_.Text(), find, 1);
-  if (hit != 0) return Show(hit);
+  if (const auto hit = FindFrom(snapshot_.Text(), find, 0)) return Show(*hit);
   TellNothing();
   GoIdle();
   count = position = std::nullopt;
 }
 
 void Finder::Next() {
-  const std::size_t at = static_cast<std::size_t>(position.value_or(0)) + 1;
   // Hits may overlap: the next one may begin a character behind the start of the last.
-  const std::size_t hit = FindFrom(snapshot_.Text(), find, at + 1);
-  if (hit != 0) return Show(hit);
+  if (const auto hit = FindFrom(snapshot_.Text(), find, position.value_or(0) + 1)) return Show(*hit);
   TellNothing();
   GoIdle();  // required: the labels keep their values here, unlike after a start
 }
@@ -67,13 +57,13 @@ void Finder::PickHistory(std::size_t row) {
 
 void Finder::Show(std::size_t hit) {
   count = count.value_or(0) + 1;
-  position = static_cast<std::int64_t>(hit) - 1;
+  position = hit;
   SelectHit(document_, hit, find.size());
 }
 
 void Finder::TellNothing() {
   if (before_message) before_message();
-  platform_.Message(MessageType::kOk, "Nenalezeno !", "Hledání");
+  TellNothingFound(platform_);
 }
 
 void Finder::GoIdle() {
@@ -85,18 +75,18 @@ void Finder::GoIdle() {
 void FindPrimitively(TextBuffer& document, Platform& platform) {
   const auto answer = platform.InputBox("Vložte prosím text na hledání.", "Hledání", ToUtf8(DefaultTerm(document)));
   const std::string term = FromUtf8(answer.value_or(std::string()));
-  std::size_t position = 0;
+  std::size_t from = 0;
   std::size_t count = 0;
   while (true) {
-    position = FindFrom(document.Text(), term, position + 1);
-    if (position == 0) {
-      platform.Message(MessageType::kOk, "Nenalezeno !", "Hledání");
+    const auto hit = FindFrom(document.Text(), term, from);
+    if (!hit) {
+      TellNothingFound(platform);
       break;
     }
     ++count;
-    SelectHit(document, position, term.size());
-    const std::string question = "Nalezeno na " + std::to_string(position) + " místě, pokračovat ?";
-    if (platform.Message(MessageType::kYesNoQuestion, question, "hledání") != Answer::kYes) break;
+    SelectHit(document, *hit, term.size());
+    if (platform.Message(MessageType::kYesNoQuestion, GoOnQuestion(*hit), "hledání") != Answer::kYes) break;
+    from = *hit + 1;
   }
   platform.Message(MessageType::kOk, "Nalezeno " + std::to_string(count) + " X", "Hledání");
 }

@@ -1,8 +1,9 @@
 // The search of the dialog Hledání without its window, and the primitive find. The dialog searches a snapshot of the
-// document: it doesn't follow edits, and selects in the live text at the snapshot's positions. Texts are Windows-1250.
+// document: it doesn't follow edits, and selects in the live text at the snapshot's positions. Texts are Windows-1250,
+// positions from 0.
 #pragma once
 
-#include <cstdint>
+#include <cstddef>
 #include <functional>
 #include <optional>
 #include <string>
@@ -18,15 +19,15 @@ class Finder {
   Finder(TextBuffer& document, Platform& platform);
 
   // The dialog's fields; the window copies them in before each step and shows them after it.
-  std::string find;                      // Find
-  bool case_sensitive = true;            // Rozlisovat
-  bool find_on = true;                   // Find, Command1
-  bool case_on = true;                   // Rozlisovat
-  bool history_on = true;                // History
-  bool next_on = false;                  // Command2
-  std::vector<std::string> history;      // History
-  std::optional<std::int64_t> count;     // Label3
-  std::optional<std::int64_t> position;  // Label5, from 0
+  std::string find;                     // Find
+  bool case_sensitive = true;           // Rozlisovat
+  bool find_on = true;                  // Find, Command1
+  bool case_on = true;                  // Rozlisovat
+  bool history_on = true;               // History
+  bool next_on = false;                 // Command2
+  std::vector<std::string> history;     // History
+  std::optional<std::size_t> count;     // Label3
+  std::optional<std::size_t> position;  // Label5
 
   // Told before a message in the middle of a step, for the window to show the fields as they are.
   std::function<void()> before_message;
@@ -55,5 +56,7 @@ void FindPrimitively(TextBuffer& document, Platform& platform);
 
 // The term that a search begins with: the selected text, else "Text".
 std::string DefaultTerm(const TextBuffer& document);
+
+void TellNothingFound(Platform& platform);
 
 }  // namespace pelmar

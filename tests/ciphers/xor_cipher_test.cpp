@@ -4,9 +4,9 @@
 
 #include <algorithm>
 #include <cmath>
-#include <random>
 #include <vector>
 
+#include "support/random_source.h"
 #include "support/scripted_platform.h"
 #include "support/whole_editor.h"
 #include "text/codepage.h"
@@ -68,30 +68,9 @@ TEST(ReproducibleGenerator, GivesTheToldKeyBytes) {
 }
 
 TEST(ReproducibleGenerator, EqualsASecondImplementation) {
-  std::vector<double> keys = {0,
-                              1,
-                              2,
-                              -1,
-                              123,
-                              0.5,
-                              1.5,
-                              0.1,
-                              1.0 / 3,
-                              3.14159265358979,
-                              1e15,
-                              1e100,
-                              1e-5,
-                              1e-300,
-                              -12345678901234,
-                              123456789012345,
-                              999999999999999,
-                              65535,
-                              65536,
-                              1.5e308};
-  std::mt19937_64 random(3);
-  for (int i = 0; i < 500; ++i) keys.push_back(static_cast<double>(random() % 1000000000000000));
-  for (int i = 0; i < 500; ++i)
-    keys.push_back(std::ldexp(static_cast<double>(random()), static_cast<int>(random() % 1000) - 500));
+  std::vector<double> keys = {0, 1, -1, 0.5, 0.1, 1e15, 1e-300, 1.5e308, -12345678901234, 65535, 65536};
+  RandomSource random(3);
+  for (int i = 0; i < 1000; ++i) keys.push_back(std::ldexp(random.Next(), static_cast<int>(random.Below(1000)) - 500));
   for (const double key : keys) {
     ReproducibleGenerator generator;
     ReproducibleGenerator bytes;
@@ -108,35 +87,19 @@ TEST(ReproducibleGenerator, EqualsASecondImplementation) {
   }
 }
 
-TEST(ReproducibleGenerator, KnowsTheHighHalfOfTheKeyAlone) {
-  const double near = 1 + std::ldexp(1, -40);
-  EXPECT_EQ(KeyBytes(near, 50), KeyBytes(1, 50));
-  EXPECT_NE(KeyBytes(1 + std::ldexp(1, -20), 50), KeyBytes(1, 50));
-}
-
 TEST(KeyText, IsANumberAndNoPassword) {
-  const struct {
-    const char *typed, *shown;
-  } cases[] = {
-      {"", "0"},
-      {"abc", "0"},
-      {"12ab", "12"},
-      {"1.5", "1"},
-      {"1,5", "1"},
-      {"007", "7"},
-      {"-", "0"},
-      {"-5", "-5"},
-      {"0.1", "0"},
-      {"-0.5", "0"},
-      {"1E5", "100000"},
-      {"1E20", "1E+20"},
-      {"1E-7", "1E-07"},
-      {"1.5E-7", "1"},
-      {" 12", "12"},
-      {"1E999", "1E+99"},
-      {"123456789012345", "123456789012345"},
-  };
-  for (const auto& c : cases) EXPECT_EQ(KeyText(c.typed), c.shown) << c.typed;
+  const std::pair<const char*, const char*> cases[] = {{"", "0"},
+                                                       {"12ab", "12"},
+                                                       {"1.5", "1"},
+                                                       {"1,5", "1"},
+                                                       {"-", "0"},
+                                                       {"-0.5", "0"},
+                                                       {"1E5", "100000"},
+                                                       {"1E20", "1E+20"},
+                                                       {"1.5E-7", "1"},
+                                                       {"1E999", "1E+99"},
+                                                       {"123456789012345", "123456789012345"}};
+  for (const auto& [typed, shown] : cases) EXPECT_EQ(KeyText(typed), shown) << typed;
 }
 
 // Runs of a document through the whole rewrite.
@@ -156,34 +119,18 @@ struct StreamTest : testing::Test {
   }
 };
 
-TEST_F(StreamTest, UndoesItselfWhereNothingIsLost) {
-  std::mt19937 random(1);
-  int intact = 0;
-  for (int round = 0; round < 3000; ++round) {
-    const double key = static_cast<double>(random()) / (random() % 2 ? 1 : -7);
-    std::string text;
-    for (auto n = random() % 120; n > 0; --n) {
-      const char ch = CharOf(static_cast<int>(random() % 256));
-      text += ch == '\b' ? '\r' : ch;
-    }
-    std::string once;
-    StreamCipher(key).Append(text, once);
-    // One character lost shifts all behind it against the key.
+TEST_F(StreamTest, IsTheTextAgainstTheKeyBytesWithoutTheZeros) {
+  RandomSource random(1);
+  for (int round = 0; round < 1000; ++round) {
+    const double key = random.Next() * 1e9 / (round % 2 ? 1 : -7);
+    const std::string text = random.Bytes(120);
     const std::vector<int> bytes = KeyBytes(key, static_cast<int>(text.size()));
-    std::string expected;
+    std::string expected, once;
     for (std::size_t i = 0; i < text.size(); ++i)
       if (const int code = CodeOf(text[i]) ^ bytes[i]) expected += CharOf(code);
+    StreamCipher(key).Append(text, once);
     ASSERT_EQ(once, expected);
-    if (once.size() != text.size()) continue;
-    ++intact;
-    std::string twice;
-    StreamCipher(key).Append(once, twice);
-    // A code 0 of the text comes back as the key byte's own value, which is dropped.
-    std::string without_zeros = text;
-    std::erase(without_zeros, '\0');
-    ASSERT_EQ(twice, without_zeros);
   }
-  EXPECT_GT(intact, 2000);
 }
 
 TEST_F(StreamTest, DropsTheCharacterThatEqualsItsKeyByte) {
@@ -202,15 +149,7 @@ TEST_F(StreamTest, WarnsOfCode8AndGoesOn) {
   const std::vector<std::string> warning = {"message 0 \"Porusena intengrita textu!\" \"Kódování\"",
                                             "message 52 \"Ukončit proces? (doporučuji ne)\" \"Kódování\""};
   EXPECT_EQ(platform.calls, (std::vector{warning[0], warning[1], warning[0], warning[1]}));
-  EXPECT_EQ(progress.back(), 4u);
-}
-
-TEST_F(StreamTest, TellsItsProgressOften) {
-  Rewritten(std::string(64000, 'x'), 1);
-  EXPECT_GE(progress.size(), 10u);
-  EXPECT_LE(progress.size(), 70u);
-  EXPECT_EQ(progress.back(), 64000u);
-  EXPECT_TRUE(std::ranges::is_sorted(progress));
+  EXPECT_EQ(progress, (std::vector<std::size_t>{1, 2, 2, 3, 4, 4}));  // at the character that a warning is about
 }
 
 TEST_F(StreamTest, ReadsADocumentThatChangesUnderIt) {
@@ -220,10 +159,7 @@ TEST_F(StreamTest, ReadsADocumentThatChangesUnderIt) {
     RewriteStream(document, 3, output, platform, meanwhile);
   };
   std::string all_a;
-  std::string all_b;
   StreamCipher(3).Append(text, all_a);
-  StreamCipher(3).Append(std::string(text.size(), 'b'), all_b);
-  ASSERT_EQ(KeyBytes(3, 20000).size(), text.size());
 
   std::size_t turned = 0;
   run([&](std::size_t done) {

@@ -2,13 +2,14 @@
 
 #include <gtest/gtest.h>
 
-#include <random>
+#include <algorithm>
 #include <string>
 #include <vector>
 
+#include "support/random_source.h"
 #include "text/caret_mover.h"
-#include "text/caret_moves.h"
 #include "text/codepage.h"
+#include "text/text_stops.h"
 
 namespace pelmar {
 namespace {
@@ -61,62 +62,40 @@ TEST(TextLayout, WrapsBehindBlanksAndBreaksLinesAtCrLfOnly) {
     std::string text;
     int columns;
     std::vector<std::string> rows;
-  } cases[] = {
-      {"", 5, {""}},
-      {"\r\n", 5, {"", ""}},
-      {"ab\r\n", 5, {"ab", ""}},
-      {"a\rb\nc", 9, {"a\rb\nc"}},              // a lone CR or LF is a character
-      {"a\n\rb\r\r\nc", 9, {"a\n\rb\r", "c"}},  // the last CR before LF makes the break
-      {"one two", 7, {"one two"}},
-      {"one two", 6, {"one ", "two"}},
-      {"one two", 3, {"one ", "two"}},        // the blank hangs over the edge
-      {"one  two", 3, {"one ", " ", "two"}},  // a second one does not
-      {"abc ", 3, {"abc "}},
-      {"abcdefgh", 3, {"abc", "def", "gh"}},
-      {"ab cdefgh", 3, {"ab ", "cde", "fgh"}},
-      {"a\tb", 9, {"a\tb"}},
-      {"a\tb", 8, {"a\t", "b"}},
-      {"iiii a", 3, {"iiii ", "a"}},
-      {"ab", 0, {"a", "b"}},  // narrower than any character: one to a row
-      {"a\xA0"
-       "b c",
-       3,
-       {"a\xA0"
-        "b ",
-        "c"}},  // a hard blank holds words together
-  };
-  for (const auto& c : cases) {
-    const Laid laid(c.text, Rules(c.columns));
-    EXPECT_EQ(laid.Rows(), c.rows) << c.text << " in " << c.columns;
-  }
+  } cases[] = {{"", 5, {""}},
+               {"a\n\rb\r\r\nc\r\n", 9, {"a\n\rb\r", "c", ""}},  // the last CR before LF makes the break
+               {"one two", 6, {"one ", "two"}},
+               {"one two", 3, {"one ", "two"}},        // the blank hangs over the edge
+               {"one  two", 3, {"one ", " ", "two"}},  // a second one does not
+               {"abc ", 3, {"abc "}},
+               {"ab cdefgh", 3, {"ab ", "cde", "fgh"}},
+               {"a\tb", 9, {"a\tb"}},
+               {"a\tb", 8, {"a\t", "b"}},
+               {"iiii a", 3, {"iiii ", "a"}},
+               {"ab", 0, {"a", "b"}},  // narrower than any character: one to a row
+               {std::string("a\xA0") + "b c", 3, {std::string("a\xA0") + "b ", "c"}}};  // a hard blank holds words
+  for (const auto& c : cases) EXPECT_EQ(Laid(c.text, Rules(c.columns)).Rows(), c.rows) << c.text << " in " << c.columns;
   EXPECT_EQ(Laid("one two\r\nthree", Rules(3, false)).Rows(), (std::vector<std::string>{"one two", "three"}));
 }
 
 TEST(TextLayout, RowsAndPlacesFollowAnyEditAsIfLaidOutAnew) {
-  std::mt19937 random(20);
-  const std::string alphabet = "ab  \t\r\n\r\n\x01-";
-  const auto piece = [&](std::size_t longest) {
-    std::string text(random() % (longest + 1), ' ');
-    for (char& ch : text) ch = alphabet[random() % alphabet.size()];
-    return text;
-  };
-  for (const bool wrap : {true, false}) {
-    for (int round = 0; round < 60; ++round) {
-      const LayoutRules rules = OddRules(static_cast<int>(random() % 120) + 1, wrap);
-      Laid laid(piece(300), rules);
-      if (round == 0) laid.buffer.Replace(0, 0, std::string(9000, 'b') + '\t' + std::string(3000, 'a'));
-      laid.layout.Lay(laid.buffer, rules);
-      const Listening heard = laid.buffer.OnChange([&](const TextChange& change) { laid.layout.Update(change); });
-      for (int edit = 0; edit < 40; ++edit) {
-        const std::size_t pos = random() % (laid.buffer.Size() + 1);
-        laid.buffer.Replace(pos, random() % 12, piece(8));
-        Laid fresh(laid.buffer.Text(), rules);
-        ASSERT_EQ(laid.Rows(), fresh.Rows()) << "width " << rules.width << " edit " << edit;
-        ASSERT_EQ(laid.layout.ContentWidth(), fresh.layout.ContentWidth());
-        const std::size_t probe = random() % (laid.buffer.Size() + 1);
-        const std::size_t row = laid.layout.RowOf(probe);
-        ASSERT_EQ(laid.layout.XOf(row, probe), fresh.layout.XOf(row, probe));
-      }
+  RandomSource random(20);
+  const auto piece = [&](std::size_t longest) { return random.Text(longest, "ab  \t\r\n\r\n\x01-"); };
+  for (int round = 0; round < 120; ++round) {
+    const LayoutRules rules = OddRules(static_cast<int>(random.Below(120)) + 1, round % 2 == 0);
+    Laid laid(piece(300), rules);
+    if (round < 2) laid.buffer.Replace(0, 0, std::string(9000, 'b') + '\t' + std::string(3000, 'a'));
+    laid.layout.Lay(laid.buffer, rules);
+    const Listening heard = laid.buffer.OnChange([&](const TextChange& change) { laid.layout.Update(change); });
+    for (int edit = 0; edit < 40; ++edit) {
+      const std::size_t pos = random.Below(laid.buffer.Size() + 1);
+      laid.buffer.Replace(pos, random.Below(12), piece(8));
+      Laid fresh(laid.buffer.Text(), rules);
+      ASSERT_EQ(laid.Rows(), fresh.Rows()) << "width " << rules.width << " edit " << edit;
+      ASSERT_EQ(laid.layout.ContentWidth(), fresh.layout.ContentWidth());
+      const std::size_t probe = random.Below(laid.buffer.Size() + 1);
+      const std::size_t row = laid.layout.RowOf(probe);
+      ASSERT_EQ(laid.layout.XOf(row, probe), fresh.layout.XOf(row, probe));
     }
   }
 }
@@ -148,7 +127,9 @@ TEST(TextLayout, EveryStopIsFoundAgainWhereItIsShown) {
         const std::size_t row = laid.layout.RowOf(pos);
         if (pos > laid.layout.RowEnd(row)) continue;  // inside a CR LF
         const std::int64_t x = laid.layout.RowLeft(row) + laid.layout.XOf(row, pos);
-        ASSERT_EQ(PlaceInRow(laid.layout, row, x).pos, pos) << "wrap " << wrap;
+        const TextPlace place = PlaceInRow(laid.layout, row, x);
+        ASSERT_EQ(place.pos, pos) << "wrap " << wrap;
+        ASSERT_EQ(place.at_row_end, pos == laid.layout.RowEnd(row) && !laid.layout.EndsLine(row));
         ASSERT_EQ(laid.layout.CharAt(row, laid.layout.XOf(row, pos)), pos);
         ASSERT_LE(laid.layout.RowLeft(row) + laid.layout.RowWidth(row), laid.layout.ContentWidth());
       }
@@ -173,31 +154,33 @@ TEST(TextLayout, AlignsRowsInTheWindowOrInTheWidestRow) {
   EXPECT_EQ(laid.layout.RowLeft(1), 20 * kUnitsPerPixel);
 }
 
-TEST(CaretMoves, StepsAndWords) {
+std::vector<std::size_t> Walk(std::string_view text, std::size_t from, std::size_t to,
+                              std::size_t (*step)(std::string_view, std::size_t)) {
+  std::vector<std::size_t> seen{from};
+  while (seen.back() != to && seen.size() <= text.size()) seen.push_back(step(text, seen.back()));
+  return seen;
+}
+
+TEST(TextStops, StepsAndWords) {
+  using Stops = std::vector<std::size_t>;
   const std::string text = "ab, c\r\n\r\n  d\re\xE8";  // è of the page's own: a letter
-  const std::vector<std::size_t> steps{0, 1, 2, 3, 4, 5, 7, 9, 10, 11, 12, 13, 14, 15};
-  std::vector<std::size_t> seen{0};
-  while (seen.back() < text.size()) seen.push_back(NextStop(text, seen.back()));
-  EXPECT_EQ(seen, steps);
-  for (std::size_t i = steps.size() - 1; i > 0; --i) EXPECT_EQ(PreviousStop(text, steps[i]), steps[i - 1]);
+  Stops steps = Walk(text, 0, text.size(), NextStop);
+  EXPECT_EQ(steps, (Stops{0, 1, 2, 3, 4, 5, 7, 9, 10, 11, 12, 13, 14, 15}));
+  std::reverse(steps.begin(), steps.end());
+  EXPECT_EQ(Walk(text, text.size(), 0, PreviousStop), steps);
+  EXPECT_EQ(Walk(text, 0, text.size(), NextWord), (Stops{0, 2, 4, 5, 7, 11, 12, 13, 15}));
+  EXPECT_EQ(Walk(text, text.size(), 0, PreviousWord), (Stops{15, 13, 12, 11, 9, 7, 5, 4, 2, 0}));
   EXPECT_EQ(PreviousStop(text, 6), 5u);  // from between CR and LF
   EXPECT_EQ(NextStop(text, 6), 7u);
+  EXPECT_EQ(NextWord("\r\n\na", 1), 2u);
 
-  std::vector<std::size_t> words{0};
-  while (words.back() < text.size()) words.push_back(NextWord(text, words.back()));
-  EXPECT_EQ(words, (std::vector<std::size_t>{0, 2, 4, 5, 7, 11, 12, 13, 15}));
-  words = {text.size()};
-  while (words.back() > 0) words.push_back(PreviousWord(text, words.back()));
-  EXPECT_EQ(words, (std::vector<std::size_t>{15, 13, 12, 11, 9, 7, 5, 4, 2, 0}));
-
-  const auto word = [&](std::size_t pos) {
-    return text.substr(WordAt(text, pos).begin, WordAt(text, pos).end - WordAt(text, pos).begin);
-  };
-  EXPECT_EQ(word(1), "ab");
-  EXPECT_EQ(word(2), ",");
-  EXPECT_EQ(word(5), "c");  // behind the last word of the line
-  EXPECT_EQ(word(7), "");
-  EXPECT_EQ(word(15), "e\xE8");
+  const std::pair<std::size_t, std::string_view> words[] = {
+      {1, "ab"}, {2, ","}, {5, "c"}, {6, ""}, {7, ""}, {15, "e\xE8"}};  // 5: behind the last word of the line
+  for (const auto& [pos, word] : words) {
+    const TextSpan span = WordAt(text, pos);
+    EXPECT_EQ(text.substr(span.begin, span.end - span.begin), word) << pos;
+  }
+  EXPECT_EQ(WordAt("", 0).end, 0u);
 }
 
 TEST(CaretMover, UpAndDownKeepTheirAimOverShortRows) {
@@ -215,14 +198,23 @@ TEST(CaretMover, UpAndDownKeepTheirAimOverShortRows) {
   EXPECT_EQ(laid.Go(CaretMove::kDown), 16u);
   laid.buffer.SetSelStart(1);  // by somebody else
   EXPECT_EQ(laid.Go(CaretMove::kDown), 9u);
+  laid.buffer.SetSelStart(5);
+  laid.Go(CaretMove::kDown);
+  EXPECT_EQ(laid.Go(CaretMove::kRowEnd), 10u);  // the same place, but the aim is another now
+  EXPECT_EQ(laid.Go(CaretMove::kDown), 14u);
 }
 
 TEST(CaretMover, EndOfAWrappedRowShowsTheCaretOnThatRow) {
   Laid laid("abcdef", Rules(3));
   EXPECT_EQ(laid.Go(CaretMove::kRowEnd), 3u);
   EXPECT_EQ(laid.mover.Row(laid.buffer), 0u);
+  EXPECT_TRUE(PlaceInRow(laid.layout, 0, 40 * kUnitsPerPixel).at_row_end);
   EXPECT_EQ(laid.Go(CaretMove::kRowEnd), 3u);
   EXPECT_EQ(laid.Go(CaretMove::kRowStart), 0u);
+  laid.Go(CaretMove::kRowEnd);
+  laid.mover.Forget();
+  EXPECT_EQ(laid.mover.Row(laid.buffer), 1u);
+  laid.Go(CaretMove::kUp);
   laid.Go(CaretMove::kRowEnd);
   EXPECT_EQ(laid.Go(CaretMove::kDown), 6u);  // the aim is the row's end
   laid.Go(CaretMove::kRowStart);

@@ -49,21 +49,33 @@ TEST_F(AppearanceTest, DosAndBasicLook) {
   view.look.bold = view.look.italic = true;
   editor.commands.Run("Dos");
   EXPECT_TRUE(Told("normal"));
+  EXPECT_TRUE(Told("no bold mark") && Told("no italic mark"));
   EXPECT_EQ(view.place.width, 9210);
   EXPECT_EQ(view.place.height, 6675);
   EXPECT_EQ(view.look.fore_color, Rgb(194, 194, 194));
   EXPECT_EQ(view.look.back_color, 0);
   EXPECT_EQ(view.look.font_name, "Courier New");
   EXPECT_FALSE(view.look.bold || view.look.italic);
-  view.look.bold = true;
+  view.look.bold = view.look.italic = true;
   view.calls.clear();
   editor.commands.Run("mnubasic");
   EXPECT_EQ(view.look.font_name, "MS Sans Serif");
-  EXPECT_FALSE(view.look.bold);
+  EXPECT_FALSE(view.look.bold || view.look.italic);
   EXPECT_FALSE(Told("no bold mark"));  // required: the mark of mnuEditBold stays
   EXPECT_TRUE(Told("no italic mark"));
   EXPECT_EQ(view.look.back_color, 0xFFFFFF);
   EXPECT_EQ(view.place.width, 9210);
+}
+
+TEST(Visual, ALookWithoutAFontLeavesTheFont) {
+  PlainView view;
+  view.look = {"Terminal", 1, 2, 12, false, true};
+  ApplyLook(view, {"", 3, 4, 11, true, false});
+  EXPECT_EQ(view.calls, (std::vector<std::string>{"bold", "italic", "bold mark", "no italic mark", "colors", "size"}));
+  EXPECT_EQ(view.look.font_name, "Terminal");
+  EXPECT_EQ(view.look.font_size, 8);  // a size outside the six
+  ApplyLook(view, {"Courier New"});
+  EXPECT_EQ(view.look.font_name, "Courier New");
 }
 
 TEST(Visual, SizeField) {

@@ -25,12 +25,12 @@ struct SearchTest : testing::Test {
 using Range = std::pair<std::size_t, std::size_t>;
 
 TEST(FindFrom, EmptyTermsAndBorders) {
-  EXPECT_EQ(FindFrom("abab", "ab", 1), 1u);
-  EXPECT_EQ(FindFrom("abab", "ab", 2), 3u);
-  EXPECT_EQ(FindFrom("abab", "ab", 5), 0u);
-  EXPECT_EQ(FindFrom("ab", "", 2), 2u);
-  EXPECT_EQ(FindFrom("ab", "", 3), 0u);
-  EXPECT_EQ(FindFrom("", "", 1), 0u);
+  EXPECT_EQ(FindFrom("abab", "ab", 0), 0u);
+  EXPECT_EQ(FindFrom("abab", "ab", 1), 2u);
+  for (const std::size_t from : {3u, 4u, 5u}) EXPECT_EQ(FindFrom("abab", "ab", from), std::nullopt);
+  EXPECT_EQ(FindFrom("ab", "", 1), 1u);
+  EXPECT_EQ(FindFrom("ab", "", 2), std::nullopt);
+  EXPECT_EQ(FindFrom("", "", 0), std::nullopt);
 }
 
 TEST_F(SearchTest, FindStepsThroughOverlappingMatches) {
@@ -144,7 +144,9 @@ TEST_F(SearchTest, PrimitiveFindAsksItsWayThroughTheLiveText) {
 
 TEST_F(SearchTest, ReplaceStepsAndReadsItsReplacementAgain) {
   Text("a a a");
+  replacer.step_on = true;
   replacer.Load();
+  EXPECT_FALSE(replacer.step_on);
   replacer.find = "a";
   replacer.change = "ba";
   EXPECT_TRUE(replacer.Start());
@@ -182,7 +184,8 @@ TEST_F(SearchTest, ReplaceWithoutCaseKeepsTheHistoryAsTyped) {
   EXPECT_EQ(Selection(), (Range{5, 3}));
   replacer.ReplaceAll();  // required: the folded term misses the lower-case occurrence
   EXPECT_EQ(text.Text(), "voda čaj"_w);
-  EXPECT_FALSE(replacer.all_on || replacer.case_on);
+  EXPECT_TRUE(replacer.find_on && replacer.lists_on && replacer.change_on);
+  EXPECT_FALSE(replacer.all_on || replacer.case_on || replacer.step_on);
   EXPECT_EQ(replacer.found_shown, std::nullopt);
   replacer.PickRow(0);
   EXPECT_EQ(replacer.find, "čaj"_w);

@@ -92,7 +92,7 @@ TEST(ShuffledWords, EqualsTheToldLoopOnRandomTexts) {
   std::mt19937 random(7);
   for (unsigned round = 0; round < 3000; ++round) {
     std::string text;
-    for (std::size_t n = 1 + random() % 40; n > 0; --n) text += "ab  \r\n"[random() % 6];
+    for (std::size_t n = 1 + random() % (round % 8 ? 40 : 900); n > 0; --n) text += "ab  \r\n"[random() % 6];
     ASSERT_EQ(ShuffledWords(text, Uniform(round)), ToldShuffle(text, Uniform(round))) << text;
   }
 }

@@ -174,6 +174,7 @@ TEST_F(TextToolsTest, WholeTextFromTheClipboardIsAskedFor) {
   EXPECT_EQ(After("mnuinsert"), "new");
   EXPECT_EQ(editor.documents.CurrentPath(), "/a.txt");
   EXPECT_EQ(After("mnunewclip"), "new");
+  EXPECT_EQ(platform.calls.back(), "message 52 \"Opravdu nový dokument z textu ve schránce ?\" \"Nový\"");
   EXPECT_EQ(editor.documents.CurrentPath(), "");  // required: on No as well
   EXPECT_EQ(editor.documents.Title(), "Pelmar VEX ()");
   editor.commands.Run("mnuclearclip");

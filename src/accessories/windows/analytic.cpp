@@ -24,17 +24,13 @@ class RowDelegate : public QStyledItemDelegate {
 
 }  // namespace
 
-Analytic::Analytic(const TextBuffer& document, QWidget* parent)
-    : DialogWindow(parent), document_(document), ui_(std::make_unique<Ui::Analytic>()) {
-  ui_->setupUi(this);
+Analytic::Analytic(const TextBuffer& document, QWidget* parent) : FormDialog(parent), document_(document) {
   ui_->List1->setItemDelegate(new RowDelegate(ui_->List1));
   timer1_.setObjectName(QStringLiteral("Timer1"));
   timer1_.setInterval(2000);
   ConnectEvents();
   AnalyseText(document_.Text());
 }
-
-Analytic::~Analytic() = default;
 
 void Analytic::ConnectEvents() {
   connect(ui_->Command1, &QPushButton::clicked, this, &Analytic::Command1_Click);

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QTimer>
-#include <memory>
 
 #include "platform/qt/controls/dialog_window.h"
 #include "text/text_buffer.h"
@@ -13,12 +12,11 @@ class Analytic;
 
 namespace pelmar {
 
-class Analytic : public DialogWindow {
+class Analytic : public FormDialog<Ui::Analytic> {
   Q_OBJECT
 
  public:
   Analytic(const TextBuffer& document, QWidget* parent);
-  ~Analytic() override;
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -38,7 +36,6 @@ class Analytic : public DialogWindow {
 
   const TextBuffer& document_;
   QTimer timer1_{this};
-  std::unique_ptr<Ui::Analytic> ui_;
 };
 
 }  // namespace pelmar

@@ -12,9 +12,7 @@ QColor Shown(const Channels& c) { return {c.red, c.green, c.blue}; }
 
 }  // namespace
 
-ColorDialog::ColorDialog(Platform& platform, QWidget* parent)
-    : DialogWindow(parent), platform_(platform), ui_(std::make_unique<Ui::ColorDialog>()) {
-  ui_->setupUi(this);
+ColorDialog::ColorDialog(Platform& platform, QWidget* parent) : FormDialog(parent), platform_(platform) {
   const std::pair<QScrollBar*, QLabel*> sliders[] = {
       {ui_->VScroll10, ui_->Label1}, {ui_->VScroll11, ui_->Label2}, {ui_->VScroll12, ui_->Label3}};
   for (const auto& [slider, label] : sliders)
@@ -27,8 +25,6 @@ ColorDialog::ColorDialog(Platform& platform, QWidget* parent)
   ConnectCommands();
   RefreshColor();
 }
-
-ColorDialog::~ColorDialog() = default;
 
 void ColorDialog::ConnectCommands() {
   const auto apply = [this](QPushButton* button, Channels (*function)(const Channels&)) {

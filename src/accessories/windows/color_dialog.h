@@ -1,8 +1,6 @@
 // `ColorDialog`: a colour by three sliders, with transformations and a history. PickColor is its only door.
 #pragma once
 
-#include <memory>
-
 #include "accessories/color_math.h"
 #include "platform/platform.h"
 #include "platform/qt/controls/dialog_window.h"
@@ -16,12 +14,11 @@ class ColorDialog;
 
 namespace pelmar {
 
-class ColorDialog : public DialogWindow {
+class ColorDialog : public FormDialog<Ui::ColorDialog> {
   Q_OBJECT
 
  public:
   ColorDialog(Platform& platform, QWidget* parent);
-  ~ColorDialog() override;
 
   // Waits for a choice. required: after Storno the colour of the run's last Ok comes back, or black, not the given one.
   Color PickColor(Color color);
@@ -36,7 +33,6 @@ class ColorDialog : public DialogWindow {
 
   Platform& platform_;
   Color picked_color_ = 0;  // PickedColor
-  std::unique_ptr<Ui::ColorDialog> ui_;
 };
 
 }  // namespace pelmar

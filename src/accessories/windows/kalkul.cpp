@@ -12,13 +12,11 @@
 namespace pelmar {
 
 Kalkul::Kalkul(Platform& platform, bool stand_alone, Doors doors, QWidget* parent)
-    : DialogWindow(parent),
+    : FormDialog(parent),
       platform_(platform),
       stand_alone_(stand_alone),
       doors_(std::move(doors)),
-      calculator_(platform),
-      ui_(std::make_unique<Ui::Kalkul>()) {
-  ui_->setupUi(this);
+      calculator_(platform) {
   if (stand_alone_) {
     setWindowFlags(Qt::Window);  // a program's window can be minimised, a dialog can't
     ui_->Command19->setText(QStringLiteral("&Clip"));
@@ -38,8 +36,6 @@ Kalkul::Kalkul(Platform& platform, bool stand_alone, Doors doors, QWidget* paren
   connect(ui_->Command35, &QPushButton::clicked, this, [this] { doors_.show_converter(); });
   new KeyPreview(*this, [this](const QKeyEvent& event) { return PhysicalKey(event); });
 }
-
-Kalkul::~Kalkul() = default;
 
 void Kalkul::OnClick(QPushButton* key, std::function<void()> act) {
   connect(key, &QPushButton::clicked, this, [this, act = std::move(act)] {
@@ -134,47 +130,24 @@ void Kalkul::showEvent(QShowEvent* event) {
 }
 
 QPushButton* Kalkul::KeyOf(char character) const {
-  switch (character) {
-    case '0':
-      return ui_->Command10;
-    case ',':
-    case '.':
-      return ui_->Command11;
-    case '+':
-      return ui_->Command12;
-    case '-':
-      return ui_->Command13;
-    case '*':
-      return ui_->Command14;
-    case '/':
-      return ui_->Command15;
-    case '^':
-      return ui_->Command33;
-    case '=':
-    case '\r':
-      return ui_->Command16;
-    case '\b':
-      return ui_->Command21;
-    default:
-      break;
-  }
-  QPushButton* const digits[] = {ui_->Command1, ui_->Command2, ui_->Command3, ui_->Command4, ui_->Command5,
-                                 ui_->Command6, ui_->Command7, ui_->Command8, ui_->Command9};
-  return character >= '1' && character <= '9' ? digits[character - '1'] : nullptr;
+  const std::pair<std::string_view, QPushButton*> keys[] = {
+      {"1", ui_->Command1},    {"2", ui_->Command2},  {"3", ui_->Command3},   {"4", ui_->Command4},
+      {"5", ui_->Command5},    {"6", ui_->Command6},  {"7", ui_->Command7},   {"8", ui_->Command8},
+      {"9", ui_->Command9},    {"0", ui_->Command10}, {",.", ui_->Command11}, {"+", ui_->Command12},
+      {"-", ui_->Command13},   {"*", ui_->Command14}, {"/", ui_->Command15},  {"^", ui_->Command33},
+      {"=\r", ui_->Command16}, {"\b", ui_->Command21}};
+  for (const auto& [characters, key] : keys)
+    if (characters.find(character) != std::string_view::npos) return key;
+  return nullptr;
 }
 
 Preview Kalkul::PhysicalKey(const QKeyEvent& event) {
   const auto character = TypedCharacter(event);
   QPushButton* key = event.key() == Qt::Key_Delete ? ui_->Command23 : character ? KeyOf(*character) : nullptr;
   if (key == nullptr) return Preview::kPass;
-  // Who types doesn't look at the keys: an operator behind another one, also the one that the keys on the screen leave
-  // on, ends the operation that waits first.
-  if (calculator_.EqualsOn() && (!key->isEnabled() || key == ui_->Command33)) {
-    const bool done = calculator_.Evaluate();
-    Show();
-    if (!done) return Preview::kTake;
-  }
-  key->click();
+  const bool goes_on = !character || calculator_.MakeWayFor(*character);
+  Show();
+  if (goes_on) key->click();
   return Preview::kTake;
 }
 

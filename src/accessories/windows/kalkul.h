@@ -3,7 +3,6 @@
 #pragma once
 
 #include <functional>
-#include <memory>
 
 #include "accessories/calculator.h"
 #include "accessories/windows/key_preview.h"
@@ -18,7 +17,7 @@ class Kalkul;
 
 namespace pelmar {
 
-class Kalkul : public DialogWindow {
+class Kalkul : public FormDialog<Ui::Kalkul> {
   Q_OBJECT
 
  public:
@@ -31,7 +30,6 @@ class Kalkul : public DialogWindow {
   };
 
   Kalkul(Platform& platform, bool stand_alone, Doors doors, QWidget* parent);
-  ~Kalkul() override;
 
   // Shows a number in place of the one that is there.
   void SetNumber(const std::string& number);
@@ -56,7 +54,6 @@ class Kalkul : public DialogWindow {
   bool stand_alone_;
   Doors doors_;
   Calculator calculator_;
-  std::unique_ptr<Ui::Kalkul> ui_;
   QLabel* cut_;  // dots before a number of which only the end is to be seen
 };
 

@@ -12,9 +12,7 @@
 
 namespace pelmar {
 
-Klavesnice::Klavesnice(TextBuffer& document, QWidget* parent)
-    : DialogWindow(parent), document_(document), ui_(std::make_unique<Ui::Klavesnice>()) {
-  ui_->setupUi(this);
+Klavesnice::Klavesnice(TextBuffer& document, QWidget* parent) : FormDialog(parent), document_(document) {
   ConnectKeys();
   ConnectShift();
   // No key has the keyboard until the tabulator gives it one.
@@ -22,8 +20,6 @@ Klavesnice::Klavesnice(TextBuffer& document, QWidget* parent)
   setFocus();
   new KeyPreview(*this, [this](const QKeyEvent& event) { return PhysicalKey(event); });
 }
-
-Klavesnice::~Klavesnice() = default;
 
 void Klavesnice::ConnectKeys() {
   // In a group the arrow keys go from key to key by where they lie.

@@ -2,7 +2,6 @@
 // are clicked, so what is typed on the real one while this window is the active one lands in the document as well.
 #pragma once
 
-#include <memory>
 #include <string>
 
 #include "accessories/windows/key_preview.h"
@@ -15,12 +14,11 @@ class Klavesnice;
 
 namespace pelmar {
 
-class Klavesnice : public DialogWindow {
+class Klavesnice : public FormDialog<Ui::Klavesnice> {
   Q_OBJECT
 
  public:
   Klavesnice(TextBuffer& document, QWidget* parent);
-  ~Klavesnice() override;
 
  private:
   void ConnectKeys();
@@ -29,7 +27,6 @@ class Klavesnice : public DialogWindow {
   Preview PhysicalKey(const QKeyEvent& event);
 
   TextBuffer& document_;
-  std::unique_ptr<Ui::Klavesnice> ui_;
 };
 
 }  // namespace pelmar

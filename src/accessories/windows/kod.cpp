@@ -34,11 +34,7 @@ void SetFamily(QWidget& widget, const QString& family) {
 }  // namespace
 
 Kod::Kod(TextBuffer& document, std::function<void(const QKeyEvent&)> stroke_main, QWidget* parent)
-    : DialogWindow(parent),
-      document_(document),
-      stroke_main_(std::move(stroke_main)),
-      ui_(std::make_unique<Ui::Kod>()) {
-  ui_->setupUi(this);
+    : FormDialog(parent), document_(document), stroke_main_(std::move(stroke_main)) {
   ui_->Combo1->setCompleter(nullptr);  // it would make "Courier New" of a typed "Courier"
   connect(ui_->Combo1, &QComboBox::currentTextChanged, this, &Kod::Combo1_Change);
   connect(ui_->HScroll1, &QScrollBar::valueChanged, this, &Kod::HScroll1_Change);
@@ -52,8 +48,6 @@ Kod::Kod(TextBuffer& document, std::function<void(const QKeyEvent&)> stroke_main
   ui_->Picture1->NameCells([](int row, int column) { return SpokenName(CodeGrid::CodeAt(row, column)); });
   new KeyPreview(*this, [this](const QKeyEvent& event) { return TypedKey(event); });
 }
-
-Kod::~Kod() = default;
 
 void Kod::Combo1_Change(const QString& font_name) {
   SetFamily(*ui_->Picture1, font_name);

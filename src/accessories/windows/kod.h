@@ -4,7 +4,6 @@
 #pragma once
 
 #include <functional>
-#include <memory>
 
 #include "accessories/windows/key_preview.h"
 #include "platform/qt/controls/dialog_window.h"
@@ -16,13 +15,12 @@ class Kod;
 
 namespace pelmar {
 
-class Kod : public DialogWindow {
+class Kod : public FormDialog<Ui::Kod> {
   Q_OBJECT
 
  public:
   // `stroke_main` gives a key stroke to the main window and returns when it was handled.
   Kod(TextBuffer& document, std::function<void(const QKeyEvent&)> stroke_main, QWidget* parent);
-  ~Kod() override;
 
  private:
   void Combo1_Change(const QString& font_name);
@@ -35,7 +33,6 @@ class Kod : public DialogWindow {
 
   TextBuffer& document_;
   std::function<void(const QKeyEvent&)> stroke_main_;
-  std::unique_ptr<Ui::Kod> ui_;
 };
 
 }  // namespace pelmar

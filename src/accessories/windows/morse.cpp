@@ -12,13 +12,7 @@
 
 namespace pelmar {
 
-Morse::Morse(Platform& platform, QWidget* parent)
-    : DialogWindow(parent), platform_(platform), ui_(std::make_unique<Ui::Morse>()) {
-  ui_->setupUi(this);
-  AddMenus();
-}
-
-Morse::~Morse() = default;
+Morse::Morse(Platform& platform, QWidget* parent) : FormDialog(parent), platform_(platform) { AddMenus(); }
 
 void Morse::AddMenus() {
   auto* bar = new QMenuBar(this);

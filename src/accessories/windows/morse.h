@@ -1,7 +1,6 @@
 // `Morse`: a read-only box that collects signs, from the menus, from typed keys and from the clipboard.
 #pragma once
 
-#include <memory>
 #include <string_view>
 
 #include "platform/platform.h"
@@ -16,12 +15,11 @@ class Morse;
 
 namespace pelmar {
 
-class Morse : public DialogWindow {
+class Morse : public FormDialog<Ui::Morse> {
   Q_OBJECT
 
  public:
   Morse(Platform& platform, QWidget* parent);
-  ~Morse() override;
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
@@ -34,7 +32,6 @@ class Morse : public DialogWindow {
   void mnuMakeMorse_Click();
 
   Platform& platform_;
-  std::unique_ptr<Ui::Morse> ui_;
 };
 
 }  // namespace pelmar

@@ -17,14 +17,6 @@
 namespace pelmar {
 namespace {
 
-constexpr int kTick = 10;  // milliseconds
-// A hundred wake-ups a second would cost a percent of a core for nothing. When nothing has moved for a second, the
-// timer goes slowly, for what no event tells (the distance, the screen), until something moves.
-constexpr int kQuietTick = 250;
-constexpr int kTicksUntilQuiet = 100;
-// A window manager may overlook a request while it moves the window itself, or refuse it for good.
-constexpr int kTries = 50;
-
 QFont FontOf(const EditorLook& look) {
   QFont font(TextToQString(look.font_name));
   if (look.font_size > 0) font.setPointSizeF(look.font_size);
@@ -61,7 +53,7 @@ Poznamka::Poznamka(Surroundings around)
   changes_ = ui_->Text1->Buffer().OnChange([this](const TextChange&) { keeper_.Touch(); });
   ui_->Text1->setFocus();
   timer1_.setObjectName(QStringLiteral("Timer1"));
-  timer1_.setInterval(kTick);
+  timer1_.setInterval(tick_.Interval());
   connect(&timer1_, &QTimer::timeout, this, &Poznamka::Timer1_Timer);
   connect(ui_->Dock, &QAction::toggled, this, &Poznamka::Wake);
   if (around_.main_window != nullptr) around_.main_window->installEventFilter(this);
@@ -186,8 +178,8 @@ void Poznamka::resizeEvent(QResizeEvent*) {
 void Poznamka::showEvent(QShowEvent* event) {
   if (!event->spontaneous()) {
     ShowProgramIcon();
-    timer1_.start(kTick);
     Wake();
+    timer1_.start();
   }
   QWidget::showEvent(event);
 }
@@ -213,8 +205,12 @@ NotesSurroundings Poznamka::Measures() const {
 }
 
 void Poznamka::Wake() {
-  quiet_ticks_ = 0;
-  if (timer1_.isActive() && timer1_.interval() != kTick) timer1_.start(kTick);
+  tick_.Wake();
+  SetPace();
+}
+
+void Poznamka::SetPace() {
+  if (timer1_.interval() != tick_.Interval()) timer1_.setInterval(tick_.Interval());
 }
 
 bool Poznamka::event(QEvent* event) {
@@ -228,22 +224,12 @@ bool Poznamka::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void Poznamka::Timer1_Timer() {
-  if (++quiet_ticks_ == kTicksUntilQuiet) timer1_.setInterval(kQuietTick);
-  if (isMinimized() || isMaximized()) return;
-  const NotesSurroundings now = Measures();
-  if (now != placed_for_) {
-    placed_for_ = now;
-    tries_left_ = kTries;
-    Wake();
+  if (isMinimized() || isMaximized()) {
+    tick_.Rest();
+  } else if (const auto place = tick_.Tick(Measures())) {
+    SetOuterPlace(*this, *place);
   }
-  if (tries_left_ == 0) return;
-  --tries_left_;
-  const TwipsRect place = PlaceNotes(now);
-  if (place == now.notes) {
-    tries_left_ = 0;
-  } else {
-    SetOuterPlace(*this, place);
-  }
+  SetPace();
 }
 
 }  // namespace pelmar

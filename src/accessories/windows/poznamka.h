@@ -60,6 +60,7 @@ class Poznamka : public QWidget {
   void TabStrip1_Click(int index);
   void Timer1_Timer();
   void Wake();
+  void SetPace();
   bool Unload();
   bool RefuseOverlong(const NotesRecord& record);
   void ShowPage(int page);
@@ -75,9 +76,7 @@ class Poznamka : public QWidget {
   NotesRecord stored_;  // what the file holds, as far as this window knows
   int page_ = 1;
   QTimer timer1_{this};
-  NotesSurroundings placed_for_;  // what the last tick saw
-  int tries_left_ = 0;            // how often the same place is asked for again
-  int quiet_ticks_ = 0;
+  NotesTimer tick_;
   RescueKeeper keeper_;
   Listening changes_;
 };

@@ -19,8 +19,7 @@ constexpr std::size_t kLongestShown = 32767;
 }  // namespace
 
 Prev::Prev(Platform& platform, bool stand_alone, Doors doors, QWidget* parent)
-    : DialogWindow(parent), platform_(platform), doors_(std::move(doors)), ui_(std::make_unique<Ui::Prev>()) {
-  ui_->setupUi(this);
+    : FormDialog(parent), platform_(platform), doors_(std::move(doors)) {
   bases_ = {{ui_->Frame1, &Converter::Label1, ui_->Command35, ui_->Command38, ui_->Command42, &Converter::FromDecimal},
             {ui_->Frame2, &Converter::Label3, ui_->Command36, ui_->Command39, ui_->Command43, &Converter::FromHex},
             {ui_->Frame3, &Converter::Label6, ui_->Command37, ui_->Command40, ui_->Command44, &Converter::FromOct}};
@@ -33,8 +32,6 @@ Prev::Prev(Platform& platform, bool stand_alone, Doors doors, QWidget* parent)
   connect(ui_->Command45, &QPushButton::clicked, this, &Prev::hide);
   new KeyPreview(*this, [this](const QKeyEvent& event) { return PhysicalKey(event); });
 }
-
-Prev::~Prev() = default;
 
 void Prev::ConnectBase(const Base& base) {
   for (const QPushButton* key : base.frame->findChildren<QPushButton*>()) {

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <functional>
-#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -22,7 +21,7 @@ class Prev;
 
 namespace pelmar {
 
-class Prev : public DialogWindow {
+class Prev : public FormDialog<Ui::Prev> {
   Q_OBJECT
 
  public:
@@ -32,7 +31,6 @@ class Prev : public DialogWindow {
   };
 
   Prev(Platform& platform, bool stand_alone, Doors doors, QWidget* parent);
-  ~Prev() override;
 
  protected:
   void hideEvent(QHideEvent* event) override;
@@ -59,7 +57,6 @@ class Prev : public DialogWindow {
   Converter converter_;
   std::string roman_;
   int conversions_ = 0;  // how many began; an older one that still runs sees that it is not the last
-  std::unique_ptr<Ui::Prev> ui_;
   std::vector<Base> bases_;
 };
 

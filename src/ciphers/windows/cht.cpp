@@ -6,9 +6,7 @@
 
 namespace pelmar {
 
-CHT::CHT(TextBuffer& document, Platform& platform, QWidget* parent)
-    : DialogWindow(parent), ui_(std::make_unique<Ui::CHT>()) {
-  ui_->setupUi(this);
+CHT::CHT(TextBuffer& document, Platform& platform, QWidget* parent) : FormDialog(parent) {
   ui_->Text1->setWordWrap(false);
   ui_->Text1->Buffer().SetText(LookAlikeReminder());
   connect(ui_->Command1, &QPushButton::clicked, this, [&document, draw = DrawFrom(platform)] {
@@ -17,7 +15,5 @@ CHT::CHT(TextBuffer& document, Platform& platform, QWidget* parent)
   connect(ui_->Command2, &QPushButton::clicked, this, &CHT::hide);
   ui_->Command1->setFocus();
 }
-
-CHT::~CHT() = default;
 
 }  // namespace pelmar

@@ -2,6 +2,7 @@
 
 #include "ciphers/cronfeld.h"
 #include "ciphers/windows/rewriting_field.h"
+#include "platform/qt/controls/field_helpers.h"
 #include "platform/qt/convert.h"
 #include "text/insert.h"
 #include "ui_confeld.h"
@@ -9,8 +10,7 @@
 namespace pelmar {
 
 Confeld::Confeld(TextBuffer& document, Platform& platform, QWidget* parent)
-    : DialogWindow(parent), document_(document), platform_(platform), ui_(std::make_unique<Ui::Confeld>()) {
-  ui_->setupUi(this);
+    : FormDialog(parent), document_(document), platform_(platform) {
   RewriteOnChange(ui_->Text1, PasswordText);
   connect(ui_->Command1, &QPushButton::clicked, this, [this] { Apply(CronfeldEncipher); });
   connect(ui_->Command2, &QPushButton::clicked, this, [this] { Apply(CronfeldDecipher); });
@@ -19,10 +19,8 @@ Confeld::Confeld(TextBuffer& document, Platform& platform, QWidget* parent)
   ui_->Text1->setFocus();
 }
 
-Confeld::~Confeld() = default;
-
 void Confeld::Apply(std::string (*cipher)(std::string_view text, std::string_view password)) {
-  const std::string password = TextFromQString(ui_->Text1->text());
+  const std::string password = FieldText(*ui_->Text1);
   if (ui_->Check1->isChecked()) {
     ui_->Text2->Buffer().SetText(cipher(ui_->Text3->Buffer().Text(), password));
   } else {

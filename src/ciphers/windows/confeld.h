@@ -1,7 +1,6 @@
 // `Confeld`: letters moved by the digits of a password, over the document or over a pair of fields for quick text.
 #pragma once
 
-#include <memory>
 #include <string>
 #include <string_view>
 
@@ -15,12 +14,11 @@ class Confeld;
 
 namespace pelmar {
 
-class Confeld : public DialogWindow {
+class Confeld : public FormDialog<Ui::Confeld> {
   Q_OBJECT
 
  public:
   Confeld(TextBuffer& document, Platform& platform, QWidget* parent);
-  ~Confeld() override;
 
  private:
   void Apply(std::string (*cipher)(std::string_view text, std::string_view password));
@@ -28,7 +26,6 @@ class Confeld : public DialogWindow {
 
   TextBuffer& document_;
   Platform& platform_;
-  std::unique_ptr<Ui::Confeld> ui_;
 };
 
 }  // namespace pelmar

@@ -21,12 +21,10 @@ void ShowOnly(QListWidget& list, const std::vector<std::string>& rows) {
 }  // namespace
 
 RND_Sifra::RND_Sifra(Editor& editor, QWidget* parent)
-    : DialogWindow(parent),
+    : FormDialog(parent),
       document_(editor.text),
       platform_(editor.platform),
-      files_(editor.platform, editor.file_number),
-      ui_(std::make_unique<Ui::RND_Sifra>()) {
-  ui_->setupUi(this);
+      files_(editor.platform, editor.file_number) {
   for (QListWidget* list : {ui_->List1, ui_->List2}) ShowRowsOnOneLine(*list);  // a table may be any file
   connect(ui_->Command1, &QPushButton::clicked, this,
           [this] { ui_->Text1->Buffer().SetText(PrepareText(document_.Text())); });
@@ -42,8 +40,6 @@ RND_Sifra::RND_Sifra(Editor& editor, QWidget* parent)
   connect(ui_->Text2, &TextBox::TextChanged, this, &RND_Sifra::Text2_Change);
   ui_->Command1->setFocus();
 }
-
-RND_Sifra::~RND_Sifra() = default;
 
 void RND_Sifra::Command2_Click() {
   platform_.ReseedRandom();

@@ -2,8 +2,6 @@
 // text that is shown here and writes its result over the document.
 #pragma once
 
-#include <memory>
-
 #include "ciphers/rnd_cipher.h"
 #include "ciphers/table_file.h"
 #include "platform/qt/controls/dialog_window.h"
@@ -18,12 +16,11 @@ namespace pelmar {
 struct Editor;
 class Opener;
 
-class RND_Sifra : public DialogWindow {
+class RND_Sifra : public FormDialog<Ui::RND_Sifra> {
   Q_OBJECT
 
  public:
   RND_Sifra(Editor& editor, QWidget* parent);
-  ~RND_Sifra() override;
 
  private:
   void Command2_Click();
@@ -46,7 +43,6 @@ class RND_Sifra : public DialogWindow {
   Platform& platform_;
   TableFiles files_;
   CipherTable table_;
-  std::unique_ptr<Ui::RND_Sifra> ui_;
 };
 
 }  // namespace pelmar

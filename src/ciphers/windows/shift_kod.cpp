@@ -1,8 +1,9 @@
 #include "ciphers/windows/shift_kod.h"
 
 #include "ciphers/shift.h"
-#include "platform/draw.h"
+#include "platform/qt/controls/field_helpers.h"
 #include "platform/qt/convert.h"
+#include "platform/random.h"
 #include "text/insert.h"
 #include "ui_shift_kod.h"
 
@@ -14,8 +15,7 @@ std::string Shifted(std::string_view text, int shift) { return Shiftp(text, stat
 }  // namespace
 
 ShiftKod::ShiftKod(TextBuffer& document, Platform& platform, QWidget* parent)
-    : DialogWindow(parent), document_(document), platform_(platform), ui_(std::make_unique<Ui::ShiftKod>()) {
-  ui_->setupUi(this);
+    : FormDialog(parent), document_(document), platform_(platform) {
   connect(ui_->HScroll1, &QScrollBar::valueChanged, this, &ShiftKod::HScroll1_Change);
   connect(ui_->Text1, &TextBox::TextChanged, this, [this] { ShowQuickText(ui_->HScroll1->value()); });
   connect(ui_->Check1, &QCheckBox::clicked, this, [this](bool on) {
@@ -28,11 +28,9 @@ ShiftKod::ShiftKod(TextBuffer& document, Platform& platform, QWidget* parent)
   ui_->HScroll1->setFocus();
 }
 
-ShiftKod::~ShiftKod() = default;
-
 void ShiftKod::HScroll1_Change(int value) {
   ui_->Label4->setText(QString::number(value));
-  ui_->Label2->setText(TextToQString(Shifted(TextFromQString(ui_->Label1->text()), value)));
+  ui_->Label2->setText(TextToQString(Shifted(FieldText(*ui_->Label1), value)));
   if (ui_->Check1->isChecked()) ShowQuickText(value);
 }
 

@@ -1,8 +1,6 @@
 // `ShiftKod`: letters shifted by 0 to 26, over the document or over a pair of fields for quick text.
 #pragma once
 
-#include <memory>
-
 #include "platform/platform.h"
 #include "platform/qt/controls/dialog_window.h"
 #include "text/text_buffer.h"
@@ -13,12 +11,11 @@ class ShiftKod;
 
 namespace pelmar {
 
-class ShiftKod : public DialogWindow {
+class ShiftKod : public FormDialog<Ui::ShiftKod> {
   Q_OBJECT
 
  public:
   ShiftKod(TextBuffer& document, Platform& platform, QWidget* parent);
-  ~ShiftKod() override;
 
  private:
   void HScroll1_Change(int value);
@@ -28,7 +25,6 @@ class ShiftKod : public DialogWindow {
 
   TextBuffer& document_;
   Platform& platform_;
-  std::unique_ptr<Ui::ShiftKod> ui_;
 };
 
 }  // namespace pelmar

@@ -6,6 +6,7 @@
 
 #include "ciphers/windows/rewriting_field.h"
 #include "ciphers/xor_cipher.h"
+#include "platform/qt/controls/field_helpers.h"
 #include "platform/qt/convert.h"
 #include "text/number_text.h"
 #include "ui_za_kod.h"
@@ -13,25 +14,18 @@
 namespace pelmar {
 
 ZaKod::ZaKod(TextBuffer& document, Platform& platform, std::function<int()> selected_tab, QWidget* parent)
-    : DialogWindow(parent),
-      document_(document),
-      platform_(platform),
-      selected_tab_(std::move(selected_tab)),
-      ui_(std::make_unique<Ui::ZaKod>()) {
-  ui_->setupUi(this);
+    : FormDialog(parent), document_(document), platform_(platform), selected_tab_(std::move(selected_tab)) {
   RewriteOnChange(ui_->Text1, KeyText);
   connect(ui_->Command1, &QPushButton::clicked, this, &ZaKod::Command1_Click);
   connect(ui_->Command2, &QPushButton::clicked, this, &ZaKod::hide);
   ui_->Text1->setFocus();
 }
 
-ZaKod::~ZaKod() = default;
-
 void ZaKod::Command1_Click() {
   if (running_) return;  // pressed again while the rewrite below lets the windows live
   const QScopedValueRollback<bool> running(running_, true);
   ui_->Txt->clear();
-  const double key = LeadingNumber(TextFromQString(ui_->Text1->text()));
+  const double key = LeadingNumber(FieldText(*ui_->Text1));
   const int tab = selected_tab_();
   ui_->ProgressBar1->setMaximum(std::max(1, static_cast<int>(document_.Size())));  // a maximum of 0 means another thing
   ui_->ProgressBar1->setValue(0);

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <functional>
-#include <memory>
 
 #include "platform/platform.h"
 #include "platform/qt/controls/dialog_window.h"
@@ -15,14 +14,13 @@ class ZaKod;
 
 namespace pelmar {
 
-class ZaKod : public DialogWindow {
+class ZaKod : public FormDialog<Ui::ZaKod> {
   Q_OBJECT
 
  public:
   // `selected_tab` tells which document is in the text box, 0 once the program is ending: the result belongs to no
   // other.
   ZaKod(TextBuffer& document, Platform& platform, std::function<int()> selected_tab, QWidget* parent);
-  ~ZaKod() override;
 
  private:
   void Command1_Click();
@@ -31,7 +29,6 @@ class ZaKod : public DialogWindow {
   Platform& platform_;
   std::function<int()> selected_tab_;
   bool running_ = false;
-  std::unique_ptr<Ui::ZaKod> ui_;
 };
 
 }  // namespace pelmar

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <functional>
-#include <memory>
 
 #include "platform/platform.h"
 #include "platform/qt/controls/dialog_window.h"
@@ -13,20 +12,17 @@ class Hlp;
 
 namespace pelmar {
 
-class Hlp : public DialogWindow {
+class Hlp : public FormDialog<Ui::Hlp> {
   Q_OBJECT
 
  public:
   Hlp(Platform& platform, std::function<void()> show_about, QWidget* parent);
-  ~Hlp() override;
 
  private:
-  void Load();
   void Command5_Click();
 
   Platform& platform_;
   std::function<void()> show_about_;
-  std::unique_ptr<Ui::Hlp> ui_;
 };
 
 }  // namespace pelmar

@@ -142,8 +142,7 @@ void MainWindow::ToggleAlwaysOnTop() {
 void MainWindow::HideText(bool hide) {
   text_->setVisible(!hide);
   text_->UseBuffer(hide ? nothing_ : editor_.text);
-  // The bar may show a part of the text; the next tick fills it again.
-  if (hide) bar_->Show(PanelTexts());
+  if (hide) bar_->Clear();  // until the next tick
 }
 
 LayoutInput MainWindow::Measures() const {

@@ -64,9 +64,16 @@ StatusStrip::StatusStrip(QWidget* parent) : QStatusBar(parent) {
 }
 
 void StatusStrip::Show(const PanelTexts& texts) {
+  cleared_ = false;
   panels_[0]->SetContent(texts.length);
   panels_[1]->SetContent(texts.position);
   panels_[2]->SetContent(texts.lines);
+}
+
+void StatusStrip::Clear() {
+  Show(PanelTexts());
+  ShowContent({});
+  cleared_ = true;
 }
 
 void StatusStrip::ShowContent(const std::string& text) { panels_[3]->SetContent(text); }

@@ -48,6 +48,9 @@ class StatusStrip : public QStatusBar {
   [[nodiscard]] StatusPanel* Panel(int number) const { return panels_[static_cast<std::size_t>(number - 1)]; }
   void Show(const PanelTexts& texts);
   void ShowContent(const std::string& text);
+  // Panels 1 to 4, which may show a part of the text, say nothing until they are shown anew.
+  void Clear();
+  [[nodiscard]] bool Cleared() const { return cleared_; }
   void Show(const KeyStates& keys);
   // "" where there is no more to warn of. One line over the panels, which go on beneath, says the gravest; from the
   // fourth to the left, it covers as many as it needs. The tip says what there is more to say.
@@ -73,6 +76,7 @@ class StatusStrip : public QStatusBar {
   std::array<StatusPanel*, kPanelCount> panels_{};
   std::array<int, kPanelCount> widths_{};
   WarningLabel* warning_ = nullptr;
+  bool cleared_ = true;
   struct {
     QString text, tip;
   } warnings_[kWarningCount];

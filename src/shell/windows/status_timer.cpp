@@ -43,6 +43,7 @@ void StatusTimer::ShowPanels(const std::optional<std::string>& clipboard) {
                   .end = text.SelEnd(),
                   .clipboard = editor_.platform.ClipboardRevision(),
                   .line_counting = editor_.settings.LineCounting};
+  if (window_.Bar().Cleared()) shown_.reset();
   const std::optional<Shown> before = std::exchange(shown_, now);
   if (before == now) return;
   const bool other_clipboard = !before || before->clipboard != now.clipboard;

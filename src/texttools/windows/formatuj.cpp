@@ -13,20 +13,15 @@ std::size_t Distance(const QScrollBar& bar) { return static_cast<std::size_t>(ba
 }  // namespace
 
 Formatuj::Formatuj(TextBuffer& document, Platform& platform, QWidget* parent)
-    : DialogWindow(parent), document_(document), ui_(std::make_unique<Ui::Formatuj>()) {
-  ui_->setupUi(this);
+    : FragmentDialog(document, parent, &Ui::Formatuj::Command2, &Ui::Formatuj::Command1) {
   ShowRowsOnOneLine(*ui_->List1);
   ConnectOperations();
   OnRowPicked(*ui_->List1, [this](int row) { List1_Click(row); });
   connect(ui_->Hz, &QScrollBar::valueChanged, ui_->Label7, qOverload<int>(&QLabel::setNum));
   connect(ui_->Hk, &QScrollBar::valueChanged, ui_->Label8, qOverload<int>(&QLabel::setNum));
   connect(ui_->Text3, &QLineEdit::textChanged, this, &Formatuj::Text3_Change);
-  connect(ui_->Command2, &QPushButton::clicked, this, &Formatuj::Command2_Click);
-  connect(ui_->Command1, &QPushButton::clicked, this, &Formatuj::reject);
   Load(platform);
 }
-
-Formatuj::~Formatuj() = default;
 
 void Formatuj::Load(Platform& platform) {
   if (!document_.HasSelection()) {
@@ -83,9 +78,9 @@ void Formatuj::Text3_Change() {
   picked.first()->setText(TextToQString(row));
 }
 
-void Formatuj::Command2_Click() {
+bool Formatuj::Put() {
   document_.ReplaceSelection(JoinRows(rows_));
-  accept();
+  return true;
 }
 
 }  // namespace pelmar

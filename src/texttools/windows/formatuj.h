@@ -3,11 +3,9 @@
 #pragma once
 
 #include <functional>
-#include <memory>
 
 #include "platform/platform.h"
-#include "platform/qt/controls/dialog_window.h"
-#include "text/text_buffer.h"
+#include "platform/qt/controls/fragment_dialog.h"
 #include "texttools/column_format.h"
 
 namespace Ui {
@@ -16,12 +14,11 @@ class Formatuj;
 
 namespace pelmar {
 
-class Formatuj : public DialogWindow {
+class Formatuj : public FragmentDialog<Ui::Formatuj> {
   Q_OBJECT
 
  public:
   Formatuj(TextBuffer& document, Platform& platform, QWidget* parent);
-  ~Formatuj() override;
 
  private:
   void Load(Platform& platform);
@@ -30,11 +27,9 @@ class Formatuj : public DialogWindow {
   void ShowShortest(std::size_t length);
   void List1_Click(int row);
   void Text3_Change();
-  void Command2_Click();
+  bool Put() override;
 
-  TextBuffer& document_;
   Rows rows_;
-  std::unique_ptr<Ui::Formatuj> ui_;
 };
 
 }  // namespace pelmar

@@ -9,11 +9,7 @@
 namespace pelmar {
 
 Hledani::Hledani(TextBuffer& document, Platform& platform, std::function<QRect()> match, QWidget* parent)
-    : DialogWindow(parent),
-      finder_(document, platform),
-      match_(std::move(match)),
-      ui_(std::make_unique<Ui::Hledani>()) {
-  ui_->setupUi(this);
+    : FormDialog(parent), finder_(document, platform), match_(std::move(match)) {
   ui_->Text1->UseBuffer(finder_.Snapshot());
   connect(ui_->Command1, &QPushButton::clicked, this, [this] { Step(&Finder::Start); });
   OnEnter(ui_->Find, [this] { Step(&Finder::Start); });
@@ -30,8 +26,6 @@ Hledani::Hledani(TextBuffer& document, Platform& platform, std::function<QRect()
   ShowFields();
   ui_->Find->setFocus();
 }
-
-Hledani::~Hledani() = default;
 
 void Hledani::Step(void (Finder::*step)()) {
   TakeFields();

@@ -3,7 +3,6 @@
 
 #include <QRect>
 #include <functional>
-#include <memory>
 
 #include "platform/qt/controls/dialog_window.h"
 #include "texttools/find.h"
@@ -14,13 +13,12 @@ class Hledani;
 
 namespace pelmar {
 
-class Hledani : public DialogWindow {
+class Hledani : public FormDialog<Ui::Hledani> {
   Q_OBJECT
 
  public:
   // `match` is where on the screen the match shows, nothing where it doesn't: the window moves off it.
   Hledani(TextBuffer& document, Platform& platform, std::function<QRect()> match, QWidget* parent);
-  ~Hledani() override;
 
  private:
   void Step(void (Finder::*step)());
@@ -29,7 +27,6 @@ class Hledani : public DialogWindow {
 
   Finder finder_;
   std::function<QRect()> match_;
-  std::unique_ptr<Ui::Hledani> ui_;
 };
 
 }  // namespace pelmar

@@ -2,6 +2,7 @@
 
 #include <QShowEvent>
 
+#include "platform/qt/controls/field_helpers.h"
 #include "platform/qt/convert.h"
 #include "texttools/appearance.h"
 #include "ui_visual.h"
@@ -14,12 +15,7 @@ constexpr int kDefaultSnap = 240;  // twips
 }  // namespace
 
 Visual::Visual(MainView& view, SettingsRecord& settings, Doors doors, QWidget* parent)
-    : DialogWindow(parent),
-      view_(view),
-      settings_(settings),
-      doors_(std::move(doors)),
-      ui_(std::make_unique<Ui::Visual>()) {
-  ui_->setupUi(this);
+    : FormDialog(parent), view_(view), settings_(settings), doors_(std::move(doors)) {
   ConnectPreview();
   connect(ui_->Check1, &QCheckBox::clicked, this, [this](bool checked) { settings_.LineCounting = checked; });
   connect(ui_->VScroll7, &QScrollBar::valueChanged, this, &Visual::VScroll7_Change);
@@ -33,16 +29,16 @@ Visual::Visual(MainView& view, SettingsRecord& settings, Doors doors, QWidget* p
   connect(ui_->Command7, &QPushButton::clicked, this, [this] { doors_.show_pos(); });
 }
 
-Visual::~Visual() = default;
+std::array<std::pair<QRadioButton*, std::string_view>, 3> Visual::Fonts() const {
+  return {{{ui_->Option1, kSansSerif}, {ui_->Option2, kCourier}, {ui_->Option3, kTerminal}}};
+}
 
 void Visual::ConnectPreview() {
   connect(ui_->Check2, &QCheckBox::toggled, this,
           [this](bool bold) { SetPreviewFont([bold](QFont& font) { font.setBold(bold); }); });
   connect(ui_->Check3, &QCheckBox::toggled, this,
           [this](bool italic) { SetPreviewFont([italic](QFont& font) { font.setItalic(italic); }); });
-  const std::pair<QRadioButton*, std::string_view> fonts[] = {
-      {ui_->Option1, kSansSerif}, {ui_->Option2, kCourier}, {ui_->Option3, kTerminal}};
-  for (const auto& [option, name] : fonts)
+  for (const auto& [option, name] : Fonts())
     connect(option, &QRadioButton::toggled, this, [this, family = Utf8ToQString(name)](bool on) {
       if (on) SetPreviewFont([&family](QFont& font) { font.setFamily(family); });
     });
@@ -68,9 +64,7 @@ void Visual::Load() {
   ui_->Check2->setChecked(look.bold);
   ui_->Check3->setChecked(look.italic);
   FollowLineCounting();
-  ui_->Option1->setChecked(look.font_name == kSansSerif);
-  ui_->Option2->setChecked(look.font_name == kCourier);
-  ui_->Option3->setChecked(look.font_name == kTerminal);
+  for (const auto& [option, name] : Fonts()) option->setChecked(look.font_name == name);
   FollowFontSize();
   ui_->VScroll7->setValue(settings_.AutosnapDistance);
   VScroll7_Change(ui_->VScroll7->value());
@@ -92,7 +86,7 @@ void Visual::SetPreviewFont(const std::function<void(QFont&)>& change) {
 }
 
 void Visual::Combo1_Change() {
-  const SizeField field = NormalizeSize(TextFromQString(ui_->Combo1->currentText()));
+  const SizeField field = NormalizeSize(FieldText(*ui_->Combo1));
   SetPreviewFont([&field](QFont& font) { font.setPointSize(field.size); });
   const QString text = Utf8ToQString(field.text);
   if (ui_->Combo1->currentText() != text) ui_->Combo1->setEditText(text);
@@ -113,15 +107,15 @@ void Visual::Command3_Click() {
 }
 
 void Visual::Command1_Click() {
-  view_.SetEditorBold(ui_->Check2->isChecked());
-  view_.SetEditorItalic(ui_->Check3->isChecked());
-  view_.MarkBold(ui_->Check2->isChecked());
-  view_.MarkItalic(ui_->Check3->isChecked());
-  view_.SetEditorColors(ColorFromQt(ui_->Label1->TextColor()), ColorFromQt(ui_->Label1->BackgroundColor()));
-  if (ui_->Option1->isChecked()) view_.SetEditorFont(std::string(kSansSerif));
-  if (ui_->Option2->isChecked()) view_.SetEditorFont(std::string(kCourier));
-  if (ui_->Option3->isChecked()) view_.SetEditorFont(std::string(kTerminal));
-  view_.SetEditorFontSize(NormalizeSize(TextFromQString(ui_->Combo1->currentText())).size);
+  EditorLook look;
+  for (const auto& [option, name] : Fonts())
+    if (option->isChecked()) look.font_name = name;
+  look.fore_color = ColorFromQt(ui_->Label1->TextColor());
+  look.back_color = ColorFromQt(ui_->Label1->BackgroundColor());
+  look.font_size = NormalizeSize(FieldText(*ui_->Combo1)).size;
+  look.bold = ui_->Check2->isChecked();
+  look.italic = ui_->Check3->isChecked();
+  ApplyLook(view_, look);
 }
 
 }  // namespace pelmar

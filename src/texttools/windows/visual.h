@@ -1,11 +1,15 @@
 // `Visual`: the look of the main text box with a preview, the line counters and the snap distance.
 #pragma once
 
+#include <array>
 #include <functional>
-#include <memory>
+#include <string_view>
+#include <utility>
 
 #include "platform/qt/controls/dialog_window.h"
 #include "shell/main_view.h"
+
+class QRadioButton;
 
 namespace Ui {
 class Visual;
@@ -13,7 +17,7 @@ class Visual;
 
 namespace pelmar {
 
-class Visual : public DialogWindow {
+class Visual : public FormDialog<Ui::Visual> {
   Q_OBJECT
 
  public:
@@ -22,7 +26,6 @@ class Visual : public DialogWindow {
     std::function<void()> show_pos;
   };
   Visual(MainView& view, SettingsRecord& settings, Doors doors, QWidget* parent);
-  ~Visual() override;
 
   // The main text box took another size, or the status bar switched the counting.
   void FollowFontSize();
@@ -32,6 +35,7 @@ class Visual : public DialogWindow {
   void showEvent(QShowEvent* event) override;
 
  private:
+  [[nodiscard]] std::array<std::pair<QRadioButton*, std::string_view>, 3> Fonts() const;
   void Load();
   void ConnectPreview();
   void SetPreviewFont(const std::function<void(QFont&)>& change);
@@ -43,7 +47,6 @@ class Visual : public DialogWindow {
   MainView& view_;
   SettingsRecord& settings_;
   Doors doors_;
-  std::unique_ptr<Ui::Visual> ui_;
 };
 
 }  // namespace pelmar

@@ -5,15 +5,11 @@
 
 namespace pelmar {
 
-Vyber::Vyber(TextBuffer& document, QWidget* parent)
-    : DialogWindow(parent), document_(document), ui_(std::make_unique<Ui::Vyber>()) {
-  ui_->setupUi(this);
+Vyber::Vyber(TextBuffer& document, QWidget* parent) : FormDialog(parent), document_(document) {
   connect(ui_->Start, &QScrollBar::valueChanged, this, [this](int value) { Change(ui_->Label1, value); });
   connect(ui_->Delka, &QScrollBar::valueChanged, this, [this](int value) { Change(ui_->Label2, value); });
   Load();
 }
-
-Vyber::~Vyber() = default;
 
 void Vyber::Load() {
   const int start = static_cast<int>(document_.SelStart());

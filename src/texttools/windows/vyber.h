@@ -2,8 +2,6 @@
 // opening takes a new one.
 #pragma once
 
-#include <memory>
-
 #include "platform/qt/controls/dialog_window.h"
 #include "text/text_buffer.h"
 
@@ -15,12 +13,11 @@ class Vyber;
 
 namespace pelmar {
 
-class Vyber : public DialogWindow {
+class Vyber : public FormDialog<Ui::Vyber> {
   Q_OBJECT
 
  public:
   Vyber(TextBuffer& document, QWidget* parent);
-  ~Vyber() override;
 
   // Takes the selection of now into the sliders, which keep it as it is.
   void Load();
@@ -29,7 +26,6 @@ class Vyber : public DialogWindow {
   void Change(QLabel* label, int value);
 
   TextBuffer& document_;
-  std::unique_ptr<Ui::Vyber> ui_;
 };
 
 }  // namespace pelmar

@@ -9,11 +9,7 @@
 namespace pelmar {
 
 Zamena::Zamena(TextBuffer& document, Platform& platform, std::function<QRect()> match, QWidget* parent)
-    : DialogWindow(parent),
-      replacer_(document, platform),
-      match_(std::move(match)),
-      ui_(std::make_unique<Ui::Zamena>()) {
-  ui_->setupUi(this);
+    : FormDialog(parent), replacer_(document, platform), match_(std::move(match)) {
   ui_->Text1->UseBuffer(replacer_.Snapshot());
   connect(ui_->Command1, &QPushButton::clicked, this, &Zamena::Start);
   connect(ui_->Command2, &QPushButton::clicked, this, [this] { Step(&Replacer::Next); });
@@ -33,8 +29,6 @@ Zamena::Zamena(TextBuffer& document, Platform& platform, std::function<QRect()> 
   ShowFields();
   ui_->Find->setFocus();
 }
-
-Zamena::~Zamena() = default;
 
 void Zamena::Start() {
   TakeFields();

@@ -3,7 +3,6 @@
 
 #include <QRect>
 #include <functional>
-#include <memory>
 
 #include "platform/qt/controls/dialog_window.h"
 #include "texttools/replace.h"
@@ -14,13 +13,12 @@ class Zamena;
 
 namespace pelmar {
 
-class Zamena : public DialogWindow {
+class Zamena : public FormDialog<Ui::Zamena> {
   Q_OBJECT
 
  public:
   // `match` is where on the screen the match shows, nothing where it doesn't: the window moves off it.
   Zamena(TextBuffer& document, Platform& platform, std::function<QRect()> match, QWidget* parent);
-  ~Zamena() override;
 
  private:
   void Start();
@@ -31,7 +29,6 @@ class Zamena : public DialogWindow {
 
   Replacer replacer_;
   std::function<QRect()> match_;
-  std::unique_ptr<Ui::Zamena> ui_;
 };
 
 }  // namespace pelmar

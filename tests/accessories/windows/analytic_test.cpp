@@ -10,14 +10,10 @@
 #include <QTest>
 
 #include "platform/qt/controls/text_box.h"
+#include "support/controls.h"
 
 namespace pelmar {
 namespace {
-
-template <class Type>
-Type* Find(const QWidget& window, const char* name) {
-  return window.findChild<Type*>(QLatin1String(name));
-}
 
 struct AnalyticTest : testing::Test {
   TextBuffer document;

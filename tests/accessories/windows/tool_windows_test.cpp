@@ -18,17 +18,12 @@
 #include "platform/qt/controls/text_box.h"
 #include "platform/qt/convert.h"
 #include "program/program.h"
+#include "support/controls.h"
 #include "support/scripted_platform.h"
 #include "text/codepage.h"
 
 namespace pelmar {
 namespace {
-
-template <class Type>
-Type* Find(const QWidget& window, const char* name) {
-  return window.findChild<Type*>(QString::fromUtf8(name));
-}
-void Click(const QWidget& window, const char* name) { Find<QAbstractButton>(window, name)->click(); }
 
 TEST(MorseWindow, CollectsSigns) {
   ScriptedPlatform platform;

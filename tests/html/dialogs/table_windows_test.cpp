@@ -73,18 +73,6 @@ TEST_F(TableWindows, AGroupIsEnabledByItsBox) {
   }
 }
 
-TEST_F(TableWindows, WidthInPercentFallsToItsBound) {
-  Click(table, "Check1");
-  SetBar(table, "VScroll3", 80);
-  EXPECT_EQ(LabelText(table, "Label5"), " 80%");
-  Click(table, "Option1");
-  EXPECT_EQ(LabelText(table, "Label5"), " 80");
-  SetBar(table, "VScroll3", 900);
-  EXPECT_EQ(LabelText(table, "Label5"), " 800");
-  Click(table, "Option2");
-  EXPECT_EQ(LabelText(table, "Label5"), " 100%");
-}
-
 TEST_F(TableWindows, TheWalkKeepsEveryCell) {
   SetBar(table, "VScroll1", 3);
   SetBar(table, "VScroll2", 3);

@@ -356,6 +356,8 @@ TEST_F(MainWindowTest, AHiddenTextCantBeReadAnywhere) {
   EXPECT_EQ(window.Text().Text(), QByteArray());
   for (int panel = 1; panel <= 4; ++panel) EXPECT_EQ(window.Bar().Panel(panel)->text(), QString());
   window.HideText(false);
+  timer.Tick();
+  for (int panel = 1; panel <= 4; ++panel) EXPECT_NE(window.Bar().Panel(panel)->text(), QString());
   EXPECT_EQ(window.Text().SelText(), QByteArray("secret"));
   EXPECT_EQ(editor.documents.TextOf(1), "secret");
 }

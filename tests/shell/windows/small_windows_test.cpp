@@ -6,7 +6,6 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
-#include <QTimer>
 
 #include "platform/qt/controls/text_box.h"
 #include "platform/qt/convert.h"
@@ -16,19 +15,12 @@
 #include "shell/windows/o.h"
 #include "shell/windows/pass.h"
 #include "shell/windows/start.h"
+#include "support/controls.h"
 #include "support/scripted_platform.h"
 #include "text/codepage.h"
 
 namespace pelmar {
 namespace {
-
-template <class Type>
-Type* Find(const QWidget& window, const char* name) {
-  return window.findChild<Type*>(QLatin1String(name));
-}
-
-// Runs `act` once the modal window that comes next is on show.
-void Inside(std::function<void()> act) { QTimer::singleShot(0, qApp, std::move(act)); }
 
 TEST(PassWindow, OpensForTheRightPasswordOnly) {
   ScriptedPlatform platform;
@@ -112,42 +104,7 @@ TEST_F(StartTest, CheckBoxAndNameChangeTheSettings) {
   EXPECT_EQ(name->text(), QStringLiteral("Eva"));
 }
 
-TEST(HlpWindow, LoadsAndSearchesWithoutCase) {
-  ScriptedPlatform platform;
-  platform.files["/share/pelmar.txt"] = "Žába a žába. KONEC"_w;
-  Hlp help(
-      platform, [] {}, nullptr);
-  auto* text = Find<TextBox>(help, "Text1");
-  auto* term = Find<QLineEdit>(help, "Text2");
-  EXPECT_EQ(term->text(), QStringLiteral("Najít"));
-  term->setText(QStringLiteral("žába"));
-  platform.answers = {Answer::kYes, Answer::kYes};
-  Find<QPushButton>(help, "Command5")->click();
-  EXPECT_EQ(platform.calls, (std::vector<std::string>{"message 52 \"Nalezeno na 1 místě, pokračovat ?\" \"hledání\"",
-                                                      "message 52 \"Nalezeno na 8 místě, pokračovat ?\" \"hledání\""}));
-  EXPECT_EQ(text->SelStart(), 7);
-  EXPECT_EQ(ViewOf(text->SelText()), "žába"_w);
-  term->setText(QStringLiteral("není"));
-  Find<QPushButton>(help, "Command5")->click();
-  EXPECT_EQ(platform.calls.size(), 2u);
-  platform.files["/install/pelmar.txt"] = "mine";
-  EXPECT_EQ(ViewOf(Find<TextBox>(Hlp(
-                                     platform, [] {}, nullptr),
-                                 "Text1")
-                       ->Text()),
-            "mine");
-}
-
-TEST(HlpWindow, AMissingFileIsTold) {
-  ScriptedPlatform platform;
-  platform.answers = {Answer::kOk};
-  const Hlp help(
-      platform, [] {}, nullptr);
-  EXPECT_EQ(platform.calls.back(),
-            "message 0 \"Chyba helpového systému - pelmar.txt: soubor nebo složka neexistuje\" \"Help k Pelmar VEX\"");
-}
-
-TEST(HlpWindow, EachOpeningReadsTheFileAnew) {
+TEST(HlpWindow, ReadsTheFileAtEachOpeningAndSearchesIt) {
   ScriptedPlatform platform;
   Program program(platform);
   const auto open = [&]() -> Hlp& {
@@ -160,8 +117,14 @@ TEST(HlpWindow, EachOpeningReadsTheFileAnew) {
   EXPECT_TRUE(platform.answers.empty());  // told at both
   platform.files["/install/pelmar.txt"] = "there now";
   Hlp& help = open();
-  EXPECT_EQ(ViewOf(Find<TextBox>(help, "Text1")->Text()), "there now");
+  const auto* text = Find<TextBox>(help, "Text1");
+  EXPECT_EQ(ViewOf(text->Text()), "there now");
   EXPECT_EQ(&open(), &help);  // on show it stays as it is
+  EXPECT_EQ(Find<QLineEdit>(help, "Text2")->text(), QStringLiteral("Najít"));
+  Find<QLineEdit>(help, "Text2")->setText(QStringLiteral("NOW"));
+  platform.answers = {Answer::kNo};
+  QTest::keyClick(Find<QLineEdit>(help, "Text2"), Qt::Key_Return);
+  EXPECT_EQ(ViewOf(text->SelText()), "now");
 }
 
 TEST(Program, WindowsThatBeginAnewStandAtTheCentreAgain) {

@@ -19,6 +19,7 @@
 #include "platform/qt/outer_geometry.h"
 #include "platform/twips.h"
 #include "shell/windows/pos.h"
+#include "support/controls.h"
 #include "support/plain_view.h"
 #include "support/scripted_platform.h"
 #include "support/whole_editor.h"
@@ -26,13 +27,6 @@
 
 namespace pelmar {
 namespace {
-
-template <class Type>
-Type* Find(const QWidget& window, const char* name) {
-  return window.findChild<Type*>(QLatin1String(name));
-}
-void Click(const QWidget& window, const char* name) { Find<QAbstractButton>(window, name)->click(); }
-void Inside(std::function<void()> act) { QTimer::singleShot(0, qApp, std::move(act)); }
 
 TEST(ColorDialogWindow, PicksAndRemembers) {
   ScriptedPlatform platform;

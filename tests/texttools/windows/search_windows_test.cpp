@@ -12,6 +12,7 @@
 #include "platform/qt/controls/text_box.h"
 #include "platform/qt/convert.h"
 #include "program/program.h"
+#include "support/controls.h"
 #include "support/scripted_platform.h"
 #include "text/codepage.h"
 #include "texttools/windows/hledani.h"
@@ -20,12 +21,6 @@
 
 namespace pelmar {
 namespace {
-
-template <class Type>
-Type* Find(const QWidget& window, const char* name) {
-  return window.findChild<Type*>(QLatin1String(name));
-}
-void Click(const QWidget& window, const char* name) { Find<QPushButton>(window, name)->click(); }
 
 // Opens the dialog on two terms and finds the first match of the one.
 void FindFirst(Zamena& dialog, const char* term, const char* change) {
@@ -67,7 +62,7 @@ TEST_F(SearchWindowsTest, HledaniShowsItsState) {
   term->setText(QStringLiteral("x"));
   auto* history = Find<QListWidget>(dialog, "History");
   ASSERT_EQ(history->count(), 1);
-  history->setFocus();  // which makes the one entry current
+  history->setFocus();                     // which makes the one entry current
   QTest::keyClick(history, Qt::Key_Down);  // the keyboard picks as the mouse does
   EXPECT_EQ(term->text(), QStringLiteral("jedna"));
   Click(dialog, "Command3");

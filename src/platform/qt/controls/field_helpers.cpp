@@ -23,7 +23,7 @@ void ShowRows(QListWidget& list, const std::vector<std::string>& rows) {
     list.addItem(TextToQString(rows[row]));
 }
 
-void ShowNumber(QLabel& label, std::optional<std::int64_t> number) {
+void ShowNumber(QLabel& label, std::optional<std::size_t> number) {
   label.setText(number ? QString::number(*number) : QString());
 }
 

@@ -1,7 +1,7 @@
 // Between the fields of a window and the Windows-1250 texts and numbers behind them.
 #pragma once
 
-#include <cstdint>
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>
@@ -23,6 +23,6 @@ void ShowFieldText(QLineEdit& field, const std::string& text);
 void ShowRows(QListWidget& list, const std::vector<std::string>& rows);
 
 // Plain digits, or nothing.
-void ShowNumber(QLabel& label, std::optional<std::int64_t> number);
+void ShowNumber(QLabel& label, std::optional<std::size_t> number);
 
 }  // namespace pelmar

@@ -5,7 +5,7 @@
 
 #include "platform/qt/clipboard_text.h"
 #include "platform/qt/convert.h"
-#include "text/caret_moves.h"
+#include "text/text_stops.h"
 
 namespace pelmar {
 namespace {

@@ -7,7 +7,7 @@
 #include <QMouseEvent>
 #include <QObject>
 
-#include "text/caret_moves.h"
+#include "text/text_stops.h"
 
 namespace pelmar {
 

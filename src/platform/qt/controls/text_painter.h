@@ -7,8 +7,8 @@
 #include <QRectF>
 
 #include "platform/qt/glyph_table.h"
-#include "text/caret_moves.h"
 #include "text/text_layout.h"
+#include "text/text_stops.h"
 
 namespace pelmar {
 

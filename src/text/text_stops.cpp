@@ -1,4 +1,4 @@
-#include "text/caret_moves.h"
+#include "text/text_stops.h"
 
 #include <cstdint>
 

@@ -1,4 +1,4 @@
-#include "platform/draw.h"
+#include "platform/random.h"
 
 #include "platform/platform.h"
 

@@ -1,0 +1,41 @@
+// Random texts and draws for comparisons with a second implementation. One seed gives the same ones on every machine.
+#pragma once
+
+#include <cstddef>
+#include <random>
+#include <string>
+#include <string_view>
+
+#include "platform/random.h"
+
+namespace pelmar {
+
+class RandomSource {
+ public:
+  explicit RandomSource(unsigned seed) : random_(seed) {}
+
+  // 0 to count - 1.
+  std::size_t Below(std::size_t count) { return random_() % count; }
+  // 0 to `most` characters of the alphabet; one that stands there twice comes twice as often.
+  std::string Text(std::size_t most, std::string_view alphabet) {
+    std::string text(Below(most + 1), ' ');
+    for (char& ch : text) ch = alphabet[Below(alphabet.size())];
+    return text;
+  }
+  // 0 to `most` characters of any code.
+  std::string Bytes(std::size_t most) {
+    std::string text(Below(most + 1), ' ');
+    for (char& ch : text) ch = static_cast<char>(Below(256));
+    return text;
+  }
+  double Next() { return static_cast<double>(random_()) / 4294967296.0; }
+  // Refers to this source.
+  Draw Draws() {
+    return [this] { return Next(); };
+  }
+
+ private:
+  std::mt19937 random_;
+};
+
+}  // namespace pelmar

@@ -1,0 +1,42 @@
+#!/usr/bin/env python3
+"""Lines of tests against lines of code, by subsystem: test_lines.py [ROOT]
+
+Code are the .h and .cpp files below src/, tests the .h, .cpp, .py and .sh files below tests/; a folder of tests goes with
+the folder of src of the same name. Ends with status 1 where all tests together are more than LIMIT of the code.
+"""
+import collections
+import pathlib
+import sys
+
+WANTED = 34  # percent
+LIMIT = 61  # on the way there: it only ever goes down
+CODE = {".h", ".cpp"}
+TESTS = CODE | {".py", ".sh"}
+
+
+def lines_by_folder(top, suffixes):
+    counts = collections.Counter()
+    for path in top.rglob("*"):
+        if path.is_file() and path.suffix in suffixes:
+            folder = path.relative_to(top).parent.as_posix()
+            counts[folder] += path.read_text(errors="replace").count("\n")
+    return counts
+
+
+def main():
+    root = pathlib.Path(sys.argv[1]) if len(sys.argv) > 1 else pathlib.Path(__file__).resolve().parent.parent
+    code, tests = lines_by_folder(root / "src", CODE), lines_by_folder(root / "tests", TESTS)
+    if not code or not tests:
+        sys.exit(f"test_lines: nothing found below {root}")
+    print(f"{'folder':<24}{'code':>8}{'tests':>8}")
+    for folder in sorted(code.keys() | tests.keys()):
+        share = f"{100 * tests[folder] / code[folder]:6.0f}%" if code[folder] and tests[folder] else ""
+        print(f"{folder:<24}{code[folder]:>8}{tests[folder]:>8}{share}")
+    share = 100 * tests.total() / code.total()
+    print(f"{'all':<24}{code.total():>8}{tests.total():>8}{share:6.0f}%, wanted {WANTED}%, at most {LIMIT}%")
+    if share > LIMIT:
+        sys.exit(f"test_lines: the tests are {share:.1f}% of the code; take weaker ones away")
+
+
+if __name__ == "__main__":
+    main()
