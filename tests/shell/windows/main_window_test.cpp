@@ -179,6 +179,11 @@ TEST_F(MainWindowTest, TheBarTellsThatAnotherProgramWasAtTheFile) {
   EXPECT_TRUE(warning->isVisible());
   editor.text.Type("z");  // which marks the title as well
   EXPECT_FALSE(warning->isVisible());
+  leave_and_return();
+  EXPECT_TRUE(warning->isVisible());
+  platform.answers = {Answer::kYes, Answer::kYes};
+  editor.commands.Run("Mnu_SaveFast");  // the file is this program's again
+  EXPECT_FALSE(warning->isVisible());
 }
 
 TEST_F(MainWindowTest, BarsStandStillWhileAnotherWindowIsActive) {
