@@ -32,6 +32,9 @@ TEST_F(DocumentsTest, ChangeMarksTheTitleAndFillsTheSlot) {
 }
 
 TEST_F(DocumentsTest, SwitchingKeepsTextPathAndMark) {
+  std::string told;  // each title once, when all is there
+  const Listening heard =
+      documents.title_changed.Add([&] { told += documents.Title() + documents.CurrentPath() + '|'; });
   documents.MakeCurrent("/a/one.txt", "one");
   EXPECT_EQ(documents.Face(1).Caption, "one.txt");
   EXPECT_EQ(documents.Face(1).ToolTipText, "/a/one.txt");
@@ -49,6 +52,9 @@ TEST_F(DocumentsTest, SwitchingKeepsTextPathAndMark) {
   EXPECT_FALSE(text.CanUndo());
   EXPECT_EQ(documents.Title(), "Pelmar VEX (/a/one.txt)*");
   EXPECT_EQ(documents.UnsavedCount(), 2);  // by its flag and by the title, but once
+  EXPECT_EQ(told,
+            "Pelmar VEX (/a/one.txt)/a/one.txt|Pelmar VEX (/a/one.txt)*/a/one.txt|Pelmar VEX ()|Pelmar VEX ()*|"
+            "Pelmar VEX (/a/one.txt)*/a/one.txt|");
 }
 
 // required: the change that a switch raises still writes the path of the tab that was left
