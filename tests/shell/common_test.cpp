@@ -69,6 +69,7 @@ TEST(Common, ColorsAndCounts) {
   EXPECT_EQ(CountLineFeeds(""), 0);
   EXPECT_EQ(CountLineFeeds("a\r\n"), 1);
   EXPECT_EQ(CountLineFeeds("a\rb\n\n"), 2);
+  EXPECT_EQ(CountLineFeeds(std::string(1000, '\n')), 1000);
   EXPECT_EQ(NumberWithSignBlank(0), " 0");
   EXPECT_EQ(NumberWithSignBlank(-3), "-3");
 }
