@@ -28,8 +28,8 @@ void Opener::OpenPath(const std::string& path) {
     return;
   }
   file_number_.Open();
+  outside_.Note(path, stamp);
   documents_.MakeCurrent(path, std::move(file.bytes));  // required: its error leaves file number 1 open
-  outside_.Note(stamp);
   recent_.Remember(path);
   file_number_.Close();
 }

@@ -2,10 +2,10 @@
 
 namespace pelmar {
 
-void OutsideChanges::Note(const std::optional<FileStamp>& stamp) {
+void OutsideChanges::Note(const std::string& path, const std::optional<FileStamp>& stamp) {
   auto& known = known_[static_cast<std::size_t>(documents_.SelectedTab() - 1)];
   known.reset();
-  if (stamp) known = {documents_.CurrentPath(), *stamp};
+  if (stamp) known = {path, *stamp};
 }
 
 OutsideChange OutsideChanges::OfCurrent() const {

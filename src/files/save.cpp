@@ -15,8 +15,8 @@ void Saver::SaveToPath(const std::string& path) {
   try {
     const WriteOutcome outcome = Write(path, documents_.Text().Text());
     if (outcome.error != 0) return TellError(path, outcome);
+    outside_.Note(path, platform_.Stamp(path));
     documents_.MakeCurrent(path);
-    outside_.Note(platform_.Stamp(path));
     recent_.Remember(path);
   } catch (const RuntimeError& error) {
     TellError(path, {.error = error.Number()});

@@ -21,9 +21,9 @@ void Documents::LeaveTab() {
 void Documents::EnterTab(int entered) {
   selected_ = entered;
   // required: the change that this raises still sees the path of the tab that was left, and writes it into the slot
-  entering_ = true;
+  title_follows_ = true;
   text_.SetText(std::exchange(Current().Text, {}));
-  entering_ = false;
+  title_follows_ = false;
   current_path_ = faces_[Index(entered)].ToolTipText;
   // Only a document that a rescue brought back can have a name that Prime refuses.
   if (!current_path_.empty() && HasExtension(current_path_)) target_.Prime(current_path_);
@@ -38,7 +38,7 @@ void Documents::SwitchTo(int tab) {
 }
 
 void Documents::TextChanged() {
-  if (!entering_) SetTitle(title_.path, true);
+  if (!title_follows_) SetTitle(title_.path, true);
   Current().Path = current_path_;
 }
 
@@ -98,8 +98,10 @@ void Documents::MakeCurrent(const std::string& path) {
 }
 
 void Documents::MakeCurrent(const std::string& path, std::string text) {
-  current_path_ = path;  // required: the change that the text raises sees it already
+  current_path_ = path;                 // required: the change that the text raises sees it already
+  title_follows_ = HasExtension(path);  // required: of another name only the mark comes into the title
   text_.SetText(std::move(text));
+  title_follows_ = false;
   MakeCurrent(path);
 }
 

@@ -95,7 +95,7 @@ class Documents {
   std::string current_path_;
   TitleParts title_;
   SaveTarget target_;
-  bool entering_ = false;  // the title is told once, when all of the tab is there
+  bool title_follows_ = false;  // behind the change of the text that goes on: so it is told once
   Listening changes_;
 };
 

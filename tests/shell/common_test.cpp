@@ -57,6 +57,7 @@ TEST(Common, ColorsCountsAndLetters) {
   EXPECT_EQ(ColorToHex(0x030201), "#010203");
   EXPECT_EQ(ColorToHex(Rgb(10, 0, 200)), "#0A00C8");
   EXPECT_EQ(CountLineFeeds("a\rb\n\n"), 2);
+  EXPECT_EQ(CountLineFeeds(std::string(1000, '\n')), 1000);
   EXPECT_EQ(NumberWithSignBlank(0), " 0");
   EXPECT_EQ(NumberWithSignBlank(-3), "-3");
   EXPECT_EQ(StripDiacritics("ÁČĎÉĚÍŇÓŘŠŤŮÚÝŽ áčďéěíňóřšťůúýž"_w), "ACDEEINORSTUUYZ acdeeinorstuuyz");

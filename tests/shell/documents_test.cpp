@@ -26,6 +26,9 @@ TEST_F(DocumentsTest, AChangeMarksTheTitleAndASwitchKeepsTextPathAndMark) {
   Type("a");
   EXPECT_EQ(StateOf(documents), "()*||||1");  // the mark of the current tab lives in the title alone
   EXPECT_EQ(documents.TextOf(1), "a");
+  std::string told;  // each title once, when all is there
+  const Listening heard =
+      documents.title_changed.Add([&] { told += documents.Title() + documents.CurrentPath() + '|'; });
   documents.MakeCurrent("/a/one.txt", "one");
   EXPECT_EQ(StateOf(documents), "(/a/one.txt)|one.txt|/a/one.txt|/a/one.txt|0");
   Type("!");
@@ -38,6 +41,9 @@ TEST_F(DocumentsTest, AChangeMarksTheTitleAndASwitchKeepsTextPathAndMark) {
   EXPECT_EQ(text.Text(), "one!");
   EXPECT_EQ(text.SelStart(), 0u);
   EXPECT_FALSE(text.CanUndo());
+  EXPECT_EQ(told,
+            "Pelmar VEX (/a/one.txt)/a/one.txt|Pelmar VEX (/a/one.txt)*/a/one.txt|Pelmar VEX ()|Pelmar VEX ()*|"
+            "Pelmar VEX (/a/one.txt)*/a/one.txt|");
   // Unsaved by its flag and by the title, but counted once.
   EXPECT_EQ(StateOf(documents), "(/a/one.txt)*|one.txt|/a/one.txt|!|2");
   EXPECT_EQ(documents.EmptyTab(), 2);

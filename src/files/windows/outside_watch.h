@@ -26,7 +26,7 @@ class OutsideWatch : public QObject {
 
   MainWindow& window_;
   const OutsideChanges& outside_;
-  std::array<Listening, 2> heard_;
+  std::array<Listening, 3> heard_;
 };
 
 }  // namespace pelmar

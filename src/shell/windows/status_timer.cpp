@@ -36,13 +36,8 @@ void StatusTimer::SnapWindows() {
 }
 
 // What they show may be as long as the document and the clipboard, so nothing is done for what hasn't changed.
-void StatusTimer::ShowPanels(const std::optional<std::string>& clipboard) {
+void StatusTimer::ShowPanels(const Shown& now, const std::optional<std::string>& clipboard) {
   const TextBuffer& text = editor_.text;
-  const Shown now{.text = text.Revision(),
-                  .start = text.SelStart(),
-                  .end = text.SelEnd(),
-                  .clipboard = editor_.platform.ClipboardRevision(),
-                  .line_counting = editor_.settings.LineCounting};
   if (window_.Bar().Cleared()) shown_.reset();
   const std::optional<Shown> before = std::exchange(shown_, now);
   if (before == now) return;
@@ -57,9 +52,16 @@ void StatusTimer::ShowPanels(const std::optional<std::string>& clipboard) {
 void StatusTimer::Tick() {
   SnapWindows();
   if (!window_.MainActive()) return;
+  const TextBuffer& text = editor_.text;
+  const Shown now{.text = text.Revision(),
+                  .start = text.SelStart(),
+                  .end = text.SelEnd(),
+                  // Before the text is asked for: meanwhile its owner may put another one there.
+                  .clipboard = editor_.platform.ClipboardRevision(),
+                  .line_counting = editor_.settings.LineCounting};
   const std::optional<std::string>& clipboard = editor_.platform.ClipboardContent();
-  window_.Menus().Apply(ComputeMenuState(editor_.text, editor_.documents.CurrentPath(), clipboard));
-  ShowPanels(clipboard);
+  window_.Menus().Apply(ComputeMenuState(text, editor_.documents.CurrentPath(), clipboard));
+  ShowPanels(now, clipboard);
   StatusStrip& bar = window_.Bar();
   bar.Show(editor_.platform.Keys());
   // The main window isn't active while an operation is at work on a file: this one was abandoned.

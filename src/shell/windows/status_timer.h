@@ -38,7 +38,7 @@ class StatusTimer : public QTimer {
   };
 
   void SnapWindows();
-  void ShowPanels(const std::optional<std::string>& clipboard);
+  void ShowPanels(const Shown& now, const std::optional<std::string>& clipboard);
 
   std::map<const QWidget*, PlaceRequests> requests_;
   MainWindow& window_;

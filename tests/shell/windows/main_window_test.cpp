@@ -179,6 +179,30 @@ TEST_F(MainWindowTest, TheBarTellsThatAnotherProgramWasAtTheFile) {
   EXPECT_TRUE(warning->isVisible());
   editor.text.Type("z");  // which marks the title as well
   EXPECT_FALSE(warning->isVisible());
+  leave_and_return();
+  EXPECT_TRUE(warning->isVisible());
+  platform.answers = {Answer::kYes, Answer::kYes};
+  editor.commands.Run("Mnu_SaveFast");  // the file is this program's again
+  EXPECT_FALSE(warning->isVisible());
+}
+
+// The owner of a text may put another one into the clipboard while it is asked for the first.
+TEST_F(MainWindowTest, PanelFourCatchesUpWithAClipboardThatChangedMeanwhile) {
+  struct : ScriptedPlatform {
+    std::optional<std::string> given;
+    const std::optional<std::string>& ClipboardContent() override {
+      given = clipboard;
+      clipboard = "second";
+      return given;
+    }
+  } late;
+  late.clipboard = "first";
+  WholeEditor of_late(late);
+  StatusTimer ticking(window, of_late);
+  ticking.Tick();
+  EXPECT_EQ(window.Bar().Panel(4)->text(), QStringLiteral("Schránka : first"));
+  ticking.Tick();
+  EXPECT_EQ(window.Bar().Panel(4)->text(), QStringLiteral("Schránka : second"));
 }
 
 TEST_F(MainWindowTest, BarsStandStillWhileAnotherWindowIsActive) {
