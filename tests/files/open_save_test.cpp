@@ -127,6 +127,7 @@ TEST_F(FilesTest, SaveAdoptsThePath) {
   EXPECT_EQ(platform.files["/a/x.y.txt"], "new\r\n");
   EXPECT_EQ(StateOf(documents), "(/a/x.y.txt)|x.y.txt|/a/x.y.txt|/a/x.y.txt|0");
   EXPECT_EQ(documents.Target().Name(), "x.y");
+  EXPECT_EQ(TargetPath("/a", "x.y", "txt"), "/a/x.y.txt");  // what the dialog makes of it again
 }
 
 TEST_F(FilesTest, SaveAsksBeforeItOverwrites) {

@@ -40,6 +40,12 @@ TEST_F(DocumentsTest, AChangeMarksTheTitleAndASwitchKeepsTextPathAndMark) {
   EXPECT_FALSE(text.CanUndo());
   // Unsaved by its flag and by the title, but counted once.
   EXPECT_EQ(StateOf(documents), "(/a/one.txt)*|one.txt|/a/one.txt|!|2");
+  EXPECT_EQ(documents.EmptyTab(), 2);
+  documents.SwitchTo(2);
+  Type("x");
+  text.SetText("");  // emptied by the person, so it isn't free
+  documents.SwitchTo(1);
+  EXPECT_EQ(documents.EmptyTab(), 4);
 }
 
 // required: the change that a switch raises still writes the path of the tab that was left

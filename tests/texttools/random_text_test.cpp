@@ -40,6 +40,12 @@ TEST(RandomText, DrawsInTheToldOrder) {
   EXPECT_EQ(Drawn(RandomWord, {0.0, 0.0, 0.999}), "az ");
   EXPECT_EQ(Drawn(RandomName, {0.0, 0.0, 0.999, 0.12, 0.04, 0.0, 0.0}), "Az Baa ");
   EXPECT_EQ(Longest(RandomSentence, 0.999), "X" + std::string(49, 'x') + "! ");
+  std::string stops;
+  for (const double stop : {0.0, 0.25, 0.5, 0.75}) {
+    int draws = 0;
+    stops += RandomSentence([&] { return ++draws == 1 ? 0.0 : draws == 21 ? stop : 0.9; }).substr(10);
+  }
+  EXPECT_EQ(stops, ". . ? ! ");
   EXPECT_EQ(Longest(RandomWord, 0.999), std::string(10, 'x') + " ");
   EXPECT_EQ(Longest(RandomName, 0.999), "X" + std::string(9, 'x') + " X" + std::string(9, 'x') + " ");
 }

@@ -14,7 +14,6 @@ class RND_Sifra;
 namespace pelmar {
 
 struct Editor;
-class Opener;
 
 class RND_Sifra : public FormDialog<Ui::RND_Sifra> {
   Q_OBJECT
