@@ -10,12 +10,12 @@
 #include "text/text_buffer.h"
 
 namespace Ui {
-class Kod;
+class kod;
 }
 
 namespace pelmar {
 
-class Kod : public FormDialog<Ui::Kod> {
+class Kod : public FormDialog<Ui::kod> {
   Q_OBJECT
 
  public:

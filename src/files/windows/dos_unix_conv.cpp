@@ -10,6 +10,7 @@ namespace pelmar {
 Dos_Unix_conv::Dos_Unix_conv(Platform& platform, QWidget* parent)
     : DialogWindow(parent), platform_(platform), ui_(std::make_unique<Ui::Dos_Unix_conv>()) {
   ui_->setupUi(this);
+  ui_->Text1->setCurrentText(QStringLiteral("*.*"));
   LinkFileBrowser(ui_->Drive1, ui_->Dir1, ui_->File1, ui_->Text1);
   connect(ui_->File1, &FileList::FileClicked, this, &Dos_Unix_conv::File1_Click);
   connect(ui_->Command1, &QPushButton::clicked, this,

@@ -16,6 +16,8 @@ constexpr std::string_view kUtf8Hint =
 Otevri::Otevri(Opener& opener, Platform& platform, QWidget* parent)
     : DialogWindow(parent), opener_(opener), platform_(platform), ui_(std::make_unique<Ui::Otevri>()) {
   ui_->setupUi(this);
+  setObjectName(QStringLiteral("Otevři"));
+  ui_->Text1->setCurrentText(QStringLiteral("*.*"));
   ui_->Text2->SetText(ToBytes(kNoPreview));
   LinkFileBrowser(ui_->Drive1, ui_->Dir1, ui_->File1, ui_->Text1);
   connect(ui_->File1, &FileList::FileClicked, this, &Otevri::File1_Click);

@@ -9,6 +9,7 @@ namespace pelmar {
 Uloz::Uloz(Documents& documents, Saver& saver, QWidget* parent)
     : DialogWindow(parent), documents_(documents), saver_(saver), ui_(std::make_unique<Ui::Uloz>()) {
   ui_->setupUi(this);
+  setObjectName(QStringLiteral("Ulož"));
   LinkFileBrowser(ui_->Drive1, ui_->Dir1, ui_->File1);
   ui_->Text1->setFocus();
   ui_->Text2->setCompleter(nullptr);  // it would make "html" of a typed "h"

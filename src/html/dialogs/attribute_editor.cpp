@@ -7,6 +7,8 @@ namespace pelmar {
 
 AttributeEditor::AttributeEditor(QWidget* parent) : QWidget(parent), ui_(std::make_unique<Ui::AttributeEditor>()) {
   ui_->setupUi(this);
+  ui_->Atribut->setCurrentText(QStringLiteral("Atribut"));
+  ui_->Hodnota->setCurrentText(QStringLiteral("Hodnota"));
   AcceptFreeText(ui_->Atribut);
   AcceptFreeText(ui_->Hodnota);
   setFocusProxy(ui_->Atribut);

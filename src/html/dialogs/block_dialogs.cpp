@@ -58,6 +58,7 @@ bool Nadpis::Put() {
 
 Barva::Barva(TextBuffer& document, std::function<Color(Color)> pick_color, QWidget* parent)
     : FragmentDialog(document, parent) {
+  ui_->Combo1->setCurrentText(QStringLiteral("Combo1"));
   AcceptFreeText(ui_->Combo1);
   EnableWith(ui_->Check1, {ui_->VScroll4});
   EnableWith(ui_->Check2, {ui_->Combo1});

@@ -31,7 +31,10 @@ Comment::Comment(TextBuffer& document, QWidget* parent) : FragmentDialog(documen
 
 bool Comment::Put() { return Insert(CommentText(FieldText(*ui_->Text1))); }
 
-Meta::Meta(TextBuffer& document, QWidget* parent) : FragmentDialog(document, parent) { AcceptFreeText(ui_->Combo1); }
+Meta::Meta(TextBuffer& document, QWidget* parent) : FragmentDialog(document, parent) {
+  ui_->Combo1->setCurrentText(QStringLiteral("Vyber meta-tag"));
+  AcceptFreeText(ui_->Combo1);
+}
 
 bool Meta::Put() { return Insert(FieldText(*ui_->Combo1)); }
 

@@ -8,6 +8,7 @@ namespace pelmar {
 
 OdkazNaJiny::OdkazNaJiny(TextBuffer& document, std::function<void(const std::string&)> show_in_browser, QWidget* parent)
     : FragmentDialog(document, parent), choice_(FileChoice::Of(*ui_, ui_->Check2, ui_->Label1)) {
+  setObjectName(QStringLiteral("OdkazNaJiný"));
   choice_.Link(std::move(show_in_browser));
   EnableWith(ui_->Check1, {ui_->Text2});
   EnableWith(ui_->Check3, {ui_->Combo2});

@@ -17,6 +17,7 @@ Vytvor::Vytvor(TextBuffer& document, MainView& view, const SettingsRecord& setti
       settings_(settings),
       platform_(platform),
       choice_(FileChoice::Of(*ui_, ui_->Check4, ui_->Label10)) {
+  setObjectName(QStringLiteral("Vytvoř"));
   ui_->Text1->SetText(ToBytes(kPreviewText));
   ConnectColors(doors.pick_color);
   EnableWith(ui_->Check8, {ui_->HScroll1});

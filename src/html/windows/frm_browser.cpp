@@ -44,7 +44,7 @@ FrmBrowser::FrmBrowser(WebViewMaker& maker, Platform& platform, std::function<vo
     : StartingAddress(Utf8ToQString(kStartingAddress)),
       platform_(platform),
       end_program_(std::move(end_program)),
-      ui_(std::make_unique<Ui::FrmBrowser>()) {
+      ui_(std::make_unique<Ui::frmBrowser>()) {
   ui_->setupUi(this);
   ui_->netLine->hide();
   ShowProgramIcon();

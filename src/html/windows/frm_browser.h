@@ -14,7 +14,7 @@
 class QLabel;
 
 namespace Ui {
-class FrmBrowser;
+class frmBrowser;
 }
 
 namespace pelmar {
@@ -66,7 +66,7 @@ class FrmBrowser : public QMainWindow {
 
   Platform& platform_;
   std::function<void()> end_program_;
-  std::unique_ptr<Ui::FrmBrowser> ui_;
+  std::unique_ptr<Ui::frmBrowser> ui_;
   QLabel* status_ = nullptr;
   QLabel* progress_ = nullptr;
   QLabel* encoding_ = nullptr;

@@ -69,6 +69,28 @@ int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QW
   return QProxyStyle::styleHint(hint, option, widget, answer);
 }
 
+int ProgramStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
+  constexpr int kRoundDialog = 12, kBetween = 8;
+  const auto dialog = [](const QWidget* window) {
+    return window != nullptr && window->inherits("pelmar::DialogWindow");
+  };
+  switch (metric) {
+    case PM_LayoutLeftMargin:
+    case PM_LayoutTopMargin:
+    case PM_LayoutRightMargin:
+    case PM_LayoutBottomMargin:
+      if (dialog(widget)) return kRoundDialog;
+      break;
+    case PM_LayoutHorizontalSpacing:
+    case PM_LayoutVerticalSpacing:
+      if (widget != nullptr && dialog(widget->window())) return kBetween;
+      break;
+    default:
+      break;
+  }
+  return QProxyStyle::pixelMetric(metric, option, widget);
+}
+
 QSize ProgramStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                                      const QWidget* widget) const {
   QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);

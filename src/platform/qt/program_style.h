@@ -2,7 +2,7 @@
 // when it is made come from the program itself, since the toolkit would search its picture plug-ins for them before the
 // first window is on the screen; what has the keyboard is to be seen also where the style doesn't show it; and so is,
 // on a dark desktop too, what is off: the text of its fields and the rims of boxes and options. The wheel leaves tabs
-// alone.
+// alone. A form says nothing of the room round a dialog and between what stands in it, unless it wants another one.
 #pragma once
 
 #include <QProxyStyle>
@@ -18,6 +18,7 @@ class ProgramStyle : public QProxyStyle {
   QIcon standardIcon(StandardPixmap picture, const QStyleOption* option, const QWidget* widget) const override;
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* answer) const override;
+  int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
   QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                          const QWidget* widget) const override;
   void polish(QPalette& palette) override;

@@ -10,6 +10,7 @@ namespace pelmar {
 
 Hledani::Hledani(TextBuffer& document, Platform& platform, std::function<QRect()> match, QWidget* parent)
     : FormDialog(parent), finder_(document, platform), match_(std::move(match)) {
+  setObjectName(QStringLiteral("Hledání"));
   ui_->Text1->UseBuffer(finder_.Snapshot());
   connect(ui_->Command1, &QPushButton::clicked, this, [this] { Step(&Finder::Start); });
   OnEnter(ui_->Find, [this] { Step(&Finder::Start); });

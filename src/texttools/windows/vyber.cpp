@@ -6,6 +6,8 @@
 namespace pelmar {
 
 Vyber::Vyber(TextBuffer& document, QWidget* parent) : FormDialog(parent), document_(document) {
+  setObjectName(QStringLiteral("Výběr"));
+  ui_->Label5->setElideMode(Qt::ElideRight);
   connect(ui_->Start, &QScrollBar::valueChanged, this, [this](int value) { Change(ui_->Label1, value); });
   connect(ui_->Delka, &QScrollBar::valueChanged, this, [this](int value) { Change(ui_->Label2, value); });
   Load();

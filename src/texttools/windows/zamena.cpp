@@ -10,6 +10,7 @@ namespace pelmar {
 
 Zamena::Zamena(TextBuffer& document, Platform& platform, std::function<QRect()> match, QWidget* parent)
     : FormDialog(parent), replacer_(document, platform), match_(std::move(match)) {
+  setObjectName(QStringLiteral("Záměna"));
   ui_->Text1->UseBuffer(replacer_.Snapshot());
   connect(ui_->Command1, &QPushButton::clicked, this, &Zamena::Start);
   connect(ui_->Command2, &QPushButton::clicked, this, [this] { Step(&Replacer::Next); });

@@ -181,7 +181,7 @@ void DialogWindow::Prepare() {
 void DialogWindow::FitInto(QSize room) {
   ensurePolished();
   for (QWidget* widget : findChildren<QWidget*>()) widget->ensurePolished();  // only now their letters are known
-  if (!testAttribute(Qt::WA_Resized)) adjustSize();  // by its contents, as the toolkit does for a form without a size
+  if (property("sizedByContents").toBool()) adjustSize();
   const QSize least = layout() != nullptr ? layout()->totalMinimumSize() : QSize();
   if (least.width() > room.width() || least.height() > room.height()) ScrollContents(*this, EndingButtons());
   const int title = fontMetrics().horizontalAdvance(windowTitle()) + kFrameButtons;

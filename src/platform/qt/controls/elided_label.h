@@ -8,12 +8,10 @@ namespace pelmar {
 
 class ElidedLabel : public QLabel {
   Q_OBJECT
-  Q_PROPERTY(Qt::TextElideMode elideMode READ elideMode WRITE setElideMode)
 
  public:
   explicit ElidedLabel(QWidget* parent = nullptr);
 
-  [[nodiscard]] Qt::TextElideMode elideMode() const { return mode_; }
   void setElideMode(Qt::TextElideMode mode);
 
   QSize sizeHint() const override;
