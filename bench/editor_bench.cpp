@@ -42,9 +42,9 @@ class BenchPlatform : public QtPlatform {
     return Utf8FromQString(folder_.filePath(QLatin1String(name)));
   }
   std::string InstallFolder() override { return Utf8FromQString(folder_.path()) + "/"; }
-  WriteOutcome WriteDocument(const std::string&, std::string_view) override {
+  int WritePrivateFile(const std::string&, std::string_view) override {
     if (on_write) on_write();
-    return {};
+    return 0;
   }
   void AddToRecentDocuments(const std::string&) override {}
 
