@@ -18,8 +18,7 @@ class OutsideChanges {
  public:
   OutsideChanges(const Documents& documents, Platform& platform) : documents_(documents), platform_(platform) {}
 
-  // The current document is what this file holds; said before the documents tell of their new path. `stamp` is the
-  // file's from before it was read, or behind the write.
+  // The current document is what this file holds. `stamp` is the file's from before it was read, or behind the write.
   void Note(const std::string& path, const std::optional<FileStamp>& stamp);
 
   // Asks the disk about the current document's file; kNone where that was neither opened nor saved here.

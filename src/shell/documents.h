@@ -31,9 +31,6 @@ class Documents {
   // Listens to the box from here on, before any view of it.
   explicit Documents(TextBuffer& text);
 
-  // The strip's two notifications, in this order; `entered` is the newly selected tab.
-  void LeaveTab();
-  void EnterTab(int entered);
   void SwitchTo(int tab);
 
   [[nodiscard]] int SelectedTab() const { return selected_; }
@@ -72,7 +69,7 @@ class Documents {
 
   Listeners<> title_changed;
   Listeners<int> face_changed;  // of this tab
-  Listeners<int> tab_selected;  // this one, by code and not by a click
+  Listeners<int> tab_selected;  // this one, when all of it is there
 
  private:
   struct TitleParts {
@@ -83,6 +80,8 @@ class Documents {
 
   static std::size_t Index(int tab) { return static_cast<std::size_t>(tab - 1); }
   DocSlot& Current() { return slots_[Index(selected_)]; }
+  void LeaveTab();
+  void EnterTab(int entered);
   void TextChanged();
   void ShowPathInTitle();  // without "*"
   void SetTitle(std::string path, bool marked);

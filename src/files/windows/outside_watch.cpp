@@ -6,13 +6,13 @@
 
 namespace pelmar {
 
-// A key that marks the title is heard there first; the text that changed then takes the warning away. Behind a save of
-// this program's own, of an unmarked document too, there is nothing to warn of.
+// The file is asked about where the person comes back to it, never while they type. Another file on the tab, opened or
+// saved, is this program's own doing.
 OutsideWatch::OutsideWatch(MainWindow& window, Editor& editor, const OutsideChanges& outside)
     : QObject(&window),
       window_(window),
       outside_(outside),
-      heard_{editor.documents.title_changed.Add([this] { Warn(outside_.OfCurrent()); }),
+      heard_{editor.documents.tab_selected.Add([this](int) { Warn(outside_.OfCurrent()); }),
              editor.documents.face_changed.Add([this](int) { Warn(OutsideChange::kNone); }),
              editor.text.OnChange([this](const TextChange&) { Warn(OutsideChange::kNone); })} {
   window.installEventFilter(this);
