@@ -4,6 +4,7 @@
 #include <cstdio>
 
 #include "files/line_ends.h"
+#include "files/save.h"
 #include "platform/busy.h"
 #include "shell/file_number.h"
 #include "text/codepage.h"
@@ -56,8 +57,7 @@ bool Survey(Platform& platform, const std::string& path, Utf8Survey& survey) {
 // Whether the target may be written, as far as the person is asked.
 bool MayWrite(Platform& platform, const std::string& path, const std::string& target) {
   return !IsOwnSource(platform, path, target) &&
-         (!platform.CanRead(target) ||
-          Agreed(platform, "Opravdu uložit " + target + "?\r\nSoubor již existuje a bude přepsán!"));
+         (!platform.CanRead(target) || Agreed(platform, OverwriteQuestion(target)));
 }
 
 void Write(Platform& platform, const std::string& path, const std::string& target, FileRewriter& rewriter) {

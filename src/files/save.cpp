@@ -72,8 +72,7 @@ void Saver::InsertFromFile() {
 
 bool Saver::MayWrite(const std::string& path) {
   if (!FileExists(file_number_, platform_, path)) return true;
-  const std::string question = "Opravdu uložit " + path + "?\r\nSoubor již existuje a bude přepsán!";
-  return platform_.Message(MessageType::kYesNoWarning, question, "Soubor") == Answer::kYes;
+  return platform_.Message(MessageType::kYesNoWarning, OverwriteQuestion(path), "Soubor") == Answer::kYes;
 }
 
 WriteOutcome Saver::Write(const std::string& path, std::string_view text) {
@@ -86,6 +85,10 @@ void Saver::TellError(const std::string& path, const WriteOutcome& outcome) {
       MessageType::kOk,
       "Chyba ukládání!\r\nSoubor: " + path + "\r\nKód chyby " + std::to_string(outcome.error) + KeptNotice(outcome),
       "Pelmar VEX");
+}
+
+std::string OverwriteQuestion(const std::string& path) {
+  return "Opravdu uložit " + path + "?\r\nSoubor již existuje a bude přepsán!";
 }
 
 std::string TargetPath(std::string_view folder, std::string_view name, std::string_view extension) {

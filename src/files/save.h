@@ -49,6 +49,9 @@ class Saver {
   FileNumber& file_number_;
 };
 
+// What a person is asked before a file that is there is written over, UTF-8.
+std::string OverwriteQuestion(const std::string& path);
+
 // The path that Ulož builds from its three fields; the dot is always there.
 std::string TargetPath(std::string_view folder, std::string_view name, std::string_view extension);
 

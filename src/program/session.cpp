@@ -8,6 +8,7 @@
 #include "platform/paths.h"
 #include "platform/runtime_error.h"
 #include "platform/twips.h"
+#include "shell/rescued_documents.h"
 #include "text/codepage.h"
 
 namespace pelmar {
@@ -127,9 +128,7 @@ std::string Session::InstallPath(std::string_view name) { return JoinPath(platfo
 
 std::string AllFilesText(const Documents& documents) {
   std::string text;
-  for (int tab = 1; tab <= kTabCount; ++tab) {
-    text += "Soubor:" + StoredPath(documents.Slot(tab).Path) + "\r\n" + documents.TextOf(tab) + "\r\n\r\n";
-  }
+  for (int tab = 1; tab <= kTabCount; ++tab) text += ReadableDocument(documents.Slot(tab).Path, documents.TextOf(tab));
   return text;
 }
 

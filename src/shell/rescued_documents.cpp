@@ -47,10 +47,13 @@ std::vector<RescuedText> BringBackDocuments(Documents& documents, const std::vec
   return homeless;
 }
 
+std::string ReadableDocument(std::string_view path, std::string_view text) {
+  return "Soubor:" + StoredPath(path) + "\r\n" + std::string(text) + "\r\n\r\n";
+}
+
 std::string ReadableDocuments(const std::vector<RescuedText>& documents) {
   std::string text;
-  for (const RescuedText& document : documents)
-    text += "Soubor:" + StoredPath(document.origin) + "\r\n" + document.text + "\r\n\r\n";
+  for (const RescuedText& document : documents) text += ReadableDocument(document.origin, document.text);
   return text;
 }
 

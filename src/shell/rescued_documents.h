@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "shell/documents.h"
@@ -16,8 +17,9 @@ RescueRecord UnsavedDocuments(const Documents& documents);
 // or one brought back before. Those that found no place are returned.
 std::vector<RescuedText> BringBackDocuments(Documents& documents, const std::vector<RescueRecord>& records);
 
-// The documents as a text file that a person reads: a head line with the path, then the text, for each. A path that
+// A document as it stands in a text file that a person reads: a head line with the path, then the text. A path that
 // Windows-1250 can't hold stands there in UTF-8.
+std::string ReadableDocument(std::string_view path, std::string_view text);
 std::string ReadableDocuments(const std::vector<RescuedText>& documents);
 
 }  // namespace pelmar
