@@ -187,8 +187,6 @@ QString WebEngineView::LocationName() const {
 
 QUrl WebEngineView::LocationAddress() const { return page_->url(); }
 
-void WebEngineView::ReadText(std::function<void(const QString& text)> then) { page_->toPlainText(then); }
-
 void WebEngineView::ShowMenu(const QPoint& at) {
   auto* menu = new QMenu(view_.get());
   menu->setAttribute(Qt::WA_DeleteOnClose);

@@ -31,7 +31,6 @@ class WebEngineView : public QObject, public WebView {
   [[nodiscard]] bool Busy() const override;
   [[nodiscard]] QString LocationName() const override;
   [[nodiscard]] QUrl LocationAddress() const override;
-  void ReadText(std::function<void(const QString& text)> then) override;
 
  private:
   void ConnectPage();

@@ -37,9 +37,6 @@ class WebView {
   [[nodiscard]] virtual QString LocationName() const = 0;  // the page's title; its file's name where it has none
   [[nodiscard]] virtual QUrl LocationAddress() const = 0;
 
-  // Gives the words that the page shows, those of its frames too, when they have been collected.
-  virtual void ReadText(std::function<void(const QString& text)> then) = 0;
-
   std::function<void(qint64 progress, qint64 maximum)> on_progress;  // a maximum of 0 when there is nothing to load
   std::function<void()> on_change;                                   // the title changed or a load began
   std::function<void(bool)>

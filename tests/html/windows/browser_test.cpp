@@ -8,12 +8,12 @@
 #include <QTest>
 #include <QTimer>
 #include <QToolBar>
-#include <QWheelEvent>
 
 #include "html/windows/activity_picture.h"
 #include "html/windows/browser_module.h"
 #include "html/windows/frm_browser.h"
 #include "html/windows/web_address.h"
+#include "support/controls.h"
 #include "support/scripted_platform.h"
 #include "support/temp_folder.h"
 
@@ -53,7 +53,6 @@ class ScriptedView : public WebView {
   [[nodiscard]] bool Busy() const override { return busy; }
   [[nodiscard]] QString LocationName() const override { return name; }
   [[nodiscard]] QUrl LocationAddress() const override { return address; }
-  void ReadText(std::function<void(const QString&)> then) override { then(name); }
 
  private:
   std::unique_ptr<QWidget> widget_;
@@ -219,8 +218,7 @@ TEST_F(BrowserTest, AddressesAreLoadedByEnterAndByChoice) {
   EXPECT_TRUE(maker.calls.isEmpty());
   QTest::keyClick(&Address(), Qt::Key_Down);
   EXPECT_EQ(TakeCalls(), QStringList{QStringLiteral("load file:///a.html")});
-  QWheelEvent wheel({5, 5}, {5, 5}, {}, {0, 120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-  QCoreApplication::sendEvent(&Address(), &wheel);
+  RollWheel(Address(), {}, {0, 120});
   EXPECT_TRUE(maker.calls.isEmpty());
   window->DontNavigateNow = true;
   Q_EMIT Address().activated(0);
@@ -229,8 +227,9 @@ TEST_F(BrowserTest, AddressesAreLoadedByEnterAndByChoice) {
 
 TEST_F(BrowserTest, AddressesOfTheEngineAreRefused) {
   Make();
-  for (const char* refused : {"chrome://crash", "CHROME://gpucrash", "about:crash", "about:", "about:blank2", "qrc:/x",
-                              "view-source:http://x.cz", "javascript:alert(1)", "blob:x", "ftp://x.cz/", "mailto:a@x.cz"}) {
+  for (const char* refused :
+       {"chrome://crash", "CHROME://gpucrash", "about:crash", "about:", "about:blank2", "qrc:/x",
+        "view-source:http://x.cz", "javascript:alert(1)", "blob:x", "ftp://x.cz/", "mailto:a@x.cz"}) {
     Address().lineEdit()->setText(QLatin1String(refused));
     platform.answers = {Answer::kOk};
     QTest::keyClick(&Address(), Qt::Key_Return);
