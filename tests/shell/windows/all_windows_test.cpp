@@ -16,7 +16,6 @@
 #include <QScrollBar>
 #include <QTabBar>
 #include <QTest>
-#include <QWheelEvent>
 #include <limits>
 #include <map>
 
@@ -27,6 +26,7 @@
 #include "platform/qt/controls/swatch.h"
 #include "platform/qt/controls/text_box.h"
 #include "program/program.h"
+#include "support/controls.h"
 #include "support/scripted_platform.h"
 
 namespace pelmar {
@@ -138,8 +138,7 @@ void ExpectTabsStay(QWidget& window) {
   for (QTabBar* tabs : window.findChildren<QTabBar*>()) {
     const int before = tabs->currentIndex();
     for (const int turn : {-120, 120}) {
-      QWheelEvent wheel({5, 5}, tabs->mapToGlobal(QPointF(5, 5)), {}, {0, turn}, {}, {}, Qt::NoScrollPhase, false);
-      QCoreApplication::sendEvent(tabs, &wheel);
+      RollWheel(*tabs, {}, {0, turn});
       EXPECT_EQ(tabs->currentIndex(), before) << Named(*tabs).toStdString();
     }
   }

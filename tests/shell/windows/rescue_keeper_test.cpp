@@ -32,6 +32,12 @@ struct RescueKeeperTest : testing::Test {
 
   RescueKeeperTest() { platform.install_folder = Utf8FromQString(folder.path()) + "/"; }
   [[nodiscard]] std::string In(std::string_view name) const { return platform.install_folder + std::string(name); }
+  // The start asks nothing then.
+  void KnowThePerson() {
+    SettingsRecord settings;
+    settings.UserName = settings.UserEmail = "jan";
+    platform.files[In("pelmar.ini")] = SettingsBytes(settings);
+  }
   // What a copy that died leaves behind.
   void Leave(const char* name, const std::string& bytes) {
     QFile(folder.filePath(QLatin1String(name))).open(QIODevice::WriteOnly);
@@ -74,9 +80,7 @@ TEST_F(RescueKeeperTest, TheLastResortIsANewFileOfADrawnName) {
 
 // The numeral goes into the editor's hidden document, which nobody would miss and no later start has to offer.
 TEST_F(RescueKeeperTest, AnAccessoryAloneKeepsNoDocument) {
-  SettingsRecord settings;
-  settings.UserName = settings.UserEmail = "jan";
-  platform.files[In("pelmar.ini")] = SettingsBytes(settings);
+  KnowThePerson();
   Program program(platform);
   program.Run("-CALC");
   program.Windows().Get<Prev>().findChild<QPushButton*>(QStringLiteral("Command38"))->click();
@@ -153,9 +157,7 @@ TEST_F(RescueKeeperTest, ATextThatTwoFilesHoldIsOfferedOnceAndTornFilesStay) {
 }
 
 TEST_F(RescueKeeperTest, TheStatusBarSaysForAsLongAsItHoldsThatNothingIsKept) {
-  SettingsRecord settings;
-  settings.UserName = settings.UserEmail = "jan";
-  platform.files[In("pelmar.ini")] = SettingsBytes(settings);
+  KnowThePerson();
   Program program(platform);
   program.Run("-NOMSG");
   auto* warning = program.Main().Bar().findChild<QLabel*>(QStringLiteral("Warning"));
