@@ -16,6 +16,7 @@ bool IsEscape(const QString& path, qsizetype at) {
 // `malformed` gives what stands for a byte that is no UTF-8.
 template <typename Malformed>
 QString Decoded(std::string_view utf8, Malformed malformed) {
+  if (IsUtf8(utf8)) return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
   QString string;
   for (std::size_t at = 0; at < utf8.size();) {
     const auto byte = static_cast<unsigned char>(utf8[at]);
@@ -42,13 +43,11 @@ std::string TextFromQString(const QString& string) {
 }
 
 QString Utf8ToQString(std::string_view utf8) {
-  return IsUtf8(utf8) ? QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()))
-                      : Decoded(utf8, [](unsigned char byte) { return UnicodeOf(byte); });
+  return Decoded(utf8, [](unsigned char byte) { return UnicodeOf(byte); });
 }
 
 QString PathToQString(std::string_view path) {
-  return IsUtf8(path) ? QString::fromUtf8(path.data(), static_cast<qsizetype>(path.size()))
-                      : Decoded(path, [](unsigned char byte) { return static_cast<char16_t>(kEscape + byte); });
+  return Decoded(path, [](unsigned char byte) { return static_cast<char16_t>(kEscape + byte); });
 }
 
 std::string PathFromQString(const QString& path) {

@@ -11,9 +11,6 @@
 namespace pelmar {
 namespace {
 
-// What stands before the path in the text of an item: the digit with its "&", and a blank.
-constexpr qsizetype kBeforePath = 3;
-
 // A long path without its middle, so that the menu stays narrower than a screen.
 QString Shortened(const QString& item) {
   constexpr qsizetype kMost = 100;
@@ -92,10 +89,9 @@ void MainToolbar::Refresh() {
 
 void MainToolbar::ShowRecentFiles() {
   for (int number = 1; number <= 10; ++number) {
-    const QString item = Utf8ToQString(files_.recent.ItemText(number));
     QAction* action = recent_[static_cast<std::size_t>(number - 1)];
-    action->setText(EscapedMnemonics(Shortened(item)));
-    action->setToolTip(item.mid(kBeforePath));  // the path as a whole
+    action->setText(EscapedMnemonics(Shortened(Utf8ToQString(files_.recent.ItemText(number)))));
+    action->setToolTip(Utf8ToQString(files_.recent.Path(number)));
   }
 }
 

@@ -70,7 +70,6 @@ class StatusStrip : public QStatusBar {
  private:
   void Place();
   void ShowKey(std::size_t at, bool on);
-  void ShowWarning();
   void PlaceWarning();
 
   std::array<StatusPanel*, kPanelCount> panels_{};
