@@ -1,0 +1,102 @@
+// Works a window by a line of steps, and tells its controls in a line, so that a test of a dialog is a table.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QAbstractItemView>
+#include <QAbstractButton>
+#include <QAbstractSlider>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <string>
+
+#include "platform/qt/controls/swatch.h"
+
+namespace pelmar {
+
+// The words of a line. A word holds spaces between apostrophes: "Text1='a b' Command1!".
+inline QStringList Words(const QString& line) {
+  QStringList words;
+  bool quoted = false, begun = false;
+  for (const QChar c : line) {
+    if (c == QLatin1Char('\'')) quoted = !quoted;
+    if (c == QLatin1Char(' ') && !quoted) {
+      begun = false;
+      continue;
+    }
+    if (!begun) words += QString();
+    begun = true;
+    if (c != QLatin1Char('\'')) words.last() += c;
+  }
+  return words;
+}
+
+inline QWidget* Named(const QWidget& window, const QString& name) {
+  auto* control = window.findChild<QWidget*>(name);
+  EXPECT_NE(control, nullptr) << "no control " << name.toStdString();
+  return control;
+}
+
+// "Command1!" clicks a button; "Text1=abc" types over a field or an editable box; "VScroll1=3" moves a bar; "List1=2"
+// makes a row of a list (from 0) the current one, "Combo1=2" one of a box that isn't editable.
+inline void Work(const QWidget& window, const char* steps) {
+  for (const QString& step : Words(QString::fromUtf8(steps))) {
+    const bool click = step.endsWith(QLatin1Char('!'));
+    const auto equals = step.indexOf(QLatin1Char('='));
+    QWidget* control = Named(window, click ? step.chopped(1) : step.left(equals));
+    const QString value = step.mid(equals + 1);
+    if (auto* button = qobject_cast<QAbstractButton*>(control); button && click) {
+      button->click();
+    } else if (auto* field = qobject_cast<QLineEdit*>(control)) {
+      field->setText(value);
+    } else if (auto* box = qobject_cast<QComboBox*>(control)) {
+      box->isEditable() ? box->setEditText(value) : box->setCurrentIndex(value.toInt());
+    } else if (auto* bar = qobject_cast<QAbstractSlider*>(control)) {
+      bar->setValue(value.toInt());
+    } else if (auto* list = qobject_cast<QAbstractItemView*>(control)) {
+      list->setCurrentIndex(list->model()->index(value.toInt(), 0));
+    } else {
+      ADD_FAILURE() << "nothing does " << step.toStdString();
+    }
+  }
+}
+
+// What a control shows: a text, a bar's value, "1" or "0" of what can be checked, a list's rows between "|" with ">"
+// before the selected ones; in parentheses where it is disabled.
+inline QString Shown(const QWidget* control) {
+  QString shown;
+  if (auto* swatch = qobject_cast<const Swatch*>(control)) {
+    shown = swatch->Color().name();
+  } else if (auto* button = qobject_cast<const QAbstractButton*>(control)) {
+    shown = button->isCheckable() ? QString::number(button->isChecked()) : button->text();
+  } else if (auto* label = qobject_cast<const QLabel*>(control)) {
+    shown = label->text();
+  } else if (auto* field = qobject_cast<const QLineEdit*>(control)) {
+    shown = field->text();
+  } else if (auto* box = qobject_cast<const QComboBox*>(control)) {
+    shown = box->currentText();
+  } else if (auto* bar = qobject_cast<const QAbstractSlider*>(control)) {
+    shown = QString::number(bar->value());
+  } else if (auto* progress = qobject_cast<const QProgressBar*>(control)) {
+    shown = QString::number(progress->value());
+  } else if (auto* list = qobject_cast<const QAbstractItemView*>(control)) {
+    for (int row = 0; row < list->model()->rowCount(); ++row) {
+      const QModelIndex index = list->model()->index(row, 0);
+      shown += QLatin1String(row ? "|" : "") + QLatin1String(list->selectionModel()->isSelected(index) ? ">" : "") +
+               index.data().toString();
+    }
+  }
+  return control->isEnabled() ? shown : QLatin1Char('(') + shown + QLatin1Char(')');
+}
+
+// The controls named, as in "Label1=1% VScroll1=(50)".
+inline std::string State(const QWidget& window, const char* names) {
+  QStringList shown;
+  for (const QString& name : Words(QString::fromUtf8(names)))
+    if (const QWidget* control = Named(window, name)) shown += name + QLatin1Char('=') + Shown(control);
+  return shown.join(QLatin1Char(' ')).toStdString();
+}
+
+}  // namespace pelmar
