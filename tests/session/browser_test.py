@@ -220,9 +220,7 @@ class BrowserTest(EditorCase):
 
         def silenced():
             if session.window("Zpráva stránky"):
-                session.key("alt+d")
-                time.sleep(0.3)  # for which the check box stays down
-                session.key("Return")
+                session.key("alt+d", "Return")
             return session.window("HTML testovací browser (done)")
         session.wait_until(silenced, "the end of the questions")
 

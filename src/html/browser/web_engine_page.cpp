@@ -35,6 +35,19 @@ bool MayBeFramed(const QUrl& address) {
   return MayBeShown(address) || address.scheme() == QLatin1String("about") || address.scheme() == QLatin1String("blob");
 }
 
+// The toolkit's own stays pressed for a moment before its key takes effect, and Enter may come sooner.
+class SilenceBox : public QCheckBox {
+ public:
+  SilenceBox() : QCheckBox(QStringLiteral("&Další zprávy této stránky neukazovat")) {}
+
+ protected:
+  bool event(QEvent* event) override {
+    if (event->type() != QEvent::Shortcut) return QCheckBox::event(event);
+    click();
+    return true;
+  }
+};
+
 }  // namespace
 
 WebEnginePage::WebEnginePage(QWebEngineProfile* profile, NetGate& gate, QObject* parent)
@@ -148,9 +161,7 @@ void WebEnginePage::ForgetQuestions() {
 bool WebEnginePage::Ask(QDialog& question) {
   QWidget* view = QWebEngineView::forPage(this);
   if (silenced_ || muted_ || question_ != nullptr || view == nullptr || !view->isVisible()) return false;
-  auto* silence = ++questions_ > kMostUnasked
-                      ? new QCheckBox(QStringLiteral("&Další zprávy této stránky neukazovat"), &question)
-                      : nullptr;
+  QCheckBox* silence = ++questions_ > kMostUnasked ? new SilenceBox : nullptr;
   if (auto* box = qobject_cast<QMessageBox*>(&question); box != nullptr && silence != nullptr) {
     box->setCheckBox(silence);
   } else if (silence != nullptr) {
@@ -165,8 +176,7 @@ bool WebEnginePage::Ask(QDialog& question) {
   const int result = question.exec();
   if (self == nullptr) return false;
   question_ = nullptr;
-  // Its key presses the box for a moment before it takes effect, and Enter may come sooner.
-  if (silence != nullptr && (silence->isChecked() || silence->isDown())) muted_ = true;
+  if (silence != nullptr && silence->isChecked()) muted_ = true;
   if (on_answered) QMetaObject::invokeMethod(this, on_answered, Qt::QueuedConnection);
   return result == QDialog::Accepted || result == QMessageBox::Yes || result == QMessageBox::Ok;
 }
