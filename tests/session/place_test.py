@@ -21,15 +21,6 @@ class PlaceTest(EditorCase):
         return left, top, width, height, struct.unpack("<i", record[-6:-2])[0]
 
     def test_dialogs_stand_in_the_middle(self):
-        # In about one start of twenty the window manager's own place for a dialog comes last and is left alone.
-        try:
-            self.see_dialogs_in_the_middle()
-        except AssertionError as first:
-            print(first)
-            self.session.kill()
-            self.see_dialogs_in_the_middle()
-
-    def see_dialogs_in_the_middle(self):
         session = self.session
         write_settings(self.folder, show_start=True, user_name="")
         session.start(PROGRAM)

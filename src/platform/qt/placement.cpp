@@ -28,6 +28,9 @@ QMargins UsualFrame() {
   return {};
 }
 
+// A window manager puts the window into a frame of one pixel first, whose right side lies left of the window's.
+bool IsMade(const QMargins& frame) { return std::min({frame.left(), frame.top(), frame.right(), frame.bottom()}) >= 0; }
+
 TwipsRect OnPixels(const TwipsRect& place) {
   const auto on_pixel = [](int twips) { return TwipsOf(PixelsOf(twips)); };
   return {on_pixel(place.left), on_pixel(place.top), on_pixel(place.width), on_pixel(place.height)};
@@ -74,7 +77,8 @@ void Placement::Look() {
   if (!mapped_) deadline_.setRemainingTime(kPatience);
   mapped_ = true;
   const bool late = deadline_.hasExpired();
-  if (!late && system->frameMargins() == left_) return;
+  const QMargins frame = system->frameMargins();
+  if (!late && (frame == left_ || !IsMade(frame))) return;
   if (!window_.isMinimized()) Apply();
   if (!frame_known_) {
     frame_known_ = true;
