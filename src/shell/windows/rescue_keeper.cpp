@@ -49,6 +49,8 @@ void RescueKeeper::Touch() {
 }
 
 void RescueKeeper::Keep() {
+  // A slow disk gets the latest text once it is ready, not one copy after another.
+  if (writer_.activeThreadCount() > 0) return timer_.start(kDelay);
   // The copy is all that a long document costs the person who types.
   writer_.start([this, write = ++writes_, now = content_.unsaved()]() mutable {
     const int error = WriteChanged(std::move(now));
