@@ -1,0 +1,117 @@
+// Any edits of any text: the buffer holds what a plain string holds, undo and redo lead back and forth, and a layout
+// that follows each change is the one that is laid out anew. Three bytes of the input are one step.
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+
+#include "text/text_buffer.h"
+#include "text/text_layout.h"
+
+namespace pelmar {
+namespace {
+
+void Expect(bool holds) {
+  if (!holds) std::abort();
+}
+
+// What is written: ends of lines and their halves, blanks, tabs, and words that wrap.
+constexpr std::string_view kPieces[] = {
+    "a", " ", "\t", "\r\n", "\r", "\n", "word ", "\xA0", "a long word and more\r\n"};
+constexpr std::size_t kLongest = 4000;  // bytes; longer texts only cost time
+
+LayoutRules Rules(bool wrap) {
+  LayoutRules rules;
+  for (std::size_t code = 0; code < 256; ++code)
+    rules.advances.of[code] = static_cast<std::int32_t>(300 + code * 7 % 411);
+  rules.advances.tab_stop = 8 * rules.advances.of[' '];
+  rules.width = 60 * kUnitsPerPixel;
+  rules.wrap = wrap;
+  return rules;
+}
+
+class Box {
+ public:
+  explicit Box(bool wrap) : rules_(Rules(wrap)) {
+    layout_.Lay(buffer_, rules_);
+    heard_ = buffer_.OnChange([this](const TextChange& change) { Follow(change); });
+  }
+
+  void Step(unsigned act, unsigned a, unsigned b) {
+    const std::size_t size = plain_.size();
+    const std::size_t pos = a * 16 % (size + 1), length = b % (size - pos + 1);
+    const std::string_view piece = kPieces[b % std::size(kPieces)];
+    switch (act % 8) {
+      case 0:
+        return buffer_.Select(pos, pos + length);
+      case 1:
+        return Write(piece, [&] { buffer_.Type(piece); });
+      case 2:
+        return Write(piece, [&] { buffer_.ReplaceSelection(piece); });
+      case 3:
+        return buffer_.EraseBefore(b % 3);
+      case 4:
+        return buffer_.EraseAfter(b % 3);
+      case 5:
+        return ThereAndBack(&TextBuffer::Undo, &TextBuffer::Redo, b);
+      case 6:
+        return ThereAndBack(&TextBuffer::Redo, &TextBuffer::Undo, b);
+      default:
+        buffer_.Replace(pos, length, piece);
+    }
+  }
+
+  void Check() const {
+    Expect(buffer_.Text() == plain_);
+    TextLayout fresh(buffer_);
+    fresh.Lay(buffer_, rules_);
+    Expect(fresh.RowCount() == layout_.RowCount() && fresh.ContentWidth() == layout_.ContentWidth());
+    for (std::size_t row = 0; row < fresh.RowCount(); ++row) {
+      Expect(fresh.RowStart(row) == layout_.RowStart(row) && fresh.RowEnd(row) == layout_.RowEnd(row));
+      Expect(fresh.XOf(row, fresh.RowEnd(row)) == layout_.XOf(row, layout_.RowEnd(row)));
+      Expect(layout_.RowOf(layout_.RowStart(row)) == row);
+    }
+  }
+
+  [[nodiscard]] bool IsFull() const { return plain_.size() > kLongest; }
+
+ private:
+  template <class Act>
+  void Write(std::string_view piece, Act act) {
+    std::string wanted = plain_;
+    wanted.replace(buffer_.SelStart(), buffer_.SelLength(), piece);
+    act();
+    Expect(plain_ == wanted);
+  }
+  void ThereAndBack(bool (TextBuffer::*go)(), bool (TextBuffer::*come_back)(), unsigned b) {
+    const std::string before = plain_;
+    if (!(buffer_.*go)() || b % 2 == 0) return;
+    Expect((buffer_.*come_back)() && plain_ == before);
+  }
+
+  // Makes the change that is told in the plain text, whatever made it.
+  void Follow(const TextChange& change) {
+    Expect(change.pos + change.removed <= plain_.size() && change.pos + change.inserted <= buffer_.Size());
+    plain_.replace(change.pos, change.removed, buffer_.Text().substr(change.pos, change.inserted));
+    layout_.Update(change);
+  }
+
+  LayoutRules rules_;
+  TextBuffer buffer_;
+  TextLayout layout_{buffer_};
+  std::string plain_;
+  Listening heard_;
+};
+
+}  // namespace
+}  // namespace pelmar
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  if (size == 0) return 0;
+  pelmar::Box box(data[0] % 2 == 0);
+  for (std::size_t i = 1; i + 2 < size && !box.IsFull(); i += 3) {
+    box.Step(data[i], data[i + 1], data[i + 2]);
+    box.Check();
+  }
+  return 0;
+}
