@@ -1,5 +1,5 @@
-// How the commands of menus and dialogs put text into a box: over the selection, at the caret, around the selection or in
-// the place of all. Texts are Windows-1250, written without any escaping.
+// How the commands of menus and dialogs put text into a box: over the selection, at the caret, around the selection or
+// in the place of all. Texts are Windows-1250, written without any escaping.
 #pragma once
 
 #include <string_view>
