@@ -12,7 +12,7 @@ import sys
 ORDER = [
     ["text"],
     ["platform"],
-    ["platform/qt", "platform/posix"],
+    ["platform/qt"],
     ["platform/qt/controls", "platform/printer"],
     ["shell"],
     ["files"],

@@ -118,7 +118,7 @@ class Platform {
   Platform& operator=(const Platform&) = delete;
   virtual ~Platform() = default;
 
-  // Questions to the person; they return when answered. Closing a box by its window counts as No.
+  // Questions to the person; they return when answered.
   virtual Answer Message(MessageType type, std::string_view text, std::string_view title) = 0;
   // The system's box about a program.
   virtual void ShowAbout(std::string_view title, std::string_view text) = 0;

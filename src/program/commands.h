@@ -1,4 +1,4 @@
-// Every command that needs no window of its own, put into the editor's list.
+// The commands that need no window, neither one of their own nor the main one, put into the editor's list.
 #pragma once
 
 namespace pelmar {

@@ -1,5 +1,6 @@
-// From the start of the process to the first edit, and from the request to close to its end. Everything that lasts is
-// read here and written here: the settings file and the two recovery files. The order of the steps is required.
+// From the start of the process to the first edit, and from the request to close to its end. The settings file and the
+// file with the last text are read and written here, the file with all five texts is only written. The order of the
+// steps is required.
 #pragma once
 
 #include <functional>

@@ -1,5 +1,6 @@
-// The program-wide file number 1. Every file operation runs on it, one at a time; an operation that an error abandons
-// half-way leaves it open, and then every later one fails until the next start.
+// The program-wide file number 1. The operations on documents and on the program's own files run on it, one at a time;
+// opening one that an error abandons half-way leaves it open, and then every later operation fails until the next
+// start. The rescue and the conversions of files do without it.
 #pragma once
 
 #include <cerrno>

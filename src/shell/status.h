@@ -1,5 +1,5 @@
-// What the status timer computes on each tick: the state that enables menu items and the texts of panels 1 to 4.
-// Panel texts are Windows-1250, because they show the document and the clipboard.
+// What the status timer shows: the state that enables menu items, on each tick, and the texts of panels 1 to 4, where
+// what they tell of has changed. Panel texts are Windows-1250, because they show the document and the clipboard.
 #pragma once
 
 #include <optional>

@@ -1,5 +1,5 @@
 // Places and sizes of windows in twips, 15 to the logical pixel, outer sizes with the frame: snapping to the screen's
-// edges and the layout of the main window. All pure; the main window applies what comes out.
+// edges and the layout of the main window. Only computed here; the windows and the status timer apply what comes out.
 #pragma once
 
 #include <array>

@@ -1,4 +1,5 @@
-// The routines through which every command puts text into a box. Texts are Windows-1250, written without any escaping.
+// How the commands of menus and dialogs put text into a box: over the selection, at the caret, around the selection or
+// in the place of all. Texts are Windows-1250, written without any escaping.
 #pragma once
 
 #include <string_view>

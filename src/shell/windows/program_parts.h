@@ -24,8 +24,8 @@ namespace pelmar {
 // By mode, what shows an accessory that runs as the whole program.
 using StandAlones = std::map<StartMode, std::function<void()>>;
 
-// Called before an error ends the program. Each keeps what its window holds and returns a line that tells where, in
-// UTF-8, or "" where there was nothing to keep.
+// Called before an error or the system ends the program. Each keeps what its window holds and returns the lines that
+// tell where, in UTF-8, or "" where there was nothing to keep.
 using Keepers = std::vector<std::function<std::string()>>;
 
 // The folder browsers of the dialogs that pick files, each made when it is asked for.
@@ -79,7 +79,7 @@ struct ProgramParts {
     file_pickers.emplace_back([&shown = windows] { return FolderBrowserOf(shown.Get<Window>()); });
   }
 
-  // The commands of these names show the window, as far as it isn't on show already.
+  // The commands of these names show the window, or bring it to the front.
   template <class Window>
   void ShowBy(std::initializer_list<std::string_view> names) const {
     for (const std::string_view name : names)

@@ -1,5 +1,5 @@
-// `Timer1` of the main window: every 500 ms it snaps the marked windows, sets the state of the menus and rewrites the
-// status bar. Nothing else updates any of these. Only the snapping runs while another window is active.
+// `Timer1` of the main window: every 500 ms it snaps the marked windows and, while the main window is the active one,
+// sets the state of the menus and shows in the status bar's panels what has changed. Nothing else updates these.
 #pragma once
 
 #include <QTimer>

@@ -1,5 +1,5 @@
-// Paints rows of a text: selection, glyphs, and the text that an input method is still composing.
-// Holds references only and lives for one paint.
+// Paints rows of a text: selection and glyphs, with a gap for what an input method is still composing, which
+// TextComposer paints. Holds references only and lives for one paint.
 #pragma once
 
 #include <QColor>
