@@ -102,6 +102,8 @@ std::string PrintName(std::string_view path) {
   return name.empty() ? "Pelmar VEX" : std::string(name);
 }
 
+namespace {
+
 PrintOutcome PutOnPaper(Editor& e, const EditorLook& look, const std::string& text) {
   const BusyPointer busy(e.platform);
   return e.platform.Print({look.font_name, look.font_size, look.bold, look.italic},
@@ -112,6 +114,8 @@ PrintOutcome PutOnPaper(Editor& e, const EditorLook& look, const std::string& te
                             PutOnPages(LayOutForPrint(text, paper.Width(), end_of), paper);
                           });
 }
+
+}  // namespace
 
 void PrintDocument(Editor& e, const EditorLook& look) {
   const std::optional<std::string> text = TextToPrint(e);

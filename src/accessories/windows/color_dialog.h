@@ -6,7 +6,6 @@
 #include "platform/qt/controls/dialog_window.h"
 
 class QLabel;
-class QScrollBar;
 
 namespace Ui {
 class ColorDialog;

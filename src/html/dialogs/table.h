@@ -9,8 +9,6 @@
 #include "html/table_builder.h"
 #include "platform/qt/controls/fragment_dialog.h"
 
-class QLineEdit;
-
 namespace Ui {
 class Table;
 }

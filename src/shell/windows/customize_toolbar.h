@@ -7,9 +7,6 @@
 #include "platform/qt/controls/dialog_window.h"
 #include "shell/windows/main_toolbar.h"
 
-class QAction;
-class QListWidgetItem;
-
 namespace Ui {
 class CustomizeToolbar;
 }

@@ -14,7 +14,6 @@ class CaretBlink : public QObject {
   CaretBlink(std::function<void()> repaint, QObject* parent);
 
   [[nodiscard]] bool Shown() const { return shown_; }
-  [[nodiscard]] bool Running() const { return timer_.isActive(); }
   // Shows the caret; `blinks` false leaves it steady.
   void Start(bool blinks);
   void Hide();
