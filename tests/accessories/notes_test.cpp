@@ -1,10 +1,10 @@
-#include "accessories/notes.h"
-
 #include <gtest/gtest.h>
 
 #include <cerrno>
 
 #include "accessories/checkpoints.h"
+#include "accessories/notes.h"
+#include "accessories/notes_place.h"
 #include "platform/runtime_error.h"
 #include "support/scripted_platform.h"
 
@@ -12,27 +12,20 @@ namespace pelmar {
 namespace {
 
 constexpr char kPath[] = "/install/notes.dat";
+const NotesRecord kStored{{"a\r\n", "", std::string(258, 'x'), "\xE8\xFF", std::string("\0z", 2)}};
 
-std::string Bytes(std::initializer_list<int> codes) {
-  std::string bytes;
-  for (const int code : codes) bytes += static_cast<char>(code);
-  return bytes;
-}
-
-const NotesRecord kNotes{{"a\r\n", "", std::string(258, 'x'), "\xE8\xFF", std::string("\0z", 2)}};
-const std::string kNotesBytes =
-    Bytes({3, 0, 'a', 13, 10, 0, 0, 2, 1}) + std::string(258, 'x') + Bytes({2, 0, 0xE8, 0xFF, 2, 0, 0, 'z'});
-
-TEST(NotesFile, IsTheRecordToTheByteAndEmptyFromADamageOn) {
-  EXPECT_EQ(NotesBytes(kNotes), kNotesBytes);
-  EXPECT_EQ(NotesBytes({}), std::string(10, '\0'));
-  const std::pair<std::string, NotesRecord> cases[] = {
-      {Bytes({5}), {}},                                           // half a count
-      {Bytes({1, 0, 'a', 0xFF, 0xFF, 'b', 1, 0, 'c'}), {{"a"}}},  // what stands behind the damage can't be trusted
-      {Bytes({1, 0, 'a', 2, 0, 'b', 'c', 1}), {{"a", "bc"}}},
-      {kNotesBytes + "an older, longer record's tail", kNotes},
-  };
-  for (const auto& [bytes, record] : cases) EXPECT_EQ(ReadNotes(bytes), record) << bytes.size();
+TEST(NotesFile, IsItsPagesToTheByteAndEmptyFromADamageOn) {
+  const std::string bytes = NotesBytes(kStored);
+  for (std::size_t size = 0; size <= bytes.size(); ++size) {
+    std::size_t end = 0;
+    std::string expected;
+    for (const std::string& page : kStored.pages) {
+      end += 2 + page.size();
+      const std::string count{static_cast<char>(page.size() % 256), static_cast<char>(page.size() / 256)};
+      expected += end <= size ? count + page : std::string(2, '\0');
+    }
+    ASSERT_EQ(NotesBytes(ReadNotes(bytes.substr(0, size))), expected) << size;
+  }
   NotesRecord record;
   record.Page(4) = std::string(kLongestNote, 'x');
   EXPECT_EQ(ReadNotes(NotesBytes(record)), record);
@@ -45,43 +38,41 @@ TEST(NotesFile, IsTheRecordToTheByteAndEmptyFromADamageOn) {
 struct NotesOnDisk : testing::Test {
   ScriptedPlatform platform;
   FileNumber file_number;
+
+  [[nodiscard]] NotesRecord Loaded() { return LoadNotes(platform, file_number); }
 };
 
 TEST_F(NotesOnDisk, AMissingFileIsMadeEmptyAndTheTailOfALongerRecordStays) {
-  EXPECT_EQ(LoadNotes(platform, file_number), NotesRecord{});
+  EXPECT_EQ(Loaded(), NotesRecord{});
   EXPECT_EQ(platform.files.at(kPath), "");
-  StoreNotes({}, platform, file_number);
-  EXPECT_EQ(platform.files.at(kPath), std::string(10, '\0'));
-  platform.files[kPath] = kNotesBytes;
+  StoreNotes(kStored, platform, file_number);
+  EXPECT_EQ(Loaded(), kStored);
   StoreNotes({{"b"}}, platform, file_number);
-  EXPECT_EQ(platform.files[kPath], Bytes({1, 0, 'b', 0, 0, 0, 0, 0, 0, 0, 0}) + kNotesBytes.substr(11));
-  EXPECT_EQ(LoadNotes(platform, file_number), (NotesRecord{{"b"}}));
+  EXPECT_EQ(platform.files[kPath], NotesBytes({{"b"}}) + NotesBytes(kStored).substr(11));
+  EXPECT_EQ(Loaded(), (NotesRecord{{"b"}}));
 }
 
 TEST_F(NotesOnDisk, WhatCantBeReadIsNotWrittenOver) {
-  platform.files[kPath] = kNotesBytes;
+  platform.files[kPath] = "kept";
   platform.read_errors[kPath] = EACCES;
-  EXPECT_THROW(LoadNotes(platform, file_number), RuntimeError);
+  EXPECT_THROW(Loaded(), RuntimeError);
   EXPECT_THROW(StoreNotes({}, platform, file_number), RuntimeError);
-  EXPECT_EQ(platform.files[kPath], kNotesBytes);
+  EXPECT_EQ(platform.files[kPath], "kept");
   platform.read_errors.clear();
   platform.write_errors[kPath] = EROFS;
   EXPECT_THROW(StoreNotes({}, platform, file_number), RuntimeError);
   EXPECT_FALSE(file_number.IsOpen());
   platform.files.clear();
-  EXPECT_THROW(LoadNotes(platform, file_number), RuntimeError);
+  EXPECT_THROW(Loaded(), RuntimeError);
   file_number.Open();  // an operation that was abandoned
-  EXPECT_THROW(LoadNotes(platform, file_number), RuntimeError);
+  EXPECT_THROW(Loaded(), RuntimeError);
 }
 
-TEST(NotesRescue, HoldsThePagesThatDifferFromTheFile) {
-  NotesRecord now = kNotes;
+TEST(NotesRescue, EachPageThatDiffersComesBackToItsPlaceOrToAnEmptyOne) {
+  NotesRecord now = kStored;
   now.Page(1) = "new";
   now.Page(3).clear();
-  EXPECT_EQ(NotesToKeep(kNotes, now, 3), (RescueRecord{3, {{1, "a\r\n", "new"}, {3, std::string(258, 'x'), ""}}}));
-}
-
-TEST(NotesRescue, EachPageComesBackToItsPlaceOrToAnEmptyOne) {
+  EXPECT_EQ(NotesToKeep(kStored, now, 3), (RescueRecord{3, {{1, "a\r\n", "new"}, {3, std::string(258, 'x'), ""}}}));
   NotesRecord record{{"one", "two", "", "four", "five"}};
   const std::vector<RescueRecord> unsaved = {
       {1, {{1, "one", "ONE"}, {3, "", "THREE"}, {5, "older", ""}}},  // an emptied page gives way to what is there now
@@ -97,25 +88,78 @@ TEST(NotesRescue, EachPageComesBackToItsPlaceOrToAnEmptyOne) {
 TEST(Checkpoint, TakesTheTextOverTheNoteAndAsksBeforeItGivesItBack) {
   ScriptedPlatform platform;
   TextBuffer document, note;
+  const auto restored = [&] { return RestoreCheckpoint(note, document, platform), document.Text(); };
   document.SetText("text\r\n\xFF");
-  RestoreCheckpoint(note, document, platform);  // an empty note asks nothing
-  EXPECT_EQ(document.Size(), 7u);
+  EXPECT_EQ(restored(), "text\r\n\xFF");  // an empty note asks nothing
   note.SetText("old note");
   SaveCheckpoint(document, note, platform);
-  EXPECT_EQ(note.Text(), document.Text());
   document.SetText("spoilt");
-  platform.answers = {Answer::kNo, Answer::kYes};
-  RestoreCheckpoint(note, document, platform);
-  EXPECT_EQ(document.Text(), "spoilt");
-  RestoreCheckpoint(note, document, platform);
-  EXPECT_EQ(document.Text(), "text\r\n\xFF");
-  const std::string question = "message 52 \"Opravdu vše vrátit ?\" \"Checkpoint\"";
-  EXPECT_EQ(platform.TakeCalls(), (std::vector<std::string>{question, question}));
+  platform.answers = {Answer::kNo, Answer::kYes, Answer::kOk};
+  EXPECT_EQ(restored(), "spoilt");
+  EXPECT_EQ(restored(), "text\r\n\xFF");
+  EXPECT_EQ(platform.calls.back(), "message 52 \"Opravdu vše vrátit ?\" \"Checkpoint\"");
   document.SetText(std::string(kLongestNote + 1, 'x'));  // no note holds it
-  platform.answers = {Answer::kOk};
   SaveCheckpoint(document, note, platform);
   EXPECT_EQ(note.Size(), 7u);
-  EXPECT_EQ(platform.calls.size(), 1u);
+  EXPECT_EQ(platform.calls.size(), 3u);
+}
+
+constexpr int kWidth = 19200, kHeight = 15360;
+
+NotesSurroundings Around(TwipsRect notes, StartMode mode = StartMode::kEditor, bool docked = false, int main_state = 0,
+                         int main_width = 12000) {
+  return {notes, {1500, 600, main_width, 9000}, main_state, mode, docked, 240, kWidth, kHeight, 2700};
+}
+
+TEST(PlaceNotes, FollowsTheButtonAndTheMainWindow) {
+  constexpr StartMode kEditor = StartMode::kEditor, kNotes = StartMode::kNotes;
+  const TwipsRect edge{100, 300, 6000, 4000};
+  const struct {
+    const char* what;
+    NotesSurroundings around;
+    TwipsRect expected;
+  } kCases[] = {
+      {"free", Around({300, 300, 6000, 4000}), {300, 300, 6000, 4000}},
+      {"just within the distance", Around({239, 239, 6000, 4000}), {0, 0, 6000, 4000}},
+      {"right and bottom", Around({13000, 11200, 6000, 4000}, kEditor, false, 2), {13200, 11360, 6000, 4000}},
+      {"docked", Around(edge, kEditor, true), {13500, 600, 5700, 9000}},
+      {"docked beside a minimised one", Around(edge, kEditor, true, 1), {0, 300, 6000, 4000}},
+      {"docked beside a maximised one", Around(edge, kEditor, true, 2), {16500, 0, 2700, kHeight}},
+      {"in the corner", Around(edge, kNotes, true), {13200, 11360, 6000, 4000}},
+      {"without room", Around(edge, kEditor, true, 0, kWidth - 1500), {kWidth, 600, 6000, 9000}},
+      {"with too little", Around(edge, kEditor, true, 0, kWidth - 1800), {kWidth - 300, 600, 2700, 9000}},
+  };
+  for (const auto& one : kCases) EXPECT_EQ(PlaceNotes(one.around), one.expected) << one.what;
+}
+
+TEST(NotesTimer, AsksAgainUntilItIsObeyedOrGivesUp) {
+  NotesTimer timer;
+  const auto asks = [&timer](const NotesSurroundings& now) {
+    int times = 0;
+    for (int tick = 0; tick < 80; ++tick) times += timer.Tick(now).has_value();
+    return times;
+  };
+  const NotesSurroundings near_edge = Around({100, 300, 6000, 4000});
+  EXPECT_EQ(timer.Tick(near_edge), (TwipsRect{0, 300, 6000, 4000}));
+  EXPECT_EQ(asks(Around({0, 300, 6000, 4000})), 0);
+  EXPECT_EQ(asks(near_edge), 50);  // refused for good
+  EXPECT_EQ(asks(near_edge), 0);
+  EXPECT_EQ(asks(Around({110, 300, 6000, 4000})), 50);  // until something moves
+}
+
+TEST(NotesTimer, GoesSlowlyBehindAQuietSecond) {
+  NotesTimer timer;
+  NotesSurroundings there = Around({300, 300, 6000, 4000});
+  for (int tick = 0; tick < 100; ++tick) timer.Tick(there);
+  EXPECT_EQ(timer.Interval(), 10);
+  timer.Rest();  // minimised, it counts on
+  EXPECT_EQ(timer.Interval(), 250);
+  timer.Wake();
+  EXPECT_EQ(timer.Interval(), 10);
+  for (int tick = 0; tick < 100; ++tick) timer.Rest();
+  there.snap_distance = 100000;  // no event tells of it
+  EXPECT_NE(timer.Tick(there), std::nullopt);
+  EXPECT_EQ(timer.Interval(), 10);
 }
 
 }  // namespace

@@ -2,22 +2,25 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include <cerrno>
 
+#include "ciphers/table_file.h"
+#include "platform/runtime_error.h"
 #include "support/random_source.h"
+#include "support/scripted_platform.h"
+#include "support/whole_editor.h"
 #include "text/codepage.h"
 
 namespace pelmar {
 namespace {
 
-// Codes 00000, 00001, 00010 ... of `depth` digits: all different.
-CipherTable PlainTable(int depth) {
+// The depth is the seed too. Codes of 24 digits and more are all different.
+CipherTable Table(int depth, const std::string& note = "note") {
+  RandomSource random(static_cast<unsigned>(depth));
   CipherTable table;
-  table.Depth = static_cast<std::uint8_t>(depth);
-  for (std::size_t i = 0; i < kSymbols; ++i)
-    for (int digit = depth - 1; digit >= 0; --digit) table.SymbolCodes[i] += digit < 16 && (i >> digit & 1) ? '1' : '0';
-  table.ZeroLetters = "ABCDEFGHIJKLM";
-  table.OneLetters = "NOPQRSTUVWXYZ";
+  GenerateCodes(table, depth, random.Draws());
+  GenerateLetterSplit(table, random.Draws());
+  table.Note = note;
   return table;
 }
 
@@ -26,66 +29,48 @@ TEST(RndCipher, PreparesTheText) {
   EXPECT_EQ(PrepareText("ABCäöüĺľŕ XYZ"_w), "ABC XYZ");  // letters of other languages keep their marks and go
 }
 
-TEST(RndCipher, GeneratesFromPairsOfDraws) {
+TEST(RndCipher, GeneratesFromPairsOfDrawsAndListsTheTable) {
   CipherTable table;
-  table.OneLetters = "keep";
-  table.Note = "note";
-  int draws = 0;
-  const double values[] = {0.5, 0.5, 0.5, 0.4, 0.0, 0.99, 0.99, 0.1};
-  GenerateCodes(table, 8, [&] { return values[draws++ % 8]; });
-  EXPECT_EQ(draws, 29 * 8 * 2);
+  std::size_t draws = 0;
+  const Draw draw = [&] { return std::array{0.5, 0.5, 0.5, 0.4, 0.0, 0.99, 0.99, 0.1}[draws++ % 8]; };
+  GenerateLetterSplit(table, draw);
+  EXPECT_EQ(table.ZeroLetters + table.OneLetters, "BCFGJKNORSVWZADEHILMPQTUXY");
+  GenerateCodes(table, 8, draw);
+  EXPECT_EQ(draws, 52u + 29 * 8 * 2);
   // required: nothing compares a code with those before it
-  for (const std::string& code : table.SymbolCodes) EXPECT_EQ(code, "10011001");
-  EXPECT_EQ(table.Depth, 8);
-  EXPECT_EQ(table.OneLetters, "keep");
-  GenerateLetterSplit(table, [&] { return values[draws++ % 8]; });
-  EXPECT_EQ(table.OneLetters, "ADEHILMPQTUXY");
-  EXPECT_EQ(table.ZeroLetters, "BCFGJKNORSVWZ");
-  EXPECT_EQ(table.Note, "note");
-}
-
-TEST(RndCipher, ListsTheTable) {
-  CipherTable table = PlainTable(8);
+  for (const std::string& code : table.SymbolCodes) EXPECT_EQ(code, "01100110");
+  table.SymbolCodes = {"1", "2"};
+  table.SymbolCodes[28] = "3";
+  const std::vector<std::string> rows = CodeRows(table);
+  EXPECT_EQ(rows.size(), 30u);
+  EXPECT_EQ(rows[0] + rows[1] + rows[2] + rows[26], "Hloubka: 8A       1B       2Z       ");
+  EXPECT_EQ(rows[27] + rows[28] + rows[29], "\" \"     Chr(13) Chr(10) 3");
   table.ZeroLetters = "XY";
   table.OneLetters = "B";
-  const std::vector<std::string> rows = CodeRows(table);
-  ASSERT_EQ(rows.size(), 30u);
-  EXPECT_EQ(rows[0], "Hloubka: 8");
-  EXPECT_EQ(rows[2], "B       00000001");
-  EXPECT_EQ(rows[27], "\" \"     00011010");
-  EXPECT_EQ(rows[28], "Chr(13) 00011011");
-  EXPECT_EQ(rows[29], "Chr(10) 00011100");
   EXPECT_EQ(LetterRows(table), (std::vector<std::string>{"0 : X", "0 : Y", "-----", "1 : B"}));
 }
 
 TEST(RndCipher, CoefficientsCountInTwoWays) {
-  CipherTable table;
-  EXPECT_EQ(CoefficientsText(table, CountedDigits::kFirstEight), std::nullopt);
-  table.Depth = 16;
-  table.OneLetters = std::string(16, 'A');
-  table.ZeroLetters = std::string(10, 'B');
-  for (std::string& code : table.SymbolCodes) code = "1111000010101111";
-  EXPECT_EQ(CoefficientsText(table, CountedDigits::kFirstEight),
-            "Koeficient A:1,60000 Koeficient B:1,00000 Celkem:1,600000000");
-  EXPECT_EQ(CoefficientsText(table, CountedDigits::kAll),
+  const auto text = [](std::size_t zero_letters, std::size_t one_letters, const char* code) {
+    CipherTable table{{}, 16, std::string(one_letters, 'B'), std::string(zero_letters, 'A'), {}};
+    table.SymbolCodes.fill(code);
+    return CoefficientsText(table, CountedDigits::kFirstEight).value_or("") + '|' +
+           CoefficientsText(table, CountedDigits::kAll).value_or("");
+  };
+  EXPECT_EQ(text(10, 16, "1111000010101111"),
+            "Koeficient A:1,60000 Koeficient B:1,00000 Celkem:1,600000000|"
             "Koeficient A:1,60000 Koeficient B:1,66667 Celkem:2,666666667");
-  std::swap(table.OneLetters, table.ZeroLetters);  // fewer ones than zeros counts as much as it is apart from 1
-  EXPECT_EQ(CoefficientsText(table, CountedDigits::kFirstEight),
-            "Koeficient A:1,37500 Koeficient B:1,00000 Celkem:1,375000000");
-  table.OneLetters.clear();
-  EXPECT_EQ(CoefficientsText(table, CountedDigits::kFirstEight),
-            "Koeficient A:2,00000 Koeficient B:1,00000 Celkem:2,000000000");
+  // Fewer ones than zeros count as much as they are apart from 1.
+  EXPECT_EQ(text(16, 10, "0000111100000000"),
+            "Koeficient A:1,37500 Koeficient B:1,00000 Celkem:1,375000000|"
+            "Koeficient A:1,37500 Koeficient B:1,66667 Celkem:2,291666667");
   // Without zeros there is nothing to divide by.
-  for (std::string& code : table.SymbolCodes) code = "11111111";
-  EXPECT_EQ(CoefficientsText(table, CountedDigits::kAll), std::nullopt);
-  table = PlainTable(8);
-  table.ZeroLetters.clear();
-  EXPECT_EQ(CoefficientsText(table, CountedDigits::kAll), std::nullopt);
+  EXPECT_EQ(text(10, 0, "111111110"), "|Koeficient A:2,00000 Koeficient B:8,00000 Celkem:16,000000000");
+  EXPECT_EQ(text(0, 10, "01"), "|");
 }
 
 TEST(RndCipher, WritesADigitAsALetterOfItsSet) {
-  CipherTable table = PlainTable(8);
-  table.SymbolCodes[0] = "01010011";
+  CipherTable table{{"01010011"}, 8, "NOPQRSTUVWXYZ", "ABCDEFGHIJKLM", {}};
   const auto cipher = [&table](std::string_view text, double r) {
     return RndEncipher(text, table, [r] { return r; }, {});
   };
@@ -96,15 +81,19 @@ TEST(RndCipher, WritesADigitAsALetterOfItsSet) {
   EXPECT_EQ(cipher("A", 0), "NNNN");  // draws from an empty set yield nothing
 }
 
-TEST(RndCipher, DecipheringUndoesEnciphering) {
+TEST(RndCipher, DecipheringUndoesEncipheringAndBothTellTheirProgress) {
   RandomSource source(42);
-  for (int round = 0; round < 2000; ++round) {
-    CipherTable table = PlainTable(8 + round % 57);
-    GenerateLetterSplit(table, source.Draws());
-    const std::string text = source.Text(59, "ABCDEFGHIJKLMNOPQRSTUVWXYZ \r\n");
-    const std::string cipher = RndEncipher(text, table, source.Draws(), {});
+  std::vector<std::size_t> passed;
+  const Progress progress = [&passed](std::size_t done) { passed.push_back(done); };
+  for (int depth = 24; depth <= 64; ++depth) {
+    const CipherTable table = Table(depth);
+    const std::string text = source.Text(999, "ABCDEFGHIJKLMNOPQRSTUVWXYZ \r\n") + "END";
+    passed.clear();
+    const std::string cipher = RndEncipher(text, table, source.Draws(), progress);
     ASSERT_EQ(PrepareText(cipher), cipher);
-    ASSERT_EQ(RndDecipher(cipher, table, {}), text);
+    ASSERT_EQ(RndDecipher(cipher, table, progress), text);
+    ASSERT_TRUE(passed.size() < 80 && passed.back() == cipher.size()) << passed.size();
+    ASSERT_EQ(std::count(passed.begin(), passed.end(), text.size()), 1);
   }
 }
 
@@ -118,8 +107,7 @@ std::string SlowlyDeciphered(const std::string& text, const CipherTable& table) 
     const std::string block = digits.substr(p, table.Depth);
     for (std::size_t j = 1; j <= kSymbols; ++j)
       if (table.SymbolCodes[j - 1].find(block) != std::string::npos) found = j;
-    if (found >= 1 && found <= 26) out += CharOf(static_cast<int>(64 + found));
-    if (found > 26) out += " \r\n"[found - 27];
+    if (found >= 1) out += "ABCDEFGHIJKLMNOPQRSTUVWXYZ \r\n"[found - 1];
   }
   return out;
 }
@@ -139,21 +127,107 @@ TEST(RndCipher, DecipheringEqualsTheWalkThroughAllCodes) {
   EXPECT_EQ(RndDecipher("AAAAAAAA", {}, {}), "");  // no depth
 }
 
-TEST(RndCipher, TellsItsProgress) {
-  const CipherTable table = PlainTable(8);
-  std::vector<std::size_t> passed;
-  const Progress progress = [&passed](std::size_t done) { passed.push_back(done); };
-  const auto expect_passed = [&passed](std::size_t all) {
-    EXPECT_TRUE(passed.size() > 10 && passed.size() < 40) << passed.size();
-    EXPECT_TRUE(std::ranges::is_sorted(passed));
-    EXPECT_EQ(passed.back(), all);
-    passed.clear();
+TEST(TableFile, IsItsFieldsToTheByteAndEmptyFromADamageOn) {
+  CipherTable table = Table(16, "x\r\n" + std::string(300, 'y'));
+  const auto counted = [](const std::string& text) {
+    return std::string{static_cast<char>(text.size() % 256), static_cast<char>(text.size() / 256)} + text;
   };
-  const std::string cipher = RndEncipher(
-      std::string(1000, 'A'), table, [] { return 0.5; }, progress);
-  expect_passed(1000);
-  RndDecipher(cipher, table, progress);
-  expect_passed(8000);
+  std::vector<std::string> fields;
+  for (const std::string& code : table.SymbolCodes) fields.push_back(counted(code));
+  fields.insert(fields.end(), {"\x10", counted(table.OneLetters), counted(table.ZeroLetters), counted(table.Note)});
+  const std::string bytes = TableBytes(table);
+  for (std::size_t size = 0; size <= bytes.size(); ++size) {
+    std::size_t end = 0;
+    std::string expected;
+    for (const std::string& field : fields) {
+      end += field.size();
+      expected += end <= size ? field : std::string(field.size() == 1 ? 1 : 2, '\0');
+    }
+    ASSERT_EQ(TableBytes(ReadTable(bytes.substr(0, size))), expected) << size;
+  }
+  table.Note.resize(70000);  // what is too long is cut
+  EXPECT_EQ(TableBytes(table).size(), bytes.size() - 303 + kLongestField);
+}
+
+TEST(TableFile, AnyBytesMakeATableThatCanBeWorkedWith) {
+  RandomSource random(9);
+  for (int round = 0; round < 2000; ++round) {
+    std::string bytes = round % 2 ? TableBytes(Table(8 + round % 57)) : std::string(random.Below(400), '\0');
+    for (auto n = random.Below(30); n > 0 && !bytes.empty(); --n)
+      bytes[random.Below(bytes.size())] = static_cast<char>(random.Below(256));
+    const CipherTable table = ReadTable(bytes);
+    ASSERT_LE(TableBytes(table).size(), bytes.size() + 65);
+    CodeRows(table);
+    LetterRows(table);
+    CoefficientsText(table, CountedDigits::kFirstEight);
+    RndDecipher(RndEncipher("AHOJ\r\n.", table, random.Draws(), {}), table, {});
+  }
+}
+
+struct TableFilesTest : testing::Test {
+  ScriptedPlatform platform;
+  WholeEditor editor{platform};
+  TableFiles files{platform, editor.file_number};
+  CipherTable table = Table(8, "mine");
+
+  // The note behind a load, in parentheses where the load went wrong.
+  std::string Loaded() {
+    try {
+      files.Load(table);
+      return table.Note;
+    } catch (const RuntimeError&) {
+      return '(' + table.Note + ')';
+    }
+  }
+  // What is asked and written.
+  std::vector<std::string> Saved() {
+    files.Save(table);
+    EXPECT_FALSE(editor.file_number.IsOpen());
+    return platform.TakeCalls();
+  }
+};
+
+const std::string kSave = "save \"Pelmar VEX Šifrovací tabulka (*.pvt)|*.pvt\" 0";
+using Calls = std::vector<std::string>;
+
+TEST_F(TableFilesTest, SaveAsksBeforeItOverwritesAndKeepsTheOldTail) {
+  const std::string question = "message 52 \"Opravdu uložit Tabulku ? - Soubor již existuje!\" \"RND Soubor\"";
+  platform.saves = {std::nullopt, "/a.pvt", std::nullopt, "/a.pvt", "/full.pvt", "/folder"};
+  platform.answers = {Answer::kNo, Answer::kYes};
+  platform.write_errors["/full.pvt"] = ENOSPC;
+  platform.files["/folder/"] = "";
+  EXPECT_EQ(Saved(), (Calls{kSave}));
+  table = Table(64);
+  const std::string old = TableBytes(table);
+  EXPECT_EQ(Saved(), (Calls{kSave, "write /a.pvt"}));
+  table = Table(8);
+  EXPECT_EQ(Saved(), (Calls{kSave, question}));  // a cancelled dialog means the file from before
+  EXPECT_EQ(platform.files["/a.pvt"], old);
+  EXPECT_EQ(Saved(), (Calls{kSave, question, "write /a.pvt"}));
+  EXPECT_EQ(platform.files["/a.pvt"], TableBytes(table) + old.substr(TableBytes(table).size()));
+  EXPECT_EQ(Saved(), (Calls{kSave, "write /full.pvt"}));  // required: fails in silence
+  EXPECT_EQ(Saved(), (Calls{kSave}));
+}
+
+TEST_F(TableFilesTest, LoadLeavesTheTableWhereItCantRead) {
+  platform.files = {
+      {"/a.pvt", TableBytes(Table(16, "file"))}, {"/huge", std::string(5'000'000, '\xFF')}, {"/folder/", ""}};
+  platform.read_errors["/locked.pvt"] = EACCES;
+  platform.write_errors["/gone/new.pvt"] = ENOENT;
+  platform.opens = {std::nullopt, "/locked.pvt", "/gone/new.pvt", "/folder", "/a.pvt"};
+  for (const char* note : {"(mine)", "(mine)", "(mine)", "(mine)", "file"}) EXPECT_EQ(Loaded(), note);
+  EXPECT_EQ(platform.calls.front(), "open" + kSave.substr(4));
+  table = {};
+  platform.opens = {std::nullopt, "/huge", "/new.pvt", "/a.pvt"};
+  EXPECT_EQ(Loaded(), "file");  // the file from before
+  EXPECT_EQ(TableBytes(table), platform.files["/a.pvt"]);
+  EXPECT_EQ(Loaded(), std::string(kLongestField, '\xFF'));  // not read to its end
+  EXPECT_EQ(Loaded(), "");
+  EXPECT_EQ(platform.files.at("/new.pvt"), "");
+  EXPECT_EQ(TableBytes(table), TableBytes({}));
+  EXPECT_FALSE(editor.file_number.IsOpen());
+  editor.file_number.Open();  // another command's
+  EXPECT_EQ(Loaded(), "()");
 }
 
 }  // namespace

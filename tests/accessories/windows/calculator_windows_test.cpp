@@ -1,265 +1,168 @@
 #include <gtest/gtest.h>
 
-#include <QAction>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QSignalSpy>
-#include <QTest>
-#include <QTimer>
 
 #include "accessories/windows/kalkul.h"
 #include "accessories/windows/prev.h"
-#include "platform/qt/controls/text_box.h"
 #include "program/program.h"
 #include "support/controls.h"
 #include "support/scripted_platform.h"
+#include "support/steps.h"
 
 namespace pelmar {
 namespace {
 
-QString Field(const QWidget& window, const char* name) { return Find<QLineEdit>(window, name)->text(); }
+void Press(const QWidget& window, std::initializer_list<int> keys) {
+  for (const int key : keys) Click(window, ("Command" + std::to_string(key)).c_str());
+}
 
-struct KalkulTest : testing::Test {
+struct CalculatorTest : testing::Test {
   ScriptedPlatform platform;
-  std::vector<std::string> doors;
-  bool alone = testing::UnitTest::GetInstance()->current_test_info()->name() == std::string_view("RunsAlone");
-  Kalkul kalkul{platform,
-                alone,
-                {[this](const std::string& number) { doors.push_back("hand over " + number); },
-                 [this] { doors.emplace_back("show"); }, [this] { doors.emplace_back("hide"); },
-                 [this] { doors.emplace_back("unload"); }, [this] { doors.emplace_back("end"); }},
-                nullptr};
+  Program program{platform};
+  TextBuffer& text = program.Main().Text().Buffer();
+  Kalkul& kalkul = program.Windows().Get<Kalkul>();
+  Prev& prev = program.Windows().Get<Prev>();
 
-  KalkulTest() { kalkul.Present(); }
-  [[nodiscard]] std::string Cislo() const { return Field(kalkul, "Cislo").toStdString(); }
-  [[nodiscard]] std::string Pending() const {
-    return Find<QLabel>(kalkul, "Label2")->text().toStdString() + Find<QLabel>(kalkul, "Label1")->text().toStdString();
+  CalculatorTest() {
+    prev.Present();
+    kalkul.Present();
   }
-  // The operator keys and "=" that can be pressed, by their captions.
-  [[nodiscard]] std::string On() const {
-    std::string on;
+  // What waits, the number, and the operator keys and "=" that can be pressed, by their captions.
+  [[nodiscard]] std::string Seen(const char* steps) const {
+    Work(kalkul, steps);
+    QString seen;
+    for (const char* name : {"Label2", "Label1", "Cislo"}) seen += Shown(Named(kalkul, name));
+    seen += u' ';
     for (int key : {12, 13, 14, 15, 32, 33, 16})
-      if (const auto* button = Find<QPushButton>(kalkul, ("Command" + std::to_string(key)).c_str());
-          button->isEnabled())
-        on += button->text().toStdString().substr(1, 1);
-    return on;
+      if (const QString caption = Shown(Named(kalkul, QStringLiteral("Command%1").arg(key))); caption[0] == u'&')
+        seen += caption[1];
+    return seen.toStdString();
   }
 };
 
-TEST_F(KalkulTest, ComputesByMouse) {
-  EXPECT_EQ(On(), "+-*/lx");
-  for (int digit : {1, 2, 3, 4, 5, 6, 7, 8, 9, 10}) Click(kalkul, ("Command" + std::to_string(digit)).c_str());
-  EXPECT_EQ(Cislo(), "1234567890");
-  Click(kalkul, "Command21");
-  Click(kalkul, "Command22");
-  Click(kalkul, "Command11");
-  EXPECT_EQ(Cislo(), "23456789,");
-  Click(kalkul, "Command23");
-  Click(kalkul, "Command8");
-  Click(kalkul, "Command32");
-  EXPECT_EQ(On(), "x=");
-  EXPECT_EQ(Pending(), "8L");
-  Click(kalkul, "Command2");
-  Click(kalkul, "Command16");
-  EXPECT_EQ(Cislo(), "3");
-  EXPECT_EQ(Pending(), "");
-  EXPECT_EQ(On(), "+-*/lx");
-  Click(kalkul, "Command13");
-  EXPECT_EQ(On(), "=");
-}
-
-TEST_F(KalkulTest, EachFunctionKeyHasItsFunction) {
-  const struct {
-    const char *key, *from, *to;
-  } cases[] = {
-      {"Command17", "16", "4"},       {"Command18", "5", "25"}, {"Command28", "-3", "3"},
-      {"Command31", "2,7", "2,5"},    {"Command24", "90", "1"}, {"Command25", "0", "1"},
-      {"Command26", "0", "0"},        {"Command29", "45", "1"}, {"Command27", "7", "3,14159265358979"},
-      {"Command34", "7", "2.718282"},
-  };
-  for (const auto& c : cases) {
-    kalkul.SetNumber(c.from);
-    Click(kalkul, c.key);
-    EXPECT_EQ(Cislo(), c.to) << c.key;
+TEST_F(CalculatorTest, EachKeyDoesItsPart) {
+  std::string seen = Seen("");
+  for (const int operator_key : {12, 13, 14, 15, 32, 33}) {
+    Press(kalkul, {23, 8, operator_key, 2});
+    seen += '|' + Seen("");
+    seen += '|' + Seen("Command16!");
   }
+  EXPECT_EQ(seen,
+            "0 +-*/lx|8+2 =|10 +-*/lx|8-2 =|6 +-*/lx|8*2 =|16 +-*/lx|8/2 x=|4 +-*/lx|8L2 x=|3 +-*/lx|8^2 =|64 +-*/lx");
+  Press(kalkul, {23, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10});
+  EXPECT_EQ(Seen(""), "1234567890 +-*/lx");
+  EXPECT_EQ(Seen("Command21! Command22! Command11!"), "23456789, +-*/lx");
   platform.draws = {0.5};
-  Click(kalkul, "Command30");
-  EXPECT_EQ(Cislo(), "0,5");
+  platform.answers = {Answer::kOk};
+  std::string results;
+  for (const int function : {17, 18, 24, 25, 26, 27, 28, 29, 30, 31, 34}) {
+    kalkul.SetNumber("-2,7");
+    Press(kalkul, {function});
+    results += State(kalkul, "Cislo").substr(6) + ' ';
+  }
+  EXPECT_EQ(
+      results,
+      "-2,7 7,29 -0,0471064507096426 0,99888987496197 -0,0471588028774804 3,14159265358979 2,7 -21,2049487896888 0,5 "
+      "-3 2.718282 ");
 }
 
-TEST_F(KalkulTest, WorksByTheRealKeyboard) {
-  auto* number = Find<QLineEdit>(kalkul, "Cislo");
-  const auto type = [&](const char* keys) { QTest::keyClicks(number, QLatin1String(keys)); };
-  type("12.5*2");
-  QTest::keyClick(number, Qt::Key_Enter, Qt::KeypadModifier);
-  EXPECT_EQ(Cislo(), "25");
-  type("=");    // off: nothing
-  type("/5+");  // off, but who types chains: 25 / 5 first
-  EXPECT_EQ(Pending(), "5+");
+TEST_F(CalculatorTest, WorksByTheRealKeyboard) {
   platform.answers = {Answer::kOk};
-  type("3^/0-");  // what can't be computed is told, and nothing waits
+  EXPECT_EQ(Seen("Cislo:12.5*2\r"), "25 +-*/lx");
+  EXPECT_EQ(Seen("Cislo:="), "25 +-*/lx");  // off: nothing
+  EXPECT_EQ(Seen("Cislo:/5+"), "5+0 =");    // off, but who types chains: 25 / 5 first
+  EXPECT_EQ(Seen("Cislo:3^2"), "8^2 =");
+  EXPECT_EQ(Seen("Cislo:=/0-"), "0 +-*/lx");  // what can't be computed is told, and nothing waits
   EXPECT_TRUE(platform.answers.empty());
-  EXPECT_EQ(Pending(), "");
-  kalkul.SetNumber("5");
-  type("^3,0");
-  QTest::keyClick(number, Qt::Key_Return);
-  EXPECT_EQ(Cislo(), "125");
-  QTest::keyClick(number, Qt::Key_Backspace);
-  EXPECT_EQ(Cislo(), "12");
-  QTest::keyClick(number, Qt::Key_Delete);
-  EXPECT_EQ(Cislo(), "0");
+  EXPECT_EQ(Seen("Cislo:5-7=^3,0\r"), "-8 +-*/lx");
+  EXPECT_EQ(Seen("Cislo:\b"), "- +-*/lx");
+  EXPECT_EQ(Seen("Cislo:\x7f"), "0 +-*/lx");
   // Arrow keys go over the keypad; space presses, Enter stays "=".
   ASSERT_TRUE(QTest::qWaitForWindowActive(&kalkul));
-  auto* seven = Find<QPushButton>(kalkul, "Command7");
-  seven->setFocus();
-  QTest::keyClick(seven, Qt::Key_Down);
-  EXPECT_EQ(kalkul.focusWidget()->objectName(), QStringLiteral("Command4"));
-  QTest::keyClick(kalkul.focusWidget(), Qt::Key_Space);
-  QTest::keyClick(kalkul.focusWidget(), Qt::Key_Return);
-  EXPECT_EQ(Cislo(), "4");
-  QTest::keyClick(number, Qt::Key_Escape);
-  EXPECT_FALSE(kalkul.isVisible());
-  EXPECT_EQ(doors, std::vector<std::string>{"hide"});
+  Named(kalkul, "Command7")->setFocus();
+  QTest::keyClick(kalkul.focusWidget(), Qt::Key_Down);
+  ExpectState(kalkul, "Command4:' \r'", "Cislo=4");
+  QTest::keyClick(kalkul.focusWidget(), Qt::Key_Enter, Qt::KeypadModifier);
+  EXPECT_EQ(kalkul.focusWidget(), Named(kalkul, "Command4"));
+  // A key that goes off hands the keyboard to the number.
+  Named(kalkul, "Command12")->setFocus();
+  Work(kalkul, "Command12:' '");
+  EXPECT_EQ(kalkul.focusWidget(), Named(kalkul, "Cislo"));
+  Work(kalkul, "Cislo:\x1b");
+  EXPECT_FALSE(kalkul.isVisible() || prev.isVisible());
 }
 
-TEST_F(KalkulTest, TheKeyboardStaysOnAKeyThatIsOn) {
-  auto* plus = Find<QPushButton>(kalkul, "Command12");
-  plus->setFocus();
-  QTest::keyClick(plus, Qt::Key_Space);
-  EXPECT_EQ(kalkul.focusWidget()->objectName(), QStringLiteral("Cislo"));
-}
-
-TEST_F(KalkulTest, RunsAlone) {
-  EXPECT_EQ(Find<QPushButton>(kalkul, "Command19")->text(), QStringLiteral("&Clip"));
-  EXPECT_EQ(Find<QPushButton>(kalkul, "Command20")->text(), QStringLiteral("&Quit"));
-  Click(kalkul, "Command5");
-  Click(kalkul, "Command19");
-  platform.answers = {Answer::kNo, Answer::kNo};
-  Click(kalkul, "Command20");
-  EXPECT_TRUE(kalkul.isVisible());
-  EXPECT_FALSE(kalkul.close());
-  EXPECT_TRUE(kalkul.isVisible());
-  EXPECT_EQ(Cislo(), "5");
-  const std::string question = R"(message 276 "OPRAVDU UKONČIT Kalkulačku (Pelmar VEX) ?" "Konec")";
-  EXPECT_EQ(platform.TakeCalls(), (std::vector<std::string>{question, question}));
-  EXPECT_EQ(doors, (std::vector<std::string>{"hand over 5", "hide", "hide", "hide"}));
-  doors.clear();
-  platform.answers = {Answer::kYes};
-  Click(kalkul, "Command20");
-  EXPECT_EQ(doors, (std::vector<std::string>{"hide", "hide", "end"}));
-}
-
-TEST(CalculatorWindows, LiveAndGoTogether) {
+TEST(CalculatorAlone, AsksBeforeItEnds) {
   ScriptedPlatform platform;
+  SettingsRecord settings;
+  settings.UserName = settings.UserEmail = "jan";
+  platform.files["/install/pelmar.ini"] = SettingsBytes(settings);
   Program program(platform);
-  WindowRegistry& windows = program.Windows();
-  TextBuffer& text = program.Main().Text().Buffer();
-  program.Main().findChild<QAction*>(QStringLiteral("mnucalk"))->trigger();
-  auto& kalkul = windows.Get<Kalkul>();
-  Click(kalkul, "Command4");
-  Click(kalkul, "Command35");
-  auto& prev = windows.Get<Prev>();
-  EXPECT_TRUE(prev.isVisible());
-  Click(prev, "Command1");
-  Click(prev, "Command38");
-  Click(prev, "Command41");
-  EXPECT_EQ(Field(kalkul, "Cislo"), QStringLiteral("1"));
+  program.Run("-CALC");
+  auto& kalkul = program.Windows().Get<Kalkul>();
+  ExpectState(kalkul, "Command5! Command19! Command35!", "Command19=&Clip Command20=&Quit");
+  EXPECT_EQ(platform.clipboard, "5");
+  auto& prev = program.Windows().Get<Prev>();
+  ExpectState(prev, "", "Command42=('Do textu') Command43=('Do textu') Command44=('Do textu') Command46='Do textu'");
+  platform.answers = {Answer::kNo, Answer::kNo, Answer::kYes};
+  ExpectState(kalkul, "Command20!", "Cislo=5");
+  EXPECT_FALSE(prev.isVisible() || kalkul.close());
+  EXPECT_TRUE(kalkul.isVisible());
+  EXPECT_EQ(platform.calls.back(), R"(message 276 "OPRAVDU UKONČIT Kalkulačku (Pelmar VEX) ?" "Konec")");
+  Work(kalkul, "Command20!");
+  EXPECT_EQ(QCoreApplication::exec(), 0);
+}
+
+TEST_F(CalculatorTest, TheTwoWindowsLiveAndGoTogether) {
+  Work(kalkul, "Command4! Command35!");
+  Work(prev, "Command1! Command38! Command41!");
   text.SetText("xy");
   text.Select(1, 2);
-  Click(kalkul, "Command19");
-  Click(prev, "Command46");
+  ExpectState(kalkul, "Command19!", "Cislo=1");
+  Work(prev, "Command46!");
   EXPECT_EQ(text.Text(), "x1Iy");
-  EXPECT_TRUE(platform.TakeCalls().empty());
-  Click(kalkul, "Command20");
+  Work(kalkul, "Command20!");
   EXPECT_FALSE(kalkul.isVisible() || prev.isVisible());
-  EXPECT_EQ(Field(kalkul, "Cislo"), QStringLiteral("1"));
-  Click(kalkul, "Command35");
+  ExpectState(kalkul, "Command35!", "Cislo=1");
+  EXPECT_TRUE(prev.isVisible());
   kalkul.Present();
   kalkul.close();
   EXPECT_FALSE(prev.isVisible());
-  EXPECT_EQ(windows.Find<Kalkul>(), nullptr);
-  EXPECT_EQ(Field(windows.Get<Kalkul>(), "Cislo"), QStringLiteral("0"));
-  EXPECT_EQ(Field(prev, "Label1"), QStringLiteral("1"));
+  EXPECT_EQ(program.Windows().Find<Kalkul>(), nullptr);
+  ExpectState(program.Windows().Get<Kalkul>(), "", "Cislo=0");
+  ExpectState(prev, "", "Label1=1");
 }
 
-struct PrevTest : testing::Test {
-  ScriptedPlatform platform;
-  std::string sent;
-  Prev prev{platform, false, {[this](const std::string& number) { sent += number + "."; }, {}}, nullptr};
-
-  PrevTest() { prev.Present(); }
-  [[nodiscard]] std::string Fields() const {
-    std::string fields;
-    for (const char* name : {"Label1", "Label3", "Label6", "Label8"}) fields += Field(prev, name).toStdString() + " ";
-    return fields.substr(0, 80);
-  }
-  void Press(int from, int to) {
-    for (int key = from; key <= to; ++key) Click(prev, ("Command" + std::to_string(key)).c_str());
-  }
-};
-
-TEST_F(PrevTest, EachKeypadWritesItsField) {
-  Press(1, 10);
-  Press(11, 19);
-  Press(27, 34);
-  EXPECT_EQ(Fields(), "123456789 123456789 12345670  ");
-  for (int i = 0; i < 9; ++i) Press(36, 36);
-  Press(20, 26);
-  Press(35, 37);
-  EXPECT_EQ(Fields(), "12345678 ABCDEF 1234567  ");
-  Press(39, 39);
-  EXPECT_EQ(Field(prev, "Label1"), QStringLiteral("11259375"));
-  EXPECT_EQ(Field(prev, "Label6"), QStringLiteral("52746757"));
-  EXPECT_EQ(Field(prev, "Label8").size(), 11259 + 7);
-  Press(42, 44);
-  EXPECT_EQ(sent, "11259375.ABCDEF.52746757.");
+TEST_F(CalculatorTest, EachKeypadAndTheKeyboardWriteAField) {
+  for (int key = 1; key <= 34; ++key) Press(prev, {key});
+  ExpectState(prev, "", "Label1=123456789 Label3=123456789 Label6=12345670 Label8=");
+  Press(prev, {36, 36, 36, 36, 36, 36, 36, 36, 36, 20, 21, 22, 23, 24, 25, 26, 35, 36, 37});
+  ExpectState(prev, "", "Label1=12345678 Label3=ABCDEF Label6=1234567");
+  ExpectState(prev, "Command39! Command42! Command43! Command44!", "Label1=11259375 Label6=52746757");
+  EXPECT_EQ(text.Text(), "11259375ABCDEF52746757");
+  Named(prev, "Label3")->setFocus();
+  ExpectState(prev, "Label3:\b\b\b\b\b\b1ffg\b\r", "Label1=31 Label3=1F Label6=37 Label8=XXXI");
+  Named(prev, "Label6")->setFocus();
+  ExpectState(prev, "Label6:189\r", "Label1=249 Label3=F9 Label6=371 Label8=CCXXXXVIIII");
 }
 
-TEST_F(PrevTest, WorksByTheRealKeyboard) {
-  auto* hex = Find<QLineEdit>(prev, "Label3");
-  QTest::keyClicks(hex, QStringLiteral("1ffg"));
-  hex->setFocus();
-  QTest::keyClicks(hex, QStringLiteral("1ffg"));
-  QTest::keyClick(hex, Qt::Key_Backspace);
-  QTest::keyClick(hex, Qt::Key_Return);
-  EXPECT_EQ(Fields(), "31 1F 37 XXXI ");
-  auto* oct = Find<QLineEdit>(prev, "Label6");
-  oct->setFocus();
-  QTest::keyClicks(oct, QStringLiteral("189"));
-  QTest::keyClick(oct, Qt::Key_Return);
-  EXPECT_EQ(Fields(), "249 F9 371 CCXXXXVIIII ");
-}
-
-TEST_F(PrevTest, TooLargeIsToldAndNothingChanges) {
-  for (int i = 0; i < 9; ++i) Press(25, 25);
+TEST_F(CalculatorTest, ANewConversionGivesUpTheOneAtWork) {
   platform.answers = {Answer::kOk};
-  Press(39, 39);
-  EXPECT_EQ(platform.TakeCalls().size(), 1u);
-  EXPECT_EQ(Fields(), "0 FFFFFFFFF 0  ");
-}
-
-TEST_F(PrevTest, ANewConversionGivesUpTheOneAtWork) {
-  for (int i = 0; i < 9; ++i) Press(9, 9);
-  QSignalSpy roman(Find<QLineEdit>(prev, "Label8"), &QLineEdit::textChanged);
-  QTimer::singleShot(0, &prev, [this] {
-    for (int i = 0; i < 8; ++i) Press(35, 35);
-    Press(38, 38);
-  });
-  Press(38, 38);  // 999,999,999: the timer fires while its letters are counted out
-  ASSERT_EQ(roman.count(), 1);
-  EXPECT_EQ(Fields(), "9 9 11 VIIII ");
-  // So does closing the window.
-  for (int i = 0; i < 9; ++i) Press(9, 9);
-  QTimer::singleShot(0, &prev, [this] { prev.hide(); });
-  Press(38, 38);
-  EXPECT_EQ(Field(prev, "Label8").size(), 5);
+  Named(prev, "Label3")->setFocus();
+  ExpectState(prev, "Label3:fffffffff\r", "Label1=0 Label3=FFFFFFFFF Label6=0 Label8=");  // too large
+  EXPECT_TRUE(platform.answers.empty());
+  Named(prev, "Label1")->setFocus();
+  const QSignalSpy roman(Named(prev, "Label8"), SIGNAL(textChanged(QString)));
+  // What is inside happens while the letters of 999,999,999 are counted out.
+  Inside([this] { Work(prev, "Label1:\b\b\b\b\b\b\b\b\r"); });
+  ExpectState(prev, "Label1:999999999\r", "Label1=9 Label3=9 Label6=11 Label8=VIIII");
+  EXPECT_EQ(roman.count(), 1);
+  Inside([this] { prev.hide(); });
+  ExpectState(prev, "Label1:99999999\r", "Label1=999999999 Label8=VIIII");
   prev.Present();
-  Press(38, 38);
-  EXPECT_EQ(Field(prev, "Label8").size(), 32767);  // what can be shown; the document gets it all
-  sent.clear();
-  Press(46, 46);
-  EXPECT_EQ(sent.size(), 999999u + 15 + 1);
+  Work(prev, "Command38! Command46!");
+  EXPECT_EQ(Find<QLineEdit>(prev, "Label8")->text().size(), 32767);  // what can be shown; the document gets it all
+  EXPECT_EQ(text.Size(), 999999u + 15);
 }
 
 }  // namespace

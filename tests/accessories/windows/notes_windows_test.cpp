@@ -1,22 +1,17 @@
 #include <gtest/gtest.h>
 
-#include <QAction>
 #include <QDir>
-#include <QFile>
 #include <QTabBar>
 #include <QTemporaryDir>
-#include <QTest>
-#include <QTimer>
 #include <QToolBar>
 
 #include "accessories/windows/poznamka.h"
-#include "platform/qt/controls/text_box.h"
-#include "platform/qt/convert.h"
 #include "platform/qt/outer_geometry.h"
 #include "platform/twips.h"
 #include "support/controls.h"
 #include "support/plain_view.h"
 #include "support/scripted_platform.h"
+#include "support/steps.h"
 
 namespace pelmar {
 namespace {
@@ -35,179 +30,139 @@ struct PoznamkaTest : testing::Test {
     platform.install_folder = Utf8FromQString(folder.path()) + "/";
     settings.AutosnapDistance = 240;
     view.place = {1500, 1500, 3000, 4500};
+    view.look = {"Courier New", 0, 0, 14, true, false};
   }
-  [[nodiscard]] std::string& File() { return platform.files[platform.install_folder + "notes.dat"]; }
-  [[nodiscard]] std::string RescuePath() const {
-    for (const auto& [path, bytes] : platform.files)
-      if (path.find("/notes-rescue-") != std::string::npos) return path;
-    return {};
+  [[nodiscard]] std::string& File(const std::string& name = "notes.dat") {
+    return platform.files[platform.install_folder + name];
   }
   [[nodiscard]] QStringList Locks() const {
     return QDir(folder.path()).entryList({QStringLiteral("notes-rescue-*")}, QDir::Files);
   }
-  Poznamka& Load(StartMode mode = StartMode::kEditor) {
+  // A file of a copy that died: a real one tells that it is there, its bytes are the platform's.
+  void LeaveBehind(const char* name, const RescueRecord& record) {
+    QFile(folder.filePath(QLatin1String(name))).open(QIODevice::WriteOnly);
+    File(name) = RescueBytes(kNotesRescue, record);
+  }
+  // Opens the notes over what is stored.
+  void Open(const NotesRecord& record, StartMode mode = StartMode::kEditor) {
+    File() = NotesBytes(record);
     notes = std::make_unique<Poznamka>(
         Poznamka::Surroundings{platform, file_number, settings, view, nullptr, mode, [this] { ++ends; }});
-    platform.calls.clear();
-    return *notes;
+    notes->Present();
   }
-  [[nodiscard]] QTabBar& Tabs() const { return *Find<QTabBar>(*notes, "TabStrip1"); }
-  void Press(const char* key) const { Find<QAction>(*notes, key)->trigger(); }
+  [[nodiscard]] int Page() const { return Find<QTabBar>(*notes, "TabStrip1")->currentIndex() + 1; }
 };
 
 TEST_F(PoznamkaTest, KeepsFivePagesAndStoresThemAtTheEnd) {
-  File() = NotesBytes({{"first", "second"}});
-  view.look = {"Courier New", 0, 0, 14, true, false};
-  Load().Present();
+  Open({{"first", "second"}});
   EXPECT_TRUE(notes->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
-  EXPECT_EQ(Find<TextBox>(*notes, "Text1")->font().pointSize(), 14);
-  EXPECT_TRUE(Find<TextBox>(*notes, "Text1")->font().bold());
-  EXPECT_EQ(notes->Text().Text(), "first");
+  const QFont font = Named(*notes, "Text1")->font();
+  EXPECT_TRUE(font.pointSize() == 14 && font.bold());
   notes->showMinimized();
   notes->Present();
   EXPECT_FALSE(notes->isMinimized());
   notes->Text().Type("my ");
-  Tabs().setCurrentIndex(1);
-  EXPECT_EQ(notes->Text().Text(), "second");
+  ExpectState(*notes, "TabStrip1=1", "Text1=second");
   ASSERT_TRUE(QTest::qWaitForWindowActive(notes.get()));
   QTest::keyClick(notes.get(), Qt::Key_5, Qt::AltModifier);
-  EXPECT_EQ(Tabs().tabData(Tabs().currentIndex()).toString(), QStringLiteral("Note5"));
+  EXPECT_EQ(Page(), 5);
   // A Czech keyboard has other characters on the keys of the numbers.
-  for (const auto& [code, key] : {std::pair(11u, "Note2"), {14u, "Note5"}, {15u, "Note5"}}) {
+  for (const auto& [code, page] : {std::pair(11u, 2), {14u, 5}, {15u, 5}}) {
     QKeyEvent press(QEvent::KeyPress, Qt::Key_Plus, Qt::AltModifier, code, 0, 0, QStringLiteral("+"));
-    QCoreApplication::sendEvent(Find<TextBox>(*notes, "Text1"), &press);
-    EXPECT_EQ(Tabs().tabData(Tabs().currentIndex()).toString(), QLatin1String(key)) << code;
+    QCoreApplication::sendEvent(Named(*notes, "Text1"), &press);
+    EXPECT_EQ(Page(), page) << code;
   }
-  notes->Text().SetText("fifth");
+  Work(*notes, "Text1='one two'");
+  notes->Text().Select(0, 3);
+  Work(*notes, "Copy!");
+  notes->Text().Select(4, 7);
+  ExpectState(*notes, "Paste!", "Text1='one one'");
   EXPECT_EQ(File(), NotesBytes({{"first", "second"}}));  // only the close writes
-  notes->close();
-  EXPECT_EQ(File(), NotesBytes({{"my first", "second", "", "", "fifth"}}));
+  platform.TakeCalls();
+  Work(*notes, "Close!");
+  EXPECT_EQ(File(), NotesBytes({{"my first", "second", "", "", "one one"}}));
   EXPECT_EQ(ends, 1);
   EXPECT_EQ(platform.calls.size(), 1u);  // the write, and no question
 }
 
-TEST_F(PoznamkaTest, CopiesAndPastes) {
-  Load().Present();
-  notes->Text().SetText("one two");
-  notes->Text().Select(0, 3);
-  EXPECT_EQ(Find<QAction>(*notes, "Copy")->toolTip(), QStringLiteral("Kopírovat výbět"));  // required: misspelled
-  Press("Copy");
-  EXPECT_EQ(platform.clipboard, "one");
-  notes->Text().Select(4, 7);
-  Press("Paste");
-  EXPECT_EQ(notes->Text().Text(), "one one");
-  Press("Close");
-  EXPECT_EQ(ends, 1);
-}
-
 TEST_F(PoznamkaTest, AsTheWholeProgramItAsksBehindTheWrite) {
-  Load(StartMode::kNotes).Present();
-  notes->Text().SetText("kept");
+  Open({}, StartMode::kNotes);
+  Work(*notes, "Text1=kept");
   platform.answers = {Answer::kNo, Answer::kYes};
+  platform.on_message = [this] { EXPECT_EQ(File(), NotesBytes({{"kept"}})); };
   notes->close();
-  EXPECT_TRUE(notes->isVisible());
-  EXPECT_EQ(ends, 0);
-  EXPECT_EQ(File(), NotesBytes({{"kept"}}));
-  EXPECT_EQ(platform.TakeCalls(),
-            (std::vector<std::string>{"write " + platform.install_folder + "notes.dat",
-                                      "message 276 \"OPRAVDU UKONČIT Poznámky (Pelmar VEX) ?\" \"Konec\""}));
+  EXPECT_TRUE(notes->isVisible() && ends == 0);
+  EXPECT_EQ(platform.calls.back(), "message 276 \"OPRAVDU UKONČIT Poznámky (Pelmar VEX) ?\" \"Konec\"");
   notes->close();
   EXPECT_EQ(ends, 1);
 }
 
 TEST_F(PoznamkaTest, AnOverlongPageIsRefusedBeforeAnythingIsLost) {
-  File() = NotesBytes({{"first", "second"}});
-  Load().Present();
-  const std::string longer(kLongestNote + 1, 'x');
-  notes->Text().SetText(longer);
+  Open({{"first", "second"}});
+  notes->Text().SetText(std::string(kLongestNote + 1, 'x'));
   platform.answers = {Answer::kOk, Answer::kOk};
-  Tabs().setCurrentIndex(1);
-  EXPECT_EQ(Tabs().currentIndex(), 0);
-  EXPECT_EQ(notes->Text().Text(), longer);
+  Work(*notes, "TabStrip1=1");
+  EXPECT_EQ(Page(), 1);
   notes->close();
-  EXPECT_EQ(ends, 0);
-  EXPECT_TRUE(notes->isVisible());
+  EXPECT_TRUE(notes->isVisible() && ends == 0 && platform.answers.empty());
   EXPECT_EQ(File(), NotesBytes({{"first", "second"}}));
-  EXPECT_EQ(platform.calls.size(), 2u);
   notes->Text().EraseAfter(1);
   notes->close();
-  EXPECT_EQ(ReadNotes(File()).Page(1).size(), kLongestNote);
+  EXPECT_EQ(ReadNotes(File()), (NotesRecord{{std::string(kLongestNote, 'x'), "second"}}));
 }
 
 TEST_F(PoznamkaTest, WhatIsNotStoredIsKeptUntilTheClose) {
-  Load();
-  notes->Text().SetText("typed");
+  Open({});
+  Work(*notes, "Text1=typed");
   ASSERT_TRUE(QTest::qWaitFor([&] { return !Locks().isEmpty(); }, 2000));
   notes.reset();  // an end of the program without a close
-  EXPECT_EQ(File(), "");
-  EXPECT_EQ(ReadRescue(kNotesRescue, platform.files[RescuePath()]), (RescueRecord{1, {{1, "", "typed"}}}));
-  platform.answers = {Answer::kYes};
-  Load().Present();
-  QFile(QString::fromStdString(RescuePath())).open(QIODevice::WriteOnly);  // what only the platform has
-  notes->OfferRescued();
-  notes->close();
-  EXPECT_EQ(Locks(), QStringList());
-  EXPECT_EQ(File(), NotesBytes({{"typed"}}));
+  const auto kept = platform.files.upper_bound(platform.install_folder + "notes-rescue-");
+  ASSERT_NE(kept, platform.files.end());
+  EXPECT_EQ(ReadRescue(kNotesRescue, kept->second), (RescueRecord{1, {{1, "", "typed"}}}));
 }
 
-// Two copies that died: real files tell that they are there, the bytes are the platform's.
 TEST_F(PoznamkaTest, ADeadCopysPagesComeBackButStayUnstored) {
-  const std::pair<const char*, RescueRecord> dead[] = {
-      {"notes-rescue-1-1.pelmar", {2, {{1, "first", "FIRST"}, {2, "", "SECOND"}}}},
-      {"notes-rescue-2-1.pelmar", {1, {{1, "first", "another first"}, {3, "", ""}}}}};  // the last is known
-  for (const auto& [name, record] : dead) {
-    QFile(folder.filePath(QLatin1String(name))).open(QIODevice::WriteOnly);
-    platform.files[platform.install_folder + name] = RescueBytes(kNotesRescue, record);
-  }
-  File() = NotesBytes({{"first"}});
-  Load().Present();
+  LeaveBehind("notes-rescue-1-1.pelmar", {2, {{1, "first", "FIRST"}, {2, "", "SECOND"}}});
+  LeaveBehind("notes-rescue-2-1.pelmar", {1, {{1, "first", "another first"}, {3, "", ""}}});  // the last is known
+  Open({{"first"}});
   platform.answers = {Answer::kYes};
+  platform.TakeCalls();
   notes->OfferRescued();
   EXPECT_EQ(
       platform.calls[0],
       "message 52 \"Poznámky minule nebyly uloženy. Zachované stránky: 3.\r\nVrátit je do poznámek ?\" \"Záchrana\"");
   EXPECT_EQ(Locks().size(), 1);  // the lock of what this copy keeps
-  EXPECT_EQ(Tabs().currentIndex(), 1);
-  EXPECT_EQ(notes->Text().Text(), "SECOND");
+  EXPECT_EQ(Page(), 2);
+  ExpectState(*notes, "", "Text1=SECOND");
   EXPECT_EQ(File(), NotesBytes({{"first"}}));
   notes->OfferRescued();  // asked once
   notes->close();
   EXPECT_EQ(File(), NotesBytes({{"FIRST", "SECOND", "another first"}}));
+  EXPECT_EQ(Locks(), QStringList());
 }
 
-TEST_F(PoznamkaTest, LaysItsControlsOut) {
-  Load().resize(450, 300);
-  notes->Present();
-  const auto* toolbar = Find<QToolBar>(*notes, "Toolbar1");
-  EXPECT_EQ(Tabs().geometry(), QRect(0, toolbar->height(), 450, 300 - toolbar->height()));
-  EXPECT_EQ(Find<TextBox>(*notes, "Text1")->geometry(),
-            QRect(0, toolbar->height() + 22, 450, 300 - toolbar->height() - 22));
-}
-
-TEST_F(PoznamkaTest, TheTickDocksAndSnaps) {
-  Load().Present();
+TEST_F(PoznamkaTest, TheTickDocksAndSnapsAndRestsWhileNothingMoves) {
+  Open({});
+  notes->resize(450, 300);
+  const int toolbar = Named(*notes, "Toolbar1")->height();
+  EXPECT_EQ(Named(*notes, "TabStrip1")->geometry(), QRect(0, toolbar, 450, 300 - toolbar));
+  EXPECT_EQ(Named(*notes, "Text1")->geometry(), QRect(0, toolbar + 22, 450, 300 - toolbar - 22));
   ASSERT_TRUE(QTest::qWaitForWindowExposed(notes.get()));
   const auto place = [&] { return OuterGeometry(*notes); };
   const QSize screen = ScreenTwips(*notes);
+  const auto* timer = notes->findChild<QTimer*>(QStringLiteral("Timer1"));
   SetOuterPlace(*notes, {150, 225, 4500, 4500});
+  EXPECT_EQ(timer->interval(), 10);
   EXPECT_TRUE(QTest::qWaitFor([&] { return place() == TwipsRect{0, 0, 4500, 4500}; }, 1000));
-  Find<QAction>(*notes, "Dock")->setChecked(true);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return timer->interval() > 10; }, 5000));
+  Work(*notes, "Dock!");
+  EXPECT_EQ(timer->interval(), 10);
   const TwipsRect beside{4500, 1500, screen.width() - 4500, 4500};
   EXPECT_TRUE(QTest::qWaitFor([&] { return place() == beside; }, 1000));
   view.state = 2;
   EXPECT_TRUE(QTest::qWaitFor([&] { return place().top == 0 && place().height == screen.height(); }, 1000));
   EXPECT_EQ(place().left + place().width, screen.width());
   EXPECT_EQ(notes->width(), notes->minimumWidth());
-}
-
-TEST_F(PoznamkaTest, TheTickRestsWhileNothingMoves) {
-  Load().Present();
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(notes.get()));
-  const auto* timer = Find<QTimer>(*notes, "Timer1");
-  EXPECT_EQ(timer->interval(), 10);
-  ASSERT_TRUE(QTest::qWaitFor([&] { return timer->interval() > 10; }, 5000));
-  SetOuterPlace(*notes, {3000, 3000, 4500, 4500});
-  EXPECT_EQ(timer->interval(), 10);
   notes->hide();
   EXPECT_FALSE(timer->isActive());
 }

@@ -1,296 +1,208 @@
-// Morse, character table and keyboard: what reaches the document by menu, mouse and keys.
+// Morse, keyboard, character table and analysis: what comes out by menu, mouse and keys.
 #include <gtest/gtest.h>
 
-#include <QAction>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
+#include <QListWidget>
 #include <QScrollBar>
-#include <QTest>
 
-#include "accessories/windows/code_grid.h"
+#include "accessories/windows/analytic.h"
 #include "accessories/windows/klavesnice.h"
 #include "accessories/windows/kod.h"
 #include "accessories/windows/morse.h"
-#include "platform/qt/controls/key_cap.h"
-#include "platform/qt/controls/text_box.h"
-#include "platform/qt/convert.h"
 #include "program/program.h"
 #include "support/controls.h"
 #include "support/scripted_platform.h"
+#include "support/steps.h"
 #include "text/codepage.h"
 
 namespace pelmar {
 namespace {
 
+TEST(ToolWindows, EachItemShowsItsWindowUntilItsLastButton) {
+  ScriptedPlatform platform;
+  platform.files["/share/pelmar.txt"] = "help";
+  Program program(platform);
+  const QStringList words = Words(
+      "mnucode! ZaKod Command2! mnu_encrypt_shift! ShiftKod Command3! Mnu_Encrypt_Confeld! Confeld Command3! "
+      "mnu_rnd_encrypt! RND_Sifra Command7! Mnu_Hack_cry! CHT Command2! mnuASCII! kod Command2! "
+      "mnuklavesnice! Klavesnice Command50! mnucalk! Kalkul Command20! mnu_analysis! Analytic Command2! "
+      "mnupozn! Poznamka Close! mnumorse! Morse Text1:\x1b");
+  for (int i = 0; i < words.size(); i += 3) {
+    Work(program.Main(), words[i].toUtf8());
+    QString shown;
+    program.Windows().ForEach([&](QWidget& window) {
+      if (!window.isVisible()) return;
+      shown += window.objectName();
+      Work(window, words[i + 2].toUtf8());
+      EXPECT_FALSE(window.isVisible());
+    });
+    EXPECT_EQ(shown, words[i + 1]) << words[i].toStdString();
+  }
+}
+
 TEST(MorseWindow, CollectsSigns) {
   ScriptedPlatform platform;
-  Morse morse(platform, nullptr);
-  morse.Present();
-  EXPECT_EQ(morse.property("Tag").toString(), QStringLiteral("_AUTOSNAP"));
-  auto* box = Find<TextBox>(morse, "Text1");
-  const auto pick = [&morse](const char* item) { Find<QAction>(morse, item)->trigger(); };
-  for (const char* item : {"mnuCH", "mnu0", "mnumorcz7", "mnumoapo", "mnurorumím"}) pick(item);
-  EXPECT_EQ(box->Text(), "----/-----/-.../.---./...-./");
-  box->Buffer().Select(2, 4);
-  pick("mnue");  // before the selection, which stays
-  EXPECT_EQ(box->Text(), "--./--/-----/-.../.---./...-./");
-  box->SetText({});
-  QTest::keyClicks(box, QStringLiteral("Ab!"));
-  QTest::keyClick(box, Qt::Key_Return);
-  QTest::keyClick(box, Qt::Key_Space);
-  QTest::keyClick(box, Qt::Key_A, Qt::ControlModifier);
-  EXPECT_EQ(box->Text(), ".-/-.../-..-./");
-  EXPECT_EQ(box->SelLength(), 14);
+  const Morse morse(platform, nullptr);
+  TextBuffer& box = Find<TextBox>(morse, "Text1")->Buffer();
+  ExpectState(morse, "mnuCH! mnu0! mnumorcz7! mnumoapo! mnurorumím!", "Text1=----/-----/-.../.---./...-./");
+  box.Select(2, 4);  // before the selection, which stays
+  ExpectState(morse, "mnue!", "Text1=--./--/-----/-.../.---./...-./");
+  ExpectState(morse, "Text1= Text1:'Ab!\r '", "Text1=.-/-.../-..-./");
+  QTest::keyClick(Named(morse, "Text1"), Qt::Key_A, Qt::ControlModifier);
+  EXPECT_EQ(box.SelLength(), 14u);
   platform.clipboard = "sos";
-  pick("mnu_clipmorse");
-  EXPECT_EQ(box->Text(), ".../---/.../");
-  platform.TakeCalls();
-  box->Buffer().Select(0, 1);
-  pick("mnuMakeMorse");
-  EXPECT_EQ(box->Text(), "//../---/.../");
-  EXPECT_EQ(platform.TakeCalls(), (std::vector<std::string>{"busy 1", "busy 0"}));
+  ExpectState(morse, "mnu_clipmorse!", "Text1=.../---/.../");
+  box.Select(0, 1);
+  ExpectState(morse, "mnuMakeMorse!", "Text1=//../---/.../");
+  EXPECT_EQ(platform.calls, (std::vector<std::string>{"busy 1", "busy 0"}));
+}
+
+// As dead keys and input methods give it.
+void Compose(QWidget* receiver, const QString& letters) {
+  EXPECT_TRUE(receiver->testAttribute(Qt::WA_InputMethodEnabled));
+  QInputMethodEvent event(QString(), {});
+  event.setCommitString(letters);
+  QCoreApplication::sendEvent(receiver, &event);
 }
 
 struct KeyboardTest : testing::Test {
   TextBuffer text;
   Klavesnice keyboard{text, nullptr};
 
-  KeyboardTest() {
-    keyboard.Present();
-    keyboard.activateWindow();
-  }
+  KeyboardTest() { keyboard.Present(); }
   [[nodiscard]] std::string Take() {
     std::string taken = text.Text();
     text.SetText({});
     return taken;
   }
+  // What all keys together type, from Command1 on.
+  std::string OfAllKeys() {
+    for (int key = 1; key <= 68; ++key)
+      if (key != 50) Click(keyboard, ("Command" + std::to_string(key)).c_str());
+    return Take();
+  }
 };
 
-TEST_F(KeyboardTest, EachKeyTypesItsCharacter) {
-  // By the names Command3, Command4 ...; a full stop stands for a key that is none of these.
-  const std::string letters = "qwertzuiopasdfghjklyxcvbnm";
-  for (std::size_t i = 0; i < letters.size(); ++i) Click(keyboard, ("Command" + std::to_string(i + 3)).c_str());
-  EXPECT_EQ(Take(), letters);
-  Click(keyboard, "Command30");
-  for (int i = 32; i <= 43; ++i) Click(keyboard, ("Command" + std::to_string(i)).c_str());
-  EXPECT_EQ(Take(), "óěščřžýáíéťúů"_w);
-  Click(keyboard, "Command31");
-  for (int i = 44; i <= 68; ++i)
-    if (i != 50 && i != 51) Click(keyboard, ("Command" + std::to_string(i)).c_str());
-  EXPECT_EQ(Take(),
-            ";,.)(!?\\%741852963"
-            "0-+*/=");
-  for (const char* name : {"Command1", "Command2", "Command29", "Command51"}) Click(keyboard, name);
-  EXPECT_EQ(Take(), "\r\n\t \r\n");
-}
-
-TEST_F(KeyboardTest, ShiftIsOneStateAndStays) {
-  Click(keyboard, "Check2");
-  EXPECT_TRUE(Find<QCheckBox>(keyboard, "Check1")->isChecked());
-  Click(keyboard, "Command34");
-  Click(keyboard, "Command54");  // a digit
-  Click(keyboard, "Command30");
-  EXPECT_EQ(Take(), "Č7Ó"_w);
-  Click(keyboard, "Check1");
-  EXPECT_FALSE(Find<QCheckBox>(keyboard, "Check2")->isChecked());
-  Click(keyboard, "Command34");
-  EXPECT_EQ(Take(), "č"_w);
-}
-
-TEST_F(KeyboardTest, ASelectionIsPushedOn) {
+TEST_F(KeyboardTest, EachKeyTypesItsCharacterInEitherCase) {
+  const std::string plain(
+      "\r\n\tqwertzuiopasdfghjklyxcvbnm ó;ěščřžýáíéťúů,.)(!?\r\n\\%741852963"
+      "0-+*/="_w);
+  EXPECT_EQ(OfAllKeys(), plain);
+  ExpectState(keyboard, "Check2!", "Check1=1");  // one state, which stays
+  EXPECT_EQ(OfAllKeys(), ToUpper(plain));
+  ExpectState(keyboard, "Check1!", "Check2=0");
   text.SetText("abcd");
   text.Select(1, 3);
-  Click(keyboard, "Command18");
-  EXPECT_EQ(text.Text(), "ahbcd");
+  Work(keyboard, "Command18!");
+  EXPECT_EQ(text.Text(), "ahbcd");  // a selection is pushed on
   EXPECT_EQ(text.Caret(), 2u);
   EXPECT_FALSE(text.HasSelection());
 }
 
-// As dead keys and input methods give it.
-void Compose(QWidget& receiver, const QString& letters) {
-  EXPECT_TRUE(receiver.testAttribute(Qt::WA_InputMethodEnabled));
-  QInputMethodEvent event(QString(), {});
-  event.setCommitString(letters);
-  QCoreApplication::sendEvent(&receiver, &event);
-}
-
-TEST_F(KeyboardTest, ComposedLettersLandInTheDocument) {
-  Compose(keyboard, QString(QChar(u'\u0148')));
-  Find<KeyCap>(keyboard, "Command3")->setFocus();
-  Click(keyboard, "Check1");
-  Compose(*Find<KeyCap>(keyboard, "Command3"), QStringLiteral("ďo\u0301😀"));
-  EXPECT_EQ(Take(), "ňĎÓ?"_w);
-}
-
-TEST_F(KeyboardTest, PhysicalKeysLandInTheDocument) {
-  EXPECT_EQ(keyboard.focusWidget(), &keyboard);
-  Click(keyboard, "Check1");
-  QTest::keyClicks(&keyboard, QStringLiteral("a 1"));
-  QTest::keyClick(&keyboard, Qt::Key_Return);
-  QTest::keyClick(&keyboard, Qt::Key_Backspace);
+TEST_F(KeyboardTest, PhysicalKeysAndComposedLettersLandInTheDocument) {
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&keyboard));
+  Work(keyboard, "Check1!");
+  QTest::keyClicks(&keyboard, QStringLiteral("a 1\r\b"));
   EXPECT_EQ(Take(), "A 1\r\b");  // required: characters as they are
   // A click leaves the keyboard where it is; after the tabulator the space bar works the key.
-  auto* q = Find<KeyCap>(keyboard, "Command3");
-  QTest::mouseClick(q, Qt::LeftButton);
+  QTest::mouseClick(Named(keyboard, "Command3"), Qt::LeftButton);
   EXPECT_EQ(keyboard.focusWidget(), &keyboard);
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&keyboard));
-  q->setFocus();
-  QTest::keyClick(q, Qt::Key_Right);
-  QWidget* w = keyboard.focusWidget();
-  EXPECT_EQ(w->objectName(), QStringLiteral("Command4"));
-  QTest::keyClick(w, Qt::Key_Space);
-  QTest::keyClick(w, Qt::Key_Return);
-  EXPECT_EQ(Take(), "QW\r");
+  Named(keyboard, "Command3")->setFocus();
+  QTest::keyClick(keyboard.focusWidget(), Qt::Key_Right);
+  Compose(keyboard.focusWidget(), QStringLiteral("ďo\u0301😀"));
+  Named(keyboard, "Command4")->setFocus();
+  Work(keyboard, "Command4:' \r'");
   EXPECT_EQ(keyboard.focusWidget(), &keyboard);
+  Compose(&keyboard, QStringLiteral("ň"));
   QTest::keyClick(&keyboard, Qt::Key_Escape);
   EXPECT_FALSE(keyboard.isVisible());
-  EXPECT_EQ(Take(), "");
+  EXPECT_EQ(Take(), "QĎÓ?W\rŇ"_w);
 }
 
 struct CharTableTest : testing::Test {
   TextBuffer text;
   std::string strokes;
   Kod kod{text, [this](const QKeyEvent& key) { strokes += TextFromQString(key.text()); }, nullptr};
-  CodeGrid* grid = Find<CodeGrid>(kod, "Picture1");
+  QWidget* grid = Named(kod, "Picture1");
 
   CharTableTest() { kod.Present(); }
-  QPoint Cell(int code) const {
+  [[nodiscard]] QPoint Cell(int code) const {
     return {(code % 16 * 2 + 1) * grid->width() / 32, (code / 16 * 2 + 1) * grid->height() / 32};
   }
-  void ClickCell(int code) { QTest::mouseClick(grid, Qt::LeftButton, {}, Cell(code)); }
-  QString Label(const char* name) const { return Find<QLabel>(kod, name)->text(); }
+  // The document behind clicks on cells.
+  const std::string& Chosen(std::initializer_list<int> codes) {
+    for (const int code : codes) QTest::mouseClick(grid, Qt::LeftButton, {}, Cell(code));
+    return text.Text();
+  }
 };
 
 TEST_F(CharTableTest, ThreeWaysOfInserting) {
   text.SetText("abc");
   text.Select(1, 2);
-  ClickCell(0xC8);
-  ClickCell(0);
-  ClickCell(13);
-  EXPECT_EQ(text.Text(), "aČ\rbc"_w);
-  Click(kod, "Option2");
-  ClickCell(0xC8);
-  ClickCell(7);
-  EXPECT_EQ(text.Text(), "aČ\r&#200;&#7;bc"_w);
-  Click(kod, "Option3");
-  const std::string before = text.Text();
+  EXPECT_EQ(Chosen({0xC8, 0, 13}), "aČ\rbc"_w);
+  Work(kod, "Option2!");
+  EXPECT_EQ(Chosen({0xC8, 7}), "aČ\r&#200;&#7;bc"_w);
+  text.SetText({});
+  Work(kod, "Option3!");
   // Each character of the page comes through the collecting box, control characters too.
   std::string all;
   for (int code = 1; code < 256; ++code) {
-    ClickCell(code);
+    EXPECT_EQ(Chosen({code}), "");
     all += CharOf(code);
   }
-  EXPECT_EQ(text.Text(), before);
-  auto* collected = Find<QLineEdit>(kod, "Text1");
-  collected->setSelection(0, 1);
-  Find<QScrollBar>(kod, "HScroll1")->setValue('&');
-  EXPECT_EQ(Label("Label1"), QStringLiteral("38"));
-  Click(kod, "Command3");
-  text.SetText({});
-  Click(kod, "Command4");
+  Find<QLineEdit>(kod, "Text1")->setSelection(0, 1);
+  ExpectState(kod, "HScroll1=38 Command3! HScroll1=0 Command3! Command4!", "Label1=0 Text1=");
   EXPECT_EQ(text.Text(), "&" + all);
-  EXPECT_TRUE(collected->text().isEmpty());
   text.Select(0, 3);
-  Click(kod, "Command4");  // nothing collected: nothing changes
+  Work(kod, "Command4!");  // nothing collected: nothing changes
   EXPECT_EQ(text.SelLength(), 3u);
-  Find<QScrollBar>(kod, "HScroll1")->setValue(0);
-  Click(kod, "Command3");
-  EXPECT_TRUE(collected->text().isEmpty());
 }
 
-TEST_F(CharTableTest, PointerShowsTheCode) {
-  const struct {
-    int code;
-    const char *decimal, *hex, *reference;
-  } cases[] = {
-      {0, "0", "00", "&#0;"}, {15, "15", "0F", "&#15;"}, {16, "16", "10", "&#16;"}, {255, "255", "FF", "&#255;"}};
-  for (const auto& c : cases) {
-    QTest::mouseMove(grid, Cell(c.code));
-    EXPECT_EQ(Label("Label6"), QLatin1String(c.decimal));
-    EXPECT_EQ(Label("Label7"), QLatin1String(c.hex));
-    EXPECT_EQ(Label("Label8"), QLatin1String(c.reference));
+TEST_F(CharTableTest, ShowsCodesByNumberAndName) {
+  std::string pointed;
+  for (const int code : {0, 15, 16, 255}) {
+    QTest::mouseMove(grid, Cell(code));
+    pointed += State(kod, "Label6 Label7 Label8") + ' ';
   }
-  EXPECT_TRUE(text.Empty());
-  Find<QComboBox>(kod, "Combo1")->setCurrentText(QStringLiteral("Courier New"));
-  for (const char* name : {"Picture1", "Picture2", "Label2", "Text1"})
-    EXPECT_EQ(Find<QWidget>(kod, name)->font().family(), QStringLiteral("Courier New")) << name;
-}
-
-TEST_F(CharTableTest, CodesWithoutAPictureShowByName) {
+  EXPECT_EQ(pointed,
+            "Label6=0 Label7=00 Label8=&#0; Label6=15 Label7=0F Label8=&#15; "
+            "Label6=16 Label7=10 Label8=&#16; Label6=255 Label7=FF Label8=&#255; ");
   QTest::qWait(1);
   const QSize size = kod.size();
-  const struct {
-    int code;
-    const char *shown, *collected;
-  } cases[] = {{9, "HT", "\t"}, {10, "LF", "\n"}, {13, "CR", "\r"}, {'A', "A", "A"}};
-  auto* collected = Find<QLineEdit>(kod, "Text1");
-  for (const auto& c : cases) {
-    Find<QScrollBar>(kod, "HScroll1")->setValue(c.code);
-    EXPECT_EQ(Label("Label2"), QLatin1String(c.shown));
-    collected->clear();
-    Click(kod, "Command3");
-    EXPECT_EQ(collected->text(), QLatin1String(c.collected));
+  std::string names;
+  for (const int code : {9, 10, 13, 65}) {
+    Find<QScrollBar>(kod, "HScroll1")->setValue(code);
+    names += State(kod, "Label1 Label2") + ' ';
     QTest::qWait(1);
-    EXPECT_EQ(kod.size(), size) << c.code;  // the window doesn't jump about
+    EXPECT_EQ(kod.size(), size) << code;  // the window doesn't jump about
   }
+  EXPECT_EQ(names, "Label1=9 Label2=HT Label1=10 Label2=LF Label1=13 Label2=CR Label1=65 Label2=A ");
   const QImage picture = grid->grab().toImage();
-  const auto is_blank = [&](int code) {
-    const QRect inner(Cell(code) - QPoint(8, 6), QSize(16, 12));
-    const QImage cell = picture.copy(inner);
-    for (int y = 0; y < cell.height(); ++y)
-      for (int x = 0; x < cell.width(); ++x)
-        if (cell.pixel(x, y) != cell.pixel(0, 0)) return false;
-    return true;
-  };
-  EXPECT_FALSE(is_blank(9));
-  EXPECT_FALSE(is_blank(10));
-  EXPECT_TRUE(is_blank(0));
-  EXPECT_TRUE(is_blank(' '));
-}
-
-TEST_F(CharTableTest, AFontsNameStaysAsItIsTyped) {
-  Click(kod, "Option3");
-  auto* font = Find<QComboBox>(kod, "Combo1");
-  font->clearEditText();
-  QTest::keyClicks(font, QStringLiteral("Courier"));
-  EXPECT_EQ(font->currentText(), QStringLiteral("Courier"));
+  const auto cell = [&](int code) { return picture.copy(QRect(Cell(code) - QPoint(8, 6), QSize(16, 12))); };
+  EXPECT_TRUE(cell(0) == cell(' ') && cell(9) != cell(' '));
+  // A font's name stays as it is typed, and goes to all that shows a character.
+  ExpectState(kod, "Option3! Combo1= Combo1:Courier", "Combo1=Courier");
+  for (const char* name : {"Picture1", "Picture2", "Label2", "Text1"})
+    EXPECT_EQ(Named(kod, name)->font().family(), QStringLiteral("Courier")) << name;
 }
 
 TEST_F(CharTableTest, TypedKeysGoToTheMainWindow) {
   grid->setFocus();
-  QTest::keyClicks(grid, QStringLiteral("a "));
-  QTest::keyClick(grid, Qt::Key_Return);
-  EXPECT_EQ(strokes, "a \r");
+  Work(kod, "Picture1:'a \r'");
   // Enter on the cell that the arrow keys went to chooses it.
   QTest::keyClick(grid, Qt::Key_Right);
   QTest::keyClick(grid, Qt::Key_Down);
-  QTest::keyClick(grid, Qt::Key_Return);
+  Work(kod, "Picture1:\r");
   EXPECT_EQ(text.Text(), "\x10");
-  auto* field = Find<QLineEdit>(kod, "Text1");
-  field->setFocus();
-  QTest::keyClicks(field, QStringLiteral("b"));
-  QTest::keyClick(field, Qt::Key_Return);
-  EXPECT_EQ(strokes, "a \rb\r");
-  EXPECT_EQ(field->text(), QStringLiteral("b"));
-  // Composed letters go the same ways.
-  strokes.clear();
-  Compose(*grid, QStringLiteral("ň"));
-  Compose(*field, QStringLiteral("ď"));
-  EXPECT_EQ(strokes, "ňď"_w);
-  EXPECT_EQ(field->text(), QStringLiteral("bď"));
-  field->setText(QStringLiteral("b"));
-  strokes = "a \rb\r";
-  auto* option = Find<QRadioButton>(kod, "Option3");
-  option->setFocus();
-  QTest::keyClick(option, Qt::Key_Space);
-  EXPECT_TRUE(option->isChecked());
-  QTest::keyClicks(field, QStringLiteral("c"));
-  EXPECT_EQ(strokes, "a \rb\r");
-  EXPECT_EQ(field->text(), QStringLiteral("bc"));
-  QTest::keyClick(field, Qt::Key_Escape);
+  Compose(grid, QStringLiteral("ň"));
+  Named(kod, "Text1")->setFocus();
+  Work(kod, "Text1:b\r");
+  Compose(Named(kod, "Text1"), QStringLiteral("ď"));
+  ExpectState(kod, "", "Text1=bď");  // a field that has the keyboard takes it too
+  EXPECT_EQ(strokes, "a \rňb\rď"_w);
+  Named(kod, "Option3")->setFocus();
+  ExpectState(kod, "Option3:' ' Text1:c", "Option3=1 Text1=bďc");
+  EXPECT_EQ(strokes.size(), 7u);
+  Work(kod, "Text1:\x1b");
   EXPECT_FALSE(kod.isVisible());
 }
 
@@ -301,18 +213,85 @@ TEST(ToolWindows, AStrokeIsARealKeyOfTheMainWindow) {
   TextBuffer& text = program.Main().Text().Buffer();
   text.SetText("abc");
   text.Select(0, 2);
-  program.Main().findChild<QAction*>(QStringLiteral("mnuASCII"))->trigger();
   auto& kod = program.Windows().Get<Kod>();
-  EXPECT_TRUE(kod.isVisible());
-  auto* grid = Find<CodeGrid>(kod, "Picture1");
-  grid->setFocus();
-  QTest::keyClicks(grid, QStringLiteral("x"));
-  QTest::keyClick(grid, Qt::Key_Return);
-  QTest::keyClicks(grid, QStringLiteral("yz"));
-  QTest::keyClick(grid, Qt::Key_Backspace);
+  kod.Present();
+  Named(kod, "Picture1")->setFocus();
+  Work(kod, "Picture1:x\ryz\b");
   EXPECT_EQ(text.Text(), "x\r\nyc");  // typed over the selection, a whole line end, one character taken back
   text.Undo();
   EXPECT_EQ(text.Text(), "x\r\nyzc");
+}
+
+struct Document : testing::Test {
+  TextBuffer document;
+  Document() { document.SetText("bba"); }
+};
+
+struct AnalyticTest : Document {
+  Analytic dialog{document, nullptr};
+  QListWidget* list = Find<QListWidget>(dialog, "List1");
+  QWidget* graph = Find<QWidget>(dialog, "Pic");
+
+  AnalyticTest() { dialog.Present(); }
+  // The code in the selected row.
+  [[nodiscard]] std::string Selected() const { return list->currentItem()->text().mid(17, 3).toStdString(); }
+  // How many columns of the graph's lowest line are drawn, and the first row.
+  [[nodiscard]] std::string Seen(const char* steps) const {
+    Work(dialog, steps);
+    const QImage image = graph->grab().toImage();
+    int columns = 0;
+    for (int x = 2; x < image.width() - 2; ++x) columns += qGray(image.pixel(x, image.height() - 4)) < 64 ? 1 : 0;
+    return std::to_string(columns) + ": " + list->item(0)->text().toStdString();
+  }
+};
+
+TEST_F(AnalyticTest, AnalysesItsSourceOnDemand) {
+  EXPECT_EQ(Seen(""), "2: 001 00002 066,67 098 \"b\"");
+  document.SetText("cccc");
+  EXPECT_EQ(Seen(""), "2: 001 00002 066,67 098 \"b\"");
+  EXPECT_EQ(Seen("Command1!"), "1: 001 00004 100,00 099 \"c\"");
+  document.SetText("");
+  EXPECT_EQ(Seen("Command1!"), "0: 001 00004 100,00 099 \"c\"");  // required: the list keeps its rows
+  EXPECT_EQ(Seen("Text1=zz"), "1: 001 00002 100,00 122 \"z\"");
+  document.SetText("  a");
+  EXPECT_EQ(Seen("Command1!"), "1: 001 00002 100,00 122 \"z\"");
+  EXPECT_EQ(Seen("Option1!"), "2: 001 00002 066,67 032 \" \"");
+  EXPECT_EQ(Seen("Check2!"), "1: 001 00002 066,67 032 \" \"");
+  EXPECT_EQ(Seen("Option2!"), "1: 001 00002 100,00 122 \"z\"");
+  EXPECT_EQ(Seen("Check1:x"), "0: 001 00002 100,00 122 \"z\"");  // a character's key on the box blanks the graph
+  EXPECT_GT(Seen("Check1:' '"), "2: ");                          // the blank toggles it: thicker
+}
+
+TEST_F(AnalyticTest, RefreshesWithoutDisturbing) {
+  Work(dialog, "Check3! List1=1");
+  list->verticalScrollBar()->setValue(100);
+  Named(dialog, "Text1")->setFocus();
+  document.SetText("bbccca");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return list->item(0)->text().contains(QStringLiteral("099")); }, 3000));
+  EXPECT_EQ(Selected(), "097");
+  EXPECT_EQ(list->verticalScrollBar()->value(), 100);
+  EXPECT_TRUE(Named(dialog, "Text1")->hasFocus());
+}
+
+TEST_F(AnalyticTest, FindsACharacterInTheListAndAPlaceInTheGraph) {
+  ExpectState(dialog, "", "Command3=(&Hledej)");
+  ExpectState(dialog, "Text2=ř Text2:\r", "Command3=&Hledej");
+  EXPECT_EQ(Selected(), "248");
+  Work(dialog, "Text2=b Command3!");
+  EXPECT_EQ(Selected(), "098");
+  QTest::mouseMove(graph, QPoint(130 * graph->width() / 508 + 1, 20));
+  ExpectState(dialog, "", "Label2='Poloha: 65 Znak: \"A\"'");
+  EXPECT_EQ(graph->toolTip(), QStringLiteral("Poloha: 65 Znak: \"A\""));
+  std::string places;
+  for (const auto key : {Qt::Key_Right, Qt::Key_PageDown, Qt::Key_Left, Qt::Key_PageUp, Qt::Key_End, Qt::Key_Home}) {
+    QTest::keyClick(graph, key);
+    places += State(dialog, "Label2").substr(15, 4);
+  }
+  EXPECT_EQ(places, "66 Z82 Z81 Z65 Z254 0 Zn");
+  QTest::mouseClick(graph, Qt::LeftButton);
+  ExpectState(dialog, "", "Label2='Poloha: 0 Znak: \"NUL\"'");
+  QTest::mouseClick(Named(dialog, "Picture2"), Qt::LeftButton, {}, QPoint(3, 3));
+  ExpectState(dialog, "", "Label2=");
 }
 
 }  // namespace

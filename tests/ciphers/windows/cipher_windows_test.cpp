@@ -1,459 +1,239 @@
 #include <gtest/gtest.h>
 
-#include <QAction>
-#include <QCheckBox>
 #include <QListWidget>
-#include <QProgressBar>
-#include <QTest>
-#include <random>
+#include <QTabBar>
 
+#include "ciphers/table_file.h"
 #include "ciphers/windows/cht.h"
 #include "ciphers/windows/confeld.h"
 #include "ciphers/windows/rnd_sifra.h"
-#include "ciphers/windows/shift.h"
 #include "ciphers/windows/shift_kod.h"
 #include "ciphers/windows/za_kod.h"
 #include "ciphers/xor_cipher.h"
-#include "platform/qt/controls/text_box.h"
-#include "platform/qt/convert.h"
 #include "program/program.h"
 #include "support/controls.h"
+#include "support/random_source.h"
 #include "support/scripted_platform.h"
+#include "support/steps.h"
 #include "support/whole_editor.h"
 #include "text/codepage.h"
 
 namespace pelmar {
 namespace {
 
+struct RandomPlatform : ScriptedPlatform {
+  RandomSource source{7};
+  double Random() override { return draws.empty() ? source.Next() : ScriptedPlatform::Random(); }
+};
+
 struct CipherWindowsTest : testing::Test {
-  ScriptedPlatform platform;
+  RandomPlatform platform;
   WholeEditor editor{platform};
 
-  void Document(std::string_view text) { editor.text.SetText(std::string(text)); }
-  [[nodiscard]] const std::string& Document() const { return editor.text.Text(); }
-};
-
-std::string BoxText(const QWidget& window, const char* name) { return Find<TextBox>(window, name)->Buffer().Text(); }
-void SetBox(const QWidget& window, const char* name, std::string_view text) {
-  Find<TextBox>(window, name)->Buffer().SetText(std::string(text));
-}
-
-struct ZaKodTest : CipherWindowsTest {
-  int tab = 1;
-  ZaKod dialog{editor.text, platform, [this] { return tab; }, nullptr};
-  QLineEdit* key = Find<QLineEdit>(dialog, "Text1");
-
-  ZaKodTest() { dialog.Present(); }
-};
-
-TEST_F(ZaKodTest, RewritesTheDocumentThereAndBack) {
-  EXPECT_EQ(dialog.objectName(), QStringLiteral("ZaKod"));
-  EXPECT_EQ(key->text(), QString());
-  Document("ab");
-  editor.text.Select(1, 2);  // required: the selection doesn't matter
-  Click(dialog, "Command1");
-  EXPECT_EQ(Document(), "40");
-  EXPECT_EQ(Find<QProgressBar>(dialog, "ProgressBar1")->value(), 2);
-  EXPECT_EQ(LineText(dialog, "Txt"), "40");
-  Click(dialog, "Command1");
-  EXPECT_EQ(Document(), "ab");
-  Click(dialog, "Command2");
-  EXPECT_FALSE(dialog.isVisible());
-  Document("");
-  Click(dialog, "Command1");
-  EXPECT_EQ(Document(), "");
-  EXPECT_TRUE(platform.calls.empty());
-}
-
-TEST_F(ZaKodTest, TheKeyIsANumberAndTypingGoesOn) {
-  const auto typed = [this](const char* keys) {
-    QTest::keyClicks(key, QString::fromLatin1(keys));
-    return key->text().toStdString();
+  struct Row {
+    const char *steps, *document, *state;
   };
-  EXPECT_EQ(typed("12ab3"), "123");
-  key->setCursorPosition(1);
-  EXPECT_EQ(typed("x9,8"), "198");  // what stands behind a sign that is no part of a number is cut off
-}
-
-TEST_F(ZaKodTest, CaretStaysWhereTypingGoesOn) {
-  const struct {
-    const char* before;
-    int caret;
-    const char* keys;
-    const char* after;
-    int caret_after;
-  } cases[] = {
-      {"", 0, "7", "7", 1},
-      {"", 0, "a", "0", 1},
-      {"0", 1, "7", "7", 1},    // the 0 that stood for nothing goes
-      {"12", 0, "0", "12", 0},  // a 0 in front too
-      {"12", 2, "3", "123", 3},
-      {"12", 1, "5", "152", 2},
-      {"12", 2, "a", "12", 2},
-      {"-5", 2, "6", "-56", 3},
-      {"123456789012345", 3, "6", "123456789012345", 3},  // full
-  };
-  for (const auto& c : cases) {
-    key->clear();
-    key->setText(QString::fromLatin1(c.before));
-    if (*c.before == '\0') {
-      const QSignalBlocker quiet(key);
-      key->clear();
+  void Expect(const QWidget& dialog, std::initializer_list<Row> rows) const {
+    for (const Row& row : rows) {
+      ExpectState(dialog, row.steps, row.state);
+      EXPECT_EQ(editor.text.Text(), row.document) << row.steps;
     }
-    key->setCursorPosition(c.caret);
-    QTest::keyClicks(key, QString::fromLatin1(c.keys));
-    EXPECT_EQ(key->text().toStdString(), c.after) << c.before << ' ' << c.keys;
-    EXPECT_EQ(key->cursorPosition(), c.caret_after) << c.before << ' ' << c.keys;
   }
-  key->selectAll();
-  QTest::keyClick(key, Qt::Key_Delete);
-  EXPECT_EQ(key->text(), QStringLiteral("0"));
-  QTest::keyClicks(key, QStringLiteral("42"));
-  EXPECT_EQ(key->text(), QStringLiteral("42"));
-}
+};
 
-TEST_F(ZaKodTest, CodeEightAsksAndMayEndTheRun) {
-  const std::string text("ab\bcd", 5);
-  Document(text);
+TEST_F(CipherWindowsTest, ZaKodRewritesTheWholeDocumentThereAndBack) {
+  const ZaKod dialog(
+      editor.text, platform, [] { return 1; }, nullptr);
+  editor.text.SetText("ab");
+  editor.text.Select(1, 2);
+  Expect(dialog, {{"Command1!", "40", "Text1= ProgressBar1=2 Txt=40"}, {"Text1=0 Command1!", "ab", "Txt=ab"}});
+  editor.text.SetText("ab\bc");
   platform.answers = {Answer::kOk, Answer::kYes};
-  Click(dialog, "Command1");
-  EXPECT_EQ(Document(), text);
-  EXPECT_EQ(LineText(dialog, "Txt"), "40");
-  EXPECT_EQ(Find<QProgressBar>(dialog, "ProgressBar1")->value(), 3);
-  EXPECT_EQ(platform.calls.size(), 2u);
-  platform.answers = {Answer::kOk, Answer::kNo};
-  Click(dialog, "Command1");
-  EXPECT_EQ(Document().size(), 5u);
-  EXPECT_NE(Document(), text);
+  Expect(dialog, {{"Command1!", "ab\bc", "ProgressBar1=3 Txt=40"}});
 }
 
-TEST_F(ZaKodTest, WhatIsPressedMeanwhileIsSafe) {
-  const std::string text(64000, 'a');
-  std::string once;
-  StreamCipher(0).Append(text, once);
-  Document(text);
-  int handled = 0;
-  // The rewrite handles these while it works.
-  QTimer::singleShot(0, &dialog, [&] {
-    ++handled;
-    Click(dialog, "Command1");
-    Click(dialog, "Command2");
-  });
-  Click(dialog, "Command1");
-  EXPECT_EQ(handled, 1);
-  EXPECT_EQ(Document(), once);
-  EXPECT_FALSE(dialog.isVisible());
-
-  // Another document came into the box: it isn't overwritten.
-  QTimer::singleShot(0, &dialog, [&] {
-    tab = 2;
-    Document("other");
-  });
-  Click(dialog, "Command1");
-  EXPECT_EQ(Document(), "other");
+TEST_F(CipherWindowsTest, CaretStaysWhereTypingGoesOn) {
+  const ZaKod dialog(
+      editor.text, platform, [] { return 1; }, nullptr);
+  auto* key = Find<QLineEdit>(dialog, "Text1");
+  const auto typed = [key](const char* before, const char* keys) {
+    const QString text = QString::fromLatin1(before);
+    key->blockSignals(true);
+    key->setText(QString(text).remove(u'|'));
+    key->blockSignals(false);
+    key->setCursorPosition(static_cast<int>(text.indexOf(u'|')));
+    QTest::keyClicks(key, QString::fromLatin1(keys));
+    return key->text().insert(key->cursorPosition(), u'|').toStdString();
+  };
+  EXPECT_EQ(typed("|", "12ab3"), "123|");
+  EXPECT_EQ(typed("0|", "7"), "7|");         // the 0 that stood for nothing goes
+  EXPECT_EQ(typed("|12", "0"), "|12");       // a 0 in front too
+  EXPECT_EQ(typed("1|23", "x9,8"), "198|");  // what stands behind a sign that is no part of a number is cut off
+  EXPECT_EQ(typed("-5|", "6"), "-56|");
+  EXPECT_EQ(typed("123|456789012345", "6"), "123|456789012345");  // full
+  EXPECT_EQ(typed("1|", "\b"), "0|");
 }
 
-TEST_F(CipherWindowsTest, QuittingEndsTheRunOfTheStreamCipher) {
+TEST_F(CipherWindowsTest, TheStreamCipherIsSafeFromWhatHappensMeanwhile) {
   Program program(platform);
-  TextBuffer& text = Find<TextBox>(program.Main(), "Text1")->Buffer();
-  text.SetText(std::string(64000, 'a'));
-  platform.answers = {Answer::kYes};
-  Inside([&] {
-    Inside([&] { program.Main().close(); });  // handled while the run goes on
-    Click(program.Windows().Get<ZaKod>(), "Command1");
-  });
+  auto& dialog = program.Windows().Get<ZaKod>();
+  const std::string plain(64000, 'a');
+  std::string once;
+  StreamCipher(0).Append(plain, once);
+  const auto after = [&](const std::function<void()>& act) {
+    program.Main().Text().Buffer().SetText(plain);
+    bool handled = false;
+    Inside([&] { handled = (act(), true); });
+    Work(dialog, "Command1!");
+    EXPECT_TRUE(handled);
+    return program.Main().Text().Buffer().Text();
+  };
+  EXPECT_EQ(after([&] { Work(dialog, "Command1!"); }), once);
+  EXPECT_EQ(after([&] { Find<QTabBar>(program.Main(), "FileTab")->setCurrentIndex(1); }), "");
+  platform.answers = {Answer::kYes, Answer::kYes};
+  Inside([&] { EXPECT_EQ(after([&] { program.Main().close(); }), plain); });
   EXPECT_EQ(QCoreApplication::exec(), 0);
-  EXPECT_EQ(text.Text(), platform.files["/install/autosave_pelmar_vex.txt"]);
-  EXPECT_EQ(text.Text().front(), 'a');
 }
 
 TEST_F(CipherWindowsTest, ShiftKodWorksOnTheDocumentOrOnQuickText) {
-  ShiftKod dialog(editor.text, platform, nullptr);
-  dialog.Present();
-  EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Posunová šifra"));
-  Document("Ahoj, Čecho!\r\n"_w);
-  SetBar(dialog, "HScroll1", 5);
-  EXPECT_EQ(LabelText(dialog, "Label4"), "5");
-  EXPECT_EQ(LabelText(dialog, "Label2"), "FGHIJKLMNOPQRSTUVWXYZABCDE");
-  Click(dialog, "Command1");
-  EXPECT_EQ(Document(), "Fmto, Čjhmt!\r\n"_w);
-  Click(dialog, "Command2");
-  EXPECT_EQ(Document(), "Ahoj, Čecho!\r\n"_w);
-
-  SetBox(dialog, "Text1", "abc");  // shown at once, ticked or not
-  EXPECT_EQ(BoxText(dialog, "Text2"), "fgh");
-  SetBar(dialog, "HScroll1", 1);
-  EXPECT_EQ(BoxText(dialog, "Text2"), "fgh");  // but the bar only when ticked
-  Click(dialog, "Check1");
-  EXPECT_EQ(BoxText(dialog, "Text2"), "bcd");
-  SetBar(dialog, "HScroll1", 2);
-  EXPECT_EQ(BoxText(dialog, "Text2"), "cde");
-  Click(dialog, "Command2");
-  EXPECT_EQ(BoxText(dialog, "Text2"), "yza");
-  EXPECT_EQ(BoxText(dialog, "Text1"), "abc");
-  Click(dialog, "Command1");
-  EXPECT_EQ(BoxText(dialog, "Text2"), "cde");
-  EXPECT_EQ(Document(), "Ahoj, Čecho!\r\n"_w);
-
-  auto* bar = Find<QScrollBar>(dialog, "HScroll1");
-  for (const auto key : {Qt::Key_Home, Qt::Key_Right, Qt::Key_Right, Qt::Key_Left, Qt::Key_PageDown})
-    QTest::keyClick(bar, key);
-  EXPECT_EQ(LabelText(dialog, "Label4"), "6");
-
+  const ShiftKod dialog(editor.text, platform, nullptr);
+  editor.text.SetText("Az");
   platform.draws = {0.999, 0.0};
-  Click(dialog, "Command4");
-  EXPECT_EQ(LabelText(dialog, "Label4"), "26");
-  Click(dialog, "Command4");
-  EXPECT_EQ(LabelText(dialog, "Label4"), "0");
+  // The quick text is shown as it is typed, but by the bar only when that is ticked.
+  Expect(dialog, {{"Text1=abc HScroll1=5", "Az", "Label4=5 Label2=FGHIJKLMNOPQRSTUVWXYZABCDE Text2=abc"},
+                  {"Command1!", "Fe", "Text2=abc"},
+                  {"Command2! Check1!", "Az", "Text2=fgh"},
+                  {"HScroll1=6", "Az", "Text2=ghi"},
+                  {"Command2!", "Az", "Text1=abc Text2=uvw"},
+                  {"Command1!", "Az", "Text2=ghi"},
+                  {"Command2! Check1!", "Az", "Text2=uvw"},
+                  {"Command4!", "Az", "Label4=26"},
+                  {"Command4!", "Az", "Label4=0"}});
   EXPECT_EQ(platform.reseeds, 2);
 }
 
 TEST_F(CipherWindowsTest, ShiftRotatesTheSelection) {
-  Document("xabcdx");
-  editor.text.Select(1, 5);
-  {
-    Shift dialog(editor.text, nullptr);
-    dialog.show();
-    auto* bar = Find<QScrollBar>(dialog, "HScroll1");
-    EXPECT_EQ(bar->value(), 1);
-    EXPECT_EQ(bar->maximum(), 4);
-    EXPECT_EQ(LabelText(dialog, "Label2"), "1");
-    EXPECT_EQ(BoxText(dialog, "Text1"), "abcd");  // required: not rotated yet
-    bar->setValue(3);
-    EXPECT_EQ(BoxText(dialog, "Text1"), "dabc");
-    EXPECT_EQ(BoxText(dialog, "Orig"), "abcd");
-    bar->setValue(4);
-    EXPECT_EQ(BoxText(dialog, "Text1"), "abcd");
-    bar->setValue(1);
-    EXPECT_EQ(LabelText(dialog, "Label2"), "1");
-    Click(dialog, "Command2");
-    EXPECT_EQ(Document(), "xabcdx");
-    EXPECT_FALSE(dialog.isVisible());
-    Click(dialog, "Command1");
-  }
-  EXPECT_EQ(Document(), "xbcdax");
-  EXPECT_EQ(editor.text.SelStart(), 5u);
-  EXPECT_FALSE(editor.text.HasSelection());
-  editor.text.Select(0, 1);
-  Shift single(editor.text, nullptr);
-  EXPECT_EQ(Find<QScrollBar>(single, "HScroll1")->maximum(), 1);
-}
-
-TEST_F(CipherWindowsTest, TheGateOfShiftWantsASelection) {
   Program program(platform);
-  TextBuffer& text = Find<TextBox>(program.Main(), "Text1")->Buffer();
-  auto* gate = Find<QAction>(program.Main(), "MnuSelTextPosun");
-  text.SetText("abcd");
+  TextBuffer& text = program.Main().Text().Buffer();
+  text.SetText("xabcdx");
   platform.answers = {Answer::kOk};
-  gate->trigger();
+  Work(program.Main(), "MnuSelTextPosun!");
   EXPECT_EQ(platform.calls.back(), "message 0 \"Vyber text!\" \"Posun\"");
-  // Each opening begins with the selection of its time.
-  for (const auto& [length, rotated] : {std::pair{3, "bcad"}, std::pair{2, "cbad"}}) {
-    text.Select(0, static_cast<std::size_t>(length));
-    Inside([selected = length] {
-      const QWidget* dialog = QApplication::activeModalWidget();
+  const Row cases[] = {
+      {"", "xabcdx", "HScroll1=1 Label2=1 Text1=abcd Orig=abcd"},  // required: not rotated yet
+      {"HScroll1=3 Command2!", "xabcdx", "Label2=3 Text1=dabc Orig=abcd"},
+      {"HScroll1=9 HScroll1=1 Command1!", "xbcdax", "Label2=1 Text1=bcda"},
+      {"HScroll1=9 Command1!", "xbcdax", "Label2=4 Text1=bcda"},
+  };
+  for (const Row& row : cases) {
+    text.Select(1, 5);
+    Inside([&row] {
+      QWidget* dialog = QApplication::activeModalWidget();
       ASSERT_NE(dialog, nullptr);
-      auto* bar = Find<QScrollBar>(*dialog, "HScroll1");
-      EXPECT_EQ(bar->value(), 1);
-      EXPECT_EQ(bar->maximum(), selected);
-      bar->setValue(selected);
-      bar->setValue(1);
-      Click(*dialog, "Command1");
+      ExpectState(*dialog, row.steps, row.state);
+      dialog->close();
     });
-    gate->trigger();
-    EXPECT_EQ(text.Text(), rotated);
+    Work(program.Main(), "MnuSelTextPosun!");
+    EXPECT_EQ(text.Text(), row.document) << row.steps;
   }
+  EXPECT_EQ(text.SelStart(), 5u);
+  EXPECT_FALSE(text.HasSelection());
 }
 
 TEST_F(CipherWindowsTest, ConfeldWorksOnTheDocumentOrOnQuickText) {
-  Confeld dialog(editor.text, platform, nullptr);
-  dialog.Present();
-  EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Cronfeldův systém"));
-  EXPECT_EQ(LineText(dialog, "Text1"), "0");
-  Document("aa aa");
-  Click(dialog, "Command1");
-  EXPECT_EQ(Document(), "aa aa");  // the password 0 changes nothing
-  SetField(dialog, "Text1", QStringLiteral("012"));
-  EXPECT_EQ(LineText(dialog, "Text1"), "12");
-  Click(dialog, "Command1");
-  EXPECT_EQ(Document(), "bc cb");
-  Click(dialog, "Command2");
-  EXPECT_EQ(Document(), "aa aa");
-  Click(dialog, "Check1");
-  SetBox(dialog, "Text3", "Zb");
-  EXPECT_EQ(BoxText(dialog, "Text2"), "");  // nothing as one types
-  Click(dialog, "Command1");
-  EXPECT_EQ(BoxText(dialog, "Text2"), "Ad");
-  Click(dialog, "Command2");
-  EXPECT_EQ(BoxText(dialog, "Text2"), "Yz");
-  EXPECT_EQ(Document(), "aa aa");
+  const Confeld dialog(editor.text, platform, nullptr);
+  editor.text.SetText("aa aa");
   platform.draws = std::deque<double>(15, 0.999);
-  Click(dialog, "Command4");
-  EXPECT_EQ(LineText(dialog, "Text1"), "999999999999999");
+  Expect(dialog, {{"Command1!", "aa aa", "Text1=0"},
+                  {"Text1=012 Command1!", "bc cb", "Text1=12"},
+                  {"Command2! Check1! Text3=Zb", "aa aa", "Text2="},  // nothing as one types
+                  {"Command1!", "aa aa", "Text2=Ad"},
+                  {"Command2!", "aa aa", "Text2=Yz"},
+                  {"Command4!", "aa aa", "Text1=999999999999999"}});
   EXPECT_EQ(platform.reseeds, 1);
 }
 
-TEST_F(CipherWindowsTest, ChtRewritesAgainAndAgain) {
-  CHT dialog(editor.text, platform, nullptr);
-  dialog.Present();
-  EXPECT_EQ(BoxText(dialog, "Text1").substr(0, 28), "ABCDEFGHIJKLMNOPQRSTUVWXYZ\r\n");
-  Document("aQ\r\n");
+TEST_F(CipherWindowsTest, ChtRewritesTheDocument) {
+  const CHT dialog(editor.text, platform, nullptr);
+  editor.text.SetText("aQ\r\n");
   platform.draws = {0.5, 0.99, 0.9, 0.9};
-  Click(dialog, "Command1");
-  EXPECT_EQ(Document(), "@q\r\n");
-  EXPECT_EQ(editor.text.Caret(), 0u);
+  Expect(dialog, {{"Command1!", "@q\r\n",
+                   "Text1='ABCDEFGHIJKLMNOPQRSTUVWXYZ\r\nabcdefghijklmnopqrstuvwxyz\r\n&8(>3[6#1?<7~%09  5+ ^M*/2\r\n"
+                   "@  )    !  4w     $   m\r\n        |   W'"}});
   EXPECT_TRUE(editor.text.Undo());
-  EXPECT_EQ(Document(), "aQ\r\n");
-  EXPECT_TRUE(editor.text.Redo());
-  Click(dialog, "Command1");
-  EXPECT_EQ(Document().substr(0, 1), "@");
-  EXPECT_TRUE(dialog.isVisible());
-  EXPECT_EQ(platform.reseeds, 0);
+  EXPECT_EQ(editor.text.Text() + std::to_string(platform.reseeds), "aQ\r\n0");
 }
 
 struct RndSifraTest : CipherWindowsTest {
   RND_Sifra dialog{editor, nullptr};
-  std::mt19937 random{7};
 
-  RndSifraTest() { dialog.Present(); }
-  void Draws(std::size_t count) {
-    platform.draws.clear();
-    for (; count > 0; --count) platform.draws.push_back(static_cast<double>(random()) / 4294967296.0);
-  }
-  // A table of the depth that the bar says.
-  void Generate() {
-    Draws(static_cast<std::size_t>(29 * 2 * Find<QScrollBar>(dialog, "HScroll1")->value() + 52));
-    Click(dialog, "Command2");
-    EXPECT_TRUE(platform.draws.empty());
-  }
-  [[nodiscard]] std::string Enabled() const {
-    std::string names;
-    for (const char* name :
-         {"Command1", "Command2", "Command3", "Command4", "Command5", "Command6", "Command7", "Command8", "Command9"})
-      if (Find<QAbstractButton>(dialog, name)->isEnabled()) names += name[7];
-    return names;
-  }
-  [[nodiscard]] std::string Row(const char* list, int row) const {
-    return Find<QListWidget>(dialog, list)->item(row)->text().toStdString();
+  // What another dialog shows that has loaded the table.
+  std::string Reloaded(const char* names) {
+    platform.files.clear();
+    platform.saves = platform.opens = {"/a.pvt"};
+    Work(dialog, "Command4!");
+    const RND_Sifra other(editor, nullptr);
+    Work(other, "Command3!");
+    return State(other, names);
   }
 };
 
-TEST_F(RndSifraTest, GeneratesATableAndGoesThereAndBack) {
-  EXPECT_EQ(dialog.objectName(), QStringLiteral("RND_Sifra"));
-  EXPECT_EQ(Enabled(), "1237");
-  SetBox(dialog, "Text2", "old note");
-  SetBar(dialog, "HScroll1", 20);
-  EXPECT_EQ(LabelText(dialog, "Label9"), "20");
-  Generate();
-  EXPECT_EQ(Enabled(), "123456789");
-  EXPECT_EQ(Row("List1", 0), "Hloubka: 20");
-  EXPECT_EQ(Find<QListWidget>(dialog, "List1")->count(), 30);
-  EXPECT_EQ(Find<QListWidget>(dialog, "List2")->count(), 27);
-  EXPECT_EQ(BoxText(dialog, "Text2"), "");
-  EXPECT_EQ(LabelText(dialog, "Label6").substr(0, 13), "Koeficient A:");
-
-  Document("Příliš žluťoučký\r\nkůň!"_w);
-  Click(dialog, "Command1");
-  EXPECT_EQ(BoxText(dialog, "Text1"), "PRILIS ZLUTOUCKY\r\nKUN");
-  Click(dialog, "Command5");
-  EXPECT_EQ(Document().size(), 21u * 20);
-  EXPECT_EQ(Document().find_first_not_of("ABCDEFGHIJKLMNOPQRSTUVWXYZ"), std::string::npos);
-  EXPECT_EQ(Find<QProgressBar>(dialog, "Cnt")->value(), 21);
-  EXPECT_EQ(Find<QProgressBar>(dialog, "Cnt")->maximum(), 22);
-  Click(dialog, "Command1");
-  Click(dialog, "Command6");
-  EXPECT_EQ(Document(), "PRILIS ZLUTOUCKY\r\nKUN");
-  EXPECT_EQ(platform.reseeds, 2);  // deciphering draws nothing
-
-  SetBox(dialog, "Text1", "");
-  Click(dialog, "Command5");
-  EXPECT_EQ(Document(), "");  // required: without a question
-  EXPECT_TRUE(platform.calls.empty());
+TEST_F(RndSifraTest, MakesATableAndGoesThereAndBack) {
+  const char* buttons = "Command1 Command2 Command3 Command4 Command5 Command6 Command7 Command8 Command9";
+  const QString off = QString::fromStdString(State(dialog, buttons));
+  EXPECT_EQ(off.count(u'('), 5);
+  editor.text.SetText(std::string("Příliš\r\nkůň!"_w));
+  Work(dialog, "Text2='old note' HScroll1=40 Command2!");
+  EXPECT_EQ(QString::fromStdString(State(dialog, buttons)), QString(off).remove(u'(').remove(u')'));
+  ExpectState(dialog, "Command1!", "Label9=40 Text2= Text1='PRILIS\r\nKUN'");
+  ExpectState(dialog, "Command5!", "Cnt=11");
+  EXPECT_EQ(editor.text.Size(), 11u * 40);
+  Expect(dialog, {{"Command1! Command6!", "PRILIS\r\nKUN", "Cnt=440"}, {"Text1= Command5!", "", "Cnt=0"}});
+  EXPECT_EQ(platform.reseeds, 3);       // deciphering draws nothing
+  EXPECT_TRUE(platform.calls.empty());  // required: nor does it ask
 }
 
-TEST_F(RndSifraTest, RegeneratesTheTwoPartsOnTheirOwn) {
-  SetBar(dialog, "HScroll1", 16);
-  Generate();
-  SetBox(dialog, "Text2", "note");
-  const std::string codes = Row("List1", 1);
-  const std::string letters = LabelText(dialog, "Label6");
-  SetBar(dialog, "HScroll1", 8);
-  Draws(52);
-  Click(dialog, "Command9");
-  EXPECT_EQ(Row("List1", 0), "Hloubka: 16");
-  EXPECT_EQ(Row("List1", 1), codes);
-  EXPECT_NE(LabelText(dialog, "Label6"), letters);
-  const QString zero = Find<QListWidget>(dialog, "List2")->item(0)->text();
-  Draws(29 * 16);
-  Click(dialog, "Command8");
-  EXPECT_EQ(Row("List1", 0), "Hloubka: 8");
-  EXPECT_EQ(Find<QListWidget>(dialog, "List2")->item(0)->text(), zero);
-  EXPECT_EQ(BoxText(dialog, "Text2"), "note");
+TEST_F(RndSifraTest, MakesThePartsOfATableAnewAndKeepsItInAFile) {
+  const char* all = "List1 List2 Text2 Label6";
+  Work(dialog, "HScroll1=32 Command2! Text2='two\r\nlines'");
+  const std::string codes = State(dialog, "List1"), letters = State(dialog, "List2");
+  EXPECT_EQ(Reloaded("List1 List2 Text2 Command5"), State(dialog, "List1 List2 Text2 Command5"));
+  EXPECT_EQ(Reloaded("HScroll1 Label9"), "HScroll1=8 Label9=8");  // required: the bar isn't touched
+  EXPECT_NE(Reloaded("Label6"), State(dialog, "Label6"));         // required: only here all digits count
+  Work(dialog, "HScroll1=9 Command9!");
+  EXPECT_EQ(State(dialog, "List1"), codes);
+  EXPECT_NE(State(dialog, "List2"), letters);
+  EXPECT_EQ(Reloaded(all), State(dialog, all));
+  const std::string new_letters = State(dialog, "List2");
+  Work(dialog, "Command8!");
+  EXPECT_TRUE(State(dialog, "List1").starts_with("List1=Hloubka: 9|A       "));
+  EXPECT_EQ(State(dialog, "List2"), new_letters);
+  EXPECT_EQ(Reloaded(all), State(dialog, all));
   EXPECT_EQ(platform.reseeds, 3);
-}
-
-TEST_F(RndSifraTest, SavesAndLoadsTheTable) {
-  SetBar(dialog, "HScroll1", 32);
-  Generate();
-  SetBox(dialog, "Text2", "two\r\nlines");
-  platform.saves = {"/a.pvt"};
-  Click(dialog, "Command4");
-  EXPECT_EQ(platform.files["/a.pvt"].size(), 29u * 34 + 33 + 10);
-  const std::string made = LabelText(dialog, "Label6");
-  const std::string codes = Row("List1", 5);
-
-  RND_Sifra other(editor, nullptr);
-  other.Present();
-  platform.opens = {"/a.pvt"};
-  Click(other, "Command3");
-  EXPECT_EQ(Find<QListWidget>(other, "List1")->item(5)->text().toStdString(), codes);
-  EXPECT_EQ(BoxText(other, "Text2"), "two\r\nlines");
-  EXPECT_TRUE(Find<QAbstractButton>(other, "Command6")->isEnabled());
-  EXPECT_EQ(LabelText(other, "Label9"), "8");   // required: the bar isn't touched
-  EXPECT_NE(LabelText(other, "Label6"), made);  // required: the first 8 digits alone count now
-  SetBox(other, "Text1", "AB");
-  Click(other, "Command5");
-  EXPECT_EQ(Document().size(), 64u);
 }
 
 TEST_F(RndSifraTest, ALoadThatFailsSaysSo) {
   const std::string message = "message 0 \"Nepodařilo se otevřít ...\" \"Open RND\"";
-  platform.opens = {std::nullopt, "/new.pvt"};
-  platform.answers = {Answer::kOk, Answer::kOk};
-  Click(dialog, "Command3");
-  EXPECT_EQ(platform.calls.back(), message);
-  EXPECT_EQ(Find<QListWidget>(dialog, "List1")->count(), 0);  // the table stays
-  Generate();
-  Click(dialog, "Command3");
-  EXPECT_EQ(platform.calls.back(), message);
-  EXPECT_EQ(platform.files.at("/new.pvt"), "");
-  // The table is the empty one now, the buttons are as they were, and nothing falls over it.
-  EXPECT_EQ(Row("List1", 0), "Hloubka: 0");
-  EXPECT_EQ(Enabled(), "123456789");
-  Document("keep");
-  SetBox(dialog, "Text1", "KEEP");
-  Click(dialog, "Command6");
-  EXPECT_EQ(Document(), "keep");
-  Draws(29 * 16);
-  Click(dialog, "Command8");
-  EXPECT_EQ(LabelText(dialog, "Label6"), "Koeficienty nelze spočítat (dělení nulou)");
-}
-
-TEST_F(RndSifraTest, AnyFileIsTakenAsATableAndKeepsItsRowsLow) {
   CipherTable other;
   other.SymbolCodes[0] = "\r\n\r\n";
   platform.files["/other"] = TableBytes(other);
-  platform.opens = {"/other"};
-  platform.answers = {Answer::kOk};
-  Click(dialog, "Command3");
+  platform.opens = {std::nullopt, "/new.pvt", "/other"};
+  platform.answers = {Answer::kOk, Answer::kOk, Answer::kOk};
+  editor.text.SetText("keep");
+  ExpectState(dialog, "Command3!", "List1= Command5=(Zašifruj)");  // the table stays
+  EXPECT_EQ(platform.calls.back(), message);
+  // The table is the empty one now, the buttons are as they were, and nothing falls over it.
+  Work(dialog, "Command2! Command3!");
+  EXPECT_TRUE(State(dialog, "List1").starts_with("List1=Hloubka: 0|A       |B"));
+  Expect(dialog, {{"Text1=KEEP Command6!", "keep", "Command5=Zašifruj"},
+                  {"Command8!", "keep", "Label6='Koeficienty nelze spočítat (dělení nulou)'"}});
+  // Any file is taken as a table and keeps its rows low.
+  Work(dialog, "Command3!");
   const auto* list = Find<QListWidget>(dialog, "List1");
-  EXPECT_EQ(Row("List1", 1), "A       \r\n\r\n");
+  EXPECT_EQ(list->item(1)->text(), QStringLiteral("A       \r\n\r\n"));
   EXPECT_EQ(list->visualItemRect(list->item(1)).height(), list->visualItemRect(list->item(2)).height());
-}
-
-TEST_F(RndSifraTest, TheNoteIsNoLongerThanTheFileTakes) {
-  SetBox(dialog, "Text2", std::string(70000, 'n'));
-  EXPECT_EQ(BoxText(dialog, "Text2").size(), 65535u);
+  Find<TextBox>(dialog, "Text2")->Buffer().SetText(std::string(70000, 'n'));
+  EXPECT_EQ(Find<TextBox>(dialog, "Text2")->Buffer().Size(), kLongestField);
 }
 
 }  // namespace

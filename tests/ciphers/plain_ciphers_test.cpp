@@ -1,0 +1,210 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstring>
+
+#include "ciphers/cht.h"
+#include "ciphers/cronfeld.h"
+#include "ciphers/shift.h"
+#include "ciphers/xor_cipher.h"
+#include "support/random_source.h"
+#include "support/scripted_platform.h"
+#include "support/whole_editor.h"
+#include "text/codepage.h"
+
+namespace pelmar {
+namespace {
+
+TEST(Shiftp, MovesLettersAlone) {
+  const struct {
+    std::string_view text;
+    std::int16_t shift;
+    std::string_view shifted;
+  } cases[] = {
+      {"Ahoj, Čecho!"_w, 1, "Bipk, Čfdip!"_w},
+      {"aZ\r\n09@[`{", 26, "aZ\r\n09@[`{"},
+      {"AzBb", 25, "ZyAa"},
+      {"A", 60, "C"},  // required: one turn is taken back, no more, and the case forced on what comes out
+      {"A", -1, "@"},
+  };
+  for (const auto& c : cases) EXPECT_EQ(Shiftp(c.text, c.shift), c.shifted) << c.text << ' ' << c.shift;
+}
+
+// Every character uses up a digit, also a line end; what is no digit counts as 0.
+TEST(Cronfeld, IsAShiftOfEachCharacterByItsDigitAndBack) {
+  EXPECT_EQ(CronfeldEncipher("Čaa aa"_w, "12"), "Čcb bc"_w);
+  RandomSource random(4);
+  for (int round = 0; round < 3000; ++round) {
+    const std::string password = random.Text(15, "0123456789-E"), text = random.Bytes(100);
+    std::string expected;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+      const char digit = password.empty() ? '0' : password[i % password.size()];
+      expected += Shiftp(text.substr(i, 1), static_cast<std::int16_t>(digit >= '0' && digit <= '9' ? digit - '0' : 0));
+    }
+    ASSERT_EQ(CronfeldEncipher(text, password), expected) << password;
+    ASSERT_EQ(CronfeldDecipher(expected, password), text) << password;
+  }
+}
+
+TEST(KeyFields, AKeyIsANumberAndAPasswordAWholeOne) {
+  std::string keys, passwords;
+  for (const char* typed : {"", "007", " 42 ", "12ab", "1,9", "-1.5", "-0.5", "1.5E-7", "1.5E20", "2E20", "1E999"}) {
+    keys += KeyText(typed) + ' ';
+    passwords += PasswordText(typed) + ' ';
+  }
+  EXPECT_EQ(keys, "0 7 42 12 1 -1 0 1 1 2E+20 1E+99 ");
+  EXPECT_EQ(passwords, "0 7 42 12 1 -2 -1 0 1 2E+20 1E+99 ");
+  EXPECT_EQ(RandomPassword([] { return 0.0; }), "100000000000000");
+}
+
+TEST(HackerTranscription, TakesEachLookAlike) {
+  // From the first look-alike of each letter to the last, equally wide.
+  std::string all;
+  for (int i = 0; i < 5; ++i)
+    all += HackerTranscription("AaBCDEFGHIJKLMNOPQRSTUVWXYZz", [i] { return 0.2 * i + 0.1; }) + '\n';
+  EXPECT_EQ(all,
+            "AABCDEFGHIJKLMNOPQRSTUVWXYZZ\n"
+            "aaBCdEFGHiJKlmNOPQRsTUVwXYZZ\n"
+            "@@bc)efgh1jk7~nopqr5tuv~xyzz\n"
+            "@@8()3[6#!?<7w%09qr5+u^m*/22\n"
+            "&&8(>3[6#|?<4W%09qr$+u^M*/22\n");
+  int draws = 0;
+  EXPECT_EQ(HackerTranscription("Qq Íí\r\n1@"_w, [&draws] { return ++draws, 0.9999; }), "qq Íí\r\n1@"_w);
+  EXPECT_EQ(draws, 9);  // also for what has no look-alikes
+}
+
+std::string Enciphered(const std::string& text, double key) {
+  std::string output;
+  StreamCipher(key).Append(text, output);
+  return output;
+}
+
+TEST(StreamCipher, HasTheToldKeyBytes) {
+  const std::string zeros(6, '\0');
+  EXPECT_EQ(Enciphered(zeros, 0), "\x55\x52\x17\x89\x22\xF6");
+  EXPECT_EQ(Enciphered(zeros, 1), "\x55\x12\x97\xC3\x31\x89");
+  EXPECT_EQ(Enciphered(zeros, 123), "\xCB\x06\xB4\x86\x9F\x13");
+}
+
+// The generator once more, by divisions of longer numbers.
+struct SecondGenerator {
+  unsigned long long state = 0x395886;
+
+  explicit SecondGenerator(double key) {
+    unsigned long long bits = 0;
+    std::memcpy(&bits, &key, sizeof key);
+    state = state % 256 + ((bits / (1ull << 32) % 65536) ^ (bits / (1ull << 48))) * 256;
+  }
+  double Next() {
+    state = (state * 1140671485 + 12820163) % 16777216;
+    return static_cast<double>(state) / 16777216;
+  }
+};
+
+// required: the character that equals its key byte is lost
+TEST(StreamCipher, IsTheTextAgainstASecondGeneratorWithoutTheZeros) {
+  std::vector<double> keys = {0, 1, -1, 0.5, 0.1, 1e15, 1e-300, 1.5e308, -12345678901234, 65535, 65536};
+  RandomSource random(3);
+  for (int i = 0; i < 1000; ++i) keys.push_back(std::ldexp(random.Next(), static_cast<int>(random.Below(1000)) - 500));
+  for (const double key : keys) {
+    SecondGenerator second(key);
+    ReproducibleGenerator generator;
+    generator.Reseed(key);
+    const std::string text = random.Bytes(300);
+    std::string expected;
+    for (const char ch : text) {
+      const double drawn = second.Next();
+      ASSERT_EQ(generator.Draw(), drawn) << key;
+      if (const int code = CodeOf(ch) ^ static_cast<int>(drawn * 254 + 1)) expected += CharOf(code);
+    }
+    ASSERT_EQ(Enciphered(text, key), expected) << key;
+  }
+}
+
+// Runs of a document through the whole rewrite.
+struct StreamTest : testing::Test {
+  ScriptedPlatform platform;
+  TextBuffer document;
+  std::string output;
+  std::vector<std::size_t> progress;
+
+  void Rewrite(const std::string& text, const std::function<bool()>& meanwhile) {
+    document.SetText(text);
+    RewriteStream(document, 3, output, platform, [&](std::size_t done) {
+      progress.push_back(done);
+      return meanwhile();
+    });
+  }
+};
+
+TEST_F(StreamTest, WarnsOfCode8WhichMayEndTheRun) {
+  const std::string text("a\bb\b", 4);
+  platform.answers = {Answer::kOk, Answer::kNo, Answer::kOk, Answer::kNo};
+  Rewrite(text, [] { return true; });
+  EXPECT_EQ(document.Text(), Enciphered(text, 3));
+  const std::vector<std::string> warning = {"message 0 \"Porusena intengrita textu!\" \"Kódování\"",
+                                            "message 52 \"Ukončit proces? (doporučuji ne)\" \"Kódování\""};
+  EXPECT_EQ(platform.calls, (std::vector{warning[0], warning[1], warning[0], warning[1]}));
+  EXPECT_EQ(progress, (std::vector<std::size_t>{1, 2, 2, 3, 4, 4}));  // at the character that a warning is about
+  platform.answers = {Answer::kOk, Answer::kYes};
+  Rewrite(text, [] { return true; });
+  EXPECT_EQ(document.Text(), text);
+  EXPECT_EQ(output, Enciphered("a", 3));
+}
+
+TEST_F(StreamTest, ReadsADocumentThatChangesUnderIt) {
+  const std::string text(20000, 'a');
+  Rewrite(text, [&] {
+    if (progress.size() == 1) document.SetText(std::string(30000, 'b'));
+    return true;
+  });
+  // The length was taken once, each character at its turn.
+  const std::size_t turned = progress.front();
+  EXPECT_EQ(document.Text(), Enciphered(std::string(turned, 'a') + std::string(text.size() - turned, 'b'), 3));
+  Rewrite(text, [&] { return document.SetText("short"), true; });
+  EXPECT_EQ(document.Text(), Enciphered(text, 3).substr(0, output.size()));
+  EXPECT_LT(output.size(), text.size());
+  Rewrite(text, [] { return false; });
+  EXPECT_EQ(document.Text(), text);
+}
+
+TEST(CheckSums, AreToldInFourLines) {
+  const struct {
+    std::string text;
+    const char *crc, *contra_crc, *and_crc, *short_crc;
+  } cases[] = {
+      {"", "0 (0)", "0 (0)", "0 (0)", "0 (0)"},
+      {"ABC", "C6 (198)", "3 (3)", "40 (64)", "0 (0)"},       // the last has no partner
+      {"ABCDE", "14F (335)", "A (10)", "80 (128)", "0 (0)"},  // nor a four
+      {"ACBD", "10A (266)", "8 (8)", "81 (129)", "1 (1)"},
+      {"\xFF\xFF\x0F\x0F", "21C (540)", "0 (0)", "10E (270)", "F0 (240)"},
+  };
+  for (const auto& c : cases) {
+    ScriptedPlatform platform;
+    WholeEditor editor(platform);
+    editor.text.SetText(c.text);
+    platform.answers = {Answer::kOk};
+    editor.commands.Run("mnu_crc");
+    EXPECT_EQ(platform.calls.back(), std::string("message 64 \"CRC součet je #") + c.crc + "\r\nContraCRC součet je #" +
+                                         c.contra_crc + "\r\n&CRC součet je #" + c.and_crc +
+                                         "\r\nShortCRC součet je #" + c.short_crc + "\" \"CRC\"");
+  }
+}
+
+TEST(PrimitiveRewrite, TakesEachCodeFrom256) {
+  ScriptedPlatform platform;
+  WholeEditor editor(platform);
+  std::string codes, rewritten;
+  for (int code = 0; code < 256; ++code) {
+    codes += static_cast<char>(code);
+    rewritten += static_cast<char>(256 - code);
+  }
+  editor.text.SetText(codes);
+  platform.answers = {Answer::kOk};
+  editor.commands.Run("mnuZaKodPrim");
+  EXPECT_EQ(editor.text.Text(), rewritten);
+  EXPECT_EQ(platform.calls, std::vector<std::string>{"message 0 \"Ukončeno kódování.\" \"kód\""});
+}
+
+}  // namespace
+}  // namespace pelmar
