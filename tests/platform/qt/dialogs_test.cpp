@@ -3,15 +3,25 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractFileIconProvider>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollBar>
 #include <QTest>
+#include <QToolButton>
+#include <QWindow>
 
+#include "platform/qt/controls/dialog_window.h"
 #include "platform/qt/convert.h"
+#include "platform/qt/outer_geometry.h"
+#include "platform/twips.h"
 #include "support/controls.h"
+#include "support/steps.h"
 #include "support/temp_folder.h"
 
 namespace pelmar {
@@ -32,21 +42,14 @@ TEST(Message, HasTheButtonsThePictureAndTheDefaultOfItsType) {
   };
   const QString text = QStringLiteral("Opravdu uložit <b>a&b</b>?\r\n\"x\""), title = QStringLiteral("Soubor");
   for (const auto& c : cases) {
-    const auto answer = [&](const std::function<void(Box&)>& act) {
-      InDialog<Box>(act);
-      return ShowMessage(c.type, text, title);
-    };
-    EXPECT_EQ(answer([&](Box& box) {
-                EXPECT_EQ(box.text(), text);
-                EXPECT_EQ(box.textFormat(), Qt::PlainText);
-                EXPECT_EQ(box.windowTitle(), title);
-                EXPECT_EQ(box.standardButtons(), c.buttons);
-                EXPECT_EQ(box.icon(), c.icon);
-                QTest::keyClick(&box, Qt::Key_Return);
-              }),
-              c.enter);
-    EXPECT_EQ(answer([](Box& box) { QTest::keyClick(&box, Qt::Key_Escape); }), c.escape);
-    EXPECT_EQ(answer([](Box& box) { box.close(); }), c.escape);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+      InDialog<Box>([&](Box& box) {
+        EXPECT_EQ(std::tuple(box.text(), box.windowTitle(), box.textFormat()), std::tuple(text, title, Qt::PlainText));
+        EXPECT_EQ(std::pair(box.standardButtons(), box.icon()), std::pair(c.buttons, c.icon));
+        QTest::keyClick(&box, key);
+      });
+      EXPECT_EQ(ShowMessage(c.type, text, title), key == Qt::Key_Return ? c.enter : c.escape);
+    }
   }
 }
 
@@ -63,79 +66,130 @@ TEST(Message, StandsAboveItsWindowAndOutlivesIt) {
 }
 
 TEST(InputBox, GivesTheTextOrNothing) {
-  const QString initial = QStringLiteral("původní"), longest(40000, QLatin1Char('A'));
-  const struct {
-    QString typed;
-    bool accepted;
-    std::optional<QString> answer;
-  } cases[] = {{initial, true, initial}, {longest, true, longest}, {{}, true, QString()}, {longest, false, {}}};
-  for (const auto& c : cases) {
+  const QString prompt = QStringLiteral("Výzva"), title = QStringLiteral("Titul"), initial = QStringLiteral("původní");
+  const std::optional<QString> answers[] = {initial, QString(40000, u'A'), QString(), std::nullopt};
+  for (const auto& answer : answers) {
     InDialog<QInputDialog>([&](QInputDialog& box) {
-      EXPECT_EQ(box.labelText(), QStringLiteral("Výzva"));
-      EXPECT_EQ(box.windowTitle(), QStringLiteral("Titul"));
-      EXPECT_EQ(box.textValue(), initial);
-      box.findChild<QLineEdit*>()->setText(c.typed);
-      c.accepted ? box.accept() : box.reject();
+      EXPECT_EQ(std::tuple(box.labelText(), box.windowTitle(), box.textValue()), std::tuple(prompt, title, initial));
+      box.findChild<QLineEdit*>()->setText(answer.value_or(initial));
+      answer ? box.accept() : box.reject();
     });
-    EXPECT_EQ(AskForText(QStringLiteral("Výzva"), QStringLiteral("Titul"), initial), c.answer);
+    EXPECT_EQ(AskForText(prompt, title, initial), answer);
   }
-}
-
-TEST(FileDialog, TurnsFiltersIntoTheToolkits) {
-  EXPECT_EQ(NameFilters(QStringLiteral("Všechno (*.*)|*.*|Html (*.htm)|*.htm; *.html|lone")),
-            QStringList({QStringLiteral("Všechno (*.*) (*)"), QStringLiteral("Html (*.htm) (*.htm *.html)")}));
-  EXPECT_EQ(NameFilters(QString()), QStringList());
 }
 
 TEST(FileDialog, StartsWithTheGivenFilterAndRemembersTheFolder) {
   const TempFolder temp;
   const QString wanted = Utf8ToQString(temp.Put("inner/Dopis.TXT", "x"));
-  const QString document = Utf8ToQString(temp.Put("inner/leták", "%PDF-1.4\n"));
-  const QString picture = Utf8ToQString(temp.Put("inner/obraz", "\x89PNG\r\n\x1a\n"));
-  const QString filter = QStringLiteral("Všechno (*.*)|*.*|jen text (*.txt)|*.txt");
+  const QFileInfo letter(wanted), document(Utf8ToQString(temp.Put("inner/leták", "%PDF-1.4\n"))),
+      picture(Utf8ToQString(temp.Put("inner/obraz", "\x89PNG\r\n\x1a\n")));
+  const QString filter = QStringLiteral("Všechno (*.*)|*.*|jen text (*.txt)|*.txt; *.me|lone");
   QString folder = Utf8ToQString(temp.Path());
-  InDialog<QFileDialog>([&](QFileDialog& dialog) {
-    EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptOpen);
-    EXPECT_EQ(dialog.directory().path(), Utf8ToQString(temp.Path()));
-    auto* types = dialog.findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
-    ASSERT_NE(types, nullptr);
-    EXPECT_EQ(types->currentText().trimmed(), QStringLiteral("jen text (*.txt)"));
-    EXPECT_EQ(types->itemText(0).trimmed(), QStringLiteral("Všechno (*.*)"));
-    // Kinds go by the names alone: nobody reads the files.
-    const QAbstractFileIconProvider* icons = dialog.iconProvider();
-    EXPECT_EQ(icons->type(QFileInfo(document)), icons->type(QFileInfo(picture)));
-    EXPECT_NE(icons->type(QFileInfo(document)), icons->type(QFileInfo(wanted)));
-    EXPECT_FALSE(icons->icon(QFileInfo(document)).isNull());
-    dialog.selectFile(wanted);
-    static_cast<QDialog&>(dialog).accept();
-  });
-  EXPECT_EQ(AskForFile(FileDialogKind::kOpen, filter, 2, folder), wanted);
-  EXPECT_EQ(folder, QFileInfo(wanted).path());
-
-  InDialog<QFileDialog>([&](QFileDialog& dialog) { dialog.reject(); });
-  EXPECT_EQ(AskForFile(FileDialogKind::kOpen, filter, 9, folder), std::nullopt);
-  EXPECT_EQ(folder, QFileInfo(wanted).path());
+  const auto ask = [&](FileDialogKind kind, int index, const std::function<void(QFileDialog&)>& act) {
+    InDialog<QFileDialog>([&](QFileDialog& dialog) {
+      EXPECT_EQ(dialog.acceptMode() == QFileDialog::AcceptSave, kind == FileDialogKind::kSave);
+      EXPECT_EQ(dialog.directory().path(), folder);
+      act(dialog);
+    });
+    return AskForFile(kind, filter, index, folder).value_or(QStringLiteral("none"));
+  };
+  EXPECT_EQ(ask(FileDialogKind::kOpen, 2,
+                [&](QFileDialog& dialog) {
+                  EXPECT_EQ(dialog.nameFilters().join(u'|').toStdString(),
+                            "Všechno (*.*) (*)|jen text (*.txt) (*.txt *.me)");
+                  EXPECT_EQ(dialog.selectedNameFilter(), QStringLiteral("jen text (*.txt)"));
+                  // Kinds go by the names alone: nobody reads the files.
+                  const QAbstractFileIconProvider& icons = *dialog.iconProvider();
+                  EXPECT_EQ(icons.type(document), icons.type(picture));
+                  EXPECT_NE(icons.type(document), icons.type(letter));
+                  EXPECT_FALSE(icons.icon(document).isNull());
+                  dialog.selectFile(wanted);
+                  static_cast<QDialog&>(dialog).accept();
+                }),
+            wanted);
+  EXPECT_EQ(folder, letter.path());
+  EXPECT_EQ(ask(FileDialogKind::kOpen, 9, [&](QFileDialog& dialog) { dialog.reject(); }), QStringLiteral("none"));
+  EXPECT_EQ(ask(FileDialogKind::kSave, 1,
+                [&](QFileDialog& dialog) {
+                  dialog.selectFile(wanted);
+                  // A question before the old file is written over would stop here until somebody answers.
+                  Inside([] {
+                    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                    EXPECT_EQ(box, nullptr);
+                    if (box != nullptr) box->reject();
+                  });
+                  QTest::keyClick(&dialog, Qt::Key_Return);
+                }),
+            wanted);
 }
 
-TEST(FileDialog, SavingOverAFileAsksNothing) {
-  const TempFolder temp;
-  const QString existing = Utf8ToQString(temp.Put("a.txt", "x"));
-  QString folder = Utf8ToQString(temp.Path());
-  InDialog<QFileDialog>([&](QFileDialog& dialog) {
-    EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
-    dialog.selectFile(existing);
-    // A question would stop here until somebody answers.
-    QTimer asked;
-    asked.callOnTimeout(&asked, [&] {
-      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-      ASSERT_NE(box, nullptr);
-      ADD_FAILURE() << box->text().toStdString();
-      box->reject();
-    });
-    asked.start(0);
-    QTest::keyClick(&dialog, Qt::Key_Return);
-  });
-  EXPECT_EQ(AskForFile(FileDialogKind::kSave, QStringLiteral("Vše|*.*"), 1, folder), existing);
+TEST(OuterGeometry, CountsTheFrameOnceTheWindowIsThere) {
+  QWidget window;
+  for (const bool shown : {false, true}) {
+    const TwipsRect place{shown ? 3000 : 1500, 900, 6000, 4500};
+    window.setVisible(shown);
+    ASSERT_TRUE(!shown || QTest::qWaitForWindowExposed(&window));
+    SetOuterWidth(window, place.width);
+    SetOuterHeight(window, place.height);
+    SetOuterPosition(window, place.left, place.top);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(OuterGeometry(window), place);
+    const QMargins frame = shown ? window.windowHandle()->frameMargins() : QMargins();
+    EXPECT_EQ(window.size().grownBy(frame), QSize(400, 300));
+  }
+  EXPECT_EQ(ScreenTwips(window), window.screen()->size() * 15);
+}
+
+TEST(DialogWindow, IsCentredOnceAndKeepsItsPlace) {
+  DialogWindow dialog(nullptr);
+  dialog.resize(300, 9000);
+  dialog.Present();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&dialog));
+  const QRect screen = dialog.screen()->availableGeometry();
+  EXPECT_LE((dialog.frameGeometry().center() - screen.center()).manhattanLength(), 12);
+  EXPECT_TRUE(screen.contains(dialog.geometry()));
+  dialog.move(5, 6);
+  dialog.hide();
+  dialog.Present();
+  EXPECT_EQ(dialog.pos(), QPoint(5, 6));
+  dialog.showMinimized();
+  dialog.Present();
+  EXPECT_FALSE(dialog.isMinimized());
+}
+
+TEST(DialogWindow, BeginsInItsFirstFieldSparesValuesFromTheWheelAndEnterPressesTheButtonInFocus) {
+  DialogWindow dialog(nullptr);
+  QLineEdit field(QStringLiteral("typed before"), &dialog);
+  QComboBox box(&dialog);
+  QScrollBar bar(&dialog);
+  QPushButton ok(QStringLiteral("ok"), &dialog), storno(QStringLiteral("storno"), &dialog);
+  QToolButton show(&dialog);
+  box.addItems({QStringLiteral("a"), QStringLiteral("b")});
+  ok.setDefault(true);
+  storno.setAutoDefault(false);
+  show.setText(QStringLiteral("show"));
+  for (QWidget* widget : {static_cast<QWidget*>(&bar), static_cast<QWidget*>(&show)})
+    widget->setFocusPolicy(Qt::StrongFocus);
+  std::string told;
+  for (QAbstractButton* button : dialog.findChildren<QAbstractButton*>())
+    QObject::connect(button, &QAbstractButton::clicked, [&, button] { told += button->text().toStdString() + " "; });
+  dialog.Present();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+  EXPECT_EQ(field.selectedText(), field.text());
+  for (QWidget* focus : {static_cast<QWidget*>(&field), static_cast<QWidget*>(&storno), static_cast<QWidget*>(&show),
+                         static_cast<QWidget*>(&ok), static_cast<QWidget*>(&bar)}) {
+    focus->setFocus();
+    if (focus != &field) QTest::keyClick(focus, Qt::Key_Return);
+    for (QWidget* turned : {static_cast<QWidget*>(&box), static_cast<QWidget*>(&bar)})
+      RollWheel(*turned, {}, {0, -120});
+    told += (Shown(&box) + Shown(&bar)).toStdString() + " ";
+  }
+  EXPECT_EQ(told, "a0 storno a0 show a0 ok a0 ok a3 ");
+  dialog.hide();
+  field.deselect();
+  dialog.Present();
+  EXPECT_EQ(dialog.focusWidget(), &field);
+  EXPECT_EQ(field.selectedText(), field.text());
 }
 
 }  // namespace

@@ -26,43 +26,40 @@ QString Ask(const char* program, QStringList arguments) {
 }
 
 // The scripted platform with the real paper.
-struct PaperPlatform : ScriptedPlatform {
-  QString pdf;
-  PrintOutcome Print(const PrintFont& font, const std::string& name, const std::function<void(Paper&)>& draw) override {
-    const PrintOutcome outcome = PrintOnDefault(font, Utf8ToQString(name), draw);
-    pdf = Utf8ToQString(outcome.pdf);
-    return outcome;
-  }
-};
-
-struct PrinterTest : testing::Test {
-  PaperPlatform platform;
-  WholeEditor editor{platform};
+struct PrinterTest : testing::Test, ScriptedPlatform {
+  WholeEditor editor{*this};
   EditorLook look;
+  QString pdf;
 
   PrinterTest() {
     SubstituteFonts();
     look.font_name = "Courier New";
     look.font_size = 12;
   }
+  PrintOutcome Print(const PrintFont& font, const std::string& name, const std::function<void(Paper&)>& draw) override {
+    const PrintOutcome outcome = PrintOnDefault(font, Utf8ToQString(name), draw);
+    pdf = Utf8ToQString(outcome.pdf);
+    return outcome;
+  }
   // The words on the pages, one after the other, with a form feed behind each.
   QString Printed(std::string_view text) {
     editor.text.SetText(std::string(text));
-    platform.answers = {Answer::kOk};
+    answers = {Answer::kOk};
     PrintDocument(editor, look);
-    EXPECT_EQ(platform.answers.size(), 0u);
-    return Ask("pdftotext", {QStringLiteral("-layout"), QStringLiteral("-enc"), QStringLiteral("UTF-8"), platform.pdf,
-                             QStringLiteral("-")});
+    EXPECT_EQ(answers.size(), 0u);
+    return Ask("pdftotext",
+               {QStringLiteral("-layout"), QStringLiteral("-enc"), QStringLiteral("UTF-8"), pdf, QStringLiteral("-")});
   }
 };
 
-TEST_F(PrinterTest, ThePdfHoldsTheWordsInTheirLines) {
+TEST_F(PrinterTest, EachTextIsANewPdfOfItsWordsInTheirLinesAndFont) {
+  EXPECT_EQ(Printed("").trimmed(), QString());
+  const QString first = pdf;
+  EXPECT_EQ(QFileInfo(first).path(), QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
   // A tab stop, and the sign that the editor shows.
   EXPECT_EQ(Printed("Příliš žluťoučký kůň\r\núpěl ďábelské ódy\r\n\r\na\tb <P>\x01"_w),
             QStringLiteral("Příliš žluťoučký kůň\núpěl ďábelské ódy\n\na       b <P>SOH\n\f"));
-}
-
-TEST_F(PrinterTest, ALongTextGoesOverSeveralPagesInItsFont) {
+  EXPECT_NE(first, pdf);
   std::string text;
   for (int i = 0; i < 2000; ++i) text += "word" + std::to_string(i) + (i % 7 == 0 ? "\r\n" : " ");
   const QString small = Printed(text);
@@ -71,15 +68,7 @@ TEST_F(PrinterTest, ALongTextGoesOverSeveralPagesInItsFont) {
   look.font_size = 24;
   look.bold = true;
   EXPECT_GT(Printed(text).count(u'\f'), small.count(u'\f') * 3 / 2);
-  EXPECT_TRUE(Ask("pdffonts", {platform.pdf}).contains(QLatin1String("Bold")));
-}
-
-TEST_F(PrinterTest, AnEmptyTextIsAnEmptyPageInANewFile) {
-  EXPECT_EQ(Printed("").trimmed(), QString());
-  const QString first = platform.pdf;
-  EXPECT_EQ(Printed("x").trimmed(), QStringLiteral("x"));
-  EXPECT_NE(first, platform.pdf);
-  EXPECT_EQ(QFileInfo(first).path(), QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+  EXPECT_TRUE(Ask("pdffonts", {pdf}).contains(QLatin1String("Bold")));
 }
 
 TEST(NewPdfPath, NeverTakesAFileThatIsThere) {

@@ -1,4 +1,4 @@
-// What can be told apart on a dark desktop, measured on pictures.
+// What is seen of boxes, bars and pictures, measured on pictures of them.
 #include "platform/qt/program_style.h"
 
 #include <gtest/gtest.h>
@@ -6,11 +6,19 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
 #include <QListWidget>
+#include <QPainter>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QTest>
 #include <cmath>
+#include <filesystem>
+
+#include "platform/qt/convert.h"
+#include "platform/qt/svg_icon.h"
+#include "support/temp_folder.h"
 
 namespace pelmar {
 namespace {
@@ -23,18 +31,8 @@ double Luminance(QColor color) {
 }
 
 double Contrast(QColor one, QColor other) {
-  const double a = Luminance(one), b = Luminance(other);
-  return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
-}
-
-// The strongest pixel of the rim, on the row through the middle of the box.
-double RimContrast(QWidget& box, const QColor& ground) {
-  box.resize(box.sizeHint());
-  const QImage picture = box.grab().toImage();
-  double strongest = 1;
-  for (int x = 0; x < 4; ++x)
-    strongest = std::max(strongest, Contrast(picture.pixelColor(x, picture.height() / 2), ground));
-  return strongest;
+  const auto [low, high] = std::minmax({Luminance(one), Luminance(other)});
+  return (high + 0.05) / (low + 0.05);
 }
 
 TEST(ProgramStyle, ShowsWhatIsOffOnLightAndDarkGround) {
@@ -42,17 +40,21 @@ TEST(ProgramStyle, ShowsWhatIsOffOnLightAndDarkGround) {
   for (const QColor& ground : {QColor(239, 239, 239), QColor(53, 53, 53), QColor(30, 30, 34)}) {
     QPalette palette(ground);
     style.polish(palette);
-    EXPECT_GE(
-        Contrast(palette.color(QPalette::Disabled, QPalette::Text), palette.color(QPalette::Disabled, QPalette::Base)),
-        4.5);
+    const auto off = [&](QPalette::ColorRole role) { return palette.color(QPalette::Disabled, role); };
+    EXPECT_GE(Contrast(off(QPalette::Text), off(QPalette::Base)), 4.5);
     QCheckBox check;
     QRadioButton option;
-    for (QWidget* box : std::initializer_list<QWidget*>{&check, &option}) {
+    for (QWidget* box : {static_cast<QWidget*>(&check), static_cast<QWidget*>(&option)}) {
       box->setStyle(&style);
       box->setPalette(palette);
+      box->resize(box->sizeHint());
       for (const bool on : {true, false}) {
         box->setEnabled(on);
-        EXPECT_GE(RimContrast(*box, ground), 3) << box->metaObject()->className() << ground.red() << on;
+        const QImage picture = box->grab().toImage();
+        double strongest = 1;  // of the rim, on the row through the middle of the box
+        for (int x = 0; x < 4; ++x)
+          strongest = std::max(strongest, Contrast(picture.pixelColor(x, picture.height() / 2), ground));
+        EXPECT_GE(strongest, 3) << box->metaObject()->className() << ground.red() << on;
       }
     }
   }
@@ -67,11 +69,58 @@ TEST(ProgramStyle, FramesTheBarOrTheListThatHasTheKeyboard) {
   bar.setFocusPolicy(Qt::StrongFocus);
   window.show();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-  for (QWidget* focus : std::initializer_list<QWidget*>{&bar, &list, &box}) {
+  for (QWidget* focus : {static_cast<QWidget*>(&bar), static_cast<QWidget*>(&list), static_cast<QWidget*>(&box)}) {
     focus->setFocus();
-    for (QWidget* widget : std::initializer_list<QWidget*>{&bar, &list, &box}) {
+    for (QWidget* widget : window.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
       const QColor corner = widget->grab().toImage().pixelColor(0, 0);
       EXPECT_EQ(corner == widget->palette().color(QPalette::Highlight), widget == focus && widget != &box);
+    }
+  }
+}
+
+// A picture whose left half is orange and whose right half is empty.
+constexpr const char* kHalf =
+    R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 24 24"><path d="M0 0h12v24H0z" fill="#ff8000"/></svg>)";
+
+TEST(SvgIcon, IsReadOnceSharpAtAnyScaleAndFaintWhenDisabled) {
+  const TempFolder folder;
+  const QIcon icon = SvgIcon(Utf8ToQString(folder.File("half.svg")));
+  for (const qreal ratio : {1.0, 1.5, 3.0}) {
+    const int middle = qRound(12 * ratio);
+    const std::string path = folder.Put("half.svg", kHalf);
+    const QImage taken = icon.pixmap(QSize(24, 24), ratio).toImage();
+    const QColor disabled = icon.pixmap(QSize(24, 24), ratio, QIcon::Disabled).toImage().pixelColor(5, 12);
+    std::filesystem::remove(path);
+    // A wide rectangle has the square in its middle.
+    QImage painted(6 * middle, 2 * middle, QImage::Format_ARGB32_Premultiplied);
+    painted.setDevicePixelRatio(ratio);
+    painted.fill(Qt::transparent);
+    QPainter painter(&painted);
+    icon.paint(&painter, 0, 0, 72, 24);
+    painter.end();
+    EXPECT_EQ(taken.devicePixelRatio(), ratio);
+    ASSERT_EQ(taken.size(), QSize(2 * middle, 2 * middle));
+    EXPECT_EQ(painted.pixelColor(2 * middle - 1, middle).alpha(), 0) << ratio;
+    for (const QImage& image : {taken, painted.copy(2 * middle, 0, 2 * middle, 2 * middle)})
+      for (const int x : {0, middle - 1, middle, 2 * middle - 1})
+        EXPECT_EQ(image.pixelColor(x, middle), x < middle ? QColor(0xff8000) : QColor(Qt::transparent)) << ratio << x;
+    EXPECT_NEAR(disabled.red(), disabled.blue(), 2);
+    EXPECT_NEAR(disabled.alpha(), 96, 32);
+  }
+}
+
+TEST(SvgIcon, OfADamagedOrMissingPictureIsEmptyAndEachOfTheProgramDraws) {
+  const TempFolder folder;
+  for (const char* svg : {"<svg", "not a picture", ""}) folder.Put("bad " + std::string(svg), svg);
+  std::filesystem::create_symlink("nowhere", folder.File("missing"));
+  const QDir bad(Utf8ToQString(folder.Path())), icons(QStringLiteral(":/icons"), QStringLiteral("*.svg"));
+  EXPECT_GT(icons.count(), 28u);
+  for (const QDir& dir : {bad, icons}) {
+    for (const QString& name : dir.entryList(QDir::Files | QDir::System)) {
+      const QImage image = SvgIcon(dir.filePath(name)).pixmap(24, 24).toImage();
+      int drawn = 0;
+      for (int at = 0; at < 24 * 24; ++at) drawn += image.pixelColor(at % 24, at / 24).alpha() > 128;
+      EXPECT_TRUE(dir == bad ? drawn == 0 : drawn > 24) << name.toStdString();
     }
   }
 }
