@@ -3,8 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include <QAbstractItemView>
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAbstractSlider>
 #include <QComboBox>
 #include <QLabel>

@@ -2,23 +2,15 @@
 
 #include <gtest/gtest.h>
 
-#include <QAbstractFileIconProvider>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QFileDialog>
-#include <QInputDialog>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QScreen>
-#include <QScrollBar>
 #include <QTest>
-#include <QToolButton>
-#include <QWindow>
+#include <QtWidgets>
+#include <filesystem>
 
 #include "platform/qt/controls/dialog_window.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/outer_geometry.h"
+#include "platform/qt/program_style.h"
+#include "platform/qt/svg_icon.h"
 #include "platform/twips.h"
 #include "support/controls.h"
 #include "support/steps.h"
@@ -26,6 +18,8 @@
 
 namespace pelmar {
 namespace {
+
+using Widgets = std::initializer_list<QWidget*>;
 
 TEST(Message, HasTheButtonsThePictureAndTheDefaultOfItsType) {
   using Box = QMessageBox;
@@ -80,47 +74,43 @@ TEST(InputBox, GivesTheTextOrNothing) {
 
 TEST(FileDialog, StartsWithTheGivenFilterAndRemembersTheFolder) {
   const TempFolder temp;
-  const QString wanted = Utf8ToQString(temp.Put("inner/Dopis.TXT", "x"));
-  const QFileInfo letter(wanted), document(Utf8ToQString(temp.Put("inner/leták", "%PDF-1.4\n"))),
+  const QFileInfo letter(Utf8ToQString(temp.Put("inner/Dopis.TXT", "x"))),
+      document(Utf8ToQString(temp.Put("inner/leták", "%PDF-1.4\n"))),
       picture(Utf8ToQString(temp.Put("inner/obraz", "\x89PNG\r\n\x1a\n")));
-  const QString filter = QStringLiteral("Všechno (*.*)|*.*|jen text (*.txt)|*.txt; *.me|lone");
   QString folder = Utf8ToQString(temp.Path());
   const auto ask = [&](FileDialogKind kind, int index, const std::function<void(QFileDialog&)>& act) {
     InDialog<QFileDialog>([&](QFileDialog& dialog) {
       EXPECT_EQ(dialog.acceptMode() == QFileDialog::AcceptSave, kind == FileDialogKind::kSave);
       EXPECT_EQ(dialog.directory().path(), folder);
+      dialog.selectFile(letter.filePath());
       act(dialog);
     });
+    const QString filter = QStringLiteral("Všechno (*.*)|*.*|jen text (*.txt)|*.txt; *.me|lone");
     return AskForFile(kind, filter, index, folder).value_or(QStringLiteral("none"));
   };
-  EXPECT_EQ(ask(FileDialogKind::kOpen, 2,
-                [&](QFileDialog& dialog) {
-                  EXPECT_EQ(dialog.nameFilters().join(u'|').toStdString(),
-                            "Všechno (*.*) (*)|jen text (*.txt) (*.txt *.me)");
-                  EXPECT_EQ(dialog.selectedNameFilter(), QStringLiteral("jen text (*.txt)"));
-                  // Kinds go by the names alone: nobody reads the files.
-                  const QAbstractFileIconProvider& icons = *dialog.iconProvider();
-                  EXPECT_EQ(icons.type(document), icons.type(picture));
-                  EXPECT_NE(icons.type(document), icons.type(letter));
-                  EXPECT_FALSE(icons.icon(document).isNull());
-                  dialog.selectFile(wanted);
-                  static_cast<QDialog&>(dialog).accept();
-                }),
-            wanted);
+  const auto open = [&](QFileDialog& dialog) {
+    EXPECT_EQ(dialog.nameFilters().join(u'|').toStdString(), "Všechno (*.*) (*)|jen text (*.txt) (*.txt *.me)");
+    EXPECT_EQ(dialog.selectedNameFilter(), QStringLiteral("jen text (*.txt)"));
+    // Kinds go by the names alone: nobody reads the files.
+    const QAbstractFileIconProvider& icons = *dialog.iconProvider();
+    EXPECT_EQ(icons.type(document), icons.type(picture));
+    EXPECT_NE(icons.type(document), icons.type(letter));
+    EXPECT_FALSE(icons.icon(document).isNull());
+    static_cast<QDialog&>(dialog).accept();
+  };
+  const auto save = [&](QFileDialog& dialog) {
+    // A question before the old file is written over would stop here until somebody answers.
+    Inside([] {
+      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      EXPECT_EQ(box, nullptr);
+      if (box != nullptr) box->reject();
+    });
+    QTest::keyClick(&dialog, Qt::Key_Return);
+  };
+  EXPECT_EQ(ask(FileDialogKind::kOpen, 2, open), letter.filePath());
   EXPECT_EQ(folder, letter.path());
-  EXPECT_EQ(ask(FileDialogKind::kOpen, 9, [&](QFileDialog& dialog) { dialog.reject(); }), QStringLiteral("none"));
-  EXPECT_EQ(ask(FileDialogKind::kSave, 1,
-                [&](QFileDialog& dialog) {
-                  dialog.selectFile(wanted);
-                  // A question before the old file is written over would stop here until somebody answers.
-                  Inside([] {
-                    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-                    EXPECT_EQ(box, nullptr);
-                    if (box != nullptr) box->reject();
-                  });
-                  QTest::keyClick(&dialog, Qt::Key_Return);
-                }),
-            wanted);
+  EXPECT_EQ(ask(FileDialogKind::kOpen, 9, [](QFileDialog& dialog) { dialog.reject(); }), QStringLiteral("none"));
+  EXPECT_EQ(ask(FileDialogKind::kSave, 1, save), letter.filePath());
 }
 
 TEST(OuterGeometry, CountsTheFrameOnceTheWindowIsThere) {
@@ -168,28 +158,123 @@ TEST(DialogWindow, BeginsInItsFirstFieldSparesValuesFromTheWheelAndEnterPressesT
   ok.setDefault(true);
   storno.setAutoDefault(false);
   show.setText(QStringLiteral("show"));
-  for (QWidget* widget : {static_cast<QWidget*>(&bar), static_cast<QWidget*>(&show)})
-    widget->setFocusPolicy(Qt::StrongFocus);
-  std::string told;
+  for (QWidget* widget : Widgets{&bar, &show}) widget->setFocusPolicy(Qt::StrongFocus);
+  QString told;
   for (QAbstractButton* button : dialog.findChildren<QAbstractButton*>())
-    QObject::connect(button, &QAbstractButton::clicked, [&, button] { told += button->text().toStdString() + " "; });
-  dialog.Present();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
-  EXPECT_EQ(field.selectedText(), field.text());
-  for (QWidget* focus : {static_cast<QWidget*>(&field), static_cast<QWidget*>(&storno), static_cast<QWidget*>(&show),
-                         static_cast<QWidget*>(&ok), static_cast<QWidget*>(&bar)}) {
-    focus->setFocus();
-    if (focus != &field) QTest::keyClick(focus, Qt::Key_Return);
-    for (QWidget* turned : {static_cast<QWidget*>(&box), static_cast<QWidget*>(&bar)})
-      RollWheel(*turned, {}, {0, -120});
-    told += (Shown(&box) + Shown(&bar)).toStdString() + " ";
+    QObject::connect(button, &QAbstractButton::clicked, [&, button] { told += button->text() + u' '; });
+  for (int opened = 0; opened < 2; ++opened) {
+    dialog.Present();
+    EXPECT_EQ(dialog.focusWidget(), &field);
+    EXPECT_EQ(field.selectedText(), field.text());
+    field.deselect();
+    EXPECT_TRUE(opened > 0 || QTest::qWaitForWindowActive(&dialog));
+    for (QWidget* focus : Widgets{&box, &storno, &show, &ok, &bar, &field}) {
+      focus->setFocus();
+      if (focus != &field && focus != &box) QTest::keyClick(focus, Qt::Key_Return);
+      for (QWidget* turned : Widgets{&box, &bar}) RollWheel(*turned, {}, {0, -120});
+      told += Shown(&box) + Shown(&bar) + u' ';
+    }
+    dialog.hide();
   }
-  EXPECT_EQ(told, "a0 storno a0 show a0 ok a0 ok a3 ");
-  dialog.hide();
-  field.deselect();
-  dialog.Present();
-  EXPECT_EQ(dialog.focusWidget(), &field);
-  EXPECT_EQ(field.selectedText(), field.text());
+  EXPECT_TRUE(told.startsWith(QStringLiteral("b0 storno b0 show b0 ok b0 ok b3 b3 b3 storno"))) << told.toStdString();
+}
+
+int Difference(const QColor& one, const QColor& other) { return std::abs(qGray(one.rgb()) - qGray(other.rgb())); }
+
+TEST(ProgramStyle, ShowsWhatIsOffOnLightAndDarkGround) {
+  ProgramStyle style(QStringLiteral("fusion"));
+  for (const QColor& ground : {QColor(239, 239, 239), QColor(53, 53, 53), QColor(30, 30, 34)}) {
+    QPalette palette(ground);
+    style.polish(palette);
+    const auto off = [&](QPalette::ColorRole role) { return palette.color(QPalette::Disabled, role); };
+    EXPECT_GE(Difference(off(QPalette::Text), off(QPalette::Base)), 90);
+    QCheckBox check;
+    QRadioButton option;
+    for (QWidget* box : Widgets{&check, &option}) {
+      box->setStyle(&style);
+      box->setPalette(palette);
+      box->resize(box->sizeHint());
+      for (const bool on : {true, false}) {
+        box->setEnabled(on);
+        const QImage picture = box->grab().toImage();
+        int rim = 0;  // on the row through the middle of the box
+        for (int x = 0; x < 4; ++x)
+          rim = std::max(rim, Difference(picture.pixelColor(x, picture.height() / 2), ground));
+        EXPECT_GE(rim, 60) << box->metaObject()->className() << ground.red() << on;
+      }
+    }
+  }
+}
+
+TEST(ProgramStyle, FramesTheBarOrTheListThatHasTheKeyboard) {
+  QWidget window;
+  window.resize(300, 300);
+  QScrollBar bar(&window);
+  QListWidget list(&window);
+  QComboBox box(&window);
+  bar.setFocusPolicy(Qt::StrongFocus);
+  window.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  for (QWidget* focus : Widgets{&bar, &list, &box}) {
+    focus->setFocus();
+    for (QWidget* widget : Widgets{&bar, &list, &box}) {
+      const QColor corner = widget->grab().toImage().pixelColor(0, 0);
+      EXPECT_EQ(corner == widget->palette().color(QPalette::Highlight), widget == focus && widget != &box);
+    }
+  }
+}
+
+// A picture whose left half is orange and whose right half is empty.
+constexpr const char* kHalf =
+    R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 24 24"><path d="M0 0h12v24H0z" fill="#ff8000"/></svg>)";
+
+TEST(SvgIcon, IsReadOnceSharpAtAnyScaleAndFaintWhenDisabled) {
+  const TempFolder folder;
+  const QIcon icon = SvgIcon(Utf8ToQString(folder.File("half.svg")));
+  for (const qreal ratio : {1.0, 1.5, 3.0}) {
+    const int middle = qRound(12 * ratio);
+    const std::string path = folder.Put("half.svg", kHalf);
+    const QImage taken = icon.pixmap(QSize(24, 24), ratio).toImage();
+    const QColor disabled = icon.pixmap(QSize(24, 24), ratio, QIcon::Disabled).toImage().pixelColor(5, 12);
+    std::filesystem::remove(path);
+    // A wide rectangle has the square in its middle.
+    QImage painted(6 * middle, 2 * middle, QImage::Format_ARGB32_Premultiplied);
+    painted.setDevicePixelRatio(ratio);
+    painted.fill(Qt::transparent);
+    QPainter painter(&painted);
+    icon.paint(&painter, 0, 0, 72, 24);
+    painter.end();
+    EXPECT_EQ(taken.devicePixelRatio(), ratio);
+    ASSERT_EQ(taken.size(), QSize(2 * middle, 2 * middle));
+    EXPECT_EQ(painted.pixelColor(2 * middle - 1, middle).alpha(), 0) << ratio;
+    for (const QImage& image : {taken, painted.copy(2 * middle, 0, 2 * middle, 2 * middle)})
+      for (const int x : {0, middle - 1, middle, 2 * middle - 1})
+        EXPECT_EQ(image.pixelColor(x, middle), x < middle ? QColor(0xff8000) : QColor(Qt::transparent)) << ratio << x;
+    EXPECT_NEAR(disabled.red(), disabled.blue(), 2);
+    EXPECT_NEAR(disabled.alpha(), 96, 32);
+  }
+}
+
+TEST(SvgIcon, OfADamagedOrMissingPictureIsEmptyAndEachOfTheProgramDraws) {
+  const TempFolder folder;
+  for (const char* svg : {"<svg", "not a picture", ""}) folder.Put("bad " + std::string(svg), svg);
+  std::filesystem::create_symlink("nowhere", folder.File("missing"));
+  const QDir bad(Utf8ToQString(folder.Path())), icons(QStringLiteral(":/icons"), QStringLiteral("*.svg"));
+  EXPECT_GT(icons.count(), 28u);
+  for (const QDir& dir : {bad, icons}) {
+    for (const QString& name : dir.entryList(QDir::Files | QDir::System)) {
+      const QImage image = SvgIcon(dir.filePath(name)).pixmap(24, 24).toImage();
+      int drawn = 0;
+      for (int at = 0; at < 24 * 24; ++at) drawn += image.pixelColor(at % 24, at / 24).alpha() > 128;
+      EXPECT_TRUE(dir == bad ? drawn == 0 : drawn > 24) << name.toStdString();
+    }
+  }
+  const auto more = [](QStyle::StandardPixmap picture) {
+    return QApplication::style()->standardIcon(picture).pixmap(24, 24).toImage();
+  };
+  EXPECT_EQ(more(QStyle::SP_ToolBarHorizontalExtensionButton),
+            SvgIcon(icons.filePath(QStringLiteral("more.svg"))).pixmap(24, 24).toImage());
+  EXPECT_NE(more(QStyle::SP_ToolBarVerticalExtensionButton), more(QStyle::SP_ToolBarHorizontalExtensionButton));
 }
 
 }  // namespace

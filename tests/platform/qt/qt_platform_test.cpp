@@ -1,22 +1,28 @@
 #include "platform/qt/qt_platform.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
-#include <QClipboard>
-#include <QMessageBox>
-#include <QMimeData>
 #include <QTest>
-#include <QWindow>
+#include <QtWidgets>
 #include <algorithm>
 #include <filesystem>
 #include <numeric>
 #include <set>
 
+#include "files/printing.h"
 #include "platform/qt/clipboard_text.h"
 #include "platform/qt/convert.h"
+#include "platform/qt/fonts.h"
 #include "platform/qt/install_folder.h"
+#include "platform/qt/printer.h"
+#include "platform/qt/recent_bookmarks.h"
+#include "platform/qt/recent_documents.h"
 #include "support/controls.h"
+#include "support/scripted_platform.h"
 #include "support/temp_folder.h"
+#include "support/whole_editor.h"
 #include "text/codepage.h"
 
 namespace pelmar {
@@ -37,9 +43,7 @@ TEST(SortedOrder, FollowsTheCzechAlphabetAndKeepsEqualsInPlace) {
 // A folder that isn't there stays what was asked for, so that writing to it fails, rather than becoming the root.
 TEST(Folders, EndInASeparatorAndTheTemporaryOneIsWhatTheEnvironmentSays) {
   QtPlatform platform;
-  const std::string install = platform.InstallFolder();
-  EXPECT_TRUE(install.ends_with('/') && !install.ends_with("//")) << install;
-  EXPECT_TRUE(std::filesystem::is_directory(install)) << install;
+  EXPECT_TRUE(std::filesystem::is_directory(platform.InstallFolder())) << platform.InstallFolder();
   const QByteArray before = qgetenv("TMPDIR");
   for (const auto& [set, expected] : {std::pair("/nonexistent/x", "/nonexistent/x/"), {"/", "/"}, {"", "/tmp/"}}) {
     qputenv("TMPDIR", set);
@@ -99,15 +103,14 @@ TEST(Keys, InsertTurnsOnceForEachPressOfTheBareKey) {
   field->setFocusPolicy(Qt::StrongFocus);
   window.show();
   field->setFocus();
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
-  EXPECT_FALSE(platform.Keys().insert);
   const std::pair<const char*, bool> presses[] = {{"Insert", true}, {"Shift+Insert", true}, {"Ctrl+Insert", true},
                                                   {"A", true},      {"Num+Insert", false},  {"Insert", true}};
   for (const auto& [keys, insert] : presses) {
     QTest::keySequence(field, QKeySequence(QString::fromLatin1(keys)));
     EXPECT_EQ(platform.Keys().insert, insert) << keys;
   }
-  QTest::keyClick(window.windowHandle(), Qt::Key_Insert);  // by the way of real presses
+  QTest::keyClick(window.windowHandle(),
+                  Qt::Key_Insert);  // by the way of real presses
   EXPECT_FALSE(platform.Keys().insert);
 }
 
@@ -129,16 +132,14 @@ struct CountingMime : QMimeData {
   int& reads_;
 };
 
-TEST(Clipboard, OurOwnComesBackToTheByteAndOthersGetUnicodeLines) {
+TEST(Clipboard, OurOwnComesBackToTheByteAndOthersTextIsReadOnceAChange) {
   std::string all;
   for (int code = 0; code < 256; ++code) all += CharOf(code);
   all += "\r\n\n\r";
   EXPECT_EQ(TextFromMime(std::unique_ptr<QMimeData>(MimeFromText(all)).get()), all);
   const std::unique_ptr<QMimeData> mime(MimeFromText("\x8Elut\xFD\x81\r\nk\xF9\xF2\n\r"));
   EXPECT_EQ(mime->text(), QStringLiteral("Žlutý") + QChar(0x81) + QStringLiteral("\nkůň\n\r"));
-}
 
-TEST(Clipboard, OthersTextIsReadOnceAChangeWithOurLinesAndLetters) {
   Clipboard clipboard;
   const std::pair<QString, std::string_view> cases[] = {
       {QStringLiteral("\na\r\nb\n\nc\r"), "\r\na\r\nb\r\n\r\nc\r"},
@@ -152,7 +153,7 @@ TEST(Clipboard, OthersTextIsReadOnceAChangeWithOurLinesAndLetters) {
     QGuiApplication::clipboard()->setMimeData(new CountingMime(theirs, reads));
     EXPECT_EQ(clipboard.Text(), ours);
     const int reads_of_one_fetch = reads;
-    for (int tick = 0; tick < 5; ++tick) EXPECT_EQ(clipboard.Text(), ours);
+    EXPECT_EQ(clipboard.Text(), ours);
     EXPECT_EQ(reads, reads_of_one_fetch);
   }
   clipboard.Clear();
@@ -163,6 +164,170 @@ TEST(Clipboard, OthersTextIsReadOnceAChangeWithOurLinesAndLetters) {
   picture.setData(QStringLiteral("image/png"), "x");
   EXPECT_EQ(TextFromMime(&picture), std::nullopt);
   EXPECT_EQ(TextFromMime(nullptr), std::nullopt);
+}
+
+// A list in which {x|y} stands for x before a file is noted and for y behind it. Long words are
+// short here.
+QByteArray InFull(QByteArray list, bool behind) {
+  const std::pair<const char*, const char*> words[] = {
+      {"<META>", R"(<metadata owner="http://freedesktop.org">)"},
+      {"</META>", "</metadata>"},
+      {"<TEXT/>", R"(<mime:mime-type type="text/plain"/>)"},
+      {"NOTES>", "bookmark:applications>"},
+      {"<NEW ", R"(<APP name="Pelmar VEX" exec="'pelmar-vex %f'" modified="NOW" )"},
+      {"<OLD ", R"(<APP name="Pelmar VEX" exec="x" modified="old" )"},
+      {"<APP", "<bookmark:application"},
+      {"TIMES", R"(added="A" modified="{B|NOW}" visited="{C|NOW}" x="y")"},
+      {"NOW", "2024-05-06T12:00:00Z"},
+  };
+  for (const auto& [word, full] : words) list.replace(word, full);
+  const QRegularExpression choice(QStringLiteral("\\{([^|]*)\\|([^}]*)\\}"));
+  return QString::fromUtf8(list).replace(choice, behind ? QStringLiteral("\\2") : QStringLiteral("\\1")).toUtf8();
+}
+
+QByteArray Add(const QByteArray& list, const char* path) {
+  const QDateTime now(QDate(2024, 5, 6), QTime(14, 0), QTimeZone(7200));
+  return AddBookmark(list, QString::fromUtf8(path), QStringLiteral("text/plain"), now);
+}
+
+TEST(AddBookmark, UpdatesTheEntryOfTheFileAndLeavesEverythingElseAsItIs) {
+  const QByteArray text =
+      R"(<?xml version="1.0" encoding="UTF-8"?>
+<xbel xmlns:bookmark="http://www.freedesktop.org/standards/desktop-bookmarks" )"
+      R"(xmlns:mime="http://www.freedesktop.org/standards/shared-mime-info" version="1.0">
+  <!-- a remark & more --><folder xmlns:x="urn:x" x:id="1"><title>Složka &lt;1&gt;</title></folder>
+  <bookmark href="file:///home/jan/b%26c.html" added="2020-01-01T00:00:00.123456Z" visited="2020-01-01T00:00:00Z">
+    <info><metadata owner="http://example.org"><x:note xmlns:x="urn:x">a&amp;b<![CDATA[<c>]]></x:note></metadata>
+    <META><mime:mime-type type="text/html"/><bookmark:private/><NOTES><OLD count="7"/></NOTES></META></info></bookmark>
+  <bookmark href="file:///m%c5%af/0" TIMES>
+    <info><META><TEXT/><NOTES><APP/>{<OLD count="4"/>|<NEW count="5"/>}<APP/></NOTES></META></info></bookmark>
+  <bookmark href="file:///m%c5%af/1" TIMES>
+    <info><META><NOTES>{<OLD count="many"/>|<NEW count="1"/>}</NOTES></META></info></bookmark>
+  <bookmark href="file:///m%c5%af/2" TIMES><info><META><NOTES><APP/>{|<NEW count="1"/>}</NOTES></META></info></bookmark>
+  <bookmark href="file:///m%c5%af/3" TIMES>
+    <info><META><mime:mime-type type="old"/>{|<NOTES><NEW count="1"/></NOTES>}</META></info></bookmark>
+  <bookmark href="file:///m%c5%af/4" TIMES>
+    <info><metadata owner="x"/>{|<META><TEXT/><NOTES><NEW count="1"/></NOTES></META>}</info></bookmark>{|
+  <bookmark href="file:///m%C5%AF/nov%C3%BD" added="NOW" modified="NOW" visited="NOW">)"
+      R"(<info><META><TEXT/><NOTES><NEW count="1"/></NOTES></META></info></bookmark>
+}</xbel>
+)";
+  QByteArray list = InFull(text, false);
+  for (const char* path : {"/mů/0", "/mů/1", "/mů/2", "/mů/3", "/mů/4", "/mů/nový"}) list = Add(list, path);
+  EXPECT_EQ(list.toStdString(), InFull(text, true).toStdString());
+  // Under another prefix and behind a document type. Readable again only if the prefixes of new elements are
+  // declared.
+  const QByteArray other =
+      R"(<!DOCTYPE xbel><xbel xmlns:b="http://www.freedesktop.org/standards/desktop-bookmarks">
+<bookmark href="file:///a"><info><META><b:applications><b:application name="Pelmar VEX" count="1"/>)"
+      R"(</b:applications></META></info></bookmark></xbel>)";
+  EXPECT_TRUE(Add(InFull(other, false), "/a").contains(R"(<b:application name="Pelmar VEX" count="2" )"));
+  for (const QByteArray& start : {InFull(other, false), QByteArray()})
+    EXPECT_TRUE(Add(Add(start, "/b"), "/b").contains(R"(count="2")"));
+}
+
+TEST(AddBookmark, RefusesWhatIsNoList) {
+  for (const QByteArray& list :
+       {QByteArray(" "), QByteArray("<xbel>"), QByteArray("<xbel></xbel><xbel/>"), QByteArray("<html></html>"),
+        QByteArray("<xbel><a></b></xbel>"), QByteArray("<xbel><undeclared:a/></xbel>"),
+        QByteArray("<xbel>\0</xbel>", 14), QByteArray("<xbel>\xFF</xbel>")})
+    EXPECT_EQ(Add(list, "/a"), "") << list.toStdString();
+}
+
+TEST(RecentDocuments, AreAllNotedInOrderWhenTheProgramEnds) {
+  const TempFolder temp;
+  const std::string list = temp.File("share/recently-used.xbel");
+  {
+    RecentDocuments recent(Utf8ToQString(list));
+    for (const char name : std::string("bcaefdhgc")) recent.Add(u'/' + QChar::fromLatin1(name));
+  }
+  QString noted;
+  const QRegularExpression entry(QStringLiteral("file:///(.)\"|count=\"([^1])"));
+  for (const auto& match : entry.globalMatch(Utf8ToQString(Content(list))))
+    noted += match.captured(1) + match.captured(2);
+  EXPECT_EQ(noted.toStdString(), "bc2aefdhg");
+  using std::filesystem::perms;
+  EXPECT_EQ(std::filesystem::status(list).permissions(), perms::owner_read | perms::owner_write);
+}
+
+TEST(RecentDocuments, LeaveADamagedListAloneAndGiveUpOnOneThatStaysLocked) {
+  const TempFolder temp;
+  const auto add = [](const std::string& list) {
+    AddToRecentList(Utf8ToQString(list), QStringLiteral("/a"));
+    return Content(list);
+  };
+  EXPECT_EQ(add(temp.Put("damaged", "<xbel><bookmark")), "<xbel><bookmark");
+  const std::string list = temp.Put("list", "<xbel/>");
+  const int file = open(list.c_str(), O_RDWR);
+  struct flock lock {};
+  lock.l_type = F_WRLCK;
+  ASSERT_EQ(fcntl(file, F_OFD_SETLK, &lock), 0);
+  EXPECT_EQ(add(list), "<xbel/>");
+  close(file);
+  EXPECT_NE(add(list).find("file:///a"), std::string::npos);
+}
+
+// What another program says of a PDF.
+QString Ask(const char* program, QStringList arguments) {
+  QProcess reader;
+  reader.start(QString::fromLatin1(program), arguments);
+  EXPECT_TRUE(reader.waitForFinished()) << program << " is missing";
+  return QString::fromUtf8(reader.readAllStandardOutput());
+}
+
+// The scripted platform with the real paper.
+struct PrinterTest : testing::Test, ScriptedPlatform {
+  WholeEditor editor{*this};
+  EditorLook look;
+  QString pdf;
+
+  PrinterTest() {
+    SubstituteFonts();
+    look.font_name = "Courier New";
+    look.font_size = 12;
+  }
+  PrintOutcome Print(const PrintFont& font, const std::string& name, const std::function<void(Paper&)>& draw) override {
+    const PrintOutcome outcome = PrintOnDefault(font, Utf8ToQString(name), draw);
+    pdf = Utf8ToQString(outcome.pdf);
+    return outcome;
+  }
+  // The words on the pages, one after the other, with a form feed behind each.
+  QString Printed(std::string_view text) {
+    editor.text.SetText(std::string(text));
+    answers = {Answer::kOk};
+    PrintDocument(editor, look);
+    EXPECT_EQ(answers.size(), 0u);
+    return Ask("pdftotext",
+               {QStringLiteral("-layout"), QStringLiteral("-enc"), QStringLiteral("UTF-8"), pdf, QStringLiteral("-")});
+  }
+};
+
+TEST_F(PrinterTest, EachTextIsANewPdfOfItsWordsInTheirLinesAndFont) {
+  EXPECT_EQ(Printed("").trimmed(), QString());
+  const QString first = pdf;
+  EXPECT_EQ(QFileInfo(first).path(), QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+  // A tab stop, and the sign that the editor shows.
+  EXPECT_EQ(Printed("Příliš žluťoučký kůň\r\núpěl ďábelské ódy\r\n\r\na\tb <P>\x01"_w),
+            QStringLiteral("Příliš žluťoučký kůň\núpěl ďábelské ódy\n\na       b <P>SOH\n\f"));
+  EXPECT_NE(first, pdf);
+  std::string text;
+  for (int i = 0; i < 2000; ++i) text += "word" + std::to_string(i) + (i % 7 == 0 ? "\r\n" : " ");
+  const QString small = Printed(text);
+  EXPECT_GT(small.count(u'\f'), 3);
+  EXPECT_EQ(small.simplified(), QString::fromStdString(text).simplified());
+  look.font_size = 24;
+  look.bold = true;
+  EXPECT_GT(Printed(text).count(u'\f'), small.count(u'\f') * 3 / 2);
+  EXPECT_TRUE(Ask("pdffonts", {pdf}).contains(QLatin1String("Bold")));
+}
+
+TEST(NewPdfPath, NeverTakesAFileThatIsThere) {
+  const TempFolder folder;
+  for (const char* expected : {"a.pdf", "a (2).pdf", "a (3).pdf"}) {
+    const QString path = NewPdfPath(Utf8ToQString(folder.Path()), QStringLiteral("a"));
+    EXPECT_EQ(Utf8FromQString(path), folder.File(expected));
+    folder.Put(expected, "");
+  }
 }
 
 }  // namespace
