@@ -3,8 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include <QAbstractButton>
 #include <QAbstractItemView>
+#include <QAbstractButton>
 #include <QAbstractSlider>
 #include <QComboBox>
 #include <QLabel>

@@ -208,7 +208,7 @@ const std::string kNewContent(9'000, 'n');
 struct CutOff {
   const Way& way;
   OpenFolder folder, keep;
-  std::string path = folder.File("file");
+  std::string path = folder.File("file"), before, after = "file=" + kNewContent + " ";
 
   explicit CutOff(const Way& its_way) : way(its_way) {
     no_unnamed_files = way.no_unnamed;
@@ -217,17 +217,17 @@ struct CutOff {
     folder.Put("file", kOldContent);
     SetExtended(path, kNote, "x");
     if (way.hard_link) fs::create_hard_link(path, folder.File("link"));
+    if (way.hard_link) after += "link=" + kNewContent + " ";
+    before = folder.Holds();
   }
   ~CutOff() { no_unnamed_files = false; }
   [[nodiscard]] WriteOutcome Save() const {
     return Write(path, kNewContent, way.by_pieces ? How::kKeepTail : How::kSave, keep);
   }
-  [[nodiscard]] bool IsOld() const { return Content(path) == (way.is_new ? "<missing>" : kOldContent); }
-  [[nodiscard]] bool IsNew() const { return Content(path) == kNewContent; }
-  // Nothing lies beside it.
-  [[nodiscard]] bool IsClean() const {
-    const auto names = std::distance(fs::directory_iterator(folder.Path()), {});
-    return names == (way.hard_link ? 2 : fs::exists(path) ? 1 : 0);
+  // What the folder holds, but for what a save that was cut off has left beside the file.
+  [[nodiscard]] std::string Left() const {
+    const std::string all = folder.Holds();
+    return all.substr(std::min(all.find("file="), all.size()));
   }
 };
 
@@ -256,8 +256,8 @@ TEST(ReplaceFile, AFailureAtAnyCallLosesNothing) {
       EXPECT_TRUE(!done || outcome.error == 0) << outcome.error;
       EXPECT_TRUE(outcome.kept.empty() || (Content(outcome.kept) == kOldContent && outcome.error != 0));
       EXPECT_TRUE(outcome.kept.empty() || file.way.hard_link || error == EACCES);
-      EXPECT_TRUE(outcome.error == 0 ? file.IsNew() : file.IsOld() || !outcome.kept.empty());
-      EXPECT_TRUE(all_behind || file.IsClean());
+      const std::string left = all_behind ? file.Left() : file.folder.Holds();
+      EXPECT_TRUE(outcome.error == 0 ? left == file.after : left == file.before || !outcome.kept.empty());
       return done;
     });
   }
@@ -290,9 +290,9 @@ TEST(ReplaceFile, AKillAtAnyCallLosesNothingAndTheNextSaveClearsUp) {
     });
     const bool kept = file.keep.Holds().find("=" + kOldContent + " ") != std::string::npos;
     EXPECT_TRUE(end == 0 || end == -SIGKILL) << end;
-    EXPECT_TRUE(file.IsOld() || file.IsNew() || (file.way.hard_link && kept));
+    EXPECT_TRUE(file.Left() == file.before || file.Left() == file.after || (file.way.hard_link && kept));
     EXPECT_EQ(EndOfChild([&] { return file.Save().error; }), 0);
-    EXPECT_TRUE(file.IsNew() && file.IsClean());
+    EXPECT_TRUE(file.folder.Holds() == file.after);
     return end == 0;
   });
 }

@@ -166,63 +166,28 @@ TEST(Clipboard, OurOwnComesBackToTheByteAndOthersTextIsReadOnceAChange) {
   EXPECT_EQ(TextFromMime(nullptr), std::nullopt);
 }
 
-// A list in which {x|y} stands for x before a file is noted and for y behind it. Long words are
-// short here.
-QByteArray InFull(QByteArray list, bool behind) {
-  const std::pair<const char*, const char*> words[] = {
-      {"<META>", R"(<metadata owner="http://freedesktop.org">)"},
-      {"</META>", "</metadata>"},
-      {"<TEXT/>", R"(<mime:mime-type type="text/plain"/>)"},
-      {"NOTES>", "bookmark:applications>"},
-      {"<NEW ", R"(<APP name="Pelmar VEX" exec="'pelmar-vex %f'" modified="NOW" )"},
-      {"<OLD ", R"(<APP name="Pelmar VEX" exec="x" modified="old" )"},
-      {"<APP", "<bookmark:application"},
-      {"TIMES", R"(added="A" modified="{B|NOW}" visited="{C|NOW}" x="y")"},
-      {"NOW", "2024-05-06T12:00:00Z"},
-  };
-  for (const auto& [word, full] : words) list.replace(word, full);
-  const QRegularExpression choice(QStringLiteral("\\{([^|]*)\\|([^}]*)\\}"));
-  return QString::fromUtf8(list).replace(choice, behind ? QStringLiteral("\\2") : QStringLiteral("\\1")).toUtf8();
-}
-
 QByteArray Add(const QByteArray& list, const char* path) {
   const QDateTime now(QDate(2024, 5, 6), QTime(14, 0), QTimeZone(7200));
   return AddBookmark(list, QString::fromUtf8(path), QStringLiteral("text/plain"), now);
 }
 
 TEST(AddBookmark, UpdatesTheEntryOfTheFileAndLeavesEverythingElseAsItIs) {
-  const QByteArray text =
-      R"(<?xml version="1.0" encoding="UTF-8"?>
-<xbel xmlns:bookmark="http://www.freedesktop.org/standards/desktop-bookmarks" )"
-      R"(xmlns:mime="http://www.freedesktop.org/standards/shared-mime-info" version="1.0">
-  <!-- a remark & more --><folder xmlns:x="urn:x" x:id="1"><title>Složka &lt;1&gt;</title></folder>
-  <bookmark href="file:///home/jan/b%26c.html" added="2020-01-01T00:00:00.123456Z" visited="2020-01-01T00:00:00Z">
-    <info><metadata owner="http://example.org"><x:note xmlns:x="urn:x">a&amp;b<![CDATA[<c>]]></x:note></metadata>
-    <META><mime:mime-type type="text/html"/><bookmark:private/><NOTES><OLD count="7"/></NOTES></META></info></bookmark>
-  <bookmark href="file:///m%c5%af/0" TIMES>
-    <info><META><TEXT/><NOTES><APP/>{<OLD count="4"/>|<NEW count="5"/>}<APP/></NOTES></META></info></bookmark>
-  <bookmark href="file:///m%c5%af/1" TIMES>
-    <info><META><NOTES>{<OLD count="many"/>|<NEW count="1"/>}</NOTES></META></info></bookmark>
-  <bookmark href="file:///m%c5%af/2" TIMES><info><META><NOTES><APP/>{|<NEW count="1"/>}</NOTES></META></info></bookmark>
-  <bookmark href="file:///m%c5%af/3" TIMES>
-    <info><META><mime:mime-type type="old"/>{|<NOTES><NEW count="1"/></NOTES>}</META></info></bookmark>
-  <bookmark href="file:///m%c5%af/4" TIMES>
-    <info><metadata owner="x"/>{|<META><TEXT/><NOTES><NEW count="1"/></NOTES></META>}</info></bookmark>{|
-  <bookmark href="file:///m%C5%AF/nov%C3%BD" added="NOW" modified="NOW" visited="NOW">)"
-      R"(<info><META><TEXT/><NOTES><NEW count="1"/></NOTES></META></info></bookmark>
-}</xbel>
-)";
-  QByteArray list = InFull(text, false);
+  const QString text = Utf8ToQString(Content(QT_TESTCASE_SOURCEDIR "/platform/qt/recently_used.txt"));
+  // {x|y} stands for x before the files are noted and for y behind it.
+  const auto version = [&](const char* which) {
+    static const QRegularExpression choice(QStringLiteral("\\{([^|]*)\\|([^}]*)\\}"));
+    return QString(text).replace(choice, QString::fromLatin1(which)).toUtf8();
+  };
+  QByteArray list = version("\\1");
   for (const char* path : {"/mů/0", "/mů/1", "/mů/2", "/mů/3", "/mů/4", "/mů/nový"}) list = Add(list, path);
-  EXPECT_EQ(list.toStdString(), InFull(text, true).toStdString());
-  // Under another prefix and behind a document type. Readable again only if the prefixes of new elements are
-  // declared.
+  EXPECT_EQ(list.toStdString(), version("\\2").toStdString());
+  // Under another prefix and behind a document type. Readable again only if the prefixes of new elements are declared.
   const QByteArray other =
       R"(<!DOCTYPE xbel><xbel xmlns:b="http://www.freedesktop.org/standards/desktop-bookmarks">
-<bookmark href="file:///a"><info><META><b:applications><b:application name="Pelmar VEX" count="1"/>)"
-      R"(</b:applications></META></info></bookmark></xbel>)";
-  EXPECT_TRUE(Add(InFull(other, false), "/a").contains(R"(<b:application name="Pelmar VEX" count="2" )"));
-  for (const QByteArray& start : {InFull(other, false), QByteArray()})
+<bookmark href="file:///a"><info><metadata owner="http://freedesktop.org"><b:applications>)"
+      R"(<b:application name="Pelmar VEX" count="1"/></b:applications></metadata></info></bookmark></xbel>)";
+  EXPECT_TRUE(Add(other, "/a").contains(R"(<b:application name="Pelmar VEX" count="2" )"));
+  for (const QByteArray& start : {other, QByteArray()})
     EXPECT_TRUE(Add(Add(start, "/b"), "/b").contains(R"(count="2")"));
 }
 
