@@ -23,26 +23,21 @@ using Widgets = std::initializer_list<QWidget*>;
 
 TEST(Message, HasTheButtonsThePictureAndTheDefaultOfItsType) {
   using Box = QMessageBox;
-  const struct {
-    MessageType type;
-    Box::StandardButtons buttons;
-    Box::Icon icon;
-    Answer enter, escape;
-  } cases[] = {
+  const std::tuple<MessageType, Box::StandardButtons, Box::Icon, Answer, Answer> cases[] = {
       {MessageType::kOk, Box::Ok, Box::NoIcon, Answer::kOk, Answer::kOk},
       {MessageType::kOkInfo, Box::Ok, Box::Information, Answer::kOk, Answer::kOk},
       {MessageType::kYesNoWarning, Box::Yes | Box::No, Box::Warning, Answer::kYes, Answer::kNone},
-      {MessageType::kYesNoStop, Box::Yes | Box::No, Box::Critical, Answer::kNo, Answer::kNone},
-  };
+      {MessageType::kYesNoStop, Box::Yes | Box::No, Box::Critical, Answer::kNo, Answer::kNone}};
   const QString text = QStringLiteral("Opravdu uložit <b>a&b</b>?\r\n\"x\""), title = QStringLiteral("Soubor");
-  for (const auto& c : cases) {
+  for (const auto& [type, buttons, icon, enter, escape] : cases) {
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+      const auto expected = std::tuple(text, title, Qt::PlainText, buttons, icon);
       InDialog<Box>([&](Box& box) {
-        EXPECT_EQ(std::tuple(box.text(), box.windowTitle(), box.textFormat()), std::tuple(text, title, Qt::PlainText));
-        EXPECT_EQ(std::pair(box.standardButtons(), box.icon()), std::pair(c.buttons, c.icon));
+        EXPECT_EQ(std::tuple(box.text(), box.windowTitle(), box.textFormat(), box.standardButtons(), box.icon()),
+                  expected);
         QTest::keyClick(&box, key);
       });
-      EXPECT_EQ(ShowMessage(c.type, text, title), key == Qt::Key_Return ? c.enter : c.escape);
+      EXPECT_EQ(ShowMessage(type, text, title), key == Qt::Key_Return ? enter : escape);
     }
   }
 }

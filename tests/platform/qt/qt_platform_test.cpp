@@ -211,8 +211,7 @@ TEST(RecentDocuments, AreAllNotedInOrderWhenTheProgramEnds) {
   for (const auto& match : entry.globalMatch(Utf8ToQString(Content(list))))
     noted += match.captured(1) + match.captured(2);
   EXPECT_EQ(noted.toStdString(), "bc2aefdhg");
-  using std::filesystem::perms;
-  EXPECT_EQ(std::filesystem::status(list).permissions(), perms::owner_read | perms::owner_write);
+  EXPECT_EQ(std::filesystem::status(list).permissions(), std::filesystem::perms{0600});
 }
 
 TEST(RecentDocuments, LeaveADamagedListAloneAndGiveUpOnOneThatStaysLocked) {
@@ -232,58 +231,53 @@ TEST(RecentDocuments, LeaveADamagedListAloneAndGiveUpOnOneThatStaysLocked) {
   EXPECT_NE(add(list).find("file:///a"), std::string::npos);
 }
 
-// What another program says of a PDF.
-QString Ask(const char* program, QStringList arguments) {
-  QProcess reader;
-  reader.start(QString::fromLatin1(program), arguments);
-  EXPECT_TRUE(reader.waitForFinished()) << program << " is missing";
-  return QString::fromUtf8(reader.readAllStandardOutput());
-}
-
 // The scripted platform with the real paper.
-struct PrinterTest : testing::Test, ScriptedPlatform {
-  WholeEditor editor{*this};
-  EditorLook look;
+struct PaperPlatform : ScriptedPlatform {
   QString pdf;
-
-  PrinterTest() {
-    SubstituteFonts();
-    look.font_name = "Courier New";
-    look.font_size = 12;
-  }
   PrintOutcome Print(const PrintFont& font, const std::string& name, const std::function<void(Paper&)>& draw) override {
     const PrintOutcome outcome = PrintOnDefault(font, Utf8ToQString(name), draw);
     pdf = Utf8ToQString(outcome.pdf);
     return outcome;
   }
-  // The words on the pages, one after the other, with a form feed behind each.
-  QString Printed(std::string_view text) {
-    editor.text.SetText(std::string(text));
-    answers = {Answer::kOk};
-    PrintDocument(editor, look);
-    EXPECT_EQ(answers.size(), 0u);
-    return Ask("pdftotext",
-               {QStringLiteral("-layout"), QStringLiteral("-enc"), QStringLiteral("UTF-8"), pdf, QStringLiteral("-")});
-  }
 };
 
-TEST_F(PrinterTest, EachTextIsANewPdfOfItsWordsInTheirLinesAndFont) {
-  EXPECT_EQ(Printed("").trimmed(), QString());
-  const QString first = pdf;
+TEST(Printer, MakesOfEachTextANewPdfOfItsWordsInTheirLinesAndFont) {
+  SubstituteFonts();
+  PaperPlatform platform;
+  WholeEditor editor{platform};
+  EditorLook look{.font_name = "Courier New", .font_size = 12};
+  // What another program says of a PDF.
+  const auto ask = [&](const char* program, const char* arguments) {
+    QProcess reader;
+    reader.start(QString::fromLatin1(program),
+                 QString::fromLatin1(arguments).split(u' ').replaceInStrings(QStringLiteral("PDF"), platform.pdf));
+    EXPECT_TRUE(reader.waitForFinished()) << program << " is missing";
+    return QString::fromUtf8(reader.readAllStandardOutput());
+  };
+  // The words on the pages, one after the other, with a form feed behind each.
+  const auto printed = [&](std::string_view text) {
+    editor.text.SetText(std::string(text));
+    platform.answers = {Answer::kOk};
+    PrintDocument(editor, look);
+    EXPECT_EQ(platform.answers.size(), 0u);
+    return ask("pdftotext", "-layout -enc UTF-8 PDF -");
+  };
+  EXPECT_EQ(printed("").trimmed(), QString());
+  const QString first = platform.pdf;
   EXPECT_EQ(QFileInfo(first).path(), QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
   // A tab stop, and the sign that the editor shows.
-  EXPECT_EQ(Printed("Příliš žluťoučký kůň\r\núpěl ďábelské ódy\r\n\r\na\tb <P>\x01"_w),
+  EXPECT_EQ(printed("Příliš žluťoučký kůň\r\núpěl ďábelské ódy\r\n\r\na\tb <P>\x01"_w),
             QStringLiteral("Příliš žluťoučký kůň\núpěl ďábelské ódy\n\na       b <P>SOH\n\f"));
-  EXPECT_NE(first, pdf);
+  EXPECT_NE(first, platform.pdf);
   std::string text;
   for (int i = 0; i < 2000; ++i) text += "word" + std::to_string(i) + (i % 7 == 0 ? "\r\n" : " ");
-  const QString small = Printed(text);
+  const QString small = printed(text);
   EXPECT_GT(small.count(u'\f'), 3);
   EXPECT_EQ(small.simplified(), QString::fromStdString(text).simplified());
   look.font_size = 24;
   look.bold = true;
-  EXPECT_GT(Printed(text).count(u'\f'), small.count(u'\f') * 3 / 2);
-  EXPECT_TRUE(Ask("pdffonts", {pdf}).contains(QLatin1String("Bold")));
+  EXPECT_GT(printed(text).count(u'\f'), small.count(u'\f') * 3 / 2);
+  EXPECT_TRUE(ask("pdffonts", "PDF").contains(QLatin1String("Bold")));
 }
 
 TEST(NewPdfPath, NeverTakesAFileThatIsThere) {
