@@ -100,8 +100,11 @@ struct FileBrowserTest : testing::Test {
   FileBrowserTest() {
     for (const char* file : {"a.txt", "b.HTM", "c.htm", "d", "sub/c.htm", "sub/inner/x", "Č/x"}) temp.Put(file, "");
     mask.setEditable(true);
+    mask.addItem(QStringLiteral("*.*"));
+    mask.setCurrentIndex(-1);
     mask.setEditText(QStringLiteral("*.*"));
     LinkFileBrowser(&place, &folders, &files, &mask);
+    EXPECT_EQ(mask.currentIndex(), 0);  // where the arrow keys go on from
     EXPECT_EQ(folders.Path() + files.Path(), QDir::currentPath() + QDir::currentPath());
     EXPECT_EQ(Shown(&folders) + Shown(&files), QString());  // neither reads a folder before it shows
     for (QListView* list : {static_cast<QListView*>(&folders), static_cast<QListView*>(&files)}) {
