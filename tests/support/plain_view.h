@@ -17,38 +17,19 @@ class PlainView : public MainView {
   int alignment = 0;
   EditorLook look;
 
-  void SetPlace(const TwipsRect& p) override {
-    place = p;
-    calls.push_back("place");
-  }
+  void SetPlace(const TwipsRect& p) override { Set(place, p, "place"); }
   TwipsRect Place() const override { return place; }
-  void SetWindowState(int s) override {
-    state = s;
-    calls.push_back("state");
-  }
+  void SetWindowState(int s) override { Set(state, s, "state"); }
   int WindowState() const override { return state; }
   void SetAlwaysOnTop(bool on_top) override { calls.push_back(on_top ? "top" : "not top"); }
   void SetEditorColors(Color fore, Color back) override {
     look.fore_color = fore;
-    look.back_color = back;
-    calls.push_back("colors");
+    Set(look.back_color, back, "colors");
   }
-  void SetEditorFont(const std::string& name) override {
-    look.font_name = name;
-    calls.push_back("font");
-  }
-  void ApplyEditorFontSize(int size) override {
-    look.font_size = size;
-    calls.push_back("size");
-  }
-  void SetEditorBold(bool bold) override {
-    look.bold = bold;
-    calls.push_back("bold");
-  }
-  void SetEditorItalic(bool italic) override {
-    look.italic = italic;
-    calls.push_back("italic");
-  }
+  void SetEditorFont(const std::string& name) override { Set(look.font_name, name, "font"); }
+  void ApplyEditorFontSize(int size) override { Set(look.font_size, size, "size"); }
+  void SetEditorBold(bool bold) override { Set(look.bold, bold, "bold"); }
+  void SetEditorItalic(bool italic) override { Set(look.italic, italic, "italic"); }
   void MarkBold(bool bold) override { calls.push_back(bold ? "bold mark" : "no bold mark"); }
   void MarkItalic(bool italic) override { calls.push_back(italic ? "italic mark" : "no italic mark"); }
   void SetAlignment(int a) override { alignment = a; }
@@ -60,6 +41,13 @@ class PlainView : public MainView {
   }
   void MoveTo(const TwipsRect& p) override { place = p; }
   EditorLook Look() const override { return look; }
+
+ private:
+  template <typename Value, typename Given>
+  void Set(Value& kept, const Given& given, const char* call) {
+    kept = given;
+    calls.emplace_back(call);
+  }
 };
 
 }  // namespace pelmar

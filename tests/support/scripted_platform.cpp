@@ -30,10 +30,10 @@ class ScriptedPaper : public Paper {
     return x + static_cast<double>(text.size());
   }
   void Put(std::size_t line, double x, std::string_view text) override {
-    platform_.calls.push_back("put " + std::to_string(line) + ' ' + std::to_string(static_cast<int>(x)) + ' ' +
-                              Quoted(text));
+    const auto left = static_cast<int>(x);
+    platform_.Note("put " + std::to_string(line) + ' ' + std::to_string(left) + ' ' + Quoted(text));
   }
-  void NewPage() override { platform_.calls.emplace_back("page"); }
+  void NewPage() override { platform_.Note("page"); }
 
  private:
   ScriptedPlatform& platform_;
@@ -41,44 +41,42 @@ class ScriptedPaper : public Paper {
 
 }  // namespace
 
-std::vector<std::string> ScriptedPlatform::TakeCalls() { return std::exchange(calls, {}); }
+const std::string& ScriptedPlatform::Note(const std::string& call) { return calls.emplace_back(call); }
 
 Answer ScriptedPlatform::Message(MessageType type, std::string_view text, std::string_view title) {
-  calls.push_back("message " + std::to_string(static_cast<int>(type)) + ' ' + Quoted(text) + ' ' + Quoted(title));
+  const std::string call =
+      Note("message " + std::to_string(static_cast<int>(type)) + ' ' + Quoted(text) + ' ' + Quoted(title));
   if (on_message) on_message();
-  const Answer answer = Take(answers, calls.back());
+  const Answer answer = Take(answers, call);
   const bool question = type != MessageType::kOk && type != MessageType::kOkInfo;
-  if (question == (answer == Answer::kOk)) throw std::logic_error("no such button: " + calls.back());
+  if (question == (answer == Answer::kOk)) throw std::logic_error("no such button: " + call);
   return answer;
 }
 
 void ScriptedPlatform::ShowAbout(std::string_view title, std::string_view text) {
-  calls.push_back("about " + Quoted(title) + ' ' + Quoted(text));
+  Note("about " + Quoted(title) + ' ' + Quoted(text));
 }
 
 std::optional<std::string> ScriptedPlatform::InputBox(std::string_view prompt, std::string_view title,
                                                       std::string_view initial) {
-  calls.push_back("input " + Quoted(prompt) + ' ' + Quoted(title) + ' ' + Quoted(initial));
-  return Take(inputs, calls.back());
+  return Take(inputs, Note("input " + Quoted(prompt) + ' ' + Quoted(title) + ' ' + Quoted(initial)));
 }
 
 std::optional<std::string> ScriptedPlatform::OpenDialog(std::string_view filter, int filter_index) {
-  calls.push_back("open " + Quoted(filter) + ' ' + std::to_string(filter_index));
-  return Take(opens, calls.back());
+  return Take(opens, Note("open " + Quoted(filter) + ' ' + std::to_string(filter_index)));
 }
 
 std::optional<std::string> ScriptedPlatform::SaveDialog(std::string_view filter, int filter_index) {
-  calls.push_back("save " + Quoted(filter) + ' ' + std::to_string(filter_index));
-  return Take(saves, calls.back());
+  return Take(saves, Note("save " + Quoted(filter) + ' ' + std::to_string(filter_index)));
 }
 
 void ScriptedPlatform::SetClipboardText(std::string_view text) {
-  calls.push_back("clipboard " + Quoted(text));
+  Note("clipboard " + Quoted(text));
   clipboard = std::string(text);
 }
 
 void ScriptedPlatform::ClearClipboard() {
-  calls.emplace_back("clipboard clear");
+  Note("clipboard clear");
   clipboard.reset();
 }
 
@@ -93,8 +91,6 @@ int ScriptedPlatform::WriteError(const std::string& path) const {
   return error == write_errors.end() ? 0 : error->second;
 }
 
-bool ScriptedPlatform::CanRead(const std::string& path) { return ReadError(path) == 0; }
-
 std::optional<FileStamp> ScriptedPlatform::Stamp(const std::string& path) {
   const auto found = files.find(path);
   if (found == files.end()) return std::nullopt;
@@ -107,7 +103,7 @@ FileBytes ScriptedPlatform::ReadFile(const std::string& path, std::optional<std:
 }
 
 WriteOutcome ScriptedPlatform::WriteDocument(const std::string& path, std::string_view bytes) {
-  calls.push_back("write " + path);
+  Note("write " + path);
   if (const int error = WriteError(path)) return {.error = error, .kept = kept_content};
   if (path.ends_with('/') || files.contains(path + '/')) return {.error = EISDIR};
   files[path] = std::string(bytes);
@@ -115,7 +111,7 @@ WriteOutcome ScriptedPlatform::WriteDocument(const std::string& path, std::strin
 }
 
 int ScriptedPlatform::WriteNewFile(const std::string& path, std::string_view bytes) {
-  calls.push_back("create " + path);
+  Note("create " + path);
   if (const int error = WriteError(path)) return error;
   return files.try_emplace(path, bytes).second ? 0 : EEXIST;
 }
@@ -130,7 +126,7 @@ int ScriptedPlatform::ReadByPieces(const std::string& path, const std::function<
 
 WriteOutcome ScriptedPlatform::RewriteFile(const std::string& source, const std::string& target, OldTail tail,
                                            FileRewriter& rewriter) {
-  calls.push_back("rewrite " + source + ' ' + target);
+  Note("rewrite " + source + ' ' + target);
   if (const int error = ReadError(source)) return {.error = error};
   std::string out;
   const std::string_view bytes = files[source];
@@ -146,23 +142,11 @@ WriteOutcome ScriptedPlatform::RewriteFile(const std::string& source, const std:
 
 PrintOutcome ScriptedPlatform::Print(const PrintFont& font, const std::string& name,
                                      const std::function<void(Paper&)>& draw) {
-  calls.push_back("print " + name + ' ' + font.name + ' ' + std::to_string(static_cast<int>(font.size)) +
-                  (font.bold ? " bold" : "") + (font.italic ? " italic" : ""));
+  Note("print " + name + ' ' + font.name + ' ' + std::to_string(static_cast<int>(font.size)) +
+       (font.bold ? " bold" : "") + (font.italic ? " italic" : ""));
   ScriptedPaper paper(*this);
   draw(paper);
   return print_outcome;
-}
-
-void ScriptedPlatform::AddToRecentDocuments(const std::string& path) { calls.push_back("recent " + path); }
-
-bool ScriptedPlatform::OpenWithDefaultProgram(const std::string& path) {
-  calls.push_back("default program " + path);
-  return opens_programs;
-}
-
-bool ScriptedPlatform::StartAnotherCopy() {
-  calls.emplace_back("start copy");
-  return opens_programs;
 }
 
 double ScriptedPlatform::Random() {
@@ -180,7 +164,7 @@ std::vector<std::size_t> ScriptedPlatform::SortedOrder(const std::vector<std::st
 }
 
 void ScriptedPlatform::SetBusyPointer(bool busy_now) {
-  calls.emplace_back(busy_now ? "busy 1" : "busy 0");
+  Note(busy_now ? "busy 1" : "busy 0");
   busy += busy_now ? 1 : -1;
 }
 

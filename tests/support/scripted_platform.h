@@ -10,6 +10,7 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/platform.h"
@@ -24,7 +25,8 @@ class ScriptedPlatform : public Platform {
   // program path`, `start copy`, `clipboard "text"`, `clipboard clear`, `busy 1`. Reading leaves no trace.
   std::vector<std::string> calls;
   // The calls so far, which are then forgotten.
-  std::vector<std::string> TakeCalls();
+  std::vector<std::string> TakeCalls() { return std::exchange(calls, {}); }
+  const std::string& Note(const std::string& call);
 
   std::deque<Answer> answers;  // to messages; an OK box takes only kOk, a question only kYes and kNo
   std::deque<std::optional<std::string>> inputs, opens, saves;
@@ -57,7 +59,7 @@ class ScriptedPlatform : public Platform {
   std::uint64_t ClipboardRevision() override { return 1 + std::hash<std::optional<std::string>>()(clipboard) / 2; }
   void SetClipboardText(std::string_view text) override;
   void ClearClipboard() override;
-  bool CanRead(const std::string& path) override;
+  bool CanRead(const std::string& path) override { return ReadError(path) == 0; }
   FileBytes ReadFile(const std::string& path, std::optional<std::uint64_t> limit) override;
   WriteOutcome WriteDocument(const std::string& path, std::string_view bytes) override;
   int WritePrivateFile(const std::string& path, std::string_view bytes) override {
@@ -75,9 +77,11 @@ class ScriptedPlatform : public Platform {
   std::string ShareFolder() override { return share_folder; }
   std::string TempFolder() override { return temp_folder; }
   PrintOutcome Print(const PrintFont& font, const std::string& name, const std::function<void(Paper&)>& draw) override;
-  void AddToRecentDocuments(const std::string& path) override;
-  bool OpenWithDefaultProgram(const std::string& path) override;
-  bool StartAnotherCopy() override;
+  void AddToRecentDocuments(const std::string& path) override { Note("recent " + path); }
+  bool OpenWithDefaultProgram(const std::string& path) override {
+    return Note("default program " + path), opens_programs;
+  }
+  bool StartAnotherCopy() override { return Note("start copy"), opens_programs; }
   LocalTime Now() override { return now; }
   KeyStates Keys() override { return keys; }
   double Random() override;

@@ -12,16 +12,12 @@ namespace {
 
 constexpr int kUnnamed = 020000000;  // the system's flag for them
 
-thread_local int calls, fatal, error_number;
-thread_local bool counts, all, no_unnamed;
-
 // True where this call is to fail; errno is set then.
 bool Fails() {
-  if (!counts) return false;
-  ++calls;
-  if (fatal == 0 || (all ? calls < fatal : calls != fatal)) return false;
-  if (error_number == 0) std::raise(SIGKILL);
-  errno = error_number;
+  if (!failing.counts || ++failing.made < failing.number || failing.number == 0) return false;
+  if (failing.made > failing.number && !failing.all_behind) return false;
+  if (failing.error == 0) std::raise(SIGKILL);
+  errno = failing.error;
   return true;
 }
 
@@ -36,69 +32,50 @@ Result Pass(const char* name, Arguments... arguments) {
 }
 
 }  // namespace
-
-void FailCall(int number, int error, bool all_behind) {
-  calls = 0;
-  fatal = number;
-  error_number = error;
-  all = all_behind;
-  counts = true;
-}
-
-void RefuseUnnamedFiles(bool refuse) { no_unnamed = refuse; }
-
-int CallsMade() { return calls; }
-
 }  // namespace pelmar
+
+using pelmar::Pass;
 
 // These stand before the C library's own. Its headers, with other promises about exceptions, stay out.
 extern "C" {
 int open(const char* path, int flags, ...) {
-  if (pelmar::no_unnamed && (flags & pelmar::kUnnamed) == pelmar::kUnnamed) {
-    errno = EOPNOTSUPP;
-    return -1;
-  }
+  if (pelmar::no_unnamed_files && (flags & pelmar::kUnnamed) == pelmar::kUnnamed) return errno = EOPNOTSUPP, -1;
   va_list rest;
   va_start(rest, flags);
   const mode_t mode = va_arg(rest, mode_t);
   va_end(rest);
-  return pelmar::Pass<int>("open", path, flags, mode);
+  return Pass<int>("open", path, flags, mode);
 }
-ssize_t read(int file, void* bytes, size_t size) { return pelmar::Pass<ssize_t>("read", file, bytes, size); }
 // One that fails has written a half, as on a disk that fills up.
 ssize_t write(int file, const void* bytes, size_t size) {
   const bool fails = pelmar::Fails();
   const int error = errno;
   const ssize_t written = pelmar::Real<ssize_t>("write", file, bytes, fails ? size / 2 : size);
-  if (!fails) return written;
-  errno = error;
-  return -1;
+  return fails ? (errno = error, -1) : written;
 }
-off_t lseek(int file, off_t at, int from) { return pelmar::Pass<off_t>("lseek", file, at, from); }
-int ftruncate(int file, off_t size) { return pelmar::Pass<int>("ftruncate", file, size); }
-int fallocate(int file, int mode, off_t at, off_t size) { return pelmar::Pass<int>("fallocate", file, mode, at, size); }
 // A save that is cut off by an error or a kill doesn't need the disk, and hundreds of them would wait for it.
-int fsync(int file) {
-  if (pelmar::counts) return pelmar::Fails() ? -1 : 0;
-  return pelmar::Pass<int>("fsync", file);
-}
-int fchmod(int file, mode_t mode) { return pelmar::Pass<int>("fchmod", file, mode); }
-int fchown(int file, uid_t user, gid_t group) { return pelmar::Pass<int>("fchown", file, user, group); }
+int fsync(int file) { return pelmar::failing.counts ? -int{pelmar::Fails()} : Pass<int>("fsync", file); }
+ssize_t read(int file, void* bytes, size_t size) { return Pass<ssize_t>("read", file, bytes, size); }
+off_t lseek(int file, off_t at, int from) { return Pass<off_t>("lseek", file, at, from); }
+int ftruncate(int file, off_t size) { return Pass<int>("ftruncate", file, size); }
+int fallocate(int file, int mode, off_t at, off_t size) { return Pass<int>("fallocate", file, mode, at, size); }
+int fchmod(int file, mode_t mode) { return Pass<int>("fchmod", file, mode); }
+int fchown(int file, uid_t user, gid_t group) { return Pass<int>("fchown", file, user, group); }
 int fsetxattr(int file, const char* name, const void* bytes, size_t size, int flags) {
-  return pelmar::Pass<int>("fsetxattr", file, name, bytes, size, flags);
+  return Pass<int>("fsetxattr", file, name, bytes, size, flags);
 }
 ssize_t llistxattr(const char* path, char* names, size_t size) {
-  return pelmar::Pass<ssize_t>("llistxattr", path, names, size);
+  return Pass<ssize_t>("llistxattr", path, names, size);
 }
 ssize_t lgetxattr(const char* path, const char* name, void* bytes, size_t size) {
-  return pelmar::Pass<ssize_t>("lgetxattr", path, name, bytes, size);
+  return Pass<ssize_t>("lgetxattr", path, name, bytes, size);
 }
-int fremovexattr(int file, const char* name) { return pelmar::Pass<int>("fremovexattr", file, name); }
-int flock(int file, int what) { return pelmar::Pass<int>("flock", file, what); }
+int fremovexattr(int file, const char* name) { return Pass<int>("fremovexattr", file, name); }
+int flock(int file, int what) { return Pass<int>("flock", file, what); }
 int linkat(int folder, const char* path, int to_folder, const char* to, int flags) {
-  return pelmar::Pass<int>("linkat", folder, path, to_folder, to, flags);
+  return Pass<int>("linkat", folder, path, to_folder, to, flags);
 }
-int rename(const char* from, const char* to) { return pelmar::Pass<int>("rename", from, to); }
-int unlink(const char* path) { return pelmar::Pass<int>("unlink", path); }
-int mkostemps(char* name, int rest, int flags) { return pelmar::Pass<int>("mkostemps", name, rest, flags); }
+int rename(const char* from, const char* to) { return Pass<int>("rename", from, to); }
+int unlink(const char* path) { return Pass<int>("unlink", path); }
+int mkostemps(char* name, int rest, int flags) { return Pass<int>("mkostemps", name, rest, flags); }
 }

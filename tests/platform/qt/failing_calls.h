@@ -1,17 +1,19 @@
 // The system calls of the file code, as this test program makes them, can be counted and made to fail or to kill: for
-// tests that go through every point where a save can be cut off. Only calls of the thread that set it count.
+// tests that go through every point where a save can be cut off. Holds for the thread that sets it.
 #pragma once
 
 namespace pelmar {
 
-// The `number`th call (from 1) and, where `all_behind`, every later one fails with `error`, or with 0 kills the
-// process. `number` 0 lets all pass.
-void FailCall(int number, int error, bool all_behind = false);
+struct FailingCalls {
+  int number = 0;           // the call, from 1, that fails; 0 for none
+  int error = 0;            // 0 kills the process
+  bool all_behind = false;  // every later one fails too
+  bool counts = true;
+  int made = 0;
+};
+inline thread_local FailingCalls failing{.counts = false};
 
 // Opens of files without a name fail, as on file systems that haven't any.
-void RefuseUnnamedFiles(bool refuse);
-
-// How many calls there were since.
-int CallsMade();
+inline thread_local bool no_unnamed_files = false;
 
 }  // namespace pelmar

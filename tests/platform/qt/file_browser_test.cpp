@@ -1,260 +1,224 @@
 #include "platform/qt/controls/file_browser.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
-#include <QComboBox>
-#include <QDir>
-#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
+#include <QtWidgets>
 #include <filesystem>
 
 #include "platform/qt/controls/drive_list.h"
 #include "platform/qt/controls/file_list.h"
 #include "platform/qt/controls/folder_list.h"
 #include "platform/qt/convert.h"
+#include "platform/qt/folder_entries.h"
+#include "support/random_source.h"
+#include "support/steps.h"
 #include "support/temp_folder.h"
 
 namespace pelmar {
 namespace {
 
-QStringList NamesIn(const QAbstractItemView& list) {
-  QStringList names;
-  for (int row = 0; row < list.model()->rowCount(); ++row) names.append(list.model()->index(row, 0).data().toString());
-  return names;
+// Tries every way to share the name out to the stars.
+bool SlowlyMatches(std::string_view mask, std::string_view name) {
+  if (mask.empty()) return name.empty();
+  if (mask[0] == '*')
+    return SlowlyMatches(mask.substr(1), name) || (!name.empty() && SlowlyMatches(mask, name.substr(1)));
+  return !name.empty() && (mask[0] == '?' || mask[0] == name[0]) && SlowlyMatches(mask.substr(1), name.substr(1));
 }
 
-std::string RowsOf(const QAbstractItemView& list) { return NamesIn(list).join(u' ').toStdString(); }
-
-void Click(QAbstractItemView& list, const QString& name, bool twice = false) {
-  const int row = static_cast<int>(NamesIn(list).indexOf(name));
-  ASSERT_GE(row, 0) << name.toStdString();
-  const QPoint at = list.visualRect(list.model()->index(row, 0)).center();
-  QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, at);
-  if (twice) QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, at);
-}
-
-template <typename List>
-struct ListTest : testing::Test {
-  explicit ListTest(std::initializer_list<const char*> files) {
-    for (const char* file : files) temp.Put(file, "");
-    list.resize(300, 400);
-    list.show();
-    list.setProperty("Path", base);
+TEST(Mask, MatchesAsEveryWayToShareTheNameOut) {
+  RandomSource random(1);
+  for (int round = 0; round < 3000; ++round) {
+    const std::string mask = random.Text(6, "ab.*?[") + "a", name = random.Text(8, "ab.[");
+    ASSERT_EQ(MatchesMask(QString::fromStdString(name), SplitMask(QString::fromStdString(mask))),
+              SlowlyMatches(mask, name))
+        << mask << ' ' << name;
   }
-  [[nodiscard]] QString In(const char* name) const { return base + QString::fromUtf8(name); }
-
-  TempFolder temp;
-  QString base = Utf8ToQString(temp.Path());
-  List list;
-};
-
-struct FolderListTest : ListTest<FolderList> {
-  FolderListTest() : ListTest({"b/inner/x", "Č/x", "file"}) { changes.clear(); }
-  [[nodiscard]] std::string Subfolders() const {
-    return NamesIn(list).mid(list.Path().count(u'/') + 1).join(u' ').toStdString();
-  }
-  QSignalSpy changes{&list, &FolderList::PathChanged};
-};
-
-TEST_F(FolderListTest, ShowsTheWayAndTheSubfoldersAndTellsAPathOnlyWhenItChanges) {
-  EXPECT_EQ(NamesIn(list).first(), QStringLiteral("/"));
-  EXPECT_EQ(NamesIn(list).mid(1, base.count(u'/')).join(u'/'), base.mid(1));
-  EXPECT_EQ(Subfolders(), "b Č");
-  for (const QString& path : {base, In("/"), In("/b/.."), QString(), In("/file"), In("/missing")}) list.SetPath(path);
-  EXPECT_EQ(list.property("Path").toString(), base);
-  EXPECT_EQ(list.HighlightedPath(), base);
-  EXPECT_EQ(changes.size(), 0);
-  list.SetPath(In("/b/"));
-  EXPECT_EQ(list.Path(), In("/b"));
-  EXPECT_EQ(changes.value(0).value(0).toString(), In("/b"));
-  list.SetPath(QStringLiteral("/"));
-  EXPECT_EQ(NamesIn(list).count(QStringLiteral("/")), 1);
 }
 
-TEST_F(FolderListTest, AClickHighlightsADoubleClickOrEnterMoves) {
-  QSignalSpy keys(&list, &FolderList::KeyReleased);
-  Click(list, QStringLiteral("Č"));
-  QTest::keyClick(&list, Qt::Key_Up);
-  EXPECT_EQ(list.HighlightedPath(), In("/b"));
-  EXPECT_EQ(list.Path(), base);
-  EXPECT_EQ(changes.size(), 0);
-  QTest::keyClick(&list, Qt::Key_Return);
-  EXPECT_EQ(list.Path(), In("/b"));
-  EXPECT_EQ(Subfolders(), "inner");
-  EXPECT_EQ(keys.value(0).value(0).toInt(), Qt::Key_Up);
-  EXPECT_EQ(keys.value(1).value(0).toInt(), Qt::Key_Return);
-  Click(list, QFileInfo(base).fileName(), true);
-  EXPECT_EQ(list.Path(), base);
-  EXPECT_EQ(changes.size(), 2);
-
-  // The highlight comes back from a folder that can't be entered.
-  Click(list, QStringLiteral("Č"));
-  std::filesystem::remove_all(temp.File("Č"));
-  QTest::keyClick(&list, Qt::Key_Return);
-  EXPECT_EQ(list.HighlightedPath(), base);
-  EXPECT_EQ(changes.size(), 2);
-}
-
-TEST_F(FolderListTest, SeesWhatChangedWhileHidden) {
-  list.SetPath(In("/b/inner"));
-  list.hide();
-  std::filesystem::remove_all(temp.File("b"));
-  temp.Put("new/x", "");
-  changes.clear();
-  list.show();
-  EXPECT_EQ(list.Path(), base);
-  EXPECT_EQ(changes.size(), 1);
-  EXPECT_EQ(Subfolders(), "Č new");
-}
-
-struct FileListTest : ListTest<FileList> {
-  FileListTest() : ListTest({"a.txt", "b.HTM", "c.htm", "d", "sub/c.htm"}) {}
-  [[nodiscard]] std::string Chosen() const { return list.FileName().toStdString(); }
-  void Shows(const char* names) const {
-    EXPECT_TRUE(QTest::qWaitFor([&] { return RowsOf(list) == names; }, 5000)) << RowsOf(list);
-  }
-  QSignalSpy clicks{&list, &FileList::FileClicked};
-};
-
-TEST_F(FileListTest, ShowsTheFilesOfTheMaskAndTheProgramsChoiceRaisesNoClick) {
-  QSignalSpy paths(&list, &FileList::PathChanged), patterns(&list, &FileList::PatternChanged);
-  EXPECT_EQ(RowsOf(list), "a.txt b.HTM c.htm d");
-  list.setProperty("FileName", QStringLiteral("c.htm"));
-  list.setProperty("Pattern", QStringLiteral("*.htm"));
-  list.SetPath(base);
-  EXPECT_EQ(RowsOf(list), "b.HTM c.htm");
-  EXPECT_EQ(Chosen(), "c.htm");  // still in the list
-  list.SetPattern(QStringLiteral("*.txt"));
-  EXPECT_EQ(Chosen(), "");
-  list.SetFileName(QStringLiteral("a.txt"));
-  list.SetFileName(QStringLiteral("missing"));
-  EXPECT_EQ(Chosen(), "");
-  list.SetPattern(QStringLiteral("*.*"));
-  list.SetFileName(QStringLiteral("c.htm"));
-  list.SetPath(In("/sub"));
-  list.SetPath(In("/missing"));
-  EXPECT_EQ(list.Path(), In("/sub"));
-  EXPECT_EQ(RowsOf(list), "c.htm");
-  EXPECT_EQ(Chosen(), "");  // another file of the same name
-  EXPECT_EQ(clicks.size(), 0);
-  EXPECT_EQ(paths.size(), 1);
-  EXPECT_EQ(patterns.size(), 3);
-}
-
-TEST_F(FileListTest, FollowsTheFolderWhileItIsOnShow) {
-  QSignalSpy gone(&list, &FileList::FileGone);
-  list.SetFileName(QStringLiteral("c.htm"));
-  temp.Put("aa.txt", "");
-  std::filesystem::remove(temp.File("b.HTM"));
-  Shows("a.txt aa.txt c.htm d");
-  EXPECT_EQ(Chosen(), "c.htm");
-  EXPECT_EQ(gone.size(), 0);
-  std::filesystem::remove(temp.File("c.htm"));
-  Shows("a.txt aa.txt d");
-  EXPECT_EQ(Chosen(), "");
-  EXPECT_EQ(gone.size(), 1);
-  list.hide();
-  std::filesystem::remove(temp.File("a.txt"));
-  list.show();  // what changed meanwhile
-  EXPECT_EQ(RowsOf(list), "aa.txt d");
-  list.SetPath(In("/sub"));
-  temp.Put("sub/e.htm", "");
-  Shows("c.htm e.htm");
-
-  for (int i = 100; i < 300; ++i) temp.Put("many/f" + std::to_string(i), "");
-  list.SetPath(In("/many"));
-  list.SetFileName(QStringLiteral("f100"));
-  list.scrollTo(list.model()->index(150, 0));
-  const int scrolled = list.verticalScrollBar()->value();
-  temp.Put("many/zz", "");
-  EXPECT_TRUE(QTest::qWaitFor([&] { return NamesIn(list).last() == QLatin1String("zz"); }, 5000));
-  EXPECT_EQ(list.verticalScrollBar()->value(), scrolled);  // stays there
-  EXPECT_EQ(Chosen(), "f100");
-  EXPECT_EQ(clicks.size(), 0);
-}
-
-TEST_F(FileListTest, ThePersonsChoiceIsOneClickEachAndDoubleClickOrEnterActivate) {
-  int activated = 0;
-  const auto listening = QObject::connect(&list, &FileList::FileActivated, [&] { ++activated; });
-  QApplication::setActiveWindow(&list);
-  list.setFocus();
-  QTest::keyClick(&list, Qt::Key_Return);
-  EXPECT_EQ(Chosen(), "");  // coming into focus chooses nothing
-  EXPECT_EQ(activated, 0);
-  QTest::keyClick(&list, Qt::Key_Down);
-  EXPECT_EQ(Chosen(), "a.txt");
-  QTest::keyClick(&list, Qt::Key_Down);
-  EXPECT_EQ(Chosen(), "b.HTM");
-  EXPECT_EQ(clicks.size(), 2);
-  Click(list, QStringLiteral("c.htm"));
-  Click(list, QStringLiteral("c.htm"));
-  EXPECT_EQ(Chosen(), "c.htm");
-  EXPECT_EQ(clicks.size(), 4);
-  QTest::keyClick(&list, Qt::Key_Shift);
-  QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, QPoint(50, 390));  // below the last row
-  EXPECT_EQ(clicks.size(), 4);
-  EXPECT_EQ(activated, 0);
-
-  Click(list, QStringLiteral("d"), true);
-  EXPECT_EQ(clicks.size(), 5);
-  QTest::keyClick(&list, Qt::Key_Enter);
-  EXPECT_EQ(activated, 2);
-  QObject::disconnect(listening);
-  QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
-  QApplication::sendEvent(&list, &enter);
-  EXPECT_FALSE(enter.isAccepted());  // for the dialog's button
-}
-
-TEST(DriveList, FollowsAPathSilentlyAndTellsAChoice) {
-  DriveList drives;
-  QSignalSpy changes(&drives, &DriveList::DriveChanged);
-  drives.setProperty("Drive", QDir::homePath() + QStringLiteral("/some/where"));
-  EXPECT_EQ(drives.property("Drive").toString(), QDir::homePath());
-  drives.SetDrive(QStringLiteral("/et"));
-  drives.SetDrive(QString());
-  EXPECT_EQ(drives.Drive(), QStringLiteral("/"));
-  drives.show();
-  drives.showPopup();
-  drives.hidePopup();
-  EXPECT_EQ(drives.Drive(), QStringLiteral("/"));
-  EXPECT_EQ(changes.size(), 0);
-  QTest::keyClick(&drives, Qt::Key_Home);
-  EXPECT_EQ(changes.value(0).value(0).toString(), QDir::homePath());
-}
-
-TEST(FileBrowser, PlaceLeadsFoldersLeadFilesUnderTheMask) {
+TEST(FolderEntries, AreSortedInCzechAndTakenByKindAndMask) {
   const TempFolder temp;
-  for (const char* name : {"inner/one.gif", "inner/two.txt", "a.gif"}) temp.Put(name, "");
-  const QString base = Utf8ToQString(temp.Path());
+  for (const char* name : {"čaj.txt", "Cesta.TXT", "chata.txt", "had.txt", "a.htm", "A.htm", ".skrytý.txt", "README",
+                           "Žlutá/x", "zelená/.git/y.txt", "zelená/.git/objects/z", ".config/x", "b.Čárka"})
+    temp.Put(name, "");
+  std::filesystem::create_symlink("Žlutá", temp.File("link.txt"));
+  std::filesystem::create_symlink("had.txt", temp.File("linked.txt"));
+  std::filesystem::create_symlink("nothing", temp.File("broken.txt"));
+  mkfifo(temp.File("pipe.txt").c_str(), 0600);
+  const std::string all = "A.htm a.htm b.Čárka Cesta.TXT čaj.txt had.txt chata.txt linked.txt README";
+  const QString path = Utf8ToQString(temp.Path());
+  const auto files = [&](const char* mask) { return FilesOf(path, QString::fromUtf8(mask)).join(u' ').toStdString(); };
+  EXPECT_EQ(files("*.txt"), "Cesta.TXT čaj.txt had.txt chata.txt linked.txt");
+  EXPECT_EQ(files(" *.HTM ; *.č*"), "A.htm a.htm b.Čárka");
+  EXPECT_EQ(files(".*") + files("readme"), ".skrytý.txtREADME");
+  for (const char* mask : {"*.*", "", ";"}) EXPECT_EQ(files(mask), all);
+  QStringList folders;
+  for (const char* below : {"", "/zelená", "/zelená/.git", "/missing", "/had.txt"})
+    folders += SubfoldersOf(path + QString::fromUtf8(below));
+  EXPECT_EQ(folders.join(u' ').toStdString(), "link.txt zelená Žlutá objects");
+  for (const char* name : {"/had.txt", "/missing"}) EXPECT_FALSE(IsReadableFolder(path + QLatin1String(name)));
+}
+
+TEST(FolderEntries, KeepTheBytesOfNamesThatAreNoUtf8) {
+  const TempFolder temp;
+  temp.Put("d\xE9/k\xF9\xF2.txt", "");
+  temp.Put("d\xE9/ku\xED\xB2\x8D😀.txt", "");
+  const QString folder = PathToQString(temp.File("d\xE9"));
+  EXPECT_TRUE(IsReadableFolder(folder) && CleanFolder(folder + QStringLiteral("/x/../")) == folder);
+  const QStringList names = FilesOf(folder, QStringLiteral("k?*.txt"));
+  EXPECT_EQ(PathFromQString(names.join(u'|')), "ku\xED\xB2\x8D😀.txt|k\xF9\xF2.txt");
+  EXPECT_EQ(ShownPath(names.last()), QStringLiteral("kůň.txt"));
+  EXPECT_EQ(Utf8ToQString("Žába k\xF9\xF2.txt"), QStringLiteral("Žába kůň.txt"));
+  EXPECT_EQ(FilesOf(folder, QStringLiteral("*ůň*")).size(), 1);  // a mask is what a person sees
+  for (const char* path : {"/k\xF9\xF2 %#?.txt", "/kůň %#?.txt"}) EXPECT_EQ(PathOfUrl(UrlOfPath(path)), path);
+  EXPECT_EQ(UrlOfPath("/k\xF9 %.txt").toEncoded().toStdString(), "file:///k%F9%20%25.txt");
+}
+
+TEST(MountedPlaces, AreHomeRootAndTheUsualPlacesForDisksWhichHoldPaths) {
+  const TempFolder temp;
+  const std::string mounts =
+      temp.Put("mounts",
+               "/dev/a / ext4 rw 0 0\nproc /proc proc rw 0 0\n/dev/b /media/jan/USB\\040disk vfat rw 0 0\n"
+               "/dev/c /home ext4 rw 0 0\n/dev/d /mnt ext4 rw 0 0\n/dev/d /mnt ext4 rw 0 0\n"
+               "/dev/e /mnt2 ext4 rw 0 0\n/dev/f /run/media/jan/A vfat rw 0 0\nbroken\n");
+  const QStringList places = MountedPlaces(QStringLiteral("/home/jan"), Utf8ToQString(mounts));
+  EXPECT_EQ(places.join(u'|').toStdString(), "/home/jan|/|/media/jan/USB disk|/mnt|/run/media/jan/A");
+  EXPECT_EQ(MountedPlaces(QStringLiteral("/"), Utf8ToQString(temp.File("none"))), QStringList(QStringLiteral("/")));
+  // The deepest that holds it.
+  const std::pair<const char*, const char*> cases[] = {
+      {"/home/jan", "/home/jan"}, {"/home/jan/x/", "/home/jan"},
+      {"/home/janek", "/"},       {"/run/media/jan/A/b", "/run/media/jan/A"},
+      {"/mnt/../etc", "/"},       {"/mnt/a", "/mnt"},
+      {"relative", ""},           {"", ""}};
+  for (const auto& [path, place] : cases) EXPECT_EQ(PlaceOf(QLatin1String(path), places).toStdString(), place) << path;
+}
+
+// Folders "d" and files "f" of a temporary folder, which is called "." here.
+struct FileBrowserTest : testing::Test {
+  FileBrowserTest() {
+    for (const char* file : {"a.txt", "b.HTM", "c.htm", "d", "sub/c.htm", "sub/inner/x", "Č/x"}) temp.Put(file, "");
+    mask.setEditable(true);
+    mask.addItem(QStringLiteral("*.*"));
+    mask.setCurrentIndex(-1);
+    mask.setEditText(QStringLiteral("*.*"));
+    LinkFileBrowser(&place, &folders, &files, &mask);
+    EXPECT_EQ(mask.currentIndex(), 0);  // where the arrow keys go on from
+    EXPECT_EQ(folders.Path() + files.Path(), QDir::currentPath() + QDir::currentPath());
+    EXPECT_EQ(Shown(&folders) + Shown(&files), QString());  // neither reads a folder before it shows
+    for (QListView* list : {static_cast<QListView*>(&folders), static_cast<QListView*>(&files)}) {
+      list->resize(300, 400);
+      list->show();
+    }
+    folders.SetPath(base);
+    QObject::connect(&folders, &FolderList::PathChanged, [this](const QString& path) { Tell("d=", path); });
+    QObject::connect(&files, &FileList::PathChanged, [this](const QString& path) { Tell("f=", path); });
+    QObject::connect(&files, &FileList::PatternChanged, [this](const QString& to) { Tell("mask=", to); });
+    QObject::connect(&files, &FileList::FileClicked, [this] { Tell("click "); });
+    QObject::connect(&files, &FileList::FileActivated, [this] { Tell("act "); });
+    QObject::connect(&files, &FileList::FileGone, [this] { Tell("gone "); });
+  }
+
+  void Tell(const char* what, QString value = {}) {
+    told += QLatin1String(" ") + QLatin1String(what) + value.replace(base, QStringLiteral("."));
+  }
+  // Words: "d@x" clicks a row, "d!x" twice, "d+Down" is a key; "d=./sub" sets a path, "file=x" the chosen file,
+  // "mask=x" the mask; "put=x" and "rm=x" make and remove files; "hide=" and "show=" do it to both lists.
+  void Do(const char* steps) {
+    for (const QString& step : QString::fromUtf8(steps).split(u' ', Qt::SkipEmptyParts)) {
+      QAbstractItemView* list = step[0] == u'd' ? static_cast<QAbstractItemView*>(&folders) : &files;
+      const QString what = step.left(step.indexOf(u'=')), value = step.mid(what.size() + 1), key = step.mid(2);
+      const std::string path = temp.File(Utf8FromQString(value));
+      if (step[1] == u'+') {
+        QTest::keySequence(list, QKeySequence(key));
+      } else if (step[1] == u'@' || step[1] == u'!') {
+        const QString row = key == QStringLiteral(".") ? QFileInfo(base).fileName() : key;
+        const QModelIndexList found = list->model()->match(list->model()->index(0, 0), Qt::DisplayRole, row);
+        ASSERT_EQ(found.size(), 1) << steps;
+        const QPoint at = list->visualRect(found.first()).center();
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, at);
+        if (step[1] == u'!') QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, at);
+      } else if (what == QStringLiteral("file")) {
+        files.setProperty("FileName", value);
+      } else if (what == QStringLiteral("mask")) {
+        mask.setEditText(value);
+      } else if (what == QStringLiteral("put")) {
+        temp.Put(Utf8FromQString(value), "");
+      } else if (what == QStringLiteral("rm")) {
+        std::filesystem::remove_all(path);
+      } else if (what == QStringLiteral("hide") || what == QStringLiteral("show")) {
+        folders.setVisible(what == QStringLiteral("show"));
+        files.setVisible(what == QStringLiteral("show"));
+      } else {
+        list->setProperty("Path", value.startsWith(u'.') ? base + value.mid(1) : value);
+      }
+    }
+  }
+  // The rows from "." on, with ">" before the chosen ones, and what was told.
+  [[nodiscard]] std::string State() const {
+    QStringList rows = Shown(&folders).split(u'|').mid(base.count(u'/'));
+    if (!rows.isEmpty()) rows[0] = QLatin1String(rows[0].startsWith(u'>') ? ">." : ".");
+    return (rows.join(u' ') + u'/' + Shown(&files).replace(u'|', u' ') + u'/' + told.simplified()).toStdString();
+  }
+  TempFolder temp;
+  QString base = Utf8ToQString(temp.Path()), told;
   DriveList place;
   FolderList folders;
   FileList files;
   QComboBox mask;
-  mask.setEditable(true);
-  mask.setEditText(QStringLiteral("*.GIF"));
-  LinkFileBrowser(&place, &folders, &files, &mask);
-  EXPECT_EQ(folders.Path(), QDir::currentPath());
-  EXPECT_EQ(files.Path(), QDir::currentPath());
-  EXPECT_EQ(RowsOf(files) + RowsOf(folders), "");  // neither reads a folder before it shows
-  folders.show();
-  files.show();
+};
 
-  folders.SetPath(base);
-  EXPECT_EQ(RowsOf(files), "a.gif");
-  Click(folders, QStringLiteral("inner"));
-  QTest::keyRelease(&folders, Qt::Key_Down);  // shows the files without moving
-  EXPECT_EQ(RowsOf(files), "one.gif");
+TEST_F(FileBrowserTest, FoldersLeadFilesAndBothFollowThePersonTheProgramAndTheDisk) {
+  EXPECT_TRUE(Shown(&folders).startsWith(QStringLiteral("/|") + base.mid(1).replace(u'/', u'|').section(u'|', 0, -2)));
+  QApplication::setActiveWindow(&files);
+  files.setFocus();
+  for (const std::string& line : KeptLines(QT_TESTCASE_SOURCEDIR "/platform/qt/file_browser.txt")) {
+    const std::size_t arrow = line.find(" -> ");
+    told.clear();
+    Do(line.substr(0, arrow).c_str());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return State() == line.substr(arrow + 4); }, 3000))
+        << line << ", not " << State();
+  }
+  QTest::mouseClick(files.viewport(), Qt::LeftButton, {}, QPoint(50, 390));  // below the last row
+  EXPECT_EQ(PickedPath(files), temp.Path() + "/");
+  Do("file=d");
+  EXPECT_EQ(PickedPath(files), temp.File("d"));
+  QObject::disconnect(&files, &FileList::FileActivated, nullptr, nullptr);
+  QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+  QApplication::sendEvent(&files, &enter);
+  EXPECT_FALSE(enter.isAccepted());  // for the dialog's button
+
+  for (int i = 100; i < 300; ++i) temp.Put("many/f" + std::to_string(i), "");
+  Do("f=./many file=f100");
+  files.scrollTo(files.model()->index(150, 0));
+  const int scrolled = files.verticalScrollBar()->value();
+  temp.Put("many/zz", "");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return files.model()->rowCount() == 201; }, 5000));
+  EXPECT_EQ(files.verticalScrollBar()->value(), scrolled);  // stays there
+  EXPECT_EQ(files.property("FileName").toString(), QStringLiteral("f100"));
+  Do("d=/");
+  EXPECT_EQ(Shown(&folders).count(u'/'), 1);
+}
+
+TEST_F(FileBrowserTest, ThePlaceFollowsAPathSilentlyAndTellsAChoice) {
+  QSignalSpy changes(&place, &DriveList::DriveChanged);
+  place.setProperty("Drive", QDir::homePath() + QStringLiteral("/some/where"));
+  EXPECT_EQ(place.property("Drive").toString(), QDir::homePath());
+  for (const char* path : {"/et", ""}) place.SetDrive(QLatin1String(path));
+  EXPECT_EQ(place.Drive(), QStringLiteral("/"));
+  // What is mounted by now, and another home for it, is found as the list opens.
+  const QByteArray home = qgetenv("HOME");
+  qputenv("HOME", ToBytes(temp.Path()));
+  place.show();
+  place.showPopup();
+  place.hidePopup();
+  qputenv("HOME", home);
+  EXPECT_EQ(place.Drive(), QStringLiteral("/"));
+  EXPECT_EQ(changes.size(), 0);
+  QTest::keyClick(&place, Qt::Key_Home);
+  EXPECT_EQ(changes.value(0).value(0).toString(), base);
   EXPECT_EQ(folders.Path(), base);
-  mask.setEditText(QStringLiteral("*.txt"));
-  EXPECT_EQ(RowsOf(files), "two.txt");
-  EXPECT_EQ(PickedPath(files), temp.Path() + "/inner/");
-  files.SetFileName(QStringLiteral("two.txt"));
-  EXPECT_EQ(PickedPath(files), temp.Path() + "/inner/two.txt");
-  QTest::keyClick(&folders, Qt::Key_Return);
-  EXPECT_EQ(folders.Path(), base + QStringLiteral("/inner"));
-  Q_EMIT place.DriveChanged(base);
-  EXPECT_EQ(files.Path(), base);
 }
 
 }  // namespace

@@ -1,27 +1,21 @@
-// Runs the window tests in a home of their own, so that no test reads or touches the person's files.
+// Runs the window tests in a home of their own, so that no test reads or touches the person's files or leaves any.
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <QApplication>
-#include <QDir>
-#include <QTemporaryDir>
 
 #include "platform/qt/program_style.h"
+#include "support/temp_folder.h"
 
 int main(int argc, char** argv) {
   ::testing::InitGoogleTest(&argc, argv);
-  const QTemporaryDir home;
-  if (!home.isValid()) return 1;
-  const struct {
-    const char *variable, *folder;
-  } places[] = {{"HOME", ""},
-                {"XDG_DATA_HOME", "data"},
-                {"XDG_CONFIG_HOME", "config"},
-                {"XDG_CACHE_HOME", "cache"},
-                {"XDG_STATE_HOME", "state"}};
-  for (const auto& place : places) {
-    const QString folder = home.filePath(QLatin1String(place.folder));
-    QDir().mkpath(folder);
-    qputenv(place.variable, QFile::encodeName(folder));
+  const pelmar::TempFolder home;
+  chmod(home.Path().c_str(), 0711);  // some tests act as another user
+  for (const char* variable :
+       {"HOME", "TMPDIR", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_STATE_HOME"}) {
+    const std::string folder = home.File(variable);
+    std::filesystem::create_directory(folder);
+    qputenv(variable, folder.c_str());
   }
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   const QApplication application(argc, argv);
