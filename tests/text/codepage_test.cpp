@@ -17,7 +17,7 @@ TEST(CodePage, EveryByteSurvivesUnicode) {
   const std::string all = AllBytes();
   EXPECT_EQ(FromUtf8(ToUtf8(all)), all);
   std::u16string wide;
-  for (char ch : all) wide += UnicodeOf(static_cast<unsigned char>(ch));
+  for (const char ch : all) wide += UnicodeOf(static_cast<unsigned char>(ch));
   EXPECT_EQ(FromUtf16(wide), all);
   EXPECT_EQ("Žluťoučký kůň €"_w, "\x8Elu\x9Dou\xE8k\xFD k\xF9\xF2 \x80");
   EXPECT_EQ(ToUtf8("©®™ß"_w), "©®™ß");
