@@ -25,6 +25,8 @@ class ScriptedPlatform : public Platform {
   std::vector<std::string> calls;
   // The calls so far, which are then forgotten.
   std::vector<std::string> TakeCalls();
+  // The same in one line, "; " behind each.
+  std::string TakeTold();
 
   std::deque<Answer> answers;  // to messages; an OK box takes only kOk, a question only kYes and kNo
   std::deque<std::optional<std::string>> inputs, opens, saves;

@@ -5,59 +5,49 @@
 namespace pelmar {
 namespace {
 
-TEST(ColumnFormat, TheLoadMakesItsRows) {
-  const struct {
-    std::string_view selected;
-    Rows rows;
-    std::size_t shortest;
-  } cases[] = {
-      {"", {}, 0},
-      {"a", {}, 1},  // required: one character gives no row
-      {"ab", {"ab"}, 2},
-      {"ab\r\ncde", {"ab", "cde"}, 2},
-      {"abc\r\n", {"abc", "bc\r\n"}, 4},  // required: the extra row
-      {"abc\r\nde\r\n", {"abc", "de", "e\r\n"}, 3},
-      {"abc\r\n\r\nde", {"abc", "", "de"}, 0},
-      {"abc\r\n\r\n", {"abc", ""}, 3},              // the walk ends before the line feed of the empty line
-      {"ab\ncd", {"cd"}, 2},                        // a bare line feed makes no row
-      {"ab\rc\r\n", {"ab", "b\rc", "\rc\r\n"}, 4},  // only a line feed ends a line
-      {"ab\r\nd", {"ab"}, 2},                       // required: a last line of one character gives no row
+std::string Shown(const Rows& rows) {
+  std::string shown;
+  for (const std::string& row : rows) shown += row + '|';
+  return shown;
+}
+
+TEST(ColumnFormat, TheLoadMakesItsRowsAndTellsTheShortest) {
+  const std::pair<std::string_view, std::string> cases[] = {
+      {"", " 0"},
+      {"a", " 1"},  // required: one character gives no row
+      {"ab", "ab| 2"},
+      {"ab\r\ncde", "ab|cde| 2"},
+      {"abc\r\n", "abc|bc\r\n| 4"},  // required: the extra row
+      {"abc\r\nde\r\n", "abc|de|e\r\n| 3"},
+      {"abc\r\n\r\nde", "abc||de| 0"},
+      {"abc\r\n\r\n", "abc|| 3"},           // the walk ends before the line feed of the empty line
+      {"ab\ncd", "cd| 2"},                  // a bare line feed makes no row
+      {"ab\rc\r\n", "ab|b\rc|\rc\r\n| 4"},  // only a line feed ends a line
+      {"ab\r\nd", "ab| 2"},                 // required: a last line of one character gives no row
   };
-  for (const auto& c : cases) {
-    const SelectedRows result = RowsOfSelection(c.selected);
-    EXPECT_EQ(result.rows, c.rows) << c.selected;
-    EXPECT_EQ(result.shortest, c.shortest) << c.selected;
+  for (const auto& [selected, shown] : cases) {
+    const SelectedRows result = RowsOfSelection(selected);
+    EXPECT_EQ(Shown(result.rows) + ' ' + std::to_string(result.shortest), shown) << selected;
   }
 }
 
 TEST(ColumnFormat, OperationsActAtTheDistance) {
-  const Rows rows{"ab", "cde", "", "x"};
-  const struct {
-    void (*insert)(Rows&, std::size_t, std::string_view);
-    void (*remove)(Rows&, std::size_t);
-    std::size_t distance;
-    Rows inserted, removed;
-  } cases[] = {
-      {InsertFromStart, RemoveFromStart, 0, {"-ab", "-cde", "-", "-x"}, {"b", "de", "", ""}},
-      {InsertFromStart, RemoveFromStart, 1, {"a-b", "c-de", "", "x-"}, {"a", "ce", "", "x"}},
-      {InsertFromStart, RemoveFromStart, 3, {"ab", "cde-", "", "x"}, {"ab", "cde", "", "x"}},
-      {InsertFromEnd, RemoveFromEnd, 0, {"ab-", "cde-", "-", "x-"}, {"a", "cd", "", ""}},
-      {InsertFromEnd, RemoveFromEnd, 1, {"a-b", "cd-e", "", "-x"}, {"b", "ce", "", "x"}},
-      {InsertFromEnd, RemoveFromEnd, 2, {"-ab", "c-de", "", "x"}, {"ab", "de", "", "x"}},
+  const auto after = [](auto operation, auto... arguments) {
+    Rows rows{"ab", "cde", "", "x"};
+    operation(rows, arguments...);
+    return Shown(rows) + ' ';
   };
-  for (const auto& c : cases) {
-    Rows changed = rows;
-    c.insert(changed, c.distance, "-");
-    EXPECT_EQ(changed, c.inserted) << c.distance;
-    changed = rows;
-    c.remove(changed, c.distance);
-    EXPECT_EQ(changed, c.removed) << c.distance;
-  }
-  EXPECT_EQ(ShortestRow(rows), 0u);
-  EXPECT_EQ(ShortestRow({"abc", "ab"}), 2u);
-  EXPECT_EQ(ShortestRow({}), 0u);
-  EXPECT_EQ(JoinRows({"a", "", "b"}), "a\r\n\r\nb");
-  EXPECT_EQ(JoinRows({}), "");
+  const std::string_view shown[] = {
+      "-ab|-cde|-|-x| b|de||| ab-|cde-|-|x-| a|cd||| ",
+      "a-b|c-de||x-| a|ce||x| a-b|cd-e||-x| b|ce||x| ",
+      "ab-|cd-e||x| ab|cd||x| -ab|c-de||x| ab|de||x| ",
+      "ab|cde-||x| ab|cde||x| ab|-cde||x| ab|cde||x| ",
+  };
+  for (std::size_t distance = 0; distance < std::size(shown); ++distance)
+    EXPECT_EQ(after(InsertFromStart, distance, "-") + after(RemoveFromStart, distance) +
+                  after(InsertFromEnd, distance, "-") + after(RemoveFromEnd, distance),
+              shown[distance]);
+  EXPECT_EQ(ShortestRow({"abc", "ab", "x"}) + 10 * ShortestRow({}), 1u);
 }
 
 }  // namespace
