@@ -4,93 +4,95 @@
 
 #include <cerrno>
 
+#include "support/random_source.h"
 #include "support/scripted_platform.h"
 #include "text/codepage.h"
 
 namespace pelmar {
 namespace {
 
-TEST(Encodings, TheNewFileLiesBesideTheOld) {
-  EXPECT_EQ(PathBeside("/a.d/b.c.txt", "1250"), "/a.d/b.c.1250");
-  EXPECT_EQ(PathBeside("/a.d/b", "1250"), "/a.d/b.1250");
-  EXPECT_EQ(PathBeside("/a/.rc", "1250"), "/a/.rc.1250");
-  EXPECT_EQ(PathBeside("b.", "1250"), "b.1250");
-}
+using enum Answer;
+using Convert = void (*)(Platform&, const std::string&);
+const Convert kToPage = ConvertToPage;
+const Convert kToUtf8 = [](Platform& platform, const std::string& path) { ConvertToUtf8(platform, path, false); };
+const Convert kToUtf8WithMark = [](Platform& platform, const std::string& path) {
+  ConvertToUtf8(platform, path, true);
+};
 
-// Each case stands behind no, one and two characters, so that each border of a piece falls on each place.
-TEST(Encodings, BothWaysWholeWithAndWithoutAMark) {
-  ScriptedPlatform platform;
-  const std::string long_czech(1000, '\xE8');
-  for (const std::string_view text :
-       {"Žluťoučký kůň €\r\n"_w, ""_w, "kun"_w, std::string_view(long_czech), std::string_view("?\x81\x98")}) {
-    for (const std::string_view front : {"", "x", "xy"}) {
-      for (const std::string_view mark : {"", "\xEF\xBB\xBF"}) {
-        const std::string page = std::string(front) + std::string(text);
-        const std::string utf8 = std::string(mark) + ToUtf8(page);
-        platform.files = {{"/a.txt", utf8}, {"/b.txt", page}};
-        ConvertToPage(platform, "/a.txt");
-        EXPECT_EQ(platform.files["/a.1250"], page);
-        ConvertToUtf8(platform, "/b.txt", !mark.empty());
-        EXPECT_EQ(platform.files["/b.utf8"], utf8);
-      }
-    }
-  }
-  EXPECT_EQ(platform.busy, 0);
-}
-
-TEST(Encodings, WhatIsNoUtf8IsRefusedWithItsPlace) {
-  const std::pair<std::string, std::string> cases[] = {
-      {"\xE8", "řádek 1, sloupec 1, bajt 1"},
-      {"\xEF\xBB\xBFůů\xC5", "řádek 1, sloupec 3, bajt 8"},
-      {"a\r\nb\rc\n\nůx\xC5y", "řádek 5, sloupec 3, bajt 12"},
-  };
-  for (const auto& [bytes, place] : cases) {
+TEST(Encodings, AnyTextGoesThereAndBackBesideItsFile) {
+  RandomSource random(3);
+  const std::pair<const char*, const char*> stems[] = {
+      {"/a.d/b.c.txt", "/a.d/b.c."}, {"/a.d/b", "/a.d/b."}, {"/a/.rc", "/a/.rc."}, {"b.", "b."}};
+  for (int round = 0; round < 400; ++round) {
+    const std::string page = round % 2 ? random.Bytes(12) : random.Text(12, "k\xF9\xF2\r\n\x80?");
+    const bool mark = round % 3 == 0;
+    const std::string utf8 = (mark ? "\xEF\xBB\xBF" : "") + ToUtf8(page);
+    const auto& [path, stem] = stems[round % 4];
     ScriptedPlatform platform;
-    platform.files = {{"/a.txt", bytes}};
-    platform.answers = {Answer::kOk};
-    ConvertToPage(platform, "/a.txt");
-    EXPECT_EQ(platform.calls, (std::vector<std::string>{"busy 1", "busy 0",
-                                                        "message 0 \"Soubor /a.txt není v UTF-8:\r\n" + place +
-                                                            ".\r\nNic nebylo zapsáno.\" \"Konverze UNIX <-> DOS\""}));
-    EXPECT_EQ(platform.files.size(), 1u);
+    platform.answers.assign(1, kYes);  // where the bytes look like UTF-8 already
+    platform.files = {{path, page}};
+    (mark ? kToUtf8WithMark : kToUtf8)(platform, path);
+    ASSERT_EQ(platform.files[stem + std::string("utf8")], utf8);
+    platform.files = {{path, utf8}};
+    kToPage(platform, path);
+    ASSERT_EQ(platform.files[stem + std::string("1250")], page);
+    ASSERT_EQ(platform.busy, 0);
   }
 }
 
-TEST(Encodings, WhatThePageLacksIsAskedAboutBeforeAnythingIsWritten) {
-  ScriptedPlatform platform;
-  platform.files = {{"/a.txt", "ů\n→?😀\xC2\x85"}};
-  platform.answers = {Answer::kNo, Answer::kYes};
-  ConvertToPage(platform, "/a.txt");
-  EXPECT_EQ(platform.calls.back(),
-            "message 52 \"Soubor /a.txt obsahuje znaky, které ve Windows-1250 nejsou, celkem 3.\r\n"
-            "První je → (U+2192): řádek 2, sloupec 1, bajt 4.\r\n\r\nZapsat místo nich \"?\" ?\" "
-            "\"Konverze UNIX <-> DOS\"");
-  EXPECT_EQ(platform.files.size(), 1u);
-  ConvertToPage(platform, "/a.txt");
-  EXPECT_EQ(platform.files["/a.1250"], "\xF9\n????");
+std::string Told(int type, const std::string& text) {
+  return "message " + std::to_string(type) + " \"" + text + "\" \"Konverze UNIX <-> DOS\"; ";
 }
 
-TEST(Encodings, WhatIsThereIsSafe) {
-  ScriptedPlatform platform;
-  const auto told = [&] { return platform.calls.back().substr(0, platform.calls.back().find("\r\n")); };
-  platform.files = {{"/a.utf8", "a"}, {"/a.1250", "old"}, {"/b.txt", "ů"}, {"/c.1250", "c"}};
-  platform.answers = {Answer::kNo, Answer::kOk, Answer::kOk, Answer::kNo, Answer::kOk, Answer::kOk};
-  ConvertToPage(platform, "/a.utf8");
-  EXPECT_EQ(told(), "message 52 \"Opravdu uložit /a.1250?");
-  ConvertToPage(platform, "/c.1250");
-  EXPECT_EQ(told(), "message 0 \"Výsledek by přepsal převáděný soubor:");
-  ConvertToUtf8(platform, "/a.utf8", false);
-  EXPECT_EQ(told(), "message 0 \"Výsledek by přepsal převáděný soubor:");
-  ConvertToUtf8(platform, "/b.txt", false);  // twice would make garbage of it
-  EXPECT_EQ(told(), "message 52 \"Soubor /b.txt je v UTF-8 už teď.");
-  ConvertToPage(platform, "/none");
-  EXPECT_TRUE(platform.calls.back().find("Kód chyby 2\"") != std::string::npos);
-  platform.write_errors["/b.1250"] = ENOSPC;
-  ConvertToPage(platform, "/b.txt");
-  EXPECT_TRUE(platform.calls.back().find("Soubor: /b.1250\r\nKód chyby 28\"") != std::string::npos);
-  EXPECT_EQ(platform.files.size(), 4u);
-  EXPECT_EQ(platform.files["/a.1250"], "old");
-  EXPECT_EQ(platform.busy, 0);
+TEST(Encodings, AskAndTellAndKeepWhatIsThere) {
+  const auto no_utf8 = [](const std::string& place) {
+    return Told(0, "Soubor /a.txt není v UTF-8:\r\nřádek " + place + ".\r\nNic nebylo zapsáno.");
+  };
+  const auto lacks = [](const std::string& what) {
+    return Told(52, "Soubor /a.txt obsahuje znaky, které ve Windows-1250 nejsou, celkem " + what +
+                        ".\r\n\r\nZapsat místo nich \"?\" ?");
+  };
+  const std::string three = lacks("3.\r\nPrvní je → (U+2192): řádek 2, sloupec 1, bajt 4");
+  const std::string over = Told(52, "Opravdu uložit /old.1250?\r\nSoubor již existuje a bude přepsán!");
+  const std::string failed = "Soubor se nepodařilo převést!\r\nSoubor: ";
+  const std::string own = "Výsledek by přepsal převáděný soubor:\r\n";
+  const struct {
+    Convert convert;
+    const char *path, *bytes;
+    Answer answer;
+    std::string told;
+  } cases[] = {
+      {kToPage, "/a.txt", "\xE8", kOk, no_utf8("1, sloupec 1, bajt 1")},
+      {kToPage, "/a.txt", "\xEF\xBB\xBFůů\xC5", kOk, no_utf8("1, sloupec 3, bajt 8")},
+      {kToPage, "/a.txt", "a\r\nb\rc\n\nůx\xC5y", kOk, no_utf8("5, sloupec 3, bajt 12")},
+      {kToPage, "/a.txt", "ů\n→?😀\xC2\x85", kNo, three},
+      {kToPage, "/a.txt", "ů\n→?😀\xC2\x85", kYes, three + "/a.1250=\xF9\n????"},
+      {kToPage, "/a.txt", "\xC2\x85", kNo, lacks("1.\r\nPrvní je U+0085: řádek 1, sloupec 1, bajt 1")},
+      {kToPage, "/old.utf8", "a", kNo, over},
+      {kToPage, "/old.utf8", "a", kYes, over + "/old.1250=a"},
+      {kToPage, "/a.1250", "a", kOk, Told(0, own + "/a.1250")},
+      {kToUtf8, "/a.utf8", "a", kOk, Told(0, own + "/a.utf8")},
+      {kToUtf8, "/a.txt", "ů", kNo, Told(52, "Soubor /a.txt je v UTF-8 už teď.\r\nOpravdu převést ?")},
+      {kToPage, "/none", nullptr, kOk, Told(0, failed + "/none\r\nKód chyby 2")},
+      {kToUtf8, "/none", nullptr, kOk, Told(0, failed + "/none\r\nKód chyby 2")},
+      {kToPage, "/full.txt", "a", kOk, Told(0, failed + "/full.1250\r\nKód chyby 28")},
+  };
+  for (const auto& c : cases) {
+    ScriptedPlatform platform;
+    platform.files = {{"/old.1250", "old"}};
+    if (c.bytes) platform.files[c.path] = c.bytes;
+    const auto files = platform.files;
+    platform.write_errors["/full.1250"] = ENOSPC;
+    platform.answers = {c.answer};
+    c.convert(platform, c.path);
+    std::string told;
+    for (const std::string& call : platform.calls)
+      if (call.starts_with("message")) told += call + "; ";
+    for (const auto& [path, bytes] : platform.files)
+      if (!files.contains(path) || files.at(path) != bytes) told.append(path + '=').append(bytes);
+    EXPECT_EQ(told, c.told) << c.path;
+    EXPECT_EQ(platform.busy, 0);
+  }
 }
 
 }  // namespace

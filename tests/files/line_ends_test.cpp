@@ -45,25 +45,29 @@ TEST(LineEnds, EqualASlowWalkThroughRandomTexts) {
   }
 }
 
-TEST(LineEnds, OnlyTheUnixTargetKeepsALongerTail) {
+TEST(LineEnds, OnlyTheUnixTargetKeepsALongerTailAndErrorsEndTheCommand) {
   ScriptedPlatform platform;
   platform.files = {{"/f.txt", "a\nb"}, {"/f.unx", "0123456"}, {"/f.dos", "0123456"}};
   ConvertToUnix(platform, "/f.txt");
   EXPECT_EQ(platform.files["/f.unx"], "a\nb\n456");  // required
   ConvertToDos(platform, "/f.txt");
   EXPECT_EQ(platform.files["/f.dos"], "a\r\n");
-}
-
-TEST(LineEnds, ErrorsEndTheCommandAndTheSourceIsSafe) {
-  ScriptedPlatform platform;
   EXPECT_THROW(ConvertToUnix(platform, "/none.txt"), RuntimeError);
-  platform.files = {{"/f.txt", "a"}, {"/g.unx", "a\r\n"}};
   platform.write_errors["/f.dos"] = ENOSPC;
-  EXPECT_THROW(ConvertToDos(platform, "/f.txt"), RuntimeError);
-  EXPECT_EQ(platform.busy, 0);
+  platform.kept_content = "/kept";
+  try {
+    ConvertToDos(platform, "/f.txt");
+    ADD_FAILURE();
+  } catch (const RuntimeError& error) {
+    EXPECT_EQ(error.Number(), ENOSPC);
+    EXPECT_STREQ(error.what(),
+                 "Konverze souboru /f.txt do /f.dos: na disku není místo\r\n"
+                 "Soubor je poškozen, jeho původní obsah leží v /kept");
+  }
   platform.answers = {Answer::kOk};
-  ConvertToUnix(platform, "/g.unx");  // its own target
-  EXPECT_EQ(platform.files["/g.unx"], "a\r\n");
+  ConvertToUnix(platform, "/f.unx");  // its own target
+  EXPECT_EQ(platform.files["/f.unx"], "a\nb\n456");
+  EXPECT_EQ(platform.busy, 0);
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include "platform/runtime_error.h"
 #include "support/document_state.h"
+#include "support/marked_text.h"
 #include "support/scripted_platform.h"
 #include "support/whole_editor.h"
 #include "text/codepage.h"
@@ -11,254 +12,180 @@
 namespace pelmar {
 namespace {
 
-using namespace std::string_literals;
-using Calls = std::vector<std::string>;
+using enum Answer;
+
+// Each begins with a changed document of /a.txt. Told are the text, the current path and the document's state, what was
+// asked and done, and which files are other ones now.
+TEST(FileCommands, LeaveDocumentCallsAndFiles) {
+  const std::string same = "[new|saved /a.txt (/a.txt)*|a.txt|/a.txt|/a.txt|1; ";
+  const std::string open = "open \"" + std::string(kDocumentFilter) + "\" 2; ";
+  const std::string save = "save \"" + std::string(kDocumentFilter) + "\" 2; ";
+  const std::string reload =
+      "message 52 \"Opravdu reload souboru ?\r\nZměny od posledního uložení \"/a.txt\" Budou ztraceny!\" \"Reload\"; ";
+  const std::string over = "message 52 \"Opravdu uložit /b.txt?\r\nSoubor již existuje a bude přepsán!\" \"Soubor\"; ";
+  const std::string failed = "message 0 \"Chyba ukládání!\r\nSoubor: ", by = "\" \"Pelmar VEX\"; ";
+  const std::string full = "write /full.txt; " + failed +
+                           "/full.txt\r\nKód chyby 28\r\nSoubor je poškozen, jeho původní obsah leží v /kept" + by;
+  const std::string anew = "message 52 \"Opravdu nový soubor ?\" \"Nový\"; ";
+  const struct {
+    const char *command, *chosen;
+    Answer answer;
+    std::string after;
+  } cases[] = {
+      {"mnu_open_st", "", kOk, same + open},
+      {"mnu_open_st", "/b.txt", kOk, "|b /b.txt (/b.txt)|b.txt|/b.txt|/b.txt|0; " + open + "recent /b.txt; "},
+      // required: text and path are in, the rest isn't, nobody says anything, and file number 1 stays taken
+      {"mnu_open_st", "/README", kOk, "|r /README (/a.txt)*|a.txt|/a.txt|/README|1; " + open},
+      {"mnu_open_st", "/no", kOk, same + open + "message 0 \"Soubor /no nenalezen!\" \"Soubor\"; "},
+      {"Recent", "", kOk, same + "message 0 \"Soubor  nenalezen!\" \"Soubor\"; "},
+      {"Mnu_Reload_File", "", kNo, same + reload},
+      {"Mnu_Reload_File", "", kYes, "|saved /a.txt (/a.txt)|a.txt|/a.txt|/a.txt|0; " + reload + "recent /a.txt; "},
+      {"mnu_save_st", "", kOk, same + save},
+      {"mnu_save_st", "/x.y.txt", kOk,
+       "[new|saved /x.y.txt (/x.y.txt)|x.y.txt|/x.y.txt|/x.y.txt|0; " + save +
+           "write /x.y.txt; recent /x.y.txt; /x.y.txt=newsaved"},
+      {"mnu_save_st", "/b.txt", kNo, same + save + over},
+      {"mnu_save_st", "/full.txt", kOk, same + save + full},
+      // required: the file is on the disk and the path changed, but title, tab and flag didn't follow
+      {"mnu_save_st", "/NAME", kOk,
+       "[new|saved /NAME (/a.txt)*|a.txt|/a.txt|/a.txt|1; " + save + "write /NAME; " + failed +
+           "/NAME\r\nKód chyby 22" + by + "/NAME=newsaved"},
+      {"mnukopsoub", "", kOk, same + save},
+      {"mnukopsoub", "/new.txt", kOk, same + save + "write /new.txt; recent /new.txt; /new.txt=new"},
+      {"mnuulvyb", "/b.txt", kYes, same + save + over + "write /b.txt; recent /b.txt; /b.txt=new"},
+      {"mnuulvyb", "/full.txt", kOk, same + save + full},
+      {"mnuzesouboru", "/in.txt", kOk,
+       "abc|saved /a.txt (/a.txt)*|a.txt|/a.txt|/a.txt|1; " + open + "recent /in.txt; "},
+      // A failure is silent, and where there is no field to read, the selection isn't lost.
+      {"mnuzesouboru", "/no", kOk, same + open},
+      {"mnuzesouboru", "/empty", kOk, same + open},
+      {"mnuzesouboru", "", kOk, same + open},
+      {"New", "", kNo, same + anew},
+      {"mnuclean", "", kYes, "|  ()|||/a.txt|0; " + anew},
+  };
+  for (const auto& c : cases) {
+    ScriptedPlatform platform;
+    WholeEditor editor(platform);
+    platform.files = {{"/a.txt", "saved"}, {"/b.txt", "b"}, {"/README", "r"}, {"/in.txt", "abc, rest"}, {"/empty", ""}};
+    platform.write_errors["/full.txt"] = ENOSPC;
+    platform.kept_content = "/kept";
+    const auto files = platform.files;
+    editor.opener.OpenPath("/a.txt");
+    PutMarked(editor.text, "[new|saved");
+    platform.calls.clear();
+    platform.answers = {c.answer};
+    platform.opens = platform.saves = {*c.chosen ? std::optional<std::string>(c.chosen) : std::nullopt};
+    editor.commands.Run(c.command);
+    std::string after = Marked(editor.text) + ' ' + editor.documents.CurrentPath() + ' ' + StateOf(editor.documents);
+    after += "; " + platform.TakeTold();
+    for (const auto& [path, bytes] : platform.files)
+      if (!files.contains(path) || files.at(path) != bytes) after.append(path + '=').append(bytes);
+    EXPECT_EQ(after, c.after) << c.command << ' ' << c.chosen;
+    EXPECT_EQ(editor.file_number.IsOpen(), std::string_view(c.chosen) == "/README") << c.command;
+  }
+}
 
 struct FilesTest : testing::Test {
   ScriptedPlatform platform;
   WholeEditor editor{platform};
   Documents& documents = editor.documents;
-
-  // What is said last while a command runs and these answers are given.
-  std::string Said(std::string_view command, std::deque<Answer> answers) {
-    platform.answers = std::move(answers);
-    editor.commands.Run(command);
-    return platform.calls.empty() ? "" : platform.calls.back();
-  }
-  [[nodiscard]] const std::string& Text() const { return editor.text.Text(); }
+  std::array<std::string, 10>& recent = editor.settings.RecentFiles;
 };
 
-TEST_F(FilesTest, OpenPutsTheFileIntoTheCurrentTab) {
-  platform.files["/a/p\xC5\x99.html"] = "x\0\xFFy"s;
-  editor.opener.OpenPath("/a/p\xC5\x99.html");
-  EXPECT_EQ(Text(), "x\0\xFFy"s);
-  EXPECT_EQ(StateOf(documents), "(/a/př.html)|př.html|/a/př.html|/a/př.html|0");
-  EXPECT_EQ(documents.Target().Path(), "/a/př.html");
-  EXPECT_EQ(editor.settings.RecentFiles[0], "/a/př.html");
-  EXPECT_EQ(platform.TakeCalls(), (Calls{"recent /a/př.html"}));
-}
-
 TEST_F(FilesTest, TheLimitIsExactAndWhatCantBeReadIsNotFound) {
-  platform.files = {
-      {"/a/full.txt", std::string(64000, 'f')}, {"/a/over.txt", std::string(64001, 'o')}, {"/a/dir/", ""}};
-  platform.read_errors["/a/locked.txt"] = EACCES;
-  editor.opener.OpenPath("/a/full.txt");
-  for (const std::string path :
-       {"/a/over.txt", "/a/none.txt", "/a/dir", "/a/dir/", "/a/locked.txt", "\"/a/x.txt\"", ""}) {
-    platform.answers = {Answer::kOk};
+  std::string full(64000, 'f');
+  for (std::size_t i = 0; i < full.size(); ++i) full[i] = static_cast<char>(i);
+  platform.files = {{"/př.txt", full}, {"/over.txt", full + 'o'}, {"/dir/", ""}};
+  platform.read_errors["/locked.txt"] = EACCES;
+  editor.opener.OpenPath("/př.txt");
+  const std::string state = StateOf(documents);
+  EXPECT_EQ(state, "(/př.txt)|př.txt|/př.txt|/př.txt|0");
+  for (const std::string path : {"/over.txt", "/none.txt", "/dir", "/dir/", "/locked.txt", "\"/př.txt\"", ""}) {
+    platform.answers = {kOk};
     editor.opener.OpenPath(path);
-    EXPECT_EQ(platform.calls.back(), path == "/a/over.txt"
-                                         ? "message 0 \"Nelze otevřít /a/over.txt, Soubor příliš velký\" \"Soubor\""
+    EXPECT_EQ(platform.calls.back(), path == "/over.txt"
+                                         ? "message 0 \"Nelze otevřít /over.txt, Soubor příliš velký\" \"Soubor\""
                                          : "message 0 \"Soubor " + path + " nenalezen!\" \"Soubor\"");
-    EXPECT_EQ(Text().size(), 64000u);
-    EXPECT_EQ(documents.CurrentPath(), "/a/full.txt");
-    EXPECT_EQ(editor.settings.RecentFiles[1], "");
+    EXPECT_TRUE(editor.text.Text() == full && StateOf(documents) == state && recent[1].empty()) << path;
     EXPECT_EQ(editor.opener.Preview(path), "Není k dispozici"_w);
   }
-  EXPECT_EQ(editor.opener.Preview("/a/full.txt").size(), 64000u);
+  EXPECT_EQ(editor.opener.Preview("/př.txt"), full);
 }
 
 TEST_F(FilesTest, RecentFilesMoveToTheHead) {
-  RecentFiles& recent = editor.files.recent;
-  const auto listed = [&recent] {
-    std::string items;
-    for (int i = 1; i <= 10; ++i) items += recent.ItemText(i) + ' ';
+  RecentFiles& list = editor.files.recent;
+  int shown = 0;
+  const Listening heard = list.changed.Add([&] { ++shown; });
+  const auto listed = [&] {
+    std::string items = std::to_string(shown) + ':';
+    for (int i = 1; i <= 10; ++i) items += ' ' + list.ItemText(i);
     return items;
   };
-  for (int i = 1; i <= 11; ++i) recent.PushRecentFile("/" + std::to_string(i));  // the first falls out
-  EXPECT_EQ(listed(), "&0 /11 &1 /10 &2 /9 &3 /8 &4 /7 &5 /6 &6 /5 &7 /4 &8 /3 &9 /2 ");
-  int shown = 0;
-  const Listening heard = recent.changed.Add([&] { ++shown; });
-  for (const char* path : {"/7", "/7", ""}) recent.PushRecentFile(path);
-  EXPECT_EQ(listed(), "&0 /7 &1 /11 &2 /10 &3 /9 &4 /8 &5 /6 &6 /5 &7 /4 &8 /3 &9 /2 ");
-  EXPECT_EQ(shown, 1);
-  recent.PushRecentFile("/a");
-  recent.PushRecentFile("/A");  // case counts
-  EXPECT_TRUE(listed().starts_with("&0 /A &1 /a &2 /7 "));
+  for (int i = 1; i <= 11; ++i) list.PushRecentFile("/" + std::to_string(i));  // the first falls out
+  EXPECT_EQ(listed(), "11: &0 /11 &1 /10 &2 /9 &3 /8 &4 /7 &5 /6 &6 /5 &7 /4 &8 /3 &9 /2");
+  for (const char* path : {"/7", "/7", ""}) list.PushRecentFile(path);
+  EXPECT_EQ(listed(), "12: &0 /7 &1 /11 &2 /10 &3 /9 &4 /8 &5 /6 &6 /5 &7 /4 &8 /3 &9 /2");
+  list.PushRecentFile("/A");
+  list.PushRecentFile("/a");  // case counts
+  EXPECT_EQ(listed(), "14: &0 /a &1 /A &2 /7 &3 /11 &4 /10 &5 /9 &6 /8 &7 /6 &8 /5 &9 /4");
+  platform.files = {{"/a.txt", "a"}, {"/b.txt", "b"}};
+  for (const char* path : {"/a.txt", "/b.txt"}) editor.opener.OpenPath(path);
+  editor.commands.Run("Recent");  // the second
+  EXPECT_EQ(editor.text.Text(), "a");
+  EXPECT_EQ(recent[0], "/a.txt");
 }
 
-TEST_F(FilesTest, RecentButtonOpensTheSecondEntry) {
-  EXPECT_EQ(Said("Recent", {Answer::kOk}), "message 0 \"Soubor  nenalezen!\" \"Soubor\"");
-  platform.files = {{"/one.txt", "1"}, {"/two.txt", "2"}};
-  editor.opener.OpenPath("/one.txt");
-  editor.opener.OpenPath("/two.txt");
-  editor.commands.Run("Recent");
-  EXPECT_EQ(Text(), "1");
-  EXPECT_EQ(editor.settings.RecentFiles[0], "/one.txt");
-}
-
-// required: text and path are in, the rest isn't, nobody says anything, and file number 1 stays taken
-TEST_F(FilesTest, ANameWithoutDotFromTheMenuStopsHalfWay) {
-  platform.files = {{"/a/README", "readme"}, {"/a/b.txt", "b"}};
-  platform.opens = {"/a/README"};
-  EXPECT_EQ(Said("mnu_open_st", {}), "open \"" + std::string(kDocumentFilter) + "\" 2");
-  EXPECT_EQ(Text(), "readme");
-  EXPECT_EQ(documents.CurrentPath(), "/a/README");
-  EXPECT_EQ(StateOf(documents), "()*|||/a/README|1");
-  EXPECT_EQ(editor.settings.RecentFiles[0], "");
-  platform.answers = {Answer::kOk, Answer::kOk};
-  editor.opener.OpenPath("/a/b.txt");
-  EXPECT_EQ(platform.calls.back(), "message 0 \"Soubor /a/b.txt nenalezen!\" \"Soubor\"");
-  EXPECT_EQ(editor.opener.Preview("/a/b.txt"), "Není k dispozici"_w);
-  editor.saver.SaveToPath("/a/b.txt");
+// required: no file can be had while file number 1 is taken
+TEST_F(FilesTest, ANameWithoutDotIsAnErrorElsewhereAndLeavesTheNumberTaken) {
+  platform.files = {{"/README", "r"}, {"/b.txt", "b"}};
+  EXPECT_THROW(editor.opener.OpenPath("/README"), RuntimeError);
+  platform.answers = {kOk, kOk};
+  editor.opener.OpenPath("/b.txt");
+  EXPECT_EQ(platform.calls.back(), "message 0 \"Soubor /b.txt nenalezen!\" \"Soubor\"");
+  EXPECT_EQ(editor.opener.Preview("/b.txt"), "Není k dispozici"_w);
+  editor.saver.SaveToPath("/b.txt");
   EXPECT_TRUE(platform.calls.back().starts_with("message 0 \"Chyba ukládání!"));
-  EXPECT_EQ(platform.files["/a/b.txt"], "b");
-  editor.file_number.Close();
-  EXPECT_THROW(editor.opener.OpenPath("/a/README"), RuntimeError);  // elsewhere it is an error
-}
-
-TEST_F(FilesTest, ReloadAsksAndLosesTheChanges) {
-  platform.files["/a.txt"] = "saved";
-  editor.opener.OpenPath("/a.txt");
-  editor.text.Type("new");
-  EXPECT_EQ(Said("Mnu_Reload_File", {Answer::kNo}),
-            "message 52 \"Opravdu reload souboru ?\r\nZměny od posledního uložení \"/a.txt\" Budou ztraceny!\" "
-            "\"Reload\"");
-  EXPECT_EQ(Text(), "newsaved");
-  Said("Mnu_Reload_File", {Answer::kYes});
-  EXPECT_EQ(Text(), "saved");
-  EXPECT_FALSE(documents.Marked());
-}
-
-TEST_F(FilesTest, SaveAdoptsThePath) {
-  editor.text.SetText("new\r\n");
-  editor.saver.SaveToPath("/a/x.y.txt");
-  EXPECT_EQ(platform.TakeCalls(), (Calls{"write /a/x.y.txt", "recent /a/x.y.txt"}));
-  EXPECT_EQ(platform.files["/a/x.y.txt"], "new\r\n");
-  EXPECT_EQ(StateOf(documents), "(/a/x.y.txt)|x.y.txt|/a/x.y.txt|/a/x.y.txt|0");
-  EXPECT_EQ(documents.Target().Name(), "x.y");
-  EXPECT_EQ(TargetPath("/a", "x.y", "txt"), "/a/x.y.txt");  // what the dialog makes of it again
-}
-
-TEST_F(FilesTest, SaveAsksBeforeItOverwrites) {
-  platform.files["/a.txt"] = "old";
-  editor.text.SetText("new");
-  platform.answers = {Answer::kNo, Answer::kYes};
-  editor.saver.SaveToPath("/a.txt");
-  EXPECT_EQ(platform.TakeCalls(),
-            (Calls{"message 52 \"Opravdu uložit /a.txt?\r\nSoubor již existuje a bude přepsán!\" \"Soubor\""}));
-  EXPECT_TRUE(documents.Marked());
-  EXPECT_EQ(documents.CurrentPath(), "");
-  platform.on_message = [&] { editor.text.Type("typed meanwhile, "); };
-  editor.saver.SaveToPath("/a.txt");
-  EXPECT_EQ(platform.files["/a.txt"], "typed meanwhile, new");
-  EXPECT_FALSE(documents.Marked());
+  EXPECT_EQ(platform.files["/b.txt"], "b");
 }
 
 TEST_F(FilesTest, AFastSaveAsksTwiceAndSaysWhatAnotherProgramDid) {
-  const std::string ask = "message 52 \"Opravdu uložit soubor?\r\n\"/a.txt\"", to_end = "\" \"Soubor\"";
+  const std::string ask = "message 52 \"Opravdu uložit soubor?\r\n\"/a.txt\"", to_end = "\" \"Soubor\"; ";
+  const std::string written = "\r\nSoubor na disku mezitím změnil jiný program!", gone = "\r\nSoubor na disku už není!";
+  const auto said = [&](Answer answer) {
+    platform.TakeCalls();
+    platform.answers.assign(2, answer);
+    editor.commands.Run("Mnu_SaveFast");
+    return platform.TakeTold();
+  };
   editor.text.SetText("mine");
   editor.saver.SaveToPath("/a.txt");
-  EXPECT_EQ(Said("Mnu_SaveFast", {Answer::kNo}), ask + to_end);
+  EXPECT_EQ(said(kNo), ask + to_end);
   platform.files["/a.txt"] = "their";
-  EXPECT_EQ(Said("Mnu_SaveFast", {Answer::kNo}), ask + "\r\nSoubor na disku mezitím změnil jiný program!" + to_end);
-  EXPECT_EQ(platform.files["/a.txt"], "their");
+  EXPECT_EQ(said(kNo), ask + written + to_end);
   documents.SwitchTo(2);  // each document has its own
   EXPECT_EQ(editor.files.outside.OfCurrent(), OutsideChange::kNone);
   editor.opener.OpenPath("/a.txt");
-  EXPECT_EQ(Said("Mnu_SaveFast", {Answer::kNo}), ask + to_end);
+  EXPECT_EQ(said(kNo), ask + to_end);
   documents.SwitchTo(1);
-  Said("Mnu_SaveFast", {Answer::kYes, Answer::kYes});
-  EXPECT_EQ(platform.files["/a.txt"], "mine");
-  EXPECT_EQ(editor.files.outside.OfCurrent(), OutsideChange::kNone);
+  int asked = 0;
+  platform.on_message = [&] { editor.text.Type(std::to_string(++asked)); };
+  said(kYes);
+  EXPECT_EQ(platform.files["/a.txt"], "12mine");  // as it is when the second question is answered
+  EXPECT_EQ(StateOf(documents), "(/a.txt)|a.txt|/a.txt|/a.txt|0");
   platform.files.erase("/a.txt");
-  EXPECT_EQ(Said("Mnu_SaveFast", {Answer::kNo}), ask + "\r\nSoubor na disku už není!" + to_end);
-  Said("Mnu_SaveFast", {Answer::kYes});
-  EXPECT_EQ(platform.files["/a.txt"], "mine");
+  EXPECT_EQ(said(kYes), ask + gone + to_end + "write /a.txt; recent /a.txt; ");
+  EXPECT_EQ(editor.files.outside.OfCurrent(), OutsideChange::kNone);
+  platform.files["/a.txt"] = "their";
   documents.ClearCurrent();
   EXPECT_EQ(editor.files.outside.OfCurrent(), OutsideChange::kNone);
 }
 
-TEST_F(FilesTest, AFailedSaveIsToldAndChangesNothing) {
-  platform.files["/a.txt"] = "old";
-  platform.write_errors["/a.txt"] = ENOSPC;
-  editor.text.SetText("new");
-  platform.answers = {Answer::kYes, Answer::kOk, Answer::kYes, Answer::kOk};
-  editor.saver.SaveToPath("/a.txt");
-  const std::string told = "message 0 \"Chyba ukládání!\r\nSoubor: /a.txt\r\nKód chyby " + std::to_string(ENOSPC);
-  EXPECT_EQ(platform.calls.back(), told + "\" \"Pelmar VEX\"");
-  EXPECT_EQ(platform.files["/a.txt"], "old");
-  EXPECT_EQ(documents.CurrentPath(), "");
-  EXPECT_TRUE(documents.Marked());
-  platform.kept_content = "/install/puvodni-1-a.txt";
-  editor.saver.SaveTextCopy("/a.txt", "copy");
-  EXPECT_EQ(platform.calls.back(), told +
-                                       "\r\nSoubor je poškozen, jeho původní obsah leží v "
-                                       "/install/puvodni-1-a.txt\" \"Pelmar VEX\"");
-  EXPECT_EQ(editor.settings.RecentFiles[0], "");
-}
-
-// required: the file is on the disk and the path changed, but title, tab and flag didn't follow
-TEST_F(FilesTest, SavingANameWithoutDotFailsHalfWay) {
-  editor.text.SetText("new");
-  platform.answers = {Answer::kOk};
-  editor.saver.SaveToPath("/README");
-  EXPECT_EQ(platform.files["/README"], "new");
-  EXPECT_EQ(documents.CurrentPath(), "/README");
-  EXPECT_EQ(StateOf(documents), "()*||||1");
-  EXPECT_EQ(platform.calls.back(), "message 0 \"Chyba ukládání!\r\nSoubor: /README\r\nKód chyby " +
-                                       std::to_string(EINVAL) + "\" \"Pelmar VEX\"");
-}
-
-TEST_F(FilesTest, TheDialogsSaveTheSelectionAsACopyAndTheWholeText) {
-  editor.text.SetText("abc");
-  EXPECT_EQ(Said("mnuulvyb", {}), "");  // nothing selected: not even a dialog
-  editor.text.Select(1, 3);
-  platform.saves = {std::nullopt, "/part.txt", std::nullopt, "/all.txt"};
-  EXPECT_EQ(Said("mnukopsoub", {}), "save \"" + std::string(kDocumentFilter) + "\" 2");
-  EXPECT_TRUE(platform.files.empty());
-  editor.commands.Run("mnuulvyb");
-  EXPECT_EQ(platform.files["/part.txt"], "bc");
-  EXPECT_EQ(StateOf(documents), "()*||||1");
-  EXPECT_EQ(editor.settings.RecentFiles[0], "/part.txt");
-  EXPECT_EQ(Said("mnu_save_st", {}), "save \"" + std::string(kDocumentFilter) + "\" 2");
-  editor.commands.Run("mnu_save_st");
-  EXPECT_EQ(platform.files["/all.txt"], "abc");
-  EXPECT_EQ(documents.CurrentPath(), "/all.txt");
-}
-
-TEST_F(FilesTest, InsertFromFileReadsOneField) {
+TEST(InsertFromFile, ReadsOneField) {
   const std::pair<std::string_view, std::string_view> cases[] = {
       {" \t abc \t,def", "abc"}, {"\"a, b\r\nc\" ,d", "a, b\r\nc"}, {"", ""},    {",x", ""},
       {"\"open", "open"},        {"a \"b\" c\nd", "a \"b\" c"},     {"   ", ""}, {"\r\nx", ""},
   };
   for (const auto& [bytes, field] : cases) EXPECT_EQ(FirstField(bytes), field) << bytes;
-  editor.text.SetText("12345");
-  editor.text.Select(1, 3);
-  platform.files = {{"/in.txt", "abc, rest"}, {"/empty.txt", ""}};
-  platform.opens = {"/in.txt", "/none.txt", "/empty.txt", std::nullopt};
-  editor.commands.Run("mnuzesouboru");
-  EXPECT_EQ(Text(), "1abc45");
-  EXPECT_EQ(editor.settings.RecentFiles[0], "/in.txt");
-  editor.text.Select(1, 3);
-  // A failure is silent, and where there is no field to read, the selection isn't lost.
-  for (int i = 0; i < 3; ++i) editor.commands.Run("mnuzesouboru");
-  EXPECT_EQ(Text(), "1abc45");
-  EXPECT_FALSE(editor.file_number.IsOpen());
-}
-
-TEST_F(FilesTest, NewDocumentAsksAlways) {
-  EXPECT_EQ(Said("New", {Answer::kNo}), "message 52 \"Opravdu nový soubor ?\" \"Nový\"");
-  editor.text.SetText("x");
-  Said("New", {Answer::kNo});
-  EXPECT_EQ(Text(), "x");
-  Said("mnuclean", {Answer::kYes});
-  EXPECT_EQ(Text(), "");
-  EXPECT_FALSE(documents.Marked());
-}
-
-TEST_F(FilesTest, ToolbarClipboardCommands) {
-  editor.text.SetText("abcd");
-  editor.text.Select(1, 3);
-  editor.commands.Run("Copy");
-  EXPECT_EQ(platform.clipboard, "bc");
-  platform.clipboard = "XY";
-  editor.commands.Run("Paste");
-  EXPECT_EQ(Text(), "aXYbcd");  // required: the selection's text stays, behind what was pasted
-  editor.text.Select(0, 2);
-  editor.commands.Run("Cut");
-  EXPECT_EQ(platform.clipboard, "aX");
-  EXPECT_EQ(Text(), "Ybcd");
 }
 
 }  // namespace

@@ -21,23 +21,31 @@ double EndOf(double x, std::string_view text) {
 constexpr double kPage = 18;  // ten columns for text, eight for the "Z"s
 
 TEST(PrintLayout, WrapsAtBlanksAndBreaks) {
-  const std::pair<std::string, std::vector<PrintedPiece>> cases[] = {
-      {"", {}},
-      {"abcd efgh ij", {{0, 0, "abcd"}, {0, 5, "efgh"}, {1, 0, "ij"}}},
-      {"abcd efghi", {{0, 0, "abcd"}, {0, 5, "efghi"}}},  // fits exactly
-      {"a   b", {{0, 0, "a"}, {0, 4, "b"}}},
-      {"a\tb c", {{0, 0, "a\tb"}, {1, 0, "c"}}},
-      // Blanks run past the margin like words without width, each line with as many as fit.
-      {"            x", {{1, 1, "x"}}},
+  const std::pair<std::string, std::string> cases[] = {
+      {"", ""},
+      {"\r\n", ""},
+      {"abcd efgh ij", "abcd efgh|ij"},
+      {"abcd efghi", "abcd efghi"},  // fits exactly
+      {"a   b", "a   b"},
+      {"a\tb c", "a\tb|c"},
+      {"            x", "| x"},  // blanks run past the margin like words without width, each line with as many as fit
       // A wide word begins a line and isn't broken. required: a first one too
-      {"ab abcdefghijklmnopqrstuvwxyz c", {{0, 0, "ab"}, {1, 0, "abcdefghijklmnopqrstuvwxyz"}, {2, 0, "c"}}},
-      {"abcdefghijk", {{1, 0, "abcdefghijk"}}},
-      {"ab\r\n\r\ncd\nef gh\rij", {{0, 0, "ab"}, {2, 0, "cd"}, {3, 0, "ef"}, {3, 3, "gh"}, {4, 0, "ij"}}},
-      // Only what stands before the break has to fit.
-      {"abcde fg\r\nhijklmno p", {{0, 0, "abcde"}, {0, 6, "fg"}, {1, 0, "hijklmno"}, {1, 9, "p"}}},
-      {"\r\n", {}},
+      {"ab abcdefghijklmnopqrstuvwxyz c", "ab|abcdefghijklmnopqrstuvwxyz|c"},
+      {"abcdefghijk", "|abcdefghijk"},
+      {"ab\r\n\r\ncd\nef gh\rij", "ab||cd|ef gh|ij"},
+      {"abcde fg\r\nhijklmno p", "abcde fg|hijklmno p"},  // only what stands before the break has to fit
   };
-  for (const auto& [text, pieces] : cases) EXPECT_EQ(LayOutForPrint(text, kPage, EndOf), pieces) << text;
+  for (const auto& [text, paper] : cases) {
+    std::vector<std::string> lines(1);
+    for (const PrintedPiece& piece : LayOutForPrint(text, kPage, EndOf)) {
+      lines.resize(piece.line + 1);
+      lines.back().resize(static_cast<std::size_t>(piece.x), ' ');
+      lines.back() += piece.text;
+    }
+    std::string put = lines[0];
+    for (std::size_t line = 1; line < lines.size(); ++line) put += '|' + lines[line];
+    EXPECT_EQ(put, paper) << text;
+  }
 }
 
 TEST(PrintName, IsTheFilesName) {
@@ -59,43 +67,37 @@ struct PrintTest : testing::Test {
     platform.paper_width = kPage;
     editor.text.SetText("a b\r\nc\r\nd\r\ne\r\n\r\n\r\n\r\nf");
   }
+
+  // What a print asks and puts on paper.
+  std::string Printed(std::deque<Answer> answers) {
+    platform.answers = std::move(answers);
+    PrintDocument(editor, look);
+    return platform.TakeTold();
+  }
 };
 
-TEST_F(PrintTest, FillsPageAfterPage) {
-  PrintDocument(editor, look);
-  EXPECT_EQ(platform.TakeCalls(),
-            (std::vector<std::string>{"busy 1", "print Pelmar VEX Courier New 12 italic", "put 0 0 \"a\"",
-                                      "put 0 2 \"b\"", "put 1 0 \"c\"", "put 2 0 \"d\"", "page", "put 0 0 \"e\"",
-                                      "page", "put 1 0 \"f\"", "busy 0"}));
-}
-
-TEST_F(PrintTest, AsksAboutTheSelection) {
+TEST_F(PrintTest, FillsPageAfterPageOfTheTextOrTheSelection) {
+  const std::string begin = "busy 1; print Pelmar VEX Courier New 12 italic; put 0 0 \"a\"; ";
+  const std::string whole =
+      begin + "put 0 2 \"b\"; put 1 0 \"c\"; put 2 0 \"d\"; page; put 0 0 \"e\"; page; put 1 0 \"f\"; busy 0; ";
+  EXPECT_EQ(Printed({}), whole);
   editor.text.Select(0, 1);
-  platform.answers = {Answer::kYes, Answer::kNo};
-  PrintDocument(editor, look);
-  EXPECT_EQ(platform.TakeCalls(),
-            (std::vector<std::string>{"message 52 \"Tisknout pouze výběr ?\" \"Tisk\"", "busy 1",
-                                      "print Pelmar VEX Courier New 12 italic", "put 0 0 \"a\"", "busy 0"}));
-  PrintDocument(editor, look);
-  EXPECT_EQ(platform.calls.size(), 12u);  // the whole text
+  const std::string ask = "message 52 \"Tisknout pouze výběr ?\" \"Tisk\"; ";
+  EXPECT_EQ(Printed({Answer::kYes}), ask + begin + "busy 0; ");
+  EXPECT_EQ(Printed({Answer::kNo}), ask + whole);
+  EXPECT_EQ(Printed({Answer::kNone}), ask);
   EXPECT_EQ(editor.text.SelText(), "a");
-  platform.TakeCalls();
-  platform.answers = {Answer::kNone};
-  PrintDocument(editor, look);
-  EXPECT_EQ(platform.calls.size(), 1u);  // only the question
 }
 
 TEST_F(PrintTest, NamesThePdfAndThrowsAnError) {
-  platform.print_outcome.pdf = "/doc/x.pdf";
-  platform.answers = {Answer::kOk};
   editor.text.SetText("");
-  PrintDocument(editor, look);
-  EXPECT_EQ(platform.calls.back(),
-            "message 64 \"Není nastavena žádná tiskárna. Text je vytištěn do souboru\r\n/doc/x.pdf\" \"Tisk\"");
-  platform.answers = {Answer::kOk};
-  platform.print_outcome.problem = "Chybí modul.";
-  PrintDocument(editor, look);
-  EXPECT_EQ(platform.calls.back(), "message 64 \"Chybí modul. Text je vytištěn do souboru\r\n/doc/x.pdf\" \"Tisk\"");
+  platform.print_outcome.pdf = "/doc/x.pdf";
+  for (const char* problem : {"", "Chybí modul."}) {
+    platform.print_outcome.problem = problem;
+    EXPECT_EQ(Printed({Answer::kOk}), "busy 1; print Pelmar VEX Courier New 12 italic; busy 0; message 64 \"" +
+                                          std::string(*problem ? problem : "Není nastavena žádná tiskárna.") +
+                                          " Text je vytištěn do souboru\r\n/doc/x.pdf\" \"Tisk\"; ");
+  }
   platform.print_outcome = {.error = EIO, .pdf = {}};
   EXPECT_THROW(PrintDocument(editor, look), RuntimeError);
   EXPECT_EQ(platform.busy, 0);
