@@ -43,12 +43,6 @@ class ScriptedPaper : public Paper {
 
 std::vector<std::string> ScriptedPlatform::TakeCalls() { return std::exchange(calls, {}); }
 
-std::string ScriptedPlatform::TakeTold() {
-  std::string told;
-  for (const std::string& call : TakeCalls()) told += call + "; ";
-  return told;
-}
-
 Answer ScriptedPlatform::Message(MessageType type, std::string_view text, std::string_view title) {
   calls.push_back("message " + std::to_string(static_cast<int>(type)) + ' ' + Quoted(text) + ' ' + Quoted(title));
   if (on_message) on_message();

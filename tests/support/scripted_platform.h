@@ -25,8 +25,6 @@ class ScriptedPlatform : public Platform {
   std::vector<std::string> calls;
   // The calls so far, which are then forgotten.
   std::vector<std::string> TakeCalls();
-  // The same in one line, "; " behind each.
-  std::string TakeTold();
 
   std::deque<Answer> answers;  // to messages; an OK box takes only kOk, a question only kYes and kNo
   std::deque<std::optional<std::string>> inputs, opens, saves;
@@ -87,6 +85,13 @@ class ScriptedPlatform : public Platform {
   // By the codes of the upper-case letters: the Czech order is the real platform's affair.
   std::vector<std::size_t> SortedOrder(const std::vector<std::string_view>& texts) override;
   void SetBusyPointer(bool busy_now) override;
+
+  // The calls in one line, "; " behind each; they are forgotten then.
+  std::string TakeTold() {
+    std::string told;
+    for (const std::string& call : TakeCalls()) told += call + "; ";
+    return told;
+  }
 
  private:
   [[nodiscard]] int ReadError(const std::string& path) const;

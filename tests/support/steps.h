@@ -3,16 +3,21 @@
 
 #include <gtest/gtest.h>
 
-#include <QAbstractItemView>
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAbstractSlider>
+#include <QAction>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QProgressBar>
+#include <QTest>
+#include <algorithm>
 #include <string>
 
 #include "platform/qt/controls/swatch.h"
+#include "platform/qt/controls/text_box.h"
+#include "platform/qt/convert.h"
 
 namespace pelmar {
 
@@ -39,16 +44,25 @@ inline QWidget* Named(const QWidget& window, const QString& name) {
   return control;
 }
 
-// "Command1!" clicks a button; "Text1=abc" types over a field or an editable box; "VScroll1=3" moves a bar; "List1=2"
-// makes a row of a list (from 0) the current one, "Combo1=2" one of a box that isn't editable.
+// "Command1!" clicks a button or an item of a menu; "Text1=abc" types over a field or an editable box; "VScroll1=3"
+// moves a bar; "List1=2" makes a row of a list (from 0) the current one, "Combo1=2" one of a box that isn't editable.
+// "Text1:abc\r" types at the caret of whatever has the name; a Delete is \x7f, Backspace \b, Escape \x1b.
 inline void Work(const QWidget& window, const char* steps) {
   for (const QString& step : Words(QString::fromUtf8(steps))) {
-    const bool click = step.endsWith(QLatin1Char('!'));
-    const auto equals = step.indexOf(QLatin1Char('='));
-    QWidget* control = Named(window, click ? step.chopped(1) : step.left(equals));
-    const QString value = step.mid(equals + 1);
-    if (auto* button = qobject_cast<QAbstractButton*>(control); button && click) {
+    const auto end = std::find_if(step.begin(), step.end(), [](QChar c) { return QLatin1String("!=:").contains(c); });
+    const QString name = step.left(end - step.begin()), value = step.mid(name.size() + 1);
+    const QChar act = step.size() > name.size() ? *end : QChar();
+    if (auto* item = window.findChild<QAction*>(name); item && act == QLatin1Char('!')) {
+      item->trigger();
+      continue;
+    }
+    QWidget* control = Named(window, name);
+    if (auto* button = qobject_cast<QAbstractButton*>(control); button && act == QLatin1Char('!')) {
       button->click();
+    } else if (control && act == QLatin1Char(':')) {
+      QTest::keyClicks(control, value);
+    } else if (auto* text = qobject_cast<TextBox*>(control)) {
+      text->Buffer().SetText(TextFromQString(value));
     } else if (auto* field = qobject_cast<QLineEdit*>(control)) {
       field->setText(value);
     } else if (auto* box = qobject_cast<QComboBox*>(control)) {
@@ -75,6 +89,8 @@ inline QString Shown(const QWidget* control) {
     shown = label->text();
   } else if (auto* field = qobject_cast<const QLineEdit*>(control)) {
     shown = field->text();
+  } else if (auto* text = qobject_cast<const TextBox*>(control)) {
+    shown = TextToQString(text->Buffer().Text());
   } else if (auto* box = qobject_cast<const QComboBox*>(control)) {
     shown = box->currentText();
   } else if (auto* bar = qobject_cast<const QAbstractSlider*>(control)) {
@@ -97,6 +113,18 @@ inline std::string State(const QWidget& window, const char* names) {
   for (const QString& name : Words(QString::fromUtf8(names)))
     if (const QWidget* control = Named(window, name)) shown += name + QLatin1Char('=') + Shown(control);
   return shown.join(QLatin1Char(' ')).toStdString();
+}
+
+// Expects after the steps what the second line says of the controls that it names: "Label1=1% Text1='a b'".
+inline void ExpectState(const QWidget& window, const char* steps, const char* state) {
+  Work(window, steps);
+  QStringList shown;
+  const QStringList expected = Words(QString::fromUtf8(state));
+  for (const QString& word : expected) {
+    const QString name = word.left(word.indexOf(QLatin1Char('=')));
+    if (const QWidget* control = Named(window, name)) shown += name + QLatin1Char('=') + Shown(control);
+  }
+  EXPECT_EQ(shown.join(QLatin1Char(' ')).toStdString(), expected.join(QLatin1Char(' ')).toStdString()) << steps;
 }
 
 }  // namespace pelmar

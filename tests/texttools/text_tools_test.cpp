@@ -1,9 +1,14 @@
 #include <gtest/gtest.h>
 
+#include <vector>
+
 #include "support/marked_text.h"
+#include "support/random_source.h"
 #include "support/scripted_platform.h"
 #include "support/whole_editor.h"
 #include "text/codepage.h"
+#include "texttools/column_format.h"
+#include "texttools/random_text.h"
 
 namespace pelmar {
 namespace {
@@ -76,6 +81,115 @@ TEST(TextTools, EachCommandLeavesItsTextAndCalls) {
     const bool forgets = std::string_view(c.command) == "mnunewclip";  // required: on No as well
     EXPECT_EQ(editor.documents.CurrentPath(), forgets ? "" : "/a.txt") << c.command;
   }
+}
+
+// The told loops: draws in their order, numbers from 1.
+struct Told {
+  const Draw& draw;
+
+  int Number(int from, int to) const { return static_cast<int>(draw() * (to - from + 1)) + from; }
+  std::string Letters(char first, int count) const {
+    std::string letters;
+    for (; count > 0; --count) letters += static_cast<char>(first + Number(0, 25));
+    return letters;
+  }
+  std::string Sentence() const {
+    int more = Number(10, 50) - 1;
+    std::string text = Letters('A', 1);
+    for (; more > 0; --more) {
+      text += Letters('a', 1);
+      const bool ends = Number(1, 4) == 2, comma = ends && Number(1, 4) == 2;
+      text += comma ? ", " : ends ? " " : "";
+    }
+    const int stop = Number(1, 4);
+    return text + (stop == 4 ? "! " : stop == 3 ? "? " : ". ");
+  }
+  std::string Word() const { return Letters('a', Number(2, 10)) + ' '; }
+  std::string Name() const {
+    std::string name;
+    for (int part = 0; part < 2; ++part) {
+      const int more = Number(2, 10) - 1;
+      name += Letters('A', 1);
+      name += Letters('a', more) + ' ';
+    }
+    return name;
+  }
+  // The drawn word goes out, those behind it move down.
+  std::string Shuffle(const std::string& text) const {
+    std::vector<std::string> words(1);
+    for (std::size_t i = 0; i < text.size(); ++i) {
+      words.back() += text[i];
+      if (text[i] == ' ' && i + 1 < text.size()) words.emplace_back();
+    }
+    std::string out;
+    while (!words.empty()) {
+      const auto word = words.begin() + Number(1, static_cast<int>(words.size())) - 1;
+      out += *word;
+      words.erase(word);
+    }
+    return out;
+  }
+};
+
+// required: the last word of a shuffled text runs into its follower
+TEST(RandomText, EqualsTheToldLoopsAndTakesTheirDraws) {
+  RandomSource random(7);
+  for (unsigned round = 0; round < 3000; ++round) {
+    const std::string text = random.Text(round % 8 != 0 ? 40 : 900, "ab  \r\n");
+    RandomSource source(round), told_source(round);
+    const Draw draw = source.Draws(), told_draw = told_source.Draws();
+    const Told told{told_draw};
+    ASSERT_EQ(RandomSentence(draw), told.Sentence());
+    ASSERT_EQ(RandomWord(draw), told.Word());
+    ASSERT_EQ(RandomName(draw), told.Name());
+    ASSERT_EQ(draw(), told_draw());
+    ASSERT_EQ(ShuffledWords(text, draw), told.Shuffle(text)) << text;
+  }
+}
+
+std::string Shown(const Rows& rows) {
+  std::string shown;
+  for (const std::string& row : rows) shown += row + '|';
+  return shown;
+}
+
+TEST(ColumnFormat, TheLoadMakesItsRowsAndTellsTheShortest) {
+  const std::pair<std::string_view, std::string> cases[] = {
+      {"", " 0"},
+      {"a", " 1"},  // required: one character gives no row
+      {"ab", "ab| 2"},
+      {"ab\r\ncde", "ab|cde| 2"},
+      {"abc\r\n", "abc|bc\r\n| 4"},  // required: the extra row
+      {"abc\r\nde\r\n", "abc|de|e\r\n| 3"},
+      {"abc\r\n\r\nde", "abc||de| 0"},
+      {"abc\r\n\r\n", "abc|| 3"},           // the walk ends before the line feed of the empty line
+      {"ab\ncd", "cd| 2"},                  // a bare line feed makes no row
+      {"ab\rc\r\n", "ab|b\rc|\rc\r\n| 4"},  // only a line feed ends a line
+      {"ab\r\nd", "ab| 2"},                 // required: a last line of one character gives no row
+  };
+  for (const auto& [selected, shown] : cases) {
+    const SelectedRows result = RowsOfSelection(selected);
+    EXPECT_EQ(Shown(result.rows) + ' ' + std::to_string(result.shortest), shown) << selected;
+  }
+}
+
+TEST(ColumnFormat, OperationsActAtTheDistance) {
+  const auto after = [](auto operation, auto... arguments) {
+    Rows rows{"ab", "cde", "", "x"};
+    operation(rows, arguments...);
+    return Shown(rows) + ' ';
+  };
+  const std::string_view shown[] = {
+      "-ab|-cde|-|-x| b|de||| ab-|cde-|-|x-| a|cd||| ",
+      "a-b|c-de||x-| a|ce||x| a-b|cd-e||-x| b|ce||x| ",
+      "ab-|cd-e||x| ab|cd||x| -ab|c-de||x| ab|de||x| ",
+      "ab|cde-||x| ab|cde||x| ab|-cde||x| ab|cde||x| ",
+  };
+  for (std::size_t distance = 0; distance < std::size(shown); ++distance)
+    EXPECT_EQ(after(InsertFromStart, distance, "-") + after(RemoveFromStart, distance) +
+                  after(InsertFromEnd, distance, "-") + after(RemoveFromEnd, distance),
+              shown[distance]);
+  EXPECT_EQ(ShortestRow({"abc", "ab", "x"}) + 10 * ShortestRow({}), 1u);
 }
 
 }  // namespace
