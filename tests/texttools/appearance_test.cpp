@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-
-#include "platform/color.h"
 #include "platform/twips.h"
 #include "shell/layout_picker.h"
 #include "support/plain_view.h"
@@ -21,11 +18,7 @@ std::string Shown(const TwipsRect& place) {
 
 // The look, the alignment and the window's place, and the calls that set marks or the window's state.
 std::string Shown(PlainView& view) {
-  std::string shown = view.look.font_name + ' ' + std::to_string(std::lround(view.look.font_size));
-  if (view.look.bold) shown += " bold";
-  if (view.look.italic) shown += " italic";
-  shown += ' ' + ColorToHex(view.look.fore_color) + ' ' + ColorToHex(view.look.back_color) + ' ' +
-           std::to_string(view.alignment) + ' ' + Shown(view.place);
+  std::string shown = Told(view.look) + ' ' + std::to_string(view.alignment) + ' ' + Shown(view.place);
   for (const std::string& call : std::exchange(view.calls, {}))
     if (call.ends_with(" mark") || call == "normal") shown += ", " + call;
   return shown;

@@ -128,7 +128,7 @@ TEST_F(SearchTest, ReplaceReadsItsReplacementAgain) {
        "frcl -/- a |\xFF\xFF"
        "b"},                                          // required: every second of adjacent hits stays
       {"|x\xFFy", "q", "z", "A", "frcl -/- q |xzy"},  // required: a character 255 of the text goes too
-      {"|abc", "", "z", "A", "frcl -/-  |abc"},
+      {"ab|c", "", "z", "A", "frcl -/-  |abc"},
       {"|aba", "a", "x\xFF", "A",
        "frcl -/- a |x\xFF"
        "bx\xFF"},  // would never end by the plain rule

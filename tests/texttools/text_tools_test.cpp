@@ -49,7 +49,7 @@ TEST(TextTools, EachCommandLeavesItsTextAndCalls) {
       {"MnuSelTextDada", "a|b", "a|b", "busy 1 busy 0 reseed 1"},
 
       {"mnuadd", "a[bc|d", "aXY|bcd"},  // required: never over the selection
-      {"Paste", "a[bc|d", "aXY|bcd"},
+      {"Paste", "a|bc[d", "aXY|bcd"},
       {"mnucut", "a[bc|d", "a|d", "clipboard \"bc\" "},
       {"Cut", "a[bc|d", "a|d", "clipboard \"bc\" "},
       {"Copy", "a[bc|d", "a[bc|d", "clipboard \"bc\" "},
