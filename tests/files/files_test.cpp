@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <sstream>
 
 #include "files/encodings.h"
 #include "files/line_ends.h"
@@ -24,7 +25,9 @@ using enum Answer;
 
 // What a command makes of a changed document of /a.txt, with a file chosen and all questions answered: what is asked
 // and done, text, current path and state of the document, and the files, where these are other ones now.
-std::string Outcome(const std::string& command, const std::string& chosen, Answer answer) {
+std::string Outcome(const std::string& step) {
+  std::string command, chosen, answer;
+  std::istringstream(step) >> command >> chosen >> answer;
   ScriptedPlatform platform;
   WholeEditor editor(platform);
   PlainView view;
@@ -61,9 +64,9 @@ std::string Outcome(const std::string& command, const std::string& chosen, Answe
   };
   const std::string before = state();
   platform.calls.clear();
-  platform.answers.assign(2, answer);
-  platform.opens = platform.saves = {chosen.empty() ? std::nullopt : std::optional(chosen)};
-  std::string told = "#### " + command + ' ' + chosen + (answer == kYes ? " Ano" : answer == kNo ? " Ne" : "") + '\n';
+  platform.answers.assign(2, answer == "Ano" ? kYes : answer == "Ne" ? kNo : answer == "Nic" ? kNone : kOk);
+  platform.opens = platform.saves = {chosen == "-" ? std::nullopt : std::optional(chosen)};
+  std::string told;
   try {
     editor.commands.Run(command);
   } catch (const RuntimeError& error) {
@@ -78,68 +81,18 @@ std::string Outcome(const std::string& command, const std::string& chosen, Answe
   return told;
 }
 
-// Everything as it was when somebody looked at it last. required: a name without a full stop stops opening and saving
-// half-way; a path to convert is cut at its first full stop, be it a folder's, a longer old ".unx" keeps its tail, and
-// a ".dos" loses what stands behind the last line feed.
+// All is as it was when somebody looked at it last. Each line of the kept text that begins with "####" is a command,
+// its file ("-" where none is chosen) and what questions are answered; below it stands what came of it. required: a
+// name without a full stop stops opening and saving half-way; a path to convert is cut at its first full stop, be it a
+// folder's, a longer old ".unx" keeps its tail, and a ".dos" loses what stands behind the last line feed.
 TEST(Files, CommandsTellAndDoTheKept) {
-  const struct {
-    const char *command, *chosen;
-    Answer answer = kOk;
-  } cases[] = {
-      {"mnu_open_st", ""},
-      {"mnu_open_st", "/b.txt"},
-      {"mnu_open_st", "/name"},
-      {"mnu_open_st", "/no"},
-      {"Recent", ""},
-      {"Mnu_Reload_File", "", kNo},
-      {"Mnu_Reload_File", "", kYes},
-      {"mnu_save_st", ""},
-      {"mnu_save_st", "/x.y.txt"},
-      {"mnu_save_st", "/b.txt", kNo},
-      {"mnu_save_st", "/full.txt"},
-      {"mnu_save_st", "/newname"},
-      {"mnukopsoub", ""},
-      {"mnukopsoub", "/new.txt"},
-      {"mnuulvyb", "/b.txt", kYes},
-      {"mnuulvyb", "/full.txt"},
-      {"mnuzesouboru", ""},
-      {"mnuzesouboru", "/fields"},
-      {"mnuzesouboru", "/no"},
-      {"mnuzesouboru", "/empty"},
-      {"New", "", kNo},
-      {"mnuclean", "", kYes},
-      {"mnuprint", "", kYes},
-      {"Print", "", kNo},
-      {"mnuprint", "", kNone},
-      {"1250", "/bad1.utf8"},
-      {"1250", "/bad2.utf8"},
-      {"1250", "/bad3.utf8"},
-      {"1250", "/outside.utf8", kNo},
-      {"1250", "/outside.utf8", kYes},
-      {"1250", "/control", kNo},
-      {"1250", "/a.txt", kNo},
-      {"1250", "/a.txt", kYes},
-      {"1250", "/a.1250"},
-      {"1250", "/no"},
-      {"1250", "/full.utf8"},
-      {"utf8", "/full.utf8"},
-      {"utf8", "/no"},
-      {"utf8", "/control", kNo},
-      {"utf8", "/control", kYes},
-      {"unx", "/lines.txt"},
-      {"dos", "/lines.txt"},
-      {"unx", "/a.txt"},
-      {"dos", "/a.txt"},
-      {"dos", "/folder.d/lines.txt"},
-      {"unx", "/name"},
-      {"unx", "/a.unx"},
-      {"unx", "/no.txt"},
-      {"dos", "/full.utf8"},
-  };
+  const std::string kept = Content(PELMAR_KEPT_FILE_COMMANDS);
+  std::istringstream lines(kept);
   std::string told;
-  for (const auto& c : cases) told += Outcome(c.command, c.chosen, c.answer);
+  for (std::string line; std::getline(lines, line);)
+    if (line.starts_with("#### ")) told += line + '\n' + Outcome(line.substr(5));
   for (std::size_t at = 0; (at = told.find('\r', at)) != std::string::npos;) told.replace(at, 1, "\\r");
-  EXPECT_EQ(told, Content(PELMAR_KEPT_FILE_COMMANDS));
+  EXPECT_EQ(told, kept);
 }
 
 struct FilesTest : testing::Test {
@@ -239,8 +192,15 @@ TEST_F(FilesTest, AFastSaveAsksTwiceAndSaysWhatAnotherProgramDid) {
 
 TEST(InsertFromFile, ReadsOneField) {
   const std::pair<std::string_view, std::string_view> cases[] = {
-      {" \t abc \t,def", "abc"}, {"\"a, b\r\nc\" ,d", "a, b\r\nc"}, {"", ""},    {",x", ""},
-      {"\"open", "open"},        {"a \"b\" c\nd", "a \"b\" c"},     {"   ", ""}, {"\r\nx", ""},
+      {" \t abc \t,def", "abc"},
+      {"\"a, b\r\nc\" ,d", "a, b\r\nc"},
+      {"", ""},
+      {",x", ""},
+      {"\"open", "open"},
+      {"\"\",x", ""},
+      {"a \"b\" c\nd", "a \"b\" c"},
+      {"   ", ""},
+      {"\r\nx", ""},
   };
   for (const auto& [bytes, field] : cases) EXPECT_EQ(FirstField(bytes), field) << bytes;
 }

@@ -23,7 +23,8 @@ TEST(TextTools, EachCommandLeavesItsTextAndCalls) {
       {"mnusmall", "x[ŘEKA|x"_w, "xřeka|x"_w},
       {"mnubig", "x[řeka|x"_w, "xŘEKA|x"_w},
       {"mnubig", "a|b", "a|b"},  // nothing selected, nothing said
-      {"mnupropercase", "[ŽLUŤOUČKÝ kůň\tčeká\r\nna-dvoře. že|"_w, "Žluťoučký Kůň\tČeká\r\nNa-dvoře. Že|"_w},
+      {"mnupropercase", "[ŽLUŤOUČKÝ kůň\tčeká\r\nna-dvoře. a\vb\fc\0d|"_w,
+       "Žluťoučký Kůň\tČeká\r\nNa-dvoře. A\vB\fC\0D|"_w},
       {"mnuprevrat", "x[ab\r\nc|x", "xc\n\rba|x"},
       {"mnuHackyCarky", "x[Řeka|x"_w, "xReka|x"},
       {"mnu_untext", "x[řeka|x"_w, "xřeKA|x"_w, "reseed 1"},

@@ -139,10 +139,11 @@ TEST_F(TextWindowsTest, FormatujWorksOnTheRowsAndWritesThemBack) {
       {"[ab\r\ncde|", "Text1=- Text2=+ Command3! Command4! Hk=9", "List1=-ab+|-cde+ Hk=4", "-ab+\r\n-cde+|"},
       {"[ab\r\ncde|", "Hz=1 Command6!", "List1=a|ce Label4=1", "a\r\nce|"},
       {"[ab\r\ncde|", "Hk=1 Command5!", "List1=b|ce Label4=1", "b\r\nce|"},
+      // required: what is edited by hand isn't counted anew, and the row behind the last line is there
       {"[ab\r\ncd\r\n|", "Text3=nobody List1=1 Text3=x", "List1=ab|>x|d\r\n Label2=3 Label4=2", "ab\r\nx\r\nd\r\n|"},
-      {"[ab\r\ncd\r\n|", "List1=2 Text3:z", "Text3=d\r\nz", "ab\r\ncd\r\nd\r\nz|"},  // required: no new count
-      {"[a|", "Command3! Command4! Command5! Command6! Hz=9", "List1= Label2=0 Label4=0 Hz=0",
-       "|"},  // required: no row
+      {"[ab\r\ncd\r\n|", "List1=2 Text3:z", "Text3=d\r\nz", "ab\r\ncd\r\nd\r\nz|"},
+      // required: one character gives no row, and no rows take its place
+      {"[a|", "Command3! Command4! Command5! Command6! Hz=9", "List1= Label2=0 Label4=0 Hz=0", "|"},
       {"a|b", "Hz=9 Hk=9", "List1= Label2=0 Label4=0 Hz=0 Hk=0", "a|b"},
   };
   for (const auto& c : cases) {
@@ -171,21 +172,14 @@ TEST(ColorDialogWindow, PicksAndRemembers) {
   Inside([&] { ExpectState(dialog, "Command2!", "Label11=#0A1400 Picture13=#0a1400 Picture3=#0a1400"); });
   EXPECT_EQ(dialog.PickColor(Rgb(10, 20, 0)), 0);  // required: Storno gives the run's last colour, black at first
   Inside([&] {
-    const std::pair<const char*, const char*> steps[] = {
-        {"VScroll10=1 VScroll11=2 VScroll12=3", "Label11=#010203 Label1=1 Label2=2 Label3=3 Picture3=#010203"},
-        {"Picture9!", "Label11=#FFFF00 VScroll11=255 Label2=255"},
-        {"Command6!", "Label11=#E6E600"},
-        {"Command7!", "Label11=#FDFD00"},
-        {"Command8!", "Label11=#FD00FD"},
-        {"Command3!", "Label11=#02FF02"},
-        {"Command11!", "Label11=#2CFF2C"},
-        {"Command4!", "Label11=#727272"},
-        {"Command10!", "Label11=#FFFFFF"},
-        {"Command5! VScroll10=9", "Label11=#094080"},
-        {"Command9!", "Label11=#003777"},
-        {"Picture9! Command6! Command1!", "List1=230,230,000"},
-    };
-    for (const auto& [step, state] : steps) ExpectState(dialog, step, state);
+    ExpectState(dialog, "VScroll10=1 VScroll11=2 VScroll12=3",
+                "Label11=#010203 Label1=1 Label2=2 Label3=3 Picture3=#010203");
+    ExpectState(dialog, "Picture9!", "Label11=#FFFF00 VScroll11=255 Label2=255");
+    ExpectState(dialog, "Command6! Command7! Command8! Command3! Command11!", "Label11=#2CFF2C");
+    ExpectState(dialog, "Command4!", "Label11=#727272");
+    ExpectState(dialog, "Command10!", "Label11=#FFFFFF");
+    ExpectState(dialog, "Command5! VScroll10=9 Command9!", "Label11=#003777");
+    ExpectState(dialog, "Picture9! Command6! Command1!", "List1=230,230,000");
   });
   EXPECT_EQ(dialog.PickColor(0), Rgb(230, 230, 0));
   Inside([&] {
