@@ -47,6 +47,7 @@ std::string Outcome(const std::string& step) {
                     {"/bad3.utf8", "a\r\nb\rc\n\nůx\xC5y"},
                     {"/control", "\xC2\x85"},
                     {"/empty", ""},
+                    {"/far.utf8", "😀"},
                     {"/fields", "abc, rest"},
                     {"/folder.d/lines.txt", "a\nb"},
                     {"/full.utf8", "a"},

@@ -148,6 +148,7 @@ TEST(TextStops, StepsAndWords) {
   EXPECT_EQ(PreviousStop(text, 6), 5u);  // from between CR and LF
   EXPECT_EQ(NextStop(text, 6), 7u);
   EXPECT_EQ(NextWord("\r\n\na", 1), 2u);
+  EXPECT_EQ(PreviousWord("  a", 2), 0u);
   for (const auto stay : {NextStop, NextWord}) EXPECT_EQ(stay(text, 15), 15u);
   for (const auto stay : {PreviousStop, PreviousWord}) EXPECT_EQ(stay(text, 0), 0u);
 
