@@ -1,6 +1,7 @@
 // A main window without glass: it keeps what it is told and writes down what it is asked, in order.
 #pragma once
 
+#include <cmath>
 #include <string>
 #include <vector>
 
@@ -49,5 +50,11 @@ class PlainView : public MainView {
     calls.emplace_back(call);
   }
 };
+
+// A look in one line.
+inline std::string Told(const EditorLook& look) {
+  return look.font_name + ' ' + std::to_string(std::lround(look.font_size)) + (look.bold ? " bold" : "") +
+         (look.italic ? " italic " : " ") + ColorToHex(look.fore_color) + ' ' + ColorToHex(look.back_color);
+}
 
 }  // namespace pelmar

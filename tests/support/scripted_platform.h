@@ -90,6 +90,13 @@ class ScriptedPlatform : public Platform {
   std::vector<std::size_t> SortedOrder(const std::vector<std::string_view>& texts) override;
   void SetBusyPointer(bool busy_now) override;
 
+  // The calls in one line, "; " behind each; they are forgotten then.
+  std::string TakeTold() {
+    std::string told;
+    for (const std::string& call : TakeCalls()) told += call + "; ";
+    return told;
+  }
+
  private:
   [[nodiscard]] int ReadError(const std::string& path) const;
   [[nodiscard]] int WriteError(const std::string& path) const;

@@ -4,8 +4,10 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "support/marked_text.h"
 #include "support/random_source.h"
 #include "text/caret_mover.h"
 #include "text/codepage.h"
@@ -14,165 +16,141 @@
 namespace pelmar {
 namespace {
 
-// Every character ten pixels, so that a width counts characters; `i` half of it.
-LayoutRules Rules(int columns, bool wrap = true, TextAlign align = TextAlign::kLeft) {
+// Every character ten pixels, and by `odd` a fraction more to each, as at scales between whole numbers.
+LayoutRules Rules(std::size_t width_pixels, bool wrap = true, std::size_t odd = 0) {
   LayoutRules rules;
-  rules.advances.of.fill(10 * kUnitsPerPixel);
-  rules.advances.of['i'] = 5 * kUnitsPerPixel;
-  rules.advances.tab_stop = 80 * kUnitsPerPixel;
-  rules.width = std::int64_t{columns} * 10 * kUnitsPerPixel;
-  rules.wrap = wrap;
-  rules.align = align;
-  return rules;
-}
-
-// A fraction to each advance, as at scales between whole numbers.
-LayoutRules OddRules(int width_pixels, bool wrap) {
-  LayoutRules rules = Rules(1, wrap);
   for (std::size_t code = 0; code < 256; ++code)
-    rules.advances.of[code] = static_cast<std::int32_t>(300 + code * 7 % 411);
+    rules.advances.of[code] = static_cast<std::int32_t>(10 * kUnitsPerPixel + code * odd % 411);
   rules.advances.tab_stop = 8 * rules.advances.of[' '];
-  rules.width = width_pixels * kUnitsPerPixel;
+  rules.width = static_cast<std::int64_t>(width_pixels) * kUnitsPerPixel;
+  rules.wrap = wrap;
   return rules;
 }
 
-struct Laid {
-  TextBuffer buffer;
-  TextLayout layout{buffer};
-  CaretMover mover{layout};
-
-  Laid(std::string text, const LayoutRules& rules) {
-    buffer.SetText(std::move(text));
-    layout.Lay(buffer, rules);
-  }
-  [[nodiscard]] std::vector<std::string> Rows() const {
-    std::vector<std::string> rows;
-    for (std::size_t row = 0; row < layout.RowCount(); ++row)
-      rows.push_back(buffer.Text().substr(layout.RowStart(row), layout.RowEnd(row) - layout.RowStart(row)));
-    return rows;
-  }
-  std::size_t Go(CaretMove move, bool select = false, std::size_t page = 1) {
-    mover.Go(buffer, move, select, page);
-    return buffer.Caret();
-  }
-};
-
-TEST(TextLayout, WrapsBehindBlanksAndBreaksLinesAtCrLfOnly) {
-  const struct {
-    std::string text;
-    int columns;
-    std::vector<std::string> rows;
-  } cases[] = {{"", 5, {""}},
-               {"a\n\rb\r\r\nc\r\n", 9, {"a\n\rb\r", "c", ""}},  // the last CR before LF makes the break
-               {"one two", 6, {"one ", "two"}},
-               {"one two", 3, {"one ", "two"}},        // the blank hangs over the edge
-               {"one  two", 3, {"one ", " ", "two"}},  // a second one does not
-               {"abc ", 3, {"abc "}},
-               {"ab cdefgh", 3, {"ab ", "cde", "fgh"}},
-               {"a\tb", 9, {"a\tb"}},
-               {"a\tb", 8, {"a\t", "b"}},
-               {"iiii a", 3, {"iiii ", "a"}},
-               {"ab", 0, {"a", "b"}},  // narrower than any character: one to a row
-               {std::string("a\xA0") + "b c", 3, {std::string("a\xA0") + "b ", "c"}}};  // a hard blank holds words
-  for (const auto& c : cases) EXPECT_EQ(Laid(c.text, Rules(c.columns)).Rows(), c.rows) << c.text << " in " << c.columns;
-  EXPECT_EQ(Laid("one two\r\nthree", Rules(3, false)).Rows(), (std::vector<std::string>{"one two", "three"}));
+std::int64_t Width(const LayoutRules& rules, std::string_view text) {
+  std::int64_t x = 0;
+  for (const char ch : text)
+    x = ch == '\t' ? (x / rules.advances.tab_stop + 1) * rules.advances.tab_stop
+                   : x + rules.advances.of[static_cast<std::size_t>(CodeOf(ch))];
+  return x;
 }
 
-TEST(TextLayout, RowsAndPlacesFollowAnyEditAsIfLaidOutAnew) {
+// The rows of a text once more, the slow way, each with the CR LF that ends it.
+std::vector<std::string> SlowRows(std::string_view text, const LayoutRules& rules) {
+  std::vector<std::string> rows;
+  do {
+    const std::size_t line = std::min(text.find("\r\n"), text.size());
+    std::size_t length = 0;
+    while (length < line && (!rules.wrap || Width(rules, text.substr(0, length + 1)) <= rules.width)) ++length;
+    if (length < line) {  // behind a blank, be it the one that hangs over the edge, but one character at least
+      const std::size_t blank = text.substr(0, length + 1).find_last_of(" \t");
+      length = blank == std::string::npos ? std::max<std::size_t>(length, 1) : blank + 1;
+    }
+    if (length == line) length = std::min(line + 2, text.size());
+    rows.emplace_back(text.substr(0, length));
+    text.remove_prefix(length);
+  } while (!text.empty() || rows.back().ends_with("\r\n"));
+  return rows;
+}
+
+// Whether a layout has these rows, and in them every place where their widths put it.
+void ExpectPlaces(const TextLayout& layout, const LayoutRules& rules, const std::vector<std::string>& rows) {
+  std::int64_t content = rules.width;
+  for (const std::string& row : rows)
+    if (!rules.wrap) content = std::max(content, Width(rules, row.substr(0, row.find("\r\n"))));
+  ASSERT_EQ(layout.ContentWidth(), content);
+  ASSERT_EQ(layout.RowCount(), rows.size());
+  for (std::size_t i = 0, start = 0; i < rows.size(); start += rows[i++].size()) {
+    const std::string line = rows[i].substr(0, rows[i].find("\r\n"));
+    const bool wraps = i + 1 < rows.size() && line == rows[i];
+    const auto x_of = [&](std::size_t count) {
+      const std::int64_t x = Width(rules, std::string_view(line).substr(0, count));
+      return rules.wrap ? std::min(x, rules.width) : x;
+    };
+    const std::int64_t room = (content - x_of(line.size())) / (rules.align == TextAlign::kCentre ? 2 : 1);
+    const std::int64_t left = rules.align == TextAlign::kLeft ? 0 : room / kUnitsPerPixel * kUnitsPerPixel;
+    ASSERT_EQ(layout.RowLeft(i), left) << i;
+    ASSERT_EQ(layout.RowStart(i), start);
+    ASSERT_EQ(layout.RowEnd(i), start + line.size());
+    ASSERT_EQ(layout.EndsLine(i), !wraps);
+    for (std::size_t at = 0; at <= line.size(); at += line.size() > 1000 ? 683 : 1) {
+      ASSERT_EQ(layout.RowOf(start + at, at > 0), i) << at;
+      ASSERT_EQ(layout.RowOf(start + at), wraps && at == line.size() ? i + 1 : i) << at;
+      ASSERT_EQ(layout.XOf(i, start + at), x_of(at)) << at;
+      const std::int64_t width = x_of(at + 1) - x_of(at);
+      if (width == 0) continue;  // the row's end, or a blank that hangs over the edge
+      ASSERT_EQ(layout.CharAt(i, x_of(at)), start + at);
+      ASSERT_EQ(layout.CharAt(i, x_of(at + 1) - 1), start + at);
+      ASSERT_EQ(PlaceInRow(layout, i, left + x_of(at) + (width - 1) / 2).pos, start + at);
+      const TextPlace behind = PlaceInRow(layout, i, left + x_of(at) + (width + 1) / 2);
+      ASSERT_EQ(behind.pos, start + at + 1);
+      ASSERT_EQ(behind.at_row_end, wraps && at + 1 == line.size());
+    }
+  }
+}
+
+TEST(TextLayout, FollowsAnyEditAsASlowLayoutHasIt) {
   RandomSource random(20);
-  const auto piece = [&](std::size_t longest) { return random.Text(longest, "ab  \t\r\n\r\n\x01-"); };
+  std::size_t rows_told = 0, rows_there = 0;
+  const auto piece = [&](std::size_t longest) { return random.Text(longest, "ab  \t\r\n\r\n\x01-\xA0"); };
   for (int round = 0; round < 120; ++round) {
-    const LayoutRules rules = OddRules(static_cast<int>(random.Below(120)) + 1, round % 2 == 0);
-    Laid laid(piece(300), rules);
-    if (round < 2) laid.buffer.Replace(0, 0, std::string(9000, 'b') + '\t' + std::string(3000, 'a'));
-    laid.layout.Lay(laid.buffer, rules);
-    const Listening heard = laid.buffer.OnChange([&](const TextChange& change) { laid.layout.Update(change); });
+    LayoutRules rules = Rules(random.Below(120), round % 2 == 0, 7);
+    TextBuffer buffer;
+    buffer.SetText(round < 2 ? std::string(9000, 'b') + '\t' + std::string(3000, 'a') : piece(200));
+    TextLayout layout(buffer);
+    layout.Lay(buffer, rules);
+    std::vector<std::string> painted;  // by the rows that are told
+    const Listening heard = buffer.OnChange([&](const TextChange& change) {
+      const RowsChange told = layout.Update(change);
+      const std::vector<std::string> before = std::exchange(painted, {}), now = SlowRows(buffer.Text(), rules);
+      for (std::size_t i = 0; i < now.size(); ++i)
+        painted.push_back(i < told.first                   ? before.at(i)
+                          : i < told.first + told.inserted ? now[i]
+                                                           : before.at(i - told.inserted + told.removed));
+      rows_told += change.whole ? 0 : told.inserted;
+      rows_there += change.whole ? 0 : now.size();
+    });
     for (int edit = 0; edit < 40; ++edit) {
-      const std::size_t pos = random.Below(laid.buffer.Size() + 1);
-      laid.buffer.Replace(pos, random.Below(12), piece(8));
-      Laid fresh(laid.buffer.Text(), rules);
-      ASSERT_EQ(laid.Rows(), fresh.Rows()) << "width " << rules.width << " edit " << edit;
-      ASSERT_EQ(laid.layout.ContentWidth(), fresh.layout.ContentWidth());
-      const std::size_t probe = random.Below(laid.buffer.Size() + 1);
-      const std::size_t row = laid.layout.RowOf(probe);
-      ASSERT_EQ(laid.layout.XOf(row, probe), fresh.layout.XOf(row, probe));
+      rules.align = static_cast<TextAlign>(random.Below(3));
+      if (edit % 10 == 9) rules.width += static_cast<std::int64_t>(random.Below(9)) * kUnitsPerPixel;
+      layout.SetAlign(rules.align);
+      layout.SetWidth(rules.width);
+      painted = SlowRows(buffer.Text(), rules);
+      if (random.Below(30) == 0) buffer.SetText(piece(200));
+      buffer.Replace(random.Below(buffer.Size() + 1), random.Below(12), piece(8));
+      const std::vector<std::string> rows = SlowRows(buffer.Text(), rules);
+      ASSERT_EQ(painted, rows) << "round " << round << " edit " << edit;
+      ASSERT_NO_FATAL_FAILURE(ExpectPlaces(layout, rules, rows)) << "round " << round << " edit " << edit;
     }
   }
+  EXPECT_LT(rows_told * 3, rows_there);  // not all of them each time
 }
 
-TEST(TextLayout, TellsWhichRowsAChangeTouched) {
-  Laid laid("aaa bbb ccc\r\nddd\r\neee", Rules(4));
-  RowsChange told;
-  const Listening heard = laid.buffer.OnChange([&](const TextChange& change) { told = laid.layout.Update(change); });
-  laid.buffer.Replace(14, 1, "x");  // the same row, and the one before it is looked at
-  EXPECT_EQ(told.first, 2u);
-  EXPECT_EQ(told.removed, 2u);
-  EXPECT_EQ(told.inserted, 2u);
-  laid.buffer.Replace(16, 2, "");  // two lines become one
-  EXPECT_EQ(laid.Rows(), (std::vector<std::string>{"aaa ", "bbb ", "ccc", "dxde", "ee"}));
-  laid.buffer.SetText("z");
-  EXPECT_EQ(told.removed, 5u);
-  EXPECT_EQ(told.inserted, 1u);
-}
-
-TEST(TextLayout, EveryStopIsFoundAgainWhereItIsShown) {
-  std::string text;
-  for (int i = 0; i < 7000; ++i) text += static_cast<char>(i * 37 % 256);
-  text += "\tx\r\n\tab\tc \r\n";
-  for (const bool wrap : {true, false}) {
-    for (const TextAlign align : {TextAlign::kLeft, TextAlign::kCentre, TextAlign::kRight}) {
-      Laid laid(text, OddRules(333, wrap));
-      laid.layout.SetAlign(align);
-      for (std::size_t pos = 0; pos <= text.size(); ++pos) {
-        const std::size_t row = laid.layout.RowOf(pos);
-        if (pos > laid.layout.RowEnd(row)) continue;  // inside a CR LF
-        const std::int64_t x = laid.layout.RowLeft(row) + laid.layout.XOf(row, pos);
-        const TextPlace place = PlaceInRow(laid.layout, row, x);
-        ASSERT_EQ(place.pos, pos) << "wrap " << wrap;
-        ASSERT_EQ(place.at_row_end, pos == laid.layout.RowEnd(row) && !laid.layout.EndsLine(row));
-        ASSERT_EQ(laid.layout.CharAt(row, laid.layout.XOf(row, pos)), pos);
-        ASSERT_LE(laid.layout.RowLeft(row) + laid.layout.RowWidth(row), laid.layout.ContentWidth());
-      }
-    }
-  }
-}
-
-TEST(TextLayout, SumsOfFractionsDoNotDrift) {
-  const LayoutRules rules = OddRules(500, false);
-  const Laid laid(std::string(4096000, 'w'), rules);
-  for (const std::size_t pos : {std::size_t{1}, std::size_t{2047}, std::size_t{2049}, std::size_t{4095999}})
-    EXPECT_EQ(laid.layout.XOf(0, pos), static_cast<std::int64_t>(pos) * rules.advances.of['w']);
-}
-
-TEST(TextLayout, AlignsRowsInTheWindowOrInTheWidestRow) {
-  Laid laid("abcd\r\nab", Rules(6, true, TextAlign::kRight));
-  EXPECT_EQ(laid.layout.RowLeft(1), 40 * kUnitsPerPixel);
-  laid.layout.SetAlign(TextAlign::kCentre);
-  EXPECT_EQ(laid.layout.RowLeft(0), 10 * kUnitsPerPixel);
-  laid.layout.Lay(laid.buffer, Rules(1, false, TextAlign::kRight));
-  EXPECT_EQ(laid.layout.ContentWidth(), 40 * kUnitsPerPixel);
-  EXPECT_EQ(laid.layout.RowLeft(1), 20 * kUnitsPerPixel);
-}
-
-std::vector<std::size_t> Walk(std::string_view text, std::size_t from, std::size_t to,
-                              std::size_t (*step)(std::string_view, std::size_t)) {
-  std::vector<std::size_t> seen{from};
-  while (seen.back() != to && seen.size() <= text.size()) seen.push_back(step(text, seen.back()));
-  return seen;
+TEST(TextLayout, ALongRowIsMeasuredBeyond32Bits) {
+  TextBuffer buffer;
+  buffer.SetText(std::string(4096000, 'w'));
+  TextLayout layout(buffer);
+  layout.Lay(buffer, Rules(500, false));
+  EXPECT_EQ(layout.XOf(0, 4095999), std::int64_t{4095999} * 10 * kUnitsPerPixel);
 }
 
 TEST(TextStops, StepsAndWords) {
-  using Stops = std::vector<std::size_t>;
   const std::string text = "ab, c\r\n\r\n  d\re\xE8";  // è of the page's own: a letter
-  Stops steps = Walk(text, 0, text.size(), NextStop);
-  EXPECT_EQ(steps, (Stops{0, 1, 2, 3, 4, 5, 7, 9, 10, 11, 12, 13, 14, 15}));
-  std::reverse(steps.begin(), steps.end());
-  EXPECT_EQ(Walk(text, text.size(), 0, PreviousStop), steps);
-  EXPECT_EQ(Walk(text, 0, text.size(), NextWord), (Stops{0, 2, 4, 5, 7, 11, 12, 13, 15}));
-  EXPECT_EQ(Walk(text, text.size(), 0, PreviousWord), (Stops{15, 13, 12, 11, 9, 7, 5, 4, 2, 0}));
+  const auto walk = [&text](std::size_t from, std::size_t to, auto step) {
+    std::string seen;
+    for (; from != to && seen.size() < 99; from = step(text, from)) seen += std::to_string(from) + ' ';
+    return seen;
+  };
+  EXPECT_EQ(walk(0, 15, NextStop), "0 1 2 3 4 5 7 9 10 11 12 13 14 ");
+  EXPECT_EQ(walk(15, 0, PreviousStop), "15 14 13 12 11 10 9 7 5 4 3 2 1 ");
+  EXPECT_EQ(walk(0, 15, NextWord), "0 2 4 5 7 11 12 13 ");
+  EXPECT_EQ(walk(15, 0, PreviousWord), "15 13 12 11 9 7 5 4 2 ");
   EXPECT_EQ(PreviousStop(text, 6), 5u);  // from between CR and LF
   EXPECT_EQ(NextStop(text, 6), 7u);
   EXPECT_EQ(NextWord("\r\n\na", 1), 2u);
+  EXPECT_EQ(PreviousWord("  a", 2), 0u);
+  for (const auto stay : {NextStop, NextWord}) EXPECT_EQ(stay(text, 15), 15u);
+  for (const auto stay : {PreviousStop, PreviousWord}) EXPECT_EQ(stay(text, 0), 0u);
 
   const std::pair<std::size_t, std::string_view> words[] = {
       {1, "ab"}, {2, ","}, {5, "c"}, {6, ""}, {7, ""}, {15, "e\xE8"}};  // 5: behind the last word of the line
@@ -183,56 +161,43 @@ TEST(TextStops, StepsAndWords) {
   EXPECT_EQ(WordAt("", 0).end, 0u);
 }
 
-TEST(CaretMover, UpAndDownKeepTheirAimOverShortRows) {
-  Laid laid("abcdef\r\nab\r\nabcdef\r\n", Rules(9));
-  laid.buffer.SetSelStart(5);
-  EXPECT_EQ(laid.Go(CaretMove::kDown), 10u);
-  EXPECT_EQ(laid.Go(CaretMove::kDown), 17u);
-  EXPECT_EQ(laid.Go(CaretMove::kDown), 20u);
-  EXPECT_EQ(laid.Go(CaretMove::kDown), 20u);
-  EXPECT_EQ(laid.Go(CaretMove::kPageUp, true, 2), 10u);
-  EXPECT_EQ(laid.buffer.Anchor(), 20u);
-  EXPECT_EQ(laid.Go(CaretMove::kUp), 5u);
-  laid.Go(CaretMove::kLeft);  // another aim
-  laid.Go(CaretMove::kDown);
-  EXPECT_EQ(laid.Go(CaretMove::kDown), 16u);
-  laid.buffer.SetSelStart(1);  // by somebody else
-  EXPECT_EQ(laid.Go(CaretMove::kDown), 9u);
-  laid.buffer.SetSelStart(5);
-  laid.Go(CaretMove::kDown);
-  EXPECT_EQ(laid.Go(CaretMove::kRowEnd), 10u);  // the same place, but the aim is another now
-  EXPECT_EQ(laid.Go(CaretMove::kDown), 14u);
-}
-
-TEST(CaretMover, EndOfAWrappedRowShowsTheCaretOnThatRow) {
-  Laid laid("abcdef", Rules(3));
-  EXPECT_EQ(laid.Go(CaretMove::kRowEnd), 3u);
-  EXPECT_EQ(laid.mover.Row(laid.buffer), 0u);
-  EXPECT_TRUE(PlaceInRow(laid.layout, 0, 40 * kUnitsPerPixel).at_row_end);
-  EXPECT_EQ(laid.Go(CaretMove::kRowEnd), 3u);
-  EXPECT_EQ(laid.Go(CaretMove::kRowStart), 0u);
-  laid.Go(CaretMove::kRowEnd);
-  laid.mover.Forget();
-  EXPECT_EQ(laid.mover.Row(laid.buffer), 1u);
-  laid.Go(CaretMove::kUp);
-  laid.Go(CaretMove::kRowEnd);
-  EXPECT_EQ(laid.Go(CaretMove::kDown), 6u);  // the aim is the row's end
-  laid.Go(CaretMove::kRowStart);
-  EXPECT_EQ(laid.buffer.Caret(), 3u);
-  EXPECT_EQ(laid.mover.Row(laid.buffer), 1u);
-}
-
-TEST(CaretMover, ArrowsLeaveASelectionAtItsBorders) {
-  Laid laid("abcdef", Rules(9));
-  laid.buffer.Select(4, 2);
-  EXPECT_EQ(laid.Go(CaretMove::kRight), 4u);
-  laid.buffer.Select(4, 2);
-  EXPECT_EQ(laid.Go(CaretMove::kLeft), 2u);
-  laid.buffer.Select(4, 2);
-  EXPECT_EQ(laid.Go(CaretMove::kLeft, true), 1u);
-  EXPECT_EQ(laid.buffer.SelEnd(), 4u);
-  EXPECT_EQ(laid.Go(CaretMove::kTextEnd, true), 6u);
-  EXPECT_EQ(laid.buffer.SelText(), "ef");
+// Moves are the signs of kMoves, "+" before one that selects; "0" to "9" is where somebody else puts the caret, "!" a
+// change of the text. Each place is told as row:caret, with the anchor where there is a selection.
+TEST(CaretMover, KeepsItsAimAndItsRow) {
+  constexpr std::string_view kMoves = "lr()[]udUD{}";
+  const struct {
+    const char *before, *moves, *places;
+  } cases[] = {
+      // Up and Down keep their aim over short rows, until something else moves the caret, be it to the same place.
+      {"ab|c\r\na\r\nabc\r\n", "dddd+Uuldd0d2d]d",
+       "1:6 2:10 3:13 3:13 1:6+13 0:2 0:1 1:6 2:9 0:0 1:5 0:2 1:6 1:6 2:9 "},
+      {"a|\r\nb\r\nc\r\nd", "DDUUu", "2:7 3:10 1:4 0:1 0:1 "},
+      {"|abcd", "]][]!u]d[", "0:3 0:3 0:0 0:3 1:3 0:0 0:3 1:4 1:3 "},  // the end of a wrapped row shows on that row
+      {"ab|c[", "r", "0:3 "},                                          // arrows leave a selection at its borders
+      {"a|b[", "l", "0:1 "},
+      {"a|b[c", "+l+}{", "0:0+2 0:3+2 0:0 "},
+      {"a b |c", "()", "0:2 1:4 "},
+  };
+  for (const auto& c : cases) {
+    TextBuffer buffer;
+    PutMarked(buffer, c.before);
+    TextLayout layout(buffer);
+    layout.Lay(buffer, Rules(30));
+    CaretMover mover(layout);
+    std::string places;
+    bool select = false;
+    for (const char sign : std::string(c.moves)) {
+      const bool was_plus = std::exchange(select, sign == '+');
+      if (sign == '+') continue;
+      if (sign == '!') mover.Forget();
+      if (sign >= '0' && sign <= '9') buffer.SetSelStart(static_cast<std::size_t>(sign - '0'));
+      if (kMoves.find(sign) != std::string::npos)
+        mover.Go(buffer, static_cast<CaretMove>(kMoves.find(sign)), was_plus, 2);
+      places += std::to_string(mover.Row(buffer)) + ':' + std::to_string(buffer.Caret());
+      places += (buffer.HasSelection() ? '+' + std::to_string(buffer.Anchor()) : "") + ' ';
+    }
+    EXPECT_EQ(places, c.places) << c.before << ' ' << c.moves;
+  }
 }
 
 }  // namespace

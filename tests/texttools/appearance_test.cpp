@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-
-#include "platform/color.h"
 #include "platform/twips.h"
 #include "shell/layout_picker.h"
 #include "support/plain_view.h"
@@ -14,59 +11,46 @@
 namespace pelmar {
 namespace {
 
-struct AppearanceTest : testing::Test {
+std::string Shown(const TwipsRect& place) {
+  return std::to_string(place.left) + ',' + std::to_string(place.top) + ' ' + std::to_string(place.width) + 'x' +
+         std::to_string(place.height);
+}
+
+// The look, the alignment and the window's place, and the calls that set marks or the window's state.
+std::string Shown(PlainView& view) {
+  std::string shown = Told(view.look) + ' ' + std::to_string(view.alignment) + ' ' + Shown(view.place);
+  for (const std::string& call : std::exchange(view.calls, {}))
+    if (call.ends_with(" mark") || call == "normal") shown += ", " + call;
+  return shown;
+}
+
+TEST(Appearance, EachCommandChangesItsPartOfTheLook) {
   ScriptedPlatform platform;
-  WholeEditor editor{platform};
+  WholeEditor editor(platform);
   PlainView view;
-
-  AppearanceTest() { AddAppearanceCommands(editor, view); }
-  // The look behind a command, and the marks that it set in the menu.
-  std::string After(const char* command) {
-    view.calls.clear();
-    editor.commands.Run(command);
-    std::string shown = view.look.font_name + ' ' + std::to_string(std::lround(view.look.font_size));
-    if (view.look.bold) shown += " bold";
-    if (view.look.italic) shown += " italic";
-    shown += ' ' + ColorToHex(view.look.fore_color) + ' ' + ColorToHex(view.look.back_color);
-    for (const std::string& call : view.calls)
-      if (call.ends_with(" mark") || call == "normal") shown += ", " + call;
-    return shown;
-  }
-};
-
-TEST_F(AppearanceTest, StyleSizeColoursAndAlignment) {
+  AddAppearanceCommands(editor, view);
   view.look = {"Font", Rgb(1, 2, 3), Rgb(255, 255, 255), 8, false, false};
-  EXPECT_EQ(After("mnu17"), "Font 17 #010203 #FFFFFF");
-  EXPECT_EQ(After("mnuEditBold"), "Font 17 bold #010203 #FFFFFF, bold mark");
-  EXPECT_EQ(After("mnuitalic"), "Font 17 bold italic #010203 #FFFFFF, italic mark");
-  EXPECT_EQ(After("mnuEditBold"), "Font 17 italic #010203 #FFFFFF, no bold mark");
-  EXPECT_EQ(After("mnuinvert"), "Font 17 italic #FEFDFC #000000");
-  EXPECT_EQ(After("mnuinvert"), "Font 17 italic #010203 #FFFFFF");
-  for (const int expected : {1, 2, 0}) {
-    editor.commands.Run("Mnu_Change_Alingment");
-    EXPECT_EQ(view.alignment, expected);
+  const std::pair<const char*, const char*> steps[] = {
+      {"mnu17", "Font 17 #010203 #FFFFFF 0 0,0 0x0"},
+      {"mnuEditBold", "Font 17 bold #010203 #FFFFFF 0 0,0 0x0, bold mark"},
+      {"mnuitalic", "Font 17 bold italic #010203 #FFFFFF 0 0,0 0x0, italic mark"},
+      {"mnuEditBold", "Font 17 italic #010203 #FFFFFF 0 0,0 0x0, no bold mark"},
+      {"mnuinvert", "Font 17 italic #FEFDFC #000000 0 0,0 0x0"},
+      {"mnuinvert", "Font 17 italic #010203 #FFFFFF 0 0,0 0x0"},
+      {"Mnu_Change_Alingment", "Font 17 italic #010203 #FFFFFF 1 0,0 0x0"},
+      {"Mnu_Change_Alingment", "Font 17 italic #010203 #FFFFFF 2 0,0 0x0"},
+      {"Dos", "Courier New 8 #C2C2C2 #000000 2 0,0 9210x6675, normal, no bold mark, no italic mark"},
+      {"Mnu_Change_Alingment", "Courier New 8 #C2C2C2 #000000 0 0,0 9210x6675"},
+      {"mnuEditBold", "Courier New 8 bold #C2C2C2 #000000 0 0,0 9210x6675, bold mark"},
+      // required: not the mark of bold; the window keeps its size
+      {"mnubasic", "MS Sans Serif 8 #000000 #FFFFFF 0 0,0 9210x6675, no italic mark"},
+  };
+  for (const auto& [command, shown] : steps) {
+    editor.commands.Run(command);
+    EXPECT_EQ(Shown(view), shown) << command;
   }
-}
-
-TEST_F(AppearanceTest, DosAndBasicLook) {
-  view.look.bold = view.look.italic = true;
-  EXPECT_EQ(After("Dos"), "Courier New 8 #C2C2C2 #000000, normal, no bold mark, no italic mark");
-  EXPECT_EQ(view.place, (TwipsRect{0, 0, 9210, 6675}));
-  view.look.bold = view.look.italic = true;
-  view.place = {};
-  EXPECT_EQ(After("mnubasic"), "MS Sans Serif 8 #000000 #FFFFFF, no italic mark");  // required: not that of bold
-  EXPECT_EQ(view.place, TwipsRect{});
-}
-
-TEST(Visual, ALookWithoutAFontLeavesTheFont) {
-  PlainView view;
-  view.look = {"Terminal", 1, 2, 12, false, true};
-  ApplyLook(view, {"", 3, 4, 11, true, false});
-  EXPECT_EQ(view.calls, (std::vector<std::string>{"bold", "italic", "bold mark", "no italic mark", "colors", "size"}));
-  EXPECT_EQ(view.look.font_name, "Terminal");
-  EXPECT_EQ(view.look.font_size, 8);  // a size outside the six
-  ApplyLook(view, {"Courier New"});
-  EXPECT_EQ(view.look.font_name, "Courier New");
+  ApplyLook(view, {"", 3, 4, 11, true, false});  // no font, and a size outside the six
+  EXPECT_EQ(Shown(view), "MS Sans Serif 8 bold #030000 #040000 0 0,0 9210x6675, bold mark, no italic mark");
 }
 
 TEST(Visual, SizeField) {
@@ -78,17 +62,17 @@ TEST(Visual, SizeField) {
 }
 
 TEST(LayoutPicker, NineParts) {
-  const std::tuple<int, int, std::string_view, TwipsRect> cases[] = {
-      {1, 1, "Vlevo nahoře", {0, 0, 600, 400}},    {1, 2, "Nahoře", {0, 0, 1200, 400}},
-      {1, 3, "Vpravo nahoře", {600, 0, 600, 400}}, {2, 1, "Vlevo", {0, 0, 600, 800}},
-      {2, 2, "Maximalizace", {0, 0, 1200, 800}},   {2, 3, "Vpravo", {600, 0, 600, 800}},
-      {3, 1, "Vlevo dole", {0, 400, 600, 400}},    {3, 2, "Dole", {0, 400, 1200, 400}},
-      {3, 3, "Vpravo dole", {600, 400, 600, 400}},
-  };
-  for (const auto& [row, column, name, place] : cases) {
-    EXPECT_EQ(PlaceOfCell(row, column, 1200, 800).name, name);
-    EXPECT_EQ(PlaceOfCell(row, column, 1200, 800).place, place) << name;
+  std::string parts;
+  for (const int row : {1, 2, 3}) {
+    for (const int column : {1, 2, 3}) {
+      const ScreenPlace part = PlaceOfCell(row, column, 1200, 800);
+      parts.append(part.name).append(" " + Shown(part.place) + (column < 3 ? "|" : "\n"));
+    }
   }
+  EXPECT_EQ(parts,
+            "Vlevo nahoře 0,0 600x400|Nahoře 0,0 1200x400|Vpravo nahoře 600,0 600x400\n"
+            "Vlevo 0,0 600x800|Maximalizace 0,0 1200x800|Vpravo 600,0 600x800\n"
+            "Vlevo dole 0,400 600x400|Dole 0,400 1200x400|Vpravo dole 600,400 600x400\n");
 }
 
 }  // namespace

@@ -1,212 +1,156 @@
 #include <gtest/gtest.h>
 
+#include "support/marked_text.h"
 #include "support/scripted_platform.h"
 #include "text/codepage.h"
-#include "text/search.h"
 #include "texttools/find.h"
 #include "texttools/replace.h"
 
 namespace pelmar {
 namespace {
 
-template <class Number>
-std::string Shown(const std::optional<Number>& number) {
-  return number ? std::to_string(*number) : "-";
+constexpr const char* kNothingFound = "message 0 \"Nenalezeno !\" \"Hledání\"";
+
+std::string On(std::initializer_list<std::pair<char, bool>> fields) {
+  std::string on;
+  for (const auto& [sign, is_on] : fields)
+    if (is_on) on += sign;
+  return on + ' ';
 }
+
+std::string Number(const std::optional<std::size_t>& number) { return number ? std::to_string(*number) : "-"; }
 
 struct SearchTest : testing::Test {
   ScriptedPlatform platform;
   TextBuffer text;
-  Finder finder{text, platform};
-  Replacer replacer{text, platform};
 
-  SearchTest() { platform.answers.assign(3, Answer::kOk); }
-  void Text(std::string_view content) { text.SetText(std::string(content)); }
-  [[nodiscard]] std::string Selected() const {
-    return std::to_string(text.SelStart()) + '+' + std::to_string(text.SelLength());
+  // Both dialogs take steps as letters: L the load, S start, N next, W new, "i" ignores case, "x" puts another text
+  // into the document, a digit picks a row of the history.
+  template <class Search>
+  void Do(Search& search, char step) {
+    platform.calls.clear();
+    platform.answers = {Answer::kOk};
+    if (step == 'i') search.case_sensitive = false;
+    if (step == 'L') search.Load();
+    if (step == 'S') search.Start();
+    if (step == 'N') search.Next();
+    if (step == 'W') search.New();
+    if (step == 'x') text.SetText("short text");
   }
-  // What can be used of the field, the check mark, the history and the button for more; the two labels; the term;
-  // the selection in the document.
-  [[nodiscard]] std::string Finding() const {
-    std::string on;
-    if (finder.find_on) on += 'f';
-    if (finder.case_on) on += 'c';
-    if (finder.history_on) on += 'h';
-    if (finder.next_on) on += 'n';
-    return on + ' ' + Shown(finder.count) + '@' + Shown(finder.position) + ' ' + finder.find + ' ' + Selected();
+  // The term and the document, and "!" where the last step told that nothing is found.
+  std::string Texts(const std::string& term) {
+    const bool told = platform.TakeTold().find(kNothingFound) != std::string::npos;
+    return ' ' + term + ' ' + Marked(text) + (told ? " !" : "");
   }
-  // The same of the field, the replacement's, the check mark, the lists, the steps and the button for all.
-  [[nodiscard]] std::string Replacing() const {
-    std::string on;
-    if (replacer.find_on) on += 'f';
-    if (replacer.change_on) on += 'r';
-    if (replacer.case_on) on += 'c';
-    if (replacer.lists_on) on += 'l';
-    if (replacer.step_on) on += 's';
-    if (replacer.all_on) on += 'a';
-    return on + ' ' + Shown(replacer.found_shown) + '/' + Shown(replacer.replaced_shown) + ' ' + replacer.find + ' ' +
-           Selected();
+  // The fields that are on (find, case, history, next), count and position.
+  std::string Finding(std::string_view document, std::string_view term, std::string_view steps) {
+    PutMarked(text, document);
+    Finder finder(text, platform);
+    finder.find = term;
+    for (const char step : steps) {
+      Do(finder, step);
+      if (step >= '0' && step <= '9') finder.PickHistory(static_cast<std::size_t>(step - '0'));
+    }
+    return On({{'f', finder.find_on}, {'c', finder.case_on}, {'h', finder.history_on}, {'n', finder.next_on}}) +
+           Number(finder.count) + '@' + Number(finder.position) + Texts(finder.find);
+  }
+  // The same (find, replacement, case, lists, steps, all), found and replaced. R replaces, A all, "=" writes "X" over
+  // the replacement.
+  std::string Replacing(std::string_view document, std::string_view term, std::string_view change,
+                        std::string_view steps) {
+    PutMarked(text, document);
+    Replacer replacer(text, platform);
+    replacer.find = term;
+    replacer.change = change;
+    for (const char step : steps) {
+      Do(replacer, step);
+      if (step == 'R') replacer.Replace();
+      if (step == 'A') replacer.ReplaceAll();
+      if (step == '=') replacer.change = "X";
+      if (step >= '0' && step <= '9') replacer.PickRow(static_cast<std::size_t>(step - '0'));
+    }
+    return On({{'f', replacer.find_on},
+               {'r', replacer.change_on},
+               {'c', replacer.case_on},
+               {'l', replacer.lists_on},
+               {'s', replacer.step_on},
+               {'a', replacer.all_on}}) +
+           Number(replacer.found_shown) + '/' + Number(replacer.replaced_shown) + Texts(replacer.find);
   }
 };
 
-TEST(FindFrom, EmptyTermsAndBorders) {
-  EXPECT_EQ(FindFrom("abab", "ab", 0), 0u);
-  EXPECT_EQ(FindFrom("abab", "ab", 1), 2u);
-  for (const std::size_t from : {3u, 4u, 5u}) EXPECT_EQ(FindFrom("abab", "ab", from), std::nullopt);
-  EXPECT_EQ(FindFrom("ab", "", 1), 1u);
-  EXPECT_EQ(FindFrom("ab", "", 2), std::nullopt);
-  EXPECT_EQ(FindFrom("", "", 0), std::nullopt);
+TEST_F(SearchTest, FindStepsThroughASnapshot) {
+  const struct {
+    std::string_view document, term, steps, shown;
+  } cases[] = {
+      {"|aaaa", "", "L", "fch -@- Text |aaaa"},
+      {"a[bc|", "", "L", "fch -@- bc a[bc|"},
+      {"|aaaa", "aa", "S", "n 1@0 aa [aa|aa"},
+      {"|aaaa", "aa", "SN", "n 2@1 aa a[aa|a"},
+      {"|aaaa", "aa", "SNNN", "fch 3@2 aa aa[aa| !"},  // required: the labels stay behind the last one
+      {"|aaaa", "aa", "SNNNSW", "fh 1@0 aa [aa|aa"},   // required: the check mark stays off
+      {"|aaaa", "aa", "SxW", "fh 1@0 Text |short text"},
+      {"a[b|c", "z", "S", "fch -@- b a[b|c !"},
+      {"a[b|c", "z", "S10", "fch -@- z a[b|c"},
+      {"|xx čaj Čaj"_w, "čaj"_w, "iS", "n 1@3 ČAJ xx [čaj| Čaj"_w},
+      {"|xx čaj Čaj"_w, "čaj"_w, "iSNN", "fch 2@7 Čaj xx čaj [Čaj| !"_w},  // as the document has it
+      {"|xx čaj Čaj"_w, "čaj"_w, "iSNN0", "fch 2@7 ČAJ xx čaj [Čaj|"_w},   // required: upper-cased
+      {"|ab", "", "S", "n 1@0  |ab"},
+      {"|ab", "", "SNN", "fch 2@1  a|b !"},
+      {"|", "", "S", "fch -@-  | !"},
+      {"|one\r\ntwo one\r\ntwo", "e\r\ntwo", "S", "n 1@2 e\r\ntwo on[e\r\ntwo| one\r\ntwo"},
+      {"|one\r\ntwo one\r\ntwo", "e\r\ntwo", "SxN", "n 2@11 e\r\ntwo short text|"},  // clipped to the live text
+  };
+  for (const auto& c : cases) EXPECT_EQ(Finding(c.document, c.term, c.steps), c.shown) << c.document << ' ' << c.steps;
 }
 
-TEST_F(SearchTest, FindStepsThroughOverlappingMatches) {
-  Text("aaaa");
-  finder.Load();
-  EXPECT_EQ(finder.find, "Text");
-  finder.find = "aa";
-  finder.Start();
-  EXPECT_EQ(Finding(), "n 1@0 aa 0+2");
-  finder.Next();
-  EXPECT_EQ(Finding(), "n 2@1 aa 1+2");
-  finder.Next();
-  finder.Next();
-  EXPECT_EQ(platform.TakeCalls(), std::vector<std::string>{"message 0 \"Nenalezeno !\" \"Hledání\""});
-  EXPECT_EQ(Finding(), "fch 3@2 aa 2+2");  // required: the labels stay after Next
-  finder.Start();
-  finder.New();
-  EXPECT_EQ(Finding(), "fh 1@0 aa 0+2");  // required: the check mark stays off
-}
-
-TEST_F(SearchTest, FindWithoutCaseFoldsTermAndHistory) {
-  Text("xx čaj Čaj"_w);
-  finder.case_sensitive = false;
-  finder.find = "čaj"_w;
-  finder.Start();
-  EXPECT_EQ(Finding(), "n 1@3 ČAJ 3+3"_w);
-  EXPECT_EQ(finder.history, std::vector<std::string>{std::string("ČAJ"_w)});  // required: upper-cased
-  finder.Next();
-  finder.Next();
-  EXPECT_EQ(Finding(), "fch 2@7 Čaj 7+3"_w);  // taken from the document, in its own case
-}
-
-TEST_F(SearchTest, AFindThatFindsNothingBlanksTheLabels) {
-  Text("abc");
-  text.Select(1, 2);
-  finder.find = "z";
-  finder.Start();
-  EXPECT_EQ(Finding(), "fch -@- b 1+1");
-  finder.PickHistory(1);
-  EXPECT_EQ(finder.find, "b");
-  finder.PickHistory(0);
-  EXPECT_EQ(finder.find, "z");
-}
-
-TEST_F(SearchTest, AnEmptyTermWalksThroughTheText) {
-  Text("ab");
-  finder.find.clear();
-  finder.Start();
-  finder.Next();
-  EXPECT_EQ(Finding(), "n 2@1  1+0");
-  finder.Next();
-  Text("");
-  finder.find.clear();
-  finder.Start();
-  EXPECT_EQ(Finding(), "fch -@-  0+0");
-}
-
-TEST_F(SearchTest, TheSnapshotDoesNotFollowTheDocument) {
-  Text("one\r\ntwo one\r\ntwo");
-  finder.find = "e\r\ntwo";
-  finder.Start();
-  EXPECT_EQ(Selected(), "2+6");
-  Text("short text");
-  finder.Next();
-  EXPECT_EQ(Selected(), "10+0");  // clipped to the live text
+TEST_F(SearchTest, ReplaceReadsItsReplacementAgain) {
+  const struct {
+    std::string_view document, term, change, steps, shown;
+  } cases[] = {
+      {"a[b|c", "", "", "L", "frcl -/- b a[b|c"},
+      {"|a a a", "a", "ba", "S", "sa 1/- a [a| a a"},
+      {"|a a a", "a", "ba", "SR", "sa 2/1 a b[a| a a"},   // required: the replacement's second character is found again
+      {"|a a a", "a", "ba", "iSR", "sa 2/1 A ba [a| a"},  // it isn't upper-cased
+      {"|a a a", "a", "ba", "SRN", "sa 3/1 a ba [a| a"},
+      {"|aaa", "aa", "X", "SN", "sa 2/- aa a[aa|"},
+      {"|a a a", "a", "ba", "SRN=RR", "frcla 4/3 a ba X X| !"},  // required: replace all outlives the search
+      {"a[b|c", "z", "", "S", "frcla -/- b a[b|c !"},
+      {"a[b|c", "b", "", "SxW", "frla 1/- Text |short text"},
+      {"|a a a", "a", "b", "SxR", "sa 2/1 a bs[h|ort text"},
+      {"|Čaj čaj"_w, "čaj"_w, "voda", "iSR", "sa 2/1 ČAJ voda [čaj|"_w},
+      {"|Čaj čaj"_w, "čaj"_w, "voda", "iSA", "frl -/- ČAJ |Čaj čaj"_w},  // required: the folded term misses them
+      {"|Čaj čaj"_w, "čaj"_w, "voda", "iS1", "sa 1/- ČAJ [Čaj| čaj"_w},
+      {"|Čaj čaj"_w, "čaj"_w, "voda", "iS0", "sa 1/- čaj [Čaj| čaj"_w},  // required: as it was typed
+      {"|Čaj čaj"_w, "čaj"_w, "voda", "S=0RA", "frcl -/- čaj |Čaj voda"_w},
+      {"a| b a", "a", "xax", "A", "frcl -/- a |xax b xax"},
+      {"|aaaab", "a", "", "A",
+       "frcl -/- a |\xFF\xFF"
+       "b"},                                          // required: every second of adjacent hits stays
+      {"|x\xFFy", "q", "z", "A", "frcl -/- q |xzy"},  // required: a character 255 of the text goes too
+      {"ab|c", "", "z", "A", "frcl -/-  |abc"},
+      {"|aba", "a", "x\xFF", "A",
+       "frcl -/- a |x\xFF"
+       "bx\xFF"},  // would never end by the plain rule
+  };
+  for (const auto& c : cases)
+    EXPECT_EQ(Replacing(c.document, c.term, c.change, c.steps), c.shown) << c.document << ' ' << c.steps;
+  EXPECT_EQ(platform.busy, 0);
 }
 
 TEST_F(SearchTest, PrimitiveFindAsksItsWayThroughTheLiveText) {
-  Text("ab ab");
-  text.Select(0, 2);
+  PutMarked(text, "[ab| ab");
   platform.inputs = {"ab", std::nullopt};  // a cancel is an empty term
   platform.answers = {Answer::kYes, Answer::kYes, Answer::kOk, Answer::kOk, Answer::kYes, Answer::kNo, Answer::kOk};
   FindPrimitively(text, platform);
-  EXPECT_EQ(
-      platform.TakeCalls(),
-      (std::vector<std::string>{"input \"Vložte prosím text na hledání.\" \"Hledání\" \"ab\"",
-                                "message 36 \"Nalezeno na 1 místě, pokračovat ?\" \"hledání\"",
-                                "message 36 \"Nalezeno na 4 místě, pokračovat ?\" \"hledání\"",
-                                "message 0 \"Nenalezeno !\" \"Hledání\"", "message 0 \"Nalezeno 2 X\" \"Hledání\""}));
-  EXPECT_EQ(Selected(), "3+2");
+  EXPECT_EQ(platform.TakeCalls(),
+            (std::vector<std::string>{"input \"Vložte prosím text na hledání.\" \"Hledání\" \"ab\"",
+                                      "message 36 \"Nalezeno na 1 místě, pokračovat ?\" \"hledání\"",
+                                      "message 36 \"Nalezeno na 4 místě, pokračovat ?\" \"hledání\"", kNothingFound,
+                                      "message 0 \"Nalezeno 2 X\" \"Hledání\""}));
+  EXPECT_EQ(Marked(text), "ab [ab|");
   FindPrimitively(text, platform);
   EXPECT_EQ(platform.calls.back(), "message 0 \"Nalezeno 2 X\" \"Hledání\"");
-}
-
-TEST_F(SearchTest, ReplaceStepsAndReadsItsReplacementAgain) {
-  Text("a a a");
-  replacer.step_on = true;
-  replacer.Load();
-  EXPECT_FALSE(replacer.step_on);
-  replacer.find = "a";
-  replacer.change = "ba";
-  EXPECT_TRUE(replacer.Start());
-  EXPECT_EQ(Replacing(), "sa 1/- a 0+1");
-  replacer.Replace();
-  EXPECT_EQ(text.Text(), "ba a a");
-  EXPECT_EQ(Replacing(), "sa 2/1 a 1+1");  // required: the replacement's second character is found again
-  replacer.Next();
-  EXPECT_EQ(Replacing(), "sa 3/1 a 3+1");
-  replacer.change = "X";
-  replacer.Replace();
-  replacer.Replace();
-  EXPECT_EQ(text.Text(), "ba X X");
-  EXPECT_EQ(platform.TakeCalls(), std::vector<std::string>{"message 0 \"Nenalezeno !\" \"Hledání\""});
-  EXPECT_EQ(Replacing(), "frcla 4/3 a 6+0");  // required: replace all outlives the search
-}
-
-TEST_F(SearchTest, ReplaceWithoutCaseKeepsTheHistoryAsTyped) {
-  Text("Čaj čaj"_w);
-  replacer.case_sensitive = false;
-  replacer.find = "čaj"_w;
-  replacer.change = "voda";
-  replacer.Start();
-  replacer.Replace();
-  EXPECT_EQ(text.Text(), "voda čaj"_w);
-  EXPECT_EQ(replacer.Snapshot().Text(), "voda ČAJ"_w);
-  EXPECT_EQ(Replacing(), "sa 2/1 ČAJ 5+3"_w);
-  replacer.ReplaceAll();  // required: the folded term misses the lower-case occurrence
-  EXPECT_EQ(text.Text(), "voda čaj"_w);
-  EXPECT_EQ(Replacing().substr(0, 7), "frl -/-");  // required: the check mark stays off
-  EXPECT_EQ(platform.TakeCalls(), (std::vector<std::string>{"busy 1", "busy 0"}));
-  replacer.change.clear();
-  replacer.PickRow(1);
-  EXPECT_EQ(replacer.change, "");
-  replacer.PickRow(0);
-  EXPECT_EQ(replacer.find, "čaj"_w);
-  EXPECT_EQ(replacer.change, "voda");
-}
-
-TEST_F(SearchTest, AReplaceThatFindsNothingBlanksItsLabels) {
-  Text("abc");
-  text.Select(1, 2);
-  replacer.find = "z";
-  EXPECT_FALSE(replacer.Start());
-  EXPECT_EQ(Replacing(), "frcla -/- b 1+1");
-  replacer.find = "b";
-  EXPECT_TRUE(replacer.Start());
-  text.SetSelStart(0);
-  replacer.New();
-  EXPECT_EQ(Replacing(), "frla 1/- Text 0+0");
-}
-
-TEST(ReplaceAll, GoesThroughTheMarker) {
-  EXPECT_EQ(ReplaceAllByMarker("a b a", "a", "xax"), "xax b xax");
-  EXPECT_EQ(ReplaceAllByMarker("aaaab", "a", ""),
-            "\xFF\xFF"
-            "b");                                            // required: every second of adjacent hits stays
-  EXPECT_EQ(ReplaceAllByMarker("x\xFFy", "q", "z"), "xzy");  // required: a character 255 of the text goes too
-  EXPECT_EQ(ReplaceAllByMarker("abc", "", "z"), "abc");
-  EXPECT_EQ(ReplaceAllByMarker("aba", "a", "x\xFF"),
-            "x\xFF"
-            "bx\xFF");  // would never end by the plain rule
 }
 
 }  // namespace

@@ -1,125 +1,196 @@
 #include <gtest/gtest.h>
 
+#include <vector>
+
+#include "support/marked_text.h"
+#include "support/random_source.h"
 #include "support/scripted_platform.h"
 #include "support/whole_editor.h"
 #include "text/codepage.h"
-#include "texttools/lines.h"
-#include "texttools/transforms.h"
+#include "texttools/column_format.h"
+#include "texttools/random_text.h"
 
 namespace pelmar {
 namespace {
 
-TEST(Transforms, ProperCaseAndReverse) {
-  EXPECT_EQ(ProperCase("ŽLUŤOUČKÝ kůň\tčeká\r\nna-dvoře. že"_w), "Žluťoučký Kůň\tČeká\r\nNa-dvoře. Že"_w);
-  EXPECT_EQ(Reversed("ab\r\nc"), "c\n\rba");
-}
-
-TEST(Lines, SortedNumberedAndOfWords) {
-  const auto sorted = [](std::string_view text) {
-    return SortLines(text, [](const auto& lines) { return ScriptedPlatform().SortedOrder(lines); });
-  };
-  EXPECT_EQ(sorted("b\r\n\r\na"), "ab\r\n");  // required: the end is missing where it was, a blank line is dropped
-  EXPECT_EQ(sorted("b\n\na2\r\nA1\r\na1\r\n"), "\nA1\r\na1\r\na2\r\nb\n");
-  EXPECT_EQ(sorted("\r\n\r\n"), "");
-  EXPECT_EQ(NumberLines("a\r\nb\r\n"), "00001 a\r\n00002 b\r");  // required: the last character is lost
-  EXPECT_EQ(NumberLines("x"), "00001 ");
-  EXPECT_TRUE(NumberLines(std::string(100, '\n')).ends_with("00099 \n00100 "));
-  EXPECT_EQ(WordsToLines("a\r\nb  c "), "a\r\nb \r\n \r\nc \r\n");
-  EXPECT_EQ(WordsToLines("ab cd"), "ab \r\ncd\r\n");
-}
-
-struct TextToolsTest : testing::Test {
-  ScriptedPlatform platform;
-  WholeEditor editor{platform};
-
-  void Select(std::string_view text, std::size_t start, std::size_t end) {
-    editor.text.SetText(std::string(text));
-    editor.text.Select(start, end);
-  }
-  [[nodiscard]] std::string After(const char* command) {
-    editor.commands.Run(command);
-    return editor.text.Text();
-  }
-};
-
-TEST_F(TextToolsTest, TransformsReplaceTheSelection) {
+TEST(TextTools, EachCommandLeavesItsTextAndCalls) {
   const struct {
     const char* command;
     std::string_view before, after;
+    const char* calls = "";
+    Answer answer = Answer::kOk;
   } cases[] = {
-      {"mnusmall", "xŘEKAx"_w, "xřekax"_w},      {"mnubig", "xřekax"_w, "xŘEKAx"_w},
-      {"mnupropercase", "xŘEKAx"_w, "xŘekax"_w}, {"mnuprevrat", "xřekax"_w, "xakeřx"_w},
-      {"mnuHackyCarky", "xŘekax"_w, "xRekax"_w}, {"mnu_untext", "xřekax"_w, "xřeKAx"_w},
+      {"mnusmall", "x[ŘEKA|x"_w, "xřeka|x"_w},
+      {"mnubig", "x[řeka|x"_w, "xŘEKA|x"_w},
+      {"mnubig", "a|b", "a|b"},  // nothing selected, nothing said
+      {"mnupropercase", "[ŽLUŤOUČKÝ kůň\tčeká\r\nna-dvoře. a\vb\fc\0d|"_w,
+       "Žluťoučký Kůň\tČeká\r\nNa-dvoře. A\vB\fC\0D|"_w},
+      {"mnuprevrat", "x[ab\r\nc|x", "xc\n\rba|x"},
+      {"mnuHackyCarky", "x[Řeka|x"_w, "xReka|x"},
+      {"mnu_untext", "x[řeka|x"_w, "xřeKA|x"_w, "reseed 1"},
+
+      {"Mnu_Sort_Lines", "x[b\r\na\r\n|y", "xa\r\nb\r\n|y", "busy 1 busy 0 "},
+      {"Mnu_Sort_Lines", "[b\r\n\r\na|", "ab\r\n|", "busy 1 busy 0 "},  // required: the end is missing where it was
+      {"Mnu_Sort_Lines", "[b\n\na2\r\nA1\r\na1\r\n|", "\nA1\r\na1\r\na2\r\nb\n|", "busy 1 busy 0 "},
+      {"Mnu_Sort_Lines", "a|b", "a|b", "busy 1 busy 0 "},
+      {"mnuEnterLineNumbers", "[a\r\nb\r\n|", "00001 a\r\n00002 b\r|",
+       "busy 1 busy 0 "},  // required: the last one is lost
+      {"mnuEnterLineNumbers", "[x|", "00001 |", "busy 1 busy 0 "},
+      {"mnuEnterLineNumbers", "a|b", "a|b", "busy 1 message 0 \"Vyber text\" \"Očíslování\" busy 0 "},
+      {"MnuSelTextDivideWordsToLines", "[a\r\nb  c |", "a\r\nb \r\n \r\nc \r\n|", "busy 1 busy 0 "},
+      {"MnuSelTextDivideWordsToLines", "[ab cd|", "ab \r\ncd\r\n|", "busy 1 busy 0 "},
+      {"MnuSelTextDivideWordsToLines", "a|b", "a|b", "busy 1 busy 0 "},
+      {"mnucharcount", "[ab\r|\n", "[ab\r|\n", "message 0 \"Počet znaků je : 3 celkem.\" \"Znaky\" "},
+      {"mnucharcount", "|ab", "|ab", "message 0 \"Počet znaků v celém textu je : 2 celkem.\" \"Znaky\" "},
+
+      {"mnunahslovo", "x[a b|x", "xgn |a bx", "reseed 1"},
+      {"mnunahjmeno", "x|a", "xGn Agntagnt |a", "reseed 1"},
+      {"mnunahtex", "|x", "Gna tgtgtgt. |x", "reseed 1"},
+      {"MnuSelTextDada", "x[a b c d e|x", "xa c d eb |x", "busy 1 busy 0 reseed 1"},
+      {"MnuSelTextDada", "a|b", "a|b", "busy 1 busy 0 reseed 1"},
+
+      {"mnuadd", "a[bc|d", "aXY|bcd"},  // required: never over the selection
+      {"Paste", "a|bc[d", "aXY|bcd"},
+      {"mnucut", "a[bc|d", "a|d", "clipboard \"bc\" "},
+      {"Cut", "a[bc|d", "a|d", "clipboard \"bc\" "},
+      {"Copy", "a[bc|d", "a[bc|d", "clipboard \"bc\" "},
+      {"mnucopy", "a[bc|d", "a[bc|d", "clipboard \"abcd\" "},
+      {"mnucopysel", "a|d", "a|d", "clipboard \"\" "},  // the empty text goes there all the same
+      {"mnuallselect", "ab|cd", "[abcd|"},
+      {"mnuinsert", "a|b", "a|b", "message 52 \"Opravdu vše nahradit textem ze schránky ?\" \"Vložení\" ", Answer::kNo},
+      {"mnuinsert", "a|b", "|XY", "message 52 \"Opravdu vše nahradit textem ze schránky ?\" \"Vložení\" ",
+       Answer::kYes},
+      {"mnuclearclip", "|", "|", "message 52 \"Opravdu vyčistit schránku ?\" \"Vyčištění\" ", Answer::kNo},
+      {"mnuclearclip", "|", "|", "message 52 \"Opravdu vyčistit schránku ?\" \"Vyčištění\" clipboard clear ",
+       Answer::kYes},
+      {"mnunewclip", "a|b", "a|b", "message 52 \"Opravdu nový dokument z textu ve schránce ?\" \"Nový\" ", Answer::kNo},
+      {"mnunewclip", "a|b", "|XY", "message 52 \"Opravdu nový dokument z textu ve schránce ?\" \"Nový\" ",
+       Answer::kYes},
   };
   for (const auto& c : cases) {
-    Select(c.before, 1, 5);
-    platform.draws = {0.0, 0.49, 0.5, 0.99};
-    EXPECT_EQ(After(c.command), c.after) << c.command;
-    EXPECT_EQ(editor.text.SelStart(), 5u);
-    EXPECT_FALSE(editor.text.HasSelection());
+    ScriptedPlatform platform;
+    WholeEditor editor(platform);
+    editor.documents.MakeCurrent("/a.txt", "");
+    PutMarked(editor.text, c.before);
+    platform.clipboard = "XY";
+    platform.answers = {c.answer};
+    editor.commands.Run(c.command);
+    EXPECT_EQ(Marked(editor.text), c.after) << c.command;
+    std::string calls;
+    for (const std::string& call : platform.calls) calls += call + ' ';
+    EXPECT_EQ(calls + (platform.reseeds > 0 ? "reseed 1" : ""), c.calls) << c.command;
+    const bool forgets = std::string_view(c.command) == "mnunewclip";  // required: on No as well
+    EXPECT_EQ(editor.documents.CurrentPath(), forgets ? "" : "/a.txt") << c.command;
   }
-  Select("abc", 1, 1);
-  EXPECT_EQ(After("mnubig"), "abc");  // nothing selected, nothing said
-  EXPECT_EQ(platform.reseeds, 1);
 }
 
-TEST_F(TextToolsTest, LineToolsWorkOnTheSelection) {
-  Select("xb\r\na\r\ny", 1, 7);
-  EXPECT_EQ(After("Mnu_Sort_Lines"), "xa\r\nb\r\ny");
-  Select("a b", 0, 3);
-  EXPECT_EQ(After("MnuSelTextDivideWordsToLines"), "a \r\nb\r\n");
-  Select("ab", 0, 2);
-  EXPECT_EQ(After("mnuEnterLineNumbers"), "00001 a");
-  Select("ab", 1, 1);
-  platform.answers = {Answer::kOk};
-  EXPECT_EQ(After("mnuEnterLineNumbers"), "ab");
-  EXPECT_EQ(platform.calls[platform.calls.size() - 2], "message 0 \"Vyber text\" \"Očíslování\"");
-  EXPECT_EQ(After("Mnu_Sort_Lines"), "ab");
-  EXPECT_EQ(After("MnuSelTextDivideWordsToLines"), "ab");
-  EXPECT_EQ(platform.busy, 0);
+// The told loops: draws in their order, numbers from 1.
+struct Told {
+  const Draw& draw;
+
+  int Number(int from, int to) const { return static_cast<int>(draw() * (to - from + 1)) + from; }
+  std::string Letters(char first, int count) const {
+    std::string letters;
+    for (; count > 0; --count) letters += static_cast<char>(first + Number(0, 25));
+    return letters;
+  }
+  std::string Sentence() const {
+    int more = Number(10, 50) - 1;
+    std::string text = Letters('A', 1);
+    for (; more > 0; --more) {
+      text += Letters('a', 1);
+      const bool ends = Number(1, 4) == 2, comma = ends && Number(1, 4) == 2;
+      text += comma ? ", " : ends ? " " : "";
+    }
+    const int stop = Number(1, 4);
+    return text + (stop == 4 ? "! " : stop == 3 ? "? " : ". ");
+  }
+  std::string Word() const { return Letters('a', Number(2, 10)) + ' '; }
+  std::string Name() const {
+    std::string name;
+    for (int part = 0; part < 2; ++part) {
+      const int more = Number(2, 10) - 1;
+      name += Letters('A', 1);
+      name += Letters('a', more) + ' ';
+    }
+    return name;
+  }
+  // The drawn word goes out, those behind it move down.
+  std::string Shuffle(const std::string& text) const {
+    std::vector<std::string> words(1);
+    for (std::size_t i = 0; i < text.size(); ++i) {
+      words.back() += text[i];
+      if (text[i] == ' ' && i + 1 < text.size()) words.emplace_back();
+    }
+    std::string out;
+    while (!words.empty()) {
+      const auto word = words.begin() + Number(1, static_cast<int>(words.size())) - 1;
+      out += *word;
+      words.erase(word);
+    }
+    return out;
+  }
+};
+
+// required: the last word of a shuffled text runs into its follower
+TEST(RandomText, EqualsTheToldLoopsAndTakesTheirDraws) {
+  RandomSource random(7);
+  for (unsigned round = 0; round < 3000; ++round) {
+    const std::string text = random.Text(round % 8 != 0 ? 40 : 900, "ab  \r\n");
+    RandomSource source(round), told_source(round);
+    const Draw draw = source.Draws(), told_draw = told_source.Draws();
+    const Told told{told_draw};
+    ASSERT_EQ(RandomSentence(draw), told.Sentence());
+    ASSERT_EQ(RandomWord(draw), told.Word());
+    ASSERT_EQ(RandomName(draw), told.Name());
+    ASSERT_EQ(draw(), told_draw());
+    ASSERT_EQ(ShuffledWords(text, draw), told.Shuffle(text)) << text;
+  }
 }
 
-TEST_F(TextToolsTest, CharacterCount) {
-  platform.answers = {Answer::kOk, Answer::kOk};
-  Select("ab\r\n", 0, 3);
-  editor.commands.Run("mnucharcount");
-  EXPECT_EQ(platform.calls.back(), "message 0 \"Počet znaků je : 3 celkem.\" \"Znaky\"");
-  Select("", 0, 0);
-  editor.commands.Run("mnucharcount");
-  EXPECT_EQ(platform.calls.back(), "message 0 \"Počet znaků v celém textu je : 0 celkem.\" \"Znaky\"");
+std::string Shown(const Rows& rows) {
+  std::string shown;
+  for (const std::string& row : rows) shown += row + '|';
+  return shown;
 }
 
-TEST_F(TextToolsTest, ClipboardCommands) {
-  platform.clipboard = "XY";
-  Select("abcd", 1, 3);
-  EXPECT_EQ(After("mnuadd"), "aXYbcd");  // required: never over the selection
-  Select("abcd", 1, 3);
-  EXPECT_EQ(After("mnucut"), "ad");
-  EXPECT_EQ(platform.clipboard, "bc");
-  editor.commands.Run("mnucopy");
-  EXPECT_EQ(platform.clipboard, "ad");
-  editor.commands.Run("mnucopysel");
-  EXPECT_EQ(platform.clipboard, "");  // nothing selected: the empty text goes there all the same
-  Select("abcd", 2, 2);
-  editor.commands.Run("mnuallselect");
-  EXPECT_EQ(editor.text.SelText(), "abcd");
+TEST(ColumnFormat, TheLoadMakesItsRowsAndTellsTheShortest) {
+  const std::pair<std::string_view, std::string> cases[] = {
+      {"", " 0"},
+      {"a", " 1"},  // required: one character gives no row
+      {"ab", "ab| 2"},
+      {"ab\r\ncde", "ab|cde| 2"},
+      {"abc\r\n", "abc|bc\r\n| 4"},  // required: the extra row
+      {"abc\r\nde\r\n", "abc|de|e\r\n| 3"},
+      {"abc\r\n\r\nde", "abc||de| 0"},
+      {"abc\r\n\r\n", "abc|| 3"},           // the walk ends before the line feed of the empty line
+      {"ab\ncd", "cd| 2"},                  // a bare line feed makes no row
+      {"ab\rc\r\n", "ab|b\rc|\rc\r\n| 4"},  // only a line feed ends a line
+      {"ab\r\nd", "ab| 2"},                 // required: a last line of one character gives no row
+  };
+  for (const auto& [selected, shown] : cases) {
+    const SelectedRows result = RowsOfSelection(selected);
+    EXPECT_EQ(Shown(result.rows) + ' ' + std::to_string(result.shortest), shown) << selected;
+  }
 }
 
-TEST_F(TextToolsTest, WholeTextFromTheClipboardIsAskedFor) {
-  platform.files["/a.txt"] = "abcd";
-  editor.opener.OpenPath("/a.txt");
-  platform.clipboard = "new";
-  platform.answers = {Answer::kNo, Answer::kYes, Answer::kNo, Answer::kYes};
-  EXPECT_EQ(After("mnuinsert"), "abcd");
-  EXPECT_EQ(platform.calls.back(), "message 52 \"Opravdu vše nahradit textem ze schránky ?\" \"Vložení\"");
-  EXPECT_EQ(After("mnuinsert"), "new");
-  EXPECT_EQ(editor.documents.CurrentPath(), "/a.txt");
-  EXPECT_EQ(After("mnunewclip"), "new");
-  EXPECT_EQ(platform.calls.back(), "message 52 \"Opravdu nový dokument z textu ve schránce ?\" \"Nový\"");
-  EXPECT_EQ(editor.documents.CurrentPath(), "");  // required: on No as well
-  EXPECT_EQ(editor.documents.Title(), "Pelmar VEX ()");
-  editor.commands.Run("mnuclearclip");
-  EXPECT_EQ(platform.calls.back(), "clipboard clear");
+TEST(ColumnFormat, OperationsActAtTheDistance) {
+  const auto after = [](auto operation, auto... arguments) {
+    Rows rows{"ab", "cde", "", "x"};
+    operation(rows, arguments...);
+    return Shown(rows) + ' ';
+  };
+  const std::string_view shown[] = {
+      "-ab|-cde|-|-x| b|de||| ab-|cde-|-|x-| a|cd||| ",
+      "a-b|c-de||x-| a|ce||x| a-b|cd-e||-x| b|ce||x| ",
+      "ab-|cd-e||x| ab|cd||x| -ab|c-de||x| ab|de||x| ",
+      "ab|cde-||x| ab|cde||x| ab|-cde||x| ab|cde||x| ",
+  };
+  for (std::size_t distance = 0; distance < std::size(shown); ++distance)
+    EXPECT_EQ(after(InsertFromStart, distance, "-") + after(RemoveFromStart, distance) +
+                  after(InsertFromEnd, distance, "-") + after(RemoveFromEnd, distance),
+              shown[distance]);
+  EXPECT_EQ(ShortestRow({"abc", "ab", "x"}) + 10 * ShortestRow({}), 1u);
 }
 
 }  // namespace

@@ -1,0 +1,117 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <regex>
+#include <string>
+
+#include "support/random_source.h"
+#include "text/codepage.h"
+#include "text/number_text.h"
+
+namespace pelmar {
+namespace {
+
+using namespace std::string_literals;
+
+std::string AllBytes() {
+  std::string all;
+  for (int code = 0; code < 256; ++code) all += CharOf(code);
+  return all;
+}
+
+TEST(CodePage, EveryByteSurvivesUnicode) {
+  const std::string all = AllBytes();
+  EXPECT_EQ(FromUtf8(ToUtf8(all)), all);
+  std::u16string wide;
+  for (const char ch : all) wide += UnicodeOf(static_cast<unsigned char>(ch));
+  EXPECT_EQ(FromUtf16(wide), all);
+  EXPECT_EQ("Žluťoučký kůň €"_w, "\x8Elu\x9Dou\xE8k\xFD k\xF9\xF2 \x80");
+  EXPECT_EQ(ToUtf8("©®™ß"_w), "©®™ß");
+}
+
+TEST(CodePage, WhatThePageLacksBecomesOneQuestionMark) {
+  const std::pair<std::string_view, std::string_view> cases[] = {
+      {"aЖb", "a?b"}, {"😀!", "?!"}, {"\xFF\xFE", "??"}, {"\xE2\x82", "??"}, {"\xC0\x80x", "??x"}, {"€", "\x80"}};
+  for (const auto& [utf8, expected] : cases) EXPECT_EQ(FromUtf8(utf8), expected) << utf8;
+  EXPECT_EQ(FromUtf16(u"a\U0001F600b\xD800"), "a?b?");
+}
+
+TEST(Utf8, IsWellFormedToTheLastBit) {
+  for (const std::string_view good : {"kůň", "\u0800\uD7FF\uE000\uFFFF", "\U00010000\U0010FFFF", "\uFEFFa"})
+    EXPECT_TRUE(IsUtf8(good) && LooksLikeUtf8(good)) << good;
+  EXPECT_TRUE(IsUtf8("kun\x7F") && !LooksLikeUtf8("kun\x7F") && !LooksLikeUtf8(""));
+  for (const std::string_view bad : {"k\xF9\xF2", "\xC1\xBF", "\xE0\x9F\xBF", "\xED\xA0\x80", "\xF0\x8F\xBF\xBF",
+                                     "\xF4\x90\x80\x80", "\xF5", "\x80", "ů\xC5", "\xE2\x82\xC5\xAF"})
+    EXPECT_FALSE(IsUtf8(bad) || LooksLikeUtf8(bad)) << bad;
+}
+
+TEST(CodePage, CaseCoversAllLettersOfThePage) {
+  EXPECT_EQ(ToUpper("příliš ľščťž ß 1. łąşżŕăç ţ"_w), "PŘÍLIŠ ĽŠČŤŽ ß 1. ŁĄŞŻŔĂÇ Ţ"_w);
+  std::string letters;
+  for (const char ch : AllBytes()) {
+    EXPECT_EQ(ToUpper(ToLower(ToUpper(ch))), ToUpper(ch));
+    EXPECT_EQ(ToLower(ToUpper(ToLower(ch))), ToLower(ch));
+    if (IsLetter(ch) && CodeOf(ch) >= 128) letters += ch;
+  }
+  EXPECT_EQ(ToUtf8(letters), "ŠŚŤŽŹšśťžźŁĄŞŻłąşĽľżŔÁÂĂÄĹĆÇČÉĘËĚÍÎĎĐŃŇÓÔŐÖŘŮÚŰÜÝŢßŕáâăäĺćçčéęëěíîďđńňóôőöřůúűüýţ");
+  EXPECT_FALSE(IsLetter('1') || IsLetter('@'));
+}
+
+TEST(NumberText, WritesFifteenDigitsAndFixedOnesWithAComma) {
+  std::string written;
+  for (const double number : {-0.0, -2.5, 0.1 + 0.2, 2.0 / 3, 3.14159265358979, 999999999999999.0, 1e15,
+                              1234567890123456.0, 0.0001, 0.00001, 1.5e-300, -1.5e308})
+    written += NumberText(number) + ' ';
+  EXPECT_EQ(written + NumberText(1.0f / 3) + ' ' + NumberText(0.00001f),
+            "0 -2,5 0,3 0,666666666666667 3,14159265358979 999999999999999 1E+15 1,23456789012346E+15 0,0001 1E-05 "
+            "1,5E-300 -1,5E+308 0,3333333 1E-05");
+  std::string fixed;  // halves go up
+  for (const double number : {1.0, 1.015625, 1.0390625, 0.000005, 1.000005, 9.999999, -0.000001, -1.2345678})
+    fixed += FixedText(number, 5) + ' ';
+  EXPECT_EQ(fixed + FixedText(-1.25, 1) + ' ' + FixedText(123.456, 9),
+            "1,00000 1,01563 1,03906 0,00001 1,00001 10,00000 0,00000 -1,23457 -1,3 123,456000000");
+}
+
+TEST(NumberText, ReadsWhatHasTheFormOfANumber) {
+  const auto form = [](const std::string& mark) {  // once more, as an expression
+    return "\\s*([+-]?(\\d+" + mark + "?\\d*|" + mark + "\\d+)([eE][+-]?\\d+)?)";
+  };
+  const std::regex leading(form("[.]")), whole(form(",") + "\\s*"), comma(",");
+  RandomSource random(8);
+  for (int round = 0; round < 30000; ++round) {
+    const std::string text = random.Text(2, " \t\r\n") + random.Text(8, "0159.,+-Ee x");
+    std::smatch found;
+    const bool leads = std::regex_search(text, found, leading, std::regex_constants::match_continuous);
+    const double number = leads ? std::strtod(found.str(1).c_str(), nullptr) : 0;
+    if (!std::isfinite(number)) continue;
+    ASSERT_EQ(LeadingNumber(text), number) << text;
+    const bool reads = std::regex_match(text, found, whole);
+    const double read = reads ? std::strtod(std::regex_replace(found.str(1), comma, ".").c_str(), nullptr) : 0;
+    ASSERT_EQ(ParseNumber(text), reads && std::isfinite(read) ? std::optional(read) : std::nullopt) << text;
+  }
+}
+
+TEST(NumberText, NumbersOutOfRange) {
+  std::string read;
+  for (const std::string& text : {"1E999"s, "1E+3000"s, "1E-999"s, "0." + std::string(400, '0') + "1", "inf"s, "nan"s,
+                                  "0x10"s, std::string(400, '1')})
+    read += NumberText(LeadingNumber(text)) + ' ';
+  EXPECT_EQ(read, "1E+99 1E+300 0 0 0 0 0 1,11111111111111E+308 ");  // a shorter part is small enough
+  EXPECT_EQ(ParseNumber("1E-999"), 0);
+  EXPECT_EQ(ParseNumber("0," + std::string(400, '0') + "1"), 0);
+  EXPECT_EQ(ParseNumber("inf"), std::nullopt);
+}
+
+TEST(NumberText, WhatIsWrittenReadsBackToFifteenDigits) {
+  RandomSource random(5);
+  for (int round = 0; round < 5000; ++round) {
+    const double number = (random.Next() * 20 - 10) * std::pow(10, static_cast<int>(random.Below(600)) - 300);
+    const auto back = ParseNumber(NumberText(number));
+    ASSERT_TRUE(back && std::abs(*back / number - 1) < 1e-14) << number;
+  }
+}
+
+}  // namespace
+}  // namespace pelmar
