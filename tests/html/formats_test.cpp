@@ -15,30 +15,16 @@
 namespace pelmar {
 namespace {
 
-// The whole text behind `write`, which finds this one selected.
-template <class Write>
-std::string Written(std::string_view selected, Write write) {
+// What the function makes of a text that is selected as a whole.
+template <class Function, class Spec>
+std::string Made(Function write, const Spec& spec, std::string_view selected) {
   TextBuffer text;
   text.SetText(std::string(selected));
   text.Select(0, text.Size());
-  write(text);
+  write(text, spec);
   return text.Text();
 }
-std::string Around(const Wrapping& tag, std::string_view selected) {
-  return Written(selected, [&](TextBuffer& text) { WrapSelection(text, tag); });
-}
-std::string Around(const LinkTag& link, std::string_view selected) {
-  return Written(selected, [&](TextBuffer& text) { InsertLink(text, link); });
-}
-std::string Around(const PageSpec& page, std::string_view selected) {
-  return Written(selected, [&](TextBuffer& text) { WrapInPage(text, page); });
-}
-std::string Around(const FramesetSpec& page, std::string_view selected) {
-  return Written(selected, [&](TextBuffer& text) { WrapInFrameset(text, page); });
-}
-std::string Around(const CellSpec& cell, std::string_view selected) {
-  return Written(selected, [&](TextBuffer& text) { WrapInCell(text, cell); });
-}
+constexpr auto kWrap = [](TextBuffer& text, const Wrapping& tag) { WrapSelection(text, tag); };
 
 using Cases = std::vector<std::pair<std::string, std::string>>;
 
@@ -49,11 +35,11 @@ void ExpectWritten(const Cases& cases) {
 TEST(Formats, BlocksAndFragments) {
   const FontSpec font{7, "Times", "#FF0000"};
   ExpectWritten({
-      {Around(Paragraph(Align::kLeft), ""), R"(<P ALIGN = "LEFT" > Odstavcový text </P>)"},
-      {Around(Heading({" 3", Align::kRight, true}), "x"), R"(<H3 NOWRAP ALIGN = "RIGHT"> x </H3>)"},
-      {Around(Heading({"6", Align::kNone, false}), ""), "<H6> Nadpisový text </H6>"},
-      {Around(Font({}), ""), "<FONT> fontové písmo </FONT>"},  // required: blanks around the sample only
-      {Around(Font(font), "x"), R"(<FONT SIZE="7" FACE="Times" COLOR="#FF0000">x</FONT>)"},
+      {Made(kWrap, Paragraph(Align::kLeft), ""), R"(<P ALIGN = "LEFT" > Odstavcový text </P>)"},
+      {Made(kWrap, Heading({" 3", Align::kRight, true}), "x"), R"(<H3 NOWRAP ALIGN = "RIGHT"> x </H3>)"},
+      {Made(kWrap, Heading({"6", Align::kNone, false}), ""), "<H6> Nadpisový text </H6>"},
+      {Made(kWrap, Font({}), ""), "<FONT> fontové písmo </FONT>"},  // required: blanks around the sample only
+      {Made(kWrap, Font(font), "x"), R"(<FONT SIZE="7" FACE="Times" COLOR="#FF0000">x</FONT>)"},
       {HorizontalRule({}), "<HR>"},
       {HorizontalRule({Align::kCenter, true, " 50%"}), R"(<HR ALIGN = "CENTER" NOSHADE Width = "50%">)"},
       {LinedHeading("x"), R"(<HR ALIGN = "LEFT" Width = "60%"><H2>x</H2><HR ALIGN = "RIGHT" Width = "60%">)"},
@@ -77,13 +63,14 @@ TEST(Formats, PathsAndLinks) {
       {LinkText("Жč?😀k\xF9.htm"), "%D0%96č?%F0%9F%98%80k%F9.htm"},
       {LinkText("\xF2\xC5"), "%F2%C5"},
       {AnchorTag("Kotva 1"), R"(<A NAME="Kotva 1"></A>)"},
-      {Around(LinkToAnchor("x"), " "), R"(<A HREF="#x"> </A>)"},
-      {Around(LinkToAnchor("část"_w), ""), R"(<A HREF="#část">Odkaz na část</A>)"},
-      {Around(LinkToMail("a@b"), "x"), R"(<A HREF="mailto:a@b" >x</A>)"},  // required: the blank
-      {Around(LinkToMail(""), ""), R"(<A HREF="mailto:" >mailto na </A>)"},
-      {Around(LinkToDocument({"x.htm", "a", "_top"}), ""), R"(<A HREF="x.htm#a" TARGET="_top">Odkaz na x.htm#a</A>)"},
-      {Around(LinkToDocument({"x.htm", "", ""}), "x"), R"(<A HREF="x.htm" TARGET="">x</A>)"},
-      {Around(LinkToDocument({"", "a", {}}), "x"), R"(<A HREF="#a">x</A>)"},
+      {Made(InsertLink, LinkToAnchor("x"), " "), R"(<A HREF="#x"> </A>)"},
+      {Made(InsertLink, LinkToAnchor("část"_w), ""), R"(<A HREF="#část">Odkaz na část</A>)"},
+      {Made(InsertLink, LinkToMail("a@b"), "x"), R"(<A HREF="mailto:a@b" >x</A>)"},  // required: the blank
+      {Made(InsertLink, LinkToMail(""), ""), R"(<A HREF="mailto:" >mailto na </A>)"},
+      {Made(InsertLink, LinkToDocument({"x.htm", "a", "_top"}), ""),
+       R"(<A HREF="x.htm#a" TARGET="_top">Odkaz na x.htm#a</A>)"},
+      {Made(InsertLink, LinkToDocument({"x.htm", "", ""}), "x"), R"(<A HREF="x.htm" TARGET="">x</A>)"},
+      {Made(InsertLink, LinkToDocument({"", "a", {}}), "x"), R"(<A HREF="#a">x</A>)"},
   });
 }
 
@@ -148,12 +135,11 @@ TEST(Formats, Tables) {
       {TagAttributes(RowTag({.alignment = by_character})), R"( ALIGN="CHAR" CHAR="," VALIGN="BOTTOM")"},
       {RowTag({.alignment = {CellAlign::kCharacter, "", {}}}), R"(<TR ALIGN="CHAR">)"},
       {RowTag({.alignment = {CellAlign::kRight, ",", {}}}), R"(<TR ALIGN="RIGHT">)"},
-      {Around(cell, "x"),
+      {Made(WrapInCell, cell, "x"),
        R"(<TH ALIGN="CHAR" CHAR="," VALIGN="BOTTOM" BGCOLOR="#FF0000" COLSPAN="1" ROWSPAN="2" NOWRAP)"
        R"( WIDTH="3">x</TH>)"},
-      {Around(CellSpec{}, ""), "<TD>Buňka</TD>"},
-      {Written("x", [](TextBuffer& text) { InsertRow(text, {.cells = 2}); }),
-       "<TR><TD>Buňka1</TD><TD>Buňka2</TD></TR>\r\nx"},
+      {Made(WrapInCell, CellSpec{}, ""), "<TD>Buňka</TD>"},
+      {Made(InsertRow, RowSpec{.cells = 2}, "x"), "<TR><TD>Buňka1</TD><TD>Buňka2</TD></TR>\r\nx"},
   });
 }
 
@@ -173,12 +159,13 @@ TEST(Formats, PagesAroundTheDocument) {
   const std::string frameset = "<!DOCTYPE HTML PUBLIC \"-//IETF/DTD HTML v.m//EN\">\r\n<HTML>\r\n <HEAD>\r\n" +
                                code_page + "  <TITLE>t</TITLE>\r\n </HEAD>\r\n <FRAMESET";
   ExpectWritten({
-      {Around(bare, ""), page + ">\r\n---TEXT---\r\n\r\n </BODY>\r\n</HTML>"},
-      {Around(full, "x\r\n"), page + R"( BACKGROUND="file:///a.gif" BGCOLOR="1" TEXT="2" LINK="3" VLINK="4" ALINK="5">)"
-                                     "\r\n<BASEFONT SIZE=\"7\">\r\nx\r\n\r\n\r\n </BODY>\r\n</HTML>"},
-      {Around(FramesetSpec{{}, {}, "t"}, ""),
+      {Made(WrapInPage, bare, ""), page + ">\r\n---TEXT---\r\n\r\n </BODY>\r\n</HTML>"},
+      {Made(WrapInPage, full, "x\r\n"),
+       page + R"( BACKGROUND="file:///a.gif" BGCOLOR="1" TEXT="2" LINK="3" VLINK="4" ALINK="5">)"
+              "\r\n<BASEFONT SIZE=\"7\">\r\nx\r\n\r\n\r\n </BODY>\r\n</HTML>"},
+      {Made(WrapInFrameset, FramesetSpec{{}, {}, "t"}, ""),
        frameset + ">\r\n </FRAMESET>\r\n <NOFRAMES>\r\nTento Prohlížeč nepodporuje Framesy\r\n </NOFRAMES>\r\n</HTML>"},
-      {Around(FramesetSpec{"1,*", "2,*", "t"}, "x\r\ny"),  // required: columns as rows too
+      {Made(WrapInFrameset, FramesetSpec{"1,*", "2,*", "t"}, "x\r\ny"),  // required: columns as rows too
        frameset + " ROWS=\"1,*\" ROWS=\"2,*\">\r\n </FRAMESET>\r\n <NOFRAMES>\r\nx\r\ny\r\n </NOFRAMES>\r\n</HTML>"},
   });
 }

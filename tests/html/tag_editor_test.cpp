@@ -160,15 +160,5 @@ TEST_F(TagEditorOnText, AddsAttributesToTheTagThatClosesBehindTheCaret) {
   }
 }
 
-TEST_F(TagEditorOnText, InsertsACustomTag) {
-  const std::tuple<bool, std::size_t, std::string_view> cases[] = {
-      {false, 1, R"(<X ID="1">a)"}, {true, 1, R"(<X ID="1">a</X>)"}, {true, 0, R"(<X ID="1">Vlastní tag</X>a)"_w}};
-  for (const auto& [closed, selected, after] : cases) {
-    Put("^a", selected);
-    InsertCustomTag(text, {"X", {{"ID"}, {"1"}}, closed});
-    EXPECT_EQ(text.Text(), after);
-  }
-}
-
 }  // namespace
 }  // namespace pelmar
