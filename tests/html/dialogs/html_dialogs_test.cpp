@@ -27,12 +27,9 @@
 namespace pelmar {
 namespace {
 
-// A page up to what its dialog says.
-constexpr const char* kHead =
-    R"(<!DOCTYPE HTML PUBLIC "-//W3C//DTD HTML 4.0 Final//EN">¶ <HEAD>¶)"
-    R"(  <META HTTP-EQUIV="Content-Type" CONTENT="text/html; charset=windows-1250">¶)"
-    R"(  <META NAME="GENERATOR" CONTENT="Orvilanths PELmar VEX v8.9.2.1b CZ">¶)"
-    R"(  <META NAME="AUTHOR" CONTENT="Jan Novák">¶  <META NAME="CREATED" CONTENT="11-24-2026 09:05:00">¶)";
+// What all pages tell of themselves.
+constexpr const char* kHead = R"(  <META HTTP-EQUIV="Content-Type" CONTENT="text/html; charset=windows-1250">¶)"
+                              R"(  <META NAME="GENERATOR" CONTENT="Orvilanths PELmar VEX v8.9.2.1b CZ">¶)";
 
 // Opens the dialog by the command, takes the steps, presses "&Ok". "^" stands at both ends of the selection, or where
 // the caret is if that isn't the end; a text to begin with that has none is selected as a whole. "¶" is a line end, "~"
@@ -72,10 +69,7 @@ struct HtmlDialogs : testing::Test {
     platform.now = {2026, 11, 24, 9, 5, 0};
     editor.settings.UserName = "Jan Novák"_w;
     editor.settings.UserEmail = "žluť@b.cz"_w;
-    temp.Put("žЖ.GIF", "");
-    temp.Put("b.jpg", "");
-    temp.Put("x.htm", "");
-    temp.Put("sub/k\xF9.gif", "");
+    for (const char* name : {"žЖ.GIF", "b.jpg", "x.htm", "sub/k\xF9.gif"}) temp.Put(name, "");
     std::filesystem::current_path(temp.Path());  // where the lists of files begin
   }
   ~HtmlDialogs() override { std::filesystem::current_path(back); }
@@ -100,20 +94,18 @@ struct HtmlDialogs : testing::Test {
     if (pieces.size() == 1) pieces = {{}, pieces.first(), {}};
     const std::string text = TextFromQString(pieces.join(QString()));
     editor.text.SetText(text);
-    editor.text.Select(static_cast<std::size_t>(pieces.first().size()),
-                       text.size() - static_cast<std::size_t>(pieces.last().size()));
+    editor.text.Select(TextFromQString(pieces.first()).size(), text.size() - TextFromQString(pieces.last()).size());
   }
   QString Folded(QString text) {
     return text.replace(QStringLiteral("\r\n"), QStringLiteral("¶"))
         .replace(Utf8ToQString(temp.Path()), QStringLiteral("~"));
   }
   std::string Document() {
-    QString text = TextToQString(editor.text.Text());
-    const auto start = static_cast<qsizetype>(editor.text.SelStart());
-    const auto length = static_cast<qsizetype>(editor.text.SelLength());
-    if (start < text.size()) text.insert(start + length, u'^');
-    if (length > 0) text.insert(start, u'^');
-    return Folded(text).replace(QString::fromUtf8(kHead), QStringLiteral("…")).toStdString();
+    const std::string text = editor.text.Text(), selected(editor.text.SelText());
+    const std::size_t start = editor.text.SelStart();
+    const std::string marked = text.substr(0, start) + (selected.empty() ? "" : "^") + selected +
+                               (start < text.size() ? "^" : "") + text.substr(start + selected.size());
+    return Folded(TextToQString(marked)).replace(QString::fromUtf8(kHead), QStringLiteral("…")).toStdString();
   }
   void Expect(std::initializer_list<Row> rows) {
     for (const auto& [command, steps, before, after] : rows) {
@@ -222,7 +214,9 @@ TEST_F(HtmlDialogs, WriteLinksImagesAndFrames) {
 
 TEST_F(HtmlDialogs, WriteWholePages) {
   const auto page = [](const std::string& body) {
-    return "…  <TITLE>Stránka </TITLE>¶ </HEAD>¶ <BODY" + body + "¶¶ </BODY>¶</HTML>";
+    return R"(<!DOCTYPE HTML PUBLIC "-//W3C//DTD HTML 4.0 Final//EN">¶ <HEAD>¶…  <META NAME="AUTHOR" CONTENT="Jan Novák">¶)"
+           R"(  <META NAME="CREATED" CONTENT="11-24-2026 09:05:00">¶  <TITLE>Stránka </TITLE>¶ </HEAD>¶ <BODY)" +
+           body + "¶¶ </BODY>¶</HTML>";
   };
   const auto look = [this] { return ColorToHex(main.Look().fore_color) + " " + ColorToHex(main.Look().back_color); };
   Expect({{"mnucreate", "", "", page(">¶^---TEXT---^")},
@@ -251,9 +245,7 @@ TEST_F(HtmlDialogs, WriteWholePages) {
   ExpectState(dialog, "", "Command1=&Ok Label10=");
   Expect({{"Newhtml", "", "x", page(">¶^x^")},
           {"mnuHTML_fset", "Check2! Text3=Můj", "",
-           R"(<!DOCTYPE HTML PUBLIC "-//IETF/DTD HTML v.m//EN">¶<HTML>¶ <HEAD>¶)"
-           R"(  <META HTTP-EQUIV="Content-Type" CONTENT="text/html; charset=windows-1250">¶)"
-           R"(  <META NAME="GENERATOR" CONTENT="Orvilanths PELmar VEX v8.9.2.1b CZ">¶  <TITLE>Můj</TITLE>¶ </HEAD>¶)"
+           R"(<!DOCTYPE HTML PUBLIC "-//IETF/DTD HTML v.m//EN">¶<HTML>¶ <HEAD>¶…  <TITLE>Můj</TITLE>¶ </HEAD>¶)"
            R"( <FRAMESET ROWS="*,50%,50">¶ </FRAMESET>¶ <NOFRAMES>¶^Tento Prohlížeč nepodporuje Framesy^¶)"
            R"( </NOFRAMES>¶</HTML>)"}});
 }
@@ -287,12 +279,10 @@ TEST_F(HtmlDialogs, WriteTablesRowsAndCells) {
 
 TEST_F(HtmlDialogs, WalkThroughATable) {
   const QWidget& table = Open("mnutable");
-  const std::string shrunk = "Label12=2/2 Label13=2/2 Label16=2/2 Text3= Text4= Text5=";
   ExpectState(table, "VScroll1=3 VScroll2=3 HScroll1=3 VScroll7=3 VScroll8=3", "Label12=3/3 Label13=3/3 Label16=3/3");
+  Work(table, "Text4=ř Text3=' NOWRAP' Text5=typed HScroll1=1 VScroll7=2 Text4=x HScroll1=3 VScroll7=3");
   // The position falls back, to an empty cell.
-  ExpectState(table, "Text4=ř Text3=' NOWRAP' Text5=typed HScroll1=1 VScroll7=2 Text4=x HScroll1=3 VScroll7=3",
-              "Text4=ř");
-  ExpectState(table, "VScroll1=2 VScroll2=2", shrunk);
+  ExpectState(table, "VScroll1=2 VScroll2=2", "Label12=2/2 Label13=2/2 Label16=2/2 Text3= Text4= Text5=");
   Expect({{"mnutable", "", "", "<TABLE>¶<TR><TD></TD><TD></TD></TR>¶<TR><TD>x</TD><TD></TD></TR>¶</TABLE>"},
           {"mnutable", "VScroll1=3 VScroll2=3", "",
            "<TABLE>¶<TR><TD></TD><TD></TD><TD></TD></TR>¶<TR><TD>x</TD><TD></TD><TD></TD></TR>¶"
@@ -367,7 +357,6 @@ TEST_F(HtmlDialogs, LabelsFollowBarsAndUnits) {
            {"mnuhr", "VScroll1=800", "Label1=800"},
            {"mnuhr", "Option5!", "Label1= 800"},  // required: the unit that is set already counts as well
            {"mnuhr", "Option4!", "Label1= 100%"},
-           {"MnuHTMLASCII", "HScroll1=65", "Label1=65 Label2=A"},
            {"MnuHTMLASCII", "HScroll1=38", "Label1=38 Label2=&"},
            {"MnuHTMLASCII", "HScroll1=138", "Label1=138 Label2=Š"},
            {"mnuobr", "Check1! VScroll1=150", "Label3= 150% Label4= 10%"},
@@ -380,7 +369,6 @@ TEST_F(HtmlDialogs, LabelsFollowBarsAndUnits) {
            {"mnucreate", "Check6! Command8!", "Label11=#FF0010 Picture3=#ff0010"},
            {"mnuodkazjiny", "", "Frame1= Text1=(http://) Command1=(&Ok)"},
            {"mnuodkazjiny", "Option2!", "Frame1=() Text1=http:// Command1=&Ok"},
-           {"mnuodkazjiny", "Option1!", "Frame1= Command1=(&Ok)"},
            {"mnuodkazjiny", "File1=0 Option2! Option1!", "Command1=&Ok"},
            {"mnuodkazjiny", "Option2! Text2='' Text1=a", "Command1=(&Ok)"},  // required: for want of a fragment
            {"mnuodkazjiny", "Option2!", "Command1=&Ok"},
@@ -424,8 +412,7 @@ TEST_F(HtmlDialogs, TheChosenFileLeadsLabelAndButtons) {
   ExpectState(dialog, "", "Label1= Command1=(&Ok) Command3=()");
   ExpectState(dialog, "File1=0", "Label1=~/žЖ.GIF Command1=&Ok Command3=");
   ExpectState(dialog, "Check5!", "Label1=žЖ.GIF Command1=&Ok Command3=()");
-  ExpectState(dialog, "Check5!", "Label1=~/žЖ.GIF Command1=&Ok Command3=");
-  ExpectState(dialog, "Combo1=*.jpg", "Label1=~/ Command1=(&Ok) Command3=()");
+  ExpectState(dialog, "Check5! Combo1=*.jpg", "Label1=~/ Command1=(&Ok) Command3=()");
   ExpectState(dialog, "File1=0", "Label1=~/b.jpg Command1=&Ok Command3=");
   folders->SetPath(Utf8ToQString(temp.File("sub")));
   ExpectState(dialog, "", "Label1=~/sub/ Command1=(&Ok) Command3=()");
@@ -457,7 +444,6 @@ TEST_F(HtmlDialogs, ListsOfItems) {
   }
   ExpectState(bullets, "", "List1=2|3 Command2=O&deber");
 
-  Expect({{"MnuListDef", "", "", "<DL>¶</DL>"}});
   const QWidget& terms = Open("MnuListDef");
   ExpectState(terms, "Command1! Atribut=a Hodnota=''", "Command1=(&Přidej)");  // required: by the last change
   QTest::keyClick(Find<QLineEdit>(terms, "Hodnota"), Qt::Key_Return);
@@ -476,6 +462,8 @@ TEST_F(HtmlDialogs, AttributesAndTagsOfOnesOwn) {
           {"mnuvlastni", "Check1!", "a", R"(<X Atribut="Hodnota">^a)"}});
   const QWidget& attr = Open("mnuatr");
   ExpectState(attr, "", "Atribut=Atribut Hodnota=Hodnota Command2=(O&deber)");
+  QTest::keyClick(Named(attr, QStringLiteral("Atribut")), Qt::Key_Down);
+  ExpectState(attr, "", "Atribut=ALIGN");  // the first row of the list
   ExpectState(attr, "Atribut=ID Hodnota=ž Command1! Atribut=REL Command1! Atributs=1 Atribut=X Command1!",
               "Atributs=ID|X|>REL Values=ž|ž|>ž");  // the rows stay as they are
   ExpectState(attr, "Command2!", "Atributs=ID|X Values=ž|ž");
@@ -491,16 +479,13 @@ TEST_F(HtmlDialogs, ATagIsTakenApartAndWrittenBack) {
   platform.opens = {"/ž.gif", std::nullopt};
   platform.answers = {Answer::kOk, Answer::kOk};
   const auto edit = [&](const std::function<void(QWidget&)>& act) {
-    bool acted = false;
     Inside([&] {
-      acted = true;
       QWidget& dialog = *QApplication::activeModalWidget();
       act(dialog);
       if (dialog.isVisible()) Ok(dialog);
       dialog.hide();
     });
     editor.commands.Run("Mnu_Edit_Tag");
-    EXPECT_TRUE(acted);
   };
   for (const auto& [before, steps, state, after] : {
            std::tuple{"a<IMG ALT=\"a b\" SRC=c>^d", "", "Text1=IMG Atributs=ALT|SRC Values=a b|c Command2=O&deber",
@@ -542,6 +527,7 @@ TEST_F(HtmlDialogs, ATagIsTakenApartAndWrittenBack) {
 }
 
 TEST_F(HtmlDialogs, ASampleTakesThePlaceOfTheDocument) {
+  Expect({{"mnutemplate", "", "x", "^Vyber dokument¶"}});
   Put("ol^d");
   const QWidget& window = Open("mnutemplate");
   auto* list = Find<QTreeWidget>(window, "ListView1");
@@ -568,28 +554,6 @@ TEST_F(HtmlDialogs, ASampleTakesThePlaceOfTheDocument) {
   EXPECT_EQ(preview(), SampleText("BAT2", editor.settings));
   editor.text.Undo();  // one step
   EXPECT_EQ(editor.text.Text(), "old");
-}
-
-TEST_F(HtmlDialogs, KeysAloneMakeALink) {
-  QWidget& link = Open("mnuodkazjiny");
-  QApplication::setActiveWindow(&link);
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&link));
-  // By way of the window, as the system's keys come, so that access keys work.
-  const auto press = [&](Qt::Key key, Qt::KeyboardModifiers with = {}) {
-    QTest::keyClick(link.windowHandle(), key, with);
-  };
-  const auto access = [&](Qt::Key key, const char* button) {
-    press(key, Qt::AltModifier);  // The button stays down for a moment.
-    EXPECT_TRUE(QTest::qWaitFor([&] { return Find<QAbstractButton>(link, button)->isChecked(); })) << button;
-  };
-  access(Qt::Key_A, "Option2");
-  press(Qt::Key_Tab);
-  press(Qt::Key_End);
-  QTest::keyClicks(link.focusWidget(), QStringLiteral("a.cz"));
-  access(Qt::Key_K, "Check1");
-  access(Qt::Key_T, "Check3");
-  for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Down, Qt::Key_Down, Qt::Key_Return}) press(key);
-  EXPECT_EQ(Document(), "<A HREF=\"http://a.cz#Kotva1\" TARGET=\"_self\">Odkaz na http://a.cz#Kotva1</A>");
 }
 
 }  // namespace
