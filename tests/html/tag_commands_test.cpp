@@ -1,7 +1,9 @@
+// The commands of the HTML menu that need no dialog.
 #include "html/tag_commands.h"
 
 #include <gtest/gtest.h>
 
+#include "html/test_page.h"
 #include "support/scripted_platform.h"
 #include "support/whole_editor.h"
 #include "text/codepage.h"
@@ -17,34 +19,64 @@ struct TagCommandsTest : testing::Test {
   std::string Written(std::initializer_list<const char*> commands) {
     editor.text.SetText("");
     for (const char* command : commands) editor.commands.Run(command);
+    return ToUtf8(editor.text.Text());
+  }
+  // What the command makes of a document "text-" with the text selected.
+  std::string Made(const std::string& command, const std::string& text) {
+    editor.text.SetText(text + "-");
+    editor.text.Select(0, text.size());
+    editor.commands.Run(command);
     return editor.text.Text();
   }
 };
 
-TEST_F(TagCommandsTest, WritesFixedTexts) {
+TEST_F(TagCommandsTest, WriteFixedTextsAndTheProfile) {
   EXPECT_EQ(Written({"mnubr", "MnuHTMLeft", "MnuHTMLright", "mnuHTMLAnd", "MnuHTMLnobr", "mnuand", "mnudolar",
                      "mnucross", "mnuSS", "mnuZav", "mnubackslash", "mnucop", "mnureg", "mnutm"}),
-            "<BR>&lt;&gt;&amp;&nbsp;&$#ß@\\©®™"_w);
+            "<BR>&lt;&gt;&amp;&nbsp;&$#ß@\\©®™");
+  platform.now = {2026, 3, 9, 7, 5, 0};
+  EXPECT_EQ(Written({"mnudate", "mnutime", "mnuemail"}), "03-09-202607:05:00\"\" <>");
+  editor.settings.UserName = "Jan Novák"_w;
+  editor.settings.UserEmail = "jan@x.cz";
+  EXPECT_EQ(Written({"mnuemail"}), "\"Jan Novák\" <jan@x.cz>");
 }
 
 TEST_F(TagCommandsTest, ASampleIsItsOwnTagAroundAText) {
   for (const TagWrapper& tag : TagWrappers()) {
-    EXPECT_EQ(Written({std::string(tag.command).c_str()}), tag.sample);
+    EXPECT_EQ(Written({std::string(tag.command).c_str()}), ToUtf8(tag.sample));
+    EXPECT_EQ(Made(std::string(tag.command), "x"), std::string(tag.open) + "x" + std::string(tag.close) + "-");
     EXPECT_TRUE(tag.sample.starts_with(tag.open) && tag.sample.ends_with(tag.close)) << tag.command;
     EXPECT_EQ(tag.close.substr(tag.close.find('/') + 1), std::string(tag.open.substr(1, tag.open.find('>'))));
   }
   // required: no blanks in the toolbar's
-  EXPECT_EQ(Written({"mnucenter", "Center"}), "<CENTER> Centrovaný text </CENTER><CENTER>Centrovaný text</CENTER>"_w);
-  EXPECT_EQ(Written({"mnutt", "mnuhttpbig"}), "<TT>Pevná šířka znaků</TT><BIG>Velké</BIG>"_w);
+  EXPECT_EQ(Written({"mnucenter", "Center"}), "<CENTER> Centrovaný text </CENTER><CENTER>Centrovaný text</CENTER>");
+  EXPECT_EQ(Written({"mnutt", "mnuhttpbig"}), "<TT>Pevná šířka znaků</TT><BIG>Velké</BIG>");
 }
 
-TEST_F(TagCommandsTest, WritesDateTimeAndAddress) {
-  platform.now = {2026, 3, 9, 7, 5, 0};
-  EXPECT_EQ(Written({"mnudate", "mnutime"}), "03-09-202607:05:00");
-  EXPECT_EQ(Written({"mnuemail"}), "\"\" <>");
-  editor.settings.UserName = "Jan Novák"_w;
-  editor.settings.UserEmail = "jan@x.cz";
-  EXPECT_EQ(Written({"mnuemail"}), "\"Jan Novák\" <jan@x.cz>"_w);
+TEST_F(TagCommandsTest, MakeListsOfLines) {
+  for (const auto& [lines, list] : {
+           std::pair{"a\r\n\r\nbc",
+                     "<UL><LI>a</LI>\r\n<LI></LI>\r\n<LI>b</LI></UL>-"},  // required: the last one is lost
+           {"x", "<UL><LI></LI></UL>-"},
+           {"a\r\n", "<UL><LI>a</LI>\r</LI></UL>-"},
+           {"a\nbc", "<UL><LI>a\n<LI>b</LI></UL>-"},
+       })
+    EXPECT_EQ(Made("mnu_HTML_sel_list", lines), list);
+  EXPECT_EQ(Made("mnu_HTML_sel_num_list", "ab"), "<OL><LI>a</LI></OL>-");
+  platform.answers = {Answer::kOk};
+  EXPECT_EQ(Made("mnu_HTML_sel_num_list", ""), "-");
+  EXPECT_EQ(platform.TakeCalls(), std::vector<std::string>{R"(message 0 "Vyber text" "HTML list")"});
+}
+
+TEST_F(TagCommandsTest, StripTags) {
+  for (const auto& [html, plain] : {std::pair{"a <b>c</b> > d", "a c > d-"},
+                                    {"<a<b>c>d", "c>d-"},
+                                    {"<P\r\nX>&lt;\r\n\x9e</P>\n<", "&lt;\r\n\x9e\n-"}})
+    EXPECT_EQ(Made("mnuNoHtml", html), plain) << html;
+  EXPECT_EQ(editor.text.SelStart(), editor.text.Size() - 1);
+  platform.TakeCalls();
+  EXPECT_EQ(Made("mnuNoHtml", ""), "-");
+  EXPECT_EQ(platform.calls, (std::vector<std::string>{"busy 1", "busy 0"}));
 }
 
 }  // namespace

@@ -12,32 +12,10 @@ namespace {
 
 using Calls = std::vector<std::string>;
 
-TEST(StripHtml, DropsFromEachLessThanToTheNextGreaterThan) {
-  const std::pair<std::string_view, std::string_view> cases[] = {
-      {"", ""},
-      {"a <b>c</b> > d", "a c > d"},
-      {"<a<b>c>d", "c>d"},
-      {"<P\r\nX>&lt;\r\n\x9e</P>\n<", "&lt;\r\n\x9e\n"},
-  };
-  for (const auto& [html, plain] : cases) EXPECT_EQ(StripHtml(html), plain) << html;
-}
-
 struct PageTest : testing::Test {
   ScriptedPlatform platform;
   WholeEditor editor{platform};
 };
-
-TEST_F(PageTest, NoHtmlCleansTheSelectionAlone) {
-  editor.text.SetText("<B>a</B><I>b</I>");
-  editor.commands.Run("mnuNoHtml");
-  EXPECT_EQ(editor.text.Text(), "<B>a</B><I>b</I>");
-  editor.text.Select(0, 8);
-  platform.TakeCalls();
-  editor.commands.Run("mnuNoHtml");
-  EXPECT_EQ(editor.text.Text(), "a<I>b</I>");
-  EXPECT_EQ(editor.text.SelStart(), 1u);
-  EXPECT_EQ(platform.calls, (Calls{"busy 1", "busy 0"}));
-}
 
 TEST_F(PageTest, TestHtmlShowsTheSavedFileOrWritesOneNameAndOpensAnother) {
   editor.documents.MakeCurrent("/home/jan/a.html");

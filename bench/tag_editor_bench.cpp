@@ -1,0 +1,34 @@
+// What the tag editor's analysis costs on a tag of 64,000 bytes and on one of half that length: it takes linear time,
+// so the second takes about half as long. Limit: 5 ms.
+#include <benchmark/benchmark.h>
+
+#include <string>
+
+#include "html/tag_editor.h"
+
+namespace pelmar {
+namespace {
+
+void Analyse(benchmark::State& state, const char* piece) {
+  std::string tag = "<A";
+  while (tag.size() < static_cast<std::size_t>(state.range(0))) tag += piece;
+  tag += '>';
+  for (auto _ : state) benchmark::DoNotOptimize(AnalyseTag(tag, tag.size()));
+}
+
+#define TAG_OF(name, piece)                   \
+  BENCHMARK_CAPTURE(Analyse, name, piece)     \
+      ->Name("tag_of_" #name " (limit 5 ms)") \
+      ->Arg(32000)                            \
+      ->Arg(64000)                            \
+      ->Unit(benchmark::kMillisecond)
+
+TAG_OF(attributes, " ID=x");
+TAG_OF(words_of_one_value, " x");
+TAG_OF(blanks, " ");
+TAG_OF(equals, "=");
+TAG_OF(quotes, " \"");
+TAG_OF(markers, " \xFF");
+
+}  // namespace
+}  // namespace pelmar
