@@ -1,35 +1,26 @@
 """The program as assistive technology meets it, over the accessibility bus: its tree of objects, what can be done to
-them, and the events that it sends. The bus is one of the test's own and needs no screen.
+them, and the events that it sends. The bus is one of the test's own: who imports this is started again on it, by the
+distribution's Python, which has the bindings."""
 
-A test that uses it ends in run_on_bus(), in the place of unittest.main().
-"""
-
+import atexit
 import contextlib
 import os
-import subprocess
+import shutil
 import sys
 import tempfile
-import unittest
 
 from harness import PATIENCE, EditorCase
 
 ON_BUS = "PELMAR_ON_BUS"
-if ON_BUS in os.environ:
-    import gi
-    gi.require_version("Atspi", "2.0")
-    from gi.repository import Atspi, GLib
-else:
-    Atspi = GLib = None
+if ON_BUS not in os.environ:
+    folder = tempfile.mkdtemp(prefix="pelmar-bus-")
+    os.environ |= {ON_BUS: folder, "XDG_RUNTIME_DIR": folder, "XDG_CACHE_HOME": folder}
+    os.execvp("dbus-run-session", ["dbus-run-session", "--", "/usr/bin/python3", "-B", "-W", "ignore", *sys.argv])
+atexit.register(shutil.rmtree, os.environ[ON_BUS], ignore_errors=True)
 
-
-def run_on_bus():
-    """Runs the tests on a message bus of their own, by the distribution's Python, which has the bindings."""
-    if ON_BUS in os.environ:
-        unittest.main()
-    with tempfile.TemporaryDirectory(prefix="pelmar-bus-") as folder:
-        env = {**os.environ, ON_BUS: "1", "XDG_RUNTIME_DIR": folder, "XDG_CACHE_HOME": folder}
-        python = ["/usr/bin/python3", "-B", "-W", "ignore::DeprecationWarning"]
-        sys.exit(subprocess.call(["dbus-run-session", "--", *python, *sys.argv], env=env))
+import gi  # noqa: E402
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, GLib  # noqa: E402
 
 
 def children(node):
@@ -55,7 +46,7 @@ def face(node):
 class BusCase(EditorCase):
     """The program is heard over the bus. A window is named by how its title begins."""
 
-    environment = {"DBUS_SESSION_BUS_ADDRESS": os.environ.get("DBUS_SESSION_BUS_ADDRESS", ""),
+    environment = {"DBUS_SESSION_BUS_ADDRESS": os.environ["DBUS_SESSION_BUS_ADDRESS"],
                    "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
 
     def wait(self, check, what, needs_program=True):
@@ -79,7 +70,7 @@ class BusCase(EditorCase):
                          if face(node) == (role, name) or name is None), None)
         return self.wait(look, lambda: f"{role} {name!r} in {title!r} among {[face(one) for one in self.on_show('')]}")
 
-    def press(self, title, role, name):
+    def press(self, name, title="Pelmar VEX", role="menu item"):
         """Does what the item or button is for, once it is enabled."""
         node = self.find(title, role, name)
         self.wait(lambda: has(node, "ENABLED"), f"{name!r} to be enabled")
@@ -88,28 +79,19 @@ class BusCase(EditorCase):
             node.do_action(0)  # where it asks a question, the answer to this call comes only behind that
         Atspi.set_timeout(1000 * int(PATIENCE), 1000 * int(PATIENCE))
 
-    def menu(self, caption):
-        self.press("Pelmar VEX", "menu item", caption)
-
-    def push(self, title, button):
-        self.press(title, "push button", button)
-
     @contextlib.contextmanager
-    def hearing(self, *types):
-        """Hears events of these types in the block, each as its type, the name of its source and its detail."""
-        heard = []
+    def hearing(self, *expected):
+        """Waits behind the block for these events in this order, whatever comes between: each its type, the name of
+        its source and its detail."""
+        heard, kinds = [], {event[0] for event in expected}
         listener = Atspi.EventListener.new(
             lambda event, *_: heard.append((event.type, event.source.get_name(), event.detail1)))
-        for one in types:
-            listener.register(one)
-        yield heard
-        for one in types:
-            listener.deregister(one)
-
-    def wait_heard(self, heard, *expected):
-        """Waits for these events in this order, whatever comes between; forgets all until then."""
+        for kind in kinds:
+            listener.register(kind)
+        yield
         def all_heard():
             rest = iter(heard)
             return all(one in rest for one in expected)
         self.wait(all_heard, lambda: f"{expected} in {heard}")
-        heard.clear()
+        for kind in kinds:
+            listener.deregister(kind)

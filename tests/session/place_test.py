@@ -91,11 +91,6 @@ class PlaceTest(EditorCase):
         self.maximise(main, False)
         self.wait_place(notes, beside, "beside the restored main window")
 
-    def test_notes_alone_dock_into_the_corner(self):
-        notes = self.start("-note", title="Poznámky")
-        self.work(DOCK)
-        self.wait_place(notes, lambda left, top, w, h: (WIDTH - w, HEIGHT - h, w, h), "the corner")
-
 
 if __name__ == "__main__":
     unittest.main()

@@ -1,25 +1,80 @@
-"""The Debian packages as a person gets them: built, checked, put into a tree of their own, used by an ordinary user who
-may write nothing there, and taken away again."""
+"""What the system has to do with the program: the Debian packages as a person gets them, and printing on the default
+printer."""
 
 import os
 import re
 import shutil
+import subprocess
 import tempfile
 import unittest
 from pathlib import Path
 
-from harness import EditorCase, built
+from harness import AS_USER, NOBODY, EditorCase, built
+
+SERVER = """Listen {0}/socket
+DefaultAuthType None
+<Location />
+Allow all
+</Location>
+<Policy default>
+<Limit All>
+Allow all
+</Limit>
+</Policy>
+"""
+FILES = "FileDevice Yes\nSandboxing relaxed\nRequestRoot {0}/jobs\n" + "".join(
+    f"{place} {{0}}\n" for place in ("ServerRoot", "TempDir", "CacheDir", "StateDir"))
+WORDS = "Příliš žluťoučký kůň\r\núpěl ďábelské ódy"
 
 
-class PackageTest(EditorCase):
+class SystemTest(EditorCase):
+    def new_folder(self):
+        folder = Path(tempfile.mkdtemp(prefix="pelmar-system-"))
+        self.addCleanup(shutil.rmtree, folder, ignore_errors=True)
+        folder.chmod(0o711)
+        return folder
+
+    def serve_a_printer(self):
+        """A print server of the test's own, that keeps each job. Gives its folder."""
+        folder = self.new_folder()
+        (folder / "server.conf").write_text(SERVER.format(folder))
+        (folder / "files.conf").write_text(FILES.format(folder))
+        if AS_USER:
+            os.chown(folder, NOBODY, NOBODY)
+        server = subprocess.Popen(
+            [*AS_USER, "/usr/sbin/cupsd", "-f", "-c", folder / "server.conf", "-s", folder / "files.conf"],
+            stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        self.addCleanup(server.wait)
+        self.addCleanup(server.terminate)
+        self.env["CUPS_SERVER"] = str(folder / "socket")
+        self.wait((folder / "socket").exists, "the print server", needs_program=False)
+        self.command("lpadmin", "-p", "Test", "-v", "file:///dev/null")
+        self.command("lpadmin", "-d", "Test")
+        return folder
+
+    def test_words_reach_the_printer_without_a_question_and_a_refusal_is_told(self):
+        jobs = self.serve_a_printer() / "jobs"
+        page = self.write("page.html", WORDS)
+        self.start_with(page)
+        self.work("alt+s t [Pelmar VEX] Return")  # the printer isn't enabled yet
+        self.wait_exit(1)
+        self.assertEqual(list(jobs.glob("d*")), [])
+        self.command("cupsenable", "Test")
+        self.command("cupsaccept", "Test")
+        main = self.start_with(page)
+        self.work("alt+s t")
+        job, = self.wait(lambda: list(jobs.glob("d*")), "a print job")
+        self.wait(lambda: b"%%EOF" in job.read_bytes()[-32:], "the whole job")
+        self.assertEqual(self.command("pdftotext", job, "-").split(), WORDS.split())
+        self.end(main, answer=None)
+
     def dpkg(self, *arguments):
         as_root = [] if os.geteuid() == 0 else ["fakeroot"]
         self.command(*as_root, "dpkg", f"--root={self.tree}", "--force-depends", "--force-not-root", *arguments)
 
-    def test_built_installed_used_and_removed(self):
-        root = Path(tempfile.mkdtemp(prefix="pelmar-packages-"))
-        self.addCleanup(shutil.rmtree, root, ignore_errors=True)
-        root.chmod(0o755)
+    def test_packages_are_built_installed_used_and_removed(self):
+        """Used by an ordinary user who may write nothing there."""
+        root = self.new_folder()
         self.command("cpack", "--config", built("CPackConfig.cmake"), "-B", root / "packages")
         packages = {one.name.split("_")[0]: one for one in (root / "packages").glob("*.deb")}
         self.assertEqual(self.command("lintian", "--allow-root", "--display-info", "--pedantic", "--fail-on",
