@@ -5,7 +5,7 @@ keyboard, so the bus does what a person would."""
 import time
 import unittest
 
-from assistive import Atspi, BusCase, face, has, walk
+from assistive import Atspi, BusCase, face, has
 from screen import Screen
 
 TEXT = "Text dokumentu"
@@ -72,19 +72,12 @@ class WaylandTest(BusCase):
 
     def test_a_day_without_x(self):
         self.wait((self.home / "runtime" / "pelmar-test").exists, "the compositor", needs_program=False)
-        page = self.write("page.html", "text")
-        title = f"Pelmar VEX ({page})"
-        self.start(page, title=None, WAYLAND_DEBUG="1")
-        self.find(title, "text", TEXT).insert_text(0, "žlutý ", len("žlutý "))
-        self.find(title + "*")
+        self.start(title=None, WAYLAND_DEBUG="1")
+        self.find("Pelmar VEX ()", "text", TEXT).insert_text(0, "žlutý", len("žlutý"))
+        self.find("Pelmar VEX ()*")
         self.press("Soubor")
-        self.wait(lambda: has(self.find(title, "menu item", "Otevři"), "SHOWING"), "the open menu")
+        self.wait(lambda: has(self.find("Pelmar VEX", "menu item", "Otevři"), "SHOWING"), "the open menu")
         self.press("Soubor")
-        self.press("Ulož rychle")
-        for question in ("Opravdu uložit soubor?", "bude přepsán!"):
-            self.wait(lambda: any(question in one.get_name() for one in walk(self.find("Soubor"))), question)
-            self.press("Ano", "Soubor", "push button")
-        self.wait(lambda: page.read_bytes() == "žlutý text".encode("cp1250"), "the saved page")
 
         # A place that can't be had is asked for some seconds, not for ever.
         def rests():
@@ -93,7 +86,9 @@ class WaylandTest(BusCase):
             return self.places_asked_for() == before
         self.wait(rests, "an end of asking for a place")
         self.press("Konec")
+        self.press("Ano", "Konec", "push button")
         self.wait_exit()
+        self.assertEqual(self.autosaved(), "žlutý".encode("cp1250"))
 
 
 if __name__ == "__main__":

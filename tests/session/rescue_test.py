@@ -98,8 +98,8 @@ class RescueTest(EditorCase):
     def one_cut(self, act, kept):
         """Killed while it saves, closes and stores settings, and behind the Yes to what was kept: the document's file
         is whole, old or new, the settings are whole, and what was kept before is still there."""
-        def cut():
-            time.sleep(random.uniform(0, 0.03))
+        def cut(latest):
+            time.sleep(random.uniform(0, latest))
             self.kill()
             everywhere = [page, *(one for one in self.folder.iterdir() if one.is_file())]
             self.assertTrue(not kept or any(new in one.read_bytes() for one in everywhere))
@@ -111,7 +111,7 @@ class RescueTest(EditorCase):
         if kept:
             self.wait_kept(new)
         self.work(act)
-        cut()
+        cut(0.03)
         self.assertIn(page.read_bytes(), (old, new))
         self.assertGreaterEqual((self.folder / "pelmar.ini").stat().st_size, self.size_of_settings)
         for path in self.folder.glob("autosave_*.txt"):
@@ -119,7 +119,7 @@ class RescueTest(EditorCase):
         # The next start stands, with or without an offer of what was left.
         if self.start(title=re.compile(r"Záchrana|Pelmar VEX \(\)")).title == "Záchrana":
             self.work(f"[Záchrana] Return / [Pelmar VEX ({page})*]")
-        cut()
+        cut(0.3)
         for one in (*self.rescues(), *self.folder.glob("autosave_*")):
             one.unlink()
 

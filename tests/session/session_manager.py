@@ -5,11 +5,9 @@ import socket
 import struct
 import threading
 
-# Minor opcodes, of connections (whose major one is 0) and of sessions.
-BYTE_ORDER, SETUP, REPLY, PROTOCOL_SETUP, PROTOCOL_REPLY = 1, 2, 6, 7, 8
-REGISTER, REGISTERED, SAVE_YOURSELF, SAVED, DIE = 1, 2, 3, 8, 9
-SESSIONS = 1  # the major one that is answered with
-SAVE_LOCAL, SAVE_AND_SHUT_DOWN = bytes([1]), bytes([0, 1])
+# Opcodes: the major ones of a connection and of its session, and the minor ones of what is sent.
+CONNECTION, SESSION = 0, 1
+BYTE_ORDER, REPLY, PROTOCOL_REPLY, REGISTERED, SAVE_YOURSELF, DIE = 1, 6, 8, 2, 3, 9
 
 
 def array(data):
@@ -34,27 +32,26 @@ class SessionManager:
         self.client.sendall(struct.pack("<BBBBI", major, minor, 0, opcode, len(data) // 8) + data)
 
     def serve(self):
+        names = 2 * struct.pack("<H2s", 2, b"ok")  # of a maker and a version
         with self.socket, self.socket.accept()[0] as self.client, self.client.makefile("rb") as messages:
             while header := messages.read(8):
-                self.answer(*struct.unpack("<BBxxI", header), messages)
-
-    def answer(self, major, minor, length, messages):
-        names = 2 * struct.pack("<H2s", 2, b"ok")  # of a maker and a version
-        self.heard += messages.read(8 * length)
-        if major == 0 and minor == BYTE_ORDER:
-            self.send(0, BYTE_ORDER)
-        elif major == 0 and minor == SETUP:
-            self.send(0, REPLY, names)
-        elif major == 0 and minor == PROTOCOL_SETUP:
-            self.send(0, PROTOCOL_REPLY, names, opcode=SESSIONS)
-        elif major and minor == REGISTER:
-            self.send(SESSIONS, REGISTERED, array(b"client"))
-            self.send(SESSIONS, SAVE_YOURSELF, SAVE_LOCAL)
-        elif major and minor == SAVED:
-            self.saves += 1
-            if self.ending:
-                self.send(SESSIONS, DIE)
+                major, minor, length = struct.unpack("<BBxxI", header)
+                self.heard += messages.read(8 * length)
+                match min(major, SESSION), minor:
+                    case (0, 1):  # its byte order
+                        self.send(CONNECTION, BYTE_ORDER)
+                    case (0, 2):  # a connection
+                        self.send(CONNECTION, REPLY, names)
+                    case (0, 7):  # a session on it
+                        self.send(CONNECTION, PROTOCOL_REPLY, names, opcode=SESSION)
+                    case (1, 1):  # a client
+                        self.send(SESSION, REGISTERED, array(b"client"))
+                        self.send(SESSION, SAVE_YOURSELF, bytes([1]))  # for itself
+                    case (1, 8):  # it has saved
+                        self.saves += 1
+                        if self.ending:
+                            self.send(SESSION, DIE)
 
     def end_session(self):
         self.ending = True
-        self.send(SESSIONS, SAVE_YOURSELF, SAVE_AND_SHUT_DOWN)
+        self.send(SESSION, SAVE_YOURSELF, bytes([0, 1]))  # for all, before the end
