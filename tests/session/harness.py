@@ -12,6 +12,7 @@ Every wait polls up to a deadline and fails with what it waited for, the windows
 With PELMAR_SHOTS set to a folder, a picture of the screen goes there too. PELMAR_BUILD names the build folder.
 """
 
+import contextlib
 import os
 import re
 import signal
@@ -89,13 +90,10 @@ class EditorCase(unittest.TestCase):
 
     def kill(self):
         """Ends the program and what it started in its process group, at once, as a power cut would."""
-        if self.program is None:
-            return
-        try:
-            os.killpg(self.program.pid, signal.SIGKILL)
-        except ProcessLookupError:
-            pass
-        self.program.wait()
+        if self.program is not None:
+            with contextlib.suppress(ProcessLookupError):
+                os.killpg(self.program.pid, signal.SIGKILL)
+            self.program.wait()
 
     # A person's steps.
 
@@ -123,7 +121,7 @@ class EditorCase(unittest.TestCase):
 
     def end(self, window, answer="Return"):
         """Closes the window that is the program, and answers its question, where one is expected."""
-        self.close(window)
+        self.command("wmctrl", "-i", "-c", window.id)
         if answer:
             self.work(f"[Konec] {answer}")
         self.wait_exit()
@@ -138,9 +136,6 @@ class EditorCase(unittest.TestCase):
         """All managed windows, oldest first."""
         found = re.findall(r"^(0x\w+) +-?\d+ +\S+ (.*)$", self.command("wmctrl", "-l", check=False), re.MULTILINE)
         return [Window(int(number, 16), title) for number, title in found]
-
-    def titles(self):
-        return [window.title for window in self.windows()]
 
     def active(self):
         """The id of the window that has the keyboard, or None."""
@@ -173,10 +168,6 @@ class EditorCase(unittest.TestCase):
         """Brings the window to the front and waits until it has the keyboard."""
         self.command("wmctrl", "-i", "-a", window.id)
         self.wait(lambda: self.active() == window.id, f"window {window.title!r} to be active")
-
-    def close(self, window):
-        """What the close box does; the program may ask and refuse."""
-        self.command("wmctrl", "-i", "-c", window.id)
 
     def place(self, window):
         """Left, top, width and height with the frame."""
@@ -248,8 +239,8 @@ class EditorCase(unittest.TestCase):
                 self.shot(f"failed-{self.id()}-{time.strftime('%H%M%S')}")
                 what = what() if callable(what) else what
                 wrote = self.log.read_text(errors="replace") if self.program else ""
-                self.fail(f"waited for {what}, {'but the program has ended' if ended else 'in vain'}; windows: "
-                          f"{self.titles()}; it wrote: {wrote}")
+                self.fail(f"waited for {what}, {'but the program has ended' if ended else 'in vain'}; there are "
+                          f"{self.windows()}; it wrote: {wrote}")
             time.sleep(POLL)
         return result
 

@@ -26,7 +26,7 @@ class PlaceTest(EditorCase):
         self.work('[Config] "Jan" Return /')
         self.wait_centred("Pelmar VEX")
         main = self.work("Return [Pelmar VEX ()]")
-        for keys, title in (("alt+s v", "HTML  - Vytvoření"), ("F7", "Pelmar VEX - Kalkulátor"), ("F9", "Poznámky")):
+        for title, keys in (("HTML  - Vytvoření", "alt+s v"), ("Pelmar VEX - Kalkulátor", "F7"), ("Poznámky", "F9")):
             self.work(keys)
             self.wait_centred(title)
             self.work(f"[{title}] alt+F4 / [{main.title}]")

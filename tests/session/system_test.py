@@ -104,7 +104,7 @@ class SystemTest(EditorCase):
         main = self.start_with(page, program=program, user=True)
         # The help's text lies in the package; without it a box would stand beside.
         self.work('"new " F1 [Help k Pelmar VEX] Escape /')
-        self.assertEqual(self.titles(), [f"{main.title}*"])
+        self.assertEqual([one.title for one in self.windows()], [f"{main.title}*"])
         self.save_over()
         self.assertEqual(page.read_bytes(), "new <P>žluťoučký</P>".encode("cp1250"))
         self.end(main, answer=None)

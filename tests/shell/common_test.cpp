@@ -7,7 +7,9 @@
 #include "platform/color.h"
 #include "platform/paths.h"
 #include "platform/runtime_error.h"
+#include "shell/file_number.h"
 #include "support/random_source.h"
+#include "support/scripted_platform.h"
 #include "text/codepage.h"
 
 namespace pelmar {
@@ -42,11 +44,18 @@ TEST(Paths, AreJoinedAndMadeUrlsInBothKinds) {
   for (const char* folder : {"C:\\x", "C:\\x\\"}) EXPECT_EQ(JoinPath(folder, "a.txt"), "C:\\x\\a.txt");
 }
 
+TEST(FileExists, TakesASeparatorAtTheEnd) {
+  ScriptedPlatform platform;
+  platform.files["/a.txt"] = "";
+  const FileNumber number;
+  for (const char* path : {"/a.txt", "/a.txt/"}) EXPECT_TRUE(FileExists(number, platform, path));
+}
+
 TEST(Common, ColorsCountsAndLetters) {
   EXPECT_EQ(ColorToHex(0x030201), "#010203");
   EXPECT_EQ(ColorToHex(Rgb(10, 0, 200)), "#0A00C8");
   EXPECT_EQ(CountLineFeeds("a\rb\n\n"), 2);
-  EXPECT_EQ(CountLineFeeds(std::string(1000, '\n')), 1000);
+  EXPECT_EQ(CountLineFeeds(std::string(1000, '\n') + std::string(1000, 'x')), 1000);
   EXPECT_EQ(NumberWithSignBlank(0), " 0");
   EXPECT_EQ(NumberWithSignBlank(-3), "-3");
   // Letters of other languages stay.

@@ -57,6 +57,12 @@ TEST_F(RescueStoreTest, WhatADeadCopyKeptIsFoundOnceUntilItIsDiscarded) {
   Discard(found[0]);
   EXPECT_TRUE(FindAbandoned(folder, kPrefix).empty());
   EXPECT_EQ(Content(own.Path()), "mine");
+  // One that died before it kept anything, or whose file is gone, leaves nothing for ever.
+  LetACopyDie("x");
+  for (const auto& file : std::filesystem::directory_iterator(folder))
+    if (file.path() != own.Path() && file.path().extension() == ".pelmar") std::filesystem::remove(file.path());
+  EXPECT_TRUE(FindAbandoned(folder, kPrefix).empty());
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder), {}), 2);  // its own, and the lock on it
 }
 
 TEST(RescueFile, ReadsWhatWasWrittenWholeAndOfItsKindAlone) {

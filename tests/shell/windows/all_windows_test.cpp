@@ -1,6 +1,5 @@
 // What every window of the program owes to a person who works by keyboard, listens to it, or has a small screen: names,
-// whole captions, nothing over anything else, and the tabulator key reaching each control. What is wrong comes as a
-// text, a line for each fault.
+// whole captions, nothing over anything else, and the tabulator key reaching each control.
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
@@ -36,10 +35,6 @@ std::string Named(const QWidget* widget) {
   return (widget->window()->objectName() + QLatin1Char('.') + widget->objectName()).toStdString();
 }
 
-std::string Fault(bool found, const QWidget* widget, const std::string& what) {
-  return found ? Named(widget) + ' ' + what + '\n' : "";
-}
-
 // All on show, without the toolkit's own parts of controls.
 QList<QWidget*> Widgets(const QWidget& window) {
   QList<QWidget*> widgets = window.findChildren<QWidget*>();
@@ -51,94 +46,85 @@ QList<QWidget*> Widgets(const QWidget& window) {
   return widgets;
 }
 
-bool IsControl(const QWidget* widget) {
-  return widget->focusPolicy() != Qt::NoFocus || Is(widget, {"QAbstractButton", "QAbstractSlider", "QTabBar"});
-}
-
-std::string CutCaptions(const QWidget& window) {
-  std::string faults;
+void ExpectWholeCaptions(const QWidget& window) {
   for (const QWidget* widget : Widgets(window)) {
     const auto* label = qobject_cast<const QLabel*>(widget);
-    if (label != nullptr && !label->wordWrap() && !label->text().isEmpty() && !Is(label, {"pelmar::ElidedLabel"}))
-      faults += Fault(label->sizeHint().boundedTo(label->size() + QSize(0, 1)) != label->sizeHint(), label, "is cut");
+    if (label != nullptr && !label->wordWrap() && !label->text().isEmpty() && !Is(label, {"pelmar::ElidedLabel"})) {
+      const QSize room = label->size() + QSize(0, 1);
+      EXPECT_EQ(label->sizeHint().boundedTo(room), label->sizeHint()) << Named(label) << " is cut";
+    }
     const auto* button = qobject_cast<const QAbstractButton*>(widget);
-    if (button != nullptr && !button->text().isEmpty())
-      faults += Fault(button->minimumSizeHint().width() > button->width(), button, "is cut");
+    if (button == nullptr || button->text().isEmpty()) continue;
+    EXPECT_LE(button->minimumSizeHint().width(), button->width()) << Named(button) << " is cut";
   }
-  return faults;
 }
 
-// All that is on and can be worked has a name and takes part in the round that the tabulator key makes; of a group of
-// options the arrow keys reach the others.
-std::string FaultsOfControl(QWidget* control) {
+// A name, and a place in the round that the tabulator key makes; of a group of options the arrow keys reach the others.
+void ExpectReach(QWidget* control) {
   const QAccessibleInterface* face = QAccessible::queryAccessibleInterface(control);
   const QString name = face->text(QAccessible::Name);
   // The name of a box to choose from is what it holds.
   const bool spoken = control->inherits("QComboBox")
                           ? !face->relations(QAccessible::Label).isEmpty()
                           : std::ranges::any_of(name, [](QChar ch) { return ch.isLetterOrNumber(); });
+  EXPECT_TRUE(spoken && face->role() != QAccessible::Client) << Named(control) << " has no name or no role";
   const auto* option = qobject_cast<const QRadioButton*>(control);
   const bool of_group = option != nullptr && option->autoExclusive() && !option->isChecked();
   // A swatch that only shows its colour, and a label whose text can be copied by mouse, are no controls.
   const bool shows = control->focusPolicy() == Qt::NoFocus ? Is(control, {"pelmar::Swatch"}) : Is(control, {"QLabel"});
-  const bool reached = (control->focusPolicy() & Qt::TabFocus) != 0;
-  return Fault(!spoken || face->role() == QAccessible::Client, control, "has no name or no role") +
-         Fault(control->isEnabled() && !of_group && !shows && !reached, control, "can't be reached by keyboard");
+  EXPECT_TRUE((control->focusPolicy() & Qt::TabFocus) || !control->isEnabled() || of_group || shows)
+      << Named(control) << " can't be reached by keyboard";
 }
 
-std::string Overlaps(const QWidget& window) {
-  std::string faults;
+void ExpectNoOverlap(const QWidget& window) {
   const QList<QWidget*> widgets = Widgets(window);
   for (const QWidget* one : widgets) {
     // The greeting lies over its own shadow, and the strip of the notes spans the window, under the text too.
     if (Is(one, {"QTabBar"}) || (window.objectName() == QLatin1String("Start") && Is(one, {"QLabel"}))) continue;
-    for (const QWidget* other : widgets)
-      if (other != one && other->parentWidget() == one->parentWidget() && !Is(other, {"QTabBar"}))
-        faults += Fault(one->geometry().intersects(other->geometry()), one, "lies over " + Named(other));
+    for (const QWidget* other : widgets) {
+      if (other == one || other->parentWidget() != one->parentWidget() || Is(other, {"QTabBar"})) continue;
+      EXPECT_FALSE(one->geometry().intersects(other->geometry())) << Named(one) << " lies over " << Named(other);
+    }
   }
-  return faults;
 }
 
 // What a bar says beside it is as grey as the bar.
-std::string OtherGreys(const QWidget* bar) {
+void ExpectGreyTogether(const QWidget* bar) {
   static const QRegularExpression number(QStringLiteral("^ ?\\d+%?$"));
-  std::string faults;
   const QRect beside(bar->geometry().right(), bar->y(), 80, bar->height());
-  for (const QLabel* label : bar->parentWidget()->findChildren<QLabel*>(Qt::FindDirectChildrenOnly))
-    if (label->isVisible() && number.match(label->text()).hasMatch() && label->geometry().intersects(beside))
-      faults += Fault(label->isEnabled() != bar->isEnabled(), label, "isn't as grey as its bar");
-  return faults;
+  for (const QLabel* label : bar->parentWidget()->findChildren<QLabel*>(Qt::FindDirectChildrenOnly)) {
+    const bool says = number.match(label->text()).hasMatch() && label->geometry().intersects(beside);
+    EXPECT_TRUE(!label->isVisible() || !says || label->isEnabled() == bar->isEnabled()) << Named(label);
+  }
 }
 
 // No field cuts what it is given, but for those that are told to.
-std::string OtherLengths(const QWidget& window) {
+void ExpectRoom(const QWidget& window) {
   static const std::map<std::string, int> limits = {{"Config.Text3", 8}, {"Config.Text4", 8},   {"Pass.Text1", 8},
                                                     {"ZaKod.Text1", 15}, {"Confeld.Text1", 15}, {"Analytic.Text2", 1}};
-  std::string faults;
   for (const QLineEdit* field : window.findChildren<QLineEdit*>()) {
     const auto limit = limits.find(Named(field));
-    const int most = limit == limits.end() ? std::numeric_limits<int>::max() : limit->second;
-    faults += Fault(field->maxLength() != most, field, "has another length");
+    EXPECT_EQ(field->maxLength(), limit == limits.end() ? std::numeric_limits<int>::max() : limit->second)
+        << Named(field);
   }
-  return faults;
 }
 
 // The wheel in passing chooses nothing.
-std::string RollingTabs(const QWidget& window) {
-  std::string faults;
+void ExpectTabsStay(const QWidget& window) {
   for (QTabBar* tabs : window.findChildren<QTabBar*>()) {
     const int before = tabs->currentIndex();
-    for (const int turn : {-120, 240}) RollWheel(*tabs, {}, {0, turn});
-    faults += Fault(tabs->currentIndex() != before, tabs, "follows the wheel");
+    for (const int turn : {-120, 240}) {
+      RollWheel(*tabs, {}, {0, turn});
+      EXPECT_EQ(tabs->currentIndex(), before) << Named(tabs);
+    }
   }
-  return faults;
 }
 
 // Enter in one field of several doesn't end the dialog, unless all of them lead to its default button.
-std::string EndsByEnter(QWidget& window) {
+void ExpectEnterGoesOn(QWidget& window) {
   const QList<QPushButton*> buttons = window.findChildren<QPushButton*>();
   const auto found = std::ranges::find_if(buttons, &QPushButton::isDefault);
-  if (found == buttons.end() || window.property("defaultFromFields").toBool()) return {};
+  if (found == buttons.end() || window.property("defaultFromFields").toBool()) return;
   int pressed = 0;
   QPushButton trap(&window);  // in the place of the default button, so that nothing is put into the text
   trap.setDefault(true);
@@ -150,34 +136,18 @@ std::string EndsByEnter(QWidget& window) {
     field->setFocus();
     QTest::keyClick(field, Qt::Key_Return);
   }
+  EXPECT_LE(pressed, 1) << Named(&window);
   (*found)->setDefault(true);
-  return Fault(pressed > 1, &window, "ends by Enter in a field");
 }
 
 // The buttons that end a dialog, and the whole of it.
-std::string OutOfSight(const QWidget& window) {
-  std::string faults = Fault(window.size().boundedTo(kTinyScreen) != window.size(), &window, "is too large");
+void ExpectButtonsInSight(const QWidget& window) {
+  EXPECT_EQ(window.size().boundedTo(kTinyScreen), window.size()) << Named(&window);
   const QString cancel = window.property("cancelButton").toString();
-  for (const QPushButton* button : window.findChildren<QPushButton*>())
-    if (!Is(button, {"pelmar::KeyCap"}) && (button->isDefault() || button->objectName() == cancel))
-      faults += Fault(button->visibleRegion().boundingRect() != button->rect(), button, "is out of sight");
-  return faults;
-}
-
-std::string FaultsOf(QWidget& window) {
-  const int role = QAccessible::queryAccessibleInterface(&window)->role();
-  std::string faults = Fault(role == QAccessible::Client, &window, "has no role") +
-                       Fault(window.size().boundedTo(kSmallScreen) != window.size(), &window, "is too large") +
-                       Fault(window.windowTitle().isEmpty(), &window, "has no title");
-  for (QWidget* widget : Widgets(window)) {
-    if (IsControl(widget)) faults += FaultsOfControl(widget);
-    if (widget->inherits("QScrollBar")) faults += OtherGreys(widget);
+  for (const QPushButton* button : window.findChildren<QPushButton*>()) {
+    if (Is(button, {"pelmar::KeyCap"}) || (!button->isDefault() && button->objectName() != cancel)) continue;
+    EXPECT_EQ(button->visibleRegion().boundingRect(), button->rect()) << Named(button);
   }
-  // Down on a list of places would lose the folder, and on a strip of tabs nothing can be typed.
-  const QWidget* first = window.focusWidget();
-  faults += Fault(Is(first, {"pelmar::DriveList", "QTabBar"}), first, "is where the keyboard begins");
-  return faults + CutCaptions(window) + Overlaps(window) + OtherLengths(window) + RollingTabs(window) +
-         EndsByEnter(window);
 }
 
 struct AllWindows : testing::Test {
@@ -209,11 +179,11 @@ TEST_F(AllWindows, FitASmallScreenWithLargeLetters) {
     if (auto* dialog = qobject_cast<DialogWindow*>(&window)) {
       dialog->FitInto(kTinyScreen);
       Show(window);
-      EXPECT_EQ(OutOfSight(window), "");
+      ExpectButtonsInSight(window);
       window.hide();
     }
     window.show();
-    EXPECT_EQ(CutCaptions(window), "");
+    ExpectWholeCaptions(window);
     window.hide();
   });
 }
@@ -224,11 +194,25 @@ TEST_F(AllWindows, AreWithinEverybodysReach) {
   program.Windows().ForEach([&](QWidget& window) {
     ++count;
     Show(window);
-    EXPECT_EQ(FaultsOf(window), "");
+    EXPECT_NE(QAccessible::queryAccessibleInterface(&window)->role(), QAccessible::Client) << Named(&window);
+    EXPECT_EQ(window.size().boundedTo(kSmallScreen), window.size()) << Named(&window);
+    EXPECT_FALSE(window.windowTitle().isEmpty()) << Named(&window);
+    // Down on a list of places would lose the folder, and on a strip of tabs nothing can be typed.
+    EXPECT_FALSE(Is(window.focusWidget(), {"pelmar::DriveList", "QTabBar"})) << Named(&window);
+    for (QWidget* widget : Widgets(window)) {
+      if (widget->focusPolicy() != Qt::NoFocus || Is(widget, {"QAbstractButton", "QAbstractSlider", "QTabBar"}))
+        ExpectReach(widget);
+      if (widget->inherits("QScrollBar")) ExpectGreyTogether(widget);
+    }
+    ExpectWholeCaptions(window);
+    ExpectNoOverlap(window);
+    ExpectRoom(window);
+    ExpectTabsStay(window);
+    ExpectEnterGoesOn(window);
     window.hide();
   });
   EXPECT_GE(count, 12);
-  EXPECT_EQ(RollingTabs(program.Main()), "");
+  ExpectTabsStay(program.Main());
 }
 
 }  // namespace
