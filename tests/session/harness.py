@@ -3,9 +3,8 @@
     class MineTest(EditorCase):
         def test_bold_stands_around_the_word(self):
             page = self.write("page.html", "word")
-            main = self.start_with(page)
+            self.start_with(page)
             self.work('shift+End ctrl+t ctrl+u [Uložit] Return [Soubor] Return / /')
-            self.end(main)
             self.assertEqual(page.read_bytes(), b"<B>word</B>")
 
 Every wait polls up to a deadline and fails with what it waited for, the windows on show and what the program wrote.
