@@ -20,8 +20,7 @@ from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parent.parent / "tests" / "session"))
 sys.dont_write_bytecode = True
-from screen import Screen  # noqa: E402
-from settings import write_settings  # noqa: E402
+from screen import Screen, write_settings  # noqa: E402
 
 SETTLE_MS = 1500
 IDLE_MS = 3000

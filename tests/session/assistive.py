@@ -1,55 +1,26 @@
 """The program as assistive technology meets it, over the accessibility bus: its tree of objects, what can be done to
-them, and the events that it sends. The bus is one of the test's own and needs no screen.
+them, and the events that it sends. The bus is one of the test's own: who imports this is started again on it, by the
+distribution's Python, which has the bindings."""
 
-A test that uses it ends in run_on_bus(), in the place of unittest.main().
-"""
-
+import atexit
+import contextlib
 import os
-import subprocess
+import shutil
 import sys
 import tempfile
-import time
-import unittest
 
-from harness import PATIENCE, POLL
+from harness import PATIENCE, EditorCase
 
 ON_BUS = "PELMAR_ON_BUS"
-LONG = 1000 * int(PATIENCE)  # milliseconds
-# What a program under test needs to be heard.
-HEARD = {"DBUS_SESSION_BUS_ADDRESS": os.environ.get("DBUS_SESSION_BUS_ADDRESS", ""),
-         "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
-if ON_BUS in os.environ:
-    import gi
-    gi.require_version("Atspi", "2.0")
-    from gi.repository import Atspi, GLib
-else:
-    Atspi = GLib = None
+if ON_BUS not in os.environ:
+    folder = tempfile.mkdtemp(prefix="pelmar-bus-")
+    os.environ |= {ON_BUS: folder, "XDG_RUNTIME_DIR": folder, "XDG_CACHE_HOME": folder}
+    os.execvp("dbus-run-session", ["dbus-run-session", "--", "/usr/bin/python3", "-B", "-W", "ignore", *sys.argv])
+atexit.register(shutil.rmtree, os.environ[ON_BUS], ignore_errors=True)
 
-
-def run_on_bus():
-    """Runs the tests on a message bus of their own, by the distribution's Python, which has the bindings."""
-    if ON_BUS in os.environ:
-        unittest.main()
-    with tempfile.TemporaryDirectory(prefix="pelmar-bus-") as folder:
-        env = {**os.environ, ON_BUS: "1", "XDG_RUNTIME_DIR": folder, "XDG_CACHE_HOME": folder}
-        python = ["/usr/bin/python3", "-B", "-W", "ignore::DeprecationWarning"]
-        sys.exit(subprocess.call(["dbus-run-session", "--", *python, *sys.argv], env=env))
-
-
-def wait_for(check, what, patience=PATIENCE):
-    """Calls check() until it gives something true, and returns that. Events come in meanwhile."""
-    deadline = time.monotonic() + patience
-    while True:
-        while GLib.MainContext.default().iteration(False):
-            pass
-        try:
-            if result := check():
-                return result
-        except GLib.GError:
-            pass  # what was asked is gone meanwhile
-        if time.monotonic() > deadline:
-            raise AssertionError(f"waited for {what() if callable(what) else what} in vain")
-        time.sleep(POLL)
+import gi  # noqa: E402
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, GLib  # noqa: E402
 
 
 def children(node):
@@ -72,71 +43,55 @@ def face(node):
     return node.get_role_name(), node.get_name()
 
 
-class Program:
-    """The program that runs on the bus."""
+class BusCase(EditorCase):
+    """The program is heard over the bus. A window is named by how its title begins."""
 
-    def windows(self):
-        """Those on show."""
-        return [window for program in children(Atspi.get_desktop(0)) if program.get_name() == "pelmar-vex"
-                for window in children(program) if has(window, "SHOWING")]
+    environment = {"DBUS_SESSION_BUS_ADDRESS": os.environ["DBUS_SESSION_BUS_ADDRESS"],
+                   "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
 
-    def window(self, title):
-        """Waits for a window whose title begins so, and gives it."""
-        return wait_for(lambda: next((one for one in self.windows() if one.get_name().startswith(title)), None),
-                        lambda: f"window {title!r} among {[face(one) for one in self.windows()]}")
-
-    def gone(self, title):
-        wait_for(lambda: not any(one.get_name().startswith(title) for one in self.windows()),
-                 f"the end of window {title!r}")
-
-    def find(self, window, role, name):
-        """Waits for the object of this role and name in the window of this title."""
+    def wait(self, check, what, needs_program=True):
+        """Events come in meanwhile."""
         def look():
-            return next((node for node in walk(self.window(window)) if face(node) == (role, name)), None)
-        return wait_for(look, f"{role} {name!r} in {window!r}")
+            while GLib.MainContext.default().iteration(False):
+                pass
+            with contextlib.suppress(GLib.GError):  # what was asked is gone meanwhile
+                return check()
+        return super().wait(look, what, needs_program)
 
-    def press(self, window, role, name):
+    def on_show(self, title):
+        programs = [one for one in children(Atspi.get_desktop(0)) if one.get_name() == "pelmar-vex"]
+        return [window for one in programs for window in children(one)
+                if has(window, "SHOWING") and window.get_name().startswith(title)]
+
+    def find(self, title, role="frame", name=None):
+        """Waits for the object of this role and name in the window, or for the window itself."""
+        def look():
+            return next((node for window in self.on_show(title) for node in walk(window)
+                         if face(node) == (role, name) or name is None), None)
+        return self.wait(look, lambda: f"{role} {name!r} in {title!r} among {[face(one) for one in self.on_show('')]}")
+
+    def press(self, name, title="Pelmar VEX", role="menu item"):
         """Does what the item or button is for, once it is enabled."""
-        node = self.find(window, role, name)
-        wait_for(lambda: has(node, "ENABLED"), f"{name!r} to be enabled")
+        node = self.find(title, role, name)
+        self.wait(lambda: has(node, "ENABLED"), f"{name!r} to be enabled")
         Atspi.set_timeout(300, 300)
-        try:
-            node.do_action(0)
-        except GLib.GError:
-            pass  # where it asks a question, the answer to this call comes only behind that
-        Atspi.set_timeout(LONG, LONG)
+        with contextlib.suppress(GLib.GError):
+            node.do_action(0)  # where it asks a question, the answer to this call comes only behind that
+        Atspi.set_timeout(1000 * int(PATIENCE), 1000 * int(PATIENCE))
 
-    def menu(self, caption):
-        self.press("Pelmar VEX", "menu item", caption)
-
-    def push(self, window, button):
-        self.press(window, "push button", button)
-
-
-class Ears:
-    """Hears the events of these types until the block ends."""
-
-    def __init__(self, *types):
-        self.types = types
-        self.heard = []  # (type, name of the source, detail)
-
-    def __enter__(self):
-        self.listener = Atspi.EventListener.new(self._hear)
-        for one in self.types:
-            self.listener.register(one)
-        return self
-
-    def __exit__(self, *_):
-        for one in self.types:
-            self.listener.deregister(one)
-
-    def _hear(self, event, *_):
-        self.heard.append((event.type, event.source.get_name(), event.detail1))
-
-    def wait(self, *expected):
-        """Waits until these events were heard, in this order, whatever came between; forgets all until then."""
+    @contextlib.contextmanager
+    def hearing(self, *expected):
+        """Waits behind the block for these events in this order, whatever comes between: each its type, the name of
+        its source and its detail."""
+        heard, kinds = [], {event[0] for event in expected}
+        listener = Atspi.EventListener.new(
+            lambda event, *_: heard.append((event.type, event.source.get_name(), event.detail1)))
+        for kind in kinds:
+            listener.register(kind)
+        yield
         def all_heard():
-            rest = iter(self.heard)
+            rest = iter(heard)
             return all(one in rest for one in expected)
-        wait_for(all_heard, lambda: f"{expected} in {self.heard}")
-        self.heard.clear()
+        self.wait(all_heard, lambda: f"{expected} in {heard}")
+        for kind in kinds:
+            listener.deregister(kind)

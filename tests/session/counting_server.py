@@ -2,52 +2,49 @@
 
 import socket
 import threading
+from http.server import BaseHTTPRequestHandler, ThreadingHTTPServer
 
 
-class CountingServer:
+class Handler(BaseHTTPRequestHandler):
+    timeout = 5
+
+    def do_GET(self):
+        """The page, or where "?to=" in the address leads."""
+        to = self.path.partition("?to=")[2]
+        self.server.asked += [] if "favicon" in self.path else [self.path]
+        self.send_response(302 if to else 200)
+        self.send_header("Location" if to else "Content-Type", to or "text/html")
+        self.end_headers()
+        self.wfile.write(self.server.page.encode())
+
+    def log_message(self, *_):
+        pass
+
+
+class CountingServer(ThreadingHTTPServer):
     def __init__(self, page):
-        self.page = page
-        self.arrived = []  # the first line of each connection, "udp" for each packet
-        self.tcp = socket.create_server(("127.0.0.1", 0))
-        self.port = self.tcp.getsockname()[1]
+        super().__init__(("127.0.0.1", 0), Handler)
+        self.page, self.connections, self.asked = page, 0, []
         self.udp = socket.socket(socket.AF_INET, socket.SOCK_DGRAM)
-        self.udp.bind(("127.0.0.1", self.port))
-        for listen in (self._listen_tcp, self._listen_udp):
-            threading.Thread(target=listen, daemon=True).start()
+        self.udp.bind(self.server_address)
+        self.udp.setblocking(False)
+        threading.Thread(target=self.serve_forever, daemon=True).start()
 
-    def paths(self):
-        """The addresses that were asked for over HTTP, but for icons."""
-        return [line.split()[1] for line in self.arrived if line.startswith("GET ") and "favicon" not in line]
+    def handle_error(self, *_):
+        pass  # a page that went away
+
+    def verify_request(self, *_):
+        self.connections += 1
+        return True
+
+    def reached(self):
+        """Whether anything has come, be it an empty connection."""
+        try:
+            return bool(self.connections or self.udp.recv(2000))
+        except BlockingIOError:
+            return False
 
     def close(self):
-        self.tcp.close()
+        self.shutdown()
+        self.server_close()
         self.udp.close()
-
-    def _listen_tcp(self):
-        while True:
-            try:
-                connection, _ = self.tcp.accept()
-            except OSError:
-                return
-            threading.Thread(target=self._answer, args=(connection,), daemon=True).start()
-
-    def _answer(self, connection):
-        """With the page, or with where "?to=" in the address leads."""
-        with connection:
-            connection.settimeout(5)
-            try:
-                line = connection.recv(4096).split(b"\r\n")[0].decode(errors="replace")
-                self.arrived.append(line or "nothing")
-                head = f"302 Found\r\nLocation: {line.split('?to=')[1].split()[0]}" if "?to=" in line else "200 OK"
-                head += "\r\nContent-Type: text/html\r\nConnection: close"
-                connection.sendall(f"HTTP/1.1 {head}\r\n\r\n{self.page}".encode())
-            except OSError:
-                self.arrived.append("nothing")
-
-    def _listen_udp(self):
-        while True:
-            try:
-                self.udp.recv(2000)
-            except OSError:
-                return
-            self.arrived.append("udp")

