@@ -192,7 +192,8 @@ class EditorCase(unittest.TestCase):
         return window
 
     def move(self, window, left, top, width=-1, height=-1):
-        self.command("wmctrl", "-i", "-r", window.id, "-e", f"0,{left},{top},{width},{height}")
+        # By its frame, whatever the window itself counts from.
+        self.command("wmctrl", "-i", "-r", window.id, "-e", f"1,{left},{top},{width},{height}")
 
     def maximise(self, window, do=True):
         how = "add" if do else "remove"
