@@ -48,18 +48,9 @@ struct Desk {
   }
 };
 
-const SettingsRecord kStored{.Width = 9000,
-                             .Height = 6000,
-                             .Top = 300,
-                             .Left = 150,
-                             .FontName = "Font",
-                             .ForeColor = 1,
-                             .BackColor = 2,
-                             .FontSize = 12,
-                             .UserName = "Jan",
-                             .UserEmail = "j@x.cz",
-                             .LockPassword = {},
-                             .RecentFiles = {}};
+// In the order of the file: 9,000 by 6,000 twips at 150 from the left and 300 from the top.
+const SettingsRecord kStored{9000,  6000,  300,   150,      false, "Font", 1,  2, 12,
+                             false, false, "Jan", "j@x.cz", false, 0,      "", {}};
 
 struct SessionTest : testing::Test, Desk {};
 

@@ -107,7 +107,7 @@ class EditorCase(unittest.TestCase):
             elif step["text"] is not None:
                 self.command("xdotool", "type", "--clearmodifiers", "--delay", "4", "--", step["text"])
             elif step["x"]:
-                self.click(awaited[-1], step["x"], step["y"])
+                self.point(awaited[-1], step["x"], step["y"], "click", "1")
             elif step["key"] == "/":
                 self.wait_gone(awaited.pop())
             else:
@@ -125,9 +125,9 @@ class EditorCase(unittest.TestCase):
             self.work(f"[Konec] {answer}")
         self.wait_exit()
 
-    def click(self, window, x, y):
-        """Clicks at a place counted from the window's inner top left corner."""
-        self.command("xdotool", "mousemove", "--window", window.id, x, y, "click", "1")
+    def point(self, window, x, y, *then):
+        """Moves the mouse to a place counted from the window's inner top left corner."""
+        self.command("xdotool", "mousemove", "--window", window.id, x, y, *then)
 
     # Windows.
 
