@@ -9,7 +9,6 @@
 #include <filesystem>
 
 #include "files/windows/outside_watch.h"
-#include "platform/color.h"
 #include "platform/qt/convert.h"
 #include "program/program.h"
 #include "shell/windows/status_timer.h"
@@ -261,16 +260,10 @@ TEST_F(MainWindowTest, RecentMenuShowsAndOpensTheEntries) {
 
 TEST(MainWindow, AStartAndACloseLeaveTheSettingsAsTheyWere) {
   ScriptedPlatform platform;
-  const SettingsRecord record{12000,        9000,
-                              1500,         3000,
-                              false,        "DejaVu Sans Mono",
-                              Rgb(1, 2, 3), Rgb(250, 251, 252),
-                              14,           true,
-                              false,        "Jan",
-                              "j@x.cz",     false,
-                              240,          "",
-                              {},           0,
-                              true};  // in the order of the file
+  // In the order of the file.
+  const SettingsRecord record{12000,    9000, 1500, 3000,  false, "DejaVu Sans Mono", 0x030201,
+                              0xFCFBFA, 14,   true, false, "Jan", "j@x.cz",           false,
+                              240,      "",   {},   0,     true};
   platform.files["/install/pelmar.ini"] = SettingsBytes(record);
   Program program(platform);
   program.Run("-NOMSG");
