@@ -8,7 +8,8 @@
             self.assertEqual(page.read_bytes(), b"<B>word</B>")
 
 Every wait polls up to a deadline and fails with what it waited for, the windows on show and what the program wrote.
-With PELMAR_SHOTS set to a folder, a picture of the screen goes there too. PELMAR_BUILD names the build folder.
+With PELMAR_SHOTS set to a folder, a picture of the screen at the end of each test goes there. PELMAR_BUILD names the
+build folder.
 """
 
 import contextlib
@@ -56,6 +57,7 @@ class EditorCase(unittest.TestCase):
         screen = self.enterContext(self.screen())
         self.home, self.env, self.folder = screen.home, screen.env, screen.data_folder
         self.addCleanup(self.kill)
+        self.addCleanup(self.shot)
         write_settings(self.folder, **self.settings)
 
     # The program.
@@ -235,7 +237,6 @@ class EditorCase(unittest.TestCase):
         while not (result := check()):
             ended = needs_program and not self.running()
             if ended or time.monotonic() > deadline:
-                self.shot(f"failed-{self.id()}-{time.strftime('%H%M%S')}")
                 what = what() if callable(what) else what
                 wrote = self.log.read_text(errors="replace") if self.program else ""
                 self.fail(f"waited for {what}, {'but the program has ended' if ended else 'in vain'}; there are "
@@ -243,11 +244,10 @@ class EditorCase(unittest.TestCase):
             time.sleep(POLL)
         return result
 
-    def shot(self, name):
-        """Takes a picture of the screen where PELMAR_SHOTS asks for it."""
+    def shot(self):
         if folder := os.environ.get("PELMAR_SHOTS"):
             os.makedirs(folder, exist_ok=True)
-            self.command("import", "-window", "root", f"{folder}/{name}.png", check=False)
+            self.command("import", "-window", "root", f"{folder}/{self.id()}.png", check=False)
 
     def command(self, *command, check=True):
         """What a command prints that works on the screen."""
