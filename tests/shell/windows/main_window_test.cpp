@@ -273,6 +273,10 @@ TEST(MainWindow, AStartAndACloseLeaveTheSettingsAsTheyWere) {
   for (const char* item : {"mnu08", "mnu14", "mnuEditBold", "mnuitalic"})
     marks += window.Menus().Action(item)->isChecked() ? '+' : '-';
   EXPECT_EQ(marks, "-++-");
+  window.Text().Buffer().Type("unsaved");
+  platform.answers = {Answer::kNo, Answer::kYes};
+  window.close();
+  EXPECT_TRUE(window.isVisible());
   window.close();
   EXPECT_EQ(QApplication::exec(), EXIT_SUCCESS);  // which the close has ended
   EXPECT_TRUE(ReadSettings(platform.files["/install/pelmar.ini"]) == record);

@@ -4,6 +4,7 @@
 #include <QListWidget>
 #include <QTest>
 
+#include "files/windows/otevri.h"
 #include "platform/qt/controls/text_box.h"
 #include "platform/qt/convert.h"
 #include "program/program.h"
@@ -77,7 +78,14 @@ TEST_F(SmallWindows, TheWelcomeLeadsToTheEditorHoweverItIsLeft) {
   }
 }
 
-// Also where they read and what they show.
+TEST_F(SmallWindows, TheWelcomesSecondButtonOpensAFile) {
+  Program program(platform);
+  Work(program.Windows().Get<Start>(), "Command2!");
+  EXPECT_TRUE(program.Main().isVisible());
+  EXPECT_TRUE(program.Windows().Get<Otevri>().isVisible());
+}
+
+// A window at the centre again is one that was made anew, which reads anew too.
 TEST_F(SmallWindows, ThoseThatBeginAnewStandAtTheCentreAgain) {
   Program program(platform);
   platform.files["/install/pelmar.txt"] = "at first";
