@@ -48,26 +48,24 @@ struct Desk {
   }
 };
 
-const SettingsRecord kStored{.Width = 9000,
-                             .Height = 6000,
-                             .Top = 300,
-                             .Left = 150,
-                             .FontName = "Font",
-                             .ForeColor = 1,
-                             .BackColor = 2,
-                             .FontSize = 12,
-                             .UserName = "Jan",
-                             .UserEmail = "j@x.cz",
-                             .LockPassword = {},
-                             .RecentFiles = {}};
+// In the order of the file: 9,000 by 6,000 twips at 150 from the left and 300 from the top.
+const SettingsRecord kStored{9000,  6000,  300,   150,      false, "Font", 1,  2, 12,
+                             false, false, "Jan", "j@x.cz", false, 0,      "", {}};
 
 struct SessionTest : testing::Test, Desk {};
 
 TEST_F(SessionTest, AFirstStartRunsTheStepsInOrder) {
+  config = [this] {
+    editor.settings.UserName = "Eva";
+    view.state = 1;
+    session.StoreSettings(false);
+  };
   EXPECT_EQ(Start(""),
             "colors, recent, place, state, font, colors, size, bold, no bold mark, italic, no italic mark, config, "
-            "not top, main, Pelmar VEX (), Courier New 0 0 0 0 0 8 0 16777215 240");
-  EXPECT_TRUE(platform.calls.empty());
+            "not top, main, Pelmar VEX (), Courier New 0 0 0 0 1 8 0 16777215 240");
+  EXPECT_EQ(platform.calls, std::vector<std::string>{std::string("write ") + kSettings});
+  const SettingsRecord stored = ReadSettings(platform.files[kSettings]);
+  EXPECT_EQ(stored.UserName + std::to_string(stored.WindowState), "Eva0");  // all but the window's state
 }
 
 TEST_F(SessionTest, SettingsAreAppliedAndRepaired) {
@@ -152,21 +150,6 @@ TEST_F(SessionTest, CloseWritesTheFilesBeforeItAsks) {
   EXPECT_TRUE(session.Close());
   platform.write_errors[kRecovery] = EROFS;
   EXPECT_THROW(session.Close(), RuntimeError);
-}
-
-TEST_F(SessionTest, ConfigStoresAllButTheWindowsState) {
-  SettingsRecord r = kStored;
-  r.UserName.clear();
-  r.WindowState = 2;
-  platform.files[kSettings] = SettingsBytes(r);
-  config = [this] {
-    editor.settings.UserName = "Eva";
-    view.state = 1;
-    session.StoreSettings(false);
-  };
-  session.Start("");
-  r.UserName = "Eva";
-  EXPECT_EQ(ReadSettings(platform.files[kSettings]), r);
 }
 
 }  // namespace

@@ -13,12 +13,14 @@ from counting_server import CountingServer
 from harness import AS_USER, PROGRAM, EditorCase, built
 
 MODULE = built("pelmar-browser.so")
-GREEN, BLUE, PINK = "#00c000", "#2000f0", "#ff00ff"
+GREEN, BLUE, YELLOW, PINK = "#00c000", "#2000f0", "#f0f000", "#ff00ff"
 ALONE = re.compile(r"HTML [Tt]estovací +browser.*")  # whatever page it shows
 BROWSE = "alt+s" + 4 * " Right" + " Up Return"  # the last item of the menu Html
 # Nothing of these tests goes beyond this machine.
 NO_NETWORK = {**{name: "http://127.0.0.1:9" for name in ("http_proxy", "https_proxy")}, "no_proxy": "127.0.0.1"}
-LINK = f'<IMG WIDTH="60" HEIGHT="60" STYLE="background:{BLUE}" ALT="">'
+# What stands in a link. It tells when the engine has noticed the mouse, which may take it a while.
+LINK = f"""<STYLE>#link {{ background: {BLUE} }} A:hover #link {{ background: {YELLOW} }}</STYLE>
+    <IMG ID="link" WIDTH="60" HEIGHT="60" ALT="">"""
 
 # Pages that try to reach SITE by themselves; DONE stands where they have begun to.
 PAGES = sorted((Path(__file__).parent / "sending").glob("*.html"))
@@ -47,8 +49,11 @@ class BrowserTest(EditorCase):
         return self.work(f"[HTML testovací browser ({title})]")
 
     def click_link(self, browser):
+        self.point(browser, 5, 5)
         left, top, width, height = self.wait_colored(browser, BLUE)
-        self.click(browser, left + width // 2, top + height // 2)
+        self.point(browser, left + width // 2, top + height // 2)
+        self.wait_colored(browser, YELLOW)
+        self.command("xdotool", "click", "1")
 
     def test_a_page_gets_no_window_no_download_and_asks_in_czech(self):
         self.write("nova.html", "<TITLE>Nova</TITLE>")

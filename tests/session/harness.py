@@ -8,7 +8,8 @@
             self.assertEqual(page.read_bytes(), b"<B>word</B>")
 
 Every wait polls up to a deadline and fails with what it waited for, the windows on show and what the program wrote.
-With PELMAR_SHOTS set to a folder, a picture of the screen goes there too. PELMAR_BUILD names the build folder.
+With PELMAR_SHOTS set to a folder, a picture of the screen at the end of each test goes there. PELMAR_BUILD names the
+build folder.
 """
 
 import contextlib
@@ -56,6 +57,7 @@ class EditorCase(unittest.TestCase):
         screen = self.enterContext(self.screen())
         self.home, self.env, self.folder = screen.home, screen.env, screen.data_folder
         self.addCleanup(self.kill)
+        self.addCleanup(self.shot)
         write_settings(self.folder, **self.settings)
 
     # The program.
@@ -107,7 +109,7 @@ class EditorCase(unittest.TestCase):
             elif step["text"] is not None:
                 self.command("xdotool", "type", "--clearmodifiers", "--delay", "4", "--", step["text"])
             elif step["x"]:
-                self.click(awaited[-1], step["x"], step["y"])
+                self.point(awaited[-1], step["x"], step["y"], "click", "1")
             elif step["key"] == "/":
                 self.wait_gone(awaited.pop())
             else:
@@ -125,9 +127,9 @@ class EditorCase(unittest.TestCase):
             self.work(f"[Konec] {answer}")
         self.wait_exit()
 
-    def click(self, window, x, y):
-        """Clicks at a place counted from the window's inner top left corner."""
-        self.command("xdotool", "mousemove", "--window", window.id, x, y, "click", "1")
+    def point(self, window, x, y, *then):
+        """Moves the mouse to a place counted from the window's inner top left corner."""
+        self.command("xdotool", "mousemove", "--window", window.id, x, y, *then)
 
     # Windows.
 
@@ -236,7 +238,6 @@ class EditorCase(unittest.TestCase):
         while not (result := check()):
             ended = needs_program and not self.running()
             if ended or time.monotonic() > deadline:
-                self.shot(f"failed-{self.id()}-{time.strftime('%H%M%S')}")
                 what = what() if callable(what) else what
                 wrote = self.log.read_text(errors="replace") if self.program else ""
                 self.fail(f"waited for {what}, {'but the program has ended' if ended else 'in vain'}; there are "
@@ -244,11 +245,10 @@ class EditorCase(unittest.TestCase):
             time.sleep(POLL)
         return result
 
-    def shot(self, name):
-        """Takes a picture of the screen where PELMAR_SHOTS asks for it."""
+    def shot(self):
         if folder := os.environ.get("PELMAR_SHOTS"):
             os.makedirs(folder, exist_ok=True)
-            self.command("import", "-window", "root", f"{folder}/{name}.png", check=False)
+            self.command("import", "-window", "root", f"{folder}/{self.id()}.png", check=False)
 
     def command(self, *command, check=True):
         """What a command prints that works on the screen."""

@@ -11,24 +11,8 @@ namespace pelmar {
 namespace {
 
 SettingsRecord FullRecord() {
-  SettingsRecord r{.Width = 12000,
-                   .Height = 9000,
-                   .Top = -15,
-                   .Left = 1440,
-                   .AlwaysOnTopFlag = true,
-                   .FontName = std::string("Písmo"_w),
-                   .ForeColor = 0x030201,
-                   .BackColor = 0xFDFEFF,
-                   .FontSize = 14,
-                   .FontBold = true,
-                   .UserName = "Jan",
-                   .UserEmail = "j@x.cz",
-                   .ShowStart = true,
-                   .AutosnapDistance = 300,
-                   .LockPassword = std::string("tajné"_w),
-                   .RecentFiles = {},
-                   .WindowState = 2,
-                   .LineCounting = true};
+  SettingsRecord r{12000, 9000,  -15,      1440, true, "P\xEDsmo", 0x030201, 0xFDFEFF, 14,  true,
+                   false, "Jan", "j@x.cz", true, 300,  "tajn\xE9", {},       2,        true};
   for (std::size_t i = 0; i < r.RecentFiles.size(); ++i) r.RecentFiles[i] = "/soubor" + std::to_string(i) + ".txt";
   return r;
 }

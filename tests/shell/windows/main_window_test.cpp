@@ -9,7 +9,6 @@
 #include <filesystem>
 
 #include "files/windows/outside_watch.h"
-#include "platform/color.h"
 #include "platform/qt/convert.h"
 #include "program/program.h"
 #include "shell/windows/status_timer.h"
@@ -48,11 +47,10 @@ struct MainWindowTest : testing::Test {
     QTest::keyClick(&window.Text(), key, modifiers);
   }
   QAction* Item(const char* name) { return window.findChild<QAction*>(QLatin1String(name)); }
-  // The first four panels, as they are or behind a tick.
-  std::string Panels() { return State(window, "Panel1 Panel2 Panel3 Panel4"); }
+  // The first four panels behind a tick.
   std::string Ticked() {
     timer.Tick();
-    return Panels();
+    return State(window, "Panel1 Panel2 Panel3 Panel4");
   }
   // Of these items, those that are on.
   std::string On(std::initializer_list<const char*> items) {
@@ -60,7 +58,6 @@ struct MainWindowTest : testing::Test {
     for (const char* item : items) on += Item(item)->isEnabled() ? std::string(item) + ' ' : "";
     return on;
   }
-  // The texts of the tabs from the current one on.
   std::string Texts() {
     std::string texts;
     for (int tab = 1; tab <= kTabCount; ++tab) texts += editor.documents.TextOf(tab) + '|';
@@ -91,12 +88,14 @@ void List(const QList<QAction*>& actions, const QString& indent, MenuBar& menus,
   }
 }
 
-TEST(MainMenu, AndToolbarAreTheKeptOnes) {
+TEST(MainMenu, AndTheBarsAreTheKeptOnes) {
   ScriptedPlatform platform;
   Program program(platform);
   std::string listing;
   List(program.Main().Menus().actions(), {}, program.Main().Menus(), listing);
   List(program.Main().Toolbar().actions(), {}, program.Main().Menus(), listing);
+  for (int panel = 1; panel <= kPanelCount; ++panel)
+    listing += program.Main().Bar().Panel(panel)->toolTip().toStdString() + '\n';
   EXPECT_EQ(listing, Content(PELMAR_KEPT_MENU));
 }
 
@@ -135,6 +134,17 @@ TEST_F(MainWindowTest, TheTickShowsTheStateWhileTheWindowIsActive) {
   EXPECT_FALSE(editor.settings.LineCounting);
   QTest::mouseDClick(window.Bar().Panel(3), Qt::LeftButton);
   EXPECT_TRUE(editor.settings.LineCounting);
+}
+
+TEST_F(MainWindowTest, TheTickSnapsTheWindowToTheEdges) {
+  editor.settings.AutosnapDistance = 240;
+  Activate(other);
+  other.move(5, 5);  // has no tag for it
+  const QPoint place = other.pos();
+  window.MoveTo({150, 225, 12000, 9000});
+  const auto snapped = [this] { return timer.Tick(), window.Place() == TwipsRect{0, 0, 12000, 9000}; };
+  EXPECT_TRUE(QTest::qWaitFor(snapped, 2000));
+  EXPECT_EQ(other.pos(), place);
 }
 
 TEST_F(MainWindowTest, TheBarWarnsOfTheGravestThatHolds) {
@@ -203,6 +213,8 @@ TEST_F(MainWindowTest, KeysOfGreyItemsGoByTheStateOfNow) {
   Press(Qt::Key_V, Qt::ControlModifier);
   EXPECT_EQ(editor.text.Text(), "abcabc");
   EXPECT_EQ(On({"mnucopysel", "mnuadd"}), "");
+  Press(Qt::Key_Return);  // and those of no item are the box's
+  EXPECT_EQ(editor.text.Text(), "abc\r\nabc");
 }
 
 TEST_F(MainWindowTest, TogglesHideAndShowTheBars) {
@@ -248,21 +260,10 @@ TEST_F(MainWindowTest, RecentMenuShowsAndOpensTheEntries) {
 
 TEST(MainWindow, AStartAndACloseLeaveTheSettingsAsTheyWere) {
   ScriptedPlatform platform;
-  const SettingsRecord record{.Width = 12000,
-                              .Height = 9000,
-                              .Top = 1500,
-                              .Left = 3000,
-                              .FontName = "DejaVu Sans Mono",
-                              .ForeColor = Rgb(1, 2, 3),
-                              .BackColor = Rgb(250, 251, 252),
-                              .FontSize = 14,
-                              .FontBold = true,
-                              .UserName = "Jan",
-                              .UserEmail = "j@x.cz",
-                              .AutosnapDistance = 240,
-                              .LockPassword = {},
-                              .RecentFiles = {},
-                              .LineCounting = true};
+  // In the order of the file.
+  const SettingsRecord record{12000,    9000, 1500, 3000,  false, "DejaVu Sans Mono", 0x030201,
+                              0xFCFBFA, 14,   true, false, "Jan", "j@x.cz",           false,
+                              240,      "",   {},   0,     true};
   platform.files["/install/pelmar.ini"] = SettingsBytes(record);
   Program program(platform);
   program.Run("-NOMSG");
@@ -272,6 +273,10 @@ TEST(MainWindow, AStartAndACloseLeaveTheSettingsAsTheyWere) {
   for (const char* item : {"mnu08", "mnu14", "mnuEditBold", "mnuitalic"})
     marks += window.Menus().Action(item)->isChecked() ? '+' : '-';
   EXPECT_EQ(marks, "-++-");
+  window.Text().Buffer().Type("unsaved");
+  platform.answers = {Answer::kNo, Answer::kYes};
+  window.close();
+  EXPECT_TRUE(window.isVisible());
   window.close();
   EXPECT_EQ(QApplication::exec(), EXIT_SUCCESS);  // which the close has ended
   EXPECT_TRUE(ReadSettings(platform.files["/install/pelmar.ini"]) == record);

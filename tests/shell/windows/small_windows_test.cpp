@@ -1,12 +1,15 @@
 #include <gtest/gtest.h>
 
 #include <QLabel>
+#include <QListWidget>
 #include <QTest>
 
+#include "files/windows/otevri.h"
 #include "platform/qt/controls/text_box.h"
 #include "platform/qt/convert.h"
 #include "program/program.h"
 #include "shell/windows/config.h"
+#include "shell/windows/customize_toolbar.h"
 #include "shell/windows/hlp.h"
 #include "shell/windows/o.h"
 #include "shell/windows/pass.h"
@@ -75,7 +78,14 @@ TEST_F(SmallWindows, TheWelcomeLeadsToTheEditorHoweverItIsLeft) {
   }
 }
 
-// Also where they read and what they show.
+TEST_F(SmallWindows, TheWelcomesSecondButtonOpensAFile) {
+  Program program(platform);
+  Work(program.Windows().Get<Start>(), "Command2!");
+  EXPECT_TRUE(program.Main().isVisible());
+  EXPECT_TRUE(program.Windows().Get<Otevri>().isVisible());
+}
+
+// A window at the centre again is one that was made anew, which reads anew too.
 TEST_F(SmallWindows, ThoseThatBeginAnewStandAtTheCentreAgain) {
   Program program(platform);
   platform.files["/install/pelmar.txt"] = "at first";
@@ -105,6 +115,31 @@ TEST_F(SmallWindows, ThoseThatBeginAnewStandAtTheCentreAgain) {
   EXPECT_EQ(ViewOf(Find<TextBox>(*help, "Text1")->SelText()), "now");
   Work(*help, "Command1!");
   EXPECT_FALSE(help->isVisible());
+}
+
+TEST_F(SmallWindows, TheToolbarFollowsItsList) {
+  Program program(platform);
+  auto& window = program.Windows().Get<CustomizeToolbar>();
+  window.Present();
+  auto* list = Find<QListWidget>(window, "Buttons");
+  const auto shown = [&] {
+    std::string names;
+    for (const QAction* action : program.Main().Toolbar().actions())
+      if (action->isVisible()) names += action->isSeparator() ? "| " : action->objectName().toStdString() + ' ';
+    return names;
+  };
+  const std::string initial = shown();
+  EXPECT_TRUE(initial.starts_with("New Newhtml Open | Recent | Save "));
+  Work(window, "Up! Buttons=1 Up! Buttons=4 Down!");  // the first one can't go up
+  list->item(0)->setCheckState(Qt::Unchecked);
+  EXPECT_TRUE(shown().starts_with("New Open | | Recent Save ")) << shown();
+  window.hide();
+  window.Present();
+  EXPECT_EQ(list->item(0)->checkState(), Qt::Unchecked);
+  EXPECT_EQ(list->item(0)->text(), QStringLiteral("Nový HTML"));
+  Work(window, "Initial!");
+  EXPECT_EQ(shown(), initial);
+  EXPECT_EQ(list->item(0)->checkState(), Qt::Checked);
 }
 
 TEST_F(SmallWindows, AboutPlaysWithTheNameUnderTheMouse) {
