@@ -18,7 +18,7 @@ import subprocess
 import sys
 from pathlib import Path
 
-sys.path.insert(0, str(Path(__file__).resolve().parent.parent / "tests" / "session"))
+sys.path.insert(0, str(Path(__file__).resolve().parent.parent / "tools"))
 sys.dont_write_bytecode = True
 from screen import Screen, write_settings  # noqa: E402
 

@@ -17,12 +17,14 @@ import os
 import re
 import signal
 import subprocess
+import sys
 import time
 import unittest
 from pathlib import Path
 from typing import NamedTuple
 
-from screen import SIZE, Screen, write_settings
+sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "tools"))
+from screen import SIZE, Screen, write_settings  # noqa: E402
 
 NOBODY = 65534
 # What runs a command as an ordinary user, where the test is run by root.
