@@ -501,7 +501,7 @@ TEST_F(HtmlDialogs, ATagIsTakenApartAndWrittenBack) {
            {"<A B=x¶y C=2>^ ", "Atributs=0 Atributs=1 Atributs=0", "Atribut=B", R"(<A B="x¶y" C="2">^ )"},
            {"<A B=1 C=>^ ", "Atributs=1 Command2!", "Atributs=B Values= Command2=(O&deber)", R"(<A B="">^ )"},
            {"^a", "", "Text1= Atributs= Command2=(O&deber)", "<>^a"},
-           {"<A B=1 C=2>^ ", "Command2! Command4!", "Atributs=B", "^<A B=1 C=2>^ "},
+           {"<A B=1 C=2>^ ", "Atributs=0 Command2! Command4!", "Atributs=C Values=2", "^<A B=1 C=2>^ "},
        }) {
     Put(before);
     edit([&, s = steps, expected = state](QWidget& dialog) { ExpectState(dialog, s, expected); });
