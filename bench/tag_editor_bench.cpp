@@ -10,7 +10,7 @@ namespace pelmar {
 namespace {
 
 void Analyse(benchmark::State& state, const char* piece) {
-  std::string tag = "<A";
+  std::string tag = "<A ";
   while (tag.size() < static_cast<std::size_t>(state.range(0))) tag += piece;
   tag += '>';
   for (auto _ : state) benchmark::DoNotOptimize(AnalyseTag(tag, tag.size()));

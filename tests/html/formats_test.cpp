@@ -22,7 +22,10 @@ std::string Made(Function write, const Spec& spec, std::string_view selected) {
   text.SetText(std::string(selected));
   text.Select(0, text.Size());
   write(text, spec);
-  return text.Text();
+  const std::string made = text.Text();
+  text.Undo();
+  EXPECT_EQ(text.Text(), selected) << made << " isn't one step";
+  return made;
 }
 constexpr auto kWrap = [](TextBuffer& text, const Wrapping& tag) { WrapSelection(text, tag); };
 

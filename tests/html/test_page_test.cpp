@@ -4,6 +4,7 @@
 
 #include <cerrno>
 
+#include "html/browser_texts.h"
 #include "support/scripted_platform.h"
 #include "support/whole_editor.h"
 
@@ -72,6 +73,21 @@ TEST_F(PageTest, APageThatCannotBeWrittenIsTold) {
   EXPECT_EQ(PageToShow(editor, PageEnd::kAsItIs), std::nullopt);
   EXPECT_TRUE(editor.file_number.IsOpen());
   EXPECT_EQ(editor.text.Text(), "kept");
+}
+
+TEST(BrowserTexts, TellHowFarAPageIsAndKnowUtf8ThatDoesntSaySo) {
+  EXPECT_EQ(ProgressText(1, 3) + ' ' + ProgressText(5, 5) + ' ' + ProgressText(1, 0), "33,3333333333333% 100% ");
+  const std::string late(1017, ' ');
+  for (const auto& [page, undeclared] : {
+           std::pair<std::string, bool>{"kůň", true},
+           {"\xEF\xBB\xBFkůň", false},
+           {"k\xF9\xF2", false},
+           {"kun", false},
+           {"CharSet=utf-8 kůň", false},
+           {late + "charset kůň", false},  // its last letter is the last that is looked at
+           {late + " charset kůň", true},
+       })
+    EXPECT_EQ(IsUndeclaredUtf8(page), undeclared) << page;
 }
 
 }  // namespace

@@ -4,10 +4,10 @@
 #include <QComboBox>
 #include <QTest>
 
-#include "html/windows/activity_picture.h"
 #include "html/windows/browser_module.h"
 #include "html/windows/frm_browser.h"
 #include "html/windows/web_address.h"
+#include "platform/qt/convert.h"
 #include "support/controls.h"
 #include "support/scripted_platform.h"
 #include "support/steps.h"
@@ -82,25 +82,23 @@ struct BrowserTest : testing::Test, WebViewMaker {
   }
 };
 
-TEST_F(BrowserTest, ShowsAFileAndTurnsItsPictureWhileThatLoads) {
+TEST_F(BrowserTest, ShowsAFileAndWhatIsHeardOfIt) {
   Window().ShowInBrowser("");
   EXPECT_EQ(Told(), "; Panel1=, HTML Testovací  browser, hidden");
   Window().ShowInBrowser("/stránka.html");
   EXPECT_EQ(Told("cboAddress"),
             "load file:///str%C3%A1nka.html; cboAddress=file:///stránka.html, HTML Testovací  browser, ticking");
-  std::string frames;
-  for (int tick = 0; tick < 9; ++tick) {
+  std::vector<QImage> frames;
+  for (int tick = 0; tick < 16; ++tick) {
     Q_EMIT Timer().timeout({});
-    frames += std::to_string(Find<ActivityPicture>(Window(), "Picture1")->Frame());
+    const QImage frame = Find<QWidget>(Window(), "Picture1")->grab().toImage();
+    if (std::find(frames.begin(), frames.end(), frame) == frames.end()) frames.push_back(frame);
   }
-  EXPECT_EQ(frames + State(Window(), "Panel1"), "123456701Panel1=Busy");
+  EXPECT_EQ(std::to_string(frames.size()) + Told(), "8; Panel1=Busy, HTML Testovací  browser, ticking");
   view->busy = false;
   view->name = QStringLiteral("Stránka [*]");
   EXPECT_TRUE(QTest::qWaitFor([this] { return !Timer().isActive(); }, 2000));
   EXPECT_EQ(Told(), "; Panel1=Idle, HTML testovací browser (Stránka [*][*])");
-}
-
-TEST_F(BrowserTest, HearsFromThePage) {
   const TempFolder folder;
   for (const auto& [page, told] : {std::pair{"<P>kůň", true}, {"<P>k\xF9\xF2", false}}) {
     Window().ShowInBrowser(folder.Put("a.html", page));
@@ -110,13 +108,13 @@ TEST_F(BrowserTest, HearsFromThePage) {
   view->on_progress(70, 100);
   EXPECT_EQ(Told("Panel2"), "; Panel2=70%, HTML testovací browser (A), ticking");
   view->on_progress(3, -1);
+  view->name = QStringLiteral("B");
   Timer().stop();
-  for (const bool busy : {false, true}) {
+  for (const bool busy : {false, true}) {  // a link in the page loads too
     view->busy = busy;
-    view->name = QStringLiteral("B");
-    view->on_change();  // a link in the page loads too
-    EXPECT_EQ(Told("Panel2"), std::string("; Panel2=, HTML testovací browser (B)") + (busy ? ", ticking" : ""));
+    view->on_change();
     view->on_withheld(busy);
+    EXPECT_EQ(Told("Panel2"), std::string("; Panel2=, HTML testovací browser (B)") + (busy ? ", ticking" : ""));
     EXPECT_EQ(Find<QWidget>(Window(), "netLine")->isVisible(), busy);
   }
   Work(Window(), "LoadNet!");
@@ -221,34 +219,34 @@ TEST_F(BrowserTest, AddressesOfTheEngineAreRefused) {
 
 TEST(WebAddress, FilesAreNamedAsTheyStand) {
   const TempFolder folder;
-  const std::string odd = folder.Put("100% #1 žluť?.html", ""), plain = folder.Put("plain.html", "");
+  const std::string odd = "file://" + folder.Put("100% #1 žluť?.html", ""), path = folder.Put("plain.html", "");
   const auto url_of = [](const std::string& typed) { return UrlOfAddress(QString::fromStdString(typed)); };
-  EXPECT_EQ(url_of("file://" + odd), QUrl::fromLocalFile(QString::fromStdString(odd)));
-  EXPECT_EQ(url_of("file://" + plain + "#část").fragment(), QStringLiteral("část"));
+  EXPECT_EQ(PathOfUrl(url_of(odd)), odd.substr(7));
+  EXPECT_EQ(url_of("file://" + path + "#část").fragment(), QStringLiteral("část"));
   EXPECT_EQ(AddressOfFile("/a č#.htm"), QStringLiteral("file:///a č#.htm"));
   EXPECT_EQ(AddressOfFile("/a \xE8#.htm"), QStringLiteral("file:///a%20%E8%23.htm"));
   // What names a file comes back as it was; the rest is taken as a browser takes what a person pastes.
-  for (const std::string& same : {"file://" + odd, "file://" + plain + "#část", "file://" + plain + "?a=1",
+  for (const std::string& same : {odd, "file://" + path + "#část", "file://" + path + "?a=1",
                                   std::string("file:///a%20%E8%23.htm"), std::string("file:///C:/a b.htm")})
     EXPECT_EQ(AddressOfUrl(url_of(same)).toStdString(), same);
-  for (const auto& [typed, address] : {std::pair{" " + plain + " ", "file://" + plain},
+  for (const auto& [typed, address] : {std::pair{' ' + path + ' ', "file://" + path},
                                        {"priklad.cz/x", "http://priklad.cz/x"},
                                        {"  ", ""},
-                                       {"a b c d", ""}})
+                                       {"a b c d", ""},
+                                       {"file:///a%20b.htm#c", "file:///a b.htm#c"}})
     EXPECT_EQ(AddressOfUrl(url_of(typed)).toStdString(), address) << typed;
 }
 
 TEST(BrowserModule, TellsWhatIsMissing) {
   const TempFolder folder;
-  BrowserModule missing({QString::fromStdString(folder.Path())});
-  const std::string broken = "Interní browser nelze spustit.\r\nSoubor " + folder.File("pelmar-browser.so") +
-                             " je poškozen nebo z jiné verze programu";
-  for (const std::string& told :
-       {std::string("Interní browser není nainstalován.\r\nJe v balíčku pelmar-vex-browser."), broken}) {
-    EXPECT_EQ(missing.Maker(), nullptr);
-    EXPECT_EQ(missing.Problem().toStdString(), told);
-    folder.Put("pelmar-browser.so", "not a library");
-  }
+  BrowserModule module({QString::fromStdString(folder.Path())});
+  EXPECT_EQ(module.Maker(), nullptr);
+  EXPECT_TRUE(module.Problem().startsWith(QStringLiteral("Interní browser není nainstalován.\r\n")));
+  folder.Put("pelmar-browser.so", "not a library");
+  EXPECT_EQ(module.Maker(), nullptr);
+  EXPECT_EQ(module.Problem().toStdString(), "Interní browser nelze spustit.\r\nSoubor " +
+                                                folder.File("pelmar-browser.so") +
+                                                " je poškozen nebo z jiné verze programu");
 }
 
 }  // namespace
