@@ -116,9 +116,10 @@ TEST_F(FileDialogsTest, UlozShowsItsTargetAsItIsMadeAndHides) {
 TEST_F(FileDialogsTest, ConversionWritesBesideTheChosenFile) {
   Dos_Unix_conv dialog(platform, nullptr);
   dialog.show();
-  ExpectState(dialog, "Text1=*.html",
-              "Command1='(&DOS --> UNIX)' Command2='(&UNIX --> DOS)' Command4='(U&TF-8 --> 1250)' Command5='(&1250 --> "
-              "UTF-8)' Label2=");
+  ExpectState(dialog, "",
+              "Text1=*.* Label2= Command1='(&DOS --> UNIX)' Command2='(&UNIX --> DOS)' Command4='(U&TF-8 --> 1250)' "
+              "Command5='(&1250 --> UTF-8)'");
+  Work(dialog, "Text1=*.html");
   ChooseFile(dialog, folder.Path(), "b.html");
   Expect(dialog, "Command1! Command2! Command4! Check1! Command5!", "Label2=~/b.html");
   const std::string stem = folder.Path() + "/b.";

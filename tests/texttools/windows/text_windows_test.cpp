@@ -127,6 +127,8 @@ TEST_F(TextWindowsTest, CommandsOpenTheWindowsOfFilesAndTextsAndEscapeClosesThem
   Work(program.Main(), "mnu_format!");
   EXPECT_EQ(opened.join(u' ').toStdString(),
             "Otevři Otevři Ulož Ulož Dos_Unix_conv DirSetup Hledání Hledání Záměna Výběr Visual Formatuj");
+  Work(program.Main(), "mnuEditBold!");
+  EXPECT_TRUE(Find<TextBox>(program.Main(), "Text1")->font().bold());
 }
 
 TEST_F(TextWindowsTest, VyberBeginsWithTheSelectionAtEachCommandAndSetsIt) {
