@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QProgressBar>
+#include <QTabBar>
 #include <QTest>
 #include <algorithm>
 #include <string>
@@ -22,10 +23,10 @@
 namespace pelmar {
 
 // The words of a line. A word holds spaces between apostrophes: "Text1='a b' Command1!".
-inline QStringList Words(const QString& line) {
+inline QStringList Words(const char* line) {
   QStringList words;
   bool quoted = false, begun = false;
-  for (const QChar c : line) {
+  for (const QChar c : QString::fromUtf8(line)) {
     if (c == QLatin1Char('\'')) quoted = !quoted;
     if (c == QLatin1Char(' ') && !quoted) {
       begun = false;
@@ -43,12 +44,14 @@ inline QWidget* Named(const QWidget& window, const QString& name) {
   EXPECT_NE(control, nullptr) << "no control " << name.toStdString();
   return control;
 }
+inline QWidget* Named(const QWidget& window, const char* name) { return Named(window, QString::fromUtf8(name)); }
 
 // "Command1!" clicks a button or an item of a menu; "Text1=abc" types over a field or an editable box; "VScroll1=3"
-// moves a bar; "List1=2" makes a row of a list (from 0) the current one, "Combo1=2" one of a box that isn't editable.
-// "Text1:abc\r" types at the caret of whatever has the name; a Delete is \x7f, Backspace \b, Escape \x1b.
+// moves a bar; "List1=2" makes a row of a list (from 0) the current one, "Combo1=2" one of a box that isn't editable,
+// "TabStrip1=1" a tab. "Text1:abc\r" types at the caret of whatever has the name; a Delete is \x7f, Backspace \b,
+// Escape \x1b.
 inline void Work(const QWidget& window, const char* steps) {
-  for (const QString& step : Words(QString::fromUtf8(steps))) {
+  for (const QString& step : Words(steps)) {
     const auto end = std::find_if(step.begin(), step.end(), [](QChar c) { return QLatin1String("!=:").contains(c); });
     const QString name = step.left(end - step.begin()), value = step.mid(name.size() + 1);
     const QChar act = step.size() > name.size() ? *end : QChar();
@@ -60,7 +63,8 @@ inline void Work(const QWidget& window, const char* steps) {
     if (auto* button = qobject_cast<QAbstractButton*>(control); button && act == QLatin1Char('!')) {
       button->click();
     } else if (control && act == QLatin1Char(':')) {
-      QTest::keyClicks(control, value);
+      for (const QChar c : value)
+        c == QChar(0x7F) ? QTest::keyClick(control, Qt::Key_Delete) : QTest::keyClick(control, c.toLatin1());
     } else if (auto* text = qobject_cast<TextBox*>(control)) {
       text->Buffer().SetText(TextFromQString(value));
     } else if (auto* field = qobject_cast<QLineEdit*>(control)) {
@@ -69,6 +73,8 @@ inline void Work(const QWidget& window, const char* steps) {
       box->isEditable() ? box->setEditText(value) : box->setCurrentIndex(value.toInt());
     } else if (auto* bar = qobject_cast<QAbstractSlider*>(control)) {
       bar->setValue(value.toInt());
+    } else if (auto* tabs = qobject_cast<QTabBar*>(control)) {
+      tabs->setCurrentIndex(value.toInt());
     } else if (auto* list = qobject_cast<QAbstractItemView*>(control)) {
       list->setCurrentIndex(list->model()->index(value.toInt(), 0));
     } else {
@@ -97,6 +103,8 @@ inline QString Shown(const QWidget* control) {
     shown = QString::number(bar->value());
   } else if (auto* progress = qobject_cast<const QProgressBar*>(control)) {
     shown = QString::number(progress->value());
+  } else if (auto* tabs = qobject_cast<const QTabBar*>(control)) {
+    shown = QString::number(tabs->currentIndex());
   } else if (auto* list = qobject_cast<const QAbstractItemView*>(control)) {
     for (int row = 0; row < list->model()->rowCount(); ++row) {
       const QModelIndex index = list->model()->index(row, 0);
@@ -110,7 +118,7 @@ inline QString Shown(const QWidget* control) {
 // The controls named, as in "Label1=1% VScroll1=(50)".
 inline std::string State(const QWidget& window, const char* names) {
   QStringList shown;
-  for (const QString& name : Words(QString::fromUtf8(names)))
+  for (const QString& name : Words(names))
     if (const QWidget* control = Named(window, name)) shown += name + QLatin1Char('=') + Shown(control);
   return shown.join(QLatin1Char(' ')).toStdString();
 }
@@ -119,7 +127,7 @@ inline std::string State(const QWidget& window, const char* names) {
 inline void ExpectState(const QWidget& window, const char* steps, const char* state) {
   Work(window, steps);
   QStringList shown;
-  const QStringList expected = Words(QString::fromUtf8(state));
+  const QStringList expected = Words(state);
   for (const QString& word : expected) {
     const QString name = word.left(word.indexOf(QLatin1Char('=')));
     if (const QWidget* control = Named(window, name)) shown += name + QLatin1Char('=') + Shown(control);

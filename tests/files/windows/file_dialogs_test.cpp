@@ -154,7 +154,7 @@ TEST_F(FileDialogsTest, DirSetupLeadsEveryDialogThatPicksFiles) {
   auto& save = program.Windows().Get<Uloz>();
   Expect(save, "", "Label1=~/Jméno.html Command1=&Ulož Drive1=/");
   // A folder where a list stands already counts as well.
-  Named(save, QStringLiteral("Command1"))->setEnabled(false);
+  Named(save, "Command1")->setEnabled(false);
   Work(dialog, "Command1!");
   Expect(save, "", "Command1=&Ulož");
 }

@@ -50,7 +50,7 @@ TEST_F(TextWindowsTest, HledaniGoesOnByEnterAndMovesOffWhatItFound) {
   ExpectState(dialog, "", "Label3=2 Label5=10");
   platform.answers = {Answer::kOk};
   Enter(dialog);
-  EXPECT_EQ(dialog.focusWidget(), Named(dialog, QStringLiteral("Find")));  // for the next term
+  EXPECT_EQ(dialog.focusWidget(), Named(dialog, "Find"));  // for the next term
   ExpectState(dialog, "Find=Dvě Rozlisovat! Command1!",
               "Find=(DVĚ) Label5=6 Text1='JEDNA DVĚ JEDNA' History=(jedna|DVĚ)");
   ExpectState(dialog, "Command4! Find=x", "Command2='(&Další vyhledaný)' Rozlisovat=(0)");
