@@ -81,6 +81,7 @@ TEST(TextTools, EachCommandLeavesItsTextAndCalls) {
     EXPECT_EQ(calls + (platform.reseeds > 0 ? "reseed 1" : ""), c.calls) << c.command;
     const bool forgets = std::string_view(c.command) == "mnunewclip";  // required: on No as well
     EXPECT_EQ(editor.documents.CurrentPath(), forgets ? "" : "/a.txt") << c.command;
+    EXPECT_EQ(editor.documents.Title() == "Pelmar VEX ()", forgets) << c.command;
   }
 }
 
