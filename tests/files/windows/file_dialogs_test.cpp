@@ -111,6 +111,9 @@ TEST_F(FileDialogsTest, UlozShowsItsTargetAsItIsMadeAndHides) {
   Uloz late(editor.documents, editor.saver, nullptr);  // primed before it was made
   Expect(late, "", "Text1=b Label1=~/b.html Command1=&Ulož");
   EXPECT_EQ(Utf8FromQString(Find<FolderList>(late, "Dir1")->Path()), folder.Path());
+  Named(late, "Command1")->setEnabled(false);
+  editor.documents.Target().Prime(folder.File("b.html"));  // which changes no field
+  Expect(late, "", "Command1=&Ulož");
 }
 
 TEST_F(FileDialogsTest, ConversionWritesBesideTheChosenFile) {
