@@ -9,7 +9,7 @@
 namespace pelmar {
 namespace {
 
-constexpr const char* kNothingFound = "message 0 \"Nenalezeno !\" \"Hledání\"";
+constexpr const char* kNothingFound = "message 0 \"Nenalezeno !\" \"Hledání\"; ";
 
 std::string On(std::initializer_list<std::pair<char, bool>> fields) {
   std::string on;
@@ -32,15 +32,14 @@ struct SearchTest : testing::Test {
     platform.answers = {Answer::kOk};
     if (step == 'i') search.case_sensitive = false;
     if (step == 'L') search.Load();
-    if (step == 'S') search.Start();
     if (step == 'N') search.Next();
     if (step == 'W') search.New();
     if (step == 'x') text.SetText("short text");
   }
-  // The term and the document, and "!" where the last step told that nothing is found.
+  // The term and the document, and what the last step told, "!" for nothing found.
   std::string Texts(const std::string& term) {
-    const bool told = platform.TakeTold().find(kNothingFound) != std::string::npos;
-    return ' ' + term + ' ' + Marked(text) + (told ? " !" : "");
+    const std::string told = platform.TakeTold();
+    return ' ' + term + ' ' + Marked(text) + (told == kNothingFound ? " !" : told);
   }
   // The fields that are on (find, case, history, next), count and position.
   std::string Finding(std::string_view document, std::string_view term, std::string_view steps) {
@@ -49,6 +48,7 @@ struct SearchTest : testing::Test {
     finder.find = term;
     for (const char step : steps) {
       Do(finder, step);
+      if (step == 'S') finder.Start();
       if (step >= '0' && step <= '9') finder.PickHistory(static_cast<std::size_t>(step - '0'));
     }
     return On({{'f', finder.find_on}, {'c', finder.case_on}, {'h', finder.history_on}, {'n', finder.next_on}}) +
@@ -64,8 +64,14 @@ struct SearchTest : testing::Test {
     replacer.change = change;
     for (const char step : steps) {
       Do(replacer, step);
+      if (step == 'S') {
+        EXPECT_EQ(replacer.Start(), replacer.step_on);
+      }
       if (step == 'R') replacer.Replace();
-      if (step == 'A') replacer.ReplaceAll();
+      if (step == 'A') {
+        replacer.ReplaceAll();
+        EXPECT_EQ(platform.TakeTold(), "busy 1; busy 0; ");
+      }
       if (step == '=') replacer.change = "X";
       if (step >= '0' && step <= '9') replacer.PickRow(static_cast<std::size_t>(step - '0'));
     }
@@ -135,22 +141,21 @@ TEST_F(SearchTest, ReplaceReadsItsReplacementAgain) {
   };
   for (const auto& c : cases)
     EXPECT_EQ(Replacing(c.document, c.term, c.change, c.steps), c.shown) << c.document << ' ' << c.steps;
-  EXPECT_EQ(platform.busy, 0);
 }
 
 TEST_F(SearchTest, PrimitiveFindAsksItsWayThroughTheLiveText) {
   PutMarked(text, "[ab| ab");
   platform.inputs = {"ab", std::nullopt};  // a cancel is an empty term
   platform.answers = {Answer::kYes, Answer::kYes, Answer::kOk, Answer::kOk, Answer::kYes, Answer::kNo, Answer::kOk};
+  const std::string ask = "input \"Vložte prosím text na hledání.\" \"Hledání\" \"ab\"; ";
+  const std::string first = "message 36 \"Nalezeno na 1 místě, pokračovat ?\" \"hledání\"; ";
+  const std::string end = "message 0 \"Nalezeno 2 X\" \"Hledání\"; ";
   FindPrimitively(text, platform);
-  EXPECT_EQ(platform.TakeCalls(),
-            (std::vector<std::string>{"input \"Vložte prosím text na hledání.\" \"Hledání\" \"ab\"",
-                                      "message 36 \"Nalezeno na 1 místě, pokračovat ?\" \"hledání\"",
-                                      "message 36 \"Nalezeno na 4 místě, pokračovat ?\" \"hledání\"", kNothingFound,
-                                      "message 0 \"Nalezeno 2 X\" \"Hledání\""}));
+  EXPECT_EQ(platform.TakeTold(),
+            ask + first + "message 36 \"Nalezeno na 4 místě, pokračovat ?\" \"hledání\"; " + kNothingFound + end);
   EXPECT_EQ(Marked(text), "ab [ab|");
   FindPrimitively(text, platform);
-  EXPECT_EQ(platform.calls.back(), "message 0 \"Nalezeno 2 X\" \"Hledání\"");
+  EXPECT_EQ(platform.TakeTold(), ask + first + "message 36 \"Nalezeno na 2 místě, pokračovat ?\" \"hledání\"; " + end);
 }
 
 }  // namespace

@@ -38,7 +38,8 @@ TEST_F(TextWindowsTest, HledaniGoesOnByEnterAndMovesOffWhatItFound) {
   PutMarked(text, "|jedna dvě jedna"_w);
   Hledani dialog(text, platform, shown_match, nullptr);
   dialog.Present();
-  ExpectState(dialog, "Find=jedna", "Find=jedna Command2='(&Další vyhledaný)' Rozlisovat=1 Label3=");
+  ExpectState(dialog, "", "Find=Text Command2='(&Další vyhledaný)' Rozlisovat=1 Label3=");
+  Work(dialog, "Find=jedna");
   match = QRect(dialog.geometry().center() - QPoint(0, 90), QSize(30, 12));
   Enter(dialog);
   ExpectState(dialog, "",
@@ -50,7 +51,7 @@ TEST_F(TextWindowsTest, HledaniGoesOnByEnterAndMovesOffWhatItFound) {
   ExpectState(dialog, "", "Label3=2 Label5=10");
   platform.answers = {Answer::kOk};
   Enter(dialog);
-  EXPECT_EQ(dialog.focusWidget(), Named(dialog, QStringLiteral("Find")));  // for the next term
+  EXPECT_EQ(dialog.focusWidget(), Named(dialog, "Find"));  // for the next term
   ExpectState(dialog, "Find=Dvě Rozlisovat! Command1!",
               "Find=(DVĚ) Label5=6 Text1='JEDNA DVĚ JEDNA' History=(jedna|DVĚ)");
   ExpectState(dialog, "Command4! Find=x", "Command2='(&Další vyhledaný)' Rozlisovat=(0)");
@@ -127,6 +128,8 @@ TEST_F(TextWindowsTest, CommandsOpenTheWindowsOfFilesAndTextsAndEscapeClosesThem
   Work(program.Main(), "mnu_format!");
   EXPECT_EQ(opened.join(u' ').toStdString(),
             "Otevři Otevři Ulož Ulož Dos_Unix_conv DirSetup Hledání Hledání Záměna Výběr Visual Formatuj");
+  Work(program.Main(), "mnuEditBold!");
+  EXPECT_TRUE(Find<TextBox>(program.Main(), "Text1")->font().bold());
 }
 
 TEST_F(TextWindowsTest, VyberBeginsWithTheSelectionAtEachCommandAndSetsIt) {
@@ -153,6 +156,7 @@ TEST_F(TextWindowsTest, FormatujWorksOnTheRowsAndWritesThemBack) {
     std::string_view document;
     const char *steps, *state;
     std::string_view after;
+    const char* end = "Command2!";
   } cases[] = {
       {"x[ab\r\ncde|x", "Hz=9", "List1=ab|cde Label2=2 Label4=2 Hz=2 Label7=2 Label8=0", "xab\r\ncde|x"},
       {"[ab\r\ncde|", "Hz=1 Text1=- Text1:\r", "List1=a-b|c-de Label2=2 Label4=3 Label7=1", "a-b\r\nc-de|"},
@@ -166,6 +170,7 @@ TEST_F(TextWindowsTest, FormatujWorksOnTheRowsAndWritesThemBack) {
       // required: one character gives no row, and no rows take its place
       {"[a|", "Command3! Command4! Command5! Command6! Hz=9", "List1= Label2=0 Label4=0 Hz=0", "|"},
       {"a|b", "Hz=9 Hk=9", "List1= Label2=0 Label4=0 Hz=0 Hk=0", "a|b"},
+      {"[ab|", "Text1=- Command3!", "List1=-ab", "[ab|", "Command1!"},
   };
   for (const auto& c : cases) {
     PutMarked(text, c.document);
@@ -174,17 +179,11 @@ TEST_F(TextWindowsTest, FormatujWorksOnTheRowsAndWritesThemBack) {
     dialog.show();
     ExpectState(dialog, c.steps, c.state);
     EXPECT_TRUE(dialog.isVisible()) << c.steps;
-    Work(dialog, "Command2!");
+    Work(dialog, c.end);
     EXPECT_EQ(Marked(text), c.after) << c.steps;
     EXPECT_FALSE(dialog.isVisible()) << c.steps;
   }
   EXPECT_EQ(platform.calls, std::vector<std::string>{"message 0 \"Vyber text\" \"Fomátování\""});
-  PutMarked(text, "[ab|");
-  Formatuj dialog(text, platform, nullptr);
-  dialog.show();
-  Work(dialog, "Text1=- Command3! Command1!");
-  EXPECT_EQ(Marked(text), "[ab|");
-  EXPECT_FALSE(dialog.isVisible());
 }
 
 TEST(ColorDialogWindow, PicksAndRemembers) {
