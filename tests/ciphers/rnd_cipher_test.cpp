@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cerrno>
 
 #include "ciphers/table_file.h"
@@ -147,21 +148,6 @@ TEST(TableFile, IsItsFieldsToTheByteAndEmptyFromADamageOn) {
   }
   table.Note.resize(70000);  // what is too long is cut
   EXPECT_EQ(TableBytes(table).size(), bytes.size() - 303 + kLongestField);
-}
-
-TEST(TableFile, AnyBytesMakeATableThatCanBeWorkedWith) {
-  RandomSource random(9);
-  for (int round = 0; round < 2000; ++round) {
-    std::string bytes = round % 2 ? TableBytes(Table(8 + round % 57)) : std::string(random.Below(400), '\0');
-    for (auto n = random.Below(30); n > 0 && !bytes.empty(); --n)
-      bytes[random.Below(bytes.size())] = static_cast<char>(random.Below(256));
-    const CipherTable table = ReadTable(bytes);
-    ASSERT_LE(TableBytes(table).size(), bytes.size() + 65);
-    CodeRows(table);
-    LetterRows(table);
-    CoefficientsText(table, CountedDigits::kFirstEight);
-    RndDecipher(RndEncipher("AHOJ\r\n.", table, random.Draws(), {}), table, {});
-  }
 }
 
 struct TableFilesTest : testing::Test {
