@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QTabBar>
 #include <QTemporaryDir>
 
 #include "accessories/windows/poznamka.h"
@@ -151,7 +152,11 @@ TEST(NotesWindows, HoldACheckpoint) {
 
 TEST_F(PoznamkaTest, TheTickDocksAndSnapsAndRestsWhileNothingMoves) {
   Open({});
-  notes->resize(450, 300);
+  const auto* tabs = notes->findChild<QTabBar*>();
+  for (const auto& [width, caption] : {std::pair(900, "Poznámka 1 Poznámka 5"), {200, "1 5"}, {450, "1 5"}}) {
+    notes->resize(width, 300);
+    EXPECT_EQ((tabs->tabText(0) + u' ' + tabs->tabText(4)).toStdString(), caption) << width;
+  }
   const int toolbar = Named(*notes, "Toolbar1")->height();
   EXPECT_EQ(Named(*notes, "TabStrip1")->geometry(), QRect(0, toolbar, 450, 300 - toolbar));
   EXPECT_EQ(Named(*notes, "Text1")->geometry(), QRect(0, toolbar + 22, 450, 300 - toolbar - 22));
