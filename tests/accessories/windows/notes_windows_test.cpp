@@ -73,6 +73,8 @@ TEST_F(PoznamkaTest, KeepsFivePagesAndStoresThemAtTheEnd) {
   Work(*notes, "Text1='one two'");
   notes->Text().Select(0, 3);
   Work(*notes, "Copy!");
+  const QString tip = notes->findChild<QAction*>(QStringLiteral("Copy"))->toolTip();
+  EXPECT_EQ(tip, QStringLiteral("Kopírovat výbět"));  // required: misspelled
   notes->Text().Select(4, 7);
   ExpectState(*notes, "Paste!", "Text1='one one'");
   EXPECT_EQ(File(), NotesBytes({{"first", "second"}}));  // only the close writes

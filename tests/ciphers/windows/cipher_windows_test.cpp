@@ -68,7 +68,7 @@ TEST_F(CipherWindowsTest, DialogsRewriteTheWholeDocumentOrQuickText) {
   };
   for (const auto& c : cases) {
     editor.text.SetText(c.text);
-    editor.text.Select(0, editor.text.Size() / 2);
+    editor.text.Select(0, editor.text.Size() / 2);  // required: the selection doesn't matter
     ExpectState(c.dialog, c.steps, c.state);
     EXPECT_EQ(editor.text.Text(), c.document) << c.steps;
   }
