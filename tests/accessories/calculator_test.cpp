@@ -118,6 +118,7 @@ TEST(Conversions, FillTheOtherFieldsUnlessTheNumberIsTooLarge) {
   EXPECT_EQ(hex("FFFFFFFFFF"), "0 FFFFFFFFF 0");
   const auto oct = [](std::string_view n) { return Converted(&Converter::Label6, n, &Converter::FromOct); };
   EXPECT_EQ(oct("177777"), "-1 FFFFFFFF 177777 -1");
+  EXPECT_EQ(oct("17777777777"), "214748364 7FFFFFFF 17777777777 214748364");
   EXPECT_EQ(oct("777777777777"), "0 0 77777777777");
   for (const char* number : {"2147483648", "-2147483649", "1E+99", "&HFFFFFFFFF"}) {
     Converter converter;

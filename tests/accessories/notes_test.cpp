@@ -33,6 +33,7 @@ TEST(NotesFile, IsItsPagesToTheByteAndEmptyFromADamageOn) {
   record.Page(4) += 'x';
   EXPECT_EQ(OverlongPage(record), 4);
   EXPECT_THROW(NotesBytes(record), RuntimeError);
+  EXPECT_EQ(OverlongMessage(4, 65536), "Poznámka 4 má 65536 znaků. Uložit jich lze nejvýše 65535, zkraťte ji prosím.");
 }
 
 struct NotesOnDisk : testing::Test {
@@ -101,7 +102,9 @@ TEST(Checkpoint, TakesTheTextOverTheNoteAndAsksBeforeItGivesItBack) {
   document.SetText(std::string(kLongestNote + 1, 'x'));  // no note holds it
   SaveCheckpoint(document, note, platform);
   EXPECT_EQ(note.Size(), 7u);
-  EXPECT_EQ(platform.calls.size(), 3u);
+  EXPECT_EQ(platform.calls.back(),
+            "message 0 \"Text má 65536 znaků, do poznámky se jich vejde nejvýše 65535. Checkpoint nebyl uložen.\" "
+            "\"Checkpoint\"");
 }
 
 constexpr int kWidth = 19200, kHeight = 15360;

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cerrno>
 
 #include "ciphers/table_file.h"
@@ -87,12 +88,13 @@ TEST(RndCipher, DecipheringUndoesEncipheringAndBothTellTheirProgress) {
   const Progress progress = [&passed](std::size_t done) { passed.push_back(done); };
   for (int depth = 24; depth <= 64; ++depth) {
     const CipherTable table = Table(depth);
-    const std::string text = source.Text(999, "ABCDEFGHIJKLMNOPQRSTUVWXYZ \r\n") + "END";
+    std::string text;
+    while (text.size() < 500) text += source.Text(99, "ABCDEFGHIJKLMNOPQRSTUVWXYZ \r\n");
     passed.clear();
     const std::string cipher = RndEncipher(text, table, source.Draws(), progress);
     ASSERT_EQ(PrepareText(cipher), cipher);
     ASSERT_EQ(RndDecipher(cipher, table, progress), text);
-    ASSERT_TRUE(passed.size() < 80 && passed.back() == cipher.size()) << passed.size();
+    ASSERT_TRUE(passed.size() > 50 && passed.size() < 80 && passed.back() == cipher.size()) << passed.size();
     ASSERT_EQ(std::count(passed.begin(), passed.end(), text.size()), 1);
   }
 }
@@ -147,21 +149,6 @@ TEST(TableFile, IsItsFieldsToTheByteAndEmptyFromADamageOn) {
   }
   table.Note.resize(70000);  // what is too long is cut
   EXPECT_EQ(TableBytes(table).size(), bytes.size() - 303 + kLongestField);
-}
-
-TEST(TableFile, AnyBytesMakeATableThatCanBeWorkedWith) {
-  RandomSource random(9);
-  for (int round = 0; round < 2000; ++round) {
-    std::string bytes = round % 2 ? TableBytes(Table(8 + round % 57)) : std::string(random.Below(400), '\0');
-    for (auto n = random.Below(30); n > 0 && !bytes.empty(); --n)
-      bytes[random.Below(bytes.size())] = static_cast<char>(random.Below(256));
-    const CipherTable table = ReadTable(bytes);
-    ASSERT_LE(TableBytes(table).size(), bytes.size() + 65);
-    CodeRows(table);
-    LetterRows(table);
-    CoefficientsText(table, CountedDigits::kFirstEight);
-    RndDecipher(RndEncipher("AHOJ\r\n.", table, random.Draws(), {}), table, {});
-  }
 }
 
 struct TableFilesTest : testing::Test {

@@ -46,10 +46,18 @@ inline QWidget* Named(const QWidget& window, const QString& name) {
 }
 inline QWidget* Named(const QWidget& window, const char* name) { return Named(window, QString::fromUtf8(name)); }
 
+inline void Type(QWidget& focus, QChar key) {
+  constexpr std::pair<char16_t, Qt::Key> kNamed[] = {
+      {u'\x7F', Qt::Key_Delete}, {u'→', Qt::Key_Right}, {u'↓', Qt::Key_Down}};
+  for (const auto& [sign, named] : kNamed)
+    if (key == QChar(sign)) return QTest::keyClick(&focus, named);
+  QTest::keyClick(&focus, key.toLatin1());
+}
+
 // "Command1!" clicks a button or an item of a menu; "Text1=abc" types over a field or an editable box; "VScroll1=3"
 // moves a bar; "List1=2" makes a row of a list (from 0) the current one, "Combo1=2" one of a box that isn't editable,
-// "TabStrip1=1" a tab. "Text1:abc\r" types at the caret of whatever has the name; a Delete is \x7f, Backspace \b,
-// Escape \x1b.
+// "TabStrip1=1" a tab. "Text1:abc\r" gives the keyboard to a control and types; Delete is \x7f, Backspace \b, Escape
+// \x1b, arrows → and ↓.
 inline void Work(const QWidget& window, const char* steps) {
   for (const QString& step : Words(steps)) {
     const auto end = std::find_if(step.begin(), step.end(), [](QChar c) { return QLatin1String("!=:").contains(c); });
@@ -63,8 +71,8 @@ inline void Work(const QWidget& window, const char* steps) {
     if (auto* button = qobject_cast<QAbstractButton*>(control); button && act == QLatin1Char('!')) {
       button->click();
     } else if (control && act == QLatin1Char(':')) {
-      for (const QChar c : value)
-        c == QChar(0x7F) ? QTest::keyClick(control, Qt::Key_Delete) : QTest::keyClick(control, c.toLatin1());
+      control->setFocus();
+      for (const QChar c : value) Type(*window.focusWidget(), c);
     } else if (auto* text = qobject_cast<TextBox*>(control)) {
       text->Buffer().SetText(TextFromQString(value));
     } else if (auto* field = qobject_cast<QLineEdit*>(control)) {

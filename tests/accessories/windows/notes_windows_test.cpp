@@ -3,12 +3,11 @@
 #include <QDir>
 #include <QTabBar>
 #include <QTemporaryDir>
-#include <QToolBar>
 
 #include "accessories/windows/poznamka.h"
 #include "platform/qt/outer_geometry.h"
 #include "platform/twips.h"
-#include "support/controls.h"
+#include "program/program.h"
 #include "support/plain_view.h"
 #include "support/scripted_platform.h"
 #include "support/steps.h"
@@ -50,7 +49,6 @@ struct PoznamkaTest : testing::Test {
         Poznamka::Surroundings{platform, file_number, settings, view, nullptr, mode, [this] { ++ends; }});
     notes->Present();
   }
-  [[nodiscard]] int Page() const { return Find<QTabBar>(*notes, "TabStrip1")->currentIndex() + 1; }
 };
 
 TEST_F(PoznamkaTest, KeepsFivePagesAndStoresThemAtTheEnd) {
@@ -65,16 +63,18 @@ TEST_F(PoznamkaTest, KeepsFivePagesAndStoresThemAtTheEnd) {
   ExpectState(*notes, "TabStrip1=1", "Text1=second");
   ASSERT_TRUE(QTest::qWaitForWindowActive(notes.get()));
   QTest::keyClick(notes.get(), Qt::Key_5, Qt::AltModifier);
-  EXPECT_EQ(Page(), 5);
+  ExpectState(*notes, "", "TabStrip1=4");
   // A Czech keyboard has other characters on the keys of the numbers.
-  for (const auto& [code, page] : {std::pair(11u, 2), {14u, 5}, {15u, 5}}) {
+  for (const auto& [code, tab] : {std::pair(11u, "TabStrip1=1"), {14u, "TabStrip1=4"}, {15u, "TabStrip1=4"}}) {
     QKeyEvent press(QEvent::KeyPress, Qt::Key_Plus, Qt::AltModifier, code, 0, 0, QStringLiteral("+"));
     QCoreApplication::sendEvent(Named(*notes, "Text1"), &press);
-    EXPECT_EQ(Page(), page) << code;
+    ExpectState(*notes, "", tab);
   }
   Work(*notes, "Text1='one two'");
   notes->Text().Select(0, 3);
   Work(*notes, "Copy!");
+  const QString tip = notes->findChild<QAction*>(QStringLiteral("Copy"))->toolTip();
+  EXPECT_EQ(tip, QStringLiteral("Kopírovat výbět"));  // required: misspelled
   notes->Text().Select(4, 7);
   ExpectState(*notes, "Paste!", "Text1='one one'");
   EXPECT_EQ(File(), NotesBytes({{"first", "second"}}));  // only the close writes
@@ -101,8 +101,7 @@ TEST_F(PoznamkaTest, AnOverlongPageIsRefusedBeforeAnythingIsLost) {
   Open({{"first", "second"}});
   notes->Text().SetText(std::string(kLongestNote + 1, 'x'));
   platform.answers = {Answer::kOk, Answer::kOk};
-  Work(*notes, "TabStrip1=1");
-  EXPECT_EQ(Page(), 1);
+  ExpectState(*notes, "TabStrip1=1", "TabStrip1=0");
   notes->close();
   EXPECT_TRUE(notes->isVisible() && ends == 0 && platform.answers.empty());
   EXPECT_EQ(File(), NotesBytes({{"first", "second"}}));
@@ -132,8 +131,7 @@ TEST_F(PoznamkaTest, ADeadCopysPagesComeBackButStayUnstored) {
       platform.calls[0],
       "message 52 \"Poznámky minule nebyly uloženy. Zachované stránky: 3.\r\nVrátit je do poznámek ?\" \"Záchrana\"");
   EXPECT_EQ(Locks().size(), 1);  // the lock of what this copy keeps
-  EXPECT_EQ(Page(), 2);
-  ExpectState(*notes, "", "Text1=SECOND");
+  ExpectState(*notes, "", "TabStrip1=1 Text1=SECOND");
   EXPECT_EQ(File(), NotesBytes({{"first"}}));
   notes->OfferRescued();  // asked once
   notes->close();
@@ -141,9 +139,26 @@ TEST_F(PoznamkaTest, ADeadCopysPagesComeBackButStayUnstored) {
   EXPECT_EQ(Locks(), QStringList());
 }
 
+TEST(NotesWindows, HoldACheckpoint) {
+  ScriptedPlatform platform;
+  Program program(platform);
+  TextBuffer& text = program.Main().Text().Buffer();
+  text.SetText("kept");
+  Work(program.Main(), "mnu_chp_s!");
+  text.SetText("spoilt");
+  platform.answers = {Answer::kYes};
+  Work(program.Main(), "mnu_chp_r! mnu_chp_v!");
+  EXPECT_EQ(text.Text(), "kept");
+  EXPECT_TRUE(program.Windows().Get<Poznamka>().isVisible());
+}
+
 TEST_F(PoznamkaTest, TheTickDocksAndSnapsAndRestsWhileNothingMoves) {
   Open({});
-  notes->resize(450, 300);
+  const auto* tabs = notes->findChild<QTabBar*>();
+  for (const auto& [width, caption] : {std::pair(900, "Poznámka 1 Poznámka 5"), {200, "1 5"}, {450, "1 5"}}) {
+    notes->resize(width, 300);
+    EXPECT_EQ((tabs->tabText(0) + u' ' + tabs->tabText(4)).toStdString(), caption) << width;
+  }
   const int toolbar = Named(*notes, "Toolbar1")->height();
   EXPECT_EQ(Named(*notes, "TabStrip1")->geometry(), QRect(0, toolbar, 450, 300 - toolbar));
   EXPECT_EQ(Named(*notes, "Text1")->geometry(), QRect(0, toolbar + 22, 450, 300 - toolbar - 22));
@@ -163,6 +178,10 @@ TEST_F(PoznamkaTest, TheTickDocksAndSnapsAndRestsWhileNothingMoves) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return place().top == 0 && place().height == screen.height(); }, 1000));
   EXPECT_EQ(place().left + place().width, screen.width());
   EXPECT_EQ(notes->width(), notes->minimumWidth());
+  notes->showMaximized();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return place().width == screen.width(); }, 1000));
+  QTest::qWait(50);
+  EXPECT_EQ(place().width, screen.width());  // it stays where it is then
   notes->hide();
   EXPECT_FALSE(timer->isActive());
 }

@@ -5,6 +5,7 @@
 #include <QScrollBar>
 
 #include "accessories/windows/analytic.h"
+#include "accessories/windows/color_dialog.h"
 #include "accessories/windows/klavesnice.h"
 #include "accessories/windows/kod.h"
 #include "accessories/windows/morse.h"
@@ -106,11 +107,8 @@ TEST_F(KeyboardTest, PhysicalKeysAndComposedLettersLandInTheDocument) {
   // A click leaves the keyboard where it is; after the tabulator the space bar works the key.
   QTest::mouseClick(Named(keyboard, "Command3"), Qt::LeftButton);
   EXPECT_EQ(keyboard.focusWidget(), &keyboard);
-  Named(keyboard, "Command3")->setFocus();
-  QTest::keyClick(keyboard.focusWidget(), Qt::Key_Right);
-  Compose(keyboard.focusWidget(), QStringLiteral("ďo\u0301😀"));
-  Named(keyboard, "Command4")->setFocus();
-  Work(keyboard, "Command4:' \r'");
+  Compose(Named(keyboard, "Command3"), QStringLiteral("ďo\u0301😀"));
+  Work(keyboard, "Command3:'→ \r'");
   EXPECT_EQ(keyboard.focusWidget(), &keyboard);
   Compose(&keyboard, QStringLiteral("ň"));
   QTest::keyClick(&keyboard, Qt::Key_Escape);
@@ -119,9 +117,10 @@ TEST_F(KeyboardTest, PhysicalKeysAndComposedLettersLandInTheDocument) {
 }
 
 struct CharTableTest : testing::Test {
-  TextBuffer text;
-  std::string strokes;
-  Kod kod{text, [this](const QKeyEvent& key) { strokes += TextFromQString(key.text()); }, nullptr};
+  ScriptedPlatform platform;
+  Program program{platform};
+  TextBuffer& text = program.Main().Text().Buffer();
+  Kod& kod = program.Windows().Get<Kod>();
   QWidget* grid = Named(kod, "Picture1");
 
   CharTableTest() { kod.Present(); }
@@ -186,40 +185,38 @@ TEST_F(CharTableTest, ShowsCodesByNumberAndName) {
 }
 
 TEST_F(CharTableTest, TypedKeysGoToTheMainWindow) {
-  grid->setFocus();
-  Work(kod, "Picture1:'a \r'");
+  text.SetText("abc");
+  text.Select(0, 2);
+  Work(kod, "Picture1:'x \ryz\b'");
+  EXPECT_EQ(text.Text(), "x \r\nyc");  // typed over the selection, a whole line end, one character taken back
+  EXPECT_TRUE(text.Undo());
+  EXPECT_EQ(text.Text(), "x \r\nyzc");
   // Enter on the cell that the arrow keys went to chooses it.
-  QTest::keyClick(grid, Qt::Key_Right);
-  QTest::keyClick(grid, Qt::Key_Down);
-  Work(kod, "Picture1:\r");
-  EXPECT_EQ(text.Text(), "\x10");
+  text.SetText({});
+  Work(kod, "Picture1:→↓\r");
   Compose(grid, QStringLiteral("ň"));
-  Named(kod, "Text1")->setFocus();
   Work(kod, "Text1:b\r");
   Compose(Named(kod, "Text1"), QStringLiteral("ď"));
   ExpectState(kod, "", "Text1=bď");  // a field that has the keyboard takes it too
-  EXPECT_EQ(strokes, "a \rňb\rď"_w);
-  Named(kod, "Option3")->setFocus();
   ExpectState(kod, "Option3:' ' Text1:c", "Option3=1 Text1=bďc");
-  EXPECT_EQ(strokes.size(), 7u);
+  EXPECT_EQ(text.Text(), "\x10ňb\r\nď"_w);
   Work(kod, "Text1:\x1b");
   EXPECT_FALSE(kod.isVisible());
 }
 
-TEST(ToolWindows, AStrokeIsARealKeyOfTheMainWindow) {
+TEST(ColorDialogWindow, EachButtonHasItsCommand) {
   ScriptedPlatform platform;
-  Program program(platform);
-  program.Main().show();
-  TextBuffer& text = program.Main().Text().Buffer();
-  text.SetText("abc");
-  text.Select(0, 2);
-  auto& kod = program.Windows().Get<Kod>();
-  kod.Present();
-  Named(kod, "Picture1")->setFocus();
-  Work(kod, "Picture1:x\ryz\b");
-  EXPECT_EQ(text.Text(), "x\r\nyc");  // typed over the selection, a whole line end, one character taken back
-  text.Undo();
-  EXPECT_EQ(text.Text(), "x\r\nyzc");
+  platform.draws = {0.25, 0.5, 0.75};
+  const ColorDialog dialog(platform, nullptr);
+  std::string colors;
+  for (int button = 3; button <= 11; ++button) {
+    Work(dialog, "VScroll10=10 VScroll11=60 VScroll12=200");
+    Click(dialog, ("Command" + std::to_string(button)).c_str());
+    colors += State(dialog, "Label11").substr(8) + State(dialog, "Picture3").substr(9) + ' ';
+  }
+  EXPECT_EQ(colors,
+            "#F5C337#f5c337 #5A5A5A#5a5a5a #4080C0#4080c0 #0936B4#0936b4 #0B42DC#0b42dc #3CC80A#3cc80a "
+            "#0032BE#0032be #4173FF#4173ff #3062EE#3062ee ");
 }
 
 struct Document : testing::Test {
@@ -263,9 +260,8 @@ TEST_F(AnalyticTest, AnalysesItsSourceOnDemand) {
 }
 
 TEST_F(AnalyticTest, RefreshesWithoutDisturbing) {
-  Work(dialog, "Check3! List1=1");
+  Work(dialog, "Check3! List1=1 Text1:");
   list->verticalScrollBar()->setValue(100);
-  Named(dialog, "Text1")->setFocus();
   document.SetText("bbccca");
   ASSERT_TRUE(QTest::qWaitFor([&] { return list->item(0)->text().contains(QStringLiteral("099")); }, 3000));
   EXPECT_EQ(Selected(), "097");
