@@ -147,6 +147,7 @@ TEST(WriteFile, LeavesWhatPlainWritingLeavesWhateverTheFileAndTheFolderAre) {
     const How how{static_cast<How>(random.Below(4))};
     const std::string &name = names[one_of({0, 1}) * random.Below(std::size(names))],
                       &bytes = contents[random.Below(random.Below(9) > 0 ? 3 : 5)];
+    const bool to_file = how != How::kCreate && (name == "file" || name == "link" || name == "to link");
     chmod(keep.Put("source", bytes).c_str(), 0644);
     std::string left[2];
     for (const bool plain : {false, true}) {
@@ -160,8 +161,10 @@ TEST(WriteFile, LeavesWhatPlainWritingLeavesWhateverTheFileAndTheFolderAre) {
       }
       if (two_names) fs::create_hard_link(file, folder.File("second name"));
       ASSERT_EQ(chown(file.c_str(), owner, owning), 0);
-      // Plain writing leaves set-id bits to root, and where there is nothing to write or the group can't execute.
-      ASSERT_EQ(chmod(file.c_str(), writer == 0 || extended == 2 || bytes.empty() ? mode & 0777 : mode), 0);
+      // Set-id bits go, which plain writing leaves to root, and where it has nothing to write or the group can't
+      // execute.
+      const bool keeps = extended == 2 || bytes.empty() || (writer == 0 && (plain || !to_file));
+      ASSERT_EQ(chmod(file.c_str(), keeps ? mode & 0777 : mode), 0);
       if (extended == 1) SetExtended(file, kNote, "from: me");
       if (extended == 2) SetExtended(file, kAccessList, kSharedList);
       if (extended == 3) SetExtended(folder.Path(), "system.posix_acl_default", kSharedList);
@@ -171,9 +174,7 @@ TEST(WriteFile, LeavesWhatPlainWritingLeavesWhateverTheFileAndTheFolderAre) {
       const WriteOutcome outcome = (plain ? WritePlainly : Write)(folder.File(name), bytes, how, keep);
       ASSERT_EQ(seteuid(user), 0);
       left[plain] = "error " + std::to_string(outcome.error) + outcome.kept + keep.Holds() + ' ' + folder.Holds(true);
-      if (plain || outcome.error != 0 || how == How::kCreate ||
-          !(name == "file" || name == "link" || name == "to link"))
-        continue;
+      if (plain || outcome.error != 0 || !to_file) continue;
       const bool own = writer == 0 || (owner == writer && owning == group);
       const bool beside = own && !two_names && (writer == 0 || (folder_mode & 0222) != 0);
       EXPECT_EQ(StampOf(file)->node != node, beside) << round;

@@ -5,6 +5,7 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QtWidgets>
+#include <cmath>
 
 #include "platform/qt/clipboard_text.h"
 #include "platform/qt/controls/text_box_accessible.h"
@@ -44,9 +45,10 @@ struct TextBoxTest : testing::Test {
     return text;
   }
   void SetRows(int count) const { box->SetText(QByteArray(300, 'x').append("\r\n").repeated(count)); }
-  // Just right of the left border, so that the caret goes before the character.
-  [[nodiscard]] QPoint At(std::size_t pos) const {
-    return {box->CharRect(pos).left() + 1, box->CharRect(pos).center().y()};
+  // Just right of the left border, so that the caret goes before the character, or that far into it.
+  [[nodiscard]] QPoint At(double place) const {
+    const QRect cell = box->CharRect(static_cast<std::size_t>(place));
+    return {cell.left() + 1 + static_cast<int>(std::fmod(place, 1) * cell.width()), cell.center().y()};
   }
   [[nodiscard]] bool CaretInSight() const { return box->viewport()->rect().contains(box->CaretRect()); }
   // Words: "Ctrl+A" are keys; "'x" is a typed letter, "Alt+'x" one with that key; "click@4" the mouse before a
@@ -58,7 +60,7 @@ struct TextBoxTest : testing::Test {
     const QStringList actions = QStringLiteral("press release click double move").split(u' ');
     for (const QString& step : QString::fromUtf8(steps).split(u' ')) {
       const QStringList mouse = step.split(u'@'), letter = step.split(u'\''), set = step.split(u'=');
-      const QPoint place = At(mouse.last().toUInt());
+      const QPoint place = At(mouse.last().toDouble());
       if (step.startsWith(u'~')) {
         const QStringList parts = step.mid(1).split(u'/') + QStringList(3);
         QInputMethodEvent event(parts[0], {});
