@@ -177,7 +177,7 @@ TEST_F(FileBrowserTest, FoldersLeadFilesAndBothFollowThePersonTheProgramAndTheDi
     const std::size_t arrow = line.find(" -> ");
     told.clear();
     Do(line.substr(0, arrow).c_str());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return State() == line.substr(arrow + 4); }, 3000))
+    EXPECT_TRUE(QTest::qWaitFor([&] { return State() == line.substr(arrow + 4); }, 5000))
         << line << ", not " << State();
   }
   QTest::mouseClick(files.viewport(), Qt::LeftButton, {}, QPoint(50, 390));  // below the last row

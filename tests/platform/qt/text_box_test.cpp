@@ -264,7 +264,7 @@ TEST_F(TextBoxTest, ShowsABufferThatOthersChangeToo) {
 TEST_F(TextBoxTest, ScrollsByTheWheelTheFingerAndTheMouse) {
   QWidget* const area = box->viewport();
   QScrollBar& down = *box->verticalScrollBar();
-  SetRows(200);
+  SetRows(60);
   EXPECT_TRUE(RollWheel(*area, {}, {0, -120}));
   const int rows = QApplication::wheelScrollLines() * down.singleStep();
   EXPECT_EQ(down.value(), rows);
