@@ -161,18 +161,19 @@ TEST(WriteFile, LeavesWhatPlainWritingLeavesWhateverTheFileAndTheFolderAre) {
       }
       if (two_names) fs::create_hard_link(file, folder.File("second name"));
       ASSERT_EQ(chown(file.c_str(), owner, owning), 0);
+      if (extended == 1) SetExtended(file, kNote, "from: me");
+      if (extended == 2) SetExtended(file, kAccessList, kSharedList);
+      if (extended == 3) SetExtended(folder.Path(), "system.posix_acl_default", kSharedList);
       // Set-id bits go, which plain writing leaves to root, and where it has nothing to write or the group can't
       // execute.
       const bool keeps = extended == 2 || bytes.empty() || (writer == 0 && (plain || !to_file));
       ASSERT_EQ(chmod(file.c_str(), keeps ? mode & 0777 : mode), 0);
-      if (extended == 1) SetExtended(file, kNote, "from: me");
-      if (extended == 2) SetExtended(file, kAccessList, kSharedList);
-      if (extended == 3) SetExtended(folder.Path(), "system.posix_acl_default", kSharedList);
       chmod(folder.Path().c_str(), folder_mode);
       const auto node = StampOf(file)->node;
       ASSERT_EQ(seteuid(writer), 0);
       const WriteOutcome outcome = (plain ? WritePlainly : Write)(folder.File(name), bytes, how, keep);
       ASSERT_EQ(seteuid(user), 0);
+      chmod(folder.Path().c_str(), 0777);
       left[plain] = "error " + std::to_string(outcome.error) + outcome.kept + keep.Holds() + ' ' + folder.Holds(true);
       if (plain || outcome.error != 0 || !to_file) continue;
       const bool own = writer == 0 || (owner == writer && owning == group);

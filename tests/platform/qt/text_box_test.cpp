@@ -261,7 +261,7 @@ TEST_F(TextBoxTest, ShowsABufferThatOthersChangeToo) {
   buffer.SetText("alone");
 }
 
-TEST_F(TextBoxTest, ScrollsByTheWheelTheFingerAndTheMouse) {
+TEST_F(TextBoxTest, ScrollsByTheWheelTheMouseAndTheFinger) {
   QWidget* const area = box->viewport();
   QScrollBar& down = *box->verticalScrollBar();
   SetRows(60);
@@ -273,18 +273,19 @@ TEST_F(TextBoxTest, ScrollsByTheWheelTheFingerAndTheMouse) {
   EXPECT_FALSE(RollWheel(*area, {}, {0, -120}, Qt::ControlModifier));  // a window may zoom
   down.setValue(0);
 
+  Do("press@0");
+  QTest::mouseMove(area, QPoint(10, area->height() + 500));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return State().ends_with('|'); }));
+  Do("release@0");
+  EXPECT_EQ(down.value(), down.maximum());
+
+  Do("Ctrl+Home");
   QPointingDevice* screen = QTest::createTouchDevice();
   QTest::touchEvent(area, screen).press(0, QPoint(50, 250), area);
   for (int y = 240; y > 40; y -= 10) QTest::touchEvent(area, screen).move(0, QPoint(50, y), area);
   QTest::touchEvent(area, screen).release(0, QPoint(50, 40), area);
   EXPECT_TRUE(QTest::qWaitFor([&] { return down.value() > 0; }));
   EXPECT_EQ(State().front(), '|');
-
-  Do("press@0");
-  QTest::mouseMove(area, QPoint(10, area->height() + 500));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return State().ends_with('|'); }));
-  Do("release@0");
-  EXPECT_EQ(down.value(), down.maximum());
 }
 
 TEST_F(TextBoxTest, LeavesTheMenuToTheWindowThatAsksForIt) {
