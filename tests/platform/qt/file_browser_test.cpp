@@ -138,7 +138,9 @@ struct FileBrowserTest : testing::Test {
         ASSERT_EQ(found.size(), 1) << steps;
         const QPoint at = list->visualRect(found.first()).center();
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, at);
-        if (step[1] == u'!') QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, at);
+        if (step[1] == u'@') continue;
+        QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, at);
+        QTest::mouseRelease(list->viewport(), Qt::LeftButton, {}, at);
       } else if (what == QStringLiteral("file")) {
         files.setProperty("FileName", value);
       } else if (what == QStringLiteral("mask")) {
