@@ -180,6 +180,7 @@ TEST(AddBookmark, UpdatesTheEntryOfTheFileLeavesEverythingElseAsItIsAndRefusesWh
   QByteArray list = version("\\1");
   for (const char* path : {"/mů/0", "/mů/1", "/mů/2", "/mů/3", "/mů/4", "/mů/5", "/mů/nový"}) list = Add(list, path);
   EXPECT_EQ(list.toStdString(), version("\\2").toStdString());
+  EXPECT_TRUE(Add({}, "/a").startsWith(list.left(list.indexOf("\n  <!--"))));
   // Under another prefix and behind a document type. Readable again only if the prefixes of new elements are declared.
   const QByteArray other =
       R"(<!DOCTYPE xbel><xbel xmlns:b="http://www.freedesktop.org/standards/desktop-bookmarks">

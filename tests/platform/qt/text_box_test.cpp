@@ -230,10 +230,10 @@ TEST_F(TextBoxTest, CaretStaysInSightWhereItShall) {
     EXPECT_EQ(HasInk(image, box->CaretRect()), stays);
     EXPECT_NE(image.pixelColor(box->CaretRect().center()), QColor(Qt::black));  // the full one is of the active window
   }
-  box->SetText("i\r\ni");
+  box->SetText("i\r\n\r\ni");
   Do("Ctrl+A");
-  const QRect line_break = box->CharRect(1).translated(1, 0);  // selected ones show as a blank
-  EXPECT_TRUE(HasInk(box->viewport()->grab().toImage(), line_break));
+  for (const std::size_t line_break : {1, 3})  // selected ones show as a blank
+    EXPECT_TRUE(HasInk(box->viewport()->grab().toImage(), box->CharRect(line_break).translated(1, 0)));
 }
 
 TEST_F(TextBoxTest, ShowsABufferThatOthersChangeToo) {
@@ -288,12 +288,16 @@ TEST_F(TextBoxTest, ScrollsByTheWheelTheMouseAndTheFinger) {
   EXPECT_EQ(State().front(), '|');
 }
 
-TEST_F(TextBoxTest, LeavesTheMenuToTheWindowThatAsksForIt) {
+TEST_F(TextBoxTest, LeavesTheMenuToTheWindowThatAsksForItAndOffersToPasteOthersText) {
   const QSignalSpy asked(box, &QWidget::customContextMenuRequested);
   box->setContextMenuPolicy(Qt::CustomContextMenu);
   Do("Shift+F10");
   EXPECT_EQ(asked.count(), 1);
   EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+  box->setContextMenuPolicy(Qt::DefaultContextMenu);
+  QGuiApplication::clipboard()->setText(QStringLiteral("theirs"));
+  Do("Shift+F10");
+  EXPECT_NE(State().find("|Vlo\x9Eit"), std::string::npos);
 }
 
 TEST(MoveSelection, EqualsCutAndPasteAndIsUndoneInOneStep) {
