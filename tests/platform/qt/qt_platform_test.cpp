@@ -170,7 +170,7 @@ QByteArray Add(const QByteArray& list, const char* path) {
   return AddBookmark(list, QString::fromUtf8(path), QStringLiteral("text/plain"), now);
 }
 
-TEST(AddBookmark, UpdatesTheEntryOfTheFileAndLeavesEverythingElseAsItIs) {
+TEST(AddBookmark, UpdatesTheEntryOfTheFileLeavesEverythingElseAsItIsAndRefusesWhatIsNoList) {
   const QString text = Utf8ToQString(Content(QT_TESTCASE_SOURCEDIR "/platform/qt/recently_used.txt"));
   // {x|y} stands for x before the files are noted and for y behind it.
   const auto version = [&](const char* which) {
@@ -178,8 +178,9 @@ TEST(AddBookmark, UpdatesTheEntryOfTheFileAndLeavesEverythingElseAsItIs) {
     return QString(text).replace(choice, QString::fromLatin1(which)).toUtf8();
   };
   QByteArray list = version("\\1");
-  for (const char* path : {"/mů/0", "/mů/1", "/mů/2", "/mů/3", "/mů/4", "/mů/nový"}) list = Add(list, path);
+  for (const char* path : {"/mů/0", "/mů/1", "/mů/2", "/mů/3", "/mů/4", "/mů/5", "/mů/nový"}) list = Add(list, path);
   EXPECT_EQ(list.toStdString(), version("\\2").toStdString());
+  EXPECT_TRUE(Add({}, "/a").startsWith(list.left(list.indexOf("\n  <!--"))));
   // Under another prefix and behind a document type. Readable again only if the prefixes of new elements are declared.
   const QByteArray other =
       R"(<!DOCTYPE xbel><xbel xmlns:b="http://www.freedesktop.org/standards/desktop-bookmarks">
@@ -188,14 +189,11 @@ TEST(AddBookmark, UpdatesTheEntryOfTheFileAndLeavesEverythingElseAsItIs) {
   EXPECT_TRUE(Add(other, "/a").contains(R"(<b:application name="Pelmar VEX" count="2" )"));
   for (const QByteArray& start : {other, QByteArray()})
     EXPECT_TRUE(Add(Add(start, "/b"), "/b").contains(R"(count="2")"));
-}
-
-TEST(AddBookmark, RefusesWhatIsNoList) {
-  for (const QByteArray& list :
+  for (const QByteArray& none :
        {QByteArray(" "), QByteArray("<xbel>"), QByteArray("<xbel></xbel><xbel/>"), QByteArray("<html></html>"),
         QByteArray("<xbel><a></b></xbel>"), QByteArray("<xbel><undeclared:a/></xbel>"),
         QByteArray("<xbel>\0</xbel>", 14), QByteArray("<xbel>\xFF</xbel>")})
-    EXPECT_EQ(Add(list, "/a"), "") << list.toStdString();
+    EXPECT_EQ(Add(none, "/a"), "") << none.toStdString();
 }
 
 TEST(RecentDocuments, AreAllNotedInOrderWhenTheProgramEnds) {

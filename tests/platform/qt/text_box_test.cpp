@@ -5,6 +5,7 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QtWidgets>
+#include <cmath>
 
 #include "platform/qt/clipboard_text.h"
 #include "platform/qt/controls/text_box_accessible.h"
@@ -44,9 +45,10 @@ struct TextBoxTest : testing::Test {
     return text;
   }
   void SetRows(int count) const { box->SetText(QByteArray(300, 'x').append("\r\n").repeated(count)); }
-  // Just right of the left border, so that the caret goes before the character.
-  [[nodiscard]] QPoint At(std::size_t pos) const {
-    return {box->CharRect(pos).left() + 1, box->CharRect(pos).center().y()};
+  // Just right of the left border, so that the caret goes before the character, or that far into it.
+  [[nodiscard]] QPoint At(double place) const {
+    const QRect cell = box->CharRect(static_cast<std::size_t>(place));
+    return {cell.left() + 1 + static_cast<int>(std::fmod(place, 1) * cell.width()), cell.center().y()};
   }
   [[nodiscard]] bool CaretInSight() const { return box->viewport()->rect().contains(box->CaretRect()); }
   // Words: "Ctrl+A" are keys; "'x" is a typed letter, "Alt+'x" one with that key; "click@4" the mouse before a
@@ -58,7 +60,7 @@ struct TextBoxTest : testing::Test {
     const QStringList actions = QStringLiteral("press release click double move").split(u' ');
     for (const QString& step : QString::fromUtf8(steps).split(u' ')) {
       const QStringList mouse = step.split(u'@'), letter = step.split(u'\''), set = step.split(u'=');
-      const QPoint place = At(mouse.last().toUInt());
+      const QPoint place = At(mouse.last().toDouble());
       if (step.startsWith(u'~')) {
         const QStringList parts = step.mid(1).split(u'/') + QStringList(3);
         QInputMethodEvent event(parts[0], {});
@@ -228,10 +230,10 @@ TEST_F(TextBoxTest, CaretStaysInSightWhereItShall) {
     EXPECT_EQ(HasInk(image, box->CaretRect()), stays);
     EXPECT_NE(image.pixelColor(box->CaretRect().center()), QColor(Qt::black));  // the full one is of the active window
   }
-  box->SetText("i\r\ni");
+  box->SetText("i\r\n\r\ni");
   Do("Ctrl+A");
-  const QRect line_break = box->CharRect(1).translated(1, 0);  // selected ones show as a blank
-  EXPECT_TRUE(HasInk(box->viewport()->grab().toImage(), line_break));
+  for (const std::size_t line_break : {1, 3})  // selected ones show as a blank
+    EXPECT_TRUE(HasInk(box->viewport()->grab().toImage(), box->CharRect(line_break).translated(1, 0)));
 }
 
 TEST_F(TextBoxTest, ShowsABufferThatOthersChangeToo) {
@@ -259,10 +261,10 @@ TEST_F(TextBoxTest, ShowsABufferThatOthersChangeToo) {
   buffer.SetText("alone");
 }
 
-TEST_F(TextBoxTest, ScrollsByTheWheelTheFingerAndTheMouse) {
+TEST_F(TextBoxTest, ScrollsByTheWheelTheMouseAndTheFinger) {
   QWidget* const area = box->viewport();
   QScrollBar& down = *box->verticalScrollBar();
-  SetRows(200);
+  SetRows(60);
   EXPECT_TRUE(RollWheel(*area, {}, {0, -120}));
   const int rows = QApplication::wheelScrollLines() * down.singleStep();
   EXPECT_EQ(down.value(), rows);
@@ -271,26 +273,31 @@ TEST_F(TextBoxTest, ScrollsByTheWheelTheFingerAndTheMouse) {
   EXPECT_FALSE(RollWheel(*area, {}, {0, -120}, Qt::ControlModifier));  // a window may zoom
   down.setValue(0);
 
+  Do("press@0");
+  QTest::mouseMove(area, QPoint(10, area->height() + 500));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return State().ends_with('|'); }));
+  Do("release@0");
+  EXPECT_EQ(down.value(), down.maximum());
+
+  Do("Ctrl+Home");
   QPointingDevice* screen = QTest::createTouchDevice();
   QTest::touchEvent(area, screen).press(0, QPoint(50, 250), area);
   for (int y = 240; y > 40; y -= 10) QTest::touchEvent(area, screen).move(0, QPoint(50, y), area);
   QTest::touchEvent(area, screen).release(0, QPoint(50, 40), area);
   EXPECT_TRUE(QTest::qWaitFor([&] { return down.value() > 0; }));
   EXPECT_EQ(State().front(), '|');
-
-  Do("press@0");
-  QTest::mouseMove(area, QPoint(10, area->height() + 500));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return State().ends_with('|'); }));
-  Do("release@0");
-  EXPECT_EQ(down.value(), down.maximum());
 }
 
-TEST_F(TextBoxTest, LeavesTheMenuToTheWindowThatAsksForIt) {
+TEST_F(TextBoxTest, LeavesTheMenuToTheWindowThatAsksForItAndOffersToPasteOthersText) {
   const QSignalSpy asked(box, &QWidget::customContextMenuRequested);
   box->setContextMenuPolicy(Qt::CustomContextMenu);
   Do("Shift+F10");
   EXPECT_EQ(asked.count(), 1);
   EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+  box->setContextMenuPolicy(Qt::DefaultContextMenu);
+  QGuiApplication::clipboard()->setText(QStringLiteral("theirs"));
+  Do("Shift+F10");
+  EXPECT_NE(State().find("|Vlo\x9Eit"), std::string::npos);
 }
 
 TEST(MoveSelection, EqualsCutAndPasteAndIsUndoneInOneStep) {
