@@ -9,7 +9,7 @@ import pathlib
 import sys
 
 WANTED = 34  # percent
-LIMIT = 52  # on the way there: it only ever goes down
+LIMIT = 36  # on the way there: it only ever goes down
 CODE = {".h", ".cpp"}
 TESTS = CODE | {".py", ".sh"}
 

@@ -177,7 +177,9 @@ TEST(CheckSums, AreToldInFourLines) {
       {"ABC", "C6 (198)", "3 (3)", "40 (64)", "0 (0)"},       // the last has no partner
       {"ABCDE", "14F (335)", "A (10)", "80 (128)", "0 (0)"},  // nor a four
       {"ACBD", "10A (266)", "8 (8)", "81 (129)", "1 (1)"},
-      {"\xFF\xFF\x0F\x0F", "21C (540)", "0 (0)", "10E (270)", "F0 (240)"},
+      {"\xFF\xFF\x0F\x0F"
+       "ACBDx",
+       "39E (926)", "8 (8)", "18F (399)", "F1 (241)"},
   };
   for (const auto& c : cases) {
     ScriptedPlatform platform;
