@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDialog>
 #include <QMenu>
 #include <QMimeData>
 #include <QTest>
@@ -301,9 +302,13 @@ TEST_F(MainWindowTest, DroppedFilesAreOpenedAfterAQuestionAsFarAsThereAreTabs) {
     platform.answers = answers;
     QMimeData mime;
     mime.setUrls(urls);
-    QDragEnterEvent enter(QPoint(50, 50), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&window, &enter);
-    EXPECT_TRUE(enter.isAccepted());
+    for (const bool barred : {true, false}) {  // by a dialog or the lock
+      QDialog modal;
+      if (barred) modal.setModal(true), modal.show();
+      QDragEnterEvent enter(QPoint(50, 50), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+      QApplication::sendEvent(&window, &enter);
+      EXPECT_NE(enter.isAccepted(), barred);
+    }
     QDropEvent dropped(QPointF(50, 50), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&window, &dropped);
     EXPECT_EQ(platform.answers, answers);  // not while the other program waits for the drop
