@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QTest>
-#include <cerrno>
 
 #include "accessories/windows/prev.h"
 #include "program/program.h"
@@ -36,9 +35,10 @@ struct RescueKeeperTest : testing::Test {
 
 TEST_F(RescueKeeperTest, KeepsAChangeWithinTwoSecondsAndTheBarSaysForAsLongAsItCant) {
   Program program(platform);
+  MainWindow& window = program.Main();
   program.Run("-NOMSG");
-  const auto* warning = program.Main().Bar().findChild<QLabel*>(QStringLiteral("Warning"));
-  const auto type = [&](const char* more) { program.Main().Text().Buffer().Type(more); };
+  const auto* warning = window.Bar().findChild<QLabel*>(QStringLiteral("Warning"));
+  const auto type = [&](const char* more) { window.Text().Buffer().Type(more); };
   type("a");
   ASSERT_TRUE(QTest::qWaitFor([&] { return !platform.calls.empty(); }, 2000));
   const std::string own = platform.calls.back().substr(6);
@@ -51,8 +51,10 @@ TEST_F(RescueKeeperTest, KeepsAChangeWithinTwoSecondsAndTheBarSaysForAsLongAsItC
   platform.write_errors.clear();
   ASSERT_TRUE(QTest::qWaitFor([&] { return !warning->isVisible(); }, 2500));
   EXPECT_EQ(Kept(own), "Soubor:\r\nab\r\n\r\n");
-  platform.answers = {Answer::kYes, Answer::kYes};
-  program.Main().close();
+  platform.answers = {Answer::kNo, Answer::kYes};
+  window.close();
+  EXPECT_TRUE(window.isVisible());
+  window.close();
   EXPECT_TRUE(FolderIsEmpty());
   EXPECT_EQ(QApplication::exec(), EXIT_SUCCESS);  // which the close has ended
 }

@@ -8,6 +8,7 @@
 #include "program/program.h"
 #include "shell/windows/config.h"
 #include "shell/windows/customize_toolbar.h"
+#include "shell/windows/hlp.h"
 #include "shell/windows/o.h"
 #include "shell/windows/pass.h"
 #include "shell/windows/start.h"
@@ -23,18 +24,17 @@
 namespace pelmar {
 namespace {
 
-// The small windows of the editor, as the program puts them together.
+// The main window and the small ones, as the program puts them together.
 struct SmallWindows : testing::Test {
   ScriptedPlatform platform;
   Program program{platform};
   MainWindow& main = program.Main();
+  // In the order of the file.
+  const SettingsRecord stored{12000, 9000,  1500,     3000,  true, "DejaVu Sans Mono", 0x030201, 0xFCFBFA, 14,  true,
+                              false, "Jan", "j@x.cz", false, 240,  "tajn\xE9",         {},       0,        true};
   std::string& settings = platform.files["/install/pelmar.ini"];
 
   SmallWindows() {
-    SettingsRecord stored;
-    stored.UserName = "Jan";
-    stored.UserEmail = "j@x.cz";
-    stored.LockPassword = "tajné"_w;
     settings = SettingsBytes(stored);
     program.Run("-NOMSG");
   }
@@ -46,6 +46,28 @@ struct SmallWindows : testing::Test {
     QTest::keyClick(field != nullptr ? Named(window, field) : &window, key);
   }
 };
+
+TEST_F(SmallWindows, AStartAndACloseLeaveTheSettingsAsTheyWere) {
+  QApplication::processEvents();
+  std::string marks;
+  for (const char* item : {"mnu08", "mnu14", "mnuEditBold", "mnuitalic"})
+    marks += main.Menus().Action(item)->isChecked() ? '+' : '-';
+  EXPECT_EQ(marks, "-++-");
+  for (const bool on_top : {false, true}) {
+    Work(main, "MnuAllTop!");
+    EXPECT_EQ(main.windowHandle()->flags().testFlag(Qt::WindowStaysOnTopHint), on_top);
+    // required: after a start with the flag set, the mark says the opposite
+    EXPECT_EQ(main.Menus().Action("MnuAllTop")->isChecked(), !on_top);
+  }
+  main.close();
+  EXPECT_EQ(QApplication::exec(), EXIT_SUCCESS);
+  EXPECT_TRUE(ReadSettings(settings) == stored);
+  for (const int alignment : {0, 1, 2}) {
+    main.SetAlignment(alignment);
+    EXPECT_EQ(main.Alignment(), alignment);
+  }
+  EXPECT_EQ(main.Text().Alignment(), Qt::AlignHCenter);
+}
 
 TEST_F(SmallWindows, TheWelcomeLeadsToTheEditorHoweverItIsLeft) {
   auto& start = The<Start>();
@@ -75,19 +97,24 @@ TEST_F(SmallWindows, TheWelcomeLeadsToTheEditorHoweverItIsLeft) {
 // A window at the centre again is one that was made anew, which reads anew too.
 TEST_F(SmallWindows, ThoseThatBeginAnewStandAtTheCentreAgain) {
   main.hide();
-  platform.files["/install/pelmar.txt"] = "at first";
+  platform.answers = {Answer::kOk};
+  The<Hlp>();
+  EXPECT_EQ(
+      platform.TakeTold(),
+      "message 0 \"Chyba helpového systému - pelmar.txt: soubor nebo složka neexistuje\" \"Help k Pelmar VEX\"; ");
+  platform.files["/share/pelmar.txt"] = "package";
   const auto open = [&](const char* item) {
     main.findChild<QAction*>(QLatin1String(item))->trigger();
     const QWidgetList windows = QApplication::topLevelWidgets();
     return *std::ranges::find_if(windows, &QWidget::isVisible);
   };
-  for (const char* item : {"mnumore", "mnupresnvyb", "mnuhlp"}) {
+  for (const char* item : {"mnuhlp", "mnumore", "mnupresnvyb"}) {
     QWidget* window = open(item);
     EXPECT_EQ(open(item), window);  // on show it stays as it is
     const QPoint centre = window->pos();
     window->move(1, 1);
     window->close();
-    platform.files["/install/pelmar.txt"] = "there now";
+    platform.files["/install/pelmar.txt"] = "the person's own now";  // comes first
     window = open(item);
     EXPECT_EQ(window->pos(), centre) << item;
     window->close();
@@ -149,7 +176,7 @@ TEST_F(SmallWindows, ConfigStoresWhatIsValidAndEscapePressesOk) {
   } refused[] = {{"Text1= Text2= Check1! Text3=a Text4=A", "Vyplňte prosím své jméno.", "Text1"},
                  {"Text1=Jiří", "Vyplňte prosím E-m@il.", "Text2"},
                  {"Text2=j@x.cz", "Zkontrolujete zprávnot zadaného hesla.", "Text3"}};
-  const auto stored = [this] {
+  const auto profile = [this] {
     const SettingsRecord written = ReadSettings(std::exchange(settings, {}));
     return written.UserName + ' ' + written.UserEmail + ' ' + written.LockPassword;
   };
@@ -165,14 +192,14 @@ TEST_F(SmallWindows, ConfigStoresWhatIsValidAndEscapePressesOk) {
     Key(config, Qt::Key_Escape);
   });
   config.Run();
-  EXPECT_EQ(stored(), "Jiří j@x.cz a"_w);
+  EXPECT_EQ(profile(), "Jiří j@x.cz a"_w);
   // required: the password goes in without the check mark and without a comparison
   Inside([&] { Work(config, "Text3=b Command1!"); });
   config.Run();
-  EXPECT_EQ(stored(), "Jiří j@x.cz b"_w);
+  EXPECT_EQ(profile(), "Jiří j@x.cz b"_w);
   Inside([&] { config.close(); });  // the system's close stores nothing
   config.Run();
-  EXPECT_EQ(stored(), "  ");
+  EXPECT_EQ(profile(), "  ");
 }
 
 // Everything that a screen reader can get out of an object and what lies below it.
@@ -197,11 +224,11 @@ struct LockTest : SmallWindows {
   }
   // What can be seen or heard of the secret.
   std::string Told() {
-    QWidgetList windows = QApplication::topLevelWidgets();
-    windows.removeIf([](const QWidget* window) { return !window->isVisible(); });
-    return (Heard().contains(QStringLiteral("secret")) ? "heard, " : "") + std::to_string(windows.size()) +
-           " windows, text " + (main.Text().isVisible() ? "on" : "off") + ": " + main.Text().Text().toStdString() +
-           ", " + State(main, "Panel1 Panel4");
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    return (Heard().contains(QStringLiteral("secret")) ? "heard, " : "") +
+           std::to_string(std::ranges::count_if(windows, &QWidget::isVisible)) + " windows, text " +
+           (main.Text().isVisible() ? "on" : "off") + ": " + main.Text().Text().toStdString() + ", " +
+           State(main, "Panel1 Panel4");
   }
   // Closes the lock, acts, and opens it.
   void WhileLocked(std::function<void()> act) {
@@ -230,7 +257,7 @@ TEST_F(LockTest, NothingIsSeenOrHeardAndAllComesBack) {
   QTest::qWait(600);
   EXPECT_EQ(Told(), "heard, 4 windows, text on: the secret text, Panel1=Znaky Výběru : 6 Panel4=Výběr : secret");
   EXPECT_LE((look.pos() - QPoint(40, 50)).manhattanLength(), 4);  // the test's platform moves it by its frame
-  EXPECT_EQ(State(look, "Check2"), "Check2=1");
+  EXPECT_EQ(State(look, "Check2"), "Check2=0");
 }
 
 TEST_F(LockTest, NothingReachesTheText) {
