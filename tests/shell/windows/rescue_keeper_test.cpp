@@ -164,6 +164,9 @@ TEST_F(RescueKeeperTest, AnOldFileGoesOnlyWhenItsTextIsSafe) {
     platform.read_errors.clear();
     EXPECT_EQ(QTest::qWaitFor([&] { return !there(); }, asked ? 2500 : 0), asked);
     EXPECT_EQ(Kept(own), back ? kReadable : "");
+    EXPECT_EQ(std::exchange(platform.files[rest], ""), asked && !back ? kReadable : "");
+    keeper.KeepNow();
+    EXPECT_EQ(platform.files[rest], "");  // a rest that the person has taken away doesn't come again
   }
 }
 
