@@ -2,15 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <cerrno>
-#include <functional>
-
 #include "platform/runtime_error.h"
-#include "platform/twips.h"
 #include "support/plain_view.h"
 #include "support/scripted_platform.h"
 #include "support/whole_editor.h"
-#include "text/codepage.h"
 
 namespace pelmar {
 namespace {
@@ -39,9 +34,8 @@ struct Desk {
     session.Start(tail);
     std::string told;
     for (const std::string& call : view.calls) told += call + ", ";
-    told += editor.documents.Title() + ", " + view.look.font_name;
+    told += editor.documents.Title() + ", " + Told(view.look);
     for (const int part : {view.place.left, view.place.top, view.place.width, view.place.height, view.state,
-                           static_cast<int>(view.look.font_size), view.look.fore_color, view.look.back_color,
                            editor.settings.AutosnapDistance})
       told += ' ' + std::to_string(part);
     return told;
@@ -62,7 +56,7 @@ TEST_F(SessionTest, AFirstStartRunsTheStepsInOrder) {
   };
   EXPECT_EQ(Start(""),
             "colors, recent, place, state, font, colors, size, bold, no bold mark, italic, no italic mark, config, "
-            "not top, main, Pelmar VEX (), Courier New 0 0 0 0 1 8 0 16777215 240");
+            "not top, main, Pelmar VEX (), Courier New 8 #000000 #FFFFFF 0 0 0 0 1 240");
   EXPECT_EQ(platform.calls, std::vector<std::string>{std::string("write ") + kSettings});
   const SettingsRecord stored = ReadSettings(platform.files[kSettings]);
   EXPECT_EQ(stored.UserName + std::to_string(stored.WindowState), "Eva0");  // all but the window's state
@@ -78,8 +72,7 @@ TEST_F(SessionTest, SettingsAreAppliedAndRepaired) {
   platform.files[kSettings] = SettingsBytes(r);
   EXPECT_EQ(Start("-nomsg"),
             "colors, recent, place, state, font, colors, size, bold, bold mark, italic, italic mark, top, main, "
-            "Pelmar VEX (), Font 150 300 9000 6000 0 8 0 16777215 100");
-  EXPECT_TRUE(view.look.bold && view.look.italic);
+            "Pelmar VEX (), Font 8 bold italic #000000 #FFFFFF 150 300 9000 6000 0 100");
   for (const auto& [size, expected] : {std::pair{10, 10}, {24, 24}, {0, 8}, {25, 8}})
     EXPECT_EQ((view.SetEditorFontSize(size), view.look.font_size), expected);
 }

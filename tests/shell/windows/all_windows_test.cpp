@@ -2,19 +2,13 @@
 // whole captions, nothing over anything else, and the tabulator key reaching each control.
 #include <gtest/gtest.h>
 
-#include <QAbstractButton>
 #include <QAccessible>
-#include <QApplication>
-#include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
-#include <QScrollBar>
 #include <QTabBar>
 #include <QTest>
 #include <limits>
-#include <map>
 
 #include "platform/qt/controls/dialog_window.h"
 #include "program/program.h"
@@ -48,14 +42,11 @@ QList<QWidget*> Widgets(const QWidget& window) {
 
 void ExpectWholeCaptions(const QWidget& window) {
   for (const QWidget* widget : Widgets(window)) {
-    const auto* label = qobject_cast<const QLabel*>(widget);
-    if (label != nullptr && !label->wordWrap() && !label->text().isEmpty() && !Is(label, {"pelmar::ElidedLabel"})) {
-      const QSize room = label->size() + QSize(0, 1);
-      EXPECT_EQ(label->sizeHint().boundedTo(room), label->sizeHint()) << Named(label) << " is cut";
-    }
-    const auto* button = qobject_cast<const QAbstractButton*>(widget);
-    if (button == nullptr || button->text().isEmpty()) continue;
-    EXPECT_LE(button->minimumSizeHint().width(), button->width()) << Named(button) << " is cut";
+    const bool button = Is(widget, {"QAbstractButton"});
+    if (!button && (!Is(widget, {"QLabel"}) || Is(widget, {"pelmar::ElidedLabel"}))) continue;
+    if (widget->property("text").toString().isEmpty() || widget->property("wordWrap").toBool()) continue;
+    const QSize needed = button ? QSize(widget->minimumSizeHint().width(), 0) : widget->sizeHint() - QSize(0, 1);
+    EXPECT_EQ(needed.boundedTo(widget->size()), needed) << Named(widget) << " is cut";
   }
 }
 
@@ -98,25 +89,11 @@ void ExpectGreyTogether(const QWidget* bar) {
   }
 }
 
-// No field cuts what it is given, but for those that are told to.
-void ExpectRoom(const QWidget& window) {
-  static const std::map<std::string, int> limits = {{"Config.Text3", 8}, {"Config.Text4", 8},   {"Pass.Text1", 8},
-                                                    {"ZaKod.Text1", 15}, {"Confeld.Text1", 15}, {"Analytic.Text2", 1}};
-  for (const QLineEdit* field : window.findChildren<QLineEdit*>()) {
-    const auto limit = limits.find(Named(field));
-    EXPECT_EQ(field->maxLength(), limit == limits.end() ? std::numeric_limits<int>::max() : limit->second)
-        << Named(field);
-  }
-}
-
 // The wheel in passing chooses nothing.
 void ExpectTabsStay(const QWidget& window) {
   for (QTabBar* tabs : window.findChildren<QTabBar*>()) {
-    const int before = tabs->currentIndex();
-    for (const int turn : {-120, 240}) {
-      RollWheel(*tabs, {}, {0, turn});
-      EXPECT_EQ(tabs->currentIndex(), before) << Named(tabs);
-    }
+    RollWheel(*tabs, {}, {0, -120});
+    EXPECT_EQ(tabs->currentIndex(), 0) << Named(tabs);
   }
 }
 
@@ -190,9 +167,8 @@ TEST_F(AllWindows, FitASmallScreenWithLargeLetters) {
 
 TEST_F(AllWindows, AreWithinEverybodysReach) {
   Program program(platform);
-  int count = 0;
+  std::string limits;
   program.Windows().ForEach([&](QWidget& window) {
-    ++count;
     Show(window);
     EXPECT_NE(QAccessible::queryAccessibleInterface(&window)->role(), QAccessible::Client) << Named(&window);
     EXPECT_EQ(window.size().boundedTo(kSmallScreen), window.size()) << Named(&window);
@@ -206,7 +182,9 @@ TEST_F(AllWindows, AreWithinEverybodysReach) {
     }
     ExpectWholeCaptions(window);
     ExpectNoOverlap(window);
-    ExpectRoom(window);
+    for (const QLineEdit* field : window.findChildren<QLineEdit*>())
+      if (field->maxLength() != std::numeric_limits<int>::max())
+        limits += Named(field) + ' ' + std::to_string(field->maxLength()) + ", ";
     ExpectTabsStay(window);
     ExpectEnterGoesOn(window);
     const QString name = window.property("cancelButton").toString();
@@ -217,7 +195,9 @@ TEST_F(AllWindows, AreWithinEverybodysReach) {
     }
     window.hide();
   });
-  EXPECT_GE(count, 12);
+  // No other field cuts what it is given.
+  EXPECT_EQ(limits,
+            "Pass.Text1 8, ZaKod.Text1 15, Config.Text3 8, Config.Text4 8, Confeld.Text1 15, Analytic.Text2 1, ");
   ExpectTabsStay(program.Main());
 }
 

@@ -2,46 +2,30 @@
 
 #include <gtest/gtest.h>
 
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
 #include <QTest>
-#include <cerrno>
 
 #include "accessories/windows/prev.h"
-#include "platform/qt/convert.h"
 #include "program/program.h"
 #include "shell/rescued_documents.h"
 #include "support/scripted_platform.h"
 #include "support/steps.h"
+#include "support/temp_folder.h"
 
 namespace pelmar {
 namespace {
 
-constexpr char kDead[] = "rescue-1-1.pelmar";
-const std::string kLost = RescueBytes(kDocumentsRescue, {2, {{2, "/a.txt", "lost"}}});
-
 // The lock files are real, and empty rescue files tell that they are there; their bytes are the scripted platform's.
 struct RescueKeeperTest : testing::Test {
-  QTemporaryDir folder;
+  const TempFolder folder;
   ScriptedPlatform platform;
-  TextBuffer text;
-  Documents documents{text};
 
   RescueKeeperTest() {
-    platform.install_folder = Utf8FromQString(folder.path()) + "/";
+    platform.install_folder = folder.Path() + "/";
     SettingsRecord settings;  // with which the start asks nothing
     settings.UserName = settings.UserEmail = "jan";
-    platform.files[In("pelmar.ini")] = SettingsBytes(settings);
+    platform.files[folder.File("pelmar.ini")] = SettingsBytes(settings);
   }
-  [[nodiscard]] std::string In(std::string_view name) const { return platform.install_folder + std::string(name); }
-  // What a copy that died leaves behind.
-  void Leave(const char* name, const std::string& bytes) {
-    QFile(folder.filePath(QLatin1String(name))).open(QIODevice::WriteOnly);
-    platform.files[In(name)] = bytes;
-  }
-  [[nodiscard]] bool IsThere(const char* name) const { return QFile::exists(folder.filePath(QLatin1String(name))); }
-  [[nodiscard]] bool FolderIsEmpty() const { return QDir(folder.path()).isEmpty(QDir::Files | QDir::Hidden); }
+  [[nodiscard]] bool FolderIsEmpty() const { return std::filesystem::is_empty(folder.Path()); }
   // The texts of a rescue file; nothing where it isn't there.
   [[nodiscard]] std::string Kept(const std::string& path) {
     const auto record = ReadRescue(kDocumentsRescue, platform.files[path]);
@@ -51,9 +35,10 @@ struct RescueKeeperTest : testing::Test {
 
 TEST_F(RescueKeeperTest, KeepsAChangeWithinTwoSecondsAndTheBarSaysForAsLongAsItCant) {
   Program program(platform);
+  MainWindow& window = program.Main();
   program.Run("-NOMSG");
-  const auto* warning = program.Main().Bar().findChild<QLabel*>(QStringLiteral("Warning"));
-  const auto type = [&](const char* more) { program.Main().Text().Buffer().Type(more); };
+  const auto* warning = window.Bar().findChild<QLabel*>(QStringLiteral("Warning"));
+  const auto type = [&](const char* more) { window.Text().Buffer().Type(more); };
   type("a");
   ASSERT_TRUE(QTest::qWaitFor([&] { return !platform.calls.empty(); }, 2000));
   const std::string own = platform.calls.back().substr(6);
@@ -66,8 +51,10 @@ TEST_F(RescueKeeperTest, KeepsAChangeWithinTwoSecondsAndTheBarSaysForAsLongAsItC
   platform.write_errors.clear();
   ASSERT_TRUE(QTest::qWaitFor([&] { return !warning->isVisible(); }, 2500));
   EXPECT_EQ(Kept(own), "Soubor:\r\nab\r\n\r\n");
-  platform.answers = {Answer::kYes, Answer::kYes};
-  program.Main().close();
+  platform.answers = {Answer::kNo, Answer::kYes};
+  window.close();
+  EXPECT_TRUE(window.isVisible());
+  window.close();
   EXPECT_TRUE(FolderIsEmpty());
   EXPECT_EQ(QApplication::exec(), EXIT_SUCCESS);  // which the close has ended
 }
@@ -77,6 +64,8 @@ TEST_F(RescueKeeperTest, TheLastResortIsANewFileOfADrawnName) {
   platform.install_folder = "/nonexistent/";
   platform.draws = {0.5, 0.25};
   platform.files["/tmp/pelmar-rescue-49999999.txt"] = "planted";
+  TextBuffer text;
+  Documents documents(text);
   RescueKeeper keeper(ModifiedDocuments(documents), platform);
   text.SetText("typed");
   EXPECT_EQ(keeper.KeepNow(), "/tmp/pelmar-rescue-24999999.txt");
@@ -112,14 +101,23 @@ TEST_F(RescueKeeperTest, AnErrorThatEndsTheProgramIsToldWithWhatWasKept) {
             "message 0 \"Běhová chyba 5:\r\nChyba\r\n\r\nNeuložené dokumenty jsou zachovány v souboru\r\n" +
                 kept[0].substr(6) +
                 "\r\nPříští start programu je nabídne zpět.\r\n\r\nProgram bude ukončen.\" \"Pelmar VEX\"");
-  platform.read_errors[In("notes.dat")] = EACCES;
-  EXPECT_EQ(told("-NOTE", "").back(), "message 0 \"Běhová chyba 13:\r\nSoubor " + In("notes.dat") +
+  platform.read_errors[folder.File("notes.dat")] = EACCES;
+  EXPECT_EQ(told("-NOTE", "").back(), "message 0 \"Běhová chyba 13:\r\nSoubor " + folder.File("notes.dat") +
                                           " nelze otevřít\r\n\r\nProgram bude ukončen.\" \"Pelmar VEX\"");
 }
 
-// Old files go when their texts are safe elsewhere, not before, and only those whose texts are.
+// Old files go when their texts are safe elsewhere, not before, and only those whose texts are. A text that two files
+// hold is offered once, and torn files stay.
 TEST_F(RescueKeeperTest, AnOldFileGoesOnlyWhenItsTextIsSafe) {
   constexpr char kReadable[] = "Soubor:/a.txt\r\nlost\r\n\r\n";
+  const std::string lost = RescueBytes(kDocumentsRescue, {2, {{2, "/a.txt", "lost"}}});
+  const std::string old = folder.File("rescue-1-1.pelmar"), twin = folder.File("rescue-2-1.pelmar"),
+                    torn = folder.File("rescue-3-1.pelmar"), rest = folder.File("rescued.txt");
+  const auto there = [&] {
+    EXPECT_TRUE(std::filesystem::exists(torn));
+    EXPECT_EQ(std::filesystem::exists(old), std::filesystem::exists(twin));
+    return std::filesystem::exists(old);
+  };
   enum Failing { kNothing, kOwnFile, kRest, kReading };
   const struct {
     std::deque<Answer> answers;  // none: no question comes
@@ -141,43 +139,35 @@ TEST_F(RescueKeeperTest, AnOldFileGoesOnlyWhenItsTextIsSafe) {
     const std::string own = keeper.KeepNow();
     opened.ForgetPath();  // saved: nothing left to keep
     EXPECT_EQ(keeper.KeepNow(), "");
-    platform.files.erase(own);
-    Leave(kDead, kLost);
+    platform.files = {{old, lost}, {twin, lost}, {torn, lost.substr(0, lost.size() - 1)}};
+    for (const auto& [path, bytes] : platform.files) {
+      std::ofstream touched(path);
+      if (one.failing == kReading) platform.read_errors[path] = EIO;
+    }
     const bool asked = !one.answers.empty(), back = one.answers == std::deque{Answer::kYes};
     platform.answers = one.answers;
-    if (one.failing == kReading) platform.read_errors[In(kDead)] = EIO;
     if (one.failing == kOwnFile || one.failing == kRest)
-      platform.write_errors[one.failing == kRest ? In("rescued.txt") : own] = ENOSPC;
+      platform.write_errors[one.failing == kRest ? rest : own] = ENOSPC;
     // Whatever is written while the question stands says nothing about the answer.
     platform.on_message = [&] {
       keeper.KeepNow();
-      EXPECT_TRUE(IsThere(kDead));
+      EXPECT_TRUE(there());
     };
     keeper.Offer();
-    EXPECT_EQ(IsThere(kDead), one.stays);
+    EXPECT_EQ(there(), one.stays);
     EXPECT_EQ(opened.Title(), back ? "Pelmar VEX (/a.txt)*" : "Pelmar VEX ()");
     EXPECT_EQ(Kept(own), back && one.failing == kNothing ? kReadable : "");
-    EXPECT_EQ(platform.files[In("rescued.txt")], one.rest);
+    EXPECT_EQ(platform.files[rest], one.rest);
     keeper.Offer();  // asked once
     // With room again it goes on by itself.
     platform.write_errors.clear();
     platform.read_errors.clear();
-    EXPECT_EQ(QTest::qWaitFor([&] { return !IsThere(kDead); }, asked ? 2500 : 0), asked);
+    EXPECT_EQ(QTest::qWaitFor([&] { return !there(); }, asked ? 2500 : 0), asked);
     EXPECT_EQ(Kept(own), back ? kReadable : "");
-    QFile::remove(folder.filePath(QLatin1String(kDead)));
+    EXPECT_EQ(std::exchange(platform.files[rest], ""), asked && !back ? kReadable : "");
+    keeper.KeepNow();
+    EXPECT_EQ(platform.files[rest], "");  // a rest that the person has taken away doesn't come again
   }
-}
-
-TEST_F(RescueKeeperTest, ATextThatTwoFilesHoldIsOfferedOnceAndTornFilesStay) {
-  Leave(kDead, kLost);
-  Leave("rescue-2-1.pelmar", kLost);
-  Leave("rescue-3-1.pelmar", kLost.substr(0, kLost.size() - 1));
-  platform.answers = {Answer::kYes};
-  RescueKeeper keeper(ModifiedDocuments(documents), platform);
-  keeper.Offer();
-  EXPECT_EQ(documents.UnsavedCount(), 1);
-  EXPECT_FALSE(IsThere(kDead) || IsThere("rescue-2-1.pelmar"));
-  EXPECT_TRUE(IsThere("rescue-3-1.pelmar"));
 }
 
 }  // namespace

@@ -1,0 +1,251 @@
+// The shell's routines: paths, texts, help, status, the places of windows and the settings record.
+#include <gtest/gtest.h>
+
+#include "platform/color.h"
+#include "platform/paths.h"
+#include "platform/runtime_error.h"
+#include "shell/common.h"
+#include "shell/file_number.h"
+#include "shell/help.h"
+#include "shell/settings_record.h"
+#include "shell/status.h"
+#include "shell/window_geometry.h"
+#include "support/random_source.h"
+#include "support/scripted_platform.h"
+#include "text/codepage.h"
+
+namespace pelmar {
+namespace {
+
+TEST(FilePart, SplitsAtTheLastSeparatorAndTheLastDot) {
+  const auto part = [](const char* path, int number) {
+    try {
+      return FilePart(path, number);
+    } catch (const RuntimeError&) {
+      return std::string("error");
+    }
+  };
+  // required: without a dot the extension is the whole name, and there is no name
+  const std::pair<const char*, const char*> cases[] = {{"C:\\a\\b.c.txt", "C:\\a\\|b.c|txt"},
+                                                       {"/a.b/.profile", "/a.b/||profile"},
+                                                       {"/a\\b/c\\d.e", "/a\\b/c\\|d|e"},
+                                                       {"/a/b.", "/a/|b|"},
+                                                       {"C:\\a\\b", "C:\\a\\|error|b"},
+                                                       {"readme.txt", "readme.txt|error|"},
+                                                       {"/a.b/", "/a.b/|error|"},
+                                                       {"", "error|error|error"}};
+  for (const auto& [path, parts] : cases)
+    EXPECT_EQ(part(path, 1) + '|' + part(path, 2) + '|' + part(path, 3), parts) << path;
+  EXPECT_EQ(FilePart("/a/b.c", 4), "");
+}
+
+TEST(Paths, AreJoinedAndMadeUrlsInBothKindsAndFoundWithASeparatorAtTheEnd) {
+  ScriptedPlatform platform;
+  platform.files["/a.txt"] = "";
+  for (const char* path : {"/a.txt", "/a.txt/"}) EXPECT_TRUE(FileExists(FileNumber(), platform, path));
+  EXPECT_EQ(PathToFileUrl("/home/jan/a b.html"), "file:///home/jan/a b.html");
+  EXPECT_EQ(PathToFileUrl("C:\\a\\b%.html"), "file:///C:/a/b%.html");
+  for (const char* folder : {"/tmp", "/tmp/"}) EXPECT_EQ(JoinPath(folder, "a.txt"), "/tmp/a.txt");
+  for (const char* folder : {"C:\\x", "C:\\x\\"}) EXPECT_EQ(JoinPath(folder, "a.txt"), "C:\\x\\a.txt");
+}
+
+TEST(Common, ColorsCountsAndLetters) {
+  EXPECT_EQ(ColorToHex(0x030201), "#010203");
+  EXPECT_EQ(ColorToHex(Rgb(10, 0, 200)), "#0A00C8");
+  EXPECT_EQ(CountLineFeeds("a\rb\n\n"), 2);
+  EXPECT_EQ(CountLineFeeds(std::string(1000, '\n') + std::string(1000, 'x')), 1000);
+  EXPECT_EQ(NumberWithSignBlank(0), " 0");
+  EXPECT_EQ(NumberWithSignBlank(-3), "-3");
+  // Letters of other languages stay.
+  EXPECT_EQ(StripDiacritics("ÁČĎÉĚÍŇÓŘŠŤŮÚÝŽ áčďéěíňóřšťůúýž äöüĺľŕ"_w), "ACDEEINORSTUUYZ acdeeinorstuuyz äöüĺľŕ"_w);
+  int n = 0;
+  EXPECT_EQ(RandomCase("šŠ1š-"_w, [&] { return n++ % 2 == 0 ? 0.0 : 0.5; }), "šŠ1Š-"_w);
+}
+
+std::string ToldReplace(std::string s, const std::string& find, const std::string& with) {
+  for (std::size_t from = 0; from <= s.size(); ++from) {
+    from = s.find(find, from);
+    if (from == std::string::npos) break;
+    s.replace(from, find.size(), with);
+  }
+  return s;
+}
+
+// required: what a replacement brings in is read again from its second character on, so "aaaa" without "a" is "aa"
+TEST(ReplaceAllText, EqualsTheToldLoopOnRandomTexts) {
+  RandomSource random(3);
+  for (int round = 0; round < 3000; ++round) {
+    const std::string text = random.Text(20, "ab"), find = random.Text(3, "ab"), with = random.Text(3, "ab");
+    if (find.empty() || with.find(find, 1) != std::string::npos) {  // would never end
+      ASSERT_THROW(ReplaceAllText(text, find, with), RuntimeError);
+    } else {
+      ASSERT_EQ(ReplaceAllText(text, find, with), ToldReplace(text, find, with)) << text << ' ' << find << ' ' << with;
+    }
+  }
+}
+
+TEST(Help, SearchesWithoutCaseAsLongAsThePersonWants) {
+  const auto search = [](std::string_view term, const std::deque<Answer>& answers) {
+    ScriptedPlatform platform;
+    platform.answers = answers;
+    TextBuffer text;
+    text.SetText(std::string("Žába a žába. KONEC"_w));
+    SearchHelp(text, term, platform);
+    return platform.TakeTold() + std::to_string(text.SelStart()) + ' ' + ToUtf8(text.SelText());
+  };
+  const std::string first = "message 52 \"Nalezeno na 1 místě, pokračovat ?\" \"hledání\"; ";
+  const std::string second = "message 52 \"Nalezeno na 8 místě, pokračovat ?\" \"hledání\"; ";
+  EXPECT_EQ(search("žába"_w, {Answer::kYes, Answer::kYes}), first + second + "7 žába");
+  EXPECT_EQ(search("ŽÁBA"_w, {Answer::kNo}), first + "0 Žába");
+  EXPECT_EQ(search("není"_w, {}), "0 ");
+}
+
+// The panels and which items are on, in the order of the state's fields.
+std::string Shown(const std::string& text, std::size_t from, std::size_t to, bool line_counting = true,
+                  std::string_view path = "", const std::optional<std::string>& clipboard = std::nullopt) {
+  TextBuffer box;
+  box.SetText(text);
+  box.Select(from, to);
+  const PanelTexts panels = ComputePanels(box, line_counting);
+  const MenuState on = ComputeMenuState(box, path, clipboard);
+  std::string shown = panels.length + '|' + panels.position + '|' + panels.lines + '|' + ComputeContent(box, clipboard);
+  for (const bool state : {on.has_path, on.has_clipboard, on.has_text, on.has_selection}) shown += state ? '+' : '-';
+  return ToUtf8(shown);
+}
+
+TEST(Status, TellsOfTheTextOrTheSelection) {
+  EXPECT_EQ(Shown("", 0, 0), "Počet znaků : 0|Pozice kurzoru : 0|Řádek 0 z 0|Výběr : ----");
+  EXPECT_EQ(Shown("a\r\nb\rc\n\n", 7, 7, true, "/a", ""),
+            "Počet znaků : 8|Pozice kurzoru : 7|Řádek 2 z 3|Schránka : +-+-");
+  EXPECT_EQ(Shown("a\r\nb", 4, 4, false), "Počet znaků : 4|Pozice kurzoru : 4|(OFF)|Výběr : --+-");
+  EXPECT_EQ(Shown("a\r\nb\r\nc", 3, 0, true, "", "x"),
+            "Znaky Výběru : 3|Pozice výběru : 0|Řádeky 0-1 z 2|Výběr : a\r\n-+++");
+  EXPECT_EQ(Shown(std::string(60, 'c') + "\r\n", 1, 60),
+            "Znaky Výběru : 59|Pozice výběru : 1|Řádeky 0-0 z 1|Výběr : " + std::string(50, 'c') + "--++");
+  EXPECT_EQ(ComputeContent(TextBuffer(), std::string(64000, 'x')).size(), 64011u);
+}
+
+TEST(Snap, PullsWindowsToTheEdges) {
+  const struct {
+    const char* what;
+    TwipsRect before, after;
+  } cases[] = {
+      {"nearer than the distance", {239, 239, 9000, 6000}, {0, 0, 9000, 6000}},
+      {"as far as the distance", {240, 240, 9000, 6000}, {240, 240, 9000, 6000}},
+      {"right and bottom", {19700, 10000, 9000, 6000}, {19800, 10200, 9000, 6000}},
+      {"off the screen", {-3000, -200, 9000, 6000}, {0, 0, 9000, 6000}},
+      {"beyond the right edge", {28000, 5000, 9000, 6000}, {19800, 5000, 9000, 6000}},
+      {"almost as wide as the screen", {100, 5000, 28600, 6000}, {0, 5000, 28800, 6000}},
+      {"almost as high", {5000, 100, 9000, 16000}, {5000, 0, 9000, 16200}},
+  };
+  for (const auto& c : cases) EXPECT_EQ(Snap(c.before, 240, 28800, 16200), c.after) << c.what;
+}
+
+TEST(PlaceRequests, RestWhereTheyAreInVain) {
+  const TwipsRect here = {100, 100, 9000, 6000}, edge = {0, 0, 9000, 6000};
+  PlaceRequests requests;
+  int asked = 0;
+  while (asked < 1000 && requests.Worthwhile(here, edge)) ++asked;
+  EXPECT_EQ(asked, 20);
+  EXPECT_TRUE(requests.Worthwhile({90, 100, 9000, 6000}, edge));  // the person moved it
+  EXPECT_TRUE(requests.Worthwhile(here, edge));
+  EXPECT_TRUE(requests.Worthwhile(here, {0, 100, 9000, 6000}));
+}
+
+// required: the sum counts panel 4 itself, so two widths take turns
+TEST(SparePanelWidth, AlternatesOnceBothWidthsAreAboveZero) {
+  std::array<int, kPanelCount> widths = {1500, 1500, 1500, 0, 500, 500, 500};
+  EXPECT_EQ(SparePanelWidth(12420, widths), 6000);
+  widths[3] = 6000;
+  EXPECT_EQ(SparePanelWidth(12420, widths), std::nullopt);
+  EXPECT_EQ(SparePanelWidth(12520, widths), 100);
+  widths[3] = 100;
+  EXPECT_EQ(SparePanelWidth(12520, widths), 6000);
+}
+
+// Top, height and width of the text, the widths of the tabs and of panel 4, by how much the window has to grow.
+std::string Laid(const LayoutInput& in) {
+  const LayoutResult out = ComputeLayout(in);
+  std::string laid = std::to_string(out.text_top);
+  for (const std::optional<int>& part : {out.text_height, out.text_width, out.tabs_width, out.panel4_width})
+    laid += part ? ' ' + std::to_string(*part) : " -";
+  return laid + ' ' + std::to_string(out.grow_outer_height);
+}
+
+TEST(Layout, FollowsTheBarsThatAreVisibleAndKeepsRoomForThem) {
+  LayoutInput in{.outer_width = 12000,
+                 .inner_width = 11900,
+                 .inner_height = 8000,
+                 .toolbar_height = 500,
+                 .bar_height = 300,
+                 .panel_widths = {1000, 1000, 1000, 0, 500, 500, 500}};
+  EXPECT_EQ(Laid(in), "500 7210 11540 11900 7080 0");
+  in.inner_height = 1069;
+  EXPECT_EQ(Laid(in), "500 279 11540 11900 7080 1");
+  in.bar_visible = false;
+  EXPECT_EQ(Laid(in), "500 579 11540 11900 7080 0");
+  in.inner_height = 0;
+  EXPECT_EQ(Laid(in), "500 -490 11540 11900 7080 0");
+  in.toolbar_visible = in.tabs_visible = false;
+  in.inner_height = 269;
+  EXPECT_EQ(Laid(in), "0 279 11900 - 7080 1");
+  in.minimised = true;
+  EXPECT_EQ(Laid(in), "0 - - - - 0");
+}
+
+SettingsRecord FullRecord() {
+  SettingsRecord r{12000, 9000,  -15,      1440, true, "P\xEDsmo", 0x030201, 0xFDFEFF, 14,  true,
+                   false, "Jan", "j@x.cz", true, 300,  "tajn\xE9", {},       2,        true};
+  for (std::size_t i = 0; i < r.RecentFiles.size(); ++i) r.RecentFiles[i] = "/soubor" + std::to_string(i) + ".txt";
+  return r;
+}
+
+TEST(SettingsRecord, HasTheToldBytes) {
+  EXPECT_EQ(SettingsBytes({}), std::string(71, '\0'));
+  std::string expected(
+      "\xE0\x2E\0\0\x28\x23\0\0\xF1\xFF\xFF\xFF\xA0\x05\0\0\xFF\xFF"  // the place, always on top
+      "\5\0P\xEDsmo\1\2\3\0\xFF\xFE\xFD\0\x0E\xFF\xFF\0\0"            // the font and its colours
+      "\3\0Jan\6\0j@x.cz\xFF\xFF\x2C\1\0\0\5\0tajn\xE9",
+      18 + 7 + 8 + 5 + 5 + 8 + 2 + 4 + 7);
+  for (int i = 0; i < 10; ++i) expected += std::string("\x0C\0/soubor", 9) + std::to_string(i) + ".txt";
+  expected += std::string("\2\0\0\0\xFF\xFF", 6);
+  EXPECT_EQ(SettingsBytes(FullRecord()), expected);
+  EXPECT_EQ(ReadSettings(expected + "an old tail"), FullRecord());
+  SettingsRecord longest;
+  longest.UserName = std::string(70000, 'x');
+  const std::string bytes = SettingsBytes(longest);
+  longest.UserName.resize(65535);
+  EXPECT_EQ(ReadSettings(bytes), longest);
+}
+
+// Every short length: what is whole keeps its value, the rest reads as zero and empty. Random bytes: what is read is
+// within them.
+TEST(SettingsRecord, ShortAndDamagedFilesReadAsZeroFromTheirEndOn) {
+  std::string bytes = SettingsBytes(FullRecord());
+  for (std::size_t length = 0; length <= bytes.size(); ++length) {
+    const SettingsRecord r = ReadSettings(std::string_view(bytes).substr(0, length));
+    EXPECT_EQ(r.Width, length >= 4 ? 12000 : 0) << length;
+    EXPECT_EQ(r.FontName, length >= 25 ? "Písmo"_w : ""_w) << length;
+    EXPECT_EQ(r.FontSize, length >= 34 ? 14 : 0) << length;
+    EXPECT_EQ(r.LineCounting, length == bytes.size()) << length;
+  }
+  // A count beyond the end is no string, and nothing behind it counts.
+  bytes[18] = bytes[19] = '\xFF';
+  EXPECT_EQ(ReadSettings(bytes), ReadSettings(bytes.substr(0, 18)));
+  RandomSource random(1);
+  for (int round = 0; round < 2000; ++round) {
+    const SettingsRecord r = ReadSettings(bytes = random.Bytes(200));
+    ASSERT_LE(r.FontName.size() + r.UserName.size() + r.UserEmail.size() + r.LockPassword.size(), bytes.size());
+    ASSERT_EQ(ReadSettings(SettingsBytes(r)), r);
+  }
+}
+
+TEST(SettingsRecord, PathsOutsideTheCodePageComeBack) {
+  for (const std::string path :
+       {"/home/jan/kůň.txt", "/a.txt", "/home/Ж/x.txt", "", "/Ă©.txt", "/Ä.txt", "/d\xE8/%41 \xF9.txt"})
+    EXPECT_EQ(PathFromStored(StoredPath(path)), path) << path;
+  EXPECT_EQ(StoredPath("/kůň.txt"), "/kůň.txt"_w);
+}
+
+}  // namespace
+}  // namespace pelmar
