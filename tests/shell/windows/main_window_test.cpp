@@ -129,12 +129,12 @@ TEST_F(MainWindowTest, TheTickSnapsTheWindowToTheEdges) {
   Activate(other);
   other.move(5, 5);  // has no tag for it
   const QPoint place = other.pos();
-  const auto snapped = [this] {
-    timer.Tick();
-    if (window.Place() == TwipsRect{0, 0, 12000, 9000}) return true;
-    window.MoveTo({150, 225, 12000, 9000});  // again, where the answer to an earlier wish has undone it
-    return false;
+  // Again, where the answer to an earlier wish has undone it.
+  const auto moved = [this, near = TwipsRect{150, 225, 12000, 9000}] {
+    return window.Place() == near || (window.MoveTo(near), false);
   };
+  EXPECT_TRUE(QTest::qWaitFor(moved, 2000));
+  const auto snapped = [this] { return timer.Tick(), window.Place() == TwipsRect{0, 0, 12000, 9000}; };
   EXPECT_TRUE(QTest::qWaitFor(snapped, 2000));
   EXPECT_EQ(other.pos(), place);
 }
