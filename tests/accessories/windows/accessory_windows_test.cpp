@@ -7,7 +7,6 @@
 #include <QTemporaryDir>
 
 #include "accessories/windows/analytic.h"
-#include "accessories/windows/color_dialog.h"
 #include "accessories/windows/kalkul.h"
 #include "accessories/windows/klavesnice.h"
 #include "accessories/windows/kod.h"
@@ -15,7 +14,6 @@
 #include "accessories/windows/poznamka.h"
 #include "accessories/windows/prev.h"
 #include "platform/qt/outer_geometry.h"
-#include "platform/twips.h"
 #include "program/program.h"
 #include "support/plain_view.h"
 #include "support/scripted_platform.h"
@@ -83,9 +81,7 @@ struct KeyboardTest : AccessoryTest {
 };
 
 TEST_F(KeyboardTest, EachKeyTypesItsCharacterInEitherCase) {
-  const std::string plain(
-      "\r\n\tqwertzuiopasdfghjklyxcvbnm ó;ěščřžýáíéťúů,.)(!?\r\n\\%741852963"
-      "0-+*/="_w);
+  const std::string plain("\r\n\tqwertzuiopasdfghjklyxcvbnm ó;ěščřžýáíéťúů,.)(!?\r\n\\%7418529630-+*/="_w);
   EXPECT_EQ(OfAllKeys(), plain);
   ExpectState(keyboard, "Check2!", "Check1=1");  // one state, which stays
   EXPECT_EQ(OfAllKeys(), ToUpper(plain));
@@ -199,24 +195,10 @@ TEST_F(CharTableTest, TypedKeysGoToTheMainWindow) {
   EXPECT_FALSE(kod.isVisible());
 }
 
-TEST_F(AccessoryTest, EachButtonOfAColorHasItsCommand) {
-  platform.draws = {0.25, 0.5, 0.75};
-  const ColorDialog dialog(platform, nullptr);
-  std::string colors;
-  for (int button = 3; button <= 11; ++button) {
-    Work(dialog, "VScroll10=10 VScroll11=60 VScroll12=200");
-    Press(dialog, {button});
-    colors += State(dialog, "Label11").substr(8) + State(dialog, "Picture3").substr(9) + ' ';
-  }
-  EXPECT_EQ(colors,
-            "#F5C337#f5c337 #5A5A5A#5a5a5a #4080C0#4080c0 #0936B4#0936b4 #0B42DC#0b42dc #3CC80A#3cc80a "
-            "#0032BE#0032be #4173FF#4173ff #3062EE#3062ee ");
-}
-
 struct AnalyticTest : AccessoryTest {
   Analytic& dialog = (text.SetText("bba"), Open<Analytic>());
   QListWidget* list = Find<QListWidget>(dialog, "List1");
-  QWidget* graph = Find<QWidget>(dialog, "Pic");
+  QWidget* graph = Named(dialog, "Pic");
 
   // The code in the selected row.
   [[nodiscard]] std::string Selected() const { return list->currentItem()->text().mid(17, 3).toStdString(); }
@@ -481,29 +463,22 @@ TEST_F(PoznamkaTest, KeepsFivePagesAndStoresThemAtTheEnd) {
   EXPECT_EQ(platform.calls.size(), 1u);  // the write, and no question
 }
 
-TEST_F(PoznamkaTest, AsTheWholeProgramItAsksBehindTheWrite) {
-  Open({}, StartMode::kNotes);
-  Work(*notes, "Text1=kept");
+TEST_F(PoznamkaTest, AnOverlongPageIsRefusedAndTheWholeProgramAsksBehindTheWrite) {
+  Open({{"first", "second"}}, StartMode::kNotes);
+  notes->Text().SetText(std::string(kLongestNote + 1, 'x'));
+  platform.answers = {Answer::kOk, Answer::kOk};
+  ExpectState(*notes, "TabStrip1=1", "TabStrip1=0");
+  notes->close();
+  EXPECT_TRUE(notes->isVisible() && platform.answers.empty());
+  EXPECT_EQ(File(), NotesBytes({{"first", "second"}}));
+  notes->Text().EraseAfter(1);
   platform.answers = {Answer::kNo, Answer::kYes};
-  platform.on_message = [this] { EXPECT_EQ(File(), NotesBytes({{"kept"}})); };
+  platform.on_message = [this] { EXPECT_EQ(File(), NotesBytes({{std::string(kLongestNote, 'x'), "second"}})); };
   notes->close();
   EXPECT_TRUE(notes->isVisible() && ends == 0);
   EXPECT_EQ(platform.calls.back(), "message 276 \"OPRAVDU UKONČIT Poznámky (Pelmar VEX) ?\" \"Konec\"");
   notes->close();
   EXPECT_EQ(ends, 1);
-}
-
-TEST_F(PoznamkaTest, AnOverlongPageIsRefusedBeforeAnythingIsLost) {
-  Open({{"first", "second"}});
-  notes->Text().SetText(std::string(kLongestNote + 1, 'x'));
-  platform.answers = {Answer::kOk, Answer::kOk};
-  ExpectState(*notes, "TabStrip1=1", "TabStrip1=0");
-  notes->close();
-  EXPECT_TRUE(notes->isVisible() && ends == 0 && platform.answers.empty());
-  EXPECT_EQ(File(), NotesBytes({{"first", "second"}}));
-  notes->Text().EraseAfter(1);
-  notes->close();
-  EXPECT_EQ(ReadNotes(File()), (NotesRecord{{std::string(kLongestNote, 'x'), "second"}}));
 }
 
 TEST_F(PoznamkaTest, WhatIsNotStoredIsKeptUntilTheClose) {

@@ -76,12 +76,10 @@ TEST_F(CipherWindowsTest, DialogsRewriteTheWholeDocumentOrQuickText) {
 
 TEST_F(CipherWindowsTest, CaretStaysWhereTypingGoesOn) {
   auto* key = Find<QLineEdit>(stream, "Text1");
+  // The 0 that stood for nothing goes, a 0 in front too, and what stands behind a sign that is no part of a number.
   const std::tuple<const char*, int, const char*, const char*> cases[] = {
-      {"0", 1, "12ab3", "123|"},   // the 0 that stood for nothing goes
-      {"12", 0, "0", "|12"},       // a 0 in front too
-      {"123", 1, "x9,8", "198|"},  // what stands behind a sign that is no part of a number is cut off
-      {"-5", 2, "6", "-56|"},     {"123456789012345", 3, "6", "123|456789012345"},  // full
-      {"1", 1, "\b", "0|"}};
+      {"0", 1, "12ab3", "123|"}, {"12", 0, "0", "|12"}, {"123", 1, "x9,8", "198|"},
+      {"-5", 2, "6", "-56|"},    {"1", 1, "\b", "0|"},  {"123456789012345", 3, "6", "123|456789012345"}};
   for (const auto& [text, caret, typed, shown] : cases) {
     key->setText(QLatin1String(text));
     key->setCursorPosition(caret);
@@ -128,11 +126,9 @@ TEST_F(CipherWindowsTest, ShiftRotatesTheSelection) {
   };
   for (const auto& row : cases) {
     text.Select(1, 5);
-    Inside([&row] {
-      QWidget* dialog = QApplication::activeModalWidget();
-      ASSERT_NE(dialog, nullptr);
-      ExpectState(*dialog, row.steps, row.state);
-      dialog->close();
+    InDialog<QDialog>([&row](QDialog& dialog) {
+      ExpectState(dialog, row.steps, row.state);
+      dialog.close();
     });
     Work(program.Main(), "MnuSelTextPosun!");
     EXPECT_EQ(text.Text(), row.document) << row.steps;

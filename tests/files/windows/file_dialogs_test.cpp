@@ -120,8 +120,6 @@ TEST_F(FileDialogsTest, ConversionWritesBesideTheChosenFile) {
                 '|' + platform.files[stem + "utf8"],
             "<B>\n|<B>\r\r\n|<B>\r\n|\xEF\xBB\xBF<B>\r\n");
   EXPECT_TRUE(dialog.isVisible());
-  Work(dialog, "Command3!");
-  EXPECT_FALSE(dialog.isVisible());
 }
 
 TEST_F(FileDialogsTest, DirSetupLeadsEveryDialogThatPicksFiles) {
@@ -136,9 +134,8 @@ TEST_F(FileDialogsTest, DirSetupLeadsEveryDialogThatPicksFiles) {
     names.sort();
     return names.join(u' ').toStdString();
   };
-  Find<FolderList>(dialog, "Dir1")->SetPath(Utf8ToQString(folder.Path()));
   Find<DriveList>(dialog, "Drive1")->SetDrive(QStringLiteral("/"));
-  Work(dialog, "Command2!");
+  Expect(dialog, "Dir1=~ Command2!", "Drive1=/");
   EXPECT_EQ(reached(), "DirSetup");
   dialog.show();
   Work(dialog, "Command1!");
