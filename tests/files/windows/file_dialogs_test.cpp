@@ -1,7 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <fstream>
-
 #include "files/windows/dir_setup.h"
 #include "files/windows/dos_unix_conv.h"
 #include "files/windows/otevri.h"
@@ -63,8 +61,7 @@ TEST_F(FileDialogsTest, OtevriPreviewsAsksAndOpens) {
 }
 
 TEST_F(FileDialogsTest, ANameThatIsNoUtf8IsShownOpenedAndSavedByItsBytes) {
-  const std::string path = folder.File("k\xF9\xF2.txt");
-  std::ofstream(path).close();
+  const std::string path = folder.Put("k\xF9\xF2.txt", "");
   platform.files[path] = "horse";
   Otevri open(editor.opener, platform, nullptr);
   Uloz save(editor.documents, editor.saver, nullptr);

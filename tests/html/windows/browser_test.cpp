@@ -75,11 +75,11 @@ TEST_F(BrowserTest, ShowsAFileAndWhatIsHeardOfIt) {
   Window().ShowInBrowser("/stránka.html");
   EXPECT_EQ(Told("cboAddress"),
             "load file:///str%C3%A1nka.html; cboAddress=file:///stránka.html, HTML Testovací  browser, ticking");
-  std::vector<QImage> frames;
+  QList<QImage> frames;
   for (int tick = 0; tick < 16; ++tick) {
     Q_EMIT Timer().timeout({});
     const QImage frame = Find<QWidget>(Window(), "Picture1")->grab().toImage();
-    if (std::find(frames.begin(), frames.end(), frame) == frames.end()) frames.push_back(frame);
+    if (!frames.contains(frame)) frames += frame;
   }
   EXPECT_EQ(std::to_string(frames.size()) + Told(), "8; Panel1=Busy, HTML Testovací  browser, ticking");
   view->busy = false;
