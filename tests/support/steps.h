@@ -1,24 +1,19 @@
 // Works a window by a line of steps, and tells its controls in a line, so that a test of a dialog is a table.
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <QAbstractButton>
 #include <QAbstractItemView>
-#include <QAbstractSlider>
 #include <QAction>
 #include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
 #include <QProgressBar>
 #include <QTabBar>
 #include <QTest>
 #include <algorithm>
-#include <string>
 
+#include "platform/qt/controls/folder_list.h"
 #include "platform/qt/controls/swatch.h"
 #include "platform/qt/controls/text_box.h"
 #include "platform/qt/convert.h"
+#include "support/controls.h"
 
 namespace pelmar {
 
@@ -55,9 +50,9 @@ inline void Type(QWidget& focus, QChar key) {
 }
 
 // "Command1!" clicks a button or an item of a menu; "Text1=abc" types over a field or an editable box; "VScroll1=3"
-// moves a bar; "List1=2" makes a row of a list (from 0) the current one, "Combo1=2" one of a box that isn't editable,
-// "TabStrip1=1" a tab. "Text1:abc\r" gives the keyboard to a control and types; Delete is \x7f, Backspace \b, Escape
-// \x1b, arrows → and ↓.
+// moves a bar; "List1=2" or "List1=abc" makes a row of a list (from 0, or the one that begins so) the current one,
+// "Combo1=2" one of a box that isn't editable, "TabStrip1=1" a tab; "Dir1=/a" goes to a folder. "Text1:abc\r" gives the
+// keyboard to a control and types; Delete is \x7f, Backspace \b, Escape \x1b, arrows → and ↓.
 inline void Work(const QWidget& window, const char* steps) {
   for (const QString& step : Words(steps)) {
     const auto end = std::find_if(step.begin(), step.end(), [](QChar c) { return QLatin1String("!=:").contains(c); });
@@ -83,8 +78,12 @@ inline void Work(const QWidget& window, const char* steps) {
       bar->setValue(value.toInt());
     } else if (auto* tabs = qobject_cast<QTabBar*>(control)) {
       tabs->setCurrentIndex(value.toInt());
+    } else if (auto* folders = qobject_cast<FolderList*>(control)) {
+      folders->SetPath(value);
     } else if (auto* list = qobject_cast<QAbstractItemView*>(control)) {
-      list->setCurrentIndex(list->model()->index(value.toInt(), 0));
+      bool numbered = false;
+      const QModelIndex row = list->model()->index(value.toInt(&numbered), 0);
+      list->setCurrentIndex(numbered ? row : list->model()->match(row, Qt::DisplayRole, value).value(0));
     } else {
       ADD_FAILURE() << "nothing does " << step.toStdString();
     }

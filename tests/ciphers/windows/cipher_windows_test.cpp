@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QListWidget>
-#include <QTabBar>
 
 #include "ciphers/table_file.h"
 #include "ciphers/windows/cht.h"
@@ -11,7 +10,6 @@
 #include "ciphers/windows/za_kod.h"
 #include "ciphers/xor_cipher.h"
 #include "program/program.h"
-#include "support/controls.h"
 #include "support/random_source.h"
 #include "support/scripted_platform.h"
 #include "support/steps.h"
@@ -78,22 +76,16 @@ TEST_F(CipherWindowsTest, DialogsRewriteTheWholeDocumentOrQuickText) {
 
 TEST_F(CipherWindowsTest, CaretStaysWhereTypingGoesOn) {
   auto* key = Find<QLineEdit>(stream, "Text1");
-  const auto typed = [key](const char* before, const char* keys) {
-    const QString text = QString::fromLatin1(before);
-    key->blockSignals(true);
-    key->setText(QString(text).remove(u'|'));
-    key->blockSignals(false);
-    key->setCursorPosition(static_cast<int>(text.indexOf(u'|')));
-    QTest::keyClicks(key, QString::fromLatin1(keys));
-    return key->text().insert(key->cursorPosition(), u'|').toStdString();
-  };
-  EXPECT_EQ(typed("|", "12ab3"), "123|");
-  EXPECT_EQ(typed("0|", "7"), "7|");         // the 0 that stood for nothing goes
-  EXPECT_EQ(typed("|12", "0"), "|12");       // a 0 in front too
-  EXPECT_EQ(typed("1|23", "x9,8"), "198|");  // what stands behind a sign that is no part of a number is cut off
-  EXPECT_EQ(typed("-5|", "6"), "-56|");
-  EXPECT_EQ(typed("123|456789012345", "6"), "123|456789012345");  // full
-  EXPECT_EQ(typed("1|", "\b"), "0|");
+  // The 0 that stood for nothing goes, a 0 in front too, and what stands behind a sign that is no part of a number.
+  const std::tuple<const char*, int, const char*, const char*> cases[] = {
+      {"0", 1, "12ab3", "123|"}, {"12", 0, "0", "|12"}, {"123", 1, "x9,8", "198|"},
+      {"-5", 2, "6", "-56|"},    {"1", 1, "\b", "0|"},  {"123456789012345", 3, "6", "123|456789012345"}};
+  for (const auto& [text, caret, typed, shown] : cases) {
+    key->setText(QLatin1String(text));
+    key->setCursorPosition(caret);
+    QTest::keyClicks(key, QLatin1String(typed));
+    EXPECT_EQ(key->text().insert(key->cursorPosition(), u'|').toStdString(), shown) << text << " and " << typed;
+  }
 }
 
 TEST_F(CipherWindowsTest, TheStreamCipherIsSafeFromWhatHappensMeanwhile) {
@@ -134,11 +126,9 @@ TEST_F(CipherWindowsTest, ShiftRotatesTheSelection) {
   };
   for (const auto& row : cases) {
     text.Select(1, 5);
-    Inside([&row] {
-      QWidget* dialog = QApplication::activeModalWidget();
-      ASSERT_NE(dialog, nullptr);
-      ExpectState(*dialog, row.steps, row.state);
-      dialog->close();
+    InDialog<QDialog>([&row](QDialog& dialog) {
+      ExpectState(dialog, row.steps, row.state);
+      dialog.close();
     });
     Work(program.Main(), "MnuSelTextPosun!");
     EXPECT_EQ(text.Text(), row.document) << row.steps;

@@ -1,14 +1,8 @@
 #include <gtest/gtest.h>
 
-#include <QAction>
-#include <QComboBox>
-#include <QTest>
-
 #include "html/windows/browser_module.h"
 #include "html/windows/frm_browser.h"
 #include "html/windows/web_address.h"
-#include "platform/qt/convert.h"
-#include "support/controls.h"
 #include "support/scripted_platform.h"
 #include "support/steps.h"
 #include "support/temp_folder.h"
@@ -61,13 +55,6 @@ struct BrowserTest : testing::Test, WebViewMaker {
   FrmBrowser& Window() { return made ? *made : made.emplace(*this, platform, end); }
   QComboBox& Address() { return *Find<QComboBox>(Window(), "cboAddress"); }
   QTimer& Timer() { return *Find<QTimer>(Window(), "timTimer"); }
-  void Press(const char* key) { Find<QAction>(Window(), key)->trigger(); }
-  // At the end "!" for Enter.
-  void Type(const char* typed) {
-    Address().lineEdit()->clear();
-    QTest::keyClicks(&Address(), QString::fromUtf8(typed).remove(u'!'));
-    if (std::string_view(typed).ends_with('!')) QTest::keyClick(&Address(), Qt::Key_Return);
-  }
   // What the view was asked since, what controls show, the title, the timer's and the window's state.
   std::string Told(const char* controls = "Panel1") {
     return std::exchange(calls, {}).join(u", ").toStdString() + "; " + State(Window(), controls) + ", " +
@@ -88,11 +75,11 @@ TEST_F(BrowserTest, ShowsAFileAndWhatIsHeardOfIt) {
   Window().ShowInBrowser("/stránka.html");
   EXPECT_EQ(Told("cboAddress"),
             "load file:///str%C3%A1nka.html; cboAddress=file:///stránka.html, HTML Testovací  browser, ticking");
-  std::vector<QImage> frames;
+  QList<QImage> frames;
   for (int tick = 0; tick < 16; ++tick) {
     Q_EMIT Timer().timeout({});
     const QImage frame = Find<QWidget>(Window(), "Picture1")->grab().toImage();
-    if (std::find(frames.begin(), frames.end(), frame) == frames.end()) frames.push_back(frame);
+    if (!frames.contains(frame)) frames += frame;
   }
   EXPECT_EQ(std::to_string(frames.size()) + Told(), "8; Panel1=Busy, HTML Testovací  browser, ticking");
   view->busy = false;
@@ -134,12 +121,12 @@ TEST_F(BrowserTest, AddressesAreLoadedByEnterAndByChoice) {
             "file:///b.html in file:///a.html file:///b.html file:///b.html; ");
   Window().activateWindow();
   EXPECT_EQ(calls.size(), 4);  // what the program changes itself starts nothing
-  Type("www.priklad.cz!");
+  Work(Window(), "cboAddress= cboAddress:www.priklad.cz\r");
   EXPECT_EQ(calls.back(), QStringLiteral("load http://www.priklad.cz"));
   EXPECT_EQ(List(), "www.priklad.cz in file:///b.html file:///a.html");  // it joins the list when it is there
   view->Finish();
   EXPECT_EQ(List(), "http://www.priklad.cz in http://www.priklad.cz file:///b.html file:///a.html");
-  Type("x.cz");
+  Work(Window(), "cboAddress= cboAddress:x.cz");
   for (int time = 0; time < 2; ++time) view->Finish();  // a page that comes meanwhile leaves it alone
   QTest::keyClick(&Address(), Qt::Key_Enter);
   EXPECT_EQ(calls.takeLast(), QStringLiteral("load http://x.cz"));
@@ -148,7 +135,7 @@ TEST_F(BrowserTest, AddressesAreLoadedByEnterAndByChoice) {
   view->Finish();
   EXPECT_EQ(line->selectedText(), QStringLiteral("http://x.cz"));
   // The text of another entry is loaded by Enter, and not by leaving the field, nor by the wheel or by the program.
-  Type("file:///b.html");
+  Work(Window(), "cboAddress= cboAddress:file:///b.html");
   Q_EMIT line->editingFinished();
   Address().setCurrentIndex(2);
   RollWheel(Address(), {}, {0, 120});
@@ -162,21 +149,21 @@ TEST_F(BrowserTest, AddressesAreLoadedByEnterAndByChoice) {
 
 TEST_F(BrowserTest, TheToolBarStartsTheTimerAndActs) {
   platform.opens = {std::nullopt, "/home/jan/c.htm"};
-  for (const char* key : {"Back", "Forward", "Refresh", "Open", "Open"}) {
+  for (const char* key : {"Back!", "Forward!", "Refresh!", "Open!", "Open!"}) {
     Timer().stop();
-    Press(key);
+    Work(Window(), key);
     EXPECT_TRUE(Timer().isActive()) << key;
   }
   EXPECT_EQ(platform.calls.back(), "open \"Všechno (*.*)|*.*|htm (*.htm)|*.htm|html (*.html)|*.html\" 1");
   view->name = QStringLiteral("Půl");
   Q_EMIT Timer().timeout({});
-  Press("Stop");
+  Work(Window(), "Stop!");
   EXPECT_EQ(
       Told(),
       "back, forward, refresh, load file:///home/jan/c.htm, stop; Panel1=Idle, HTML testovací browser (Půl), hidden");
   for (const bool by_key : {true, false}) {
     Window().Present();
-    by_key ? Press("Close") : static_cast<void>(Window().close());
+    by_key ? Work(Window(), "Close!") : static_cast<void>(Window().close());
     EXPECT_EQ(Told("cboAddress"),
               "end if stuck; cboAddress=file:///home/jan/c.htm, HTML testovací browser (Půl), ticking, hidden");
   }
@@ -197,7 +184,7 @@ TEST_F(BrowserTest, AloneItStartsWithItsPageAndAsksAtTheEnd) {
   EXPECT_FALSE(Window().close());
   EXPECT_EQ(platform.calls.back(), "message 276 \"OPRAVDU UKONČIT Browser (Pelmar VEX) ?\" \"Konec\"");
   for (const bool yes : {false, true}) {
-    Press("Close");
+    Work(Window(), "Close!");
     EXPECT_EQ(ended, yes ? 1 : 0);
     EXPECT_NE(Window().isVisible(), yes);
   }
@@ -205,7 +192,7 @@ TEST_F(BrowserTest, AloneItStartsWithItsPageAndAsksAtTheEnd) {
 
 TEST_F(BrowserTest, AddressesOfTheEngineAreRefused) {
   platform.answers = {Answer::kOk};
-  Type("chrome://crash!");
+  Work(Window(), "cboAddress:chrome://crash\r");
   EXPECT_EQ(Told(), "; Panel1=, HTML Testovací  browser, hidden");
   EXPECT_EQ(platform.calls, std::vector<std::string>{
                                 "message 64 \"Takovou adresu interní browser neotvírá:\r\nchrome://crash\r\n\r\nOtvírá "

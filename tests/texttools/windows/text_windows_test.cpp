@@ -106,13 +106,15 @@ TEST_F(TextWindowsTest, ZamenaReplacesAndKeepsThePairs) {
   EXPECT_FALSE(dialog.isVisible());
 }
 
-TEST_F(TextWindowsTest, CommandsOpenTheWindowsOfFilesAndTextsAndEscapeClosesThem) {
+TEST_F(TextWindowsTest, CommandsOpenTheWindowsAndEscapeClosesThem) {
   platform.files["/share/pelmar.txt"] = "help";  // for a window that isn't looked at
   Program program(platform);
   QStringList opened;
-  for (const char* command : {"mnuopen!", "Open!", "mnusave!", "Save!", "mnu_utiliti_dos_unix!", "mnudir!", "mnufind!",
-                              "Find!", "mnuchange!", "mnupresnvyb!", "mnumore!"}) {
-    Work(program.Main(), command);
+  for (const QString& command :
+       Words("mnuopen! Open! mnusave! Save! mnu_utiliti_dos_unix! mnudir! mnufind! Find! mnuchange! mnupresnvyb! "
+             "mnumore! mnucode! mnu_encrypt_shift! Mnu_Encrypt_Confeld! mnu_rnd_encrypt! Mnu_Hack_cry! mnuASCII! "
+             "mnuklavesnice! mnucalk! mnu_analysis! mnumorse!")) {
+    Work(program.Main(), command.toUtf8());
     program.Windows().ForEach([&opened](QWidget& window) {
       if (!window.isVisible()) return;
       opened += window.objectName();
@@ -127,7 +129,8 @@ TEST_F(TextWindowsTest, CommandsOpenTheWindowsOfFilesAndTextsAndEscapeClosesThem
   platform.answers = {Answer::kOk};
   Work(program.Main(), "mnu_format!");
   EXPECT_EQ(opened.join(u' ').toStdString(),
-            "Otevři Otevři Ulož Ulož Dos_Unix_conv DirSetup Hledání Hledání Záměna Výběr Visual Formatuj");
+            "Otevři Otevři Ulož Ulož Dos_Unix_conv DirSetup Hledání Hledání Záměna Výběr Visual ZaKod ShiftKod Confeld "
+            "RND_Sifra CHT kod Klavesnice Kalkul Analytic Morse Formatuj");
   Work(program.Main(), "mnuEditBold!");
   EXPECT_TRUE(Find<TextBox>(program.Main(), "Text1")->font().bold());
 }
