@@ -5,9 +5,6 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QLabel>
-#include <QLineEdit>
-#include <QScrollBar>
 #include <QTimer>
 #include <QWheelEvent>
 #include <functional>
@@ -21,22 +18,6 @@ Type* Find(const QWidget& window, const char* name) {
 }
 
 inline void Click(const QWidget& window, const char* name) { Find<QAbstractButton>(window, name)->click(); }
-
-inline void SetBar(const QWidget& window, const char* name, int value) {
-  Find<QScrollBar>(window, name)->setValue(value);
-}
-
-inline void SetField(const QWidget& window, const char* name, const QString& text) {
-  Find<QLineEdit>(window, name)->setText(text);
-}
-
-inline std::string LabelText(const QWidget& window, const char* name) {
-  return Find<QLabel>(window, name)->text().toStdString();
-}
-
-inline std::string LineText(const QWidget& window, const char* name) {
-  return Find<QLineEdit>(window, name)->text().toStdString();
-}
 
 // True where the widget takes it.
 inline bool RollWheel(QWidget& widget, QPoint pixels, QPoint angle, Qt::KeyboardModifiers modifiers = {}) {

@@ -10,8 +10,9 @@
 #include "files/windows/otevri.h"
 #include "files/windows/uloz.h"
 #include "platform/qt/controls/drive_list.h"
+#include "platform/qt/controls/file_list.h"
+#include "platform/qt/controls/folder_list.h"
 #include "program/program.h"
-#include "support/chosen_file.h"
 #include "support/controls.h"
 #include "support/scripted_platform.h"
 #include "support/steps.h"
@@ -33,6 +34,12 @@ struct FileDialogsTest : testing::Test {
     Put("big.txt", std::string(64001, 'x'));
   }
   void Put(const char* name, const std::string& bytes) { platform.files[folder.Put(name, "")] = bytes; }
+  void Choose(const QWidget& dialog, const char* name) const {
+    Find<FolderList>(dialog, "Dir1")->SetPath(Utf8ToQString(folder.Path()));
+    const QAbstractItemModel& rows = *Find<FileList>(dialog, "File1")->model();
+    const QModelIndexList found = rows.match(rows.index(0, 0), Qt::DisplayRole, QString::fromUtf8(name));
+    Find<FileList>(dialog, "File1")->setCurrentIndex(found.value(0));
+  }
   // "~" in the state is the folder.
   void Expect(const QWidget& dialog, const std::string& steps, std::string state) const {
     for (std::size_t at; (at = state.find('~')) != std::string::npos;) state.replace(at, 1, folder.Path());
@@ -46,13 +53,13 @@ TEST_F(FileDialogsTest, OtevriPreviewsAsksAndOpens) {
   Expect(dialog, "", "Command1=(&Otevři) Label1='Nastav soubor !' Text1=*.* Text2='Není k dispozici' Label3=");
   QTest::keyClick(Find<QComboBox>(dialog, "Text1"), Qt::Key_Down);  // goes on from the mask that shows
   Expect(dialog, "", "Text1=*.html");
-  ChooseFile(dialog, folder.Path(), "b.html");
+  Choose(dialog, "b.html");
   Expect(dialog, "", "Command1=&Otevři Label1=~/b.html Text2=<B>\r\n File1=>b.html");
   Work(dialog, "Text1=*.txt");  // in any case
-  ChooseFile(dialog, folder.Path(), "big.txt");
+  Choose(dialog, "big.txt");
   Expect(dialog, "", "File1=a.TXT|>big.txt Text2='Není k dispozici'");
   Put("a.TXT", "kůň");
-  ChooseFile(dialog, folder.Path(), "a.TXT");
+  Choose(dialog, "a.TXT");
   Expect(dialog, "",
          "Label3='Soubor je v UTF-8, čte se jako Windows-1250. Převede ho „Konverze dos - unix“ v nabídce Soubor.'");
   Put("a.TXT", "text");
@@ -75,7 +82,7 @@ TEST_F(FileDialogsTest, ANameThatIsNoUtf8IsShownOpenedAndSavedByItsBytes) {
   Otevri open(editor.opener, platform, nullptr);
   Uloz save(editor.documents, editor.saver, nullptr);
   open.show();
-  ChooseFile(open, folder.Path(), "kůň.txt");
+  Choose(open, "kůň.txt");
   platform.answers = {Answer::kYes, Answer::kYes};
   Expect(open, "Command1!", "Label1=~/kůň.txt");
   EXPECT_EQ(editor.text.Text(), "horse");
@@ -119,7 +126,7 @@ TEST_F(FileDialogsTest, ConversionWritesBesideTheChosenFile) {
   ExpectState(dialog, "Text1=*.html",
               "Command1='(&DOS --> UNIX)' Command2='(&UNIX --> DOS)' Command4='(U&TF-8 --> 1250)' Command5='(&1250 --> "
               "UTF-8)' Label2=");
-  ChooseFile(dialog, folder.Path(), "b.html");
+  Choose(dialog, "b.html");
   Expect(dialog, "Command1! Command2! Command4! Check1! Command5!", "Label2=~/b.html");
   const std::string stem = folder.Path() + "/b.";
   EXPECT_EQ(platform.files[stem + "unx"] + '|' + platform.files[stem + "dos"] + '|' + platform.files[stem + "1250"] +
