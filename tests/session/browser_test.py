@@ -2,14 +2,17 @@
 screen, the titles of the windows, and what arrives at a server of this machine."""
 
 import re
+import select
 import shutil
+import socket
 import stat
 import subprocess
+import threading
 import time
 import unittest
+from http.server import BaseHTTPRequestHandler, ThreadingHTTPServer
 from pathlib import Path
 
-from counting_server import CountingServer
 from harness import AS_USER, PROGRAM, EditorCase, built
 
 MODULE = built("pelmar-browser.so")
@@ -35,18 +38,69 @@ def name_spaces_work():
     return subprocess.run([*AS_USER, "unshare", "-U", "true"], stderr=subprocess.DEVNULL).returncode == 0
 
 
+class Handler(BaseHTTPRequestHandler):
+    timeout = 5
+
+    def do_GET(self):
+        """A pink page, or where "?to=" in the address leads."""
+        to = self.path.partition("?to=")[2]
+        self.server.asked += [] if "favicon" in self.path else [self.path]
+        self.send_response(302 if to else 200)
+        self.send_header("Location" if to else "Content-Type", to or "text/html")
+        self.end_headers()
+        self.wfile.write(f'<TITLE>Sit</TITLE><BODY BGCOLOR="{PINK}">'.encode())
+
+    def log_message(self, *_):
+        pass
+
+
+class CountingServer(ThreadingHTTPServer):
+    """Of this machine. It counts what arrives, over TCP and UDP at one port."""
+
+    def __init__(self):
+        super().__init__(("127.0.0.1", 0), Handler)
+        self.connections, self.asked = 0, []
+        self.udp = socket.socket(socket.AF_INET, socket.SOCK_DGRAM)
+        self.udp.bind(self.server_address)
+        threading.Thread(target=self.serve_forever, daemon=True).start()
+
+    def handle_error(self, *_):
+        pass  # a page that went away
+
+    def verify_request(self, *_):
+        self.connections += 1
+        return True
+
+    def reached(self):
+        """Whether anything has come, be it an empty connection."""
+        return bool(self.connections or select.select([self.udp], [], [], 0)[0])
+
+    def server_close(self):
+        self.shutdown()
+        super().server_close()
+        self.udp.close()
+
+
 @unittest.skipUnless(MODULE.exists(), "the browser module is not built")
 class BrowserTest(EditorCase):
     settings = {"width": 13500}
     environment = NO_NETWORK
 
     def serve(self):
-        server = CountingServer(f'<TITLE>Sit</TITLE><BODY BGCOLOR="{PINK}">')
-        self.addCleanup(server.close)
+        server = self.enterContext(CountingServer())
         return server, f"127.0.0.1:{server.server_port}"
 
     def shown(self, title):
         return self.work(f"[HTML testovací browser ({title})]")
+
+    def wait_colored(self, window, color):
+        """Left, top, width and height of all that the window shows in this colour ("#ff0000"), once it does."""
+        def colored():
+            picture = f"import -window {window.id} miff:- | convert - -fill black +opaque '{color}'"
+            box = self.command("sh", "-c", picture + " -bordercolor black -border 1 -format %@ info:")
+            width, height, left, top = map(int, re.search(r"(\d+)x(\d+)\+(\d+)\+(\d+)$", box).groups())
+            return (left - 1, top - 1, width, height) if width else None
+        return self.wait(colored, f"the colour {color}")
 
     def click_link(self, browser):
         self.point(browser, 5, 5)

@@ -3,7 +3,6 @@ printer."""
 
 import os
 import re
-import shutil
 import subprocess
 import tempfile
 import unittest
@@ -29,8 +28,7 @@ WORDS = "Příliš žluťoučký kůň\r\núpěl ďábelské ódy"
 
 class SystemTest(EditorCase):
     def new_folder(self):
-        folder = Path(tempfile.mkdtemp(prefix="pelmar-system-"))
-        self.addCleanup(shutil.rmtree, folder, ignore_errors=True)
+        folder = Path(self.enterContext(tempfile.TemporaryDirectory(prefix="pelmar-system-")))
         folder.chmod(0o711)
         return folder
 
