@@ -40,8 +40,7 @@ class PlaceTest(EditorCase):
         # By its frame, whatever the window itself counts from.
         self.command("wmctrl", "-i", "-r", window.id, "-e", f"1,{left},{top},{width},{height}")
 
-    def maximise(self, window, do=True):
-        how = "add" if do else "remove"
+    def maximise(self, window, how="add"):
         self.command("wmctrl", "-i", "-r", window.id, "-b", f"{how},maximized_vert,maximized_horz")
 
     def stored(self):
@@ -120,7 +119,7 @@ class PlaceTest(EditorCase):
         self.maximise(main)
         self.wait_place(notes, lambda left, top, w, h: (WIDTH - w, 0, min(w, 259), HEIGHT), "full height")
         self.assertIn("_NET_WM_STATE_ABOVE", self.command("xprop", "-id", notes.id, "_NET_WM_STATE"))
-        self.maximise(main, False)
+        self.maximise(main, "remove")
         self.wait_place(notes, beside, "beside the restored main window")
 
 

@@ -40,7 +40,7 @@ class SessionManager:
                (1, 1): [((1, 2, 0), array(b"client")), (SAVE_YOURSELF, bytes([1]))]}  # a client, to save itself now
 
     def __init__(self, folder):
-        self.saves, self.ending, self.heard = 0, False, b""
+        self.saves, self.heard = 0, b""
         self.socket = socket.socket(socket.AF_UNIX)
         self.socket.bind(str(folder / "session"))
         self.socket.listen()
@@ -60,12 +60,12 @@ class SessionManager:
                 self.heard += messages.read(8 * length)
                 for answer in self.ANSWERS.get(message, []):
                     self.send(*answer)
-                self.saves += message == self.SAVED
-                if message == self.SAVED and self.ending:
-                    self.send(self.DIE)
+                if message == self.SAVED:
+                    self.saves += 1
+                    if self.saves == 2:  # the end's
+                        self.send(self.DIE)
 
     def end_session(self):
-        self.ending = True
         self.send(self.SAVE_YOURSELF, bytes([0, 1]))  # for all, before the end
 
 

@@ -12,9 +12,6 @@ from harness import AS_USER, NOBODY, EditorCase, built
 
 SERVER = """Listen {0}/socket
 DefaultAuthType None
-<Location />
-Allow all
-</Location>
 <Policy default>
 <Limit All>
 Allow all
