@@ -1,5 +1,5 @@
-"""What isn't saved, documents and notes, with the real program: killed at any moment, ended by the system, on a disk
-without room and without a folder of its own."""
+"""What isn't saved, documents and notes, with the real program: killed at any moment, ended by the system or with the
+desktop's session, and on a disk without room."""
 
 import os
 import random

@@ -11,7 +11,6 @@ from pathlib import Path
 from harness import AS_USER, NOBODY, EditorCase, built
 
 SERVER = """Listen {0}/socket
-DefaultAuthType None
 <Policy default>
 <Limit All>
 Allow all

@@ -34,12 +34,7 @@ struct FileDialogsTest : testing::Test {
     Put("big.txt", std::string(64001, 'x'));
   }
   void Put(const char* name, const std::string& bytes) { platform.files[folder.Put(name, "")] = bytes; }
-  void Choose(const QWidget& dialog, const char* name) const {
-    Find<FolderList>(dialog, "Dir1")->SetPath(Utf8ToQString(folder.Path()));
-    const QAbstractItemModel& rows = *Find<FileList>(dialog, "File1")->model();
-    const QModelIndexList found = rows.match(rows.index(0, 0), Qt::DisplayRole, QString::fromUtf8(name));
-    Find<FileList>(dialog, "File1")->setCurrentIndex(found.value(0));
-  }
+  void Enter(const QWidget& dialog) const { Find<FolderList>(dialog, "Dir1")->SetPath(Utf8ToQString(folder.Path())); }
   // "~" in the state is the folder.
   void Expect(const QWidget& dialog, const std::string& steps, std::string state) const {
     for (std::size_t at; (at = state.find('~')) != std::string::npos;) state.replace(at, 1, folder.Path());
@@ -52,15 +47,11 @@ TEST_F(FileDialogsTest, OtevriPreviewsAsksAndOpens) {
   dialog.show();
   Expect(dialog, "", "Command1=(&Otevři) Label1='Nastav soubor !' Text1=*.* Text2='Není k dispozici' Label3=");
   QTest::keyClick(Find<QComboBox>(dialog, "Text1"), Qt::Key_Down);  // goes on from the mask that shows
-  Expect(dialog, "", "Text1=*.html");
-  Choose(dialog, "b.html");
-  Expect(dialog, "", "Command1=&Otevři Label1=~/b.html Text2=<B>\r\n File1=>b.html");
-  Work(dialog, "Text1=*.txt");  // in any case
-  Choose(dialog, "big.txt");
-  Expect(dialog, "", "File1=a.TXT|>big.txt Text2='Není k dispozici'");
+  Enter(dialog);
+  Expect(dialog, "File1=0", "Text1=*.html Command1=&Otevři Label1=~/b.html Text2=<B>\r\n File1=>b.html");
+  Expect(dialog, "Text1=*.txt File1=1", "File1=a.TXT|>big.txt Text2='Není k dispozici'");  // in any case
   Put("a.TXT", "kůň");
-  Choose(dialog, "a.TXT");
-  Expect(dialog, "",
+  Expect(dialog, "File1=0",
          "Label3='Soubor je v UTF-8, čte se jako Windows-1250. Převede ho „Konverze dos - unix“ v nabídce Soubor.'");
   Put("a.TXT", "text");
   auto* list = Find<FileList>(dialog, "File1");
@@ -82,9 +73,9 @@ TEST_F(FileDialogsTest, ANameThatIsNoUtf8IsShownOpenedAndSavedByItsBytes) {
   Otevri open(editor.opener, platform, nullptr);
   Uloz save(editor.documents, editor.saver, nullptr);
   open.show();
-  Choose(open, "kůň.txt");
+  Enter(open);
   platform.answers = {Answer::kYes, Answer::kYes};
-  Expect(open, "Command1!", "Label1=~/kůň.txt");
+  Expect(open, "File1=3 Command1!", "Label1=~/kůň.txt");
   EXPECT_EQ(editor.text.Text(), "horse");
   EXPECT_EQ(editor.documents.CurrentPath(), path);
   editor.text.SetText("mare");
@@ -102,7 +93,7 @@ TEST_F(FileDialogsTest, UlozShowsItsTargetAsItIsMadeAndHides) {
   extension->showPopup();
   QTest::keyClick(extension->view(), Qt::Key_Return);  // "html" again counts
   Expect(dialog, "", "Command1=&Ulož");
-  Find<FolderList>(dialog, "Dir1")->SetPath(Utf8ToQString(folder.Path()));
+  Enter(dialog);
   extension->lineEdit()->selectAll();
   Expect(dialog, "Text2:h", "Text2=h Label1=~/Jméno.h");  // nothing is completed
   Expect(dialog, "Text1=new.x Text2=", "Label1=~/new.x.");
@@ -126,8 +117,8 @@ TEST_F(FileDialogsTest, ConversionWritesBesideTheChosenFile) {
   ExpectState(dialog, "Text1=*.html",
               "Command1='(&DOS --> UNIX)' Command2='(&UNIX --> DOS)' Command4='(U&TF-8 --> 1250)' Command5='(&1250 --> "
               "UTF-8)' Label2=");
-  Choose(dialog, "b.html");
-  Expect(dialog, "Command1! Command2! Command4! Check1! Command5!", "Label2=~/b.html");
+  Enter(dialog);
+  Expect(dialog, "File1=0 Command1! Command2! Command4! Check1! Command5!", "Label2=~/b.html");
   const std::string stem = folder.Path() + "/b.";
   EXPECT_EQ(platform.files[stem + "unx"] + '|' + platform.files[stem + "dos"] + '|' + platform.files[stem + "1250"] +
                 '|' + platform.files[stem + "utf8"],
@@ -149,7 +140,7 @@ TEST_F(FileDialogsTest, DirSetupLeadsEveryDialogThatPicksFiles) {
     names.sort();
     return names.join(u' ').toStdString();
   };
-  Find<FolderList>(dialog, "Dir1")->SetPath(Utf8ToQString(folder.Path()));
+  Enter(dialog);
   Find<DriveList>(dialog, "Drive1")->SetDrive(QStringLiteral("/"));
   Work(dialog, "Command2!");
   EXPECT_EQ(reached(), "DirSetup");
