@@ -23,7 +23,6 @@ TEST_F(PageTest, TestHtmlShowsTheSavedFileOrWritesOneNameAndOpensAnother) {
   editor.text.SetText("<P>");
   platform.answers = {Answer::kYes, Answer::kNo};
   platform.draws = {0.5};
-  platform.opens_programs = false;  // its result is nobody's affair
   editor.commands.Run("mnutest");
   EXPECT_EQ(platform.TakeCalls(), (Calls{"message 52 \"Soubor je uložen, zobrazit uloženou verzi ?\" \"Nový\"",
                                          "default program /home/jan/a.html"}));

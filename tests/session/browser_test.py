@@ -2,51 +2,99 @@
 screen, the titles of the windows, and what arrives at a server of this machine."""
 
 import re
+import select
 import shutil
+import socket
 import stat
 import subprocess
+import threading
 import time
 import unittest
+from http.server import BaseHTTPRequestHandler, ThreadingHTTPServer
 from pathlib import Path
 
-from counting_server import CountingServer
 from harness import AS_USER, PROGRAM, EditorCase, built
 
 MODULE = built("pelmar-browser.so")
 GREEN, BLUE, YELLOW, PINK = "#00c000", "#2000f0", "#f0f000", "#ff00ff"
 ALONE = re.compile(r"HTML [Tt]estovací +browser.*")  # whatever page it shows
 BROWSE = "alt+s" + 4 * " Right" + " Up Return"  # the last item of the menu Html
-# Nothing of these tests goes beyond this machine.
-NO_NETWORK = {**{name: "http://127.0.0.1:9" for name in ("http_proxy", "https_proxy")}, "no_proxy": "127.0.0.1"}
 # What stands in a link. It tells when the engine has noticed the mouse, which may take it a while.
 LINK = f"""<STYLE>#link {{ background: {BLUE} }} A:hover #link {{ background: {YELLOW} }}</STYLE>
     <IMG ID="link" WIDTH="60" HEIGHT="60" ALT="">"""
 
 # Pages that try to reach SITE by themselves; DONE stands where they have begun to.
 PAGES = sorted((Path(__file__).parent / "sending").glob("*.html"))
-ASKING = ("form", "refresh")  # those that would go there as a whole
 
 
 def go(address):
     return f'alt+a ctrl+a "{address}" Return'
 
 
-def name_spaces_work():
-    return subprocess.run([*AS_USER, "unshare", "-U", "true"], stderr=subprocess.DEVNULL).returncode == 0
+class Handler(BaseHTTPRequestHandler):
+    timeout = 5
+
+    def do_GET(self):
+        """A pink page, or where "?to=" in the address leads."""
+        to = self.path.partition("?to=")[2]
+        self.server.asked += [] if "favicon" in self.path else [self.path]
+        self.send_response(302 if to else 200)
+        self.send_header("Location" if to else "Content-Type", to or "text/html")
+        self.end_headers()
+        self.wfile.write(f'<TITLE>Sit</TITLE><BODY BGCOLOR="{PINK}">'.encode())
+
+    def log_message(self, *_):
+        pass
+
+
+class CountingServer(ThreadingHTTPServer):
+    """Of this machine. It counts what arrives, over TCP and UDP at one port."""
+
+    def __init__(self):
+        super().__init__(("127.0.0.1", 0), Handler)
+        self.connections, self.asked = 0, []
+        self.udp = socket.socket(socket.AF_INET, socket.SOCK_DGRAM)
+        self.udp.bind(self.server_address)
+        threading.Thread(target=self.serve_forever, daemon=True).start()
+
+    def handle_error(self, *_):
+        pass  # a page that went away
+
+    def verify_request(self, *_):
+        self.connections += 1
+        return True
+
+    def reached(self):
+        """Whether anything has come, be it an empty connection."""
+        return bool(self.connections or select.select([self.udp], [], [], 0)[0])
+
+    def server_close(self):
+        self.shutdown()
+        super().server_close()
+        self.udp.close()
 
 
 @unittest.skipUnless(MODULE.exists(), "the browser module is not built")
 class BrowserTest(EditorCase):
     settings = {"width": 13500}
-    environment = NO_NETWORK
+    # Nothing goes beyond this machine.
+    environment = {"http_proxy": "http://127.0.0.1:9", "https_proxy": "http://127.0.0.1:9", "no_proxy": "127.0.0.1"}
 
     def serve(self):
-        server = CountingServer(f'<TITLE>Sit</TITLE><BODY BGCOLOR="{PINK}">')
-        self.addCleanup(server.close)
+        server = self.enterContext(CountingServer())
         return server, f"127.0.0.1:{server.server_port}"
 
     def shown(self, title):
         return self.work(f"[HTML testovací browser ({title})]")
+
+    def wait_colored(self, window, color):
+        """Left, top, width and height of all that the window shows in this colour ("#ff0000"), once it does."""
+        def colored():
+            picture = f"import -window {window.id} miff:- | convert - -fill black +opaque '{color}'"
+            box = self.command("sh", "-c", picture + " -bordercolor black -border 1 -format %@ info:")
+            width, height, left, top = map(int, re.search(r"(\d+)x(\d+)\+(\d+)\+(\d+)$", box).groups())
+            return (left - 1, top - 1, width, height) if width else None
+        return self.wait(colored, f"the colour {color}")
 
     def click_link(self, browser):
         self.point(browser, 5, 5)
@@ -99,7 +147,7 @@ class BrowserTest(EditorCase):
             with self.subTest(name := page.stem):
                 page = page.read_text().replace("DONE", f"top.document.title = '{name}'").replace("SITE", site)
                 self.work(go(f"file://{self.write('page.html', page)}"))
-                if name in ASKING:
+                if name in ("form", "refresh"):  # goes there as a whole
                     self.work("[Pelmar VEX] Return /")  # No is the default
                 self.shown(name)
                 self.assertFalse(server.reached())
@@ -158,7 +206,8 @@ class BrowserTest(EditorCase):
         self.work(2 * "[Zpráva stránky] Return / " + "[Zpráva stránky] alt+d Return /")
         self.shown("done")
 
-    @unittest.skipUnless(name_spaces_work(), "an ordinary user gets no name space here, and the engine no sandbox")
+    @unittest.skipIf(subprocess.call([*AS_USER, "unshare", "-U", "true"], stderr=subprocess.DEVNULL),
+                     "an ordinary user gets no name space here, and the engine no sandbox")
     def test_an_ordinary_user_gets_the_sandbox_and_own_pages(self):
         for file in (PROGRAM, MODULE):
             shutil.copy(file, self.home)

@@ -1,12 +1,5 @@
 """Drives the real program on a screen of its own, as a person would: keys, mouse, windows by title.
 
-    class MineTest(EditorCase):
-        def test_bold_stands_around_the_word(self):
-            page = self.write("page.html", "word")
-            self.start_with(page)
-            self.work('shift+End ctrl+t ctrl+u [Uložit] Return [Soubor] Return / /')
-            self.assertEqual(page.read_bytes(), b"<B>word</B>")
-
 Every wait polls up to a deadline and fails with what it waited for, the windows on show and what the program wrote.
 With PELMAR_SHOTS set to a folder, a picture of the screen at the end of each test goes there. PELMAR_BUILD names the
 build folder.
@@ -24,7 +17,7 @@ from pathlib import Path
 from typing import NamedTuple
 
 sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "tools"))
-from screen import SIZE, Screen, write_settings  # noqa: E402
+from screen import Screen, write_settings  # noqa: E402
 
 NOBODY = 65534
 # What runs a command as an ordinary user, where the test is run by root.
@@ -64,7 +57,7 @@ class EditorCase(unittest.TestCase):
 
     # The program.
 
-    def start(self, *arguments, title="Pelmar VEX ()", program=PROGRAM, folder=None, user=False, **environment):
+    def start(self, *arguments, title="Pelmar VEX ()", program=PROGRAM, user=False, **environment):
         """Starts it, with an empty document by default, and gives its window of this title, where one is told. The one
         before must have ended. As a user: by an ordinary one who owns the home."""
         self.assertFalse(self.running())
@@ -76,7 +69,7 @@ class EditorCase(unittest.TestCase):
         self.log = self.home / "program.log"
         with open(self.log, "wb") as log:
             self.program = subprocess.Popen(
-                command, env={**self.env, **self.environment, **environment}, cwd=folder or self.home,
+                command, env={**self.env, **self.environment, **environment}, cwd=self.home,
                 stdin=subprocess.DEVNULL, stdout=log, stderr=log, start_new_session=True)
         return self.wait_window(title) if title else None
 
@@ -164,53 +157,10 @@ class EditorCase(unittest.TestCase):
             return window.id not in left and (not left or self.active() in left)
         self.wait(gone, f"the end of {window.title!r}", needs_program=False)
 
-    def wait_title(self, window, title):
-        self.wait(lambda: Window(window.id, title) in self.windows(), f"the title {title!r}")
-
     def activate(self, window):
         """Brings the window to the front and waits until it has the keyboard."""
         self.command("wmctrl", "-i", "-a", window.id)
         self.wait(lambda: self.active() == window.id, f"window {window.title!r} to be active")
-
-    def place(self, window):
-        """Left, top, width and height with the frame."""
-        info = self.command("xwininfo", "-id", window.id)
-        left, top, width, height = (int(re.search(name + r":\s+(-?\d+)", info)[1]) for name in (
-            "Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
-        extents = re.findall(r"\d+", self.command("xprop", "-id", window.id, "_NET_FRAME_EXTENTS").partition("=")[2])
-        west, east, north, south = (int(one) for one in extents or "0000")
-        return left - west, top - north, width + west + east, height + north + south
-
-    def wait_place(self, window, wanted, what=""):
-        """Waits for a place with the frame: as the function `wanted` says it from the one of now, or just this one."""
-        def fits():
-            now = self.place(window)
-            return now == (wanted(*now) if callable(wanted) else wanted)
-        self.wait(fits, lambda: f"{what or wanted}; {window.title!r} is at {self.place(window)}")
-
-    def wait_centred(self, title):
-        """The window of this title, once it stands in the middle of the screen."""
-        window = self.wait_window(title)
-        self.wait_place(window, lambda left, top, width, height: (
-            (SIZE[0] - width) // 2, (SIZE[1] - height) // 2, width, height), "the middle")
-        return window
-
-    def move(self, window, left, top, width=-1, height=-1):
-        # By its frame, whatever the window itself counts from.
-        self.command("wmctrl", "-i", "-r", window.id, "-e", f"1,{left},{top},{width},{height}")
-
-    def maximise(self, window, do=True):
-        how = "add" if do else "remove"
-        self.command("wmctrl", "-i", "-r", window.id, "-b", f"{how},maximized_vert,maximized_horz")
-
-    def wait_colored(self, window, color):
-        """Left, top, width and height of all that the window shows in this colour ("#ff0000"), once it does."""
-        def colored():
-            picture = f"import -window {window.id} miff:- | convert - -fill black +opaque '{color}'"
-            box = self.command("sh", "-c", picture + " -bordercolor black -border 1 -format %@ info:")
-            width, height, left, top = map(int, re.search(r"(\d+)x(\d+)\+(\d+)\+(\d+)$", box).groups())
-            return (left - 1, top - 1, width, height) if width else None
-        return self.wait(colored, f"the colour {color}")
 
     # Files.
 

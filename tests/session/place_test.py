@@ -1,6 +1,7 @@
 """Where the windows of the real program stand, frame and all, under a real window manager, which tells the frame
 and takes each wish a moment later."""
 
+import re
 import struct
 import time
 import unittest
@@ -13,6 +14,35 @@ DOCK = "shift+Tab shift+Tab space"  # the round of the tabulator leads from the 
 
 
 class PlaceTest(EditorCase):
+    def place(self, window):
+        """Left, top, width and height with the frame."""
+        info = self.command("xwininfo", "-id", window.id)
+        left, top, width, height = map(int, re.findall(r"(?:Absolute.*|Width|Height): +(-?\d+)", info))
+        extents = re.findall(r"\d+", self.command("xprop", "-id", window.id, "_NET_FRAME_EXTENTS").partition("=")[2])
+        west, east, north, south = (int(one) for one in extents or "0000")
+        return left - west, top - north, width + west + east, height + north + south
+
+    def wait_place(self, window, wanted, what=""):
+        """Waits for a place with the frame: as the function `wanted` says it from the one of now, or just this one."""
+        def fits():
+            now = self.place(window)
+            return now == (wanted(*now) if callable(wanted) else wanted)
+        self.wait(fits, lambda: f"{what or wanted}; {window.title!r} is at {self.place(window)}")
+
+    def wait_centred(self, title):
+        """The window of this title, once it stands in the middle of the screen."""
+        window = self.wait_window(title)
+        self.wait_place(window, lambda left, top, width, height: (
+            (WIDTH - width) // 2, (HEIGHT - height) // 2, width, height), "the middle")
+        return window
+
+    def move(self, window, left, top, width=-1, height=-1):
+        # By its frame, whatever the window itself counts from.
+        self.command("wmctrl", "-i", "-r", window.id, "-e", f"1,{left},{top},{width},{height}")
+
+    def maximise(self, window, how="add"):
+        self.command("wmctrl", "-i", "-r", window.id, "-b", f"{how},maximized_vert,maximized_horz")
+
     def stored(self):
         """Left, top, width, height in twips and the state that the program stored at its close."""
         record = (self.folder / "pelmar.ini").read_bytes()
@@ -89,7 +119,7 @@ class PlaceTest(EditorCase):
         self.maximise(main)
         self.wait_place(notes, lambda left, top, w, h: (WIDTH - w, 0, min(w, 259), HEIGHT), "full height")
         self.assertIn("_NET_WM_STATE_ABOVE", self.command("xprop", "-id", notes.id, "_NET_WM_STATE"))
-        self.maximise(main, False)
+        self.maximise(main, "remove")
         self.wait_place(notes, beside, "beside the restored main window")
 
 

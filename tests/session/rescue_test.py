@@ -1,19 +1,72 @@
-"""What isn't saved, documents and notes, with the real program: killed at any moment, ended by the system, on a disk
-without room and without a folder of its own."""
+"""What isn't saved, documents and notes, with the real program: killed at any moment, ended by the system or with the
+desktop's session, and on a disk without room."""
 
 import os
 import random
 import re
 import resource
 import signal
+import socket
+import struct
+import threading
 import time
 import unittest
 
 from harness import PROGRAM, EditorCase
-from session_manager import SessionManager, array
 
 POWER_CUTS = int(os.environ.get("PELMAR_POWER_CUTS", "6"))
 TAKE_BACK = "[Záchrana] Return / [Pelmar VEX ()*]"
+
+
+def array(data):
+    """As the session manager's protocol has it: a length before it, filled up to eight bytes."""
+    data = struct.pack("<I", len(data)) + data
+    return data + bytes(-len(data) % 8)
+
+
+class SessionManager:
+    """The desktop's session manager as far as a program at the end of the session meets it, by the bytes of its
+    protocol: the client that registers is asked to save itself, at the end once more, and is told to die when it has.
+    The client finds it by `address` in SESSION_MANAGER. `heard` is all that the client has told."""
+
+    # Opcodes of messages, 0 for the connection's and 1 for the session's before each; of what is sent also the header's
+    # fourth byte.
+    SAVED = 1, 8
+    SAVE_YOURSELF, DIE = (1, 3, 0), (1, 9, 0)
+    NAMES = 2 * struct.pack("<H2s", 2, b"ok")  # of a maker and a version
+    ANSWERS = {(0, 1): [((0, 1, 0), b"")],  # the byte order
+               (0, 2): [((0, 6, 0), NAMES)],  # a connection
+               (0, 7): [((0, 8, 1), NAMES)],  # a session on it
+               (1, 1): [((1, 2, 0), array(b"client")), (SAVE_YOURSELF, bytes([1]))]}  # a client, to save itself now
+
+    def __init__(self, folder):
+        self.saves, self.heard = 0, b""
+        self.socket = socket.socket(socket.AF_UNIX)
+        self.socket.bind(str(folder / "session"))
+        self.socket.listen()
+        self.address = f"unix/{socket.gethostname()}:{folder}/session"
+        threading.Thread(target=self.serve, daemon=True).start()
+
+    def send(self, opcodes, data=b""):
+        major, minor, last = opcodes
+        data += bytes(-len(data) % 8)
+        self.client.sendall(struct.pack("<BBBBI", major, minor, 0, last, len(data) // 8) + data)
+
+    def serve(self):
+        with self.socket, self.socket.accept()[0] as self.client, self.client.makefile("rb") as messages:
+            while header := messages.read(8):
+                major, minor, length = struct.unpack("<BBxxI", header)
+                message = min(major, 1), minor
+                self.heard += messages.read(8 * length)
+                for answer in self.ANSWERS.get(message, []):
+                    self.send(*answer)
+                if message == self.SAVED:
+                    self.saves += 1
+                    if self.saves == 2:  # the end's
+                        self.send(self.DIE)
+
+    def end_session(self):
+        self.send(self.SAVE_YOURSELF, bytes([0, 1]))  # for all, before the end
 
 
 class RescueTest(EditorCase):

@@ -3,7 +3,6 @@ printer."""
 
 import os
 import re
-import shutil
 import subprocess
 import tempfile
 import unittest
@@ -12,10 +11,6 @@ from pathlib import Path
 from harness import AS_USER, NOBODY, EditorCase, built
 
 SERVER = """Listen {0}/socket
-DefaultAuthType None
-<Location />
-Allow all
-</Location>
 <Policy default>
 <Limit All>
 Allow all
@@ -29,8 +24,7 @@ WORDS = "Příliš žluťoučký kůň\r\núpěl ďábelské ódy"
 
 class SystemTest(EditorCase):
     def new_folder(self):
-        folder = Path(tempfile.mkdtemp(prefix="pelmar-system-"))
-        self.addCleanup(shutil.rmtree, folder, ignore_errors=True)
+        folder = Path(self.enterContext(tempfile.TemporaryDirectory(prefix="pelmar-system-")))
         folder.chmod(0o711)
         return folder
 

@@ -3,30 +3,36 @@
 // didn't give. Files lie in memory; a path ending in "/" in `files` is a folder.
 #pragma once
 
-#include <cstdint>
+#include <algorithm>
+#include <cerrno>
 #include <deque>
 #include <map>
-#include <optional>
+#include <numeric>
 #include <set>
+#include <stdexcept>
 #include <string>
-#include <string_view>
 #include <utility>
 #include <vector>
 
 #include "platform/platform.h"
+#include "text/codepage.h"
 
 namespace pelmar {
 
-class ScriptedPlatform : public Platform {
+// Its printer's paper is the platform itself.
+class ScriptedPlatform : public Platform, public Paper {
  public:
-  // One string a call, in order, texts as they were given: `message 52 "text" "title"`, `about "title" "text"`, `input
-  // "prompt" "title" "initial"`, `open "filter" 2`, `save "filter" 2`, `write path` and `create path` (also failed
-  // ones), `print name font size bold italic`, `page`, `put line x "text"`, `recent path`, `default
-  // program path`, `start copy`, `clipboard "text"`, `clipboard clear`, `busy 1`. Reading leaves no trace.
+  // One string a call, in order, as the functions below note it, with texts as they were given; also of a write that
+  // failed. Reading leaves no trace.
   std::vector<std::string> calls;
   // The calls so far, which are then forgotten.
   std::vector<std::string> TakeCalls() { return std::exchange(calls, {}); }
-  const std::string& Note(const std::string& call);
+  // The same in one line, "; " behind each.
+  std::string TakeTold() {
+    std::string told;
+    for (const std::string& call : TakeCalls()) told += call + "; ";
+    return told;
+  }
 
   std::deque<Answer> answers;  // to messages; an OK box takes only kOk, a question only kYes and kNo
   std::deque<std::optional<std::string>> inputs, opens, saves;
@@ -42,64 +48,153 @@ class ScriptedPlatform : public Platform {
   KeyStates keys;
   std::deque<double> draws;  // Random() takes these first, then 0, 0.25, 0.5 and 0.75 in turn.
   int reseeds = 0;
-  std::string install_folder = "/install/", temp_folder = "/tmp/", share_folder = "/share/";
-  bool opens_programs = true;  // what OpenWithDefaultProgram and StartAnotherCopy answer
+  std::string install_folder = "/install/";
   PrintOutcome print_outcome;
   double paper_width = 100;  // each character is one dot wide
-  std::size_t lines_per_page = 3;
-  int busy = 0;  // how many busy pointers are in force
+  int busy = 0;              // how many busy pointers are in force
 
-  Answer Message(MessageType type, std::string_view text, std::string_view title) override;
-  void ShowAbout(std::string_view title, std::string_view text) override;
+  Answer Message(MessageType type, std::string_view text, std::string_view title) override {
+    const std::string call = Note("message " + std::to_string(static_cast<int>(type)), {text, title});
+    if (on_message) on_message();
+    const Answer answer = Take(answers, call);
+    const bool question = type != MessageType::kOk && type != MessageType::kOkInfo;
+    if (question == (answer == Answer::kOk)) throw std::logic_error("no such button: " + call);
+    return answer;
+  }
+  void ShowAbout(std::string_view title, std::string_view text) override { Note("about", {title, text}); }
   std::optional<std::string> InputBox(std::string_view prompt, std::string_view title,
-                                      std::string_view initial) override;
-  std::optional<std::string> OpenDialog(std::string_view filter, int filter_index) override;
-  std::optional<std::string> SaveDialog(std::string_view filter, int filter_index) override;
+                                      std::string_view initial) override {
+    return Take(inputs, Note("input", {prompt, title, initial}));
+  }
+  std::optional<std::string> OpenDialog(std::string_view filter, int filter_index) override {
+    return Take(opens, Note("open", {filter}) += ' ' + std::to_string(filter_index));
+  }
+  std::optional<std::string> SaveDialog(std::string_view filter, int filter_index) override {
+    return Take(saves, Note("save", {filter}) += ' ' + std::to_string(filter_index));
+  }
+
   const std::optional<std::string>& ClipboardContent() override { return clipboard; }
   std::uint64_t ClipboardRevision() override { return 1 + std::hash<std::optional<std::string>>()(clipboard) / 2; }
-  void SetClipboardText(std::string_view text) override;
-  void ClearClipboard() override;
+  void SetClipboardText(std::string_view text) override {
+    Note("clipboard", {text});
+    clipboard = std::string(text);
+  }
+  void ClearClipboard() override {
+    Note("clipboard clear");
+    clipboard.reset();
+  }
+
   bool CanRead(const std::string& path) override { return ReadError(path) == 0; }
-  FileBytes ReadFile(const std::string& path, std::optional<std::uint64_t> limit) override;
-  WriteOutcome WriteDocument(const std::string& path, std::string_view bytes) override;
+  FileBytes ReadFile(const std::string& path, std::optional<std::uint64_t> limit) override {
+    if (const int error = ReadError(path)) return {.error = error, .bytes = {}};
+    return {.error = 0, .bytes = files[path].substr(0, limit.value_or(std::string::npos))};
+  }
+  WriteOutcome WriteDocument(const std::string& path, std::string_view bytes) override {
+    Note("write " + path);
+    if (const int error = ErrorAt(path, write_errors)) return {.error = error, .kept = kept_content};
+    files[path] = std::string(bytes);
+    return {};
+  }
   int WritePrivateFile(const std::string& path, std::string_view bytes) override {
     private_files.insert(path);
     return WriteDocument(path, bytes).error;
   }
-  int WriteNewFile(const std::string& path, std::string_view bytes) override;
-  int ReadByPieces(const std::string& path, const std::function<bool(std::string_view piece)>& take) override;
+  int WriteNewFile(const std::string& path, std::string_view bytes) override {
+    Note("create " + path);
+    if (const int error = ErrorAt(path, write_errors)) return error;
+    return files.try_emplace(path, bytes).second ? 0 : EEXIST;
+  }
+  // In pieces of three bytes, so that every border is met.
+  int ReadByPieces(const std::string& path, const std::function<bool(std::string_view piece)>& take) override {
+    if (const int error = ReadError(path)) return error;
+    const std::string_view bytes = files[path];
+    for (std::size_t at = 0; at < bytes.size() && take(bytes.substr(at, 3)); at += 3) continue;
+    return 0;
+  }
   WriteOutcome RewriteFile(const std::string& source, const std::string& target, OldTail tail,
-                           FileRewriter& rewriter) override;
+                           FileRewriter& rewriter) override {
+    Note("rewrite " + source + ' ' + target);
+    std::string out;
+    const auto rewrite = [&](std::string_view piece) { return out += rewriter.Rewrite(piece), true; };
+    if (const int error = ReadByPieces(source, rewrite)) return {.error = error};
+    out += rewriter.Finish();
+    out.resize(static_cast<std::size_t>(rewriter.Kept()));
+    if (const int error = ErrorAt(target, write_errors)) return {.error = error, .kept = kept_content};
+    const std::string& old = files[target];
+    if (tail == OldTail::kKeep && old.size() > out.size()) out += old.substr(out.size());
+    files[target] = out;
+    return {};
+  }
   // A file's stamp is its bytes', by a checksum.
-  std::optional<FileStamp> Stamp(const std::string& path) override;
+  std::optional<FileStamp> Stamp(const std::string& path) override {
+    const auto found = files.find(path);
+    if (found == files.end()) return std::nullopt;
+    return FileStamp{.node = std::hash<std::string>()(found->second), .size = found->second.size()};
+  }
   bool IsSameFile(const std::string& left, const std::string& right) override { return left == right; }
   std::string InstallFolder() override { return install_folder; }
-  std::string ShareFolder() override { return share_folder; }
-  std::string TempFolder() override { return temp_folder; }
-  PrintOutcome Print(const PrintFont& font, const std::string& name, const std::function<void(Paper&)>& draw) override;
-  void AddToRecentDocuments(const std::string& path) override { Note("recent " + path); }
-  bool OpenWithDefaultProgram(const std::string& path) override {
-    return Note("default program " + path), opens_programs;
+  std::string ShareFolder() override { return "/share/"; }
+  std::string TempFolder() override { return "/tmp/"; }
+
+  PrintOutcome Print(const PrintFont& font, const std::string& name, const std::function<void(Paper&)>& draw) override {
+    Note("print " + name + ' ' + font.name + ' ' + std::to_string(static_cast<int>(font.size)) +
+         (font.bold ? " bold" : "") + (font.italic ? " italic" : ""));
+    draw(*this);
+    return print_outcome;
   }
-  bool StartAnotherCopy() override { return Note("start copy"), opens_programs; }
+  void AddToRecentDocuments(const std::string& path) override { Note("recent " + path); }
+  bool OpenWithDefaultProgram(const std::string& path) override { return Note("default program " + path), false; }
+  bool StartAnotherCopy() override { return Note("start copy"), false; }
   LocalTime Now() override { return now; }
   KeyStates Keys() override { return keys; }
-  double Random() override;
+  double Random() override {
+    if (draws.empty()) return 0.25 * (drawn_++ % 4);
+    return Take(draws, "a draw");
+  }
   void ReseedRandom() override { ++reseeds; }
   // By the codes of the upper-case letters: the Czech order is the real platform's affair.
-  std::vector<std::size_t> SortedOrder(const std::vector<std::string_view>& texts) override;
-  void SetBusyPointer(bool busy_now) override;
-
-  // The calls in one line, "; " behind each; they are forgotten then.
-  std::string TakeTold() {
-    std::string told;
-    for (const std::string& call : TakeCalls()) told += call + "; ";
-    return told;
+  std::vector<std::size_t> SortedOrder(const std::vector<std::string_view>& texts) override {
+    std::vector<std::size_t> order(texts.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::ranges::stable_sort(order, {}, [&](std::size_t index) { return ToUpper(texts[index]); });
+    return order;
+  }
+  void SetBusyPointer(bool busy_now) override {
+    Note(busy_now ? "busy 1" : "busy 0");
+    busy += busy_now ? 1 : -1;
   }
 
  private:
-  [[nodiscard]] int ReadError(const std::string& path) const;
-  [[nodiscard]] int WriteError(const std::string& path) const;
+  // The texts stand in quotes.
+  std::string& Note(std::string call, std::initializer_list<std::string_view> texts = {}) {
+    for (const std::string_view text : texts) call += " \"" + std::string(text) + '"';
+    return calls.emplace_back(std::move(call));
+  }
+  template <typename Value>
+  Value Take(std::deque<Value>& queue, const std::string& call) {
+    if (queue.empty()) throw std::logic_error("nobody answers " + call);
+    Value answer = std::move(queue.front());
+    queue.pop_front();
+    return answer;
+  }
+  [[nodiscard]] int ErrorAt(const std::string& path, const std::map<std::string, int>& errors) const {
+    if (const auto error = errors.find(path); error != errors.end()) return error->second;
+    return path.ends_with('/') || files.contains(path + '/') ? EISDIR : 0;
+  }
+  [[nodiscard]] int ReadError(const std::string& path) const {
+    const int error = ErrorAt(path, read_errors);
+    return error || files.contains(path) ? error : ENOENT;
+  }
+
+  [[nodiscard]] double Width() const override { return paper_width; }
+  [[nodiscard]] std::size_t LinesPerPage() const override { return 3; }
+  [[nodiscard]] double EndOf(double x, std::string_view text) const override {
+    return x + static_cast<double>(text.size());
+  }
+  void Put(std::size_t line, double x, std::string_view text) override {
+    Note("put " + std::to_string(line) + ' ' + std::to_string(static_cast<int>(x)), {text});
+  }
+  void NewPage() override { Note("page"); }
 
   int drawn_ = 0;
 };

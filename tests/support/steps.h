@@ -4,8 +4,6 @@
 #include <QAbstractItemView>
 #include <QAction>
 #include <QComboBox>
-#include <QProgressBar>
-#include <QTabBar>
 #include <QTest>
 #include <algorithm>
 
@@ -63,28 +61,27 @@ inline void Work(const QWidget& window, const char* steps) {
       continue;
     }
     QWidget* control = Named(window, name);
+    if (!control) continue;
+    auto* box = qobject_cast<QComboBox*>(control);
     if (auto* button = qobject_cast<QAbstractButton*>(control); button && act == QLatin1Char('!')) {
       button->click();
-    } else if (control && act == QLatin1Char(':')) {
+    } else if (act == QLatin1Char(':')) {
       control->setFocus();
       for (const QChar c : value) Type(*window.focusWidget(), c);
     } else if (auto* text = qobject_cast<TextBox*>(control)) {
       text->Buffer().SetText(TextFromQString(value));
-    } else if (auto* field = qobject_cast<QLineEdit*>(control)) {
-      field->setText(value);
-    } else if (auto* box = qobject_cast<QComboBox*>(control)) {
-      box->isEditable() ? box->setEditText(value) : box->setCurrentIndex(value.toInt());
-    } else if (auto* bar = qobject_cast<QAbstractSlider*>(control)) {
-      bar->setValue(value.toInt());
-    } else if (auto* tabs = qobject_cast<QTabBar*>(control)) {
-      tabs->setCurrentIndex(value.toInt());
+    } else if (box && box->isEditable()) {
+      box->setEditText(value);
     } else if (auto* folders = qobject_cast<FolderList*>(control)) {
       folders->SetPath(value);
     } else if (auto* list = qobject_cast<QAbstractItemView*>(control)) {
       bool numbered = false;
       const QModelIndex row = list->model()->index(value.toInt(&numbered), 0);
       list->setCurrentIndex(numbered ? row : list->model()->match(row, Qt::DisplayRole, value).value(0));
-    } else {
+    } else if (!control->setProperty(qobject_cast<QLineEdit*>(control)         ? "text"
+                                     : qobject_cast<QAbstractSlider*>(control) ? "value"
+                                                                               : "currentIndex",
+                                     value)) {
       ADD_FAILURE() << "nothing does " << step.toStdString();
     }
   }
@@ -94,24 +91,14 @@ inline void Work(const QWidget& window, const char* steps) {
 // before the selected ones; in parentheses where it is disabled.
 inline QString Shown(const QWidget* control) {
   QString shown;
+  for (const char* property : {"currentIndex", "currentText", "text", "value"})
+    if (const QVariant value = control->property(property); value.isValid()) shown = value.toString();
   if (auto* swatch = qobject_cast<const Swatch*>(control)) {
     shown = swatch->Color().name();
-  } else if (auto* button = qobject_cast<const QAbstractButton*>(control)) {
-    shown = button->isCheckable() ? QString::number(button->isChecked()) : button->text();
-  } else if (auto* label = qobject_cast<const QLabel*>(control)) {
-    shown = label->text();
-  } else if (auto* field = qobject_cast<const QLineEdit*>(control)) {
-    shown = field->text();
+  } else if (auto* button = qobject_cast<const QAbstractButton*>(control); button && button->isCheckable()) {
+    shown = QString::number(button->isChecked());
   } else if (auto* text = qobject_cast<const TextBox*>(control)) {
     shown = TextToQString(text->Buffer().Text());
-  } else if (auto* box = qobject_cast<const QComboBox*>(control)) {
-    shown = box->currentText();
-  } else if (auto* bar = qobject_cast<const QAbstractSlider*>(control)) {
-    shown = QString::number(bar->value());
-  } else if (auto* progress = qobject_cast<const QProgressBar*>(control)) {
-    shown = QString::number(progress->value());
-  } else if (auto* tabs = qobject_cast<const QTabBar*>(control)) {
-    shown = QString::number(tabs->currentIndex());
   } else if (auto* list = qobject_cast<const QAbstractItemView*>(control)) {
     for (int row = 0; row < list->model()->rowCount(); ++row) {
       const QModelIndex index = list->model()->index(row, 0);
@@ -122,24 +109,20 @@ inline QString Shown(const QWidget* control) {
   return control->isEnabled() ? shown : QLatin1Char('(') + shown + QLatin1Char(')');
 }
 
-// The controls named, as in "Label1=1% VScroll1=(50)".
+// The controls named, as in "Label1=1% VScroll1=(50)"; a name may have more behind "=".
 inline std::string State(const QWidget& window, const char* names) {
   QStringList shown;
-  for (const QString& name : Words(names))
+  for (const QString& word : Words(names)) {
+    const QString name = word.section(QLatin1Char('='), 0, 0);
     if (const QWidget* control = Named(window, name)) shown += name + QLatin1Char('=') + Shown(control);
+  }
   return shown.join(QLatin1Char(' ')).toStdString();
 }
 
 // Expects after the steps what the second line says of the controls that it names: "Label1=1% Text1='a b'".
 inline void ExpectState(const QWidget& window, const char* steps, const char* state) {
   Work(window, steps);
-  QStringList shown;
-  const QStringList expected = Words(state);
-  for (const QString& word : expected) {
-    const QString name = word.left(word.indexOf(QLatin1Char('=')));
-    if (const QWidget* control = Named(window, name)) shown += name + QLatin1Char('=') + Shown(control);
-  }
-  EXPECT_EQ(shown.join(QLatin1Char(' ')).toStdString(), expected.join(QLatin1Char(' ')).toStdString()) << steps;
+  EXPECT_EQ(State(window, state), Words(state).join(QLatin1Char(' ')).toStdString()) << steps;
 }
 
 }  // namespace pelmar
