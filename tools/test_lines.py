@@ -8,8 +8,7 @@ import collections
 import pathlib
 import sys
 
-WANTED = 34  # percent
-LIMIT = 36  # on the way there: it only ever goes down
+LIMIT = 34  # percent
 CODE = {".h", ".cpp"}
 TESTS = CODE | {".py", ".sh"}
 
@@ -33,7 +32,7 @@ def main():
         share = f"{100 * tests[folder] / code[folder]:6.0f}%" if code[folder] and tests[folder] else ""
         print(f"{folder:<24}{code[folder]:>8}{tests[folder]:>8}{share}")
     share = 100 * tests.total() / code.total()
-    print(f"{'all':<24}{code.total():>8}{tests.total():>8}{share:6.0f}%, wanted {WANTED}%, at most {LIMIT}%")
+    print(f"{'all':<24}{code.total():>8}{tests.total():>8}{share:6.1f}%, at most {LIMIT}%")
     if share > LIMIT:
         sys.exit(f"test_lines: the tests are {share:.1f}% of the code; take weaker ones away")
 
