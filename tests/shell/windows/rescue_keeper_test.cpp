@@ -170,5 +170,21 @@ TEST_F(RescueKeeperTest, AnOldFileGoesOnlyWhenItsTextIsSafe) {
   }
 }
 
+TEST_F(RescueKeeperTest, WhatFindsNoTabIsToldOnce) {
+  TextBuffer box;
+  Documents documents(box);
+  RescueKeeper keeper(ModifiedDocuments(documents), platform);
+  for (int file = 1; file <= kTabCount + 1; ++file) {
+    const std::string path = folder.File("rescue-" + std::to_string(file) + "-1.pelmar");
+    platform.files[path] = RescueBytes(kDocumentsRescue, {1, {{1, "", std::to_string(file)}}});
+    std::ofstream touched(path);
+  }
+  platform.answers = {Answer::kYes, Answer::kOk, Answer::kOk};
+  keeper.Offer();
+  keeper.Touch();
+  QTest::qWait(1300);  // in which it writes once more
+  EXPECT_EQ(platform.answers.size(), 1u);
+}
+
 }  // namespace
 }  // namespace pelmar
