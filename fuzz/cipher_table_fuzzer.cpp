@@ -1,16 +1,13 @@
 // Any bytes as a cipher table: the reader may neither fall nor take more memory than the file has, what it read must be
 // writable and readable again, and everything that the window does with a table must end.
 #include <cstdint>
-#include <cstdlib>
+#include <string>
 
+#include "checks.h"
 #include "ciphers/rnd_cipher.h"
 #include "ciphers/table_file.h"
 
 namespace {
-
-void Require(bool holds) {
-  if (!holds) std::abort();
-}
 
 std::size_t SizeOf(const pelmar::CipherTable& table) {
   std::size_t size = table.OneLetters.size() + table.ZeroLetters.size() + table.Note.size();

@@ -1,34 +1,29 @@
 // The notes' file and rescue file, damaged in every way: what is read is never more than what was there, and what was
 // read is written so that it reads the same.
 #include <cstdint>
-#include <cstdlib>
 #include <string_view>
 
 #include "accessories/notes.h"
+#include "checks.h"
 #include "shell/record_bytes.h"
 
 namespace pelmar {
 namespace {
 
-void Expect(bool holds) {
-  if (!holds) std::abort();
-}
-
 void CheckFile(std::string_view bytes) {
   const NotesRecord record = ReadNotes(bytes);
   std::size_t size = 0;
   for (const std::string& page : record.pages) size += page.size();
-  Expect(size <= bytes.size());
-  Expect(ReadNotes(NotesBytes(record)) == record);
+  Require(size <= bytes.size());
+  Require(ReadNotes(NotesBytes(record)) == record);
 }
 
 void CheckRescue(std::string_view bytes) {
-  const auto unsaved = ReadRescue(kNotesRescue, bytes);
+  const auto unsaved = ReadCheckedRescue(kNotesRescue, bytes);
   if (!unsaved) return;
-  Expect(unsaved->texts.empty() || RescueBytes(kNotesRescue, *unsaved) == bytes);
   NotesRecord record = ReadNotes(bytes);
   const auto left = BringBackNotes(record, {*unsaved});
-  Expect(left.size() <= unsaved->texts.size());
+  Require(left.size() <= unsaved->texts.size());
 }
 
 }  // namespace

@@ -2,18 +2,14 @@
 // The first three bytes of the input are the caret, the rest is the text.
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 
+#include "checks.h"
 #include "html/tag_editor.h"
 #include "text/text_buffer.h"
 
 namespace pelmar {
 namespace {
-
-void Require(bool holds) {
-  if (!holds) std::abort();
-}
 
 // A tag that stands in the text begins with "<" at or before the character behind the caret, and holds one ">" at most,
 // at its end.

@@ -1,19 +1,15 @@
 // Any edits of any text: the buffer holds what a plain string holds, undo and redo lead back and forth, and a layout
 // that follows each change is the one that is laid out anew. Three bytes of the input are one step.
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 
+#include "checks.h"
 #include "text/text_buffer.h"
 #include "text/text_layout.h"
 
 namespace pelmar {
 namespace {
-
-void Expect(bool holds) {
-  if (!holds) std::abort();
-}
 
 // What is written: ends of lines and their halves, blanks, tabs, and words that wrap.
 constexpr std::string_view kPieces[] = {
@@ -62,14 +58,14 @@ class Box {
   }
 
   void Check() const {
-    Expect(buffer_.Text() == plain_);
+    Require(buffer_.Text() == plain_);
     TextLayout fresh(buffer_);
     fresh.Lay(buffer_, rules_);
-    Expect(fresh.RowCount() == layout_.RowCount() && fresh.ContentWidth() == layout_.ContentWidth());
+    Require(fresh.RowCount() == layout_.RowCount() && fresh.ContentWidth() == layout_.ContentWidth());
     for (std::size_t row = 0; row < fresh.RowCount(); ++row) {
-      Expect(fresh.RowStart(row) == layout_.RowStart(row) && fresh.RowEnd(row) == layout_.RowEnd(row));
-      Expect(fresh.XOf(row, fresh.RowEnd(row)) == layout_.XOf(row, layout_.RowEnd(row)));
-      Expect(layout_.RowOf(layout_.RowStart(row)) == row);
+      Require(fresh.RowStart(row) == layout_.RowStart(row) && fresh.RowEnd(row) == layout_.RowEnd(row));
+      Require(fresh.XOf(row, fresh.RowEnd(row)) == layout_.XOf(row, layout_.RowEnd(row)));
+      Require(layout_.RowOf(layout_.RowStart(row)) == row);
     }
   }
 
@@ -81,17 +77,17 @@ class Box {
     std::string wanted = plain_;
     wanted.replace(buffer_.SelStart(), buffer_.SelLength(), piece);
     act();
-    Expect(plain_ == wanted);
+    Require(plain_ == wanted);
   }
   void ThereAndBack(bool (TextBuffer::*go)(), bool (TextBuffer::*come_back)(), unsigned b) {
     const std::string before = plain_;
     if (!(buffer_.*go)() || b % 2 == 0) return;
-    Expect((buffer_.*come_back)() && plain_ == before);
+    Require((buffer_.*come_back)() && plain_ == before);
   }
 
   // Makes the change that is told in the plain text, whatever made it.
   void Follow(const TextChange& change) {
-    Expect(change.pos + change.removed <= plain_.size() && change.pos + change.inserted <= buffer_.Size());
+    Require(change.pos + change.removed <= plain_.size() && change.pos + change.inserted <= buffer_.Size());
     plain_.replace(change.pos, change.removed, buffer_.Text().substr(change.pos, change.inserted));
     layout_.Update(change);
   }
