@@ -23,8 +23,9 @@ BROWSE = "alt+s" + 4 * " Right" + " Up Return"  # the last item of the menu Html
 LINK = f"""<STYLE>#link {{ background: {BLUE} }} A:hover #link {{ background: {YELLOW} }}</STYLE>
     <IMG ID="link" WIDTH="60" HEIGHT="60" ALT="">"""
 
-# Pages that try to reach SITE by themselves; DONE stands where they have begun to.
+# Pages that try to reach SITE by themselves; DONE stands where they have begun to, PEER for the script of peers.
 PAGES = sorted((Path(__file__).parent / "sending").glob("*.html"))
+PEER = PAGES[0].with_name("peer.js").read_text()
 
 
 def go(address):
@@ -145,7 +146,8 @@ class BrowserTest(EditorCase):
         self.start("-BROWSER", title=ALONE)
         for page in PAGES:
             with self.subTest(name := page.stem):
-                page = page.read_text().replace("DONE", f"top.document.title = '{name}'").replace("SITE", site)
+                page = page.read_text().replace("PEER", PEER).replace("SITE", site)
+                page = page.replace("DONE", f"top.document.title = '{name}'")
                 self.work(go(f"file://{self.write('page.html', page)}"))
                 if name in ("form", "refresh"):  # goes there as a whole
                     self.work("[Pelmar VEX] Return /")  # No is the default

@@ -17,8 +17,6 @@ Type* Find(const QWidget& window, const char* name) {
   return window.findChild<Type*>(QString::fromUtf8(name));
 }
 
-inline void Click(const QWidget& window, const char* name) { Find<QAbstractButton>(window, name)->click(); }
-
 // True where the widget takes it.
 inline bool RollWheel(QWidget& widget, QPoint pixels, QPoint angle, Qt::KeyboardModifiers modifiers = {}) {
   QWheelEvent wheel(QPointF(1, 1), widget.mapToGlobal(QPointF(1, 1)), pixels, angle, {}, modifiers, Qt::NoScrollPhase,

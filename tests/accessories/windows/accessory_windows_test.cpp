@@ -37,7 +37,7 @@ struct AccessoryTest : testing::Test {
 };
 
 void Press(const QWidget& window, std::initializer_list<int> keys) {
-  for (const int key : keys) Click(window, ("Command" + std::to_string(key)).c_str());
+  for (const int key : keys) Work(window, ("Command" + std::to_string(key) + "!").c_str());
 }
 
 TEST_F(AccessoryTest, MorseCollectsSigns) {
