@@ -11,6 +11,7 @@
 #include "platform/qt/controls/text_box_accessible.h"
 #include "platform/qt/convert.h"
 #include "support/controls.h"
+#include "support/marked_text.h"
 #include "support/random_source.h"
 #include "support/temp_folder.h"
 
@@ -32,17 +33,13 @@ struct TextBoxTest : testing::Test {
   // A | stands at the caret and a [ at the other end of a selection.
   // Or else the pop-up menu that shows, with - before what can't be chosen.
   [[nodiscard]] std::string State() const {
-    const TextBuffer& buffer = box->Buffer();
     if (auto* menu = QApplication::activePopupWidget()) {
       QString items;
       for (const QAction* item : menu->actions()) items += (item->isEnabled() ? u'|' : u'-') + item->text();
       menu->close();
       return TextFromQString(items.remove(u'&').replace(u'\t', u' ').trimmed());
     }
-    std::string text = buffer.Text();
-    text.insert(buffer.Caret(), "|");
-    if (buffer.HasSelection()) text.insert(buffer.Anchor() + (buffer.Caret() < buffer.Anchor() ? 1 : 0), "[");
-    return text;
+    return Marked(box->Buffer());
   }
   void SetRows(int count) const { box->SetText(QByteArray(300, 'x').append("\r\n").repeated(count)); }
   // Just right of the left border, so that the caret goes before the character, or that far into it.
@@ -54,8 +51,7 @@ struct TextBoxTest : testing::Test {
   // Words: "Ctrl+A" are keys; "'x" is a typed letter, "Alt+'x" one with that key; "click@4" the mouse before a
   // character, "S+click@4" with Shift, "R+click@4" its right button; "drop@4" brings a text there, "urls@4" a file;
   // "~x/y/-3/2" is an input method that shows x and types y in place of two characters, three before the caret;
-  // "readOnly=1" sets a property; "item=6" chooses
-  // from the menu.
+  // "readOnly=1" sets a property; "item=6" chooses from the menu.
   void Do(const char* steps) const {
     const QStringList actions = QStringLiteral("press release click double move").split(u' ');
     for (const QString& step : QString::fromUtf8(steps).split(u' ')) {
