@@ -171,9 +171,10 @@ class Platform {
                              const std::function<void(Paper&)>& draw) = 0;
 
   virtual void AddToRecentDocuments(const std::string& path) = 0;
-  virtual bool OpenWithDefaultProgram(const std::string& path) = 0;
-  // One more copy of this program, independent of this one, with no arguments.
-  virtual bool StartAnotherCopy() = 0;
+  // Whether a program came up is not known to the caller, and nobody is told.
+  virtual void OpenWithDefaultProgram(const std::string& path) = 0;
+  // One more copy of this program, independent of this one, with no arguments; silent where it does not start.
+  virtual void StartAnotherCopy() = 0;
 
   virtual LocalTime Now() = 0;
   virtual KeyStates Keys() = 0;

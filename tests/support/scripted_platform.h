@@ -143,8 +143,8 @@ class ScriptedPlatform : public Platform, public Paper {
     return print_outcome;
   }
   void AddToRecentDocuments(const std::string& path) override { Note("recent " + path); }
-  bool OpenWithDefaultProgram(const std::string& path) override { return Note("default program " + path), false; }
-  bool StartAnotherCopy() override { return Note("start copy"), false; }
+  void OpenWithDefaultProgram(const std::string& path) override { Note("default program " + path); }
+  void StartAnotherCopy() override { Note("start copy"); }
   LocalTime Now() override { return now; }
   KeyStates Keys() override { return keys; }
   double Random() override {

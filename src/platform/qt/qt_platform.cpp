@@ -126,10 +126,10 @@ PrintOutcome QtPlatform::Print(const PrintFont& font, const std::string& name,
 
 void QtPlatform::AddToRecentDocuments(const std::string& path) { recent_.Add(CleanFolder(PathToQString(path))); }
 
-bool QtPlatform::OpenWithDefaultProgram(const std::string& path) { return QDesktopServices::openUrl(UrlOfPath(path)); }
+void QtPlatform::OpenWithDefaultProgram(const std::string& path) { QDesktopServices::openUrl(UrlOfPath(path)); }
 
-bool QtPlatform::StartAnotherCopy() {
-  return QProcess::startDetached(QCoreApplication::applicationFilePath(), {}, Utf8ToQString(InstallFolder()));
+void QtPlatform::StartAnotherCopy() {
+  QProcess::startDetached(QCoreApplication::applicationFilePath(), {}, Utf8ToQString(InstallFolder()));
 }
 
 LocalTime QtPlatform::Now() {

@@ -50,8 +50,8 @@ class QtPlatform : public Platform {
   PrintOutcome Print(const PrintFont& font, const std::string& name, const std::function<void(Paper&)>& draw) override;
 
   void AddToRecentDocuments(const std::string& path) override;
-  bool OpenWithDefaultProgram(const std::string& path) override;
-  bool StartAnotherCopy() override;
+  void OpenWithDefaultProgram(const std::string& path) override;
+  void StartAnotherCopy() override;
 
   LocalTime Now() override;
   KeyStates Keys() override;

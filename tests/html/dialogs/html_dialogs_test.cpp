@@ -7,6 +7,7 @@
 #include <QTabBar>
 #include <QTest>
 #include <QTreeWidget>
+#include <cstring>
 #include <filesystem>
 
 #include "html/dialogs/odkaz.h"
@@ -19,6 +20,7 @@
 #include "program/commands.h"
 #include "shell/windows/program_parts.h"
 #include "support/controls.h"
+#include "support/marked_text.h"
 #include "support/scripted_platform.h"
 #include "support/steps.h"
 #include "support/temp_folder.h"
@@ -31,9 +33,9 @@ namespace {
 constexpr const char* kHead = R"(  <META HTTP-EQUIV="Content-Type" CONTENT="text/html; charset=windows-1250">¶)"
                               R"(  <META NAME="GENERATOR" CONTENT="Orvilanths PELmar VEX v8.9.2.1b CZ">¶)";
 
-// Opens the dialog by the command, takes the steps, presses "&Ok". "^" stands at both ends of the selection, or where
-// the caret is if that isn't the end; a text to begin with that has none is selected as a whole. "¶" is a line end, "~"
-// the folder of the test, "…" kHead. What an earlier row has set stays.
+// Opens the dialog by the command, takes the steps, presses "&Ok". "[" and "|" are those of marked_text.h: a text to begin
+// with that has none is selected as a whole, a caret at the end of the outcome is left out. "¶" is a line end, "~" the
+// folder of the test, "…" kHead. What an earlier row has set stays.
 struct Row {
   const char* command;
   const char* steps;
@@ -90,22 +92,18 @@ struct HtmlDialogs : testing::Test {
       if (button->isDefault()) button->click();
   }
   void Put(const char* marked) {
-    QStringList pieces = QString::fromUtf8(marked).replace(QStringLiteral("¶"), QStringLiteral("\r\n")).split(u'^');
-    if (pieces.size() == 1) pieces = {{}, pieces.first(), {}};
-    const std::string text = TextFromQString(pieces.join(QString()));
-    editor.text.SetText(text);
-    editor.text.Select(TextFromQString(pieces.first()).size(), text.size() - TextFromQString(pieces.last()).size());
+    PutMarked(editor.text,
+              TextFromQString(QString::fromUtf8(marked).replace(QStringLiteral("¶"), QStringLiteral("\r\n"))));
+    if (std::strchr(marked, '|') == nullptr) editor.text.Select(0, editor.text.Size());
   }
   QString Folded(QString text) {
     return text.replace(QStringLiteral("\r\n"), QStringLiteral("¶"))
         .replace(Utf8ToQString(temp.Path()), QStringLiteral("~"));
   }
   std::string Document() {
-    const std::string text = editor.text.Text(), selected(editor.text.SelText());
-    const std::size_t start = editor.text.SelStart();
-    const std::string marked = text.substr(0, start) + (selected.empty() ? "" : "^") + selected +
-                               (start < text.size() ? "^" : "") + text.substr(start + selected.size());
-    return Folded(TextToQString(marked)).replace(QString::fromUtf8(kHead), QStringLiteral("…")).toStdString();
+    QString marked = Folded(TextToQString(Marked(editor.text))).replace(QString::fromUtf8(kHead), QStringLiteral("…"));
+    if (!editor.text.HasSelection() && marked.endsWith(u'|')) marked.chop(1);
+    return marked.toStdString();
   }
   void Expect(std::initializer_list<Row> rows) {
     for (const auto& [command, steps, before, after] : rows) {
@@ -130,26 +128,26 @@ struct HtmlDialogs : testing::Test {
 
 TEST_F(HtmlDialogs, WriteBlocksAndSmallTags) {
   Expect({
-      {"mnuparagraph", "", "a^b^c", R"(a<P ALIGN = "LEFT" > b </P>^c)"},
+      {"mnuparagraph", "", "a[b|c", R"(a<P ALIGN = "LEFT" > b </P>|c)"},
       {"mnulabel", "", "x", R"(<H1 ALIGN = "CENTER"> x </H1>)"},
       {"mnulabel", "VScroll1=9 Option4! Check1!", "", "<H6 NOWRAP> Nadpisový text </H6>"},
       {"mnubarva", "Check1! Check2! Check3!", "x", R"(<FONT SIZE="1" FACE="Combo1" COLOR="#000000">x</FONT>)"},
       {"mnubarva", "VScroll4=7 Combo1=Žluté Command3!", "x", R"(<FONT SIZE="7" FACE="Žluté" COLOR="#FF0010">x</FONT>)"},
-      {"mnuhr", "", "a^b^c", "a<HR>^bc"},
+      {"mnuhr", "", "a[b|c", "a<HR>|bc"},
       {"Line", "Check1!", "", R"(<HR Width = "1%">)"},
       {"Line", "Option1! Shader! VScroll1=50", "", R"(<HR ALIGN = "CENTER" NOSHADE Width = "50%">)"},
       {"Line", "Option6! Option5! Shader! VScroll1=800", "", R"(<HR Width = "800">)"},
       {"mnulinelabel", "", "x",
-       R"(<HR ALIGN = "LEFT" Width = "60%"><H2>Nadpis</H2><HR ALIGN = "RIGHT" Width = "60%">^x)"},
+       R"(<HR ALIGN = "LEFT" Width = "60%"><H2>Nadpis</H2><HR ALIGN = "RIGHT" Width = "60%">|x)"},
       {"mnulinelabel2", "Text1=ž", "",
        R"(<table border="0" width="100%">¶<tr><td width="33%"><hr></td><td align="center">ž</td>)"
        R"(<td width="33%"><hr></td></tr>¶</table>)"},
-      {"mnubreak", "Text2=ž", "x", "<SUP>A</SUP>/<SUB>ž</SUB>^x"},
-      {"mnuComment", "", "x", "<! Komentář >^x"},  // required: no comment of the language
-      {"MnuMeta", "", "x", "Vyber meta-tag^x"},
-      {"mnuid", "Combo1=1", "a^b^c", R"(^<!DOCTYPE HTML PUBLIC "-//W3C//DTD HTML 4.0 Transitional//EN">¶abc)"},
-      {"MnuHTMLASCII", "HScroll1=255", "x", "&#255;^x"},
-      {"mnusmajl", "", "x", ":-)^x"},
+      {"mnubreak", "Text2=ž", "x", "<SUP>A</SUP>/<SUB>ž</SUB>|x"},
+      {"mnuComment", "", "x", "<! Komentář >|x"},  // required: no comment of the language
+      {"MnuMeta", "", "x", "Vyber meta-tag|x"},
+      {"mnuid", "Combo1=1", "a[b|c", R"(|<!DOCTYPE HTML PUBLIC "-//W3C//DTD HTML 4.0 Transitional//EN">¶abc)"},
+      {"MnuHTMLASCII", "HScroll1=255", "x", "&#255;|x"},
+      {"mnusmajl", "", "x", ":-)|x"},
       {"mnusmajl", "Combo2=7 Combo3=5 Combo5=2", "", ":-)"},  // only the button puts it together
       {"mnusmajl", "Combo1=1 Command3!", "", "(§ )-"},
   });
@@ -158,7 +156,7 @@ TEST_F(HtmlDialogs, WriteBlocksAndSmallTags) {
 
 TEST_F(HtmlDialogs, WriteAnchorsAndTheirLinks) {
   Expect({{"mnukotva", "Text1=Kotva1", "", R"(<A NAME="Kotva1"></A>)"},
-          {"mnukotva", "Text1=část", "a^b^c", R"(a<A NAME="část"></A>^bc)"},
+          {"mnukotva", "Text1=část", "a[b|c", R"(a<A NAME="část"></A>|bc)"},
           {"mnukotva", "Text1=Kotva1", "", R"(<A NAME="Kotva1"></A>)"},
           {"mnuodkaz", "Combo1=část", "", R"(<A HREF="#část">Odkaz na část</A>)"}});
   Put("kept");
@@ -168,7 +166,7 @@ TEST_F(HtmlDialogs, WriteAnchorsAndTheirLinks) {
     Ok(dialog);
     EXPECT_TRUE(dialog.isVisible()) << command;
   }
-  EXPECT_EQ(Document(), "^kept^");
+  EXPECT_EQ(Document(), "[kept|");
   auto* list = Find<QComboBox>(*OnShow(), "Combo1");
   QTest::keyClicks(list, QStringLiteral("kotva1"));  // nothing is completed
   QTest::keyClick(list, Qt::Key_Return);
@@ -187,14 +185,14 @@ TEST_F(HtmlDialogs, WriteLinksImagesAndFrames) {
       {"Link", "Text2='' Combo2=''", "", R"(<A HREF="x.htm" TARGET="">Odkaz na x.htm</A>)"},
       {"Link", "Check3! Option2! Text1=http://žába.cz Option2!", "",
        R"(<A HREF="http://žába.cz">Odkaz na http://žába.cz</A>)"},
-      {"mnuobr", "File1=0", "a^b^c", R"(a<IMG SRC="file://~/ž%D0%96.GIF">^bc)"},
+      {"mnuobr", "File1=0", "a[b|c", R"(a<IMG SRC="file://~/ž%D0%96.GIF">|bc)"},
       {"Image", "Check1! Check2! Check3! Check4! Check5! Check6! Check7! Check8!", "",
        R"(<IMG SRC="ž%D0%96.GIF" ALT="Obrázek" ALIGN="left" WIDTH="10%" HEIGHT="10%" VSPACE="0" HSPACE="0" BORDER="0")"
        R"( LOWSRC="path/file.jpg" USEMAP="#mapa">)"},
       {"Image", "Option7! VScroll1=600 VScroll2=800 VScroll3=3 VScroll4=4 VScroll5=5 Text1='a \" <'", "",
        R"(<IMG SRC="ž%D0%96.GIF" ALT="a " <" ALIGN="left" WIDTH="800" HEIGHT="600" VSPACE="5" HSPACE="4" BORDER="3")"
        R"( LOWSRC="path/file.jpg" USEMAP="#mapa">)"},
-      {"mnuHTML_Fme", "File1=0", "a^b^c", R"(a<FRAME SRC="file://~/x.htm">^bc)"},
+      {"mnuHTML_Fme", "File1=0", "a[b|c", R"(a<FRAME SRC="file://~/x.htm">|bc)"},
       {"mnuHTML_Fme", "Check1! Check2! Check3! Check4! Check5! Check6! Check7! Check8! Check9!", "",
        R"(<FRAME SRC="x.htm" NAME="Rám" ALIGN="LEFT" FRAMEBORDER="0" BORDERCOLOR="#000000" FRAMESPACING="0")"
        R"( SCROLLING="yes" MARGINHEIGHT="0" MARGINWIDTH="0" SCROLLING="yes" NORESIZE>)"},
@@ -214,14 +212,14 @@ TEST_F(HtmlDialogs, WriteWholePages) {
            body + "¶¶ </BODY>¶</HTML>";
   };
   const auto look = [this] { return ColorToHex(main.Look().fore_color) + " " + ColorToHex(main.Look().back_color); };
-  Expect({{"mnucreate", "", "", page(">¶^---TEXT---^")},
-          {"mnucreate", "Check8! HScroll1=7", "x", page(">¶<BASEFONT SIZE=\"7\">¶^x^")}});
+  Expect({{"mnucreate", "", "", page(">¶[---TEXT---|")},
+          {"mnucreate", "Check8! HScroll1=7", "x", page(">¶<BASEFONT SIZE=\"7\">¶[x|")}});
   // required: the editor takes the swatch, which begins white, the page the label, which says black
   main.SetEditorColors(Rgb(7, 7, 7), Rgb(8, 8, 8));
-  Expect({{"Newhtml", "Check8! Check1!", "x", page(" BGCOLOR=\"#000000\">¶^x^")}});
+  Expect({{"Newhtml", "Check8! Check1!", "x", page(" BGCOLOR=\"#000000\">¶[x|")}});
   EXPECT_EQ(look(), "#070707 #FFFFFF");
   main.SetEditorColors(Rgb(7, 7, 7), Rgb(8, 8, 8));
-  Expect({{"Newhtml", "Check1! Check2!", "x", page(" TEXT=\"#000000\">¶^x^")}});
+  Expect({{"Newhtml", "Check1! Check2!", "x", page(" TEXT=\"#000000\">¶[x|")}});
   EXPECT_EQ(look(), "#000000 #080808");
   auto& dialog = Open("Newhtml");
   Work(dialog, "Check1! Check5! Check6! Check7! Command4! Command5! Command6! Command7! Command8!");
@@ -229,28 +227,28 @@ TEST_F(HtmlDialogs, WriteWholePages) {
   EXPECT_EQ(preview->TextColor().name() + preview->BackgroundColor().name(), QStringLiteral("#ff0013#ff0010"));
   EXPECT_EQ(look(), "#000000 #080808");  // not before "&Ok"
   Expect({{"Newhtml", "", "x",
-           page(R"( BGCOLOR="#FF0010" TEXT="#FF0013" LINK="#FF0012" VLINK="#FF0011" ALINK="#FF0014">¶^x^)")}});
+           page(R"( BGCOLOR="#FF0010" TEXT="#FF0013" LINK="#FF0012" VLINK="#FF0011" ALINK="#FF0014">¶[x|)")}});
   EXPECT_EQ(look(), "#FF0013 #FF0010");
 
   Work(dialog, "Check1! Check2! Check5! Check6! Check7!");
   ExpectState(dialog, "Check3!", "Command1=(&Ok) Command3=()");
-  Expect({{"Newhtml", "File1=0", "x", page(R"( BACKGROUND="file://~/ž%D0%96.GIF">¶^x^)")},
+  Expect({{"Newhtml", "File1=0", "x", page(R"( BACKGROUND="file://~/ž%D0%96.GIF">¶[x|)")},
           // required: a bare name makes a file's address too
-          {"Newhtml", "Check4!", "x", page(R"( BACKGROUND="file:///ž%D0%96.GIF">¶^x^)")}});
+          {"Newhtml", "Check4!", "x", page(R"( BACKGROUND="file:///ž%D0%96.GIF">¶[x|)")}});
   ExpectState(dialog, "Combo1=*.BMP", "Command1=(&Ok) Command3=()");
   ExpectState(dialog, "Check4! Check3!", "Command1=&Ok Command3=()");
   Find<FolderList>(dialog, "Dir1")->SetPath(QStringLiteral("/"));  // as when the folder goes
   ExpectState(dialog, "", "Command1=&Ok Label10=/");               // one separator, not two
-  Expect({{"Newhtml", "", "x", page(">¶^x^")},
+  Expect({{"Newhtml", "", "x", page(">¶[x|")},
           {"mnuHTML_fset", "Check2! Text3=Můj", "",
            R"(<!DOCTYPE HTML PUBLIC "-//IETF/DTD HTML v.m//EN">¶<HTML>¶ <HEAD>¶…  <TITLE>Můj</TITLE>¶ </HEAD>¶)"
-           R"( <FRAMESET ROWS="*,50%,50">¶ </FRAMESET>¶ <NOFRAMES>¶^Tento Prohlížeč nepodporuje Framesy^¶)"
+           R"( <FRAMESET ROWS="*,50%,50">¶ </FRAMESET>¶ <NOFRAMES>¶[Tento Prohlížeč nepodporuje Framesy|¶)"
            R"( </NOFRAMES>¶</HTML>)"}});
 }
 
 TEST_F(HtmlDialogs, WriteTablesRowsAndCells) {
   Expect({
-      {"mnutable", "", "a^b^c", "a<TABLE>¶<TR><TD></TD></TR>¶</TABLE>^bc"},
+      {"mnutable", "", "a[b|c", "a<TABLE>¶<TR><TD></TD></TR>¶</TABLE>|bc"},
       // Untouched, a label is written as it stands, the thickness over a bar at 0 too.
       {"Table", "Check1! Check2! Check3! Check4! Check5! Check6! Check7! Check8! Check9!", "",
        R"(<TABLE WIDTH="1%" COLS="1" COLSPEC="L100%" ALIGN="LEFT" FRAME="NONE" BORDER="1" RULES="ALL" CELLSPACING="0")"
@@ -259,13 +257,13 @@ TEST_F(HtmlDialogs, WriteTablesRowsAndCells) {
        "",
        R"(<TABLE WIDTH="300" COLS="2" COLSPEC="c" ALIGN="LEFT" FRAME="NONE" BORDER="0" RULES="ALL" CELLSPACING="7")"
        R"( CELLPADDING="8">¶<CAPTION ALIGN="TOP"> <x> </CAPTION>¶<TR><TD></TD><TD></TD></TR>¶</TABLE>)"},
-      {"mnurow", "VScroll1=2", "^ab^c", "<TR><TD>Buňka1</TD><TD>Buňka2</TD></TR>¶^abc"},
+      {"mnurow", "VScroll1=2", "[ab|c", "<TR><TD>Buňka1</TD><TD>Buňka2</TD></TR>¶|abc"},
       {"mnurow", "Check1! Option4! Check2! VScroll1=1", "",
        R"(<TR ALIGN="CHAR" CHAR="," VALIGN="MIDDLE"><TD>Buňka1</TD></TR>¶)"},
       {"mnurow", "Text1='' Check2!", "", R"(<TR ALIGN="CHAR"><TD>Buňka1</TD></TR>¶)"},
       {"mnucell", "", "", "<TD>Buňka</TD>"},
-      {"mnucell", "Check1! Check2! Check3! Check4! Check5! Check6! Check7! Check9!", "a^b^c",
-       R"(a<TH ALIGN="CENTER" VALIGN="MIDDLE" BGCOLOR="#000000" COLSPAN="1" ROWSPAN="1" NOWRAP WIDTH="1">b</TH>^c)"},
+      {"mnucell", "Check1! Check2! Check3! Check4! Check5! Check6! Check7! Check9!", "a[b|c",
+       R"(a<TH ALIGN="CENTER" VALIGN="MIDDLE" BGCOLOR="#000000" COLSPAN="1" ROWSPAN="1" NOWRAP WIDTH="1">b</TH>|c)"},
       {"mnucell", "Check1! Check2! Command3! VScroll4=2 VScroll5=20 Check8! VScroll6=50", "x",
        R"(<TH BGCOLOR="#FF0010" COLSPAN="2" ROWSPAN="20" NOWRAP WIDTH="50%">x</TH>)"},
   });
@@ -429,7 +427,7 @@ TEST_F(HtmlDialogs, TheChosenFileLeadsLabelAndButtons) {
 TEST_F(HtmlDialogs, ListsOfItems) {
   Expect({{"mnulist", "", "", "<UL>¶<LI>Položka</LI>¶</UL>"},
           {"mnulistcount", "Check2! Option4! Check3! Check1! Text2=H", "z",
-           R"(<OL TYPE="I" COMPACT>¶<LH>H</LH>¶<LI>Položka</LI>¶</OL>^z)"}});
+           R"(<OL TYPE="I" COMPACT>¶<LH>H</LH>¶<LI>Položka</LI>¶</OL>|z)"}});
   const QWidget& bullets = Open("mnulist");
   ExpectState(bullets, "Text1=a Command1! Text1=b Command1! Text1=c Command1! List1=2 Text1=x Command1!",
               "List1=Položka|a|x|>b|c");
@@ -460,7 +458,7 @@ TEST_F(HtmlDialogs, AttributesAndTagsOfOnesOwn) {
   editor.commands.Run("Mnu_Insert_Custom_Tag");  // without its window
   EXPECT_EQ(Document(), "<TAG>Vlastní tag</TAG>");
   Expect({{"mnuvlastni", "TagText=X Command1!", "a", R"(<X Atribut="Hodnota">a</X>)"},
-          {"mnuvlastni", "Check1!", "a", R"(<X Atribut="Hodnota">^a)"}});
+          {"mnuvlastni", "Check1!", "a", R"(<X Atribut="Hodnota">|a)"}});
   const QWidget& attr = Open("mnuatr");
   ExpectState(attr, "", "Atribut=Atribut Hodnota=Hodnota Command2=(O&deber)");
   QTest::keyClick(Named(attr, QStringLiteral("Atribut")), Qt::Key_Down);
@@ -468,11 +466,11 @@ TEST_F(HtmlDialogs, AttributesAndTagsOfOnesOwn) {
   ExpectState(attr, "Atribut=ID Hodnota=ž Command1! Atribut=REL Command1! Atributs=1 Atribut=X Command1!",
               "Atributs=ID|X|>REL Values=ž|ž|>ž");  // the rows stay as they are
   ExpectState(attr, "Command2!", "Atributs=ID|X Values=ž|ž");
-  Put("^<A>x</A>");
+  Put("|<A>x</A>");
   platform.answers = {Answer::kOk};
   Ok(attr);  // at the very start of the text
   EXPECT_TRUE(attr.isVisible());
-  Expect({{"mnuatr", "", "<A>^x</A>", R"(<A ID="ž" X="ž"^>x</A>)"}});
+  Expect({{"mnuatr", "", "<A>|x</A>", R"(<A ID="ž" X="ž"|>x</A>)"}});
   EXPECT_EQ(platform.calls.size(), 1U);
 }
 
@@ -489,19 +487,19 @@ TEST_F(HtmlDialogs, ATagIsTakenApartAndWrittenBack) {
     editor.commands.Run("Mnu_Edit_Tag");
   };
   for (const auto& [before, steps, state, after] : {
-           std::tuple{"a<IMG ALT=\"a b\" SRC=c>^d", "", "Text1=IMG Atributs=ALT|SRC Values=a b|c Command2=O&deber",
-                      "a<IMG ALT=\"a b\" SRC=\"c\">^d"},
-           {"<A B=1 C=2>^ ", "Atributs=1", "Values=1|>2 Atribut=C Hodnota=2", R"(<A B="1" C="2">^ )"},
-           {"<A B=1 C=2>^ ", "Atributs=1 Values=0 Atribut=''", "Atributs=>|C Hodnota=1 Command1=(&Přidej)",
-            R"(<A ="1" C="2">^ )"},
-           {"<A B=1 C=2>^ ", "Values=0 Atribut=X HScroll1=50", "Atributs=>X|C Values=>50%|2", R"(<A X="50%" C="2">^ )"},
-           {"<A B=1 C=2>^ ", "Values=1 Command5!", "Hodnota=#FF0010", R"(<A B="1" C="#FF0010">^ )"},
-           {"<A B=1 C=2>^ ", "Values=0 Command6! Command6! Command1!",  // the second is cancelled
-            "Atributs=B|>B|C", R"(<A B="file:///ž.gif" B="file:///ž.gif" C="2">^ )"},
-           {"<A B=x¶y C=2>^ ", "Atributs=0 Atributs=1 Atributs=0", "Atribut=B", R"(<A B="x¶y" C="2">^ )"},
-           {"<A B=1 C=>^ ", "Atributs=1 Command2!", "Atributs=B Values= Command2=(O&deber)", R"(<A B="">^ )"},
-           {"^a", "", "Text1= Atributs= Command2=(O&deber)", "<>^a"},
-           {"<A B=1 C=2>^ ", "Atributs=0 Command2! Command4!", "Atributs=C Values=2", "^<A B=1 C=2>^ "},
+           std::tuple{"a<IMG ALT=\"a b\" SRC=c>|d", "", "Text1=IMG Atributs=ALT|SRC Values=a b|c Command2=O&deber",
+                      "a<IMG ALT=\"a b\" SRC=\"c\">|d"},
+           {"<A B=1 C=2>| ", "Atributs=1", "Values=1|>2 Atribut=C Hodnota=2", R"(<A B="1" C="2">| )"},
+           {"<A B=1 C=2>| ", "Atributs=1 Values=0 Atribut=''", "Atributs=>|C Hodnota=1 Command1=(&Přidej)",
+            R"(<A ="1" C="2">| )"},
+           {"<A B=1 C=2>| ", "Values=0 Atribut=X HScroll1=50", "Atributs=>X|C Values=>50%|2", R"(<A X="50%" C="2">| )"},
+           {"<A B=1 C=2>| ", "Values=1 Command5!", "Hodnota=#FF0010", R"(<A B="1" C="#FF0010">| )"},
+           {"<A B=1 C=2>| ", "Values=0 Command6! Command6! Command1!",  // the second is cancelled
+            "Atributs=B|>B|C", R"(<A B="file:///ž.gif" B="file:///ž.gif" C="2">| )"},
+           {"<A B=x¶y C=2>| ", "Atributs=0 Atributs=1 Atributs=0", "Atribut=B", R"(<A B="x¶y" C="2">| )"},
+           {"<A B=1 C=>| ", "Atributs=1 Command2!", "Atributs=B Values= Command2=(O&deber)", R"(<A B="">| )"},
+           {"|a", "", "Text1= Atributs= Command2=(O&deber)", "<>|a"},
+           {"<A B=1 C=2>| ", "Atributs=0 Command2! Command4!", "Atributs=C Values=2", "[<A B=1 C=2>| "},
        }) {
     Put(before);
     edit([&, s = steps, expected = state](QWidget& dialog) { ExpectState(dialog, s, expected); });
@@ -527,8 +525,8 @@ TEST_F(HtmlDialogs, ATagIsTakenApartAndWrittenBack) {
 }
 
 TEST_F(HtmlDialogs, ASampleTakesThePlaceOfTheDocument) {
-  Expect({{"mnutemplate", "", "x", "^Vyber dokument¶"}});
-  Put("ol^d");
+  Expect({{"mnutemplate", "", "x", "|Vyber dokument¶"}});
+  Put("ol|d");
   const QWidget& window = Open("mnutemplate");
   auto* list = Find<QTreeWidget>(window, "ListView1");
   const auto preview = [&] { return std::string(ViewOf(Find<TextBox>(window, "Text1")->Text())); };
@@ -548,9 +546,9 @@ TEST_F(HtmlDialogs, ASampleTakesThePlaceOfTheDocument) {
   QTest::keyClick(list, Qt::Key_End);
   EXPECT_EQ(preview(), SampleText("DIZ1", editor.settings));
   click(9);
-  EXPECT_EQ(Document(), "ol^d");
+  EXPECT_EQ(Document(), "ol|d");
   QTest::keyClick(list, Qt::Key_Return);
-  EXPECT_EQ(Document(), '^' + Folded(TextToQString(preview())).toStdString());
+  EXPECT_EQ(Document(), '|' + Folded(TextToQString(preview())).toStdString());
   EXPECT_EQ(preview(), SampleText("BAT2", editor.settings));
   editor.text.Undo();  // one step
   EXPECT_EQ(editor.text.Text(), "old");
