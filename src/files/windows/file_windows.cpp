@@ -1,8 +1,8 @@
 #include "files/printing.h"
 #include "files/windows/dir_setup.h"
 #include "files/windows/dos_unix_conv.h"
+#include "files/windows/file_warnings.h"
 #include "files/windows/otevri.h"
-#include "files/windows/outside_watch.h"
 #include "files/windows/uloz.h"
 #include "shell/windows/program_parts.h"
 
@@ -18,7 +18,7 @@ void AddFileWindows(const ProgramParts& parts) {
   parts.AddFilePicker<Uloz>();
   parts.AddFilePicker<Dos_Unix_conv>();
   AddPrintCommands(parts.editor, parts.main);
-  new OutsideWatch(parts.main, parts.editor, parts.files.outside);
+  new FileWarnings(parts.main, parts.editor, parts.files.outside);
 }
 
 }  // namespace pelmar

@@ -1,18 +1,11 @@
 #include "files/windows/otevri.h"
 
+#include "files/encodings.h"
 #include "platform/qt/controls/file_browser.h"
 #include "platform/qt/convert.h"
-#include "text/utf8.h"
 #include "ui_otevri.h"
 
 namespace pelmar {
-namespace {
-
-constexpr std::string_view kUtf8Hint =
-    "Soubor je v UTF-8, čte se jako Windows-1250. Převede ho „Konverze dos - unix“ v nabídce Soubor.";
-
-}  // namespace
-
 Otevri::Otevri(Opener& opener, Platform& platform, QWidget* parent)
     : DialogWindow(parent), opener_(opener), platform_(platform), ui_(std::make_unique<Ui::Otevri>()) {
   ui_->setupUi(this);

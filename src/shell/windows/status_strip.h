@@ -35,9 +35,9 @@ class StatusPanel : public ElidedLabel {
 };
 
 // What the bar warns of, the gravest first: unsaved work can't be kept in a rescue file; no file can be opened or
-// saved; another program was at the file of the document.
-enum class Warning { kUnkept, kFilesStuck, kChangedOutside };
-inline constexpr int kWarningCount = 3;
+// saved; another program was at the file of the document; that file is in UTF-8.
+enum class Warning { kUnkept, kFilesStuck, kChangedOutside, kUtf8 };
+inline constexpr int kWarningCount = 4;
 
 class StatusStrip : public QStatusBar {
   Q_OBJECT

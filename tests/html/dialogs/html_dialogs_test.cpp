@@ -33,9 +33,9 @@ namespace {
 constexpr const char* kHead = R"(  <META HTTP-EQUIV="Content-Type" CONTENT="text/html; charset=windows-1250">¶)"
                               R"(  <META NAME="GENERATOR" CONTENT="Orvilanths PELmar VEX v8.9.2.1b CZ">¶)";
 
-// Opens the dialog by the command, takes the steps, presses "&Ok". "[" and "|" are those of marked_text.h: a text to begin
-// with that has none is selected as a whole, a caret at the end of the outcome is left out. "¶" is a line end, "~" the
-// folder of the test, "…" kHead. What an earlier row has set stays.
+// Opens the dialog by the command, takes the steps, presses "&Ok". "[" and "|" are those of marked_text.h: a text to
+// begin with that has none is selected as a whole, a caret at the end of the outcome is left out. "¶" is a line end,
+// "~" the folder of the test, "…" kHead. What an earlier row has set stays.
 struct Row {
   const char* command;
   const char* steps;

@@ -7,7 +7,8 @@
 #include <QMimeData>
 #include <QTest>
 
-#include "files/windows/outside_watch.h"
+#include "files/encodings.h"
+#include "files/windows/file_warnings.h"
 #include "program/program.h"
 #include "shell/windows/status_timer.h"
 #include "support/document_state.h"
@@ -140,7 +141,7 @@ TEST_F(MainWindowTest, TheTickSnapsTheWindowToTheEdges) {
 }
 
 TEST_F(MainWindowTest, TheBarWarnsOfTheGravestThatHolds) {
-  new OutsideWatch(window, editor, editor.files.outside);
+  new FileWarnings(window, editor, editor.files.outside);
   static constexpr char kUnkept[] = "Neuložená práce se teď nezachovává !";
   static constexpr char kStuck[] = "Soubory nelze otevírat ani ukládat, pomůže jen nový start programu";
   static constexpr char kTheirs[] = "Soubor na disku mezitím změnil jiný program";
@@ -152,10 +153,15 @@ TEST_F(MainWindowTest, TheBarWarnsOfTheGravestThatHolds) {
       {[this] { editor.text.Type("z"); }, ""},  // which marks the title as well
       {[this] { LeaveAndReturn(); }, kTheirs},
       {[this] { editor.commands.Run("Mnu_SaveFast"); }, ""},  // the file is this program's again
+      {[this] { editor.opener.OpenPath("/u.txt"); }, std::string(kUtf8Hint)},
+      {[this] { editor.text.Type("z"); }, ""},
+      {[this] { editor.documents.SwitchTo(3), editor.documents.SwitchTo(1); }, std::string(kUtf8Hint)},
+      {[this] { platform.files["/u.txt"] = "theirs", LeaveAndReturn(); }, kTheirs},
       {[this] { editor.opener.OpenStandard(), timer.Tick(); }, kStuck},
       {[this] { window.Bar().WarnOfUnkept(ENOSPC); }, kUnkept},  // work that is lost with a new start comes first
       {[this] { window.Bar().WarnOfUnkept(0); }, kStuck}};
   platform.files["/a.txt"] = platform.files["/README"] = "x";
+  platform.files["/u.txt"] = "\xC5\xBE";
   platform.opens = {"/README"};
   platform.answers = {Answer::kYes, Answer::kYes};  // to the save; required: what is stuck is told by the bar alone
   const auto* warning = window.findChild<QLabel*>(QStringLiteral("Warning"));

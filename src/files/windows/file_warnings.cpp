@@ -1,0 +1,46 @@
+#include "files/windows/file_warnings.h"
+
+#include <QEvent>
+
+#include "files/encodings.h"
+#include "platform/qt/convert.h"
+
+namespace pelmar {
+
+// The file is asked about where the person comes back to it, never while they type. Another file on the tab, opened or
+// saved, is this program's own doing.
+FileWarnings::FileWarnings(MainWindow& window, Editor& editor, const OutsideChanges& outside)
+    : QObject(&window),
+      window_(window),
+      documents_(editor.documents),
+      outside_(outside),
+      heard_{editor.documents.tab_selected.Add([this](int) {
+               WarnOfOutside(outside_.OfCurrent());
+               WarnOfUtf8();
+             }),
+             editor.documents.face_changed.Add([this](int) {
+               WarnOfOutside(OutsideChange::kNone);
+               WarnOfUtf8();
+             }),
+             editor.text.OnChange([this](const TextChange&) {
+               WarnOfOutside(OutsideChange::kNone);
+               window_.Bar().Warn(Warning::kUtf8, {});
+             })} {
+  window.installEventFilter(this);
+}
+
+bool FileWarnings::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::WindowActivate) WarnOfOutside(outside_.OfCurrent());
+  return QObject::eventFilter(watched, event);
+}
+
+void FileWarnings::WarnOfOutside(OutsideChange change) {
+  window_.Bar().Warn(Warning::kChangedOutside, Utf8ToQString(std::string(OutsideNotice(change))));
+}
+
+void FileWarnings::WarnOfUtf8() {
+  const bool read_wrong = !documents_.CurrentPath().empty() && LooksLikeUtf8(documents_.Text().Text());
+  window_.Bar().Warn(Warning::kUtf8, read_wrong ? Utf8ToQString(std::string(kUtf8Hint)) : QString());
+}
+
+}  // namespace pelmar
