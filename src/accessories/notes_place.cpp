@@ -7,22 +7,23 @@
 namespace pelmar {
 
 TwipsRect PlaceNotes(const NotesSurroundings& around) {
+  const TwipsRect& screen = around.screen;
+  const int right = screen.left + screen.width;
   TwipsRect notes = around.notes;
   const bool in_editor = around.mode == StartMode::kEditor;
-  if (!around.docked || around.main_state == 1)
-    notes = Snap(notes, around.snap_distance, around.screen_width, around.screen_height);
+  if (!around.docked || around.main_state == 1) notes = Snap(notes, around.snap_distance, screen);
   if (around.docked && in_editor && around.main_state == 0) {
     notes.top = around.main.top;
     notes.left = around.main.left + around.main.width;
     notes.height = around.main.height;
-    const int beside = around.screen_width - notes.left;
+    const int beside = right - notes.left;
     if (beside > 0) notes.width = std::max(beside, around.narrowest);
   }
   if (around.docked && in_editor && around.main_state == 2)
-    notes = {around.screen_width - around.narrowest, 0, around.narrowest, around.screen_height};
+    notes = {right - around.narrowest, screen.top, around.narrowest, screen.height};
   if (around.docked && around.mode == StartMode::kNotes) {
-    notes.left = around.screen_width - notes.width;
-    notes.top = around.screen_height - notes.height;
+    notes.left = right - notes.width;
+    notes.top = screen.top + screen.height - notes.height;
   }
   return notes;
 }

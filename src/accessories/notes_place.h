@@ -16,8 +16,7 @@ struct NotesSurroundings {
   StartMode mode = StartMode::kEditor;
   bool docked = false;  // the button "Dock" is pressed
   int snap_distance = 0;
-  int screen_width = 0;
-  int screen_height = 0;
+  TwipsRect screen;   // of the notes, or of the main window that they are docked to
   int narrowest = 0;  // the least width that the window takes
   bool operator==(const NotesSurroundings&) const = default;
 };

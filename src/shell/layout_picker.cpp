@@ -15,10 +15,10 @@ constexpr int Start(int cell, int whole) { return cell == 3 ? whole / 2 : 0; }
 
 }  // namespace
 
-ScreenPlace PlaceOfCell(int row, int column, int screen_width, int screen_height) {
+ScreenPlace PlaceOfCell(int row, int column, const TwipsRect& screen) {
   return {kNames[row - 1][column - 1],
-          {Start(column, screen_width), Start(row, screen_height), Length(column, screen_width),
-           Length(row, screen_height)}};
+          {screen.left + Start(column, screen.width), screen.top + Start(row, screen.height),
+           Length(column, screen.width), Length(row, screen.height)}};
 }
 
 }  // namespace pelmar

@@ -12,7 +12,7 @@ struct ScreenPlace {
   TwipsRect place;
 };
 
-// Row and column from 1 to 3; the screen's size in twips. The middle cell covers the screen without maximising.
-ScreenPlace PlaceOfCell(int row, int column, int screen_width, int screen_height);
+// Row and column from 1 to 3. The middle cell covers the screen without maximising.
+ScreenPlace PlaceOfCell(int row, int column, const TwipsRect& screen);
 
 }  // namespace pelmar

@@ -13,14 +13,18 @@ constexpr int kMostRequests = 20;
 
 }  // namespace
 
-TwipsRect Snap(TwipsRect f, int d, int screen_width, int screen_height) {
+TwipsRect Snap(TwipsRect f, int d, const TwipsRect& screen) {
+  f.left -= screen.left;
+  f.top -= screen.top;
   // Each test is on the values as the steps before left them.
-  if (f.left + f.width - screen_width > -d && f.left < d) f.width = screen_width;
-  if (f.top + f.height - screen_height > -d && f.top < d) f.height = screen_height;
+  if (f.left + f.width - screen.width > -d && f.left < d) f.width = screen.width;
+  if (f.top + f.height - screen.height > -d && f.top < d) f.height = screen.height;
   if (f.left < d) f.left = 0;
   if (f.top < d) f.top = 0;
-  if (f.left + f.width - screen_width > -d) f.left = screen_width - f.width;
-  if (f.top + f.height - screen_height > -d) f.top = screen_height - f.height;
+  if (f.left + f.width - screen.width > -d) f.left = screen.width - f.width;
+  if (f.top + f.height - screen.height > -d) f.top = screen.height - f.height;
+  f.left += screen.left;
+  f.top += screen.top;
   return f;
 }
 

@@ -11,9 +11,9 @@ namespace pelmar {
 
 inline constexpr int kPanelCount = 7;
 
-// One tick of snapping: a window nearer than `distance` to an edge of the screen goes to it, and one that is nearly as
-// wide or high as the screen becomes just so.
-TwipsRect Snap(TwipsRect window, int distance, int screen_width, int screen_height);
+// One tick of snapping: a window nearer than `distance` to an edge of its screen goes to it, and one that is nearly as
+// wide or high as the screen becomes just so. A second screen begins elsewhere than at 0, 0.
+TwipsRect Snap(TwipsRect window, int distance, const TwipsRect& screen);
 
 // Asking a window's place of the system, as long as that may help: a window manager overlooks requests while it moves
 // the window itself, and some never let a program place its windows.

@@ -111,7 +111,7 @@ constexpr int kWidth = 19200, kHeight = 15360;
 
 NotesSurroundings Around(TwipsRect notes, StartMode mode = StartMode::kEditor, bool docked = false, int main_state = 0,
                          int main_width = 12000) {
-  return {notes, {1500, 600, main_width, 9000}, main_state, mode, docked, 240, kWidth, kHeight, 2700};
+  return {notes, {1500, 600, main_width, 9000}, main_state, mode, docked, 240, {0, 0, kWidth, kHeight}, 2700};
 }
 
 TEST(PlaceNotes, FollowsTheButtonAndTheMainWindow) {
@@ -132,7 +132,15 @@ TEST(PlaceNotes, FollowsTheButtonAndTheMainWindow) {
       {"without room", Around(edge, kEditor, true, 0, kWidth - 1500), {kWidth, 600, 6000, 9000}},
       {"with too little", Around(edge, kEditor, true, 0, kWidth - 1800), {kWidth - 300, 600, 2700, 9000}},
   };
-  for (const auto& one : kCases) EXPECT_EQ(PlaceNotes(one.around), one.expected) << one.what;
+  const auto on_second = [](TwipsRect place) {
+    return TwipsRect{place.left + 28800, place.top - 600, place.width, place.height};
+  };
+  for (const auto& one : kCases) {
+    EXPECT_EQ(PlaceNotes(one.around), one.expected) << one.what;
+    NotesSurroundings around = one.around;
+    for (TwipsRect* place : {&around.notes, &around.main, &around.screen}) *place = on_second(*place);
+    EXPECT_EQ(PlaceNotes(around), on_second(one.expected)) << one.what;
+  }
 }
 
 TEST(NotesTimer, AsksAgainUntilItIsObeyedOrGivesUp) {

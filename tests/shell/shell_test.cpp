@@ -138,7 +138,7 @@ TEST(Snap, PullsWindowsToTheEdges) {
       {"almost as wide as the screen", {100, 5000, 28600, 6000}, {0, 5000, 28800, 6000}},
       {"almost as high", {5000, 100, 9000, 16000}, {5000, 0, 9000, 16200}},
   };
-  for (const auto& c : cases) EXPECT_EQ(Snap(c.before, 240, 28800, 16200), c.after) << c.what;
+  for (const auto& c : cases) EXPECT_EQ(Snap(c.before, 240, {0, 0, 28800, 16200}), c.after) << c.what;
 }
 
 TEST(PlaceRequests, RestWhereTheyAreInVain) {

@@ -65,14 +65,14 @@ TEST(LayoutPicker, NineParts) {
   std::string parts;
   for (const int row : {1, 2, 3}) {
     for (const int column : {1, 2, 3}) {
-      const ScreenPlace part = PlaceOfCell(row, column, 1200, 800);
+      const ScreenPlace part = PlaceOfCell(row, column, {1000, 30, 1200, 800});
       parts.append(part.name).append(" " + Shown(part.place) + (column < 3 ? "|" : "\n"));
     }
   }
   EXPECT_EQ(parts,
-            "Vlevo nahoře 0,0 600x400|Nahoře 0,0 1200x400|Vpravo nahoře 600,0 600x400\n"
-            "Vlevo 0,0 600x800|Maximalizace 0,0 1200x800|Vpravo 600,0 600x800\n"
-            "Vlevo dole 0,400 600x400|Dole 0,400 1200x400|Vpravo dole 600,400 600x400\n");
+            "Vlevo nahoře 1000,30 600x400|Nahoře 1000,30 1200x400|Vpravo nahoře 1600,30 600x400\n"
+            "Vlevo 1000,30 600x800|Maximalizace 1000,30 1200x800|Vpravo 1600,30 600x800\n"
+            "Vlevo dole 1000,430 600x400|Dole 1000,430 1200x400|Vpravo dole 1600,430 600x400\n");
 }
 
 }  // namespace

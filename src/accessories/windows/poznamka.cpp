@@ -190,7 +190,6 @@ void Poznamka::hideEvent(QHideEvent* event) {
 }
 
 NotesSurroundings Poznamka::Measures() const {
-  const QSize screen = ScreenTwips(*this);
   NotesSurroundings now;
   now.notes = OuterGeometry(*this);
   now.main = around_.main.Place();
@@ -198,8 +197,8 @@ NotesSurroundings Poznamka::Measures() const {
   now.mode = around_.mode;
   now.docked = ui_->Dock->isChecked();
   now.snap_distance = around_.settings.AutosnapDistance;
-  now.screen_width = screen.width();
-  now.screen_height = screen.height();
+  const bool beside_main = now.docked && now.mode == StartMode::kEditor && now.main_state != 1;
+  now.screen = beside_main ? ScreenTwips(now.main) : ScreenTwips(*this);
   now.narrowest = now.notes.width - TwipsOf(width() - minimumWidth());
   return now;
 }

@@ -1,5 +1,6 @@
 #include "platform/qt/outer_geometry.h"
 
+#include <QGuiApplication>
 #include <QScreen>
 #include <QWidget>
 #include <QWindow>
@@ -18,6 +19,10 @@ QRect Outer(const QWidget& window) {
   return window.geometry().marginsAdded(Frame(window));
 }
 
+TwipsRect InTwips(const QRect& pixels) {
+  return {TwipsOf(pixels.left()), TwipsOf(pixels.top()), TwipsOf(pixels.width()), TwipsOf(pixels.height())};
+}
+
 void MoveOuter(QWidget& window, QPoint top_left) {
   if (Mapped(window)) return window.windowHandle()->setFramePosition(top_left);
   window.move(top_left);
@@ -25,10 +30,7 @@ void MoveOuter(QWidget& window, QPoint top_left) {
 
 }  // namespace
 
-TwipsRect OuterGeometry(const QWidget& window) {
-  const QRect outer = Outer(window);
-  return {TwipsOf(outer.left()), TwipsOf(outer.top()), TwipsOf(outer.width()), TwipsOf(outer.height())};
-}
+TwipsRect OuterGeometry(const QWidget& window) { return InTwips(Outer(window)); }
 
 void SetOuterPosition(QWidget& window, int left, int top) { MoveOuter(window, {PixelsOf(left), PixelsOf(top)}); }
 
@@ -49,9 +51,12 @@ void SetOuterPlace(QWidget& window, const TwipsRect& place) {
   if (place.left != now.left || place.top != now.top) SetOuterPosition(window, place.left, place.top);
 }
 
-QSize ScreenTwips(const QWidget& window) {
-  const QSize size = window.screen()->size();
-  return {TwipsOf(size.width()), TwipsOf(size.height())};
+TwipsRect ScreenTwips(const QWidget& window) { return InTwips(window.screen()->geometry()); }
+
+TwipsRect ScreenTwips(const TwipsRect& place) {
+  const QPoint middle(PixelsOf(place.left + place.width / 2), PixelsOf(place.top + place.height / 2));
+  const QScreen* screen = QGuiApplication::screenAt(middle);
+  return InTwips((screen != nullptr ? screen : QGuiApplication::primaryScreen())->geometry());
 }
 
 QSize RoomOnScreen(const QWidget& window) {

@@ -19,8 +19,10 @@ void SetOuterHeight(QWidget& window, int twips);
 // All four at once; only what differs is touched.
 void SetOuterPlace(QWidget& window, const TwipsRect& place);
 
-// The whole screen that the window is on.
-QSize ScreenTwips(const QWidget& window);
+// The whole screen that the window is on, and where it lies on the desktop.
+TwipsRect ScreenTwips(const QWidget& window);
+// The one that the middle of this place is on; the first where it is on none.
+TwipsRect ScreenTwips(const TwipsRect& place);
 // What the screen leaves to a window that isn't on show yet, inside its frame.
 QSize RoomOnScreen(const QWidget& window);
 // Moves a window that covers `place` (on the screen, in logical pixels) just off it. False where it doesn't cover it,

@@ -9,10 +9,7 @@ namespace pelmar {
 
 Pos::Pos(MainPlace& main, QWidget* parent) : DialogWindow(parent), main_(main), ui_(std::make_unique<Ui::Pos>()) {
   ui_->setupUi(this);
-  const auto place_of = [this](int row, int column) {
-    const QSize screen = ScreenTwips(*this);
-    return PlaceOfCell(row, column, screen.width(), screen.height());
-  };
+  const auto place_of = [this](int row, int column) { return PlaceOfCell(row, column, ScreenTwips(*this)); };
   connect(ui_->Picture1, &CellGrid::CellEntered, this,
           [this, place_of](int row, int column) { ui_->Label1->setText(Utf8ToQString(place_of(row, column).name)); });
   connect(ui_->Picture1, &CellGrid::CellChosen, this, [this, place_of](int row, int column) {

@@ -28,9 +28,8 @@ void StatusTimer::SnapWindows() {
   for (QWidget* window : windows) {
     if (window->property(kTagProperty).toString() != QLatin1String(kAutosnapTag)) continue;
     if (!window->isVisible() || window->isMinimized() || window->isMaximized()) continue;
-    const QSize screen = ScreenTwips(*window);
     const TwipsRect place = OuterGeometry(*window);
-    const TwipsRect snapped = Snap(place, editor_.settings.AutosnapDistance, screen.width(), screen.height());
+    const TwipsRect snapped = Snap(place, editor_.settings.AutosnapDistance, ScreenTwips(*window));
     if (snapped != place && requests_[window].Worthwhile(place, snapped)) SetOuterPlace(*window, snapped);
   }
 }

@@ -536,7 +536,7 @@ TEST_F(PoznamkaTest, TheTickDocksAndSnapsAndRestsWhileNothingMoves) {
   EXPECT_EQ(Named(*notes, "Text1")->geometry(), QRect(0, toolbar + 22, 450, 300 - toolbar - 22));
   ASSERT_TRUE(QTest::qWaitForWindowExposed(notes.get()));
   const auto place = [&] { return OuterGeometry(*notes); };
-  const QSize screen = ScreenTwips(*notes);
+  const TwipsRect screen = ScreenTwips(*notes);
   const auto* timer = notes->findChild<QTimer*>(QStringLiteral("Timer1"));
   SetOuterPlace(*notes, {150, 225, 4500, 4500});
   EXPECT_EQ(timer->interval(), 10);
@@ -544,16 +544,16 @@ TEST_F(PoznamkaTest, TheTickDocksAndSnapsAndRestsWhileNothingMoves) {
   ASSERT_TRUE(QTest::qWaitFor([&] { return timer->interval() > 10; }, 5000));
   Work(*notes, "Dock!");
   EXPECT_EQ(timer->interval(), 10);
-  const TwipsRect beside{4500, 1500, screen.width() - 4500, 4500};
+  const TwipsRect beside{4500, 1500, screen.width - 4500, 4500};
   EXPECT_TRUE(QTest::qWaitFor([&] { return place() == beside; }, 1000));
   view.state = 2;
-  EXPECT_TRUE(QTest::qWaitFor([&] { return place().top == 0 && place().height == screen.height(); }, 1000));
-  EXPECT_EQ(place().left + place().width, screen.width());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return place().top == 0 && place().height == screen.height; }, 1000));
+  EXPECT_EQ(place().left + place().width, screen.width);
   EXPECT_EQ(notes->width(), notes->minimumWidth());
   notes->showMaximized();
-  EXPECT_TRUE(QTest::qWaitFor([&] { return place().width == screen.width(); }, 1000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return place().width == screen.width; }, 1000));
   QTest::qWait(50);
-  EXPECT_EQ(place().width, screen.width());  // it stays where it is then
+  EXPECT_EQ(place().width, screen.width);  // it stays where it is then
   notes->hide();
   EXPECT_FALSE(timer->isActive());
 }

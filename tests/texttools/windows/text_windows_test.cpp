@@ -223,14 +223,14 @@ TEST(PosWindow, PlacesTheMainWindow) {
   QTest::mouseRelease(grid, Qt::LeftButton, {}, QPoint(-40, 4));  // drawn off the grid
   EXPECT_TRUE(view.calls.empty());
   QTest::mouseClick(grid, Qt::LeftButton, {}, QPoint(4, grid->height() - 4));
-  const QSize screen = ScreenTwips(pos);
+  const TwipsRect screen = ScreenTwips(pos);
   EXPECT_EQ(view.calls, std::vector<std::string>{"normal"});
-  EXPECT_EQ(view.place, (TwipsRect{0, screen.height() / 2, screen.width() / 2, screen.height() / 2}));
+  EXPECT_EQ(view.place, (TwipsRect{0, screen.height / 2, screen.width / 2, screen.height / 2}));
   QTest::keyClick(grid, Qt::Key_Up);
   QTest::keyClick(grid, Qt::Key_Right);
   ExpectState(pos, "", "Label1=Maximalizace");
   QTest::keyClick(grid, Qt::Key_Space);
-  EXPECT_EQ(view.place, (TwipsRect{0, 0, screen.width(), screen.height()}));
+  EXPECT_EQ(view.place, (TwipsRect{0, 0, screen.width, screen.height}));
 }
 
 TEST(VisualWindow, ShowsTheLookAndAppliesThePreview) {
