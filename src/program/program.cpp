@@ -33,8 +33,10 @@ Program::Program(Platform& platform)
   main_.RefreshCommands();
   main_.may_close = [this] { return MayClose(); };
   rescue_.on_failure = [this](int error) { main_.Bar().WarnOfUnkept(error); };
-  heard_ = {editor_.text.OnChange([this](const TextChange&) { TouchRescue(); }),
-            editor_.documents.title_changed.Add([this] { TouchRescue(); })};
+  const auto touch = [this] {
+    if (KeepsDocuments()) rescue_.Touch();
+  };
+  heard_ = {editor_.text.OnChange([touch](const TextChange&) { touch(); }), editor_.documents.title_changed.Add(touch)};
 }
 
 void Program::AddWindows() {
@@ -51,10 +53,10 @@ void Program::AddWindows() {
   AddBrowserWindows(parts);
 }
 
-// An accessory that is the whole program has no document to keep, whatever its buttons put into the hidden one.
-void Program::TouchRescue() {
-  if (session_.Mode() == StartMode::kEditor) rescue_.Touch();
-}
+// What the start puts into the box, the clipboard's text for one, is nobody's unsaved work, though it is marked until the
+// profile is there. An accessory that is the whole program has no document to keep, whatever its buttons put into the
+// hidden one.
+bool Program::KeepsDocuments() const { return started_ && session_.Mode() == StartMode::kEditor; }
 
 void Program::ShowAccessory(StartMode mode) {
   rescue_.End();
@@ -66,6 +68,7 @@ void Program::ShowAccessory(StartMode mode) {
 void Program::Run(const std::string& tail) {
   timer_.start();
   session_.Start(tail);
+  started_ = true;
   // Only the editor asks, when it stands; the accessories leave what they find to it.
   if (session_.Mode() == StartMode::kEditor) QTimer::singleShot(0, &main_, [this] { rescue_.Offer(); });
 }
@@ -78,12 +81,12 @@ bool Program::MayClose() {
 }
 
 void Program::KeepUnsaved() {
-  if (session_.Mode() == StartMode::kEditor) rescue_.KeepNow();
+  if (KeepsDocuments()) rescue_.KeepNow();
   for (const auto& keep : keepers_) keep();
 }
 
 void Program::TellRuntimeError(const RuntimeError& error) {
-  const std::string kept = session_.Mode() == StartMode::kEditor ? rescue_.KeepNow() : std::string();
+  const std::string kept = KeepsDocuments() ? rescue_.KeepNow() : std::string();
   std::string text = "Běhová chyba " + std::to_string(error.Number()) + ":\r\n" + error.what() + "\r\n\r\n";
   if (!kept.empty()) {
     text += "Neuložené dokumenty jsou zachovány v souboru\r\n" + kept +

@@ -39,7 +39,7 @@ class Program {
  private:
   void AddWindows();
   void ShowAccessory(StartMode mode);
-  void TouchRescue();
+  [[nodiscard]] bool KeepsDocuments() const;
   bool MayClose();
 
   Platform& platform_;
@@ -48,6 +48,7 @@ class Program {
   MainWindow main_;
   Session session_;
   RescueKeeper rescue_;
+  bool started_ = false;
   StatusTimer timer_;
   std::vector<Listening> heard_;
   StandAlones stand_alones_;

@@ -7,6 +7,8 @@
 #include "accessories/windows/prev.h"
 #include "program/program.h"
 #include "shell/rescued_documents.h"
+#include "shell/windows/config.h"
+#include "support/controls.h"
 #include "support/scripted_platform.h"
 #include "support/steps.h"
 #include "support/temp_folder.h"
@@ -61,7 +63,7 @@ TEST_F(RescueKeeperTest, KeepsAChangeWithinTwoSecondsAndTheBarSaysForAsLongAsItC
 
 // Somebody has planted the first name that is drawn.
 TEST_F(RescueKeeperTest, TheLastResortIsANewFileOfADrawnName) {
-  platform.install_folder = "/nonexistent/";
+  platform.install_folder = "/dev/null/";
   platform.draws = {0.5, 0.25};
   platform.files["/tmp/pelmar-rescue-49999999.txt"] = "planted";
   TextBuffer text;
@@ -80,6 +82,19 @@ TEST_F(RescueKeeperTest, AnAccessoryAloneKeepsNoDocument) {
   Work(program.Windows().Get<Prev>(), "Command38! Command46!");
   program.KeepUnsaved();
   EXPECT_TRUE(FolderIsEmpty());
+}
+
+TEST_F(RescueKeeperTest, WhatTheStartTakesFromTheClipboardIsNobodysWork) {
+  platform.files.clear();  // so that the profile is asked for, when the text is in the box
+  platform.clipboard = "secret";
+  Program program(platform);
+  InDialog<Config>([&](Config& config) {
+    EXPECT_EQ(program.Main().Text().Buffer().Text(), "secret");
+    program.KeepUnsaved();
+    EXPECT_TRUE(FolderIsEmpty());
+    config.hide();
+  });
+  program.Run("-NOMSG");
 }
 
 TEST_F(RescueKeeperTest, AnErrorThatEndsTheProgramIsToldWithWhatWasKept) {
