@@ -53,10 +53,10 @@ void Program::AddWindows() {
   AddBrowserWindows(parts);
 }
 
-// What the start puts into the box, the clipboard's text for one, is nobody's unsaved work, though it is marked until the
-// profile is there. An accessory that is the whole program has no document to keep, whatever its buttons put into the
-// hidden one.
-bool Program::KeepsDocuments() const { return started_ && session_.Mode() == StartMode::kEditor; }
+// What the load puts into the box, the clipboard's text for one, is nobody's unsaved work, though it is marked until
+// the profile is there. An accessory that is the whole program has no document to keep, whatever its buttons put into
+// the hidden one.
+bool Program::KeepsDocuments() const { return loaded_ && session_.Mode() == StartMode::kEditor; }
 
 void Program::ShowAccessory(StartMode mode) {
   rescue_.End();
@@ -67,8 +67,9 @@ void Program::ShowAccessory(StartMode mode) {
 
 void Program::Run(const std::string& tail) {
   timer_.start();
-  session_.Start(tail);
-  started_ = true;
+  session_.Load();
+  loaded_ = true;
+  session_.Act(tail);
   // Only the editor asks, when it stands; the accessories leave what they find to it.
   if (session_.Mode() == StartMode::kEditor) QTimer::singleShot(0, &main_, [this] { rescue_.Offer(); });
 }

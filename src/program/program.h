@@ -48,7 +48,7 @@ class Program {
   MainWindow main_;
   Session session_;
   RescueKeeper rescue_;
-  bool started_ = false;
+  bool loaded_ = false;
   StatusTimer timer_;
   std::vector<Listening> heard_;
   StandAlones stand_alones_;

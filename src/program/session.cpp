@@ -30,7 +30,7 @@ Session::Session(MainView& view, Doors doors, Editor& editor, Files& files)
       platform_(editor.platform),
       file_number_(editor.file_number) {}
 
-void Session::Start(std::string_view tail) {
+void Session::Load() {
   view_.SetEditorColors(Rgb(0, 0, 0), Rgb(255, 255, 255));
   LoadText();
   documents_.ForgetFirstSlotsMark();
@@ -45,7 +45,6 @@ void Session::Start(std::string_view tail) {
   if (settings_.AutosnapDistance == 0) settings_.AutosnapDistance = kAutosnapDefault;
   view_.SetAlwaysOnTop(settings_.AlwaysOnTopFlag);
   documents_.ForgetPath();
-  Act(tail);
 }
 
 void Session::LoadText() {

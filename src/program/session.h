@@ -25,8 +25,10 @@ class Session {
   };
   Session(MainView& view, Doors doors, Editor& editor, Files& files);
 
-  // The load of the main window, up to and including what the command tail asks for.
-  void Start(std::string_view tail);
+  // The load of the main window: text, settings, and the profile, which is asked for where it is missing.
+  void Load();
+  // Shows what the command tail asks for.
+  void Act(std::string_view tail);
 
   // The close of the main window. Writes the files, then asks; false when the person wants to go on. Throws
   // RuntimeError where a file can't be written.
@@ -45,7 +47,6 @@ class Session {
   void LoadText();
   void LoadSettings();
   void ApplyLook();
-  void Act(std::string_view tail);
   bool MayEnd();
   void Store(std::string_view name, std::string_view bytes);
   std::string InstallPath(std::string_view name);

@@ -31,7 +31,7 @@ struct Desk {
 
   // The steps of the start, in order, and what it leaves.
   std::string Start(std::string_view tail) {
-    session.Start(tail);
+    session.Load(), session.Act(tail);
     std::string told;
     for (const std::string& call : view.calls) told += call + ", ";
     told += editor.documents.Title() + ", " + Told(view.look);
@@ -90,7 +90,7 @@ TEST(Session, TextComesFromTheRecoveryFileOrTheClipboard) {
     Desk one;
     if (recovery) one.platform.files[kRecovery] = *recovery;
     one.platform.clipboard = clipboard;
-    one.session.Start("");
+    one.session.Load(), one.session.Act("");
     EXPECT_TRUE(one.editor.text.Text() == text) << text.size();
     EXPECT_TRUE(one.session.Close());  // without a question: what came is no change
   }
@@ -108,13 +108,13 @@ TEST(Session, TheCommandTailTellsWhatIsShown) {
     SettingsRecord r = kStored;
     r.ShowStart = c.show_start;
     one.platform.files = {{"/a.txt", "file"}, {kRecovery, "recovered"}, {kSettings, SettingsBytes(r)}};
-    one.session.Start(c.tail);
+    one.session.Load(), one.session.Act(c.tail);
     EXPECT_EQ(one.view.calls.back(), c.shown) << c.tail;
     EXPECT_EQ(one.editor.text.Text(), c.tail[0] == '/' ? "file" : "recovered");
   }
   Desk one;
   one.platform.answers = {Answer::kOk};
-  one.session.Start("-CALC x");  // anything behind a switch makes it a file's name
+  one.session.Load(), one.session.Act("-CALC x");  // anything behind a switch makes it a file's name
   EXPECT_EQ(one.platform.calls.back(), "message 0 \"Soubor -CALC x nenalezen!\" \"Soubor\"");
 }
 
