@@ -67,7 +67,7 @@ void OtherWindowsAway::SetVisible(QWidget& window, bool visible) {
   const bool activates = !window.testAttribute(Qt::WA_ShowWithoutActivating);
   window.setAttribute(Qt::WA_ShowWithoutActivating);
   window.installEventFilter(this);
-  window.setVisible(visible);
+  window.QWidget::setVisible(visible);  // a dialog's own would end one that waits for its answer
   window.removeEventFilter(this);
   window.setAttribute(Qt::WA_ShowWithoutActivating, !activates);
   ForgetFaces(window);

@@ -249,6 +249,13 @@ TEST_F(LockTest, NothingIsSeenOrHeardAndAllComesBack) {
   look.Present();
   Work(look, "Check2!");  // not applied yet
   look.move(40, 50);
+  QDialog question(&look);
+  question.setWindowModality(Qt::WindowModal);
+  Inside([&] {
+    WhileLocked([&] { EXPECT_FALSE(question.isVisible()); });
+    question.done(7);
+  });
+  EXPECT_EQ(question.exec(), 7);  // the lock is no answer
   WhileLocked([&] {
     QTest::qWait(600);  // a tick of the status timer
     EXPECT_EQ(Told(), "2 windows, text off: , Panel1= Panel4=");
