@@ -28,6 +28,7 @@ const CommandKey kCommandKeys[] = {
     {Qt::Key_Return, Qt::NoModifier, TextCommand::kNewLine},
     {Qt::Key_Return, Qt::ShiftModifier, TextCommand::kNewLine},
     {Qt::Key_Enter, Qt::NoModifier, TextCommand::kNewLine},
+    {Qt::Key_Enter, Qt::ShiftModifier, TextCommand::kNewLine},
     {Qt::Key_Backspace, Qt::NoModifier, TextCommand::kEraseBefore},
     {Qt::Key_Backspace, Qt::ShiftModifier, TextCommand::kEraseBefore},
     {Qt::Key_Backspace, Qt::ControlModifier, TextCommand::kEraseWordBefore},

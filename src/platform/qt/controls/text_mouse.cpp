@@ -134,6 +134,7 @@ void TextMouse::ShowPointer(QPoint at) {
 
 void TextMouse::timerEvent(QTimerEvent* event) {
   if (event->timerId() != scroll_timer_.timerId()) return QObject::timerEvent(event);
+  if (!box_.isActiveWindow()) return scroll_timer_.stop();  // another window gets the release
   const QSize size = box_.viewport()->size();
   QScrollBar* down = box_.verticalScrollBar();
   QScrollBar* across = box_.horizontalScrollBar();
