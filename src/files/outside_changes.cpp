@@ -22,7 +22,7 @@ std::string_view OutsideNotice(OutsideChange change) {
     case OutsideChange::kNone:
       return "";
     case OutsideChange::kWritten:
-      return "Soubor na disku mezitím změnil jiný program";
+      return "Soubor na disku se mezitím změnil";
     case OutsideChange::kGone:
       return "Soubor na disku už není";
   }

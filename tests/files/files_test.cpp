@@ -161,7 +161,7 @@ TEST_F(FilesTest, ANameWithoutDotIsAnErrorElsewhereAndLeavesTheNumberTaken) {
 
 TEST_F(FilesTest, AFastSaveAsksTwiceAndSaysWhatAnotherProgramDid) {
   const std::string ask = "message 52 \"Opravdu uložit soubor?\r\n\"/a.txt\"", to_end = "\" \"Soubor\"; ";
-  const std::string written = "\r\nSoubor na disku mezitím změnil jiný program!", gone = "\r\nSoubor na disku už není!";
+  const std::string written = "\r\nSoubor na disku se mezitím změnil!", gone = "\r\nSoubor na disku už není!";
   const auto said = [&](Answer answer) {
     platform.TakeCalls();
     platform.answers.assign(2, answer);

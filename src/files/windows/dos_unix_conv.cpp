@@ -13,6 +13,7 @@ Dos_Unix_conv::Dos_Unix_conv(Platform& platform, QWidget* parent)
   ui_->Text1->setCurrentText(QStringLiteral("*.*"));
   LinkFileBrowser(ui_->Drive1, ui_->Dir1, ui_->File1, ui_->Text1);
   connect(ui_->File1, &FileList::FileClicked, this, &Dos_Unix_conv::File1_Click);
+  connect(ui_->File1, &FileList::FileGone, this, [this] { EnableConversions(false); });
   connect(ui_->Command1, &QPushButton::clicked, this,
           [this] { Convert([this](const std::string& path) { ConvertToUnix(platform_, path); }); });
   connect(ui_->Command2, &QPushButton::clicked, this,
@@ -28,8 +29,12 @@ Dos_Unix_conv::Dos_Unix_conv(Platform& platform, QWidget* parent)
 Dos_Unix_conv::~Dos_Unix_conv() = default;
 
 void Dos_Unix_conv::File1_Click() {
-  for (QPushButton* convert : {ui_->Command1, ui_->Command2, ui_->Command4, ui_->Command5}) convert->setEnabled(true);
+  EnableConversions(true);
   ShowPath(*ui_->Label2, PickedPath(*ui_->File1));
+}
+
+void Dos_Unix_conv::EnableConversions(bool on) {
+  for (QPushButton* convert : {ui_->Command1, ui_->Command2, ui_->Command4, ui_->Command5}) convert->setEnabled(on);
 }
 
 void Dos_Unix_conv::Convert(const std::function<void(const std::string& path)>& convert) {

@@ -24,6 +24,7 @@ class Dos_Unix_conv : public DialogWindow {
 
  private:
   void File1_Click();
+  void EnableConversions(bool on);
   void Convert(const std::function<void(const std::string& path)>& convert);
 
   Platform& platform_;

@@ -35,7 +35,7 @@ class StatusPanel : public ElidedLabel {
 };
 
 // What the bar warns of, the gravest first: unsaved work can't be kept in a rescue file; no file can be opened or
-// saved; another program was at the file of the document; that file is in UTF-8.
+// saved; the file of the document was changed meanwhile; that file is in UTF-8.
 enum class Warning { kUnkept, kFilesStuck, kChangedOutside, kUtf8 };
 inline constexpr int kWarningCount = 4;
 

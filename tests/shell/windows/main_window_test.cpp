@@ -144,7 +144,7 @@ TEST_F(MainWindowTest, TheBarWarnsOfTheGravestThatHolds) {
   new FileWarnings(window, editor, editor.files.outside);
   static constexpr char kUnkept[] = "Neuložená práce se teď nezachovává !";
   static constexpr char kStuck[] = "Soubory nelze otevírat ani ukládat, pomůže jen nový start programu";
-  static constexpr char kTheirs[] = "Soubor na disku mezitím změnil jiný program";
+  static constexpr char kTheirs[] = "Soubor na disku se mezitím změnil";
   const std::pair<std::function<void()>, std::string> steps[] = {
       {[this] { editor.opener.OpenPath("/a.txt"), LeaveAndReturn(); }, ""},
       {[this] { platform.files["/a.txt"] = "theirs", LeaveAndReturn(); }, kTheirs},
