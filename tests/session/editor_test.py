@@ -21,6 +21,9 @@ class EditorTest(EditorCase):
         self.save_over()
         self.work(f"[{clean}]")
         self.assertEqual(path.read_bytes(), expected)
+        # Two questions in a row end where the first was asked.
+        self.work('F1 [Help k Pelmar VEX] Tab Tab "checkpoint" Return [hledání] Return /'
+                  " [hledání] Escape / [Help k Pelmar VEX] Escape /")
         # The second document is unsaved: No keeps the program, Yes ends it.
         self.work("ctrl+F4 [Konec] Escape /")
         self.end(main)

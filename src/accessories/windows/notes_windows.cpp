@@ -4,6 +4,7 @@
 #include "accessories/windows/analytic.h"
 #include "accessories/windows/poznamka.h"
 #include "platform/qt/application.h"
+#include "platform/qt/asker.h"
 #include "shell/windows/program_parts.h"
 
 namespace pelmar {
@@ -22,6 +23,7 @@ std::unique_ptr<Poznamka> MakeNotes(const ProgramParts& parts) {
 void ShowNotes(const ProgramParts& parts) {
   auto& notes = parts.windows.Get<Poznamka>();
   notes.Present();
+  ExpectActive(&notes);
   notes.OfferRescued();
 }
 

@@ -15,6 +15,7 @@
 #include <functional>
 
 #include "platform/qt/any_length.h"
+#include "platform/qt/asker.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/svg_icon.h"
 
@@ -32,17 +33,6 @@ void RaiseAboveAll(QDialog& dialog) {
     return (system != nullptr ? system->flags() : window->windowFlags()).testFlag(Qt::WindowStaysOnTopHint);
   };
   if (std::any_of(windows.begin(), windows.end(), on_top)) dialog.setWindowFlag(Qt::WindowStaysOnTopHint);
-}
-
-// Whom a box stands over. Between two boxes, one after the other, no window is the active one for a moment.
-QWidget* Asker() {
-  if (QWidget* active = QApplication::activeWindow()) return active;
-  if (QWidget* modal = QApplication::activeModalWidget()) return modal;
-  const QWidgetList windows = QApplication::topLevelWidgets();
-  const auto editor = std::find_if(windows.begin(), windows.end(), [](const QWidget* window) {
-    return window->objectName() == QLatin1String("Main") && window->isVisible() && !window->isMinimized();
-  });
-  return editor == windows.end() ? nullptr : *editor;
 }
 
 // A box of few words would be too narrow for its title to be read.
@@ -78,20 +68,27 @@ class Box : public QMessageBox {
 template <typename Dialog>
 class Asking {
  public:
-  Asking() : dialog_(new Dialog(Asker())) {
+  Asking() : asker_(Asker()), dialog_(new Dialog(asker_)) {
     ShowProgramIcon();
     RaiseAboveAll(*dialog_);
   }
   Asking(const Asking&) = delete;
   Asking& operator=(const Asking&) = delete;
-  ~Asking() { delete dialog_.data(); }
+  ~Asking() {
+    delete dialog_.data();
+    ExpectActive(asker_);
+  }
   Dialog* operator->() const { return dialog_.data(); }
-  [[nodiscard]] bool Accepted() {
+  Dialog& operator*() const { return *dialog_; }
+  [[nodiscard]] bool Accepted() { return Result() == QDialog::Accepted; }
+  // What the dialog ends with; nothing where it went with its window.
+  [[nodiscard]] int Result() {
     const int result = dialog_->exec();
-    return !dialog_.isNull() && result == QDialog::Accepted;
+    return dialog_.isNull() ? 0 : result;
   }
 
  private:
+  QPointer<QWidget> asker_;
   QPointer<Dialog> dialog_;
 };
 
@@ -144,17 +141,13 @@ QMessageBox::Icon IconOf(MessageType type) {
 
 // The answer is a standard button.
 int Show(const QString& text, const QString& title, const std::function<void(Box&)>& equip) {
-  ShowProgramIcon();
-  const QPointer<Box> box = new Box(Asker());
-  RaiseAboveAll(*box);
+  Asking<Box> box;
   box->setWindowTitle(title);
   box->setTextFormat(Qt::PlainText);
   box->setText(text);
   equip(*box);
   LeaveRoomForTitle(*box);
-  const int button = box->exec();
-  delete box.data();
-  return button;
+  return box.Result();
 }
 
 }  // namespace

@@ -1,5 +1,8 @@
 #include "shell/windows/pass.h"
 
+#include <QPointer>
+
+#include "platform/qt/asker.h"
 #include "platform/qt/convert.h"
 #include "shell/windows/other_windows.h"
 #include "ui_pass.h"
@@ -24,10 +27,12 @@ void Pass::Run() {
   ui_->Text1->clear();
   ui_->Text1->setFocus();
   hide_text_(true);
+  const QPointer<QWidget> asker = Asker();
   {
     const OtherWindowsAway away({this, parentWidget()});
     exec();
   }
+  ExpectActive(asker);  // the others have come back since
   hide_text_(false);
 }
 

@@ -16,6 +16,7 @@
 #include <QToolButton>
 #include <algorithm>
 
+#include "platform/qt/asker.h"
 #include "platform/qt/controls/accessible_face.h"
 #include "platform/qt/controls/scrolled_contents.h"
 #include "platform/qt/controls/text_box.h"
@@ -91,10 +92,9 @@ void DialogWindow::Present() {
 }
 
 int DialogWindow::exec() {
-  const QPointer<QWidget> asker = QApplication::activeWindow();
+  const QPointer<QWidget> asker = Asker();
   const int result = QDialog::exec();
-  // The window manager would turn to the parent, the main window, whose text would take the next keys.
-  if (asker && asker->isVisible()) asker->activateWindow();
+  ExpectActive(asker);
   return result;
 }
 
@@ -112,13 +112,13 @@ bool DialogWindow::eventFilter(QObject* watched, QEvent* event) {
     }
   }
   if (event->type() == QEvent::KeyPress) {
-    const int key = static_cast<QKeyEvent*>(event)->key();
+    const auto& key = *static_cast<QKeyEvent*>(event);
     const auto act = on_enter_.find(watched);
-    if ((key == Qt::Key_Return || key == Qt::Key_Enter) && act != on_enter_.end()) {
+    if (act != on_enter_.end() && IsPlainEnter(key)) {
       act->second();
       return true;
     }
-    if (auto* bar = qobject_cast<QScrollBar*>(watched); bar != nullptr && MoveByArrow(*bar, key)) return true;
+    if (auto* bar = qobject_cast<QScrollBar*>(watched); bar != nullptr && MoveByArrow(*bar, key.key())) return true;
   }
   return QDialog::eventFilter(watched, event);
 }

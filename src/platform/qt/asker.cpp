@@ -1,0 +1,40 @@
+#include "platform/qt/asker.h"
+
+#include <QApplication>
+#include <QPointer>
+#include <QWindow>
+#include <algorithm>
+
+namespace pelmar {
+namespace {
+
+QPointer<QWidget>& Expected() {
+  static QPointer<QWidget> expected;
+  return expected;
+}
+
+}  // namespace
+
+QWidget* Asker() {
+  if (QWidget* expected = Expected(); expected != nullptr && expected->isVisible()) return expected;
+  if (QWidget* active = QApplication::activeWindow()) return active;
+  if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+  const QWidgetList windows = QApplication::topLevelWidgets();
+  const auto editor = std::find_if(windows.begin(), windows.end(), [](const QWidget* window) {
+    return window->objectName() == QLatin1String("Main") && window->isVisible() && !window->isMinimized();
+  });
+  return editor == windows.end() ? nullptr : *editor;
+}
+
+void ExpectActive(QWidget* window) {
+  // From when a window has the keyboard on, that is the one.
+  static const auto forgets =
+      QObject::connect(qApp, &QGuiApplication::focusWindowChanged, qApp, [](const QWindow* now) {
+        if (now != nullptr) Expected() = nullptr;
+      });
+  Q_UNUSED(forgets);
+  Expected() = window;
+  if (window != nullptr && window->isVisible()) window->activateWindow();
+}
+
+}  // namespace pelmar

@@ -1,0 +1,15 @@
+// The window that asks: what a box or a dialog that waits stands over, and what is the active window again afterwards.
+// The window manager would turn to the main window, whose text would take the next keys.
+#pragma once
+
+class QWidget;
+
+namespace pelmar {
+
+// The active window, or the one that is about to be; the main window where there is neither. Nothing without all.
+QWidget* Asker();
+
+// This window is to be the active one, though the window manager may make it so only later.
+void ExpectActive(QWidget* window);
+
+}  // namespace pelmar
