@@ -6,6 +6,7 @@
 #include "files/line_ends.h"
 #include "files/save.h"
 #include "platform/busy.h"
+#include "platform/error_text.h"
 #include "shell/file_number.h"
 #include "text/codepage.h"
 
@@ -39,7 +40,7 @@ std::string Told(char32_t character) {
 
 void TellError(Platform& platform, const std::string& path, const WriteOutcome& outcome) {
   Tell(platform, "Soubor se nepodařilo převést!\r\nSoubor: " + path + "\r\nKód chyby " + std::to_string(outcome.error) +
-                     KeptNotice(outcome));
+                     ": " + ErrorText(outcome.error) + KeptNotice(outcome));
 }
 
 // False where the file can't be read, which is told.

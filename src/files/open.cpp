@@ -22,7 +22,7 @@ void Opener::OpenPath(const std::string& path) {
     platform_.Message(MessageType::kOk, "Soubor " + path + " nenalezen!", "Soubor");
     return;
   }
-  if (file.error != 0) throw RuntimeError(file.error, "Soubor " + path + " nelze číst");
+  if (file.error != 0) throw Unreadable(path, file.error);
   if (file.bytes.size() > kLargestDocument) {
     platform_.Message(MessageType::kOk, "Nelze otevřít " + path + ", Soubor příliš velký", "Soubor");
     return;

@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "platform/busy.h"
+#include "platform/error_text.h"
 #include "platform/runtime_error.h"
 #include "shell/common.h"
 #include "shell/editor.h"
@@ -97,8 +98,7 @@ std::vector<PrintedPiece> LayOutForPrint(std::string_view text, double page_widt
 }
 
 std::string PrintName(std::string_view path) {
-  std::string_view name = path.substr(path.find_last_of("/\\") + 1);
-  if (const std::size_t dot = name.rfind('.'); dot != 0 && dot != std::string_view::npos) name = name.substr(0, dot);
+  const std::string_view name = path.substr(path.find_last_of("/\\") + 1);
   return name.empty() ? "Pelmar VEX" : std::string(name);
 }
 
@@ -121,10 +121,15 @@ void PrintDocument(Editor& e, const EditorLook& look) {
   const std::optional<std::string> text = TextToPrint(e);
   if (!text) return;
   const PrintOutcome outcome = PutOnPaper(e, look, *text);
-  if (outcome.error != 0) throw RuntimeError(outcome.error, "Tisk se nezdařil");
-  if (outcome.pdf.empty()) return;
-  const std::string reason = outcome.problem.empty() ? "Není nastavena žádná tiskárna." : outcome.problem;
-  e.platform.Message(MessageType::kOkInfo, reason + " Text je vytištěn do souboru" + std::string(kCrLf) + outcome.pdf,
+  if (!outcome.printer.empty()) {
+    if (outcome.error != 0) throw RuntimeError(outcome.error, "Tisk na tiskárně " + outcome.printer + " se nezdařil");
+    return;
+  }
+  const bool printed = outcome.error == 0;
+  e.platform.Message(MessageType::kOkInfo,
+                     outcome.problem +
+                         (printed ? " Text je vytištěn do souboru\r\n" : " Text nelze vytisknout ani do souboru\r\n") +
+                         outcome.pdf + (printed ? "" : "\r\n" + ErrorText(outcome.error)),
                      "Tisk");
 }
 

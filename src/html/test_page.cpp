@@ -1,6 +1,7 @@
 #include "html/test_page.h"
 
 #include "platform/busy.h"
+#include "platform/error_text.h"
 #include "platform/runtime_error.h"
 #include "shell/common.h"
 #include "shell/temp_file.h"
@@ -26,7 +27,7 @@ std::optional<TempFile> TryTestPage(Editor& e, std::string_view extension, PageE
   if (page.error == 0) return page;
   e.platform.Message(MessageType::kOk,
                      "Testovací stránku nelze zapsat do složky " + e.platform.TempFolder() + "\r\nKód chyby " +
-                         std::to_string(page.error),
+                         std::to_string(page.error) + ": " + ErrorText(page.error),
                      title);
   return std::nullopt;
 }

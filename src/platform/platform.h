@@ -87,10 +87,11 @@ class Paper {
 };
 
 struct PrintOutcome {
-  int error = 0;    // 0 or an errno
-  std::string pdf;  // the path of the file that stands for the paper where there is no printer
-  // Why the system's printers couldn't be asked for, UTF-8; "" where they were, and none is the default one.
-  std::string problem = {};
+  int error = 0;             // 0 or an errno
+  std::string printer = {};  // its name; "" where there is none to print on
+  // The rest is for that case. UTF-8.
+  std::string problem = {};  // why there is none
+  std::string pdf = {};      // the path of the file that stands for the paper
 };
 
 // What becomes of the bytes of a file on their way into another. A result is valid until the next call.
@@ -165,8 +166,8 @@ class Platform {
   virtual std::string TempFolder() = 0;
   virtual std::string ShareFolder() = 0;  // what the package brings along
 
-  // Prints what `draw` puts on the paper on the system's default printer. Where there is none, the paper is a new PDF
-  // file in the person's documents folder. `name` (UTF-8) names the job and the file.
+  // Prints what `draw` puts on the paper on the system's default printer, or on the only one. Where there is none, the
+  // paper is a new PDF file in the person's documents folder. `name` (UTF-8) names the job and the file.
   virtual PrintOutcome Print(const PrintFont& font, const std::string& name,
                              const std::function<void(Paper&)>& draw) = 0;
 

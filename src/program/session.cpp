@@ -52,7 +52,7 @@ void Session::LoadText() {
   if (FileExists(file_number_, platform_, path)) {
     // A longer file is passed over in silence and stays where it is.
     FileBytes file = platform_.ReadFile(path, kLargestDocument + 1);
-    if (file.error != 0) throw RuntimeError(file.error, "Soubor " + path + " nelze číst");
+    if (file.error != 0) throw Unreadable(path, file.error);
     if (file.bytes.size() <= kLargestDocument) documents_.Text().SetText(std::move(file.bytes));
   }
   if (documents_.Text().Empty() && platform_.ClipboardContent()) documents_.Text().SetText(platform_.ClipboardText());
@@ -62,7 +62,7 @@ void Session::LoadSettings() {
   const std::string path = InstallPath(kSettingsName);
   if (!FileExists(file_number_, platform_, path)) return;
   const FileBytes file = platform_.ReadFile(path, std::nullopt);
-  if (file.error != 0) throw RuntimeError(file.error, "Soubor " + path + " nelze číst");
+  if (file.error != 0) throw Unreadable(path, file.error);
   settings_ = ReadSettings(file.bytes);
 }
 

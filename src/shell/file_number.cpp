@@ -2,13 +2,15 @@
 
 #include <utility>
 
+#include "platform/error_text.h"
 #include "platform/paths.h"
 
 namespace pelmar {
 namespace {
 
 void Check(const WriteOutcome& outcome, const std::string& path, const char* what) {
-  if (outcome.error != 0) throw RuntimeError(outcome.error, "Soubor " + path + what + KeptNotice(outcome));
+  if (outcome.error != 0)
+    throw RuntimeError(outcome.error, "Soubor " + path + what + ": " + ErrorText(outcome.error) + KeptNotice(outcome));
 }
 
 constexpr char kCantWrite[] = " nelze zapsat";
@@ -19,6 +21,10 @@ constexpr char kCantOpen[] = " nelze otevřít";
 bool FileExists(const FileNumber& number, Platform& platform, const std::string& path) {
   if (number.IsOpen()) return false;
   return platform.CanRead(path.substr(0, path.size() - (EndsInSeparator(path) ? 1 : 0)));
+}
+
+RuntimeError Unreadable(const std::string& path, int error) {
+  return {error, "Soubor " + path + " nelze číst: " + ErrorText(error)};
 }
 
 std::string KeptNotice(const WriteOutcome& outcome) {

@@ -44,6 +44,9 @@ class OpenNumber {
 // operation fails until the next start; the test may not set it free.
 bool FileExists(const FileNumber& number, Platform& platform, const std::string& path);
 
+// Of a file that is there.
+RuntimeError Unreadable(const std::string& path, int error);
+
 // What a person has to know of a failed write beside its error: a line behind a message, "" as a rule.
 std::string KeptNotice(const WriteOutcome& outcome);
 

@@ -293,8 +293,7 @@ TEST(PrintLayout, WrapsAtBlanksAndBreaks) {
 
 TEST(PrintName, IsTheFilesName) {
   EXPECT_EQ(PrintName(""), "Pelmar VEX");
-  EXPECT_EQ(PrintName("/a.b/c.d.txt"), "c.d");
-  EXPECT_EQ(PrintName("/a/.profile"), ".profile");
+  EXPECT_EQ(PrintName("/a.b/c.d.txt"), "c.d.txt");
   EXPECT_EQ(PrintName("C:\\a\\b"), "b");
 }
 
@@ -306,15 +305,14 @@ TEST(Printing, FillsPageAfterPageAndTellsWhereItWent) {
   EXPECT_EQ(platform.TakeTold(),
             "busy 1; print Pelmar VEX Font 8 bold; put 0 0 \"a\"; put 0 2 \"b\"; put 1 0 \"c\"; put 2 0 \"d\"; page; "
             "put 0 0 \"e\"; page; put 1 0 \"f\"; busy 0; ");
-  platform.print_outcome.pdf = "/x.pdf";
-  for (const std::string problem : {"", "Chybí modul."}) {
-    platform.print_outcome.problem = problem;
+  for (const auto& [error, told] : {std::pair(0, "je vytištěn do souboru\r\n/x.pdf\""),
+                                    {ENOSPC, "nelze vytisknout ani do souboru\r\n/x.pdf\r\nna disku není místo\""}}) {
+    platform.print_outcome = {.error = error, .problem = "Chybí modul.", .pdf = "/x.pdf"};
     platform.answers = {kOk};
     PrintDocument(editor, {});
-    EXPECT_EQ(platform.calls.back(), "message 64 \"" + (problem.empty() ? "Není nastavena žádná tiskárna." : problem) +
-                                         " Text je vytištěn do souboru\r\n/x.pdf\" \"Tisk\"");
+    EXPECT_EQ(platform.calls.back(), std::string("message 64 \"Chybí modul. Text ") + told + " \"Tisk\"");
   }
-  platform.print_outcome = {.error = EIO, .pdf = {}};
+  platform.print_outcome = {.error = EIO, .printer = "P"};
   EXPECT_THROW(PrintDocument(editor, {}), RuntimeError);
   EXPECT_EQ(platform.busy, 0);
 }

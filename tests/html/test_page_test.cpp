@@ -59,8 +59,8 @@ TEST_F(PageTest, APageThatCannotBeWrittenIsTold) {
   platform.answers = {Answer::kOk, Answer::kOk, Answer::kOk};
   editor.commands.Run("mnutest");
   EXPECT_EQ(platform.calls, (Calls{"create /tmp/$$$PelmarTemp0.htm",
-                                   "message 0 \"Testovací stránku nelze zapsat do složky /tmp/\r\nKód chyby " +
-                                       std::to_string(ENOSPC) + "\" \"Testuj html\""}));
+                                   "message 0 \"Testovací stránku nelze zapsat do složky /tmp/\r\nKód chyby 28: na "
+                                   "disku není místo\" \"Testuj html\""}));
   EXPECT_FALSE(editor.file_number.IsOpen());
   // Every name is taken: the search ends.
   platform.draws.assign(1000, 0.0);

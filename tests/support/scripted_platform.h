@@ -49,7 +49,7 @@ class ScriptedPlatform : public Platform, public Paper {
   std::deque<double> draws;  // Random() takes these first, then 0, 0.25, 0.5 and 0.75 in turn.
   int reseeds = 0;
   std::string install_folder = "/install/";
-  PrintOutcome print_outcome;
+  PrintOutcome print_outcome{.printer = "P"};
   double paper_width = 100;  // each character is one dot wide
   int busy = 0;              // how many busy pointers are in force
 

@@ -25,10 +25,17 @@ class PrinterPlugin : public QObject, public SystemPrinter {
   Q_INTERFACES(pelmar::SystemPrinter)
 
  public:
-  std::unique_ptr<QPagedPaintDevice> BeginJob(const QString& name) override {
+  QString FindPrinter(QString& problem) override {
     const QPrinterInfo standard = QPrinterInfo::defaultPrinter();
-    if (standard.isNull()) return nullptr;
-    auto job = std::make_unique<QPrinter>(standard, QPrinter::HighResolution);
+    if (!standard.isNull()) return standard.printerName();
+    const QStringList all = QPrinterInfo::availablePrinterNames();
+    if (all.size() == 1) return all.first();
+    problem = all.isEmpty() ? QStringLiteral("Není nastavena žádná tiskárna.")
+                            : QStringLiteral("Žádná tiskárna není výchozí (jsou: %1).").arg(all.join(u", "));
+    return {};
+  }
+  std::unique_ptr<QPagedPaintDevice> BeginJob(const QString& printer, const QString& name) override {
+    auto job = std::make_unique<QPrinter>(QPrinterInfo::printerInfo(printer), QPrinter::HighResolution);
     job->setDocName(name);
     return job;
   }

@@ -65,7 +65,7 @@ bool PrintOn(QPagedPaintDevice& device, const PrintFont& font, const std::functi
 }
 
 // Loads the module where it wasn't yet. Nothing where that doesn't work, and `problem` tells why then.
-SystemPrinter* FindPrinter(QString& problem) {
+SystemPrinter* LoadPrinters(QString& problem) {
   static SystemPrinter* printer = nullptr;
   if (printer != nullptr) return printer;
   const LoadedModule module = LoadModule(ModuleFolders(), QStringLiteral("pelmar-printer.so"));
@@ -86,24 +86,30 @@ PrintOutcome PrintIntoPdf(const PrintFont& font, const QString& name, const std:
   const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
   QDir().mkpath(folder);
   QFile file(NewPdfPath(folder, name));
+  PrintOutcome outcome{.pdf = Utf8FromQString(file.fileName())};
   errno = 0;
-  if (!file.open(QIODevice::ReadWrite | QIODevice::NewOnly)) return {.error = errno != 0 ? errno : EIO, .pdf = {}};
+  const auto failed = [&outcome] {
+    outcome.error = errno != 0 ? errno : EIO;
+    return outcome;
+  };
+  if (!file.open(QIODevice::ReadWrite | QIODevice::NewOnly)) return failed();
   QPdfWriter writer(&file);
   writer.setTitle(name);
   writer.setCreator(QStringLiteral("Pelmar VEX"));
   writer.setPageSize(QPageSize(QPageSize::A4));
   writer.setPageMargins(QMarginsF(kPdfMargin, kPdfMargin, kPdfMargin, kPdfMargin), QPageLayout::Millimeter);
   if (!PrintOn(writer, font, draw) || !IsWholePdf(file)) {
+    failed();
     file.remove();
-    return {.error = EIO, .pdf = {}};
   }
-  return {.error = 0, .pdf = Utf8FromQString(file.fileName())};
+  return outcome;
 }
 
 }  // namespace
 
 QString NewPdfPath(const QString& folder, const QString& name) {
-  const QString base = folder + QLatin1Char('/') + name;
+  constexpr qsizetype kLongestName = 80;  // of the 255 bytes of a file's name a character takes up to three
+  const QString base = folder + QLatin1Char('/') + name.left(kLongestName);
   QString path = base + QStringLiteral(".pdf");
   for (int number = 2; QFile::exists(path); ++number) path = QStringLiteral("%1 (%2).pdf").arg(base).arg(number);
   return path;
@@ -111,15 +117,16 @@ QString NewPdfPath(const QString& folder, const QString& name) {
 
 PrintOutcome PrintOnDefault(const PrintFont& font, const QString& name, const std::function<void(Paper&)>& draw) {
   QString problem;
-  SystemPrinter* const printer = FindPrinter(problem);
-  const std::unique_ptr<QPagedPaintDevice> job = printer == nullptr ? nullptr : printer->BeginJob(name);
-  if (job == nullptr) {
+  SystemPrinter* const printers = LoadPrinters(problem);
+  const QString printer = printers == nullptr ? QString() : printers->FindPrinter(problem);
+  if (printer.isEmpty()) {
     PrintOutcome outcome = PrintIntoPdf(font, name, draw);
     outcome.problem = Utf8FromQString(problem);
     return outcome;
   }
-  const bool printed = PrintOn(*job, font, draw) && !printer->HasFailed(*job);
-  return {.error = printed ? 0 : EIO, .pdf = {}};
+  const std::unique_ptr<QPagedPaintDevice> job = printers->BeginJob(printer, name);
+  const bool printed = PrintOn(*job, font, draw) && !printers->HasFailed(*job);
+  return {.error = printed ? 0 : EIO, .printer = Utf8FromQString(printer)};
 }
 
 }  // namespace pelmar

@@ -2,6 +2,9 @@
 
 #include <QAccessible>
 
+#include "platform/error_text.h"
+#include "platform/qt/convert.h"
+
 namespace pelmar {
 
 WarningLabel::WarningLabel(QWidget* parent) : QLabel(parent) {
@@ -20,9 +23,9 @@ void WarningLabel::showEvent(QShowEvent* event) {
 
 QString UnkeptTip(int error) {
   return QStringLiteral(
-             "Neuložené změny teď nelze zachovat pro případ pádu (kód chyby %1).\n"
+             "Neuložené změny teď nelze zachovat pro případ pádu (%1).\n"
              "Uložte je, nebo uvolněte místo na disku; program to zkouší znovu.")
-      .arg(error);
+      .arg(Utf8ToQString(ErrorText(error)));
 }
 
 }  // namespace pelmar

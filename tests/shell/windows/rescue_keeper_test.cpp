@@ -117,8 +117,9 @@ TEST_F(RescueKeeperTest, AnErrorThatEndsTheProgramIsToldWithWhatWasKept) {
                 kept[0].substr(6) +
                 "\r\nPříští start programu je nabídne zpět.\r\n\r\nProgram bude ukončen.\" \"Pelmar VEX\"");
   platform.read_errors[folder.File("notes.dat")] = EACCES;
-  EXPECT_EQ(told("-NOTE", "").back(), "message 0 \"Běhová chyba 13:\r\nSoubor " + folder.File("notes.dat") +
-                                          " nelze otevřít\r\n\r\nProgram bude ukončen.\" \"Pelmar VEX\"");
+  EXPECT_EQ(told("-NOTE", "").back(),
+            "message 0 \"Běhová chyba 13:\r\nSoubor " + folder.File("notes.dat") +
+                " nelze otevřít: přístup odepřen\r\n\r\nProgram bude ukončen.\" \"Pelmar VEX\"");
 }
 
 // Old files go when their texts are safe elsewhere, not before, and only those whose texts are. A text that two files
