@@ -103,8 +103,11 @@ std::string CommandTail(const QStringList& arguments) {
   const std::string tail = PathFromQString(arguments.join(QLatin1Char(' ')));
   const std::filesystem::path file(tail);
   std::error_code error;
-  if (file.is_relative() && std::filesystem::exists(file, error))
-    return std::filesystem::absolute(file, error).native();
+  if (file.is_relative() && std::filesystem::exists(file, error)) {
+    const std::filesystem::path whole = std::filesystem::absolute(file, error), plain = whole.lexically_normal();
+    // Behind a linked folder ".." leads elsewhere than the words say.
+    return (std::filesystem::equivalent(plain, whole, error) ? plain : whole).native();
+  }
   return PathFromFileUrl(tail).value_or(tail);
 }
 

@@ -59,7 +59,7 @@ class Program {
 };
 
 // The command tail as one string: the arguments joined by one blank, the relative path of an existing file made
-// absolute.
+// absolute, without "." and ".." where they can go.
 std::string CommandTail(const QStringList& arguments);
 
 }  // namespace pelmar

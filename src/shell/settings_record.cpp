@@ -1,5 +1,6 @@
 #include "shell/settings_record.h"
 
+#include <algorithm>
 #include <cstddef>
 
 #include "platform/paths.h"
@@ -111,6 +112,9 @@ void ApplySettingsDefaults(SettingsRecord& record) {
     record.ForeColor = Rgb(0, 0, 0);
     record.BackColor = Rgb(255, 255, 255);
   }
+  constexpr std::int32_t kFarthest = 1'000'000;
+  for (std::int32_t* length : {&record.Width, &record.Height, &record.Top, &record.Left, &record.AutosnapDistance})
+    *length = std::clamp(*length, -kFarthest, kFarthest);
 }
 
 std::string StoredPath(std::string_view path) {

@@ -42,7 +42,8 @@ SettingsRecord ReadSettings(std::string_view bytes);
 // The record's bytes. A string longer than 65,535 bytes is cut to that.
 std::string SettingsBytes(const SettingsRecord& record);
 
-// Repairs that the start makes before it uses the record: the name of the font and equal colours.
+// Repairs that the start makes before it uses the record: the name of the font, equal colours, lengths that lead off
+// every desktop.
 void ApplySettingsDefaults(SettingsRecord& record);
 
 // How a path lies in a file of Windows-1250 text: in the page where that loses nothing, else as it is in UTF-8. Reading

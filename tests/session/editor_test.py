@@ -42,7 +42,7 @@ class EditorTest(EditorCase):
 
     def test_notes_store_themselves_and_alone_nothing_else(self):
         main = self.start()
-        notes = self.work('F9 [Poznámky] "milk" Return "bread" alt+2 "second"')
+        notes = self.work('F9 [Poznámky] "milk" Return "breads" alt+2 "second" alt+1 BackSpace')
         self.command("xdotool", "windowminimize", notes.id)
         self.work("[Pelmar VEX ()] F9 [Poznámky] alt+F4 /")
         self.end(main, answer=None)

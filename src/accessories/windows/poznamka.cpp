@@ -104,7 +104,7 @@ RescueContent Poznamka::Unsaved() {
           .readable = ReadableNotes,
           .known = [this](const RescuedText& note) { return Now().Page(note.place) == note.text; },
           .bring_back = [this](const auto& records) { return BringBack(records); },
-          .found = "Poznámky minule nebyly uloženy. Zachované stránky: ",
+          .found = "Poznámky minule nebyly uloženy. Počet zachovaných stránek: ",
           .wanted = "Vrátit je do poznámek ?",
           .rest_name = "notes-rescued.txt",
           .rest_told = "Všechny stránky se do poznámek nevešly. Zbylé jsou v souboru"};
@@ -118,10 +118,13 @@ std::vector<RescuedText> Poznamka::BringBack(const std::vector<RescueRecord>& re
 }
 
 void Poznamka::ShowPage(int page) {
+  const auto caret = [this]() -> std::size_t& { return carets_[static_cast<std::size_t>(page_ - 1)]; };
+  caret() = Text().Caret();
   page_ = page;
   const QSignalBlocker quiet(ui_->TabStrip1);
   ui_->TabStrip1->setCurrentIndex(page - 1);
   Text().SetText(record_.Page(page));
+  Text().Select(caret(), caret());
 }
 
 void Poznamka::TabStrip1_Click(int index) {

@@ -5,6 +5,7 @@
 
 #include <QTimer>
 #include <QWidget>
+#include <array>
 #include <functional>
 #include <memory>
 
@@ -75,6 +76,7 @@ class Poznamka : public QWidget {
   NotesRecord record_;  // the page on show as it was when it was turned to
   NotesRecord stored_;  // what the file holds, as far as this window knows
   int page_ = 1;
+  std::array<std::size_t, kNotePages> carets_{};  // where each page is gone on with
   QTimer timer1_{this};
   NotesTimer tick_;
   RescueKeeper keeper_;

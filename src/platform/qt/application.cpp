@@ -1,5 +1,8 @@
 #include "platform/qt/application.h"
 
+#include <cerrno>
+#include <new>
+
 namespace pelmar {
 
 bool Application::notify(QObject* receiver, QEvent* event) {
@@ -8,8 +11,11 @@ bool Application::notify(QObject* receiver, QEvent* event) {
   } catch (const RuntimeError& error) {
     if (!on_runtime_error) throw;
     on_runtime_error(error);
-    return true;
+  } catch (const std::bad_alloc&) {
+    if (!on_runtime_error) throw;
+    on_runtime_error(RuntimeError(ENOMEM, "Na tuto operaci nestačí paměť"));
   }
+  return true;
 }
 
 void EndProgram(int status) {

@@ -14,7 +14,8 @@ class Application : public QApplication {
 
   bool notify(QObject* receiver, QEvent* event) override;
 
-  // Called with a RuntimeError that no handler of the program caught; doesn't return.
+  // Called with a RuntimeError that no handler of the program caught, or with ENOMEM where memory has run out; doesn't
+  // return.
   std::function<void(const RuntimeError&)> on_runtime_error;
 };
 

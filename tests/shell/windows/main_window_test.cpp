@@ -287,6 +287,7 @@ TEST_F(MainWindowTest, DroppedFilesAreOpenedAfterAQuestionAsFarAsThereAreTabs) {
 
 TEST(CommandTail, NamesAFileByItsPathOrItsUrl) {
   EXPECT_EQ(CommandTail({QStringLiteral("a"), PathToQString("b\xE8.txt")}), "a b\xE8.txt");
+  EXPECT_EQ(CommandTail({QStringLiteral("./..")}), std::filesystem::current_path().parent_path() / "");
   EXPECT_EQ(CommandTail({QStringLiteral("file:///x/%C4%8D%20%e8.txt")}), "/x/č \xE8.txt");
   EXPECT_EQ(CommandTail({QStringLiteral("File://localhost/50%.txt")}), "/50%.txt");
   for (const char* other : {"", "-CALC", "missing.txt", "file://server/a.txt", "file:///a%00.txt", "http://x.cz/"})
