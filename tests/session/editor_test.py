@@ -21,6 +21,8 @@ class EditorTest(EditorCase):
         self.save_over()
         self.work(f"[{clean}]")
         self.assertEqual(path.read_bytes(), expected)
+        # Two menus have the same access key, and many items none.
+        self.work("alt+t alt+t k Return [HTML Komentář] Escape /")
         # Two questions in a row end where the first was asked.
         self.work('F1 [Help k Pelmar VEX] Tab Tab "checkpoint" Return [hledání] Return /'
                   " [hledání] Escape / [Help k Pelmar VEX] Escape /")

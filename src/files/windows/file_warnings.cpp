@@ -3,9 +3,15 @@
 #include <QEvent>
 
 #include "files/encodings.h"
+#include "files/open.h"
 #include "platform/qt/convert.h"
 
 namespace pelmar {
+namespace {
+
+constexpr QStringView kTooLong = u"Text má přes 64 000 znaků: uložit ho lze, ale znovu ho program neotevře";
+
+}  // namespace
 
 // The file is asked about where the person comes back to it, never while they type. Another file on the tab, opened or
 // saved, is this program's own doing.
@@ -25,6 +31,8 @@ FileWarnings::FileWarnings(MainWindow& window, Editor& editor, const OutsideChan
              editor.text.OnChange([this](const TextChange&) {
                WarnOfOutside(OutsideChange::kNone);
                window_.Bar().Warn(Warning::kUtf8, {});
+               const bool too_long = documents_.Text().Size() > kLargestDocument;
+               window_.Bar().Warn(Warning::kTooLong, too_long ? kTooLong.toString() : QString());
              })} {
   window.installEventFilter(this);
 }

@@ -1,6 +1,7 @@
-// Warns in the status bar of the file of the document on show, until the person works on: that it was changed
-// meanwhile, when the main window becomes active and when its tab comes on show; that it is in UTF-8, when it is opened
-// or saved and when its tab comes on show.
+// Warns in the status bar of a text that could be saved but not opened again, for as long as it is that long, and of
+// the file of the document on show, until the person works on: that it was changed meanwhile, when the main window
+// becomes active and when its tab comes on show; that it is in UTF-8, when it is opened or saved and when its tab comes
+// on show.
 #pragma once
 
 #include <QObject>

@@ -55,7 +55,7 @@ SeznamDef::SeznamDef(TextBuffer& document, QWidget* parent)
     : FragmentDialog(document, parent, &Ui::SeznamDef::Command3, &Ui::SeznamDef::Command4) {
   lists_ =
       new PairedLists({ui_->Atribut, ui_->Hodnota, ui_->Atributs, ui_->Values, ui_->Command1, ui_->Command2}, this);
-  for (QLineEdit* field : {ui_->Atribut, ui_->Hodnota}) OnEnter(field, [this] { lists_->AddByEnter(); });
+  OnEnter(ui_->Hodnota, [this] { lists_->AddByEnter(); });
 }
 
 bool SeznamDef::Put() {

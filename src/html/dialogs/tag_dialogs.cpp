@@ -11,16 +11,14 @@ namespace pelmar {
 
 Attr::Attr(TextBuffer& document, Platform& platform, QWidget* parent)
     : FragmentDialog(document, parent, &Ui::Attr::Command3, &Ui::Attr::Command4), platform_(platform) {
-  for (QComboBox* box : {ui_->Attributes->NameBox(), ui_->Attributes->ValueBox()})
-    OnEnter(box, [this] { ui_->Attributes->Lists().AddByEnter(); });
+  OnEnter(ui_->Attributes->ValueBox(), [this] { ui_->Attributes->Lists().AddByEnter(); });
 }
 
 bool Attr::Put() { return AddAttributes(document_, ui_->Attributes->Lists().Rows(), platform_); }
 
 Tagy::Tagy(TextBuffer& document, QWidget* parent)
     : FragmentDialog(document, parent, &Ui::Tagy::Command3, &Ui::Tagy::Command4) {
-  for (QComboBox* box : {ui_->Attributes->NameBox(), ui_->Attributes->ValueBox()})
-    OnEnter(box, [this] { ui_->Attributes->Lists().AddByEnter(); });
+  OnEnter(ui_->Attributes->ValueBox(), [this] { ui_->Attributes->Lists().AddByEnter(); });
 }
 
 void Tagy::InsertCustomTag() {

@@ -125,12 +125,12 @@ void FrmBrowser::ShowInBrowser(const std::string& path) {
   if (path.empty()) return;
   Visit(AddressOfFile(path));
   Present();
-  view_->Widget()->setFocus();
 }
 
 void FrmBrowser::ShowAlone() {
   Present();
   if (!StartingAddress.isEmpty()) Visit(StartingAddress);
+  ui_->cboAddress->setFocus();
 }
 
 void FrmBrowser::Present() { BringToFront(*this); }
@@ -154,6 +154,7 @@ void FrmBrowser::Load(const QString& address) {
   }
   timTimer.start();
   view_->Load(url);
+  view_->Widget()->setFocus();
 }
 
 void FrmBrowser::NavigateToBox() {

@@ -1,6 +1,7 @@
 #include "shell/windows/main_toolbar.h"
 
 #include <QAction>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QToolButton>
 
@@ -77,8 +78,28 @@ void MainToolbar::Arrange(const QList<QAction*>& order) {
     auto* button = qobject_cast<QToolButton*>(widgetForAction(action));
     if (button == nullptr) continue;
     button->setFocusPolicy(Qt::TabFocus);
+    button->installEventFilter(this);
     button->setAccessibleName(action->toolTip());
     if (action->menu() != nullptr) button->setPopupMode(QToolButton::MenuButtonPopup);
+  }
+}
+
+// The toolkit's buttons answer to the space bar alone.
+bool MainToolbar::eventFilter(QObject* watched, QEvent* event) {
+  auto* button = qobject_cast<QToolButton*>(watched);
+  if (button == nullptr || event->type() != QEvent::KeyPress) return QToolBar::eventFilter(watched, event);
+  switch (static_cast<QKeyEvent*>(event)->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      return button->click(), true;
+    case Qt::Key_Escape:
+      Q_EMIT EscapePressed();
+      return true;
+    case Qt::Key_Down:
+      if (!button->defaultAction()->menu()) return false;
+      return button->showMenu(), true;
+    default:
+      return false;
   }
 }
 

@@ -23,6 +23,12 @@ class MainToolbar : public QToolBar {
   // The same actions in another order.
   void Arrange(const QList<QAction*>& order);
 
+ Q_SIGNALS:
+  void EscapePressed();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
   void AddRecentMenu(QAction* action);
 

@@ -93,6 +93,7 @@ void MainWindow::MakeControls() {
   pop_up(bar_, "MnuPopUp");
   pop_up(toolbar_, "MnuPopUp");
   pop_up(text_, "MnuSel");
+  connect(toolbar_, &MainToolbar::EscapePressed, text_, [this] { text_->setFocus(); });
   // The strip itself takes no focus, so the keyboard reaches it by keys of its own.
   AddTabKeys(*this, *tabs_);
   connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, menus_,

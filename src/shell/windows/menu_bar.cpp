@@ -2,6 +2,8 @@
 
 #include <QKeyEvent>
 #include <QMenu>
+#include <QShortcutEvent>
+#include <algorithm>
 #include <utility>
 
 #include "platform/qt/convert.h"
@@ -24,6 +26,22 @@ QKeyCombination KeysOf(std::string_view shortcut) {
   return QKeyCombination(control ? Qt::ControlModifier : Qt::NoModifier, static_cast<Qt::Key>(key));
 }
 
+bool HasAccessKey(const QAction& action, const QKeySequence& key) {
+  return action.isVisible() && QKeySequence::mnemonic(action.text()) == key;
+}
+
+// Behind the item at hand, in a circle. An item with an access key is opened by that alone.
+QAction* NextByInitial(const QMenu& menu, QChar letter) {
+  const auto first = menu.actions().indexOf(menu.activeAction()) + 1;
+  QList<QAction*> items = menu.actions();
+  std::rotate(items.begin(), items.begin() + first, items.end());
+  const auto found = std::ranges::find_if(items, [letter](const QAction* item) {
+    return item->isVisible() && item->isEnabled() && !item->isSeparator() && !item->text().contains(u'&') &&
+           item->text().startsWith(letter, Qt::CaseInsensitive);
+  });
+  return found == items.end() ? nullptr : *found;
+}
+
 }  // namespace
 
 MenuBar::MenuBar(const Commands& commands, QWidget* parent) : QMenuBar(parent), commands_(commands) {
@@ -35,6 +53,7 @@ MenuBar::MenuBar(const Commands& commands, QWidget* parent) : QMenuBar(parent), 
     QAction* action = nullptr;
     if (item.kind == MenuKind::kSubmenu) {
       auto* menu = new QMenu(caption, this);
+      menu->installEventFilter(this);
       menu->setAccessibleName(QString(caption).remove(QLatin1Char('&')));
       action = menu->menuAction();
       open.push_back(menu);
@@ -86,6 +105,53 @@ bool MenuBar::RunGrey(const QKeyEvent& keys, const std::function<MenuState()>& n
     }
   }
   return false;
+}
+
+// Two menus have the access key T: the first is meant, or behind it the second.
+bool MenuBar::OpenByAccessKey(const QKeySequence& key) {
+  QList<QAction*> menus = actions();
+  menus.removeIf([&key](const QAction* menu) { return !HasAccessKey(*menu, key); });
+  if (menus.isEmpty()) return false;
+  QAction* const next = menus[(menus.indexOf(activeAction()) + 1) % menus.size()];
+  setActiveAction(next);
+  next->menu()->setActiveAction(next->menu()->actions().constFirst());
+  return true;
+}
+
+bool MenuBar::event(QEvent* event) {
+  if (event->type() == QEvent::Shortcut && OpenByAccessKey(static_cast<QShortcutEvent*>(event)->key())) return true;
+  return QMenuBar::event(event);
+}
+
+void MenuBar::keyPressEvent(QKeyEvent* event) {
+  if (event->modifiers() == Qt::NoModifier && OpenByAccessKey(QKeySequence(Qt::ALT | event->key()))) return;
+  QMenuBar::keyPressEvent(event);
+}
+
+// Many items have no access key, and answer to their first letter.
+bool MenuBar::eventFilter(QObject* watched, QEvent* event) {
+  auto* menu = qobject_cast<QMenu*>(watched);
+  const bool press = event->type() == QEvent::KeyPress;
+  if (menu == nullptr || (!press && event->type() != QEvent::KeyRelease)) return QMenuBar::eventFilter(watched, event);
+  const auto& key = static_cast<QKeyEvent&>(*event);
+  // The toolkit would close the menu at once, and the menu behind with the same access key would never be reached.
+  if (key.key() == Qt::Key_Alt) {
+    QKeyEvent now(QEvent::KeyPress, Qt::Key_Alt, Qt::NoModifier);
+    if (!press && alt_alone_) static_cast<QObject*>(menu)->event(&now);
+    alt_alone_ = press;
+    return true;
+  }
+  if (!press) return false;
+  alt_alone_ = false;
+  const QKeySequence access(Qt::ALT | key.key());
+  if (key.modifiers() == Qt::AltModifier && activeAction() != nullptr && OpenByAccessKey(access)) return true;
+  const QList<QAction*> items = menu->actions();
+  if (std::ranges::any_of(items, [&access](const QAction* item) { return HasAccessKey(*item, access); })) return false;
+  QAction* next = key.text().size() == 1 && key.text().front().isLetterOrNumber()
+                      ? NextByInitial(*menu, key.text().front())
+                      : nullptr;
+  if (next != nullptr) menu->setActiveAction(next);
+  return next != nullptr;
 }
 
 void MenuBar::SetEnabled(std::span<const std::string_view> names, bool enabled) {

@@ -34,11 +34,18 @@ class MenuBar : public QMenuBar {
   // these are, where the state of now, asked for only then, lets it. False where there is none.
   bool RunGrey(const QKeyEvent& keys, const std::function<MenuState()>& now) const;
 
+ protected:
+  bool event(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
+  bool OpenByAccessKey(const QKeySequence& key);
   void SetEnabled(std::span<const std::string_view> names, bool enabled);
   [[nodiscard]] bool Served(const QAction* action, std::string_view name) const;
 
   const Commands& commands_;
+  bool alt_alone_ = false;  // pressed over an open menu, and nothing since
   std::map<std::string, QAction*, std::less<>> actions_;
 };
 

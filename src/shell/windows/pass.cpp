@@ -1,5 +1,6 @@
 #include "shell/windows/pass.h"
 
+#include <QKeyEvent>
 #include <QPointer>
 
 #include "platform/qt/asker.h"
@@ -34,6 +35,15 @@ void Pass::Run() {
   }
   ExpectActive(asker);  // the others have come back since
   hide_text_(false);
+}
+
+// Behind a wrong password the button has the keyboard; what is typed is the next one.
+void Pass::keyPressEvent(QKeyEvent* event) {
+  const QString text = event->text();
+  if (focusWidget() == ui_->Text1 || text.isEmpty() || !text.front().isPrint())
+    return DialogWindow::keyPressEvent(event);
+  ui_->Text1->setFocus();
+  QCoreApplication::sendEvent(ui_->Text1, event);
 }
 
 void Pass::Try() {

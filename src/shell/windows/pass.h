@@ -28,6 +28,9 @@ class Pass : public DialogWindow {
   // Neither Escape nor the window manager opens the lock.
   void reject() override {}
 
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
  private:
   void Try();
 

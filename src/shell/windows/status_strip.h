@@ -35,9 +35,10 @@ class StatusPanel : public ElidedLabel {
 };
 
 // What the bar warns of, the gravest first: unsaved work can't be kept in a rescue file; no file can be opened or
-// saved; the file of the document was changed meanwhile; that file is in UTF-8.
-enum class Warning { kUnkept, kFilesStuck, kChangedOutside, kUtf8 };
-inline constexpr int kWarningCount = 4;
+// saved; the text is longer than what can be opened; the file of the document was changed meanwhile; that file is in
+// UTF-8.
+enum class Warning { kUnkept, kFilesStuck, kTooLong, kChangedOutside, kUtf8 };
+inline constexpr int kWarningCount = 5;
 
 class StatusStrip : public QStatusBar {
   Q_OBJECT

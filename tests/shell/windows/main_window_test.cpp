@@ -144,6 +144,7 @@ TEST_F(MainWindowTest, TheBarWarnsOfTheGravestThatHolds) {
   new FileWarnings(window, editor, editor.files.outside);
   static constexpr char kUnkept[] = "Neuložená práce se teď nezachovává !";
   static constexpr char kStuck[] = "Soubory nelze otevírat ani ukládat, pomůže jen nový start programu";
+  static constexpr char kTooLong[] = "Text má přes 64 000 znaků: uložit ho lze, ale znovu ho program neotevře";
   static constexpr char kTheirs[] = "Soubor na disku se mezitím změnil";
   const std::pair<std::function<void()>, std::string> steps[] = {
       {[this] { editor.opener.OpenPath("/a.txt"), LeaveAndReturn(); }, ""},
@@ -157,6 +158,8 @@ TEST_F(MainWindowTest, TheBarWarnsOfTheGravestThatHolds) {
       {[this] { editor.text.Type("z"); }, ""},
       {[this] { editor.documents.SwitchTo(3), editor.documents.SwitchTo(1); }, std::string(kUtf8Hint)},
       {[this] { platform.files["/u.txt"] = "theirs", LeaveAndReturn(); }, kTheirs},
+      {[this] { editor.text.Replace(0, 0, std::string(64'000, 'x')); }, kTooLong},
+      {[this] { editor.text.Undo(); }, ""},
       {[this] { editor.opener.OpenStandard(), timer.Tick(); }, kStuck},
       {[this] { window.Bar().WarnOfUnkept(ENOSPC); }, kUnkept},  // work that is lost with a new start comes first
       {[this] { window.Bar().WarnOfUnkept(0); }, kStuck}};

@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QScrollBar>
 #include <QShowEvent>
 #include <QStackedWidget>
@@ -53,6 +54,16 @@ void SelectText(QWidget& field) {
 bool IsPlainEnter(const QKeyEvent& event) {
   return (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) &&
          (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+}
+
+bool IsAltCharacter(const QKeyEvent& event) {
+  return event.modifiers() == Qt::AltModifier && !event.text().isEmpty() && event.text().front().isPrint();
+}
+
+// The tabulator key enters a group at the option that is set; the toolkit sees to that only where a person has been.
+void GatherTabStops(QRadioButton& option) {
+  for (auto* other : option.parentWidget()->findChildren<QRadioButton*>(Qt::FindDirectChildrenOnly))
+    if (other->group() == option.group()) other->setFocusPolicy(other == &option ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 // What a person fills in or chooses from, but for the toolkit's own fields inside of others.
@@ -114,6 +125,8 @@ bool DialogWindow::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::KeyPress) {
     const auto& key = *static_cast<QKeyEvent*>(event);
     const auto act = on_enter_.find(watched);
+    // A letter with Alt that no control answers to is none for the field.
+    if (qobject_cast<QLineEdit*>(watched) && IsAltCharacter(key)) return true;
     if (act != on_enter_.end() && IsPlainEnter(key)) {
       act->second();
       return true;
@@ -171,6 +184,14 @@ void DialogWindow::Prepare() {
   FitInto(RoomOnScreen(*this));
   CentreOnScreen(*this);
   LabelBoxes(*this);
+  for (auto* field : findChildren<QLineEdit*>()) field->installEventFilter(this);
+  for (auto* option : findChildren<QRadioButton*>()) {
+    const auto gather = [option] {
+      if (option->isChecked()) GatherTabStops(*option);
+    };
+    connect(option, &QRadioButton::toggled, this, gather);
+    gather();
+  }
   for (QWidget* widget : findChildren<QWidget*>()) {
     if (!HoldsValue(*widget)) continue;
     widget->installEventFilter(this);
