@@ -27,8 +27,6 @@
 namespace pelmar {
 namespace {
 
-constexpr int kFrameButtons = 140;  // what a frame needs beside the title
-
 // The toolkit's scroll bars move against the arrows Left and Right. True when the key was one of them.
 bool MoveByArrow(QScrollBar& bar, int key) {
   if (bar.orientation() != Qt::Horizontal || (key != Qt::Key_Left && key != Qt::Key_Right)) return false;
@@ -184,8 +182,7 @@ void DialogWindow::FitInto(QSize room) {
   if (property("sizedByContents").toBool()) adjustSize();
   const QSize least = layout() != nullptr ? layout()->totalMinimumSize() : QSize();
   if (least.width() > room.width() || least.height() > room.height()) ScrollContents(*this, EndingButtons());
-  const int title = fontMetrics().horizontalAdvance(windowTitle()) + kFrameButtons;
-  resize(QSize(std::max(width(), title), height()).boundedTo(room));
+  resize(QSize(std::max(width(), WidthOfTitle(*this)), height()).boundedTo(room));
 }
 
 // The default one and the one that Escape presses, as they stand in the form.

@@ -32,7 +32,7 @@ TextBox::TextBox(QWidget* parent)
       own_buffer_(std::make_unique<TextBuffer>()),
       view_(std::make_unique<TextView>(*own_buffer_, [this] { return viewport()->width(); })),
       mover_(view_->RawLayout()),
-      blink_([this] { viewport()->update(shown_caret_); }, nullptr),
+      blink_([this] { viewport()->update(shown_caret_); }),
       mouse_(*this),
       drop_(*this),
       teller_(std::make_unique<TextBoxTeller>(*this)) {
