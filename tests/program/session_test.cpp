@@ -52,7 +52,7 @@ TEST_F(SessionTest, AFirstStartRunsTheStepsInOrder) {
   config = [this] {
     editor.settings.UserName = "Eva";
     view.state = 1;
-    session.StoreSettings(false);
+    session.StoreSettings();
   };
   EXPECT_EQ(Start(""),
             "colors, recent, place, state, font, colors, size, bold, no bold mark, italic, no italic mark, config, "
