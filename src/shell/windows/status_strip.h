@@ -3,6 +3,7 @@
 
 #include <QStatusBar>
 #include <array>
+#include <map>
 #include <string>
 
 #include "platform/platform.h"
@@ -37,7 +38,6 @@ class StatusPanel : public ElidedLabel {
 // What the bar warns of, the gravest first: unsaved work can't be kept in a rescue file; no file can be opened or
 // saved; the file of the document was changed meanwhile; that file is in UTF-8.
 enum class Warning { kUnkept, kFilesStuck, kChangedOutside, kUtf8 };
-inline constexpr int kWarningCount = 4;
 
 class StatusStrip : public QStatusBar {
   Q_OBJECT
@@ -76,9 +76,10 @@ class StatusStrip : public QStatusBar {
   std::array<int, kPanelCount> widths_{};
   WarningLabel* warning_ = nullptr;
   bool cleared_ = true;
-  struct {
+  struct Said {
     QString text, tip;
-  } warnings_[kWarningCount];
+  };
+  std::map<Warning, Said> warnings_;
 };
 
 }  // namespace pelmar
