@@ -22,6 +22,7 @@
 #include "platform/qt/controls/text_box.h"
 #include "platform/qt/outer_geometry.h"
 #include "platform/qt/placement.h"
+#include "platform/qt/program_style.h"
 #include "platform/qt/svg_icon.h"
 
 namespace pelmar {
@@ -81,7 +82,7 @@ bool LiesBehindTabs(const QWidget* widget) {
 
 }  // namespace
 
-DialogWindow::DialogWindow(QWidget* parent) : QDialog(parent) {}
+DialogWindow::DialogWindow(QWidget* parent) : QDialog(parent) { setProperty(kRoomProperty, true); }
 
 void DialogWindow::Present() {
   const bool on_show = isVisible();
