@@ -1,12 +1,16 @@
 #!/bin/sh
-# What ./test --all runs behind the tests: the tests once more under the address and undefined behaviour sanitizers, each
-# fuzzer for a while, clang-tidy over what the last day changed, and each benchmark once to see that it still runs.
+# What ./test --all runs behind the tests: clang-format over all sources, the tests once more under the address and
+# undefined behaviour sanitizers, each fuzzer for a while, clang-tidy over what the last day changed, and each benchmark
+# once to see that it still runs.
 root=$(dirname "$(dirname "$(readlink -f "$0")")")
 step=check
 . "$root/packaging/setup.sh"
 fuzz_seconds=20
 most_tidied=100  # files, which keeps a day of many changes within some minutes
 cd "$root" || exit 1
+
+tell "clang-format over all sources"
+find src tests fuzz bench tools -name '*.h' -o -name '*.cpp' | xargs clang-format --dry-run -Werror >&2 || exit 1
 
 configure_and_build asan core_tests window_tests || exit 1
 tell "running the core and window tests under the sanitizers"

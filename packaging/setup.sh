@@ -8,7 +8,7 @@ test_packages="libgtest-dev libbenchmark-dev python3 xvfb openbox xdotool xclip 
 imagemagick cups-daemon cups-client lintian dpkg-dev appstream desktop-file-utils fakeroot poppler-utils
 dbus-daemon at-spi2-core gir1.2-atspi-2.0 python3-gi weston qt6-wayland"
 fuzz_packages="clang libclang-rt-14-dev"
-check_packages="$fuzz_packages clang-tidy git"
+check_packages="$fuzz_packages clang-format clang-tidy git"
 
 tell() {
   printf '%s: %s\n' "$step" "$*" >&2

@@ -13,8 +13,6 @@
 namespace pelmar {
 namespace {
 
-constexpr std::string_view kMark = "\xEF\xBB\xBF";
-
 bool IsOutsidePage(char32_t character) { return character != U'?' && CodeOfUnicode(character) == '?'; }
 
 void Tell(Platform& platform, const std::string& text) { platform.Message(MessageType::kOk, text, kConversionTitle); }
@@ -122,7 +120,7 @@ std::string_view Utf8ToPage::Rewrite(std::string_view piece) {
 
 std::string_view PageToUtf8::Rewrite(std::string_view piece) {
   out_ = ToUtf8(piece);
-  if (mark_) out_.insert(0, kMark);
+  if (mark_) out_.insert(0, kByteOrderMarkBytes);
   mark_ = false;
   kept_ += out_.size();
   return out_;

@@ -26,7 +26,7 @@ Program::Program(Platform& platform)
       rescue_(ModifiedDocuments(editor_.documents), platform),
       timer_(main_, editor_) {
   AddCommands(editor_, files_);
-  doors_.store_settings = [this] { session_.StoreSettings(false); };
+  doors_.store_settings = [this] { session_.StoreSettings(); };
   doors_.mode = [this] { return session_.Mode(); };
   doors_.closed = [this] { return session_.Closed(); };
   AddWindows();

@@ -90,7 +90,8 @@ void Session::Act(std::string_view tail) {
 bool Session::Close() {
   Store(kRecoveryName, documents_.Text().Text());
   Store(kAllFilesName, AllFilesText(documents_));
-  StoreSettings(true);
+  settings_.WindowState = view_.WindowState();
+  StoreSettings();
   closed_ = MayEnd();
   return closed_;
 }
@@ -102,13 +103,12 @@ bool Session::MayEnd() {
   return platform_.Message(MessageType::kYesNoWarning, question, "Konec") == Answer::kYes;
 }
 
-void Session::StoreSettings(bool with_window_state) {
+void Session::StoreSettings() {
   const TwipsRect place = view_.Place();
   settings_.Width = place.width;
   settings_.Height = place.height;
   settings_.Left = place.left;
   settings_.Top = place.top;
-  if (with_window_state) settings_.WindowState = view_.WindowState();
   const EditorLook look = view_.Look();
   settings_.FontName = look.font_name;
   settings_.ForeColor = look.fore_color;

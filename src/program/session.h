@@ -34,8 +34,8 @@ class Session {
   // RuntimeError where a file can't be written.
   bool Close();
 
-  // Writes the settings file; both the close and the profile dialog do, the latter without the window's state.
-  void StoreSettings(bool with_window_state);
+  // Writes the settings file, as the close and the profile dialog do. The window's state is taken at the close alone.
+  void StoreSettings();
 
   // True from the close that the person didn't refuse: the program ends as soon as its events are handled, and what is
   // stored is final.

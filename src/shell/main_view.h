@@ -37,7 +37,7 @@ class MainPlace {
 
   virtual void SetNormalState() = 0;
   virtual void SetOuterSize(int width, int height) = 0;
-  // Width, height, left and top, in this order.
+  // Sets the size, then the place.
   virtual void MoveTo(const TwipsRect& place) = 0;
 };
 

@@ -21,6 +21,28 @@ constexpr std::string_view kLockSuffix = ".lock";
 
 std::string LockPath(const std::string& rescue) { return rescue + std::string(kLockSuffix); }
 
+// The lock beside a rescue file, for as long as `lock` stays open. 0, or an errno where it can't be had.
+int Take(Descriptor& lock, const std::string& rescue) {
+  const std::string path = LockPath(rescue);
+  Descriptor file(open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600));
+  struct stat opened {};
+  struct stat named {};
+  if (!file.IsOpen() || flock(file.Number(), LOCK_EX | LOCK_NB) != 0 || fstat(file.Number(), &opened) != 0 ||
+      stat(path.c_str(), &named) != 0)
+    return errno;
+  // Whoever held it may have removed the name between the open and the lock; then the lock means nothing.
+  if (opened.st_ino != named.st_ino) return EAGAIN;
+  lock = std::move(file);
+  return 0;
+}
+
+// Removes the file and then its lock, which is held until both are gone.
+void Remove(const std::string& rescue, Descriptor& lock) {
+  unlink(rescue.c_str());
+  unlink(LockPath(rescue).c_str());
+  lock = Descriptor();
+}
+
 // Tells apart copies that had the same process number.
 std::string FileName(std::string_view prefix) {
   const auto now = std::chrono::system_clock::now().time_since_epoch();
@@ -30,49 +52,16 @@ std::string FileName(std::string_view prefix) {
 
 }  // namespace
 
-FileLock::FileLock(const std::string& path) {
-  const int descriptor = ::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
-  if (descriptor < 0) return;
-  struct stat opened {};
-  struct stat named {};
-  // Whoever held it may have removed the name between the open and the lock; then the lock means nothing.
-  const bool held = ::flock(descriptor, LOCK_EX | LOCK_NB) == 0 && ::fstat(descriptor, &opened) == 0 &&
-                    ::stat(path.c_str(), &named) == 0 && opened.st_ino == named.st_ino;
-  if (held) {
-    descriptor_ = descriptor;
-  } else {
-    ::close(descriptor);
-  }
-}
-
-FileLock::FileLock(FileLock&& other) noexcept : descriptor_(std::exchange(other.descriptor_, -1)) {}
-
-FileLock& FileLock::operator=(FileLock&& other) noexcept {
-  FileLock old(std::move(*this));
-  descriptor_ = std::exchange(other.descriptor_, -1);
-  return *this;
-}
-
-FileLock::~FileLock() {
-  if (descriptor_ >= 0) ::close(descriptor_);
-}
-
 RescueStore::RescueStore(std::string folder, std::string_view prefix, WriteFile write)
     : folder_(std::move(folder)), path_(folder_ + FileName(prefix)), write_(std::move(write)) {}
 
 int RescueStore::Keep(std::string_view bytes) {
   if (bytes.empty()) {
-    if (!lock_.Held()) return 0;
-    ::unlink(path_.c_str());
-    ::unlink(LockPath(path_).c_str());
-    lock_ = FileLock();
+    if (lock_.IsOpen()) Remove(path_, lock_);
     return 0;
   }
-  if (!lock_.Held()) {
-    errno = 0;
-    lock_ = FileLock(LockPath(path_));
-    if (!lock_.Held()) return errno != 0 ? errno : EAGAIN;
-  }
+  if (!lock_.IsOpen())
+    if (const int error = Take(lock_, path_)) return error;
   return write_(path_, bytes);
 }
 
@@ -86,8 +75,8 @@ std::vector<AbandonedRescue> FindAbandoned(const std::string& folder, std::strin
   }
   std::vector<AbandonedRescue> found;
   for (const std::string& name : names) {
-    AbandonedRescue rescue{folder + name, FileLock(LockPath(folder + name))};
-    if (!rescue.lock.Held()) continue;
+    AbandonedRescue rescue{folder + name, Descriptor()};
+    if (Take(rescue.lock, rescue.path) != 0) continue;
     if (std::filesystem::exists(rescue.path, error)) {
       found.push_back(std::move(rescue));
     } else {
@@ -97,10 +86,6 @@ std::vector<AbandonedRescue> FindAbandoned(const std::string& folder, std::strin
   return found;
 }
 
-void Discard(AbandonedRescue& rescue) {
-  ::unlink(rescue.path.c_str());
-  ::unlink(LockPath(rescue.path).c_str());
-  rescue.lock = FileLock();
-}
+void Discard(AbandonedRescue& rescue) { Remove(rescue.path, rescue.lock); }
 
 }  // namespace pelmar

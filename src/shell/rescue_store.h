@@ -8,22 +8,9 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/descriptor.h"
+
 namespace pelmar {
-
-// A file lock that ends with the object. Empty where the lock couldn't be had.
-class FileLock {
- public:
-  FileLock() = default;
-  explicit FileLock(const std::string& path);
-  FileLock(FileLock&& other) noexcept;
-  FileLock& operator=(FileLock&& other) noexcept;
-  ~FileLock();
-
-  [[nodiscard]] bool Held() const { return descriptor_ >= 0; }
-
- private:
-  int descriptor_ = -1;
-};
 
 class RescueStore {
  public:
@@ -45,13 +32,13 @@ class RescueStore {
   std::string folder_;
   std::string path_;
   WriteFile write_;
-  FileLock lock_;
+  Descriptor lock_;  // open while it is held
 };
 
 // A rescue file whose copy has died. While it is held, no other copy finds it.
 struct AbandonedRescue {
   std::string path;
-  FileLock lock;
+  Descriptor lock;
 };
 std::vector<AbandonedRescue> FindAbandoned(const std::string& folder, std::string_view prefix);
 // Removes the file and its lock.

@@ -12,6 +12,7 @@ namespace pelmar {
 inline constexpr char32_t kUnfinishedUtf8 = 0xFFFFFFFE;  // more bytes have to come
 inline constexpr char32_t kMalformedUtf8 = 0xFFFFFFFF;
 inline constexpr char32_t kByteOrderMark = 0xFEFF;
+inline constexpr std::string_view kByteOrderMarkBytes = "\xEF\xBB\xBF";
 
 // Decodes a stream. Pieces may end anywhere.
 class Utf8Decoder {

@@ -92,10 +92,17 @@ bool Confirmed(Editor& e, std::string_view question, std::string_view title) {
 }
 
 void AddClipboardCommands(Editor& e) {
-  e.commands.Add("mnucut", [&e] { e.commands.Run("Cut"); });
-  e.commands.Add("mnucopysel", [&e] { e.commands.Run("Copy"); });
+  for (const std::string_view name : {"Cut", "mnucut"})
+    e.commands.Add(name, [&e] {
+      e.platform.SetClipboardText(e.text.SelText());
+      e.text.ReplaceSelection({});
+    });
+  for (const std::string_view name : {"Copy", "mnucopysel"})
+    e.commands.Add(name, [&e] { e.platform.SetClipboardText(e.text.SelText()); });
+  // required: a selection isn't replaced, the text goes before it
+  for (const std::string_view name : {"Paste", "mnuadd"})
+    e.commands.Add(name, [&e] { InsertAtCaret(e.text, e.platform.ClipboardText()); });
   e.commands.Add("mnucopy", [&e] { e.platform.SetClipboardText(e.text.Text()); });
-  e.commands.Add("mnuadd", [&e] { InsertAtCaret(e.text, e.platform.ClipboardText()); });
   e.commands.Add("mnuinsert", [&e] {
     if (Confirmed(e, "Opravdu vše nahradit textem ze schránky ?", "Vložení"))
       e.text.SetText(e.platform.ClipboardText());

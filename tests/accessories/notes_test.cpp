@@ -117,11 +117,7 @@ NotesSurroundings Around(TwipsRect notes, StartMode mode = StartMode::kEditor, b
 TEST(PlaceNotes, FollowsTheButtonAndTheMainWindow) {
   constexpr StartMode kEditor = StartMode::kEditor, kNotes = StartMode::kNotes;
   const TwipsRect edge{100, 300, 6000, 4000};
-  const struct {
-    const char* what;
-    NotesSurroundings around;
-    TwipsRect expected;
-  } kCases[] = {
+  const std::tuple<const char*, NotesSurroundings, TwipsRect> kCases[] = {
       {"free", Around({300, 300, 6000, 4000}), {300, 300, 6000, 4000}},
       {"just within the distance", Around({239, 239, 6000, 4000}), {0, 0, 6000, 4000}},
       {"right and bottom", Around({13000, 11200, 6000, 4000}, kEditor, false, 2), {13200, 11360, 6000, 4000}},
@@ -135,11 +131,10 @@ TEST(PlaceNotes, FollowsTheButtonAndTheMainWindow) {
   const auto on_second = [](TwipsRect place) {
     return TwipsRect{place.left + 28800, place.top - 600, place.width, place.height};
   };
-  for (const auto& one : kCases) {
-    EXPECT_EQ(PlaceNotes(one.around), one.expected) << one.what;
-    NotesSurroundings around = one.around;
+  for (auto [what, around, expected] : kCases) {
+    EXPECT_EQ(PlaceNotes(around), expected) << what;
     for (TwipsRect* place : {&around.notes, &around.main, &around.screen}) *place = on_second(*place);
-    EXPECT_EQ(PlaceNotes(around), on_second(one.expected)) << one.what;
+    EXPECT_EQ(PlaceNotes(around), on_second(expected)) << what;
   }
 }
 

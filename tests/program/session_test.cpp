@@ -52,7 +52,7 @@ TEST_F(SessionTest, AFirstStartRunsTheStepsInOrder) {
   config = [this] {
     editor.settings.UserName = "Eva";
     view.state = 1;
-    session.StoreSettings(false);
+    session.StoreSettings();
   };
   EXPECT_EQ(Start(""),
             "colors, recent, place, state, font, colors, size, bold, no bold mark, italic, no italic mark, config, "
@@ -97,20 +97,17 @@ TEST(Session, TextComesFromTheRecoveryFileOrTheClipboard) {
 }
 
 TEST(Session, TheCommandTailTellsWhatIsShown) {
-  const struct {
-    const char* tail;
-    bool show_start;
-    const char* shown;
-  } cases[] = {{"", false, "main"},   {"", true, "start"},      {"-nomsg", true, "main"},  {"-calc", true, "1"},
-               {"-NOTE", false, "2"}, {"-Browser", false, "3"}, {"/a.txt", true, "recent"}};  // main before it
-  for (const auto& c : cases) {
+  const std::tuple<const char*, bool, const char*> cases[] = {
+      {"", false, "main"},   {"", true, "start"},      {"-nomsg", true, "main"},  {"-calc", true, "1"},
+      {"-NOTE", false, "2"}, {"-Browser", false, "3"}, {"/a.txt", true, "recent"}};  // main before it
+  for (const auto& [tail, show_start, shown] : cases) {
     Desk one;
     SettingsRecord r = kStored;
-    r.ShowStart = c.show_start;
+    r.ShowStart = show_start;
     one.platform.files = {{"/a.txt", "file"}, {kRecovery, "recovered"}, {kSettings, SettingsBytes(r)}};
-    one.session.Load(), one.session.Act(c.tail);
-    EXPECT_EQ(one.view.calls.back(), c.shown) << c.tail;
-    EXPECT_EQ(one.editor.text.Text(), c.tail[0] == '/' ? "file" : "recovered");
+    one.session.Load(), one.session.Act(tail);
+    EXPECT_EQ(one.view.calls.back(), shown) << tail;
+    EXPECT_EQ(one.editor.text.Text(), tail[0] == '/' ? "file" : "recovered");
   }
   Desk one;
   one.platform.answers = {Answer::kOk};

@@ -10,13 +10,7 @@ from pathlib import Path
 
 from harness import AS_USER, NOBODY, EditorCase, built
 
-SERVER = """Listen {0}/socket
-<Policy default>
-<Limit All>
-Allow all
-</Limit>
-</Policy>
-"""
+SERVER = "Listen {0}/socket\n<Policy default>\n<Limit All>\nAllow all\n</Limit>\n</Policy>\n"
 FILES = "FileDevice Yes\nSandboxing relaxed\nRequestRoot {0}/jobs\n" + "".join(
     f"{place} {{0}}\n" for place in ("ServerRoot", "TempDir", "CacheDir", "StateDir"))
 WORDS = "Příliš žluťoučký kůň\r\núpěl ďábelské ódy"

@@ -126,10 +126,7 @@ TEST(Status, TellsOfTheTextOrTheSelection) {
 }
 
 TEST(Snap, PullsWindowsToTheEdges) {
-  const struct {
-    const char* what;
-    TwipsRect before, after;
-  } cases[] = {
+  const std::tuple<const char*, TwipsRect, TwipsRect> cases[] = {
       {"nearer than the distance", {239, 239, 9000, 6000}, {0, 0, 9000, 6000}},
       {"as far as the distance", {240, 240, 9000, 6000}, {240, 240, 9000, 6000}},
       {"right and bottom", {19700, 10000, 9000, 6000}, {19800, 10200, 9000, 6000}},
@@ -138,7 +135,7 @@ TEST(Snap, PullsWindowsToTheEdges) {
       {"almost as wide as the screen", {100, 5000, 28600, 6000}, {0, 5000, 28800, 6000}},
       {"almost as high", {5000, 100, 9000, 16000}, {5000, 0, 9000, 16200}},
   };
-  for (const auto& c : cases) EXPECT_EQ(Snap(c.before, 240, {0, 0, 28800, 16200}), c.after) << c.what;
+  for (const auto& [what, before, after] : cases) EXPECT_EQ(Snap(before, 240, {0, 0, 28800, 16200}), after) << what;
 }
 
 TEST(PlaceRequests, RestWhereTheyAreInVain) {
@@ -173,12 +170,9 @@ std::string Laid(const LayoutInput& in) {
 }
 
 TEST(Layout, FollowsTheBarsThatAreVisibleAndKeepsRoomForThem) {
-  LayoutInput in{.outer_width = 12000,
-                 .inner_width = 11900,
-                 .inner_height = 8000,
-                 .toolbar_height = 500,
-                 .bar_height = 300,
-                 .panel_widths = {1000, 1000, 1000, 0, 500, 500, 500}};
+  LayoutInput in{.outer_width = 12000, .inner_width = 11900, .inner_height = 8000, .toolbar_height = 500};
+  in.bar_height = 300;
+  in.panel_widths = {1000, 1000, 1000, 0, 500, 500, 500};
   EXPECT_EQ(Laid(in), "500 7210 11540 11900 7080 0");
   in.inner_height = 1069;
   EXPECT_EQ(Laid(in), "500 279 11540 11900 7080 1");

@@ -86,9 +86,7 @@ struct SearchTest : testing::Test {
 };
 
 TEST_F(SearchTest, FindStepsThroughASnapshot) {
-  const struct {
-    std::string_view document, term, steps, shown;
-  } cases[] = {
+  const std::string_view cases[][4] = {
       {"|aaaa", "", "L", "fch -@- Text |aaaa"},
       {"a[bc|", "", "L", "fch -@- bc a[bc|"},
       {"|aaaa", "aa", "S", "n 1@0 aa [aa|aa"},
@@ -107,13 +105,12 @@ TEST_F(SearchTest, FindStepsThroughASnapshot) {
       {"|one\r\ntwo one\r\ntwo", "e\r\ntwo", "S", "n 1@2 e\r\ntwo on[e\r\ntwo| one\r\ntwo"},
       {"|one\r\ntwo one\r\ntwo", "e\r\ntwo", "SxN", "n 2@11 e\r\ntwo short text|"},  // clipped to the live text
   };
-  for (const auto& c : cases) EXPECT_EQ(Finding(c.document, c.term, c.steps), c.shown) << c.document << ' ' << c.steps;
+  for (const auto& [document, term, steps, shown] : cases)
+    EXPECT_EQ(Finding(document, term, steps), shown) << document << ' ' << steps;
 }
 
 TEST_F(SearchTest, ReplaceReadsItsReplacementAgain) {
-  const struct {
-    std::string_view document, term, change, steps, shown;
-  } cases[] = {
+  const std::string_view cases[][5] = {
       {"a[b|c", "", "", "L", "frcl -/- b a[b|c"},
       {"|a a a", "a", "ba", "S", "sa 1/- a [a| a a"},
       {"|a a a", "a", "ba", "SR", "sa 2/1 a b[a| a a"},   // required: the replacement's second character is found again
@@ -139,8 +136,8 @@ TEST_F(SearchTest, ReplaceReadsItsReplacementAgain) {
        "frcl -/- a |x\xFF"
        "bx\xFF"},  // would never end by the plain rule
   };
-  for (const auto& c : cases)
-    EXPECT_EQ(Replacing(c.document, c.term, c.change, c.steps), c.shown) << c.document << ' ' << c.steps;
+  for (const auto& [document, term, change, steps, shown] : cases)
+    EXPECT_EQ(Replacing(document, term, change, steps), shown) << document << ' ' << steps;
 }
 
 TEST_F(SearchTest, PrimitiveFindAsksItsWayThroughTheLiveText) {

@@ -6,14 +6,11 @@
 namespace pelmar {
 
 DirSetup::DirSetup(const std::vector<std::function<FolderBrowser()>>& dialogs, QWidget* parent)
-    : DialogWindow(parent), dialogs_(dialogs), ui_(std::make_unique<Ui::DirSetup>()) {
-  ui_->setupUi(this);
+    : FormDialog(parent), dialogs_(dialogs) {
   LinkFolderBrowser(ui_->Drive1, ui_->Dir1);
   connect(ui_->Command1, &QPushButton::clicked, this, &DirSetup::Command1_Click);
   connect(ui_->Command2, &QPushButton::clicked, this, &DirSetup::hide);
 }
-
-DirSetup::~DirSetup() = default;
 
 void DirSetup::Command1_Click() {
   for (const auto& browser : dialogs_) browser().drives->SetDrive(ui_->Drive1->Drive());

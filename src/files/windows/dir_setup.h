@@ -2,7 +2,6 @@
 #pragma once
 
 #include <functional>
-#include <memory>
 #include <vector>
 
 #include "platform/qt/controls/dialog_window.h"
@@ -15,19 +14,17 @@ namespace pelmar {
 
 struct FolderBrowser;
 
-class DirSetup : public DialogWindow {
+class DirSetup : public FormDialog<Ui::DirSetup> {
   Q_OBJECT
 
  public:
   // The folder browsers of the dialogs, each of which is made when it is asked for.
   DirSetup(const std::vector<std::function<FolderBrowser()>>& dialogs, QWidget* parent);
-  ~DirSetup() override;
 
  private:
   void Command1_Click();
 
   const std::vector<std::function<FolderBrowser()>>& dialogs_;
-  std::unique_ptr<Ui::DirSetup> ui_;
 };
 
 }  // namespace pelmar

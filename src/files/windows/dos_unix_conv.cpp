@@ -7,9 +7,7 @@
 
 namespace pelmar {
 
-Dos_Unix_conv::Dos_Unix_conv(Platform& platform, QWidget* parent)
-    : DialogWindow(parent), platform_(platform), ui_(std::make_unique<Ui::Dos_Unix_conv>()) {
-  ui_->setupUi(this);
+Dos_Unix_conv::Dos_Unix_conv(Platform& platform, QWidget* parent) : FormDialog(parent), platform_(platform) {
   ui_->Text1->setCurrentText(QStringLiteral("*.*"));
   LinkFileBrowser(ui_->Drive1, ui_->Dir1, ui_->File1, ui_->Text1);
   connect(ui_->File1, &FileList::FileClicked, this, &Dos_Unix_conv::File1_Click);
@@ -25,8 +23,6 @@ Dos_Unix_conv::Dos_Unix_conv(Platform& platform, QWidget* parent)
   });
   connect(ui_->Command3, &QPushButton::clicked, this, &Dos_Unix_conv::hide);
 }
-
-Dos_Unix_conv::~Dos_Unix_conv() = default;
 
 void Dos_Unix_conv::File1_Click() {
   EnableConversions(true);

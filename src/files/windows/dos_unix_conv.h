@@ -3,7 +3,6 @@
 #pragma once
 
 #include <functional>
-#include <memory>
 #include <string>
 
 #include "platform/platform.h"
@@ -15,12 +14,11 @@ class Dos_Unix_conv;
 
 namespace pelmar {
 
-class Dos_Unix_conv : public DialogWindow {
+class Dos_Unix_conv : public FormDialog<Ui::Dos_Unix_conv> {
   Q_OBJECT
 
  public:
   Dos_Unix_conv(Platform& platform, QWidget* parent);
-  ~Dos_Unix_conv() override;
 
  private:
   void File1_Click();
@@ -28,7 +26,6 @@ class Dos_Unix_conv : public DialogWindow {
   void Convert(const std::function<void(const std::string& path)>& convert);
 
   Platform& platform_;
-  std::unique_ptr<Ui::Dos_Unix_conv> ui_;
 };
 
 }  // namespace pelmar

@@ -43,12 +43,12 @@ bool FileWarnings::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void FileWarnings::WarnOfOutside(OutsideChange change) {
-  window_.Bar().Warn(Warning::kChangedOutside, Utf8ToQString(std::string(OutsideNotice(change))));
+  window_.Bar().Warn(Warning::kChangedOutside, Utf8ToQString(OutsideNotice(change)));
 }
 
 void FileWarnings::WarnOfUtf8() {
   const bool read_wrong = !documents_.CurrentPath().empty() && LooksLikeUtf8(documents_.Text().Text());
-  window_.Bar().Warn(Warning::kUtf8, read_wrong ? Utf8ToQString(std::string(kUtf8Hint)) : QString());
+  window_.Bar().Warn(Warning::kUtf8, read_wrong ? Utf8ToQString(kUtf8Hint) : QString());
 }
 
 }  // namespace pelmar

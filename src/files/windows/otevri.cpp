@@ -7,8 +7,7 @@
 
 namespace pelmar {
 Otevri::Otevri(Opener& opener, Platform& platform, QWidget* parent)
-    : DialogWindow(parent), opener_(opener), platform_(platform), ui_(std::make_unique<Ui::Otevri>()) {
-  ui_->setupUi(this);
+    : FormDialog(parent), opener_(opener), platform_(platform) {
   setObjectName(QStringLiteral("Otevři"));
   ui_->Text1->setCurrentText(QStringLiteral("*.*"));
   ui_->Text2->SetText(ToBytes(kNoPreview));
@@ -19,8 +18,6 @@ Otevri::Otevri(Opener& opener, Platform& platform, QWidget* parent)
   connect(ui_->Command1, &QPushButton::clicked, this, &Otevri::Command1_Click);
   connect(ui_->Command2, &QPushButton::clicked, this, &Otevri::hide);
 }
-
-Otevri::~Otevri() = default;
 
 void Otevri::File1_Click() {
   ui_->Command1->setEnabled(true);

@@ -1,8 +1,6 @@
 // `Otevři`: the program's own dialog for opening a file, with folders, a mask and a preview.
 #pragma once
 
-#include <memory>
-
 #include "files/open.h"
 #include "platform/qt/controls/dialog_window.h"
 
@@ -12,12 +10,11 @@ class Otevri;
 
 namespace pelmar {
 
-class Otevri : public DialogWindow {
+class Otevri : public FormDialog<Ui::Otevri> {
   Q_OBJECT
 
  public:
   Otevri(Opener& opener, Platform& platform, QWidget* parent);
-  ~Otevri() override;
 
  private:
   void File1_Click();
@@ -25,7 +22,6 @@ class Otevri : public DialogWindow {
 
   Opener& opener_;
   Platform& platform_;
-  std::unique_ptr<Ui::Otevri> ui_;
 };
 
 }  // namespace pelmar

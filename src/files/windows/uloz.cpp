@@ -7,8 +7,7 @@
 namespace pelmar {
 
 Uloz::Uloz(Documents& documents, Saver& saver, QWidget* parent)
-    : DialogWindow(parent), documents_(documents), saver_(saver), ui_(std::make_unique<Ui::Uloz>()) {
-  ui_->setupUi(this);
+    : FormDialog(parent), documents_(documents), saver_(saver) {
   setObjectName(QStringLiteral("Ulož"));
   LinkFileBrowser(ui_->Drive1, ui_->Dir1, ui_->File1);
   ui_->Text1->setFocus();
@@ -22,8 +21,6 @@ Uloz::Uloz(Documents& documents, Saver& saver, QWidget* parent)
   priming_ = documents_.Target().primed.Add([this] { TakeTarget(); });
   if (documents_.Target().Primed()) TakeTarget();
 }
-
-Uloz::~Uloz() = default;
 
 void Uloz::FieldChanged() {
   ui_->Command1->setEnabled(true);

@@ -2,8 +2,6 @@
 // open, each save and each switch to a tab with a path primes it.
 #pragma once
 
-#include <memory>
-
 #include "files/save.h"
 #include "platform/qt/controls/dialog_window.h"
 
@@ -13,12 +11,11 @@ class Uloz;
 
 namespace pelmar {
 
-class Uloz : public DialogWindow {
+class Uloz : public FormDialog<Ui::Uloz> {
   Q_OBJECT
 
  public:
   Uloz(Documents& documents, Saver& saver, QWidget* parent);
-  ~Uloz() override;
 
  private:
   void FieldChanged();
@@ -27,7 +24,6 @@ class Uloz : public DialogWindow {
 
   Documents& documents_;
   Saver& saver_;
-  std::unique_ptr<Ui::Uloz> ui_;
   Listening priming_;
 };
 

@@ -16,8 +16,8 @@ WebViewMaker* BrowserModule::Maker() {
     problem_ = QStringLiteral("Interní browser není nainstalován.\r\nJe v balíčku pelmar-vex-browser.");
   } else {
     const QString other_version = QStringLiteral("Modul je z jiné verze programu.");
-    problem_ = QStringLiteral("Interní browser nelze spustit.\r\n") +
-               (module.error.isEmpty() ? other_version : module.error);
+    problem_ =
+        QStringLiteral("Interní browser nelze spustit.\r\n") + (module.error.isEmpty() ? other_version : module.error);
   }
   return nullptr;
 }

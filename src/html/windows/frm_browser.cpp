@@ -58,7 +58,7 @@ FrmBrowser::FrmBrowser(WebViewMaker& maker, Platform& platform, std::function<vo
   ConnectView();
   ConnectToolBar();
   ConnectAddress();
-  if (end_program_) ui_->tbToolBar->actions().at(7)->setToolTip(QStringLiteral("Ukončit program"));
+  if (end_program_) ui_->Close->setToolTip(QStringLiteral("Ukončit program"));
 }
 
 FrmBrowser::~FrmBrowser() = default;

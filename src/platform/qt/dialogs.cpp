@@ -17,6 +17,7 @@
 #include "platform/qt/any_length.h"
 #include "platform/qt/asker.h"
 #include "platform/qt/convert.h"
+#include "platform/qt/outer_geometry.h"
 #include "platform/qt/svg_icon.h"
 
 namespace pelmar {
@@ -37,11 +38,9 @@ void RaiseAboveAll(QDialog& dialog) {
 
 // A box of few words would be too narrow for its title to be read.
 void LeaveRoomForTitle(QMessageBox& box) {
-  constexpr int kFrameButtons = 140;
   auto* grid = qobject_cast<QGridLayout*>(box.layout());
   if (grid == nullptr) return;
-  const int width = box.fontMetrics().horizontalAdvance(box.windowTitle()) + kFrameButtons;
-  grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
+  grid->addItem(new QSpacerItem(WidthOfTitle(box), 0), grid->rowCount(), 0, 1, grid->columnCount());
 }
 
 // A box that tells Escape and the close box of a question from its No: the toolkit's would press the button.

@@ -10,7 +10,7 @@
 #include <iterator>
 #include <new>
 
-#include "platform/qt/descriptor.h"
+#include "platform/descriptor.h"
 #include "platform/qt/file_target.h"
 
 namespace pelmar {

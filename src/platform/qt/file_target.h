@@ -8,8 +8,8 @@
 #include <functional>
 #include <string>
 
+#include "platform/descriptor.h"
 #include "platform/platform.h"
-#include "platform/qt/descriptor.h"
 
 namespace pelmar {
 

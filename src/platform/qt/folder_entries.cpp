@@ -46,15 +46,16 @@ bool MatchesOne(QStringView name, QStringView mask) {
 
 bool LiesInHidden(const QString& path) { return path.contains(QLatin1String("/.")); }
 
-// Of the folders in it, or of the files. Only a link, or where the file system keeps no kinds, costs a look at the file
-// itself.
-QStringList NamesOf(const QString& path, bool folders, const std::function<bool(const QString&)>& wanted) {
+enum class Kind { kFolders, kFiles };
+
+// Only a link, or where the file system keeps no kinds, costs a look at the file itself.
+QStringList NamesOf(const QString& path, Kind kind, const std::function<bool(const QString&)>& wanted) {
   const QCollator collator = CzechCollator();
   std::vector<std::pair<QCollatorSortKey, QString>> names;
   std::error_code error;
   for (std::filesystem::directory_iterator at(PathFromQString(path), error), end; at != end; at.increment(error)) {
     std::error_code gone;
-    if (!(folders ? at->is_directory(gone) : at->is_regular_file(gone))) continue;
+    if (!(kind == Kind::kFolders ? at->is_directory(gone) : at->is_regular_file(gone))) continue;
     QString name = PathToQString(at->path().filename().native());
     const QString shown = ShownPath(name);
     if (wanted(shown)) names.emplace_back(collator.sortKey(shown), std::move(name));
@@ -106,14 +107,14 @@ QString CleanFolder(const QString& path) {
 
 QStringList SubfoldersOf(const QString& path) {
   const bool with_hidden = LiesInHidden(path);
-  return NamesOf(path, true, [&](const QString& name) { return with_hidden || !name.startsWith(u'.'); });
+  return NamesOf(path, Kind::kFolders, [&](const QString& name) { return with_hidden || !name.startsWith(u'.'); });
 }
 
 QStringList FilesOf(const QString& path, const QString& mask) {
   const QStringList masks = SplitMask(mask);
   const bool with_hidden =
       LiesInHidden(path) || std::any_of(masks.begin(), masks.end(), [](const auto& m) { return m.startsWith(u'.'); });
-  return NamesOf(path, false, [&](const QString& name) {
+  return NamesOf(path, Kind::kFiles, [&](const QString& name) {
     return (with_hidden || !name.startsWith(u'.')) && MatchesMask(name, masks);
   });
 }

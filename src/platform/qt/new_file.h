@@ -7,7 +7,7 @@
 
 #include <string>
 
-#include "platform/qt/descriptor.h"
+#include "platform/descriptor.h"
 
 namespace pelmar {
 

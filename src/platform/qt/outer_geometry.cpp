@@ -64,21 +64,22 @@ QSize RoomOnScreen(const QWidget& window) {
   return window.screen()->availableGeometry().size() - kUsualFrame;
 }
 
-bool MoveAside(QWidget& window, const QRect& place) {
+void MoveAside(QWidget& window, const QRect& place) {
   const QRect outer = Outer(window);
-  if (!outer.intersects(place)) return false;
+  if (!outer.intersects(place)) return;
   const QRect free = window.screen()->availableGeometry();
   // Below and above first: what lies beside a line goes on there.
   const QPoint corners[] = {{outer.left(), place.bottom() + 1},
                             {outer.left(), place.top() - outer.height()},
                             {place.right() + 1, outer.top()},
                             {place.left() - outer.width(), outer.top()}};
-  for (const QPoint corner : corners) {
-    if (!free.contains(QRect(corner, outer.size()))) continue;
-    MoveOuter(window, corner);
-    return true;
-  }
-  return false;
+  for (const QPoint corner : corners)
+    if (free.contains(QRect(corner, outer.size()))) return MoveOuter(window, corner);
+}
+
+int WidthOfTitle(const QWidget& window) {
+  constexpr int kFrameButtons = 140;
+  return window.fontMetrics().horizontalAdvance(window.windowTitle()) + kFrameButtons;
 }
 
 void BringToFront(QWidget& window) {

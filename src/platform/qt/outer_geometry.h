@@ -25,9 +25,12 @@ TwipsRect ScreenTwips(const QWidget& window);
 TwipsRect ScreenTwips(const TwipsRect& place);
 // What the screen leaves to a window that isn't on show yet, inside its frame.
 QSize RoomOnScreen(const QWidget& window);
-// Moves a window that covers `place` (on the screen, in logical pixels) just off it. False where it doesn't cover it,
-// or where the screen has no room for it elsewhere.
-bool MoveAside(QWidget& window, const QRect& place);
+// Moves a window that covers `place` (on the screen, in logical pixels) just off it, where the screen has room for it
+// elsewhere.
+void MoveAside(QWidget& window, const QRect& place);
+
+// How wide its title makes a window, with the buttons of the frame, in logical pixels.
+int WidthOfTitle(const QWidget& window);
 
 // Shows the window, or brings it back to the front where it is on show already, also out of its icon. It gets the
 // keyboard.

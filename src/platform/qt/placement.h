@@ -19,8 +19,8 @@ class Placement : public QObject {
   // The outer place that is wanted of a window that is at `now`.
   using Wish = std::function<TwipsRect(const TwipsRect& now)>;
 
-  // Whether the first look that finds a new window where it should be is enough, so that somebody else may move it
-  // next; or several in a row, for a wish that leaves a moved window alone.
+  // When a new window is at its place for good: kFirst, at the first look that finds it there, so that somebody else
+  // may move it next; kLasting, after several looks in a row, for a wish that leaves a moved window alone.
   enum class Trust { kFirst, kLasting };
 
   // Does nothing until it is told to begin.

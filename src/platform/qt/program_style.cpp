@@ -72,7 +72,7 @@ int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QW
 int ProgramStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
   constexpr int kRoundDialog = 12, kBetween = 8;
   const auto dialog = [](const QWidget* window) {
-    return window != nullptr && window->inherits("pelmar::DialogWindow");
+    return window != nullptr && window->property(kRoomProperty).toBool();
   };
   switch (metric) {
     case PM_LayoutLeftMargin:

@@ -9,6 +9,9 @@
 
 namespace pelmar {
 
+// Set on the windows that get that room.
+inline constexpr char kRoomProperty[] = "roomByStyle";
+
 class ProgramStyle : public QProxyStyle {
   Q_OBJECT
 

@@ -6,16 +6,9 @@
 namespace pelmar {
 
 Config::Config(SettingsRecord& settings, Platform& platform, std::function<void()> store, QWidget* parent)
-    : DialogWindow(parent),
-      settings_(settings),
-      platform_(platform),
-      store_(std::move(store)),
-      ui_(std::make_unique<Ui::Config>()) {
-  ui_->setupUi(this);
+    : FormDialog(parent), settings_(settings), platform_(platform), store_(std::move(store)) {
   connect(ui_->Command1, &QPushButton::clicked, this, &Config::Command1_Click);
 }
-
-Config::~Config() = default;
 
 void Config::Run() {
   ui_->Text1->setText(TextToQString(settings_.UserName));

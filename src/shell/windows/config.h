@@ -2,7 +2,6 @@
 #pragma once
 
 #include <functional>
-#include <memory>
 
 #include "platform/platform.h"
 #include "platform/qt/controls/dialog_window.h"
@@ -14,13 +13,12 @@ class Config;
 
 namespace pelmar {
 
-class Config : public DialogWindow {
+class Config : public FormDialog<Ui::Config> {
   Q_OBJECT
 
  public:
   // `store` writes the settings file.
   Config(SettingsRecord& settings, Platform& platform, std::function<void()> store, QWidget* parent);
-  ~Config() override;
 
   // Fills the fields anew and waits until the dialog is closed.
   void Run();
@@ -32,7 +30,6 @@ class Config : public DialogWindow {
   SettingsRecord& settings_;
   Platform& platform_;
   std::function<void()> store_;
-  std::unique_ptr<Ui::Config> ui_;
 };
 
 }  // namespace pelmar

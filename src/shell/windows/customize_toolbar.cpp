@@ -14,9 +14,7 @@ QAction* ActionOf(const QListWidgetItem* item) { return item->data(kActionRole).
 
 }  // namespace
 
-CustomizeToolbar::CustomizeToolbar(MainToolbar& toolbar, QWidget* parent)
-    : DialogWindow(parent), toolbar_(toolbar), ui_(std::make_unique<Ui::CustomizeToolbar>()) {
-  ui_->setupUi(this);
+CustomizeToolbar::CustomizeToolbar(MainToolbar& toolbar, QWidget* parent) : FormDialog(parent), toolbar_(toolbar) {
   connect(ui_->Buttons, &QListWidget::itemChanged, this, &CustomizeToolbar::Apply);
   connect(ui_->Buttons->model(), &QAbstractItemModel::rowsMoved, this, &CustomizeToolbar::Apply);
   connect(ui_->Up, &QPushButton::clicked, this, [this] { Move(-1); });
@@ -24,8 +22,6 @@ CustomizeToolbar::CustomizeToolbar(MainToolbar& toolbar, QWidget* parent)
   connect(ui_->Initial, &QPushButton::clicked, this, &CustomizeToolbar::Reset);
   connect(ui_->Close, &QPushButton::clicked, this, &CustomizeToolbar::hide);
 }
-
-CustomizeToolbar::~CustomizeToolbar() = default;
 
 void CustomizeToolbar::showEvent(QShowEvent* event) {
   Fill();

@@ -2,8 +2,6 @@
 // result isn't stored.
 #pragma once
 
-#include <memory>
-
 #include "platform/qt/controls/dialog_window.h"
 #include "shell/windows/main_toolbar.h"
 
@@ -13,12 +11,11 @@ class CustomizeToolbar;
 
 namespace pelmar {
 
-class CustomizeToolbar : public DialogWindow {
+class CustomizeToolbar : public FormDialog<Ui::CustomizeToolbar> {
   Q_OBJECT
 
  public:
   CustomizeToolbar(MainToolbar& toolbar, QWidget* parent);
-  ~CustomizeToolbar() override;
 
  protected:
   void showEvent(QShowEvent* event) override;
@@ -30,7 +27,6 @@ class CustomizeToolbar : public DialogWindow {
   void Reset();
 
   MainToolbar& toolbar_;
-  std::unique_ptr<Ui::CustomizeToolbar> ui_;
 };
 
 }  // namespace pelmar

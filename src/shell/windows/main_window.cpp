@@ -262,33 +262,27 @@ void MainWindow::SetEditorColors(Color fore, Color back) {
   text_->setBackgroundColor(ColorToQt(back));
 }
 
-void MainWindow::SetBoxFont(const QFont& font) {
+void MainWindow::ChangeFont(const std::function<void(QFont&)>& change) {
+  QFont font = text_->font();
+  change(font);
   if (font != text_->font()) text_->setFont(font);
 }
 
 void MainWindow::SetEditorFont(const std::string& name) {
-  QFont font = text_->font();
-  font.setFamily(TextToQString(name));
-  SetBoxFont(font);
+  ChangeFont([&name](QFont& font) { font.setFamily(TextToQString(name)); });
 }
 
 void MainWindow::ApplyEditorFontSize(int size) {
-  QFont font = text_->font();
-  font.setPointSize(size);
-  SetBoxFont(font);
+  ChangeFont([size](QFont& font) { font.setPointSize(size); });
   for (const auto& [points, item] : FontSizeItems()) menus_->Action(item)->setChecked(points == size);
 }
 
 void MainWindow::SetEditorBold(bool bold) {
-  QFont font = text_->font();
-  font.setBold(bold);
-  SetBoxFont(font);
+  ChangeFont([bold](QFont& font) { font.setBold(bold); });
 }
 
 void MainWindow::SetEditorItalic(bool italic) {
-  QFont font = text_->font();
-  font.setItalic(italic);
-  SetBoxFont(font);
+  ChangeFont([italic](QFont& font) { font.setItalic(italic); });
 }
 
 void MainWindow::MarkBold(bool bold) { menus_->Action("mnuEditBold")->setChecked(bold); }

@@ -85,7 +85,7 @@ class MainWindow : public QMainWindow, public MainView {
   void ToggleAlwaysOnTop();
   void FitToFrame();
   [[nodiscard]] TwipsRect Wanted(const TwipsRect& now) const;
-  void SetBoxFont(const QFont& font);
+  void ChangeFont(const std::function<void(QFont&)>& change);
   [[nodiscard]] LayoutInput Measures() const;
 
   Editor& editor_;

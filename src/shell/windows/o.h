@@ -1,8 +1,6 @@
 // `O`, the about window: version, user, notes of this version, and a name that plays with its letters under the mouse.
 #pragma once
 
-#include <memory>
-
 #include "platform/platform.h"
 #include "platform/qt/controls/dialog_window.h"
 #include "shell/settings_record.h"
@@ -13,12 +11,11 @@ class O;
 
 namespace pelmar {
 
-class O : public DialogWindow {
+class O : public FormDialog<Ui::O> {
   Q_OBJECT
 
  public:
   O(const SettingsRecord& settings, Platform& platform, QWidget* parent);
-  ~O() override;
 
  protected:
   void mouseMoveEvent(QMouseEvent* event) override;
@@ -27,7 +24,6 @@ class O : public DialogWindow {
  private:
   const SettingsRecord& settings_;
   Platform& platform_;
-  std::unique_ptr<Ui::O> ui_;
 };
 
 }  // namespace pelmar

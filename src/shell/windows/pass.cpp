@@ -11,18 +11,11 @@
 namespace pelmar {
 
 Pass::Pass(const SettingsRecord& settings, Platform& platform, std::function<void(bool)> hide_text, QWidget* parent)
-    : DialogWindow(parent),
-      settings_(settings),
-      platform_(platform),
-      hide_text_(std::move(hide_text)),
-      ui_(std::make_unique<Ui::Pass>()) {
-  ui_->setupUi(this);
+    : FormDialog(parent), settings_(settings), platform_(platform), hide_text_(std::move(hide_text)) {
   setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
   OnEnter(ui_->Text1, [this] { Try(); });
   connect(ui_->Command1, &QPushButton::clicked, this, &Pass::Try);
 }
-
-Pass::~Pass() = default;
 
 void Pass::Run() {
   ui_->Text1->clear();

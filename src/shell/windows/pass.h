@@ -2,7 +2,6 @@
 #pragma once
 
 #include <functional>
-#include <memory>
 
 #include "platform/platform.h"
 #include "platform/qt/controls/dialog_window.h"
@@ -14,13 +13,12 @@ class Pass;
 
 namespace pelmar {
 
-class Pass : public DialogWindow {
+class Pass : public FormDialog<Ui::Pass> {
   Q_OBJECT
 
  public:
   // `hide_text` is told true when the lock closes in on the text and false when it opens.
   Pass(const SettingsRecord& settings, Platform& platform, std::function<void(bool)> hide_text, QWidget* parent);
-  ~Pass() override;
 
   // Waits until the lock is open.
   void Run();
@@ -37,7 +35,6 @@ class Pass : public DialogWindow {
   const SettingsRecord& settings_;
   Platform& platform_;
   std::function<void(bool)> hide_text_;
-  std::unique_ptr<Ui::Pass> ui_;
 };
 
 }  // namespace pelmar

@@ -7,8 +7,7 @@
 
 namespace pelmar {
 
-Pos::Pos(MainPlace& main, QWidget* parent) : DialogWindow(parent), main_(main), ui_(std::make_unique<Ui::Pos>()) {
-  ui_->setupUi(this);
+Pos::Pos(MainPlace& main, QWidget* parent) : FormDialog(parent), main_(main) {
   const auto place_of = [this](int row, int column) { return PlaceOfCell(row, column, ScreenTwips(*this)); };
   connect(ui_->Picture1, &CellGrid::CellEntered, this,
           [this, place_of](int row, int column) { ui_->Label1->setText(Utf8ToQString(place_of(row, column).name)); });
@@ -19,8 +18,6 @@ Pos::Pos(MainPlace& main, QWidget* parent) : DialogWindow(parent), main_(main), 
   ui_->Picture1->NameCells([place_of](int row, int column) { return Utf8ToQString(place_of(row, column).name); });
   connect(ui_->Command1, &QPushButton::clicked, this, &Pos::hide);
 }
-
-Pos::~Pos() = default;
 
 // Over the form, and over its label, no cell is meant.
 void Pos::mouseMoveEvent(QMouseEvent* event) {

@@ -1,8 +1,6 @@
 // `Pos`, the layout picker: puts the main window over one of nine parts of the screen.
 #pragma once
 
-#include <memory>
-
 #include "platform/qt/controls/dialog_window.h"
 #include "shell/main_view.h"
 
@@ -12,20 +10,18 @@ class Pos;
 
 namespace pelmar {
 
-class Pos : public DialogWindow {
+class Pos : public FormDialog<Ui::Pos> {
   Q_OBJECT
 
  public:
   // `main` is the window that is placed.
   Pos(MainPlace& main, QWidget* parent);
-  ~Pos() override;
 
  protected:
   void mouseMoveEvent(QMouseEvent* event) override;
 
  private:
   MainPlace& main_;
-  std::unique_ptr<Ui::Pos> ui_;
 };
 
 }  // namespace pelmar

@@ -53,14 +53,12 @@ struct ProgramParts {
   FilePickers& file_pickers;
   Doors& doors;
 
-  // The doors for windows, which may be made before somebody has set them.
+  // The doors for windows, which are registered before all of these are set.
   [[nodiscard]] std::function<void(const std::string& path)> BrowserDoor() const {
-    return [&show = doors.show_in_browser](const std::string& path) {
-      if (show) show(path);
-    };
+    return [&show = doors.show_in_browser](const std::string& path) { show(path); };
   }
   [[nodiscard]] std::function<Color(Color)> ColorDoor() const {
-    return [&pick = doors.pick_color](Color color) { return pick ? pick(color) : color; };
+    return [&pick = doors.pick_color](Color color) { return pick(color); };
   }
 
   // Registers the window, and the commands of these names to show it. It is made from `with`, where std::ref stands for

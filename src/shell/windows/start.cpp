@@ -19,8 +19,7 @@ bool IsModifier(int key) {
 }  // namespace
 
 Start::Start(SettingsRecord& settings, Doors doors)
-    : DialogWindow(nullptr), settings_(settings), doors_(std::move(doors)), ui_(std::make_unique<Ui::Start>()) {
-  ui_->setupUi(this);
+    : FormDialog(nullptr), settings_(settings), doors_(std::move(doors)) {
   ui_->Label8->setContentsMargins(kShadow, kShadow, 0, 0);
   ui_->Check1->setChecked(!settings_.ShowStart);
   const QList<QWidget*> widgets = findChildren<QWidget*>();
@@ -30,8 +29,6 @@ Start::Start(SettingsRecord& settings, Doors doors)
   connect(ui_->Command2, &QPushButton::clicked, this, &Start::Command2_Click);
   connect(ui_->Check1, &QCheckBox::toggled, this, [this](bool checked) { settings_.ShowStart = !checked; });
 }
-
-Start::~Start() = default;
 
 void Start::showEvent(QShowEvent* event) {
   ui_->Label9->setText(TextToQString(settings_.UserName));

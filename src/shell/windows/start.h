@@ -2,7 +2,6 @@
 #pragma once
 
 #include <functional>
-#include <memory>
 
 #include "platform/qt/controls/dialog_window.h"
 #include "shell/settings_record.h"
@@ -13,7 +12,7 @@ class Start;
 
 namespace pelmar {
 
-class Start : public DialogWindow {
+class Start : public FormDialog<Ui::Start> {
   Q_OBJECT
 
  public:
@@ -23,7 +22,6 @@ class Start : public DialogWindow {
     std::function<void()> show_config;  // modal
   };
   Start(SettingsRecord& settings, Doors doors);
-  ~Start() override;
 
   void reject() override { Leave(); }
 
@@ -38,7 +36,6 @@ class Start : public DialogWindow {
 
   SettingsRecord& settings_;
   Doors doors_;
-  std::unique_ptr<Ui::Start> ui_;
 };
 
 }  // namespace pelmar

@@ -93,14 +93,15 @@ void StatusStrip::ShowKey(std::size_t at, bool on) {
 }
 
 void StatusStrip::Warn(Warning of, const QString& text, const QString& tip) {
-  auto& warning = warnings_[static_cast<std::size_t>(of)];
+  auto& warning = warnings_[of];
   if (warning.text == text && warning.tip == tip) return;
   warning = {text, tip};
-  const auto gravest = std::ranges::find_if(warnings_, [](const auto& one) { return !one.text.isEmpty(); });
+  const auto gravest = std::ranges::find_if(warnings_, [](const auto& one) { return !one.second.text.isEmpty(); });
   warning_->hide();
-  if (gravest == std::end(warnings_)) return;
-  warning_->setText(gravest->text);
-  warning_->setToolTip(gravest->tip.isEmpty() ? gravest->text : gravest->tip);
+  if (gravest == warnings_.end()) return;
+  const Said& said = gravest->second;
+  warning_->setText(said.text);
+  warning_->setToolTip(said.tip.isEmpty() ? said.text : said.tip);
   PlaceWarning();
   warning_->show();
 }

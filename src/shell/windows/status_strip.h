@@ -3,6 +3,7 @@
 
 #include <QStatusBar>
 #include <array>
+#include <map>
 #include <string>
 
 #include "platform/platform.h"
@@ -38,7 +39,6 @@ class StatusPanel : public ElidedLabel {
 // saved; the text is longer than what can be opened; the file of the document was changed meanwhile; that file is in
 // UTF-8.
 enum class Warning { kUnkept, kFilesStuck, kTooLong, kChangedOutside, kUtf8 };
-inline constexpr int kWarningCount = 5;
 
 class StatusStrip : public QStatusBar {
   Q_OBJECT
@@ -77,9 +77,10 @@ class StatusStrip : public QStatusBar {
   std::array<int, kPanelCount> widths_{};
   WarningLabel* warning_ = nullptr;
   bool cleared_ = true;
-  struct {
+  struct Said {
     QString text, tip;
-  } warnings_[kWarningCount];
+  };
+  std::map<Warning, Said> warnings_;
 };
 
 }  // namespace pelmar

@@ -35,32 +35,27 @@ void StatusTimer::SnapWindows() {
 }
 
 // What they show may be as long as the document and the clipboard, so nothing is done for what hasn't changed.
-void StatusTimer::ShowPanels(const Shown& now, const std::optional<std::string>& clipboard) {
+void StatusTimer::ShowPanels(std::uint64_t clipboard_revision, const std::optional<std::string>& clipboard) {
   const TextBuffer& text = editor_.text;
-  if (window_.Bar().Cleared()) shown_.reset();
-  const std::optional<Shown> before = std::exchange(shown_, now);
-  if (before == now) return;
-  const bool other_clipboard = !before || before->clipboard != now.clipboard;
-  Shown of_text = now;
-  if (before) of_text.clipboard = before->clipboard;
-  if (before != of_text) window_.Bar().Show(ComputePanels(text, now.line_counting));
-  const bool selected = now.start != now.end || (before && before->start != before->end);
-  if (selected || other_clipboard) window_.Bar().ShowContent(ComputeContent(text, clipboard));
+  StatusStrip& bar = window_.Bar();
+  if (bar.Cleared()) {
+    shown_text_.reset();
+    shown_content_.reset();
+  }
+  const TextState of_text{text.Revision(), text.SelStart(), text.SelEnd(), editor_.settings.LineCounting};
+  if (std::exchange(shown_text_, of_text) != of_text) bar.Show(ComputePanels(text, of_text.line_counting));
+  const ContentState of_content{text.HasSelection() ? of_text : TextState(), clipboard_revision};
+  if (std::exchange(shown_content_, of_content) != of_content) bar.ShowContent(ComputeContent(text, clipboard));
 }
 
 void StatusTimer::Tick() {
   SnapWindows();
   if (!window_.MainActive()) return;
-  const TextBuffer& text = editor_.text;
-  const Shown now{.text = text.Revision(),
-                  .start = text.SelStart(),
-                  .end = text.SelEnd(),
-                  // Before the text is asked for: meanwhile its owner may put another one there.
-                  .clipboard = editor_.platform.ClipboardRevision(),
-                  .line_counting = editor_.settings.LineCounting};
+  // Before the text is asked for: meanwhile its owner may put another one there.
+  const std::uint64_t revision = editor_.platform.ClipboardRevision();
   const std::optional<std::string>& clipboard = editor_.platform.ClipboardContent();
-  window_.Menus().Apply(ComputeMenuState(text, editor_.documents.CurrentPath(), clipboard));
-  ShowPanels(now, clipboard);
+  window_.Menus().Apply(ComputeMenuState(editor_.text, editor_.documents.CurrentPath(), clipboard));
+  ShowPanels(revision, clipboard);
   StatusStrip& bar = window_.Bar();
   bar.Show(editor_.platform.Keys());
   // The main window isn't active while an operation is at work on a file: this one was abandoned.

@@ -28,22 +28,28 @@ class StatusTimer : public QTimer {
   void Tick();
 
  private:
-  // What the panels were computed from.
-  struct Shown {
+  // What panels 1 to 3 were made from.
+  struct TextState {
     std::uint64_t text = 0;
     std::size_t start = 0, end = 0;
-    std::uint64_t clipboard = 0;
     bool line_counting = false;
-    bool operator==(const Shown&) const = default;
+    bool operator==(const TextState&) const = default;
+  };
+  // What panel 4 was.
+  struct ContentState {
+    TextState selected;  // as new where nothing is
+    std::uint64_t clipboard = 0;
+    bool operator==(const ContentState&) const = default;
   };
 
   void SnapWindows();
-  void ShowPanels(const Shown& now, const std::optional<std::string>& clipboard);
+  void ShowPanels(std::uint64_t clipboard_revision, const std::optional<std::string>& clipboard);
 
   std::map<const QWidget*, PlaceRequests> requests_;
   MainWindow& window_;
   Editor& editor_;
-  std::optional<Shown> shown_;
+  std::optional<TextState> shown_text_;
+  std::optional<ContentState> shown_content_;
 };
 
 }  // namespace pelmar

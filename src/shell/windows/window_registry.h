@@ -1,5 +1,5 @@
-// Owns every window but the main one and makes each at its first use. A window gets what it needs through its
-// constructor, from the maker that was registered for it.
+// Owns every window but the main one and those of one opening, and makes each at its first use. A window gets what it
+// needs through its constructor, from the maker that was registered for it.
 #pragma once
 
 #include <QWidget>

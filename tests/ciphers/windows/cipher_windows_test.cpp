@@ -116,22 +116,20 @@ TEST_F(CipherWindowsTest, ShiftRotatesTheSelection) {
   platform.answers = {Answer::kOk};
   Work(program.Main(), "MnuSelTextPosun!");
   EXPECT_EQ(platform.calls.back(), "message 0 \"Vyber text!\" \"Posun\"");
-  const struct {
-    const char *steps, *document, *state;
-  } cases[] = {
+  const char* const cases[][3] = {
       {"", "xabcdx", "HScroll1=1 Label2=1 Text1=abcd Orig=abcd"},  // required: not rotated yet
       {"HScroll1=3 Command2!", "xabcdx", "Label2=3 Text1=dabc Orig=abcd"},
       {"HScroll1=9 HScroll1=1 Command1!", "xbcdax", "Label2=1 Text1=bcda"},
       {"HScroll1=9 Command1!", "xbcdax", "Label2=4 Text1=bcda"},
   };
-  for (const auto& row : cases) {
+  for (const auto& [steps, document, state] : cases) {
     text.Select(1, 5);
-    InDialog<QDialog>([&row](QDialog& dialog) {
-      ExpectState(dialog, row.steps, row.state);
+    InDialog<QDialog>([s = steps, shown = state](QDialog& dialog) {
+      ExpectState(dialog, s, shown);
       dialog.close();
     });
     Work(program.Main(), "MnuSelTextPosun!");
-    EXPECT_EQ(text.Text(), row.document) << row.steps;
+    EXPECT_EQ(text.Text(), document) << steps;
   }
   EXPECT_EQ(text.SelStart(), 5u);
   EXPECT_FALSE(text.HasSelection());

@@ -171,22 +171,21 @@ TEST_F(SmallWindows, AboutPlaysWithTheNameUnderTheMouse) {
 
 TEST_F(SmallWindows, ConfigStoresWhatIsValidAndEscapePressesOk) {
   auto& config = The<Config>();
-  const struct {
-    const char *steps, *message, *field;  // which the message names
-  } refused[] = {{"Text1= Text2= Check1! Text3=a Text4=A", "Vyplňte prosím své jméno.", "Text1"},
-                 {"Text1=Jiří", "Vyplňte prosím E-m@il.", "Text2"},
-                 {"Text2=j@x.cz", "Zkontrolujete zprávnot zadaného hesla.", "Text3"}};
+  // The last is the field that the message names.
+  const char* const refused[][3] = {{"Text1= Text2= Check1! Text3=a Text4=A", "Vyplňte prosím své jméno.", "Text1"},
+                                    {"Text1=Jiří", "Vyplňte prosím E-m@il.", "Text2"},
+                                    {"Text2=j@x.cz", "Zkontrolujete zprávnot zadaného hesla.", "Text3"}};
   const auto profile = [this] {
     const SettingsRecord written = ReadSettings(std::exchange(settings, {}));
     return written.UserName + ' ' + written.UserEmail + ' ' + written.LockPassword;
   };
   Inside([&] {
-    for (const auto& one : refused) {
+    for (const auto& [steps, message, field] : refused) {
       platform.answers = {Answer::kOk};
-      Work(config, one.steps);
+      Work(config, steps);
       Key(config, Qt::Key_Escape);
-      EXPECT_EQ(platform.calls.back(), "message 64 \"" + std::string(one.message) + "\" \"Config\"");
-      EXPECT_EQ(config.focusWidget(), Find<QWidget>(config, one.field)) << one.field;
+      EXPECT_EQ(platform.calls.back(), "message 64 \"" + std::string(message) + "\" \"Config\"");
+      EXPECT_EQ(config.focusWidget(), Find<QWidget>(config, field)) << field;
     }
     Work(config, "Text4=a");
     Key(config, Qt::Key_Escape);

@@ -13,8 +13,7 @@ constexpr int kBlinkForMs = 10000;
 
 }  // namespace
 
-CaretBlink::CaretBlink(std::function<void()> repaint, QObject* parent)
-    : QObject(parent), repaint_(std::move(repaint)) {}
+CaretBlink::CaretBlink(std::function<void()> repaint) : repaint_(std::move(repaint)) {}
 
 void CaretBlink::Start(bool blinks) {
   SetShown(true);

@@ -11,7 +11,7 @@ namespace pelmar {
 class CaretBlink : public QObject {
  public:
   // `repaint` is called whenever Shown has changed.
-  CaretBlink(std::function<void()> repaint, QObject* parent);
+  explicit CaretBlink(std::function<void()> repaint);
 
   [[nodiscard]] bool Shown() const { return shown_; }
   // Shows the caret; `blinks` false leaves it steady.

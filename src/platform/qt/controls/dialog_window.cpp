@@ -23,12 +23,11 @@
 #include "platform/qt/controls/text_box.h"
 #include "platform/qt/outer_geometry.h"
 #include "platform/qt/placement.h"
+#include "platform/qt/program_style.h"
 #include "platform/qt/svg_icon.h"
 
 namespace pelmar {
 namespace {
-
-constexpr int kFrameButtons = 140;  // what a frame needs beside the title
 
 // The toolkit's scroll bars move against the arrows Left and Right. True when the key was one of them.
 bool MoveByArrow(QScrollBar& bar, int key) {
@@ -94,7 +93,7 @@ bool LiesBehindTabs(const QWidget* widget) {
 
 }  // namespace
 
-DialogWindow::DialogWindow(QWidget* parent) : QDialog(parent) {}
+DialogWindow::DialogWindow(QWidget* parent) : QDialog(parent) { setProperty(kRoomProperty, true); }
 
 void DialogWindow::Present() {
   const bool on_show = isVisible();
@@ -205,8 +204,7 @@ void DialogWindow::FitInto(QSize room) {
   if (property("sizedByContents").toBool()) adjustSize();
   const QSize least = layout() != nullptr ? layout()->totalMinimumSize() : QSize();
   if (least.width() > room.width() || least.height() > room.height()) ScrollContents(*this, EndingButtons());
-  const int title = fontMetrics().horizontalAdvance(windowTitle()) + kFrameButtons;
-  resize(QSize(std::max(width(), title), height()).boundedTo(room));
+  resize(QSize(std::max(width(), WidthOfTitle(*this)), height()).boundedTo(room));
 }
 
 // The default one and the one that Escape presses, as they stand in the form.

@@ -26,8 +26,8 @@ FolderBrowser FolderBrowserOf(const QWidget& dialog);
 // The place leads the folder list, the folder list the file list, `mask` (null in a dialog without one) the names
 // shown. A key released in the folder list shows the files of the highlighted folder; Enter moves into it. The group
 // begins at the current folder of the process, with the mask that the form gives, and its dialog in the list of files
-// (of folders where it has none): on the list of places the arrow key Down would lose the folder. A place or a folder that can't be
-// read changes nothing.
+// (of folders where it has none): on the list of places the arrow key Down would lose the folder. A place or a folder
+// that can't be read changes nothing.
 void LinkFileBrowser(DriveList* place, FolderList* folders, FileList* files, QComboBox* mask = nullptr);
 
 // Place and folder in a dialog that shows no files.

@@ -150,7 +150,7 @@ void FolderList::EnterHighlighted() {
 
 void FolderList::keyReleaseEvent(QKeyEvent* event) {
   QListView::keyReleaseEvent(event);
-  if (!event->isAutoRepeat()) Q_EMIT KeyReleased(event->key());
+  if (!event->isAutoRepeat()) Q_EMIT KeyReleased();
 }
 
 void FolderList::showEvent(QShowEvent* event) {

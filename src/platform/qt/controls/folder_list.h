@@ -27,8 +27,8 @@ class FolderList : public QListView {
 
  Q_SIGNALS:
   void PathChanged(const QString& path);
-  // A key of Qt::Key; once at the end of a held key.
-  void KeyReleased(int key);
+  // Once at the end of a held key.
+  void KeyReleased();
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;

@@ -4,8 +4,8 @@
 #include <QTextLayout>
 #include <algorithm>
 
-#include "platform/qt/glyph_table.h"
 #include "platform/qt/convert.h"
+#include "platform/qt/glyph_table.h"
 
 namespace pelmar {
 namespace {

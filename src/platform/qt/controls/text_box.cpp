@@ -32,7 +32,7 @@ TextBox::TextBox(QWidget* parent)
       own_buffer_(std::make_unique<TextBuffer>()),
       view_(std::make_unique<TextView>(*own_buffer_, [this] { return viewport()->width(); })),
       mover_(view_->RawLayout()),
-      blink_([this] { viewport()->update(shown_caret_); }, nullptr),
+      blink_([this] { viewport()->update(shown_caret_); }),
       mouse_(*this),
       drop_(*this),
       teller_(std::make_unique<TextBoxTeller>(*this)) {
@@ -144,7 +144,7 @@ void TextBox::ShowChange(const TextChange& change) {
 
   const std::int64_t width = view_->RawLayout().ContentWidth();
   if (const auto rows = view_->Follow(change)) {
-    UpdateRows(*rows, rows->removed != rows->inserted);
+    UpdateRows(*rows);
     const bool moved = view_->Align() != TextAlign::kLeft && view_->RawLayout().ContentWidth() != width;
     if (moved || selected) viewport()->update();
     UpdateScrollBars();
@@ -168,10 +168,10 @@ void TextBox::FollowSelection() {
   Q_EMIT SelectionChanged();
 }
 
-void TextBox::UpdateRows(const RowsChange& rows, bool all_below) {
+void TextBox::UpdateRows(const RowsChange& rows) {
   const int top = view_->RowTop(rows.first) - Scrolled().y() - TextView::kOverhang;
   const int end = view_->RowTop(rows.first + rows.inserted) - Scrolled().y() + TextView::kOverhang;
-  const int bottom = all_below ? viewport()->height() : end;
+  const int bottom = rows.removed != rows.inserted ? viewport()->height() : end;
   if (bottom > 0 && top < viewport()->height()) viewport()->update(0, top, viewport()->width(), bottom - top);
 }
 
@@ -179,7 +179,8 @@ void TextBox::UpdateRowsOf(TextSpan span) {
   const TextLayout& layout = view_->Layout();
   const std::size_t first = layout.RowOf(std::min(span.begin, buffer_->Size()), true);
   const std::size_t last = layout.RowOf(std::min(span.end, buffer_->Size()));
-  UpdateRows({first, 0, last - first + 1}, false);
+  const std::size_t count = last - first + 1;
+  UpdateRows({first, count, count});
 }
 
 // ---- geometry
@@ -274,7 +275,7 @@ TextSpan TextBox::RowSpan(std::size_t pos) const {
 
 // ---- caret
 
-void TextBox::PutCaret(TextPlace place, bool select) {
+void TextBox::MoveCaret(TextPlace place, bool select) {
   view_->Layout();
   mover_.Put(*buffer_, place, select);
   RevealCaret();

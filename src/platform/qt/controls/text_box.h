@@ -94,7 +94,9 @@ class TextBox : public QAbstractScrollArea {
   [[nodiscard]] bool IsSelectedAt(QPoint point) const;
   [[nodiscard]] QRect CaretRect() const;
   [[nodiscard]] QRect CharRect(std::size_t pos) const;
-  void PutCaret(TextPlace place, bool select);
+  // The caret alone, or the moving end of the selection.
+  void PutCaret(TextPlace place) { MoveCaret(place, false); }
+  void SelectTo(TextPlace place) { MoveCaret(place, true); }
   void Select(TextSpan span, bool caret_first = false);
   // Scrolls as little as shows a position, or the caret on the row that shows it.
   void Reveal(std::size_t pos);
@@ -141,8 +143,9 @@ class TextBox : public QAbstractScrollArea {
   void FollowChange(const TextChange& change);
   void ShowChange(const TextChange& change);
   void FollowSelection();
-  void UpdateRows(const RowsChange& rows, bool all_below);
+  void UpdateRows(const RowsChange& rows);
   void UpdateRowsOf(TextSpan span);
+  void MoveCaret(TextPlace place, bool select);
   void RevealRect(QRect rect);
   void UpdateScrollBars();
   void Relayout();

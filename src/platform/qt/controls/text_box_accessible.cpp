@@ -53,7 +53,7 @@ int TextBoxAccessible::selectionCount() const { return box_.Buffer().HasSelectio
 void TextBoxAccessible::addSelection(int start, int end) { setSelection(0, start, end); }
 
 void TextBoxAccessible::removeSelection(int index) {
-  if (index == 0) box_.PutCaret({box_.Buffer().Caret()}, false);
+  if (index == 0) box_.PutCaret({box_.Buffer().Caret()});
 }
 
 void TextBoxAccessible::setSelection(int index, int start, int end) {
@@ -61,7 +61,7 @@ void TextBoxAccessible::setSelection(int index, int start, int end) {
 }
 
 int TextBoxAccessible::cursorPosition() const { return static_cast<int>(box_.Buffer().Caret()); }
-void TextBoxAccessible::setCursorPosition(int position) { box_.PutCaret({PosOf(position, box_.Buffer())}, false); }
+void TextBoxAccessible::setCursorPosition(int position) { box_.PutCaret({PosOf(position, box_.Buffer())}); }
 int TextBoxAccessible::characterCount() const { return static_cast<int>(box_.Buffer().Size()); }
 
 QString TextBoxAccessible::text(int start, int end) const {

@@ -17,7 +17,6 @@ namespace pelmar {
 class TextComposer {
  public:
   [[nodiscard]] bool Active() const { return !text_.isEmpty(); }
-  [[nodiscard]] const QString& Text() const { return text_; }
   [[nodiscard]] bool ShowsCaret() const { return shows_caret_; }
   // Pixels from the beginning of the composed text to its caret.
   [[nodiscard]] int CaretX(const QFont& font) const;

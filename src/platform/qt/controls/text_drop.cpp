@@ -99,7 +99,7 @@ void TextDrop::Drop(QDropEvent* event) {
   if (IsOwn(*event)) {
     MoveSelection(box_.Buffer(), place.pos, event->dropAction() == Qt::CopyAction);
   } else {
-    box_.PutCaret(place, false);
+    box_.PutCaret(place);
     box_.Insert(event->mimeData());
     const std::size_t end = box_.Buffer().Caret();
     box_.Select({place.pos, end});

@@ -28,7 +28,7 @@ void TextMouse::Press(QMouseEvent* event) {
   const QPoint at = event->position().toPoint();
   if (event->button() == Qt::LeftButton) return PressLeft(event);
   // What is selected stays for the pop-up menu to work on, wherever the menu is asked for.
-  if (event->button() == Qt::RightButton && !box_.Buffer().HasSelection()) box_.PutCaret(box_.PlaceAt(at), false);
+  if (event->button() == Qt::RightButton && !box_.Buffer().HasSelection()) box_.PutCaret(box_.PlaceAt(at));
   if (event->button() != Qt::RightButton && event->button() != Qt::MiddleButton) event->ignore();
 }
 
@@ -41,13 +41,13 @@ void TextMouse::PressLeft(QMouseEvent* event) {
     return;
   }
   state_ = State::kSelecting;
-  if (event->modifiers().testFlag(Qt::ShiftModifier)) return box_.PutCaret(box_.PlaceAt(at), true);
+  if (event->modifiers().testFlag(Qt::ShiftModifier)) return box_.SelectTo(box_.PlaceAt(at));
   if (IsThirdClick(at)) return BeginUnit(Unit::kLine, at);
   if (box_.IsSelectedAt(at)) {
     state_ = State::kMayDrag;
     return;
   }
-  box_.PutCaret(box_.PlaceAt(at), false);
+  box_.PutCaret(box_.PlaceAt(at));
 }
 
 void TextMouse::DoubleClick(QMouseEvent* event) {
@@ -102,7 +102,7 @@ void TextMouse::Move(QMouseEvent* event) {
 }
 
 void TextMouse::Extend(QPoint at) {
-  if (unit_ == Unit::kChar) return box_.PutCaret(box_.PlaceAt(at), true);
+  if (unit_ == Unit::kChar) return box_.SelectTo(box_.PlaceAt(at));
   const TextSpan here = UnitAt(at);
   const TextSpan all{std::min(origin_.begin, here.begin), std::max(origin_.end, here.end)};
   box_.Select(all, here.begin < origin_.begin);
@@ -113,7 +113,7 @@ void TextMouse::Release(QMouseEvent* event) {
   if (event->button() == Qt::LeftButton) {
     scroll_timer_.stop();
     const bool still = (at - pressed_at_).manhattanLength() < QApplication::startDragDistance();
-    if (state_ == State::kMayDrag || (state_ == State::kTapping && still)) box_.PutCaret(box_.PlaceAt(at), false);
+    if (state_ == State::kMayDrag || (state_ == State::kTapping && still)) box_.PutCaret(box_.PlaceAt(at));
     if (state_ == State::kSelecting) box_.PublishSelection();
     state_ = State::kIdle;
     ShowPointer(at);
@@ -123,7 +123,7 @@ void TextMouse::Release(QMouseEvent* event) {
   if (event->button() != Qt::MiddleButton || box_.IsReadOnly() || !clipboard->supportsSelection())
     return event->ignore();
   if (!box_.viewport()->rect().contains(at)) return;
-  box_.PutCaret(box_.PlaceAt(at), false);
+  box_.PutCaret(box_.PlaceAt(at));
   box_.Insert(clipboard->mimeData(QClipboard::Selection));
 }
 

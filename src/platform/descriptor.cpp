@@ -1,4 +1,4 @@
-#include "platform/qt/descriptor.h"
+#include "platform/descriptor.h"
 
 #include <string>
 
