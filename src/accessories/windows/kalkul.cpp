@@ -142,6 +142,10 @@ QPushButton* Kalkul::KeyOf(char character) const {
 }
 
 Preview Kalkul::PhysicalKey(const QKeyEvent& event) {
+  if (event.matches(QKeySequence::Copy)) {
+    platform_.SetClipboardText(calculator_.Cislo);
+    return Preview::kTake;
+  }
   const auto character = TypedCharacter(event);
   QPushButton* key = event.key() == Qt::Key_Delete ? ui_->Command23 : character ? KeyOf(*character) : nullptr;
   if (key == nullptr) return Preview::kPass;

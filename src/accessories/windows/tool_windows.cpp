@@ -45,7 +45,10 @@ std::unique_ptr<Kalkul> MakeKalkul(const ProgramParts& parts) {
 std::unique_ptr<Prev> MakePrev(const ProgramParts& parts) {
   const bool alone = StandsAlone(parts);
   Prev::Doors doors{[&text = parts.editor.text](const std::string& number) { InsertAtCaret(text, number); },
-                    [&windows = parts.windows](const std::string& number) { windows.Get<Kalkul>().SetNumber(number); }};
+                    [&windows = parts.windows](const std::string& number) {
+                      windows.Get<Kalkul>().SetNumber(number);
+                      windows.Get<Kalkul>().Present();
+                    }};
   return std::make_unique<Prev>(parts.platform, alone, std::move(doors), alone ? nullptr : &parts.main);
 }
 

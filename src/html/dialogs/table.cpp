@@ -1,6 +1,7 @@
 #include "html/dialogs/table.h"
 
 #include "html/dialogs/form_helpers.h"
+#include "platform/qt/controls/tab_keys.h"
 #include "platform/qt/convert.h"
 #include "ui_table.h"
 
@@ -62,6 +63,7 @@ void Table::MakeTabs() {
   ui_->TabStrip1->addTab(QStringLiteral("Buňka / Řádek"));
   ui_->TabStrip1->setTabToolTip(1, QStringLiteral("Nastavení jedné určité buňky/ jednoho rádku "));
   connect(ui_->TabStrip1, &QTabBar::currentChanged, ui_->pages, &QStackedWidget::setCurrentIndex);
+  AddTabKeys(*this, *ui_->TabStrip1);
 }
 
 void Table::ConnectGroups() {

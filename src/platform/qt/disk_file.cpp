@@ -93,6 +93,8 @@ WriteOutcome WriteOver(const Target& target, NewContent content, const std::stri
   if (beside.content.IsOpen()) {
     content.fill = [&beside](int to, int) { return CopyWhole(beside.content.Number(), to); };
     content.reads_old = false;
+    struct stat written {};
+    if (fstat(beside.content.Number(), &written) == 0) content.size = static_cast<std::uint64_t>(written.st_size);
   }
   return WriteInPlace(target, content, keep_folder);
 }

@@ -110,8 +110,11 @@ int NewFile::LinkAsDrawn() {
 int NewFile::TakeNewName(const std::string& path) {
   if (const int error = CloseOnce(file_.Number())) return error;
   if (name_.empty()) return LinkAs(path);
-  if (renameat2(AT_FDCWD, name_.c_str(), AT_FDCWD, path.c_str(), RENAME_NOREPLACE) != 0)
-    return errno == EINVAL || errno == ENOSYS ? TakeNameOf(path) : errno;
+  const bool renamed = renameat2(AT_FDCWD, name_.c_str(), AT_FDCWD, path.c_str(), RENAME_NOREPLACE) == 0;
+  if (!renamed && errno != EINVAL && errno != ENOSYS) return errno;
+  // A disk that can't do that may have hard links, which replace nothing either.
+  if (!renamed && link(name_.c_str(), path.c_str()) != 0) return errno == EEXIST ? EEXIST : TakeNameOf(path);
+  if (!renamed) unlink(name_.c_str());
   name_.clear();
   return 0;
 }

@@ -81,7 +81,7 @@ std::string FolderOf(const QString& path) {
 }  // namespace
 
 void AddToRecentList(const QString& list_path, const QString& path) {
-  const QString mime = QMimeDatabase().mimeTypeForFile(path).name();
+  const QString mime = QMimeDatabase().mimeTypeForFile(path, QMimeDatabase::MatchExtension).name();
   QDir().mkpath(QFileInfo(list_path).path());
   const QByteArray native = QFile::encodeName(list_path);
   const LockedList lock(native);

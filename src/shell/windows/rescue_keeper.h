@@ -88,6 +88,9 @@ class RescueKeeper : public QObject {
   int pause_;
   int failure_ = 0;
   Owed owed_;
+  struct {
+    std::string path, text;
+  } last_resort_;  // the file that KeepNow has made in the temporary folder
 };
 
 }  // namespace pelmar

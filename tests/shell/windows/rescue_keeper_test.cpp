@@ -71,6 +71,7 @@ TEST_F(RescueKeeperTest, TheLastResortIsANewFileOfADrawnName) {
   RescueKeeper keeper(ModifiedDocuments(documents), platform);
   text.SetText("typed");
   EXPECT_EQ(keeper.KeepNow(), "/tmp/pelmar-rescue-24999999.txt");
+  EXPECT_EQ(keeper.KeepNow(), "/tmp/pelmar-rescue-24999999.txt");
   EXPECT_EQ(platform.files["/tmp/pelmar-rescue-24999999.txt"], "Soubor:\r\ntyped\r\n\r\n");
   EXPECT_EQ(platform.calls.size(), 2u);
 }
