@@ -95,8 +95,8 @@ TEST(NumberText, ReadsWhatHasTheFormOfANumber) {
 
 TEST(NumberText, NumbersOutOfRange) {
   std::string read;
-  for (const std::string& text : {"1E999"s, "1E+3000"s, "1E-999"s, "0." + std::string(400, '0') + "1", "inf"s, "nan"s,
-                                  "0x10"s, std::string(400, '1')})
+  for (const std::string& text : {"1E999"s, "1E+3000"s, "1E-999"s, "0." + std::string(400, '0') + "1E+5", "inf"s,
+                                  "nan"s, "0x10"s, std::string(400, '1') + "E-5"})
     read += NumberText(LeadingNumber(text)) + ' ';
   EXPECT_EQ(read, "1E+99 1E+300 0 0 0 0 0 1,11111111111111E+308 ");  // a shorter part is small enough
   EXPECT_EQ(ParseNumber("1E-999"), 0);
