@@ -1,15 +1,11 @@
 #include "shell/settings_record.h"
 
-#include <cstddef>
-
 #include "platform/paths.h"
 #include "shell/record_bytes.h"
 #include "text/codepage.h"
 
 namespace pelmar {
 namespace {
-
-constexpr std::size_t kLongestString = 65535;
 
 class Reader {
  public:
@@ -18,7 +14,7 @@ class Reader {
   void Read(std::int32_t& value) { value = static_cast<std::int32_t>(fields_.Number(4)); }
   void Read(std::uint8_t& value) { value = static_cast<std::uint8_t>(fields_.Number(1)); }
   void Read(bool& value) { value = fields_.Number(2) != 0; }
-  void Read(std::string& value) { value = fields_.Bytes(fields_.Number(2)); }
+  void Read(std::string& value) { value = fields_.String(2); }
 
  private:
   RecordReader fields_;
@@ -29,11 +25,7 @@ class Writer {
   void Write(std::int32_t value) { fields_.Number(static_cast<std::uint32_t>(value), 4); }
   void Write(std::uint8_t value) { fields_.Number(value, 1); }
   void Write(bool value) { fields_.Number(value ? 0xFFFF : 0, 2); }
-  void Write(std::string_view value) {
-    value = value.substr(0, kLongestString);
-    fields_.Number(value.size(), 2);
-    fields_.Bytes(value);
-  }
+  void Write(std::string_view value) { fields_.String(value, 2); }
   std::string Bytes() && { return std::move(fields_).Take(); }
 
  private:
