@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "platform/busy.h"
+#include "platform/paths.h"
 #include "platform/runtime_error.h"
 #include "shell/common.h"
 #include "shell/editor.h"
@@ -97,7 +98,7 @@ std::vector<PrintedPiece> LayOutForPrint(std::string_view text, double page_widt
 }
 
 std::string PrintName(std::string_view path) {
-  std::string_view name = path.substr(path.find_last_of("/\\") + 1);
+  std::string_view name = NameOf(path);
   if (const std::size_t dot = name.rfind('.'); dot != 0 && dot != std::string_view::npos) name = name.substr(0, dot);
   return name.empty() ? "Pelmar VEX" : std::string(name);
 }

@@ -2,7 +2,6 @@
 
 #include "platform/paths.h"
 #include "shell/record_bytes.h"
-#include "text/codepage.h"
 
 namespace pelmar {
 namespace {
@@ -31,17 +30,6 @@ class Writer {
  private:
   RecordWriter fields_;
 };
-
-std::string EncodedUrl(std::string_view path) {
-  std::string url = "file://";
-  for (const char byte : path) {
-    if (CodeOf(byte) >= 0x80 || byte == '%')
-      url += '%' + HexByte(CodeOf(byte));
-    else
-      url += byte;
-  }
-  return url;
-}
 
 }  // namespace
 
@@ -103,19 +91,6 @@ void ApplySettingsDefaults(SettingsRecord& record) {
     record.ForeColor = Rgb(0, 0, 0);
     record.BackColor = Rgb(255, 255, 255);
   }
-}
-
-std::string StoredPath(std::string_view path) {
-  if (!IsUtf8(path) && path.starts_with('/')) return EncodedUrl(path);
-  std::string text = FromUtf8(path);
-  const bool lossless = ToUtf8(text) == path;
-  const bool ambiguous = IsUtf8(text) && text != path;
-  return lossless && !ambiguous ? text : std::string(path);
-}
-
-std::string PathFromStored(std::string_view bytes) {
-  if (auto path = PathFromFileUrl(bytes)) return *path;
-  return IsUtf8(bytes) ? std::string(bytes) : ToUtf8(bytes);
 }
 
 }  // namespace pelmar
