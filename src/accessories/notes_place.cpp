@@ -9,16 +9,16 @@ namespace pelmar {
 TwipsRect PlaceNotes(const NotesSurroundings& around) {
   TwipsRect notes = around.notes;
   const bool in_editor = around.mode == StartMode::kEditor;
-  if (!around.docked || around.main_state == 1)
+  if (!around.docked || around.main_state == WindowMode::kMinimised)
     notes = Snap(notes, around.snap_distance, around.screen_width, around.screen_height);
-  if (around.docked && in_editor && around.main_state == 0) {
+  if (around.docked && in_editor && around.main_state == WindowMode::kNormal) {
     notes.top = around.main.top;
     notes.left = around.main.left + around.main.width;
     notes.height = around.main.height;
     const int beside = around.screen_width - notes.left;
     if (beside > 0) notes.width = std::max(beside, around.narrowest);
   }
-  if (around.docked && in_editor && around.main_state == 2)
+  if (around.docked && in_editor && around.main_state == WindowMode::kMaximised)
     notes = {around.screen_width - around.narrowest, 0, around.narrowest, around.screen_height};
   if (around.docked && around.mode == StartMode::kNotes) {
     notes.left = around.screen_width - notes.width;

@@ -39,7 +39,7 @@ void Session::Start(std::string_view tail) {
   files_.recent.changed.Tell();
   view_.SetPlace({settings_.Left, settings_.Top, settings_.Width, settings_.Height});
   if (settings_.WindowState < 0 || settings_.WindowState > 2) settings_.WindowState = 0;
-  view_.SetWindowState(settings_.WindowState);
+  view_.SetWindowState(WindowMode{settings_.WindowState});
   ApplyLook();
   if (settings_.UserEmail.empty() || settings_.UserName.empty()) doors_.show_config();
   if (settings_.AutosnapDistance == 0) settings_.AutosnapDistance = kAutosnapDefault;
@@ -109,7 +109,7 @@ void Session::StoreSettings(bool with_window_state) {
   settings_.Height = place.height;
   settings_.Left = place.left;
   settings_.Top = place.top;
-  if (with_window_state) settings_.WindowState = view_.WindowState();
+  if (with_window_state) settings_.WindowState = static_cast<std::int32_t>(view_.WindowState());
   const EditorLook look = view_.Look();
   settings_.FontName = look.font_name;
   settings_.ForeColor = look.fore_color;

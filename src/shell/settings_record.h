@@ -30,7 +30,7 @@ struct SettingsRecord {
   std::int32_t AutosnapDistance = 0;  // twips
   std::string LockPassword;
   std::array<std::string, 10> RecentFiles;  // newest first
-  std::int32_t WindowState = 0;             // 0 normal, 1 minimised, 2 maximised
+  std::int32_t WindowState = 0;             // a WindowMode
   bool LineCounting = false;
 
   bool operator==(const SettingsRecord&) const = default;

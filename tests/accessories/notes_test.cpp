@@ -107,10 +107,11 @@ TEST(Checkpoint, TakesTheTextOverTheNoteAndAsksBeforeItGivesItBack) {
             "\"Checkpoint\"");
 }
 
+using enum WindowMode;
 constexpr int kWidth = 19200, kHeight = 15360;
 
-NotesSurroundings Around(TwipsRect notes, StartMode mode = StartMode::kEditor, bool docked = false, int main_state = 0,
-                         int main_width = 12000) {
+NotesSurroundings Around(TwipsRect notes, StartMode mode = StartMode::kEditor, bool docked = false,
+                         WindowMode main_state = kNormal, int main_width = 12000) {
   return {notes, {1500, 600, main_width, 9000}, main_state, mode, docked, 240, kWidth, kHeight, 2700};
 }
 
@@ -124,13 +125,13 @@ TEST(PlaceNotes, FollowsTheButtonAndTheMainWindow) {
   } kCases[] = {
       {"free", Around({300, 300, 6000, 4000}), {300, 300, 6000, 4000}},
       {"just within the distance", Around({239, 239, 6000, 4000}), {0, 0, 6000, 4000}},
-      {"right and bottom", Around({13000, 11200, 6000, 4000}, kEditor, false, 2), {13200, 11360, 6000, 4000}},
+      {"right and bottom", Around({13000, 11200, 6000, 4000}, kEditor, false, kMaximised), {13200, 11360, 6000, 4000}},
       {"docked", Around(edge, kEditor, true), {13500, 600, 5700, 9000}},
-      {"docked beside a minimised one", Around(edge, kEditor, true, 1), {0, 300, 6000, 4000}},
-      {"docked beside a maximised one", Around(edge, kEditor, true, 2), {16500, 0, 2700, kHeight}},
+      {"docked beside a minimised one", Around(edge, kEditor, true, kMinimised), {0, 300, 6000, 4000}},
+      {"docked beside a maximised one", Around(edge, kEditor, true, kMaximised), {16500, 0, 2700, kHeight}},
       {"in the corner", Around(edge, kNotes, true), {13200, 11360, 6000, 4000}},
-      {"without room", Around(edge, kEditor, true, 0, kWidth - 1500), {kWidth, 600, 6000, 9000}},
-      {"with too little", Around(edge, kEditor, true, 0, kWidth - 1800), {kWidth - 300, 600, 2700, 9000}},
+      {"without room", Around(edge, kEditor, true, kNormal, kWidth - 1500), {kWidth, 600, 6000, 9000}},
+      {"with too little", Around(edge, kEditor, true, kNormal, kWidth - 1800), {kWidth - 300, 600, 2700, 9000}},
   };
   for (const auto& one : kCases) EXPECT_EQ(PlaceNotes(one.around), one.expected) << one.what;
 }
