@@ -8,12 +8,11 @@
 
 #include "platform/color.h"
 #include "platform/twips.h"
-#include "shell/settings_record.h"
 
 namespace pelmar {
+
 // The numbers of the settings record.
 enum class WindowMode : std::int32_t { kNormal, kMinimised, kMaximised };
-
 
 // The look of the main text box. The font's name is Windows-1250.
 struct EditorLook {

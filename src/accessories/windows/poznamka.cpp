@@ -10,7 +10,6 @@
 #include "platform/qt/placement.h"
 #include "platform/qt/svg_icon.h"
 #include "platform/twips.h"
-#include "shell/stand_alone.h"
 #include "shell/windows/warning_label.h"
 #include "ui_poznamka.h"
 

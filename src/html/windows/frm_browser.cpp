@@ -11,7 +11,6 @@
 
 #include "html/browser_texts.h"
 #include "html/windows/web_address.h"
-#include "platform/paths.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/outer_geometry.h"
 #include "platform/qt/placement.h"

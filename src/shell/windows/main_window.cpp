@@ -14,11 +14,8 @@
 #include "platform/qt/convert.h"
 #include "platform/qt/outer_geometry.h"
 #include "platform/qt/svg_icon.h"
-#include "platform/twips.h"
 #include "shell/status.h"
-#include "shell/window_geometry.h"
 #include "shell/windows/status_timer.h"
-#include "text/codepage.h"
 
 namespace pelmar {
 namespace {
