@@ -72,7 +72,7 @@ std::size_t TextLayout::WrapAt(std::size_t start, std::size_t end) const {
   std::int64_t x = 0;
   std::size_t at = start;
   for (; at < end; ++at) {
-    const std::int64_t next = After(x, text[at]);
+    const std::int64_t next = rules_.advances.After(x, text[at]);
     if (next > rules_.width) break;
     x = next;
   }
@@ -149,16 +149,12 @@ std::int64_t TextLayout::RowLeft(std::size_t row) const {
   return left / kUnitsPerPixel * kUnitsPerPixel;
 }
 
-std::int64_t TextLayout::After(std::int64_t x, char ch) const {
-  return ch == '\t' ? NextTab(x) : x + rules_.advances.of[Index(ch)];
-}
-
 std::int64_t TextLayout::Walk(Mark from, std::size_t to) const {
   const std::string_view text = buffer_->Text();
   while (from.pos < to) {
     const std::size_t tab = std::min(text.substr(0, to).find('\t', from.pos), to);
     from.x += Sum(rules_.advances, text.substr(from.pos, tab - from.pos));
-    if (tab < to) from.x = NextTab(from.x);
+    if (tab < to) from.x = rules_.advances.After(from.x, '\t');
     from.pos = tab + 1;
   }
   return from.x;
@@ -183,7 +179,7 @@ std::size_t TextLayout::CharAt(std::size_t row, std::int64_t x) const {
   const auto behind = std::upper_bound(first, last, x, [](std::int64_t v, const Mark& mark) { return v < mark.x; });
   if (behind != first) from = *std::prev(behind);
   for (; from.pos < end; ++from.pos) {
-    const std::int64_t next = After(from.x, buffer_->Text()[from.pos]);
+    const std::int64_t next = rules_.advances.After(from.x, buffer_->Text()[from.pos]);
     if (next > x) break;
     from.x = next;
   }

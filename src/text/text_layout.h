@@ -20,6 +20,11 @@ inline constexpr std::int64_t kUnitsPerPixel = 64;
 struct AdvanceTable {
   std::array<std::int32_t, 256> of{};
   std::int32_t tab_stop = 1;
+
+  // Where a character ends that begins at `x`, both counted from the row's beginning.
+  [[nodiscard]] std::int64_t After(std::int64_t x, char ch) const {
+    return ch == '\t' ? (x / tab_stop + 1) * tab_stop : x + of[static_cast<unsigned char>(ch)];
+  }
 };
 
 enum class TextAlign : std::uint8_t { kLeft, kRight, kCentre };
@@ -67,8 +72,6 @@ class TextLayout {
 
   // The distance of a caret stop from the row's beginning. A blank that hangs over the edge has no width.
   [[nodiscard]] std::int64_t XOf(std::size_t row, std::size_t pos) const;
-  // Where a character ends that begins at `x`, both counted from the row's beginning.
-  [[nodiscard]] std::int64_t After(std::int64_t x, char ch) const;
   // The caret stop nearest to `x`, and the character that covers it (the row's end behind the last one).
   [[nodiscard]] std::size_t StopAt(std::size_t row, std::int64_t x) const;
   [[nodiscard]] std::size_t CharAt(std::size_t row, std::int64_t x) const;
@@ -83,9 +86,6 @@ class TextLayout {
   [[nodiscard]] std::size_t NextRow(std::size_t start, std::size_t& line) const;
   [[nodiscard]] std::size_t WrapAt(std::size_t start, std::size_t end) const;
   [[nodiscard]] std::int64_t Walk(Mark from, std::size_t to) const;
-  [[nodiscard]] std::int64_t NextTab(std::int64_t x) const {
-    return (x / rules_.advances.tab_stop + 1) * rules_.advances.tab_stop;
-  }
   [[nodiscard]] std::int64_t MeasureRow(std::size_t row, Mark from, std::vector<Mark>& marks) const;
   void MeasureAll();
   void Remeasure(const RowsChange& rows, const TextChange& change, std::size_t same_from);

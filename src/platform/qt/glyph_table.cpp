@@ -131,7 +131,7 @@ void GlyphTable::DrawAlone(QPainter& painter, QPointF at, char ch, const QColor&
 }
 
 std::int64_t GlyphTable::EndOf(std::int64_t x, std::string_view text) const {
-  for (const char ch : text) x = ch == '\t' ? NextTab(x) : x + advances_.of[static_cast<unsigned char>(ch)];
+  for (const char ch : text) x = advances_.After(x, ch);
   return x;
 }
 
@@ -139,18 +139,14 @@ void GlyphTable::Draw(QPainter& painter, QPointF origin, std::int64_t x, std::st
                       const QColor& colour) const {
   for (const char ch : text) {
     const auto code = static_cast<unsigned char>(ch);
-    if (ch == '\t') {
-      x = NextTab(x);
-      continue;
-    }
     if (IsControlSign(code)) {
       DrawSign(painter, origin + QPointF(ToPixels(x), 0), code, colour);
-    } else if (ch != ' ' || underline_ || strike_out_) {
+    } else if (ch != '\t' && (ch != ' ' || underline_ || strike_out_)) {
       Run& run = runs_[cells_[code].face];
       run.glyphs.push_back(cells_[code].glyph);
       run.places.push_back(origin + QPointF(ToPixels(x), ascent_));
     }
-    x += advances_.of[code];
+    x = advances_.After(x, ch);
   }
   DrawRuns(painter, colour);
 }
