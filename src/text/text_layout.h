@@ -5,6 +5,7 @@
 #pragma once
 
 #include <array>
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -15,6 +16,10 @@
 namespace pelmar {
 
 inline constexpr std::int64_t kUnitsPerPixel = 64;
+inline double ExactPixels(std::int64_t units) { return static_cast<double>(units) / kUnitsPerPixel; }
+inline int WholePixelsBelow(std::int64_t units) { return static_cast<int>(units / kUnitsPerPixel); }
+inline std::int64_t UnitsBelow(double pixels) { return static_cast<std::int64_t>(pixels * kUnitsPerPixel); }
+inline std::int64_t NearestUnits(double pixels) { return std::llround(pixels * kUnitsPerPixel); }
 
 // How far each of the 256 codes moves on. TAB goes to the next multiple of `tab_stop`, which is above 0.
 struct AdvanceTable {
