@@ -39,9 +39,12 @@ void Splice(std::vector<T>& all, std::size_t from, std::size_t to, const std::ve
 
 }  // namespace
 
-void TextLayout::Lay(const TextBuffer& buffer, const LayoutRules& rules) {
-  buffer_ = &buffer;
+void TextLayout::Lay(const LayoutRules& rules) {
   rules_ = rules;
+  LayAll();
+}
+
+void TextLayout::LayAll() {
   rows_.assign(1, 0);
   std::size_t line = 0;
   for (std::size_t row = NextRow(0, line); row != kNoRow; row = NextRow(row, line)) rows_.push_back(row);
@@ -51,7 +54,7 @@ void TextLayout::Lay(const TextBuffer& buffer, const LayoutRules& rules) {
 void TextLayout::SetWidth(std::int64_t width) {
   if (width == rules_.width) return;
   rules_.width = width;
-  if (rules_.wrap) Lay(*buffer_, rules_);
+  if (rules_.wrap) LayAll();
 }
 
 // The start of the row behind the one that starts at `start` in line `line`, which moves on with the rows.
@@ -86,7 +89,7 @@ std::size_t TextLayout::WrapAt(std::size_t start, std::size_t end) const {
 RowsChange TextLayout::Update(const TextChange& change) {
   const std::size_t old_count = rows_.size();
   if (change.whole) {
-    Lay(*buffer_, rules_);
+    LayAll();
     return {0, old_count, rows_.size()};
   }
   // A CR before the change may have got or lost its LF, and a shorter word at the beginning of a row may fit into the

@@ -50,11 +50,11 @@ struct RowsChange {
 
 class TextLayout {
  public:
-  // Until the first Lay there is one row, without width.
+  // The buffer must outlive the layout. Until the first Lay there is one row, without width.
   explicit TextLayout(const TextBuffer& buffer) : buffer_(&buffer) {}
 
-  // Lays the whole text out. The buffer must outlive the layout or the next Lay.
-  void Lay(const TextBuffer& buffer, const LayoutRules& rules);
+  // Lays the whole text out.
+  void Lay(const LayoutRules& rules);
   // Another width of the window; lays out anew only where the text wraps.
   void SetWidth(std::int64_t width);
   void SetAlign(TextAlign align) { rules_.align = align; }
@@ -88,6 +88,7 @@ class TextLayout {
     std::int64_t x = 0;
   };
 
+  void LayAll();
   [[nodiscard]] std::size_t NextRow(std::size_t start, std::size_t& line) const;
   [[nodiscard]] std::size_t WrapAt(std::size_t start, std::size_t end) const;
   [[nodiscard]] std::int64_t Walk(Mark from, std::size_t to) const;

@@ -5,7 +5,7 @@
 namespace pelmar {
 
 void TextView::Show(const TextBuffer& buffer) {
-  buffer_ = &buffer;
+  layout_ = TextLayout(buffer);
   stale_ = true;
 }
 
@@ -41,7 +41,7 @@ const TextLayout& TextView::Layout() {
   if (!stale_) return layout_;
   SetWindowWidth(window_width_());
   rules_.advances = Glyphs().Advances();
-  layout_.Lay(*buffer_, rules_);
+  layout_.Lay(rules_);
   stale_ = false;
   return layout_;
 }
