@@ -1,4 +1,4 @@
-// Parts of paths. Paths are UTF-8; both "\\" and "/" separate.
+// Parts of paths, and how they are stored. A path is the bytes that the system gave; both "\\" and "/" separate.
 #pragma once
 
 #include <optional>
