@@ -61,7 +61,7 @@ TEST_F(RescueKeeperTest, KeepsAChangeWithinTwoSecondsAndTheBarSaysForAsLongAsItC
 
 // Somebody has planted the first name that is drawn.
 TEST_F(RescueKeeperTest, TheLastResortIsANewFileOfADrawnName) {
-  platform.install_folder = "/nonexistent/";
+  platform.install_folder = "/dev/null/";
   platform.draws = {0.5, 0.25};
   platform.files["/tmp/pelmar-rescue-49999999.txt"] = "planted";
   TextBuffer text;
