@@ -28,7 +28,6 @@ TEST(CodePage, EveryByteSurvivesUnicode) {
   for (const char ch : all) wide += UnicodeOf(static_cast<unsigned char>(ch));
   EXPECT_EQ(FromUtf16(wide), all);
   EXPECT_EQ("Žluťoučký kůň €"_w, "\x8Elu\x9Dou\xE8k\xFD k\xF9\xF2 \x80");
-  EXPECT_EQ(ToUtf8("©®™ß"_w), "©®™ß");
 }
 
 TEST(CodePage, WhatThePageLacksBecomesOneQuestionMark) {
@@ -102,15 +101,6 @@ TEST(NumberText, NumbersOutOfRange) {
   EXPECT_EQ(ParseNumber("1E-999"), 0);
   EXPECT_EQ(ParseNumber("0," + std::string(400, '0') + "1"), 0);
   EXPECT_EQ(ParseNumber("inf"), std::nullopt);
-}
-
-TEST(NumberText, WhatIsWrittenReadsBackToFifteenDigits) {
-  RandomSource random(5);
-  for (int round = 0; round < 5000; ++round) {
-    const double number = (random.Next() * 20 - 10) * std::pow(10, static_cast<int>(random.Below(600)) - 300);
-    const auto back = ParseNumber(NumberText(number));
-    ASSERT_TRUE(back && std::abs(*back / number - 1) < 1e-14) << number;
-  }
 }
 
 }  // namespace
