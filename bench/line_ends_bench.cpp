@@ -1,6 +1,6 @@
 // The line-end conversion of a large file beside a plain copy of it, in one run: each at its best of three, in seconds
-// by the clock and (of the processor), with the memory of the whole process behind it. Limits: a third of the copy's
-// speed, 64 MiB.
+// by the clock and (of the processor), with the memory of the whole process behind it. Limits: a fifth of the copy's
+// speed where both stay in the system's memory, 64 MiB.
 //
 //   line_ends_bench FOLDER [MEBIBYTES]
 #include <fcntl.h>

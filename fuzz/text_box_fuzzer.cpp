@@ -29,7 +29,7 @@ LayoutRules Rules(bool wrap) {
 class Box {
  public:
   explicit Box(bool wrap) : rules_(Rules(wrap)) {
-    layout_.Lay(buffer_, rules_);
+    layout_.Lay(rules_);
     heard_ = buffer_.OnChange([this](const TextChange& change) { Follow(change); });
   }
 
@@ -60,7 +60,7 @@ class Box {
   void Check() const {
     Require(buffer_.Text() == plain_);
     TextLayout fresh(buffer_);
-    fresh.Lay(buffer_, rules_);
+    fresh.Lay(rules_);
     Require(fresh.RowCount() == layout_.RowCount() && fresh.ContentWidth() == layout_.ContentWidth());
     for (std::size_t row = 0; row < fresh.RowCount(); ++row) {
       Require(fresh.RowStart(row) == layout_.RowStart(row) && fresh.RowEnd(row) == layout_.RowEnd(row));

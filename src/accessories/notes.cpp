@@ -29,17 +29,14 @@ bool TakeEmptyPage(NotesRecord& record, const std::string& text) {
 NotesRecord ReadNotes(std::string_view bytes) {
   RecordReader reader(bytes);
   NotesRecord record;
-  for (std::string& page : record.pages) page = reader.Bytes(reader.Number(kCountSize));
+  for (std::string& page : record.pages) page = reader.String(kCountSize);
   return record;
 }
 
 std::string NotesBytes(const NotesRecord& record) {
   if (const int page = OverlongPage(record)) throw RuntimeError(EFBIG, OverlongMessage(page, record.Page(page).size()));
   RecordWriter writer;
-  for (const std::string& page : record.pages) {
-    writer.Number(page.size(), kCountSize);
-    writer.Bytes(page);
-  }
+  for (const std::string& page : record.pages) writer.String(page, kCountSize);
   return std::move(writer).Take();
 }
 

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "platform/twips.h"
+#include "shell/main_view.h"
 #include "shell/stand_alone.h"
 
 namespace pelmar {
@@ -12,7 +13,7 @@ namespace pelmar {
 struct NotesSurroundings {
   TwipsRect notes;
   TwipsRect main;
-  int main_state = 0;  // 0 normal, 1 minimised, 2 maximised
+  WindowMode main_state = WindowMode::kNormal;
   StartMode mode = StartMode::kEditor;
   bool docked = false;  // the button "Dock" is pressed
   int snap_distance = 0;

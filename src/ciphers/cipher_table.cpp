@@ -2,11 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <string_view>
 
-#include "ciphers/shift.h"
-#include "shell/common.h"
-#include "text/codepage.h"
 #include "text/number_text.h"
 
 namespace pelmar {
@@ -21,6 +17,14 @@ bool DrawDigit(const Draw& draw) {
 // 1 for two parts of one size.
 double Imbalance(std::size_t part, std::size_t other) {
   return std::abs(static_cast<double>(part) / static_cast<double>(other) - 1) + 1;
+}
+
+// As wide for each symbol.
+std::string ShownSymbol(char symbol) {
+  if (symbol == ' ') return R"(" "     )";
+  if (symbol == '\r') return "Chr(13) ";
+  if (symbol == '\n') return "Chr(10) ";
+  return symbol + std::string(7, ' ');
 }
 
 }  // namespace
@@ -40,12 +44,8 @@ void GenerateLetterSplit(CipherTable& table, const Draw& draw) {
 }
 
 std::vector<std::string> CodeRows(const CipherTable& table) {
-  const auto& codes = table.SymbolCodes;
   std::vector<std::string> rows{"Hloubka: " + std::to_string(table.Depth)};
-  for (std::size_t i = 0; i < kLetters; ++i) rows.push_back(CharOf('A' + static_cast<int>(i)) + ("       " + codes[i]));
-  rows.push_back(std::string(kQuote).append(" ").append(kQuote).append("     ") + codes[26]);
-  rows.push_back("Chr(13) " + codes[27]);
-  rows.push_back("Chr(10) " + codes[28]);
+  for (std::size_t i = 0; i < kSymbols; ++i) rows.push_back(ShownSymbol(kSymbolCharacters[i]) + table.SymbolCodes[i]);
   return rows;
 }
 

@@ -8,13 +8,15 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/random.h"
 
 namespace pelmar {
 
-inline constexpr std::size_t kSymbols = 29;  // A to Z, blank, carriage return, line feed
+inline constexpr std::string_view kSymbolCharacters = "ABCDEFGHIJKLMNOPQRSTUVWXYZ \r\n";
+inline constexpr std::size_t kSymbols = kSymbolCharacters.size();
 
 struct CipherTable {
   std::array<std::string, kSymbols> SymbolCodes;

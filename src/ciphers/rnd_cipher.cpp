@@ -4,28 +4,11 @@
 #include <array>
 #include <unordered_map>
 
-#include "ciphers/shift.h"
 #include "shell/common.h"
 #include "text/codepage.h"
 
 namespace pelmar {
 namespace {
-
-constexpr int kNoSymbol = -1;
-
-// From 0; kNoSymbol for other characters.
-int SymbolOf(char ch) {
-  if (ch >= 'A' && ch <= 'Z') return ch - 'A';
-  if (ch == ' ') return 26;
-  if (ch == '\r') return 27;
-  if (ch == '\n') return 28;
-  return kNoSymbol;
-}
-
-char CharacterOf(std::size_t symbol) {
-  constexpr std::string_view kOthers = " \r\n";
-  return symbol < kLetters ? CharOf('A' + static_cast<int>(symbol)) : kOthers[symbol - kLetters];
-}
 
 // Tells the progress some thirty times in a text, and at its end.
 class Milestones {
@@ -85,7 +68,7 @@ std::string DigitsOf(std::string_view letters, std::string_view zero_letters) {
 
 std::string PrepareText(std::string_view text) {
   std::string plain = StripDiacritics(ToUpper(text));
-  std::erase_if(plain, [](char ch) { return SymbolOf(ch) == kNoSymbol; });
+  std::erase_if(plain, [](char ch) { return kSymbolCharacters.find(ch) == std::string_view::npos; });
   return plain;
 }
 
@@ -96,8 +79,8 @@ std::string RndEncipher(std::string_view text, const CipherTable& table, const D
   std::string_view code;
   for (std::size_t i = 0; i < text.size(); ++i) {
     milestones.Pass(i);
-    if (const int symbol = SymbolOf(text[i]); symbol != kNoSymbol)
-      code = table.SymbolCodes[static_cast<std::size_t>(symbol)];
+    const std::size_t symbol = kSymbolCharacters.find(text[i]);
+    if (symbol < kSymbols) code = table.SymbolCodes[symbol];
     for (std::size_t j = 0; j < table.Depth; ++j) {
       const bool zero = j < code.size() && code[j] == '0';
       const std::string& letters = zero ? table.ZeroLetters : table.OneLetters;
@@ -120,7 +103,7 @@ std::string RndDecipher(std::string_view text, const CipherTable& table, const P
     milestones.Pass(at);
     const std::size_t match = index.Find(std::string_view(digits).substr(at, table.Depth));
     if (match < kSymbols) found = match;
-    if (found < kSymbols) out += CharacterOf(found);
+    if (found < kSymbols) out += kSymbolCharacters[found];
   }
   milestones.Pass(digits.size());
   return out;

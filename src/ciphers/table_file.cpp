@@ -10,34 +10,29 @@ namespace pelmar {
 namespace {
 
 constexpr int kFilterIndex = 0;
-constexpr std::uint64_t kLargestTable = (kSymbols + 3) * (2 + kLongestField) + 1;
+constexpr std::size_t kCountSize = 2;
+constexpr std::uint64_t kLargestTable = (kSymbols + 3) * (kCountSize + kLongestField) + 1;
 
 }  // namespace
 
 CipherTable ReadTable(std::string_view bytes) {
   RecordReader reader(bytes);
-  const auto text = [&reader] { return std::string(reader.Bytes(reader.Number(2))); };
   CipherTable table;
-  for (std::string& code : table.SymbolCodes) code = text();
+  for (std::string& code : table.SymbolCodes) code = reader.String(kCountSize);
   table.Depth = static_cast<std::uint8_t>(reader.Number(1));
-  table.OneLetters = text();
-  table.ZeroLetters = text();
-  table.Note = text();
+  table.OneLetters = reader.String(kCountSize);
+  table.ZeroLetters = reader.String(kCountSize);
+  table.Note = reader.String(kCountSize);
   return table;
 }
 
 std::string TableBytes(const CipherTable& table) {
   RecordWriter writer;
-  const auto write = [&writer](std::string_view text) {
-    text = text.substr(0, kLongestField);
-    writer.Number(text.size(), 2);
-    writer.Bytes(text);
-  };
-  for (const std::string& code : table.SymbolCodes) write(code);
+  for (const std::string& code : table.SymbolCodes) writer.String(code, kCountSize);
   writer.Number(table.Depth, 1);
-  write(table.OneLetters);
-  write(table.ZeroLetters);
-  write(table.Note);
+  writer.String(table.OneLetters, kCountSize);
+  writer.String(table.ZeroLetters, kCountSize);
+  writer.String(table.Note, kCountSize);
   return std::move(writer).Take();
 }
 

@@ -7,6 +7,7 @@
 #include "files/save.h"
 #include "platform/busy.h"
 #include "platform/error_text.h"
+#include "platform/paths.h"
 #include "shell/file_number.h"
 #include "text/codepage.h"
 
@@ -127,11 +128,10 @@ std::string_view PageToUtf8::Rewrite(std::string_view piece) {
 }
 
 std::string PathBeside(std::string_view path, std::string_view extension) {
-  const std::size_t separator = path.find_last_of("\\/");
-  const std::size_t name = separator == std::string_view::npos ? 0 : separator + 1;
-  const std::size_t dot = path.rfind('.');
-  const bool has_extension = dot != std::string_view::npos && dot > name;
-  return std::string(path.substr(0, has_extension ? dot : path.size())).append(".").append(extension);
+  const std::string_view name = NameOf(path);
+  if (const std::size_t dot = name.rfind('.'); dot != 0 && dot != std::string_view::npos)
+    path.remove_suffix(name.size() - dot);
+  return std::string(path).append(".").append(extension);
 }
 
 void ConvertToPage(Platform& platform, const std::string& path) {

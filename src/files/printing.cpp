@@ -4,6 +4,7 @@
 
 #include "platform/busy.h"
 #include "platform/error_text.h"
+#include "platform/paths.h"
 #include "platform/runtime_error.h"
 #include "shell/common.h"
 #include "shell/editor.h"
@@ -98,7 +99,7 @@ std::vector<PrintedPiece> LayOutForPrint(std::string_view text, double page_widt
 }
 
 std::string PrintName(std::string_view path) {
-  const std::string_view name = path.substr(path.find_last_of("/\\") + 1);
+  const std::string_view name = NameOf(path);
   return name.empty() ? "Pelmar VEX" : std::string(name);
 }
 

@@ -6,7 +6,6 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/platform.h"
 #include "shell/main_view.h"
 
 namespace pelmar {

@@ -1,6 +1,7 @@
 // The pieces that every HTML-writing dialog builds its tags from. Texts are Windows-1250, written without escaping.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -8,6 +9,11 @@ namespace pelmar {
 
 // A blank, the name, "=" and the value between double quotes.
 std::string Attribute(std::string_view name, std::string_view value);
+// Nothing where there is no value.
+template <typename Text>
+std::string Attribute(std::string_view name, const std::optional<Text>& value) {
+  return value ? Attribute(name, std::string_view(*value)) : std::string();
+}
 
 // Text between double quotes.
 std::string Quoted(std::string_view text);

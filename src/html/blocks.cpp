@@ -40,8 +40,8 @@ Wrapping Heading(const HeadingSpec& spec) {
 Wrapping Font(const FontSpec& spec) {
   std::string open = "<FONT";
   if (spec.size) open += Attribute("SIZE", std::to_string(*spec.size));
-  if (spec.face) open += Attribute("FACE", *spec.face);
-  if (spec.color) open += Attribute("COLOR", *spec.color);
+  open += Attribute("FACE", spec.face);
+  open += Attribute("COLOR", spec.color);
   open += ">";
   // required: blanks around the sample only
   return {open, "</FONT>", open + std::string(" fontové písmo </FONT>"_w)};

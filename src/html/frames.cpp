@@ -10,26 +10,26 @@ void WrapInFrameset(TextBuffer& box, const FramesetSpec& spec) {
   std::string head("<!DOCTYPE HTML PUBLIC \"-//IETF/DTD HTML v.m//EN\">\r\n<HTML>\r\n <HEAD>\r\n");
   head += CodePageAndGenerator();
   head += "  <TITLE>" + spec.title + "</TITLE>\r\n </HEAD>\r\n <FRAMESET";
-  if (spec.rows) head += Attribute("ROWS", *spec.rows);
-  if (spec.cols) head += Attribute("ROWS", *spec.cols);  // required: columns are written as rows too
+  head += Attribute("ROWS", spec.rows);
+  head += Attribute("ROWS", spec.cols);  // required: columns are written as rows too
   head += ">\r\n </FRAMESET>\r\n <NOFRAMES>\r\n";
   PutAround(box, head, "Tento Prohlížeč nepodporuje Framesy"_w, "\r\n </NOFRAMES>\r\n</HTML>");
 }
 
 std::string FrameTag(const FrameSpec& spec) {
   std::string tag = "<FRAME" + Attribute("SRC", FileAddress(spec.path, spec.relative));
-  if (spec.name) tag += Attribute("NAME", *spec.name);
-  if (spec.align) tag += Attribute("ALIGN", *spec.align);
-  if (spec.border) tag += Attribute("FRAMEBORDER", *spec.border);
-  if (spec.border_color) tag += Attribute("BORDERCOLOR", *spec.border_color);
-  if (spec.spacing) tag += Attribute("FRAMESPACING", *spec.spacing);
+  tag += Attribute("NAME", spec.name);
+  tag += Attribute("ALIGN", spec.align);
+  tag += Attribute("FRAMEBORDER", spec.border);
+  tag += Attribute("BORDERCOLOR", spec.border_color);
+  tag += Attribute("FRAMESPACING", spec.spacing);
   // required: before the margins and behind them, the first without leading blanks
   if (spec.scrolling) tag += Attribute("SCROLLING", LeftTrimmed(*spec.scrolling));
   if (spec.margins) {
     tag += Attribute("MARGINHEIGHT", LeftTrimmed(spec.margins->height));
     tag += Attribute("MARGINWIDTH", LeftTrimmed(spec.margins->width));
   }
-  if (spec.scrolling) tag += Attribute("SCROLLING", *spec.scrolling);
+  tag += Attribute("SCROLLING", spec.scrolling);
   if (spec.noresize) tag += " NORESIZE";
   return tag += '>';
 }

@@ -16,7 +16,7 @@ constexpr std::array<std::string_view, 5> kAligns = {"top", "middle", "bottom", 
 
 std::string ImageTag(const ImageSpec& image) {
   std::string tag = "<IMG" + Attribute("SRC", FileAddress(image.path, image.relative));
-  if (image.alt) tag += Attribute("ALT", *image.alt);
+  tag += Attribute("ALT", image.alt);
   if (image.align) tag += Attribute("ALIGN", kAligns[static_cast<std::size_t>(*image.align)]);
   if (image.size) {
     tag += Attribute("WIDTH", LeftTrimmed(image.size->width));
@@ -27,8 +27,8 @@ std::string ImageTag(const ImageSpec& image) {
     tag += Attribute("HSPACE", LeftTrimmed(image.space->horizontal));
   }
   if (image.border) tag += Attribute("BORDER", LeftTrimmed(*image.border));
-  if (image.low_source) tag += Attribute("LOWSRC", *image.low_source);
-  if (image.map) tag += Attribute("USEMAP", *image.map);
+  tag += Attribute("LOWSRC", image.low_source);
+  tag += Attribute("USEMAP", image.map);
   return tag + ">";
 }
 

@@ -29,7 +29,7 @@ LinkTag LinkToDocument(const LinkSpec& link) {
   std::string target = link.target;
   if (link.fragment && !link.fragment->empty()) target += "#" + *link.fragment;
   std::string open = Opening(target);
-  if (link.frame) open += Attribute("TARGET", *link.frame);
+  open += Attribute("TARGET", link.frame);
   return {open + ">", "Odkaz na " + target};
 }
 

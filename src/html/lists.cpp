@@ -6,7 +6,6 @@
 #include "html/attributes.h"
 #include "shell/common.h"
 #include "shell/editor.h"
-#include "text/insert.h"
 
 namespace pelmar {
 namespace {
@@ -30,7 +29,7 @@ void MakeListOfSelection(Editor& e, ListKind kind) {
     e.platform.Message(MessageType::kOk, "Vyber text", "HTML list");
     return;
   }
-  ReplaceSelection(e.text, ListOfLines(e.text.SelText(), kind));
+  e.text.ReplaceSelection(ListOfLines(e.text.SelText(), kind));
 }
 
 }  // namespace

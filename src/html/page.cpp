@@ -12,19 +12,15 @@ std::string Line(std::string_view text) {
   return line += kCrLf;
 }
 
-std::string OptionalAttribute(std::string_view name, const std::optional<std::string>& value) {
-  return value ? Attribute(name, *value) : std::string();
-}
-
 std::string BodyTag(const PageSpec& spec) {
   std::string tag(" <BODY");
   // required: a file's URL for a bare name too
   if (spec.background) tag += Attribute("BACKGROUND", PathToFileUrl(*spec.background));
-  tag += OptionalAttribute("BGCOLOR", spec.bgcolor);
-  tag += OptionalAttribute("TEXT", spec.text);
-  tag += OptionalAttribute("LINK", spec.link);
-  tag += OptionalAttribute("VLINK", spec.vlink);
-  tag += OptionalAttribute("ALINK", spec.alink);
+  tag += Attribute("BGCOLOR", spec.bgcolor);
+  tag += Attribute("TEXT", spec.text);
+  tag += Attribute("LINK", spec.link);
+  tag += Attribute("VLINK", spec.vlink);
+  tag += Attribute("ALINK", spec.alink);
   return tag += '>';
 }
 

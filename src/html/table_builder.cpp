@@ -26,7 +26,7 @@ std::string OpeningTag(const TableSpec& spec) {
   std::string tag("<TABLE");
   tag += OptionalNumber("WIDTH", spec.width);
   tag += OptionalNumber("COLS", spec.cols);
-  if (spec.colspec) tag += Attribute("COLSPEC", *spec.colspec);
+  tag += Attribute("COLSPEC", spec.colspec);
   if (spec.align) tag += Attribute("ALIGN", Word(kAligns, *spec.align));
   if (spec.border) {
     tag += Attribute("FRAME", Word(kFrames, spec.border->frame));

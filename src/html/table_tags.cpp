@@ -32,11 +32,11 @@ std::string RowTag(const RowSpec& spec) { return "<TR" + Attributes(spec.alignme
 std::string CellTag(const CellSpec& spec) {
   std::string tag(spec.header ? "<TH" : "<TD");
   tag += Attributes(spec.alignment);
-  if (spec.bgcolor) tag += Attribute("BGCOLOR", *spec.bgcolor);
-  if (spec.colspan) tag += Attribute("COLSPAN", *spec.colspan);
-  if (spec.rowspan) tag += Attribute("ROWSPAN", *spec.rowspan);
+  tag += Attribute("BGCOLOR", spec.bgcolor);
+  tag += Attribute("COLSPAN", spec.colspan);
+  tag += Attribute("ROWSPAN", spec.rowspan);
   if (spec.nowrap) tag += " NOWRAP";
-  if (spec.width) tag += Attribute("WIDTH", *spec.width);
+  tag += Attribute("WIDTH", spec.width);
   return tag += '>';
 }
 

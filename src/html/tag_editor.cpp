@@ -194,7 +194,7 @@ bool AddAttributes(TextBuffer& document, const AttributeLists& attributes, Platf
     return false;
   }
   document.SetSelStart(place);
-  ReplaceSelection(document, AttributesText(attributes));
+  document.ReplaceSelection(AttributesText(attributes));
   return true;
 }
 

@@ -5,7 +5,6 @@
 #include "platform/runtime_error.h"
 #include "shell/common.h"
 #include "shell/temp_file.h"
-#include "text/insert.h"
 
 namespace pelmar {
 namespace {
@@ -34,7 +33,7 @@ std::optional<TempFile> TryTestPage(Editor& e, std::string_view extension, PageE
 
 void RemoveHtml(Editor& e) {
   const BusyPointer busy(e.platform);
-  ReplaceSelection(e.text, StripHtml(e.text.SelText()));
+  e.text.ReplaceSelection(StripHtml(e.text.SelText()));
 }
 
 void TestHtml(Editor& e) {

@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cstddef>
 
+#include "platform/color.h"
 #include "platform/runtime_error.h"
 #include "text/codepage.h"
 
@@ -25,6 +26,17 @@ PathSplit Split(std::string_view path) {
   const std::size_t separator = last == std::string_view::npos ? path.size() : last + 1;
   const std::size_t point = path.substr(separator - 1).find_last_of('.');
   return {separator, point == std::string_view::npos ? separator : separator + point};
+}
+
+std::string EncodedUrl(std::string_view path) {
+  std::string url = "file://";
+  for (const char byte : path) {
+    if (CodeOf(byte) >= 0x80 || byte == '%')
+      url += '%' + HexByte(CodeOf(byte));
+    else
+      url += byte;
+  }
+  return url;
 }
 
 }  // namespace
@@ -80,12 +92,27 @@ std::optional<std::string> PathFromFileUrl(std::string_view url) {
   return path;
 }
 
+std::string_view NameOf(std::string_view path) { return path.substr(path.find_last_of("\\/") + 1); }
+
 std::string JoinPath(std::string_view folder, std::string_view name) {
   std::string path(folder);
   const bool backslashed = folder.find('\\') != std::string_view::npos && folder.find('/') == std::string_view::npos;
   if (!EndsInSeparator(path)) path += backslashed ? '\\' : '/';
   path += name;
   return path;
+}
+
+std::string StoredPath(std::string_view path) {
+  if (!IsUtf8(path) && path.starts_with('/')) return EncodedUrl(path);
+  std::string text = FromUtf8(path);
+  const bool lossless = ToUtf8(text) == path;
+  const bool ambiguous = IsUtf8(text) && text != path;
+  return lossless && !ambiguous ? text : std::string(path);
+}
+
+std::string PathFromStored(std::string_view bytes) {
+  if (auto path = PathFromFileUrl(bytes)) return *path;
+  return IsUtf8(bytes) ? std::string(bytes) : ToUtf8(bytes);
 }
 
 }  // namespace pelmar

@@ -6,7 +6,6 @@
 #include "platform/paths.h"
 #include "platform/qt/application.h"
 #include "platform/qt/convert.h"
-#include "platform/runtime_error.h"
 #include "program/commands.h"
 #include "shell/windows/config.h"
 #include "shell/windows/start.h"

@@ -39,7 +39,7 @@ void Session::Load() {
   files_.recent.changed.Tell();
   view_.SetPlace({settings_.Left, settings_.Top, settings_.Width, settings_.Height});
   if (settings_.WindowState < 0 || settings_.WindowState > 2) settings_.WindowState = 0;
-  view_.SetWindowState(settings_.WindowState);
+  view_.SetWindowState(WindowMode{settings_.WindowState});
   ApplyLook();
   if (settings_.UserEmail.empty() || settings_.UserName.empty()) doors_.show_config();
   if (settings_.AutosnapDistance == 0) settings_.AutosnapDistance = kAutosnapDefault;
@@ -90,7 +90,7 @@ void Session::Act(std::string_view tail) {
 bool Session::Close() {
   Store(kRecoveryName, documents_.Text().Text());
   Store(kAllFilesName, AllFilesText(documents_));
-  settings_.WindowState = view_.WindowState();
+  settings_.WindowState = static_cast<std::int32_t>(view_.WindowState());
   StoreSettings();
   closed_ = MayEnd();
   return closed_;

@@ -52,7 +52,7 @@ std::string ReplaceAllText(std::string_view text, std::string_view find, std::st
   return done;
 }
 
-// By blocks whose count fits into a byte, so that the compiler compares many bytes at once; it is asked at each tick.
+// By blocks whose count fits into a byte, so that the compiler compares many bytes at once.
 std::int32_t CountLineFeeds(std::string_view text) {
   constexpr std::size_t kBlock = 128;
   std::int32_t count = 0;

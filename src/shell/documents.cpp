@@ -74,12 +74,7 @@ void Documents::ForgetPath() {
 void Documents::Restore(int tab, std::string text, const std::string& path) {
   SwitchTo(tab);
   current_path_ = path;
-  if (path.empty()) {
-    SetFace({}, {});
-  } else {
-    const std::size_t name = path.find_last_of("\\/");
-    SetFace(path.substr(name == std::string::npos ? 0 : name + 1), path);
-  }
+  SetFace(std::string(NameOf(path)), path);
   text_.SetText(std::move(text));
   Current().Path = path;
   Current().Modified = true;

@@ -8,9 +8,11 @@
 
 #include "platform/color.h"
 #include "platform/twips.h"
-#include "shell/settings_record.h"
 
 namespace pelmar {
+
+// The numbers of the settings record.
+enum class WindowMode : std::int32_t { kNormal, kMinimised, kMaximised };
 
 // The look of the main text box. The font's name is Windows-1250.
 struct EditorLook {
@@ -31,8 +33,8 @@ class MainPlace {
 
   virtual void SetPlace(const TwipsRect& place) = 0;
   [[nodiscard]] virtual TwipsRect Place() const = 0;
-  virtual void SetWindowState(int state) = 0;  // 0 normal, 1 minimised, 2 maximised
-  [[nodiscard]] virtual int WindowState() const = 0;
+  virtual void SetWindowState(WindowMode state) = 0;
+  [[nodiscard]] virtual WindowMode WindowState() const = 0;
   virtual void SetAlwaysOnTop(bool on_top) = 0;
 
   virtual void SetNormalState() = 0;
@@ -59,8 +61,7 @@ class MainLook {
   virtual void SetEditorItalic(bool italic) = 0;
   virtual void MarkBold(bool bold) = 0;
   virtual void MarkItalic(bool italic) = 0;
-  virtual void SetAlignment(int alignment) = 0;  // 0 left, 1 right, 2 centre
-  [[nodiscard]] virtual int Alignment() const = 0;
+  virtual void NextAlignment() = 0;  // left, right, centred, and left again
   [[nodiscard]] virtual EditorLook Look() const = 0;
 
  protected:

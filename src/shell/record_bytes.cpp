@@ -38,6 +38,13 @@ void RecordWriter::Number(std::uint64_t value, std::size_t size) {
   for (std::size_t i = 0; i < size; ++i) bytes_ += CharOf(static_cast<int>(value >> 8 * i & 0xFF));
 }
 
+void RecordWriter::String(std::string_view text, std::size_t count_size) {
+  const std::uint64_t most = ~std::uint64_t{0} >> (64 - 8 * count_size);
+  text = text.substr(0, most);
+  Number(text.size(), count_size);
+  Bytes(text);
+}
+
 std::string Sealed(std::string_view signature, std::string_view body) {
   RecordWriter writer;
   writer.Bytes(signature);

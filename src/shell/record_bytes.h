@@ -18,6 +18,8 @@ class RecordReader {
   // `size` bytes, at most 8.
   std::uint64_t Number(std::size_t size);
   std::string_view Bytes(std::uint64_t count);
+  // A count of `count_size` bytes, and as many bytes.
+  std::string_view String(std::size_t count_size) { return Bytes(Number(count_size)); }
 
   // A field went beyond the end.
   [[nodiscard]] bool Failed() const { return failed_; }
@@ -32,6 +34,8 @@ class RecordWriter {
  public:
   void Number(std::uint64_t value, std::size_t size);
   void Bytes(std::string_view bytes) { bytes_ += bytes; }
+  // As the reader's; cut to what the count can tell.
+  void String(std::string_view text, std::size_t count_size);
   std::string Take() && { return std::move(bytes_); }
 
  private:

@@ -9,13 +9,6 @@ namespace {
 
 constexpr std::size_t kNumber = 8;
 
-void PutString(RecordWriter& writer, std::string_view value) {
-  writer.Number(value.size(), kNumber);
-  writer.Bytes(value);
-}
-
-std::string TakeString(RecordReader& reader) { return std::string(reader.Bytes(reader.Number(kNumber))); }
-
 // 0 where the number is no place.
 int TakePlace(RecordReader& reader) {
   const std::uint64_t place = reader.Number(kNumber);
@@ -30,8 +23,8 @@ std::string RescueBytes(const RescueKind& kind, const RescueRecord& record) {
   writer.Number(static_cast<std::uint64_t>(record.shown), kNumber);
   for (const RescuedText& one : record.texts) {
     writer.Number(static_cast<std::uint64_t>(one.place), kNumber);
-    PutString(writer, one.origin);
-    PutString(writer, one.text);
+    writer.String(one.origin, kNumber);
+    writer.String(one.text, kNumber);
   }
   return Sealed(kind.signature, std::move(writer).Take());
 }
@@ -46,8 +39,8 @@ std::optional<RescueRecord> ReadRescue(const RescueKind& kind, std::string_view 
   while (!reader.AtEnd()) {
     RescuedText one;
     one.place = TakePlace(reader);
-    one.origin = TakeString(reader);
-    one.text = TakeString(reader);
+    one.origin = reader.String(kNumber);
+    one.text = reader.String(kNumber);
     if (reader.Failed() || one.place == 0) return std::nullopt;
     record.texts.push_back(std::move(one));
   }

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "shell/settings_record.h"
+#include "platform/paths.h"
 
 namespace pelmar {
 

@@ -1,16 +1,12 @@
 #include "shell/settings_record.h"
 
 #include <algorithm>
-#include <cstddef>
 
 #include "platform/paths.h"
 #include "shell/record_bytes.h"
-#include "text/codepage.h"
 
 namespace pelmar {
 namespace {
-
-constexpr std::size_t kLongestString = 65535;
 
 class Reader {
  public:
@@ -19,7 +15,7 @@ class Reader {
   void Read(std::int32_t& value) { value = static_cast<std::int32_t>(fields_.Number(4)); }
   void Read(std::uint8_t& value) { value = static_cast<std::uint8_t>(fields_.Number(1)); }
   void Read(bool& value) { value = fields_.Number(2) != 0; }
-  void Read(std::string& value) { value = fields_.Bytes(fields_.Number(2)); }
+  void Read(std::string& value) { value = fields_.String(2); }
 
  private:
   RecordReader fields_;
@@ -30,27 +26,12 @@ class Writer {
   void Write(std::int32_t value) { fields_.Number(static_cast<std::uint32_t>(value), 4); }
   void Write(std::uint8_t value) { fields_.Number(value, 1); }
   void Write(bool value) { fields_.Number(value ? 0xFFFF : 0, 2); }
-  void Write(std::string_view value) {
-    value = value.substr(0, kLongestString);
-    fields_.Number(value.size(), 2);
-    fields_.Bytes(value);
-  }
+  void Write(std::string_view value) { fields_.String(value, 2); }
   std::string Bytes() && { return std::move(fields_).Take(); }
 
  private:
   RecordWriter fields_;
 };
-
-std::string EncodedUrl(std::string_view path) {
-  std::string url = "file://";
-  for (const char byte : path) {
-    if (CodeOf(byte) >= 0x80 || byte == '%')
-      url += '%' + HexByte(CodeOf(byte));
-    else
-      url += byte;
-  }
-  return url;
-}
 
 }  // namespace
 
@@ -115,19 +96,6 @@ void ApplySettingsDefaults(SettingsRecord& record) {
   constexpr std::int32_t kFarthest = 1'000'000;
   for (std::int32_t* length : {&record.Width, &record.Height, &record.Top, &record.Left, &record.AutosnapDistance})
     *length = std::clamp(*length, -kFarthest, kFarthest);
-}
-
-std::string StoredPath(std::string_view path) {
-  if (!IsUtf8(path) && path.starts_with('/')) return EncodedUrl(path);
-  std::string text = FromUtf8(path);
-  const bool lossless = ToUtf8(text) == path;
-  const bool ambiguous = IsUtf8(text) && text != path;
-  return lossless && !ambiguous ? text : std::string(path);
-}
-
-std::string PathFromStored(std::string_view bytes) {
-  if (auto path = PathFromFileUrl(bytes)) return *path;
-  return IsUtf8(bytes) ? std::string(bytes) : ToUtf8(bytes);
 }
 
 }  // namespace pelmar

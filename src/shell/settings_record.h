@@ -30,7 +30,7 @@ struct SettingsRecord {
   std::int32_t AutosnapDistance = 0;  // twips
   std::string LockPassword;
   std::array<std::string, 10> RecentFiles;  // newest first
-  std::int32_t WindowState = 0;             // 0 normal, 1 minimised, 2 maximised
+  std::int32_t WindowState = 0;             // a WindowMode
   bool LineCounting = false;
 
   bool operator==(const SettingsRecord&) const = default;
@@ -45,11 +45,5 @@ std::string SettingsBytes(const SettingsRecord& record);
 // Repairs that the start makes before it uses the record: the name of the font, equal colours, lengths that lead off
 // every desktop.
 void ApplySettingsDefaults(SettingsRecord& record);
-
-// How a path lies in a file of Windows-1250 text: in the page where that loses nothing, else as it is in UTF-8. Reading
-// takes what is valid UTF-8 for UTF-8; a path whose page bytes would be mistaken for it is kept as UTF-8 too. A path
-// that is no UTF-8 itself is kept as a URL.
-std::string StoredPath(std::string_view path);
-std::string PathFromStored(std::string_view bytes);
 
 }  // namespace pelmar

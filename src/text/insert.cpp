@@ -4,8 +4,6 @@
 
 namespace pelmar {
 
-void ReplaceSelection(TextBuffer& box, std::string_view text) { box.ReplaceSelection(text); }
-
 void InsertAtCaret(TextBuffer& box, std::string_view text) {
   box.SetSelLength(0);
   box.ReplaceSelection(text);

@@ -1,5 +1,5 @@
-// How the commands of menus and dialogs put text into a box: over the selection, at the caret, around the selection or
-// in the place of all. Texts are Windows-1250, written without any escaping.
+// How the commands of menus and dialogs put text into a box, besides its own ReplaceSelection: at the caret, around the
+// selection or in the place of all. Texts are Windows-1250, written without any escaping.
 #pragma once
 
 #include <string_view>
@@ -7,9 +7,6 @@
 #include "text/text_buffer.h"
 
 namespace pelmar {
-
-// Text over the selection; the caret stands behind it.
-void ReplaceSelection(TextBuffer& box, std::string_view text);
 
 // Collapses the selection to its start and inserts there. What was selected stays, behind the new text.
 void InsertAtCaret(TextBuffer& box, std::string_view text);

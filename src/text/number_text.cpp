@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <ranges>
 #include <system_error>
 
 namespace pelmar {
@@ -50,19 +51,25 @@ std::size_t NumberLength(std::string_view text, char mark) {
 
 // Whether a number out of range, written with a point, is nearer to zero than any other.
 bool IsTiny(std::string_view number) {
-  const std::size_t exponent = number.find_first_of("eE");
-  if (exponent != std::string_view::npos) return number.substr(exponent + 1).starts_with('-');
-  return number.substr(0, number.find('.')).find_first_of("123456789") == std::string_view::npos;
+  const std::string_view mantissa = number.substr(0, number.find_first_of("eE"));
+  std::string_view digits = number.substr(std::min(mantissa.size() + 1, number.size()));
+  const bool negative = digits.starts_with('-');
+  if (digits.starts_with('-') || digits.starts_with('+')) digits.remove_prefix(1);
+  double exponent = 0;  // of any size
+  for (const char digit : digits) exponent = 10 * exponent + (digit - '0');
+  const auto point = static_cast<double>(std::min(mantissa.find('.'), mantissa.size()));
+  const auto first = static_cast<double>(mantissa.find_first_of("123456789"));
+  return point - first + (negative ? -exponent : exponent) < 0;
 }
 
-// The value of a text of the form of a number, written with a point; nothing where it is too large.
+// The value of a text that begins with the form of a number, written with a point; 0 where it doesn't, nothing where
+// the number is too large.
 std::optional<double> ValueOf(std::string_view number) {
   if (number.starts_with('+')) number.remove_prefix(1);
   double value = 0;
   const std::errc error = std::from_chars(number.data(), number.data() + number.size(), value).ec;
-  if (error == std::errc()) return value;
-  if (IsTiny(number)) return 0.0;
-  return std::nullopt;
+  if (error == std::errc::result_out_of_range) return IsTiny(number) ? std::optional(0.0) : std::nullopt;
+  return value;
 }
 
 }  // namespace
@@ -110,12 +117,13 @@ std::string FixedText(double number, int decimals) {
 
 double LeadingNumber(std::string_view text) {
   text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
-  for (std::size_t length = NumberLength(text, '.'); length > 0; length = NumberLength(text, '.')) {
-    text = text.substr(0, length);
-    if (const auto value = ValueOf(text)) return *value;
-    text.remove_suffix(1);  // a shorter part may be small enough
-  }
-  return 0;
+  text = text.substr(0, NumberLength(text, '.'));
+  if (const auto value = ValueOf(text)) return *value;
+  // Of the parts of a number that is too large, the shorter ones are small enough.
+  const auto value_of = [text](std::size_t length) { return ValueOf(text.substr(0, length)); };
+  const auto lengths = std::views::iota(std::size_t{0}, text.size());
+  const auto fits = [&](std::size_t length) { return value_of(length).has_value(); };
+  return value_of(*std::ranges::partition_point(lengths, fits) - 1).value_or(0);
 }
 
 std::optional<double> ParseNumber(std::string_view text) {

@@ -39,9 +39,12 @@ void Splice(std::vector<T>& all, std::size_t from, std::size_t to, const std::ve
 
 }  // namespace
 
-void TextLayout::Lay(const TextBuffer& buffer, const LayoutRules& rules) {
-  buffer_ = &buffer;
+void TextLayout::Lay(const LayoutRules& rules) {
   rules_ = rules;
+  LayAll();
+}
+
+void TextLayout::LayAll() {
   rows_.assign(1, 0);
   std::size_t line = 0;
   for (std::size_t row = NextRow(0, line); row != kNoRow; row = NextRow(row, line)) rows_.push_back(row);
@@ -51,7 +54,7 @@ void TextLayout::Lay(const TextBuffer& buffer, const LayoutRules& rules) {
 void TextLayout::SetWidth(std::int64_t width) {
   if (width == rules_.width) return;
   rules_.width = width;
-  if (rules_.wrap) Lay(*buffer_, rules_);
+  if (rules_.wrap) LayAll();
 }
 
 // The start of the row behind the one that starts at `start` in line `line`, which moves on with the rows.
@@ -72,7 +75,7 @@ std::size_t TextLayout::WrapAt(std::size_t start, std::size_t end) const {
   std::int64_t x = 0;
   std::size_t at = start;
   for (; at < end; ++at) {
-    const std::int64_t next = After(x, text[at]);
+    const std::int64_t next = rules_.advances.After(x, text[at]);
     if (next > rules_.width) break;
     x = next;
   }
@@ -86,7 +89,7 @@ std::size_t TextLayout::WrapAt(std::size_t start, std::size_t end) const {
 RowsChange TextLayout::Update(const TextChange& change) {
   const std::size_t old_count = rows_.size();
   if (change.whole) {
-    Lay(*buffer_, rules_);
+    LayAll();
     return {0, old_count, rows_.size()};
   }
   // A CR before the change may have got or lost its LF, and a shorter word at the beginning of a row may fit into the
@@ -149,16 +152,12 @@ std::int64_t TextLayout::RowLeft(std::size_t row) const {
   return left / kUnitsPerPixel * kUnitsPerPixel;
 }
 
-std::int64_t TextLayout::After(std::int64_t x, char ch) const {
-  return ch == '\t' ? NextTab(x) : x + rules_.advances.of[Index(ch)];
-}
-
 std::int64_t TextLayout::Walk(Mark from, std::size_t to) const {
   const std::string_view text = buffer_->Text();
   while (from.pos < to) {
     const std::size_t tab = std::min(text.substr(0, to).find('\t', from.pos), to);
     from.x += Sum(rules_.advances, text.substr(from.pos, tab - from.pos));
-    if (tab < to) from.x = NextTab(from.x);
+    if (tab < to) from.x = rules_.advances.After(from.x, '\t');
     from.pos = tab + 1;
   }
   return from.x;
@@ -183,7 +182,7 @@ std::size_t TextLayout::CharAt(std::size_t row, std::int64_t x) const {
   const auto behind = std::upper_bound(first, last, x, [](std::int64_t v, const Mark& mark) { return v < mark.x; });
   if (behind != first) from = *std::prev(behind);
   for (; from.pos < end; ++from.pos) {
-    const std::int64_t next = After(from.x, buffer_->Text()[from.pos]);
+    const std::int64_t next = rules_.advances.After(from.x, buffer_->Text()[from.pos]);
     if (next > x) break;
     from.x = next;
   }

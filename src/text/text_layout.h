@@ -5,6 +5,7 @@
 #pragma once
 
 #include <array>
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -15,11 +16,20 @@
 namespace pelmar {
 
 inline constexpr std::int64_t kUnitsPerPixel = 64;
+inline double ExactPixels(std::int64_t units) { return static_cast<double>(units) / kUnitsPerPixel; }
+inline int WholePixelsBelow(std::int64_t units) { return static_cast<int>(units / kUnitsPerPixel); }
+inline std::int64_t UnitsBelow(double pixels) { return static_cast<std::int64_t>(pixels * kUnitsPerPixel); }
+inline std::int64_t NearestUnits(double pixels) { return std::llround(pixels * kUnitsPerPixel); }
 
 // How far each of the 256 codes moves on. TAB goes to the next multiple of `tab_stop`, which is above 0.
 struct AdvanceTable {
   std::array<std::int32_t, 256> of{};
   std::int32_t tab_stop = 1;
+
+  // Where a character ends that begins at `x`, both counted from the row's beginning.
+  [[nodiscard]] std::int64_t After(std::int64_t x, char ch) const {
+    return ch == '\t' ? (x / tab_stop + 1) * tab_stop : x + of[static_cast<unsigned char>(ch)];
+  }
 };
 
 enum class TextAlign : std::uint8_t { kLeft, kRight, kCentre };
@@ -40,11 +50,11 @@ struct RowsChange {
 
 class TextLayout {
  public:
-  // Until the first Lay there is one row, without width.
+  // The buffer must outlive the layout. Until the first Lay there is one row, without width.
   explicit TextLayout(const TextBuffer& buffer) : buffer_(&buffer) {}
 
-  // Lays the whole text out. The buffer must outlive the layout or the next Lay.
-  void Lay(const TextBuffer& buffer, const LayoutRules& rules);
+  // Lays the whole text out.
+  void Lay(const LayoutRules& rules);
   // Another width of the window; lays out anew only where the text wraps.
   void SetWidth(std::int64_t width);
   void SetAlign(TextAlign align) { rules_.align = align; }
@@ -67,8 +77,6 @@ class TextLayout {
 
   // The distance of a caret stop from the row's beginning. A blank that hangs over the edge has no width.
   [[nodiscard]] std::int64_t XOf(std::size_t row, std::size_t pos) const;
-  // Where a character ends that begins at `x`, both counted from the row's beginning.
-  [[nodiscard]] std::int64_t After(std::int64_t x, char ch) const;
   // The caret stop nearest to `x`, and the character that covers it (the row's end behind the last one).
   [[nodiscard]] std::size_t StopAt(std::size_t row, std::int64_t x) const;
   [[nodiscard]] std::size_t CharAt(std::size_t row, std::int64_t x) const;
@@ -80,12 +88,10 @@ class TextLayout {
     std::int64_t x = 0;
   };
 
+  void LayAll();
   [[nodiscard]] std::size_t NextRow(std::size_t start, std::size_t& line) const;
   [[nodiscard]] std::size_t WrapAt(std::size_t start, std::size_t end) const;
   [[nodiscard]] std::int64_t Walk(Mark from, std::size_t to) const;
-  [[nodiscard]] std::int64_t NextTab(std::int64_t x) const {
-    return (x / rules_.advances.tab_stop + 1) * rules_.advances.tab_stop;
-  }
   [[nodiscard]] std::int64_t MeasureRow(std::size_t row, Mark from, std::vector<Mark>& marks) const;
   void MeasureAll();
   void Remeasure(const RowsChange& rows, const TextChange& change, std::size_t same_from);

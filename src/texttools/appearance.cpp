@@ -64,7 +64,7 @@ void AddAppearanceCommands(Editor& editor, MainView& view) {
     const EditorLook look = view.Look();
     view.SetEditorColors(InvertedColor(look.fore_color), InvertedColor(look.back_color));
   });
-  commands.Add("Mnu_Change_Alingment", [&view] { view.SetAlignment((view.Alignment() + 1) % 3); });
+  commands.Add("Mnu_Change_Alingment", [&view] { view.NextAlignment(); });
   for (const std::string_view name : {"mnu_Text_Dos", "Dos"}) commands.Add(name, [&view] { ApplyDosLook(view); });
   commands.Add("mnubasic", [&view] { ApplyBasicLook(view); });
 }

@@ -35,8 +35,8 @@ struct Desk {
     std::string told;
     for (const std::string& call : view.calls) told += call + ", ";
     told += editor.documents.Title() + ", " + Told(view.look);
-    for (const int part : {view.place.left, view.place.top, view.place.width, view.place.height, view.state,
-                           editor.settings.AutosnapDistance})
+    for (const int part : {view.place.left, view.place.top, view.place.width, view.place.height,
+                           static_cast<int>(view.state), editor.settings.AutosnapDistance})
       told += ' ' + std::to_string(part);
     return told;
   }
@@ -51,7 +51,7 @@ struct SessionTest : testing::Test, Desk {};
 TEST_F(SessionTest, AFirstStartRunsTheStepsInOrder) {
   config = [this] {
     editor.settings.UserName = "Eva";
-    view.state = 1;
+    view.state = WindowMode::kMinimised;
     session.StoreSettings();
   };
   EXPECT_EQ(Start(""),
@@ -119,7 +119,7 @@ TEST_F(SessionTest, CloseWritesTheFilesBeforeItAsks) {
   platform.files[kSettings] = std::string(200, 'T');
   editor.text.SetText("text\r\n");
   view.place = {150, 300, 9000, 6000};  // all as kStored has it
-  view.state = 2;
+  view.state = WindowMode::kMaximised;
   view.look = {"Font", 1, 2, 11.6, true, false};
   editor.documents.SwitchTo(2);
   editor.text.SetText("second");

@@ -14,14 +14,14 @@ class PlainView : public MainView {
  public:
   std::vector<std::string> calls;
   TwipsRect place;
-  int state = 0;
+  WindowMode state = WindowMode::kNormal;
   int alignment = 0;
   EditorLook look;
 
   void SetPlace(const TwipsRect& p) override { Set(place, p, "place"); }
   TwipsRect Place() const override { return place; }
-  void SetWindowState(int s) override { Set(state, s, "state"); }
-  int WindowState() const override { return state; }
+  void SetWindowState(WindowMode s) override { Set(state, s, "state"); }
+  WindowMode WindowState() const override { return state; }
   void SetAlwaysOnTop(bool on_top) override { calls.push_back(on_top ? "top" : "not top"); }
   void SetEditorColors(Color fore, Color back) override {
     look.fore_color = fore;
@@ -33,8 +33,7 @@ class PlainView : public MainView {
   void SetEditorItalic(bool italic) override { Set(look.italic, italic, "italic"); }
   void MarkBold(bool bold) override { calls.push_back(bold ? "bold mark" : "no bold mark"); }
   void MarkItalic(bool italic) override { calls.push_back(italic ? "italic mark" : "no italic mark"); }
-  void SetAlignment(int a) override { alignment = a; }
-  int Alignment() const override { return alignment; }
+  void NextAlignment() override { alignment = (alignment + 1) % 3; }
   void SetNormalState() override { calls.push_back("normal"); }
   void SetOuterSize(int width, int height) override {
     place.width = width;

@@ -8,7 +8,6 @@
 
 #include "support/marked_text.h"
 #include "support/random_source.h"
-#include "text/insert.h"
 
 namespace pelmar {
 namespace {
@@ -160,15 +159,6 @@ TEST(TextBuffer, TakesAViewOfItselfAndForgetsTheOldestOfALongHistory) {
   EXPECT_TRUE(b.Undo() && b.Undo());  // 15, 30 and 30 MB are more than it holds: the first is gone
   EXPECT_EQ(b.Text()[0], 'a');
   EXPECT_FALSE(b.Undo());
-}
-
-TEST(Insert, WrapsTheSelectionOrPutsTheSampleIn) {
-  TextBuffer box;
-  for (const auto& [before, after] : {std::pair{"x|abc[y", "x<B>abc</B>|y"}, {"x|y", "xsample|y"}}) {
-    PutMarked(box, before);
-    WrapSelection(box, "<B>", "</B>", "sample");
-    EXPECT_EQ(Marked(box), after);
-  }
 }
 
 }  // namespace

@@ -98,7 +98,7 @@ TEST(TextLayout, FollowsAnyEditAsASlowLayoutHasIt) {
     TextBuffer buffer;
     buffer.SetText(round < 2 ? std::string(9000, 'b') + '\t' + std::string(3000, 'a') : piece(200));
     TextLayout layout(buffer);
-    layout.Lay(buffer, rules);
+    layout.Lay(rules);
     std::vector<std::string> painted;  // by the rows that are told
     const Listening heard = buffer.OnChange([&](const TextChange& change) {
       const RowsChange told = layout.Update(change);
@@ -130,7 +130,7 @@ TEST(TextLayout, ALongRowIsMeasuredBeyond32Bits) {
   TextBuffer buffer;
   buffer.SetText(std::string(4096000, 'w'));
   TextLayout layout(buffer);
-  layout.Lay(buffer, Rules(500, false));
+  layout.Lay(Rules(500, false));
   EXPECT_EQ(layout.XOf(0, 4095999), std::int64_t{4095999} * 10 * kUnitsPerPixel);
 }
 
@@ -182,7 +182,7 @@ TEST(CaretMover, KeepsItsAimAndItsRow) {
     TextBuffer buffer;
     PutMarked(buffer, c.before);
     TextLayout layout(buffer);
-    layout.Lay(buffer, Rules(30));
+    layout.Lay(Rules(30));
     CaretMover mover(layout);
     std::string places;
     bool select = false;

@@ -10,7 +10,6 @@
 #include "platform/qt/placement.h"
 #include "platform/qt/svg_icon.h"
 #include "platform/twips.h"
-#include "shell/stand_alone.h"
 #include "shell/windows/warning_label.h"
 #include "ui_poznamka.h"
 
@@ -200,7 +199,7 @@ NotesSurroundings Poznamka::Measures() const {
   now.mode = around_.mode;
   now.docked = ui_->Dock->isChecked();
   now.snap_distance = around_.settings.AutosnapDistance;
-  const bool beside_main = now.docked && now.mode == StartMode::kEditor && now.main_state != 1;
+  const bool beside_main = now.docked && now.mode == StartMode::kEditor && now.main_state != WindowMode::kMinimised;
   now.screen = beside_main ? ScreenTwips(now.main) : ScreenTwips(*this);
   now.narrowest = now.notes.width - TwipsOf(width() - minimumWidth());
   return now;

@@ -22,7 +22,7 @@ void Shift::HScroll1_Change(int value) {
 }
 
 bool Shift::Put() {
-  ReplaceSelection(document_, ui_->Text1->Buffer().Text());
+  document_.ReplaceSelection(ui_->Text1->Buffer().Text());
   return true;
 }
 

@@ -26,7 +26,6 @@ QString Title() { return QStringLiteral("Zpráva stránky"); }
 
 // The engine's own question, asked as a page's.
 constexpr char kLeaving[] = "Are you sure you want to leave this page? Changes that you made may not be saved.";
-constexpr int kLongestShown = 300;      // characters of an address in a question
 constexpr int kMostUnasked = 2;         // questions before a page may be silenced
 constexpr int kLongestQuestion = 2000;  // characters of a page's own words
 
@@ -81,9 +80,7 @@ bool WebEnginePage::LeavesTheDisk(const QUrl& address) const { return !IsOfTheNe
 void WebEnginePage::AskToLeaveTheDisk(const QUrl& address) {
   const auto ask = [this, address] {
     const QString question = QStringLiteral("Stránka odkazuje na internet. Otevřít adresu ?\n\n%1");
-    const QString shown = address.toString(QUrl::FullyEncoded);
-    const bool all = shown.size() <= kLongestShown;
-    const QString text = question.arg(all ? shown : shown.left(kLongestShown) + QStringLiteral(" ..."));
+    const QString text = question.arg(Shortened(address.toString(QUrl::FullyEncoded), kLongestShown));
     if (AskInBox(QStringLiteral("Pelmar VEX"), text, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) && on_leave)
       on_leave(address);
   };
@@ -183,8 +180,8 @@ bool WebEnginePage::Ask(QDialog& question) {
 
 bool WebEnginePage::AskInBox(const QString& title, const QString& text, QMessageBox::StandardButtons buttons,
                              QMessageBox::StandardButton default_button) {
-  const QString shown = text.size() <= kLongestQuestion ? text : text.left(kLongestQuestion) + QStringLiteral(" ...");
-  QMessageBox box(QMessageBox::NoIcon, title, shown, buttons, QWebEngineView::forPage(this));
+  QMessageBox box(QMessageBox::NoIcon, title, Shortened(text, kLongestQuestion), buttons,
+                  QWebEngineView::forPage(this));
   box.setTextFormat(Qt::PlainText);
   box.setDefaultButton(default_button);
   return Ask(box);
@@ -203,7 +200,7 @@ bool WebEnginePage::javaScriptConfirm(const QUrl&, const QString& text) {
 bool WebEnginePage::javaScriptPrompt(const QUrl&, const QString& text, const QString& initial, QString* result) {
   QInputDialog dialog(QWebEngineView::forPage(this));
   dialog.setWindowTitle(Title());
-  dialog.setLabelText(text.left(kLongestQuestion));
+  dialog.setLabelText(Shortened(text, kLongestQuestion));
   dialog.setTextValue(initial);
   const bool accepted = Ask(dialog);
   *result = dialog.textValue();

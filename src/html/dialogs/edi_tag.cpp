@@ -29,7 +29,7 @@ void EdiTag::Run() {
 }
 
 bool EdiTag::Put() {
-  ReplaceSelection(document_, TagText(FieldText(*ui_->Text1), ui_->Attributes->Lists().Rows()));
+  document_.ReplaceSelection(TagText(FieldText(*ui_->Text1), ui_->Attributes->Lists().Rows()));
   return true;
 }
 

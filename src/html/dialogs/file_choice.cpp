@@ -7,7 +7,6 @@
 #include <QLineEdit>
 
 #include "html/attributes.h"
-#include "platform/qt/controls/drive_list.h"
 #include "platform/qt/controls/file_browser.h"
 #include "platform/qt/controls/file_list.h"
 #include "platform/qt/controls/folder_list.h"

@@ -59,8 +59,8 @@ SeznamDef::SeznamDef(TextBuffer& document, QWidget* parent)
 }
 
 bool SeznamDef::Put() {
-  const AttributeLists rows = lists_->Rows();
-  return Insert(BuildDefinitionList(rows.names, rows.values));
+  const auto [terms, definitions] = lists_->Rows();
+  return Insert(BuildDefinitionList(terms, definitions));
 }
 
 }  // namespace pelmar

@@ -6,7 +6,6 @@
 #include "platform/qt/controls/first_choice.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/svg_icon.h"
-#include "text/codepage.h"
 #include "ui_template.h"
 
 namespace pelmar {

@@ -6,6 +6,7 @@
 #include "platform/platform.h"
 #include "platform/qt/controls/fragment_dialog.h"
 #include "shell/main_view.h"
+#include "shell/settings_record.h"
 
 namespace Ui {
 class Vytvor;

@@ -11,7 +11,6 @@
 
 #include "html/browser_texts.h"
 #include "html/windows/web_address.h"
-#include "platform/paths.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/outer_geometry.h"
 #include "platform/qt/placement.h"
@@ -24,7 +23,6 @@ namespace {
 
 constexpr int kTimerInterval = 5;                 // ms
 constexpr qint64 kLongestPage = qint64{4} << 20;  // bytes that are looked at
-constexpr int kLongestShown = 300;                // characters of an address in a message
 constexpr std::string_view kOpenFilter = "Všechno (*.*)|*.*|htm (*.htm)|*.htm|html (*.html)|*.html";
 
 QLabel* AddPanel(QStatusBar& bar, const char* name, const QString& accessible_name, int stretch) {
@@ -148,7 +146,7 @@ void FrmBrowser::Load(const QString& address) {
   if (url.isValid() && !MayBeShown(url)) {
     const QString refusal = QStringLiteral(
         "Takovou adresu interní browser neotvírá:\r\n%1\r\n\r\nOtvírá http, https, file, data a about:blank.");
-    platform_.Message(MessageType::kOkInfo, Utf8FromQString(refusal.arg(address.trimmed().left(kLongestShown))),
+    platform_.Message(MessageType::kOkInfo, Utf8FromQString(refusal.arg(Shortened(address.trimmed(), kLongestShown))),
                       "Interní browser");
     return;
   }

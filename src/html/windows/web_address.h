@@ -29,4 +29,11 @@ inline bool MayBeShown(const QUrl& url) {
   return url.toString() == QLatin1String("about:blank");
 }
 
+inline constexpr int kLongestShown = 300;  // characters of an address in a message
+
+// A text for a message, with dots where it is longer.
+inline QString Shortened(const QString& text, int most) {
+  return text.size() <= most ? text : text.left(most) + QLatin1String(" ...");
+}
+
 }  // namespace pelmar

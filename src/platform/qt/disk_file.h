@@ -1,6 +1,6 @@
 // Files by the system's own calls, so that the errno a person is told is that of the call which failed.
 // Writing never cuts an old file before the new content is safe; see ReplaceFile. Reading takes regular files only:
-// a device or a pipe could block for ever. Paths are in the system's encoding, UTF-8.
+// a device or a pipe could block for ever. A path is the bytes that the system gave.
 #pragma once
 
 #include <sys/types.h>

@@ -21,8 +21,7 @@ constexpr std::array<const char*, 32> kControlNames = {
     "NUL", "SOH", "STX", "ETX", "EOT", "ENQ", "ACK", "BEL", "BS",  "HT", "LF",  "VT",  "FF", "CR", "SO", "SI",
     "DLE", "DC1", "DC2", "DC3", "DC4", "NAK", "SYN", "ETB", "CAN", "EM", "SUB", "ESC", "FS", "GS", "RS", "US"};
 
-std::int32_t ToUnits(qreal pixels) { return static_cast<std::int32_t>(qRound(pixels * kUnitsPerPixel)); }
-qreal ToPixels(std::int64_t units) { return static_cast<qreal>(units) / kUnitsPerPixel; }
+std::int32_t AdvanceOf(qreal pixels) { return static_cast<std::int32_t>(NearestUnits(pixels)); }
 
 QRawFont SignFace(const QFont& font) {
   const qreal size = QRawFont::fromFont(font).pixelSize();
@@ -79,7 +78,7 @@ void GlyphTable::FillFromFont(const QFont& font) {
     }
     cells_[code] = {glyphs[0], 0};
     const QList<QPointF> advances = faces_[0].advancesForGlyphIndexes(glyphs);
-    if (!advances.isEmpty()) advances_.of[code] = ToUnits(advances[0].x());
+    if (!advances.isEmpty()) advances_.of[code] = AdvanceOf(advances[0].x());
   }
 }
 
@@ -90,11 +89,11 @@ void GlyphTable::FillFromFallback(const QFont& font, std::size_t code) {
   const QTextLine line = layout.createLine();
   layout.endLayout();
   const QList<QGlyphRun> runs = layout.glyphRuns();
-  if (line.isValid()) advances_.of[code] = ToUnits(line.naturalTextWidth());
+  if (line.isValid()) advances_.of[code] = AdvanceOf(line.naturalTextWidth());
   if (!runs.isEmpty() && !runs[0].glyphIndexes().isEmpty())
     cells_[code] = {runs[0].glyphIndexes()[0], FaceIndex(runs[0].rawFont())};
   const qreal size = faces_[0].pixelSize();
-  if (advances_.of[code] <= 0) advances_.of[code] = ToUnits(size / 2);
+  if (advances_.of[code] <= 0) advances_.of[code] = AdvanceOf(size / 2);
 }
 
 std::uint8_t GlyphTable::FaceIndex(const QRawFont& face) {
@@ -108,7 +107,7 @@ void GlyphTable::FillSigns(const QFont& font) {
   sign_face_ = SignFace(font);
   for (std::size_t code = 0; code < 256; ++code) {
     if (!IsControlSign(static_cast<unsigned char>(code))) continue;
-    advances_.of[code] = ToUnits(SignWidth(static_cast<unsigned char>(code)));
+    advances_.of[code] = AdvanceOf(SignWidth(static_cast<unsigned char>(code)));
   }
 }
 
@@ -122,7 +121,7 @@ qreal GlyphTable::SignWidth(unsigned char code) const {
 
 qreal GlyphTable::WidthAlone(char ch) const {
   const auto code = static_cast<unsigned char>(ch);
-  return ch == '\t' ? SignWidth(code) : ToPixels(advances_.of[code]);
+  return ch == '\t' ? SignWidth(code) : ExactPixels(advances_.of[code]);
 }
 
 void GlyphTable::DrawAlone(QPainter& painter, QPointF at, char ch, const QColor& colour) const {
@@ -131,7 +130,7 @@ void GlyphTable::DrawAlone(QPainter& painter, QPointF at, char ch, const QColor&
 }
 
 std::int64_t GlyphTable::EndOf(std::int64_t x, std::string_view text) const {
-  for (const char ch : text) x = ch == '\t' ? NextTab(x) : x + advances_.of[static_cast<unsigned char>(ch)];
+  for (const char ch : text) x = advances_.After(x, ch);
   return x;
 }
 
@@ -139,18 +138,14 @@ void GlyphTable::Draw(QPainter& painter, QPointF origin, std::int64_t x, std::st
                       const QColor& colour) const {
   for (const char ch : text) {
     const auto code = static_cast<unsigned char>(ch);
-    if (ch == '\t') {
-      x = NextTab(x);
-      continue;
-    }
     if (IsControlSign(code)) {
-      DrawSign(painter, origin + QPointF(ToPixels(x), 0), code, colour);
-    } else if (ch != ' ' || underline_ || strike_out_) {
+      DrawSign(painter, origin + QPointF(ExactPixels(x), 0), code, colour);
+    } else if (ch != '\t' && (ch != ' ' || underline_ || strike_out_)) {
       Run& run = runs_[cells_[code].face];
       run.glyphs.push_back(cells_[code].glyph);
-      run.places.push_back(origin + QPointF(ToPixels(x), ascent_));
+      run.places.push_back(origin + QPointF(ExactPixels(x), ascent_));
     }
-    x += advances_.of[code];
+    x = advances_.After(x, ch);
   }
   DrawRuns(painter, colour);
 }

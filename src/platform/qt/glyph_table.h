@@ -46,7 +46,6 @@ class GlyphTable {
     std::vector<QPointF> places;
   };
 
-  [[nodiscard]] std::int64_t NextTab(std::int64_t x) const { return (x / advances_.tab_stop + 1) * advances_.tab_stop; }
   void FillFromFont(const QFont& font);
   void FillFromFallback(const QFont& font, std::size_t code);
   void FillSigns(const QFont& font);

@@ -8,8 +8,6 @@
 #include <algorithm>
 #include <chrono>
 
-#include "platform/twips.h"
-
 namespace pelmar {
 namespace {
 

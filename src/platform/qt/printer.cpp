@@ -8,7 +8,6 @@
 #include <QStandardPaths>
 #include <algorithm>
 #include <cerrno>
-#include <cmath>
 
 #include "platform/qt/convert.h"
 #include "platform/qt/glyph_table.h"
@@ -39,18 +38,15 @@ class QtPaper : public Paper {
     return std::max<std::size_t>(1, static_cast<std::size_t>(device_.height() / glyphs_.RowHeight()));
   }
   [[nodiscard]] double EndOf(double x, std::string_view text) const override {
-    return ToDots(glyphs_.EndOf(ToUnits(x), text));
+    return ExactPixels(glyphs_.EndOf(NearestUnits(x), text));
   }
   void Put(std::size_t line, double x, std::string_view text) override {
     const QPointF row(0, static_cast<qreal>(line) * glyphs_.RowHeight());
-    glyphs_.Draw(painter_, row, ToUnits(x), text, Qt::black);
+    glyphs_.Draw(painter_, row, NearestUnits(x), text, Qt::black);
   }
   void NewPage() override { device_.newPage(); }
 
  private:
-  static std::int64_t ToUnits(double dots) { return std::llround(dots * kUnitsPerPixel); }
-  static double ToDots(std::int64_t units) { return static_cast<double>(units) / kUnitsPerPixel; }
-
   QPagedPaintDevice& device_;
   QPainter& painter_;
   GlyphTable glyphs_;

@@ -14,11 +14,8 @@
 #include "platform/qt/convert.h"
 #include "platform/qt/outer_geometry.h"
 #include "platform/qt/svg_icon.h"
-#include "platform/twips.h"
 #include "shell/status.h"
-#include "shell/window_geometry.h"
 #include "shell/windows/status_timer.h"
-#include "text/codepage.h"
 
 namespace pelmar {
 namespace {
@@ -29,7 +26,6 @@ constexpr QSize kSmallest(480, 320);
 constexpr QSize kFirstSize(820, 560);
 
 // Left, right, centre.
-constexpr Qt::Alignment kAlignments[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
 
 // The paths of the files of a drop.
 std::vector<std::string> DroppedFiles(const QMimeData* mime) {
@@ -196,7 +192,7 @@ void MainWindow::FitToFrame() {
   fitted_ = true;
   // The icon is rendered when it is set, which can wait until the window is there.
   ShowProgramIcon();
-  placement_.Begin({}, window_state_ == 2);
+  placement_.Begin({}, window_state_ == WindowMode::kMaximised);
 }
 
 TwipsRect MainWindow::Wanted(const TwipsRect& now) const {
@@ -225,11 +221,11 @@ TwipsRect MainWindow::Place() const {
   return {TwipsOf(outer.left()), TwipsOf(outer.top()), TwipsOf(outer.width()), TwipsOf(outer.height())};
 }
 
-void MainWindow::SetWindowState(int state) { window_state_ = state; }
+void MainWindow::SetWindowState(WindowMode state) { window_state_ = state; }
 
-int MainWindow::WindowState() const {
-  if (isMinimized()) return 1;
-  return isMaximized() ? 2 : 0;
+WindowMode MainWindow::WindowState() const {
+  if (isMinimized()) return WindowMode::kMinimised;
+  return isMaximized() ? WindowMode::kMaximised : WindowMode::kNormal;
 }
 
 // A window manager may give a maximised window another frame than a normal one, and tells only later. What is asked for
@@ -288,11 +284,9 @@ void MainWindow::SetEditorItalic(bool italic) {
 void MainWindow::MarkBold(bool bold) { menus_->Action("mnuEditBold")->setChecked(bold); }
 void MainWindow::MarkItalic(bool italic) { menus_->Action("mnuitalic")->setChecked(italic); }
 
-void MainWindow::SetAlignment(int alignment) { text_->setAlignment(kAlignments[static_cast<std::size_t>(alignment)]); }
-
-int MainWindow::Alignment() const {
-  const auto* const found = std::find(std::begin(kAlignments), std::end(kAlignments), text_->Alignment());
-  return static_cast<int>(found - std::begin(kAlignments));
+void MainWindow::NextAlignment() {
+  const Qt::Alignment now = text_->Alignment();
+  text_->setAlignment(now == Qt::AlignLeft ? Qt::AlignRight : now == Qt::AlignRight ? Qt::AlignHCenter : Qt::AlignLeft);
 }
 
 EditorLook MainWindow::Look() const {
@@ -307,8 +301,8 @@ EditorLook MainWindow::Look() const {
 
 void MainWindow::ShowMain() {
   if (isVisible()) return BringToFront(*this);
-  if (window_state_ == 1) return showMinimized();
-  if (window_state_ == 2) return showMaximized();
+  if (window_state_ == WindowMode::kMinimised) return showMinimized();
+  if (window_state_ == WindowMode::kMaximised) return showMaximized();
   show();
 }
 

@@ -50,8 +50,8 @@ class MainWindow : public QMainWindow, public MainView {
 
   void SetPlace(const TwipsRect& place) override;
   [[nodiscard]] TwipsRect Place() const override;
-  void SetWindowState(int state) override;
-  [[nodiscard]] int WindowState() const override;
+  void SetWindowState(WindowMode state) override;
+  [[nodiscard]] WindowMode WindowState() const override;
   void SetAlwaysOnTop(bool on_top) override;
   void SetNormalState() override;
   void SetOuterSize(int width, int height) override;
@@ -62,8 +62,7 @@ class MainWindow : public QMainWindow, public MainView {
   void SetEditorItalic(bool italic) override;
   void MarkBold(bool bold) override;
   void MarkItalic(bool italic) override;
-  void SetAlignment(int alignment) override;
-  [[nodiscard]] int Alignment() const override;
+  void NextAlignment() override;
   [[nodiscard]] EditorLook Look() const override;
 
  protected:
@@ -98,7 +97,7 @@ class MainWindow : public QMainWindow, public MainView {
   FileTab* tabs_ = nullptr;
   TextBox* text_ = nullptr;
   StatusStrip* bar_ = nullptr;
-  int window_state_ = 0;
+  WindowMode window_state_ = WindowMode::kNormal;
   TwipsRect wanted_place_;
   bool wants_position_ = true;  // and not the size alone
   Placement placement_;

@@ -5,7 +5,6 @@
 
 #include "platform/qt/convert.h"
 #include "platform/twips.h"
-#include "shell/window_geometry.h"
 
 namespace pelmar {
 namespace {

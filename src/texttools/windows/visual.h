@@ -8,6 +8,7 @@
 
 #include "platform/qt/controls/dialog_window.h"
 #include "shell/main_view.h"
+#include "shell/settings_record.h"
 
 class QRadioButton;
 

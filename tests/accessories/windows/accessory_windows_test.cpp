@@ -539,7 +539,7 @@ TEST_F(PoznamkaTest, TheTickDocksAndSnapsAndRestsWhileNothingMoves) {
   EXPECT_EQ(timer->interval(), 10);
   const TwipsRect beside{4500, 1500, screen.width - 4500, 4500};
   EXPECT_TRUE(QTest::qWaitFor([&] { return place() == beside; }, 1000));
-  view.state = 2;
+  view.state = WindowMode::kMaximised;
   EXPECT_TRUE(QTest::qWaitFor([&] { return place().top == 0 && place().height == screen.height; }, 1000));
   EXPECT_EQ(place().left + place().width, screen.width);
   EXPECT_EQ(notes->width(), notes->minimumWidth());

@@ -62,11 +62,10 @@ TEST_F(SmallWindows, AStartAndACloseLeaveTheSettingsAsTheyWere) {
   main.close();
   EXPECT_EQ(QApplication::exec(), EXIT_SUCCESS);
   EXPECT_TRUE(ReadSettings(settings) == stored);
-  for (const int alignment : {0, 1, 2}) {
-    main.SetAlignment(alignment);
-    EXPECT_EQ(main.Alignment(), alignment);
+  for (const Qt::AlignmentFlag alignment : {Qt::AlignRight, Qt::AlignHCenter, Qt::AlignLeft}) {
+    main.NextAlignment();
+    EXPECT_EQ(main.Text().Alignment(), alignment);
   }
-  EXPECT_EQ(main.Text().Alignment(), Qt::AlignHCenter);
 }
 
 TEST_F(SmallWindows, TheWelcomeLeadsToTheEditorHoweverItIsLeft) {

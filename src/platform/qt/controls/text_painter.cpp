@@ -3,11 +3,6 @@
 #include <algorithm>
 
 namespace pelmar {
-namespace {
-
-std::int64_t ToUnits(qreal pixels) { return static_cast<std::int64_t>(pixels * kUnitsPerPixel); }
-
-}  // namespace
 
 void TextPainter::OpenGap(std::size_t row, std::size_t pos, qreal width) {
   gap_row_ = row;
@@ -15,16 +10,14 @@ void TextPainter::OpenGap(std::size_t row, std::size_t pos, qreal width) {
   gap_ = width;
 }
 
-qreal TextPainter::X(std::size_t row, std::size_t pos) const {
-  return static_cast<qreal>(layout_.XOf(row, pos)) / kUnitsPerPixel;
-}
+qreal TextPainter::X(std::size_t row, std::size_t pos) const { return ExactPixels(layout_.XOf(row, pos)); }
 
 void TextPainter::PaintRow(std::size_t row, QPointF origin, qreal left, qreal right) const {
-  const QPointF begin = origin + QPointF(static_cast<qreal>(layout_.RowLeft(row)) / kUnitsPerPixel, 0);
+  const QPointF begin = origin + QPointF(ExactPixels(layout_.RowLeft(row)), 0);
   const qreal gap = row == gap_row_ ? gap_ : 0;
   // One character more on either side: a slanted letter reaches over its cell.
-  std::size_t from = layout_.CharAt(row, std::max<std::int64_t>(ToUnits(left - begin.x() - gap), 0));
-  std::size_t to = layout_.CharAt(row, std::max<std::int64_t>(ToUnits(right - begin.x()), 0));
+  std::size_t from = layout_.CharAt(row, std::max<std::int64_t>(UnitsBelow(left - begin.x() - gap), 0));
+  std::size_t to = layout_.CharAt(row, std::max<std::int64_t>(UnitsBelow(right - begin.x()), 0));
   from -= from > layout_.RowStart(row) ? 1 : 0;
   to = std::min(to + 2, layout_.RowEnd(row));
 
@@ -45,7 +38,7 @@ void TextPainter::PaintSelection(std::size_t row, TextSpan selected, QPointF beg
   qreal right = X(row, selected.end);
   if (with_break) {
     if (selected.begin == selected.end) left = X(row, end);
-    right = X(row, end) + static_cast<qreal>(glyphs_.Advances().of[' ']) / kUnitsPerPixel;
+    right = X(row, end) + ExactPixels(glyphs_.Advances().of[' ']);
   }
   painter_.fillRect(
       QRectF(QPointF(begin.x() + left, begin.y()), QPointF(begin.x() + right, begin.y() + glyphs_.RowHeight())),

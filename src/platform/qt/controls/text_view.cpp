@@ -3,15 +3,9 @@
 #include <algorithm>
 
 namespace pelmar {
-namespace {
-
-// Rounded down, so that a letter never hides the caret before it.
-int ToPixels(std::int64_t units) { return static_cast<int>(units / kUnitsPerPixel); }
-
-}  // namespace
 
 void TextView::Show(const TextBuffer& buffer) {
-  buffer_ = &buffer;
+  layout_ = TextLayout(buffer);
   stale_ = true;
 }
 
@@ -47,7 +41,7 @@ const TextLayout& TextView::Layout() {
   if (!stale_) return layout_;
   SetWindowWidth(window_width_());
   rules_.advances = Glyphs().Advances();
-  layout_.Lay(*buffer_, rules_);
+  layout_.Lay(rules_);
   stale_ = false;
   return layout_;
 }
@@ -60,7 +54,7 @@ const GlyphTable& TextView::Glyphs() {
 QSize TextView::ContentSize() {
   const TextLayout& layout = Layout();
   // Without wrapping the caret has to find room behind the widest row.
-  const int width = ToPixels(layout.ContentWidth() + kUnitsPerPixel - 1);
+  const int width = WholePixelsBelow(layout.ContentWidth() + kUnitsPerPixel - 1);
   return {width + 2 * kMargin, static_cast<int>(layout.RowCount()) * Glyphs().RowHeight() + 2 * kMargin};
 }
 
@@ -75,7 +69,8 @@ TextPlace TextView::PlaceAt(QPoint point) {
 
 int TextView::StopX(std::size_t row, std::size_t pos) {
   const TextLayout& layout = Layout();
-  return kMargin + ToPixels(layout.RowLeft(row) + layout.XOf(row, pos));
+  // So that a letter never hides the caret before it.
+  return kMargin + WholePixelsBelow(layout.RowLeft(row) + layout.XOf(row, pos));
 }
 
 QRect TextView::CharRect(std::size_t pos) {

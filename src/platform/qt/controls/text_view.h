@@ -24,7 +24,7 @@ class TextView {
 
   // `window_width` is asked when the text is laid out afresh; SetWindowWidth tells of changes in between.
   TextView(const TextBuffer& buffer, std::function<int()> window_width)
-      : buffer_(&buffer), window_width_(std::move(window_width)), layout_(buffer) {}
+      : window_width_(std::move(window_width)), layout_(buffer) {}
 
   void Show(const TextBuffer& buffer);
   void SetFont(const QFont& font);
@@ -54,7 +54,6 @@ class TextView {
   QRect CharRect(std::size_t pos);
 
  private:
-  const TextBuffer* buffer_;
   std::function<int()> window_width_;
   QFont font_;
   std::unique_ptr<GlyphTable> glyphs_;
