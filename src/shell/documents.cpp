@@ -86,10 +86,10 @@ void Documents::ShowPathInTitle() { SetTitle(current_path_, false); }
 void Documents::MakeCurrent(const std::string& path) {
   current_path_ = path;
   target_.Prime(path);  // required: its error leaves the rest undone
-  ShowPathInTitle();
-  SetFace(FilePart(path, 2) + "." + FilePart(path, 3), path);
   Current().Path = path;
   Current().Modified = false;
+  ShowPathInTitle();
+  SetFace(FilePart(path, 2) + "." + FilePart(path, 3), path);
 }
 
 void Documents::MakeCurrent(const std::string& path, std::string text) {

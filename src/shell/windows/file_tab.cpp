@@ -11,6 +11,7 @@ namespace {
 constexpr int kTallestTab = 160;
 constexpr int kCaptionMargin = 6;
 constexpr int kCorner = 4;
+constexpr int kDot = 6;
 
 }  // namespace
 
@@ -34,8 +35,22 @@ void FileTab::SetFace(int tab, const TabFace& face) {
   captions_[static_cast<std::size_t>(tab - 1)] = caption;
   setTabText(tab - 1, QString(caption).replace(QLatin1Char('&'), QLatin1String("&&")));
   setTabToolTip(tab - 1, Utf8ToQString(face.ToolTipText));
-  const QString spoken = caption.isEmpty() ? QStringLiteral("nový soubor") : caption;
-  setAccessibleTabName(tab - 1, QStringLiteral("Dokument %1: %2").arg(tab).arg(spoken));
+  NameTab(tab);
+}
+
+void FileTab::SetUnsaved(int tab, bool unsaved) {
+  const auto at = static_cast<std::size_t>(tab - 1);
+  if (unsaved_[at] == unsaved) return;
+  unsaved_[at] = unsaved;
+  NameTab(tab);
+  update();
+}
+
+void FileTab::NameTab(int tab) {
+  const auto at = static_cast<std::size_t>(tab - 1);
+  const QString spoken = captions_[at].isEmpty() ? QStringLiteral("nový soubor") : captions_[at];
+  const QString state = unsaved_[at] ? QStringLiteral(", neuloženo") : QString();
+  setAccessibleTabName(tab - 1, QStringLiteral("Dokument %1: %2%3").arg(tab).arg(spoken, state));
 }
 
 void FileTab::SetStripWidth(int width) {
@@ -73,7 +88,13 @@ void FileTab::PaintTab(QPainter& painter, int index) const {
   painter.save();
   painter.translate(rect.right() + 1, rect.top());
   painter.rotate(90);
-  const QRect turned(kCaptionMargin, 0, rect.height() - 2 * kCaptionMargin, rect.width());
+  QRect turned(kCaptionMargin, 0, rect.height() - 2 * kCaptionMargin, rect.width());
+  if (unsaved_[static_cast<std::size_t>(index)]) {
+    turned.setRight(turned.right() - kDot - kCaptionMargin);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(palette().brush(selected ? QPalette::Text : QPalette::ButtonText));
+    painter.drawEllipse(QRectF(rect.height() - kCaptionMargin - kDot, (rect.width() - kDot) / 2.0, kDot, kDot));
+  }
   painter.setPen(palette().color(unnamed    ? QPalette::PlaceholderText
                                  : selected ? QPalette::Text
                                             : QPalette::ButtonText));

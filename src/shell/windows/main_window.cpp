@@ -112,10 +112,16 @@ void MainWindow::AddViewCommands() {
 
 void MainWindow::FollowDocuments() {
   Documents& documents = editor_.documents;
-  const auto show_title = [this] { setWindowTitle(PlainTitle(editor_.documents.Title())); };
+  const auto show_title = [this] {
+    setWindowTitle(PlainTitle(editor_.documents.Title()));
+    for (int tab = 1; tab <= kTabCount; ++tab) tabs_->SetUnsaved(tab, editor_.documents.IsUnsaved(tab));
+  };
   heard_ = {documents.title_changed.Add(show_title),
             documents.face_changed.Add([this](int tab) { tabs_->SetFace(tab, editor_.documents.Face(tab)); }),
-            documents.tab_selected.Add([this](int tab) { tabs_->setCurrentIndex(tab - 1); }),
+            documents.tab_selected.Add([this, show_title](int tab) {
+              tabs_->setCurrentIndex(tab - 1);
+              show_title();
+            }),
             files_.recent.changed.Add([this] { toolbar_->ShowRecentFiles(); })};
   show_title();
 }
