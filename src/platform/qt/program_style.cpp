@@ -16,6 +16,8 @@ namespace {
 // of two luminances, from 1 for the same to 21 for black on white.
 constexpr double kReadable = 4.5;
 constexpr double kVisible = 3.7;  // above the 3 that a sign needs, since its edge is blurred
+constexpr double kSeen = 3;       // what is off is to be seen, and to be told from what is on
+constexpr double kMarked = 1.5;   // a ground that a text stands on
 constexpr int kSteps = 20;
 
 double Luminance(const QColor& color) {
@@ -104,11 +106,22 @@ QSize ProgramStyle::sizeFromContents(ContentsType type, const QStyleOption* opti
 
 void ProgramStyle::polish(QPalette& palette) {
   QProxyStyle::polish(palette);
+  const auto text = [&palette](QPalette::ColorRole role) { return palette.color(QPalette::Active, role); };
+  const auto lift = [&](QPalette::ColorRole role, QPalette::ColorRole ground, double wanted) {
+    const QColor on = palette.color(QPalette::Disabled, ground);
+    if (Contrast(on, palette.color(QPalette::Disabled, role)) < wanted)
+      palette.setColor(QPalette::Disabled, role, OfContrast(wanted, on, text(QPalette::WindowText)));
+  };
   // A search puts its fields off just when the person decides by what stands in them.
-  const QColor ground = palette.color(QPalette::Disabled, QPalette::Base);
-  if (Contrast(ground, palette.color(QPalette::Disabled, QPalette::Text)) >= kReadable) return;
-  palette.setColor(QPalette::Disabled, QPalette::Text,
-                   OfContrast(kReadable, ground, palette.color(QPalette::Active, QPalette::Text)));
+  lift(QPalette::Text, QPalette::Base, kReadable);
+  const QColor marked = OfContrast(kMarked, palette.color(QPalette::Disabled, QPalette::Base), text(QPalette::Text));
+  palette.setColor(QPalette::Disabled, QPalette::Highlight, marked);
+  palette.setColor(QPalette::Disabled, QPalette::HighlightedText, OfContrast(kReadable, marked, text(QPalette::Text)));
+  lift(QPalette::WindowText, QPalette::Window, kSeen);
+  lift(QPalette::ButtonText, QPalette::Button, kSeen);
+  // Some desktops with a dark look leave it black. Tabs show it on the button's colour, which is the harder ground.
+  const QColor hint = OfContrast(kReadable, text(QPalette::Button), text(QPalette::ButtonText));
+  palette.setColor(QPalette::PlaceholderText, hint);
 }
 
 void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
