@@ -17,7 +17,8 @@ namespace {
 constexpr double kReadable = 4.5;
 constexpr double kVisible = 3.7;  // above the 3 that a sign needs, since its edge is blurred
 constexpr double kSeen = 3;       // what is off is to be seen, and to be told from what is on
-constexpr double kMarked = 1.5;   // a ground that a text stands on
+constexpr double kLine = 2;
+constexpr double kMarked = 1.5;  // a ground that a text stands on
 constexpr int kSteps = 20;
 
 double Luminance(const QColor& color) {
@@ -122,6 +123,8 @@ void ProgramStyle::polish(QPalette& palette) {
   // Some desktops with a dark look leave it black. Tabs show it on the button's colour, which is the harder ground.
   const QColor hint = OfContrast(kReadable, text(QPalette::Button), text(QPalette::ButtonText));
   palette.setColor(QPalette::PlaceholderText, hint);
+  // The lines of the program's own controls, on a window's ground or a field's.
+  palette.setColor(QPalette::Mid, OfContrast(kLine, text(QPalette::Window), text(QPalette::WindowText)));
 }
 
 void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
