@@ -150,6 +150,7 @@ bool DialogWindow::GoToNextField() {
 void DialogWindow::showEvent(QShowEvent* event) {
   if (event->spontaneous()) return QDialog::showEvent(event);
   if (!prepared_) Prepare();
+  setAttribute(Qt::WA_KeyboardFocusChange);  // what has the keyboard shows it from the first moment on
   QDialog::showEvent(event);
   BeginInFirstField();
 }
@@ -163,7 +164,6 @@ void DialogWindow::BeginInFirstField() {
 
 void DialogWindow::Prepare() {
   prepared_ = true;
-  setAttribute(Qt::WA_KeyboardFocusChange);  // what has the keyboard shows it from the first moment on
   ShowProgramIcon();
   first_field_ = focusWidget();
   for (QWidget* next = this; !first_field_ && (next = next->nextInFocusChain()) != this;)
