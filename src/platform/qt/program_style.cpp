@@ -3,7 +3,9 @@
 #include <QAbstractItemView>
 #include <QMenuBar>
 #include <QPainter>
+#include <QPushButton>
 #include <QStyleOptionMenuItem>
+#include <QToolButton>
 #include <algorithm>
 #include <cmath>
 
@@ -48,6 +50,11 @@ QColor OfContrast(double wanted, const QColor& ground, const QColor& text) {
 }
 
 bool HasKeyboard(const QWidget* widget) { return widget != nullptr && widget->hasFocus() && widget->isActiveWindow(); }
+
+// Enter presses it instead of the window's default button.
+bool TakesEnter(const QWidget* widget) {
+  return qobject_cast<const QPushButton*>(widget) || qobject_cast<const QToolButton*>(widget);
+}
 
 void DrawKeyboardFrame(QPainter& painter, const QStyleOption& option) {
   painter.setPen(option.palette.color(QPalette::Highlight));
@@ -130,6 +137,8 @@ void ProgramStyle::polish(QPalette& palette) {
 void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                  const QWidget* widget) const {
   const auto* box = qstyleoption_cast<const QStyleOptionButton*>(option);
+  if (element == PE_PanelButtonCommand && box != nullptr && widget != nullptr)
+    return DrawPushButton(*box, *painter, *widget);
   if ((element != PE_IndicatorCheckBox && element != PE_IndicatorRadioButton) || box == nullptr)
     return QProxyStyle::drawPrimitive(element, option, painter, widget);
   // The usual style darkens the ground by a third or more for the rim, which on a dark one can't be seen.
@@ -139,6 +148,19 @@ void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
                                 box->palette.color(QPalette::Active, QPalette::WindowText));
   rimmed.palette.setColor(QPalette::Window, rim.lighter(darkens));
   QProxyStyle::drawPrimitive(element, &rimmed, painter, widget);
+}
+
+void ProgramStyle::DrawPushButton(QStyleOptionButton button, QPainter& painter, const QWidget& widget) const {
+  if (const QWidget* focus = widget.window()->focusWidget(); focus != &widget && TakesEnter(focus))
+    button.features &= ~QStyleOptionButton::DefaultButton;
+  QProxyStyle::drawPrimitive(PE_PanelButtonCommand, &button, &painter, &widget);
+  if (!button.state.testFlag(State_HasFocus) || !button.state.testFlag(State_KeyboardFocusChange)) return;
+  painter.save();
+  painter.setPen(QPen(button.palette.color(QPalette::Highlight), 2));
+  painter.setBrush(Qt::NoBrush);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.drawRoundedRect(QRectF(button.rect).adjusted(2, 2, -2, -2), 2, 2);
+  painter.restore();
 }
 
 void ProgramStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <QProxyStyle>
+#include <QStyleOptionButton>
 
 namespace pelmar {
 
@@ -29,6 +30,9 @@ class ProgramStyle : public QProxyStyle {
                    const QWidget* widget) const override;
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                           const QWidget* widget) const override;
+
+ private:
+  void DrawPushButton(QStyleOptionButton button, QPainter& painter, const QWidget& widget) const;
 };
 
 }  // namespace pelmar

@@ -171,6 +171,12 @@ void DialogWindow::Prepare() {
   FitInto(RoomOnScreen(*this));
   CentreOnScreen(*this);
   LabelBoxes(*this);
+  // The default button looks like it only while no other button would take Enter.
+  connect(qApp, &QApplication::focusChanged, this, [this] {
+    if (!isVisible()) return;  // nor while it ends
+    for (QPushButton* button : findChildren<QPushButton*>())
+      if (button->isDefault()) button->update();
+  });
   for (QWidget* widget : findChildren<QWidget*>()) {
     if (!HoldsValue(*widget)) continue;
     widget->installEventFilter(this);
