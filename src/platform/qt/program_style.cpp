@@ -182,7 +182,14 @@ void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOption
                                       const QWidget* widget) const {
   QProxyStyle::drawComplexControl(control, option, painter, widget);
   // A bar that stands for a value; those of lists and texts never have the keyboard.
-  if (control == CC_ScrollBar && HasKeyboard(widget)) DrawKeyboardFrame(*painter, *option);
+  if (control != CC_ScrollBar || widget == nullptr || widget->focusPolicy() == Qt::NoFocus) return;
+  const QPalette& palette = option->palette;
+  painter->setPen(widget->isEnabled() ? OfContrast(kVisible, palette.color(QPalette::Window),
+                                                   palette.color(QPalette::Active, QPalette::WindowText))
+                                      : palette.color(QPalette::Mid));
+  painter->setBrush(Qt::NoBrush);
+  painter->drawRect(subControlRect(CC_ScrollBar, option, SC_ScrollBarSlider, widget).adjusted(0, 0, -1, -1));
+  if (HasKeyboard(widget)) DrawKeyboardFrame(*painter, *option);
 }
 
 }  // namespace pelmar
