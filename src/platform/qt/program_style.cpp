@@ -1,6 +1,7 @@
 #include "platform/qt/program_style.h"
 
 #include <QAbstractItemView>
+#include <QDialogButtonBox>
 #include <QMenuBar>
 #include <QPainter>
 #include <QPushButton>
@@ -72,8 +73,9 @@ QIcon ProgramStyle::standardIcon(StandardPixmap picture, const QStyleOption* opt
 
 int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                             QStyleHintReturn* answer) const {
-  // The buttons of message boxes look like those of the program's own dialogs.
+  // The buttons of message boxes look and stand like those of the program's own dialogs.
   if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+  if (hint == SH_DialogButtonLayout) return QDialogButtonBox::WinLayout;
   // A turn of the wheel over the tabs is not a choice; the document behind would change, and its undo be gone.
   if (hint == SH_TabBar_AllowWheelScrolling) return 0;
   return QProxyStyle::styleHint(hint, option, widget, answer);
@@ -132,6 +134,10 @@ void ProgramStyle::polish(QPalette& palette) {
   palette.setColor(QPalette::PlaceholderText, hint);
   // The lines of the program's own controls, on a window's ground or a field's.
   palette.setColor(QPalette::Mid, OfContrast(kLine, text(QPalette::Window), text(QPalette::WindowText)));
+  // Tips stay light yellow on some desktops with a dark look.
+  if (Luminance(text(QPalette::Window)) > Luminance(text(QPalette::WindowText))) return;
+  palette.setColor(QPalette::ToolTipBase, text(QPalette::Window));
+  palette.setColor(QPalette::ToolTipText, text(QPalette::WindowText));
 }
 
 void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
