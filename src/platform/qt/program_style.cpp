@@ -179,6 +179,12 @@ void ProgramStyle::drawControl(ControlElement element, const QStyleOption* optio
     chosen.state |= State_Sunken;
     return QProxyStyle::drawControl(element, &chosen, painter, widget);
   }
+  if (const auto* box = qstyleoption_cast<const QStyleOptionComboBox*>(option); element == CE_ComboBoxLabel && box) {
+    QStyleOptionComboBox fitting(*box);
+    const int room = subControlRect(CC_ComboBox, box, SC_ComboBoxEditField, widget).width() - 2;
+    fitting.currentText = box->fontMetrics.elidedText(box->currentText, Qt::ElideMiddle, room);
+    return QProxyStyle::drawControl(element, &fitting, painter, widget);
+  }
   QProxyStyle::drawControl(element, option, painter, widget);
   if (element == CE_ShapedFrame && qobject_cast<const QAbstractItemView*>(widget) && HasKeyboard(widget))
     DrawKeyboardFrame(*painter, *option);

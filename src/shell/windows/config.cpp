@@ -12,6 +12,7 @@ Config::Config(SettingsRecord& settings, Platform& platform, std::function<void(
       store_(std::move(store)),
       ui_(std::make_unique<Ui::Config>()) {
   ui_->setupUi(this);
+  ScaleLetters(*this);
   connect(ui_->Command1, &QPushButton::clicked, this, &Config::Command1_Click);
 }
 

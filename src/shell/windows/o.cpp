@@ -15,6 +15,7 @@ constexpr std::string_view kName = "Orvilanths Pelmar VEX";
 O::O(const SettingsRecord& settings, Platform& platform, QWidget* parent)
     : DialogWindow(parent), settings_(settings), platform_(platform), ui_(std::make_unique<Ui::O>()) {
   ui_->setupUi(this);
+  ScaleLetters(*this);
   ui_->Label2->setMouseTracking(true);
   ui_->Text1->SetText(ToBytes(ReleaseNotes()));
   connect(ui_->Command1, &QPushButton::clicked, this,

@@ -21,6 +21,7 @@ bool IsModifier(int key) {
 Start::Start(SettingsRecord& settings, Doors doors)
     : DialogWindow(nullptr), settings_(settings), doors_(std::move(doors)), ui_(std::make_unique<Ui::Start>()) {
   ui_->setupUi(this);
+  ScaleLetters(*this);
   ui_->Label8->setContentsMargins(kShadow, kShadow, 0, 0);
   ui_->Check1->setChecked(!settings_.ShowStart);
   const QList<QWidget*> widgets = findChildren<QWidget*>();

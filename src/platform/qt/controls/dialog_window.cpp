@@ -83,6 +83,17 @@ bool LiesBehindTabs(const QWidget* widget) {
 
 }  // namespace
 
+void ScaleLetters(QWidget& form) {
+  constexpr double kPlain = 9;
+  const double scale = QFontInfo(QApplication::font()).pointSizeF() / kPlain;
+  for (QWidget* widget : form.findChildren<QWidget*>()) {
+    QFont letters = widget->font();
+    if (!widget->testAttribute(Qt::WA_SetFont) || (letters.resolveMask() & QFont::SizeResolved) == 0) continue;
+    letters.setPointSizeF(letters.pointSizeF() * scale);
+    widget->setFont(letters);
+  }
+}
+
 DialogWindow::DialogWindow(QWidget* parent) : QDialog(parent) {}
 
 void DialogWindow::Present() {
