@@ -12,7 +12,7 @@ namespace pelmar {
 Attr::Attr(TextBuffer& document, Platform& platform, QWidget* parent)
     : FragmentDialog(document, parent, &Ui::Attr::Command3, &Ui::Attr::Command4), platform_(platform) {
   for (QComboBox* box : {ui_->Attributes->NameBox(), ui_->Attributes->ValueBox()})
-    OnEnter(box, [this] { ui_->Attributes->Lists().AddByEnter(); });
+    OnEnter(box, [this] { ui_->Attributes->Lists().Add(); });
 }
 
 bool Attr::Put() { return AddAttributes(document_, ui_->Attributes->Lists().Rows(), platform_); }
@@ -20,7 +20,7 @@ bool Attr::Put() { return AddAttributes(document_, ui_->Attributes->Lists().Rows
 Tagy::Tagy(TextBuffer& document, QWidget* parent)
     : FragmentDialog(document, parent, &Ui::Tagy::Command3, &Ui::Tagy::Command4) {
   for (QComboBox* box : {ui_->Attributes->NameBox(), ui_->Attributes->ValueBox()})
-    OnEnter(box, [this] { ui_->Attributes->Lists().AddByEnter(); });
+    OnEnter(box, [this] { ui_->Attributes->Lists().Add(); });
 }
 
 void Tagy::InsertCustomTag() {
