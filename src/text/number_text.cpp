@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
-#include <ranges>
 #include <system_error>
 
 namespace pelmar {
@@ -120,10 +119,12 @@ double LeadingNumber(std::string_view text) {
   text = text.substr(0, NumberLength(text, '.'));
   if (const auto value = ValueOf(text)) return *value;
   // Of the parts of a number that is too large, the shorter ones are small enough.
-  const auto value_of = [text](std::size_t length) { return ValueOf(text.substr(0, length)); };
-  const auto lengths = std::views::iota(std::size_t{0}, text.size());
-  const auto fits = [&](std::size_t length) { return value_of(length).has_value(); };
-  return value_of(*std::ranges::partition_point(lengths, fits) - 1).value_or(0);
+  std::size_t fits = 0, too_long = text.size();
+  while (fits + 1 < too_long) {
+    const std::size_t middle = fits + (too_long - fits) / 2;
+    (ValueOf(text.substr(0, middle)) ? fits : too_long) = middle;
+  }
+  return ValueOf(text.substr(0, fits)).value_or(0);
 }
 
 std::optional<double> ParseNumber(std::string_view text) {

@@ -26,6 +26,8 @@ class RowDelegate : public QStyledItemDelegate {
 
 Analytic::Analytic(const TextBuffer& document, QWidget* parent) : FormDialog(parent), document_(document) {
   ui_->List1->setItemDelegate(new RowDelegate(ui_->List1));
+  // A row with the name of a control character, and the bar beside it.
+  ui_->List1->setMinimumWidth(30 * ui_->List1->fontMetrics().averageCharWidth() + 40);
   timer1_.setObjectName(QStringLiteral("Timer1"));
   timer1_.setInterval(2000);
   ConnectEvents();

@@ -16,16 +16,16 @@ ItemListDialog<Form>::ItemListDialog(TextBuffer& document, ListKind kind, QWidge
   EnableWith(ui->Check1, {ui->Text2});
   QObject::connect(ui->Command1, &QPushButton::clicked, this, [this] { Command1_Click(); });
   QObject::connect(ui->Command2, &QPushButton::clicked, this, [this] { Command2_Click(); });
-  this->OnEnter(ui->Text1, [this] {
-    Command1_Click();
-    this->ui_->Text1->selectAll();
-  });
+  this->OnEnter(ui->Text1, [this] { Command1_Click(); });
+  RemoveByKey(*ui->List1, *ui->Command2);
 }
 
 template <class Form>
 void ItemListDialog<Form>::Command1_Click() {
   AddRow(*this->ui_->List1, this->ui_->Text1->text());
   this->ui_->Command2->setEnabled(true);
+  this->ui_->Text1->setFocus();
+  this->ui_->Text1->selectAll();
 }
 
 template <class Form>
@@ -55,7 +55,7 @@ SeznamDef::SeznamDef(TextBuffer& document, QWidget* parent)
     : FragmentDialog(document, parent, &Ui::SeznamDef::Command3, &Ui::SeznamDef::Command4) {
   lists_ =
       new PairedLists({ui_->Atribut, ui_->Hodnota, ui_->Atributs, ui_->Values, ui_->Command1, ui_->Command2}, this);
-  OnEnter(ui_->Hodnota, [this] { lists_->AddByEnter(); });
+  OnEnter(ui_->Hodnota, [this] { lists_->Add(); });
 }
 
 bool SeznamDef::Put() {

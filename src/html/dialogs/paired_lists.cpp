@@ -5,6 +5,7 @@
 #include <QListWidget>
 #include <QScopedValueRollback>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QSignalBlocker>
 
 #include "platform/qt/controls/list_rows.h"
@@ -44,6 +45,10 @@ void RemoveRow(QListWidget& list) {
   Select(list, -1);
 }
 
+void RemoveByKey(QListWidget& list, QAbstractButton& remove) {
+  new QShortcut(QKeySequence(Qt::Key_Delete), &list, &remove, &QAbstractButton::click, Qt::WidgetShortcut);
+}
+
 std::vector<std::string> RowTexts(const QListWidget& list) {
   std::vector<std::string> texts;
   texts.reserve(static_cast<std::size_t>(list.count()));
@@ -54,6 +59,7 @@ std::vector<std::string> RowTexts(const QListWidget& list) {
 PairedLists::PairedLists(const Parts& parts, QObject* parent) : QObject(parent), parts_(parts) {
   for (const auto& [list, other] : {std::pair{parts_.names, parts_.values}, {parts_.values, parts_.names}}) {
     ShowRowsOnOneLine(*list);
+    RemoveByKey(*list, *parts_.remove);
     OnRowPicked(*list, [this, o = other](int row) { Follow(o, row); });
     connect(list, &QListWidget::itemSelectionChanged, this, [l = list, o = other] {
       if (SelectedRow(*l) < 0) Select(*o, -1);
@@ -91,22 +97,18 @@ void PairedLists::FieldChanged(const QString& text, QListWidget* list) {
 }
 
 void PairedLists::Add() {
+  if (!parts_.add->isEnabled()) return;
   AddRow(*parts_.names, parts_.name->text());
   AddRow(*parts_.values, parts_.value->text());
   parts_.remove->setEnabled(true);
+  parts_.name->setFocus();
+  parts_.name->selectAll();
 }
 
 void PairedLists::Remove() {
   RemoveRow(*parts_.names);
   RemoveRow(*parts_.values);
   if (parts_.names->count() == 0 || parts_.values->count() == 0) parts_.remove->setEnabled(false);
-}
-
-void PairedLists::AddByEnter() {
-  if (!parts_.add->isEnabled()) return;
-  Add();
-  parts_.name->setFocus();
-  parts_.name->selectAll();
 }
 
 AttributeLists PairedLists::Rows() const { return {RowTexts(*parts_.names), RowTexts(*parts_.values)}; }

@@ -24,6 +24,9 @@ void AddRow(QListWidget& list, const QString& text);
 // Removes the selected row, or the last one, and leaves none selected. Nothing where the list is empty.
 void RemoveRow(QListWidget& list);
 
+// The key Delete in the list presses the button that removes rows.
+void RemoveByKey(QListWidget& list, QAbstractButton& remove);
+
 // The rows' texts, Windows-1250.
 std::vector<std::string> RowTexts(const QListWidget& list);
 
@@ -45,8 +48,8 @@ class PairedLists : public QObject {
   // From now on the fields take the texts of a clicked row, and what is typed into them goes into the selected rows.
   void EditSelectedRows() { edits_rows_ = true; }
 
-  // Adds a pair from the keyboard, where that is allowed, and gets the first field ready for the next.
-  void AddByEnter();
+  // Adds a pair, where that is allowed, and gets the first field ready for the next.
+  void Add();
 
   [[nodiscard]] AttributeLists Rows() const;
   void SetRows(const AttributeLists& rows);
@@ -54,7 +57,6 @@ class PairedLists : public QObject {
  private:
   void Follow(QListWidget* other, int row);
   void FieldChanged(const QString& text, QListWidget* list);
-  void Add();
   void Remove();
 
   Parts parts_;

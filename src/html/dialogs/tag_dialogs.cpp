@@ -11,14 +11,14 @@ namespace pelmar {
 
 Attr::Attr(TextBuffer& document, Platform& platform, QWidget* parent)
     : FragmentDialog(document, parent, &Ui::Attr::Command3, &Ui::Attr::Command4), platform_(platform) {
-  OnEnter(ui_->Attributes->ValueBox(), [this] { ui_->Attributes->Lists().AddByEnter(); });
+  OnEnter(ui_->Attributes->ValueBox(), [this] { ui_->Attributes->Lists().Add(); });
 }
 
 bool Attr::Put() { return AddAttributes(document_, ui_->Attributes->Lists().Rows(), platform_); }
 
 Tagy::Tagy(TextBuffer& document, QWidget* parent)
     : FragmentDialog(document, parent, &Ui::Tagy::Command3, &Ui::Tagy::Command4) {
-  OnEnter(ui_->Attributes->ValueBox(), [this] { ui_->Attributes->Lists().AddByEnter(); });
+  OnEnter(ui_->Attributes->ValueBox(), [this] { ui_->Attributes->Lists().Add(); });
 }
 
 void Tagy::InsertCustomTag() {

@@ -1,9 +1,12 @@
 #include "platform/qt/program_style.h"
 
 #include <QAbstractItemView>
+#include <QDialogButtonBox>
 #include <QMenuBar>
 #include <QPainter>
+#include <QPushButton>
 #include <QStyleOptionMenuItem>
+#include <QToolButton>
 #include <algorithm>
 #include <cmath>
 
@@ -16,6 +19,9 @@ namespace {
 // of two luminances, from 1 for the same to 21 for black on white.
 constexpr double kReadable = 4.5;
 constexpr double kVisible = 3.7;  // above the 3 that a sign needs, since its edge is blurred
+constexpr double kSeen = 3;       // what is off is to be seen, and to be told from what is on
+constexpr double kLine = 2;
+constexpr double kMarked = 1.5;  // a ground that a text stands on
 constexpr int kSteps = 20;
 
 double Luminance(const QColor& color) {
@@ -46,6 +52,11 @@ QColor OfContrast(double wanted, const QColor& ground, const QColor& text) {
 
 bool HasKeyboard(const QWidget* widget) { return widget != nullptr && widget->hasFocus() && widget->isActiveWindow(); }
 
+// Enter presses it instead of the window's default button.
+bool TakesEnter(const QWidget* widget) {
+  return qobject_cast<const QPushButton*>(widget) || qobject_cast<const QToolButton*>(widget);
+}
+
 void DrawKeyboardFrame(QPainter& painter, const QStyleOption& option) {
   painter.setPen(option.palette.color(QPalette::Highlight));
   painter.setBrush(Qt::NoBrush);
@@ -62,8 +73,9 @@ QIcon ProgramStyle::standardIcon(StandardPixmap picture, const QStyleOption* opt
 
 int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                             QStyleHintReturn* answer) const {
-  // The buttons of message boxes look like those of the program's own dialogs.
+  // The buttons of message boxes look and stand like those of the program's own dialogs.
   if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+  if (hint == SH_DialogButtonLayout) return QDialogButtonBox::WinLayout;
   // A turn of the wheel over the tabs is not a choice; the document behind would change, and its undo be gone.
   if (hint == SH_TabBar_AllowWheelScrolling) return 0;
   return QProxyStyle::styleHint(hint, option, widget, answer);
@@ -104,16 +116,35 @@ QSize ProgramStyle::sizeFromContents(ContentsType type, const QStyleOption* opti
 
 void ProgramStyle::polish(QPalette& palette) {
   QProxyStyle::polish(palette);
+  const auto text = [&palette](QPalette::ColorRole role) { return palette.color(QPalette::Active, role); };
+  const auto lift = [&](QPalette::ColorRole role, QPalette::ColorRole ground, double wanted) {
+    const QColor on = palette.color(QPalette::Disabled, ground);
+    if (Contrast(on, palette.color(QPalette::Disabled, role)) < wanted)
+      palette.setColor(QPalette::Disabled, role, OfContrast(wanted, on, text(QPalette::WindowText)));
+  };
   // A search puts its fields off just when the person decides by what stands in them.
-  const QColor ground = palette.color(QPalette::Disabled, QPalette::Base);
-  if (Contrast(ground, palette.color(QPalette::Disabled, QPalette::Text)) >= kReadable) return;
-  palette.setColor(QPalette::Disabled, QPalette::Text,
-                   OfContrast(kReadable, ground, palette.color(QPalette::Active, QPalette::Text)));
+  lift(QPalette::Text, QPalette::Base, kReadable);
+  const QColor marked = OfContrast(kMarked, palette.color(QPalette::Disabled, QPalette::Base), text(QPalette::Text));
+  palette.setColor(QPalette::Disabled, QPalette::Highlight, marked);
+  palette.setColor(QPalette::Disabled, QPalette::HighlightedText, OfContrast(kReadable, marked, text(QPalette::Text)));
+  lift(QPalette::WindowText, QPalette::Window, kSeen);
+  lift(QPalette::ButtonText, QPalette::Button, kSeen);
+  // Some desktops with a dark look leave it black. Tabs show it on the button's colour, which is the harder ground.
+  const QColor hint = OfContrast(kReadable, text(QPalette::Button), text(QPalette::ButtonText));
+  palette.setColor(QPalette::PlaceholderText, hint);
+  // The lines of the program's own controls, on a window's ground or a field's.
+  palette.setColor(QPalette::Mid, OfContrast(kLine, text(QPalette::Window), text(QPalette::WindowText)));
+  // Tips stay light yellow on some desktops with a dark look.
+  if (Luminance(text(QPalette::Window)) > Luminance(text(QPalette::WindowText))) return;
+  palette.setColor(QPalette::ToolTipBase, text(QPalette::Window));
+  palette.setColor(QPalette::ToolTipText, text(QPalette::WindowText));
 }
 
 void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                  const QWidget* widget) const {
   const auto* box = qstyleoption_cast<const QStyleOptionButton*>(option);
+  if (element == PE_PanelButtonCommand && box != nullptr && widget != nullptr)
+    return DrawPushButton(*box, *painter, *widget);
   if ((element != PE_IndicatorCheckBox && element != PE_IndicatorRadioButton) || box == nullptr)
     return QProxyStyle::drawPrimitive(element, option, painter, widget);
   // The usual style darkens the ground by a third or more for the rim, which on a dark one can't be seen.
@@ -123,6 +154,19 @@ void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
                                 box->palette.color(QPalette::Active, QPalette::WindowText));
   rimmed.palette.setColor(QPalette::Window, rim.lighter(darkens));
   QProxyStyle::drawPrimitive(element, &rimmed, painter, widget);
+}
+
+void ProgramStyle::DrawPushButton(QStyleOptionButton button, QPainter& painter, const QWidget& widget) const {
+  if (const QWidget* focus = widget.window()->focusWidget(); focus != &widget && TakesEnter(focus))
+    button.features &= ~QStyleOptionButton::DefaultButton;
+  QProxyStyle::drawPrimitive(PE_PanelButtonCommand, &button, &painter, &widget);
+  if (!button.state.testFlag(State_HasFocus) || !button.state.testFlag(State_KeyboardFocusChange)) return;
+  painter.save();
+  painter.setPen(QPen(button.palette.color(QPalette::Highlight), 2));
+  painter.setBrush(Qt::NoBrush);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.drawRoundedRect(QRectF(button.rect).adjusted(2, 2, -2, -2), 2, 2);
+  painter.restore();
 }
 
 void ProgramStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
@@ -135,6 +179,12 @@ void ProgramStyle::drawControl(ControlElement element, const QStyleOption* optio
     chosen.state |= State_Sunken;
     return QProxyStyle::drawControl(element, &chosen, painter, widget);
   }
+  if (const auto* box = qstyleoption_cast<const QStyleOptionComboBox*>(option); element == CE_ComboBoxLabel && box) {
+    QStyleOptionComboBox fitting(*box);
+    const int room = subControlRect(CC_ComboBox, box, SC_ComboBoxEditField, widget).width() - 2;
+    fitting.currentText = box->fontMetrics.elidedText(box->currentText, Qt::ElideMiddle, room);
+    return QProxyStyle::drawControl(element, &fitting, painter, widget);
+  }
   QProxyStyle::drawControl(element, option, painter, widget);
   if (element == CE_ShapedFrame && qobject_cast<const QAbstractItemView*>(widget) && HasKeyboard(widget))
     DrawKeyboardFrame(*painter, *option);
@@ -144,7 +194,14 @@ void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOption
                                       const QWidget* widget) const {
   QProxyStyle::drawComplexControl(control, option, painter, widget);
   // A bar that stands for a value; those of lists and texts never have the keyboard.
-  if (control == CC_ScrollBar && HasKeyboard(widget)) DrawKeyboardFrame(*painter, *option);
+  if (control != CC_ScrollBar || widget == nullptr || widget->focusPolicy() == Qt::NoFocus) return;
+  const QPalette& palette = option->palette;
+  painter->setPen(widget->isEnabled() ? OfContrast(kVisible, palette.color(QPalette::Window),
+                                                   palette.color(QPalette::Active, QPalette::WindowText))
+                                      : palette.color(QPalette::Mid));
+  painter->setBrush(Qt::NoBrush);
+  painter->drawRect(subControlRect(CC_ScrollBar, option, SC_ScrollBarSlider, widget).adjusted(0, 0, -1, -1));
+  if (HasKeyboard(widget)) DrawKeyboardFrame(*painter, *option);
 }
 
 }  // namespace pelmar

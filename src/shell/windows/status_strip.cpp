@@ -2,6 +2,7 @@
 
 #include <QMouseEvent>
 #include <algorithm>
+#include <numeric>
 
 #include "platform/qt/convert.h"
 #include "platform/twips.h"
@@ -11,6 +12,8 @@ namespace {
 
 constexpr int kGap = 2;
 constexpr int kTextMargin = 4;
+constexpr std::size_t kFigures = 3;  // how many panels show figures, the first ones
+constexpr std::size_t kFirstKey = 4;
 
 // How many characters the panels have room for at the start, but for panel 4, which begins with none and takes what is
 // left. The largest figures of a document fit in, and all seven into the window of the DOS look. Counted in average
@@ -28,10 +31,15 @@ StatusPanel::StatusPanel(QWidget* parent) : ElidedLabel(parent) {
   setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
 }
 
-void StatusPanel::SetContent(const std::string& text) {
-  if (text == content_) return;
+bool StatusPanel::SetContent(const std::string& text) {
+  if (text == content_) return false;
   content_ = text;
   setText(TextToQString(text));
+  return true;
+}
+
+int StatusPanel::WholeWidth() const {
+  return fontMetrics().horizontalAdvance(text()) + 1 + 2 * (kTextMargin + frameWidth()) + kGap;
 }
 
 void StatusPanel::mousePressEvent(QMouseEvent* event) {
@@ -53,6 +61,7 @@ StatusStrip::StatusStrip(QWidget* parent) : QStatusBar(parent) {
     panel->setObjectName(QStringLiteral("Panel%1").arg(number));
     panel->setToolTip(kTips[at].toString());
     panels_[at] = panel;
+    if (at < kFigures) panel->setElideMode(Qt::ElideLeft);  // their figures stand at the end
     if (kCharacters[at] > 0)
       widths_[at] = TwipsOf(fontMetrics().averageCharWidth() * kCharacters[at] + 2 * kTextMargin);
   }
@@ -64,9 +73,8 @@ StatusStrip::StatusStrip(QWidget* parent) : QStatusBar(parent) {
 
 void StatusStrip::Show(const PanelTexts& texts) {
   cleared_ = false;
-  panels_[0]->SetContent(texts.length);
-  panels_[1]->SetContent(texts.position);
-  panels_[2]->SetContent(texts.lines);
+  const bool length = panels_[0]->SetContent(texts.length), position = panels_[1]->SetContent(texts.position);
+  if (panels_[2]->SetContent(texts.lines) || length || position) Place();
 }
 
 void StatusStrip::Clear() {
@@ -125,23 +133,32 @@ void StatusStrip::resizeEvent(QResizeEvent* event) {
 }
 
 // The widths are the layout's and stay; where they go beyond a narrow window, the panels of the keys keep theirs and
-// what lies before them shares the rest, each with its own dots.
+// what lies before them shares the rest, each with its own dots. Where that would cut a figure, the figures come first.
 void StatusStrip::Place() {
-  constexpr std::size_t kFirstKey = 4;
-  const auto sum = [this](std::size_t from, std::size_t to) {
-    int pixels = 0;
-    for (std::size_t i = from; i < to; ++i) pixels += PixelsOf(widths_[i]);
-    return pixels;
+  std::array<int, kPanelCount> shown{};
+  std::ranges::transform(widths_, shown.begin(), PixelsOf);
+  const auto sum = [&shown](std::size_t from, std::size_t to) {
+    return std::accumulate(shown.begin() + from, shown.begin() + to, 0);
   };
+  const auto scale = [&shown](std::size_t count, int room, int wanted) {
+    for (std::size_t i = 0; i < count && wanted > room; ++i) shown[i] = shown[i] * room / wanted;
+  };
+  const int room = std::max(0, width() - kGap - sum(kFirstKey, kPanelCount));
   const int texts = sum(0, kFirstKey);
-  const int room = width() - kGap - sum(kFirstKey, panels_.size());
-  const double share = texts > room && texts > 0 ? std::max(0, room) / static_cast<double>(texts) : 1;
+  scale(kFirstKey, room, texts);
+  const auto is_cut = [this, &shown](std::size_t at) { return panels_[at]->WholeWidth() > shown[at]; };
+  if (texts > room && (is_cut(0) || is_cut(1) || is_cut(2))) {
+    for (std::size_t i = 0; i < kFigures; ++i) shown[i] = panels_[i]->WholeWidth();
+    scale(kFigures, room, sum(0, kFigures));
+    shown[kFigures] = room - sum(0, kFigures);
+  }
   int left = kGap;
   for (std::size_t i = 0; i < panels_.size(); ++i) {
-    const int own = PixelsOf(widths_[i]);
-    const int shown = i < kFirstKey ? static_cast<int>(own * share) : own;
-    panels_[i]->setGeometry(left, kGap, std::max(0, shown - kGap), height() - 2 * kGap);
-    left += shown;
+    panels_[i]->setGeometry(left, kGap, std::max(0, shown[i] - kGap), height() - 2 * kGap);
+    left += shown[i];
+    if (i >= kFigures) continue;
+    const QString tip = kTips[i].toString();
+    panels_[i]->setToolTip(texts > room && is_cut(i) ? tip + QLatin1Char('\n') + panels_[i]->text() : tip);
   }
   PlaceWarning();
 }

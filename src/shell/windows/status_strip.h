@@ -20,8 +20,10 @@ class StatusPanel : public ElidedLabel {
  public:
   explicit StatusPanel(QWidget* parent);
 
-  // Windows-1250; nothing happens where the panel shows it already.
-  void SetContent(const std::string& text);
+  // Windows-1250; false where the panel shows it already.
+  bool SetContent(const std::string& text);
+  // What the whole text needs.
+  [[nodiscard]] int WholeWidth() const;
 
  Q_SIGNALS:
   void Clicked();

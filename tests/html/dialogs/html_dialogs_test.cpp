@@ -428,15 +428,18 @@ TEST_F(HtmlDialogs, ListsOfItems) {
   Expect({{"mnulist", "", "", "<UL>¶<LI>Položka</LI>¶</UL>"},
           {"mnulistcount", "Check2! Option4! Check3! Check1! Text2=H", "z",
            R"(<OL TYPE="I" COMPACT>¶<LH>H</LH>¶<LI>Položka</LI>¶</OL>|z)"}});
-  const QWidget& bullets = Open("mnulist");
-  ExpectState(bullets, "Text1=a Command1! Text1=b Command1! Text1=c Command1! List1=2 Text1=x Command1!",
+  QWidget& bullets = Open("mnulist");
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&bullets));
+  ExpectState(bullets, "Text1=a Command1! Text1=b Command1! Text1=c Command1! List1=2 Text1=x Command1:' '",
               "List1=Položka|a|x|>b|c");
-  ExpectState(bullets, "Command2!", "List1=Položka|a|x|c");  // the selected row, then the last one
-  ExpectState(bullets, "Command2!", "List1=Položka|a|x Command2=O&deber");
-  ExpectState(bullets, "Command2! Command2! Command2!", "List1= Command2=(O&deber)");
   auto* item = Find<QLineEdit>(bullets, "Text1");
+  EXPECT_EQ(bullets.focusWidget(), item);
+  ExpectState(bullets, "Command2!", "List1=Položka|a|x|c");  // the selected row, then the last one
+  ExpectState(bullets, "List1:\x7f", "List1=Položka|a|x Command2=O&deber");
+  ExpectState(bullets, "Command2! Command2! Command2!", "List1= Command2=(O&deber)");
   Open("mnulist");
-  EXPECT_EQ(item->selectedText(), QStringLiteral("x"));  // the first field, ready to be typed over
+  EXPECT_TRUE(bullets.testAttribute(Qt::WA_KeyboardFocusChange));  // or nothing would mark it
+  EXPECT_EQ(item->selectedText(), QStringLiteral("x"));            // the first field, ready to be typed over
   for (const char* typed : {"2", "3"}) {
     QTest::keyClicks(item, QLatin1String(typed));
     QTest::keyClick(item, Qt::Key_Return);

@@ -161,9 +161,14 @@ TEST(ProgramStyle, ShowsWhatIsOffOnLightAndDarkGround) {
   ProgramStyle style(QStringLiteral("fusion"));
   for (const QColor& ground : {QColor(239, 239, 239), QColor(53, 53, 53), QColor(30, 30, 34)}) {
     QPalette palette(ground);
+    palette.setColor(QPalette::PlaceholderText, Qt::black);
     style.polish(palette);
     const auto off = [&](QPalette::ColorRole role) { return palette.color(QPalette::Disabled, role); };
     EXPECT_GE(Difference(off(QPalette::Text), off(QPalette::Base)), 90);
+    EXPECT_GE(Difference(off(QPalette::HighlightedText), off(QPalette::Highlight)), 90);
+    EXPECT_GE(Difference(palette.color(QPalette::PlaceholderText), palette.color(QPalette::Base)), 90);
+    EXPECT_GE(Difference(off(QPalette::WindowText), ground), 70);
+    EXPECT_GE(Difference(palette.color(QPalette::Mid), ground), 40);
     QCheckBox check;
     QRadioButton option;
     for (QWidget* box : Widgets{&check, &option}) {
@@ -198,6 +203,21 @@ TEST(ProgramStyle, FramesTheBarOrTheListThatHasTheKeyboard) {
       EXPECT_EQ(corner == widget->palette().color(QPalette::Highlight), widget == focus && widget != &box);
     }
   }
+}
+
+TEST(ProgramStyle, ShowsWhichButtonEnterPresses) {
+  QWidget window;
+  window.resize(300, 300);
+  QPushButton standing(&window), focused(&window), plain(&window);
+  standing.setDefault(true);
+  window.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  const auto picture = [](QWidget& button) { return button.grab().toImage(); };
+  EXPECT_NE(picture(standing), picture(plain));
+  window.setAttribute(Qt::WA_KeyboardFocusChange);
+  focused.setFocus();
+  EXPECT_EQ(picture(standing), picture(plain));
+  EXPECT_NE(picture(focused), picture(plain));
 }
 
 // A picture whose left half is orange and whose right half is empty.

@@ -119,6 +119,8 @@ TEST_F(MainWindowTest, TheTickShowsTheStateWhileTheWindowIsActive) {
   EXPECT_TRUE(window.Text().hasFocus());
   EXPECT_EQ(On({"mnuseek", "mnuulvyb", "mnuadd"}), "");  // only as fresh as the last tick
   EXPECT_EQ(Ticked(), "Panel1=Znaky Výběru : 4 Panel2=Pozice výběru : 0 Panel3=Řádeky 0-1 z 1 Panel4=Výběr : ab\r\n");
+  window.Bar().SetWidth(4, 60000);  // beyond the window
+  EXPECT_GE(window.Bar().Panel(3)->width() + 2, window.Bar().Panel(3)->WholeWidth());
   // mnu_format has no window here.
   EXPECT_EQ(On({"mnuseek", "mnuulvyb", "mnuadd", "mnu_format", "Mnu_SaveFast"}), "mnuseek mnuulvyb mnuadd ");
   QTest::mouseClick(window.Bar().Panel(3), Qt::LeftButton);

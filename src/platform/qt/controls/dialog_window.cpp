@@ -93,6 +93,17 @@ bool LiesBehindTabs(const QWidget* widget) {
 
 }  // namespace
 
+void ScaleLetters(QWidget& form) {
+  constexpr double kPlain = 9;
+  const double scale = QFontInfo(QApplication::font()).pointSizeF() / kPlain;
+  for (QWidget* widget : form.findChildren<QWidget*>()) {
+    QFont letters = widget->font();
+    if (!widget->testAttribute(Qt::WA_SetFont) || (letters.resolveMask() & QFont::SizeResolved) == 0) continue;
+    letters.setPointSizeF(letters.pointSizeF() * scale);
+    widget->setFont(letters);
+  }
+}
+
 DialogWindow::DialogWindow(QWidget* parent) : QDialog(parent) { setProperty(kRoomProperty, true); }
 
 void DialogWindow::Present() {
@@ -162,6 +173,7 @@ bool DialogWindow::GoToNextField() {
 void DialogWindow::showEvent(QShowEvent* event) {
   if (event->spontaneous()) return QDialog::showEvent(event);
   if (!prepared_) Prepare();
+  setAttribute(Qt::WA_KeyboardFocusChange);  // what has the keyboard shows it from the first moment on
   QDialog::showEvent(event);
   BeginInFirstField();
 }
@@ -175,7 +187,6 @@ void DialogWindow::BeginInFirstField() {
 
 void DialogWindow::Prepare() {
   prepared_ = true;
-  setAttribute(Qt::WA_KeyboardFocusChange);  // what has the keyboard shows it from the first moment on
   ShowProgramIcon();
   first_field_ = focusWidget();
   for (QWidget* next = this; !first_field_ && (next = next->nextInFocusChain()) != this;)
@@ -191,6 +202,12 @@ void DialogWindow::Prepare() {
     connect(option, &QRadioButton::toggled, this, gather);
     gather();
   }
+  // The default button looks like it only while no other button would take Enter.
+  connect(qApp, &QApplication::focusChanged, this, [this] {
+    if (!isVisible()) return;  // nor while it ends
+    for (QPushButton* button : findChildren<QPushButton*>())
+      if (button->isDefault()) button->update();
+  });
   for (QWidget* widget : findChildren<QWidget*>()) {
     if (!HoldsValue(*widget)) continue;
     widget->installEventFilter(this);

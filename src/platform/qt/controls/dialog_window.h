@@ -54,12 +54,18 @@ class DialogWindow : public QDialog {
   bool prepared_ = false;
 };
 
+// For a form that was just set up: it gives its own sizes of letters as beside plain ones of 9 points.
+void ScaleLetters(QWidget& form);
+
 // A window with its form. Sharing lets the windows do without destructors of their own, which would have to know the
 // form: nobody else holds it.
 template <class Form>
 class FormDialog : public DialogWindow {
  protected:
-  explicit FormDialog(QWidget* parent) : DialogWindow(parent), ui_(std::make_shared<Form>()) { ui_->setupUi(this); }
+  explicit FormDialog(QWidget* parent) : DialogWindow(parent), ui_(std::make_shared<Form>()) {
+    ui_->setupUi(this);
+    ScaleLetters(*this);
+  }
 
   const std::shared_ptr<Form> ui_;
 };

@@ -1,5 +1,6 @@
 #include "platform/qt/controls/drive_list.h"
 
+#include <QAbstractItemView>
 #include <QDir>
 #include <QSignalBlocker>
 
@@ -12,6 +13,8 @@ DriveList::DriveList(QWidget* parent) : QComboBox(parent) {
   setMinimumContentsLength(4);
   Fill();
   SetDrive(QDir::currentPath());
+  view()->setTextElideMode(Qt::ElideMiddle);
+  connect(this, &QComboBox::textActivated, this, &QWidget::setToolTip);
   connect(this, &QComboBox::textActivated, this, &DriveList::DriveChanged);
 }
 
@@ -22,6 +25,7 @@ void DriveList::SetDrive(const QString& path) {
   if (place.isEmpty()) return;
   const QSignalBlocker silence(this);
   setCurrentText(place);
+  setToolTip(place);
 }
 
 void DriveList::showPopup() {

@@ -41,14 +41,10 @@ void PaintCaption(QStylePainter& painter, const QWidget& key, const QString& cap
   painter.drawText(room, flags, caption);
 }
 
-void PaintFrame(QStylePainter& painter, QStyleOptionButton& option, const QWidget& key) {
+void PaintFrame(QStylePainter& painter, QStyleOptionButton& option) {
   option.text.clear();
   option.icon = QIcon();
   painter.drawControl(QStyle::CE_PushButtonBevel, option);
-  if (!option.state.testFlag(QStyle::State_HasFocus)) return;
-  painter.setPen(QPen(key.palette().color(QPalette::Highlight), 2));
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.drawRoundedRect(QRectF(key.rect()).adjusted(2, 2, -2, -2), 2, 2);
 }
 
 }  // namespace
@@ -59,7 +55,7 @@ void KeyCap::paintEvent(QPaintEvent* /*event*/) {
   QStylePainter painter(this);
   QStyleOptionButton option;
   initStyleOption(&option);
-  PaintFrame(painter, option, *this);
+  PaintFrame(painter, option);
   // A key that is higher than wide has a word a line.
   const QString caption = height() > width() ? Words(text()).join(QLatin1Char('\n')) : text();
   PaintCaption(painter, *this, caption, QPalette::ButtonText);
@@ -75,7 +71,7 @@ void LatchKey::paintEvent(QPaintEvent* /*event*/) {
     option.state |= QStyle::State_Sunken;
     option.palette.setBrush(QPalette::Button, palette().brush(QPalette::Highlight));
   }
-  PaintFrame(painter, option, *this);
+  PaintFrame(painter, option);
   PaintCaption(painter, *this, text().trimmed(), isChecked() ? QPalette::HighlightedText : QPalette::ButtonText);
 }
 
