@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QToolButton>
 
+#include "platform/qt/asker.h"
 #include "platform/qt/controls/accessible_face.h"
 #include "platform/qt/controls/tab_keys.h"
 #include "platform/qt/convert.h"
@@ -43,6 +44,7 @@ Poznamka::Poznamka(Surroundings around)
     : around_(std::move(around)), ui_(std::make_unique<Ui::Poznamka>()), keeper_(Unsaved(), around_.platform) {
   ui_->setupUi(this);
   SetAccessibleRole(*this, QAccessible::Window);
+  ShowOnAskersScreen(*this);
   CentreOnScreen(*this);
   SetAlwaysOnTop(*this, true);
   ui_->Text1->setFont(FontOf(around_.main.Look()));

@@ -9,7 +9,7 @@
 namespace pelmar {
 namespace {
 
-constexpr QStringView kTooLong = u"Text má přes 64 000 znaků: uložit ho lze, ale znovu ho program neotevře";
+const QString kTooLong = QStringLiteral("Text má %1 znaků, znovu otevřít jich lze nejvýše 64000");
 
 }  // namespace
 
@@ -31,8 +31,8 @@ FileWarnings::FileWarnings(MainWindow& window, Editor& editor, const OutsideChan
              editor.text.OnChange([this](const TextChange&) {
                WarnOfOutside(OutsideChange::kNone);
                window_.Bar().Warn(Warning::kUtf8, {});
-               const bool too_long = documents_.Text().Size() > kLargestDocument;
-               window_.Bar().Warn(Warning::kTooLong, too_long ? kTooLong.toString() : QString());
+               const std::size_t size = documents_.Text().Size();
+               window_.Bar().Warn(Warning::kTooLong, size > kLargestDocument ? kTooLong.arg(size) : QString());
              })} {
   window.installEventFilter(this);
 }

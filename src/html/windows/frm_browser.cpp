@@ -11,6 +11,7 @@
 
 #include "html/browser_texts.h"
 #include "html/windows/web_address.h"
+#include "platform/qt/asker.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/outer_geometry.h"
 #include "platform/qt/placement.h"
@@ -252,6 +253,7 @@ void FrmBrowser::closeEvent(QCloseEvent* event) {
 void FrmBrowser::showEvent(QShowEvent* event) {
   if (!centred_ && !event->spontaneous()) {
     centred_ = true;
+    ShowOnAskersScreen(*this);
     CentreOnScreen(*this);
   }
   QMainWindow::showEvent(event);

@@ -38,4 +38,8 @@ void ExpectActive(QWidget* window) {
   if (window != nullptr && window->isVisible()) window->activateWindow();
 }
 
+void ShowOnAskersScreen(QWidget& window) {
+  if (const QWidget* asker = Asker()) window.setScreen(asker->screen());
+}
+
 }  // namespace pelmar

@@ -12,4 +12,7 @@ QWidget* Asker();
 // This window is to be the active one, though the window manager may make it so only later.
 void ExpectActive(QWidget* window);
 
+// A window that was never on show is to come up on the screen of the one that asks.
+void ShowOnAskersScreen(QWidget& window);
+
 }  // namespace pelmar

@@ -43,6 +43,17 @@ void LeaveRoomForTitle(QMessageBox& box) {
   grid->addItem(new QSpacerItem(WidthOfTitle(box), 0), grid->rowCount(), 0, 1, grid->columnCount());
 }
 
+// The Enter that has led to a question is no answer to it, however long it is held.
+class HeldEnter : public QObject {
+ public:
+  using QObject::QObject;
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() != QEvent::KeyPress) return false;
+    const auto& key = static_cast<QKeyEvent&>(*event);
+    return key.isAutoRepeat() && (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter);
+  }
+};
+
 // A box that tells Escape and the close box of a question from its No: the toolkit's would press the button.
 class Box : public QMessageBox {
  public:
@@ -145,6 +156,7 @@ int Show(const QString& text, const QString& title, const std::function<void(Box
   box->setTextFormat(Qt::PlainText);
   box->setText(text);
   equip(*box);
+  for (QAbstractButton* button : box->buttons()) button->installEventFilter(new HeldEnter(button));
   LeaveRoomForTitle(*box);
   return box.Result();
 }

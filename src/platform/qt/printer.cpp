@@ -75,12 +75,12 @@ SystemPrinter* LoadPrinters(QString& problem) {
 // A full disk shows only by what is missing.
 bool IsWholePdf(QFile& file) {
   constexpr qint64 kEnd = 32;
+  errno = 0;
   return file.flush() && file.size() > kEnd && file.seek(file.size() - kEnd) && file.readAll().contains("%%EOF");
 }
 
 PrintOutcome PrintIntoPdf(const PrintFont& font, const QString& name, const std::function<void(Paper&)>& draw) {
   const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-  QDir().mkpath(folder);
   QFile file(NewPdfPath(folder, name));
   PrintOutcome outcome{.pdf = Utf8FromQString(file.fileName())};
   errno = 0;
@@ -88,7 +88,7 @@ PrintOutcome PrintIntoPdf(const PrintFont& font, const QString& name, const std:
     outcome.error = errno != 0 ? errno : EIO;
     return outcome;
   };
-  if (!file.open(QIODevice::ReadWrite | QIODevice::NewOnly)) return failed();
+  if (!QDir().mkpath(folder) || !file.open(QIODevice::ReadWrite | QIODevice::NewOnly)) return failed();
   QPdfWriter writer(&file);
   writer.setTitle(name);
   writer.setCreator(QStringLiteral("Pelmar VEX"));
@@ -96,7 +96,8 @@ PrintOutcome PrintIntoPdf(const PrintFont& font, const QString& name, const std:
   writer.setPageMargins(QMarginsF(kPdfMargin, kPdfMargin, kPdfMargin, kPdfMargin), QPageLayout::Millimeter);
   if (!PrintOn(writer, font, draw) || !IsWholePdf(file)) {
     failed();
-    file.remove();
+    file.close();  // which fails once more on a full disk, and the file's own removing would fail with it
+    QFile::remove(file.fileName());
   }
   return outcome;
 }

@@ -88,10 +88,12 @@ void MainToolbar::Arrange(const QList<QAction*>& order) {
 bool MainToolbar::eventFilter(QObject* watched, QEvent* event) {
   auto* button = qobject_cast<QToolButton*>(watched);
   if (button == nullptr || event->type() != QEvent::KeyPress) return QToolBar::eventFilter(watched, event);
-  switch (static_cast<QKeyEvent*>(event)->key()) {
+  const auto& key = static_cast<QKeyEvent&>(*event);
+  switch (key.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-      return button->click(), true;
+      if (!key.isAutoRepeat()) button->click();
+      return true;
     case Qt::Key_Escape:
       Q_EMIT EscapePressed();
       return true;

@@ -25,8 +25,6 @@ constexpr QSize kSmallest(480, 320);
 // The window of a first start, where nothing is stored yet: room for the whole toolbar.
 constexpr QSize kFirstSize(820, 560);
 
-// Left, right, centre.
-
 // The paths of the files of a drop.
 std::vector<std::string> DroppedFiles(const QMimeData* mime) {
   std::vector<std::string> paths;

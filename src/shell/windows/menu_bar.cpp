@@ -1,5 +1,6 @@
 #include "shell/windows/menu_bar.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QShortcutEvent>
@@ -42,6 +43,21 @@ QAction* NextByInitial(const QMenu& menu, QChar letter) {
   return found == items.end() ? nullptr : *found;
 }
 
+// The menu's own setting would open a submenu.
+void GoTo(QMenu& menu, const QAction* item) {
+  QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
+  for (auto left = menu.actions().size(); left > 0 && menu.activeAction() != item; --left)
+    static_cast<QObject&>(menu).event(&down);
+}
+
+// As Alt does by itself, so that the bar knows of it too.
+void CloseMenus() {
+  QKeyEvent alt(QEvent::KeyPress, Qt::Key_Alt, Qt::NoModifier);
+  constexpr int kDeepest = 4;
+  for (int level = 0; level < kDeepest; ++level)
+    if (QObject* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) menu->event(&alt);
+}
+
 }  // namespace
 
 MenuBar::MenuBar(const Commands& commands, QWidget* parent) : QMenuBar(parent), commands_(commands) {
@@ -54,6 +70,7 @@ MenuBar::MenuBar(const Commands& commands, QWidget* parent) : QMenuBar(parent), 
     if (item.kind == MenuKind::kSubmenu) {
       auto* menu = new QMenu(caption, this);
       menu->installEventFilter(this);
+      connect(menu, &QMenu::aboutToShow, this, [this] { alt_alone_ = false; });
       menu->setAccessibleName(QString(caption).remove(QLatin1Char('&')));
       action = menu->menuAction();
       open.push_back(menu);
@@ -107,14 +124,16 @@ bool MenuBar::RunGrey(const QKeyEvent& keys, const std::function<MenuState()>& n
   return false;
 }
 
-// Two menus have the access key T: the first is meant, or behind it the second.
+// Two menus have the access key T: the first is meant, or behind it the second. A grey one takes its key and stays
+// shut.
 bool MenuBar::OpenByAccessKey(const QKeySequence& key) {
   QList<QAction*> menus = actions();
   menus.removeIf([&key](const QAction* menu) { return !HasAccessKey(*menu, key); });
   if (menus.isEmpty()) return false;
   QAction* const next = menus[(menus.indexOf(activeAction()) + 1) % menus.size()];
+  if (!next->isEnabled()) return true;
   setActiveAction(next);
-  next->menu()->setActiveAction(next->menu()->actions().constFirst());
+  GoTo(*next->menu(), next->menu()->actions().constFirst());
   return true;
 }
 
@@ -128,30 +147,30 @@ void MenuBar::keyPressEvent(QKeyEvent* event) {
   QMenuBar::keyPressEvent(event);
 }
 
-// Many items have no access key, and answer to their first letter.
 bool MenuBar::eventFilter(QObject* watched, QEvent* event) {
   auto* menu = qobject_cast<QMenu*>(watched);
   const bool press = event->type() == QEvent::KeyPress;
   if (menu == nullptr || (!press && event->type() != QEvent::KeyRelease)) return QMenuBar::eventFilter(watched, event);
   const auto& key = static_cast<QKeyEvent&>(*event);
+  if (key.key() != Qt::Key_Alt) return press && KeyInMenu(*menu, key);
   // The toolkit would close the menu at once, and the menu behind with the same access key would never be reached.
-  if (key.key() == Qt::Key_Alt) {
-    QKeyEvent now(QEvent::KeyPress, Qt::Key_Alt, Qt::NoModifier);
-    if (!press && alt_alone_) static_cast<QObject*>(menu)->event(&now);
-    alt_alone_ = press;
-    return true;
-  }
-  if (!press) return false;
+  if (!press && alt_alone_) CloseMenus();
+  alt_alone_ = press;
+  return true;
+}
+
+// Many items have no access key, and answer to their first letter. No letter is for the menu behind.
+bool MenuBar::KeyInMenu(QMenu& menu, const QKeyEvent& key) {
   alt_alone_ = false;
+  const bool alt = key.modifiers() == Qt::AltModifier;
   const QKeySequence access(Qt::ALT | key.key());
-  if (key.modifiers() == Qt::AltModifier && activeAction() != nullptr && OpenByAccessKey(access)) return true;
-  const QList<QAction*> items = menu->actions();
+  if (alt && activeAction() != nullptr && HasAccessKey(*activeAction(), access)) return OpenByAccessKey(access);
+  const QList<QAction*> items = menu.actions();
   if (std::ranges::any_of(items, [&access](const QAction* item) { return HasAccessKey(*item, access); })) return false;
-  QAction* next = key.text().size() == 1 && key.text().front().isLetterOrNumber()
-                      ? NextByInitial(*menu, key.text().front())
-                      : nullptr;
-  if (next != nullptr) menu->setActiveAction(next);
-  return next != nullptr;
+  if (alt) return activeAction() != nullptr && OpenByAccessKey(access);
+  if (key.text().size() != 1 || !key.text().front().isLetterOrNumber()) return false;
+  if (const QAction* next = NextByInitial(menu, key.text().front())) GoTo(menu, next);
+  return true;
 }
 
 void MenuBar::SetEnabled(std::span<const std::string_view> names, bool enabled) {

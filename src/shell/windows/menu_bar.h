@@ -41,6 +41,7 @@ class MenuBar : public QMenuBar {
 
  private:
   bool OpenByAccessKey(const QKeySequence& key);
+  bool KeyInMenu(QMenu& menu, const QKeyEvent& key);
   void SetEnabled(std::span<const std::string_view> names, bool enabled);
   [[nodiscard]] bool Served(const QAction* action, std::string_view name) const;
 

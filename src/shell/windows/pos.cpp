@@ -8,7 +8,7 @@
 namespace pelmar {
 
 Pos::Pos(MainPlace& main, QWidget* parent) : FormDialog(parent), main_(main) {
-  const auto place_of = [this](int row, int column) { return PlaceOfCell(row, column, ScreenTwips(*this)); };
+  const auto place_of = [this](int row, int column) { return PlaceOfCell(row, column, ScreenTwips(main_.Place())); };
   connect(ui_->Picture1, &CellGrid::CellEntered, this,
           [this, place_of](int row, int column) { ui_->Label1->setText(Utf8ToQString(place_of(row, column).name)); });
   connect(ui_->Picture1, &CellGrid::CellChosen, this, [this, place_of](int row, int column) {

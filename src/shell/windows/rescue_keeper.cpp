@@ -111,7 +111,8 @@ std::string RescueKeeper::KeepNow() {
   const int error = Write();
   if (error == 0) return written_->texts.empty() ? std::string() : store_.Path();
   const std::string readable = content_.readable(content_.unsaved().texts);
-  if (readable.empty() || readable == last_resort_.text) return readable.empty() ? std::string() : last_resort_.path;
+  if (readable.empty()) return {};
+  if (readable == last_resort_.text && platform_.CanRead(last_resort_.path)) return last_resort_.path;
   const TempFile file = WriteTempFile(platform_, "pelmar-" + std::string(content_.kind.prefix), ".txt", readable);
   if (file.error != 0) return {};
   last_resort_ = {file.path, readable};  // the end of a session asks several times

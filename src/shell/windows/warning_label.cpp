@@ -7,7 +7,8 @@
 
 namespace pelmar {
 
-WarningLabel::WarningLabel(QWidget* parent) : QLabel(parent) {
+WarningLabel::WarningLabel(QWidget* parent) : ElidedLabel(parent) {
+  setElideMode(Qt::ElideRight);
   setObjectName(QStringLiteral("Warning"));
   setContentsMargins(4, 0, 4, 0);
   setAutoFillBackground(true);
@@ -16,7 +17,7 @@ WarningLabel::WarningLabel(QWidget* parent) : QLabel(parent) {
 }
 
 void WarningLabel::showEvent(QShowEvent* event) {
-  QLabel::showEvent(event);
+  ElidedLabel::showEvent(event);
   QAccessibleEvent alert(this, QAccessible::Alert);
   QAccessible::updateAccessibility(&alert);
 }

@@ -1,15 +1,18 @@
 // A warning that stands for as long as what it says holds, told to assistive technology each time it comes up.
 #pragma once
 
-#include <QLabel>
+#include "platform/qt/controls/elided_label.h"
 
 namespace pelmar {
 
-class WarningLabel : public QLabel {
+class WarningLabel : public ElidedLabel {
   Q_OBJECT
 
  public:
   explicit WarningLabel(QWidget* parent);
+
+  // What the whole text needs.
+  QSize sizeHint() const override { return QLabel::sizeHint(); }
 
  protected:
   void showEvent(QShowEvent* event) override;

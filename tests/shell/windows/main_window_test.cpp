@@ -148,7 +148,7 @@ TEST_F(MainWindowTest, TheBarWarnsOfTheGravestThatHolds) {
   new FileWarnings(window, editor, editor.files.outside);
   static constexpr char kUnkept[] = "Neuložená práce se teď nezachovává !";
   static constexpr char kStuck[] = "Soubory nelze otevírat ani ukládat, pomůže jen nový start programu";
-  static constexpr char kTooLong[] = "Text má přes 64 000 znaků: uložit ho lze, ale znovu ho program neotevře";
+  static constexpr char kTooLong[] = "Text má 64003 znaků, znovu otevřít jich lze nejvýše 64000";
   static constexpr char kTheirs[] = "Soubor na disku se mezitím změnil";
   const std::pair<std::function<void()>, std::string> steps[] = {
       {[this] { editor.opener.OpenPath("/a.txt"), LeaveAndReturn(); }, ""},

@@ -136,8 +136,11 @@ bool DialogWindow::eventFilter(QObject* watched, QEvent* event) {
     const auto& key = *static_cast<QKeyEvent*>(event);
     const auto act = on_enter_.find(watched);
     // A letter with Alt that no control answers to is none for the field.
-    if (qobject_cast<QLineEdit*>(watched) && IsAltCharacter(key)) return true;
+    const auto* box = qobject_cast<QComboBox*>(watched);
+    if ((qobject_cast<QLineEdit*>(watched) || (box != nullptr && box->isEditable())) && IsAltCharacter(key))
+      return true;
     if (act != on_enter_.end() && IsPlainEnter(key)) {
+      if (key.isAutoRepeat()) return true;
       act->second();
       return true;
     }
@@ -150,6 +153,7 @@ void DialogWindow::keyPressEvent(QKeyEvent* event) {
   const QString name = property("cancelButton").toString();
   auto* cancel = name.isEmpty() ? nullptr : findChild<QAbstractButton*>(name);
   if (cancel != nullptr && event->matches(QKeySequence::Cancel)) return cancel->click();
+  if (IsPlainEnter(*event) && event->isAutoRepeat()) return;  // held since it opened the dialog, perhaps
   // The toolkit would press the default button, whichever button the person has gone to.
   QWidget* focus = focusWidget();
   if (IsPlainEnter(*event) && (qobject_cast<QPushButton*>(focus) || qobject_cast<QToolButton*>(focus)))
@@ -191,6 +195,7 @@ void DialogWindow::Prepare() {
   first_field_ = focusWidget();
   for (QWidget* next = this; !first_field_ && (next = next->nextInFocusChain()) != this;)
     if (TakesTab(*next, *this) && !qobject_cast<QTabBar*>(next)) first_field_ = next;
+  ShowOnAskersScreen(*this);
   FitInto(RoomOnScreen(*this));
   CentreOnScreen(*this);
   LabelBoxes(*this);

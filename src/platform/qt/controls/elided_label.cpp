@@ -31,7 +31,7 @@ void ElidedLabel::paintEvent(QPaintEvent*) {
     if (ch.unicode() < 0x20) ch = QLatin1Char(' ');
   const int space = indent() > 0 ? indent() : 0;
   const QRect inside = contentsRect().adjusted(space, 0, -space, 0);
-  painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
+  painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, foregroundRole()));
   painter.drawText(inside, static_cast<int>(alignment()) | Qt::TextSingleLine,
                    fontMetrics().elidedText(shown, mode_, inside.width()));
 }
