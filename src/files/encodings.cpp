@@ -71,6 +71,14 @@ void Write(Platform& platform, const std::string& path, const std::string& targe
 
 }  // namespace
 
+std::string_view FormatHint(std::string_view bytes) {
+  if (LooksLikeUtf8(bytes))
+    return "Soubor je v UTF-8, čte se jako Windows-1250. Převede ho „Konverze dos - unix“ v nabídce Soubor.";
+  if (bytes.find('\n') != std::string_view::npos && bytes.find("\r\n") == std::string_view::npos)
+    return "Řádky souboru končí znakem LF. Převede je „Konverze dos - unix“ v nabídce Soubor.";
+  return {};
+}
+
 bool Utf8Survey::Take(std::string_view piece) {
   for (const char byte : piece) {
     if (malformed) return false;

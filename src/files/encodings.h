@@ -12,9 +12,9 @@
 
 namespace pelmar {
 
-// What a person is told of a file in UTF-8 that is opened. UTF-8.
-inline constexpr std::string_view kUtf8Hint =
-    "Soubor je v UTF-8, čte se jako Windows-1250. Převede ho „Konverze dos - unix“ v nabídce Soubor.";
+// What a person is told of a text of other systems that is opened: in UTF-8, or else with LF for its line ends. UTF-8;
+// "" for all other texts.
+std::string_view FormatHint(std::string_view bytes);
 
 // Where in a file something stands, each counted from 1. CR LF, CR and LF end a line; columns are characters, a byte
 // order mark is none.

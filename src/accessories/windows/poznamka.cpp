@@ -105,7 +105,7 @@ RescueContent Poznamka::Unsaved() {
           .readable = ReadableNotes,
           .known = [this](const RescuedText& note) { return Now().Page(note.place) == note.text; },
           .bring_back = [this](const auto& records) { return BringBack(records); },
-          .found = "Poznámky minule nebyly uloženy. Počet zachovaných stránek: ",
+          .found = "Poznámky minule nebyly uloženy.\r\nPočet zachovaných stránek: ",
           .wanted = "Vrátit je do poznámek ?",
           .rest_name = "notes-rescued.txt",
           .rest_told = "Všechny stránky se do poznámek nevešly. Zbylé jsou v souboru"};

@@ -22,15 +22,15 @@ FileWarnings::FileWarnings(MainWindow& window, Editor& editor, const OutsideChan
       outside_(outside),
       heard_{editor.documents.tab_selected.Add([this](int) {
                WarnOfOutside(outside_.OfCurrent());
-               WarnOfUtf8();
+               WarnOfFormat();
              }),
              editor.documents.face_changed.Add([this](int) {
                WarnOfOutside(OutsideChange::kNone);
-               WarnOfUtf8();
+               WarnOfFormat();
              }),
              editor.text.OnChange([this](const TextChange&) {
                WarnOfOutside(OutsideChange::kNone);
-               window_.Bar().Warn(Warning::kUtf8, {});
+               window_.Bar().Warn(Warning::kFormat, {});
                const std::size_t size = documents_.Text().Size();
                window_.Bar().Warn(Warning::kTooLong, size > kLargestDocument ? kTooLong.arg(size) : QString());
              })} {
@@ -46,9 +46,9 @@ void FileWarnings::WarnOfOutside(OutsideChange change) {
   window_.Bar().Warn(Warning::kChangedOutside, Utf8ToQString(OutsideNotice(change)));
 }
 
-void FileWarnings::WarnOfUtf8() {
-  const bool read_wrong = !documents_.CurrentPath().empty() && LooksLikeUtf8(documents_.Text().Text());
-  window_.Bar().Warn(Warning::kUtf8, read_wrong ? Utf8ToQString(kUtf8Hint) : QString());
+void FileWarnings::WarnOfFormat() {
+  const bool from_file = !documents_.CurrentPath().empty();
+  window_.Bar().Warn(Warning::kFormat, from_file ? Utf8ToQString(FormatHint(documents_.Text().Text())) : QString());
 }
 
 }  // namespace pelmar

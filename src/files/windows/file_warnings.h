@@ -1,7 +1,7 @@
 // Warns in the status bar of a text that could be saved but not opened again, for as long as it is that long, and of
 // the file of the document on show, until the person works on: that it was changed meanwhile, when the main window
-// becomes active and when its tab comes on show; that it is in UTF-8, when it is opened or saved and when its tab comes
-// on show.
+// becomes active and when its tab comes on show; that its encoding or its line ends are those of other systems, when it
+// is opened or saved and when its tab comes on show.
 #pragma once
 
 #include <QObject>
@@ -25,7 +25,7 @@ class FileWarnings : public QObject {
 
  private:
   void WarnOfOutside(OutsideChange change);
-  void WarnOfUtf8();
+  void WarnOfFormat();
 
   MainWindow& window_;
   const Documents& documents_;

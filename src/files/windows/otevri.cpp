@@ -25,7 +25,7 @@ void Otevri::File1_Click() {
   ShowPath(*ui_->Label1, path);
   const std::string preview = opener_.Preview(path);
   ui_->Text2->SetText(ToBytes(preview));
-  const QString hint = LooksLikeUtf8(preview) ? Utf8ToQString(kUtf8Hint) : QString();
+  const QString hint = Utf8ToQString(FormatHint(preview));
   ui_->Label3->setText(hint);
   ui_->Label3->setToolTip(hint);  // a narrow dialog cuts the line
 }

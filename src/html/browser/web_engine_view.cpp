@@ -52,6 +52,16 @@ void WebEngineView::ConnectPage() {
     if (on_progress) on_progress(percent, 100);
   });
   connect(page_, &QWebEnginePage::loadFinished, this, &WebEngineView::Finished);
+  // A link within the page loads nothing.
+  connect(page_, &QWebEnginePage::urlChanged, this, [this] {
+    if (!Busy() && on_finished) on_finished();
+  });
+  connect(page_, &QWebEnginePage::linkHovered, this, [this](const QString& address) {
+    if (on_link) on_link(address);
+  });
+  page_->on_refusal = [this](const QUrl& address) {
+    if (on_link) on_link(QStringLiteral("Tento odkaz interní browser neotvírá: ") + address.toString());
+  };
   connect(page_, &QWebEnginePage::renderProcessTerminated, this, &WebEngineView::ProcessEnded);
   page_->on_leave = [this](const QUrl& address) { Load(address); };
   // A page that asks isn't stuck, however long the person thinks.
@@ -196,9 +206,12 @@ void WebEngineView::ShowMenu(const QPoint& at) {
   const QWebEngineContextMenuRequest* request = view_->lastContextMenuRequest();
   if (request != nullptr && request->linkUrl().isValid())
     menu->addAction(page_->action(QWebEnginePage::CopyLinkToClipboard));
-  for (const auto action :
-       {QWebEnginePage::Cut, QWebEnginePage::Copy, QWebEnginePage::Paste, QWebEnginePage::SelectAll})
-    menu->addAction(page_->action(action));
+  using Request = QWebEngineContextMenuRequest;
+  for (const auto& [action, flag] : {std::pair{QWebEnginePage::Cut, Request::CanCut},
+                                     {QWebEnginePage::Copy, Request::CanCopy},
+                                     {QWebEnginePage::Paste, Request::CanPaste},
+                                     {QWebEnginePage::SelectAll, Request::CanSelectAll}})
+    if (request == nullptr || request->editFlags().testFlag(flag)) menu->addAction(page_->action(action));
   menu->popup(view_->mapToGlobal(at));
 }
 

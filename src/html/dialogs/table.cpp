@@ -89,6 +89,7 @@ void Table::ConnectWalk(AskAttributes ask_cell, AskAttributes ask_row) {
   connect(ui_->HScroll1, &QScrollBar::valueChanged, this, &Table::ShowCell);
   connect(ui_->VScroll7, &QScrollBar::valueChanged, this, &Table::ShowCell);
   connect(ui_->VScroll8, &QScrollBar::valueChanged, this, &Table::ShowRow);
+  OnEnter(ui_->Text4, [this] { GoToNextCell(); });
   connect(ui_->Text4, &QLineEdit::textChanged, this, [this](const QString& text) { Text() = TextFromQString(text); });
   connect(ui_->Text3, &QLineEdit::textChanged, this,
           [this](const QString& text) { Attributes() = TextFromQString(text); });
@@ -119,6 +120,16 @@ void Table::ShowCell() {
   ShowPosition(ui_->Label13, ui_->VScroll7, ui_->VScroll2);
   ui_->Text4->setText(TextToQString(Text()));
   ui_->Text3->setText(TextToQString(Attributes()));
+}
+
+// To the right, then to the next row, and behind the last cell to the end of it all.
+void Table::GoToNextCell() {
+  QScrollBar &column = *ui_->HScroll1, &row = *ui_->VScroll7;
+  const bool last_column = column.value() == column.maximum();
+  if (last_column && row.value() == row.maximum()) return ui_->Command1->setFocus(Qt::TabFocusReason);
+  if (last_column) row.setValue(row.value() + 1);
+  column.setValue(last_column ? column.minimum() : column.value() + 1);
+  ui_->Text4->selectAll();
 }
 
 void Table::ShowRow() {

@@ -31,6 +31,7 @@ class Table : public FragmentDialog<Ui::Table> {
   void VScroll1_Change(int columns);
   void VScroll2_Change(int rows);
   void ShowCell();
+  void GoToNextCell();
   void ShowRow();
   [[nodiscard]] TableSpec Read() const;
   bool Put() override;

@@ -33,6 +33,7 @@ QLabel* AddPanel(QStatusBar& bar, const char* name, const QString& accessible_na
   panel->setTextFormat(Qt::PlainText);
   panel->setMargin(2);
   panel->setIndent(4);
+  if (stretch > 0) panel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // however long an address is
   bar.addWidget(panel, stretch);
   return panel;
 }
@@ -68,6 +69,9 @@ void FrmBrowser::ConnectView() {
   ui_->page->addWidget(view_->Widget());
   setTabOrder(ui_->cboAddress, view_->Widget());
   view_->on_progress = [this](qint64 progress, qint64 maximum) { View_Progress(progress, maximum); };
+  view_->on_link = [this](const QString& told) {
+    status_->setText(!told.isEmpty() ? told : view_->Busy() ? QStringLiteral("Busy") : QStringLiteral("Idle"));
+  };
   view_->on_change = [this] {
     ShowCaption();
     // A page that was asked for in the page itself loads too.

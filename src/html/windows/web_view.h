@@ -41,7 +41,8 @@ class WebView {
   std::function<void()> on_change;                                   // the title changed or a load began
   std::function<void(bool)>
       on_withheld;                    // a local page has parts on the net that it didn't get; false: another page comes
-  std::function<void()> on_finished;  // a load ended, well or not
+  std::function<void()> on_finished;  // a load ended, well or not, or the page's own link led elsewhere in it
+  std::function<void(const QString&)> on_link;  // what there is to say of the link at hand; "" when it is left
 };
 
 // What the module's plug-in object is.
@@ -56,5 +57,5 @@ class WebViewMaker {
 
 }  // namespace pelmar
 
-#define PELMAR_WEB_VIEW_MAKER "cz.pelmar.vex.WebViewMaker/2"
+#define PELMAR_WEB_VIEW_MAKER "cz.pelmar.vex.WebViewMaker/3"
 Q_DECLARE_INTERFACE(pelmar::WebViewMaker, PELMAR_WEB_VIEW_MAKER)

@@ -6,6 +6,8 @@
 #include <QWindow>
 #include <algorithm>
 
+#include "platform/qt/outer_geometry.h"
+
 namespace pelmar {
 namespace {
 
@@ -36,6 +38,15 @@ void ExpectActive(QWidget* window) {
   Q_UNUSED(forgets);
   Expected() = window;
   if (window != nullptr && window->isVisible()) window->activateWindow();
+}
+
+void PutAboveAll(QWidget& window) {
+  const auto on_top = [](const QWidget* one) {
+    if (!one->isVisible()) return false;
+    const QWindow* system = one->windowHandle();
+    return (system != nullptr ? system->flags() : one->windowFlags()).testFlag(Qt::WindowStaysOnTopHint);
+  };
+  SetAlwaysOnTop(window, std::ranges::any_of(QApplication::topLevelWidgets(), on_top));
 }
 
 void ShowOnAskersScreen(QWidget& window) {

@@ -12,6 +12,9 @@ QWidget* Asker();
 // This window is to be the active one, though the window manager may make it so only later.
 void ExpectActive(QWidget* window);
 
+// What waits for an answer must not lie under a window of ours that stays on top. For a window that isn't on show.
+void PutAboveAll(QWidget& window);
+
 // A window that was never on show is to come up on the screen of the one that asks.
 void ShowOnAskersScreen(QWidget& window);
 

@@ -25,17 +25,6 @@ namespace {
 
 constexpr QSize kFileDialogSize(720, 440);
 
-// A question must not lie under a window of ours that stays on top.
-void RaiseAboveAll(QDialog& dialog) {
-  const QWidgetList windows = QApplication::topLevelWidgets();
-  const auto on_top = [](const QWidget* window) {
-    if (!window->isVisible()) return false;
-    const QWindow* system = window->windowHandle();
-    return (system != nullptr ? system->flags() : window->windowFlags()).testFlag(Qt::WindowStaysOnTopHint);
-  };
-  if (std::any_of(windows.begin(), windows.end(), on_top)) dialog.setWindowFlag(Qt::WindowStaysOnTopHint);
-}
-
 // A box of few words would be too narrow for its title to be read.
 void LeaveRoomForTitle(QMessageBox& box) {
   auto* grid = qobject_cast<QGridLayout*>(box.layout());
@@ -80,7 +69,7 @@ class Asking {
  public:
   Asking() : asker_(Asker()), dialog_(new Dialog(asker_)) {
     ShowProgramIcon();
-    RaiseAboveAll(*dialog_);
+    PutAboveAll(*dialog_);
   }
   Asking(const Asking&) = delete;
   Asking& operator=(const Asking&) = delete;
@@ -208,6 +197,13 @@ QStringList NameFilters(const QString& filter) {
   return result;
 }
 
+// ".txt" for a name that was typed without one while that kind of files was chosen.
+QString MeantExtension(const QString& name, const QString& name_filter) {
+  const QString pattern = name_filter.section(u'(', -1).chopped(1);
+  return !name.contains(u'.') && pattern.startsWith(QLatin1String("*.")) && !pattern.contains(u' ') ? pattern.mid(1)
+                                                                                                    : QString();
+}
+
 std::optional<QString> AskForFile(FileDialogKind kind, const QString& filter, int filter_index, QString& folder) {
   const QStringList filters = NameFilters(filter);
   Asking<FileDialog> dialog;
@@ -230,7 +226,8 @@ std::optional<QString> AskForFile(FileDialogKind kind, const QString& filter, in
   // By its URL, which a dialog of the desktop's own may fill with bytes that are no UTF-8.
   const QString path = PathToQString(PathOfUrl(dialog->selectedUrls().constFirst()));
   folder = QFileInfo(path).path();
-  return path;
+  const bool chosen = kind == FileDialogKind::kSave && filters.size() > 1;
+  return chosen ? path + MeantExtension(QFileInfo(path).fileName(), dialog->selectedNameFilter()) : path;
 }
 
 }  // namespace pelmar

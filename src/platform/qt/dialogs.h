@@ -24,6 +24,10 @@ enum class FileDialogKind { kOpen, kSave };
 // file's. Saving asks nothing about an existing file. Filter and index are those of Platform::OpenDialog.
 std::optional<QString> AskForFile(FileDialogKind kind, const QString& filter, int filter_index, QString& folder);
 
+// What a name to save under lacks of the chosen one of several kinds of files: the extension, "" where it has one or
+// where the filter (of NameFilters) tells none.
+QString MeantExtension(const QString& name, const QString& name_filter);
+
 // "caption|*.a;*.b|caption|*.*" as the toolkit's list, one entry a pair. An unpaired caption at the end is dropped.
 QStringList NameFilters(const QString& filter);
 

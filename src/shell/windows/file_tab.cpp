@@ -12,6 +12,7 @@ constexpr int kTallestTab = 160;
 constexpr int kCaptionMargin = 6;
 constexpr int kCorner = 4;
 constexpr int kDot = 6;
+constexpr int kDotMargin = 4;
 
 }  // namespace
 
@@ -90,10 +91,11 @@ void FileTab::PaintTab(QPainter& painter, int index) const {
   painter.rotate(90);
   QRect turned(kCaptionMargin, 0, rect.height() - 2 * kCaptionMargin, rect.width());
   if (unsaved_[static_cast<std::size_t>(index)]) {
-    turned.setRight(turned.right() - kDot - kCaptionMargin);
+    const int left = rect.height() - kDotMargin - kDot;
+    turned.setRight(left - kDotMargin);
     painter.setPen(Qt::NoPen);
     painter.setBrush(palette().brush(selected ? QPalette::Text : QPalette::ButtonText));
-    painter.drawEllipse(QRectF(rect.height() - kCaptionMargin - kDot, (rect.width() - kDot) / 2.0, kDot, kDot));
+    painter.drawEllipse(QRectF(left, (rect.width() - kDot) / 2.0, kDot, kDot));
   }
   painter.setPen(palette().color(unnamed    ? QPalette::PlaceholderText
                                  : selected ? QPalette::Text

@@ -24,7 +24,7 @@ RescueContent ModifiedDocuments(Documents& documents) {
           .readable = ReadableDocuments,
           .known = [](const RescuedText&) { return false; },
           .bring_back = [&documents](const auto& records) { return BringBackDocuments(documents, records); },
-          .found = "Program minule neskončil řádně. Počet zachovaných dokumentů: ",
+          .found = "Program minule neskončil řádně.\r\nPočet zachovaných dokumentů: ",
           .wanted = "Vrátit je do editoru ?",
           .rest_name = "rescued.txt",
           .rest_told = "Všechny dokumenty se nevešly do záložek. Zbylé jsou v souboru"};

@@ -39,8 +39,8 @@ class StatusPanel : public ElidedLabel {
 
 // What the bar warns of, the gravest first: unsaved work can't be kept in a rescue file; no file can be opened or
 // saved; the text is longer than what can be opened; the file of the document was changed meanwhile; that file is in
-// UTF-8.
-enum class Warning { kUnkept, kFilesStuck, kTooLong, kChangedOutside, kUtf8 };
+// UTF-8 or has other line ends.
+enum class Warning { kUnkept, kFilesStuck, kTooLong, kChangedOutside, kFormat };
 
 class StatusStrip : public QStatusBar {
   Q_OBJECT

@@ -495,9 +495,10 @@ TEST_F(PoznamkaTest, ADeadCopysPagesComeBackButStayUnstored) {
   platform.answers = {Answer::kYes};
   platform.TakeCalls();
   notes->OfferRescued();
-  EXPECT_EQ(platform.calls[0],
-            "message 52 \"Poznámky minule nebyly uloženy. Počet zachovaných stránek: 3.\r\nVrátit je do poznámek ?\" "
-            "\"Záchrana\"");
+  EXPECT_EQ(
+      platform.calls[0],
+      "message 52 \"Poznámky minule nebyly uloženy.\r\nPočet zachovaných stránek: 3.\r\nVrátit je do poznámek ?\" "
+      "\"Záchrana\"");
   EXPECT_EQ(Locks().size(), 1);  // the lock of what this copy keeps
   ExpectState(*notes, "", "TabStrip1=1 Text1=SECOND");
   EXPECT_EQ(File(), NotesBytes({{"first"}}));

@@ -158,9 +158,9 @@ TEST_F(MainWindowTest, TheBarWarnsOfTheGravestThatHolds) {
       {[this] { editor.text.Type("z"); }, ""},  // which marks the title as well
       {[this] { LeaveAndReturn(); }, kTheirs},
       {[this] { editor.commands.Run("Mnu_SaveFast"); }, ""},  // the file is this program's again
-      {[this] { editor.opener.OpenPath("/u.txt"); }, std::string(kUtf8Hint)},
+      {[this] { editor.opener.OpenPath("/u.txt"); }, std::string(FormatHint("\xC5\xBE"))},
       {[this] { editor.text.Type("z"); }, ""},
-      {[this] { editor.documents.SwitchTo(3), editor.documents.SwitchTo(1); }, std::string(kUtf8Hint)},
+      {[this] { editor.documents.SwitchTo(3), editor.documents.SwitchTo(1); }, std::string(FormatHint("\xC5\xBE"))},
       {[this] { platform.files["/u.txt"] = "theirs", LeaveAndReturn(); }, kTheirs},
       {[this] { editor.text.Replace(0, 0, std::string(64'000, 'x')); }, kTooLong},
       {[this] { editor.text.Undo(); }, ""},

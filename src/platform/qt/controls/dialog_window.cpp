@@ -114,6 +114,7 @@ void DialogWindow::Present() {
 
 int DialogWindow::exec() {
   const QPointer<QWidget> asker = Asker();
+  PutAboveAll(*this);
   const int result = QDialog::exec();
   ExpectActive(asker);
   return result;
@@ -167,6 +168,11 @@ bool DialogWindow::GoToNextField() {
   if (property("defaultFromFields").toBool()) return false;
   const QList<QWidget*> fields = FieldsInOrder(*this);
   const auto at = fields.indexOf(focusWidget());
+  // A bar behind tabs ends nothing either; what it leads to comes first.
+  if (at < 0 && LiesBehindTabs(focusWidget()) && qobject_cast<QScrollBar*>(focusWidget())) {
+    focusNextChild();
+    return true;
+  }
   if (at < 0) return false;
   const bool last = at + 1 == fields.size();
   if (last && !LiesBehindTabs(fields[at])) return false;
