@@ -1,6 +1,5 @@
 // The strip of five tabs. It lies under the text box and spans the window; its tabs show in the free strip at the
-// right-hand edge, captions running downwards. A tab without a file shows its number,
-// an unsaved document a dot.
+// right-hand edge, captions running downwards. A tab without a file shows its number, an unsaved document a dot.
 #pragma once
 
 #include <QTabBar>
