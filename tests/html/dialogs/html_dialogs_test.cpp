@@ -160,9 +160,11 @@ TEST_F(HtmlDialogs, WriteAnchorsAndTheirLinks) {
           {"mnukotva", "Text1=Kotva1", "", R"(<A NAME="Kotva1"></A>)"},
           {"mnuodkaz", "Combo1=část", "", R"(<A HREF="#část">Odkaz na část</A>)"}});
   Put("kept");
-  for (const auto& [command, empty] : {std::pair{"mnukotva", "Text1=''"}, {"mnuodkaz", "Combo1=''"}}) {
+  for (const auto& [command, field] : {std::pair{"mnukotva", "Text1"}, {"mnuodkaz", "Combo1"}}) {
     const QWidget& dialog = Open(command);
-    Work(dialog, empty);
+    Work(dialog, (std::string(field) + "=''").c_str());
+    QTest::keyClick(Named(dialog, field), Qt::Key_Q, Qt::AltModifier);  // no control has it
+    EXPECT_EQ(State(dialog, field), std::string(field) + "=");
     Ok(dialog);
     EXPECT_TRUE(dialog.isVisible()) << command;
   }
@@ -285,6 +287,12 @@ TEST_F(HtmlDialogs, WalkThroughATable) {
            "<TRtyped><TD></TD><TD></TD><TD NOWRAP>ř</TD></TR>¶</TABLE>"}});
   ExpectState(table, "HScroll1=3 VScroll7=3 VScroll8=3 Command4! Command5!",
               "Label12=3/3 Label13=3/3 Label16=3/3 Text3= Text4=ř Text5=");
+  // Enter goes from cell to cell and from a bar to what follows it, and ends the table only behind the last one.
+  ExpectState(table,
+              "VScroll1=2 VScroll2=2 HScroll1=1 VScroll7=1 TabStrip1=1 HScroll1:\r VScroll7:\r Text4:a\rb\rc\rd\r",
+              "Label12=2/2 Label13=2/2 Text4=d");
+  EXPECT_EQ(table.focusWidget()->objectName(), QStringLiteral("Command1"));
+  Expect({{"mnutable", "", "", "<TABLE>¶<TR><TD>a</TD><TD>b</TD></TR>¶<TR><TD>c</TD><TD>d</TD></TR>¶</TABLE>"}});
   auto* tabs = Find<QTabBar>(table, "TabStrip1");
   EXPECT_EQ(tabs->tabText(0) + tabs->tabText(1), QStringLiteral("Celá tabulkaBuňka / Řádek"));
   tabs->setCurrentIndex(1);

@@ -65,6 +65,15 @@ TEST(InputBox, GivesTheTextOrNothing) {
   }
 }
 
+TEST(FileDialog, ANameGetsTheExtensionOfTheChosenKind) {
+  const QStringList kinds = NameFilters(QStringLiteral("Vše (*.*)|*.*|text (*.txt)|*.txt|html|*.htm;*.html"));
+  QString names;
+  for (const QString& kind : kinds)
+    for (const char* name : {"a", "a.b", ".c"})
+      names += QLatin1String(name) + MeantExtension(QLatin1String(name), kind) + u' ';
+  EXPECT_EQ(names, QStringLiteral("a a.b .c a.txt a.b .c a a.b .c "));
+}
+
 TEST(FileDialog, StartsWithTheGivenFilterAndRemembersTheFolder) {
   const TempFolder temp;
   const QFileInfo letter(Utf8ToQString(temp.Put("inner/Dopis.TXT", "x"))),

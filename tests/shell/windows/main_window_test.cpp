@@ -129,6 +129,53 @@ TEST_F(MainWindowTest, TheTickShowsTheStateWhileTheWindowIsActive) {
   EXPECT_TRUE(editor.settings.LineCounting);
 }
 
+// What is open and marked: the menu of the bar, and the item in the menu at hand.
+TEST(MenuBar, GoesByAccessKeysAndFirstLetters) {
+  ScriptedPlatform platform;
+  Program program(platform);
+  MainWindowTest::Activate(program.Main());
+  MenuBar& bar = program.Main().Menus();
+  bar.Apply({});  // without a text "Hledání" is grey
+  const auto pressed = [&](Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QWidget* popup = QApplication::activePopupWidget();
+    QTest::keyClick(popup != nullptr ? popup : &bar, key, modifiers);
+    const auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    const QAction* item = menu != nullptr ? menu->activeAction() : nullptr;
+    return ((bar.activeAction() != nullptr ? bar.activeAction()->text() : QString()) + u'/' +
+            (item != nullptr ? item->text() : QString()))
+        .toStdString();
+  };
+  const std::tuple<Qt::Key, Qt::KeyboardModifier, const char*> steps[] = {
+      {Qt::Key_L, Qt::NoModifier, "/"},
+      {Qt::Key_T, Qt::NoModifier, "&Text/&Základní"},
+      {Qt::Key_L, Qt::AltModifier, "&Text/&Základní"},
+      {Qt::Key_V, Qt::AltModifier, "&Text/8"},  // its own item "&Velikost", not the menu "&Vlož"
+      {Qt::Key_Left, Qt::NoModifier, "&Text/&Velikost"},
+      {Qt::Key_T, Qt::AltModifier, "H&tml/Horizontální čára"},
+      {Qt::Key_T, Qt::NoModifier, "H&tml/Tabulky"},  // shut
+      {Qt::Key_T, Qt::NoModifier, "H&tml/Testuj html"},
+      {Qt::Key_Q, Qt::NoModifier, "H&tml/Testuj html"},
+      {Qt::Key_Alt, Qt::NoModifier, "/"},
+      {Qt::Key_T, Qt::AltModifier, "&Text/&Základní"}};
+  for (const auto& [key, modifier, expected] : steps) EXPECT_EQ(pressed(key, modifier), expected) << key;
+  pressed(Qt::Key_Alt);
+}
+
+TEST_F(MainWindowTest, TheToolbarGoesByTheKeyboard) {
+  const auto button = [&](const char* key) { return window.Toolbar().widgetForAction(Item(key)); };
+  editor.text.SetText("x");
+  QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"), true);
+  QApplication::sendEvent(button("Bold"), &held);
+  EXPECT_EQ(editor.text.Text(), "x");
+  QTest::keyClick(button("Bold"), Qt::Key_Return);
+  EXPECT_NE(editor.text.Text(), "x");
+  Inside([] { QApplication::activePopupWidget()->close(); });
+  QTest::keyClick(button("Recent"), Qt::Key_Down);
+  button("Bold")->setFocus();
+  QTest::keyClick(button("Bold"), Qt::Key_Escape);
+  EXPECT_EQ(window.focusWidget(), &window.Text());
+}
+
 TEST_F(MainWindowTest, TheTickSnapsTheWindowToTheEdges) {
   editor.settings.AutosnapDistance = 240;
   Activate(other);
