@@ -90,10 +90,7 @@ void WebEnginePage::AskToLeaveTheDisk(const QUrl& address) {
 
 bool WebEnginePage::acceptNavigationRequest(const QUrl& address, NavigationType type, bool is_main_frame) {
   if (!is_main_frame) return MayBeFramed(address);
-  if (!MayBeShown(address)) {
-    if (type == NavigationTypeLinkClicked && on_refusal) on_refusal(address);
-    return false;
-  }
+  if (!MayBeShown(address)) return false;
   const bool let_go = std::exchange(leaving_, false) || (type == NavigationTypeRedirect && gate_.IsOpen());
   if (LeavesTheDisk(address) && !let_go) {
     AskToLeaveTheDisk(address);

@@ -36,7 +36,6 @@ class WebEnginePage : public QWebEnginePage {
   [[nodiscard]] bool RunsScripts() const { return !loads_from_net_; }
   [[nodiscard]] bool Asking() const { return question_ != nullptr; }
 
-  std::function<void(const QUrl&)> on_refusal;        // a link that was clicked leads where pages don't lie
   std::function<void()> on_coming;                    // another page is about to come
   std::function<void()> on_asking;                    // a question is about to be shown
   std::function<void()> on_answered;                  // a question has gone

@@ -59,9 +59,6 @@ void WebEngineView::ConnectPage() {
   connect(page_, &QWebEnginePage::linkHovered, this, [this](const QString& address) {
     if (on_link) on_link(address);
   });
-  page_->on_refusal = [this](const QUrl& address) {
-    if (on_link) on_link(QStringLiteral("Tento odkaz interní browser neotvírá: ") + address.toString());
-  };
   connect(page_, &QWebEnginePage::renderProcessTerminated, this, &WebEngineView::ProcessEnded);
   page_->on_leave = [this](const QUrl& address) { Load(address); };
   // A page that asks isn't stuck, however long the person thinks.

@@ -69,8 +69,9 @@ void FrmBrowser::ConnectView() {
   ui_->page->addWidget(view_->Widget());
   setTabOrder(ui_->cboAddress, view_->Widget());
   view_->on_progress = [this](qint64 progress, qint64 maximum) { View_Progress(progress, maximum); };
-  view_->on_link = [this](const QString& told) {
-    status_->setText(!told.isEmpty() ? told : view_->Busy() ? QStringLiteral("Busy") : QStringLiteral("Idle"));
+  view_->on_link = [this](const QString& address) {
+    link_ = address;
+    ShowState();
   };
   view_->on_change = [this] {
     ShowCaption();
@@ -169,14 +170,16 @@ void FrmBrowser::NavigateToBox() {
 void FrmBrowser::ShowCaption() { setWindowTitle(PlainTitle(BrowserCaption(Utf8FromQString(view_->LocationName())))); }
 
 void FrmBrowser::timTimer_Timer() {
-  if (view_->Busy()) {
-    status_->setText(QStringLiteral("Busy"));
-    ui_->Picture1->Step();
-    return;
-  }
+  ShowState();
+  if (view_->Busy()) return ui_->Picture1->Step();
   timTimer.stop();
   ShowCaption();
-  status_->setText(QStringLiteral("Idle"));
+}
+
+// While nothing loads, the link that is pointed at has the place.
+void FrmBrowser::ShowState() {
+  const QString idle = link_.isEmpty() ? QStringLiteral("Idle") : link_;
+  status_->setText(view_->Busy() ? QStringLiteral("Busy") : idle);
 }
 
 void FrmBrowser::View_Progress(qint64 progress, qint64 maximum) {
@@ -222,7 +225,7 @@ void FrmBrowser::Stop_Click() {
   timTimer.stop();
   view_->Stop();
   ShowCaption();
-  // No tick comes any more that would say so.
+  // No tick comes any more that would say so, and the engine may tell of its end later.
   status_->setText(QStringLiteral("Idle"));
 }
 

@@ -53,6 +53,7 @@ class FrmBrowser : public QMainWindow {
   void Load(const QString& address);
   void ShowCaption();
   void timTimer_Timer();
+  void ShowState();
   void View_Progress(qint64 progress, qint64 maximum);
   void View_Finished();
   // Says where a local page is in UTF-8 that it doesn't declare.
@@ -67,6 +68,7 @@ class FrmBrowser : public QMainWindow {
   Platform& platform_;
   std::function<void()> end_program_;
   std::unique_ptr<Ui::frmBrowser> ui_;
+  QString link_;  // the one that is pointed at
   QLabel* status_ = nullptr;
   QLabel* progress_ = nullptr;
   QLabel* encoding_ = nullptr;

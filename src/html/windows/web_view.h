@@ -42,7 +42,7 @@ class WebView {
   std::function<void(bool)>
       on_withheld;                    // a local page has parts on the net that it didn't get; false: another page comes
   std::function<void()> on_finished;  // a load ended, well or not, or the page's own link led elsewhere in it
-  std::function<void(const QString&)> on_link;  // what there is to say of the link at hand; "" when it is left
+  std::function<void(const QString&)> on_link;  // the address of the link that is pointed at; "" when it is left
 };
 
 // What the module's plug-in object is.

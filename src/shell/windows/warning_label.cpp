@@ -16,6 +16,11 @@ WarningLabel::WarningLabel(QWidget* parent) : ElidedLabel(parent) {
   setForegroundRole(QPalette::HighlightedText);
 }
 
+QSize WarningLabel::sizeHint() const {
+  const int whole = fontMetrics().horizontalAdvance(text()) + 1;
+  return {contentsMargins().left() + whole + contentsMargins().right(), ElidedLabel::sizeHint().height()};
+}
+
 void WarningLabel::showEvent(QShowEvent* event) {
   ElidedLabel::showEvent(event);
   QAccessibleEvent alert(this, QAccessible::Alert);

@@ -12,7 +12,7 @@ class WarningLabel : public ElidedLabel {
   explicit WarningLabel(QWidget* parent);
 
   // What the whole text needs.
-  QSize sizeHint() const override { return QLabel::sizeHint(); }
+  QSize sizeHint() const override;
 
  protected:
   void showEvent(QShowEvent* event) override;
