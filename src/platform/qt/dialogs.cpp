@@ -1,5 +1,6 @@
 #include "platform/qt/dialogs.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QFileDialog>
 #include <QFileIconProvider>
