@@ -25,6 +25,12 @@ void PreferX11() {
     qputenv("QT_QPA_PLATFORM", "xcb");
 }
 
+// The toolkit would abort without one, in English.
+bool HasDisplay() {
+  return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
+         qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+}
+
 // A status that a script can trust: a full disk or a closed output is an error.
 int Print(std::string_view text) {
   const bool written = std::fwrite(text.data(), 1, text.size(), stdout) == text.size() && std::fflush(stdout) == 0;
@@ -38,6 +44,10 @@ int main(int argc, char** argv) {
   if (argc > 0)
     if (const auto text = pelmar::TerminalAnswer(std::span(argv, static_cast<std::size_t>(argc)).subspan(1)))
       return Print(*text);
+  if (!HasDisplay()) {
+    std::fputs("pelmar-vex: chybí obrazovka (není nastaveno DISPLAY ani WAYLAND_DISPLAY)\n", stderr);
+    return EXIT_FAILURE;
+  }
   PreferX11();
   QStringList arguments;
   for (int i = 1; i < argc; ++i) arguments.append(pelmar::PathToQString(argv[i]));
