@@ -87,7 +87,8 @@ class EditorTest(EditorCase):
         self.start("")
         # White ground and wine-red text; then what is typed goes over the marker that stands selected.
         self.work(f"""alt+s v [HTML  - Vytvoření] ctrl+a "Kocka" {color} Return / {color} {8 * "Page_Down "} Return /
-            [HTML  - Vytvoření] alt+o / [Pelmar VEX ()*] "Nase kocka" ctrl+u [Uložit] ctrl+a "kocka" Return /
+            [HTML  - Vytvoření] alt+o / [Pelmar VEX ()*] alt+v Alt_L "Nase kocka"
+            ctrl+u [Uložit] ctrl+a "kocka" Return /
             [Pelmar VEX ({page})]""")
         text = page.read_bytes().decode("cp1250")
         for part in ("<TITLE>Kocka</TITLE>", ' <BODY BGCOLOR="#FFFFFF" TEXT="#500000">\r\nNase kocka\r\n'):

@@ -46,7 +46,12 @@ void RemoveRow(QListWidget& list) {
 }
 
 void RemoveByKey(QListWidget& list, QAbstractButton& remove) {
-  new QShortcut(QKeySequence(Qt::Key_Delete), &list, &remove, &QAbstractButton::click, Qt::WidgetShortcut);
+  auto* key = new QShortcut(QKeySequence(Qt::Key_Delete), &list);
+  key->setContext(Qt::WidgetShortcut);
+  key->setAutoRepeat(false);
+  QObject::connect(key, &QShortcut::activated, &remove, [&list, &remove] {
+    if (SelectedRow(list) >= 0) remove.click();  // which takes the last row where none is
+  });
 }
 
 std::vector<std::string> RowTexts(const QListWidget& list) {

@@ -12,6 +12,7 @@
 #include "html/browser_texts.h"
 #include "html/windows/web_address.h"
 #include "platform/qt/asker.h"
+#include "platform/qt/controls/elided_label.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/outer_geometry.h"
 #include "platform/qt/placement.h"
@@ -27,13 +28,12 @@ constexpr qint64 kLongestPage = qint64{4} << 20;  // bytes that are looked at
 constexpr std::string_view kOpenFilter = "Všechno (*.*)|*.*|htm (*.htm)|*.htm|html (*.html)|*.html";
 
 QLabel* AddPanel(QStatusBar& bar, const char* name, const QString& accessible_name, int stretch) {
-  auto* panel = new QLabel(&bar);
+  QLabel* panel = stretch > 0 ? new ElidedLabel(&bar) : new QLabel(&bar);  // an address may be of any length
   panel->setObjectName(QLatin1String(name));
   panel->setAccessibleName(accessible_name);
   panel->setTextFormat(Qt::PlainText);
   panel->setMargin(2);
   panel->setIndent(4);
-  if (stretch > 0) panel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);  // however long an address is
   bar.addWidget(panel, stretch);
   return panel;
 }
@@ -180,6 +180,7 @@ void FrmBrowser::timTimer_Timer() {
 void FrmBrowser::ShowState() {
   const QString idle = link_.isEmpty() ? QStringLiteral("Idle") : link_;
   status_->setText(view_->Busy() ? QStringLiteral("Busy") : idle);
+  status_->setToolTip(link_);
 }
 
 void FrmBrowser::View_Progress(qint64 progress, qint64 maximum) {

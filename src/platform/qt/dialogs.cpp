@@ -83,6 +83,9 @@ class Asking {
   [[nodiscard]] bool Accepted() { return Result() == QDialog::Accepted; }
   // What the dialog ends with; nothing where it went with its window.
   [[nodiscard]] int Result() {
+    for (auto* button : dialog_->template findChildren<QAbstractButton*>())
+      button->installEventFilter(new HeldEnter(button));
+    for (auto* line : dialog_->template findChildren<QLineEdit*>()) line->installEventFilter(new HeldEnter(line));
     const int result = dialog_->exec();
     return dialog_.isNull() ? 0 : result;
   }
@@ -146,7 +149,6 @@ int Show(const QString& text, const QString& title, const std::function<void(Box
   box->setTextFormat(Qt::PlainText);
   box->setText(text);
   equip(*box);
-  for (QAbstractButton* button : box->buttons()) button->installEventFilter(new HeldEnter(button));
   LeaveRoomForTitle(*box);
   return box.Result();
 }

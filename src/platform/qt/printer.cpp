@@ -88,7 +88,11 @@ PrintOutcome PrintIntoPdf(const PrintFont& font, const QString& name, const std:
     outcome.error = errno != 0 ? errno : EIO;
     return outcome;
   };
-  if (!QDir().mkpath(folder) || !file.open(QIODevice::ReadWrite | QIODevice::NewOnly)) return failed();
+  if (!QDir().mkpath(folder)) {
+    if (errno == EEXIST) errno = ENOTDIR;  // a file has its name
+    return failed();
+  }
+  if (!file.open(QIODevice::ReadWrite | QIODevice::NewOnly)) return failed();
   QPdfWriter writer(&file);
   writer.setTitle(name);
   writer.setCreator(QStringLiteral("Pelmar VEX"));

@@ -31,14 +31,20 @@ bool HasAccessKey(const QAction& action, const QKeySequence& key) {
   return action.isVisible() && QKeySequence::mnemonic(action.text()) == key;
 }
 
+bool CanBeChosen(const QAction* item) { return item->isVisible() && item->isEnabled() && !item->isSeparator(); }
+
+QChar Initial(const QString& text) {
+  const auto letter = std::ranges::find_if(text, [](QChar ch) { return ch.isLetterOrNumber(); });
+  return letter == text.end() ? QChar() : letter->toLower();
+}
+
 // Behind the item at hand, in a circle. An item with an access key is opened by that alone.
 QAction* NextByInitial(const QMenu& menu, QChar letter) {
   const auto first = menu.actions().indexOf(menu.activeAction()) + 1;
   QList<QAction*> items = menu.actions();
   std::rotate(items.begin(), items.begin() + first, items.end());
   const auto found = std::ranges::find_if(items, [letter](const QAction* item) {
-    return item->isVisible() && item->isEnabled() && !item->isSeparator() && !item->text().contains(u'&') &&
-           item->text().startsWith(letter, Qt::CaseInsensitive);
+    return CanBeChosen(item) && !item->text().contains(u'&') && Initial(item->text()) == letter.toLower();
   });
   return found == items.end() ? nullptr : *found;
 }
@@ -48,14 +54,6 @@ void GoTo(QMenu& menu, const QAction* item) {
   QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
   for (auto left = menu.actions().size(); left > 0 && menu.activeAction() != item; --left)
     static_cast<QObject&>(menu).event(&down);
-}
-
-// As Alt does by itself, so that the bar knows of it too.
-void CloseMenus() {
-  QKeyEvent alt(QEvent::KeyPress, Qt::Key_Alt, Qt::NoModifier);
-  constexpr int kDeepest = 4;
-  for (int level = 0; level < kDeepest; ++level)
-    if (QObject* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) menu->event(&alt);
 }
 
 }  // namespace
@@ -70,7 +68,11 @@ MenuBar::MenuBar(const Commands& commands, QWidget* parent) : QMenuBar(parent), 
     if (item.kind == MenuKind::kSubmenu) {
       auto* menu = new QMenu(caption, this);
       menu->installEventFilter(this);
-      connect(menu, &QMenu::aboutToShow, this, [this] { alt_alone_ = false; });
+      connect(menu, &QMenu::aboutToShow, this, [this] {
+        alt_alone_ = false;
+        QWidget* focus = QApplication::focusWidget();
+        if (focus != nullptr && focus != this && !qobject_cast<QMenu*>(focus)) before_ = focus;
+      });
       menu->setAccessibleName(QString(caption).remove(QLatin1Char('&')));
       action = menu->menuAction();
       open.push_back(menu);
@@ -133,7 +135,8 @@ bool MenuBar::OpenByAccessKey(const QKeySequence& key) {
   QAction* const next = menus[(menus.indexOf(activeAction()) + 1) % menus.size()];
   if (!next->isEnabled()) return true;
   setActiveAction(next);
-  GoTo(*next->menu(), next->menu()->actions().constFirst());
+  const QList<QAction*> items = next->menu()->actions();
+  if (const auto first = std::ranges::find_if(items, CanBeChosen); first != items.end()) GoTo(*next->menu(), *first);
   return true;
 }
 
@@ -159,6 +162,20 @@ bool MenuBar::eventFilter(QObject* watched, QEvent* event) {
   return true;
 }
 
+// By the key that closes one menu after the other, and then leaves the bar, which has yet to hear of the Alt.
+void MenuBar::CloseMenus() {
+  QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+  constexpr int kDeepest = 4;
+  for (int level = 0; level < kDeepest; ++level)
+    if (QObject* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) menu->event(&escape);
+  const auto leave = [this] {
+    QKeyEvent last(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    QMenuBar::keyPressEvent(&last);
+    if (before_ && !before_->hasFocus()) before_->setFocus(Qt::MenuBarFocusReason);
+  };
+  QMetaObject::invokeMethod(this, leave, Qt::QueuedConnection);
+}
+
 // Many items have no access key, and answer to their first letter. No letter is for the menu behind.
 bool MenuBar::KeyInMenu(QMenu& menu, const QKeyEvent& key) {
   alt_alone_ = false;
@@ -166,7 +183,8 @@ bool MenuBar::KeyInMenu(QMenu& menu, const QKeyEvent& key) {
   const QKeySequence access(Qt::ALT | key.key());
   if (alt && activeAction() != nullptr && HasAccessKey(*activeAction(), access)) return OpenByAccessKey(access);
   const QList<QAction*> items = menu.actions();
-  if (std::ranges::any_of(items, [&access](const QAction* item) { return HasAccessKey(*item, access); })) return false;
+  const auto answers = [&access](const QAction* item) { return item->isEnabled() && HasAccessKey(*item, access); };
+  if (std::ranges::any_of(items, answers)) return false;
   if (alt) return activeAction() != nullptr && OpenByAccessKey(access);
   if (key.text().size() != 1 || !key.text().front().isLetterOrNumber()) return false;
   if (const QAction* next = NextByInitial(menu, key.text().front())) GoTo(menu, next);

@@ -3,6 +3,7 @@
 
 #include <QAction>
 #include <QMenuBar>
+#include <QPointer>
 #include <functional>
 #include <map>
 #include <string>
@@ -41,12 +42,14 @@ class MenuBar : public QMenuBar {
 
  private:
   bool OpenByAccessKey(const QKeySequence& key);
+  void CloseMenus();
   bool KeyInMenu(QMenu& menu, const QKeyEvent& key);
   void SetEnabled(std::span<const std::string_view> names, bool enabled);
   [[nodiscard]] bool Served(const QAction* action, std::string_view name) const;
 
   const Commands& commands_;
-  bool alt_alone_ = false;  // pressed over an open menu, and nothing since
+  QPointer<QWidget> before_;  // had the keyboard before the bar
+  bool alt_alone_ = false;    // pressed over an open menu, and nothing since
   std::map<std::string, QAction*, std::less<>> actions_;
 };
 

@@ -54,7 +54,9 @@ void StatusTimer::Tick() {
   // Before the text is asked for: meanwhile its owner may put another one there.
   const std::uint64_t revision = editor_.platform.ClipboardRevision();
   const std::optional<std::string>& clipboard = editor_.platform.ClipboardContent();
-  window_.Menus().Apply(ComputeMenuState(editor_.text, editor_.documents.CurrentPath(), clipboard));
+  // A menu of the bar that changes would let go of the one that is open.
+  if (QApplication::activePopupWidget() == nullptr)
+    window_.Menus().Apply(ComputeMenuState(editor_.text, editor_.documents.CurrentPath(), clipboard));
   ShowPanels(revision, clipboard);
   StatusStrip& bar = window_.Bar();
   bar.Show(editor_.platform.Keys());

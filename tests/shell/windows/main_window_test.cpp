@@ -139,6 +139,7 @@ TEST(MenuBar, GoesByAccessKeysAndFirstLetters) {
   const auto pressed = [&](Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
     QWidget* popup = QApplication::activePopupWidget();
     QTest::keyClick(popup != nullptr ? popup : &bar, key, modifiers);
+    QCoreApplication::processEvents();
     const auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
     const QAction* item = menu != nullptr ? menu->activeAction() : nullptr;
     return ((bar.activeAction() != nullptr ? bar.activeAction()->text() : QString()) + u'/' +

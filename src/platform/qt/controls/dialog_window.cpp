@@ -115,7 +115,12 @@ void DialogWindow::Present() {
 int DialogWindow::exec() {
   const QPointer<QWidget> asker = Asker();
   PutAboveAll(*this);
+  if (prepared_ && asker && asker->screen() != screen()) {
+    ShowOnAskersScreen(*this);
+    CentreOnScreen(*this);
+  }
   const int result = QDialog::exec();
+  SetAlwaysOnTop(*this, false);
   ExpectActive(asker);
   return result;
 }
