@@ -74,9 +74,12 @@ void Write(Platform& platform, const std::string& path, const std::string& targe
 std::string_view FormatHint(std::string_view bytes) {
   if (LooksLikeUtf8(bytes))
     return "Soubor je v UTF-8, čte se jako Windows-1250. Převede ho „Konverze dos - unix“ v nabídce Soubor.";
-  if (bytes.find('\n') != std::string_view::npos && bytes.find("\r\n") == std::string_view::npos)
-    return "Řádky souboru končí znakem LF. Převede je „Konverze dos - unix“ v nabídce Soubor.";
-  return {};
+  bool whole = false, lone = false;
+  for (std::size_t at = bytes.find('\n'); at != std::string_view::npos; at = bytes.find('\n', at + 1))
+    (at > 0 && bytes[at - 1] == '\r' ? whole : lone) = true;
+  if (!lone) return {};
+  return whole ? "Část řádků souboru končí jen znakem LF. Převede je „Konverze dos - unix“ v nabídce Soubor."
+               : "Řádky souboru končí znakem LF. Převede je „Konverze dos - unix“ v nabídce Soubor.";
 }
 
 bool Utf8Survey::Take(std::string_view piece) {

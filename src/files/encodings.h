@@ -12,7 +12,7 @@
 
 namespace pelmar {
 
-// What a person is told of a text of other systems that is opened: in UTF-8, or else with LF for its line ends. UTF-8;
+// What a person is told of a text of other systems that is opened: in UTF-8, or else with LF for line ends. UTF-8;
 // "" for all other texts.
 std::string_view FormatHint(std::string_view bytes);
 

@@ -234,6 +234,15 @@ TEST(LineEnds, EqualASlowWalkThroughRandomTexts) {
   }
 }
 
+TEST(Encodings, OfOtherSystemsAreTold) {
+  const std::pair<std::string_view, std::string_view> cases[] = {
+      {"\xC5\xBE\n", "Soubor je v UTF-8"}, {"\na", "Řádky souboru"}, {"a\r\n\n", "Část řádků"}, {"\xBE\r\na\r", ""}};
+  for (const auto& [text, told] : cases) {
+    EXPECT_TRUE(FormatHint(text).starts_with(told)) << text;
+    EXPECT_EQ(FormatHint(text).empty(), told.empty()) << text;
+  }
+}
+
 TEST(Encodings, AnyTextGoesThereAndBackBesideItsFile) {
   RandomSource random(3);
   const std::pair<const char*, const char*> stems[] = {
