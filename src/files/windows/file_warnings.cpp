@@ -9,7 +9,9 @@
 namespace pelmar {
 namespace {
 
-const QString kTooLong = QStringLiteral("Text má %1 znaků, znovu otevřít jich lze nejvýše 64000");
+QString TooLong(std::size_t size) {
+  return QStringLiteral("Text má %1 znaků, znovu otevřít jich lze nejvýše %2").arg(size).arg(kLargestDocument);
+}
 
 }  // namespace
 
@@ -32,7 +34,7 @@ FileWarnings::FileWarnings(MainWindow& window, Editor& editor, const OutsideChan
                WarnOfOutside(OutsideChange::kNone);
                window_.Bar().Warn(Warning::kFormat, {});
                const std::size_t size = documents_.Text().Size();
-               window_.Bar().Warn(Warning::kTooLong, size > kLargestDocument ? kTooLong.arg(size) : QString());
+               window_.Bar().Warn(Warning::kTooLong, size > kLargestDocument ? TooLong(size) : QString());
              })} {
   window.installEventFilter(this);
 }

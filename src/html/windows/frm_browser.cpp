@@ -71,6 +71,7 @@ void FrmBrowser::ConnectView() {
   view_->on_progress = [this](qint64 progress, qint64 maximum) { View_Progress(progress, maximum); };
   view_->on_link = [this](const QString& address) {
     link_ = address;
+    status_->setToolTip(address);
     ShowState();
   };
   view_->on_change = [this] {
@@ -180,7 +181,6 @@ void FrmBrowser::timTimer_Timer() {
 void FrmBrowser::ShowState() {
   const QString idle = link_.isEmpty() ? QStringLiteral("Idle") : link_;
   status_->setText(view_->Busy() ? QStringLiteral("Busy") : idle);
-  status_->setToolTip(link_);
 }
 
 void FrmBrowser::View_Progress(qint64 progress, qint64 maximum) {

@@ -93,10 +93,10 @@ bool LiesBehindTabs(const QWidget* widget) {
 
 }  // namespace
 
-void ScaleLetters(QWidget& form) {
+void DialogWindow::ScaleLetters() {
   constexpr double kPlain = 9;
   const double scale = QFontInfo(QApplication::font()).pointSizeF() / kPlain;
-  for (QWidget* widget : form.findChildren<QWidget*>()) {
+  for (QWidget* widget : findChildren<QWidget*>()) {
     QFont letters = widget->font();
     if (!widget->testAttribute(Qt::WA_SetFont) || (letters.resolveMask() & QFont::SizeResolved) == 0) continue;
     letters.setPointSizeF(letters.pointSizeF() * scale);

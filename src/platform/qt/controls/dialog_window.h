@@ -37,6 +37,8 @@ class DialogWindow : public QDialog {
  protected:
   // Enter in this field runs `act` and goes no further, so not to the default button either.
   void OnEnter(QWidget* field, std::function<void()> act);
+  // Of the form that was just set up, which gives its own sizes as beside plain letters of 9 points.
+  void ScaleLetters();
 
   bool eventFilter(QObject* watched, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
@@ -54,9 +56,6 @@ class DialogWindow : public QDialog {
   bool prepared_ = false;
 };
 
-// For a form that was just set up: it gives its own sizes of letters as beside plain ones of 9 points.
-void ScaleLetters(QWidget& form);
-
 // A window with its form. Sharing lets the windows do without destructors of their own, which would have to know the
 // form: nobody else holds it.
 template <class Form>
@@ -64,7 +63,7 @@ class FormDialog : public DialogWindow {
  protected:
   explicit FormDialog(QWidget* parent) : DialogWindow(parent), ui_(std::make_shared<Form>()) {
     ui_->setupUi(this);
-    ScaleLetters(*this);
+    ScaleLetters();
   }
 
   const std::shared_ptr<Form> ui_;
