@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QPointer>
 #include <functional>
 
 #include "platform/runtime_error.h"
@@ -17,6 +18,11 @@ class Application : public QApplication {
   // Called with a RuntimeError that no handler of the program caught, or with ENOMEM where memory has run out; doesn't
   // return.
   std::function<void(const RuntimeError&)> on_runtime_error;
+
+ private:
+  bool IsEnterFromElsewhere(const QObject& receiver, const QEvent& event);
+
+  QPointer<const QObject> enter_went_to_;  // when it was pressed last
 };
 
 // Ends the program with this status when the event at hand is over, also where its loop hasn't begun yet.

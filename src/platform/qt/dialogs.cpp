@@ -1,6 +1,5 @@
 #include "platform/qt/dialogs.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QFileDialog>
 #include <QFileIconProvider>
@@ -32,17 +31,6 @@ void LeaveRoomForTitle(QMessageBox& box) {
   if (grid == nullptr) return;
   grid->addItem(new QSpacerItem(WidthOfTitle(box), 0), grid->rowCount(), 0, 1, grid->columnCount());
 }
-
-// The Enter that has led to a question is no answer to it, however long it is held.
-class HeldEnter : public QObject {
- public:
-  using QObject::QObject;
-  bool eventFilter(QObject*, QEvent* event) override {
-    if (event->type() != QEvent::KeyPress) return false;
-    const auto& key = static_cast<QKeyEvent&>(*event);
-    return key.isAutoRepeat() && (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter);
-  }
-};
 
 // A box that tells Escape and the close box of a question from its No: the toolkit's would press the button.
 class Box : public QMessageBox {
@@ -83,9 +71,6 @@ class Asking {
   [[nodiscard]] bool Accepted() { return Result() == QDialog::Accepted; }
   // What the dialog ends with; nothing where it went with its window.
   [[nodiscard]] int Result() {
-    for (auto* button : dialog_->template findChildren<QAbstractButton*>())
-      button->installEventFilter(new HeldEnter(button));
-    for (auto* line : dialog_->template findChildren<QLineEdit*>()) line->installEventFilter(new HeldEnter(line));
     const int result = dialog_->exec();
     return dialog_.isNull() ? 0 : result;
   }

@@ -183,7 +183,6 @@ class TextBox : public QAbstractScrollArea {
   QRect shown_caret_;
   QColor text_color_;
   QColor background_color_;
-  bool enter_is_here_ = false;  // the key went down in this box
   bool read_only_ = false;
   bool standard_shortcuts_ = true;
   bool tab_changes_focus_ = false;

@@ -34,11 +34,6 @@ bool TextBox::event(QEvent* event) {
 // ---- keyboard
 
 void TextBox::keyPressEvent(QKeyEvent* event) {
-  // An Enter that went down in a box and has closed it is none for the text, however long it is held.
-  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-    if (!event->isAutoRepeat()) enter_is_here_ = true;
-    if (!enter_is_here_) return event->accept();
-  }
   if (const auto key = TextKeyOf(*event, standard_shortcuts_)) {
     if (read_only_ && ChangesText(key->command)) return event->ignore();
     Do(*key);
@@ -290,7 +285,6 @@ void TextBox::focusInEvent(QFocusEvent* event) {
 
 void TextBox::focusOutEvent(QFocusEvent* event) {
   QAbstractScrollArea::focusOutEvent(event);
-  enter_is_here_ = false;
   if (caret_stays_) {
     blink_.Start(false);
   } else {
