@@ -21,21 +21,10 @@ std::string_view Middle(std::string_view text, std::size_t from, std::ptrdiff_t 
   return text.substr(std::min(from, text.size()), static_cast<std::size_t>(count));
 }
 
-std::string Replaced(std::string_view text, std::string_view find, std::string_view with) {
-  std::string result;
-  result.reserve(text.size());
-  std::size_t from = 0;
-  for (std::size_t hit = text.find(find); hit != std::string_view::npos; hit = text.find(find, from)) {
-    result.append(text, from, hit - from).append(with);
-    from = hit + find.size();
-  }
-  return result.append(text, from);
-}
-
 // required: by way of the marker, so a marker that stands in the text turns into the new text as well
 std::string ReplacedByMarker(std::string_view text, std::string_view find, std::string_view with) {
   const std::string_view marker(&kMarker, 1);
-  return Replaced(Replaced(text, find, marker), marker, with);
+  return ReplaceAllText(ReplaceAllText(text, find, marker), marker, with);
 }
 
 void CollapseBlanks(std::string& text) {

@@ -1,10 +1,8 @@
 #include "shell/common.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <cstddef>
 
-#include "platform/runtime_error.h"
 #include "text/codepage.h"
 
 namespace pelmar {
@@ -30,38 +28,20 @@ std::string RandomCase(std::string_view text, const Draw& draw) {
 }
 
 std::string ReplaceAllText(std::string_view text, std::string_view find, std::string_view with) {
-  if (find.empty() || with.find(find, 1) != std::string_view::npos)
-    throw RuntimeError(EINVAL, "ReplaceAllText: nahrazování by neskončilo");
-  // What is still to be searched lies reversed in `ahead`, so that a replacement is put in front of it at its end and
-  // nothing behind a hit ever moves: linear where the plain loop over one string is quadratic.
-  std::string done;
-  done.reserve(text.size());
-  std::string ahead(text.rbegin(), text.rend());
-  const std::string wanted(find.rbegin(), find.rend());
-  while (true) {
-    const std::size_t hit = ahead.rfind(wanted);
-    if (hit == std::string::npos) break;
-    done.append(ahead.rbegin(), ahead.rend() - static_cast<std::ptrdiff_t>(hit + wanted.size()));
-    ahead.resize(hit);
-    ahead.append(with.rbegin(), with.rend());
-    if (ahead.empty()) break;
-    done += ahead.back();
-    ahead.pop_back();
+  std::string result;
+  std::size_t from = 0;  // where the next occurrence may begin
+  for (const char ch : text) {
+    result += ch;
+    if (result.size() < from + find.size() || !result.ends_with(find)) continue;
+    const std::size_t hit = result.size() - find.size();
+    result.replace(hit, find.size(), with);
+    from = hit + 1;
   }
-  done.append(ahead.rbegin(), ahead.rend());
-  return done;
+  return result;
 }
 
-// By blocks whose count fits into a byte, so that the compiler compares many bytes at once.
 std::int32_t CountLineFeeds(std::string_view text) {
-  constexpr std::size_t kBlock = 128;
-  std::int32_t count = 0;
-  for (; text.size() >= kBlock; text.remove_prefix(kBlock)) {
-    std::uint8_t of_block = 0;
-    for (std::size_t i = 0; i < kBlock; ++i) of_block = static_cast<std::uint8_t>(of_block + (text[i] == '\n' ? 1 : 0));
-    count += of_block;
-  }
-  return count + static_cast<std::int32_t>(std::ranges::count(text, '\n'));
+  return static_cast<std::int32_t>(std::ranges::count(text, '\n'));
 }
 
 std::string NumberWithSignBlank(std::int64_t number) { return (number < 0 ? "" : " ") + std::to_string(number); }

@@ -18,10 +18,8 @@ std::string StripDiacritics(std::string_view text);
 // Each character in upper or lower case as `draw` says, one draw each.
 std::string RandomCase(std::string_view text, const Draw& draw);
 
-// Replaces each exact occurrence of `find`, from the left. The search goes on one character behind the start of each
-// replacement. required: the replacement's own later characters are read again, which callers rely on. Throws
-// RuntimeError (EINVAL) where that would never end: an empty `find`, or a `with` that holds it behind its first
-// character.
+// Replaces each exact occurrence of `find`, from the left. required: the next occurrence may begin with the second
+// character of the replacement, but may not lie wholly in it. `find` is not empty.
 std::string ReplaceAllText(std::string_view text, std::string_view find, std::string_view with);
 
 // How many characters of code 10 the text holds.

@@ -12,19 +12,6 @@ namespace {
 
 constexpr std::string_view kMarker = "\xFF";
 
-// Each marker once, without looking at what was put in.
-std::string MarkersReplaced(std::string_view text, std::string_view change) {
-  std::string result;
-  for (const char ch : text) {
-    if (ch == kMarker[0]) {
-      result += change;
-    } else {
-      result += ch;
-    }
-  }
-  return result;
-}
-
 }  // namespace
 
 Replacer::Replacer(TextBuffer& document, Platform& platform)
@@ -116,10 +103,7 @@ void Replacer::PickRow(std::size_t row) {
 
 std::string ReplaceAllByMarker(std::string_view text, std::string_view find, std::string_view change) {
   if (find.empty()) return std::string(text);
-  const std::string marked = ReplaceAllText(text, find, kMarker);
-  // A replacement with a marker of its own behind its first character would be replaced for ever.
-  if (change.find(kMarker, 1) != std::string_view::npos) return MarkersReplaced(marked, change);
-  return ReplaceAllText(marked, kMarker, change);
+  return ReplaceAllText(ReplaceAllText(text, find, kMarker), kMarker, change);
 }
 
 }  // namespace pelmar
