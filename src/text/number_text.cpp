@@ -118,13 +118,10 @@ double LeadingNumber(std::string_view text) {
   text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
   text = text.substr(0, NumberLength(text, '.'));
   if (const auto value = ValueOf(text)) return *value;
-  // Of the parts of a number that is too large, the shorter ones are small enough.
-  std::size_t fits = 0, too_long = text.size();
-  while (fits + 1 < too_long) {
-    const std::size_t middle = fits + (too_long - fits) / 2;
-    (ValueOf(text.substr(0, middle)) ? fits : too_long) = middle;
-  }
-  return ValueOf(text.substr(0, fits)).value_or(0);
+  // Too large: the longest part that isn't.
+  std::size_t length = 0;
+  while (ValueOf(text.substr(0, length + 1))) ++length;
+  return ValueOf(text.substr(0, length)).value_or(0);
 }
 
 std::optional<double> ParseNumber(std::string_view text) {
