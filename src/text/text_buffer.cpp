@@ -10,11 +10,6 @@ namespace {
 // What undo and redo may hold in all; the oldest steps go first.
 constexpr std::size_t kHistoryLimit = std::size_t{64} << 20;
 
-// Where lines begin that the CR LF pairs of [from, to) open. A pair counts when its CR lies in the range.
-void AppendLineStarts(std::string_view text, std::size_t from, std::size_t to, std::vector<std::size_t>& starts) {
-  for (std::size_t at = text.find("\r\n", from); at < to; at = text.find("\r\n", at + 2)) starts.push_back(at + 2);
-}
-
 }  // namespace
 
 TextBuffer::TextBuffer() : line_starts_{0} {}
@@ -32,7 +27,7 @@ void TextBuffer::SetText(std::string text) {
   text_ = std::move(text);
   ++revision_;
   anchor_ = caret_ = 0;
-  IndexAllLines();
+  IndexLines();
   changed_.Tell(change);
 }
 
@@ -121,7 +116,7 @@ void TextBuffer::TrimHistory() {
 void TextBuffer::Apply(std::size_t pos, std::size_t length, std::string_view text) {
   text_.replace(pos, length, text);
   ++revision_;
-  ReindexLines({pos, length, text.size(), false});
+  IndexLines();
   anchor_ = caret_ = pos + text.size();
 }
 
@@ -160,31 +155,10 @@ std::string_view TextBuffer::Line(std::size_t line) const {
   return std::string_view(text_).substr(LineStart(line), LineEnd(line) - LineStart(line));
 }
 
-void TextBuffer::IndexAllLines() {
+void TextBuffer::IndexLines() {
   line_starts_.assign(1, 0);
-  AppendLineStarts(text_, 0, text_.size(), line_starts_);
-}
-
-// Only breaks whose CR or LF the change touched can come or go; the starts behind them just move.
-void TextBuffer::ReindexLines(const TextChange& change) {
-  const std::size_t old_end = change.pos + change.removed;
-  const auto first = std::upper_bound(line_starts_.begin(), line_starts_.end(), change.pos);
-  // A break that begins behind the old range starts its line at old_end + 2 or later.
-  const auto behind = std::lower_bound(first, line_starts_.end(), old_end + 2);
-  const std::size_t from = change.pos == 0 ? 0 : change.pos - 1;
-  // The pair at pos - 2, pos - 1 lies wholly before the change and its start, pos, stays.
-  std::vector<std::size_t> fresh;
-  AppendLineStarts(text_, from, change.pos + change.inserted, fresh);
-  const auto moved_at = first - line_starts_.begin();
-  const auto dropped = behind - first;
-  for (auto it = behind; it != line_starts_.end(); ++it) *it = *it - change.removed + change.inserted;
-  const auto fresh_count = static_cast<std::ptrdiff_t>(fresh.size());
-  if (fresh_count > dropped) {
-    line_starts_.insert(line_starts_.begin() + moved_at, static_cast<std::size_t>(fresh_count - dropped), 0);
-  } else {
-    line_starts_.erase(line_starts_.begin() + moved_at, line_starts_.begin() + moved_at + (dropped - fresh_count));
-  }
-  std::copy(fresh.begin(), fresh.end(), line_starts_.begin() + moved_at);
+  for (std::size_t at = text_.find("\r\n"); at != std::string::npos; at = text_.find("\r\n", at + 2))
+    line_starts_.push_back(at + 2);
 }
 
 }  // namespace pelmar

@@ -105,8 +105,7 @@ class TextBuffer {
   void Remember(std::size_t pos, std::size_t length, std::string_view text, Run run);
   void TrimHistory();
   bool TakeBack(std::vector<Step>& from, std::vector<Step>& to);
-  void IndexAllLines();
-  void ReindexLines(const TextChange& change);
+  void IndexLines();
 
   std::string text_;
   std::size_t anchor_ = 0;
