@@ -46,23 +46,19 @@ std::string NumberLines(std::string_view text) {
   return out;
 }
 
-std::vector<std::uint32_t> WordStarts(std::string_view text) {
-  std::vector<std::uint32_t> starts;
-  if (text.empty()) return starts;
-  starts.reserve(static_cast<std::size_t>(std::ranges::count(text, ' ')) + 2);
-  starts.push_back(0);
-  for (std::size_t i = 0; i + 1 < text.size(); ++i)
-    if (text[i] == ' ') starts.push_back(static_cast<std::uint32_t>(i + 1));
-  starts.push_back(static_cast<std::uint32_t>(text.size()));
-  return starts;
+std::vector<std::string_view> WordsOf(std::string_view text) {
+  std::vector<std::string_view> words;
+  while (!text.empty()) {
+    const std::size_t blank = std::min(text.find(' '), text.size() - 1);
+    words.push_back(text.substr(0, blank + 1));
+    text.remove_prefix(blank + 1);
+  }
+  return words;
 }
 
 std::string WordsToLines(std::string_view text) {
-  const std::vector<std::uint32_t> starts = WordStarts(text);
   std::string out;
-  out.reserve(text.size() + kCrLf.size() * starts.size());
-  for (std::size_t word = 0; word + 1 < starts.size(); ++word)
-    out.append(text, starts[word], starts[word + 1] - starts[word]).append(kCrLf);
+  for (const std::string_view word : WordsOf(text)) out.append(word).append(kCrLf);
   return out;
 }
 

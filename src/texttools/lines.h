@@ -1,7 +1,7 @@
 // Tools that treat a text as lines or words. The line feed alone ends a line. Texts are Windows-1250.
 #pragma once
 
-#include <cstdint>
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -19,9 +19,9 @@ std::string SortLines(std::string_view text, const SortedOrder& order);
 // Each line behind a number of five digits and a blank. required: the last character is lost.
 std::string NumberLines(std::string_view text);
 
-// Where the words of a text begin, and its length behind them; nothing for an empty text. A word reaches up to and with
-// the next blank, so each further blank of a run is a word of its own. Line ends are characters of their word.
-std::vector<std::uint32_t> WordStarts(std::string_view text);
+// The words of a text. A word includes the blank at its end, so a second blank is a word of its own. Line ends are
+// characters like any others.
+std::vector<std::string_view> WordsOf(std::string_view text);
 
 // Each of these words on a line of its own, with its blank. The result ends in a line break. An empty text stays empty.
 std::string WordsToLines(std::string_view text);

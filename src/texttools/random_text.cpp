@@ -1,8 +1,6 @@
 #include "texttools/random_text.h"
 
-#include <algorithm>
-#include <bit>
-#include <cstdint>
+#include <cstddef>
 #include <vector>
 
 #include "texttools/lines.h"
@@ -28,34 +26,6 @@ std::string NamePart(const Draw& draw) {
   AppendLetters(part, small, draw);
   return part + ' ';
 }
-
-// Which of the numbers 0 to n - 1 are still there: counted over stretches of twofold lengths, so that to take the k-th
-// one out costs log n, where closing the gap in a list would cost n.
-class Remaining {
- public:
-  explicit Remaining(std::size_t n) : counts_(std::bit_ceil(n + 1)) {
-    // The stretch that ends with number i - 1 is as long as the lowest bit of i. What lies behind n is never taken.
-    for (std::size_t i = 1; i < counts_.size(); ++i) counts_[i] = i & (~i + 1);
-  }
-
-  // Takes the k-th (from 0) of those that are left.
-  std::size_t Take(std::size_t k) {
-    std::size_t place = 0;
-    for (std::size_t length = counts_.size() / 2; length > 0; length /= 2) {
-      std::size_t& count = counts_[place + length];
-      if (k < count) {
-        --count;
-      } else {
-        k -= count;
-        place += length;
-      }
-    }
-    return place;
-  }
-
- private:
-  std::vector<std::size_t> counts_;
-};
 
 }  // namespace
 
@@ -84,14 +54,12 @@ std::string RandomName(const Draw& draw) {
 }
 
 std::string ShuffledWords(std::string_view text, const Draw& draw) {
-  const std::vector<std::uint32_t> starts = WordStarts(text);
+  std::vector<std::string_view> words = WordsOf(text);
   std::string out;
-  if (starts.empty()) return out;
-  out.reserve(text.size());
-  Remaining remaining(starts.size() - 1);
-  for (std::size_t left = starts.size() - 1; left > 0; --left) {
-    const std::size_t word = remaining.Take(DrawBelow(draw, left));
-    out.append(text, starts[word], starts[word + 1] - starts[word]);
+  while (!words.empty()) {
+    const auto word = words.begin() + static_cast<std::ptrdiff_t>(DrawBelow(draw, words.size()));
+    out += *word;
+    words.erase(word);
   }
   return out;
 }
