@@ -1,8 +1,6 @@
 #include "ciphers/rnd_cipher.h"
 
 #include <algorithm>
-#include <array>
-#include <unordered_map>
 
 #include "shell/common.h"
 #include "text/codepage.h"
@@ -27,40 +25,16 @@ class Milestones {
   std::size_t next_ = 0;
 };
 
-// Finds symbols by digits. Every run of `depth` digits in a code is filed once, so that a block of text costs one
-// look-up whatever the codes are like.
-class CodeIndex {
- public:
-  explicit CodeIndex(const CipherTable& table) : codes_(table.SymbolCodes), depth_(table.Depth) {
-    for (std::size_t symbol = 0; symbol < kSymbols; ++symbol) {
-      const std::string_view code = codes_[symbol];
-      for (std::size_t at = 0; at + depth_ <= code.size(); ++at) symbols_[code.substr(at, depth_)] = symbol;
-    }
-  }
-
-  // The last symbol whose code holds the digits, kSymbols where none does.
-  [[nodiscard]] std::size_t Find(std::string_view digits) const {
-    if (digits.size() == depth_) {
-      const auto found = symbols_.find(digits);
-      return found == symbols_.end() ? kSymbols : found->second;
-    }
-    for (std::size_t symbol = kSymbols; symbol-- > 0;)
-      if (codes_[symbol].find(digits) != std::string::npos) return symbol;
-    return kSymbols;
-  }
-
- private:
-  const std::array<std::string, kSymbols>& codes_;
-  std::size_t depth_;
-  std::unordered_map<std::string_view, std::size_t> symbols_;
-};
+// The last symbol whose code holds the digits, kSymbols where none does.
+std::size_t SymbolOf(const CipherTable& table, std::string_view digits) {
+  for (std::size_t symbol = kSymbols; symbol-- > 0;)
+    if (table.SymbolCodes[symbol].find(digits) != std::string::npos) return symbol;
+  return kSymbols;
+}
 
 std::string DigitsOf(std::string_view letters, std::string_view zero_letters) {
-  std::array<char, 256> digit_of{};
-  digit_of.fill('1');
-  for (const char letter : zero_letters) digit_of[static_cast<std::size_t>(CodeOf(letter))] = '0';
   std::string digits(letters);
-  for (char& ch : digits) ch = digit_of[static_cast<std::size_t>(CodeOf(ch))];
+  for (char& ch : digits) ch = zero_letters.find(ch) == std::string_view::npos ? '1' : '0';
   return digits;
 }
 
@@ -95,13 +69,12 @@ std::string RndEncipher(std::string_view text, const CipherTable& table, const D
 std::string RndDecipher(std::string_view text, const CipherTable& table, const Progress& progress) {
   if (table.Depth == 0) return {};
   const std::string digits = DigitsOf(text, table.ZeroLetters);
-  const CodeIndex index(table);
   Milestones milestones(progress, digits.size());
   std::string out;
   std::size_t found = kSymbols;
   for (std::size_t at = 0; at < digits.size(); at += table.Depth) {
     milestones.Pass(at);
-    const std::size_t match = index.Find(std::string_view(digits).substr(at, table.Depth));
+    const std::size_t match = SymbolOf(table, std::string_view(digits).substr(at, table.Depth));
     if (match < kSymbols) found = match;
     if (found < kSymbols) out += kSymbolCharacters[found];
   }

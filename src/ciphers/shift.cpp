@@ -1,7 +1,6 @@
 #include "ciphers/shift.h"
 
 #include <algorithm>
-#include <array>
 
 #include "text/codepage.h"
 
@@ -22,13 +21,9 @@ char ShiftedLetter(char letter, int shift) {
 }
 
 std::string Shiftp(std::string_view text, std::int16_t shift) {
-  std::array<char, 256> shifted{};
-  for (int code = 0; code < 256; ++code) {
-    const char ch = CharOf(code);
-    shifted[static_cast<std::size_t>(code)] = LetterNumber(ch) == 0 ? ch : ShiftedLetter(ch, shift);
-  }
   std::string result(text);
-  for (char& ch : result) ch = shifted[static_cast<std::size_t>(CodeOf(ch))];
+  for (char& ch : result)
+    if (LetterNumber(ch) != 0) ch = ShiftedLetter(ch, shift);
   return result;
 }
 

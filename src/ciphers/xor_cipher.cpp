@@ -35,15 +35,10 @@ std::string KeyText(std::string_view typed) {
 
 void StreamCipher::Append(std::string_view text, std::string& output) {
   constexpr std::uint32_t kKeyCodes = 254;  // the key byte is never 0 and never 255
-  const std::size_t before = output.size();
-  output.resize(before + text.size());
-  char* to = output.data() + before;
   for (const char ch : text) {
-    const auto code = static_cast<unsigned char>(static_cast<unsigned char>(ch) ^ generator_.DrawUpTo(kKeyCodes));
-    *to = static_cast<char>(code);
-    to += code != 0 ? 1 : 0;
+    const char code = CharOf(CodeOf(ch) ^ static_cast<int>(generator_.DrawUpTo(kKeyCodes)));
+    if (code != '\0') output += code;
   }
-  output.resize(static_cast<std::size_t>(to - output.data()));
 }
 
 void RewriteStream(TextBuffer& document, double key, std::string& output, Platform& platform,
