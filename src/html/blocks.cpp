@@ -3,7 +3,6 @@
 #include "html/attributes.h"
 #include "shell/common.h"
 #include "text/codepage.h"
-#include "text/insert.h"
 
 namespace pelmar {
 namespace {
@@ -18,16 +17,10 @@ std::string SpacedAlign(Align align) {
 std::string SpacedWidth(std::string_view width) { return " Width = " + Quoted(width); }
 
 Wrapping BlankWrapping(const std::string& open, const std::string& close, std::string_view sample) {
-  Wrapping wrapping{open + " ", " " + close, {}};
-  wrapping.sample = wrapping.open + std::string(sample) + wrapping.close;
-  return wrapping;
+  return {open + " ", " " + close, std::string(sample)};
 }
 
 }  // namespace
-
-void WrapSelection(TextBuffer& document, const Wrapping& wrapping) {
-  WrapSelection(document, wrapping.open, wrapping.close, wrapping.sample);
-}
 
 Wrapping Paragraph(Align align) { return BlankWrapping("<P" + SpacedAlign(align) + " >", "</P>", "Odstavcový text"_w); }
 
@@ -44,7 +37,7 @@ Wrapping Font(const FontSpec& spec) {
   open += Attribute("COLOR", spec.color);
   open += ">";
   // required: blanks around the sample only
-  return {open, "</FONT>", open + std::string(" fontové písmo </FONT>"_w)};
+  return {open, "</FONT>", std::string(" fontové písmo "_w)};
 }
 
 std::string HorizontalRule(const RuleSpec& spec) {

@@ -8,19 +8,12 @@
 #include <string>
 #include <string_view>
 
+#include "text/insert.h"
 #include "text/text_buffer.h"
 
 namespace pelmar {
 
 enum class Align { kNone, kLeft, kCenter, kRight };
-
-// A fragment that goes around the selection, or stands by itself where nothing is selected.
-struct Wrapping {
-  std::string open;
-  std::string close;
-  std::string sample;
-};
-void WrapSelection(TextBuffer& document, const Wrapping& wrapping);
 
 Wrapping Paragraph(Align align);
 

@@ -57,11 +57,7 @@ void InsertRow(TextBuffer& box, const RowSpec& spec) {
 }
 
 void WrapInCell(TextBuffer& box, const CellSpec& spec) {
-  const std::string open = CellTag(spec);
-  const std::string_view close = spec.header ? "</TH>" : "</TD>";
-  std::string sample = open;
-  sample += kSample;
-  WrapSelection(box, open, close, sample += close);
+  WrapSelection(box, CellTag(spec), spec.header ? "</TH>" : "</TD>", kSample);
 }
 
 }  // namespace pelmar

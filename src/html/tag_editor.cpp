@@ -190,8 +190,7 @@ bool AddAttributes(TextBuffer& document, const AttributeLists& attributes, Platf
 void InsertCustomTag(TextBuffer& document, const CustomTag& tag) {
   const std::string open = TagText(tag.name, tag.attributes);
   if (!tag.closed) return InsertAtCaret(document, open);
-  const std::string close = "</" + tag.name + ">";
-  WrapSelection(document, open, close, open + std::string("Vlastní tag"_w) + close);
+  WrapSelection(document, open, "</" + tag.name + ">", "Vlastní tag"_w);
 }
 
 }  // namespace pelmar

@@ -1,29 +1,27 @@
 #include "text/insert.h"
 
-#include <string>
-
 namespace pelmar {
 
-void InsertAtCaret(TextBuffer& box, std::string_view text) {
-  box.SetSelLength(0);
-  box.ReplaceSelection(text);
+void InsertAtCaret(TextBuffer& document, std::string_view text) {
+  document.SetSelLength(0);
+  document.ReplaceSelection(text);
 }
 
-void ReplaceDocument(TextBuffer& box, std::string_view text) {
-  // The text that the box has already is no change, whoever sets it.
-  if (text != box.Text()) box.Replace(0, box.Size(), text);
-  box.SetSelStart(0);
-}
-
-void WrapSelection(TextBuffer& box, std::string_view open, std::string_view close, std::string_view sample) {
-  if (!box.HasSelection()) {
-    box.ReplaceSelection(sample);
-    return;
-  }
+void WrapSelection(TextBuffer& document, std::string_view open, std::string_view close, std::string_view sample) {
   std::string text(open);
-  text += box.SelText();
+  text += document.HasSelection() ? document.SelText() : sample;
   text += close;
-  box.ReplaceSelection(text);
+  document.ReplaceSelection(text);
+}
+
+void WrapSelection(TextBuffer& document, const Wrapping& wrapping) {
+  WrapSelection(document, wrapping.open, wrapping.close, wrapping.sample);
+}
+
+void ReplaceDocument(TextBuffer& document, std::string_view text) {
+  // A document that is given the text that it has is not modified.
+  if (text != document.Text()) document.Replace(0, document.Size(), text);
+  document.SetSelStart(0);
 }
 
 }  // namespace pelmar

@@ -1,21 +1,28 @@
-// How the commands of menus and dialogs put text into a box, besides its own ReplaceSelection: at the caret, around the
-// selection or in the place of all. Texts are Windows-1250, written without any escaping.
+// How commands and dialogs put text into a document, besides its own ReplaceSelection. Texts are Windows-1250 and are
+// not escaped.
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "text/text_buffer.h"
 
 namespace pelmar {
 
-// Collapses the selection to its start and inserts there. What was selected stays, behind the new text.
-void InsertAtCaret(TextBuffer& box, std::string_view text);
+// Inserts at the start of the selection. The selected text stays, after the new text, and is selected no more.
+void InsertAtCaret(TextBuffer& document, std::string_view text);
 
-// `open` and `close` around the selection, or `sample` at the caret where nothing is selected.
-void WrapSelection(TextBuffer& box, std::string_view open, std::string_view close, std::string_view sample);
+// Puts the selection between `open` and `close`, or `sample` where nothing is selected.
+void WrapSelection(TextBuffer& document, std::string_view open, std::string_view close, std::string_view sample);
 
-// Another text in the place of the whole one, with the caret at its start: for commands that overwrite a document
-// without a question. One step of undo brings the old text back.
-void ReplaceDocument(TextBuffer& box, std::string_view text);
+struct Wrapping {
+  std::string open;
+  std::string close;
+  std::string sample;
+};
+void WrapSelection(TextBuffer& document, const Wrapping& wrapping);
+
+// Replaces the whole text and puts the caret at its start. One step of undo brings the old text back.
+void ReplaceDocument(TextBuffer& document, std::string_view text);
 
 }  // namespace pelmar

@@ -27,7 +27,7 @@ std::string Made(Function write, const Spec& spec, std::string_view selected) {
   EXPECT_EQ(text.Text(), selected) << made << " isn't one step";
   return made;
 }
-constexpr auto kWrap = [](TextBuffer& text, const Wrapping& tag) { WrapSelection(text, tag); };
+constexpr auto kWrap = [](TextBuffer& document, const Wrapping& tag) { WrapSelection(document, tag); };
 
 using Cases = std::vector<std::pair<std::string, std::string>>;
 
@@ -66,14 +66,14 @@ TEST(Formats, PathsAndLinks) {
       {LinkText("Жč?😀k\xF9.htm"), "%D0%96č?%F0%9F%98%80k%F9.htm"},
       {LinkText("\xF2\xC5"), "%F2%C5"},
       {AnchorTag("Kotva 1"), R"(<A NAME="Kotva 1"></A>)"},
-      {Made(InsertLink, LinkToAnchor("x"), " "), R"(<A HREF="#x"> </A>)"},
-      {Made(InsertLink, LinkToAnchor("část"_w), ""), R"(<A HREF="#část">Odkaz na část</A>)"},
-      {Made(InsertLink, LinkToMail("a@b"), "x"), R"(<A HREF="mailto:a@b" >x</A>)"},  // required: the blank
-      {Made(InsertLink, LinkToMail(""), ""), R"(<A HREF="mailto:" >mailto na </A>)"},
-      {Made(InsertLink, LinkToDocument({"x.htm", "a", "_top"}), ""),
+      {Made(kWrap, LinkToAnchor("x"), " "), R"(<A HREF="#x"> </A>)"},
+      {Made(kWrap, LinkToAnchor("část"_w), ""), R"(<A HREF="#část">Odkaz na část</A>)"},
+      {Made(kWrap, LinkToMail("a@b"), "x"), R"(<A HREF="mailto:a@b" >x</A>)"},  // required: the blank
+      {Made(kWrap, LinkToMail(""), ""), R"(<A HREF="mailto:" >mailto na </A>)"},
+      {Made(kWrap, LinkToDocument({"x.htm", "a", "_top"}), ""),
        R"(<A HREF="x.htm#a" TARGET="_top">Odkaz na x.htm#a</A>)"},
-      {Made(InsertLink, LinkToDocument({"x.htm", "", ""}), "x"), R"(<A HREF="x.htm" TARGET="">x</A>)"},
-      {Made(InsertLink, LinkToDocument({"", "a", {}}), "x"), R"(<A HREF="#a">x</A>)"},
+      {Made(kWrap, LinkToDocument({"x.htm", "", ""}), "x"), R"(<A HREF="x.htm" TARGET="">x</A>)"},
+      {Made(kWrap, LinkToDocument({"", "a", {}}), "x"), R"(<A HREF="#a">x</A>)"},
   });
 }
 

@@ -12,7 +12,7 @@ MailTo::MailTo(TextBuffer& document, const std::string& address, QWidget* parent
 }
 
 bool MailTo::Put() {
-  InsertLink(document_, LinkToMail(FieldText(*ui_->Text1)));
+  WrapSelection(document_, LinkToMail(FieldText(*ui_->Text1)));
   return true;
 }
 

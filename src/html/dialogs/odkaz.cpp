@@ -20,7 +20,7 @@ void Odkaz::AddAnchor(const QString& name) {
 bool Odkaz::Put() {
   const std::string name = FieldText(*ui_->Combo1);
   if (name.empty()) return false;
-  InsertLink(document_, LinkToAnchor(name));
+  WrapSelection(document_, LinkToAnchor(name));
   return true;
 }
 

@@ -44,7 +44,7 @@ LinkSpec OdkazNaJiny::Read() const {
 }
 
 bool OdkazNaJiny::Put() {
-  InsertLink(document_, LinkToDocument(Read()));
+  WrapSelection(document_, LinkToDocument(Read()));
   return true;
 }
 
