@@ -49,31 +49,31 @@ void DropLastDigit(std::string& number) {
   if (number.empty()) number = "0";
 }
 
-void Calculator::Digit(char digit) { AppendDigit(Cislo, digit); }
+void Calculator::Digit(char digit) { AppendDigit(shown, digit); }
 
 void Calculator::Comma() {
-  if (Cislo.find(',') == std::string::npos) Cislo += ',';
+  if (shown.find(',') == std::string::npos) shown += ',';
 }
 
-void Calculator::DropLast() { DropLastDigit(Cislo); }
+void Calculator::DropLast() { DropLastDigit(shown); }
 
 void Calculator::DropFirst() {
-  if (!Cislo.empty()) Cislo.erase(0, 1);
-  if (Cislo.empty()) Cislo = "0";
+  if (!shown.empty()) shown.erase(0, 1);
+  if (shown.empty()) shown = "0";
 }
 
 void Calculator::Operator(char symbol) {
-  Label1 = symbol;
-  Label2 = Cislo;
-  Cislo = "0";
+  operation = symbol;
+  operand = shown;
+  shown = "0";
 }
 
 bool Calculator::Evaluate() {
-  if (Label1.empty()) return true;
-  const std::optional<double> a = Read(Label2);
-  const std::optional<double> b = Read(Cislo);
-  const bool by_zero = a && b && Label1 == "/" && *b == 0;
-  const bool done = a && b && !by_zero && Put(Combine(Label1.front(), *a, *b));
+  if (operation.empty()) return true;
+  const std::optional<double> a = Read(operand);
+  const std::optional<double> b = Read(shown);
+  const bool by_zero = a && b && operation == "/" && *b == 0;
+  const bool done = a && b && !by_zero && Put(Combine(operation.front(), *a, *b));
   if (by_zero) platform_.Message(MessageType::kOk, "Není možno dělit nulou", "Dělení");
   if (!done && !by_zero) Refuse();
   EndOperation();
@@ -86,13 +86,13 @@ bool Calculator::MakeWayFor(char typed) {
 }
 
 void Calculator::EndOperation() {
-  Label1.clear();
-  Label2.clear();
+  operation.clear();
+  operand.clear();
 }
 
 bool Calculator::Put(double result) {
   if (!std::isfinite(result)) return false;
-  Cislo = NumberText(result);
+  shown = NumberText(result);
   return true;
 }
 
@@ -102,7 +102,7 @@ void Calculator::Refuse() {
 }
 
 void Calculator::Apply(double (*function)(double)) {
-  const std::optional<double> x = Read(Cislo);
+  const std::optional<double> x = Read(shown);
   if (!x || !Put(function(*x))) Refuse();
 }
 
@@ -135,7 +135,7 @@ void Calculator::Cotangent() {
 }
 
 void Calculator::SquareRoot() {
-  const std::optional<double> x = Read(Cislo);
+  const std::optional<double> x = Read(shown);
   if (!x || !Put(std::sqrt(*x))) platform_.Message(MessageType::kOk, "Nelze odmocnit záporné číslo", "Odmocnina");
 }
 
@@ -143,7 +143,7 @@ void Calculator::Random() {
   platform_.ReseedRandom();
   const auto drawn = static_cast<float>(platform_.Random());
   // The nearest float of a double just below 1 is 1 itself.
-  Cislo = NumberText(drawn < 1 ? drawn : std::nextafter(1.0F, 0.0F));
+  shown = NumberText(drawn < 1 ? drawn : std::nextafter(1.0F, 0.0F));
 }
 
 }  // namespace pelmar

@@ -14,21 +14,21 @@ class Calculator {
  public:
   explicit Calculator(Platform& platform) : platform_(platform) {}
 
-  std::string Cislo = "0";  // the number shown, with the decimal comma
-  std::string Label1;       // the operator that waits: + - * / L ^
-  std::string Label2;       // the first operand, as it stood
+  std::string shown = "0";  // the number shown, with the decimal comma
+  std::string operation;       // the operator that waits: + - * / L ^
+  std::string operand;       // the first operand, as it stood
 
   // What can be pressed now.
-  [[nodiscard]] bool OperatorsOn() const { return Label1.empty(); }  // + - * / and log
+  [[nodiscard]] bool OperatorsOn() const { return operation.empty(); }  // + - * / and log
   // required: a division or a logarithm that waits leaves x^y on, which then loses the first operand
-  [[nodiscard]] bool PowerOn() const { return Label1.empty() || Label1 == "/" || Label1 == "L"; }
-  [[nodiscard]] bool EqualsOn() const { return !Label1.empty(); }
+  [[nodiscard]] bool PowerOn() const { return operation.empty() || operation == "/" || operation == "L"; }
+  [[nodiscard]] bool EqualsOn() const { return !operation.empty(); }
 
   void Digit(char digit);
   void Comma();
   void DropLast();
   void DropFirst();
-  void Clear() { Cislo = "0"; }  // the operator that waits goes on waiting
+  void Clear() { shown = "0"; }  // the operator that waits goes on waiting
 
   // One of + - * / L ^.
   void Operator(char symbol);
@@ -50,8 +50,8 @@ class Calculator {
   // Has its own message, and the operator goes on waiting.
   void SquareRoot();
 
-  void Pi() { Cislo = "3,14159265358979"; }
-  void E() { Cislo = "2.718282"; }  // required: a point, so the number can't be read again
+  void Pi() { shown = "3,14159265358979"; }
+  void E() { shown = "2.718282"; }  // required: a point, so the number can't be read again
   void Random();
 
  private:

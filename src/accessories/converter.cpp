@@ -82,9 +82,9 @@ std::string ToRoman(std::int32_t n) {
 
 void Converter::Cut() {
   // Each loss of a character is a change by itself, after which the length counts again.
-  if (Label1.size() > kLongestDecimal) Label1.resize(kLongestDecimal);
-  if (Label3.size() > kLongestHex) Label3.resize(kLongestHex);
-  if (Label6.size() > kLongestOct) Label6.resize(kLongestOct);
+  if (decimal.size() > kLongestDecimal) decimal.resize(kLongestDecimal);
+  if (hexadecimal.size() > kLongestHex) hexadecimal.resize(kLongestHex);
+  if (octal.size() > kLongestOct) octal.resize(kLongestOct);
 }
 
 void Converter::Digit(std::string Converter::*field, char digit) {
@@ -95,31 +95,31 @@ void Converter::Digit(std::string Converter::*field, char digit) {
 void Converter::DropLast(std::string Converter::*field) { DropLastDigit(this->*field); }
 
 std::optional<std::int32_t> Converter::FromDecimal() {
-  const std::optional<std::int32_t> value = Whole(ReadNumber(Label1));
+  const std::optional<std::int32_t> value = Whole(ReadNumber(decimal));
   if (!value) return std::nullopt;
-  Label3 = ToHex(*value);
-  Label6 = ToOct(*value);
+  hexadecimal = ToHex(*value);
+  octal = ToOct(*value);
   Cut();
   return value;
 }
 
 std::optional<std::int32_t> Converter::FromHex() {
-  const std::optional<std::int32_t> value = Whole(ReadNumber("&H" + Label3));
+  const std::optional<std::int32_t> value = Whole(ReadNumber("&H" + hexadecimal));
   if (!value) return std::nullopt;
-  Label1 = std::to_string(*value);
-  Label6 = ToOct(*value);
+  decimal = std::to_string(*value);
+  octal = ToOct(*value);
   Cut();
   // required: of the decimal field as it shows, which is cut for ten digits and more
-  return Whole(LeadingNumber(Label1));
+  return Whole(LeadingNumber(decimal));
 }
 
 std::optional<std::int32_t> Converter::FromOct() {
-  const std::optional<std::int32_t> value = Whole(ReadNumber("&O" + Label6));
+  const std::optional<std::int32_t> value = Whole(ReadNumber("&O" + octal));
   if (!value) return std::nullopt;
-  Label1 = std::to_string(*value);
-  Label3 = ToHex(*value);
+  decimal = std::to_string(*value);
+  hexadecimal = ToHex(*value);
   Cut();
-  return Whole(LeadingNumber(Label1));
+  return Whole(LeadingNumber(decimal));
 }
 
 }  // namespace pelmar

@@ -24,9 +24,9 @@ std::string ToRoman(std::int32_t n);
 
 // The fields of the window and what its keys do with them.
 struct Converter {
-  std::string Label1 = "0";  // decimal, 9 characters
-  std::string Label3 = "0";  // hexadecimal, 9 characters
-  std::string Label6 = "0";  // octal, 11 characters
+  std::string decimal = "0";  // decimal, 9 characters
+  std::string hexadecimal = "0";  // hexadecimal, 9 characters
+  std::string octal = "0";  // octal, 11 characters
 
   // The limits hold after each of these; what is too long loses its last characters.
   void Digit(std::string Converter::*field, char digit);

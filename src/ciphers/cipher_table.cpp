@@ -30,30 +30,30 @@ std::string ShownSymbol(char symbol) {
 }  // namespace
 
 void GenerateCodes(CipherTable& table, int depth, const Draw& draw) {
-  table.Depth = static_cast<std::uint8_t>(depth);
-  for (std::string& code : table.SymbolCodes) {
+  table.depth = static_cast<std::uint8_t>(depth);
+  for (std::string& code : table.symbol_codes) {
     code.clear();
     for (int digit = 0; digit < depth; ++digit) code += DrawDigit(draw) ? '1' : '0';
   }
 }
 
 void GenerateLetterSplit(CipherTable& table, const Draw& draw) {
-  table.OneLetters.clear();
-  table.ZeroLetters.clear();
-  for (char letter = 'A'; letter <= 'Z'; ++letter) (DrawDigit(draw) ? table.OneLetters : table.ZeroLetters) += letter;
+  table.one_letters.clear();
+  table.zero_letters.clear();
+  for (char letter = 'A'; letter <= 'Z'; ++letter) (DrawDigit(draw) ? table.one_letters : table.zero_letters) += letter;
 }
 
 std::vector<std::string> CodeRows(const CipherTable& table) {
-  std::vector<std::string> rows{"Hloubka: " + std::to_string(table.Depth)};
-  for (std::size_t i = 0; i < kSymbols; ++i) rows.push_back(ShownSymbol(kSymbolCharacters[i]) + table.SymbolCodes[i]);
+  std::vector<std::string> rows{"Hloubka: " + std::to_string(table.depth)};
+  for (std::size_t i = 0; i < kSymbols; ++i) rows.push_back(ShownSymbol(kSymbolCharacters[i]) + table.symbol_codes[i]);
   return rows;
 }
 
 std::vector<std::string> LetterRows(const CipherTable& table) {
   std::vector<std::string> rows;
-  for (const char letter : table.ZeroLetters) rows.push_back(std::string("0 : ") + letter);
+  for (const char letter : table.zero_letters) rows.push_back(std::string("0 : ") + letter);
   rows.emplace_back("-----");
-  for (const char letter : table.OneLetters) rows.push_back(std::string("1 : ") + letter);
+  for (const char letter : table.one_letters) rows.push_back(std::string("1 : ") + letter);
   return rows;
 }
 
@@ -61,13 +61,13 @@ std::optional<std::string> CoefficientsText(const CipherTable& table, CountedDig
   constexpr std::size_t kFirst = 8;
   std::size_t ones = 0;
   std::size_t zeros = 0;
-  for (const std::string_view code : table.SymbolCodes) {
-    const std::string_view digits = code.substr(0, counted == CountedDigits::kAll ? table.Depth : kFirst);
+  for (const std::string_view code : table.symbol_codes) {
+    const std::string_view digits = code.substr(0, counted == CountedDigits::kAll ? table.depth : kFirst);
     ones += static_cast<std::size_t>(std::ranges::count(digits, '1'));
     zeros += static_cast<std::size_t>(std::ranges::count(digits, '0'));
   }
-  if (table.ZeroLetters.empty() || zeros == 0) return std::nullopt;
-  const double a = Imbalance(table.OneLetters.size(), table.ZeroLetters.size());
+  if (table.zero_letters.empty() || zeros == 0) return std::nullopt;
+  const double a = Imbalance(table.one_letters.size(), table.zero_letters.size());
   const double b = Imbalance(ones, zeros);
   return "Koeficient A:" + FixedText(a, 5) + " Koeficient B:" + FixedText(b, 5) + " Celkem:" + FixedText(a * b, 9);
 }

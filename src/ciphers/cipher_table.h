@@ -19,11 +19,11 @@ inline constexpr std::string_view kSymbolCharacters = "ABCDEFGHIJKLMNOPQRSTUVWXY
 inline constexpr std::size_t kSymbols = kSymbolCharacters.size();
 
 struct CipherTable {
-  std::array<std::string, kSymbols> SymbolCodes;
-  std::uint8_t Depth = 0;  // digits in each code
-  std::string OneLetters;
-  std::string ZeroLetters;
-  std::string Note;
+  std::array<std::string, kSymbols> symbol_codes;
+  std::uint8_t depth = 0;  // digits in each code
+  std::string one_letters;
+  std::string zero_letters;
+  std::string note;
 };
 
 // New codes of `depth` digits, 8 to 64. Two draws a digit. required: a new code isn't compared with those that are

@@ -28,7 +28,7 @@ class Milestones {
 // The last symbol whose code holds the digits, kSymbols where none does.
 std::size_t SymbolOf(const CipherTable& table, std::string_view digits) {
   for (std::size_t symbol = kSymbols; symbol-- > 0;)
-    if (table.SymbolCodes[symbol].find(digits) != std::string::npos) return symbol;
+    if (table.symbol_codes[symbol].find(digits) != std::string::npos) return symbol;
   return kSymbols;
 }
 
@@ -49,15 +49,15 @@ std::string PrepareText(std::string_view text) {
 std::string RndEncipher(std::string_view text, const CipherTable& table, const Draw& draw, const Progress& progress) {
   Milestones milestones(progress, text.size());
   std::string out;
-  out.reserve(text.size() * table.Depth);
+  out.reserve(text.size() * table.depth);
   std::string_view code;
   for (std::size_t i = 0; i < text.size(); ++i) {
     milestones.Pass(i);
     const std::size_t symbol = kSymbolCharacters.find(text[i]);
-    if (symbol < kSymbols) code = table.SymbolCodes[symbol];
-    for (std::size_t j = 0; j < table.Depth; ++j) {
+    if (symbol < kSymbols) code = table.symbol_codes[symbol];
+    for (std::size_t j = 0; j < table.depth; ++j) {
       const bool zero = j < code.size() && code[j] == '0';
-      const std::string& letters = zero ? table.ZeroLetters : table.OneLetters;
+      const std::string& letters = zero ? table.zero_letters : table.one_letters;
       const std::size_t drawn = DrawBelow(draw, letters.size());
       if (drawn < letters.size()) out += letters[drawn];
     }
@@ -67,14 +67,14 @@ std::string RndEncipher(std::string_view text, const CipherTable& table, const D
 }
 
 std::string RndDecipher(std::string_view text, const CipherTable& table, const Progress& progress) {
-  if (table.Depth == 0) return {};
-  const std::string digits = DigitsOf(text, table.ZeroLetters);
+  if (table.depth == 0) return {};
+  const std::string digits = DigitsOf(text, table.zero_letters);
   Milestones milestones(progress, digits.size());
   std::string out;
   std::size_t found = kSymbols;
-  for (std::size_t at = 0; at < digits.size(); at += table.Depth) {
+  for (std::size_t at = 0; at < digits.size(); at += table.depth) {
     milestones.Pass(at);
-    const std::size_t match = SymbolOf(table, std::string_view(digits).substr(at, table.Depth));
+    const std::size_t match = SymbolOf(table, std::string_view(digits).substr(at, table.depth));
     if (match < kSymbols) found = match;
     if (found < kSymbols) out += kSymbolCharacters[found];
   }

@@ -19,11 +19,11 @@ using Progress = std::function<void(std::size_t done)>;
 // and 10.
 std::string PrepareText(std::string_view text);
 
-// `Depth` letters for each character, one draw each. required: a character that is no symbol repeats the one before it,
+// `depth` letters for each character, one draw each. required: a character that is no symbol repeats the one before it,
 // and at the start counts as a code of ones. A set without letters yields none.
 std::string RndEncipher(std::string_view text, const CipherTable& table, const Draw& draw, const Progress& progress);
 
-// A character for each `Depth` letters. Letters outside the set of zeros count as ones. required: the last symbol whose
+// A character for each `depth` letters. Letters outside the set of zeros count as ones. required: the last symbol whose
 // code holds the digits wins; digits that no code holds repeat the character before them, or give none at the start;
 // digits that are left over at the end match anywhere in a code. "" with a depth of 0.
 std::string RndDecipher(std::string_view text, const CipherTable& table, const Progress& progress);

@@ -18,21 +18,21 @@ constexpr std::uint64_t kLargestTable = (kSymbols + 3) * (kCountSize + kLongestF
 CipherTable ReadTable(std::string_view bytes) {
   RecordReader reader(bytes);
   CipherTable table;
-  for (std::string& code : table.SymbolCodes) code = reader.String(kCountSize);
-  table.Depth = static_cast<std::uint8_t>(reader.Number(1));
-  table.OneLetters = reader.String(kCountSize);
-  table.ZeroLetters = reader.String(kCountSize);
-  table.Note = reader.String(kCountSize);
+  for (std::string& code : table.symbol_codes) code = reader.String(kCountSize);
+  table.depth = static_cast<std::uint8_t>(reader.Number(1));
+  table.one_letters = reader.String(kCountSize);
+  table.zero_letters = reader.String(kCountSize);
+  table.note = reader.String(kCountSize);
   return table;
 }
 
 std::string TableBytes(const CipherTable& table) {
   RecordWriter writer;
-  for (const std::string& code : table.SymbolCodes) writer.String(code, kCountSize);
-  writer.Number(table.Depth, 1);
-  writer.String(table.OneLetters, kCountSize);
-  writer.String(table.ZeroLetters, kCountSize);
-  writer.String(table.Note, kCountSize);
+  for (const std::string& code : table.symbol_codes) writer.String(code, kCountSize);
+  writer.Number(table.depth, 1);
+  writer.String(table.one_letters, kCountSize);
+  writer.String(table.zero_letters, kCountSize);
+  writer.String(table.note, kCountSize);
   return std::move(writer).Take();
 }
 

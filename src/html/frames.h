@@ -17,7 +17,7 @@ struct FramesetSpec {
 };
 
 // The page becomes the whole text. What was there before, or a sentence where nothing was, stands selected in it.
-void WrapInFrameset(TextBuffer& box, const FramesetSpec& spec);
+void WrapInFrameset(TextBuffer& document, const FramesetSpec& spec);
 
 struct FrameSpec {
   struct Margins {

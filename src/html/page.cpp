@@ -43,18 +43,18 @@ std::string CodePageAndGenerator() {
          Line(R"(  <META NAME="GENERATOR" CONTENT="Orvilanths PELmar VEX v8.9.2.1b CZ">)");
 }
 
-void PutAround(TextBuffer& box, std::string_view head, std::string_view sample, std::string_view tail) {
-  std::string body(box.Text());
+void PutAround(TextBuffer& document, std::string_view head, std::string_view sample, std::string_view tail) {
+  std::string body(document.Text());
   if (body.empty()) body = sample;
   std::string text(head);
   text += body;
   text += tail;
-  box.Replace(0, box.Size(), text);  // one step of undo, as nothing is asked before
-  box.Select(head.size(), head.size() + body.size());
+  document.Replace(0, document.Size(), text);  // one step of undo, as nothing is asked before
+  document.Select(head.size(), head.size() + body.size());
 }
 
-void WrapInPage(TextBuffer& box, const PageSpec& spec) {
-  PutAround(box, HeadOf(spec), "---TEXT---", "\r\n\r\n </BODY>\r\n</HTML>");
+void WrapInPage(TextBuffer& document, const PageSpec& spec) {
+  PutAround(document, HeadOf(spec), "---TEXT---", "\r\n\r\n </BODY>\r\n</HTML>");
 }
 
 }  // namespace pelmar

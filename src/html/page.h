@@ -25,12 +25,12 @@ struct PageSpec {
 };
 
 // The page becomes the whole text. What was there before, or a marker where nothing was, stands selected in its body.
-void WrapInPage(TextBuffer& box, const PageSpec& spec);
+void WrapInPage(TextBuffer& document, const PageSpec& spec);
 
 // The lines that tell a reader the code page and the program, each with its line end.
 std::string CodePageAndGenerator();
 
-// The box's text, or `sample` where it is empty, goes between head and tail and is selected there.
-void PutAround(TextBuffer& box, std::string_view head, std::string_view sample, std::string_view tail);
+// The document's text, or `sample` where it is empty, goes between head and tail and is selected there.
+void PutAround(TextBuffer& document, std::string_view head, std::string_view sample, std::string_view tail);
 
 }  // namespace pelmar

@@ -43,9 +43,9 @@ std::string CaptionTag(const TableSpec::Caption& caption) {
 }
 
 std::string RowOf(const TableGrid& grid, std::size_t row, std::size_t columns) {
-  std::string line = "<TR" + grid.RowAttrs.at(row) + '>';
+  std::string line = "<TR" + grid.row_attrs.at(row) + '>';
   for (std::size_t column = 1; column <= columns; ++column)
-    line += "<TD" + grid.CellAttrs.at(column).at(row) + '>' + grid.CellText.at(column).at(row) + "</TD>";
+    line += "<TD" + grid.cell_attrs.at(column).at(row) + '>' + grid.cell_text.at(column).at(row) + "</TD>";
   return line += "</TR>";
 }
 

@@ -15,9 +15,9 @@ struct TableGrid {
   static constexpr std::size_t kMost = 20;
   using Cells = std::array<std::array<std::string, kMost + 1>, kMost + 1>;
 
-  Cells CellText;   // by column, then row
-  Cells CellAttrs;  // the same
-  std::array<std::string, kMost + 1> RowAttrs;
+  Cells cell_text;   // by column, then row
+  Cells cell_attrs;  // the same
+  std::array<std::string, kMost + 1> row_attrs;
 };
 
 enum class TableAlign { kLeft, kCenter, kRight };

@@ -45,7 +45,7 @@ std::string TagAttributes(std::string_view tag) {
   return std::string(tag.substr(kNameInTag, tag.size() - kBareTag));
 }
 
-void InsertRow(TextBuffer& box, const RowSpec& spec) {
+void InsertRow(TextBuffer& document, const RowSpec& spec) {
   std::string row = RowTag(spec);
   for (int cell = 1; cell <= spec.cells; ++cell) {
     row += "<TD>";
@@ -53,11 +53,11 @@ void InsertRow(TextBuffer& box, const RowSpec& spec) {
     row += std::to_string(cell) + "</TD>";
   }
   row += "</TR>";
-  InsertAtCaret(box, row += kCrLf);
+  InsertAtCaret(document, row += kCrLf);
 }
 
-void WrapInCell(TextBuffer& box, const CellSpec& spec) {
-  WrapSelection(box, CellTag(spec), spec.header ? "</TH>" : "</TD>", kSample);
+void WrapInCell(TextBuffer& document, const CellSpec& spec) {
+  WrapSelection(document, CellTag(spec), spec.header ? "</TH>" : "</TD>", kSample);
 }
 
 }  // namespace pelmar

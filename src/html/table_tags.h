@@ -42,9 +42,9 @@ std::string CellTag(const CellSpec& spec);
 std::string TagAttributes(std::string_view tag);
 
 // A row with its numbered cells at the caret; a selection stays behind it.
-void InsertRow(TextBuffer& box, const RowSpec& spec);
+void InsertRow(TextBuffer& document, const RowSpec& spec);
 
 // A cell around the selection, or one with a sample text.
-void WrapInCell(TextBuffer& box, const CellSpec& spec);
+void WrapInCell(TextBuffer& document, const CellSpec& spec);
 
 }  // namespace pelmar

@@ -16,7 +16,7 @@ namespace pelmar {
 std::optional<std::size_t> FindFrom(std::string_view text, std::string_view term, std::size_t from);
 
 // Selects a hit, clipped to the end of the text. First its start, which thus comes into sight as well.
-void SelectHit(TextBuffer& text, std::size_t hit, std::size_t length);
+void SelectHit(TextBuffer& document, std::size_t hit, std::size_t length);
 
 // What the person is asked at a hit before the search goes on, UTF-8.
 std::string GoOnQuestion(std::size_t hit);

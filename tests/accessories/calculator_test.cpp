@@ -39,7 +39,7 @@ std::string Seen(const char* words, const std::string& told = "") {
         key >= '0' && key <= '9' ? calculator.Digit(key) : calculator.Operator(key);
       }
     }
-    seen += (seen.empty() ? "" : " ") + calculator.Label2 + calculator.Label1 + calculator.Cislo;
+    seen += (seen.empty() ? "" : " ") + calculator.operand + calculator.operation + calculator.shown;
     EXPECT_EQ(platform.calls.back(), told) << keys;
   }
   return seen;
@@ -69,7 +69,7 @@ TEST(Calculator, RandomIsBelowOneAndHasSevenDigits) {
   Calculator calculator(platform);
   for (const std::string_view expected : {"0", "0,25", "0,1234568", "0,9999999"}) {
     calculator.Random();
-    EXPECT_EQ(calculator.Cislo, expected);
+    EXPECT_EQ(calculator.shown, expected);
   }
   EXPECT_EQ(platform.reseeds, 4);
 }
@@ -100,31 +100,31 @@ std::string Converted(std::string Converter::*field, std::string_view digits,
   Converter converter;
   for (const char digit : digits) converter.Digit(field, digit);
   const auto roman = (converter.*convert)();
-  return converter.Label1 + ' ' + converter.Label3 + ' ' + converter.Label6 +
+  return converter.decimal + ' ' + converter.hexadecimal + ' ' + converter.octal +
          (roman ? ' ' + std::to_string(*roman) : "");
 }
 
 TEST(Conversions, FillTheOtherFieldsUnlessTheNumberIsTooLarge) {
-  const auto decimal = [](std::string_view n) { return Converted(&Converter::Label1, n, &Converter::FromDecimal); };
+  const auto decimal = [](std::string_view n) { return Converted(&Converter::decimal, n, &Converter::FromDecimal); };
   EXPECT_EQ(decimal("999999999"), "999999999 3B9AC9FF 7346544777 999999999");
   EXPECT_EQ(decimal("1234567890"), "123456789 75BCD15 726746425 123456789");  // the tenth digit doesn't stay
   EXPECT_EQ(decimal("007"), "7 7 7 7");
-  const auto hex = [](std::string_view n) { return Converted(&Converter::Label3, n, &Converter::FromHex); };
+  const auto hex = [](std::string_view n) { return Converted(&Converter::hexadecimal, n, &Converter::FromHex); };
   EXPECT_EQ(hex("FFFF"), "-1 FFFF 37777777777 -1");
   EXPECT_EQ(hex("10000"), "65536 10000 200000 65536");
   // Ten digits and more are cut in the decimal field, and Roman follows that field.
   EXPECT_EQ(hex("7FFFFFFF"), "214748364 7FFFFFFF 17777777777 214748364");
   EXPECT_EQ(hex("80000000"), "-21474836 80000000 20000000000 -21474836");
   EXPECT_EQ(hex("FFFFFFFFFF"), "0 FFFFFFFFF 0");
-  const auto oct = [](std::string_view n) { return Converted(&Converter::Label6, n, &Converter::FromOct); };
+  const auto oct = [](std::string_view n) { return Converted(&Converter::octal, n, &Converter::FromOct); };
   EXPECT_EQ(oct("177777"), "-1 FFFFFFFF 177777 -1");
   EXPECT_EQ(oct("17777777777"), "214748364 7FFFFFFF 17777777777 214748364");
   EXPECT_EQ(oct("777777777777"), "0 0 77777777777");
   for (const char* number : {"2147483648", "-2147483649", "1E+99", "&HFFFFFFFFF"}) {
     Converter converter;
-    converter.Label1 = number;
+    converter.decimal = number;
     EXPECT_EQ(converter.FromDecimal(), std::nullopt) << number;
-    EXPECT_EQ(converter.Label3, "0") << number;
+    EXPECT_EQ(converter.hexadecimal, "0") << number;
   }
 }
 

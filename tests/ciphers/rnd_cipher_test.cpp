@@ -21,7 +21,7 @@ CipherTable Table(int depth, const std::string& note = "note") {
   CipherTable table;
   GenerateCodes(table, depth, random.Draws());
   GenerateLetterSplit(table, random.Draws());
-  table.Note = note;
+  table.note = note;
   return table;
 }
 
@@ -35,26 +35,26 @@ TEST(RndCipher, GeneratesFromPairsOfDrawsAndListsTheTable) {
   std::size_t draws = 0;
   const Draw draw = [&] { return std::array{0.5, 0.5, 0.5, 0.4, 0.0, 0.99, 0.99, 0.1}[draws++ % 8]; };
   GenerateLetterSplit(table, draw);
-  EXPECT_EQ(table.ZeroLetters + table.OneLetters, "BCFGJKNORSVWZADEHILMPQTUXY");
+  EXPECT_EQ(table.zero_letters + table.one_letters, "BCFGJKNORSVWZADEHILMPQTUXY");
   GenerateCodes(table, 8, draw);
   EXPECT_EQ(draws, 52u + 29 * 8 * 2);
   // required: nothing compares a code with those before it
-  for (const std::string& code : table.SymbolCodes) EXPECT_EQ(code, "01100110");
-  table.SymbolCodes = {"1", "2"};
-  table.SymbolCodes[28] = "3";
+  for (const std::string& code : table.symbol_codes) EXPECT_EQ(code, "01100110");
+  table.symbol_codes = {"1", "2"};
+  table.symbol_codes[28] = "3";
   const std::vector<std::string> rows = CodeRows(table);
   EXPECT_EQ(rows.size(), 30u);
   EXPECT_EQ(rows[0] + rows[1] + rows[2] + rows[26], "Hloubka: 8A       1B       2Z       ");
   EXPECT_EQ(rows[27] + rows[28] + rows[29], "\" \"     Chr(13) Chr(10) 3");
-  table.ZeroLetters = "XY";
-  table.OneLetters = "B";
+  table.zero_letters = "XY";
+  table.one_letters = "B";
   EXPECT_EQ(LetterRows(table), (std::vector<std::string>{"0 : X", "0 : Y", "-----", "1 : B"}));
 }
 
 TEST(RndCipher, CoefficientsCountInTwoWays) {
   const auto text = [](std::size_t zero_letters, std::size_t one_letters, const char* code) {
     CipherTable table{{}, 16, std::string(one_letters, 'B'), std::string(zero_letters, 'A'), {}};
-    table.SymbolCodes.fill(code);
+    table.symbol_codes.fill(code);
     return CoefficientsText(table, CountedDigits::kFirstEight).value_or("") + '|' +
            CoefficientsText(table, CountedDigits::kAll).value_or("");
   };
@@ -78,7 +78,7 @@ TEST(RndCipher, WritesADigitAsALetterOfItsSet) {
   EXPECT_EQ(cipher("A", 0.9999), "MZMZMMZZ");
   EXPECT_EQ(cipher("A.", 0), "ANANAANNANANAANN");  // required: the one before it again
   EXPECT_EQ(cipher(".A", 0), "NNNNNNNNANANAANN");
-  table.ZeroLetters.clear();
+  table.zero_letters.clear();
   EXPECT_EQ(cipher("A", 0), "NNNN");  // draws from an empty set yield nothing
 }
 
@@ -102,13 +102,13 @@ TEST(RndCipher, DecipheringUndoesEncipheringAndBothTellTheirProgress) {
 // Deciphering once more, as a walk through all codes for each block.
 std::string SlowlyDeciphered(const std::string& text, const CipherTable& table) {
   std::string digits;
-  for (const char ch : text) digits += table.ZeroLetters.find(ch) != std::string::npos ? '0' : '1';
+  for (const char ch : text) digits += table.zero_letters.find(ch) != std::string::npos ? '0' : '1';
   std::string out;
   std::size_t found = 0;
-  for (std::size_t p = 0; p < digits.size(); p += table.Depth) {
-    const std::string block = digits.substr(p, table.Depth);
+  for (std::size_t p = 0; p < digits.size(); p += table.depth) {
+    const std::string block = digits.substr(p, table.depth);
     for (std::size_t j = 1; j <= kSymbols; ++j)
-      if (table.SymbolCodes[j - 1].find(block) != std::string::npos) found = j;
+      if (table.symbol_codes[j - 1].find(block) != std::string::npos) found = j;
     if (found >= 1) out += "ABCDEFGHIJKLMNOPQRSTUVWXYZ \r\n"[found - 1];
   }
   return out;
@@ -120,9 +120,9 @@ TEST(RndCipher, DecipheringEqualsTheWalkThroughAllCodes) {
   for (int round = 0; round < 3000; ++round) {
     // Such tables come from foreign files: codes of any length, any depth, letters in both sets.
     CipherTable table;
-    for (std::string& code : table.SymbolCodes) code = source.Text(12, "01");
-    table.Depth = static_cast<std::uint8_t>(1 + source.Below(9));
-    table.ZeroLetters = source.Text(4, "ABCDEFGH");
+    for (std::string& code : table.symbol_codes) code = source.Text(12, "01");
+    table.depth = static_cast<std::uint8_t>(1 + source.Below(9));
+    table.zero_letters = source.Text(4, "ABCDEFGH");
     const std::string text = source.Text(79, "ABCDEFGHa\n");
     ASSERT_EQ(RndDecipher(text, table, {}), SlowlyDeciphered(text, table));
   }
@@ -135,8 +135,8 @@ TEST(TableFile, IsItsFieldsToTheByteAndEmptyFromADamageOn) {
     return std::string{static_cast<char>(text.size() % 256), static_cast<char>(text.size() / 256)} + text;
   };
   std::vector<std::string> fields;
-  for (const std::string& code : table.SymbolCodes) fields.push_back(counted(code));
-  fields.insert(fields.end(), {"\x10", counted(table.OneLetters), counted(table.ZeroLetters), counted(table.Note)});
+  for (const std::string& code : table.symbol_codes) fields.push_back(counted(code));
+  fields.insert(fields.end(), {"\x10", counted(table.one_letters), counted(table.zero_letters), counted(table.note)});
   const std::string bytes = TableBytes(table);
   for (std::size_t size = 0; size <= bytes.size(); ++size) {
     std::size_t end = 0;
@@ -147,7 +147,7 @@ TEST(TableFile, IsItsFieldsToTheByteAndEmptyFromADamageOn) {
     }
     ASSERT_EQ(TableBytes(ReadTable(bytes.substr(0, size))), expected) << size;
   }
-  table.Note.resize(70000);  // what is too long is cut
+  table.note.resize(70000);  // what is too long is cut
   EXPECT_EQ(TableBytes(table).size(), bytes.size() - 303 + kLongestField);
 }
 
@@ -161,9 +161,9 @@ struct TableFilesTest : testing::Test {
   std::string Loaded() {
     try {
       files.Load(table);
-      return table.Note;
+      return table.note;
     } catch (const RuntimeError&) {
-      return '(' + table.Note + ')';
+      return '(' + table.note + ')';
     }
   }
   // What is asked and written.

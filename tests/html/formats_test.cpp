@@ -105,9 +105,9 @@ TEST(Formats, ImagesAndFrames) {
 
 TEST(Formats, Tables) {
   TableGrid grid;
-  grid.CellText[2][1] = "x";
-  grid.CellAttrs[1][2] = " NOWRAP";
-  grid.RowAttrs[2] = "typed";  // what is typed without its blank stays without
+  grid.cell_text[2][1] = "x";
+  grid.cell_attrs[1][2] = " NOWRAP";
+  grid.row_attrs[2] = "typed";  // what is typed without its blank stays without
   const TableSpec all{.columns = 2,
                       .rows = 2,
                       .width = " 1%",

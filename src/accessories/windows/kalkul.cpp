@@ -31,7 +31,7 @@ Kalkul::Kalkul(Platform& platform, bool stand_alone, Doors doors, QWidget* paren
   ConnectEntry();
   ConnectOperators();
   ConnectFunctions();
-  connect(ui_->Command19, &QPushButton::clicked, this, [this] { doors_.hand_over(calculator_.Cislo); });
+  connect(ui_->Command19, &QPushButton::clicked, this, [this] { doors_.hand_over(calculator_.shown); });
   connect(ui_->Command20, &QPushButton::clicked, this, &Kalkul::Command20_Click);
   connect(ui_->Command35, &QPushButton::clicked, this, [this] { doors_.show_converter(); });
   new KeyPreview(*this, [this](const QKeyEvent& event) { return PhysicalKey(event); });
@@ -74,15 +74,15 @@ void Kalkul::ConnectFunctions() {
 }
 
 void Kalkul::SetNumber(const std::string& number) {
-  calculator_.Cislo = number;
+  calculator_.shown = number;
   Show();
 }
 
 void Kalkul::Show() {
-  ui_->Cislo->setText(Utf8ToQString(calculator_.Cislo));
-  ui_->Label1->setText(Utf8ToQString(calculator_.Label1));
+  ui_->Cislo->setText(Utf8ToQString(calculator_.shown));
+  ui_->Label1->setText(Utf8ToQString(calculator_.operation));
   ShowCut();
-  ui_->Label2->setText(Utf8ToQString(calculator_.Label2));
+  ui_->Label2->setText(Utf8ToQString(calculator_.operand));
   // A key that goes off while it has the keyboard would hand it to the next one; the number keeps it safe.
   const QWidget* focus = focusWidget();
   for (QPushButton* key : {ui_->Command12, ui_->Command13, ui_->Command14, ui_->Command15, ui_->Command32})
@@ -143,7 +143,7 @@ QPushButton* Kalkul::KeyOf(char character) const {
 
 Preview Kalkul::PhysicalKey(const QKeyEvent& event) {
   if (event.matches(QKeySequence::Copy)) {
-    platform_.SetClipboardText(calculator_.Cislo);
+    platform_.SetClipboardText(calculator_.shown);
     return Preview::kTake;
   }
   const auto character = TypedCharacter(event);

@@ -20,15 +20,15 @@ constexpr std::size_t kLongestShown = 32767;
 
 Prev::Prev(Platform& platform, bool stand_alone, Doors doors, QWidget* parent)
     : FormDialog(parent), platform_(platform), doors_(std::move(doors)) {
-  bases_ = {{ui_->Frame1, &Converter::Label1, ui_->Command35, ui_->Command38, ui_->Command42, &Converter::FromDecimal},
-            {ui_->Frame2, &Converter::Label3, ui_->Command36, ui_->Command39, ui_->Command43, &Converter::FromHex},
-            {ui_->Frame3, &Converter::Label6, ui_->Command37, ui_->Command40, ui_->Command44, &Converter::FromOct}};
+  bases_ = {{ui_->Frame1, &Converter::decimal, ui_->Command35, ui_->Command38, ui_->Command42, &Converter::FromDecimal},
+            {ui_->Frame2, &Converter::hexadecimal, ui_->Command36, ui_->Command39, ui_->Command43, &Converter::FromHex},
+            {ui_->Frame3, &Converter::octal, ui_->Command37, ui_->Command40, ui_->Command44, &Converter::FromOct}};
   for (const Base& base : bases_) {
     ConnectBase(base);
     base.to_text->setEnabled(!stand_alone);
   }
   connect(ui_->Command46, &QPushButton::clicked, this, [this] { doors_.to_text(roman_); });
-  connect(ui_->Command41, &QPushButton::clicked, this, [this] { doors_.to_calculator(converter_.Label1); });
+  connect(ui_->Command41, &QPushButton::clicked, this, [this] { doors_.to_calculator(converter_.decimal); });
   connect(ui_->Command45, &QPushButton::clicked, this, &Prev::hide);
   new KeyPreview(*this, [this](const QKeyEvent& event) { return PhysicalKey(event); });
 }
@@ -81,9 +81,9 @@ void Prev::ShowRoman(std::int32_t number) {
 }
 
 void Prev::ShowFields() {
-  ui_->Label1->setText(Utf8ToQString(converter_.Label1));
-  ui_->Label3->setText(Utf8ToQString(converter_.Label3));
-  ui_->Label6->setText(Utf8ToQString(converter_.Label6));
+  ui_->Label1->setText(Utf8ToQString(converter_.decimal));
+  ui_->Label3->setText(Utf8ToQString(converter_.hexadecimal));
+  ui_->Label6->setText(Utf8ToQString(converter_.octal));
 }
 
 void Prev::hideEvent(QHideEvent* event) {

@@ -55,7 +55,7 @@ void RND_Sifra::Command3_Click() {
     files_.Load(table_);
     ShowCodes();
     ShowLetters();
-    ui_->Text2->Buffer().SetText(table_.Note);
+    ui_->Text2->Buffer().SetText(table_.note);
     loaded = ShowCoefficients(CountedDigits::kFirstEight);
   } catch (const RuntimeError&) {  // told below, like a table that can't be one
   }
@@ -70,7 +70,7 @@ void RND_Sifra::Command5_Click() {
 }
 
 void RND_Sifra::Command6_Click() {
-  if (table_.Depth == 0) return;  // no table but what an empty file left: it would cost the document
+  if (table_.depth == 0) return;  // no table but what an empty file left: it would cost the document
   ReplaceDocument(document_, RndDecipher(ui_->Text1->Buffer().Text(), table_, StartProgress()));
 }
 
@@ -90,7 +90,7 @@ void RND_Sifra::Text2_Change() {
   TextBuffer& note = ui_->Text2->Buffer();
   // No more than the file takes; this comes here again.
   if (note.Size() > kLongestField) return note.Replace(kLongestField, note.Size() - kLongestField, {});
-  table_.Note = note.Text();
+  table_.note = note.Text();
 }
 
 void RND_Sifra::GenerateNewCodes() {

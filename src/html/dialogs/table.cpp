@@ -137,11 +137,11 @@ void Table::ShowRow() {
   ui_->Text5->setText(TextToQString(RowAttributes()));
 }
 
-std::string& Table::Text() { return grid_.CellText.at(ValueOf(ui_->HScroll1)).at(ValueOf(ui_->VScroll7)); }
+std::string& Table::Text() { return grid_.cell_text.at(ValueOf(ui_->HScroll1)).at(ValueOf(ui_->VScroll7)); }
 
-std::string& Table::Attributes() { return grid_.CellAttrs.at(ValueOf(ui_->HScroll1)).at(ValueOf(ui_->VScroll7)); }
+std::string& Table::Attributes() { return grid_.cell_attrs.at(ValueOf(ui_->HScroll1)).at(ValueOf(ui_->VScroll7)); }
 
-std::string& Table::RowAttributes() { return grid_.RowAttrs.at(ValueOf(ui_->VScroll8)); }
+std::string& Table::RowAttributes() { return grid_.row_attrs.at(ValueOf(ui_->VScroll8)); }
 
 TableSpec Table::Read() const {
   TableSpec spec;

@@ -189,7 +189,7 @@ TEST_F(RndSifraTest, MakesThePartsOfATableAnewAndKeepsItInAFile) {
 TEST_F(RndSifraTest, ALoadThatFailsSaysSo) {
   const std::string message = "message 0 \"Nepodařilo se otevřít ...\" \"Open RND\"";
   CipherTable other;
-  other.SymbolCodes[0] = "\r\n\r\n";
+  other.symbol_codes[0] = "\r\n\r\n";
   platform.files["/other"] = TableBytes(other);
   platform.opens = {std::nullopt, "/new.pvt", "/other"};
   platform.answers = {Answer::kOk, Answer::kOk, Answer::kOk};
