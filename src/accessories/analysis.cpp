@@ -7,6 +7,7 @@
 
 #include "shell/common.h"
 #include "text/codepage.h"
+#include "text/index.h"
 #include "text/number_text.h"
 
 namespace pelmar {
@@ -14,7 +15,8 @@ namespace {
 
 // "000,00", halves rounded up.
 std::string Percent(std::int32_t count, std::size_t length) {
-  const std::uint64_t hundredths = (static_cast<std::uint64_t>(count) * 20000 + length) / (2 * length);
+  const auto all = static_cast<std::int64_t>(length);
+  const std::int64_t hundredths = (20000 * std::int64_t{count} + all) / (2 * all);
   return ZeroPadded(hundredths / 100, 3) + "," + ZeroPadded(hundredths % 100, 2);
 }
 
@@ -25,7 +27,7 @@ bool Ignored(std::size_t code, bool ignore_blank) { return ignore_blank && code 
 Analysis AnalyseText(std::string_view text) {
   Analysis analysis;
   analysis.length = text.size();
-  for (const char ch : text) ++analysis.counts[static_cast<std::size_t>(CodeOf(ch))];
+  for (const char ch : text) ++analysis.counts[IndexOf(ch)];
   analysis.counts[0] = 0;  // only the codes from 1 on are counted
   std::iota(analysis.ranking.begin(), analysis.ranking.end(), std::uint8_t{1});
   std::ranges::stable_sort(analysis.ranking, std::greater(), [&](std::uint8_t code) { return analysis.counts[code]; });
@@ -64,7 +66,7 @@ std::vector<std::string> AnalysisRows(const Analysis& analysis) {
   rows.reserve(analysis.ranking.size());
   for (const std::uint8_t code : analysis.ranking) {
     const std::int32_t count = analysis.counts[code];
-    rows.push_back(ZeroPadded(rows.size() + 1, 3) + " " + ZeroPadded(static_cast<std::uint64_t>(count), 5) + " " +
+    rows.push_back(ZeroPadded(static_cast<std::int64_t>(rows.size()) + 1, 3) + " " + ZeroPadded(count, 5) + " " +
                    Percent(count, analysis.length) + " " + ZeroPadded(code, 3) + " " + std::string(kQuote) +
                    CharOf(code) + std::string(kQuote));
   }

@@ -68,8 +68,7 @@ Channels MeanToMiddle(const Channels& c) {
 }
 
 std::string HistoryRow(const Channels& c) {
-  const auto digits = [](int channel) { return ZeroPadded(static_cast<std::uint64_t>(channel), 3); };
-  return digits(c.red) + "," + digits(c.green) + "," + digits(c.blue);
+  return ZeroPadded(c.red, 3) + "," + ZeroPadded(c.green, 3) + "," + ZeroPadded(c.blue, 3);
 }
 
 Channels FromHistoryRow(std::string_view row) {

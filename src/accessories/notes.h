@@ -11,6 +11,7 @@
 #include "platform/platform.h"
 #include "shell/file_number.h"
 #include "shell/rescue_file.h"
+#include "text/index.h"
 
 namespace pelmar {
 
@@ -20,8 +21,8 @@ inline constexpr std::size_t kLongestNote = 65535;  // bytes: what the count of 
 struct NotesRecord {
   std::array<std::string, kNotePages> pages;
 
-  [[nodiscard]] std::string& Page(int number) { return pages.at(static_cast<std::size_t>(number - 1)); }
-  [[nodiscard]] const std::string& Page(int number) const { return pages.at(static_cast<std::size_t>(number - 1)); }
+  [[nodiscard]] std::string& Page(int number) { return pages.at(IndexFromOne(number)); }
+  [[nodiscard]] const std::string& Page(int number) const { return pages.at(IndexFromOne(number)); }
   bool operator==(const NotesRecord&) const = default;
 };
 

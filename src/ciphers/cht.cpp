@@ -4,6 +4,7 @@
 
 #include "ciphers/shift.h"
 #include "shell/common.h"
+#include "text/index.h"
 
 namespace pelmar {
 namespace {
@@ -31,8 +32,7 @@ std::string HackerTranscription(std::string_view text, const Draw& draw) {
   std::string result(text);
   for (char& ch : result) {
     const int letter = LetterNumber(ch);
-    const std::string_view set =
-        letter == 0 ? std::string_view(&ch, 1) : kLookAlikes[static_cast<std::size_t>(letter - 1)];
+    const std::string_view set = letter == 0 ? std::string_view(&ch, 1) : kLookAlikes[IndexFromOne(letter)];
     ch = set[DrawBelow(draw, set.size())];
   }
   return result;

@@ -3,6 +3,7 @@
 #include "html/attributes.h"
 #include "shell/common.h"
 #include "text/codepage.h"
+#include "text/index.h"
 
 namespace pelmar {
 namespace {
@@ -11,7 +12,7 @@ namespace {
 std::string SpacedAlign(Align align) {
   static constexpr std::string_view kValues[] = {"", "LEFT", "CENTER", "RIGHT"};
   if (align == Align::kNone) return {};
-  return " ALIGN = " + Quoted(kValues[static_cast<std::size_t>(align)]);
+  return " ALIGN = " + Quoted(kValues[IndexOf(align)]);
 }
 
 std::string SpacedWidth(std::string_view width) { return " Width = " + Quoted(width); }

@@ -1,10 +1,10 @@
 #include "html/image.h"
 
 #include <array>
-#include <cstddef>
 #include <string_view>
 
 #include "html/attributes.h"
+#include "text/index.h"
 
 namespace pelmar {
 namespace {
@@ -17,7 +17,7 @@ constexpr std::array<std::string_view, 5> kAligns = {"top", "middle", "bottom", 
 std::string ImageTag(const ImageSpec& image) {
   std::string tag = "<IMG" + Attribute("SRC", FileAddress(image.path, image.relative));
   tag += Attribute("ALT", image.alt);
-  if (image.align) tag += Attribute("ALIGN", kAligns[static_cast<std::size_t>(*image.align)]);
+  if (image.align) tag += Attribute("ALIGN", kAligns[IndexOf(*image.align)]);
   if (image.size) {
     tag += Attribute("WIDTH", LeftTrimmed(image.size->width));
     tag += Attribute("HEIGHT", LeftTrimmed(image.size->height));

@@ -4,6 +4,7 @@
 
 #include "html/attributes.h"
 #include "shell/common.h"
+#include "text/index.h"
 
 namespace pelmar {
 namespace {
@@ -12,11 +13,6 @@ constexpr std::string_view kAligns[] = {"LEFT", "CENTER", "RIGHT"};
 constexpr std::string_view kFrames[] = {"NONE", "ABOVE", "BELOW", "HSIDES", "LHS", "RHS", "VSIDES", "BOX"};
 constexpr std::string_view kRules[] = {"NONE", "ROWS", "COLS", "ALL"};
 constexpr std::string_view kSides[] = {"TOP", "BOTTOM", "LEFT", "RIGHT"};
-
-template <class Choice, std::size_t Count>
-std::string_view Word(const std::string_view (&words)[Count], Choice choice) {
-  return words[static_cast<std::size_t>(choice)];
-}
 
 std::string OptionalNumber(std::string_view name, const std::optional<std::string>& label) {
   return label ? Attribute(name, LeftTrimmed(*label)) : std::string();
@@ -27,19 +23,19 @@ std::string OpeningTag(const TableSpec& spec) {
   tag += OptionalNumber("WIDTH", spec.width);
   tag += OptionalNumber("COLS", spec.cols);
   tag += Attribute("COLSPEC", spec.colspec);
-  if (spec.align) tag += Attribute("ALIGN", Word(kAligns, *spec.align));
+  if (spec.align) tag += Attribute("ALIGN", kAligns[IndexOf(*spec.align)]);
   if (spec.border) {
-    tag += Attribute("FRAME", Word(kFrames, spec.border->frame));
+    tag += Attribute("FRAME", kFrames[IndexOf(spec.border->frame)]);
     tag += Attribute("BORDER", LeftTrimmed(spec.border->thickness));
   }
-  if (spec.rules) tag += Attribute("RULES", Word(kRules, *spec.rules));
+  if (spec.rules) tag += Attribute("RULES", kRules[IndexOf(*spec.rules)]);
   tag += OptionalNumber("CELLSPACING", spec.cell_spacing);
   tag += OptionalNumber("CELLPADDING", spec.cell_padding);
   return tag += '>';
 }
 
 std::string CaptionTag(const TableSpec::Caption& caption) {
-  return "<CAPTION" + Attribute("ALIGN", Word(kSides, caption.side)) + '>' + caption.text + "</CAPTION>";
+  return "<CAPTION" + Attribute("ALIGN", kSides[IndexOf(caption.side)]) + '>' + caption.text + "</CAPTION>";
 }
 
 std::string RowOf(const TableGrid& grid, std::size_t row, std::size_t columns) {

@@ -3,6 +3,7 @@
 #include "html/attributes.h"
 #include "shell/common.h"
 #include "text/codepage.h"
+#include "text/index.h"
 #include "text/insert.h"
 
 namespace pelmar {
@@ -17,11 +18,11 @@ constexpr std::size_t kNameInTag = 3;  // "<TR"
 std::string Attributes(const CellAlignment& alignment) {
   std::string attributes;
   if (alignment.align) {
-    attributes += Attribute("ALIGN", kAligns[static_cast<std::size_t>(*alignment.align)]);
+    attributes += Attribute("ALIGN", kAligns[IndexOf(*alignment.align)]);
     if (alignment.align == CellAlign::kCharacter && !alignment.character.empty())
       attributes += Attribute("CHAR", alignment.character);
   }
-  if (alignment.valign) attributes += Attribute("VALIGN", kVAligns[static_cast<std::size_t>(*alignment.valign)]);
+  if (alignment.valign) attributes += Attribute("VALIGN", kVAligns[IndexOf(*alignment.valign)]);
   return attributes;
 }
 

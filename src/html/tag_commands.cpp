@@ -1,7 +1,5 @@
 #include "html/tag_commands.h"
 
-#include <cstddef>
-
 #include "shell/editor.h"
 #include "text/codepage.h"
 #include "text/insert.h"
@@ -41,19 +39,17 @@ constexpr FixedInsert kFixedInserts[] = {
     {"mnureg", "®"_w},         {"mnutm", "™"_w},
 };
 
-std::string Digits(int number, std::size_t width) { return ZeroPadded(static_cast<std::uint64_t>(number), width); }
-
 }  // namespace
 
 std::span<const TagWrapper> TagWrappers() { return kTagWrappers; }
 std::span<const FixedInsert> FixedInserts() { return kFixedInserts; }
 
 std::string DateText(const LocalTime& time) {
-  return Digits(time.month, 2) + "-" + Digits(time.day, 2) + "-" + Digits(time.year, 4);
+  return ZeroPadded(time.month, 2) + "-" + ZeroPadded(time.day, 2) + "-" + ZeroPadded(time.year, 4);
 }
 
 std::string TimeText(const LocalTime& time) {
-  return Digits(time.hour, 2) + ":" + Digits(time.minute, 2) + ":" + Digits(time.second, 2);
+  return ZeroPadded(time.hour, 2) + ":" + ZeroPadded(time.minute, 2) + ":" + ZeroPadded(time.second, 2);
 }
 
 std::string EmailText(const SettingsRecord& settings) {

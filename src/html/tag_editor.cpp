@@ -7,6 +7,7 @@
 #include "platform/runtime_error.h"
 #include "shell/common.h"
 #include "text/codepage.h"
+#include "text/index.h"
 #include "text/insert.h"
 
 namespace pelmar {
@@ -140,7 +141,7 @@ class Analyser {
 
 std::string_view TagStepName(TagStep step) {
   static constexpr std::string_view kNames[] = {"Init", "Hledání tagu", "Přeformátování", "Analýza", "Přepis"};
-  return kNames[static_cast<std::size_t>(step)];
+  return kNames[IndexOf(step)];
 }
 
 TagAnalysis AnalyseTag(std::string_view text, std::size_t sel_start) { return Analyser(text, sel_start).Run(); }

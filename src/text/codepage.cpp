@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "text/index.h"
+
 namespace pelmar {
 namespace {
 
@@ -13,7 +15,7 @@ static_assert(kLowerLetters.size() == kUpperLetters.size());
 consteval std::array<char, 256> CaseTable(std::string_view from, std::string_view to) {
   std::array<char, 256> table{};
   for (int code = 0; code < 256; ++code) table[static_cast<std::size_t>(code)] = CharOf(code);
-  for (std::size_t i = 0; i < from.size(); ++i) table[static_cast<std::size_t>(CodeOf(from[i]))] = to[i];
+  for (std::size_t i = 0; i < from.size(); ++i) table[IndexOf(from[i])] = to[i];
   return table;
 }
 
@@ -32,7 +34,7 @@ constexpr auto kByUnicode = SortedByUnicode();
 
 std::string Mapped(std::string_view text, const std::array<char, 256>& table) {
   std::string result(text);
-  for (char& ch : result) ch = table[static_cast<std::size_t>(CodeOf(ch))];
+  for (char& ch : result) ch = table[IndexOf(ch)];
   return result;
 }
 
@@ -73,8 +75,8 @@ std::string ToUtf8(std::string_view text) {
   return utf8;
 }
 
-char ToUpper(char ch) { return kToUpper[static_cast<std::size_t>(CodeOf(ch))]; }
-char ToLower(char ch) { return kToLower[static_cast<std::size_t>(CodeOf(ch))]; }
+char ToUpper(char ch) { return kToUpper[IndexOf(ch)]; }
+char ToLower(char ch) { return kToLower[IndexOf(ch)]; }
 std::string ToUpper(std::string_view text) { return Mapped(text, kToUpper); }
 std::string ToLower(std::string_view text) { return Mapped(text, kToLower); }
 

@@ -76,7 +76,7 @@ std::optional<double> ValueOf(std::string_view number) {
 std::string NumberText(double number) { return GeneralText(number, 15); }
 std::string NumberText(float number) { return GeneralText(number, 7); }
 
-std::string ZeroPadded(std::uint64_t number, std::size_t width) {
+std::string ZeroPadded(std::int64_t number, std::size_t width) {
   std::string digits = std::to_string(number);
   if (digits.size() < width) digits.insert(0, width - digits.size(), '0');
   return digits;

@@ -17,7 +17,7 @@ std::string NumberText(double number);
 std::string NumberText(float number);
 
 // A whole number of at least `width` digits, with zeros in front.
-std::string ZeroPadded(std::uint64_t number, std::size_t width);
+std::string ZeroPadded(std::int64_t number, std::size_t width);
 
 // With exactly `decimals` digits (1 or more) behind the mark, halves away from zero: FixedText(1.015625, 5) is
 // "1,01563". Only the first 15 significant digits count. The number is finite and below 1E+15.

@@ -4,7 +4,7 @@
 #include <cstring>
 #include <iterator>
 
-#include "text/codepage.h"
+#include "text/index.h"
 
 namespace pelmar {
 namespace {
@@ -14,11 +14,9 @@ constexpr std::size_t kNoRow = static_cast<std::size_t>(-1);
 
 constexpr bool IsBlank(char ch) { return ch == ' ' || ch == '\t'; }
 
-std::size_t Index(char ch) { return static_cast<std::size_t>(CodeOf(ch)); }
-
 std::int64_t Sum(const AdvanceTable& advances, std::string_view text) {
   std::int64_t sum = 0;
-  for (const char ch : text) sum += advances.of[Index(ch)];
+  for (const char ch : text) sum += advances.of[IndexOf(ch)];
   return sum;
 }
 

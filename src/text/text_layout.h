@@ -11,6 +11,7 @@
 #include <string_view>
 #include <vector>
 
+#include "text/index.h"
 #include "text/text_buffer.h"
 
 namespace pelmar {
@@ -28,7 +29,7 @@ struct AdvanceTable {
 
   // Where a character ends that begins at `x`, both counted from the row's beginning.
   [[nodiscard]] std::int64_t After(std::int64_t x, char ch) const {
-    return ch == '\t' ? (x / tab_stop + 1) * tab_stop : x + of[static_cast<unsigned char>(ch)];
+    return ch == '\t' ? (x / tab_stop + 1) * tab_stop : x + of[IndexOf(ch)];
   }
 };
 

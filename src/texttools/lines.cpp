@@ -21,7 +21,7 @@ std::vector<std::string_view> LinesWithEnds(std::string_view text) {
 }
 
 void AppendNumber(std::string& out, int number) {
-  out += ZeroPadded(static_cast<std::uint64_t>(number), 5);
+  out += ZeroPadded(number, 5);
   out += ' ';
 }
 
