@@ -21,8 +21,7 @@ void SaveCheckpoint(const TextBuffer& document, TextBuffer& note, Platform& plat
 
 void RestoreCheckpoint(const TextBuffer& note, TextBuffer& document, Platform& platform) {
   if (note.Empty()) return;
-  if (platform.Message(MessageType::kYesNoWarning, "Opravdu vše vrátit ?", kTitle) == Answer::kYes)
-    document.SetText(note.Text());
+  if (platform.Confirmed("Opravdu vše vrátit ?", kTitle)) document.SetText(note.Text());
 }
 
 }  // namespace pelmar

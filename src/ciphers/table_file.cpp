@@ -46,8 +46,7 @@ void TableFiles::Load(CipherTable& table) {
 
 bool TableFiles::MayWrite() {
   return !FileExists(file_number_, platform_, path_) ||
-         platform_.Message(MessageType::kYesNoWarning, "Opravdu uložit Tabulku ? - Soubor již existuje!",
-                           "RND Soubor") == Answer::kYes;
+         platform_.Confirmed("Opravdu uložit Tabulku ? - Soubor již existuje!", "RND Soubor");
 }
 
 void TableFiles::Save(const CipherTable& table) {

@@ -14,7 +14,7 @@ constexpr char kBroken = '\b';
 // True when the person ends the run.
 bool EndsBroken(Platform& platform) {
   platform.Message(MessageType::kOk, "Porusena intengrita textu!", "Kódování");
-  return platform.Message(MessageType::kYesNoWarning, "Ukončit proces? (doporučuji ne)", "Kódování") == Answer::kYes;
+  return platform.Confirmed("Ukončit proces? (doporučuji ne)", "Kódování");
 }
 
 // Few enough steps that showing the progress costs little, short enough that the windows live.

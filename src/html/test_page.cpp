@@ -38,8 +38,7 @@ void RemoveHtml(Editor& e) {
 
 void TestHtml(Editor& e) {
   const std::string path = e.documents.CurrentPath();
-  if (!path.empty() && e.platform.Message(MessageType::kYesNoWarning, "Soubor je uložen, zobrazit uloženou verzi ?",
-                                          "Nový") == Answer::kYes) {
+  if (!path.empty() && e.platform.Confirmed("Soubor je uložen, zobrazit uloženou verzi ?", "Nový")) {
     e.platform.OpenWithDefaultProgram(path);
     return;
   }

@@ -121,6 +121,10 @@ class Platform {
 
   // Questions to the person; they return when answered.
   virtual Answer Message(MessageType type, std::string_view text, std::string_view title) = 0;
+  // Asks with a warning. True only for Yes.
+  bool Confirmed(std::string_view question, std::string_view title) {
+    return Message(MessageType::kYesNoWarning, question, title) == Answer::kYes;
+  }
   // The system's box about a program.
   virtual void ShowAbout(std::string_view title, std::string_view text) = 0;
   // The text that was put in, nothing on cancel. Text and answer are UTF-8.

@@ -87,10 +87,6 @@ void AddRandomTexts(Editor& e) {
   });
 }
 
-bool Confirmed(Editor& e, std::string_view question, std::string_view title) {
-  return e.platform.Message(MessageType::kYesNoWarning, question, title) == Answer::kYes;
-}
-
 void AddClipboardCommands(Editor& e) {
   for (const std::string_view name : {"Cut", "mnucut"})
     e.commands.Add(name, [&e] {
@@ -104,15 +100,16 @@ void AddClipboardCommands(Editor& e) {
     e.commands.Add(name, [&e] { InsertAtCaret(e.text, e.platform.ClipboardText()); });
   e.commands.Add("mnucopy", [&e] { e.platform.SetClipboardText(e.text.Text()); });
   e.commands.Add("mnuinsert", [&e] {
-    if (Confirmed(e, "Opravdu vše nahradit textem ze schránky ?", "Vložení"))
+    if (e.platform.Confirmed("Opravdu vše nahradit textem ze schránky ?", "Vložení"))
       e.text.SetText(e.platform.ClipboardText());
   });
   e.commands.Add("mnunewclip", [&e] {
-    if (Confirmed(e, "Opravdu nový dokument z textu ve schránce ?", "Nový")) e.text.SetText(e.platform.ClipboardText());
+    if (e.platform.Confirmed("Opravdu nový dokument z textu ve schránce ?", "Nový"))
+      e.text.SetText(e.platform.ClipboardText());
     e.documents.ForgetPath();  // required: on No as well
   });
   e.commands.Add("mnuclearclip", [&e] {
-    if (Confirmed(e, "Opravdu vyčistit schránku ?", "Vyčištění")) e.platform.ClearClipboard();
+    if (e.platform.Confirmed("Opravdu vyčistit schránku ?", "Vyčištění")) e.platform.ClearClipboard();
   });
   e.commands.Add("mnuallselect", [&e] { e.text.Select(0, e.text.Size()); });
 }
