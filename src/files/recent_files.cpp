@@ -17,7 +17,7 @@ void RecentFiles::PushRecentFile(const std::string& path) {
   const auto last = found == entries.end() ? entries.end() - 1 : found;
   std::rotate(entries.begin(), last, last + 1);
   entries.front() = path;
-  changed.Tell();
+  changed.Notify();
 }
 
 void RecentFiles::Remember(const std::string& path) {

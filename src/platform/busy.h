@@ -1,4 +1,4 @@
-// The hourglass for as long as a long command works.
+// Shows the hourglass while a long command works.
 #pragma once
 
 #include "platform/platform.h"

@@ -1,4 +1,4 @@
-// Colours as the program computes, keeps and writes them.
+// Colours in memory, in files and in HTML.
 #pragma once
 
 #include <cstdint>
@@ -13,7 +13,7 @@ constexpr int RedOf(Color color) { return color & 0xFF; }
 constexpr int GreenOf(Color color) { return color >> 8 & 0xFF; }
 constexpr int BlueOf(Color color) { return color >> 16 & 0xFF; }
 
-// Two upper-case digits of a number from 0 to 255.
+// Two upper-case hexadecimal digits of a number from 0 to 255.
 std::string HexByte(int value);
 
 // "#RRGGBB", upper case.

@@ -1,12 +1,11 @@
-// What an errno means, in Czech: the system's own words come in its language, or in English.
+// Says in Czech what an errno means. The system's own texts are often in English.
 #pragma once
 
 #include <string>
 
 namespace pelmar {
 
-// UTF-8, in lower case and without a full stop, for the end of a message. Another number than those that files give
-// reads "chyba číslo 123".
+// UTF-8, in lower case and without a full stop, for the end of a message. An unknown number gives "chyba číslo 123".
 std::string ErrorText(int number);
 
 }  // namespace pelmar

@@ -14,7 +14,8 @@ namespace {
 
 bool IsSeparator(char ch) { return ch == '\\' || ch == '/'; }
 
-// Positions from 1, found by the walk that the three parts share.
+// Positions from 1. Without a separator, `separator` is the length of the path. Without an extension, `dot` equals
+// `separator`.
 struct PathSplit {
   std::size_t separator;
   std::size_t dot;
@@ -65,7 +66,7 @@ bool HasExtension(std::string_view path) {
 bool EndsInSeparator(std::string_view path) { return !path.empty() && IsSeparator(path.back()); }
 
 std::string PathToFileUrl(std::string_view path) {
-  // The slash of a native absolute path is the third one already.
+  // An absolute path brings the third slash along.
   std::string url = path.starts_with('/') ? "file://" : "file:///";
   url += path;
   std::replace(url.begin(), url.end(), '\\', '/');

@@ -1,4 +1,5 @@
-// Parts of paths, and how they are stored. A path is the bytes that the system gave; both "\\" and "/" separate.
+// Takes paths apart, joins them and stores them. A path is the bytes that the system gave. Both "\\" and "/" separate
+// folders.
 #pragma once
 
 #include <optional>
@@ -7,31 +8,31 @@
 
 namespace pelmar {
 
-// Part 1 of a path is its folder with the closing separator, 2 the name without extension, 3 the extension; any other
-// number gives "". Throws RuntimeError (EINVAL) for an empty path, and for part 2 of a path
-// whose name holds no full stop.
+// Part 1 is the folder with its last separator, part 2 the name without extension, part 3 the extension. Other numbers
+// give "". Throws RuntimeError (EINVAL) for an empty path, and for part 2 of a name without extension. required: part 3
+// of such a name is the whole name.
 std::string FilePart(std::string_view path, int part);
 
-// False for a path whose name holds no full stop, as part 2 refuses it, and for an empty one.
+// Whether the name has an extension. False for an empty path.
 bool HasExtension(std::string_view path);
 
 bool EndsInSeparator(std::string_view path);
 
-// "file:///" and the path, each backslash as "/", nothing encoded. A native absolute path gets three slashes in all.
+// "file:///" and the path with "/" for each backslash. Nothing is encoded. The first slash of an absolute path is the
+// third slash of the URL.
 std::string PathToFileUrl(std::string_view path);
 
-// The path that a "file://" URL of this computer names, percent-decoded; nothing for any other string.
+// The path in a "file://" URL of this computer, percent-decoded. Nothing for any other string.
 std::optional<std::string> PathFromFileUrl(std::string_view url);
 
-// What stands behind the last separator, the whole of a path that has none.
+// The part after the last separator. The whole path if there is no separator.
 std::string_view NameOf(std::string_view path);
 
-// Folder and name joined by the separator that the folder is written with, none added where it ends in one.
+// Joins folder and name with the separator that the folder uses. A separator at the end of the folder is not doubled.
 std::string JoinPath(std::string_view folder, std::string_view name);
 
-// How a path lies in a file of Windows-1250 text: in the page where that loses nothing, else as it is in UTF-8. Reading
-// takes what is valid UTF-8 for UTF-8; a path whose page bytes would be mistaken for it is kept as UTF-8 too. A path
-// that is no UTF-8 itself is kept as a URL.
+// A path in a file of Windows-1250 text. It is stored in Windows-1250 if no character is lost and the bytes can't be
+// mistaken for UTF-8, otherwise in UTF-8. A path that is not UTF-8 is stored as a URL.
 std::string StoredPath(std::string_view path);
 std::string PathFromStored(std::string_view bytes);
 

@@ -1,11 +1,8 @@
-// All that the program asks of the system, behind one interface. The program's answer is Qt's (platform/qt); tests
-// answer from a script. Messages and titles are UTF-8, texts of documents and the clipboard are Windows-1250. A path is
-// the bytes that the system gave, UTF-8 as a rule; in a message it shows as well where it isn't.
-//
-// How failures are told: a call that touches a file gives an errno, 0 for none, alone or as the `error` of what else it
-// gives; one whose failure has no reason that matters gives a bool or an optional. No call throws. RuntimeError is
-// thrown above, where a command can't go on (shell/file_number.h has the common cases), and caught only by commands
-// that end in silence or have a message of their own; what nobody catches ends the program, with its documents kept.
+// Everything that the program asks of the system. The program answers with Qt (platform/qt), tests answer with a
+// script. Messages and titles are UTF-8, documents and the clipboard are Windows-1250. A path is the bytes that the
+// system gave. No call throws: a call on a file returns an errno, 0 for success, alone or in the field `error`. A
+// command that can't go on throws RuntimeError; one that nobody catches ends the program, after a rescue of the
+// documents.
 #pragma once
 
 #include <cstdint>
@@ -17,7 +14,7 @@
 
 namespace pelmar {
 
-// The message boxes of the program, by their buttons and picture.
+// Message boxes by their buttons and icon.
 enum class MessageType {
   kOk = 0,              // OK
   kYesNoQuestion = 36,  // Yes (default) and No, question
@@ -30,7 +27,7 @@ enum class Answer {
   kOk,
   kYes,
   kNo,
-  kNone,  // a question closed without an answer; to most of them as good as No
+  kNone,  // the person closed the question; most callers take this for No
 };
 
 struct LocalTime {
@@ -44,11 +41,11 @@ struct FileBytes {
 
 struct WriteOutcome {
   int error = 0;  // 0 or an errno
-  // The file that holds the old content, where a failed write damaged that and couldn't put it back.
+  // If a failed write damaged the file for good: the path of a copy of the old content.
   std::string kept = {};
 };
 
-// Tells two contents that one path led to apart without reading them.
+// Shows that a file has changed, without reading the file.
 struct FileStamp {
   std::uint64_t device = 0, node = 0, size = 0;
   std::int64_t changed = 0;  // nanoseconds since 1970
@@ -61,7 +58,7 @@ struct KeyStates {
   bool insert = false;
 };
 
-// What a text is printed in. The name is Windows-1250, the size in points.
+// The font of a printed text. The name is Windows-1250, the size in points.
 struct PrintFont {
   std::string name;
   double size = 8;
@@ -69,8 +66,8 @@ struct PrintFont {
   bool italic = false;
 };
 
-// The paper of a print job, for as long as the job is open. Distances are dots of the printer from the left edge of
-// what it can print on; lines count from 0 on each page.
+// The paper of an open print job. Distances are printer dots from the left edge of the printable area. Lines count from
+// 0 on each page.
 class Paper {
  public:
   Paper() = default;
@@ -80,7 +77,7 @@ class Paper {
 
   [[nodiscard]] virtual double Width() const = 0;
   [[nodiscard]] virtual std::size_t LinesPerPage() const = 0;  // at least 1
-  // Where a text ends that begins at x. A tab leads to the next tab stop.
+  // The right end of a text that begins at x. A tab leads to the next tab stop.
   [[nodiscard]] virtual double EndOf(double x, std::string_view text) const = 0;
   virtual void Put(std::size_t line, double x, std::string_view text) = 0;
   virtual void NewPage() = 0;
@@ -88,13 +85,13 @@ class Paper {
 
 struct PrintOutcome {
   int error = 0;             // 0 or an errno
-  std::string printer = {};  // its name; "" where there is none to print on
-  // The rest is for that case. UTF-8.
-  std::string problem = {};  // why there is none
-  std::string pdf = {};      // the path of the file that stands for the paper
+  std::string printer = {};  // its name, "" if the system has no printer
+  // Set if there is no printer. UTF-8.
+  std::string problem = {};  // the reason
+  std::string pdf = {};      // the path of the PDF file that was written instead
 };
 
-// What becomes of the bytes of a file on their way into another. A result is valid until the next call.
+// Changes the bytes of a file on their way into another file. A result is valid until the next call.
 class FileRewriter {
  public:
   FileRewriter() = default;
@@ -103,13 +100,13 @@ class FileRewriter {
   virtual ~FileRewriter() = default;
 
   virtual std::string_view Rewrite(std::string_view piece) = 0;
-  // What comes behind the last piece.
+  // The bytes after the last piece.
   virtual std::string_view Finish() = 0;
-  // After Finish: how many of all the bytes that were given back are to stay, from the first on.
+  // How many of the returned bytes stay, from the first one on. Call after Finish.
   [[nodiscard]] virtual std::uint64_t Kept() const = 0;
 };
 
-// What happens to a longer old file behind the new content.
+// What happens to the rest of an old file that is longer than the new content.
 enum class OldTail { kDrop, kKeep };
 
 class Platform {
@@ -119,74 +116,72 @@ class Platform {
   Platform& operator=(const Platform&) = delete;
   virtual ~Platform() = default;
 
-  // Questions to the person; they return when answered.
+  // Message boxes. They return when the person has answered.
   virtual Answer Message(MessageType type, std::string_view text, std::string_view title) = 0;
   // Asks with a warning. True only for Yes.
   bool Confirmed(std::string_view question, std::string_view title) {
     return Message(MessageType::kYesNoWarning, question, title) == Answer::kYes;
   }
-  // The system's box about a program.
+  // The box about a program.
   virtual void ShowAbout(std::string_view title, std::string_view text) = 0;
-  // The text that was put in, nothing on cancel. Text and answer are UTF-8.
+  // Asks for a line of text. Nothing if the person cancels. All texts are UTF-8.
   virtual std::optional<std::string> InputBox(std::string_view prompt, std::string_view title,
                                               std::string_view initial) = 0;
-  // The system's file dialogs. The filter is "caption|pattern|caption|pattern...", its index counts from 1.
-  // Nothing on cancel.
+  // The system's file dialogs. The filter is "caption|pattern|caption|pattern...", its index counts from 1. Nothing if
+  // the person cancels.
   virtual std::optional<std::string> OpenDialog(std::string_view filter, int filter_index) = 0;
   virtual std::optional<std::string> SaveDialog(std::string_view filter, int filter_index) = 0;
 
-  // Plain text of the clipboard, nothing where it holds none; valid until the clipboard changes. A text that another
-  // program put there gets CR LF line breaks.
+  // The plain text of the clipboard, if there is any, with CR LF line breaks. Valid until the clipboard changes.
   virtual const std::optional<std::string>& ClipboardContent() = 0;
   std::string ClipboardText() { return ClipboardContent().value_or(std::string()); }
-  // Another number after each change.
+  // Changes with each change of the clipboard.
   virtual std::uint64_t ClipboardRevision() = 0;
   virtual void SetClipboardText(std::string_view text) = 0;
   virtual void ClearClipboard() = 0;
 
-  // Files. Reading reads all, at most `limit` bytes where one is given (a longer file then gives limit bytes).
-  // Writing puts the new content beside and renames it over, so that the old file stays whole until the new one is, or,
-  // where that would cost the file a link or an attribute, keeps the old content until the new one is written.
+  // Files. ReadFile reads at most `limit` bytes. Writing keeps the old content until the new content is complete: in
+  // the old file, which is then replaced by a new one, or in a copy if a new file would lose a link or an attribute.
   virtual bool CanRead(const std::string& path) = 0;  // opens for reading; false for a folder
   virtual FileBytes ReadFile(const std::string& path, std::optional<std::uint64_t> limit) = 0;
   virtual WriteOutcome WriteDocument(const std::string& path, std::string_view bytes) = 0;
-  // The same for what is put on the disk unasked: where the file is new, only its owner can read it. 0 or errno.
+  // The same for a file that the program writes unasked. If the file is new, only its owner can read it. Returns 0 or
+  // an errno.
   virtual int WritePrivateFile(const std::string& path, std::string_view bytes) = 0;
-  // A file that only its owner can read. EEXIST where anything has that name already, links that lead nowhere included.
+  // Creates a file that only its owner can read. EEXIST if the name is taken, even by a link that leads nowhere.
   virtual int WriteNewFile(const std::string& path, std::string_view bytes) = 0;  // 0 or errno
-  // Hands a file to `take` piece by piece, until that returns false. 0 or errno.
+  // Gives a file to `take` in pieces, until `take` returns false. Returns 0 or an errno.
   virtual int ReadByPieces(const std::string& path, const std::function<bool(std::string_view piece)>& take) = 0;
-  // Reads one file and writes another, piece by piece, so that its size doesn't matter. The target is the new content
-  // once that is complete, and what it was until then.
+  // Copies a file of any size through `rewriter`. The target keeps its old content until the new content is complete.
   virtual WriteOutcome RewriteFile(const std::string& source, const std::string& target, OldTail tail,
                                    FileRewriter& rewriter) = 0;
-  // Nothing where the path leads to no file.
+  // Nothing if there is no such file.
   virtual std::optional<FileStamp> Stamp(const std::string& path) = 0;
-  // True where both paths lead to the same file.
+  // Whether both paths lead to the same file.
   virtual bool IsSameFile(const std::string& left, const std::string& right) = 0;
 
   // Folders, with a separator at the end.
   virtual std::string InstallFolder() = 0;
   virtual std::string TempFolder() = 0;
-  virtual std::string ShareFolder() = 0;  // what the package brings along
+  virtual std::string ShareFolder() = 0;  // where the package keeps its files
 
-  // Prints what `draw` puts on the paper on the system's default printer, or on the only one. Where there is none, the
-  // paper is a new PDF file in the person's documents folder. `name` (UTF-8) names the job and the file.
+  // Prints what `draw` puts on the paper, on the default printer or the only printer. Without a printer, a new PDF file
+  // in the documents folder takes the place of the paper. `name` (UTF-8) names the job and the file.
   virtual PrintOutcome Print(const PrintFont& font, const std::string& name,
                              const std::function<void(Paper&)>& draw) = 0;
 
   virtual void AddToRecentDocuments(const std::string& path) = 0;
-  // Whether a program came up is not known to the caller, and nobody is told.
+  // Opens a file in another program. Failures are not reported.
   virtual void OpenWithDefaultProgram(const std::string& path) = 0;
-  // One more copy of this program, independent of this one, with no arguments; silent where it does not start.
+  // Starts this program once more, without arguments. Failures are not reported.
   virtual void StartAnotherCopy() = 0;
 
   virtual LocalTime Now() = 0;
   virtual KeyStates Keys() = 0;
-  // 0 <= r < 1, from the ordinary source.
+  // 0 <= r < 1, from the ordinary random source.
   virtual double Random() = 0;
   virtual void ReseedRandom() = 0;  // from the clock
-  // The indexes of the texts in the order of the Czech language, ignoring case; equal ones keep their order.
+  // The indexes of the texts in Czech alphabetical order, ignoring case. Equal texts keep their order.
   virtual std::vector<std::size_t> SortedOrder(const std::vector<std::string_view>& texts) = 0;
   virtual void SetBusyPointer(bool busy) = 0;
 };

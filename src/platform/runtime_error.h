@@ -6,8 +6,8 @@
 
 namespace pelmar {
 
-// An error that a command didn't expect. Where nobody catches it, the program keeps the modified documents in a rescue
-// file, tells the user and ends. The number is an errno.
+// An error that a command did not expect. If nobody catches the error, the program saves the modified documents in a
+// rescue file, reports the error and ends. The number is an errno.
 class RuntimeError : public std::runtime_error {
  public:
   RuntimeError(int number, const std::string& text) : std::runtime_error(text), number_(number) {}

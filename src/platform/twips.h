@@ -5,7 +5,7 @@ namespace pelmar {
 
 inline constexpr int kTwipsPerPixel = 15;
 constexpr int TwipsOf(int pixels) { return pixels * kTwipsPerPixel; }
-// To the nearest whole pixel.
+// Rounded to the nearest pixel.
 constexpr int PixelsOf(int twips) { return (twips + (twips < 0 ? -7 : 7)) / kTwipsPerPixel; }
 
 struct TwipsRect {

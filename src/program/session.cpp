@@ -36,7 +36,7 @@ void Session::Load() {
   documents_.ForgetFirstSlotsMark();
   LoadSettings();
   ApplySettingsDefaults(settings_);
-  files_.recent.changed.Tell();
+  files_.recent.changed.Notify();
   view_.SetPlace({settings_.Left, settings_.Top, settings_.Width, settings_.Height});
   if (settings_.WindowState < 0 || settings_.WindowState > 2) settings_.WindowState = 0;
   view_.SetWindowState(WindowMode{settings_.WindowState});

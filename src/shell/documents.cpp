@@ -34,7 +34,7 @@ void Documents::SwitchTo(int tab) {
   if (tab == selected_) return;
   LeaveTab();
   EnterTab(tab);
-  tab_selected.Tell(tab);
+  tab_selected.Notify(tab);
 }
 
 void Documents::TextChanged() {
@@ -104,12 +104,12 @@ void Documents::SetTitle(std::string path, bool marked) {
   TitleParts title{std::move(path), marked};
   if (title == title_) return;
   title_ = std::move(title);
-  title_changed.Tell();
+  title_changed.Notify();
 }
 
 void Documents::SetFace(std::string caption, std::string tool_tip) {
   faces_[Index(selected_)] = {std::move(caption), std::move(tool_tip)};
-  face_changed.Tell(selected_);
+  face_changed.Notify(selected_);
 }
 
 }  // namespace pelmar

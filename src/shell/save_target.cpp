@@ -5,7 +5,7 @@ namespace pelmar {
 void SaveTarget::Prime(const std::string& path) {
   path_ = path;
   if (HasExtension(path)) file_ = path;
-  primed.Tell();
+  primed.Notify();
   FilePart(path, 2);  // required: this is where an open or a save of such a name breaks off
 }
 

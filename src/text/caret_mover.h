@@ -1,6 +1,6 @@
-// Moves the caret of a buffer over the rows of its layout, as the keyboard asks.
-// Remembers two things that a position can't tell: which of two rows the caret is shown on where the text wraps, and
-// the x that Up and Down aim at. Both hold for one position only, so any other move of the caret voids them.
+// Moves the caret over the rows of a layout, as the keyboard asks. Where a line wraps, one position belongs to two
+// rows: CaretMover remembers which of the two rows shows the caret. CaretMover also remembers the x that Up and Down
+// aim at. Any other move of the caret makes both void.
 #pragma once
 
 #include <cstddef>
@@ -27,23 +27,23 @@ enum class CaretMove : std::uint8_t {
   kTextEnd,
 };
 
-// A place in the text that a point stands for.
+// A position and the row that shows it.
 struct TextPlace {
   std::size_t pos = 0;
-  bool at_row_end = false;  // shown at the end of the row above, where the text wraps
+  bool at_row_end = false;  // at the end of a wrapped row, not at the start of the next row
 };
 
 class CaretMover {
  public:
   explicit CaretMover(const TextLayout& layout) : layout_(&layout) {}
 
-  // Moves the caret, with `select` leaving the anchor behind. A page has `page_rows` rows.
+  // Moves the caret. With `select` the anchor of the selection stays. A page has `page_rows` rows.
   void Go(TextBuffer& buffer, CaretMove move, bool select, std::size_t page_rows = 1);
   void Put(TextBuffer& buffer, TextPlace place, bool select);
 
   // The row that shows the caret.
   [[nodiscard]] std::size_t Row(const TextBuffer& buffer) const;
-  // To be called after each change of content.
+  // Call after each change of the text.
   void Forget();
 
  private:
@@ -52,12 +52,12 @@ class CaretMover {
   [[nodiscard]] TextPlace RowEndPlace(std::size_t row) const;
 
   const TextLayout* layout_;
-  std::optional<std::size_t> at_row_end_;  // the caret's position that is shown at a row's end
-  std::optional<std::size_t> aimed_from_;  // the caret's position for which `aim_` holds
+  std::optional<std::size_t> at_row_end_;  // the caret position that is shown at the end of a row
+  std::optional<std::size_t> aimed_from_;  // the caret position for which `aim_` is valid
   std::int64_t aim_ = 0;
 };
 
-// The place in row `row` nearest to `x`, counted from the left border of the content.
+// The place in the row that is nearest to `x`. `x` counts from the left edge of the content.
 TextPlace PlaceInRow(const TextLayout& layout, std::size_t row, std::int64_t x);
 
 }  // namespace pelmar

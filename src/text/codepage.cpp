@@ -22,7 +22,7 @@ consteval std::array<char, 256> CaseTable(std::string_view from, std::string_vie
 constexpr auto kToUpper = CaseTable(kLowerLetters, kUpperLetters);
 constexpr auto kToLower = CaseTable(kUpperLetters, kLowerLetters);
 
-// The upper half of the page sorted by Unicode character, for binary search.
+// The codes from 0x80 on, sorted by Unicode character: the conversion of large files needs a fast search.
 consteval auto SortedByUnicode() {
   std::array<std::pair<char16_t, unsigned char>, 128> pairs{};
   for (std::size_t i = 0; i < pairs.size(); ++i) pairs[i] = {kCodePageHigh[i], static_cast<unsigned char>(i + 0x80)};

@@ -1,6 +1,6 @@
-// Windows-1250, the code page of every document from the disk to the glass.
-// One table serves both ways; the five codes that the page leaves unassigned stand for the C1 controls of the
-// same number, so any 256 bytes survive a trip through Unicode and back. Characters outside the page become "?".
+// Windows-1250, the code page of every document. The code page leaves five codes unassigned. They stand for the control
+// characters of the same number, so all 256 bytes survive the way to Unicode and back. A character outside the code
+// page becomes "?".
 #pragma once
 
 #include <array>
@@ -13,7 +13,7 @@
 
 namespace pelmar {
 
-// The Unicode characters of the codes 0x80 to 0xFF; codes below are ASCII and stand for themselves.
+// The Unicode characters of the codes from 0x80 to 0xFF. Lower codes are ASCII.
 inline constexpr std::array<char16_t, 128> kCodePageHigh = {
     0x20AC, 0x0081, 0x201A, 0x0083, 0x201E, 0x2026, 0x2020, 0x2021, 0x0088, 0x2030, 0x0160, 0x2039, 0x015A,
     0x0164, 0x017D, 0x0179, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014, 0x0098, 0x2122,
@@ -29,8 +29,8 @@ inline constexpr std::array<char16_t, 128> kCodePageHigh = {
 
 constexpr char16_t UnicodeOf(unsigned char code) { return code < 0x80 ? char16_t{code} : kCodePageHigh[code - 0x80u]; }
 
-// The code of a Unicode character, or -1 where the page lacks it. Usable at compile time; searching, so meant for
-// literals. FromUtf8 is the fast way for text.
+// The code of a Unicode character, -1 if the code page lacks the character. For literals: slow, but usable at compile
+// time.
 constexpr int FindCode(char32_t character) {
   if (character < 0x80) return static_cast<int>(character);
   for (std::size_t i = 0; i < kCodePageHigh.size(); ++i)
@@ -38,10 +38,10 @@ constexpr int FindCode(char32_t character) {
   return -1;
 }
 
-// The code of a Unicode character, "?" where the page lacks it.
+// The code of a Unicode character, "?" if the code page lacks the character.
 unsigned char CodeOfUnicode(char32_t character);
 
-// Whole strings. Malformed UTF-8 gives one "?" for each byte that can't be part of a character.
+// Whole strings. Each malformed byte of UTF-8 becomes "?".
 std::string FromUtf8(std::string_view utf8);
 std::string ToUtf8(std::string_view text);
 std::string FromUtf16(std::u16string_view utf16);
@@ -50,13 +50,13 @@ std::string FromUtf16(std::u16string_view utf16);
 constexpr int CodeOf(char ch) { return static_cast<unsigned char>(ch); }
 constexpr char CharOf(int code) { return static_cast<char>(static_cast<unsigned char>(code)); }
 
-// Upper and lower case of all letters of the page; ß, digits and signs stay as they are.
+// Upper and lower case of all letters of the code page. ß, digits and signs stay.
 char ToUpper(char ch);
 char ToLower(char ch);
 std::string ToUpper(std::string_view text);
 std::string ToLower(std::string_view text);
 
-// A letter of the page in either case, ß included.
+// Whether the character is a letter of the code page. ß is one.
 bool IsLetter(char ch);
 
 namespace literal {
@@ -94,7 +94,7 @@ inline constexpr auto kCodes = Encode<Text>();
 
 }  // namespace literal
 
-// "Tučně"_w: UTF-8 in the source, Windows-1250 in the program. A character outside the page does not compile.
+// "Tučně"_w: UTF-8 in the source, Windows-1250 in the program. A character outside the code page does not compile.
 template <literal::Utf8Text Text>
 consteval std::string_view operator""_w() {
   return {literal::kCodes<Text>.data(), literal::kCodes<Text>.size() - 1};

@@ -1,5 +1,4 @@
-// How commands and dialogs put text into a document, besides its own ReplaceSelection. Texts are Windows-1250 and are
-// not escaped.
+// How commands and dialogs put text into a document. Texts are Windows-1250 and are not escaped.
 #pragma once
 
 #include <string>
@@ -9,10 +8,10 @@
 
 namespace pelmar {
 
-// Inserts at the start of the selection. The selected text stays, after the new text, and is selected no more.
+// Inserts at the start of the selection. The selected text stays, after the new text, and is no longer selected.
 void InsertAtCaret(TextBuffer& document, std::string_view text);
 
-// Puts the selection between `open` and `close`, or `sample` where nothing is selected.
+// Puts the selection between `open` and `close`, or `sample` if nothing is selected.
 void WrapSelection(TextBuffer& document, std::string_view open, std::string_view close, std::string_view sample);
 
 struct Wrapping {

@@ -1,5 +1,5 @@
-// Who wants to hear of something. A listener hears for as long as both the list and the handle that it got live,
-// whichever of them ends first, so it needs no farewell and may have any place among the members of its owner.
+// Functions that are called when something happens. Add returns a handle. The function is called as long as both the
+// list and the handle exist; either may end first.
 #pragma once
 
 #include <functional>
@@ -9,13 +9,13 @@
 
 namespace pelmar {
 
-// Ends the listening with itself, or when another one is put in its place.
+// The end of the handle removes the listener.
 using Listening = std::shared_ptr<const void>;
 
 template <typename... Args>
 class Listeners {
  public:
-  // Listeners are told in the order in which they were added.
+  // Listeners are notified in the order in which they were added.
   [[nodiscard]] Listening Add(std::function<void(Args...)> listener) {
     std::erase_if(listeners_, [](const auto& one) { return one.expired(); });
     auto kept = std::make_shared<const std::function<void(Args...)>>(std::move(listener));
@@ -23,8 +23,8 @@ class Listeners {
     return kept;
   }
 
-  void Tell(Args... args) const {
-    // A copy: a listener may bring others in, or let them go.
+  void Notify(Args... args) const {
+    // A copy, since a listener may add and remove listeners.
     for (const auto& one : std::vector(listeners_))
       if (const auto listener = one.lock()) (*listener)(args...);
   }

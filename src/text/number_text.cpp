@@ -22,19 +22,20 @@ std::string GeneralText(Number number, int digits) {
   return {buffer, end};
 }
 
-// Where the digits from `at` on end.
-std::size_t BehindDigits(std::string_view text, std::size_t at) {
+// The end of the digits that begin at `at`.
+std::size_t DigitsEnd(std::string_view text, std::size_t at) {
   while (at < text.size() && IsDigit(text[at])) ++at;
   return at;
 }
 
-// How much of the text, from its start on, has the form of a number: sign, digits, mark, digits, exponent.
+// The length of the number at the start of the text: sign, digits, decimal mark, digits, exponent. 0 if the text does
+// not begin with a number.
 std::size_t NumberLength(std::string_view text, char mark) {
   const std::size_t start = text.starts_with('-') || text.starts_with('+') ? 1 : 0;
-  std::size_t end = BehindDigits(text, start);
+  std::size_t end = DigitsEnd(text, start);
   std::size_t digits = end - start;
   if (end < text.size() && text[end] == mark) {
-    const std::size_t decimals_end = BehindDigits(text, end + 1);
+    const std::size_t decimals_end = DigitsEnd(text, end + 1);
     digits += decimals_end - end - 1;
     end = decimals_end;
   }
@@ -42,27 +43,26 @@ std::size_t NumberLength(std::string_view text, char mark) {
   if (end < text.size() && (text[end] == 'E' || text[end] == 'e')) {
     std::size_t exponent = end + 1;
     if (exponent < text.size() && (text[exponent] == '-' || text[exponent] == '+')) ++exponent;
-    const std::size_t exponent_end = BehindDigits(text, exponent);
+    const std::size_t exponent_end = DigitsEnd(text, exponent);
     if (exponent_end > exponent) end = exponent_end;
   }
   return end;
 }
 
-// Whether a number out of range, written with a point, is nearer to zero than any other.
+// Whether a number that does not fit a double is too close to zero, not too large. The decimal mark is the point.
 bool IsTiny(std::string_view number) {
   const std::string_view mantissa = number.substr(0, number.find_first_of("eE"));
   std::string_view digits = number.substr(std::min(mantissa.size() + 1, number.size()));
   const bool negative = digits.starts_with('-');
   if (digits.starts_with('-') || digits.starts_with('+')) digits.remove_prefix(1);
-  double exponent = 0;  // of any size
+  double exponent = 0;  // a double, since the text may have any number of digits
   for (const char digit : digits) exponent = 10 * exponent + (digit - '0');
   const auto point = static_cast<double>(std::min(mantissa.find('.'), mantissa.size()));
   const auto first = static_cast<double>(mantissa.find_first_of("123456789"));
   return point - first + (negative ? -exponent : exponent) < 0;
 }
 
-// The value of a text that begins with the form of a number, written with a point; 0 where it doesn't, nothing where
-// the number is too large.
+// The value of a number with a decimal point. 0 for a text that is no number, nothing for a number that is too large.
 std::optional<double> ValueOf(std::string_view number) {
   if (number.starts_with('+')) number.remove_prefix(1);
   double value = 0;
@@ -83,7 +83,7 @@ std::string ZeroPadded(std::int64_t number, std::size_t width) {
 }
 
 std::string FixedText(double number, int decimals) {
-  // The first 15 digits of what is written tell a half from what only looks like one in binary.
+  // Rounds decimal digits: in binary, a number that ends in 5 may be slightly less.
   constexpr int kDigits = 15;
   const double size = std::abs(number);
   const int whole = size < 1 ? 1 : static_cast<int>(std::floor(std::log10(size))) + 1;
@@ -118,7 +118,7 @@ double LeadingNumber(std::string_view text) {
   text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
   text = text.substr(0, NumberLength(text, '.'));
   if (const auto value = ValueOf(text)) return *value;
-  // Too large: the longest part that isn't.
+  // The number is too large. Take the longest part that is not.
   std::size_t length = 0;
   while (ValueOf(text.substr(0, length + 1))) ++length;
   return ValueOf(text.substr(0, length)).value_or(0);

@@ -1,5 +1,4 @@
-// Finding a term in a text, as every search of the program does it: exact, positions from 0. What a person is told
-// counts from 1.
+// Searches a text for a term, exactly. Positions count from 0, in messages from 1.
 #pragma once
 
 #include <cstddef>
@@ -11,14 +10,13 @@
 
 namespace pelmar {
 
-// The first hit at or behind `from`. A search that begins at the end of the text or behind it finds nothing; elsewhere
-// an empty term is found where the search begins.
+// The first hit at or after `from`. Finds an empty term at `from`. Finds nothing from the end of the text on.
 std::optional<std::size_t> FindFrom(std::string_view text, std::string_view term, std::size_t from);
 
-// Selects a hit, clipped to the end of the text. First its start, which thus comes into sight as well.
+// Selects a hit, at most up to the end of the text. Selects the start first, so that the start becomes visible.
 void SelectHit(TextBuffer& document, std::size_t hit, std::size_t length);
 
-// What the person is asked at a hit before the search goes on, UTF-8.
+// The question at a hit whether to search on. UTF-8.
 std::string GoOnQuestion(std::size_t hit);
 
 }  // namespace pelmar

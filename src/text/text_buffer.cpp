@@ -7,7 +7,7 @@
 namespace pelmar {
 namespace {
 
-// What undo and redo may hold in all; the oldest steps go first.
+// How many bytes undo and redo may hold together. The oldest steps are dropped first.
 constexpr std::size_t kHistoryLimit = std::size_t{64} << 20;
 
 }  // namespace
@@ -28,7 +28,7 @@ void TextBuffer::SetText(std::string text) {
   ++revision_;
   anchor_ = caret_ = 0;
   IndexLines();
-  changed_.Tell(change);
+  changed_.Notify(change);
 }
 
 void TextBuffer::SetSelStart(std::size_t start) { Select(start, start); }
@@ -45,7 +45,7 @@ void TextBuffer::Select(std::size_t anchor, std::size_t caret) {
   anchor_ = anchor;
   caret_ = caret;
   run_ = Run::kNone;
-  moved_.Tell();
+  moved_.Notify();
 }
 
 void TextBuffer::ReplaceSelection(std::string_view text) { Edit(SelStart(), SelLength(), text, Run::kNone); }
@@ -78,7 +78,7 @@ void TextBuffer::Edit(std::size_t pos, std::size_t length, std::string_view text
   Remember(pos, length, copy, run);
   Apply(pos, length, copy);
   run_ = copy.ends_with('\n') ? Run::kNone : run;
-  changed_.Tell({pos, length, copy.size(), false});
+  changed_.Notify({pos, length, copy.size(), false});
 }
 
 void TextBuffer::Remember(std::size_t pos, std::size_t length, std::string_view text, Run run) {
@@ -138,7 +138,7 @@ bool TextBuffer::TakeBack(std::vector<Step>& from, std::vector<Step>& to) {
   run_ = Run::kNone;
   const TextChange change{step.pos, length, text.size(), false};
   to.push_back(std::move(step));
-  changed_.Tell(change);
+  changed_.Notify(change);
   return true;
 }
 

@@ -1,7 +1,7 @@
-// The document behind a text box: Windows-1250 bytes, one selection, the line index, undo and redo.
-// Positions are byte offsets from 0 and exact also between a CR and its LF; only the pair CR LF breaks a line.
-// Listeners hear each change of content once, after text and selection are in their new state, and hear nothing
-// when the text is set to the value that it already has.
+// The document in a text box: Windows-1250 bytes, one selection, an index of the lines, undo and redo. Positions are
+// byte offsets from 0 and may lie between a CR and its LF. Only CR LF breaks a line. Listeners are notified once after
+// each change of the text, when text and selection have their new values. Nobody is notified of a text that stays the
+// same.
 #pragma once
 
 #include <cstddef>
@@ -16,12 +16,12 @@
 
 namespace pelmar {
 
-// One change of content: `removed` bytes at `pos` gave way to `inserted` bytes.
+// A change of the text: at `pos`, `inserted` bytes replaced `removed` bytes.
 struct TextChange {
   std::size_t pos = 0;
   std::size_t removed = 0;
   std::size_t inserted = 0;
-  bool whole = false;  // SetText put another text in; caret and undo began afresh
+  bool whole = false;  // a new text from SetText, which also resets caret and undo
 };
 
 class TextBuffer {
@@ -33,24 +33,23 @@ class TextBuffer {
   TextBuffer(const TextBuffer&) = delete;
   TextBuffer& operator=(const TextBuffer&) = delete;
 
-  // Called after each change of content, in the order of the calls, for as long as the handle lives.
+  // Notified after each change of the text, as long as the handle exists.
   [[nodiscard]] Listening OnChange(ChangeListener listener) { return changed_.Add(std::move(listener)); }
-  // Called after every move of caret or anchor that no change of content caused.
+  // Notified when caret or anchor have moved without a change of the text.
   [[nodiscard]] Listening OnSelection(SelectionListener listener) { return moved_.Add(std::move(listener)); }
 
   [[nodiscard]] const std::string& Text() const { return text_; }
   [[nodiscard]] std::size_t Size() const { return text_.size(); }
   [[nodiscard]] bool Empty() const { return text_.empty(); }
-  // How many changes of content there were. A listener that changes the text itself makes others hear of its change
-  // before the one that caused it; those who follow step by step see that here.
+  // The number of changes so far. If a listener changes the text, the listeners after it are notified of the second
+  // change first. They can see this from the revision.
   [[nodiscard]] std::uint64_t Revision() const { return revision_; }
 
-  // Replaces the whole text, puts the caret at 0 and forgets undo, also when the text is the same; only then no
-  // change is told.
+  // Replaces the whole text, puts the caret at 0 and clears undo. Notifies nobody if the text stays the same.
   void SetText(std::string text);
 
-  // The selection. Values are clipped to the text; setting the start collapses the selection, setting the length
-  // keeps the start and puts the caret at the end.
+  // The selection, clipped to the text. SetSelStart collapses the selection. SetSelLength keeps the start and puts the
+  // caret at the end.
   [[nodiscard]] std::size_t SelStart() const { return anchor_ < caret_ ? anchor_ : caret_; }
   [[nodiscard]] std::size_t SelLength() const { return anchor_ < caret_ ? caret_ - anchor_ : anchor_ - caret_; }
   [[nodiscard]] std::size_t SelEnd() const { return SelStart() + SelLength(); }
@@ -64,28 +63,27 @@ class TextBuffer {
   [[nodiscard]] std::size_t Anchor() const { return anchor_; }
   void Select(std::size_t anchor, std::size_t caret);
 
-  // Puts text over the selection and leaves the caret behind it. One step of undo. Putting nothing over nothing, or
-  // a text over itself, tells no change.
+  // Replaces the selection and puts the caret after the new text, in one step of undo. Notifies nobody if the text
+  // stays the same.
   void ReplaceSelection(std::string_view text);
-  // The same for a range that need not be selected.
+  // The same for any part of the text.
   void Replace(std::size_t pos, std::size_t length, std::string_view text);
 
-  // Editing by hand: runs of typing, and runs of deleting, are one step of undo each, until the caret moves elsewhere
-  // or a line ends.
+  // Typing and deleting by hand. What a person types in a row, or deletes in a row, is one step of undo, until the
+  // caret moves or a line ends.
   void Type(std::string_view text);
   void EraseBefore(std::size_t count);  // with a selection: the selection
   void EraseAfter(std::size_t count);   // with a selection: the selection
 
   [[nodiscard]] bool CanUndo() const { return !undo_.empty(); }
   [[nodiscard]] bool CanRedo() const { return !redo_.empty(); }
-  // Take back or repeat one step. Undo brings the selection of before the step back, redo leaves the caret behind the
-  // repeated text. False where there is none.
+  // Undo also restores the selection. Redo puts the caret after the repeated text. False if there is no step.
   bool Undo();
   bool Redo();
 
   // Lines, numbered from 0. A text that ends in CR LF has an empty last line.
   [[nodiscard]] std::size_t LineCount() const { return line_starts_.size(); }
-  [[nodiscard]] std::size_t LineOf(std::size_t pos) const;  // a position between CR and LF is on the line that ends
+  [[nodiscard]] std::size_t LineOf(std::size_t pos) const;  // a position between CR and LF belongs to the line before
   [[nodiscard]] std::size_t LineStart(std::size_t line) const { return line_starts_[line]; }
   [[nodiscard]] std::size_t LineEnd(std::size_t line) const;  // before the CR LF
   [[nodiscard]] std::string_view Line(std::size_t line) const;

@@ -51,7 +51,8 @@ void TextLayout::SetWidth(std::int64_t width) {
   if (rules_.wrap) LayAll();
 }
 
-// The start of the row behind the one that starts at `start` in line `line`, which moves on with the rows.
+// The start of the next row, kNoRow after the last row. `line` is the line of the row at `start`, and becomes the line
+// of the next row.
 std::size_t TextLayout::NextRow(std::size_t start, std::size_t& line) const {
   if (rules_.wrap) {
     const std::size_t end = buffer_->LineEnd(line);
@@ -62,8 +63,8 @@ std::size_t TextLayout::NextRow(std::size_t start, std::size_t& line) const {
   return buffer_->LineStart(line);
 }
 
-// Where the row that starts at `start` has to give way to the next, `end` where the rest of the line fits. The blank
-// that meets the edge still belongs to the row and hangs over it; a word longer than the row breaks anywhere.
+// The end of the row that starts at `start`, or `end` if the rest of the line fits. A blank at the edge still belongs
+// to the row. A word wider than the row breaks anywhere.
 std::size_t TextLayout::WrapAt(std::size_t start, std::size_t end) const {
   const std::string& text = buffer_->Text();
   std::int64_t x = 0;
@@ -86,14 +87,14 @@ RowsChange TextLayout::Update(const TextChange& change) {
     LayAll();
     return {0, old_count, rows_.size()};
   }
-  // A CR before the change may have got or lost its LF, and a shorter word at the beginning of a row may fit into the
-  // row before it.
+  // The change may join or part a CR and a LF. A shorter word may fit into the row before. So the row before is
+  // computed again.
   const std::size_t touched = RowOf(rules_.wrap && change.pos > 0 ? change.pos - 1 : change.pos);
   const std::size_t first = rules_.wrap && touched > 0 ? touched - 1 : touched;
   const std::size_t old_end = change.pos + change.removed;
   const std::size_t new_end = change.pos + change.inserted;
 
-  // Once a row begins where one began before the change, behind it, all the rest is as it was.
+  // Rows are computed until one begins where an old row began after the change. All later rows stay.
   auto same = static_cast<std::size_t>(std::lower_bound(rows_.begin(), rows_.end(), old_end) - rows_.begin());
   same = std::max(same, first + 1);
   std::vector<std::size_t> fresh;
@@ -123,7 +124,7 @@ std::size_t TextLayout::RowEnd(std::size_t row) const {
   return EndsLine(row) ? rows_[row + 1] - 2 : rows_[row + 1];
 }
 
-// Every CR LF breaks a line, so the two characters before a row tell whether it begins one.
+// A row begins a line if a CR LF stands before the row.
 bool TextLayout::EndsLine(std::size_t row) const {
   if (row + 1 == rows_.size()) return true;
   const std::size_t next = rows_[row + 1];
@@ -191,7 +192,7 @@ std::size_t TextLayout::StopAt(std::size_t row, std::int64_t x) const {
   return 2 * x < left + right ? at : at + 1;
 }
 
-// The width of a row, `from` being known; sets marks on the way.
+// The width of a row, measured from the mark `from`. Appends new marks to `marks`.
 std::int64_t TextLayout::MeasureRow(std::size_t row, Mark from, std::vector<Mark>& marks) const {
   const std::size_t end = RowEnd(row);
   while (end - from.pos > kMarkDistance) {
@@ -213,8 +214,8 @@ void TextLayout::MeasureAll() {
   }
 }
 
-// Measures changed rows. Marks up to the change hold, those of rows from `same_from` (a position before the change) on
-// move with the text.
+// Measures changed rows. Marks before the change stay. Marks from `same_from` on, a position in the old text, move with
+// the text.
 void TextLayout::Remeasure(const RowsChange& rows, const TextChange& change, std::size_t same_from) {
   const auto by_pos = [](const Mark& mark, std::size_t p) { return mark.pos <= p; };
   const auto kept_end = std::lower_bound(marks_.begin(), marks_.end(), change.pos, by_pos);

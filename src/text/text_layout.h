@@ -1,7 +1,6 @@
-// Where the characters of a text stand: rows, wrapping, and the way between positions and points. Plain additions
-// over a table of 256 advances, so that what is painted and what is hit are equal by construction.
-// Lengths are in 64ths of a logical pixel, as the font engine counts, so sums are exact and nothing drifts. Rows count
-// from 0, positions are byte offsets from 0. A row never holds the CR LF that ends its line.
+// Divides a text into rows and computes the place of each character from a table of 256 advances. Painting and mouse
+// clicks use the same sums. Lengths are 64ths of a logical pixel, the unit of the font engine, so sums are exact. Rows
+// and positions (bytes) count from 0. The CR LF at the end of a line belongs to no row.
 #pragma once
 
 #include <array>
@@ -22,12 +21,12 @@ inline int WholePixelsBelow(std::int64_t units) { return static_cast<int>(units 
 inline std::int64_t UnitsBelow(double pixels) { return static_cast<std::int64_t>(pixels * kUnitsPerPixel); }
 inline std::int64_t NearestUnits(double pixels) { return std::llround(pixels * kUnitsPerPixel); }
 
-// How far each of the 256 codes moves on. TAB goes to the next multiple of `tab_stop`, which is above 0.
+// The advance of each of the 256 characters. TAB leads to the next multiple of `tab_stop`, which is positive.
 struct AdvanceTable {
   std::array<std::int32_t, 256> of{};
   std::int32_t tab_stop = 1;
 
-  // Where a character ends that begins at `x`, both counted from the row's beginning.
+  // The right edge of a character with its left edge at `x`. Both count from the start of the row.
   [[nodiscard]] std::int64_t After(std::int64_t x, char ch) const {
     return ch == '\t' ? (x / tab_stop + 1) * tab_stop : x + of[IndexOf(ch)];
   }
@@ -38,11 +37,11 @@ enum class TextAlign : std::uint8_t { kLeft, kRight, kCentre };
 struct LayoutRules {
   AdvanceTable advances;
   std::int64_t width = 0;  // of the window that shows the text
-  bool wrap = true;        // at `width`, behind a blank where there is one
+  bool wrap = true;        // break lines at `width`, after a blank if there is one
   TextAlign align = TextAlign::kLeft;
 };
 
-// Rows that a change of the text put in place of others.
+// Rows that a change of the text replaced.
 struct RowsChange {
   std::size_t first = 0;
   std::size_t removed = 0;
@@ -54,36 +53,36 @@ class TextLayout {
   // The buffer must outlive the layout. Until the first Lay there is one row, without width.
   explicit TextLayout(const TextBuffer& buffer) : buffer_(&buffer) {}
 
-  // Lays the whole text out.
+  // Computes all rows.
   void Lay(const LayoutRules& rules);
-  // Another width of the window; lays out anew only where the text wraps.
+  // Changes the width of the window. Computes all rows again if lines wrap.
   void SetWidth(std::int64_t width);
   void SetAlign(TextAlign align) { rules_.align = align; }
-  // Follows one change of the buffer, told after it. Without a call for each change the layout is void.
+  // Adapts the rows to a change of the text. Call after each change.
   RowsChange Update(const TextChange& change);
 
   [[nodiscard]] std::size_t RowCount() const { return rows_.size(); }
   [[nodiscard]] std::size_t RowStart(std::size_t row) const { return rows_[row]; }
   [[nodiscard]] std::size_t RowEnd(std::size_t row) const;
-  // True where the row ends with its line, false where the text wraps.
+  // True if a line ends with the row, false if the line goes on in the next row.
   [[nodiscard]] bool EndsLine(std::size_t row) const;
-  // A position where the text wraps belongs to the row that begins there, `at_row_end` asks for the one that ends.
+  // A position between two rows of one line belongs to the second row, with `at_row_end` to the first.
   [[nodiscard]] std::size_t RowOf(std::size_t pos, bool at_row_end = false) const;
 
-  // The width of the widest row and of the window, whichever is more; without wrapping it asks for scrolling.
+  // The width of the widest row or of the window, whichever is larger.
   [[nodiscard]] std::int64_t ContentWidth() const;
   [[nodiscard]] std::int64_t RowWidth(std::size_t row) const { return XOf(row, RowEnd(row)); }
-  // Where a row begins, by the alignment.
+  // The left edge of a row, which depends on the alignment.
   [[nodiscard]] std::int64_t RowLeft(std::size_t row) const;
 
-  // The distance of a caret stop from the row's beginning. A blank that hangs over the edge has no width.
+  // The distance of a position from the start of the row. A blank beyond the right edge of the window has no width.
   [[nodiscard]] std::int64_t XOf(std::size_t row, std::size_t pos) const;
-  // The caret stop nearest to `x`, and the character that covers it (the row's end behind the last one).
+  // The position nearest to `x`, and the position of the character at `x`: the end of the row after its last character.
   [[nodiscard]] std::size_t StopAt(std::size_t row, std::int64_t x) const;
   [[nodiscard]] std::size_t CharAt(std::size_t row, std::int64_t x) const;
 
  private:
-  // A known place in a long row, so that no question needs more than a short walk.
+  // A known x in a long row. A sum begins at the nearest mark and stays short.
   struct Mark {
     std::size_t pos = 0;
     std::int64_t x = 0;

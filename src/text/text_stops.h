@@ -1,5 +1,5 @@
-// Where a caret goes by single steps and by words. Positions are byte offsets from 0.
-// A CR LF pair is one step. A word is a run of letters and digits or a run of other signs; blanks lie between words.
+// Moves of a caret by single steps and by words. Positions are byte offsets from 0. CR LF is one step. A word is a run
+// of letters and digits, or a run of other signs. Blanks separate words.
 #pragma once
 
 #include <cstddef>
@@ -7,11 +7,11 @@
 
 namespace pelmar {
 
-// One step on or back; the text's borders stay where they are.
+// One step forward or back, within the text.
 std::size_t NextStop(std::string_view text, std::size_t pos);
 std::size_t PreviousStop(std::string_view text, std::size_t pos);
 
-// The beginning of the next word, or the next line; the beginning of this word or the one before it.
+// The start of the next word or of the next line. The start of this word or of the word before.
 std::size_t NextWord(std::string_view text, std::size_t pos);
 std::size_t PreviousWord(std::string_view text, std::size_t pos);
 
@@ -20,7 +20,7 @@ struct TextSpan {
   std::size_t end = 0;
 };
 
-// The run of like characters that holds `pos`; at the end of a line the run before it, nothing in an empty line.
+// The run of characters of one kind around `pos`. At the end of a line the run before `pos`, in an empty line nothing.
 TextSpan WordAt(std::string_view text, std::size_t pos);
 
 }  // namespace pelmar

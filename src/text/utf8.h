@@ -1,5 +1,5 @@
-// UTF-8, byte by byte: as it comes in pieces from a file, or as a whole. Overlong forms, surrogates and what lies
-// beyond U+10FFFF are no UTF-8. Windows-1250, into which it goes here, is codepage.h's.
+// Decodes UTF-8, from pieces of a file or from a whole string. Overlong forms, surrogates and values above U+10FFFF are
+// malformed. codepage.h turns the characters into Windows-1250.
 #pragma once
 
 #include <cstddef>
@@ -8,17 +8,17 @@
 
 namespace pelmar {
 
-// What stands for a character where there is none.
-inline constexpr char32_t kUnfinishedUtf8 = 0xFFFFFFFE;  // more bytes have to come
+// Results that are no characters.
+inline constexpr char32_t kUnfinishedUtf8 = 0xFFFFFFFE;  // the character needs more bytes
 inline constexpr char32_t kMalformedUtf8 = 0xFFFFFFFF;
 inline constexpr char32_t kByteOrderMark = 0xFEFF;
 inline constexpr std::string_view kByteOrderMarkBytes = "\xEF\xBB\xBF";
 
-// Decodes a stream. Pieces may end anywhere.
+// Decodes a stream in pieces. A piece may end within a character.
 class Utf8Decoder {
  public:
-  // The character that the byte completes, or one of the two above. Behind a malformed byte the decoder stands at the
-  // beginning of a character again.
+  // The character that the byte completes, kUnfinishedUtf8 or kMalformedUtf8. After a malformed byte a new character
+  // begins.
   constexpr char32_t Take(char ch) {
     const auto byte = static_cast<unsigned char>(ch);
     if (more_ == 0) return byte < 0x80 ? char32_t{byte} : Begin(byte);
@@ -32,11 +32,11 @@ class Utf8Decoder {
     return --more_ == 0 ? value_ : kUnfinishedUtf8;
   }
 
-  // A stream that ends here ends within a character.
+  // Whether the character still needs bytes.
   [[nodiscard]] constexpr bool InCharacter() const { return more_ != 0; }
 
  private:
-  // The bounds of the second byte keep overlong forms, surrogates and too large values out.
+  // The bounds of the second byte exclude overlong forms, surrogates and values that are too large.
   constexpr char32_t Begin(unsigned char lead) {
     if (lead < 0xC2 || lead > 0xF4) return kMalformedUtf8;
     more_ = lead >= 0xF0 ? 3 : lead >= 0xE0 ? 2 : 1;
@@ -51,7 +51,8 @@ class Utf8Decoder {
   unsigned char lowest_ = 0x80, highest_ = 0xBF;  // of the next byte
 };
 
-// Decodes the character at `at` and moves `at` behind it; kMalformedUtf8 for a byte that can't be part of one.
+// Decodes the character at `at` and moves `at` to the next character. kMalformedUtf8 for a byte that belongs to no
+// character.
 constexpr char32_t DecodeUtf8(std::string_view utf8, std::size_t& at) {
   Utf8Decoder decoder;
   for (std::size_t end = at; end < utf8.size();) {
@@ -64,13 +65,13 @@ constexpr char32_t DecodeUtf8(std::string_view utf8, std::size_t& at) {
   return kMalformedUtf8;
 }
 
-// Puts a character (of Unicode, no surrogate) behind a text in UTF-8.
+// Appends a Unicode character to UTF-8. The character is no surrogate.
 void AppendUtf8(std::string& utf8, char32_t character);
 
-// True where the string is well-formed UTF-8 (ASCII included).
+// Whether the bytes are well-formed UTF-8, such as ASCII.
 bool IsUtf8(std::string_view bytes);
 
-// True for well-formed UTF-8 that isn't ASCII alone: what a text of another encoding practically never is.
+// Whether the bytes are well-formed UTF-8 with a character beyond ASCII. Text in another encoding hardly ever is.
 bool LooksLikeUtf8(std::string_view bytes);
 
 }  // namespace pelmar
