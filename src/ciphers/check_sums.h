@@ -1,4 +1,4 @@
-// Four plain sums over the codes of a text. required: they are called CRC, but none of them is one.
+// Four sums over the codes of a text. required: they are called CRC, but are no CRC.
 #pragma once
 
 #include <cstdint>
@@ -13,10 +13,10 @@ struct CheckSums {
   std::int64_t and_crc = 0;     // AND of each pair
   std::int64_t short_crc = 0;   // XOR of the ANDs of the two pairs in each four
 };
-// Characters at the end that fill no pair, or no four, count in the first sum alone.
+// Only `crc` counts the characters that are left over at the end.
 CheckSums SumsOf(std::string_view text);
 
-// The four lines of the message, UTF-8, each sum in hexadecimal and decimal.
+// The message: a line for each sum, in hexadecimal and decimal. UTF-8.
 std::string SumsMessage(const CheckSums& sums);
 
 }  // namespace pelmar

@@ -1,4 +1,4 @@
-// The common hacker transcription: letters become characters that look like them. There is no way back.
+// Replaces letters by characters that look like them. The text can't be restored.
 #pragma once
 
 #include <string>
@@ -8,11 +8,11 @@
 
 namespace pelmar {
 
-// The table of look-alikes as the dialog shows it, each under its letter, in five rows.
+// The table that the dialog shows: in five rows, the look-alikes under each letter.
 std::string LookAlikeReminder();
 
-// Each of A to Z and a to z becomes one of its look-alikes, its own two cases among them; all else stays. One draw for
-// each character of the text.
+// Replaces each letter from A to Z and a to z by one of its look-alikes; both cases of the letter are look-alikes too.
+// Other characters stay. Takes one draw for each character.
 std::string HackerTranscription(std::string_view text, const Draw& draw);
 
 }  // namespace pelmar

@@ -8,18 +8,18 @@
 namespace pelmar {
 namespace {
 
-// The integer part of two draws added.
+// The integer part of the sum of two draws.
 bool DrawDigit(const Draw& draw) {
   const double first = draw();
   return first + draw() >= 1;
 }
 
-// 1 for two parts of one size.
+// 1 if both parts have the same size.
 double Imbalance(std::size_t part, std::size_t other) {
   return std::abs(static_cast<double>(part) / static_cast<double>(other) - 1) + 1;
 }
 
-// As wide for each symbol.
+// The name of a symbol, padded to 8 characters.
 std::string ShownSymbol(char symbol) {
   if (symbol == ' ') return R"(" "     )";
   if (symbol == '\r') return "Chr(13) ";

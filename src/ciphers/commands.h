@@ -1,4 +1,4 @@
-// The commands of ciphers and checksums that need no window of their own: the primitive rewrite and the sums.
+// The commands without a dialog: the primitive cipher and the check sums.
 #pragma once
 
 namespace pelmar {

@@ -1,5 +1,5 @@
-// The Cronfeld system: letters move by the digits of a password, which repeat along the text. Each character uses up a
-// digit, changed or not, so both ways are exact inverses.
+// The Cronfeld system moves letters by the digits of a password. Each character of the text takes the next digit, and
+// after the last digit the first one again. Other characters than letters stay.
 #pragma once
 
 #include <string>
@@ -9,14 +9,14 @@
 
 namespace pelmar {
 
-// A character of the password that is no digit counts as 0; an empty password changes nothing.
+// Password characters other than digits count as 0. An empty password changes nothing.
 std::string CronfeldEncipher(std::string_view text, std::string_view password);
 std::string CronfeldDecipher(std::string_view text, std::string_view password);
 
-// What the password field shows once somebody has put `typed` into it: the whole number at or below what it reads as.
+// What the password field makes of a typed text: the whole number at or below its value.
 std::string PasswordText(std::string_view typed);
 
-// 15 digits, the first of them not 0, which would not stay in the field. Takes 15 draws.
+// 15 digits. The first digit is not 0, since the field would drop a 0. Takes 15 draws.
 std::string RandomPassword(const Draw& draw);
 
 }  // namespace pelmar

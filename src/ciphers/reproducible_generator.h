@@ -1,5 +1,5 @@
-// The one random source whose exact sequence matters: text that was enciphered on any machine at any time can only be
-// read with the same numbers. Nothing in here may change, not even for the better.
+// A random source with a fixed sequence: a text that was enciphered once can only be read with the same numbers.
+// Nothing in this file may change.
 #pragma once
 
 #include <bit>
@@ -9,8 +9,8 @@ namespace pelmar {
 
 class ReproducibleGenerator {
  public:
-  // required: of the key only the high half of the double counts, folded to 16 bits. Keys that differ below that give
-  // the same numbers.
+  // required: only the high half of the key counts, folded to 16 bits. Keys that differ only in the low half give the
+  // same numbers.
   void Reseed(double key) {
     constexpr std::uint32_t kReset = 0x8000BF;
     state_ = kReset;
@@ -20,10 +20,10 @@ class ReproducibleGenerator {
     state_ = (state_ & 0xFF) | folded << 8;
   }
 
-  // 0 <= r < 1. Reseed comes before the first draw.
+  // 0 <= r < 1. Call Reseed before the first draw.
   float Draw() { return static_cast<float>(Step()) / static_cast<float>(kModulus); }
 
-  // The integer part of r * range + 1 for the next draw r, exactly: 1 to range. The range is at most 256.
+  // The integer part of r * range + 1 for the next draw r: 1 to range. The range is at most 256.
   std::uint32_t DrawUpTo(std::uint32_t range) { return (Step() * range >> kBits) + 1; }
 
  private:

@@ -8,7 +8,7 @@
 namespace pelmar {
 namespace {
 
-// Tells the progress some thirty times in a text, and at its end.
+// Reports progress some thirty times in a text, and at its end.
 class Milestones {
  public:
   Milestones(const Progress& progress, std::size_t all) : progress_(progress), all_(all), step_(all / 32 + 1) {}
@@ -25,7 +25,7 @@ class Milestones {
   std::size_t next_ = 0;
 };
 
-// The last symbol whose code holds the digits, kSymbols where none does.
+// The last symbol whose code holds the digits, kSymbols if no code does.
 std::size_t SymbolOf(const CipherTable& table, std::string_view digits) {
   for (std::size_t symbol = kSymbols; symbol-- > 0;)
     if (table.symbol_codes[symbol].find(digits) != std::string::npos) return symbol;

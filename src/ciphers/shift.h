@@ -1,5 +1,5 @@
-// The shift of letters by a fixed number, which leaves all but A to Z and a to z alone, and the rotation of a text by
-// whole characters.
+// Moves the letters A to Z and a to z by a fixed number of places in the alphabet, and rotates a text. Other characters
+// stay.
 #pragma once
 
 #include <cstddef>
@@ -11,20 +11,20 @@ namespace pelmar {
 
 inline constexpr int kLetters = 26;
 
-// Whether the first character is its own upper-case form; digits and marks are.
+// Whether the first character equals its upper-case form. Digits and signs do.
 bool IsUpperChar(std::string_view ch);
 
-// The place of a letter in the alphabet in either case, from 1; 0 for all but A to Z.
+// The place of a letter in the alphabet, from 1. 0 for all characters but A to Z and a to z.
 int LetterNumber(char ch);
 
-// The letter that stands `shift` places behind one of A to Z, in its case. required: only one turn of the alphabet is
-// taken back, so a result beyond it may be no letter.
+// The letter `shift` places after `letter`, in the same case. required: the alphabet repeats only once, so a large
+// shift may give a character that is no letter.
 char ShiftedLetter(char letter, int shift);
 
-// Every letter moved forward by `shift`, all else as it stands. 26 - shift takes a shift of 0 to 26 back.
+// Moves each letter forward by `shift`. A second move by 26 - shift restores the text.
 std::string Shiftp(std::string_view text, std::int16_t shift);
 
-// The first `count` characters moved behind the others; as it stands where there are no more than that.
+// Moves the first `count` characters to the end. A text that is not longer than `count` stays.
 std::string Rotated(std::string_view text, std::size_t count);
 
 }  // namespace pelmar

@@ -54,7 +54,7 @@ void TableFiles::Save(const CipherTable& table) {
   if (path_.empty() || !MayWrite()) return;
   try {
     WriteRecordOn(file_number_, platform_, path_, TableBytes(table));
-  } catch (const RuntimeError&) {  // required: the command ends in silence
+  } catch (const RuntimeError&) {  // required: errors are not reported
   }
 }
 

@@ -1,5 +1,5 @@
-// The file of a cipher table (".pvt") and the two commands that read and write it. The record has no signature: any
-// file reads as a table, a short one as zero and empty from its end on. Its size bounds what reading allocates.
+// Reads and writes the file of a cipher table (".pvt"). The file has no signature: any file is read as a table, and
+// fields after its end are zero or empty. The size of the file limits the memory for reading.
 #pragma once
 
 #include <cstdint>
@@ -14,25 +14,24 @@ namespace pelmar {
 
 inline constexpr std::string_view kTableFilter = "Pelmar VEX Šifrovací tabulka (*.pvt)|*.pvt";
 
-// The longest text that fits into a field of the file.
+// The longest text in a field of the file.
 inline constexpr std::size_t kLongestField = 65535;
 
 CipherTable ReadTable(std::string_view bytes);
-// Fields are cut where they are longer than kLongestField.
+// Cuts fields to kLongestField bytes.
 std::string TableBytes(const CipherTable& table);
 
-// The open and the save dialog of the cipher, which share the name of the last file.
+// Loads and saves a table through the file dialogs. Both share the name of the last file.
 class TableFiles {
  public:
   TableFiles(Platform& platform, FileNumber& file_number);
 
-  // Puts what a file holds in the place of the table. required: a cancelled dialog means the file from before, and a
-  // file that isn't there is made, empty, and read. Throws RuntimeError, and leaves the table alone, where the file
-  // can't be read or made, or where there was no name.
+  // Reads a table. required: if the person cancels, the last file is read again; a missing file is created and read as
+  // empty. Throws RuntimeError and keeps the table if the file can't be read or created, or without a last file.
   void Load(CipherTable& table);
 
-  // Writes the record over the beginning of a file; what lies behind it stays. Asks where the file is there already.
-  // required: failures are swallowed.
+  // Overwrites the start of a file; the rest of a longer file stays. Asks before the file is overwritten. required:
+  // errors are not reported.
   void Save(const CipherTable& table);
 
  private:

@@ -11,13 +11,13 @@ namespace {
 
 constexpr char kBroken = '\b';
 
-// True when the person ends the run.
+// True if the person ends the run.
 bool EndsBroken(Platform& platform) {
   platform.Message(MessageType::kOk, "Porusena intengrita textu!", "Kódování");
   return platform.Confirmed("Ukončit proces? (doporučuji ne)", "Kódování");
 }
 
-// Few enough steps that showing the progress costs little, short enough that the windows live.
+// Large enough steps that showing the progress is cheap, short enough that the windows stay alive.
 std::size_t StepSize(std::size_t length) {
   constexpr std::size_t kSteps = 64;
   constexpr std::size_t kSmallest = 4096;

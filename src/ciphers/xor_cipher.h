@@ -1,6 +1,6 @@
-// The two rewrites of the whole document that undo themselves: the stream cipher with a numeric key, and the primitive
-// one without. The stream drops a character whenever the result would be code 0; everything behind it is then lost on
-// the way back. That is part of the format: required, since old text was written so.
+// Two ciphers that restore the text when applied twice: the stream cipher with a numeric key, and the primitive cipher.
+// required: the stream cipher drops each character that would become code 0; all characters after it are then lost on
+// the way back.
 #pragma once
 
 #include <cstddef>
@@ -14,15 +14,14 @@
 
 namespace pelmar {
 
-// What the key field shows once somebody has put `typed` into it: the number that it reads as, read and written anew
-// until nothing changes any more. required: reading knows the point and writing the comma, so a fraction loses its
-// decimals.
+// What the key field makes of a typed text. The number is read and written again until it stays the same. required:
+// reading needs a point and writing uses a comma, so a fraction loses its decimals.
 std::string KeyText(std::string_view typed);
 
 class StreamCipher {
  public:
   explicit StreamCipher(double key) { generator_.Reseed(key); }
-  // Rewrites the next characters of the stream and appends them to `output`.
+  // Enciphers the next characters of the stream and appends them to `output`.
   void Append(std::string_view text, std::string& output);
 
  private:
@@ -36,7 +35,7 @@ class StreamCipher {
 void RewriteStream(TextBuffer& document, double key, std::string& output, Platform& platform,
                    const std::function<bool(std::size_t done)>& on_progress);
 
-// Each code becomes 256 minus itself; 0 stays.
+// Each code becomes 256 minus the code. 0 stays.
 std::string PrimitiveRewrite(std::string_view text);
 
 }  // namespace pelmar

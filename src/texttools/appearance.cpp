@@ -15,7 +15,7 @@ constexpr Color kWhite = Rgb(255, 255, 255);
 constexpr Color kDosGrey = Rgb(194, 194, 194);
 constexpr int kDosWidth = 9210;  // twips
 constexpr int kDosHeight = 6675;
-constexpr double kMostPoints = 9999;  // more than any font has
+constexpr double kMostPoints = 9999;  // larger than any font
 
 void ApplyBasicLook(MainLook& view) {
   view.SetEditorFont(std::string(kSansSerif));

@@ -1,4 +1,4 @@
-// The look of the main text box by menu commands, and the rules of the dialog Visual.
+// The look of the main text box, as menu commands and the dialog Visual change it.
 #pragma once
 
 #include <string>
@@ -16,23 +16,23 @@ inline constexpr std::string_view kSansSerif = "MS Sans Serif";
 inline constexpr std::string_view kCourier = "Courier New";
 inline constexpr std::string_view kTerminal = "Terminal";
 
-// The text of every preview of a look.
+// The text of each preview.
 inline constexpr std::string_view kPreviewText =
     "aábcčdďeéěfghchiíjklmnoóprřsštťuúůvwxyýzž\r\nAÁBCČDĎEÉĚFGHCHIÍJKLMNOÓPQRŘSŠTŤUÚVWXYÝZŽ\r\n"_w;
 
-// Bold, italic, sizes, inverted colours, alignment, the DOS and the basic look.
+// The commands for bold, italic, sizes, inverted colours, alignment, the DOS look and the basic look.
 void AddAppearanceCommands(Editor& editor, MainView& view);
 
-// Normal state, a fixed size, light grey on black.
+// Sets the normal window state, a fixed size, and light grey on black.
 void ApplyDosLook(MainView& view);
 
-// The whole look with the marks of bold and italic. No name leaves the font as it is.
+// Sets the look and the check marks of bold and italic. An empty font name keeps the font.
 void ApplyLook(MainView& view, const EditorLook& look);
 
-// A colour's opposite, as plain numbers.
+// White minus the colour.
 Color InvertedColor(Color color);
 
-// What typing makes of the size field: the text that goes back into it, and the size that the preview takes.
+// What the size field makes of typed text: the new text of the field, and the size of the preview.
 struct SizeField {
   std::string text;
   int size = 1;

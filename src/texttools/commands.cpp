@@ -16,7 +16,7 @@
 namespace pelmar {
 namespace {
 
-// The selected text gives way to what `transform` makes of it; the caret stands behind.
+// Adds a command that replaces the selected text by what `transform` returns.
 void AddTransform(Editor& e, std::string_view name, std::function<std::string(std::string_view)> transform) {
   e.commands.Add(name, [&e, transform = std::move(transform)] {
     e.text.ReplaceSelection(transform(std::string(e.text.SelText())));
@@ -50,7 +50,7 @@ void NumberSelectedLines(Editor& e) {
   e.text.ReplaceSelection(NumberLines(std::string(e.text.SelText())));
 }
 
-// With the hourglass while it works.
+// Adds a command that shows the hourglass while it works.
 void AddBusy(Editor& e, std::string_view name, std::function<void()> work) {
   e.commands.Add(name, [&e, work = std::move(work)] {
     const BusyPointer busy(e.platform);
@@ -69,7 +69,7 @@ void AddLineTools(Editor& e) {
   e.commands.Add("mnucharcount", [&e] { CountCharacters(e); });
 }
 
-// A generator puts its text before the selection, which stays.
+// Adds a command that inserts a generated text before the selection. The selection stays.
 void AddGenerator(Editor& e, std::string_view name, std::string (*generate)(const Draw&)) {
   e.commands.Add(name, [&e, generate] {
     e.platform.ReseedRandom();
@@ -95,7 +95,7 @@ void AddClipboardCommands(Editor& e) {
     });
   for (const std::string_view name : {"Copy", "mnucopysel"})
     e.commands.Add(name, [&e] { e.platform.SetClipboardText(e.text.SelText()); });
-  // required: a selection isn't replaced, the text goes before it
+  // required: the text goes before the selection and does not replace the selection
   for (const std::string_view name : {"Paste", "mnuadd"})
     e.commands.Add(name, [&e] { InsertAtCaret(e.text, e.platform.ClipboardText()); });
   e.commands.Add("mnucopy", [&e] { e.platform.SetClipboardText(e.text.Text()); });

@@ -1,4 +1,4 @@
-// The commands of the text tools that need no window of their own: selected text, lines, clipboard, primitive find.
+// The text tools without a dialog: commands on the selected text, on lines, on the clipboard, and the primitive search.
 #pragma once
 
 namespace pelmar {

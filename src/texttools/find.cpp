@@ -30,7 +30,7 @@ void Finder::Start() {
     find = ToUpper(find);
   }
   snapshot_.SetText(std::move(text));
-  history.push_back(find);  // required: behind the folding, so that an upper-cased term stands so in the list
+  history.push_back(find);  // required: after the change to upper case, so the list holds upper case
   count = position = 0;
   if (const auto hit = FindFrom(snapshot_.Text(), find, 0)) return Show(*hit);
   TellNothing();
@@ -39,16 +39,16 @@ void Finder::Start() {
 }
 
 void Finder::Next() {
-  // Hits may overlap: the next one may begin a character behind the start of the last.
+  // Hits may overlap: the next hit may begin one character after the last hit.
   if (const auto hit = FindFrom(snapshot_.Text(), find, position.value_or(0) + 1)) return Show(*hit);
   TellNothing();
-  GoIdle();  // required: the labels keep their values here, unlike after a start
+  GoIdle();  // required: the labels keep their values, unlike in Start
 }
 
 void Finder::New() {
   TakeDefaultTerm();
   find_on = history_on = true;
-  next_on = false;  // required: Rozlisovat stays off when a search had switched it off
+  next_on = false;  // required: Rozlisovat stays off after a search
 }
 
 void Finder::PickHistory(std::size_t row) {

@@ -1,6 +1,6 @@
-// The search of the dialog Hledání without its window, and the primitive find. The dialog searches a snapshot of the
-// document: it doesn't follow edits, and selects in the live text at the snapshot's positions. Texts are Windows-1250,
-// positions from 0.
+// The search of the dialog Hledání without its window, and the primitive search. The dialog searches a copy of the
+// document and selects hits in the document at the positions of the copy, even if the document has changed since. Texts
+// are Windows-1250, positions count from 0.
 #pragma once
 
 #include <cstddef>
@@ -18,7 +18,7 @@ class Finder {
  public:
   Finder(TextBuffer& document, Platform& platform);
 
-  // The dialog's fields; the window copies them in before each step and shows them after it.
+  // The fields of the dialog. The window writes them before each step and shows them after each step.
   std::string find;                     // Find
   bool case_sensitive = true;           // Rozlisovat
   bool find_on = true;                  // Find, Command1
@@ -29,7 +29,7 @@ class Finder {
   std::optional<std::size_t> count;     // Label3
   std::optional<std::size_t> position;  // Label5
 
-  // Told before a message in the middle of a step, for the window to show the fields as they are.
+  // Called before a message in the middle of a step, so that the window can show the fields.
   std::function<void()> before_message;
 
   [[nodiscard]] TextBuffer& Snapshot() { return snapshot_; }
@@ -51,10 +51,10 @@ class Finder {
   TextBuffer snapshot_;
 };
 
-// A loop of questions over the live text, always case sensitive.
+// Asks at each hit in the document whether to search on. Always case sensitive.
 void FindPrimitively(TextBuffer& document, Platform& platform);
 
-// The term that a search begins with: the selected text, else "Text".
+// The first term of a search: the selected text, otherwise "Text".
 std::string DefaultTerm(const TextBuffer& document);
 
 void TellNothingFound(Platform& platform);

@@ -1,4 +1,4 @@
-// Tools that treat a text as lines or words. The line feed alone ends a line. Texts are Windows-1250.
+// Tools that divide a text into lines or words. Only a line feed ends a line. Texts are Windows-1250.
 #pragma once
 
 #include <cstddef>
@@ -9,21 +9,21 @@
 
 namespace pelmar {
 
-// The order that sorts texts, as indexes; equal ones keep theirs.
+// Returns the indexes of the texts in sorted order. Equal texts keep their order.
 using SortedOrder = std::function<std::vector<std::size_t>(const std::vector<std::string_view>&)>;
 
-// The lines in rising order. Each line keeps its own end, and lines of CR LF alone are dropped. required: a last line
-// without an end runs together with the line that follows it in the result. An empty text stays empty.
+// The lines in ascending order. Each line keeps its own end. Lines of CR LF alone are dropped. required: a last line
+// without an end runs into the line that follows in the result.
 std::string SortLines(std::string_view text, const SortedOrder& order);
 
-// Each line behind a number of five digits and a blank. required: the last character is lost.
+// A number of five digits and a blank before each line. required: the last character is lost.
 std::string NumberLines(std::string_view text);
 
-// The words of a text. A word includes the blank at its end, so a second blank is a word of its own. Line ends are
-// characters like any others.
+// The words of a text. Each word includes the blank at its end, so each further blank is a word of its own. Line ends
+// are characters of a word.
 std::vector<std::string_view> WordsOf(std::string_view text);
 
-// Each of these words on a line of its own, with its blank. The result ends in a line break. An empty text stays empty.
+// Each word, with its blank, on a line of its own. The last line ends in CR LF too.
 std::string WordsToLines(std::string_view text);
 
 }  // namespace pelmar

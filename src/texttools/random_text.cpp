@@ -8,7 +8,7 @@
 namespace pelmar {
 namespace {
 
-// A whole number from `least` on, `count` of them with equal chance.
+// A random whole number: one of the `count` numbers from `least` on.
 int Pick(const Draw& draw, int count, int least) {
   return static_cast<int>(DrawBelow(draw, static_cast<std::size_t>(count))) + least;
 }

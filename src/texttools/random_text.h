@@ -1,4 +1,4 @@
-// Filler text of made-up words, and the shuffling of words. The order of the draws is fixed. Texts are Windows-1250.
+// Filler text of random words, and words in random order. The order of the draws is fixed. Texts are Windows-1250.
 #pragma once
 
 #include <string>
@@ -8,17 +8,17 @@
 
 namespace pelmar {
 
-// A sentence of 10 to 50 letters with its stop and a blank behind it.
+// A sentence of 10 to 50 letters, with a stop and a blank at its end.
 std::string RandomSentence(const Draw& draw);
 
-// 2 to 10 small letters and a blank.
+// A word of 2 to 10 small letters, with a blank at its end.
 std::string RandomWord(const Draw& draw);
 
-// Two words of 2 to 10 letters, the first one a capital, each with a blank behind it.
+// Two words of 2 to 10 letters that begin with a capital, each with a blank at its end.
 std::string RandomName(const Draw& draw);
 
-// The words in random order, each with the blank behind it. required: the last word of the text has none, and runs
-// together with what comes to stand behind it. An empty text stays empty.
+// The words in random order, each with the blank at its end. required: the last word of the text has no blank and runs
+// into the word that follows in the result.
 std::string ShuffledWords(std::string_view text, const Draw& draw);
 
 }  // namespace pelmar

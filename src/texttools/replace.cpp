@@ -26,7 +26,7 @@ void Replacer::Load() {
 bool Replacer::Start() {
   lists_on = change_on = case_on = find_on = false;
   step_on = all_on = true;
-  terms.push_back(find);  // required: before the folding, unlike in Hledání
+  terms.push_back(find);  // required: before the change to upper case, unlike in Hledání
   changes.push_back(change);
   std::string text = document_.Text();
   if (!case_sensitive) {
@@ -50,7 +50,7 @@ void Replacer::Next() {
 void Replacer::Replace() {
   ++found_pos_;
   replaced_shown = ++replaced_count_;
-  document_.ReplaceSelection(change);  // required: whatever is selected there now
+  document_.ReplaceSelection(change);  // required: even if something else is selected now
   snapshot_.ReplaceSelection(change);
   SeekOn();
 }

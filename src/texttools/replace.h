@@ -1,5 +1,5 @@
-// The replacing of the dialog Záměna without its window. It steps through a snapshot as Hledání does and replaces in
-// the snapshot and in the live text alike. Texts are Windows-1250, positions from 0.
+// The dialog Záměna without its window. The dialog searches a copy of the document, and replaces hits in the copy and
+// in the document. Texts are Windows-1250, positions count from 0.
 #pragma once
 
 #include <cstddef>
@@ -17,7 +17,7 @@ class Replacer {
  public:
   Replacer(TextBuffer& document, Platform& platform);
 
-  // The dialog's fields; the window copies them in before each step and shows them after it.
+  // The fields of the dialog. The window writes them before each step and shows them after each step.
   std::string find = "Najdi";                 // Find
   std::string change;                         // Chage
   bool case_sensitive = true;                 // Rozlisovat
@@ -31,13 +31,13 @@ class Replacer {
   std::optional<std::size_t> found_shown;     // Label3
   std::optional<std::size_t> replaced_shown;  // Label5
 
-  // Told before a message in the middle of a step, for the window to show the fields as they are.
+  // Called before a message in the middle of a step, so that the window can show the fields.
   std::function<void()> before_message;
 
   [[nodiscard]] TextBuffer& Snapshot() { return snapshot_; }
 
   void Load();        // when the dialog is first shown
-  bool Start();       // Command1; true where the focus goes to Command5
+  bool Start();       // Command1; true if the focus goes to Command5
   void Next();        // Command2
   void Replace();     // Command5
   void ReplaceAll();  // Command6
@@ -57,9 +57,9 @@ class Replacer {
   std::size_t replaced_count_ = 0;
 };
 
-// What Replace all makes of a text. required: each hit first becomes the character of code 255 and those then the
-// replacement, so a character 255 of the text is replaced too, and with an empty replacement every second one of a
-// run of adjacent hits stays as that character. An empty term leaves the text as it is.
+// The result of Replace all. required: each hit becomes character 255 first, and each character 255 then becomes the
+// replacement, even one that was in the text. With an empty replacement every second one of adjacent hits stays as
+// character 255.
 std::string ReplaceAllByMarker(std::string_view text, std::string_view find, std::string_view change);
 
 }  // namespace pelmar
