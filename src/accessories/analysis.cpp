@@ -13,7 +13,7 @@
 namespace pelmar {
 namespace {
 
-// "000,00", halves rounded up.
+// "000,00", with halves rounded up.
 std::string Percent(std::int32_t count, std::size_t length) {
   const auto all = static_cast<std::int64_t>(length);
   const std::int64_t hundredths = (20000 * std::int64_t{count} + all) / (2 * all);
@@ -28,7 +28,7 @@ Analysis AnalyseText(std::string_view text) {
   Analysis analysis;
   analysis.length = text.size();
   for (const char ch : text) ++analysis.counts[IndexOf(ch)];
-  analysis.counts[0] = 0;  // only the codes from 1 on are counted
+  analysis.counts[0] = 0;  // code 0 is not counted
   std::iota(analysis.ranking.begin(), analysis.ranking.end(), std::uint8_t{1});
   std::ranges::stable_sort(analysis.ranking, std::greater(), [&](std::uint8_t code) { return analysis.counts[code]; });
   return analysis;
@@ -73,7 +73,7 @@ std::vector<std::string> AnalysisRows(const Analysis& analysis) {
   return rows;
 }
 
-// The 23rd, as long as the count has five digits.
+// The last character but one. Its column depends on the number of digits of the count.
 char CharOfRow(std::string_view row) { return row.size() < 2 ? '\0' : row[row.size() - 2]; }
 
 }  // namespace pelmar

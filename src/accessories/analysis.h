@@ -1,5 +1,5 @@
-// The character analysis: how often each code occurs in a text, the bars of its graph and the rows of its list.
-// All pure. Codes are those of Windows-1250.
+// The character analysis: how often each code of Windows-1250 occurs in a text, the bars of the graph and the rows of
+// the list.
 #pragma once
 
 #include <array>
@@ -13,14 +13,14 @@ namespace pelmar {
 inline constexpr std::size_t kCodes = 256;
 
 struct Analysis {
-  std::array<std::int32_t, kCodes> counts{};       // by code; that of code 0 stays 0
-  std::array<std::uint8_t, kCodes - 1> ranking{};  // the codes 1 to 255 by falling count, equal ones by rising code
+  std::array<std::int32_t, kCodes> counts{};       // by code; code 0 is not counted
+  std::array<std::uint8_t, kCodes - 1> ranking{};  // codes 1 to 255, the most frequent first; equal counts by code
   std::size_t length = 0;
 };
 
 Analysis AnalyseText(std::string_view text);
 
-// The graph's own scale: bars stand on its lower edge, a full one reaches from kGraphFull up to 0.
+// The scale of the graph. Bars stand on the lower edge; a bar of height kGraphFull reaches the top.
 inline constexpr int kGraphWidth = 508;
 inline constexpr int kGraphHeight = 196;
 inline constexpr int kGraphFull = 200;
@@ -31,19 +31,19 @@ struct Bar {
   bool operator==(const Bar&) const = default;
 };
 
-// Which bars there are, at x = code * BarStep. No bar at all where no code that counts occurs.
+// The bars, at x = code * BarStep. No bars if no counted code occurs.
 std::vector<Bar> GraphBars(const Analysis& analysis, bool wide, bool ignore_blank);
 constexpr int BarStep(bool wide) { return wide ? 2 : 4; }
 constexpr int BarWidth(bool wide) { return wide ? 1 : 3; }
 
-// The code under a pointer at x of the scale; -1, which is no code, a unit left of the graph.
+// The code at x of the scale. -1 just left of the graph, which is no code.
 int CodeAt(double x, bool wide);
-// "Poloha: 65 Znak: "A"".
+// For example "Poloha: 65 Znak: "A"".
 std::string PointedText(int code);
 
-// The list's 255 rows, most frequent first.
+// The 255 rows of the list, the most frequent code first.
 std::vector<std::string> AnalysisRows(const Analysis& analysis);
-// The character that a row is about; 0 for a text that is no row.
+// The character of a row; 0 for a text that is no row.
 char CharOfRow(std::string_view row);
 
 }  // namespace pelmar

@@ -9,13 +9,13 @@ namespace {
 
 constexpr double kRadian = 3.14159265358979 / 180;
 
-// The value of a typed number. A comma of which all digits are gone is 0, as the "0," is that it comes from.
+// The value of a typed number. A comma alone is what is left of "0,", so it is 0.
 std::optional<double> Read(std::string_view number) {
   const std::string_view unsigned_part = number.substr(number.starts_with('-') ? 1 : 0);
   return unsigned_part == "," ? 0.0 : ParseNumber(number);
 }
 
-// What is not finite stands for what can't be computed.
+// A result that is not finite means an error.
 double Combine(char symbol, double a, double b) {
   switch (symbol) {
     case '+':
@@ -27,7 +27,7 @@ double Combine(char symbol, double a, double b) {
     case '/':
       return a / b;
     case 'L':
-      // To the base 0 every logarithm would come out as 0.
+      // Without this test every logarithm to the base 0 would be 0.
       return b > 0 ? std::log(a) / std::log(b) : std::nan("");
     default:
       return std::pow(a, b);
@@ -142,7 +142,7 @@ void Calculator::SquareRoot() {
 void Calculator::Random() {
   platform_.ReseedRandom();
   const auto drawn = static_cast<float>(platform_.Random());
-  // The nearest float of a double just below 1 is 1 itself.
+  // A double just below 1 rounds to the float 1.
   shown = NumberText(drawn < 1 ? drawn : std::nextafter(1.0F, 0.0F));
 }
 

@@ -1,5 +1,5 @@
-// The desk calculator behind `Kalkul`. Its whole state is text: the number shown, the operator that waits and its first
-// operand. There is no entry state: a digit goes behind a result as behind typed digits, which is required.
+// The desk calculator in the window Kalkul. Its state is three texts: the number shown, the pending operation and the
+// first operand. required: there is no state of input, so a digit is appended to a result as to typed digits.
 #pragma once
 
 #include <optional>
@@ -14,13 +14,13 @@ class Calculator {
  public:
   explicit Calculator(Platform& platform) : platform_(platform) {}
 
-  std::string shown = "0";  // the number shown, with the decimal comma
-  std::string operation;       // the operator that waits: + - * / L ^
-  std::string operand;       // the first operand, as it stood
+  std::string shown = "0";  // the number in the display, with a decimal comma
+  std::string operation;    // the pending operation: + - * / L ^, or empty
+  std::string operand;      // the first operand
 
-  // What can be pressed now.
+  // Which keys are enabled.
   [[nodiscard]] bool OperatorsOn() const { return operation.empty(); }  // + - * / and log
-  // required: a division or a logarithm that waits leaves x^y on, which then loses the first operand
+  // required: x^y stays enabled during a division or a logarithm and then drops its first operand
   [[nodiscard]] bool PowerOn() const { return operation.empty() || operation == "/" || operation == "L"; }
   [[nodiscard]] bool EqualsOn() const { return !operation.empty(); }
 
@@ -28,30 +28,30 @@ class Calculator {
   void Comma();
   void DropLast();
   void DropFirst();
-  void Clear() { shown = "0"; }  // the operator that waits goes on waiting
+  void Clear() { shown = "0"; }  // the pending operation stays
 
-  // One of + - * / L ^.
+  // Starts one of + - * / L ^.
   void Operator(char symbol);
-  // Who types doesn't look at the keys: where an operator (+ - * / ^) is typed behind another one, also one that the
-  // keys on the screen leave on, the operation that waits ends first. False where that failed, and no operator follows.
+  // Ends the pending operation if the typed key is an operator (+ - * / ^), since the keyboard can also type operators
+  // that are disabled on the screen. False if the pending operation failed.
   bool MakeWayFor(char typed);
-  // The operation is over afterwards, also where it failed; the person was told then and the number stays. False then.
+  // Ends the pending operation. A failure is reported, keeps the number and returns false.
   bool Evaluate();
 
-  // Each puts its result in place of the number. Where there is none, the person is told, the number stays, and an
-  // operator that waits is given up.
+  // Each replaces the number by its result. On failure each reports the error, keeps the number and drops the pending
+  // operation.
   void Square();
   void Absolute();
-  void HalfFloor();  // required: a floor to half steps, 2,7 gives 2,5
-  void Sine();       // of degrees, as the other three
+  void HalfFloor();  // required: rounds down to halves: 2,7 gives 2,5
+  void Sine();       // Sine, Cosine, Tangent and Cotangent take degrees
   void Cosine();
   void Tangent();
   void Cotangent();
-  // Has its own message, and the operator goes on waiting.
+  // Has an error message of its own and keeps the pending operation.
   void SquareRoot();
 
   void Pi() { shown = "3,14159265358979"; }
-  void E() { shown = "2.718282"; }  // required: a point, so the number can't be read again
+  void E() { shown = "2.718282"; }  // required: has a point, so it can't be read again
   void Random();
 
  private:
@@ -63,9 +63,9 @@ class Calculator {
   Platform& platform_;
 };
 
-// Digits as both the calculator and the converter take them: a sole "0" gives way to `digit`, and no "0" follows it.
+// Appends a digit, in the calculator and the converter. A single "0" is replaced.
 void AppendDigit(std::string& number, char digit);
-// The last character goes; what is left empty becomes "0".
+// Removes the last character. An empty number becomes "0".
 void DropLastDigit(std::string& number);
 
 }  // namespace pelmar

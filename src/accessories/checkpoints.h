@@ -1,4 +1,4 @@
-// The checkpoint: a copy of the document in the note that is on show. It has no store of its own.
+// The checkpoint copies the document into the notes page on show, and back.
 #pragma once
 
 #include "platform/platform.h"
@@ -6,11 +6,10 @@
 
 namespace pelmar {
 
-// The note takes the document's text, and what it held is gone. A document too long for a note is refused with a
-// message.
+// Replaces the note by the document. A document that is too long for a note is refused with a message.
 void SaveCheckpoint(const TextBuffer& document, TextBuffer& note, Platform& platform);
 
-// The document takes the note's text after a question; an empty note asks nothing and does nothing.
+// Replaces the document by the note after a question. An empty note does nothing.
 void RestoreCheckpoint(const TextBuffer& note, TextBuffer& document, Platform& platform);
 
 }  // namespace pelmar

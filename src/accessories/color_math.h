@@ -1,4 +1,4 @@
-// The transformations of the colour dialog and the rows of its history. Channels are 0 to 255.
+// The colour changes of the colour dialog, and the rows of its history. Channels are 0 to 255.
 #pragma once
 
 #include <optional>
@@ -22,21 +22,21 @@ Color ColorOf(const Channels& channels);
 
 Channels Inverted(const Channels& c);
 Channels ToGrey(const Channels& c);
-// One draw a channel, red first.
+// Takes one draw for each channel, red first.
 Channels RandomChannels(const Draw& draw);
-// A tenth less or more; halves go to the even neighbour.
+// A tenth less, a tenth more. Halves are rounded to the even number.
 Channels Darker(const Channels& c);
 Channels Lighter(const Channels& c);
 Channels Rotated(const Channels& c);
-// The lowest channel to 0, the highest to 255. required: with a tie no channel is the extreme one, so the first changes
-// nothing and the second makes white.
+// Moves all channels so that the lowest becomes 0, or the highest 255. required: if two channels tie, LowestToZero
+// changes nothing and HighestToFull makes white.
 Channels LowestToZero(const Channels& c);
 Channels HighestToFull(const Channels& c);
 Channels MeanToMiddle(const Channels& c);
 
-// "012,255,000"
+// For example "012,255,000".
 std::string HistoryRow(const Channels& c);
-// required: green is read from the comma on, so it comes out as 0.
+// required: green is read from its comma on, so green is 0.
 Channels FromHistoryRow(std::string_view row);
 
 }  // namespace pelmar

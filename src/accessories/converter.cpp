@@ -32,7 +32,7 @@ std::optional<double> ReadPrefixed(std::string_view digits, int base, std::size_
   return static_cast<std::int32_t>(value);
 }
 
-// The whole number next to the value; nothing where it doesn't fit.
+// The nearest whole number. Nothing if the number doesn't fit 32 bits.
 std::optional<std::int32_t> Whole(std::optional<double> value) {
   using Limits = std::numeric_limits<std::int32_t>;
   const double whole = std::nearbyint(value.value_or(std::nan("")));
@@ -81,7 +81,6 @@ std::string ToRoman(std::int32_t n) {
 }
 
 void Converter::Cut() {
-  // Each loss of a character is a change by itself, after which the length counts again.
   if (decimal.size() > kLongestDecimal) decimal.resize(kLongestDecimal);
   if (hexadecimal.size() > kLongestHex) hexadecimal.resize(kLongestHex);
   if (octal.size() > kLongestOct) octal.resize(kLongestOct);
@@ -109,7 +108,7 @@ std::optional<std::int32_t> Converter::FromHex() {
   decimal = std::to_string(*value);
   octal = ToOct(*value);
   Cut();
-  // required: of the decimal field as it shows, which is cut for ten digits and more
+  // required: the number in the decimal field, which loses its tenth digit
   return Whole(LeadingNumber(decimal));
 }
 

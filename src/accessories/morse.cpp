@@ -21,15 +21,15 @@ constexpr std::string_view kSlash = "-..-./";
 constexpr std::string_view Letter(char letter) { return kLetters[letter - 'A']; }
 constexpr std::string_view Digit(char digit) { return kDigits[digit - '0']; }
 
-// The sign of one character of the prepared text, empty where it has none.
+// The sign of a character of the prepared text, empty if there is no sign.
 std::string_view SignOf(char ch) {
   if (ch >= 'A' && ch <= 'Z') return Letter(ch);
   if (ch >= '0' && ch <= '9') return Digit(ch);
   switch (ch) {
-    case ' ':  // required: the gap between words becomes a slash first, which the rule for slashes then catches
+    case ' ':  // required: a blank becomes a slash first, and the slash becomes its sign
     case '/':
       return kSlash;
-    case '.':  // required: no dots and no dashes
+    case '.':  // required: not a Morse sign
       return "//";
     case ',':
       return ".-.-.-/";
@@ -70,7 +70,7 @@ constexpr MorseItem kShortDigitItems[] = {
     {"mnumorcz8", "8", "-../"}, {"mnumorcz9", "9", "-./"},  {"mnumorcz0", "0", "-/"},
 };
 
-// required: stop and apostrophe differ from the encoder's
+// required: full stop and apostrophe differ from those of the encoder
 constexpr MorseItem kSignItems[] = {
     {"mnumotec", "Tečka (.)", "....../"},         {"mnumocar", "Čárka (,)", ".-.-.-/"},
     {"mnumoapo", "Apostrof (\")", ".---./"},      {"mnumodvo", "Dvojtečka (:)", "---.../"},
@@ -102,7 +102,7 @@ std::string TextToMorse(std::string_view text) {
   std::string morse;
   morse.reserve(plain.size() * 5);
   for (std::size_t i = 0; i < plain.size(); ++i) {
-    // required: the H behind a C isn't skipped and writes its own sign too
+    // required: the H after a C is not skipped and writes its own sign too
     const bool is_ch = plain[i] == 'C' && i + 1 < plain.size() && plain[i + 1] == 'H';
     const std::string_view sign = is_ch ? kCh : SignOf(plain[i]);
     if (sign.empty()) {

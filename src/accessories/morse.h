@@ -1,5 +1,5 @@
-// Text as Morse code, and the signs that the window `Morse` offers in its menus. Texts are Windows-1250.
-// The encoder and the menus keep two separate tables, which differ in a few signs on purpose.
+// Encodes text as Morse code, and lists the signs in the menus of the window Morse. Texts are Windows-1250. required:
+// the encoder and the menus have separate tables, which differ in a few signs.
 #pragma once
 
 #include <span>
@@ -10,10 +10,10 @@ namespace pelmar {
 
 struct Editor;
 
-// Each sign ends in "/". Letters lose their diacritics; what has no sign passes through, with no separator.
+// Each sign ends in "/". Letters lose their diacritics. A character without a sign stays, without "/".
 std::string TextToMorse(std::string_view text);
 
-// One item of a menu: its name, its caption and the signs that it puts in.
+// A menu item: its name, its caption and the sign that it inserts.
 struct MorseItem {
   std::string_view name;     // UTF-8
   std::string_view caption;  // UTF-8
@@ -26,10 +26,10 @@ struct MorseMenu {
   std::span<const MorseItem> items;
 };
 
-// The menus of signs, from left to right.
+// The menus, from left to right.
 std::span<const MorseMenu> MorseMenus();
 
-// mnuMakeMorse: the selection in Morse code.
+// mnuMakeMorse: encodes the selection.
 void AddMorseCommand(Editor& editor);
 
 }  // namespace pelmar

@@ -77,7 +77,7 @@ std::vector<RescuedText> BringBackNotes(NotesRecord& record, const std::vector<R
       }
     }
   }
-  // Empty pages are given away only when every page that can is back in its own place.
+  // Other pages take empty pages only after all pages that can are back in their own places.
   std::erase_if(moved, [&](const RescuedText& note) { return TakeEmptyPage(record, note.text); });
   return moved;
 }

@@ -1,6 +1,6 @@
-// The five pages of the notes, their file "\notes.dat", and what is kept of them while they aren't stored. The file is
-// one record from offset 0 (a 16-bit count and that many bytes for each page); it isn't cut, so the tail of a longer
-// old record stays behind the new one. Pages are numbered from 1; their texts are Windows-1250.
+// The five notes pages, their file "\notes.dat", and the rescue of unsaved pages. The file is one record from offset 0:
+// for each page a 16-bit length and its bytes. The file is not cut, so the rest of a longer old record stays after the
+// new record. Pages are numbered from 1; their texts are Windows-1250.
 #pragma once
 
 #include <array>
@@ -16,7 +16,7 @@
 namespace pelmar {
 
 inline constexpr int kNotePages = 5;
-inline constexpr std::size_t kLongestNote = 65535;  // bytes: what the count of a page can say
+inline constexpr std::size_t kLongestNote = 65535;  // bytes, the limit of a 16-bit length
 
 struct NotesRecord {
   std::array<std::string, kNotePages> pages;
@@ -26,27 +26,27 @@ struct NotesRecord {
   bool operator==(const NotesRecord&) const = default;
 };
 
-// A file that ends too early reads as empty pages from there on.
+// If the file ends too early, the missing pages are empty.
 NotesRecord ReadNotes(std::string_view bytes);
 // Throws RuntimeError (EFBIG) for a page longer than kLongestNote.
 std::string NotesBytes(const NotesRecord& record);
-// The first page that is too long, 0 where all fit.
+// The first page that is too long, 0 if all pages fit.
 int OverlongPage(const NotesRecord& record);
-// What a person is told of such a page.
+// The message about a page that is too long. UTF-8.
 std::string OverlongMessage(int page, std::size_t size);
 
-// The file in the install folder. A missing one is created empty. Both throw RuntimeError where the file can't be used.
+// The file in the install folder. A missing file is created empty. Both throw RuntimeError if the file can't be used.
 NotesRecord LoadNotes(Platform& platform, FileNumber& file_number);
 void StoreNotes(const NotesRecord& record, Platform& platform, FileNumber& file_number);
 
-// The pages that differ from what is stored.
+// The pages that differ from the stored ones.
 RescueRecord NotesToKeep(const NotesRecord& stored, const NotesRecord& now, int page_on_show);
 
-// Brings pages back: each to its own place where that still holds what it held before, else to the next empty page.
-// Those that found no place are returned; an emptied page needs none.
+// Puts rescued pages back: a page goes to its own place if the place still holds the old text, otherwise to the next
+// empty page. Returns the pages that found no place. An emptied page needs no place.
 std::vector<RescuedText> BringBackNotes(NotesRecord& record, const std::vector<RescueRecord>& unsaved);
 
-// The pages as a text that a person reads.
+// The pages as one readable text.
 std::string ReadableNotes(const std::vector<RescuedText>& notes);
 
 }  // namespace pelmar

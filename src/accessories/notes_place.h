@@ -1,5 +1,6 @@
-// Where the notes window goes on each tick of its timer: snapped to the screen's edges, docked beside the main window,
-// at full height beside a maximised one, or in the screen's corner. Outer places in twips.
+// The place of the notes window at each tick of its timer: snapped to the edges of the screen, docked to the right of
+// the main window, at the right edge beside a maximised main window, or in the corner of the screen. Places are outer
+// frames in twips.
 #pragma once
 
 #include <optional>
@@ -17,36 +18,35 @@ struct NotesSurroundings {
   StartMode mode = StartMode::kEditor;
   bool docked = false;  // the button "Dock" is pressed
   int snap_distance = 0;
-  TwipsRect screen;   // of the notes, or of the main window that they are docked to
-  int narrowest = 0;  // the least width that the window takes
+  TwipsRect screen;   // the screen of the notes, or of the main window if docked
+  int narrowest = 0;  // the smallest width of the window
   bool operator==(const NotesSurroundings&) const = default;
 };
 
-// The window is in the normal state.
+// The notes window is neither minimised nor maximised.
 TwipsRect PlaceNotes(const NotesSurroundings& around);
 
-// What the timer does on each tick, and how fast it goes: a hundred wake-ups a second would cost a percent of a core
-// for nothing. When nothing has moved for a second it goes slowly, for what no event tells (the distance, the screen),
-// until something moves.
+// The timer of the notes window. A hundred ticks a second cost a percent of a core, so the timer slows down when
+// nothing has moved for a second. Slow ticks notice changes without an event: the distance and the screen.
 class NotesTimer {
  public:
   [[nodiscard]] int Interval() const { return quiet_ticks_ < kTicksUntilQuiet ? kTick : kQuietTick; }  // ms
-  // Something moved.
+  // Call when something has moved.
   void Wake() { quiet_ticks_ = 0; }
-  // The window is minimised or maximised, and stays where it is.
+  // Call when the window is minimised or maximised and stays in place.
   void Rest() { ++quiet_ticks_; }
-  // Where the window is to go; nothing where it stays.
+  // The new place of the window, nothing if the window stays.
   std::optional<TwipsRect> Tick(const NotesSurroundings& now);
 
  private:
   static constexpr int kTick = 10;
   static constexpr int kQuietTick = 250;
   static constexpr int kTicksUntilQuiet = 100;
-  // A window manager may overlook a request while it moves the window itself, or refuse it for good.
+  // A window manager may ignore a request while it moves the window, or always.
   static constexpr int kTries = 50;
 
-  NotesSurroundings placed_for_;  // what the last tick saw
-  int tries_left_ = 0;            // how often the same place is asked for again
+  NotesSurroundings placed_for_;  // the surroundings at the last tick
+  int tries_left_ = 0;            // how often the same place is requested again
   int quiet_ticks_ = 0;
 };
 
