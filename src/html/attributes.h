@@ -1,4 +1,4 @@
-// The pieces that every HTML-writing dialog builds its tags from. Texts are Windows-1250, written without escaping.
+// The pieces of tags that all dialogs write. Texts are Windows-1250 and are not escaped.
 #pragma once
 
 #include <optional>
@@ -7,28 +7,28 @@
 
 namespace pelmar {
 
-// A blank, the name, "=" and the value between double quotes.
+// A blank, the name, "=" and the quoted value.
 std::string Attribute(std::string_view name, std::string_view value);
-// Nothing where there is no value.
+// Empty if there is no value.
 template <typename Text>
 std::string Attribute(std::string_view name, const std::optional<Text>& value) {
   return value ? Attribute(name, std::string_view(*value)) : std::string();
 }
 
-// Text between double quotes.
+// The text between double quotes.
 std::string Quoted(std::string_view text);
 
-// Each backslash as a slash.
+// The path with a slash for each backslash.
 std::string ForwardSlashes(std::string_view path);
 
-// A path, as the system gives it, in a link of a document. Bytes are percent-encoded only where the link could not lead
-// to the file otherwise: those of characters that Windows-1250 lacks, and those that are no UTF-8.
+// The path as it stands in a link. Only characters outside Windows-1250 and bytes that are not UTF-8 are
+// percent-encoded, since the link would not lead to the file otherwise.
 std::string LinkText(std::string_view path);
 
-// How a tag names a file: by its URL, or with `relative` by the path as it stands, which is a bare name. Slashes only.
+// The address of a file in a tag: its URL, or with `relative` its bare name. Backslashes become slashes.
 std::string FileAddress(std::string_view path, bool relative);
 
-// Without the blanks at the left, or at both ends. Other white space stays.
+// Without blanks at the left, or at both ends. Other white space stays.
 std::string_view LeftTrimmed(std::string_view text);
 std::string_view Trimmed(std::string_view text);
 

@@ -8,7 +8,7 @@
 namespace pelmar {
 namespace {
 
-// A blank, "ALIGN", "=" between blanks and the quoted value; nothing for kNone.
+// A blank, "ALIGN", "=" between blanks and the quoted value. Empty for kNone.
 std::string SpacedAlign(Align align) {
   static constexpr std::string_view kValues[] = {"", "LEFT", "CENTER", "RIGHT"};
   if (align == Align::kNone) return {};

@@ -1,6 +1,6 @@
-// What the small block and inline dialogs write: one fragment each, from a plain struct of the dialog's fields.
-// required: the blanks around some "=", the mixed case of "Width" and the lower-case tags of TableHeading are output
-// that others rely on. Texts are Windows-1250, written without escaping.
+// The fragments that the small block and inline dialogs write, each from a struct of the fields of its dialog.
+// required: blanks around some "=", "Width" in mixed case, and the lower-case tags of TableHeading. Texts are
+// Windows-1250 and are not escaped.
 #pragma once
 
 #include <array>
@@ -18,7 +18,7 @@ enum class Align { kNone, kLeft, kCenter, kRight };
 Wrapping Paragraph(Align align);
 
 struct HeadingSpec {
-  std::string size;  // as shown: blanks may lead
+  std::string size;  // may begin with blanks
   Align align = Align::kCenter;
   bool no_wrap = false;
 };
@@ -34,7 +34,7 @@ Wrapping Font(const FontSpec& spec);
 struct RuleSpec {
   Align align = Align::kNone;
   bool no_shade = false;
-  std::optional<std::string> width;  // as shown: blanks may lead
+  std::optional<std::string> width;  // may begin with blanks
 };
 std::string HorizontalRule(const RuleSpec& spec);
 
@@ -44,10 +44,10 @@ std::string Fraction(std::string_view numerator, std::string_view denominator);
 std::string CommentText(std::string_view text);
 std::string CharacterReference(int code);
 
-// The five parts without the blanks at both ends.
+// The five parts in a row, without blanks at both ends.
 std::string Smiley(const std::array<std::string, 5>& parts);
 
-// The line in front of the whole text; the caret goes to the start.
+// Puts the line before the text and the caret at the start.
 void PutDoctype(TextBuffer& document, std::string_view line);
 
 }  // namespace pelmar

@@ -14,7 +14,7 @@ std::string ProgressText(std::int64_t progress, std::int64_t maximum) {
 
 bool IsUndeclaredUtf8(std::string_view page) {
   constexpr std::string_view kCharset = "charset";
-  constexpr std::size_t kLookedAt = 1024;  // bytes in which browsers look for it
+  constexpr std::size_t kLookedAt = 1024;  // bytes in which browsers look for the declaration
   if (page.starts_with(kByteOrderMarkBytes) || !LooksLikeUtf8(page)) return false;
   const std::string_view head = page.substr(0, kLookedAt);
   const auto same = [](char a, char b) { return (a | 0x20) == b; };

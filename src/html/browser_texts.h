@@ -1,4 +1,4 @@
-// What the internal browser's window says that isn't a caption of its form. UTF-8.
+// The texts of the internal browser that are not in its form. UTF-8.
 #pragma once
 
 #include <cstdint>
@@ -7,16 +7,17 @@
 
 namespace pelmar {
 
-// The page that a browser which is the whole program starts with.
+// The first web page of a browser that runs without the editor.
 inline constexpr std::string_view kStartingAddress = "https://duckduckgo.com/";
 
-// How far a page is, in percent, "" where there is nothing to load.
+// The progress of a web page in percent, "" if nothing loads.
 std::string ProgressText(std::int64_t progress, std::int64_t maximum);
 
-// Whether a page is in UTF-8 and doesn't say so: it is shown as Windows-1250 then, with garbage in it.
+// Whether a web page is in UTF-8 without a declaration. The browser shows such a page as Windows-1250, with wrong
+// letters.
 bool IsUndeclaredUtf8(std::string_view page);
 
-// The window's title for a page of this name.
+// The title of the window for the name of a web page.
 std::string BrowserCaption(std::string_view location_name);
 
 }  // namespace pelmar

@@ -1,5 +1,5 @@
-// A frameset page around the document, which becomes its NOFRAMES part, and the FRAME tag that a person puts into the
-// frameset by hand. Texts are Windows-1250, written as they are; numbers come as their labels show them.
+// A frameset page around the document, which becomes the NOFRAMES part, and the FRAME tag. Texts are Windows-1250 and
+// are not escaped. Numbers are texts, as labels show them.
 #pragma once
 
 #include <optional>
@@ -9,14 +9,14 @@
 
 namespace pelmar {
 
-// What is switched off is absent.
+// Fields that are switched off are absent.
 struct FramesetSpec {
   std::optional<std::string> rows = std::nullopt;
   std::optional<std::string> cols = std::nullopt;
   std::string title;
 };
 
-// The page becomes the whole text. What was there before, or a sentence where nothing was, stands selected in it.
+// Replaces the whole text by the page. The old text, or a sentence if there was no text, is selected in the page.
 void WrapInFrameset(TextBuffer& document, const FramesetSpec& spec);
 
 struct FrameSpec {

@@ -9,7 +9,7 @@
 namespace pelmar {
 namespace {
 
-// required: lower case, where other tags have these values in upper case
+// required: lower case, unlike in other tags
 constexpr std::array<std::string_view, 5> kAligns = {"top", "middle", "bottom", "left", "right"};
 
 }  // namespace

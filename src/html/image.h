@@ -8,7 +8,7 @@ namespace pelmar {
 
 enum class ImageAlign { kTop, kMiddle, kBottom, kLeft, kRight };
 
-// Texts are Windows-1250. Numbers are the labels that show them, blank at the left and "%" included.
+// Texts are Windows-1250. Numbers are texts, as labels show them: with a leading blank or a "%".
 struct ImageSpec {
   std::string path;
   bool relative = false;

@@ -9,15 +9,15 @@
 
 namespace pelmar {
 
-// The place in a document that links lead to.
+// The anchor that links lead to.
 std::string AnchorTag(std::string_view name);
 
 Wrapping LinkToAnchor(std::string_view name);
 Wrapping LinkToMail(std::string_view address);
 
 struct LinkSpec {
-  std::string target;  // what stands in front of the fragment: FileAddress of a file, or an address as typed
-  std::optional<std::string> fragment;  // an empty one counts as none
+  std::string target;                   // before the fragment: the FileAddress of a file, or a typed address
+  std::optional<std::string> fragment;  // empty is the same as absent
   std::optional<std::string> frame;
 };
 Wrapping LinkToDocument(const LinkSpec& link);

@@ -14,7 +14,7 @@ std::string Line(std::string_view text) {
 
 std::string BodyTag(const PageSpec& spec) {
   std::string tag(" <BODY");
-  // required: a file's URL for a bare name too
+  // required: the URL of a file, even for a bare name
   if (spec.background) tag += Attribute("BACKGROUND", PathToFileUrl(*spec.background));
   tag += Attribute("BGCOLOR", spec.bgcolor);
   tag += Attribute("TEXT", spec.text);
@@ -49,7 +49,7 @@ void PutAround(TextBuffer& document, std::string_view head, std::string_view sam
   std::string text(head);
   text += body;
   text += tail;
-  document.Replace(0, document.Size(), text);  // one step of undo, as nothing is asked before
+  document.Replace(0, document.Size(), text);  // one step of undo, since there is no question
   document.Select(head.size(), head.size() + body.size());
 }
 

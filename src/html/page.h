@@ -1,5 +1,5 @@
-// A whole page around the document: the head and BODY tag before it, the end behind it. What framesets share with pages
-// lies here too. Texts are Windows-1250, written as they are.
+// A whole web page around the document: a head and a BODY tag before the text, the end tags after the text. Framesets
+// share parts of a page. Texts are Windows-1250 and are not escaped.
 #pragma once
 
 #include <optional>
@@ -10,7 +10,7 @@
 
 namespace pelmar {
 
-// What is switched off is absent. Colours are "#RRGGBB".
+// Fields that are switched off are absent. Colours are "#RRGGBB".
 struct PageSpec {
   std::string author;
   std::string created;
@@ -24,13 +24,13 @@ struct PageSpec {
   std::optional<int> base_font = std::nullopt;
 };
 
-// The page becomes the whole text. What was there before, or a marker where nothing was, stands selected in its body.
+// Replaces the whole text by the page. The old text, or a marker if there was no text, is selected in the page.
 void WrapInPage(TextBuffer& document, const PageSpec& spec);
 
-// The lines that tell a reader the code page and the program, each with its line end.
+// The META lines of the code page and of the program, each with its line end.
 std::string CodePageAndGenerator();
 
-// The document's text, or `sample` where it is empty, goes between head and tail and is selected there.
+// Puts the document, or `sample` if the document is empty, between head and tail, and selects it there.
 void PutAround(TextBuffer& document, std::string_view head, std::string_view sample, std::string_view tail);
 
 }  // namespace pelmar

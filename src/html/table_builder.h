@@ -1,6 +1,5 @@
-// A whole TABLE from the fields of its dialog and a grid of 20 by 20 cells. The grid outlives every change of the
-// table's size: what lies beyond it stays and comes back when the table grows. Texts are Windows-1250, written as they
-// are.
+// A whole TABLE, from the fields of its dialog and a grid of 20 by 20 cells. The grid keeps cells outside the table,
+// and they come back when the table grows. Texts are Windows-1250 and are not escaped.
 #pragma once
 
 #include <array>
@@ -10,7 +9,7 @@
 
 namespace pelmar {
 
-// Columns and rows count from 1. A string of attributes begins with the blank that stands behind "<TD" or "<TR".
+// Columns and rows count from 1. Attributes begin with the blank after "<TD" or "<TR".
 struct TableGrid {
   static constexpr std::size_t kMost = 20;
   using Cells = std::array<std::array<std::string, kMost + 1>, kMost + 1>;
@@ -25,7 +24,7 @@ enum class TableFrame { kNone, kAbove, kBelow, kAboveAndBelow, kLeft, kRight, kL
 enum class TableRules { kNone, kRows, kColumns, kAll };
 enum class CaptionSide { kTop, kBottom, kLeft, kRight };
 
-// What is switched off is absent. Numbers come as their labels show them, with a blank in front or not.
+// Fields that are switched off are absent. Numbers are texts, as labels show them: with or without a leading blank.
 struct TableSpec {
   struct Border {
     TableFrame frame = TableFrame::kNone;
@@ -49,8 +48,8 @@ struct TableSpec {
   std::optional<Caption> caption = std::nullopt;
 };
 
-// One line for the opening tag, the caption and each row; no line end behind "</TABLE>". At most kMost columns and
-// rows.
+// A line for the opening tag, for the caption and for each row, and "</TABLE>" without a line end. At most kMost
+// columns and rows.
 std::string BuildTable(const TableSpec& spec, const TableGrid& grid);
 
 }  // namespace pelmar

@@ -1,5 +1,5 @@
-// The tags of one row and one cell of a table, for hand-written tables and for the cells of the table builder. Texts
-// are Windows-1250, written as they are; numbers come as their labels show them.
+// The tags of a row and of a cell, for typed tables and for the table builder. Texts are Windows-1250 and are not
+// escaped. Numbers are texts, as labels show them.
 #pragma once
 
 #include <optional>
@@ -13,10 +13,10 @@ namespace pelmar {
 enum class CellAlign { kLeft, kCenter, kRight, kCharacter };
 enum class CellVAlign { kTop, kMiddle, kBottom };
 
-// What is switched off is absent.
+// Fields that are switched off are absent.
 struct CellAlignment {
   std::optional<CellAlign> align = std::nullopt;
-  std::string character = {};  // with kCharacter; an empty one isn't written
+  std::string character = {};  // for kCharacter; not written if empty
   std::optional<CellVAlign> valign = std::nullopt;
 };
 
@@ -38,13 +38,14 @@ struct CellSpec {
 std::string RowTag(const RowSpec& spec);
 std::string CellTag(const CellSpec& spec);
 
-// The attributes of an opening tag whose name has two letters, with the blank before the first; "" where it has none.
+// The attributes in an opening tag whose name has two letters, with the blank before the first attribute. "" if there
+// are no attributes.
 std::string TagAttributes(std::string_view tag);
 
-// A row with its numbered cells at the caret; a selection stays behind it.
+// Inserts a row of numbered cells at the caret. The selection stays, after the row.
 void InsertRow(TextBuffer& document, const RowSpec& spec);
 
-// A cell around the selection, or one with a sample text.
+// Puts the selection, or a sample if nothing is selected, into a cell.
 void WrapInCell(TextBuffer& document, const CellSpec& spec);
 
 }  // namespace pelmar

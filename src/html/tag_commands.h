@@ -1,5 +1,5 @@
-// The commands that write into the text and need no dialog: tag wrappers, fixed inserts, date, time and the user's
-// address. Texts are Windows-1250, written without any escaping.
+// The commands that insert text without a dialog: tags around the selection, fixed texts, date, time and the user's
+// address. Texts are Windows-1250 and are not escaped.
 #pragma once
 
 #include <span>
@@ -13,7 +13,7 @@ namespace pelmar {
 
 struct Editor;
 
-// A command of the menu or the toolbar that wraps the selection.
+// A command that puts the selection, or `sample` if nothing is selected, between two tags.
 struct TagWrapper {
   std::string_view command;
   std::string_view open;
@@ -22,14 +22,14 @@ struct TagWrapper {
 };
 std::span<const TagWrapper> TagWrappers();
 
-// A command that inserts one fixed text.
+// A command that inserts a fixed text.
 struct FixedInsert {
   std::string_view command;
   std::string_view text;
 };
 std::span<const FixedInsert> FixedInserts();
 
-// "11-24-2026" and "09:05:00", whatever the system's regional format is.
+// "11-24-2026" and "09:05:00", in any regional format of the system.
 std::string DateText(const LocalTime& time);
 std::string TimeText(const LocalTime& time);
 

@@ -16,13 +16,13 @@ namespace {
 constexpr char kMarker = "˙"_w[0];
 constexpr std::string_view kNoTag = "Není tag!";
 
-// `count` characters from `from` on. A negative count is the run-time failure that the analysis reports.
+// `count` characters from `from` on. A negative count fails, and the analysis reports this.
 std::string_view Middle(std::string_view text, std::size_t from, std::ptrdiff_t count) {
   if (count < 0) throw RuntimeError(EINVAL, "záporná délka textu");
   return text.substr(std::min(from, text.size()), static_cast<std::size_t>(count));
 }
 
-// required: by way of the marker, so a marker that stands in the text turns into the new text as well
+// required: replaces by way of a marker, so a marker in the text becomes the new text too
 std::string ReplacedByMarker(std::string_view text, std::string_view find, std::string_view with) {
   const std::string_view marker(&kMarker, 1);
   return ReplaceAllText(ReplaceAllText(text, find, marker), marker, with);
@@ -35,18 +35,18 @@ void CollapseBlanks(std::string& text) {
 
 bool HasEquals(std::string_view text) { return text.find('=') != std::string_view::npos; }
 
-// The attributes with every value between one quote at each side and a blank behind each attribute.
+// Writes one quote at each end of each value, and a blank after each attribute.
 std::string Reformatted(std::string attributes) {
   CollapseBlanks(attributes);
   attributes = ReplacedByMarker(attributes, " =", "=");
   attributes = ReplacedByMarker(attributes, "= ", "=");
   attributes = ReplacedByMarker(attributes, "\" ", " ");
-  attributes = ReplacedByMarker(attributes, " ", "\" ");  // required: also the blanks inside a quoted value
+  attributes = ReplacedByMarker(attributes, " ", "\" ");  // required: even blanks in a quoted value
   attributes = ReplacedByMarker(attributes, "=\"", "=");
-  return ReplacedByMarker(attributes, "=", "=\"");  // required: also the "=" inside a value
+  return ReplacedByMarker(attributes, "=", "=\"");  // required: even "=" in a value
 }
 
-// The pieces between the blanks. A piece that holds no "=" goes on with the value before it.
+// Divides the attributes at their blanks. A piece without "=" belongs to the value before.
 std::vector<std::string> SplitAttributes(std::string_view attributes) {
   std::vector<std::string> tag_parts;
   for (std::size_t from = 0; from < attributes.size();) {
@@ -55,7 +55,7 @@ std::vector<std::string> SplitAttributes(std::string_view attributes) {
     if (tag_parts.empty() || HasEquals(piece)) {
       tag_parts.emplace_back(piece);
     } else {
-      // No piece is empty: in front of each blank stands a quote.
+      // A quote stands before each blank, so the part ends in a quote.
       std::string& front = tag_parts.back();
       front.pop_back();
       front.append(" ").append(piece);
@@ -85,7 +85,8 @@ class Analyser {
     step_ = TagStep::kReformat;
     const std::size_t blank = TakeName();
     if (blank == std::string_view::npos) return;
-    const auto count = static_cast<std::ptrdiff_t>(tag_.size() - blank) - 2;  // neither the blank nor the last one
+    const auto count =
+        static_cast<std::ptrdiff_t>(tag_.size() - blank) - 2;  // without the blank and the last character
     const std::string attributes = Reformatted(std::string(Middle(tag_, blank + 1, count)) + ' ');
     step_ = TagStep::kSplit;
     const std::vector<std::string> tag_parts = SplitAttributes(attributes);
@@ -93,7 +94,7 @@ class Analyser {
     for (const std::string& part : tag_parts) FillRow(part);
   }
 
-  // required: the last "<" counts, even where its tag was closed long before the caret
+  // required: the last "<" counts, even if its tag was closed before the caret
   bool FindTag() {
     const std::size_t start = text_.rfind('<', sel_start_);
     if (start == std::string_view::npos || text_.find('>', text_.find('<')) == std::string_view::npos) return false;
@@ -104,7 +105,7 @@ class Analyser {
     return true;
   }
 
-  // The place of the tag's first blank.
+  // Reads the name of the tag. Returns the position of the first blank.
   std::size_t TakeName() {
     const std::size_t blank = tag_.find(' ');
     const std::string_view name = blank == std::string_view::npos

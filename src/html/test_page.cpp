@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::string_view kPageName = "$$$PelmarTemp";
 
-// Nothing where the page can't be written; the person has been told then.
+// Nothing, after a message, if the page can't be written.
 std::optional<TempFile> TryTestPage(Editor& e, std::string_view extension, PageEnd end, std::string_view title) {
   std::string text = e.text.Text();
   if (end == PageEnd::kLineBreak) text += kCrLf;
@@ -44,7 +44,7 @@ void TestHtml(Editor& e) {
   }
   const std::optional<TempFile> page = TryTestPage(e, ".htm", PageEnd::kLineBreak, "Testuj html");
   if (!page) return;
-  // required: the name that is opened lacks the fixed part of the name that was written, and no message follows
+  // required: the opened name lacks the fixed part of the written name, and no message follows
   e.platform.OpenWithDefaultProgram(e.platform.TempFolder() + page->digits + ".htm");
 }
 

@@ -1,5 +1,6 @@
-// The page test: the document without its tags, in the system's own program, and as a page for the internal browser.
-// A document without a path is written to a new temporary page, which only its owner can read and nobody deletes.
+// The page test: removes tags from a text, opens the document in another program, and provides the page for the
+// internal browser. A document without a path is written to a new temporary file, which only its owner can read and
+// which is never deleted.
 #pragma once
 
 #include <optional>
@@ -10,15 +11,15 @@
 
 namespace pelmar {
 
-// All that stands outside of "<" to ">". required: a "<" without a ">" takes everything to the end, and neither
-// comments nor scripts are known.
+// The text outside of "<" to ">". required: a "<" without ">" removes the rest of the text, and comments and scripts
+// are not recognised.
 std::string StripHtml(std::string_view text);
 
-// Whether the temporary page ends in a line break behind the text.
+// The end of the temporary page: the text alone, or the text and a line break.
 enum class PageEnd { kLineBreak, kAsItIs };
 
-// The file that the internal browser shows: the document's own as it lies on the disk, unsaved changes are not shown,
-// or a new temporary page. Nothing where that can't be written; the person has been told then.
+// The file for the internal browser: the saved document without unsaved changes, or a new temporary page. Nothing,
+// after a message, if the page can't be written.
 std::optional<std::string> PageToShow(Editor& editor, PageEnd end);
 
 // The commands "Odstraň HTML" and "Testuj html".

@@ -1,4 +1,4 @@
-// The sample pages without a script. Their filler is made of groups of letters that mean nothing.
+// The sample web pages without a script. Their filler text has no meaning.
 #include "html/samples/templaty.h"
 #include "text/codepage.h"
 
@@ -22,7 +22,7 @@ std::string Html1(const SettingsRecord& profile) {
   });
 }
 
-// In the letters of ASCII alone: its head, whose line is given, can't tell the code page.
+// Only ASCII letters: the head of this page can't declare the code page.
 std::string Html2(const SettingsRecord&) {
   return Lines({
       R"(<html>)",

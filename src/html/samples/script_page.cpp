@@ -1,12 +1,12 @@
-// The sample page with a script: a menu for the frame of a frameset, whose pictures change under the mouse and which
-// loads random pages into its neighbours. Alone in its window it works as well, without the random pages.
+// The sample web page with a script: a menu in a frame. Its pictures change under the mouse, and a script loads random
+// web pages into the other frames. The page also works outside of a frameset, without random pages.
 #include "html/samples/templaty.h"
 #include "text/codepage.h"
 
 namespace pelmar::samples {
 namespace {
 
-// A cell of the menu: the picture of this name, which leads to the page of this name.
+// A cell of the menu: a picture that links to the web page of the same name.
 std::string Cell(std::string_view name, std::string_view caption) {
   const std::string n(name);
   return Lines({

@@ -1,4 +1,4 @@
-// The samples that are no pages.
+// The samples that are not web pages.
 #include "html/samples/templaty.h"
 #include "text/codepage.h"
 
@@ -112,7 +112,7 @@ std::string Bat1(const SettingsRecord&) {
 std::string Bat2(const SettingsRecord&) {
   return Lines({
       "wcmdmgrl.exe -stopproc", "deltree backup", "del data.wts", "del wtlog.txt", "call updatenow.bat",
-      "all updatenow.bat",  // required: spelt so
+      "all updatenow.bat",  // required: "all", not "call"
   });
 }
 

@@ -1,5 +1,5 @@
-// The sample documents: a table of them, and a routine for each that builds its text line by line. The texts are
-// Windows-1250 with CR LF between the lines and none behind the last; user name and address go into them as they are.
+// The sample documents. A function builds each document line by line, with the name and address of the user. The texts
+// are Windows-1250; CR LF separates the lines.
 #pragma once
 
 #include <initializer_list>
@@ -13,16 +13,16 @@ namespace pelmar {
 
 struct Sample {
   std::string_view key;
-  std::string_view text;       // what the list says, Windows-1250
-  std::string_view file_name;  // only shown
-  std::string_view picture;    // of the program's icons
+  std::string_view text;       // in the list, Windows-1250
+  std::string_view file_name;  // only displayed
+  std::string_view picture;    // the name of an icon of the program
   std::string (*make)(const SettingsRecord& profile);
 };
 
 // In the order of the list.
 std::span<const Sample> Samples();
 
-// The sample of this key; "" for an unknown one.
+// The text of a sample, "" for an unknown key.
 std::string SampleText(std::string_view key, const SettingsRecord& profile);
 
 namespace samples {
@@ -39,7 +39,7 @@ std::string Bat1(const SettingsRecord& profile);   // DOS start-up batch
 std::string Bat2(const SettingsRecord& profile);   // clean-up batch
 std::string Diz1(const SettingsRecord& profile);   // description for a download archive
 
-// The lines with CR LF between them.
+// The lines, separated by CR LF.
 std::string Lines(std::initializer_list<std::string_view> lines);
 
 }  // namespace samples
