@@ -30,13 +30,8 @@ CheckSums SumsOf(std::string_view text) {
 }
 
 std::string SumsMessage(const CheckSums& sums) {
-  return Line("CRC", sums.crc)
-      .append(kCrLf)
-      .append(Line("ContraCRC", sums.contra_crc))
-      .append(kCrLf)
-      .append(Line("&CRC", sums.and_crc))
-      .append(kCrLf)
-      .append(Line("ShortCRC", sums.short_crc));
+  return JoinLines({Line("CRC", sums.crc), Line("ContraCRC", sums.contra_crc), Line("&CRC", sums.and_crc),
+                    Line("ShortCRC", sums.short_crc)});
 }
 
 }  // namespace pelmar

@@ -17,15 +17,13 @@ constexpr std::array<std::string_view, kLetters> kLookAlikes = {
 }  // namespace
 
 std::string LookAlikeReminder() {
-  return std::string("ABCDEFGHIJKLMNOPQRSTUVWXYZ")
-      .append(kCrLf)
-      .append("abcdefghijklmnopqrstuvwxyz")
-      .append(kCrLf)
-      .append("&8(>3[6#1?<7~%09  5+ ^M*/2")
-      .append(kCrLf)
-      .append("@  )    !  4w     $   m")
-      .append(kCrLf)
-      .append("        |   W");
+  return JoinLines({
+      "ABCDEFGHIJKLMNOPQRSTUVWXYZ",
+      "abcdefghijklmnopqrstuvwxyz",
+      "&8(>3[6#1?<7~%09  5+ ^M*/2",
+      "@  )    !  4w     $   m",
+      "        |   W",
+  });
 }
 
 std::string HackerTranscription(std::string_view text, const Draw& draw) {

@@ -40,8 +40,15 @@ std::string ReplaceAllText(std::string_view text, std::string_view find, std::st
   return result;
 }
 
-std::int32_t CountLineFeeds(std::string_view text) {
-  return static_cast<std::int32_t>(std::ranges::count(text, '\n'));
+std::int32_t CountLineFeeds(std::string_view text) { return static_cast<std::int32_t>(std::ranges::count(text, '\n')); }
+
+std::string JoinLines(const std::vector<std::string_view>& lines) {
+  std::string text;
+  for (const std::string_view& line : lines) {
+    if (&line != &lines.front()) text += kCrLf;
+    text += line;
+  }
+  return text;
 }
 
 std::string NumberWithSignBlank(std::int64_t number) { return (number < 0 ? "" : " ") + std::to_string(number); }

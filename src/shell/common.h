@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/random.h"
 
@@ -24,6 +25,9 @@ std::string ReplaceAllText(std::string_view text, std::string_view find, std::st
 
 // How many characters of code 10 the text holds.
 std::int32_t CountLineFeeds(std::string_view text);
+
+// The lines, separated by CR LF.
+std::string JoinLines(const std::vector<std::string_view>& lines);
 
 // A number as the status bar writes it: a blank for the sign of a positive one, then the digits.
 std::string NumberWithSignBlank(std::int64_t number);

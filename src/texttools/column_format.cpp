@@ -54,13 +54,6 @@ void RemoveFromEnd(Rows& rows, std::size_t distance) {
     if (distance < row.size()) row.erase(row.size() - distance - 1, 1);
 }
 
-std::string JoinRows(const Rows& rows) {
-  std::string text;
-  for (std::size_t i = 0; i < rows.size(); ++i) {
-    if (i > 0) text += kCrLf;
-    text += rows[i];
-  }
-  return text;
-}
+std::string JoinRows(const Rows& rows) { return JoinLines({rows.begin(), rows.end()}); }
 
 }  // namespace pelmar

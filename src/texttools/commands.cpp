@@ -18,9 +18,8 @@ namespace {
 
 // Adds a command that replaces the selected text by what `transform` returns.
 void AddTransform(Editor& e, std::string_view name, std::function<std::string(std::string_view)> transform) {
-  e.commands.Add(name, [&e, transform = std::move(transform)] {
-    e.text.ReplaceSelection(transform(std::string(e.text.SelText())));
-  });
+  e.commands.Add(name,
+                 [&e, transform = std::move(transform)] { e.text.ReplaceSelection(transform(e.text.SelText())); });
 }
 
 void AddTransforms(Editor& e) {
@@ -47,7 +46,7 @@ void NumberSelectedLines(Editor& e) {
     e.platform.Message(MessageType::kOk, "Vyber text", "Očíslování");
     return;
   }
-  e.text.ReplaceSelection(NumberLines(std::string(e.text.SelText())));
+  e.text.ReplaceSelection(NumberLines(e.text.SelText()));
 }
 
 // Adds a command that shows the hourglass while it works.
@@ -61,11 +60,10 @@ void AddBusy(Editor& e, std::string_view name, std::function<void()> work) {
 void AddLineTools(Editor& e) {
   AddBusy(e, "Mnu_Sort_Lines", [&e] {
     const auto order = [&e](const std::vector<std::string_view>& lines) { return e.platform.SortedOrder(lines); };
-    e.text.ReplaceSelection(SortLines(std::string(e.text.SelText()), order));
+    e.text.ReplaceSelection(SortLines(e.text.SelText(), order));
   });
   AddBusy(e, "mnuEnterLineNumbers", [&e] { NumberSelectedLines(e); });
-  AddBusy(e, "MnuSelTextDivideWordsToLines",
-          [&e] { e.text.ReplaceSelection(WordsToLines(std::string(e.text.SelText()))); });
+  AddBusy(e, "MnuSelTextDivideWordsToLines", [&e] { e.text.ReplaceSelection(WordsToLines(e.text.SelText())); });
   e.commands.Add("mnucharcount", [&e] { CountCharacters(e); });
 }
 
@@ -83,7 +81,7 @@ void AddRandomTexts(Editor& e) {
   AddGenerator(e, "mnunahjmeno", RandomName);
   AddBusy(e, "MnuSelTextDada", [&e] {
     e.platform.ReseedRandom();
-    e.text.ReplaceSelection(ShuffledWords(std::string(e.text.SelText()), DrawFrom(e.platform)));
+    e.text.ReplaceSelection(ShuffledWords(e.text.SelText(), DrawFrom(e.platform)));
   });
 }
 

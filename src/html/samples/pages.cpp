@@ -1,11 +1,12 @@
 // The sample web pages without a script. Their filler text has no meaning.
 #include "html/samples/templaty.h"
+#include "shell/common.h"
 #include "text/codepage.h"
 
 namespace pelmar::samples {
 
 std::string Html1(const SettingsRecord& profile) {
-  return Lines({
+  return JoinLines({
       R"(<!DOCTYPE HTML PUBLIC "-//IETF/DTD HTML v.m//EN">)",
       R"(<HTML>)",
       R"( <HEAD>)",
@@ -24,7 +25,7 @@ std::string Html1(const SettingsRecord& profile) {
 
 // Only ASCII letters: the head of this page can't declare the code page.
 std::string Html2(const SettingsRecord&) {
-  return Lines({
+  return JoinLines({
       R"(<html>)",
       R"(<head><title>COOL PAGE</title></head>)",
       R"(<body bgcolor="#14202b" text="#d7e2ea" link="#7fc4ff" vlink="#c9a6ff" alink="#ffd166")",
@@ -63,7 +64,7 @@ std::string Html2(const SettingsRecord&) {
 }
 
 std::string Html3(const SettingsRecord&) {
-  return Lines({
+  return JoinLines({
       R"(<HTML>)",
       R"( <HEAD>)",
       R"(  <META HTTP-EQUIV="Content-Type" CONTENT="text/html; charset=windows-1250">)",
@@ -105,7 +106,7 @@ std::string Html3(const SettingsRecord&) {
 }
 
 std::string Html4(const SettingsRecord&) {
-  return Lines({
+  return JoinLines({
       R"(<HTML>)",
       R"( <HEAD>)",
       R"(  <META HTTP-EQUIV="Content-Type" CONTENT="text/html; charset=windows-1250">)",

@@ -1,6 +1,7 @@
 // The sample web page with a script: a menu in a frame. Its pictures change under the mouse, and a script loads random
 // web pages into the other frames. The page also works outside of a frameset, without random pages.
 #include "html/samples/templaty.h"
+#include "shell/common.h"
 #include "text/codepage.h"
 
 namespace pelmar::samples {
@@ -9,7 +10,7 @@ namespace {
 // A cell of the menu: a picture that links to the web page of the same name.
 std::string Cell(std::string_view name, std::string_view caption) {
   const std::string n(name);
-  return Lines({
+  return JoinLines({
       R"(     <TD>)",
       R"(      <A HREF=")" + n + R"(.html" TARGET="hlavni" onmouseover="rim(')" + n + R"x(')" onmouseout="rimm(')x" +
           n + R"x(')"><IMG)x",
@@ -22,7 +23,7 @@ std::string Cell(std::string_view name, std::string_view caption) {
 }  // namespace
 
 std::string Html5(const SettingsRecord&) {
-  return Lines({
+  return JoinLines({
       R"(<HTML>)",
       R"( <HEAD>)",
       R"(  <META HTTP-EQUIV="Content-Type" CONTENT="text/html; charset=windows-1250">)",

@@ -1,11 +1,12 @@
 // The samples that are not web pages.
 #include "html/samples/templaty.h"
+#include "shell/common.h"
 #include "text/codepage.h"
 
 namespace pelmar::samples {
 
 std::string Ini1(const SettingsRecord&) {
-  return Lines({
+  return JoinLines({
       R"([AutoCAD General])",
       R"(ToolBars=2)",
       R"(ToolBarSize=16)",
@@ -55,7 +56,7 @@ std::string Ini1(const SettingsRecord&) {
 }
 
 std::string Ini2(const SettingsRecord&) {
-  return Lines({
+  return JoinLines({
       "[Settings]",
       "PreviewPages=2",
       "",
@@ -89,7 +90,7 @@ std::string Ini2(const SettingsRecord&) {
 }
 
 std::string Inf1(const SettingsRecord&) {
-  return Lines({
+  return JoinLines({
       R"([autorun])",
       R"(open=autorun.exe)",
       R"(icon=icon.ini)",
@@ -99,7 +100,7 @@ std::string Inf1(const SettingsRecord&) {
 }
 
 std::string Bat1(const SettingsRecord&) {
-  return Lines({
+  return JoinLines({
       R"(@echo off)",
       R"(PATH C:\WINDOWS;C:\WINDOWS\COMMAND)",
       R"(PATH %PATH%;C:\DOS;C:\NASTROJE)",
@@ -110,14 +111,14 @@ std::string Bat1(const SettingsRecord&) {
 }
 
 std::string Bat2(const SettingsRecord&) {
-  return Lines({
+  return JoinLines({
       "wcmdmgrl.exe -stopproc", "deltree backup", "del data.wts", "del wtlog.txt", "call updatenow.bat",
       "all updatenow.bat",  // required: "all", not "call"
   });
 }
 
 std::string Diz1(const SettingsRecord& profile) {
-  return Lines({
+  return JoinLines({
       "XXX 1.0 for Windows XX",
       "Freeware. Freely distributable.",
       "Does not expire. No installation required.",

@@ -1,6 +1,5 @@
 #include "html/samples/templaty.h"
 
-#include "shell/common.h"
 #include "text/codepage.h"
 
 namespace pelmar {
@@ -28,15 +27,6 @@ std::string SampleText(std::string_view key, const SettingsRecord& profile) {
   for (const Sample& sample : kSamples)
     if (sample.key == key) return sample.make(profile);
   return {};
-}
-
-std::string samples::Lines(std::initializer_list<std::string_view> lines) {
-  std::string text;
-  for (const std::string_view& line : lines) {
-    if (&line != lines.begin()) text += kCrLf;
-    text += line;
-  }
-  return text;
 }
 
 }  // namespace pelmar

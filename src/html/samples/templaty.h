@@ -2,7 +2,6 @@
 // are Windows-1250; CR LF separates the lines.
 #pragma once
 
-#include <initializer_list>
 #include <span>
 #include <string>
 #include <string_view>
@@ -38,9 +37,6 @@ std::string Inf1(const SettingsRecord& profile);   // CD autorun file
 std::string Bat1(const SettingsRecord& profile);   // DOS start-up batch
 std::string Bat2(const SettingsRecord& profile);   // clean-up batch
 std::string Diz1(const SettingsRecord& profile);   // description for a download archive
-
-// The lines, separated by CR LF.
-std::string Lines(std::initializer_list<std::string_view> lines);
 
 }  // namespace samples
 }  // namespace pelmar
