@@ -38,8 +38,8 @@ std::vector<std::string> CodeRows(const CipherTable& table);
 std::vector<std::string> LetterRows(const CipherTable& table);
 
 enum class CountedDigits { kAll, kFirstEight };
-// The line with the two coefficients and their product; 1 means perfect balance. Nothing if it would divide by zero.
-// required: the digits that count depend on what made the table.
+// The line with the two coefficients and their product; 1 means perfect balance. Nothing if a coefficient would divide
+// by zero. required: a generated table counts other digits than a table from a file.
 std::optional<std::string> CoefficientsText(const CipherTable& table, CountedDigits counted);
 
 }  // namespace pelmar

@@ -1,5 +1,5 @@
-// A random source with a fixed sequence: a text that was enciphered once can only be read with the same numbers.
-// Nothing in this file may change.
+// A random source with a fixed sequence. An enciphered text can only be read with the same numbers, so do not change
+// anything in this file.
 #pragma once
 
 #include <bit>

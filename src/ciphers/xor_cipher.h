@@ -14,7 +14,7 @@
 
 namespace pelmar {
 
-// What the key field makes of a typed text. The number is read and written again until it stays the same. required:
+// What the key field makes of a typed text: a number, read and written again until the text stays the same. required:
 // reading needs a point and writing uses a comma, so a fraction loses its decimals.
 std::string KeyText(std::string_view typed);
 

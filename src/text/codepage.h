@@ -56,7 +56,7 @@ char ToLower(char ch);
 std::string ToUpper(std::string_view text);
 std::string ToLower(std::string_view text);
 
-// Whether the character is a letter of the code page. ß is one.
+// Whether the character is a letter of the code page, ß included.
 bool IsLetter(char ch);
 
 namespace literal {

@@ -6,15 +6,15 @@
 
 namespace pelmar {
 
-// Of a character in a table of all 256.
+// The index of a character in a table of all 256.
 constexpr std::size_t IndexOf(char ch) { return static_cast<unsigned char>(ch); }
 
-// Of a choice in a table with a row for each.
+// The index of a choice in a table with a row for each choice.
 template <typename Choice>
 requires std::is_enum_v<Choice>
 constexpr std::size_t IndexOf(Choice choice) { return static_cast<std::size_t>(choice); }
 
-// Of a thing that people number from 1: a tab, a page, a panel.
+// The index of a tab, a page or a panel, which people number from 1.
 constexpr std::size_t IndexFromOne(int number) { return static_cast<std::size_t>(number - 1); }
 
 }  // namespace pelmar

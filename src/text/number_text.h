@@ -11,20 +11,20 @@
 
 namespace pelmar {
 
-// At most 15 significant digits (a float: 7), without grouping: "0", "-2,5", "1,5E-05". Numbers with more digits before
-// the comma and numbers below 0,0001 have an exponent. The number is finite.
+// At most 15 significant digits (a float: 7), without grouping: "0", "-2,5". Numbers with more digits before the comma
+// and numbers below 0,0001 have an exponent: "1E+15", "1,5E-05". The number is finite.
 std::string NumberText(double number);
 std::string NumberText(float number);
 
-// The digits of a number that is not negative, with zeros in front up to `width` digits.
+// The digits of a number that is not negative. Zeros in front fill up to `width` digits.
 std::string ZeroPadded(std::int64_t number, std::size_t width);
 
 // Exactly `decimals` digits (1 or more) after the comma. Halves are rounded away from zero: FixedText(1.015625, 5) is
 // "1,01563". Only 15 significant digits count. The number is finite and below 1E+15.
 std::string FixedText(double number, int decimals);
 
-// The value of the longest part from the start that is a finite number, without blanks before the number. 0 if there is
-// no such part. The decimal mark is the point: "12ab" is 12, "1,5" is 1, "1.5E3x" is 1500.
+// The value of the longest finite number at the start of the text, after blanks. 0 if the text starts with no number.
+// The decimal mark is the point: "12ab" is 12, "1,5" is 1, "1.5E3x" is 1500, "1E999" is 1E+99.
 double LeadingNumber(std::string_view text);
 
 // The value of a text that is a number, with or without blanks around. The decimal mark is the comma: "0," and ",5" are

@@ -1,7 +1,6 @@
 // The document in a text box: Windows-1250 bytes, one selection, an index of the lines, undo and redo. Positions are
-// byte offsets from 0 and may lie between a CR and its LF. Only CR LF breaks a line. Listeners are notified once after
-// each change of the text, when text and selection have their new values. Nobody is notified of a text that stays the
-// same.
+// byte offsets from 0 and may lie between a CR and its LF. Only CR LF breaks a line. Each change of the text notifies
+// the listeners once, when text and selection have their new values. A text that stays the same notifies nobody.
 #pragma once
 
 #include <cstddef>
@@ -42,7 +41,7 @@ class TextBuffer {
   [[nodiscard]] std::size_t Size() const { return text_.size(); }
   [[nodiscard]] bool Empty() const { return text_.empty(); }
   // The number of changes so far. If a listener changes the text, the listeners after it are notified of the second
-  // change first. They can see this from the revision.
+  // change before the first. The revision shows this.
   [[nodiscard]] std::uint64_t Revision() const { return revision_; }
 
   // Replaces the whole text, puts the caret at 0 and clears undo. Notifies nobody if the text stays the same.
@@ -69,8 +68,8 @@ class TextBuffer {
   // The same for any part of the text.
   void Replace(std::size_t pos, std::size_t length, std::string_view text);
 
-  // Typing and deleting by hand. What a person types in a row, or deletes in a row, is one step of undo, until the
-  // caret moves or a line ends.
+  // Typing and deleting by hand. Letters typed one after the other are one step of undo, and so are deleted letters,
+  // until the caret moves or a line ends.
   void Type(std::string_view text);
   void EraseBefore(std::size_t count);  // with a selection: the selection
   void EraseAfter(std::size_t count);   // with a selection: the selection

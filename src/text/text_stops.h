@@ -1,5 +1,5 @@
-// Moves of a caret by single steps and by words. Positions are byte offsets from 0. CR LF is one step. A word is a run
-// of letters and digits, or a run of other signs. Blanks separate words.
+// Where single steps and steps by words take a caret. Positions are byte offsets from 0. CR LF is one step. A word is a
+// run of letters and digits, or a run of other signs. Blanks separate words.
 #pragma once
 
 #include <cstddef>

@@ -8,7 +8,7 @@
 
 namespace pelmar {
 
-// Results that are no characters.
+// Results that are not characters.
 inline constexpr char32_t kUnfinishedUtf8 = 0xFFFFFFFE;  // the character needs more bytes
 inline constexpr char32_t kMalformedUtf8 = 0xFFFFFFFF;
 inline constexpr char32_t kByteOrderMark = 0xFEFF;
@@ -65,10 +65,10 @@ constexpr char32_t DecodeUtf8(std::string_view utf8, std::size_t& at) {
   return kMalformedUtf8;
 }
 
-// Appends a Unicode character to UTF-8. The character is no surrogate.
+// Appends a Unicode character, which must not be a surrogate, to UTF-8.
 void AppendUtf8(std::string& utf8, char32_t character);
 
-// Whether the bytes are well-formed UTF-8, such as ASCII.
+// Whether the bytes are well-formed UTF-8. ASCII is.
 bool IsUtf8(std::string_view bytes);
 
 // Whether the bytes are well-formed UTF-8 with a character beyond ASCII. Text in another encoding hardly ever is.

@@ -16,8 +16,9 @@ struct SelectedRows {
   std::size_t shortest = 0;
 };
 
-// required: the last character of the selection is not read, and what is left then is a row. A selection that ends in
-// CR LF gets an extra row: the characters of its last line with the line end. A last line of one character gets no row.
+// required: the last character is not read, and what remains then is a row. A selection that ends in CR LF gets an
+// extra row: its last line again, without the first character and with the line end. A last line of one character gets
+// no row.
 SelectedRows RowsOfSelection(std::string_view selected);
 
 // The length of the shortest row, 0 if there are no rows.

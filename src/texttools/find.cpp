@@ -48,7 +48,7 @@ void Finder::Next() {
 void Finder::New() {
   TakeDefaultTerm();
   find_on = history_on = true;
-  next_on = false;  // required: Rozlisovat stays off after a search
+  next_on = false;  // required: after a search the case stays disabled
 }
 
 void Finder::PickHistory(std::size_t row) {

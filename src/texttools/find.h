@@ -19,25 +19,26 @@ class Finder {
   Finder(TextBuffer& document, Platform& platform);
 
   // The fields of the dialog. The window writes them before each step and shows them after each step.
-  std::string find;                     // Find
-  bool case_sensitive = true;           // Rozlisovat
-  bool find_on = true;                  // Find, Command1
-  bool case_on = true;                  // Rozlisovat
-  bool history_on = true;               // History
-  bool next_on = false;                 // Command2
-  std::vector<std::string> history;     // History
-  std::optional<std::size_t> count;     // Label3
-  std::optional<std::size_t> position;  // Label5
+  std::string find;
+  bool case_sensitive = true;
+  std::vector<std::string> history;     // all terms so far
+  std::optional<std::size_t> count;     // hits so far
+  std::optional<std::size_t> position;  // of the last hit
+  // Which controls are enabled.
+  bool find_on = true;  // the term and Start
+  bool case_on = true;
+  bool history_on = true;
+  bool next_on = false;
 
   // Called before a message in the middle of a step, so that the window can show the fields.
   std::function<void()> before_message;
 
   [[nodiscard]] TextBuffer& Snapshot() { return snapshot_; }
 
-  void Load();   // when the dialog is first shown
-  void Start();  // Command1, and Enter in Find
-  void Next();   // Command2
-  void New();    // Command4
+  void Load();  // when the dialog is first shown
+  void Start();
+  void Next();
+  void New();
   void PickHistory(std::size_t row);
 
  private:

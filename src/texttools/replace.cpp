@@ -75,7 +75,7 @@ bool Replacer::Seek() {
   return true;
 }
 
-// required: Command6 stays on
+// required: Replace all stays enabled
 void Replacer::GoIdle() {
   case_on = lists_on = find_on = change_on = true;
   step_on = false;
@@ -85,7 +85,7 @@ void Replacer::ReplaceAll() {
   const BusyPointer busy(platform_);
   ReplaceDocument(document_, ReplaceAllByMarker(document_.Text(), find, change));
   find_on = lists_on = change_on = true;
-  step_on = all_on = false;  // required: Rozlisovat stays off
+  step_on = all_on = false;  // required: the case stays disabled
   found_shown = replaced_shown = std::nullopt;
 }
 

@@ -18,30 +18,31 @@ class Replacer {
   Replacer(TextBuffer& document, Platform& platform);
 
   // The fields of the dialog. The window writes them before each step and shows them after each step.
-  std::string find = "Najdi";                 // Find
-  std::string change;                         // Chage
-  bool case_sensitive = true;                 // Rozlisovat
-  bool find_on = true;                        // Find, Command1
-  bool change_on = true;                      // Chage
-  bool case_on = true;                        // Rozlisovat
-  bool lists_on = true;                       // History, List1
-  bool step_on = false;                       // Command2, Command5
-  bool all_on = false;                        // Command6
-  std::vector<std::string> terms, changes;    // History and List1, row for row
-  std::optional<std::size_t> found_shown;     // Label3
-  std::optional<std::size_t> replaced_shown;  // Label5
+  std::string find = "Najdi";
+  std::string change;
+  bool case_sensitive = true;
+  std::vector<std::string> terms, changes;  // of all searches so far, row by row
+  std::optional<std::size_t> found_shown;
+  std::optional<std::size_t> replaced_shown;
+  // Which controls are enabled.
+  bool find_on = true;  // the term and Start
+  bool change_on = true;
+  bool case_on = true;
+  bool lists_on = true;
+  bool step_on = false;  // Next and Replace
+  bool all_on = false;
 
   // Called before a message in the middle of a step, so that the window can show the fields.
   std::function<void()> before_message;
 
   [[nodiscard]] TextBuffer& Snapshot() { return snapshot_; }
 
-  void Load();        // when the dialog is first shown
-  bool Start();       // Command1; true if the focus goes to Command5
-  void Next();        // Command2
-  void Replace();     // Command5
-  void ReplaceAll();  // Command6
-  void New();         // Command4
+  void Load();   // when the dialog is first shown
+  bool Start();  // true if the focus goes to Replace
+  void Next();
+  void Replace();
+  void ReplaceAll();
+  void New();
   void PickRow(std::size_t row);
 
  private:
