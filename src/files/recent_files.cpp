@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
+#include "text/index.h"
+
 namespace pelmar {
 
-const std::string& RecentFiles::Path(int number) const {
-  return settings_.RecentFiles.at(static_cast<std::size_t>(number - 1));
-}
+const std::string& RecentFiles::Path(int number) const { return settings_.RecentFiles.at(IndexFromOne(number)); }
 
 std::string RecentFiles::ItemText(int number) const { return "&" + std::to_string(number - 1) + " " + Path(number); }
 

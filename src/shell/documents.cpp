@@ -24,7 +24,7 @@ void Documents::EnterTab(int entered) {
   title_follows_ = true;
   text_.SetText(std::exchange(Current().Text, {}));
   title_follows_ = false;
-  current_path_ = faces_[Index(entered)].ToolTipText;
+  current_path_ = faces_[IndexFromOne(entered)].ToolTipText;
   // Only a document that a rescue brought back can have a name that Prime refuses.
   if (!current_path_.empty() && HasExtension(current_path_)) target_.Prime(current_path_);
   SetTitle(current_path_, Current().Modified);
@@ -108,7 +108,7 @@ void Documents::SetTitle(std::string path, bool marked) {
 }
 
 void Documents::SetFace(std::string caption, std::string tool_tip) {
-  faces_[Index(selected_)] = {std::move(caption), std::move(tool_tip)};
+  faces_[IndexFromOne(selected_)] = {std::move(caption), std::move(tool_tip)};
   face_changed.Notify(selected_);
 }
 

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "shell/save_target.h"
+#include "text/index.h"
 #include "text/listeners.h"
 #include "text/text_buffer.h"
 
@@ -35,8 +36,8 @@ class Documents {
 
   [[nodiscard]] int SelectedTab() const { return selected_; }
   [[nodiscard]] const std::string& TextOf(int tab) const { return tab == selected_ ? text_.Text() : Slot(tab).Text; }
-  [[nodiscard]] const DocSlot& Slot(int tab) const { return slots_[Index(tab)]; }
-  [[nodiscard]] const TabFace& Face(int tab) const { return faces_[Index(tab)]; }
+  [[nodiscard]] const DocSlot& Slot(int tab) const { return slots_[IndexFromOne(tab)]; }
+  [[nodiscard]] const TabFace& Face(int tab) const { return faces_[IndexFromOne(tab)]; }
   [[nodiscard]] const std::string& CurrentPath() const { return current_path_; }
   [[nodiscard]] std::string Title() const;
   [[nodiscard]] bool Marked() const { return title_.marked; }
@@ -78,8 +79,7 @@ class Documents {
     bool operator==(const TitleParts&) const = default;
   };
 
-  static std::size_t Index(int tab) { return static_cast<std::size_t>(tab - 1); }
-  DocSlot& Current() { return slots_[Index(selected_)]; }
+  DocSlot& Current() { return slots_[IndexFromOne(selected_)]; }
   void LeaveTab();
   void EnterTab(int entered);
   void TextChanged();

@@ -12,6 +12,7 @@
 #include "platform/qt/svg_icon.h"
 #include "platform/twips.h"
 #include "shell/windows/warning_label.h"
+#include "text/index.h"
 #include "ui_poznamka.h"
 
 namespace pelmar {
@@ -119,7 +120,7 @@ std::vector<RescuedText> Poznamka::BringBack(const std::vector<RescueRecord>& re
 }
 
 void Poznamka::ShowPage(int page) {
-  const auto caret = [this]() -> std::size_t& { return carets_[static_cast<std::size_t>(page_ - 1)]; };
+  const auto caret = [this]() -> std::size_t& { return carets_[IndexFromOne(page_)]; };
   caret() = Text().Caret();
   page_ = page;
   const QSignalBlocker quiet(ui_->TabStrip1);

@@ -3,12 +3,13 @@
 #include <QPainter>
 
 #include "platform/qt/svg_icon.h"
+#include "text/index.h"
 
 namespace pelmar {
 
 ActivityPicture::ActivityPicture(QWidget* parent) : QWidget(parent) {
   for (int number = 1; number <= kFrames; ++number)
-    frames_[static_cast<std::size_t>(number - 1)] = SvgIcon(QStringLiteral(":/icons/activity%1.svg").arg(number));
+    frames_[IndexFromOne(number)] = SvgIcon(QStringLiteral(":/icons/activity%1.svg").arg(number));
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "platform/qt/convert.h"
+#include "text/index.h"
 
 namespace pelmar {
 namespace {
@@ -33,14 +34,14 @@ FileTab::FileTab(QWidget* parent) : QTabBar(parent) {
 
 void FileTab::SetFace(int tab, const TabFace& face) {
   const QString caption = Utf8ToQString(face.Caption);
-  captions_[static_cast<std::size_t>(tab - 1)] = caption;
+  captions_[IndexFromOne(tab)] = caption;
   setTabText(tab - 1, QString(caption).replace(QLatin1Char('&'), QLatin1String("&&")));
   setTabToolTip(tab - 1, Utf8ToQString(face.ToolTipText));
   NameTab(tab);
 }
 
 void FileTab::SetUnsaved(int tab, bool unsaved) {
-  const auto at = static_cast<std::size_t>(tab - 1);
+  const std::size_t at = IndexFromOne(tab);
   if (unsaved_[at] == unsaved) return;
   unsaved_[at] = unsaved;
   NameTab(tab);
@@ -48,7 +49,7 @@ void FileTab::SetUnsaved(int tab, bool unsaved) {
 }
 
 void FileTab::NameTab(int tab) {
-  const auto at = static_cast<std::size_t>(tab - 1);
+  const std::size_t at = IndexFromOne(tab);
   const QString spoken = captions_[at].isEmpty() ? QStringLiteral("nový soubor") : captions_[at];
   const QString state = unsaved_[at] ? QStringLiteral(", neuloženo") : QString();
   setAccessibleTabName(tab - 1, QStringLiteral("Dokument %1: %2%3").arg(tab).arg(spoken, state));

@@ -8,6 +8,7 @@
 #include "platform/qt/convert.h"
 #include "platform/qt/svg_icon.h"
 #include "shell/menu_table.h"
+#include "text/index.h"
 
 namespace pelmar {
 namespace {
@@ -58,7 +59,7 @@ void MainToolbar::AddRecentMenu(QAction* action) {
     QAction* item = menu->addAction(QString());
     item->setObjectName(QStringLiteral("M%1").arg(number));
     connect(item, &QAction::triggered, this, [this, number] { files_.opener.OpenRecentFile(number); });
-    recent_[static_cast<std::size_t>(number - 1)] = item;
+    recent_[IndexFromOne(number)] = item;
   }
   action->setMenu(menu);
   ShowRecentFiles();
@@ -112,7 +113,7 @@ void MainToolbar::Refresh() {
 
 void MainToolbar::ShowRecentFiles() {
   for (int number = 1; number <= 10; ++number) {
-    QAction* action = recent_[static_cast<std::size_t>(number - 1)];
+    QAction* action = recent_[IndexFromOne(number)];
     action->setText(EscapedMnemonics(Shortened(Utf8ToQString(files_.recent.ItemText(number)))));
     action->setToolTip(Utf8ToQString(files_.recent.Path(number)));
   }
