@@ -19,7 +19,7 @@ bool IsOutsidePage(char32_t character) { return character != U'?' && CodeOfUnico
 void Tell(Platform& platform, const std::string& text) { platform.Message(MessageType::kOk, text, kConversionTitle); }
 
 bool Agreed(Platform& platform, const std::string& text) {
-  return platform.Message(MessageType::kYesNoWarning, text, kConversionTitle) == Answer::kYes;
+  return platform.Confirmed(text, kConversionTitle);
 }
 
 std::string Told(const FilePlace& place) {

@@ -100,7 +100,7 @@ bool Session::MayEnd() {
   const int unsaved = documents_.UnsavedCount();
   if (unsaved == 0) return true;
   const std::string question = std::to_string(unsaved) + " neuložené zněněné soubory! Opravdu konec?";
-  return platform_.Message(MessageType::kYesNoWarning, question, "Konec") == Answer::kYes;
+  return platform_.Confirmed(question, "Konec");
 }
 
 void Session::StoreSettings() {

@@ -13,7 +13,7 @@ void AddDocumentCommands(Editor& e) {
 Editor::Editor(Platform& platform_layer) : platform(platform_layer) { AddDocumentCommands(*this); }
 
 void NewDocument(Editor& editor) {
-  if (editor.platform.Message(MessageType::kYesNoWarning, "Opravdu nový soubor ?", "Nový") != Answer::kYes) return;
+  if (!editor.platform.Confirmed("Opravdu nový soubor ?", "Nový")) return;
   editor.documents.ClearCurrent();
 }
 

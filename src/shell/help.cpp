@@ -23,7 +23,7 @@ void SearchHelp(TextBuffer& text, std::string_view term, Platform& platform) {
   std::size_t from = 0;
   while (const auto hit = FindFrom(folded_text, folded_term, from)) {
     SelectHit(text, *hit, term.size());
-    if (platform.Message(MessageType::kYesNoWarning, GoOnQuestion(*hit), "hledání") != Answer::kYes) return;
+    if (!platform.Confirmed(GoOnQuestion(*hit), "hledání")) return;
     from = *hit + 1;
   }
 }
