@@ -36,7 +36,7 @@ std::vector<Bar> GraphBars(const Analysis& analysis, bool wide, bool ignore_blan
 constexpr int BarStep(bool wide) { return wide ? 2 : 4; }
 constexpr int BarWidth(bool wide) { return wide ? 1 : 3; }
 
-// The code at x of the scale. -1 just left of the graph, which is no code.
+// The code at x of the scale. -1, which is no code, just left of the graph.
 int CodeAt(double x, bool wide);
 // For example "Poloha: 65 Znak: "A"".
 std::string PointedText(int code);

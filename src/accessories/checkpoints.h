@@ -1,4 +1,4 @@
-// The checkpoint copies the document into the notes page on show, and back.
+// The checkpoint copies the document into the open notes page, and back.
 #pragma once
 
 #include "platform/platform.h"
@@ -6,7 +6,7 @@
 
 namespace pelmar {
 
-// Replaces the note by the document. A document that is too long for a note is refused with a message.
+// Replaces the note by the document. A message refuses a document that is too long for a note.
 void SaveCheckpoint(const TextBuffer& document, TextBuffer& note, Platform& platform);
 
 // Replaces the document by the note after a question. An empty note does nothing.

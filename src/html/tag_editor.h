@@ -52,8 +52,8 @@ std::string AttributesText(const AttributeLists& attributes);
 // <name attributes>
 std::string TagText(std::string_view name, const AttributeLists& attributes);
 
-// Inserts attributes before the first ">" from the character before the caret on. False, with a message, if there is no
-// ">" or the caret is at the start of the text.
+// Inserts attributes before the first ">" from the character before the caret on. If there is no such ">" or no such
+// character, shows a message and returns false.
 bool AddAttributes(TextBuffer& document, const AttributeLists& attributes, Platform& platform);
 
 struct CustomTag {

@@ -1,7 +1,7 @@
 // Everything that the program asks of the system. The program answers with Qt (platform/qt), tests answer with a
 // script. Messages and titles are UTF-8, documents and the clipboard are Windows-1250. A path is the bytes that the
 // system gave. No call throws: a call on a file returns an errno, 0 for success, alone or in the field `error`. A
-// command that can't go on throws RuntimeError; one that nobody catches ends the program, after a rescue of the
+// command that can't go on throws RuntimeError. An uncaught RuntimeError ends the program, after a rescue of the
 // documents.
 #pragma once
 
@@ -45,7 +45,7 @@ struct WriteOutcome {
   std::string kept = {};
 };
 
-// Shows that a file has changed, without reading the file.
+// If two stamps of a path differ, its file has changed.
 struct FileStamp {
   std::uint64_t device = 0, node = 0, size = 0;
   std::int64_t changed = 0;  // nanoseconds since 1970
