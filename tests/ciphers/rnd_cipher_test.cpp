@@ -99,34 +99,14 @@ TEST(RndCipher, DecipheringUndoesEncipheringAndBothTellTheirProgress) {
   }
 }
 
-// Deciphering once more, as a walk through all codes for each block.
-std::string SlowlyDeciphered(const std::string& text, const CipherTable& table) {
-  std::string digits;
-  for (const char ch : text) digits += table.zero_letters.find(ch) != std::string::npos ? '0' : '1';
-  std::string out;
-  std::size_t found = 0;
-  for (std::size_t p = 0; p < digits.size(); p += table.depth) {
-    const std::string block = digits.substr(p, table.depth);
-    for (std::size_t j = 1; j <= kSymbols; ++j)
-      if (table.symbol_codes[j - 1].find(block) != std::string::npos) found = j;
-    if (found >= 1) out += "ABCDEFGHIJKLMNOPQRSTUVWXYZ \r\n"[found - 1];
-  }
-  return out;
-}
-
-// required: no match repeats the character before, of twins the last counts, a rest of a block matches anywhere
-TEST(RndCipher, DecipheringEqualsTheWalkThroughAllCodes) {
-  RandomSource source(42);
-  for (int round = 0; round < 3000; ++round) {
-    // Such tables come from foreign files: codes of any length, any depth, letters in both sets.
-    CipherTable table;
-    for (std::string& code : table.symbol_codes) code = source.Text(12, "01");
-    table.depth = static_cast<std::uint8_t>(1 + source.Below(9));
-    table.zero_letters = source.Text(4, "ABCDEFGH");
-    const std::string text = source.Text(79, "ABCDEFGHa\n");
-    ASSERT_EQ(RndDecipher(text, table, {}), SlowlyDeciphered(text, table));
-  }
-  EXPECT_EQ(RndDecipher("AAAAAAAA", {}, {}), "");  // no depth
+// required: the last of twins counts, unknown digits repeat the character before, a rest may lie anywhere in a code
+TEST(RndCipher, DeciphersByADamagedTable) {
+  CipherTable table{{"01", "01", "110"}, 2, {}, "A", {}};
+  const std::pair<std::string_view, std::string_view> cases[] = {
+      {"AX", "B"}, {"A\n", "B"}, {"XXXA", "CC"}, {"AAAX", "B"}, {"AXAA", "BB"}, {"AXA", "BC"}, {"", ""}};
+  for (const auto& [text, expected] : cases) EXPECT_EQ(RndDecipher(text, table, {}), expected) << text;
+  table.depth = 0;
+  EXPECT_EQ(RndDecipher("AX", table, {}), "");
 }
 
 TEST(TableFile, IsItsFieldsToTheByteAndEmptyFromADamageOn) {
