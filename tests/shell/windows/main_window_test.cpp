@@ -247,7 +247,13 @@ TEST_F(MainWindowTest, PanelFourCatchesUpWithAClipboardThatChangedMeanwhile) {
 // required: the items are only as fresh as the last tick. Their keys needn't wait for the next one.
 TEST_F(MainWindowTest, KeysOfGreyItemsGoByTheStateOfNow) {
   timer.Tick();
+  int found = 0;
+  editor.commands.Add("mnufind", [&found] { ++found; });
+  Press(Qt::Key_F5);  // of a grey menu
+  EXPECT_EQ(found, 0);
   editor.text.SetText("abc");
+  Press(Qt::Key_F5);
+  EXPECT_EQ(found, 1);
   Press(Qt::Key_K, Qt::ControlModifier);
   EXPECT_EQ(platform.clipboard, std::nullopt);  // nothing is selected
   Press(Qt::Key_A, Qt::ControlModifier);        // without a command here, and the box's own key no more
