@@ -17,9 +17,13 @@ class EditorTest(EditorCase):
         # Keys of the menus, not of the text box: bold, centre, "@".
         self.work(f'ctrl+End Return "text" [{clean}*] ctrl+t ctrl+c ctrl+z')
         expected = BYTES + "\r\ntext<B>Tučně</B><CENTER> Centrovaný text </CENTER>@<HR>".encode("cp1250")
-        # The Enter that ends a dialog is none for the text, however long it is held.
-        self.work("ctrl+h [Html horizontální čára]")
-        self.command("xdotool", "keydown", "Return", "sleep", "1.2", "keyup", "Return")
+        # The Enter that ends a dialog or leads to a question is none for what comes up, however long it is held.
+        with self.busy_processors():
+            for steps, after in (("ctrl+h [Html horizontální čára]", f"{clean}*"), ("alt+s", "Nový")):
+                self.work(steps)
+                self.command("xdotool", "keydown", "Return", "sleep", "1.2", "keyup", "Return")
+                self.wait_window(after)
+        self.work("[Nový] Escape /")
         self.work(f'alt+2 [Pelmar VEX ()] "second" [Pelmar VEX ()*] alt+1 [{clean}*]')
         self.save_over()
         self.work(f"[{clean}]")

@@ -111,6 +111,14 @@ class EditorCase(unittest.TestCase):
                 self.command("xdotool", "key", "--clearmodifiers", step["key"])
         return awaited[-1] if awaited else None
 
+    @contextlib.contextmanager
+    def busy_processors(self):
+        loops = [subprocess.Popen([sys.executable, "-c", "while True: pass"]) for _ in range(os.cpu_count())]
+        yield
+        for loop in loops:
+            loop.kill()
+            loop.wait()
+
     def save_over(self):
         """Ulož with its default button, and Yes to its question."""
         self.work("ctrl+u [Uložit] Return [Soubor] Return / /")

@@ -2,6 +2,7 @@
 
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QPushButton>
 #include <QWidget>
 #include <utility>
 
@@ -18,6 +19,9 @@ KeyPreview::KeyPreview(QWidget& window, std::function<Preview(const QKeyEvent&)>
     widget->installEventFilter(this);
     // Or nothing would compose letters while a button has the keyboard.
     widget->setAttribute(Qt::WA_InputMethodEnabled);
+    // A held Enter goes on to the window too, but presses a button only once.
+    if (!qobject_cast<QPushButton*>(widget))
+      widget->setInputMethodHints(widget->inputMethodHints() | Qt::ImhMultiLine);
   }
 }
 

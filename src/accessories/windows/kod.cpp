@@ -94,8 +94,10 @@ Preview Kod::TypedKey(const QKeyEvent& event) {
   const auto character = TypedCharacter(event);
   if (!character || !ui_->Option1->isChecked()) return Preview::kPass;
   const QWidget* focus = focusWidget();
-  // Keys that work a control of this window stay with it: the space bar on buttons, Enter on a cell.
+  // Keys that work a control of this window stay with it: the space bar on buttons and options, Enter on buttons and
+  // on a cell.
   if (*character == ' ' && qobject_cast<const QAbstractButton*>(focus)) return Preview::kPass;
+  if (*character == '\r' && qobject_cast<const QPushButton*>(focus)) return Preview::kPass;
   if (*character == '\r' && focus == ui_->Picture1 && ui_->Picture1->MarkedByKeys()) return Preview::kPass;
   stroke_main_(event);
   // required: a field that has the keyboard gets the key as well

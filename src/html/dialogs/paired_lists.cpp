@@ -48,7 +48,6 @@ void RemoveRow(QListWidget& list) {
 void RemoveByKey(QListWidget& list, QAbstractButton& remove) {
   auto* key = new QShortcut(QKeySequence(Qt::Key_Delete), &list);
   key->setContext(Qt::WidgetShortcut);
-  key->setAutoRepeat(false);
   QObject::connect(key, &QShortcut::activated, &remove, [&list, &remove] {
     if (SelectedRow(list) >= 0) remove.click();  // which takes the last row where none is
   });

@@ -1,23 +1,25 @@
 #include "platform/qt/application.h"
 
 #include <QKeyEvent>
+#include <QWidget>
 #include <cerrno>
 #include <new>
 
 namespace pelmar {
 
-// The Enter that has opened or closed a window is none for what has the keyboard now, however long it is held.
-bool Application::IsEnterFromElsewhere(const QObject& receiver, const QEvent& event) {
-  if (event.type() != QEvent::KeyPress || !receiver.isWidgetType()) return false;
-  const auto& key = static_cast<const QKeyEvent&>(event);
-  if (key.key() != Qt::Key_Return && key.key() != Qt::Key_Enter) return false;
-  if (!key.isAutoRepeat()) enter_went_to_ = &receiver;
-  return enter_went_to_ != &receiver;
+// Keys that the program itself hands on come from no keyboard, and always arrive.
+bool Application::HoldsBack(const QObject& receiver, QEvent& event) {
+  const bool key = event.type() == QEvent::KeyPress || event.type() == QEvent::KeyRelease ||
+                   event.type() == QEvent::ShortcutOverride;
+  if (!key || !event.spontaneous() || !receiver.isWidgetType()) return false;
+  if (!held_keys_.HoldsBack(static_cast<const QWidget&>(receiver), static_cast<QKeyEvent&>(event))) return false;
+  event.accept();  // or the toolkit would look for a shortcut of this key
+  return true;
 }
 
 bool Application::notify(QObject* receiver, QEvent* event) {
   try {
-    if (IsEnterFromElsewhere(*receiver, *event)) return true;
+    if (HoldsBack(*receiver, *event)) return true;
     return QApplication::notify(receiver, event);
   } catch (const RuntimeError& error) {
     if (!on_runtime_error) throw;

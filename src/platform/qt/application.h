@@ -2,9 +2,9 @@
 #pragma once
 
 #include <QApplication>
-#include <QPointer>
 #include <functional>
 
+#include "platform/qt/held_keys.h"
 #include "platform/runtime_error.h"
 
 namespace pelmar {
@@ -20,9 +20,9 @@ class Application : public QApplication {
   std::function<void(const RuntimeError&)> on_runtime_error;
 
  private:
-  bool IsEnterFromElsewhere(const QObject& receiver, const QEvent& event);
+  bool HoldsBack(const QObject& receiver, QEvent& event);
 
-  QPointer<const QObject> enter_went_to_;  // when it was pressed last
+  HeldKeys held_keys_;
 };
 
 // Ends the program with this status when the event at hand is over, also where its loop hasn't begun yet.

@@ -93,7 +93,7 @@ bool MainToolbar::eventFilter(QObject* watched, QEvent* event) {
   switch (key.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-      if (!key.isAutoRepeat()) button->click();
+      button->click();
       return true;
     case Qt::Key_Escape:
       Q_EMIT EscapePressed();

@@ -117,9 +117,14 @@ bool MenuBar::RunGrey(const QKeyEvent& keys, const std::function<MenuState()>& n
       {ItemsOfSelection(), &MenuState::has_selection}};
   for (const auto& [items, condition] : groups) {
     for (const std::string_view name : items) {
-      const QAction* action = Action(name);
-      if (action->isEnabled() || action->shortcut() != sequence || !(now().*condition)) continue;
-      commands_.Run(name);
+      QAction* grey = Action(name);
+      if (grey->isEnabled()) continue;
+      // The items of a grey menu are not grey themselves.
+      const QList<QAction*> in_it = grey->menu() != nullptr ? grey->menu()->actions() : QList<QAction*>{grey};
+      const auto of_keys = [&sequence](const QAction* item) { return item->shortcut() == sequence; };
+      const auto item = std::ranges::find_if(in_it, of_keys);
+      if (item == in_it.end() || !(now().*condition)) continue;
+      commands_.Run(Utf8FromQString((*item)->objectName()));
       return true;
     }
   }

@@ -31,8 +31,8 @@ class MenuBar : public QMenuBar {
   void Refresh();
   // Enables the groups of items that follow the state of the text; an item without a command stays disabled.
   void Apply(const MenuState& state);
-  // The grey of an item is only as fresh as the last Apply. Runs the command of a grey item of those groups whose keys
-  // these are, where the state of now, asked for only then, lets it. False where there is none.
+  // The grey of an item is only as fresh as the last Apply. Runs the command that has these keys and is grey, by itself
+  // or by its menu, but that the state `now` allows. Asks for that state only then. False when there is no such command.
   bool RunGrey(const QKeyEvent& keys, const std::function<MenuState()>& now) const;
 
  protected:

@@ -178,8 +178,10 @@ TEST_F(CharTableTest, ShowsCodesByNumberAndName) {
 TEST_F(CharTableTest, TypedKeysGoToTheMainWindow) {
   text.SetText("abc");
   text.Select(0, 2);
-  Work(kod, "Picture1:'x \ryz\b'");
-  EXPECT_EQ(text.Text(), "x \r\nyc");  // typed over the selection, a whole line end, one character taken back
+  // Typed over the selection, a whole line end, one character taken back. Enter and the space bar press a button.
+  Work(kod, "Picture1:'x \ryz\b' HScroll1=65 Command3:'\r '");
+  ExpectState(kod, "", "Text1=AA");
+  EXPECT_EQ(text.Text(), "x \r\nyc");
   EXPECT_TRUE(text.Undo());
   EXPECT_EQ(text.Text(), "x \r\nyzc");
   // Enter on the cell that the arrow keys went to chooses it.

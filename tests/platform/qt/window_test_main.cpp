@@ -2,8 +2,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include <QApplication>
-
+#include "platform/qt/application.h"
 #include "platform/qt/program_style.h"
 #include "support/temp_folder.h"
 
@@ -18,7 +17,7 @@ int main(int argc, char** argv) {
     qputenv(variable, folder.c_str());
   }
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QApplication application(argc, argv);
+  const pelmar::Application application(argc, argv);
   QApplication::setStyle(new pelmar::ProgramStyle);
   return RUN_ALL_TESTS();
 }

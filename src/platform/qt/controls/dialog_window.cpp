@@ -146,7 +146,6 @@ bool DialogWindow::eventFilter(QObject* watched, QEvent* event) {
     if ((qobject_cast<QLineEdit*>(watched) || (box != nullptr && box->isEditable())) && IsAltCharacter(key))
       return true;
     if (act != on_enter_.end() && IsPlainEnter(key)) {
-      if (key.isAutoRepeat()) return true;
       act->second();
       return true;
     }
@@ -159,7 +158,6 @@ void DialogWindow::keyPressEvent(QKeyEvent* event) {
   const QString name = property("cancelButton").toString();
   auto* cancel = name.isEmpty() ? nullptr : findChild<QAbstractButton*>(name);
   if (cancel != nullptr && event->matches(QKeySequence::Cancel)) return cancel->click();
-  if (IsPlainEnter(*event) && event->isAutoRepeat()) return;  // held since it opened the dialog, perhaps
   // The toolkit would press the default button, whichever button the person has gone to.
   QWidget* focus = focusWidget();
   if (IsPlainEnter(*event) && (qobject_cast<QPushButton*>(focus) || qobject_cast<QToolButton*>(focus)))
