@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QScreen>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QWindow>
 #include <algorithm>
@@ -141,9 +142,14 @@ void MainWindow::ToggleAlwaysOnTop() {
 }
 
 void MainWindow::HideText(bool hide) {
+  QScrollBar* const across = text_->horizontalScrollBar();
+  QScrollBar* const down = text_->verticalScrollBar();
+  if (hide) scrolled_ = {across->value(), down->value()};
   text_->setVisible(!hide);
   text_->UseBuffer(hide ? nothing_ : editor_.text);
-  if (hide) bar_->Clear();  // until the next tick
+  if (hide) return bar_->Clear();  // until the next tick
+  across->setValue(scrolled_.x());
+  down->setValue(scrolled_.y());
 }
 
 LayoutInput MainWindow::Measures() const {
