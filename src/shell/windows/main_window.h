@@ -104,7 +104,6 @@ class MainWindow : public QMainWindow, public MainView {
   Placement placement_;
   bool fitted_ = false;  // from the first painting on
   bool ticked_ = false;  // panel 4 has got its width by a tick
-  bool laying_out_ = false;
   bool main_active_ = false;
 };
 

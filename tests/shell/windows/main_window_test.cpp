@@ -297,6 +297,12 @@ TEST_F(MainWindowTest, RecentMenuShowsAndOpensTheEntries) {
   EXPECT_EQ(Item("M3")->toolTip(), Utf8ToQString(deep));
   EXPECT_TRUE(Item("Recent")->menu()->toolTipsVisible());
   Item("M2")->trigger();
+  // Where the window is too low for both bars, it grows when they come back.
+  window.setMinimumSize(1, 1);
+  Work(window, "MnuTS! MnuSBS!");
+  window.resize(480, 30);
+  Work(window, "MnuTS! MnuSBS!");
+  EXPECT_GE(window.Bar().geometry().top(), window.Toolbar().geometry().bottom());
   EXPECT_EQ(editor.text.Text(), "1");
 }
 
