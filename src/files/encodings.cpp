@@ -78,8 +78,8 @@ std::string_view FormatHint(std::string_view bytes) {
   for (std::size_t at = bytes.find('\n'); at != std::string_view::npos; at = bytes.find('\n', at + 1))
     (at > 0 && bytes[at - 1] == '\r' ? whole : lone) = true;
   if (!lone) return {};
-  return whole ? "Část řádků souboru končí jen znakem LF. Převede je „Konverze dos - unix“ v nabídce Soubor."
-               : "Řádky souboru končí znakem LF. Převede je „Konverze dos - unix“ v nabídce Soubor.";
+  return whole ? "Část řádků končí jen LF. Převede je „Konverze dos - unix“ v nabídce Soubor."
+               : "Řádky končí jen LF. Převede je „Konverze dos - unix“ v nabídce Soubor.";
 }
 
 bool Utf8Survey::Take(std::string_view piece) {

@@ -22,9 +22,9 @@ std::string_view OutsideNotice(OutsideChange change) {
     case OutsideChange::kNone:
       return "";
     case OutsideChange::kWritten:
-      return "Soubor na disku se mezitím změnil";
+      return "Soubor se změnil na disku";
     case OutsideChange::kGone:
-      return "Soubor na disku už není";
+      return "Soubor zmizel z disku";
   }
   return "";
 }

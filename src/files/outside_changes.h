@@ -1,5 +1,5 @@
 // Which documents' files were written or taken away since they were opened or saved here, by another program or out of
-// another tab. Nothing is reloaded by itself: the person is told, and a save that asks says so too.
+// another tab. Nothing is reloaded by itself: the person is told in the status bar.
 #pragma once
 
 #include <array>

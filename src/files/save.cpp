@@ -49,9 +49,7 @@ void Saver::SaveStandard() {
 
 void Saver::SaveFast() {
   const std::string path = documents_.CurrentPath();
-  std::string question = "Opravdu uložit soubor?\r\n\"" + path + "\"";
-  if (const OutsideChange change = outside_.OfCurrent(); change != OutsideChange::kNone)
-    question.append("\r\n").append(OutsideNotice(change)).append("!");
+  const std::string question = "Opravdu uložit soubor?\r\n\"" + path + "\"";
   if (platform_.Message(MessageType::kYesNoWarning, question, "Soubor") != Answer::kYes) return;
   SaveToPath(path);
 }

@@ -31,7 +31,7 @@ class Saver {
   // The system's save dialog, then SaveToPath.
   void SaveStandard();
 
-  // Saves to the current path after a question of its own, which says where the file was changed meanwhile.
+  // Saves to the current path after a question of its own.
   void SaveFast();
 
   // The system's open dialog, then the file's first field over the selection.
