@@ -73,4 +73,7 @@ bool IsUtf8(std::string_view bytes);
 // True for well-formed UTF-8 that isn't ASCII alone: what a text of another encoding practically never is.
 bool LooksLikeUtf8(std::string_view bytes);
 
+// True where the string holds characters of several bytes in UTF-8 and also bytes that are no UTF-8.
+bool MixesEncodings(std::string_view bytes);
+
 }  // namespace pelmar

@@ -202,6 +202,30 @@ TEST_F(FastSave, AsksTwiceAndKnowsWhatAnotherProgramDid) {
   EXPECT_EQ(change(), OutsideChange::kNone);
 }
 
+TEST_F(FastSave, AsksOnceBeforeTwoEncodingsGoOverAFileInUtf8) {
+  const std::string mix = Asked(276, MixQuestion("/a.txt"));
+  platform.files = {{"/a.txt", "\xC5\xBE"}, {"/page.txt", "\x9E"}};
+  editor.opener.OpenPath("/a.txt");
+  editor.text.Type("a");
+  EXPECT_EQ(Said({kNo}), ask);  // still UTF-8
+  editor.text.Type("\x9E");
+  EXPECT_EQ(Said({kNo}), mix);
+  EXPECT_EQ(Said({kYes, kYes, kNo}), mix + ask + overwrite);
+  EXPECT_EQ(Said({kYes, kYes}), ask + overwrite + written);
+  EXPECT_EQ(Said({kNo}), ask);
+  platform.files["/a.txt"] = "\xC5\xBE";  // converted meanwhile
+  platform.answers = {kNo};
+  editor.saver.SaveToPath("/a.txt");
+  EXPECT_EQ(platform.TakeTold(), mix);
+  editor.saver.SaveToPath("/new.txt");  // spoils no file
+  platform.answers = {kYes};
+  editor.saver.SaveToPath("/page.txt");
+  editor.text.SetText("\x9E");
+  platform.answers = {kYes};
+  editor.saver.SaveToPath("/a.txt");
+  EXPECT_EQ(platform.files["/a.txt"], "\x9E");
+}
+
 TEST(InsertFromFile, ReadsOneField) {
   const std::pair<std::string_view, std::string_view> cases[] = {
       {" \t abc \t,def", "abc"},

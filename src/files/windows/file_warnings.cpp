@@ -66,8 +66,13 @@ void FileWarnings::WarnOfName() {
 
 void FileWarnings::WarnOfFormat(bool changed) {
   const std::string& text = documents_.Text().Text();
-  const bool shown = !changed && !documents_.CurrentPath().empty();
-  window_.Bar().Warn(Warning::kFormat, shown ? Utf8ToQString(FormatHint(text)) : QString());
+  std::string_view hint;
+  if (outside_.CurrentWasUtf8() && MixesEncodings(text)) {
+    hint = MixHint();
+  } else if (!changed && !documents_.CurrentPath().empty()) {
+    hint = FormatHint(text);
+  }
+  window_.Bar().Warn(Warning::kFormat, Utf8ToQString(hint));
 }
 
 void FileWarnings::WarnOfLength() {

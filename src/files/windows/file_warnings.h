@@ -1,5 +1,5 @@
-// Hints in the status bar at what is wrong with the document's text and its file. That the text is too long
-// stands for as long as it is so. That the file was changed, is in UTF-8 or has other line ends stands
+// Hints in the status bar at what is wrong with the document's text and its file. That the text is too long or mixes
+// two encodings stands for as long as it is so. That the file was changed, is in UTF-8 or has other line ends stands
 // until the text is changed.
 #pragma once
 

@@ -212,6 +212,9 @@ TEST_F(MainWindowTest, TheBarWarnsOfTheGravestThatHolds) {
       {[this] { editor.opener.OpenPath("/u.txt"); }, std::string(FormatHint("\xC5\xBE"))},
       {[this] { editor.text.Type("z"); }, ""},
       {[this] { editor.documents.SwitchTo(3), editor.documents.SwitchTo(1); }, std::string(FormatHint("\xC5\xBE"))},
+      {[this] { editor.text.Type("\x9E"); }, std::string(MixHint())},
+      {[this] { editor.commands.Run("Mnu_SaveFast"); }, std::string(MixHint())},
+      {[this] { editor.text.Undo(); }, ""},
       {[this] { platform.files["/u.txt"] = "theirs", LeaveAndReturn(); }, kTheirs},
       {[this] { editor.text.Replace(0, 0, std::string(64'000, 'x')); }, kTooLong},
       {[this] { editor.text.Undo(); }, ""},
@@ -222,7 +225,7 @@ TEST_F(MainWindowTest, TheBarWarnsOfTheGravestThatHolds) {
   platform.files["/a.txt"] = platform.files["/README"] = "x";
   platform.files["/u.txt"] = "\xC5\xBE";
   platform.opens = {"/README"};
-  platform.answers.assign(2, Answer::kYes);  // to the saves; required: what is stuck is told by the bar alone
+  platform.answers.assign(5, Answer::kYes);  // to the saves; required: what is stuck is told by the bar alone
   platform.answers.push_back(Answer::kOk);
   const auto* warning = window.findChild<QLabel*>(QStringLiteral("Warning"));
   for (std::size_t i = 0; i < std::size(steps); ++i) {
