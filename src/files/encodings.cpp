@@ -78,8 +78,22 @@ std::string_view FormatHint(std::string_view bytes) {
   for (std::size_t at = bytes.find('\n'); at != std::string_view::npos; at = bytes.find('\n', at + 1))
     (at > 0 && bytes[at - 1] == '\r' ? whole : lone) = true;
   if (!lone) return {};
-  return whole ? "Část řádků souboru končí jen znakem LF. Převede je „Konverze dos - unix“ v nabídce Soubor."
-               : "Řádky souboru končí znakem LF. Převede je „Konverze dos - unix“ v nabídce Soubor.";
+  return whole ? "Část řádků končí jen LF. Převede je „Konverze dos - unix“ v nabídce Soubor."
+               : "Řádky končí jen LF. Převede je „Konverze dos - unix“ v nabídce Soubor.";
+}
+
+std::string_view MixHint() {
+  return "Text míchá UTF-8 a Windows-1250. Vraťte změny zpět a soubor napřed převeďte: „Konverze dos - unix“ "
+         "v nabídce Soubor.";
+}
+
+std::string MixQuestion(const std::string& path) {
+  return "Soubor " + path +
+         " je v UTF-8, ale v textu jsou už i písmena ve Windows-1250.\r\n"
+         "Uložený soubor by nešel celý přečíst ani převést.\r\n\r\n"
+         "Napřed ho převeďte: nabídka Soubor, Konverze dos - unix, tlačítko UTF-8 --> 1250. "
+         "Pište pak do výsledku.\r\n\r\n"
+         "Přesto uložit ?";
 }
 
 bool Utf8Survey::Take(std::string_view piece) {

@@ -15,6 +15,10 @@ namespace pelmar {
 // What a person is told of a text of other systems that is opened: in UTF-8, or else with LF for line ends. UTF-8;
 // "" for all other texts.
 std::string_view FormatHint(std::string_view bytes);
+// The same of a text that came from a file in UTF-8 and has got bytes in Windows-1250 since.
+std::string_view MixHint();
+// What a person is asked before such a text is written over the file at `path`, which is still in UTF-8.
+std::string MixQuestion(const std::string& path);
 
 // Where in a file something stands, each counted from 1. CR LF, CR and LF end a line; columns are characters, a byte
 // order mark is none.

@@ -5,6 +5,7 @@
 
 #include "platform/paths.h"
 #include "platform/runtime_error.h"
+#include "text/utf8.h"
 
 namespace pelmar {
 
@@ -28,7 +29,7 @@ void Opener::OpenPath(const std::string& path) {
     return;
   }
   file_number_.Open();
-  outside_.Note(path, stamp);
+  outside_.Note(path, stamp, LooksLikeUtf8(file.bytes));
   documents_.MakeCurrent(path, std::move(file.bytes));  // required: its error leaves file number 1 open
   recent_.Remember(path);
   file_number_.Close();

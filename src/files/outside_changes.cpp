@@ -2,19 +2,27 @@
 
 namespace pelmar {
 
-void OutsideChanges::Note(const std::string& path, const std::optional<FileStamp>& stamp) {
-  auto& known = known_[static_cast<std::size_t>(documents_.SelectedTab() - 1)];
-  known.reset();
-  if (stamp) known = {path, *stamp};
+void OutsideChanges::Note(const std::string& path, const std::optional<FileStamp>& stamp, bool utf8) {
+  known_[static_cast<std::size_t>(documents_.SelectedTab() - 1)] = {path, stamp, utf8};
 }
 
 OutsideChange OutsideChanges::OfCurrent() const {
-  const auto& known = known_[static_cast<std::size_t>(documents_.SelectedTab() - 1)];
-  // A document that was emptied or came back after a crash has no file, or another one.
-  if (!known || known->path != documents_.CurrentPath()) return OutsideChange::kNone;
+  const Known* known = OfCurrentPath();
+  if (known == nullptr || !known->stamp) return OutsideChange::kNone;
   const auto now = platform_.Stamp(known->path);
   if (!now) return OutsideChange::kGone;
-  return *now == known->stamp ? OutsideChange::kNone : OutsideChange::kWritten;
+  return *now == *known->stamp ? OutsideChange::kNone : OutsideChange::kWritten;
+}
+
+bool OutsideChanges::CurrentWasUtf8() const {
+  const Known* known = OfCurrentPath();
+  return known != nullptr && known->utf8;
+}
+
+// A document that was emptied or came back after a crash has no file, or another one.
+const OutsideChanges::Known* OutsideChanges::OfCurrentPath() const {
+  const Known& known = known_[static_cast<std::size_t>(documents_.SelectedTab() - 1)];
+  return known.path == documents_.CurrentPath() ? &known : nullptr;
 }
 
 std::string_view OutsideNotice(OutsideChange change) {
@@ -22,9 +30,9 @@ std::string_view OutsideNotice(OutsideChange change) {
     case OutsideChange::kNone:
       return "";
     case OutsideChange::kWritten:
-      return "Soubor na disku se mezitím změnil";
+      return "Soubor se změnil na disku";
     case OutsideChange::kGone:
-      return "Soubor na disku už není";
+      return "Soubor zmizel z disku";
   }
   return "";
 }

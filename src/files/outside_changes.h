@@ -1,5 +1,5 @@
-// Which documents' files were written or taken away since they were opened or saved here, by another program or out of
-// another tab. Nothing is reloaded by itself: the person is told, and a save that asks says so too.
+// What is known of the documents' files: whether another program, or another tab, wrote or removed one since it was
+// opened or saved here, and whether it was in UTF-8. Nothing is reloaded: the person is told in the status bar.
 #pragma once
 
 #include <array>
@@ -18,21 +18,26 @@ class OutsideChanges {
  public:
   OutsideChanges(const Documents& documents, Platform& platform) : documents_(documents), platform_(platform) {}
 
-  // The current document is what this file holds. `stamp` is the file's from before it was read, or behind the write.
-  void Note(const std::string& path, const std::optional<FileStamp>& stamp);
+  // The current document is what this file holds. `stamp` was taken before the file was read, or after it was written;
+  // `utf8` says that the text came from a file in UTF-8.
+  void Note(const std::string& path, const std::optional<FileStamp>& stamp, bool utf8);
 
   // Asks the disk about the current document's file; kNone where that was neither opened nor saved here.
   [[nodiscard]] OutsideChange OfCurrent() const;
+  // True where the current document came from a file in UTF-8.
+  [[nodiscard]] bool CurrentWasUtf8() const;
 
  private:
   struct Known {
     std::string path;
-    FileStamp stamp;
+    std::optional<FileStamp> stamp;
+    bool utf8 = false;
   };
+  [[nodiscard]] const Known* OfCurrentPath() const;
 
   const Documents& documents_;
   Platform& platform_;
-  std::array<std::optional<Known>, kTabCount> known_;
+  std::array<Known, kTabCount> known_;
 };
 
 // What a person is told of it, UTF-8; "" for kNone.

@@ -1,5 +1,6 @@
 #include "files/save.h"
 
+#include "files/encodings.h"
 #include "files/open.h"
 #include "platform/paths.h"
 #include "platform/runtime_error.h"
@@ -11,11 +12,13 @@ Saver::Saver(Documents& documents, RecentFiles& recent, OutsideChanges& outside,
     : documents_(documents), recent_(recent), outside_(outside), platform_(platform), file_number_(file_number) {}
 
 void Saver::SaveToPath(const std::string& path) {
-  if (!MayWrite(path)) return;
+  if (!MayMixEncodings(path) || !MayWrite(path)) return;
   try {
-    const WriteOutcome outcome = Write(path, documents_.Text().Text());
+    const std::string& text = documents_.Text().Text();
+    const WriteOutcome outcome = Write(path, text);
     if (outcome.error != 0) return TellError(path, outcome);
-    outside_.Note(path, platform_.Stamp(path));
+    agreed_to_mix_.clear();
+    outside_.Note(path, platform_.Stamp(path), outside_.CurrentWasUtf8() || LooksLikeUtf8(text));
     documents_.MakeCurrent(path);
     recent_.Remember(path);
   } catch (const RuntimeError& error) {
@@ -49,9 +52,8 @@ void Saver::SaveStandard() {
 
 void Saver::SaveFast() {
   const std::string path = documents_.CurrentPath();
-  std::string question = "Opravdu uložit soubor?\r\n\"" + path + "\"";
-  if (const OutsideChange change = outside_.OfCurrent(); change != OutsideChange::kNone)
-    question.append("\r\n").append(OutsideNotice(change)).append("!");
+  if (!MayMixEncodings(path)) return;
+  const std::string question = "Opravdu uložit soubor?\r\n\"" + path + "\"";
   if (platform_.Message(MessageType::kYesNoWarning, question, "Soubor") != Answer::kYes) return;
   SaveToPath(path);
 }
@@ -68,6 +70,14 @@ void Saver::InsertFromFile() {
     recent_.Remember(*path);
   } catch (const RuntimeError&) {  // required: the command ends in silence
   }
+}
+
+bool Saver::MayMixEncodings(const std::string& path) {
+  if (path == agreed_to_mix_ || !MixesEncodings(documents_.Text().Text())) return true;
+  if (!LooksLikeUtf8(platform_.ReadFile(path, std::nullopt).bytes)) return true;
+  if (platform_.Message(MessageType::kYesNoStop, MixQuestion(path), "Soubor") != Answer::kYes) return false;
+  agreed_to_mix_ = path;
+  return true;
 }
 
 bool Saver::MayWrite(const std::string& path) {

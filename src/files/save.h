@@ -31,13 +31,15 @@ class Saver {
   // The system's save dialog, then SaveToPath.
   void SaveStandard();
 
-  // Saves to the current path after a question of its own, which says where the file was changed meanwhile.
+  // Saves to the current path after a question of its own.
   void SaveFast();
 
   // The system's open dialog, then the file's first field over the selection.
   void InsertFromFile();
 
  private:
+  // Asks, once for each file, before a text of two encodings is written over a file that is in UTF-8.
+  bool MayMixEncodings(const std::string& path);
   bool MayWrite(const std::string& path);
   WriteOutcome Write(const std::string& path, std::string_view text);
   void TellError(const std::string& path, const WriteOutcome& outcome);
@@ -47,6 +49,7 @@ class Saver {
   OutsideChanges& outside_;
   Platform& platform_;
   FileNumber& file_number_;
+  std::string agreed_to_mix_;  // the path of the file that MayMixEncodings was answered Yes for
 };
 
 // What a person is asked before a file that is there is written over, UTF-8.

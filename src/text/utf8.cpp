@@ -35,4 +35,13 @@ bool LooksLikeUtf8(std::string_view bytes) {
   return !std::all_of(bytes.begin(), bytes.end(), is_ascii) && IsUtf8(bytes);
 }
 
+bool MixesEncodings(std::string_view bytes) {
+  bool characters = false, others = false;
+  for (std::size_t at = 0; at < bytes.size() && !(characters && others);) {
+    const char32_t character = DecodeUtf8(bytes, at);
+    (character == kMalformedUtf8 ? others : characters) |= character >= 0x80;
+  }
+  return characters && others;
+}
+
 }  // namespace pelmar

@@ -74,4 +74,7 @@ bool IsUtf8(std::string_view bytes);
 // Whether the bytes are well-formed UTF-8 with a character beyond ASCII. Text in another encoding hardly ever is.
 bool LooksLikeUtf8(std::string_view bytes);
 
+// True where the string holds characters of several bytes in UTF-8 and also bytes that are no UTF-8.
+bool MixesEncodings(std::string_view bytes);
+
 }  // namespace pelmar

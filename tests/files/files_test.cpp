@@ -159,36 +159,71 @@ TEST_F(FilesTest, ANameWithoutDotIsAnErrorElsewhereAndLeavesTheNumberTaken) {
   EXPECT_EQ(platform.files["/b.txt"], "b");
 }
 
-TEST_F(FilesTest, AFastSaveAsksTwiceAndSaysWhatAnotherProgramDid) {
-  const std::string ask = "message 52 \"Opravdu uložit soubor?\r\n\"/a.txt\"", to_end = "\" \"Soubor\"; ";
-  const std::string written = "\r\nSoubor na disku se mezitím změnil!", gone = "\r\nSoubor na disku už není!";
-  const auto said = [&](Answer answer) {
+struct FastSave : FilesTest {
+  const std::string ask = Asked(52, "Opravdu uložit soubor?\r\n\"/a.txt\"");
+  const std::string overwrite = Asked(52, "Opravdu uložit /a.txt?\r\nSoubor již existuje a bude přepsán!");
+  const std::string written = "write /a.txt; recent /a.txt; ";
+
+  static std::string Asked(int type, const std::string& question) {
+    return "message " + std::to_string(type) + " \"" + question + "\" \"Soubor\"; ";
+  }
+  std::string Said(const std::deque<Answer>& answers) {
     platform.TakeCalls();
-    platform.answers.assign(2, answer);
+    platform.answers = answers;
     editor.commands.Run("Mnu_SaveFast");
+    EXPECT_TRUE(platform.answers.empty());
     return platform.TakeTold();
-  };
+  }
+};
+
+TEST_F(FastSave, AsksTwiceAndKnowsWhatAnotherProgramDid) {
+  const auto change = [this] { return editor.files.outside.OfCurrent(); };
   editor.text.SetText("mine");
   editor.saver.SaveToPath("/a.txt");
-  EXPECT_EQ(said(kNo), ask + to_end);
+  EXPECT_EQ(change(), OutsideChange::kNone);
   platform.files["/a.txt"] = "their";
-  EXPECT_EQ(said(kNo), ask + written + to_end);
+  EXPECT_EQ(change(), OutsideChange::kWritten);
   documents.SwitchTo(2);  // each document has its own
-  EXPECT_EQ(editor.files.outside.OfCurrent(), OutsideChange::kNone);
+  EXPECT_EQ(change(), OutsideChange::kNone);
   editor.opener.OpenPath("/a.txt");
-  EXPECT_EQ(said(kNo), ask + to_end);
+  EXPECT_EQ(Said({kNo}), ask);
   documents.SwitchTo(1);
   int asked = 0;
   platform.on_message = [&] { editor.text.Type(std::to_string(++asked)); };
-  said(kYes);
+  EXPECT_EQ(Said({kYes, kYes}), ask + overwrite + written);
   EXPECT_EQ(platform.files["/a.txt"], "12mine");  // as it is when the second question is answered
   EXPECT_EQ(StateOf(documents), "(/a.txt)|a.txt|/a.txt|/a.txt|0");
   platform.files.erase("/a.txt");
-  EXPECT_EQ(said(kYes), ask + gone + to_end + "write /a.txt; recent /a.txt; ");
-  EXPECT_EQ(editor.files.outside.OfCurrent(), OutsideChange::kNone);
+  EXPECT_EQ(change(), OutsideChange::kGone);
+  EXPECT_EQ(Said({kYes}), ask + written);
+  EXPECT_EQ(change(), OutsideChange::kNone);
   platform.files["/a.txt"] = "their";
   documents.ClearCurrent();
-  EXPECT_EQ(editor.files.outside.OfCurrent(), OutsideChange::kNone);
+  EXPECT_EQ(change(), OutsideChange::kNone);
+}
+
+TEST_F(FastSave, AsksOnceBeforeTwoEncodingsGoOverAFileInUtf8) {
+  const std::string mix = Asked(276, MixQuestion("/a.txt"));
+  platform.files = {{"/a.txt", "\xC5\xBE"}, {"/page.txt", "\x9E"}};
+  editor.opener.OpenPath("/a.txt");
+  editor.text.Type("a");
+  EXPECT_EQ(Said({kNo}), ask);  // still UTF-8
+  editor.text.Type("\x9E");
+  EXPECT_EQ(Said({kNo}), mix);
+  EXPECT_EQ(Said({kYes, kYes, kNo}), mix + ask + overwrite);
+  EXPECT_EQ(Said({kYes, kYes}), ask + overwrite + written);
+  EXPECT_EQ(Said({kNo}), ask);
+  platform.files["/a.txt"] = "\xC5\xBE";  // converted meanwhile
+  platform.answers = {kNo};
+  editor.saver.SaveToPath("/a.txt");
+  EXPECT_EQ(platform.TakeTold(), mix);
+  editor.saver.SaveToPath("/new.txt");  // spoils no file
+  platform.answers = {kYes};
+  editor.saver.SaveToPath("/page.txt");
+  editor.text.SetText("\x9E");
+  platform.answers = {kYes};
+  editor.saver.SaveToPath("/a.txt");
+  EXPECT_EQ(platform.files["/a.txt"], "\x9E");
 }
 
 TEST(InsertFromFile, ReadsOneField) {
@@ -236,7 +271,7 @@ TEST(LineEnds, EqualASlowWalkThroughRandomTexts) {
 
 TEST(Encodings, OfOtherSystemsAreTold) {
   const std::pair<std::string_view, std::string_view> cases[] = {
-      {"\xC5\xBE\n", "Soubor je v UTF-8"}, {"\na", "Řádky souboru"}, {"a\r\n\n", "Část řádků"}, {"\xBE\r\na\r", ""}};
+      {"\xC5\xBE\n", "Soubor je v UTF-8"}, {"\na", "Řádky končí"}, {"a\r\n\n", "Část řádků"}, {"\xBE\r\na\r", ""}};
   for (const auto& [text, told] : cases) {
     EXPECT_TRUE(FormatHint(text).starts_with(told)) << text;
     EXPECT_EQ(FormatHint(text).empty(), told.empty()) << text;

@@ -4,19 +4,25 @@
 
 #include "files/encodings.h"
 #include "files/open.h"
+#include "platform/paths.h"
 #include "platform/qt/convert.h"
 
 namespace pelmar {
 namespace {
 
+constexpr QStringView kNoExtension =
+    u"Jméno bez přípony: znovu otevřít soubor nepůjde. „Ulož jako ...“ v nabídce Soubor příponu přidá.";
+
 QString TooLong(std::size_t size) {
-  return QStringLiteral("Text má %1 znaků, znovu otevřít jich lze nejvýše %2").arg(size).arg(kLargestDocument);
+  return QStringLiteral("Příliš dlouhý text: má %1 znaků, znovu otevřít jich lze nejvýše %2")
+      .arg(size)
+      .arg(kLargestDocument);
 }
 
 }  // namespace
 
-// The file is asked about where the person comes back to it, never while they type. Another file on the tab, opened or
-// saved, is this program's own doing.
+// The disk is asked about the file when the main window gets or loses the keyboard, as it does to a question, and never
+// while the person types. Another file on the tab, opened or saved, is this program's own doing.
 FileWarnings::FileWarnings(MainWindow& window, Editor& editor, const OutsideChanges& outside)
     : QObject(&window),
       window_(window),
@@ -24,23 +30,27 @@ FileWarnings::FileWarnings(MainWindow& window, Editor& editor, const OutsideChan
       outside_(outside),
       heard_{editor.documents.tab_selected.Add([this](int) {
                WarnOfOutside(outside_.OfCurrent());
-               WarnOfFormat();
+               WarnOfName();
+               WarnOfFormat(false);
              }),
              editor.documents.face_changed.Add([this](int) {
                WarnOfOutside(OutsideChange::kNone);
-               WarnOfFormat();
+               WarnOfName();
+               WarnOfFormat(false);
              }),
              editor.text.OnChange([this](const TextChange&) {
                WarnOfOutside(OutsideChange::kNone);
-               window_.Bar().Warn(Warning::kFormat, {});
-               const std::size_t size = documents_.Text().Size();
-               window_.Bar().Warn(Warning::kTooLong, size > kLargestDocument ? TooLong(size) : QString());
+               WarnOfFormat(true);
+               WarnOfLength();
              })} {
   window.installEventFilter(this);
 }
 
 bool FileWarnings::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::WindowActivate) WarnOfOutside(outside_.OfCurrent());
+  if (event->type() == QEvent::WindowActivate || event->type() == QEvent::WindowDeactivate) {
+    WarnOfOutside(outside_.OfCurrent());
+    WarnOfName();
+  }
   return QObject::eventFilter(watched, event);
 }
 
@@ -48,9 +58,26 @@ void FileWarnings::WarnOfOutside(OutsideChange change) {
   window_.Bar().Warn(Warning::kChangedOutside, Utf8ToQString(OutsideNotice(change)));
 }
 
-void FileWarnings::WarnOfFormat() {
-  const bool from_file = !documents_.CurrentPath().empty();
-  window_.Bar().Warn(Warning::kFormat, from_file ? Utf8ToQString(FormatHint(documents_.Text().Text())) : QString());
+void FileWarnings::WarnOfName() {
+  const std::string& path = documents_.CurrentPath();
+  const bool lacks = !path.empty() && !HasExtension(path);
+  window_.Bar().Warn(Warning::kNoExtension, lacks ? kNoExtension.toString() : QString());
+}
+
+void FileWarnings::WarnOfFormat(bool changed) {
+  const std::string& text = documents_.Text().Text();
+  std::string_view hint;
+  if (outside_.CurrentWasUtf8() && MixesEncodings(text)) {
+    hint = MixHint();
+  } else if (!changed && !documents_.CurrentPath().empty()) {
+    hint = FormatHint(text);
+  }
+  window_.Bar().Warn(Warning::kFormat, Utf8ToQString(hint));
+}
+
+void FileWarnings::WarnOfLength() {
+  const std::size_t size = documents_.Text().Size();
+  window_.Bar().Warn(Warning::kTooLong, size > kLargestDocument ? TooLong(size) : QString());
 }
 
 }  // namespace pelmar

@@ -1,7 +1,6 @@
-// Warns in the status bar of a text that could be saved but not opened again, for as long as it is that long, and of
-// the file of the document on show, until the person works on: that it was changed meanwhile, when the main window
-// becomes active and when its tab comes on show; that its encoding or its line ends are those of other systems, when it
-// is opened or saved and when its tab comes on show.
+// Hints in the status bar at what is wrong with the document's text and its file. That the text is too long or mixes
+// two encodings stands for as long as it is so. That the file was changed, is in UTF-8 or has other line ends stands
+// until the text is changed.
 #pragma once
 
 #include <QObject>
@@ -25,7 +24,9 @@ class FileWarnings : public QObject {
 
  private:
   void WarnOfOutside(OutsideChange change);
-  void WarnOfFormat();
+  void WarnOfName();
+  void WarnOfFormat(bool changed);
+  void WarnOfLength();
 
   MainWindow& window_;
   const Documents& documents_;

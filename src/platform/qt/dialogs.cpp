@@ -185,13 +185,6 @@ QStringList NameFilters(const QString& filter) {
   return result;
 }
 
-// ".txt" for a name that was typed without one while that kind of files was chosen.
-QString MeantExtension(const QString& name, const QString& name_filter) {
-  const QString pattern = name_filter.section(u'(', -1).chopped(1);
-  return !name.contains(u'.') && pattern.startsWith(QLatin1String("*.")) && !pattern.contains(u' ') ? pattern.mid(1)
-                                                                                                    : QString();
-}
-
 std::optional<QString> AskForFile(FileDialogKind kind, const QString& filter, int filter_index, QString& folder) {
   const QStringList filters = NameFilters(filter);
   Asking<FileDialog> dialog;
@@ -214,8 +207,7 @@ std::optional<QString> AskForFile(FileDialogKind kind, const QString& filter, in
   // By its URL, which a dialog of the desktop's own may fill with bytes that are no UTF-8.
   const QString path = PathToQString(PathOfUrl(dialog->selectedUrls().constFirst()));
   folder = QFileInfo(path).path();
-  const bool chosen = kind == FileDialogKind::kSave && filters.size() > 1;
-  return chosen ? path + MeantExtension(QFileInfo(path).fileName(), dialog->selectedNameFilter()) : path;
+  return path;
 }
 
 }  // namespace pelmar

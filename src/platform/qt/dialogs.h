@@ -21,12 +21,9 @@ std::optional<QString> AskForText(const QString& prompt, const QString& title, c
 enum class FileDialogKind { kOpen, kSave };
 
 // The file's path, nothing on cancel. `folder` is where the dialog starts ("" the current one) and becomes the chosen
-// file's. Saving asks nothing about an existing file. Filter and index are those of Platform::OpenDialog.
+// file's. Saving takes the name as it was typed and asks nothing about an existing file. Filter and index are those of
+// Platform::OpenDialog.
 std::optional<QString> AskForFile(FileDialogKind kind, const QString& filter, int filter_index, QString& folder);
-
-// What a name to save under lacks of the chosen one of several kinds of files: the extension, "" where it has one or
-// where the filter (of NameFilters) tells none.
-QString MeantExtension(const QString& name, const QString& name_filter);
 
 // "caption|*.a;*.b|caption|*.*" as the toolkit's list, one entry a pair. An unpaired caption at the end is dropped.
 QStringList NameFilters(const QString& filter);

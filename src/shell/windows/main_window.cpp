@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QScreen>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QWindow>
 #include <algorithm>
@@ -141,9 +142,14 @@ void MainWindow::ToggleAlwaysOnTop() {
 }
 
 void MainWindow::HideText(bool hide) {
+  QScrollBar* const across = text_->horizontalScrollBar();
+  QScrollBar* const down = text_->verticalScrollBar();
+  if (hide) scrolled_ = {across->value(), down->value()};
   text_->setVisible(!hide);
   text_->UseBuffer(hide ? nothing_ : editor_.text);
-  if (hide) bar_->Clear();  // until the next tick
+  if (hide) return bar_->Clear();  // until the next tick
+  across->setValue(scrolled_.x());
+  down->setValue(scrolled_.y());
 }
 
 LayoutInput MainWindow::Measures() const {
@@ -162,8 +168,6 @@ LayoutInput MainWindow::Measures() const {
 }
 
 void MainWindow::ApplyLayout() {
-  if (laying_out_) return;
-  laying_out_ = true;
   // While the window still comes to its size, each step is the first one, or a step of few pixels would make panel 4
   // alternate from the start on.
   if (!ticked_) bar_->SetWidth(4, 0);
@@ -179,8 +183,8 @@ void MainWindow::ApplyLayout() {
   tabs_->SetStripWidth(client_->width() - width);
   tabs_->setGeometry(0, top, out.tabs_width ? PixelsOf(*out.tabs_width) : tabs_->width(), height);
   if (out.panel4_width && placement_.FrameKnown()) bar_->SetWidth(4, *out.panel4_width);
+  // This lays all out once more, for the new height.
   if (out.grow_outer_height > 0) resize(this->width(), this->height() + PixelsOf(out.grow_outer_height));
-  laying_out_ = false;
 }
 
 void MainWindow::WidenContentPanel() {

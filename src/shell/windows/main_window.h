@@ -91,6 +91,7 @@ class MainWindow : public QMainWindow, public MainView {
   Files& files_;
   std::vector<Listening> heard_;
   TextBuffer nothing_;  // what the box shows while the text is hidden
+  QPoint scrolled_;     // where the text stood before it was hidden
   QWidget* client_ = nullptr;
   MenuBar* menus_ = nullptr;
   MainToolbar* toolbar_ = nullptr;
@@ -103,7 +104,6 @@ class MainWindow : public QMainWindow, public MainView {
   Placement placement_;
   bool fitted_ = false;  // from the first painting on
   bool ticked_ = false;  // panel 4 has got its width by a tick
-  bool laying_out_ = false;
   bool main_active_ = false;
 };
 

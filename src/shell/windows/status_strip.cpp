@@ -106,6 +106,7 @@ void StatusStrip::Warn(Warning of, const QString& text, const QString& tip) {
   const auto gravest = std::ranges::find_if(warnings_, [](const auto& one) { return !one.second.text.isEmpty(); });
   warning_->hide();
   if (gravest == warnings_.end()) return;
+  is_hint_ = gravest->first > Warning::kFilesStuck;
   const Said& said = gravest->second;
   warning_->setText(said.text);
   warning_->setToolTip(said.tip.isEmpty() ? said.text : said.tip);
@@ -165,6 +166,7 @@ void StatusStrip::Place() {
 
 void StatusStrip::PlaceWarning() {
   const QRect content = panels_[3]->geometry();
+  if (is_hint_) return warning_->setGeometry(content);
   const int wanted = warning_->sizeHint().width();
   const int most = width() - kGap;
   // In a narrow window it covers the panels of the keys too.

@@ -37,10 +37,15 @@ class StatusPanel : public ElidedLabel {
   std::string content_;
 };
 
-// What the bar warns of, the gravest first: unsaved work can't be kept in a rescue file; no file can be opened or
-// saved; the text is longer than what can be opened; the file of the document was changed meanwhile; that file is in
-// UTF-8 or has other line ends.
-enum class Warning { kUnkept, kFilesStuck, kTooLong, kChangedOutside, kFormat };
+// What the bar warns of, the gravest first. The first two are warnings, the others mere hints.
+enum class Warning {
+  kUnkept,          // unsaved work can't be kept in a rescue file
+  kFilesStuck,      // no file can be opened or saved
+  kTooLong,         // the text is longer than what can be opened
+  kNoExtension,     // the document's file can't be opened by its name
+  kChangedOutside,  // the document's file was changed or removed since it was opened or saved
+  kFormat,          // the document's file is in UTF-8 or has the line ends of another system
+};
 
 class StatusStrip : public QStatusBar {
   Q_OBJECT
@@ -55,8 +60,8 @@ class StatusStrip : public QStatusBar {
   void Clear();
   [[nodiscard]] bool Cleared() const { return cleared_; }
   void Show(const KeyStates& keys);
-  // "" where there is no more to warn of. One line over the panels, which go on beneath, says the gravest; from the
-  // fourth to the left, it covers as many as it needs. The tip says what there is more to say.
+  // Shows the gravest of the warnings that have a text; "" takes one away. A hint covers panel 4 alone and is cut
+  // there; a warning covers as many panels as its text needs. The tip is the text where none is given.
   void Warn(Warning of, const QString& text, const QString& tip = {});
   // With the errno; 0 takes it away.
   void WarnOfUnkept(int error);
@@ -83,6 +88,7 @@ class StatusStrip : public QStatusBar {
     QString text, tip;
   };
   std::map<Warning, Said> warnings_;
+  bool is_hint_ = false;  // what `warning_` shows
 };
 
 }  // namespace pelmar

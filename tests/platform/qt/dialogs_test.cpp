@@ -65,15 +65,6 @@ TEST(InputBox, GivesTheTextOrNothing) {
   }
 }
 
-TEST(FileDialog, ANameGetsTheExtensionOfTheChosenKind) {
-  const QStringList kinds = NameFilters(QStringLiteral("Vše (*.*)|*.*|text (*.txt)|*.txt|html|*.htm;*.html"));
-  QString names;
-  for (const QString& kind : kinds)
-    for (const char* name : {"a", "a.b", ".c"})
-      names += QLatin1String(name) + MeantExtension(QLatin1String(name), kind) + u' ';
-  EXPECT_EQ(names, QStringLiteral("a a.b .c a.txt a.b .c a a.b .c "));
-}
-
 TEST(FileDialog, StartsWithTheGivenFilterAndRemembersTheFolder) {
   const TempFolder temp;
   const QFileInfo letter(Utf8ToQString(temp.Put("inner/Dopis.TXT", "x"))),
@@ -109,10 +100,17 @@ TEST(FileDialog, StartsWithTheGivenFilterAndRemembersTheFolder) {
     });
     QTest::keyClick(&dialog, Qt::Key_Return);
   };
+  // The name is taken as it was typed, whatever kind of files is chosen.
+  const auto save_nameless = [](QFileDialog& dialog) {
+    dialog.findChild<QLineEdit*>()->setText(QStringLiteral("README"));
+    QTest::keyClick(&dialog, Qt::Key_Return);
+  };
   EXPECT_EQ(ask(FileDialogKind::kOpen, 2, open), letter.filePath());
   EXPECT_EQ(folder, letter.path());
   EXPECT_EQ(ask(FileDialogKind::kOpen, 9, [](QFileDialog& dialog) { dialog.reject(); }), QStringLiteral("none"));
   EXPECT_EQ(ask(FileDialogKind::kSave, 1, save), letter.filePath());
+  for (const int index : {1, 2})
+    EXPECT_EQ(ask(FileDialogKind::kSave, index, save_nameless), letter.path() + QStringLiteral("/README"));
 }
 
 TEST(DialogWindow, IsCentredOnceAndKeepsItsPlace) {

@@ -193,8 +193,10 @@ TEST_F(MainWindowTest, TheBarWarnsOfTheGravestThatHolds) {
   new FileWarnings(window, editor, editor.files.outside);
   static constexpr char kUnkept[] = "Neuložená práce se teď nezachovává !";
   static constexpr char kStuck[] = "Soubory nelze otevírat ani ukládat, pomůže jen nový start programu";
-  static constexpr char kTooLong[] = "Text má 64003 znaků, znovu otevřít jich lze nejvýše 64000";
-  static constexpr char kTheirs[] = "Soubor na disku se mezitím změnil";
+  static constexpr char kTooLong[] = "Příliš dlouhý text: má 64003 znaků, znovu otevřít jich lze nejvýše 64000";
+  static constexpr char kTheirs[] = "Soubor se změnil na disku";
+  static constexpr char kNameless[] =
+      "Jméno bez přípony: znovu otevřít soubor nepůjde. „Ulož jako ...“ v nabídce Soubor příponu přidá.";
   const std::pair<std::function<void()>, std::string> steps[] = {
       {[this] { editor.opener.OpenPath("/a.txt"), LeaveAndReturn(); }, ""},
       {[this] { platform.files["/a.txt"] = "theirs", LeaveAndReturn(); }, kTheirs},
@@ -202,24 +204,35 @@ TEST_F(MainWindowTest, TheBarWarnsOfTheGravestThatHolds) {
       {[this] { editor.documents.SwitchTo(1); }, kTheirs},
       {[this] { editor.text.Type("z"); }, ""},  // which marks the title as well
       {[this] { LeaveAndReturn(); }, kTheirs},
-      {[this] { editor.commands.Run("Mnu_SaveFast"); }, ""},  // the file is this program's again
+      {[this] { editor.commands.Run("Mnu_SaveFast"); }, ""},                   // the file is this program's again
+      {[this] { platform.files["/a.txt"] = "x", Activate(other); }, kTheirs},  // as to a question
       {[this] { editor.opener.OpenPath("/u.txt"); }, std::string(FormatHint("\xC5\xBE"))},
       {[this] { editor.text.Type("z"); }, ""},
       {[this] { editor.documents.SwitchTo(3), editor.documents.SwitchTo(1); }, std::string(FormatHint("\xC5\xBE"))},
+      {[this] { editor.text.Type("\x9E"); }, std::string(MixHint())},
+      {[this] { editor.commands.Run("Mnu_SaveFast"); }, std::string(MixHint())},
+      {[this] { editor.text.Undo(); }, ""},
       {[this] { platform.files["/u.txt"] = "theirs", LeaveAndReturn(); }, kTheirs},
       {[this] { editor.text.Replace(0, 0, std::string(64'000, 'x')); }, kTooLong},
       {[this] { editor.text.Undo(); }, ""},
+      {[this] { editor.saver.SaveToPath("/name"), LeaveAndReturn(); }, kNameless},
       {[this] { editor.opener.OpenStandard(), timer.Tick(); }, kStuck},
       {[this] { window.Bar().WarnOfUnkept(ENOSPC); }, kUnkept},  // work that is lost with a new start comes first
       {[this] { window.Bar().WarnOfUnkept(0); }, kStuck}};
   platform.files["/a.txt"] = platform.files["/README"] = "x";
   platform.files["/u.txt"] = "\xC5\xBE";
   platform.opens = {"/README"};
-  platform.answers = {Answer::kYes, Answer::kYes};  // to the save; required: what is stuck is told by the bar alone
+  platform.answers.assign(5, Answer::kYes);  // to the saves; required: what is stuck is told by the bar alone
+  platform.answers.push_back(Answer::kOk);
   const auto* warning = window.findChild<QLabel*>(QStringLiteral("Warning"));
   for (std::size_t i = 0; i < std::size(steps); ++i) {
     steps[i].first();
-    EXPECT_EQ(warning->isVisible() ? warning->text().toStdString() : "", steps[i].second) << i;
+    const std::string& expected = steps[i].second;
+    EXPECT_EQ(warning->isVisible() ? warning->text().toStdString() : "", expected) << i;
+    if (expected.empty() || expected == kStuck || expected == kUnkept) continue;
+    // A hint leaves the other panels in sight and in reach of the mouse.
+    EXPECT_EQ(warning->geometry(), window.Bar().Panel(4)->geometry()) << i;
+    EXPECT_EQ(warning->toolTip().toStdString(), expected) << i;
   }
   for (const int width : {1200, 480}) {
     window.resize(width, 400);
@@ -287,6 +300,12 @@ TEST_F(MainWindowTest, TogglesHideAndShowTheBars) {
   Press(Qt::Key_Tab, Qt::ControlModifier);
   EXPECT_EQ(editor.documents.SelectedTab(), 1);  // with the strip the switching is gone
   EXPECT_EQ(toggle(), with);
+  // Where the window is too low for both bars, it grows when they come back.
+  window.setMinimumSize(1, 1);
+  Work(window, "MnuTS! MnuSBS!");
+  window.resize(480, 30);
+  Work(window, "MnuTS! MnuSBS!");
+  EXPECT_GE(window.Bar().geometry().top(), window.Toolbar().geometry().bottom());
 }
 
 TEST_F(MainWindowTest, RecentMenuShowsAndOpensTheEntries) {
