@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/descriptor.h"
+#include "platform/files/descriptor.h"
 
 namespace pelmar {
 

@@ -14,9 +14,9 @@
 #include <filesystem>
 #include <numeric>
 
+#include "platform/files/disk_file.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/dialogs.h"
-#include "platform/qt/disk_file.h"
 #include "platform/qt/folder_entries.h"
 #include "platform/qt/install_folder.h"
 #include "platform/qt/printer.h"

@@ -15,8 +15,8 @@
 #include <optional>
 #include <utility>
 
+#include "platform/files/disk_file.h"
 #include "platform/qt/convert.h"
-#include "platform/qt/disk_file.h"
 #include "platform/qt/recent_bookmarks.h"
 
 namespace pelmar {

@@ -1,4 +1,4 @@
-#include "platform/qt/disk_file.h"
+#include "platform/files/disk_file.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -15,7 +15,7 @@
 #include <functional>
 #include <set>
 
-#include "platform/qt/failing_calls.h"
+#include "platform/files/failing_calls.h"
 #include "support/random_source.h"
 #include "support/temp_folder.h"
 

@@ -8,7 +8,7 @@
 #include <functional>
 #include <string>
 
-#include "platform/descriptor.h"
+#include "platform/files/descriptor.h"
 #include "platform/platform.h"
 
 namespace pelmar {

@@ -1,4 +1,4 @@
-#include "platform/descriptor.h"
+#include "platform/files/descriptor.h"
 
 #include <string>
 

@@ -7,7 +7,7 @@
 
 #include <string>
 
-#include "platform/descriptor.h"
+#include "platform/files/descriptor.h"
 
 namespace pelmar {
 

@@ -1,4 +1,4 @@
-#include "platform/qt/file_target.h"
+#include "platform/files/file_target.h"
 
 #include <unistd.h>
 
@@ -6,8 +6,8 @@
 #include <cstdlib>
 #include <optional>
 
-#include "platform/qt/file_attributes.h"
-#include "platform/qt/new_file.h"
+#include "platform/files/file_attributes.h"
+#include "platform/files/new_file.h"
 
 namespace pelmar {
 namespace {

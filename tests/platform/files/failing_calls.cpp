@@ -1,4 +1,4 @@
-#include "platform/qt/failing_calls.h"
+#include "platform/files/failing_calls.h"
 
 #include <dlfcn.h>
 #include <sys/types.h>

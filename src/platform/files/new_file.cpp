@@ -1,4 +1,4 @@
-#include "platform/qt/new_file.h"
+#include "platform/files/new_file.h"
 
 #include <sys/file.h>
 #include <sys/stat.h>

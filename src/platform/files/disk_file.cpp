@@ -1,4 +1,4 @@
-#include "platform/qt/disk_file.h"
+#include "platform/files/disk_file.h"
 
 #include <linux/magic.h>
 #include <sys/stat.h>
@@ -10,8 +10,8 @@
 #include <iterator>
 #include <new>
 
-#include "platform/descriptor.h"
-#include "platform/qt/file_target.h"
+#include "platform/files/descriptor.h"
+#include "platform/files/file_target.h"
 
 namespace pelmar {
 namespace {
