@@ -1,5 +1,7 @@
 #include "platform/files/descriptor.h"
 
+#include <sys/stat.h>
+
 #include <string>
 
 namespace pelmar {
@@ -43,6 +45,13 @@ int SyncFolderOf(const std::string& path, int file) {
   if (folder.IsOpen()) return Sync(folder.Number());
   // A person may write to a folder without being allowed to read it; then the whole file system goes to the disk.
   return syncfs(file) == 0 ? 0 : errno;
+}
+
+bool IsStillNamed(int file, const std::string& path) {
+  struct stat opened {};
+  struct stat named {};
+  return fstat(file, &opened) == 0 && stat(path.c_str(), &named) == 0 && opened.st_ino == named.st_ino &&
+         opened.st_dev == named.st_dev;
 }
 
 }  // namespace pelmar

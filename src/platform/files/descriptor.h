@@ -56,4 +56,8 @@ int Sync(int file);
 // Waits until the folder of the path is on the disk, and with it the name that the open `file` has got there.
 int SyncFolderOf(const std::string& path, int file);
 
+// False where the name has gone, or has become another file's, since `file` was opened by it: then a lock on the file
+// keeps nobody out.
+bool IsStillNamed(int file, const std::string& path);
+
 }  // namespace pelmar
