@@ -160,13 +160,14 @@ void Rescue(benchmark::State& state) {
   editor.text.SetText(Page('a', size));
   editor.documents.SwitchTo(2);
   editor.text.SetText(Page('b', size));
-  RescueKeeper keeper(ModifiedDocuments(editor.documents), platform);
+  DocumentsRescue unsaved(editor.documents);
+  RescueKeeper keeper(unsaved, platform);
   QEventLoop loop;
   platform.on_write = [&] { QMetaObject::invokeMethod(&loop, &QEventLoop::quit, Qt::QueuedConnection); };
   for (auto _ : state) {
     editor.text.Type("x");
     const double start = Seconds(CLOCK_THREAD_CPUTIME_ID);
-    keeper.Touch();
+    keeper.KeepSoon();
     loop.exec();
     state.SetIterationTime(Seconds(CLOCK_THREAD_CPUTIME_ID) - start);
   }

@@ -16,7 +16,7 @@
 #include <vector>
 
 #include "files/line_ends.h"
-#include "platform/qt/disk_file.h"
+#include "platform/files/disk_file.h"
 
 namespace pelmar {
 namespace {

@@ -12,6 +12,7 @@ import sys
 ORDER = [
     ["text"],
     ["platform"],
+    ["platform/files"],
     ["platform/qt"],
     ["platform/qt/controls", "platform/printer"],
     ["shell"],

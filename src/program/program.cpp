@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <filesystem>
 
+#include "platform/files/kept_content.h"
 #include "platform/paths.h"
 #include "platform/qt/application.h"
 #include "platform/qt/convert.h"
@@ -11,6 +12,19 @@
 #include "shell/windows/start.h"
 
 namespace pelmar {
+namespace {
+
+// Where saves in place were killed.
+void TellLeftContents(Platform& platform) {
+  const std::vector<std::string> left = FindLeftContents(platform.InstallFolder());
+  if (left.empty()) return;
+  std::string text = "Ukládání minule neskončilo a soubor může být poškozen. Jeho původní obsah leží v";
+  for (const std::string& path : left) text += "\r\n" + path;
+  platform.Message(MessageType::kOkInfo, text, "Záchrana");
+  for (const std::string& path : left) MarkAsTold(path);
+}
+
+}  // namespace
 
 Program::Program(Platform& platform)
     : platform_(platform),
@@ -22,7 +36,7 @@ Program::Program(Platform& platform)
                 .show_start = [this] { windows_.Get<Start>().Present(); },
                 .show_accessory = [this](StartMode mode) { ShowAccessory(mode); }},
                editor_, files_),
-      rescue_(ModifiedDocuments(editor_.documents), platform),
+      rescue_(unsaved_, platform),
       timer_(main_, editor_) {
   AddCommands(editor_, files_);
   doors_.store_settings = [this] { session_.StoreSettings(); };
@@ -33,7 +47,7 @@ Program::Program(Platform& platform)
   main_.may_close = [this] { return MayClose(); };
   rescue_.on_failure = [this](int error) { main_.Bar().WarnOfUnkept(error); };
   const auto touch = [this] {
-    if (KeepsDocuments()) rescue_.Touch();
+    if (KeepsDocuments()) rescue_.KeepSoon();
   };
   heard_ = {editor_.text.OnChange([touch](const TextChange&) { touch(); }), editor_.documents.title_changed.Add(touch)};
 }
@@ -70,7 +84,11 @@ void Program::Run(const std::string& tail) {
   loaded_ = true;
   session_.Act(tail);
   // Only the editor asks, when it stands; the accessories leave what they find to it.
-  if (session_.Mode() == StartMode::kEditor) QTimer::singleShot(0, &main_, [this] { rescue_.Offer(); });
+  if (session_.Mode() != StartMode::kEditor) return;
+  QTimer::singleShot(0, &main_, [this] {
+    TellLeftContents(platform_);
+    rescue_.Offer();
+  });
 }
 
 bool Program::MayClose() {
@@ -86,12 +104,9 @@ void Program::KeepUnsaved() {
 }
 
 void Program::TellRuntimeError(const RuntimeError& error) {
-  const std::string kept = KeepsDocuments() ? rescue_.KeepNow() : std::string();
   std::string text = "Běhová chyba " + std::to_string(error.Number()) + ":\r\n" + error.what() + "\r\n\r\n";
-  if (!kept.empty()) {
-    text += "Neuložené dokumenty jsou zachovány v souboru\r\n" + kept +
-            "\r\nPříští start programu je nabídne zpět.\r\n\r\n";
-  }
+  if (KeepsDocuments())
+    if (const std::string told = rescue_.NoticeOf(rescue_.KeepNow()); !told.empty()) text += told + "\r\n\r\n";
   for (const auto& keep : keepers_)
     if (const std::string told = keep(); !told.empty()) text += told + "\r\n\r\n";
   text += "Program bude ukončen.";

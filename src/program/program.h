@@ -11,6 +11,7 @@
 #include "platform/runtime_error.h"
 #include "program/session.h"
 #include "shell/editor.h"
+#include "shell/rescued_documents.h"
 #include "shell/windows/main_window.h"
 #include "shell/windows/program_parts.h"
 #include "shell/windows/rescue_keeper.h"
@@ -47,6 +48,7 @@ class Program {
   Files files_{editor_};
   MainWindow main_;
   Session session_;
+  DocumentsRescue unsaved_{editor_.documents};
   RescueKeeper rescue_;
   bool loaded_ = false;
   StatusTimer timer_;

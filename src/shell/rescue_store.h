@@ -1,6 +1,6 @@
 // Rescue files on the disk: one of a kind for each running copy, in the install folder. A copy holds a lock beside its
-// file for as long as it lives, so that no other copy takes it for abandoned; the system drops the lock of a process
-// that dies. The write is atomic. Calls come from one thread at a time; nothing here throws.
+// file for as long as it lives, so that no other copy takes it for abandoned. The write is atomic. Calls come from one
+// thread at a time.
 #pragma once
 
 #include <functional>
@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/descriptor.h"
+#include "platform/files/lock_file.h"
 
 namespace pelmar {
 
@@ -27,21 +27,17 @@ class RescueStore {
   int Keep(std::string_view bytes);
   // Where the file lies once bytes were kept; a copy that dies leaves it there for the next start.
   [[nodiscard]] const std::string& Path() const { return path_; }
+  [[nodiscard]] bool HasFile() const;
 
  private:
   std::string folder_;
   std::string path_;
   WriteFile write_;
-  Descriptor lock_;  // open while it is held
+  LockFile lock_;
 };
 
-// A rescue file whose copy has died. While it is held, no other copy finds it.
-struct AbandonedRescue {
-  std::string path;
-  Descriptor lock;
-};
-std::vector<AbandonedRescue> FindAbandoned(const std::string& folder, std::string_view prefix);
-// Removes the file and its lock.
-void Discard(AbandonedRescue& rescue);
+// The rescue files whose copies have died, sorted. `offer` is held where there are any: one copy at a time offers them,
+// and none are found while another one does.
+std::vector<std::string> FindAbandoned(const std::string& folder, std::string_view prefix, LockFile& offer);
 
 }  // namespace pelmar

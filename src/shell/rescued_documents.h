@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "shell/documents.h"
+#include "shell/rescue_content.h"
 #include "shell/rescue_file.h"
 
 namespace pelmar {
@@ -21,5 +22,21 @@ std::vector<RescuedText> BringBackDocuments(Documents& documents, const std::vec
 // Windows-1250 can't hold stands there in UTF-8.
 std::string ReadableDocument(std::string_view path, std::string_view text);
 std::string ReadableDocuments(const std::vector<RescuedText>& documents);
+
+class DocumentsRescue : public RescueContent {
+ public:
+  explicit DocumentsRescue(Documents& documents);
+
+  [[nodiscard]] RescueRecord Unsaved() const override { return UnsavedDocuments(documents_); }
+  [[nodiscard]] std::string Readable(const std::vector<RescuedText>& texts) const override {
+    return ReadableDocuments(texts);
+  }
+  std::vector<RescuedText> BringBack(const std::vector<RescueRecord>& records) override {
+    return BringBackDocuments(documents_, records);
+  }
+
+ private:
+  Documents& documents_;
+};
 
 }  // namespace pelmar

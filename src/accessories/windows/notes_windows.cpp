@@ -42,8 +42,7 @@ void AddCheckpoints(const ProgramParts& parts) {
 
 std::string KeepNotes(WindowRegistry& windows) {
   auto* notes = windows.Find<Poznamka>();
-  const std::string path = notes == nullptr ? std::string() : notes->KeepNow();
-  return path.empty() ? path : "Neuložené poznámky jsou zachovány v souboru\r\n" + path;
+  return notes == nullptr ? std::string() : notes->KeepNow();
 }
 
 }  // namespace

@@ -41,8 +41,7 @@ bool TellsOfMove(const QEvent& event) {
 
 }  // namespace
 
-Poznamka::Poznamka(Surroundings around)
-    : around_(std::move(around)), ui_(std::make_unique<Ui::Poznamka>()), keeper_(Unsaved(), around_.platform) {
+Poznamka::Poznamka(Surroundings around) : around_(std::move(around)), ui_(std::make_unique<Ui::Poznamka>()) {
   ui_->setupUi(this);
   SetAccessibleRole(*this, QAccessible::Window);
   ShowOnAskersScreen(*this);
@@ -52,7 +51,7 @@ Poznamka::Poznamka(Surroundings around)
   record_ = stored_ = LoadNotes(around_.platform, around_.file_number);
   ShowPage(1);
   ConnectCommands();
-  changes_ = ui_->Text1->Buffer().OnChange([this](const TextChange&) { keeper_.Touch(); });
+  changes_ = ui_->Text1->Buffer().OnChange([this](const TextChange&) { keeper_.KeepSoon(); });
   ui_->Text1->setFocus();
   timer1_.setObjectName(QStringLiteral("Timer1"));
   timer1_.setInterval(tick_.Interval());
@@ -100,22 +99,26 @@ NotesRecord Poznamka::Now() const {
   return now;
 }
 
-RescueContent Poznamka::Unsaved() {
-  return {.kind = kNotesRescue,
-          .unsaved = [this] { return NotesToKeep(stored_, Now(), page_); },
-          .readable = ReadableNotes,
-          .known = [this](const RescuedText& note) { return Now().Page(note.place) == note.text; },
-          .bring_back = [this](const auto& records) { return BringBack(records); },
-          .found = "Poznámky minule nebyly uloženy.\r\nPočet zachovaných stránek: ",
-          .wanted = "Vrátit je do poznámek ?",
-          .rest_name = "notes-rescued.txt",
-          .rest_told = "Všechny stránky se do poznámek nevešly. Zbylé jsou v souboru"};
-}
+Poznamka::Rescue::Rescue(Poznamka& notes)
+    : RescueContent(kNotesRescue, {.found = "Poznámky minule nebyly uloženy.\r\nPočet zachovaných stránek: ",
+                                   .wanted = "Vrátit je do poznámek ?",
+                                   .kept = "Neuložené poznámky",
+                                   .next_time = "Příští otevření poznámek je nabídne zpět.",
+                                   .rest_name = "notes-rescued.txt",
+                                   .rest_told = "Všechny stránky se do poznámek nevešly. Zbylé jsou v souboru"}),
+      notes_(notes) {}
 
-std::vector<RescuedText> Poznamka::BringBack(const std::vector<RescueRecord>& records) {
-  record_ = Now();
-  std::vector<RescuedText> left = BringBackNotes(record_, records);
-  ShowPage(records.front().shown);
+RescueRecord Poznamka::Rescue::Unsaved() const { return NotesToKeep(notes_.stored_, notes_.Now(), notes_.page_); }
+
+std::string Poznamka::Rescue::Readable(const std::vector<RescuedText>& texts) const { return ReadableNotes(texts); }
+
+bool Poznamka::Rescue::IsHere(const RescuedText& note) const { return notes_.Now().Page(note.place) == note.text; }
+
+std::vector<RescuedText> Poznamka::Rescue::BringBack(const std::vector<RescueRecord>& records) {
+  NotesRecord all = notes_.Now();
+  std::vector<RescuedText> left = BringBackNotes(all, records);
+  notes_.record_ = all;
+  notes_.ShowPage(records.front().shown);
   return left;
 }
 

@@ -15,6 +15,7 @@
 #include "shell/settings_record.h"
 #include "shell/stand_alone.h"
 #include "shell/windows/rescue_keeper.h"
+#include "text/text_buffer.h"
 
 namespace Ui {
 class Poznamka;
@@ -45,8 +46,8 @@ class Poznamka : public QWidget {
   void OfferRescued() { keeper_.Offer(); }
   // The page on show.
   [[nodiscard]] TextBuffer& Text();
-  // Keeps what isn't stored, at once. Returns the path of the rescue file, "" where there was nothing to keep.
-  std::string KeepNow() { return keeper_.KeepNow(); }
+  // Keeps what isn't stored, at once. Returns what a person is told of that, "" where there was nothing to keep.
+  std::string KeepNow() { return keeper_.NoticeOf(keeper_.KeepNow()); }
 
  protected:
   bool event(QEvent* event) override;
@@ -57,6 +58,18 @@ class Poznamka : public QWidget {
   void hideEvent(QHideEvent* event) override;
 
  private:
+  class Rescue : public RescueContent {
+   public:
+    explicit Rescue(Poznamka& notes);
+    [[nodiscard]] RescueRecord Unsaved() const override;
+    [[nodiscard]] std::string Readable(const std::vector<RescuedText>& texts) const override;
+    [[nodiscard]] bool IsHere(const RescuedText& note) const override;
+    std::vector<RescuedText> BringBack(const std::vector<RescueRecord>& records) override;
+
+   private:
+    Poznamka& notes_;
+  };
+
   void ConnectCommands();
   void TabStrip1_Click(int index);
   void Timer1_Timer();
@@ -68,8 +81,6 @@ class Poznamka : public QWidget {
   // The record with the text of the page on show.
   [[nodiscard]] NotesRecord Now() const;
   [[nodiscard]] NotesSurroundings Measures() const;
-  RescueContent Unsaved();
-  std::vector<RescuedText> BringBack(const std::vector<RescueRecord>& records);
 
   Surroundings around_;
   std::unique_ptr<Ui::Poznamka> ui_;
@@ -79,7 +90,8 @@ class Poznamka : public QWidget {
   std::array<std::size_t, kNotePages> carets_{};  // where each page is gone on with
   QTimer timer1_{this};
   NotesTimer tick_;
-  RescueKeeper keeper_;
+  Rescue rescue_{*this};
+  RescueKeeper keeper_{rescue_, around_.platform};
   Listening changes_;
 };
 

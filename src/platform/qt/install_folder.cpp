@@ -2,6 +2,11 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QStandardPaths>
+
+#include "platform/error_text.h"
+#include "platform/files/folder.h"
+#include "platform/qt/convert.h"
 
 namespace pelmar {
 namespace {
@@ -11,19 +16,28 @@ bool IsPortable(const QDir& folder) {
   return QFileInfo(folder.filePath(QStringLiteral("pelmar.ini"))).isFile() || (mark.isFile() && mark.size() == 0);
 }
 
-QString WithSeparator(const QString& path) { return path.endsWith(u'/') ? path : path + u'/'; }
+std::string PathIn(const QString& folder) {
+  return Utf8FromQString(QDir(folder).filePath(QStringLiteral("pelmar-vex")));
+}
 
 }  // namespace
 
-QString FindInstallFolder(const QString& program_folder, const QString& data_home) {
-  if (IsPortable(QDir(program_folder))) return WithSeparator(program_folder);
-  QDir data(data_home);
-  const QString own = QStringLiteral("pelmar-vex");
-  if (!data.exists(own)) {
-    data.mkpath(data_home);
-    data.mkdir(own, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
-  }
-  return WithSeparator(data.filePath(own));
+ChosenFolder FindInstallFolder(const QString& program_folder, const QString& data_home) {
+  if (IsPortable(QDir(program_folder)))
+    return {.path = Utf8FromQString(program_folder.endsWith(u'/') ? program_folder : program_folder + u'/')};
+  const std::string own = PathIn(data_home);
+  const int error = MakeFolder(own);
+  if (error == 0) return {.path = own + '/'};
+  const std::string passing = PathIn(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation));
+  // Where nothing can be made, the first file step reports the error.
+  if (MakeFolder(passing) != 0) return {.path = own + '/'};
+  return {.path = passing + '/', .refused = own, .error = error};
+}
+
+std::string InstallFolderNotice(const ChosenFolder& folder) {
+  if (folder.error == 0) return {};
+  return "Složku " + folder.refused + " nelze vytvořit: " + ErrorText(folder.error) +
+         "\r\n\r\nNastavení, poznámky a zachované dokumenty vydrží jen do odhlášení, ve složce\r\n" + folder.path;
 }
 
 }  // namespace pelmar

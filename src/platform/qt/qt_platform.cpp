@@ -14,11 +14,10 @@
 #include <filesystem>
 #include <numeric>
 
+#include "platform/files/disk_file.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/dialogs.h"
-#include "platform/qt/disk_file.h"
 #include "platform/qt/folder_entries.h"
-#include "platform/qt/install_folder.h"
 #include "platform/qt/printer.h"
 
 namespace pelmar {
@@ -107,9 +106,15 @@ std::string QtPlatform::ShareFolder() {
 }
 
 std::string QtPlatform::InstallFolder() {
-  if (install_folder_.empty())
-    install_folder_ = Utf8FromQString(FindInstallFolder(QCoreApplication::applicationDirPath(), DataHome()));
-  return install_folder_;
+  if (install_folder_.path.empty())
+    install_folder_ = FindInstallFolder(QCoreApplication::applicationDirPath(), DataHome());
+  return install_folder_.path;
+}
+
+void QtPlatform::TellOfRefusedFolder() {
+  InstallFolder();
+  const std::string notice = InstallFolderNotice(install_folder_);
+  if (!notice.empty()) Message(MessageType::kOkInfo, notice, "Pelmar VEX");
 }
 
 // The toolkit's own answer for a folder that isn't there is "", with which files would go to the root of the disk.

@@ -10,6 +10,7 @@
 #include "platform/platform.h"
 #include "platform/qt/clipboard.h"
 #include "platform/qt/czech_collation.h"
+#include "platform/qt/install_folder.h"
 #include "platform/qt/key_states.h"
 #include "platform/qt/recent_documents.h"
 #include "platform/qt/wait_cursor.h"
@@ -60,6 +61,9 @@ class QtPlatform : public Platform {
   std::vector<std::size_t> SortedOrder(const std::vector<std::string_view>& texts) override;
   void SetBusyPointer(bool busy) override;
 
+  // Tells the person where the data lie when their own folder can't be made.
+  void TellOfRefusedFolder();
+
   // For an end of the program that skips destructors.
   void FinishBackgroundWork();
 
@@ -69,7 +73,7 @@ class QtPlatform : public Platform {
   InsertKey insert_;
   QCollator collator_ = CzechCollator();
   RecentDocuments recent_;
-  std::string install_folder_;
+  ChosenFolder install_folder_;
   QString dialog_folder_;  // where the last file dialog of this run ended
   std::mt19937 random_{std::random_device{}()};
 };

@@ -71,14 +71,30 @@ TEST(InstallFolder, IsTheProgramsOwnWithAMarkInItOrElseOneForTheUserAlone) {
     program.Put(file, content);
     const std::string users = data.File("deep/pelmar-vex");
     for (const unsigned mode : {0700u, 0740u}) {  // the second is the person's word
-      const QString found = FindInstallFolder(Utf8ToQString(program.Path()), Utf8ToQString(data.File("deep")));
-      EXPECT_EQ(Utf8FromQString(found), (own ? program.Path() : users) + "/") << file;
+      const ChosenFolder found = FindInstallFolder(Utf8ToQString(program.Path()), Utf8ToQString(data.File("deep")));
+      EXPECT_EQ(InstallFolderNotice(found), "");
+      EXPECT_EQ(found.path, (own ? program.Path() : users) + "/") << file;
       EXPECT_EQ(std::filesystem::exists(users), !own) << file;
       if (own) break;
       EXPECT_EQ(static_cast<unsigned>(std::filesystem::status(users).permissions()), mode) << file;
       std::filesystem::permissions(users, std::filesystem::perms{0740});
     }
   }
+}
+
+TEST(InstallFolder, WhereTheUsersCantBeMadeIsOneUntilTheLogoutWhichIsTold) {
+  const TempFolder runtime;
+  std::filesystem::permissions(runtime.Path(), std::filesystem::perms::owner_all);
+  const QByteArray old = qgetenv("XDG_RUNTIME_DIR");
+  qputenv("XDG_RUNTIME_DIR", QByteArray::fromStdString(runtime.Path()));
+  const ChosenFolder found = FindInstallFolder(QStringLiteral("/none"), QStringLiteral("/proc/none"));
+  old.isNull() ? qunsetenv("XDG_RUNTIME_DIR") : qputenv("XDG_RUNTIME_DIR", old);
+  EXPECT_EQ(found.path, runtime.File("pelmar-vex/"));
+  EXPECT_TRUE(std::filesystem::is_directory(found.path));
+  EXPECT_EQ(InstallFolderNotice(found),
+            "Složku /proc/none/pelmar-vex nelze vytvořit: soubor nebo složka neexistuje\r\n\r\nNastavení, poznámky a "
+            "zachované dokumenty vydrží jen do odhlášení, ve složce\r\n" +
+                found.path);
 }
 
 TEST(BusyPointer, NestsAndIsLiftedWhileABoxShows) {

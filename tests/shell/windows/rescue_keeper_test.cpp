@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/resource.h>
+
 #include <QTest>
+#include <new>
 
 #include "accessories/windows/prev.h"
 #include "program/program.h"
@@ -29,7 +32,7 @@ struct RescueKeeperTest : testing::Test {
   }
   [[nodiscard]] bool FolderIsEmpty() const { return std::filesystem::is_empty(folder.Path()); }
   // The texts of a rescue file; nothing where it isn't there.
-  [[nodiscard]] std::string Kept(const std::string& path) {
+  [[nodiscard]] std::string Texts(const std::string& path) {
     const auto record = ReadRescue(kDocumentsRescue, platform.files[path]);
     return record ? ReadableDocuments(record->texts) : "";
   }
@@ -44,7 +47,7 @@ TEST_F(RescueKeeperTest, KeepsAChangeWithinTwoSecondsAndTheBarSaysForAsLongAsItC
   type("a");
   ASSERT_TRUE(QTest::qWaitFor([&] { return !platform.calls.empty(); }, 2000));
   const std::string own = platform.calls.back().substr(6);
-  EXPECT_EQ(Kept(own), "Soubor:\r\na\r\n\r\n");
+  EXPECT_EQ(Texts(own), "Soubor:\r\na\r\n\r\n");
   EXPECT_TRUE(platform.private_files.contains(own));
   EXPECT_FALSE(warning->isVisible());
   platform.write_errors[own] = ENOSPC;
@@ -52,7 +55,7 @@ TEST_F(RescueKeeperTest, KeepsAChangeWithinTwoSecondsAndTheBarSaysForAsLongAsItC
   ASSERT_TRUE(QTest::qWaitFor([&] { return warning->isVisible(); }, 2500));
   platform.write_errors.clear();
   ASSERT_TRUE(QTest::qWaitFor([&] { return !warning->isVisible(); }, 2500));
-  EXPECT_EQ(Kept(own), "Soubor:\r\nab\r\n\r\n");
+  EXPECT_EQ(Texts(own), "Soubor:\r\nab\r\n\r\n");
   platform.answers = {Answer::kNo, Answer::kYes};
   window.close();
   EXPECT_TRUE(window.isVisible());
@@ -68,10 +71,14 @@ TEST_F(RescueKeeperTest, TheLastResortIsANewFileOfADrawnName) {
   platform.files["/tmp/pelmar-rescue-49999999.txt"] = "planted";
   TextBuffer text;
   Documents documents(text);
-  RescueKeeper keeper(ModifiedDocuments(documents), platform);
+  DocumentsRescue unsaved(documents);
+  RescueKeeper keeper(unsaved, platform);
   text.SetText("typed");
-  EXPECT_EQ(keeper.KeepNow(), "/tmp/pelmar-rescue-24999999.txt");
-  EXPECT_EQ(keeper.KeepNow(), "/tmp/pelmar-rescue-24999999.txt");
+  EXPECT_EQ(keeper.KeepNow().path, "/tmp/pelmar-rescue-24999999.txt");
+  const Kept kept = keeper.KeepNow();
+  EXPECT_EQ(keeper.NoticeOf(kept),
+            "Neuložené dokumenty jsou zachovány v souboru\r\n/tmp/pelmar-rescue-24999999.txt\r\n"
+            "Program je sám nenabídne, soubor si zkopírujte jinam.");
   EXPECT_EQ(platform.files["/tmp/pelmar-rescue-24999999.txt"], "Soubor:\r\ntyped\r\n\r\n");
   EXPECT_EQ(platform.calls.size(), 2u);
 }
@@ -112,7 +119,7 @@ TEST_F(RescueKeeperTest, AnErrorThatEndsTheProgramIsToldWithWhatWasKept) {
     return platform.TakeCalls();
   };
   const std::vector<std::string> kept = told("-NOMSG", "typed");
-  EXPECT_EQ(Kept(kept[0].substr(6)), "Soubor:\r\ntyped\r\n\r\n");
+  EXPECT_EQ(Texts(kept[0].substr(6)), "Soubor:\r\ntyped\r\n\r\n");
   EXPECT_EQ(kept.back(),
             "message 0 \"Běhová chyba 5:\r\nChyba\r\n\r\nNeuložené dokumenty jsou zachovány v souboru\r\n" +
                 kept[0].substr(6) +
@@ -151,11 +158,12 @@ TEST_F(RescueKeeperTest, AnOldFileGoesOnlyWhenItsTextIsSafe) {
     platform.files.clear();
     TextBuffer box;
     Documents opened(box);
-    RescueKeeper keeper(ModifiedDocuments(opened), platform);
+    DocumentsRescue unsaved(opened);
+    RescueKeeper keeper(unsaved, platform);
     box.SetText("probe");
-    const std::string own = keeper.KeepNow();
+    const std::string own = keeper.KeepNow().path;
     opened.ForgetPath();  // saved: nothing left to keep
-    EXPECT_EQ(keeper.KeepNow(), "");
+    EXPECT_EQ(keeper.KeepNow().path, "");
     platform.files = {{old, lost}, {twin, lost}, {torn, lost.substr(0, lost.size() - 1)}};
     for (const auto& [path, bytes] : platform.files) {
       std::ofstream touched(path);
@@ -173,34 +181,80 @@ TEST_F(RescueKeeperTest, AnOldFileGoesOnlyWhenItsTextIsSafe) {
     keeper.Offer();
     EXPECT_EQ(there(), one.stays);
     EXPECT_EQ(opened.Title(), back ? "Pelmar VEX (/a.txt)*" : "Pelmar VEX ()");
-    EXPECT_EQ(Kept(own), back && one.failing == kNothing ? kReadable : "");
+    EXPECT_EQ(Texts(own), back && one.failing == kNothing ? kReadable : "");
     EXPECT_EQ(platform.files[rest], one.rest);
     keeper.Offer();  // asked once
     // With room again it goes on by itself.
     platform.write_errors.clear();
     platform.read_errors.clear();
     EXPECT_EQ(QTest::qWaitFor([&] { return !there(); }, asked ? 2500 : 0), asked);
-    EXPECT_EQ(Kept(own), back ? kReadable : "");
+    EXPECT_EQ(Texts(own), back ? kReadable : "");
     EXPECT_EQ(std::exchange(platform.files[rest], ""), asked && !back ? kReadable : "");
     keeper.KeepNow();
     EXPECT_EQ(platform.files[rest], "");  // a rest that the person has taken away doesn't come again
   }
 }
 
-TEST_F(RescueKeeperTest, WhatFindsNoTabIsToldOnce) {
+// More files than the process may open.
+TEST_F(RescueKeeperTest, WhatFindsNoTabIsToldOnceHoweverManyFilesThereAre) {
   TextBuffer box;
   Documents documents(box);
-  RescueKeeper keeper(ModifiedDocuments(documents), platform);
-  for (int file = 1; file <= kTabCount + 1; ++file) {
+  DocumentsRescue unsaved(documents);
+  RescueKeeper keeper(unsaved, platform);
+  for (int file = 1; file <= 200; ++file) {
     const std::string path = folder.File("rescue-" + std::to_string(file) + "-1.pelmar");
     platform.files[path] = RescueBytes(kDocumentsRescue, {1, {{1, "", std::to_string(file)}}});
     std::ofstream touched(path);
   }
   platform.answers = {Answer::kYes, Answer::kOk, Answer::kOk};
+  rlimit usual{};
+  getrlimit(RLIMIT_NOFILE, &usual);
+  const rlimit few{.rlim_cur = 100, .rlim_max = usual.rlim_max};
+  setrlimit(RLIMIT_NOFILE, &few);
   keeper.Offer();
-  keeper.Touch();
+  setrlimit(RLIMIT_NOFILE, &usual);
+  EXPECT_NE(platform.calls.front().find("dokumentů: 200."), std::string::npos);
+  keeper.KeepSoon();
   QTest::qWait(1300);  // in which it writes once more
   EXPECT_EQ(platform.answers.size(), 1u);
+}
+
+TEST_F(RescueKeeperTest, WithoutMemoryTheFileOfTheWriteBeforeStays) {
+  struct NoMemory : DocumentsRescue {
+    using DocumentsRescue::DocumentsRescue;
+    [[nodiscard]] RescueRecord Unsaved() const override {
+      return none ? throw std::bad_alloc() : DocumentsRescue::Unsaved();
+    }
+    bool none = false;
+  };
+  TextBuffer box;
+  Documents documents(box);
+  NoMemory unsaved(documents);
+  RescueKeeper keeper(unsaved, platform);
+  box.SetText("typed");
+  const std::string own = keeper.KeepNow().path;
+  std::ofstream touched(own);
+  unsaved.none = true;
+  int told = 0;
+  keeper.on_failure = [&told](int error) { told = error; };
+  keeper.KeepSoon();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return told == ENOMEM; }, 2500));
+  EXPECT_EQ(keeper.KeepNow().path, own);
+  EXPECT_EQ(Texts(own), "Soubor:\r\ntyped\r\n\r\n");
+}
+
+// Of a file that was being saved in place.
+TEST_F(RescueKeeperTest, TheStartTellsOnceWhereAKilledSaveHasLeftTheOldContent) {
+  const std::string left = folder.Put("puvodni-abcdef-a.txt", "old");
+  for (const bool first : {true, false}) {
+    Program program(platform);
+    platform.answers = {Answer::kOk};
+    program.Run("-NOMSG");
+    QTest::qWait(0);
+    EXPECT_EQ(platform.answers.empty(), first);
+    const std::string told = platform.TakeTold();
+    EXPECT_EQ(told.find(left) != std::string::npos, first) << told;
+  }
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 
 #include <cerrno>
 #include <functional>
+#include <string>
 #include <string_view>
 #include <utility>
 
@@ -46,7 +47,17 @@ int ForEachPiece(int file, const std::function<int(std::string_view)>& take);
 // All of one file becomes the content of another, whatever that was.
 int CopyWhole(int from, int to);
 
-// Brings a file or a folder to the disk. A file system that can't has said nothing about the content.
+// The folder that a path names its file in, with the separator; "" for the current one.
+std::string FolderOf(const std::string& path);
+
+// Waits until a file or a folder is on the disk. A file system without such a call is no error.
 int Sync(int file);
+
+// Waits until the folder of the path is on the disk, and with it the name that the open `file` has got there.
+int SyncFolderOf(const std::string& path, int file);
+
+// False where the name has gone, or has become another file's, since `file` was opened by it: then a lock on the file
+// keeps nobody out.
+bool IsStillNamed(int file, const std::string& path);
 
 }  // namespace pelmar

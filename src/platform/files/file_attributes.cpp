@@ -1,4 +1,4 @@
-#include "platform/qt/file_attributes.h"
+#include "platform/files/file_attributes.h"
 
 #include <sys/xattr.h>
 #include <unistd.h>

@@ -8,7 +8,7 @@
 #include <functional>
 #include <string>
 
-#include "platform/descriptor.h"
+#include "platform/files/descriptor.h"
 #include "platform/platform.h"
 
 namespace pelmar {
@@ -28,7 +28,6 @@ struct NewContent {
   // where `reads_old` asks for it and there is one, otherwise -1. Called once. 0 or errno.
   std::function<int(int to, int old)> fill;
   bool reads_old = false;
-  bool to_disk = true;     // it can't be made again
   std::uint64_t size = 0;  // 0 where it isn't known before
 };
 

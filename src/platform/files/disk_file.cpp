@@ -1,4 +1,4 @@
-#include "platform/qt/disk_file.h"
+#include "platform/files/disk_file.h"
 
 #include <linux/magic.h>
 #include <sys/stat.h>
@@ -10,8 +10,8 @@
 #include <iterator>
 #include <new>
 
-#include "platform/descriptor.h"
-#include "platform/qt/file_target.h"
+#include "platform/files/descriptor.h"
+#include "platform/files/file_target.h"
 
 namespace pelmar {
 namespace {
@@ -149,7 +149,7 @@ WriteOutcome RewriteFileByPieces(const std::string& source_path, const std::stri
     const int error = RewriteInto(to, source.file.Number(), rewriter);
     return error != 0 ? error : CopyTail(old, to, rewriter.Kept());
   };
-  const NewContent content{.fill = fill, .reads_old = tail == OldTail::kKeep, .to_disk = false};
+  const NewContent content{.fill = fill, .reads_old = tail == OldTail::kKeep};
   return WriteOver(target, content, keep_folder, 0666);
 }
 
@@ -165,9 +165,10 @@ std::optional<FileStamp> StampOf(const std::string& path) {
 int CreateFile(const std::string& path, std::string_view bytes) {
   Descriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
   if (!file.IsOpen()) return errno;
-  const int write_error = WriteAll(file.Number(), bytes);
-  const int close_error = file.Close();
-  const int error = write_error != 0 ? write_error : close_error;
+  int error = WriteAll(file.Number(), bytes);
+  if (error == 0) error = Sync(file.Number());
+  if (error == 0) error = SyncFolderOf(path, file.Number());
+  if (const int close_error = file.Close(); error == 0) error = close_error;
   if (error != 0) unlink(path.c_str());
   return error;
 }

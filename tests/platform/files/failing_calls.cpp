@@ -1,4 +1,4 @@
-#include "platform/qt/failing_calls.h"
+#include "platform/files/failing_calls.h"
 
 #include <dlfcn.h>
 #include <sys/types.h>
@@ -10,7 +10,8 @@
 namespace pelmar {
 namespace {
 
-constexpr int kUnnamed = 020000000;  // the system's flag for them
+// The system's flags for files without a name, and for new ones.
+constexpr int kUnnamed = 020000000, kNew = 0300;
 
 // True where this call is to fail; errno is set then.
 bool Fails() {
@@ -26,6 +27,10 @@ Result Real(const char* name, Arguments... arguments) {
   return reinterpret_cast<Result (*)(Arguments...)>(dlsym(RTLD_NEXT, name))(arguments...);
 }
 
+void Note(const char* step) {
+  if (failing.counts) failing.steps += std::string(failing.steps.empty() ? "" : " ") + step;
+}
+
 template <typename Result, typename... Arguments>
 Result Pass(const char* name, Arguments... arguments) {
   return Fails() ? -1 : Real<Result>(name, arguments...);
@@ -34,12 +39,14 @@ Result Pass(const char* name, Arguments... arguments) {
 }  // namespace
 }  // namespace pelmar
 
+using pelmar::Note;
 using pelmar::Pass;
 
 // These stand before the C library's own. Its headers, with other promises about exceptions, stay out.
 extern "C" {
 int open(const char* path, int flags, ...) {
   if (pelmar::no_unnamed_files && (flags & pelmar::kUnnamed) == pelmar::kUnnamed) return errno = EOPNOTSUPP, -1;
+  if ((flags & pelmar::kNew) == pelmar::kNew) Note("create");
   va_list rest;
   va_start(rest, flags);
   const mode_t mode = va_arg(rest, mode_t);
@@ -54,7 +61,13 @@ ssize_t write(int file, const void* bytes, size_t size) {
   return fails ? (errno = error, -1) : written;
 }
 // A save that is cut off by an error or a kill doesn't need the disk, and hundreds of them would wait for it.
-int fsync(int file) { return pelmar::failing.counts ? -int{pelmar::Fails()} : Pass<int>("fsync", file); }
+int fsync(int file) {
+  if (!pelmar::failing.counts) return pelmar::Real<int>("fsync", file);
+  const bool folder =
+      pelmar::Real<ssize_t>("read", file, static_cast<void*>(nullptr), size_t{0}) < 0 && errno == EISDIR;
+  Note(folder ? "folder" : "content");
+  return -int{pelmar::Fails()};
+}
 ssize_t read(int file, void* bytes, size_t size) { return Pass<ssize_t>("read", file, bytes, size); }
 off_t lseek(int file, off_t at, int from) { return Pass<off_t>("lseek", file, at, from); }
 int ftruncate(int file, off_t size) { return Pass<int>("ftruncate", file, size); }
@@ -73,9 +86,19 @@ ssize_t lgetxattr(const char* path, const char* name, void* bytes, size_t size) 
 int fremovexattr(int file, const char* name) { return Pass<int>("fremovexattr", file, name); }
 int flock(int file, int what) { return Pass<int>("flock", file, what); }
 int linkat(int folder, const char* path, int to_folder, const char* to, int flags) {
+  Note("link");
   return Pass<int>("linkat", folder, path, to_folder, to, flags);
 }
-int rename(const char* from, const char* to) { return Pass<int>("rename", from, to); }
-int unlink(const char* path) { return Pass<int>("unlink", path); }
-int mkostemps(char* name, int rest, int flags) { return Pass<int>("mkostemps", name, rest, flags); }
+int rename(const char* from, const char* to) {
+  Note("rename");
+  return Pass<int>("rename", from, to);
+}
+int renameat2(int folder, const char* from, int to_folder, const char* to, unsigned flags) {
+  Note("rename");
+  return Pass<int>("renameat2", folder, from, to_folder, to, flags);
+}
+int unlink(const char* path) {
+  Note("remove");
+  return Pass<int>("unlink", path);
+}
 }

@@ -1,13 +1,14 @@
 // A file in the making, which takes its place under a name when it is complete. Until then it has no name at all where
-// the file system can do that, so that nothing of it stays behind if the program is killed; elsewhere it has a drawn
-// one, ".pelmar-" and six characters. A lock on it tells other copies of the program that its maker lives.
+// the file system can do that, so that nothing of it stays behind if the program is killed. Elsewhere, and for the
+// moment of a replacement, it has a drawn one, ".pelmar-" and six characters. What a kill leaves of that stays: nobody
+// could tell it from a person's own file of such a name.
 #pragma once
 
 #include <sys/types.h>
 
 #include <string>
 
-#include "platform/descriptor.h"
+#include "platform/files/descriptor.h"
 
 namespace pelmar {
 
@@ -22,24 +23,21 @@ class NewFile {
   [[nodiscard]] int Error() const { return error_; }
   [[nodiscard]] int Number() const { return file_.Number(); }
 
-  // 0 or errno: EEXIST where anything has that name.
+  // All three give 0 or an errno. The name is on the disk only after SyncFolderOf.
+  // EEXIST where anything has that name.
   int TakeNewName(const std::string& path);
-  // Puts the file in the place of the one that has the name. 0 or errno.
+  // `start`, six drawn characters and `end`; `taken` becomes the whole.
+  int TakeFreeName(const std::string& start, const std::string& end, std::string& taken);
+  // Puts the file in the place of the one that has the name.
   int TakeNameOf(const std::string& path);
 
  private:
   int Draw(mode_t mode);
-  int LinkAs(const std::string& name);
-  int LinkAsDrawn();
 
   std::string folder_;  // "" or with its separator
   Descriptor file_;
   std::string name_;  // the drawn one, "" while there is none
   int error_ = 0;
 };
-
-// Removes from the folder of that path what killed copies of the program left of such files; those of living ones stay.
-// Looks once in each folder, since only earlier runs leave anything.
-void ClearLeftFiles(const std::string& beside);
 
 }  // namespace pelmar

@@ -1,4 +1,6 @@
-#include "platform/descriptor.h"
+#include "platform/files/descriptor.h"
+
+#include <sys/stat.h>
 
 #include <string>
 
@@ -33,6 +35,23 @@ int CopyWhole(int from, int to) {
   return end >= 0 && ftruncate(to, end) == 0 ? 0 : errno;
 }
 
+std::string FolderOf(const std::string& path) { return path.substr(0, path.rfind('/') + 1); }
+
 int Sync(int file) { return fsync(file) != 0 && errno != EINVAL && errno != ENOTSUP ? errno : 0; }
+
+int SyncFolderOf(const std::string& path, int file) {
+  const std::string name = FolderOf(path);
+  const Descriptor folder(open(name.empty() ? "." : name.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (folder.IsOpen()) return Sync(folder.Number());
+  // A person may write to a folder without being allowed to read it; then the whole file system goes to the disk.
+  return syncfs(file) == 0 ? 0 : errno;
+}
+
+bool IsStillNamed(int file, const std::string& path) {
+  struct stat opened {};
+  struct stat named {};
+  return fstat(file, &opened) == 0 && stat(path.c_str(), &named) == 0 && opened.st_ino == named.st_ino &&
+         opened.st_dev == named.st_dev;
+}
 
 }  // namespace pelmar

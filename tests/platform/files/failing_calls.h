@@ -2,6 +2,8 @@
 // tests that go through every point where a save can be cut off. Holds for the thread that sets it.
 #pragma once
 
+#include <string>
+
 namespace pelmar {
 
 struct FailingCalls {
@@ -10,6 +12,7 @@ struct FailingCalls {
   bool all_behind = false;  // every later one fails too
   bool counts = true;
   int made = 0;
+  std::string steps = {};  // what each call did that matters to a power cut, a word each
 };
 inline thread_local FailingCalls failing{.counts = false};
 

@@ -1,4 +1,4 @@
-#include "platform/qt/file_target.h"
+#include "platform/files/file_target.h"
 
 #include <unistd.h>
 
@@ -6,8 +6,9 @@
 #include <cstdlib>
 #include <optional>
 
-#include "platform/qt/file_attributes.h"
-#include "platform/qt/new_file.h"
+#include "platform/files/file_attributes.h"
+#include "platform/files/kept_content.h"
+#include "platform/files/new_file.h"
 
 namespace pelmar {
 namespace {
@@ -20,8 +21,7 @@ int FollowLinks(std::string& path) {
     const ssize_t length = readlink(path.c_str(), target.data(), target.size());
     if (length < 0) return errno == EINVAL || errno == ENOENT ? 0 : errno;
     target.resize(static_cast<std::size_t>(length));
-    path.resize(target.starts_with('/') ? 0 : path.rfind('/') + 1);
-    path += target;
+    path = (target.starts_with('/') ? "" : FolderOf(path)) + target;
   }
   return ELOOP;
 }
@@ -36,42 +36,8 @@ int Fill(int to, const Target& target, const NewContent& content) {
     if (!old.IsOpen()) return errno;
   }
   if (const int error = content.fill(to, old.Number())) return error;
-  return content.to_disk ? Sync(to) : 0;
+  return Sync(to);
 }
-
-// The old content of a file that is written in place.
-class KeptContent {
- public:
-  int Keep(int file, const Target& target, const std::string& folder) {
-    constexpr std::size_t kLongestName = 200;  // in bytes; one of a file may have 255
-    std::string name = "-" + target.path.substr(target.path.rfind('/') + 1);
-    if (name.size() > kLongestName) name.clear();
-    path_ = folder + "puvodni-XXXXXX" + name;
-    file_ = Descriptor(mkostemps(path_.data(), static_cast<int>(name.size()), O_CLOEXEC));
-    if (!file_.IsOpen()) return errno;
-    int error = CopyWhole(file, file_.Number());
-    if (error == 0) error = Sync(file_.Number());
-    if (error == 0) error = SyncFolder(folder);
-    if (error != 0) Discard();
-    return error;
-  }
-  int PutBack(int file) {
-    const int error = CopyWhole(file_.Number(), file);
-    return error == 0 ? Sync(file) : error;
-  }
-  void Discard() { unlink(path_.c_str()); }
-  [[nodiscard]] const std::string& Path() const { return path_; }
-  [[nodiscard]] int Number() const { return file_.Number(); }
-
- private:
-  static int SyncFolder(const std::string& folder) {
-    const Descriptor opened(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    return opened.IsOpen() ? Sync(opened.Number()) : errno;
-  }
-
-  std::string path_;
-  Descriptor file_;
-};
 
 // The room for all of it, so that a full disk is met before the first old byte is touched. A file system that can't
 // reserve has said nothing about the room.
@@ -110,7 +76,6 @@ Beside WriteBeside(const Target& target, const NewContent& content, mode_t new_m
   const bool old = target.kind == Target::kOld;
   // Other names of the file have to lead to the new content too.
   if (old && target.old.st_nlink > 1) return {.error = EMLINK, .try_in_place = true};
-  ClearLeftFiles(target.path);
   NewFile file(target.path, old ? 0600 : new_mode);
   if (file.Error() != 0) return {.error = file.Error(), .try_in_place = old && FolderRefuses(file.Error())};
   if (old) {
@@ -119,7 +84,8 @@ Beside WriteBeside(const Target& target, const NewContent& content, mode_t new_m
   }
   if (const int error = Fill(file.Number(), target, content)) return {.error = error};
   const int error = old ? file.TakeNameOf(target.path) : file.TakeNewName(target.path);
-  if (error == 0 || !old || !FolderRefuses(error)) return {.error = error};
+  if (error == 0) return {.error = SyncFolderOf(target.path, file.Number())};
+  if (!old || !FolderRefuses(error)) return {.error = error};
   return {.error = error, .try_in_place = true, .content = Descriptor(fcntl(file.Number(), F_DUPFD_CLOEXEC, 0))};
 }
 
@@ -128,10 +94,13 @@ WriteOutcome WriteInPlace(const Target& target, const NewContent& content, const
   if (!file.IsOpen()) return {.error = errno};
   if (const int error = Reserve(file.Number(), content.size)) return {.error = error};
   KeptContent kept;
-  if (const int error = kept.Keep(file.Number(), target, keep_folder)) return {.error = error};
+  if (const int error = kept.Keep(file.Number(), target.path, keep_folder)) return {.error = error};
   const int error = Overwrite(file.Number(), content, kept);
-  if (error != 0 && kept.PutBack(file.Number()) != 0) return {.error = error, .kept = kept.Path()};
-  kept.Discard();
+  if (error != 0 && kept.PutBack(file.Number()) != 0) {
+    MarkAsTold(kept.Path());
+    return {.error = error, .kept = kept.Path()};
+  }
+  kept.Remove();
   // Where the writer isn't the owner, the system has taken the set-id bits away.
   if (error == 0 && (target.old.st_mode & (S_ISUID | S_ISGID)) != 0)
     fchmod(file.Number(), target.old.st_mode & kKeptMode);

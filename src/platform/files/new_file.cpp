@@ -1,0 +1,104 @@
+#include "platform/files/new_file.h"
+
+#include <unistd.h>
+
+#include <array>
+#include <cstdio>
+#include <string_view>
+
+namespace pelmar {
+namespace {
+
+constexpr char kMark[] = ".pelmar-";
+constexpr std::string_view kLetters = "abcdefghijklmnopqrstuvwxyz012345";
+constexpr std::size_t kDrawn = 6;
+constexpr int kMostTries = 100;
+
+// "" where the system has no random numbers.
+std::string DrawLetters() {
+  std::array<unsigned char, kDrawn> draw{};
+  if (getentropy(draw.data(), draw.size()) != 0) return "";
+  std::string letters;
+  for (const unsigned char one : draw) letters += kLetters[one % kLetters.size()];
+  return letters;
+}
+
+// Calls `take` with drawn names until one is free.
+template <typename Take>
+int TryNames(const std::string& start, const std::string& end, const Take& take) {
+  for (int tries = 0; tries < kMostTries; ++tries) {
+    const std::string drawn = DrawLetters();
+    if (drawn.empty()) return errno;
+    const int error = take(start + drawn + end);
+    if (error != EEXIST) return error;
+  }
+  return EEXIST;
+}
+
+int Link(int file, const std::string& name) {
+  const std::string unnamed = "/proc/self/fd/" + std::to_string(file);
+  return linkat(AT_FDCWD, unnamed.c_str(), AT_FDCWD, name.c_str(), AT_SYMLINK_FOLLOW) == 0 ? 0 : errno;
+}
+
+// A file on a server may report a lost write only when it is closed, and the content may still be needed.
+int CloseOnce(int file) {
+  const int again = fcntl(file, F_DUPFD_CLOEXEC, 0);
+  return again >= 0 && close(again) == 0 ? 0 : errno;
+}
+
+}  // namespace
+
+NewFile::NewFile(const std::string& beside, mode_t mode) : folder_(FolderOf(beside)) {
+  const char* const folder = folder_.empty() ? "." : folder_.c_str();
+  // The name is given through /proc.
+  if (access("/proc/self/fd", X_OK) == 0) file_ = Descriptor(open(folder, O_TMPFILE | O_RDWR | O_CLOEXEC, mode));
+  if (!file_.IsOpen()) error_ = Draw(mode);
+}
+
+NewFile::~NewFile() {
+  const int error = errno;
+  if (!name_.empty()) unlink(name_.c_str());
+  errno = error;
+}
+
+int NewFile::Draw(mode_t mode) {
+  return TryNames(folder_ + kMark, "", [&](const std::string& name) {
+    file_ = Descriptor(open(name.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, mode));
+    if (!file_.IsOpen()) return errno;
+    name_ = name;
+    return 0;
+  });
+}
+
+int NewFile::TakeNewName(const std::string& path) {
+  if (const int error = CloseOnce(file_.Number())) return error;
+  if (name_.empty()) return Link(file_.Number(), path);
+  const bool renamed = renameat2(AT_FDCWD, name_.c_str(), AT_FDCWD, path.c_str(), RENAME_NOREPLACE) == 0;
+  if (!renamed && errno != EINVAL && errno != ENOSYS) return errno;
+  // A disk that can't do that may have hard links, which replace nothing either.
+  if (!renamed && link(name_.c_str(), path.c_str()) != 0) return errno == EEXIST ? EEXIST : TakeNameOf(path);
+  if (!renamed) unlink(name_.c_str());
+  name_.clear();
+  return 0;
+}
+
+int NewFile::TakeFreeName(const std::string& start, const std::string& end, std::string& taken) {
+  return TryNames(start, end, [&](const std::string& name) {
+    const int error = TakeNewName(name);
+    if (error == 0) taken = name;
+    return error;
+  });
+}
+
+int NewFile::TakeNameOf(const std::string& path) {
+  if (name_.empty()) {
+    if (const int error = TakeFreeName(folder_ + kMark, "", name_)) return error;
+  } else if (const int error = CloseOnce(file_.Number())) {
+    return error;
+  }
+  if (rename(name_.c_str(), path.c_str()) != 0) return errno;
+  name_.clear();
+  return 0;
+}
+
+}  // namespace pelmar
