@@ -5,6 +5,7 @@
 
 #include "platform/paths.h"
 #include "platform/qt/application.h"
+#include "platform/qt/clipboard.h"
 #include "platform/qt/convert.h"
 #include "program/commands.h"
 #include "shell/windows/config.h"
@@ -66,6 +67,7 @@ void Program::ShowAccessory(StartMode mode) {
 
 void Program::Run(const std::string& tail) {
   timer_.start();
+  WhenClipboardComes(main_, [this] { session_.TakeLateClipboard(); });
   session_.Load();
   loaded_ = true;
   session_.Act(tail);
