@@ -19,16 +19,31 @@
 
 namespace {
 
-// Placing our own windows needs X11; where there is an X display beside Wayland, it is the better one.
+// Placing our own windows needs X11; where there is an X display beside Wayland, it is the better one. Where it leads
+// nowhere, the toolkit goes on to Wayland.
 void PreferX11() {
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && qEnvironmentVariableIsSet("DISPLAY"))
-    qputenv("QT_QPA_PLATFORM", "xcb");
+    qputenv("QT_QPA_PLATFORM", "xcb;wayland");
 }
 
 // The toolkit would abort without one, in English.
 bool HasDisplay() {
   return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
          qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+}
+
+// While the toolkit looks for a display. Its way to say that there is none is to abort, in English.
+void EndWithoutDisplay(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+  if (type != QtFatalMsg) {
+    std::fputs(qPrintable(qFormatLogMessage(type, context, text) + u'\n'), stderr);
+    return;
+  }
+  const auto value = [](const char* name) { return qEnvironmentVariable(name, QStringLiteral("není nastaveno")); };
+  std::fprintf(stderr,
+               "pelmar-vex: k obrazovce se nelze připojit (DISPLAY: %s, WAYLAND_DISPLAY: %s; pro Wayland je potřeba "
+               "balík qt6-wayland)\n",
+               qPrintable(value("DISPLAY")), qPrintable(value("WAYLAND_DISPLAY")));
+  std::_Exit(EXIT_FAILURE);
 }
 
 // A status that a script can trust: a full disk or a closed output is an error.
@@ -55,7 +70,9 @@ int main(int argc, char** argv) {
   int own_argc = 1;
   // A menu bar of the desktop would be looked for on the session bus, which may have to be started first.
   pelmar::Application::setAttribute(Qt::AA_DontUseNativeMenuBar);
+  const QtMessageHandler usual = qInstallMessageHandler(EndWithoutDisplay);
   pelmar::Application application(own_argc, argv);
+  qInstallMessageHandler(usual);
   pelmar::Application::setStyle(new pelmar::ProgramStyle);
   pelmar::Application::setApplicationName(QStringLiteral("pelmar-vex"));
   pelmar::Application::setDesktopFileName(QStringLiteral("pelmar-vex"));

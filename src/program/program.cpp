@@ -6,6 +6,7 @@
 #include "platform/files/kept_content.h"
 #include "platform/paths.h"
 #include "platform/qt/application.h"
+#include "platform/qt/clipboard.h"
 #include "platform/qt/convert.h"
 #include "program/commands.h"
 #include "shell/windows/config.h"
@@ -80,6 +81,7 @@ void Program::ShowAccessory(StartMode mode) {
 
 void Program::Run(const std::string& tail) {
   timer_.start();
+  WhenClipboardComes(main_, [this] { session_.TakeLateClipboard(); });
   session_.Load();
   loaded_ = true;
   session_.Act(tail);

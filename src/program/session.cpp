@@ -55,7 +55,20 @@ void Session::LoadText() {
     if (file.error != 0) throw Unreadable(path, file.error);
     if (file.bytes.size() <= kLargestDocument) documents_.Text().SetText(std::move(file.bytes));
   }
+  TakeClipboard();
+  loaded_revision_ = documents_.Text().Revision();
+}
+
+void Session::TakeClipboard() {
   if (documents_.Text().Empty() && platform_.ClipboardContent()) documents_.Text().SetText(platform_.ClipboardText());
+}
+
+void Session::TakeLateClipboard() {
+  const bool touched = documents_.Text().Revision() != loaded_revision_ || documents_.SelectedTab() != 1 ||
+                       !documents_.CurrentPath().empty();
+  if (touched || !documents_.Text().Empty()) return;
+  TakeClipboard();
+  documents_.ForgetPath();  // and with it the mark
 }
 
 void Session::LoadSettings() {

@@ -3,6 +3,7 @@
 // steps is required.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -27,6 +28,9 @@ class Session {
 
   // The load of the main window: text, settings, and the profile, which is asked for where it is missing.
   void Load();
+  // The load's step for a clipboard that is told only later: its text goes into the document while nobody has touched
+  // that, and is no change.
+  void TakeLateClipboard();
   // Shows what the command tail asks for.
   void Act(std::string_view tail);
 
@@ -45,6 +49,7 @@ class Session {
 
  private:
   void LoadText();
+  void TakeClipboard();
   void LoadSettings();
   void ApplyLook();
   bool MayEnd();
@@ -59,6 +64,7 @@ class Session {
   Platform& platform_;
   FileNumber& file_number_;
   StartMode mode_ = StartMode::kEditor;
+  std::uint64_t loaded_revision_ = 0;  // of the text, behind the load
   bool closed_ = false;
 };
 

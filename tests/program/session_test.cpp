@@ -96,6 +96,25 @@ TEST(Session, TextComesFromTheRecoveryFileOrTheClipboard) {
   }
 }
 
+TEST(Session, AClipboardThatIsToldLaterGoesIntoAnUntouchedDocument) {
+  const std::pair<const char*, std::function<void(Desk&)>> cases[] = {
+      {"late", [](Desk&) {}},
+      {"", [](Desk& one) { one.editor.text.SetText("typed"), one.editor.text.SetText(""); }},
+      {"", [](Desk& one) { one.editor.documents.SwitchTo(2); }},
+      {"", [](Desk& one) { one.session.Act("/empty.txt"); }}};
+  for (const auto& [text, act] : cases) {
+    Desk one;
+    one.platform.files["/empty.txt"] = "";
+    one.session.Load();
+    act(one);
+    one.platform.clipboard = "late";
+    const std::string title = one.editor.documents.Title();
+    one.session.TakeLateClipboard();
+    EXPECT_EQ(one.editor.text.Text(), text);
+    EXPECT_EQ(one.editor.documents.Title(), title);
+  }
+}
+
 TEST(Session, TheCommandTailTellsWhatIsShown) {
   const std::tuple<const char*, bool, const char*> cases[] = {
       {"", false, "main"},   {"", true, "start"},      {"-nomsg", true, "main"},  {"-calc", true, "1"},

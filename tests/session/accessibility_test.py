@@ -12,7 +12,7 @@ import tempfile
 import time
 import unittest
 
-from harness import PATIENCE, EditorCase
+from harness import PATIENCE, PROGRAM, EditorCase
 from screen import Screen
 
 ON_BUS = "PELMAR_ON_BUS"
@@ -160,7 +160,7 @@ class WaylandTest(BusCase):
 
     def test_a_day_without_x(self):
         self.wait((self.home / "runtime" / "pelmar-test").exists, "the compositor", needs_program=False)
-        self.start(title=None, WAYLAND_DEBUG="1")
+        self.start(title=None, WAYLAND_DEBUG="1", DISPLAY=":9999")  # which leads nowhere
         self.find("Pelmar VEX ()", "text", TEXT).insert_text(0, "žlutý", len("žlutý"))
         self.find("Pelmar VEX ()*")
         self.press("Soubor")
@@ -179,6 +179,35 @@ class WaylandTest(BusCase):
         self.press("Ano", "Konec", "push button")
         self.wait_exit()
         self.assertEqual(self.autosaved(), "žlutý".encode("cp1250"))
+
+
+class CompositorInAWindow(Screen):
+    """A compositor that has a keyboard: that of an X screen, which the programs on it don't see."""
+
+    def begin(self):
+        super().begin()
+        self.serve("weston", "--backend=x11-backend.so", "--use-pixman", "--socket=pelmar-test", "--no-config",
+                   "--idle-time=0", "--log=/dev/stdout")
+
+
+class WaylandClipboardTest(BusCase):
+    screen = CompositorInAWindow
+    environment = BusCase.environment | {"WAYLAND_DISPLAY": "pelmar-test", "QT_QPA_PLATFORM": "wayland"}
+
+    def test_a_new_copy_begins_with_the_clipboard(self):
+        self.wait((self.home / "runtime" / "pelmar-test").exists, "the compositor", needs_program=False)
+        self.start(title=None)
+        owner = self.find("Pelmar VEX ()", "text", TEXT)
+        self.wait(lambda: has(owner, "FOCUSED"), "the keyboard")
+        self.work('"copied" F4 ctrl+k')
+        self.wait(lambda: owner.get_text(0, -1) == "copied", "the text")
+        second = subprocess.Popen([PROGRAM, "-NOMSG"], env={**self.env, **self.environment})
+        self.addCleanup(second.wait)
+        self.addCleanup(second.kill)
+        def texts():
+            return [node.get_text(0, -1) for window in self.on_show("Pelmar VEX ()") for node in walk(window)
+                    if face(node) == ("text", TEXT) and window.get_name() == "Pelmar VEX ()"]
+        self.wait(lambda: texts() == ["copied"], lambda: f"the clipboard's text in the second copy: {texts()}")
 
 
 if __name__ == "__main__":

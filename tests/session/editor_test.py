@@ -75,6 +75,8 @@ class EditorTest(EditorCase):
                 self.assertEqual(run(switch, stdout=full).returncode, 1)
         done = run("--help", "x", capture_output=True)  # a file, which needs a display
         self.assertEqual((done.returncode, done.stdout, b"DISPLAY" in done.stderr), (1, b"", True))
+        done = subprocess.run([PROGRAM], env={"HOME": str(home), "DISPLAY": ":9999"}, timeout=15, capture_output=True)
+        self.assertEqual((done.returncode, b"DISPLAY: :9999" in done.stderr), (1, True), done.stderr)
         self.assertEqual(list(home.iterdir()), [])
 
     def test_keyboard_on_the_screen(self):

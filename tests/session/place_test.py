@@ -93,6 +93,29 @@ class PlaceTest(EditorCase):
             self.end(main, answer=None)
             self.assertEqual(self.stored(), (*place, 0 if shown else 1))
 
+    def test_dialogs_stand_above_the_notes(self):
+        def stacked(*windows):
+            """Whether they stand in this order from below."""
+            told = self.command("xprop", "-root", "_NET_CLIENT_LIST_STACKING")
+            order = [int(number, 16) for number in re.findall(r"0x\w+", told)]
+            return sorted(windows, key=lambda window: order.index(window.id)) == list(windows)
+        main = self.start()
+        self.work("F7")
+        calculator = self.wait_centred("Pelmar VEX - Kalkulátor")
+        self.activate(main)
+        self.work("F9")
+        notes = self.wait_centred("Poznámky")
+        self.activate(main)
+        line = self.work("ctrl+h [Html horizontální čára]")
+        self.wait(lambda: stacked(notes, line), "the new dialog above the notes")
+        self.wait(lambda: stacked(calculator, notes), "the older one below them")
+        self.activate(calculator)
+        self.wait(lambda: stacked(notes, calculator), "the older one above them once it is used")
+        self.activate(notes)
+        self.work("[Poznámky] alt+F4 /")
+        for dialog in (calculator, line):
+            self.wait(lambda: "ABOVE" not in self.command("xprop", "-id", dialog.id, "_NET_WM_STATE"), "an end of that")
+
     def test_notes_dock_and_snap(self):
         def beside(*_):
             left, top, width, height = self.place(main)

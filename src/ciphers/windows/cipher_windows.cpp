@@ -19,9 +19,7 @@ void RotateSelection(const ProgramParts& parts) {
 void AddCipherWindows(const ProgramParts& parts) {
   const auto text = std::ref(parts.editor.text);
   const auto platform = std::ref(parts.platform);
-  // Behind the close everything is stored, and a run that still goes on would rewrite the document once more.
-  const auto selected_tab = [parts] { return parts.doors.closed() ? 0 : parts.editor.documents.SelectedTab(); };
-  parts.Add<ZaKod>({"mnucode"}, text, platform, selected_tab);
+  parts.Add<ZaKod>({"mnucode"}, std::ref(parts.editor), [&closed = parts.doors.closed] { return closed(); });
   parts.Add<ShiftKod>({"mnu_encrypt_shift"}, text, platform);
   parts.Add<Confeld>({"Mnu_Encrypt_Confeld"}, text, platform);
   parts.Add<RND_Sifra>({"mnu_rnd_encrypt"}, std::ref(parts.editor));

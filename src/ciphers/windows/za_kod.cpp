@@ -7,14 +7,14 @@
 #include "ciphers/windows/rewriting_field.h"
 #include "ciphers/xor_cipher.h"
 #include "platform/qt/controls/field_helpers.h"
-#include "platform/qt/convert.h"
+#include "shell/editor.h"
 #include "text/number_text.h"
 #include "ui_za_kod.h"
 
 namespace pelmar {
 
-ZaKod::ZaKod(TextBuffer& document, Platform& platform, std::function<int()> selected_tab, QWidget* parent)
-    : FormDialog(parent), document_(document), platform_(platform), selected_tab_(std::move(selected_tab)) {
+ZaKod::ZaKod(Editor& editor, std::function<bool()> closed, QWidget* parent)
+    : FormDialog(parent), editor_(editor), closed_(std::move(closed)) {
   RewriteOnChange(ui_->Text1, KeyText);
   connect(ui_->Command1, &QPushButton::clicked, this, &ZaKod::Command1_Click);
   connect(ui_->Command2, &QPushButton::clicked, this, &ZaKod::hide);
@@ -24,18 +24,25 @@ ZaKod::ZaKod(TextBuffer& document, Platform& platform, std::function<int()> sele
 void ZaKod::Command1_Click() {
   if (running_) return;  // pressed again while the rewrite below lets the windows live
   const QScopedValueRollback<bool> running(running_, true);
-  ui_->Txt->clear();
+  ui_->Txt->Buffer().SetText({});
   const double key = LeadingNumber(FieldText(*ui_->Text1));
-  const int tab = selected_tab_();
-  ui_->ProgressBar1->setMaximum(std::max(1, static_cast<int>(document_.Size())));  // a maximum of 0 means another thing
+  const auto length = static_cast<int>(editor_.text.Size());
+  ui_->ProgressBar1->setMaximum(std::max(1, length));  // a maximum of 0 means another thing
   ui_->ProgressBar1->setValue(0);
+  // The result belongs to no other document than the one that it comes from.
+  const Documents& documents = editor_.documents;
+  const auto same_document = [&documents, tab = documents.SelectedTab(), path = documents.CurrentPath()] {
+    return documents.SelectedTab() == tab && documents.CurrentPath() == path;
+  };
+  bool replaced = false;
+  const Listening changes = editor_.text.OnChange([&replaced](const TextChange& change) { replaced |= change.whole; });
   std::string output;
-  RewriteStream(document_, key, output, platform_, [this, tab](std::size_t done) {
+  RewriteStream(editor_.text, key, output, editor_.platform, [&](std::size_t done) {
     ui_->ProgressBar1->setValue(static_cast<int>(done));
     QCoreApplication::processEvents();
-    return selected_tab_() == tab;
+    return same_document() && !replaced && !closed_();
   });
-  ui_->Txt->setText(TextToQString(output));
+  ui_->Txt->Buffer().SetText(std::move(output));
 }
 
 }  // namespace pelmar

@@ -1,6 +1,7 @@
 #include "platform/qt/asker.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QPointer>
 #include <QWidget>
 #include <QWindow>
@@ -40,14 +41,15 @@ void ExpectActive(QWidget* window) {
   if (window != nullptr && window->isVisible()) window->activateWindow();
 }
 
-void PutAboveAll(QWidget& window) {
-  const auto on_top = [](const QWidget* one) {
-    if (!one->isVisible()) return false;
+bool HasWindowOnTop() {
+  return std::ranges::any_of(QApplication::topLevelWidgets(), [](const QWidget* one) {
+    if (!one->isVisible() || qobject_cast<const QDialog*>(one)) return false;
     const QWindow* system = one->windowHandle();
     return (system != nullptr ? system->flags() : one->windowFlags()).testFlag(Qt::WindowStaysOnTopHint);
-  };
-  SetAlwaysOnTop(window, std::ranges::any_of(QApplication::topLevelWidgets(), on_top));
+  });
 }
+
+void PutAboveAll(QWidget& dialog) { SetAlwaysOnTop(dialog, HasWindowOnTop()); }
 
 void ShowOnAskersScreen(QWidget& window) {
   if (const QWidget* asker = Asker()) window.setScreen(asker->screen());

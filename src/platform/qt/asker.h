@@ -12,8 +12,10 @@ QWidget* Asker();
 // This window is to be the active one, though the window manager may make it so only later.
 void ExpectActive(QWidget* window);
 
-// What waits for an answer must not lie under a window of ours that stays on top. For a window that isn't on show.
-void PutAboveAll(QWidget& window);
+// True while a window of ours is on show that stays on top. Dialogs don't count: they do so because of such a window.
+bool HasWindowOnTop();
+// A dialog must not lie under such a window: it stays on top as well, or no longer, once there is none.
+void PutAboveAll(QWidget& dialog);
 
 // A window that was never on show is to come up on the screen of the one that asks.
 void ShowOnAskersScreen(QWidget& window);

@@ -2,6 +2,7 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QWindow>
 #include <utility>
 
 #include "platform/qt/clipboard_owner.h"
@@ -28,6 +29,11 @@ void Clipboard::SetText(std::string_view text) {
 void Clipboard::Clear() {
   ++revision_;
   QGuiApplication::clipboard()->clear();
+}
+
+void WhenClipboardComes(QObject& context, std::function<void()> act) {
+  if (!QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) return;
+  QObject::connect(qGuiApp, &QGuiApplication::focusWindowChanged, &context, std::move(act), Qt::SingleShotConnection);
 }
 
 }  // namespace pelmar

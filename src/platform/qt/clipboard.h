@@ -4,6 +4,7 @@
 
 #include <QObject>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -27,5 +28,10 @@ class Clipboard : public QObject {
   std::uint64_t revision_ = 1;
   std::uint64_t fetched_ = 0;  // the revision whose text is here
 };
+
+// Wayland tells the clipboard's content only to the program that has the keyboard: there `act` is called when a window
+// gets it for the first time, for as long as `context` lives. Elsewhere the content is known from the start on, and
+// nothing is called.
+void WhenClipboardComes(QObject& context, std::function<void()> act);
 
 }  // namespace pelmar

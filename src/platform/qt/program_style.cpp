@@ -2,9 +2,11 @@
 
 #include <QAbstractItemView>
 #include <QDialogButtonBox>
+#include <QMenu>
 #include <QMenuBar>
 #include <QPainter>
 #include <QPushButton>
+#include <QScreen>
 #include <QStyleOptionMenuItem>
 #include <QToolButton>
 #include <algorithm>
@@ -55,6 +57,22 @@ bool HasKeyboard(const QWidget* widget) { return widget != nullptr && widget->ha
 // Enter presses it instead of the window's default button.
 bool TakesEnter(const QWidget* widget) {
   return qobject_cast<const QPushButton*>(widget) || qobject_cast<const QToolButton*>(widget);
+}
+
+// An item of a menu that fits the screen so, down to the height of its letters: the toolkit would put the last items
+// into a second column.
+int HeightInMenu(const QMenu& menu, int usual) {
+  constexpr int kSeparator = 8, kFrame = 8;
+  int items = 0, around = kFrame;
+  for (const QAction* action : menu.actions()) {
+    if (!action->isVisible()) continue;
+    if (action->isSeparator())
+      around += kSeparator;
+    else
+      ++items;
+  }
+  const int fitting = (menu.screen()->availableGeometry().height() - around) / std::max(items, 1);
+  return std::min(usual, std::max(fitting, menu.fontMetrics().height()));
 }
 
 void DrawKeyboardFrame(QPainter& painter, const QStyleOption& option) {
@@ -111,6 +129,11 @@ QSize ProgramStyle::sizeFromContents(ContentsType type, const QStyleOption* opti
   const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
   if (type == CT_PushButton && button != nullptr && !button->text.isEmpty())
     size.setWidth(std::max(size.width(), contents.width() + 2 * kBesideCaption));
+  const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+  const auto* menu = qobject_cast<const QMenu*>(widget);
+  if (type == CT_MenuItem && menu != nullptr && item != nullptr &&
+      item->menuItemType != QStyleOptionMenuItem::Separator)
+    size.setHeight(HeightInMenu(*menu, size.height()));
   return size;
 }
 

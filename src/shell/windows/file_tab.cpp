@@ -10,6 +10,7 @@ namespace pelmar {
 namespace {
 
 constexpr int kTallestTab = 160;
+constexpr int kUnnamedTab = 24;
 constexpr int kCaptionMargin = 6;
 constexpr int kCorner = 4;
 constexpr int kDot = 6;
@@ -60,7 +61,16 @@ void FileTab::SetStripWidth(int width) {
   update();
 }
 
-QSize FileTab::tabSizeHint(int) const { return {width(), std::min(height() / kTabCount, kTallestTab)}; }
+// All alike where the captions have room; else tabs without one leave theirs to the others.
+QSize FileTab::tabSizeHint(int index) const {
+  int widest = 0;
+  for (const QString& caption : captions_) widest = std::max(widest, fontMetrics().horizontalAdvance(caption));
+  const int alike = std::min(height() / kTabCount, kTallestTab);
+  const auto unnamed = static_cast<int>(std::ranges::count_if(captions_, &QString::isEmpty));
+  if (widest + 2 * kCaptionMargin <= alike || unnamed == kTabCount || alike < kUnnamedTab) return {width(), alike};
+  if (captions_[static_cast<std::size_t>(index)].isEmpty()) return {width(), kUnnamedTab};
+  return {width(), std::min((height() - unnamed * kUnnamedTab) / (kTabCount - unnamed), kTallestTab)};
+}
 QSize FileTab::minimumTabSizeHint(int index) const { return tabSizeHint(index); }
 
 QRect FileTab::VisibleRect(int index) const {
@@ -103,7 +113,7 @@ void FileTab::PaintTab(QPainter& painter, int index) const {
                                             : QPalette::ButtonText));
   painter.drawText(
       turned, Qt::AlignCenter | Qt::TextSingleLine,
-      fontMetrics().elidedText(unnamed ? QString::number(index + 1) : name, Qt::ElideMiddle, turned.width()));
+      fontMetrics().elidedText(unnamed ? QString::number(index + 1) : name, Qt::ElideRight, turned.width()));
   painter.restore();
 }
 

@@ -146,7 +146,9 @@ TEST_F(AllWindows, FitASmallScreenWithLargeLetters) {
   }
   program.Windows().ForEach([](QWidget& window) {
     if (auto* dialog = qobject_cast<DialogWindow*>(&window)) {
+      const int height = std::min(window.height(), kTinyScreen.height());
       dialog->FitInto(kTinyScreen);
+      EXPECT_TRUE(window.property("sizedByContents").toBool() || window.height() >= height) << Named(&window);
       Show(window);
       ExpectButtonsInSight(window);
       window.hide();
@@ -159,7 +161,7 @@ TEST_F(AllWindows, FitASmallScreenWithLargeLetters) {
 
 TEST_F(AllWindows, AreWithinEverybodysReach) {
   Program program(platform);
-  std::string limits;
+  std::string limits, headings;
   program.Windows().ForEach([&](QWidget& window) {
     Show(window);
     EXPECT_NE(QAccessible::queryAccessibleInterface(&window)->role(), QAccessible::Client) << Named(&window);
@@ -171,6 +173,11 @@ TEST_F(AllWindows, AreWithinEverybodysReach) {
       if (widget->focusPolicy() != Qt::NoFocus || Is(widget, {"QAbstractButton", "QAbstractSlider", "QTabBar"}))
         ExpectReach(widget);
       if (widget->inherits("QScrollBar")) ExpectGreyTogether(widget);
+    }
+    if (auto* options = window.findChild<QWidget*>(QStringLiteral("alignments"))) {
+      const QAccessibleInterface* group = QAccessible::queryAccessibleInterface(options);
+      EXPECT_EQ(group->role(), QAccessible::Grouping);
+      headings += group->text(QAccessible::Name).toStdString() + ", ";
     }
     ExpectWholeCaptions(window);
     ExpectNoOverlap(window);
@@ -186,6 +193,7 @@ TEST_F(AllWindows, AreWithinEverybodysReach) {
     }
     window.hide();
   });
+  EXPECT_EQ(headings, "Zarovnání čáry, Zarovnat nadpis :, Zarovnat odstavec :, ");
   // No other field cuts what it is given.
   EXPECT_EQ(limits,
             "Pass.Text1 8, ZaKod.Text1 15, Config.Text3 8, Config.Text4 8, Confeld.Text1 15, Analytic.Text2 1, ");

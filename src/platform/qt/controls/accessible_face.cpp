@@ -31,8 +31,13 @@ void SetAccessibleRole(QWidget& widget, QAccessible::Role role) {
 
 void LabelBoxes(QWidget& window) {
   std::map<const QWidget*, const QLabel*> labels;
-  for (const QLabel* label : window.findChildren<QLabel*>())
-    if (label->buddy() != nullptr) labels[label->buddy()] = label;
+  for (const QLabel* label : window.findChildren<QLabel*>()) {
+    if (label->buddy() == nullptr) continue;
+    labels[label->buddy()] = label;
+    // The heading of options is the name of the group that they lie in.
+    if (label->buddy()->metaObject() == &QWidget::staticMetaObject)
+      SetAccessibleRole(*label->buddy(), QAccessible::Grouping);
+  }
   for (QComboBox* box : window.findChildren<QComboBox*>()) {
     const auto label = labels.find(box);
     QString name = box->accessibleName();

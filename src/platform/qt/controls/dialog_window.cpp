@@ -15,6 +15,7 @@
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QToolButton>
+#include <QWindow>
 #include <algorithm>
 
 #include "platform/qt/asker.h"
@@ -114,13 +115,11 @@ void DialogWindow::Present() {
 
 int DialogWindow::exec() {
   const QPointer<QWidget> asker = Asker();
-  PutAboveAll(*this);
   if (prepared_ && asker && asker->screen() != screen()) {
     ShowOnAskersScreen(*this);
     CentreOnScreen(*this);
   }
   const int result = QDialog::exec();
-  SetAlwaysOnTop(*this, false);
   ExpectActive(asker);
   return result;
 }
@@ -186,6 +185,7 @@ bool DialogWindow::GoToNextField() {
 void DialogWindow::showEvent(QShowEvent* event) {
   if (event->spontaneous()) return QDialog::showEvent(event);
   if (!prepared_) Prepare();
+  PutAboveAll(*this);
   setAttribute(Qt::WA_KeyboardFocusChange);  // what has the keyboard shows it from the first moment on
   QDialog::showEvent(event);
   BeginInFirstField();
@@ -216,6 +216,10 @@ void DialogWindow::Prepare() {
     connect(option, &QRadioButton::toggled, this, gather);
     gather();
   }
+  // One that the notes were opened over comes above them as soon as it is used.
+  connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* now) {
+    if (isVisible() && (now == windowHandle() || !HasWindowOnTop())) PutAboveAll(*this);
+  });
   // The default button looks like it only while no other button would take Enter.
   connect(qApp, &QApplication::focusChanged, this, [this] {
     if (!isVisible()) return;  // nor while it ends

@@ -56,8 +56,8 @@ void KeyCap::paintEvent(QPaintEvent* /*event*/) {
   QStyleOptionButton option;
   initStyleOption(&option);
   PaintFrame(painter, option);
-  // A key that is higher than wide has a word a line.
-  const QString caption = height() > width() ? Words(text()).join(QLatin1Char('\n')) : text();
+  // The caption of a key that is higher than wide is one word, cut up to be written below each other.
+  const QString caption = height() > width() ? Words(text()).join(QString()) : text();
   PaintCaption(painter, *this, caption, QPalette::ButtonText);
 }
 

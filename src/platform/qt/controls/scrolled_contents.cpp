@@ -71,7 +71,7 @@ void ScrollContents(QWidget& window, const QList<QPushButton*>& ending) {
   if (buttons != nullptr) outer->addLayout(buttons);
 
   const int bar = view->verticalScrollBar()->sizeHint().width();
-  window.resize(needed + QSize(bar, bar));
+  window.resize((needed + QSize(bar, bar)).expandedTo(window.size()));
 }
 
 }  // namespace pelmar
