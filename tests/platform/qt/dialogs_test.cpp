@@ -163,7 +163,7 @@ TEST(FileDialog, StartsWithTheGivenFilterAndRemembersTheFolder) {
   EXPECT_EQ(ask(FileDialogKind::kSave, 1, save), letter.filePath());
 }
 
-TEST(DialogWindow, IsCentredOnceAndKeepsItsPlace) {
+TEST(DialogWindow, IsCentredOnceAndKeepsItsPlaceOrEachTime) {
   DialogWindow dialog(nullptr);
   dialog.resize(300, 9000);
   dialog.Present();
@@ -175,6 +175,10 @@ TEST(DialogWindow, IsCentredOnceAndKeepsItsPlace) {
   dialog.hide();
   dialog.Present();
   EXPECT_EQ(dialog.pos(), QPoint(5, 6));
+  dialog.setProperty("centredEachTime", true);
+  dialog.hide();
+  dialog.Present();
+  EXPECT_LE((dialog.frameGeometry().center() - screen.center()).manhattanLength(), 12);
   dialog.showMinimized();
   dialog.Present();
   EXPECT_FALSE(dialog.isMinimized());

@@ -187,7 +187,10 @@ bool DialogWindow::GoToNextField() {
 
 void DialogWindow::showEvent(QShowEvent* event) {
   if (event->spontaneous()) return QDialog::showEvent(event);
-  if (!prepared_) Prepare();
+  if (!prepared_)
+    Prepare();
+  else if (property("centredEachTime").toBool())
+    CentreOnScreen(*this);
   setAttribute(Qt::WA_KeyboardFocusChange);  // what has the keyboard shows it from the first moment on
   QDialog::showEvent(event);
   BeginInFirstField();
