@@ -3,7 +3,9 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QListView>
 #include <QPushButton>
+#include <QStyledItemDelegate>
 #include <QTabBar>
 #include <QTest>
 #include <QTreeWidget>
@@ -455,6 +457,10 @@ TEST_F(HtmlDialogs, ListsOfItems) {
     QTest::keyClick(item, Qt::Key_Return);
   }
   ExpectState(bullets, "", "List1=2|3 Command2=O&deber");
+  for (const char* command : {"mnulist", "mnulistcount"}) {
+    auto* delegate = qobject_cast<QStyledItemDelegate*>(Find<QListView>(Open(command), "List1")->itemDelegate());
+    EXPECT_EQ(delegate->displayText(QStringLiteral("a\r\nb"), {}), QStringLiteral("a¶b")) << command;
+  }
 
   const QWidget& terms = Open("MnuListDef");
   ExpectState(terms, "Command1! Atribut=a Hodnota=''", "Command1=(&Přidej)");  // required: by the last change
