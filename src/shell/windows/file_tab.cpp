@@ -51,7 +51,7 @@ void FileTab::NameTab(int tab) {
   const auto at = static_cast<std::size_t>(tab - 1);
   const QString spoken = captions_[at].isEmpty() ? QStringLiteral("nový soubor") : captions_[at];
   const QString state = unsaved_[at] ? QStringLiteral(", neuloženo") : QString();
-  setAccessibleTabName(tab - 1, QStringLiteral("Dokument %1: %2%3").arg(tab).arg(spoken, state));
+  setAccessibleTabName(tab - 1, QStringLiteral("Dokument %1, %2%3").arg(tab).arg(spoken, state));
 }
 
 void FileTab::SetStripWidth(int width) {

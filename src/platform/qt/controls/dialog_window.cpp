@@ -104,7 +104,10 @@ void DialogWindow::ScaleLetters() {
   }
 }
 
-DialogWindow::DialogWindow(QWidget* parent) : QDialog(parent) { setProperty(kRoomProperty, true); }
+DialogWindow::DialogWindow(QWidget* parent) : QDialog(parent) {
+  InstallLabelFaces();
+  setProperty(kRoomProperty, true);
+}
 
 void DialogWindow::Present() {
   const bool on_show = isVisible();
