@@ -75,7 +75,7 @@ bool Calculator::Evaluate() {
   const bool by_zero = a && b && operation == "/" && *b == 0;
   const bool done = a && b && !by_zero && Put(Combine(operation.front(), *a, *b));
   if (by_zero) platform_.Message(MessageType::kOk, "Není možno dělit nulou", "Dělení");
-  if (!done && !by_zero) Refuse();
+  if (!done && !by_zero) TellNoResult();
   EndOperation();
   return done;
 }
@@ -96,14 +96,13 @@ bool Calculator::Put(double result) {
   return true;
 }
 
-void Calculator::Refuse() {
-  platform_.Message(MessageType::kOk, "Výsledek nelze vypočítat", "Kalkulátor");
-  EndOperation();
-}
+void Calculator::TellNoResult() { platform_.Message(MessageType::kOk, "Výsledek nelze vypočítat", "Kalkulátor"); }
 
 void Calculator::Apply(double (*function)(double)) {
   const std::optional<double> x = Read(shown);
-  if (!x || !Put(function(*x))) Refuse();
+  if (x && Put(function(*x))) return;
+  TellNoResult();
+  EndOperation();
 }
 
 void Calculator::Square() {

@@ -57,7 +57,7 @@ class Calculator {
  private:
   void Apply(double (*function)(double));
   bool Put(double result);
-  void Refuse();
+  void TellNoResult();
   void EndOperation();
 
   Platform& platform_;

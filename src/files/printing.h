@@ -27,7 +27,7 @@ struct PrintedPiece {
 std::vector<PrintedPiece> LayOutForPrint(std::string_view text, double page_width,
                                          const std::function<double(double x, std::string_view text)>& end_of);
 
-// What a print of the document is called: its file's name without folder and extension.
+// What a print of the document is called: its file's name without the folder, the program's name where it has no file.
 std::string PrintName(std::string_view path);
 
 // Asks about a selection and prints. Throws RuntimeError where the printer fails.

@@ -31,11 +31,10 @@ void Finder::Start() {
   }
   snapshot_.SetText(std::move(text));
   history.push_back(find);  // required: after the change to upper case, so the list holds upper case
-  count = position = 0;
+  count = position = std::nullopt;
   if (const auto hit = FindFrom(snapshot_.Text(), find, 0)) return Show(*hit);
   TellNothing();
   GoIdle();
-  count = position = std::nullopt;
 }
 
 void Finder::Next() {

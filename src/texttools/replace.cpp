@@ -36,9 +36,8 @@ bool Replacer::Start() {
   snapshot_.SetText(std::move(text));
   found_pos_ = replaced_count_ = found_count_ = 0;
   if (Seek()) return true;
-  GoIdle();
   found_shown = replaced_shown = std::nullopt;
-  if (document_.HasSelection()) find = document_.SelText();
+  TellNothing();
   return false;
 }
 
@@ -56,18 +55,12 @@ void Replacer::Replace() {
 }
 
 void Replacer::SeekOn() {
-  if (Seek()) return;
-  GoIdle();
-  if (document_.HasSelection()) find = document_.SelText();
+  if (!Seek()) TellNothing();
 }
 
 bool Replacer::Seek() {
   const auto hit = FindFrom(snapshot_.Text(), find, found_pos_);
-  if (!hit) {
-    if (before_message) before_message();
-    TellNothingFound(platform_);
-    return false;
-  }
+  if (!hit) return false;
   found_shown = ++found_count_;
   found_pos_ = *hit;
   SelectHit(document_, *hit, find.size());
@@ -75,10 +68,12 @@ bool Replacer::Seek() {
   return true;
 }
 
-// required: Replace all stays enabled
-void Replacer::GoIdle() {
+void Replacer::TellNothing() {
+  if (before_message) before_message();
+  TellNothingFound(platform_);
   case_on = lists_on = find_on = change_on = true;
-  step_on = false;
+  step_on = false;  // required: Command6 stays on
+  if (document_.HasSelection()) find = document_.SelText();
 }
 
 void Replacer::ReplaceAll() {

@@ -47,8 +47,8 @@ class Replacer {
 
  private:
   bool Seek();
-  void GoIdle();
   void SeekOn();
+  void TellNothing();
 
   TextBuffer& document_;
   Platform& platform_;

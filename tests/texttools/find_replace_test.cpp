@@ -23,6 +23,7 @@ std::string Number(const std::optional<std::size_t>& number) { return number ? s
 struct SearchTest : testing::Test {
   ScriptedPlatform platform;
   TextBuffer text;
+  std::string told_by;  // the labels behind the last message
 
   // Both dialogs take steps as letters: L the load, S start, N next, W new, "i" ignores case, "x" puts another text
   // into the document, a digit picks a row of the history.
@@ -36,16 +37,17 @@ struct SearchTest : testing::Test {
     if (step == 'W') search.New();
     if (step == 'x') text.SetText("short text");
   }
-  // The term and the document, and what the last step told, "!" for nothing found.
+  // The term and the document, and what the last step told, "!" for nothing found with the labels behind it.
   std::string Texts(const std::string& term) {
     const std::string told = platform.TakeTold();
-    return ' ' + term + ' ' + Marked(text) + (told == kNothingFound ? " !" : told);
+    return ' ' + term + ' ' + Marked(text) + (told == kNothingFound ? " !" + told_by : told);
   }
   // The fields that are on (find, case, history, next), count and position.
   std::string Finding(std::string_view document, std::string_view term, std::string_view steps) {
     PutMarked(text, document);
     Finder finder(text, platform);
     finder.find = term;
+    finder.before_message = [&] { told_by = Number(finder.count) + '@' + Number(finder.position); };
     for (const char step : steps) {
       Do(finder, step);
       if (step == 'S') finder.Start();
@@ -61,6 +63,7 @@ struct SearchTest : testing::Test {
     PutMarked(text, document);
     Replacer replacer(text, platform);
     replacer.find = term;
+    replacer.before_message = [&] { told_by = Number(replacer.found_shown) + '/' + Number(replacer.replaced_shown); };
     replacer.change = change;
     for (const char step : steps) {
       Do(replacer, step);
@@ -91,17 +94,17 @@ TEST_F(SearchTest, FindStepsThroughASnapshot) {
       {"a[bc|", "", "L", "fch -@- bc a[bc|"},
       {"|aaaa", "aa", "S", "n 1@0 aa [aa|aa"},
       {"|aaaa", "aa", "SN", "n 2@1 aa a[aa|a"},
-      {"|aaaa", "aa", "SNNN", "fch 3@2 aa aa[aa| !"},  // required: the labels stay behind the last one
-      {"|aaaa", "aa", "SNNNSW", "fh 1@0 aa [aa|aa"},   // required: the check mark stays off
+      {"|aaaa", "aa", "SNNN", "fch 3@2 aa aa[aa| !3@2"},  // required: the labels stay behind the last one
+      {"|aaaa", "aa", "SNNNSW", "fh 1@0 aa [aa|aa"},      // required: the check mark stays off
       {"|aaaa", "aa", "SxW", "fh 1@0 Text |short text"},
-      {"a[b|c", "z", "S", "fch -@- b a[b|c !"},
+      {"a[b|c", "z", "S", "fch -@- b a[b|c !-@-"},
       {"a[b|c", "z", "S10", "fch -@- z a[b|c"},
       {"|xx čaj Čaj"_w, "čaj"_w, "iS", "n 1@3 ČAJ xx [čaj| Čaj"_w},
-      {"|xx čaj Čaj"_w, "čaj"_w, "iSNN", "fch 2@7 Čaj xx čaj [Čaj| !"_w},  // as the document has it
-      {"|xx čaj Čaj"_w, "čaj"_w, "iSNN0", "fch 2@7 ČAJ xx čaj [Čaj|"_w},   // required: upper-cased
+      {"|xx čaj Čaj"_w, "čaj"_w, "iSNN", "fch 2@7 Čaj xx čaj [Čaj| !2@7"_w},  // as the document has it
+      {"|xx čaj Čaj"_w, "čaj"_w, "iSNN0", "fch 2@7 ČAJ xx čaj [Čaj|"_w},      // required: upper-cased
       {"|ab", "", "S", "n 1@0  |ab"},
-      {"|ab", "", "SNN", "fch 2@1  a|b !"},
-      {"|", "", "S", "fch -@-  | !"},
+      {"|ab", "", "SNN", "fch 2@1  a|b !2@1"},
+      {"|", "", "S", "fch -@-  | !-@-"},
       {"|one\r\ntwo one\r\ntwo", "e\r\ntwo", "S", "n 1@2 e\r\ntwo on[e\r\ntwo| one\r\ntwo"},
       {"|one\r\ntwo one\r\ntwo", "e\r\ntwo", "SxN", "n 2@11 e\r\ntwo short text|"},  // clipped to the live text
   };
@@ -117,8 +120,9 @@ TEST_F(SearchTest, ReplaceReadsItsReplacementAgain) {
       {"|a a a", "a", "ba", "iSR", "sa 2/1 A ba [a| a"},  // it isn't upper-cased
       {"|a a a", "a", "ba", "SRN", "sa 3/1 a ba [a| a"},
       {"|aaa", "aa", "X", "SN", "sa 2/- aa a[aa|"},
-      {"|a a a", "a", "ba", "SRN=RR", "frcla 4/3 a ba X X| !"},  // required: replace all outlives the search
-      {"a[b|c", "z", "", "S", "frcla -/- b a[b|c !"},
+      {"|a a a", "a", "ba", "SRN=RR", "frcla 4/3 a ba X X| !4/3"},  // required: replace all outlives the search
+      {"a[b|c", "z", "", "S", "frcla -/- b a[b|c !-/-"},
+      {"|a", "a", "", "SxS", "frcla -/- a |short text !-/-"},
       {"a[b|c", "b", "", "SxW", "frla 1/- Text |short text"},
       {"|a a a", "a", "b", "SxR", "sa 2/1 a bs[h|ort text"},
       {"|Čaj čaj"_w, "čaj"_w, "voda", "iSR", "sa 2/1 ČAJ voda [čaj|"_w},

@@ -86,6 +86,7 @@ void Analytic::Command1_Click() { AnalyseText(Source()); }
 
 void Analytic::Command3_Click() {
   const std::string sought = FieldText(*ui_->Text2);
+  if (TextToQString(sought) != ui_->Text2->text()) return;  // not in the code page, so in no text
   for (int row = 0; row < ui_->List1->count(); ++row) {
     if (CharOfRow(TextFromQString(ui_->List1->item(row)->text())) != sought[0]) continue;
     ui_->List1->setCurrentRow(row);

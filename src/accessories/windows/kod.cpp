@@ -37,7 +37,6 @@ Kod::Kod(TextBuffer& document, std::function<void(const QKeyEvent&)> stroke_main
     : FormDialog(parent), document_(document), stroke_main_(std::move(stroke_main)) {
   // The form's cells are for letters of 10 points.
   ui_->Picture1->setMinimumSize(ui_->Picture1->minimumSize() * (ui_->Picture1->font().pointSizeF() / 10));
-  ui_->Combo1->setCurrentText(QStringLiteral("Terminal"));
   ui_->Combo1->setCompleter(nullptr);  // it would make "Courier New" of a typed "Courier"
   connect(ui_->Combo1, &QComboBox::currentTextChanged, this, &Kod::Combo1_Change);
   connect(ui_->HScroll1, &QScrollBar::valueChanged, this, &Kod::HScroll1_Change);

@@ -13,7 +13,6 @@ Otevri::Otevri(Opener& opener, Platform& platform, QWidget* parent)
   ui_->Text2->SetText(ToBytes(kNoPreview));
   LinkFileBrowser(ui_->Drive1, ui_->Dir1, ui_->File1, ui_->Text1);
   connect(ui_->File1, &FileList::FileClicked, this, &Otevri::File1_Click);
-  connect(ui_->File1, &FileList::FileGone, this, [this] { ui_->Command1->setEnabled(false); });
   connect(ui_->File1, &FileList::FileActivated, ui_->Command1, &QPushButton::click);
   connect(ui_->Command1, &QPushButton::clicked, this, &Otevri::Command1_Click);
   connect(ui_->Command2, &QPushButton::clicked, this, &Otevri::hide);

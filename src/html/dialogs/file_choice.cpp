@@ -20,7 +20,6 @@ void FileChoice::Link(std::function<void(const std::string&)> show_in_browser) c
   LinkFileBrowser(places, folders, files, mask);
   const auto refresh = [choice = *this] { choice.Refresh(); };
   QObject::connect(files, &FileList::FileClicked, path, refresh);
-  QObject::connect(files, &FileList::FileGone, path, refresh);
   QObject::connect(files, &FileList::PathChanged, path, refresh);
   QObject::connect(files, &FileList::PatternChanged, path, refresh);
   QObject::connect(relative, &QCheckBox::toggled, path, refresh);
@@ -31,9 +30,8 @@ void FileChoice::Link(std::function<void(const std::string&)> show_in_browser) c
 void FileChoice::Refresh() const {
   const bool name_only = relative->isChecked();
   ShowPath(*path, name_only ? PathFromQString(files->FileName()) : PickedPath(*files));
-  if (!files->isEnabled()) return;
-  ok->setEnabled(HasFile());
   show->setEnabled(HasFile() && !name_only);
+  if (files->isEnabled()) ok->setEnabled(HasFile());
 }
 
 bool FileChoice::HasFile() const { return !files->FileName().isEmpty(); }

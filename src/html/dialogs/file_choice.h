@@ -1,6 +1,6 @@
 // The file that a picture, a frame or a link leads to, as four dialogs let a person choose it: a file browser with a
 // mask, the switch that keeps only the name, the label that shows the path, and the two buttons that need a file.
-// While `files` is disabled the choice is switched off, and the buttons are the dialog's own affair.
+// While `files` is disabled the choice is switched off, and `ok` is the dialog's own affair.
 #pragma once
 
 #include <functional>

@@ -2,6 +2,7 @@
 
 #include "html/dialogs/form_helpers.h"
 #include "html/dialogs/paired_lists.h"
+#include "platform/qt/controls/list_rows.h"
 #include "ui_cis_seznam.h"
 #include "ui_seznam.h"
 #include "ui_seznam_def.h"
@@ -17,6 +18,7 @@ ItemListDialog<Form>::ItemListDialog(TextBuffer& document, ListKind kind, QWidge
   QObject::connect(ui->Command1, &QPushButton::clicked, this, [this] { Command1_Click(); });
   QObject::connect(ui->Command2, &QPushButton::clicked, this, [this] { Command2_Click(); });
   this->OnEnter(ui->Text1, [this] { Command1_Click(); });
+  ShowRowsOnOneLine(*ui->List1);
   RemoveByKey(*ui->List1, *ui->Command2);
 }
 

@@ -12,6 +12,7 @@
 #include "html/browser_texts.h"
 #include "html/windows/web_address.h"
 #include "platform/qt/asker.h"
+#include "platform/qt/controls/accessible_face.h"
 #include "platform/qt/controls/elided_label.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/outer_geometry.h"
@@ -27,10 +28,11 @@ constexpr int kTimerInterval = 5;                 // ms
 constexpr qint64 kLongestPage = qint64{4} << 20;  // bytes that are looked at
 constexpr std::string_view kOpenFilter = "Všechno (*.*)|*.*|htm (*.htm)|*.htm|html (*.html)|*.html";
 
-QLabel* AddPanel(QStatusBar& bar, const char* name, const QString& accessible_name, int stretch) {
+QLabel* AddPanel(QStatusBar& bar, const char* name, const QString& value_name, int stretch) {
   QLabel* panel = stretch > 0 ? new ElidedLabel(&bar) : new QLabel(&bar);  // an address may be of any length
   panel->setObjectName(QLatin1String(name));
-  panel->setAccessibleName(accessible_name);
+  panel->setProperty(kValueName, value_name);
+  SetAccessibleRole(*panel, QAccessible::StaticText);
   panel->setTextFormat(Qt::PlainText);
   panel->setMargin(2);
   panel->setIndent(4);

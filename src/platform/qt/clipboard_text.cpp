@@ -36,6 +36,10 @@ std::string WithCrLf(std::string_view text) {
   return result;
 }
 
+QString WithCrLf(QString text) {
+  return text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\n', QLatin1String("\r\n"));
+}
+
 }  // namespace
 
 QMimeData* MimeFromText(std::string_view bytes) { return new TextMime(bytes); }
@@ -46,6 +50,12 @@ std::optional<std::string> TextFromMime(const QMimeData* mime) {
     return mime->data(own).toStdString();
   if (mime->hasFormat(kPlainMimeType)) return PageText(mime->text());
   return std::nullopt;
+}
+
+QString LineFromMime(const QMimeData& mime, bool holds_lines) {
+  const QString own = QString::fromLatin1(kBytesMimeType);
+  QString text = mime.hasFormat(own) ? TextToQString(ViewOf(mime.data(own))) : WithCrLf(mime.text());
+  return holds_lines ? text : text.remove(u'\r').remove(u'\n');
 }
 
 std::string PageText(const QString& foreign) {

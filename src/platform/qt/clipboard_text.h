@@ -19,6 +19,10 @@ QMimeData* MimeFromText(std::string_view bytes);
 // Nothing also for null.
 std::optional<std::string> TextFromMime(const QMimeData* mime);
 
+// The same for a single-line field: what is outside the code page stays as it is, and where the field holds no lines,
+// their breaks go.
+QString LineFromMime(const QMimeData& mime, bool holds_lines);
+
 // Foreign text in our code page: letters and their accents are joined first, a lone LF becomes CR LF.
 std::string PageText(const QString& foreign);
 

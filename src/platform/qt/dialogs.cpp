@@ -14,9 +14,9 @@
 #include <algorithm>
 #include <functional>
 
-#include "platform/qt/any_length.h"
 #include "platform/qt/asker.h"
 #include "platform/qt/convert.h"
+#include "platform/qt/line_edits.h"
 #include "platform/qt/outer_geometry.h"
 #include "platform/qt/svg_icon.h"
 
@@ -50,6 +50,16 @@ class Box : public QMessageBox {
 
  private:
   [[nodiscard]] bool IsQuestion() const { return standardButtons().testFlag(QMessageBox::No); }
+};
+
+// For a field that the toolkit has made.
+class PasteFilter : public QObject {
+ public:
+  using QObject::QObject;
+
+  bool eventFilter(QObject* field, QEvent* event) override {
+    return TakePasted(*static_cast<QLineEdit*>(field), *event);
+  }
 };
 
 // A dialog is its window's child, and dies with it should that close while the dialog waits.
@@ -166,7 +176,10 @@ std::optional<QString> AskForText(const QString& prompt, const QString& title, c
   dialog->setWindowTitle(title);
   dialog->setLabelText(prompt);
   dialog->setInputMode(QInputDialog::TextInput);
-  TakeAnyLength(*dialog->findChild<QLineEdit*>());
+  auto* field = dialog->findChild<QLineEdit*>();
+  TakeAnyLength(*field);
+  field->setProperty(kHoldsLines, true);
+  field->installEventFilter(new PasteFilter(field));
   dialog->setTextValue(initial);
   if (!dialog.Accepted()) return std::nullopt;
   return dialog->textValue();

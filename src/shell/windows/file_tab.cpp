@@ -53,7 +53,7 @@ void FileTab::NameTab(int tab) {
   const std::size_t at = IndexFromOne(tab);
   const QString spoken = captions_[at].isEmpty() ? QStringLiteral("nový soubor") : captions_[at];
   const QString state = unsaved_[at] ? QStringLiteral(", neuloženo") : QString();
-  setAccessibleTabName(tab - 1, QStringLiteral("Dokument %1: %2%3").arg(tab).arg(spoken, state));
+  setAccessibleTabName(tab - 1, QStringLiteral("Dokument %1, %2%3").arg(tab).arg(spoken, state));
 }
 
 void FileTab::SetStripWidth(int width) {

@@ -1,13 +1,13 @@
 #include "shell/windows/warning_label.h"
 
-#include <QAccessible>
-
 #include "platform/error_text.h"
+#include "platform/qt/controls/accessible_face.h"
 #include "platform/qt/convert.h"
 
 namespace pelmar {
 
 WarningLabel::WarningLabel(QWidget* parent) : ElidedLabel(parent) {
+  SetAccessibleRole(*this, QAccessible::Notification);
   setElideMode(Qt::ElideRight);
   setObjectName(QStringLiteral("Warning"));
   setContentsMargins(4, 0, 4, 0);
@@ -19,12 +19,6 @@ WarningLabel::WarningLabel(QWidget* parent) : ElidedLabel(parent) {
 QSize WarningLabel::sizeHint() const {
   const int whole = fontMetrics().horizontalAdvance(text()) + 1;
   return {contentsMargins().left() + whole + contentsMargins().right(), ElidedLabel::sizeHint().height()};
-}
-
-void WarningLabel::showEvent(QShowEvent* event) {
-  ElidedLabel::showEvent(event);
-  QAccessibleEvent alert(this, QAccessible::Alert);
-  QAccessible::updateAccessibility(&alert);
 }
 
 QString UnkeptTip(int error) {

@@ -13,9 +13,6 @@ class WarningLabel : public ElidedLabel {
 
   // What the whole text needs.
   QSize sizeHint() const override;
-
- protected:
-  void showEvent(QShowEvent* event) override;
 };
 
 // The tool-tip of a warning that unsaved work can't be kept in a rescue file just now, as on a full disk; with the

@@ -3,7 +3,9 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QListView>
 #include <QPushButton>
+#include <QStyledItemDelegate>
 #include <QTabBar>
 #include <QTest>
 #include <QTreeWidget>
@@ -428,8 +430,10 @@ TEST_F(HtmlDialogs, TheChosenFileLeadsLabelAndButtons) {
   Expect({{"mnuobr", "Combo1=*.gif File1=0 Command3!", "", R"(<IMG SRC="file://~/sub/k%F9.gif">)"}});
   EXPECT_EQ(shown, std::vector<std::string>{temp.File("sub/k\xF9.gif")});
   std::filesystem::remove(temp.File("sub/k\xF9.gif"));
-  dialog.show();
-  ExpectState(dialog, "", "Label1=~/sub/ Command1=(&Ok) Command3=()");
+  Expect({{"mnuobr", "", "", R"(<IMG SRC="file://~/sub/k%F9.gif">)"}});  // required: that it still exists isn't checked
+  const QWidget& link = Open("mnuodkazjiny");
+  ExpectState(link, "File1=0", "Label1=~/x.htm Command1=&Ok Command3=");
+  ExpectState(link, "Option2! Dir1=/ Option1!", "Label1=/ Command1=(&Ok) Command3=()");
 }
 
 TEST_F(HtmlDialogs, ListsOfItems) {
@@ -453,6 +457,10 @@ TEST_F(HtmlDialogs, ListsOfItems) {
     QTest::keyClick(item, Qt::Key_Return);
   }
   ExpectState(bullets, "", "List1=2|3 Command2=O&deber");
+  for (const char* command : {"mnulist", "mnulistcount"}) {
+    auto* delegate = qobject_cast<QStyledItemDelegate*>(Find<QListView>(Open(command), "List1")->itemDelegate());
+    EXPECT_EQ(delegate->displayText(QStringLiteral("a\r\nb"), {}), QStringLiteral("a¶b")) << command;
+  }
 
   const QWidget& terms = Open("MnuListDef");
   ExpectState(terms, "Command1! Atribut=a Hodnota=''", "Command1=(&Přidej)");  // required: by the last change

@@ -6,7 +6,9 @@
 #include <QtWidgets>
 #include <filesystem>
 
+#include "platform/qt/clipboard_text.h"
 #include "platform/qt/controls/dialog_window.h"
+#include "platform/qt/controls/field.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/program_style.h"
 #include "platform/qt/svg_icon.h"
@@ -58,10 +60,56 @@ TEST(InputBox, GivesTheTextOrNothing) {
   for (const auto& answer : answers) {
     InDialog<QInputDialog>([&](QInputDialog& box) {
       EXPECT_EQ(std::tuple(box.labelText(), box.windowTitle(), box.textValue()), std::tuple(prompt, title, initial));
-      box.findChild<QLineEdit*>()->setText(answer.value_or(initial));
+      auto* field = box.findChild<QLineEdit*>();
+      QGuiApplication::clipboard()->setText(QStringLiteral("a\nb"));
+      QTest::keyClick(field, Qt::Key_V, Qt::ControlModifier);  // over what is selected there
+      EXPECT_EQ(field->text(), QStringLiteral("a\r\nb"));
+      field->setText(answer.value_or(initial));
       answer ? box.accept() : box.reject();
     });
     EXPECT_EQ(AskForText(prompt, title, initial), answer);
+  }
+}
+
+TEST(Field, TakesPastedAndDroppedLinesAsADocumentHasThemOrWithoutTheirBreaks) {
+  QWidget window;
+  FieldBox box(&window);
+  Field line(&window);
+  window.show();
+  for (QLineEdit* field : {static_cast<QLineEdit*>(&line), box.lineEdit()}) {
+    QWidget* receiver = field == &line ? field : static_cast<QWidget*>(&box);
+    const auto paste = [&](QMimeData* mime) {
+      QGuiApplication::clipboard()->setMimeData(mime);
+      QTest::keyClick(receiver, Qt::Key_V, Qt::ControlModifier);
+    };
+    const auto choose = [&](QMimeData* mime) {
+      QGuiApplication::clipboard()->setMimeData(mime);
+      QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint());
+      QApplication::sendEvent(receiver, &event);
+      auto* menu = QApplication::activePopupWidget();
+      menu->actions().value(5)->trigger();  // behind Undo, Redo, a line, Cut and Copy
+      menu->close();
+    };
+    const auto drop = [&](QMimeData* mime) {
+      QDropEvent event(QPointF(1, 1), Qt::CopyAction, mime, Qt::LeftButton, {});
+      field->event(&event);  // the toolkit sends none behind no drag
+      delete mime;
+    };
+    for (const auto& road : std::initializer_list<std::function<void(QMimeData*)>>{paste, choose, drop}) {
+      for (const bool holds_lines : {false, true}) {
+        field->setProperty("holdsLines", holds_lines);
+        auto* theirs = new QMimeData;
+        theirs->setText(QStringLiteral("→\nb\r\nc"));
+        for (const auto& [mime, lines] : {std::pair{theirs, "→\r\nb\r\nc"}, {MimeFromText("a\nb\r\nc"), "a\nb\r\nc"}}) {
+          field->setText(QStringLiteral("x\ny"));  // what the program sets keeps its breaks
+          field->home(false);
+          road(mime);
+          QString pasted = QString::fromUtf8(lines);
+          if (!holds_lines) pasted.remove(u'\r').remove(u'\n');
+          EXPECT_EQ(field->text(), pasted + QStringLiteral("x\ny"));
+        }
+      }
+    }
   }
 }
 
@@ -113,7 +161,7 @@ TEST(FileDialog, StartsWithTheGivenFilterAndRemembersTheFolder) {
     EXPECT_EQ(ask(FileDialogKind::kSave, index, save_nameless), letter.path() + QStringLiteral("/README"));
 }
 
-TEST(DialogWindow, IsCentredOnceAndKeepsItsPlace) {
+TEST(DialogWindow, IsCentredOnceAndKeepsItsPlaceOrEachTime) {
   DialogWindow dialog(nullptr);
   dialog.resize(300, 9000);
   dialog.Present();
@@ -125,6 +173,10 @@ TEST(DialogWindow, IsCentredOnceAndKeepsItsPlace) {
   dialog.hide();
   dialog.Present();
   EXPECT_EQ(dialog.pos(), QPoint(5, 6));
+  dialog.setProperty("centredEachTime", true);
+  dialog.hide();
+  dialog.Present();
+  EXPECT_LE((dialog.frameGeometry().center() - screen.center()).manhattanLength(), 12);
   dialog.showMinimized();
   dialog.Present();
   EXPECT_FALSE(dialog.isMinimized());
@@ -272,12 +324,6 @@ TEST(SvgIcon, OfADamagedOrMissingPictureIsEmptyAndEachOfTheProgramDraws) {
       EXPECT_TRUE(dir == bad ? drawn == 0 : drawn > 24) << name.toStdString();
     }
   }
-  const auto more = [](QStyle::StandardPixmap picture) {
-    return QApplication::style()->standardIcon(picture).pixmap(24, 24).toImage();
-  };
-  EXPECT_EQ(more(QStyle::SP_ToolBarHorizontalExtensionButton),
-            SvgIcon(icons.filePath(QStringLiteral("more.svg"))).pixmap(24, 24).toImage());
-  EXPECT_NE(more(QStyle::SP_ToolBarVerticalExtensionButton), more(QStyle::SP_ToolBarHorizontalExtensionButton));
 }
 
 }  // namespace

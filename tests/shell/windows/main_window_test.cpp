@@ -93,14 +93,14 @@ TEST_F(MainWindowTest, AClickOrAKeySwitchesTheTabAndNamesStandAsTheyAre) {
   editor.text.SetText("first");
   QTest::mouseClick(tabs, Qt::LeftButton, {}, QPoint(tabs->width() - 5, tabs->tabRect(2).center().y()));
   ExpectState(window, "", "FileTab=2 Text1=");
-  EXPECT_EQ(tabs->accessibleTabName(0), QStringLiteral("Dokument 1: nový soubor, neuloženo"));
+  EXPECT_EQ(tabs->accessibleTabName(0), QStringLiteral("Dokument 1, nový soubor, neuloženo"));
   editor.documents.SwitchTo(1);
   ExpectState(window, "", "FileTab=0 Text1=first");
   platform.files["/a/b&c[*].txt"] = "x";
   editor.opener.OpenPath("/a/b&c[*].txt");
   EXPECT_EQ(tabs->tabText(0), QStringLiteral("b&&c[*].txt"));
   EXPECT_EQ(tabs->tabToolTip(0), QStringLiteral("/a/b&c[*].txt"));
-  EXPECT_EQ(tabs->accessibleTabName(0), QStringLiteral("Dokument 1: b&c[*].txt"));
+  EXPECT_EQ(tabs->accessibleTabName(0), QStringLiteral("Dokument 1, b&c[*].txt"));
   // The toolkit turns doubled placeholders into plain ones when it sets the system's title.
   EXPECT_EQ(window.windowTitle(), QStringLiteral("Pelmar VEX (/a/b&c[*][*].txt)"));
   Press(Qt::Key_Tab, Qt::ControlModifier);

@@ -12,21 +12,52 @@ namespace {
 
 constexpr char kRole[] = "PelmarRole";
 
+class LabelFace : public QAccessibleWidget {
+ public:
+  LabelFace(QLabel* label, QAccessible::Role role) : QAccessibleWidget(label, role), label_(*label) {}
+
+  [[nodiscard]] QString text(QAccessible::Text part) const override {
+    if (part != QAccessible::Name) return QAccessibleWidget::text(part);
+    const QString name = label_.property(kValueName).toString();
+    if (name.isEmpty() || label_.text().isEmpty()) return name + label_.text();
+    return name + QStringLiteral(": ") + label_.text();
+  }
+
+ private:
+  const QLabel& label_;
+};
+
 QAccessibleInterface* MakeFace(const QString&, QObject* object) {
-  const QVariant role = object->isWidgetType() ? object->property(kRole) : QVariant();
-  if (!role.isValid()) return nullptr;
-  return new QAccessibleWidget(static_cast<QWidget*>(object), static_cast<QAccessible::Role>(role.toInt()));
+  if (!object->isWidgetType()) return nullptr;
+  const QVariant given = object->property(kRole);
+  const auto role = given.isValid() ? static_cast<QAccessible::Role>(given.toInt()) : QAccessible::StaticText;
+  auto* label = qobject_cast<QLabel*>(object);
+  if (label != nullptr && (given.isValid() || label->property(kValueName).isValid())) return new LabelFace(label, role);
+  return given.isValid() ? new QAccessibleWidget(static_cast<QWidget*>(object), role) : nullptr;
 }
 
 }  // namespace
 
+void InstallLabelFaces() { QAccessible::installFactory(&MakeFace); }
+
 void SetAccessibleRole(QWidget& widget, QAccessible::Role role) {
-  static const bool installed = [] {
-    QAccessible::installFactory(&MakeFace);
-    return true;
-  }();
-  Q_UNUSED(installed);
+  QAccessible::installFactory(&MakeFace);
   widget.setProperty(kRole, static_cast<int>(role));
+}
+
+void Announce(QWidget& window, const QString& text) {
+  if (!QAccessible::isActive()) return;
+  const QString name = QStringLiteral("Announcement");
+  auto* said = window.findChild<QLabel*>(name);
+  if (said == nullptr) {
+    said = new QLabel(&window);
+    said->setObjectName(name);
+    said->hide();
+    SetAccessibleRole(*said, QAccessible::Notification);
+  }
+  said->setText(text);
+  QAccessibleEvent shown(said, QAccessible::ObjectShow);
+  QAccessible::updateAccessibility(&shown);
 }
 
 void LabelBoxes(QWidget& window) {

@@ -22,6 +22,15 @@ void InstallFace() {
 // For a widget that is only looked at, or a plain window, which would else be told of as a mere container.
 void SetAccessibleRole(QWidget& widget, QAccessible::Role role);
 
+// A dynamic property of a label that shows a value: what the value is. It is told before the value, where an accessible
+// name would take the value's place.
+inline constexpr char kValueName[] = "valueName";
+// Lets labels with that property tell it; before the first of them is made.
+void InstallLabelFaces();
+
+// Says what who can't see it wouldn't notice. Nothing where nobody listens.
+void Announce(QWidget& window, const QString& text);
+
 // The name of a box to choose from is what it holds, so what it is for has to come from a label. Boxes of the window
 // that have none on show get one that is hidden, with their accessible name; and the field of an editable box is named
 // too.

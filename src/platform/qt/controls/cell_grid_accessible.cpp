@@ -6,14 +6,14 @@ namespace pelmar {
 namespace {
 
 class CellAccessible : public QAccessibleInterface,
-                       public QAccessibleTableCellInterface,
                        public QAccessibleValueInterface,
                        public QAccessibleActionInterface {
  public:
   CellAccessible(CellGrid& grid, int number) : grid_(&grid), number_(number) {}
 
+  [[nodiscard]] int Number() const { return number_; }
+
   void* interface_cast(QAccessible::InterfaceType type) override {
-    if (type == QAccessible::TableCellInterface) return static_cast<QAccessibleTableCellInterface*>(this);
     if (type == QAccessible::ValueInterface) return static_cast<QAccessibleValueInterface*>(this);
     if (type == QAccessible::ActionInterface) return static_cast<QAccessibleActionInterface*>(this);
     return nullptr;
@@ -27,33 +27,24 @@ class CellAccessible : public QAccessibleInterface,
   [[nodiscard]] QAccessibleInterface* childAt(int, int) const override { return nullptr; }
   [[nodiscard]] int childCount() const override { return 0; }
   int indexOfChild(const QAccessibleInterface*) const override { return -1; }
-  [[nodiscard]] QAccessible::Role role() const override { return QAccessible::Cell; }
+  [[nodiscard]] QAccessible::Role role() const override { return QAccessible::ListItem; }
   [[nodiscard]] QString text(QAccessible::Text part) const override {
     return part == QAccessible::Name ? grid_->CellName(number_) : QString();
   }
   void setText(QAccessible::Text, const QString&) override {}
   [[nodiscard]] QRect rect() const override {
-    const QRect cell = grid_->CellRect(rowIndex() + 1, columnIndex() + 1);
+    const QRect cell = grid_->CellRect(number_ / grid_->Cells() + 1, number_ % grid_->Cells() + 1);
     return {grid_->mapToGlobal(cell.topLeft()), cell.size()};
   }
   [[nodiscard]] QAccessible::State state() const override {
     QAccessible::State state;
     state.focusable = state.selectable = true;
-    state.selected = isSelected();
-    state.focused = isSelected() && grid_->hasFocus();
+    state.selected = grid_->Marked() == number_;
+    state.focused = state.selected && grid_->hasFocus();
     state.active = state.focused;
     state.invisible = !grid_->isVisible();
     return state;
   }
-
-  [[nodiscard]] bool isSelected() const override { return grid_->Marked() == number_; }
-  [[nodiscard]] int rowIndex() const override { return number_ / grid_->Cells(); }
-  [[nodiscard]] int columnIndex() const override { return number_ % grid_->Cells(); }
-  [[nodiscard]] int rowExtent() const override { return 1; }
-  [[nodiscard]] int columnExtent() const override { return 1; }
-  [[nodiscard]] QList<QAccessibleInterface*> rowHeaderCells() const override { return {}; }
-  [[nodiscard]] QList<QAccessibleInterface*> columnHeaderCells() const override { return {}; }
-  [[nodiscard]] QAccessibleInterface* table() const override { return parent(); }
 
   [[nodiscard]] QVariant currentValue() const override { return number_; }
   void setCurrentValue(const QVariant&) override {}
@@ -79,11 +70,6 @@ CellGridAccessible::~CellGridAccessible() {
     if (cell != 0) QAccessible::deleteAccessibleInterface(cell);
 }
 
-void* CellGridAccessible::interface_cast(QAccessible::InterfaceType type) {
-  if (type == QAccessible::TableInterface) return static_cast<QAccessibleTableInterface*>(this);
-  return QAccessibleWidget::interface_cast(type);
-}
-
 QAccessibleInterface* CellGridAccessible::child(int number) const {
   if (number < 0 || number >= childCount()) return nullptr;
   cells_.resize(static_cast<std::size_t>(childCount()));
@@ -96,7 +82,7 @@ QAccessibleInterface* CellGridAccessible::childAt(int x, int y) const {
   const QPoint at = grid_.mapFromGlobal(QPoint(x, y));
   if (!grid_.rect().contains(at)) return nullptr;
   const QPoint cell = grid_.CellAt(at);
-  return cellAt(cell.y() - 1, cell.x() - 1);
+  return child((cell.y() - 1) * grid_.Cells() + cell.x() - 1);
 }
 
 QAccessibleInterface* CellGridAccessible::focusChild() const {
@@ -105,16 +91,7 @@ QAccessibleInterface* CellGridAccessible::focusChild() const {
 
 int CellGridAccessible::indexOfChild(const QAccessibleInterface* child) const {
   const auto* cell = dynamic_cast<const CellAccessible*>(child);
-  return cell == nullptr ? -1 : cell->rowIndex() * grid_.Cells() + cell->columnIndex();
-}
-
-QAccessibleInterface* CellGridAccessible::cellAt(int row, int column) const {
-  const bool inside = row >= 0 && row < grid_.Cells() && column >= 0 && column < grid_.Cells();
-  return inside ? child(row * grid_.Cells() + column) : nullptr;
-}
-
-QList<QAccessibleInterface*> CellGridAccessible::selectedCells() const {
-  return grid_.Marked() < 0 ? QList<QAccessibleInterface*>() : QList<QAccessibleInterface*>{child(grid_.Marked())};
+  return cell == nullptr ? -1 : cell->Number();
 }
 
 }  // namespace pelmar

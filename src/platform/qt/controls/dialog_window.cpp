@@ -105,7 +105,10 @@ void DialogWindow::ScaleLetters() {
   }
 }
 
-DialogWindow::DialogWindow(QWidget* parent) : QDialog(parent) { setProperty(kRoomProperty, true); }
+DialogWindow::DialogWindow(QWidget* parent) : QDialog(parent) {
+  InstallLabelFaces();
+  setProperty(kRoomProperty, true);
+}
 
 void DialogWindow::Present() {
   const bool on_show = isVisible();
@@ -184,7 +187,10 @@ bool DialogWindow::GoToNextField() {
 
 void DialogWindow::showEvent(QShowEvent* event) {
   if (event->spontaneous()) return QDialog::showEvent(event);
-  if (!prepared_) Prepare();
+  if (!prepared_)
+    Prepare();
+  else if (property("centredEachTime").toBool())
+    CentreOnScreen(*this);
   PutAboveAll(*this);
   setAttribute(Qt::WA_KeyboardFocusChange);  // what has the keyboard shows it from the first moment on
   QDialog::showEvent(event);

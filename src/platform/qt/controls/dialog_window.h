@@ -5,8 +5,8 @@
 // Escape closes the window as its system button does. Enter presses the button that has the focus; in a field it goes
 // on to the next one, so that nothing half-filled is put into the text; from the last field, and from all that isn't a
 // field, it presses the default button. The form's property `defaultFromFields` lets it do so from every field.
-// One with `sizedByContents` opens as large as its contents need, whatever size the form has. On a screen too small for
-// the form its contents scroll, and the buttons that end the dialog stay in sight.
+// One with `centredEachTime` is centred at each opening; `sizedByContents` opens it as large as its contents need.
+// On a screen too small for the form its contents scroll, and the buttons that end the dialog stay in sight.
 #pragma once
 
 #include <QDialog>

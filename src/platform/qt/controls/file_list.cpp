@@ -96,15 +96,18 @@ void FileList::ReadAnew() {
   read_ = true;
   QElapsedTimer clock;
   clock.start();
-  const QStringList names = FilesOf(path_, pattern_);
+  QStringList names = FilesOf(path_, pattern_);
   settle_.setInterval(qMax<int>(kSettle, static_cast<int>(clock.elapsed()) * kReadings));
-  if (names == names_->stringList()) return;
   const QString selected = FileName();
-  const int scrolled = verticalScrollBar()->value();
-  Show(names, selected);
-  executeDelayedItemsLayout();  // which gives the bar its range
-  verticalScrollBar()->setValue(scrolled);
-  if (FileName() != selected) Q_EMIT FileGone();
+  const bool gone = !selected.isEmpty() && !names.contains(selected);
+  if (gone) names.insert(qMin(names_->stringList().indexOf(selected), names.size()), selected);
+  if (names != names_->stringList()) {
+    const int scrolled = verticalScrollBar()->value();
+    Show(names, selected);
+    executeDelayedItemsLayout();  // which gives the bar its range
+    verticalScrollBar()->setValue(scrolled);
+  }
+  if (gone) Q_EMIT FileGone();
 }
 
 // The one folder, for as long as it is on show: what changes meanwhile is read when it comes back.

@@ -1,5 +1,6 @@
 // The file list of the file browser dialogs: the names of a folder's files that match a mask. While it is on show it
-// follows the folder, with the selection and the scrolling as they are.
+// follows the folder, with the selection and the scrolling as they are; the selected name stays also where its file has
+// gone.
 // Paths and names are as PathToQString gives them; the rows show them as ShownPath does.
 // Setting a property is the program's doing and raises no click; FileClicked and FileActivated are the person's.
 #pragma once
@@ -41,7 +42,7 @@ class FileList : public QListView {
   void PatternChanged(const QString& pattern);
   // A file was clicked (again), or selected with the keyboard.
   void FileClicked();
-  // The selected file went out of the folder, and nothing is selected any more.
+  // The selected file went out of the folder. Its name stays.
   void FileGone();
   // Double click or Enter. Where nobody listens, Enter goes on to the dialog's default button.
   void FileActivated();

@@ -6,6 +6,8 @@
 #include <QTabBar>
 #include <algorithm>
 
+#include "platform/qt/controls/accessible_face.h"
+
 namespace pelmar {
 namespace {
 
@@ -54,6 +56,8 @@ void AddTabKeys(QWidget& window, QTabBar& tabs) {
   for (int tab = 0; tab < std::min(tabs.count(), kMostNumbered); ++tab)
     on(QKeySequence(Qt::ALT | static_cast<Qt::Key>(Qt::Key_1 + tab)), [tab] { return tab; });
   new NumberKeys(window, tabs);
+  QObject::connect(&tabs, &QTabBar::currentChanged, &window,
+                   [&] { Announce(window, tabs.accessibleTabName(tabs.currentIndex())); });
 }
 
 }  // namespace pelmar

@@ -1,0 +1,69 @@
+#include "platform/qt/line_edits.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QDropEvent>
+#include <QGuiApplication>
+#include <QMenu>
+
+#include "platform/qt/clipboard_text.h"
+
+namespace pelmar {
+namespace {
+
+// A dropped text as the field takes it, on its way to the toolkit.
+class LineMime : public QMimeData {};
+
+void Paste(QLineEdit& field, QClipboard::Mode mode) {
+  const QMimeData* mime = QGuiApplication::clipboard()->mimeData(mode);
+  if (mime != nullptr) field.insert(LineFromMime(*mime, field.property(kHoldsLines).toBool()));
+}
+
+void ShowMenu(QLineEdit& field, QPoint at) {
+  QMenu* menu = field.createStandardContextMenu();
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  for (QAction* action : menu->actions()) {
+    if (!action->text().startsWith(QLineEdit::tr("&Paste"))) continue;  // it has no name
+    action->disconnect(&field);
+    QObject::connect(action, &QAction::triggered, &field, [&field] { Paste(field, QClipboard::Clipboard); });
+  }
+  menu->popup(at);
+}
+
+void Drop(QLineEdit& field, QDropEvent& event) {
+  LineMime mime;
+  mime.setText(LineFromMime(*event.mimeData(), field.property(kHoldsLines).toBool()));
+  QDropEvent drop(event.position(), event.possibleActions(), &mime, event.buttons(), event.modifiers());
+  drop.setDropAction(event.dropAction());
+  field.event(&drop);
+  event.setDropAction(drop.dropAction());
+  event.setAccepted(drop.isAccepted());
+}
+
+}  // namespace
+
+bool TakePasted(QLineEdit& field, QEvent& event) {
+  if (event.type() == QEvent::ContextMenu) {
+    ShowMenu(field, static_cast<QContextMenuEvent&>(event).globalPos());
+    return true;
+  }
+  if (field.isReadOnly()) return false;
+  if (event.type() == QEvent::KeyPress && static_cast<QKeyEvent&>(event).matches(QKeySequence::Paste)) {
+    Paste(field, QClipboard::Clipboard);
+    return true;
+  }
+  if (event.type() == QEvent::MouseButtonRelease && static_cast<QMouseEvent&>(event).button() == Qt::MiddleButton) {
+    field.deselect();
+    Paste(field, QClipboard::Selection);
+    return true;
+  }
+  // What the person moves within the field is there already.
+  if (event.type() != QEvent::Drop) return false;
+  auto& drop = static_cast<QDropEvent&>(event);
+  if (drop.source() == &field || dynamic_cast<const LineMime*>(drop.mimeData())) return false;
+  Drop(field, drop);
+  return true;
+}
+
+}  // namespace pelmar
