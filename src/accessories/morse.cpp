@@ -118,7 +118,7 @@ std::span<const MorseMenu> MorseMenus() { return kMenus; }
 
 void AddMorseCommand(Editor& editor) {
   editor.commands.Add("mnuMakeMorse", [&editor] {
-    const BusyPointer busy(editor.platform);
+    const BusyPointer busy(editor.platform, BusyLook::kArrow);
     editor.text.ReplaceSelection(TextToMorse(editor.text.SelText()));
   });
 }

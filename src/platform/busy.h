@@ -1,4 +1,4 @@
-// Shows the hourglass while a long command works.
+// Shows the hourglass, alone or beside the arrow, while a long command works.
 #pragma once
 
 #include "platform/platform.h"
@@ -7,13 +7,16 @@ namespace pelmar {
 
 class BusyPointer {
  public:
-  explicit BusyPointer(Platform& platform) : platform_(platform) { platform_.SetBusyPointer(true); }
+  explicit BusyPointer(Platform& platform, BusyLook look = BusyLook::kHourglass) : platform_(platform), look_(look) {
+    platform_.SetBusyPointer(true, look_);
+  }
   BusyPointer(const BusyPointer&) = delete;
   BusyPointer& operator=(const BusyPointer&) = delete;
-  ~BusyPointer() { platform_.SetBusyPointer(false); }
+  ~BusyPointer() { platform_.SetBusyPointer(false, look_); }
 
  private:
   Platform& platform_;
+  BusyLook look_;
 };
 
 }  // namespace pelmar

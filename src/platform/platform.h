@@ -109,6 +109,9 @@ class FileRewriter {
 // What happens to the rest of an old file that is longer than the new content.
 enum class OldTail { kDrop, kKeep };
 
+// The pointer during a long command: the hourglass alone, or the arrow with it.
+enum class BusyLook { kHourglass, kArrow };
+
 class Platform {
  public:
   Platform() = default;
@@ -183,7 +186,7 @@ class Platform {
   virtual void ReseedRandom() = 0;  // from the clock
   // The indexes of the texts in Czech alphabetical order, ignoring case. Equal texts keep their order.
   virtual std::vector<std::size_t> SortedOrder(const std::vector<std::string_view>& texts) = 0;
-  virtual void SetBusyPointer(bool busy) = 0;
+  virtual void SetBusyPointer(bool busy, BusyLook look) = 0;
 };
 
 }  // namespace pelmar

@@ -117,7 +117,7 @@ TEST(Morse, CommandRewritesTheSelection) {
   EXPECT_EQ(editor.text.Text(), "x .../---/.../ y");
   EXPECT_EQ(editor.text.Caret(), 14u);
   EXPECT_FALSE(editor.text.HasSelection());
-  EXPECT_EQ(platform.TakeCalls(), (std::vector<std::string>{"busy 1", "busy 0"}));
+  EXPECT_EQ(platform.TakeCalls(), (std::vector<std::string>{"arrow 1", "arrow 0"}));
 }
 
 }  // namespace

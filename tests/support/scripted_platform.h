@@ -159,8 +159,8 @@ class ScriptedPlatform : public Platform, public Paper {
     std::ranges::stable_sort(order, {}, [&](std::size_t index) { return ToUpper(texts[index]); });
     return order;
   }
-  void SetBusyPointer(bool busy_now) override {
-    Note(busy_now ? "busy 1" : "busy 0");
+  void SetBusyPointer(bool busy_now, BusyLook look) override {
+    Note(std::string(look == BusyLook::kArrow ? "arrow " : "busy ") + (busy_now ? '1' : '0'));
     busy += busy_now ? 1 : -1;
   }
 

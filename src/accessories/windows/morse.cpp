@@ -43,7 +43,7 @@ void Morse::mnu_clipmorse_Click() { ui_->Text1->Buffer().ReplaceSelection(TextTo
 
 void Morse::mnuMakeMorse_Click() {
   TextBuffer& box = ui_->Text1->Buffer();
-  const BusyPointer busy(platform_);
+  const BusyPointer busy(platform_, BusyLook::kArrow);
   box.ReplaceSelection(TextToMorse(box.SelText()));
 }
 

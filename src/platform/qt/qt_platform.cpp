@@ -168,7 +168,7 @@ std::vector<std::size_t> QtPlatform::SortedOrder(const std::vector<std::string_v
   return order;
 }
 
-void QtPlatform::SetBusyPointer(bool busy) { pointer_.Set(busy); }
+void QtPlatform::SetBusyPointer(bool busy, BusyLook look) { pointer_.Set(busy, look); }
 
 void QtPlatform::FinishBackgroundWork() { recent_.Wait(); }
 

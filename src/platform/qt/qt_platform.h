@@ -59,7 +59,7 @@ class QtPlatform : public Platform {
   double Random() override;
   void ReseedRandom() override;
   std::vector<std::size_t> SortedOrder(const std::vector<std::string_view>& texts) override;
-  void SetBusyPointer(bool busy) override;
+  void SetBusyPointer(bool busy, BusyLook look) override;
 
   // Tells the person where the data lie when their own folder can't be made.
   void TellOfRefusedFolder();

@@ -9,8 +9,9 @@ WaitCursor::~WaitCursor() {
   if (shown_ && QGuiApplication::instance() != nullptr) QGuiApplication::restoreOverrideCursor();
 }
 
-void WaitCursor::Set(bool busy) {
+void WaitCursor::Set(bool busy, BusyLook look) {
   if (!busy && wanted_ == 0) return;
+  if (wanted_ == 0) look_ = look;
   wanted_ += busy ? 1 : -1;
   Show();
 }
@@ -20,7 +21,7 @@ void WaitCursor::Show() {
   if (show == shown_) return;
   shown_ = show;
   if (show) {
-    QGuiApplication::setOverrideCursor(QCursor(Qt::WaitCursor));
+    QGuiApplication::setOverrideCursor(QCursor(look_ == BusyLook::kHourglass ? Qt::WaitCursor : Qt::BusyCursor));
   } else {
     QGuiApplication::restoreOverrideCursor();
   }

@@ -2,6 +2,8 @@
 // so that a person sees an ordinary pointer over a box that waits for them.
 #pragma once
 
+#include "platform/platform.h"
+
 namespace pelmar {
 
 class WaitCursor {
@@ -11,8 +13,8 @@ class WaitCursor {
   WaitCursor& operator=(const WaitCursor&) = delete;
   ~WaitCursor();
 
-  // Each true wants its false; a false too many does nothing.
-  void Set(bool busy);
+  // Each true wants its false; a false too many does nothing. It looks as the outermost of nested ones.
+  void Set(bool busy, BusyLook look);
 
   class Lift {
    public:
@@ -31,6 +33,7 @@ class WaitCursor {
   int wanted_ = 0;
   int lifted_ = 0;
   bool shown_ = false;
+  BusyLook look_{};
 };
 
 }  // namespace pelmar

@@ -53,7 +53,7 @@ TEST_F(AccessoryTest, MorseCollectsSigns) {
   ExpectState(morse, "mnu_clipmorse!", "Text1=.../---/.../");
   box.Select(0, 1);
   ExpectState(morse, "mnuMakeMorse!", "Text1=//../---/.../");
-  EXPECT_EQ(platform.calls, (std::vector<std::string>{"busy 1", "busy 0"}));
+  EXPECT_EQ(platform.calls, (std::vector<std::string>{"arrow 1", "arrow 0"}));
 }
 
 // As dead keys and input methods give it.

@@ -100,15 +100,16 @@ TEST(InstallFolder, WhereTheUsersCantBeMadeIsOneUntilTheLogoutWhichIsTold) {
 TEST(BusyPointer, NestsAndIsLiftedWhileABoxShows) {
   QtPlatform platform;
   const auto busy = [] { return QGuiApplication::overrideCursor() != nullptr; };
-  for (const bool set : {false, true, true, false}) platform.SetBusyPointer(set);
-  EXPECT_TRUE(busy());
+  for (const bool set : {false, true, true, false}) platform.SetBusyPointer(set, BusyLook::kArrow);
+  ASSERT_TRUE(busy());
+  EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::BusyCursor);
   InDialog<QMessageBox>([&](QMessageBox& box) {
     EXPECT_FALSE(busy());
     box.close();
   });
   platform.Message(MessageType::kOk, "x", "y");
   EXPECT_TRUE(busy());
-  platform.SetBusyPointer(false);
+  platform.SetBusyPointer(false, BusyLook::kArrow);
   EXPECT_FALSE(busy());
 }
 
