@@ -147,7 +147,7 @@ TEST(Formats, Tables) {
 }
 
 TEST(Formats, PagesAroundTheDocument) {
-  const PageSpec bare{
+  PageSpec bare{
       .author = std::string("Jan Novák"_w), .created = "11-24-2026 09:05:00", .title = std::string("ž"_w)};
   PageSpec full = bare;
   full.background = "a.gif";  // required: a file's address of a bare name too

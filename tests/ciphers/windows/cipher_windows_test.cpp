@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <QLineEdit>
 #include <QListWidget>
+#include <QProgressBar>
 
 #include "ciphers/table_file.h"
 #include "ciphers/windows/cht.h"

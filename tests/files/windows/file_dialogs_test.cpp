@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <QLineEdit>
+
 #include "files/windows/dir_setup.h"
 #include "files/windows/dos_unix_conv.h"
 #include "files/windows/otevri.h"

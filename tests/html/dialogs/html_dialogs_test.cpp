@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
 #include <QStyledItemDelegate>

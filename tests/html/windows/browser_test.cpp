@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <QLineEdit>
+
 #include "html/windows/browser_module.h"
 #include "html/windows/frm_browser.h"
 #include "html/windows/web_address.h"

@@ -1,3 +1,6 @@
+// The checked calls of the C library are inline functions of the same names.
+#undef _FORTIFY_SOURCE
+
 #include "platform/files/failing_calls.h"
 
 #include <dlfcn.h>
