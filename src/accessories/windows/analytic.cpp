@@ -8,6 +8,7 @@
 #include "platform/qt/controls/field_helpers.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/glyph_table.h"
+#include "platform/qt/key_router.h"
 #include "ui_analytic.h"
 
 namespace pelmar {
@@ -47,7 +48,11 @@ void Analytic::ConnectEvents() {
   OnEnter(ui_->Text2, [this] { (ui_->Command3->isEnabled() ? ui_->Command3 : ui_->Command1)->click(); });
   connect(ui_->Pic, &CharacterGraph::Pointed, this, &Analytic::Pic_Pointed);
   connect(&timer1_, &QTimer::timeout, this, &Analytic::Timer1_Timer);
-  ui_->Check1->installEventFilter(this);
+  // required: a character's key on the check box blanks the graph until the next analysis
+  KeyRouter::Get().Add(KeyTurn::kField, *ui_->Check1, [this](QWidget&, const QKeyEvent& press) {
+    if (!press.text().isEmpty() && press.text().front().isPrint()) ui_->Pic->Clear();
+    return false;
+  });
   ui_->Picture2->installEventFilter(this);
 }
 
@@ -116,11 +121,6 @@ bool Analytic::eventFilter(QObject* watched, QEvent* event) {
   if (watched == ui_->Picture2 && event->type() == QEvent::MouseButtonPress) {
     ui_->Label2->clear();
     ui_->Pic->ForgetPlace();
-  }
-  // required: a character's key on the check box blanks the graph until the next analysis
-  if (watched == ui_->Check1 && event->type() == QEvent::KeyPress) {
-    const QString typed = static_cast<QKeyEvent*>(event)->text();
-    if (!typed.isEmpty() && typed[0].isPrint()) ui_->Pic->Clear();
   }
   return DialogWindow::eventFilter(watched, event);
 }

@@ -9,32 +9,33 @@
 #include "platform/qt/clipboard_text.h"
 #include "platform/qt/controls/text_keys.h"
 #include "platform/qt/convert.h"
+#include "platform/qt/key_router.h"
 
 namespace pelmar {
 
 KeyPreview::KeyPreview(QWidget& window, std::function<Preview(const QKeyEvent&)> first)
     : QObject(&window), first_(std::move(first)) {
+  KeyRouter::Get().Add(KeyTurn::kWindow, window,
+                       [this](QWidget& receiver, QKeyEvent& press) { return Takes(receiver, press); });
   const QList<QWidget*> widgets = window.findChildren<QWidget*>() << &window;
   for (QWidget* widget : widgets) {
     widget->installEventFilter(this);
     // Or nothing would compose letters while a button has the keyboard.
     widget->setAttribute(Qt::WA_InputMethodEnabled);
     // A held Enter goes on to the window too, but presses a button only once.
-    if (!qobject_cast<QPushButton*>(widget))
-      widget->setInputMethodHints(widget->inputMethodHints() | Qt::ImhMultiLine);
+    if (!qobject_cast<QPushButton*>(widget)) widget->setInputMethodHints(widget->inputMethodHints() | Qt::ImhMultiLine);
   }
 }
 
-bool KeyPreview::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::InputMethod) return TakesComposed(*static_cast<QInputMethodEvent*>(event));
-  if (event->type() != QEvent::KeyPress) return false;
-  const Preview preview = first_(*static_cast<QKeyEvent*>(event));
-  if (preview == Preview::kPass) return false;
-  // Straight to the control, and accepted whatever it says: a key that it refuses would come by here again on its way
-  // to the window.
-  if (preview == Preview::kShare) watched->event(event);
-  event->accept();
-  return true;
+bool KeyPreview::eventFilter(QObject*, QEvent* event) {
+  return event->type() == QEvent::InputMethod && TakesComposed(*static_cast<QInputMethodEvent*>(event));
+}
+
+bool KeyPreview::Takes(QWidget& receiver, QKeyEvent& press) {
+  const Preview preview = first_(press);
+  // Straight to the control: what it refuses is not for the dialog, which would press its default button.
+  if (preview == Preview::kShare) static_cast<QObject&>(receiver).event(&press);
+  return preview != Preview::kPass;
 }
 
 // What dead keys or an input method composed comes without a key of its own. Shared, it reaches the control as it came.

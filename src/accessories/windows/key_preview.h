@@ -26,6 +26,7 @@ class KeyPreview : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  [[nodiscard]] bool Takes(QWidget& receiver, QKeyEvent& press);
   [[nodiscard]] bool TakesComposed(const QInputMethodEvent& event);
 
   std::function<Preview(const QKeyEvent&)> first_;

@@ -15,6 +15,7 @@
 #include "platform/qt/controls/accessible_face.h"
 #include "platform/qt/controls/elided_label.h"
 #include "platform/qt/convert.h"
+#include "platform/qt/key_router.h"
 #include "platform/qt/outer_geometry.h"
 #include "platform/qt/placement.h"
 #include "platform/qt/svg_icon.h"
@@ -110,21 +111,18 @@ void FrmBrowser::ConnectAddress() {
   // The toolkit would complete what is typed, and load an entry of the list when the field is left.
   ui_->cboAddress->setCompleter(nullptr);
   disconnect(line, &QLineEdit::editingFinished, ui_->cboAddress, nullptr);
-  // The box takes the keys and passes them on to its line.
   ui_->cboAddress->installEventFilter(this);
+  KeyRouter::Get().Add(KeyTurn::kField, *ui_->cboAddress, [this](QWidget&, const QKeyEvent& press) {
+    if (press.key() != Qt::Key_Return && press.key() != Qt::Key_Enter) return false;
+    NavigateToBox();
+    return true;
+  });
   connect(ui_->cboAddress, &QComboBox::activated, this, &FrmBrowser::NavigateToBox);
 }
 
 bool FrmBrowser::eventFilter(QObject* watched, QEvent* event) {
   // A turn of the wheel over the list is not a choice.
   if (watched == ui_->cboAddress && event->type() == QEvent::Wheel) return true;
-  if (watched == ui_->cboAddress && event->type() == QEvent::KeyPress) {
-    const int key = static_cast<QKeyEvent*>(event)->key();
-    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-      NavigateToBox();
-      return true;
-    }
-  }
   return QMainWindow::eventFilter(watched, event);
 }
 

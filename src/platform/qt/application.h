@@ -4,7 +4,6 @@
 #include <QApplication>
 #include <functional>
 
-#include "platform/qt/held_keys.h"
 #include "platform/runtime_error.h"
 
 namespace pelmar {
@@ -18,11 +17,6 @@ class Application : public QApplication {
   // Called with a RuntimeError that no handler of the program caught, or with ENOMEM where memory has run out; doesn't
   // return.
   std::function<void(const RuntimeError&)> on_runtime_error;
-
- private:
-  bool HoldsBack(const QObject& receiver, QEvent& event);
-
-  HeldKeys held_keys_;
 };
 
 // Ends the program with this status when the event at hand is over, also where its loop hasn't begun yet.

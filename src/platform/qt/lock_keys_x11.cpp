@@ -1,7 +1,7 @@
 // Apart from the rest, because Xlib's macros (None, Bool, Status) break Qt's headers when they come first.
 #include <QGuiApplication>
 
-#include "platform/qt/key_states.h"
+#include "platform/qt/lock_keys.h"
 
 #if PELMAR_HAS_X11
 #include <X11/XKBlib.h>

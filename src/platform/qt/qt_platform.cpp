@@ -18,6 +18,8 @@
 #include "platform/qt/convert.h"
 #include "platform/qt/dialogs.h"
 #include "platform/qt/folder_entries.h"
+#include "platform/qt/key_router.h"
+#include "platform/qt/lock_keys.h"
 #include "platform/qt/printer.h"
 
 namespace pelmar {
@@ -146,7 +148,7 @@ LocalTime QtPlatform::Now() {
 
 KeyStates QtPlatform::Keys() {
   const LockKeys lock = ReadLockKeys();
-  return {.caps = lock.caps, .num = lock.num, .insert = insert_.IsOn()};
+  return {.caps = lock.caps, .num = lock.num, .insert = KeyRouter::Get().InsertIsOn()};
 }
 
 double QtPlatform::Random() { return static_cast<double>(random_()) / 4294967296.0; }

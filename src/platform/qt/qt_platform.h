@@ -11,7 +11,6 @@
 #include "platform/qt/clipboard.h"
 #include "platform/qt/czech_collation.h"
 #include "platform/qt/install_folder.h"
-#include "platform/qt/key_states.h"
 #include "platform/qt/recent_documents.h"
 #include "platform/qt/wait_cursor.h"
 
@@ -70,7 +69,6 @@ class QtPlatform : public Platform {
  private:
   WaitCursor pointer_;
   Clipboard clipboard_;
-  InsertKey insert_;
   QCollator collator_ = CzechCollator();
   RecentDocuments recent_;
   ChosenFolder install_folder_;

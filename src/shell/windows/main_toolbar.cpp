@@ -6,6 +6,7 @@
 #include <QToolButton>
 
 #include "platform/qt/convert.h"
+#include "platform/qt/key_router.h"
 #include "platform/qt/svg_icon.h"
 #include "shell/menu_table.h"
 #include "text/index.h"
@@ -50,6 +51,8 @@ MainToolbar::MainToolbar(const Commands& commands, Files& files, QWidget* parent
     initial_.append(separator);
   }
   Reset();
+  KeyRouter::Get().Add(KeyTurn::kField, *this,
+                       [this](QWidget& receiver, const QKeyEvent& press) { return TakesKey(receiver, press); });
 }
 
 void MainToolbar::AddRecentMenu(QAction* action) {
@@ -79,18 +82,16 @@ void MainToolbar::Arrange(const QList<QAction*>& order) {
     auto* button = qobject_cast<QToolButton*>(widgetForAction(action));
     if (button == nullptr) continue;
     button->setFocusPolicy(Qt::TabFocus);
-    button->installEventFilter(this);
     button->setAccessibleName(action->toolTip());
     if (action->menu() != nullptr) button->setPopupMode(QToolButton::MenuButtonPopup);
   }
 }
 
 // The toolkit's buttons answer to the space bar alone.
-bool MainToolbar::eventFilter(QObject* watched, QEvent* event) {
-  auto* button = qobject_cast<QToolButton*>(watched);
-  if (button == nullptr || event->type() != QEvent::KeyPress) return QToolBar::eventFilter(watched, event);
-  const auto& key = static_cast<QKeyEvent&>(*event);
-  switch (key.key()) {
+bool MainToolbar::TakesKey(QWidget& receiver, const QKeyEvent& press) {
+  auto* button = qobject_cast<QToolButton*>(&receiver);
+  if (button == nullptr) return false;
+  switch (press.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
       button->click();

@@ -26,10 +26,8 @@ class MainToolbar : public QToolBar {
  Q_SIGNALS:
   void EscapePressed();
 
- protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
-
  private:
+  bool TakesKey(QWidget& receiver, const QKeyEvent& press);
   void AddRecentMenu(QAction* action);
 
   const Commands& commands_;

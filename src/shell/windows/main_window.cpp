@@ -13,6 +13,7 @@
 #include "platform/paths.h"
 #include "platform/qt/controls/tab_keys.h"
 #include "platform/qt/convert.h"
+#include "platform/qt/key_router.h"
 #include "platform/qt/outer_geometry.h"
 #include "platform/qt/svg_icon.h"
 #include "shell/status.h"
@@ -73,7 +74,11 @@ void MainWindow::MakeControls() {
   text_->UseBuffer(editor_.text);
   text_->setStandardShortcuts(false);
   text_->SetCaretStays(true);
-  text_->installEventFilter(this);
+  KeyRouter::Get().Add(KeyTurn::kMenu, *text_, [this](QWidget&, const QKeyEvent& press) {
+    return menus_->RunGrey(press, [this] {
+      return ComputeMenuState(editor_.text, editor_.documents.CurrentPath(), editor_.platform.ClipboardContent());
+    });
+  });
   bar_ = new StatusStrip(client_);
   bar_->setAccessibleName(QStringLiteral("Stavový řádek"));
   bar_->raise();
@@ -377,12 +382,6 @@ bool MainWindow::event(QEvent* event) {
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
   if (watched == client_ && event->type() == QEvent::Resize) ApplyLayout();
   if (watched == client_ && event->type() == QEvent::Paint) FitToFrame();
-  if (watched == text_ && event->type() == QEvent::KeyPress) {
-    const auto now = [this] {
-      return ComputeMenuState(editor_.text, editor_.documents.CurrentPath(), editor_.platform.ClipboardContent());
-    };
-    if (menus_->RunGrey(*static_cast<QKeyEvent*>(event), now)) return true;
-  }
   return QMainWindow::eventFilter(watched, event);
 }
 

@@ -185,11 +185,9 @@ std::vector<RescueRecord> RescueKeeper::ReadAbandoned(std::vector<std::string>& 
 
 void RescueKeeper::Offer() {
   std::vector<std::string> files = FindAbandoned(platform_.InstallFolder(), content_.kind.prefix, owed_.offer);
+  if (files.empty()) return;
   const std::vector<RescueRecord> records = ReadAbandoned(files);
-  if (files.empty()) {
-    if (owed_.files.empty()) owed_.offer.Release();
-    return;
-  }
+  if (files.empty()) return owed_.offer.Release();
   std::vector<RescuedText> left;
   for (const RescueRecord& record : records) left.insert(left.end(), record.texts.begin(), record.texts.end());
   bool wanted = false;

@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 
 #include "platform/qt/convert.h"
+#include "platform/qt/key_router.h"
 #include "ui_start.h"
 
 namespace pelmar {
@@ -22,9 +23,12 @@ Start::Start(SettingsRecord& settings, Doors doors)
     : FormDialog(nullptr), settings_(settings), doors_(std::move(doors)) {
   ui_->Label8->setContentsMargins(kShadow, kShadow, 0, 0);
   ui_->Check1->setChecked(!settings_.ShowStart);
-  const QList<QWidget*> widgets = findChildren<QWidget*>();
-  for (QWidget* widget : widgets) widget->installEventFilter(this);
-  installEventFilter(this);
+  ui_->Label9->installEventFilter(this);
+  KeyRouter::Get().Add(KeyTurn::kWindow, *this, [this](QWidget&, const QKeyEvent& press) {
+    if (IsModifier(press.key())) return false;
+    Leave();
+    return true;
+  });
   connect(ui_->Command1, &QPushButton::clicked, this, &Start::Leave);
   connect(ui_->Command2, &QPushButton::clicked, this, &Start::Command2_Click);
   connect(ui_->Check1, &QCheckBox::toggled, this, [this](bool checked) { settings_.ShowStart = !checked; });
@@ -36,10 +40,6 @@ void Start::showEvent(QShowEvent* event) {
 }
 
 bool Start::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::KeyPress && !IsModifier(static_cast<QKeyEvent*>(event)->key())) {
-    Leave();
-    return true;
-  }
   if (watched == ui_->Label9 && event->type() == QEvent::MouseButtonRelease) {
     Label9_Click();
     return true;

@@ -22,6 +22,7 @@
 #include "platform/qt/controls/accessible_face.h"
 #include "platform/qt/controls/scrolled_contents.h"
 #include "platform/qt/controls/text_box.h"
+#include "platform/qt/key_router.h"
 #include "platform/qt/outer_geometry.h"
 #include "platform/qt/placement.h"
 #include "platform/qt/program_style.h"
@@ -108,6 +109,8 @@ void DialogWindow::ScaleLetters() {
 DialogWindow::DialogWindow(QWidget* parent) : QDialog(parent) {
   InstallLabelFaces();
   setProperty(kRoomProperty, true);
+  KeyRouter::Get().Add(KeyTurn::kField, *this,
+                       [this](QWidget& receiver, const QKeyEvent& press) { return TakesKey(receiver, press); });
 }
 
 void DialogWindow::Present() {
@@ -127,10 +130,7 @@ int DialogWindow::exec() {
   return result;
 }
 
-void DialogWindow::OnEnter(QWidget* field, std::function<void()> act) {
-  on_enter_[field] = std::move(act);
-  field->installEventFilter(this);
-}
+void DialogWindow::OnEnter(QWidget* field, std::function<void()> act) { on_enter_[field] = std::move(act); }
 
 bool DialogWindow::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Wheel) {
@@ -140,20 +140,20 @@ bool DialogWindow::eventFilter(QObject* watched, QEvent* event) {
       return true;
     }
   }
-  if (event->type() == QEvent::KeyPress) {
-    const auto& key = *static_cast<QKeyEvent*>(event);
-    const auto act = on_enter_.find(watched);
-    // A letter with Alt that no control answers to is none for the field.
-    const auto* box = qobject_cast<QComboBox*>(watched);
-    if ((qobject_cast<QLineEdit*>(watched) || (box != nullptr && box->isEditable())) && IsAltCharacter(key))
-      return true;
-    if (act != on_enter_.end() && IsPlainEnter(key)) {
-      act->second();
-      return true;
-    }
-    if (auto* bar = qobject_cast<QScrollBar*>(watched); bar != nullptr && MoveByArrow(*bar, key.key())) return true;
-  }
   return QDialog::eventFilter(watched, event);
+}
+
+bool DialogWindow::TakesKey(QWidget& receiver, const QKeyEvent& press) {
+  // A letter with Alt that no control answers to is none for the field.
+  const auto* box = qobject_cast<QComboBox*>(&receiver);
+  if ((qobject_cast<QLineEdit*>(&receiver) || (box != nullptr && box->isEditable())) && IsAltCharacter(press))
+    return true;
+  if (const auto act = on_enter_.find(&receiver); act != on_enter_.end() && IsPlainEnter(press)) {
+    act->second();
+    return true;
+  }
+  auto* bar = qobject_cast<QScrollBar*>(&receiver);
+  return bar != nullptr && MoveByArrow(*bar, press.key());
 }
 
 void DialogWindow::keyPressEvent(QKeyEvent* event) {
@@ -214,7 +214,6 @@ void DialogWindow::Prepare() {
   FitInto(RoomOnScreen(*this));
   CentreOnScreen(*this);
   LabelBoxes(*this);
-  for (auto* field : findChildren<QLineEdit*>()) field->installEventFilter(this);
   for (auto* option : findChildren<QRadioButton*>()) {
     const auto gather = [option] {
       if (option->isChecked()) GatherTabStops(*option);

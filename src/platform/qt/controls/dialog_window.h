@@ -45,6 +45,7 @@ class DialogWindow : public QDialog {
   void showEvent(QShowEvent* event) override;
 
  private:
+  bool TakesKey(QWidget& receiver, const QKeyEvent& press);
   // What the first opening needs only.
   void Prepare();
   void BeginInFirstField();

@@ -3,28 +3,19 @@
 #include <QAbstractItemView>
 #include <QKeyEvent>
 
+#include "platform/qt/key_router.h"
+
 namespace pelmar {
-namespace {
 
-class FirstChoice : public QObject {
- public:
-  explicit FirstChoice(QAbstractItemView* list) : QObject(list), list_(list) { list->installEventFilter(this); }
-
-  bool eventFilter(QObject*, QEvent* event) override {
-    if (event->type() != QEvent::KeyPress || list_->selectionModel()->hasSelection()) return false;
-    const QModelIndex row = list_->currentIndex();
-    const int key = static_cast<QKeyEvent*>(event)->key();
-    if (!row.isValid() || (key != Qt::Key_Down && key != Qt::Key_Up && key != Qt::Key_Home)) return false;
-    list_->setCurrentIndex(row);
+void ChooseFirstByArrows(QAbstractItemView* list) {
+  KeyRouter::Get().Add(KeyTurn::kField, *list, [list](QWidget&, const QKeyEvent& press) {
+    const QModelIndex row = list->currentIndex();
+    const int key = press.key();
+    if (!row.isValid() || list->selectionModel()->hasSelection()) return false;
+    if (key != Qt::Key_Down && key != Qt::Key_Up && key != Qt::Key_Home) return false;
+    list->setCurrentIndex(row);
     return true;
-  }
-
- private:
-  QAbstractItemView* list_;
-};
-
-}  // namespace
-
-void ChooseFirstByArrows(QAbstractItemView* list) { new FirstChoice(list); }
+  });
+}
 
 }  // namespace pelmar

@@ -1,12 +1,12 @@
 #include "platform/qt/controls/tab_keys.h"
 
-#include <QApplication>
 #include <QKeyEvent>
 #include <QShortcut>
 #include <QTabBar>
 #include <algorithm>
 
 #include "platform/qt/controls/accessible_face.h"
+#include "platform/qt/key_router.h"
 
 namespace pelmar {
 namespace {
@@ -16,27 +16,13 @@ constexpr quint32 kScanCodeOf1 = 10;  // of the key in the row of numbers, on X1
 
 // On a Czech keyboard the keys of the numbers give letters with accents, and Alt with them is no shortcut for a number:
 // the physical key is taken there. Where it gives its number the shortcut has come first.
-class NumberKeys : public QObject {
- public:
-  NumberKeys(QWidget& window, QTabBar& tabs) : QObject(&window), window_(window), tabs_(tabs) {
-    qApp->installEventFilter(this);
-  }
-
-  bool eventFilter(QObject* watched, QEvent* event) override {
-    if (event->type() != QEvent::KeyPress || !watched->isWidgetType() || tabs_.isHidden()) return false;
-    if (static_cast<QWidget*>(watched)->window() != &window_) return false;
-    const auto& key = *static_cast<QKeyEvent*>(event);
-    if (key.modifiers() != Qt::AltModifier || key.nativeScanCode() < kScanCodeOf1) return false;
-    const quint32 tab = key.nativeScanCode() - kScanCodeOf1;
-    if (tab >= static_cast<quint32>(std::min(tabs_.count(), kMostNumbered))) return false;
-    tabs_.setCurrentIndex(static_cast<int>(tab));
-    return true;
-  }
-
- private:
-  QWidget& window_;
-  QTabBar& tabs_;
-};
+bool PickByNumberKey(QTabBar& tabs, const QKeyEvent& press) {
+  if (tabs.isHidden() || press.modifiers() != Qt::AltModifier || press.nativeScanCode() < kScanCodeOf1) return false;
+  const quint32 tab = press.nativeScanCode() - kScanCodeOf1;
+  if (tab >= static_cast<quint32>(std::min(tabs.count(), kMostNumbered))) return false;
+  tabs.setCurrentIndex(static_cast<int>(tab));
+  return true;
+}
 
 }  // namespace
 
@@ -55,7 +41,8 @@ void AddTabKeys(QWidget& window, QTabBar& tabs) {
   on(QKeySequence(Qt::CTRL | Qt::Key_PageUp), step(-1));
   for (int tab = 0; tab < std::min(tabs.count(), kMostNumbered); ++tab)
     on(QKeySequence(Qt::ALT | static_cast<Qt::Key>(Qt::Key_1 + tab)), [tab] { return tab; });
-  new NumberKeys(window, tabs);
+  KeyRouter::Get().Add(KeyTurn::kTabs, window,
+                       [&tabs](QWidget&, const QKeyEvent& press) { return PickByNumberKey(tabs, press); });
   QObject::connect(&tabs, &QTabBar::currentChanged, &window,
                    [&] { Announce(window, tabs.accessibleTabName(tabs.currentIndex())); });
 }

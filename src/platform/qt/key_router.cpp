@@ -1,0 +1,71 @@
+#include "platform/qt/key_router.h"
+
+#include <QKeyEvent>
+#include <algorithm>
+#include <utility>
+
+namespace pelmar {
+namespace {
+
+bool IsBareInsert(const QKeyEvent& event) {
+  return event.key() == Qt::Key_Insert && (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+}
+
+// A held Enter goes on breaking lines and a held Delete goes on erasing characters.
+bool EditsTextWith(int key, const QWidget& receiver) {
+  if (receiver.inputMethodQuery(Qt::ImReadOnly).toBool()) return false;
+  if (key == Qt::Key_Delete) return receiver.inputMethodQuery(Qt::ImCursorPosition).isValid();
+  return (receiver.inputMethodQuery(Qt::ImHints).toInt() & Qt::ImhMultiLine) != 0;
+}
+
+}  // namespace
+
+KeyRouter& KeyRouter::Get() {
+  static KeyRouter router;
+  return router;
+}
+
+void KeyRouter::Add(KeyTurn turn, QWidget& scope, KeyTaker taker) {
+  std::erase_if(entries_, [](const Entry& entry) { return entry.scope.isNull(); });
+  entries_.insert(std::ranges::upper_bound(entries_, turn, {}, &Entry::turn), Entry{turn, &scope, std::move(taker)});
+}
+
+bool KeyRouter::Takes(QWidget& receiver, QKeyEvent& event) {
+  // Keys that the program itself hands on come from no keyboard, so nobody holds them.
+  if (event.spontaneous() && HoldsBack(receiver, event)) {
+    event.accept();  // or the toolkit would look for a shortcut of this key
+    return true;
+  }
+  if (event.type() != QEvent::KeyPress) return false;
+  if (IsBareInsert(event) && !IsRepeat(event)) insert_on_ = !insert_on_;
+  // Copies, since a taker may open windows, which adds entries, or close its own.
+  std::vector<Entry> asked;
+  std::ranges::copy_if(entries_, std::back_inserter(asked), [&receiver](const Entry& entry) {
+    return entry.scope == &receiver || (entry.scope && entry.scope->isAncestorOf(&receiver));
+  });
+  return std::ranges::any_of(asked, [&](const Entry& entry) { return entry.takes(receiver, event); });
+}
+
+// The display server sends a held key as releases and presses with one time stamp for both. The toolkit marks only
+// those presses as repeats that have arrived when it reads the release, and misses many on a busy machine.
+bool KeyRouter::IsRepeat(const QKeyEvent& press) const {
+  const bool just_released = press.key() == released_key_ && press.timestamp() == released_at_;
+  return press.isAutoRepeat() || (just_released && released_at_ != 0);
+}
+
+// True for a repeat of Enter or Delete where the key was pressed in another widget, for its first press may have opened
+// or closed a window, and where the widget has no text for the key to edit, so that no button is pressed twice.
+bool KeyRouter::HoldsBack(const QWidget& receiver, const QKeyEvent& event) {
+  const int key = event.key();
+  if (event.type() == QEvent::KeyRelease) {
+    released_key_ = key;
+    released_at_ = event.timestamp();
+    return false;
+  }
+  if (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Delete) return false;
+  if (IsRepeat(event)) return pressed_in_ != &receiver || !EditsTextWith(key, receiver);
+  pressed_in_ = &receiver;
+  return false;
+}
+
+}  // namespace pelmar
