@@ -35,7 +35,7 @@ if [ -n "$changed" ]; then
   tell "clang-tidy over $(echo "$changed" | wc -l) changed files"
   # In a tree without precompiled headers, which are the other compiler's own; of it only what forms and classes
   # generate is built.
-  configure_and_build tidy pelmar_ui_autogen pelmar-printer_autogen pelmar-browser_autogen || exit 1
+  configure_and_build tidy form_headers pelmar-printer_autogen pelmar-browser_autogen || exit 1
   echo "$changed" | xargs -P "$(nproc)" -n 4 clang-tidy --quiet -p build/tidy >&2 || exit 1
 fi
 
