@@ -39,7 +39,7 @@ if [ -n "$changed" ]; then
   echo "$changed" | xargs -P "$(nproc)" -n 4 clang-tidy --quiet -p build/tidy >&2 || exit 1
 fi
 
-for benchmark in build/check/bench/*_bench; do
+for benchmark in build/ci/bench/*_bench; do
   tell "running $(basename "$benchmark") once"
   arguments=--benchmark_min_time=0.001
   case $benchmark in */line_ends_bench) arguments="${TMPDIR:-/tmp} 4" ;; esac
