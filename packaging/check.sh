@@ -35,11 +35,11 @@ if [ -n "$changed" ]; then
   tell "clang-tidy over $(echo "$changed" | wc -l) changed files"
   # In a tree without precompiled headers, which are the other compiler's own; of it only what forms and classes
   # generate is built.
-  configure_and_build tidy pelmar_ui_autogen pelmar-printer_autogen pelmar-browser_autogen || exit 1
+  configure_and_build tidy form_headers pelmar-printer_autogen pelmar-browser_autogen || exit 1
   echo "$changed" | xargs -P "$(nproc)" -n 4 clang-tidy --quiet -p build/tidy >&2 || exit 1
 fi
 
-for benchmark in build/check/bench/*_bench; do
+for benchmark in build/ci/bench/*_bench; do
   tell "running $(basename "$benchmark") once"
   arguments=--benchmark_min_time=0.001
   case $benchmark in */line_ends_bench) arguments="${TMPDIR:-/tmp} 4" ;; esac

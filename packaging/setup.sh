@@ -7,7 +7,7 @@ runtime_packages="libqt6svg6 qt6-qpa-plugins qt6-translations-l10n fonts-dejavu-
 test_packages="libgtest-dev libbenchmark-dev python3 xvfb openbox xdotool xclip wmctrl x11-utils
 imagemagick cups-daemon cups-client lintian dpkg-dev appstream desktop-file-utils fakeroot poppler-utils
 dbus-daemon at-spi2-core gir1.2-atspi-2.0 python3-gi weston qt6-wayland"
-fuzz_packages="clang libclang-rt-14-dev"
+fuzz_packages="clang libclang-rt-dev"
 check_packages="$fuzz_packages clang-format clang-tidy git"
 
 tell() {
@@ -43,31 +43,33 @@ install_missing() {
   }
 }
 
-# Configures a preset when that wasn't done yet for this tree, then builds it. What follows the preset's name are further
-# arguments of cmake (they begin with "-") and the targets to build; all of them where none is named.
+# Configures a preset when that wasn't done yet for this tree with these options, then builds it. What follows the
+# preset's name are options of cmake (they begin with "-") and the targets to build; all of them where none is named.
 configure_and_build() {
   preset=$1
   shift
   build=$root/build/$preset
-  options= targets=
+  options= targets= configured=yes
   for word in "$@"; do
     case $word in
-      -*) options="$options $word" ;;
+      -*)
+        options="$options $word"
+        name=${word#-D}
+        grep -qxF "${name%%=*}:BOOL=${name#*=}" "$build/CMakeCache.txt" 2>/dev/null || configured=
+        ;;
       *) targets="$targets $word" ;;
     esac
   done
-  if ! [ -f "$build/build.ninja" ] ||
-    ! grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$root" "$build/CMakeCache.txt" 2>/dev/null; then
-    tell "configuring build/$preset"
+  if ! grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$root" "$build/CMakeCache.txt" 2>/dev/null; then
     rm -f "$build/CMakeCache.txt" "$build/build.ninja"
+  fi
+  if [ -z "$configured" ] || ! [ -f "$build/build.ninja" ]; then
+    tell "configuring build/$preset"
     (cd "$root" && cmake --log-level=WARNING --preset "$preset" $options >&2) || return 1
   fi
   tell "building what changed in build/$preset"
   # A terminal gets ninja's one moving line, a log only what goes wrong.
   quiet=--quiet
   [ -t 2 ] && quiet=
-  # Twice: headers made from forms change behind ninja's back, and what includes them is built by the second call.
-  for round in 1 2; do
-    ninja -C "$build" -j "$(nproc)" $quiet $targets >&2 || return 1
-  done
+  ninja -C "$build" -j "$(nproc)" $quiet $targets >&2
 }

@@ -3,7 +3,8 @@
 //
 //   designed_forms [--rewrite] FOLDER-OR-FORM...
 //
-// With --rewrite the forms that differ are written as the editor would.
+// With --rewrite the forms that differ are written as the editor would. Enumerators stand in the forms as Qt 6.4 saves
+// them, which every later editor reads too.
 #include <QApplication>
 #include <QDesignerComponents>
 #include <QDesignerFormEditorInterface>
@@ -14,10 +15,17 @@
 #include <QFile>
 #include <QHashFunctions>
 #include <QLoggingCategory>
+#include <QRegularExpression>
 #include <cstdio>
 #include <memory>
 
 namespace {
+
+// From 6.8 on the editor names the enumeration as well: Qt::Orientation::Horizontal for Qt::Horizontal.
+QString WithShortEnumerators(QString form) {
+  static const QRegularExpression scoped(QStringLiteral("\\b(Q\\w+)::\\w+::(?=\\w)"));
+  return form.replace(scoped, QStringLiteral("\\1::"));
+}
 
 // As the editor would save it; nothing where it can't read it. An editor of its own for each, since one remembers the
 // classes of the forms before and lists them in that order.
@@ -26,7 +34,7 @@ QByteArray AsSaved(const QString& path, const QByteArray& form) {
   new QDesignerIntegration(editor.get(), editor.get());
   const std::unique_ptr<QDesignerFormWindowInterface> window(editor->formWindowManager()->createFormWindow());
   window->setFileName(path);
-  if (window->setContents(QString::fromUtf8(form))) return window->contents().toUtf8();
+  if (window->setContents(QString::fromUtf8(form))) return WithShortEnumerators(window->contents()).toUtf8();
   return {};
 }
 

@@ -10,14 +10,14 @@ namespace pelmar {
 namespace {
 
 // required: lower case, unlike in other tags
-constexpr std::array<std::string_view, 5> kAligns = {"top", "middle", "bottom", "left", "right"};
+constexpr std::array<std::string_view, 5> kImageAligns = {"top", "middle", "bottom", "left", "right"};
 
 }  // namespace
 
 std::string ImageTag(const ImageSpec& image) {
   std::string tag = "<IMG" + Attribute("SRC", FileAddress(image.path, image.relative));
   tag += Attribute("ALT", image.alt);
-  if (image.align) tag += Attribute("ALIGN", kAligns[IndexOf(*image.align)]);
+  if (image.align) tag += Attribute("ALIGN", kImageAligns[IndexOf(*image.align)]);
   if (image.size) {
     tag += Attribute("WIDTH", LeftTrimmed(image.size->width));
     tag += Attribute("HEIGHT", LeftTrimmed(image.size->height));

@@ -9,7 +9,7 @@
 namespace pelmar {
 namespace {
 
-constexpr std::string_view kAligns[] = {"LEFT", "CENTER", "RIGHT"};
+constexpr std::string_view kTableAligns[] = {"LEFT", "CENTER", "RIGHT"};
 constexpr std::string_view kFrames[] = {"NONE", "ABOVE", "BELOW", "HSIDES", "LHS", "RHS", "VSIDES", "BOX"};
 constexpr std::string_view kRules[] = {"NONE", "ROWS", "COLS", "ALL"};
 constexpr std::string_view kSides[] = {"TOP", "BOTTOM", "LEFT", "RIGHT"};
@@ -23,7 +23,7 @@ std::string OpeningTag(const TableSpec& spec) {
   tag += OptionalNumber("WIDTH", spec.width);
   tag += OptionalNumber("COLS", spec.cols);
   tag += Attribute("COLSPEC", spec.colspec);
-  if (spec.align) tag += Attribute("ALIGN", kAligns[IndexOf(*spec.align)]);
+  if (spec.align) tag += Attribute("ALIGN", kTableAligns[IndexOf(*spec.align)]);
   if (spec.border) {
     tag += Attribute("FRAME", kFrames[IndexOf(spec.border->frame)]);
     tag += Attribute("BORDER", LeftTrimmed(spec.border->thickness));

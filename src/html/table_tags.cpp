@@ -9,7 +9,7 @@
 namespace pelmar {
 namespace {
 
-constexpr std::string_view kAligns[] = {"LEFT", "CENTER", "RIGHT", "CHAR"};
+constexpr std::string_view kCellAligns[] = {"LEFT", "CENTER", "RIGHT", "CHAR"};
 constexpr std::string_view kVAligns[] = {"TOP", "MIDDLE", "BOTTOM"};
 constexpr std::string_view kSample = "Buňka"_w;
 constexpr std::size_t kBareTag = 4;    // "<TR>"
@@ -18,7 +18,7 @@ constexpr std::size_t kNameInTag = 3;  // "<TR"
 std::string Attributes(const CellAlignment& alignment) {
   std::string attributes;
   if (alignment.align) {
-    attributes += Attribute("ALIGN", kAligns[IndexOf(*alignment.align)]);
+    attributes += Attribute("ALIGN", kCellAligns[IndexOf(*alignment.align)]);
     if (alignment.align == CellAlign::kCharacter && !alignment.character.empty())
       attributes += Attribute("CHAR", alignment.character);
   }

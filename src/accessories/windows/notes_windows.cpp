@@ -5,6 +5,7 @@
 #include "accessories/windows/poznamka.h"
 #include "platform/qt/application.h"
 #include "platform/qt/asker.h"
+#include "shell/windows/main_window.h"
 #include "shell/windows/program_parts.h"
 
 namespace pelmar {

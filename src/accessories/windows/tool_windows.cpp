@@ -9,6 +9,7 @@
 #include "accessories/windows/morse.h"
 #include "accessories/windows/prev.h"
 #include "platform/qt/application.h"
+#include "shell/windows/main_window.h"
 #include "shell/windows/program_parts.h"
 #include "text/insert.h"
 

@@ -11,11 +11,17 @@
 #include <QWebEngineFileSystemAccessRequest>
 #include <QWebEngineFullScreenRequest>
 #include <QWebEngineNewWindowRequest>
-#include <QWebEngineQuotaRequest>
 #include <QWebEngineRegisterProtocolHandlerRequest>
 #include <QWebEngineSettings>
 #include <QWebEngineView>
+#include <QtGlobal>
 #include <utility>
+
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+#include <QWebEnginePermission>
+#else
+#include <QWebEngineQuotaRequest>
+#endif
 
 #include "html/windows/web_address.h"
 
@@ -129,10 +135,14 @@ void WebEnginePage::NameActions() {
 }
 
 void WebEnginePage::RefuseRequests() {
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+  connect(this, &QWebEnginePage::permissionRequested, this, [](QWebEnginePermission permission) { permission.deny(); });
+#else
   connect(this, &QWebEnginePage::featurePermissionRequested, this, [this](const QUrl& origin, Feature feature) {
     setFeaturePermission(origin, feature, PermissionDeniedByUser);
   });
   connect(this, &QWebEnginePage::quotaRequested, this, [](QWebEngineQuotaRequest request) { request.reject(); });
+#endif
   connect(this, &QWebEnginePage::registerProtocolHandlerRequested, this,
           [](QWebEngineRegisterProtocolHandlerRequest request) { request.reject(); });
   connect(this, &QWebEnginePage::fileSystemAccessRequested, this,

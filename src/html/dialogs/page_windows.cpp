@@ -4,6 +4,7 @@
 #include "html/dialogs/table_cell.h"
 #include "html/dialogs/table_row.h"
 #include "html/dialogs/vytvor.h"
+#include "shell/windows/main_window.h"
 #include "shell/windows/program_parts.h"
 
 namespace pelmar {

@@ -3,6 +3,7 @@
 #include "html/dialogs/inline_dialogs.h"
 #include "html/dialogs/list_dialogs.h"
 #include "html/dialogs/tag_dialogs.h"
+#include "shell/windows/main_window.h"
 #include "shell/windows/program_parts.h"
 
 namespace pelmar {

@@ -21,7 +21,7 @@
 namespace pelmar {
 namespace {
 
-constexpr qint64 kPatience = 100;  // ms
+constexpr qint64 kLongestLockWait = 100;  // ms
 constexpr quint64 kLongestList = 64u << 20;
 
 struct Locked {
@@ -46,7 +46,7 @@ Locked Lock(const std::string& path) {
   clock.start();
   while (true) {
     Locked locked = TryToLock(path);
-    if (locked.may_write || clock.elapsed() >= kPatience) return locked;
+    if (locked.may_write || clock.elapsed() >= kLongestLockWait) return locked;
     QThread::msleep(5);
   }
 }

@@ -7,19 +7,19 @@
 #include <map>
 #include <string>
 #include <string_view>
-#include <tuple>
 #include <vector>
 
-#include "files/files.h"
 #include "platform/color.h"
 #include "platform/platform.h"
-#include "platform/qt/controls/file_browser.h"
 #include "shell/editor.h"
 #include "shell/stand_alone.h"
-#include "shell/windows/main_window.h"
 #include "shell/windows/window_registry.h"
 
 namespace pelmar {
+
+class Files;
+class MainWindow;
+struct FolderBrowser;
 
 // By mode, what shows an accessory that runs as the whole program.
 using StandAlones = std::map<StartMode, std::function<void()>>;
@@ -54,35 +54,34 @@ struct ProgramParts {
   Doors& doors;
 
   // The doors for windows, which are registered before all of these are set.
-  [[nodiscard]] std::function<void(const std::string& path)> BrowserDoor() const {
-    return [&show = doors.show_in_browser](const std::string& path) { show(path); };
-  }
-  [[nodiscard]] std::function<Color(Color)> ColorDoor() const {
-    return [&pick = doors.pick_color](Color color) { return pick(color); };
-  }
+  [[nodiscard]] std::function<void(const std::string& path)> BrowserDoor() const;
+  [[nodiscard]] std::function<Color(Color)> ColorDoor() const;
 
   // Registers the window, and the commands of these names to show it. It is made from `with`, where std::ref stands for
   // what isn't copied, and from the main window as its parent.
   template <class Window, class... With>
   void Add(std::initializer_list<std::string_view> names, With... with) const {
-    windows.Register<Window>([&parent = main, kept = std::make_tuple(std::move(with)...)] {
-      return std::apply([&](auto&... each) { return std::make_unique<Window>(each..., &parent); }, kept);
-    });
-    ShowBy<Window>(names);
-  }
-
-  // The window is one that picks files: its lists `Drive1` and `Dir1` follow the working folders.
-  template <class Window>
-  void AddFilePicker() const {
-    file_pickers.emplace_back([&shown = windows] { return FolderBrowserOf(shown.Get<Window>()); });
+    windows.Register<Window>(
+        [parent = Parent(), ... with = std::move(with)] { return std::make_unique<Window>(with..., parent); });
+    ShowBy(names, typeid(Window));
   }
 
   // The commands of these names show the window, or bring it to the front.
   template <class Window>
   void ShowBy(std::initializer_list<std::string_view> names) const {
-    for (const std::string_view name : names)
-      editor.commands.Add(name, [&shown = windows] { shown.Get<Window>().Present(); });
+    ShowBy(names, typeid(Window));
   }
+
+  // The window is one that picks files: its lists `Drive1` and `Dir1` follow the working folders.
+  template <class Window>
+  void AddFilePicker() const {
+    AddFilePicker(typeid(Window));
+  }
+
+ private:
+  QWidget* Parent() const;
+  void ShowBy(std::initializer_list<std::string_view> names, std::type_index window) const;
+  void AddFilePicker(std::type_index window) const;
 };
 
 // What each subsystem adds, defined in its windows folder. Program calls them all.

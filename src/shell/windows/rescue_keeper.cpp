@@ -66,14 +66,16 @@ void RescueKeeper::WriteInThread() {
 
 int RescueKeeper::WriteIfChanged(RescueRecord record) {
   if (written_ == record) return 0;
-  written_.reset();
   int error = ENOMEM;
   try {
     error = store_.Keep(RescueBytes(content_.kind, record));
   } catch (const std::bad_alloc&) {
     // The file of the write before stays.
   }
-  if (error == 0) written_ = std::move(record);
+  if (error == 0)
+    written_ = std::move(record);
+  else
+    written_.reset();
   return error;
 }
 

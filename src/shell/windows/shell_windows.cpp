@@ -1,6 +1,7 @@
 #include "shell/windows/config.h"
 #include "shell/windows/customize_toolbar.h"
 #include "shell/windows/hlp.h"
+#include "shell/windows/main_window.h"
 #include "shell/windows/o.h"
 #include "shell/windows/pass.h"
 #include "shell/windows/pos.h"

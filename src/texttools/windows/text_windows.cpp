@@ -1,3 +1,4 @@
+#include "shell/windows/main_window.h"
 #include "shell/windows/pos.h"
 #include "shell/windows/program_parts.h"
 #include "texttools/appearance.h"

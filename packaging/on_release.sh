@@ -1,0 +1,62 @@
+#!/bin/sh
+# Tries the last commit on a Debian release, from nothing: packaging/on_release.sh RELEASE [FROM]
+#
+# Makes a system of the release (bookworm, trixie) in a temporary folder, out of this machine's own package sources. In it
+# from_nothing.sh builds, tests and packs a clone. The packages are installed in a fresh system of the release and, where
+# an earlier release FROM is named that was tried before, in a system with the packages of that one which is upgraded.
+# Packages, log and a summary with times stay in build/on_release/RELEASE; the systems are removed.
+# CXX=clang++ builds with clang.
+root=$(dirname "$(dirname "$(readlink -f "$0")")")
+step=on_release
+. "$root/packaging/setup.sh"
+release=${1:?usage: packaging/on_release.sh RELEASE [FROM]}
+from=${2-}
+results=$root/build/on_release/$release
+old=$root/build/on_release/$from/packages
+
+# The lines of apt for the release $1: those of this machine's own release, renamed.
+sources_of() {
+  apt-get indextargets --format 'deb $(REPO_URI) $(RELEASE) $(COMPONENT)' 'Identifier: Packages' |
+    sed -n "s/^\(deb [^ ]* \)$(. /etc/os-release && echo "$VERSION_CODENAME")\([^ ]* .*\)/\1$1\2/p" | sort -u
+}
+
+# Makes a system of the release $1, does in it what the other arguments say, which are hooks of mmdebstrap, and removes it.
+on_system() {
+  made=$1
+  shift
+  sources_of "$made" | mmdebstrap --variant=apt --format=null --include=ca-certificates "$@" "$made" /dev/null -
+}
+
+# Runs a step, and notes in the summary how it ended and how long it took.
+timed() {
+  what=$1
+  shift
+  begin=$(date +%s)
+  ended=passed
+  "$@" >>"$results/log" 2>&1 || ended=FAILED
+  took=$(($(date +%s) - begin))
+  echo "$release: $what: $ended in $((took / 60)) min $((took % 60)) s" | tee -a "$results/summary" >&2
+  [ $ended = passed ] || tell "the log: $results/log"
+  [ $ended = passed ]
+}
+
+installed='pelmar-vex --version && ! ldd /usr/bin/pelmar-vex /usr/lib/*/pelmar-vex/*.so | grep "not found"'
+
+install_missing mmdebstrap git || exit 1
+rm -rf "$results"
+mkdir -p "$results"
+sources_of "$release" >"$results/sources"
+git clone -q "file://$root" "$results/pelmar-vex" || exit 1
+timed "build, test and pack" on_system "$release" \
+  --customize-hook="copy-in '$results/pelmar-vex' /" \
+  --customize-hook='chroot "$1" /pelmar-vex/packaging/from_nothing.sh' \
+  --customize-hook="copy-out /pelmar-vex/build/release/packages '$results'" || exit 1
+grep '^from_nothing: ' "$results/log" | tee -a "$results/summary" >&2
+rm -rf "$results/pelmar-vex"
+timed "install" on_system "$release" --customize-hook="copy-in '$results/packages' /" \
+  --customize-hook="chroot \"\$1\" sh -c 'apt-get -qq install /packages/*.deb && $installed'" || exit 1
+[ -n "$from" ] || exit 0
+timed "upgrade from $from" on_system "$from" --customize-hook="copy-in '$old' /" \
+  --customize-hook="chroot \"\$1\" sh -c 'apt-get -qq install /packages/*.deb && $installed && rm -r /packages'" \
+  --customize-hook="copy-in '$results/packages' /" --customize-hook="upload '$results/sources' /etc/apt/sources.list" \
+  --customize-hook="chroot \"\$1\" sh -c 'apt-get -qq update && apt-get -qq full-upgrade && apt-get -qq install /packages/*.deb && $installed'"
