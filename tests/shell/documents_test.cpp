@@ -154,29 +154,25 @@ TEST_F(RescueStoreTest, AnOrdinaryEndLeavesNothing) {
     EXPECT_EQ(store.Keep(kept), 0);
     EXPECT_EQ(std::filesystem::is_empty(folder), *kept == '\0');
     EXPECT_EQ(Content(store.Path()), *kept == '\0' ? "<missing>" : kept);
-    EXPECT_TRUE(FindAbandoned(folder, kPrefix).empty());  // a living copy's file is nobody else's
+    LockFile offer;
+    EXPECT_TRUE(FindAbandoned(folder, kPrefix, offer).empty());  // the file of a living copy
   }
   EXPECT_NE(StoreIn("/nonexistent/folder/").Keep("x"), 0);
 }
 
-TEST_F(RescueStoreTest, WhatADeadCopyKeptIsFoundOnceUntilItIsDiscarded) {
+TEST_F(RescueStoreTest, OneCopyAtATimeFindsWhatADeadCopyKept) {
   LetACopyDie("lost");
   RescueStore own = StoreIn(folder);
   own.Keep("mine");
-  FindAbandoned(folder, kPrefix).clear();  // a finder that dies leaves it for the next
-  auto found = FindAbandoned(folder, kPrefix);
-  ASSERT_EQ(found.size(), 1u);
-  EXPECT_EQ(Content(found[0].path), "lost");
-  EXPECT_TRUE(FindAbandoned(folder, kPrefix).empty());  // held by the first finder
-  Discard(found[0]);
-  EXPECT_TRUE(FindAbandoned(folder, kPrefix).empty());
-  EXPECT_EQ(Content(own.Path()), "mine");
-  // One that died before it kept anything, or whose file is gone, leaves nothing for ever.
-  LetACopyDie("x");
-  for (const auto& file : std::filesystem::directory_iterator(folder))
-    if (file.path() != own.Path() && file.path().extension() == ".pelmar") std::filesystem::remove(file.path());
-  EXPECT_TRUE(FindAbandoned(folder, kPrefix).empty());
-  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder), {}), 2);  // its own, and the lock on it
+  {
+    LockFile first, second;
+    const auto found = FindAbandoned(folder, kPrefix, first);
+    ASSERT_EQ(found.size(), 1u);
+    EXPECT_EQ(Content(found[0]), "lost");
+    EXPECT_TRUE(FindAbandoned(folder, kPrefix, second).empty());
+  }
+  LockFile next;
+  EXPECT_EQ(FindAbandoned(folder, kPrefix, next).size(), 1u);
 }
 
 TEST(RescueFile, ReadsWhatWasWrittenWholeAndOfItsKindAlone) {
