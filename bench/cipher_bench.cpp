@@ -56,7 +56,7 @@ void Press(const QWidget& dialog, const char* name) { dialog.findChild<QPushButt
 void StreamInWindow(benchmark::State& state) {
   Desk desk;
   ZaKod dialog(
-      desk.editor.text, desk.platform, [] { return 1; }, &desk.window);
+      desk.editor, [] { return false; }, &desk.window);
   dialog.Present();
   Desk::Show();
   for (auto _ : state) {
@@ -75,7 +75,7 @@ BENCHMARK(StreamInWindow)->Name("stream_64000_characters_in_the_window (limit 10
 void StreamGap(benchmark::State& state) {
   Desk desk;
   ZaKod dialog(
-      desk.editor.text, desk.platform, [] { return 1; }, &desk.window);
+      desk.editor, [] { return false; }, &desk.window);
   dialog.Present();
   const std::string text(4096000, 'A');
   QElapsedTimer since;

@@ -15,6 +15,7 @@
 #include "files/files.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/qt_platform.h"
+#include "shell/rescued_documents.h"
 #include "shell/windows/main_window.h"
 #include "shell/windows/rescue_keeper.h"
 #include "shell/windows/status_timer.h"

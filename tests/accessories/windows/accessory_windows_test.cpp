@@ -3,6 +3,7 @@
 
 #include <QDir>
 #include <QListWidget>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 

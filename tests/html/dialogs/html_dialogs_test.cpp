@@ -13,6 +13,7 @@
 #include <cstring>
 #include <filesystem>
 
+#include "files/files.h"
 #include "html/dialogs/odkaz.h"
 #include "html/dialogs/table_row.h"
 #include "html/samples/templaty.h"
@@ -21,6 +22,7 @@
 #include "platform/qt/controls/text_box.h"
 #include "platform/qt/convert.h"
 #include "program/commands.h"
+#include "shell/windows/main_window.h"
 #include "shell/windows/program_parts.h"
 #include "support/controls.h"
 #include "support/marked_text.h"

@@ -84,7 +84,7 @@ TEST(Field, TakesPastedAndDroppedLinesAsADocumentHasThemOrWithoutTheirBreaks) {
     };
     const auto choose = [&](QMimeData* mime) {
       QGuiApplication::clipboard()->setMimeData(mime);
-      QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint());
+      QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(), QPoint());
       QApplication::sendEvent(receiver, &event);
       auto* menu = QApplication::activePopupWidget();
       menu->actions().value(5)->trigger();  // behind Undo, Redo, a line, Cut and Copy

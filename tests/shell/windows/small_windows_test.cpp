@@ -4,6 +4,7 @@
 #include <QListWidget>
 #include <QScrollBar>
 #include <QTest>
+#include <QToolButton>
 
 #include "files/windows/otevri.h"
 #include "program/program.h"
