@@ -36,13 +36,17 @@ class Handler(BaseHTTPRequestHandler):
     timeout = 5
 
     def do_GET(self):
-        """A pink page, or where "?to=" in the address leads."""
+        """A pink page that tells what it finds of others, or where "?to=" in the address leads."""
         to = self.path.partition("?to=")[2]
         self.server.asked += [] if "favicon" in self.path else [self.path]
         self.send_response(302 if to else 200)
         self.send_header("Location" if to else "Content-Type", to or "text/html")
         self.end_headers()
-        self.wfile.write(f'<TITLE>Sit</TITLE><BODY BGCOLOR="{PINK}">'.encode())
+        found = "[name, document.cookie, localStorage.kept, sessionStorage.kept, document.referrer].join('')"
+        self.wfile.write(f"""<TITLE>Sit</TITLE><BODY BGCOLOR="{PINK}"><SCRIPT>
+            if (location.pathname == '/look') document.title = 'finds ' + ({found} || 'nothing')</SCRIPT>""".encode())
+
+    do_POST = do_HEAD = do_OPTIONS = do_GET
 
     def log_message(self, *_):
         pass
@@ -157,6 +161,38 @@ class BrowserTest(EditorCase):
         self.work(go(f"http://{site}/typed"))
         self.shown("Sit")
         self.assertEqual(server.asked, ["/typed"])
+
+    def test_what_a_local_page_has_read_stays_here_however_the_border_is_crossed(self):
+        server, site = self.serve()
+        self.write("secret.txt", "secret")
+        page = (Path(__file__).parent / "crossing" / "hostile.html").read_text()
+        path = self.write("hostile.html", page.replace("LINK", LINK).replace("SITE", site))
+        net, disk, read, found, still = (
+            go(f"http://{site}/look"), f"file://{path}",
+            *(f"[HTML testovací browser ({title})]" for title in ("reads secret", "finds nothing", "hostile")))
+        ways = {"address": f"{net} {found}",
+                "address, Stop": f"{net} Escape {net} {found}",
+                "Stop, address": f"Escape {net} {found}",
+                "list": f"alt+a Down {found}",
+                "back": f"alt+Left {found}",
+                "back, forward": f"{net} {found} alt+Left {read} alt+Right {found}",
+                "Načíst": f"alt+n {still}",
+                "Načíst, Stop": "alt+n Escape",
+                "Načíst, Obnovit": f"alt+n {still} F5 {read}",
+                "Načíst, link": f"alt+n {still}",
+                "link": ""}
+        browser = self.start("-BROWSER", title=ALONE)
+        for loops in ("", "?loops"):
+            for way, steps in ways.items():
+                with self.subTest(way, loops=loops):
+                    self.work(f"{net} {found} {go(disk + loops)} {read} {steps}")
+                    if "link" in way and not (loops and way == "link"):
+                        self.click_link(browser)
+                        self.work("[Pelmar VEX] alt+a /")
+                        self.shown("Sit")
+                    time.sleep(0.3)  # for what would come late
+                    self.assertLessEqual(set(server.asked), {"/look", "/link", "/picture"})
+                    server.asked.clear()
 
     def test_addresses_within_the_engine_are_refused(self):
         server, site = self.serve()
