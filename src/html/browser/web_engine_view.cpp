@@ -78,8 +78,9 @@ void WebEngineView::ConnectPage() {
   connect(page_.get(), &QWebEnginePage::linkHovered, this, [this](const QString& address) {
     if (on_link) on_link(address);
   });
-  connect(page_.get(), &QWebEnginePage::renderProcessTerminated, this, &WebEngineView::ProcessEnded);
-  // Not within a call of the page, which goes.
+  // Not within a call of the page, which may go then.
+  connect(page_.get(), &QWebEnginePage::renderProcessTerminated, this, &WebEngineView::ProcessEnded,
+          Qt::QueuedConnection);
   page_->on_leave = [this](const QUrl& address) {
     QMetaObject::invokeMethod(
         this, [this, address] { Load(address); }, Qt::QueuedConnection);
@@ -116,9 +117,6 @@ void WebEngineView::Stay(const std::function<void()>& step) {
 
 void WebEngineView::Cross(qsizetype place, PageSide side) {
   place_ = place;
-  unanswered_.stop();
-  ++probes_;
-  held_up_ = {};
   MakePage(side);
   page_->load(places_[place_]);
 }
@@ -172,8 +170,10 @@ void WebEngineView::EndIfStuck() {
 
 void WebEngineView::LoadFromNet() {
   Command([this] {
-    GatherPlaces();
-    Cross(place_, PageSide::kDiskWithNet);
+    EndProcess([this] {
+      GatherPlaces();
+      Cross(place_, PageSide::kDiskWithNet);
+    });
   });
 }
 
@@ -191,9 +191,11 @@ void WebEngineView::Load(const QUrl& address) {
   if (!address.isValid() || !MayBeShown(address)) return;
   Command([this, address] {
     if (!places_.isEmpty() && SideOf(address) == page_->Side()) return Stay([this, address] { page_->load(address); });
-    GatherPlaces();
-    places_ = places_.mid(0, place_ + 1) + QList{address};
-    Cross(places_.size() - 1, SideOf(address));
+    EndProcess([this, address] {
+      GatherPlaces();
+      places_ = places_.mid(0, place_ + 1) + QList{address};
+      Cross(places_.size() - 1, SideOf(address));
+    });
   });
 }
 
@@ -211,8 +213,10 @@ void WebEngineView::Go(int places) {
     if (places < 0 ? own.canGoBack() : own.canGoForward())
       return Stay(
           [this, places] { page_->triggerAction(places < 0 ? QWebEnginePage::Back : QWebEnginePage::Forward); });
-    GatherPlaces();
-    Cross(place_ + places, SideOf(places_[place_ + places]));
+    EndProcess([this, places] {
+      GatherPlaces();
+      Cross(place_ + places, SideOf(places_[place_ + places]));
+    });
   });
 }
 
@@ -221,8 +225,10 @@ void WebEngineView::Refresh() {
   Command([this] {
     if (page_->Side() != PageSide::kDiskWithNet && page_->url().isValid())
       return Stay([this] { page_->triggerAction(QWebEnginePage::Reload); });
-    GatherPlaces();
-    Cross(place_, SideOf(places_[place_]));
+    EndProcess([this] {
+      GatherPlaces();
+      Cross(place_, SideOf(places_[place_]));
+    });
   });
 }
 

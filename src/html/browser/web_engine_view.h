@@ -43,7 +43,7 @@ class WebEngineView : public QObject, public WebView {
   void Command(std::function<void()> step);
   // A step within the present page.
   void Stay(const std::function<void()>& step);
-  // Leaves the present page, which ends with its processes, for a new one that loads the place.
+  // Loads a place in a new page. The process of the present one has ended by then.
   void Cross(qsizetype place, PageSide side);
   // Puts the present page's history into places_.
   void GatherPlaces();
