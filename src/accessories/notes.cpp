@@ -58,6 +58,22 @@ void StoreNotes(const NotesRecord& record, Platform& platform, FileNumber& file_
   WriteRecordOn(file_number, platform, NotesPath(platform), NotesBytes(record));
 }
 
+NotesRecord LoadNotesAnew(const NotesRecord& stored, Platform& platform, FileNumber& file_number) {
+  const std::string bytes = ReadOrMakeOn(file_number, platform, NotesPath(platform), kLongestRecord);
+  return bytes.empty() ? stored : ReadNotes(bytes);
+}
+
+MergedNotes MergeNotes(const NotesRecord& now, const NotesRecord& stored, const NotesRecord& file) {
+  MergedNotes merged{file};
+  for (const RescuedText& note : BringBackNotes(merged.record, {NotesToKeep(stored, now, 1)}))
+    merged.record.Page(note.place) += "\r\n\r\n" + note.text;
+  for (int page = kNotePages; page >= 1; --page) {
+    const std::string& text = now.Page(page);
+    if (text != stored.Page(page) && text != merged.record.Page(page) && !text.empty()) merged.twice = page;
+  }
+  return merged;
+}
+
 RescueRecord NotesToKeep(const NotesRecord& stored, const NotesRecord& now, int page_on_show) {
   static_assert(kRescuePlaces == kNotePages);
   RescueRecord unsaved{page_on_show, {}};
@@ -72,7 +88,7 @@ std::vector<RescuedText> BringBackNotes(NotesRecord& record, const std::vector<R
     for (const RescuedText& note : of_one.texts) {
       if (record.Page(note.place) == note.origin) {
         record.Page(note.place) = note.text;
-      } else if (!note.text.empty()) {
+      } else if (!note.text.empty() && record.Page(note.place) != note.text) {
         moved.push_back(note);
       }
     }

@@ -45,6 +45,12 @@ TEST_F(NotesOnDisk, AMissingFileIsMadeEmptyAndTheTailOfALongerRecordStays) {
   EXPECT_EQ(Loaded(), (NotesRecord{{"b"}}));
 }
 
+TEST_F(NotesOnDisk, AFileThatIsGoneTakesNoPageAway) {
+  EXPECT_EQ(LoadNotesAnew(kStored, platform, file_number), kStored);
+  StoreNotes({}, platform, file_number);
+  EXPECT_EQ(LoadNotesAnew(kStored, platform, file_number), NotesRecord{});
+}
+
 TEST_F(NotesOnDisk, WhatCantBeReadIsNotWrittenOver) {
   platform.files[kPath] = "kept";
   platform.read_errors[kPath] = EACCES;
@@ -59,6 +65,22 @@ TEST_F(NotesOnDisk, WhatCantBeReadIsNotWrittenOver) {
   EXPECT_THROW(static_cast<void>(Loaded()), RuntimeError);
   file_number.Open();  // an operation that was abandoned
   EXPECT_THROW(static_cast<void>(Loaded()), RuntimeError);
+}
+
+// What another copy has stored since the pages were read.
+TEST(MergeNotes, PagesUnchangedHereAreTheFilesAndThoseChangedTwiceAreKeptTwice) {
+  const NotesRecord read{{"one", "two", "", "four", "five"}};
+  const auto merge = [&read](const NotesRecord& now, const NotesRecord& file) {
+    const MergedNotes merged = MergeNotes(now, read, file);
+    return std::pair(merged.record, merged.twice);
+  };
+  EXPECT_EQ(merge(read, {{"1", "", "3"}}), std::pair(NotesRecord{{"1", "", "3"}}, 0));
+  const NotesRecord now{{"ONE", "TWO", "", "FOUR", ""}};
+  EXPECT_EQ(merge(now, read), std::pair(now, 0));
+  // The first has its place still, the second got the empty page, the fourth is the same, what is emptied gives way.
+  EXPECT_EQ(merge(now, {{"one", "2", "", "FOUR", "5"}}), std::pair(NotesRecord{{"ONE", "2", "TWO", "FOUR", "5"}}, 2));
+  EXPECT_EQ(merge(now, {{"1", "two", "3", "four", "5"}}),
+            std::pair(NotesRecord{{"1\r\n\r\nONE", "TWO", "3", "FOUR", "5"}}, 1));
 }
 
 TEST(NotesRescue, EachPageThatDiffersComesBackToItsPlaceOrToAnEmptyOne) {

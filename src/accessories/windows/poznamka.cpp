@@ -26,6 +26,10 @@ QFont FontOf(const EditorLook& look) {
   return font;
 }
 
+std::string KeptTwiceMessage(int page) {
+  return "Poznámku " + std::to_string(page) + " mezitím změnila i jiná kopie programu. Uložena jsou obě znění.";
+}
+
 bool TellsOfMove(const QEvent& event) {
   switch (event.type()) {
     case QEvent::Move:
@@ -156,11 +160,17 @@ bool Poznamka::RefuseOverlong(const NotesRecord& record) {
 
 bool Poznamka::Unload() {
   const NotesRecord now = Now();
-  if (RefuseOverlong(now)) return false;
-  record_ = now;
+  const NotesRecord before = stored_;
+  stored_ = LoadNotesAnew(before, around_.platform, around_.file_number);
+  const MergedNotes merged = MergeNotes(now, before, stored_);
+  record_ = merged.record;
+  if (record_.Page(page_) != now.Page(page_)) ShowPage(page_);
+  if (RefuseOverlong(record_)) return false;
   StoreNotes(record_, around_.platform, around_.file_number);
   stored_ = record_;
   keeper_.End();
+  if (merged.twice != 0)
+    around_.platform.Message(MessageType::kOk, KeptTwiceMessage(merged.twice), Utf8FromQString(windowTitle()));
   return around_.mode != StartMode::kNotes || MayEndStandAlone(around_.platform, "Poznámky");
 }
 

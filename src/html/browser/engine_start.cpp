@@ -11,6 +11,8 @@
 #include <QQuickWindow>
 #include <cerrno>
 
+#include "html/browser/net_gate.h"
+
 // The toolkit's own door for this, in no public header: the context that all others share.
 extern void qt_gl_set_global_share_context(QOpenGLContext* context);
 
@@ -67,10 +69,9 @@ ScopedVariable::~ScopedVariable() {
   }
 }
 
-EngineStart::EngineStart(const NetGate& gate) {
+EngineStart::EngineStart() {
   const auto set = [this](const char* name, const QByteArray& value) { variables_.emplace_back(name, value); };
   set(kFlags, qgetenv(kFlags) + " --disable-gpu --lang=cs" + kOnlyThroughTheGate + kGateHost + "\"");
-  set("SOCKS_SERVER", gate.Address());
   // Servers of this machine too.
   set("no_proxy", "<-loopback>");
   for (const char* name : kBeforeTheGate) set(name, QByteArray());

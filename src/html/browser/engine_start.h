@@ -5,8 +5,6 @@
 #include <list>
 #include <optional>
 
-#include "html/browser/net_gate.h"
-
 namespace pelmar {
 
 // A variable of the environment, set, or not there for a null value, while this lives.
@@ -22,11 +20,14 @@ class ScopedVariable {
   std::optional<QByteArray> old_;
 };
 
+// The variable that tells the engine's profiles their gate while they are made.
+inline constexpr char kWayOut[] = "SOCKS_SERVER";
+
 // While one of these lives, the engine may start. The environment is as before when it has gone, so that other programs
 // that this one starts aren't touched.
 class EngineStart {
  public:
-  explicit EngineStart(const NetGate& gate);
+  EngineStart();
   EngineStart(const EngineStart&) = delete;
   EngineStart& operator=(const EngineStart&) = delete;
   ~EngineStart();

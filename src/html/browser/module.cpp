@@ -13,9 +13,8 @@ class BrowserPlugin : public QObject, public WebViewMaker {
 
  public:
   std::unique_ptr<WebView> Make(QWidget* parent) override {
-    auto gate = std::make_unique<NetGate>();
-    const EngineStart start(*gate);
-    return std::make_unique<WebEngineView>(std::move(gate), parent);
+    const EngineStart start;
+    return std::make_unique<WebEngineView>(parent);
   }
 };
 

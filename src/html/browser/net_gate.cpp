@@ -136,7 +136,7 @@ class Passage : public QObject {
 
 }  // namespace
 
-NetGate::NetGate() {
+NetGate::NetGate(bool open) : open_(open) {
   server_.setProxy(QNetworkProxy::NoProxy);
   connect(&server_, &QTcpServer::newConnection, this, &NetGate::Accept);
   server_.listen(QHostAddress(QLatin1String(kGateHost)));
@@ -146,16 +146,6 @@ QByteArray NetGate::Address() const {
   // Where it can't listen, nothing goes out at all.
   const int port = server_.isListening() ? server_.serverPort() : 9;
   return QByteArray(kGateHost) + ':' + QByteArray::number(port);
-}
-
-void NetGate::SetOpen(bool open) {
-  if (open_ == open) return;
-  open_ = open;
-  if (open) return;
-  for (QTcpSocket* socket : server_.findChildren<QTcpSocket*>(Qt::FindDirectChildrenOnly)) {
-    socket->abort();
-    socket->deleteLater();
-  }
 }
 
 void NetGate::Accept() {

@@ -1,6 +1,6 @@
 // The engine's only way to the net: a SOCKS proxy within this process, which everything that the engine sends over TCP
-// has to pass, whoever asked for it (scripts, sockets, peer connections). While it is shut nothing goes out and what
-// was open is cut. It serves nobody but this process.
+// has to pass, whoever asked for it (scripts, sockets, peer connections). It serves nobody but this process, and is
+// open or shut for life: a gate that opens lets out what an earlier page has asked for.
 #pragma once
 
 #include <QByteArray>
@@ -13,20 +13,16 @@ inline constexpr char kGateHost[] = "127.0.0.71";
 
 class NetGate : public QObject {
  public:
-  // It begins shut.
-  NetGate();
+  explicit NetGate(bool open);
 
   // As the engine is told it.
   [[nodiscard]] QByteArray Address() const;
-
-  void SetOpen(bool open);
-  [[nodiscard]] bool IsOpen() const { return open_; }
 
  private:
   void Accept();
 
   QTcpServer server_;
-  bool open_ = false;
+  const bool open_;
 };
 
 }  // namespace pelmar

@@ -27,9 +27,9 @@ bool IsMissed(QWebEngineUrlRequestInfo::ResourceType type) {
 void NetRefusal::interceptRequest(QWebEngineUrlRequestInfo& request) {
   const QString scheme = request.requestUrl().scheme();
   if (ReachesTheNet(scheme)) {
-    if (gate_.IsOpen()) return;
+    if (lets_to_net_) return;
     request.block(true);
-    if (on_withheld && IsMissed(request.resourceType())) on_withheld();
+    if (IsMissed(request.resourceType())) on_withheld_();
   } else if (!MayBeShown(request.requestUrl()) && scheme != QLatin1String("blob") && scheme != QLatin1String("about")) {
     request.block(true);
   }

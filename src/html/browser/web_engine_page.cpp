@@ -34,6 +34,8 @@ QString Title() { return QStringLiteral("Zpráva stránky"); }
 constexpr char kLeaving[] = "Are you sure you want to leave this page? Changes that you made may not be saved.";
 constexpr int kMostUnasked = 2;         // questions before a page may be silenced
 constexpr int kLongestQuestion = 2000;  // characters of a page's own words
+// Characters of an address of the net, and those of one line of it: all of it is seen, or it isn't asked for.
+constexpr qsizetype kLongestAsked = 1000, kAddressLine = 80;
 
 // What a frame of a page may hold besides.
 bool MayBeFramed(const QUrl& address) {
@@ -55,13 +57,13 @@ class SilenceBox : public QCheckBox {
 
 }  // namespace
 
-WebEnginePage::WebEnginePage(QWebEngineProfile* profile, NetGate& gate, QObject* parent)
-    : QWebEnginePage(profile, parent), gate_(gate) {
+WebEnginePage::WebEnginePage(QWebEngineProfile* profile, PageSide side) : QWebEnginePage(profile), side_(side) {
   settings()->setDefaultTextEncoding(QStringLiteral("windows-1250"));
   settings()->setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
   settings()->setAttribute(QWebEngineSettings::LocalContentCanAccessFileUrls, true);
   // Not for good: what the engine's own rule stops, nobody hears of. The refusal and the gate hold it back.
   settings()->setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, true);
+  settings()->setAttribute(QWebEngineSettings::JavascriptEnabled, side != PageSide::kDiskWithNet);
   settings()->setAttribute(QWebEngineSettings::HyperlinkAuditingEnabled, false);
   // A window only where the person has clicked: a page could ask for them without end.
   settings()->setAttribute(QWebEngineSettings::JavascriptCanOpenWindows, false);
@@ -74,57 +76,47 @@ WebEnginePage::WebEnginePage(QWebEngineProfile* profile, NetGate& gate, QObject*
 
 // What the program loads isn't held back as what the page loads is, so this is for pages that may go there.
 void WebEnginePage::OpenHere(const QUrl& address) {
-  if (LeavesTheDisk(address)) return AskToLeaveTheDisk(address);
-  if (IsOfTheNet(address) || (address.isLocalFile() && url().isLocalFile())) load(address);
+  if (IsOfTheNet(address) || (address.isLocalFile() && side_ != PageSide::kNet)) load(address);
 }
-
-// All that isn't of the net counts as local: an empty page can have been opened by a local one.
-bool WebEnginePage::LeavesTheDisk(const QUrl& address) const { return !IsOfTheNet(url()) && IsOfTheNet(address); }
 
 // The scripts of a local page may read other local files, and an address can carry them away. So such a page reaches
-// the net only where the person has seen the address.
+// the net only where the person has seen the whole address.
 void WebEnginePage::AskToLeaveTheDisk(const QUrl& address) {
-  const auto ask = [this, address] {
-    const QString question = QStringLiteral("Stránka odkazuje na internet. Otevřít adresu ?\n\n%1");
-    const QString text = question.arg(Shortened(address.toString(QUrl::FullyEncoded), kLongestShown));
-    if (AskInBox(QStringLiteral("Pelmar VEX"), text, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) && on_leave)
-      on_leave(address);
-  };
-  // Not within the engine's own call.
-  QMetaObject::invokeMethod(this, ask, Qt::QueuedConnection);
+  QString shown = address.toString(QUrl::FullyEncoded);
+  const qsizetype length = shown.size();
+  if (length > kLongestAsked) {
+    const QString refusal =
+        QStringLiteral("Stránka odkazuje na internet. Adresa se neotevře, protože ji nelze ukázat celou: má %1 znaků.");
+    AskInBox(Title(), refusal.arg(length), QMessageBox::Ok, QMessageBox::Ok);
+    return;
+  }
+  // A box breaks lines between words alone.
+  for (qsizetype end = (length - 1) / kAddressLine * kAddressLine; end > 0; end -= kAddressLine)
+    shown.insert(end, QLatin1Char('\n'));
+  const QString question = QStringLiteral("Stránka odkazuje na internet. Otevřít adresu ?\n\n") + shown;
+  if (AskInBox(QStringLiteral("Pelmar VEX"), question, QMessageBox::Yes | QMessageBox::No, QMessageBox::No))
+    on_leave(address);
 }
 
-bool WebEnginePage::acceptNavigationRequest(const QUrl& address, NavigationType type, bool is_main_frame) {
+bool WebEnginePage::acceptNavigationRequest(const QUrl& address, NavigationType, bool is_main_frame) {
   if (!is_main_frame) return MayBeFramed(address);
-  if (!MayBeShown(address)) return false;
-  const bool let_go = std::exchange(leaving_, false) || (type == NavigationTypeRedirect && gate_.IsOpen());
-  if (LeavesTheDisk(address) && !let_go) {
-    AskToLeaveTheDisk(address);
+  if (!MayBeShown(address) || (side_ == PageSide::kNet && address.isLocalFile())) return false;
+  if (side_ != PageSide::kNet && IsOfTheNet(address)) {
+    // Not within the engine's own call.
+    QMetaObject::invokeMethod(
+        this, [this, address] { AskToLeaveTheDisk(address); }, Qt::QueuedConnection);
     return false;
   }
-  SetLoadsFromNet(std::exchange(reloading_from_net_, false));
-  // Before the first script of the coming page runs.
-  gate_.SetOpen(IsOfTheNet(address) || loads_from_net_);
-  if (on_coming) on_coming();
+  if (side_ == PageSide::kDiskWithNet && std::exchange(loaded_, true)) {
+    on_leave(address);
+    return false;
+  }
+  on_coming();
   return true;
-}
-
-void WebEnginePage::ReloadFromNet() {
-  reloading_from_net_ = true;
-  SetLoadsFromNet(true);
-  triggerAction(Reload);
-}
-
-void WebEnginePage::SetLoadsFromNet(bool on) {
-  loads_from_net_ = on;
-  settings()->setAttribute(QWebEngineSettings::JavascriptEnabled, !on);
 }
 
 void WebEnginePage::NameActions() {
   const std::pair<WebAction, QString> names[] = {
-      {Back, QStringLiteral("&Zpět")},
-      {Forward, QStringLiteral("&Vpřed")},
-      {Reload, QStringLiteral("&Obnovit")},
       {Cut, QStringLiteral("Vy&jmout")},
       {Copy, QStringLiteral("&Kopírovat")},
       {Paste, QStringLiteral("V&ložit")},

@@ -1,6 +1,6 @@
 // A page of the web engine under the program's rules: it may show local files and what they load, but it gets no
-// permission, no download and no window of its own, and its questions come in Czech. The gate is open only while a page
-// of the net is shown, or a local one that the person lets there.
+// permission, no download and no window of its own, and its questions come in Czech. The page and its processes stay on
+// one side, the disk's or the net's, from the first load to their end.
 #pragma once
 
 #include <QDialog>
@@ -9,37 +9,33 @@
 #include <QWebEnginePage>
 #include <functional>
 
-#include "html/browser/net_gate.h"
-
 namespace pelmar {
+
+enum class PageSide {
+  kDisk,         // reads local files and sends nothing
+  kDiskWithNet,  // one load of a local page with its parts on the net; no script runs that could send what it reads
+  kNet,
+};
 
 class WebEnginePage : public QWebEnginePage {
   Q_OBJECT
 
  public:
-  WebEnginePage(QWebEngineProfile* profile, NetGate& gate, QObject* parent);
+  WebEnginePage(QWebEngineProfile* profile, PageSide side);
 
-  // Whether the way to `address` leads from the disk to the net.
-  [[nodiscard]] bool LeavesTheDisk(const QUrl& address) const;
-  // Loads the present page again with what it has on the net, but without its scripts: they could
-  // send out what they read in other files.
-  void ReloadFromNet();
-
-  // The next step to the net is the person's, and no script of a local page runs any more.
-  void LetGo() { leaving_ = true; }
+  [[nodiscard]] PageSide Side() const { return side_; }
 
   // The person has given a command: an open question is answered with No, and so is every one until HearAgain().
   void Silence();
   void HearAgain() { silenced_ = false; }
   // Another page is asked for, which nobody has wished to be spared of.
   void ForgetQuestions();
-  [[nodiscard]] bool RunsScripts() const { return !loads_from_net_; }
   [[nodiscard]] bool Asking() const { return question_ != nullptr; }
 
   std::function<void()> on_coming;                    // another page is about to come
   std::function<void()> on_asking;                    // a question is about to be shown
   std::function<void()> on_answered;                  // a question has gone
-  std::function<void(const QUrl& address)> on_leave;  // the person lets a local page go to the net
+  std::function<void(const QUrl& address)> on_leave;  // this page can't show it: another one has to
 
  protected:
   bool acceptNavigationRequest(const QUrl& address, NavigationType type, bool is_main_frame) override;
@@ -57,14 +53,11 @@ class WebEnginePage : public QWebEnginePage {
   bool Ask(QDialog& question);
   bool AskInBox(const QString& title, const QString& text, QMessageBox::StandardButtons buttons,
                 QMessageBox::StandardButton default_button);
-  void SetLoadsFromNet(bool on);
   void NameActions();
   void RefuseRequests();
 
-  NetGate& gate_;
-  bool loads_from_net_ = false;  // the person's word for the present page
-  bool reloading_from_net_ = false;
-  bool leaving_ = false;
+  const PageSide side_;
+  bool loaded_ = false;
   QPointer<QDialog> question_;
   int questions_ = 0;   // of the page
   bool muted_ = false;  // the person wants no more of them

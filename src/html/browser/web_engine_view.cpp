@@ -9,6 +9,8 @@
 #include <QWebEngineScript>
 #include <utility>
 
+#include "html/browser/engine_start.h"
+#include "html/browser/net_refusal.h"
 #include "html/windows/web_address.h"
 
 namespace pelmar {
@@ -18,49 +20,71 @@ namespace {
 constexpr int kLongestExpectation = 1000;  // ms
 constexpr int kLongestSilence = 3000;      // ms, of a page that is to answer
 
+PageSide SideOf(const QUrl& address) { return IsOfTheNet(address) ? PageSide::kNet : PageSide::kDisk; }
+
+std::unique_ptr<QWebEngineProfile> MakeProfile(bool lets_to_net, std::function<void()> on_withheld) {
+  auto profile = std::make_unique<QWebEngineProfile>();
+  profile->setHttpAcceptLanguage(QStringLiteral("cs"));
+  profile->setUrlRequestInterceptor(new NetRefusal(lets_to_net, std::move(on_withheld), profile.get()));
+  QObject::connect(profile.get(), &QWebEngineProfile::downloadRequested,
+                   [](QWebEngineDownloadRequest* download) { download->cancel(); });
+  return profile;
+}
+
+void SetUp(QTimer& timer, int interval) {
+  timer.setSingleShot(true);
+  timer.setInterval(interval);
+}
+
 }  // namespace
 
-WebEngineView::WebEngineView(std::unique_ptr<NetGate> gate, QWidget* parent)
-    : gate_(std::move(gate)),
-      profile_(std::make_unique<QWebEngineProfile>()),
-      view_(std::make_unique<QWebEngineView>(parent)) {
-  profile_->setHttpAcceptLanguage(QStringLiteral("cs"));
-  connect(profile_.get(), &QWebEngineProfile::downloadRequested, this,
-          [](QWebEngineDownloadRequest* download) { download->cancel(); });
-  profile_->setUrlRequestInterceptor(&refusal_);
-  page_ = new WebEnginePage(profile_.get(), *gate_, view_.get());
-  view_->setPage(page_);
+WebEngineView::WebEngineView(QWidget* parent) : view_(std::make_unique<QWebEngineView>(parent)) {
   view_->setContextMenuPolicy(Qt::CustomContextMenu);
   connect(view_.get(), &QWidget::customContextMenuRequested, this, &WebEngineView::ShowMenu);
-  expecting_.setSingleShot(true);
-  expecting_.setInterval(kLongestExpectation);
-  unanswered_.setSingleShot(true);
-  unanswered_.setInterval(kLongestSilence);
+  SetUp(expecting_, kLongestExpectation);
+  SetUp(unanswered_, kLongestSilence);
   connect(&unanswered_, &QTimer::timeout, this, [this] {
     if (page_->renderProcessPid() == probed_) EndProcess(std::exchange(held_up_, {}));
   });
+  for (const PageSide side : {PageSide::kDisk, PageSide::kDiskWithNet, PageSide::kNet}) {
+    const bool lets_out = side != PageSide::kDisk;
+    const ScopedVariable way_out(kWayOut, (lets_out ? open_gate_ : shut_gate_).Address());
+    profiles_[side] = MakeProfile(lets_out, [this] { on_withheld(true); });
+  }
+  MakePage(PageSide::kDisk);
+}
+
+WebEngineView::~WebEngineView() { page_->disconnect(this); }
+
+void WebEngineView::MakePage(PageSide side) {
+  auto page = std::make_unique<WebEnginePage>(profiles_.at(side).get(), side);
+  view_->setPage(page.get());
+  if (page_ != nullptr) page_->disconnect(this);
+  page_ = std::move(page);
   ConnectPage();
 }
 
-// The page goes with the view, and both before their profile.
-WebEngineView::~WebEngineView() { page_->disconnect(this); }
-
 void WebEngineView::ConnectPage() {
-  connect(page_, &QWebEnginePage::loadStarted, this, &WebEngineView::TellChange);
-  connect(page_, &QWebEnginePage::titleChanged, this, &WebEngineView::TellChange);
-  connect(page_, &QWebEnginePage::loadProgress, this, [this](int percent) {
+  connect(page_.get(), &QWebEnginePage::loadStarted, this, &WebEngineView::TellChange);
+  connect(page_.get(), &QWebEnginePage::titleChanged, this, &WebEngineView::TellChange);
+  connect(page_.get(), &QWebEnginePage::loadProgress, this, [this](int percent) {
     if (on_progress) on_progress(percent, 100);
   });
-  connect(page_, &QWebEnginePage::loadFinished, this, &WebEngineView::Finished);
+  connect(page_.get(), &QWebEnginePage::loadFinished, this, &WebEngineView::Finished);
   // A link within the page loads nothing.
-  connect(page_, &QWebEnginePage::urlChanged, this, [this] {
+  connect(page_.get(), &QWebEnginePage::urlChanged, this, [this] {
     if (!Busy() && on_finished) on_finished();
   });
-  connect(page_, &QWebEnginePage::linkHovered, this, [this](const QString& address) {
+  connect(page_.get(), &QWebEnginePage::linkHovered, this, [this](const QString& address) {
     if (on_link) on_link(address);
   });
-  connect(page_, &QWebEnginePage::renderProcessTerminated, this, &WebEngineView::ProcessEnded);
-  page_->on_leave = [this](const QUrl& address) { Load(address); };
+  // Not within a call of the page, which may go then.
+  connect(page_.get(), &QWebEnginePage::renderProcessTerminated, this, &WebEngineView::ProcessEnded,
+          Qt::QueuedConnection);
+  page_->on_leave = [this](const QUrl& address) {
+    QMetaObject::invokeMethod(
+        this, [this, address] { Load(address); }, Qt::QueuedConnection);
+  };
   // A page that asks isn't stuck, however long the person thinks.
   page_->on_asking = [this] {
     unanswered_.stop();
@@ -69,40 +93,46 @@ void WebEngineView::ConnectPage() {
   page_->on_answered = [this] {
     if (const auto step = std::exchange(after_question_, {})) step();
   };
-  refusal_.on_withheld = [this] {
-    if (on_withheld) on_withheld(true);
-  };
-  page_->on_coming = [this] {
-    if (on_withheld) on_withheld(false);
-  };
+  page_->on_coming = [this] { on_withheld(false); };
 }
 
-void WebEngineView::Go(bool to_net, std::function<void()> step) {
+void WebEngineView::Command(std::function<void()> step) {
   const bool was_asking = page_->Asking();
   page_->Silence();
   // The question is a loop of events within the engine's own call, which has to return first.
   if (was_asking) {
-    after_question_ = [this, to_net, step] { Go(to_net, step); };
+    after_question_ = [this, step] { Command(step); };
     return;
   }
+  after_question_ = {};
   page_->ForgetQuestions();
-  Expect();
-  if (to_net) {
-    const auto leave = [this, step] {
-      page_->LetGo();
-      step();
-    };
-    // The gate opens with this step. A local page that were still there could send out what it has read.
-    if (!IsOfTheNet(page_->url())) return EndProcess(leave);
-    step = leave;
-  }
+  expecting_.start();
+  step();
+}
+
+void WebEngineView::Stay(const std::function<void()>& step) {
   Probe(step);
   step();
 }
 
+void WebEngineView::Cross(qsizetype place, PageSide side) {
+  place_ = place;
+  MakePage(side);
+  page_->load(places_[place_]);
+}
+
+void WebEngineView::GatherPlaces() {
+  QList<QUrl> own;
+  for (const QWebEngineHistoryItem& item : page_->history()->items()) own += item.url();
+  if (own.isEmpty()) return;
+  const QList<QUrl> ahead = own.size() > 1 ? QList<QUrl>() : places_.mid(place_ + 1);
+  places_ = places_.first(place_) + own + ahead;
+  place_ += page_->history()->currentItemIndex();
+}
+
 void WebEngineView::Probe(std::function<void()> step) {
   probed_ = page_->renderProcessPid();
-  if (probed_ <= 0 || !page_->RunsScripts()) return page_->HearAgain();
+  if (probed_ <= 0 || page_->Side() == PageSide::kDiskWithNet) return page_->HearAgain();
   held_up_ = std::move(step);
   unanswered_.start();
   page_->runJavaScript(QStringLiteral("0"), QWebEngineScript::ApplicationWorld,
@@ -139,10 +169,13 @@ void WebEngineView::EndIfStuck() {
 }
 
 void WebEngineView::LoadFromNet() {
-  Go(false, [this] { page_->ReloadFromNet(); });
+  Command([this] {
+    EndProcess([this] {
+      GatherPlaces();
+      Cross(place_, PageSide::kDiskWithNet);
+    });
+  });
 }
-
-void WebEngineView::Expect() { expecting_.start(); }
 
 void WebEngineView::TellChange() {
   if (on_change) on_change();
@@ -156,25 +189,47 @@ void WebEngineView::Finished() {
 
 void WebEngineView::Load(const QUrl& address) {
   if (!address.isValid() || !MayBeShown(address)) return;
-  Go(IsOfTheNet(address), [this, address] { page_->load(address); });
+  Command([this, address] {
+    if (!places_.isEmpty() && SideOf(address) == page_->Side()) return Stay([this, address] { page_->load(address); });
+    EndProcess([this, address] {
+      GatherPlaces();
+      places_ = places_.mid(0, place_ + 1) + QList{address};
+      Cross(places_.size() - 1, SideOf(address));
+    });
+  });
 }
 
-void WebEngineView::Back() {
-  if (page_->history()->canGoBack()) Step(-1, QWebEnginePage::Back);
+bool WebEngineView::CanGo(int places) const {
+  const QWebEngineHistory& own = *page_->history();
+  // A page that went on by itself has left behind what was ahead.
+  return places < 0 ? own.canGoBack() || place_ > 0
+                    : own.canGoForward() || (own.count() <= 1 && place_ + 1 < places_.size());
 }
 
-void WebEngineView::Forward() {
-  if (page_->history()->canGoForward()) Step(1, QWebEnginePage::Forward);
-}
-
-void WebEngineView::Step(int places, QWebEnginePage::WebAction action) {
-  const QWebEngineHistory& history = *page_->history();
-  const QUrl address = history.itemAt(history.currentItemIndex() + places).url();
-  Go(IsOfTheNet(address), [this, action] { page_->triggerAction(action); });
+void WebEngineView::Go(int places) {
+  if (!CanGo(places)) return;
+  Command([this, places] {
+    const QWebEngineHistory& own = *page_->history();
+    if (places < 0 ? own.canGoBack() : own.canGoForward())
+      return Stay(
+          [this, places] { page_->triggerAction(places < 0 ? QWebEnginePage::Back : QWebEnginePage::Forward); });
+    EndProcess([this, places] {
+      GatherPlaces();
+      Cross(place_ + places, SideOf(places_[place_ + places]));
+    });
+  });
 }
 
 void WebEngineView::Refresh() {
-  if (page_->url().isValid()) Go(false, [this] { page_->triggerAction(QWebEnginePage::Reload); });
+  if (places_.isEmpty()) return;
+  Command([this] {
+    if (page_->Side() != PageSide::kDiskWithNet && page_->url().isValid())
+      return Stay([this] { page_->triggerAction(QWebEnginePage::Reload); });
+    EndProcess([this] {
+      GatherPlaces();
+      Cross(place_, SideOf(places_[place_]));
+    });
+  });
 }
 
 void WebEngineView::Stop() {
@@ -192,13 +247,14 @@ QString WebEngineView::LocationName() const {
   return QUrl::fromPercentEncoding(title.toUtf8()) == name ? name : title;
 }
 
-QUrl WebEngineView::LocationAddress() const { return page_->url(); }
+QUrl WebEngineView::LocationAddress() const { return page_->url().isEmpty() ? places_.value(place_) : page_->url(); }
 
 void WebEngineView::ShowMenu(const QPoint& at) {
   auto* menu = new QMenu(view_.get());
   menu->setAttribute(Qt::WA_DeleteOnClose);
-  for (const auto action : {QWebEnginePage::Back, QWebEnginePage::Forward, QWebEnginePage::Reload})
-    menu->addAction(page_->action(action));
+  menu->addAction(QStringLiteral("&Zpět"), this, [this] { Go(-1); })->setEnabled(CanGo(-1));
+  menu->addAction(QStringLiteral("&Vpřed"), this, [this] { Go(1); })->setEnabled(CanGo(1));
+  menu->addAction(QStringLiteral("&Obnovit"), this, [this] { Refresh(); });
   menu->addSeparator();
   const QWebEngineContextMenuRequest* request = view_->lastContextMenuRequest();
   if (request != nullptr && request->linkUrl().isValid())

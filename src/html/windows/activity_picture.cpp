@@ -20,7 +20,8 @@ void ActivityPicture::Step() {
 
 void ActivityPicture::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  frames_[static_cast<std::size_t>(frame_)].paint(&painter, rect());
+  const QIcon::Mode look = isEnabled() ? QIcon::Normal : QIcon::Disabled;
+  frames_[static_cast<std::size_t>(frame_)].paint(&painter, rect(), Qt::AlignCenter, look);
 }
 
 }  // namespace pelmar

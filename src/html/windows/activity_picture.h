@@ -1,4 +1,5 @@
-// The small picture that moves while a page loads: eight frames, shown one after the other.
+// The small picture that moves while a page loads: eight frames, shown one after the other. It looks off while it
+// is disabled.
 #pragma once
 
 #include <QIcon>

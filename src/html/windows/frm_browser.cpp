@@ -50,6 +50,7 @@ FrmBrowser::FrmBrowser(WebViewMaker& maker, Platform& platform, std::function<vo
       ui_(std::make_unique<Ui::frmBrowser>()) {
   ui_->setupUi(this);
   ui_->netLine->hide();
+  ui_->Picture1->setEnabled(false);
   ShowProgramIcon();
   status_ = AddPanel(*ui_->StatusBar1, "Panel1", QStringLiteral("Stav"), 1);
   progress_ = AddPanel(*ui_->StatusBar1, "Panel2", QStringLiteral("Průběh načítání"), 0);
@@ -79,6 +80,7 @@ void FrmBrowser::ConnectView() {
   };
   view_->on_change = [this] {
     ShowCaption();
+    ShowHistory();
     // A page that was asked for in the page itself loads too.
     if (view_->Busy()) timTimer.start();
   };
@@ -98,12 +100,13 @@ void FrmBrowser::ConnectToolBar() {
       act();
     });
   };
-  on(ui_->Back, [this] { view_->Back(); });
-  on(ui_->Forward, [this] { view_->Forward(); });
+  on(ui_->Back, [this] { view_->Go(-1); });
+  on(ui_->Forward, [this] { view_->Go(1); });
   on(ui_->Refresh, [this] { view_->Refresh(); });
   on(ui_->Stop, [this] { Stop_Click(); });
   on(ui_->Open, [this] { Open_Click(); });
   on(ui_->Close, [this] { Close_Click(); });
+  ShowHistory();
 }
 
 void FrmBrowser::ConnectAddress() {
@@ -170,6 +173,11 @@ void FrmBrowser::NavigateToBox() {
 
 void FrmBrowser::ShowCaption() { setWindowTitle(PlainTitle(BrowserCaption(Utf8FromQString(view_->LocationName())))); }
 
+void FrmBrowser::ShowHistory() {
+  ui_->Back->setEnabled(view_->CanGo(-1));
+  ui_->Forward->setEnabled(view_->CanGo(1));
+}
+
 void FrmBrowser::timTimer_Timer() {
   ShowState();
   if (view_->Busy()) return ui_->Picture1->Step();
@@ -181,6 +189,7 @@ void FrmBrowser::timTimer_Timer() {
 void FrmBrowser::ShowState() {
   const QString idle = link_.isEmpty() ? QStringLiteral("Idle") : link_;
   status_->setText(view_->Busy() ? QStringLiteral("Busy") : idle);
+  ui_->Picture1->setEnabled(view_->Busy());
 }
 
 void FrmBrowser::View_Progress(qint64 progress, qint64 maximum) {
@@ -198,6 +207,7 @@ void FrmBrowser::ShowEncoding() {
 
 void FrmBrowser::View_Finished() {
   ShowCaption();
+  ShowHistory();
   ShowEncoding();
   QLineEdit& line = *ui_->cboAddress->lineEdit();
   const bool half_typed = line.isModified();
@@ -228,6 +238,7 @@ void FrmBrowser::Stop_Click() {
   ShowCaption();
   // No tick comes any more that would say so, and the engine may tell of its end later.
   status_->setText(QStringLiteral("Idle"));
+  ui_->Picture1->setEnabled(false);
 }
 
 void FrmBrowser::Open_Click() {

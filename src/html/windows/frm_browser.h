@@ -52,6 +52,7 @@ class FrmBrowser : public QMainWindow {
   // Loads the address, or says why it doesn't.
   void Load(const QString& address);
   void ShowCaption();
+  void ShowHistory();
   void timTimer_Timer();
   void ShowState();
   void View_Progress(qint64 progress, qint64 maximum);

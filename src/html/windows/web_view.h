@@ -24,8 +24,7 @@ class WebView {
 
   // Where there is nothing to do (no page to go back to), these do nothing.
   virtual void Load(const QUrl& address) = 0;
-  virtual void Back() = 0;
-  virtual void Forward() = 0;
+  virtual void Go(int places) = 0;  // in the history: -1 back, 1 forward
   virtual void Refresh() = 0;
   virtual void Stop() = 0;
   // Ends a page that doesn't answer within three seconds. The commands above do that too.
@@ -33,6 +32,7 @@ class WebView {
   // Loads the present page again, and what it has on the net with it, this once.
   virtual void LoadFromNet() = 0;
 
+  [[nodiscard]] virtual bool CanGo(int places) const = 0;
   [[nodiscard]] virtual bool Busy() const = 0;
   [[nodiscard]] virtual QString LocationName() const = 0;  // the page's title; its file's name where it has none
   [[nodiscard]] virtual QUrl LocationAddress() const = 0;
@@ -57,5 +57,5 @@ class WebViewMaker {
 
 }  // namespace pelmar
 
-#define PELMAR_WEB_VIEW_MAKER "cz.pelmar.vex.WebViewMaker/3"
+#define PELMAR_WEB_VIEW_MAKER "cz.pelmar.vex.WebViewMaker/4"
 Q_DECLARE_INTERFACE(pelmar::WebViewMaker, PELMAR_WEB_VIEW_MAKER)

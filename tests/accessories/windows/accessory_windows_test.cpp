@@ -481,6 +481,20 @@ TEST_F(PoznamkaTest, AnOverlongPageIsRefusedAndTheWholeProgramAsksBehindTheWrite
   EXPECT_EQ(ends, 1);
 }
 
+TEST_F(PoznamkaTest, WhatAnotherCopyStoredMeanwhileStays) {
+  Open({{"first", "second"}}, StartMode::kNotes);
+  notes->Text().Type("my ");
+  File() = NotesBytes({{"their first", "their second", "", "x", "y"}});
+  platform.answers = {Answer::kOk, Answer::kNo, Answer::kYes};
+  notes->close();
+  const std::string both = NotesBytes({{"their first", "their second", "my first", "x", "y"}});
+  EXPECT_EQ(File(), both);
+  ExpectState(*notes, "", "Text1='their first'");
+  notes->close();  // says it once, and keeps nothing a third time
+  EXPECT_EQ(File(), both);
+  EXPECT_TRUE(platform.answers.empty());
+}
+
 TEST_F(PoznamkaTest, WhatIsNotStoredIsKeptUntilTheClose) {
   Open({});
   Work(*notes, "Text1=typed");

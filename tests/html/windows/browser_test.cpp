@@ -16,7 +16,7 @@ namespace {
 struct ScriptedView : WebView {
   QStringList& calls;
   QWidget* widget;
-  bool busy = false;
+  bool busy = false, back = true, forward = true;
   QString name;
   QUrl address;
 
@@ -32,12 +32,12 @@ struct ScriptedView : WebView {
     address = url;
     busy = true;
   }
-  void Back() override { calls += QStringLiteral("back"); }
-  void Forward() override { calls += QStringLiteral("forward"); }
+  void Go(int places) override { calls += places < 0 ? QStringLiteral("back") : QStringLiteral("forward"); }
   void Refresh() override { calls += QStringLiteral("refresh"); }
   void Stop() override { calls += QStringLiteral("stop"); }
   void EndIfStuck() override { calls += QStringLiteral("end if stuck"); }
   void LoadFromNet() override { calls += QStringLiteral("load from net"); }
+  bool CanGo(int places) const override { return places < 0 ? back : forward; }
   bool Busy() const override { return busy; }
   QString LocationName() const override { return name; }
   QUrl LocationAddress() const override { return address; }
@@ -169,6 +169,26 @@ TEST_F(BrowserTest, TheToolBarStartsTheTimerAndActs) {
     EXPECT_EQ(Told("cboAddress"),
               "end if stuck; cboAddress=file:///home/jan/c.htm, HTML testovací browser (Půl), ticking, hidden");
   }
+}
+
+TEST_F(BrowserTest, WhatCantBeDoneLooksOff) {
+  const auto off = [this] {
+    QStringList names;
+    for (const char* key : {"Back", "Forward"})
+      if (!Find<QAction>(Window(), key)->isEnabled()) names += QLatin1String(key);
+    if (!Find<QWidget>(Window(), "Picture1")->isEnabled()) names += QStringLiteral("Picture1");
+    return names.join(u' ').toStdString();
+  };
+  EXPECT_EQ(off(), "Picture1");
+  view->back = view->forward = false;
+  Window().ShowInBrowser("/a.html");
+  Q_EMIT Timer().timeout({});
+  view->on_change();
+  EXPECT_EQ(off(), "Back Forward");
+  view->back = true;
+  view->Finish();
+  Q_EMIT Timer().timeout({});
+  EXPECT_EQ(off(), "Forward Picture1");
 }
 
 TEST_F(BrowserTest, AloneItStartsWithItsPageAndAsksAtTheEnd) {
