@@ -16,11 +16,11 @@ void Analyse(benchmark::State& state, const char* piece) {
   for (auto _ : state) benchmark::DoNotOptimize(AnalyseTag(tag, tag.size()));
 }
 
-#define TAG_OF(name, piece)                   \
-  BENCHMARK_CAPTURE(Analyse, name, piece)     \
+#define TAG_OF(name, piece)                    \
+  BENCHMARK_CAPTURE(Analyse, name, piece)      \
       ->Name("tag_of_" #name " (limit 50 ms)") \
-      ->Arg(32000)                            \
-      ->Arg(64000)                            \
+      ->Arg(32000)                             \
+      ->Arg(64000)                             \
       ->Unit(benchmark::kMillisecond)
 
 TAG_OF(attributes, " ID=x");
