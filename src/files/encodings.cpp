@@ -18,9 +18,7 @@ bool IsOutsidePage(char32_t character) { return character != U'?' && CodeOfUnico
 
 void Tell(Platform& platform, const std::string& text) { platform.Message(MessageType::kOk, text, kConversionTitle); }
 
-bool Agreed(Platform& platform, const std::string& text) {
-  return platform.Confirmed(text, kConversionTitle);
-}
+bool Agreed(Platform& platform, const std::string& text) { return platform.Confirmed(text, kConversionTitle); }
 
 std::string Told(const FilePlace& place) {
   return "řádek " + std::to_string(place.line) + ", sloupec " + std::to_string(place.column) + ", bajt " +

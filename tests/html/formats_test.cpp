@@ -147,8 +147,10 @@ TEST(Formats, Tables) {
 }
 
 TEST(Formats, PagesAroundTheDocument) {
-  PageSpec bare{
-      .author = std::string("Jan Novák"_w), .created = "11-24-2026 09:05:00", .title = std::string("ž"_w)};
+  PageSpec bare;
+  bare.author = "Jan Novák"_w;
+  bare.created = "11-24-2026 09:05:00";
+  bare.title = "ž"_w;
   PageSpec full = bare;
   full.background = "a.gif";  // required: a file's address of a bare name too
   full.bgcolor = "1", full.text = "2", full.link = "3", full.vlink = "4", full.alink = "5", full.base_font = 7;
