@@ -2,6 +2,7 @@
 
 #include <QAccessibleWidget>
 #include <QComboBox>
+#include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
 #include <QVariant>
@@ -66,8 +67,11 @@ void LabelBoxes(QWidget& window) {
     if (label->buddy() == nullptr) continue;
     labels[label->buddy()] = label;
     // The heading of options is the name of the group that they lie in.
-    if (label->buddy()->metaObject() == &QWidget::staticMetaObject)
-      SetAccessibleRole(*label->buddy(), QAccessible::Grouping);
+    if (label->buddy()->metaObject() != &QFrame::staticMetaObject) continue;
+    // The form has made the group's interface already, with another role.
+    QAccessible::deleteAccessibleInterface(
+        QAccessible::uniqueId(QAccessible::queryAccessibleInterface(label->buddy())));
+    SetAccessibleRole(*label->buddy(), QAccessible::Grouping);
   }
   for (QComboBox* box : window.findChildren<QComboBox*>()) {
     const auto label = labels.find(box);

@@ -6,6 +6,7 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QStringListModel>
+#include <algorithm>
 
 #include "platform/qt/controls/first_choice.h"
 #include "platform/qt/convert.h"
@@ -100,7 +101,12 @@ void FileList::ReadAnew() {
   settle_.setInterval(qMax<int>(kSettle, static_cast<int>(clock.elapsed()) * kReadings));
   const QString selected = FileName();
   const bool gone = !selected.isEmpty() && !names.contains(selected);
-  if (gone) names.insert(qMin(names_->stringList().indexOf(selected), names.size()), selected);
+  if (gone) {
+    const auto follows = [old = names_->stringList(), &selected](const QString& name) {
+      return old.indexOf(name) > old.indexOf(selected);
+    };
+    names.insert(std::ranges::find_if(std::as_const(names), follows), selected);
+  }
   if (names != names_->stringList()) {
     const int scrolled = verticalScrollBar()->value();
     Show(names, selected);

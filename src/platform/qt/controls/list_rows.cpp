@@ -12,14 +12,10 @@ class OneLineDelegate : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
 
-  [[nodiscard]] QString displayText(const QVariant& value, const QLocale& locale) const override {
+  [[nodiscard]] QString displayText(const QVariant& value, const QLocale&) const override {
     constexpr int kShown = 1000;  // more than a screen is wide; all of a huge row would take seconds to lay out
-    QString text = QStyledItemDelegate::displayText(value, locale).left(kShown);
     const QChar sign(0xB6);
-    return text.replace(QLatin1String("\r\n"), sign)
-        .replace(u'\r', sign)
-        .replace(u'\n', sign)
-        .replace(QChar::LineSeparator, sign);
+    return value.toString().left(kShown).replace(QLatin1String("\r\n"), sign).replace(u'\r', sign).replace(u'\n', sign);
   }
 };
 
