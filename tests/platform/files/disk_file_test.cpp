@@ -254,7 +254,9 @@ TEST(WriteFile, BringsTheContentToTheDiskThenTheNameThenTheFolder) {
 
 TEST(ReplaceFile, AFailureAtAnyCallLosesNothing) {
   constexpr std::pair<int, bool> kFailures[] = {{EIO, false}, {EACCES, false}, {EACCES, true}, {ENOSPC, true}};
-  for (const auto& [error, all_behind] : kFailures) {
+  for (const auto& failure : kFailures) {
+    const int error = failure.first;
+    const bool all_behind = failure.second;
     SCOPED_TRACE(testing::Message() << "error " << error << all_behind);
     ForEachCall([error, all_behind](const CutOff& file, int number) {
       failing = {.number = number, .error = error, .all_behind = all_behind};
