@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QVariant>
+#include <algorithm>
 #include <map>
 
 namespace pelmar {
@@ -28,13 +29,22 @@ class LabelFace : public QAccessibleWidget {
   const QLabel& label_;
 };
 
+// A plain frame that holds options below a label, their heading.
+bool IsHeadedGroup(const QWidget& widget) {
+  if (widget.metaObject() != &QFrame::staticMetaObject || widget.isWindow()) return false;
+  const auto labels = widget.parentWidget()->findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly);
+  return std::ranges::any_of(labels, [&widget](const QLabel* label) { return label->buddy() == &widget; });
+}
+
 QAccessibleInterface* MakeFace(const QString&, QObject* object) {
   if (!object->isWidgetType()) return nullptr;
   const QVariant given = object->property(kRole);
   const auto role = given.isValid() ? static_cast<QAccessible::Role>(given.toInt()) : QAccessible::StaticText;
   auto* label = qobject_cast<QLabel*>(object);
   if (label != nullptr && (given.isValid() || label->property(kValueName).isValid())) return new LabelFace(label, role);
-  return given.isValid() ? new QAccessibleWidget(static_cast<QWidget*>(object), role) : nullptr;
+  auto* widget = static_cast<QWidget*>(object);
+  if (given.isValid()) return new QAccessibleWidget(widget, role);
+  return IsHeadedGroup(*widget) ? new QAccessibleWidget(widget, QAccessible::Grouping) : nullptr;
 }
 
 }  // namespace
@@ -63,16 +73,8 @@ void Announce(QWidget& window, const QString& text) {
 
 void LabelBoxes(QWidget& window) {
   std::map<const QWidget*, const QLabel*> labels;
-  for (const QLabel* label : window.findChildren<QLabel*>()) {
-    if (label->buddy() == nullptr) continue;
-    labels[label->buddy()] = label;
-    // The heading of options is the name of the group that they lie in.
-    if (label->buddy()->metaObject() != &QFrame::staticMetaObject) continue;
-    // The form has made the group's interface already, with another role.
-    QAccessible::deleteAccessibleInterface(
-        QAccessible::uniqueId(QAccessible::queryAccessibleInterface(label->buddy())));
-    SetAccessibleRole(*label->buddy(), QAccessible::Grouping);
-  }
+  for (const QLabel* label : window.findChildren<QLabel*>())
+    if (label->buddy() != nullptr) labels[label->buddy()] = label;
   for (QComboBox* box : window.findChildren<QComboBox*>()) {
     const auto label = labels.find(box);
     QString name = box->accessibleName();

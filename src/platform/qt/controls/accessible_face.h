@@ -25,7 +25,8 @@ void SetAccessibleRole(QWidget& widget, QAccessible::Role role);
 // A dynamic property of a label that shows a value: what the value is. It is told before the value, where an accessible
 // name would take the value's place.
 inline constexpr char kValueName[] = "valueName";
-// Lets labels with that property tell it; before the first of them is made.
+// Lets labels with that property tell it, and labels that head options name the group; before the first of them is
+// made.
 void InstallLabelFaces();
 
 // Says what who can't see it wouldn't notice. Nothing where nobody listens.
