@@ -25,7 +25,7 @@ bool Is(const QWidget* widget, std::initializer_list<const char*> classes) {
   return widget != nullptr && std::ranges::any_of(classes, [&](const char* name) { return widget->inherits(name); });
 }
 
-std::string Named(const QWidget* widget) {
+std::string Described(const QWidget* widget) {
   return (widget->window()->objectName() + QLatin1Char('.') + widget->objectName()).toStdString();
 }
 
@@ -46,7 +46,7 @@ void ExpectWholeCaptions(const QWidget& window) {
     if (!button && (!Is(widget, {"QLabel"}) || Is(widget, {"pelmar::ElidedLabel"}))) continue;
     if (widget->property("text").toString().isEmpty() || widget->property("wordWrap").toBool()) continue;
     const QSize needed = button ? QSize(widget->minimumSizeHint().width(), 0) : widget->sizeHint() - QSize(0, 1);
-    EXPECT_EQ(needed.boundedTo(widget->size()), needed) << Named(widget) << " is cut";
+    EXPECT_EQ(needed.boundedTo(widget->size()), needed) << Described(widget) << " is cut";
   }
 }
 
@@ -58,13 +58,13 @@ void ExpectReach(QWidget* control) {
   const bool spoken = control->inherits("QComboBox")
                           ? !face->relations(QAccessible::Label).isEmpty()
                           : std::ranges::any_of(name, [](QChar ch) { return ch.isLetterOrNumber(); });
-  EXPECT_TRUE(spoken && face->role() != QAccessible::Client) << Named(control) << " has no name or no role";
+  EXPECT_TRUE(spoken && face->role() != QAccessible::Client) << Described(control) << " has no name or no role";
   const auto* option = qobject_cast<const QRadioButton*>(control);
   const bool of_group = option != nullptr && option->autoExclusive() && !option->isChecked();
   // A swatch that only shows its colour, and a label whose text can be copied by mouse, are no controls.
   const bool shows = control->focusPolicy() == Qt::NoFocus ? Is(control, {"pelmar::Swatch"}) : Is(control, {"QLabel"});
   EXPECT_TRUE((control->focusPolicy() & Qt::TabFocus) || !control->isEnabled() || of_group || shows)
-      << Named(control) << " can't be reached by keyboard";
+      << Described(control) << " can't be reached by keyboard";
 }
 
 void ExpectNoOverlap(const QWidget& window) {
@@ -74,7 +74,8 @@ void ExpectNoOverlap(const QWidget& window) {
     if (Is(one, {"QTabBar"}) || (window.objectName() == QLatin1String("Start") && Is(one, {"QLabel"}))) continue;
     for (const QWidget* other : widgets) {
       if (other == one || other->parentWidget() != one->parentWidget() || Is(other, {"QTabBar"})) continue;
-      EXPECT_FALSE(one->geometry().intersects(other->geometry())) << Named(one) << " lies over " << Named(other);
+      EXPECT_FALSE(one->geometry().intersects(other->geometry()))
+          << Described(one) << " lies over " << Described(other);
     }
   }
 }
@@ -85,7 +86,7 @@ void ExpectGreyTogether(const QWidget* bar) {
   const QRect beside(bar->geometry().right(), bar->y(), 80, bar->height());
   for (const QLabel* label : bar->parentWidget()->findChildren<QLabel*>(Qt::FindDirectChildrenOnly)) {
     const bool says = number.match(label->text()).hasMatch() && label->geometry().intersects(beside);
-    EXPECT_TRUE(!label->isVisible() || !says || label->isEnabled() == bar->isEnabled()) << Named(label);
+    EXPECT_TRUE(!label->isVisible() || !says || label->isEnabled() == bar->isEnabled()) << Described(label);
   }
 }
 
@@ -105,17 +106,17 @@ void ExpectEnterGoesOn(QWidget& window) {
     field->setFocus();
     QTest::keyClick(field, Qt::Key_Return);
   }
-  EXPECT_LE(pressed, 1) << Named(&window);
+  EXPECT_LE(pressed, 1) << Described(&window);
   (*found)->setDefault(true);
 }
 
 // The buttons that end a dialog, and the whole of it.
 void ExpectButtonsInSight(const QWidget& window) {
-  EXPECT_EQ(window.size().boundedTo(kTinyScreen), window.size()) << Named(&window);
+  EXPECT_EQ(window.size().boundedTo(kTinyScreen), window.size()) << Described(&window);
   const QString cancel = window.property("cancelButton").toString();
   for (const QPushButton* button : window.findChildren<QPushButton*>()) {
     if (Is(button, {"pelmar::KeyCap"}) || (!button->isDefault() && button->objectName() != cancel)) continue;
-    EXPECT_EQ(button->visibleRegion().boundingRect(), button->rect()) << Named(button);
+    EXPECT_EQ(button->visibleRegion().boundingRect(), button->rect()) << Described(button);
   }
 }
 
@@ -148,7 +149,7 @@ TEST_F(AllWindows, FitASmallScreenWithLargeLetters) {
     if (auto* dialog = qobject_cast<DialogWindow*>(&window)) {
       const int height = std::min(window.height(), kTinyScreen.height());
       dialog->FitInto(kTinyScreen);
-      EXPECT_TRUE(window.property("sizedByContents").toBool() || window.height() >= height) << Named(&window);
+      EXPECT_TRUE(window.property("sizedByContents").toBool() || window.height() >= height) << Described(&window);
       Show(window);
       ExpectButtonsInSight(window);
       window.hide();
@@ -164,11 +165,11 @@ TEST_F(AllWindows, AreWithinEverybodysReach) {
   std::string limits, headings;
   program.Windows().ForEach([&](QWidget& window) {
     Show(window);
-    EXPECT_NE(QAccessible::queryAccessibleInterface(&window)->role(), QAccessible::Client) << Named(&window);
-    EXPECT_EQ(window.size().boundedTo(kSmallScreen), window.size()) << Named(&window);
-    EXPECT_FALSE(window.windowTitle().isEmpty()) << Named(&window);
+    EXPECT_NE(QAccessible::queryAccessibleInterface(&window)->role(), QAccessible::Client) << Described(&window);
+    EXPECT_EQ(window.size().boundedTo(kSmallScreen), window.size()) << Described(&window);
+    EXPECT_FALSE(window.windowTitle().isEmpty()) << Described(&window);
     // Down on a list of places would lose the folder, and on a strip of tabs nothing can be typed.
-    EXPECT_FALSE(Is(window.focusWidget(), {"pelmar::DriveList", "QTabBar"})) << Named(&window);
+    EXPECT_FALSE(Is(window.focusWidget(), {"pelmar::DriveList", "QTabBar"})) << Described(&window);
     for (QWidget* widget : Widgets(window)) {
       if (widget->focusPolicy() != Qt::NoFocus || Is(widget, {"QAbstractButton", "QAbstractSlider", "QTabBar"}))
         ExpectReach(widget);
@@ -183,13 +184,13 @@ TEST_F(AllWindows, AreWithinEverybodysReach) {
     ExpectNoOverlap(window);
     for (const QLineEdit* field : window.findChildren<QLineEdit*>())
       if (field->maxLength() != std::numeric_limits<int>::max())
-        limits += Named(field) + ' ' + std::to_string(field->maxLength()) + ", ";
+        limits += Described(field) + ' ' + std::to_string(field->maxLength()) + ", ";
     ExpectEnterGoesOn(window);
     const QString name = window.property("cancelButton").toString();
     auto* cancel = window.findChild<QPushButton*>(name);
     if (!name.isEmpty() && !cancel->isDefault()) {
       cancel->click();
-      EXPECT_FALSE(window.isVisible()) << Named(cancel);
+      EXPECT_FALSE(window.isVisible()) << Described(cancel);
     }
     window.hide();
   });
