@@ -17,7 +17,7 @@
 
 namespace pelmar {
 
-class Files;
+struct Files;
 class MainWindow;
 struct FolderBrowser;
 
