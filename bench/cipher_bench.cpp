@@ -19,7 +19,7 @@
 #include "ciphers/xor_cipher.h"
 #include "files/files.h"
 #include "platform/qt/qt_platform.h"
-#include "shell/windows/main_window.h"
+#include "shell/windows/main/main_window.h"
 
 namespace pelmar {
 namespace {

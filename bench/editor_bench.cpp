@@ -16,9 +16,9 @@
 #include "platform/qt/convert.h"
 #include "platform/qt/qt_platform.h"
 #include "shell/rescued_documents.h"
-#include "shell/windows/main_window.h"
-#include "shell/windows/rescue_keeper.h"
-#include "shell/windows/status_timer.h"
+#include "shell/services/rescue_keeper.h"
+#include "shell/services/status_timer.h"
+#include "shell/windows/main/main_window.h"
 
 namespace pelmar {
 namespace {

@@ -9,7 +9,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "platform/qt/controls/text_box.h"
+#include "platform/qt/textbox/text_box.h"
 
 namespace pelmar {
 namespace {

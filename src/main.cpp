@@ -9,9 +9,9 @@
 
 #include "platform/qt/application.h"
 #include "platform/qt/convert.h"
-#include "platform/qt/end_requests.h"
+#include "platform/qt/desktop/end_requests.h"
 #include "platform/qt/fonts.h"
-#include "platform/qt/program_style.h"
+#include "platform/qt/frames/program_style.h"
 #include "platform/qt/qt_platform.h"
 #include "platform/runtime_error.h"
 #include "program/program.h"

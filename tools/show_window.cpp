@@ -24,7 +24,7 @@
 #include "platform/qt/application.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/fonts.h"
-#include "platform/qt/program_style.h"
+#include "platform/qt/frames/program_style.h"
 #include "platform/qt/qt_platform.h"
 #include "program/program.h"
 #include "shell/settings_record.h"

@@ -12,11 +12,11 @@
 #include "program/session.h"
 #include "shell/editor.h"
 #include "shell/rescued_documents.h"
-#include "shell/windows/main_window.h"
-#include "shell/windows/program_parts.h"
-#include "shell/windows/rescue_keeper.h"
-#include "shell/windows/status_timer.h"
-#include "shell/windows/window_registry.h"
+#include "shell/services/program_parts.h"
+#include "shell/services/rescue_keeper.h"
+#include "shell/services/status_timer.h"
+#include "shell/services/window_registry.h"
+#include "shell/windows/main/main_window.h"
 
 namespace pelmar {
 

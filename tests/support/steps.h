@@ -7,10 +7,10 @@
 #include <QTest>
 #include <algorithm>
 
-#include "platform/qt/controls/folder_list.h"
 #include "platform/qt/controls/swatch.h"
-#include "platform/qt/controls/text_box.h"
 #include "platform/qt/convert.h"
+#include "platform/qt/filelists/folder_list.h"
+#include "platform/qt/textbox/text_box.h"
 #include "support/controls.h"
 
 namespace pelmar {

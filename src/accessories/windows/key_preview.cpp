@@ -6,10 +6,10 @@
 #include <QWidget>
 #include <utility>
 
-#include "platform/qt/clipboard_text.h"
-#include "platform/qt/controls/text_keys.h"
 #include "platform/qt/convert.h"
+#include "platform/qt/desktop/clipboard_text.h"
 #include "platform/qt/key_router.h"
+#include "platform/qt/textbox/text_keys.h"
 
 namespace pelmar {
 

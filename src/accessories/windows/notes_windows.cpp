@@ -4,9 +4,9 @@
 #include "accessories/windows/analytic.h"
 #include "accessories/windows/poznamka.h"
 #include "platform/qt/application.h"
-#include "platform/qt/asker.h"
-#include "shell/windows/main_window.h"
-#include "shell/windows/program_parts.h"
+#include "platform/qt/frames/asker.h"
+#include "shell/services/program_parts.h"
+#include "shell/windows/main/main_window.h"
 
 namespace pelmar {
 namespace {

@@ -3,15 +3,15 @@
 #include <QCloseEvent>
 #include <QToolButton>
 
-#include "platform/qt/asker.h"
 #include "platform/qt/controls/accessible_face.h"
 #include "platform/qt/controls/tab_keys.h"
 #include "platform/qt/convert.h"
-#include "platform/qt/outer_geometry.h"
-#include "platform/qt/placement.h"
-#include "platform/qt/svg_icon.h"
+#include "platform/qt/frames/asker.h"
+#include "platform/qt/frames/outer_geometry.h"
+#include "platform/qt/frames/placement.h"
+#include "platform/qt/frames/svg_icon.h"
 #include "platform/twips.h"
-#include "shell/windows/warning_label.h"
+#include "shell/windows/main/warning_label.h"
 #include "text/index.h"
 #include "ui_poznamka.h"
 

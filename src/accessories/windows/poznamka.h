@@ -12,9 +12,9 @@
 #include "accessories/notes.h"
 #include "accessories/notes_place.h"
 #include "shell/main_view.h"
+#include "shell/services/rescue_keeper.h"
 #include "shell/settings_record.h"
 #include "shell/stand_alone.h"
-#include "shell/windows/rescue_keeper.h"
 #include "text/text_buffer.h"
 
 namespace Ui {

@@ -9,8 +9,8 @@
 #include "accessories/windows/morse.h"
 #include "accessories/windows/prev.h"
 #include "platform/qt/application.h"
-#include "shell/windows/main_window.h"
-#include "shell/windows/program_parts.h"
+#include "shell/services/program_parts.h"
+#include "shell/windows/main/main_window.h"
 #include "text/insert.h"
 
 namespace pelmar {

@@ -4,7 +4,7 @@
 #include "ciphers/windows/shift.h"
 #include "ciphers/windows/shift_kod.h"
 #include "ciphers/windows/za_kod.h"
-#include "shell/windows/program_parts.h"
+#include "shell/services/program_parts.h"
 
 namespace pelmar {
 namespace {

@@ -1,6 +1,6 @@
 #include "files/windows/dir_setup.h"
 
-#include "platform/qt/controls/file_browser.h"
+#include "platform/qt/filelists/file_browser.h"
 #include "ui_dir_setup.h"
 
 namespace pelmar {

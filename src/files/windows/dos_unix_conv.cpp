@@ -2,7 +2,7 @@
 
 #include "files/encodings.h"
 #include "files/line_ends.h"
-#include "platform/qt/controls/file_browser.h"
+#include "platform/qt/filelists/file_browser.h"
 #include "ui_dos_unix_conv.h"
 
 namespace pelmar {

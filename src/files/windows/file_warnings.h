@@ -8,7 +8,7 @@
 
 #include "files/outside_changes.h"
 #include "shell/editor.h"
-#include "shell/windows/main_window.h"
+#include "shell/windows/main/main_window.h"
 
 namespace pelmar {
 

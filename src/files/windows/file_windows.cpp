@@ -4,7 +4,7 @@
 #include "files/windows/file_warnings.h"
 #include "files/windows/otevri.h"
 #include "files/windows/uloz.h"
-#include "shell/windows/program_parts.h"
+#include "shell/services/program_parts.h"
 
 namespace pelmar {
 

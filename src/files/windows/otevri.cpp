@@ -1,8 +1,8 @@
 #include "files/windows/otevri.h"
 
 #include "files/encodings.h"
-#include "platform/qt/controls/file_browser.h"
 #include "platform/qt/convert.h"
+#include "platform/qt/filelists/file_browser.h"
 #include "ui_otevri.h"
 
 namespace pelmar {

@@ -1,7 +1,7 @@
 #include "files/windows/uloz.h"
 
-#include "platform/qt/controls/file_browser.h"
 #include "platform/qt/convert.h"
+#include "platform/qt/filelists/file_browser.h"
 #include "ui_uloz.h"
 
 namespace pelmar {

@@ -7,11 +7,11 @@
 #include <QLineEdit>
 
 #include "html/attributes.h"
-#include "platform/qt/controls/file_browser.h"
-#include "platform/qt/controls/file_list.h"
-#include "platform/qt/controls/folder_list.h"
 #include "platform/qt/convert.h"
-#include "platform/qt/svg_icon.h"
+#include "platform/qt/filelists/file_browser.h"
+#include "platform/qt/filelists/file_list.h"
+#include "platform/qt/filelists/folder_list.h"
+#include "platform/qt/frames/svg_icon.h"
 
 namespace pelmar {
 

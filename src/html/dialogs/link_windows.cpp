@@ -4,7 +4,7 @@
 #include "html/dialogs/odkaz.h"
 #include "html/dialogs/odkaz_na_jiny.h"
 #include "html/dialogs/template.h"
-#include "shell/windows/program_parts.h"
+#include "shell/services/program_parts.h"
 
 namespace pelmar {
 

@@ -4,8 +4,8 @@
 #include "html/dialogs/table_cell.h"
 #include "html/dialogs/table_row.h"
 #include "html/dialogs/vytvor.h"
-#include "shell/windows/main_window.h"
-#include "shell/windows/program_parts.h"
+#include "shell/services/program_parts.h"
+#include "shell/windows/main/main_window.h"
 
 namespace pelmar {
 

@@ -3,8 +3,8 @@
 #include "html/dialogs/inline_dialogs.h"
 #include "html/dialogs/list_dialogs.h"
 #include "html/dialogs/tag_dialogs.h"
-#include "shell/windows/main_window.h"
-#include "shell/windows/program_parts.h"
+#include "shell/services/program_parts.h"
+#include "shell/windows/main/main_window.h"
 
 namespace pelmar {
 

@@ -5,7 +5,7 @@
 #include "html/samples/templaty.h"
 #include "platform/qt/controls/first_choice.h"
 #include "platform/qt/convert.h"
-#include "platform/qt/svg_icon.h"
+#include "platform/qt/frames/svg_icon.h"
 #include "ui_template.h"
 
 namespace pelmar {

@@ -3,8 +3,8 @@
 #include "html/attributes.h"
 #include "html/dialogs/form_helpers.h"
 #include "html/tag_commands.h"
-#include "platform/qt/controls/file_browser.h"
 #include "platform/qt/convert.h"
+#include "platform/qt/filelists/file_browser.h"
 #include "texttools/appearance.h"
 #include "ui_vytvor.h"
 

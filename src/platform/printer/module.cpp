@@ -4,7 +4,7 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 
-#include "platform/qt/system_printer.h"
+#include "platform/qt/desktop/system_printer.h"
 
 namespace pelmar {
 namespace {

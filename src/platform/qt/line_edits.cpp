@@ -7,7 +7,7 @@
 #include <QGuiApplication>
 #include <QMenu>
 
-#include "platform/qt/clipboard_text.h"
+#include "platform/qt/desktop/clipboard_text.h"
 
 namespace pelmar {
 namespace {

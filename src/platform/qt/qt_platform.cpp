@@ -16,11 +16,11 @@
 
 #include "platform/files/disk_file.h"
 #include "platform/qt/convert.h"
-#include "platform/qt/dialogs.h"
+#include "platform/qt/desktop/dialogs.h"
+#include "platform/qt/desktop/printer.h"
 #include "platform/qt/folder_entries.h"
 #include "platform/qt/key_router.h"
 #include "platform/qt/lock_keys.h"
-#include "platform/qt/printer.h"
 
 namespace pelmar {
 namespace {

@@ -8,11 +8,11 @@
 #include <string_view>
 
 #include "platform/platform.h"
-#include "platform/qt/clipboard.h"
 #include "platform/qt/czech_collation.h"
+#include "platform/qt/desktop/clipboard.h"
+#include "platform/qt/desktop/recent_documents.h"
+#include "platform/qt/desktop/wait_cursor.h"
 #include "platform/qt/install_folder.h"
-#include "platform/qt/recent_documents.h"
-#include "platform/qt/wait_cursor.h"
 
 namespace pelmar {
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "platform/qt/controls/dialog_window.h"
-#include "shell/windows/main_toolbar.h"
+#include "shell/windows/main/main_toolbar.h"
 
 namespace Ui {
 class CustomizeToolbar;

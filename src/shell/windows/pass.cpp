@@ -3,8 +3,8 @@
 #include <QKeyEvent>
 #include <QPointer>
 
-#include "platform/qt/asker.h"
 #include "platform/qt/convert.h"
+#include "platform/qt/frames/asker.h"
 #include "shell/windows/other_windows.h"
 #include "ui_pass.h"
 

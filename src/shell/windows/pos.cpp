@@ -1,7 +1,7 @@
 #include "shell/windows/pos.h"
 
 #include "platform/qt/convert.h"
-#include "platform/qt/outer_geometry.h"
+#include "platform/qt/frames/outer_geometry.h"
 #include "shell/layout_picker.h"
 #include "ui_pos.h"
 

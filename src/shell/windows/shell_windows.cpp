@@ -1,11 +1,11 @@
+#include "shell/services/program_parts.h"
 #include "shell/windows/config.h"
 #include "shell/windows/customize_toolbar.h"
 #include "shell/windows/hlp.h"
-#include "shell/windows/main_window.h"
+#include "shell/windows/main/main_window.h"
 #include "shell/windows/o.h"
 #include "shell/windows/pass.h"
 #include "shell/windows/pos.h"
-#include "shell/windows/program_parts.h"
 #include "shell/windows/start.h"
 
 namespace pelmar {

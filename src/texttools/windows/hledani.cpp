@@ -3,7 +3,7 @@
 #include "platform/qt/controls/field_helpers.h"
 #include "platform/qt/controls/list_rows.h"
 #include "platform/qt/convert.h"
-#include "platform/qt/outer_geometry.h"
+#include "platform/qt/frames/outer_geometry.h"
 #include "ui_hledani.h"
 
 namespace pelmar {

@@ -1,6 +1,6 @@
-#include "shell/windows/main_window.h"
+#include "shell/services/program_parts.h"
+#include "shell/windows/main/main_window.h"
 #include "shell/windows/pos.h"
-#include "shell/windows/program_parts.h"
 #include "texttools/appearance.h"
 #include "texttools/windows/formatuj.h"
 #include "texttools/windows/hledani.h"

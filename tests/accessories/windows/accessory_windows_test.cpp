@@ -14,7 +14,7 @@
 #include "accessories/windows/morse.h"
 #include "accessories/windows/poznamka.h"
 #include "accessories/windows/prev.h"
-#include "platform/qt/outer_geometry.h"
+#include "platform/qt/frames/outer_geometry.h"
 #include "program/program.h"
 #include "support/plain_view.h"
 #include "support/scripted_platform.h"

@@ -5,7 +5,7 @@
 #include <QPushButton>
 #include <QTest>
 
-#include "platform/qt/controls/text_box.h"
+#include "platform/qt/textbox/text_box.h"
 
 namespace pelmar {
 namespace {

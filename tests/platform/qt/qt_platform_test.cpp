@@ -12,13 +12,13 @@
 #include <set>
 
 #include "files/printing.h"
-#include "platform/qt/clipboard_text.h"
 #include "platform/qt/convert.h"
+#include "platform/qt/desktop/clipboard_text.h"
+#include "platform/qt/desktop/printer.h"
+#include "platform/qt/desktop/recent_bookmarks.h"
+#include "platform/qt/desktop/recent_documents.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/install_folder.h"
-#include "platform/qt/printer.h"
-#include "platform/qt/recent_bookmarks.h"
-#include "platform/qt/recent_documents.h"
 #include "support/controls.h"
 #include "support/scripted_platform.h"
 #include "support/temp_folder.h"

@@ -3,7 +3,7 @@
 #include <sys/stat.h>
 
 #include "platform/qt/application.h"
-#include "platform/qt/program_style.h"
+#include "platform/qt/frames/program_style.h"
 #include "support/temp_folder.h"
 
 int main(int argc, char** argv) {

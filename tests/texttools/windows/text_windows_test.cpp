@@ -6,7 +6,7 @@
 
 #include "accessories/windows/color_dialog.h"
 #include "platform/qt/controls/cell_grid.h"
-#include "platform/qt/outer_geometry.h"
+#include "platform/qt/frames/outer_geometry.h"
 #include "program/program.h"
 #include "shell/windows/pos.h"
 #include "support/controls.h"

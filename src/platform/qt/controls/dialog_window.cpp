@@ -18,15 +18,15 @@
 #include <QWindow>
 #include <algorithm>
 
-#include "platform/qt/asker.h"
 #include "platform/qt/controls/accessible_face.h"
 #include "platform/qt/controls/scrolled_contents.h"
-#include "platform/qt/controls/text_box.h"
+#include "platform/qt/frames/asker.h"
+#include "platform/qt/frames/outer_geometry.h"
+#include "platform/qt/frames/placement.h"
+#include "platform/qt/frames/program_style.h"
+#include "platform/qt/frames/svg_icon.h"
 #include "platform/qt/key_router.h"
-#include "platform/qt/outer_geometry.h"
-#include "platform/qt/placement.h"
-#include "platform/qt/program_style.h"
-#include "platform/qt/svg_icon.h"
+#include "platform/qt/textbox/text_box.h"
 
 namespace pelmar {
 namespace {

@@ -1,0 +1,281 @@
+#include "html/browser/frm_browser.h"
+
+#include <QCloseEvent>
+#include <QFile>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QToolButton>
+
+#include "html/browser/web_address.h"
+#include "html/browser_texts.h"
+#include "platform/qt/controls/accessible_face.h"
+#include "platform/qt/controls/elided_label.h"
+#include "platform/qt/convert.h"
+#include "platform/qt/frames/asker.h"
+#include "platform/qt/frames/outer_geometry.h"
+#include "platform/qt/frames/placement.h"
+#include "platform/qt/frames/svg_icon.h"
+#include "platform/qt/key_router.h"
+#include "shell/stand_alone.h"
+#include "ui_frm_browser.h"
+
+namespace pelmar {
+namespace {
+
+constexpr int kTimerInterval = 5;                 // ms
+constexpr qint64 kLongestPage = qint64{4} << 20;  // bytes that are looked at
+constexpr std::string_view kOpenFilter = "Všechno (*.*)|*.*|htm (*.htm)|*.htm|html (*.html)|*.html";
+
+QLabel* AddPanel(QStatusBar& bar, const char* name, const QString& value_name, int stretch) {
+  QLabel* panel = stretch > 0 ? new ElidedLabel(&bar) : new QLabel(&bar);  // an address may be of any length
+  panel->setObjectName(QLatin1String(name));
+  panel->setProperty(kValueName, value_name);
+  SetAccessibleRole(*panel, QAccessible::StaticText);
+  panel->setTextFormat(Qt::PlainText);
+  panel->setMargin(2);
+  panel->setIndent(4);
+  bar.addWidget(panel, stretch);
+  return panel;
+}
+
+}  // namespace
+
+FrmBrowser::FrmBrowser(WebViewMaker& maker, Platform& platform, std::function<void()> end_program)
+    : StartingAddress(Utf8ToQString(kStartingAddress)),
+      platform_(platform),
+      end_program_(std::move(end_program)),
+      ui_(std::make_unique<Ui::frmBrowser>()) {
+  ui_->setupUi(this);
+  ui_->netLine->hide();
+  ui_->Picture1->setEnabled(false);
+  ShowProgramIcon();
+  status_ = AddPanel(*ui_->StatusBar1, "Panel1", QStringLiteral("Stav"), 1);
+  progress_ = AddPanel(*ui_->StatusBar1, "Panel2", QStringLiteral("Průběh načítání"), 0);
+  encoding_ = AddPanel(*ui_->StatusBar1, "Panel3", QStringLiteral("Kódování stránky"), 0);
+  timTimer.setObjectName(QStringLiteral("timTimer"));
+  timTimer.setInterval(kTimerInterval);
+  connect(&timTimer, &QTimer::timeout, this, &FrmBrowser::timTimer_Timer);
+  view_ = maker.Make(ui_->client);
+  ConnectView();
+  ConnectToolBar();
+  ConnectAddress();
+  if (end_program_) ui_->Close->setToolTip(QStringLiteral("Ukončit program"));
+}
+
+FrmBrowser::~FrmBrowser() = default;
+
+void FrmBrowser::ConnectView() {
+  view_->Widget()->setObjectName(QStringLiteral("brwWebBrowser"));
+  view_->Widget()->setAccessibleName(QStringLiteral("Stránka"));
+  ui_->page->addWidget(view_->Widget());
+  setTabOrder(ui_->cboAddress, view_->Widget());
+  view_->on_progress = [this](qint64 progress, qint64 maximum) { View_Progress(progress, maximum); };
+  view_->on_link = [this](const QString& address) {
+    link_ = address;
+    status_->setToolTip(address);
+    ShowState();
+  };
+  view_->on_change = [this] {
+    ShowCaption();
+    ShowHistory();
+    // A page that was asked for in the page itself loads too.
+    if (view_->Busy()) timTimer.start();
+  };
+  view_->on_withheld = [this](bool withheld) { ui_->netLine->setVisible(withheld); };
+  view_->on_finished = [this] { View_Finished(); };
+  connect(ui_->LoadNet, &QPushButton::clicked, this, &FrmBrowser::LoadNet_Click);
+}
+
+void FrmBrowser::ConnectToolBar() {
+  const auto on = [this](QAction* action, auto act) {
+    action->setIcon(SvgIcon(QStringLiteral(":/icons/%1.svg").arg(action->objectName().toLower())));
+    auto* button = qobject_cast<QToolButton*>(ui_->tbToolBar->widgetForAction(action));
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setAccessibleName(action->text());
+    connect(action, &QAction::triggered, this, [this, act] {
+      timTimer.start();
+      act();
+    });
+  };
+  on(ui_->Back, [this] { view_->Go(-1); });
+  on(ui_->Forward, [this] { view_->Go(1); });
+  on(ui_->Refresh, [this] { view_->Refresh(); });
+  on(ui_->Stop, [this] { Stop_Click(); });
+  on(ui_->Open, [this] { Open_Click(); });
+  on(ui_->Close, [this] { Close_Click(); });
+  ShowHistory();
+}
+
+void FrmBrowser::ConnectAddress() {
+  QLineEdit* line = ui_->cboAddress->lineEdit();
+  // The toolkit would complete what is typed, and load an entry of the list when the field is left.
+  ui_->cboAddress->setCompleter(nullptr);
+  disconnect(line, &QLineEdit::editingFinished, ui_->cboAddress, nullptr);
+  ui_->cboAddress->installEventFilter(this);
+  KeyRouter::Get().Add(KeyTurn::kField, *ui_->cboAddress, [this](QWidget&, const QKeyEvent& press) {
+    if (press.key() != Qt::Key_Return && press.key() != Qt::Key_Enter) return false;
+    NavigateToBox();
+    return true;
+  });
+  connect(ui_->cboAddress, &QComboBox::activated, this, &FrmBrowser::NavigateToBox);
+}
+
+bool FrmBrowser::eventFilter(QObject* watched, QEvent* event) {
+  // A turn of the wheel over the list is not a choice.
+  if (watched == ui_->cboAddress && event->type() == QEvent::Wheel) return true;
+  return QMainWindow::eventFilter(watched, event);
+}
+
+void FrmBrowser::ShowInBrowser(const std::string& path) {
+  if (path.empty()) return;
+  Visit(AddressOfFile(path));
+  Present();
+}
+
+void FrmBrowser::ShowAlone() {
+  Present();
+  if (!StartingAddress.isEmpty()) Visit(StartingAddress);
+  ui_->cboAddress->setFocus();
+}
+
+void FrmBrowser::Present() { BringToFront(*this); }
+
+void FrmBrowser::Visit(const QString& address) {
+  DontNavigateNow = true;
+  ui_->cboAddress->addItem(address);
+  ui_->cboAddress->setEditText(address);
+  DontNavigateNow = false;
+  Load(address);
+}
+
+void FrmBrowser::Load(const QString& address) {
+  const QUrl url = UrlOfAddress(address);
+  if (url.isValid() && !MayBeShown(url)) {
+    const QString refusal = QStringLiteral(
+        "Takovou adresu interní browser neotvírá:\r\n%1\r\n\r\nOtvírá http, https, file, data a about:blank.");
+    platform_.Message(MessageType::kOkInfo, Utf8FromQString(refusal.arg(Shortened(address.trimmed(), kLongestShown))),
+                      "Interní browser");
+    return;
+  }
+  timTimer.start();
+  view_->Load(url);
+  view_->Widget()->setFocus();
+}
+
+void FrmBrowser::NavigateToBox() {
+  if (DontNavigateNow) return;
+  ui_->cboAddress->lineEdit()->setModified(false);
+  Load(ui_->cboAddress->currentText());
+}
+
+void FrmBrowser::ShowCaption() { setWindowTitle(PlainTitle(BrowserCaption(Utf8FromQString(view_->LocationName())))); }
+
+void FrmBrowser::ShowHistory() {
+  ui_->Back->setEnabled(view_->CanGo(-1));
+  ui_->Forward->setEnabled(view_->CanGo(1));
+}
+
+void FrmBrowser::timTimer_Timer() {
+  ShowState();
+  if (view_->Busy()) return ui_->Picture1->Step();
+  timTimer.stop();
+  ShowCaption();
+}
+
+// While nothing loads, the link that is pointed at has the place.
+void FrmBrowser::ShowState() {
+  const QString idle = link_.isEmpty() ? QStringLiteral("Idle") : link_;
+  status_->setText(view_->Busy() ? QStringLiteral("Busy") : idle);
+  ui_->Picture1->setEnabled(view_->Busy());
+}
+
+void FrmBrowser::View_Progress(qint64 progress, qint64 maximum) {
+  progress_->setText(Utf8ToQString(ProgressText(progress, maximum)));
+}
+
+void FrmBrowser::ShowEncoding() {
+  // Read without waiting, and no more than a page is long.
+  QFile file(view_->LocationAddress().toLocalFile());
+  const bool told = QFileInfo(file).isFile() && file.open(QIODevice::ReadOnly) &&
+                    IsUndeclaredUtf8(file.read(kLongestPage).toStdString());
+  encoding_->setText(told ? QStringLiteral("Stránka je v UTF-8 a neuvádí to: převede ji Konverze dos - unix")
+                          : QString());
+}
+
+void FrmBrowser::View_Finished() {
+  ShowCaption();
+  ShowHistory();
+  ShowEncoding();
+  QLineEdit& line = *ui_->cboAddress->lineEdit();
+  const bool half_typed = line.isModified();
+  const bool selected = line.hasSelectedText();
+  const QString typed = line.text();
+  DontNavigateNow = true;
+  PutOnTop(AddressOfUrl(view_->LocationAddress()));
+  // The person is about to type another address, or in the middle of it.
+  if (half_typed) {
+    line.setText(typed);
+    line.setModified(true);
+  }
+  if (selected && !half_typed) line.selectAll();
+  DontNavigateNow = false;
+}
+
+void FrmBrowser::PutOnTop(const QString& address) {
+  QComboBox& list = *ui_->cboAddress;
+  for (int row = list.count() - 1; row >= 0; --row)
+    if (list.itemText(row) == address) list.removeItem(row);
+  list.insertItem(0, address);
+  list.setCurrentIndex(0);
+}
+
+void FrmBrowser::Stop_Click() {
+  timTimer.stop();
+  view_->Stop();
+  ShowCaption();
+  // No tick comes any more that would say so, and the engine may tell of its end later.
+  status_->setText(QStringLiteral("Idle"));
+  ui_->Picture1->setEnabled(false);
+}
+
+void FrmBrowser::Open_Click() {
+  if (const auto path = platform_.OpenDialog(kOpenFilter, 1)) Visit(AddressOfFile(*path));
+}
+
+void FrmBrowser::LoadNet_Click() {
+  timTimer.start();
+  view_->LoadFromNet();
+  view_->Widget()->setFocus();
+}
+
+void FrmBrowser::Close_Click() {
+  hide();
+  view_->EndIfStuck();
+  if (!end_program_) return;
+  if (MayEndStandAlone(platform_, "Browser")) return end_program_();
+  show();
+}
+
+void FrmBrowser::closeEvent(QCloseEvent* event) {
+  // Where nothing is asked, the toolkit hides the window itself.
+  if (!end_program_) {
+    view_->EndIfStuck();
+    return event->accept();
+  }
+  event->ignore();
+  Close_Click();
+}
+
+void FrmBrowser::showEvent(QShowEvent* event) {
+  if (!centred_ && !event->spontaneous()) {
+    centred_ = true;
+    ShowOnAskersScreen(*this);
+    CentreOnScreen(*this);
+  }
+  QMainWindow::showEvent(event);
+}
+
+}  // namespace pelmar

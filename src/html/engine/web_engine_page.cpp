@@ -1,0 +1,212 @@
+#include "html/engine/web_engine_page.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QCoreApplication>
+#include <QInputDialog>
+#include <QLayout>
+#include <QMessageBox>
+#include <QWebEngineCertificateError>
+#include <QWebEngineClientCertificateSelection>
+#include <QWebEngineFileSystemAccessRequest>
+#include <QWebEngineFullScreenRequest>
+#include <QWebEngineNewWindowRequest>
+#include <QWebEngineRegisterProtocolHandlerRequest>
+#include <QWebEngineSettings>
+#include <QWebEngineView>
+#include <QtGlobal>
+#include <utility>
+
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+#include <QWebEnginePermission>
+#else
+#include <QWebEngineQuotaRequest>
+#endif
+
+#include "html/browser/web_address.h"
+
+namespace pelmar {
+namespace {
+
+QString Title() { return QStringLiteral("Zpráva stránky"); }
+
+// The engine's own question, asked as a page's.
+constexpr char kLeaving[] = "Are you sure you want to leave this page? Changes that you made may not be saved.";
+constexpr int kMostUnasked = 2;         // questions before a page may be silenced
+constexpr int kLongestQuestion = 2000;  // characters of a page's own words
+// Characters of an address of the net, and those of one line of it: all of it is seen, or it isn't asked for.
+constexpr qsizetype kLongestAsked = 1000, kAddressLine = 80;
+
+// What a frame of a page may hold besides.
+bool MayBeFramed(const QUrl& address) {
+  return MayBeShown(address) || address.scheme() == QLatin1String("about") || address.scheme() == QLatin1String("blob");
+}
+
+// The toolkit's own stays pressed for a moment before its key takes effect, and Enter may come sooner.
+class SilenceBox : public QCheckBox {
+ public:
+  SilenceBox() : QCheckBox(QStringLiteral("&Další zprávy této stránky neukazovat")) {}
+
+ protected:
+  bool event(QEvent* event) override {
+    if (event->type() != QEvent::Shortcut) return QCheckBox::event(event);
+    click();
+    return true;
+  }
+};
+
+}  // namespace
+
+WebEnginePage::WebEnginePage(QWebEngineProfile* profile, PageSide side) : QWebEnginePage(profile), side_(side) {
+  settings()->setDefaultTextEncoding(QStringLiteral("windows-1250"));
+  settings()->setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
+  settings()->setAttribute(QWebEngineSettings::LocalContentCanAccessFileUrls, true);
+  // Not for good: what the engine's own rule stops, nobody hears of. The refusal and the gate hold it back.
+  settings()->setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, true);
+  settings()->setAttribute(QWebEngineSettings::JavascriptEnabled, side != PageSide::kDiskWithNet);
+  settings()->setAttribute(QWebEngineSettings::HyperlinkAuditingEnabled, false);
+  // A window only where the person has clicked: a page could ask for them without end.
+  settings()->setAttribute(QWebEngineSettings::JavascriptCanOpenWindows, false);
+  settings()->setAttribute(QWebEngineSettings::FocusOnNavigationEnabled, false);
+  NameActions();
+  RefuseRequests();
+  connect(this, &QWebEnginePage::newWindowRequested, this,
+          [this](QWebEngineNewWindowRequest& request) { OpenHere(request.requestedUrl()); });
+}
+
+// What the program loads isn't held back as what the page loads is, so this is for pages that may go there.
+void WebEnginePage::OpenHere(const QUrl& address) {
+  if (IsOfTheNet(address) || (address.isLocalFile() && side_ != PageSide::kNet)) load(address);
+}
+
+// The scripts of a local page may read other local files, and an address can carry them away. So such a page reaches
+// the net only where the person has seen the whole address.
+void WebEnginePage::AskToLeaveTheDisk(const QUrl& address) {
+  QString shown = address.toString(QUrl::FullyEncoded);
+  const qsizetype length = shown.size();
+  if (length > kLongestAsked) {
+    const QString refusal =
+        QStringLiteral("Stránka odkazuje na internet. Adresa se neotevře, protože ji nelze ukázat celou: má %1 znaků.");
+    AskInBox(Title(), refusal.arg(length), QMessageBox::Ok, QMessageBox::Ok);
+    return;
+  }
+  // A box breaks lines between words alone.
+  for (qsizetype end = (length - 1) / kAddressLine * kAddressLine; end > 0; end -= kAddressLine)
+    shown.insert(end, QLatin1Char('\n'));
+  const QString question = QStringLiteral("Stránka odkazuje na internet. Otevřít adresu ?\n\n") + shown;
+  if (AskInBox(QStringLiteral("Pelmar VEX"), question, QMessageBox::Yes | QMessageBox::No, QMessageBox::No))
+    on_leave(address);
+}
+
+bool WebEnginePage::acceptNavigationRequest(const QUrl& address, NavigationType, bool is_main_frame) {
+  if (!is_main_frame) return MayBeFramed(address);
+  if (!MayBeShown(address) || (side_ == PageSide::kNet && address.isLocalFile())) return false;
+  if (side_ != PageSide::kNet && IsOfTheNet(address)) {
+    // Not within the engine's own call.
+    QMetaObject::invokeMethod(
+        this, [this, address] { AskToLeaveTheDisk(address); }, Qt::QueuedConnection);
+    return false;
+  }
+  if (side_ == PageSide::kDiskWithNet && std::exchange(loaded_, true)) {
+    on_leave(address);
+    return false;
+  }
+  on_coming();
+  return true;
+}
+
+void WebEnginePage::NameActions() {
+  const std::pair<WebAction, QString> names[] = {
+      {Cut, QStringLiteral("Vy&jmout")},
+      {Copy, QStringLiteral("&Kopírovat")},
+      {Paste, QStringLiteral("V&ložit")},
+      {SelectAll, QStringLiteral("Vybrat &vše")},
+      {CopyLinkToClipboard, QStringLiteral("Kopírovat &adresu odkazu")},
+  };
+  for (const auto& [name, text] : names) action(name)->setText(text);
+}
+
+void WebEnginePage::RefuseRequests() {
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+  connect(this, &QWebEnginePage::permissionRequested, this, [](QWebEnginePermission permission) { permission.deny(); });
+#else
+  connect(this, &QWebEnginePage::featurePermissionRequested, this, [this](const QUrl& origin, Feature feature) {
+    setFeaturePermission(origin, feature, PermissionDeniedByUser);
+  });
+  connect(this, &QWebEnginePage::quotaRequested, this, [](QWebEngineQuotaRequest request) { request.reject(); });
+#endif
+  connect(this, &QWebEnginePage::registerProtocolHandlerRequested, this,
+          [](QWebEngineRegisterProtocolHandlerRequest request) { request.reject(); });
+  connect(this, &QWebEnginePage::fileSystemAccessRequested, this,
+          [](QWebEngineFileSystemAccessRequest request) { request.reject(); });
+  connect(this, &QWebEnginePage::fullScreenRequested, this,
+          [](QWebEngineFullScreenRequest request) { request.reject(); });
+  connect(this, &QWebEnginePage::selectClientCertificate, this,
+          [](QWebEngineClientCertificateSelection selection) { selection.selectNone(); });
+  connect(this, &QWebEnginePage::certificateError, this,
+          [](QWebEngineCertificateError error) { error.rejectCertificate(); });
+}
+
+void WebEnginePage::Silence() {
+  silenced_ = true;
+  if (question_ != nullptr) question_->reject();
+}
+
+void WebEnginePage::ForgetQuestions() {
+  muted_ = false;
+  questions_ = 0;
+}
+
+bool WebEnginePage::Ask(QDialog& question) {
+  QWidget* view = QWebEngineView::forPage(this);
+  if (silenced_ || muted_ || question_ != nullptr || view == nullptr || !view->isVisible()) return false;
+  QCheckBox* silence = ++questions_ > kMostUnasked ? new SilenceBox : nullptr;
+  if (auto* box = qobject_cast<QMessageBox*>(&question); box != nullptr && silence != nullptr) {
+    box->setCheckBox(silence);
+  } else if (silence != nullptr) {
+    question.sizeHint();  // makes its layout
+    question.layout()->addWidget(silence);
+  }
+  // The editor and its other windows go on.
+  question.setWindowModality(Qt::WindowModal);
+  question_ = &question;
+  if (on_asking) on_asking();
+  const QPointer<WebEnginePage> self = this;
+  const int result = question.exec();
+  if (self == nullptr) return false;
+  question_ = nullptr;
+  if (silence != nullptr && silence->isChecked()) muted_ = true;
+  if (on_answered) QMetaObject::invokeMethod(this, on_answered, Qt::QueuedConnection);
+  return result == QDialog::Accepted || result == QMessageBox::Yes || result == QMessageBox::Ok;
+}
+
+bool WebEnginePage::AskInBox(const QString& title, const QString& text, QMessageBox::StandardButtons buttons,
+                             QMessageBox::StandardButton default_button) {
+  QMessageBox box(QMessageBox::NoIcon, title, Shortened(text, kLongestQuestion), buttons,
+                  QWebEngineView::forPage(this));
+  box.setTextFormat(Qt::PlainText);
+  box.setDefaultButton(default_button);
+  return Ask(box);
+}
+
+void WebEnginePage::javaScriptAlert(const QUrl&, const QString& text) {
+  AskInBox(Title(), text, QMessageBox::Ok, QMessageBox::Ok);
+}
+
+bool WebEnginePage::javaScriptConfirm(const QUrl&, const QString& text) {
+  // A page that has been silenced can't keep the person from leaving it.
+  if ((silenced_ || muted_) && text == QCoreApplication::translate("QWebEnginePage", kLeaving)) return true;
+  return AskInBox(Title(), text, QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Ok);
+}
+
+bool WebEnginePage::javaScriptPrompt(const QUrl&, const QString& text, const QString& initial, QString* result) {
+  QInputDialog dialog(QWebEngineView::forPage(this));
+  dialog.setWindowTitle(Title());
+  dialog.setLabelText(Shortened(text, kLongestQuestion));
+  dialog.setTextValue(initial);
+  const bool accepted = Ask(dialog);
+  *result = dialog.textValue();
+  return accepted;
+}
+
+}  // namespace pelmar

@@ -1,0 +1,271 @@
+#include "html/engine/web_engine_view.h"
+
+#include <csignal>
+
+#include <QMenu>
+#include <QWebEngineContextMenuRequest>
+#include <QWebEngineDownloadRequest>
+#include <QWebEngineHistory>
+#include <QWebEngineScript>
+#include <utility>
+
+#include "html/browser/web_address.h"
+#include "html/engine/engine_start.h"
+#include "html/engine/net_refusal.h"
+
+namespace pelmar {
+namespace {
+
+// A command that hasn't begun to load by then loads nothing, as a step to another place of the same page.
+constexpr int kLongestExpectation = 1000;  // ms
+constexpr int kLongestSilence = 3000;      // ms, of a page that is to answer
+
+PageSide SideOf(const QUrl& address) { return IsOfTheNet(address) ? PageSide::kNet : PageSide::kDisk; }
+
+std::unique_ptr<QWebEngineProfile> MakeProfile(bool lets_to_net, std::function<void()> on_withheld) {
+  auto profile = std::make_unique<QWebEngineProfile>();
+  profile->setHttpAcceptLanguage(QStringLiteral("cs"));
+  profile->setUrlRequestInterceptor(new NetRefusal(lets_to_net, std::move(on_withheld), profile.get()));
+  QObject::connect(profile.get(), &QWebEngineProfile::downloadRequested,
+                   [](QWebEngineDownloadRequest* download) { download->cancel(); });
+  return profile;
+}
+
+void SetUp(QTimer& timer, int interval) {
+  timer.setSingleShot(true);
+  timer.setInterval(interval);
+}
+
+}  // namespace
+
+WebEngineView::WebEngineView(QWidget* parent) : view_(std::make_unique<QWebEngineView>(parent)) {
+  view_->setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(view_.get(), &QWidget::customContextMenuRequested, this, &WebEngineView::ShowMenu);
+  SetUp(expecting_, kLongestExpectation);
+  SetUp(unanswered_, kLongestSilence);
+  connect(&unanswered_, &QTimer::timeout, this, [this] {
+    if (page_->renderProcessPid() == probed_) EndProcess(std::exchange(held_up_, {}));
+  });
+  for (const PageSide side : {PageSide::kDisk, PageSide::kDiskWithNet, PageSide::kNet}) {
+    const bool lets_out = side != PageSide::kDisk;
+    const ScopedVariable way_out(kWayOut, (lets_out ? open_gate_ : shut_gate_).Address());
+    profiles_[side] = MakeProfile(lets_out, [this] { on_withheld(true); });
+  }
+  MakePage(PageSide::kDisk);
+}
+
+WebEngineView::~WebEngineView() { page_->disconnect(this); }
+
+void WebEngineView::MakePage(PageSide side) {
+  auto page = std::make_unique<WebEnginePage>(profiles_.at(side).get(), side);
+  view_->setPage(page.get());
+  if (page_ != nullptr) page_->disconnect(this);
+  page_ = std::move(page);
+  ConnectPage();
+}
+
+void WebEngineView::ConnectPage() {
+  connect(page_.get(), &QWebEnginePage::loadStarted, this, &WebEngineView::TellChange);
+  connect(page_.get(), &QWebEnginePage::titleChanged, this, &WebEngineView::TellChange);
+  connect(page_.get(), &QWebEnginePage::loadProgress, this, [this](int percent) {
+    if (on_progress) on_progress(percent, 100);
+  });
+  connect(page_.get(), &QWebEnginePage::loadFinished, this, &WebEngineView::Finished);
+  // A link within the page loads nothing.
+  connect(page_.get(), &QWebEnginePage::urlChanged, this, [this] {
+    if (!Busy() && on_finished) on_finished();
+  });
+  connect(page_.get(), &QWebEnginePage::linkHovered, this, [this](const QString& address) {
+    if (on_link) on_link(address);
+  });
+  // Not within a call of the page, which may go then.
+  connect(page_.get(), &QWebEnginePage::renderProcessTerminated, this, &WebEngineView::ProcessEnded,
+          Qt::QueuedConnection);
+  page_->on_leave = [this](const QUrl& address) {
+    QMetaObject::invokeMethod(
+        this, [this, address] { Load(address); }, Qt::QueuedConnection);
+  };
+  // A page that asks isn't stuck, however long the person thinks.
+  page_->on_asking = [this] {
+    unanswered_.stop();
+    held_up_ = {};
+  };
+  page_->on_answered = [this] {
+    if (const auto step = std::exchange(after_question_, {})) step();
+  };
+  page_->on_coming = [this] { on_withheld(false); };
+}
+
+void WebEngineView::Command(std::function<void()> step) {
+  const bool was_asking = page_->Asking();
+  page_->Silence();
+  // The question is a loop of events within the engine's own call, which has to return first.
+  if (was_asking) {
+    after_question_ = [this, step] { Command(step); };
+    return;
+  }
+  after_question_ = {};
+  page_->ForgetQuestions();
+  expecting_.start();
+  step();
+}
+
+void WebEngineView::Stay(const std::function<void()>& step) {
+  Probe(step);
+  step();
+}
+
+void WebEngineView::Cross(qsizetype place, PageSide side) {
+  place_ = place;
+  MakePage(side);
+  page_->load(places_[place_]);
+}
+
+void WebEngineView::GatherPlaces() {
+  QList<QUrl> own;
+  for (const QWebEngineHistoryItem& item : page_->history()->items()) own += item.url();
+  if (own.isEmpty()) return;
+  const QList<QUrl> ahead = own.size() > 1 ? QList<QUrl>() : places_.mid(place_ + 1);
+  places_ = places_.first(place_) + own + ahead;
+  place_ += page_->history()->currentItemIndex();
+}
+
+void WebEngineView::Probe(std::function<void()> step) {
+  probed_ = page_->renderProcessPid();
+  if (probed_ <= 0 || page_->Side() == PageSide::kDiskWithNet) return page_->HearAgain();
+  held_up_ = std::move(step);
+  unanswered_.start();
+  page_->runJavaScript(QStringLiteral("0"), QWebEngineScript::ApplicationWorld,
+                       [this, number = ++probes_](const QVariant&) {
+                         if (number == probes_) Answered();
+                       });
+}
+
+void WebEngineView::Answered() {
+  unanswered_.stop();
+  held_up_ = {};
+  page_->HearAgain();
+}
+
+void WebEngineView::EndProcess(std::function<void()> then) {
+  unanswered_.stop();
+  const qint64 process = page_->renderProcessPid();
+  held_up_ = std::move(then);
+  if (process <= 0 || kill(static_cast<pid_t>(process), SIGKILL) != 0) ProcessEnded();
+}
+
+void WebEngineView::ProcessEnded() {
+  const auto step = std::exchange(held_up_, {});
+  ++probes_;
+  Answered();
+  if (step) return step();
+  // A page whose process died is not loading any more.
+  Finished();
+}
+
+void WebEngineView::EndIfStuck() {
+  page_->Silence();
+  Probe({});
+}
+
+void WebEngineView::LoadFromNet() {
+  Command([this] {
+    EndProcess([this] {
+      GatherPlaces();
+      Cross(place_, PageSide::kDiskWithNet);
+    });
+  });
+}
+
+void WebEngineView::TellChange() {
+  if (on_change) on_change();
+}
+
+void WebEngineView::Finished() {
+  expecting_.stop();
+  if (on_progress) on_progress(0, 0);
+  if (on_finished) on_finished();
+}
+
+void WebEngineView::Load(const QUrl& address) {
+  if (!address.isValid() || !MayBeShown(address)) return;
+  Command([this, address] {
+    if (!places_.isEmpty() && SideOf(address) == page_->Side()) return Stay([this, address] { page_->load(address); });
+    EndProcess([this, address] {
+      GatherPlaces();
+      places_ = places_.mid(0, place_ + 1) + QList{address};
+      Cross(places_.size() - 1, SideOf(address));
+    });
+  });
+}
+
+bool WebEngineView::CanGo(int places) const {
+  const QWebEngineHistory& own = *page_->history();
+  // A page that went on by itself has left behind what was ahead.
+  return places < 0 ? own.canGoBack() || place_ > 0
+                    : own.canGoForward() || (own.count() <= 1 && place_ + 1 < places_.size());
+}
+
+void WebEngineView::Go(int places) {
+  if (!CanGo(places)) return;
+  Command([this, places] {
+    const QWebEngineHistory& own = *page_->history();
+    if (places < 0 ? own.canGoBack() : own.canGoForward())
+      return Stay(
+          [this, places] { page_->triggerAction(places < 0 ? QWebEnginePage::Back : QWebEnginePage::Forward); });
+    EndProcess([this, places] {
+      GatherPlaces();
+      Cross(place_ + places, SideOf(places_[place_ + places]));
+    });
+  });
+}
+
+void WebEngineView::Refresh() {
+  if (places_.isEmpty()) return;
+  Command([this] {
+    if (page_->Side() != PageSide::kDiskWithNet && page_->url().isValid())
+      return Stay([this] { page_->triggerAction(QWebEnginePage::Reload); });
+    EndProcess([this] {
+      GatherPlaces();
+      Cross(place_, SideOf(places_[place_]));
+    });
+  });
+}
+
+void WebEngineView::Stop() {
+  expecting_.stop();
+  page_->triggerAction(QWebEnginePage::Stop);
+  EndIfStuck();
+}
+
+bool WebEngineView::Busy() const { return expecting_.isActive() || page_->isLoading(); }
+
+QString WebEngineView::LocationName() const {
+  const QString title = page_->title();
+  // Where a page has no title, the engine makes one of the file's name, and encodes some of it.
+  const QString name = page_->url().fileName(QUrl::FullyDecoded);
+  return QUrl::fromPercentEncoding(title.toUtf8()) == name ? name : title;
+}
+
+QUrl WebEngineView::LocationAddress() const { return page_->url().isEmpty() ? places_.value(place_) : page_->url(); }
+
+void WebEngineView::ShowMenu(const QPoint& at) {
+  auto* menu = new QMenu(view_.get());
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  menu->addAction(QStringLiteral("&Zpět"), this, [this] { Go(-1); })->setEnabled(CanGo(-1));
+  menu->addAction(QStringLiteral("&Vpřed"), this, [this] { Go(1); })->setEnabled(CanGo(1));
+  menu->addAction(QStringLiteral("&Obnovit"), this, [this] { Refresh(); });
+  menu->addSeparator();
+  const QWebEngineContextMenuRequest* request = view_->lastContextMenuRequest();
+  if (request != nullptr && request->linkUrl().isValid())
+    menu->addAction(page_->action(QWebEnginePage::CopyLinkToClipboard));
+  using Request = QWebEngineContextMenuRequest;
+  for (const auto& [action, flag] : {std::pair{QWebEnginePage::Cut, Request::CanCut},
+                                     {QWebEnginePage::Copy, Request::CanCopy},
+                                     {QWebEnginePage::Paste, Request::CanPaste},
+                                     {QWebEnginePage::SelectAll, Request::CanSelectAll}})
+    if (request == nullptr || request->editFlags().testFlag(flag)) menu->addAction(page_->action(action));
+  menu->popup(view_->mapToGlobal(at));
+}
+
+}  // namespace pelmar

@@ -1,0 +1,24 @@
+// Apart from the rest, because Xlib's macros (None, Bool, Status) break Qt's headers when they come first.
+#include <QGuiApplication>
+
+#include "platform/qt/desktop/clipboard_owner.h"
+
+#if PELMAR_HAS_X11
+#include <X11/Xlib.h>
+#endif
+
+namespace pelmar {
+
+bool ClipboardHasOwner() {
+#if PELMAR_HAS_X11
+  auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+  // The windowless platform has the interface as well, and no display behind it.
+  Display* display = x11 != nullptr ? x11->display() : nullptr;
+  if (display == nullptr) return true;
+  return XGetSelectionOwner(display, XInternAtom(display, "CLIPBOARD", 0)) != None;
+#else
+  return true;
+#endif
+}
+
+}  // namespace pelmar

@@ -1,0 +1,65 @@
+#include "platform/qt/desktop/clipboard_text.h"
+
+#include "platform/qt/convert.h"
+
+namespace pelmar {
+namespace {
+
+constexpr QLatin1String kPlainMimeType("text/plain");
+
+class TextMime : public QMimeData {
+ public:
+  explicit TextMime(std::string_view bytes) : bytes_(ToBytes(bytes)) {}
+
+  [[nodiscard]] QStringList formats() const override { return {kPlainMimeType, QString::fromLatin1(kBytesMimeType)}; }
+
+ protected:
+  [[nodiscard]] QVariant retrieveData(const QString& format, QMetaType type) const override {
+    if (format == QLatin1String(kBytesMimeType)) return bytes_;
+    if (format != kPlainMimeType) return QMimeData::retrieveData(format, type);
+    QString plain = TextToQString(ViewOf(bytes_));
+    plain.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    return plain;
+  }
+
+ private:
+  QByteArray bytes_;
+};
+
+std::string WithCrLf(std::string_view text) {
+  std::string result;
+  result.reserve(text.size() + text.size() / 16);
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == '\n' && (i == 0 || text[i - 1] != '\r')) result += '\r';
+    result += text[i];
+  }
+  return result;
+}
+
+QString WithCrLf(QString text) {
+  return text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\n', QLatin1String("\r\n"));
+}
+
+}  // namespace
+
+QMimeData* MimeFromText(std::string_view bytes) { return new TextMime(bytes); }
+
+std::optional<std::string> TextFromMime(const QMimeData* mime) {
+  if (mime == nullptr) return std::nullopt;
+  if (const QString own = QString::fromLatin1(kBytesMimeType); mime->hasFormat(own))
+    return mime->data(own).toStdString();
+  if (mime->hasFormat(kPlainMimeType)) return PageText(mime->text());
+  return std::nullopt;
+}
+
+QString LineFromMime(const QMimeData& mime, bool holds_lines) {
+  const QString own = QString::fromLatin1(kBytesMimeType);
+  QString text = mime.hasFormat(own) ? TextToQString(ViewOf(mime.data(own))) : WithCrLf(mime.text());
+  return holds_lines ? text : text.remove(u'\r').remove(u'\n');
+}
+
+std::string PageText(const QString& foreign) {
+  return WithCrLf(TextFromQString(foreign.normalized(QString::NormalizationForm_C)));
+}
+
+}  // namespace pelmar

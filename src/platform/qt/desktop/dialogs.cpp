@@ -1,0 +1,226 @@
+#include "platform/qt/desktop/dialogs.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QFileIconProvider>
+#include <QGridLayout>
+#include <QInputDialog>
+#include <QKeyEvent>
+#include <QMessageBox>
+#include <QMimeDatabase>
+#include <QPointer>
+#include <QStyle>
+#include <QWindow>
+#include <algorithm>
+#include <functional>
+
+#include "platform/qt/convert.h"
+#include "platform/qt/frames/asker.h"
+#include "platform/qt/frames/outer_geometry.h"
+#include "platform/qt/frames/svg_icon.h"
+#include "platform/qt/line_edits.h"
+
+namespace pelmar {
+namespace {
+
+constexpr QSize kFileDialogSize(720, 440);
+
+// A box of few words would be too narrow for its title to be read.
+void LeaveRoomForTitle(QMessageBox& box) {
+  auto* grid = qobject_cast<QGridLayout*>(box.layout());
+  if (grid == nullptr) return;
+  grid->addItem(new QSpacerItem(WidthOfTitle(box), 0), grid->rowCount(), 0, 1, grid->columnCount());
+}
+
+// A box that tells Escape and the close box of a question from its No: the toolkit's would press the button.
+class Box : public QMessageBox {
+ public:
+  using QMessageBox::QMessageBox;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (IsQuestion() && event->matches(QKeySequence::Cancel)) return done(QMessageBox::NoButton);
+    QMessageBox::keyPressEvent(event);
+  }
+
+  void closeEvent(QCloseEvent* event) override {
+    QMessageBox::closeEvent(event);
+    if (IsQuestion()) setResult(QMessageBox::NoButton);
+  }
+
+ private:
+  [[nodiscard]] bool IsQuestion() const { return standardButtons().testFlag(QMessageBox::No); }
+};
+
+// For a field that the toolkit has made.
+class PasteFilter : public QObject {
+ public:
+  using QObject::QObject;
+
+  bool eventFilter(QObject* field, QEvent* event) override {
+    return TakePasted(*static_cast<QLineEdit*>(field), *event);
+  }
+};
+
+// A dialog is its window's child, and dies with it should that close while the dialog waits.
+template <typename Dialog>
+class Asking {
+ public:
+  Asking() : asker_(Asker()), dialog_(new Dialog(asker_)) {
+    ShowProgramIcon();
+    PutAboveAll(*dialog_);
+  }
+  Asking(const Asking&) = delete;
+  Asking& operator=(const Asking&) = delete;
+  ~Asking() {
+    delete dialog_.data();
+    ExpectActive(asker_);
+  }
+  Dialog* operator->() const { return dialog_.data(); }
+  Dialog& operator*() const { return *dialog_; }
+  [[nodiscard]] bool Accepted() { return Result() == QDialog::Accepted; }
+  // What the dialog ends with; nothing where it went with its window.
+  [[nodiscard]] int Result() {
+    const int result = dialog_->exec();
+    return dialog_.isNull() ? 0 : result;
+  }
+
+ private:
+  QPointer<QWidget> asker_;
+  QPointer<Dialog> dialog_;
+};
+
+// The toolkit's own reads the beginning of each listed file, which may take for ever: on a disk over a slow net, in
+// folders of the system.
+class IconsByName : public QFileIconProvider {
+ public:
+  using QFileIconProvider::icon;
+  [[nodiscard]] QIcon icon(const QFileInfo& info) const override {
+    if (info.isDir()) return icon(info.isRoot() ? Drive : Folder);
+    const QMimeType type = TypeOf(info);
+    return QIcon::fromTheme(type.iconName(), QIcon::fromTheme(type.genericIconName(), icon(File)));
+  }
+  [[nodiscard]] QString type(const QFileInfo& info) const override {
+    return info.isDir() ? QFileIconProvider::type(info) : TypeOf(info).comment();
+  }
+
+ private:
+  [[nodiscard]] QMimeType TypeOf(const QFileInfo& info) const {
+    return types_.mimeTypeForFile(info.fileName(), QMimeDatabase::MatchExtension);
+  }
+
+  QMimeDatabase types_;
+};
+
+// A base, so that it outlives the dialog's thread, which looks for icons until the dialog is gone.
+struct WithIconsByName {
+  IconsByName icons;
+};
+
+class FileDialog : private WithIconsByName, public QFileDialog {
+ public:
+  explicit FileDialog(QWidget* parent) : QFileDialog(parent) { setIconProvider(&icons); }
+};
+
+QMessageBox::Icon IconOf(MessageType type) {
+  switch (type) {
+    case MessageType::kYesNoQuestion:
+      return QMessageBox::Question;
+    case MessageType::kYesNoWarning:
+      return QMessageBox::Warning;
+    case MessageType::kYesNoStop:
+      return QMessageBox::Critical;
+    case MessageType::kOkInfo:
+      return QMessageBox::Information;
+    default:
+      return QMessageBox::NoIcon;
+  }
+}
+
+// The answer is a standard button.
+int Show(const QString& text, const QString& title, const std::function<void(Box&)>& equip) {
+  Asking<Box> box;
+  box->setWindowTitle(title);
+  box->setTextFormat(Qt::PlainText);
+  box->setText(text);
+  equip(*box);
+  LeaveRoomForTitle(*box);
+  return box.Result();
+}
+
+}  // namespace
+
+Answer ShowMessage(MessageType type, const QString& text, const QString& title) {
+  const bool question = type != MessageType::kOk && type != MessageType::kOkInfo;
+  const int button = Show(text, title, [&](Box& box) {
+    box.setIcon(IconOf(type));
+    if (!question) return box.setStandardButtons(QMessageBox::Ok);
+    box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+    box.setDefaultButton(type == MessageType::kYesNoStop ? QMessageBox::No : QMessageBox::Yes);
+    box.setEscapeButton(QMessageBox::No);  // lets the close box work
+  });
+  if (!question) return Answer::kOk;
+  return button == QMessageBox::Yes ? Answer::kYes : button == QMessageBox::No ? Answer::kNo : Answer::kNone;
+}
+
+void ShowAbout(const QString& title, const QString& text) {
+  Show(text, title, [](Box& box) {
+    const int size = box.style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, &box);
+    box.setIconPixmap(QApplication::windowIcon().pixmap(QSize(size, size), box.devicePixelRatio()));
+    box.setStandardButtons(QMessageBox::Ok);
+  });
+}
+
+std::optional<QString> AskForText(const QString& prompt, const QString& title, const QString& initial) {
+  Asking<QInputDialog> dialog;
+  dialog->setWindowTitle(title);
+  dialog->setLabelText(prompt);
+  dialog->setInputMode(QInputDialog::TextInput);
+  auto* field = dialog->findChild<QLineEdit*>();
+  TakeAnyLength(*field);
+  field->setProperty(kHoldsLines, true);
+  field->installEventFilter(new PasteFilter(field));
+  dialog->setTextValue(initial);
+  if (!dialog.Accepted()) return std::nullopt;
+  return dialog->textValue();
+}
+
+QStringList NameFilters(const QString& filter) {
+  const QStringList parts = filter.split(u'|');
+  QStringList result;
+  for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+    QStringList patterns = parts[i + 1].split(u';', Qt::SkipEmptyParts);
+    // Here a name needs no full stop.
+    for (QString& pattern : patterns)
+      if ((pattern = pattern.trimmed()) == QLatin1String("*.*")) pattern = QStringLiteral("*");
+    result += parts[i] + QStringLiteral(" (") + patterns.join(u' ') + u')';
+  }
+  return result;
+}
+
+std::optional<QString> AskForFile(FileDialogKind kind, const QString& filter, int filter_index, QString& folder) {
+  const QStringList filters = NameFilters(filter);
+  Asking<FileDialog> dialog;
+  if (!folder.isEmpty()) dialog->setDirectory(folder);
+  // Names alone: the columns would come too narrow, and their words not in Czech.
+  dialog->setViewMode(QFileDialog::List);
+  dialog->resize(kFileDialogSize);
+  // The captions name their patterns themselves.
+  dialog->setOption(QFileDialog::HideNameFilterDetails);
+  if (kind == FileDialogKind::kSave) {
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setFileMode(QFileDialog::AnyFile);
+    dialog->setOption(QFileDialog::DontConfirmOverwrite);
+  } else {
+    dialog->setFileMode(QFileDialog::ExistingFile);
+  }
+  dialog->setNameFilters(filters);
+  if (filter_index >= 1 && filter_index <= filters.size()) dialog->selectNameFilter(filters[filter_index - 1]);
+  if (!dialog.Accepted() || dialog->selectedUrls().isEmpty()) return std::nullopt;
+  // By its URL, which a dialog of the desktop's own may fill with bytes that are no UTF-8.
+  const QString path = PathToQString(PathOfUrl(dialog->selectedUrls().constFirst()));
+  folder = QFileInfo(path).path();
+  return path;
+}
+
+}  // namespace pelmar

@@ -1,0 +1,167 @@
+#include "platform/qt/filelists/file_list.h"
+
+#include <QElapsedTimer>
+#include <QKeyEvent>
+#include <QMetaMethod>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QStringListModel>
+#include <algorithm>
+
+#include "platform/qt/controls/first_choice.h"
+#include "platform/qt/convert.h"
+#include "platform/qt/folder_entries.h"
+
+namespace pelmar {
+namespace {
+
+// How long a change of the folder waits for others, in milliseconds, and how many times the length of a reading at
+// least: a folder of many files that changes all the time costs a tenth of the processor at most.
+constexpr int kSettle = 200;
+constexpr int kReadings = 10;
+
+}  // namespace
+
+// The names, which the rows show as a person reads them.
+class FileNames : public QStringListModel {
+ public:
+  using QStringListModel::QStringListModel;
+
+  [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override {
+    if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
+    return ShownPath(QStringListModel::data(index, Qt::EditRole).toString());
+  }
+};
+
+FileList::FileList(QWidget* parent)
+    : QListView(parent), names_(new FileNames(this)), path_(CurrentFolder()), pattern_(QStringLiteral("*.*")) {
+  setModel(names_);
+  setUniformItemSizes(true);
+  setEditTriggers(NoEditTriggers);
+  ChooseFirstByArrows(this);
+  connect(this, &QListView::clicked, this, [this] {
+    if (!click_told_) Q_EMIT FileClicked();
+  });
+  connect(this, &QListView::doubleClicked, this, &FileList::FileActivated);
+  settle_.setSingleShot(true);
+  settle_.setInterval(kSettle);
+  connect(&settle_, &QTimer::timeout, this, &FileList::ReadAnew);
+  connect(&watcher_, &QFileSystemWatcher::directoryChanged, this, [this] {
+    if (!settle_.isActive()) settle_.start();
+  });
+}
+
+void FileList::SetPath(const QString& path) {
+  if (path.isEmpty()) return;
+  const QString clean = CleanFolder(path);
+  if (!IsReadableFolder(clean)) return;
+  if (clean == path_) return read_ ? ReadAnew() : void();
+  path_ = clean;
+  Fill({});
+  Watch(isVisible());
+  Q_EMIT PathChanged(path_);
+}
+
+void FileList::SetPattern(const QString& pattern) {
+  const bool changed = pattern != pattern_;
+  pattern_ = pattern;
+  Fill(FileName());
+  if (changed) Q_EMIT PatternChanged(pattern_);
+}
+
+// By the selection: the view makes a row current that nobody chose when it comes into focus.
+QString FileList::FileName() const {
+  const QModelIndexList rows = selectionModel()->selectedIndexes();
+  return rows.isEmpty() ? QString() : names_->stringList().at(rows.constFirst().row());
+}
+
+void FileList::SetFileName(const QString& name) {
+  if (!read_) ReadAnew();
+  const QScopedValueRollback<bool> by_program(by_program_, true);
+  const auto row = static_cast<int>(names_->stringList().indexOf(name));
+  if (row < 0) return clearSelection();
+  selectionModel()->setCurrentIndex(names_->index(row), QItemSelectionModel::ClearAndSelect);
+}
+
+void FileList::Fill(const QString& selected) {
+  if (read_) Show(FilesOf(path_, pattern_), selected);
+}
+
+void FileList::Show(const QStringList& names, const QString& selected) {
+  const QScopedValueRollback<bool> by_program(by_program_, true);
+  names_->setStringList(names);
+  SetFileName(selected);
+}
+
+void FileList::ReadAnew() {
+  read_ = true;
+  QElapsedTimer clock;
+  clock.start();
+  QStringList names = FilesOf(path_, pattern_);
+  settle_.setInterval(qMax<int>(kSettle, static_cast<int>(clock.elapsed()) * kReadings));
+  const QString selected = FileName();
+  const bool gone = !selected.isEmpty() && !names.contains(selected);
+  if (gone) {
+    const auto follows = [old = names_->stringList(), &selected](const QString& name) {
+      return old.indexOf(name) > old.indexOf(selected);
+    };
+    names.insert(std::ranges::find_if(std::as_const(names), follows), selected);
+  }
+  if (names != names_->stringList()) {
+    const int scrolled = verticalScrollBar()->value();
+    Show(names, selected);
+    executeDelayedItemsLayout();  // which gives the bar its range
+    verticalScrollBar()->setValue(scrolled);
+  }
+  if (gone) Q_EMIT FileGone();
+}
+
+// The one folder, for as long as it is on show: what changes meanwhile is read when it comes back.
+void FileList::Watch(bool watch) {
+  if (const QStringList watched = watcher_.directories(); !watched.isEmpty()) watcher_.removePaths(watched);
+  settle_.stop();
+  if (watch) watcher_.addPath(path_);
+}
+
+void FileList::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+  QListView::selectionChanged(selected, deselected);
+  if (by_program_ || selected.isEmpty()) return;
+  click_told_ = true;
+  Q_EMIT FileClicked();
+}
+
+void FileList::mousePressEvent(QMouseEvent* event) {
+  click_told_ = false;
+  QListView::mousePressEvent(event);
+}
+
+void FileList::mouseDoubleClickEvent(QMouseEvent* event) {
+  // Its release would count as one click more, when whoever listened has long acted.
+  click_told_ = true;
+  QListView::mouseDoubleClickEvent(event);
+}
+
+void FileList::keyPressEvent(QKeyEvent* event) {
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (!enter) return QListView::keyPressEvent(event);
+  if (FileName().isEmpty() || !isSignalConnected(QMetaMethod::fromSignal(&FileList::FileActivated))) {
+    event->ignore();
+    return;
+  }
+  event->accept();
+  Q_EMIT FileActivated();
+}
+
+void FileList::showEvent(QShowEvent* event) {
+  QListView::showEvent(event);
+  if (event->spontaneous()) return;
+  Watch(true);
+  ReadAnew();
+}
+
+void FileList::hideEvent(QHideEvent* event) {
+  QListView::hideEvent(event);
+  if (!event->spontaneous()) Watch(false);
+}
+
+}  // namespace pelmar

@@ -1,0 +1,164 @@
+#include "platform/qt/filelists/folder_list.h"
+
+#include <QAbstractListModel>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QStyledItemDelegate>
+#include <vector>
+
+#include "platform/qt/convert.h"
+#include "platform/qt/folder_entries.h"
+
+namespace pelmar {
+
+// The rows, each with its depth below the root. The folder's subfolders stand behind the open ones on the way to it.
+class FolderModel : public QAbstractListModel {
+ public:
+  enum Role { kPath = Qt::UserRole, kDepth };
+
+  explicit FolderModel(QListView* view)
+      : QAbstractListModel(view),
+        open_(view->style()->standardIcon(QStyle::SP_DirOpenIcon)),
+        closed_(view->style()->standardIcon(QStyle::SP_DirClosedIcon)) {}
+
+  // Returns the row of the folder itself.
+  int Show(const QString& path) {
+    beginResetModel();
+    rows_.assign(1, {QStringLiteral("/"), QStringLiteral("/")});
+    QString below;
+    for (const QString& name : path.split(u'/', Qt::SkipEmptyParts)) {
+      below += u'/' + name;
+      rows_.push_back({name, below});
+    }
+    open_rows_ = static_cast<int>(rows_.size());
+    for (const QString& name : SubfoldersOf(path)) rows_.push_back({name, below + u'/' + name});
+    endResetModel();
+    return open_rows_ - 1;
+  }
+
+  [[nodiscard]] int RowOf(const QString& path) const {
+    for (std::size_t row = 0; row < rows_.size(); ++row)
+      if (rows_[row].path == path) return static_cast<int>(row);
+    return -1;
+  }
+
+  [[nodiscard]] int rowCount(const QModelIndex& parent) const override {
+    return parent.isValid() ? 0 : static_cast<int>(rows_.size());
+  }
+
+  [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override {
+    if (!index.isValid()) return {};
+    const Row& row = rows_[static_cast<std::size_t>(index.row())];
+    switch (role) {
+      case Qt::DisplayRole:
+        return ShownPath(row.name);
+      case Qt::DecorationRole:
+        return index.row() < open_rows_ ? open_ : closed_;
+      case Qt::ToolTipRole:
+      case Qt::AccessibleDescriptionRole:
+        return ShownPath(row.path);
+      case kPath:
+        return row.path;
+      case kDepth:
+        return qMin(index.row(), open_rows_);
+      default:
+        return {};
+    }
+  }
+
+ private:
+  struct Row {
+    QString name, path;
+  };
+  std::vector<Row> rows_;
+  int open_rows_ = 0;
+  QIcon open_, closed_;
+};
+
+namespace {
+
+class IndentingDelegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    QStyleOptionViewItem indented = option;
+    const int indent = IndentOf(option, index);
+    indented.rect.adjust(option.direction == Qt::RightToLeft ? 0 : indent, 0,
+                         option.direction == Qt::RightToLeft ? -indent : 0, 0);
+    QStyledItemDelegate::paint(painter, indented, index);
+  }
+
+  [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    return QStyledItemDelegate::sizeHint(option, index) + QSize(IndentOf(option, index), 0);
+  }
+
+ private:
+  static int IndentOf(const QStyleOptionViewItem& option, const QModelIndex& index) {
+    return index.data(FolderModel::kDepth).toInt() * option.fontMetrics.averageCharWidth() * 3 / 2;
+  }
+};
+
+// The nearest folder on the way up that can be read.
+QString Climb(QString path) {
+  while (!IsReadableFolder(path) && path != QLatin1String("/")) path = QFileInfo(path).path();
+  return path;
+}
+
+}  // namespace
+
+FolderList::FolderList(QWidget* parent) : QListView(parent), model_(new FolderModel(this)) {
+  setModel(model_);
+  setItemDelegate(new IndentingDelegate(this));
+  setEditTriggers(NoEditTriggers);
+  connect(this, &QListView::doubleClicked, this, &FolderList::EnterHighlighted);
+  path_ = Climb(CurrentFolder());
+}
+
+void FolderList::SetPath(const QString& path) {
+  if (path.isEmpty()) return;
+  const QString clean = CleanFolder(path);
+  if (!IsReadableFolder(clean)) return;
+  const bool changed = clean != path_;
+  path_ = clean;
+  Fill(path_);
+  if (changed) Q_EMIT PathChanged(path_);
+}
+
+QString FolderList::HighlightedPath() const {
+  return currentIndex().isValid() ? currentIndex().data(FolderModel::kPath).toString() : path_;
+}
+
+void FolderList::Fill(const QString& highlighted) {
+  if (!read_) return;
+  const int own_row = model_->Show(path_);
+  const int row = model_->RowOf(highlighted);
+  setCurrentIndex(model_->index(row >= 0 ? row : own_row, 0));
+}
+
+void FolderList::keyPressEvent(QKeyEvent* event) {
+  if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) return QListView::keyPressEvent(event);
+  // Accepted, or the dialog's default button would act as well.
+  event->accept();
+  EnterHighlighted();
+}
+
+void FolderList::EnterHighlighted() {
+  if (IsReadableFolder(HighlightedPath())) return SetPath(HighlightedPath());
+  Fill(path_);
+}
+
+void FolderList::keyReleaseEvent(QKeyEvent* event) {
+  QListView::keyReleaseEvent(event);
+  if (!event->isAutoRepeat()) Q_EMIT KeyReleased();
+}
+
+void FolderList::showEvent(QShowEvent* event) {
+  QListView::showEvent(event);
+  if (event->spontaneous()) return;
+  read_ = true;
+  if (const QString there = Climb(path_); there != path_) return SetPath(there);
+  Fill(HighlightedPath());
+}
+
+}  // namespace pelmar

@@ -1,0 +1,58 @@
+#include "platform/qt/frames/asker.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QPointer>
+#include <QWidget>
+#include <QWindow>
+#include <algorithm>
+
+#include "platform/qt/frames/outer_geometry.h"
+
+namespace pelmar {
+namespace {
+
+QPointer<QWidget>& Expected() {
+  static QPointer<QWidget> expected;
+  return expected;
+}
+
+}  // namespace
+
+QWidget* Asker() {
+  if (QWidget* expected = Expected(); expected != nullptr && expected->isVisible()) return expected;
+  if (QWidget* active = QApplication::activeWindow()) return active;
+  if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+  const QWidgetList windows = QApplication::topLevelWidgets();
+  const auto editor = std::find_if(windows.begin(), windows.end(), [](const QWidget* window) {
+    return window->objectName() == QLatin1String("Main") && window->isVisible() && !window->isMinimized();
+  });
+  return editor == windows.end() ? nullptr : *editor;
+}
+
+void ExpectActive(QWidget* window) {
+  // From when a window has the keyboard on, that is the one.
+  static const auto forgets =
+      QObject::connect(qApp, &QGuiApplication::focusWindowChanged, qApp, [](const QWindow* now) {
+        if (now != nullptr) Expected() = nullptr;
+      });
+  Q_UNUSED(forgets);
+  Expected() = window;
+  if (window != nullptr && window->isVisible()) window->activateWindow();
+}
+
+bool HasWindowOnTop() {
+  return std::ranges::any_of(QApplication::topLevelWidgets(), [](const QWidget* one) {
+    if (!one->isVisible() || qobject_cast<const QDialog*>(one)) return false;
+    const QWindow* system = one->windowHandle();
+    return (system != nullptr ? system->flags() : one->windowFlags()).testFlag(Qt::WindowStaysOnTopHint);
+  });
+}
+
+void PutAboveAll(QWidget& dialog) { SetAlwaysOnTop(dialog, HasWindowOnTop()); }
+
+void ShowOnAskersScreen(QWidget& window) {
+  if (const QWidget* asker = Asker()) window.setScreen(asker->screen());
+}
+
+}  // namespace pelmar

@@ -1,0 +1,98 @@
+#include "platform/qt/frames/outer_geometry.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QWidget>
+#include <QWindow>
+
+namespace pelmar {
+namespace {
+
+// False also while a widget is only about to be shown.
+bool Mapped(const QWidget& window) { return window.windowHandle() != nullptr && window.windowHandle()->isVisible(); }
+
+// Asked of the system window, because the widget's own notion of its frame can be that of before the mapping.
+QMargins Frame(const QWidget& window) { return Mapped(window) ? window.windowHandle()->frameMargins() : QMargins(); }
+
+QRect Outer(const QWidget& window) {
+  if (!Mapped(window)) return {window.pos(), window.size()};
+  return window.geometry().marginsAdded(Frame(window));
+}
+
+TwipsRect InTwips(const QRect& pixels) {
+  return {TwipsOf(pixels.left()), TwipsOf(pixels.top()), TwipsOf(pixels.width()), TwipsOf(pixels.height())};
+}
+
+void MoveOuter(QWidget& window, QPoint top_left) {
+  if (Mapped(window)) return window.windowHandle()->setFramePosition(top_left);
+  window.move(top_left);
+}
+
+}  // namespace
+
+TwipsRect OuterGeometry(const QWidget& window) { return InTwips(Outer(window)); }
+
+void SetOuterPosition(QWidget& window, int left, int top) { MoveOuter(window, {PixelsOf(left), PixelsOf(top)}); }
+
+void SetOuterWidth(QWidget& window, int twips) {
+  const QMargins frame = Frame(window);
+  window.resize(PixelsOf(twips) - frame.left() - frame.right(), window.height());
+}
+
+void SetOuterHeight(QWidget& window, int twips) {
+  const QMargins frame = Frame(window);
+  window.resize(window.width(), PixelsOf(twips) - frame.top() - frame.bottom());
+}
+
+void SetOuterPlace(QWidget& window, const TwipsRect& place) {
+  const TwipsRect now = OuterGeometry(window);
+  if (place.width != now.width) SetOuterWidth(window, place.width);
+  if (place.height != now.height) SetOuterHeight(window, place.height);
+  if (place.left != now.left || place.top != now.top) SetOuterPosition(window, place.left, place.top);
+}
+
+TwipsRect ScreenTwips(const QWidget& window) { return InTwips(window.screen()->geometry()); }
+
+TwipsRect ScreenTwips(const TwipsRect& place) {
+  const QPoint middle(PixelsOf(place.left + place.width / 2), PixelsOf(place.top + place.height / 2));
+  const QScreen* screen = QGuiApplication::screenAt(middle);
+  return InTwips((screen != nullptr ? screen : QGuiApplication::primaryScreen())->geometry());
+}
+
+QSize RoomOnScreen(const QWidget& window) {
+  constexpr QSize kUsualFrame(8, 32);  // the window's own isn't known yet
+  return window.screen()->availableGeometry().size() - kUsualFrame;
+}
+
+void MoveAside(QWidget& window, const QRect& place) {
+  const QRect outer = Outer(window);
+  if (!outer.intersects(place)) return;
+  const QRect free = window.screen()->availableGeometry();
+  // Below and above first: what lies beside a line goes on there.
+  const QPoint corners[] = {{outer.left(), place.bottom() + 1},
+                            {outer.left(), place.top() - outer.height()},
+                            {place.right() + 1, outer.top()},
+                            {place.left() - outer.width(), outer.top()}};
+  for (const QPoint corner : corners)
+    if (free.contains(QRect(corner, outer.size()))) return MoveOuter(window, corner);
+}
+
+int WidthOfTitle(const QWidget& window) {
+  constexpr int kFrameButtons = 140;
+  return window.fontMetrics().horizontalAdvance(window.windowTitle()) + kFrameButtons;
+}
+
+void BringToFront(QWidget& window) {
+  window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+  window.show();
+  window.raise();
+  window.activateWindow();
+}
+
+void SetAlwaysOnTop(QWidget& window, bool on_top) {
+  // The widget's own call would hide a window on show; the system window's doesn't.
+  if (window.windowHandle() != nullptr) return window.windowHandle()->setFlag(Qt::WindowStaysOnTopHint, on_top);
+  window.setWindowFlag(Qt::WindowStaysOnTopHint, on_top);
+}
+
+}  // namespace pelmar

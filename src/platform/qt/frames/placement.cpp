@@ -1,0 +1,124 @@
+#include "platform/qt/frames/placement.h"
+
+#include <QEvent>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QWidget>
+#include <QWindow>
+#include <algorithm>
+#include <chrono>
+
+namespace pelmar {
+namespace {
+
+// How long a window manager may take, and how often the window is looked at meanwhile.
+constexpr std::chrono::milliseconds kPatience(500);
+constexpr std::chrono::milliseconds kPoll(20);
+// An answer to an earlier wish, or a step on the way into the frame, may make a window seem to be where it isn't going
+// to stay.
+constexpr int kOftenEnough = 20;
+
+// The frame that a new window will most likely get: that of another one of ours.
+QMargins UsualFrame() {
+  const QWindowList windows = QGuiApplication::topLevelWindows();
+  for (const QWindow* window : windows)
+    if (window->isVisible() && !window->frameMargins().isNull()) return window->frameMargins();
+  return {};
+}
+
+// A window manager puts the window into a frame of one pixel first, whose right side lies left of the window's.
+bool IsMade(const QMargins& frame) { return std::min({frame.left(), frame.top(), frame.right(), frame.bottom()}) >= 0; }
+
+TwipsRect OnPixels(const TwipsRect& place) {
+  const auto on_pixel = [](int twips) { return TwipsOf(PixelsOf(twips)); };
+  return {on_pixel(place.left), on_pixel(place.top), on_pixel(place.width), on_pixel(place.height)};
+}
+
+TwipsRect InTheMiddle(const QWidget& window, const TwipsRect& now) {
+  QRect outer(0, 0, PixelsOf(now.width), PixelsOf(now.height));
+  outer.moveCenter(window.screen()->geometry().center());
+  // A window larger than what the panels leave keeps its title bar in sight.
+  const QRect free = window.screen()->availableGeometry();
+  const QPoint last = free.bottomRight() - outer.bottomRight() + outer.topLeft();
+  return {TwipsOf(std::max(std::min(outer.left(), last.x()), free.left())),
+          TwipsOf(std::max(std::min(outer.top(), last.y()), free.top())), now.width, now.height};
+}
+
+}  // namespace
+
+Placement::Placement(QWidget& window, Wish wish, Trust trust)
+    : QObject(&window), window_(window), wish_(std::move(wish)), trust_(trust) {
+  timer_.setInterval(kPoll);
+  connect(&timer_, &QTimer::timeout, this, &Placement::Look);
+}
+
+void Placement::Begin(const QMargins& left, bool maximised) {
+  left_ = left;
+  maximised_ = maximised;
+  met_ = 0;
+  mapped_ = false;
+  window_.installEventFilter(this);
+  if (!window_.isVisible()) return;
+  timer_.start();
+  Look();
+}
+
+bool Placement::eventFilter(QObject*, QEvent* event) {
+  if (event->type() == QEvent::Show && !event->spontaneous()) timer_.start();
+  if (event->type() == QEvent::Hide && !event->spontaneous() && timer_.isActive()) End();
+  return false;
+}
+
+void Placement::Look() {
+  const QWindow* system = window_.windowHandle();
+  if (system == nullptr || !system->isVisible()) return;
+  if (!mapped_) deadline_.setRemainingTime(kPatience);
+  mapped_ = true;
+  const bool late = deadline_.hasExpired();
+  const QMargins frame = system->frameMargins();
+  if (!late && (frame == left_ || !IsMade(frame))) return;
+  if (!window_.isMinimized()) Apply();
+  if (!frame_known_) {
+    frame_known_ = true;
+    if (on_frame) on_frame();
+  }
+  const bool trusted = trust_ == Trust::kFirst && left_.isNull();
+  if (late || met_ >= (trusted ? 1 : kOftenEnough)) End();
+}
+
+void Placement::Apply() {
+  const TwipsRect now = OuterGeometry(window_);
+  const TwipsRect wanted = OnPixels(wish_(now));
+  const bool met = maximised_ ? window_.isMaximized() : now == wanted && !window_.isMaximized();
+  met_ = met ? met_ + 1 : 0;
+  if (met) return;
+  if (maximised_) return window_.showMaximized();
+  if (!window_.isMaximized()) SetOuterPlace(window_, wanted);
+}
+
+void Placement::End() {
+  timer_.stop();
+  window_.removeEventFilter(this);
+  if (on_end) on_end();
+}
+
+void CentreOnScreen(QWidget& window) {
+  const QMargins frame = UsualFrame();
+  const QSize expected = window.size().grownBy(frame);
+  const TwipsRect place = InTheMiddle(window, {0, 0, TwipsOf(expected.width()), TwipsOf(expected.height())});
+  // What is asked for before there is a frame comes to be the place of the inner area, or else of the frame.
+  const QPoint asked(PixelsOf(place.left) + frame.left(), PixelsOf(place.top) + frame.top());
+  window.move(asked);
+  auto* placement = new Placement(
+      window,
+      [&window, asked](const TwipsRect& now) {
+        const QPoint outer(PixelsOf(now.left), PixelsOf(now.top));
+        // Whoever has moved it meanwhile has the last word.
+        return outer == asked || window.geometry().topLeft() == asked ? InTheMiddle(window, now) : now;
+      },
+      Placement::Trust::kLasting);
+  placement->on_end = [placement] { placement->deleteLater(); };
+  placement->Begin();
+}
+
+}  // namespace pelmar

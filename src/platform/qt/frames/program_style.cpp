@@ -1,0 +1,230 @@
+#include "platform/qt/frames/program_style.h"
+
+#include <QAbstractItemView>
+#include <QDialogButtonBox>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPainter>
+#include <QPushButton>
+#include <QScreen>
+#include <QStyleOptionMenuItem>
+#include <QToolButton>
+#include <algorithm>
+#include <cmath>
+
+#include "platform/qt/frames/svg_icon.h"
+
+namespace pelmar {
+namespace {
+
+// How much of the colour of texts is mixed into that of the ground, in percent, for the contrast wanted: the relation
+// of two luminances, from 1 for the same to 21 for black on white.
+constexpr double kReadable = 4.5;
+constexpr double kVisible = 3.7;  // above the 3 that a sign needs, since its edge is blurred
+constexpr double kSeen = 3;       // what is off is to be seen, and to be told from what is on
+constexpr double kLine = 2;
+constexpr double kMarked = 1.5;  // a ground that a text stands on
+constexpr int kSteps = 20;
+
+double Luminance(const QColor& color) {
+  const auto linear = [](double part) {
+    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+double Contrast(const QColor& one, const QColor& other) {
+  const double a = Luminance(one), b = Luminance(other);
+  return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+}
+
+QColor Mixed(const QColor& ground, const QColor& text, double share) {
+  const auto mix = [share](double from, double to) { return static_cast<float>(from + (to - from) * share); };
+  return QColor::fromRgbF(mix(ground.redF(), text.redF()), mix(ground.greenF(), text.greenF()),
+                          mix(ground.blueF(), text.blueF()));
+}
+
+// The colour between the two that is just strong enough.
+QColor OfContrast(double wanted, const QColor& ground, const QColor& text) {
+  for (int step = 1; step < kSteps; ++step)
+    if (const QColor mixed = Mixed(ground, text, static_cast<double>(step) / kSteps); Contrast(ground, mixed) >= wanted)
+      return mixed;
+  return text;
+}
+
+bool HasKeyboard(const QWidget* widget) { return widget != nullptr && widget->hasFocus() && widget->isActiveWindow(); }
+
+// Enter presses it instead of the window's default button.
+bool TakesEnter(const QWidget* widget) {
+  return qobject_cast<const QPushButton*>(widget) || qobject_cast<const QToolButton*>(widget);
+}
+
+// An item of a menu that fits the screen so, down to the height of its letters: the toolkit would put the last items
+// into a second column.
+int HeightInMenu(const QMenu& menu, int usual) {
+  constexpr int kSeparator = 8, kFrame = 8;
+  int items = 0, around = kFrame;
+  for (const QAction* action : menu.actions()) {
+    if (!action->isVisible()) continue;
+    if (action->isSeparator())
+      around += kSeparator;
+    else
+      ++items;
+  }
+  const int fitting = (menu.screen()->availableGeometry().height() - around) / std::max(items, 1);
+  return std::min(usual, std::max(fitting, menu.fontMetrics().height()));
+}
+
+void DrawKeyboardFrame(QPainter& painter, const QStyleOption& option) {
+  painter.setPen(option.palette.color(QPalette::Highlight));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRect(option.rect.adjusted(0, 0, -1, -1));
+}
+
+}  // namespace
+
+QIcon ProgramStyle::standardIcon(StandardPixmap picture, const QStyleOption* option, const QWidget* widget) const {
+  if (picture == SP_ToolBarHorizontalExtensionButton) return SvgIcon(QStringLiteral(":/icons/more.svg"));
+  if (picture == SP_ToolBarVerticalExtensionButton) return SvgIcon(QStringLiteral(":/icons/more_below.svg"));
+  return QProxyStyle::standardIcon(picture, option, widget);
+}
+
+int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                            QStyleHintReturn* answer) const {
+  // The buttons of message boxes look and stand like those of the program's own dialogs.
+  if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+  if (hint == SH_DialogButtonLayout) return QDialogButtonBox::WinLayout;
+  // A turn of the wheel over the tabs is not a choice; the document behind would change, and its undo be gone.
+  if (hint == SH_TabBar_AllowWheelScrolling) return 0;
+  return QProxyStyle::styleHint(hint, option, widget, answer);
+}
+
+int ProgramStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
+  constexpr int kRoundDialog = 12, kBetween = 8;
+  const auto dialog = [](const QWidget* window) {
+    return window != nullptr && window->property(kRoomProperty).toBool();
+  };
+  switch (metric) {
+    case PM_LayoutLeftMargin:
+    case PM_LayoutTopMargin:
+    case PM_LayoutRightMargin:
+    case PM_LayoutBottomMargin:
+      if (dialog(widget)) return kRoundDialog;
+      break;
+    case PM_LayoutHorizontalSpacing:
+    case PM_LayoutVerticalSpacing:
+      if (widget != nullptr && dialog(widget->window())) return kBetween;
+      break;
+    default:
+      break;
+  }
+  return QProxyStyle::pixelMetric(metric, option, widget);
+}
+
+QSize ProgramStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                                     const QWidget* widget) const {
+  QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+  // The usual style widens short captions and lets long ones touch the rim.
+  constexpr int kBesideCaption = 12;
+  const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+  if (type == CT_PushButton && button != nullptr && !button->text.isEmpty())
+    size.setWidth(std::max(size.width(), contents.width() + 2 * kBesideCaption));
+  const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+  const auto* menu = qobject_cast<const QMenu*>(widget);
+  if (type == CT_MenuItem && menu != nullptr && item != nullptr &&
+      item->menuItemType != QStyleOptionMenuItem::Separator)
+    size.setHeight(HeightInMenu(*menu, size.height()));
+  return size;
+}
+
+void ProgramStyle::polish(QPalette& palette) {
+  QProxyStyle::polish(palette);
+  const auto text = [&palette](QPalette::ColorRole role) { return palette.color(QPalette::Active, role); };
+  const auto lift = [&](QPalette::ColorRole role, QPalette::ColorRole ground, double wanted) {
+    const QColor on = palette.color(QPalette::Disabled, ground);
+    if (Contrast(on, palette.color(QPalette::Disabled, role)) < wanted)
+      palette.setColor(QPalette::Disabled, role, OfContrast(wanted, on, text(QPalette::WindowText)));
+  };
+  // A search puts its fields off just when the person decides by what stands in them.
+  lift(QPalette::Text, QPalette::Base, kReadable);
+  const QColor marked = OfContrast(kMarked, palette.color(QPalette::Disabled, QPalette::Base), text(QPalette::Text));
+  palette.setColor(QPalette::Disabled, QPalette::Highlight, marked);
+  palette.setColor(QPalette::Disabled, QPalette::HighlightedText, OfContrast(kReadable, marked, text(QPalette::Text)));
+  lift(QPalette::WindowText, QPalette::Window, kSeen);
+  lift(QPalette::ButtonText, QPalette::Button, kSeen);
+  // Some desktops with a dark look leave it black. Tabs show it on the button's colour, which is the harder ground.
+  const QColor hint = OfContrast(kReadable, text(QPalette::Button), text(QPalette::ButtonText));
+  palette.setColor(QPalette::PlaceholderText, hint);
+  // The lines of the program's own controls, on a window's ground or a field's.
+  palette.setColor(QPalette::Mid, OfContrast(kLine, text(QPalette::Window), text(QPalette::WindowText)));
+  // Tips stay light yellow on some desktops with a dark look.
+  if (Luminance(text(QPalette::Window)) > Luminance(text(QPalette::WindowText))) return;
+  palette.setColor(QPalette::ToolTipBase, text(QPalette::Window));
+  palette.setColor(QPalette::ToolTipText, text(QPalette::WindowText));
+}
+
+void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                                 const QWidget* widget) const {
+  const auto* box = qstyleoption_cast<const QStyleOptionButton*>(option);
+  if (element == PE_PanelButtonCommand && box != nullptr && widget != nullptr)
+    return DrawPushButton(*box, *painter, *widget);
+  if ((element != PE_IndicatorCheckBox && element != PE_IndicatorRadioButton) || box == nullptr)
+    return QProxyStyle::drawPrimitive(element, option, painter, widget);
+  // The usual style darkens the ground by a third or more for the rim, which on a dark one can't be seen.
+  const int darkens = element == PE_IndicatorRadioButton ? 150 : 127;
+  QStyleOptionButton rimmed(*box);
+  const QColor rim = OfContrast(kVisible, box->palette.color(QPalette::Window),
+                                box->palette.color(QPalette::Active, QPalette::WindowText));
+  rimmed.palette.setColor(QPalette::Window, rim.lighter(darkens));
+  QProxyStyle::drawPrimitive(element, &rimmed, painter, widget);
+}
+
+void ProgramStyle::DrawPushButton(QStyleOptionButton button, QPainter& painter, const QWidget& widget) const {
+  if (const QWidget* focus = widget.window()->focusWidget(); focus != &widget && TakesEnter(focus))
+    button.features &= ~QStyleOptionButton::DefaultButton;
+  QProxyStyle::drawPrimitive(PE_PanelButtonCommand, &button, &painter, &widget);
+  if (!button.state.testFlag(State_HasFocus) || !button.state.testFlag(State_KeyboardFocusChange)) return;
+  painter.save();
+  painter.setPen(QPen(button.palette.color(QPalette::Highlight), 2));
+  painter.setBrush(Qt::NoBrush);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.drawRoundedRect(QRectF(button.rect).adjusted(2, 2, -2, -2), 2, 2);
+  painter.restore();
+}
+
+void ProgramStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                               const QWidget* widget) const {
+  // A title of the menu bar that the keyboard is at, with no menu open, as behind an Escape.
+  const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+  if (element == CE_MenuBarItem && item != nullptr && item->state.testFlag(State_Selected) &&
+      qobject_cast<const QMenuBar*>(widget) && HasKeyboard(widget)) {
+    QStyleOptionMenuItem chosen(*item);
+    chosen.state |= State_Sunken;
+    return QProxyStyle::drawControl(element, &chosen, painter, widget);
+  }
+  if (const auto* box = qstyleoption_cast<const QStyleOptionComboBox*>(option); element == CE_ComboBoxLabel && box) {
+    QStyleOptionComboBox fitting(*box);
+    const int room = subControlRect(CC_ComboBox, box, SC_ComboBoxEditField, widget).width() - 2;
+    fitting.currentText = box->fontMetrics.elidedText(box->currentText, Qt::ElideMiddle, room);
+    return QProxyStyle::drawControl(element, &fitting, painter, widget);
+  }
+  QProxyStyle::drawControl(element, option, painter, widget);
+  if (element == CE_ShapedFrame && qobject_cast<const QAbstractItemView*>(widget) && HasKeyboard(widget))
+    DrawKeyboardFrame(*painter, *option);
+}
+
+void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                                      const QWidget* widget) const {
+  QProxyStyle::drawComplexControl(control, option, painter, widget);
+  // A bar that stands for a value; those of lists and texts never have the keyboard.
+  if (control != CC_ScrollBar || widget == nullptr || widget->focusPolicy() == Qt::NoFocus) return;
+  const QPalette& palette = option->palette;
+  painter->setPen(widget->isEnabled() ? OfContrast(kVisible, palette.color(QPalette::Window),
+                                                   palette.color(QPalette::Active, QPalette::WindowText))
+                                      : palette.color(QPalette::Mid));
+  painter->setBrush(Qt::NoBrush);
+  painter->drawRect(subControlRect(CC_ScrollBar, option, SC_ScrollBarSlider, widget).adjusted(0, 0, -1, -1));
+  if (HasKeyboard(widget)) DrawKeyboardFrame(*painter, *option);
+}
+
+}  // namespace pelmar

@@ -1,0 +1,195 @@
+// The multi-line text control of the whole program: shows and edits a TextBuffer of Windows-1250 bytes.
+// Parts of it live in classes of their own: TextView (layout), TextPainter, CaretMover and text_keys (keyboard),
+// TextMouse, TextDrop, TextComposer (input methods), CaretBlink, TextBoxAccessible. This class holds them together.
+// Positions are byte offsets from 0 and clipped to the text. Setters written in lower camel case are properties by the
+// toolkit's custom, because forms call them under these names.
+#pragma once
+
+#include <QAbstractScrollArea>
+#include <QByteArray>
+#include <QColor>
+#include <functional>
+#include <memory>
+#include <optional>
+
+#include "platform/qt/textbox/caret_blink.h"
+#include "platform/qt/textbox/text_composer.h"
+#include "platform/qt/textbox/text_drop.h"
+#include "platform/qt/textbox/text_keys.h"
+#include "platform/qt/textbox/text_mouse.h"
+#include "platform/qt/textbox/text_painter.h"
+#include "platform/qt/textbox/text_view.h"
+#include "text/text_buffer.h"
+
+namespace pelmar {
+
+class TextBoxTeller;
+
+class TextBox : public QAbstractScrollArea {
+  Q_OBJECT
+  Q_PROPERTY(QByteArray Text READ Text WRITE SetText NOTIFY TextChanged USER true)
+  Q_PROPERTY(int SelStart READ SelStart WRITE SetSelStart NOTIFY SelectionChanged)
+  Q_PROPERTY(int SelLength READ SelLength WRITE SetSelLength NOTIFY SelectionChanged)
+  Q_PROPERTY(QByteArray SelText READ SelText WRITE SetSelText)
+  Q_PROPERTY(bool readOnly READ IsReadOnly WRITE setReadOnly)
+  Q_PROPERTY(bool wordWrap READ WordWrap WRITE setWordWrap)
+  Q_PROPERTY(Qt::Alignment alignment READ Alignment WRITE setAlignment)
+  Q_PROPERTY(QColor textColor READ TextColor WRITE setTextColor)
+  Q_PROPERTY(QColor backgroundColor READ BackgroundColor WRITE setBackgroundColor)
+  Q_PROPERTY(bool standardShortcuts READ StandardShortcuts WRITE setStandardShortcuts)
+  Q_PROPERTY(bool tabChangesFocus READ TabChangesFocus WRITE setTabChangesFocus)
+  Q_PROPERTY(bool tabSelectsAll READ TabSelectsAll WRITE setTabSelectsAll)
+
+ public:
+  explicit TextBox(QWidget* parent = nullptr);
+  ~TextBox() override;
+
+  [[nodiscard]] TextBuffer& Buffer() { return *buffer_; }
+  [[nodiscard]] const TextBuffer& Buffer() const { return *buffer_; }
+  // Shows a buffer that somebody else owns and that outlives this control or the next call.
+  void UseBuffer(TextBuffer& buffer);
+
+  [[nodiscard]] QByteArray Text() const;
+  void SetText(const QByteArray& text);
+  [[nodiscard]] int SelStart() const { return static_cast<int>(buffer_->SelStart()); }
+  void SetSelStart(int start);
+  [[nodiscard]] int SelLength() const { return static_cast<int>(buffer_->SelLength()); }
+  void SetSelLength(int length);
+  [[nodiscard]] QByteArray SelText() const;
+  void SetSelText(const QByteArray& text);
+
+  [[nodiscard]] bool IsReadOnly() const { return read_only_; }
+  void setReadOnly(bool read_only);
+  [[nodiscard]] bool WordWrap() const { return view_->Wraps(); }
+  void setWordWrap(bool wrap);
+  // Left, right or centre; anything else means left.
+  [[nodiscard]] Qt::Alignment Alignment() const;
+  void setAlignment(Qt::Alignment alignment);
+  // Colours of the palette hold where these are invalid.
+  [[nodiscard]] QColor TextColor() const { return text_color_; }
+  void setTextColor(const QColor& color);
+  [[nodiscard]] QColor BackgroundColor() const { return background_color_; }
+  void setBackgroundColor(const QColor& color);
+  // False where a menu owns Ctrl with letters.
+  [[nodiscard]] bool StandardShortcuts() const { return standard_shortcuts_; }
+  void setStandardShortcuts(bool standard) { standard_shortcuts_ = standard; }
+  // False: TAB is typed. Shift+TAB always goes to the field before, TAB in a read-only text to the next one.
+  [[nodiscard]] bool TabChangesFocus() const { return tab_changes_focus_; }
+  void setTabChangesFocus(bool changes) { tab_changes_focus_ = changes; }
+
+  // True: the whole text is selected when TAB leads here, as in a single-line field.
+  [[nodiscard]] bool TabSelectsAll() const { return tab_selects_all_; }
+  void setTabSelectsAll(bool selects) { tab_selects_all_ = selects; }
+
+  // True: while another window has the keyboard, a pale caret shows where that window's tools put their text.
+  void SetCaretStays(bool stays) { caret_stays_ = stays; }
+
+  // What a key does, for menus. Changes nothing where the text is read-only.
+  void Do(const TextKey& key);
+  // Inserts the text of a clipboard or drop, by the clipboard's rules. Nothing where there is none.
+  void Insert(const QMimeData* mime);
+
+  // Geometry for the parts, in pixels of the viewport.
+  [[nodiscard]] TextPlace PlaceAt(QPoint point) const;
+  [[nodiscard]] bool IsSelectedAt(QPoint point) const;
+  [[nodiscard]] QRect CaretRect() const;
+  [[nodiscard]] QRect CharRect(std::size_t pos) const;
+  // The caret alone, or the moving end of the selection.
+  void PutCaret(TextPlace place) { MoveCaret(place, false); }
+  void SelectTo(TextPlace place) { MoveCaret(place, true); }
+  void Select(TextSpan span, bool caret_first = false);
+  // Scrolls as little as shows a position, or the caret on the row that shows it.
+  void Reveal(std::size_t pos);
+  void RevealCaret();
+  // The row that holds a position, with the line's end where it ends one.
+  [[nodiscard]] TextSpan RowSpan(std::size_t pos) const;
+  // Offers the selection to the middle mouse button of other windows.
+  void PublishSelection();
+  // Where a drop would go, or nothing.
+  void ShowDropPlace(std::optional<TextPlace> place);
+
+ Q_SIGNALS:
+  void TextChanged();
+  void SelectionChanged();
+
+ public:
+  [[nodiscard]] QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
+
+ protected:
+  bool event(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void scrollContentsBy(int dx, int dy) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override { mouse_.Press(event); }
+  void mouseMoveEvent(QMouseEvent* event) override { mouse_.Move(event); }
+  void mouseReleaseEvent(QMouseEvent* event) override { mouse_.Release(event); }
+  void mouseDoubleClickEvent(QMouseEvent* event) override { mouse_.DoubleClick(event); }
+  void dragEnterEvent(QDragEnterEvent* event) override { drop_.Enter(event); }
+  void dragMoveEvent(QDragMoveEvent* event) override { drop_.Move(event); }
+  void dragLeaveEvent(QDragLeaveEvent* event) override { drop_.Leave(event); }
+  void dropEvent(QDropEvent* event) override { drop_.Drop(event); }
+
+ private:
+  void FollowChange(const TextChange& change);
+  void ShowChange(const TextChange& change);
+  void FollowSelection();
+  void UpdateRows(const RowsChange& rows);
+  void UpdateRowsOf(TextSpan span);
+  void MoveCaret(TextPlace place, bool select);
+  void RevealRect(QRect rect);
+  void UpdateScrollBars();
+  void Relayout();
+  void ShowAnew();
+  void GetReady();
+  [[nodiscard]] bool Showing() const { return ready_ && isVisible(); }
+  void KeepTopWhile(const std::function<void()>& change);
+  void ShowCaretAnew();
+  void Move(const TextKey& key);
+  void Edit(TextCommand command);
+  void CopySelection();
+  void PaintComposed(QPainter& painter);
+  [[nodiscard]] std::size_t PageRows() const;
+  [[nodiscard]] QPoint Scrolled() const;
+  [[nodiscard]] int CaretWidth() const;
+  [[nodiscard]] TextColours Colours() const;
+  [[nodiscard]] QColor Background() const;
+  // Where the caret's position is, and where composed text begins: there, or further left where it would not fit.
+  [[nodiscard]] QPoint CaretPoint() const;
+  [[nodiscard]] QPoint ComposedPoint() const;
+
+  std::unique_ptr<TextBuffer> own_buffer_;
+  TextBuffer* buffer_ = nullptr;
+  Listening changes_, moves_;
+  std::unique_ptr<TextView> view_;
+  CaretMover mover_;
+  CaretBlink blink_;
+  TextMouse mouse_;
+  TextDrop drop_;
+  TextComposer composer_;
+  std::unique_ptr<TextBoxTeller> teller_;
+  std::optional<TextPlace> drop_place_;
+  std::uint64_t shown_revision_ = 0;
+  TextSpan shown_selection_;
+  QRect shown_caret_;
+  QColor text_color_;
+  QColor background_color_;
+  bool read_only_ = false;
+  bool standard_shortcuts_ = true;
+  bool tab_changes_focus_ = false;
+  bool tab_selects_all_ = false;
+  bool caret_stays_ = false;
+  bool updating_bars_ = false;
+  bool ready_ = false;  // on the screen at least once
+};
+
+}  // namespace pelmar

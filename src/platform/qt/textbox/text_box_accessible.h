@@ -1,0 +1,73 @@
+// A text box as assistive technology sees it. Offsets are byte positions, as everywhere: each byte is one character.
+#pragma once
+
+#include <QAccessibleWidget>
+#include <string>
+
+#include "platform/qt/textbox/text_box.h"
+
+namespace pelmar {
+
+class TextBoxAccessible : public QAccessibleWidget,
+                          public QAccessibleTextInterface,
+                          public QAccessibleEditableTextInterface {
+ public:
+  explicit TextBoxAccessible(TextBox& box);
+
+  void* interface_cast(QAccessible::InterfaceType type) override;
+  [[nodiscard]] QAccessible::State state() const override;
+  [[nodiscard]] QString text(QAccessible::Text type) const override;
+  void setText(QAccessible::Text type, const QString& text) override;
+
+  void selection(int index, int* start, int* end) const override;
+  [[nodiscard]] int selectionCount() const override;
+  void addSelection(int start, int end) override;
+  void removeSelection(int index) override;
+  void setSelection(int index, int start, int end) override;
+  [[nodiscard]] int cursorPosition() const override;
+  void setCursorPosition(int position) override;
+  [[nodiscard]] QString text(int start, int end) const override;
+  QString textBeforeOffset(int offset, QAccessible::TextBoundaryType type, int* start, int* end) const override;
+  QString textAfterOffset(int offset, QAccessible::TextBoundaryType type, int* start, int* end) const override;
+  QString textAtOffset(int offset, QAccessible::TextBoundaryType type, int* start, int* end) const override;
+  [[nodiscard]] int characterCount() const override;
+  [[nodiscard]] QRect characterRect(int offset) const override;
+  [[nodiscard]] int offsetAtPoint(const QPoint& point) const override;
+  void scrollToSubstring(int start, int end) override;
+  QString attributes(int offset, int* start, int* end) const override;
+
+  void deleteText(int start, int end) override;
+  void insertText(int offset, const QString& text) override;
+  void replaceText(int start, int end, const QString& text) override;
+
+ private:
+  [[nodiscard]] TextSpan UnitAt(std::size_t pos, QAccessible::TextBoundaryType type) const;
+  QString Answer(TextSpan span, int* start, int* end) const;
+
+  TextBox& box_;
+};
+
+// Tells assistive technology of changes, while some is at work.
+class TextBoxTeller {
+ public:
+  explicit TextBoxTeller(TextBox& box) : box_(box) {}
+  virtual ~TextBoxTeller() = default;
+
+  void Changed(const TextChange& change);
+  void CaretMoved();
+  // Another text is shown.
+  void Forget();
+
+ protected:
+  [[nodiscard]] virtual bool IsHeard() const { return QAccessible::isActive(); }
+  virtual void Send(QAccessibleEvent& event) { QAccessible::updateAccessibility(&event); }
+
+ private:
+  void TellCaret();
+
+  TextBox& box_;
+  std::string told_;  // the text as last told: whoever listens wants to hear what was removed
+  bool knows_text_ = false;
+};
+
+}  // namespace pelmar

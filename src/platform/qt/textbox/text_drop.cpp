@@ -1,0 +1,110 @@
+#include "platform/qt/textbox/text_drop.h"
+
+#include <QDrag>
+#include <QMimeData>
+#include <QPointer>
+#include <QScrollBar>
+#include <algorithm>
+#include <string>
+
+#include "platform/qt/desktop/clipboard_text.h"
+#include "platform/qt/textbox/text_box.h"
+
+namespace pelmar {
+namespace {
+
+constexpr int kScrollBorder = 12;  // pixels at the edges in which dragging scrolls
+
+int ScrollSign(int at, int size) {
+  if (at < kScrollBorder) return -1;
+  return at >= size - kScrollBorder ? 1 : 0;
+}
+
+}  // namespace
+
+// Replaces the stretch from the selection to the target at once, so that one undo takes the move back.
+void MoveSelection(TextBuffer& buffer, std::size_t to, bool copy) {
+  const std::size_t begin = buffer.SelStart();
+  const std::size_t end = buffer.SelEnd();
+  const std::string moved(buffer.SelText());
+  const std::string& text = buffer.Text();
+  if (copy) {
+    buffer.Replace(to, 0, moved);
+  } else if (to < begin) {
+    buffer.Replace(to, end - to, moved + text.substr(to, begin - to));
+  } else if (to > end) {
+    buffer.Replace(begin, to - begin, text.substr(end, to - end) + moved);
+    to -= end - begin;
+  } else {
+    return;
+  }
+  buffer.Select(to, to + moved.size());
+}
+
+void TextDrop::StartDrag(TextBox& box) {
+  const QPointer<TextBox> guard(&box);
+  const std::string dragged(box.Buffer().SelText());
+  const std::size_t start = box.Buffer().SelStart();
+  auto* drag = new QDrag(&box);
+  drag->setMimeData(MimeFromText(dragged));
+  const Qt::DropActions offered = box.IsReadOnly() ? Qt::CopyAction : Qt::CopyAction | Qt::MoveAction;
+  const Qt::DropAction done = drag->exec(offered, box.IsReadOnly() ? Qt::CopyAction : Qt::MoveAction);
+  if (guard.isNull() || box.IsReadOnly() || done != Qt::MoveAction) return;
+  const QObject* target = drag->target();
+  if (target == &box || target == box.viewport()) return;  // Drop has moved it
+  if (box.Buffer().SelStart() == start && box.Buffer().SelText() == dragged) box.Buffer().ReplaceSelection({});
+}
+
+bool TextDrop::IsOwn(const QDropEvent& event) const {
+  return event.source() == &box_ || event.source() == box_.viewport();
+}
+
+bool TextDrop::Takes(const QDropEvent& event) const {
+  const QMimeData* mime = event.mimeData();
+  if (box_.IsReadOnly() || mime->hasUrls()) return false;
+  return mime->hasFormat(QString::fromLatin1(kBytesMimeType)) || mime->hasFormat(QStringLiteral("text/plain"));
+}
+
+void TextDrop::Accept(QDropEvent& event) const {
+  if (!IsOwn(event)) return event.acceptProposedAction();
+  const bool copy = event.modifiers().testFlag(Qt::ControlModifier);
+  event.setDropAction(copy ? Qt::CopyAction : Qt::MoveAction);
+  event.accept();
+}
+
+void TextDrop::Enter(QDragEnterEvent* event) {
+  if (!Takes(*event)) return event->ignore();
+  Accept(*event);
+}
+
+void TextDrop::Move(QDragMoveEvent* event) {
+  if (!Takes(*event)) return event->ignore();
+  const QPoint at = event->position().toPoint();
+  const QSize size = box_.viewport()->size();
+  QScrollBar* down = box_.verticalScrollBar();
+  QScrollBar* across = box_.horizontalScrollBar();
+  down->setValue(down->value() + ScrollSign(at.y(), size.height()) * down->singleStep());
+  across->setValue(across->value() + ScrollSign(at.x(), size.width()) * across->singleStep());
+  box_.ShowDropPlace(box_.PlaceAt(at));
+  Accept(*event);
+}
+
+void TextDrop::Leave(QDragLeaveEvent* /*event*/) { box_.ShowDropPlace(std::nullopt); }
+
+void TextDrop::Drop(QDropEvent* event) {
+  box_.ShowDropPlace(std::nullopt);
+  if (!Takes(*event)) return event->ignore();
+  Accept(*event);
+  const TextPlace place = box_.PlaceAt(event->position().toPoint());
+  if (IsOwn(*event)) {
+    MoveSelection(box_.Buffer(), place.pos, event->dropAction() == Qt::CopyAction);
+  } else {
+    box_.PutCaret(place);
+    box_.Insert(event->mimeData());
+    const std::size_t end = box_.Buffer().Caret();
+    box_.Select({place.pos, end});
+  }
+  box_.setFocus(Qt::MouseFocusReason);
+}
+
+}  // namespace pelmar

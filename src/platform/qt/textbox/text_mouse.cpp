@@ -1,0 +1,146 @@
+#include "platform/qt/textbox/text_mouse.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QInputMethod>
+#include <QScrollBar>
+#include <QStyleHints>
+#include <QTimerEvent>
+#include <algorithm>
+
+#include "platform/qt/textbox/text_box.h"
+
+namespace pelmar {
+namespace {
+
+constexpr int kScrollEveryMs = 40;
+
+// How far to scroll for a pointer at `at` outside of 0 to `size`: faster the farther it is.
+int Overshoot(int at, int size) {
+  if (at < 0) return at;
+  return at >= size ? at - size + 1 : 0;
+}
+
+}  // namespace
+
+void TextMouse::Press(QMouseEvent* event) {
+  QGuiApplication::inputMethod()->commit();
+  const QPoint at = event->position().toPoint();
+  if (event->button() == Qt::LeftButton) return PressLeft(event);
+  // What is selected stays for the pop-up menu to work on, wherever the menu is asked for.
+  if (event->button() == Qt::RightButton && !box_.Buffer().HasSelection()) box_.PutCaret(box_.PlaceAt(at));
+  if (event->button() != Qt::RightButton && event->button() != Qt::MiddleButton) event->ignore();
+}
+
+void TextMouse::PressLeft(QMouseEvent* event) {
+  const QPoint at = event->position().toPoint();
+  pressed_at_ = last_at_ = at;
+  unit_ = Unit::kChar;
+  if (event->pointerType() == QPointingDevice::PointerType::Finger) {
+    state_ = State::kTapping;
+    return;
+  }
+  state_ = State::kSelecting;
+  if (event->modifiers().testFlag(Qt::ShiftModifier)) return box_.SelectTo(box_.PlaceAt(at));
+  if (IsThirdClick(at)) return BeginUnit(Unit::kLine, at);
+  if (box_.IsSelectedAt(at)) {
+    state_ = State::kMayDrag;
+    return;
+  }
+  box_.PutCaret(box_.PlaceAt(at));
+}
+
+void TextMouse::DoubleClick(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return Press(event);
+  const QPoint at = event->position().toPoint();
+  pressed_at_ = last_at_ = at;
+  BeginUnit(Unit::kWord, at);
+  since_double_click_.start();
+}
+
+bool TextMouse::IsThirdClick(QPoint at) const {
+  return since_double_click_.isValid() && !since_double_click_.hasExpired(QApplication::doubleClickInterval()) &&
+         (at - pressed_at_).manhattanLength() < QApplication::startDragDistance();
+}
+
+void TextMouse::BeginUnit(Unit unit, QPoint at) {
+  state_ = State::kSelecting;
+  unit_ = unit;
+  origin_ = UnitAt(at);
+  box_.Select(origin_);
+}
+
+TextSpan TextMouse::UnitAt(QPoint at) const {
+  const TextBuffer& buffer = box_.Buffer();
+  const std::size_t pos = box_.PlaceAt(at).pos;
+  if (unit_ == Unit::kChar) return {pos, pos};
+  if (unit_ == Unit::kWord) {
+    // The character under the pointer counts, not the nearer border.
+    const bool right_half = pos > 0 && box_.CharRect(pos - 1).contains(at);
+    return WordAt(buffer.Text(), right_half ? pos - 1 : pos);
+  }
+  const std::size_t line = buffer.LineOf(pos);
+  return {buffer.LineStart(line), buffer.LineEnd(line)};
+}
+
+void TextMouse::Move(QMouseEvent* event) {
+  const QPoint at = event->position().toPoint();
+  if (!event->buttons().testFlag(Qt::LeftButton) || state_ == State::kIdle) return ShowPointer(at);
+  if (state_ == State::kTapping) return;
+  if (state_ == State::kMayDrag) {
+    if ((at - pressed_at_).manhattanLength() < QApplication::startDragDistance()) return;
+    state_ = State::kIdle;
+    return TextDrop::StartDrag(box_);
+  }
+  last_at_ = at;
+  Extend(at);
+  if (box_.viewport()->rect().contains(at)) {
+    scroll_timer_.stop();
+  } else if (!scroll_timer_.isActive()) {
+    scroll_timer_.start(kScrollEveryMs, this);
+  }
+}
+
+void TextMouse::Extend(QPoint at) {
+  if (unit_ == Unit::kChar) return box_.SelectTo(box_.PlaceAt(at));
+  const TextSpan here = UnitAt(at);
+  const TextSpan all{std::min(origin_.begin, here.begin), std::max(origin_.end, here.end)};
+  box_.Select(all, here.begin < origin_.begin);
+}
+
+void TextMouse::Release(QMouseEvent* event) {
+  const QPoint at = event->position().toPoint();
+  if (event->button() == Qt::LeftButton) {
+    scroll_timer_.stop();
+    const bool still = (at - pressed_at_).manhattanLength() < QApplication::startDragDistance();
+    if (state_ == State::kMayDrag || (state_ == State::kTapping && still)) box_.PutCaret(box_.PlaceAt(at));
+    if (state_ == State::kSelecting) box_.PublishSelection();
+    state_ = State::kIdle;
+    ShowPointer(at);
+    return;
+  }
+  QClipboard* clipboard = QGuiApplication::clipboard();
+  if (event->button() != Qt::MiddleButton || box_.IsReadOnly() || !clipboard->supportsSelection())
+    return event->ignore();
+  if (!box_.viewport()->rect().contains(at)) return;
+  box_.PutCaret(box_.PlaceAt(at));
+  box_.Insert(clipboard->mimeData(QClipboard::Selection));
+}
+
+void TextMouse::ShowPointer(QPoint at) {
+  const Qt::CursorShape shape = box_.IsSelectedAt(at) ? Qt::ArrowCursor : Qt::IBeamCursor;
+  if (box_.viewport()->cursor().shape() != shape) box_.viewport()->setCursor(shape);
+}
+
+void TextMouse::timerEvent(QTimerEvent* event) {
+  if (event->timerId() != scroll_timer_.timerId()) return QObject::timerEvent(event);
+  if (!box_.isActiveWindow()) return scroll_timer_.stop();  // another window gets the release
+  const QSize size = box_.viewport()->size();
+  QScrollBar* down = box_.verticalScrollBar();
+  QScrollBar* across = box_.horizontalScrollBar();
+  down->setValue(down->value() + Overshoot(last_at_.y(), size.height()));
+  across->setValue(across->value() + Overshoot(last_at_.x(), size.width()));
+  Extend(last_at_);
+}
+
+}  // namespace pelmar

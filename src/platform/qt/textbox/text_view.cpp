@@ -1,0 +1,84 @@
+#include "platform/qt/textbox/text_view.h"
+
+#include <algorithm>
+
+namespace pelmar {
+
+void TextView::Show(const TextBuffer& buffer) {
+  layout_ = TextLayout(buffer);
+  stale_ = true;
+}
+
+void TextView::SetFont(const QFont& font) {
+  if (glyphs_ && font == font_) return;
+  font_ = font;
+  glyphs_.reset();
+  stale_ = true;
+}
+
+void TextView::SetWrap(bool wrap) {
+  if (rules_.wrap == wrap) return;
+  rules_.wrap = wrap;
+  stale_ = true;
+}
+
+void TextView::SetAlign(TextAlign align) {
+  rules_.align = align;
+  layout_.SetAlign(align);
+}
+
+void TextView::SetWindowWidth(int width) {
+  rules_.width = std::max(width - 2 * kMargin, 1) * kUnitsPerPixel;
+  if (!stale_) layout_.SetWidth(rules_.width);
+}
+
+std::optional<RowsChange> TextView::Follow(const TextChange& change) {
+  if (stale_) return std::nullopt;
+  return layout_.Update(change);
+}
+
+const TextLayout& TextView::Layout() {
+  if (!stale_) return layout_;
+  SetWindowWidth(window_width_());
+  rules_.advances = Glyphs().Advances();
+  layout_.Lay(rules_);
+  stale_ = false;
+  return layout_;
+}
+
+const GlyphTable& TextView::Glyphs() {
+  if (!glyphs_) glyphs_ = std::make_unique<GlyphTable>(font_);
+  return *glyphs_;
+}
+
+QSize TextView::ContentSize() {
+  const TextLayout& layout = Layout();
+  // Without wrapping the caret has to find room behind the widest row.
+  const int width = WholePixelsBelow(layout.ContentWidth() + kUnitsPerPixel - 1);
+  return {width + 2 * kMargin, static_cast<int>(layout.RowCount()) * Glyphs().RowHeight() + 2 * kMargin};
+}
+
+std::size_t TextView::RowAt(int y) {
+  const int row = std::max(y - kMargin, 0) / Glyphs().RowHeight();
+  return std::min(static_cast<std::size_t>(row), Layout().RowCount() - 1);
+}
+
+TextPlace TextView::PlaceAt(QPoint point) {
+  return PlaceInRow(Layout(), RowAt(point.y()), (std::int64_t{point.x()} - kMargin) * kUnitsPerPixel);
+}
+
+int TextView::StopX(std::size_t row, std::size_t pos) {
+  const TextLayout& layout = Layout();
+  // So that a letter never hides the caret before it.
+  return kMargin + WholePixelsBelow(layout.RowLeft(row) + layout.XOf(row, pos));
+}
+
+QRect TextView::CharRect(std::size_t pos) {
+  const TextLayout& layout = Layout();
+  const std::size_t row = layout.RowOf(pos);
+  const int left = StopX(row, pos);
+  const int right = pos < layout.RowEnd(row) ? StopX(row, pos + 1) : left + 1;
+  return {left, RowTop(row), std::max(right - left, 1), Glyphs().RowHeight()};
+}
+
+}  // namespace pelmar

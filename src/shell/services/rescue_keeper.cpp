@@ -1,0 +1,220 @@
+#include "shell/services/rescue_keeper.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <new>
+#include <utility>
+
+#include "platform/paths.h"
+#include "shell/temp_file.h"
+
+namespace pelmar {
+namespace {
+
+// Leaves time for the write within the two seconds that are promised.
+constexpr int kDelay = 1000;
+// A write that failed is tried again after pauses that double from kDelay up to this.
+constexpr int kLongestPause = 60'000;
+
+}  // namespace
+
+RescueKeeper::RescueKeeper(RescueContent& content, Platform& platform)
+    : content_(content),
+      platform_(platform),
+      store_(platform.InstallFolder(), content_.kind.prefix,
+             [&platform](const auto& path, std::string_view bytes) { return platform.WritePrivateFile(path, bytes); }),
+      pause_(kDelay) {
+  writer_.setMaxThreadCount(1);
+  timer_.setSingleShot(true);
+  connect(&timer_, &QTimer::timeout, this, &RescueKeeper::WriteInThread);
+}
+
+RescueKeeper::~RescueKeeper() { writer_.waitForDone(); }
+
+void RescueKeeper::KeepSoon() {
+  pause_ = kDelay;
+  if (!timer_.isActive() || timer_.remainingTime() > kDelay) timer_.start(kDelay);
+}
+
+// Nothing where the memory doesn't suffice.
+std::optional<RescueRecord> RescueKeeper::CopyUnsaved() const {
+  try {
+    return content_.Unsaved();
+  } catch (const std::bad_alloc&) {
+    return std::nullopt;
+  }
+}
+
+void RescueKeeper::WriteInThread() {
+  // A slow disk gets the latest text once it is ready, not one copy after another.
+  if (writer_.activeThreadCount() > 0) return timer_.start(kDelay);
+  // The copy is all that a long document costs the person who types.
+  auto now = CopyUnsaved();
+  if (!now) return AfterWrite(ENOMEM);
+  writer_.start([this, write = ++writes_, record = std::move(*now)]() mutable {
+    const int error = WriteIfChanged(std::move(record));
+    // Only the last write tells how things stand.
+    const auto after = [this, write, error] {
+      if (write != writes_) return;
+      AfterWrite(error);
+      ReportRest();
+    };
+    QMetaObject::invokeMethod(this, after, Qt::QueuedConnection);
+  });
+}
+
+int RescueKeeper::WriteIfChanged(RescueRecord record) {
+  if (written_ == record) return 0;
+  int error = ENOMEM;
+  try {
+    error = store_.Keep(RescueBytes(content_.kind, record));
+  } catch (const std::bad_alloc&) {
+    // The file of the write before stays.
+  }
+  if (error == 0)
+    written_ = std::move(record);
+  else
+    written_.reset();
+  return error;
+}
+
+int RescueKeeper::WriteAndWait() {
+  writer_.waitForDone();
+  timer_.stop();
+  ++writes_;
+  written_.reset();
+  auto now = CopyUnsaved();
+  const int error = now ? WriteIfChanged(std::move(*now)) : ENOMEM;
+  AfterWrite(error);
+  return error;
+}
+
+void RescueKeeper::AfterWrite(int error) {
+  if (error == 0) RemoveOldFiles();
+  ReportFailure(error);
+  if (error == 0 && owed_.files.empty()) {
+    pause_ = kDelay;
+  } else if (!timer_.isActive()) {
+    timer_.start(pause_);
+    pause_ = std::min(2 * pause_, kLongestPause);
+  }
+}
+
+void RescueKeeper::ReportFailure(int error) {
+  if (std::exchange(failure_, error) != error && on_failure) on_failure(error);
+}
+
+// What came back has just been written; the old files go as soon as the rest lies on the disk as well.
+void RescueKeeper::RemoveOldFiles() {
+  if (owed_.files.empty()) return;
+  if (!owed_.rest.empty()) {
+    const std::string path = JoinPath(platform_.InstallFolder(), content_.words.rest_name);
+    if (platform_.WritePrivateFile(path, owed_.rest) != 0) return;
+    owed_.rest.clear();
+  }
+  for (const std::string& file : owed_.files) std::remove(file.c_str());
+  owed_.files.clear();
+  owed_.offer.Release();
+}
+
+Kept RescueKeeper::KeepNow() {
+  if (WriteAndWait() == 0)
+    return written_->texts.empty() ? Kept{} : Kept{.place = Kept::kRescueFile, .path = store_.Path()};
+  if (WriteReadable()) return {.place = Kept::kReadableFile, .path = last_resort_.path};
+  // The file of an earlier write may still be there.
+  if (store_.HasFile()) return {.place = Kept::kRescueFile, .path = store_.Path()};
+  return {.place = Kept::kNowhere};
+}
+
+bool RescueKeeper::WriteReadable() {
+  try {
+    const std::string readable = content_.Readable(content_.Unsaved().texts);
+    // The end of a session asks several times.
+    if (readable == last_resort_.text && platform_.CanRead(last_resort_.path)) return true;
+    const TempFile file = WriteTempFile(platform_, "pelmar-" + std::string(content_.kind.prefix), ".txt", readable);
+    if (file.error == 0) last_resort_ = {file.path, readable};
+    return file.error == 0;
+  } catch (const std::bad_alloc&) {
+    return false;
+  }
+}
+
+std::string RescueKeeper::NoticeOf(const Kept& kept) const {
+  const std::string what(content_.words.kept), lie = what + " jsou zachovány v souboru\r\n" + kept.path + "\r\n";
+  switch (kept.place) {
+    case Kept::kNothingToKeep:
+      return {};
+    case Kept::kRescueFile:
+      return lie + std::string(content_.words.next_time);
+    case Kept::kReadableFile:
+      return lie + "Program je sám nenabídne, soubor si zkopírujte jinam.";
+    case Kept::kNowhere:
+      return what + " nebylo možné zachovat.";
+  }
+  return {};
+}
+
+void RescueKeeper::End() {
+  writer_.waitForDone();
+  timer_.stop();
+  ++writes_;
+  written_.reset();
+  store_.Keep({});
+  RemoveOldFiles();
+  ReportFailure(0);
+}
+
+// Leaves only the files that were read whole; the others stay where they are.
+std::vector<RescueRecord> RescueKeeper::ReadAbandoned(std::vector<std::string>& files) {
+  std::vector<RescueRecord> records;
+  std::vector<RescuedText> seen;
+  // A copy that died between keeping what it had brought back and removing the old file leaves a text twice.
+  const auto superfluous = [&](const RescuedText& text) {
+    if (content_.IsHere(text) || std::ranges::find(seen, text) != seen.end()) return true;
+    seen.push_back(text);
+    return false;
+  };
+  std::erase_if(files, [&](const std::string& file) {
+    auto record = ReadRescue(content_.kind, platform_.ReadFile(file, std::nullopt).bytes);
+    if (!record) return true;
+    std::erase_if(record->texts, superfluous);
+    if (!record->texts.empty()) records.push_back(std::move(*record));
+    return false;
+  });
+  return records;
+}
+
+void RescueKeeper::Offer() {
+  std::vector<std::string> files = FindAbandoned(platform_.InstallFolder(), content_.kind.prefix, owed_.offer);
+  if (files.empty()) return;
+  const std::vector<RescueRecord> records = ReadAbandoned(files);
+  if (files.empty()) return owed_.offer.Release();
+  std::vector<RescuedText> left;
+  for (const RescueRecord& record : records) left.insert(left.end(), record.texts.begin(), record.texts.end());
+  bool wanted = false;
+  if (!left.empty()) {
+    const std::string question =
+        std::string(content_.words.found) + std::to_string(left.size()) + ".\r\n" + std::string(content_.words.wanted);
+    wanted = platform_.Message(MessageType::kYesNoWarning, question, "Záchrana") == Answer::kYes;
+  }
+  if (wanted) left = content_.BringBack(records);
+  // Only now: what is written while the question stands holds nothing of these files yet.
+  owed_.files = std::move(files);
+  // What found no place, or wasn't wanted now, stays readable in a text file until the next time.
+  owed_.rest = content_.Readable(left);
+  owed_.tell = wanted && !left.empty();
+  WriteAndWait();
+  ReportRest();
+}
+
+void RescueKeeper::ReportRest() {
+  if (!owed_.tell || !owed_.files.empty()) return;
+  owed_.tell = false;
+  platform_.Message(
+      MessageType::kOkInfo,
+      std::string(content_.words.rest_told) + "\r\n" + JoinPath(platform_.InstallFolder(), content_.words.rest_name),
+      "Záchrana");
+}
+
+}  // namespace pelmar

@@ -1,0 +1,68 @@
+#include "shell/services/status_timer.h"
+
+#include <QApplication>
+#include <utility>
+
+#include "platform/qt/frames/outer_geometry.h"
+#include "platform/twips.h"
+#include "shell/status.h"
+#include "shell/windows/main/main_window.h"
+
+namespace pelmar {
+namespace {
+
+constexpr int kInterval = 500;
+constexpr QStringView kFilesStuck = u"Soubory nelze otevírat ani ukládat, pomůže jen nový start programu";
+
+}  // namespace
+
+StatusTimer::StatusTimer(MainWindow& window, Editor& editor) : QTimer(&window), window_(window), editor_(editor) {
+  setObjectName(QStringLiteral("Timer1"));
+  setInterval(kInterval);
+  connect(this, &QTimer::timeout, this, &StatusTimer::Tick);
+}
+
+void StatusTimer::SnapWindows() {
+  const QWidgetList windows = QApplication::topLevelWidgets();
+  std::erase_if(requests_, [&](const auto& of_window) { return !windows.contains(of_window.first); });
+  for (QWidget* window : windows) {
+    if (window->property(kTagProperty).toString() != QLatin1String(kAutosnapTag)) continue;
+    if (!window->isVisible() || window->isMinimized() || window->isMaximized()) continue;
+    const TwipsRect place = OuterGeometry(*window);
+    const TwipsRect snapped = Snap(place, editor_.settings.AutosnapDistance, ScreenTwips(*window));
+    if (snapped != place && requests_[window].Worthwhile(place, snapped)) SetOuterPlace(*window, snapped);
+  }
+}
+
+// What they show may be as long as the document and the clipboard, so nothing is done for what hasn't changed.
+void StatusTimer::ShowPanels(std::uint64_t clipboard_revision, const std::optional<std::string>& clipboard) {
+  const TextBuffer& text = editor_.text;
+  StatusStrip& bar = window_.Bar();
+  if (bar.Cleared()) {
+    shown_text_.reset();
+    shown_content_.reset();
+  }
+  const TextState of_text{text.Revision(), text.SelStart(), text.SelEnd(), editor_.settings.LineCounting};
+  if (std::exchange(shown_text_, of_text) != of_text) bar.Show(ComputePanels(text, of_text.line_counting));
+  const ContentState of_content{text.HasSelection() ? of_text : TextState(), clipboard_revision};
+  if (std::exchange(shown_content_, of_content) != of_content) bar.ShowContent(ComputeContent(text, clipboard));
+}
+
+void StatusTimer::Tick() {
+  SnapWindows();
+  if (!window_.MainActive()) return;
+  // Before the text is asked for: meanwhile its owner may put another one there.
+  const std::uint64_t revision = editor_.platform.ClipboardRevision();
+  const std::optional<std::string>& clipboard = editor_.platform.ClipboardContent();
+  // A menu of the bar that changes would let go of the one that is open.
+  if (QApplication::activePopupWidget() == nullptr)
+    window_.Menus().Apply(ComputeMenuState(editor_.text, editor_.documents.CurrentPath(), clipboard));
+  ShowPanels(revision, clipboard);
+  StatusStrip& bar = window_.Bar();
+  bar.Show(editor_.platform.Keys());
+  // The main window isn't active while an operation is at work on a file: this one was abandoned.
+  bar.Warn(Warning::kFilesStuck, editor_.file_number.IsOpen() ? kFilesStuck.toString() : QString());
+  window_.WidenContentPanel();
+}
+
+}  // namespace pelmar

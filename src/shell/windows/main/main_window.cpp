@@ -1,0 +1,388 @@
+#include "shell/windows/main/main_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QScreen>
+#include <QScrollBar>
+#include <QShortcut>
+#include <QWindow>
+#include <algorithm>
+
+#include "platform/paths.h"
+#include "platform/qt/controls/tab_keys.h"
+#include "platform/qt/convert.h"
+#include "platform/qt/frames/outer_geometry.h"
+#include "platform/qt/frames/svg_icon.h"
+#include "platform/qt/key_router.h"
+#include "shell/services/status_timer.h"
+#include "shell/status.h"
+
+namespace pelmar {
+namespace {
+
+// The smallest window, but never more than half of a small screen each way, which is what the layout picker needs.
+constexpr QSize kSmallest(480, 320);
+// The window of a first start, where nothing is stored yet: room for the whole toolbar.
+constexpr QSize kFirstSize(820, 560);
+
+// The paths of the files of a drop.
+std::vector<std::string> DroppedFiles(const QMimeData* mime) {
+  std::vector<std::string> paths;
+  for (const QUrl& url : mime->urls())
+    if (url.isLocalFile()) paths.push_back(PathOfUrl(url));
+  return paths;
+}
+
+// One path a line, as many as a message can hold.
+std::string ListOf(const std::vector<std::string>& paths) {
+  constexpr std::size_t kMost = 10;
+  std::string list;
+  for (std::size_t i = 0; i < std::min(kMost, paths.size()); ++i) list += "\r\n" + paths[i];
+  if (paths.size() > kMost) list += "\r\n... a další: " + std::to_string(paths.size() - kMost);
+  return list;
+}
+
+}  // namespace
+
+MainWindow::MainWindow(Editor& editor, Files& files)
+    : editor_(editor), files_(files), placement_(*this, [this](const TwipsRect& now) { return Wanted(now); }) {
+  setObjectName(QStringLiteral("Main"));
+  setProperty(kTagProperty, QLatin1String(kAutosnapTag));
+  setAcceptDrops(true);
+  setMinimumSize(kSmallest.boundedTo(screen()->size() / 2));
+  placement_.on_frame = [this] { ApplyLayout(); };
+  MakeControls();
+  AddViewCommands();
+  FollowDocuments();
+}
+
+void MainWindow::MakeControls() {
+  menus_ = new MenuBar(editor_.commands, this);
+  menus_->setAccessibleName(QStringLiteral("Hlavní nabídka"));
+  setMenuBar(menus_);
+  client_ = new QWidget(this);
+  setCentralWidget(client_);
+  client_->installEventFilter(this);
+  toolbar_ = new MainToolbar(editor_.commands, files_, client_);
+  toolbar_->setAccessibleName(QStringLiteral("Panel nástrojů"));
+  tabs_ = new FileTab(client_);
+  text_ = new TextBox(client_);
+  text_->setObjectName(QStringLiteral("Text1"));
+  text_->setAccessibleName(QStringLiteral("Text dokumentu"));
+  text_->UseBuffer(editor_.text);
+  text_->setStandardShortcuts(false);
+  text_->SetCaretStays(true);
+  KeyRouter::Get().Add(KeyTurn::kMenu, *text_, [this](QWidget&, const QKeyEvent& press) {
+    return menus_->RunGrey(press, [this] {
+      return ComputeMenuState(editor_.text, editor_.documents.CurrentPath(), editor_.platform.ClipboardContent());
+    });
+  });
+  bar_ = new StatusStrip(client_);
+  bar_->setAccessibleName(QStringLiteral("Stavový řádek"));
+  bar_->raise();
+  connect(tabs_, &QTabBar::currentChanged, this, [this](int index) { editor_.documents.SwitchTo(index + 1); });
+  // The lower, right-hand menus of the main menu are pop-ups too.
+  const auto pop_up = [this](QWidget* owner, std::string_view name) {
+    owner->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(owner, &QWidget::customContextMenuRequested, this,
+            [this, owner, name](const QPoint& at) { menus_->Submenu(name)->popup(owner->mapToGlobal(at)); });
+  };
+  pop_up(tabs_, "MnuPopUp");
+  pop_up(bar_, "MnuPopUp");
+  pop_up(toolbar_, "MnuPopUp");
+  pop_up(text_, "MnuSel");
+  connect(toolbar_, &MainToolbar::EscapePressed, text_, [this] { text_->setFocus(); });
+  // The strip itself takes no focus, so the keyboard reaches it by keys of its own.
+  AddTabKeys(*this, *tabs_);
+  connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, menus_,
+          [this] { menus_->setActiveAction(menus_->actions().constFirst()); });
+  const auto count_lines = [this](bool count) {
+    editor_.settings.LineCounting = count;
+    if (on_line_counting) on_line_counting();
+  };
+  connect(bar_->Panel(3), &StatusPanel::Clicked, this, [count_lines] { count_lines(false); });
+  connect(bar_->Panel(3), &StatusPanel::DoubleClicked, this, [count_lines] { count_lines(true); });
+}
+
+void MainWindow::AddViewCommands() {
+  editor_.commands.Add("MnuTS", [this] { ToggleBar("MnuTS", toolbar_); });
+  editor_.commands.Add("MnuSBS", [this] { ToggleBar("MnuSBS", bar_); });
+  editor_.commands.Add("mnuFTS", [this] { ToggleBar("mnuFTS", tabs_); });
+  editor_.commands.Add("MnuAllTop", [this] { ToggleAlwaysOnTop(); });
+  editor_.commands.Add("mnuquit", [this] { close(); });
+}
+
+void MainWindow::FollowDocuments() {
+  Documents& documents = editor_.documents;
+  const auto show_title = [this] {
+    setWindowTitle(PlainTitle(editor_.documents.Title()));
+    for (int tab = 1; tab <= kTabCount; ++tab) tabs_->SetUnsaved(tab, editor_.documents.IsUnsaved(tab));
+  };
+  heard_ = {documents.title_changed.Add(show_title),
+            documents.face_changed.Add([this](int tab) { tabs_->SetFace(tab, editor_.documents.Face(tab)); }),
+            documents.tab_selected.Add([this, show_title](int tab) {
+              tabs_->setCurrentIndex(tab - 1);
+              show_title();
+            }),
+            files_.recent.changed.Add([this] { toolbar_->ShowRecentFiles(); })};
+  show_title();
+}
+
+void MainWindow::RefreshCommands() {
+  menus_->Refresh();
+  toolbar_->Refresh();
+}
+
+void MainWindow::ToggleBar(std::string_view item, QWidget* bar) {
+  bar->setVisible(menus_->Action(item)->isChecked());
+  ApplyLayout();
+}
+
+void MainWindow::ToggleAlwaysOnTop() {
+  // required: flag and check mark flip each on its own, so they may say opposite things after a start
+  editor_.settings.AlwaysOnTopFlag = !editor_.settings.AlwaysOnTopFlag;
+  SetAlwaysOnTop(editor_.settings.AlwaysOnTopFlag);
+}
+
+void MainWindow::HideText(bool hide) {
+  QScrollBar* const across = text_->horizontalScrollBar();
+  QScrollBar* const down = text_->verticalScrollBar();
+  if (hide) scrolled_ = {across->value(), down->value()};
+  text_->setVisible(!hide);
+  text_->UseBuffer(hide ? nothing_ : editor_.text);
+  if (hide) return bar_->Clear();  // until the next tick
+  across->setValue(scrolled_.x());
+  down->setValue(scrolled_.y());
+}
+
+LayoutInput MainWindow::Measures() const {
+  LayoutInput in;
+  in.outer_width = OuterGeometry(*this).width;
+  in.inner_width = TwipsOf(client_->width());
+  in.inner_height = TwipsOf(client_->height());
+  in.toolbar_height = TwipsOf(toolbar_->sizeHint().height());
+  in.bar_height = TwipsOf(bar_->sizeHint().height());
+  in.toolbar_visible = !toolbar_->isHidden();
+  in.bar_visible = !bar_->isHidden();
+  in.tabs_visible = !tabs_->isHidden();
+  in.minimised = isMinimized();
+  in.panel_widths = bar_->Widths();
+  return in;
+}
+
+void MainWindow::ApplyLayout() {
+  // While the window still comes to its size, each step is the first one, or a step of few pixels would make panel 4
+  // alternate from the start on.
+  if (!ticked_) bar_->SetWidth(4, 0);
+  const LayoutInput in = Measures();
+  const LayoutResult out = ComputeLayout(in);
+  const int bar_height = PixelsOf(in.bar_height);
+  toolbar_->setGeometry(0, 0, client_->width(), PixelsOf(in.toolbar_height));
+  bar_->setGeometry(0, client_->height() - bar_height, client_->width(), bar_height);
+  const int top = PixelsOf(out.text_top);
+  const int width = out.text_width ? PixelsOf(*out.text_width) : text_->width();
+  const int height = out.text_height ? std::max(0, PixelsOf(*out.text_height)) : text_->height();
+  text_->setGeometry(0, top, width, height);
+  tabs_->SetStripWidth(client_->width() - width);
+  tabs_->setGeometry(0, top, out.tabs_width ? PixelsOf(*out.tabs_width) : tabs_->width(), height);
+  if (out.panel4_width && placement_.FrameKnown()) bar_->SetWidth(4, *out.panel4_width);
+  // This lays all out once more, for the new height.
+  if (out.grow_outer_height > 0) resize(this->width(), this->height() + PixelsOf(out.grow_outer_height));
+}
+
+void MainWindow::WidenContentPanel() {
+  // Before the frame is known the outer width is not the window's real one.
+  if (isMinimized() || !placement_.FrameKnown()) return;
+  ticked_ = true;
+  if (const auto spare = SparePanelWidth(OuterGeometry(*this).width, bar_->Widths())) bar_->SetWidth(4, *spare);
+}
+
+// The frame is there when the window is first painted, or a moment later; only then outer sizes can be met.
+void MainWindow::FitToFrame() {
+  if (fitted_) return;
+  fitted_ = true;
+  // The icon is rendered when it is set, which can wait until the window is there.
+  ShowProgramIcon();
+  placement_.Begin({}, window_state_ == WindowMode::kMaximised);
+}
+
+TwipsRect MainWindow::Wanted(const TwipsRect& now) const {
+  if (wants_position_) return wanted_place_;
+  return {now.left, now.top, wanted_place_.width, wanted_place_.height};
+}
+
+void MainWindow::SetPlace(const TwipsRect& place) {
+  wanted_place_ = place;
+  const QSize first = kFirstSize.boundedTo(screen()->availableSize());
+  if (place.width <= 0) wanted_place_.width = TwipsOf(first.width());
+  if (place.height <= 0) wanted_place_.height = TwipsOf(first.height());
+  SetOuterWidth(*this, wanted_place_.width);
+  SetOuterHeight(*this, wanted_place_.height);
+  SetOuterPosition(*this, place.left, place.top);
+}
+
+TwipsRect MainWindow::Place() const {
+  if (!isMinimized()) return OuterGeometry(*this);
+  // Minimised since the start it has never had a frame.
+  if (!placement_.FrameKnown()) return wanted_place_;
+  // An iconified window keeps the place that it comes back to.
+  const QRect normal = normalGeometry();
+  const QMargins frame = windowHandle() != nullptr ? windowHandle()->frameMargins() : QMargins();
+  const QRect outer = normal.marginsAdded(frame);
+  return {TwipsOf(outer.left()), TwipsOf(outer.top()), TwipsOf(outer.width()), TwipsOf(outer.height())};
+}
+
+void MainWindow::SetWindowState(WindowMode state) { window_state_ = state; }
+
+WindowMode MainWindow::WindowState() const {
+  if (isMinimized()) return WindowMode::kMinimised;
+  return isMaximized() ? WindowMode::kMaximised : WindowMode::kNormal;
+}
+
+// A window manager may give a maximised window another frame than a normal one, and tells only later. What is asked for
+// in between is put right then.
+void MainWindow::SetNormalState() {
+  if (!isMaximized() && !isMinimized()) return;
+  placement_.Begin(windowHandle()->frameMargins());
+  showNormal();
+}
+
+void MainWindow::SetOuterSize(int width, int height) {
+  wants_position_ = false;
+  wanted_place_.width = width;
+  wanted_place_.height = height;
+  SetOuterWidth(*this, width);
+  SetOuterHeight(*this, height);
+}
+
+void MainWindow::MoveTo(const TwipsRect& place) {
+  SetOuterSize(place.width, place.height);
+  wants_position_ = true;
+  wanted_place_ = place;
+  SetOuterPosition(*this, place.left, place.top);
+}
+
+void MainWindow::SetAlwaysOnTop(bool on_top) { pelmar::SetAlwaysOnTop(*this, on_top); }
+
+void MainWindow::SetEditorColors(Color fore, Color back) {
+  text_->setTextColor(ColorToQt(fore));
+  text_->setBackgroundColor(ColorToQt(back));
+}
+
+void MainWindow::ChangeFont(const std::function<void(QFont&)>& change) {
+  QFont font = text_->font();
+  change(font);
+  if (font != text_->font()) text_->setFont(font);
+}
+
+void MainWindow::SetEditorFont(const std::string& name) {
+  ChangeFont([&name](QFont& font) { font.setFamily(TextToQString(name)); });
+}
+
+void MainWindow::ApplyEditorFontSize(int size) {
+  ChangeFont([size](QFont& font) { font.setPointSize(size); });
+  for (const auto& [points, item] : FontSizeItems()) menus_->Action(item)->setChecked(points == size);
+}
+
+void MainWindow::SetEditorBold(bool bold) {
+  ChangeFont([bold](QFont& font) { font.setBold(bold); });
+}
+
+void MainWindow::SetEditorItalic(bool italic) {
+  ChangeFont([italic](QFont& font) { font.setItalic(italic); });
+}
+
+void MainWindow::MarkBold(bool bold) { menus_->Action("mnuEditBold")->setChecked(bold); }
+void MainWindow::MarkItalic(bool italic) { menus_->Action("mnuitalic")->setChecked(italic); }
+
+void MainWindow::NextAlignment() {
+  const Qt::Alignment now = text_->Alignment();
+  text_->setAlignment(now == Qt::AlignLeft ? Qt::AlignRight : now == Qt::AlignRight ? Qt::AlignHCenter : Qt::AlignLeft);
+}
+
+EditorLook MainWindow::Look() const {
+  const QFont font = text_->font();
+  return {TextFromQString(font.family()),
+          ColorFromQt(text_->TextColor()),
+          ColorFromQt(text_->BackgroundColor()),
+          font.pointSizeF(),
+          font.bold(),
+          font.italic()};
+}
+
+void MainWindow::ShowMain() {
+  if (isVisible()) return BringToFront(*this);
+  if (window_state_ == WindowMode::kMinimised) return showMinimized();
+  if (window_state_ == WindowMode::kMaximised) return showMaximized();
+  show();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  // The lock is no way out either, whoever asks.
+  if (text_->isHidden() || (may_close && !may_close())) return event->ignore();
+  event->accept();
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+  // A drop reaches a window also while a dialog or the lock keeps it from the person.
+  if (QApplication::activeModalWidget() != nullptr) return;
+  if (!DroppedFiles(event->mimeData()).empty()) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+  event->acceptProposedAction();
+  // The question comes after the drop, or the program that the file comes from would wait for its answer too.
+  QMetaObject::invokeMethod(
+      this, [this, paths = DroppedFiles(event->mimeData())] { OpenDropped(paths); }, Qt::QueuedConnection);
+}
+
+void MainWindow::OpenDropped(std::vector<std::string> paths) {
+  activateWindow();
+  // To open one leaves every later file operation failing, which a slip of the mouse must not bring about.
+  const auto nameless = std::stable_partition(paths.begin(), paths.end(), HasExtension);
+  const std::vector<std::string> refused(nameless, paths.end());
+  paths.erase(nameless, paths.end());
+  if (refused.size() == 1) {
+    Tell("Soubor " + refused.front() + " nemá příponu, nelze ho otevřít.");
+  } else if (!refused.empty()) {
+    Tell("Soubory bez přípony nelze otevřít:" + ListOf(refused));
+  }
+  if (paths.empty() ||
+      editor_.platform.Message(MessageType::kYesNoWarning, "Opravdu otevřít soubor ?", "Soubor") != Answer::kYes)
+    return;
+  // The first one takes the place of the current document, as a single one does; the others lose nobody anything.
+  auto path = paths.begin();
+  files_.opener.OpenPath(*path);
+  while (++path != paths.end()) {
+    const int tab = editor_.documents.EmptyTab();
+    if (tab == 0) return Tell("Není volná záložka, neotevřeny zůstaly soubory:" + ListOf({path, paths.end()}));
+    editor_.documents.SwitchTo(tab);
+    files_.opener.OpenPath(*path);
+  }
+}
+
+void MainWindow::Tell(const std::string& text) { editor_.platform.Message(MessageType::kOk, text, "Soubor"); }
+
+void MainWindow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::WindowStateChange) ApplyLayout();
+}
+
+bool MainWindow::event(QEvent* event) {
+  if (event->type() == QEvent::WindowActivate) {
+    main_active_ = true;
+    if (isVisible()) text_->setFocus();  // an accessory that runs as the whole program has it hidden
+  }
+  if (event->type() == QEvent::WindowDeactivate) main_active_ = false;
+  return QMainWindow::event(event);
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == client_ && event->type() == QEvent::Resize) ApplyLayout();
+  if (watched == client_ && event->type() == QEvent::Paint) FitToFrame();
+  return QMainWindow::eventFilter(watched, event);
+}
+
+}  // namespace pelmar

@@ -1,0 +1,110 @@
+// `Main`: the menu, the toolbar, the one text box, the tab strip and the status bar. The window only shows and
+// forwards; what happens lies in the editor, the session and the commands.
+#pragma once
+
+#include <QMainWindow>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "files/files.h"
+#include "platform/qt/frames/placement.h"
+#include "platform/qt/textbox/text_box.h"
+#include "platform/twips.h"
+#include "shell/editor.h"
+#include "shell/main_view.h"
+#include "shell/window_geometry.h"
+#include "shell/windows/main/file_tab.h"
+#include "shell/windows/main/main_toolbar.h"
+#include "shell/windows/main/menu_bar.h"
+#include "shell/windows/main/status_strip.h"
+
+namespace pelmar {
+
+class MainWindow : public QMainWindow, public MainView {
+  Q_OBJECT
+
+ public:
+  MainWindow(Editor& editor, Files& files);
+
+  [[nodiscard]] TextBox& Text() { return *text_; }
+  [[nodiscard]] MenuBar& Menus() { return *menus_; }
+  [[nodiscard]] MainToolbar& Toolbar() { return *toolbar_; }
+  [[nodiscard]] StatusStrip& Bar() { return *bar_; }
+  // True while the main window is the active one.
+  [[nodiscard]] bool MainActive() const { return main_active_; }
+
+  // Asked before the window closes; false keeps it open.
+  std::function<bool()> may_close;
+  std::function<void()> on_line_counting;  // told when a click in the status bar changed it
+
+  void ShowMain();
+  // Called when all commands are there: enables what they serve.
+  void RefreshCommands();
+  // While the lock is closed the text is neither on the screen nor within reach of assistive technology.
+  void HideText(bool hide);
+  // Places text box, tabs and bars.
+  void ApplyLayout();
+  // The rule of panel 4, on each tick.
+  void WidenContentPanel();
+
+  void SetPlace(const TwipsRect& place) override;
+  [[nodiscard]] TwipsRect Place() const override;
+  void SetWindowState(WindowMode state) override;
+  [[nodiscard]] WindowMode WindowState() const override;
+  void SetAlwaysOnTop(bool on_top) override;
+  void SetNormalState() override;
+  void SetOuterSize(int width, int height) override;
+  void MoveTo(const TwipsRect& place) override;
+  void SetEditorColors(Color fore, Color back) override;
+  void SetEditorFont(const std::string& name) override;
+  void SetEditorBold(bool bold) override;
+  void SetEditorItalic(bool italic) override;
+  void MarkBold(bool bold) override;
+  void MarkItalic(bool italic) override;
+  void NextAlignment() override;
+  [[nodiscard]] EditorLook Look() const override;
+
+ protected:
+  void ApplyEditorFontSize(int size) override;
+  void closeEvent(QCloseEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  bool event(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void MakeControls();
+  void AddViewCommands();
+  void FollowDocuments();
+  void OpenDropped(std::vector<std::string> paths);
+  void Tell(const std::string& text);
+  void ToggleBar(std::string_view item, QWidget* bar);
+  void ToggleAlwaysOnTop();
+  void FitToFrame();
+  [[nodiscard]] TwipsRect Wanted(const TwipsRect& now) const;
+  void ChangeFont(const std::function<void(QFont&)>& change);
+  [[nodiscard]] LayoutInput Measures() const;
+
+  Editor& editor_;
+  Files& files_;
+  std::vector<Listening> heard_;
+  TextBuffer nothing_;  // what the box shows while the text is hidden
+  QPoint scrolled_;     // where the text stood before it was hidden
+  QWidget* client_ = nullptr;
+  MenuBar* menus_ = nullptr;
+  MainToolbar* toolbar_ = nullptr;
+  FileTab* tabs_ = nullptr;
+  TextBox* text_ = nullptr;
+  StatusStrip* bar_ = nullptr;
+  WindowMode window_state_ = WindowMode::kNormal;
+  TwipsRect wanted_place_;
+  bool wants_position_ = true;  // and not the size alone
+  Placement placement_;
+  bool fitted_ = false;  // from the first painting on
+  bool ticked_ = false;  // panel 4 has got its width by a tick
+  bool main_active_ = false;
+};
+
+}  // namespace pelmar

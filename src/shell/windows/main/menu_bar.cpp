@@ -1,0 +1,206 @@
+#include "shell/windows/main/menu_bar.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QShortcutEvent>
+#include <algorithm>
+#include <utility>
+
+#include "platform/qt/convert.h"
+#include "text/codepage.h"
+
+namespace pelmar {
+namespace {
+
+// "Ctrl+X", "Ctrl+F4" or "F1". The toolkit's own reading takes in every name of every key in every language.
+QKeyCombination KeysOf(std::string_view shortcut) {
+  constexpr std::string_view kControl = "Ctrl+";
+  const bool control = shortcut.starts_with(kControl);
+  if (control) shortcut.remove_prefix(kControl.size());
+  int key = CodeOf(shortcut.front());
+  if (shortcut.size() > 1) {
+    int number = 0;
+    for (const char digit : shortcut.substr(1)) number = 10 * number + digit - '0';
+    key = Qt::Key_F1 + number - 1;
+  }
+  return QKeyCombination(control ? Qt::ControlModifier : Qt::NoModifier, static_cast<Qt::Key>(key));
+}
+
+bool HasAccessKey(const QAction& action, const QKeySequence& key) {
+  return action.isVisible() && QKeySequence::mnemonic(action.text()) == key;
+}
+
+bool CanBeChosen(const QAction* item) { return item->isVisible() && item->isEnabled() && !item->isSeparator(); }
+
+QChar Initial(const QString& text) {
+  const auto letter = std::ranges::find_if(text, [](QChar ch) { return ch.isLetterOrNumber(); });
+  return letter == text.end() ? QChar() : letter->toLower();
+}
+
+// Behind the item at hand, in a circle. An item with an access key is opened by that alone.
+QAction* NextByInitial(const QMenu& menu, QChar letter) {
+  const auto first = menu.actions().indexOf(menu.activeAction()) + 1;
+  QList<QAction*> items = menu.actions();
+  std::rotate(items.begin(), items.begin() + first, items.end());
+  const auto found = std::ranges::find_if(items, [letter](const QAction* item) {
+    return CanBeChosen(item) && !item->text().contains(u'&') && Initial(item->text()) == letter.toLower();
+  });
+  return found == items.end() ? nullptr : *found;
+}
+
+// The menu's own setting would open a submenu.
+void GoTo(QMenu& menu, const QAction* item) {
+  QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
+  for (auto left = menu.actions().size(); left > 0 && menu.activeAction() != item; --left)
+    static_cast<QObject&>(menu).event(&down);
+}
+
+}  // namespace
+
+MenuBar::MenuBar(const Commands& commands, QWidget* parent) : QMenuBar(parent), commands_(commands) {
+  std::vector<QWidget*> open{this};  // the menu that each level adds to
+  for (const MenuItem& item : MenuItems()) {
+    open.resize(static_cast<std::size_t>(item.level) + 1);
+    const QString name = Utf8ToQString(item.name);
+    const QString caption = Utf8ToQString(item.caption);
+    QAction* action = nullptr;
+    if (item.kind == MenuKind::kSubmenu) {
+      auto* menu = new QMenu(caption, this);
+      menu->installEventFilter(this);
+      connect(menu, &QMenu::aboutToShow, this, [this] {
+        alt_alone_ = false;
+        QWidget* focus = QApplication::focusWidget();
+        if (focus != nullptr && focus != this && !qobject_cast<QMenu*>(focus)) before_ = focus;
+      });
+      menu->setAccessibleName(QString(caption).remove(QLatin1Char('&')));
+      action = menu->menuAction();
+      open.push_back(menu);
+    } else {
+      action = new QAction(caption, this);
+      action->setSeparator(item.kind == MenuKind::kSeparator);
+      action->setCheckable(item.kind == MenuKind::kToggle || item.kind == MenuKind::kToggleOn);
+      action->setChecked(item.kind == MenuKind::kToggleOn);
+      if (!item.shortcut.empty()) action->setShortcut(KeysOf(item.shortcut));
+      connect(action, &QAction::triggered, this, [this, key = item.name] { commands_.Run(key); });
+    }
+    action->setObjectName(name);
+    action->setMenuRole(QAction::NoRole);
+    open[static_cast<std::size_t>(item.level)]->addAction(action);
+    actions_.emplace(item.name, action);
+  }
+}
+
+bool MenuBar::Served(const QAction* action, std::string_view name) const {
+  return action->menu() != nullptr || action->isSeparator() || commands_.Has(name);
+}
+
+void MenuBar::Refresh() {
+  for (const auto& [name, action] : actions_) action->setEnabled(Served(action, name));
+}
+
+void MenuBar::Apply(const MenuState& state) {
+  SetEnabled(ItemsOfPath(), state.has_path);
+  SetEnabled(ItemsOfClipboard(), state.has_clipboard);
+  SetEnabled(ItemsOfText(), state.has_text);
+  SetEnabled(ItemsOfSelection(), state.has_selection);
+}
+
+bool MenuBar::RunGrey(const QKeyEvent& keys, const std::function<MenuState()>& now) const {
+  // A key that the toolkit doesn't know is as empty as the keys of an item that has none.
+  if (keys.key() == 0 || keys.key() == Qt::Key_unknown) return false;
+  const QKeySequence sequence(keys.keyCombination());
+  const std::pair<std::span<const std::string_view>, bool MenuState::*> groups[] = {
+      {ItemsOfPath(), &MenuState::has_path},
+      {ItemsOfClipboard(), &MenuState::has_clipboard},
+      {ItemsOfText(), &MenuState::has_text},
+      {ItemsOfSelection(), &MenuState::has_selection}};
+  for (const auto& [items, condition] : groups) {
+    for (const std::string_view name : items) {
+      QAction* grey = Action(name);
+      if (grey->isEnabled()) continue;
+      // The items of a grey menu are not grey themselves.
+      const QList<QAction*> in_it = grey->menu() != nullptr ? grey->menu()->actions() : QList<QAction*>{grey};
+      const auto of_keys = [&sequence](const QAction* item) { return item->shortcut() == sequence; };
+      const auto item = std::ranges::find_if(in_it, of_keys);
+      if (item == in_it.end() || !(now().*condition)) continue;
+      commands_.Run(Utf8FromQString((*item)->objectName()));
+      return true;
+    }
+  }
+  return false;
+}
+
+// Two menus have the access key T: the first is meant, or behind it the second. A grey one takes its key and stays
+// shut.
+bool MenuBar::OpenByAccessKey(const QKeySequence& key) {
+  QList<QAction*> menus = actions();
+  menus.removeIf([&key](const QAction* menu) { return !HasAccessKey(*menu, key); });
+  if (menus.isEmpty()) return false;
+  QAction* const next = menus[(menus.indexOf(activeAction()) + 1) % menus.size()];
+  if (!next->isEnabled()) return true;
+  setActiveAction(next);
+  const QList<QAction*> items = next->menu()->actions();
+  if (const auto first = std::ranges::find_if(items, CanBeChosen); first != items.end()) GoTo(*next->menu(), *first);
+  return true;
+}
+
+bool MenuBar::event(QEvent* event) {
+  if (event->type() == QEvent::Shortcut && OpenByAccessKey(static_cast<QShortcutEvent*>(event)->key())) return true;
+  return QMenuBar::event(event);
+}
+
+void MenuBar::keyPressEvent(QKeyEvent* event) {
+  if (event->modifiers() == Qt::NoModifier && OpenByAccessKey(QKeySequence(Qt::ALT | event->key()))) return;
+  QMenuBar::keyPressEvent(event);
+}
+
+bool MenuBar::eventFilter(QObject* watched, QEvent* event) {
+  auto* menu = qobject_cast<QMenu*>(watched);
+  const bool press = event->type() == QEvent::KeyPress;
+  if (menu == nullptr || (!press && event->type() != QEvent::KeyRelease)) return QMenuBar::eventFilter(watched, event);
+  const auto& key = static_cast<QKeyEvent&>(*event);
+  if (key.key() != Qt::Key_Alt) return press && KeyInMenu(*menu, key);
+  // The toolkit would close the menu at once, and the menu behind with the same access key would never be reached.
+  if (!press && alt_alone_) CloseMenus();
+  alt_alone_ = press;
+  return true;
+}
+
+// By the key that closes one menu after the other, and then leaves the bar, which has yet to hear of the Alt.
+void MenuBar::CloseMenus() {
+  QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+  constexpr int kDeepest = 4;
+  for (int level = 0; level < kDeepest; ++level)
+    if (QObject* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) menu->event(&escape);
+  const auto leave = [this] {
+    QKeyEvent last(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    QMenuBar::keyPressEvent(&last);
+    if (before_ && !before_->hasFocus()) before_->setFocus(Qt::MenuBarFocusReason);
+  };
+  QMetaObject::invokeMethod(this, leave, Qt::QueuedConnection);
+}
+
+// Many items have no access key, and answer to their first letter. No letter is for the menu behind.
+bool MenuBar::KeyInMenu(QMenu& menu, const QKeyEvent& key) {
+  alt_alone_ = false;
+  const bool alt = key.modifiers() == Qt::AltModifier;
+  const QKeySequence access(Qt::ALT | key.key());
+  if (alt && activeAction() != nullptr && HasAccessKey(*activeAction(), access)) return OpenByAccessKey(access);
+  const QList<QAction*> items = menu.actions();
+  const auto answers = [&access](const QAction* item) { return item->isEnabled() && HasAccessKey(*item, access); };
+  if (std::ranges::any_of(items, answers)) return false;
+  if (alt) return activeAction() != nullptr && OpenByAccessKey(access);
+  if (key.text().size() != 1 || !key.text().front().isLetterOrNumber()) return false;
+  if (const QAction* next = NextByInitial(menu, key.text().front())) GoTo(menu, next);
+  return true;
+}
+
+void MenuBar::SetEnabled(std::span<const std::string_view> names, bool enabled) {
+  for (const std::string_view name : names) {
+    QAction* action = Action(name);
+    action->setEnabled(enabled && Served(action, name));
+  }
+}
+
+}  // namespace pelmar
