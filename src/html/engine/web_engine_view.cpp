@@ -49,7 +49,10 @@ WebEngineView::WebEngineView(QWidget* parent) : view_(std::make_unique<QWebEngin
   for (const PageSide side : {PageSide::kDisk, PageSide::kDiskWithNet, PageSide::kNet}) {
     const bool lets_out = side != PageSide::kDisk;
     const ScopedVariable way_out(kWayOut, (lets_out ? open_gate_ : shut_gate_).Address());
-    profiles_[side] = MakeProfile(lets_out, [this] { on_withheld(true); });
+    // Requests of an earlier page may still come.
+    profiles_[side] = MakeProfile(lets_out, [this] {
+      if (page_->Side() == PageSide::kDisk) on_withheld(true);
+    });
   }
   MakePage(PageSide::kDisk);
 }
