@@ -1,5 +1,4 @@
-// The small picture that moves while a page loads: eight frames, shown one after the other. It looks off while it
-// is disabled.
+// The small picture that moves while a page loads: eight frames, shown one after the other. A disabled picture is grey.
 #pragma once
 
 #include <QIcon>
@@ -17,9 +16,9 @@ class ActivityPicture : public QWidget {
 
   explicit ActivityPicture(QWidget* parent = nullptr);
 
-  // From 0.
+  // The number of the shown frame, from 0.
   [[nodiscard]] int Frame() const { return frame_; }
-  // The next frame; behind the last one comes the first.
+  // Shows the next frame, and the first one after the last.
   void Step();
 
   QSize sizeHint() const override { return {24, 24}; }

@@ -1,5 +1,5 @@
-// The door to the module pelmar-browser, a shared library of its own, because the web engine in it is large: the
-// program starts without it and loads it at the first use of the internal browser.
+// Loads the module pelmar-browser at the first use of the internal browser. The module is a shared library of its own,
+// since the web engine in it is large.
 #pragma once
 
 #include <QString>
@@ -14,11 +14,11 @@ class BrowserModule {
  public:
   explicit BrowserModule(QStringList folders = ModuleFolders()) : folders_(std::move(folders)) {}
 
-  // Loads the module where it wasn't yet. Nothing where it isn't installed or doesn't work, as Problem() then tells;
-  // the next call tries again.
+  // Loads the module at the first call. Null if the module is missing or broken: Problem() then has the reason, and the
+  // next call tries again.
   WebViewMaker* Maker();
 
-  // A sentence for the person.
+  // The reason, as a message for the person.
   [[nodiscard]] const QString& Problem() const { return problem_; }
 
  private:

@@ -12,7 +12,7 @@
 namespace pelmar {
 namespace {
 
-// The browser's window; nothing where its module is missing, which the person has been told then.
+// The browser's window. Null if the module doesn't load; the person has then seen a message.
 FrmBrowser* Browser(const ProgramParts& parts, BrowserModule& module) {
   if (auto* browser = parts.windows.Find<FrmBrowser>()) return browser;
   {
@@ -49,7 +49,7 @@ void AddBrowserWindows(const ProgramParts& parts) {
     browser->ShowAlone();
   };
   AddShowCommand(parts, "Mnu_Internal_Browser", PageEnd::kLineBreak);
-  // required: the toolbar's page ends as the text does, the menu's has one line break more
+  // required: the toolbar's page ends as the text does, the menu's page has one more line break
   AddShowCommand(parts, "Browser", PageEnd::kAsItIs);
 }
 

@@ -26,7 +26,7 @@ namespace pelmar {
 namespace {
 
 constexpr int kTimerInterval = 5;                 // ms
-constexpr qint64 kLongestPage = qint64{4} << 20;  // bytes that are looked at
+constexpr qint64 kLongestPage = qint64{4} << 20;  // bytes of a page that are checked for UTF-8
 constexpr std::string_view kOpenFilter = "Všechno (*.*)|*.*|htm (*.htm)|*.htm|html (*.html)|*.html";
 
 QLabel* AddPanel(QStatusBar& bar, const char* name, const QString& value_name, int stretch) {
@@ -81,7 +81,7 @@ void FrmBrowser::ConnectView() {
   view_->on_change = [this] {
     ShowCaption();
     ShowHistory();
-    // A page that was asked for in the page itself loads too.
+    // A link in the page starts a load too.
     if (view_->Busy()) timTimer.start();
   };
   view_->on_withheld = [this](bool withheld) { ui_->netLine->setVisible(withheld); };
@@ -111,7 +111,7 @@ void FrmBrowser::ConnectToolBar() {
 
 void FrmBrowser::ConnectAddress() {
   QLineEdit* line = ui_->cboAddress->lineEdit();
-  // The toolkit would complete what is typed, and load an entry of the list when the field is left.
+  // The toolkit would complete typed text, and load an entry of the list when the box loses focus.
   ui_->cboAddress->setCompleter(nullptr);
   disconnect(line, &QLineEdit::editingFinished, ui_->cboAddress, nullptr);
   ui_->cboAddress->installEventFilter(this);
@@ -124,7 +124,7 @@ void FrmBrowser::ConnectAddress() {
 }
 
 bool FrmBrowser::eventFilter(QObject* watched, QEvent* event) {
-  // A turn of the wheel over the list is not a choice.
+  // Turning the wheel over the list chooses nothing.
   if (watched == ui_->cboAddress && event->type() == QEvent::Wheel) return true;
   return QMainWindow::eventFilter(watched, event);
 }
@@ -185,7 +185,7 @@ void FrmBrowser::timTimer_Timer() {
   ShowCaption();
 }
 
-// While nothing loads, the link that is pointed at has the place.
+// Shows the link under the mouse while nothing loads.
 void FrmBrowser::ShowState() {
   const QString idle = link_.isEmpty() ? QStringLiteral("Idle") : link_;
   status_->setText(view_->Busy() ? QStringLiteral("Busy") : idle);
@@ -197,7 +197,7 @@ void FrmBrowser::View_Progress(qint64 progress, qint64 maximum) {
 }
 
 void FrmBrowser::ShowEncoding() {
-  // Read without waiting, and no more than a page is long.
+  // Reads only regular files, since others may block.
   QFile file(view_->LocationAddress().toLocalFile());
   const bool told = QFileInfo(file).isFile() && file.open(QIODevice::ReadOnly) &&
                     IsUndeclaredUtf8(file.read(kLongestPage).toStdString());
@@ -215,7 +215,7 @@ void FrmBrowser::View_Finished() {
   const QString typed = line.text();
   DontNavigateNow = true;
   PutOnTop(AddressOfUrl(view_->LocationAddress()));
-  // The person is about to type another address, or in the middle of it.
+  // The person has typed a part of another address.
   if (half_typed) {
     line.setText(typed);
     line.setModified(true);
@@ -236,7 +236,7 @@ void FrmBrowser::Stop_Click() {
   timTimer.stop();
   view_->Stop();
   ShowCaption();
-  // No tick comes any more that would say so, and the engine may tell of its end later.
+  // The timer has stopped, and the engine may report the end of the load later.
   status_->setText(QStringLiteral("Idle"));
   ui_->Picture1->setEnabled(false);
 }
@@ -260,7 +260,7 @@ void FrmBrowser::Close_Click() {
 }
 
 void FrmBrowser::closeEvent(QCloseEvent* event) {
-  // Where nothing is asked, the toolkit hides the window itself.
+  // The toolkit hides the window after accept().
   if (!end_program_) {
     view_->EndIfStuck();
     return event->accept();

@@ -1,5 +1,5 @@
-// `frmBrowser`: the internal browser, a window around a web view. It is hidden on closing and keeps its page and its
-// history for the run; where it is the whole program, its closing asks and ends the program.
+// `frmBrowser`: the internal browser, a window around a web view. Closing hides the window, which keeps its page and
+// its history until the program ends. If the browser is the whole program, closing asks and ends the program.
 #pragma once
 
 #include <QMainWindow>
@@ -23,19 +23,19 @@ class FrmBrowser : public QMainWindow {
   Q_OBJECT
 
  public:
-  // `end_program` is called where the browser is the whole program and the person wants to end it; otherwise nothing.
+  // `end_program` is called when the person ends a browser that is the whole program. Otherwise it is empty.
   FrmBrowser(WebViewMaker& maker, Platform& platform, std::function<void()> end_program);
   ~FrmBrowser() override;
 
-  // Shows a file, whose path is UTF-8. An empty one does nothing.
+  // Shows a file. The path is UTF-8; an empty path does nothing.
   void ShowInBrowser(const std::string& path);
-  // The start as the whole program: the window with its first page.
+  // Shows the window with its first page. Only for a browser that is the whole program.
   void ShowAlone();
   // Shows the window, or brings it to the front.
   void Present();
 
   QString StartingAddress;
-  bool DontNavigateNow = false;  // the program itself changes the address list
+  bool DontNavigateNow = false;  // true while the program itself changes the address list
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -46,10 +46,10 @@ class FrmBrowser : public QMainWindow {
   void ConnectView();
   void ConnectToolBar();
   void ConnectAddress();
-  // The address into the box and, new, into its list; then it is loaded.
+  // Puts the address into the box and its list, then loads it.
   void Visit(const QString& address);
   void NavigateToBox();
-  // Loads the address, or says why it doesn't.
+  // Loads the address, or tells the person why not.
   void Load(const QString& address);
   void ShowCaption();
   void ShowHistory();
@@ -57,9 +57,9 @@ class FrmBrowser : public QMainWindow {
   void ShowState();
   void View_Progress(qint64 progress, qint64 maximum);
   void View_Finished();
-  // Says where a local page is in UTF-8 that it doesn't declare.
+  // Shows a hint if a local page is in UTF-8 and doesn't declare it.
   void ShowEncoding();
-  // Into the first row of the list, which is selected; its other rows of this address go.
+  // Makes the address the first row of the list, selects the row and removes older rows of the same address.
   void PutOnTop(const QString& address);
   void Stop_Click();
   void Open_Click();
@@ -69,13 +69,13 @@ class FrmBrowser : public QMainWindow {
   Platform& platform_;
   std::function<void()> end_program_;
   std::unique_ptr<Ui::frmBrowser> ui_;
-  QString link_;  // the one that is pointed at
+  QString link_;  // the link under the mouse
   QLabel* status_ = nullptr;
   QLabel* progress_ = nullptr;
   QLabel* encoding_ = nullptr;
   QTimer timTimer{this};
   bool centred_ = false;
-  std::unique_ptr<WebView> view_;  // last: its page must not call into a window that is half gone
+  std::unique_ptr<WebView> view_;  // declared last, so deleted first: its page calls this window
 };
 
 }  // namespace pelmar

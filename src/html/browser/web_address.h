@@ -1,5 +1,5 @@
-// Between the addresses that a person reads and writes and the URLs that the web view takes. The program writes a
-// file's address with nothing encoded ("file:///home/jan/moje stránka.html"), and it stays readable that way.
+// Converts addresses that a person reads and writes to URLs for the web view, and back. An address of a file stays
+// readable, since nothing in it is encoded ("file:///home/jan/moje stránka.html").
 #pragma once
 
 #include <QString>
@@ -8,20 +8,20 @@
 
 namespace pelmar {
 
-// A file's address names the file as it stands where there is one, signs like "#" and "%" included. Anything else is
-// taken as a browser takes it: a path, a host without "http://" or a full address. Invalid where it makes no sense.
+// An address of an existing file may contain characters like "#" and "%". Other text is read as in any browser: a path,
+// a host without "http://" or a full address. The URL is invalid if the text is no address.
 QUrl UrlOfAddress(const QString& address);
 
 QString AddressOfUrl(const QUrl& url);
-// Percent-encoded where the path is no UTF-8, since a person couldn't write it otherwise.
+// Percent-encoded if the path isn't UTF-8, since nobody could type it otherwise.
 QString AddressOfFile(std::string_view path);
 
 inline bool IsOfTheNet(const QUrl& url) {
   return url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https");
 }
 
-// Whether a page of this address may be shown: of the net (http, https), a file, data, or the empty page. All others
-// lead into the engine, where some end the whole program, or to what it doesn't know.
+// Whether the browser may show the URL: http, https, a file, data, or the empty page. The engine doesn't know other
+// schemes or uses them itself, and some of those end the whole program.
 inline bool MayBeShown(const QUrl& url) {
   const QString scheme = url.scheme();
   for (const char* shown : {"http", "https", "file", "data"})
@@ -29,9 +29,9 @@ inline bool MayBeShown(const QUrl& url) {
   return url.toString() == QLatin1String("about:blank");
 }
 
-inline constexpr int kLongestShown = 300;  // characters of an address in a message
+inline constexpr int kLongestShown = 300;  // the most characters of an address in a message
 
-// A text for a message, with dots where it is longer.
+// Shortens a text for a message. Dots mark the cut.
 inline QString Shortened(const QString& text, int most) {
   return text.size() <= most ? text : text.left(most) + QLatin1String(" ...");
 }

@@ -1,5 +1,5 @@
-// A control that shows web pages, as the internal browser's window sees it. The real one lies in the module
-// pelmar-browser, which is loaded at its first use; tests have a scripted one. Everything runs on the interface thread.
+// A widget that shows web pages, for the window of the internal browser. The module pelmar-browser has the real one,
+// the tests have a scripted one. All calls come from the interface thread.
 #pragma once
 
 #include <QString>
@@ -19,33 +19,33 @@ class WebView {
   WebView& operator=(const WebView&) = delete;
   virtual ~WebView() = default;
 
-  // What is on the screen. This object owns it, though it is a child of the widget that the view was made for.
+  // The widget on the screen. This object owns the widget, although the widget also has a parent.
   [[nodiscard]] virtual QWidget* Widget() = 0;
 
-  // Where there is nothing to do (no page to go back to), these do nothing.
+  // These do nothing if there is nothing to do, for example no page to go back to.
   virtual void Load(const QUrl& address) = 0;
-  virtual void Go(int places) = 0;  // in the history: -1 back, 1 forward
+  virtual void Go(int places) = 0;  // steps in the history: -1 back, 1 forward
   virtual void Refresh() = 0;
   virtual void Stop() = 0;
-  // Ends a page that doesn't answer within three seconds. The commands above do that too.
+  // Ends the page's process if it doesn't answer within three seconds. The commands above do the same.
   virtual void EndIfStuck() = 0;
-  // Loads the present page again, and what it has on the net with it, this once.
+  // Loads the present page again, this once with its parts from the net.
   virtual void LoadFromNet() = 0;
 
   [[nodiscard]] virtual bool CanGo(int places) const = 0;
   [[nodiscard]] virtual bool Busy() const = 0;
-  [[nodiscard]] virtual QString LocationName() const = 0;  // the page's title; its file's name where it has none
+  [[nodiscard]] virtual QString LocationName() const = 0;  // the page's title, or the file's name without a title
   [[nodiscard]] virtual QUrl LocationAddress() const = 0;
 
-  std::function<void(qint64 progress, qint64 maximum)> on_progress;  // a maximum of 0 when there is nothing to load
+  std::function<void(qint64 progress, qint64 maximum)> on_progress;  // the maximum is 0 if nothing loads
   std::function<void()> on_change;                                   // the title changed or a load began
   std::function<void(bool)>
-      on_withheld;                    // a local page has parts on the net that it didn't get; false: another page comes
-  std::function<void()> on_finished;  // a load ended, well or not, or the page's own link led elsewhere in it
-  std::function<void(const QString&)> on_link;  // the address of the link that is pointed at; "" when it is left
+      on_withheld;                    // true: a local page didn't get its parts from the net; false: another page loads
+  std::function<void()> on_finished;  // a load ended or failed, or a link led to another place in the page
+  std::function<void(const QString&)> on_link;  // the address of the link under the mouse, or ""
 };
 
-// What the module's plug-in object is.
+// The interface of the module's plug-in object.
 class WebViewMaker {
  public:
   WebViewMaker() = default;
