@@ -13,25 +13,25 @@
 
 #include "html/engine/net_gate.h"
 
-// The toolkit's own door for this, in no public header: the context that all others share.
+// This function of the toolkit has no public header. It sets the context that all others share.
 extern void qt_gl_set_global_share_context(QOpenGLContext* context);
 
 namespace pelmar {
 namespace {
 
 constexpr char kFlags[] = "QTWEBENGINE_CHROMIUM_FLAGS";
-// All that reaches the net goes over TCP and through the program's gate, which also asks for the names of hosts.
+// All traffic to the net uses TCP and the program's gate, which also resolves the names of hosts.
 constexpr char kOnlyThroughTheGate[] =
     " --force-webrtc-ip-handling-policy=disable_non_proxied_udp --disable-quic --dns-prefetch-disable"
     " --host-resolver-rules=\"MAP * ~NOTFOUND, EXCLUDE ";
-// What the engine would follow before it looks at the variable of the gate. A desktop's own settings are among it.
+// The engine follows these variables before the variable of the gate. Some lead to the desktop's own settings.
 constexpr const char* kBeforeTheGate[] = {
     "auto_proxy",    "AUTO_PROXY",          "all_proxy",       "ALL_PROXY",        "http_proxy",
     "HTTP_PROXY",    "https_proxy",         "HTTPS_PROXY",     "ftp_proxy",        "FTP_PROXY",
     "SOCKS_VERSION", "XDG_CURRENT_DESKTOP", "DESKTOP_SESSION", "KDE_FULL_SESSION", "GNOME_DESKTOP_SESSION_ID"};
 constexpr char kNoSandbox[] = "QTWEBENGINE_DISABLE_SANDBOX";
 
-// The sandbox needs a user name space of its own, and refuses root. Without one the engine would end the whole program.
+// The sandbox needs a user name space and refuses root. Without a sandbox the engine would end the whole program.
 bool SandboxWorks() {
   if (geteuid() == 0) return false;
   const pid_t child = fork();
@@ -42,8 +42,8 @@ bool SandboxWorks() {
   return child > 0 && WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
-// The engine draws by software here, and yet it looks at the shared context's format: an empty context is enough. The
-// ordinary way, AA_ShareOpenGLContexts, makes a real one at every start of the program.
+// The engine draws by software, so an empty context is enough: the engine only reads its format. The usual attribute,
+// AA_ShareOpenGLContexts, creates a real context at every start of the program.
 void ShareEmptyContext() {
   if (QOpenGLContext::globalShareContext() != nullptr) return;
   auto* context = new QOpenGLContext(qApp);
@@ -72,14 +72,14 @@ ScopedVariable::~ScopedVariable() {
 EngineStart::EngineStart() {
   const auto set = [this](const char* name, const QByteArray& value) { variables_.emplace_back(name, value); };
   set(kFlags, qgetenv(kFlags) + " --disable-gpu --lang=cs" + kOnlyThroughTheGate + kGateHost + "\"");
-  // Servers of this machine too.
+  // Servers of this machine go through the gate too.
   set("no_proxy", "<-loopback>");
   for (const char* name : kBeforeTheGate) set(name, QByteArray());
   if (!SandboxWorks()) set(kNoSandbox, "1");
   ShareEmptyContext();
   QNetworkProxyFactory::setUseSystemConfiguration(true);
   QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
-  // Reports of its start go to its standard error, and to nobody's use.
+  // Nobody needs the engine's reports of its start on standard error.
   QLoggingCategory::setFilterRules(QStringLiteral("default=false\nqt.webenginecontext=false"));
 }
 

@@ -1,4 +1,4 @@
-// What the web engine has to be told before its first page, because it is loaded late. Once it runs, it asks no more.
+// The settings that the web engine reads once, when it starts. The engine starts at the first use of the browser.
 #pragma once
 
 #include <QByteArray>
@@ -7,7 +7,7 @@
 
 namespace pelmar {
 
-// A variable of the environment, set, or not there for a null value, while this lives.
+// Sets a variable of the environment, or removes the variable for a null value. The destructor restores the old value.
 class ScopedVariable {
  public:
   ScopedVariable(const char* name, const QByteArray& value);
@@ -20,11 +20,11 @@ class ScopedVariable {
   std::optional<QByteArray> old_;
 };
 
-// The variable that tells the engine's profiles their gate while they are made.
+// The variable from which a new profile of the engine reads the address of its gate.
 inline constexpr char kWayOut[] = "SOCKS_SERVER";
 
-// While one of these lives, the engine may start. The environment is as before when it has gone, so that other programs
-// that this one starts aren't touched.
+// The engine may start while an object of this class exists. The destructor restores the environment, which other
+// programs inherit from this one.
 class EngineStart {
  public:
   EngineStart();

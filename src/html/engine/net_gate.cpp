@@ -14,12 +14,12 @@
 namespace pelmar {
 namespace {
 
-constexpr qint64 kMostHeld = qint64{256} * 1024;  // bytes that wait on one side for the other
+constexpr qint64 kMostHeld = qint64{256} * 1024;  // the most bytes that one side holds for the other
 constexpr char kVersion = 5, kConnect = 1, kAddress4 = 1, kName = 3, kAddress6 = 4, kDone = 0, kRefused = 2,
                kFailed = 5;
 constexpr qsizetype kHeadLength = 4, kPortLength = 2;
 
-// Whether the other end of a connection to this machine is a socket of this process.
+// Whether the other end of a local connection is a socket of this process.
 bool IsOurs(const QTcpSocket& socket) {
   for (const QString& name :
        QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System)) {
@@ -38,7 +38,7 @@ struct Target {
   quint16 port = 0;
 };
 
-// The connection that a SOCKS request asks for, where all of it has come.
+// Reads the target of a SOCKS request. Nothing if the request is incomplete.
 std::optional<Target> ReadTarget(const QByteArray& request) {
   if (request.size() <= kHeadLength) return std::nullopt;
   const char kind = request[3];
@@ -54,7 +54,7 @@ std::optional<Target> ReadTarget(const QByteArray& request) {
   return target;
 }
 
-// One connection through the gate. It goes with the engine's end of it.
+// One connection through the gate. The engine's socket owns the passage.
 class Passage : public QObject {
  public:
   explicit Passage(QTcpSocket* engine) : QObject(engine), engine_(*engine) {
@@ -96,7 +96,7 @@ class Passage : public QObject {
     if (!target) return;
     if (request_[1] != kConnect) return Refuse(kRefused);
     step_ = Step::kConnecting;
-    // Where the system has a proxy of its own, the way leads on through that.
+    // The system may have a proxy of its own.
     QUrl address;
     address.setScheme(target->port == 443 ? QStringLiteral("https") : QStringLiteral("http"));
     address.setHost(target->host);
@@ -143,7 +143,7 @@ NetGate::NetGate(bool open) : open_(open) {
 }
 
 QByteArray NetGate::Address() const {
-  // Where it can't listen, nothing goes out at all.
+  // If the gate can't listen, the engine gets a port without a service and reaches nothing.
   const int port = server_.isListening() ? server_.serverPort() : 9;
   return QByteArray(kGateHost) + ':' + QByteArray::number(port);
 }

@@ -1,6 +1,6 @@
-// The engine's only way to the net: a SOCKS proxy within this process, which everything that the engine sends over TCP
-// has to pass, whoever asked for it (scripts, sockets, peer connections). It serves nobody but this process, and is
-// open or shut for life: a gate that opens lets out what an earlier page has asked for.
+// The engine's only way to the net: a SOCKS proxy within this process. Everything that the engine sends over TCP passes
+// the gate, also from scripts, sockets and peer connections. The gate serves only this process. A gate never changes
+// between open and shut, since an opened gate would let out requests of earlier pages.
 #pragma once
 
 #include <QByteArray>
@@ -8,14 +8,14 @@
 
 namespace pelmar {
 
-// An address of this machine that nothing else is likely to have: it is the only one that the engine reaches directly.
+// A local address that nothing else is likely to use. The engine reaches only this address directly.
 inline constexpr char kGateHost[] = "127.0.0.71";
 
 class NetGate : public QObject {
  public:
   explicit NetGate(bool open);
 
-  // As the engine is told it.
+  // The gate's host and port, as the engine reads them.
   [[nodiscard]] QByteArray Address() const;
 
  private:

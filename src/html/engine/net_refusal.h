@@ -1,5 +1,5 @@
-// Refuses what a page asks for beyond its side, before it gets as far as the gate, and all addresses within the engine
-// itself. It belongs to a profile: what a page of the disk asked for stays refused, whatever is shown by then.
+// Refuses requests to the net for pages that must stay on the disk, and requests for the engine's own addresses for all
+// pages. Each profile has its own refusal, so late requests of a local page stay refused.
 #pragma once
 
 #include <QWebEngineUrlRequestInterceptor>
@@ -9,7 +9,7 @@ namespace pelmar {
 
 class NetRefusal : public QWebEngineUrlRequestInterceptor {
  public:
-  // `on_withheld` is called for a part of a page that its reader would miss.
+  // `on_withheld` is called for each refused part that a reader of the page would miss.
   NetRefusal(bool lets_to_net, std::function<void()> on_withheld, QObject* parent)
       : QWebEngineUrlRequestInterceptor(parent), lets_to_net_(lets_to_net), on_withheld_(std::move(on_withheld)) {}
   void interceptRequest(QWebEngineUrlRequestInfo& request) override;

@@ -30,19 +30,20 @@ namespace {
 
 QString Title() { return QStringLiteral("Zpráva stránky"); }
 
-// The engine's own question, asked as a page's.
+// The engine asks this question through javaScriptConfirm().
 constexpr char kLeaving[] = "Are you sure you want to leave this page? Changes that you made may not be saved.";
 constexpr int kMostUnasked = 2;         // questions before a page may be silenced
-constexpr int kLongestQuestion = 2000;  // characters of a page's own words
-// Characters of an address of the net, and those of one line of it: all of it is seen, or it isn't asked for.
+constexpr int kLongestQuestion = 2000;  // characters of a page's own text
+// The most characters of an address and of one of its lines. A longer address isn't opened, since the person must see
+// all of it.
 constexpr qsizetype kLongestAsked = 1000, kAddressLine = 80;
 
-// What a frame of a page may hold besides.
+// A frame of a page may also hold about: and blob: addresses.
 bool MayBeFramed(const QUrl& address) {
   return MayBeShown(address) || address.scheme() == QLatin1String("about") || address.scheme() == QLatin1String("blob");
 }
 
-// The toolkit's own stays pressed for a moment before its key takes effect, and Enter may come sooner.
+// The access key toggles this box at once. The toolkit's box waits a moment, and Enter may come sooner.
 class SilenceBox : public QCheckBox {
  public:
   SilenceBox() : QCheckBox(QStringLiteral("&Další zprávy této stránky neukazovat")) {}
@@ -61,11 +62,11 @@ WebEnginePage::WebEnginePage(QWebEngineProfile* profile, PageSide side) : QWebEn
   settings()->setDefaultTextEncoding(QStringLiteral("windows-1250"));
   settings()->setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
   settings()->setAttribute(QWebEngineSettings::LocalContentCanAccessFileUrls, true);
-  // Not for good: what the engine's own rule stops, nobody hears of. The refusal and the gate hold it back.
+  // The refusal and the gate block the net. The engine's own rule would block it without notifying on_withheld.
   settings()->setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, true);
   settings()->setAttribute(QWebEngineSettings::JavascriptEnabled, side != PageSide::kDiskWithNet);
   settings()->setAttribute(QWebEngineSettings::HyperlinkAuditingEnabled, false);
-  // A window only where the person has clicked: a page could ask for them without end.
+  // A page may open a window only at a click, since a script could open windows without end.
   settings()->setAttribute(QWebEngineSettings::JavascriptCanOpenWindows, false);
   settings()->setAttribute(QWebEngineSettings::FocusOnNavigationEnabled, false);
   NameActions();
@@ -74,13 +75,13 @@ WebEnginePage::WebEnginePage(QWebEngineProfile* profile, PageSide side) : QWebEn
           [this](QWebEngineNewWindowRequest& request) { OpenHere(request.requestedUrl()); });
 }
 
-// What the program loads isn't held back as what the page loads is, so this is for pages that may go there.
+// The engine restricts a page's own links but not load(), so a page of the net must not open files here.
 void WebEnginePage::OpenHere(const QUrl& address) {
   if (IsOfTheNet(address) || (address.isLocalFile() && side_ != PageSide::kNet)) load(address);
 }
 
-// The scripts of a local page may read other local files, and an address can carry them away. So such a page reaches
-// the net only where the person has seen the whole address.
+// The scripts of a local page may read other local files and put their contents into an address. So a local page
+// reaches the net only after the person has seen the whole address.
 void WebEnginePage::AskToLeaveTheDisk(const QUrl& address) {
   QString shown = address.toString(QUrl::FullyEncoded);
   const qsizetype length = shown.size();
@@ -90,7 +91,7 @@ void WebEnginePage::AskToLeaveTheDisk(const QUrl& address) {
     AskInBox(Title(), refusal.arg(length), QMessageBox::Ok, QMessageBox::Ok);
     return;
   }
-  // A box breaks lines between words alone.
+  // A message box breaks lines only between words.
   for (qsizetype end = (length - 1) / kAddressLine * kAddressLine; end > 0; end -= kAddressLine)
     shown.insert(end, QLatin1Char('\n'));
   const QString question = QStringLiteral("Stránka odkazuje na internet. Otevřít adresu ?\n\n") + shown;
@@ -102,7 +103,7 @@ bool WebEnginePage::acceptNavigationRequest(const QUrl& address, NavigationType,
   if (!is_main_frame) return MayBeFramed(address);
   if (!MayBeShown(address) || (side_ == PageSide::kNet && address.isLocalFile())) return false;
   if (side_ != PageSide::kNet && IsOfTheNet(address)) {
-    // Not within the engine's own call.
+    // The engine's call has to return before the question is shown.
     QMetaObject::invokeMethod(
         this, [this, address] { AskToLeaveTheDisk(address); }, Qt::QueuedConnection);
     return false;
@@ -164,10 +165,10 @@ bool WebEnginePage::Ask(QDialog& question) {
   if (auto* box = qobject_cast<QMessageBox*>(&question); box != nullptr && silence != nullptr) {
     box->setCheckBox(silence);
   } else if (silence != nullptr) {
-    question.sizeHint();  // makes its layout
+    question.sizeHint();  // creates its layout
     question.layout()->addWidget(silence);
   }
-  // The editor and its other windows go on.
+  // The question doesn't block the editor and its other windows.
   question.setWindowModality(Qt::WindowModal);
   question_ = &question;
   if (on_asking) on_asking();
@@ -194,7 +195,7 @@ void WebEnginePage::javaScriptAlert(const QUrl&, const QString& text) {
 }
 
 bool WebEnginePage::javaScriptConfirm(const QUrl&, const QString& text) {
-  // A page that has been silenced can't keep the person from leaving it.
+  // A silenced page can't keep the person from leaving the page.
   if ((silenced_ || muted_) && text == QCoreApplication::translate("QWebEnginePage", kLeaving)) return true;
   return AskInBox(Title(), text, QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Ok);
 }

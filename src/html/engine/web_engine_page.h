@@ -1,6 +1,6 @@
-// A page of the web engine under the program's rules: it may show local files and what they load, but it gets no
-// permission, no download and no window of its own, and its questions come in Czech. The page and its processes stay on
-// one side, the disk's or the net's, from the first load to their end.
+// A page of the web engine. The page may show local files and load their parts, but gets no permission, no download and
+// no window of its own. Its questions are in Czech. The page and its processes stay on one side, the disk or the net,
+// for their whole life.
 #pragma once
 
 #include <QDialog>
@@ -13,7 +13,7 @@ namespace pelmar {
 
 enum class PageSide {
   kDisk,         // reads local files and sends nothing
-  kDiskWithNet,  // one load of a local page with its parts on the net; no script runs that could send what it reads
+  kDiskWithNet,  // one load of a local page with its parts on the net; its scripts, which could send files, don't run
   kNet,
 };
 
@@ -25,17 +25,17 @@ class WebEnginePage : public QWebEnginePage {
 
   [[nodiscard]] PageSide Side() const { return side_; }
 
-  // The person has given a command: an open question is answered with No, and so is every one until HearAgain().
+  // Call at each command of the person. Answers the open question, and all questions until HearAgain(), with No.
   void Silence();
   void HearAgain() { silenced_ = false; }
-  // Another page is asked for, which nobody has wished to be spared of.
+  // Call before another page loads: the person may have silenced the present one.
   void ForgetQuestions();
   [[nodiscard]] bool Asking() const { return question_ != nullptr; }
 
-  std::function<void()> on_coming;                    // another page is about to come
+  std::function<void()> on_coming;                    // another page is about to load
   std::function<void()> on_asking;                    // a question is about to be shown
-  std::function<void()> on_answered;                  // a question has gone
-  std::function<void(const QUrl& address)> on_leave;  // this page can't show it: another one has to
+  std::function<void()> on_answered;                  // a question was closed
+  std::function<void(const QUrl& address)> on_leave;  // this page can't show the address, another one has to
 
  protected:
   bool acceptNavigationRequest(const QUrl& address, NavigationType type, bool is_main_frame) override;
@@ -45,11 +45,11 @@ class WebEnginePage : public QWebEnginePage {
   void javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, const QString&, int, const QString&) override {}
 
  private:
-  // A page that asked for a window of its own.
+  // Shows the address in this page, although the page asked for a new window.
   void OpenHere(const QUrl& address);
   void AskToLeaveTheDisk(const QUrl& address);
-  // Shows a question of the page, and the offer to be spared further ones from the third on. False for No, and where
-  // the page asks while it is hidden, already asks or is not to be heard.
+  // Shows a question of the page. From the third question on, the person may silence the page. False for No, and if the
+  // page is hidden, already asks or is silenced.
   bool Ask(QDialog& question);
   bool AskInBox(const QString& title, const QString& text, QMessageBox::StandardButtons buttons,
                 QMessageBox::StandardButton default_button);
@@ -59,8 +59,8 @@ class WebEnginePage : public QWebEnginePage {
   const PageSide side_;
   bool loaded_ = false;
   QPointer<QDialog> question_;
-  int questions_ = 0;   // of the page
-  bool muted_ = false;  // the person wants no more of them
+  int questions_ = 0;   // number of questions of the page so far
+  bool muted_ = false;  // the person silenced the page
   bool silenced_ = false;
 };
 

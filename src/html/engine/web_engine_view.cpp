@@ -16,9 +16,9 @@
 namespace pelmar {
 namespace {
 
-// A command that hasn't begun to load by then loads nothing, as a step to another place of the same page.
+// If no load begins within this time, the command loads nothing, for example a step within the same page.
 constexpr int kLongestExpectation = 1000;  // ms
-constexpr int kLongestSilence = 3000;      // ms, of a page that is to answer
+constexpr int kLongestSilence = 3000;      // ms until a page without an answer counts as stuck
 
 PageSide SideOf(const QUrl& address) { return IsOfTheNet(address) ? PageSide::kNet : PageSide::kDisk; }
 
@@ -74,21 +74,21 @@ void WebEngineView::ConnectPage() {
     if (on_progress) on_progress(percent, 100);
   });
   connect(page_.get(), &QWebEnginePage::loadFinished, this, &WebEngineView::Finished);
-  // A link within the page loads nothing.
+  // A link to another place in the page starts no load.
   connect(page_.get(), &QWebEnginePage::urlChanged, this, [this] {
     if (!Busy() && on_finished) on_finished();
   });
   connect(page_.get(), &QWebEnginePage::linkHovered, this, [this](const QString& address) {
     if (on_link) on_link(address);
   });
-  // Not within a call of the page, which may go then.
+  // Queued: the handler may delete the page, but only after the page's own call has returned.
   connect(page_.get(), &QWebEnginePage::renderProcessTerminated, this, &WebEngineView::ProcessEnded,
           Qt::QueuedConnection);
   page_->on_leave = [this](const QUrl& address) {
     QMetaObject::invokeMethod(
         this, [this, address] { Load(address); }, Qt::QueuedConnection);
   };
-  // A page that asks isn't stuck, however long the person thinks.
+  // A page that asks a question isn't stuck, however long the person thinks.
   page_->on_asking = [this] {
     unanswered_.stop();
     held_up_ = {};
@@ -102,7 +102,7 @@ void WebEngineView::ConnectPage() {
 void WebEngineView::Command(std::function<void()> step) {
   const bool was_asking = page_->Asking();
   page_->Silence();
-  // The question is a loop of events within the engine's own call, which has to return first.
+  // The question runs an event loop within the engine's call, which has to return first.
   if (was_asking) {
     after_question_ = [this, step] { Command(step); };
     return;
@@ -162,7 +162,7 @@ void WebEngineView::ProcessEnded() {
   ++probes_;
   Answered();
   if (step) return step();
-  // A page whose process died is not loading any more.
+  // A page without a process doesn't load.
   Finished();
 }
 
@@ -204,7 +204,7 @@ void WebEngineView::Load(const QUrl& address) {
 
 bool WebEngineView::CanGo(int places) const {
   const QWebEngineHistory& own = *page_->history();
-  // A page that went on by itself has left behind what was ahead.
+  // A page that has moved on by itself drops the later places of the history.
   return places < 0 ? own.canGoBack() || place_ > 0
                     : own.canGoForward() || (own.count() <= 1 && place_ + 1 < places_.size());
 }
@@ -245,7 +245,7 @@ bool WebEngineView::Busy() const { return expecting_.isActive() || page_->isLoad
 
 QString WebEngineView::LocationName() const {
   const QString title = page_->title();
-  // Where a page has no title, the engine makes one of the file's name, and encodes some of it.
+  // For a page without a title the engine uses the file's name, partly percent-encoded.
   const QString name = page_->url().fileName(QUrl::FullyDecoded);
   return QUrl::fromPercentEncoding(title.toUtf8()) == name ? name : title;
 }

@@ -1,5 +1,5 @@
-// The web view of the module: Qt WebEngine, drawn without a graphics processor, so that it works on every screen and
-// the program needn't prepare for it at its start. Nothing of what is visited is kept on the disk.
+// The module's web view: Qt WebEngine, drawn without a graphics processor, so the view works on every screen and needs
+// no preparation when the program starts. Nothing about visited pages is kept on the disk.
 #pragma once
 
 #include <QList>
@@ -36,18 +36,18 @@ class WebEngineView : public QObject, public WebView {
   [[nodiscard]] QUrl LocationAddress() const override;
 
  private:
-  // The one page from now on, of which nothing is loaded yet.
+  // Replaces the page by an empty one.
   void MakePage(PageSide side);
   void ConnectPage();
-  // A command of the person that goes to another page.
+  // Runs a command of the person that leads to another page.
   void Command(std::function<void()> step);
-  // A step within the present page.
+  // Runs a step that keeps the present page and its process.
   void Stay(const std::function<void()>& step);
-  // Loads a place in a new page. The process of the present one has ended by then.
+  // Loads a place of the history in a new page. The process of the present page must have ended.
   void Cross(qsizetype place, PageSide side);
-  // Puts the present page's history into places_.
+  // Copies the present page's history into places_.
   void GatherPlaces();
-  // Ends the page's process where it doesn't answer in time, and then takes the step that it held up.
+  // Asks the page for an answer. If none comes in time, ends the page's process and runs the step.
   void Probe(std::function<void()> step);
   void Answered();
   void EndProcess(std::function<void()> then);
@@ -57,17 +57,17 @@ class WebEngineView : public QObject, public WebView {
   void ShowMenu(const QPoint& at);
 
   NetGate open_gate_{true}, shut_gate_{false};
-  // A profile learns its way out when it is made, and keeps it.
+  // A profile reads the address of its gate when it is made, and keeps it.
   std::map<PageSide, std::unique_ptr<QWebEngineProfile>> profiles_;
   std::unique_ptr<WebEnginePage> page_;
   std::unique_ptr<QWebEngineView> view_;
-  QList<QUrl> places_;   // the history; the present page's own takes the place of the one at place_
+  QList<QUrl> places_;   // the history; at place_ the present page's own history is inserted
   qsizetype place_ = 0;  // from 0
-  QTimer expecting_;     // runs from a command to the begin of its load
-  QTimer unanswered_;    // runs while the page owes an answer to a probe
-  qint64 probed_ = 0;    // the process that owes it
+  QTimer expecting_;     // runs from a command until its load begins
+  QTimer unanswered_;    // runs until the page answers a probe
+  qint64 probed_ = 0;    // the process that was probed
   int probes_ = 0;
-  std::function<void()> held_up_;  // a command that waits for the page's answer or for its end
+  std::function<void()> held_up_;  // a step that waits for the page's answer or for the end of its process
   std::function<void()> after_question_;
 };
 
