@@ -1,5 +1,4 @@
-// The horizontal and vertical alignment of a row or a cell, as both dialogs have it. Its fields bear the same names in
-// both.
+// The horizontal and vertical alignment of a row or a cell. Both dialogs have this block, with the same field names.
 #pragma once
 
 #include <QWidget>

@@ -1,5 +1,5 @@
-// The piece that the tag editor and its neighbours share: a pair of boxes to choose or type an attribute and its value,
-// the pair of lists, add and remove. It works also where it stands in a window that is hidden.
+// The block that the tag editor and similar dialogs share: two boxes for an attribute and its value, the pair of lists,
+// and the buttons that add and remove. The block also works in a hidden window.
 #pragma once
 
 #include <QWidget>

@@ -1,6 +1,6 @@
-// The base of the row's and the cell's dialog. The menu shows them beside the editor, where Ok inserts tags; the table
-// builder asks one of them for attributes alone and waits for the answer. Both callers find the fields as they were
-// left.
+// The base of the dialogs for a row and a cell. From the menu a dialog stays open beside the editor, and Ok inserts
+// tags. The table builder asks a dialog only for attributes and waits for the answer. The fields keep their values from
+// one use to the next.
 #pragma once
 
 #include <optional>
@@ -14,9 +14,9 @@ namespace pelmar {
 template <class Form>
 class AttributesDialog : public FragmentDialog<Form> {
  public:
-  // Waits for the attributes, with the blank before the first; "" for none of them, nothing on cancel.
+  // Waits for the attributes, with a blank before the first one. Empty if none is set, nothing on cancel.
   std::optional<std::string> AskAttributes() {
-    this->hide();  // a window on show can't become modal
+    this->hide();  // a visible window can't become modal
     answer_.reset();
     for_builder_ = true;
     EnableForEditor(false);
@@ -31,7 +31,7 @@ class AttributesDialog : public FragmentDialog<Form> {
 
   [[nodiscard]] virtual std::string OpeningTag() const = 0;
   virtual void InsertTags() = 0;
-  // What means nothing to the builder can't be touched in its mode.
+  // Disables the fields that mean nothing to the table builder.
   virtual void EnableForEditor(bool enabled) = 0;
 
  private:

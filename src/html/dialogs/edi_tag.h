@@ -1,5 +1,5 @@
-// `EdiTag`: the tag around the caret in fields. A fresh one is made for each opening; it blocks the main window, so the
-// tag stays selected until it is written over.
+// `EdiTag`: shows the tag around the caret in fields. Each opening makes a new dialog. The dialog blocks the main
+// window, so the tag stays selected until Ok replaces the tag.
 #pragma once
 
 #include <functional>
@@ -20,7 +20,7 @@ class EdiTag : public FragmentDialog<Ui::EdiTag> {
  public:
   EdiTag(TextBuffer& document, Platform& platform, std::function<Color(Color)> pick_color, QWidget* parent);
 
-  // Reads the tag, with a message where that fails, and returns when the dialog is closed.
+  // Reads the tag, with a message if the tag can't be read, and returns when the dialog is closed.
   void Run();
 
  private:

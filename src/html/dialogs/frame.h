@@ -1,4 +1,4 @@
-// `Frame`: one FRAME tag at the caret, for a file that is chosen from lists.
+// `Frame`: one FRAME tag at the caret, for a file chosen from lists.
 #pragma once
 
 #include "html/dialogs/file_choice.h"

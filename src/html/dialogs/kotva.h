@@ -1,4 +1,4 @@
-// `Kotva`: an anchor at the caret; its name is kept for the dialog that links to it.
+// `Kotva`: an anchor at the caret, which the dialog `Odkaz` then offers.
 #pragma once
 
 #include <functional>

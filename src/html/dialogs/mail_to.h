@@ -15,7 +15,7 @@ class MailTo : public FragmentDialog<Ui::MailTo> {
   Q_OBJECT
 
  public:
-  // `address` is what the field begins with, Windows-1250.
+  // `address` is the initial text of the field, in Windows-1250.
   MailTo(TextBuffer& document, const std::string& address, QWidget* parent);
 
  private:

@@ -9,7 +9,7 @@ Obrazek::Obrazek(TextBuffer& document, std::function<void(const std::string&)> s
     : FragmentDialog(document, parent), choice_(FileChoice::Of(*ui_, ui_->Check5, ui_->Label1)) {
   choice_.Link(std::move(show_in_browser));
   EnableGroups();
-  // required: in pixels the width goes further than the height
+  // required: in pixels the width has a larger range than the height
   LinkUnit(ui_->Option6, ui_->VScroll1, ui_->Label3, BlankLed, {10, 200}, {1, 600});
   LinkUnit(ui_->Option6, ui_->VScroll2, ui_->Label4, BlankLed, {10, 200}, {1, 800});
   ShowValue(ui_->VScroll3, ui_->Label8, BlankLed);

@@ -1,4 +1,4 @@
-// `Obrazek`: one IMG tag at the caret, for a picture that is chosen from lists.
+// `Obrazek`: one IMG tag at the caret, for a picture chosen from lists.
 #pragma once
 
 #include "html/dialogs/file_choice.h"

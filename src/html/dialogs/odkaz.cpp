@@ -7,11 +7,11 @@
 namespace pelmar {
 
 Odkaz::Odkaz(TextBuffer& document, QWidget* parent) : FragmentDialog(document, parent) {
-  AcceptFreeText(ui_->Combo1);  // the toolkit would make "Kotva10" of a typed "Kotva1"
+  AcceptFreeText(ui_->Combo1);  // the toolkit would complete a typed "Kotva1" to "Kotva10"
 }
 
 void Odkaz::AddAnchor(const QString& name) {
-  const QString typed = ui_->Combo1->currentText();  // which the first row of a list takes the place of
+  const QString typed = ui_->Combo1->currentText();  // the first row of a list replaces this text
   ui_->Combo1->addItem(name);
   ui_->Combo1->setEditText(typed);
   AcceptFreeText(ui_->Combo1);

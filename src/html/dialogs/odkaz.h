@@ -1,5 +1,5 @@
-// `Odkaz`: a link to an anchor of the same document. Its list is all that the program knows of anchors: those that
-// were made in this run, in their order, whichever document they went to.
+// `Odkaz`: a link to an anchor of the same document. Its list holds the anchors made in this run, in their order, for
+// whichever document they were made.
 #pragma once
 
 #include "platform/qt/controls/fragment_dialog.h"
@@ -16,7 +16,7 @@ class Odkaz : public FragmentDialog<Ui::Odkaz> {
  public:
   Odkaz(TextBuffer& document, QWidget* parent);
 
-  // At the end of the list, also a name that stands in it already. The field keeps its text.
+  // Appends the name to the list, even if the list has the name already. The field keeps its text.
   void AddAnchor(const QString& name);
 
  private:

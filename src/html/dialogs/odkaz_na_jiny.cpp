@@ -12,9 +12,9 @@ OdkazNaJiny::OdkazNaJiny(TextBuffer& document, std::function<void(const std::str
   choice_.Link(std::move(show_in_browser));
   EnableWith(ui_->Check1, {ui_->Text2});
   EnableWith(ui_->Check3, {ui_->Combo2});
-  AcceptFreeText(ui_->Combo2);  // the toolkit would make "_self" of a frame of one's own that is called "_s"
+  AcceptFreeText(ui_->Combo2);  // the toolkit would complete the name "_s" of a frame to "_self"
   connect(ui_->Option1, &QRadioButton::toggled, this, &OdkazNaJiny::Option_Click);
-  // A click on the option that is set already counts as well.
+  // A click on an option that is already set counts too.
   connect(ui_->Option1, &QRadioButton::clicked, this, &OdkazNaJiny::Option_Click);
   connect(ui_->Option2, &QRadioButton::clicked, this, &OdkazNaJiny::Option_Click);
   connect(ui_->Text1, &QLineEdit::textChanged, this, &OdkazNaJiny::Text1_Change);
@@ -28,7 +28,7 @@ void OdkazNaJiny::Option_Click() {
 }
 
 void OdkazNaJiny::Text1_Change() {
-  // required: the fragment is looked at, not the address that is being typed
+  // required: the fragment decides, not the address that the person types
   ui_->Command1->setEnabled(!ui_->Text2->text().isEmpty());
 }
 

@@ -49,7 +49,7 @@ void RemoveByKey(QListWidget& list, QAbstractButton& remove) {
   auto* key = new QShortcut(QKeySequence(Qt::Key_Delete), &list);
   key->setContext(Qt::WidgetShortcut);
   QObject::connect(key, &QShortcut::activated, &remove, [&list, &remove] {
-    if (SelectedRow(list) >= 0) remove.click();  // which takes the last row where none is
+    if (SelectedRow(list) >= 0) remove.click();  // without a selected row the button would remove the last row
   });
 }
 
@@ -93,9 +93,9 @@ void PairedLists::Follow(QListWidget* other, int row) {
 }
 
 void PairedLists::FieldChanged(const QString& text, QListWidget* list) {
-  // required: by the field that changed last, whatever the other one holds
+  // required: only the field that changed last decides
   parts_.add->setEnabled(!text.isEmpty());
-  // A row that was only looked at stays as it is.
+  // Selecting a row doesn't change the row.
   if (!edits_rows_ || following_) return;
   if (const int row = SelectedRow(*list); row >= 0) list->item(row)->setText(text);
 }

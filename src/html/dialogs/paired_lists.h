@@ -1,5 +1,4 @@
-// Lists that a person fills row by row: adding before the selected row, removing it, and the two parallel lists of the
-// tag editor and its neighbours.
+// Lists that a person fills row by row, and the two parallel lists of the tag editor and similar dialogs.
 #pragma once
 
 #include <QObject>
@@ -15,23 +14,23 @@ class QListWidget;
 
 namespace pelmar {
 
-// The index of the selected row, -1 where none is.
+// The index of the selected row, -1 if none is selected.
 int SelectedRow(const QListWidget& list);
 
-// Before the selected row, or at the end.
+// Adds a row before the selected row, or at the end.
 void AddRow(QListWidget& list, const QString& text);
 
-// Removes the selected row, or the last one, and leaves none selected. Nothing where the list is empty.
+// Removes the selected row, or the last one, and selects no other. Does nothing on an empty list.
 void RemoveRow(QListWidget& list);
 
-// The key Delete in the list presses the button that removes rows.
+// The key Delete in the list clicks the button that removes rows.
 void RemoveByKey(QListWidget& list, QAbstractButton& remove);
 
-// The rows' texts, Windows-1250.
+// The texts of the rows, in Windows-1250.
 std::vector<std::string> RowTexts(const QListWidget& list);
 
-// Two lists of which row i belongs to row i, two fields to add a pair from, and the buttons for adding and removing.
-// required: the lists may get out of step, since each removes by its own selection.
+// Two lists whose rows form pairs, two fields for a new pair, and the buttons that add and remove pairs. required: the
+// lists may get out of step, since each one removes its own selected row.
 class PairedLists : public QObject {
  public:
   struct Parts {
@@ -45,10 +44,10 @@ class PairedLists : public QObject {
 
   PairedLists(const Parts& parts, QObject* parent);
 
-  // From now on the fields take the texts of a clicked row, and what is typed into them goes into the selected rows.
+  // After this call the fields show the texts of a clicked row, and typing into them changes the selected rows.
   void EditSelectedRows() { edits_rows_ = true; }
 
-  // Adds a pair, where that is allowed, and gets the first field ready for the next.
+  // Adds a pair if the button is enabled, and selects the first field for the next pair.
   void Add();
 
   [[nodiscard]] AttributeLists Rows() const;
@@ -61,7 +60,7 @@ class PairedLists : public QObject {
 
   Parts parts_;
   bool edits_rows_ = false;
-  bool following_ = false;  // the fields are taking the texts of a row
+  bool following_ = false;  // true while the fields take the texts of a row
 };
 
 }  // namespace pelmar

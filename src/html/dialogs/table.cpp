@@ -14,7 +14,7 @@ void ShowPosition(QLabel* label, const QScrollBar* position, const QScrollBar* c
   label->setText(QStringLiteral("%1/%2").arg(position->value()).arg(count->value()));
 }
 
-// The dialog's answer becomes the field's text, which the grid takes over as if it were typed.
+// Writes the dialog's answer into the field. The grid then stores the text as if a person had typed it.
 void AskInto(QLineEdit* field, const Table::AskAttributes& ask) {
   if (const std::optional<std::string> attributes = ask()) field->setText(TextToQString(*attributes));
 }
@@ -77,7 +77,7 @@ void Table::ConnectGroups() {
   EnableWith(ui_->Check7, {ui_->VScroll6});
   EnableWith(ui_->Check8, {ui_->Text2, ui_->Option18, ui_->Option19, ui_->Option20, ui_->Option21});
   LinkUnit(ui_->Option2, ui_->VScroll3, ui_->Label5);
-  // required: Label7 begins at " 1" over a bar at 0, and what it says is written
+  // required: Label7 begins at " 1" although its bar is at 0, and the tag gets the label's text
   ShowValue(ui_->VScroll4, ui_->Label7, BlankLed);
   ShowValue(ui_->VScroll5, ui_->Label8, BlankLed);
   ShowValue(ui_->VScroll6, ui_->Label9, BlankLed);
@@ -122,7 +122,7 @@ void Table::ShowCell() {
   ui_->Text3->setText(TextToQString(Attributes()));
 }
 
-// To the right, then to the next row, and behind the last cell to the end of it all.
+// Moves to the right, then to the next row, and from the last cell to the button Ok.
 void Table::GoToNextCell() {
   QScrollBar &column = *ui_->HScroll1, &row = *ui_->VScroll7;
   const bool last_column = column.value() == column.maximum();

@@ -1,5 +1,5 @@
-// `Table`: the table builder. One tab holds the table's size and attributes, the other walks over the grid, whose cells
-// take each change of their fields at once. The grid is never cleared.
+// `Table`: the table builder. One tab has the table's size and attributes, the other one shows a cell and a row of the
+// grid and stores each change of their fields at once. The grid is never cleared.
 #pragma once
 
 #include <functional>
@@ -19,7 +19,7 @@ class Table : public FragmentDialog<Ui::Table> {
   Q_OBJECT
 
  public:
-  // Waits for attributes; nothing on cancel.
+  // Asks the person for attributes. Nothing on cancel.
   using AskAttributes = std::function<std::optional<std::string>()>;
 
   Table(TextBuffer& document, AskAttributes ask_cell, AskAttributes ask_row, QWidget* parent);
@@ -36,7 +36,7 @@ class Table : public FragmentDialog<Ui::Table> {
   [[nodiscard]] TableSpec Read() const;
   bool Put() override;
 
-  // The strings at the present position.
+  // The grid's strings for the shown cell and row.
   std::string& Text();
   std::string& Attributes();
   std::string& RowAttributes();

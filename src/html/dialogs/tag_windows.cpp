@@ -28,7 +28,7 @@ void AddTagWindows(const ProgramParts& parts) {
   parts.Add<SeznamDef>({"MnuListDef"}, text);
   parts.Add<Tagy>({"mnuvlastni"}, text);
   parts.Add<Attr>({"mnuatr"}, text, platform);
-  // required: without a dialog; the hidden window's fields say what the tag is
+  // required: no dialog opens; the fields of the hidden window give the tag
   parts.editor.commands.Add("Mnu_Insert_Custom_Tag",
                             [&windows = parts.windows] { windows.Get<Tagy>().InsertCustomTag(); });
   parts.editor.commands.Add(

@@ -72,7 +72,7 @@ PageSpec Vytvor::Read() const {
   return spec;
 }
 
-// required: the editor takes the swatches' colours, which differ from the hex labels as long as none was picked
+// required: the editor gets the swatches' colours, which differ from the hex labels until the person picks a colour
 void Vytvor::ColorEditor() {
   if (!ui_->Check1->isChecked() && !ui_->Check2->isChecked()) return;
   const EditorLook look = view_.Look();

@@ -1,4 +1,4 @@
-// `Vytvoř`: a whole page around the document. Its colours of background and text become those of the editor too.
+// `Vytvoř`: a whole page around the document. The editor takes over the page's background and text colours.
 #pragma once
 
 #include "html/dialogs/file_choice.h"
