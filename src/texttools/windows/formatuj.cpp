@@ -69,7 +69,7 @@ void Formatuj::ShowShortest(std::size_t length) {
 
 void Formatuj::List1_Click(int row) { ShowFieldText(*ui_->Text3, rows_[static_cast<std::size_t>(row)]); }
 
-// required: what is edited by hand isn't counted anew
+// required: editing a row by hand doesn't update the length of the shortest row
 void Formatuj::Text3_Change() {
   const QList<QListWidgetItem*> picked = ui_->List1->selectedItems();
   if (picked.isEmpty()) return;

@@ -1,5 +1,5 @@
-// `Formatuj`: the column tool over the selected lines. It reads the selection once, when it is made, so each opening
-// takes a new one.
+// `Formatuj`: the column tool for the selected lines. The dialog reads the selection only when it is made, so each
+// opening makes a new dialog.
 #pragma once
 
 #include <functional>

@@ -33,7 +33,7 @@ void Hledani::Step(void (Finder::*step)()) {
   TakeFields();
   (finder_.*step)();
   ShowFields();
-  // What had the keyboard may be off now. Enter goes on with a search, and behind its end the next term can be typed.
+  // The step may disable the focused control. The focus goes to the button for the next match, or to the field.
   if (!finder_.next_on) return ui_->Find->setFocus();
   ui_->Command2->setFocus();
   MoveAside(*this, match_());

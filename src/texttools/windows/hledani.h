@@ -1,4 +1,4 @@
-// `Hledání`: finding step by step in a snapshot of the document, with a history of what was sought.
+// `Hledání`: finds step by step in a copy of the document, with a history of the search terms.
 #pragma once
 
 #include <QRect>
@@ -17,7 +17,7 @@ class Hledani : public FormDialog<Ui::Hledani> {
   Q_OBJECT
 
  public:
-  // `match` is where on the screen the match shows, nothing where it doesn't: the window moves off it.
+  // `match` returns the place of a visible match on the screen, else an empty one. The window moves off the match.
   Hledani(TextBuffer& document, Platform& platform, std::function<QRect()> match, QWidget* parent);
 
  private:

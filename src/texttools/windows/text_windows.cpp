@@ -33,7 +33,7 @@ void AddTextWindows(const ProgramParts& parts) {
                     Visual::Doors{parts.ColorDoor(), [&windows] { windows.Anew<Pos>().Present(); }});
   parts.editor.commands.Add("mnupresnvyb", [&windows] {
     auto& window = windows.Anew<Vyber>();
-    if (window.isVisible()) window.Load();  // the selection may be another one by now
+    if (window.isVisible()) window.Load();  // the selection may have changed
     window.Present();
   });
   parts.editor.commands.Add("mnumore", [&windows] { windows.Anew<Visual>().Present(); });

@@ -20,7 +20,7 @@ Visual::Visual(MainView& view, SettingsRecord& settings, Doors doors, QWidget* p
   connect(ui_->Check1, &QCheckBox::clicked, this, [this](bool checked) { settings_.LineCounting = checked; });
   connect(ui_->VScroll7, &QScrollBar::valueChanged, this, &Visual::VScroll7_Change);
   connect(ui_->Command5, &QPushButton::clicked, this, [this] { settings_.AutosnapDistance = ui_->VScroll7->value(); });
-  // required: only the slider goes back, until Command5 takes it over
+  // required: the button resets only the slider, and Command5 stores the value
   connect(ui_->Command6, &QPushButton::clicked, this, [this] { ui_->VScroll7->setValue(kDefaultSnap); });
   connect(ui_->Command1, &QPushButton::clicked, this, &Visual::Command1_Click);
   connect(ui_->Command2, &QPushButton::clicked, this, &Visual::hide);
@@ -42,7 +42,7 @@ void Visual::ConnectPreview() {
     connect(option, &QRadioButton::toggled, this, [this, family = Utf8ToQString(name)](bool on) {
       if (on) SetPreviewFont([&family](QFont& font) { font.setFamily(family); });
     });
-  ui_->Combo1->setCompleter(nullptr);  // it would make "24" of a typed "2"
+  ui_->Combo1->setCompleter(nullptr);  // the toolkit would complete a typed "2" to "24"
   connect(ui_->Combo1, &QComboBox::editTextChanged, this, &Visual::Combo1_Change);
   connect(ui_->Command8, &QPushButton::clicked, this,
           [this] { ui_->Label1->setTextColor(ColorToQt(doors_.pick_color(ColorFromQt(ui_->Label1->TextColor())))); });
@@ -71,10 +71,10 @@ void Visual::Load() {
 }
 
 void Visual::FollowFontSize() {
-  // A size that isn't in the list selects nothing.
+  // A size outside the list selects no row.
   const int row = ui_->Combo1->findText(QString::number(view_.Look().font_size));
   ui_->Combo1->setCurrentIndex(row);
-  if (row >= 0) Combo1_Change();  // no event tells the preview of the size that the box shows already
+  if (row >= 0) Combo1_Change();  // no event updates the preview if the box already shows the size
 }
 
 void Visual::FollowLineCounting() { ui_->Check1->setChecked(settings_.LineCounting); }

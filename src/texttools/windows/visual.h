@@ -28,7 +28,7 @@ class Visual : public FormDialog<Ui::Visual> {
   };
   Visual(MainView& view, SettingsRecord& settings, Doors doors, QWidget* parent);
 
-  // The main text box took another size, or the status bar switched the counting.
+  // Call when the main text box has changed its font size, or the status bar has switched the line counting.
   void FollowFontSize();
   void FollowLineCounting();
 

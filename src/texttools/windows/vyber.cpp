@@ -28,7 +28,7 @@ void Vyber::Change(QLabel* label, int value) {
   document_.SetSelStart(static_cast<std::size_t>(ui_->Start->value()));
   document_.SetSelLength(static_cast<std::size_t>(ui_->Delka->value()));
   ui_->Start->setMaximum(static_cast<int>(document_.Size()));
-  // Cuts the length where it reaches behind the end, which comes here again.
+  // If the length reaches past the end, the slider shortens the length and calls this function again.
   ui_->Delka->setMaximum(ui_->Start->maximum() - ui_->Start->value());
   ui_->Label5->setText(TextToQString(document_.SelText()));
 }

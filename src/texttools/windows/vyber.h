@@ -1,5 +1,4 @@
-// `Výběr`: the exact selection by two sliders. It reads the selection when it is made and when it is told to, so each
-// opening takes a new one.
+// `Výběr`: sets the exact selection by two sliders. The dialog reads the selection when it is made and at Load().
 #pragma once
 
 #include "platform/qt/controls/dialog_window.h"
@@ -19,7 +18,7 @@ class Vyber : public FormDialog<Ui::Vyber> {
  public:
   Vyber(TextBuffer& document, QWidget* parent);
 
-  // Takes the selection of now into the sliders, which keep it as it is.
+  // Sets the sliders to the present selection, which stays as it is.
   void Load();
 
  private:

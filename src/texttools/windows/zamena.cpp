@@ -44,7 +44,7 @@ void Zamena::Step(void (Replacer::*step)()) {
   TakeFields();
   (replacer_.*step)();
   ShowFields();
-  // The button that had the keyboard is off, and the next one, where one Enter too many would go, replaces all.
+  // The last step disables the focused button. The focus must not go on to the button that replaces all.
   if (!replacer_.step_on) return ui_->Command4->setFocus();
   MoveAside(*this, match_());
 }

@@ -1,4 +1,4 @@
-// `Záměna`: replacing step by step or all at once, with two histories that go row by row.
+// `Záměna`: replaces step by step or all at once, with two histories whose rows belong together.
 #pragma once
 
 #include <QRect>
@@ -17,7 +17,7 @@ class Zamena : public FormDialog<Ui::Zamena> {
   Q_OBJECT
 
  public:
-  // `match` is where on the screen the match shows, nothing where it doesn't: the window moves off it.
+  // `match` returns the place of a visible match on the screen, else an empty one. The window moves off the match.
   Zamena(TextBuffer& document, Platform& platform, std::function<QRect()> match, QWidget* parent);
 
  private:
