@@ -1,4 +1,4 @@
-// `CHT`: the common hacker transcription of the whole document.
+// `CHT`: rewrites the whole document in the common hacker transcription.
 #pragma once
 
 #include "platform/platform.h"

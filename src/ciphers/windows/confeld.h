@@ -1,4 +1,4 @@
-// `Confeld`: letters moved by the digits of a password, over the document or over a pair of fields for quick text.
+// `Confeld`: shifts letters by the digits of a password, in the document or from one field to another.
 #pragma once
 
 #include <string>

@@ -11,7 +11,7 @@ namespace {
 int CaretIn(const QString& shown, const QString& typed, int caret) {
   const auto length = static_cast<int>(shown.size());
   if (shown == QLatin1String("0")) return length;
-  // What went away stood before the number (a 0, a blank), or else behind it.
+  // `rewrite` has removed characters before the number (a 0, a blank) or after the number.
   const int fallen = typed.endsWith(shown) ? static_cast<int>(typed.size()) - length : 0;
   return std::clamp(caret - fallen, 0, length);
 }

@@ -1,4 +1,4 @@
-// A single-line field whose text is rewritten after each change, as the key fields of the ciphers are.
+// A single-line field that rewrites its text after each change, for the keys of the ciphers.
 #pragma once
 
 #include <functional>
@@ -9,8 +9,8 @@ class QLineEdit;
 
 namespace pelmar {
 
-// From now on the field shows what `rewrite` makes of what is put into it. A rewritten text is left alone by `rewrite`.
-// The caret stays where typing goes on: at its place in what is left, behind a 0 that stands for nothing.
+// Rewrites the field's text after each change. `rewrite` must leave its own result unchanged. The caret keeps its place
+// in the remaining text, or follows the text if only "0" remains.
 void RewriteOnChange(QLineEdit* field, std::function<std::string(std::string_view)> rewrite);
 
 }  // namespace pelmar

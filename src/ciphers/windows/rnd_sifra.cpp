@@ -25,7 +25,7 @@ RND_Sifra::RND_Sifra(Editor& editor, QWidget* parent)
       document_(editor.text),
       platform_(editor.platform),
       files_(editor.platform, editor.file_number) {
-  for (QListWidget* list : {ui_->List1, ui_->List2}) ShowRowsOnOneLine(*list);  // a table may be any file
+  for (QListWidget* list : {ui_->List1, ui_->List2}) ShowRowsOnOneLine(*list);  // any file can be loaded as a table
   connect(ui_->Command1, &QPushButton::clicked, this,
           [this] { ui_->Text1->Buffer().SetText(PrepareText(document_.Text())); });
   connect(ui_->Command2, &QPushButton::clicked, this, &RND_Sifra::Command2_Click);
@@ -57,7 +57,7 @@ void RND_Sifra::Command3_Click() {
     ShowLetters();
     ui_->Text2->Buffer().SetText(table_.note);
     loaded = ShowCoefficients(CountedDigits::kFirstEight);
-  } catch (const RuntimeError&) {  // told below, like a table that can't be one
+  } catch (const RuntimeError&) {  // reported below, like an unusable table
   }
   if (!loaded) return void(platform_.Message(MessageType::kOk, "Nepodařilo se otevřít ...", "Open RND"));
   EnableTableButtons();
@@ -70,7 +70,7 @@ void RND_Sifra::Command5_Click() {
 }
 
 void RND_Sifra::Command6_Click() {
-  if (table_.depth == 0) return;  // no table but what an empty file left: it would cost the document
+  if (table_.depth == 0) return;  // an empty file leaves a table without depth, which would erase the document
   ReplaceDocument(document_, RndDecipher(ui_->Text1->Buffer().Text(), table_, StartProgress()));
 }
 
@@ -88,7 +88,7 @@ void RND_Sifra::Command9_Click() {
 
 void RND_Sifra::Text2_Change() {
   TextBuffer& note = ui_->Text2->Buffer();
-  // No more than the file takes; this comes here again.
+  // Cuts the note to the longest field of a file. The cut calls this function again.
   if (note.Size() > kLongestField) return note.Replace(kLongestField, note.Size() - kLongestField, {});
   table_.note = note.Text();
 }

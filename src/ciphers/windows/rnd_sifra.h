@@ -1,5 +1,5 @@
-// `RND_Sifra`: the RND cipher with its table, which lives in this window and in files. The cipher works on the prepared
-// text that is shown here and writes its result over the document.
+// `RND_Sifra`: the RND cipher. The table is kept in this window and in files. The cipher reads the prepared text in the
+// window and replaces the document by the result.
 #pragma once
 
 #include "ciphers/rnd_cipher.h"
@@ -33,7 +33,7 @@ class RND_Sifra : public FormDialog<Ui::RND_Sifra> {
   void GenerateNewLetterSplit();
   void ShowCodes();
   void ShowLetters();
-  // False where they can't be computed, which the label then tells.
+  // False if the coefficients can't be computed. The label then shows the failure.
   bool ShowCoefficients(CountedDigits counted);
   void EnableTableButtons();
   [[nodiscard]] Progress StartProgress();

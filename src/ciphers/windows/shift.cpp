@@ -8,7 +8,7 @@
 namespace pelmar {
 
 Shift::Shift(TextBuffer& document, QWidget* parent) : FragmentDialog(document, parent) {
-  // required: the text is shown unrotated, although the bar stands at 1 already
+  // required: the text begins unrotated although the bar begins at 1
   ui_->Text1->Buffer().SetText(std::string(document_.SelText()));
   ui_->Orig->SetText(ui_->Text1->Text());
   ui_->HScroll1->setMaximum(std::max(ui_->HScroll1->minimum(), static_cast<int>(document_.SelLength())));

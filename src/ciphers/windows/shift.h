@@ -1,4 +1,4 @@
-// `Shift`: the selected text rotated by whole characters. Modal; it begins anew with the selection of each opening.
+// `Shift`: rotates the selected text by whole characters. Modal; each opening starts with the present selection.
 #pragma once
 
 #include "platform/qt/controls/fragment_dialog.h"

@@ -1,4 +1,4 @@
-// `ShiftKod`: letters shifted by 0 to 26, over the document or over a pair of fields for quick text.
+// `ShiftKod`: shifts letters by 0 to 26, in the document or from one field to another.
 #pragma once
 
 #include "platform/platform.h"

@@ -22,14 +22,14 @@ ZaKod::ZaKod(Editor& editor, std::function<bool()> closed, QWidget* parent)
 }
 
 void ZaKod::Command1_Click() {
-  if (running_) return;  // pressed again while the rewrite below lets the windows live
+  if (running_) return;  // pressed again while the loop below handles events
   const QScopedValueRollback<bool> running(running_, true);
   ui_->Txt->Buffer().SetText({});
   const double key = LeadingNumber(FieldText(*ui_->Text1));
   const auto length = static_cast<int>(editor_.text.Size());
-  ui_->ProgressBar1->setMaximum(std::max(1, length));  // a maximum of 0 means another thing
+  ui_->ProgressBar1->setMaximum(std::max(1, length));  // a maximum of 0 would show a busy bar
   ui_->ProgressBar1->setValue(0);
-  // The result belongs to no other document than the one that it comes from.
+  // The result belongs only to the document that was read.
   const Documents& documents = editor_.documents;
   const auto same_document = [&documents, tab = documents.SelectedTab(), path = documents.CurrentPath()] {
     return documents.SelectedTab() == tab && documents.CurrentPath() == path;

@@ -1,5 +1,5 @@
-// `ZaKod`: the stream cipher over the whole document. The window lives while it works; what may happen meanwhile
-// (typing, a press of any button, another document) is provided for here and in RewriteStream.
+// `ZaKod`: the stream cipher for the whole document. The program handles events while the cipher runs, so this class
+// and RewriteStream allow for typing, clicks and another document meanwhile.
 #pragma once
 
 #include <functional>
@@ -18,7 +18,7 @@ class ZaKod : public FormDialog<Ui::ZaKod> {
   Q_OBJECT
 
  public:
-  // `closed` tells that the program is ending and the documents are stored already.
+  // `closed` returns true after the documents were stored and the program began to end.
   ZaKod(Editor& editor, std::function<bool()> closed, QWidget* parent);
 
  private:
