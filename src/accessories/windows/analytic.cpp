@@ -14,7 +14,7 @@
 namespace pelmar {
 namespace {
 
-// The rows keep their characters as they are, only their look differs.
+// The rows store the characters themselves and show names for control characters.
 class RowDelegate : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
@@ -27,7 +27,7 @@ class RowDelegate : public QStyledItemDelegate {
 
 Analytic::Analytic(const TextBuffer& document, QWidget* parent) : FormDialog(parent), document_(document) {
   ui_->List1->setItemDelegate(new RowDelegate(ui_->List1));
-  // A row with the name of a control character, and the bar beside it.
+  // Wide enough for a row with the name of a control character, and for the scroll bar.
   ui_->List1->setMinimumWidth(30 * ui_->List1->fontMetrics().averageCharWidth() + 40);
   timer1_.setObjectName(QStringLiteral("Timer1"));
   timer1_.setInterval(2000);
@@ -48,7 +48,7 @@ void Analytic::ConnectEvents() {
   OnEnter(ui_->Text2, [this] { (ui_->Command3->isEnabled() ? ui_->Command3 : ui_->Command1)->click(); });
   connect(ui_->Pic, &CharacterGraph::Pointed, this, &Analytic::Pic_Pointed);
   connect(&timer1_, &QTimer::timeout, this, &Analytic::Timer1_Timer);
-  // required: a character's key on the check box blanks the graph until the next analysis
+  // required: typing a character on the check box blanks the graph until the next analysis
   KeyRouter::Get().Add(KeyTurn::kField, *ui_->Check1, [this](QWidget&, const QKeyEvent& press) {
     if (!press.text().isEmpty() && press.text().front().isPrint()) ui_->Pic->Clear();
     return false;
@@ -68,7 +68,7 @@ void Analytic::AnalyseText(std::string_view text) {
   ShowRows(AnalysisRows(analysis));
 }
 
-// In place: the list stays where it was scrolled to, and the selection goes with its character.
+// Replaces rows in place: the list keeps its scroll position, and the selection follows its character.
 void Analytic::ShowRows(const std::vector<std::string>& rows) {
   QListWidget& list = *ui_->List1;
   const QListWidgetItem* selected = list.currentItem();
@@ -91,7 +91,7 @@ void Analytic::Command1_Click() { AnalyseText(Source()); }
 
 void Analytic::Command3_Click() {
   const std::string sought = FieldText(*ui_->Text2);
-  if (TextToQString(sought) != ui_->Text2->text()) return;  // not in the code page, so in no text
+  if (TextToQString(sought) != ui_->Text2->text()) return;  // no text has a character outside the code page
   for (int row = 0; row < ui_->List1->count(); ++row) {
     if (CharOfRow(TextFromQString(ui_->List1->item(row)->text())) != sought[0]) continue;
     ui_->List1->setCurrentRow(row);
@@ -129,7 +129,7 @@ void Analytic::showEvent(QShowEvent* event) {
   DialogWindow::showEvent(event);
   if (event->spontaneous()) return;
   timer1_.start();
-  Timer1_Timer();  // what the ticks would have shown meanwhile
+  Timer1_Timer();  // catches up, since the timer stops while the window is hidden
 }
 
 void Analytic::hideEvent(QHideEvent* event) {

@@ -12,7 +12,7 @@
 namespace pelmar {
 namespace {
 
-// The graph as assistive technology sees it: its value is the code that is pointed at, its description says more.
+// The graph for assistive technology. Its value is the marked code.
 class GraphAccessible : public QAccessibleWidget, public QAccessibleValueInterface {
  public:
   explicit GraphAccessible(CharacterGraph& graph) : QAccessibleWidget(&graph, QAccessible::Chart), graph_(graph) {}
@@ -80,7 +80,7 @@ void CharacterGraph::mouseMoveEvent(QMouseEvent* event) {
   Point(event->position().x() * kGraphWidth / std::max(width(), 1));
 }
 
-// The field around the graph takes clicks; those on the graph itself are none of its.
+// The field around the graph removes the mark at a click, so clicks on the graph must not reach the field.
 void CharacterGraph::mousePressEvent(QMouseEvent* event) { event->accept(); }
 
 void CharacterGraph::keyPressEvent(QKeyEvent* event) {
@@ -103,7 +103,7 @@ void CharacterGraph::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-// In whole pixels of the screen, so that equal bars look equal at every scale.
+// Paints whole pixels of the screen, so equal bars look equal at every scale.
 void CharacterGraph::PaintColumn(QPainter& painter, double x, double top, const QColor& color) const {
   const double ratio = devicePixelRatioF();
   const double scale = width() * ratio / kGraphWidth;

@@ -1,5 +1,5 @@
-// The bar graph of the character analysis, in its own scale of 508 by 196 whatever the control's size. It follows the
-// mouse and the arrow keys and tells which place of the scale is pointed at.
+// The bar graph of the character analysis, in its own scale of 508 by 196 at any size of the control. The mouse and the
+// arrow keys mark a place on the scale.
 #pragma once
 
 #include <QWidget>
@@ -20,17 +20,17 @@ class CharacterGraph : public QWidget {
 
   void Show(std::vector<Bar> bars, bool wide);
   void Clear();
-  // No place is pointed at.
+  // Removes the mark.
   void ForgetPlace();
 
-  // The code that is pointed at, 0 where none is, and how high its bar stands, in percent.
+  // The code at the mark, 0 without a mark, and the height of its bar in percent.
   [[nodiscard]] int PointedCode() const;
   [[nodiscard]] int PointedShare() const;
   [[nodiscard]] int LastCode() const;
   void GoTo(int code);
 
  Q_SIGNALS:
-  void Pointed(double x);  // in the graph's scale
+  void Pointed(double x);  // the marked place, in the graph's scale
 
  protected:
   void mouseMoveEvent(QMouseEvent* event) override;

@@ -1,5 +1,5 @@
-// The pictures of the character table: the grid of the 256 codes, and one code at large. Control characters show by
-// their names, as in a text box, and so does the TAB.
+// The pictures of the character table: the grid of the 256 codes, and one enlarged code. Control characters and the TAB
+// are shown by their names.
 #pragma once
 
 #include <memory>
@@ -25,7 +25,7 @@ class CodeGrid : public CellGrid {
   void changeEvent(QEvent* event) override;
 
  private:
-  std::unique_ptr<GlyphTable> glyphs_;  // of the font in use, made at the first paint
+  std::unique_ptr<GlyphTable> glyphs_;  // for the present font, made at the first paint
 };
 
 class CodePreview : public QWidget {

@@ -1,4 +1,4 @@
-// `ColorDialog`: a colour by three sliders, with transformations and a history. PickColor is its only door.
+// `ColorDialog`: a colour from three sliders, with transformations and a history.
 #pragma once
 
 #include "accessories/color_math.h"
@@ -19,7 +19,7 @@ class ColorDialog : public FormDialog<Ui::ColorDialog> {
  public:
   ColorDialog(Platform& platform, QWidget* parent);
 
-  // Waits for a choice. required: after Storno the colour of the run's last Ok comes back, or black, not the given one.
+  // Waits for a choice. required: Storno returns the colour of the last Ok in this run, or black, not the given colour.
   Color PickColor(Color color);
 
  private:
@@ -31,7 +31,7 @@ class ColorDialog : public FormDialog<Ui::ColorDialog> {
   [[nodiscard]] Channels Now() const;
 
   Platform& platform_;
-  Color picked_color_ = 0;  // PickedColor
+  Color picked_color_ = 0;  // the colour of the last Ok
 };
 
 }  // namespace pelmar

@@ -18,13 +18,13 @@ Kalkul::Kalkul(Platform& platform, bool stand_alone, Doors doors, QWidget* paren
       doors_(std::move(doors)),
       calculator_(platform) {
   if (stand_alone_) {
-    setWindowFlags(Qt::Window);  // a program's window can be minimised, a dialog can't
+    setWindowFlags(Qt::Window);  // a window can be minimised, a dialog can't
     ui_->Command19->setText(QStringLiteral("&Clip"));
     ui_->Command20->setText(QStringLiteral("&Quit"));
   }
   cut_ = new QLabel(QStringLiteral("…"), ui_->Cislo);
   cut_->hide();
-  // In a group the arrow keys go from key to key by where they lie.
+  // In a button group the arrow keys move between the keys by position.
   auto* group = new QButtonGroup(this);
   group->setExclusive(false);
   for (QPushButton* button : findChildren<QPushButton*>()) group->addButton(button);
@@ -83,7 +83,7 @@ void Kalkul::Show() {
   ui_->Label1->setText(Utf8ToQString(calculator_.operation));
   ShowCut();
   ui_->Label2->setText(Utf8ToQString(calculator_.operand));
-  // A key that goes off while it has the keyboard would hand it to the next one; the number keeps it safe.
+  // A disabled key would pass its focus to the next key, so the focus goes to the number.
   const QWidget* focus = focusWidget();
   for (QPushButton* key : {ui_->Command12, ui_->Command13, ui_->Command14, ui_->Command15, ui_->Command32})
     key->setEnabled(calculator_.OperatorsOn());
@@ -126,7 +126,7 @@ void Kalkul::closeEvent(QCloseEvent* event) {
 
 void Kalkul::showEvent(QShowEvent* event) {
   DialogWindow::showEvent(event);
-  ShowCut();  // also of a number that came before
+  ShowCut();  // the number may have been set while the window was hidden
 }
 
 QPushButton* Kalkul::KeyOf(char character) const {

@@ -1,5 +1,5 @@
-// `Kalkul`: the desk calculator, by mouse and by the keys of the real keyboard. Its own buttons only hide it; its close
-// box unloads it, which forgets what it holds, and ends the program where it runs alone.
+// `Kalkul`: the desk calculator, for the mouse and the real keyboard. Beside the editor its buttons hide the window,
+// and its close box unloads the window and the number. A calculator that is the whole program asks and ends instead.
 #pragma once
 
 #include <functional>
@@ -22,16 +22,16 @@ class Kalkul : public FormDialog<Ui::Kalkul> {
 
  public:
   struct Doors {
-    std::function<void(const std::string&)> hand_over;  // the number, to the text or to the clipboard
+    std::function<void(const std::string&)> hand_over;  // takes the number to the text or to the clipboard
     std::function<void()> show_converter;
     std::function<void()> hide_converter;
-    std::function<void()> unload;       // forgets this window, after the event at hand
-    std::function<void()> end_program;  // where the calculator runs alone
+    std::function<void()> unload;       // deletes this window after the present event
+    std::function<void()> end_program;  // if the calculator is the whole program
   };
 
   Kalkul(Platform& platform, bool stand_alone, Doors doors, QWidget* parent);
 
-  // Shows a number in place of the one that is there.
+  // Replaces the shown number.
   void SetNumber(const std::string& number);
 
  protected:
@@ -54,7 +54,7 @@ class Kalkul : public FormDialog<Ui::Kalkul> {
   bool stand_alone_;
   Doors doors_;
   Calculator calculator_;
-  QLabel* cut_;  // dots before a number of which only the end is to be seen
+  QLabel* cut_;  // dots before a number whose beginning doesn't fit
 };
 
 }  // namespace pelmar

@@ -20,9 +20,9 @@ KeyPreview::KeyPreview(QWidget& window, std::function<Preview(const QKeyEvent&)>
   const QList<QWidget*> widgets = window.findChildren<QWidget*>() << &window;
   for (QWidget* widget : widgets) {
     widget->installEventFilter(this);
-    // Or nothing would compose letters while a button has the keyboard.
+    // Without this attribute no letters could be composed while a button has the focus.
     widget->setAttribute(Qt::WA_InputMethodEnabled);
-    // A held Enter goes on to the window too, but presses a button only once.
+    // A held Enter repeats, except on a button, which it presses only once.
     if (!qobject_cast<QPushButton*>(widget)) widget->setInputMethodHints(widget->inputMethodHints() | Qt::ImhMultiLine);
   }
 }
@@ -33,12 +33,12 @@ bool KeyPreview::eventFilter(QObject*, QEvent* event) {
 
 bool KeyPreview::Takes(QWidget& receiver, QKeyEvent& press) {
   const Preview preview = first_(press);
-  // Straight to the control: what it refuses is not for the dialog, which would press its default button.
+  // The control gets the key directly. Otherwise a refused key would reach the dialog and press its default button.
   if (preview == Preview::kShare) static_cast<QObject&>(receiver).event(&press);
   return preview != Preview::kPass;
 }
 
-// What dead keys or an input method composed comes without a key of its own. Shared, it reaches the control as it came.
+// Letters from dead keys or an input method come without a key press. A shared letter also reaches the control.
 bool KeyPreview::TakesComposed(const QInputMethodEvent& event) {
   bool taken = false;
   for (const char letter : PageText(event.commitString())) {

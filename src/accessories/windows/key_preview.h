@@ -1,5 +1,5 @@
-// Lets a window have each key press, and each composed letter, before the control that has the keyboard.
-// A preview is made last in the window's constructor, when all its controls are there.
+// Gives a window each key press and each composed letter before the focused control. Make the preview at the end of the
+// window's constructor, after all its controls.
 #pragma once
 
 #include <QObject>
@@ -13,9 +13,9 @@ class QWidget;
 namespace pelmar {
 
 enum class Preview {
-  kPass,   // not the window's key: it goes on as if there were no preview
-  kTake,   // the window had it, nobody else gets it
-  kShare,  // the window had it, and the control with the keyboard gets it too
+  kPass,   // the window doesn't use the key, and the focused control gets the key as usual
+  kTake,   // only the window uses the key
+  kShare,  // the window and the focused control use the key
 };
 
 class KeyPreview : public QObject {
@@ -32,8 +32,8 @@ class KeyPreview : public QObject {
   std::function<Preview(const QKeyEvent&)> first_;
 };
 
-// The character of a key press in Windows-1250; 13 for Enter and 8 for Backspace. Nothing for keys that move, for the
-// tabulator, for Escape and for shortcuts.
+// The character of a key press in Windows-1250, 13 for Enter and 8 for Backspace. Nothing for Tab, Escape, shortcuts
+// and keys that move the caret.
 std::optional<char> TypedCharacter(const QKeyEvent& event);
 
 }  // namespace pelmar

@@ -15,14 +15,14 @@ namespace pelmar {
 Klavesnice::Klavesnice(TextBuffer& document, QWidget* parent) : FormDialog(parent), document_(document) {
   ConnectKeys();
   ConnectShift();
-  // No key has the keyboard until the tabulator gives it one.
+  // No key has the focus until the person presses Tab.
   setFocusPolicy(Qt::StrongFocus);
   setFocus();
   new KeyPreview(*this, [this](const QKeyEvent& event) { return PhysicalKey(event); });
 }
 
 void Klavesnice::ConnectKeys() {
-  // In a group the arrow keys go from key to key by where they lie.
+  // In a button group the arrow keys move between the keys by position.
   auto* group = new QButtonGroup(this);
   group->setExclusive(false);
   group->addButton(ui_->Check1);
@@ -48,7 +48,7 @@ void Klavesnice::ConnectShift() {
   connect(ui_->Check2, &QCheckBox::toggled, ui_->Check1, &QCheckBox::setChecked);
 }
 
-// Signs and digits have no upper case, so Shift leaves them as they are.
+// Signs and digits have no upper case, so Shift doesn't change them.
 std::string Klavesnice::Shifted(const std::string& text) const {
   return ui_->Check1->isChecked() ? ToUpper(text) : text;
 }
@@ -56,9 +56,9 @@ std::string Klavesnice::Shifted(const std::string& text) const {
 Preview Klavesnice::PhysicalKey(const QKeyEvent& event) {
   const auto character = TypedCharacter(event);
   if (!character) return Preview::kPass;
-  // The space bar works a key that the tabulator went to.
+  // If a key has the focus, the space bar presses the key.
   if (*character == ' ' && focusWidget() != this) return Preview::kPass;
-  // required: any character goes in as it is, so Enter puts in the character 13 alone
+  // required: control characters are inserted too, so Enter inserts only the character 13
   InsertAtCaret(document_, Shifted(std::string(1, *character)));
   setFocus();
   return Preview::kTake;

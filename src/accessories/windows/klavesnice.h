@@ -1,5 +1,5 @@
-// `Klavesnice`: a Czech keyboard on the screen that types into the document. Its keys don't take the keyboard when they
-// are clicked, so what is typed on the real one while this window is the active one lands in the document as well.
+// `Klavesnice`: a Czech keyboard on the screen that types into the document. Clicked keys don't take the focus, and
+// while this window is active, the real keyboard types into the document too.
 #pragma once
 
 #include <string>

@@ -19,7 +19,7 @@ QString Readable(int code) { return ReadableText(std::string(1, CharOf(code))); 
 
 QString SpokenName(int code) { return QStringLiteral("%1, kód %2").arg(Readable(code)).arg(code); }
 
-// As everywhere, what is selected stays, behind the new text.
+// Inserts before the selected text, which stays, as everywhere in the program.
 void InsertInto(QLineEdit& field, const QString& text) {
   if (field.hasSelectedText()) field.setCursorPosition(field.selectionStart());
   field.insert(text);
@@ -35,9 +35,9 @@ void SetFamily(QWidget& widget, const QString& family) {
 
 Kod::Kod(TextBuffer& document, std::function<void(const QKeyEvent&)> stroke_main, QWidget* parent)
     : FormDialog(parent), document_(document), stroke_main_(std::move(stroke_main)) {
-  // The form's cells are for letters of 10 points.
+  // The form's cells fit letters of 10 points.
   ui_->Picture1->setMinimumSize(ui_->Picture1->minimumSize() * (ui_->Picture1->font().pointSizeF() / 10));
-  ui_->Combo1->setCompleter(nullptr);  // it would make "Courier New" of a typed "Courier"
+  ui_->Combo1->setCompleter(nullptr);  // the toolkit would complete a typed "Courier" to "Courier New"
   connect(ui_->Combo1, &QComboBox::currentTextChanged, this, &Kod::Combo1_Change);
   connect(ui_->HScroll1, &QScrollBar::valueChanged, this, &Kod::HScroll1_Change);
   connect(ui_->Command3, &QPushButton::clicked, this, &Kod::Command3_Click);
@@ -60,7 +60,7 @@ void Kod::Combo1_Change(const QString& font_name) {
 
 void Kod::HScroll1_Change(int code) {
   ui_->Label1->setText(QString::number(code));
-  // A caption ends at its first character of code 0, so that of code 0 is empty.
+  // A caption ends at a character of code 0, so the caption of code 0 is empty.
   ui_->Label2->setText(code == 0 ? QString() : Readable(code));
 }
 
@@ -93,13 +93,12 @@ Preview Kod::TypedKey(const QKeyEvent& event) {
   const auto character = TypedCharacter(event);
   if (!character || !ui_->Option1->isChecked()) return Preview::kPass;
   const QWidget* focus = focusWidget();
-  // Keys that work a control of this window stay with it: the space bar on buttons and options, Enter on buttons and
-  // on a cell.
+  // These keys work a control of this window: the space bar on buttons and options, Enter on buttons and on a cell.
   if (*character == ' ' && qobject_cast<const QAbstractButton*>(focus)) return Preview::kPass;
   if (*character == '\r' && qobject_cast<const QPushButton*>(focus)) return Preview::kPass;
   if (*character == '\r' && focus == ui_->Picture1 && ui_->Picture1->MarkedByKeys()) return Preview::kPass;
   stroke_main_(event);
-  // required: a field that has the keyboard gets the key as well
+  // required: a focused field gets the key too
   return focus == ui_->Text1 || focus == ui_->Combo1 ? Preview::kShare : Preview::kTake;
 }
 

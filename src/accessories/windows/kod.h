@@ -1,6 +1,6 @@
-// `kod`: the 256 codes as a grid. A click, or Enter on the cell that the arrow keys went to, puts the character or its
-// reference into the document, or collects it first. While characters go in directly, typed keys go to the document
-// too.
+// `kod`: the 256 codes as a grid. A click, or Enter on a cell marked by the arrow keys, inserts the character or its
+// reference into the document, or collects the character first. If characters are inserted directly, typed keys go to
+// the document too.
 #pragma once
 
 #include <functional>
@@ -19,7 +19,7 @@ class Kod : public FormDialog<Ui::kod> {
   Q_OBJECT
 
  public:
-  // `stroke_main` gives a key stroke to the main window and returns when it was handled.
+  // `stroke_main` sends a key stroke to the main window and returns after the stroke was handled.
   Kod(TextBuffer& document, std::function<void(const QKeyEvent&)> stroke_main, QWidget* parent);
 
  private:

@@ -47,7 +47,7 @@ void Morse::mnuMakeMorse_Click() {
   box.ReplaceSelection(TextToMorse(box.SelText()));
 }
 
-// The box takes no typed characters, so they come here.
+// The box is read-only, so typed characters reach the window.
 void Morse::keyPressEvent(QKeyEvent* event) {
   const std::string typed = TextFromQString(TypedText(*event));
   if (typed.empty()) return DialogWindow::keyPressEvent(event);

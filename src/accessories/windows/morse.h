@@ -1,4 +1,4 @@
-// `Morse`: a read-only box that collects signs, from the menus, from typed keys and from the clipboard.
+// `Morse`: a read-only box that collects Morse signs from the menus, from typed keys and from the clipboard.
 #pragma once
 
 #include <string_view>

@@ -16,7 +16,7 @@ QString Caption(int page) { return QStringLiteral("Poznámka %1").arg(page); }
 
 NoteTabs::NoteTabs(QWidget* parent) : QTabBar(parent) {
   setExpanding(false);
-  // Arrows would lie in the middle of the strip, under the text.
+  // Scroll buttons would lie in the middle of the strip, under the text.
   setUsesScrollButtons(false);
   setDrawBase(false);
   for (int page = 1; page <= kNotePages; ++page) {

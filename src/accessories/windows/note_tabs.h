@@ -1,5 +1,5 @@
-// The tabs of the notes. The strip spans the window's whole client area; only its row of tabs shows, above the text. In
-// a window too narrow for the captions the tabs show their numbers.
+// The tabs of the notes. The strip fills the window's client area, but only its row of tabs shows, above the text. In a
+// narrow window the tabs show their numbers instead of captions.
 #pragma once
 
 #include <QTabBar>
@@ -12,7 +12,7 @@ class NoteTabs : public QTabBar {
  public:
   explicit NoteTabs(QWidget* parent = nullptr);
 
-  // 330 twips, in pixels; more only for a font that doesn't fit in.
+  // In pixels: 330 twips, or more for a large font.
   [[nodiscard]] int RowHeight() const;
 
  protected:

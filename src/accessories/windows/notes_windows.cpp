@@ -36,7 +36,7 @@ void AddCheckpoints(const ProgramParts& parts) {
   parts.editor.commands.Add("mnu_chp_v", [parts] { ShowNotes(parts); });
   parts.editor.commands.Add("mnu_chp_r", [parts, &document] {
     auto& notes = parts.windows.Get<Poznamka>();
-    notes.OfferRescued();  // the checkpoint may be among it
+    notes.OfferRescued();  // the rescued notes may contain the checkpoint
     RestoreCheckpoint(notes.Text(), document, parts.platform);
   });
 }

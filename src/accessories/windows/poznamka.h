@@ -1,6 +1,6 @@
-// `Poznamka`: five pages of notes, always on top, docked to the main window or snapped to the screen's edges. It lives
-// from its first use until it is closed; the file changes only then. What isn't stored yet lies in a rescue file, which
-// outlives the program and is offered back when the notes are next opened.
+// `Poznamka`: five notes pages, always on top, docked to the main window or snapped to the screen's edges. The window
+// writes the file only when it closes. Until then a rescue file keeps the changes. If the program fails before, the
+// next opening of the notes offers the rescued changes.
 #pragma once
 
 #include <QTimer>
@@ -32,21 +32,21 @@ class Poznamka : public QWidget {
     FileNumber& file_number;
     const SettingsRecord& settings;
     const MainView& main;
-    QObject* main_window = nullptr;  // the same as an object, whose moves are followed
+    QObject* main_window = nullptr;  // the main window as an object, to watch its moves
     StartMode mode = StartMode::kEditor;
-    std::function<void()> end;  // after the close: forgets the window, or ends the program that it is
+    std::function<void()> end;  // called after closing: unloads the window, or ends a program for notes alone
   };
 
-  // Throws RuntimeError where the file can't be read or made.
+  // Throws RuntimeError if the file can't be read or created.
   explicit Poznamka(Surroundings around);
   ~Poznamka() override;
 
   void Present();
-  // Asks once about what earlier runs left behind, where they did.
+  // Offers the notes that earlier runs left unsaved, if there are any. Asks only once.
   void OfferRescued() { keeper_.Offer(); }
-  // The page on show.
+  // The text of the visible notes page.
   [[nodiscard]] TextBuffer& Text();
-  // Keeps what isn't stored, at once. Returns what a person is told of that, "" where there was nothing to keep.
+  // Keeps unsaved notes at once. Returns the notice for the person, or "" if all notes were saved.
   std::string KeepNow() { return keeper_.NoticeOf(keeper_.KeepNow()); }
 
  protected:
@@ -78,16 +78,16 @@ class Poznamka : public QWidget {
   bool Unload();
   bool RefuseOverlong(const NotesRecord& record);
   void ShowPage(int page);
-  // The record with the text of the page on show.
+  // The record with the present text of the visible notes page.
   [[nodiscard]] NotesRecord Now() const;
   [[nodiscard]] NotesSurroundings Measures() const;
 
   Surroundings around_;
   std::unique_ptr<Ui::Poznamka> ui_;
-  NotesRecord record_;  // the page on show as it was when it was turned to
-  NotesRecord stored_;  // what the file holds, as far as this window knows
+  NotesRecord record_;  // the notes at the last change of pages; Now() has the present text
+  NotesRecord stored_;  // the contents of the file, as far as this window knows
   int page_ = 1;
-  std::array<std::size_t, kNotePages> carets_{};  // where each page is gone on with
+  std::array<std::size_t, kNotePages> carets_{};  // the caret's place in each notes page
   QTimer timer1_{this};
   NotesTimer tick_;
   Rescue rescue_{*this};

@@ -12,7 +12,7 @@
 namespace pelmar {
 namespace {
 
-// How long the window may be deaf, and how long it listens, while the letters are counted out; in milliseconds.
+// Milliseconds between two checks for events during a conversion, and the most milliseconds of one check.
 constexpr int kBreath = 10;
 constexpr std::size_t kLongestShown = 32767;
 
@@ -59,8 +59,8 @@ void Prev::Convert(const Base& base) {
   ShowRoman(*number);
 }
 
-// Long numerals take a while: the window stays alive meanwhile, and whatever the person begins then, or the window's
-// going away, gives up the one at work.
+// A long numeral takes a while, so the window handles events meanwhile. Another conversion, or hiding or deleting the
+// window, stops this one.
 void Prev::ShowRoman(std::int32_t number) {
   const int mine = ++conversions_;
   const QPointer<Prev> alive(this);

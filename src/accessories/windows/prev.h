@@ -1,5 +1,5 @@
-// `Prev`: whole numbers in four notations, with a keypad for each of three bases. Keys of the real keyboard work the
-// keypad that has the focus.
+// `Prev`: whole numbers in four notations, with a keypad for each of three bases. The real keyboard works the focused
+// keypad.
 #pragma once
 
 #include <functional>
@@ -56,7 +56,7 @@ class Prev : public FormDialog<Ui::Prev> {
   Doors doors_;
   Converter converter_;
   std::string roman_;
-  int conversions_ = 0;  // how many began; an older one that still runs sees that it is not the last
+  int conversions_ = 0;  // number of conversions begun; a running one stops unless it is the last
   std::vector<Base> bases_;
 };
 

@@ -16,8 +16,8 @@
 namespace pelmar {
 namespace {
 
-// A key stroke for the text of the main window, handled when this returns. The keyboard stays where it is: to hand the
-// activation there and back would make both windows flicker at each key.
+// Sends a key stroke to the main window's text and returns after the stroke was handled. The focus doesn't move, since
+// moving there and back would make both windows flicker at each key.
 void Stroke(MainWindow& main, const QKeyEvent& key) {
   for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
     QKeyEvent stroke(type, key.key(), key.modifiers(), key.text());
@@ -25,7 +25,7 @@ void Stroke(MainWindow& main, const QKeyEvent& key) {
   }
 }
 
-// True where the calculator is the whole program.
+// Whether the calculator is the whole program.
 bool StandsAlone(const ProgramParts& parts) { return parts.doors.mode() == StartMode::kCalculator; }
 
 std::unique_ptr<Kalkul> MakeKalkul(const ProgramParts& parts) {
