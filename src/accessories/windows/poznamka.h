@@ -1,5 +1,5 @@
 // `Poznamka`: five notes pages, always on top, docked to the main window or snapped to the screen's edges. The window
-// writes the file only when it closes. Until then a rescue file keeps the changes. If the program fails before, the
+// writes the file only when it closes. Until then a rescue file keeps the changes. If the program fails earlier, the
 // next opening of the notes offers the rescued changes.
 #pragma once
 

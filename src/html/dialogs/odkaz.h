@@ -1,5 +1,5 @@
-// `Odkaz`: a link to an anchor of the same document. Its list holds the anchors made in this run, in their order, for
-// whichever document they were made.
+// `Odkaz`: a link to an anchor of the same document. The list offers all anchors made in this run, in their order, also
+// those made for other documents.
 #pragma once
 
 #include "platform/qt/controls/fragment_dialog.h"

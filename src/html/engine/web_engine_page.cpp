@@ -34,8 +34,7 @@ QString Title() { return QStringLiteral("Zpráva stránky"); }
 constexpr char kLeaving[] = "Are you sure you want to leave this page? Changes that you made may not be saved.";
 constexpr int kMostUnasked = 2;         // questions before a page may be silenced
 constexpr int kLongestQuestion = 2000;  // characters of a page's own text
-// The most characters of an address and of one of its lines. A longer address isn't opened, since the person must see
-// all of it.
+// The most characters of an address and of one of its lines. A person must see all of an address to open it.
 constexpr qsizetype kLongestAsked = 1000, kAddressLine = 80;
 
 // A frame of a page may also hold about: and blob: addresses.
