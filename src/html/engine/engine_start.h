@@ -20,7 +20,7 @@ class ScopedVariable {
   std::optional<QByteArray> old_;
 };
 
-// The variable from which a new profile of the engine reads the address of its gate.
+// The variable from which a new profile of the engine reads the address of its NetGate.
 inline constexpr char kWayOut[] = "SOCKS_SERVER";
 
 // The engine may start while an object of this class exists. The destructor restores the environment, which other

@@ -61,7 +61,7 @@ WebEnginePage::WebEnginePage(QWebEngineProfile* profile, PageSide side) : QWebEn
   settings()->setDefaultTextEncoding(QStringLiteral("windows-1250"));
   settings()->setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
   settings()->setAttribute(QWebEngineSettings::LocalContentCanAccessFileUrls, true);
-  // The refusal and the gate block the net. The engine's own rule would block it without notifying on_withheld.
+  // NetRefusal and NetGate block the net. The engine's own rule would block it without notifying on_withheld.
   settings()->setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, true);
   settings()->setAttribute(QWebEngineSettings::JavascriptEnabled, side != PageSide::kDiskWithNet);
   settings()->setAttribute(QWebEngineSettings::HyperlinkAuditingEnabled, false);

@@ -57,7 +57,7 @@ class WebEngineView : public QObject, public WebView {
   void ShowMenu(const QPoint& at);
 
   NetGate open_gate_{true}, shut_gate_{false};
-  // A profile reads the address of its gate when it is made, and keeps it.
+  // A profile reads the address of its NetGate when it is made, and keeps it.
   std::map<PageSide, std::unique_ptr<QWebEngineProfile>> profiles_;
   std::unique_ptr<WebEnginePage> page_;
   std::unique_ptr<QWebEngineView> view_;
