@@ -31,7 +31,8 @@ bool HasDisplay() {
          qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
 }
 
-// Handles messages while the toolkit looks for a display. Replaces the toolkit's fatal English message by a Czech one.
+// Handles messages while the toolkit looks for a display. On the toolkit's fatal English message, prints a Czech one
+// and ends the program.
 void EndWithoutDisplay(QtMsgType type, const QMessageLogContext& context, const QString& text) {
   if (type != QtFatalMsg) {
     std::fputs(qPrintable(qFormatLogMessage(type, context, text) + u'\n'), stderr);

@@ -30,8 +30,8 @@ class Program {
   // Writes all unsaved texts to disk at once and without a message, before the system ends the program.
   void KeepUnsaved();
 
-  // Handles an error that no command caught: keeps the modified documents, and reports the error and where they are.
-  // The caller then ends the process.
+  // Handles an error that no command caught: keeps the modified documents, then reports the error and the files that
+  // hold the documents. The caller then ends the process.
   void TellRuntimeError(const RuntimeError& error);
 
   [[nodiscard]] MainWindow& Main() { return main_; }

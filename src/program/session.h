@@ -1,5 +1,5 @@
 // The start and the end of a session. Reads and writes the settings file and the file with the last text, and writes
-// the file with all five texts. required: the order of the steps.
+// the file with all five texts. The order of the steps is required.
 #pragma once
 
 #include <cstdint>
@@ -27,8 +27,8 @@ class Session {
 
   // Loads the text and the settings, and asks for a missing profile.
   void Load();
-  // Call if the clipboard's content arrives after the start. Inserts it into an empty document that wasn't changed
-  // since the load, and doesn't mark the document as changed.
+  // Call if the clipboard's content arrives after the start. Inserts the content into an empty document that wasn't
+  // changed since the load, and doesn't mark the document as changed.
   void TakeLateClipboard();
   // Shows the window, or opens the file, that the command line names.
   void Act(std::string_view tail);

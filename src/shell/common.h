@@ -20,8 +20,7 @@ std::string StripDiacritics(std::string_view text);
 std::string RandomCase(std::string_view text, const Draw& draw);
 
 // Replaces each exact occurrence of `find`, which is not empty, from the left. required: the search goes on at the
-// second character of the inserted replacement. Thus a new occurrence may begin in the replacement, but must end in the
-// old text.
+// second character of the inserted replacement, so a new occurrence may begin in the replacement but must end after it.
 std::string ReplaceAllText(std::string_view text, std::string_view find, std::string_view with);
 
 // The number of characters of code 10.

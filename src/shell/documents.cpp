@@ -20,8 +20,7 @@ void Documents::LeaveTab() {
 
 void Documents::EnterTab(int entered) {
   selected_ = entered;
-  // required: SetText notifies a change while current_path_ is still that of the old tab, so this path goes into the
-  // slot
+  // required: when SetText notifies the change, current_path_ is still that of the old tab and goes into the slot
   title_follows_ = true;
   text_.SetText(std::exchange(Current().Text, {}));
   title_follows_ = false;
@@ -62,7 +61,7 @@ int Documents::EmptyTab() const {
 void Documents::ClearCurrent() {
   SetFace({}, {});
   Current() = {};
-  // required: SetText notifies a change while current_path_ is not yet cleared, so the slot gets this path again
+  // required: when SetText notifies the change, current_path_ isn't cleared yet and goes into the slot
   text_.SetText({});
   ForgetPath();
 }

@@ -1,6 +1,6 @@
-// The five documents, which share one text box. Four places hold the state of a document, and required: they may
-// disagree. The box holds the current text, `current path` its path, a tab's tool tip the path restored by a switch to
-// the tab, and the title's "*" marks unsaved changes. Tabs count from 1. Paths, captions and the title are UTF-8, texts
+// The five documents, which share one text box. required: the four places that hold a document's state may disagree.
+// The box holds the current text, `current path` its path, a tab's tool tip the path restored by a switch to the tab,
+// and the title's "*" the mark for unsaved changes. Tabs count from 1. Paths, captions and the title are UTF-8, texts
 // Windows-1250.
 #pragma once
 
@@ -55,9 +55,9 @@ class Documents {
 
   // Empties the current tab without a question.
   void ClearCurrent();
-  // Removes the path and the mark, for the start of the program.
+  // Removes the path and the mark of the current document.
   void ForgetPath();
-  // Clears the flag of slot 1, for the start of the program: the text it restores counts as unchanged.
+  // Clears the flag of slot 1, because the text restored at the start counts as unchanged.
   void ForgetFirstSlotsMark() { slots_[0].Modified = false; }
   // Puts a document rescued after a crash into the tab, selects the tab and marks the document as unsaved.
   void Restore(int tab, std::string text, const std::string& path);
@@ -65,7 +65,7 @@ class Documents {
   // Makes the path the file of the current document and counts the text as saved. A name without an extension throws
   // RuntimeError after the current path has been set; nothing else of the document changes then.
   void MakeCurrent(const std::string& path);
-  // Loads the text of an opened file first, then does the same. The text is loaded even if the name throws.
+  // First loads the text of an opened file, then does the same. The text is loaded even if the name throws.
   void MakeCurrent(const std::string& path, std::string text);
 
   Listeners<> title_changed;
@@ -94,7 +94,7 @@ class Documents {
   std::string current_path_;
   TitleParts title_;
   SaveTarget target_;
-  bool title_follows_ = false;  // the title is set after the current text change, so it is notified only once
+  bool title_follows_ = false;  // the title will be set after this text change, so its listeners are notified once
   Listening changes_;
 };
 

@@ -25,7 +25,8 @@ struct ProfileComplaint {
 };
 ProfileComplaint CheckProfile(const ProfileFields& fields);
 
-// Stores name, address and password. required: without the check mark the password is stored too, and isn't compared.
+// Stores name, address and password. required: without the check mark the password is stored without comparing its
+// repetition.
 void StoreProfile(const ProfileFields& fields, SettingsRecord& settings);
 
 }  // namespace pelmar

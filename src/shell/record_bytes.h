@@ -1,6 +1,6 @@
-// Reads and writes the program's own binary files: little-endian numbers and byte strings in sequence. A file that ends
-// too early reads as zero and empty from its end on. A wrong count never makes the reader allocate more than the file's
-// size. Files that must be complete have a seal: a signature and a checksum.
+// Reads and writes the program's own binary files: little-endian numbers and byte strings in sequence. A field beyond
+// the end of a file reads as zero or empty. A wrong count never makes the reader allocate more than the file's size.
+// Files that must be complete have a seal: a signature and a checksum.
 #pragma once
 
 #include <cstdint>

@@ -1,5 +1,6 @@
-// Rescue files on disk, in the install folder. Each running copy of the program has one file of a kind, and holds a
-// lock for it so that no other copy takes the file for abandoned. Writes are atomic. Call from one thread at a time.
+// Rescue files on disk, in the install folder. Each running copy of the program has one file for documents and one for
+// notes. The copy holds a lock for each, so that no other copy takes the file for abandoned. Writes are atomic. Call
+// from one thread at a time.
 #pragma once
 
 #include <functional>

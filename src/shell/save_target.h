@@ -11,7 +11,7 @@ namespace pelmar {
 
 class SaveTarget {
  public:
-  // Sets the path. A name without an extension throws RuntimeError; only the folder is set then.
+  // Sets the path. For a name without an extension, sets only the folder and throws RuntimeError.
   void Prime(const std::string& path);
 
   // False if no path was set yet; the dialog then keeps its initial fields.

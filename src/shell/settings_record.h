@@ -36,7 +36,7 @@ struct SettingsRecord {
   bool operator==(const SettingsRecord&) const = default;
 };
 
-// Reads the record from the start of the bytes. A file that ends too early reads as zero and empty from its end on.
+// Reads the record from the start of the bytes. A field beyond the end of the bytes reads as zero or empty.
 SettingsRecord ReadSettings(std::string_view bytes);
 
 // The record's bytes. A string longer than 65,535 bytes is cut.

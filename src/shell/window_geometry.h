@@ -46,7 +46,7 @@ struct LayoutInput {
 };
 
 struct LayoutResult {
-  // Nothing while the window is minimised.
+  // An empty value changes nothing. All four are empty while the window is minimised.
   std::optional<int> text_width;
   std::optional<int> text_height;
   std::optional<int> tabs_width;

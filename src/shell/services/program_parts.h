@@ -54,7 +54,7 @@ struct ProgramParts {
   FilePickers& file_pickers;
   Doors& doors;
 
-  // Functions that call the doors of the same purpose. A window may be registered before the doors are set.
+  // Functions that call show_in_browser and pick_color. A window may get them before these two are set.
   [[nodiscard]] std::function<void(const std::string& path)> BrowserDoor() const;
   [[nodiscard]] std::function<Color(Color)> ColorDoor() const;
 
@@ -85,7 +85,7 @@ struct ProgramParts {
   void AddFilePicker(std::type_index window) const;
 };
 
-// The function of each subsystem, defined in its windows folder. Program calls them all.
+// Each subsystem's function that registers its windows and commands. Program calls them all.
 void AddShellWindows(const ProgramParts& parts);
 void AddFileWindows(const ProgramParts& parts);
 void AddTextWindows(const ProgramParts& parts);

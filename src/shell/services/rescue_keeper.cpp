@@ -12,7 +12,7 @@
 namespace pelmar {
 namespace {
 
-// milliseconds; leaves time to finish the write within the promised two seconds
+// In milliseconds. Leaves time to finish the write within the promised two seconds.
 constexpr int kDelay = 1000;
 // A failed write is repeated. The pauses double from kDelay up to this limit in milliseconds.
 constexpr int kLongestPause = 60'000;
@@ -47,7 +47,7 @@ std::optional<RescueRecord> RescueKeeper::CopyUnsaved() const {
 }
 
 void RescueKeeper::WriteInThread() {
-  // A slow disk finishes the running write first and then gets only the latest text.
+  // Waits for the running write on a slow disk. The next write takes the latest text.
   if (writer_.activeThreadCount() > 0) return timer_.start(kDelay);
   // This copy is the only work in the user interface's thread.
   auto now = CopyUnsaved();
@@ -170,7 +170,7 @@ void RescueKeeper::End() {
 std::vector<RescueRecord> RescueKeeper::ReadAbandoned(std::vector<std::string>& files) {
   std::vector<RescueRecord> records;
   std::vector<RescuedText> seen;
-  // A text exists twice if a copy of the program crashed after keeping a restored text but before removing the old
+  // A text is in two files if a copy of the program crashed after it kept a restored text but before it removed the old
   // file.
   const auto superfluous = [&](const RescuedText& text) {
     if (content_.IsHere(text) || std::ranges::find(seen, text) != seen.end()) return true;
@@ -201,7 +201,7 @@ void RescueKeeper::Offer() {
     wanted = platform_.Message(MessageType::kYesNoWarning, question, "Záchrana") == Answer::kYes;
   }
   if (wanted) left = content_.BringBack(records);
-  // Set only after the question: a rescue file written during the question doesn't hold these texts yet.
+  // Set only after the question, because a rescue file written during the question doesn't hold these texts yet.
   owed_.files = std::move(files);
   // Texts without a place, or refused by the person, stay readable in a text file until the next rescue.
   owed_.rest = content_.Readable(left);

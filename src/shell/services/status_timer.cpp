@@ -60,7 +60,7 @@ void StatusTimer::Tick() {
   ShowPanels(revision, clipboard);
   StatusStrip& bar = window_.Bar();
   bar.Show(editor_.platform.Keys());
-  // The main window isn't active while a file operation runs, so an operation with an error has left the number in use.
+  // No file operation runs while the main window is active, so a number in use was left by a failed operation.
   bar.Warn(Warning::kFilesStuck, editor_.file_number.IsOpen() ? kFilesStuck.toString() : QString());
   window_.WidenContentPanel();
 }

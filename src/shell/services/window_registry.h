@@ -21,7 +21,7 @@ class WindowRegistry {
     entries_[typeid(Window)].make = std::move(make);
   }
 
-  // Returns the window and creates it at first. Throws std::out_of_range if the window isn't registered, and
+  // Returns the window; the first call creates it. Throws std::out_of_range if the window isn't registered, and
   // std::logic_error if it can't be created.
   template <class Window>
   Window& Get() {

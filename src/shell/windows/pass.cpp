@@ -26,7 +26,7 @@ void Pass::Run() {
     const OtherWindowsAway away({this, parentWidget()});
     exec();
   }
-  ExpectActive(asker);  // the other windows are visible again
+  ExpectActive(asker);  // possible now that the other windows are visible
   hide_text_(false);
 }
 

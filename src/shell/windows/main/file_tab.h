@@ -1,6 +1,5 @@
-// The strip of five tabs. The strip spans the window beneath the text box; its tabs are visible at the right edge,
-// which the text box leaves free. Captions run downwards. A tab without a file shows its number, an unsaved document a
-// dot.
+// The strip of five tabs spans the window beneath the text box; its tabs are visible at the right edge, which the text
+// box leaves free. Captions run downwards. A tab without a file shows its number, an unsaved document a dot.
 #pragma once
 
 #include <QTabBar>

@@ -31,8 +31,9 @@ class MenuBar : public QMenuBar {
   void Refresh();
   // Enables or disables the items that depend on the state. An item without a command stays disabled.
   void Apply(const MenuState& state);
-  // Apply runs only on ticks, so a disabled item may be outdated. Runs the disabled command with this shortcut if the
-  // current state allows the command. Calls `now` only for such a command. False if no command was run.
+  // Apply runs only on ticks, so an item may still be disabled although the state now allows its command. Runs such a
+  // command if its shortcut is `keys`. Calls `now` only for a disabled item with this shortcut. False if no command
+  // ran.
   bool RunGrey(const QKeyEvent& keys, const std::function<MenuState()>& now) const;
 
  protected:

@@ -134,7 +134,7 @@ void StatusStrip::resizeEvent(QResizeEvent* event) {
 }
 
 // Places the panels. In a narrow window the panels of the keys keep their width, and the others share the rest. If this
-// would cut a figure, the panels with figures are served first. `widths_` doesn't change.
+// would cut a figure, the panels with figures get their width first. `widths_` doesn't change.
 void StatusStrip::Place() {
   std::array<int, kPanelCount> shown{};
   std::ranges::transform(widths_, shown.begin(), PixelsOf);

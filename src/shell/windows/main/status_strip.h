@@ -41,8 +41,8 @@ class StatusPanel : public ElidedLabel {
 enum class Warning {
   kUnkept,          // unsaved work can't be kept in a rescue file
   kFilesStuck,      // no file can be opened or saved
-  kTooLong,         // the text is longer than what can be opened
-  kNoExtension,     // the document's file can't be opened by its name
+  kTooLong,         // the text is too long to be opened again
+  kNoExtension,     // the file name has no extension, so the file can't be opened again
   kChangedOutside,  // the document's file was changed or removed since it was opened or saved
   kFormat,          // the document's file is in UTF-8 or has the line ends of another system
 };
@@ -63,7 +63,7 @@ class StatusStrip : public QStatusBar {
   // Sets or, with "", removes the text of one warning, then shows the most serious warning. A hint covers only panel 4
   // and is cut there; a warning covers as many panels as its text needs. Without `tip` the text is also the tool tip.
   void Warn(Warning of, const QString& text, const QString& tip = {});
-  // Warns about the errno of a failed rescue; 0 removes the warning.
+  // Shows the warning kUnkept. `error` is the errno of the failed write; 0 removes the warning.
   void WarnOfUnkept(int error);
 
   // Widths in twips.
