@@ -1,5 +1,4 @@
-// The least that a Qt program with a text box can be: what the start-up, memory and idle time of the program are
-// compared with.
+// A minimal Qt program with a text box, to compare with the program's start-up, memory and idle time.
 #include <QApplication>
 #include <QMainWindow>
 #include <QPlainTextEdit>

@@ -1,5 +1,5 @@
-// What the ciphers and sums cost, in the core and in their windows over the real main window. Runs offscreen on the
-// real platform; the figures that they are held to stand in the names.
+// Measures the ciphers and checksums, in the core and in their windows over the real main window. The names hold the
+// limits. Runs offscreen on the real platform.
 #include <benchmark/benchmark.h>
 
 #include <QElapsedTimer>
@@ -47,7 +47,7 @@ struct Desk {
     if (!QTest::qWaitForWindowActive(&window)) std::abort();
     editor.text.SetText(Page());
   }
-  // Until everything is on the screen.
+  // Waits until everything is painted.
   static void Show() { QCoreApplication::processEvents(); }
 };
 
@@ -60,7 +60,7 @@ void StreamInWindow(benchmark::State& state) {
   dialog.Present();
   Desk::Show();
   for (auto _ : state) {
-    // An enciphered text would ask about its code 8.
+    // The text is set again, because code 8 in an enciphered text would raise a question.
     state.PauseTiming();
     desk.editor.text.SetText(Page());
     Desk::Show();
@@ -71,7 +71,7 @@ void StreamInWindow(benchmark::State& state) {
 }
 BENCHMARK(StreamInWindow)->Name("stream_64000_characters_in_the_window (limit 100 ms)")->Unit(benchmark::kMillisecond);
 
-// The longest time for which no event was handled, over a text as long as the RND cipher writes.
+// The longest time without event handling, for a text as long as the output of the RND cipher.
 void StreamGap(benchmark::State& state) {
   Desk desk;
   ZaKod dialog(
@@ -108,7 +108,7 @@ void Stream(benchmark::State& state) {
 }
 BENCHMARK(Stream)->Name("stream_alone (limit 100 MB/s)")->Unit(benchmark::kMillisecond);
 
-// A dialog with a table of depth 64 and the page prepared.
+// A dialog with a table of depth 64 and the prepared text of Page().
 struct RndDesk : Desk {
   RND_Sifra dialog{editor, &window};
 

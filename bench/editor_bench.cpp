@@ -1,7 +1,7 @@
-// What the editor itself costs beside its text box, for a document at the limit of a file (64,000 bytes) and for one
-// that was pasted (10 MB): a key, a tick of the status timer, a switch of tabs, an open, and the interface thread's
-// share of keeping unsaved work. Line counting is on. Limits with 64,000 bytes: tick 0.5 ms, switch 1 ms. Runs
-// offscreen on the real platform.
+// Measures the editor without its text box, for a document of the largest size in a file (64,000 bytes) and a pasted
+// one (10 MB): a key, a tick of the status timer, a switch of tabs, an open, and the work of the user interface's
+// thread for the rescue file. Line counting is on. Limits with 64,000 bytes: tick 0.5 ms, switch 1 ms. Runs offscreen
+// on the real platform.
 #include <benchmark/benchmark.h>
 
 #include <QEventLoop>
@@ -34,7 +34,7 @@ std::string Page(char letter, std::size_t size) {
   return text;
 }
 
-// The disk's own time is none of the editor's; files of the program go nowhere, documents are read.
+// Leaves out the time of the disk: the program's own files aren't written, but documents are read.
 class BenchPlatform : public QtPlatform {
  public:
   std::function<void()> on_write;
@@ -74,7 +74,7 @@ struct Desk {
     editor.text.SetSelStart(size / 2);
   }
 
-  // One letter typed, the next time taken back, so that the text keeps its size.
+  // Types a letter and removes it at the next call, so that the text keeps its size.
   void Key() {
     typed_ = !typed_;
     typed_ ? editor.text.Type("x") : editor.text.EraseBefore(1);
@@ -90,7 +90,7 @@ double Seconds(clockid_t clock) {
   return static_cast<double>(now.tv_sec) + 1e-9 * static_cast<double>(now.tv_nsec);
 }
 
-// The buffer and who hears it first, without the box.
+// A key in the buffer and the documents, without the text box.
 void KeyInDocuments(benchmark::State& state) {
   BenchPlatform platform;
   Editor editor(platform);
@@ -127,7 +127,7 @@ void Ticks(benchmark::State& state, std::size_t clipboard, Act before) {
 
 void Nothing(Desk&) {}
 void Type(Desk& desk) { desk.Key(); }
-// No panel shows what it showed before.
+// Moves the caret, so that each panel must show a new text.
 void MoveCaret(Desk& desk) {
   desk.editor.text.SetSelStart((desk.editor.text.SelStart() + 777) % desk.editor.text.Size());
 }
@@ -153,7 +153,7 @@ void Open(benchmark::State& state) {
   }
 }
 
-// Processor time of the interface thread from a key to the rescue file that holds it, a second and a bit later.
+// Processor time of the user interface's thread from a key to the finished rescue file, just over a second later.
 void Rescue(benchmark::State& state) {
   BenchPlatform platform;
   Editor editor(platform);

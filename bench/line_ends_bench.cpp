@@ -1,6 +1,6 @@
-// The line-end conversion of a large file beside a plain copy of it, in one run: each at its best of three, in seconds
-// by the clock and (of the processor), with the memory of the whole process behind it. Limits: a fifth of the copy's
-// speed where both stay in the system's memory, 64 MiB.
+// Compares the line-end conversion of a large file with a plain copy. Prints the best of three runs in seconds, by the
+// clock and by the processor, and then the memory of the process. Limits: a fifth of the copy's speed if both files fit
+// into the system's memory; 64 MiB.
 //
 //   line_ends_bench FOLDER [MEBIBYTES]
 #include <fcntl.h>
@@ -49,7 +49,7 @@ void Copy(const std::string& from_path, const std::string& to_path) {
   close(to);
 }
 
-// The processor's time tells more where other programs run beside, the clock's what a person waits.
+// In seconds. The clock measures a person's wait; the processor time isn't changed by other programs.
 struct Times {
   double clock = 1e9;
   double processor = 1e9;

@@ -1,4 +1,4 @@
-// Runs the benchmarks of a program that needs windows but no screen.
+// Runs benchmarks that need windows but no screen.
 #include <benchmark/benchmark.h>
 
 #include <QApplication>

@@ -1,14 +1,13 @@
 #!/usr/bin/env python3
-"""Times the program's start beside that of a bare Qt window, and compares memory and idle processor time.
+"""Compares the start, the memory and the idle processor time of the program and a bare Qt window.
 
     bench/startup.py BUILD_FOLDER [--runs 20] [--program FILE] [--limit 1.1]
 
-Starts an X server and a window manager of its own, with a temporary home. Runs alternate between the two programs, and
-so does which of them comes first, so that what else the machine does falls on both. Prints a table of medians, and of
-the start also the lower quartile: a busy machine only ever adds time, so the quartile is the steadier figure.
-Measured with the same program on both sides, medians of 20 runs scattered by 9 percent, quartiles by 5, and quartiles
-of 40 runs by 3. With --limit it exits with status 1 when the quartile of the program is more than that many times the
-bare window's.
+Starts its own X server and window manager, with a temporary home. The two programs run alternately, and take turns in
+running first, so that other load on the machine affects both. Prints a table of medians, and for the start also the
+lower quartile, which varies less because other load only adds time. With the same program on both sides, medians of 20
+runs differed by 9 percent, quartiles by 5, and quartiles of 40 runs by 3. With --limit, exits with status 1 if the
+program's quartile is more than that many times the bare window's.
 """
 
 import argparse

@@ -1,5 +1,5 @@
-// What the tag editor's analysis costs on a tag of 64,000 bytes and on one of half that length: it takes linear time,
-// so the second takes about half as long. Limit: 50 ms.
+// Measures the tag editor's analysis of a tag of 64,000 bytes and of a tag of half that length. The time is linear, so
+// the second takes about half as long. Limit: 50 ms.
 #include <benchmark/benchmark.h>
 
 #include <string>

@@ -1,6 +1,6 @@
-// What a key and the first sight of a text cost in a text box: the figures that the control is held to.
-// Limits: a key in 64,000 bytes 0.1 ms, with its paint 2 ms; one line of 4,096,000 characters shown in 50 ms, wrapped
-// or not, a key in it 10 ms. Runs offscreen.
+// Measures the time of a key and of the first display of a text in a text box.
+// Limits: a key in 64,000 bytes 0.1 ms, with its paint 2 ms; one line of 4,096,000 characters, wrapped or not, is
+// displayed in 50 ms, a key in this line takes 10 ms. Runs offscreen.
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
@@ -18,7 +18,7 @@ constexpr std::size_t kDocument = 64000;
 constexpr std::size_t kCiphertext = 4096000;
 constexpr QSize kWindow(800, 600);
 
-// Lines of words, as a page of HTML has them.
+// Lines of words, like the source of a web page.
 std::string Page() {
   std::string text;
   while (text.size() < kDocument)
@@ -27,7 +27,7 @@ std::string Page() {
   return text;
 }
 
-// One line, with a blank once in a while and all codes that a cipher gives, breaks excepted.
+// One line with a few blanks and all codes that a cipher writes, except line breaks.
 std::string Ciphertext() {
   std::string text(kCiphertext, '\0');
   unsigned state = 1;
@@ -39,7 +39,7 @@ std::string Ciphertext() {
   return text;
 }
 
-// One line without any blank: a letter typed at its beginning moves every row break behind it.
+// One line without blanks, so a letter typed at its beginning moves all row breaks.
 std::string Digits() {
   std::string text(kCiphertext, '0');
   for (std::size_t i = 0; i < text.size(); ++i) text[i] = static_cast<char>('0' + i % 10);
@@ -51,7 +51,7 @@ void Press(TextBox& box, int key, const QString& text) {
   QApplication::sendEvent(&box, &event);
 }
 
-// One letter typed, the next time taken back, so that the text keeps its size.
+// Types a letter and removes it at the next call, so that the text keeps its size.
 void Key(TextBox& box, bool& typed) {
   typed = !typed;
   typed ? Press(box, Qt::Key_A, QStringLiteral("a")) : Press(box, Qt::Key_Backspace, QString());

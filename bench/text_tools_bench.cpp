@@ -1,6 +1,6 @@
-// What the text tools cost on documents of 64,000 bytes, each as the command of the menu that a person runs. The limit
-// stands in each name. Shuffling takes words out of a list and is quadratic: 32,000 words of one letter are the worst
-// document, 10,000 real words take a tenth of that. Runs offscreen on the real platform.
+// Measures the text tools on documents of 64,000 bytes, each by its menu command. The names hold the limits. Shuffling
+// removes words from a list in quadratic time: the worst document has 32,000 words of one letter; 10,000 real words
+// take a tenth of that time. Runs offscreen on the real platform.
 #include <benchmark/benchmark.h>
 
 #include <QApplication>

@@ -1,8 +1,8 @@
 // Starts a program and measures it from outside: wait_mapped SETTLE_MS IDLE_MS PROGRAM [ARGUMENT ...]
-// Prints one line, "start_ms pss_kib rss_kib idle_ms": milliseconds from the fork to the program's first mapped
-// window (a window manager's frame around it counts, a pop-up or a 1x1 helper window doesn't), the memory after
-// SETTLE_MS, and the processor time of all threads over the IDLE_MS behind that. Ends the program. Exit status 1: no
-// window within 20 s, or the program ended first.
+// Prints one line, "start_ms pss_kib rss_kib idle_ms": milliseconds from the fork to the program's first mapped window,
+// the memory after SETTLE_MS, and the processor time of all threads during the following IDLE_MS. The frame of a window
+// manager counts as a window; a pop-up or a helper window of 1x1 doesn't. Ends the program. Exit status 1: no window
+// within 20 s, or the program ended first.
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>
 #include <poll.h>
@@ -46,7 +46,7 @@ bool BelongsTo(Display* display, Window window, pid_t pid) {
   return found;
 }
 
-// True for a window of the program itself (no pop-up) and for a window manager's frame around one.
+// True for a window of the program except a pop-up, and for a window manager's frame around such a window.
 bool IsMainWindow(Display* display, const XMapEvent& event, pid_t pid) {
   XWindowAttributes attributes{};
   if (!XGetWindowAttributes(display, event.window, &attributes)) return false;
@@ -64,7 +64,7 @@ bool IsMainWindow(Display* display, const XMapEvent& event, pid_t pid) {
   return frames_one;
 }
 
-// The server and the window manager may still be clearing away the program that ran before.
+// Waits until the server and the window manager have removed the previous program.
 void WaitForQuiet(Display* display) {
   constexpr int quiet_ms = 60;
   pollfd connection{ConnectionNumber(display), POLLIN, 0};
@@ -97,7 +97,7 @@ long MemoryKib(pid_t pid, const std::string& field) {
   return -1;
 }
 
-// Nanoseconds on a processor of all threads together.
+// The processor time of all threads in nanoseconds.
 std::optional<long long> ProcessorTime(pid_t pid) {
   long long sum = 0;
   std::error_code error;
@@ -127,7 +127,7 @@ int main(int argc, char** argv) {
     std::fprintf(stderr, "wait_mapped: no display\n");
     return 2;
   }
-  XSetErrorHandler(IgnoreError);  // a window may be gone before its event is looked at
+  XSetErrorHandler(IgnoreError);  // a window may be destroyed before its event is handled
   XSelectInput(display, DefaultRootWindow(display), SubstructureNotifyMask);
   XSync(display, False);
   WaitForQuiet(display);

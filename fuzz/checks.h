@@ -1,4 +1,4 @@
-// What the fuzzers share.
+// Checks shared by the fuzzers.
 #pragma once
 
 #include <cstdlib>
@@ -13,7 +13,7 @@ inline void Require(bool holds) {
   if (!holds) std::abort();
 }
 
-// What is read of a rescue file is never more than what was there, and is written so that it reads the same.
+// Reads a rescue file. The texts are never larger than the file, and are the same after writing and reading them again.
 inline std::optional<RescueRecord> ReadCheckedRescue(const RescueKind& kind, std::string_view bytes) {
   auto record = ReadRescue(kind, bytes);
   if (!record) return record;

@@ -1,5 +1,5 @@
-// Any bytes as a cipher table: the reader may neither fall nor take more memory than the file has, what it read must be
-// writable and readable again, and everything that the window does with a table must end.
+// Reads any bytes as a cipher table. The reader must not crash or take more memory than the file's size, a table must
+// be the same after writing and reading it again, and all work of the window on a table must end.
 #include <cstdint>
 #include <string>
 

@@ -1,5 +1,5 @@
-// The notes' file and rescue file, damaged in every way: what is read is never more than what was there, and what was
-// read is written so that it reads the same.
+// Reads damaged notes files and rescue files of notes. The result is never larger than the input, and is the same after
+// writing and reading it again.
 #include <cstdint>
 #include <string_view>
 
@@ -33,7 +33,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string_view bytes(reinterpret_cast<const char*>(data), size);
   pelmar::CheckFile(bytes);
   pelmar::CheckRescue(bytes);
-  // Past the checksum, which keeps most damage from the fields behind it.
+  // A valid checksum lets the damage reach the fields.
   pelmar::CheckRescue(pelmar::Sealed(pelmar::kNotesRescue.signature, bytes));
   return 0;
 }

@@ -1,5 +1,5 @@
-// The settings, the documents' rescue file and UTF-8 files, damaged in every way: what is read is never more than what
-// was there, what was read is written so that it reads the same, and where a file is cut into pieces makes no odds.
+// Reads damaged settings, rescue files of documents and UTF-8 files. The result is never larger than the input, and is
+// the same after writing and reading it again. Cutting a file into pieces doesn't change its conversion.
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -37,13 +37,13 @@ void CheckEncodings(std::string_view bytes, std::size_t cut) {
 }  // namespace
 }  // namespace pelmar
 
-// The first byte says where the rest is cut.
+// The first byte is the position where the rest is cut.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   if (size == 0) return 0;
   const std::string_view bytes(reinterpret_cast<const char*>(data) + 1, size - 1);
   pelmar::CheckSettings(bytes);
   pelmar::ReadCheckedRescue(pelmar::kDocumentsRescue, bytes);
-  // Past the checksum, which keeps most damage from the fields behind it.
+  // A valid checksum lets the damage reach the fields.
   pelmar::ReadCheckedRescue(pelmar::kDocumentsRescue, pelmar::Sealed(pelmar::kDocumentsRescue.signature, bytes));
   pelmar::CheckEncodings(bytes, data[0] % (bytes.size() + 1));
   return 0;

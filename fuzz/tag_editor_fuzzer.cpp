@@ -1,5 +1,5 @@
-// Any text and any caret: the tag editor neither crashes nor hangs, and what it writes back changes the tag alone.
-// The first three bytes of the input are the caret, the rest is the text.
+// For any text and caret, the tag editor neither crashes nor hangs, and its output changes only the tag. The first
+// three bytes of the input are the caret, the rest is the text.
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -11,8 +11,7 @@
 namespace pelmar {
 namespace {
 
-// A tag that stands in the text begins with "<" at or before the character behind the caret, and holds one ">" at most,
-// at its end.
+// A tag in the text begins with "<" at or before the character after the caret, and may hold one ">" at its end.
 void RequireRange(const std::string& text, std::size_t caret, const TagRange& range) {
   Require(range.length > 0 && range.start <= caret && range.start + range.length <= text.size());
   Require(text[range.start] == '<');
@@ -33,7 +32,7 @@ void Check(const std::string& text, std::size_t caret) {
   const TagAnalysis analysis = AnalyseTag(text, caret);
   const AttributeLists& lists = analysis.attributes;
   Require(analysis.has_tag || (!analysis.range && analysis.name.empty() && !analysis.failed_in));
-  // Only a failure between a name and its value leaves the lists out of step.
+  // The lists differ in length only if the analysis failed between a name and its value.
   Require(lists.names.size() == lists.values.size() + (analysis.failed_in == TagStep::kFill ? 1 : 0));
   if (!analysis.range) return Require(lists.names.empty());
   RequireRange(text, caret, *analysis.range);

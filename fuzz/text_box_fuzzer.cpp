@@ -1,5 +1,5 @@
-// Any edits of any text: the buffer holds what a plain string holds, undo and redo lead back and forth, and a layout
-// that follows each change is the one that is laid out anew. Three bytes of the input are one step.
+// Edits a text at random. The buffer must equal a plain string, undo and redo must reverse each other, and the updated
+// layout must equal a new one. Three bytes of the input are one step.
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -11,7 +11,7 @@
 namespace pelmar {
 namespace {
 
-// What is written: ends of lines and their halves, blanks, tabs, and words that wrap.
+// The inserted pieces: whole and half line ends, blanks, tabs, and words that wrap.
 constexpr std::string_view kPieces[] = {
     "a", " ", "\t", "\r\n", "\r", "\n", "word ", "\xA0", "a long word and more\r\n"};
 constexpr std::size_t kLongest = 4000;  // bytes; longer texts only cost time
@@ -85,7 +85,7 @@ class Box {
     Require((buffer_.*come_back)() && plain_ == before);
   }
 
-  // Makes the change that is told in the plain text, whatever made it.
+  // Repeats a notified change in the plain string.
   void Follow(const TextChange& change) {
     Require(change.pos + change.removed <= plain_.size() && change.pos + change.inserted <= buffer_.Size());
     plain_.replace(change.pos, change.removed, buffer_.Text().substr(change.pos, change.inserted));

@@ -1,4 +1,4 @@
-// Pelmar VEX: a small editor of text and HTML.
+// Starts Pelmar VEX, a small editor of text and HTML.
 
 #include <QLibraryInfo>
 #include <QLocale>
@@ -19,20 +19,20 @@
 
 namespace {
 
-// Placing our own windows needs X11; where there is an X display beside Wayland, it is the better one. Where it leads
-// nowhere, the toolkit goes on to Wayland.
+// Only X11 lets the program place its windows, so an X display is preferred. Wayland is used if X11 fails.
 void PreferX11() {
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && qEnvironmentVariableIsSet("DISPLAY"))
     qputenv("QT_QPA_PLATFORM", "xcb;wayland");
 }
 
-// The toolkit would abort without one, in English.
+// Without a display the toolkit would abort with an English message.
 bool HasDisplay() {
   return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
          qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
 }
 
-// While the toolkit looks for a display. Its way to say that there is none is to abort, in English.
+// Handles messages while the toolkit looks for a display. On the toolkit's fatal English message, prints a Czech one
+// and ends the program.
 void EndWithoutDisplay(QtMsgType type, const QMessageLogContext& context, const QString& text) {
   if (type != QtFatalMsg) {
     std::fputs(qPrintable(qFormatLogMessage(type, context, text) + u'\n'), stderr);
@@ -46,7 +46,7 @@ void EndWithoutDisplay(QtMsgType type, const QMessageLogContext& context, const 
   std::_Exit(EXIT_FAILURE);
 }
 
-// A status that a script can trust: a full disk or a closed output is an error.
+// Prints the text and returns the exit status. A full disk or a closed output is an error.
 int Print(std::string_view text) {
   const bool written = std::fwrite(text.data(), 1, text.size(), stdout) == text.size() && std::fflush(stdout) == 0;
   return written ? EXIT_SUCCESS : EXIT_FAILURE;
@@ -55,7 +55,7 @@ int Print(std::string_view text) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  // Before anything else, for it works without a display and leaves no trace.
+  // First, because the switches work without a display and create no file.
   if (argc > 0)
     if (const auto text = pelmar::TerminalAnswer(std::span(argv, static_cast<std::size_t>(argc)).subspan(1)))
       return Print(*text);
@@ -66,9 +66,9 @@ int main(int argc, char** argv) {
   PreferX11();
   QStringList arguments;
   for (int i = 1; i < argc; ++i) arguments.append(pelmar::PathToQString(argv[i]));
-  // The command tail is the program's own; the toolkit sees none of it.
+  // The toolkit must not interpret the program's arguments.
   int own_argc = 1;
-  // A menu bar of the desktop would be looked for on the session bus, which may have to be started first.
+  // The toolkit would look for a native menu bar on the session bus and might have to start the bus first.
   pelmar::Application::setAttribute(Qt::AA_DontUseNativeMenuBar);
   const QtMessageHandler usual = qInstallMessageHandler(EndWithoutDisplay);
   pelmar::Application application(own_argc, argv);

@@ -1,10 +1,10 @@
-// Reads forms with the form editor's own library and compares them with what it would save, so that a form opened there
-// and saved differs by the change that was made alone.
+// Compares each form with the output of the form editor's own library, so that a form saved by the editor differs only
+// by the intended change.
 //
 //   designed_forms [--rewrite] FOLDER-OR-FORM...
 //
-// With --rewrite the forms that differ are written as the editor would. Enumerators stand in the forms as Qt 6.4 saves
-// them, which every later editor reads too.
+// With --rewrite, differing forms are written in the editor's format. Enumerators are written in the format of Qt 6.4,
+// which later editors can read.
 #include <QApplication>
 #include <QDesignerComponents>
 #include <QDesignerFormEditorInterface>
@@ -21,14 +21,14 @@
 
 namespace {
 
-// From 6.8 on the editor names the enumeration as well: Qt::Orientation::Horizontal for Qt::Horizontal.
+// Since 6.8 the editor also writes the enumeration: Qt::Orientation::Horizontal for Qt::Horizontal.
 QString WithShortEnumerators(QString form) {
   static const QRegularExpression scoped(QStringLiteral("\\b(Q\\w+)::\\w+::(?=\\w)"));
   return form.replace(scoped, QStringLiteral("\\1::"));
 }
 
-// As the editor would save it; nothing where it can't read it. An editor of its own for each, since one remembers the
-// classes of the forms before and lists them in that order.
+// The form as saved by the editor; empty if the editor can't read it. Each form needs a new editor, because an editor
+// also lists the classes of earlier forms.
 QByteArray AsSaved(const QString& path, const QByteArray& form) {
   const std::unique_ptr<QDesignerFormEditorInterface> editor(QDesignerComponents::createFormEditor(nullptr));
   new QDesignerIntegration(editor.get(), editor.get());
@@ -53,14 +53,14 @@ QStringList Forms(const QStringList& places) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  // The same sizes on every machine: the editor saves what a form's contents take.
+  // The editor saves the sizes of a form's contents, which must be equal on every machine.
   qputenv("QT_QPA_PLATFORM", "offscreen");
-  QHashSeed::setDeterministicGlobalSeed();  // the groups of buttons are saved as they lie in a hash table
+  QHashSeed::setDeterministicGlobalSeed();  // button groups are saved in the order of a hash table
   QApplication::setStyle(QStringLiteral("fusion"));
   QApplication application(argc, argv);
   QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
-  QCoreApplication::setLibraryPaths({});  // without the editor's plug-ins, which bring a web engine
-  QLoggingCategory::setFilterRules(QStringLiteral("qt.core.qobject.connect=false"));  // there is no property editor
+  QCoreApplication::setLibraryPaths({});  // without the editor's plug-ins, which load a web engine
+  QLoggingCategory::setFilterRules(QStringLiteral("qt.core.qobject.connect=false"));  // no property editor exists here
 
   QStringList places = QCoreApplication::arguments().mid(1);
   const bool rewrite = places.removeAll(QStringLiteral("--rewrite")) > 0;

@@ -1,14 +1,14 @@
 #!/usr/bin/env python3
-"""Holds src/ to its order of layers: layers.py [SRC]
+"""Checks the order of layers in src/: layers.py [SRC]
 
-An include may lead down, to a layer of a lower rank, or stay within its own folder's subsystem. One that leads up, or
-sideways to another subsystem of the same rank, is told with file, line and rule, and ends the check with status 1.
+A file may include files of lower layers and of its own subsystem. An include of a higher layer, or of another subsystem
+in the same layer, is printed with file, line and rule. The exit status is then 1.
 """
 import pathlib
 import re
 import sys
 
-# Ground first. A file belongs to the longest folder that is listed; folders of one line are neighbours.
+# The lowest layer first; each line is one layer. A file belongs to the longest listed folder that contains it.
 ORDER = [
     ["text"],
     ["platform"],
@@ -30,7 +30,7 @@ INCLUDE = re.compile(r'\s*#include "([^"]+)"')
 
 
 def layer(path):
-    """The listed folder that a path below src/ belongs to."""
+    """The listed folder that contains a path in src/, or None."""
     parts = path.split("/")
     for count in range(len(parts), 0, -1):
         if "/".join(parts[:count]) in RANK:
@@ -39,7 +39,7 @@ def layer(path):
 
 
 def fault(source, target):
-    """What is wrong with an include of the one by the other, or None."""
+    """The rule broken if `source` includes `target`, or None."""
     above, below = layer(source), layer(target)
     if above is None or below is None:
         return f"{source if above is None else target} lies in no layer"
@@ -58,7 +58,7 @@ def main():
         for number, line in enumerate(path.read_text().split("\n"), 1):
             match = INCLUDE.match(line)
             if not match or not (src / match[1]).is_file():
-                continue  # a system header, or one that is made from a form
+                continue  # a system header, or one generated from a form
             includes += 1
             wrong = fault(source, match[1])
             if wrong:

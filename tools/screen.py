@@ -1,5 +1,5 @@
-"""A screen and a home of its own for a program under test: an X server on a free display, a window manager, and folders
-that go away afterwards. Nothing of the person's own desktop, settings, message bus or printers is reached from it."""
+"""A separate screen and home for a program under test: an X server on a free display, a window manager, and temporary
+folders. The program can't reach the desktop, settings, message bus or printers of the person who runs the test."""
 
 import os
 import select
@@ -10,14 +10,14 @@ import tempfile
 from pathlib import Path
 
 SIZE = (1280, 1024)
-# What would let a program out of the screen made here.
+# Variables that would lead a program to another screen or change its look.
 OUTSIDE = ("WAYLAND_DISPLAY", "XAUTHORITY", "SESSION_MANAGER", "DBUS_SESSION_BUS_ADDRESS", "QT_QPA_PLATFORM",
            "QT_STYLE_OVERRIDE", "QT_SCALE_FACTOR", "LC_ALL", "LANGUAGE")
 
 
 class Screen:
-    """Use as a context manager. `env` is the environment for programs, `home` the temporary home, `data_folder` where
-    the program keeps its settings, notes and recovery files."""
+    """Use as a context manager. `env` is the environment for programs, `home` the temporary home, `data_folder` the
+    folder of the program's settings, notes and recovery files."""
 
     def __enter__(self):
         self.children = []
@@ -54,7 +54,7 @@ class Screen:
         self.serve("openbox", "--startup", "echo running")
 
     def serve(self, *command):
-        """Starts a server that lasts as long as the screen, and gives the first line that it writes."""
+        """Starts a server that runs as long as the screen, and returns the server's first line of output."""
         child = subprocess.Popen(command, env=self.env, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
         self.children.append(child)
         if not select.select([child.stdout], [], [], 10)[0] or not (line := child.stdout.readline().strip()):
@@ -68,7 +68,7 @@ def _text(value):
 
 def write_settings(data_folder, *, width=12000, height=9000, top=300, left=300, user_name="Jan", show_start=False,
                    window_state=0):
-    """Writes pelmar.ini. Lengths are in twips; with the defaults the program starts without a question."""
+    """Writes pelmar.ini. Lengths are in twips. With the defaults the program starts without a question."""
     data_folder.mkdir(parents=True, exist_ok=True)
     (data_folder / "pelmar.ini").write_bytes(b"".join((
         struct.pack("<iiiih", width, height, top, left, 0), _text("DejaVu Sans Mono"),

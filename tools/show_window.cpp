@@ -1,11 +1,11 @@
-// Takes pictures of windows of the real program, for the eye: runs commands, sets and clicks controls, then saves what
-// is on show.
+// Takes pictures of the real program's windows: runs commands, sets and clicks controls, then saves the visible
+// windows.
 //
 //   show_window PREFIX STEP...
 //
-// A step is a command's name (mnutable), a click on a control of the front window (Command1!), a property of one
-// (Text1.text=abc), or a number of milliseconds to wait (500). Each window on show at the end is saved as
-// PREFIX-NAME.png. With QT_QPA_PLATFORM=offscreen no screen is needed; QT_SCALE_FACTOR=2 makes pictures at 200%, and
+// A step is a command's name (mnutable), a click on a control of the front window (Command1!), a property of a control
+// (Text1.text=abc), or a number of milliseconds to wait (500). Each window visible at the end is saved as
+// PREFIX-NAME.png. With QT_QPA_PLATFORM=offscreen no screen is needed. QT_SCALE_FACTOR=2 makes pictures at 200%,
 // PELMAR_DARK=1 shows a dark desktop, PELMAR_POINTS=14 a larger font.
 #include <QAbstractButton>
 #include <QAction>
@@ -73,7 +73,7 @@ void Save(const QString& prefix) {
   }
 }
 
-// The next step waits for its turn in the event loop, also in that of a modal window which this one opens.
+// Queues the next step before it runs this one, so that the steps go on if this one opens a modal window.
 void Run(MainWindow& main, const QString& prefix, QStringList steps) {
   if (steps.isEmpty()) {
     QTimer::singleShot(300, qApp, [prefix] {
@@ -103,7 +103,7 @@ QPalette Dark() {
   return palette;
 }
 
-// A home in which the program starts without a question.
+// Writes settings with which the program starts without a question.
 void WriteSettings(const QString& home) {
   for (const char* variable : {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME"}) qputenv(variable, home.toUtf8());
   SettingsRecord settings;
@@ -131,7 +131,7 @@ int Main(int argc, char** argv) {
   QApplication::setStyle(new ProgramStyle);
   if (qEnvironmentVariableIsSet("PELMAR_DARK")) {
     QPalette dark = Dark();
-    QApplication::style()->polish(dark);  // as it does with what a desktop gives
+    QApplication::style()->polish(dark);  // like the palette of a desktop
     QApplication::setPalette(dark);
   }
   if (const int points = qEnvironmentVariableIntValue("PELMAR_POINTS"); points > 0) {

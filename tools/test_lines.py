@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
-"""Lines of tests against lines of code, by subsystem: test_lines.py [ROOT]
+"""Compares the lines of tests with the lines of code in each folder: test_lines.py [ROOT]
 
-Code are the .h and .cpp files below src/, tests the .h, .cpp, .py and .sh files below tests/; a folder of tests goes with
-the folder of src of the same name. Ends with status 1 where all tests together are more than LIMIT of the code.
+Code is in the .h and .cpp files of src/, tests are in the .h, .cpp, .py and .sh files of tests/. A folder of tests
+belongs to the folder of src with the same name. Exits with status 1 if the tests have more lines than LIMIT percent of
+the code.
 """
 import collections
 import pathlib

@@ -25,7 +25,7 @@ std::string Told(const FilePlace& place) {
          std::to_string(place.byte);
 }
 
-// As "→ (U+2192)"; what can't be seen by its number alone.
+// A text such as "→ (U+2192)". A control character is shown by its number alone.
 std::string Told(char32_t character) {
   std::array<char, 16> number{};
   std::snprintf(number.data(), number.size(), "U+%04X", static_cast<unsigned>(character));
@@ -40,7 +40,7 @@ void TellError(Platform& platform, const std::string& path, const WriteOutcome& 
                      ": " + ErrorText(outcome.error) + KeptNotice(outcome));
 }
 
-// False where the file can't be read, which is told.
+// False if the file can't be read, which is reported.
 bool Survey(Platform& platform, const std::string& path, Utf8Survey& survey) {
   int error = 0;
   {
@@ -52,7 +52,7 @@ bool Survey(Platform& platform, const std::string& path, Utf8Survey& survey) {
   return error == 0;
 }
 
-// Whether the target may be written, as far as the person is asked.
+// False if the target is the source, or if the person refuses to overwrite it.
 bool MayWrite(Platform& platform, const std::string& path, const std::string& target) {
   return !IsOwnSource(platform, path, target) &&
          (!platform.CanRead(target) || Agreed(platform, OverwriteQuestion(target)));

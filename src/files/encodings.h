@@ -1,5 +1,5 @@
-// The conversion of a file on disk between UTF-8 and Windows-1250, into a new file beside it, piece by piece: no size
-// matters. A UTF-8 file is read through before anything is written, so that nobody loses a character unasked.
+// Converts a file on disk between UTF-8 and Windows-1250 into a new file in the same folder. Files of any size are read
+// in pieces. A UTF-8 file is read to its end before anything is written, so no character is lost without a question.
 #pragma once
 
 #include <cstdint>
@@ -12,31 +12,30 @@
 
 namespace pelmar {
 
-// What a person is told of a text of other systems that is opened: in UTF-8, or else with LF for line ends. UTF-8;
-// "" for all other texts.
+// The hint shown for an opened text in UTF-8, or with LF line ends. UTF-8; "" for any other text.
 std::string_view FormatHint(std::string_view bytes);
-// The same of a text that came from a file in UTF-8 and has got bytes in Windows-1250 since.
+// The hint for a text that was read from a UTF-8 file and has since got letters in Windows-1250.
 std::string_view MixHint();
-// What a person is asked before such a text is written over the file at `path`, which is still in UTF-8.
+// The question before such a mixed text is written over the UTF-8 file at `path`.
 std::string MixQuestion(const std::string& path);
 
-// Where in a file something stands, each counted from 1. CR LF, CR and LF end a line; columns are characters, a byte
-// order mark is none.
+// A position in a file; byte, line and column count from 1. CR LF, CR and LF end a line. Columns count characters,
+// without the byte order mark.
 struct FilePlace {
   std::uint64_t byte = 1, line = 1, column = 1;
 };
 
-// What keeps a file from going into Windows-1250 as it is.
+// Collects what a conversion to Windows-1250 would lose or refuse.
 class Utf8Survey {
  public:
-  // False from the first bytes on that are no UTF-8; nothing behind them counts.
+  // False once malformed UTF-8 was found. Later bytes are ignored.
   bool Take(std::string_view piece);
-  // The file ends here.
+  // Call at the end of the file.
   void Finish();
 
   std::optional<FilePlace> malformed;
-  bool beyond_ascii = false;  // there is a character of several bytes
-  std::uint64_t outside = 0;  // how many characters the page lacks, and the first of them
+  bool beyond_ascii = false;  // the file has a character of several bytes
+  std::uint64_t outside = 0;  // number of characters missing in Windows-1250
   FilePlace first_outside;
   char32_t first_character = 0;
 
@@ -44,12 +43,12 @@ class Utf8Survey {
   void Note(char32_t character);
 
   Utf8Decoder decoder_;
-  FilePlace place_;         // of the character at hand
+  FilePlace place_;         // of the character being decoded
   std::uint64_t read_ = 0;  // bytes
   bool after_cr_ = false;
 };
 
-// A byte order mark goes; what the page lacks becomes "?".
+// Drops a byte order mark. A character that Windows-1250 lacks becomes "?".
 class Utf8ToPage : public FileRewriter {
  public:
   std::string_view Rewrite(std::string_view piece) override;
@@ -73,14 +72,14 @@ class PageToUtf8 : public FileRewriter {
  private:
   std::string out_;
   std::uint64_t kept_ = 0;
-  bool mark_;  // still to be written
+  bool mark_;  // the byte order mark must still be written
 };
 
-// The extension takes the place of the name's own one, behind its last full stop. A name that has none, or only that of
-// a hidden file, keeps all.
+// Replaces the extension of the file name. A name without an extension, such as ".profile", gets one appended.
 std::string PathBeside(std::string_view path, std::string_view extension);
 
-// What fails is told; so is a target that is the source itself. A file that is there already is asked about.
+// Failures are reported, and so is a target that is the source file. An existing target is overwritten only after a
+// question.
 void ConvertToPage(Platform& platform, const std::string& path);                        // "1250"
 void ConvertToUtf8(Platform& platform, const std::string& path, bool byte_order_mark);  // "utf8"
 

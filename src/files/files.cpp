@@ -5,7 +5,7 @@ namespace pelmar {
 void AddFileCommands(Editor& editor, Files& files) {
   editor.commands.Add("mnu_open_st", [&files] { files.opener.OpenStandard(); });
   editor.commands.Add("Mnu_Reload_File", [&files] { files.opener.ReloadFile(); });
-  // required: a plain click opens the second entry, since the first is as a rule the document at hand
+  // required: a plain click opens the second entry, because the first one is usually the current document
   editor.commands.Add("Recent", [&files] { files.opener.OpenRecentFile(2); });
   editor.commands.Add("mnu_save_st", [&files] { files.saver.SaveStandard(); });
   editor.commands.Add("Mnu_SaveFast", [&files] { files.saver.SaveFast(); });

@@ -1,4 +1,4 @@
-// Opening and saving over the editor's document, and the commands that need no window of their own for it.
+// Opens and saves the editor's document, and adds the file commands that need no window.
 #pragma once
 
 #include "files/open.h"
@@ -9,7 +9,7 @@
 namespace pelmar {
 
 struct Files {
-  // The editor outlives them.
+  // The editor must outlive this object.
   explicit Files(Editor& editor)
       : recent(editor.settings, editor.platform),
         outside(editor.documents, editor.platform),

@@ -1,5 +1,5 @@
-// The conversion of a file on disk between line ends of CR LF and of LF alone. Bytes stay bytes: no code page matters,
-// and no size does.
+// Converts the line ends of a file on disk between CR LF and LF. All other bytes are copied, so the code page does not
+// matter. Files of any size are read in pieces.
 #pragma once
 
 #include <string>
@@ -10,7 +10,7 @@
 
 namespace pelmar {
 
-// CR LF, CR and LF each end a line; each line goes out with LF behind it, the last one too.
+// CR LF, CR and LF each end a line. Each line is written with LF at its end, the last one too.
 class ToLineFeeds : public FileRewriter {
  public:
   std::string_view Rewrite(std::string_view piece) override;
@@ -20,12 +20,12 @@ class ToLineFeeds : public FileRewriter {
  private:
   std::vector<char> out_;
   std::uint64_t kept_ = 0;
-  bool after_cr_ = false;  // an LF that comes now belongs to the CR before it
+  bool after_cr_ = false;  // an LF that follows belongs to this CR
   bool in_line_ = false;   // the last line has no end yet
 };
 
-// Each LF goes out as CR LF; a CR that stands before it stays, so CR LF becomes CR CR LF. required: what stands behind
-// the last LF is lost.
+// Each LF becomes CR LF. A CR before the LF is kept, so CR LF becomes CR CR LF. required: text after the last LF is
+// lost.
 class ToCrLf : public FileRewriter {
  public:
   std::string_view Rewrite(std::string_view piece) override;
@@ -38,17 +38,18 @@ class ToCrLf : public FileRewriter {
   std::uint64_t kept_ = 0;
 };
 
-// The title of what a conversion says.
+// The title of the messages of a conversion.
 inline constexpr std::string_view kConversionTitle = "Konverze UNIX <-> DOS";
 
-// True, which is told, where the result would take the place of what it is made from.
+// True if the target is the source file. Reports this to the person.
 bool IsOwnSource(Platform& platform, const std::string& path, const std::string& target);
 
-// Where the conversion of a file goes. required: the path is cut behind its first full stop, be that in the name of a
-// folder; a path without one gives the bare extension, a file in the current folder.
+// The path of the converted file. required: the path is cut after its first "." even if this lies in a folder's name. A
+// path without "." gives the bare extension, a file in the current folder.
 std::string ConvertedPath(std::string_view path, std::string_view extension);
 
-// Both throw RuntimeError where a file fails. A target that is the source itself is told and left alone.
+// Both throw RuntimeError if a file can't be read or written. A target that is the source file is reported and not
+// written.
 void ConvertToUnix(Platform& platform, const std::string& path);  // "unx"; required: a longer old target keeps its tail
 void ConvertToDos(Platform& platform, const std::string& path);   // "dos"
 

@@ -15,8 +15,8 @@ Opener::Opener(Documents& documents, RecentFiles& recent, OutsideChanges& outsid
 
 void Opener::OpenPath(const std::string& path) {
   const auto stamp = platform_.Stamp(path);
-  // That the file can be read is the test for its being there, so it is opened once, where all goes well. The name of a
-  // file doesn't end in a separator, but the test overlooks one.
+  // Reading the file also tests whether it exists, so in the usual case the file is opened only once. A path that ends
+  // in a separator is no file, but the read would ignore the separator.
   FileBytes file{.error = ENOTDIR, .bytes = {}};
   if (!file_number_.IsOpen() && !EndsInSeparator(path)) file = platform_.ReadFile(path, kLargestDocument + 1);
   if (file.error != 0 && !FileExists(file_number_, platform_, path)) {

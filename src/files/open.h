@@ -1,5 +1,4 @@
-// Everything that brings a file into the current tab: OpenPath with its limit of 64,000 bytes, and the commands over
-// it. An open replaces the current document and asks nothing. Paths are UTF-8.
+// Opens files into the current tab. Opening a file replaces the current document without a question. Paths are UTF-8.
 #pragma once
 
 #include <cstdint>
@@ -16,13 +15,13 @@
 namespace pelmar {
 
 inline constexpr std::uint64_t kLargestDocument = 64'000;
-// The filter of every system dialog that picks a document, and which of its rows is chosen at first (from 1).
+// The filter of every system dialog that picks a document, and the number of its initial row (from 1).
 inline constexpr std::string_view kDocumentFilter =
     "Všechno (*.*)|*.*|jen text (*.txt)|*.txt|dávky (*.bat)|*.bat|Html dokument (*.html)|*.html|"
     "htm dokument (*.htm)|*.htm|ini soubor (*.ini)|*.ini";
 inline constexpr int kDocumentFilterIndex = 2;
 
-// What a preview shows of a file that it can't show.
+// The preview of a file that is too long or can't be read.
 inline constexpr std::string_view kNoPreview = "Není k dispozici"_w;
 
 class Opener {
@@ -30,20 +29,20 @@ class Opener {
   Opener(Documents& documents, RecentFiles& recent, OutsideChanges& outside, Platform& platform,
          FileNumber& file_number);
 
-  // Opens a file into the current tab, or tells why it can't. A name without a full stop throws RuntimeError when the
-  // text is already in, and leaves file number 1 open: required.
+  // Opens a file into the current tab, or reports why this failed. required: a name without an extension throws
+  // RuntimeError after the text has been loaded, and leaves file number 1 open.
   void OpenPath(const std::string& path);
 
-  // Entry 1 to 10 of the recent files; whatever fails ends the command in silence.
+  // Opens entry 1 to 10 of the recent files. A failure ends the command in silence.
   void OpenRecentFile(int number);
 
-  // The system's open dialog, then OpenPath; cancel and failures end the command in silence.
+  // Shows the system's open dialog, then opens the file. Cancel or a failure ends the command in silence.
   void OpenStandard();
 
-  // Reads the current file again after a question; failures end the command in silence.
+  // Asks, then reads the current file again. A failure ends the command in silence.
   void ReloadFile();
 
-  // What the preview of a file shows: its bytes, or a fixed text where it is too long or can't be read.
+  // The preview of a file: its bytes, or kNoPreview if the file is too long or can't be read.
   std::string Preview(const std::string& path);
 
  private:

@@ -19,7 +19,7 @@ bool OutsideChanges::CurrentWasUtf8() const {
   return known != nullptr && known->utf8;
 }
 
-// A document that was emptied or came back after a crash has no file, or another one.
+// Null if the current document no longer has the remembered path, as after clearing the tab.
 const OutsideChanges::Known* OutsideChanges::OfCurrentPath() const {
   const Known& known = known_[static_cast<std::size_t>(documents_.SelectedTab() - 1)];
   return known.path == documents_.CurrentPath() ? &known : nullptr;

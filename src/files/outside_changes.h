@@ -1,5 +1,6 @@
-// What is known of the documents' files: whether another program, or another tab, wrote or removed one since it was
-// opened or saved here, and whether it was in UTF-8. Nothing is reloaded: the person is told in the status bar.
+// Remembers the state of each document's file when this program opened or saved it: its stamp and whether it was in
+// UTF-8. So the status bar can report that another program, or another tab, wrote or removed the file. Nothing is
+// reloaded.
 #pragma once
 
 #include <array>
@@ -18,13 +19,13 @@ class OutsideChanges {
  public:
   OutsideChanges(const Documents& documents, Platform& platform) : documents_(documents), platform_(platform) {}
 
-  // The current document is what this file holds. `stamp` was taken before the file was read, or after it was written;
-  // `utf8` says that the text came from a file in UTF-8.
+  // Records that the current document equals this file. `stamp` was taken before the file was read, or after it was
+  // written. `utf8` is true if the text came from a UTF-8 file.
   void Note(const std::string& path, const std::optional<FileStamp>& stamp, bool utf8);
 
-  // Asks the disk about the current document's file; kNone where that was neither opened nor saved here.
+  // Compares the file on disk with its remembered state. kNone if this program neither opened nor saved the file.
   [[nodiscard]] OutsideChange OfCurrent() const;
-  // True where the current document came from a file in UTF-8.
+  // True if the current document came from a UTF-8 file.
   [[nodiscard]] bool CurrentWasUtf8() const;
 
  private:
@@ -40,7 +41,7 @@ class OutsideChanges {
   std::array<Known, kTabCount> known_;
 };
 
-// What a person is told of it, UTF-8; "" for kNone.
+// The notice for the status bar, UTF-8; "" for kNone.
 std::string_view OutsideNotice(OutsideChange change);
 
 }  // namespace pelmar

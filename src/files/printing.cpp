@@ -15,14 +15,14 @@ namespace {
 constexpr std::string_view kMargin = "ZZZZZZZZ";
 constexpr std::string_view kBreaks = "\r\n";
 
-// Takes the text before the first of `ends` off the front of `text`.
+// Removes the part before the first of `ends` from the front of `text` and returns the part.
 std::string_view TakeUpTo(std::string_view& text, std::string_view ends) {
   const std::string_view taken = text.substr(0, text.find_first_of(ends));
   text.remove_prefix(taken.size());
   return taken;
 }
 
-// A document of another system has line ends of one character, which are line breaks on paper as well.
+// A line end of one character, as in a document of another system, is also a line break on the sheet of paper.
 std::size_t BreakLength(std::string_view text) { return text.starts_with(kCrLf) ? 2 : 1; }
 
 class WordWrap {
@@ -73,7 +73,7 @@ void PutOnPages(const std::vector<PrintedPiece>& pieces, Paper& paper) {
   }
 }
 
-// Nothing where the person closed the question without an answer.
+// Nothing if the person closed the question without an answer.
 std::optional<std::string> TextToPrint(Editor& e) {
   if (!e.text.HasSelection()) return e.text.Text();
   switch (e.platform.Message(MessageType::kYesNoWarning, "Tisknout pouze výběr ?", "Tisk")) {

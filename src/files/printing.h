@@ -12,7 +12,8 @@ namespace pelmar {
 
 struct Editor;
 
-// A piece of text on paper, behind `x` of its line. Lines count from 0, through all pages.
+// A piece of text on a sheet of paper. `x` is measured from the start of its line. Lines count from 0 through all
+// sheets.
 struct PrintedPiece {
   std::size_t line = 0;
   double x = 0;
@@ -20,17 +21,16 @@ struct PrintedPiece {
   bool operator==(const PrintedPiece&) const = default;
 };
 
-// The words of a text laid on lines of that width. Only blanks separate words; a line break inside a word ends the
-// line. `end_of` tells where a text that begins at x ends; it gets no line breaks. The pieces look into `text`.
-// required: the width of eight "Z" stays free at the right. A word that is wider than what is left of the line begins a
-// new one, also where the line is still empty, and isn't broken: it may run off the paper.
+// Lays out words, separated by blanks, on lines of `page_width`. `end_of` returns where a text without line breaks that
+// starts at x ends. The pieces point into `text`. required: the width of eight "Z" stays free at the right; a word that
+// doesn't fit starts a new line, even after an empty one, and isn't broken.
 std::vector<PrintedPiece> LayOutForPrint(std::string_view text, double page_width,
                                          const std::function<double(double x, std::string_view text)>& end_of);
 
-// What a print of the document is called: its file's name without the folder, the program's name where it has no file.
+// The name of the print job: the file's name without its folder, or the program's name if there is no file.
 std::string PrintName(std::string_view path);
 
-// Asks about a selection and prints. Throws RuntimeError where the printer fails.
+// Asks whether to print only the selection, if there is one, and prints. Throws RuntimeError if the printer fails.
 void PrintDocument(Editor& editor, const EditorLook& look);
 
 void AddPrintCommands(Editor& editor, MainLook& look);

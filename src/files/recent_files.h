@@ -1,5 +1,5 @@
-// The program's ten recent files, as the toolbar's "Recent" shows them and the settings record stores them. Entries are
-// numbered from 1, the last one used first. Paths are UTF-8.
+// The ten recent files, shown by the toolbar's "Recent" and stored in the settings. Entries count from 1, newest first.
+// Paths are UTF-8.
 #pragma once
 
 #include <string>
@@ -15,12 +15,12 @@ class RecentFiles {
   RecentFiles(SettingsRecord& settings, Platform& platform) : settings_(settings), platform_(platform) {}
 
   [[nodiscard]] const std::string& Path(int number) const;
-  // What the entry's item in the toolbar says.
+  // The text of the entry's menu item.
   [[nodiscard]] std::string ItemText(int number) const;
 
-  // Puts a path at the head; those before its old place move down by one. An empty path changes nothing.
+  // Moves a path to the first place, or inserts it there. An empty path changes nothing.
   void PushRecentFile(const std::string& path);
-  // The same, and the system's recent documents get it too.
+  // Also adds the path to the recent documents of the desktop.
   void Remember(const std::string& path);
 
   Listeners<> changed;

@@ -41,7 +41,7 @@ void Saver::SaveSelectionAs() {
   TextBuffer& text = documents_.Text();
   if (!text.HasSelection()) return;
   const auto path = platform_.SaveDialog(kDocumentFilter, kDocumentFilterIndex);
-  // The selected text is taken after the dialog closed.
+  // The selection may change while the dialog is open.
   if (path) SaveTextCopy(*path, std::string(text.SelText()));
 }
 
@@ -64,7 +64,7 @@ void Saver::InsertFromFile() {
   try {
     const OpenNumber number(file_number_);
     const FileBytes file = platform_.ReadFile(*path, std::nullopt);
-    // An empty file has no field to read. required: the command ends in silence
+    // required: an empty file has no field, so the command ends in silence
     if (file.error != 0 || file.bytes.empty()) return;
     documents_.Text().ReplaceSelection(FirstField(file.bytes));
     recent_.Remember(*path);

@@ -1,5 +1,5 @@
-// All ways of writing the text or a part of it to a file, and the one way of reading a file into the middle of the
-// text. A file is the text byte for byte, with no line end added. Paths are UTF-8, texts Windows-1250.
+// Saves the text, or a part of it, to a file, and inserts a file into the text. A file holds exactly the bytes of the
+// text; no line end is added. Paths are UTF-8, texts Windows-1250.
 #pragma once
 
 #include <string>
@@ -18,27 +18,27 @@ class Saver {
   Saver(Documents& documents, RecentFiles& recent, OutsideChanges& outside, Platform& platform,
         FileNumber& file_number);
 
-  // Saves the document and makes the path its file. Asks before it overwrites, and takes the text as it is when that is
-  // answered; what fails is told, and steps already done stay done.
+  // Saves the document and makes the path its file. Asks before it overwrites a file, and writes the text as it is
+  // after the answer. A failure is reported; the steps already done stay done.
   void SaveToPath(const std::string& path);
 
-  // Writes a file; the document stays as it was.
+  // Writes the text to a file and leaves the document unchanged.
   void SaveTextCopy(const std::string& path, std::string_view text);
 
-  // Asks for a name and writes the selected text; nothing with an empty selection.
+  // Asks for a name and writes the selected text. Does nothing if the selection is empty.
   void SaveSelectionAs();
 
-  // The system's save dialog, then SaveToPath.
+  // Shows the system's save dialog, then calls SaveToPath.
   void SaveStandard();
 
-  // Saves to the current path after a question of its own.
+  // Asks, then saves to the current path.
   void SaveFast();
 
-  // The system's open dialog, then the file's first field over the selection.
+  // Shows the system's open dialog and replaces the selection by the file's first field.
   void InsertFromFile();
 
  private:
-  // Asks, once for each file, before a text of two encodings is written over a file that is in UTF-8.
+  // Asks before a text in two encodings is written over a UTF-8 file. Asks once for each file.
   bool MayMixEncodings(const std::string& path);
   bool MayWrite(const std::string& path);
   WriteOutcome Write(const std::string& path, std::string_view text);
@@ -49,17 +49,17 @@ class Saver {
   OutsideChanges& outside_;
   Platform& platform_;
   FileNumber& file_number_;
-  std::string agreed_to_mix_;  // the path of the file that MayMixEncodings was answered Yes for
+  std::string agreed_to_mix_;  // the file for which MayMixEncodings was answered Yes
 };
 
-// What a person is asked before a file that is there is written over, UTF-8.
+// The question before an existing file is overwritten, UTF-8.
 std::string OverwriteQuestion(const std::string& path);
 
-// The path that Ulož builds from its three fields; the dot is always there.
+// Joins the three fields of the dialog Ulož to a path. The "." before the extension is always written.
 std::string TargetPath(std::string_view folder, std::string_view name, std::string_view extension);
 
-// One field as the delimited read takes it: up to the first comma or line end, without blanks around it; a field that
-// begins with a double quote is taken up to the closing one, commas and line ends included.
+// The first field of comma-separated bytes, up to the first comma or line end and without the blanks around it. A field
+// that begins with a double quote ends at the closing quote, and may hold commas and line ends.
 std::string_view FirstField(std::string_view bytes);
 
 }  // namespace pelmar

@@ -1,4 +1,4 @@
-// The commands that need no window, neither one of their own nor the main one, put into the editor's list.
+// Adds the commands that need no window.
 #pragma once
 
 namespace pelmar {

@@ -15,7 +15,7 @@
 namespace pelmar {
 namespace {
 
-// Where saves in place were killed.
+// Reports files whose last save was interrupted.
 void TellLeftContents(Platform& platform) {
   const std::vector<std::string> left = FindLeftContents(platform.InstallFolder());
   if (left.empty()) return;
@@ -67,9 +67,8 @@ void Program::AddWindows() {
   AddBrowserWindows(parts);
 }
 
-// What the load puts into the box, the clipboard's text for one, is nobody's unsaved work, though it is marked until
-// the profile is there. An accessory that is the whole program has no document to keep, whatever its buttons put into
-// the hidden one.
+// False during the load, because the loaded text is no unsaved work even while it is marked. False if an accessory runs
+// alone: the editor is hidden then and has no document to keep.
 bool Program::KeepsDocuments() const { return loaded_ && session_.Mode() == StartMode::kEditor; }
 
 void Program::ShowAccessory(StartMode mode) {
@@ -85,7 +84,7 @@ void Program::Run(const std::string& tail) {
   session_.Load();
   loaded_ = true;
   session_.Act(tail);
-  // Only the editor asks, when it stands; the accessories leave what they find to it.
+  // Only the editor offers rescued texts, after its window is open.
   if (session_.Mode() != StartMode::kEditor) return;
   QTimer::singleShot(0, &main_, [this] {
     TellLeftContents(platform_);
@@ -121,7 +120,7 @@ std::string CommandTail(const QStringList& arguments) {
   std::error_code error;
   if (file.is_relative() && std::filesystem::exists(file, error)) {
     const std::filesystem::path whole = std::filesystem::absolute(file, error), plain = whole.lexically_normal();
-    // Behind a linked folder ".." leads elsewhere than the words say.
+    // After a symbolic link, ".." may lead to another folder than in the plain path.
     return (std::filesystem::equivalent(plain, whole, error) ? plain : whole).native();
   }
   return PathFromFileUrl(tail).value_or(tail);

@@ -1,5 +1,5 @@
-// The whole program put together: platform, editor, main window, session, timer, rescue and the other windows. The one
-// place that knows all of them.
+// Puts the program together: platform, editor, main window, session, timer, rescue and the other windows. Only this
+// class knows all of them.
 #pragma once
 
 #include <memory>
@@ -24,14 +24,14 @@ class Program {
  public:
   explicit Program(Platform& platform);
 
-  // Starts with the command tail (UTF-8).
+  // Starts the program with the joined command-line arguments (UTF-8).
   void Run(const std::string& tail);
 
-  // Puts all that isn't saved on the disk at once and in silence, before the system ends the program.
+  // Writes all unsaved texts to disk at once and without a message, before the system ends the program.
   void KeepUnsaved();
 
-  // What an error that no command caught leads to: the modified documents are kept, the person is told what failed and
-  // where they lie. The caller ends the process.
+  // Handles an error that no command caught: keeps the modified documents, then reports the error and the files that
+  // hold the documents. The caller then ends the process.
   void TellRuntimeError(const RuntimeError& error);
 
   [[nodiscard]] MainWindow& Main() { return main_; }
@@ -57,11 +57,11 @@ class Program {
   Keepers keepers_;
   FilePickers file_pickers_;
   Doors doors_;
-  WindowRegistry windows_;  // last: its windows look at all the others
+  WindowRegistry windows_;  // last, because its windows use all members above
 };
 
-// The command tail as one string: the arguments joined by one blank, the relative path of an existing file made
-// absolute, without "." and ".." where they can go.
+// The command-line arguments joined by blanks. The relative path of an existing file becomes absolute, without "." and
+// ".." where possible.
 std::string CommandTail(const QStringList& arguments);
 
 }  // namespace pelmar

@@ -50,7 +50,7 @@ void Session::Load() {
 void Session::LoadText() {
   const std::string path = InstallPath(kRecoveryName);
   if (FileExists(file_number_, platform_, path)) {
-    // A longer file is passed over in silence and stays where it is.
+    // A longer file isn't loaded. No message appears and the file stays on disk.
     FileBytes file = platform_.ReadFile(path, kLargestDocument + 1);
     if (file.error != 0) throw Unreadable(path, file.error);
     if (file.bytes.size() <= kLargestDocument) documents_.Text().SetText(std::move(file.bytes));
@@ -68,7 +68,7 @@ void Session::TakeLateClipboard() {
                        !documents_.CurrentPath().empty();
   if (touched || !documents_.Text().Empty()) return;
   TakeClipboard();
-  documents_.ForgetPath();  // and with it the mark
+  documents_.ForgetPath();  // also removes the mark
 }
 
 void Session::LoadSettings() {

@@ -1,6 +1,5 @@
-// From the start of the process to the first edit, and from the request to close to its end. The settings file and the
-// file with the last text are read and written here, the file with all five texts is only written. The order of the
-// steps is required.
+// The start and the end of a session. Reads and writes the settings file and the file with the last text, and writes
+// the file with all five texts. The order of the steps is required.
 #pragma once
 
 #include <cstdint>
@@ -17,7 +16,7 @@ namespace pelmar {
 
 class Session {
  public:
-  // How the start goes on. The main window stays hidden until it is shown.
+  // Functions that show the next window of the start. The main window stays hidden until show_main.
   struct Doors {
     std::function<void()> show_config;  // modal
     std::function<void()> show_main;
@@ -26,23 +25,22 @@ class Session {
   };
   Session(MainView& view, Doors doors, Editor& editor, Files& files);
 
-  // The load of the main window: text, settings, and the profile, which is asked for where it is missing.
+  // Loads the text and the settings, and asks for a missing profile.
   void Load();
-  // The load's step for a clipboard that is told only later: its text goes into the document while nobody has touched
-  // that, and is no change.
+  // Call if the clipboard's content arrives after the start. Inserts the content into an empty document that wasn't
+  // changed since the load, and doesn't mark the document as changed.
   void TakeLateClipboard();
-  // Shows what the command tail asks for.
+  // Shows the window, or opens the file, that the command line names.
   void Act(std::string_view tail);
 
-  // The close of the main window. Writes the files, then asks; false when the person wants to go on. Throws
-  // RuntimeError where a file can't be written.
+  // Writes the files, then asks if there are unsaved changes. False if the person doesn't want to close. Throws
+  // RuntimeError if a file can't be written.
   bool Close();
 
-  // Writes the settings file, as the close and the profile dialog do. The window's state is taken at the close alone.
+  // Writes the settings file. The window's state changes only in Close.
   void StoreSettings();
 
-  // True from the close that the person didn't refuse: the program ends as soon as its events are handled, and what is
-  // stored is final.
+  // True after a confirmed Close: the program is ending and the settings are already stored.
   [[nodiscard]] bool Closed() const { return closed_; }
 
   [[nodiscard]] StartMode Mode() const { return mode_; }
@@ -64,11 +62,11 @@ class Session {
   Platform& platform_;
   FileNumber& file_number_;
   StartMode mode_ = StartMode::kEditor;
-  std::uint64_t loaded_revision_ = 0;  // of the text, behind the load
+  std::uint64_t loaded_revision_ = 0;  // the revision of the text after the load
   bool closed_ = false;
 };
 
-// "\autosave_all_files.txt": a block for each slot, empty ones too.
+// The content of "\autosave_all_files.txt": a block for each document, also for an empty one.
 std::string AllFilesText(const Documents& documents);
 
 }  // namespace pelmar

@@ -1,5 +1,5 @@
-// The commands of the program by name: a menu item's name, or a toolbar button's key. Each subsystem adds its own; an
-// item without a command stands disabled.
+// The program's commands. A command's name is the name of a menu item or the key of a toolbar button. Each subsystem
+// adds its own commands. An item without a command stays disabled.
 #pragma once
 
 #include <functional>
@@ -13,7 +13,7 @@ class Commands {
  public:
   void Add(std::string_view name, std::function<void()> run) { commands_[std::string(name)] = std::move(run); }
   [[nodiscard]] bool Has(std::string_view name) const { return commands_.find(name) != commands_.end(); }
-  // An unknown name does nothing. What the command throws passes through.
+  // An unknown name does nothing. Exceptions of the command pass through.
   void Run(std::string_view name) const {
     if (const auto found = commands_.find(name); found != commands_.end()) found->second();
   }

@@ -29,7 +29,7 @@ std::string RandomCase(std::string_view text, const Draw& draw) {
 
 std::string ReplaceAllText(std::string_view text, std::string_view find, std::string_view with) {
   std::string result;
-  std::size_t from = 0;  // where the next occurrence may begin
+  std::size_t from = 0;  // the earliest start of the next occurrence
   for (const char ch : text) {
     result += ch;
     if (result.size() < from + find.size() || !result.ends_with(find)) continue;

@@ -1,4 +1,4 @@
-// Small routines over texts that the whole program shares. Texts are Windows-1250.
+// Small functions for texts that the whole program shares. Texts are Windows-1250.
 #pragma once
 
 #include <cstdint>
@@ -13,23 +13,23 @@ namespace pelmar {
 inline constexpr std::string_view kCrLf = "\r\n";
 inline constexpr std::string_view kQuote = "\"";
 
-// Czech letters without their marks; letters of other languages stay.
+// Removes the diacritics of Czech letters. Letters of other languages stay.
 std::string StripDiacritics(std::string_view text);
 
-// Each character in upper or lower case as `draw` says, one draw each.
+// Sets each character to upper or lower case at random, with one draw for each.
 std::string RandomCase(std::string_view text, const Draw& draw);
 
-// Replaces each exact occurrence of `find`, from the left. required: the next occurrence may begin with the second
-// character of the replacement, but may not lie wholly in it. `find` is not empty.
+// Replaces each exact occurrence of `find`, which is not empty, from the left. required: the search goes on at the
+// second character of the inserted replacement, so a new occurrence may begin in the replacement but must end after it.
 std::string ReplaceAllText(std::string_view text, std::string_view find, std::string_view with);
 
-// How many characters of code 10 the text holds.
+// The number of characters of code 10.
 std::int32_t CountLineFeeds(std::string_view text);
 
-// The lines, separated by CR LF.
+// Joins the lines with CR LF.
 std::string JoinLines(const std::vector<std::string_view>& lines);
 
-// A number as the status bar writes it: a blank for the sign of a positive one, then the digits.
+// A number in the format of the status bar: a blank in place of a plus sign, then the digits.
 std::string NumberWithSignBlank(std::int64_t number);
 
 }  // namespace pelmar

@@ -14,18 +14,18 @@ std::string Documents::Title() const { return "Pelmar VEX (" + title_.path + (ti
 void Documents::LeaveTab() {
   Current().Text = text_.Text();
   Current().Path = current_path_;
-  // required: only ever set here; saving, opening and a new document take it back
+  // required: set only here; saving, opening and a new document clear the flag
   if (Marked()) Current().Modified = true;
 }
 
 void Documents::EnterTab(int entered) {
   selected_ = entered;
-  // required: the change that this raises still sees the path of the tab that was left, and writes it into the slot
+  // required: when SetText notifies the change, current_path_ is still that of the old tab and goes into the slot
   title_follows_ = true;
   text_.SetText(std::exchange(Current().Text, {}));
   title_follows_ = false;
   current_path_ = faces_[IndexFromOne(entered)].ToolTipText;
-  // Only a document that a rescue brought back can have a name that Prime refuses.
+  // Prime would throw for a restored document without an extension.
   if (!current_path_.empty() && HasExtension(current_path_)) target_.Prime(current_path_);
   SetTitle(current_path_, Current().Modified);
 }
@@ -61,7 +61,7 @@ int Documents::EmptyTab() const {
 void Documents::ClearCurrent() {
   SetFace({}, {});
   Current() = {};
-  // required: the change that this raises writes the path, not yet cleared, back into the slot
+  // required: when SetText notifies the change, current_path_ isn't cleared yet and goes into the slot
   text_.SetText({});
   ForgetPath();
 }
@@ -85,7 +85,7 @@ void Documents::ShowPathInTitle() { SetTitle(current_path_, false); }
 
 void Documents::MakeCurrent(const std::string& path) {
   current_path_ = path;
-  target_.Prime(path);  // required: its error leaves the rest undone
+  target_.Prime(path);  // required: if this throws, the steps below aren't done
   Current().Path = path;
   Current().Modified = false;
   ShowPathInTitle();
@@ -93,8 +93,8 @@ void Documents::MakeCurrent(const std::string& path) {
 }
 
 void Documents::MakeCurrent(const std::string& path, std::string text) {
-  current_path_ = path;                 // required: the change that the text raises sees it already
-  title_follows_ = HasExtension(path);  // required: of another name only the mark comes into the title
+  current_path_ = path;                 // required: set before SetText notifies the change
+  title_follows_ = HasExtension(path);  // required: a name without an extension only adds the mark to the title
   text_.SetText(std::move(text));
   title_follows_ = false;
   MakeCurrent(path);

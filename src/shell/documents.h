@@ -1,7 +1,7 @@
-// The five documents over one text box: slots, the current path, the tabs' faces and the title with its mark.
-// Four places hold document state, each with its own truth, and their disagreements are required: the box holds the
-// live text, `current path` its path, a tab's tool tip the path that a switch restores, and the title's "*" the mark of
-// the current document. Tabs count from 1. Paths, captions and the title are UTF-8, texts Windows-1250.
+// The five documents, which share one text box. required: the four places that hold a document's state may disagree.
+// The box holds the current text, `current path` its path, a tab's tool tip the path restored by a switch to the tab,
+// and the title's "*" the mark for unsaved changes. Tabs count from 1. Paths, captions and the title are UTF-8, texts
+// Windows-1250.
 #pragma once
 
 #include <array>
@@ -17,9 +17,9 @@ namespace pelmar {
 inline constexpr int kTabCount = 5;
 
 struct DocSlot {
-  std::string Text;  // of a tab that isn't on show; the box holds the other one
+  std::string Text;  // the text of a tab that isn't selected; the box holds the text of the selected tab
   std::string Path;
-  bool Modified = false;  // the document that a tab switch left behind had unsaved changes
+  bool Modified = false;  // the document had unsaved changes when its tab was left
 };
 
 struct TabFace {
@@ -29,7 +29,7 @@ struct TabFace {
 
 class Documents {
  public:
-  // Listens to the box from here on, before any view of it.
+  // Construct this object before any view of the text, so that it is notified first.
   explicit Documents(TextBuffer& text);
 
   void SwitchTo(int tab);
@@ -45,32 +45,32 @@ class Documents {
   [[nodiscard]] const TextBuffer& Text() const { return text_; }
   [[nodiscard]] SaveTarget& Target() { return target_; }
 
-  // True for a document whose changes a close would lose: the slot's flag, or the mark for the current one.
+  // True if closing the program would lose changes: the slot's flag is set, or the current document is marked.
   [[nodiscard]] bool IsUnsaved(int tab) const;
-  // The number that the question at the close tells.
+  // The number of unsaved documents, shown in the question at the close.
   [[nodiscard]] int UnsavedCount() const;
 
-  // The next tab behind the current one that holds nothing, 0 where there is none.
+  // The first empty tab after the current one, or 0 if no tab is empty.
   [[nodiscard]] int EmptyTab() const;
 
-  // Empties the current tab; the question has been answered.
+  // Empties the current tab without a question.
   void ClearCurrent();
-  // The start's fresh state: no path, no mark.
+  // Removes the path and the mark of the current document.
   void ForgetPath();
-  // The start: the restored text counts as unchanged.
+  // Clears the flag of slot 1, because the text restored at the start counts as unchanged.
   void ForgetFirstSlotsMark() { slots_[0].Modified = false; }
-  // A document that a crash left behind comes back into its tab, which becomes the selected one, marked as unsaved.
+  // Puts a document rescued after a crash into the tab, selects the tab and marks the document as unsaved.
   void Restore(int tab, std::string text, const std::string& path);
 
-  // The file at the path is the current document from here on, and the text is what it holds: the end of a save.
-  // Throws RuntimeError for a name without a full stop, when nothing but the current path has changed.
+  // Makes the path the file of the current document and counts the text as saved. A name without an extension throws
+  // RuntimeError after the current path has been set; nothing else of the document changes then.
   void MakeCurrent(const std::string& path);
-  // The same for a file that is opened; its text comes in first, also where it throws.
+  // First loads the text of an opened file, then does the same. The text is loaded even if the name throws.
   void MakeCurrent(const std::string& path, std::string text);
 
   Listeners<> title_changed;
-  Listeners<int> face_changed;  // of this tab
-  Listeners<int> tab_selected;  // this one, when all of it is there
+  Listeners<int> face_changed;  // with the tab's number
+  Listeners<int> tab_selected;  // with the tab's number, after its text, path and title are set
 
  private:
   struct TitleParts {
@@ -83,7 +83,7 @@ class Documents {
   void LeaveTab();
   void EnterTab(int entered);
   void TextChanged();
-  void ShowPathInTitle();  // without "*"
+  void ShowPathInTitle();  // clears the "*"
   void SetTitle(std::string path, bool marked);
   void SetFace(std::string caption, std::string tool_tip);
 
@@ -94,7 +94,7 @@ class Documents {
   std::string current_path_;
   TitleParts title_;
   SaveTarget target_;
-  bool title_follows_ = false;  // behind the change of the text that goes on: so it is told once
+  bool title_follows_ = false;  // the title will be set after this text change, so its listeners are notified once
   Listening changes_;
 };
 

@@ -1,5 +1,5 @@
-// The program without its windows: the one text, the documents over it, the settings and the commands that need no
-// window of their own. Windows get the parts they need from here through their constructors.
+// The program without its windows: the text, the documents, the settings and the commands that need no window. Windows
+// get the parts they need through their constructors.
 #pragma once
 
 #include "platform/platform.h"
@@ -22,7 +22,7 @@ struct Editor {
   Commands commands;
 };
 
-// Clears the current tab after a question.
+// Asks, then clears the current tab.
 void NewDocument(Editor& editor);
 
 }  // namespace pelmar

@@ -39,7 +39,7 @@ void WriteFileOn(FileNumber& number, Platform& platform, const std::string& path
 void WriteRecordOn(FileNumber& number, Platform& platform, const std::string& path, std::string record) {
   const OpenNumber open(number);
   const FileBytes old = platform.ReadFile(path, std::nullopt);
-  // What isn't a regular file has no tail.
+  // A missing file, and a path that is no regular file, have no tail.
   if (old.error != ENOENT && old.error != EINVAL) Check({.error = old.error}, path, kCantWrite);
   if (old.bytes.size() > record.size()) record += old.bytes.substr(record.size());
   Check(platform.WriteDocument(path, record), path, kCantWrite);

@@ -1,6 +1,6 @@
-// The program-wide file number 1. The operations on documents and on the program's own files run on it, one at a time;
-// opening one that an error abandons half-way leaves it open, and then every later operation fails until the next
-// start. The rescue and the conversions of files do without it.
+// File number 1, which the whole program shares. Operations on documents and on the program's own files use the number,
+// one at a time. required: if an error interrupts the opening of a document, the number stays in use, and every later
+// operation fails until the program is restarted. The rescue and the conversions of files don't use the number.
 #pragma once
 
 #include <cerrno>
@@ -17,7 +17,7 @@ class FileNumber {
  public:
   [[nodiscard]] bool IsOpen() const { return open_; }
 
-  // Throws RuntimeError (EBUSY) when it is open already.
+  // Throws RuntimeError (EBUSY) if the number is in use.
   void Open() {
     if (open_) throw RuntimeError(EBUSY, "Soubor číslo 1 je již otevřen");
     open_ = true;
@@ -28,7 +28,7 @@ class FileNumber {
   bool open_ = false;
 };
 
-// The file number open for as long as this lives, for operations that set it free however they end.
+// Keeps the file number in use during its own lifetime.
 class OpenNumber {
  public:
   explicit OpenNumber(FileNumber& number) : number_(number) { number_.Open(); }
@@ -40,22 +40,22 @@ class OpenNumber {
   FileNumber& number_;
 };
 
-// True when the path opens for reading. required: while the number is stuck nothing is found, so that every later
-// operation fails until the next start; the test may not set it free.
+// True if the file can be opened for reading. required: always false while the number is in use, so that every later
+// operation fails until the program is restarted. Never releases the number.
 bool FileExists(const FileNumber& number, Platform& platform, const std::string& path);
 
-// Of a file that is there.
+// The error for an existing file that can't be read.
 RuntimeError Unreadable(const std::string& path, int error);
 
-// What a person has to know of a failed write beside its error: a line behind a message, "" as a rule.
+// An extra line for the message about a failed write: where the old content of a damaged file was kept. Usually "".
 std::string KeptNotice(const WriteOutcome& outcome);
 
-// Files of the program's own, on the number. All throw RuntimeError where a step fails.
+// The functions below access the program's own files and use the file number. All throw RuntimeError if a step fails.
 void WriteFileOn(FileNumber& number, Platform& platform, const std::string& path, std::string_view bytes);
-// Over the start of a file that isn't cut: the tail of a longer old one stays behind the record. What can't be read
-// isn't written over.
+// Writes the record over the start of the file and keeps the tail of a longer old file. An unreadable file isn't
+// overwritten.
 void WriteRecordOn(FileNumber& number, Platform& platform, const std::string& path, std::string record);
-// The first bytes of a file, which is made, empty, where it is missing.
+// Reads at most `limit` bytes. A missing file is created empty.
 std::string ReadOrMakeOn(FileNumber& number, Platform& platform, const std::string& path, std::uint64_t limit);
 
 }  // namespace pelmar

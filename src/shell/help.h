@@ -10,10 +10,10 @@
 
 namespace pelmar {
 
-// The person's own file or that of the package; nothing where neither can be read, which the person is told.
+// The person's own help file, or the file of the package. Nothing if neither can be read, which is reported.
 std::optional<std::string> LoadHelp(Platform& platform);
 
-// From hit to hit as long as the person wants to go on. Case doesn't matter.
+// Selects one hit after another until the person stops. Ignores case.
 void SearchHelp(TextBuffer& text, std::string_view term, Platform& platform);
 
 }  // namespace pelmar

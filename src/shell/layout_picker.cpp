@@ -9,7 +9,7 @@ constexpr std::string_view kNames[3][3] = {
     {"Vlevo dole", "Dole", "Vpravo dole"},
 };
 
-// One side of a cell: the first half, the whole, the second half.
+// The length of a cell: cells 1 and 3 cover half of the screen, cell 2 all of it.
 constexpr int Length(int cell, int whole) { return cell == 2 ? whole : whole / 2; }
 constexpr int Start(int cell, int whole) { return cell == 3 ? whole / 2 : 0; }
 

@@ -1,5 +1,5 @@
-// What the core asks of the main window, by its two roles: a place on the screen, and the look of its text box. The
-// window is the program's; tests have a plain one. Sizes are outer ones in twips.
+// The two interfaces of the main window that the core uses: its place on the screen, and the look of its text box.
+// Tests replace the window by a simple class. Sizes are outer sizes in twips.
 #pragma once
 
 #include <cstdint>
@@ -11,7 +11,7 @@
 
 namespace pelmar {
 
-// The numbers of the settings record.
+// The values are stored in the settings.
 enum class WindowMode : std::int32_t { kNormal, kMinimised, kMaximised };
 
 // The look of the main text box. The font's name is Windows-1250.
@@ -50,11 +50,11 @@ class MainLook {
   MainLook& operator=(const MainLook&) = delete;
   virtual ~MainLook() = default;
 
-  // The one way to change the editor's font size: six sizes are taken, any other becomes 8.
+  // Sets the editor's font size. Only the six sizes of the menu are valid; any other becomes 8.
   void SetEditorFontSize(int size);
-  std::function<void()> on_font_size;  // told after each change of the size, for the dialog that shows it
+  std::function<void()> on_font_size;  // called after each change of the size; the font dialog sets this
 
-  // Bold and italic have marks of their own.
+  // The check marks of bold and italic are set separately, by MarkBold and MarkItalic.
   virtual void SetEditorColors(Color fore, Color back) = 0;
   virtual void SetEditorFont(const std::string& name) = 0;
   virtual void SetEditorBold(bool bold) = 0;
@@ -65,7 +65,7 @@ class MainLook {
   [[nodiscard]] virtual EditorLook Look() const = 0;
 
  protected:
-  // One of the six sizes; the check marks of its menu items go with it.
+  // Applies one of the six sizes and checks its menu item.
   virtual void ApplyEditorFontSize(int size) = 0;
 };
 

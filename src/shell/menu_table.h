@@ -1,5 +1,6 @@
-// The main menu as a table in display order, the toolbar's keys, and the groups of items that follow the state of the
-// text. Captions and tips are UTF-8 and carry their access keys; a command is known by its item's name or its key.
+// The main menu as a table in display order, the buttons of the toolbar, and the groups of items that the state of the
+// text enables. Captions and tips are UTF-8; "&" marks an access key. The name of an item, or the key of a button, is
+// also the name of its command.
 #pragma once
 
 #include <span>
@@ -21,19 +22,19 @@ std::span<const MenuItem> MenuItems();
 struct ToolbarButton {
   std::string_view key;
   std::string_view tip;
-  std::string_view picture;  // the name of its picture file
+  std::string_view picture;  // the name of the picture file
   bool separator_behind = false;
 };
 std::span<const ToolbarButton> ToolbarButtons();
 
-// The sizes that the editor's font can have, in points, by their items.
+// The font sizes of the editor, each with its menu item.
 struct FontSizeItem {
   int points;
   std::string_view item;
 };
 std::span<const FontSizeItem> FontSizeItems();
 
-// What the enabling of menu items depends on.
+// The state that enables or disables menu items.
 struct MenuState {
   bool has_path = false;
   bool has_clipboard = false;
@@ -42,7 +43,7 @@ struct MenuState {
   bool operator==(const MenuState&) const = default;
 };
 
-// The items that each part of the state enables.
+// The menu items enabled by each part of the state.
 std::span<const std::string_view> ItemsOfPath();
 std::span<const std::string_view> ItemsOfClipboard();
 std::span<const std::string_view> ItemsOfText();

@@ -1,4 +1,4 @@
-// The rules of the profile dialog Config: what it refuses, and what it puts into the settings. Texts are Windows-1250.
+// The rules of the profile dialog Config: which input is refused, and which values are stored. Texts are Windows-1250.
 #pragma once
 
 #include <string>
@@ -18,14 +18,15 @@ struct ProfileFields {
 
 enum class ProfileField { kNone, kName, kEmail, kPassword };
 
-// Which field keeps the dialog from accepting, kNone where it accepts, and the message that it shows then (UTF-8).
+// The field that is refused and the message about it (UTF-8). kNone if all fields are accepted.
 struct ProfileComplaint {
   ProfileField field = ProfileField::kNone;
   std::string_view message = {};
 };
 ProfileComplaint CheckProfile(const ProfileFields& fields);
 
-// Name, address and password. required: the password is stored without the check mark too, and uncompared then.
+// Stores name, address and password. required: without the check mark the password is stored without comparing its
+// repetition.
 void StoreProfile(const ProfileFields& fields, SettingsRecord& settings);
 
 }  // namespace pelmar

@@ -7,7 +7,7 @@ namespace {
 
 constexpr std::size_t kChecksumSize = 8;
 
-// FNV-1a.
+// FNV-1a
 std::uint64_t Checksum(std::string_view bytes) {
   std::uint64_t sum = 14695981039346656037u;
   for (char ch : bytes) sum = (sum ^ static_cast<std::uint64_t>(CodeOf(ch))) * 1099511628211u;

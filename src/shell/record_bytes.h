@@ -1,6 +1,6 @@
-// The fields of the program's own binary files: little-endian numbers and byte strings, one after the other, and the
-// seal (signature and checksum) of those files that must be whole to count. A file that ends too early reads as zero
-// and empty from there on; no count makes a reader allocate more than the bytes that are there.
+// Reads and writes the program's own binary files: little-endian numbers and byte strings in sequence. A field beyond
+// the end of a file reads as zero or empty. A wrong count never makes the reader allocate more than the file's size.
+// Files that must be complete have a seal: a signature and a checksum.
 #pragma once
 
 #include <cstdint>
@@ -10,18 +10,18 @@
 
 namespace pelmar {
 
-// Reads fields in file order. What it hands out points into the bytes it was given.
+// Reads fields in file order. The returned strings point into the given bytes.
 class RecordReader {
  public:
   explicit RecordReader(std::string_view bytes) : rest_(bytes) {}
 
-  // `size` bytes, at most 8.
+  // `size` is in bytes, at most 8.
   std::uint64_t Number(std::size_t size);
   std::string_view Bytes(std::uint64_t count);
-  // A count of `count_size` bytes, and as many bytes.
+  // Reads a count of `count_size` bytes, then as many bytes.
   std::string_view String(std::size_t count_size) { return Bytes(Number(count_size)); }
 
-  // A field went beyond the end.
+  // True if a field went beyond the end of the bytes.
   [[nodiscard]] bool Failed() const { return failed_; }
   [[nodiscard]] bool AtEnd() const { return rest_.empty(); }
 
@@ -34,7 +34,7 @@ class RecordWriter {
  public:
   void Number(std::uint64_t value, std::size_t size);
   void Bytes(std::string_view bytes) { bytes_ += bytes; }
-  // As the reader's; cut to what the count can tell.
+  // Writes a string in the reader's format. A text longer than the largest possible count is cut.
   void String(std::string_view text, std::size_t count_size);
   std::string Take() && { return std::move(bytes_); }
 
@@ -42,9 +42,9 @@ class RecordWriter {
   std::string bytes_;
 };
 
-// The body behind a signature and its checksum, which guards against torn and foreign files, not against malice.
+// Puts a signature and a checksum before the body. They detect incomplete and foreign files, not intended changes.
 std::string Sealed(std::string_view signature, std::string_view body);
-// The body of what Sealed wrote whole with this signature, otherwise nothing.
+// The body of sealed bytes. Nothing if the signature or the checksum differs.
 std::optional<std::string_view> SealedBody(std::string_view signature, std::string_view bytes);
 
 }  // namespace pelmar

@@ -1,4 +1,4 @@
-// The notes in the about window, up to the heading of those of this version, which stand below. Windows-1250.
+// The notes in the about window, up to the heading of this version's own notes. Windows-1250.
 #pragma once
 
 #include <string>

@@ -1,4 +1,5 @@
-// What a rescue keeps while it isn't saved, and how it comes back: the documents or the notes.
+// The interface between the rescue and the content it protects, either documents or notes: collects unsaved texts and
+// brings them back after a crash.
 #pragma once
 
 #include <string>
@@ -9,14 +10,14 @@
 
 namespace pelmar {
 
-// UTF-8, but for the name of the file.
+// UTF-8, except for the file name.
 struct RescueWords {
-  std::string_view found;      // the question's words before the number of texts
-  std::string_view wanted;     // and after it
-  std::string_view kept;       // what is kept, when the program ends by an error
-  std::string_view next_time;  // when it is offered
-  std::string_view rest_name;  // the file where what doesn't come back stays readable
-  std::string_view rest_told;  // what a person is told of that file
+  std::string_view found;      // the question, before the number of texts
+  std::string_view wanted;     // the question, after the number of texts
+  std::string_view kept;       // the kind of text, for the notice after an error
+  std::string_view next_time;  // when the program will offer to restore the texts
+  std::string_view rest_name;  // the file for texts that don't come back
+  std::string_view rest_told;  // the message about this file
 };
 
 class RescueContent {
@@ -29,13 +30,13 @@ class RescueContent {
   const RescueKind kind;
   const RescueWords words;
 
-  // What isn't saved at this moment.
+  // The texts that are unsaved now.
   [[nodiscard]] virtual RescueRecord Unsaved() const = 0;
-  // The texts as a file that a person reads.
+  // The content of a text file with these texts, for a person to read.
   [[nodiscard]] virtual std::string Readable(const std::vector<RescuedText>& texts) const = 0;
-  // True where nothing is lost if the text doesn't come back.
+  // True if the text needn't come back because the program already has it.
   [[nodiscard]] virtual bool IsHere(const RescuedText&) const { return false; }
-  // Returns what found no place.
+  // Returns the texts for which there was no place.
   virtual std::vector<RescuedText> BringBack(const std::vector<RescueRecord>& records) = 0;
 };
 

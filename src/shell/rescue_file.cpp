@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::size_t kNumber = 8;
 
-// 0 where the number is no place.
+// Reads the number of a tab or page, from 1. 0 if the number is invalid.
 int TakePlace(RecordReader& reader) {
   const std::uint64_t place = reader.Number(kNumber);
   return place <= kRescuePlaces ? static_cast<int>(place) : 0;

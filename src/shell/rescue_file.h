@@ -1,6 +1,6 @@
-// The bytes of a rescue file: what one running copy hasn't saved yet, its documents or its notes, kept while it runs so
-// that a crash or a power loss takes nothing. Binary with a signature and a checksum; what doesn't check out is no
-// rescue file.
+// The format of a rescue file, which holds the unsaved documents or notes of one running copy of the program. After a
+// crash or a power loss the texts are read from this file. The format is binary with a signature and a checksum; other
+// bytes are refused.
 #pragma once
 
 #include <optional>
@@ -10,7 +10,7 @@
 
 namespace pelmar {
 
-// What is kept. The prefix begins the name of the file, and none begins with another one.
+// The kind of the texts. The file name begins with the prefix. No prefix begins with another one.
 struct RescueKind {
   std::string_view prefix;
   std::string_view signature;
@@ -22,21 +22,21 @@ inline constexpr int kRescuePlaces = 5;
 
 struct RescuedText {
   int place = 1;       // the tab or the page, from 1
-  std::string origin;  // a document's path (UTF-8, empty where it was never saved), or a page as it was last stored
+  std::string origin;  // a document's path (UTF-8, empty if never saved), or the last stored text of a notes page
   std::string text;
   bool operator==(const RescuedText&) const = default;
 };
 
 struct RescueRecord {
-  int shown = 1;  // the place on show
+  int shown = 1;  // the place that was selected
   std::vector<RescuedText> texts;
   bool operator==(const RescueRecord&) const = default;
 };
 
-// "" where there is no text to keep.
+// "" if there is no text to keep.
 std::string RescueBytes(const RescueKind& kind, const RescueRecord& record);
 
-// Nothing for bytes that RescueBytes didn't write whole. Never allocates more than the bytes' own size.
+// Nothing if RescueBytes didn't write these bytes or they are incomplete. Never allocates more than the bytes' size.
 std::optional<RescueRecord> ReadRescue(const RescueKind& kind, std::string_view bytes);
 
 }  // namespace pelmar

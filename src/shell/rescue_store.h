@@ -1,6 +1,6 @@
-// Rescue files on the disk: one of a kind for each running copy, in the install folder. A copy holds a lock beside its
-// file for as long as it lives, so that no other copy takes it for abandoned. The write is atomic. Calls come from one
-// thread at a time.
+// Rescue files on disk, in the install folder. Each running copy of the program has one file for documents and one for
+// notes. The copy holds a lock for each, so that no other copy takes the file for abandoned. Writes are atomic. Call
+// from one thread at a time.
 #pragma once
 
 #include <functional>
@@ -14,18 +14,18 @@ namespace pelmar {
 
 class RescueStore {
  public:
-  // 0 or errno, as Platform::WritePrivateFile.
+  // Returns 0 or errno, like Platform::WritePrivateFile.
   using WriteFile = std::function<int(const std::string& path, std::string_view bytes)>;
 
-  // `folder` ends in a separator; it is used from the first Keep on. `prefix` begins the file's name and tells apart
-  // what is kept; none begins with another one.
+  // `folder` ends in a separator and is used from the first Keep on. The file name begins with `prefix`, which is
+  // different for documents and notes.
   RescueStore(std::string folder, std::string_view prefix, WriteFile write);
   RescueStore(const RescueStore&) = delete;
   RescueStore& operator=(const RescueStore&) = delete;
 
-  // Puts the bytes into this copy's file; empty bytes remove it. Returns 0 or errno.
+  // Writes this copy's file; empty bytes remove the file. Returns 0 or errno.
   int Keep(std::string_view bytes);
-  // Where the file lies once bytes were kept; a copy that dies leaves it there for the next start.
+  // The path of this copy's file. If the program crashes, the next start finds the file there.
   [[nodiscard]] const std::string& Path() const { return path_; }
   [[nodiscard]] bool HasFile() const;
 
@@ -36,8 +36,8 @@ class RescueStore {
   LockFile lock_;
 };
 
-// The rescue files whose copies have died, sorted. `offer` is held where there are any: one copy at a time offers them,
-// and none are found while another one does.
+// The rescue files of copies that are no longer running, sorted. If there are any, takes the lock `offer`, so that only
+// one copy offers them. Finds none while another copy holds this lock.
 std::vector<std::string> FindAbandoned(const std::string& folder, std::string_view prefix, LockFile& offer);
 
 }  // namespace pelmar

@@ -12,7 +12,7 @@ RescueRecord UnsavedDocuments(const Documents& documents) {
   RescueRecord record{documents.SelectedTab(), {}};
   for (int tab = 1; tab <= kTabCount; ++tab) {
     if (!documents.IsUnsaved(tab)) continue;
-    // The path in the slot of the current tab may still be that of the tab left before.
+    // The slot of the current tab may still hold the path of the previously selected tab.
     const std::string& path = tab == documents.SelectedTab() ? documents.CurrentPath() : documents.Slot(tab).Path;
     record.texts.push_back({tab, path, documents.TextOf(tab)});
   }

@@ -1,4 +1,4 @@
-// What a rescue keeps of the documents, and how it brings them back.
+// Collects the documents for the rescue and brings them back.
 #pragma once
 
 #include <string>
@@ -11,15 +11,15 @@
 
 namespace pelmar {
 
-// The documents of the running program that have unsaved changes.
+// All documents with unsaved changes.
 RescueRecord UnsavedDocuments(const Documents& documents);
 
-// Brings documents back: each into its own tab, or into the next empty one where its own holds a document with a path
-// or one brought back before. Those that found no place are returned.
+// Puts each document into its own tab. If this tab holds a file or another restored document, the next empty tab is
+// used. Returns the documents for which there was no tab.
 std::vector<RescuedText> BringBackDocuments(Documents& documents, const std::vector<RescueRecord>& records);
 
-// A document as it stands in a text file that a person reads: a head line with the path, then the text. A path that
-// Windows-1250 can't hold stands there in UTF-8.
+// A document in a text file for a person to read: a line with the path, then the text. A path that Windows-1250 can't
+// hold is written in UTF-8.
 std::string ReadableDocument(std::string_view path, std::string_view text);
 std::string ReadableDocuments(const std::vector<RescuedText>& documents);
 

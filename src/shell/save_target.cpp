@@ -6,7 +6,7 @@ void SaveTarget::Prime(const std::string& path) {
   path_ = path;
   if (HasExtension(path)) file_ = path;
   primed.Notify();
-  FilePart(path, 2);  // required: this is where an open or a save of such a name breaks off
+  FilePart(path, 2);  // required: throws here for a name without an extension, so an open or a save ends at this point
 }
 
 }  // namespace pelmar

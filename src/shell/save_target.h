@@ -1,5 +1,5 @@
-// What the dialog Ulož was last primed with: each open, each save and each switch to a tab with a path leaves its path
-// here, so that the dialog needn't exist for it. Paths are UTF-8.
+// The path that fills the fields of the dialog Ulož. Each open, each save and each switch to a tab with a path sets
+// this path, so the dialog needn't exist yet. Paths are UTF-8.
 #pragma once
 
 #include <string>
@@ -11,12 +11,12 @@ namespace pelmar {
 
 class SaveTarget {
  public:
-  // Throws RuntimeError for a name without a full stop, of which only the folder is taken.
+  // Sets the path. For a name without an extension, sets only the folder and throws RuntimeError.
   void Prime(const std::string& path);
 
-  // False: the dialog keeps its own initial fields.
+  // False if no path was set yet; the dialog then keeps its initial fields.
   [[nodiscard]] bool Primed() const { return !path_.empty(); }
-  // False: the last priming broke off, and name and extension are still those of the one before it.
+  // False if the last Prime threw; name and extension are then still the old ones.
   [[nodiscard]] bool Complete() const { return file_ == path_; }
 
   [[nodiscard]] const std::string& Path() const { return path_; }
@@ -24,12 +24,12 @@ class SaveTarget {
   [[nodiscard]] std::string Name() const { return file_.empty() ? std::string() : FilePart(file_, 2); }
   [[nodiscard]] std::string Extension() const { return file_.empty() ? std::string() : FilePart(file_, 3); }
 
-  // Told after each priming, also after one that breaks off.
+  // Notified after each Prime, also after one that throws.
   Listeners<> primed;
 
  private:
   std::string path_;
-  std::string file_;  // the last path whose name could be taken
+  std::string file_;  // the last path whose name has an extension
 };
 
 }  // namespace pelmar

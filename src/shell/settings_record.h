@@ -1,6 +1,6 @@
-// The program-wide record that "\pelmar.ini" keeps between runs, and its exact bytes: little-endian numbers, 16-bit
-// booleans (-1 true), strings as a 16-bit byte count and that many bytes, no signature and no padding.
-// Texts are Windows-1250. Only RecentFiles are paths (UTF-8 in memory); StoredPath says how they are kept.
+// The settings that "\pelmar.ini" stores, and their format: little-endian numbers, 16-bit booleans (-1 is true),
+// strings as a 16-bit byte count and that many bytes, without signature or padding. Texts are Windows-1250, except
+// RecentFiles, which are UTF-8 in memory; StoredPath says how they are stored.
 #pragma once
 
 #include <array>
@@ -36,14 +36,14 @@ struct SettingsRecord {
   bool operator==(const SettingsRecord&) const = default;
 };
 
-// Reads the record from the start of a file's bytes. A file that ends too early reads as zero and empty from there on.
+// Reads the record from the start of the bytes. A field beyond the end of the bytes reads as zero or empty.
 SettingsRecord ReadSettings(std::string_view bytes);
 
-// The record's bytes. A string longer than 65,535 bytes is cut to that.
+// The record's bytes. A string longer than 65,535 bytes is cut.
 std::string SettingsBytes(const SettingsRecord& record);
 
-// Repairs that the start makes before it uses the record: the name of the font, equal colours, lengths that lead off
-// every desktop.
+// Repairs the record at the start of the program: a missing font name, equal colours of text and background, and
+// lengths larger than any desktop.
 void ApplySettingsDefaults(SettingsRecord& record);
 
 }  // namespace pelmar

@@ -1,4 +1,4 @@
-// An accessory that runs as the whole program, and its end.
+// The modes in which one accessory runs as the whole program, without the editor.
 #pragma once
 
 #include <string_view>
@@ -7,11 +7,11 @@
 
 namespace pelmar {
 
-// The editor, or one such accessory.
+// The editor, or the accessory that runs alone.
 enum class StartMode { kEditor, kCalculator, kNotes, kBrowser };
 
-// Asks whether `accessory` (in the accusative, as in "Poznámky") is to end. On true the caller ends the process at
-// once: neither the settings nor the recovery files are written in these modes.
+// Asks whether to close `accessory` (in the accusative, as in "Poznámky"). If true, the caller ends the process at
+// once: these modes write neither the settings nor the recovery files.
 bool MayEndStandAlone(Platform& platform, std::string_view accessory);
 
 }  // namespace pelmar

@@ -1,5 +1,5 @@
-// What the status timer shows: the state that enables menu items, on each tick, and the texts of panels 1 to 4, where
-// what they tell of has changed. Panel texts are Windows-1250, because they show the document and the clipboard.
+// Computes what the status timer shows: the state of the menu items on each tick, and the texts of panels 1 to 4 when
+// the text or the clipboard has changed. Panel texts are Windows-1250.
 #pragma once
 
 #include <optional>
@@ -17,10 +17,10 @@ struct PanelTexts {
   std::string lines;     // panel 3
 };
 
-// Only line feeds count as lines, from 0.
+// The number of lines is the number of line feeds.
 PanelTexts ComputePanels(const TextBuffer& box, bool line_counting);
 
-// Panel 4. `clipboard` is nothing where the clipboard offers no plain text.
+// The text of panel 4. `clipboard` is nothing if the clipboard offers no plain text.
 std::string ComputeContent(const TextBuffer& box, const std::optional<std::string>& clipboard);
 
 MenuState ComputeMenuState(const TextBuffer& box, std::string_view current_path,

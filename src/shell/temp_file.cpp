@@ -6,7 +6,7 @@
 namespace pelmar {
 
 TempFile WriteTempFile(Platform& platform, std::string_view start, std::string_view end, std::string_view bytes) {
-  // Names that others have taken already are passed over, but not for ever.
+  // If a name is taken, another one is tried, up to this number of names.
   constexpr int kMostNames = 100;
   constexpr double kNumbers = 99'999'999.0;
   const std::string folder = platform.TempFolder();

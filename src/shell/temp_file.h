@@ -1,5 +1,5 @@
-// Files in the temporary folder, which others may write to as well: each is new, has a drawn name, and only its owner
-// can read it. Links and files that somebody has planted under the name are passed over.
+// Creates files in the temporary folder, to which other users can write too. Each file is new, has a random name and is
+// readable only by its owner. A name that is already taken, even by a link, isn't used.
 #pragma once
 
 #include <string>
@@ -12,7 +12,7 @@ namespace pelmar {
 struct TempFile {
   int error = 0;       // 0 or errno
   std::string path;    // UTF-8
-  std::string digits;  // what the name has between its start and its end
+  std::string digits;  // the part of the name between `start` and `end`
 };
 
 // The name is `start`, the digits of a number from 0 to 99,999,998 and `end`.

@@ -1,4 +1,4 @@
-// What a call from the terminal asks for that needs no window: the two switches of every Linux program.
+// Answers the two command-line switches that every Linux program has and that need no window.
 #pragma once
 
 #include <optional>
@@ -7,8 +7,8 @@
 
 namespace pelmar {
 
-// The text to print for the arguments behind the program's name, UTF-8; the program ends with it. Nothing where they
-// are the command tail: anything but one of the two switches alone.
+// The text to print for the arguments after the program's name, UTF-8; the program then ends. Nothing unless the only
+// argument is one of the two switches.
 std::optional<std::string_view> TerminalAnswer(std::span<char* const> arguments);
 
 }  // namespace pelmar

@@ -16,7 +16,7 @@ constexpr int kMostRequests = 20;
 TwipsRect Snap(TwipsRect f, int d, const TwipsRect& screen) {
   f.left -= screen.left;
   f.top -= screen.top;
-  // Each test is on the values as the steps before left them.
+  // Each test uses the values set by the lines above.
   if (f.left + f.width - screen.width > -d && f.left < d) f.width = screen.width;
   if (f.top + f.height - screen.height > -d && f.top < d) f.height = screen.height;
   if (f.left < d) f.left = 0;

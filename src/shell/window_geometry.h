@@ -1,5 +1,5 @@
-// Places and sizes of windows in twips, 15 to the logical pixel, outer sizes with the frame: snapping to the screen's
-// edges and the layout of the main window. Only computed here; the windows and the status timer apply what comes out.
+// Computes how windows snap to the edges of the screen, and the layout of the main window. Places and sizes are outer
+// ones in twips, 15 to the logical pixel.
 #pragma once
 
 #include <array>
@@ -11,15 +11,15 @@ namespace pelmar {
 
 inline constexpr int kPanelCount = 7;
 
-// One tick of snapping: a window nearer than `distance` to an edge of its screen goes to it, and one that is nearly as
-// wide or high as the screen becomes just so. A second screen begins elsewhere than at 0, 0.
+// Moves a window to an edge of its screen that is nearer than `distance`. A window almost as wide or high as the screen
+// gets the screen's width or height. The screen needn't begin at 0, 0.
 TwipsRect Snap(TwipsRect window, int distance, const TwipsRect& screen);
 
-// Asking a window's place of the system, as long as that may help: a window manager overlooks requests while it moves
-// the window itself, and some never let a program place its windows.
+// Limits the requests to move a window. A window manager ignores requests while it moves the window, and some never let
+// a program place its windows.
 class PlaceRequests {
  public:
-  // False where a window at `now` was asked often enough to go to `wanted`.
+  // False if a window at `now` ignored too many requests to go to `wanted`.
   bool Worthwhile(const TwipsRect& now, const TwipsRect& wanted);
 
  private:
@@ -28,8 +28,8 @@ class PlaceRequests {
   int in_vain_ = 0;
 };
 
-// The width that panel 4 takes, nothing where it keeps its own. required: the sum includes panel 4's present width, so
-// that the width alternates between two values where both are above 0.
+// The new width of panel 4, or nothing if the width stays. required: the sum includes the present width of panel 4, so
+// the width alternates between two values if both are above 0.
 std::optional<int> SparePanelWidth(int outer_width, const std::array<int, kPanelCount>& widths);
 
 struct LayoutInput {
@@ -46,12 +46,12 @@ struct LayoutInput {
 };
 
 struct LayoutResult {
-  // Nothing while the window is minimised.
+  // An empty value changes nothing. All four are empty while the window is minimised.
   std::optional<int> text_width;
   std::optional<int> text_height;
   std::optional<int> tabs_width;
   std::optional<int> panel4_width;
-  int grow_outer_height = 0;  // how much higher the window has to become for its bars
+  int grow_outer_height = 0;  // the window must grow by this height for its bars
   int text_top = 0;
 };
 LayoutResult ComputeLayout(const LayoutInput& input);

@@ -18,7 +18,7 @@ void DirSetup::Command1_Click() {
     FolderList* const folders = browser().folders;
     const bool there = folders->Path() == ui_->Dir1->Path();
     folders->SetPath(ui_->Dir1->Path());
-    // The choice counts for the dialog also where its list stood there already.
+    // A dialog that already shows this folder must react to the choice too.
     if (there) Q_EMIT folders->PathChanged(folders->Path());
   }
   hide();

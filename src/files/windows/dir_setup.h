@@ -1,4 +1,4 @@
-// `DirSetup`: leads the lists of all the dialogs that pick files to one folder. It stores nothing.
+// The dialog `DirSetup` sets the folder of all dialogs that pick files. The choice isn't stored.
 #pragma once
 
 #include <functional>
@@ -18,7 +18,7 @@ class DirSetup : public FormDialog<Ui::DirSetup> {
   Q_OBJECT
 
  public:
-  // The folder browsers of the dialogs, each of which is made when it is asked for.
+  // Each entry creates its dialog when called, and returns the dialog's folder browser.
   DirSetup(const std::vector<std::function<FolderBrowser()>>& dialogs, QWidget* parent);
 
  private:

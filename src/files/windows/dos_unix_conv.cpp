@@ -35,7 +35,7 @@ void Dos_Unix_conv::EnableConversions(bool on) {
 
 void Dos_Unix_conv::Convert(const std::function<void(const std::string& path)>& convert) {
   convert(PathOn(*ui_->Label2));
-  ui_->File1->SetPath(ui_->File1->Path());  // the new file shows
+  ui_->File1->SetPath(ui_->File1->Path());  // shows the new file in the list
 }
 
 }  // namespace pelmar

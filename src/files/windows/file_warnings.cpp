@@ -21,8 +21,8 @@ QString TooLong(std::size_t size) {
 
 }  // namespace
 
-// The disk is asked about the file when the main window gets or loses the keyboard, as it does to a question, and never
-// while the person types. Another file on the tab, opened or saved, is this program's own doing.
+// The disk is checked when the main window gains or loses the keyboard focus, so never while the person types. A
+// question takes the focus too. A file that this program opened or saved counts as unchanged.
 FileWarnings::FileWarnings(MainWindow& window, Editor& editor, const OutsideChanges& outside)
     : QObject(&window),
       window_(window),

@@ -1,6 +1,6 @@
-// Hints in the status bar at what is wrong with the document's text and its file. That the text is too long or mixes
-// two encodings stands for as long as it is so. That the file was changed, is in UTF-8 or has other line ends stands
-// until the text is changed.
+// Hints in the status bar about the document's text and file. A hint about a text that is too long or in two encodings
+// stays until the text is corrected. A hint about a changed file, UTF-8 or other line ends stays until the text
+// changes.
 #pragma once
 
 #include <QObject>
@@ -16,7 +16,7 @@ class FileWarnings : public QObject {
   Q_OBJECT
 
  public:
-  // Belongs to the window.
+  // The window owns this object.
   FileWarnings(MainWindow& window, Editor& editor, const OutsideChanges& outside);
 
  protected:

@@ -26,7 +26,7 @@ void Otevri::File1_Click() {
   ui_->Text2->SetText(ToBytes(preview));
   const QString hint = Utf8ToQString(FormatHint(preview));
   ui_->Label3->setText(hint);
-  ui_->Label3->setToolTip(hint);  // a narrow dialog cuts the line
+  ui_->Label3->setToolTip(hint);  // a narrow dialog cuts the text
 }
 
 void Otevri::Command1_Click() {

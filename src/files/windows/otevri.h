@@ -1,4 +1,4 @@
-// `Otevři`: the program's own dialog for opening a file, with folders, a mask and a preview.
+// The program's own dialog `Otevři` opens a file. The dialog has folders, a name mask and a preview.
 #pragma once
 
 #include "files/open.h"

@@ -11,11 +11,11 @@ Uloz::Uloz(Documents& documents, Saver& saver, QWidget* parent)
   setObjectName(QStringLiteral("Ulož"));
   LinkFileBrowser(ui_->Drive1, ui_->Dir1, ui_->File1);
   ui_->Text1->setFocus();
-  ui_->Text2->setCompleter(nullptr);  // it would make "html" of a typed "h"
+  ui_->Text2->setCompleter(nullptr);  // a completer would replace a typed "h" by "html"
   connect(ui_->Dir1, &FolderList::PathChanged, this, &Uloz::FieldChanged);
   connect(ui_->Text1, &QLineEdit::textChanged, this, &Uloz::FieldChanged);
   connect(ui_->Text2, &QComboBox::currentTextChanged, this, &Uloz::FieldChanged);
-  connect(ui_->Text2, &QComboBox::textActivated, this, &Uloz::FieldChanged);  // the same extension again counts too
+  connect(ui_->Text2, &QComboBox::textActivated, this, &Uloz::FieldChanged);  // also if the same extension is chosen
   connect(ui_->Command1, &QPushButton::clicked, this, &Uloz::Command1_Click);
   connect(ui_->Command2, &QPushButton::clicked, this, &Uloz::hide);
   priming_ = documents_.Target().primed.Add([this] { TakeTarget(); });
@@ -24,7 +24,7 @@ Uloz::Uloz(Documents& documents, Saver& saver, QWidget* parent)
 
 void Uloz::FieldChanged() {
   ui_->Command1->setEnabled(true);
-  // A name that still stands as it was primed keeps its bytes.
+  // An unchanged field keeps the bytes of its file name, which the conversion to QString may lose.
   const SaveTarget& target = documents_.Target();
   const auto typed = [](const QString& text, const std::string& primed) {
     return text == Utf8ToQString(primed) ? primed : Utf8FromQString(text);

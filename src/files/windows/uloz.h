@@ -1,5 +1,5 @@
-// `Ulož`: the program's own dialog for saving, a live preview of the target path. It remembers the last file: each
-// open, each save and each switch to a tab with a path primes it.
+// The program's own dialog `Ulož` saves the document and shows the target path while the person types. Each open, each
+// save and each switch to a tab with a path fills the dialog's fields with that path.
 #pragma once
 
 #include "files/save.h"

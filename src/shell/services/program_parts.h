@@ -1,5 +1,5 @@
-// What the windows and commands of all subsystems are made from. Each subsystem adds its own to it, in a function of
-// its windows folder; the parts outlive every window.
+// The parts from which all subsystems make their windows and commands. Each subsystem registers its own in a function
+// of its windows folder. The parts outlive every window.
 #pragma once
 
 #include <functional>
@@ -21,24 +21,25 @@ struct Files;
 class MainWindow;
 struct FolderBrowser;
 
-// By mode, what shows an accessory that runs as the whole program.
+// The function that shows an accessory as the whole program, for each mode.
 using StandAlones = std::map<StartMode, std::function<void()>>;
 
-// Called before an error or the system ends the program. Each keeps what its window holds and returns the lines that
-// tell where, in UTF-8, or "" where there was nothing to keep.
+// Called before an error or the system ends the program. Each function saves the unsaved texts of its window and
+// returns a notice with their place, UTF-8. "" if there were no unsaved texts.
 using Keepers = std::vector<std::function<std::string()>>;
 
-// The folder browsers of the dialogs that pick files, each made when it is asked for.
+// The folder browsers of all dialogs that pick files. Each function creates its dialog when called.
 using FilePickers = std::vector<std::function<FolderBrowser()>>;
 
-// What the program offers its windows beside what it is made of.
+// Functions that windows call. Program sets them except where noted.
 struct Doors {
-  std::function<void()> store_settings;  // without the window's state
+  std::function<void()> store_settings;  // stores all but the window's state
   std::function<StartMode()> mode;
-  std::function<bool()> closed;  // the person has let the program end, and what is stored is final
-  // Shows a file in the internal browser; the path is UTF-8, an empty one does nothing. Set by the browser.
+  std::function<bool()> closed;  // the program is ending and the settings are already stored
+  // Shows a file in the internal browser. The path is UTF-8; an empty path does nothing. The browser sets this
+  // function.
   std::function<void(const std::string& path)> show_in_browser;
-  // Asks for a colour, beginning with the given one. Set by the colour dialog.
+  // Asks for a colour, with the given one as the initial choice. The colour dialog sets this function.
   std::function<Color(Color)> pick_color;
 };
 
@@ -53,12 +54,12 @@ struct ProgramParts {
   FilePickers& file_pickers;
   Doors& doors;
 
-  // The doors for windows, which are registered before all of these are set.
+  // Functions that call show_in_browser and pick_color. A window may get them before these two are set.
   [[nodiscard]] std::function<void(const std::string& path)> BrowserDoor() const;
   [[nodiscard]] std::function<Color(Color)> ColorDoor() const;
 
-  // Registers the window, and the commands of these names to show it. It is made from `with`, where std::ref stands for
-  // what isn't copied, and from the main window as its parent.
+  // Registers the window, and commands with these names that show it. The window is made from copies of `with` and the
+  // main window as its parent. Use std::ref for an argument that must not be copied.
   template <class Window, class... With>
   void Add(std::initializer_list<std::string_view> names, With... with) const {
     windows.Register<Window>(
@@ -66,13 +67,13 @@ struct ProgramParts {
     ShowBy(names, typeid(Window));
   }
 
-  // The commands of these names show the window, or bring it to the front.
+  // Adds commands with these names that show the window or bring it to the front.
   template <class Window>
   void ShowBy(std::initializer_list<std::string_view> names) const {
     ShowBy(names, typeid(Window));
   }
 
-  // The window is one that picks files: its lists `Drive1` and `Dir1` follow the working folders.
+  // Registers a window that picks files. DirSetup sets the folder of its lists `Drive1` and `Dir1`.
   template <class Window>
   void AddFilePicker() const {
     AddFilePicker(typeid(Window));
@@ -84,7 +85,7 @@ struct ProgramParts {
   void AddFilePicker(std::type_index window) const;
 };
 
-// What each subsystem adds, defined in its windows folder. Program calls them all.
+// Each subsystem's function that registers its windows and commands. Program calls them all.
 void AddShellWindows(const ProgramParts& parts);
 void AddFileWindows(const ProgramParts& parts);
 void AddTextWindows(const ProgramParts& parts);

@@ -12,9 +12,9 @@
 namespace pelmar {
 namespace {
 
-// Leaves time for the write within the two seconds that are promised.
+// In milliseconds. Leaves time to finish the write within the promised two seconds.
 constexpr int kDelay = 1000;
-// A write that failed is tried again after pauses that double from kDelay up to this.
+// A failed write is repeated. The pauses double from kDelay up to this limit in milliseconds.
 constexpr int kLongestPause = 60'000;
 
 }  // namespace
@@ -37,7 +37,7 @@ void RescueKeeper::KeepSoon() {
   if (!timer_.isActive() || timer_.remainingTime() > kDelay) timer_.start(kDelay);
 }
 
-// Nothing where the memory doesn't suffice.
+// Nothing if there isn't enough memory.
 std::optional<RescueRecord> RescueKeeper::CopyUnsaved() const {
   try {
     return content_.Unsaved();
@@ -47,14 +47,14 @@ std::optional<RescueRecord> RescueKeeper::CopyUnsaved() const {
 }
 
 void RescueKeeper::WriteInThread() {
-  // A slow disk gets the latest text once it is ready, not one copy after another.
+  // Waits for the running write on a slow disk. The next write takes the latest text.
   if (writer_.activeThreadCount() > 0) return timer_.start(kDelay);
-  // The copy is all that a long document costs the person who types.
+  // This copy is the only work in the user interface's thread.
   auto now = CopyUnsaved();
   if (!now) return AfterWrite(ENOMEM);
   writer_.start([this, write = ++writes_, record = std::move(*now)]() mutable {
     const int error = WriteIfChanged(std::move(record));
-    // Only the last write tells how things stand.
+    // A newer write makes this result obsolete.
     const auto after = [this, write, error] {
       if (write != writes_) return;
       AfterWrite(error);
@@ -70,7 +70,7 @@ int RescueKeeper::WriteIfChanged(RescueRecord record) {
   try {
     error = store_.Keep(RescueBytes(content_.kind, record));
   } catch (const std::bad_alloc&) {
-    // The file of the write before stays.
+    // The file of the previous write stays.
   }
   if (error == 0)
     written_ = std::move(record);
@@ -105,7 +105,8 @@ void RescueKeeper::ReportFailure(int error) {
   if (std::exchange(failure_, error) != error && on_failure) on_failure(error);
 }
 
-// What came back has just been written; the old files go as soon as the rest lies on the disk as well.
+// Call after the restored texts are written. Writes the remaining texts to a text file, then removes the old rescue
+// files.
 void RescueKeeper::RemoveOldFiles() {
   if (owed_.files.empty()) return;
   if (!owed_.rest.empty()) {
@@ -122,7 +123,7 @@ Kept RescueKeeper::KeepNow() {
   if (WriteAndWait() == 0)
     return written_->texts.empty() ? Kept{} : Kept{.place = Kept::kRescueFile, .path = store_.Path()};
   if (WriteReadable()) return {.place = Kept::kReadableFile, .path = last_resort_.path};
-  // The file of an earlier write may still be there.
+  // The file of an earlier write may still exist.
   if (store_.HasFile()) return {.place = Kept::kRescueFile, .path = store_.Path()};
   return {.place = Kept::kNowhere};
 }
@@ -130,7 +131,7 @@ Kept RescueKeeper::KeepNow() {
 bool RescueKeeper::WriteReadable() {
   try {
     const std::string readable = content_.Readable(content_.Unsaved().texts);
-    // The end of a session asks several times.
+    // The desktop may ask several times while it ends the session.
     if (readable == last_resort_.text && platform_.CanRead(last_resort_.path)) return true;
     const TempFile file = WriteTempFile(platform_, "pelmar-" + std::string(content_.kind.prefix), ".txt", readable);
     if (file.error == 0) last_resort_ = {file.path, readable};
@@ -165,11 +166,12 @@ void RescueKeeper::End() {
   ReportFailure(0);
 }
 
-// Leaves only the files that were read whole; the others stay where they are.
+// Reads rescue files and keeps in `files` only the names of those that are complete. The other files stay on disk.
 std::vector<RescueRecord> RescueKeeper::ReadAbandoned(std::vector<std::string>& files) {
   std::vector<RescueRecord> records;
   std::vector<RescuedText> seen;
-  // A copy that died between keeping what it had brought back and removing the old file leaves a text twice.
+  // A text is in two files if a copy of the program crashed after it kept a restored text but before it removed the old
+  // file.
   const auto superfluous = [&](const RescuedText& text) {
     if (content_.IsHere(text) || std::ranges::find(seen, text) != seen.end()) return true;
     seen.push_back(text);
@@ -199,9 +201,9 @@ void RescueKeeper::Offer() {
     wanted = platform_.Message(MessageType::kYesNoWarning, question, "Záchrana") == Answer::kYes;
   }
   if (wanted) left = content_.BringBack(records);
-  // Only now: what is written while the question stands holds nothing of these files yet.
+  // Set only after the question, because a rescue file written during the question doesn't hold these texts yet.
   owed_.files = std::move(files);
-  // What found no place, or wasn't wanted now, stays readable in a text file until the next time.
+  // Texts without a place, or refused by the person, stay readable in a text file until the next rescue.
   owed_.rest = content_.Readable(left);
   owed_.tell = wanted && !left.empty();
   WriteAndWait();

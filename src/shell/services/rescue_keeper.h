@@ -1,6 +1,6 @@
-// Keeps what isn't saved yet, the documents or the notes, in this copy's rescue file while the program runs: within two
-// seconds of a change, off the typing path, in a thread that does nothing else. It also brings back what copies that
-// died have left, and removes their files only when all of it lies on the disk again.
+// Writes unsaved documents or notes to this copy's rescue file within two seconds of a change, in a thread of its own.
+// After a crash, offers the texts from the rescue files of crashed copies, and removes these files once all texts are
+// on disk again.
 #pragma once
 
 #include <QObject>
@@ -17,7 +17,7 @@
 
 namespace pelmar {
 
-// Where unsaved texts lie.
+// The place of the unsaved texts.
 struct Kept {
   enum Place { kNothingToKeep, kRescueFile, kReadableFile, kNowhere } place = kNothingToKeep;
   std::string path = {};
@@ -30,27 +30,28 @@ class RescueKeeper : public QObject {
   RescueKeeper(RescueContent& content, Platform& platform);
   ~RescueKeeper() override;
 
-  // Something changed that may have to be kept, or dropped: the file is written within two seconds.
+  // Call after a change. The rescue file is written within two seconds.
   void KeepSoon();
-  // Writes at once and in this thread; where the install folder refuses, a readable file in the temporary folder.
+  // Writes at once in the calling thread. If the install folder can't be written, writes a text file for a person into
+  // the temporary folder.
   Kept KeepNow();
-  // What a person is told when the program ends by an error, UTF-8; "" where nothing had to be kept.
+  // The notice for a person when an error ends the program, UTF-8; "" if there was nothing to keep.
   [[nodiscard]] std::string NoticeOf(const Kept& kept) const;
-  // Asks once about what copies that died left behind in the install folder; nothing where there is nothing.
+  // Asks whether to restore the texts of crashed copies. Doesn't ask if there are none.
   void Offer();
-  // An ordinary end: this copy's file is removed.
+  // Call at a normal end of the program. Removes this copy's rescue file.
   void End();
 
-  // Called when writing begins to fail, with the errno, and with 0 when it works again.
+  // Called with errno when writing begins to fail, and with 0 when it works again.
   std::function<void(int error)> on_failure;
 
  private:
-  // Old rescue files whose texts came back or were refused, until their content is safe elsewhere.
+  // Old rescue files whose texts were restored or refused. They are removed when all their texts are on disk elsewhere.
   struct Owed {
     LockFile offer;
     std::vector<std::string> files;
-    std::string rest;   // is to stay readable
-    bool tell = false;  // of that, once it is
+    std::string rest;   // the texts to write into a text file for a person
+    bool tell = false;  // report the text file after it is written
   };
 
   [[nodiscard]] std::optional<RescueRecord> CopyUnsaved() const;
@@ -69,14 +70,14 @@ class RescueKeeper : public QObject {
   RescueStore store_;
   QTimer timer_;
   QThreadPool writer_;
-  std::optional<RescueRecord> written_;  // what lies on the disk, for the thread that writes; nothing where that failed
+  std::optional<RescueRecord> written_;  // for the writing thread: the content on disk, nothing after a failure
   int writes_ = 0;
   int pause_;
   int failure_ = 0;
   Owed owed_;
   struct {
     std::string path, text;
-  } last_resort_;  // the file that KeepNow has made in the temporary folder
+  } last_resort_;  // the file that KeepNow wrote into the temporary folder
 };
 
 }  // namespace pelmar

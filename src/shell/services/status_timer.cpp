@@ -34,7 +34,7 @@ void StatusTimer::SnapWindows() {
   }
 }
 
-// What they show may be as long as the document and the clipboard, so nothing is done for what hasn't changed.
+// Updates only panels whose content has changed, because the document and the clipboard may be long.
 void StatusTimer::ShowPanels(std::uint64_t clipboard_revision, const std::optional<std::string>& clipboard) {
   const TextBuffer& text = editor_.text;
   StatusStrip& bar = window_.Bar();
@@ -51,16 +51,16 @@ void StatusTimer::ShowPanels(std::uint64_t clipboard_revision, const std::option
 void StatusTimer::Tick() {
   SnapWindows();
   if (!window_.MainActive()) return;
-  // Before the text is asked for: meanwhile its owner may put another one there.
+  // Read the revision before the text: another program may fill the clipboard in between.
   const std::uint64_t revision = editor_.platform.ClipboardRevision();
   const std::optional<std::string>& clipboard = editor_.platform.ClipboardContent();
-  // A menu of the bar that changes would let go of the one that is open.
+  // A change of the menu bar would close an open menu.
   if (QApplication::activePopupWidget() == nullptr)
     window_.Menus().Apply(ComputeMenuState(editor_.text, editor_.documents.CurrentPath(), clipboard));
   ShowPanels(revision, clipboard);
   StatusStrip& bar = window_.Bar();
   bar.Show(editor_.platform.Keys());
-  // The main window isn't active while an operation is at work on a file: this one was abandoned.
+  // No file operation runs while the main window is active, so a number in use was left by a failed operation.
   bar.Warn(Warning::kFilesStuck, editor_.file_number.IsOpen() ? kFilesStuck.toString() : QString());
   window_.WidenContentPanel();
 }

@@ -1,5 +1,5 @@
-// `Timer1` of the main window: every 500 ms it snaps the marked windows and, while the main window is the active one,
-// sets the state of the menus and shows in the status bar's panels what has changed. Nothing else updates these.
+// `Timer1` of the main window. Every 500 ms the timer snaps windows to the screen edges. While the main window is
+// active, the timer also enables the menu items and updates the panels of the status bar; nothing else updates them.
 #pragma once
 
 #include <QTimer>
@@ -15,7 +15,7 @@ namespace pelmar {
 
 class MainWindow;
 
-// Windows whose property `Tag` holds this take part in the snapping.
+// Windows whose property `Tag` is kAutosnapTag are snapped.
 inline constexpr char kTagProperty[] = "Tag";
 inline constexpr char kAutosnapTag[] = "_AUTOSNAP";
 
@@ -28,16 +28,16 @@ class StatusTimer : public QTimer {
   void Tick();
 
  private:
-  // What panels 1 to 3 were made from.
+  // The input of the texts in panels 1 to 3.
   struct TextState {
     std::uint64_t text = 0;
     std::size_t start = 0, end = 0;
     bool line_counting = false;
     bool operator==(const TextState&) const = default;
   };
-  // What panel 4 was.
+  // The input of the text in panel 4.
   struct ContentState {
-    TextState selected;  // as new where nothing is
+    TextState selected;  // default values if nothing is selected
     std::uint64_t clipboard = 0;
     bool operator==(const ContentState&) const = default;
   };

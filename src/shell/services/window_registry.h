@@ -1,5 +1,5 @@
-// Owns every window but the main one and those of one opening, and makes each at its first use. A window gets what it
-// needs through its constructor, from the maker that was registered for it.
+// Owns every window except the main one and short-lived dialogs. Creates each window at its first use by its registered
+// function, which passes the window's dependencies to its constructor.
 #pragma once
 
 #include <QWidget>
@@ -12,41 +12,41 @@ namespace pelmar {
 
 class WindowRegistry {
  public:
-  // Returns a new window, or none where a module is missing that the window needs.
+  // Returns a new window, or null if a module that the window needs is not installed.
   using Maker = std::function<std::unique_ptr<QWidget>()>;
 
-  // `make` returns a Window. The registry owns it.
+  // `make` must return a Window, which the registry will own.
   template <class Window>
   void Register(Maker make) {
     entries_[typeid(Window)].make = std::move(make);
   }
 
-  // The window, made now where it didn't exist. Throws std::out_of_range for one that isn't registered, and
-  // std::logic_error for one that can't be made.
+  // Returns the window; the first call creates it. Throws std::out_of_range if the window isn't registered, and
+  // std::logic_error if it can't be created.
   template <class Window>
   Window& Get() {
     return static_cast<Window&>(Get(typeid(Window)));
   }
   QWidget& Get(std::type_index window);
 
-  // The window where it exists already, else nothing.
+  // The window, or null if it hasn't been created.
   template <class Window>
   Window* Find() {
     return static_cast<Window*>(Find(typeid(Window)));
   }
 
-  // The window at a new opening, for one that doesn't outlast its closing: made anew unless it is on show.
+  // For a window that begins afresh at each opening: a hidden window is replaced by a new one.
   template <class Window>
   Window& Anew() {
     if (const QWidget* old = Find(typeid(Window)); old != nullptr && !old->isVisible()) Unload<Window>();
     return Get<Window>();
   }
 
-  // Every window, each made now where it didn't exist; one that can't be made here is passed over.
+  // Visits every window and creates missing ones. A window that can't be created is skipped.
   void ForEach(const std::function<void(QWidget&)>& visit);
 
-  // Forgets the window; its next use makes it anew. It is destroyed when the event at hand is over, because that may be
-  // the window's own close.
+  // Removes the window, so its next use creates a new one. The window is destroyed only after the current event, which
+  // may be the window's own close event.
   template <class Window>
   void Unload() {
     Unload(typeid(Window));

@@ -1,4 +1,4 @@
-// `Config`, the user's profile: name, e-mail and the password of the lock. Shown modally.
+// The modal dialog `Config` for the user's profile: name, e-mail and the password of the lock.
 #pragma once
 
 #include <functional>
@@ -20,7 +20,7 @@ class Config : public FormDialog<Ui::Config> {
   // `store` writes the settings file.
   Config(SettingsRecord& settings, Platform& platform, std::function<void()> store, QWidget* parent);
 
-  // Fills the fields anew and waits until the dialog is closed.
+  // Fills the fields from the settings and waits until the dialog is closed.
   void Run();
 
  private:

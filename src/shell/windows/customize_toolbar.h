@@ -1,5 +1,5 @@
-// The customising dialog of the toolbar: which buttons it shows, and in which order. Works on the toolbar at once; the
-// result isn't stored.
+// The dialog that selects and orders the buttons of the toolbar. Changes apply at once and are lost when the program
+// ends.
 #pragma once
 
 #include "platform/qt/controls/dialog_window.h"

@@ -1,4 +1,4 @@
-// `Hlp`, the help window: the text of pelmar.txt and a search in it.
+// The help window `Hlp` shows the text of pelmar.txt and searches in it.
 #pragma once
 
 #include <functional>

@@ -1,4 +1,5 @@
-// `O`, the about window: version, user, notes of this version, and a name that plays with its letters under the mouse.
+// The about window `O` shows the version, the user, the notes of this version, and a name whose letters change under
+// the mouse.
 #pragma once
 
 #include "platform/platform.h"

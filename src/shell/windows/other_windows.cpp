@@ -11,8 +11,8 @@ namespace {
 
 constexpr char kAway[] = "PelmarAway";
 
-// A window that is away, to assistive technology: nothing but its title. The toolkit goes on to list the windows that
-// are hidden, with all that they hold.
+// Describes a hidden window to assistive technology by its title alone. Without this class the toolkit still lists
+// hidden windows with all their content.
 class EmptyWindow : public QAccessibleObject {
  public:
   using QAccessibleObject::QAccessibleObject;
@@ -36,7 +36,7 @@ QAccessibleInterface* MakeEmptyWindow(const QString&, QObject* object) {
   return object->isWidgetType() && object->property(kAway).toBool() ? new EmptyWindow(object) : nullptr;
 }
 
-// What assistive technology knows of a window so far becomes void; what it asks from now on is answered anew.
+// Deletes the toolkit's cached descriptions of a window, so that assistive technology gets new ones.
 void ForgetFaces(QWidget& window) {
   QList<QWidget*> widgets = window.findChildren<QWidget*>();
   widgets.append(&window);
@@ -67,7 +67,7 @@ void OtherWindowsAway::SetVisible(QWidget& window, bool visible) {
   const bool activates = !window.testAttribute(Qt::WA_ShowWithoutActivating);
   window.setAttribute(Qt::WA_ShowWithoutActivating);
   window.installEventFilter(this);
-  window.QWidget::setVisible(visible);  // a dialog's own would end one that waits for its answer
+  window.QWidget::setVisible(visible);  // a dialog's own setVisible would close a modal dialog
   window.removeEventFilter(this);
   window.setAttribute(Qt::WA_ShowWithoutActivating, !activates);
   ForgetFaces(window);

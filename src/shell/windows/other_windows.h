@@ -1,4 +1,4 @@
-// Takes the program's other windows off the screen, and out of reach of assistive technology, for as long as it lives.
+// Hides the program's other windows from the screen and from assistive technology during its own lifetime.
 #pragma once
 
 #include <QObject>
@@ -8,11 +8,11 @@
 
 namespace pelmar {
 
-// The windows hear nothing of it: they come back where they were and as they were, without the reading anew that some
-// do when a person opens them. One that is destroyed meanwhile stays away.
+// The windows get no event about being hidden or shown, so they return unchanged and don't reload their content. A
+// window destroyed in between isn't shown again.
 class OtherWindowsAway : public QObject {
  public:
-  // Every window of the program that is on show but these.
+  // Hides every visible window except `staying`.
   explicit OtherWindowsAway(const std::vector<const QWidget*>& staying);
   OtherWindowsAway(const OtherWindowsAway&) = delete;
   OtherWindowsAway& operator=(const OtherWindowsAway&) = delete;

@@ -26,11 +26,11 @@ void Pass::Run() {
     const OtherWindowsAway away({this, parentWidget()});
     exec();
   }
-  ExpectActive(asker);  // the others have come back since
+  ExpectActive(asker);  // possible now that the other windows are visible
   hide_text_(false);
 }
 
-// Behind a wrong password the button has the keyboard; what is typed is the next one.
+// After a wrong password the button has the keyboard focus. Typed text goes to the password field.
 void Pass::keyPressEvent(QKeyEvent* event) {
   const QString text = event->text();
   if (focusWidget() == ui_->Text1 || text.isEmpty() || !text.front().isPrint())

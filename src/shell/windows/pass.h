@@ -1,4 +1,5 @@
-// `Pass`, the lock: modal and without a close box, so that nothing gets at the documents until the password is right.
+// The lock `Pass`: a modal dialog without a close box that keeps the documents out of reach until the password is
+// right.
 #pragma once
 
 #include <functional>
@@ -17,10 +18,10 @@ class Pass : public FormDialog<Ui::Pass> {
   Q_OBJECT
 
  public:
-  // `hide_text` is told true when the lock closes in on the text and false when it opens.
+  // `hide_text` is called with true when the lock closes, and with false when it opens.
   Pass(const SettingsRecord& settings, Platform& platform, std::function<void(bool)> hide_text, QWidget* parent);
 
-  // Waits until the lock is open.
+  // Shows the lock and waits until the password is right.
   void Run();
 
   // Neither Escape nor the window manager opens the lock.

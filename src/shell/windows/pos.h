@@ -1,4 +1,4 @@
-// `Pos`, the layout picker: puts the main window over one of nine parts of the screen.
+// The layout picker `Pos` moves the main window to one of nine parts of the screen.
 #pragma once
 
 #include "platform/qt/controls/dialog_window.h"
@@ -14,7 +14,7 @@ class Pos : public FormDialog<Ui::Pos> {
   Q_OBJECT
 
  public:
-  // `main` is the window that is placed.
+  // `main` is the window to move.
   Pos(MainPlace& main, QWidget* parent);
 
  protected:

@@ -9,7 +9,7 @@
 namespace pelmar {
 namespace {
 
-// The dialog's greeting stands on its own shadow.
+// The distance of the greeting from its shadow, in pixels.
 constexpr int kShadow = 2;
 
 bool IsModifier(int key) {

@@ -1,4 +1,4 @@
-// `Start`, the welcome dialog: at launch instead of the main window, and from the menu at any time. Any key leaves it.
+// The welcome dialog `Start` appears at launch instead of the main window, or from the menu. Any key closes it.
 #pragma once
 
 #include <functional>

@@ -61,7 +61,7 @@ void FileTab::SetStripWidth(int width) {
   update();
 }
 
-// All alike where the captions have room; else tabs without one leave theirs to the others.
+// All tabs have the same length if their captions fit. Otherwise tabs without a caption shrink.
 QSize FileTab::tabSizeHint(int index) const {
   int widest = 0;
   for (const QString& caption : captions_) widest = std::max(widest, fontMetrics().horizontalAdvance(caption));

@@ -1,5 +1,5 @@
-// The strip of five tabs. It lies under the text box and spans the window; its tabs show in the free strip at the
-// right-hand edge, captions running downwards. A tab without a file shows its number, an unsaved document a dot.
+// The strip of five tabs spans the window beneath the text box; its tabs are visible at the right edge, which the text
+// box leaves free. Captions run downwards. A tab without a file shows its number, an unsaved document a dot.
 #pragma once
 
 #include <QTabBar>
@@ -16,11 +16,11 @@ class FileTab : public QTabBar {
  public:
   explicit FileTab(QWidget* parent = nullptr);
 
-  // Shows what the document says of a tab (from 1).
+  // Sets the caption and the tool tip of a tab (from 1).
   void SetFace(int tab, const TabFace& face);
-  // A dot tells that a document has changes that aren't saved.
+  // Shows a dot on the tab (from 1) of a document with unsaved changes.
   void SetUnsaved(int tab, bool unsaved);
-  // How wide the free strip at the right-hand edge is, in pixels.
+  // Sets the width of the visible part at the right edge, in pixels.
   void SetStripWidth(int width);
 
  protected:

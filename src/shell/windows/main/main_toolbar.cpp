@@ -14,7 +14,7 @@
 namespace pelmar {
 namespace {
 
-// A long path without its middle, so that the menu stays narrower than a screen.
+// Removes the middle of a long path, so that the menu is narrower than a screen.
 QString Shortened(const QString& item) {
   constexpr qsizetype kMost = 100;
   constexpr qsizetype kBegin = 40;
@@ -22,7 +22,7 @@ QString Shortened(const QString& item) {
   return item.left(kBegin) + QChar(0x2026) + item.right(kMost - kBegin - 1);
 }
 
-// Behind the digit's own, every "&" of a path is a character of its name.
+// Escapes each "&" of the path; the first "&" marks the digit as access key.
 QString EscapedMnemonics(const QString& item) {
   return item.left(1) + item.mid(1).replace(QLatin1Char('&'), QLatin1String("&&"));
 }
@@ -87,7 +87,7 @@ void MainToolbar::Arrange(const QList<QAction*>& order) {
   }
 }
 
-// The toolkit's buttons answer to the space bar alone.
+// The toolkit's buttons react only to the space bar, so the other keys are handled here.
 bool MainToolbar::TakesKey(QWidget& receiver, const QKeyEvent& press) {
   auto* button = qobject_cast<QToolButton*>(&receiver);
   if (button == nullptr) return false;

@@ -1,4 +1,4 @@
-// The toolbar `Toolbar1`: one action for each key, and the drop-down of recent files behind "Recent".
+// The toolbar `Toolbar1`: one action for each button, and the menu of recent files at the button "Recent".
 #pragma once
 
 #include <QToolBar>
@@ -15,12 +15,12 @@ class MainToolbar : public QToolBar {
  public:
   MainToolbar(const Commands& commands, Files& files, QWidget* parent = nullptr);
 
-  // Enables every button that has a command by now.
+  // Enables every button whose command exists. Call after commands were added.
   void Refresh();
   void ShowRecentFiles();
-  // All buttons and separators in their order at the start, as after the start whatever was customised since.
+  // Shows all buttons and separators in their original order.
   void Reset();
-  // The same actions in another order.
+  // Changes the order of the actions.
   void Arrange(const QList<QAction*>& order);
 
  Q_SIGNALS:

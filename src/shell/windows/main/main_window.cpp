@@ -22,12 +22,12 @@
 namespace pelmar {
 namespace {
 
-// The smallest window, but never more than half of a small screen each way, which is what the layout picker needs.
+// The minimum size of the window. On a small screen at most half of its width and height, for the layout picker.
 constexpr QSize kSmallest(480, 320);
-// The window of a first start, where nothing is stored yet: room for the whole toolbar.
+// The size at the first start, with space for the whole toolbar.
 constexpr QSize kFirstSize(820, 560);
 
-// The paths of the files of a drop.
+// The paths of the dropped local files.
 std::vector<std::string> DroppedFiles(const QMimeData* mime) {
   std::vector<std::string> paths;
   for (const QUrl& url : mime->urls())
@@ -35,7 +35,7 @@ std::vector<std::string> DroppedFiles(const QMimeData* mime) {
   return paths;
 }
 
-// One path a line, as many as a message can hold.
+// One path on each line, at most as many as a message can hold.
 std::string ListOf(const std::vector<std::string>& paths) {
   constexpr std::size_t kMost = 10;
   std::string list;
@@ -83,7 +83,7 @@ void MainWindow::MakeControls() {
   bar_->setAccessibleName(QStringLiteral("Stavový řádek"));
   bar_->raise();
   connect(tabs_, &QTabBar::currentChanged, this, [this](int index) { editor_.documents.SwitchTo(index + 1); });
-  // The lower, right-hand menus of the main menu are pop-ups too.
+  // The pop-up menus are also submenus of the menu bar.
   const auto pop_up = [this](QWidget* owner, std::string_view name) {
     owner->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(owner, &QWidget::customContextMenuRequested, this,
@@ -94,7 +94,7 @@ void MainWindow::MakeControls() {
   pop_up(toolbar_, "MnuPopUp");
   pop_up(text_, "MnuSel");
   connect(toolbar_, &MainToolbar::EscapePressed, text_, [this] { text_->setFocus(); });
-  // The strip itself takes no focus, so the keyboard reaches it by keys of its own.
+  // The tabs take no focus, so they have shortcuts.
   AddTabKeys(*this, *tabs_);
   connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, menus_,
           [this] { menus_->setActiveAction(menus_->actions().constFirst()); });
@@ -141,7 +141,7 @@ void MainWindow::ToggleBar(std::string_view item, QWidget* bar) {
 }
 
 void MainWindow::ToggleAlwaysOnTop() {
-  // required: flag and check mark flip each on its own, so they may say opposite things after a start
+  // required: flag and check mark are toggled separately, so they may disagree after a start
   editor_.settings.AlwaysOnTopFlag = !editor_.settings.AlwaysOnTopFlag;
   SetAlwaysOnTop(editor_.settings.AlwaysOnTopFlag);
 }
@@ -173,8 +173,8 @@ LayoutInput MainWindow::Measures() const {
 }
 
 void MainWindow::ApplyLayout() {
-  // While the window still comes to its size, each step is the first one, or a step of few pixels would make panel 4
-  // alternate from the start on.
+  // Until the window has its final size, start from width 0 each time. Otherwise a change of few pixels would make the
+  // width of panel 4 alternate from the start.
   if (!ticked_) bar_->SetWidth(4, 0);
   const LayoutInput in = Measures();
   const LayoutResult out = ComputeLayout(in);
@@ -188,22 +188,22 @@ void MainWindow::ApplyLayout() {
   tabs_->SetStripWidth(client_->width() - width);
   tabs_->setGeometry(0, top, out.tabs_width ? PixelsOf(*out.tabs_width) : tabs_->width(), height);
   if (out.panel4_width && placement_.FrameKnown()) bar_->SetWidth(4, *out.panel4_width);
-  // This lays all out once more, for the new height.
+  // The resize calls ApplyLayout again with the new height.
   if (out.grow_outer_height > 0) resize(this->width(), this->height() + PixelsOf(out.grow_outer_height));
 }
 
 void MainWindow::WidenContentPanel() {
-  // Before the frame is known the outer width is not the window's real one.
+  // Without a known frame the outer width is wrong.
   if (isMinimized() || !placement_.FrameKnown()) return;
   ticked_ = true;
   if (const auto spare = SparePanelWidth(OuterGeometry(*this).width, bar_->Widths())) bar_->SetWidth(4, *spare);
 }
 
-// The frame is there when the window is first painted, or a moment later; only then outer sizes can be met.
+// Call at the first paint. From then on the window manager can report the frame, so outer sizes can be set exactly.
 void MainWindow::FitToFrame() {
   if (fitted_) return;
   fitted_ = true;
-  // The icon is rendered when it is set, which can wait until the window is there.
+  // Setting the icon renders it, so the icon waits until the window is visible.
   ShowProgramIcon();
   placement_.Begin({}, window_state_ == WindowMode::kMaximised);
 }
@@ -225,9 +225,9 @@ void MainWindow::SetPlace(const TwipsRect& place) {
 
 TwipsRect MainWindow::Place() const {
   if (!isMinimized()) return OuterGeometry(*this);
-  // Minimised since the start it has never had a frame.
+  // A window that started minimised has no frame yet.
   if (!placement_.FrameKnown()) return wanted_place_;
-  // An iconified window keeps the place that it comes back to.
+  // A minimised window keeps its normal place.
   const QRect normal = normalGeometry();
   const QMargins frame = windowHandle() != nullptr ? windowHandle()->frameMargins() : QMargins();
   const QRect outer = normal.marginsAdded(frame);
@@ -241,8 +241,8 @@ WindowMode MainWindow::WindowState() const {
   return isMaximized() ? WindowMode::kMaximised : WindowMode::kNormal;
 }
 
-// A window manager may give a maximised window another frame than a normal one, and tells only later. What is asked for
-// in between is put right then.
+// A window manager may give a normal window another frame than a maximised one, and reports the frame only later. Sizes
+// requested before that are corrected then.
 void MainWindow::SetNormalState() {
   if (!isMaximized() && !isMinimized()) return;
   placement_.Begin(windowHandle()->frameMargins());
@@ -320,27 +320,27 @@ void MainWindow::ShowMain() {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-  // The lock is no way out either, whoever asks.
+  // A closed lock must not let anybody close the program.
   if (text_->isHidden() || (may_close && !may_close())) return event->ignore();
   event->accept();
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
-  // A drop reaches a window also while a dialog or the lock keeps it from the person.
+  // The system delivers drops even while a dialog or the lock is open.
   if (QApplication::activeModalWidget() != nullptr) return;
   if (!DroppedFiles(event->mimeData()).empty()) event->acceptProposedAction();
 }
 
 void MainWindow::dropEvent(QDropEvent* event) {
   event->acceptProposedAction();
-  // The question comes after the drop, or the program that the file comes from would wait for its answer too.
+  // The question is asked after the drop, so the source program needn't wait for the answer.
   QMetaObject::invokeMethod(
       this, [this, paths = DroppedFiles(event->mimeData())] { OpenDropped(paths); }, Qt::QueuedConnection);
 }
 
 void MainWindow::OpenDropped(std::vector<std::string> paths) {
   activateWindow();
-  // To open one leaves every later file operation failing, which a slip of the mouse must not bring about.
+  // Opening a file without an extension makes every later file operation fail. A slip of the mouse must not do this.
   const auto nameless = std::stable_partition(paths.begin(), paths.end(), HasExtension);
   const std::vector<std::string> refused(nameless, paths.end());
   paths.erase(nameless, paths.end());
@@ -352,7 +352,7 @@ void MainWindow::OpenDropped(std::vector<std::string> paths) {
   if (paths.empty() ||
       editor_.platform.Message(MessageType::kYesNoWarning, "Opravdu otevřít soubor ?", "Soubor") != Answer::kYes)
     return;
-  // The first one takes the place of the current document, as a single one does; the others lose nobody anything.
+  // The first file replaces the current document; the others open only in empty tabs.
   auto path = paths.begin();
   files_.opener.OpenPath(*path);
   while (++path != paths.end()) {
@@ -373,7 +373,7 @@ void MainWindow::changeEvent(QEvent* event) {
 bool MainWindow::event(QEvent* event) {
   if (event->type() == QEvent::WindowActivate) {
     main_active_ = true;
-    if (isVisible()) text_->setFocus();  // an accessory that runs as the whole program has it hidden
+    if (isVisible()) text_->setFocus();  // the text is hidden if an accessory runs alone
   }
   if (event->type() == QEvent::WindowDeactivate) main_active_ = false;
   return QMainWindow::event(event);

@@ -1,5 +1,5 @@
-// `Main`: the menu, the toolbar, the one text box, the tab strip and the status bar. The window only shows and
-// forwards; what happens lies in the editor, the session and the commands.
+// The main window `Main`: menu, toolbar, text box, tabs and status bar. The window only shows state and forwards
+// events; the logic is in the editor, the session and the commands.
 #pragma once
 
 #include <QMainWindow>
@@ -34,18 +34,18 @@ class MainWindow : public QMainWindow, public MainView {
   // True while the main window is the active one.
   [[nodiscard]] bool MainActive() const { return main_active_; }
 
-  // Asked before the window closes; false keeps it open.
+  // Called before the window closes; false keeps it open.
   std::function<bool()> may_close;
-  std::function<void()> on_line_counting;  // told when a click in the status bar changed it
+  std::function<void()> on_line_counting;  // called when a click in the status bar switches line counting
 
   void ShowMain();
-  // Called when all commands are there: enables what they serve.
+  // Enables the menu items and buttons whose commands exist. Call after all commands were added.
   void RefreshCommands();
-  // While the lock is closed the text is neither on the screen nor within reach of assistive technology.
+  // Hides the text from the screen and from assistive technology while the lock is closed.
   void HideText(bool hide);
-  // Places text box, tabs and bars.
+  // Sets the places of text box, tabs and bars.
   void ApplyLayout();
-  // The rule of panel 4, on each tick.
+  // Gives the spare width to panel 4. Call on each tick of the status timer.
   void WidenContentPanel();
 
   void SetPlace(const TwipsRect& place) override;
@@ -90,8 +90,8 @@ class MainWindow : public QMainWindow, public MainView {
   Editor& editor_;
   Files& files_;
   std::vector<Listening> heard_;
-  TextBuffer nothing_;  // what the box shows while the text is hidden
-  QPoint scrolled_;     // where the text stood before it was hidden
+  TextBuffer nothing_;  // the empty text shown while the text is hidden
+  QPoint scrolled_;     // the scroll position before the text was hidden
   QWidget* client_ = nullptr;
   MenuBar* menus_ = nullptr;
   MainToolbar* toolbar_ = nullptr;
@@ -100,10 +100,10 @@ class MainWindow : public QMainWindow, public MainView {
   StatusStrip* bar_ = nullptr;
   WindowMode window_state_ = WindowMode::kNormal;
   TwipsRect wanted_place_;
-  bool wants_position_ = true;  // and not the size alone
+  bool wants_position_ = true;  // false if only the size is requested
   Placement placement_;
-  bool fitted_ = false;  // from the first painting on
-  bool ticked_ = false;  // panel 4 has got its width by a tick
+  bool fitted_ = false;  // the window was painted for the first time
+  bool ticked_ = false;  // a tick has set the width of panel 4
   bool main_active_ = false;
 };
 

@@ -13,7 +13,7 @@
 namespace pelmar {
 namespace {
 
-// "Ctrl+X", "Ctrl+F4" or "F1". The toolkit's own reading takes in every name of every key in every language.
+// Parses "Ctrl+X", "Ctrl+F4" or "F1". The toolkit's parser would load the key names of every language.
 QKeyCombination KeysOf(std::string_view shortcut) {
   constexpr std::string_view kControl = "Ctrl+";
   const bool control = shortcut.starts_with(kControl);
@@ -38,7 +38,8 @@ QChar Initial(const QString& text) {
   return letter == text.end() ? QChar() : letter->toLower();
 }
 
-// Behind the item at hand, in a circle. An item with an access key is opened by that alone.
+// The next item after the active one that begins with the letter. After the last item the search goes on at the first.
+// An item with an access key is skipped, because only this key opens it.
 QAction* NextByInitial(const QMenu& menu, QChar letter) {
   const auto first = menu.actions().indexOf(menu.activeAction()) + 1;
   QList<QAction*> items = menu.actions();
@@ -49,7 +50,7 @@ QAction* NextByInitial(const QMenu& menu, QChar letter) {
   return found == items.end() ? nullptr : *found;
 }
 
-// The menu's own setting would open a submenu.
+// Activates the item by Down keys. QMenu::setActiveAction would open a submenu.
 void GoTo(QMenu& menu, const QAction* item) {
   QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
   for (auto left = menu.actions().size(); left > 0 && menu.activeAction() != item; --left)
@@ -59,7 +60,7 @@ void GoTo(QMenu& menu, const QAction* item) {
 }  // namespace
 
 MenuBar::MenuBar(const Commands& commands, QWidget* parent) : QMenuBar(parent), commands_(commands) {
-  std::vector<QWidget*> open{this};  // the menu that each level adds to
+  std::vector<QWidget*> open{this};  // the open menu of each level
   for (const MenuItem& item : MenuItems()) {
     open.resize(static_cast<std::size_t>(item.level) + 1);
     const QString name = Utf8ToQString(item.name);
@@ -107,7 +108,7 @@ void MenuBar::Apply(const MenuState& state) {
 }
 
 bool MenuBar::RunGrey(const QKeyEvent& keys, const std::function<MenuState()>& now) const {
-  // A key that the toolkit doesn't know is as empty as the keys of an item that has none.
+  // An unknown key would match all items without a shortcut.
   if (keys.key() == 0 || keys.key() == Qt::Key_unknown) return false;
   const QKeySequence sequence(keys.keyCombination());
   const std::pair<std::span<const std::string_view>, bool MenuState::*> groups[] = {
@@ -119,7 +120,7 @@ bool MenuBar::RunGrey(const QKeyEvent& keys, const std::function<MenuState()>& n
     for (const std::string_view name : items) {
       QAction* grey = Action(name);
       if (grey->isEnabled()) continue;
-      // The items of a grey menu are not grey themselves.
+      // The items of a disabled menu are not disabled themselves.
       const QList<QAction*> in_it = grey->menu() != nullptr ? grey->menu()->actions() : QList<QAction*>{grey};
       const auto of_keys = [&sequence](const QAction* item) { return item->shortcut() == sequence; };
       const auto item = std::ranges::find_if(in_it, of_keys);
@@ -131,8 +132,8 @@ bool MenuBar::RunGrey(const QKeyEvent& keys, const std::function<MenuState()>& n
   return false;
 }
 
-// Two menus have the access key T: the first is meant, or behind it the second. A grey one takes its key and stays
-// shut.
+// Opens the menu with the access key. Two menus have the key T: T opens the first and, if this is open, the second. A
+// disabled menu takes its key but stays closed.
 bool MenuBar::OpenByAccessKey(const QKeySequence& key) {
   QList<QAction*> menus = actions();
   menus.removeIf([&key](const QAction* menu) { return !HasAccessKey(*menu, key); });
@@ -161,13 +162,14 @@ bool MenuBar::eventFilter(QObject* watched, QEvent* event) {
   if (menu == nullptr || (!press && event->type() != QEvent::KeyRelease)) return QMenuBar::eventFilter(watched, event);
   const auto& key = static_cast<QKeyEvent&>(*event);
   if (key.key() != Qt::Key_Alt) return press && KeyInMenu(*menu, key);
-  // The toolkit would close the menu at once, and the menu behind with the same access key would never be reached.
+  // The toolkit would close the menu on the press of Alt, so Alt+T could never open the second menu with the key T.
   if (!press && alt_alone_) CloseMenus();
   alt_alone_ = press;
   return true;
 }
 
-// By the key that closes one menu after the other, and then leaves the bar, which has yet to hear of the Alt.
+// Sends Escape to close the menus one after the other. The last Escape, which leaves the menu bar, is sent only after
+// the bar has handled the Alt key.
 void MenuBar::CloseMenus() {
   QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
   constexpr int kDeepest = 4;
@@ -181,7 +183,8 @@ void MenuBar::CloseMenus() {
   QMetaObject::invokeMethod(this, leave, Qt::QueuedConnection);
 }
 
-// Many items have no access key, and answer to their first letter. No letter is for the menu behind.
+// Handles a key in an open menu: an access key opens another menu, and a letter selects an item without an access key.
+// A letter never reaches the text box under the menu.
 bool MenuBar::KeyInMenu(QMenu& menu, const QKeyEvent& key) {
   alt_alone_ = false;
   const bool alt = key.modifiers() == Qt::AltModifier;

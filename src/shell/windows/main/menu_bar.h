@@ -1,4 +1,4 @@
-// The menus of the main window, made from the table: actions and submenus by their names, each wired to its command.
+// The menus of the main window, made from the menu table. Each item runs the command of its name.
 #pragma once
 
 #include <QAction>
@@ -22,18 +22,18 @@ class MenuBar : public QMenuBar {
  public:
   explicit MenuBar(const Commands& commands, QWidget* parent = nullptr);
 
-  // The action of an item, the menu's own for a submenu. A name that doesn't exist throws std::out_of_range.
+  // The action of an item or a submenu. Throws std::out_of_range for an unknown name.
   [[nodiscard]] QAction* Action(std::string_view name) const { return actions_.at(std::string(name)); }
-  // Null for an item that is none.
+  // Null if the item is no submenu.
   [[nodiscard]] QMenu* Submenu(std::string_view name) const { return Action(name)->menu(); }
 
-  // Enables every item that has a command or a menu by now.
+  // Enables every submenu, and every item whose command exists. Call after commands were added.
   void Refresh();
-  // Enables the groups of items that follow the state of the text; an item without a command stays disabled.
+  // Enables or disables the items that depend on the state. An item without a command stays disabled.
   void Apply(const MenuState& state);
-  // The grey of an item is only as fresh as the last Apply. Runs the command that has these keys and is grey, by itself
-  // or by its menu, but that the state `now` allows. Asks for that state only then. False when there is no such
-  // command.
+  // Apply runs only on ticks, so an item may still be disabled although the state now allows its command. Runs such a
+  // command if its shortcut is `keys`. Calls `now` only for a disabled item with this shortcut. False if no command
+  // ran.
   bool RunGrey(const QKeyEvent& keys, const std::function<MenuState()>& now) const;
 
  protected:
@@ -49,8 +49,8 @@ class MenuBar : public QMenuBar {
   [[nodiscard]] bool Served(const QAction* action, std::string_view name) const;
 
   const Commands& commands_;
-  QPointer<QWidget> before_;  // had the keyboard before the bar
-  bool alt_alone_ = false;    // pressed over an open menu, and nothing since
+  QPointer<QWidget> before_;  // had the keyboard focus before the menu bar
+  bool alt_alone_ = false;    // Alt was pressed in an open menu, and no other key since
   std::map<std::string, QAction*, std::less<>> actions_;
 };
 

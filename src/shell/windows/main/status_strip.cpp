@@ -12,12 +12,12 @@ namespace {
 
 constexpr int kGap = 2;
 constexpr int kTextMargin = 4;
-constexpr std::size_t kFigures = 3;  // how many panels show figures, the first ones
+constexpr std::size_t kFigures = 3;  // the number of panels with figures, the first ones
 constexpr std::size_t kFirstKey = 4;
 
-// How many characters the panels have room for at the start, but for panel 4, which begins with none and takes what is
-// left. The largest figures of a document fit in, and all seven into the window of the DOS look. Counted in average
-// characters, because measuring texts means loading the font's shaping before the first window.
+// The initial widths of the panels in average characters; panel 4 starts with 0 and gets the remaining width. The
+// largest figures of a document fit. Measuring real texts would load the font's shaping before the first window
+// appears.
 constexpr int kCharacters[kPanelCount] = {23, 24, 25, 0, 6, 6, 5};
 constexpr QStringView kTips[kPanelCount] = {
     u"Pozice", u"Délka", u"Řádky (Click - off, DblCick - on)", u"Obsah", u"CAPS", u"NUM", u"INS",
@@ -61,7 +61,7 @@ StatusStrip::StatusStrip(QWidget* parent) : QStatusBar(parent) {
     panel->setObjectName(QStringLiteral("Panel%1").arg(number));
     panel->setToolTip(kTips[at].toString());
     panels_[at] = panel;
-    if (at < kFigures) panel->setElideMode(Qt::ElideLeft);  // their figures stand at the end
+    if (at < kFigures) panel->setElideMode(Qt::ElideLeft);  // the figures are at the end of the text
     if (kCharacters[at] > 0)
       widths_[at] = TwipsOf(fontMetrics().averageCharWidth() * kCharacters[at] + 2 * kTextMargin);
   }
@@ -91,7 +91,7 @@ void StatusStrip::Show(const KeyStates& keys) {
   ShowKey(6, keys.insert);
 }
 
-// Who sees the panel knows the state by its grey, who listens by its name.
+// Shows the state of a key by the colour of the panel, and by its name for assistive technology.
 void StatusStrip::ShowKey(std::size_t at, bool on) {
   StatusPanel& panel = *panels_[at];
   if (panel.isEnabled() == on && !panel.accessibleName().isEmpty()) return;
@@ -133,8 +133,8 @@ void StatusStrip::resizeEvent(QResizeEvent* event) {
   Place();
 }
 
-// The widths are the layout's and stay; where they go beyond a narrow window, the panels of the keys keep theirs and
-// what lies before them shares the rest, each with its own dots. Where that would cut a figure, the figures come first.
+// Places the panels. In a narrow window the panels of the keys keep their width, and the others share the rest. If this
+// would cut a figure, the panels with figures get their width first. `widths_` doesn't change.
 void StatusStrip::Place() {
   std::array<int, kPanelCount> shown{};
   std::ranges::transform(widths_, shown.begin(), PixelsOf);
@@ -169,7 +169,7 @@ void StatusStrip::PlaceWarning() {
   if (is_hint_) return warning_->setGeometry(content);
   const int wanted = warning_->sizeHint().width();
   const int most = width() - kGap;
-  // In a narrow window it covers the panels of the keys too.
+  // In a narrow window the warning covers the panels of the keys too.
   const int end = wanted <= content.right() ? std::min(content.right() + 1, most) : most;
   int begin = kGap;
   for (const std::size_t at : {1u, 2u, 3u})

@@ -1,4 +1,4 @@
-// The status bar `Bar1` with its seven panels, whose widths the program sets itself.
+// The status bar `Bar1` with its seven panels. The program sets the widths of the panels.
 #pragma once
 
 #include <QStatusBar>
@@ -20,9 +20,9 @@ class StatusPanel : public ElidedLabel {
  public:
   explicit StatusPanel(QWidget* parent);
 
-  // Windows-1250; false where the panel shows it already.
+  // Sets the text, Windows-1250. False if the panel already shows it.
   bool SetContent(const std::string& text);
-  // What the whole text needs.
+  // The width for the whole text, in pixels.
   [[nodiscard]] int WholeWidth() const;
 
  Q_SIGNALS:
@@ -37,12 +37,12 @@ class StatusPanel : public ElidedLabel {
   std::string content_;
 };
 
-// What the bar warns of, the gravest first. The first two are warnings, the others mere hints.
+// The reasons of warnings, the most serious first. The first two are warnings, the others only hints.
 enum class Warning {
   kUnkept,          // unsaved work can't be kept in a rescue file
   kFilesStuck,      // no file can be opened or saved
-  kTooLong,         // the text is longer than what can be opened
-  kNoExtension,     // the document's file can't be opened by its name
+  kTooLong,         // the text is too long to be opened again
+  kNoExtension,     // the file name has no extension, so the file can't be opened again
   kChangedOutside,  // the document's file was changed or removed since it was opened or saved
   kFormat,          // the document's file is in UTF-8 or has the line ends of another system
 };
@@ -56,17 +56,17 @@ class StatusStrip : public QStatusBar {
   [[nodiscard]] StatusPanel* Panel(int number) const { return panels_[static_cast<std::size_t>(number - 1)]; }
   void Show(const PanelTexts& texts);
   void ShowContent(const std::string& text);
-  // Panels 1 to 4, which may show a part of the text, say nothing until they are shown anew.
+  // Clears panels 1 to 4 until the next Show, because they may show a part of the text.
   void Clear();
   [[nodiscard]] bool Cleared() const { return cleared_; }
   void Show(const KeyStates& keys);
-  // Shows the gravest of the warnings that have a text; "" takes one away. A hint covers panel 4 alone and is cut
-  // there; a warning covers as many panels as its text needs. The tip is the text where none is given.
+  // Sets or, with "", removes the text of one warning, then shows the most serious warning. A hint covers only panel 4
+  // and is cut there; a warning covers as many panels as its text needs. Without `tip` the text is also the tool tip.
   void Warn(Warning of, const QString& text, const QString& tip = {});
-  // With the errno; 0 takes it away.
+  // Shows the warning kUnkept. `error` is the errno of the failed write; 0 removes the warning.
   void WarnOfUnkept(int error);
 
-  // Widths in twips, as the layout counts them.
+  // Widths in twips.
   [[nodiscard]] std::array<int, kPanelCount> Widths() const { return widths_; }
   void SetWidth(int number, int twips);
 
@@ -88,7 +88,7 @@ class StatusStrip : public QStatusBar {
     QString text, tip;
   };
   std::map<Warning, Said> warnings_;
-  bool is_hint_ = false;  // what `warning_` shows
+  bool is_hint_ = false;  // `warning_` shows a hint
 };
 
 }  // namespace pelmar

@@ -1,4 +1,4 @@
-// A warning that stands for as long as what it says holds, told to assistive technology each time it comes up.
+// The label of a warning in the status bar. Assistive technology announces each new warning.
 #pragma once
 
 #include "platform/qt/controls/elided_label.h"
@@ -11,12 +11,11 @@ class WarningLabel : public ElidedLabel {
  public:
   explicit WarningLabel(QWidget* parent);
 
-  // What the whole text needs.
+  // The size of the whole text.
   QSize sizeHint() const override;
 };
 
-// The tool-tip of a warning that unsaved work can't be kept in a rescue file just now, as on a full disk; with the
-// errno of the failed write.
+// The tool tip of the warning that unsaved work can't be written to a rescue file. `error` is the errno of the write.
 QString UnkeptTip(int error);
 
 }  // namespace pelmar
