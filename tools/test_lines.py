@@ -1,31 +1,31 @@
 #!/usr/bin/env python3
 """Compares the lines of tests with the lines of code in each folder: test_lines.py [ROOT]
 
-Code is in the .h and .cpp files of src/, tests are in the .h, .cpp, .py and .sh files of tests/. A folder of tests
-belongs to the folder of src with the same name. Exits with status 1 if the tests have more lines than LIMIT percent of
-the code.
+Code is in the .h and .cpp files of src/. Every file of tests/ counts as tests, kept outputs and pages too, but no
+pictures. A folder of tests belongs to the folder of src with the same name. Exits with status 1 if the tests have more
+lines than LIMIT percent of the code.
 """
 import collections
 import pathlib
 import sys
 
-LIMIT = 34  # percent
+LIMIT = 38  # percent; the aim is a third
 CODE = {".h", ".cpp"}
-TESTS = CODE | {".py", ".sh"}
+PICTURES = {".png", ".gif", ".jpg", ".bmp", ".ico", ".pyc"}
 
 
-def lines_by_folder(top, suffixes):
+def lines_by_folder(top, counts_file):
     counts = collections.Counter()
     for path in top.rglob("*"):
-        if path.is_file() and path.suffix in suffixes:
-            folder = path.relative_to(top).parent.as_posix()
-            counts[folder] += path.read_text(errors="replace").count("\n")
+        if path.is_file() and counts_file(path):
+            counts[path.relative_to(top).parent.as_posix()] += path.read_text(errors="replace").count("\n")
     return counts
 
 
 def main():
     root = pathlib.Path(sys.argv[1]) if len(sys.argv) > 1 else pathlib.Path(__file__).resolve().parent.parent
-    code, tests = lines_by_folder(root / "src", CODE), lines_by_folder(root / "tests", TESTS)
+    code = lines_by_folder(root / "src", lambda path: path.suffix in CODE)
+    tests = lines_by_folder(root / "tests", lambda path: path.suffix not in PICTURES)
     if not code or not tests:
         sys.exit(f"test_lines: nothing found below {root}")
     print(f"{'folder':<24}{'code':>8}{'tests':>8}")

@@ -2,65 +2,123 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-#include <map>
-#include <sstream>
+#include <tuple>
 
 #include "accessories/converter.h"
 #include "support/scripted_platform.h"
-#include "text/number_text.h"
 
 namespace pelmar {
 namespace {
 
-// The keys that are neither a digit nor an operator.
-const std::map<char, std::function<void(Calculator&)>> kKeys = {
-    {',', &Calculator::Comma},     {'<', &Calculator::DropLast}, {'>', &Calculator::DropFirst},
-    {'c', &Calculator::Clear},     {'=', &Calculator::Evaluate}, {'r', &Calculator::SquareRoot},
-    {'q', &Calculator::Square},    {'a', &Calculator::Absolute}, {'i', &Calculator::HalfFloor},
-    {'s', &Calculator::Sine},      {'o', &Calculator::Cosine},   {'t', &Calculator::Tangent},
-    {'g', &Calculator::Cotangent}, {'p', &Calculator::Pi},       {'e', &Calculator::E},
+const std::string kNoResult = "message 0 \"Výsledek nelze vypočítat\" \"Kalkulátor\"";
+const std::string kNoRoot = "message 0 \"Nelze odmocnit záporné číslo\" \"Odmocnina\"";
+const std::string kNoDivision = "message 0 \"Není možno dělit nulou\" \"Dělení\"";
+
+struct CalculatorTest : testing::Test {
+  ScriptedPlatform platform;
+  Calculator calculator{platform};
+
+  // The message of what was done last.
+  std::string Told() {
+    const std::vector<std::string> calls = platform.TakeCalls();
+    return calls.empty() ? "" : calls.back();
+  }
 };
 
-// What is seen behind each word of keys: the operand and the operator that wait, and the number. All are to tell the
-// same.
-std::string Seen(const char* words, const std::string& told = "") {
-  std::string seen;
-  std::istringstream each(words);
-  for (std::string keys; each >> keys;) {
-    ScriptedPlatform platform;
-    platform.answers = {Answer::kOk};
-    platform.calls = {""};
-    Calculator calculator(platform);
-    for (const char key : keys) {
-      if (const auto found = kKeys.find(key); found != kKeys.end()) {
-        found->second(calculator);
-      } else {
-        key >= '0' && key <= '9' ? calculator.Digit(key) : calculator.Operator(key);
-      }
-    }
-    seen += (seen.empty() ? "" : " ") + calculator.operand + calculator.operation + calculator.shown;
-    EXPECT_EQ(platform.calls.back(), told) << keys;
+TEST_F(CalculatorTest, KeysEditTheNumber) {
+  const std::tuple<const char*, void (Calculator::*)(), const char*> cases[] = {
+      {"0", &Calculator::Comma, "0,"},     {"0,5", &Calculator::Comma, "0,5"},  {"12", &Calculator::DropLast, "1"},
+      {"1", &Calculator::DropLast, "0"},   {"12", &Calculator::DropFirst, "2"}, {"1", &Calculator::DropFirst, "0"},
+      {"0,", &Calculator::DropFirst, ","}, {"12", &Calculator::Clear, "0"}};
+  for (const auto& [before, press, after] : cases) {
+    calculator.shown = before;
+    (calculator.*press)();
+    EXPECT_EQ(calculator.shown, after) << "from " << before;
   }
-  return seen;
+  for (const char digit : std::string("007")) calculator.Digit(digit);
+  EXPECT_EQ(calculator.shown, "7");
 }
 
-TEST(Calculator, ComputesOrTellsWhy) {
-  EXPECT_EQ(Seen("007 ,,0,5 ,> 12< 1< 12> 1> 7+4c"), "7 0,05 , 1 0 2 0 7+0");
-  EXPECT_EQ(Seen("8L2= 2^10=*3= 2/3= ,1+,2= 0-5=*0="), "3 3072 0,666666666666667 0,3 0");
-  EXPECT_EQ(Seen("3q 5-7=a 2,3i 2,5i 0-2,3=i 99999999*99999999="), "9 2 2 2,5 -2,5 9,9999998E+15");
-  EXPECT_EQ(Seen("90s 60o 45t 45g 5e p"), "1 0,500000000000001 0,999999999999998 1 2.718282 3,14159265358979");
-  EXPECT_EQ(Seen(",>q"), "0");     // a comma alone is a number
-  EXPECT_EQ(Seen("5+3=2"), "82");  // nothing tells a result from typed digits
-  EXPECT_EQ(Seen("7+9r"), "7+3");  // functions leave a waiting operator alone
-  EXPECT_EQ(Seen("8/3^"), "3^0");  // the first operand is lost
-  EXPECT_EQ(Seen("5="), "5");      // there is nothing to evaluate
-  EXPECT_EQ(Seen("7/0= 7/,>=", R"(message 0 "Není možno dělit nulou" "Dělení")"), "0 ,");
-  EXPECT_EQ(Seen("5-7=r 1+er", R"(message 0 "Nelze odmocnit záporné číslo" "Odmocnina")"), "-2 1+2.718282");
-  const std::string other = R"(message 0 "Výsledek nelze vypočítat" "Kalkulátor")";
-  EXPECT_EQ(Seen("0L2= 5L1= 5L0= 5-7=^,5= 10^999= 0g", other), "2 1 0 0,5 999 0");
-  // What can't be read any more. A failed function gives a waiting operator up.
-  EXPECT_EQ(Seen("1+e= e+1= 9+eq 5-7=<q 99999999*99999999=<<+1=", other), "2.718282 1 2.718282 - 1");
+TEST_F(CalculatorTest, OperatorsComputeOrTellWhyNot) {
+  const struct {
+    const char* left;
+    char operation;
+    const char *right, *shown;
+    std::string told = {};
+  } cases[] = {
+      {"8", 'L', "2", "3"},
+      {"2", '^', "10", "1024"},
+      {"2", '/', "3", "0,666666666666667"},
+      {"0,1", '+', ",2", "0,3"},
+      {"5", '-', "7", "-2"},
+      {"99999999", '*', "99999999", "9,9999998E+15"},
+      {"7", '/', "0", "0", kNoDivision},
+      {"7", '/', ",", ",", kNoDivision},  // a comma alone is a number
+      {"0", 'L', "2", "2", kNoResult},
+      {"5", 'L', "1", "1", kNoResult},
+      {"5", 'L', "0", "0", kNoResult},
+      {"-2", '^', "0,5", "0,5", kNoResult},
+      {"10", '^', "999", "999", kNoResult},
+      {"1", '+', "2.718282", "2.718282", kNoResult},  // can't be read any more
+      {"2.718282", '+', "1", "1", kNoResult},
+      {"9,9999998E", '+', "1", "1", kNoResult},
+  };
+  for (const auto& c : cases) {
+    platform.answers = {Answer::kOk};
+    calculator.shown = c.left;
+    calculator.Operator(c.operation);
+    calculator.shown = c.right;
+    calculator.Evaluate();
+    EXPECT_EQ(calculator.shown, c.shown) << c.left << c.operation << c.right;
+    EXPECT_EQ(calculator.operation, "") << c.left << c.operation << c.right;
+    EXPECT_EQ(Told(), c.told) << c.left << c.operation << c.right;
+  }
+}
+
+TEST_F(CalculatorTest, FunctionsLeaveAWaitingOperatorUnlessTheyFail) {
+  const struct {
+    const char *name, *number;
+    void (Calculator::*function)();
+    const char* shown;
+    std::string told = {};
+    const char* operation = "+";
+  } cases[] = {
+      {"square", "3", &Calculator::Square, "9"},
+      {"square", ",", &Calculator::Square, "0"},
+      {"square", "2.718282", &Calculator::Square, "2.718282", kNoResult, ""},
+      {"absolute", "-2", &Calculator::Absolute, "2"},
+      {"half floor", "2,3", &Calculator::HalfFloor, "2"},
+      {"half floor", "2,5", &Calculator::HalfFloor, "2,5"},
+      {"half floor", "-2,3", &Calculator::HalfFloor, "-2,5"},
+      {"sine", "90", &Calculator::Sine, "1"},
+      {"cosine", "60", &Calculator::Cosine, "0,500000000000001"},
+      {"tangent", "45", &Calculator::Tangent, "0,999999999999998"},
+      {"cotangent", "45", &Calculator::Cotangent, "1"},
+      {"cotangent", "0", &Calculator::Cotangent, "0", kNoResult, ""},
+      {"root", "9", &Calculator::SquareRoot, "3"},
+      {"root", "-2", &Calculator::SquareRoot, "-2", kNoRoot},
+      {"root", "2.718282", &Calculator::SquareRoot, "2.718282", kNoRoot},
+      {"e", "5", &Calculator::E, "2.718282"},
+      {"pi", "5", &Calculator::Pi, "3,14159265358979"},
+  };
+  for (const auto& c : cases) {
+    platform.answers = {Answer::kOk};
+    calculator.Operator('+');
+    calculator.shown = c.number;
+    (calculator.*c.function)();
+    EXPECT_EQ(calculator.shown, c.shown) << c.name << ' ' << c.number;
+    EXPECT_EQ(calculator.operation, c.operation) << c.name << ' ' << c.number;
+    EXPECT_EQ(Told(), c.told) << c.name << ' ' << c.number;
+  }
+}
+
+TEST_F(CalculatorTest, APowerBehindADivisionLosesItsFirstOperand) {  // required
+  calculator.shown = "8";
+  calculator.Operator('/');
+  EXPECT_EQ(calculator.operand, "8");
+  calculator.shown = "3";
+  calculator.Operator('^');
+  EXPECT_EQ(calculator.operand, "3");
 }
 
 TEST(Calculator, RandomIsBelowOneAndHasSevenDigits) {
@@ -74,52 +132,73 @@ TEST(Calculator, RandomIsBelowOneAndHasSevenDigits) {
   EXPECT_EQ(platform.reseeds, 4);
 }
 
-TEST(Roman, IsAdditiveAndStopsWhenToldTo) {
-  EXPECT_EQ(ToRoman(-5) + ' ' + ToRoman(0) + ' ' + ToRoman(1999) + ' ' + ToRoman(3000), "0 0 MDCCCCLXXXXVIIII MMM");
+TEST(Roman, IsAdditive) {
+  EXPECT_EQ(ToRoman(-5), "0");
+  EXPECT_EQ(ToRoman(0), "0");
+  EXPECT_EQ(ToRoman(1999), "MDCCCCLXXXXVIIII");
+  EXPECT_EQ(ToRoman(3000), "MMM");
+}
+
+TEST(Roman, StopsWhenToldTo) {
   int letters = 0;
   const auto at_most_ten = [&letters] { return ++letters < 10; };
   EXPECT_EQ(ToRoman(12, at_most_ten), "XII");
-  EXPECT_EQ(letters, 3);  // after each letter
+  EXPECT_EQ(letters, 3);  // asked after each letter
   EXPECT_EQ(ToRoman(999999999, at_most_ten), std::nullopt);
   EXPECT_EQ(letters, 10);
 }
 
 TEST(ReadNumber, PrefixesAreTwosComplement) {
-  std::string values;
-  for (const char* text : {"-12ab", "", "&H", "&H8000", "&H7FFF", "&H10000", "&H0FFFF", "&HFFFFFFFF", "&H100000000",
-                           "&O377", "&O177777", "&O200000", "&O0177777", "&O37777777777", "&O40000000000"}) {
-    const auto value = ReadNumber(text);
-    values += value ? NumberText(*value) + ' ' : "none ";
-  }
-  EXPECT_EQ(values, "-12 0 0 -32768 32767 65536 65535 -1 none 255 -1 65536 65535 -1 none ");
+  const std::pair<const char*, std::optional<double>> cases[] = {
+      {"-12ab", -12},
+      {"", 0},
+      {"&H", 0},
+      {"&H8000", -32768},
+      {"&H7FFF", 32767},
+      {"&H10000", 65536},
+      {"&H0FFFF", 65535},
+      {"&HFFFFFFFF", -1},
+      {"&H100000000", std::nullopt},
+      {"&O377", 255},
+      {"&O177777", -1},
+      {"&O200000", 65536},
+      {"&O0177777", 65535},
+      {"&O37777777777", -1},
+      {"&O40000000000", std::nullopt},
+  };
+  for (const auto& [text, number] : cases) EXPECT_EQ(ReadNumber(text), number) << text;
 }
 
-// The three fields, and the number whose Roman form follows, behind digits typed into a field and its conversion.
+// The three fields, and the number whose Roman form follows, behind digits typed into one of them.
 std::string Converted(std::string Converter::*field, std::string_view digits,
                       std::optional<std::int32_t> (Converter::*convert)()) {
   Converter converter;
   for (const char digit : digits) converter.Digit(field, digit);
   const auto roman = (converter.*convert)();
-  return converter.decimal + ' ' + converter.hexadecimal + ' ' + converter.octal +
-         (roman ? ' ' + std::to_string(*roman) : "");
+  return "decimal=" + converter.decimal + " hex=" + converter.hexadecimal + " octal=" + converter.octal +
+         (roman ? " roman=" + std::to_string(*roman) : "");
 }
 
-TEST(Conversions, FillTheOtherFieldsUnlessTheNumberIsTooLarge) {
+TEST(Converter, FillsTheOtherFieldsUnlessTheNumberIsTooLarge) {
   const auto decimal = [](std::string_view n) { return Converted(&Converter::decimal, n, &Converter::FromDecimal); };
-  EXPECT_EQ(decimal("999999999"), "999999999 3B9AC9FF 7346544777 999999999");
-  EXPECT_EQ(decimal("1234567890"), "123456789 75BCD15 726746425 123456789");  // the tenth digit doesn't stay
-  EXPECT_EQ(decimal("007"), "7 7 7 7");
+  EXPECT_EQ(decimal("999999999"), "decimal=999999999 hex=3B9AC9FF octal=7346544777 roman=999999999");
+  // The tenth digit doesn't stay.
+  EXPECT_EQ(decimal("1234567890"), "decimal=123456789 hex=75BCD15 octal=726746425 roman=123456789");
+  EXPECT_EQ(decimal("007"), "decimal=7 hex=7 octal=7 roman=7");
   const auto hex = [](std::string_view n) { return Converted(&Converter::hexadecimal, n, &Converter::FromHex); };
-  EXPECT_EQ(hex("FFFF"), "-1 FFFF 37777777777 -1");
-  EXPECT_EQ(hex("10000"), "65536 10000 200000 65536");
+  EXPECT_EQ(hex("FFFF"), "decimal=-1 hex=FFFF octal=37777777777 roman=-1");
+  EXPECT_EQ(hex("10000"), "decimal=65536 hex=10000 octal=200000 roman=65536");
   // Ten digits and more are cut in the decimal field, and Roman follows that field.
-  EXPECT_EQ(hex("7FFFFFFF"), "214748364 7FFFFFFF 17777777777 214748364");
-  EXPECT_EQ(hex("80000000"), "-21474836 80000000 20000000000 -21474836");
-  EXPECT_EQ(hex("FFFFFFFFFF"), "0 FFFFFFFFF 0");
+  EXPECT_EQ(hex("7FFFFFFF"), "decimal=214748364 hex=7FFFFFFF octal=17777777777 roman=214748364");
+  EXPECT_EQ(hex("80000000"), "decimal=-21474836 hex=80000000 octal=20000000000 roman=-21474836");
+  EXPECT_EQ(hex("FFFFFFFFFF"), "decimal=0 hex=FFFFFFFFF octal=0");
   const auto oct = [](std::string_view n) { return Converted(&Converter::octal, n, &Converter::FromOct); };
-  EXPECT_EQ(oct("177777"), "-1 FFFFFFFF 177777 -1");
-  EXPECT_EQ(oct("17777777777"), "214748364 7FFFFFFF 17777777777 214748364");
-  EXPECT_EQ(oct("777777777777"), "0 0 77777777777");
+  EXPECT_EQ(oct("177777"), "decimal=-1 hex=FFFFFFFF octal=177777 roman=-1");
+  EXPECT_EQ(oct("17777777777"), "decimal=214748364 hex=7FFFFFFF octal=17777777777 roman=214748364");
+  EXPECT_EQ(oct("777777777777"), "decimal=0 hex=0 octal=77777777777");
+}
+
+TEST(Converter, ADecimalNumberThatIsNoLongIntegerGivesZeros) {
   for (const char* number : {"2147483648", "-2147483649", "1E+99", "&HFFFFFFFFF"}) {
     Converter converter;
     converter.decimal = number;

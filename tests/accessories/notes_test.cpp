@@ -6,6 +6,7 @@
 #include "accessories/notes.h"
 #include "accessories/notes_place.h"
 #include "platform/runtime_error.h"
+#include "support/printed_places.h"
 #include "support/scripted_platform.h"
 
 namespace pelmar {
@@ -103,7 +104,10 @@ TEST(NotesRescue, EachPageThatDiffersComesBackToItsPlaceOrToAnEmptyOne) {
 TEST(Checkpoint, TakesTheTextOverTheNoteAndAsksBeforeItGivesItBack) {
   ScriptedPlatform platform;
   TextBuffer document, note;
-  const auto restored = [&] { return RestoreCheckpoint(note, document, platform), document.Text(); };
+  const auto restored = [&] {
+    RestoreCheckpoint(note, document, platform);
+    return document.Text();
+  };
   document.SetText("text\r\n\xFF");
   EXPECT_EQ(restored(), "text\r\n\xFF");  // an empty note asks nothing
   note.SetText("old note");
@@ -151,36 +155,6 @@ TEST(PlaceNotes, FollowsTheButtonAndTheMainWindow) {
     for (TwipsRect* place : {&around.notes, &around.main, &around.screen}) *place = on_second(*place);
     EXPECT_EQ(PlaceNotes(around), on_second(expected)) << what;
   }
-}
-
-TEST(NotesTimer, AsksAgainUntilItIsObeyedOrGivesUp) {
-  NotesTimer timer;
-  const auto asks = [&timer](const NotesSurroundings& now) {
-    int times = 0;
-    for (int tick = 0; tick < 80; ++tick) times += timer.Tick(now).has_value();
-    return times;
-  };
-  const NotesSurroundings near_edge = Around({100, 300, 6000, 4000});
-  EXPECT_EQ(timer.Tick(near_edge), (TwipsRect{0, 300, 6000, 4000}));
-  EXPECT_EQ(asks(Around({0, 300, 6000, 4000})), 0);
-  EXPECT_EQ(asks(near_edge), 50);  // refused for good
-  EXPECT_EQ(asks(near_edge), 0);
-  EXPECT_EQ(asks(Around({110, 300, 6000, 4000})), 50);  // until something moves
-}
-
-TEST(NotesTimer, GoesSlowlyBehindAQuietSecond) {
-  NotesTimer timer;
-  NotesSurroundings there = Around({300, 300, 6000, 4000});
-  for (int tick = 0; tick < 100; ++tick) timer.Tick(there);
-  EXPECT_EQ(timer.Interval(), 10);
-  timer.Rest();  // minimised, it counts on
-  EXPECT_EQ(timer.Interval(), 250);
-  timer.Wake();
-  EXPECT_EQ(timer.Interval(), 10);
-  for (int tick = 0; tick < 100; ++tick) timer.Rest();
-  there.snap_distance = 100000;  // no event tells of it
-  EXPECT_NE(timer.Tick(there), std::nullopt);
-  EXPECT_EQ(timer.Interval(), 10);
 }
 
 }  // namespace

@@ -1,12 +1,12 @@
 #include <gtest/gtest.h>
 
-#include <array>
 #include <cmath>
-#include <set>
+#include <ostream>
 
 #include "accessories/analysis.h"
 #include "accessories/color_math.h"
 #include "accessories/morse.h"
+#include "support/marked_text.h"
 #include "support/scripted_platform.h"
 #include "support/whole_editor.h"
 
@@ -26,35 +26,49 @@ TEST(AnalyseText, RanksByCountAndThenByCode) {
   // Halves are rounded up: 0.125.
   EXPECT_EQ(AnalysisRows(AnalyseText(std::string(799, 'b') + 'a'))[1], "002 00001 000,13 097 \"a\"");
   const std::string longer = AnalysisRows(AnalyseText(std::string(100000, 'q')))[0];
-  EXPECT_EQ(longer + CharOfRow(longer), "001 100000 100,00 113 \"q\"q");
+  EXPECT_EQ(longer, "001 100000 100,00 113 \"q\"");
+  EXPECT_EQ(CharOfRow(longer), 'q');
 }
 
-// The bars that rise above the lower edge, and how many don't.
-std::string Bars(std::string_view text, bool wide, bool ignore_blank) {
-  std::string rising;
-  int lying = 0;
-  for (const Bar& bar : GraphBars(AnalyseText(text), wide, ignore_blank)) {
-    if (bar.height == 0) ++lying;
-    if (bar.height != 0) rising += std::to_string(bar.x) + ':' + std::to_string(std::lround(bar.height)) + ' ';
-  }
-  return rising + std::to_string(lying);
+struct Rising {
+  int x;
+  long height;
+  bool operator==(const Rising&) const = default;
+  friend void PrintTo(const Rising& bar, std::ostream* out) { *out << bar.height << " at " << bar.x; }
+};
+
+// The bars that rise above the lower edge.
+std::vector<Rising> Bars(std::string_view text, bool wide, bool ignore_blank = false) {
+  std::vector<Rising> rising;
+  for (const Bar& bar : GraphBars(AnalyseText(text), wide, ignore_blank))
+    if (bar.height != 0) rising.push_back({static_cast<int>(bar.x), std::lround(bar.height)});
+  return rising;
 }
 
+using Graph = std::vector<Rising>;
+
+// required: the wide graph leaves out what doesn't occur, the narrow one what occurs once
 TEST(GraphBars, ShowWhatTheirWidthCalls) {
-  // required: the wide graph leaves out what doesn't occur, the narrow one what occurs once
-  EXPECT_EQ(Bars("aab\xFF", true, false), "194:200 196:100 510:100 0");
-  EXPECT_EQ(Bars("aaaabbc\xFF\xFF", false, false), "388:200 392:100 125");
-  EXPECT_EQ(Bars("x", false, false), "127");
-  EXPECT_EQ(Bars("aa\xFF\xFF\xFF\xFF", false, false), "388:100 127");  // the highest may stand beyond the narrow graph
-  // Blanks that are ignored are left out of the scale too.
-  EXPECT_EQ(Bars("    aab", true, true), "194:200 196:100 0");
-  EXPECT_EQ(Bars("    aabb", false, true), "388:200 392:200 125");
-  EXPECT_EQ(Bars("   ", true, true) + Bars("   ", false, true), "00");
+  EXPECT_EQ(Bars("aab\xFF", true), (Graph{{194, 200}, {196, 100}, {510, 100}}));
+  EXPECT_EQ(Bars("aaaabbc\xFF\xFF", false), (Graph{{388, 200}, {392, 100}}));
+  EXPECT_EQ(Bars("x", false), Graph{});
+  EXPECT_EQ(Bars("aa\xFF\xFF\xFF\xFF", false), (Graph{{388, 100}}));  // the highest may stand beyond the graph
+  EXPECT_EQ(GraphBars(AnalyseText("aab\xFF"), true, false).size(), 3u);
+  EXPECT_EQ(GraphBars(AnalyseText("x"), false, false).size(), 127u);
+}
+
+TEST(GraphBars, BlanksThatAreIgnoredAreLeftOutOfTheScaleToo) {
+  EXPECT_EQ(Bars("    aab", true, true), (Graph{{194, 200}, {196, 100}}));
+  EXPECT_EQ(Bars("    aabb", false, true), (Graph{{388, 200}, {392, 200}}));
+  EXPECT_EQ(Bars("   ", true, true), Graph{});
 }
 
 TEST(CodeAt, CountsFromOneUnitLeft) {
-  EXPECT_EQ((std::array{CodeAt(-1, true), CodeAt(0, true), CodeAt(129, true), CodeAt(260, false), CodeAt(508, true)}),
-            (std::array{-1, 0, 65, 65, 254}));
+  EXPECT_EQ(CodeAt(-1, true), -1);
+  EXPECT_EQ(CodeAt(0, true), 0);
+  EXPECT_EQ(CodeAt(129, true), 65);
+  EXPECT_EQ(CodeAt(260, false), 65);
+  EXPECT_EQ(CodeAt(508, true), 254);
 }
 
 TEST(ColorMath, Commands) {
@@ -72,8 +86,8 @@ TEST(ColorMath, Commands) {
   EXPECT_EQ(HistoryRow(HighestToFull({10, 55, 55})), "255,255,255");
   EXPECT_EQ(HistoryRow(FromHistoryRow("001,022,255")), "001,000,255");  // required: it loses green
   EXPECT_EQ(ColorOf(ChannelsOf(0x123456)), 0x123456);
-  double draw = 0.0;
-  EXPECT_EQ(HistoryRow(RandomChannels([&draw] { return (draw += 0.25) - 0.25; })), "000,064,128");
+  double draw = -0.25;
+  EXPECT_EQ(HistoryRow(RandomChannels([&draw] { return draw += 0.25; })), "000,064,128");
 }
 
 TEST(Morse, Encodes) {
@@ -91,32 +105,15 @@ TEST(Morse, Encodes) {
   for (const auto& [text, morse] : cases) EXPECT_EQ(TextToMorse(text), morse) << text;
 }
 
-TEST(Morse, MenusHaveOneNameForEachItemAndTheSignsOfTheEncoder) {
-  std::set<std::string_view> names;
-  std::size_t items = 0;
-  for (const MorseMenu& menu : MorseMenus()) {
-    for (const MorseItem& item : menu.items) {
-      names.insert(item.name);
-      // The second letter of CH writes its own sign in a text; shortened digits and signs differ on purpose.
-      if (++items <= 37 && item.caption != "CH") {
-        EXPECT_EQ(item.sign, TextToMorse(item.caption));
-      }
-    }
-  }
-  EXPECT_EQ(names.size(), items);
-}
-
 TEST(Morse, CommandRewritesTheSelection) {
   ScriptedPlatform platform;
   WholeEditor editor(platform);
-  editor.text.SetText("x sos y");
+  PutMarked(editor.text, "x |sos y");
   editor.commands.Run("mnuMakeMorse");  // nothing selected: nothing changes
-  editor.text.Select(2, 5);
+  PutMarked(editor.text, "x [sos| y");
   platform.TakeCalls();
   editor.commands.Run("mnuMakeMorse");
-  EXPECT_EQ(editor.text.Text(), "x .../---/.../ y");
-  EXPECT_EQ(editor.text.Caret(), 14u);
-  EXPECT_FALSE(editor.text.HasSelection());
+  EXPECT_EQ(Marked(editor.text), "x .../---/.../| y");
   EXPECT_EQ(platform.TakeCalls(), (std::vector<std::string>{"arrow 1", "arrow 0"}));
 }
 

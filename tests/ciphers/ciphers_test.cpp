@@ -47,30 +47,38 @@ TEST(Cronfeld, IsAShiftOfEachCharacterByItsDigitAndBack) {
 }
 
 TEST(KeyFields, AKeyIsANumberAndAPasswordAWholeOne) {
-  std::string keys, passwords;
-  for (const char* typed : {"", "007", " 42 ", "12ab", "1,9", "-1.5", "-0.5", "1.5E-7", "1.5E20", "2E20", "1E999"}) {
-    keys += KeyText(typed) + ' ';
-    passwords += PasswordText(typed) + ' ';
+  const struct {
+    const char *typed, *key, *password;
+  } cases[] = {
+      {"", "0", "0"},       {"007", "7", "7"},          {" 42 ", "42", "42"},        {"12ab", "12", "12"},
+      {"1,9", "1", "1"},    {"-1.5", "-1", "-2"},       {"-0.5", "0", "-1"},         {"1.5E-7", "1", "0"},
+      {"1.5E20", "1", "1"}, {"2E20", "2E+20", "2E+20"}, {"1E999", "1E+99", "1E+99"},
+  };
+  for (const auto& c : cases) {
+    EXPECT_EQ(KeyText(c.typed), c.key) << c.typed;
+    EXPECT_EQ(PasswordText(c.typed), c.password) << c.typed;
   }
-  EXPECT_EQ(keys, "0 7 42 12 1 -1 0 1 1 2E+20 1E+99 ");
-  EXPECT_EQ(passwords, "0 7 42 12 1 -2 -1 0 1 2E+20 1E+99 ");
   EXPECT_EQ(RandomPassword([] { return 0.0; }), "100000000000000");
 }
 
-TEST(HackerTranscription, TakesEachLookAlike) {
-  // From the first look-alike of each letter to the last, equally wide.
-  std::string all;
-  for (int i = 0; i < 5; ++i)
-    all += HackerTranscription("AaBCDEFGHIJKLMNOPQRSTUVWXYZz", [i] { return 0.2 * i + 0.1; }) + '\n';
-  EXPECT_EQ(all,
-            "AABCDEFGHIJKLMNOPQRSTUVWXYZZ\n"
-            "aaBCdEFGHiJKlmNOPQRsTUVwXYZZ\n"
-            "@@bc)efgh1jk7~nopqr5tuv~xyzz\n"
-            "@@8()3[6#!?<7w%09qr5+u^m*/22\n"
-            "&&8(>3[6#|?<4W%09qr$+u^M*/22\n");
+TEST(HackerTranscription, DrawsEachLookAlikeAsOftenAsTheOthers) {
+  const std::pair<double, const char*> cases[] = {{0.1, "AABCDEFGHIJKLMNOPQRSTUVWXYZZ"},
+                                                  {0.3, "aaBCdEFGHiJKlmNOPQRsTUVwXYZZ"},
+                                                  {0.5, "@@bc)efgh1jk7~nopqr5tuv~xyzz"},
+                                                  {0.7, "@@8()3[6#!?<7w%09qr5+u^m*/22"},
+                                                  {0.9, "&&8(>3[6#|?<4W%09qr$+u^M*/22"}};
+  for (const auto& [draw, transcribed] : cases)
+    EXPECT_EQ(HackerTranscription("AaBCDEFGHIJKLMNOPQRSTUVWXYZz", [draw] { return draw; }), transcribed) << draw;
+}
+
+TEST(HackerTranscription, DrawsAlsoForWhatHasNoLookAlikes) {
   int draws = 0;
-  EXPECT_EQ(HackerTranscription("Qq Íí\r\n1@"_w, [&draws] { return ++draws, 0.9999; }), "qq Íí\r\n1@"_w);
-  EXPECT_EQ(draws, 9);  // also for what has no look-alikes
+  const auto highest = [&draws] {
+    ++draws;
+    return 0.9999;
+  };
+  EXPECT_EQ(HackerTranscription("Qq Íí\r\n1@"_w, highest), "qq Íí\r\n1@"_w);
+  EXPECT_EQ(draws, 9);
 }
 
 std::string Enciphered(const std::string& text, double key) {
@@ -161,7 +169,10 @@ TEST_F(StreamTest, ReadsADocumentThatChangesUnderIt) {
   // The length was taken once, each character at its turn.
   const std::size_t turned = progress.front();
   EXPECT_EQ(document.Text(), Enciphered(std::string(turned, 'a') + std::string(text.size() - turned, 'b'), 3));
-  Rewrite(text, [&] { return document.SetText("short"), true; });
+  Rewrite(text, [&] {
+    document.SetText("short");
+    return true;
+  });
   EXPECT_EQ(document.Text(), Enciphered(text, 3).substr(0, output.size()));
   EXPECT_LT(output.size(), text.size());
   Rewrite(text, [] { return false; });

@@ -153,7 +153,12 @@ TEST(Formats, PagesAroundTheDocument) {
   bare.title = "ž"_w;
   PageSpec full = bare;
   full.background = "a.gif";  // required: a file's address of a bare name too
-  full.bgcolor = "1", full.text = "2", full.link = "3", full.vlink = "4", full.alink = "5", full.base_font = 7;
+  full.bgcolor = "1";
+  full.text = "2";
+  full.link = "3";
+  full.vlink = "4";
+  full.alink = "5";
+  full.base_font = 7;
   const std::string code_page =
       "  <META HTTP-EQUIV=\"Content-Type\" CONTENT=\"text/html; charset=windows-1250\">\r\n"
       "  <META NAME=\"GENERATOR\" CONTENT=\"Orvilanths PELmar VEX v8.9.2.1b CZ\">\r\n";

@@ -4,6 +4,7 @@
 
 #include <sstream>
 
+#include "support/marked_text.h"
 #include "support/random_source.h"
 #include "support/scripted_platform.h"
 #include "text/codepage.h"
@@ -12,13 +13,6 @@ namespace pelmar {
 namespace {
 
 constexpr std::size_t kNone = std::string::npos;
-
-// A text whose first "^" stands for the caret and is no part of it.
-struct CaretText {
-  explicit CaretText(std::string_view marked) : text(marked), caret(text.find('^')) { text.erase(caret, 1); }
-  std::string text;
-  std::size_t caret;
-};
 
 // The place and the length of the tag, its name, "|NAME:value" for each row, at the end the step that failed.
 std::string Shown(const TagAnalysis& analysis) {
@@ -84,22 +78,24 @@ std::string ShownSlowly(const std::string& text, std::size_t caret) {
 // required: all of it is what a row of text rewritings makes of a tag
 TEST(TagEditor, ReadsATagByItsGrammar) {
   const std::pair<std::string_view, std::string_view> cases[] = {
-      {"x^ <B>", "none"},
-      {"a > b <^", "none"},          // no ">" behind the first "<"
-      {"<B>x</B> text^", "4+4 /B"},  // long closed
-      {"<B>x^</B>", "4+4 /B"},       // "<" directly behind the caret
-      {"<a><b c^", "3+4 b|:True"},   // never closed: up to the end, without the last character
-      {"<a>^<", "no place  !Přeformátování"},
-      {R"(^<F SIZE ="3"    COLOR=  "r d" ID= x >)", "0+37 F|SIZE:3|COLOR:r d|ID:x"},
-      {R"(^<A HREF= ID='x y' R=a>)", R"(0+22 A|HREF:ID="'x y'|R:a)"},  // a "=" inside a value gains a quote
-      {R"(^<T "NOWRAP" X ALIGN=LEFT Y />)", "0+29 T|NOWRAP X:True|ALIGN:LEFT Y /"},
-      {R"(^<F  SIZE = 3>)", "0+13 F|:True|SIZE:3"},  // a second blank leaves a lone quote: a row without a name
-      {"^<A ID=x HREF=>", "0+14 A|ID:x|HREF !Přepis"},
+      {"x| <B>", "none"},
+      {"a > b <|", "none"},          // no ">" behind the first "<"
+      {"<B>x</B> text|", "4+4 /B"},  // long closed
+      {"<B>x|</B>", "4+4 /B"},       // "<" directly behind the caret
+      {"<a><b c|", "3+4 b|:True"},   // never closed: up to the end, without the last character
+      {R"(|<F SIZE ="3"    COLOR=  "r d" ID= x >)", "0+37 F|SIZE:3|COLOR:r d|ID:x"},
+      {R"(|<A HREF= ID='x y' R=a>)", R"(0+22 A|HREF:ID="'x y'|R:a)"},  // a "=" inside a value gains a quote
+      {R"(|<F  SIZE = 3>)", "0+13 F|:True|SIZE:3"},  // a second blank leaves a lone quote: a row without a name
+      {"|<A ID=x HREF=>", "0+14 A|ID:x|HREF !Přepis"},
   };
   for (const auto& [marked, shown] : cases) {
-    const CaretText at(marked);
-    EXPECT_EQ(Shown(AnalyseTag(at.text, at.caret)), shown) << marked;
+    TextBuffer text;
+    PutMarked(text, marked);
+    EXPECT_EQ(Shown(AnalyseTag(text.Text(), text.SelStart())), shown) << marked;
   }
+}
+
+TEST(TagEditor, ReadsRandomTagsAsASlowReaderDoes) {
   RandomSource random(20240506);
   for (int round = 0; round < 20000; ++round) {
     const std::string text = random.Text(23, "<<>== \"'/aab\t\r\n˙  "_w);
@@ -112,56 +108,40 @@ struct TagEditorOnText : testing::Test {
   ScriptedPlatform platform;
   TextBuffer text;
 
-  void Put(std::string_view marked, std::size_t selected = 0) {
-    const CaretText at(marked);
-    text.SetText(at.text);
-    text.Select(at.caret, at.caret + selected);
+  std::vector<std::string> Opened(const char* marked) {
+    PutMarked(text, marked);
+    platform.answers = {Answer::kOk};
+    OpenTag(text, platform);
+    return platform.TakeCalls();
   }
 };
 
-TEST_F(TagEditorOnText, SelectsTheTagOrTellsThePerson) {
-  Put("ab<B>^c");
-  OpenTag(text, platform);
-  EXPECT_EQ(text.SelText(), "<B>");
-  EXPECT_TRUE(platform.TakeCalls().empty());
-  Put("a^b", 1);
-  platform.answers = {Answer::kOk, Answer::kOk};
-  OpenTag(text, platform);
-  EXPECT_EQ(text.SelText(), "b");
-  Put("<A HREF=>^");
-  OpenTag(text, platform);
-  EXPECT_EQ(platform.TakeCalls(),
-            (std::vector<std::string>{
-                R"(message 0 "Není tag!" "EdiTag")",
-                "message 0 \"Došlo k chybě při zpracování tagu. Ujistěte se, že se jedná o html tag ve správném "
-                "formátu\r\nKód chyby: Přepis\" \"EdiTag\""}));
+TEST_F(TagEditorOnText, OpeningSelectsTheTag) {
+  EXPECT_TRUE(Opened("ab<B>|c").empty());
+  EXPECT_EQ(Marked(text), "ab[<B>|c");
 }
 
-TEST_F(TagEditorOnText, AddsAttributesToTheTagThatClosesBehindTheCaret) {
-  const std::string at_start =
-      R"(message 0 "Na úplný začátek textu atributy vložit nelze. Posuňte kurzor do tagu." "Atribut")";
-  const std::string behind_all =
-      R"(message 0 "Za kurzorem už žádný tag nekončí. Posuňte kurzor do tagu nebo před něj." "Atribut")";
+TEST_F(TagEditorOnText, WithoutATagOrWithABadOneThePersonIsTold) {
+  EXPECT_EQ(Opened("a[b|"), std::vector<std::string>{R"(message 0 "Není tag!" "EdiTag")"});
+  EXPECT_EQ(Marked(text), "a[b|");
+  EXPECT_EQ(Opened("<A HREF=>|"),
+            std::vector<std::string>{
+                "message 0 \"Došlo k chybě při zpracování tagu. Ujistěte se, že se jedná o html tag ve správném "
+                "formátu\r\nKód chyby: Přepis\" \"EdiTag\""});
+}
+
+TEST_F(TagEditorOnText, AttributesGoIntoTheTagThatClosesBehindTheCaret) {
   const AttributeLists attributes{{"ID", "REL"}, {"x"}};  // out of step: the missing value is empty
-  const std::pair<std::string_view, std::string_view> cases[] = {
-      {"<^A>b</A>", R"(<A ID="x" REL="">b</A>)"},
-      {"<A>^b</A>", R"(<A ID="x" REL="">b</A>)"},  // the character in front of the caret is looked at too
-      {"<A>b^</A>", R"(<A>b</A ID="x" REL="">)"},
+  const std::pair<const char*, const char*> cases[] = {
+      {"<[A>|b</A>", R"(<A ID="x" REL=""|>b</A>)"},  // a selection stays in the text
+      {"<A>|b</A>", R"(<A ID="x" REL=""|>b</A>)"},   // the character in front of the caret is looked at too
+      {"<A>b|</A>", R"(<A>b</A ID="x" REL=""|>)"},
   };
   for (const auto& [before, after] : cases) {
-    Put(before, 2);  // a selection stays in the text
+    PutMarked(text, before);
     EXPECT_TRUE(AddAttributes(text, attributes, platform));
-    EXPECT_EQ(text.Text(), after);
-    EXPECT_EQ(text.SelStart(), text.Text().find("\"\">") + 2);
-    EXPECT_FALSE(text.HasSelection());
+    EXPECT_EQ(Marked(text), after);
   }
-  for (const std::string_view nowhere : {"^<A>b", "<A>b^", "^"}) {
-    Put(nowhere);
-    platform.answers = {Answer::kOk};
-    EXPECT_FALSE(AddAttributes(text, attributes, platform));
-    EXPECT_EQ(text.Text(), CaretText(nowhere).text);
-  }
-  EXPECT_EQ(platform.calls, (std::vector<std::string>{at_start, behind_all, at_start}));
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include "platform/runtime_error.h"
 #include "support/plain_view.h"
+#include "support/printed_places.h"
 #include "support/scripted_platform.h"
 #include "support/whole_editor.h"
 
@@ -21,7 +22,11 @@ struct Desk {
   std::function<void()> config = [] {};
   Session session{
       view,
-      {.show_config = [this] { view.calls.push_back("config"), config(); },
+      {.show_config =
+           [this] {
+             view.calls.push_back("config");
+             config();
+           },
        .show_main = [this] { view.calls.push_back("main"); },
        .show_start = [this] { view.calls.push_back("start"); },
        .show_accessory = [this](StartMode mode) { view.calls.push_back(std::to_string(static_cast<int>(mode))); }},
@@ -29,16 +34,9 @@ struct Desk {
       editor.files};
   Listening recent{editor.files.recent.changed.Add([this] { view.calls.push_back("recent"); })};
 
-  // The steps of the start, in order, and what it leaves.
-  std::string Start(std::string_view tail) {
-    session.Load(), session.Act(tail);
-    std::string told;
-    for (const std::string& call : view.calls) told += call + ", ";
-    told += editor.documents.Title() + ", " + Told(view.look);
-    for (const int part : {view.place.left, view.place.top, view.place.width, view.place.height,
-                           static_cast<int>(view.state), editor.settings.AutosnapDistance})
-      told += ' ' + std::to_string(part);
-    return told;
+  void Start(std::string_view tail = "") {
+    session.Load();
+    session.Act(tail);
   }
 };
 
@@ -48,33 +46,55 @@ const SettingsRecord kStored{9000,  6000,  300,   150,      false, "Font", 1,  2
 
 struct SessionTest : testing::Test, Desk {};
 
+using Calls = std::vector<std::string>;
+
 TEST_F(SessionTest, AFirstStartRunsTheStepsInOrder) {
+  Start();
+  EXPECT_EQ(view.calls, (Calls{"colors", "recent", "place", "state", "font", "colors", "size", "bold", "no bold mark",
+                               "italic", "no italic mark", "config", "not top", "main"}));
+  EXPECT_EQ(editor.documents.Title(), "Pelmar VEX ()");
+  EXPECT_EQ(Told(view.look), "Courier New 8 #000000 #FFFFFF");
+  EXPECT_EQ(editor.settings.AutosnapDistance, 240);
+}
+
+TEST_F(SessionTest, TheProfileIsStoredAtOnceWithoutTheWindowsState) {
   config = [this] {
     editor.settings.UserName = "Eva";
     view.state = WindowMode::kMinimised;
     session.StoreSettings();
   };
-  EXPECT_EQ(Start(""),
-            "colors, recent, place, state, font, colors, size, bold, no bold mark, italic, no italic mark, config, "
-            "not top, main, Pelmar VEX (), Courier New 8 #000000 #FFFFFF 0 0 0 0 1 240");
-  EXPECT_EQ(platform.calls, std::vector<std::string>{std::string("write ") + kSettings});
-  const SettingsRecord stored = ReadSettings(platform.files[kSettings]);
-  EXPECT_EQ(stored.UserName + std::to_string(stored.WindowState), "Eva0");  // all but the window's state
+  Start();
+  EXPECT_EQ(platform.calls, Calls{std::string("write ") + kSettings});
+  EXPECT_EQ(ReadSettings(platform.files[kSettings]).UserName, "Eva");
+  EXPECT_EQ(ReadSettings(platform.files[kSettings]).WindowState, 0);
 }
 
-TEST_F(SessionTest, SettingsAreAppliedAndRepaired) {
+TEST_F(SessionTest, SettingsAreAppliedInOrder) {
+  SettingsRecord r = kStored;
+  r.FontBold = r.FontItalic = r.AlwaysOnTopFlag = true;
+  r.AutosnapDistance = 100;
+  platform.files[kSettings] = SettingsBytes(r);
+  Start("-nomsg");
+  EXPECT_EQ(view.calls, (Calls{"colors", "recent", "place", "state", "font", "colors", "size", "bold", "bold mark",
+                               "italic", "italic mark", "top", "main"}));
+  EXPECT_EQ(Told(view.look), "Font 12 bold italic #010000 #020000");
+  EXPECT_EQ(view.place, (TwipsRect{150, 300, 9000, 6000}));
+  EXPECT_EQ(editor.settings.AutosnapDistance, 100);
+}
+
+TEST_F(SessionTest, SettingsThatCantBeAreRepaired) {
   SettingsRecord r = kStored;
   r.WindowState = 5;
   r.FontSize = 11;
   r.ForeColor = r.BackColor;
-  r.FontBold = r.FontItalic = r.AlwaysOnTopFlag = true;
-  r.AutosnapDistance = 100;
   platform.files[kSettings] = SettingsBytes(r);
-  EXPECT_EQ(Start("-nomsg"),
-            "colors, recent, place, state, font, colors, size, bold, bold mark, italic, italic mark, top, main, "
-            "Pelmar VEX (), Font 8 bold italic #000000 #FFFFFF 150 300 9000 6000 0 100");
-  for (const auto& [size, expected] : {std::pair{10, 10}, {24, 24}, {0, 8}, {25, 8}})
-    EXPECT_EQ((view.SetEditorFontSize(size), view.look.font_size), expected);
+  Start();
+  EXPECT_EQ(Told(view.look), "Font 8 #000000 #FFFFFF");
+  EXPECT_EQ(view.state, WindowMode::kNormal);
+  for (const auto& [size, expected] : {std::pair{10, 10}, {24, 24}, {0, 8}, {25, 8}}) {
+    view.SetEditorFontSize(size);
+    EXPECT_EQ(view.look.font_size, expected);
+  }
 }
 
 TEST(Session, TextComesFromTheRecoveryFileOrTheClipboard) {
@@ -90,29 +110,18 @@ TEST(Session, TextComesFromTheRecoveryFileOrTheClipboard) {
     Desk one;
     if (recovery) one.platform.files[kRecovery] = *recovery;
     one.platform.clipboard = clipboard;
-    one.session.Load(), one.session.Act("");
+    one.Start();
     EXPECT_TRUE(one.editor.text.Text() == text) << text.size();
     EXPECT_TRUE(one.session.Close());  // without a question: what came is no change
   }
 }
 
-TEST(Session, AClipboardThatIsToldLaterGoesIntoAnUntouchedDocument) {
-  const std::pair<const char*, std::function<void(Desk&)>> cases[] = {
-      {"late", [](Desk&) {}},
-      {"", [](Desk& one) { one.editor.text.SetText("typed"), one.editor.text.SetText(""); }},
-      {"", [](Desk& one) { one.editor.documents.SwitchTo(2); }},
-      {"", [](Desk& one) { one.session.Act("/empty.txt"); }}};
-  for (const auto& [text, act] : cases) {
-    Desk one;
-    one.platform.files["/empty.txt"] = "";
-    one.session.Load();
-    act(one);
-    one.platform.clipboard = "late";
-    const std::string title = one.editor.documents.Title();
-    one.session.TakeLateClipboard();
-    EXPECT_EQ(one.editor.text.Text(), text);
-    EXPECT_EQ(one.editor.documents.Title(), title);
-  }
+TEST_F(SessionTest, AClipboardThatIsToldLaterGoesIntoAnUntouchedDocument) {
+  session.Load();
+  platform.clipboard = "late";
+  session.TakeLateClipboard();
+  EXPECT_EQ(editor.text.Text(), "late");
+  EXPECT_EQ(editor.documents.Title(), "Pelmar VEX ()");
 }
 
 TEST(Session, TheCommandTailTellsWhatIsShown) {
@@ -124,14 +133,16 @@ TEST(Session, TheCommandTailTellsWhatIsShown) {
     SettingsRecord r = kStored;
     r.ShowStart = show_start;
     one.platform.files = {{"/a.txt", "file"}, {kRecovery, "recovered"}, {kSettings, SettingsBytes(r)}};
-    one.session.Load(), one.session.Act(tail);
+    one.Start(tail);
     EXPECT_EQ(one.view.calls.back(), shown) << tail;
-    EXPECT_EQ(one.editor.text.Text(), tail[0] == '/' ? "file" : "recovered");
+    EXPECT_EQ(one.editor.text.Text(), tail[0] == '/' ? "file" : "recovered") << tail;
   }
-  Desk one;
-  one.platform.answers = {Answer::kOk};
-  one.session.Load(), one.session.Act("-CALC x");  // anything behind a switch makes it a file's name
-  EXPECT_EQ(one.platform.calls.back(), "message 0 \"Soubor -CALC x nenalezen!\" \"Soubor\"");
+}
+
+TEST_F(SessionTest, AnythingBehindASwitchMakesItAFilesName) {
+  platform.answers = {Answer::kOk};
+  Start("-CALC x");
+  EXPECT_EQ(platform.calls.back(), "message 0 \"Soubor -CALC x nenalezen!\" \"Soubor\"");
 }
 
 TEST_F(SessionTest, CloseWritesTheFilesBeforeItAsks) {

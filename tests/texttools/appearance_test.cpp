@@ -2,55 +2,71 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/twips.h"
+#include <algorithm>
+
 #include "shell/layout_picker.h"
 #include "support/plain_view.h"
+#include "support/printed_places.h"
 #include "support/scripted_platform.h"
 #include "support/whole_editor.h"
 
 namespace pelmar {
 namespace {
 
-std::string Shown(const TwipsRect& place) {
-  return std::to_string(place.left) + ',' + std::to_string(place.top) + ' ' + std::to_string(place.width) + 'x' +
-         std::to_string(place.height);
-}
-
-// The look, the alignment and the window's place, and the calls that set marks or the window's state.
-std::string Shown(PlainView& view) {
-  std::string shown = Told(view.look) + ' ' + std::to_string(view.alignment) + ' ' + Shown(view.place);
-  for (const std::string& call : std::exchange(view.calls, {}))
-    if (call.ends_with(" mark") || call == "normal") shown += ", " + call;
-  return shown;
-}
-
-TEST(Appearance, EachCommandChangesItsPartOfTheLook) {
+struct AppearanceTest : testing::Test {
   ScriptedPlatform platform;
-  WholeEditor editor(platform);
+  WholeEditor editor{platform};
   PlainView view;
-  AddAppearanceCommands(editor, view);
-  view.look = {"Font", Rgb(1, 2, 3), Rgb(255, 255, 255), 8, false, false};
-  const std::pair<const char*, const char*> steps[] = {
-      {"mnu17", "Font 17 #010203 #FFFFFF 0 0,0 0x0"},
-      {"mnuEditBold", "Font 17 bold #010203 #FFFFFF 0 0,0 0x0, bold mark"},
-      {"mnuitalic", "Font 17 bold italic #010203 #FFFFFF 0 0,0 0x0, italic mark"},
-      {"mnuEditBold", "Font 17 italic #010203 #FFFFFF 0 0,0 0x0, no bold mark"},
-      {"mnuinvert", "Font 17 italic #FEFDFC #000000 0 0,0 0x0"},
-      {"mnuinvert", "Font 17 italic #010203 #FFFFFF 0 0,0 0x0"},
-      {"Mnu_Change_Alingment", "Font 17 italic #010203 #FFFFFF 1 0,0 0x0"},
-      {"Mnu_Change_Alingment", "Font 17 italic #010203 #FFFFFF 2 0,0 0x0"},
-      {"Dos", "Courier New 8 #C2C2C2 #000000 2 0,0 9210x6675, normal, no bold mark, no italic mark"},
-      {"Mnu_Change_Alingment", "Courier New 8 #C2C2C2 #000000 0 0,0 9210x6675"},
-      {"mnuEditBold", "Courier New 8 bold #C2C2C2 #000000 0 0,0 9210x6675, bold mark"},
-      // required: not the mark of bold; the window keeps its size
-      {"mnubasic", "MS Sans Serif 8 #000000 #FFFFFF 0 0,0 9210x6675, no italic mark"},
-  };
-  for (const auto& [command, shown] : steps) {
-    editor.commands.Run(command);
-    EXPECT_EQ(Shown(view), shown) << command;
+
+  AppearanceTest() {
+    AddAppearanceCommands(editor, view);
+    view.look = {"Font", Rgb(1, 2, 3), Rgb(255, 255, 255), 8, false, false};
   }
-  ApplyLook(view, {"", 3, 4, 11, true, false});  // no font, and a size outside the six
-  EXPECT_EQ(Shown(view), "MS Sans Serif 8 bold #030000 #040000 0 0,0 9210x6675, bold mark, no italic mark");
+  // The look behind a command.
+  std::string Look(const char* command) {
+    view.calls.clear();
+    editor.commands.Run(command);
+    return Told(view.look);
+  }
+  // Whether the last command set a check mark, or asked for the window's state.
+  [[nodiscard]] bool Did(const char* call) const { return std::ranges::count(view.calls, call) > 0; }
+};
+
+TEST_F(AppearanceTest, EachCommandChangesItsPartOfTheLook) {
+  EXPECT_EQ(Look("mnu17"), "Font 17 #010203 #FFFFFF");
+  EXPECT_EQ(Look("mnuEditBold"), "Font 17 bold #010203 #FFFFFF");
+  EXPECT_TRUE(Did("bold mark"));
+  EXPECT_EQ(Look("mnuitalic"), "Font 17 bold italic #010203 #FFFFFF");
+  EXPECT_TRUE(Did("italic mark"));
+  EXPECT_EQ(Look("mnuEditBold"), "Font 17 italic #010203 #FFFFFF");
+  EXPECT_TRUE(Did("no bold mark"));
+  EXPECT_EQ(Look("mnuinvert"), "Font 17 italic #FEFDFC #000000");
+}
+
+TEST_F(AppearanceTest, ThreeAlignmentsTakeTurns) {
+  for (const int alignment : {1, 2, 0}) {
+    Look("Mnu_Change_Alingment");
+    EXPECT_EQ(view.alignment, alignment);
+  }
+}
+
+TEST_F(AppearanceTest, DosSetsTheWindowToo) {
+  EXPECT_EQ(Look("Dos"), "Courier New 8 #C2C2C2 #000000");
+  EXPECT_EQ(view.place, (TwipsRect{0, 0, 9210, 6675}));
+  for (const char* call : {"normal", "no bold mark", "no italic mark"}) EXPECT_TRUE(Did(call)) << call;
+}
+
+TEST_F(AppearanceTest, TheBasicLookLeavesTheMarkOfBold) {  // required
+  Look("mnuEditBold");
+  EXPECT_EQ(Look("mnubasic"), "MS Sans Serif 8 #000000 #FFFFFF");
+  EXPECT_TRUE(Did("no italic mark"));
+  EXPECT_FALSE(Did("no bold mark"));
+}
+
+TEST_F(AppearanceTest, ALookWithoutAFontKeepsTheFontAndAStrangeSizeBecomesEight) {
+  ApplyLook(view, {"", 3, 4, 11, true, false});
+  EXPECT_EQ(Told(view.look), "Font 8 bold #030000 #040000");
+  EXPECT_TRUE(Did("bold mark"));
 }
 
 TEST(Visual, SizeField) {
@@ -61,18 +77,13 @@ TEST(Visual, SizeField) {
   for (const auto& [typed, field] : cases) EXPECT_EQ(NormalizeSize(typed), field) << typed;
 }
 
-TEST(LayoutPicker, NineParts) {
-  std::string parts;
-  for (const int row : {1, 2, 3}) {
-    for (const int column : {1, 2, 3}) {
-      const ScreenPlace part = PlaceOfCell(row, column, {1000, 30, 1200, 800});
-      parts.append(part.name).append(" " + Shown(part.place) + (column < 3 ? "|" : "\n"));
-    }
-  }
-  EXPECT_EQ(parts,
-            "Vlevo nahoře 1000,30 600x400|Nahoře 1000,30 1200x400|Vpravo nahoře 1600,30 600x400\n"
-            "Vlevo 1000,30 600x800|Maximalizace 1000,30 1200x800|Vpravo 1600,30 600x800\n"
-            "Vlevo dole 1000,430 600x400|Dole 1000,430 1200x400|Vpravo dole 1600,430 600x400\n");
+TEST(LayoutPicker, ACellIsAHalfOrAQuarterOfTheScreen) {
+  const TwipsRect screen{1000, 30, 1200, 800};
+  EXPECT_EQ(PlaceOfCell(1, 1, screen).place, (TwipsRect{1000, 30, 600, 400}));
+  EXPECT_EQ(PlaceOfCell(2, 2, screen).place, screen);
+  EXPECT_EQ(PlaceOfCell(2, 3, screen).place, (TwipsRect{1600, 30, 600, 800}));
+  EXPECT_EQ(PlaceOfCell(3, 2, screen).place, (TwipsRect{1000, 430, 1200, 400}));
+  EXPECT_EQ(PlaceOfCell(3, 2, screen).name, "Dole");
 }
 
 }  // namespace

@@ -1,3 +1,4 @@
+// The searches of the dialogs Hledání and Záměna, and the primitive one.
 #include <gtest/gtest.h>
 
 #include "support/marked_text.h"
@@ -9,154 +10,196 @@
 namespace pelmar {
 namespace {
 
-constexpr const char* kNothingFound = "message 0 \"Nenalezeno !\" \"Hledání\"; ";
+using Calls = std::vector<std::string>;
+constexpr const char* kNothingFound = "message 0 \"Nenalezeno !\" \"Hledání\"";
 
-std::string On(std::initializer_list<std::pair<char, bool>> fields) {
-  std::string on;
-  for (const auto& [sign, is_on] : fields)
-    if (is_on) on += sign;
-  return on + ' ';
-}
+std::string Shown(const std::optional<std::size_t>& number) { return number ? std::to_string(*number) : "-"; }
 
-std::string Number(const std::optional<std::size_t>& number) { return number ? std::to_string(*number) : "-"; }
-
-struct SearchTest : testing::Test {
+// A search of a document, and what a person does in its dialog.
+template <class Search>
+struct Searching {
   ScriptedPlatform platform;
   TextBuffer text;
-  std::string told_by;  // the labels behind the last message
+  Search search{text, platform};
 
-  // Both dialogs take steps as letters: L the load, S start, N next, W new, "i" ignores case, "x" puts another text
-  // into the document, a digit picks a row of the history.
-  template <class Search>
-  void Do(Search& search, char step) {
-    platform.calls.clear();
-    platform.answers = {Answer::kOk};
-    if (step == 'i') search.case_sensitive = false;
-    if (step == 'L') search.Load();
-    if (step == 'N') search.Next();
-    if (step == 'W') search.New();
-    if (step == 'x') text.SetText("short text");
-  }
-  // The term and the document, and what the last step told, "!" for nothing found with the labels behind it.
-  std::string Texts(const std::string& term) {
-    const std::string told = platform.TakeTold();
-    return ' ' + term + ' ' + Marked(text) + (told == kNothingFound ? " !" + told_by : told);
-  }
-  // The fields that are on (find, case, history, next), count and position.
-  std::string Finding(std::string_view document, std::string_view term, std::string_view steps) {
+  using Step = void (*)(Searching&);
+  static void Load(Searching& s) { s.search.Load(); }
+  static void Start(Searching& s) { s.search.Start(); }
+  static void Next(Searching& s) { s.search.Next(); }
+  static void New(Searching& s) { s.search.New(); }
+  static void IgnoreCase(Searching& s) { s.search.case_sensitive = false; }
+  static void OtherText(Searching& s) { s.text.SetText("short text"); }
+
+  // The document behind the steps, with "!" where the last one told that there is nothing.
+  std::string After(std::string_view document, std::string_view term, const std::vector<Step>& steps) {
     PutMarked(text, document);
-    Finder finder(text, platform);
-    finder.find = term;
-    finder.before_message = [&] { told_by = Number(finder.count) + '@' + Number(finder.position); };
-    for (const char step : steps) {
-      Do(finder, step);
-      if (step == 'S') finder.Start();
-      if (step >= '0' && step <= '9') finder.PickHistory(static_cast<std::size_t>(step - '0'));
+    search.find = FromUtf8(term);
+    for (const Step step : steps) {
+      platform.TakeCalls();
+      platform.answers = {Answer::kOk};
+      step(*this);
     }
-    return On({{'f', finder.find_on}, {'c', finder.case_on}, {'h', finder.history_on}, {'n', finder.next_on}}) +
-           Number(finder.count) + '@' + Number(finder.position) + Texts(finder.find);
+    return Marked(text) + (platform.TakeCalls() == Calls{kNothingFound} ? " !" : "");
   }
-  // The same (find, replacement, case, lists, steps, all), found and replaced. R replaces, A all, "=" writes "X" over
-  // the replacement.
-  std::string Replacing(std::string_view document, std::string_view term, std::string_view change,
-                        std::string_view steps) {
-    PutMarked(text, document);
-    Replacer replacer(text, platform);
-    replacer.find = term;
-    replacer.before_message = [&] { told_by = Number(replacer.found_shown) + '/' + Number(replacer.replaced_shown); };
-    replacer.change = change;
-    for (const char step : steps) {
-      Do(replacer, step);
-      if (step == 'S') {
-        EXPECT_EQ(replacer.Start(), replacer.step_on);
-      }
-      if (step == 'R') replacer.Replace();
-      if (step == 'A') {
-        replacer.ReplaceAll();
-        EXPECT_EQ(platform.TakeTold(), "busy 1; busy 0; ");
-      }
-      if (step == '=') replacer.change = "X";
-      if (step >= '0' && step <= '9') replacer.PickRow(static_cast<std::size_t>(step - '0'));
-    }
-    return On({{'f', replacer.find_on},
-               {'r', replacer.change_on},
-               {'c', replacer.case_on},
-               {'l', replacer.lists_on},
-               {'s', replacer.step_on},
-               {'a', replacer.all_on}}) +
-           Number(replacer.found_shown) + '/' + Number(replacer.replaced_shown) + Texts(replacer.find);
+  [[nodiscard]] std::string Term() const { return ToUtf8(search.find); }
+};
+
+struct Finding : Searching<Finder> {
+  static void PickFirst(Searching& s) { s.search.PickHistory(0); }
+  static void PickSecond(Searching& s) { s.search.PickHistory(1); }
+  [[nodiscard]] std::string On() const {
+    return std::string(search.find_on ? "term " : "") + (search.case_on ? "case " : "") +
+           (search.history_on ? "history " : "") + (search.next_on ? "next " : "");
+  }
+  [[nodiscard]] std::string Labels() const { return Shown(search.count) + " at " + Shown(search.position); }
+};
+
+TEST(Find, StepsThroughTheTextOfTheStart) {
+  using F = Finding;
+  const struct {
+    const char *document, *term;
+    std::vector<F::Step> steps;
+    const char *after, *new_term, *labels;
+    const char* on = "term case history ";
+  } cases[] = {
+      {"|aaaa", "", {F::Load}, "|aaaa", "Text", "- at -"},
+      {"a[bc|", "", {F::Load}, "a[bc|", "bc", "- at -"},
+      {"|aaaa", "aa", {F::Start}, "[aa|aa", "aa", "1 at 0", "next "},
+      {"|aaaa", "aa", {F::Start, F::Next}, "a[aa|a", "aa", "2 at 1", "next "},
+      {"|aa", "a", {F::Start, F::Next, F::Next}, "a[a| !", "a", "2 at 1"},       // required: the labels stay
+      {"|aa", "a", {F::Start, F::New}, "[a|a", "a", "1 at 0", "term history "},  // required: case stays off
+      {"a[b|c", "z", {F::Start}, "a[b|c !", "b", "- at -"},
+      {"a[b|c", "z", {F::Start, F::PickFirst, F::PickSecond}, "a[b|c", "z", "- at -"},
+      {"|xx čaj Čaj", "čaj", {F::IgnoreCase, F::Start}, "xx [čaj| Čaj", "ČAJ", "1 at 3", "next "},
+      // Behind the last hit the term is as the document has it. required: in the history it is in upper case.
+      {"|čaj Čaj", "čaj", {F::IgnoreCase, F::Start, F::Next, F::Next}, "čaj [Čaj| !", "Čaj", "2 at 4"},
+      {"|čaj", "čaj", {F::IgnoreCase, F::Start, F::Next, F::PickFirst}, "[čaj|", "ČAJ", "1 at 0"},
+      {"|ab", "", {F::Start, F::Next}, "a|b", "", "2 at 1", "next "},
+      {"|", "", {F::Start}, "| !", "", "- at -"},
+      {"|one¶two", "e\r\ntwo", {F::Start}, "on[e¶two|", "e\r\ntwo", "1 at 2", "next "},
+      {"|one two one", "one", {F::Start, F::OtherText, F::Next}, "short te[xt|", "one", "2 at 8", "next "},
+  };
+  for (const auto& c : cases) {
+    Finding finding;
+    EXPECT_EQ(finding.After(c.document, c.term, c.steps), c.after);
+    EXPECT_EQ(finding.Term(), c.new_term) << c.document << " to " << c.after;
+    EXPECT_EQ(finding.Labels(), c.labels) << c.document << " to " << c.after;
+    EXPECT_EQ(finding.On(), c.on) << c.document << " to " << c.after;
+  }
+}
+
+struct Replacing : Searching<Replacer> {
+  static void Replace(Searching& s) { s.search.Replace(); }
+  static void All(Searching& s) { s.search.ReplaceAll(); }
+  static void PickFirst(Searching& s) { s.search.PickRow(0); }
+  static void PickSecond(Searching& s) { s.search.PickRow(1); }
+  static void ChangeToX(Searching& s) { s.search.change = "X"; }
+  [[nodiscard]] std::string On() const {
+    return std::string(search.find_on ? "term " : "") + (search.change_on ? "change " : "") +
+           (search.case_on ? "case " : "") + (search.lists_on ? "lists " : "") + (search.step_on ? "step " : "") +
+           (search.all_on ? "all " : "");
+  }
+  [[nodiscard]] std::string Labels() const {
+    return Shown(search.found_shown) + " found, " + Shown(search.replaced_shown) + " replaced";
   }
 };
 
-TEST_F(SearchTest, FindStepsThroughASnapshot) {
-  const std::string_view cases[][4] = {
-      {"|aaaa", "", "L", "fch -@- Text |aaaa"},
-      {"a[bc|", "", "L", "fch -@- bc a[bc|"},
-      {"|aaaa", "aa", "S", "n 1@0 aa [aa|aa"},
-      {"|aaaa", "aa", "SN", "n 2@1 aa a[aa|a"},
-      {"|aaaa", "aa", "SNNN", "fch 3@2 aa aa[aa| !3@2"},  // required: the labels stay behind the last one
-      {"|aaaa", "aa", "SNNNSW", "fh 1@0 aa [aa|aa"},      // required: the check mark stays off
-      {"|aaaa", "aa", "SxW", "fh 1@0 Text |short text"},
-      {"a[b|c", "z", "S", "fch -@- b a[b|c !-@-"},
-      {"a[b|c", "z", "S10", "fch -@- z a[b|c"},
-      {"|xx čaj Čaj"_w, "čaj"_w, "iS", "n 1@3 ČAJ xx [čaj| Čaj"_w},
-      {"|xx čaj Čaj"_w, "čaj"_w, "iSNN", "fch 2@7 Čaj xx čaj [Čaj| !2@7"_w},  // as the document has it
-      {"|xx čaj Čaj"_w, "čaj"_w, "iSNN0", "fch 2@7 ČAJ xx čaj [Čaj|"_w},      // required: upper-cased
-      {"|ab", "", "S", "n 1@0  |ab"},
-      {"|ab", "", "SNN", "fch 2@1  a|b !2@1"},
-      {"|", "", "S", "fch -@-  | !-@-"},
-      {"|one\r\ntwo one\r\ntwo", "e\r\ntwo", "S", "n 1@2 e\r\ntwo on[e\r\ntwo| one\r\ntwo"},
-      {"|one\r\ntwo one\r\ntwo", "e\r\ntwo", "SxN", "n 2@11 e\r\ntwo short text|"},  // clipped to the live text
+TEST(Replace, ReadsItsReplacementAgainFromTheSecondCharacterOn) {  // required
+  using R = Replacing;
+  const struct {
+    const char *document, *term, *change;
+    std::vector<R::Step> steps;
+    const char *after, *new_term, *labels;
+    const char* on = "step all ";
+  } cases[] = {
+      {"a[b|c", "", "", {R::Load}, "a[b|c", "b", "- found, - replaced", "term change case lists "},
+      {"|aaa", "aa", "X", {R::Start, R::Next}, "a[aa|", "aa", "2 found, - replaced"},
+      {"|a a a", "a", "ba", {R::Start, R::Replace}, "b[a| a a", "a", "2 found, 1 replaced"},
+      {"|a a a", "a", "ba", {R::Start, R::Replace, R::Next}, "ba [a| a", "a", "3 found, 1 replaced"},
+      {"|a a a", "a", "ba", {R::IgnoreCase, R::Start, R::Replace}, "ba [a| a", "A", "2 found, 1 replaced"},
+      // required: replace all outlives the search
+      {"|a", "a", "X", {R::Start, R::Replace}, "X| !", "a", "1 found, 1 replaced", "term change case lists all "},
+      {"a[b|c", "z", "", {R::Start}, "a[b|c !", "b", "- found, - replaced", "term change case lists all "},
+      {"ab|",
+       "b",
+       "",
+       {R::Start, R::OtherText, R::New},
+       "|short text",
+       "Text",
+       "1 found, - replaced",
+       "term change lists all "},
+      {"|a a", "a", "b", {R::Start, R::OtherText, R::Replace}, "bs[h|ort text", "a", "2 found, 1 replaced"},
+      // required: in the list the term is as it was typed
+      {"|Čaj", "čaj", "x", {R::IgnoreCase, R::Start, R::PickSecond}, "[Čaj|", "ČAJ", "1 found, - replaced"},
+      {"|Čaj", "čaj", "x", {R::IgnoreCase, R::Start, R::PickFirst}, "[Čaj|", "čaj", "1 found, - replaced"},
+      {"|a",
+       "a",
+       "b",
+       {R::Start, R::ChangeToX, R::PickFirst, R::Replace},
+       "b| !",
+       "a",
+       "1 found, 1 replaced",
+       "term change case lists all "},
+      // required: the term in upper case misses them
+      {"|Čaj",
+       "čaj",
+       "x",
+       {R::IgnoreCase, R::Start, R::All},
+       "|Čaj",
+       "ČAJ",
+       "- found, - replaced",
+       "term change lists "},
   };
-  for (const auto& [document, term, steps, shown] : cases)
-    EXPECT_EQ(Finding(document, term, steps), shown) << document << ' ' << steps;
+  for (const auto& c : cases) {
+    Replacing replacing;
+    replacing.search.change = c.change;
+    EXPECT_EQ(replacing.After(c.document, c.term, c.steps), c.after);
+    EXPECT_EQ(replacing.Term(), c.new_term) << c.document << " to " << c.after;
+    EXPECT_EQ(replacing.Labels(), c.labels) << c.document << " to " << c.after;
+    EXPECT_EQ(replacing.On(), c.on) << c.document << " to " << c.after;
+  }
 }
 
-TEST_F(SearchTest, ReplaceReadsItsReplacementAgain) {
-  const std::string_view cases[][5] = {
-      {"a[b|c", "", "", "L", "frcl -/- b a[b|c"},
-      {"|a a a", "a", "ba", "S", "sa 1/- a [a| a a"},
-      {"|a a a", "a", "ba", "SR", "sa 2/1 a b[a| a a"},   // required: the replacement's second character is found again
-      {"|a a a", "a", "ba", "iSR", "sa 2/1 A ba [a| a"},  // it isn't upper-cased
-      {"|a a a", "a", "ba", "SRN", "sa 3/1 a ba [a| a"},
-      {"|aaa", "aa", "X", "SN", "sa 2/- aa a[aa|"},
-      {"|a a a", "a", "ba", "SRN=RR", "frcla 4/3 a ba X X| !4/3"},  // required: replace all outlives the search
-      {"a[b|c", "z", "", "S", "frcla -/- b a[b|c !-/-"},
-      {"|a", "a", "", "SxS", "frcla -/- a |short text !-/-"},
-      {"a[b|c", "b", "", "SxW", "frla 1/- Text |short text"},
-      {"|a a a", "a", "b", "SxR", "sa 2/1 a bs[h|ort text"},
-      {"|Čaj čaj"_w, "čaj"_w, "voda", "iSR", "sa 2/1 ČAJ voda [čaj|"_w},
-      {"|Čaj čaj"_w, "čaj"_w, "voda", "iSA", "frl -/- ČAJ |Čaj čaj"_w},  // required: the folded term misses them
-      {"|Čaj čaj"_w, "čaj"_w, "voda", "iS1", "sa 1/- ČAJ [Čaj| čaj"_w},
-      {"|Čaj čaj"_w, "čaj"_w, "voda", "iS0", "sa 1/- čaj [Čaj| čaj"_w},  // required: as it was typed
-      {"|Čaj čaj"_w, "čaj"_w, "voda", "S=0RA", "frcl -/- čaj |Čaj voda"_w},
-      {"a| b a", "a", "xax", "A", "frcl -/- a |xax b xax"},
-      {"|aaaab", "a", "", "A",
-       "frcl -/- a |\xFF\xFF"
-       "b"},                                          // required: every second of adjacent hits stays
-      {"|x\xFFy", "q", "z", "A", "frcl -/- q |xzy"},  // required: a character 255 of the text goes too
-      {"ab|c", "", "z", "A", "frcl -/-  |abc"},
-      {"|aba", "a", "x\xFF", "A",
-       "frcl -/- a |x\xFF"
+TEST(Replace, AllGoesByCharacter255) {
+  const std::tuple<const char*, const char*, const char*, const char*> cases[] = {
+      {"a b a", "a", "xax", "xax b xax"},
+      {"aaaab", "a", "",
+       "\xFF\xFF"
+       "b"},                        // required: every second of adjacent hits stays
+      {"x\xFFy", "q", "z", "xzy"},  // required: a character 255 of the text goes too
+      {"abc", "", "z", "abc"},
+      {"aba", "a", "x\xFF",
+       "x\xFF"
        "bx\xFF"},  // would never end by the plain rule
   };
-  for (const auto& [document, term, change, steps, shown] : cases)
-    EXPECT_EQ(Replacing(document, term, change, steps), shown) << document << ' ' << steps;
+  for (const auto& [text, term, change, after] : cases) EXPECT_EQ(ReplaceAllByMarker(text, term, change), after);
 }
 
-TEST_F(SearchTest, PrimitiveFindAsksItsWayThroughTheLiveText) {
+struct PrimitiveFindTest : testing::Test {
+  ScriptedPlatform platform;
+  TextBuffer text;
+  const std::string ask = "input \"Vložte prosím text na hledání.\" \"Hledání\" \"ab\"";
+  static std::string Hit(int place) {
+    return "message 36 \"Nalezeno na " + std::to_string(place) + " místě, pokračovat ?\" \"hledání\"";
+  }
+  const std::string end = "message 0 \"Nalezeno 2 X\" \"Hledání\"";
+};
+
+TEST_F(PrimitiveFindTest, AsksAtEachHitUntilNothingIsFound) {
   PutMarked(text, "[ab| ab");
-  platform.inputs = {"ab", std::nullopt};  // a cancel is an empty term
-  platform.answers = {Answer::kYes, Answer::kYes, Answer::kOk, Answer::kOk, Answer::kYes, Answer::kNo, Answer::kOk};
-  const std::string ask = "input \"Vložte prosím text na hledání.\" \"Hledání\" \"ab\"; ";
-  const std::string first = "message 36 \"Nalezeno na 1 místě, pokračovat ?\" \"hledání\"; ";
-  const std::string end = "message 0 \"Nalezeno 2 X\" \"Hledání\"; ";
+  platform.inputs = {"ab"};
+  platform.answers = {Answer::kYes, Answer::kYes, Answer::kOk, Answer::kOk};
   FindPrimitively(text, platform);
-  EXPECT_EQ(platform.TakeTold(),
-            ask + first + "message 36 \"Nalezeno na 4 místě, pokračovat ?\" \"hledání\"; " + kNothingFound + end);
+  EXPECT_EQ(platform.calls, (Calls{ask, Hit(1), Hit(4), kNothingFound, end}));
   EXPECT_EQ(Marked(text), "ab [ab|");
+}
+
+TEST_F(PrimitiveFindTest, ACancelIsAnEmptyTermAndNoEndsTheSearch) {
+  PutMarked(text, "[ab| ab");
+  platform.inputs = {std::nullopt};
+  platform.answers = {Answer::kYes, Answer::kNo, Answer::kOk};
   FindPrimitively(text, platform);
-  EXPECT_EQ(platform.TakeTold(), ask + first + "message 36 \"Nalezeno na 2 místě, pokračovat ?\" \"hledání\"; " + end);
+  EXPECT_EQ(platform.calls, (Calls{ask, Hit(1), Hit(2), end}));
 }
 
 }  // namespace

@@ -1,16 +1,18 @@
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <vector>
 
 #include "support/marked_text.h"
 #include "support/scripted_platform.h"
 #include "support/whole_editor.h"
-#include "text/codepage.h"
 #include "texttools/column_format.h"
 #include "texttools/random_text.h"
 
 namespace pelmar {
 namespace {
+
+using namespace std::string_view_literals;
 
 TEST(TextTools, EachCommandLeavesItsTextAndCalls) {
   using enum Answer;
@@ -19,35 +21,35 @@ TEST(TextTools, EachCommandLeavesItsTextAndCalls) {
     std::string_view before, after;
     const char* calls = "";
     Answer answer = kOk;
+    int reseeds = 0;
   } cases[] = {
-      {"mnusmall", "x[ŘEKA|x"_w, "xřeka|x"_w},
-      {"mnubig", "x[řeka|x"_w, "xŘEKA|x"_w},
+      {"mnusmall", "x[ŘEKA|x", "xřeka|x"},
+      {"mnubig", "x[řeka|x", "xŘEKA|x"},
       {"mnubig", "a|b", "a|b"},  // nothing selected, nothing said
-      {"mnupropercase", "[ŽLUŤOUČKÝ kůň\tčeká\r\nna-dvoře. a\vb\fc\0d|"_w,
-       "Žluťoučký Kůň\tČeká\r\nNa-dvoře. A\vB\fC\0D|"_w},
-      {"mnuprevrat", "x[ab\r\nc|x", "xc\n\rba|x"},
-      {"mnuHackyCarky", "x[Řeka|x"_w, "xReka|x"},
-      {"mnu_untext", "x[řeka|x"_w, "xřeKA|x"_w, "reseed 1"},
+      {"mnupropercase", "[ŽLUŤOUČKÝ kůň\tčeká¶na-dvoře. a\vb\fc\0d|"sv, "Žluťoučký Kůň\tČeká¶Na-dvoře. A\vB\fC\0D|"sv},
+      {"mnuprevrat", "x[ab¶c|x", "xc\n\rba|x"},
+      {"mnuHackyCarky", "x[Řeka|x", "xReka|x"},
+      {"mnu_untext", "x[řeka|x", "xřeKA|x", "", kOk, 1},
 
-      {"Mnu_Sort_Lines", "x[b\r\na\r\n|y", "xa\r\nb\r\n|y", "busy 1; busy 0; "},
-      {"Mnu_Sort_Lines", "[b\r\n\r\na|", "ab\r\n|", "busy 1; busy 0; "},  // required: the end is missing where it was
-      {"Mnu_Sort_Lines", "[b\n\na2\r\nA1\r\na1\r\n|", "\nA1\r\na1\r\na2\r\nb\n|", "busy 1; busy 0; "},
+      {"Mnu_Sort_Lines", "x[b¶a¶|y", "xa¶b¶|y", "busy 1; busy 0; "},
+      {"Mnu_Sort_Lines", "[b¶¶a|", "ab¶|", "busy 1; busy 0; "},  // required: the end is missing where it was
+      {"Mnu_Sort_Lines", "[b\n\na2¶A1¶a1¶|", "\nA1¶a1¶a2¶b\n|", "busy 1; busy 0; "},
       {"Mnu_Sort_Lines", "a|b", "a|b", "busy 1; busy 0; "},
       // required: the last character is lost
-      {"mnuEnterLineNumbers", "[a\r\nb\r\n|", "00001 a\r\n00002 b\r|", "busy 1; busy 0; "},
+      {"mnuEnterLineNumbers", "[a¶b¶|", "00001 a¶00002 b\r|", "busy 1; busy 0; "},
       {"mnuEnterLineNumbers", "[x|", "00001 |", "busy 1; busy 0; "},
       {"mnuEnterLineNumbers", "a|b", "a|b", "busy 1; message 0 \"Vyber text\" \"Očíslování\"; busy 0; "},
-      {"MnuSelTextDivideWordsToLines", "[a\r\nb  c |", "a\r\nb \r\n \r\nc \r\n|", "busy 1; busy 0; "},
-      {"MnuSelTextDivideWordsToLines", "[ab cd|", "ab \r\ncd\r\n|", "busy 1; busy 0; "},
+      {"MnuSelTextDivideWordsToLines", "[a¶b  c |", "a¶b ¶ ¶c ¶|", "busy 1; busy 0; "},
+      {"MnuSelTextDivideWordsToLines", "[ab cd|", "ab ¶cd¶|", "busy 1; busy 0; "},
       {"MnuSelTextDivideWordsToLines", "a|b", "a|b", "busy 1; busy 0; "},
       {"mnucharcount", "[ab\r|\n", "[ab\r|\n", "message 0 \"Počet znaků je : 3 celkem.\" \"Znaky\"; "},
       {"mnucharcount", "|ab", "|ab", "message 0 \"Počet znaků v celém textu je : 2 celkem.\" \"Znaky\"; "},
 
-      {"mnunahslovo", "x[a b|x", "xgn |a bx", "reseed 1"},
-      {"mnunahjmeno", "x|a", "xGn Agntagnt |a", "reseed 1"},
-      {"mnunahtex", "|x", "Gna tgtgtgt. |x", "reseed 1"},
-      {"MnuSelTextDada", "x[a b c d e|x", "xa c d eb |x", "busy 1; busy 0; reseed 1"},
-      {"MnuSelTextDada", "a|b", "a|b", "busy 1; busy 0; reseed 1"},
+      {"mnunahslovo", "x[a b|x", "xgn |a bx", "", kOk, 1},
+      {"mnunahjmeno", "x|a", "xGn Agntagnt |a", "", kOk, 1},
+      {"mnunahtex", "|x", "Gna tgtgtgt. |x", "", kOk, 1},
+      {"MnuSelTextDada", "x[a b c d e|x", "xa c d eb |x", "busy 1; busy 0; ", kOk, 1},
+      {"MnuSelTextDada", "a|b", "a|b", "busy 1; busy 0; ", kOk, 1},
 
       {"mnuadd", "a[bc|d", "aXY|bcd"},  // required: never over the selection
       {"Paste", "a|bc[d", "aXY|bcd"},
@@ -73,79 +75,99 @@ TEST(TextTools, EachCommandLeavesItsTextAndCalls) {
     platform.answers = {c.answer};
     editor.commands.Run(c.command);
     EXPECT_EQ(Marked(editor.text), c.after) << c.command;
-    EXPECT_EQ(platform.TakeTold() + (platform.reseeds > 0 ? "reseed 1" : ""), c.calls) << c.command;
+    EXPECT_EQ(platform.TakeTold(), c.calls) << c.command;
+    EXPECT_EQ(platform.reseeds, c.reseeds) << c.command;
     const bool forgets = std::string_view(c.command) == "mnunewclip";  // required: on No as well
     EXPECT_EQ(editor.documents.CurrentPath(), forgets ? "" : "/a.txt") << c.command;
     EXPECT_EQ(editor.documents.Title() == "Pelmar VEX ()", forgets) << c.command;
   }
 }
 
-// What a generator makes of these draws, which repeat, and how many it takes.
-template <class Generate>
-std::string Made(const Generate& generate, const std::vector<double>& draws) {
+// Gives these draws in turn, again and again.
+struct Drawn {
+  std::vector<double> draws;
   std::size_t taken = 0;
-  const std::string text = generate([&] { return draws[taken++ % draws.size()]; });
-  return std::to_string(taken) + ' ' + text;
-}
+
+  double operator()() { return draws[taken++ % draws.size()]; }
+};
 
 TEST(RandomText, FollowsItsDraws) {
-  EXPECT_EQ(Made(RandomSentence, {0}), "21 Aaaaaaaaaa. ");
-  EXPECT_EQ(Made(RandomSentence, {0, 0, 0, 0.3, 0.9, 0.05, 0.3, 0.3, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0.6}),
-            "23 Aa b, aaaaaaa? ");
-  EXPECT_TRUE(Made(RandomSentence, {0.999}).ends_with("Z" + std::string(49, 'z') + "! "));
-  EXPECT_EQ(Made(RandomWord, {0}), "3 aa ");
-  EXPECT_EQ(Made(RandomWord, {0.999}), "11 zzzzzzzzzz ");
-  EXPECT_EQ(Made(RandomName, {0}), "6 Aa Aa ");
-  EXPECT_EQ(Made(RandomName, {0.999}), "22 Zzzzzzzzzz Zzzzzzzzzz ");
-  const auto shuffle = [](const Draw& draw) { return ShuffledWords("a b\r\n  c", draw); };
-  EXPECT_EQ(Made(shuffle, {0}), "4 a b\r\n  c");
-  EXPECT_EQ(Made(shuffle, {0.999}), "4 c b\r\n a ");  // required: the last word runs into the next one
-  EXPECT_EQ(Made(shuffle, {0.5}), "4  b\r\n ca ");
+  const std::vector<double> lowest{0}, highest{0.999};
+  const std::vector<double> mixed{0, 0, 0, 0.3, 0.9, 0.05, 0.3, 0.3, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0.6};
+  const struct {
+    std::string (*generate)(const Draw&);
+    std::vector<double> draws;
+    std::string text;
+    std::size_t taken;
+  } cases[] = {
+      {RandomSentence, lowest, "Aaaaaaaaaa. ", 21},
+      {RandomSentence, mixed, "Aa b, aaaaaaa? ", 23},
+      {RandomWord, lowest, "aa ", 3},
+      {RandomWord, highest, "zzzzzzzzzz ", 11},
+      {RandomName, lowest, "Aa Aa ", 6},
+      {RandomName, highest, "Zzzzzzzzzz Zzzzzzzzzz ", 22},
+  };
+  for (const auto& c : cases) {
+    Drawn drawn{c.draws};
+    EXPECT_EQ(c.generate(std::ref(drawn)), c.text);
+    EXPECT_EQ(drawn.taken, c.taken) << c.text;
+  }
+  EXPECT_TRUE(RandomSentence([] { return 0.999; }).ends_with("Z" + std::string(49, 'z') + "! "));
 }
 
-std::string Shown(const Rows& rows) {
-  std::string shown;
-  for (const std::string& row : rows) shown += row + '|';
-  return shown;
+TEST(RandomText, ShuffledWordsRunIntoEachOther) {  // required: the last one has no blank
+  const std::pair<double, const char*> cases[] = {{0, "a b\r\n  c"}, {0.999, "c b\r\n a "}, {0.5, " b\r\n ca "}};
+  for (const auto& [draw, shuffled] : cases) {
+    Drawn drawn{{draw}};
+    EXPECT_EQ(ShuffledWords("a b\r\n  c", std::ref(drawn)), shuffled) << draw;
+    EXPECT_EQ(drawn.taken, 4u);
+  }
 }
 
 TEST(ColumnFormat, TheLoadMakesItsRowsAndTellsTheShortest) {
-  const std::pair<std::string_view, std::string> cases[] = {
-      {"", " 0"},
-      {"a", " 1"},  // required: one character gives no row
-      {"ab", "ab| 2"},
-      {"ab\r\ncde", "ab|cde| 2"},
-      {"abc\r\n", "abc|bc\r\n| 4"},  // required: the extra row
-      {"abc\r\nde\r\n", "abc|de|e\r\n| 3"},
-      {"abc\r\n\r\nde", "abc||de| 0"},
-      {"abc\r\n\r\n", "abc|| 3"},           // the walk ends before the line feed of the empty line
-      {"ab\ncd", "cd| 2"},                  // a bare line feed makes no row
-      {"ab\rc\r\n", "ab|b\rc|\rc\r\n| 4"},  // only a line feed ends a line
-      {"ab\r\nd", "ab| 2"},                 // required: a last line of one character gives no row
+  const std::tuple<std::string_view, Rows, std::size_t> cases[] = {
+      {"", {}, 0},
+      {"a", {}, 1},  // required: one character gives no row
+      {"ab", {"ab"}, 2},
+      {"ab\r\ncde", {"ab", "cde"}, 2},
+      {"abc\r\n", {"abc", "bc\r\n"}, 4},  // required: the extra row
+      {"abc\r\nde\r\n", {"abc", "de", "e\r\n"}, 3},
+      {"abc\r\n\r\nde", {"abc", "", "de"}, 0},
+      {"abc\r\n\r\n", {"abc", ""}, 3},              // the walk ends before the line feed of the empty line
+      {"ab\ncd", {"cd"}, 2},                        // a bare line feed makes no row
+      {"ab\rc\r\n", {"ab", "b\rc", "\rc\r\n"}, 4},  // only a line feed ends a line
+      {"ab\r\nd", {"ab"}, 2},                       // required: a last line of one character gives no row
   };
-  for (const auto& [selected, shown] : cases) {
+  for (const auto& [selected, rows, shortest] : cases) {
     const SelectedRows result = RowsOfSelection(selected);
-    EXPECT_EQ(Shown(result.rows) + ' ' + std::to_string(result.shortest), shown) << selected;
+    EXPECT_EQ(result.rows, rows) << selected;
+    EXPECT_EQ(result.shortest, shortest) << selected;
   }
 }
 
 TEST(ColumnFormat, OperationsActAtTheDistance) {
+  const struct {
+    std::size_t distance;
+    Rows insert_from_start, remove_from_start, insert_from_end, remove_from_end;
+  } cases[] = {
+      {0, {"-ab", "-cde", "-", "-x"}, {"b", "de", "", ""}, {"ab-", "cde-", "-", "x-"}, {"a", "cd", "", ""}},
+      {1, {"a-b", "c-de", "", "x-"}, {"a", "ce", "", "x"}, {"a-b", "cd-e", "", "-x"}, {"b", "ce", "", "x"}},
+      {2, {"ab-", "cd-e", "", "x"}, {"ab", "cd", "", "x"}, {"-ab", "c-de", "", "x"}, {"ab", "de", "", "x"}},
+      {3, {"ab", "cde-", "", "x"}, {"ab", "cde", "", "x"}, {"ab", "-cde", "", "x"}, {"ab", "cde", "", "x"}},
+  };
   const auto after = [](auto operation, auto... arguments) {
     Rows rows{"ab", "cde", "", "x"};
     operation(rows, arguments...);
-    return Shown(rows) + ' ';
+    return rows;
   };
-  const std::string_view shown[] = {
-      "-ab|-cde|-|-x| b|de||| ab-|cde-|-|x-| a|cd||| ",
-      "a-b|c-de||x-| a|ce||x| a-b|cd-e||-x| b|ce||x| ",
-      "ab-|cd-e||x| ab|cd||x| -ab|c-de||x| ab|de||x| ",
-      "ab|cde-||x| ab|cde||x| ab|-cde||x| ab|cde||x| ",
-  };
-  for (std::size_t distance = 0; distance < std::size(shown); ++distance)
-    EXPECT_EQ(after(InsertFromStart, distance, "-") + after(RemoveFromStart, distance) +
-                  after(InsertFromEnd, distance, "-") + after(RemoveFromEnd, distance),
-              shown[distance]);
-  EXPECT_EQ(ShortestRow({"abc", "ab", "x"}) + 10 * ShortestRow({}), 1u);
+  for (const auto& c : cases) {
+    EXPECT_EQ(after(InsertFromStart, c.distance, "-"), c.insert_from_start) << c.distance;
+    EXPECT_EQ(after(RemoveFromStart, c.distance), c.remove_from_start) << c.distance;
+    EXPECT_EQ(after(InsertFromEnd, c.distance, "-"), c.insert_from_end) << c.distance;
+    EXPECT_EQ(after(RemoveFromEnd, c.distance), c.remove_from_end) << c.distance;
+  }
+  EXPECT_EQ(ShortestRow({"abc", "ab", "x"}), 1u);
+  EXPECT_EQ(ShortestRow({}), 0u);
 }
 
 }  // namespace

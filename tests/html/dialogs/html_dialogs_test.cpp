@@ -97,8 +97,7 @@ struct HtmlDialogs : testing::Test {
       if (button->isDefault()) button->click();
   }
   void Put(const char* marked) {
-    PutMarked(editor.text,
-              TextFromQString(QString::fromUtf8(marked).replace(QStringLiteral("¶"), QStringLiteral("\r\n"))));
+    PutMarked(editor.text, marked);
     if (std::strchr(marked, '|') == nullptr) editor.text.Select(0, editor.text.Size());
   }
   QString Folded(QString text) {
@@ -106,7 +105,8 @@ struct HtmlDialogs : testing::Test {
         .replace(Utf8ToQString(temp.Path()), QStringLiteral("~"));
   }
   std::string Document() {
-    QString marked = Folded(TextToQString(Marked(editor.text))).replace(QString::fromUtf8(kHead), QStringLiteral("…"));
+    QString marked =
+        Folded(QString::fromStdString(Marked(editor.text))).replace(QString::fromUtf8(kHead), QStringLiteral("…"));
     if (!editor.text.HasSelection() && marked.endsWith(u'|')) marked.chop(1);
     return marked.toStdString();
   }

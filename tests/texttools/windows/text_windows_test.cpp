@@ -35,7 +35,7 @@ struct TextWindowsTest : testing::Test {
 void Enter(const QWidget& dialog) { QTest::keyClick(dialog.focusWidget(), Qt::Key_Return); }
 
 TEST_F(TextWindowsTest, HledaniGoesOnByEnterAndMovesOffWhatItFound) {
-  PutMarked(text, "|jedna dvě jedna"_w);
+  PutMarked(text, "|jedna dvě jedna");
   Hledani dialog(text, platform, shown_match, nullptr);
   dialog.Present();
   ExpectState(dialog, "", "Find=Text Command2='(&Další vyhledaný)' Rozlisovat=1 Label3=");
@@ -45,7 +45,7 @@ TEST_F(TextWindowsTest, HledaniGoesOnByEnterAndMovesOffWhatItFound) {
   ExpectState(dialog, "",
               "Find=(jedna) Command1='(&Start hledání)' Rozlisovat=(1) Command2='&Další vyhledaný' History=(jedna) "
               "Label3=1 Label5=0 Text1='jedna dvě jedna'");
-  EXPECT_EQ(Marked(text), "[jedna| dvě jedna"_w);
+  EXPECT_EQ(Marked(text), "[jedna| dvě jedna");
   EXPECT_TRUE(QTest::qWaitFor([&] { return !dialog.geometry().intersects(match); }));
   Enter(dialog);  // on Command2, though Command4 is the default button
   ExpectState(dialog, "", "Label3=2 Label5=10");
@@ -80,7 +80,7 @@ TEST_F(TextWindowsTest, ZamenaReplacesAndKeepsThePairs) {
   auto* term = Find<TextBox>(dialog, "Find");
   EXPECT_EQ(Marked(term->Buffer()), "[Text|");  // ready to be typed over
   QTest::keyClick(term, Qt::Key_Tab);
-  EXPECT_EQ(Marked(Find<TextBox>(dialog, "Chage")->Buffer()), "[Zaměň|"_w);
+  EXPECT_EQ(Marked(Find<TextBox>(dialog, "Chage")->Buffer()), "[Zaměň|");
   match = QRect(dialog.geometry().center() - QPoint(0, 90), QSize(30, 12));
   ExpectState(dialog, "Find='a\r\nb' Chage=c Command1!",
               "Find=(a\r\nb) Chage=(c) Command1=(&Start) Rozlisovat=(1) History=(a\r\nb) List1=(c) Command2=&Další "
@@ -93,7 +93,7 @@ TEST_F(TextWindowsTest, ZamenaReplacesAndKeepsThePairs) {
   Enter(dialog);  // still on Command5
   EXPECT_EQ(shown, "Label3=2 Label5=1 Find=(a\r\nb)");
   Enter(dialog);  // one too many doesn't replace all
-  EXPECT_EQ(Marked(text), "a\r\nb c|");
+  EXPECT_EQ(Marked(text), "a¶b c|");
   EXPECT_EQ(dialog.focusWidget(), term);
   ExpectState(dialog, "Find='a\r\nb' Command6!", "Command6='(zaměnit &Vše)' Rozlisovat=1 Label3= Label5=");
   EXPECT_EQ(Marked(text), "|c c");
@@ -161,15 +161,15 @@ TEST_F(TextWindowsTest, FormatujWorksOnTheRowsAndWritesThemBack) {
     std::string_view after;
     const char* end = "Command2!";
   } cases[] = {
-      {"x[ab\r\ncde|x", "Hz=9", "List1=ab|cde Label2=2 Label4=2 Hz=2 Label7=2 Label8=0", "xab\r\ncde|x"},
-      {"[ab\r\ncde|", "Hz=1 Text1=- Text1:\r", "List1=a-b|c-de Label2=2 Label4=3 Label7=1", "a-b\r\nc-de|"},
-      {"[ab\r\ncde|", "Hk=1 Text2=č Text2:\r", "List1=ačb|cdče Label4=3 Label8=1", "ačb\r\ncdče|"_w},
-      {"[ab\r\ncde|", "Text1=- Text2=+ Command3! Command4! Hk=9", "List1=-ab+|-cde+ Hk=4", "-ab+\r\n-cde+|"},
-      {"[ab\r\ncde|", "Hz=1 Command6!", "List1=a|ce Label4=1", "a\r\nce|"},
-      {"[ab\r\ncde|", "Hk=1 Command5!", "List1=b|ce Label4=1", "b\r\nce|"},
+      {"x[ab¶cde|x", "Hz=9", "List1=ab|cde Label2=2 Label4=2 Hz=2 Label7=2 Label8=0", "xab¶cde|x"},
+      {"[ab¶cde|", "Hz=1 Text1=- Text1:\r", "List1=a-b|c-de Label2=2 Label4=3 Label7=1", "a-b¶c-de|"},
+      {"[ab¶cde|", "Hk=1 Text2=č Text2:\r", "List1=ačb|cdče Label4=3 Label8=1", "ačb¶cdče|"},
+      {"[ab¶cde|", "Text1=- Text2=+ Command3! Command4! Hk=9", "List1=-ab+|-cde+ Hk=4", "-ab+¶-cde+|"},
+      {"[ab¶cde|", "Hz=1 Command6!", "List1=a|ce Label4=1", "a¶ce|"},
+      {"[ab¶cde|", "Hk=1 Command5!", "List1=b|ce Label4=1", "b¶ce|"},
       // required: what is edited by hand isn't counted anew, and the row behind the last line is there
-      {"[ab\r\ncd\r\n|", "Text3=nobody List1=1 Text3=x", "List1=ab|>x|d\r\n Label2=3 Label4=2", "ab\r\nx\r\nd\r\n|"},
-      {"[ab\r\ncd\r\n|", "List1=2 Text3:z", "Text3=d\r\nz", "ab\r\ncd\r\nd\r\nz|"},
+      {"[ab¶cd¶|", "Text3=nobody List1=1 Text3=x", "List1=ab|>x|d\r\n Label2=3 Label4=2", "ab¶x¶d¶|"},
+      {"[ab¶cd¶|", "List1=2 Text3:z", "Text3=d\r\nz", "ab¶cd¶d¶z|"},
       // required: one character gives no row, and no rows take its place
       {"[a|", "Command3! Command4! Command5! Command6! Hz=9", "List1= Label2=0 Label4=0 Hz=0", "|"},
       {"a|b", "Hz=9 Hk=9", "List1= Label2=0 Label4=0 Hz=0 Hk=0", "a|b"},

@@ -1,0 +1,177 @@
+// The conversions of files: line ends, and between UTF-8 and Windows-1250.
+#include <gtest/gtest.h>
+
+#include <cerrno>
+
+#include "files/encodings.h"
+#include "files/line_ends.h"
+#include "platform/runtime_error.h"
+#include "support/marked_text.h"
+#include "support/random_source.h"
+#include "support/scripted_platform.h"
+
+namespace pelmar {
+namespace {
+
+using enum Answer;
+
+// What a rewriter makes of a text that comes in pieces of any length.
+std::string Rewritten(FileRewriter&& rewriter, std::string_view text, RandomSource& random) {
+  std::string out;
+  while (!text.empty()) {
+    const std::string piece(text.substr(0, 1 + random.Below(30)));
+    out += rewriter.Rewrite(piece);
+    text.remove_prefix(piece.size());
+  }
+  out += rewriter.Finish();
+  return out.substr(0, rewriter.Kept());
+}
+
+TEST(LineEnds, EqualASlowWalkThroughRandomTexts) {
+  RandomSource random(8);
+  for (int round = 0; round < 3000; ++round) {
+    const std::string text = random.Text(90, "a\r\n");
+    std::string unix_text, dos_text;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+      if (text[i] != '\n' || i == 0 || text[i - 1] != '\r') unix_text += text[i] == '\r' ? '\n' : text[i];
+      dos_text += text[i] == '\n' ? "\r\n" : std::string(1, text[i]);
+    }
+    if (!unix_text.empty() && unix_text.back() != '\n') unix_text += '\n';
+    dos_text.resize(dos_text.rfind('\n') + 1);  // required: what stands behind the last line feed is lost
+    ASSERT_EQ(Rewritten(ToLineFeeds(), text, random), unix_text) << text;
+    ASSERT_EQ(Rewritten(ToCrLf(), text, random), dos_text) << text;
+  }
+}
+
+// required: a path is cut at its first full stop, be it a folder's
+TEST(LineEnds, TheTargetIsThePathUpToItsFirstDot) {
+  EXPECT_EQ(ConvertedPath("/a.b.txt", "unx"), "/a.unx");
+  EXPECT_EQ(ConvertedPath("/folder.d/lines.txt", "dos"), "/folder.dos");
+  EXPECT_EQ(ConvertedPath("/name", "unx"), "unx");
+}
+
+struct ConversionTest : testing::Test {
+  ScriptedPlatform platform;
+
+  // The text of the only message of a conversion.
+  template <class Convert>
+  std::string Message(const Convert& convert, const std::deque<Answer>& answers = {kOk}) {
+    platform.answers = answers;
+    std::vector<std::string> messages;
+    platform.TakeCalls();
+    convert();
+    EXPECT_EQ(platform.busy, 0);
+    for (const std::string& call : platform.TakeCalls())
+      if (call.starts_with("message")) messages.push_back(call);
+    if (messages.size() != 1) return std::to_string(messages.size()) + " messages";
+    const std::string title = " \"Konverze UNIX <-> DOS\"";
+    EXPECT_TRUE(messages[0].ends_with(title));
+    return FoldLineEnds(messages[0].substr(0, messages[0].size() - title.size()));
+  }
+  std::string OfPage(const std::string& path, Answer answer = kOk) {
+    return Message([&] { ConvertToPage(platform, path); }, {answer});
+  }
+  std::string OfUtf8(const std::string& path, Answer answer = kOk) {
+    return Message([&] { ConvertToUtf8(platform, path, false); }, {answer});
+  }
+};
+
+TEST_F(ConversionTest, ToUnixKeepsTheTailOfALongerOldFileAndToDosDoesNot) {  // required
+  platform.files = {{"/a.txt", "a\nb"}, {"/a.unx", "0123456789"}, {"/a.dos", "0123456789"}};
+  ConvertToUnix(platform, "/a.txt");
+  EXPECT_EQ(platform.files["/a.unx"], "a\nb\n456789");
+  ConvertToDos(platform, "/a.txt");
+  EXPECT_EQ(platform.files["/a.dos"], "a\r\n");
+  EXPECT_EQ(platform.calls, (std::vector<std::string>{"busy 1", "rewrite /a.txt /a.unx", "busy 0", "busy 1",
+                                                      "rewrite /a.txt /a.dos", "busy 0"}));
+}
+
+TEST_F(ConversionTest, AFileIsNeverWrittenOverItself) {
+  platform.files = {{"/a.unx", "a"}, {"/a.1250", "a"}, {"/a.utf8", "a"}};
+  const std::string told = "message 0 \"Výsledek by přepsal převáděný soubor:¶";
+  EXPECT_EQ(Message([&] { ConvertToUnix(platform, "/a.unx"); }), told + "/a.unx\"");
+  EXPECT_EQ(OfPage("/a.1250"), told + "/a.1250\"");
+  EXPECT_EQ(OfUtf8("/a.utf8"), told + "/a.utf8\"");
+}
+
+TEST_F(ConversionTest, AFailureNamesTheFileAndWhereTheOldContentIs) {
+  platform.files["/full.utf8"] = "a";
+  for (const char* full : {"/full.1250", "/full.dos"}) platform.write_errors[full] = ENOSPC;
+  platform.kept_content = "/kept";
+  const std::string told = "message 0 \"Soubor se nepodařilo převést!¶Soubor: ";
+  const std::string missing = "Kód chyby 2: soubor nebo složka neexistuje\"";
+  EXPECT_EQ(OfPage("/no"), told + "/no¶" + missing);
+  EXPECT_EQ(OfUtf8("/no"), told + "/no¶" + missing);
+  const std::string damaged = "na disku není místo¶Soubor je poškozen, jeho původní obsah leží v /kept";
+  EXPECT_EQ(OfPage("/full.utf8"), told + "/full.1250¶Kód chyby 28: " + damaged + '"');
+  try {
+    ConvertToDos(platform, "/full.utf8");
+    ADD_FAILURE() << "no error";
+  } catch (const RuntimeError& error) {
+    EXPECT_EQ(error.Number(), ENOSPC);
+    EXPECT_EQ(FoldLineEnds(error.what()), "Konverze souboru /full.utf8 do /full.dos: " + damaged);
+  }
+  EXPECT_EQ(platform.busy, 0);
+  EXPECT_THROW(ConvertToUnix(platform, "/no.txt"), RuntimeError);
+}
+
+TEST_F(ConversionTest, BytesThatAreNoUtf8AreToldByTheirPlace) {
+  const std::pair<const char*, const char*> cases[] = {
+      {"\xE8", "řádek 1, sloupec 1, bajt 1"},
+      {"\xEF\xBB\xBFůů\xC5", "řádek 1, sloupec 3, bajt 8"},  // the byte order mark is no column
+      {"a\r\nb\rc\n\nůx\xC5y", "řádek 5, sloupec 3, bajt 12"},
+  };
+  for (const auto& [bytes, place] : cases) {
+    platform.files = {{"/bad.txt", bytes}};
+    EXPECT_EQ(OfPage("/bad.txt"),
+              std::string("message 0 \"Soubor /bad.txt není v UTF-8:¶") + place + ".¶Nic nebylo zapsáno.\"");
+    EXPECT_FALSE(platform.files.contains("/bad.1250"));
+  }
+}
+
+TEST_F(ConversionTest, CharactersOutsideThePageAreAskedAbout) {
+  const std::pair<const char*, const char*> cases[] = {
+      {"ů\n→?😀\xC2\x85", "3.¶První je → (U+2192): řádek 2, sloupec 1, bajt 4."},
+      {"\xC2\x85", "1.¶První je U+0085: řádek 1, sloupec 1, bajt 1."},  // a control character doesn't show
+      {"😀", "1.¶První je 😀 (U+1F600): řádek 1, sloupec 1, bajt 1."},
+  };
+  for (const auto& [text, told] : cases) {
+    platform.files = {{"/a.txt", text}};
+    EXPECT_EQ(OfPage("/a.txt", kNo),
+              std::string("message 52 \"Soubor /a.txt obsahuje znaky, které ve Windows-1250 nejsou, celkem ") + told +
+                  "¶¶Zapsat místo nich \"?\" ?\"");
+    EXPECT_FALSE(platform.files.contains("/a.1250"));
+  }
+  platform.files = {{"/a.txt", "ů\n→?"}};
+  OfPage("/a.txt", kYes);
+  EXPECT_EQ(platform.files["/a.1250"], "\xF9\n??");
+}
+
+TEST_F(ConversionTest, AnyTextGoesThereAndBackBesideItsFile) {
+  RandomSource random(3);
+  const std::pair<const char*, const char*> stems[] = {
+      {"/a.d/b.c.txt", "/a.d/b.c."}, {"/a.d/b", "/a.d/b."}, {"/a/.rc", "/a/.rc."}, {"b.", "b."}};
+  for (int round = 0; round < 400; ++round) {
+    const std::string page = round % 2 ? random.Bytes(12) : random.Text(12, "k\xF9\xF2\r\n\x80?");
+    const bool mark = round % 3 == 0;
+    const std::string utf8 = (mark ? "\xEF\xBB\xBF" : "") + ToUtf8(page);
+    const auto& [path, stem] = stems[round % 4];
+    platform.answers.assign(1, kYes);  // where the bytes look like UTF-8 already
+    platform.files = {{path, page}};
+    ConvertToUtf8(platform, path, mark);
+    ASSERT_EQ(platform.files[stem + std::string("utf8")], utf8);
+    platform.files = {{path, utf8}};
+    ConvertToPage(platform, path);
+    ASSERT_EQ(platform.files[stem + std::string("1250")], page);
+  }
+}
+
+TEST(Encodings, OfOtherSystemsAreTold) {
+  const std::pair<std::string_view, std::string_view> cases[] = {
+      {"\xC5\xBE\n", "Soubor je v UTF-8"}, {"\na", "Řádky končí"}, {"a\r\n\n", "Část řádků"}};
+  for (const auto& [text, told] : cases) EXPECT_TRUE(FormatHint(text).starts_with(told)) << text;
+  EXPECT_EQ(FormatHint("\xBE\r\na\r"), "");
+}
+
+}  // namespace
+}  // namespace pelmar

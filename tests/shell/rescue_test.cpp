@@ -1,0 +1,78 @@
+// The files that keep unsaved work for a start after a crash.
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "platform/files/lock_file.h"
+#include "shell/rescue_file.h"
+#include "shell/rescue_store.h"
+#include "support/temp_folder.h"
+
+namespace pelmar {
+namespace {
+
+constexpr std::string_view kPrefix = kDocumentsRescue.prefix;
+
+struct RescueStoreTest : testing::Test {
+  TempFolder temp;
+  const std::string folder = temp.Path() + "/";
+
+  static RescueStore StoreIn(const std::string& folder) {
+    return RescueStore(folder, kPrefix, [](const std::string& path, std::string_view bytes) {
+      std::ofstream(path, std::ios::binary) << bytes;
+      return 0;
+    });
+  }
+  [[nodiscard]] std::vector<std::string> Found() const {
+    LockFile offer;
+    return FindAbandoned(folder, kPrefix, offer);
+  }
+};
+
+TEST_F(RescueStoreTest, AnOrdinaryEndLeavesNothingAndALivingCopysFileIsNobodyElses) {
+  RescueStore store = StoreIn(folder);
+  for (const char* kept : {"one", "two", "", "again"}) {
+    EXPECT_EQ(store.Keep(kept), 0);
+    EXPECT_EQ(Content(store.Path()), *kept == '\0' ? "<missing>" : kept);
+    EXPECT_EQ(std::filesystem::is_empty(folder), *kept == '\0') << kept;
+    EXPECT_TRUE(Found().empty());
+  }
+  EXPECT_NE(StoreIn("/nonexistent/folder/").Keep("x"), 0);
+}
+
+TEST_F(RescueStoreTest, WhatADeadCopyKeptIsOfferedByOneCopyAtATime) {
+  const pid_t child = ::fork();
+  if (child == 0) {
+    RescueStore store = StoreIn(folder);
+    store.Keep("lost");
+    ::_exit(0);
+  }
+  ::waitpid(child, nullptr, 0);
+  EXPECT_EQ(Found().size(), 1u);
+  LockFile offer;
+  const std::vector<std::string> found = FindAbandoned(folder, kPrefix, offer);
+  ASSERT_EQ(found.size(), 1u);
+  EXPECT_EQ(Content(found[0]), "lost");
+  EXPECT_TRUE(Found().empty());
+  std::filesystem::remove(found[0]);
+  offer.Release();
+  EXPECT_TRUE(Found().empty());
+  EXPECT_TRUE(std::filesystem::is_empty(folder));
+}
+
+TEST(RescueFile, ReadsWhatWasWrittenWholeAndOfItsKindAlone) {
+  const RescueRecord record{2, {{2, "/x", std::string(300, 'y')}, {5, "", "z"}}};
+  const std::string bytes = RescueBytes(kNotesRescue, record);
+  EXPECT_EQ(ReadRescue(kNotesRescue, bytes), record);
+  EXPECT_FALSE(ReadRescue(kDocumentsRescue, bytes));
+  EXPECT_EQ(RescueBytes(kNotesRescue, {2, {}}), "");
+  for (std::size_t at = 0; at < bytes.size(); ++at) {
+    EXPECT_FALSE(ReadRescue(kNotesRescue, std::string_view(bytes).substr(0, at))) << at;
+    std::string damaged = bytes;
+    damaged[at] = static_cast<char>(damaged[at] ^ 0x20);
+    EXPECT_FALSE(ReadRescue(kNotesRescue, damaged)) << at;
+  }
+}
+
+}  // namespace
+}  // namespace pelmar

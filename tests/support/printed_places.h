@@ -1,0 +1,14 @@
+// Lets a failing comparison of places print them.
+#pragma once
+
+#include <ostream>
+
+#include "platform/twips.h"
+
+namespace pelmar {
+
+inline void PrintTo(const TwipsRect& place, std::ostream* out) {
+  *out << place.width << 'x' << place.height << " at " << place.left << ',' << place.top;
+}
+
+}  // namespace pelmar
