@@ -1,5 +1,4 @@
-// Measures the character analysis of 64,000 characters: counting, ranking, listing and drawing. Limit: 5 ms in total.
-// Runs offscreen.
+// Measures counting, ranking, listing and drawing 64,000 characters, offscreen. Limit: 5 ms in total.
 #include <benchmark/benchmark.h>
 
 #include <QApplication>

@@ -31,8 +31,7 @@ bool HasDisplay() {
          qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
 }
 
-// Handles messages while the toolkit looks for a display. On the toolkit's fatal English message, prints a Czech one
-// and ends the program.
+// While the toolkit looks for a display, replaces its fatal English message by a Czech one and ends the program.
 void EndWithoutDisplay(QtMsgType type, const QMessageLogContext& context, const QString& text) {
   if (type != QtFatalMsg) {
     std::fputs(qPrintable(qFormatLogMessage(type, context, text) + u'\n'), stderr);

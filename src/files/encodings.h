@@ -19,8 +19,7 @@ std::string_view MixHint();
 // The question before such a mixed text is written over the UTF-8 file at `path`.
 std::string MixQuestion(const std::string& path);
 
-// A position in a file; byte, line and column count from 1. CR LF, CR and LF end a line. Columns count characters,
-// without the byte order mark.
+// A position in a file; numbers count from 1. CR LF, CR and LF end a line. A byte order mark is no column.
 struct FilePlace {
   std::uint64_t byte = 1, line = 1, column = 1;
 };
@@ -78,8 +77,7 @@ class PageToUtf8 : public FileRewriter {
 // Replaces the extension of the file name. A name without an extension, such as ".profile", gets one appended.
 std::string PathBeside(std::string_view path, std::string_view extension);
 
-// Failures are reported, and so is a target that is the source file. An existing target is overwritten only after a
-// question.
+// Reports failures, and a target that is the source file. Asks before an existing target is overwritten.
 void ConvertToPage(Platform& platform, const std::string& path);                        // "1250"
 void ConvertToUtf8(Platform& platform, const std::string& path, bool byte_order_mark);  // "utf8"
 

@@ -24,8 +24,7 @@ class ToLineFeeds : public FileRewriter {
   bool in_line_ = false;   // the last line has no end yet
 };
 
-// Each LF becomes CR LF. A CR before the LF is kept, so CR LF becomes CR CR LF. required: text after the last LF is
-// lost.
+// Each LF becomes CR LF, also in CR LF, which becomes CR CR LF. required: text after the last LF is lost.
 class ToCrLf : public FileRewriter {
  public:
   std::string_view Rewrite(std::string_view piece) override;
@@ -48,8 +47,7 @@ bool IsOwnSource(Platform& platform, const std::string& path, const std::string&
 // path without "." gives the bare extension, a file in the current folder.
 std::string ConvertedPath(std::string_view path, std::string_view extension);
 
-// Both throw RuntimeError if a file can't be read or written. A target that is the source file is reported and not
-// written.
+// Both throw RuntimeError if a file fails. A target that is the source file is reported and isn't written.
 void ConvertToUnix(Platform& platform, const std::string& path);  // "unx"; required: a longer old target keeps its tail
 void ConvertToDos(Platform& platform, const std::string& path);   // "dos"
 

@@ -1,6 +1,5 @@
-// Remembers the state of each document's file when this program opened or saved it: its stamp and whether it was in
-// UTF-8. So the status bar can report that another program, or another tab, wrote or removed the file. Nothing is
-// reloaded.
+// Remembers the stamp of each document's file when this program opened or saved it, and whether the file was in UTF-8.
+// So the status bar can report that another program, or another tab, wrote or removed the file. Nothing is reloaded.
 #pragma once
 
 #include <array>

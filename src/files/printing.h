@@ -12,8 +12,7 @@ namespace pelmar {
 
 struct Editor;
 
-// A piece of text on a sheet of paper. `x` is measured from the start of its line. Lines count from 0 through all
-// sheets.
+// A piece of text on paper. `x` is measured from the start of its line. Lines count from 0 through all sheets of paper.
 struct PrintedPiece {
   std::size_t line = 0;
   double x = 0;

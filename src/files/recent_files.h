@@ -1,5 +1,4 @@
-// The ten recent files, shown by the toolbar's "Recent" and stored in the settings. Entries count from 1, newest first.
-// Paths are UTF-8.
+// The ten recent files of the toolbar's "Recent" and the settings. Entries count from 1, newest first. Paths are UTF-8.
 #pragma once
 
 #include <string>

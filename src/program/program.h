@@ -1,5 +1,4 @@
-// Puts the program together: platform, editor, main window, session, timer, rescue and the other windows. Only this
-// class knows all of them.
+// Puts the program together: platform, editor, main window, session, timer, rescue and the other windows.
 #pragma once
 
 #include <memory>
@@ -60,8 +59,8 @@ class Program {
   WindowRegistry windows_;  // last, because its windows use all members above
 };
 
-// The command-line arguments joined by blanks. The relative path of an existing file becomes absolute, without "." and
-// ".." where possible.
+// The command-line arguments joined by blanks. The relative path of an existing file becomes absolute, if possible
+// without "." and "..".
 std::string CommandTail(const QStringList& arguments);
 
 }  // namespace pelmar

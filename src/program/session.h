@@ -33,8 +33,8 @@ class Session {
   // Shows the window, or opens the file, that the command line names.
   void Act(std::string_view tail);
 
-  // Writes the files, then asks if there are unsaved changes. False if the person doesn't want to close. Throws
-  // RuntimeError if a file can't be written.
+  // Writes the files, then asks about unsaved changes. False if the person doesn't want to close. Throws RuntimeError
+  // if a file can't be written.
   bool Close();
 
   // Writes the settings file. The window's state changes only in Close.

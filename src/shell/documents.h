@@ -1,7 +1,6 @@
 // The five documents, which share one text box. required: the four places that hold a document's state may disagree.
 // The box holds the current text, `current path` its path, a tab's tool tip the path restored by a switch to the tab,
-// and the title's "*" the mark for unsaved changes. Tabs count from 1. Paths, captions and the title are UTF-8, texts
-// Windows-1250.
+// and the title's "*" the mark for unsaved changes. Tabs count from 1. Texts are Windows-1250, all other strings UTF-8.
 #pragma once
 
 #include <array>

@@ -52,8 +52,7 @@ std::string KeptNotice(const WriteOutcome& outcome);
 
 // The functions below access the program's own files and use the file number. All throw RuntimeError if a step fails.
 void WriteFileOn(FileNumber& number, Platform& platform, const std::string& path, std::string_view bytes);
-// Writes the record over the start of the file and keeps the tail of a longer old file. An unreadable file isn't
-// overwritten.
+// Overwrites the start of the file and keeps the tail of a longer old file. Never overwrites an unreadable file.
 void WriteRecordOn(FileNumber& number, Platform& platform, const std::string& path, std::string record);
 // Reads at most `limit` bytes. A missing file is created empty.
 std::string ReadOrMakeOn(FileNumber& number, Platform& platform, const std::string& path, std::uint64_t limit);

@@ -25,8 +25,7 @@ struct ProfileComplaint {
 };
 ProfileComplaint CheckProfile(const ProfileFields& fields);
 
-// Stores name, address and password. required: without the check mark the password is stored without comparing its
-// repetition.
+// Stores name, address and password. required: without the check mark the password is stored without a comparison.
 void StoreProfile(const ProfileFields& fields, SettingsRecord& settings);
 
 }  // namespace pelmar

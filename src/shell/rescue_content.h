@@ -1,5 +1,4 @@
-// The interface between the rescue and the content it protects, either documents or notes: collects unsaved texts and
-// brings them back after a crash.
+// The content that the rescue protects, documents or notes: collects unsaved texts and brings them back after a crash.
 #pragma once
 
 #include <string>

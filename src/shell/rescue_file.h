@@ -1,6 +1,6 @@
-// The format of a rescue file, which holds the unsaved documents or notes of one running copy of the program. After a
-// crash or a power loss the texts are read from this file. The format is binary with a signature and a checksum; other
-// bytes are refused.
+// The format of a rescue file, which holds the unsaved documents or notes of one running copy of the program. A later
+// start reads the file after a crash or a power loss. The bytes have a signature and a checksum; other bytes are
+// refused.
 #pragma once
 
 #include <optional>

@@ -1,6 +1,5 @@
-// Rescue files on disk, in the install folder. Each running copy of the program has one file for documents and one for
-// notes. The copy holds a lock for each, so that no other copy takes the file for abandoned. Writes are atomic. Call
-// from one thread at a time.
+// Rescue files in the install folder. Each running copy of the program has one file for documents and one for notes,
+// and locks both, so that no other copy takes a file for abandoned. Writes are atomic. Call from one thread at a time.
 #pragma once
 
 #include <functional>
@@ -17,8 +16,7 @@ class RescueStore {
   // Returns 0 or errno, like Platform::WritePrivateFile.
   using WriteFile = std::function<int(const std::string& path, std::string_view bytes)>;
 
-  // `folder` ends in a separator and is used from the first Keep on. The file name begins with `prefix`, which is
-  // different for documents and notes.
+  // `folder` ends in a separator and is used from the first Keep on. The file name begins with `prefix`.
   RescueStore(std::string folder, std::string_view prefix, WriteFile write);
   RescueStore(const RescueStore&) = delete;
   RescueStore& operator=(const RescueStore&) = delete;

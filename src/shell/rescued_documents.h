@@ -18,8 +18,7 @@ RescueRecord UnsavedDocuments(const Documents& documents);
 // used. Returns the documents for which there was no tab.
 std::vector<RescuedText> BringBackDocuments(Documents& documents, const std::vector<RescueRecord>& records);
 
-// A document in a text file for a person to read: a line with the path, then the text. A path that Windows-1250 can't
-// hold is written in UTF-8.
+// A document for a person to read: a line with the path, then the text. A path beyond Windows-1250 is written in UTF-8.
 std::string ReadableDocument(std::string_view path, std::string_view text);
 std::string ReadableDocuments(const std::vector<RescuedText>& documents);
 

@@ -7,8 +7,8 @@
 
 namespace pelmar {
 
-// The text to print for the arguments after the program's name, UTF-8; the program then ends. Nothing unless the only
-// argument is one of the two switches.
+// The text to print if the only argument after the program's name is one of the two switches, UTF-8; otherwise nothing.
+// After the text the program ends.
 std::optional<std::string_view> TerminalAnswer(std::span<char* const> arguments);
 
 }  // namespace pelmar

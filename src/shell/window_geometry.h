@@ -15,8 +15,7 @@ inline constexpr int kPanelCount = 7;
 // gets the screen's width or height. The screen needn't begin at 0, 0.
 TwipsRect Snap(TwipsRect window, int distance, const TwipsRect& screen);
 
-// Limits the requests to move a window. A window manager ignores requests while it moves the window, and some never let
-// a program place its windows.
+// Limits the requests to move a window, because some window managers ignore such requests, briefly or always.
 class PlaceRequests {
  public:
   // False if a window at `now` ignored too many requests to go to `wanted`.

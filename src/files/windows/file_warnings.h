@@ -1,6 +1,5 @@
 // Hints in the status bar about the document's text and file. A hint about a text that is too long or in two encodings
-// stays until the text is corrected. A hint about a changed file, UTF-8 or other line ends stays until the text
-// changes.
+// stays until the text is corrected; a hint about a changed file, UTF-8 or line ends stays until the text changes.
 #pragma once
 
 #include <QObject>

@@ -36,8 +36,7 @@ struct Doors {
   std::function<void()> store_settings;  // stores all but the window's state
   std::function<StartMode()> mode;
   std::function<bool()> closed;  // the program is ending and the settings are already stored
-  // Shows a file in the internal browser. The path is UTF-8; an empty path does nothing. The browser sets this
-  // function.
+  // Shows a file in the internal browser, which sets this function. The path is UTF-8; an empty path does nothing.
   std::function<void(const std::string& path)> show_in_browser;
   // Asks for a colour, with the given one as the initial choice. The colour dialog sets this function.
   std::function<Color(Color)> pick_color;

@@ -105,8 +105,7 @@ void RescueKeeper::ReportFailure(int error) {
   if (std::exchange(failure_, error) != error && on_failure) on_failure(error);
 }
 
-// Call after the restored texts are written. Writes the remaining texts to a text file, then removes the old rescue
-// files.
+// Call after the restored texts are written. Writes the others to a text file, then removes the old rescue files.
 void RescueKeeper::RemoveOldFiles() {
   if (owed_.files.empty()) return;
   if (!owed_.rest.empty()) {
@@ -170,8 +169,7 @@ void RescueKeeper::End() {
 std::vector<RescueRecord> RescueKeeper::ReadAbandoned(std::vector<std::string>& files) {
   std::vector<RescueRecord> records;
   std::vector<RescuedText> seen;
-  // A text is in two files if a copy of the program crashed after it kept a restored text but before it removed the old
-  // file.
+  // A text is in two files if a copy of the program crashed between keeping the text and removing the old file.
   const auto superfluous = [&](const RescuedText& text) {
     if (content_.IsHere(text) || std::ranges::find(seen, text) != seen.end()) return true;
     seen.push_back(text);

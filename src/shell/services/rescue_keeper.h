@@ -1,6 +1,5 @@
 // Writes unsaved documents or notes to this copy's rescue file within two seconds of a change, in a thread of its own.
-// After a crash, offers the texts from the rescue files of crashed copies, and removes these files once all texts are
-// on disk again.
+// Offers the texts of crashed copies, and removes their rescue files once all texts are on disk again.
 #pragma once
 
 #include <QObject>
@@ -32,8 +31,7 @@ class RescueKeeper : public QObject {
 
   // Call after a change. The rescue file is written within two seconds.
   void KeepSoon();
-  // Writes at once in the calling thread. If the install folder can't be written, writes a text file for a person into
-  // the temporary folder.
+  // Writes at once in the calling thread. If this fails, writes a readable file into the temporary folder.
   Kept KeepNow();
   // The notice for a person when an error ends the program, UTF-8; "" if there was nothing to keep.
   [[nodiscard]] std::string NoticeOf(const Kept& kept) const;

@@ -1,5 +1,4 @@
-// The dialog that selects and orders the buttons of the toolbar. Changes apply at once and are lost when the program
-// ends.
+// The dialog that selects and orders the toolbar's buttons. Changes apply at once and are lost at the program's end.
 #pragma once
 
 #include "platform/qt/controls/dialog_window.h"

@@ -1,5 +1,4 @@
-// The about window `O` shows the version, the user, the notes of this version, and a name whose letters change under
-// the mouse.
+// The about window `O`: version, user, notes of this version, and a name whose letters change under the mouse.
 #pragma once
 
 #include "platform/platform.h"

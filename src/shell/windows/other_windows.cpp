@@ -11,8 +11,7 @@ namespace {
 
 constexpr char kAway[] = "PelmarAway";
 
-// Describes a hidden window to assistive technology by its title alone. Without this class the toolkit still lists
-// hidden windows with all their content.
+// Describes a hidden window to assistive technology by its title alone. The toolkit would list all its content.
 class EmptyWindow : public QAccessibleObject {
  public:
   using QAccessibleObject::QAccessibleObject;

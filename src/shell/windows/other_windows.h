@@ -8,8 +8,7 @@
 
 namespace pelmar {
 
-// The windows get no event about being hidden or shown, so they return unchanged and don't reload their content. A
-// window destroyed in between isn't shown again.
+// The windows get no events, so they return unchanged. A window destroyed in between isn't shown again.
 class OtherWindowsAway : public QObject {
  public:
   // Hides every visible window except `staying`.

@@ -1,5 +1,4 @@
-// The lock `Pass`: a modal dialog without a close box that keeps the documents out of reach until the password is
-// right.
+// The lock `Pass`: a modal dialog without a close box that hides the documents until the password is right.
 #pragma once
 
 #include <functional>

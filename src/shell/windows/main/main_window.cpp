@@ -173,8 +173,7 @@ LayoutInput MainWindow::Measures() const {
 }
 
 void MainWindow::ApplyLayout() {
-  // Until the window has its final size, start from width 0 each time. Otherwise a change of few pixels would make the
-  // width of panel 4 alternate from the start.
+  // Until the first tick, panel 4 starts from 0. Otherwise a size changed by few pixels would make its width alternate.
   if (!ticked_) bar_->SetWidth(4, 0);
   const LayoutInput in = Measures();
   const LayoutResult out = ComputeLayout(in);
@@ -241,8 +240,7 @@ WindowMode MainWindow::WindowState() const {
   return isMaximized() ? WindowMode::kMaximised : WindowMode::kNormal;
 }
 
-// A window manager may give a normal window another frame than a maximised one, and reports the frame only later. Sizes
-// requested before that are corrected then.
+// The window manager may report another frame only after the change of state. Outer sizes are corrected then.
 void MainWindow::SetNormalState() {
   if (!isMaximized() && !isMinimized()) return;
   placement_.Begin(windowHandle()->frameMargins());

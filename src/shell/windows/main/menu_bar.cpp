@@ -168,8 +168,7 @@ bool MenuBar::eventFilter(QObject* watched, QEvent* event) {
   return true;
 }
 
-// Sends Escape to close the menus one after the other. The last Escape, which leaves the menu bar, is sent only after
-// the bar has handled the Alt key.
+// Closes the menus with Escape. The last Escape leaves the menu bar, but only after the bar has handled the Alt key.
 void MenuBar::CloseMenus() {
   QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
   constexpr int kDeepest = 4;
