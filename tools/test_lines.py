@@ -1,9 +1,8 @@
 #!/usr/bin/env python3
 """Compares the lines of tests with the lines of code in each folder: test_lines.py [ROOT]
 
-Code is in the .h and .cpp files of src/. Every file of tests/ counts as tests, kept outputs and pages too, but no
-pictures. A folder of tests belongs to the folder of src with the same name. Exits with status 1 if the tests have more
-lines than LIMIT percent of the code.
+Code: .h and .cpp files of src/. Tests: .h, .cpp, .py and .sh files of tests/, in folders with the same names.
+Exits with status 1 if the tests have more than LIMIT percent of the code's lines.
 """
 import collections
 import pathlib

@@ -52,7 +52,7 @@ bool Survey(Platform& platform, const std::string& path, Utf8Survey& survey) {
   return error == 0;
 }
 
-// False if the target is the source, or if the person refuses to overwrite it.
+// False if the target is the source, or if the person refuses to overwrite the target.
 bool MayWrite(Platform& platform, const std::string& path, const std::string& target) {
   return !IsOwnSource(platform, path, target) &&
          (!platform.CanRead(target) || Agreed(platform, OverwriteQuestion(target)));

@@ -30,7 +30,7 @@ void Opener::OpenPath(const std::string& path) {
   }
   file_number_.Open();
   outside_.Note(path, stamp, LooksLikeUtf8(file.bytes));
-  documents_.MakeCurrent(path, std::move(file.bytes));  // required: its error leaves file number 1 open
+  documents_.MakeCurrent(path, std::move(file.bytes));  // required: an error here leaves file number 1 open
   recent_.Remember(path);
   file_number_.Close();
 }

@@ -22,7 +22,7 @@ struct PrintedPiece {
 
 // Lays out words, separated by blanks, on lines of `page_width`. `end_of` returns where a text without line breaks that
 // starts at x ends. The pieces point into `text`. required: the width of eight "Z" stays free at the right; a word that
-// doesn't fit starts a new line, even after an empty one, and isn't broken.
+// doesn't fit starts a new line, even if the current line is empty, and isn't broken.
 std::vector<PrintedPiece> LayOutForPrint(std::string_view text, double page_width,
                                          const std::function<double(double x, std::string_view text)>& end_of);
 

@@ -18,7 +18,7 @@ class DirSetup : public FormDialog<Ui::DirSetup> {
   Q_OBJECT
 
  public:
-  // Each entry creates its dialog when called, and returns the dialog's folder browser.
+  // Each function of `dialogs` creates its dialog and returns the dialog's folder browser.
   DirSetup(const std::vector<std::function<FolderBrowser()>>& dialogs, QWidget* parent);
 
  private:
