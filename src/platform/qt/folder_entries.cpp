@@ -48,7 +48,8 @@ bool LiesInHidden(const QString& path) { return path.contains(QLatin1String("/."
 
 enum class Kind { kFolders, kFiles };
 
-// Only a link, or where the file system keeps no kinds, costs a look at the file itself.
+// The sorted names that `wanted` accepts. A file itself is examined only if the file is a link or if the file system
+// doesn't store kinds in folders.
 QStringList NamesOf(const QString& path, Kind kind, const std::function<bool(const QString&)>& wanted) {
   const QCollator collator = CzechCollator();
   std::vector<std::pair<QCollatorSortKey, QString>> names;
