@@ -1,5 +1,5 @@
-// Whether anybody offers anything on the clipboard: one question to the X server, where the toolkit's own answer loads
-// its picture plug-ins first. Elsewhere it is taken for granted.
+// Whether the clipboard has an owner. Asks the X server, since Qt's own answer first loads image plug-ins. True without
+// an X server.
 #pragma once
 
 namespace pelmar {
