@@ -12,7 +12,7 @@
 
 namespace pelmar {
 
-// Closes its file. The destructor keeps errno unchanged.
+// The number of an open file. The destructor closes the file and keeps errno unchanged.
 class Descriptor {
  public:
   explicit Descriptor(int number = -1) : number_(number) {}
@@ -41,8 +41,8 @@ inline constexpr int kOpenSafely = O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
 
 int WriteAll(int file, std::string_view bytes);
 
-// Reads a file in pieces, from its current position to its end, and passes each piece to `take`. Stops at the first
-// error of `take`, an errno.
+// Reads a file in pieces, from its current position to its end, and passes each piece to `take`. `take` returns 0, or
+// an errno to stop the reading.
 int ForEachPiece(int file, const std::function<int(std::string_view)>& take);
 
 // Replaces the content of the file `to` by the whole content of the file `from`.

@@ -78,10 +78,10 @@ int RewriteInto(int to, int from, FileRewriter& rewriter) {
   return error != 0 ? error : WriteAll(to, rewriter.Finish());
 }
 
-// Cuts `to` after its first `behind` bytes, and appends the bytes of `old` from this position on. -1 for `old` appends
+// Cuts `to` after its first `kept` bytes, and appends the bytes of `old` from this position on. -1 for `old` appends
 // nothing.
-int CopyTail(int old, int to, std::uint64_t behind) {
-  const auto at = static_cast<off_t>(behind);
+int CopyTail(int old, int to, std::uint64_t kept) {
+  const auto at = static_cast<off_t>(kept);
   if (ftruncate(to, at) != 0) return errno;
   if (old < 0) return 0;
   if (lseek(to, at, SEEK_SET) < 0 || lseek(old, at, SEEK_SET) < 0) return errno;

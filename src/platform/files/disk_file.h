@@ -7,9 +7,10 @@
 // 3. The content is written and brought to the disk by fsync.
 // 4. The new file gets its name. If there is an old file, the new file replaces the old file by a rename.
 // 5. fsync of the folder brings the name to the disk. Now the save is complete.
-// If step 2 or 4 is not possible for an old file, the old file is overwritten. Before this, kept_content copies the old
-// content into another file on the disk. After it, the copy is removed. A power cut or a kill at any moment leaves the
-// old content or the new content on the disk.
+// If step 2 or 4 is not possible, the old file is overwritten: the folder may refuse a new file, an attribute may be
+// refused, or the old file may have several names. First kept_content copies the old content into another file on the
+// disk. This copy is removed after the save. A power cut or a kill at any moment leaves the old content or the new
+// content on the disk, in the file or in the copy.
 #pragma once
 
 #include <sys/types.h>
@@ -36,14 +37,8 @@ int ReadFileByPieces(const std::string& path, const std::function<bool(std::stri
 
 inline constexpr std::uint64_t kLongestWhole = std::uint64_t{1} << 30;
 
-// Saves `bytes` in the file. A link stays a link, and its target is replaced. The new file keeps the owner, the group,
-// the permissions (without set-id bits), the access list and the extended attributes of an old file. A file that did
-// not exist gets `new_mode`, before the umask. A character device or a pipe gets the bytes directly.
-//
-// The old file is overwritten if its folder refuses a new file (not writable, or sticky), if the new file can't have
-// all attributes of the old file, or if the old file has several names. Before the first byte changes, space is
-// reserved and the old content is copied to `keep_folder`. After a failure the old content is restored. Only in this
-// case can a crash leave a mixture of old and new content in the file; the copy remains.
+// Saves `bytes` in the file by the steps above. A copy of the old content, if necessary, is made in `keep_folder`. A
+// file that did not exist gets `new_mode`, before the umask. A character device or a pipe gets the bytes directly.
 WriteOutcome ReplaceFile(const std::string& path, std::string_view bytes, const std::string& keep_folder,
                          mode_t new_mode = 0666);
 
@@ -51,7 +46,8 @@ WriteOutcome ReplaceFile(const std::string& path, std::string_view bytes, const 
 // leads nowhere. After a failed write the file is removed.
 int CreateFile(const std::string& path, std::string_view bytes);
 
-// See Platform::RewriteFile. The source must be a regular file. The target is written as ReplaceFile does it.
+// See Platform::RewriteFile. The source must be a regular file. The target is written in the same way as by
+// ReplaceFile.
 WriteOutcome RewriteFileByPieces(const std::string& source, const std::string& target, OldTail tail,
                                  FileRewriter& rewriter, const std::string& keep_folder);
 

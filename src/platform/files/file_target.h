@@ -42,8 +42,7 @@ struct Beside {
 Beside WriteBeside(const Target& target, const NewContent& content, mode_t new_mode);
 
 // Overwrites an old target. First copies the old content to a file in `keep_folder` (with its separator) that only its
-// owner can read. After a failure the old content is restored from the copy. If this fails too, the outcome names the
-// copy.
+// owner can read. After a failure restores the old content. If the restoring fails too, the outcome names the copy.
 WriteOutcome WriteInPlace(const Target& target, const NewContent& content, const std::string& keep_folder);
 
 }  // namespace pelmar
