@@ -24,9 +24,11 @@ void SetOuterPlace(QWidget& window, const TwipsRect& place);
 TwipsRect ScreenTwips(const QWidget& window);
 // The screen that contains the centre of the place, otherwise the primary screen.
 TwipsRect ScreenTwips(const TwipsRect& place);
-// The largest size inside its frame, in logical pixels, that fits the screen. For a window that was never shown.
+// The size of the screen without panels and without the usual frame, in logical pixels. For a window never shown
+// before.
 QSize RoomOnScreen(const QWidget& window);
-// Moves a window that covers `place` beside it if the screen has room. `place` is in logical pixels on the desktop.
+// If the window covers `place`, moves the window beside `place` where the screen has room. `place` is in logical pixels
+// on the desktop.
 void MoveAside(QWidget& window, const QRect& place);
 
 // The width of a window that shows its whole title and the buttons of the frame, in logical pixels.
@@ -35,7 +37,7 @@ int WidthOfTitle(const QWidget& window);
 // Shows the window in front of the others, even if minimised, and gives it the keyboard focus.
 void BringToFront(QWidget& window);
 
-// Whether the window stays above all others. A visible window stays visible without flicker.
+// Sets whether the window stays above all others. A visible window doesn't flicker.
 void SetAlwaysOnTop(QWidget& window, bool on_top);
 
 }  // namespace pelmar

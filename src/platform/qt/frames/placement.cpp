@@ -106,7 +106,7 @@ void CentreOnScreen(QWidget& window) {
   const QMargins frame = UsualFrame();
   const QSize expected = window.size().grownBy(frame);
   const TwipsRect place = InTheMiddle(window, {0, 0, TwipsOf(expected.width()), TwipsOf(expected.height())});
-  // The window manager applies a position requested before there is a frame to the inner area or to the frame.
+  // There is no frame yet. Some window managers take this position for the inner area, others for the frame.
   const QPoint asked(PixelsOf(place.left) + frame.left(), PixelsOf(place.top) + frame.top());
   window.move(asked);
   auto* placement = new Placement(

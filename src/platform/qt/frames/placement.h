@@ -1,5 +1,5 @@
 // Brings a window to an outer place. The frame is known only a moment after the window is shown, and the window manager
-// carries out requests with a delay. So Placement checks the place repeatedly and requests it again until it is right.
+// carries out requests with a delay. So Placement repeats its checks and requests until the window is in place.
 // Size and position are requested together, since separate requests would contain old values of each other.
 #pragma once
 
@@ -19,15 +19,16 @@ class Placement : public QObject {
   // Returns the wanted outer place. `now` is the current one.
   using Wish = std::function<TwipsRect(const TwipsRect& now)>;
 
-  // When the work for a new window ends. kFirst: the first check finds the window in place; then others may move it.
-  // kLasting: several checks in a row find the window in place. The wish must accept a window that others have moved.
+  // When the work for a new window ends. kFirst: after the first check that finds the window in place; then others may
+  // move the window. kLasting: after several such checks in a row. The wish must accept a window that others have
+  // moved.
   enum class Trust { kFirst, kLasting };
 
   // Does nothing before Begin.
   Placement(QWidget& window, Wish wish, Trust trust = Trust::kFirst);
 
-  // Starts when the window is shown and its frame differs from `left`, the frame of the state that it leaves. If
-  // `maximised`, keeps the window maximised instead of placing it.
+  // Starts when the window is shown and its frame differs from `left`, the frame in its previous state. If `maximised`,
+  // keeps the window maximised instead of placing the window.
   void Begin(const QMargins& left = {}, bool maximised = false);
   // Whether the first frame of the window is known, or the window manager gives no frame.
   [[nodiscard]] bool FrameKnown() const { return frame_known_; }
