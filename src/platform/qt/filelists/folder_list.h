@@ -27,7 +27,7 @@ class FolderList : public QListView {
 
  Q_SIGNALS:
   void PathChanged(const QString& path);
-  // A key was released. A held key emits this once.
+  // A key was released. Repeats of a held key don't count.
   void KeyReleased();
 
  protected:
@@ -38,7 +38,7 @@ class FolderList : public QListView {
 
  private:
   void Fill(const QString& highlighted);
-  // Enters the highlighted folder. If it can't be read, highlights the current folder again.
+  // Enters the highlighted folder. If this folder can't be read, highlights the current folder again.
   void EnterHighlighted();
 
   FolderModel* model_;
