@@ -31,7 +31,7 @@
 namespace pelmar {
 namespace {
 
-// Qt's horizontal scroll bars move against the arrow keys Left and Right, so this moves the bar. False for other keys.
+// Moves a horizontal scroll bar by the Left or Right key, since Qt moves the bar the wrong way. False for other keys.
 bool MoveByArrow(QScrollBar& bar, int key) {
   if (bar.orientation() != Qt::Horizontal || (key != Qt::Key_Left && key != Qt::Key_Right)) return false;
   bar.triggerAction(key == Qt::Key_Left ? QAbstractSlider::SliderSingleStepSub : QAbstractSlider::SliderSingleStepAdd);

@@ -23,7 +23,7 @@ class FragmentDialog : public FormDialog<Form> {
     QObject::connect(this->ui_.get()->*storno, &QPushButton::clicked, this, &QWidget::hide);
   }
 
-  // Writes into the text. If false, the dialog stays open.
+  // Writes into the text. Returns false if the dialog must stay open.
   virtual bool Put() = 0;
 
   // Inserts the fragment at the caret. Returns true, for use in Put.
