@@ -83,7 +83,7 @@ class TextBox : public QAbstractScrollArea {
   // If true, a pale caret is shown while another window has the focus, since tools in other windows insert text here.
   void SetCaretStays(bool stays) { caret_stays_ = stays; }
 
-  // Does what the key does. For menus. Does not change a read-only text.
+  // Does what the key does, for use by menus. A read-only text is not changed.
   void Do(const TextKey& key);
   // Inserts the text of the clipboard or of a drop, converted by TextFromMime. Does nothing if there is no text.
   void Insert(const QMimeData* mime);

@@ -1,5 +1,5 @@
-// The text that an input method (dead keys, ibus) is composing. It is shown at the caret and not yet in the buffer. The
-// class also tells input methods the text around the caret.
+// The text that an input method (dead keys, ibus) is composing. This text is shown at the caret but is not in the
+// buffer yet. The class also tells input methods the text around the caret.
 #pragma once
 
 #include <QFont>
