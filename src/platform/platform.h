@@ -1,8 +1,7 @@
-// Everything that the program asks of the system. The program answers with Qt (platform/qt), tests answer with a
-// script. Messages and titles are UTF-8, documents and the clipboard are Windows-1250. A path is the bytes that the
-// system gave. No call throws: a call on a file returns an errno, 0 for success, alone or in the field `error`. A
-// command that can't go on throws RuntimeError. An uncaught RuntimeError ends the program, after a rescue of the
-// documents.
+// Everything that the program asks of the system. platform/qt implements Platform with Qt, and the tests have a
+// scripted implementation. Messages and titles are UTF-8, documents and the clipboard are Windows-1250. A path is the
+// bytes that the system gave. No call throws: a call on a file returns 0 or an errno, alone or in the field `error`. A
+// command that can't go on after an error throws RuntimeError.
 #pragma once
 
 #include <cstdint>
@@ -144,14 +143,15 @@ class Platform {
   virtual void ClearClipboard() = 0;
 
   // Files. ReadFile reads at most `limit` bytes. A write keeps the old content until the new content is complete: a new
-  // file replaces the old one, or a copy is kept if a new file would lose a link or an attribute.
+  // file replaces the old file. If a new file would lose a link or an attribute, the old file is copied, then
+  // overwritten.
   virtual bool CanRead(const std::string& path) = 0;  // opens for reading; false for a folder
   virtual FileBytes ReadFile(const std::string& path, std::optional<std::uint64_t> limit) = 0;
   virtual WriteOutcome WriteDocument(const std::string& path, std::string_view bytes) = 0;
   // Like WriteDocument, for the program's own files. Only its owner can read a new file. Returns 0 or an errno.
   virtual int WritePrivateFile(const std::string& path, std::string_view bytes) = 0;
   // Creates a file that only its owner can read. EEXIST if the name is taken, even by a link that leads nowhere.
-  virtual int WriteNewFile(const std::string& path, std::string_view bytes) = 0;  // 0 or errno
+  virtual int WriteNewFile(const std::string& path, std::string_view bytes) = 0;  // 0 or an errno
   // Gives a file to `take` in pieces, until `take` returns false. Returns 0 or an errno.
   virtual int ReadByPieces(const std::string& path, const std::function<bool(std::string_view piece)>& take) = 0;
   // Copies a file of any size through `rewriter`. The target keeps its old content until the new content is complete.

@@ -21,7 +21,7 @@ QString Utf8ToQString(std::string_view utf8);
 inline std::string Utf8FromQString(const QString& string) { return string.toStdString(); }
 
 // Converts a path without loss. Each byte that is not UTF-8 becomes a lone surrogate U+DC80 to U+DCFF. Qt's lists and
-// properties keep such a string. Qt's file functions can't use such a string, and ShownPath makes it readable.
+// properties keep such a string, but Qt's file functions can't use such a string. ShownPath is for display.
 QString PathToQString(std::string_view path);
 std::string PathFromQString(const QString& path);
 QString ShownPath(const QString& path);

@@ -24,18 +24,18 @@ namespace pelmar {
 namespace {
 
 bool MatchesOne(QStringView name, QStringView mask) {
-  qsizetype at = 0, in_mask = 0, star = -1, behind_star = 0;
+  qsizetype at = 0, in_mask = 0, star = -1, after_star = 0;
   while (at < name.size()) {
     const QChar wanted = in_mask < mask.size() ? mask[in_mask] : QChar();
     if (wanted == u'*') {
       star = in_mask++;
-      behind_star = at;
+      after_star = at;
     } else if (in_mask < mask.size() && (wanted == u'?' || wanted.toCaseFolded() == name[at].toCaseFolded())) {
       ++in_mask;
       ++at;
     } else if (star >= 0) {
       in_mask = star + 1;
-      at = ++behind_star;
+      at = ++after_star;
     } else {
       return false;
     }

@@ -23,9 +23,8 @@ QString CurrentFolder();
 // The absolute path of a folder, without ".", ".." and a separator at its end.
 QString CleanFolder(const QString& path);
 
-// The sorted names, without hidden ones, which begin with ".". In a hidden folder hidden names are listed too, and
-// FilesOf also lists hidden files if a mask begins with ".". A link is listed by the kind of its target. A folder that
-// can't be read gives an empty list.
+// The sorted names, or an empty list if the folder can't be read. A link counts as its target. Names that begin with
+// "." are hidden: they are listed only in a hidden folder, and by FilesOf if a mask begins with ".".
 QStringList SubfoldersOf(const QString& path);
 QStringList FilesOf(const QString& path, const QString& mask);
 

@@ -64,7 +64,7 @@ class GlyphTable {
   mutable std::vector<Run> runs_;  // memory that each Draw reuses
 };
 
-// Whether the code is shown as a sign.
+// Whether rows show the code as a sign. False for TAB.
 bool IsControlSign(unsigned char code);
 // The name of a control character, TAB included: "CR", "DEL", or the code in hexadecimal.
 QString SignName(unsigned char code);

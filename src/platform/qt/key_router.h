@@ -11,8 +11,8 @@ class QKeyEvent;
 namespace pelmar {
 
 // The order in which takers are asked, until one of them takes the key. Before, Qt runs shortcuts, and the router stops
-// a held Enter or Delete. A key that no taker takes goes to the focused widget. If this widget ignores the key, its
-// parents get the key, up to the window. In this way Enter in a field reaches its dialog.
+// a held Enter or Delete. A key that no taker takes goes to the focused widget. A key that this widget ignores goes to
+// its parents, up to the window. In this way Enter in a field reaches its dialog.
 enum class KeyTurn {
   kTabs,    // the physical number keys select a tab
   kMenu,    // keys of menu items that are still disabled
@@ -20,7 +20,7 @@ enum class KeyTurn {
   kWindow,  // windows that get all keys: calculator, converter, character table, on-screen keyboard, welcome
 };
 
-// Returns true if it takes the key.
+// Returns true if the taker handles the key, so that nobody else gets the key.
 using KeyTaker = std::function<bool(QWidget& receiver, QKeyEvent& press)>;
 
 class KeyRouter {

@@ -24,7 +24,7 @@ void ShowMenu(QLineEdit& field, QPoint at) {
   QMenu* menu = field.createStandardContextMenu();
   menu->setAttribute(Qt::WA_DeleteOnClose);
   for (QAction* action : menu->actions()) {
-    if (!action->text().startsWith(QLineEdit::tr("&Paste"))) continue;  // it has no name
+    if (!action->text().startsWith(QLineEdit::tr("&Paste"))) continue;  // the action has no name
     action->disconnect(&field);
     QObject::connect(action, &QAction::triggered, &field, [&field] { Paste(field, QClipboard::Clipboard); });
   }

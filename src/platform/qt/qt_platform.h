@@ -1,5 +1,5 @@
-// The implementation of Platform with Qt. Create it after the application object and destroy it before. Most work is
-// done by the small files in this folder.
+// The implementation of Platform with Qt. The small files in this folder do most of the work. The object must be
+// created after the application object and destroyed before the application object.
 #pragma once
 
 #include <optional>
