@@ -14,8 +14,7 @@ namespace {
 
 bool IsSeparator(char ch) { return ch == '\\' || ch == '/'; }
 
-// Positions from 1. Without a separator, `separator` is the length of the path. Without an extension, `dot` equals
-// `separator`.
+// Positions from 1. No separator: `separator` is the length of the path. No extension: `dot` equals `separator`.
 struct PathSplit {
   std::size_t separator;
   std::size_t dot;

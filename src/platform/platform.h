@@ -143,8 +143,7 @@ class Platform {
   virtual void ClearClipboard() = 0;
 
   // Files. ReadFile reads at most `limit` bytes. A write keeps the old content until the new content is complete: a new
-  // file replaces the old file. If a new file would lose a link or an attribute, the old file is copied, then
-  // overwritten.
+  // file replaces the old file. If a new file would lose a link or an attribute, the old content is copied first.
   virtual bool CanRead(const std::string& path) = 0;  // opens for reading; false for a folder
   virtual FileBytes ReadFile(const std::string& path, std::optional<std::uint64_t> limit) = 0;
   virtual WriteOutcome WriteDocument(const std::string& path, std::string_view bytes) = 0;

@@ -78,8 +78,7 @@ int RewriteInto(int to, int from, FileRewriter& rewriter) {
   return error != 0 ? error : WriteAll(to, rewriter.Finish());
 }
 
-// Cuts `to` after its first `kept` bytes, and appends the bytes of `old` from this position on. -1 for `old` appends
-// nothing.
+// Cuts `to` after its first `kept` bytes and appends the rest of `old` from this position on. `old` may be -1.
 int CopyTail(int old, int to, std::uint64_t kept) {
   const auto at = static_cast<off_t>(kept);
   if (ftruncate(to, at) != 0) return errno;

@@ -46,8 +46,7 @@ WriteOutcome ReplaceFile(const std::string& path, std::string_view bytes, const 
 // leads nowhere. After a failed write the file is removed.
 int CreateFile(const std::string& path, std::string_view bytes);
 
-// See Platform::RewriteFile. The source must be a regular file. The target is written in the same way as by
-// ReplaceFile.
+// See Platform::RewriteFile. The source must be a regular file. The target is written by the steps above.
 WriteOutcome RewriteFileByPieces(const std::string& source, const std::string& target, OldTail tail,
                                  FileRewriter& rewriter, const std::string& keep_folder);
 

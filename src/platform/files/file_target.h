@@ -1,5 +1,4 @@
-// The target of a save, and the two ways to replace the content of an old file: a new file takes its place, or the old
-// file is overwritten.
+// The target of a save, and the two ways to save into an old file: to replace the file and to overwrite the file.
 #pragma once
 
 #include <sys/stat.h>
@@ -37,8 +36,7 @@ struct Beside {
   Descriptor content = Descriptor();  // the new file, if its content is complete but its rename failed
 };
 
-// Writes a new file and gives it the name of the target. The target is not a device. A new target gets `new_mode`,
-// before the umask.
+// Writes a new file with the name of the target, which is no device. A new target gets `new_mode`, before the umask.
 Beside WriteBeside(const Target& target, const NewContent& content, mode_t new_mode);
 
 // Overwrites an old target. First copies the old content to a file in `keep_folder` (with its separator) that only its

@@ -9,8 +9,7 @@
 
 namespace pelmar {
 
-// Whether the name matches one of the masks, ignoring case. A mask may contain "*" and "?". "*.*" and an empty list
-// match every name.
+// Whether the name matches a mask with "*" and "?", ignoring case. "*.*" and an empty list match every name.
 bool MatchesMask(QStringView name, const QStringList& masks);
 // Splits masks at ";".
 QStringList SplitMask(const QString& mask);

@@ -68,8 +68,7 @@ class GlyphTable {
 bool IsControlSign(unsigned char code);
 // The name of a control character, TAB included: "CR", "DEL", or the code in hexadecimal.
 QString SignName(unsigned char code);
-// A text for labels and lists. Names replace control characters, TAB included, since these break the line or are
-// invisible.
+// A text for labels and lists. Names replace control characters, TAB included, which break lines or are invisible.
 QString ReadableText(std::string_view text);
 
 }  // namespace pelmar

@@ -28,15 +28,13 @@ class KeyRouter {
   // The only router, since there is only one keyboard.
   static KeyRouter& Get();
 
-  // From now on the taker is asked about key presses for `scope` and for the widgets inside `scope`, until `scope` is
-  // deleted.
+  // Adds a taker, which is asked about key presses for `scope` and the widgets inside, until `scope` is deleted.
   void Add(KeyTurn turn, QWidget& scope, KeyTaker taker);
 
   // Call with each key event for a widget, in order. True if the widget must not get the event.
   bool Takes(QWidget& receiver, QKeyEvent& event);
 
-  // The system has no state for the Insert key, so the router keeps one. Each press without modifiers changes the
-  // state.
+  // The router keeps the state of the Insert key, since the system has none. Pressing Insert alone toggles the state.
   [[nodiscard]] bool InsertIsOn() const { return insert_on_; }
 
  private:

@@ -1,5 +1,4 @@
-// The modules of the program: plug-ins that are loaded at their first use, because their libraries are large and most
-// runs don't need them.
+// The modules of the program: plug-ins with large libraries that most runs don't need, loaded at their first use.
 #pragma once
 
 #include <QObject>

@@ -6,8 +6,7 @@
 
 namespace pelmar {
 
-// Makes `Face` the accessible interface of every `Control`. `Face` is constructed from the control. Further calls do
-// nothing.
+// Makes `Face`, constructed from the control, the accessible interface of every `Control`. Further calls do nothing.
 template <class Control, class Face>
 void InstallFace() {
   static const bool installed = [] {
@@ -26,8 +25,7 @@ void SetAccessibleRole(QWidget& widget, QAccessible::Role role);
 // A dynamic property of a label that shows a value: the name of the value. Screen readers say the name and the value,
 // but an accessible name would replace the value.
 inline constexpr char kValueName[] = "valueName";
-// Activates kValueName, and makes the label above a group of options the name of the group. Call before the first such
-// label is created.
+// Activates kValueName and names groups of options by the label above. Call before the first such label is created.
 void InstallLabelFaces();
 
 // Lets screen readers say a text. Does nothing if no screen reader runs.

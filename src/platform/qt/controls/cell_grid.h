@@ -1,5 +1,4 @@
-// A square grid of cells. The mouse and the arrow keys mark a cell. Subclasses paint the cells. Rows and columns count
-// from 1.
+// A square grid of cells, painted by subclasses. Mouse and arrow keys mark a cell. Rows and columns count from 1.
 #pragma once
 
 #include <QWidget>

@@ -38,8 +38,7 @@ bool MoveByArrow(QScrollBar& bar, int key) {
   return true;
 }
 
-// Whether the widget is a combo box or a scroll bar for a value. The scroll bars of lists and texts can't have the
-// focus.
+// Whether the widget is a combo box or a scroll bar for a value, not a scroll bar of a list or a text.
 bool HoldsValue(const QWidget& widget) {
   return qobject_cast<const QComboBox*>(&widget) ||
          (qobject_cast<const QScrollBar*>(&widget) && widget.focusPolicy() != Qt::NoFocus);

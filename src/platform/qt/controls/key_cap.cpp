@@ -11,8 +11,7 @@ constexpr int kEdge = 3;  // the width of the frame on each side
 
 QString Plain(QString caption) { return caption.remove(QLatin1Char('&')); }
 
-// Whether the access key is underlined: only letters are, since a keypad of underlined digits and signs is hard to
-// read.
+// Whether the access key is underlined. Only letters are: a keypad of underlined digits is hard to read.
 bool ShowsAccessKey(const QString& caption) {
   const auto at = caption.indexOf(QLatin1Char('&')) + 1;
   return at > 0 && at < caption.size() && caption[at].isLetter();
@@ -26,8 +25,7 @@ QSize RoomFor(const QStringList& words, const QFontMetrics& metrics) {
   return {width + 2 * kEdge, metrics.height() + 2 * kEdge};
 }
 
-// Paints the caption. Reduces the font until the caption fits, since keys keep their size even with a large desktop
-// font.
+// Paints the caption, in a smaller font if necessary: keys keep their size even if the desktop font is large.
 void PaintCaption(QStylePainter& painter, const QWidget& key, const QString& caption, QPalette::ColorRole role) {
   constexpr int kSmallest = 6;
   painter.setPen(key.palette().color(key.isEnabled() ? QPalette::Active : QPalette::Disabled, role));

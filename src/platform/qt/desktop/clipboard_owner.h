@@ -1,5 +1,4 @@
-// Whether the clipboard has an owner. Asks the X server, since Qt's own answer first loads image plug-ins. True without
-// an X server.
+// Whether the clipboard has an owner; true without an X server. Qt's own answer would load image plug-ins.
 #pragma once
 
 namespace pelmar {

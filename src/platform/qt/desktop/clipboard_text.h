@@ -15,12 +15,10 @@ inline constexpr char kBytesMimeType[] = "application/x-pelmar-windows-1250";
 // The caller owns the result. The plain text is made only if another program asks for the text.
 QMimeData* MimeFromText(std::string_view bytes);
 
-// The exact bytes if offered, otherwise the plain text, converted by PageText. Nothing if there is no text or `mime` is
-// null.
+// The exact bytes if offered, otherwise the plain text by PageText. Nothing if `mime` is null or has no text.
 std::optional<std::string> TextFromMime(const QMimeData* mime);
 
-// The text for a single-line field, including characters outside the code page. Unless `holds_lines`, line breaks are
-// removed.
+// The text for a single-line field, not converted to Windows-1250. Line breaks are removed unless `holds_lines`.
 QString LineFromMime(const QMimeData& mime, bool holds_lines);
 
 // Converts a text to Windows-1250. First joins letters with separate accents. A lone LF becomes CR LF.

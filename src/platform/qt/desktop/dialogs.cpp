@@ -32,8 +32,7 @@ void LeaveRoomForTitle(QMessageBox& box) {
   grid->addItem(new QSpacerItem(WidthOfTitle(box), 0), grid->rowCount(), 0, 1, grid->columnCount());
 }
 
-// A message box that distinguishes closing a question (by Escape or the close button) from answering No. Qt's box
-// treats both alike.
+// A message box that distinguishes closing a question (Escape, close button) from answering No. Qt's box doesn't.
 class Box : public QMessageBox {
  public:
   using QMessageBox::QMessageBox;

@@ -1,6 +1,5 @@
 // The boxes for messages, for one line of text and for a file name. They are Qt's dialogs, with the look of the
-// desktop, translated and accessible. Each function returns when the person has answered, or when the parent window is
-// deleted.
+// desktop. Each function returns when the person has answered or the parent window is deleted.
 #pragma once
 
 #include <QString>

@@ -17,8 +17,7 @@ namespace {
 
 constexpr int kSignals[] = {SIGTERM, SIGHUP, SIGINT};
 
-// A signal handler may do very little. So the handler writes the signal number into this pipe, and the event loop does
-// the rest.
+// A signal handler may do very little, so it only writes the signal number to this pipe. The event loop does the rest.
 std::array<int, 2> pipe_ends{-1, -1};
 
 extern "C" void PassOn(int number) {

@@ -12,8 +12,7 @@ class WaitCursor {
   WaitCursor& operator=(const WaitCursor&) = delete;
   ~WaitCursor();
 
-  // Each call with true needs a call with false; extra calls with false do nothing. The outermost call determines the
-  // look.
+  // Each call with true needs a call with false; extra calls with false do nothing. The outermost call sets the look.
   void Set(bool busy, BusyLook look);
 
   class Lift {

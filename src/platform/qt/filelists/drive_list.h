@@ -1,5 +1,4 @@
-// The list of places above a folder list: the home folder, "/" and the mounted disks, each by its path. The list is
-// updated each time it opens.
+// The list of places above a folder list: the home folder, "/" and the mounted disks. Each opening updates the list.
 #pragma once
 
 #include <QComboBox>

@@ -24,8 +24,7 @@ class FileList : public QListView {
 
   // The absolute path, without "/" at the end unless the path is "/".
   [[nodiscard]] const QString& Path() const { return path_; }
-  // A path that isn't a readable folder changes nothing. A new path clears the selection. The same path reads the
-  // folder again.
+  // A path that isn't a readable folder changes nothing. A new path clears the selection; the same path is read again.
   void SetPath(const QString& path);
 
   [[nodiscard]] const QString& Pattern() const { return pattern_; }

@@ -19,8 +19,7 @@ class FolderList : public QListView {
 
   // The absolute path from PathToQString, without "/" at the end unless the path is "/".
   [[nodiscard]] const QString& Path() const { return path_; }
-  // Highlights the row of the folder. A path that isn't a readable folder changes nothing. The same path reads the
-  // folder again.
+  // Highlights the row of the folder. A path that isn't a readable folder changes nothing; the same path is read again.
   void SetPath(const QString& path);
 
   [[nodiscard]] QString HighlightedPath() const;

@@ -14,8 +14,7 @@ void ExpectActive(QWidget* window);
 
 // Whether the program shows a window that stays on top. Dialogs don't count, since PutAboveAll puts them on top.
 bool HasWindowOnTop();
-// Makes the dialog stay on top if a window that stays on top could cover the dialog. Otherwise the dialog becomes an
-// ordinary window.
+// Makes the dialog stay on top if HasWindowOnTop, since that window could cover the dialog; otherwise not on top.
 void PutAboveAll(QWidget& dialog);
 
 // Call for a window that was never shown: the window will appear on the screen of the asking window.

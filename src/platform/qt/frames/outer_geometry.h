@@ -24,11 +24,9 @@ void SetOuterPlace(QWidget& window, const TwipsRect& place);
 TwipsRect ScreenTwips(const QWidget& window);
 // The screen that contains the centre of the place, otherwise the primary screen.
 TwipsRect ScreenTwips(const TwipsRect& place);
-// The size of the screen without panels and without the usual frame, in logical pixels. For a window never shown
-// before.
+// The size of the screen without panels and without a usual frame, in logical pixels. For windows never shown before.
 QSize RoomOnScreen(const QWidget& window);
-// If the window covers `place`, moves the window beside `place` where the screen has room. `place` is in logical pixels
-// on the desktop.
+// Moves a window that covers `place` (in logical pixels on the desktop) to a free place beside, if there is one.
 void MoveAside(QWidget& window, const QRect& place);
 
 // The width of a window that shows its whole title and the buttons of the frame, in logical pixels.

@@ -20,8 +20,7 @@ class Placement : public QObject {
   using Wish = std::function<TwipsRect(const TwipsRect& now)>;
 
   // When the work for a new window ends. kFirst: after the first check that finds the window in place; then others may
-  // move the window. kLasting: after several such checks in a row. The wish must accept a window that others have
-  // moved.
+  // move the window. kLasting: after several such checks in a row; the wish must accept a window moved by others.
   enum class Trust { kFirst, kLasting };
 
   // Does nothing before Begin.

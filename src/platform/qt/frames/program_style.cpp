@@ -17,8 +17,7 @@
 namespace pelmar {
 namespace {
 
-// The wanted contrasts with the background. A contrast is the ratio of two luminances: from 1 for equal colours to 21
-// for black on white.
+// The wanted contrasts with the background, as ratios of luminances: 1 for equal colours, 21 for black on white.
 constexpr double kReadable = 4.5;
 constexpr double kVisible = 3.7;  // more than the usual 3 for borders, since their edges are blurred
 constexpr double kSeen = 3;       // disabled captions: visible, but paler than enabled ones

@@ -7,12 +7,10 @@
 
 namespace pelmar {
 
-// The icon of an SVG file such as ":/icons/open.svg". A missing or damaged file draws nothing. Call in the interface
-// thread only.
+// The icon of an SVG file such as ":/icons/open.svg". A missing or damaged file draws nothing. Interface thread only.
 QIcon SvgIcon(const QString& resource_path);
 
-// Gives all present and future windows the icon of the program. The first call draws the icon, so call this when the
-// first window needs it.
+// Gives all windows the icon of the program. The first call draws the icon, so call when a window needs the icon.
 void ShowProgramIcon();
 
 }  // namespace pelmar

@@ -162,8 +162,7 @@ class TextBox : public QAbstractScrollArea {
   [[nodiscard]] int CaretWidth() const;
   [[nodiscard]] TextColours Colours() const;
   [[nodiscard]] QColor Background() const;
-  // The place of the caret, and the beginning of composed text: the same place, or further left if the text doesn't
-  // fit.
+  // The place of the caret, and the beginning of composed text: equal, or further left if the text doesn't fit.
   [[nodiscard]] QPoint CaretPoint() const;
   [[nodiscard]] QPoint ComposedPoint() const;
 

@@ -239,8 +239,7 @@ void TextBox::showEvent(QShowEvent* event) {
   // The window manager shows the window again: keep the scroll position.
   if (ready_ && event->spontaneous()) return Relayout();
   if (ready_) return ShowAnew();
-  // The glyph table is built when the window is on the screen, just before its first paint. Until then the window
-  // manager needs the processor.
+  // The glyph table is built just before the first paint. Until then the window manager needs the processor.
   QWindow* screen_window = window()->windowHandle();
   if (screen_window != nullptr && !screen_window->isExposed()) return screen_window->installEventFilter(this);
   QMetaObject::invokeMethod(this, &TextBox::GetReady, Qt::QueuedConnection);
