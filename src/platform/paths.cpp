@@ -14,8 +14,7 @@ namespace {
 
 bool IsSeparator(char ch) { return ch == '\\' || ch == '/'; }
 
-// Positions from 1. Without a separator, `separator` is the length of the path. Without an extension, `dot` equals
-// `separator`.
+// Positions from 1. No separator: `separator` is the length of the path. No extension: `dot` equals `separator`.
 struct PathSplit {
   std::size_t separator;
   std::size_t dot;
@@ -66,7 +65,7 @@ bool HasExtension(std::string_view path) {
 bool EndsInSeparator(std::string_view path) { return !path.empty() && IsSeparator(path.back()); }
 
 std::string PathToFileUrl(std::string_view path) {
-  // An absolute path brings the third slash along.
+  // An absolute path begins with the third slash.
   std::string url = path.starts_with('/') ? "file://" : "file:///";
   url += path;
   std::replace(url.begin(), url.end(), '\\', '/');

@@ -1,5 +1,4 @@
-// Takes paths apart, joins them and stores them. A path is the bytes that the system gave. Both "\\" and "/" separate
-// folders.
+// Takes paths apart, joins and stores them. A path is the bytes that the system gave. "\\" and "/" separate folders.
 #pragma once
 
 #include <optional>

@@ -1,8 +1,7 @@
-// Everything that the program asks of the system. The program answers with Qt (platform/qt), tests answer with a
-// script. Messages and titles are UTF-8, documents and the clipboard are Windows-1250. A path is the bytes that the
-// system gave. No call throws: a call on a file returns an errno, 0 for success, alone or in the field `error`. A
-// command that can't go on throws RuntimeError. An uncaught RuntimeError ends the program, after a rescue of the
-// documents.
+// Everything that the program asks of the system. platform/qt implements Platform with Qt, and the tests have a
+// scripted implementation. Messages and titles are UTF-8, documents and the clipboard are Windows-1250. A path is the
+// bytes that the system gave. No call throws: a call on a file returns 0 or an errno, alone or in the field `error`. A
+// command that can't go on after an error throws RuntimeError.
 #pragma once
 
 #include <cstdint>
@@ -125,7 +124,7 @@ class Platform {
   bool Confirmed(std::string_view question, std::string_view title) {
     return Message(MessageType::kYesNoWarning, question, title) == Answer::kYes;
   }
-  // The box about a program.
+  // Shows a box about a program.
   virtual void ShowAbout(std::string_view title, std::string_view text) = 0;
   // Asks for a line of text. Nothing if the person cancels. All texts are UTF-8.
   virtual std::optional<std::string> InputBox(std::string_view prompt, std::string_view title,
@@ -143,16 +142,15 @@ class Platform {
   virtual void SetClipboardText(std::string_view text) = 0;
   virtual void ClearClipboard() = 0;
 
-  // Files. ReadFile reads at most `limit` bytes. Writing keeps the old content until the new content is complete: in
-  // the old file, which is then replaced by a new one, or in a copy if a new file would lose a link or an attribute.
+  // Files. ReadFile reads at most `limit` bytes. A write keeps the old content until the new content is complete: a new
+  // file replaces the old file. If a new file would lose a link or an attribute, the old content is copied first.
   virtual bool CanRead(const std::string& path) = 0;  // opens for reading; false for a folder
   virtual FileBytes ReadFile(const std::string& path, std::optional<std::uint64_t> limit) = 0;
   virtual WriteOutcome WriteDocument(const std::string& path, std::string_view bytes) = 0;
-  // The same for a file that the program writes unasked. If the file is new, only its owner can read it. Returns 0 or
-  // an errno.
+  // Like WriteDocument, for the program's own files. Only its owner can read a new file. Returns 0 or an errno.
   virtual int WritePrivateFile(const std::string& path, std::string_view bytes) = 0;
   // Creates a file that only its owner can read. EEXIST if the name is taken, even by a link that leads nowhere.
-  virtual int WriteNewFile(const std::string& path, std::string_view bytes) = 0;  // 0 or errno
+  virtual int WriteNewFile(const std::string& path, std::string_view bytes) = 0;  // 0 or an errno
   // Gives a file to `take` in pieces, until `take` returns false. Returns 0 or an errno.
   virtual int ReadByPieces(const std::string& path, const std::function<bool(std::string_view piece)>& take) = 0;
   // Copies a file of any size through `rewriter`. The target keeps its old content until the new content is complete.
@@ -168,8 +166,8 @@ class Platform {
   virtual std::string TempFolder() = 0;
   virtual std::string ShareFolder() = 0;  // where the package keeps its files
 
-  // Prints what `draw` puts on the paper, on the default printer or the only printer. Without a printer, a new PDF file
-  // in the documents folder takes the place of the paper. `name` (UTF-8) names the job and the file.
+  // Prints what `draw` puts on the paper. The printer is the default printer or the only printer. Without a printer, a
+  // new PDF file in the documents folder is written instead. `name` (UTF-8) names the job and the file.
   virtual PrintOutcome Print(const PrintFont& font, const std::string& name,
                              const std::function<void(Paper&)>& draw) = 0;
 

@@ -17,7 +17,7 @@ int WriteAll(int file, std::string_view bytes) {
 }
 
 int ForEachPiece(int file, const std::function<int(std::string_view)>& take) {
-  constexpr std::size_t kPiece = std::size_t{256} << 10;  // stays in the processor's cache on its way through
+  constexpr std::size_t kPiece = std::size_t{256} << 10;  // fits in the processor's cache
   std::string piece(kPiece, '\0');
   while (true) {
     const ssize_t got = read(file, piece.data(), piece.size());
@@ -43,7 +43,7 @@ int SyncFolderOf(const std::string& path, int file) {
   const std::string name = FolderOf(path);
   const Descriptor folder(open(name.empty() ? "." : name.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (folder.IsOpen()) return Sync(folder.Number());
-  // A person may write to a folder without being allowed to read it; then the whole file system goes to the disk.
+  // A folder may be writable but not readable. Then the whole file system is written to the disk.
   return syncfs(file) == 0 ? 0 : errno;
 }
 

@@ -1,4 +1,4 @@
-// An open file and the loops around its calls. Errors are errno values, 0 is none.
+// An open file, and functions that read, write and sync open files. They return 0 or an errno.
 #pragma once
 
 #include <fcntl.h>
@@ -12,7 +12,7 @@
 
 namespace pelmar {
 
-// Closing it in the destructor leaves errno alone.
+// The number of an open file. The destructor closes the file and keeps errno unchanged.
 class Descriptor {
  public:
   explicit Descriptor(int number = -1) : number_(number) {}
@@ -36,28 +36,28 @@ class Descriptor {
   int number_;
 };
 
-// Without O_NONBLOCK the open of a pipe waits for its other end.
+// Without O_NONBLOCK, opening a pipe would wait until another process opens the other end.
 inline constexpr int kOpenSafely = O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
 
 int WriteAll(int file, std::string_view bytes);
 
-// Hands each piece of a file, from where it stands to its end, to `take`, which returns 0 or an errno.
+// Reads a file in pieces, from its current position to its end, and passes each piece to `take`. `take` returns 0, or
+// an errno to stop the reading.
 int ForEachPiece(int file, const std::function<int(std::string_view)>& take);
 
-// All of one file becomes the content of another, whatever that was.
+// Replaces the content of the file `to` by the whole content of the file `from`.
 int CopyWhole(int from, int to);
 
-// The folder that a path names its file in, with the separator; "" for the current one.
+// The part of a path up to its last separator, with the separator. "" if the path has no separator.
 std::string FolderOf(const std::string& path);
 
-// Waits until a file or a folder is on the disk. A file system without such a call is no error.
+// Waits until a file or a folder is on the disk. Returns 0 if the file system can't wait.
 int Sync(int file);
 
-// Waits until the folder of the path is on the disk, and with it the name that the open `file` has got there.
+// Waits until the folder of the path is on the disk, which includes the name of the open `file` in this folder.
 int SyncFolderOf(const std::string& path, int file);
 
-// False where the name has gone, or has become another file's, since `file` was opened by it: then a lock on the file
-// keeps nobody out.
+// False if the path now names another file, or no file, than the open `file`. A lock on `file` is useless then.
 bool IsStillNamed(int file, const std::string& path);
 
 }  // namespace pelmar

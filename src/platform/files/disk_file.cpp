@@ -16,7 +16,8 @@
 namespace pelmar {
 namespace {
 
-// What the system makes up while it is read, seemingly empty before. Some of that never ends.
+// Whether the file lies in a file system such as /proc. The kernel invents the content of such a file while the file is
+// read: the file reports the size 0, and some of these files never end.
 bool IsMadeUp(int file) {
   constexpr decltype(statfs::f_type) kMadeUp[] = {PROC_SUPER_MAGIC,   SYSFS_MAGIC,      DEBUGFS_MAGIC,
                                                   TRACEFS_MAGIC,      SECURITYFS_MAGIC, CGROUP_SUPER_MAGIC,
@@ -39,7 +40,7 @@ int NotRegular(const struct stat& state) {
 Source OpenRegular(const std::string& path) {
   struct stat state {};
   if (stat(path.c_str(), &state) != 0) return {.error = errno};
-  // The opening alone would wake the other end of a pipe, or make a device act.
+  // Check before opening: opening a pipe wakes the process at its other end, and opening a device can start an action.
   if (const int error = NotRegular(state)) return {.error = error};
   Source source{.file = Descriptor(open(path.c_str(), O_RDONLY | kOpenSafely))};
   if (!source.file.IsOpen() || fstat(source.file.Number(), &state) != 0) return {.error = errno};
@@ -71,22 +72,22 @@ int WriteToDevice(const std::string& path, std::string_view bytes) {
   return error != 0 ? error : close_error;
 }
 
-// Writes from where `to` stands.
+// Writes from the current position of `to`.
 int RewriteInto(int to, int from, FileRewriter& rewriter) {
   const int error = ForEachPiece(from, [&](std::string_view piece) { return WriteAll(to, rewriter.Rewrite(piece)); });
   return error != 0 ? error : WriteAll(to, rewriter.Finish());
 }
 
-// Everything of `old` behind that many bytes goes to the same place of `to`, whose own bytes there are cut.
-int CopyTail(int old, int to, std::uint64_t behind) {
-  const auto at = static_cast<off_t>(behind);
+// Cuts `to` after its first `kept` bytes and appends the rest of `old` from this position on. `old` may be -1.
+int CopyTail(int old, int to, std::uint64_t kept) {
+  const auto at = static_cast<off_t>(kept);
   if (ftruncate(to, at) != 0) return errno;
   if (old < 0) return 0;
   if (lseek(to, at, SEEK_SET) < 0 || lseek(old, at, SEEK_SET) < 0) return errno;
   return ForEachPiece(old, [to](std::string_view piece) { return WriteAll(to, piece); });
 }
 
-// Beside where that can be, otherwise in place.
+// Replaces the target by a new file if possible, otherwise overwrites the target.
 WriteOutcome WriteOver(const Target& target, NewContent content, const std::string& keep_folder, mode_t new_mode) {
   const Beside beside = WriteBeside(target, content, new_mode);
   if (!beside.try_in_place) return {.error = beside.error};

@@ -1,15 +1,16 @@
-// Reading and saving files by the system's own calls, so that a person is told the errno of the call that failed.
-// Reading takes regular files only: a device or a pipe could block for ever. A path is the bytes that the system gave.
+// Reads and saves files with system calls, so that the errno of a failed call can be shown. Only regular files are
+// read, since a device or a pipe could block forever. A path is the bytes that the system gave.
 //
-// The way of a save:
-// 1. file_target follows links to the file and looks whether it is new, old or a device.
-// 2. new_file makes a file without a name in the same folder; file_attributes gives it what the old one has.
-// 3. The content is written, and fsync brings it to the disk.
-// 4. A new name is linked; an old one is replaced by a rename.
-// 5. fsync of the folder brings the name to the disk. Only now the save counts as done.
-// Where step 2 or 4 isn't possible for an old file, it is written in place: kept_content first copies the old content
-// into a file of its own, content and name on the disk; then the new content is written and synced, and the copy
-// removed. A power cut or a kill at any moment leaves the old content or the new one.
+// The steps of a save:
+// 1. file_target follows links and finds out whether the file is new, old or a device.
+// 2. new_file creates a file without a name in the same folder. file_attributes copies the attributes of the old file.
+// 3. The content is written and brought to the disk by fsync.
+// 4. The new file gets its name. If there is an old file, the new file replaces the old file by a rename.
+// 5. fsync of the folder brings the name to the disk. Now the save is complete.
+// If step 2 or 4 is not possible, the old file is overwritten: the folder may refuse a new file, an attribute may be
+// refused, or the old file may have several names. First kept_content copies the old content into another file on the
+// disk. This copy is removed after the save. A power cut or a kill at any moment leaves the old content or the new
+// content on the disk, in the file or in the copy.
 #pragma once
 
 #include <sys/types.h>
@@ -24,34 +25,28 @@
 
 namespace pelmar {
 
-// A regular file that opens for reading.
+// Whether the path leads to a regular file that can be opened for reading.
 bool CanReadFile(const std::string& path);
 
-// All bytes that the file has as it is opened, up to the limit. EISDIR for a folder, EINVAL for anything else that
-// isn't a regular file or that the system makes up while it is read, EFBIG without a limit for more than kLongestWhole.
+// Reads the file, at most `limit` bytes. Errors: EISDIR for a folder; EINVAL for another file that is not regular, or
+// whose content the kernel invents (/proc); EFBIG if there is no limit and the file is longer than kLongestWhole bytes.
 FileBytes ReadWholeFile(const std::string& path, std::optional<std::uint64_t> limit);
 
-// See Platform::ReadByPieces; errors as above.
+// See Platform::ReadByPieces. The errors EISDIR and EINVAL are those of ReadWholeFile.
 int ReadFileByPieces(const std::string& path, const std::function<bool(std::string_view)>& take);
 
 inline constexpr std::uint64_t kLongestWhole = std::uint64_t{1} << 30;
 
-// Makes `bytes` the content of the file. A new file takes the place of the old one and gets its owner, group,
-// permissions (without set-id bits), access list and extended attributes. A link stays a link, its target is replaced.
-// `new_mode` is for a file that wasn't there, before the umask.
-//
-// Where the folder refuses that (not writable, or sticky), the new file can't have an attribute of the old one or that
-// has other names, it is written in place, if it may be written: the room is reserved and the old content kept in
-// `keep_folder` before the first old byte is touched, and after a failure it is put back. Only there can a crash in the
-// middle mix the two. A character device or a pipe gets the bytes directly.
+// Saves `bytes` in the file by the steps above. A copy of the old content, if necessary, is made in `keep_folder`. A
+// file that did not exist gets `new_mode`, before the umask. A character device or a pipe gets the bytes directly.
 WriteOutcome ReplaceFile(const std::string& path, std::string_view bytes, const std::string& keep_folder,
                          mode_t new_mode = 0666);
 
-// Writes a file that wasn't there, for its owner alone; 0 or errno. EEXIST where anything has that name, a link that
-// leads nowhere included. After a failed write nothing stays behind.
+// Creates a file that only its owner can read. Returns 0 or an errno: EEXIST if the name is taken, even by a link that
+// leads nowhere. After a failed write the file is removed.
 int CreateFile(const std::string& path, std::string_view bytes);
 
-// See Platform::RewriteFile. The source is a regular file. The target is written as by ReplaceFile.
+// See Platform::RewriteFile. The source must be a regular file. The target is written by the steps above.
 WriteOutcome RewriteFileByPieces(const std::string& source, const std::string& target, OldTail tail,
                                  FileRewriter& rewriter, const std::string& keep_folder);
 

@@ -15,10 +15,10 @@ namespace {
 
 constexpr const char* kAccessList = "system.posix_acl_access";
 
-// Rights and seals of the old content, which the system itself takes away from a file that is written.
+// Rights and signatures that belong to the old content. The kernel also removes them when a file is written.
 constexpr std::string_view kOfTheContent[] = {"security.capability", "security.ima", "security.evm"};
 
-// Calls twice: for the size, then for the bytes. Nothing where that fails; errno tells why.
+// Makes a call twice: for the size and for the bytes. Returns nothing on failure; errno has the reason.
 template <typename Call>
 std::optional<std::string> Fetch(const Call& call) {
   const ssize_t size = call(nullptr, 0);
@@ -38,12 +38,12 @@ int CopyAttribute(int file, const std::string& old_path, const char* name) {
   const auto value =
       Fetch([&](void* bytes, std::size_t size) { return lgetxattr(old_path.c_str(), name, bytes, size); });
   if (!value) return errno;
-  // A label that the system gives each file is the same already, and not everybody may set it.
+  // A security label is usually equal already, and setting a label may be forbidden.
   if (Attribute(file, name) == value) return 0;
   return fsetxattr(file, name, value->data(), value->size(), 0) == 0 ? 0 : errno;
 }
 
-// By the path, since the old file needn't be readable.
+// Takes the path of the old file, since an unreadable file can't be opened.
 int CopyAttributes(int file, const std::string& old_path) {
   const auto names = Fetch([&](char* list, std::size_t size) { return llistxattr(old_path.c_str(), list, size); });
   if (!names) return errno == ENOTSUP ? 0 : errno;
@@ -54,7 +54,7 @@ int CopyAttributes(int file, const std::string& old_path) {
     access_list = access_list || std::strcmp(name, kAccessList) == 0;
     if (const int error = CopyAttribute(file, old_path, name)) return error;
   }
-  // The folder's default list would let in others than the old file did.
+  // The access list that the folder gave to the new file could admit other users than the old file did.
   if (access_list || fremovexattr(file, kAccessList) == 0 || errno == ENODATA || errno == ENOTSUP) return 0;
   return errno;
 }
@@ -70,7 +70,7 @@ int GiveAttributes(int file, const std::string& old_path, const struct stat& old
   const mode_t mode = old.st_mode & kKeptMode;
   if (fchmod(file, mode) == 0) return 0;
   const int error = errno;
-  // A file system without permissions of its own may refuse to set those that all its files have.
+  // A file system without permissions (FAT) may refuse the call even if the file has this mode already.
   return fstat(file, &now) == 0 && (now.st_mode & 07777) == mode ? 0 : error;
 }
 

@@ -1,4 +1,4 @@
-// What a file has beside its content: owner, group, permissions, access list, extended attributes.
+// The attributes of a file: owner, group, permissions, access list and extended attributes.
 #pragma once
 
 #include <sys/stat.h>
@@ -7,11 +7,11 @@
 
 namespace pelmar {
 
-// The permissions that a rewritten file keeps. A set-id bit lent its owner's rights to the old content alone.
+// The permissions that a saved file keeps. Set-id bits are dropped: they were granted to the old content.
 inline constexpr mode_t kKeptMode = 01777;
 
-// Gives a new, open file all that the old one has. 0, or the errno of what it can't have: then it can't stand in for
-// the old file.
+// Copies all attributes of the old file to a new open file. Returns 0, or the errno of the first attribute that can't
+// be copied. In this case the new file must not replace the old file.
 int GiveAttributes(int file, const std::string& old_path, const struct stat& old);
 
 }  // namespace pelmar

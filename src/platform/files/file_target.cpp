@@ -13,7 +13,7 @@
 namespace pelmar {
 namespace {
 
-// Where the path leads once its links are followed; the last one may lead to nothing yet.
+// Replaces the path by the path that its links lead to. The last link may lead to a missing file.
 int FollowLinks(std::string& path) {
   constexpr int kMostLinks = 40;
   for (int links = 0; links < kMostLinks; ++links) {
@@ -26,7 +26,7 @@ int FollowLinks(std::string& path) {
   return ELOOP;
 }
 
-// The refusals that come from the folder, not from the disk or the content.
+// Whether the folder caused the error, not the disk or the content.
 bool FolderRefuses(int error) { return error == EACCES || error == EPERM || error == EROFS || error == EBUSY; }
 
 int Fill(int to, const Target& target, const NewContent& content) {
@@ -39,21 +39,21 @@ int Fill(int to, const Target& target, const NewContent& content) {
   return Sync(to);
 }
 
-// The room for all of it, so that a full disk is met before the first old byte is touched. A file system that can't
-// reserve has said nothing about the room.
+// Reserves space for the new content, so that a full disk is noticed before the first byte changes. Returns 0 if the
+// file system can't reserve space.
 int Reserve(int file, std::uint64_t size) {
   if (size == 0 || fallocate(file, FALLOC_FL_KEEP_SIZE, 0, static_cast<off_t>(size)) == 0) return 0;
   return errno == ENOSPC || errno == EDQUOT || errno == EFBIG ? errno : 0;
 }
 
-// What lies at the path; an errno where that can't be written.
+// Fills in what lies at the path. Returns 0, or an errno if the target can't be written.
 int Look(Target& target) {
   if (stat(target.path.c_str(), &target.old) != 0) return errno != ENOENT || target.path.ends_with('/') ? errno : 0;
   const mode_t mode = target.old.st_mode;
   if (S_ISDIR(mode)) return EISDIR;
   target.kind = S_ISREG(mode) ? Target::kOld : Target::kDevice;
   if (target.kind == Target::kDevice) return S_ISCHR(mode) || S_ISFIFO(mode) ? 0 : EINVAL;
-  // The rename needs no permission on the old file, but the person has protected it.
+  // A rename would succeed without this permission, but a file that its owner has protected stays protected.
   return faccessat(AT_FDCWD, target.path.c_str(), W_OK, AT_EACCESS) == 0 ? 0 : errno;
 }
 
@@ -74,7 +74,7 @@ Target FindTarget(const std::string& path) {
 
 Beside WriteBeside(const Target& target, const NewContent& content, mode_t new_mode) {
   const bool old = target.kind == Target::kOld;
-  // Other names of the file have to lead to the new content too.
+  // All names of the file must lead to the new content.
   if (old && target.old.st_nlink > 1) return {.error = EMLINK, .try_in_place = true};
   NewFile file(target.path, old ? 0600 : new_mode);
   if (file.Error() != 0) return {.error = file.Error(), .try_in_place = old && FolderRefuses(file.Error())};
@@ -101,7 +101,7 @@ WriteOutcome WriteInPlace(const Target& target, const NewContent& content, const
     return {.error = error, .kept = kept.Path()};
   }
   kept.Remove();
-  // Where the writer isn't the owner, the system has taken the set-id bits away.
+  // Drops the set-id bits. If the writer isn't the owner, the call fails, but the kernel has dropped the bits already.
   if (error == 0 && (target.old.st_mode & (S_ISUID | S_ISGID)) != 0)
     fchmod(file.Number(), target.old.st_mode & kKeptMode);
   return {.error = error};

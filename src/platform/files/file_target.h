@@ -1,5 +1,4 @@
-// What a save writes to, and the two ways of writing over an old file: a new file beside that takes its place, or the
-// old file itself.
+// The target of a save, and the two ways to save into an old file: to replace the file and to overwrite the file.
 #pragma once
 
 #include <sys/stat.h>
@@ -14,35 +13,34 @@
 namespace pelmar {
 
 struct Target {
-  int error = 0;     // why it can't be written
+  int error = 0;     // 0, or the errno of why the target can't be written
   std::string path;  // without links
   enum Kind { kNew, kOld, kDevice } kind = kNew;
   struct stat old {};
 };
 
-// What there is to write to.
+// Finds the target that the path and its links lead to.
 Target FindTarget(const std::string& path);
 
 struct NewContent {
-  // Writes the content into `to`, which stands at its start, and cuts that behind it. `old` is open on the old content
-  // where `reads_old` asks for it and there is one, otherwise -1. Called once. 0 or errno.
+  // Writes the content into `to` from the start and cuts the rest of `to`. If `reads_old` is set and there is an old
+  // file, `old` is open at its start, otherwise `old` is -1. Returns 0 or an errno. Called once.
   std::function<int(int to, int old)> fill;
   bool reads_old = false;
-  std::uint64_t size = 0;  // 0 where it isn't known before
+  std::uint64_t size = 0;  // in bytes, 0 if unknown
 };
 
 struct Beside {
   int error = 0;
-  bool try_in_place = false;          // it is the folder or the old file's attributes that stand against it
-  Descriptor content = Descriptor();  // open on the whole new content, where that was made all the same
+  bool try_in_place = false;          // the error comes from the folder or from the attributes of the old file
+  Descriptor content = Descriptor();  // the new file, if its content is complete but its rename failed
 };
 
-// The target is new or old. `new_mode` is for a new one, before the umask.
+// Writes a new file with the name of the target, which is no device. A new target gets `new_mode`, before the umask.
 Beside WriteBeside(const Target& target, const NewContent& content, mode_t new_mode);
 
-// Writes over the old target itself. Before its first byte changes, the old content lies whole on the disk, in a file
-// of `keep_folder` (with its separator) that only its owner can read; after a failure it is put back. Where that fails
-// too, the outcome names the file.
+// Overwrites an old target. First copies the old content to a file in `keep_folder` (with its separator) that only its
+// owner can read. After a failure restores the old content. If the restoring fails too, the outcome names the copy.
 WriteOutcome WriteInPlace(const Target& target, const NewContent& content, const std::string& keep_folder);
 
 }  // namespace pelmar

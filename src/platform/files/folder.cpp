@@ -18,7 +18,7 @@ int MakeFolder(const std::string& path) {
     if (const int error = MakeFolder(above)) return error;
   if (mkdir(path.c_str(), kOwnerAlone) != 0) {
     const int error = errno;
-    return std::filesystem::is_directory(path, none) ? 0 : error;  // another copy of the program has been faster
+    return std::filesystem::is_directory(path, none) ? 0 : error;  // another process may have made the folder
   }
   const Descriptor made(open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (made.IsOpen()) SyncFolderOf(path, made.Number());

@@ -5,8 +5,8 @@
 
 namespace pelmar {
 
-// Makes a folder for its owner alone, and those above it that are missing; returns when their names are on the disk.
-// 0, also where it is there already, or errno.
+// Creates a folder and its missing parent folders; only their owner can enter them. Waits until the names are on the
+// disk. Returns 0 or an errno. An existing folder gives 0.
 int MakeFolder(const std::string& path);
 
 }  // namespace pelmar

@@ -14,7 +14,7 @@ namespace {
 constexpr char kStart[] = "puvodni-";
 constexpr mode_t kWritable = 0222;
 
-// "puvodni-", six characters, and nothing more or "-" and the name of the file that was saved.
+// A name is "puvodni-" and six characters. "-" and the name of the saved file may follow.
 bool IsNameOfKept(const std::string& name) {
   constexpr std::size_t kSize = sizeof kStart - 1 + 6;
   return name.starts_with(kStart) && (name.size() == kSize || (name.size() > kSize && name[kSize] == '-'));
@@ -30,7 +30,7 @@ bool IsLeft(const std::string& path) {
 }  // namespace
 
 int KeptContent::Keep(int file, const std::string& path, const std::string& folder) {
-  constexpr std::size_t kLongestName = 200;  // in bytes; one of a file may have 255
+  constexpr std::size_t kLongestName = 200;  // in bytes; a file name may have 255
   std::string name = "-" + path.substr(FolderOf(path).size());
   if (name.size() > kLongestName) name.clear();
   copy_.emplace(folder, 0600);

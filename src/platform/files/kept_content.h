@@ -1,6 +1,6 @@
-// The old content of a file that is written in place, in a file "puvodni-*" of the install folder: made before the
-// first old byte changes, removed when the new content is on the disk. A lock tells that its save is under way. One
-// that a killed save has left is told to the person once; it is read-only from then on.
+// A copy of the old content of a file that is overwritten, stored as "puvodni-*" in the install folder. The copy is
+// made before the first byte changes and removed when the new content is on the disk. During the save the copy is
+// locked. If a save is killed, its copy remains: the person is notified once, then the copy is read-only.
 #pragma once
 
 #include <optional>
@@ -13,10 +13,10 @@ namespace pelmar {
 
 class KeptContent {
  public:
-  // Copies the whole open `file`, which has this path, into `folder` (with its separator), for its owner alone, and
-  // waits until the copy is on the disk. 0 or errno; then there is no copy.
+  // Copies the open `file` of this path to `folder` (with its separator) and waits until the copy is on the disk. Only
+  // its owner can read the copy. Returns 0, or an errno if there is no copy.
   int Keep(int file, const std::string& path, const std::string& folder);
-  // Makes the copy the content of the file again. 0 or errno.
+  // Restores the content of the file from the copy. Returns 0 or an errno.
   int PutBack(int file);
   void Remove();
   [[nodiscard]] const std::string& Path() const { return path_; }
@@ -27,10 +27,10 @@ class KeptContent {
   std::string path_;
 };
 
-// The paths of copies in the folder whose save was killed, and that nobody was told of.
+// The paths of copies in the folder that killed saves have left and that the person does not know yet.
 std::vector<std::string> FindLeftContents(const std::string& folder);
 
-// From now on the person knows of this copy.
+// Makes the copy read-only, which marks the copy as known to the person.
 void MarkAsTold(const std::string& path);
 
 }  // namespace pelmar

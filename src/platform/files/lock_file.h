@@ -1,5 +1,5 @@
-// A file that nobody reads: the lock on it tells other copies of the program that its holder lives. The system drops
-// the lock of a process that dies.
+// An empty file with a lock. The lock shows other copies of the program that its holder is running. The kernel releases
+// the lock when its process ends.
 #pragma once
 
 #include <string>
@@ -15,10 +15,10 @@ class LockFile {
   LockFile& operator=(const LockFile&) = delete;
   ~LockFile() { Release(); }
 
-  // Makes the file where it is missing. 0 or errno: EAGAIN where another copy holds it.
+  // Locks the file and creates the file if missing. Returns 0 or an errno: EAGAIN if another copy holds the lock.
   int Take(const std::string& path);
   [[nodiscard]] bool IsHeld() const { return file_.IsOpen(); }
-  // Removes the file. Does nothing where the lock isn't held.
+  // Removes the file. Does nothing if the lock is not held.
   void Release();
 
  private:

@@ -14,7 +14,7 @@ constexpr std::string_view kLetters = "abcdefghijklmnopqrstuvwxyz012345";
 constexpr std::size_t kDrawn = 6;
 constexpr int kMostTries = 100;
 
-// "" where the system has no random numbers.
+// Draws random letters. "" if the system has no random numbers; errno has the reason.
 std::string DrawLetters() {
   std::array<unsigned char, kDrawn> draw{};
   if (getentropy(draw.data(), draw.size()) != 0) return "";
@@ -23,7 +23,7 @@ std::string DrawLetters() {
   return letters;
 }
 
-// Calls `take` with drawn names until one is free.
+// Calls `take` with random names until a name is free. Returns the result of `take`, 0 or an errno.
 template <typename Take>
 int TryNames(const std::string& start, const std::string& end, const Take& take) {
   for (int tries = 0; tries < kMostTries; ++tries) {
@@ -40,7 +40,8 @@ int Link(int file, const std::string& name) {
   return linkat(AT_FDCWD, unnamed.c_str(), AT_FDCWD, name.c_str(), AT_SYMLINK_FOLLOW) == 0 ? 0 : errno;
 }
 
-// A file on a server may report a lost write only when it is closed, and the content may still be needed.
+// Closes a duplicate of the descriptor, since a file server may report a failed write only on close. The file stays
+// open because its content may still be needed.
 int CloseOnce(int file) {
   const int again = fcntl(file, F_DUPFD_CLOEXEC, 0);
   return again >= 0 && close(again) == 0 ? 0 : errno;
@@ -50,7 +51,7 @@ int CloseOnce(int file) {
 
 NewFile::NewFile(const std::string& beside, mode_t mode) : folder_(FolderOf(beside)) {
   const char* const folder = folder_.empty() ? "." : folder_.c_str();
-  // The name is given through /proc.
+  // A file without a name gets its name through /proc later.
   if (access("/proc/self/fd", X_OK) == 0) file_ = Descriptor(open(folder, O_TMPFILE | O_RDWR | O_CLOEXEC, mode));
   if (!file_.IsOpen()) error_ = Draw(mode);
 }
@@ -75,7 +76,7 @@ int NewFile::TakeNewName(const std::string& path) {
   if (name_.empty()) return Link(file_.Number(), path);
   const bool renamed = renameat2(AT_FDCWD, name_.c_str(), AT_FDCWD, path.c_str(), RENAME_NOREPLACE) == 0;
   if (!renamed && errno != EINVAL && errno != ENOSYS) return errno;
-  // A disk that can't do that may have hard links, which replace nothing either.
+  // The file system lacks a rename that replaces nothing. A hard link replaces nothing either.
   if (!renamed && link(name_.c_str(), path.c_str()) != 0) return errno == EEXIST ? EEXIST : TakeNameOf(path);
   if (!renamed) unlink(name_.c_str());
   name_.clear();

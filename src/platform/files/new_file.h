@@ -1,7 +1,7 @@
-// A file in the making, which takes its place under a name when it is complete. Until then it has no name at all where
-// the file system can do that, so that nothing of it stays behind if the program is killed. Elsewhere, and for the
-// moment of a replacement, it has a drawn one, ".pelmar-" and six characters. What a kill leaves of that stays: nobody
-// could tell it from a person's own file of such a name.
+// A new file that gets its name when its content is complete. If the file system allows, the file has no name before,
+// so that nothing remains if the program is killed. Otherwise, and briefly during a replacement, the file has a
+// temporary name: ".pelmar-" and six random characters. If the program is killed, this file remains, since a file of
+// such a name could belong to the person.
 #pragma once
 
 #include <sys/types.h>
@@ -14,21 +14,22 @@ namespace pelmar {
 
 class NewFile {
  public:
-  // In the folder of that path; see Error. `mode` is before the umask.
+  // Creates the file in the folder of the path `beside`. `mode` is before the umask. Error() is 0 or an errno.
   NewFile(const std::string& beside, mode_t mode);
   NewFile(const NewFile&) = delete;
   NewFile& operator=(const NewFile&) = delete;
-  ~NewFile();  // A drawn name goes.
+  ~NewFile();  // removes a file that still has its temporary name
 
   [[nodiscard]] int Error() const { return error_; }
   [[nodiscard]] int Number() const { return file_.Number(); }
 
-  // All three give 0 or an errno. The name is on the disk only after SyncFolderOf.
-  // EEXIST where anything has that name.
+  // These functions return 0 or an errno. The name is on the disk only after SyncFolderOf.
+
+  // Gives the file a new name. EEXIST if the name is taken.
   int TakeNewName(const std::string& path);
-  // `start`, six drawn characters and `end`; `taken` becomes the whole.
+  // Gives the file the name `start`, six random characters and `end`. `taken` becomes the whole name.
   int TakeFreeName(const std::string& start, const std::string& end, std::string& taken);
-  // Puts the file in the place of the one that has the name.
+  // Replaces the file that has the name.
   int TakeNameOf(const std::string& path);
 
  private:
@@ -36,7 +37,7 @@ class NewFile {
 
   std::string folder_;  // "" or with its separator
   Descriptor file_;
-  std::string name_;  // the drawn one, "" while there is none
+  std::string name_;  // the temporary name, or ""
   int error_ = 0;
 };
 

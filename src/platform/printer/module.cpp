@@ -9,10 +9,10 @@
 namespace pelmar {
 namespace {
 
-// The print server may refuse a job, which the toolkit doesn't tell: the server's library, loaded by the toolkit where
-// it uses it, remembers the answer to this thread's last request.
+// The print server may refuse a job, and Qt doesn't report the refusal. The library of the server, loaded by Qt if
+// there is a server, remembers the answer to the last request of this thread.
 bool ServerHasRefused() {
-  constexpr int kFirstFailure = 0x0100;  // of the Internet Printing Protocol's status codes
+  constexpr int kFirstFailure = 0x0100;  // the lowest error status of the Internet Printing Protocol
   const auto last_answer = reinterpret_cast<int (*)()>(QLibrary::resolve(QStringLiteral("cups"), 2, "cupsLastError"));
   return last_answer != nullptr && last_answer() >= kFirstFailure;
 }

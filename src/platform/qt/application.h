@@ -1,4 +1,4 @@
-// The application object: the program's own rather than the toolkit's answer to an error that no command caught.
+// The application object. It routes keys and handles errors that no command caught.
 #pragma once
 
 #include <QApplication>
@@ -14,12 +14,11 @@ class Application : public QApplication {
 
   bool notify(QObject* receiver, QEvent* event) override;
 
-  // Called with a RuntimeError that no handler of the program caught, or with ENOMEM where memory has run out; doesn't
-  // return.
+  // Called with an uncaught RuntimeError, or with ENOMEM if memory has run out. Must not return.
   std::function<void(const RuntimeError&)> on_runtime_error;
 };
 
-// Ends the program with this status when the event at hand is over, also where its loop hasn't begun yet.
+// Ends the program with this status after the current event. May be called before the event loop starts.
 void EndProgram(int status);
 
 }  // namespace pelmar

@@ -5,7 +5,7 @@
 namespace pelmar {
 namespace {
 
-// Added to a byte that is no UTF-8, it makes a surrogate that no text in UTF-8 gives.
+// This value plus a byte that is not UTF-8 gives a surrogate, which no UTF-8 text contains.
 constexpr char16_t kEscape = 0xDC00;
 
 bool IsEscape(const QString& path, qsizetype at) {
@@ -13,7 +13,7 @@ bool IsEscape(const QString& path, qsizetype at) {
   return unit >= kEscape + 0x80 && unit <= kEscape + 0xFF && (at == 0 || !path[at - 1].isHighSurrogate());
 }
 
-// `malformed` gives what stands for a byte that is no UTF-8.
+// `malformed` returns the replacement for a byte that is not UTF-8.
 template <typename Malformed>
 QString Decoded(std::string_view utf8, Malformed malformed) {
   if (IsUtf8(utf8)) return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));

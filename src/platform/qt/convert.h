@@ -1,5 +1,5 @@
-// Between the core's strings and Qt's. Text means Windows-1250, message means UTF-8. A path is the bytes that the
-// system gave: UTF-8 as a rule, but names on old disks are in Windows-1250.
+// Converts between the strings of the core and of Qt. A text is Windows-1250. A path is the bytes that the system gave:
+// usually UTF-8, but names on old disks may be Windows-1250.
 #pragma once
 
 #include <QByteArray>
@@ -16,21 +16,21 @@ namespace pelmar {
 QString TextToQString(std::string_view text);
 std::string TextFromQString(const QString& string);
 
-// For the eye: bytes that are no UTF-8, such as those of a path in a message, show as they do in Windows-1250.
+// For display. Bytes that are not UTF-8, such as parts of a path in a message, are read as Windows-1250.
 QString Utf8ToQString(std::string_view utf8);
 inline std::string Utf8FromQString(const QString& string) { return string.toStdString(); }
 
-// A path and back without a loss: each byte that is no UTF-8 stands as a lone surrogate U+DC80 to U+DCFF. Such a string
-// goes through the toolkit's lists and properties, but neither to the eye (ShownPath) nor to its file functions.
+// Converts a path without loss. Each byte that is not UTF-8 becomes a lone surrogate U+DC80 to U+DCFF. Qt's lists and
+// properties keep such a string, but Qt's file functions can't use such a string. ShownPath is for display.
 QString PathToQString(std::string_view path);
 std::string PathFromQString(const QString& path);
 QString ShownPath(const QString& path);
 
-// A file's URL and back; the bytes of its path are kept in both directions.
+// Converts a path to a file URL and back without loss.
 QUrl UrlOfPath(std::string_view path);
 std::string PathOfUrl(const QUrl& url);
 
-// A window's title. "[*]" is a placeholder of the toolkit's; doubled it stands for itself.
+// The title for a window. Doubles "[*]", which is a placeholder for Qt.
 inline QString PlainTitle(std::string_view utf8) {
   return Utf8ToQString(utf8).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
 }

@@ -1,4 +1,4 @@
-// The order of the Czech language ("ch" behind "h", "č" behind "c"), ignoring case, for texts and for file names.
+// Czech alphabetical order ("ch" after "h", "č" after "c"), ignoring case, for texts and file names.
 #pragma once
 
 #include <QCollator>

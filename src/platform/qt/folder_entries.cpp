@@ -24,18 +24,18 @@ namespace pelmar {
 namespace {
 
 bool MatchesOne(QStringView name, QStringView mask) {
-  qsizetype at = 0, in_mask = 0, star = -1, behind_star = 0;
+  qsizetype at = 0, in_mask = 0, star = -1, after_star = 0;
   while (at < name.size()) {
     const QChar wanted = in_mask < mask.size() ? mask[in_mask] : QChar();
     if (wanted == u'*') {
       star = in_mask++;
-      behind_star = at;
+      after_star = at;
     } else if (in_mask < mask.size() && (wanted == u'?' || wanted.toCaseFolded() == name[at].toCaseFolded())) {
       ++in_mask;
       ++at;
     } else if (star >= 0) {
       in_mask = star + 1;
-      at = ++behind_star;
+      at = ++after_star;
     } else {
       return false;
     }
@@ -48,7 +48,8 @@ bool LiesInHidden(const QString& path) { return path.contains(QLatin1String("/."
 
 enum class Kind { kFolders, kFiles };
 
-// Only a link, or where the file system keeps no kinds, costs a look at the file itself.
+// The sorted names that `wanted` accepts. A file itself is examined only if the file is a link or if the file system
+// doesn't store kinds in folders.
 QStringList NamesOf(const QString& path, Kind kind, const std::function<bool(const QString&)>& wanted) {
   const QCollator collator = CzechCollator();
   std::vector<std::pair<QCollatorSortKey, QString>> names;

@@ -1,6 +1,6 @@
-// What the file browser's lists show: the entries of a folder, by name and kind alone, in Czech order. Paths and names
-// are as PathToQString gives them; masks and the order go by what a person sees of them. A folder of
-// tens of thousands of files must open at once, so nothing is asked about a file beyond what its folder says.
+// The entries of a folder for the lists of the file browser, in Czech order. Paths and names come from PathToQString.
+// Masks and the order use the displayed names. A folder with tens of thousands of files must open at once, so only
+// names and kinds are read, which the folder itself stores.
 #pragma once
 
 #include <QString>
@@ -9,29 +9,29 @@
 
 namespace pelmar {
 
-// Several masks separated by ";", of "*" and "?", case ignored. "*.*" is every name, and so is no mask at all.
+// Whether the name matches a mask with "*" and "?", ignoring case. "*.*" and an empty list match every name.
 bool MatchesMask(QStringView name, const QStringList& masks);
+// Splits masks at ";".
 QStringList SplitMask(const QString& mask);
 
-// False where the folder can't be listed and entered.
+// Whether the folder can be listed and entered.
 bool IsReadableFolder(const QString& path);
 
 // The current folder of the process.
 QString CurrentFolder();
-// The whole path of a folder, without "." and "..", and without a separator at its end.
+// The absolute path of a folder, without ".", ".." and a separator at its end.
 QString CleanFolder(const QString& path);
 
-// The names, sorted. Those that begin with a full stop are hidden from both: folders unless `path` itself lies in a
-// hidden one, files also unless a mask begins with a full stop. Links count as what they lead to. Nothing for a folder
-// that can't be read.
+// The sorted names, or an empty list if the folder can't be read. A link counts as its target. Names that begin with
+// "." are hidden: they are listed only in a hidden folder, and by FilesOf if a mask begins with ".".
 QStringList SubfoldersOf(const QString& path);
 QStringList FilesOf(const QString& path, const QString& mask);
 
-// Where a person looks for files: their home, "/", and what is mounted at the usual places for removable and other
-// disks. `mounts` is the system's table of mounts; no disk is asked, as a dead server would never answer.
+// The places where a person looks for files: the home folder, "/" and the mounted disks. `mounts` is the path of the
+// system's table of mounts. The disks are not accessed, because a dead server would never answer.
 QStringList MountedPlaces(const QString& home, const QString& mounts = QStringLiteral("/proc/self/mounts"));
 
-// The place that `path` lies in, the deepest of several; "" where there is none.
+// The deepest of the places that contain `path`, or "".
 QString PlaceOf(const QString& path, const QStringList& places);
 
 }  // namespace pelmar

@@ -1,4 +1,4 @@
-// What stands in for the three fonts that the program names, on a system that has none of them.
+// Substitutes for the three fonts that the program names, for systems without these fonts.
 #pragma once
 
 namespace pelmar {

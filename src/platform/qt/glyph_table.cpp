@@ -82,7 +82,7 @@ void GlyphTable::FillFromFont(const QFont& font) {
   }
 }
 
-// The system knows which of its fonts has the glyph; laying out the one letter asks it.
+// Lays out the letter, so that Qt picks a fallback font that has the glyph.
 void GlyphTable::FillFromFallback(const QFont& font, std::size_t code) {
   QTextLayout layout(QString(QChar(UnicodeOf(static_cast<unsigned char>(code)))), font);
   layout.beginLayout();
@@ -111,7 +111,7 @@ void GlyphTable::FillSigns(const QFont& font) {
   }
 }
 
-// In whole pixels, the gap behind it included.
+// In whole pixels, with the gap after the sign.
 qreal GlyphTable::SignWidth(unsigned char code) const {
   qreal width = 2 * kSignPadding + kSignGap;
   const QList<quint32> glyphs = sign_face_.glyphIndexesForString(SignName(code));

@@ -1,6 +1,6 @@
-// What a font makes of the 256 codes: one glyph and one advance each, without shaping, so that painting and positions
-// are equal. Glyphs that the font lacks come from the system's fallback fonts. Control characters other than TAB have
-// no glyph and show their short name on a tinted field.
+// The glyph and the advance of each of the 256 codes in a font. Letters are not shaped, so painted places equal
+// computed places. Missing glyphs come from the system's fallback fonts. A control character other than TAB is shown as
+// a sign: its short name on a tinted field.
 #pragma once
 
 #include <QColor>
@@ -20,19 +20,18 @@ class GlyphTable {
   explicit GlyphTable(const QFont& font);
 
   [[nodiscard]] const AdvanceTable& Advances() const { return advances_; }
-  // Whole pixels, so that rows scroll without seams.
+  // In whole pixels, so that rows scroll without gaps.
   [[nodiscard]] int RowHeight() const { return row_height_; }
   [[nodiscard]] int Ascent() const { return ascent_; }
 
-  // Where a part of a row ends that begins at `x`, in layout units.
+  // The right end of a text that begins at `x`, both in layout units from the beginning of the row.
   [[nodiscard]] std::int64_t EndOf(std::int64_t x, std::string_view text) const;
 
-  // Draws a part of a row. `x` is its distance from the row's beginning, in layout units (tab stops count from there);
-  // `origin` is where the row begins, on the top edge.
+  // Draws a part of a row. `x` is the beginning of the part, in layout units from the beginning of the row. Tab stops
+  // count from the beginning of the row. `origin` is the upper left corner of the row.
   void Draw(QPainter& painter, QPointF origin, std::int64_t x, std::string_view text, const QColor& colour) const;
 
-  // One character by itself, where a TAB shows by its name like the other control characters. The width is in pixels,
-  // `at` the character's upper left corner.
+  // For a single character. A TAB is shown as a sign too. The width is in pixels; `at` is the upper left corner.
   [[nodiscard]] qreal WidthAlone(char ch) const;
   void DrawAlone(QPainter& painter, QPointF at, char ch, const QColor& colour) const;
 
@@ -62,15 +61,14 @@ class GlyphTable {
   int ascent_ = 0;
   bool underline_ = false;
   bool strike_out_ = false;
-  mutable std::vector<Run> runs_;  // room that painting uses again and again
+  mutable std::vector<Run> runs_;  // memory that each Draw reuses
 };
 
-// True for the codes that have no picture of their own and are shown by name.
+// Whether rows show the code as a sign. False for TAB.
 bool IsControlSign(unsigned char code);
-// That name: "CR", "DEL", or the code in hexadecimal; for a TAB too.
+// The name of a control character, TAB included: "CR", "DEL", or the code in hexadecimal.
 QString SignName(unsigned char code);
-// A text for labels and lists, with the names of its control characters, TAB included, in their places: some would
-// break the line, the others can't be seen.
+// A text for labels and lists. Names replace control characters, TAB included, which break lines or are invisible.
 QString ReadableText(std::string_view text);
 
 }  // namespace pelmar

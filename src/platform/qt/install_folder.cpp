@@ -29,7 +29,7 @@ ChosenFolder FindInstallFolder(const QString& program_folder, const QString& dat
   const int error = MakeFolder(own);
   if (error == 0) return {.path = own + '/'};
   const std::string passing = PathIn(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation));
-  // Where nothing can be made, the first file step reports the error.
+  // If both folders fail, the first write of a file reports the error.
   if (MakeFolder(passing) != 0) return {.path = own + '/'};
   return {.path = passing + '/', .refused = own, .error = error};
 }

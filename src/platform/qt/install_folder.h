@@ -1,4 +1,4 @@
-// Where the program keeps its settings, notes and recovery files.
+// The install folder, where the program keeps its settings, notes and recovery files.
 #pragma once
 
 #include <QString>
@@ -8,17 +8,17 @@ namespace pelmar {
 
 struct ChosenFolder {
   std::string path;  // with "/" at the end
-  // Where the folder of the user's data can't be made: that one, and the errno.
+  // Set if the folder in the user's data can't be created: its path and the errno.
   std::string refused = {};
   int error = 0;
 };
 
-// The program's own folder when a `pelmar.ini` or an empty file `portable` lies in it, otherwise the folder
-// `pelmar-vex` of the user's data, which is made (for the user alone) where it is missing. Where that fails, a folder
+// The folder of the program if it contains `pelmar.ini` or an empty file `portable`. Otherwise the folder `pelmar-vex`
+// in the user's data, which is created if missing; only the user can enter this folder. If the creation fails, a folder
 // that the system removes when the user logs out.
 ChosenFolder FindInstallFolder(const QString& program_folder, const QString& data_home);
 
-// What a person is told of the third case, UTF-8; "" in the others.
+// The message about the third case, in UTF-8. "" in the other cases.
 std::string InstallFolderNotice(const ChosenFolder& folder);
 
 }  // namespace pelmar

@@ -11,7 +11,7 @@ bool IsBareInsert(const QKeyEvent& event) {
   return event.key() == Qt::Key_Insert && (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
 }
 
-// A held Enter goes on breaking lines and a held Delete goes on erasing characters.
+// Whether Enter breaks lines in the widget, or Delete erases characters. In such a widget a held key repeats.
 bool EditsTextWith(int key, const QWidget& receiver) {
   if (receiver.inputMethodQuery(Qt::ImReadOnly).toBool()) return false;
   if (key == Qt::Key_Delete) return receiver.inputMethodQuery(Qt::ImCursorPosition).isValid();
@@ -31,14 +31,14 @@ void KeyRouter::Add(KeyTurn turn, QWidget& scope, KeyTaker taker) {
 }
 
 bool KeyRouter::Takes(QWidget& receiver, QKeyEvent& event) {
-  // Keys that the program itself hands on come from no keyboard, so nobody holds them.
+  // A key that the program itself sends is never held.
   if (event.spontaneous() && HoldsBack(receiver, event)) {
-    event.accept();  // or the toolkit would look for a shortcut of this key
+    event.accept();  // otherwise Qt would look for a shortcut of this key
     return true;
   }
   if (event.type() != QEvent::KeyPress) return false;
   if (IsBareInsert(event) && !IsRepeat(event)) insert_on_ = !insert_on_;
-  // Copies, since a taker may open windows, which adds entries, or close its own.
+  // Copies the entries, since a taker may open or close windows, which changes the list.
   std::vector<Entry> asked;
   std::ranges::copy_if(entries_, std::back_inserter(asked), [&receiver](const Entry& entry) {
     return entry.scope == &receiver || (entry.scope && entry.scope->isAncestorOf(&receiver));
@@ -46,15 +46,15 @@ bool KeyRouter::Takes(QWidget& receiver, QKeyEvent& event) {
   return std::ranges::any_of(asked, [&](const Entry& entry) { return entry.takes(receiver, event); });
 }
 
-// The display server sends a held key as releases and presses with one time stamp for both. The toolkit marks only
-// those presses as repeats that have arrived when it reads the release, and misses many on a busy machine.
+// The display server repeats a held key as a release and a press with equal time stamps. Qt marks a press as a repeat
+// only if the press has arrived when Qt reads the release. On a busy machine Qt misses many repeats.
 bool KeyRouter::IsRepeat(const QKeyEvent& press) const {
   const bool just_released = press.key() == released_key_ && press.timestamp() == released_at_;
   return press.isAutoRepeat() || (just_released && released_at_ != 0);
 }
 
-// True for a repeat of Enter or Delete where the key was pressed in another widget, for its first press may have opened
-// or closed a window, and where the widget has no text for the key to edit, so that no button is pressed twice.
+// Holds back a repeat of Enter or Delete in two cases: if the first press went to another widget, because the first
+// press may have opened or closed a window; and if the key edits no text, so that no button is pressed twice.
 bool KeyRouter::HoldsBack(const QWidget& receiver, const QKeyEvent& event) {
   const int key = event.key();
   if (event.type() == QEvent::KeyRelease) {

@@ -1,4 +1,4 @@
-// Decides who gets a key that is on its way to the widget with the keyboard. The application asks it once for each key.
+// Decides which part of the program gets a key, before the widget with the keyboard focus gets the key.
 #pragma once
 
 #include <QPointer>
@@ -10,31 +10,31 @@ class QKeyEvent;
 
 namespace pelmar {
 
-// Who is asked, in this order; the first that takes the key ends the round. Before them the toolkit runs shortcuts and
-// the router stops a held Enter or Delete. A key that nobody takes goes to the widget with the keyboard. What that one
-// ignores goes to the widgets around it, up to the window: so Enter in a field comes to its dialog.
+// The order in which takers are asked, until one of them takes the key. Before, Qt runs shortcuts, and the router stops
+// a held Enter or Delete. A key that no taker takes goes to the focused widget. A key that this widget ignores goes to
+// its parents, up to the window. In this way Enter in a field reaches its dialog.
 enum class KeyTurn {
-  kTabs,    // the physical number keys pick a tab
-  kMenu,    // keys of items that the menu still shows grey
+  kTabs,    // the physical number keys select a tab
+  kMenu,    // keys of menu items that are still disabled
   kField,   // Enter and arrow keys in one field, list or toolbar
-  kWindow,  // windows that get all keys: calculator, converter, character table, keyboard on the screen, welcome
+  kWindow,  // windows that get all keys: calculator, converter, character table, on-screen keyboard, welcome
 };
 
-// Returns true when it takes the key.
+// Returns true if the taker handles the key, so that nobody else gets the key.
 using KeyTaker = std::function<bool(QWidget& receiver, QKeyEvent& press)>;
 
 class KeyRouter {
  public:
-  // There is one keyboard.
+  // The only router, since there is only one keyboard.
   static KeyRouter& Get();
 
-  // Asks the taker for each key press that `scope` or a widget inside it would get, as long as `scope` lives.
+  // Adds a taker, which is asked about key presses for `scope` and the widgets inside, until `scope` is deleted.
   void Add(KeyTurn turn, QWidget& scope, KeyTaker taker);
 
-  // Gets each key event for a widget, in order. True when the widget must not get it.
+  // Call with each key event for a widget, in order. True if the widget must not get the event.
   bool Takes(QWidget& receiver, QKeyEvent& event);
 
-  // The Insert key has no lamp: the program keeps its state, which changes with each press of the bare key.
+  // The router keeps the state of the Insert key, since the system has none. Pressing Insert alone toggles the state.
   [[nodiscard]] bool InsertIsOn() const { return insert_on_; }
 
  private:
@@ -49,8 +49,8 @@ class KeyRouter {
 
   std::vector<Entry> entries_;  // by turn
   int released_key_ = 0;
-  quint64 released_at_ = 0;             // ms, on the clock of the events
-  QPointer<const QWidget> pressed_in_;  // got the last first press of Enter or Delete
+  quint64 released_at_ = 0;             // ms, the time stamp of the event
+  QPointer<const QWidget> pressed_in_;  // the widget of the last press of Enter or Delete that was not a repeat
   bool insert_on_ = false;
 };
 

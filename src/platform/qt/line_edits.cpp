@@ -12,7 +12,7 @@
 namespace pelmar {
 namespace {
 
-// A dropped text as the field takes it, on its way to the toolkit.
+// Marks a dropped text whose line breaks are already converted.
 class LineMime : public QMimeData {};
 
 void Paste(QLineEdit& field, QClipboard::Mode mode) {
@@ -24,7 +24,7 @@ void ShowMenu(QLineEdit& field, QPoint at) {
   QMenu* menu = field.createStandardContextMenu();
   menu->setAttribute(Qt::WA_DeleteOnClose);
   for (QAction* action : menu->actions()) {
-    if (!action->text().startsWith(QLineEdit::tr("&Paste"))) continue;  // it has no name
+    if (!action->text().startsWith(QLineEdit::tr("&Paste"))) continue;  // the action has no name
     action->disconnect(&field);
     QObject::connect(action, &QAction::triggered, &field, [&field] { Paste(field, QClipboard::Clipboard); });
   }
@@ -58,7 +58,7 @@ bool TakePasted(QLineEdit& field, QEvent& event) {
     Paste(field, QClipboard::Selection);
     return true;
   }
-  // What the person moves within the field is there already.
+  // A text that is dragged within the field needs no conversion.
   if (event.type() != QEvent::Drop) return false;
   auto& drop = static_cast<QDropEvent&>(event);
   if (drop.source() == &field || dynamic_cast<const LineMime*>(drop.mimeData())) return false;

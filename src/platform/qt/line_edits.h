@@ -1,5 +1,5 @@
-// What the toolkit's single-line fields get wrong: they cut each text at 32,767 characters without a word, and put the
-// lone LF of other programs into it.
+// Mends two faults of Qt's single-line fields: they silently cut a text at 32,767 characters, and they keep the lone LF
+// of a text from other programs.
 #pragma once
 
 #include <QLineEdit>
@@ -9,11 +9,11 @@ namespace pelmar {
 
 inline void TakeAnyLength(QLineEdit& field) { field.setMaxLength(std::numeric_limits<int>::max()); }
 
-// A dynamic property. The line breaks of a pasted or dropped text stay in a field that has it, in others they go.
+// A dynamic property of a field. The field keeps the line breaks of a pasted or dropped text; other fields remove them.
 inline constexpr char kHoldsLines[] = "holdsLines";
 
-// Each event of a field has to come here first. Where it pastes or drops a text, the field gets it with the line breaks
-// of a document, and the result is true: the toolkit must not see the event.
+// Call with each event of a field. If the event pastes or drops a text, inserts the text with CR LF line breaks and
+// returns true: Qt must not get the event.
 bool TakePasted(QLineEdit& field, QEvent& event);
 
 }  // namespace pelmar

@@ -8,7 +8,7 @@ struct LockKeys {
   bool num = false;
 };
 
-// From the X server, one round trip; both false where there is none.
+// Asks the X server. Both are false if there is no X server.
 LockKeys ReadLockKeys();
 
 }  // namespace pelmar

@@ -1,4 +1,4 @@
-// Apart from the rest, because Xlib's macros (None, Bool, Status) break Qt's headers when they come first.
+// In a file of its own, because Xlib's macros (None, Bool, Status) break Qt's headers if included before them.
 #include <QGuiApplication>
 
 #include "platform/qt/lock_keys.h"
@@ -12,7 +12,7 @@ namespace pelmar {
 LockKeys ReadLockKeys() {
 #if PELMAR_HAS_X11
   auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-  // The windowless platform has the interface as well, and no display behind it.
+  // Qt's offscreen platform has this interface too, but no display.
   Display* display = x11 != nullptr ? x11->display() : nullptr;
   unsigned lamps = 0;
   if (display == nullptr || XkbGetIndicatorState(display, XkbUseCoreKbd, &lamps) != 0) return {};

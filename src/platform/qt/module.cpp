@@ -8,7 +8,7 @@
 namespace pelmar {
 namespace {
 
-// The loader's words are English for the most part; a person needs to know whether a library is missing.
+// Turns the loader's error message, which is mostly English, into Czech. A missing library is named.
 QString Reason(const QString& path, const QString& words) {
   static const QRegularExpression missing(QStringLiteral(R"(\(([^/():\s]+\.so[.\d]*): )"));
   if (const auto match = missing.match(words); match.hasMatch())

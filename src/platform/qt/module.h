@@ -1,5 +1,4 @@
-// The program's own modules: plug-ins that are loaded at their first use, because what they need is large and most runs
-// do without it.
+// The modules of the program: plug-ins with large libraries that most runs don't need, loaded at their first use.
 #pragma once
 
 #include <QObject>
@@ -8,16 +7,16 @@
 
 namespace pelmar {
 
-// Where modules may lie: beside the program in a build tree, below its prefix where it is installed.
+// The folders that may contain modules: the program's folder in a build tree, and the module folder of an installation.
 QStringList ModuleFolders();
 
 struct LoadedModule {
-  QObject* plugin = nullptr;  // lives as long as the program; nothing where the module couldn't be loaded
-  QString path;               // "" where none of the folders has the module
-  QString error;              // why, in Czech; "" where it was loaded or isn't there
+  QObject* plugin = nullptr;  // lives until the program ends; null if the module was not loaded
+  QString path;               // "" if the module was not found
+  QString error;              // why loading failed, in Czech; "" if the module was loaded or not found
 };
 
-// Loads the file out of the first folder that has it.
+// Loads the file from the first folder that contains it.
 LoadedModule LoadModule(const QStringList& folders, const QString& file_name);
 
 }  // namespace pelmar

@@ -1,5 +1,5 @@
-// What many files of the user interface include, compiled once. Each compile maps all of it, so what few files need
-// stays out.
+// The headers that many files of the user interface include, compiled once. Rarely used headers stay out, since each
+// compilation loads all headers of this file.
 #pragma once
 
 #include <QApplication>

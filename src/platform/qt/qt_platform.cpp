@@ -100,7 +100,7 @@ bool QtPlatform::IsSameFile(const std::string& left, const std::string& right) {
 
 std::optional<FileStamp> QtPlatform::Stamp(const std::string& path) { return StampOf(path); }
 
-// Beside the program in a build tree, in the share folder of its prefix where it is installed.
+// The share folder of the installation if it exists, otherwise the program's folder, as in a build tree.
 std::string QtPlatform::ShareFolder() {
   const QString installed = QCoreApplication::applicationDirPath() + QStringLiteral("/../share/pelmar-vex/");
   const QString beside = QCoreApplication::applicationDirPath() + QLatin1Char('/');
@@ -119,7 +119,7 @@ void QtPlatform::TellOfRefusedFolder() {
   if (!notice.empty()) Message(MessageType::kOkInfo, notice, "Pelmar VEX");
 }
 
-// The toolkit's own answer for a folder that isn't there is "", with which files would go to the root of the disk.
+// Reads TMPDIR itself: for a missing folder Qt would return "", and files would be written to the root of the disk.
 std::string QtPlatform::TempFolder() {
   const QString set = QFile::decodeName(qgetenv("TMPDIR"));
   const QString folder = set.isEmpty() ? QStringLiteral("/tmp") : QDir::cleanPath(QFileInfo(set).absoluteFilePath());
@@ -159,7 +159,7 @@ void QtPlatform::ReseedRandom() {
   random_.seed(seed);
 }
 
-// A key for each text, made once, costs far less than a comparison for each pair.
+// Makes a sort key for each text once, which is much faster than comparing the texts themselves.
 std::vector<std::size_t> QtPlatform::SortedOrder(const std::vector<std::string_view>& texts) {
   std::vector<QCollatorSortKey> keys;
   keys.reserve(texts.size());

@@ -1,5 +1,5 @@
-// The program's answer to the platform interface. It lives on the interface thread, from the application object's
-// making until before its end; the work itself lies in the small files beside this one.
+// The implementation of Platform with Qt. The small files in this folder do most of the work. The object must be
+// created after the application object and destroyed before the application object.
 #pragma once
 
 #include <optional>
@@ -60,10 +60,10 @@ class QtPlatform : public Platform {
   std::vector<std::size_t> SortedOrder(const std::vector<std::string_view>& texts) override;
   void SetBusyPointer(bool busy, BusyLook look) override;
 
-  // Tells the person where the data lie when their own folder can't be made.
+  // Reports the folder that is used instead if the install folder can't be created.
   void TellOfRefusedFolder();
 
-  // For an end of the program that skips destructors.
+  // Waits for background work. Call before an exit that skips destructors.
   void FinishBackgroundWork();
 
  private:
@@ -72,7 +72,7 @@ class QtPlatform : public Platform {
   QCollator collator_ = CzechCollator();
   RecentDocuments recent_;
   ChosenFolder install_folder_;
-  QString dialog_folder_;  // where the last file dialog of this run ended
+  QString dialog_folder_;  // the folder of the last chosen file
   std::mt19937 random_{std::random_device{}()};
 };
 

@@ -1,4 +1,4 @@
-// How controls of our own show themselves to assistive technology.
+// Presents the program's own controls to assistive technology.
 #pragma once
 
 #include <QAccessible>
@@ -6,7 +6,7 @@
 
 namespace pelmar {
 
-// Makes `Face`, constructed from the control, the face of each `Control`; once is enough for all of them.
+// Makes `Face`, constructed from the control, the accessible interface of every `Control`. Further calls do nothing.
 template <class Control, class Face>
 void InstallFace() {
   static const bool installed = [] {
@@ -19,22 +19,20 @@ void InstallFace() {
   Q_UNUSED(installed);
 }
 
-// For a widget that is only looked at, or a plain window, which would else be told of as a mere container.
+// For a widget or a window that would otherwise be presented as a mere container.
 void SetAccessibleRole(QWidget& widget, QAccessible::Role role);
 
-// A dynamic property of a label that shows a value: what the value is. It is told before the value, where an accessible
-// name would take the value's place.
+// A dynamic property of a label that shows a value: the name of the value. Screen readers say the name and the value,
+// but an accessible name would replace the value.
 inline constexpr char kValueName[] = "valueName";
-// Lets labels with that property tell it, and labels that head options name the group; before the first of them is
-// made.
+// Activates kValueName and names groups of options by the label above. Call before the first such label is created.
 void InstallLabelFaces();
 
-// Says what who can't see it wouldn't notice. Nothing where nobody listens.
+// Lets screen readers say a text. Does nothing if no screen reader runs.
 void Announce(QWidget& window, const QString& text);
 
-// The name of a box to choose from is what it holds, so what it is for has to come from a label. Boxes of the window
-// that have none on show get one that is hidden, with their accessible name; and the field of an editable box is named
-// too.
+// Qt presents the current item as the name of a combo box, so a label must say its purpose. Combo boxes without a label
+// get a hidden label with their accessible name. The fields of editable combo boxes get the same name.
 void LabelBoxes(QWidget& window);
 
 }  // namespace pelmar

@@ -63,7 +63,7 @@ void CellGrid::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void CellGrid::mouseReleaseEvent(QMouseEvent* event) {
-  // Drawn off the grid, the button chooses nothing.
+  // A release outside the grid chooses no cell.
   if (!rect().contains(event->position().toPoint())) return;
   by_keys_ = false;
   const QPoint cell = CellAt(event->position().toPoint());

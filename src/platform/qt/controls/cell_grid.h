@@ -1,5 +1,4 @@
-// A square grid of cells that follows the mouse, and the arrow keys. What lies in the cells is painted by subclasses.
-// Rows and columns count from 1.
+// A square grid of cells, painted by subclasses. Mouse and arrow keys mark a cell. Rows and columns count from 1.
 #pragma once
 
 #include <QWidget>
@@ -14,20 +13,20 @@ class CellGrid : public QWidget {
   explicit CellGrid(QWidget* parent = nullptr) : CellGrid(kCells, parent) {}
 
   QSize sizeHint() const override { return {216, 135}; }
-  // The marked cell was marked by the arrow keys, not by the mouse.
+  // Whether the arrow keys, not the mouse, marked the cell.
   [[nodiscard]] bool MarkedByKeys() const { return row_ > 0 && by_keys_; }
-  // No cell is marked.
+  // Unmarks the marked cell.
   void Clear();
-  // What a cell is called by who can't see it.
+  // Sets the names of the cells for screen readers.
   void NameCells(std::function<QString(int row, int column)> name) { name_ = std::move(name); }
 
-  // Cells by their numbers in reading order, from 0; -1 where none is marked.
+  // These functions number the cells in reading order, from 0. Marked() is -1 if no cell is marked.
   [[nodiscard]] int Cells() const { return cells_; }  // in each row and each column
   [[nodiscard]] int Marked() const { return row_ > 0 ? (row_ - 1) * cells_ + column_ - 1 : -1; }
   [[nodiscard]] QString CellName(int number) const;
   void Choose(int number);
 
-  [[nodiscard]] QPoint CellAt(QPoint point) const;  // column and row
+  [[nodiscard]] QPoint CellAt(QPoint point) const;  // x is the column, y the row
   [[nodiscard]] QRect CellRect(int row, int column) const;
 
  Q_SIGNALS:
@@ -37,7 +36,7 @@ class CellGrid : public QWidget {
  protected:
   CellGrid(int cells, QWidget* parent);
 
-  // The cell without its lines, and whether it is the marked one.
+  // `cell` is the rectangle inside the grid lines.
   virtual void PaintCell(QPainter& /*painter*/, const QRect& /*cell*/, int /*row*/, int /*column*/, bool /*marked*/) {}
 
   void mouseMoveEvent(QMouseEvent* event) override;

@@ -1,6 +1,5 @@
-// A grid of cells as assistive technology sees it: a list, since of a table a whole row would be read at each step
-// down. The cells tell their name, their number in reading order, counted from 0, and whether they are the marked one,
-// and can be chosen.
+// Presents a grid of cells to screen readers as a list: in a table each step down would read a whole row. A list item
+// has the name and the number of its cell, is selected if the cell is marked, and can be chosen.
 #pragma once
 
 #include <QAccessibleWidget>
@@ -23,7 +22,7 @@ class CellGridAccessible : public QAccessibleWidget {
 
  private:
   CellGrid& grid_;
-  mutable std::vector<QAccessible::Id> cells_;  // made when they are asked for
+  mutable std::vector<QAccessible::Id> cells_;  // created on request; 0 if not created yet
 };
 
 }  // namespace pelmar

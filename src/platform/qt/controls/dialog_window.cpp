@@ -31,20 +31,20 @@
 namespace pelmar {
 namespace {
 
-// The toolkit's scroll bars move against the arrows Left and Right. True when the key was one of them.
+// Moves a horizontal scroll bar by the Left or Right key, since Qt moves the bar the wrong way. False for other keys.
 bool MoveByArrow(QScrollBar& bar, int key) {
   if (bar.orientation() != Qt::Horizontal || (key != Qt::Key_Left && key != Qt::Key_Right)) return false;
   bar.triggerAction(key == Qt::Key_Left ? QAbstractSlider::SliderSingleStepSub : QAbstractSlider::SliderSingleStepAdd);
   return true;
 }
 
-// A box to choose from, or a bar that stands for a value; the bars of lists and texts can't have the keyboard.
+// Whether the widget is a combo box or a scroll bar for a value, not a scroll bar of a list or a text.
 bool HoldsValue(const QWidget& widget) {
   return qobject_cast<const QComboBox*>(&widget) ||
          (qobject_cast<const QScrollBar*>(&widget) && widget.focusPolicy() != Qt::NoFocus);
 }
 
-// What the tabulator key selects in a field.
+// Selects the text of a field as the Tab key does.
 void SelectText(QWidget& field) {
   if (auto* line = qobject_cast<QLineEdit*>(&field)) line->selectAll();
   if (auto* box = qobject_cast<QComboBox*>(&field); box != nullptr && box->isEditable()) box->lineEdit()->selectAll();
@@ -61,13 +61,13 @@ bool IsAltCharacter(const QKeyEvent& event) {
   return event.modifiers() == Qt::AltModifier && !event.text().isEmpty() && event.text().front().isPrint();
 }
 
-// The tabulator key enters a group at the option that is set; the toolkit sees to that only where a person has been.
+// Lets the Tab key enter a group at the checked option. Qt does so only after the person has used the group.
 void GatherTabStops(QRadioButton& option) {
   for (auto* other : option.parentWidget()->findChildren<QRadioButton*>(Qt::FindDirectChildrenOnly))
     if (other->group() == option.group()) other->setFocusPolicy(other == &option ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
-// What a person fills in or chooses from, but for the toolkit's own fields inside of others.
+// Whether the person can fill in the widget or choose from it. The inner field of a combo box doesn't count.
 bool IsField(const QWidget& widget) {
   if (const auto* line = qobject_cast<const QLineEdit*>(&widget))
     return !line->isReadOnly() && !qobject_cast<const QComboBox*>(widget.parentWidget());
@@ -79,7 +79,7 @@ bool TakesTab(const QWidget& widget, const QWidget& window) {
   return (widget.focusPolicy() & Qt::TabFocus) != 0 && widget.isVisibleTo(&window) && widget.isEnabled();
 }
 
-// The fields as the tabulator key goes through them.
+// The fields in the order of the Tab key.
 QList<QWidget*> FieldsInOrder(QWidget& window) {
   QList<QWidget*> fields;
   for (QWidget* next = window.nextInFocusChain(); next != &window; next = next->nextInFocusChain())
@@ -87,7 +87,8 @@ QList<QWidget*> FieldsInOrder(QWidget& window) {
   return fields;
 }
 
-// Behind tabs lie more fields than show, and those that do are filled for one row or cell after the other.
+// Whether the widget is on a page of tabs. There the person fills in the same fields for one row or cell after another,
+// and other pages have more fields.
 bool LiesBehindTabs(const QWidget* widget) {
   while (widget != nullptr && !qobject_cast<const QStackedWidget*>(widget)) widget = widget->parentWidget();
   return widget != nullptr;
@@ -136,7 +137,7 @@ bool DialogWindow::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Wheel) {
     const auto* widget = qobject_cast<const QWidget*>(watched);
     if (widget != nullptr && HoldsValue(*widget) && !widget->hasFocus()) {
-      event->ignore();  // for what lies around it
+      event->ignore();  // lets the parents scroll
       return true;
     }
   }
@@ -144,7 +145,7 @@ bool DialogWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool DialogWindow::TakesKey(QWidget& receiver, const QKeyEvent& press) {
-  // A letter with Alt that no control answers to is none for the field.
+  // Alt with a letter is not typed into the field, even if no control has this access key.
   const auto* box = qobject_cast<QComboBox*>(&receiver);
   if ((qobject_cast<QLineEdit*>(&receiver) || (box != nullptr && box->isEditable())) && IsAltCharacter(press))
     return true;
@@ -160,7 +161,7 @@ void DialogWindow::keyPressEvent(QKeyEvent* event) {
   const QString name = property("cancelButton").toString();
   auto* cancel = name.isEmpty() ? nullptr : findChild<QAbstractButton*>(name);
   if (cancel != nullptr && event->matches(QKeySequence::Cancel)) return cancel->click();
-  // The toolkit would press the default button, whichever button the person has gone to.
+  // Qt would press the default button even if another button has the focus.
   QWidget* focus = focusWidget();
   if (IsPlainEnter(*event) && (qobject_cast<QPushButton*>(focus) || qobject_cast<QToolButton*>(focus)))
     return static_cast<QAbstractButton*>(focus)->click();
@@ -168,12 +169,12 @@ void DialogWindow::keyPressEvent(QKeyEvent* event) {
   QDialog::keyPressEvent(event);
 }
 
-// False where Enter is for the default button.
+// Goes to the next field after Enter. False if Enter should press the default button.
 bool DialogWindow::GoToNextField() {
   if (property("defaultFromFields").toBool()) return false;
   const QList<QWidget*> fields = FieldsInOrder(*this);
   const auto at = fields.indexOf(focusWidget());
-  // A bar behind tabs ends nothing either; what it leads to comes first.
+  // Enter in a scroll bar on a page of tabs goes to the next control.
   if (at < 0 && LiesBehindTabs(focusWidget()) && qobject_cast<QScrollBar*>(focusWidget())) {
     focusNextChild();
     return true;
@@ -192,7 +193,7 @@ void DialogWindow::showEvent(QShowEvent* event) {
   else if (property("centredEachTime").toBool())
     CentreOnScreen(*this);
   PutAboveAll(*this);
-  setAttribute(Qt::WA_KeyboardFocusChange);  // what has the keyboard shows it from the first moment on
+  setAttribute(Qt::WA_KeyboardFocusChange);  // shows the focus frame at once
   QDialog::showEvent(event);
   BeginInFirstField();
 }
@@ -200,7 +201,7 @@ void DialogWindow::showEvent(QShowEvent* event) {
 void DialogWindow::BeginInFirstField() {
   if (!first_field_ || !first_field_->isEnabled()) return;
   first_field_->setFocus(Qt::TabFocusReason);
-  // A window that isn't active yet gets the keyboard later, and for another reason than that key's.
+  // A window that isn't active yet gets the focus later for another reason, which selects no text.
   SelectText(*first_field_);
 }
 
@@ -221,13 +222,13 @@ void DialogWindow::Prepare() {
     connect(option, &QRadioButton::toggled, this, gather);
     gather();
   }
-  // One that the notes were opened over comes above them as soon as it is used.
+  // A dialog under the notes window, which stays on top, comes above the notes window when used.
   connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* now) {
     if (isVisible() && (now == windowHandle() || !HasWindowOnTop())) PutAboveAll(*this);
   });
-  // The default button looks like it only while no other button would take Enter.
+  // The default button is drawn as default only while no other button takes Enter.
   connect(qApp, &QApplication::focusChanged, this, [this] {
-    if (!isVisible()) return;  // nor while it ends
+    if (!isVisible()) return;  // includes destruction
     for (QPushButton* button : findChildren<QPushButton*>())
       if (button->isDefault()) button->update();
   });
@@ -240,14 +241,14 @@ void DialogWindow::Prepare() {
 
 void DialogWindow::FitInto(QSize room) {
   ensurePolished();
-  for (QWidget* widget : findChildren<QWidget*>()) widget->ensurePolished();  // only now their letters are known
+  for (QWidget* widget : findChildren<QWidget*>()) widget->ensurePolished();  // determines their fonts
   if (property("sizedByContents").toBool()) adjustSize();
   const QSize least = layout() != nullptr ? layout()->totalMinimumSize() : QSize();
   if (least.width() > room.width() || least.height() > room.height()) ScrollContents(*this, EndingButtons());
   resize(QSize(std::max(width(), WidthOfTitle(*this)), height()).boundedTo(room));
 }
 
-// The default one and the one that Escape presses, as they stand in the form.
+// The default button and the cancel button, in the order of the form.
 QList<QPushButton*> DialogWindow::EndingButtons() const {
   const QString cancel = property("cancelButton").toString();
   QList<QPushButton*> ending = findChildren<QPushButton*>();

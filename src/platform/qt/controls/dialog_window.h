@@ -1,12 +1,6 @@
-// The base of the program's own dialogs: modeless unless executed, centred on the screen when first shown, and only
-// hidden on closing, so that the fields keep what they hold for the whole run. Each opening begins in the same field,
-// with its text selected. Boxes and bars that don't have the keyboard leave the mouse wheel alone, so that nobody
-// changes a value in passing. The form's property `cancelButton` names the button that Escape presses; without one
-// Escape closes the window as its system button does. Enter presses the button that has the focus; in a field it goes
-// on to the next one, so that nothing half-filled is put into the text; from the last field, and from all that isn't a
-// field, it presses the default button. The form's property `defaultFromFields` lets it do so from every field.
-// One with `centredEachTime` is centred at each opening; `sizedByContents` opens it as large as its contents need.
-// On a screen too small for the form its contents scroll, and the buttons that end the dialog stay in sight.
+// The base of the program's own dialogs. A dialog is modeless unless executed. Closing only hides a dialog, so its
+// fields keep their contents. Each opening starts in the same field, with its text selected. The first opening is in
+// the centre of the screen. On a small screen the contents scroll and the ending buttons stay visible.
 #pragma once
 
 #include <QDialog>
@@ -19,34 +13,40 @@ class QPushButton;
 
 namespace pelmar {
 
+// Forms set these properties: `cancelButton` names the button that Escape presses (otherwise Escape closes the dialog),
+// `centredEachTime` centres the dialog at each opening, `sizedByContents` makes the dialog as large as its contents
+// need, and `defaultFromFields` changes Enter (see keyPressEvent).
 class DialogWindow : public QDialog {
   Q_OBJECT
 
  public:
   explicit DialogWindow(QWidget* parent);
 
-  // Shows the window, or brings it to the front where it is on show already. Begins in its first field.
+  // Shows the window in front of the others, with the focus on its first field.
   void Present();
 
-  // Before the first showing: no larger than `room`, in logical pixels inside the frame.
+  // Makes the window no larger than `room`, in logical pixels inside the frame. Call before the window is first shown.
   void FitInto(QSize room);
 
-  // Waits like a dialog of the window that asks, which is the active one again afterwards.
+  // Runs as a modal dialog of the asking window and activates this window again afterwards.
   int exec() override;
 
  protected:
-  // Enter in this field runs `act` and goes no further, so not to the default button either.
+  // Enter in this field runs `act` instead of going to the next field or pressing the default button.
   void OnEnter(QWidget* field, std::function<void()> act);
-  // Of the form that was just set up, which gives its own sizes as beside plain letters of 9 points.
+  // Scales the font sizes that the form sets, which fit a desktop font of 9 points. Call after setupUi.
   void ScaleLetters();
 
+  // The mouse wheel changes only a focused combo box or scroll bar, so that nobody changes a value by accident.
   bool eventFilter(QObject* watched, QEvent* event) override;
+  // Enter presses the focused button. In a field Enter goes to the next field, so that no half-filled dialog writes
+  // into the text. In the last field, outside fields and with `defaultFromFields` Enter presses the default button.
   void keyPressEvent(QKeyEvent* event) override;
   void showEvent(QShowEvent* event) override;
 
  private:
   bool TakesKey(QWidget& receiver, const QKeyEvent& press);
-  // What the first opening needs only.
+  // Runs before the window is first shown.
   void Prepare();
   void BeginInFirstField();
   bool GoToNextField();
@@ -57,8 +57,8 @@ class DialogWindow : public QDialog {
   bool prepared_ = false;
 };
 
-// A window with its form. Sharing lets the windows do without destructors of their own, which would have to know the
-// form: nobody else holds it.
+// A dialog with its form. Only this class owns the form; a shared_ptr lets subclasses do without a destructor that
+// needs the complete form type.
 template <class Form>
 class FormDialog : public DialogWindow {
  protected:

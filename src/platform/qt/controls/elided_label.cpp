@@ -5,7 +5,7 @@
 namespace pelmar {
 namespace {
 
-// More characters than fit on any screen; the rest of a long text needn't be measured.
+// More characters than fit on any screen, so that long texts are measured quickly.
 constexpr qsizetype kMostShown = 2000;
 
 }  // namespace

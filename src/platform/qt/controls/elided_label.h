@@ -1,5 +1,5 @@
-// A label for texts of any length, such as paths and whole clipboards: it keeps the text and draws what fits, on one
-// line, with dots where it cuts. It never asks for width.
+// A label for texts of any length, such as paths and the clipboard. The label draws one line and replaces the part that
+// doesn't fit by an ellipsis. The label requires no width.
 #pragma once
 
 #include <QLabel>

@@ -1,5 +1,5 @@
-// The single-line fields of all forms, which hold whatever comes. Where one is to have a limit, its form sets it, and
-// `holdsLines` where lines may be pasted into it.
+// The single-line fields of all forms. Their length is unlimited unless the form sets a limit. The property
+// `holdsLines` keeps pasted line breaks.
 #pragma once
 
 #include <QComboBox>
@@ -15,7 +15,7 @@ class Field : public QLineEdit {
   bool event(QEvent* event) override { return TakePasted(*this, *event) || QLineEdit::event(event); }
 };
 
-// A box to choose from or to type into.
+// An editable combo box.
 class FieldBox : public QComboBox {
  public:
   explicit FieldBox(QWidget* parent = nullptr) : QComboBox(parent) { setLineEdit(new Field(this)); }

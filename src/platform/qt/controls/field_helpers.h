@@ -1,4 +1,4 @@
-// Between the fields of a window and the Windows-1250 texts and numbers behind them.
+// Reads and shows Windows-1250 texts and numbers in the fields of a window.
 #pragma once
 
 #include <cstddef>
@@ -13,16 +13,16 @@ class QListWidget;
 
 namespace pelmar {
 
-// What stands in a field. A single-line one may hold line breaks: they show as blanks and come back as they were.
+// The text of a field. A single-line field may contain line breaks: it shows them as blanks and returns them unchanged.
 std::string FieldText(const QLineEdit& field);
 std::string FieldText(const QComboBox& field);
 std::string FieldText(const QLabel& field);
 void ShowFieldText(QLineEdit& field, const std::string& text);
 
-// Adds the rows that a growing list doesn't show yet.
+// Appends the rows that the list doesn't contain yet.
 void ShowRows(QListWidget& list, const std::vector<std::string>& rows);
 
-// Plain digits, or nothing.
+// Shows the number without separators, or an empty text.
 void ShowNumber(QLabel& label, std::optional<std::size_t> number);
 
 }  // namespace pelmar

@@ -1,13 +1,12 @@
-// The first step of a person with a keyboard in a list where nothing is chosen yet.
+// The first use of the arrow keys in a list without a selection.
 #pragma once
 
 class QAbstractItemView;
 
 namespace pelmar {
 
-// A list that comes into focus puts its cursor onto the first row without choosing it, and the toolkit's arrow keys go
-// on from there: the first row would be passed over, and a list of one row could only be chosen from by a trick. With
-// this, Up, Down and Home choose the row under the cursor first.
+// Makes Up, Down and Home select the first row if no row is selected. When a list gets the focus, Qt makes the first
+// row current without selecting it. So Down would skip the first row, and no key would select the only row of a list.
 void ChooseFirstByArrows(QAbstractItemView* list);
 
 }  // namespace pelmar

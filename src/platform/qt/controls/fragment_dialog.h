@@ -1,5 +1,5 @@
-// The common shape of the dialogs that write something into the text: one button puts it there and hides the dialog,
-// the other only hides it. A dialog gives its form and says what is put.
+// The base of the dialogs that insert something into the text. One button calls Put and hides the dialog; the other
+// button only hides the dialog.
 #pragma once
 
 #include <QPushButton>
@@ -13,7 +13,7 @@ namespace pelmar {
 template <class Form>
 class FragmentDialog : public FormDialog<Form> {
  protected:
-  // The buttons are those of these names in the form; most dialogs have no others.
+  // `ok` and `storno` are the two buttons in the form.
   FragmentDialog(TextBuffer& document, QWidget* parent, QPushButton* Form::*ok = &Form::Command1,
                  QPushButton* Form::*storno = &Form::Command2)
       : FormDialog<Form>(parent), document_(document) {
@@ -23,10 +23,10 @@ class FragmentDialog : public FormDialog<Form> {
     QObject::connect(this->ui_.get()->*storno, &QPushButton::clicked, this, &QWidget::hide);
   }
 
-  // Puts it into the text. False leaves the dialog on show.
+  // Writes into the text. Returns false if the dialog must stay open.
   virtual bool Put() = 0;
 
-  // At the caret, as most dialogs put it.
+  // Inserts the fragment at the caret. Returns true, for use in Put.
   bool Insert(std::string_view fragment) {
     InsertAtCaret(document_, fragment);
     return true;

@@ -7,12 +7,11 @@
 namespace pelmar {
 namespace {
 
-constexpr int kEdge = 3;  // what the frame takes at each side
+constexpr int kEdge = 3;  // the width of the frame on each side
 
 QString Plain(QString caption) { return caption.remove(QLatin1Char('&')); }
 
-// The access key is underlined where it is a letter: digits and signs are typed as they are, and a keypad of underlined
-// ones is hard to read.
+// Whether the access key is underlined. Only letters are: a keypad of underlined digits is hard to read.
 bool ShowsAccessKey(const QString& caption) {
   const auto at = caption.indexOf(QLatin1Char('&')) + 1;
   return at > 0 && at < caption.size() && caption[at].isLetter();
@@ -26,8 +25,7 @@ QSize RoomFor(const QStringList& words, const QFontMetrics& metrics) {
   return {width + 2 * kEdge, metrics.height() + 2 * kEdge};
 }
 
-// In letters as small as the caption needs to be whole: a key keeps its size, also where the desktop's letters are
-// large.
+// Paints the caption, in a smaller font if necessary: keys keep their size even if the desktop font is large.
 void PaintCaption(QStylePainter& painter, const QWidget& key, const QString& caption, QPalette::ColorRole role) {
   constexpr int kSmallest = 6;
   painter.setPen(key.palette().color(key.isEnabled() ? QPalette::Active : QPalette::Disabled, role));
@@ -56,7 +54,7 @@ void KeyCap::paintEvent(QPaintEvent* /*event*/) {
   QStyleOptionButton option;
   initStyleOption(&option);
   PaintFrame(painter, option);
-  // The caption of a key that is higher than wide is one word, cut up to be written below each other.
+  // If a key is higher than wide, its caption is one word, written vertically.
   const QString caption = height() > width() ? Words(text()).join(QString()) : text();
   PaintCaption(painter, *this, caption, QPalette::ButtonText);
 }

@@ -1,5 +1,5 @@
-// Keys of a keyboard on the screen: a push button whose caption may run over several lines, and a check box that looks
-// like a key and stays down while it is checked. Both fill the cell that a layout gives them, however small it is.
+// The keys of the on-screen keyboard: a push button whose caption may have several lines, and a check box that looks
+// like a key and stays down while checked. A layout may make both very small.
 #pragma once
 
 #include <QCheckBox>
@@ -14,7 +14,7 @@ class KeyCap : public QPushButton {
   explicit KeyCap(QWidget* parent = nullptr) : QPushButton(parent) {}
 
   QSize sizeHint() const override { return minimumSizeHint(); }
-  // What the longest word of the caption needs.
+  // The space for the longest word of the caption.
   QSize minimumSizeHint() const override;
 
  protected:

@@ -14,7 +14,7 @@ bool IsControl(QChar ch) { return ch.category() == QChar::Other_Control; }
 
 bool HoldsControls(const QString& text) { return std::any_of(text.begin(), text.end(), IsControl); }
 
-// As the line edit lays it out.
+// The text as the line edit lays it out.
 QString WithBlanks(QString text) {
   for (QChar& ch : text)
     if (ch.unicode() < 0x20 && ch != u'\t') ch = u' ';
@@ -37,7 +37,7 @@ void LineWithSigns::paintEvent(QPaintEvent* event) {
   layout.beginLayout();
   const QTextLine line = layout.createLine();
   layout.endLayout();
-  // The caret's rectangle is the only thing that tells how far the text is scrolled.
+  // Only the rectangle of the caret shows how far the text is scrolled.
   const QRect caret = cursorRect();
   const qreal origin = caret.center().x() + 1 - line.cursorToX(cursorPosition());
   const int low = caret.bottom() - caret.height() / 4;

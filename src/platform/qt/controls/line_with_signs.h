@@ -1,5 +1,5 @@
-// A line edit in which control characters can be seen: the toolkit shows blanks in their place. Each gets a sign over
-// its blank, and the tool tip tells their names. The text itself stays as it is.
+// A line edit with visible control characters. Qt shows them as blanks; this class draws a sign over each blank and
+// names them in the tool tip. The text itself is unchanged.
 #pragma once
 
 #include "platform/qt/controls/field.h"

@@ -13,7 +13,7 @@ class OneLineDelegate : public QStyledItemDelegate {
   using QStyledItemDelegate::QStyledItemDelegate;
 
   [[nodiscard]] QString displayText(const QVariant& value, const QLocale&) const override {
-    constexpr int kShown = 1000;  // more than a screen is wide; all of a huge row would take seconds to lay out
+    constexpr int kShown = 1000;  // wider than any screen; laying out a huge row would take seconds
     const QChar sign(0xB6);
     return value.toString().left(kShown).replace(QLatin1String("\r\n"), sign).replace(u'\r', sign).replace(u'\n', sign);
   }

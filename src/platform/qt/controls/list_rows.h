@@ -1,4 +1,4 @@
-// What the list boxes of the program share: picking a row by mouse or keyboard, and rows that hold line breaks.
+// Functions for the list boxes of the program.
 #pragma once
 
 #include <functional>
@@ -7,12 +7,11 @@ class QListWidget;
 
 namespace pelmar {
 
-// Tells each row that is picked: clicked (also again, and once more for a click that selects it), reached with the
-// keyboard or selected by the program. The row that the list makes current when it comes into focus isn't picked; the
-// first arrow key picks it.
+// Calls `picked` when a row is clicked or selected, by the person or the program. A click that selects a row calls
+// twice. The row that becomes current when the list gets the focus is not picked, but the first arrow key picks it.
 void OnRowPicked(QListWidget& list, const std::function<void(int row)>& picked);
 
-// A row with line breaks in it stays one line high and shows each break as a sign. The text of the row keeps them.
+// Makes each row one line high and shows line breaks as signs. The texts of the rows are unchanged.
 void ShowRowsOnOneLine(QListWidget& list);
 
 }  // namespace pelmar

@@ -10,7 +10,7 @@ namespace {
 
 constexpr QSize kLeastView(200, 96);
 
-// Buttons and the space around them, nothing else; the keys of a keypad aren't buttons that end anything.
+// Whether the layout contains only buttons and spacers. The keys of a keypad don't count as buttons.
 bool HoldsButtonsOnly(const QLayout& layout) {
   int buttons = 0;
   for (int i = 0; i < layout.count(); ++i) {
@@ -22,7 +22,8 @@ bool HoldsButtonsOnly(const QLayout& layout) {
   return buttons > 0;
 }
 
-// Out of `contents`, or made anew; the caller owns it. Null where there is no button to keep in sight.
+// Takes the last layout with buttons out of `contents`, or makes a row of the buttons `ending`. The caller owns the
+// result, which is null if there are no buttons.
 QLayout* TakeButtons(QLayout& contents, const QList<QPushButton*>& ending) {
   QLayoutItem* last = contents.count() > 0 ? contents.itemAt(contents.count() - 1) : nullptr;
   if (last != nullptr && last->layout() != nullptr && HoldsButtonsOnly(*last->layout()))
@@ -37,7 +38,7 @@ QLayout* TakeButtons(QLayout& contents, const QList<QPushButton*>& ending) {
 QScrollArea* MakeView(QWidget& window, QWidget* inner) {
   auto* view = new QScrollArea(&window);
   view->setFrameShape(QFrame::NoFrame);
-  view->setFocusPolicy(Qt::NoFocus);  // the tabulator key goes through what lies inside, and scrolls to it
+  view->setFocusPolicy(Qt::NoFocus);  // the Tab key reaches the widgets inside, and the area scrolls to them
   view->setMinimumSize(kLeastView);
   view->setWidgetResizable(true);
   view->setWidget(inner);
@@ -48,7 +49,7 @@ QScrollArea* MakeView(QWidget& window, QWidget* inner) {
 
 void ScrollContents(QWidget& window, const QList<QPushButton*>& ending) {
   QLayout* contents = window.layout();
-  const QSize needed = contents->totalMinimumSize();  // a moved widget doesn't count before it is shown again
+  const QSize needed = contents->totalMinimumSize();  // before the move, since moved widgets are hidden at first
   const auto* box = qobject_cast<const QBoxLayout*>(contents);
   QLayout* buttons = TakeButtons(*contents, ending);
   const bool beside = box != nullptr && box->direction() == QBoxLayout::LeftToRight &&
@@ -59,7 +60,7 @@ void ScrollContents(QWidget& window, const QList<QPushButton*>& ending) {
   inner->setLayout(contents);
   contents->setSizeConstraint(QLayout::SetDefaultConstraint);
   contents->setContentsMargins(0, 0, 0, 0);
-  // A form of a fixed size has left it on the window.
+  // A form with a fixed size has set these limits.
   window.setMinimumSize(0, 0);
   window.setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
 

@@ -1,4 +1,4 @@
-// The way of a dialog onto a screen that is too small for its form.
+// Makes a dialog usable on a screen that is too small for its form.
 #pragma once
 
 #include <QList>
@@ -8,9 +8,9 @@ class QWidget;
 
 namespace pelmar {
 
-// Moves the contents of a window that isn't on show yet into an area that scrolls, and gives the window the size that
-// they need. What stays outside is the row or column of buttons that ends the form, or, where the form has none, the
-// buttons `ending` in a row of their own.
+// Moves the contents of a window into a scroll area and gives the window the size of the contents. A last row or column
+// of buttons stays outside the area. Without such buttons, the buttons `ending` stay outside, in a new row. Call before
+// the window is first shown.
 void ScrollContents(QWidget& window, const QList<QPushButton*>& ending);
 
 }  // namespace pelmar

@@ -1,4 +1,4 @@
-// A field of one colour that can be clicked, also by keyboard.
+// A button that shows a colour.
 #pragma once
 
 #include <QAbstractButton>
@@ -25,7 +25,7 @@ class Swatch : public QAbstractButton {
   QColor color_ = Qt::black;
 };
 
-// From one colour to another, in 256 rows from top to bottom.
+// A gradient from one colour at the top to another at the bottom.
 class GradientBar : public QWidget {
   Q_OBJECT
 
@@ -42,7 +42,7 @@ class GradientBar : public QWidget {
   QColor bottom_ = Qt::black;
 };
 
-// A white field with a bar from the left, as long as a value in twips.
+// A bar from the left, whose length is a value in twips.
 class ValueBar : public QWidget {
   Q_OBJECT
 

@@ -12,10 +12,10 @@ namespace pelmar {
 namespace {
 
 constexpr int kMostNumbered = 9;
-constexpr quint32 kScanCodeOf1 = 10;  // of the key in the row of numbers, on X11 and Wayland alike
+constexpr quint32 kScanCodeOf1 = 10;  // the key in the row of numbers, on X11 and Wayland
 
-// On a Czech keyboard the keys of the numbers give letters with accents, and Alt with them is no shortcut for a number:
-// the physical key is taken there. Where it gives its number the shortcut has come first.
+// Handles Alt with a physical number key. On a Czech keyboard these keys type letters with accents, so shortcuts such
+// as Alt+1 don't match. On other keyboards the shortcut has handled the key already.
 bool PickByNumberKey(QTabBar& tabs, const QKeyEvent& press) {
   if (tabs.isHidden() || press.modifiers() != Qt::AltModifier || press.nativeScanCode() < kScanCodeOf1) return false;
   const quint32 tab = press.nativeScanCode() - kScanCodeOf1;

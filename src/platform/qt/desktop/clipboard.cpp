@@ -15,7 +15,7 @@ Clipboard::Clipboard() {
 }
 
 const std::optional<std::string>& Clipboard::Text() {
-  // Before the fetch: a change announced during it must not get lost.
+  // Update fetched_ before the fetch, so that a change during the fetch is noticed.
   if (std::exchange(fetched_, revision_) == revision_) return text_;
   text_ = ClipboardHasOwner() ? TextFromMime(QGuiApplication::clipboard()->mimeData()) : std::nullopt;
   return text_;

@@ -1,5 +1,5 @@
-// The clipboard as the program sees it: one text or none. It is asked for twice a second, so the text is fetched
-// once for each change that the system announces; a foreign owner may take its time to answer.
+// The text of the clipboard. The program reads the clipboard twice a second, and another program may be slow to answer.
+// So the text is fetched only once after each change.
 #pragma once
 
 #include <QObject>
@@ -18,7 +18,7 @@ class Clipboard : public QObject {
   Clipboard();
 
   const std::optional<std::string>& Text();
-  // Another number after each change.
+  // A new number after each change.
   [[nodiscard]] std::uint64_t Revision() const { return revision_; }
   void SetText(std::string_view text);
   void Clear();
@@ -26,12 +26,11 @@ class Clipboard : public QObject {
  private:
   std::optional<std::string> text_;
   std::uint64_t revision_ = 1;
-  std::uint64_t fetched_ = 0;  // the revision whose text is here
+  std::uint64_t fetched_ = 0;  // the revision of text_
 };
 
-// Wayland tells the clipboard's content only to the program that has the keyboard: there `act` is called when a window
-// gets it for the first time, for as long as `context` lives. Elsewhere the content is known from the start on, and
-// nothing is called.
+// Wayland shows the clipboard only to the program with the keyboard focus. So under Wayland `act` is called when a
+// window gets the focus for the first time, unless `context` is deleted before. Elsewhere nothing happens.
 void WhenClipboardComes(QObject& context, std::function<void()> act);
 
 }  // namespace pelmar

@@ -1,5 +1,4 @@
-// Whether anybody offers anything on the clipboard: one question to the X server, where the toolkit's own answer loads
-// its picture plug-ins first. Elsewhere it is taken for granted.
+// Whether the clipboard has an owner; true without an X server. Qt's own answer would load image plug-ins.
 #pragma once
 
 namespace pelmar {

@@ -1,5 +1,5 @@
-// Text on its way between our Windows-1250 bytes and other programs: clipboard, primary selection, drag and drop.
-// Others get plain text with LF line ends; our own windows and copies get the exact bytes beside it.
+// Converts texts for the clipboard, the primary selection, and drag and drop. Other programs get plain text with LF
+// line breaks. Pelmar VEX itself gets the exact Windows-1250 bytes.
 #pragma once
 
 #include <QMimeData>
@@ -12,18 +12,16 @@ namespace pelmar {
 
 inline constexpr char kBytesMimeType[] = "application/x-pelmar-windows-1250";
 
-// The caller owns the result. The conversion for other programs happens when one of them asks.
+// The caller owns the result. The plain text is made only if another program asks for the text.
 QMimeData* MimeFromText(std::string_view bytes);
 
-// The exact bytes where they are offered, otherwise the plain text by PageText; nothing where there is no text.
-// Nothing also for null.
+// The exact bytes if offered, otherwise the plain text by PageText. Nothing if `mime` is null or has no text.
 std::optional<std::string> TextFromMime(const QMimeData* mime);
 
-// The same for a single-line field: what is outside the code page stays as it is, and where the field holds no lines,
-// their breaks go.
+// The text for a single-line field, not converted to Windows-1250. Line breaks are removed unless `holds_lines`.
 QString LineFromMime(const QMimeData& mime, bool holds_lines);
 
-// Foreign text in our code page: letters and their accents are joined first, a lone LF becomes CR LF.
+// Converts a text to Windows-1250. First joins letters with separate accents. A lone LF becomes CR LF.
 std::string PageText(const QString& foreign);
 
 }  // namespace pelmar

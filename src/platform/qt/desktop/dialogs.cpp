@@ -25,14 +25,14 @@ namespace {
 
 constexpr QSize kFileDialogSize(720, 440);
 
-// A box of few words would be too narrow for its title to be read.
+// Widens a box with a short text, so that its title is readable.
 void LeaveRoomForTitle(QMessageBox& box) {
   auto* grid = qobject_cast<QGridLayout*>(box.layout());
   if (grid == nullptr) return;
   grid->addItem(new QSpacerItem(WidthOfTitle(box), 0), grid->rowCount(), 0, 1, grid->columnCount());
 }
 
-// A box that tells Escape and the close box of a question from its No: the toolkit's would press the button.
+// A message box that distinguishes closing a question (Escape, close button) from answering No. Qt's box doesn't.
 class Box : public QMessageBox {
  public:
   using QMessageBox::QMessageBox;
@@ -52,7 +52,7 @@ class Box : public QMessageBox {
   [[nodiscard]] bool IsQuestion() const { return standardButtons().testFlag(QMessageBox::No); }
 };
 
-// For a field that the toolkit has made.
+// Mends pasting in a field that Qt created.
 class PasteFilter : public QObject {
  public:
   using QObject::QObject;
@@ -62,7 +62,8 @@ class PasteFilter : public QObject {
   }
 };
 
-// A dialog is its window's child, and dies with it should that close while the dialog waits.
+// A dialog that asks. The dialog is a child of the asking window. If this window is deleted, the dialog is deleted too,
+// even while the dialog waits.
 template <typename Dialog>
 class Asking {
  public:
@@ -79,7 +80,7 @@ class Asking {
   Dialog* operator->() const { return dialog_.data(); }
   Dialog& operator*() const { return *dialog_; }
   [[nodiscard]] bool Accepted() { return Result() == QDialog::Accepted; }
-  // What the dialog ends with; nothing where it went with its window.
+  // Runs the dialog. Returns its result, or 0 if the dialog was deleted.
   [[nodiscard]] int Result() {
     const int result = dialog_->exec();
     return dialog_.isNull() ? 0 : result;
@@ -90,8 +91,8 @@ class Asking {
   QPointer<Dialog> dialog_;
 };
 
-// The toolkit's own reads the beginning of each listed file, which may take for ever: on a disk over a slow net, in
-// folders of the system.
+// Chooses icons by file name. Qt's own provider reads the beginning of each listed file, which may take very long on
+// network disks and in system folders.
 class IconsByName : public QFileIconProvider {
  public:
   using QFileIconProvider::icon;
@@ -112,7 +113,7 @@ class IconsByName : public QFileIconProvider {
   QMimeDatabase types_;
 };
 
-// A base, so that it outlives the dialog's thread, which looks for icons until the dialog is gone.
+// A base class, so that `icons` outlives QFileDialog, whose thread uses the icons until the end.
 struct WithIconsByName {
   IconsByName icons;
 };
@@ -137,7 +138,7 @@ QMessageBox::Icon IconOf(MessageType type) {
   }
 }
 
-// The answer is a standard button.
+// Returns the pressed standard button.
 int Show(const QString& text, const QString& title, const std::function<void(Box&)>& equip) {
   Asking<Box> box;
   box->setWindowTitle(title);
@@ -157,7 +158,7 @@ Answer ShowMessage(MessageType type, const QString& text, const QString& title) 
     if (!question) return box.setStandardButtons(QMessageBox::Ok);
     box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
     box.setDefaultButton(type == MessageType::kYesNoStop ? QMessageBox::No : QMessageBox::Yes);
-    box.setEscapeButton(QMessageBox::No);  // lets the close box work
+    box.setEscapeButton(QMessageBox::No);  // enables the close button
   });
   if (!question) return Answer::kOk;
   return button == QMessageBox::Yes ? Answer::kYes : button == QMessageBox::No ? Answer::kNo : Answer::kNone;
@@ -190,7 +191,7 @@ QStringList NameFilters(const QString& filter) {
   QStringList result;
   for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
     QStringList patterns = parts[i + 1].split(u';', Qt::SkipEmptyParts);
-    // Here a name needs no full stop.
+    // In Qt "*.*" excludes names without an extension.
     for (QString& pattern : patterns)
       if ((pattern = pattern.trimmed()) == QLatin1String("*.*")) pattern = QStringLiteral("*");
     result += parts[i] + QStringLiteral(" (") + patterns.join(u' ') + u')';
@@ -202,10 +203,10 @@ std::optional<QString> AskForFile(FileDialogKind kind, const QString& filter, in
   const QStringList filters = NameFilters(filter);
   Asking<FileDialog> dialog;
   if (!folder.isEmpty()) dialog->setDirectory(folder);
-  // Names alone: the columns would come too narrow, and their words not in Czech.
+  // Show names only: in the detailed view the columns are too narrow and their titles are not in Czech.
   dialog->setViewMode(QFileDialog::List);
   dialog->resize(kFileDialogSize);
-  // The captions name their patterns themselves.
+  // The captions already contain the patterns.
   dialog->setOption(QFileDialog::HideNameFilterDetails);
   if (kind == FileDialogKind::kSave) {
     dialog->setAcceptMode(QFileDialog::AcceptSave);
@@ -217,7 +218,7 @@ std::optional<QString> AskForFile(FileDialogKind kind, const QString& filter, in
   dialog->setNameFilters(filters);
   if (filter_index >= 1 && filter_index <= filters.size()) dialog->selectNameFilter(filters[filter_index - 1]);
   if (!dialog.Accepted() || dialog->selectedUrls().isEmpty()) return std::nullopt;
-  // By its URL, which a dialog of the desktop's own may fill with bytes that are no UTF-8.
+  // Use the URL, since the path from a dialog of the desktop may contain bytes that are not UTF-8.
   const QString path = PathToQString(PathOfUrl(dialog->selectedUrls().constFirst()));
   folder = QFileInfo(path).path();
   return path;

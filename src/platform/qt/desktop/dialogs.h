@@ -1,6 +1,5 @@
-// The boxes in which the program asks a person: messages, one line of text, a file's name. Each is the toolkit's own,
-// so that the desktop's look, its translation and assistive technology apply. They return when answered and survive
-// the end of the window that they stand over.
+// The boxes for messages, for one line of text and for a file name. They are Qt's dialogs, with the look of the
+// desktop. Each function returns when the person has answered or the parent window is deleted.
 #pragma once
 
 #include <QString>
@@ -13,19 +12,19 @@ namespace pelmar {
 
 Answer ShowMessage(MessageType type, const QString& text, const QString& title);
 
-// With the program's icon.
+// Shows the text with the icon of the program.
 void ShowAbout(const QString& title, const QString& text);
 
 std::optional<QString> AskForText(const QString& prompt, const QString& title, const QString& initial);
 
 enum class FileDialogKind { kOpen, kSave };
 
-// The file's path, nothing on cancel. `folder` is where the dialog starts ("" the current one) and becomes the chosen
-// file's. Saving takes the name as it was typed and asks nothing about an existing file. Filter and index are those of
-// Platform::OpenDialog.
+// The path of the file, or nothing on cancel. The dialog starts in `folder`, or in the current folder if "". `folder`
+// becomes the folder of the file. A save dialog returns the name as typed and does not ask before overwriting. Filter
+// and index are those of Platform::OpenDialog.
 std::optional<QString> AskForFile(FileDialogKind kind, const QString& filter, int filter_index, QString& folder);
 
-// "caption|*.a;*.b|caption|*.*" as the toolkit's list, one entry a pair. An unpaired caption at the end is dropped.
+// Converts "caption|*.a;*.b|caption|*.*" to a filter list for Qt. A caption without a pattern at the end is dropped.
 QStringList NameFilters(const QString& filter);
 
 }  // namespace pelmar

@@ -17,20 +17,20 @@ namespace {
 
 constexpr int kSignals[] = {SIGTERM, SIGHUP, SIGINT};
 
-// What a handler may reach: the signal's number goes through the pipe, all else happens in the event loop.
+// A signal handler may do very little, so it only writes the signal number to this pipe. The event loop does the rest.
 std::array<int, 2> pipe_ends{-1, -1};
 
 extern "C" void PassOn(int number) {
   const int error = errno;
   const auto byte = static_cast<unsigned char>(number);
-  // A full pipe has enough to tell already.
+  // If the pipe is full, the program is ending already.
   [[maybe_unused]] const ssize_t written = ::write(pipe_ends[1], &byte, 1);
   errno = error;
 }
 
 void Catch(int number) {
   struct sigaction action {};
-  // Whoever started the program with a signal ignored, as nohup does, wants it to go on.
+  // A signal that is ignored from the start, as nohup does, stays ignored.
   if (::sigaction(number, nullptr, &action) != 0 || action.sa_handler == SIG_IGN) return;
   action = {};
   action.sa_handler = PassOn;
@@ -44,7 +44,7 @@ void Catch(int number) {
 EndRequests::EndRequests(std::function<void()> keep) : keep_(std::move(keep)) {
   qGuiApp->installEventFilter(this);
   const auto save = [this](QSessionManager& manager) {
-    // The toolkit's own command would come back with arguments that the program takes for a file.
+    // Qt's own restart command has arguments, which the program would take for a file path.
     manager.setRestartCommand({QCoreApplication::applicationFilePath()});
     keep_();
   };
@@ -65,7 +65,7 @@ void EndRequests::EndBySignal() {
   std::raise(number);
 }
 
-// The end of the session, after the request to commit. The windows can't be asked any more.
+// At the end of the session, after the requests to save, the program quits without asking its windows.
 bool EndRequests::eventFilter(QObject* watched, QEvent* event) {
   if (watched != qGuiApp || event->type() != QEvent::Quit) return QObject::eventFilter(watched, event);
   keep_();

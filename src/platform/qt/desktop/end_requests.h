@@ -1,5 +1,6 @@
-// The system's wishes to end the program: SIGTERM, SIGHUP, SIGINT and the end of the desktop session. What isn't saved
-// is kept first, then the program ends without a question, by the signal that it got. Make one, after the application.
+// Handles requests of the system to end the program: SIGTERM, SIGHUP, SIGINT and the end of the desktop session. First
+// calls `keep`, which keeps unsaved documents. Then the program ends without a question. After a signal, the same
+// signal ends the program. Create one object, after the application object.
 #pragma once
 
 #include <QObject>

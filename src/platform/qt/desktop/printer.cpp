@@ -32,7 +32,7 @@ class QtPaper : public Paper {
   QtPaper(QPagedPaintDevice& device, QPainter& painter, const QFont& font)
       : device_(device), painter_(painter), glyphs_(font) {}
 
-  // Without the margins, as the painter counts.
+  // The width without the margins. The painter's origin is inside the margins too.
   [[nodiscard]] double Width() const override { return device_.width(); }
   [[nodiscard]] std::size_t LinesPerPage() const override {
     return std::max<std::size_t>(1, static_cast<std::size_t>(device_.height() / glyphs_.RowHeight()));
@@ -60,7 +60,7 @@ bool PrintOn(QPagedPaintDevice& device, const PrintFont& font, const std::functi
   return painter.end();
 }
 
-// Loads the module where it wasn't yet. Nothing where that doesn't work, and `problem` tells why then.
+// Loads the module on the first call. Returns null on failure and sets `problem` to the reason.
 SystemPrinter* LoadPrinters(QString& problem) {
   static SystemPrinter* printer = nullptr;
   if (printer != nullptr) return printer;
@@ -72,7 +72,7 @@ SystemPrinter* LoadPrinters(QString& problem) {
   return printer;
 }
 
-// A full disk shows only by what is missing.
+// Whether the PDF file has its end. QPdfWriter does not report a full disk.
 bool IsWholePdf(QFile& file) {
   constexpr qint64 kEnd = 32;
   errno = 0;
@@ -89,7 +89,7 @@ PrintOutcome PrintIntoPdf(const PrintFont& font, const QString& name, const std:
     return outcome;
   };
   if (!QDir().mkpath(folder)) {
-    if (errno == EEXIST) errno = ENOTDIR;  // a file has its name
+    if (errno == EEXIST) errno = ENOTDIR;  // a file has the folder's name
     return failed();
   }
   if (!file.open(QIODevice::ReadWrite | QIODevice::NewOnly)) return failed();
@@ -100,7 +100,7 @@ PrintOutcome PrintIntoPdf(const PrintFont& font, const QString& name, const std:
   writer.setPageMargins(QMarginsF(kPdfMargin, kPdfMargin, kPdfMargin, kPdfMargin), QPageLayout::Millimeter);
   if (!PrintOn(writer, font, draw) || !IsWholePdf(file)) {
     failed();
-    file.close();  // which fails once more on a full disk, and the file's own removing would fail with it
+    file.close();  // fails on a full disk; file.remove() would then keep the file
     QFile::remove(file.fileName());
   }
   return outcome;
@@ -109,7 +109,7 @@ PrintOutcome PrintIntoPdf(const PrintFont& font, const QString& name, const std:
 }  // namespace
 
 QString NewPdfPath(const QString& folder, const QString& name) {
-  constexpr qsizetype kLongestName = 80;  // of the 255 bytes of a file's name a character takes up to three
+  constexpr qsizetype kLongestName = 80;  // characters of up to three bytes; a file name has at most 255 bytes
   const QString base = folder + QLatin1Char('/') + name.left(kLongestName);
   QString path = base + QStringLiteral(".pdf");
   for (int number = 2; QFile::exists(path); ++number) path = QStringLiteral("%1 (%2).pdf").arg(base).arg(number);

@@ -1,5 +1,5 @@
-// Printing on the system's default printer, or into a PDF file where there is none. Letters, tabs and the signs of
-// control characters are those of the text box.
+// Prints on the system's printer, or into a PDF file if there is no printer. Letters, tabs and control characters look
+// as in the text box.
 #pragma once
 
 #include <QString>
@@ -11,7 +11,7 @@ namespace pelmar {
 
 PrintOutcome PrintOnDefault(const PrintFont& font, const QString& name, const std::function<void(Paper&)>& draw);
 
-// A path in the folder that no file has yet: "name.pdf", else "name (2).pdf" and so on.
+// An unused path in the folder: "name.pdf", "name (2).pdf" and so on.
 QString NewPdfPath(const QString& folder, const QString& name);
 
 }  // namespace pelmar

@@ -17,11 +17,11 @@ QString MetadataOwner() { return QStringLiteral("http://freedesktop.org"); }
 QString ProgramName() { return QStringLiteral("Pelmar VEX"); }
 QString ProgramCommand() { return QStringLiteral("'pelmar-vex %f'"); }
 
-// Where the copier stands inside the entry of our file. Anything else has no name.
+// The element that the copier is in. Elements outside the entry of our file are kOther.
 enum class Place { kOther, kRoot, kEntry, kInfo, kMetadata, kApplications };
 
-// Copies the list token by token and puts our notes in where they belong. Names are written as they were read, with
-// their prefixes; our own elements bring their declarations along, so that they hold under any prefixes of the file.
+// Copies the list token by token and inserts our entry. Names keep the prefixes of the file. Our own elements declare
+// their namespaces, so that they are valid with any prefixes in the file.
 class BookmarkCopier {
  public:
   BookmarkCopier(const QByteArray& xbel, QString path, QString mime, const QDateTime& now)
@@ -138,7 +138,7 @@ class BookmarkCopier {
     }
   }
 
-  // By the decoded name: programs differ in what they encode.
+  // Compares decoded paths, since programs encode different characters.
   [[nodiscard]] bool IsOurFile() const {
     const QUrl url = QUrl::fromEncoded(reader_.attributes().value(QLatin1String("href")).toUtf8());
     return url.isLocalFile() && PathToQString(PathOfUrl(url)) == path_;
@@ -158,7 +158,7 @@ class BookmarkCopier {
             {QStringLiteral("count"), QString::number(count)}};
   }
 
-  // The attributes that were read, with the given ones instead or in addition.
+  // Writes the attributes of the current element. The given fields replace attributes or are added.
   void WriteAttributes(Fields fields) {
     for (const auto& attribute : reader_.attributes()) {
       QString value = attribute.value().toString();
@@ -237,8 +237,8 @@ class BookmarkCopier {
   QString path_, mime_, time_;
   std::vector<Place> places_;
   bool found_ = false;  // the entry of our file
-  bool added_ = false;  // our notes
-  bool typed_ = false;  // the MIME type in the metadata at hand
+  bool added_ = false;  // our application element
+  bool typed_ = false;  // the MIME type in the current metadata
   bool bookmark_declared_ = false, mime_declared_ = false, declared_ = false;
 };
 

@@ -1,4 +1,4 @@
-// One entry more in the desktop's list of recent documents, as a function from file to file.
+// Adds an entry to the content of the desktop's list of recent documents.
 #pragma once
 
 #include <QByteArray>
@@ -7,10 +7,9 @@
 
 namespace pelmar {
 
-// `xbel` with the file `path` (absolute, of PathToQString) noted as opened by this program at `now`; a new list where
-// `xbel` is empty. The file's own entry is updated where there is one. Everything else goes through as it is: other
-// entries, other programs' notes in the same entry, elements that we don't know. An empty result says that `xbel` isn't
-// such a list and must be left alone.
+// Returns the list `xbel` with an entry for the file `path` (absolute, from PathToQString), opened by this program at
+// `now`. An existing entry is updated; all other content is kept. An empty `xbel` gives a new list. The result is empty
+// if `xbel` is not a valid list; then the file must not be changed.
 QByteArray AddBookmark(const QByteArray& xbel, const QString& path, const QString& mime, const QDateTime& now);
 
 }  // namespace pelmar

@@ -26,17 +26,17 @@ constexpr quint64 kLongestList = 64u << 20;
 
 struct Locked {
   bool may_write = false;
-  Descriptor list = Descriptor();  // closing it gives the lock back
+  Descriptor list = Descriptor();  // closing the file releases the lock
 };
 
-// No list yet is nothing to lock.
+// A missing list needs no lock.
 Locked TryToLock(const std::string& path) {
   Descriptor list(open(path.c_str(), O_RDWR | O_CLOEXEC | O_NONBLOCK));
   if (!list.IsOpen()) return {.may_write = errno == ENOENT};
   struct flock lock {};
   lock.l_type = F_WRLCK;
   lock.l_whence = SEEK_SET;
-  // A lock of this open file, since another thread's close of the same list would drop a lock of the process.
+  // Lock the open file, not the process: a lock of the process ends when another thread closes the same list.
   const bool locked = fcntl(list.Number(), F_OFD_SETLK, &lock) == 0 && IsStillNamed(list.Number(), path);
   return {.may_write = locked, .list = std::move(list)};
 }

@@ -1,5 +1,5 @@
-// Notes opened and saved files in the desktop's list of recent documents, off the interface thread and in order.
-// It is a courtesy: a list that is damaged, locked for long or not writable is left as it is, and nobody is told.
+// Adds opened and saved files to the desktop's list of recent documents, in order and in a background thread. A list
+// that is damaged, not writable or locked for too long is not changed. Failures are not reported.
 #pragma once
 
 #include <QString>
@@ -10,7 +10,7 @@ namespace pelmar {
 class RecentDocuments {
  public:
   explicit RecentDocuments(QString list_path);
-  // Waits for what is under way.
+  // Waits for work in the background.
   ~RecentDocuments();
   RecentDocuments(const RecentDocuments&) = delete;
   RecentDocuments& operator=(const RecentDocuments&) = delete;
@@ -24,7 +24,7 @@ class RecentDocuments {
   QThreadPool pool_;
 };
 
-// The work itself, on the caller's thread. Gives up when the list stays locked for 100 ms.
+// Adds the path to the list in the calling thread. Gives up if the list stays locked for 100 ms.
 void AddToRecentList(const QString& list_path, const QString& path);
 
 }  // namespace pelmar

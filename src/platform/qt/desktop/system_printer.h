@@ -1,4 +1,4 @@
-// The door to the module pelmar-printer, which alone knows the system's printers.
+// The interface of the module pelmar-printer, the only part of the program that uses the system's printers.
 #pragma once
 
 #include <QPagedPaintDevice>
@@ -8,18 +8,18 @@
 
 namespace pelmar {
 
-// What the module's plug-in object is.
+// Implemented by the plug-in object of the module.
 class SystemPrinter {
  public:
   SystemPrinter() = default;
   SystemPrinter(const SystemPrinter&) = delete;
   SystemPrinter& operator=(const SystemPrinter&) = delete;
   virtual ~SystemPrinter() = default;
-  // The default one, or the only one that there is; "" where there is neither, and `problem` tells so then.
+  // The name of the default printer or of the only printer. If there is neither, returns "" and sets `problem`.
   [[nodiscard]] virtual QString FindPrinter(QString& problem) = 0;
-  // A job on this printer, sent when its painting ends.
+  // Starts a job on this printer. The job is sent when the painting ends.
   [[nodiscard]] virtual std::unique_ptr<QPagedPaintDevice> BeginJob(const QString& printer, const QString& name) = 0;
-  // What became of a job of BeginJob whose painting has ended.
+  // Whether a job of BeginJob has failed. Call after the painting has ended.
   [[nodiscard]] virtual bool HasFailed(const QPagedPaintDevice& job) = 0;
 };
 

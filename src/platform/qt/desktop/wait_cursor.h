@@ -1,5 +1,4 @@
-// The waiting pointer of long commands, nested as often as they are. It is lifted while the program asks something,
-// so that a person sees an ordinary pointer over a box that waits for them.
+// The mouse pointer during long commands, which may be nested. During a question, Lift restores the ordinary pointer.
 #pragma once
 
 #include "platform/platform.h"
@@ -13,7 +12,7 @@ class WaitCursor {
   WaitCursor& operator=(const WaitCursor&) = delete;
   ~WaitCursor();
 
-  // Each true wants its false; a false too many does nothing. It looks as the outermost of nested ones.
+  // Each call with true needs a call with false; extra calls with false do nothing. The outermost call sets the look.
   void Set(bool busy, BusyLook look);
 
   class Lift {

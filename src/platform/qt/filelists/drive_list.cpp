@@ -38,7 +38,7 @@ void DriveList::Fill() {
   const QString chosen = Drive();
   clear();
   addItems(MountedPlaces(QDir::homePath()));
-  SetDrive(chosen);  // A disk that is gone leaves its nearest place.
+  SetDrive(chosen);  // If the disk was removed, selects the place that contained it.
 }
 
 }  // namespace pelmar

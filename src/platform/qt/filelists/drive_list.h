@@ -1,5 +1,4 @@
-// The list of places to begin from, above a folder list: home, "/" and the mounted disks, each by its path.
-// The disks are looked for each time that the list opens.
+// The list of places above a folder list: the home folder, "/" and the mounted disks. Each opening updates the list.
 #pragma once
 
 #include <QComboBox>
@@ -14,13 +13,13 @@ class DriveList : public QComboBox {
   explicit DriveList(QWidget* parent = nullptr);
 
   [[nodiscard]] QString Drive() const { return currentText(); }
-  // Chooses the place that the path lies in, without a signal; an empty or relative path changes nothing.
+  // Selects the place that contains the path, without a signal. An empty or relative path changes nothing.
   void SetDrive(const QString& path);
 
   void showPopup() override;
 
  Q_SIGNALS:
-  // The person has chosen, be it the same place again.
+  // The person has chosen a place, perhaps the same place again.
   void DriveChanged(const QString& path);
 
  private:

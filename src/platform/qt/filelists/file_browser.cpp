@@ -37,8 +37,8 @@ void LinkFileBrowser(DriveList* place, FolderList* folders, FileList* files, QCo
   files->setFocus();
   files->SetPath(folders->Path());
   if (!mask) return;
-  mask->setCompleter(nullptr);  // it would make "*.htm" of a typed "*.h"
-  // The arrow keys go on from the mask that shows.
+  mask->setCompleter(nullptr);  // a completer would turn a typed "*.h" into "*.htm"
+  // The arrow keys start from the displayed mask.
   if (const int row = mask->findText(mask->currentText()); row >= 0) mask->setCurrentIndex(row);
   QObject::connect(mask, &QComboBox::currentTextChanged, files, &FileList::SetPattern);
   files->SetPattern(mask->currentText());

@@ -15,14 +15,14 @@
 namespace pelmar {
 namespace {
 
-// How long a change of the folder waits for others, in milliseconds, and how many times the length of a reading at
-// least: a folder of many files that changes all the time costs a tenth of the processor at most.
+// The delay from a change of the folder until the folder is read again: kSettle ms, but at least kReadings times the
+// duration of the last reading. So a large folder that changes constantly uses at most a tenth of the processor.
 constexpr int kSettle = 200;
 constexpr int kReadings = 10;
 
 }  // namespace
 
-// The names, which the rows show as a person reads them.
+// Stores the names and displays them with ShownPath.
 class FileNames : public QStringListModel {
  public:
   using QStringListModel::QStringListModel;
@@ -69,7 +69,7 @@ void FileList::SetPattern(const QString& pattern) {
   if (changed) Q_EMIT PatternChanged(pattern_);
 }
 
-// By the selection: the view makes a row current that nobody chose when it comes into focus.
+// Uses the selection, since a view that gets the focus makes a row current that the person has not chosen.
 QString FileList::FileName() const {
   const QModelIndexList rows = selectionModel()->selectedIndexes();
   return rows.isEmpty() ? QString() : names_->stringList().at(rows.constFirst().row());
@@ -110,13 +110,13 @@ void FileList::ReadAnew() {
   if (names != names_->stringList()) {
     const int scrolled = verticalScrollBar()->value();
     Show(names, selected);
-    executeDelayedItemsLayout();  // which gives the bar its range
+    executeDelayedItemsLayout();  // sets the range of the scroll bar
     verticalScrollBar()->setValue(scrolled);
   }
   if (gone) Q_EMIT FileGone();
 }
 
-// The one folder, for as long as it is on show: what changes meanwhile is read when it comes back.
+// Watches the folder only while the list is visible. showEvent reads the folder again.
 void FileList::Watch(bool watch) {
   if (const QStringList watched = watcher_.directories(); !watched.isEmpty()) watcher_.removePaths(watched);
   settle_.stop();
@@ -136,7 +136,7 @@ void FileList::mousePressEvent(QMouseEvent* event) {
 }
 
 void FileList::mouseDoubleClickEvent(QMouseEvent* event) {
-  // Its release would count as one click more, when whoever listened has long acted.
+  // Otherwise the release would emit FileClicked after FileActivated.
   click_told_ = true;
   QListView::mouseDoubleClickEvent(event);
 }

@@ -1,8 +1,7 @@
-// The file list of the file browser dialogs: the names of a folder's files that match a mask. While it is on show it
-// follows the folder, with the selection and the scrolling as they are; the selected name stays also where its file has
-// gone.
-// Paths and names are as PathToQString gives them; the rows show them as ShownPath does.
-// Setting a property is the program's doing and raises no click; FileClicked and FileActivated are the person's.
+// The file list of the file browser dialogs: the files of a folder whose names match a mask. A visible list follows
+// changes of the folder and keeps selection and scrolling. The selected name stays even if its file is removed. Paths
+// and names come from PathToQString; the rows show them with ShownPath. Only actions of the person emit FileClicked and
+// FileActivated.
 #pragma once
 
 #include <QFileSystemWatcher>
@@ -23,28 +22,27 @@ class FileList : public QListView {
   // Begins at the current folder of the process, with "*.*".
   explicit FileList(QWidget* parent = nullptr);
 
-  // Absolute, without "/" at the end (but for the root itself).
+  // The absolute path, without "/" at the end unless the path is "/".
   [[nodiscard]] const QString& Path() const { return path_; }
-  // A path that isn't a readable folder changes nothing. A new path selects nothing; the same one reads the folder
-  // anew.
+  // A path that isn't a readable folder changes nothing. A new path clears the selection; the same path is read again.
   void SetPath(const QString& path);
 
   [[nodiscard]] const QString& Pattern() const { return pattern_; }
-  // Masks as MatchesMask takes them. The selection stays where the file still shows.
+  // Masks for SplitMask and MatchesMask. The selection stays if the selected file is still listed.
   void SetPattern(const QString& pattern);
 
-  // The selected file's name, "" where none is. Writing a name that isn't in the list selects nothing.
+  // The selected name or "". Setting a name that isn't in the list clears the selection.
   [[nodiscard]] QString FileName() const;
   void SetFileName(const QString& name);
 
  Q_SIGNALS:
   void PathChanged(const QString& path);
   void PatternChanged(const QString& pattern);
-  // A file was clicked (again), or selected with the keyboard.
+  // A file was clicked, perhaps the same file again, or selected with the keyboard.
   void FileClicked();
-  // The selected file went out of the folder. Its name stays.
+  // The selected file was removed from the folder. Its name stays in the list.
   void FileGone();
-  // Double click or Enter. Where nobody listens, Enter goes on to the dialog's default button.
+  // Double click or Enter. If the signal isn't connected, Enter presses the default button of the dialog.
   void FileActivated();
 
  protected:
@@ -58,17 +56,17 @@ class FileList : public QListView {
  private:
   void Fill(const QString& selected);
   void Show(const QStringList& names, const QString& selected);
-  // The same folder again.
+  // Reads the folder again.
   void ReadAnew();
   void Watch(bool watch);
 
   FileNames* names_;
   QString path_, pattern_;
   QFileSystemWatcher watcher_;
-  QTimer settle_;      // from a change of the folder until it is read
-  bool read_ = false;  // a dialog sets path and mask before its first opening, and none of that needs the names
+  QTimer settle_;      // runs from a change of the folder until the folder is read again
+  bool read_ = false;  // false until the list is first shown or a name is set, so that earlier settings cost nothing
   bool by_program_ = false;
-  bool click_told_ = false;  // by the change of the selection that the press at hand made
+  bool click_told_ = false;  // the current mouse press has changed the selection, which has emitted FileClicked
 };
 
 }  // namespace pelmar

@@ -11,7 +11,7 @@
 
 namespace pelmar {
 
-// The rows, each with its depth below the root. The folder's subfolders stand behind the open ones on the way to it.
+// The rows, each with its depth below "/". First the open folders down to the current one, then its subfolders.
 class FolderModel : public QAbstractListModel {
  public:
   enum Role { kPath = Qt::UserRole, kDepth };
@@ -21,7 +21,7 @@ class FolderModel : public QAbstractListModel {
         open_(view->style()->standardIcon(QStyle::SP_DirOpenIcon)),
         closed_(view->style()->standardIcon(QStyle::SP_DirClosedIcon)) {}
 
-  // Returns the row of the folder itself.
+  // Fills the rows. Returns the row of the folder itself.
   int Show(const QString& path) {
     beginResetModel();
     rows_.assign(1, {QStringLiteral("/"), QStringLiteral("/")});
@@ -99,7 +99,7 @@ class IndentingDelegate : public QStyledItemDelegate {
   }
 };
 
-// The nearest folder on the way up that can be read.
+// The folder itself if readable, otherwise its nearest readable parent.
 QString Climb(QString path) {
   while (!IsReadableFolder(path) && path != QLatin1String("/")) path = QFileInfo(path).path();
   return path;
@@ -138,7 +138,7 @@ void FolderList::Fill(const QString& highlighted) {
 
 void FolderList::keyPressEvent(QKeyEvent* event) {
   if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) return QListView::keyPressEvent(event);
-  // Accepted, or the dialog's default button would act as well.
+  // Otherwise Enter would also press the default button of the dialog.
   event->accept();
   EnterHighlighted();
 }

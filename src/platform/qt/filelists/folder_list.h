@@ -1,6 +1,6 @@
-// The folder list of the file browser dialogs: the way from "/" down to the folder, then its subfolders.
-// A click only highlights; a double click or Enter moves into the highlighted folder. Every move that changes the path,
-// the person's or the program's, is told by PathChanged, and nothing else is.
+// The folder list of the file browser dialogs: the folders from "/" down to the current folder, then its subfolders. A
+// click only highlights a folder; a double click or Enter enters the highlighted folder. PathChanged is emitted exactly
+// when the path changes, by the person or by the program.
 #pragma once
 
 #include <QListView>
@@ -17,33 +17,32 @@ class FolderList : public QListView {
   // Begins at the current folder of the process.
   explicit FolderList(QWidget* parent = nullptr);
 
-  // Absolute, without "/" at the end (but for the root itself), as PathToQString gives it.
+  // The absolute path from PathToQString, without "/" at the end unless the path is "/".
   [[nodiscard]] const QString& Path() const { return path_; }
-  // A path that isn't a readable folder changes nothing. The folder's own row is highlighted. The same path again
-  // reads the folder anew.
+  // Highlights the row of the folder. A path that isn't a readable folder changes nothing; the same path is read again.
   void SetPath(const QString& path);
 
   [[nodiscard]] QString HighlightedPath() const;
 
  Q_SIGNALS:
   void PathChanged(const QString& path);
-  // Once at the end of a held key.
+  // A key was released. Repeats of a held key don't count.
   void KeyReleased();
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
-  // What happened to the folders while the dialog was hidden shows when it comes back.
+  // Reads the folder again, since it may have changed while the dialog was hidden.
   void showEvent(QShowEvent* event) override;
 
  private:
   void Fill(const QString& highlighted);
-  // Moves into the highlighted folder; the highlight goes back where that can't be read.
+  // Enters the highlighted folder. If this folder can't be read, highlights the current folder again.
   void EnterHighlighted();
 
   FolderModel* model_;
   QString path_;
-  bool read_ = false;  // a dialog sets the path before its first opening, which doesn't need the rows
+  bool read_ = false;  // false until the list is first shown, so that paths set before cost nothing
 };
 
 }  // namespace pelmar

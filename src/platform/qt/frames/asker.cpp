@@ -31,7 +31,7 @@ QWidget* Asker() {
 }
 
 void ExpectActive(QWidget* window) {
-  // From when a window has the keyboard on, that is the one.
+  // As soon as a window has the keyboard focus, no window is expected any more.
   static const auto forgets =
       QObject::connect(qApp, &QGuiApplication::focusWindowChanged, qApp, [](const QWindow* now) {
         if (now != nullptr) Expected() = nullptr;

@@ -1,23 +1,23 @@
-// The window that asks: what a box or a dialog that waits stands over, and what is the active window again afterwards.
-// The window manager would turn to the main window, whose text would take the next keys.
+// The asking window: the parent of a message box or a modal dialog. Afterwards this window is made active again.
+// Otherwise the window manager may activate the main window, and its text would get the next keys.
 #pragma once
 
 class QWidget;
 
 namespace pelmar {
 
-// The active window, or the one that is about to be; the main window where there is neither. Nothing without all.
+// The window that is active or soon will be, otherwise the main window. Null if there is no such window.
 QWidget* Asker();
 
-// This window is to be the active one, though the window manager may make it so only later.
+// Activates the window. Asker returns this window even before the window manager has activated it.
 void ExpectActive(QWidget* window);
 
-// True while a window of ours is on show that stays on top. Dialogs don't count: they do so because of such a window.
+// Whether the program shows a window that stays on top. Dialogs don't count, since PutAboveAll puts them on top.
 bool HasWindowOnTop();
-// A dialog must not lie under such a window: it stays on top as well, or no longer, once there is none.
+// Makes the dialog stay on top if HasWindowOnTop, since that window could cover the dialog; otherwise not on top.
 void PutAboveAll(QWidget& dialog);
 
-// A window that was never on show is to come up on the screen of the one that asks.
+// Call for a window that was never shown: the window will appear on the screen of the asking window.
 void ShowOnAskersScreen(QWidget& window);
 
 }  // namespace pelmar

@@ -8,10 +8,10 @@
 namespace pelmar {
 namespace {
 
-// False also while a widget is only about to be shown.
+// Whether the window is shown. False while show() is still in progress.
 bool Mapped(const QWidget& window) { return window.windowHandle() != nullptr && window.windowHandle()->isVisible(); }
 
-// Asked of the system window, because the widget's own notion of its frame can be that of before the mapping.
+// Uses QWindow, since the frame that QWidget knows may be outdated after the window is shown.
 QMargins Frame(const QWidget& window) { return Mapped(window) ? window.windowHandle()->frameMargins() : QMargins(); }
 
 QRect Outer(const QWidget& window) {
@@ -60,7 +60,7 @@ TwipsRect ScreenTwips(const TwipsRect& place) {
 }
 
 QSize RoomOnScreen(const QWidget& window) {
-  constexpr QSize kUsualFrame(8, 32);  // the window's own isn't known yet
+  constexpr QSize kUsualFrame(8, 32);  // the frame of this window is not known yet
   return window.screen()->availableGeometry().size() - kUsualFrame;
 }
 
@@ -68,7 +68,7 @@ void MoveAside(QWidget& window, const QRect& place) {
   const QRect outer = Outer(window);
   if (!outer.intersects(place)) return;
   const QRect free = window.screen()->availableGeometry();
-  // Below and above first: what lies beside a line goes on there.
+  // Try below and above first, since a line of text continues to the left and right of the place.
   const QPoint corners[] = {{outer.left(), place.bottom() + 1},
                             {outer.left(), place.top() - outer.height()},
                             {place.right() + 1, outer.top()},
@@ -90,7 +90,7 @@ void BringToFront(QWidget& window) {
 }
 
 void SetAlwaysOnTop(QWidget& window, bool on_top) {
-  // The widget's own call would hide a window on show; the system window's doesn't.
+  // QWidget::setWindowFlag hides a visible window; QWindow::setFlag doesn't.
   if (window.windowHandle() != nullptr) return window.windowHandle()->setFlag(Qt::WindowStaysOnTopHint, on_top);
   window.setWindowFlag(Qt::WindowStaysOnTopHint, on_top);
 }

@@ -1,5 +1,6 @@
-// Outer places and sizes of windows in twips, with the window manager's frame, and the stacking order. Before a window
-// is mapped its frame is unknown and counts as nothing; a position set then is still the frame's.
+// Outer places and sizes of windows in twips, and the stacking order. An outer place includes the frame of the window
+// manager. The frame is unknown until the window is shown and then counts as empty, but a position is always that of
+// the frame.
 #pragma once
 
 #include <QRect>
@@ -12,31 +13,29 @@ class QWidget;
 namespace pelmar {
 
 TwipsRect OuterGeometry(const QWidget& window);
-// Left and top together: set one after the other, the second would undo the first, whose answer is still on its way.
+// Sets left and top together. Separate calls would overwrite each other, since the window manager answers with a delay.
 void SetOuterPosition(QWidget& window, int left, int top);
 void SetOuterWidth(QWidget& window, int twips);
 void SetOuterHeight(QWidget& window, int twips);
-// All four at once; only what differs is touched.
+// Sets the whole place. Values that are equal already are not set.
 void SetOuterPlace(QWidget& window, const TwipsRect& place);
 
-// The whole screen that the window is on, and where it lies on the desktop.
+// The screen of the window, panels included, in the coordinates of the desktop.
 TwipsRect ScreenTwips(const QWidget& window);
-// The one that the middle of this place is on; the first where it is on none.
+// The screen that contains the centre of the place, otherwise the primary screen.
 TwipsRect ScreenTwips(const TwipsRect& place);
-// What the screen leaves to a window that isn't on show yet, inside its frame.
+// The size of the screen without panels and without a usual frame, in logical pixels. For windows never shown before.
 QSize RoomOnScreen(const QWidget& window);
-// Moves a window that covers `place` (on the screen, in logical pixels) just off it, where the screen has room for it
-// elsewhere.
+// Moves a window that covers `place` (in logical pixels on the desktop) to a free place beside, if there is one.
 void MoveAside(QWidget& window, const QRect& place);
 
-// How wide its title makes a window, with the buttons of the frame, in logical pixels.
+// The width of a window that shows its whole title and the buttons of the frame, in logical pixels.
 int WidthOfTitle(const QWidget& window);
 
-// Shows the window, or brings it back to the front where it is on show already, also out of its icon. It gets the
-// keyboard.
+// Shows the window in front of the others, even if minimised, and gives it the keyboard focus.
 void BringToFront(QWidget& window);
 
-// Keeps the window above all others, or no longer. A window on show stays so, without a flicker.
+// Sets whether the window stays above all others. A visible window doesn't flicker.
 void SetAlwaysOnTop(QWidget& window, bool on_top);
 
 }  // namespace pelmar

@@ -11,14 +11,14 @@
 namespace pelmar {
 namespace {
 
-// How long a window manager may take, and how often the window is looked at meanwhile.
+// The time that a window manager may need, and the interval between two checks.
 constexpr std::chrono::milliseconds kPatience(500);
 constexpr std::chrono::milliseconds kPoll(20);
-// An answer to an earlier wish, or a step on the way into the frame, may make a window seem to be where it isn't going
-// to stay.
+// A window may be in place only for a moment, for instance while the window manager adds the frame. So this many checks
+// in a row must find the window in place, except under Trust::kFirst.
 constexpr int kOftenEnough = 20;
 
-// The frame that a new window will most likely get: that of another one of ours.
+// The frame of another window of the program. A new window most likely gets an equal frame.
 QMargins UsualFrame() {
   const QWindowList windows = QGuiApplication::topLevelWindows();
   for (const QWindow* window : windows)
@@ -26,7 +26,7 @@ QMargins UsualFrame() {
   return {};
 }
 
-// A window manager puts the window into a frame of one pixel first, whose right side lies left of the window's.
+// Whether the frame is complete. Some window managers first use a frame of one pixel, which gives negative margins.
 bool IsMade(const QMargins& frame) { return std::min({frame.left(), frame.top(), frame.right(), frame.bottom()}) >= 0; }
 
 TwipsRect OnPixels(const TwipsRect& place) {
@@ -37,7 +37,7 @@ TwipsRect OnPixels(const TwipsRect& place) {
 TwipsRect InTheMiddle(const QWidget& window, const TwipsRect& now) {
   QRect outer(0, 0, PixelsOf(now.width), PixelsOf(now.height));
   outer.moveCenter(window.screen()->geometry().center());
-  // A window larger than what the panels leave keeps its title bar in sight.
+  // The title bar stays visible even if the window is larger than the free area of the screen.
   const QRect free = window.screen()->availableGeometry();
   const QPoint last = free.bottomRight() - outer.bottomRight() + outer.topLeft();
   return {TwipsOf(std::max(std::min(outer.left(), last.x()), free.left())),
@@ -106,14 +106,14 @@ void CentreOnScreen(QWidget& window) {
   const QMargins frame = UsualFrame();
   const QSize expected = window.size().grownBy(frame);
   const TwipsRect place = InTheMiddle(window, {0, 0, TwipsOf(expected.width()), TwipsOf(expected.height())});
-  // What is asked for before there is a frame comes to be the place of the inner area, or else of the frame.
+  // There is no frame yet. Some window managers take this position for the inner area, others for the frame.
   const QPoint asked(PixelsOf(place.left) + frame.left(), PixelsOf(place.top) + frame.top());
   window.move(asked);
   auto* placement = new Placement(
       window,
       [&window, asked](const TwipsRect& now) {
         const QPoint outer(PixelsOf(now.left), PixelsOf(now.top));
-        // Whoever has moved it meanwhile has the last word.
+        // If the window is elsewhere, somebody has moved it: leave it there.
         return outer == asked || window.geometry().topLeft() == asked ? InTheMiddle(window, now) : now;
       },
       Placement::Trust::kLasting);

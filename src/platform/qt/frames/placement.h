@@ -1,6 +1,6 @@
-// Brings a window to the place that is wanted of it, frame and all. The window manager tells a window's frame, and does
-// what it was asked, only a moment after the window is shown or leaves a state; a wish of before is put right then, as
-// a whole: size and position one after the other would each carry an old value of the other along.
+// Brings a window to an outer place. The frame is known only a moment after the window is shown, and the window manager
+// carries out requests with a delay. So Placement repeats its checks and requests until the window is in place.
+// Size and position are requested together, since separate requests would contain old values of each other.
 #pragma once
 
 #include <QDeadlineTimer>
@@ -16,25 +16,25 @@ namespace pelmar {
 
 class Placement : public QObject {
  public:
-  // The outer place that is wanted of a window that is at `now`.
+  // Returns the wanted outer place. `now` is the current one.
   using Wish = std::function<TwipsRect(const TwipsRect& now)>;
 
-  // When a new window is at its place for good: kFirst, at the first look that finds it there, so that somebody else
-  // may move it next; kLasting, after several looks in a row, for a wish that leaves a moved window alone.
+  // When the work for a new window ends. kFirst: after the first check that finds the window in place; then others may
+  // move the window. kLasting: after several such checks in a row; the wish must accept a window moved by others.
   enum class Trust { kFirst, kLasting };
 
-  // Does nothing until it is told to begin.
+  // Does nothing before Begin.
   Placement(QWidget& window, Wish wish, Trust trust = Trust::kFirst);
 
-  // Sees to the wish until it is met, as soon as the window is on show and has another frame than the one that is left.
-  // A window that is wanted maximised is kept so meanwhile; its place isn't asked for.
+  // Starts when the window is shown and its frame differs from `left`, the frame in its previous state. If `maximised`,
+  // keeps the window maximised instead of placing the window.
   void Begin(const QMargins& left = {}, bool maximised = false);
-  // True once the window manager has told the window's first frame, or gives it none.
+  // Whether the first frame of the window is known, or the window manager gives no frame.
   [[nodiscard]] bool FrameKnown() const { return frame_known_; }
 
-  // Told when the first frame is there, and the wish is asked for.
+  // Called when the first frame is known and the place has been requested.
   std::function<void()> on_frame;
-  // Told when the wish is met, or as good as it gets.
+  // Called when the window is in place, or when the time is up.
   std::function<void()> on_end;
 
  protected:
@@ -51,13 +51,13 @@ class Placement : public QObject {
   QTimer timer_;
   QMargins left_;
   QDeadlineTimer deadline_;
-  int met_ = 0;  // how often in a row the window was found where it should be
+  int met_ = 0;  // how many checks in a row found the window in place
   bool maximised_ = false;
   bool mapped_ = false;
   bool frame_known_ = false;
 };
 
-// In the middle of the screen that it is on, clear of the desktop's panels. For a window that is about to be shown.
+// Centres a window on its screen, but not under the panels of the desktop. Call before the window is shown.
 void CentreOnScreen(QWidget& window);
 
 }  // namespace pelmar

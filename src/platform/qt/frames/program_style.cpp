@@ -17,13 +17,12 @@
 namespace pelmar {
 namespace {
 
-// How much of the colour of texts is mixed into that of the ground, in percent, for the contrast wanted: the relation
-// of two luminances, from 1 for the same to 21 for black on white.
+// The wanted contrasts with the background, as ratios of luminances: 1 for equal colours, 21 for black on white.
 constexpr double kReadable = 4.5;
-constexpr double kVisible = 3.7;  // above the 3 that a sign needs, since its edge is blurred
-constexpr double kSeen = 3;       // what is off is to be seen, and to be told from what is on
+constexpr double kVisible = 3.7;  // more than the usual 3 for borders, since their edges are blurred
+constexpr double kSeen = 3;       // disabled captions: visible, but paler than enabled ones
 constexpr double kLine = 2;
-constexpr double kMarked = 1.5;  // a ground that a text stands on
+constexpr double kMarked = 1.5;  // the background of a selected text
 constexpr int kSteps = 20;
 
 double Luminance(const QColor& color) {
@@ -44,7 +43,7 @@ QColor Mixed(const QColor& ground, const QColor& text, double share) {
                           mix(ground.blueF(), text.blueF()));
 }
 
-// The colour between the two that is just strong enough.
+// The mixture of the two colours that just reaches the contrast.
 QColor OfContrast(double wanted, const QColor& ground, const QColor& text) {
   for (int step = 1; step < kSteps; ++step)
     if (const QColor mixed = Mixed(ground, text, static_cast<double>(step) / kSteps); Contrast(ground, mixed) >= wanted)
@@ -54,13 +53,13 @@ QColor OfContrast(double wanted, const QColor& ground, const QColor& text) {
 
 bool HasKeyboard(const QWidget* widget) { return widget != nullptr && widget->hasFocus() && widget->isActiveWindow(); }
 
-// Enter presses it instead of the window's default button.
+// Whether Enter presses this widget instead of the default button of the window.
 bool TakesEnter(const QWidget* widget) {
   return qobject_cast<const QPushButton*>(widget) || qobject_cast<const QToolButton*>(widget);
 }
 
-// An item of a menu that fits the screen so, down to the height of its letters: the toolkit would put the last items
-// into a second column.
+// The height of a menu item. Reduces the usual height, at most to the height of the letters, so that the menu fits the
+// screen. Otherwise Qt would put the last items into a second column.
 int HeightInMenu(const QMenu& menu, int usual) {
   constexpr int kSeparator = 8, kFrame = 8;
   int items = 0, around = kFrame;
@@ -91,10 +90,10 @@ QIcon ProgramStyle::standardIcon(StandardPixmap picture, const QStyleOption* opt
 
 int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                             QStyleHintReturn* answer) const {
-  // The buttons of message boxes look and stand like those of the program's own dialogs.
+  // The buttons of message boxes have the look and the order of the program's own dialogs.
   if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
   if (hint == SH_DialogButtonLayout) return QDialogButtonBox::WinLayout;
-  // A turn of the wheel over the tabs is not a choice; the document behind would change, and its undo be gone.
+  // A wheel turn over the tabs is often an accident. The document would change and its undo history would be lost.
   if (hint == SH_TabBar_AllowWheelScrolling) return 0;
   return QProxyStyle::styleHint(hint, option, widget, answer);
 }
@@ -124,7 +123,7 @@ int ProgramStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, co
 QSize ProgramStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                                      const QWidget* widget) const {
   QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
-  // The usual style widens short captions and lets long ones touch the rim.
+  // Qt's usual style widens buttons with short captions and lets long captions touch the border.
   constexpr int kBesideCaption = 12;
   const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
   if (type == CT_PushButton && button != nullptr && !button->text.isEmpty())
@@ -145,19 +144,19 @@ void ProgramStyle::polish(QPalette& palette) {
     if (Contrast(on, palette.color(QPalette::Disabled, role)) < wanted)
       palette.setColor(QPalette::Disabled, role, OfContrast(wanted, on, text(QPalette::WindowText)));
   };
-  // A search puts its fields off just when the person decides by what stands in them.
+  // A search disables its fields while the person still has to read them.
   lift(QPalette::Text, QPalette::Base, kReadable);
   const QColor marked = OfContrast(kMarked, palette.color(QPalette::Disabled, QPalette::Base), text(QPalette::Text));
   palette.setColor(QPalette::Disabled, QPalette::Highlight, marked);
   palette.setColor(QPalette::Disabled, QPalette::HighlightedText, OfContrast(kReadable, marked, text(QPalette::Text)));
   lift(QPalette::WindowText, QPalette::Window, kSeen);
   lift(QPalette::ButtonText, QPalette::Button, kSeen);
-  // Some desktops with a dark look leave it black. Tabs show it on the button's colour, which is the harder ground.
+  // Some dark desktops leave placeholder texts black. Tabs show them on the colour of buttons, where contrast is lower.
   const QColor hint = OfContrast(kReadable, text(QPalette::Button), text(QPalette::ButtonText));
   palette.setColor(QPalette::PlaceholderText, hint);
-  // The lines of the program's own controls, on a window's ground or a field's.
+  // The lines of the program's own controls.
   palette.setColor(QPalette::Mid, OfContrast(kLine, text(QPalette::Window), text(QPalette::WindowText)));
-  // Tips stay light yellow on some desktops with a dark look.
+  // On some dark desktops tool tips stay light yellow.
   if (Luminance(text(QPalette::Window)) > Luminance(text(QPalette::WindowText))) return;
   palette.setColor(QPalette::ToolTipBase, text(QPalette::Window));
   palette.setColor(QPalette::ToolTipText, text(QPalette::WindowText));
@@ -170,7 +169,7 @@ void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
     return DrawPushButton(*box, *painter, *widget);
   if ((element != PE_IndicatorCheckBox && element != PE_IndicatorRadioButton) || box == nullptr)
     return QProxyStyle::drawPrimitive(element, option, painter, widget);
-  // The usual style darkens the ground by a third or more for the rim, which on a dark one can't be seen.
+  // Qt's usual style darkens the background for the border, which is invisible on a dark background.
   const int darkens = element == PE_IndicatorRadioButton ? 150 : 127;
   QStyleOptionButton rimmed(*box);
   const QColor rim = OfContrast(kVisible, box->palette.color(QPalette::Window),
@@ -194,7 +193,7 @@ void ProgramStyle::DrawPushButton(QStyleOptionButton button, QPainter& painter, 
 
 void ProgramStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                                const QWidget* widget) const {
-  // A title of the menu bar that the keyboard is at, with no menu open, as behind an Escape.
+  // Marks the selected title of the menu bar even if no menu is open, for instance after Escape.
   const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
   if (element == CE_MenuBarItem && item != nullptr && item->state.testFlag(State_Selected) &&
       qobject_cast<const QMenuBar*>(widget) && HasKeyboard(widget)) {
@@ -216,7 +215,7 @@ void ProgramStyle::drawControl(ControlElement element, const QStyleOption* optio
 void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                                       const QWidget* widget) const {
   QProxyStyle::drawComplexControl(control, option, painter, widget);
-  // A bar that stands for a value; those of lists and texts never have the keyboard.
+  // Only scroll bars that hold a value can have the focus; the scroll bars of lists and texts can't.
   if (control != CC_ScrollBar || widget == nullptr || widget->focusPolicy() == Qt::NoFocus) return;
   const QPalette& palette = option->palette;
   painter->setPen(widget->isEnabled() ? OfContrast(kVisible, palette.color(QPalette::Window),

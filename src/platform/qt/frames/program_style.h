@@ -1,8 +1,7 @@
-// The desktop's own style, with what the program needs beside it: two pictures that every menu bar and toolbar asks for
-// when it is made come from the program itself, since the toolkit would search its picture plug-ins for them before the
-// first window is on the screen; what has the keyboard is to be seen also where the style doesn't show it; and so is,
-// on a dark desktop too, what is off: the text of its fields, its captions, the rims of boxes. The wheel leaves tabs
-// alone. A form says nothing of the room round a dialog and between what stands in it, unless it wants another one.
+// The style of the desktop with changes. The focused control is always marked. Disabled texts and the borders of check
+// boxes are visible on dark desktops too. The mouse wheel doesn't change tabs. Dialogs have equal margins and spacing,
+// unless a form sets others. Two icons of menu bars and toolbars come from the program, since Qt would load its image
+// plug-ins for them before the first window appears.
 #pragma once
 
 #include <QProxyStyle>
@@ -10,7 +9,7 @@
 
 namespace pelmar {
 
-// Set on the windows that get that room.
+// A dynamic property of the windows that get these margins and this spacing.
 inline constexpr char kRoomProperty[] = "roomByStyle";
 
 class ProgramStyle : public QProxyStyle {

@@ -14,11 +14,10 @@
 namespace pelmar {
 namespace {
 
-constexpr int kMostPixmaps = 16;      // two modes of the few sizes that a screen or two ask for
+constexpr int kMostPixmaps = 16;      // enough for two modes and a few sizes
 constexpr int kDisabledOpacity = 45;  // percent
 
-// Through the toolkit's picture plug-in, so that the library behind it is loaded at the first paint and not at the
-// start.
+// Uses Qt's SVG plug-in, so that the SVG library is loaded at the first paint, not at the start.
 QImage Render(const QString& path, int side) {
   QImageReader reader(path, "svg");
   reader.setScaledSize({side, side});
@@ -29,7 +28,7 @@ QImage Render(const QString& path, int side) {
   return empty;
 }
 
-// Grey and faint. Premultiplied colours may be averaged and scaled without looking at their alpha.
+// Makes the image grey and faint. The colours are premultiplied, so they can be averaged and scaled directly.
 void MakeDisabled(QImage& image) {
   for (int y = 0; y < image.height(); ++y) {
     auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
@@ -80,7 +79,7 @@ class SvgIconEngine final : public QIconEngine {
 
  private:
   QString path_;
-  QHash<int, QPixmap> pixmaps_;  // by the side in device pixels, negative for the disabled look
+  QHash<int, QPixmap> pixmaps_;  // by their side in device pixels, negative for disabled icons
 };
 
 }  // namespace

@@ -1,6 +1,5 @@
-// Icons from the program's own vector pictures, as sharp as the screen allows at any size and scale.
-// Making one costs nothing: the picture is read at the first paint only, so a toolbar or a window full of them does
-// not slow the start. The pictures are square, and the engine relies on it.
+// Icons from SVG files, sharp at any size and scale. A file is read when its icon is first painted, so icons don't slow
+// the start. The images must be square.
 #pragma once
 
 #include <QIcon>
@@ -8,12 +7,10 @@
 
 namespace pelmar {
 
-// An icon that draws the SVG at `resource_path` (as in ":/icons/open.svg"). A picture that is missing or damaged
-// draws nothing. Only for the interface thread.
+// The icon of an SVG file such as ":/icons/open.svg". A missing or damaged file draws nothing. Interface thread only.
 QIcon SvgIcon(const QString& resource_path);
 
-// Gives every window the program's icon, those to come too. The first call draws it, so it waits until a window needs
-// it.
+// Gives all windows the icon of the program. The first call draws the icon, so call when a window needs the icon.
 void ShowProgramIcon();
 
 }  // namespace pelmar

@@ -19,7 +19,7 @@ void CaretBlink::Start(bool blinks) {
   SetShown(true);
   const int half = QGuiApplication::styleHints()->cursorFlashTime() / 2;
   if (!blinks || half <= 0) return timer_.stop();
-  // An even number of halves, so that it stops while it is seen.
+  // An even number, so that the caret is visible at the end.
   left_ = std::max(kBlinkForMs / half, 2) / 2 * 2;
   timer_.start(half, this);
 }

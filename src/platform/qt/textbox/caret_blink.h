@@ -1,5 +1,5 @@
-// Whether the caret is to be seen now: blinks at the desktop's rate while keys come, stands still some ten seconds
-// after the last one so that an idle program wakes nobody, and runs no timer at all where it may not blink.
+// The blinking of the caret at the rate of the desktop. About ten seconds after the last key the blinking stops, so
+// that an idle program does nothing. A caret that may not blink needs no timer.
 #pragma once
 
 #include <QBasicTimer>
@@ -10,11 +10,11 @@ namespace pelmar {
 
 class CaretBlink : public QObject {
  public:
-  // `repaint` is called whenever Shown has changed.
+  // `repaint` is called after each change of Shown.
   explicit CaretBlink(std::function<void()> repaint);
 
   [[nodiscard]] bool Shown() const { return shown_; }
-  // Shows the caret; `blinks` false leaves it steady.
+  // Shows the caret. If `blinks` is false, the caret is steady.
   void Start(bool blinks);
   void Hide();
 
@@ -26,7 +26,7 @@ class CaretBlink : public QObject {
 
   std::function<void()> repaint_;
   QBasicTimer timer_;
-  int left_ = 0;  // half periods until it stands still
+  int left_ = 0;  // half periods until the blinking stops
   bool shown_ = false;
 };
 

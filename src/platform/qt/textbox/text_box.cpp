@@ -18,7 +18,7 @@ namespace {
 
 std::size_t Position(int value) { return static_cast<std::size_t>(std::max(value, 0)); }
 
-// Parts of the union of two stretches where only one of them lies.
+// A span that covers all text that belongs to only one of the two spans.
 TextSpan Difference(TextSpan a, TextSpan b) {
   if (a.begin == b.begin) return {std::min(a.end, b.end), std::max(a.end, b.end)};
   if (a.end == b.end) return {std::min(a.begin, b.begin), std::max(a.begin, b.begin)};
@@ -191,8 +191,8 @@ void TextBox::Relayout() {
   viewport()->update();
 }
 
-// A scroll bar that comes or goes changes the width, and that the height; two rounds settle it, since a narrower window
-// never needs less height.
+// A scroll bar that appears or disappears changes the width, and the width changes the height. Two rounds are enough,
+// since a narrower window never needs less height.
 void TextBox::UpdateScrollBars() {
   if (updating_bars_) return;
   updating_bars_ = true;
@@ -211,7 +211,7 @@ void TextBox::UpdateScrollBars() {
   updating_bars_ = false;
 }
 
-// Keeps the uppermost row's text where it is while the rows around it change.
+// Keeps the text of the top row in place while `change` changes the rows.
 void TextBox::KeepTopWhile(const std::function<void()>& change) {
   const int top = Scrolled().y();
   if (top == 0 || !Showing()) return change();
@@ -300,7 +300,7 @@ void TextBox::RevealRect(QRect rect) {
   };
   reveal(verticalScrollBar(), rect.top() - TextView::kMargin, rect.bottom() + 1 + TextView::kMargin,
          viewport()->height());
-  // Going out at a side brings some text of that side along.
+  // If the rectangle is outside, scrolls a little further, so that the text around it is visible too.
   const bool outside = rect.left() < 0 || rect.right() >= viewport()->width();
   const int ahead = outside ? std::min(viewport()->width() / 8, 60) : 0;
   reveal(horizontalScrollBar(), rect.left() - std::max(TextView::kMargin, ahead),
@@ -309,7 +309,7 @@ void TextBox::RevealRect(QRect rect) {
 
 void TextBox::ShowCaretAnew() {
   if (!Showing()) return;
-  if (composer_.Active()) viewport()->update();  // composed text goes with the caret
+  if (composer_.Active()) viewport()->update();  // composed text moves with the caret
   const QRect caret = CaretRect();
   if (caret != shown_caret_) {
     viewport()->update(shown_caret_);

@@ -1,8 +1,7 @@
-// The multi-line text control of the whole program: shows and edits a TextBuffer of Windows-1250 bytes.
-// Parts of it live in classes of their own: TextView (layout), TextPainter, CaretMover and text_keys (keyboard),
-// TextMouse, TextDrop, TextComposer (input methods), CaretBlink, TextBoxAccessible. This class holds them together.
-// Positions are byte offsets from 0 and clipped to the text. Setters written in lower camel case are properties by the
-// toolkit's custom, because forms call them under these names.
+// The multi-line text control of the program. It shows and edits a TextBuffer of Windows-1250 bytes. Other classes do
+// most of the work: TextView (layout), TextPainter, CaretMover and text_keys (keyboard), TextMouse, TextDrop,
+// TextComposer (input methods), CaretBlink and TextBoxAccessible. Positions are byte offsets from 0, clipped to the
+// text. Setters in lower camel case are properties that forms set.
 #pragma once
 
 #include <QAbstractScrollArea>
@@ -46,7 +45,7 @@ class TextBox : public QAbstractScrollArea {
 
   [[nodiscard]] TextBuffer& Buffer() { return *buffer_; }
   [[nodiscard]] const TextBuffer& Buffer() const { return *buffer_; }
-  // Shows a buffer that somebody else owns and that outlives this control or the next call.
+  // Shows the given buffer, which must live as long as this control or until the next call.
   void UseBuffer(TextBuffer& buffer);
 
   [[nodiscard]] QByteArray Text() const;
@@ -62,50 +61,50 @@ class TextBox : public QAbstractScrollArea {
   void setReadOnly(bool read_only);
   [[nodiscard]] bool WordWrap() const { return view_->Wraps(); }
   void setWordWrap(bool wrap);
-  // Left, right or centre; anything else means left.
+  // Left, right or centre. Other values mean left.
   [[nodiscard]] Qt::Alignment Alignment() const;
   void setAlignment(Qt::Alignment alignment);
-  // Colours of the palette hold where these are invalid.
+  // An invalid colour means the colour of the palette.
   [[nodiscard]] QColor TextColor() const { return text_color_; }
   void setTextColor(const QColor& color);
   [[nodiscard]] QColor BackgroundColor() const { return background_color_; }
   void setBackgroundColor(const QColor& color);
-  // False where a menu owns Ctrl with letters.
+  // False if a menu handles Ctrl with letters.
   [[nodiscard]] bool StandardShortcuts() const { return standard_shortcuts_; }
   void setStandardShortcuts(bool standard) { standard_shortcuts_ = standard; }
-  // False: TAB is typed. Shift+TAB always goes to the field before, TAB in a read-only text to the next one.
+  // If false, TAB is typed, except in a read-only text. Shift+TAB always goes to the previous field.
   [[nodiscard]] bool TabChangesFocus() const { return tab_changes_focus_; }
   void setTabChangesFocus(bool changes) { tab_changes_focus_ = changes; }
 
-  // True: the whole text is selected when TAB leads here, as in a single-line field.
+  // If true, TAB into this control selects the whole text, as in a single-line field.
   [[nodiscard]] bool TabSelectsAll() const { return tab_selects_all_; }
   void setTabSelectsAll(bool selects) { tab_selects_all_ = selects; }
 
-  // True: while another window has the keyboard, a pale caret shows where that window's tools put their text.
+  // If true, a pale caret is shown while another window has the focus, since tools in other windows insert text here.
   void SetCaretStays(bool stays) { caret_stays_ = stays; }
 
-  // What a key does, for menus. Changes nothing where the text is read-only.
+  // Does what the key does, for use by menus. A read-only text is not changed.
   void Do(const TextKey& key);
-  // Inserts the text of a clipboard or drop, by the clipboard's rules. Nothing where there is none.
+  // Inserts the text of the clipboard or of a drop, converted by TextFromMime. Does nothing if there is no text.
   void Insert(const QMimeData* mime);
 
-  // Geometry for the parts, in pixels of the viewport.
+  // Geometry for the helper classes, in pixels of the viewport.
   [[nodiscard]] TextPlace PlaceAt(QPoint point) const;
   [[nodiscard]] bool IsSelectedAt(QPoint point) const;
   [[nodiscard]] QRect CaretRect() const;
   [[nodiscard]] QRect CharRect(std::size_t pos) const;
-  // The caret alone, or the moving end of the selection.
+  // Move the caret. PutCaret clears the selection; SelectTo extends the selection to the caret.
   void PutCaret(TextPlace place) { MoveCaret(place, false); }
   void SelectTo(TextPlace place) { MoveCaret(place, true); }
   void Select(TextSpan span, bool caret_first = false);
-  // Scrolls as little as shows a position, or the caret on the row that shows it.
+  // Scroll as little as necessary to show a position or the caret.
   void Reveal(std::size_t pos);
   void RevealCaret();
-  // The row that holds a position, with the line's end where it ends one.
+  // The span of the row that contains a position, including a line break at its end.
   [[nodiscard]] TextSpan RowSpan(std::size_t pos) const;
-  // Offers the selection to the middle mouse button of other windows.
+  // Makes the selection the primary selection, which the middle mouse button pastes.
   void PublishSelection();
-  // Where a drop would go, or nothing.
+  // Shows the place where a drop would insert text, or hides it.
   void ShowDropPlace(std::optional<TextPlace> place);
 
  Q_SIGNALS:
@@ -163,7 +162,7 @@ class TextBox : public QAbstractScrollArea {
   [[nodiscard]] int CaretWidth() const;
   [[nodiscard]] TextColours Colours() const;
   [[nodiscard]] QColor Background() const;
-  // Where the caret's position is, and where composed text begins: there, or further left where it would not fit.
+  // The place of the caret, and the beginning of composed text: equal, or further left if the text doesn't fit.
   [[nodiscard]] QPoint CaretPoint() const;
   [[nodiscard]] QPoint ComposedPoint() const;
 
@@ -189,7 +188,7 @@ class TextBox : public QAbstractScrollArea {
   bool tab_selects_all_ = false;
   bool caret_stays_ = false;
   bool updating_bars_ = false;
-  bool ready_ = false;  // on the screen at least once
+  bool ready_ = false;  // has been on the screen
 };
 
 }  // namespace pelmar

@@ -8,7 +8,7 @@
 namespace pelmar {
 namespace {
 
-// An offset from outside; -1 and -2 stand for the end and the caret, as the protocol has it.
+// Converts an offset from assistive technology. In the protocol -1 means the end and -2 the caret.
 std::size_t PosOf(int offset, const TextBuffer& buffer) {
   if (offset == -2) return buffer.Caret();
   if (offset < 0) return buffer.Size();
@@ -186,7 +186,7 @@ void TextBoxTeller::CaretMoved() {
   TellCaret();
 }
 
-// The text events carry the place too, but magnifiers and braille displays follow this one alone.
+// Sent separately, since magnifiers and braille displays ignore the caret position in text events.
 void TextBoxTeller::TellCaret() {
   QAccessibleTextCursorEvent caret(&box_, static_cast<int>(box_.Buffer().Caret()));
   Send(caret);

@@ -1,4 +1,4 @@
-// A text box as assistive technology sees it. Offsets are byte positions, as everywhere: each byte is one character.
+// Presents a text box to assistive technology. Offsets are byte positions, since each byte is one character.
 #pragma once
 
 #include <QAccessibleWidget>
@@ -47,7 +47,7 @@ class TextBoxAccessible : public QAccessibleWidget,
   TextBox& box_;
 };
 
-// Tells assistive technology of changes, while some is at work.
+// Notifies assistive technology of changes, if there is any.
 class TextBoxTeller {
  public:
   explicit TextBoxTeller(TextBox& box) : box_(box) {}
@@ -55,7 +55,7 @@ class TextBoxTeller {
 
   void Changed(const TextChange& change);
   void CaretMoved();
-  // Another text is shown.
+  // Call when the box shows another text.
   void Forget();
 
  protected:
@@ -66,7 +66,7 @@ class TextBoxTeller {
   void TellCaret();
 
   TextBox& box_;
-  std::string told_;  // the text as last told: whoever listens wants to hear what was removed
+  std::string told_;  // the text at the last notification, since a notification contains the removed text
   bool knows_text_ = false;
 };
 

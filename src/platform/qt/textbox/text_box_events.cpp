@@ -1,4 +1,4 @@
-// What the toolkit tells a text box: keys, painting, focus, composed text.
+// The event handlers of the text box.
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QGuiApplication>
@@ -25,7 +25,7 @@ QColor Between(const QColor& a, const QColor& b) {
 
 bool TextBox::event(QEvent* event) {
   if (event->type() == QEvent::ShortcutOverride) {
-    event->ignore();  // shortcuts of menus come before every key of ours
+    event->ignore();  // shortcuts of menus come before all keys of the text box
     return false;
   }
   return QAbstractScrollArea::event(event);
@@ -39,7 +39,7 @@ void TextBox::keyPressEvent(QKeyEvent* event) {
     Do(*key);
     return event->accept();
   }
-  // The other key for the pop-up menu, for keyboards without one of its own.
+  // Shift+F10 opens the pop-up menu, for keyboards without a menu key.
   if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
     const QPoint at = CaretRect().bottomLeft();
     QContextMenuEvent menu(QContextMenuEvent::Keyboard, at, viewport()->mapToGlobal(at));
@@ -176,7 +176,7 @@ TextColours TextBox::Colours() const {
   if (hasFocus() && isActiveWindow())
     return {own, colours.color(QPalette::Active, QPalette::HighlightedText),
             colours.color(QPalette::Active, QPalette::Highlight)};
-  // Many palettes make no difference between active and inactive selections.
+  // Many palettes have equal colours for active and inactive selections, so mix a colour.
   return {own, own, Between(colours.color(QPalette::Active, QPalette::Highlight), Background())};
 }
 
@@ -219,7 +219,7 @@ void TextBox::PaintComposed(QPainter& painter) {
 
 void TextBox::scrollContentsBy(int dx, int dy) {
   const qreal ratio = devicePixelRatioF();
-  // Moving painted pixels by parts of device pixels would smear.
+  // Moving painted pixels by a fraction of a device pixel would blur them.
   if (ratio == std::floor(ratio) && !composer_.Active()) {
     viewport()->scroll(dx, dy);
     shown_caret_.translate(dx, dy);
@@ -236,11 +236,10 @@ void TextBox::resizeEvent(QResizeEvent* /*event*/) {
 
 void TextBox::showEvent(QShowEvent* event) {
   QAbstractScrollArea::showEvent(event);
-  // Back from where the window manager had put the window: what was scrolled to stays.
+  // The window manager shows the window again: keep the scroll position.
   if (ready_ && event->spontaneous()) return Relayout();
   if (ready_) return ShowAnew();
-  // The font's table is made when the window is on the screen, just before its first paint: until then the window
-  // manager has to do, and shall not have to wait for a processor.
+  // The glyph table is built just before the first paint. Until then the window manager needs the processor.
   QWindow* screen_window = window()->windowHandle();
   if (screen_window != nullptr && !screen_window->isExposed()) return screen_window->installEventFilter(this);
   QMetaObject::invokeMethod(this, &TextBox::GetReady, Qt::QueuedConnection);
@@ -297,7 +296,7 @@ void TextBox::focusOutEvent(QFocusEvent* event) {
 
 void TextBox::wheelEvent(QWheelEvent* event) {
   if (event->modifiers().testFlag(Qt::ControlModifier)) return event->ignore();
-  // Touch pads tell pixels; under X11 those are made up by the driver.
+  // Touch pads report distances in pixels. Under X11 these values are unreliable.
   const bool exact = !event->pixelDelta().isNull() && QGuiApplication::platformName() != QStringLiteral("xcb");
   if (!exact) return QAbstractScrollArea::wheelEvent(event);
   horizontalScrollBar()->setValue(horizontalScrollBar()->value() - event->pixelDelta().x());

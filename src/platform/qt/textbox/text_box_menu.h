@@ -1,4 +1,4 @@
-// The pop-up menu that a text box shows where its window has none of its own.
+// The pop-up menu of a text box whose window has no pop-up menu.
 #pragma once
 
 #include <QMenu>
@@ -7,7 +7,7 @@ namespace pelmar {
 
 class TextBox;
 
-// The caller owns the menu. Its actions do what the keys shown beside them do.
+// The caller owns the menu. Each action does what the key in its caption does.
 QMenu* BuildTextMenu(TextBox& box);
 
 }  // namespace pelmar

@@ -10,10 +10,10 @@
 namespace pelmar {
 namespace {
 
-// Input methods look a few words around; a whole line may be millions of characters.
+// Input methods need only a few words around the caret, and a line may have millions of characters.
 constexpr std::size_t kSurrounding = 512;
 
-// The part of the caret's line that input methods get to see.
+// The part of the caret's line that is passed to input methods.
 TextSpan SurroundingOf(const TextBuffer& buffer) {
   const std::size_t line = buffer.LineOf(buffer.Caret());
   const std::size_t begin = buffer.LineStart(line);
@@ -22,7 +22,7 @@ TextSpan SurroundingOf(const TextBuffer& buffer) {
   return {std::max(begin, caret - std::min(caret, kSurrounding)), std::min(end, caret + kSurrounding)};
 }
 
-// A position counted in the surrounding text.
+// Converts a position to an offset in the surrounding text.
 int Inside(TextSpan around, std::size_t pos) {
   return static_cast<int>(std::clamp(pos, around.begin, around.end) - around.begin);
 }

@@ -1,5 +1,5 @@
-// What an input method is composing (dead keys, ibus) before it is text: shown at the caret, not in the buffer.
-// Answers also the questions of input methods about the text around the caret.
+// The text that an input method (dead keys, ibus) is composing. This text is shown at the caret but is not in the
+// buffer yet. The class also tells input methods the text around the caret.
 #pragma once
 
 #include <QFont>
@@ -22,12 +22,12 @@ class TextComposer {
   [[nodiscard]] int CaretX(const QFont& font) const;
   [[nodiscard]] int Width(const QFont& font) const;
 
-  // Puts the event's text into the buffer and keeps what is still being composed.
+  // Inserts the finished text of the event into the buffer and keeps the composed text.
   void Handle(const QInputMethodEvent& event, TextBuffer& buffer);
   void Clear();
   void Paint(QPainter& painter, QPointF baseline, const QFont& font) const;
 
-  // The part of an answer that comes from the text; invalid for questions about anything else.
+  // Answers the questions about the text. Invalid for other questions.
   static QVariant AnswerFromText(Qt::InputMethodQuery query, const TextBuffer& buffer);
 
  private:

@@ -13,7 +13,7 @@
 namespace pelmar {
 namespace {
 
-constexpr int kScrollBorder = 12;  // pixels at the edges in which dragging scrolls
+constexpr int kScrollBorder = 12;  // the width in pixels of the edges where dragging scrolls
 
 int ScrollSign(int at, int size) {
   if (at < kScrollBorder) return -1;
@@ -22,7 +22,7 @@ int ScrollSign(int at, int size) {
 
 }  // namespace
 
-// Replaces the stretch from the selection to the target at once, so that one undo takes the move back.
+// Replaces the text from the selection to the target in one step, so that one undo reverts the move.
 void MoveSelection(TextBuffer& buffer, std::size_t to, bool copy) {
   const std::size_t begin = buffer.SelStart();
   const std::size_t end = buffer.SelEnd();
@@ -51,7 +51,7 @@ void TextDrop::StartDrag(TextBox& box) {
   const Qt::DropAction done = drag->exec(offered, box.IsReadOnly() ? Qt::CopyAction : Qt::MoveAction);
   if (guard.isNull() || box.IsReadOnly() || done != Qt::MoveAction) return;
   const QObject* target = drag->target();
-  if (target == &box || target == box.viewport()) return;  // Drop has moved it
+  if (target == &box || target == box.viewport()) return;  // Drop() has moved the text
   if (box.Buffer().SelStart() == start && box.Buffer().SelText() == dragged) box.Buffer().ReplaceSelection({});
 }
 

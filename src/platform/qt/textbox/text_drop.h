@@ -1,5 +1,5 @@
-// Drag and drop of text from and into a text box. Inside one box text moves (with Ctrl it is copied) in one step of
-// undo. Files and links are not text: they are left to the windows around.
+// Drag and drop of text from and into a text box. Inside one box a drag moves the text, or copies with Ctrl, in one
+// undo step. Files and links are left to the parent widgets.
 #pragma once
 
 #include <QDropEvent>
@@ -11,14 +11,14 @@ namespace pelmar {
 
 class TextBox;
 
-// Moves or copies the selection to `to` and leaves it selected there. Nothing where it would fall onto itself.
+// Moves or copies the selection to `to` and selects the result. Does not move a selection into itself.
 void MoveSelection(TextBuffer& buffer, std::size_t to, bool copy);
 
 class TextDrop {
  public:
   explicit TextDrop(TextBox& box) : box_(box) {}
 
-  // Drags the selection of `box`; returns when it was dropped.
+  // Drags the selection of `box`. Returns after the drop.
   static void StartDrag(TextBox& box);
 
   void Enter(QDragEnterEvent* event);

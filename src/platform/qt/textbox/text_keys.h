@@ -1,4 +1,4 @@
-// Which key means what in a text box. A table, so that the whole keyboard can be read at one place.
+// The keys of a text box.
 #pragma once
 
 #include <QKeyEvent>
@@ -31,10 +31,10 @@ struct TextKey {
   bool select = false;                // of kMove
 };
 
-// With `standard_shortcuts` false Ctrl with a letter means nothing here: a menu owns such keys.
+// The command of a key, if any. Without `standard_shortcuts`, Ctrl with a letter has none: a menu handles such keys.
 std::optional<TextKey> TextKeyOf(const QKeyEvent& event, bool standard_shortcuts);
 
-// The characters that a key types, empty for a key that types none.
+// The characters that a key types, or "".
 QString TypedText(const QKeyEvent& event);
 
 bool ChangesText(TextCommand command);

@@ -15,7 +15,7 @@ namespace {
 
 constexpr int kScrollEveryMs = 40;
 
-// How far to scroll for a pointer at `at` outside of 0 to `size`: faster the farther it is.
+// The distance to scroll for a pointer at `at`: its distance from the range 0 to `size`.
 int Overshoot(int at, int size) {
   if (at < 0) return at;
   return at >= size ? at - size + 1 : 0;
@@ -27,7 +27,7 @@ void TextMouse::Press(QMouseEvent* event) {
   QGuiApplication::inputMethod()->commit();
   const QPoint at = event->position().toPoint();
   if (event->button() == Qt::LeftButton) return PressLeft(event);
-  // What is selected stays for the pop-up menu to work on, wherever the menu is asked for.
+  // The right button keeps the selection, since the pop-up menu works on the selection.
   if (event->button() == Qt::RightButton && !box_.Buffer().HasSelection()) box_.PutCaret(box_.PlaceAt(at));
   if (event->button() != Qt::RightButton && event->button() != Qt::MiddleButton) event->ignore();
 }
@@ -75,7 +75,7 @@ TextSpan TextMouse::UnitAt(QPoint at) const {
   const std::size_t pos = box_.PlaceAt(at).pos;
   if (unit_ == Unit::kChar) return {pos, pos};
   if (unit_ == Unit::kWord) {
-    // The character under the pointer counts, not the nearer border.
+    // Use the character under the pointer, not the nearest position between two characters.
     const bool right_half = pos > 0 && box_.CharRect(pos - 1).contains(at);
     return WordAt(buffer.Text(), right_half ? pos - 1 : pos);
   }
@@ -134,7 +134,7 @@ void TextMouse::ShowPointer(QPoint at) {
 
 void TextMouse::timerEvent(QTimerEvent* event) {
   if (event->timerId() != scroll_timer_.timerId()) return QObject::timerEvent(event);
-  if (!box_.isActiveWindow()) return scroll_timer_.stop();  // another window gets the release
+  if (!box_.isActiveWindow()) return scroll_timer_.stop();  // the release goes to another window
   const QSize size = box_.viewport()->size();
   QScrollBar* down = box_.verticalScrollBar();
   QScrollBar* across = box_.horizontalScrollBar();

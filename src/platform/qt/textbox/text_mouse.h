@@ -1,5 +1,5 @@
-// What the mouse does in a text box: caret, selection by characters, words and lines, scrolling while it is held
-// outside, the start of a drag, pasting with the middle button.
+// The mouse in a text box: sets the caret, selects characters, words and lines, scrolls while pressed outside the box,
+// starts drags and pastes with the middle button.
 #pragma once
 
 #include <QBasicTimer>
@@ -26,7 +26,7 @@ class TextMouse : public QObject {
   void timerEvent(QTimerEvent* event) override;
 
  private:
-  // A finger scrolls, and puts the caret when it is lifted where it came down.
+  // kTapping: a finger scrolls. A finger that is lifted where it came down sets the caret.
   enum class State : std::uint8_t { kIdle, kSelecting, kMayDrag, kTapping };
   enum class Unit : std::uint8_t { kChar, kWord, kLine };
 
@@ -40,7 +40,7 @@ class TextMouse : public QObject {
   TextBox& box_;
   State state_ = State::kIdle;
   Unit unit_ = Unit::kChar;
-  TextSpan origin_;  // the word or line on which the selection began
+  TextSpan origin_;  // the word or line where the selection began
   QPoint pressed_at_;
   QPoint last_at_;
   QElapsedTimer since_double_click_;

@@ -15,7 +15,7 @@ qreal TextPainter::X(std::size_t row, std::size_t pos) const { return ExactPixel
 void TextPainter::PaintRow(std::size_t row, QPointF origin, qreal left, qreal right) const {
   const QPointF begin = origin + QPointF(ExactPixels(layout_.RowLeft(row)), 0);
   const qreal gap = row == gap_row_ ? gap_ : 0;
-  // One character more on either side: a slanted letter reaches over its cell.
+  // Paint one more character on each side, since an italic letter can extend beyond its cell.
   std::size_t from = layout_.CharAt(row, std::max<std::int64_t>(UnitsBelow(left - begin.x() - gap), 0));
   std::size_t to = layout_.CharAt(row, std::max<std::int64_t>(UnitsBelow(right - begin.x()), 0));
   from -= from > layout_.RowStart(row) ? 1 : 0;
@@ -30,7 +30,7 @@ void TextPainter::PaintRow(std::size_t row, QPointF origin, qreal left, qreal ri
 
 void TextPainter::PaintSelection(std::size_t row, TextSpan selected, QPointF begin) const {
   const std::size_t end = layout_.RowEnd(row);
-  // A selected line break shows as one blank behind the line.
+  // A selected line break is shown as a blank after the line.
   const bool with_break =
       layout_.EndsLine(row) && row + 1 < layout_.RowCount() && buffer_.SelStart() <= end && buffer_.SelEnd() > end;
   if (selected.begin == selected.end && !with_break) return;

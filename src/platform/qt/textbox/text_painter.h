@@ -1,5 +1,5 @@
-// Paints rows of a text: selection and glyphs, with a gap for what an input method is still composing, which
-// TextComposer paints. Holds references only and lives for one paint.
+// Paints the selection and the glyphs of rows. Leaves a gap for composed text, which TextComposer paints. Holds only
+// references; create an object for each paint.
 #pragma once
 
 #include <QColor>
@@ -24,10 +24,10 @@ class TextPainter {
               const TextColours& colours)
       : painter_(painter), buffer_(buffer), layout_(layout), glyphs_(glyphs), colours_(colours) {}
 
-  // Paints what of a row lies between `left` and `right`. `origin` is the upper left corner of the row's window: its
-  // text begins at the row's own left distance from there.
+  // Paints the part of a row between `left` and `right`. `origin` is the upper left corner of the row's area. The text
+  // begins at RowLeft to the right of `origin`.
   void PaintRow(std::size_t row, QPointF origin, qreal left, qreal right) const;
-  // Leaves room for composed text: what stands behind `pos` in row `row` moves on by `width` pixels.
+  // Makes room for composed text: moves the text after `pos` in the row to the right by `width` pixels.
   void OpenGap(std::size_t row, std::size_t pos, qreal width);
 
  private:

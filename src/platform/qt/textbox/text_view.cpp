@@ -53,7 +53,7 @@ const GlyphTable& TextView::Glyphs() {
 
 QSize TextView::ContentSize() {
   const TextLayout& layout = Layout();
-  // Without wrapping the caret has to find room behind the widest row.
+  // Without word wrap the caret needs room after the widest row.
   const int width = WholePixelsBelow(layout.ContentWidth() + kUnitsPerPixel - 1);
   return {width + 2 * kMargin, static_cast<int>(layout.RowCount()) * Glyphs().RowHeight() + 2 * kMargin};
 }
@@ -69,7 +69,7 @@ TextPlace TextView::PlaceAt(QPoint point) {
 
 int TextView::StopX(std::size_t row, std::size_t pos) {
   const TextLayout& layout = Layout();
-  // So that a letter never hides the caret before it.
+  // Rounded down, so that a letter never covers the caret before it.
   return kMargin + WholePixelsBelow(layout.RowLeft(row) + layout.XOf(row, pos));
 }
 

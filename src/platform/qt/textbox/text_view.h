@@ -1,5 +1,5 @@
-// A text laid out for a window: layout, glyphs and margins together, in pixels of the content (the upper left corner of
-// the scrolled area is 0, 0). Lays out when it is asked, so a hidden or yet unsized box costs nothing.
+// The layout of a text in a text box, with glyphs and margins. Coordinates are pixels from the upper left corner of the
+// scrolled content. The text is laid out on request, so a hidden box costs nothing.
 #pragma once
 
 #include <QFont>
@@ -19,10 +19,10 @@ namespace pelmar {
 class TextView {
  public:
   static constexpr int kMargin = 4;
-  // How far letters may reach into the neighbouring rows: accents do, and at scales between whole numbers any letter.
+  // How many pixels letters may extend into neighbouring rows. Accents do, and any letter at a fractional scale.
   static constexpr int kOverhang = 2;
 
-  // `window_width` is asked when the text is laid out afresh; SetWindowWidth tells of changes in between.
+  // `window_width` is called for each full layout. SetWindowWidth reports changes in between.
   TextView(const TextBuffer& buffer, std::function<int()> window_width)
       : window_width_(std::move(window_width)), layout_(buffer) {}
 
@@ -33,11 +33,11 @@ class TextView {
   void SetWindowWidth(int width);
   void Invalidate() { stale_ = true; }
 
-  // Follows a change of the buffer; nothing where the layout waits to be made anyway.
+  // Updates the layout after a change of the buffer. Returns nothing if a full layout is due anyway.
   std::optional<RowsChange> Follow(const TextChange& change);
 
   const TextLayout& Layout();
-  // Of the same life as the view, but laid out only as far as Layout was asked for.
+  // Valid as long as the view, but only as current as the last call of Layout.
   [[nodiscard]] const TextLayout& RawLayout() const { return layout_; }
   const GlyphTable& Glyphs();
   [[nodiscard]] bool Wraps() const { return rules_.wrap; }
@@ -45,12 +45,12 @@ class TextView {
 
   QSize ContentSize();
   int RowTop(std::size_t row) { return kMargin + static_cast<int>(row) * Glyphs().RowHeight(); }
-  // The row at a height, the first or last one outside of the text.
+  // The row at a height. Outside the text, the first or last row.
   std::size_t RowAt(int y);
   TextPlace PlaceAt(QPoint point);
-  // The left edge of a caret stop.
+  // The left edge of a caret position.
   int StopX(std::size_t row, std::size_t pos);
-  // The cell of the character at `pos`; a caret stop's thin rectangle at the end of a line.
+  // The cell of the character at `pos`. At the end of a row, a rectangle of one pixel.
   QRect CharRect(std::size_t pos);
 
  private:
