@@ -8,7 +8,7 @@ import collections
 import pathlib
 import sys
 
-LIMIT = 38  # percent; the aim is a third
+LIMIT = 39  # percent; the aim is a third
 CODE = {".h", ".cpp"}
 PICTURES = {".png", ".gif", ".jpg", ".bmp", ".ico", ".pyc"}
 

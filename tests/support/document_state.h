@@ -9,12 +9,12 @@
 namespace pelmar {
 
 struct DocumentState {
-  std::string title;      // behind the program's name, with its mark
-  std::string tab;        // the tab's caption
-  std::string tip;        // the tab's tool tip
-  std::string slot_path;  // the path that the tab's slot keeps
-  bool flagged = false;   // the slot is flagged as modified
-  int unsaved = 0;        // how many documents are unsaved
+  std::string title;        // behind the program's name, with its mark
+  std::string tab{};        // the tab's caption
+  std::string tip{};        // the tab's tool tip
+  std::string slot_path{};  // the path that the tab's slot keeps
+  bool flagged = false;     // the slot is flagged as modified
+  int unsaved = 0;          // how many documents are unsaved
   bool operator==(const DocumentState&) const = default;
 };
 
