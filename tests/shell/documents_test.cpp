@@ -3,6 +3,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "accessories/notes.h"
 #include "platform/runtime_error.h"
 #include "program/session.h"
 #include "shell/rescue_file.h"
