@@ -16,6 +16,7 @@
 namespace pelmar {
 
 inline constexpr int kNotePages = 5;
+inline constexpr RescueKind kNotesRescue{"notes-rescue-", "PELMAR-NOTES-1\n"};
 inline constexpr std::size_t kLongestNote = 65535;  // bytes, the limit of a 16-bit length
 
 struct NotesRecord {

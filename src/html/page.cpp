@@ -3,6 +3,7 @@
 #include "html/attributes.h"
 #include "platform/paths.h"
 #include "shell/common.h"
+#include "shell/version.h"
 
 namespace pelmar {
 namespace {
@@ -40,7 +41,7 @@ std::string HeadOf(const PageSpec& spec) {
 
 std::string CodePageAndGenerator() {
   return Line(R"(  <META HTTP-EQUIV="Content-Type" CONTENT="text/html; charset=windows-1250">)") +
-         Line(R"(  <META NAME="GENERATOR" CONTENT="Orvilanths PELmar VEX v8.9.2.1b CZ">)");
+         Line(R"(  <META NAME="GENERATOR" CONTENT="Orvilanths PELmar VEX v)" PELMAR_VERSION R"(">)");
 }
 
 void PutAround(TextBuffer& document, std::string_view head, std::string_view sample, std::string_view tail) {

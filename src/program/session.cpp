@@ -17,7 +17,6 @@ namespace {
 constexpr std::string_view kRecoveryName = "autosave_pelmar_vex.txt";
 constexpr std::string_view kAllFilesName = "autosave_all_files.txt";
 constexpr std::string_view kSettingsName = "pelmar.ini";
-constexpr std::int32_t kAutosnapDefault = 240;
 
 }  // namespace
 
@@ -42,7 +41,7 @@ void Session::Load() {
   view_.SetWindowState(WindowMode{settings_.WindowState});
   ApplyLook();
   if (settings_.UserEmail.empty() || settings_.UserName.empty()) doors_.show_config();
-  if (settings_.AutosnapDistance == 0) settings_.AutosnapDistance = kAutosnapDefault;
+  if (settings_.AutosnapDistance == 0) settings_.AutosnapDistance = kDefaultAutosnapDistance;
   view_.SetAlwaysOnTop(settings_.AlwaysOnTopFlag);
   documents_.ForgetPath();
 }

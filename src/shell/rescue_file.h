@@ -16,7 +16,6 @@ struct RescueKind {
   std::string_view signature;
 };
 inline constexpr RescueKind kDocumentsRescue{"rescue-", "PELMAR-RESCUE-1\n"};
-inline constexpr RescueKind kNotesRescue{"notes-rescue-", "PELMAR-NOTES-1\n"};
 
 inline constexpr int kRescuePlaces = 5;
 

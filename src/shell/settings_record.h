@@ -12,6 +12,9 @@
 
 namespace pelmar {
 
+// A window nearer than this to an edge of the screen snaps to it, unless the person has set another distance. Twips.
+inline constexpr std::int32_t kDefaultAutosnapDistance = 240;
+
 struct SettingsRecord {
   std::int32_t Width = 0;  // outer size and place of the main window, twips
   std::int32_t Height = 0;

@@ -1,9 +1,11 @@
 #include "shell/terminal_answer.h"
 
+#include "shell/version.h"
+
 namespace pelmar {
 namespace {
 
-constexpr std::string_view kVersion = "Pelmar VEX 8.9.2.1b CZ\n";
+constexpr std::string_view kVersion = "Pelmar VEX " PELMAR_VERSION "\n";
 constexpr std::string_view kUsage = R"(Použití: pelmar-vex [SOUBOR]
          pelmar-vex -CALC | -NOTE | -BROWSER | -NOMSG
 

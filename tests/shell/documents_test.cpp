@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "accessories/notes.h"
 #include "platform/runtime_error.h"
 #include "program/session.h"
 #include "shell/rescued_documents.h"

@@ -3,6 +3,7 @@
 #include "platform/qt/convert.h"
 #include "shell/common.h"
 #include "shell/release_notes.h"
+#include "shell/version.h"
 #include "ui_o.h"
 
 namespace pelmar {
@@ -17,7 +18,7 @@ O::O(const SettingsRecord& settings, Platform& platform, QWidget* parent)
   ui_->Label2->setMouseTracking(true);
   ui_->Text1->SetText(ToBytes(ReleaseNotes()));
   connect(ui_->Command1, &QPushButton::clicked, this,
-          [this] { platform_.ShowAbout("Orvilanths Pelmar VEX v8.9.2.1b CZ", "Autor: Orvilanths"); });
+          [this] { platform_.ShowAbout("Orvilanths Pelmar VEX v" PELMAR_VERSION, "Autor: Orvilanths"); });
 }
 
 void O::showEvent(QShowEvent* event) {

@@ -8,11 +8,6 @@
 #include "ui_visual.h"
 
 namespace pelmar {
-namespace {
-
-constexpr int kDefaultSnap = 240;  // twips
-
-}  // namespace
 
 Visual::Visual(MainView& view, SettingsRecord& settings, Doors doors, QWidget* parent)
     : FormDialog(parent), view_(view), settings_(settings), doors_(std::move(doors)) {
@@ -21,7 +16,7 @@ Visual::Visual(MainView& view, SettingsRecord& settings, Doors doors, QWidget* p
   connect(ui_->VScroll7, &QScrollBar::valueChanged, this, &Visual::VScroll7_Change);
   connect(ui_->Command5, &QPushButton::clicked, this, [this] { settings_.AutosnapDistance = ui_->VScroll7->value(); });
   // required: the button resets only the slider, and Command5 stores the value
-  connect(ui_->Command6, &QPushButton::clicked, this, [this] { ui_->VScroll7->setValue(kDefaultSnap); });
+  connect(ui_->Command6, &QPushButton::clicked, this, [this] { ui_->VScroll7->setValue(kDefaultAutosnapDistance); });
   connect(ui_->Command1, &QPushButton::clicked, this, &Visual::Command1_Click);
   connect(ui_->Command2, &QPushButton::clicked, this, &Visual::hide);
   connect(ui_->Command3, &QPushButton::clicked, this, &Visual::Command3_Click);

@@ -1,11 +1,9 @@
-#include "html/dialogs/list_dialogs.h"
+#include "html/dialogs/item_list_dialog.h"
 
 #include "html/dialogs/form_helpers.h"
-#include "html/dialogs/paired_lists.h"
 #include "platform/qt/controls/list_rows.h"
 #include "ui_cis_seznam.h"
 #include "ui_seznam.h"
-#include "ui_seznam_def.h"
 
 namespace pelmar {
 
@@ -49,20 +47,7 @@ bool ItemListDialog<Form>::Put() {
   return this->Insert(BuildList(spec));
 }
 
-Seznam::Seznam(TextBuffer& document, QWidget* parent) : ItemListDialog(document, ListKind::kBullets, parent) {}
-
-CisSeznam::CisSeznam(TextBuffer& document, QWidget* parent) : ItemListDialog(document, ListKind::kNumbers, parent) {}
-
-SeznamDef::SeznamDef(TextBuffer& document, QWidget* parent)
-    : FragmentDialog(document, parent, &Ui::SeznamDef::Command3, &Ui::SeznamDef::Command4) {
-  lists_ =
-      new PairedLists({ui_->Atribut, ui_->Hodnota, ui_->Atributs, ui_->Values, ui_->Command1, ui_->Command2}, this);
-  OnEnter(ui_->Hodnota, [this] { lists_->Add(); });
-}
-
-bool SeznamDef::Put() {
-  const auto [terms, definitions] = lists_->Rows();
-  return Insert(BuildDefinitionList(terms, definitions));
-}
+template class ItemListDialog<Ui::Seznam>;
+template class ItemListDialog<Ui::CisSeznam>;
 
 }  // namespace pelmar

@@ -1,0 +1,15 @@
+#include "html/dialogs/attr.h"
+
+#include "html/tag_editor.h"
+#include "ui_attr.h"
+
+namespace pelmar {
+
+Attr::Attr(TextBuffer& document, Platform& platform, QWidget* parent)
+    : FragmentDialog(document, parent, &Ui::Attr::Command3, &Ui::Attr::Command4), platform_(platform) {
+  OnEnter(ui_->Attributes->ValueBox(), [this] { ui_->Attributes->Lists().Add(); });
+}
+
+bool Attr::Put() { return AddAttributes(document_, ui_->Attributes->Lists().Rows(), platform_); }
+
+}  // namespace pelmar

@@ -1,0 +1,25 @@
+// `Attr`: attributes for a tag that stands in the text. Their lists stay from one opening to the next.
+#pragma once
+
+#include "platform/platform.h"
+#include "platform/qt/controls/fragment_dialog.h"
+
+namespace Ui {
+class Attr;
+}
+
+namespace pelmar {
+
+class Attr : public FragmentDialog<Ui::Attr> {
+  Q_OBJECT
+
+ public:
+  Attr(TextBuffer& document, Platform& platform, QWidget* parent);
+
+ private:
+  bool Put() override;
+
+  Platform& platform_;
+};
+
+}  // namespace pelmar

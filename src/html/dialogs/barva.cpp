@@ -1,0 +1,29 @@
+#include "html/dialogs/barva.h"
+
+#include "html/blocks.h"
+#include "html/dialogs/form_helpers.h"
+#include "ui_barva.h"
+
+namespace pelmar {
+
+Barva::Barva(TextBuffer& document, std::function<Color(Color)> pick_color, QWidget* parent)
+    : FragmentDialog(document, parent) {
+  ui_->Combo1->setCurrentText(QStringLiteral("Combo1"));
+  AcceptFreeText(ui_->Combo1);
+  EnableWith(ui_->Check1, {ui_->VScroll4});
+  EnableWith(ui_->Check2, {ui_->Combo1});
+  EnableWith(ui_->Check3, {ui_->Command3, ui_->Label1});
+  ShowValue(ui_->VScroll4, ui_->Label4);
+  ConnectColorChoice(ui_->Command3, ui_->Label1, ui_->Label2, std::move(pick_color));
+}
+
+bool Barva::Put() {
+  FontSpec spec;
+  if (ui_->Check1->isChecked()) spec.size = ui_->VScroll4->value();
+  spec.face = Written(ui_->Check2, ui_->Combo1);
+  spec.color = Written(ui_->Check3, ui_->Label2);
+  WrapSelection(document_, Font(spec));
+  return true;
+}
+
+}  // namespace pelmar

@@ -1,0 +1,25 @@
+// `Barva`: a font with its size, face and colour.
+#pragma once
+
+#include <functional>
+
+#include "platform/color.h"
+#include "platform/qt/controls/fragment_dialog.h"
+
+namespace Ui {
+class Barva;
+}
+
+namespace pelmar {
+
+class Barva : public FragmentDialog<Ui::Barva> {
+  Q_OBJECT
+
+ public:
+  Barva(TextBuffer& document, std::function<Color(Color)> pick_color, QWidget* parent);
+
+ private:
+  bool Put() override;
+};
+
+}  // namespace pelmar

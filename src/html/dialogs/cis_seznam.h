@@ -1,0 +1,19 @@
+// `CisSeznam`: a list of numbered items.
+#pragma once
+
+#include "html/dialogs/item_list_dialog.h"
+
+namespace Ui {
+class CisSeznam;
+}
+
+namespace pelmar {
+
+class CisSeznam : public ItemListDialog<Ui::CisSeznam> {
+  Q_OBJECT
+
+ public:
+  CisSeznam(TextBuffer& document, QWidget* parent);
+};
+
+}  // namespace pelmar

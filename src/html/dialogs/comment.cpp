@@ -1,0 +1,13 @@
+#include "html/dialogs/comment.h"
+
+#include "html/blocks.h"
+#include "platform/qt/controls/field_helpers.h"
+#include "ui_comment.h"
+
+namespace pelmar {
+
+Comment::Comment(TextBuffer& document, QWidget* parent) : FragmentDialog(document, parent) {}
+
+bool Comment::Put() { return Insert(CommentText(FieldText(*ui_->Text1))); }
+
+}  // namespace pelmar

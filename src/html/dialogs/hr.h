@@ -1,0 +1,22 @@
+// `Hr`: a horizontal line with its alignment, width and shade.
+#pragma once
+
+#include "platform/qt/controls/fragment_dialog.h"
+
+namespace Ui {
+class Hr;
+}
+
+namespace pelmar {
+
+class Hr : public FragmentDialog<Ui::Hr> {
+  Q_OBJECT
+
+ public:
+  Hr(TextBuffer& document, QWidget* parent);
+
+ private:
+  bool Put() override;
+};
+
+}  // namespace pelmar

@@ -1,0 +1,22 @@
+// `HTMLAscii`: a reference to one character by its code.
+#pragma once
+
+#include "platform/qt/controls/fragment_dialog.h"
+
+namespace Ui {
+class HTMLAscii;
+}
+
+namespace pelmar {
+
+class HTMLAscii : public FragmentDialog<Ui::HTMLAscii> {
+  Q_OBJECT
+
+ public:
+  HTMLAscii(TextBuffer& document, QWidget* parent);
+
+ private:
+  bool Put() override;
+};
+
+}  // namespace pelmar

@@ -1,0 +1,22 @@
+// `HtmlID`: the document type, before the whole text.
+#pragma once
+
+#include "platform/qt/controls/fragment_dialog.h"
+
+namespace Ui {
+class HtmlID;
+}
+
+namespace pelmar {
+
+class HtmlID : public FragmentDialog<Ui::HtmlID> {
+  Q_OBJECT
+
+ public:
+  HtmlID(TextBuffer& document, QWidget* parent);
+
+ private:
+  bool Put() override;
+};
+
+}  // namespace pelmar

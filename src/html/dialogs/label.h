@@ -1,0 +1,22 @@
+// `Label`: a heading that a table makes.
+#pragma once
+
+#include "platform/qt/controls/fragment_dialog.h"
+
+namespace Ui {
+class Label;
+}
+
+namespace pelmar {
+
+class Label : public FragmentDialog<Ui::Label> {
+  Q_OBJECT
+
+ public:
+  Label(TextBuffer& document, QWidget* parent);
+
+ private:
+  bool Put() override;
+};
+
+}  // namespace pelmar

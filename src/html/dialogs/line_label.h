@@ -1,0 +1,22 @@
+// `LineLabel`: a heading between two horizontal lines.
+#pragma once
+
+#include "platform/qt/controls/fragment_dialog.h"
+
+namespace Ui {
+class LineLabel;
+}
+
+namespace pelmar {
+
+class LineLabel : public FragmentDialog<Ui::LineLabel> {
+  Q_OBJECT
+
+ public:
+  LineLabel(TextBuffer& document, QWidget* parent);
+
+ private:
+  bool Put() override;
+};
+
+}  // namespace pelmar

@@ -1,0 +1,18 @@
+#include "html/dialogs/odstavec.h"
+
+#include "html/blocks.h"
+#include "html/dialogs/form_helpers.h"
+#include "ui_odstavec.h"
+
+namespace pelmar {
+
+Odstavec::Odstavec(TextBuffer& document, QWidget* parent) : FragmentDialog(document, parent) {}
+
+bool Odstavec::Put() {
+  using enum Align;
+  WrapSelection(document_,
+                Paragraph(SetOption<Align>({{ui_->Option1, kLeft}, {ui_->Option2, kCenter}, {ui_->Option3, kRight}})));
+  return true;
+}
+
+}  // namespace pelmar

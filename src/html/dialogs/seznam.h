@@ -1,0 +1,19 @@
+// `Seznam`: a list of items with bullets.
+#pragma once
+
+#include "html/dialogs/item_list_dialog.h"
+
+namespace Ui {
+class Seznam;
+}
+
+namespace pelmar {
+
+class Seznam : public ItemListDialog<Ui::Seznam> {
+  Q_OBJECT
+
+ public:
+  Seznam(TextBuffer& document, QWidget* parent);
+};
+
+}  // namespace pelmar

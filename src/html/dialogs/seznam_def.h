@@ -1,0 +1,26 @@
+// `SeznamDef`: a list of terms and definitions. They stay from one opening to the next.
+#pragma once
+
+#include "platform/qt/controls/fragment_dialog.h"
+
+namespace Ui {
+class SeznamDef;
+}
+
+namespace pelmar {
+
+class PairedLists;
+
+class SeznamDef : public FragmentDialog<Ui::SeznamDef> {
+  Q_OBJECT
+
+ public:
+  SeznamDef(TextBuffer& document, QWidget* parent);
+
+ private:
+  bool Put() override;
+
+  PairedLists* lists_;
+};
+
+}  // namespace pelmar

@@ -1,0 +1,22 @@
+#include "html/dialogs/smajl.h"
+
+#include "html/blocks.h"
+#include "platform/qt/controls/field_helpers.h"
+#include "platform/qt/convert.h"
+#include "ui_smajl.h"
+
+namespace pelmar {
+
+Smajl::Smajl(TextBuffer& document, QWidget* parent) : FragmentDialog(document, parent) {
+  // The form can't hold a text of blanks alone.
+  for (QComboBox* part : {ui_->Combo1, ui_->Combo2, ui_->Combo3, ui_->Combo4, ui_->Combo5})
+    if (const int blank = part->findText(QString()); blank >= 0) part->setItemText(blank, QStringLiteral(" "));
+  connect(ui_->Command3, &QPushButton::clicked, this, [this] {
+    ui_->Text1->setText(TextToQString(Smiley({FieldText(*ui_->Combo1), FieldText(*ui_->Combo2), FieldText(*ui_->Combo3),
+                                              FieldText(*ui_->Combo4), FieldText(*ui_->Combo5)})));
+  });
+}
+
+bool Smajl::Put() { return Insert(FieldText(*ui_->Text1)); }
+
+}  // namespace pelmar

@@ -1,0 +1,22 @@
+// `Smajl`: a smiley of five parts.
+#pragma once
+
+#include "platform/qt/controls/fragment_dialog.h"
+
+namespace Ui {
+class Smajl;
+}
+
+namespace pelmar {
+
+class Smajl : public FragmentDialog<Ui::Smajl> {
+  Q_OBJECT
+
+ public:
+  Smajl(TextBuffer& document, QWidget* parent);
+
+ private:
+  bool Put() override;
+};
+
+}  // namespace pelmar
