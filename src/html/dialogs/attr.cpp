@@ -1,5 +1,7 @@
 #include "html/dialogs/attr.h"
 
+#include <QComboBox>
+
 #include "html/tag_editor.h"
 #include "ui_attr.h"
 

@@ -1,5 +1,7 @@
 #include "html/dialogs/tagy.h"
 
+#include <QComboBox>
+
 #include "html/tag_editor.h"
 #include "platform/qt/controls/field_helpers.h"
 #include "ui_tagy.h"
