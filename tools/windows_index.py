@@ -12,18 +12,23 @@ import xml.etree.ElementTree
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 INDEX = ROOT / "docs" / "WINDOWS.md"
 HEADER = ["Files", "Window", "Title", "Commands", "Menu path"]
+NAMED = re.compile(r'^  setObjectName\(QStringLiteral\("(.*)"\)\);', re.MULTILINE)
 FILES = re.compile(r"`src/([\w/]+)\.\{([\w,]+)\}`")
 
 
 def windows_of_forms():
-    """The object's name and the title by the form's path below src/, for each form that is a window."""
+    """For each form that is a window, by its path below src/: its class, object name and title.
+
+    A name with accents is set in the constructor."""
     found = {}
     for form in sorted((ROOT / "src").rglob("*.ui")):
         widget = xml.etree.ElementTree.parse(form).getroot().find("widget")
         title = widget.findtext("property[@name='windowTitle']/string")
         if title is not None:
             path = form.relative_to(ROOT / "src").with_suffix("").as_posix()
-            found[path] = widget.get("name"), " ".join(title.split())
+            source = form.with_suffix(".cpp")
+            named = NAMED.search(source.read_text()) if source.is_file() else None
+            found[path] = (widget.get("name"), named[1] if named else widget.get("name"), " ".join(title.split()))
     return found
 
 
@@ -74,13 +79,13 @@ def expected(row, forms, paths):
     for suffix in match[2].split(","):
         if not (ROOT / "src" / f"{match[1]}.{suffix}").is_file():
             faults.append(f"src/{match[1]}.{suffix} doesn't exist")
-    name, title = forms.get(match[1], (row[1].strip("`"), row[2]))
+    window, name, title = forms.get(match[1], ("", row[1].strip("`"), row[2]))
     commands = [] if row[3].startswith("opened by") else re.findall(r"`(\w+)`", row[3])
     if not row[3]:
         faults.append(f"{row[0]}: no command, nor \"opened by\" another window")
     faults += [f"{row[0]}: {command} is in no menu" for command in commands if command not in paths]
     path = "; ".join(paths[command] for command in commands if command in paths)
-    missing = registered_commands().get(name.lower(), set()) - set(commands)
+    missing = registered_commands().get(window.lower(), set()) - set(commands)
     faults += [f"{row[0]}: {command} shows the window and isn't named" for command in sorted(missing)]
     return [row[0], f"`{name}`", title, row[3], path], faults
 
@@ -107,6 +112,9 @@ def main():
         table = [HEADER, ["---"] * len(HEADER)] + sorted(result)
         lines = "\n".join("| " + " | ".join(row) + " |" for row in table)
         INDEX.write_text(text.split("\n|")[0].rstrip() + "\n\n" + lines + "\n")
+    names = {row[1] for row in result}
+    faults += [f"{row[0]}: {name} is no window" for row in result if row[3].startswith("opened by")
+               for name in re.findall(r"`\w+`", row[3]) if name not in names]
     for fault in faults:
         print(f"docs/WINDOWS.md: {fault}")
     print(f"windows_index: {len(result)} windows, {len(faults)} faults")
