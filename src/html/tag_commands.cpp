@@ -1,9 +1,9 @@
 #include "html/tag_commands.h"
 
 #include "shell/editor.h"
+#include "shell/insert_commands.h"
 #include "text/codepage.h"
 #include "text/insert.h"
-#include "text/number_text.h"
 
 namespace pelmar {
 namespace {
@@ -33,37 +33,18 @@ constexpr TagWrapper kTagWrappers[] = {
 };
 
 constexpr FixedInsert kFixedInserts[] = {
-    {"mnubr", "<BR>"},         {"MnuHTMLeft", "&lt;"}, {"MnuHTMLright", "&gt;"}, {"mnuHTMLAnd", "&amp;"},
-    {"MnuHTMLnobr", "&nbsp;"}, {"mnuand", "&"},        {"mnudolar", "$"},        {"mnucross", "#"},
-    {"mnuSS", "ß"_w},          {"mnuZav", "@"},        {"mnubackslash", "\\"},   {"mnucop", "©"_w},
-    {"mnureg", "®"_w},         {"mnutm", "™"_w},
+    {"mnubr", "<BR>"},       {"MnuHTMLeft", "&lt;"},    {"MnuHTMLright", "&gt;"},
+    {"mnuHTMLAnd", "&amp;"}, {"MnuHTMLnobr", "&nbsp;"},
 };
 
 }  // namespace
 
 std::span<const TagWrapper> TagWrappers() { return kTagWrappers; }
-std::span<const FixedInsert> FixedInserts() { return kFixedInserts; }
-
-std::string DateText(const LocalTime& time) {
-  return ZeroPadded(time.month, 2) + "-" + ZeroPadded(time.day, 2) + "-" + ZeroPadded(time.year, 4);
-}
-
-std::string TimeText(const LocalTime& time) {
-  return ZeroPadded(time.hour, 2) + ":" + ZeroPadded(time.minute, 2) + ":" + ZeroPadded(time.second, 2);
-}
-
-std::string EmailText(const SettingsRecord& settings) {
-  return "\"" + settings.UserName + "\" <" + settings.UserEmail + ">";
-}
 
 void AddTagCommands(Editor& e) {
   for (const TagWrapper& tag : TagWrappers())
     e.commands.Add(tag.command, [&e, &tag] { WrapSelection(e.text, tag.open, tag.close, tag.sample); });
-  for (const FixedInsert& insert : FixedInserts())
-    e.commands.Add(insert.command, [&e, &insert] { InsertAtCaret(e.text, insert.text); });
-  e.commands.Add("mnudate", [&e] { InsertAtCaret(e.text, DateText(e.platform.Now())); });
-  e.commands.Add("mnutime", [&e] { InsertAtCaret(e.text, TimeText(e.platform.Now())); });
-  e.commands.Add("mnuemail", [&e] { InsertAtCaret(e.text, EmailText(e.settings)); });
+  AddFixedInserts(e, kFixedInserts);
 }
 
 }  // namespace pelmar

@@ -1,13 +1,9 @@
-// The commands that insert text without a dialog: tags around the selection, fixed texts, date, time and the user's
-// address. Texts are Windows-1250 and are not escaped.
+// The commands of the menu "Html" that need no dialog: tags around the selection, and fixed texts. Texts are
+// Windows-1250 and are not escaped.
 #pragma once
 
 #include <span>
-#include <string>
 #include <string_view>
-
-#include "platform/platform.h"
-#include "shell/settings_record.h"
 
 namespace pelmar {
 
@@ -21,20 +17,6 @@ struct TagWrapper {
   std::string_view sample;
 };
 std::span<const TagWrapper> TagWrappers();
-
-// A command that inserts a fixed text.
-struct FixedInsert {
-  std::string_view command;
-  std::string_view text;
-};
-std::span<const FixedInsert> FixedInserts();
-
-// "11-24-2026" and "09:05:00", in any regional format of the system.
-std::string DateText(const LocalTime& time);
-std::string TimeText(const LocalTime& time);
-
-// "name" <address>
-std::string EmailText(const SettingsRecord& settings);
 
 void AddTagCommands(Editor& editor);
 

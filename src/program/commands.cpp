@@ -6,6 +6,7 @@
 #include "html/lists.h"
 #include "html/tag_commands.h"
 #include "html/test_page.h"
+#include "shell/insert_commands.h"
 #include "texttools/commands.h"
 
 namespace pelmar {
@@ -13,6 +14,7 @@ namespace pelmar {
 void AddCommands(Editor& editor, Files& files) {
   AddFileCommands(editor, files);
   AddTagCommands(editor);
+  AddInsertCommands(editor);
   AddTextToolCommands(editor);
   AddListCommands(editor);
   AddCipherCommands(editor);

@@ -2,9 +2,9 @@
 
 #include "html/attributes.h"
 #include "html/dialogs/form_helpers.h"
-#include "html/tag_commands.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/filelists/file_browser.h"
+#include "shell/insert_commands.h"
 #include "texttools/appearance.h"
 #include "ui_vytvor.h"
 

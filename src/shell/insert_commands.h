@@ -1,0 +1,33 @@
+// The commands of the menu "Vlož" that insert a character, the date, the time or the person's e-mail address at the
+// caret. Texts are Windows-1250.
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "platform/platform.h"
+#include "shell/settings_record.h"
+
+namespace pelmar {
+
+struct Editor;
+
+// A command that inserts a fixed text.
+struct FixedInsert {
+  std::string_view command;
+  std::string_view text;
+};
+// The commands keep references to `inserts`.
+void AddFixedInserts(Editor& editor, std::span<const FixedInsert> inserts);
+
+// "11-24-2026" and "09:05:00", in any regional format of the system.
+std::string DateText(const LocalTime& time);
+std::string TimeText(const LocalTime& time);
+
+// "name" <address>
+std::string EmailText(const SettingsRecord& settings);
+
+void AddInsertCommands(Editor& editor);
+
+}  // namespace pelmar
