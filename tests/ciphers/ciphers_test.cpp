@@ -68,7 +68,8 @@ TEST(HackerTranscription, DrawsEachLookAlikeAsOftenAsTheOthers) {
                                                   {0.7, "@@8()3[6#!?<7w%09qr5+u^m*/22"},
                                                   {0.9, "&&8(>3[6#|?<4W%09qr$+u^M*/22"}};
   for (const auto& [draw, transcribed] : cases)
-    EXPECT_EQ(HackerTranscription("AaBCDEFGHIJKLMNOPQRSTUVWXYZz", [draw] { return draw; }), transcribed) << draw;
+    EXPECT_EQ(HackerTranscription("AaBCDEFGHIJKLMNOPQRSTUVWXYZz", [drawn = draw] { return drawn; }), transcribed)
+        << draw;
 }
 
 TEST(HackerTranscription, DrawsAlsoForWhatHasNoLookAlikes) {
