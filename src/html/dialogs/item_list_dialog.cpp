@@ -1,6 +1,7 @@
 #include "html/dialogs/item_list_dialog.h"
 
 #include "html/dialogs/form_helpers.h"
+#include "html/dialogs/paired_lists.h"
 #include "platform/qt/controls/list_rows.h"
 #include "ui_cis_seznam.h"
 #include "ui_seznam.h"
