@@ -10,8 +10,8 @@
 namespace {
 
 std::size_t SizeOf(const pelmar::CipherTable& table) {
-  std::size_t size = table.OneLetters.size() + table.ZeroLetters.size() + table.Note.size();
-  for (const std::string& code : table.SymbolCodes) size += code.size();
+  std::size_t size = table.one_letters.size() + table.zero_letters.size() + table.note.size();
+  for (const std::string& code : table.symbol_codes) size += code.size();
   return size;
 }
 
@@ -25,7 +25,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
   const std::string written = TableBytes(table);
   const CipherTable again = ReadTable(written);
-  Require(again.SymbolCodes == table.SymbolCodes && again.Depth == table.Depth && again.Note == table.Note);
+  Require(again.symbol_codes == table.symbol_codes && again.depth == table.depth && again.note == table.note);
   Require(TableBytes(again) == written);
 
   CodeRows(table);
@@ -34,7 +34,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   CoefficientsText(table, CountedDigits::kFirstEight);
   constexpr std::string_view kText = ".AHOJ SVETE\r\nZ.";
   const std::string cipher = RndEncipher(kText, table, [] { return 0.999; }, {});
-  Require(cipher.size() <= kText.size() * table.Depth);
+  Require(cipher.size() <= kText.size() * table.depth);
   Require(RndDecipher(cipher, table, {}).size() <= kText.size());
   RndDecipher(bytes, table, {});
   return 0;
