@@ -6,7 +6,7 @@ root=$(dirname "$(dirname "$(readlink -f "$0")")")
 step=check
 . "$root/packaging/setup.sh"
 fuzz_seconds=20
-most_tidied=60  # files, which keeps a day of many changes within some minutes
+most_tidied=40  # files, which keeps a day of many changes within some minutes
 cd "$root" || exit 1
 
 tell "clang-format over all sources"
