@@ -47,7 +47,9 @@ FileWarnings::FileWarnings(MainWindow& window, Editor& editor, const OutsideChan
 }
 
 bool FileWarnings::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::WindowActivate || event->type() == QEvent::WindowDeactivate) {
+  const bool turns = event->type() == QEvent::WindowActivate || event->type() == QEvent::WindowDeactivate;
+  // A window that is being destroyed also loses the keyboard, and is no main window any more.
+  if (turns && qobject_cast<MainWindow*>(watched) != nullptr) {
     WarnOfOutside(outside_.OfCurrent());
     WarnOfName();
   }
