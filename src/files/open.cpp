@@ -55,7 +55,7 @@ void Opener::ReloadFile() {
   const std::string path = documents_.CurrentPath();
   const std::string question =
       "Opravdu reload souboru ?\r\nZměny od posledního uložení \"" + path + "\" Budou ztraceny!";
-  if (platform_.Message(MessageType::kYesNoWarning, question, "Reload") != Answer::kYes) return;
+  if (!platform_.Confirmed(question, "Reload")) return;
   try {
     OpenPath(path);
   } catch (const RuntimeError&) {  // required: the command ends in silence

@@ -1,9 +1,11 @@
 #include "files/outside_changes.h"
 
+#include "text/index.h"
+
 namespace pelmar {
 
 void OutsideChanges::Note(const std::string& path, const std::optional<FileStamp>& stamp, bool utf8) {
-  known_[static_cast<std::size_t>(documents_.SelectedTab() - 1)] = {path, stamp, utf8};
+  known_[IndexFromOne(documents_.SelectedTab())] = {path, stamp, utf8};
 }
 
 OutsideChange OutsideChanges::OfCurrent() const {
@@ -21,7 +23,7 @@ bool OutsideChanges::CurrentWasUtf8() const {
 
 // Null if the current document no longer has the remembered path, as after clearing the tab.
 const OutsideChanges::Known* OutsideChanges::OfCurrentPath() const {
-  const Known& known = known_[static_cast<std::size_t>(documents_.SelectedTab() - 1)];
+  const Known& known = known_[IndexFromOne(documents_.SelectedTab())];
   return known.path == documents_.CurrentPath() ? &known : nullptr;
 }
 

@@ -54,7 +54,7 @@ void Saver::SaveFast() {
   const std::string path = documents_.CurrentPath();
   if (!MayMixEncodings(path)) return;
   const std::string question = "Opravdu uložit soubor?\r\n\"" + path + "\"";
-  if (platform_.Message(MessageType::kYesNoWarning, question, "Soubor") != Answer::kYes) return;
+  if (!platform_.Confirmed(question, "Soubor")) return;
   SaveToPath(path);
 }
 
@@ -82,7 +82,7 @@ bool Saver::MayMixEncodings(const std::string& path) {
 
 bool Saver::MayWrite(const std::string& path) {
   if (!FileExists(file_number_, platform_, path)) return true;
-  return platform_.Message(MessageType::kYesNoWarning, OverwriteQuestion(path), "Soubor") == Answer::kYes;
+  return platform_.Confirmed(OverwriteQuestion(path), "Soubor");
 }
 
 WriteOutcome Saver::Write(const std::string& path, std::string_view text) {
