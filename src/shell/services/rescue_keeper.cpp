@@ -196,7 +196,7 @@ void RescueKeeper::Offer() {
   if (!left.empty()) {
     const std::string question =
         std::string(content_.words.found) + std::to_string(left.size()) + ".\r\n" + std::string(content_.words.wanted);
-    wanted = platform_.Message(MessageType::kYesNoWarning, question, "Záchrana") == Answer::kYes;
+    wanted = platform_.Confirmed(question, "Záchrana");
   }
   if (wanted) left = content_.BringBack(records);
   // Set only after the question, because a rescue file written during the question doesn't hold these texts yet.

@@ -347,9 +347,7 @@ void MainWindow::OpenDropped(std::vector<std::string> paths) {
   } else if (!refused.empty()) {
     Tell("Soubory bez přípony nelze otevřít:" + ListOf(refused));
   }
-  if (paths.empty() ||
-      editor_.platform.Message(MessageType::kYesNoWarning, "Opravdu otevřít soubor ?", "Soubor") != Answer::kYes)
-    return;
+  if (paths.empty() || !editor_.platform.Confirmed("Opravdu otevřít soubor ?", "Soubor")) return;
   // The first file replaces the current document; the others open only in empty tabs.
   auto path = paths.begin();
   files_.opener.OpenPath(*path);

@@ -55,7 +55,7 @@ StatusStrip::StatusStrip(QWidget* parent) : QStatusBar(parent) {
   setObjectName(QStringLiteral("Bar1"));
   setSizeGripEnabled(false);
   for (int number = 1; number <= kPanelCount; ++number) {
-    const auto at = static_cast<std::size_t>(number - 1);
+    const auto at = IndexFromOne(number);
     auto* panel = new StatusPanel(this);
     panel->setObjectName(QStringLiteral("Panel%1").arg(number));
     panel->setToolTip(kTips[at].toString());
@@ -119,7 +119,7 @@ void StatusStrip::WarnOfUnkept(int error) {
 }
 
 void StatusStrip::SetWidth(int number, int twips) {
-  int& width = widths_[static_cast<std::size_t>(number - 1)];
+  int& width = widths_[IndexFromOne(number)];
   if (width == twips) return;
   width = twips;
   Place();

@@ -11,6 +11,7 @@
 #include "shell/status.h"
 #include "shell/window_geometry.h"
 #include "shell/windows/main/warning_label.h"
+#include "text/index.h"
 
 namespace pelmar {
 
@@ -53,7 +54,7 @@ class StatusStrip : public QStatusBar {
  public:
   explicit StatusStrip(QWidget* parent = nullptr);
 
-  [[nodiscard]] StatusPanel* Panel(int number) const { return panels_[static_cast<std::size_t>(number - 1)]; }
+  [[nodiscard]] StatusPanel* Panel(int number) const { return panels_[IndexFromOne(number)]; }
   void Show(const PanelTexts& texts);
   void ShowContent(const std::string& text);
   // Clears panels 1 to 4 until the next Show, because they may show a part of the text.
