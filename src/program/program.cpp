@@ -54,17 +54,16 @@ Program::Program(Platform& platform)
 }
 
 void Program::AddWindows() {
-  const ProgramParts parts{platform_, editor_, files_, main_, windows_, stand_alones_, keepers_, file_pickers_, doors_};
-  AddShellWindows(parts);
-  AddFileWindows(parts);
-  AddTextWindows(parts);
-  AddPageWindows(parts);
-  AddLinkWindows(parts);
-  AddCipherWindows(parts);
-  AddToolWindows(parts);
-  AddNotesWindows(parts);
-  AddTagWindows(parts);
-  AddBrowserWindows(parts);
+  AddShellWindows(parts_);
+  AddFileWindows(parts_);
+  AddTextWindows(parts_);
+  AddPageWindows(parts_);
+  AddLinkWindows(parts_);
+  AddCipherWindows(parts_);
+  AddToolWindows(parts_);
+  AddNotesWindows(parts_);
+  AddTagWindows(parts_);
+  AddBrowserWindows(parts_);
 }
 
 // False during the load, because the loaded text is no unsaved work even while it is marked. False if an accessory runs

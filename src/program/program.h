@@ -35,6 +35,7 @@ class Program {
 
   [[nodiscard]] MainWindow& Main() { return main_; }
   [[nodiscard]] WindowRegistry& Windows() { return windows_; }
+  [[nodiscard]] const ProgramParts& Parts() const { return parts_; }
 
  private:
   void AddWindows();
@@ -56,7 +57,8 @@ class Program {
   Keepers keepers_;
   FilePickers file_pickers_;
   Doors doors_;
-  WindowRegistry windows_;  // last, because its windows use all members above
+  WindowRegistry windows_;  // below all members that its windows use
+  ProgramParts parts_{platform_, editor_, files_, main_, windows_, stand_alones_, keepers_, file_pickers_, doors_};
 };
 
 // The command-line arguments joined by blanks. The relative path of an existing file becomes absolute, if possible

@@ -1,4 +1,24 @@
-// Works a window by a line of steps, and tells its controls in a line, so that a test of a dialog is a table.
+// The step line, one of the two notations of the tests (marked_text.h has the other): what a user does in a window, and
+// what the window's controls then show.
+//
+//   ExpectState(window, "Text1='a b' Check1! Command1!", "Label1=3 List1=a|>b Command2=(&Ok)");
+//
+// A line has words between blanks. A word holds blanks between apostrophes. Steps:
+//   Command1!      clicks a button, a check box, an option, or an item of a menu or of a toolbar
+//   Text1=abc      replaces the text of a field or of an editable box
+//   VScroll1=3     moves a scroll bar to a value
+//   List1=2        makes a row of a list current, counted from 0; List1=abc the first row that begins so
+//   Combo1=2       chooses a row of a box that isn't editable, TabStrip1=1 a tab
+//   Dir1=/a        goes to a folder
+//   Text1:ab\r     gives the focus to a control and types: \r Enter, \b Backspace, \x7f Delete, \x1b Escape, → and ↓
+// States:
+//   Label1=abc     the text of a label, button, field or box, or the value of a bar
+//   Check1=1       a check box, an option or a button is checked; 0 it isn't
+//   List1=a|>b     the rows of a list, ">" before a selected one
+//   Picture1=#ff0000 the colour of a swatch
+//   Command1=(&Ok) the control is disabled
+// The session tests work the real program by a line of keys, which `work` of session/harness.py takes:
+//   ctrl+k  "typed text"  [Title] waits for that window  @10,20 clicks there  / waits for the window's end
 #pragma once
 
 #include <QAbstractItemView>
@@ -15,7 +35,6 @@
 
 namespace pelmar {
 
-// The words of a line. A word holds spaces between apostrophes: "Text1='a b' Command1!".
 inline QStringList Words(const char* line) {
   QStringList words;
   bool quoted = false, begun = false;
@@ -34,7 +53,7 @@ inline QStringList Words(const char* line) {
 
 inline QWidget* Named(const QWidget& window, const QString& name) {
   auto* control = window.findChild<QWidget*>(name);
-  EXPECT_NE(control, nullptr) << "no control " << name.toStdString();
+  EXPECT_NE(control, nullptr) << window.objectName().toStdString() << " has no control " << name.toStdString();
   return control;
 }
 inline QWidget* Named(const QWidget& window, const char* name) { return Named(window, QString::fromUtf8(name)); }
@@ -47,10 +66,7 @@ inline void Type(QWidget& focus, QChar key) {
   QTest::keyClick(&focus, key.toLatin1());
 }
 
-// "Command1!" clicks a button or an item of a menu; "Text1=abc" types over a field or an editable box; "VScroll1=3"
-// moves a bar; "List1=2" or "List1=abc" makes a row of a list (from 0, or the one that begins so) the current one,
-// "Combo1=2" one of a box that isn't editable, "TabStrip1=1" a tab; "Dir1=/a" goes to a folder. "Text1:abc\r" gives the
-// keyboard to a control and types; Delete is \x7f, Backspace \b, Escape \x1b, arrows → and ↓.
+// Takes the steps.
 inline void Work(const QWidget& window, const char* steps) {
   for (const QString& step : Words(steps)) {
     const auto end = std::find_if(step.begin(), step.end(), [](QChar c) { return QLatin1String("!=:").contains(c); });
@@ -82,13 +98,12 @@ inline void Work(const QWidget& window, const char* steps) {
                                      : qobject_cast<QAbstractSlider*>(control) ? "value"
                                                                                : "currentIndex",
                                      value)) {
-      ADD_FAILURE() << "nothing does " << step.toStdString();
+      ADD_FAILURE() << window.objectName().toStdString() << ": the control has no such step: " << step.toStdString();
     }
   }
 }
 
-// What a control shows: a text, a bar's value, "1" or "0" of what can be checked, a list's rows between "|" with ">"
-// before the selected ones; in parentheses where it is disabled.
+// What a control shows, as a state line writes it.
 inline QString Shown(const QWidget* control) {
   QString shown;
   for (const char* property : {"currentIndex", "currentText", "text", "value"})
@@ -109,7 +124,7 @@ inline QString Shown(const QWidget* control) {
   return control->isEnabled() ? shown : QLatin1Char('(') + shown + QLatin1Char(')');
 }
 
-// The controls named, as in "Label1=1% VScroll1=(50)"; a name may have more behind "=".
+// The state line of the named controls. A name may have more behind "=".
 inline std::string State(const QWidget& window, const char* names) {
   QStringList shown;
   for (const QString& word : Words(names)) {
@@ -119,10 +134,18 @@ inline std::string State(const QWidget& window, const char* names) {
   return shown.join(QLatin1Char(' ')).toStdString();
 }
 
-// Expects after the steps what the second line says of the controls that it names: "Label1=1% Text1='a b'".
-inline void ExpectState(const QWidget& window, const char* steps, const char* state) {
+// Takes the steps, then compares each control that the state line names. A failure names the caller's line.
+inline void ExpectState(const QWidget& window, const char* steps, const char* state,
+                        const char* file = __builtin_FILE(), int line = __builtin_LINE()) {
   Work(window, steps);
-  EXPECT_EQ(State(window, state), Words(state).join(QLatin1Char(' ')).toStdString()) << steps;
+  for (const QString& word : Words(state)) {
+    const QString name = word.section(QLatin1Char('='), 0, 0), expected = word.mid(name.size() + 1);
+    const QWidget* control = Named(window, name);
+    if (control == nullptr || Shown(control) == expected) continue;
+    ADD_FAILURE_AT(file, line) << window.objectName().toStdString() << '.' << name.toStdString() << ": expected '"
+                               << expected.toStdString() << "', seen '" << Shown(control).toStdString() << "' after \""
+                               << steps << '"';
+  }
 }
 
 }  // namespace pelmar
