@@ -3,6 +3,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "accessories/notes.h"
 #include "platform/files/lock_file.h"
 #include "shell/rescue_file.h"
 #include "shell/rescue_store.h"

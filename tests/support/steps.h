@@ -24,6 +24,7 @@
 #include <QAbstractItemView>
 #include <QAction>
 #include <QComboBox>
+#include <QLineEdit>
 #include <QTest>
 #include <algorithm>
 

@@ -4,6 +4,7 @@
 
 #include <sys/resource.h>
 
+#include <QLineEdit>
 #include <QTest>
 #include <new>
 
