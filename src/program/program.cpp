@@ -99,7 +99,14 @@ bool Program::MayClose() {
 }
 
 void Program::KeepUnsaved() {
-  if (KeepsDocuments()) rescue_.KeepNow();
+  if (KeepsDocuments()) {
+    rescue_.KeepNow();
+    try {
+      session_.StoreAll();
+    } catch (const RuntimeError&) {
+      // The rescue file holds the documents, and nobody is there to read a message.
+    }
+  }
   for (const auto& keep : keepers_) keep();
 }
 

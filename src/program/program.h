@@ -26,7 +26,8 @@ class Program {
   // Starts the program with the joined command-line arguments (UTF-8).
   void Run(const std::string& tail);
 
-  // Writes all unsaved texts to disk at once and without a message, before the system ends the program.
+  // Before the system ends the program: writes the files of a close and all unsaved texts, at once and without a
+  // message or a question.
   void KeepUnsaved();
 
   // Handles an error that no command caught: keeps the modified documents, then reports the error and the files that

@@ -100,12 +100,16 @@ void Session::Act(std::string_view tail) {
 }
 
 bool Session::Close() {
+  StoreAll();
+  closed_ = MayEnd();
+  return closed_;
+}
+
+void Session::StoreAll() {
   Store(kRecoveryName, documents_.Text().Text());
   Store(kAllFilesName, AllFilesText(documents_));
   settings_.WindowState = static_cast<std::int32_t>(view_.WindowState());
   StoreSettings();
-  closed_ = MayEnd();
-  return closed_;
 }
 
 bool Session::MayEnd() {

@@ -36,8 +36,10 @@ class Session {
   // Writes the files, then asks about unsaved changes. False if the person doesn't want to close. Throws RuntimeError
   // if a file can't be written.
   bool Close();
+  // Writes the files of a close: the current text, all texts and the settings. Throws RuntimeError like Close.
+  void StoreAll();
 
-  // Writes the settings file. The window's state changes only in Close.
+  // Writes the settings file. The window's state changes only in StoreAll.
   void StoreSettings();
 
   // True after a confirmed Close: the program is ending and the settings are already stored.
