@@ -68,8 +68,8 @@ void Calculator::Operator(char symbol) {
   shown = "0";
 }
 
-bool Calculator::Evaluate() {
-  if (operation.empty()) return true;
+void Calculator::Evaluate() {
+  if (operation.empty()) return;
   const std::optional<double> a = Read(operand);
   const std::optional<double> b = Read(shown);
   const bool by_zero = a && b && operation == "/" && *b == 0;
@@ -77,12 +77,6 @@ bool Calculator::Evaluate() {
   if (by_zero) platform_.Message(MessageType::kOk, "Není možno dělit nulou", "Dělení");
   if (!done && !by_zero) TellNoResult();
   EndOperation();
-  return done;
-}
-
-bool Calculator::MakeWayFor(char typed) {
-  const bool is_operator = std::string_view("+-*/^").find(typed) != std::string_view::npos;
-  return !is_operator || Evaluate();
 }
 
 void Calculator::EndOperation() {

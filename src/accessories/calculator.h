@@ -32,11 +32,8 @@ class Calculator {
 
   // Starts one of + - * / L ^.
   void Operator(char symbol);
-  // Ends the pending operation if the typed key is an operator (+ - * / ^), since the keyboard can also type operators
-  // that are disabled on the screen. False if the pending operation failed.
-  bool MakeWayFor(char typed);
-  // Ends the pending operation. A failure is reported, keeps the number and returns false.
-  bool Evaluate();
+  // Ends the pending operation. A failure is reported and keeps the number.
+  void Evaluate();
 
   // Each replaces the number by its result. On failure each reports the error, keeps the number and drops the pending
   // operation.

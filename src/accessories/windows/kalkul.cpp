@@ -149,9 +149,7 @@ Preview Kalkul::PhysicalKey(const QKeyEvent& event) {
   const auto character = TypedCharacter(event);
   QPushButton* key = event.key() == Qt::Key_Delete ? ui_->Command23 : character ? KeyOf(*character) : nullptr;
   if (key == nullptr) return Preview::kPass;
-  const bool goes_on = !character || calculator_.MakeWayFor(*character);
-  Show();
-  if (goes_on) key->click();
+  key->click();  // does nothing while the key is disabled
   return Preview::kTake;
 }
 
