@@ -52,8 +52,12 @@ FrmBrowser::FrmBrowser(WebViewMaker& maker, Platform& platform, std::function<vo
   ui_->netLine->hide();
   ui_->Picture1->setEnabled(false);
   ShowProgramIcon();
-  status_ = AddPanel(*ui_->StatusBar1, "Panel1", QStringLiteral("Stav"), 1);
+  status_ = AddPanel(*ui_->StatusBar1, "Panel1", QStringLiteral("Stav"), 0);
+  status_->setText(QStringLiteral("Busy"));
+  status_->setMinimumWidth(status_->sizeHint().width());
+  status_->clear();
   progress_ = AddPanel(*ui_->StatusBar1, "Panel2", QStringLiteral("Průběh načítání"), 0);
+  link_ = AddPanel(*ui_->StatusBar1, "Panel4", QStringLiteral("Odkaz pod ukazatelem"), 1);
   encoding_ = AddPanel(*ui_->StatusBar1, "Panel3", QStringLiteral("Kódování stránky"), 0);
   timTimer.setObjectName(QStringLiteral("timTimer"));
   timTimer.setInterval(kTimerInterval);
@@ -74,9 +78,8 @@ void FrmBrowser::ConnectView() {
   setTabOrder(ui_->cboAddress, view_->Widget());
   view_->on_progress = [this](qint64 progress, qint64 maximum) { View_Progress(progress, maximum); };
   view_->on_link = [this](const QString& address) {
-    link_ = address;
-    status_->setToolTip(address);
-    ShowState();
+    link_->setText(address);
+    link_->setToolTip(address);
   };
   view_->on_change = [this] {
     ShowCaption();
@@ -185,10 +188,8 @@ void FrmBrowser::timTimer_Timer() {
   ShowCaption();
 }
 
-// Shows the link under the mouse while nothing loads.
 void FrmBrowser::ShowState() {
-  const QString idle = link_.isEmpty() ? QStringLiteral("Idle") : link_;
-  status_->setText(view_->Busy() ? QStringLiteral("Busy") : idle);
+  status_->setText(view_->Busy() ? QStringLiteral("Busy") : QStringLiteral("Idle"));
   ui_->Picture1->setEnabled(view_->Busy());
 }
 

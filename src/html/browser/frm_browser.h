@@ -69,9 +69,9 @@ class FrmBrowser : public QMainWindow {
   Platform& platform_;
   std::function<void()> end_program_;
   std::unique_ptr<Ui::frmBrowser> ui_;
-  QString link_;  // the link under the mouse
   QLabel* status_ = nullptr;
   QLabel* progress_ = nullptr;
+  QLabel* link_ = nullptr;  // the target of the link under the mouse
   QLabel* encoding_ = nullptr;
   QTimer timTimer{this};
   bool centred_ = false;
