@@ -3,13 +3,12 @@
 #include "ciphers/check_sums.h"
 #include "ciphers/xor_cipher.h"
 #include "shell/editor.h"
-#include "text/insert.h"
 
 namespace pelmar {
 
 void AddCipherCommands(Editor& editor) {
   editor.commands.Add("mnuZaKodPrim", [&editor] {
-    ReplaceDocument(editor.text, PrimitiveRewrite(editor.text.Text()));
+    editor.text.SetText(PrimitiveRewrite(editor.text.Text()));
     editor.platform.Message(MessageType::kOk, "Ukončeno kódování.", "kód");
   });
   editor.commands.Add("mnu_crc", [&editor] {

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "text/codepage.h"
-#include "text/insert.h"
 #include "text/number_text.h"
 
 namespace pelmar {
@@ -61,7 +60,7 @@ void RewriteStream(TextBuffer& document, double key, std::string& output, Platfo
     done += part.size();
     if (!on_progress(done)) return;
   }
-  ReplaceDocument(document, output);
+  document.SetText(output);
 }
 
 std::string PrimitiveRewrite(std::string_view text) {

@@ -50,7 +50,7 @@ void PutAround(TextBuffer& document, std::string_view head, std::string_view sam
   std::string text(head);
   text += body;
   text += tail;
-  document.Replace(0, document.Size(), text);  // one step of undo, since there is no question
+  document.SetText(std::move(text));
   document.Select(head.size(), head.size() + body.size());
 }
 

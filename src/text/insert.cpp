@@ -18,10 +18,4 @@ void WrapSelection(TextBuffer& document, const Wrapping& wrapping) {
   WrapSelection(document, wrapping.open, wrapping.close, wrapping.sample);
 }
 
-void ReplaceDocument(TextBuffer& document, std::string_view text) {
-  // A document that is given the text that it has is not modified.
-  if (text != document.Text()) document.Replace(0, document.Size(), text);
-  document.SetSelStart(0);
-}
-
 }  // namespace pelmar

@@ -21,7 +21,4 @@ struct Wrapping {
 };
 void WrapSelection(TextBuffer& document, const Wrapping& wrapping);
 
-// Replaces the whole text and puts the caret at its start. One step of undo brings the old text back.
-void ReplaceDocument(TextBuffer& document, std::string_view text);
-
 }  // namespace pelmar

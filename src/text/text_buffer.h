@@ -44,7 +44,8 @@ class TextBuffer {
   // change before the first. The revision shows this.
   [[nodiscard]] std::uint64_t Revision() const { return revision_; }
 
-  // Replaces the whole text, puts the caret at 0 and clears undo. Notifies nobody if the text stays the same.
+  // Replaces the whole text, puts the caret at 0 and (required) clears undo. Notifies nobody if the text stays the
+  // same.
   void SetText(std::string text);
 
   // The selection, clipped to the text. SetSelStart collapses the selection. SetSelLength keeps the start and puts the

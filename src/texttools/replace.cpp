@@ -3,7 +3,6 @@
 #include "platform/busy.h"
 #include "shell/common.h"
 #include "text/codepage.h"
-#include "text/insert.h"
 #include "text/search.h"
 #include "texttools/find.h"
 
@@ -78,7 +77,7 @@ void Replacer::TellNothing() {
 
 void Replacer::ReplaceAll() {
   const BusyPointer busy(platform_);
-  ReplaceDocument(document_, ReplaceAllByMarker(document_.Text(), find, change));
+  document_.SetText(ReplaceAllByMarker(document_.Text(), find, change));
   find_on = lists_on = change_on = true;
   step_on = all_on = false;  // required: the case stays disabled
   found_shown = replaced_shown = std::nullopt;

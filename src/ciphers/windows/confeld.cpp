@@ -4,7 +4,6 @@
 #include "ciphers/windows/rewriting_field.h"
 #include "platform/qt/controls/field_helpers.h"
 #include "platform/qt/convert.h"
-#include "text/insert.h"
 #include "ui_confeld.h"
 
 namespace pelmar {
@@ -24,7 +23,7 @@ void Confeld::Apply(std::string (*cipher)(std::string_view text, std::string_vie
   if (ui_->Check1->isChecked()) {
     ui_->Text2->Buffer().SetText(cipher(ui_->Text3->Buffer().Text(), password));
   } else {
-    ReplaceDocument(document_, cipher(document_.Text(), password));
+    document_.SetText(cipher(document_.Text(), password));
   }
 }
 

@@ -7,7 +7,6 @@
 #include "platform/qt/convert.h"
 #include "platform/runtime_error.h"
 #include "shell/editor.h"
-#include "text/insert.h"
 #include "ui_rnd_sifra.h"
 
 namespace pelmar {
@@ -66,12 +65,12 @@ void RND_Sifra::Command3_Click() {
 void RND_Sifra::Command5_Click() {
   platform_.ReseedRandom();
   const std::string& text = ui_->Text1->Buffer().Text();
-  ReplaceDocument(document_, RndEncipher(text, table_, DrawFrom(platform_), StartProgress()));
+  document_.SetText(RndEncipher(text, table_, DrawFrom(platform_), StartProgress()));
 }
 
 void RND_Sifra::Command6_Click() {
   if (table_.depth == 0) return;  // an empty file leaves a table without depth, which would erase the document
-  ReplaceDocument(document_, RndDecipher(ui_->Text1->Buffer().Text(), table_, StartProgress()));
+  document_.SetText(RndDecipher(ui_->Text1->Buffer().Text(), table_, StartProgress()));
 }
 
 void RND_Sifra::Command8_Click() {

@@ -4,7 +4,6 @@
 #include "platform/qt/controls/field_helpers.h"
 #include "platform/qt/convert.h"
 #include "platform/random.h"
-#include "text/insert.h"
 #include "ui_shift_kod.h"
 
 namespace pelmar {
@@ -41,7 +40,7 @@ void ShiftKod::Command4_Click() {
 
 void ShiftKod::Apply(int shift) {
   if (ui_->Check1->isChecked()) return ShowQuickText(shift);
-  ReplaceDocument(document_, Shifted(document_.Text(), shift));
+  document_.SetText(Shifted(document_.Text(), shift));
 }
 
 void ShiftKod::ShowQuickText(int shift) { ui_->Text2->Buffer().SetText(Shifted(ui_->Text1->Buffer().Text(), shift)); }

@@ -39,7 +39,7 @@ void Template::ListView1_Click() {
 }
 
 bool Template::Put() {
-  ReplaceDocument(document_, ui_->Text1->Buffer().Text());
+  document_.SetText(ui_->Text1->Buffer().Text());
   return true;
 }
 
