@@ -103,16 +103,10 @@ std::string JoinPath(std::string_view folder, std::string_view name) {
 }
 
 std::string StoredPath(std::string_view path) {
-  if (!IsUtf8(path) && path.starts_with('/')) return EncodedUrl(path);
   std::string text = FromUtf8(path);
-  const bool lossless = ToUtf8(text) == path;
-  const bool ambiguous = IsUtf8(text) && text != path;
-  return lossless && !ambiguous ? text : std::string(path);
+  return ToUtf8(text) == path ? text : EncodedUrl(path);
 }
 
-std::string PathFromStored(std::string_view bytes) {
-  if (auto path = PathFromFileUrl(bytes)) return *path;
-  return IsUtf8(bytes) ? std::string(bytes) : ToUtf8(bytes);
-}
+std::string PathFromStored(std::string_view bytes) { return PathFromFileUrl(bytes).value_or(ToUtf8(bytes)); }
 
 }  // namespace pelmar

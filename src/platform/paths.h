@@ -30,8 +30,8 @@ std::string_view NameOf(std::string_view path);
 // Joins folder and name with the separator that the folder uses. A separator at the end of the folder is not doubled.
 std::string JoinPath(std::string_view folder, std::string_view name);
 
-// A path in a file of Windows-1250 text. It is stored in Windows-1250 if no character is lost and the bytes can't be
-// mistaken for UTF-8, otherwise in UTF-8. A path that is not UTF-8 is stored as a URL.
+// A path in a file of Windows-1250 text. A path that has no exact form in Windows-1250 is stored as a "file://" URL, in
+// which bytes outside ASCII are percent-encoded.
 std::string StoredPath(std::string_view path);
 std::string PathFromStored(std::string_view bytes);
 

@@ -1,7 +1,5 @@
 #include "shell/settings_record.h"
 
-#include <algorithm>
-
 #include "platform/paths.h"
 #include "shell/record_bytes.h"
 
@@ -93,9 +91,6 @@ void ApplySettingsDefaults(SettingsRecord& record) {
     record.ForeColor = Rgb(0, 0, 0);
     record.BackColor = Rgb(255, 255, 255);
   }
-  constexpr std::int32_t kFarthest = 1'000'000;
-  for (std::int32_t* length : {&record.Width, &record.Height, &record.Top, &record.Left, &record.AutosnapDistance})
-    *length = std::clamp(*length, -kFarthest, kFarthest);
 }
 
 }  // namespace pelmar

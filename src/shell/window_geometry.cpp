@@ -1,5 +1,6 @@
 #include "shell/window_geometry.h"
 
+#include <algorithm>
 #include <numeric>
 
 namespace pelmar {
@@ -10,10 +11,12 @@ constexpr int kPanelMargin = 420;
 constexpr int kNeededMargin = 270;
 constexpr int kTextOverlap = 10;
 constexpr int kMostRequests = 20;
+constexpr int kFarthest = 1'000'000;  // more than any screen
 
 }  // namespace
 
 TwipsRect Snap(TwipsRect f, int d, const TwipsRect& screen) {
+  d = std::clamp(d, -kFarthest, kFarthest);  // sums can't overflow
   f.left -= screen.left;
   f.top -= screen.top;
   // Each test uses the values set by the lines above.

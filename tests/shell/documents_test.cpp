@@ -123,8 +123,8 @@ TEST_F(DocumentsTest, RescueNeverOverwritesADocumentOfThisRun) {
   documents.MakeCurrent("/given.txt", "given");
   const RescueRecord first{1,
                            {{1, "/a/README", "1"}, {2, "", "2"}, {3, "", "3"}, {4, "", "4"}, {5, "/\u65e5.txt", "5"}}};
-  // Four free tabs, five documents. A path outside the code page stays a path.
-  EXPECT_EQ(ReadableDocuments(BringBackDocuments(documents, {first})), "Soubor:/\u65e5.txt\r\n5\r\n\r\n");
+  // Four free tabs, five documents. A path outside the code page is stored as a URL.
+  EXPECT_EQ(ReadableDocuments(BringBackDocuments(documents, {first})), "Soubor:file:///%E6%97%A5.txt\r\n5\r\n\r\n");
   EXPECT_EQ(TextsOf(documents), "given|1|2|3|4|");
   documents.SwitchTo(1);
   // A name without a full stop doesn't break the switch.

@@ -26,6 +26,8 @@ namespace {
 constexpr QSize kSmallest(480, 320);
 // The size at the first start, with space for the whole toolbar.
 constexpr QSize kFirstSize(820, 560);
+// X11 has no farther or larger windows.
+constexpr int kFarthest = TwipsOf(32'767);
 
 // The paths of the dropped local files.
 std::vector<std::string> DroppedFiles(const QMimeData* mime) {
@@ -213,13 +215,14 @@ TwipsRect MainWindow::Wanted(const TwipsRect& now) const {
 }
 
 void MainWindow::SetPlace(const TwipsRect& place) {
-  wanted_place_ = place;
+  const auto bounded = [](int twips) { return std::clamp(twips, -kFarthest, kFarthest); };
+  wanted_place_ = {bounded(place.left), bounded(place.top), bounded(place.width), bounded(place.height)};
   const QSize first = kFirstSize.boundedTo(screen()->availableSize());
   if (place.width <= 0) wanted_place_.width = TwipsOf(first.width());
   if (place.height <= 0) wanted_place_.height = TwipsOf(first.height());
   SetOuterWidth(*this, wanted_place_.width);
   SetOuterHeight(*this, wanted_place_.height);
-  SetOuterPosition(*this, place.left, place.top);
+  SetOuterPosition(*this, wanted_place_.left, wanted_place_.top);
 }
 
 TwipsRect MainWindow::Place() const {
