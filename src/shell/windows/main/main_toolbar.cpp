@@ -1,8 +1,11 @@
 #include "shell/windows/main/main_toolbar.h"
 
 #include <QAction>
+#include <QApplication>
+#include <QFontMetrics>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QScreen>
 #include <QToolButton>
 
 #include "platform/qt/convert.h"
@@ -14,12 +17,11 @@
 namespace pelmar {
 namespace {
 
-// Removes the middle of a long path, so that the menu is narrower than a screen.
-QString Shortened(const QString& item) {
-  constexpr qsizetype kMost = 100;
-  constexpr qsizetype kBegin = 40;
-  if (item.size() <= kMost) return item;
-  return item.left(kBegin) + QChar(0x2026) + item.right(kMost - kBegin - 1);
+// Removes the middle of a path that is wider than the screen, so that its file name stays visible.
+QString ElidedToScreen(const QString& item) {
+  constexpr int kRestOfMenu = 80;  // pixels
+  const int space = QGuiApplication::primaryScreen()->availableSize().width() - kRestOfMenu;
+  return QFontMetrics(QApplication::font("QMenu")).elidedText(item, Qt::ElideMiddle, space);
 }
 
 // Escapes each "&" of the path; the first "&" marks the digit as access key.
@@ -115,7 +117,7 @@ void MainToolbar::Refresh() {
 void MainToolbar::ShowRecentFiles() {
   for (int number = 1; number <= 10; ++number) {
     QAction* action = recent_[IndexFromOne(number)];
-    action->setText(EscapedMnemonics(Shortened(Utf8ToQString(files_.recent.ItemText(number)))));
+    action->setText(EscapedMnemonics(ElidedToScreen(Utf8ToQString(files_.recent.ItemText(number)))));
     action->setToolTip(Utf8ToQString(files_.recent.Path(number)));
   }
 }

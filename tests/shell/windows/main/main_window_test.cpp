@@ -315,7 +315,10 @@ TEST_F(MainWindowTest, RecentMenuShowsAndOpensTheEntries) {
   EXPECT_EQ(Item("M1")->text(), QStringLiteral("&0 /three.txt"));
   EXPECT_EQ(Item("M2")->text(), QStringLiteral("&1 /one&&two.txt"));
   EXPECT_EQ(Item("M10")->text(), QStringLiteral("&9 "));
-  EXPECT_EQ(Item("M3")->text(), QStringLiteral("&2 /%1…%2/a.txt").arg(QString(36, u'd'), QString(53, u'd')));
+  const QString elided = Item("M3")->text();  // wider than the screen
+  EXPECT_TRUE(elided.startsWith(QStringLiteral("&2 /ddd")) && elided.endsWith(QStringLiteral("/a.txt")))
+      << elided.toStdString();
+  EXPECT_TRUE(elided.contains(QChar(0x2026))) << elided.toStdString();
   EXPECT_EQ(Item("M3")->toolTip(), Utf8ToQString(deep));
   EXPECT_TRUE(Item("Recent")->menu()->toolTipsVisible());
   Item("M2")->trigger();
