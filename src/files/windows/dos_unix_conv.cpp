@@ -11,7 +11,6 @@ Dos_Unix_conv::Dos_Unix_conv(Platform& platform, QWidget* parent) : FormDialog(p
   ui_->Text1->setCurrentText(QStringLiteral("*.*"));
   LinkFileBrowser(ui_->Drive1, ui_->Dir1, ui_->File1, ui_->Text1);
   connect(ui_->File1, &FileList::FileClicked, this, &Dos_Unix_conv::File1_Click);
-  connect(ui_->File1, &FileList::FileGone, this, [this] { EnableConversions(false); });
   connect(ui_->Command1, &QPushButton::clicked, this,
           [this] { Convert([this](const std::string& path) { ConvertToUnix(platform_, path); }); });
   connect(ui_->Command2, &QPushButton::clicked, this,

@@ -100,8 +100,8 @@ void FileList::ReadAnew() {
   QStringList names = FilesOf(path_, pattern_);
   settle_.setInterval(qMax<int>(kSettle, static_cast<int>(clock.elapsed()) * kReadings));
   const QString selected = FileName();
-  const bool gone = !selected.isEmpty() && !names.contains(selected);
-  if (gone) {
+  // The name of a selected file stays in the list after the file was removed.
+  if (!selected.isEmpty() && !names.contains(selected)) {
     const auto follows = [old = names_->stringList(), &selected](const QString& name) {
       return old.indexOf(name) > old.indexOf(selected);
     };
@@ -113,7 +113,6 @@ void FileList::ReadAnew() {
     executeDelayedItemsLayout();  // sets the range of the scroll bar
     verticalScrollBar()->setValue(scrolled);
   }
-  if (gone) Q_EMIT FileGone();
 }
 
 // Watches the folder only while the list is visible. showEvent reads the folder again.

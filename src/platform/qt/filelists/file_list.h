@@ -40,8 +40,6 @@ class FileList : public QListView {
   void PatternChanged(const QString& pattern);
   // A file was clicked, perhaps the same file again, or selected with the keyboard.
   void FileClicked();
-  // The selected file was removed from the folder. Its name stays in the list.
-  void FileGone();
   // Double click or Enter. If the signal isn't connected, Enter presses the default button of the dialog.
   void FileActivated();
 

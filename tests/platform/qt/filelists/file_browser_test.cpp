@@ -117,7 +117,6 @@ struct FileBrowserTest : testing::Test {
     QObject::connect(&files, &FileList::PatternChanged, [this](const QString& to) { Tell("mask=", to); });
     QObject::connect(&files, &FileList::FileClicked, [this] { Tell("click "); });
     QObject::connect(&files, &FileList::FileActivated, [this] { Tell("act "); });
-    QObject::connect(&files, &FileList::FileGone, [this] { Tell("gone "); });
   }
 
   void Tell(const char* what, QString value = {}) {
