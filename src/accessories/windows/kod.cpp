@@ -93,10 +93,9 @@ Preview Kod::TypedKey(const QKeyEvent& event) {
   const auto character = TypedCharacter(event);
   if (!character || !ui_->Option1->isChecked()) return Preview::kPass;
   const QWidget* focus = focusWidget();
-  // These keys work a control of this window: the space bar on buttons and options, Enter on buttons and on a cell.
+  // These keys work a control of this window: the space bar on buttons and options, Enter on buttons.
   if (*character == ' ' && qobject_cast<const QAbstractButton*>(focus)) return Preview::kPass;
   if (*character == '\r' && qobject_cast<const QPushButton*>(focus)) return Preview::kPass;
-  if (*character == '\r' && focus == ui_->Picture1 && ui_->Picture1->MarkedByKeys()) return Preview::kPass;
   stroke_main_(event);
   // required: a focused field gets the key too
   return focus == ui_->Text1 || focus == ui_->Combo1 ? Preview::kShare : Preview::kTake;

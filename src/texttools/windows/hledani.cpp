@@ -13,8 +13,7 @@ Hledani::Hledani(TextBuffer& document, Platform& platform, std::function<QRect()
   setObjectName(QStringLiteral("Hledání"));
   ui_->Text1->UseBuffer(finder_.Snapshot());
   connect(ui_->Command1, &QPushButton::clicked, this, [this] { Step(&Finder::Start); });
-  for (QWidget* field : {static_cast<QWidget*>(ui_->Find), static_cast<QWidget*>(ui_->Rozlisovat)})
-    OnEnter(field, [this] { Step(&Finder::Start); });
+  OnEnter(ui_->Find, [this] { Step(&Finder::Start); });
   connect(ui_->Command2, &QPushButton::clicked, this, [this] { Step(&Finder::Next); });
   connect(ui_->Command4, &QPushButton::clicked, this, [this] { Step(&Finder::New); });
   connect(ui_->Command3, &QPushButton::clicked, this, &Hledani::hide);

@@ -13,7 +13,6 @@ Zamena::Zamena(TextBuffer& document, Platform& platform, std::function<QRect()> 
   setObjectName(QStringLiteral("Záměna"));
   ui_->Text1->UseBuffer(replacer_.Snapshot());
   connect(ui_->Command1, &QPushButton::clicked, this, &Zamena::Start);
-  OnEnter(ui_->Rozlisovat, [this] { Start(); });
   connect(ui_->Command2, &QPushButton::clicked, this, [this] { Step(&Replacer::Next); });
   connect(ui_->Command5, &QPushButton::clicked, this, [this] { Step(&Replacer::Replace); });
   for (const auto& [button, step] : {std::pair{ui_->Command6, &Replacer::ReplaceAll}, {ui_->Command4, &Replacer::New}})

@@ -39,7 +39,6 @@ void CellGrid::Enter(int row, int column) {
 }
 
 void CellGrid::GoByKeys(int rows, int columns) {
-  by_keys_ = true;
   Enter(std::max(row_ + rows, 1), std::max(column_ + columns, 1));
   if (!QAccessible::isActive()) return;
   QAccessibleEvent event(this, QAccessible::Focus);
@@ -57,7 +56,6 @@ void CellGrid::Choose(int number) {
 }
 
 void CellGrid::mouseMoveEvent(QMouseEvent* event) {
-  by_keys_ = false;
   const QPoint cell = CellAt(event->position().toPoint());
   Enter(cell.y(), cell.x());
 }
@@ -65,7 +63,6 @@ void CellGrid::mouseMoveEvent(QMouseEvent* event) {
 void CellGrid::mouseReleaseEvent(QMouseEvent* event) {
   // A release outside the grid chooses no cell.
   if (!rect().contains(event->position().toPoint())) return;
-  by_keys_ = false;
   const QPoint cell = CellAt(event->position().toPoint());
   Enter(cell.y(), cell.x());
   Q_EMIT CellChosen(row_, column_);

@@ -13,8 +13,6 @@ class CellGrid : public QWidget {
   explicit CellGrid(QWidget* parent = nullptr) : CellGrid(kCells, parent) {}
 
   QSize sizeHint() const override { return {216, 135}; }
-  // Whether the arrow keys, not the mouse, marked the cell.
-  [[nodiscard]] bool MarkedByKeys() const { return row_ > 0 && by_keys_; }
   // Unmarks the marked cell.
   void Clear();
   // Sets the names of the cells for screen readers.
@@ -54,7 +52,6 @@ class CellGrid : public QWidget {
   int cells_ = kCells;
   int row_ = 0;
   int column_ = 0;
-  bool by_keys_ = false;
 };
 
 }  // namespace pelmar
