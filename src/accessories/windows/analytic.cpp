@@ -68,22 +68,13 @@ void Analytic::AnalyseText(std::string_view text) {
   ShowRows(AnalysisRows(analysis));
 }
 
-// Replaces rows in place: the list keeps its scroll position, and the selection follows its character.
+// required: afterwards no row is selected. The list keeps its scroll position.
 void Analytic::ShowRows(const std::vector<std::string>& rows) {
   QListWidget& list = *ui_->List1;
-  const QListWidgetItem* selected = list.currentItem();
-  const char selected_char = selected == nullptr ? '\0' : CharOfRow(TextFromQString(selected->text()));
   const int scrolled = list.verticalScrollBar()->value();
-  for (std::size_t at = 0; at < rows.size(); ++at) {
-    const QString row = TextToQString(rows[at]);
-    QListWidgetItem* item = list.item(static_cast<int>(at));
-    if (item == nullptr) {
-      list.addItem(row);
-    } else if (item->text() != row) {
-      item->setText(row);
-    }
-    if (selected != nullptr && CharOfRow(rows[at]) == selected_char) list.setCurrentRow(static_cast<int>(at));
-  }
+  list.clear();
+  for (const std::string& row : rows) list.addItem(TextToQString(row));
+  list.doItemsLayout();  // sets the range of the scroll bar
   list.verticalScrollBar()->setValue(scrolled);
 }
 
@@ -102,10 +93,11 @@ void Analytic::Command3_Click() {
 void Analytic::Pic_Pointed(double x) {
   const int code = CodeAt(x, ui_->Check1->isChecked());
   if (code < 0) return;
-  const QString text = ReadableText(PointedText(code));
+  const QString text = TextToQString(PointedText(code));
   ui_->Label2->setText(text);
   ui_->Pic->setToolTip(text);
-  ui_->Pic->setAccessibleDescription(QStringLiteral("%1, výška %2 %").arg(text).arg(ui_->Pic->PointedShare()));
+  ui_->Pic->setAccessibleDescription(
+      QStringLiteral("%1, výška %2 %").arg(ReadableText(PointedText(code))).arg(ui_->Pic->PointedShare()));
 }
 
 void Analytic::Text1_Change() {
