@@ -1,5 +1,7 @@
 #include "shell/terminal_answer.h"
 
+#include <filesystem>
+
 #include "shell/version.h"
 
 namespace pelmar {
@@ -26,6 +28,7 @@ Všechny příkazy popisuje nápověda v programu, klávesa F1.
 std::optional<std::string_view> TerminalAnswer(std::span<char* const> arguments) {
   if (arguments.size() != 1) return std::nullopt;
   const std::string_view argument = arguments.front();
+  if (std::error_code error; std::filesystem::exists(argument, error)) return std::nullopt;
   if (argument == "--help") return kUsage;
   if (argument == "--version") return kVersion;
   return std::nullopt;
