@@ -86,7 +86,7 @@ int main(int argc, char** argv) {
   pelmar::QtPlatform platform;
   pelmar::Program program(platform);
   application.on_runtime_error = [&program, &platform](const pelmar::RuntimeError& error) {
-    program.TellRuntimeError(error);
+    program.ReportRuntimeError(error);
     platform.FinishBackgroundWork();
     std::_Exit(EXIT_FAILURE);
   };
@@ -95,7 +95,7 @@ int main(int argc, char** argv) {
     platform.FinishBackgroundWork();
   });
   try {
-    platform.TellOfRefusedFolder();
+    platform.ReportRefusedFolder();
     program.Run(pelmar::CommandTail(arguments));
   } catch (const pelmar::RuntimeError& error) {
     application.on_runtime_error(error);

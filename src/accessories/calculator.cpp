@@ -75,7 +75,7 @@ void Calculator::Evaluate() {
   const bool by_zero = a && b && operation == "/" && *b == 0;
   const bool done = a && b && !by_zero && Put(Combine(operation.front(), *a, *b));
   if (by_zero) platform_.Message(MessageType::kOk, "Není možno dělit nulou", "Dělení");
-  if (!done && !by_zero) TellNoResult();
+  if (!done && !by_zero) ReportNoResult();
   EndOperation();
 }
 
@@ -90,12 +90,12 @@ bool Calculator::Put(double result) {
   return true;
 }
 
-void Calculator::TellNoResult() { platform_.Message(MessageType::kOk, "Výsledek nelze vypočítat", "Kalkulátor"); }
+void Calculator::ReportNoResult() { platform_.Message(MessageType::kOk, "Výsledek nelze vypočítat", "Kalkulátor"); }
 
 void Calculator::Apply(double (*function)(double)) {
   const std::optional<double> x = Read(shown);
   if (x && Put(function(*x))) return;
-  TellNoResult();
+  ReportNoResult();
   EndOperation();
 }
 

@@ -54,7 +54,7 @@ class Calculator {
  private:
   void Apply(double (*function)(double));
   bool Put(double result);
-  void TellNoResult();
+  void ReportNoResult();
   void EndOperation();
 
   Platform& platform_;

@@ -16,28 +16,28 @@ namespace {
 
 bool IsOutsidePage(char32_t character) { return character != U'?' && CodeOfUnicode(character) == '?'; }
 
-void Tell(Platform& platform, const std::string& text) { platform.Message(MessageType::kOk, text, kConversionTitle); }
+void Report(Platform& platform, const std::string& text) { platform.Message(MessageType::kOk, text, kConversionTitle); }
 
 bool Agreed(Platform& platform, const std::string& text) { return platform.Confirmed(text, kConversionTitle); }
 
-std::string Told(const FilePlace& place) {
+std::string Described(const FilePlace& place) {
   return "řádek " + std::to_string(place.line) + ", sloupec " + std::to_string(place.column) + ", bajt " +
          std::to_string(place.byte);
 }
 
 // A text such as "→ (U+2192)". A control character is shown by its number alone.
-std::string Told(char32_t character) {
+std::string Described(char32_t character) {
   std::array<char, 16> number{};
   std::snprintf(number.data(), number.size(), "U+%04X", static_cast<unsigned>(character));
   if (character < 0xA0) return number.data();
-  std::string told;
-  AppendUtf8(told, character);
-  return told + " (" + number.data() + ")";
+  std::string described;
+  AppendUtf8(described, character);
+  return described + " (" + number.data() + ")";
 }
 
-void TellError(Platform& platform, const std::string& path, const WriteOutcome& outcome) {
-  Tell(platform, "Soubor se nepodařilo převést!\r\nSoubor: " + path + "\r\nKód chyby " + std::to_string(outcome.error) +
-                     ": " + ErrorText(outcome.error) + KeptNotice(outcome));
+void ReportError(Platform& platform, const std::string& path, const WriteOutcome& outcome) {
+  Report(platform, "Soubor se nepodařilo převést!\r\nSoubor: " + path + "\r\nKód chyby " +
+                       std::to_string(outcome.error) + ": " + ErrorText(outcome.error) + KeptNotice(outcome));
 }
 
 // False if the file can't be read, which is reported.
@@ -48,7 +48,7 @@ bool Survey(Platform& platform, const std::string& path, Utf8Survey& survey) {
     error = platform.ReadByPieces(path, [&](std::string_view piece) { return survey.Take(piece); });
   }
   survey.Finish();
-  if (error != 0) TellError(platform, path, {.error = error});
+  if (error != 0) ReportError(platform, path, {.error = error});
   return error == 0;
 }
 
@@ -64,7 +64,7 @@ void Write(Platform& platform, const std::string& path, const std::string& targe
     const BusyPointer busy(platform);
     outcome = platform.RewriteFile(path, target, OldTail::kDrop, rewriter);
   }
-  if (outcome.error != 0) TellError(platform, target, outcome);
+  if (outcome.error != 0) ReportError(platform, target, outcome);
 }
 
 }  // namespace
@@ -162,12 +162,12 @@ void ConvertToPage(Platform& platform, const std::string& path) {
   Utf8Survey survey;
   if (!Survey(platform, path, survey)) return;
   if (survey.malformed)
-    return Tell(platform,
-                "Soubor " + path + " není v UTF-8:\r\n" + Told(*survey.malformed) + ".\r\nNic nebylo zapsáno.");
+    return Report(platform,
+                  "Soubor " + path + " není v UTF-8:\r\n" + Described(*survey.malformed) + ".\r\nNic nebylo zapsáno.");
   if (survey.outside > 0 &&
       !Agreed(platform, "Soubor " + path + " obsahuje znaky, které ve Windows-1250 nejsou, celkem " +
-                            std::to_string(survey.outside) + ".\r\nPrvní je " + Told(survey.first_character) + ": " +
-                            Told(survey.first_outside) + ".\r\n\r\nZapsat místo nich \"?\" ?"))
+                            std::to_string(survey.outside) + ".\r\nPrvní je " + Described(survey.first_character) +
+                            ": " + Described(survey.first_outside) + ".\r\n\r\nZapsat místo nich \"?\" ?"))
     return;
   if (!MayWrite(platform, path, target)) return;
   Utf8ToPage rewriter;

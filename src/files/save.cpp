@@ -16,13 +16,13 @@ void Saver::SaveToPath(const std::string& path) {
   try {
     const std::string& text = documents_.Text().Text();
     const WriteOutcome outcome = Write(path, text);
-    if (outcome.error != 0) return TellError(path, outcome);
+    if (outcome.error != 0) return ReportError(path, outcome);
     agreed_to_mix_.clear();
     outside_.Note(path, platform_.Stamp(path), outside_.CurrentWasUtf8() || LooksLikeUtf8(text));
     documents_.MakeCurrent(path);
     recent_.Remember(path);
   } catch (const RuntimeError& error) {
-    TellError(path, {.error = error.Number()});
+    ReportError(path, {.error = error.Number()});
   }
 }
 
@@ -30,10 +30,10 @@ void Saver::SaveTextCopy(const std::string& path, std::string_view text) {
   if (!MayWrite(path)) return;
   try {
     const WriteOutcome outcome = Write(path, text);
-    if (outcome.error != 0) return TellError(path, outcome);
+    if (outcome.error != 0) return ReportError(path, outcome);
     recent_.Remember(path);
   } catch (const RuntimeError& error) {
-    TellError(path, {.error = error.Number()});
+    ReportError(path, {.error = error.Number()});
   }
 }
 
@@ -90,7 +90,7 @@ WriteOutcome Saver::Write(const std::string& path, std::string_view text) {
   return platform_.WriteDocument(path, text);
 }
 
-void Saver::TellError(const std::string& path, const WriteOutcome& outcome) {
+void Saver::ReportError(const std::string& path, const WriteOutcome& outcome) {
   platform_.Message(
       MessageType::kOk,
       "Chyba ukládání!\r\nSoubor: " + path + "\r\nKód chyby " + std::to_string(outcome.error) + KeptNotice(outcome),

@@ -42,7 +42,7 @@ class Saver {
   bool MayMixEncodings(const std::string& path);
   bool MayWrite(const std::string& path);
   WriteOutcome Write(const std::string& path, std::string_view text);
-  void TellError(const std::string& path, const WriteOutcome& outcome);
+  void ReportError(const std::string& path, const WriteOutcome& outcome);
 
   Documents& documents_;
   RecentFiles& recent_;

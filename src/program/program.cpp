@@ -16,13 +16,13 @@ namespace pelmar {
 namespace {
 
 // Reports files whose last save was interrupted.
-void TellLeftContents(Platform& platform) {
+void ReportLeftContents(Platform& platform) {
   const std::vector<std::string> left = FindLeftContents(platform.InstallFolder());
   if (left.empty()) return;
   std::string text = "Ukládání minule neskončilo a soubor může být poškozen. Jeho původní obsah leží v";
   for (const std::string& path : left) text += "\r\n" + path;
   platform.Message(MessageType::kOkInfo, text, "Záchrana");
-  for (const std::string& path : left) MarkAsTold(path);
+  for (const std::string& path : left) MarkAsReported(path);
 }
 
 }  // namespace
@@ -50,7 +50,8 @@ Program::Program(Platform& platform)
   const auto touch = [this] {
     if (KeepsDocuments()) rescue_.KeepSoon();
   };
-  heard_ = {editor_.text.OnChange([touch](const TextChange&) { touch(); }), editor_.documents.title_changed.Add(touch)};
+  listenings_ = {editor_.text.OnChange([touch](const TextChange&) { touch(); }),
+                 editor_.documents.title_changed.Add(touch)};
 }
 
 void Program::AddWindows() {
@@ -86,7 +87,7 @@ void Program::Run(const std::string& tail) {
   // Only the editor offers rescued texts, after its window is open.
   if (session_.Mode() != StartMode::kEditor) return;
   QTimer::singleShot(0, &main_, [this] {
-    TellLeftContents(platform_);
+    ReportLeftContents(platform_);
     rescue_.Offer();
   });
 }
@@ -110,12 +111,12 @@ void Program::KeepUnsaved() {
   for (const auto& keep : keepers_) keep();
 }
 
-void Program::TellRuntimeError(const RuntimeError& error) {
+void Program::ReportRuntimeError(const RuntimeError& error) {
   std::string text = "Běhová chyba " + std::to_string(error.Number()) + ":\r\n" + error.what() + "\r\n\r\n";
   if (KeepsDocuments())
-    if (const std::string told = rescue_.NoticeOf(rescue_.KeepNow()); !told.empty()) text += told + "\r\n\r\n";
+    if (const std::string notice = rescue_.NoticeOf(rescue_.KeepNow()); !notice.empty()) text += notice + "\r\n\r\n";
   for (const auto& keep : keepers_)
-    if (const std::string told = keep(); !told.empty()) text += told + "\r\n\r\n";
+    if (const std::string notice = keep(); !notice.empty()) text += notice + "\r\n\r\n";
   text += "Program bude ukončen.";
   platform_.Message(MessageType::kOk, text, "Pelmar VEX");
 }

@@ -32,7 +32,7 @@ class Program {
 
   // Handles an error that no command caught: keeps the modified documents, then reports the error and the files that
   // hold the documents. The caller then ends the process.
-  void TellRuntimeError(const RuntimeError& error);
+  void ReportRuntimeError(const RuntimeError& error);
 
   [[nodiscard]] MainWindow& Main() { return main_; }
   [[nodiscard]] WindowRegistry& Windows() { return windows_; }
@@ -53,7 +53,7 @@ class Program {
   RescueKeeper rescue_;
   bool loaded_ = false;
   StatusTimer timer_;
-  std::vector<Listening> heard_;
+  std::vector<Listening> listenings_;
   StandAlones stand_alones_;
   Keepers keepers_;
   FilePickers file_pickers_;

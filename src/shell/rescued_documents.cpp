@@ -58,12 +58,13 @@ std::string ReadableDocuments(const std::vector<RescuedText>& documents) {
 }
 
 DocumentsRescue::DocumentsRescue(Documents& documents)
-    : RescueContent(kDocumentsRescue, {.found = "Program minule neskončil řádně.\r\nPočet zachovaných dokumentů: ",
-                                       .wanted = "Vrátit je do editoru ?",
-                                       .kept = "Neuložené dokumenty",
-                                       .next_time = "Příští start programu je nabídne zpět.",
-                                       .rest_name = "rescued.txt",
-                                       .rest_told = "Všechny dokumenty se nevešly do záložek. Zbylé jsou v souboru"}),
+    : RescueContent(kDocumentsRescue,
+                    {.found = "Program minule neskončil řádně.\r\nPočet zachovaných dokumentů: ",
+                     .wanted = "Vrátit je do editoru ?",
+                     .kept = "Neuložené dokumenty",
+                     .next_time = "Příští start programu je nabídne zpět.",
+                     .rest_name = "rescued.txt",
+                     .rest_message = "Všechny dokumenty se nevešly do záložek. Zbylé jsou v souboru"}),
       documents_(documents) {}
 
 }  // namespace pelmar

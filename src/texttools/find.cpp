@@ -5,7 +5,7 @@
 
 namespace pelmar {
 
-void TellNothingFound(Platform& platform) { platform.Message(MessageType::kOk, "Nenalezeno !", "Hledání"); }
+void ReportNothingFound(Platform& platform) { platform.Message(MessageType::kOk, "Nenalezeno !", "Hledání"); }
 
 std::string DefaultTerm(const TextBuffer& document) {
   return document.HasSelection() ? std::string(document.SelText()) : "Text";
@@ -33,14 +33,14 @@ void Finder::Start() {
   history.push_back(find);  // required: after the change to upper case, so the list holds upper case
   count = position = std::nullopt;
   if (const auto hit = FindFrom(snapshot_.Text(), find, 0)) return Show(*hit);
-  TellNothing();
+  ReportNothing();
   GoIdle();
 }
 
 void Finder::Next() {
   // Hits may overlap: the next hit may begin one character after the last hit.
   if (const auto hit = FindFrom(snapshot_.Text(), find, position.value_or(0) + 1)) return Show(*hit);
-  TellNothing();
+  ReportNothing();
   GoIdle();  // required: the labels keep their values, unlike in Start
 }
 
@@ -60,9 +60,9 @@ void Finder::Show(std::size_t hit) {
   SelectHit(document_, hit, find.size());
 }
 
-void Finder::TellNothing() {
+void Finder::ReportNothing() {
   if (before_message) before_message();
-  TellNothingFound(platform_);
+  ReportNothingFound(platform_);
 }
 
 void Finder::GoIdle() {
@@ -79,7 +79,7 @@ void FindPrimitively(TextBuffer& document, Platform& platform) {
   while (true) {
     const auto hit = FindFrom(document.Text(), term, from);
     if (!hit) {
-      TellNothingFound(platform);
+      ReportNothingFound(platform);
       break;
     }
     ++count;

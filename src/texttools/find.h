@@ -45,7 +45,7 @@ class Finder {
   void TakeDefaultTerm();
   void Show(std::size_t hit);
   void GoIdle();
-  void TellNothing();
+  void ReportNothing();
 
   TextBuffer& document_;
   Platform& platform_;
@@ -58,6 +58,6 @@ void FindPrimitively(TextBuffer& document, Platform& platform);
 // The first term of a search: the selected text, otherwise "Text".
 std::string DefaultTerm(const TextBuffer& document);
 
-void TellNothingFound(Platform& platform);
+void ReportNothingFound(Platform& platform);
 
 }  // namespace pelmar

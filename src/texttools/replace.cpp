@@ -36,7 +36,7 @@ bool Replacer::Start() {
   found_pos_ = replaced_count_ = found_count_ = 0;
   if (Seek()) return true;
   found_shown = replaced_shown = std::nullopt;
-  TellNothing();
+  ReportNothing();
   return false;
 }
 
@@ -54,7 +54,7 @@ void Replacer::Replace() {
 }
 
 void Replacer::SeekOn() {
-  if (!Seek()) TellNothing();
+  if (!Seek()) ReportNothing();
 }
 
 bool Replacer::Seek() {
@@ -67,9 +67,9 @@ bool Replacer::Seek() {
   return true;
 }
 
-void Replacer::TellNothing() {
+void Replacer::ReportNothing() {
   if (before_message) before_message();
-  TellNothingFound(platform_);
+  ReportNothingFound(platform_);
   case_on = lists_on = find_on = change_on = true;
   step_on = false;  // required: Command6 stays on
   if (document_.HasSelection()) find = document_.SelText();

@@ -48,7 +48,7 @@ class Replacer {
  private:
   bool Seek();
   void SeekOn();
-  void TellNothing();
+  void ReportNothing();
 
   TextBuffer& document_;
   Platform& platform_;

@@ -30,7 +30,7 @@ std::string KeptTwiceMessage(int page) {
   return "Poznámku " + std::to_string(page) + " mezitím změnila i jiná kopie programu. Uložena jsou obě znění.";
 }
 
-bool TellsOfMove(const QEvent& event) {
+bool IsMoveOrResize(const QEvent& event) {
   switch (event.type()) {
     case QEvent::Move:
     case QEvent::Resize:
@@ -109,7 +109,7 @@ Poznamka::Rescue::Rescue(Poznamka& notes)
                                    .kept = "Neuložené poznámky",
                                    .next_time = "Příští otevření poznámek je nabídne zpět.",
                                    .rest_name = "notes-rescued.txt",
-                                   .rest_told = "Všechny stránky se do poznámek nevešly. Zbylé jsou v souboru"}),
+                                   .rest_message = "Všechny stránky se do poznámek nevešly. Zbylé jsou v souboru"}),
       notes_(notes) {}
 
 RescueRecord Poznamka::Rescue::Unsaved() const { return NotesToKeep(notes_.stored_, notes_.Now(), notes_.page_); }
@@ -231,12 +231,12 @@ void Poznamka::SetPace() {
 }
 
 bool Poznamka::event(QEvent* event) {
-  if (TellsOfMove(*event)) Wake();
+  if (IsMoveOrResize(*event)) Wake();
   return QWidget::event(event);
 }
 
 bool Poznamka::eventFilter(QObject* watched, QEvent* event) {
-  if (TellsOfMove(*event)) Wake();
+  if (IsMoveOrResize(*event)) Wake();
   return QWidget::eventFilter(watched, event);
 }
 

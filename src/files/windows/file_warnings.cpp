@@ -28,21 +28,21 @@ FileWarnings::FileWarnings(MainWindow& window, Editor& editor, const OutsideChan
       window_(window),
       documents_(editor.documents),
       outside_(outside),
-      heard_{editor.documents.tab_selected.Add([this](int) {
-               WarnOfOutside(outside_.OfCurrent());
-               WarnOfName();
-               WarnOfFormat(false);
-             }),
-             editor.documents.face_changed.Add([this](int) {
-               WarnOfOutside(OutsideChange::kNone);
-               WarnOfName();
-               WarnOfFormat(false);
-             }),
-             editor.text.OnChange([this](const TextChange&) {
-               WarnOfOutside(OutsideChange::kNone);
-               WarnOfFormat(true);
-               WarnOfLength();
-             })} {
+      listenings_{editor.documents.tab_selected.Add([this](int) {
+                    WarnOfOutside(outside_.OfCurrent());
+                    WarnOfName();
+                    WarnOfFormat(false);
+                  }),
+                  editor.documents.face_changed.Add([this](int) {
+                    WarnOfOutside(OutsideChange::kNone);
+                    WarnOfName();
+                    WarnOfFormat(false);
+                  }),
+                  editor.text.OnChange([this](const TextChange&) {
+                    WarnOfOutside(OutsideChange::kNone);
+                    WarnOfFormat(true);
+                    WarnOfLength();
+                  })} {
   window.installEventFilter(this);
 }
 

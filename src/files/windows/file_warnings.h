@@ -30,7 +30,7 @@ class FileWarnings : public QObject {
   MainWindow& window_;
   const Documents& documents_;
   const OutsideChanges& outside_;
-  std::array<Listening, 3> heard_;
+  std::array<Listening, 3> listenings_;
 };
 
 }  // namespace pelmar

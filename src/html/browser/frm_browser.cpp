@@ -200,10 +200,10 @@ void FrmBrowser::View_Progress(qint64 progress, qint64 maximum) {
 void FrmBrowser::ShowEncoding() {
   // Reads only regular files, since others may block.
   QFile file(view_->LocationAddress().toLocalFile());
-  const bool told = QFileInfo(file).isFile() && file.open(QIODevice::ReadOnly) &&
-                    IsUndeclaredUtf8(file.read(kLongestPage).toStdString());
-  encoding_->setText(told ? QStringLiteral("Stránka je v UTF-8 a neuvádí to: převede ji Konverze dos - unix")
-                          : QString());
+  const bool undeclared = QFileInfo(file).isFile() && file.open(QIODevice::ReadOnly) &&
+                          IsUndeclaredUtf8(file.read(kLongestPage).toStdString());
+  encoding_->setText(undeclared ? QStringLiteral("Stránka je v UTF-8 a neuvádí to: převede ji Konverze dos - unix")
+                                : QString());
 }
 
 void FrmBrowser::View_Finished() {

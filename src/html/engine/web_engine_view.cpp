@@ -68,8 +68,8 @@ void WebEngineView::MakePage(PageSide side) {
 }
 
 void WebEngineView::ConnectPage() {
-  connect(page_.get(), &QWebEnginePage::loadStarted, this, &WebEngineView::TellChange);
-  connect(page_.get(), &QWebEnginePage::titleChanged, this, &WebEngineView::TellChange);
+  connect(page_.get(), &QWebEnginePage::loadStarted, this, &WebEngineView::ReportChange);
+  connect(page_.get(), &QWebEnginePage::titleChanged, this, &WebEngineView::ReportChange);
   connect(page_.get(), &QWebEnginePage::loadProgress, this, [this](int percent) {
     if (on_progress) on_progress(percent, 100);
   });
@@ -180,7 +180,7 @@ void WebEngineView::LoadFromNet() {
   });
 }
 
-void WebEngineView::TellChange() {
+void WebEngineView::ReportChange() {
   if (on_change) on_change();
 }
 

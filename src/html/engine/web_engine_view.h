@@ -52,7 +52,7 @@ class WebEngineView : public QObject, public WebView {
   void Answered();
   void EndProcess(std::function<void()> then);
   void ProcessEnded();
-  void TellChange();
+  void ReportChange();
   void Finished();
   void ShowMenu(const QPoint& at);
 

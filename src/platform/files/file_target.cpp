@@ -97,7 +97,7 @@ WriteOutcome WriteInPlace(const Target& target, const NewContent& content, const
   if (const int error = kept.Keep(file.Number(), target.path, keep_folder)) return {.error = error};
   const int error = Overwrite(file.Number(), content, kept);
   if (error != 0 && kept.PutBack(file.Number()) != 0) {
-    MarkAsTold(kept.Path());
+    MarkAsReported(kept.Path());
     return {.error = error, .kept = kept.Path()};
   }
   kept.Remove();

@@ -62,7 +62,7 @@ std::vector<std::string> FindLeftContents(const std::string& folder) {
   return found;
 }
 
-void MarkAsTold(const std::string& path) {
+void MarkAsReported(const std::string& path) {
   struct stat state {};
   if (stat(path.c_str(), &state) == 0) chmod(path.c_str(), state.st_mode & 07777 & ~kWritable);
 }

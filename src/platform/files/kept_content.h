@@ -31,6 +31,6 @@ class KeptContent {
 std::vector<std::string> FindLeftContents(const std::string& folder);
 
 // Makes the copy read-only, which marks the copy as known to the person.
-void MarkAsTold(const std::string& path);
+void MarkAsReported(const std::string& path);
 
 }  // namespace pelmar

@@ -113,7 +113,7 @@ std::string QtPlatform::InstallFolder() {
   return install_folder_.path;
 }
 
-void QtPlatform::TellOfRefusedFolder() {
+void QtPlatform::ReportRefusedFolder() {
   InstallFolder();
   const std::string notice = InstallFolderNotice(install_folder_);
   if (!notice.empty()) Message(MessageType::kOkInfo, notice, "Pelmar VEX");

@@ -61,7 +61,7 @@ class QtPlatform : public Platform {
   void SetBusyPointer(bool busy, BusyLook look) override;
 
   // Reports the folder that is used instead if the install folder can't be created.
-  void TellOfRefusedFolder();
+  void ReportRefusedFolder();
 
   // Waits for background work. Call before an exit that skips destructors.
   void FinishBackgroundWork();

@@ -203,17 +203,17 @@ void RescueKeeper::Offer() {
   owed_.files = std::move(files);
   // Texts without a place, or refused by the person, stay readable in a text file until the next rescue.
   owed_.rest = content_.Readable(left);
-  owed_.tell = wanted && !left.empty();
+  owed_.report_rest = wanted && !left.empty();
   WriteAndWait();
   ReportRest();
 }
 
 void RescueKeeper::ReportRest() {
-  if (!owed_.tell || !owed_.files.empty()) return;
-  owed_.tell = false;
+  if (!owed_.report_rest || !owed_.files.empty()) return;
+  owed_.report_rest = false;
   platform_.Message(
       MessageType::kOkInfo,
-      std::string(content_.words.rest_told) + "\r\n" + JoinPath(platform_.InstallFolder(), content_.words.rest_name),
+      std::string(content_.words.rest_message) + "\r\n" + JoinPath(platform_.InstallFolder(), content_.words.rest_name),
       "Záchrana");
 }
 

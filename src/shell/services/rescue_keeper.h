@@ -48,8 +48,8 @@ class RescueKeeper : public QObject {
   struct Owed {
     LockFile offer;
     std::vector<std::string> files;
-    std::string rest;   // the texts to write into a text file for a person
-    bool tell = false;  // report the text file after it is written
+    std::string rest;          // the texts to write into a text file for a person
+    bool report_rest = false;  // report the text file after it is written
   };
 
   [[nodiscard]] std::optional<RescueRecord> CopyUnsaved() const;

@@ -320,7 +320,7 @@ TEST(KeptContent, OfAKilledSaveIsFoundUntilItIsTold) {
   folder.Put("puvodni-vydani.txt", "");
   const std::vector<std::string> left = {folder.Put("puvodni-abcdef", ""), folder.Put("puvodni-killed-a.txt", "")};
   EXPECT_EQ(FindLeftContents(folder.File("")), left);
-  for (const std::string& path : left) MarkAsTold(path);
+  for (const std::string& path : left) MarkAsReported(path);
   EXPECT_TRUE(FindLeftContents(folder.File("")).empty());
 }
 

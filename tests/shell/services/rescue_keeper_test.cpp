@@ -115,7 +115,7 @@ TEST_F(RescueKeeperTest, AnErrorThatEndsTheProgramIsToldWithWhatWasKept) {
       program.Main().Text().Buffer().Type(typed);
       throw RuntimeError(5, "Chyba");
     } catch (const RuntimeError& error) {
-      program.TellRuntimeError(error);
+      program.ReportRuntimeError(error);
     }
     return platform.TakeCalls();
   };

@@ -40,7 +40,7 @@ FileList::FileList(QWidget* parent)
   setEditTriggers(NoEditTriggers);
   ChooseFirstByArrows(this);
   connect(this, &QListView::clicked, this, [this] {
-    if (!click_told_) Q_EMIT FileClicked();
+    if (!click_emitted_) Q_EMIT FileClicked();
   });
   connect(this, &QListView::doubleClicked, this, &FileList::FileActivated);
   settle_.setSingleShot(true);
@@ -125,18 +125,18 @@ void FileList::Watch(bool watch) {
 void FileList::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
   QListView::selectionChanged(selected, deselected);
   if (by_program_ || selected.isEmpty()) return;
-  click_told_ = true;
+  click_emitted_ = true;
   Q_EMIT FileClicked();
 }
 
 void FileList::mousePressEvent(QMouseEvent* event) {
-  click_told_ = false;
+  click_emitted_ = false;
   QListView::mousePressEvent(event);
 }
 
 void FileList::mouseDoubleClickEvent(QMouseEvent* event) {
   // Otherwise the release would emit FileClicked after FileActivated.
-  click_told_ = true;
+  click_emitted_ = true;
   QListView::mouseDoubleClickEvent(event);
 }
 

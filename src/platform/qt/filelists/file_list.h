@@ -64,7 +64,7 @@ class FileList : public QListView {
   QTimer settle_;      // runs from a change of the folder until the folder is read again
   bool read_ = false;  // false until the list is first shown or a name is set, so that earlier settings cost nothing
   bool by_program_ = false;
-  bool click_told_ = false;  // the current mouse press has changed the selection, which has emitted FileClicked
+  bool click_emitted_ = false;  // the current mouse press has changed the selection, which has emitted FileClicked
 };
 
 }  // namespace pelmar

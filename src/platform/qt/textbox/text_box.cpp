@@ -35,7 +35,7 @@ TextBox::TextBox(QWidget* parent)
       blink_([this] { viewport()->update(shown_caret_); }),
       mouse_(*this),
       drop_(*this),
-      teller_(std::make_unique<TextBoxTeller>(*this)) {
+      notifier_(std::make_unique<TextBoxNotifier>(*this)) {
   InstallFace<TextBox, TextBoxAccessible>();
   setFocusPolicy(Qt::WheelFocus);
   setAttribute(Qt::WA_InputMethodEnabled);
@@ -58,7 +58,7 @@ void TextBox::UseBuffer(TextBuffer& buffer) {
   moves_ = buffer.OnSelection([this] { FollowSelection(); });
   mover_.Forget();
   composer_.Clear();
-  teller_->Forget();
+  notifier_->Forget();
   shown_selection_ = {buffer.SelStart(), buffer.SelEnd()};
   shown_revision_ = buffer.Revision();
   view_->Show(buffer);
@@ -129,7 +129,7 @@ void TextBox::FollowChange(const TextChange& change) {
 void TextBox::ShowChange(const TextChange& change) {
   if (shown_revision_ + 1 != buffer_->Revision()) {
     view_->Invalidate();
-    teller_->Forget();
+    notifier_->Forget();
   }
   shown_revision_ = buffer_->Revision();
   mover_.Forget();
@@ -139,7 +139,7 @@ void TextBox::ShowChange(const TextChange& change) {
   }
   const bool selected = shown_selection_.begin != shown_selection_.end || buffer_->HasSelection();
   shown_selection_ = {buffer_->SelStart(), buffer_->SelEnd()};
-  teller_->Changed(change);
+  notifier_->Changed(change);
   if (!Showing()) return view_->Invalidate();
 
   const std::int64_t width = view_->RawLayout().ContentWidth();
@@ -164,7 +164,7 @@ void TextBox::FollowSelection() {
   }
   shown_selection_ = selection;
   ShowCaretAnew();
-  teller_->CaretMoved();
+  notifier_->CaretMoved();
   Q_EMIT SelectionChanged();
 }
 

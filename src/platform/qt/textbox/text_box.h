@@ -22,7 +22,7 @@
 
 namespace pelmar {
 
-class TextBoxTeller;
+class TextBoxNotifier;
 
 class TextBox : public QAbstractScrollArea {
   Q_OBJECT
@@ -175,7 +175,7 @@ class TextBox : public QAbstractScrollArea {
   TextMouse mouse_;
   TextDrop drop_;
   TextComposer composer_;
-  std::unique_ptr<TextBoxTeller> teller_;
+  std::unique_ptr<TextBoxNotifier> notifier_;
   std::optional<TextPlace> drop_place_;
   std::uint64_t shown_revision_ = 0;
   TextSpan shown_selection_;

@@ -144,50 +144,50 @@ void TextBoxAccessible::replaceText(int start, int end, const QString& text) {
   box_.Buffer().Replace(from, to - from, PageText(text));
 }
 
-void TextBoxTeller::Forget() {
-  told_.clear();
-  told_.shrink_to_fit();
+void TextBoxNotifier::Forget() {
+  known_text_.clear();
+  known_text_.shrink_to_fit();
   knows_text_ = false;
 }
 
-void TextBoxTeller::Changed(const TextChange& change) {
-  if (!IsHeard()) {
+void TextBoxNotifier::Changed(const TextChange& change) {
+  if (!IsActive()) {
     if (knows_text_) Forget();
     return;
   }
   const std::string_view text = box_.Buffer().Text();
   const std::string_view inserted = text.substr(change.pos, change.inserted);
   if (knows_text_) {
-    const std::string_view removed = std::string_view(told_).substr(change.pos, change.removed);
+    const std::string_view removed = std::string_view(known_text_).substr(change.pos, change.removed);
     const int pos = static_cast<int>(change.pos);
     QAccessibleTextUpdateEvent event(&box_, pos, TextToQString(removed), TextToQString(inserted));
     event.setCursorPosition(static_cast<int>(box_.Buffer().Caret()));
     Send(event);
-    told_.replace(change.pos, change.removed, inserted);
+    known_text_.replace(change.pos, change.removed, inserted);
   } else {
-    told_ = text;
+    known_text_ = text;
     knows_text_ = true;
     QAccessibleTextInsertEvent event(&box_, static_cast<int>(change.pos), TextToQString(inserted));
     event.setCursorPosition(static_cast<int>(box_.Buffer().Caret()));
     Send(event);
   }
-  TellCaret();
+  NotifyCaret();
 }
 
-void TextBoxTeller::CaretMoved() {
-  if (!IsHeard()) return;
+void TextBoxNotifier::CaretMoved() {
+  if (!IsActive()) return;
   if (!knows_text_) {
-    told_ = box_.Buffer().Text();
+    known_text_ = box_.Buffer().Text();
     knows_text_ = true;
   }
   QAccessibleTextSelectionEvent selection(&box_, box_.SelStart(), box_.SelStart() + box_.SelLength());
   selection.setCursorPosition(static_cast<int>(box_.Buffer().Caret()));
   Send(selection);
-  TellCaret();
+  NotifyCaret();
 }
 
 // Sent separately, since magnifiers and braille displays ignore the caret position in text events.
-void TextBoxTeller::TellCaret() {
+void TextBoxNotifier::NotifyCaret() {
   QAccessibleTextCursorEvent caret(&box_, static_cast<int>(box_.Buffer().Caret()));
   Send(caret);
 }

@@ -48,10 +48,10 @@ class TextBoxAccessible : public QAccessibleWidget,
 };
 
 // Notifies assistive technology of changes, if there is any.
-class TextBoxTeller {
+class TextBoxNotifier {
  public:
-  explicit TextBoxTeller(TextBox& box) : box_(box) {}
-  virtual ~TextBoxTeller() = default;
+  explicit TextBoxNotifier(TextBox& box) : box_(box) {}
+  virtual ~TextBoxNotifier() = default;
 
   void Changed(const TextChange& change);
   void CaretMoved();
@@ -59,14 +59,14 @@ class TextBoxTeller {
   void Forget();
 
  protected:
-  [[nodiscard]] virtual bool IsHeard() const { return QAccessible::isActive(); }
+  [[nodiscard]] virtual bool IsActive() const { return QAccessible::isActive(); }
   virtual void Send(QAccessibleEvent& event) { QAccessible::updateAccessibility(&event); }
 
  private:
-  void TellCaret();
+  void NotifyCaret();
 
   TextBox& box_;
-  std::string told_;  // the text at the last notification, since a notification contains the removed text
+  std::string known_text_;  // the text at the last notification, since a notification contains the removed text
   bool knows_text_ = false;
 };
 

@@ -122,13 +122,13 @@ void MainWindow::FollowDocuments() {
     setWindowTitle(PlainTitle(editor_.documents.Title()));
     for (int tab = 1; tab <= kTabCount; ++tab) tabs_->SetUnsaved(tab, editor_.documents.IsUnsaved(tab));
   };
-  heard_ = {documents.title_changed.Add(show_title),
-            documents.face_changed.Add([this](int tab) { tabs_->SetFace(tab, editor_.documents.Face(tab)); }),
-            documents.tab_selected.Add([this, show_title](int tab) {
-              tabs_->setCurrentIndex(tab - 1);
-              show_title();
-            }),
-            files_.recent.changed.Add([this] { toolbar_->ShowRecentFiles(); })};
+  listenings_ = {documents.title_changed.Add(show_title),
+                 documents.face_changed.Add([this](int tab) { tabs_->SetFace(tab, editor_.documents.Face(tab)); }),
+                 documents.tab_selected.Add([this, show_title](int tab) {
+                   tabs_->setCurrentIndex(tab - 1);
+                   show_title();
+                 }),
+                 files_.recent.changed.Add([this] { toolbar_->ShowRecentFiles(); })};
   show_title();
 }
 
@@ -346,9 +346,9 @@ void MainWindow::OpenDropped(std::vector<std::string> paths) {
   const std::vector<std::string> refused(nameless, paths.end());
   paths.erase(nameless, paths.end());
   if (refused.size() == 1) {
-    Tell("Soubor " + refused.front() + " nemá příponu, nelze ho otevřít.");
+    Report("Soubor " + refused.front() + " nemá příponu, nelze ho otevřít.");
   } else if (!refused.empty()) {
-    Tell("Soubory bez přípony nelze otevřít:" + ListOf(refused));
+    Report("Soubory bez přípony nelze otevřít:" + ListOf(refused));
   }
   if (paths.empty() || !editor_.platform.Confirmed("Opravdu otevřít soubor ?", "Soubor")) return;
   // The first file replaces the current document; the others open only in empty tabs.
@@ -356,13 +356,13 @@ void MainWindow::OpenDropped(std::vector<std::string> paths) {
   files_.opener.OpenPath(*path);
   while (++path != paths.end()) {
     const int tab = editor_.documents.EmptyTab();
-    if (tab == 0) return Tell("Není volná záložka, neotevřeny zůstaly soubory:" + ListOf({path, paths.end()}));
+    if (tab == 0) return Report("Není volná záložka, neotevřeny zůstaly soubory:" + ListOf({path, paths.end()}));
     editor_.documents.SwitchTo(tab);
     files_.opener.OpenPath(*path);
   }
 }
 
-void MainWindow::Tell(const std::string& text) { editor_.platform.Message(MessageType::kOk, text, "Soubor"); }
+void MainWindow::Report(const std::string& text) { editor_.platform.Message(MessageType::kOk, text, "Soubor"); }
 
 void MainWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);

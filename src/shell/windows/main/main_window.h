@@ -79,7 +79,7 @@ class MainWindow : public QMainWindow, public MainView {
   void AddViewCommands();
   void FollowDocuments();
   void OpenDropped(std::vector<std::string> paths);
-  void Tell(const std::string& text);
+  void Report(const std::string& text);
   void ToggleBar(std::string_view item, QWidget* bar);
   void ToggleAlwaysOnTop();
   void FitToFrame();
@@ -89,7 +89,7 @@ class MainWindow : public QMainWindow, public MainView {
 
   Editor& editor_;
   Files& files_;
-  std::vector<Listening> heard_;
+  std::vector<Listening> listenings_;
   TextBuffer nothing_;  // the empty text shown while the text is hidden
   QPoint scrolled_;     // the scroll position before the text was hidden
   QWidget* client_ = nullptr;

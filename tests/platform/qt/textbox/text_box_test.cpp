@@ -334,9 +334,9 @@ TEST_F(TextBoxTest, InputMethodsSeeTheTextAroundTheCaretOnly) {
 }
 
 // A screen reader that knows the text by what it is told alone. No test platform has one at work.
-struct Reader : TextBoxTeller {
-  using TextBoxTeller::TextBoxTeller;
-  bool IsHeard() const override { return true; }
+struct Reader : TextBoxNotifier {
+  using TextBoxNotifier::TextBoxNotifier;
+  bool IsActive() const override { return true; }
   void Send(QAccessibleEvent& event) override {
     if (const auto* update = dynamic_cast<QAccessibleTextUpdateEvent*>(&event)) {
       const auto removed = update->textRemoved().size();
