@@ -4,7 +4,7 @@
 #include "accessories/windows/analytic.h"
 #include "accessories/windows/poznamka.h"
 #include "platform/qt/application.h"
-#include "platform/qt/frames/asker.h"
+#include "platform/qt/frames/dialog_parent.h"
 #include "shell/services/program_parts.h"
 #include "shell/windows/main/main_window.h"
 

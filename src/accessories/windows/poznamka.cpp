@@ -6,7 +6,7 @@
 #include "platform/qt/controls/accessible_face.h"
 #include "platform/qt/controls/tab_keys.h"
 #include "platform/qt/convert.h"
-#include "platform/qt/frames/asker.h"
+#include "platform/qt/frames/dialog_parent.h"
 #include "platform/qt/frames/outer_geometry.h"
 #include "platform/qt/frames/placement.h"
 #include "platform/qt/frames/svg_icon.h"
@@ -48,7 +48,7 @@ bool IsMoveOrResize(const QEvent& event) {
 Poznamka::Poznamka(Surroundings around) : around_(std::move(around)), ui_(std::make_unique<Ui::Poznamka>()) {
   ui_->setupUi(this);
   SetAccessibleRole(*this, QAccessible::Window);
-  ShowOnAskersScreen(*this);
+  ShowOnParentsScreen(*this);
   CentreOnScreen(*this);
   SetAlwaysOnTop(*this, true);
   ui_->Text1->setFont(FontOf(around_.main.Look()));

@@ -14,7 +14,7 @@
 #include "platform/qt/controls/accessible_face.h"
 #include "platform/qt/controls/elided_label.h"
 #include "platform/qt/convert.h"
-#include "platform/qt/frames/asker.h"
+#include "platform/qt/frames/dialog_parent.h"
 #include "platform/qt/frames/outer_geometry.h"
 #include "platform/qt/frames/placement.h"
 #include "platform/qt/frames/svg_icon.h"
@@ -273,7 +273,7 @@ void FrmBrowser::closeEvent(QCloseEvent* event) {
 void FrmBrowser::showEvent(QShowEvent* event) {
   if (!centred_ && !event->spontaneous()) {
     centred_ = true;
-    ShowOnAskersScreen(*this);
+    ShowOnParentsScreen(*this);
     CentreOnScreen(*this);
   }
   QMainWindow::showEvent(event);

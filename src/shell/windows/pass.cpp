@@ -4,7 +4,7 @@
 #include <QPointer>
 
 #include "platform/qt/convert.h"
-#include "platform/qt/frames/asker.h"
+#include "platform/qt/frames/dialog_parent.h"
 #include "shell/windows/other_windows.h"
 #include "ui_pass.h"
 
@@ -21,12 +21,12 @@ void Pass::Run() {
   ui_->Text1->clear();
   ui_->Text1->setFocus();
   hide_text_(true);
-  const QPointer<QWidget> asker = Asker();
+  const QPointer<QWidget> parent = DialogParent();
   {
     const OtherWindowsAway away({this, parentWidget()});
     exec();
   }
-  ExpectActive(asker);  // possible now that the other windows are visible
+  ExpectActive(parent);  // possible now that the other windows are visible
   hide_text_(false);
 }
 

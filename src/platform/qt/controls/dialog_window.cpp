@@ -20,7 +20,7 @@
 
 #include "platform/qt/controls/accessible_face.h"
 #include "platform/qt/controls/scrolled_contents.h"
-#include "platform/qt/frames/asker.h"
+#include "platform/qt/frames/dialog_parent.h"
 #include "platform/qt/frames/outer_geometry.h"
 #include "platform/qt/frames/placement.h"
 #include "platform/qt/frames/program_style.h"
@@ -121,13 +121,13 @@ void DialogWindow::Present() {
 }
 
 int DialogWindow::exec() {
-  const QPointer<QWidget> asker = Asker();
-  if (prepared_ && asker && asker->screen() != screen()) {
-    ShowOnAskersScreen(*this);
+  const QPointer<QWidget> parent = DialogParent();
+  if (prepared_ && parent && parent->screen() != screen()) {
+    ShowOnParentsScreen(*this);
     CentreOnScreen(*this);
   }
   const int result = QDialog::exec();
-  ExpectActive(asker);
+  ExpectActive(parent);
   return result;
 }
 
@@ -211,7 +211,7 @@ void DialogWindow::Prepare() {
   first_field_ = focusWidget();
   for (QWidget* next = this; !first_field_ && (next = next->nextInFocusChain()) != this;)
     if (TakesTab(*next, *this) && !qobject_cast<QTabBar*>(next)) first_field_ = next;
-  ShowOnAskersScreen(*this);
+  ShowOnParentsScreen(*this);
   FitInto(RoomOnScreen(*this));
   CentreOnScreen(*this);
   LabelBoxes(*this);

@@ -15,7 +15,7 @@
 #include <functional>
 
 #include "platform/qt/convert.h"
-#include "platform/qt/frames/asker.h"
+#include "platform/qt/frames/dialog_parent.h"
 #include "platform/qt/frames/outer_geometry.h"
 #include "platform/qt/frames/svg_icon.h"
 #include "platform/qt/line_edits.h"
@@ -65,17 +65,17 @@ class PasteFilter : public QObject {
 // A dialog that asks. The dialog is a child of the asking window. If this window is deleted, the dialog is deleted too,
 // even while the dialog waits.
 template <typename Dialog>
-class Asking {
+class ModalDialog {
  public:
-  Asking() : asker_(Asker()), dialog_(new Dialog(asker_)) {
+  ModalDialog() : parent_(DialogParent()), dialog_(new Dialog(parent_)) {
     ShowProgramIcon();
     PutAboveAll(*dialog_);
   }
-  Asking(const Asking&) = delete;
-  Asking& operator=(const Asking&) = delete;
-  ~Asking() {
+  ModalDialog(const ModalDialog&) = delete;
+  ModalDialog& operator=(const ModalDialog&) = delete;
+  ~ModalDialog() {
     delete dialog_.data();
-    ExpectActive(asker_);
+    ExpectActive(parent_);
   }
   Dialog* operator->() const { return dialog_.data(); }
   Dialog& operator*() const { return *dialog_; }
@@ -87,7 +87,7 @@ class Asking {
   }
 
  private:
-  QPointer<QWidget> asker_;
+  QPointer<QWidget> parent_;
   QPointer<Dialog> dialog_;
 };
 
@@ -140,7 +140,7 @@ QMessageBox::Icon IconOf(MessageType type) {
 
 // Returns the pressed standard button.
 int Show(const QString& text, const QString& title, const std::function<void(Box&)>& equip) {
-  Asking<Box> box;
+  ModalDialog<Box> box;
   box->setWindowTitle(title);
   box->setTextFormat(Qt::PlainText);
   box->setText(text);
@@ -173,7 +173,7 @@ void ShowAbout(const QString& title, const QString& text) {
 }
 
 std::optional<QString> AskForText(const QString& prompt, const QString& title, const QString& initial) {
-  Asking<QInputDialog> dialog;
+  ModalDialog<QInputDialog> dialog;
   dialog->setWindowTitle(title);
   dialog->setLabelText(prompt);
   dialog->setInputMode(QInputDialog::TextInput);
@@ -201,7 +201,7 @@ QStringList NameFilters(const QString& filter) {
 
 std::optional<QString> AskForFile(FileDialogKind kind, const QString& filter, int filter_index, QString& folder) {
   const QStringList filters = NameFilters(filter);
-  Asking<FileDialog> dialog;
+  ModalDialog<FileDialog> dialog;
   if (!folder.isEmpty()) dialog->setDirectory(folder);
   // Show names only: in the detailed view the columns are too narrow and their titles are not in Czech.
   dialog->setViewMode(QFileDialog::List);

@@ -7,9 +7,9 @@ class QWidget;
 namespace pelmar {
 
 // The window that is active or soon will be, otherwise the main window. Null if there is no such window.
-QWidget* Asker();
+QWidget* DialogParent();
 
-// Activates the window. Asker returns this window even before the window manager has activated it.
+// Activates the window. DialogParent returns this window even before the window manager has activated it.
 void ExpectActive(QWidget* window);
 
 // Whether the program shows a window that stays on top. Dialogs don't count, since PutAboveAll puts them on top.
@@ -18,6 +18,6 @@ bool HasWindowOnTop();
 void PutAboveAll(QWidget& dialog);
 
 // Call for a window that was never shown: the window will appear on the screen of the asking window.
-void ShowOnAskersScreen(QWidget& window);
+void ShowOnParentsScreen(QWidget& window);
 
 }  // namespace pelmar

@@ -1,4 +1,4 @@
-#include "platform/qt/frames/asker.h"
+#include "platform/qt/frames/dialog_parent.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -19,7 +19,7 @@ QPointer<QWidget>& Expected() {
 
 }  // namespace
 
-QWidget* Asker() {
+QWidget* DialogParent() {
   if (QWidget* expected = Expected(); expected != nullptr && expected->isVisible()) return expected;
   if (QWidget* active = QApplication::activeWindow()) return active;
   if (QWidget* modal = QApplication::activeModalWidget()) return modal;
@@ -51,8 +51,8 @@ bool HasWindowOnTop() {
 
 void PutAboveAll(QWidget& dialog) { SetAlwaysOnTop(dialog, HasWindowOnTop()); }
 
-void ShowOnAskersScreen(QWidget& window) {
-  if (const QWidget* asker = Asker()) window.setScreen(asker->screen());
+void ShowOnParentsScreen(QWidget& window) {
+  if (const QWidget* parent = DialogParent()) window.setScreen(parent->screen());
 }
 
 }  // namespace pelmar
