@@ -14,7 +14,7 @@ Saver::Saver(Documents& documents, RecentFiles& recent, OutsideChanges& outside,
 void Saver::SaveToPath(const std::string& path) {
   if (!MayMixEncodings(path) || !MayWrite(path)) return;
   try {
-    const std::string& text = documents_.Text().Text();
+    const std::string& text = documents_.Buffer().Text();
     const WriteOutcome outcome = Write(path, text);
     if (outcome.error != 0) return ReportError(path, outcome);
     agreed_to_mix_.clear();
@@ -38,7 +38,7 @@ void Saver::SaveTextCopy(const std::string& path, std::string_view text) {
 }
 
 void Saver::SaveSelectionAs() {
-  TextBuffer& text = documents_.Text();
+  TextBuffer& text = documents_.Buffer();
   if (!text.HasSelection()) return;
   const auto path = platform_.SaveDialog(kDocumentFilter, kDocumentFilterIndex);
   // The selection may change while the dialog is open.
@@ -66,14 +66,14 @@ void Saver::InsertFromFile() {
     const FileBytes file = platform_.ReadFile(*path, std::nullopt);
     // required: an empty file has no field, so the command ends in silence
     if (file.error != 0 || file.bytes.empty()) return;
-    documents_.Text().ReplaceSelection(FirstField(file.bytes));
+    documents_.Buffer().ReplaceSelection(FirstField(file.bytes));
     recent_.Remember(*path);
   } catch (const RuntimeError&) {  // required: the command ends in silence
   }
 }
 
 bool Saver::MayMixEncodings(const std::string& path) {
-  if (path == agreed_to_mix_ || !MixesEncodings(documents_.Text().Text())) return true;
+  if (path == agreed_to_mix_ || !MixesEncodings(documents_.Buffer().Text())) return true;
   if (!LooksLikeUtf8(platform_.ReadFile(path, std::nullopt).bytes)) return true;
   if (platform_.Message(MessageType::kYesNoStop, MixQuestion(path), "Soubor") != Answer::kYes) return false;
   agreed_to_mix_ = path;

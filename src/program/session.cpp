@@ -52,20 +52,21 @@ void Session::LoadText() {
     // A longer file isn't loaded. No message appears and the file stays on disk.
     FileBytes file = platform_.ReadFile(path, kLargestDocument + 1);
     if (file.error != 0) throw Unreadable(path, file.error);
-    if (file.bytes.size() <= kLargestDocument) documents_.Text().SetText(std::move(file.bytes));
+    if (file.bytes.size() <= kLargestDocument) documents_.Buffer().SetText(std::move(file.bytes));
   }
   TakeClipboard();
-  loaded_revision_ = documents_.Text().Revision();
+  loaded_revision_ = documents_.Buffer().Revision();
 }
 
 void Session::TakeClipboard() {
-  if (documents_.Text().Empty() && platform_.ClipboardContent()) documents_.Text().SetText(platform_.ClipboardText());
+  if (documents_.Buffer().Empty() && platform_.ClipboardContent())
+    documents_.Buffer().SetText(platform_.ClipboardText());
 }
 
 void Session::TakeLateClipboard() {
-  const bool touched = documents_.Text().Revision() != loaded_revision_ || documents_.SelectedTab() != 1 ||
+  const bool touched = documents_.Buffer().Revision() != loaded_revision_ || documents_.SelectedTab() != 1 ||
                        !documents_.CurrentPath().empty();
-  if (touched || !documents_.Text().Empty()) return;
+  if (touched || !documents_.Buffer().Empty()) return;
   TakeClipboard();
   documents_.ForgetPath();  // also removes the mark
 }
@@ -106,7 +107,7 @@ bool Session::Close() {
 }
 
 void Session::StoreAll() {
-  Store(kRecoveryName, documents_.Text().Text());
+  Store(kRecoveryName, documents_.Buffer().Text());
   Store(kAllFilesName, AllFilesText(documents_));
   settings_.WindowState = static_cast<std::int32_t>(view_.WindowState());
   StoreSettings();

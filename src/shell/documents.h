@@ -40,8 +40,8 @@ class Documents {
   [[nodiscard]] const std::string& CurrentPath() const { return current_path_; }
   [[nodiscard]] std::string Title() const;
   [[nodiscard]] bool Marked() const { return title_.marked; }
-  [[nodiscard]] TextBuffer& Text() { return text_; }
-  [[nodiscard]] const TextBuffer& Text() const { return text_; }
+  [[nodiscard]] TextBuffer& Buffer() { return text_; }
+  [[nodiscard]] const TextBuffer& Buffer() const { return text_; }
   [[nodiscard]] SaveTarget& Target() { return target_; }
 
   // True if closing the program would lose changes: the slot's flag is set, or the current document is marked.

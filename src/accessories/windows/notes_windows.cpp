@@ -31,13 +31,13 @@ void ShowNotes(const ProgramParts& parts) {
 void AddCheckpoints(const ProgramParts& parts) {
   TextBuffer& document = parts.editor.text;
   parts.editor.commands.Add("mnu_chp_s", [parts, &document] {
-    SaveCheckpoint(document, parts.windows.Get<Poznamka>().Text(), parts.platform);
+    SaveCheckpoint(document, parts.windows.Get<Poznamka>().Buffer(), parts.platform);
   });
   parts.editor.commands.Add("mnu_chp_v", [parts] { ShowNotes(parts); });
   parts.editor.commands.Add("mnu_chp_r", [parts, &document] {
     auto& notes = parts.windows.Get<Poznamka>();
     notes.OfferRescued();  // the rescued notes may contain the checkpoint
-    RestoreCheckpoint(notes.Text(), document, parts.platform);
+    RestoreCheckpoint(notes.Buffer(), document, parts.platform);
   });
 }
 

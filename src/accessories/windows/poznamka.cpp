@@ -78,8 +78,8 @@ void Poznamka::ConnectCommands() {
     setTabOrder(before, button);
     before = button;
   }
-  connect(ui_->Copy, &QAction::triggered, this, [this] { around_.platform.SetClipboardText(Text().SelText()); });
-  connect(ui_->Paste, &QAction::triggered, this, [this] { Text().ReplaceSelection(around_.platform.ClipboardText()); });
+  connect(ui_->Copy, &QAction::triggered, this, [this] { around_.platform.SetClipboardText(Buffer().SelText()); });
+  connect(ui_->Paste, &QAction::triggered, this, [this] { Buffer().ReplaceSelection(around_.platform.ClipboardText()); });
   connect(ui_->Close, &QAction::triggered, this, &Poznamka::close);
   connect(ui_->TabStrip1, &QTabBar::currentChanged, this, &Poznamka::TabStrip1_Click);
   AddTabKeys(*this, *ui_->TabStrip1);
@@ -93,7 +93,7 @@ void Poznamka::ConnectCommands() {
   };
 }
 
-TextBuffer& Poznamka::Text() { return ui_->Text1->Buffer(); }
+TextBuffer& Poznamka::Buffer() { return ui_->Text1->Buffer(); }
 
 void Poznamka::Present() { BringToFront(*this); }
 
@@ -128,12 +128,12 @@ std::vector<RescuedText> Poznamka::Rescue::BringBack(const std::vector<RescueRec
 
 void Poznamka::ShowPage(int page) {
   const auto caret = [this]() -> std::size_t& { return carets_[IndexFromOne(page_)]; };
-  caret() = Text().Caret();
+  caret() = Buffer().Caret();
   page_ = page;
   const QSignalBlocker quiet(ui_->TabStrip1);
   ui_->TabStrip1->setCurrentIndex(page - 1);
-  Text().SetText(record_.Page(page));
-  Text().Select(caret(), caret());
+  Buffer().SetText(record_.Page(page));
+  Buffer().Select(caret(), caret());
 }
 
 void Poznamka::TabStrip1_Click(int index) {

@@ -45,7 +45,7 @@ class Poznamka : public QWidget {
   // Offers the notes that earlier runs left unsaved, if there are any. Asks only once.
   void OfferRescued() { keeper_.Offer(); }
   // The text of the visible notes page.
-  [[nodiscard]] TextBuffer& Text();
+  [[nodiscard]] TextBuffer& Buffer();
   // Keeps unsaved notes at once. Returns the notice for the person, or "" if all notes were saved.
   std::string KeepNow() { return keeper_.NoticeOf(keeper_.KeepNow()); }
 

@@ -21,7 +21,7 @@ namespace {
 void Stroke(MainWindow& main, const QKeyEvent& key) {
   for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
     QKeyEvent stroke(type, key.key(), key.modifiers(), key.text());
-    QCoreApplication::sendEvent(&main.Text(), &stroke);
+    QCoreApplication::sendEvent(&main.Box(), &stroke);
   }
 }
 

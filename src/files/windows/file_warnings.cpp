@@ -67,7 +67,7 @@ void FileWarnings::WarnOfName() {
 }
 
 void FileWarnings::WarnOfFormat(bool changed) {
-  const std::string& text = documents_.Text().Text();
+  const std::string& text = documents_.Buffer().Text();
   std::string_view hint;
   if (outside_.CurrentWasUtf8() && MixesEncodings(text)) {
     hint = MixHint();
@@ -78,7 +78,7 @@ void FileWarnings::WarnOfFormat(bool changed) {
 }
 
 void FileWarnings::WarnOfLength() {
-  const std::size_t size = documents_.Text().Size();
+  const std::size_t size = documents_.Buffer().Size();
   window_.Bar().Warn(Warning::kTooLong, size > kLargestDocument ? TooLong(size) : QString());
 }
 

@@ -25,7 +25,7 @@ void AddTextWindows(const ProgramParts& parts) {
   const auto text = std::ref(parts.editor.text);
   const auto platform = std::ref(parts.platform);
   WindowRegistry& windows = parts.windows;
-  const auto match = [&box = parts.main.Text()] { return SelectionOnScreen(box); };
+  const auto match = [&box = parts.main.Box()] { return SelectionOnScreen(box); };
   parts.Add<Hledani>({"mnufind", "Find"}, text, platform, match);
   parts.Add<Zamena>({"mnuchange"}, text, platform, match);
   parts.Add<Vyber>({}, text);

@@ -27,7 +27,7 @@ namespace {
 struct AccessoryTest : testing::Test {
   ScriptedPlatform platform;
   Program program{platform};
-  TextBuffer& text = program.Main().Text().Buffer();
+  TextBuffer& text = program.Main().Box().Buffer();
 
   template <class Window>
   Window& Open() {
@@ -433,7 +433,7 @@ TEST_F(PoznamkaTest, KeepsFivePagesAndStoresThemAtTheEnd) {
   EXPECT_TRUE(notes->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
   const QFont font = Named(*notes, "Text1")->font();
   EXPECT_TRUE(font.pointSize() == 14 && font.bold());
-  notes->Text().Type("my ");
+  notes->Buffer().Type("my ");
   ExpectState(*notes, "TabStrip1=1", "Text1=second");
   ASSERT_TRUE(QTest::qWaitForWindowActive(notes.get()));
   QTest::keyClick(notes.get(), Qt::Key_5, Qt::AltModifier);
@@ -445,11 +445,11 @@ TEST_F(PoznamkaTest, KeepsFivePagesAndStoresThemAtTheEnd) {
     ExpectState(*notes, "", tab);
   }
   Work(*notes, "Text1='one two'");
-  notes->Text().Select(0, 3);
+  notes->Buffer().Select(0, 3);
   Work(*notes, "Copy!");
   const QString tip = notes->findChild<QAction*>(QStringLiteral("Copy"))->toolTip();
   EXPECT_EQ(tip, QStringLiteral("Kopírovat výbět"));  // required: misspelled
-  notes->Text().Select(4, 7);
+  notes->Buffer().Select(4, 7);
   ExpectState(*notes, "Paste!", "Text1='one one'");
   EXPECT_EQ(File(), NotesBytes({{"first", "second"}}));  // only the close writes
   platform.TakeCalls();
@@ -461,13 +461,13 @@ TEST_F(PoznamkaTest, KeepsFivePagesAndStoresThemAtTheEnd) {
 
 TEST_F(PoznamkaTest, AnOverlongPageIsRefusedAndTheWholeProgramAsksBehindTheWrite) {
   Open({{"first", "second"}}, StartMode::kNotes);
-  notes->Text().SetText(std::string(kLongestNote + 1, 'x'));
+  notes->Buffer().SetText(std::string(kLongestNote + 1, 'x'));
   platform.answers = {Answer::kOk, Answer::kOk};
   ExpectState(*notes, "TabStrip1=1", "TabStrip1=0");
   notes->close();
   EXPECT_TRUE(notes->isVisible() && platform.answers.empty());
   EXPECT_EQ(File(), NotesBytes({{"first", "second"}}));
-  notes->Text().EraseAfter(1);
+  notes->Buffer().EraseAfter(1);
   platform.answers = {Answer::kNo, Answer::kYes};
   platform.on_message = [this] { EXPECT_EQ(File(), NotesBytes({{std::string(kLongestNote, 'x'), "second"}})); };
   notes->close();
@@ -479,7 +479,7 @@ TEST_F(PoznamkaTest, AnOverlongPageIsRefusedAndTheWholeProgramAsksBehindTheWrite
 
 TEST_F(PoznamkaTest, WhatAnotherCopyStoredMeanwhileStays) {
   Open({{"first", "second"}}, StartMode::kNotes);
-  notes->Text().Type("my ");
+  notes->Buffer().Type("my ");
   File() = NotesBytes({{"their first", "their second", "", "x", "y"}});
   platform.answers = {Answer::kOk, Answer::kNo, Answer::kYes};
   notes->close();

@@ -97,12 +97,12 @@ TEST_F(CipherWindowsTest, TheStreamCipherIsSafeFromWhatHappensMeanwhile) {
   std::string once;
   StreamCipher(0).Append(plain, once);
   const auto after = [&](const std::function<void()>& act) {
-    program.Main().Text().Buffer().SetText(plain);
+    program.Main().Box().Buffer().SetText(plain);
     bool handled = false;
     Inside([&] { handled = (act(), true); });
     Work(dialog, "Command1!");
     EXPECT_TRUE(handled);
-    return program.Main().Text().Buffer().Text();
+    return program.Main().Box().Buffer().Text();
   };
   EXPECT_EQ(after([&] { Work(dialog, "Command1!"); }), once);
   EXPECT_EQ(after([&] { Find<QTabBar>(program.Main(), "FileTab")->setCurrentIndex(1); }), "");
@@ -118,7 +118,7 @@ TEST_F(CipherWindowsTest, TheStreamCipherIsSafeFromWhatHappensMeanwhile) {
 
 TEST_F(CipherWindowsTest, ShiftRotatesTheSelection) {
   Program program(platform);
-  TextBuffer& text = program.Main().Text().Buffer();
+  TextBuffer& text = program.Main().Box().Buffer();
   text.SetText("xabcdx");
   platform.answers = {Answer::kOk};
   Work(program.Main(), "MnuSelTextPosun!");

@@ -165,17 +165,17 @@ TEST(Clipboard, OurOwnComesBackToTheByteAndOthersTextIsReadOnceAChange) {
   for (const auto& [theirs, ours] : cases) {
     int reads = 0;
     clipboard.SetText("ours");
-    EXPECT_EQ(clipboard.Text(), "ours");
+    EXPECT_EQ(clipboard.Content(), "ours");
     QGuiApplication::clipboard()->setMimeData(new CountingMime(theirs, reads));
-    EXPECT_EQ(clipboard.Text(), ours);
+    EXPECT_EQ(clipboard.Content(), ours);
     const int reads_of_one_fetch = reads;
-    EXPECT_EQ(clipboard.Text(), ours);
+    EXPECT_EQ(clipboard.Content(), ours);
     EXPECT_EQ(reads, reads_of_one_fetch);
   }
   clipboard.Clear();
-  EXPECT_EQ(clipboard.Text(), std::nullopt);
+  EXPECT_EQ(clipboard.Content(), std::nullopt);
   clipboard.SetText("");
-  EXPECT_EQ(clipboard.Text(), "");
+  EXPECT_EQ(clipboard.Content(), "");
   QMimeData picture;
   picture.setData(QStringLiteral("image/png"), "x");
   EXPECT_EQ(TextFromMime(&picture), std::nullopt);

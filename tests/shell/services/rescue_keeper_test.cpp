@@ -44,7 +44,7 @@ TEST_F(RescueKeeperTest, KeepsAChangeWithinTwoSecondsAndTheBarSaysForAsLongAsItC
   MainWindow& window = program.Main();
   program.Run("-NOMSG");
   const auto* warning = window.Bar().findChild<QLabel*>(QStringLiteral("Warning"));
-  const auto type = [&](const char* more) { window.Text().Buffer().Type(more); };
+  const auto type = [&](const char* more) { window.Box().Buffer().Type(more); };
   type("a");
   ASSERT_TRUE(QTest::qWaitFor([&] { return !platform.calls.empty(); }, 2000));
   const std::string own = platform.calls.back().substr(6);
@@ -98,7 +98,7 @@ TEST_F(RescueKeeperTest, WhatTheStartTakesFromTheClipboardIsNobodysWork) {
   platform.clipboard = "secret";
   Program program(platform);
   InDialog<Config>([&](Config& config) {
-    EXPECT_EQ(program.Main().Text().Buffer().Text(), "secret");
+    EXPECT_EQ(program.Main().Box().Buffer().Text(), "secret");
     program.KeepUnsaved();
     EXPECT_TRUE(FolderIsEmpty());
     config.hide();
@@ -112,7 +112,7 @@ TEST_F(RescueKeeperTest, AnErrorThatEndsTheProgramIsToldWithWhatWasKept) {
     platform.answers = {Answer::kOk};
     try {
       program.Run(tail);
-      program.Main().Text().Buffer().Type(typed);
+      program.Main().Box().Buffer().Type(typed);
       throw RuntimeError(5, "Chyba");
     } catch (const RuntimeError& error) {
       program.ReportRuntimeError(error);

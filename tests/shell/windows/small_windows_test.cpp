@@ -66,7 +66,7 @@ TEST_F(SmallWindows, AStartAndACloseLeaveTheSettingsAsTheyWere) {
   EXPECT_TRUE(ReadSettings(settings) == stored);
   for (const Qt::AlignmentFlag alignment : {Qt::AlignRight, Qt::AlignHCenter, Qt::AlignLeft}) {
     main.NextAlignment();
-    EXPECT_EQ(main.Text().Alignment(), alignment);
+    EXPECT_EQ(main.Box().Alignment(), alignment);
   }
 }
 
@@ -218,7 +218,7 @@ QString Heard(QAccessibleInterface* face = QAccessible::queryAccessibleInterface
 // neither the text nor any window that shows a part of it.
 struct LockTest : SmallWindows {
   LockTest() {
-    PutMarked(main.Text().Buffer(), "the [secret| text");
+    PutMarked(main.Box().Buffer(), "the [secret| text");
     main.activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&main));
   }
@@ -227,7 +227,7 @@ struct LockTest : SmallWindows {
     const QWidgetList windows = QApplication::topLevelWidgets();
     return (Heard().contains(QStringLiteral("secret")) ? "heard, " : "") +
            std::to_string(std::ranges::count_if(windows, &QWidget::isVisible)) + " windows, text " +
-           (main.Text().isVisible() ? "on" : "off") + ": " + main.Text().Text().toStdString() + ", " +
+           (main.Box().isVisible() ? "on" : "off") + ": " + main.Box().Text().toStdString() + ", " +
            State(main, "Panel1 Panel4");
   }
   // Closes the lock, acts, and opens it.
@@ -268,11 +268,11 @@ TEST_F(LockTest, NothingIsSeenOrHeardAndAllComesBack) {
 }
 
 TEST_F(LockTest, NothingReachesTheText) {
-  for (int line = 0; line < 900; ++line) main.Text().Buffer().Replace(0, 0, "line\r\n");
-  main.Text().verticalScrollBar()->setValue(500);  // the caret is out of sight
-  const std::string text = Marked(main.Text().Buffer());
+  for (int line = 0; line < 900; ++line) main.Box().Buffer().Replace(0, 0, "line\r\n");
+  main.Box().verticalScrollBar()->setValue(500);  // the caret is out of sight
+  const std::string text = Marked(main.Box().Buffer());
   WhileLocked([&] {
-    for (QWidget* target : {static_cast<QWidget*>(&main), static_cast<QWidget*>(&main.Text())}) {
+    for (QWidget* target : {static_cast<QWidget*>(&main), static_cast<QWidget*>(&main.Box())}) {
       QWindow* window = target->window()->windowHandle();
       QTest::keyClick(window, Qt::Key_X);
       QTest::keyClick(window, Qt::Key_T, Qt::ControlModifier);  // a menu's shortcut
@@ -292,8 +292,8 @@ TEST_F(LockTest, NothingReachesTheText) {
     EXPECT_TRUE(lock.isVisible());
     ExpectState(lock, "", "Text1=");
   });
-  EXPECT_EQ(Marked(main.Text().Buffer()), text);
-  EXPECT_EQ(main.Text().verticalScrollBar()->value(), 500);
+  EXPECT_EQ(Marked(main.Box().Buffer()), text);
+  EXPECT_EQ(main.Box().verticalScrollBar()->value(), 500);
   EXPECT_EQ(platform.TakeTold(), "message 64 \"Špatné helso!\" \"Zámek\"; ");
 }
 

@@ -14,7 +14,7 @@ Clipboard::Clipboard() {
   connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, [this] { ++revision_; });
 }
 
-const std::optional<std::string>& Clipboard::Text() {
+const std::optional<std::string>& Clipboard::Content() {
   // Update fetched_ before the fetch, so that a change during the fetch is noticed.
   if (std::exchange(fetched_, revision_) == revision_) return text_;
   text_ = ClipboardHasOwner() ? TextFromMime(QGuiApplication::clipboard()->mimeData()) : std::nullopt;

@@ -17,7 +17,7 @@ class Clipboard : public QObject {
  public:
   Clipboard();
 
-  const std::optional<std::string>& Text();
+  const std::optional<std::string>& Content();
   // A new number after each change.
   [[nodiscard]] std::uint64_t Revision() const { return revision_; }
   void SetText(std::string_view text);

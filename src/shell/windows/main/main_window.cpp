@@ -70,13 +70,13 @@ void MainWindow::MakeControls() {
   toolbar_ = new MainToolbar(editor_.commands, files_, client_);
   toolbar_->setAccessibleName(QStringLiteral("Panel nástrojů"));
   tabs_ = new FileTab(client_);
-  text_ = new TextBox(client_);
-  text_->setObjectName(QStringLiteral("Text1"));
-  text_->setAccessibleName(QStringLiteral("Text dokumentu"));
-  text_->UseBuffer(editor_.text);
-  text_->setStandardShortcuts(false);
-  text_->SetCaretStays(true);
-  KeyRouter::Get().Add(KeyTurn::kMenu, *text_, [this](QWidget&, const QKeyEvent& press) {
+  box_ = new TextBox(client_);
+  box_->setObjectName(QStringLiteral("Text1"));
+  box_->setAccessibleName(QStringLiteral("Text dokumentu"));
+  box_->UseBuffer(editor_.text);
+  box_->setStandardShortcuts(false);
+  box_->SetCaretStays(true);
+  KeyRouter::Get().Add(KeyTurn::kMenu, *box_, [this](QWidget&, const QKeyEvent& press) {
     return menus_->RunGrey(press, [this] {
       return ComputeMenuState(editor_.text, editor_.documents.CurrentPath(), editor_.platform.ClipboardContent());
     });
@@ -94,8 +94,8 @@ void MainWindow::MakeControls() {
   pop_up(tabs_, "MnuPopUp");
   pop_up(bar_, "MnuPopUp");
   pop_up(toolbar_, "MnuPopUp");
-  pop_up(text_, "MnuSel");
-  connect(toolbar_, &MainToolbar::EscapePressed, text_, [this] { text_->setFocus(); });
+  pop_up(box_, "MnuSel");
+  connect(toolbar_, &MainToolbar::EscapePressed, box_, [this] { box_->setFocus(); });
   // The tabs take no focus, so they have shortcuts.
   AddTabKeys(*this, *tabs_);
   connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, menus_,
@@ -149,11 +149,11 @@ void MainWindow::ToggleAlwaysOnTop() {
 }
 
 void MainWindow::HideText(bool hide) {
-  QScrollBar* const across = text_->horizontalScrollBar();
-  QScrollBar* const down = text_->verticalScrollBar();
+  QScrollBar* const across = box_->horizontalScrollBar();
+  QScrollBar* const down = box_->verticalScrollBar();
   if (hide) scrolled_ = {across->value(), down->value()};
-  text_->setVisible(!hide);
-  text_->UseBuffer(hide ? nothing_ : editor_.text);
+  box_->setVisible(!hide);
+  box_->UseBuffer(hide ? nothing_ : editor_.text);
   if (hide) return bar_->Clear();  // until the next tick
   across->setValue(scrolled_.x());
   down->setValue(scrolled_.y());
@@ -183,9 +183,9 @@ void MainWindow::ApplyLayout() {
   toolbar_->setGeometry(0, 0, client_->width(), PixelsOf(in.toolbar_height));
   bar_->setGeometry(0, client_->height() - bar_height, client_->width(), bar_height);
   const int top = PixelsOf(out.text_top);
-  const int width = out.text_width ? PixelsOf(*out.text_width) : text_->width();
-  const int height = out.text_height ? std::max(0, PixelsOf(*out.text_height)) : text_->height();
-  text_->setGeometry(0, top, width, height);
+  const int width = out.text_width ? PixelsOf(*out.text_width) : box_->width();
+  const int height = out.text_height ? std::max(0, PixelsOf(*out.text_height)) : box_->height();
+  box_->setGeometry(0, top, width, height);
   tabs_->SetStripWidth(client_->width() - width);
   tabs_->setGeometry(0, top, out.tabs_width ? PixelsOf(*out.tabs_width) : tabs_->width(), height);
   if (out.panel4_width && placement_.FrameKnown()) bar_->SetWidth(4, *out.panel4_width);
@@ -268,14 +268,14 @@ void MainWindow::MoveTo(const TwipsRect& place) {
 void MainWindow::SetAlwaysOnTop(bool on_top) { pelmar::SetAlwaysOnTop(*this, on_top); }
 
 void MainWindow::SetEditorColors(Color fore, Color back) {
-  text_->setTextColor(ColorToQt(fore));
-  text_->setBackgroundColor(ColorToQt(back));
+  box_->setTextColor(ColorToQt(fore));
+  box_->setBackgroundColor(ColorToQt(back));
 }
 
 void MainWindow::ChangeFont(const std::function<void(QFont&)>& change) {
-  QFont font = text_->font();
+  QFont font = box_->font();
   change(font);
-  if (font != text_->font()) text_->setFont(font);
+  if (font != box_->font()) box_->setFont(font);
 }
 
 void MainWindow::SetEditorFont(const std::string& name) {
@@ -299,15 +299,15 @@ void MainWindow::MarkBold(bool bold) { menus_->Action("mnuEditBold")->setChecked
 void MainWindow::MarkItalic(bool italic) { menus_->Action("mnuitalic")->setChecked(italic); }
 
 void MainWindow::NextAlignment() {
-  const Qt::Alignment now = text_->Alignment();
-  text_->setAlignment(now == Qt::AlignLeft ? Qt::AlignRight : now == Qt::AlignRight ? Qt::AlignHCenter : Qt::AlignLeft);
+  const Qt::Alignment now = box_->Alignment();
+  box_->setAlignment(now == Qt::AlignLeft ? Qt::AlignRight : now == Qt::AlignRight ? Qt::AlignHCenter : Qt::AlignLeft);
 }
 
 EditorLook MainWindow::Look() const {
-  const QFont font = text_->font();
+  const QFont font = box_->font();
   return {TextFromQString(font.family()),
-          ColorFromQt(text_->TextColor()),
-          ColorFromQt(text_->BackgroundColor()),
+          ColorFromQt(box_->TextColor()),
+          ColorFromQt(box_->BackgroundColor()),
           font.pointSizeF(),
           font.bold(),
           font.italic()};
@@ -322,7 +322,7 @@ void MainWindow::ShowMain() {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
   // A closed lock must not let anybody close the program.
-  if (text_->isHidden() || (may_close && !may_close())) return event->ignore();
+  if (box_->isHidden() || (may_close && !may_close())) return event->ignore();
   event->accept();
 }
 
@@ -372,7 +372,7 @@ void MainWindow::changeEvent(QEvent* event) {
 bool MainWindow::event(QEvent* event) {
   if (event->type() == QEvent::WindowActivate) {
     main_active_ = true;
-    if (isVisible()) text_->setFocus();  // the text is hidden if an accessory runs alone
+    if (isVisible()) box_->setFocus();  // the text is hidden if an accessory runs alone
   }
   if (event->type() == QEvent::WindowDeactivate) main_active_ = false;
   return QMainWindow::event(event);

@@ -27,7 +27,7 @@ class MainWindow : public QMainWindow, public MainView {
  public:
   MainWindow(Editor& editor, Files& files);
 
-  [[nodiscard]] TextBox& Text() { return *text_; }
+  [[nodiscard]] TextBox& Box() { return *box_; }
   [[nodiscard]] MenuBar& Menus() { return *menus_; }
   [[nodiscard]] MainToolbar& Toolbar() { return *toolbar_; }
   [[nodiscard]] StatusStrip& Bar() { return *bar_; }
@@ -96,7 +96,7 @@ class MainWindow : public QMainWindow, public MainView {
   MenuBar* menus_ = nullptr;
   MainToolbar* toolbar_ = nullptr;
   FileTab* tabs_ = nullptr;
-  TextBox* text_ = nullptr;
+  TextBox* box_ = nullptr;
   StatusStrip* bar_ = nullptr;
   WindowMode window_state_ = WindowMode::kNormal;
   TwipsRect wanted_place_;

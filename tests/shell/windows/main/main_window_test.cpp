@@ -43,7 +43,7 @@ struct MainWindowTest : testing::Test {
     Activate(window);
   }
   void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-    QTest::keyClick(&window.Text(), key, modifiers);
+    QTest::keyClick(&window.Box(), key, modifiers);
   }
   QAction* Item(const char* name) { return window.findChild<QAction*>(QLatin1String(name)); }
   // The first four panels behind a tick.
@@ -116,7 +116,7 @@ TEST_F(MainWindowTest, TheTickShowsTheStateWhileTheWindowIsActive) {
   editor.text.Select(0, 4);
   EXPECT_TRUE(Ticked().starts_with("Panel1=Počet znaků : 0 "));
   Activate(window);
-  EXPECT_TRUE(window.Text().hasFocus());
+  EXPECT_TRUE(window.Box().hasFocus());
   EXPECT_EQ(On({"mnuseek", "mnuulvyb", "mnuadd"}), "");  // only as fresh as the last tick
   EXPECT_EQ(Ticked(), "Panel1=Znaky Výběru : 4 Panel2=Pozice výběru : 0 Panel3=Řádeky 0-1 z 1 Panel4=Výběr : ab\r\n");
   window.Bar().SetWidth(4, 60000);  // beyond the window
@@ -171,7 +171,7 @@ TEST_F(MainWindowTest, TheToolbarGoesByTheKeyboard) {
   QTest::keyClick(button("Recent"), Qt::Key_Down);
   button("Bold")->setFocus();
   QTest::keyClick(button("Bold"), Qt::Key_Escape);
-  EXPECT_EQ(window.focusWidget(), &window.Text());
+  EXPECT_EQ(window.focusWidget(), &window.Box());
 }
 
 TEST_F(MainWindowTest, TheTickSnapsTheWindowToTheEdges) {
@@ -276,7 +276,7 @@ TEST_F(MainWindowTest, KeysOfGreyItemsGoByTheStateOfNow) {
   EXPECT_EQ(platform.clipboard, "abc");
   for (const int unknown : {0, static_cast<int>(Qt::Key_unknown)}) {
     QKeyEvent press(QEvent::KeyPress, unknown, Qt::NoModifier);
-    QApplication::sendEvent(&window.Text(), &press);
+    QApplication::sendEvent(&window.Box(), &press);
   }
   EXPECT_EQ(editor.text.Text(), "abc");  // no key of the items that have none
   Press(Qt::Key_V, Qt::ControlModifier);
@@ -289,9 +289,9 @@ TEST_F(MainWindowTest, KeysOfGreyItemsGoByTheStateOfNow) {
 TEST_F(MainWindowTest, TogglesHideAndShowTheBars) {
   const auto toggle = [this] {
     Work(window, "MnuTS! MnuSBS! mnuFTS!");
-    return window.Text().geometry();
+    return window.Box().geometry();
   };
-  const QRect with = window.Text().geometry(), without = toggle();
+  const QRect with = window.Box().geometry(), without = toggle();
   EXPECT_TRUE(window.Toolbar().isHidden());
   EXPECT_EQ(with.width(), tabs->width() - 24);
   EXPECT_EQ(without.topLeft(), QPoint());
