@@ -40,15 +40,15 @@ void StreamCipher::Append(std::string_view text, std::string& output) {
   }
 }
 
-void RewriteStream(TextBuffer& document, double key, std::string& output, Platform& platform,
+void RewriteStream(TextBuffer& buffer, double key, std::string& output, Platform& platform,
                    const std::function<bool(std::size_t done)>& on_progress) {
   output.clear();
   StreamCipher cipher(key);
-  const std::size_t length = document.Size();
+  const std::size_t length = buffer.Size();
   const std::size_t step = StepSize(length);
   // Somebody may shorten the document meanwhile: then its new end is the end of the run.
-  for (std::size_t done = 0; done < std::min(length, document.Size());) {
-    std::string_view part = std::string_view(document.Text()).substr(done, std::min(step, length - done));
+  for (std::size_t done = 0; done < std::min(length, buffer.Size());) {
+    std::string_view part = std::string_view(buffer.Text()).substr(done, std::min(step, length - done));
     if (part.front() == kBroken) {
       // The progress stands at the character that the messages are about.
       if (!on_progress(done + 1) || EndsBroken(platform)) return;
@@ -60,7 +60,7 @@ void RewriteStream(TextBuffer& document, double key, std::string& output, Platfo
     done += part.size();
     if (!on_progress(done)) return;
   }
-  document.SetText(output);
+  buffer.SetText(output);
 }
 
 std::string PrimitiveRewrite(std::string_view text) {

@@ -32,7 +32,7 @@ class StreamCipher {
 // person is warned and may abandon. `on_progress` hears how many characters are done, lets the windows live meanwhile,
 // and says whether to go on; it is called at least every 20 ms. The document may change under it: each character is
 // read at its turn, only the length is taken once. An abandoned run leaves the document as it was.
-void RewriteStream(TextBuffer& document, double key, std::string& output, Platform& platform,
+void RewriteStream(TextBuffer& buffer, double key, std::string& output, Platform& platform,
                    const std::function<bool(std::size_t done)>& on_progress);
 
 // Each code becomes 256 minus the code. 0 stays.

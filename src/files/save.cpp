@@ -38,11 +38,11 @@ void Saver::SaveTextCopy(const std::string& path, std::string_view text) {
 }
 
 void Saver::SaveSelectionAs() {
-  TextBuffer& text = documents_.Buffer();
-  if (!text.HasSelection()) return;
+  TextBuffer& buffer = documents_.Buffer();
+  if (!buffer.HasSelection()) return;
   const auto path = platform_.SaveDialog(kDocumentFilter, kDocumentFilterIndex);
   // The selection may change while the dialog is open.
-  if (path) SaveTextCopy(*path, std::string(text.SelText()));
+  if (path) SaveTextCopy(*path, std::string(buffer.SelText()));
 }
 
 void Saver::SaveStandard() {

@@ -78,9 +78,9 @@ std::string Smiley(const std::array<std::string, 5>& parts) {
   return std::string(Trimmed(smiley));
 }
 
-void PutDoctype(TextBuffer& document, std::string_view line) {
-  document.Replace(0, 0, std::string(line).append(kCrLf));
-  document.SetSelStart(0);
+void PutDoctype(TextBuffer& buffer, std::string_view line) {
+  buffer.Replace(0, 0, std::string(line).append(kCrLf));
+  buffer.SetSelStart(0);
 }
 
 }  // namespace pelmar

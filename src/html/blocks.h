@@ -48,6 +48,6 @@ std::string CharacterReference(int code);
 std::string Smiley(const std::array<std::string, 5>& parts);
 
 // Puts the line before the text and the caret at the start.
-void PutDoctype(TextBuffer& document, std::string_view line);
+void PutDoctype(TextBuffer& buffer, std::string_view line);
 
 }  // namespace pelmar

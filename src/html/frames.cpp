@@ -6,14 +6,14 @@
 
 namespace pelmar {
 
-void WrapInFrameset(TextBuffer& document, const FramesetSpec& spec) {
+void WrapInFrameset(TextBuffer& buffer, const FramesetSpec& spec) {
   std::string head("<!DOCTYPE HTML PUBLIC \"-//IETF/DTD HTML v.m//EN\">\r\n<HTML>\r\n <HEAD>\r\n");
   head += CodePageAndGenerator();
   head += "  <TITLE>" + spec.title + "</TITLE>\r\n </HEAD>\r\n <FRAMESET";
   head += Attribute("ROWS", spec.rows);
   head += Attribute("ROWS", spec.cols);  // required: columns are written as rows too
   head += ">\r\n </FRAMESET>\r\n <NOFRAMES>\r\n";
-  PutAround(document, head, "Tento Prohlížeč nepodporuje Framesy"_w, "\r\n </NOFRAMES>\r\n</HTML>");
+  PutAround(buffer, head, "Tento Prohlížeč nepodporuje Framesy"_w, "\r\n </NOFRAMES>\r\n</HTML>");
 }
 
 std::string FrameTag(const FrameSpec& spec) {

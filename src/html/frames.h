@@ -17,7 +17,7 @@ struct FramesetSpec {
 };
 
 // Replaces the whole text by the page. The old text, or a sentence if there was no text, is selected in the page.
-void WrapInFrameset(TextBuffer& document, const FramesetSpec& spec);
+void WrapInFrameset(TextBuffer& buffer, const FramesetSpec& spec);
 
 struct FrameSpec {
   struct Margins {

@@ -44,18 +44,18 @@ std::string CodePageAndGenerator() {
          Line(R"(  <META NAME="GENERATOR" CONTENT="Orvilanths PELmar VEX v)" PELMAR_VERSION R"(">)");
 }
 
-void PutAround(TextBuffer& document, std::string_view head, std::string_view sample, std::string_view tail) {
-  std::string body(document.Text());
+void PutAround(TextBuffer& buffer, std::string_view head, std::string_view sample, std::string_view tail) {
+  std::string body(buffer.Text());
   if (body.empty()) body = sample;
   std::string text(head);
   text += body;
   text += tail;
-  document.SetText(std::move(text));
-  document.Select(head.size(), head.size() + body.size());
+  buffer.SetText(std::move(text));
+  buffer.Select(head.size(), head.size() + body.size());
 }
 
-void WrapInPage(TextBuffer& document, const PageSpec& spec) {
-  PutAround(document, HeadOf(spec), "---TEXT---", "\r\n\r\n </BODY>\r\n</HTML>");
+void WrapInPage(TextBuffer& buffer, const PageSpec& spec) {
+  PutAround(buffer, HeadOf(spec), "---TEXT---", "\r\n\r\n </BODY>\r\n</HTML>");
 }
 
 }  // namespace pelmar

@@ -25,12 +25,12 @@ struct PageSpec {
 };
 
 // Replaces the whole text by the page. The old text, or a marker if there was no text, is selected in the page.
-void WrapInPage(TextBuffer& document, const PageSpec& spec);
+void WrapInPage(TextBuffer& buffer, const PageSpec& spec);
 
 // The META lines of the code page and of the program, each with its line end.
 std::string CodePageAndGenerator();
 
 // Puts the document, or `sample` if the document is empty, between head and tail, and selects it there.
-void PutAround(TextBuffer& document, std::string_view head, std::string_view sample, std::string_view tail);
+void PutAround(TextBuffer& buffer, std::string_view head, std::string_view sample, std::string_view tail);
 
 }  // namespace pelmar

@@ -46,7 +46,7 @@ std::string TagAttributes(std::string_view tag) {
   return std::string(tag.substr(kNameInTag, tag.size() - kBareTag));
 }
 
-void InsertRow(TextBuffer& document, const RowSpec& spec) {
+void InsertRow(TextBuffer& buffer, const RowSpec& spec) {
   std::string row = RowTag(spec);
   for (int cell = 1; cell <= spec.cells; ++cell) {
     row += "<TD>";
@@ -54,11 +54,11 @@ void InsertRow(TextBuffer& document, const RowSpec& spec) {
     row += std::to_string(cell) + "</TD>";
   }
   row += "</TR>";
-  InsertAtCaret(document, row += kCrLf);
+  InsertAtCaret(buffer, row += kCrLf);
 }
 
-void WrapInCell(TextBuffer& document, const CellSpec& spec) {
-  WrapSelection(document, CellTag(spec), spec.header ? "</TH>" : "</TD>", kSample);
+void WrapInCell(TextBuffer& buffer, const CellSpec& spec) {
+  WrapSelection(buffer, CellTag(spec), spec.header ? "</TH>" : "</TD>", kSample);
 }
 
 }  // namespace pelmar

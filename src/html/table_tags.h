@@ -43,9 +43,9 @@ std::string CellTag(const CellSpec& spec);
 std::string TagAttributes(std::string_view tag);
 
 // Inserts a row of numbered cells at the caret. The selection stays, after the row.
-void InsertRow(TextBuffer& document, const RowSpec& spec);
+void InsertRow(TextBuffer& buffer, const RowSpec& spec);
 
 // Puts the selection, or a sample if nothing is selected, into a cell.
-void WrapInCell(TextBuffer& document, const CellSpec& spec);
+void WrapInCell(TextBuffer& buffer, const CellSpec& spec);
 
 }  // namespace pelmar

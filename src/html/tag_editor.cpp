@@ -147,10 +147,10 @@ std::string_view TagStepName(TagStep step) {
 
 TagAnalysis AnalyseTag(std::string_view text, std::size_t sel_start) { return Analyser(text, sel_start).Run(); }
 
-TagAnalysis OpenTag(TextBuffer& document, Platform& platform) {
-  TagAnalysis analysis = AnalyseTag(document.Text(), document.SelStart());
+TagAnalysis OpenTag(TextBuffer& buffer, Platform& platform) {
+  TagAnalysis analysis = AnalyseTag(buffer.Text(), buffer.SelStart());
   if (!analysis.has_tag) platform.Message(MessageType::kOk, kNoTag, "EdiTag");
-  if (analysis.range) document.Select(analysis.range->start, analysis.range->start + analysis.range->length);
+  if (analysis.range) buffer.Select(analysis.range->start, analysis.range->start + analysis.range->length);
   if (analysis.failed_in) {
     std::string message = "Došlo k chybě při zpracování tagu. Ujistěte se, že se jedná o html tag ve správném formátu";
     message.append(kCrLf).append("Kód chyby: ").append(TagStepName(*analysis.failed_in));
@@ -171,28 +171,28 @@ std::string TagText(std::string_view name, const AttributeLists& attributes) {
   return text.append(name).append(AttributesText(attributes)).append(">");
 }
 
-bool AddAttributes(TextBuffer& document, const AttributeLists& attributes, Platform& platform) {
-  const std::size_t caret = document.SelStart();
+bool AddAttributes(TextBuffer& buffer, const AttributeLists& attributes, Platform& platform) {
+  const std::size_t caret = buffer.SelStart();
   if (caret == 0) {
     platform.Message(MessageType::kOk, "Na úplný začátek textu atributy vložit nelze. Posuňte kurzor do tagu.",
                      "Atribut");
     return false;
   }
-  const std::size_t place = document.Text().find('>', caret - 1);
+  const std::size_t place = buffer.Text().find('>', caret - 1);
   if (place == std::string::npos) {
     platform.Message(MessageType::kOk, "Za kurzorem už žádný tag nekončí. Posuňte kurzor do tagu nebo před něj.",
                      "Atribut");
     return false;
   }
-  document.SetSelStart(place);
-  document.ReplaceSelection(AttributesText(attributes));
+  buffer.SetSelStart(place);
+  buffer.ReplaceSelection(AttributesText(attributes));
   return true;
 }
 
-void InsertCustomTag(TextBuffer& document, const CustomTag& tag) {
+void InsertCustomTag(TextBuffer& buffer, const CustomTag& tag) {
   const std::string open = TagText(tag.name, tag.attributes);
-  if (!tag.closed) return InsertAtCaret(document, open);
-  WrapSelection(document, open, "</" + tag.name + ">", "Vlastní tag"_w);
+  if (!tag.closed) return InsertAtCaret(buffer, open);
+  WrapSelection(buffer, open, "</" + tag.name + ">", "Vlastní tag"_w);
 }
 
 }  // namespace pelmar

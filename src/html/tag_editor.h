@@ -44,7 +44,7 @@ struct TagAnalysis {
 TagAnalysis AnalyseTag(std::string_view text, std::size_t sel_start);
 
 // Divides the tag in the document and selects the tag. Reports a failure or a missing tag.
-TagAnalysis OpenTag(TextBuffer& document, Platform& platform);
+TagAnalysis OpenTag(TextBuffer& buffer, Platform& platform);
 
 // A blank, the name, "=" and the quoted value for each name. A missing value is empty.
 std::string AttributesText(const AttributeLists& attributes);
@@ -54,7 +54,7 @@ std::string TagText(std::string_view name, const AttributeLists& attributes);
 
 // Inserts attributes before the first ">" from the character before the caret on. If there is no such ">" or no such
 // character, shows a message and returns false.
-bool AddAttributes(TextBuffer& document, const AttributeLists& attributes, Platform& platform);
+bool AddAttributes(TextBuffer& buffer, const AttributeLists& attributes, Platform& platform);
 
 struct CustomTag {
   std::string name;
@@ -63,6 +63,6 @@ struct CustomTag {
 };
 
 // Inserts a tag at the caret, or puts a closed tag around the selection or a sample.
-void InsertCustomTag(TextBuffer& document, const CustomTag& tag);
+void InsertCustomTag(TextBuffer& buffer, const CustomTag& tag);
 
 }  // namespace pelmar

@@ -6,13 +6,13 @@
 
 namespace pelmar {
 
-Documents::Documents(TextBuffer& text)
-    : text_(text), changes_(text.OnChange([this](const TextChange&) { TextChanged(); })) {}
+Documents::Documents(TextBuffer& buffer)
+    : buffer_(buffer), changes_(buffer.OnChange([this](const TextChange&) { TextChanged(); })) {}
 
 std::string Documents::Title() const { return "Pelmar VEX (" + title_.path + (title_.marked ? ")*" : ")"); }
 
 void Documents::LeaveTab() {
-  Current().Text = text_.Text();
+  Current().Text = buffer_.Text();
   Current().Path = current_path_;
   // required: set only here; saving, opening and a new document clear the flag
   if (Marked()) Current().Modified = true;
@@ -22,7 +22,7 @@ void Documents::EnterTab(int entered) {
   selected_ = entered;
   // required: when SetText notifies the change, current_path_ is still that of the old tab and goes into the slot
   title_follows_ = true;
-  text_.SetText(std::exchange(Current().Text, {}));
+  buffer_.SetText(std::exchange(Current().Text, {}));
   title_follows_ = false;
   current_path_ = faces_[IndexFromOne(entered)].ToolTipText;
   // Prime would throw for a restored document without an extension.
@@ -62,7 +62,7 @@ void Documents::ClearCurrent() {
   SetFace({}, {});
   Current() = {};
   // required: when SetText notifies the change, current_path_ isn't cleared yet and goes into the slot
-  text_.SetText({});
+  buffer_.SetText({});
   ForgetPath();
 }
 
@@ -75,7 +75,7 @@ void Documents::Restore(int tab, std::string text, const std::string& path) {
   SwitchTo(tab);
   current_path_ = path;
   SetFace(std::string(NameOf(path)), path);
-  text_.SetText(std::move(text));
+  buffer_.SetText(std::move(text));
   Current().Path = path;
   Current().Modified = true;
   SetTitle(current_path_, true);
@@ -95,7 +95,7 @@ void Documents::MakeCurrent(const std::string& path) {
 void Documents::MakeCurrent(const std::string& path, std::string text) {
   current_path_ = path;                 // required: set before SetText notifies the change
   title_follows_ = HasExtension(path);  // required: a name without an extension only adds the mark to the title
-  text_.SetText(std::move(text));
+  buffer_.SetText(std::move(text));
   title_follows_ = false;
   MakeCurrent(path);
 }

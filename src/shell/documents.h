@@ -29,19 +29,19 @@ struct TabFace {
 class Documents {
  public:
   // Construct this object before any view of the text, so that it is notified first.
-  explicit Documents(TextBuffer& text);
+  explicit Documents(TextBuffer& buffer);
 
   void SwitchTo(int tab);
 
   [[nodiscard]] int SelectedTab() const { return selected_; }
-  [[nodiscard]] const std::string& TextOf(int tab) const { return tab == selected_ ? text_.Text() : Slot(tab).Text; }
+  [[nodiscard]] const std::string& TextOf(int tab) const { return tab == selected_ ? buffer_.Text() : Slot(tab).Text; }
   [[nodiscard]] const DocSlot& Slot(int tab) const { return slots_[IndexFromOne(tab)]; }
   [[nodiscard]] const TabFace& Face(int tab) const { return faces_[IndexFromOne(tab)]; }
   [[nodiscard]] const std::string& CurrentPath() const { return current_path_; }
   [[nodiscard]] std::string Title() const;
   [[nodiscard]] bool Marked() const { return title_.marked; }
-  [[nodiscard]] TextBuffer& Buffer() { return text_; }
-  [[nodiscard]] const TextBuffer& Buffer() const { return text_; }
+  [[nodiscard]] TextBuffer& Buffer() { return buffer_; }
+  [[nodiscard]] const TextBuffer& Buffer() const { return buffer_; }
   [[nodiscard]] SaveTarget& Target() { return target_; }
 
   // True if closing the program would lose changes: the slot's flag is set, or the current document is marked.
@@ -86,7 +86,7 @@ class Documents {
   void SetTitle(std::string path, bool marked);
   void SetFace(std::string caption, std::string tool_tip);
 
-  TextBuffer& text_;
+  TextBuffer& buffer_;
   std::array<DocSlot, kTabCount> slots_;
   std::array<TabFace, kTabCount> faces_;
   int selected_ = 1;

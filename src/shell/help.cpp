@@ -17,12 +17,12 @@ std::optional<std::string> LoadHelp(Platform& platform) {
   return std::nullopt;
 }
 
-void SearchHelp(TextBuffer& text, std::string_view term, Platform& platform) {
-  const std::string folded_text = ToUpper(text.Text());
+void SearchHelp(TextBuffer& buffer, std::string_view term, Platform& platform) {
+  const std::string folded_text = ToUpper(buffer.Text());
   const std::string folded_term = ToUpper(term);
   std::size_t from = 0;
   while (const auto hit = FindFrom(folded_text, folded_term, from)) {
-    SelectHit(text, *hit, term.size());
+    SelectHit(buffer, *hit, term.size());
     if (!platform.Confirmed(GoOnQuestion(*hit), "hledání")) return;
     from = *hit + 1;
   }

@@ -14,6 +14,6 @@ namespace pelmar {
 std::optional<std::string> LoadHelp(Platform& platform);
 
 // Selects one hit after another until the person stops. Ignores case.
-void SearchHelp(TextBuffer& text, std::string_view term, Platform& platform);
+void SearchHelp(TextBuffer& buffer, std::string_view term, Platform& platform);
 
 }  // namespace pelmar

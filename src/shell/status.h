@@ -18,12 +18,12 @@ struct PanelTexts {
 };
 
 // The number of lines is the number of line feeds.
-PanelTexts ComputePanels(const TextBuffer& box, bool line_counting);
+PanelTexts ComputePanels(const TextBuffer& buffer, bool line_counting);
 
 // The text of panel 4. `clipboard` is nothing if the clipboard offers no plain text.
-std::string ComputeContent(const TextBuffer& box, const std::optional<std::string>& clipboard);
+std::string ComputeContent(const TextBuffer& buffer, const std::optional<std::string>& clipboard);
 
-MenuState ComputeMenuState(const TextBuffer& box, std::string_view current_path,
+MenuState ComputeMenuState(const TextBuffer& buffer, std::string_view current_path,
                            const std::optional<std::string>& clipboard);
 
 }  // namespace pelmar

@@ -2,20 +2,20 @@
 
 namespace pelmar {
 
-void InsertAtCaret(TextBuffer& document, std::string_view text) {
-  document.SetSelLength(0);
-  document.ReplaceSelection(text);
+void InsertAtCaret(TextBuffer& buffer, std::string_view text) {
+  buffer.SetSelLength(0);
+  buffer.ReplaceSelection(text);
 }
 
-void WrapSelection(TextBuffer& document, std::string_view open, std::string_view close, std::string_view sample) {
+void WrapSelection(TextBuffer& buffer, std::string_view open, std::string_view close, std::string_view sample) {
   std::string text(open);
-  text += document.HasSelection() ? document.SelText() : sample;
+  text += buffer.HasSelection() ? buffer.SelText() : sample;
   text += close;
-  document.ReplaceSelection(text);
+  buffer.ReplaceSelection(text);
 }
 
-void WrapSelection(TextBuffer& document, const Wrapping& wrapping) {
-  WrapSelection(document, wrapping.open, wrapping.close, wrapping.sample);
+void WrapSelection(TextBuffer& buffer, const Wrapping& wrapping) {
+  WrapSelection(buffer, wrapping.open, wrapping.close, wrapping.sample);
 }
 
 }  // namespace pelmar

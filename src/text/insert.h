@@ -9,16 +9,16 @@
 namespace pelmar {
 
 // Inserts at the start of the selection. The selected text stays, after the new text, and is no longer selected.
-void InsertAtCaret(TextBuffer& document, std::string_view text);
+void InsertAtCaret(TextBuffer& buffer, std::string_view text);
 
 // Puts the selection between `open` and `close`, or `sample` if nothing is selected.
-void WrapSelection(TextBuffer& document, std::string_view open, std::string_view close, std::string_view sample);
+void WrapSelection(TextBuffer& buffer, std::string_view open, std::string_view close, std::string_view sample);
 
 struct Wrapping {
   std::string open;
   std::string close;
   std::string sample;
 };
-void WrapSelection(TextBuffer& document, const Wrapping& wrapping);
+void WrapSelection(TextBuffer& buffer, const Wrapping& wrapping);
 
 }  // namespace pelmar

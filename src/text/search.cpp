@@ -7,9 +7,9 @@ std::optional<std::size_t> FindFrom(std::string_view text, std::string_view term
   return hit == std::string_view::npos ? std::nullopt : std::optional(hit);
 }
 
-void SelectHit(TextBuffer& document, std::size_t hit, std::size_t length) {
-  document.SetSelStart(hit);
-  document.SetSelLength(length);
+void SelectHit(TextBuffer& buffer, std::size_t hit, std::size_t length) {
+  buffer.SetSelStart(hit);
+  buffer.SetSelLength(length);
 }
 
 std::string GoOnQuestion(std::size_t hit) { return "Nalezeno na " + std::to_string(hit + 1) + " místě, pokračovat ?"; }

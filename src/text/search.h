@@ -14,7 +14,7 @@ namespace pelmar {
 std::optional<std::size_t> FindFrom(std::string_view text, std::string_view term, std::size_t from);
 
 // Selects a hit, at most up to the end of the text. Selects the start first, so that the start becomes visible.
-void SelectHit(TextBuffer& document, std::size_t hit, std::size_t length);
+void SelectHit(TextBuffer& buffer, std::size_t hit, std::size_t length);
 
 // The question at a hit whether to search on. UTF-8.
 std::string GoOnQuestion(std::size_t hit);

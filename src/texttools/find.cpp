@@ -7,11 +7,11 @@ namespace pelmar {
 
 void ReportNothingFound(Platform& platform) { platform.Message(MessageType::kOk, "Nenalezeno !", "Hledání"); }
 
-std::string DefaultTerm(const TextBuffer& document) {
-  return document.HasSelection() ? std::string(document.SelText()) : "Text";
+std::string DefaultTerm(const TextBuffer& buffer) {
+  return buffer.HasSelection() ? std::string(buffer.SelText()) : "Text";
 }
 
-Finder::Finder(TextBuffer& document, Platform& platform) : document_(document), platform_(platform) {}
+Finder::Finder(TextBuffer& buffer, Platform& platform) : buffer_(buffer), platform_(platform) {}
 
 void Finder::Load() {
   TakeDefaultTerm();
@@ -19,12 +19,12 @@ void Finder::Load() {
   next_on = false;
 }
 
-void Finder::TakeDefaultTerm() { find = DefaultTerm(document_); }
+void Finder::TakeDefaultTerm() { find = DefaultTerm(buffer_); }
 
 void Finder::Start() {
   history_on = case_on = find_on = false;
   next_on = true;
-  std::string text = document_.Text();
+  std::string text = buffer_.Text();
   if (!case_sensitive) {
     text = ToUpper(text);
     find = ToUpper(find);
@@ -57,7 +57,7 @@ void Finder::PickHistory(std::size_t row) {
 void Finder::Show(std::size_t hit) {
   count = count.value_or(0) + 1;
   position = hit;
-  SelectHit(document_, hit, find.size());
+  SelectHit(buffer_, hit, find.size());
 }
 
 void Finder::ReportNothing() {
@@ -68,22 +68,22 @@ void Finder::ReportNothing() {
 void Finder::GoIdle() {
   case_on = history_on = find_on = true;
   next_on = false;
-  if (document_.HasSelection()) find = document_.SelText();
+  if (buffer_.HasSelection()) find = buffer_.SelText();
 }
 
-void FindPrimitively(TextBuffer& document, Platform& platform) {
-  const auto answer = platform.InputBox("Vložte prosím text na hledání.", "Hledání", ToUtf8(DefaultTerm(document)));
+void FindPrimitively(TextBuffer& buffer, Platform& platform) {
+  const auto answer = platform.InputBox("Vložte prosím text na hledání.", "Hledání", ToUtf8(DefaultTerm(buffer)));
   const std::string term = FromUtf8(answer.value_or(std::string()));
   std::size_t from = 0;
   std::size_t count = 0;
   while (true) {
-    const auto hit = FindFrom(document.Text(), term, from);
+    const auto hit = FindFrom(buffer.Text(), term, from);
     if (!hit) {
       ReportNothingFound(platform);
       break;
     }
     ++count;
-    SelectHit(document, *hit, term.size());
+    SelectHit(buffer, *hit, term.size());
     if (platform.Message(MessageType::kYesNoQuestion, GoOnQuestion(*hit), "hledání") != Answer::kYes) break;
     from = *hit + 1;
   }

@@ -16,7 +16,7 @@ namespace pelmar {
 
 class Finder {
  public:
-  Finder(TextBuffer& document, Platform& platform);
+  Finder(TextBuffer& buffer, Platform& platform);
 
   // The fields of the dialog. The window writes them before each step and shows them after each step.
   std::string find;
@@ -47,16 +47,16 @@ class Finder {
   void GoIdle();
   void ReportNothing();
 
-  TextBuffer& document_;
+  TextBuffer& buffer_;
   Platform& platform_;
   TextBuffer snapshot_;
 };
 
 // Asks at each hit in the document whether to search on. Always case sensitive.
-void FindPrimitively(TextBuffer& document, Platform& platform);
+void FindPrimitively(TextBuffer& buffer, Platform& platform);
 
 // The first term of a search: the selected text, otherwise "Text".
-std::string DefaultTerm(const TextBuffer& document);
+std::string DefaultTerm(const TextBuffer& buffer);
 
 void ReportNothingFound(Platform& platform);
 

@@ -13,11 +13,10 @@ constexpr std::string_view kMarker = "\xFF";
 
 }  // namespace
 
-Replacer::Replacer(TextBuffer& document, Platform& platform)
-    : change("Zaměň"_w), document_(document), platform_(platform) {}
+Replacer::Replacer(TextBuffer& buffer, Platform& platform) : change("Zaměň"_w), buffer_(buffer), platform_(platform) {}
 
 void Replacer::Load() {
-  find = DefaultTerm(document_);
+  find = DefaultTerm(buffer_);
   case_on = find_on = true;
   step_on = false;
 }
@@ -27,7 +26,7 @@ bool Replacer::Start() {
   step_on = all_on = true;
   terms.push_back(find);  // required: before the change to upper case, unlike in Hledání
   changes.push_back(change);
-  std::string text = document_.Text();
+  std::string text = buffer_.Text();
   if (!case_sensitive) {
     text = ToUpper(text);
     find = ToUpper(find);
@@ -48,7 +47,7 @@ void Replacer::Next() {
 void Replacer::Replace() {
   ++found_pos_;
   replaced_shown = ++replaced_count_;
-  document_.ReplaceSelection(change);  // required: even if something else is selected now
+  buffer_.ReplaceSelection(change);  // required: even if something else is selected now
   snapshot_.ReplaceSelection(change);
   SeekOn();
 }
@@ -62,7 +61,7 @@ bool Replacer::Seek() {
   if (!hit) return false;
   found_shown = ++found_count_;
   found_pos_ = *hit;
-  SelectHit(document_, *hit, find.size());
+  SelectHit(buffer_, *hit, find.size());
   SelectHit(snapshot_, *hit, find.size());
   return true;
 }
@@ -72,19 +71,19 @@ void Replacer::ReportNothing() {
   ReportNothingFound(platform_);
   case_on = lists_on = find_on = change_on = true;
   step_on = false;  // required: Command6 stays on
-  if (document_.HasSelection()) find = document_.SelText();
+  if (buffer_.HasSelection()) find = buffer_.SelText();
 }
 
 void Replacer::ReplaceAll() {
   const BusyPointer busy(platform_);
-  document_.SetText(ReplaceAllByMarker(document_.Text(), find, change));
+  buffer_.SetText(ReplaceAllByMarker(buffer_.Text(), find, change));
   find_on = lists_on = change_on = true;
   step_on = all_on = false;  // required: the case stays disabled
   found_shown = replaced_shown = std::nullopt;
 }
 
 void Replacer::New() {
-  find = DefaultTerm(document_);
+  find = DefaultTerm(buffer_);
   find_on = lists_on = change_on = true;
   step_on = false;
 }

@@ -15,7 +15,7 @@ namespace pelmar {
 
 class Replacer {
  public:
-  Replacer(TextBuffer& document, Platform& platform);
+  Replacer(TextBuffer& buffer, Platform& platform);
 
   // The fields of the dialog. The window writes them before each step and shows them after each step.
   std::string find = "Najdi";
@@ -50,7 +50,7 @@ class Replacer {
   void SeekOn();
   void ReportNothing();
 
-  TextBuffer& document_;
+  TextBuffer& buffer_;
   Platform& platform_;
   TextBuffer snapshot_;
   std::size_t found_pos_ = 0;

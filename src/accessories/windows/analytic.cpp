@@ -25,14 +25,14 @@ class RowDelegate : public QStyledItemDelegate {
 
 }  // namespace
 
-Analytic::Analytic(const TextBuffer& document, QWidget* parent) : FormDialog(parent), document_(document) {
+Analytic::Analytic(const TextBuffer& buffer, QWidget* parent) : FormDialog(parent), buffer_(buffer) {
   ui_->List1->setItemDelegate(new RowDelegate(ui_->List1));
   // Wide enough for a row with the name of a control character, and for the scroll bar.
   ui_->List1->setMinimumWidth(30 * ui_->List1->fontMetrics().averageCharWidth() + 40);
   timer1_.setObjectName(QStringLiteral("Timer1"));
   timer1_.setInterval(2000);
   ConnectEvents();
-  AnalyseText(document_.Text());
+  AnalyseText(buffer_.Text());
 }
 
 void Analytic::ConnectEvents() {
@@ -57,7 +57,7 @@ void Analytic::ConnectEvents() {
 }
 
 const std::string& Analytic::Source() const {
-  return ui_->Option1->isChecked() ? document_.Text() : ui_->Text1->Buffer().Text();
+  return ui_->Option1->isChecked() ? buffer_.Text() : ui_->Text1->Buffer().Text();
 }
 
 void Analytic::AnalyseText(std::string_view text) {
@@ -106,7 +106,7 @@ void Analytic::Text1_Change() {
 }
 
 void Analytic::Timer1_Timer() {
-  if (ui_->Check3->isChecked() && ui_->Option1->isChecked()) AnalyseText(document_.Text());
+  if (ui_->Check3->isChecked() && ui_->Option1->isChecked()) AnalyseText(buffer_.Text());
 }
 
 bool Analytic::eventFilter(QObject* watched, QEvent* event) {

@@ -16,7 +16,7 @@ class Analytic : public FormDialog<Ui::Analytic> {
   Q_OBJECT
 
  public:
-  Analytic(const TextBuffer& document, QWidget* parent);
+  Analytic(const TextBuffer& buffer, QWidget* parent);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -34,7 +34,7 @@ class Analytic : public FormDialog<Ui::Analytic> {
   void Timer1_Timer();
   [[nodiscard]] const std::string& Source() const;
 
-  const TextBuffer& document_;
+  const TextBuffer& buffer_;
   QTimer timer1_{this};
 };
 

@@ -12,7 +12,7 @@
 
 namespace pelmar {
 
-Klavesnice::Klavesnice(TextBuffer& document, QWidget* parent) : FormDialog(parent), document_(document) {
+Klavesnice::Klavesnice(TextBuffer& buffer, QWidget* parent) : FormDialog(parent), buffer_(buffer) {
   ConnectKeys();
   ConnectShift();
   // No key has the focus until the person presses Tab.
@@ -34,10 +34,10 @@ void Klavesnice::ConnectKeys() {
     group->addButton(key);
     if (key == ui_->Command50) continue;
     if (const auto found = named.find(key); found != named.end()) {
-      connect(key, &KeyCap::clicked, this, [this, text = found->second] { InsertAtCaret(document_, text); });
+      connect(key, &KeyCap::clicked, this, [this, text = found->second] { InsertAtCaret(buffer_, text); });
     } else {
       connect(key, &KeyCap::clicked, this,
-              [this, key] { InsertAtCaret(document_, Shifted(TextFromQString(key->text()))); });
+              [this, key] { InsertAtCaret(buffer_, Shifted(TextFromQString(key->text()))); });
     }
   }
   connect(ui_->Command50, &KeyCap::clicked, this, &Klavesnice::hide);
@@ -59,7 +59,7 @@ Preview Klavesnice::PhysicalKey(const QKeyEvent& event) {
   // If a key has the focus, the space bar presses the key.
   if (*character == ' ' && focusWidget() != this) return Preview::kPass;
   // required: control characters are inserted too, so Enter inserts only the character 13
-  InsertAtCaret(document_, Shifted(std::string(1, *character)));
+  InsertAtCaret(buffer_, Shifted(std::string(1, *character)));
   setFocus();
   return Preview::kTake;
 }

@@ -18,7 +18,7 @@ class Klavesnice : public FormDialog<Ui::Klavesnice> {
   Q_OBJECT
 
  public:
-  Klavesnice(TextBuffer& document, QWidget* parent);
+  Klavesnice(TextBuffer& buffer, QWidget* parent);
 
  private:
   void ConnectKeys();
@@ -26,7 +26,7 @@ class Klavesnice : public FormDialog<Ui::Klavesnice> {
   [[nodiscard]] std::string Shifted(const std::string& text) const;
   Preview PhysicalKey(const QKeyEvent& event);
 
-  TextBuffer& document_;
+  TextBuffer& buffer_;
 };
 
 }  // namespace pelmar

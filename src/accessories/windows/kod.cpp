@@ -33,8 +33,8 @@ void SetFamily(QWidget& widget, const QString& family) {
 
 }  // namespace
 
-Kod::Kod(TextBuffer& document, std::function<void(const QKeyEvent&)> stroke_main, QWidget* parent)
-    : FormDialog(parent), document_(document), stroke_main_(std::move(stroke_main)) {
+Kod::Kod(TextBuffer& buffer, std::function<void(const QKeyEvent&)> stroke_main, QWidget* parent)
+    : FormDialog(parent), buffer_(buffer), stroke_main_(std::move(stroke_main)) {
   // The form's cells fit letters of 10 points.
   ui_->Picture1->setMinimumSize(ui_->Picture1->minimumSize() * (ui_->Picture1->font().pointSizeF() / 10));
   ui_->Combo1->setCompleter(nullptr);  // the toolkit would complete a typed "Courier" to "Courier New"
@@ -70,7 +70,7 @@ void Kod::Command3_Click() {
 
 void Kod::Command4_Click() {
   const std::string text = FieldText(*ui_->Text1);
-  if (!text.empty()) InsertAtCaret(document_, text);
+  if (!text.empty()) InsertAtCaret(buffer_, text);
   ui_->Text1->clear();
 }
 
@@ -84,8 +84,8 @@ void Kod::Point(int code) {
 
 void Kod::Choose(int code) {
   if (code == 0) return;
-  if (ui_->Option1->isChecked()) return InsertAtCaret(document_, std::string(1, CharOf(code)));
-  if (ui_->Option2->isChecked()) return InsertAtCaret(document_, CharacterReference(code));
+  if (ui_->Option1->isChecked()) return InsertAtCaret(buffer_, std::string(1, CharOf(code)));
+  if (ui_->Option2->isChecked()) return InsertAtCaret(buffer_, CharacterReference(code));
   InsertInto(*ui_->Text1, Character(code));
 }
 

@@ -20,7 +20,7 @@ class Kod : public FormDialog<Ui::kod> {
 
  public:
   // `stroke_main` sends a key stroke to the main window and returns after the stroke was handled.
-  Kod(TextBuffer& document, std::function<void(const QKeyEvent&)> stroke_main, QWidget* parent);
+  Kod(TextBuffer& buffer, std::function<void(const QKeyEvent&)> stroke_main, QWidget* parent);
 
  private:
   void Combo1_Change(const QString& font_name);
@@ -31,7 +31,7 @@ class Kod : public FormDialog<Ui::kod> {
   void Choose(int code);
   Preview TypedKey(const QKeyEvent& event);
 
-  TextBuffer& document_;
+  TextBuffer& buffer_;
   std::function<void(const QKeyEvent&)> stroke_main_;
 };
 

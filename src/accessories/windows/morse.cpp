@@ -42,9 +42,9 @@ void Morse::AddItem(QMenu* menu, std::string_view name, std::string_view caption
 void Morse::mnu_clipmorse_Click() { ui_->Text1->Buffer().ReplaceSelection(TextToMorse(platform_.ClipboardText())); }
 
 void Morse::mnuMakeMorse_Click() {
-  TextBuffer& box = ui_->Text1->Buffer();
+  TextBuffer& buffer = ui_->Text1->Buffer();
   const BusyPointer busy(platform_, BusyLook::kArrow);
-  box.ReplaceSelection(TextToMorse(box.SelText()));
+  buffer.ReplaceSelection(TextToMorse(buffer.SelText()));
 }
 
 // The box is read-only, so typed characters reach the window.

@@ -29,15 +29,15 @@ void ShowNotes(const ProgramParts& parts) {
 }
 
 void AddCheckpoints(const ProgramParts& parts) {
-  TextBuffer& document = parts.editor.text;
-  parts.editor.commands.Add("mnu_chp_s", [parts, &document] {
-    SaveCheckpoint(document, parts.windows.Get<Poznamka>().Buffer(), parts.platform);
+  TextBuffer& buffer = parts.editor.text;
+  parts.editor.commands.Add("mnu_chp_s", [parts, &buffer] {
+    SaveCheckpoint(buffer, parts.windows.Get<Poznamka>().Buffer(), parts.platform);
   });
   parts.editor.commands.Add("mnu_chp_v", [parts] { ShowNotes(parts); });
-  parts.editor.commands.Add("mnu_chp_r", [parts, &document] {
+  parts.editor.commands.Add("mnu_chp_r", [parts, &buffer] {
     auto& notes = parts.windows.Get<Poznamka>();
     notes.OfferRescued();  // the rescued notes may contain the checkpoint
-    RestoreCheckpoint(notes.Buffer(), document, parts.platform);
+    RestoreCheckpoint(notes.Buffer(), buffer, parts.platform);
   });
 }
 

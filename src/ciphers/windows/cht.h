@@ -15,7 +15,7 @@ class CHT : public FormDialog<Ui::CHT> {
   Q_OBJECT
 
  public:
-  CHT(TextBuffer& document, Platform& platform, QWidget* parent);
+  CHT(TextBuffer& buffer, Platform& platform, QWidget* parent);
 };
 
 }  // namespace pelmar

@@ -8,8 +8,8 @@
 
 namespace pelmar {
 
-Confeld::Confeld(TextBuffer& document, Platform& platform, QWidget* parent)
-    : FormDialog(parent), document_(document), platform_(platform) {
+Confeld::Confeld(TextBuffer& buffer, Platform& platform, QWidget* parent)
+    : FormDialog(parent), buffer_(buffer), platform_(platform) {
   RewriteOnChange(ui_->Text1, PasswordText);
   connect(ui_->Command1, &QPushButton::clicked, this, [this] { Apply(CronfeldEncipher); });
   connect(ui_->Command2, &QPushButton::clicked, this, [this] { Apply(CronfeldDecipher); });
@@ -23,7 +23,7 @@ void Confeld::Apply(std::string (*cipher)(std::string_view text, std::string_vie
   if (ui_->Check1->isChecked()) {
     ui_->Text2->Buffer().SetText(cipher(ui_->Text3->Buffer().Text(), password));
   } else {
-    document_.SetText(cipher(document_.Text(), password));
+    buffer_.SetText(cipher(buffer_.Text(), password));
   }
 }
 

@@ -18,13 +18,13 @@ class Confeld : public FormDialog<Ui::Confeld> {
   Q_OBJECT
 
  public:
-  Confeld(TextBuffer& document, Platform& platform, QWidget* parent);
+  Confeld(TextBuffer& buffer, Platform& platform, QWidget* parent);
 
  private:
   void Apply(std::string (*cipher)(std::string_view text, std::string_view password));
   void Command4_Click();
 
-  TextBuffer& document_;
+  TextBuffer& buffer_;
   Platform& platform_;
 };
 

@@ -21,12 +21,12 @@ void ShowOnly(QListWidget& list, const std::vector<std::string>& rows) {
 
 RND_Sifra::RND_Sifra(Editor& editor, QWidget* parent)
     : FormDialog(parent),
-      document_(editor.text),
+      buffer_(editor.text),
       platform_(editor.platform),
       files_(editor.platform, editor.file_number) {
   for (QListWidget* list : {ui_->List1, ui_->List2}) ShowRowsOnOneLine(*list);  // any file can be loaded as a table
   connect(ui_->Command1, &QPushButton::clicked, this,
-          [this] { ui_->Text1->Buffer().SetText(PrepareText(document_.Text())); });
+          [this] { ui_->Text1->Buffer().SetText(PrepareText(buffer_.Text())); });
   connect(ui_->Command2, &QPushButton::clicked, this, &RND_Sifra::Command2_Click);
   connect(ui_->Command3, &QPushButton::clicked, this, &RND_Sifra::Command3_Click);
   connect(ui_->Command4, &QPushButton::clicked, this, [this] { files_.Save(table_); });
@@ -65,12 +65,12 @@ void RND_Sifra::Command3_Click() {
 void RND_Sifra::Command5_Click() {
   platform_.ReseedRandom();
   const std::string& text = ui_->Text1->Buffer().Text();
-  document_.SetText(RndEncipher(text, table_, DrawFrom(platform_), StartProgress()));
+  buffer_.SetText(RndEncipher(text, table_, DrawFrom(platform_), StartProgress()));
 }
 
 void RND_Sifra::Command6_Click() {
   if (table_.depth == 0) return;  // an empty file leaves a table without depth, which would erase the document
-  document_.SetText(RndDecipher(ui_->Text1->Buffer().Text(), table_, StartProgress()));
+  buffer_.SetText(RndDecipher(ui_->Text1->Buffer().Text(), table_, StartProgress()));
 }
 
 void RND_Sifra::Command8_Click() {

@@ -38,7 +38,7 @@ class RND_Sifra : public FormDialog<Ui::RND_Sifra> {
   void EnableTableButtons();
   [[nodiscard]] Progress StartProgress();
 
-  TextBuffer& document_;
+  TextBuffer& buffer_;
   Platform& platform_;
   TableFiles files_;
   CipherTable table_;

@@ -7,11 +7,11 @@
 
 namespace pelmar {
 
-Shift::Shift(TextBuffer& document, QWidget* parent) : FragmentDialog(document, parent) {
+Shift::Shift(TextBuffer& buffer, QWidget* parent) : FragmentDialog(buffer, parent) {
   // required: the text begins unrotated although the bar begins at 1
-  ui_->Text1->Buffer().SetText(std::string(document_.SelText()));
+  ui_->Text1->Buffer().SetText(std::string(buffer_.SelText()));
   ui_->Orig->SetText(ui_->Text1->Text());
-  ui_->HScroll1->setMaximum(std::max(ui_->HScroll1->minimum(), static_cast<int>(document_.SelLength())));
+  ui_->HScroll1->setMaximum(std::max(ui_->HScroll1->minimum(), static_cast<int>(buffer_.SelLength())));
   connect(ui_->HScroll1, &QScrollBar::valueChanged, this, &Shift::HScroll1_Change);
   ui_->HScroll1->setFocus();
 }
@@ -22,7 +22,7 @@ void Shift::HScroll1_Change(int value) {
 }
 
 bool Shift::Put() {
-  document_.ReplaceSelection(ui_->Text1->Buffer().Text());
+  buffer_.ReplaceSelection(ui_->Text1->Buffer().Text());
   return true;
 }
 

@@ -13,7 +13,7 @@ class Shift : public FragmentDialog<Ui::Shift> {
   Q_OBJECT
 
  public:
-  Shift(TextBuffer& document, QWidget* parent);
+  Shift(TextBuffer& buffer, QWidget* parent);
 
  private:
   void HScroll1_Change(int value);

@@ -13,8 +13,8 @@ std::string Shifted(std::string_view text, int shift) { return Shiftp(text, stat
 
 }  // namespace
 
-ShiftKod::ShiftKod(TextBuffer& document, Platform& platform, QWidget* parent)
-    : FormDialog(parent), document_(document), platform_(platform) {
+ShiftKod::ShiftKod(TextBuffer& buffer, Platform& platform, QWidget* parent)
+    : FormDialog(parent), buffer_(buffer), platform_(platform) {
   connect(ui_->HScroll1, &QScrollBar::valueChanged, this, &ShiftKod::HScroll1_Change);
   connect(ui_->Text1, &TextBox::TextChanged, this, [this] { ShowQuickText(ui_->HScroll1->value()); });
   connect(ui_->Check1, &QCheckBox::clicked, this, [this](bool on) {
@@ -40,7 +40,7 @@ void ShiftKod::Command4_Click() {
 
 void ShiftKod::Apply(int shift) {
   if (ui_->Check1->isChecked()) return ShowQuickText(shift);
-  document_.SetText(Shifted(document_.Text(), shift));
+  buffer_.SetText(Shifted(buffer_.Text(), shift));
 }
 
 void ShiftKod::ShowQuickText(int shift) { ui_->Text2->Buffer().SetText(Shifted(ui_->Text1->Buffer().Text(), shift)); }

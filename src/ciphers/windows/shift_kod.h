@@ -15,7 +15,7 @@ class ShiftKod : public FormDialog<Ui::ShiftKod> {
   Q_OBJECT
 
  public:
-  ShiftKod(TextBuffer& document, Platform& platform, QWidget* parent);
+  ShiftKod(TextBuffer& buffer, Platform& platform, QWidget* parent);
 
  private:
   void HScroll1_Change(int value);
@@ -23,7 +23,7 @@ class ShiftKod : public FormDialog<Ui::ShiftKod> {
   void Apply(int shift);
   void ShowQuickText(int shift);
 
-  TextBuffer& document_;
+  TextBuffer& buffer_;
   Platform& platform_;
 };
 

@@ -7,11 +7,11 @@
 
 namespace pelmar {
 
-Attr::Attr(TextBuffer& document, Platform& platform, QWidget* parent)
-    : FragmentDialog(document, parent, &Ui::Attr::Command3, &Ui::Attr::Command4), platform_(platform) {
+Attr::Attr(TextBuffer& buffer, Platform& platform, QWidget* parent)
+    : FragmentDialog(buffer, parent, &Ui::Attr::Command3, &Ui::Attr::Command4), platform_(platform) {
   OnEnter(ui_->Attributes->ValueBox(), [this] { ui_->Attributes->Lists().Add(); });
 }
 
-bool Attr::Put() { return AddAttributes(document_, ui_->Attributes->Lists().Rows(), platform_); }
+bool Attr::Put() { return AddAttributes(buffer_, ui_->Attributes->Lists().Rows(), platform_); }
 
 }  // namespace pelmar

@@ -14,7 +14,7 @@ class Attr : public FragmentDialog<Ui::Attr> {
   Q_OBJECT
 
  public:
-  Attr(TextBuffer& document, Platform& platform, QWidget* parent);
+  Attr(TextBuffer& buffer, Platform& platform, QWidget* parent);
 
  private:
   bool Put() override;

@@ -6,8 +6,8 @@
 
 namespace pelmar {
 
-Barva::Barva(TextBuffer& document, std::function<Color(Color)> pick_color, QWidget* parent)
-    : FragmentDialog(document, parent) {
+Barva::Barva(TextBuffer& buffer, std::function<Color(Color)> pick_color, QWidget* parent)
+    : FragmentDialog(buffer, parent) {
   ui_->Combo1->setCurrentText(QStringLiteral("Combo1"));
   AcceptFreeText(ui_->Combo1);
   EnableWith(ui_->Check1, {ui_->VScroll4});
@@ -22,7 +22,7 @@ bool Barva::Put() {
   if (ui_->Check1->isChecked()) spec.size = ui_->VScroll4->value();
   spec.face = Written(ui_->Check2, ui_->Combo1);
   spec.color = Written(ui_->Check3, ui_->Label2);
-  WrapSelection(document_, Font(spec));
+  WrapSelection(buffer_, Font(spec));
   return true;
 }
 

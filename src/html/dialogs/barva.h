@@ -16,7 +16,7 @@ class Barva : public FragmentDialog<Ui::Barva> {
   Q_OBJECT
 
  public:
-  Barva(TextBuffer& document, std::function<Color(Color)> pick_color, QWidget* parent);
+  Barva(TextBuffer& buffer, std::function<Color(Color)> pick_color, QWidget* parent);
 
  private:
   bool Put() override;

@@ -4,6 +4,6 @@
 
 namespace pelmar {
 
-CisSeznam::CisSeznam(TextBuffer& document, QWidget* parent) : ItemListDialog(document, ListKind::kNumbers, parent) {}
+CisSeznam::CisSeznam(TextBuffer& buffer, QWidget* parent) : ItemListDialog(buffer, ListKind::kNumbers, parent) {}
 
 }  // namespace pelmar

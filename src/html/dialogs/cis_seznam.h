@@ -13,7 +13,7 @@ class CisSeznam : public ItemListDialog<Ui::CisSeznam> {
   Q_OBJECT
 
  public:
-  CisSeznam(TextBuffer& document, QWidget* parent);
+  CisSeznam(TextBuffer& buffer, QWidget* parent);
 };
 
 }  // namespace pelmar

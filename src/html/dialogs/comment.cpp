@@ -6,7 +6,7 @@
 
 namespace pelmar {
 
-Comment::Comment(TextBuffer& document, QWidget* parent) : FragmentDialog(document, parent) {}
+Comment::Comment(TextBuffer& buffer, QWidget* parent) : FragmentDialog(buffer, parent) {}
 
 bool Comment::Put() { return Insert(CommentText(FieldText(*ui_->Text1))); }
 

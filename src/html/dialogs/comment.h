@@ -13,7 +13,7 @@ class Comment : public FragmentDialog<Ui::Comment> {
   Q_OBJECT
 
  public:
-  Comment(TextBuffer& document, QWidget* parent);
+  Comment(TextBuffer& buffer, QWidget* parent);
 
  private:
   bool Put() override;

@@ -11,8 +11,8 @@
 
 namespace pelmar {
 
-EdiTag::EdiTag(TextBuffer& document, Platform& platform, std::function<Color(Color)> pick_color, QWidget* parent)
-    : FragmentDialog(document, parent, &Ui::EdiTag::Command3, &Ui::EdiTag::Command4), platform_(platform) {
+EdiTag::EdiTag(TextBuffer& buffer, Platform& platform, std::function<Color(Color)> pick_color, QWidget* parent)
+    : FragmentDialog(buffer, parent, &Ui::EdiTag::Command3, &Ui::EdiTag::Command4), platform_(platform) {
   connect(ui_->Command5, &QPushButton::clicked, this,
           [this, pick = std::move(pick_color)] { SetValue(Utf8ToQString(ColorToHex(pick(0)))); });
   connect(ui_->Command6, &QPushButton::clicked, this, &EdiTag::Command6_Click);
@@ -21,7 +21,7 @@ EdiTag::EdiTag(TextBuffer& document, Platform& platform, std::function<Color(Col
 }
 
 void EdiTag::Run() {
-  const TagAnalysis analysis = OpenTag(document_, platform_);
+  const TagAnalysis analysis = OpenTag(buffer_, platform_);
   ui_->Text1->setText(TextToQString(analysis.name));
   ui_->Attributes->Lists().SetRows(analysis.attributes);
   ui_->Attributes->Lists().EditSelectedRows();
@@ -29,7 +29,7 @@ void EdiTag::Run() {
 }
 
 bool EdiTag::Put() {
-  document_.ReplaceSelection(TagText(FieldText(*ui_->Text1), ui_->Attributes->Lists().Rows()));
+  buffer_.ReplaceSelection(TagText(FieldText(*ui_->Text1), ui_->Attributes->Lists().Rows()));
   return true;
 }
 

@@ -18,7 +18,7 @@ class EdiTag : public FragmentDialog<Ui::EdiTag> {
   Q_OBJECT
 
  public:
-  EdiTag(TextBuffer& document, Platform& platform, std::function<Color(Color)> pick_color, QWidget* parent);
+  EdiTag(TextBuffer& buffer, Platform& platform, std::function<Color(Color)> pick_color, QWidget* parent);
 
   // Reads the tag, with a message if the tag can't be read, and returns when the dialog is closed.
   void Run();

@@ -7,8 +7,8 @@
 
 namespace pelmar {
 
-Frame::Frame(TextBuffer& document, std::function<void(const std::string&)> show_in_browser, QWidget* parent)
-    : FragmentDialog(document, parent), choice_(FileChoice::Of(*ui_, ui_->Check5, ui_->Label1)) {
+Frame::Frame(TextBuffer& buffer, std::function<void(const std::string&)> show_in_browser, QWidget* parent)
+    : FragmentDialog(buffer, parent), choice_(FileChoice::Of(*ui_, ui_->Check5, ui_->Label1)) {
   choice_.Link(std::move(show_in_browser));
   for (QComboBox* words : {ui_->Combo2, ui_->Combo3}) AcceptFreeText(words);
   EnableWith(ui_->Check4, {ui_->Text1});

@@ -15,7 +15,7 @@ class Frame : public FragmentDialog<Ui::Frame> {
   Q_OBJECT
 
  public:
-  Frame(TextBuffer& document, std::function<void(const std::string& path)> show_in_browser, QWidget* parent);
+  Frame(TextBuffer& buffer, std::function<void(const std::string& path)> show_in_browser, QWidget* parent);
 
  private:
   void ShowBorderColor();

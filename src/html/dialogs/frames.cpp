@@ -6,14 +6,13 @@
 
 namespace pelmar {
 
-Frames::Frames(TextBuffer& document, QWidget* parent) : FragmentDialog(document, parent) {
+Frames::Frames(TextBuffer& buffer, QWidget* parent) : FragmentDialog(buffer, parent) {
   EnableWith(ui_->Check1, {ui_->Text1});
   EnableWith(ui_->Check2, {ui_->Text2});
 }
 
 bool Frames::Put() {
-  WrapInFrameset(document_,
-                 {Written(ui_->Check1, ui_->Text1), Written(ui_->Check2, ui_->Text2), FieldText(*ui_->Text3)});
+  WrapInFrameset(buffer_, {Written(ui_->Check1, ui_->Text1), Written(ui_->Check2, ui_->Text2), FieldText(*ui_->Text3)});
   return true;
 }
 

@@ -13,7 +13,7 @@ class Frames : public FragmentDialog<Ui::Frames> {
   Q_OBJECT
 
  public:
-  Frames(TextBuffer& document, QWidget* parent);
+  Frames(TextBuffer& buffer, QWidget* parent);
 
  private:
   bool Put() override;

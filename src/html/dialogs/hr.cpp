@@ -6,7 +6,7 @@
 
 namespace pelmar {
 
-Hr::Hr(TextBuffer& document, QWidget* parent) : FragmentDialog(document, parent) {
+Hr::Hr(TextBuffer& buffer, QWidget* parent) : FragmentDialog(buffer, parent) {
   EnableWith(ui_->Check1, {ui_->Option4, ui_->Option5, ui_->VScroll1});
   LinkUnit(ui_->Option4, ui_->VScroll1, ui_->Label1);
   // Pixels show with a blank where their option is clicked, also again, and without one where the bar moves.

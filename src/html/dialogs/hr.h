@@ -13,7 +13,7 @@ class Hr : public FragmentDialog<Ui::Hr> {
   Q_OBJECT
 
  public:
-  Hr(TextBuffer& document, QWidget* parent);
+  Hr(TextBuffer& buffer, QWidget* parent);
 
  private:
   bool Put() override;

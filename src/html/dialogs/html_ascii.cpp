@@ -8,7 +8,7 @@
 
 namespace pelmar {
 
-HTMLAscii::HTMLAscii(TextBuffer& document, QWidget* parent) : FragmentDialog(document, parent) {
+HTMLAscii::HTMLAscii(TextBuffer& buffer, QWidget* parent) : FragmentDialog(buffer, parent) {
   ShowValue(ui_->HScroll1, ui_->Label1);
   ShowValue(ui_->HScroll1, ui_->Label2, [](int value) { return TextToQString(std::string(1, CharOf(value))); });
 }

@@ -13,7 +13,7 @@ class HTMLAscii : public FragmentDialog<Ui::HTMLAscii> {
   Q_OBJECT
 
  public:
-  HTMLAscii(TextBuffer& document, QWidget* parent);
+  HTMLAscii(TextBuffer& buffer, QWidget* parent);
 
  private:
   bool Put() override;

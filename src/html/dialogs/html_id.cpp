@@ -6,10 +6,10 @@
 
 namespace pelmar {
 
-HtmlID::HtmlID(TextBuffer& document, QWidget* parent) : FragmentDialog(document, parent) {}
+HtmlID::HtmlID(TextBuffer& buffer, QWidget* parent) : FragmentDialog(buffer, parent) {}
 
 bool HtmlID::Put() {
-  PutDoctype(document_, FieldText(*ui_->Combo1));
+  PutDoctype(buffer_, FieldText(*ui_->Combo1));
   return true;
 }
 

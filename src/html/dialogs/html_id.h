@@ -13,7 +13,7 @@ class HtmlID : public FragmentDialog<Ui::HtmlID> {
   Q_OBJECT
 
  public:
-  HtmlID(TextBuffer& document, QWidget* parent);
+  HtmlID(TextBuffer& buffer, QWidget* parent);
 
  private:
   bool Put() override;

@@ -9,8 +9,8 @@
 namespace pelmar {
 
 template <class Form>
-ItemListDialog<Form>::ItemListDialog(TextBuffer& document, ListKind kind, QWidget* parent)
-    : FragmentDialog<Form>(document, parent, &Form::Command3, &Form::Command4), kind_(kind) {
+ItemListDialog<Form>::ItemListDialog(TextBuffer& buffer, ListKind kind, QWidget* parent)
+    : FragmentDialog<Form>(buffer, parent, &Form::Command3, &Form::Command4), kind_(kind) {
   const auto& ui = this->ui_;
   for (QAbstractButton* type : ui->kind->buttons()) EnableWith(ui->Check2, {type});
   EnableWith(ui->Check1, {ui->Text2});

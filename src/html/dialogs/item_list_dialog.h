@@ -10,7 +10,7 @@ namespace pelmar {
 template <class Form>
 class ItemListDialog : public FragmentDialog<Form> {
  protected:
-  ItemListDialog(TextBuffer& document, ListKind kind, QWidget* parent);
+  ItemListDialog(TextBuffer& buffer, ListKind kind, QWidget* parent);
 
   bool Put() override;
 

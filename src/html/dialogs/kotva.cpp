@@ -6,8 +6,8 @@
 
 namespace pelmar {
 
-Kotva::Kotva(TextBuffer& document, std::function<void(const QString&)> remember, QWidget* parent)
-    : FragmentDialog(document, parent), remember_(std::move(remember)) {}
+Kotva::Kotva(TextBuffer& buffer, std::function<void(const QString&)> remember, QWidget* parent)
+    : FragmentDialog(buffer, parent), remember_(std::move(remember)) {}
 
 bool Kotva::Put() {
   if (ui_->Text1->text().isEmpty()) return false;

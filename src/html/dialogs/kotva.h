@@ -15,7 +15,7 @@ class Kotva : public FragmentDialog<Ui::Kotva> {
   Q_OBJECT
 
  public:
-  Kotva(TextBuffer& document, std::function<void(const QString& name)> remember, QWidget* parent);
+  Kotva(TextBuffer& buffer, std::function<void(const QString& name)> remember, QWidget* parent);
 
  private:
   bool Put() override;

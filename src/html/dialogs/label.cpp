@@ -6,7 +6,7 @@
 
 namespace pelmar {
 
-Label::Label(TextBuffer& document, QWidget* parent) : FragmentDialog(document, parent) {}
+Label::Label(TextBuffer& buffer, QWidget* parent) : FragmentDialog(buffer, parent) {}
 
 bool Label::Put() { return Insert(TableHeading(FieldText(*ui_->Text1))); }
 

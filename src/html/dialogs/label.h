@@ -13,7 +13,7 @@ class Label : public FragmentDialog<Ui::Label> {
   Q_OBJECT
 
  public:
-  Label(TextBuffer& document, QWidget* parent);
+  Label(TextBuffer& buffer, QWidget* parent);
 
  private:
   bool Put() override;

@@ -6,7 +6,7 @@
 
 namespace pelmar {
 
-LineLabel::LineLabel(TextBuffer& document, QWidget* parent) : FragmentDialog(document, parent) {}
+LineLabel::LineLabel(TextBuffer& buffer, QWidget* parent) : FragmentDialog(buffer, parent) {}
 
 bool LineLabel::Put() { return Insert(LinedHeading(FieldText(*ui_->Text1))); }
 

@@ -13,7 +13,7 @@ class LineLabel : public FragmentDialog<Ui::LineLabel> {
   Q_OBJECT
 
  public:
-  LineLabel(TextBuffer& document, QWidget* parent);
+  LineLabel(TextBuffer& buffer, QWidget* parent);
 
  private:
   bool Put() override;

@@ -7,12 +7,12 @@
 
 namespace pelmar {
 
-MailTo::MailTo(TextBuffer& document, const std::string& address, QWidget* parent) : FragmentDialog(document, parent) {
+MailTo::MailTo(TextBuffer& buffer, const std::string& address, QWidget* parent) : FragmentDialog(buffer, parent) {
   ui_->Text1->setText(TextToQString(address));
 }
 
 bool MailTo::Put() {
-  WrapSelection(document_, LinkToMail(FieldText(*ui_->Text1)));
+  WrapSelection(buffer_, LinkToMail(FieldText(*ui_->Text1)));
   return true;
 }
 

@@ -16,7 +16,7 @@ class MailTo : public FragmentDialog<Ui::MailTo> {
 
  public:
   // `address` is the initial text of the field, in Windows-1250.
-  MailTo(TextBuffer& document, const std::string& address, QWidget* parent);
+  MailTo(TextBuffer& buffer, const std::string& address, QWidget* parent);
 
  private:
   bool Put() override;

@@ -5,7 +5,7 @@
 
 namespace pelmar {
 
-Meta::Meta(TextBuffer& document, QWidget* parent) : FragmentDialog(document, parent) {
+Meta::Meta(TextBuffer& buffer, QWidget* parent) : FragmentDialog(buffer, parent) {
   ui_->Combo1->setCurrentText(QStringLiteral("Vyber meta-tag"));
   AcceptFreeText(ui_->Combo1);
 }

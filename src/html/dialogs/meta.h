@@ -13,7 +13,7 @@ class Meta : public FragmentDialog<Ui::Meta> {
   Q_OBJECT
 
  public:
-  Meta(TextBuffer& document, QWidget* parent);
+  Meta(TextBuffer& buffer, QWidget* parent);
 
  private:
   bool Put() override;

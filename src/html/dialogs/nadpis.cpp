@@ -6,7 +6,7 @@
 
 namespace pelmar {
 
-Nadpis::Nadpis(TextBuffer& document, QWidget* parent) : FragmentDialog(document, parent) {
+Nadpis::Nadpis(TextBuffer& buffer, QWidget* parent) : FragmentDialog(buffer, parent) {
   ShowValue(ui_->VScroll1, ui_->Label1, BlankLed);
 }
 
@@ -17,7 +17,7 @@ bool Nadpis::Put() {
   spec.align =
       SetOption<Align>({{ui_->Option1, kLeft}, {ui_->Option2, kCenter}, {ui_->Option3, kRight}, {ui_->Option4, kNone}});
   spec.no_wrap = ui_->Check1->isChecked();
-  WrapSelection(document_, Heading(spec));
+  WrapSelection(buffer_, Heading(spec));
   return true;
 }
 

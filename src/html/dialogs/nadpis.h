@@ -13,7 +13,7 @@ class Nadpis : public FragmentDialog<Ui::Nadpis> {
   Q_OBJECT
 
  public:
-  Nadpis(TextBuffer& document, QWidget* parent);
+  Nadpis(TextBuffer& buffer, QWidget* parent);
 
  private:
   bool Put() override;

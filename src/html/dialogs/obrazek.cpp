@@ -5,8 +5,8 @@
 
 namespace pelmar {
 
-Obrazek::Obrazek(TextBuffer& document, std::function<void(const std::string&)> show_in_browser, QWidget* parent)
-    : FragmentDialog(document, parent), choice_(FileChoice::Of(*ui_, ui_->Check5, ui_->Label1)) {
+Obrazek::Obrazek(TextBuffer& buffer, std::function<void(const std::string&)> show_in_browser, QWidget* parent)
+    : FragmentDialog(buffer, parent), choice_(FileChoice::Of(*ui_, ui_->Check5, ui_->Label1)) {
   choice_.Link(std::move(show_in_browser));
   EnableGroups();
   // required: in pixels the width has a larger range than the height

@@ -15,7 +15,7 @@ class Obrazek : public FragmentDialog<Ui::Obrazek> {
   Q_OBJECT
 
  public:
-  Obrazek(TextBuffer& document, std::function<void(const std::string& path)> show_in_browser, QWidget* parent);
+  Obrazek(TextBuffer& buffer, std::function<void(const std::string& path)> show_in_browser, QWidget* parent);
 
  private:
   void EnableGroups();

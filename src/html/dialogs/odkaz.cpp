@@ -6,7 +6,7 @@
 
 namespace pelmar {
 
-Odkaz::Odkaz(TextBuffer& document, QWidget* parent) : FragmentDialog(document, parent) {
+Odkaz::Odkaz(TextBuffer& buffer, QWidget* parent) : FragmentDialog(buffer, parent) {
   AcceptFreeText(ui_->Combo1);  // the toolkit would complete a typed "Kotva1" to "Kotva10"
 }
 
@@ -20,7 +20,7 @@ void Odkaz::AddAnchor(const QString& name) {
 bool Odkaz::Put() {
   const std::string name = FieldText(*ui_->Combo1);
   if (name.empty()) return false;
-  WrapSelection(document_, LinkToAnchor(name));
+  WrapSelection(buffer_, LinkToAnchor(name));
   return true;
 }
 

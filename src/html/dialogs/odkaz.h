@@ -14,7 +14,7 @@ class Odkaz : public FragmentDialog<Ui::Odkaz> {
   Q_OBJECT
 
  public:
-  Odkaz(TextBuffer& document, QWidget* parent);
+  Odkaz(TextBuffer& buffer, QWidget* parent);
 
   // Appends the name to the list, even if the list has the name already. The field keeps its text.
   void AddAnchor(const QString& name);

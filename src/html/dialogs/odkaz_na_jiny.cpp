@@ -6,8 +6,8 @@
 
 namespace pelmar {
 
-OdkazNaJiny::OdkazNaJiny(TextBuffer& document, std::function<void(const std::string&)> show_in_browser, QWidget* parent)
-    : FragmentDialog(document, parent), choice_(FileChoice::Of(*ui_, ui_->Check2, ui_->Label1)) {
+OdkazNaJiny::OdkazNaJiny(TextBuffer& buffer, std::function<void(const std::string&)> show_in_browser, QWidget* parent)
+    : FragmentDialog(buffer, parent), choice_(FileChoice::Of(*ui_, ui_->Check2, ui_->Label1)) {
   setObjectName(QStringLiteral("OdkazNaJiný"));
   choice_.Link(std::move(show_in_browser));
   EnableWith(ui_->Check1, {ui_->Text2});
@@ -44,7 +44,7 @@ LinkSpec OdkazNaJiny::Read() const {
 }
 
 bool OdkazNaJiny::Put() {
-  WrapSelection(document_, LinkToDocument(Read()));
+  WrapSelection(buffer_, LinkToDocument(Read()));
   return true;
 }
 

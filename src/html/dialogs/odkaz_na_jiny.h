@@ -15,7 +15,7 @@ class OdkazNaJiny : public FragmentDialog<Ui::OdkazNaJiny> {
   Q_OBJECT
 
  public:
-  OdkazNaJiny(TextBuffer& document, std::function<void(const std::string& path)> show_in_browser, QWidget* parent);
+  OdkazNaJiny(TextBuffer& buffer, std::function<void(const std::string& path)> show_in_browser, QWidget* parent);
 
  private:
   void Option_Click();

@@ -6,11 +6,11 @@
 
 namespace pelmar {
 
-Odstavec::Odstavec(TextBuffer& document, QWidget* parent) : FragmentDialog(document, parent) {}
+Odstavec::Odstavec(TextBuffer& buffer, QWidget* parent) : FragmentDialog(buffer, parent) {}
 
 bool Odstavec::Put() {
   using enum Align;
-  WrapSelection(document_,
+  WrapSelection(buffer_,
                 Paragraph(SetOption<Align>({{ui_->Option1, kLeft}, {ui_->Option2, kCenter}, {ui_->Option3, kRight}})));
   return true;
 }

@@ -13,7 +13,7 @@ class Odstavec : public FragmentDialog<Ui::Odstavec> {
   Q_OBJECT
 
  public:
-  Odstavec(TextBuffer& document, QWidget* parent);
+  Odstavec(TextBuffer& buffer, QWidget* parent);
 
  private:
   bool Put() override;

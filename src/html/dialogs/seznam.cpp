@@ -4,6 +4,6 @@
 
 namespace pelmar {
 
-Seznam::Seznam(TextBuffer& document, QWidget* parent) : ItemListDialog(document, ListKind::kBullets, parent) {}
+Seznam::Seznam(TextBuffer& buffer, QWidget* parent) : ItemListDialog(buffer, ListKind::kBullets, parent) {}
 
 }  // namespace pelmar

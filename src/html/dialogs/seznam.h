@@ -13,7 +13,7 @@ class Seznam : public ItemListDialog<Ui::Seznam> {
   Q_OBJECT
 
  public:
-  Seznam(TextBuffer& document, QWidget* parent);
+  Seznam(TextBuffer& buffer, QWidget* parent);
 };
 
 }  // namespace pelmar

@@ -6,8 +6,8 @@
 
 namespace pelmar {
 
-SeznamDef::SeznamDef(TextBuffer& document, QWidget* parent)
-    : FragmentDialog(document, parent, &Ui::SeznamDef::Command3, &Ui::SeznamDef::Command4) {
+SeznamDef::SeznamDef(TextBuffer& buffer, QWidget* parent)
+    : FragmentDialog(buffer, parent, &Ui::SeznamDef::Command3, &Ui::SeznamDef::Command4) {
   lists_ =
       new PairedLists({ui_->Atribut, ui_->Hodnota, ui_->Atributs, ui_->Values, ui_->Command1, ui_->Command2}, this);
   OnEnter(ui_->Hodnota, [this] { lists_->Add(); });

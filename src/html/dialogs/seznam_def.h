@@ -15,7 +15,7 @@ class SeznamDef : public FragmentDialog<Ui::SeznamDef> {
   Q_OBJECT
 
  public:
-  SeznamDef(TextBuffer& document, QWidget* parent);
+  SeznamDef(TextBuffer& buffer, QWidget* parent);
 
  private:
   bool Put() override;

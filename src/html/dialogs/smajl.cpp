@@ -7,7 +7,7 @@
 
 namespace pelmar {
 
-Smajl::Smajl(TextBuffer& document, QWidget* parent) : FragmentDialog(document, parent) {
+Smajl::Smajl(TextBuffer& buffer, QWidget* parent) : FragmentDialog(buffer, parent) {
   // The form can't hold a text of blanks alone.
   for (QComboBox* part : {ui_->Combo1, ui_->Combo2, ui_->Combo3, ui_->Combo4, ui_->Combo5})
     if (const int blank = part->findText(QString()); blank >= 0) part->setItemText(blank, QStringLiteral(" "));

@@ -13,7 +13,7 @@ class Smajl : public FragmentDialog<Ui::Smajl> {
   Q_OBJECT
 
  public:
-  Smajl(TextBuffer& document, QWidget* parent);
+  Smajl(TextBuffer& buffer, QWidget* parent);
 
  private:
   bool Put() override;

@@ -50,8 +50,8 @@ CaptionSide SideOf(const Ui::Table& ui) {
 
 }  // namespace
 
-Table::Table(TextBuffer& document, AskAttributes ask_cell, AskAttributes ask_row, QWidget* parent)
-    : FragmentDialog(document, parent) {
+Table::Table(TextBuffer& buffer, AskAttributes ask_cell, AskAttributes ask_row, QWidget* parent)
+    : FragmentDialog(buffer, parent) {
   MakeTabs();
   ConnectGroups();
   ConnectWalk(std::move(ask_cell), std::move(ask_row));

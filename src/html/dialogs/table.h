@@ -22,7 +22,7 @@ class Table : public FragmentDialog<Ui::Table> {
   // Asks the person for attributes. Nothing on cancel.
   using AskAttributes = std::function<std::optional<std::string>()>;
 
-  Table(TextBuffer& document, AskAttributes ask_cell, AskAttributes ask_row, QWidget* parent);
+  Table(TextBuffer& buffer, AskAttributes ask_cell, AskAttributes ask_row, QWidget* parent);
 
  private:
   void MakeTabs();

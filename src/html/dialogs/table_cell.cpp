@@ -5,8 +5,8 @@
 
 namespace pelmar {
 
-TableCell::TableCell(TextBuffer& document, std::function<Color(Color)> pick_color, QWidget* parent)
-    : AttributesDialog(document, parent) {
+TableCell::TableCell(TextBuffer& buffer, std::function<Color(Color)> pick_color, QWidget* parent)
+    : AttributesDialog(buffer, parent) {
   EnableWith(ui_->Check3, {ui_->Command3});
   ConnectColorChoice(ui_->Command3, ui_->Label1, ui_->Label2, std::move(pick_color));
   EnableWith(ui_->Check4, {ui_->VScroll4});
@@ -31,7 +31,7 @@ CellSpec TableCell::Read() const {
 
 std::string TableCell::OpeningTag() const { return CellTag(Read()); }
 
-void TableCell::InsertTags() { WrapInCell(document_, Read()); }
+void TableCell::InsertTags() { WrapInCell(buffer_, Read()); }
 
 void TableCell::EnableForEditor(bool enabled) { ui_->Check9->setEnabled(enabled); }
 

@@ -16,7 +16,7 @@ class TableCell : public AttributesDialog<Ui::TableCell> {
   Q_OBJECT
 
  public:
-  TableCell(TextBuffer& document, std::function<Color(Color)> pick_color, QWidget* parent);
+  TableCell(TextBuffer& buffer, std::function<Color(Color)> pick_color, QWidget* parent);
 
  private:
   [[nodiscard]] CellSpec Read() const;

@@ -5,7 +5,7 @@
 
 namespace pelmar {
 
-TableRow::TableRow(TextBuffer& document, QWidget* parent) : AttributesDialog(document, parent) {
+TableRow::TableRow(TextBuffer& buffer, QWidget* parent) : AttributesDialog(buffer, parent) {
   ShowValue(ui_->VScroll1, ui_->Label2);
 }
 
@@ -13,7 +13,7 @@ RowSpec TableRow::Read() const { return {ui_->alignment->Read(), ui_->VScroll1->
 
 std::string TableRow::OpeningTag() const { return RowTag(Read()); }
 
-void TableRow::InsertTags() { InsertRow(document_, Read()); }
+void TableRow::InsertTags() { InsertRow(buffer_, Read()); }
 
 void TableRow::EnableForEditor(bool enabled) { ui_->VScroll1->setEnabled(enabled); }
 

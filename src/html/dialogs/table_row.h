@@ -13,7 +13,7 @@ class TableRow : public AttributesDialog<Ui::TableRow> {
   Q_OBJECT
 
  public:
-  TableRow(TextBuffer& document, QWidget* parent);
+  TableRow(TextBuffer& buffer, QWidget* parent);
 
  private:
   [[nodiscard]] RowSpec Read() const;

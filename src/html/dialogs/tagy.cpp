@@ -8,13 +8,13 @@
 
 namespace pelmar {
 
-Tagy::Tagy(TextBuffer& document, QWidget* parent)
-    : FragmentDialog(document, parent, &Ui::Tagy::Command3, &Ui::Tagy::Command4) {
+Tagy::Tagy(TextBuffer& buffer, QWidget* parent)
+    : FragmentDialog(buffer, parent, &Ui::Tagy::Command3, &Ui::Tagy::Command4) {
   OnEnter(ui_->Attributes->ValueBox(), [this] { ui_->Attributes->Lists().Add(); });
 }
 
 void Tagy::InsertCustomTag() {
-  pelmar::InsertCustomTag(document_,
+  pelmar::InsertCustomTag(buffer_,
                           {FieldText(*ui_->TagText), ui_->Attributes->Lists().Rows(), ui_->Check1->isChecked()});
 }
 

@@ -13,7 +13,7 @@ class Tagy : public FragmentDialog<Ui::Tagy> {
   Q_OBJECT
 
  public:
-  Tagy(TextBuffer& document, QWidget* parent);
+  Tagy(TextBuffer& buffer, QWidget* parent);
 
   // Writes the tag that the fields hold, also while the window is hidden.
   void InsertCustomTag();

@@ -10,8 +10,8 @@
 
 namespace pelmar {
 
-Template::Template(TextBuffer& document, const SettingsRecord& settings, QWidget* parent)
-    : FragmentDialog(document, parent), settings_(settings) {
+Template::Template(TextBuffer& buffer, const SettingsRecord& settings, QWidget* parent)
+    : FragmentDialog(buffer, parent), settings_(settings) {
   FillList();
   ui_->Text1->SetText(ToBytes("Vyber dokument\r\n"));
   ChooseFirstByArrows(ui_->ListView1);
@@ -39,7 +39,7 @@ void Template::ListView1_Click() {
 }
 
 bool Template::Put() {
-  document_.SetText(ui_->Text1->Buffer().Text());
+  buffer_.SetText(ui_->Text1->Buffer().Text());
   return true;
 }
 

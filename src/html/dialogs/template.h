@@ -14,7 +14,7 @@ class Template : public FragmentDialog<Ui::Template> {
   Q_OBJECT
 
  public:
-  Template(TextBuffer& document, const SettingsRecord& settings, QWidget* parent);
+  Template(TextBuffer& buffer, const SettingsRecord& settings, QWidget* parent);
 
  private:
   void FillList();

@@ -10,9 +10,9 @@
 
 namespace pelmar {
 
-Vytvor::Vytvor(TextBuffer& document, MainView& view, const SettingsRecord& settings, Platform& platform,
+Vytvor::Vytvor(TextBuffer& buffer, MainView& view, const SettingsRecord& settings, Platform& platform,
                const Doors& doors, QWidget* parent)
-    : FragmentDialog(document, parent),
+    : FragmentDialog(buffer, parent),
       view_(view),
       settings_(settings),
       platform_(platform),
@@ -82,7 +82,7 @@ void Vytvor::ColorEditor() {
 
 bool Vytvor::Put() {
   ColorEditor();
-  WrapInPage(document_, Read());
+  WrapInPage(buffer_, Read());
   return true;
 }
 

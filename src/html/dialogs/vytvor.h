@@ -22,7 +22,7 @@ class Vytvor : public FragmentDialog<Ui::Vytvor> {
     std::function<Color(Color)> pick_color;
     std::function<void(const std::string& path)> show_in_browser;
   };
-  Vytvor(TextBuffer& document, MainView& view, const SettingsRecord& settings, Platform& platform, const Doors& doors,
+  Vytvor(TextBuffer& buffer, MainView& view, const SettingsRecord& settings, Platform& platform, const Doors& doors,
          QWidget* parent);
 
  private:

@@ -6,7 +6,7 @@
 
 namespace pelmar {
 
-Zlomek::Zlomek(TextBuffer& document, QWidget* parent) : FragmentDialog(document, parent) {}
+Zlomek::Zlomek(TextBuffer& buffer, QWidget* parent) : FragmentDialog(buffer, parent) {}
 
 bool Zlomek::Put() { return Insert(Fraction(FieldText(*ui_->Text1), FieldText(*ui_->Text2))); }
 

@@ -13,7 +13,7 @@ class Zlomek : public FragmentDialog<Ui::Zlomek> {
   Q_OBJECT
 
  public:
-  Zlomek(TextBuffer& document, QWidget* parent);
+  Zlomek(TextBuffer& buffer, QWidget* parent);
 
  private:
   bool Put() override;

@@ -36,16 +36,16 @@ void StatusTimer::SnapWindows() {
 
 // Updates only panels whose content has changed, because the document and the clipboard may be long.
 void StatusTimer::ShowPanels(std::uint64_t clipboard_revision, const std::optional<std::string>& clipboard) {
-  const TextBuffer& text = editor_.text;
+  const TextBuffer& buffer = editor_.text;
   StatusStrip& bar = window_.Bar();
   if (bar.Cleared()) {
     shown_text_.reset();
     shown_content_.reset();
   }
-  const TextState of_text{text.Revision(), text.SelStart(), text.SelEnd(), editor_.settings.LineCounting};
-  if (std::exchange(shown_text_, of_text) != of_text) bar.Show(ComputePanels(text, of_text.line_counting));
-  const ContentState of_content{text.HasSelection() ? of_text : TextState(), clipboard_revision};
-  if (std::exchange(shown_content_, of_content) != of_content) bar.ShowContent(ComputeContent(text, clipboard));
+  const TextState of_text{buffer.Revision(), buffer.SelStart(), buffer.SelEnd(), editor_.settings.LineCounting};
+  if (std::exchange(shown_text_, of_text) != of_text) bar.Show(ComputePanels(buffer, of_text.line_counting));
+  const ContentState of_content{buffer.HasSelection() ? of_text : TextState(), clipboard_revision};
+  if (std::exchange(shown_content_, of_content) != of_content) bar.ShowContent(ComputeContent(buffer, clipboard));
 }
 
 void StatusTimer::Tick() {

@@ -12,8 +12,8 @@ std::size_t Distance(const QScrollBar& bar) { return static_cast<std::size_t>(ba
 
 }  // namespace
 
-Formatuj::Formatuj(TextBuffer& document, Platform& platform, QWidget* parent)
-    : FragmentDialog(document, parent, &Ui::Formatuj::Command2, &Ui::Formatuj::Command1) {
+Formatuj::Formatuj(TextBuffer& buffer, Platform& platform, QWidget* parent)
+    : FragmentDialog(buffer, parent, &Ui::Formatuj::Command2, &Ui::Formatuj::Command1) {
   ShowRowsOnOneLine(*ui_->List1);
   ConnectOperations();
   OnRowPicked(*ui_->List1, [this](int row) { List1_Click(row); });
@@ -24,11 +24,11 @@ Formatuj::Formatuj(TextBuffer& document, Platform& platform, QWidget* parent)
 }
 
 void Formatuj::Load(Platform& platform) {
-  if (!document_.HasSelection()) {
+  if (!buffer_.HasSelection()) {
     platform.Message(MessageType::kOk, "Vyber text", "Fomátování");
     return;
   }
-  SelectedRows selected = RowsOfSelection(document_.SelText());
+  SelectedRows selected = RowsOfSelection(buffer_.SelText());
   rows_ = std::move(selected.rows);
   ShowRows(*ui_->List1, rows_);
   ui_->Label2->setNum(static_cast<int>(rows_.size()));
@@ -79,7 +79,7 @@ void Formatuj::Text3_Change() {
 }
 
 bool Formatuj::Put() {
-  document_.ReplaceSelection(JoinRows(rows_));
+  buffer_.ReplaceSelection(JoinRows(rows_));
   return true;
 }
 

@@ -18,7 +18,7 @@ class Formatuj : public FragmentDialog<Ui::Formatuj> {
   Q_OBJECT
 
  public:
-  Formatuj(TextBuffer& document, Platform& platform, QWidget* parent);
+  Formatuj(TextBuffer& buffer, Platform& platform, QWidget* parent);
 
  private:
   void Load(Platform& platform);

@@ -8,8 +8,8 @@
 
 namespace pelmar {
 
-Hledani::Hledani(TextBuffer& document, Platform& platform, std::function<QRect()> match, QWidget* parent)
-    : FormDialog(parent), finder_(document, platform), match_(std::move(match)) {
+Hledani::Hledani(TextBuffer& buffer, Platform& platform, std::function<QRect()> match, QWidget* parent)
+    : FormDialog(parent), finder_(buffer, platform), match_(std::move(match)) {
   setObjectName(QStringLiteral("Hledání"));
   ui_->Text1->UseBuffer(finder_.Snapshot());
   connect(ui_->Command1, &QPushButton::clicked, this, [this] { Step(&Finder::Start); });

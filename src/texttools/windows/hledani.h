@@ -18,7 +18,7 @@ class Hledani : public FormDialog<Ui::Hledani> {
 
  public:
   // `match` returns the place of a visible match on the screen, else an empty one. The window moves off the match.
-  Hledani(TextBuffer& document, Platform& platform, std::function<QRect()> match, QWidget* parent);
+  Hledani(TextBuffer& buffer, Platform& platform, std::function<QRect()> match, QWidget* parent);
 
  private:
   void Step(void (Finder::*step)());

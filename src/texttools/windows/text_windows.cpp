@@ -12,9 +12,9 @@ namespace pelmar {
 namespace {
 
 QRect SelectionOnScreen(const TextBox& box) {
-  const TextBuffer& text = box.Buffer();
-  if (!text.HasSelection() || !box.isVisible()) return {};
-  const QRect whole = box.CharRect(text.SelStart()) | box.CharRect(text.SelStart() + text.SelLength() - 1);
+  const TextBuffer& buffer = box.Buffer();
+  if (!buffer.HasSelection() || !box.isVisible()) return {};
+  const QRect whole = box.CharRect(buffer.SelStart()) | box.CharRect(buffer.SelStart() + buffer.SelLength() - 1);
   const QRect shown = whole & box.viewport()->rect();
   return {box.viewport()->mapToGlobal(shown.topLeft()), shown.size()};
 }

@@ -5,7 +5,7 @@
 
 namespace pelmar {
 
-Vyber::Vyber(TextBuffer& document, QWidget* parent) : FormDialog(parent), document_(document) {
+Vyber::Vyber(TextBuffer& buffer, QWidget* parent) : FormDialog(parent), buffer_(buffer) {
   setObjectName(QStringLiteral("Výběr"));
   ui_->Label5->setElideMode(Qt::ElideRight);
   connect(ui_->Start, &QScrollBar::valueChanged, this, [this](int value) { Change(ui_->Label1, value); });
@@ -14,23 +14,23 @@ Vyber::Vyber(TextBuffer& document, QWidget* parent) : FormDialog(parent), docume
 }
 
 void Vyber::Load() {
-  const int start = static_cast<int>(document_.SelStart());
-  const int length = static_cast<int>(document_.SelLength());  // the first slider may collapse the selection
-  ui_->Start->setMaximum(static_cast<int>(document_.Size()));
-  ui_->Delka->setMaximum(static_cast<int>(document_.Size()));
+  const int start = static_cast<int>(buffer_.SelStart());
+  const int length = static_cast<int>(buffer_.SelLength());  // the first slider may collapse the selection
+  ui_->Start->setMaximum(static_cast<int>(buffer_.Size()));
+  ui_->Delka->setMaximum(static_cast<int>(buffer_.Size()));
   ui_->Start->setValue(start);
   ui_->Delka->setValue(length);
-  ui_->Label5->setText(TextToQString(document_.SelText()));
+  ui_->Label5->setText(TextToQString(buffer_.SelText()));
 }
 
 void Vyber::Change(QLabel* label, int value) {
   label->setText(QString::number(value));
-  document_.SetSelStart(static_cast<std::size_t>(ui_->Start->value()));
-  document_.SetSelLength(static_cast<std::size_t>(ui_->Delka->value()));
-  ui_->Start->setMaximum(static_cast<int>(document_.Size()));
+  buffer_.SetSelStart(static_cast<std::size_t>(ui_->Start->value()));
+  buffer_.SetSelLength(static_cast<std::size_t>(ui_->Delka->value()));
+  ui_->Start->setMaximum(static_cast<int>(buffer_.Size()));
   // If the length reaches past the end, the slider shortens the length and calls this function again.
   ui_->Delka->setMaximum(ui_->Start->maximum() - ui_->Start->value());
-  ui_->Label5->setText(TextToQString(document_.SelText()));
+  ui_->Label5->setText(TextToQString(buffer_.SelText()));
 }
 
 }  // namespace pelmar

@@ -16,7 +16,7 @@ class Vyber : public FormDialog<Ui::Vyber> {
   Q_OBJECT
 
  public:
-  Vyber(TextBuffer& document, QWidget* parent);
+  Vyber(TextBuffer& buffer, QWidget* parent);
 
   // Sets the sliders to the present selection, which stays as it is.
   void Load();
@@ -24,7 +24,7 @@ class Vyber : public FormDialog<Ui::Vyber> {
  private:
   void Change(QLabel* label, int value);
 
-  TextBuffer& document_;
+  TextBuffer& buffer_;
 };
 
 }  // namespace pelmar

@@ -8,8 +8,8 @@
 
 namespace pelmar {
 
-Zamena::Zamena(TextBuffer& document, Platform& platform, std::function<QRect()> match, QWidget* parent)
-    : FormDialog(parent), replacer_(document, platform), match_(std::move(match)) {
+Zamena::Zamena(TextBuffer& buffer, Platform& platform, std::function<QRect()> match, QWidget* parent)
+    : FormDialog(parent), replacer_(buffer, platform), match_(std::move(match)) {
   setObjectName(QStringLiteral("Záměna"));
   ui_->Text1->UseBuffer(replacer_.Snapshot());
   connect(ui_->Command1, &QPushButton::clicked, this, &Zamena::Start);

@@ -18,7 +18,7 @@ class Zamena : public FormDialog<Ui::Zamena> {
 
  public:
   // `match` returns the place of a visible match on the screen, else an empty one. The window moves off the match.
-  Zamena(TextBuffer& document, Platform& platform, std::function<QRect()> match, QWidget* parent);
+  Zamena(TextBuffer& buffer, Platform& platform, std::function<QRect()> match, QWidget* parent);
 
  private:
   void Start();

@@ -28,7 +28,7 @@ class DialogWindow : public QDialog {
   // Makes the window no larger than `room`, in logical pixels inside the frame. Call before the window is first shown.
   void FitInto(QSize room);
 
-  // Runs as a modal dialog of the asking window and activates this window again afterwards.
+  // Runs as a modal dialog of DialogParent and activates this parent again afterwards.
   int exec() override;
 
  protected:

@@ -14,9 +14,9 @@ template <class Form>
 class FragmentDialog : public FormDialog<Form> {
  protected:
   // `ok` and `storno` are the two buttons in the form.
-  FragmentDialog(TextBuffer& document, QWidget* parent, QPushButton* Form::*ok = &Form::Command1,
+  FragmentDialog(TextBuffer& buffer, QWidget* parent, QPushButton* Form::*ok = &Form::Command1,
                  QPushButton* Form::*storno = &Form::Command2)
-      : FormDialog<Form>(parent), document_(document) {
+      : FormDialog<Form>(parent), buffer_(buffer) {
     QObject::connect(this->ui_.get()->*ok, &QPushButton::clicked, this, [this] {
       if (Put()) this->hide();
     });
@@ -28,11 +28,11 @@ class FragmentDialog : public FormDialog<Form> {
 
   // Inserts the fragment at the caret. Returns true, for use in Put.
   bool Insert(std::string_view fragment) {
-    InsertAtCaret(document_, fragment);
+    InsertAtCaret(buffer_, fragment);
     return true;
   }
 
-  TextBuffer& document_;
+  TextBuffer& buffer_;
 };
 
 }  // namespace pelmar

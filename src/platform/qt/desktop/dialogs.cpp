@@ -62,8 +62,8 @@ class PasteFilter : public QObject {
   }
 };
 
-// A dialog that asks. The dialog is a child of the asking window. If this window is deleted, the dialog is deleted too,
-// even while the dialog waits.
+// A modal dialog, a child of DialogParent. If the parent is deleted, the dialog is deleted too, even while the dialog
+// waits.
 template <typename Dialog>
 class ModalDialog {
  public:

@@ -1,5 +1,5 @@
-// The asking window: the parent of a message box or a modal dialog. Afterwards this window is made active again.
-// Otherwise the window manager may activate the main window, and its text would get the next keys.
+// The parent of a message box or a modal dialog. When the dialog closes, its parent is made active again. Otherwise the
+// window manager may activate the main window, and its text would get the next keys.
 #pragma once
 
 class QWidget;
@@ -17,7 +17,7 @@ bool HasWindowOnTop();
 // Makes the dialog stay on top if HasWindowOnTop, since that window could cover the dialog; otherwise not on top.
 void PutAboveAll(QWidget& dialog);
 
-// Call for a window that was never shown: the window will appear on the screen of the asking window.
+// Call for a window that was never shown: the window will appear on the screen of DialogParent.
 void ShowOnParentsScreen(QWidget& window);
 
 }  // namespace pelmar
