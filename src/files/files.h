@@ -2,7 +2,6 @@
 #pragma once
 
 #include "files/open.h"
-#include "files/outside_changes.h"
 #include "files/save.h"
 #include "shell/editor.h"
 
@@ -12,12 +11,10 @@ struct Files {
   // The editor must outlive this object.
   explicit Files(Editor& editor)
       : recent(editor.settings, editor.platform),
-        outside(editor.documents, editor.platform),
-        opener(editor.documents, recent, outside, editor.platform, editor.file_number),
-        saver(editor.documents, recent, outside, editor.platform, editor.file_number) {}
+        opener(editor.documents, recent, editor.platform, editor.file_number),
+        saver(editor.documents, recent, editor.platform, editor.file_number) {}
 
   RecentFiles recent;
-  OutsideChanges outside;
   Opener opener;
   Saver saver;
 };

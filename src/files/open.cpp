@@ -9,9 +9,8 @@
 
 namespace pelmar {
 
-Opener::Opener(Documents& documents, RecentFiles& recent, OutsideChanges& outside, Platform& platform,
-               FileNumber& file_number)
-    : documents_(documents), recent_(recent), outside_(outside), platform_(platform), file_number_(file_number) {}
+Opener::Opener(Documents& documents, RecentFiles& recent, Platform& platform, FileNumber& file_number)
+    : documents_(documents), recent_(recent), platform_(platform), file_number_(file_number) {}
 
 void Opener::OpenPath(const std::string& path) {
   const auto stamp = platform_.Stamp(path);
@@ -29,7 +28,7 @@ void Opener::OpenPath(const std::string& path) {
     return;
   }
   file_number_.Open();
-  outside_.Note(path, stamp, LooksLikeUtf8(file.bytes));
+  documents_.Remember({path, stamp, LooksLikeUtf8(file.bytes)});
   documents_.MakeCurrent(path, std::move(file.bytes));  // required: an error here leaves file number 1 open
   recent_.Remember(path);
   file_number_.Close();

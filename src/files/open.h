@@ -5,7 +5,6 @@
 #include <string>
 #include <string_view>
 
-#include "files/outside_changes.h"
 #include "files/recent_files.h"
 #include "platform/platform.h"
 #include "shell/documents.h"
@@ -26,8 +25,7 @@ inline constexpr std::string_view kNoPreview = "Není k dispozici"_w;
 
 class Opener {
  public:
-  Opener(Documents& documents, RecentFiles& recent, OutsideChanges& outside, Platform& platform,
-         FileNumber& file_number);
+  Opener(Documents& documents, RecentFiles& recent, Platform& platform, FileNumber& file_number);
 
   // Opens a file into the current tab, or reports why this failed. required: a name without an extension throws
   // RuntimeError after the text has been loaded, and leaves file number 1 open.
@@ -48,7 +46,6 @@ class Opener {
  private:
   Documents& documents_;
   RecentFiles& recent_;
-  OutsideChanges& outside_;
   Platform& platform_;
   FileNumber& file_number_;
 };

@@ -2,14 +2,14 @@
 
 #include "files/encodings.h"
 #include "files/open.h"
+#include "files/outside_changes.h"
 #include "platform/paths.h"
 #include "platform/runtime_error.h"
 
 namespace pelmar {
 
-Saver::Saver(Documents& documents, RecentFiles& recent, OutsideChanges& outside, Platform& platform,
-             FileNumber& file_number)
-    : documents_(documents), recent_(recent), outside_(outside), platform_(platform), file_number_(file_number) {}
+Saver::Saver(Documents& documents, RecentFiles& recent, Platform& platform, FileNumber& file_number)
+    : documents_(documents), recent_(recent), platform_(platform), file_number_(file_number) {}
 
 void Saver::SaveToPath(const std::string& path) {
   if (!MayMixEncodings(path) || !MayWrite(path)) return;
@@ -18,7 +18,7 @@ void Saver::SaveToPath(const std::string& path) {
     const WriteOutcome outcome = Write(path, text);
     if (outcome.error != 0) return ReportError(path, outcome);
     agreed_to_mix_.clear();
-    outside_.Note(path, platform_.Stamp(path), outside_.CurrentWasUtf8() || LooksLikeUtf8(text));
+    documents_.Remember({path, platform_.Stamp(path), CurrentWasUtf8(documents_) || LooksLikeUtf8(text)});
     documents_.MakeCurrent(path);
     recent_.Remember(path);
   } catch (const RuntimeError& error) {

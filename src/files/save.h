@@ -5,7 +5,6 @@
 #include <string>
 #include <string_view>
 
-#include "files/outside_changes.h"
 #include "files/recent_files.h"
 #include "platform/platform.h"
 #include "shell/documents.h"
@@ -15,8 +14,7 @@ namespace pelmar {
 
 class Saver {
  public:
-  Saver(Documents& documents, RecentFiles& recent, OutsideChanges& outside, Platform& platform,
-        FileNumber& file_number);
+  Saver(Documents& documents, RecentFiles& recent, Platform& platform, FileNumber& file_number);
 
   // Saves the document and makes the path its file. Asks before it overwrites a file, and writes the text as it is
   // after the answer. A failure is reported; the steps already done stay done.
@@ -46,7 +44,6 @@ class Saver {
 
   Documents& documents_;
   RecentFiles& recent_;
-  OutsideChanges& outside_;
   Platform& platform_;
   FileNumber& file_number_;
   std::string agreed_to_mix_;  // the file for which MayMixEncodings was answered Yes

@@ -1,7 +1,5 @@
 #include "shell/documents.h"
 
-#include <utility>
-
 #include "platform/paths.h"
 
 namespace pelmar {
@@ -10,6 +8,11 @@ Documents::Documents(TextBuffer& buffer)
     : buffer_(buffer), changes_(buffer.OnChange([this](const TextChange&) { TextChanged(); })) {}
 
 std::string Documents::Title() const { return "Pelmar VEX (" + title_.path + (title_.marked ? ")*" : ")"); }
+
+const KnownFile* Documents::CurrentFile() const {
+  const KnownFile& known = Slot(selected_).known;
+  return known.path == current_path_ ? &known : nullptr;
+}
 
 void Documents::LeaveTab() {
   Current().Text = buffer_.Text();

@@ -4,8 +4,11 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
+#include <utility>
 
+#include "platform/platform.h"
 #include "shell/save_target.h"
 #include "text/index.h"
 #include "text/listeners.h"
@@ -15,10 +18,18 @@ namespace pelmar {
 
 inline constexpr int kTabCount = 5;
 
+// A document's file when this program opened or saved it.
+struct KnownFile {
+  std::string path;
+  std::optional<FileStamp> stamp;  // taken before the file was read, or after it was written
+  bool utf8 = false;               // the text came from a UTF-8 file
+};
+
 struct DocSlot {
   std::string Text;  // the text of a tab that isn't selected; the box holds the text of the selected tab
   std::string Path;
   bool Modified = false;  // the document had unsaved changes when its tab was left
+  KnownFile known;
 };
 
 struct TabFace {
@@ -42,6 +53,8 @@ class Documents {
   [[nodiscard]] bool Marked() const { return title_.marked; }
   [[nodiscard]] TextBuffer& Buffer() { return buffer_; }
   [[nodiscard]] const TextBuffer& Buffer() const { return buffer_; }
+  // The remembered file. Null if the current document no longer has its path, as after clearing the tab.
+  [[nodiscard]] const KnownFile* CurrentFile() const;
   [[nodiscard]] SaveTarget& Target() { return target_; }
 
   // True if closing the program would lose changes: the slot's flag is set, or the current document is marked.
@@ -61,6 +74,8 @@ class Documents {
   // Puts a document rescued after a crash into the tab, selects the tab and marks the document as unsaved.
   void Restore(int tab, std::string text, const std::string& path);
 
+  // Records that the current document equals this file.
+  void Remember(KnownFile file) { Current().known = std::move(file); }
   // Makes the path the file of the current document and counts the text as saved. A name without an extension throws
   // RuntimeError after the current path has been set; nothing else of the document changes then.
   void MakeCurrent(const std::string& path);

@@ -6,6 +6,7 @@
 #include <cerrno>
 
 #include "files/encodings.h"
+#include "files/outside_changes.h"
 #include "support/document_state.h"
 #include "support/marked_text.h"
 #include "support/scripted_platform.h"
@@ -275,20 +276,19 @@ TEST_F(FastSave, AsksOnceBeforeTwoEncodingsGoOverAFileInUtf8) {
 }
 
 TEST_F(FilesTest, AnotherProgramsChangeOfTheFileIsNoticedInEachTab) {
-  const OutsideChanges& outside = editor.files.outside;
-  EXPECT_EQ(outside.OfCurrent(), OutsideChange::kNone);
+  EXPECT_EQ(OutsideChangeOf(documents, platform), OutsideChange::kNone);
   platform.files["/a.txt"] = "their";
-  EXPECT_EQ(outside.OfCurrent(), OutsideChange::kWritten);
+  EXPECT_EQ(OutsideChangeOf(documents, platform), OutsideChange::kWritten);
   documents.SwitchTo(2);
-  EXPECT_EQ(outside.OfCurrent(), OutsideChange::kNone);
+  EXPECT_EQ(OutsideChangeOf(documents, platform), OutsideChange::kNone);
   documents.SwitchTo(1);
   platform.answers = {kYes};
   editor.saver.SaveToPath("/a.txt");
-  EXPECT_EQ(outside.OfCurrent(), OutsideChange::kNone);
+  EXPECT_EQ(OutsideChangeOf(documents, platform), OutsideChange::kNone);
   platform.files.erase("/a.txt");
-  EXPECT_EQ(outside.OfCurrent(), OutsideChange::kGone);
+  EXPECT_EQ(OutsideChangeOf(documents, platform), OutsideChange::kGone);
   documents.ClearCurrent();
-  EXPECT_EQ(outside.OfCurrent(), OutsideChange::kNone);
+  EXPECT_EQ(OutsideChangeOf(documents, platform), OutsideChange::kNone);
 }
 
 }  // namespace

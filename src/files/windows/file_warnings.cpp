@@ -23,13 +23,13 @@ QString TooLong(std::size_t size) {
 
 // The disk is checked when the main window gains or loses the keyboard focus, so never while the person types. A
 // question takes the focus too. A file that this program opened or saved counts as unchanged.
-FileWarnings::FileWarnings(MainWindow& window, Editor& editor, const OutsideChanges& outside)
+FileWarnings::FileWarnings(MainWindow& window, Editor& editor)
     : QObject(&window),
       window_(window),
       documents_(editor.documents),
-      outside_(outside),
+      platform_(editor.platform),
       listenings_{editor.documents.tab_selected.Add([this](int) {
-                    WarnOfOutside(outside_.OfCurrent());
+                    CheckDisk();
                     WarnOfName();
                     WarnOfFormat(false);
                   }),
@@ -50,7 +50,7 @@ bool FileWarnings::eventFilter(QObject* watched, QEvent* event) {
   const bool turns = event->type() == QEvent::WindowActivate || event->type() == QEvent::WindowDeactivate;
   // A window that is being destroyed also loses the keyboard, and is no main window any more.
   if (turns && qobject_cast<MainWindow*>(watched) != nullptr) {
-    WarnOfOutside(outside_.OfCurrent());
+    CheckDisk();
     WarnOfName();
   }
   return QObject::eventFilter(watched, event);
@@ -59,6 +59,8 @@ bool FileWarnings::eventFilter(QObject* watched, QEvent* event) {
 void FileWarnings::WarnOfOutside(OutsideChange change) {
   window_.Bar().Warn(Warning::kChangedOutside, Utf8ToQString(OutsideNotice(change)));
 }
+
+void FileWarnings::CheckDisk() { WarnOfOutside(OutsideChangeOf(documents_, platform_)); }
 
 void FileWarnings::WarnOfName() {
   const std::string& path = documents_.CurrentPath();
@@ -69,7 +71,7 @@ void FileWarnings::WarnOfName() {
 void FileWarnings::WarnOfFormat(bool changed) {
   const std::string& text = documents_.Buffer().Text();
   std::string_view hint;
-  if (outside_.CurrentWasUtf8() && MixesEncodings(text)) {
+  if (CurrentWasUtf8(documents_) && MixesEncodings(text)) {
     hint = MixHint();
   } else if (!changed && !documents_.CurrentPath().empty()) {
     hint = FormatHint(text);

@@ -16,20 +16,21 @@ class FileWarnings : public QObject {
 
  public:
   // The window owns this object.
-  FileWarnings(MainWindow& window, Editor& editor, const OutsideChanges& outside);
+  FileWarnings(MainWindow& window, Editor& editor);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void WarnOfOutside(OutsideChange change);
+  void CheckDisk();
   void WarnOfName();
   void WarnOfFormat(bool changed);
   void WarnOfLength();
 
   MainWindow& window_;
   const Documents& documents_;
-  const OutsideChanges& outside_;
+  Platform& platform_;
   std::array<Listening, 3> listenings_;
 };
 

@@ -18,7 +18,7 @@ void AddFileWindows(const ProgramParts& parts) {
   parts.AddFilePicker<Uloz>();
   parts.AddFilePicker<Dos_Unix_conv>();
   AddPrintCommands(parts.editor, parts.main);
-  new FileWarnings(parts.main, parts.editor, parts.files.outside);
+  new FileWarnings(parts.main, parts.editor);
 }
 
 }  // namespace pelmar

@@ -190,7 +190,7 @@ TEST_F(MainWindowTest, TheTickSnapsTheWindowToTheEdges) {
 }
 
 TEST_F(MainWindowTest, TheBarWarnsOfTheGravestThatHolds) {
-  new FileWarnings(window, editor, editor.files.outside);
+  new FileWarnings(window, editor);
   static constexpr char kUnkept[] = "Neuložená práce se teď nezachovává !";
   static constexpr char kStuck[] = "Soubory nelze otevírat ani ukládat, pomůže jen nový start programu";
   static constexpr char kTooLong[] = "Příliš dlouhý text: má 64003 znaků, znovu otevřít jich lze nejvýše 64000";
