@@ -23,27 +23,6 @@
 namespace pelmar {
 namespace {
 
-bool MatchesOne(QStringView name, QStringView mask) {
-  qsizetype at = 0, in_mask = 0, star = -1, after_star = 0;
-  while (at < name.size()) {
-    const QChar wanted = in_mask < mask.size() ? mask[in_mask] : QChar();
-    if (wanted == u'*') {
-      star = in_mask++;
-      after_star = at;
-    } else if (in_mask < mask.size() && (wanted == u'?' || wanted.toCaseFolded() == name[at].toCaseFolded())) {
-      ++in_mask;
-      ++at;
-    } else if (star >= 0) {
-      in_mask = star + 1;
-      at = ++after_star;
-    } else {
-      return false;
-    }
-  }
-  while (in_mask < mask.size() && mask[in_mask] == u'*') ++in_mask;
-  return in_mask == mask.size();
-}
-
 bool LiesInHidden(const QString& path) { return path.contains(QLatin1String("/.")); }
 
 enum class Kind { kFolders, kFiles };
@@ -77,17 +56,15 @@ bool IsWithin(const QString& path, const QString& place) {
 
 }  // namespace
 
-QStringList SplitMask(const QString& mask) {
-  QStringList masks;
-  for (const QString& part : mask.split(u';', Qt::SkipEmptyParts))
-    if (const QString one = part.trimmed(); !one.isEmpty()) masks.append(one);
-  return masks;
-}
-
-bool MatchesMask(QStringView name, const QStringList& masks) {
-  return masks.isEmpty() || std::any_of(masks.begin(), masks.end(), [&](const QString& mask) {
-           return mask == QLatin1String("*.*") || MatchesOne(name, mask);
-         });
+QRegularExpression MaskPattern(const QString& mask) {
+  QStringList patterns;
+  for (const QString& part : mask.split(u';')) {
+    QString one = part.trimmed();
+    if (one == QLatin1String("*.*")) one = QStringLiteral("*");
+    one.replace(u'[', QLatin1String("[[]"));  // a plain character in a mask
+    if (!one.isEmpty()) patterns.append(QRegularExpression::wildcardToRegularExpression(one));
+  }
+  return QRegularExpression(patterns.join(u'|'), QRegularExpression::CaseInsensitiveOption);
 }
 
 bool IsReadableFolder(const QString& path) {
@@ -112,11 +89,11 @@ QStringList SubfoldersOf(const QString& path) {
 }
 
 QStringList FilesOf(const QString& path, const QString& mask) {
-  const QStringList masks = SplitMask(mask);
-  const bool with_hidden =
-      LiesInHidden(path) || std::any_of(masks.begin(), masks.end(), [](const auto& m) { return m.startsWith(u'.'); });
+  static const QRegularExpression begins_with_dot(QStringLiteral("(^|;)\\s*\\."));
+  const bool with_hidden = LiesInHidden(path) || mask.contains(begins_with_dot);
+  const QRegularExpression pattern = MaskPattern(mask);
   return NamesOf(path, Kind::kFiles, [&](const QString& name) {
-    return (with_hidden || !name.startsWith(u'.')) && MatchesMask(name, masks);
+    return (with_hidden || !name.startsWith(u'.')) && name.contains(pattern);
   });
 }
 

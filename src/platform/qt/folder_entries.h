@@ -3,16 +3,15 @@
 // names and kinds are read, which the folder itself stores.
 #pragma once
 
+#include <QRegularExpression>
 #include <QString>
 #include <QStringList>
-#include <QStringView>
 
 namespace pelmar {
 
-// Whether the name matches a mask with "*" and "?", ignoring case. "*.*" and an empty list match every name.
-bool MatchesMask(QStringView name, const QStringList& masks);
-// Splits masks at ";".
-QStringList SplitMask(const QString& mask);
+// The pattern of names that match one of the masks, which stand between ";". A mask has "*" and "?" and ignores case.
+// "*.*" and an empty mask match every name.
+QRegularExpression MaskPattern(const QString& mask);
 
 // Whether the folder can be listed and entered.
 bool IsReadableFolder(const QString& path);

@@ -28,7 +28,7 @@ class FileList : public QListView {
   void SetPath(const QString& path);
 
   [[nodiscard]] const QString& Pattern() const { return pattern_; }
-  // Masks for SplitMask and MatchesMask. The selection stays if the selected file is still listed.
+  // The mask for MaskPattern. The selection stays if the selected file is still listed.
   void SetPattern(const QString& pattern);
 
   // The selected name or "". Setting a name that isn't in the list clears the selection.
