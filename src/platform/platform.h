@@ -2,6 +2,8 @@
 // scripted implementation. Messages and titles are UTF-8, documents and the clipboard are Windows-1250. A path is the
 // bytes that the system gave. No call throws: a call on a file returns 0 or an errno, alone or in the field `error`. A
 // command that can't go on after an error throws RuntimeError.
+// Call from the interface thread. Only WritePrivateFile may also be called from another thread, even while the
+// interface thread calls any function: the rescue files are written by threads.
 #pragma once
 
 #include <cstdint>
@@ -147,7 +149,8 @@ class Platform {
   virtual bool CanRead(const std::string& path) = 0;  // opens for reading; false for a folder
   virtual FileBytes ReadFile(const std::string& path, std::optional<std::uint64_t> limit) = 0;
   virtual WriteOutcome WriteDocument(const std::string& path, std::string_view bytes) = 0;
-  // Like WriteDocument, for the program's own files. Only its owner can read a new file. Returns 0 or an errno.
+  // Like WriteDocument, for the program's own files. Only its owner can read a new file. Returns 0 or an errno. May be
+  // called from any thread.
   virtual int WritePrivateFile(const std::string& path, std::string_view bytes) = 0;
   // Creates a file that only its owner can read. EEXIST if the name is taken, even by a link that leads nowhere.
   virtual int WriteNewFile(const std::string& path, std::string_view bytes) = 0;  // 0 or an errno

@@ -7,10 +7,11 @@
 // 3. The content is written and brought to the disk by fsync.
 // 4. The new file gets its name. If there is an old file, the new file replaces the old file by a rename.
 // 5. fsync of the folder brings the name to the disk. Now the save is complete.
-// If step 2 or 4 is not possible, the old file is overwritten: the folder may refuse a new file, an attribute may be
-// refused, or the old file may have several names. First kept_content copies the old content into another file on the
-// disk. This copy is removed after the save. A power cut or a kill at any moment leaves the old content or the new
-// content on the disk, in the file or in the copy.
+// If step 2 or 4 is not possible, the old file is overwritten in place: the folder may refuse a new file, an attribute
+// may be refused, or the old file may have several names. First kept_content copies the old content into "puvodni-*" of
+// the install folder. The copy is removed after the save.
+// A kill or a power cut leaves the old content or the new content in the file. Only a save in place can leave a mixture
+// of both; the old content is then complete in "puvodni-*", and the next start of the program reports this.
 #pragma once
 
 #include <sys/types.h>
