@@ -39,17 +39,18 @@ std::string OverlongMessage(int page, std::size_t size);
 // The file in the install folder. A missing file is created empty. Both throw RuntimeError if the file can't be used.
 NotesRecord LoadNotes(Platform& platform, FileNumber& file_number);
 void StoreNotes(const NotesRecord& record, Platform& platform, FileNumber& file_number);
-// What the file holds by now, where another copy may have written it since it held `stored`. A file that has gone or is
-// empty takes no page away. Throws as above.
+// Reads the file again, since another copy of the program may have written it after this copy stored `stored`. Returns
+// `stored` if the file is missing or empty. Throws like LoadNotes.
 NotesRecord LoadNotesAnew(const NotesRecord& stored, Platform& platform, FileNumber& file_number);
 
 struct MergedNotes {
   NotesRecord record;
-  int twice = 0;  // the first page that was changed on both sides; 0 for none
+  int twice = 0;  // the first page that changed in both; 0 for none
 };
 
-// Brings the changes from `stored` to `now` into what the file holds by now. A page that was changed on both sides is
-// kept twice: its text of `now` goes to an empty page, else below the other text, where it may become too long.
+// Applies the changes from `stored` to `now` to the present content of the file. A page that changed in both is kept
+// twice: the text of `now` goes to an empty page or, if no page is empty, below the other text, where it may become too
+// long.
 MergedNotes MergeNotes(const NotesRecord& now, const NotesRecord& stored, const NotesRecord& file);
 
 // The pages that differ from the stored ones.

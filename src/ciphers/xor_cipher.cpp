@@ -46,13 +46,13 @@ void RewriteStream(TextBuffer& buffer, double key, std::string& output, Platform
   StreamCipher cipher(key);
   const std::size_t length = buffer.Size();
   const std::size_t step = StepSize(length);
-  // Somebody may shorten the document meanwhile: then its new end is the end of the run.
+  // The document may become shorter during the run. Then the run stops at the new end.
   for (std::size_t done = 0; done < std::min(length, buffer.Size());) {
     std::string_view part = std::string_view(buffer.Text()).substr(done, std::min(step, length - done));
     if (part.front() == kBroken) {
-      // The progress stands at the character that the messages are about.
+      // The progress bar shows the position of this character during the question.
       if (!on_progress(done + 1) || EndsBroken(platform)) return;
-      part = std::string_view(&kBroken, 1);  // the character as it was read, whatever the document is by now
+      part = std::string_view(&kBroken, 1);  // the character that was read; the document may have changed since
     } else {
       part = part.substr(0, part.find(kBroken));
     }

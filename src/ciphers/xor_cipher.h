@@ -28,10 +28,10 @@ class StreamCipher {
   ReproducibleGenerator generator_;
 };
 
-// Rewrites the document through `output`, which keeps what was done of an abandoned run. At a character of code 8 the
-// person is warned and may abandon. `on_progress` hears how many characters are done, lets the windows live meanwhile,
-// and says whether to go on; it is called at least every 20 ms. The document may change under it: each character is
-// read at its turn, only the length is taken once. An abandoned run leaves the document as it was.
+// Enciphers the document into `output` and, at the end, replaces the document by `output`. At a character of code 8 a
+// question lets the person stop. `on_progress` is called at least every 20 ms with the number of enciphered characters;
+// it handles events and returns false to stop. A stopped run leaves the document unchanged and its part in `output`.
+// Events may change the document: each character is read when its turn comes, the length is read only at the start.
 void RewriteStream(TextBuffer& buffer, double key, std::string& output, Platform& platform,
                    const std::function<bool(std::size_t done)>& on_progress);
 

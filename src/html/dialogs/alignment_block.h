@@ -1,4 +1,5 @@
-// The horizontal and vertical alignment of a row or a cell. Both dialogs have this block, with the same field names.
+// The horizontal and vertical alignment of a row or a cell. The dialogs `TableRow` and `TableCell` contain these
+// fields, with the same names.
 #pragma once
 
 #include <QWidget>

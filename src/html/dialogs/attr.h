@@ -1,4 +1,4 @@
-// `Attr`: attributes for a tag that stands in the text. Their lists stay from one opening to the next.
+// The dialog `Attr` adds attributes to a tag in the text. It keeps its lists of attributes for the next opening.
 #pragma once
 
 #include "platform/platform.h"

@@ -1,5 +1,5 @@
-// The block that the tag editor and similar dialogs share: two boxes for an attribute and its value, the pair of lists,
-// and the buttons that add and remove. The block also works in a hidden window.
+// The part with attributes in the tag editor and similar dialogs: two boxes for a name and a value, two lists of the
+// added pairs, and the buttons that add and remove pairs. It also works in a hidden window.
 #pragma once
 
 #include <QWidget>

@@ -1,6 +1,6 @@
-// The base of the dialogs for a row and a cell. From the menu a dialog stays open beside the editor, and Ok inserts
-// tags. The table builder asks a dialog only for attributes and waits for the answer. The fields keep their values from
-// one use to the next.
+// The base of the dialogs for a row and a cell. Opened from the menu, the dialog stays open beside the editor, and Ok
+// inserts tags. Opened by the table builder, the dialog is modal and returns attributes. The fields keep their values
+// for the next opening.
 #pragma once
 
 #include <optional>
@@ -14,7 +14,8 @@ namespace pelmar {
 template <class Form>
 class AttributesDialog : public FragmentDialog<Form> {
  public:
-  // Waits for the attributes, with a blank before the first one. Empty if none is set, nothing on cancel.
+  // Returns the attributes when the dialog is closed, with a blank before the first one. "" if no attribute is set,
+  // nothing on cancel.
   std::optional<std::string> AskAttributes() {
     this->hide();  // a visible window can't become modal
     answer_.reset();
@@ -31,7 +32,7 @@ class AttributesDialog : public FragmentDialog<Form> {
 
   [[nodiscard]] virtual std::string OpeningTag() const = 0;
   virtual void InsertTags() = 0;
-  // Disables the fields that mean nothing to the table builder.
+  // Disables the fields that the table builder does not use.
   virtual void EnableForEditor(bool enabled) = 0;
 
  private:

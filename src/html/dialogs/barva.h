@@ -1,4 +1,4 @@
-// `Barva`: a font with its size, face and colour.
+// The dialog `Barva` inserts a FONT tag with size, face and colour.
 #pragma once
 
 #include <functional>

@@ -1,4 +1,4 @@
-// `CisSeznam`: a list of numbered items.
+// The dialog `CisSeznam` inserts a numbered list.
 #pragma once
 
 #include "html/dialogs/item_list_dialog.h"

@@ -1,4 +1,4 @@
-// `Comment`: a comment that the page doesn't show.
+// The dialog `Comment` inserts a comment, which the page doesn't show.
 #pragma once
 
 #include "platform/qt/controls/fragment_dialog.h"

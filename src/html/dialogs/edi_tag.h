@@ -1,5 +1,5 @@
-// `EdiTag`: shows the tag around the caret in fields. Each opening makes a new dialog. The dialog blocks the main
-// window, so the tag stays selected until Ok replaces the tag.
+// The dialog `EdiTag` shows the tag around the caret in fields, and Ok replaces the tag. Each opening creates a new
+// dialog. The dialog blocks the main window, so that the tag stays selected until Ok.
 #pragma once
 
 #include <functional>
@@ -20,7 +20,7 @@ class EdiTag : public FragmentDialog<Ui::EdiTag> {
  public:
   EdiTag(TextBuffer& buffer, Platform& platform, std::function<Color(Color)> pick_color, QWidget* parent);
 
-  // Reads the tag, with a message if the tag can't be read, and returns when the dialog is closed.
+  // Reads the tag and returns when the dialog is closed. A tag that can't be read is reported.
   void Run();
 
  private:

@@ -1,6 +1,6 @@
-// The choice of a file for a picture, a frame or a link, shared by four dialogs: a file browser with a mask, a switch
-// that keeps only the name, a label with the path, and two buttons that need a file. While `files` is disabled, the
-// dialog itself enables `ok`.
+// The controls that choose a file for a picture, a frame or a link in four dialogs: a file browser with a mask, a
+// switch that keeps only the name, a label with the path, and two buttons that need a file. While `files` is disabled,
+// the dialog itself enables `ok`.
 #pragma once
 
 #include <functional>
@@ -26,17 +26,17 @@ struct FileChoice {
     return {ui.Drive1, ui.Dir1, ui.File1, ui.Combo1, relative, path, ui.Command1, ui.Command3};
   }
 
-  // Connects the controls. Call once. The label and the buttons follow each choice of a file, folder or mask, but keep
-  // the form's state until the first choice. `show_in_browser` gets the label's path.
+  // Connects the controls. Call once. Each choice of a file, folder or mask updates the label and the buttons; before
+  // the first choice they have the form's state. `show_in_browser` is called with the label's path.
   void Link(std::function<void(const std::string& path)> show_in_browser) const;
 
-  // Writes the path, or the name alone, into the label and enables the buttons whose needs are met.
+  // Writes the path, or only the name, into the label. Enables the buttons that can be used now.
   void Refresh() const;
 
   [[nodiscard]] bool HasFile() const;
 
-  // Copies the label's path, with slashes for backslashes, into the dialog's hidden working copy. Returns the path as a
-  // link writes it.
+  // Copies the label's path, with slashes in place of backslashes, into the dialog's hidden label. Returns the path as
+  // it is written in a link.
   std::string TakePath(QLineEdit& working_copy) const;
 
   DriveList* places;

@@ -1,4 +1,4 @@
-// `Frame`: one FRAME tag at the caret, for a file chosen from lists.
+// The dialog `Frame` inserts a FRAME tag for a file.
 #pragma once
 
 #include "html/dialogs/file_choice.h"

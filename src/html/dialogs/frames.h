@@ -1,4 +1,4 @@
-// `Frames`: a frameset page around the document.
+// The dialog `Frames` puts a frameset page around the document.
 #pragma once
 
 #include "platform/qt/controls/fragment_dialog.h"

@@ -1,4 +1,4 @@
-// `HTMLAscii`: a reference to one character by its code.
+// The dialog `HTMLAscii` inserts the reference to a character by its code.
 #pragma once
 
 #include "platform/qt/controls/fragment_dialog.h"

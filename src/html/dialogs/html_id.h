@@ -1,4 +1,4 @@
-// `HtmlID`: the document type, before the whole text.
+// The dialog `HtmlID` inserts the document type before the text.
 #pragma once
 
 #include "platform/qt/controls/fragment_dialog.h"

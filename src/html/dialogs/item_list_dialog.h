@@ -1,5 +1,5 @@
-// The base of `Seznam` and `CisSeznam`, which differ only in the kind of list and its types: the options of the form's
-// group `kind`. The items stay from one opening to the next.
+// The base of the dialogs `Seznam` and `CisSeznam`, which insert lists. Only the kind of list and its types differ; the
+// options of the form's group `kind` set the type. A dialog keeps its items for the next opening.
 #pragma once
 
 #include "html/lists.h"

@@ -1,4 +1,4 @@
-// `Kotva`: an anchor at the caret, which the dialog `Odkaz` then offers.
+// The dialog `Kotva` inserts an anchor. The dialog `Odkaz` then offers the name of the anchor.
 #pragma once
 
 #include <functional>

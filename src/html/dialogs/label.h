@@ -1,4 +1,4 @@
-// `Label`: a heading that a table makes.
+// The dialog `Label` inserts a heading in the form of a table.
 #pragma once
 
 #include "platform/qt/controls/fragment_dialog.h"

@@ -1,4 +1,4 @@
-// `LineLabel`: a heading between two horizontal lines.
+// The dialog `LineLabel` inserts a heading between two horizontal lines.
 #pragma once
 
 #include "platform/qt/controls/fragment_dialog.h"

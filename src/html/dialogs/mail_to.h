@@ -1,4 +1,4 @@
-// `MailTo`: a link that writes an e-mail.
+// The dialog `MailTo` inserts a link to an e-mail address.
 #pragma once
 
 #include <string>

@@ -1,4 +1,4 @@
-// `Meta`: a META tag from a list, or as a person types it.
+// The dialog `Meta` inserts a META tag. The person chooses the tag from a list or types it.
 #pragma once
 
 #include "platform/qt/controls/fragment_dialog.h"

@@ -1,4 +1,4 @@
-// `Nadpis`: a heading with its size and alignment.
+// The dialog `Nadpis` inserts a heading with its size and alignment.
 #pragma once
 
 #include "platform/qt/controls/fragment_dialog.h"

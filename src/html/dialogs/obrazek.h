@@ -1,4 +1,4 @@
-// `Obrazek`: one IMG tag at the caret, for a picture chosen from lists.
+// The dialog `Obrazek` inserts an IMG tag for a picture file.
 #pragma once
 
 #include "html/dialogs/file_choice.h"

@@ -1,5 +1,5 @@
-// `Odkaz`: a link to an anchor of the same document. The list offers all anchors made in this run, in their order, also
-// those made for other documents.
+// The dialog `Odkaz` inserts a link to an anchor of the document. The list contains all anchors since the start of the
+// program, also those of other documents.
 #pragma once
 
 #include "platform/qt/controls/fragment_dialog.h"

@@ -1,4 +1,4 @@
-// `OdkazNaJiný`: a link to a file chosen from lists, or to a typed address.
+// The dialog `OdkazNaJiný` inserts a link to a file or to a typed address.
 #pragma once
 
 #include "html/dialogs/file_choice.h"

@@ -1,4 +1,4 @@
-// `Odstavec`: a paragraph with its alignment.
+// The dialog `Odstavec` inserts a paragraph with its alignment.
 #pragma once
 
 #include "platform/qt/controls/fragment_dialog.h"

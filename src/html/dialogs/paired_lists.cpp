@@ -70,7 +70,7 @@ PairedLists::PairedLists(const Parts& parts, QObject* parent) : QObject(parent),
     });
     connect(list->verticalScrollBar(), &QScrollBar::valueChanged, other->verticalScrollBar(),
             [bar = other->verticalScrollBar()](int value) {
-              if (value <= bar->maximum()) bar->setValue(value);  // a longer list scrolls on alone
+              if (value <= bar->maximum()) bar->setValue(value);  // beyond its end, only the longer list scrolls
             });
   }
   connect(parts_.name, &QLineEdit::textChanged, this,

@@ -1,4 +1,4 @@
-// Lists that a person fills row by row, and the two parallel lists of the tag editor and similar dialogs.
+// Lists to which a person adds rows, and the two parallel lists of the tag editor and similar dialogs.
 #pragma once
 
 #include <QObject>
@@ -14,13 +14,13 @@ class QListWidget;
 
 namespace pelmar {
 
-// The index of the selected row, -1 if none is selected.
+// The index of the selected row, -1 if no row is selected.
 int SelectedRow(const QListWidget& list);
 
 // Adds a row before the selected row, or at the end.
 void AddRow(QListWidget& list, const QString& text);
 
-// Removes the selected row, or the last one, and selects no other. Does nothing on an empty list.
+// Removes the selected row, or the last row if no row is selected. Then no row is selected. An empty list stays.
 void RemoveRow(QListWidget& list);
 
 // The key Delete in the list clicks the button that removes rows.
@@ -44,7 +44,7 @@ class PairedLists : public QObject {
 
   PairedLists(const Parts& parts, QObject* parent);
 
-  // After this call the fields show the texts of a clicked row, and typing into them changes the selected rows.
+  // From this call on, the fields show the texts of a clicked row, and typing into a field changes the selected row.
   void EditSelectedRows() { edits_rows_ = true; }
 
   // Adds a pair if the button is enabled, and selects the first field for the next pair.
@@ -60,7 +60,7 @@ class PairedLists : public QObject {
 
   Parts parts_;
   bool edits_rows_ = false;
-  bool following_ = false;  // true while the fields take the texts of a row
+  bool following_ = false;  // true while the texts of a row are written into the fields
 };
 
 }  // namespace pelmar

@@ -1,4 +1,4 @@
-// `Seznam`: a list of items with bullets.
+// The dialog `Seznam` inserts a list with bullets.
 #pragma once
 
 #include "html/dialogs/item_list_dialog.h"

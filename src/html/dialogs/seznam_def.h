@@ -1,4 +1,4 @@
-// `SeznamDef`: a list of terms and definitions. They stay from one opening to the next.
+// The dialog `SeznamDef` inserts a list of terms and definitions. It keeps the list for the next opening.
 #pragma once
 
 #include "platform/qt/controls/fragment_dialog.h"

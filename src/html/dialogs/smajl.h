@@ -1,4 +1,4 @@
-// `Smajl`: a smiley of five parts.
+// The dialog `Smajl` inserts a smiley of five parts.
 #pragma once
 
 #include "platform/qt/controls/fragment_dialog.h"

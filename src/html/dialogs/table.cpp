@@ -14,7 +14,7 @@ void ShowPosition(QLabel* label, const QScrollBar* position, const QScrollBar* c
   label->setText(QStringLiteral("%1/%2").arg(position->value()).arg(count->value()));
 }
 
-// Writes the dialog's answer into the field. The grid then stores the text as if a person had typed it.
+// Writes the dialog's result into the field. The grid then stores the text like a typed text.
 void AskInto(QLineEdit* field, const Table::AskAttributes& ask) {
   if (const std::optional<std::string> attributes = ask()) field->setText(TextToQString(*attributes));
 }

@@ -1,5 +1,5 @@
-// `Table`: the table builder. One tab has the table's size and attributes, the other one shows a cell and a row of the
-// grid and stores each change of their fields at once. The grid is never cleared.
+// The dialog `Table` builds a table. One tab sets the size and the attributes of the table. The other tab shows one
+// cell and one row of the grid, and stores each change of their fields at once. The grid is never cleared.
 #pragma once
 
 #include <functional>
@@ -19,7 +19,7 @@ class Table : public FragmentDialog<Ui::Table> {
   Q_OBJECT
 
  public:
-  // Asks the person for attributes. Nothing on cancel.
+  // Lets the person set attributes and returns them. Nothing on cancel.
   using AskAttributes = std::function<std::optional<std::string>()>;
 
   Table(TextBuffer& buffer, AskAttributes ask_cell, AskAttributes ask_row, QWidget* parent);
@@ -36,7 +36,7 @@ class Table : public FragmentDialog<Ui::Table> {
   [[nodiscard]] TableSpec Read() const;
   bool Put() override;
 
-  // The grid's strings for the shown cell and row.
+  // The strings of the shown cell and row in the grid.
   std::string& Text();
   std::string& Attributes();
   std::string& RowAttributes();

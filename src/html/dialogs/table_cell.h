@@ -1,4 +1,4 @@
-// `TableCell`: one cell of a table around the selection, or the attributes of a cell for the table builder.
+// The dialog `TableCell` puts a table cell around the selection, or returns the attributes of a cell to `Table`.
 #pragma once
 
 #include <functional>

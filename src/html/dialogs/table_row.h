@@ -1,4 +1,4 @@
-// `TableRow`: one row of a table, with numbered cells, or the attributes of a row for the table builder.
+// The dialog `TableRow` inserts a row of numbered cells, or returns the attributes of a row to `Table`.
 #pragma once
 
 #include "html/dialogs/attributes_dialog.h"

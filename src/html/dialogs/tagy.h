@@ -1,4 +1,4 @@
-// `Tagy`: a whole tag of the person's own. Its lists stay from one opening to the next.
+// The dialog `Tagy` inserts a tag with a typed name. It keeps its lists of attributes for the next opening.
 #pragma once
 
 #include "platform/qt/controls/fragment_dialog.h"
@@ -15,7 +15,7 @@ class Tagy : public FragmentDialog<Ui::Tagy> {
  public:
   Tagy(TextBuffer& buffer, QWidget* parent);
 
-  // Writes the tag that the fields hold, also while the window is hidden.
+  // Inserts the tag from the fields, also while the window is hidden.
   void InsertCustomTag();
 
  private:

@@ -1,4 +1,4 @@
-// `Template`: the sample documents with a preview. The chosen sample replaces the whole document.
+// The dialog `Template` offers sample documents with a preview. The chosen sample replaces the whole document.
 #pragma once
 
 #include "platform/qt/controls/fragment_dialog.h"

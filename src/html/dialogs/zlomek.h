@@ -1,4 +1,4 @@
-// `Zlomek`: a fraction.
+// The dialog `Zlomek` inserts a fraction.
 #pragma once
 
 #include "platform/qt/controls/fragment_dialog.h"
