@@ -1,6 +1,5 @@
 #include "files/open.h"
 
-#include <cerrno>
 #include <utility>
 
 #include "platform/paths.h"
@@ -14,11 +13,9 @@ Opener::Opener(Documents& documents, RecentFiles& recent, Platform& platform, Fi
 
 void Opener::OpenPath(const std::string& path) {
   const auto stamp = platform_.Stamp(path);
-  // Reading the file also tests whether it exists, so in the usual case the file is opened only once. A path that ends
-  // in a separator is no file, but the read would ignore the separator.
-  FileBytes file{.error = ENOTDIR, .bytes = {}};
-  if (!file_number_.IsOpen() && !EndsInSeparator(path)) file = platform_.ReadFile(path, kLargestDocument + 1);
-  if (file.error != 0 && !FileExists(file_number_, platform_, path)) {
+  // Reading the file also tests whether it exists, so the file is usually opened only once.
+  FileBytes file = platform_.ReadFile(path, kLargestDocument + 1);
+  if ((file.error != 0 || file_number_.IsOpen()) && !FileExists(file_number_, platform_, path)) {
     platform_.Message(MessageType::kOk, "Soubor " + path + " nenalezen!", "Soubor");
     return;
   }
