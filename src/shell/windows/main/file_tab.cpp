@@ -4,7 +4,6 @@
 #include <algorithm>
 
 #include "platform/qt/convert.h"
-#include "text/index.h"
 
 namespace pelmar {
 namespace {
@@ -18,7 +17,7 @@ constexpr int kDotMargin = 4;
 
 }  // namespace
 
-FileTab::FileTab(QWidget* parent) : QTabBar(parent) {
+FileTab::FileTab(Documents& documents, QWidget* parent) : QTabBar(parent), documents_(documents) {
   setObjectName(QStringLiteral("FileTab"));
   setShape(QTabBar::RoundedEast);
   setUsesScrollButtons(false);
@@ -29,30 +28,33 @@ FileTab::FileTab(QWidget* parent) : QTabBar(parent) {
   setAccessibleName(QStringLiteral("Dokumenty"));
   for (int tab = 1; tab <= kTabCount; ++tab) {
     addTab(QString());
-    SetFace(tab, {});
+    ShowFace(tab);
   }
+  connect(this, &QTabBar::currentChanged, this, [&documents](int index) { documents.SwitchTo(index + 1); });
+  listenings_ = {documents.face_changed.Add([this](int tab) { ShowFace(tab); }),
+                 documents.title_changed.Add([this] { ShowUnsaved(); }), documents.tab_selected.Add([this](int tab) {
+                   setCurrentIndex(tab - 1);
+                   ShowUnsaved();
+                 })};
 }
 
-void FileTab::SetFace(int tab, const TabFace& face) {
-  const QString caption = Utf8ToQString(face.Caption);
-  captions_[IndexFromOne(tab)] = caption;
-  setTabText(tab - 1, QString(caption).replace(QLatin1Char('&'), QLatin1String("&&")));
-  setTabToolTip(tab - 1, Utf8ToQString(face.ToolTipText));
+QString FileTab::CaptionAt(int index) const { return Utf8ToQString(documents_.Face(index + 1).Caption); }
+
+void FileTab::ShowFace(int tab) {
+  setTabText(tab - 1, CaptionAt(tab - 1).replace(QLatin1Char('&'), QLatin1String("&&")));
+  setTabToolTip(tab - 1, Utf8ToQString(documents_.Face(tab).ToolTipText));
   NameTab(tab);
 }
 
-void FileTab::SetUnsaved(int tab, bool unsaved) {
-  const std::size_t at = IndexFromOne(tab);
-  if (unsaved_[at] == unsaved) return;
-  unsaved_[at] = unsaved;
-  NameTab(tab);
+void FileTab::ShowUnsaved() {
+  for (int tab = 1; tab <= kTabCount; ++tab) NameTab(tab);
   update();
 }
 
 void FileTab::NameTab(int tab) {
-  const std::size_t at = IndexFromOne(tab);
-  const QString spoken = captions_[at].isEmpty() ? QStringLiteral("nový soubor") : captions_[at];
-  const QString state = unsaved_[at] ? QStringLiteral(", neuloženo") : QString();
+  const QString caption = CaptionAt(tab - 1);
+  const QString spoken = caption.isEmpty() ? QStringLiteral("nový soubor") : caption;
+  const QString state = documents_.IsUnsaved(tab) ? QStringLiteral(", neuloženo") : QString();
   setAccessibleTabName(tab - 1, QStringLiteral("Dokument %1, %2%3").arg(tab).arg(spoken, state));
 }
 
@@ -63,12 +65,14 @@ void FileTab::SetStripWidth(int width) {
 
 // All tabs have the same length if their captions fit. Otherwise tabs without a caption shrink.
 QSize FileTab::tabSizeHint(int index) const {
-  int widest = 0;
-  for (const QString& caption : captions_) widest = std::max(widest, fontMetrics().horizontalAdvance(caption));
+  int widest = 0, unnamed = 0;
+  for (int at = 0; at < kTabCount; ++at) {
+    widest = std::max(widest, fontMetrics().horizontalAdvance(CaptionAt(at)));
+    unnamed += CaptionAt(at).isEmpty() ? 1 : 0;
+  }
   const int alike = std::min(height() / kTabCount, kTallestTab);
-  const auto unnamed = static_cast<int>(std::ranges::count_if(captions_, &QString::isEmpty));
   if (widest + 2 * kCaptionMargin <= alike || unnamed == kTabCount || alike < kUnnamedTab) return {width(), alike};
-  if (captions_[static_cast<std::size_t>(index)].isEmpty()) return {width(), kUnnamedTab};
+  if (CaptionAt(index).isEmpty()) return {width(), kUnnamedTab};
   return {width(), std::min((height() - unnamed * kUnnamedTab) / (kTabCount - unnamed), kTallestTab)};
 }
 QSize FileTab::minimumTabSizeHint(int index) const { return tabSizeHint(index); }
@@ -95,13 +99,13 @@ void FileTab::PaintTab(QPainter& painter, int index) const {
   painter.setBrush(palette().brush(selected ? QPalette::Base : QPalette::Button));
   painter.drawRoundedRect(shape, kCorner, kCorner);
 
-  const QString& name = captions_[static_cast<std::size_t>(index)];
+  const QString name = CaptionAt(index);
   const bool unnamed = name.isEmpty();
   painter.save();
   painter.translate(rect.right() + 1, rect.top());
   painter.rotate(90);
   QRect turned(kCaptionMargin, 0, rect.height() - 2 * kCaptionMargin, rect.width());
-  if (unsaved_[static_cast<std::size_t>(index)]) {
+  if (documents_.IsUnsaved(index + 1)) {
     const int left = rect.height() - kDotMargin - kDot;
     turned.setRight(left - kDotMargin);
     painter.setPen(Qt::NoPen);

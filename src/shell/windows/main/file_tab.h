@@ -1,10 +1,10 @@
-// The strip of five tabs spans the window beneath the text box; its tabs are visible at the right edge, which the text
-// box leaves free. Captions run downwards. A tab without a file shows its number, an unsaved document a dot.
+// The tabs of the five documents show and change the selected document. The strip of tabs spans the window beneath the
+// text box; its tabs are visible at the right edge, which the text box leaves free. Captions run downwards. A tab
+// without a file shows its number, an unsaved document a dot.
 #pragma once
 
 #include <QTabBar>
 #include <array>
-#include <bitset>
 
 #include "shell/documents.h"
 
@@ -14,12 +14,8 @@ class FileTab : public QTabBar {
   Q_OBJECT
 
  public:
-  explicit FileTab(QWidget* parent = nullptr);
+  FileTab(Documents& documents, QWidget* parent);
 
-  // Sets the caption and the tool tip of a tab (from 1).
-  void SetFace(int tab, const TabFace& face);
-  // Shows a dot on the tab (from 1) of a document with unsaved changes.
-  void SetUnsaved(int tab, bool unsaved);
   // Sets the width of the visible part at the right edge, in pixels.
   void SetStripWidth(int width);
 
@@ -29,13 +25,17 @@ class FileTab : public QTabBar {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  // Tabs count from 1, indexes from 0.
+  void ShowFace(int tab);
+  void ShowUnsaved();
   void NameTab(int tab);
+  [[nodiscard]] QString CaptionAt(int index) const;
   [[nodiscard]] QRect VisibleRect(int index) const;
   void PaintTab(QPainter& painter, int index) const;
 
+  const Documents& documents_;
   int strip_width_ = 24;
-  std::array<QString, kTabCount> captions_;
-  std::bitset<kTabCount> unsaved_;
+  std::array<Listening, 3> listenings_;
 };
 
 }  // namespace pelmar

@@ -69,7 +69,7 @@ void MainWindow::MakeControls() {
   client_->installEventFilter(this);
   toolbar_ = new MainToolbar(editor_.commands, files_, client_);
   toolbar_->setAccessibleName(QStringLiteral("Panel nástrojů"));
-  tabs_ = new FileTab(client_);
+  tabs_ = new FileTab(editor_.documents, client_);
   box_ = new TextBox(client_);
   box_->setObjectName(QStringLiteral("Text1"));
   box_->setAccessibleName(QStringLiteral("Text dokumentu"));
@@ -84,7 +84,6 @@ void MainWindow::MakeControls() {
   bar_ = new StatusStrip(client_);
   bar_->setAccessibleName(QStringLiteral("Stavový řádek"));
   bar_->raise();
-  connect(tabs_, &QTabBar::currentChanged, this, [this](int index) { editor_.documents.SwitchTo(index + 1); });
   // The pop-up menus are also submenus of the menu bar.
   const auto pop_up = [this](QWidget* owner, std::string_view name) {
     owner->setContextMenuPolicy(Qt::CustomContextMenu);
@@ -117,17 +116,8 @@ void MainWindow::AddViewCommands() {
 }
 
 void MainWindow::FollowDocuments() {
-  Documents& documents = editor_.documents;
-  const auto show_title = [this] {
-    setWindowTitle(PlainTitle(editor_.documents.Title()));
-    for (int tab = 1; tab <= kTabCount; ++tab) tabs_->SetUnsaved(tab, editor_.documents.IsUnsaved(tab));
-  };
-  listenings_ = {documents.title_changed.Add(show_title),
-                 documents.face_changed.Add([this](int tab) { tabs_->SetFace(tab, editor_.documents.Face(tab)); }),
-                 documents.tab_selected.Add([this, show_title](int tab) {
-                   tabs_->setCurrentIndex(tab - 1);
-                   show_title();
-                 }),
+  const auto show_title = [this] { setWindowTitle(PlainTitle(editor_.documents.Title())); };
+  listenings_ = {editor_.documents.title_changed.Add(show_title),
                  files_.recent.changed.Add([this] { toolbar_->ShowRecentFiles(); })};
   show_title();
 }
