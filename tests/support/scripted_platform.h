@@ -1,12 +1,14 @@
 // A platform without a screen: it writes down what a person or the system would notice and answers from queues that
 // the test fills. A question without an answer throws std::logic_error, so that no test passes by an answer that it
-// didn't give. Files lie in memory; a path ending in "/" in `files` is a folder.
+// didn't give. Files lie in memory; a path ending in "/" in `files` is a folder. WritePrivateFile may be called from a
+// thread, so this call and others that use `calls` or `files` take a lock.
 #pragma once
 
 #include <algorithm>
 #include <cerrno>
 #include <deque>
 #include <map>
+#include <mutex>
 #include <numeric>
 #include <set>
 #include <stdexcept>
@@ -27,6 +29,11 @@ class ScriptedPlatform : public Platform, public Paper {
   std::vector<std::string> calls;
   // The calls so far, which are then forgotten.
   std::vector<std::string> TakeCalls() { return std::exchange(calls, {}); }
+  // Waits for a thread that is writing.
+  [[nodiscard]] bool HasCalls() {
+    const std::lock_guard hold(lock_);
+    return !calls.empty();
+  }
   // The same in one line, "; " behind each.
   std::string TakeTold() {
     std::string told;
@@ -86,6 +93,7 @@ class ScriptedPlatform : public Platform, public Paper {
 
   bool CanRead(const std::string& path) override { return ReadError(path) == 0; }
   FileBytes ReadFile(const std::string& path, std::optional<std::uint64_t> limit) override {
+    const std::lock_guard hold(lock_);
     if (const int error = ReadError(path)) return {.error = error, .bytes = {}};
     return {.error = 0, .bytes = files[path].substr(0, limit.value_or(std::string::npos))};
   }
@@ -96,6 +104,7 @@ class ScriptedPlatform : public Platform, public Paper {
     return {};
   }
   int WritePrivateFile(const std::string& path, std::string_view bytes) override {
+    const std::lock_guard hold(lock_);
     private_files.insert(path);
     return WriteDocument(path, bytes).error;
   }
@@ -168,6 +177,7 @@ class ScriptedPlatform : public Platform, public Paper {
   // The texts stand in quotes.
   std::string& Note(std::string call, std::initializer_list<std::string_view> texts = {}) {
     for (const std::string_view text : texts) call += " \"" + std::string(text) + '"';
+    const std::lock_guard hold(lock_);
     return calls.emplace_back(std::move(call));
   }
   template <typename Value>
@@ -182,6 +192,7 @@ class ScriptedPlatform : public Platform, public Paper {
     return path.ends_with('/') || files.contains(path + '/') ? EISDIR : 0;
   }
   [[nodiscard]] int ReadError(const std::string& path) const {
+    const std::lock_guard hold(lock_);
     const int error = ErrorAt(path, read_errors);
     return error || files.contains(path) ? error : ENOENT;
   }
@@ -197,6 +208,7 @@ class ScriptedPlatform : public Platform, public Paper {
   void NewPage() override { Note("page"); }
 
   int drawn_ = 0;
+  mutable std::recursive_mutex lock_;
 };
 
 }  // namespace pelmar

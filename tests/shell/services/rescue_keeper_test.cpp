@@ -46,7 +46,7 @@ TEST_F(RescueKeeperTest, KeepsAChangeWithinTwoSecondsAndTheBarSaysForAsLongAsItC
   const auto* warning = window.Bar().findChild<QLabel*>(QStringLiteral("Warning"));
   const auto type = [&](const char* more) { window.Box().Buffer().Type(more); };
   type("a");
-  ASSERT_TRUE(QTest::qWaitFor([&] { return !platform.calls.empty(); }, 2000));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return platform.HasCalls(); }, 2000));
   const std::string own = platform.calls.back().substr(6);
   EXPECT_EQ(Texts(own), "Soubor:\r\na\r\n\r\n");
   EXPECT_TRUE(platform.private_files.contains(own));
