@@ -79,7 +79,8 @@ void Poznamka::ConnectCommands() {
     before = button;
   }
   connect(ui_->Copy, &QAction::triggered, this, [this] { around_.platform.SetClipboardText(Buffer().SelText()); });
-  connect(ui_->Paste, &QAction::triggered, this, [this] { Buffer().ReplaceSelection(around_.platform.ClipboardText()); });
+  connect(ui_->Paste, &QAction::triggered, this,
+          [this] { Buffer().ReplaceSelection(around_.platform.ClipboardText()); });
   connect(ui_->Close, &QAction::triggered, this, &Poznamka::close);
   connect(ui_->TabStrip1, &QTabBar::currentChanged, this, &Poznamka::TabStrip1_Click);
   AddTabKeys(*this, *ui_->TabStrip1);
