@@ -46,8 +46,8 @@ bool IsMoveOrResize(const QEvent& event) {
 }  // namespace
 
 Poznamka::Poznamka(Surroundings around) : around_(std::move(around)), ui_(std::make_unique<Ui::Poznamka>()) {
+  SetAccessibleRole(*this, QAccessible::Window);  // first: Qt 6.8 asks for the role during setupUi
   ui_->setupUi(this);
-  SetAccessibleRole(*this, QAccessible::Window);
   ShowOnParentsScreen(*this);
   CentreOnScreen(*this);
   SetAlwaysOnTop(*this, true);
