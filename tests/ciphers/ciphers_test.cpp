@@ -58,7 +58,11 @@ TEST(KeyFields, AKeyIsANumberAndAPasswordAWholeOne) {
     EXPECT_EQ(KeyText(c.typed), c.key) << c.typed;
     EXPECT_EQ(PasswordText(c.typed), c.password) << c.typed;
   }
+}
+
+TEST(RandomPassword, HasFifteenDigitsOfWhichTheFirstIsNotZero) {
   EXPECT_EQ(RandomPassword([] { return 0.0; }), "100000000000000");
+  EXPECT_EQ(RandomPassword([] { return 0.999; }), "999999999999999");
 }
 
 TEST(HackerTranscription, DrawsEachLookAlikeAsOftenAsTheOthers) {
@@ -88,14 +92,14 @@ std::string Enciphered(const std::string& text, double key) {
   return output;
 }
 
-TEST(StreamCipher, HasTheToldKeyBytes) {
+TEST(StreamCipher, HasTheRequiredKeyBytes) {
   const std::string zeros(6, '\0');
   EXPECT_EQ(Enciphered(zeros, 0), "\x55\x52\x17\x89\x22\xF6");
   EXPECT_EQ(Enciphered(zeros, 1), "\x55\x12\x97\xC3\x31\x89");
   EXPECT_EQ(Enciphered(zeros, 123), "\xCB\x06\xB4\x86\x9F\x13");
 }
 
-// The generator once more, by divisions of longer numbers.
+// A second implementation of the generator, by divisions of longer numbers.
 struct SecondGenerator {
   unsigned long long state = 0x395886;
 
@@ -111,7 +115,7 @@ struct SecondGenerator {
 };
 
 // required: the character that equals its key byte is lost
-TEST(StreamCipher, IsTheTextAgainstASecondGeneratorWithoutTheZeros) {
+TEST(StreamCipher, EqualsASecondGeneratorWithoutTheZeros) {
   std::vector<double> keys = {0, 1, -1, 0.5, 0.1, 1e15, 1e-300, 1.5e308, -12345678901234, 65535, 65536};
   RandomSource random(3);
   for (int i = 0; i < 1000; ++i) keys.push_back(std::ldexp(random.Next(), static_cast<int>(random.Below(1000)) - 500));
@@ -130,68 +134,68 @@ TEST(StreamCipher, IsTheTextAgainstASecondGeneratorWithoutTheZeros) {
   }
 }
 
-// Runs of a document through the whole rewrite.
 struct StreamTest : testing::Test {
   ScriptedPlatform platform;
   TextBuffer document;
   std::string output;
   std::vector<std::size_t> progress;
 
-  void Rewrite(const std::string& text, const std::function<bool()>& meanwhile) {
+  void Rewrite(
+      const std::string& text, const std::function<bool()>& on_progress = [] { return true; }) {
     document.SetText(text);
     RewriteStream(document, 3, output, platform, [&](std::size_t done) {
       progress.push_back(done);
-      return meanwhile();
+      return on_progress();
     });
   }
 };
 
-TEST_F(StreamTest, WarnsOfCode8WhichMayEndTheRun) {
-  const std::string text("a\bb\b", 4);
-  platform.answers = {Answer::kOk, Answer::kNo, Answer::kOk, Answer::kNo};
-  Rewrite(text, [] { return true; });
-  EXPECT_EQ(document.Text(), Enciphered(text, 3));
-  const std::vector<std::string> warning = {"message 0 \"Porusena intengrita textu!\" \"Kódování\"",
-                                            "message 52 \"Ukončit proces? (doporučuji ne)\" \"Kódování\""};
-  EXPECT_EQ(platform.calls, (std::vector{warning[0], warning[1], warning[0], warning[1]}));
-  EXPECT_EQ(progress, (std::vector<std::size_t>{1, 2, 2, 3, 4, 4}));  // at the character that a warning is about
+constexpr const char* kWarningOfCode8 =
+    "message 0 \"Porusena intengrita textu!\" \"Kódování\"; "
+    "message 52 \"Ukončit proces? (doporučuji ne)\" \"Kódování\"; ";
+
+TEST_F(StreamTest, GoesOnBehindCode8AfterNo) {
+  platform.answers = {Answer::kOk, Answer::kNo};
+  Rewrite("a\bb");
+  EXPECT_EQ(document.Text(), Enciphered("a\bb", 3));
+  EXPECT_EQ(platform.TakeTold(), kWarningOfCode8);
+  EXPECT_EQ(progress, (std::vector<std::size_t>{1, 2, 2, 3}));  // the warning stands at its character
+}
+
+TEST_F(StreamTest, EndsAtCode8AfterYesAndKeepsTheDocument) {
   platform.answers = {Answer::kOk, Answer::kYes};
-  Rewrite(text, [] { return true; });
-  EXPECT_EQ(document.Text(), text);
+  Rewrite("a\bb");
+  EXPECT_EQ(document.Text(), "a\bb");
   EXPECT_EQ(output, Enciphered("a", 3));
 }
 
-TEST_F(StreamTest, ReadsADocumentThatChangesUnderIt) {
+TEST_F(StreamTest, ReadsEachCharacterAtItsTurnAndTheLengthOnce) {
   const std::string text(20000, 'a');
   Rewrite(text, [&] {
     if (progress.size() == 1) document.SetText(std::string(30000, 'b'));
     return true;
   });
-  // The length was taken once, each character at its turn.
-  const std::size_t turned = progress.front();
-  EXPECT_EQ(document.Text(), Enciphered(std::string(turned, 'a') + std::string(text.size() - turned, 'b'), 3));
-  Rewrite(text, [&] {
+  const std::size_t done = progress.front();
+  EXPECT_EQ(document.Text(), Enciphered(std::string(done, 'a') + std::string(text.size() - done, 'b'), 3));
+}
+
+TEST_F(StreamTest, EndsWithADocumentThatBecomesShorter) {
+  Rewrite(std::string(20000, 'a'), [&] {
     document.SetText("short");
     return true;
   });
-  EXPECT_EQ(document.Text(), Enciphered(text, 3).substr(0, output.size()));
-  EXPECT_LT(output.size(), text.size());
-  Rewrite(text, [] { return false; });
-  EXPECT_EQ(document.Text(), text);
+  EXPECT_EQ(document.Text(), Enciphered(std::string(progress.front(), 'a'), 3));
 }
 
-TEST(CheckSums, AreToldInFourLines) {
+TEST(CheckSums, StandInFourLines) {
   const struct {
     std::string text;
     const char *crc, *contra_crc, *and_crc, *short_crc;
   } cases[] = {
       {"", "0 (0)", "0 (0)", "0 (0)", "0 (0)"},
-      {"ABC", "C6 (198)", "3 (3)", "40 (64)", "0 (0)"},       // the last has no partner
-      {"ABCDE", "14F (335)", "A (10)", "80 (128)", "0 (0)"},  // nor a four
+      {"ABCDE", "14F (335)", "A (10)", "80 (128)", "0 (0)"},  // the last character has no partner and no four
       {"ACBD", "10A (266)", "8 (8)", "81 (129)", "1 (1)"},
-      {"\xFF\xFF\x0F\x0F"
-       "ACBDx",
-       "39E (926)", "8 (8)", "18F (399)", "F1 (241)"},
+      {"\xFF\xFF\x0F\x0F", "21C (540)", "0 (0)", "10E (270)", "F0 (240)"},
   };
   for (const auto& c : cases) {
     ScriptedPlatform platform;
@@ -201,7 +205,8 @@ TEST(CheckSums, AreToldInFourLines) {
     editor.commands.Run("mnu_crc");
     EXPECT_EQ(platform.calls.back(), std::string("message 64 \"CRC součet je #") + c.crc + "\r\nContraCRC součet je #" +
                                          c.contra_crc + "\r\n&CRC součet je #" + c.and_crc +
-                                         "\r\nShortCRC součet je #" + c.short_crc + "\" \"CRC\"");
+                                         "\r\nShortCRC součet je #" + c.short_crc + "\" \"CRC\"")
+        << ToUtf8(c.text);
   }
 }
 

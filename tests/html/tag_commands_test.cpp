@@ -30,10 +30,13 @@ struct TagCommandsTest : testing::Test {
   }
 };
 
-TEST_F(TagCommandsTest, WriteFixedTextsAndTheProfile) {
+TEST_F(TagCommandsTest, WriteFixedTexts) {
   EXPECT_EQ(Written({"mnubr", "MnuHTMLeft", "MnuHTMLright", "mnuHTMLAnd", "MnuHTMLnobr", "mnuand", "mnudolar",
                      "mnucross", "mnuSS", "mnuZav", "mnubackslash", "mnucop", "mnureg", "mnutm"}),
             "<BR>&lt;&gt;&amp;&nbsp;&$#ß@\\©®™");
+}
+
+TEST_F(TagCommandsTest, WriteTheTimeAndTheProfile) {
   platform.now = {2026, 3, 9, 7, 5, 0};
   EXPECT_EQ(Written({"mnudate", "mnutime", "mnuemail"}), "03-09-202607:05:00\"\" <>");
   editor.settings.UserName = "Jan Novák"_w;
@@ -41,40 +44,48 @@ TEST_F(TagCommandsTest, WriteFixedTextsAndTheProfile) {
   EXPECT_EQ(Written({"mnuemail"}), "\"Jan Novák\" <jan@x.cz>");
 }
 
-TEST_F(TagCommandsTest, WrapTheSelectionOrASample) {
+TEST_F(TagCommandsTest, WrapTheSelectionInTagsThatMatch) {
   for (const TagWrapper& tag : TagWrappers()) {
     EXPECT_EQ(Made(std::string(tag.command), "x"), std::string(tag.open) + "x" + std::string(tag.close) + "-");
     EXPECT_EQ(tag.close.substr(tag.close.find('/') + 1), std::string(tag.open.substr(1, tag.open.find('>'))));
   }
-  // required: no blanks in the toolbar's
-  EXPECT_EQ(Written({"mnucenter", "Center"}), "<CENTER> Centrovaný text </CENTER><CENTER>Centrovaný text</CENTER>");
+}
+
+TEST_F(TagCommandsTest, WithoutASelectionWrapASample) {
+  EXPECT_EQ(Written({"mnucenter"}), "<CENTER> Centrovaný text </CENTER>");
+  EXPECT_EQ(Written({"Center"}), "<CENTER>Centrovaný text</CENTER>");  // required: without blanks
   EXPECT_EQ(Written({"mnutt", "mnuhttpbig"}), "<TT>Pevná šířka znaků</TT><BIG>Velké</BIG>");
 }
 
 TEST_F(TagCommandsTest, MakeListsOfLines) {
-  for (const auto& [lines, list] : {
-           std::pair{"a\r\n\r\nbc",
-                     "<UL><LI>a</LI>\r\n<LI></LI>\r\n<LI>b</LI></UL>-"},  // required: the last one is lost
-           {"x", "<UL><LI></LI></UL>-"},
-           {"a\r\n", "<UL><LI>a</LI>\r</LI></UL>-"},
-           {"a\nbc", "<UL><LI>a\n<LI>b</LI></UL>-"},
-       })
-    EXPECT_EQ(Made("mnu_HTML_sel_list", lines), list);
+  const std::pair<const char*, const char*> cases[] = {
+      {"a\r\n\r\nbc", "<UL><LI>a</LI>\r\n<LI></LI>\r\n<LI>b</LI></UL>-"},  // required: the last one is lost
+      {"x", "<UL><LI></LI></UL>-"},
+      {"a\r\n", "<UL><LI>a</LI>\r</LI></UL>-"},
+      {"a\nbc", "<UL><LI>a\n<LI>b</LI></UL>-"},
+  };
+  for (const auto& [lines, list] : cases) EXPECT_EQ(Made("mnu_HTML_sel_list", lines), list);
   EXPECT_EQ(Made("mnu_HTML_sel_num_list", "ab"), "<OL><LI>a</LI></OL>-");
+}
+
+TEST_F(TagCommandsTest, AskForASelectionBeforeTheyMakeAList) {
   platform.answers = {Answer::kOk};
   EXPECT_EQ(Made("mnu_HTML_sel_num_list", ""), "-");
-  EXPECT_EQ(platform.TakeCalls(), std::vector<std::string>{R"(message 0 "Vyber text" "HTML list")"});
+  EXPECT_EQ(platform.TakeTold(), "message 0 \"Vyber text\" \"HTML list\"; ");
 }
 
 TEST_F(TagCommandsTest, StripTags) {
-  for (const auto& [html, plain] : {std::pair{"a <b>c</b> > d", "a c > d-"},
-                                    {"<a<b>c>d", "c>d-"},
-                                    {"<P\r\nX>&lt;\r\n\x9e</P>\n<", "&lt;\r\n\x9e\n-"}})
-    EXPECT_EQ(Made("mnuNoHtml", html), plain) << html;
-  EXPECT_EQ(editor.text.SelStart(), editor.text.Size() - 1);
-  platform.TakeCalls();
-  EXPECT_EQ(Made("mnuNoHtml", ""), "-");
-  EXPECT_EQ(platform.calls, (std::vector<std::string>{"busy 1", "busy 0"}));
+  const std::pair<const char*, const char*> cases[] = {
+      {"", "-"},
+      {"a <b>c</b> > d", "a c > d-"},
+      {"<a<b>c>d", "c>d-"},
+      {"<P\r\nX>&lt;\r\n\x9e</P>\n<", "&lt;\r\n\x9e\n-"},
+  };
+  for (const auto& [html, plain] : cases) {
+    EXPECT_EQ(Made("mnuNoHtml", html), plain);
+    EXPECT_EQ(editor.text.SelStart(), editor.text.Size() - 1) << html;
+    EXPECT_EQ(platform.TakeTold(), "busy 1; busy 0; ") << html;
+  }
 }
 
 }  // namespace

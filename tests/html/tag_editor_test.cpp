@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::size_t kNone = std::string::npos;
 
-// The place and the length of the tag, its name, "|NAME:value" for each row, at the end the step that failed.
+// A result in one line: place and length of the tag, its name, "|NAME:value" for each row, then the failed step.
 std::string Shown(const TagAnalysis& analysis) {
   if (!analysis.has_tag) return analysis.range || analysis.failed_in ? "none, but more" : "none";
   std::string shown = "no place";
@@ -40,7 +40,7 @@ std::string Trimmed(std::string text) {
   return text;
 }
 
-// The same, step by step as with pencil and rubber.
+// A second, slow implementation of the same.
 std::string ShownSlowly(const std::string& text, std::size_t caret) {
   const std::size_t start = text.substr(0, caret + 1).rfind('<');
   if (start == kNone || text.find('>', text.find('<')) == kNone) return "none";
@@ -121,7 +121,7 @@ TEST_F(TagEditorOnText, OpeningSelectsTheTag) {
   EXPECT_EQ(Marked(text), "ab[<B>|c");
 }
 
-TEST_F(TagEditorOnText, WithoutATagOrWithABadOneThePersonIsTold) {
+TEST_F(TagEditorOnText, WithoutATagOrWithABadOneAMessageSaysSo) {
   EXPECT_EQ(Opened("a[b|"), std::vector<std::string>{R"(message 0 "Není tag!" "EdiTag")"});
   EXPECT_EQ(Marked(text), "a[b|");
   EXPECT_EQ(Opened("<A HREF=>|"),

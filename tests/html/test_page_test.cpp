@@ -11,53 +11,53 @@
 namespace pelmar {
 namespace {
 
-using Calls = std::vector<std::string>;
-
 struct PageTest : testing::Test {
   ScriptedPlatform platform;
   WholeEditor editor{platform};
 };
 
-TEST_F(PageTest, TestHtmlAsksAndShowsTheSavedFile) {
+TEST_F(PageTest, ASavedDocumentIsShownFromItsFileAfterAQuestion) {
   editor.documents.MakeCurrent("/home/jan/a.html");
   platform.answers = {Answer::kYes};
   editor.commands.Run("mnutest");
-  EXPECT_EQ(platform.calls, (Calls{"message 52 \"Soubor je uložen, zobrazit uloženou verzi ?\" \"Nový\"",
-                                   "default program /home/jan/a.html"}));
+  EXPECT_EQ(platform.TakeTold(),
+            "message 52 \"Soubor je uložen, zobrazit uloženou verzi ?\" \"Nový\"; default program /home/jan/a.html; ");
 }
 
-TEST_F(PageTest, TestHtmlWritesOneNameAndOpensAnother) {  // required
+TEST_F(PageTest, TheWrittenNameIsNotTheOpenedOne) {  // required
   editor.text.SetText("<P>");
   platform.draws = {0.5};
   editor.commands.Run("mnutest");
-  EXPECT_EQ(platform.calls, (Calls{"create /tmp/$$$PelmarTemp49999999.htm", "default program /tmp/49999999.htm"}));
+  EXPECT_EQ(platform.TakeTold(), "create /tmp/$$$PelmarTemp49999999.htm; default program /tmp/49999999.htm; ");
   EXPECT_EQ(platform.files["/tmp/$$$PelmarTemp49999999.htm"], "<P>\r\n");
   EXPECT_EQ(platform.reseeds, 1);
 }
 
-TEST_F(PageTest, ANewPageNeverTakesTheNameOfAFileThatIsThere) {
-  platform.files["/tmp/$$$PelmarTemp0.html"] = "somebody's";
+TEST_F(PageTest, ANewPageNeverTakesTheNameOfAnotherFile) {
+  platform.files["/tmp/$$$PelmarTemp0.html"] = "other";
   editor.text.SetText("<P>");
-  platform.draws = {0.0, 0.0, 0.25, 0.999999999};
-  EXPECT_EQ(PageToShow(editor, PageEnd::kAsItIs), "/tmp/$$$PelmarTemp24999999.html");
-  EXPECT_EQ(PageToShow(editor, PageEnd::kLineBreak), "/tmp/$$$PelmarTemp99999998.html");
-  EXPECT_EQ(platform.files["/tmp/$$$PelmarTemp0.html"], "somebody's");
-  EXPECT_EQ(platform.files["/tmp/$$$PelmarTemp24999999.html"], "<P>");
-  EXPECT_EQ(platform.files["/tmp/$$$PelmarTemp99999998.html"], "<P>\r\n");
+  platform.draws = {0.0, 0.0, 0.999999999};
+  EXPECT_EQ(PageToShow(editor, PageEnd::kAsItIs), "/tmp/$$$PelmarTemp99999998.html");
+  EXPECT_EQ(platform.files["/tmp/$$$PelmarTemp0.html"], "other");
+  EXPECT_EQ(platform.files["/tmp/$$$PelmarTemp99999998.html"], "<P>");
   EXPECT_FALSE(editor.file_number.IsOpen());
-  platform.draws.assign(1000, 0.0);  // every name is taken: the search ends
+}
+
+TEST_F(PageTest, TheSearchForANameEnds) {
+  platform.files["/tmp/$$$PelmarTemp0.html"] = "other";
+  platform.draws.assign(1000, 0.0);
   platform.answers = {Answer::kOk};
   EXPECT_EQ(PageToShow(editor, PageEnd::kAsItIs), std::nullopt);
 }
 
-TEST_F(PageTest, APageThatCannotBeWrittenIsTold) {
+TEST_F(PageTest, APageThatCannotBeWrittenIsReported) {
   platform.draws = {0.0};
   platform.write_errors["/tmp/$$$PelmarTemp0.htm"] = ENOSPC;
   platform.answers = {Answer::kOk};
   editor.commands.Run("mnutest");
-  EXPECT_EQ(platform.calls, (Calls{"create /tmp/$$$PelmarTemp0.htm",
-                                   "message 0 \"Testovací stránku nelze zapsat do složky /tmp/\r\nKód chyby 28: na "
-                                   "disku není místo\" \"Testuj html\""}));
+  EXPECT_EQ(platform.calls.back(),
+            "message 0 \"Testovací stránku nelze zapsat do složky /tmp/\r\nKód chyby 28: na disku není místo\" "
+            "\"Testuj html\"");
   EXPECT_FALSE(editor.file_number.IsOpen());
 }
 

@@ -1,4 +1,4 @@
-// A main window without glass: it keeps what it is told and writes down what it is asked, in order.
+// A main window without a screen: it keeps the values that it gets, and the calls in order.
 #pragma once
 
 #include <cmath>

@@ -1,8 +1,6 @@
 // The fixture of window tests: the whole program over a scripted platform, put together as for a user but not started.
 //
-//   struct HrTest : ProgramTest {};
-//
-//   TEST_F(HrTest, WritesTheWidthInPercent) {
+//   TEST_F(ProgramTest, HrWritesTheWidthInPercent) {
 //     ExpectDocument("mnuhr", "Check1! Command1!", "a[b|c", R"(a<HR Width = "1%">|bc)");
 //   }
 //
@@ -49,6 +47,15 @@ struct ProgramTest : testing::Test {
     throw std::logic_error("no window opens by " + command);
   }
 
+  // A visible window or dialog other than the main window, or null.
+  [[nodiscard]] QWidget* VisibleWindow() const {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      const bool is_window = window->windowType() == Qt::Window || window->windowType() == Qt::Dialog;
+      if (is_window && window != &main && window->isVisible()) return window;
+    }
+    return nullptr;
+  }
+
   // Opens the window by the command, then fills the document with `before`, takes the steps, which end with the button
   // that writes into the document, and expects the document `after`. A failure names the caller's line.
   void ExpectDocument(const std::string& command, const char* steps, const char* before, const std::string& after,
@@ -60,16 +67,6 @@ struct ProgramTest : testing::Test {
     if (seen == after) return;
     ADD_FAILURE_AT(file, line) << command << " after " << steps << "\n  expected: " << after
                                << "\n  seen:     " << seen;
-  }
-
- private:
-  // A window or dialog other than the main window.
-  [[nodiscard]] QWidget* VisibleWindow() const {
-    for (QWidget* window : QApplication::topLevelWidgets()) {
-      const bool is_window = window->windowType() == Qt::Window || window->windowType() == Qt::Dialog;
-      if (is_window && window != &main && window->isVisible()) return window;
-    }
-    return nullptr;
   }
 };
 

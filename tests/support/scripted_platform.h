@@ -1,7 +1,7 @@
-// A platform without a screen: it writes down what a person or the system would notice and answers from queues that
-// the test fills. A question without an answer throws std::logic_error, so that no test passes by an answer that it
-// didn't give. Files lie in memory; a path ending in "/" in `files` is a folder. WritePrivateFile may be called from a
-// thread, so this call and others that use `calls` or `files` take a lock.
+// A platform without a screen: it keeps the calls that a user or the system would notice, and answers from queues
+// that the test fills. A question without an answer throws std::logic_error, so that no test passes by an answer that
+// it didn't give. Files lie in memory; a path ending in "/" in `files` is a folder. WritePrivateFile may be called from
+// a thread, so this call and others that use `calls` or `files` take a lock.
 #pragma once
 
 #include <algorithm>

@@ -25,6 +25,7 @@
 #include <QAction>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QScrollBar>
 #include <QTest>
 #include <algorithm>
 

@@ -13,7 +13,7 @@ namespace {
 using Calls = std::vector<std::string>;
 constexpr const char* kNothingFound = "message 0 \"Nenalezeno !\" \"Hledání\"";
 
-std::string Shown(const std::optional<std::size_t>& number) { return number ? std::to_string(*number) : "-"; }
+using Number = std::optional<std::size_t>;
 
 // A search of a document, and what a person does in its dialog.
 template <class Search>
@@ -30,7 +30,7 @@ struct Searching {
   static void IgnoreCase(Searching& s) { s.search.case_sensitive = false; }
   static void OtherText(Searching& s) { s.text.SetText("short text"); }
 
-  // The document behind the steps, with "!" where the last one told that there is nothing.
+  // The document after the steps, with " !" if the last step found nothing and said so.
   std::string After(std::string_view document, std::string_view term, const std::vector<Step>& steps) {
     PutMarked(text, document);
     search.find = FromUtf8(term);
@@ -41,17 +41,11 @@ struct Searching {
     }
     return Marked(text) + (platform.TakeCalls() == Calls{kNothingFound} ? " !" : "");
   }
-  [[nodiscard]] std::string Term() const { return ToUtf8(search.find); }
 };
 
 struct Finding : Searching<Finder> {
   static void PickFirst(Searching& s) { s.search.PickHistory(0); }
   static void PickSecond(Searching& s) { s.search.PickHistory(1); }
-  [[nodiscard]] std::string On() const {
-    return std::string(search.find_on ? "term " : "") + (search.case_on ? "case " : "") +
-           (search.history_on ? "history " : "") + (search.next_on ? "next " : "");
-  }
-  [[nodiscard]] std::string Labels() const { return Shown(search.count) + " at " + Shown(search.position); }
 };
 
 TEST(Find, StepsThroughTheTextOfTheStart) {
@@ -59,33 +53,47 @@ TEST(Find, StepsThroughTheTextOfTheStart) {
   const struct {
     const char *document, *term;
     std::vector<F::Step> steps;
-    const char *after, *new_term, *labels;
-    const char* on = "term case history ";
+    const char *after, *new_term;
+    Number count, position;
+    bool searching = false;
   } cases[] = {
-      {"|aaaa", "", {F::Load}, "|aaaa", "Text", "- at -"},
-      {"a[bc|", "", {F::Load}, "a[bc|", "bc", "- at -"},
-      {"|aaaa", "aa", {F::Start}, "[aa|aa", "aa", "1 at 0", "next "},
-      {"|aaaa", "aa", {F::Start, F::Next}, "a[aa|a", "aa", "2 at 1", "next "},
-      {"|aa", "a", {F::Start, F::Next, F::Next}, "a[a| !", "a", "2 at 1"},       // required: the labels stay
-      {"|aa", "a", {F::Start, F::New}, "[a|a", "a", "1 at 0", "term history "},  // required: case stays off
-      {"a[b|c", "z", {F::Start}, "a[b|c !", "b", "- at -"},
-      {"a[b|c", "z", {F::Start, F::PickFirst, F::PickSecond}, "a[b|c", "z", "- at -"},
-      {"|xx čaj Čaj", "čaj", {F::IgnoreCase, F::Start}, "xx [čaj| Čaj", "ČAJ", "1 at 3", "next "},
+      {"|aaaa", "", {F::Load}, "|aaaa", "Text", {}, {}},
+      {"a[bc|", "", {F::Load}, "a[bc|", "bc", {}, {}},
+      {"|aaaa", "aa", {F::Start}, "[aa|aa", "aa", 1, 0, true},
+      {"|aaaa", "aa", {F::Start, F::Next}, "a[aa|a", "aa", 2, 1, true},
+      {"|aa", "a", {F::Start, F::Next, F::Next}, "a[a| !", "a", 2, 1},  // required: the numbers stay
+      {"a[b|c", "z", {F::Start}, "a[b|c !", "b", {}, {}},
+      {"a[b|c", "z", {F::Start, F::PickFirst, F::PickSecond}, "a[b|c", "z", {}, {}},
+      {"|xx čaj Čaj", "čaj", {F::IgnoreCase, F::Start}, "xx [čaj| Čaj", "ČAJ", 1, 3, true},
       // Behind the last hit the term is as the document has it. required: in the history it is in upper case.
-      {"|čaj Čaj", "čaj", {F::IgnoreCase, F::Start, F::Next, F::Next}, "čaj [Čaj| !", "Čaj", "2 at 4"},
-      {"|čaj", "čaj", {F::IgnoreCase, F::Start, F::Next, F::PickFirst}, "[čaj|", "ČAJ", "1 at 0"},
-      {"|ab", "", {F::Start, F::Next}, "a|b", "", "2 at 1", "next "},
-      {"|", "", {F::Start}, "| !", "", "- at -"},
-      {"|one¶two", "e\r\ntwo", {F::Start}, "on[e¶two|", "e\r\ntwo", "1 at 2", "next "},
-      {"|one two one", "one", {F::Start, F::OtherText, F::Next}, "short te[xt|", "one", "2 at 8", "next "},
+      {"|čaj Čaj", "čaj", {F::IgnoreCase, F::Start, F::Next, F::Next}, "čaj [Čaj| !", "Čaj", 2, 4},
+      {"|čaj", "čaj", {F::IgnoreCase, F::Start, F::Next, F::PickFirst}, "[čaj|", "ČAJ", 1, 0},
+      {"|ab", "", {F::Start, F::Next}, "a|b", "", 2, 1, true},
+      {"|", "", {F::Start}, "| !", "", {}, {}},
+      {"|one¶two", "e\r\ntwo", {F::Start}, "on[e¶two|", "e\r\ntwo", 1, 2, true},
+      {"|one two one", "one", {F::Start, F::OtherText, F::Next}, "short te[xt|", "one", 2, 8, true},
   };
   for (const auto& c : cases) {
+    SCOPED_TRACE(std::string(c.document) + " to " + c.after);
     Finding finding;
     EXPECT_EQ(finding.After(c.document, c.term, c.steps), c.after);
-    EXPECT_EQ(finding.Term(), c.new_term) << c.document << " to " << c.after;
-    EXPECT_EQ(finding.Labels(), c.labels) << c.document << " to " << c.after;
-    EXPECT_EQ(finding.On(), c.on) << c.document << " to " << c.after;
+    EXPECT_EQ(ToUtf8(finding.search.find), c.new_term);
+    EXPECT_EQ(finding.search.count, c.count);
+    EXPECT_EQ(finding.search.position, c.position);
+    EXPECT_EQ(finding.search.next_on, c.searching);
+    EXPECT_EQ(finding.search.find_on, !c.searching);
+    EXPECT_EQ(finding.search.case_on, !c.searching);
+    EXPECT_EQ(finding.search.history_on, !c.searching);
   }
+}
+
+TEST(Find, ANewSearchLeavesTheCaseDisabled) {  // required
+  Finding finding;
+  finding.After("|aa", "a", {Finding::Start, Finding::New});
+  EXPECT_TRUE(finding.search.find_on);
+  EXPECT_TRUE(finding.search.history_on);
+  EXPECT_FALSE(finding.search.case_on);
+  EXPECT_FALSE(finding.search.next_on);
 }
 
 struct Replacing : Searching<Replacer> {
@@ -94,14 +102,6 @@ struct Replacing : Searching<Replacer> {
   static void PickFirst(Searching& s) { s.search.PickRow(0); }
   static void PickSecond(Searching& s) { s.search.PickRow(1); }
   static void ChangeToX(Searching& s) { s.search.change = "X"; }
-  [[nodiscard]] std::string On() const {
-    return std::string(search.find_on ? "term " : "") + (search.change_on ? "change " : "") +
-           (search.case_on ? "case " : "") + (search.lists_on ? "lists " : "") + (search.step_on ? "step " : "") +
-           (search.all_on ? "all " : "");
-  }
-  [[nodiscard]] std::string Labels() const {
-    return Shown(search.found_shown) + " found, " + Shown(search.replaced_shown) + " replaced";
-  }
 };
 
 TEST(Replace, ReadsItsReplacementAgainFromTheSecondCharacterOn) {  // required
@@ -109,55 +109,54 @@ TEST(Replace, ReadsItsReplacementAgainFromTheSecondCharacterOn) {  // required
   const struct {
     const char *document, *term, *change;
     std::vector<R::Step> steps;
-    const char *after, *new_term, *labels;
-    const char* on = "step all ";
+    const char *after, *new_term;
+    Number found, replaced;
+    bool searching = false;
   } cases[] = {
-      {"a[b|c", "", "", {R::Load}, "a[b|c", "b", "- found, - replaced", "term change case lists "},
-      {"|aaa", "aa", "X", {R::Start, R::Next}, "a[aa|", "aa", "2 found, - replaced"},
-      {"|a a a", "a", "ba", {R::Start, R::Replace}, "b[a| a a", "a", "2 found, 1 replaced"},
-      {"|a a a", "a", "ba", {R::Start, R::Replace, R::Next}, "ba [a| a", "a", "3 found, 1 replaced"},
-      {"|a a a", "a", "ba", {R::IgnoreCase, R::Start, R::Replace}, "ba [a| a", "A", "2 found, 1 replaced"},
-      // required: replace all outlives the search
-      {"|a", "a", "X", {R::Start, R::Replace}, "X| !", "a", "1 found, 1 replaced", "term change case lists all "},
-      {"a[b|c", "z", "", {R::Start}, "a[b|c !", "b", "- found, - replaced", "term change case lists all "},
-      {"ab|",
-       "b",
-       "",
-       {R::Start, R::OtherText, R::New},
-       "|short text",
-       "Text",
-       "1 found, - replaced",
-       "term change lists all "},
-      {"|a a", "a", "b", {R::Start, R::OtherText, R::Replace}, "bs[h|ort text", "a", "2 found, 1 replaced"},
+      {"a[b|c", "", "", {R::Load}, "a[b|c", "b", {}, {}},
+      {"|aaa", "aa", "X", {R::Start, R::Next}, "a[aa|", "aa", 2, {}, true},
+      {"|a a a", "a", "ba", {R::Start, R::Replace}, "b[a| a a", "a", 2, 1, true},
+      {"|a a a", "a", "ba", {R::Start, R::Replace, R::Next}, "ba [a| a", "a", 3, 1, true},
+      {"|a a a", "a", "ba", {R::IgnoreCase, R::Start, R::Replace}, "ba [a| a", "A", 2, 1, true},
+      {"|a", "a", "X", {R::Start, R::Replace}, "X| !", "a", 1, 1},
+      {"a[b|c", "z", "", {R::Start}, "a[b|c !", "b", {}, {}},
+      {"|a a", "a", "b", {R::Start, R::OtherText, R::Replace}, "bs[h|ort text", "a", 2, 1, true},
       // required: in the list the term is as it was typed
-      {"|Čaj", "čaj", "x", {R::IgnoreCase, R::Start, R::PickSecond}, "[Čaj|", "ČAJ", "1 found, - replaced"},
-      {"|Čaj", "čaj", "x", {R::IgnoreCase, R::Start, R::PickFirst}, "[Čaj|", "čaj", "1 found, - replaced"},
-      {"|a",
-       "a",
-       "b",
-       {R::Start, R::ChangeToX, R::PickFirst, R::Replace},
-       "b| !",
-       "a",
-       "1 found, 1 replaced",
-       "term change case lists all "},
-      // required: the term in upper case misses them
-      {"|Čaj",
-       "čaj",
-       "x",
-       {R::IgnoreCase, R::Start, R::All},
-       "|Čaj",
-       "ČAJ",
-       "- found, - replaced",
-       "term change lists "},
+      {"|Čaj", "čaj", "x", {R::IgnoreCase, R::Start, R::PickSecond}, "[Čaj|", "ČAJ", 1, {}, true},
+      {"|Čaj", "čaj", "x", {R::IgnoreCase, R::Start, R::PickFirst}, "[Čaj|", "čaj", 1, {}, true},
+      {"|a", "a", "b", {R::Start, R::ChangeToX, R::PickFirst, R::Replace}, "b| !", "a", 1, 1},
   };
   for (const auto& c : cases) {
+    SCOPED_TRACE(std::string(c.document) + " to " + c.after);
     Replacing replacing;
     replacing.search.change = c.change;
     EXPECT_EQ(replacing.After(c.document, c.term, c.steps), c.after);
-    EXPECT_EQ(replacing.Term(), c.new_term) << c.document << " to " << c.after;
-    EXPECT_EQ(replacing.Labels(), c.labels) << c.document << " to " << c.after;
-    EXPECT_EQ(replacing.On(), c.on) << c.document << " to " << c.after;
+    EXPECT_EQ(ToUtf8(replacing.search.find), c.new_term);
+    EXPECT_EQ(replacing.search.found_shown, c.found);
+    EXPECT_EQ(replacing.search.replaced_shown, c.replaced);
+    EXPECT_EQ(replacing.search.step_on, c.searching);
+    EXPECT_EQ(replacing.search.find_on, !c.searching);
+    EXPECT_EQ(replacing.search.change_on, !c.searching);
+    EXPECT_EQ(replacing.search.case_on, !c.searching);
+    EXPECT_EQ(replacing.search.lists_on, !c.searching);
+    EXPECT_EQ(replacing.search.all_on, c.steps.front() != R::Load);  // required: it outlives the search
   }
+}
+
+TEST(Replace, ANewSearchLeavesTheCaseDisabled) {  // required
+  Replacing replacing;
+  EXPECT_EQ(replacing.After("ab|", "b", {Replacing::Start, Replacing::OtherText, Replacing::New}), "|short text");
+  EXPECT_EQ(replacing.search.find, "Text");
+  EXPECT_FALSE(replacing.search.case_on);
+  EXPECT_TRUE(replacing.search.all_on);
+}
+
+TEST(Replace, AllWithoutCaseSearchesTheTermInUpperCaseAndEndsTheSearch) {  // required
+  Replacing replacing;
+  EXPECT_EQ(replacing.After("|Čaj", "čaj", {Replacing::IgnoreCase, Replacing::Start, Replacing::All}), "|Čaj");
+  EXPECT_EQ(ToUtf8(replacing.search.find), "ČAJ");
+  EXPECT_EQ(replacing.search.found_shown, std::nullopt);
+  EXPECT_FALSE(replacing.search.all_on);
 }
 
 TEST(Replace, AllGoesByCharacter255) {
