@@ -115,7 +115,7 @@ TEST_F(ConversionTest, AFailureNamesTheFileAndWhereTheOldContentIs) {
   EXPECT_THROW(ConvertToUnix(platform, "/no.txt"), RuntimeError);
 }
 
-TEST_F(ConversionTest, BytesThatAreNoUtf8AreToldByTheirPlace) {
+TEST_F(ConversionTest, BytesThatAreNoUtf8AreReportedByTheirPlace) {
   const std::pair<const char*, const char*> cases[] = {
       {"\xE8", "řádek 1, sloupec 1, bajt 1"},
       {"\xEF\xBB\xBFůů\xC5", "řádek 1, sloupec 3, bajt 8"},  // the byte order mark is no column
@@ -166,7 +166,7 @@ TEST_F(ConversionTest, AnyTextGoesThereAndBackBesideItsFile) {
   }
 }
 
-TEST(Encodings, OfOtherSystemsAreTold) {
+TEST(Encodings, OfOtherSystemsGetAHint) {
   const std::pair<std::string_view, std::string_view> cases[] = {
       {"\xC5\xBE\n", "Soubor je v UTF-8"}, {"\na", "Řádky končí"}, {"a\r\n\n", "Část řádků"}};
   for (const auto& [text, told] : cases) EXPECT_TRUE(FormatHint(text).starts_with(told)) << text;

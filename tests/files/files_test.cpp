@@ -73,7 +73,7 @@ TEST_F(FilesTest, OpenReplacesADocumentUnasked) {
   EXPECT_EQ(StateOf(documents), SavedAt("/b.txt"));
 }
 
-TEST_F(FilesTest, WhatCantBeOpenedIsTold) {
+TEST_F(FilesTest, WhatCantBeOpenedIsReported) {
   EXPECT_EQ(Run("mnu_open_st", "/no.txt", {kOk}), (Calls{kOpenDialog, Asked(0, "Soubor /no.txt nenalezen!")}));
   EXPECT_EQ(Run("Recent", {}, {kOk}), Calls{Asked(0, "Soubor  nenalezen!")});  // there is no second entry
   ExpectUntouched();
@@ -165,8 +165,8 @@ TEST_F(FilesTest, AFailedSaveTellsWhereTheOldContentIsAndLeavesTheMark) {
   ExpectUntouched();
 }
 
-// required: written and then told, with the mark still there
-TEST_F(FilesTest, SavingUnderANameWithoutDotIsToldBehindTheWrite) {
+// required: the file is written before the message, and the mark stays
+TEST_F(FilesTest, SavingUnderANameWithoutDotFailsBehindTheWrite) {
   const std::string told = Asked(0, "Chyba ukládání!\r\nSoubor: /new\r\nKód chyby 22", "Pelmar VEX");
   EXPECT_EQ(Run("mnu_save_st", "/new", {kOk}), (Calls{kSaveDialog, "write /new", told}));
   EXPECT_EQ(platform.files["/new"], "newsaved");

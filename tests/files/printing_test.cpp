@@ -78,7 +78,7 @@ TEST_F(PrintingTest, ASelectionIsAskedAboutAndAClosedQuestionPrintsNothing) {
   }
 }
 
-TEST_F(PrintingTest, WithoutAPrinterTheTextGoesIntoAFileOrThePersonIsTold) {
+TEST_F(PrintingTest, WithoutAPrinterTheTextGoesIntoAFileOrThatIsReported) {
   for (const auto& [error, told] : {std::pair(0, "je vytištěn do souboru\r\n/x.pdf\""),
                                     {ENOSPC, "nelze vytisknout ani do souboru\r\n/x.pdf\r\nna disku není místo\""}}) {
     platform.print_outcome = {.error = error, .problem = "Chybí modul.", .pdf = "/x.pdf"};

@@ -208,7 +208,7 @@ SettingsRecord FullRecord() {
   return r;
 }
 
-TEST(SettingsRecord, HasTheToldBytes) {
+TEST(SettingsRecord, HasTheseBytes) {
   EXPECT_EQ(SettingsBytes({}), std::string(71, '\0'));
   std::string expected(
       "\xE0\x2E\0\0\x28\x23\0\0\xF1\xFF\xFF\xFF\xA0\x05\0\0\xFF\xFF"  // the place, always on top

@@ -103,7 +103,7 @@ bool DoSomething(Buffer& buffer, RandomSource random) {
 }
 
 template <class Buffer>
-std::string Told(const Buffer& buffer) {
+std::string StateOf(const Buffer& buffer) {
   return buffer.Text() + '|' + std::to_string(buffer.SelStart()) + '+' + std::to_string(buffer.SelLength()) + '<' +
          std::to_string(buffer.Caret()) + (buffer.CanUndo() ? " undo" : "") + (buffer.CanRedo() ? " redo" : "");
 }
@@ -125,7 +125,7 @@ TEST(TextBuffer, RandomEditsEqualASlowBuffer) {
   for (unsigned round = 0; round < 400; ++round) {
     TextBuffer buffer;
     PlainBuffer plain;
-    std::string mirror;  // follows the changes that are told
+    std::string mirror;  // follows the notified changes
     std::uint64_t changes = 0;
     int moves = 0;
     const Listening moved = buffer.OnSelection([&] { ++moves; });
@@ -137,16 +137,16 @@ TEST(TextBuffer, RandomEditsEqualASlowBuffer) {
     for (unsigned edit = 0; edit < 60; ++edit) {
       const unsigned seed = 100 * round + edit;
       ASSERT_EQ(DoSomething(buffer, RandomSource(seed)), DoSomething(plain, RandomSource(seed)));
-      ASSERT_EQ(Told(buffer), Told(plain)) << "round " << round << " edit " << edit;
+      ASSERT_EQ(StateOf(buffer), StateOf(plain)) << "round " << round << " edit " << edit;
       ASSERT_EQ(buffer.Text(), mirror);
       ASSERT_EQ(buffer.Revision(), changes);
       ASSERT_EQ(moves, plain.moves);
       ASSERT_NO_FATAL_FAILURE(ExpectLines(buffer));
     }
     while (plain.Undo()) buffer.Undo();
-    ASSERT_EQ(Told(buffer), Told(plain));
+    ASSERT_EQ(StateOf(buffer), StateOf(plain));
     while (plain.Redo()) buffer.Redo();
-    ASSERT_EQ(Told(buffer), Told(plain));
+    ASSERT_EQ(StateOf(buffer), StateOf(plain));
   }
 }
 

@@ -99,7 +99,7 @@ TEST(TextLayout, FollowsAnyEditAsASlowLayoutHasIt) {
     buffer.SetText(round < 2 ? std::string(9000, 'b') + '\t' + std::string(3000, 'a') : piece(200));
     TextLayout layout(buffer);
     layout.Lay(rules);
-    std::vector<std::string> painted;  // by the rows that are told
+    std::vector<std::string> painted;  // by the rows of the notifications
     const Listening heard = buffer.OnChange([&](const TextChange& change) {
       const RowsChange told = layout.Update(change);
       const std::vector<std::string> before = std::exchange(painted, {}), now = SlowRows(buffer.Text(), rules);

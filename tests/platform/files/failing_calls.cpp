@@ -7,7 +7,6 @@
 #include <sys/types.h>
 
 #include <cerrno>
-#include <csignal>
 #include <cstdarg>
 
 namespace pelmar {
@@ -20,7 +19,6 @@ constexpr int kUnnamed = 020000000, kNew = 0300;
 bool Fails() {
   if (!failing.counts || ++failing.made < failing.number || failing.number == 0) return false;
   if (failing.made > failing.number && !failing.all_behind) return false;
-  if (failing.error == 0) std::raise(SIGKILL);
   errno = failing.error;
   return true;
 }
@@ -63,7 +61,7 @@ ssize_t write(int file, const void* bytes, size_t size) {
   const ssize_t written = pelmar::Real<ssize_t>("write", file, bytes, fails ? size / 2 : size);
   return fails ? (errno = error, -1) : written;
 }
-// A save that is cut off by an error or a kill doesn't need the disk, and hundreds of them would wait for it.
+// A save that an error cuts off doesn't need the disk, and hundreds of them would wait for it.
 int fsync(int file) {
   if (!pelmar::failing.counts) return pelmar::Real<int>("fsync", file);
   const bool folder =

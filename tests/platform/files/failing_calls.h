@@ -1,5 +1,5 @@
-// The system calls of the file code, as this test program makes them, can be counted and made to fail or to kill: for
-// tests that go through every point where a save can be cut off. Holds for the thread that sets it.
+// The system calls of the file code, as this test program makes them, can be counted and made to fail: for tests that
+// go through every point where a save can be cut off. Holds for the thread that sets it.
 #pragma once
 
 #include <string>
@@ -8,7 +8,7 @@ namespace pelmar {
 
 struct FailingCalls {
   int number = 0;           // the call, from 1, that fails; 0 for none
-  int error = 0;            // 0 kills the process
+  int error = 0;            // errno
   bool all_behind = false;  // every later one fails too
   bool counts = true;
   int made = 0;

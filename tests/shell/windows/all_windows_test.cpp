@@ -6,15 +6,11 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QRegularExpression>
-#include <QTabBar>
 #include <QTest>
 #include <limits>
 
 #include "platform/qt/controls/dialog_window.h"
-#include "program/program.h"
-#include "support/controls.h"
-#include "support/scripted_platform.h"
+#include "support/program_test.h"
 
 namespace pelmar {
 namespace {
@@ -81,16 +77,6 @@ void ExpectNoOverlap(const QWidget& window) {
   }
 }
 
-// What a bar says beside it is as grey as the bar.
-void ExpectGreyTogether(const QWidget* bar) {
-  static const QRegularExpression number(QStringLiteral("^ ?\\d+%?$"));
-  const QRect beside(bar->geometry().right(), bar->y(), 80, bar->height());
-  for (const QLabel* label : bar->parentWidget()->findChildren<QLabel*>(Qt::FindDirectChildrenOnly)) {
-    const bool says = number.match(label->text()).hasMatch() && label->geometry().intersects(beside);
-    EXPECT_TRUE(!label->isVisible() || !says || label->isEnabled() == bar->isEnabled()) << DescriptionOf(label);
-  }
-}
-
 // Enter in one field of several doesn't end the dialog, unless all of them lead to its default button.
 void ExpectEnterGoesOn(QWidget& window) {
   const QList<QPushButton*> buttons = window.findChildren<QPushButton*>();
@@ -121,16 +107,23 @@ void ExpectButtonsInSight(const QWidget& window) {
   }
 }
 
-struct AllWindows : testing::Test {
+struct AllWindows : ProgramTest {
   AllWindows() { platform.files["/share/pelmar.txt"] = "help"; }
   ~AllWindows() override { QApplication::setFont(font); }
   const QFont font = QApplication::font();
-  ScriptedPlatform platform;
 
   static void Show(QWidget& window) {
     window.show();
     // A layout inside a layout settles a round later.
     for (int round = 0; round < 3; ++round) QCoreApplication::processEvents();
+  }
+  // Each window on show.
+  void ForEach(const std::function<void(QWidget&)>& act) {
+    parts.windows.ForEach([&](QWidget& window) {
+      Show(window);
+      act(window);
+      window.hide();
+    });
   }
 };
 
@@ -138,15 +131,7 @@ TEST_F(AllWindows, FitASmallScreenWithLargeLetters) {
   QFont large = font;
   large.setPointSize(14);
   QApplication::setFont(large);
-  Program program(platform);
-  program.Main().resize(660, 330);
-  program.Main().show();
-  for (int panel = 5; panel <= kPanelCount; ++panel) {
-    const StatusPanel* shown = program.Main().Bar().Panel(panel);
-    EXPECT_GE(shown->width(), shown->fontMetrics().horizontalAdvance(shown->text())) << panel;
-    EXPECT_EQ(shown->visibleRegion().boundingRect(), shown->rect()) << panel;
-  }
-  program.Windows().ForEach([](QWidget& window) {
+  parts.windows.ForEach([](QWidget& window) {
     if (auto* dialog = qobject_cast<DialogWindow*>(&window)) {
       const int height = std::min(window.height(), kTinyScreen.height());
       dialog->FitInto(kTinyScreen);
@@ -161,47 +146,40 @@ TEST_F(AllWindows, FitASmallScreenWithLargeLetters) {
   });
 }
 
-TEST_F(AllWindows, AreWithinEverybodysReach) {
-  Program program(platform);
-  std::string limits, headings;
-  program.Windows().ForEach([&](QWidget& window) {
-    Show(window);
-    EXPECT_NE(QAccessible::queryAccessibleInterface(&window)->role(), QAccessible::Client) << DescriptionOf(&window);
-    EXPECT_EQ(window.size().boundedTo(kSmallScreen), window.size()) << DescriptionOf(&window);
+TEST_F(AllWindows, HaveATitleAndFitAScreenOf1024By600) {
+  ForEach([](QWidget& window) {
     EXPECT_FALSE(window.windowTitle().isEmpty()) << DescriptionOf(&window);
-    // Down on a list of places would lose the folder, and on a strip of tabs nothing can be typed.
-    EXPECT_FALSE(Is(window.focusWidget(), {"pelmar::DriveList", "QTabBar"})) << DescriptionOf(&window);
-    for (QWidget* widget : Widgets(window)) {
-      if (widget->focusPolicy() != Qt::NoFocus || Is(widget, {"QAbstractButton", "QAbstractSlider", "QTabBar"}))
-        ExpectReach(widget);
-      if (widget->inherits("QScrollBar")) ExpectGreyTogether(widget);
-    }
-    if (auto* options = window.findChild<QWidget*>(QStringLiteral("alignments"))) {
-      const QAccessibleInterface* group = QAccessible::queryAccessibleInterface(options);
-      EXPECT_EQ(group->role(), QAccessible::Grouping);
-      headings += group->text(QAccessible::Name).toStdString() + ", ";
-    }
+    EXPECT_EQ(window.size().boundedTo(kSmallScreen), window.size()) << DescriptionOf(&window);
+  });
+}
+
+TEST_F(AllWindows, CutNoCaptionAndLayNothingOverAnother) {
+  ForEach([](QWidget& window) {
     ExpectWholeCaptions(window);
     ExpectNoOverlap(window);
+  });
+}
+
+TEST_F(AllWindows, HaveOnlyControlsWithANameThatTabReaches) {
+  ForEach([](QWidget& window) {
+    EXPECT_NE(QAccessible::queryAccessibleInterface(&window)->role(), QAccessible::Client) << DescriptionOf(&window);
+    for (QWidget* widget : Widgets(window))
+      if (widget->focusPolicy() != Qt::NoFocus || Is(widget, {"QAbstractButton", "QAbstractSlider", "QTabBar"}))
+        ExpectReach(widget);
+  });
+}
+
+TEST_F(AllWindows, StayOpenAtEnterInAField) { ForEach(ExpectEnterGoesOn); }
+
+TEST_F(AllWindows, CutTheInputOfTheseFieldsOnly) {
+  std::vector<std::string> limited;
+  ForEach([&](QWidget& window) {
     for (const QLineEdit* field : window.findChildren<QLineEdit*>())
       if (field->maxLength() != std::numeric_limits<int>::max())
-        limits += DescriptionOf(field) + ' ' + std::to_string(field->maxLength()) + ", ";
-    ExpectEnterGoesOn(window);
-    const QString name = window.property("cancelButton").toString();
-    auto* cancel = window.findChild<QPushButton*>(name);
-    if (!name.isEmpty() && !cancel->isDefault()) {
-      cancel->click();
-      EXPECT_FALSE(window.isVisible()) << DescriptionOf(cancel);
-    }
-    window.hide();
+        limited.push_back(DescriptionOf(field) + ' ' + std::to_string(field->maxLength()));
   });
-  EXPECT_EQ(headings, "Zarovnání čáry, Zarovnat nadpis :, Zarovnat odstavec :, ");
-  // No other field cuts what it is given.
-  EXPECT_EQ(limits,
-            "Pass.Text1 8, ZaKod.Text1 15, Config.Text3 8, Config.Text4 8, Confeld.Text1 15, Analytic.Text2 1, ");
-  auto* tabs = program.Main().findChild<QTabBar*>();
-  RollWheel(*tabs, {}, {0, -120});  // in passing it chooses nothing
-  EXPECT_EQ(tabs->currentIndex(), 0);
+  EXPECT_EQ(limited, (std::vector<std::string>{"Pass.Text1 8", "ZaKod.Text1 15", "Config.Text3 8", "Config.Text4 8",
+                                               "Confeld.Text1 15", "Analytic.Text2 1"}));
 }
 
 }  // namespace

@@ -1,3 +1,4 @@
+// The small windows of the shell in the started program.
 #include <gtest/gtest.h>
 
 #include <QAccessible>
@@ -7,18 +8,13 @@
 #include <QToolButton>
 
 #include "files/windows/otevri.h"
-#include "program/program.h"
 #include "shell/windows/config.h"
 #include "shell/windows/customize_toolbar.h"
 #include "shell/windows/hlp.h"
 #include "shell/windows/o.h"
 #include "shell/windows/pass.h"
 #include "shell/windows/start.h"
-#include "support/controls.h"
-#include "support/marked_text.h"
-#include "support/scripted_platform.h"
-#include "support/steps.h"
-#include "text/codepage.h"
+#include "support/program_test.h"
 #include "texttools/windows/hledani.h"
 #include "texttools/windows/visual.h"
 #include "texttools/windows/vyber.h"
@@ -26,142 +22,161 @@
 namespace pelmar {
 namespace {
 
-// The main window and the small ones, as the program puts them together.
-struct SmallWindows : testing::Test {
-  ScriptedPlatform platform;
-  Program program{platform};
-  MainWindow& main = program.Main();
+struct StartedTest : ProgramTest {
   // In the order of the file.
   const SettingsRecord stored{12000, 9000,  1500,     3000,  true, "DejaVu Sans Mono", 0x030201, 0xFCFBFA, 14,  true,
                               false, "Jan", "j@x.cz", false, 240,  "tajn\xE9",         {},       0,        true};
   std::string& settings = platform.files["/install/pelmar.ini"];
 
-  SmallWindows() {
+  StartedTest() {
     settings = SettingsBytes(stored);
     program.Run("-NOMSG");
+    QApplication::processEvents();
   }
   template <class Window>
   Window& The() {
-    return program.Windows().Get<Window>();
-  }
-  void Key(QWidget& window, Qt::Key key, const char* field = nullptr) {
-    QTest::keyClick(field != nullptr ? Named(window, field) : &window, key);
+    return parts.windows.Get<Window>();
   }
 };
 
-TEST_F(SmallWindows, AStartAndACloseLeaveTheSettingsAsTheyWere) {
-  QApplication::processEvents();
-  std::string marks;
-  for (const char* item : {"mnu08", "mnu14", "mnuEditBold", "mnuitalic"})
-    marks += main.Menus().Action(item)->isChecked() ? '+' : '-';
-  EXPECT_EQ(marks, "-++-");
+TEST_F(StartedTest, TheMenuShowsTheStoredLook) {
+  const std::pair<const char*, bool> items[] = {
+      {"mnu08", false}, {"mnu14", true}, {"mnuEditBold", true}, {"mnuitalic", false}};
+  for (const auto& [item, checked] : items) EXPECT_EQ(main.Menus().Action(item)->isChecked(), checked) << item;
+}
+
+// required: after a start with the flag set, the mark says the opposite
+TEST_F(StartedTest, AlwaysOnTopIsMarkedTheWrongWayRound) {
   for (const bool on_top : {false, true}) {
     Work(main, "MnuAllTop!");
     EXPECT_EQ(main.windowHandle()->flags().testFlag(Qt::WindowStaysOnTopHint), on_top);
-    // required: after a start with the flag set, the mark says the opposite
     EXPECT_EQ(main.Menus().Action("MnuAllTop")->isChecked(), !on_top);
   }
+}
+
+TEST_F(StartedTest, ACloseStoresTheSettingsAsTheyWere) {
+  settings.clear();
   main.close();
   EXPECT_EQ(QApplication::exec(), EXIT_SUCCESS);
-  EXPECT_TRUE(ReadSettings(settings) == stored);
+  EXPECT_EQ(ReadSettings(settings), stored);
+}
+
+TEST_F(StartedTest, TheAlignmentGoesRound) {
   for (const Qt::AlignmentFlag alignment : {Qt::AlignRight, Qt::AlignHCenter, Qt::AlignLeft}) {
-    main.NextAlignment();
+    Work(main, "Mnu_Change_Alingment!");
     EXPECT_EQ(main.Box().Alignment(), alignment);
   }
 }
 
-TEST_F(SmallWindows, TheWelcomeLeadsToTheEditorHoweverItIsLeft) {
+TEST_F(StartedTest, TheWelcomeLeadsToTheEditorHoweverItIsLeft) {
   auto& start = The<Start>();
-  const std::function<void()> ways[] = {[&] { Work(start, "Command1!"); }, [&] { Key(start, Qt::Key_Space, "Check1"); },
-                                        [&] { start.close(); }, [&] { Work(start, "Command2!"); }};
-  for (const auto& leave : ways) {
+  for (const char* leave : {"Command1!", "Check1:' '", "the system's close", "Command2!"}) {
     EXPECT_FALSE(The<Otevri>().isVisible());
     main.hide();
     start.Present();
-    Key(start, Qt::Key_Shift);  // no key of its own
+    QTest::keyClick(&start, Qt::Key_Shift);  // no key of its own
     EXPECT_TRUE(start.isVisible());
-    leave();
-    EXPECT_TRUE(main.isVisible() && !start.isVisible()) << &leave - ways;
+    if (leave == std::string("the system's close"))
+      start.close();
+    else
+      Work(start, leave);
+    EXPECT_TRUE(main.isVisible()) << leave;
+    EXPECT_FALSE(start.isVisible()) << leave;
   }
   EXPECT_TRUE(The<Otevri>().isVisible());
-  start.Present();
-  ExpectState(start, "", "Label9=Jan Check1=1");  // ShowStart is false
-  for (const bool show : {true, false}) {
-    Inside([this] { Work(The<Config>(), "Text1=Eva Command1!"); });
-    Work(start, "Check1!");
-    QTest::mouseClick(Named(start, "Label9"), Qt::LeftButton);
-    EXPECT_EQ(ReadSettings(settings).ShowStart, show);
-    ExpectState(start, "", "Label9=Eva");
+}
+
+TEST_F(StartedTest, TheWelcomeTakesWhetherItComesAgain) {
+  auto& start = Open<Start>();
+  ExpectState(start, "", "Label9=Jan Check1=1");
+  EXPECT_FALSE(editor.settings.ShowStart);
+  Work(start, "Check1!");
+  EXPECT_TRUE(editor.settings.ShowStart);
+}
+
+TEST_F(StartedTest, WindowsThatAreMadeAnewStandAtTheCentreAgain) {
+  main.hide();
+  platform.files["/share/pelmar.txt"] = "help";
+  for (const char* command : {"mnuhlp", "mnumore", "mnupresnvyb", "mnucode", "mnu_rnd_encrypt"}) {
+    const QPoint centre = Open(command).pos();
+    QWidget& window = Open(command);
+    window.move(1, 1);
+    window.close();
+    EXPECT_EQ(Open(command).pos(), centre) << command;
   }
 }
 
-// Most of them are made anew, and read anew too.
-TEST_F(SmallWindows, ThoseThatBeginAnewStandAtTheCentreAgain) {
-  main.hide();
+struct HelpTest : StartedTest {
+  HelpTest() { platform.files["/share/pelmar.txt"] = "from the package"; }
+};
+
+TEST_F(HelpTest, AMissingFileIsReported) {
+  platform.files.erase("/share/pelmar.txt");
+  platform.TakeCalls();
   platform.answers = {Answer::kOk};
   The<Hlp>();
-  EXPECT_EQ(
-      platform.TakeTold(),
-      "message 0 \"Chyba helpového systému - pelmar.txt: soubor nebo složka neexistuje\" \"Help k Pelmar VEX\"; ");
-  platform.files["/share/pelmar.txt"] = "package";
-  const auto open = [&](const char* item) {
-    main.findChild<QAction*>(QLatin1String(item))->trigger();
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    return *std::ranges::find_if(windows, &QWidget::isVisible);
-  };
-  for (const char* item : {"mnuhlp", "mnumore", "mnupresnvyb", "mnucode", "mnu_rnd_encrypt"}) {
-    QWidget* window = open(item);
-    EXPECT_EQ(open(item), window);  // on show it stays as it is
-    const QPoint centre = window->pos();
-    window->move(1, 1);
-    window->close();
-    platform.files["/install/pelmar.txt"] = "the person's own now";  // comes first
-    window = open(item);
-    EXPECT_EQ(window->pos(), centre) << item;
-    window->close();
-  }
-  QWidget* help = open("mnuhlp");
-  EXPECT_EQ(State(*help, "Text2"), "Text2=Najít");
-  Work(*help, "Text2=NOW");
-  platform.answers = {Answer::kNo, Answer::kNo};
-  Key(*help, Qt::Key_Return, "Text2");
-  Work(*help, "Command5!");
-  EXPECT_TRUE(platform.answers.empty());
-  EXPECT_EQ(ViewOf(Find<TextBox>(*help, "Text1")->SelText()), "now");
-  Work(*help, "Command1!");
-  EXPECT_FALSE(help->isVisible());
+  EXPECT_EQ(platform.TakeTold(),
+            "message 0 \"Chyba helpového systému - pelmar.txt: soubor nebo složka neexistuje\" "
+            "\"Help k Pelmar VEX\"; ");
 }
 
-TEST_F(SmallWindows, TheToolbarFollowsItsList) {
-  auto& window = The<CustomizeToolbar>();
-  window.Present();
-  auto* list = Find<QListWidget>(window, "Buttons");
-  const auto shown = [&] {
+TEST_F(HelpTest, ThePersonsOwnFileComesFirstAndIsReadAnew) {
+  ExpectState(Open("mnuhlp"), "", "Text1='from the package' Text2=Najít");
+  platform.files["/install/pelmar.txt"] = "own";
+  ExpectState(Open("mnuhlp"), "", "Text1=own");
+}
+
+TEST_F(HelpTest, EnterOrTheButtonSearches) {
+  QWidget& help = Open("mnuhlp");
+  platform.answers = {Answer::kNo};
+  Work(help, "Text2=THE Text2:\r");
+  EXPECT_EQ(Find<TextBox>(help, "Text1")->SelText(), "the");
+  platform.answers = {Answer::kNo};
+  Work(help, "Text2=PACK Command5!");
+  EXPECT_EQ(Find<TextBox>(help, "Text1")->SelText(), "pack");
+}
+
+struct ToolbarTest : StartedTest {
+  CustomizeToolbar& window = Open<CustomizeToolbar>();
+  QListWidget* list = Find<QListWidget>(window, "Buttons");
+
+  // The first of the toolbar's buttons that show, "|" for a separator.
+  [[nodiscard]] std::string Buttons(int count) {
     std::string names;
     for (const QAction* action : main.Toolbar().actions())
-      if (action->isVisible()) names += action->isSeparator() ? "| " : action->objectName().toStdString() + ' ';
+      if (action->isVisible() && count-- > 0)
+        names += action->isSeparator() ? "| " : action->objectName().toStdString() + ' ';
     return names;
-  };
-  const std::string initial = shown();
-  EXPECT_TRUE(initial.starts_with("New Newhtml Open | Recent | Save "));
-  Work(window, "Up! Buttons=1 Up! Buttons=4 Down!");  // the first one can't go up
-  list->item(0)->setCheckState(Qt::Unchecked);
-  EXPECT_TRUE(shown().starts_with("New Open | | Recent Save ")) << shown();
-  window.hide();
-  window.Present();
-  EXPECT_EQ(list->item(0)->checkState(), Qt::Unchecked);
-  EXPECT_EQ(list->item(0)->text(), QStringLiteral("Nový HTML"));
+  }
+};
+
+TEST_F(ToolbarTest, ButtonsMoveByTheListButNotOverItsEnds) {
+  EXPECT_EQ(Buttons(7), "New Newhtml Open | Recent | Save ");
+  Work(window, "Buttons=0 Up! Buttons=1 Up!");
+  EXPECT_EQ(Buttons(7), "Newhtml New Open | Recent | Save ");
+  Work(window, "Buttons=4 Down!");
+  EXPECT_EQ(Buttons(7), "Newhtml New Open | | Recent Save ");
   Work(window, "Initial!");
-  EXPECT_EQ(shown(), initial);
-  EXPECT_EQ(list->item(0)->checkState(), Qt::Checked);
+  EXPECT_EQ(Buttons(7), "New Newhtml Open | Recent | Save ");
 }
 
-TEST_F(SmallWindows, AboutPlaysWithTheNameUnderTheMouse) {
-  auto& about = The<O>();
-  about.Present();
-  EXPECT_EQ(State(about, "Label3"), "Label3=Jan");
-  EXPECT_TRUE(
-      ViewOf(Find<TextBox>(about, "Text1")->Text()).ends_with("\r\n====================\r\nPoznámka této verze:"_w));
+TEST_F(ToolbarTest, AnUncheckedButtonIsHiddenUntilTheOrderIsInitialAgain) {
+  EXPECT_EQ(list->item(1)->text(), QStringLiteral("Nový HTML"));
+  list->item(1)->setCheckState(Qt::Unchecked);
+  EXPECT_EQ(Buttons(3), "New Open | ");
+  window.hide();
+  window.Present();
+  EXPECT_EQ(list->item(1)->checkState(), Qt::Unchecked);
+  Work(window, "Initial!");
+  EXPECT_EQ(list->item(1)->checkState(), Qt::Checked);
+  EXPECT_EQ(Buttons(3), "New Newhtml Open ");
+}
+
+TEST_F(StartedTest, AboutShowsTheUserAndPlaysWithTheNameUnderTheMouse) {
+  auto& about = Open<O>();
+  ExpectState(about, "", "Label3=Jan");
+  const std::string shown = Find<TextBox>(about, "Text1")->Text().toStdString();
+  EXPECT_TRUE(shown.ends_with("\r\n====================\r\nPoznámka této verze:"_w)) << ToUtf8(shown);
   QTest::mouseMove(&about, QPoint(3, 3));
   QTest::mouseMove(&about, QPoint(5, 5));
   EXPECT_GE(platform.reseeds, 1);
@@ -170,36 +185,52 @@ TEST_F(SmallWindows, AboutPlaysWithTheNameUnderTheMouse) {
   EXPECT_EQ(platform.calls.back(), "about \"Orvilanths Pelmar VEX v8.9.2.1b CZ\" \"Autor: Orvilanths\"");
 }
 
-TEST_F(SmallWindows, ConfigStoresWhatIsValidAndEscapePressesOk) {
-  auto& config = The<Config>();
-  // The last is the field that the message names.
-  const char* const refused[][3] = {{"Text1= Text2= Check1! Text3=a Text4=A", "Vyplňte prosím své jméno.", "Text1"},
-                                    {"Text1=Jiří", "Vyplňte prosím E-m@il.", "Text2"},
-                                    {"Text2=j@x.cz", "Zkontrolujete zprávnot zadaného hesla.", "Text3"}};
-  const auto profile = [this] {
-    const SettingsRecord written = ReadSettings(std::exchange(settings, {}));
+struct ConfigTest : StartedTest {
+  Config& config = The<Config>();
+
+  // What the window stores as name, address and password, when it is open for that.
+  std::string StoredBy(std::function<void()> act) {
+    settings.clear();
+    Inside(std::move(act));
+    config.Run();
+    const SettingsRecord written = ReadSettings(settings);
     return written.UserName + ' ' + written.UserEmail + ' ' + written.LockPassword;
-  };
-  Inside([&] {
+  }
+};
+
+TEST_F(ConfigTest, WhatIsMissingOrDiffersIsReportedAndItsFieldGetsTheFocus) {
+  const std::tuple<const char*, const char*, const char*> refused[] = {
+      {"Text1= Text2= Check1! Text3=a Text4=A", "Vyplňte prosím své jméno.", "Text1"},
+      {"Text1=Jiří", "Vyplňte prosím E-m@il.", "Text2"},
+      {"Text2=j@x.cz", "Zkontrolujete zprávnot zadaného hesla.", "Text3"}};
+  const std::string written = StoredBy([&] {
     for (const auto& [steps, message, field] : refused) {
       platform.answers = {Answer::kOk};
       Work(config, steps);
-      Key(config, Qt::Key_Escape);
+      Work(config, "Command1!");
       EXPECT_EQ(platform.calls.back(), "message 64 \"" + std::string(message) + "\" \"Config\"");
-      EXPECT_EQ(config.focusWidget(), Find<QWidget>(config, field)) << field;
+      EXPECT_EQ(config.focusWidget()->objectName().toStdString(), field);
     }
-    Work(config, "Text4=a");
-    Key(config, Qt::Key_Escape);
+    Work(config, "Text4=a Command1!");
   });
-  config.Run();
-  EXPECT_EQ(profile(), "Jiří j@x.cz a"_w);
-  // required: the password goes in without the check mark and without a comparison
-  Inside([&] { Work(config, "Text3=b Command1!"); });
-  config.Run();
-  EXPECT_EQ(profile(), "Jiří j@x.cz b"_w);
-  Inside([&] { config.close(); });  // the system's close stores nothing
-  config.Run();
-  EXPECT_EQ(profile(), "  ");
+  EXPECT_EQ(written, "Jiří j@x.cz a"_w);
+}
+
+TEST_F(ConfigTest, EscapePressesOk) {
+  EXPECT_EQ(StoredBy([this] { Work(config, "Text1=Eva Text1:\x1b"); }), "Eva j@x.cz ");
+}
+
+// required: the password goes in without the check mark and without a comparison
+TEST_F(ConfigTest, APasswordIsStoredWithoutItsCheckMark) {
+  EXPECT_EQ(StoredBy([this] { Work(config, "Text3=b Command1!"); }), "Jan j@x.cz b");
+}
+
+TEST_F(ConfigTest, TheSystemsCloseStoresNothing) {
+  EXPECT_EQ(StoredBy([this] {
+              Work(config, "Text1=Eva");
+              config.close();
+            }),
+            "  ");
 }
 
 // Everything that a screen reader can get out of an object and what lies below it.
@@ -216,19 +247,19 @@ QString Heard(QAccessibleInterface* face = QAccessible::queryAccessibleInterface
 
 // The lock over the whole program: what is typed, clicked or asked by assistive technology while it is closed reaches
 // neither the text nor any window that shows a part of it.
-struct LockTest : SmallWindows {
+struct LockTest : StartedTest {
   LockTest() {
-    PutMarked(main.Box().Buffer(), "the [secret| text");
+    PutMarked(text, "the [secret| text");
     main.activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&main));
   }
-  // What can be seen or heard of the secret.
-  std::string Told() {
-    const QWidgetList windows = QApplication::topLevelWidgets();
-    return (Heard().contains(QStringLiteral("secret")) ? "heard, " : "") +
-           std::to_string(std::ranges::count_if(windows, &QWidget::isVisible)) + " windows, text " +
-           (main.Box().isVisible() ? "on" : "off") + ": " + main.Box().Text().toStdString() + ", " +
-           State(main, "Panel1 Panel4");
+  void Tick() { main.findChild<StatusTimer*>()->Tick(); }
+  static std::vector<std::string> VisibleWindows() {
+    std::vector<std::string> names;
+    for (const QWidget* window : QApplication::topLevelWidgets())
+      if (window->isVisible()) names.push_back(window->objectName().toStdString());
+    std::ranges::sort(names);
+    return names;
   }
   // Closes the lock, acts, and opens it.
   void WhileLocked(std::function<void()> act) {
@@ -240,37 +271,56 @@ struct LockTest : SmallWindows {
   }
 };
 
-TEST_F(LockTest, NothingIsSeenOrHeardAndAllComesBack) {
-  auto& find = The<Hledani>();
-  auto& look = The<Visual>();
-  find.Present();
+TEST_F(LockTest, NothingOfTheTextIsSeenOrHeard) {
+  auto& find = Open<Hledani>();
   Work(find, "Command1!");  // snapshot, term and history hold the secret
-  The<Vyber>().Present();
-  look.Present();
+  Open<Vyber>();
+  Tick();
+  WhileLocked([&] {
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !main.MainActive(); }));
+    Tick();
+    EXPECT_EQ(VisibleWindows(), (std::vector<std::string>{"Main", "Pass"}));
+    EXPECT_FALSE(main.Box().isVisible());
+    EXPECT_EQ(main.Box().Text(), "");
+    ExpectState(main, "", "Panel1= Panel4=");
+    EXPECT_FALSE(Heard().contains(QStringLiteral("secret")));
+  });
+  EXPECT_EQ(VisibleWindows(), (std::vector<std::string>{"Hledání", "Main", "Výběr"}));
+}
+
+TEST_F(LockTest, TheTextAndThePanelsComeBack) {
+  WhileLocked([] {});
+  main.activateWindow();
+  EXPECT_TRUE(QTest::qWaitFor([this] { return main.MainActive(); }));
+  Tick();
+  EXPECT_TRUE(main.Box().isVisible());
+  EXPECT_EQ(Marked(main.Box().Buffer()), "the [secret| text");
+  ExpectState(main, "", "Panel1='Znaky Výběru : 6' Panel4='Výběr : secret'");
+}
+
+TEST_F(LockTest, AWindowComesBackWithItsPlaceAndWhatItHolds) {
+  auto& look = Open<Visual>();
   Work(look, "Check2!");  // not applied yet
   look.move(40, 50);
-  QDialog question(&look);
+  WhileLocked([&] { EXPECT_FALSE(look.isVisible()); });
+  EXPECT_LE((look.pos() - QPoint(40, 50)).manhattanLength(), 4);  // the test's platform moves it by its frame
+  ExpectState(look, "", "Check2=0");
+}
+
+TEST_F(LockTest, AQuestionIsHiddenButNotAnswered) {
+  QDialog question(&main);
   question.setWindowModality(Qt::WindowModal);
   Inside([&] {
     WhileLocked([&] { EXPECT_FALSE(question.isVisible()); });
     question.done(7);
   });
-  EXPECT_EQ(question.exec(), 7);  // the lock is no answer
-  WhileLocked([&] {
-    QTest::qWait(600);  // a tick of the status timer
-    EXPECT_EQ(Told(), "2 windows, text off: , Panel1= Panel4=");
-  });
-  main.activateWindow();
-  QTest::qWait(600);
-  EXPECT_EQ(Told(), "heard, 4 windows, text on: the secret text, Panel1=Znaky Výběru : 6 Panel4=Výběr : secret");
-  EXPECT_LE((look.pos() - QPoint(40, 50)).manhattanLength(), 4);  // the test's platform moves it by its frame
-  EXPECT_EQ(State(look, "Check2"), "Check2=0");
+  EXPECT_EQ(question.exec(), 7);
 }
 
-TEST_F(LockTest, NothingReachesTheText) {
-  for (int line = 0; line < 900; ++line) main.Box().Buffer().Replace(0, 0, "line\r\n");
+TEST_F(LockTest, KeysAndClicksReachNothing) {
+  for (int line = 0; line < 900; ++line) text.Replace(0, 0, "line\r\n");
   main.Box().verticalScrollBar()->setValue(500);  // the caret is out of sight
-  const std::string text = Marked(main.Box().Buffer());
+  const std::string before = Marked(text);
   WhileLocked([&] {
     for (QWidget* target : {static_cast<QWidget*>(&main), static_cast<QWidget*>(&main.Box())}) {
       QWindow* window = target->window()->windowHandle();
@@ -284,17 +334,21 @@ TEST_F(LockTest, NothingReachesTheText) {
     main.windowHandle()->close();
     QApplication::processEvents();
     EXPECT_TRUE(main.isVisible());
+  });
+  EXPECT_EQ(Marked(text), before);
+  EXPECT_EQ(main.Box().verticalScrollBar()->value(), 500);
+}
+
+TEST_F(LockTest, StaysClosedWithoutThePassword) {
+  WhileLocked([&] {
     auto& lock = The<Pass>();
-    Key(lock, Qt::Key_Escape);
+    QTest::keyClick(&lock, Qt::Key_Escape);
     lock.close();
     platform.answers = {Answer::kOk};
-    Work(lock, "Text1:wrong\r");
+    ExpectState(lock, "Text1:wrong\r", "Text1=");
+    EXPECT_EQ(platform.calls.back(), "message 64 \"Špatné helso!\" \"Zámek\"");
     EXPECT_TRUE(lock.isVisible());
-    ExpectState(lock, "", "Text1=");
   });
-  EXPECT_EQ(Marked(main.Box().Buffer()), text);
-  EXPECT_EQ(main.Box().verticalScrollBar()->value(), 500);
-  EXPECT_EQ(platform.TakeTold(), "message 64 \"Špatné helso!\" \"Zámek\"; ");
 }
 
 }  // namespace
