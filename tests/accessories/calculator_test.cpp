@@ -18,8 +18,8 @@ struct CalculatorTest : testing::Test {
   ScriptedPlatform platform;
   Calculator calculator{platform};
 
-  // The message of what was done last.
-  std::string Told() {
+  // The last message, which is then forgotten; "" if there was none.
+  std::string TakeMessage() {
     const std::vector<std::string> calls = platform.TakeCalls();
     return calls.empty() ? "" : calls.back();
   }
@@ -35,16 +35,19 @@ TEST_F(CalculatorTest, KeysEditTheNumber) {
     (calculator.*press)();
     EXPECT_EQ(calculator.shown, after) << "from " << before;
   }
+}
+
+TEST_F(CalculatorTest, ADigitReplacesALoneZero) {
   for (const char digit : std::string("007")) calculator.Digit(digit);
   EXPECT_EQ(calculator.shown, "7");
 }
 
-TEST_F(CalculatorTest, OperatorsComputeOrTellWhyNot) {
+TEST_F(CalculatorTest, OperatorsComputeOrShowAMessage) {
   const struct {
     const char* left;
     char operation;
     const char *right, *shown;
-    std::string told = {};
+    std::string message = {};
   } cases[] = {
       {"8", 'L', "2", "3"},
       {"2", '^', "10", "1024"},
@@ -71,7 +74,7 @@ TEST_F(CalculatorTest, OperatorsComputeOrTellWhyNot) {
     calculator.Evaluate();
     EXPECT_EQ(calculator.shown, c.shown) << c.left << c.operation << c.right;
     EXPECT_EQ(calculator.operation, "") << c.left << c.operation << c.right;
-    EXPECT_EQ(Told(), c.told) << c.left << c.operation << c.right;
+    EXPECT_EQ(TakeMessage(), c.message) << c.left << c.operation << c.right;
   }
 }
 
@@ -80,7 +83,7 @@ TEST_F(CalculatorTest, FunctionsLeaveAWaitingOperatorUnlessTheyFail) {
     const char *name, *number;
     void (Calculator::*function)();
     const char* shown;
-    std::string told = {};
+    std::string message = {};
     const char* operation = "+";
   } cases[] = {
       {"square", "3", &Calculator::Square, "9"},
@@ -108,7 +111,7 @@ TEST_F(CalculatorTest, FunctionsLeaveAWaitingOperatorUnlessTheyFail) {
     (calculator.*c.function)();
     EXPECT_EQ(calculator.shown, c.shown) << c.name << ' ' << c.number;
     EXPECT_EQ(calculator.operation, c.operation) << c.name << ' ' << c.number;
-    EXPECT_EQ(Told(), c.told) << c.name << ' ' << c.number;
+    EXPECT_EQ(TakeMessage(), c.message) << c.name << ' ' << c.number;
   }
 }
 
@@ -139,15 +142,6 @@ TEST(Roman, IsAdditive) {
   EXPECT_EQ(ToRoman(3000), "MMM");
 }
 
-TEST(Roman, StopsWhenToldTo) {
-  int letters = 0;
-  const auto at_most_ten = [&letters] { return ++letters < 10; };
-  EXPECT_EQ(ToRoman(12, at_most_ten), "XII");
-  EXPECT_EQ(letters, 3);  // asked after each letter
-  EXPECT_EQ(ToRoman(999999999, at_most_ten), std::nullopt);
-  EXPECT_EQ(letters, 10);
-}
-
 TEST(ReadNumber, PrefixesAreTwosComplement) {
   const std::pair<const char*, std::optional<double>> cases[] = {
       {"-12ab", -12},
@@ -169,41 +163,43 @@ TEST(ReadNumber, PrefixesAreTwosComplement) {
   for (const auto& [text, number] : cases) EXPECT_EQ(ReadNumber(text), number) << text;
 }
 
-// The three fields, and the number whose Roman form follows, behind digits typed into one of them.
-std::string Converted(std::string Converter::*field, std::string_view digits,
-                      std::optional<std::int32_t> (Converter::*convert)()) {
-  Converter converter;
+enum class Typed { kDecimal, kHexadecimal, kOctal };
+
+std::optional<std::int32_t> ConvertTyped(Converter& converter, Typed typed, std::string_view digits) {
+  std::string Converter::*const field = typed == Typed::kDecimal       ? &Converter::decimal
+                                        : typed == Typed::kHexadecimal ? &Converter::hexadecimal
+                                                                       : &Converter::octal;
   for (const char digit : digits) converter.Digit(field, digit);
-  const auto roman = (converter.*convert)();
-  return "decimal=" + converter.decimal + " hex=" + converter.hexadecimal + " octal=" + converter.octal +
-         (roman ? " roman=" + std::to_string(*roman) : "");
+  if (typed == Typed::kDecimal) return converter.FromDecimal();
+  return typed == Typed::kHexadecimal ? converter.FromHex() : converter.FromOct();
 }
 
-TEST(Converter, FillsTheOtherFieldsUnlessTheNumberIsTooLarge) {
-  const auto decimal = [](std::string_view n) { return Converted(&Converter::decimal, n, &Converter::FromDecimal); };
-  EXPECT_EQ(decimal("999999999"), "decimal=999999999 hex=3B9AC9FF octal=7346544777 roman=999999999");
-  // The tenth digit doesn't stay.
-  EXPECT_EQ(decimal("1234567890"), "decimal=123456789 hex=75BCD15 octal=726746425 roman=123456789");
-  EXPECT_EQ(decimal("007"), "decimal=7 hex=7 octal=7 roman=7");
-  const auto hex = [](std::string_view n) { return Converted(&Converter::hexadecimal, n, &Converter::FromHex); };
-  EXPECT_EQ(hex("FFFF"), "decimal=-1 hex=FFFF octal=37777777777 roman=-1");
-  EXPECT_EQ(hex("10000"), "decimal=65536 hex=10000 octal=200000 roman=65536");
-  // Ten digits and more are cut in the decimal field, and Roman follows that field.
-  EXPECT_EQ(hex("7FFFFFFF"), "decimal=214748364 hex=7FFFFFFF octal=17777777777 roman=214748364");
-  EXPECT_EQ(hex("80000000"), "decimal=-21474836 hex=80000000 octal=20000000000 roman=-21474836");
-  EXPECT_EQ(hex("FFFFFFFFFF"), "decimal=0 hex=FFFFFFFFF octal=0");
-  const auto oct = [](std::string_view n) { return Converted(&Converter::octal, n, &Converter::FromOct); };
-  EXPECT_EQ(oct("177777"), "decimal=-1 hex=FFFFFFFF octal=177777 roman=-1");
-  EXPECT_EQ(oct("17777777777"), "decimal=214748364 hex=7FFFFFFF octal=17777777777 roman=214748364");
-  EXPECT_EQ(oct("777777777777"), "decimal=0 hex=0 octal=77777777777");
-}
-
-TEST(Converter, ADecimalNumberThatIsNoLongIntegerGivesZeros) {
-  for (const char* number : {"2147483648", "-2147483649", "1E+99", "&HFFFFFFFFF"}) {
+TEST(Converter, FillsTheOtherFields) {
+  using enum Typed;
+  const struct {
+    Typed typed;
+    const char *digits, *decimal, *hexadecimal, *octal;
+    std::optional<int> roman;  // the number whose Roman form is shown
+  } cases[] = {
+      {kDecimal, "007", "7", "7", "7", 7},
+      {kDecimal, "999999999", "999999999", "3B9AC9FF", "7346544777", 999999999},
+      {kDecimal, "1234567890", "123456789", "75BCD15", "726746425", 123456789},  // the tenth digit doesn't stay
+      {kHexadecimal, "FFFF", "-1", "FFFF", "37777777777", -1},
+      {kHexadecimal, "10000", "65536", "10000", "200000", 65536},
+      // Ten characters and more are cut in the decimal field, which the Roman form follows.
+      {kHexadecimal, "7FFFFFFF", "214748364", "7FFFFFFF", "17777777777", 214748364},
+      {kHexadecimal, "80000000", "-21474836", "80000000", "20000000000", -21474836},
+      {kHexadecimal, "FFFFFFFFFF", "0", "FFFFFFFFF", "0", std::nullopt},  // too large
+      {kOctal, "177777", "-1", "FFFFFFFF", "177777", -1},
+      {kOctal, "17777777777", "214748364", "7FFFFFFF", "17777777777", 214748364},
+      {kOctal, "777777777777", "0", "0", "77777777777", std::nullopt},  // too large
+  };
+  for (const auto& c : cases) {
     Converter converter;
-    converter.decimal = number;
-    EXPECT_EQ(converter.FromDecimal(), std::nullopt) << number;
-    EXPECT_EQ(converter.hexadecimal, "0") << number;
+    EXPECT_EQ(ConvertTyped(converter, c.typed, c.digits), c.roman) << c.digits;
+    EXPECT_EQ(converter.decimal, c.decimal) << c.digits;
+    EXPECT_EQ(converter.hexadecimal, c.hexadecimal) << c.digits;
+    EXPECT_EQ(converter.octal, c.octal) << c.digits;
   }
 }
 

@@ -15,12 +15,19 @@ namespace {
 constexpr char kPath[] = "/install/notes.dat";
 const NotesRecord kStored{{"a\r\n", "", std::string(258, 'x'), "\xE8\xFF", std::string("\0z", 2)}};
 
-TEST(NotesFile, IsItsPagesToTheByteAndEmptyFromADamageOn) {
-  const std::string two("\3\0a\r\n\0\0\2\1", 9);
-  EXPECT_EQ(NotesBytes(kStored), two + kStored.Page(3) + std::string("\2\0\xE8\xFF\2\0\0z", 8));
-  EXPECT_EQ(ReadNotes(two + "xx"), (NotesRecord{{"a\r\n"}}));
+// The bytes of the first two pages of kStored, and the length of 258 of the third.
+const std::string kBeginning("\3\0a\r\n\0\0\2\1", 9);
+
+TEST(NotesFile, HasALengthOf16BitsBeforeEachPage) {
+  EXPECT_EQ(NotesBytes(kStored), kBeginning + kStored.Page(3) + std::string("\2\0\xE8\xFF\2\0\0z", 8));
+  EXPECT_EQ(ReadNotes(NotesBytes(kStored)), kStored);
+}
+
+TEST(NotesFile, IsEmptyFromACutPageOn) { EXPECT_EQ(ReadNotes(kBeginning + "xx"), (NotesRecord{{"a\r\n"}})); }
+
+TEST(NotesFile, HoldsAtMost65535BytesOfAPage) {
   NotesRecord record;
-  record.Page(4) = std::string(kLongestNote, 'x');
+  record.Page(4) = std::string(65535, 'x');
   EXPECT_EQ(ReadNotes(NotesBytes(record)), record);
   EXPECT_EQ(OverlongPage(record), 0);
   record.Page(4) += 'x';
@@ -33,65 +40,74 @@ struct NotesOnDisk : testing::Test {
   ScriptedPlatform platform;
   FileNumber file_number;
 
-  [[nodiscard]] NotesRecord Loaded() { return LoadNotes(platform, file_number); }
+  [[nodiscard]] NotesRecord Load() { return LoadNotes(platform, file_number); }
 };
 
-TEST_F(NotesOnDisk, AMissingFileIsMadeEmptyAndTheTailOfALongerRecordStays) {
-  EXPECT_EQ(Loaded(), NotesRecord{});
+TEST_F(NotesOnDisk, AMissingFileIsCreatedEmpty) {
+  EXPECT_EQ(Load(), NotesRecord{});
   EXPECT_EQ(platform.files.at(kPath), "");
-  StoreNotes(kStored, platform, file_number);
-  EXPECT_EQ(Loaded(), kStored);
-  StoreNotes({{"b"}}, platform, file_number);
-  EXPECT_EQ(platform.files[kPath], NotesBytes({{"b"}}) + NotesBytes(kStored).substr(11));
-  EXPECT_EQ(Loaded(), (NotesRecord{{"b"}}));
 }
 
-TEST_F(NotesOnDisk, AFileThatIsGoneTakesNoPageAway) {
+TEST_F(NotesOnDisk, TheTailOfALongerRecordStaysAndIsNotRead) {
+  StoreNotes(kStored, platform, file_number);
+  StoreNotes({{"b"}}, platform, file_number);
+  EXPECT_EQ(platform.files[kPath], NotesBytes({{"b"}}) + NotesBytes(kStored).substr(11));
+  EXPECT_EQ(Load(), (NotesRecord{{"b"}}));
+}
+
+TEST_F(NotesOnDisk, AFileThatDisappearedTakesNoPageAway) {
   EXPECT_EQ(LoadNotesAnew(kStored, platform, file_number), kStored);
   StoreNotes({}, platform, file_number);
   EXPECT_EQ(LoadNotesAnew(kStored, platform, file_number), NotesRecord{});
 }
 
-TEST_F(NotesOnDisk, WhatCantBeReadIsNotWrittenOver) {
+TEST_F(NotesOnDisk, AnUnreadableFileIsNotOverwritten) {
   platform.files[kPath] = "kept";
   platform.read_errors[kPath] = EACCES;
-  EXPECT_THROW(static_cast<void>(Loaded()), RuntimeError);
+  EXPECT_THROW(static_cast<void>(Load()), RuntimeError);
   EXPECT_THROW(StoreNotes({}, platform, file_number), RuntimeError);
   EXPECT_EQ(platform.files[kPath], "kept");
-  platform.read_errors.clear();
+}
+
+TEST_F(NotesOnDisk, AFileThatCannotBeWrittenIsAnErrorAndFreesTheFileNumber) {
   platform.write_errors[kPath] = EROFS;
   EXPECT_THROW(StoreNotes({}, platform, file_number), RuntimeError);
   EXPECT_FALSE(file_number.IsOpen());
-  platform.files.clear();
-  EXPECT_THROW(static_cast<void>(Loaded()), RuntimeError);
-  file_number.Open();  // an operation that was abandoned
-  EXPECT_THROW(static_cast<void>(Loaded()), RuntimeError);
 }
 
-// What another copy has stored since the pages were read.
-TEST(MergeNotes, PagesUnchangedHereAreTheFilesAndThoseChangedTwiceAreKeptTwice) {
-  const NotesRecord read{{"one", "two", "", "four", "five"}};
-  const auto merge = [&read](const NotesRecord& now, const NotesRecord& file) {
-    const MergedNotes merged = MergeNotes(now, read, file);
-    return std::pair(merged.record, merged.twice);
-  };
-  EXPECT_EQ(merge(read, {{"1", "", "3"}}), std::pair(NotesRecord{{"1", "", "3"}}, 0));
-  const NotesRecord now{{"ONE", "TWO", "", "FOUR", ""}};
-  EXPECT_EQ(merge(now, read), std::pair(now, 0));
-  // The first has its place still, the second got the empty page, the fourth is the same, what is emptied gives way.
-  EXPECT_EQ(merge(now, {{"one", "2", "", "FOUR", "5"}}), std::pair(NotesRecord{{"ONE", "2", "TWO", "FOUR", "5"}}, 2));
-  EXPECT_EQ(merge(now, {{"1", "two", "3", "four", "5"}}),
+// The pages here, merged into what another copy has stored since they were read, and the number of a page whose both
+// texts were kept, or 0.
+std::pair<NotesRecord, int> Merged(const NotesRecord& here, const NotesRecord& file) {
+  const MergedNotes merged = MergeNotes(here, {{"one", "two", "", "four", "five"}}, file);
+  return {merged.record, merged.twice};
+}
+
+TEST(MergeNotes, ThePagesThatOneSideChangedAreThatSides) {
+  EXPECT_EQ(Merged({{"one", "two", "", "four", "five"}}, {{"1", "", "3"}}), std::pair(NotesRecord{{"1", "", "3"}}, 0));
+  const NotesRecord changed{{"ONE", "TWO", "", "FOUR", ""}};
+  EXPECT_EQ(Merged(changed, {{"one", "two", "", "four", "five"}}), std::pair(changed, 0));
+}
+
+TEST(MergeNotes, BothTextsOfAPageThatBothSidesChangedAreKept) {
+  const NotesRecord here{{"ONE", "TWO", "", "FOUR", ""}};
+  // The second goes to the empty page. The fourth is the same on both sides. An emptied page gives way.
+  EXPECT_EQ(Merged(here, {{"one", "2", "", "FOUR", "5"}}), std::pair(NotesRecord{{"ONE", "2", "TWO", "FOUR", "5"}}, 2));
+  // Without an empty page both stand in one.
+  EXPECT_EQ(Merged(here, {{"1", "two", "3", "four", "5"}}),
             std::pair(NotesRecord{{"1\r\n\r\nONE", "TWO", "3", "FOUR", "5"}}, 1));
 }
 
-TEST(NotesRescue, EachPageThatDiffersComesBackToItsPlaceOrToAnEmptyOne) {
+TEST(NotesRescue, KeepsThePagesThatDifferFromTheFile) {
   NotesRecord now = kStored;
   now.Page(1) = "new";
   now.Page(3).clear();
   EXPECT_EQ(NotesToKeep(kStored, now, 3), (RescueRecord{3, {{1, "a\r\n", "new"}, {3, std::string(258, 'x'), ""}}}));
+}
+
+TEST(NotesRescue, BringsAPageBackToItsPlaceOrToAnEmptyOneAndReturnsTheRest) {
   NotesRecord record{{"one", "two", "", "four", "five"}};
   const std::vector<RescueRecord> unsaved = {
-      {1, {{1, "one", "ONE"}, {3, "", "THREE"}, {5, "older", ""}}},  // an emptied page gives way to what is there now
+      {1, {{1, "one", "ONE"}, {3, "", "THREE"}, {5, "older", ""}}},  // an emptied page gives way to a changed one
       {2, {{1, "one", "another one"}, {2, "two", ""}}},
       {1, {{4, "older", "no place"}}},
   };
@@ -101,25 +117,36 @@ TEST(NotesRescue, EachPageThatDiffersComesBackToItsPlaceOrToAnEmptyOne) {
   EXPECT_EQ(ReadableNotes(left), "Pozn\xE1mka 4:\r\nno place\r\n\r\n");
 }
 
-TEST(Checkpoint, TakesTheTextOverTheNoteAndAsksBeforeItGivesItBack) {
+struct CheckpointTest : testing::Test {
   ScriptedPlatform platform;
   TextBuffer document, note;
-  const auto restored = [&] {
-    RestoreCheckpoint(note, document, platform);
-    return document.Text();
-  };
+};
+
+TEST_F(CheckpointTest, ComesBackToTheByteAfterAYes) {
   document.SetText("text\r\n\xFF");
-  EXPECT_EQ(restored(), "text\r\n\xFF");  // an empty note asks nothing
   note.SetText("old note");
   SaveCheckpoint(document, note, platform);
   document.SetText("spoilt");
-  platform.answers = {Answer::kNo, Answer::kYes, Answer::kOk};
-  EXPECT_EQ(restored(), "spoilt");
-  EXPECT_EQ(restored(), "text\r\n\xFF");
+  platform.answers = {Answer::kNo, Answer::kYes};
+  RestoreCheckpoint(note, document, platform);
+  EXPECT_EQ(document.Text(), "spoilt");
+  RestoreCheckpoint(note, document, platform);
+  EXPECT_EQ(document.Text(), "text\r\n\xFF");
   EXPECT_EQ(platform.calls.back(), "message 52 \"Opravdu vše vrátit ?\" \"Checkpoint\"");
-  document.SetText(std::string(kLongestNote + 1, 'x'));  // no note holds it
+}
+
+TEST_F(CheckpointTest, AnEmptyNoteRestoresNothingAndAsksNothing) {
+  document.SetText("text");
+  RestoreCheckpoint(note, document, platform);
+  EXPECT_EQ(document.Text(), "text");
+}
+
+TEST_F(CheckpointTest, ATextThatNoNoteHoldsIsRefused) {
+  document.SetText(std::string(65536, 'x'));
+  note.SetText("old note");
+  platform.answers = {Answer::kOk};
   SaveCheckpoint(document, note, platform);
-  EXPECT_EQ(note.Size(), 7u);
+  EXPECT_EQ(note.Text(), "old note");
   EXPECT_EQ(platform.calls.back(),
             "message 0 \"Text má 65536 znaků, do poznámky se jich vejde nejvýše 65535. Checkpoint nebyl uložen.\" "
             "\"Checkpoint\"");
@@ -133,7 +160,7 @@ NotesSurroundings Around(TwipsRect notes, StartMode mode = StartMode::kEditor, b
   return {notes, {1500, 600, main_width, 9000}, main_state, mode, docked, 240, {0, 0, kWidth, kHeight}, 2700};
 }
 
-TEST(PlaceNotes, FollowsTheButtonAndTheMainWindow) {
+TEST(PlaceNotes, SnapsOrDocksOnEitherScreen) {
   constexpr StartMode kEditor = StartMode::kEditor, kNotes = StartMode::kNotes;
   const TwipsRect edge{100, 300, 6000, 4000};
   const std::tuple<const char*, NotesSurroundings, TwipsRect> kCases[] = {

@@ -14,20 +14,25 @@ namespace pelmar {
 namespace {
 
 TEST(AnalyseText, RanksByCountAndThenByCode) {
-  // Zeros count in the length alone.
+  // The code 0 counts in the length alone.
   const auto rows = AnalysisRows(AnalyseText(std::string_view("bbb aa\xFF\xFF\n\0", 10)));
   ASSERT_EQ(rows.size(), 255u);
-  const std::string_view first[] = {"001 00003 030,00 098 \"b\"",    "002 00002 020,00 097 \"a\"",
-                                    "003 00002 020,00 255 \"\xFF\"", "004 00001 010,00 010 \"\n\"",
-                                    "005 00001 010,00 032 \" \"",    "006 00000 000,00 001 \"\x01\""};
-  for (std::size_t i = 0; i < std::size(first); ++i) EXPECT_EQ(rows[i], first[i]);
+  EXPECT_EQ(rows[0], "001 00003 030,00 098 \"b\"");
+  EXPECT_EQ(rows[1], "002 00002 020,00 097 \"a\"");
+  EXPECT_EQ(rows[2], "003 00002 020,00 255 \"\xFF\"");
+  EXPECT_EQ(rows[3], "004 00001 010,00 010 \"\n\"");
+  EXPECT_EQ(rows[5], "006 00000 000,00 001 \"\x01\"");
   EXPECT_EQ(rows[254], "255 00000 000,00 254 \"\xFE\"");
-  for (const std::string& row : rows) EXPECT_EQ(CharOfRow(row), row[22]);  // the 23rd position
-  // Halves are rounded up: 0.125.
-  EXPECT_EQ(AnalysisRows(AnalyseText(std::string(799, 'b') + 'a'))[1], "002 00001 000,13 097 \"a\"");
-  const std::string longer = AnalysisRows(AnalyseText(std::string(100000, 'q')))[0];
-  EXPECT_EQ(longer, "001 100000 100,00 113 \"q\"");
-  EXPECT_EQ(CharOfRow(longer), 'q');
+}
+
+TEST(AnalyseText, RoundsHalvesOfAHundredthUp) {
+  EXPECT_EQ(AnalysisRows(AnalyseText(std::string(799, 'b') + 'a'))[1], "002 00001 000,13 097 \"a\"");  // of 0.125
+}
+
+TEST(AnalyseText, TheCharacterOfALongRowIsFoundToo) {
+  const std::string row = AnalysisRows(AnalyseText(std::string(100000, 'q')))[0];
+  EXPECT_EQ(row, "001 100000 100,00 113 \"q\"");
+  EXPECT_EQ(CharOfRow(row), 'q');
 }
 
 struct Rising {
@@ -47,23 +52,24 @@ std::vector<Rising> Bars(std::string_view text, bool wide, bool ignore_blank = f
 
 using Graph = std::vector<Rising>;
 
-// required: the wide graph leaves out what doesn't occur, the narrow one what occurs once
-TEST(GraphBars, ShowWhatTheirWidthCalls) {
+TEST(GraphBars, TheWideGraphShowsWhatOccurs) {
   EXPECT_EQ(Bars("aab\xFF", true), (Graph{{194, 200}, {196, 100}, {510, 100}}));
-  EXPECT_EQ(Bars("aaaabbc\xFF\xFF", false), (Graph{{388, 200}, {392, 100}}));
-  EXPECT_EQ(Bars("x", false), Graph{});
-  EXPECT_EQ(Bars("aa\xFF\xFF\xFF\xFF", false), (Graph{{388, 100}}));  // the highest may stand beyond the graph
   EXPECT_EQ(GraphBars(AnalyseText("aab\xFF"), true, false).size(), 3u);
+}
+
+TEST(GraphBars, TheNarrowGraphLeavesOutWhatOccursOnce) {  // required
+  EXPECT_EQ(Bars("aaaabbc\xFF\xFF", false), (Graph{{388, 200}, {392, 100}}));
+  EXPECT_EQ(Bars("aa\xFF\xFF\xFF\xFF", false), (Graph{{388, 100}}));  // the highest may stand beyond the graph
   EXPECT_EQ(GraphBars(AnalyseText("x"), false, false).size(), 127u);
 }
 
-TEST(GraphBars, BlanksThatAreIgnoredAreLeftOutOfTheScaleToo) {
+TEST(GraphBars, IgnoredBlanksDoNotCountForTheScale) {
   EXPECT_EQ(Bars("    aab", true, true), (Graph{{194, 200}, {196, 100}}));
   EXPECT_EQ(Bars("    aabb", false, true), (Graph{{388, 200}, {392, 200}}));
   EXPECT_EQ(Bars("   ", true, true), Graph{});
 }
 
-TEST(CodeAt, CountsFromOneUnitLeft) {
+TEST(CodeAt, CountsFromOneUnitLeftOfTheGraph) {
   EXPECT_EQ(CodeAt(-1, true), -1);
   EXPECT_EQ(CodeAt(0, true), 0);
   EXPECT_EQ(CodeAt(129, true), 65);
@@ -71,7 +77,7 @@ TEST(CodeAt, CountsFromOneUnitLeft) {
   EXPECT_EQ(CodeAt(508, true), 254);
 }
 
-TEST(ColorMath, Commands) {
+TEST(ColorMath, EachCommandComputesItsColour) {
   EXPECT_EQ(HistoryRow(Inverted({0, 100, 255})), "255,155,000");
   EXPECT_EQ(HistoryRow(ToGrey({1, 1, 3})), "001,001,001");
   EXPECT_EQ(HistoryRow(Rotated({1, 2, 3})), "002,003,001");
@@ -90,7 +96,7 @@ TEST(ColorMath, Commands) {
   EXPECT_EQ(HistoryRow(RandomChannels([&draw] { return draw += 0.25; })), "000,064,128");
 }
 
-TEST(Morse, Encodes) {
+TEST(Morse, EncodesEachCharacter) {
   const std::pair<std::string_view, std::string_view> cases[] = {
       {"Chata CH", "----/..../.-/-/.-/-..-./----/..../"},
       {"\xC8h", "----/..../"},  // Čh: the mark is gone before the look ahead
@@ -105,16 +111,22 @@ TEST(Morse, Encodes) {
   for (const auto& [text, morse] : cases) EXPECT_EQ(TextToMorse(text), morse) << text;
 }
 
-TEST(Morse, CommandRewritesTheSelection) {
+struct MorseCommandTest : testing::Test {
   ScriptedPlatform platform;
-  WholeEditor editor(platform);
-  PutMarked(editor.text, "x |sos y");
-  editor.commands.Run("mnuMakeMorse");  // nothing selected: nothing changes
+  WholeEditor editor{platform};
+};
+
+TEST_F(MorseCommandTest, RewritesTheSelection) {
   PutMarked(editor.text, "x [sos| y");
-  platform.TakeCalls();
   editor.commands.Run("mnuMakeMorse");
   EXPECT_EQ(Marked(editor.text), "x .../---/.../| y");
-  EXPECT_EQ(platform.TakeCalls(), (std::vector<std::string>{"arrow 1", "arrow 0"}));
+  EXPECT_EQ(platform.calls, (std::vector<std::string>{"arrow 1", "arrow 0"}));
+}
+
+TEST_F(MorseCommandTest, WithoutASelectionChangesNothing) {
+  PutMarked(editor.text, "x |sos y");
+  editor.commands.Run("mnuMakeMorse");
+  EXPECT_EQ(Marked(editor.text), "x |sos y");
 }
 
 }  // namespace

@@ -14,7 +14,7 @@ namespace {
 constexpr const char* kRecovery = "/install/autosave_pelmar_vex.txt";
 constexpr const char* kSettings = "/install/pelmar.ini";
 
-// The editor under a plain window, whose calls and those of the start's doors stand in one list.
+// The editor under a plain window. The calls of the window and of the start's doors stand in one list.
 struct Desk {
   ScriptedPlatform platform;
   WholeEditor editor{platform};
@@ -48,7 +48,7 @@ struct SessionTest : testing::Test, Desk {};
 
 using Calls = std::vector<std::string>;
 
-TEST_F(SessionTest, AFirstStartRunsTheStepsInOrder) {
+TEST_F(SessionTest, AFirstStartAsksForTheProfileAndUsesTheDefaults) {
   Start();
   EXPECT_EQ(view.calls, (Calls{"colors", "recent", "place", "state", "font", "colors", "size", "bold", "no bold mark",
                                "italic", "no italic mark", "config", "not top", "main"}));
@@ -57,7 +57,7 @@ TEST_F(SessionTest, AFirstStartRunsTheStepsInOrder) {
   EXPECT_EQ(editor.settings.AutosnapDistance, 240);
 }
 
-TEST_F(SessionTest, TheProfileIsStoredAtOnceWithoutTheWindowsState) {
+TEST_F(SessionTest, TheProfileIsStoredAtOnceButNotTheWindowsState) {
   config = [this] {
     editor.settings.UserName = "Eva";
     view.state = WindowMode::kMinimised;
@@ -69,7 +69,7 @@ TEST_F(SessionTest, TheProfileIsStoredAtOnceWithoutTheWindowsState) {
   EXPECT_EQ(ReadSettings(platform.files[kSettings]).WindowState, 0);
 }
 
-TEST_F(SessionTest, SettingsAreAppliedInOrder) {
+TEST_F(SessionTest, StoredSettingsAreAppliedInOrder) {
   SettingsRecord r = kStored;
   r.FontBold = r.FontItalic = r.AlwaysOnTopFlag = true;
   r.AutosnapDistance = 100;
@@ -82,7 +82,7 @@ TEST_F(SessionTest, SettingsAreAppliedInOrder) {
   EXPECT_EQ(editor.settings.AutosnapDistance, 100);
 }
 
-TEST_F(SessionTest, SettingsThatCantBeAreRepaired) {
+TEST_F(SessionTest, ImpossibleSettingsAreReplacedByDefaults) {
   SettingsRecord r = kStored;
   r.WindowState = 5;
   r.FontSize = 11;
@@ -91,13 +91,16 @@ TEST_F(SessionTest, SettingsThatCantBeAreRepaired) {
   Start();
   EXPECT_EQ(Told(view.look), "Font 8 #000000 #FFFFFF");
   EXPECT_EQ(view.state, WindowMode::kNormal);
+}
+
+TEST_F(SessionTest, OnlyOfferedSizesOfTheFontAreTaken) {
   for (const auto& [size, expected] : {std::pair{10, 10}, {24, 24}, {0, 8}, {25, 8}}) {
     view.SetEditorFontSize(size);
-    EXPECT_EQ(view.look.font_size, expected);
+    EXPECT_EQ(view.look.font_size, expected) << size;
   }
 }
 
-TEST(Session, TextComesFromTheRecoveryFileOrTheClipboard) {
+TEST(Session, TheTextComesFromTheRecoveryFileOrTheClipboard) {
   const std::string longest(64000, 'r'), longer(70000, 'c');
   using Text = std::optional<std::string>;
   const std::tuple<Text, Text, std::string> cases[] = {
@@ -111,12 +114,13 @@ TEST(Session, TextComesFromTheRecoveryFileOrTheClipboard) {
     if (recovery) one.platform.files[kRecovery] = *recovery;
     one.platform.clipboard = clipboard;
     one.Start();
-    EXPECT_TRUE(one.editor.text.Text() == text) << text.size();
+    EXPECT_EQ(one.editor.text.Text().substr(0, 10), text.substr(0, 10));
+    EXPECT_EQ(one.editor.text.Size(), text.size());
     EXPECT_TRUE(one.session.Close());  // without a question: what came is no change
   }
 }
 
-TEST_F(SessionTest, AClipboardThatIsToldLaterGoesIntoAnUntouchedDocument) {
+TEST_F(SessionTest, AClipboardThatComesLateGoesIntoAnUnchangedDocument) {
   session.Load();
   platform.clipboard = "late";
   session.TakeLateClipboard();
@@ -124,7 +128,7 @@ TEST_F(SessionTest, AClipboardThatIsToldLaterGoesIntoAnUntouchedDocument) {
   EXPECT_EQ(editor.documents.Title(), "Pelmar VEX ()");
 }
 
-TEST(Session, TheCommandTailTellsWhatIsShown) {
+TEST(Session, TheCommandLineChoosesTheWindow) {
   const std::tuple<const char*, bool, const char*> cases[] = {
       {"", false, "main"},   {"", true, "start"},      {"-nomsg", true, "main"},  {"-calc", true, "1"},
       {"-NOTE", false, "2"}, {"-Browser", false, "3"}, {"/a.txt", true, "recent"}};  // main before it
@@ -139,35 +143,42 @@ TEST(Session, TheCommandTailTellsWhatIsShown) {
   }
 }
 
-TEST_F(SessionTest, AnythingBehindASwitchMakesItAFilesName) {
+TEST_F(SessionTest, ASwitchWithMoreBehindItIsAFileName) {
   platform.answers = {Answer::kOk};
   Start("-CALC x");
   EXPECT_EQ(platform.calls.back(), "message 0 \"Soubor -CALC x nenalezen!\" \"Soubor\"");
 }
 
-TEST_F(SessionTest, CloseWritesTheFilesBeforeItAsks) {
-  platform.files[kSettings] = std::string(200, 'T');
+TEST_F(SessionTest, TheCloseWritesTheFilesBeforeItAsks) {
   editor.text.SetText("text\r\n");
-  view.place = {150, 300, 9000, 6000};  // all as kStored has it
-  view.state = WindowMode::kMaximised;
-  view.look = {"Font", 1, 2, 11.6, true, false};
   editor.documents.SwitchTo(2);
   editor.text.SetText("second");
-  platform.answers = {Answer::kNo, Answer::kYes};
+  platform.answers = {Answer::kNo};
   EXPECT_FALSE(session.Close());
-  EXPECT_EQ(platform.TakeCalls(),
-            (std::vector<std::string>{"write /install/autosave_pelmar_vex.txt", "write /install/autosave_all_files.txt",
-                                      "write /install/pelmar.ini",
-                                      "message 52 \"2 neuložené zněněné soubory! Opravdu konec?\" \"Konec\""}));
+  EXPECT_EQ(platform.calls, (Calls{"write /install/autosave_pelmar_vex.txt", "write /install/autosave_all_files.txt",
+                                   "write /install/pelmar.ini",
+                                   "message 52 \"2 neuložené zněněné soubory! Opravdu konec?\" \"Konec\""}));
   EXPECT_EQ(platform.files[kRecovery], "second");
   EXPECT_EQ(platform.files["/install/autosave_all_files.txt"], AllFilesText(editor.documents));
+  platform.answers = {Answer::kYes};
+  EXPECT_TRUE(session.Close());
+}
+
+TEST_F(SessionTest, TheCloseStoresPlaceStateAndLookOverTheOldSettings) {
+  platform.files[kSettings] = std::string(200, 'T');
+  view.place = {150, 300, 9000, 6000};  // all as kStored has it but for state and bold
+  view.state = WindowMode::kMaximised;
+  view.look = {"Font", 1, 2, 11.6, true, false};
+  EXPECT_TRUE(session.Close());
   SettingsRecord r = kStored;
   r.UserName = r.UserEmail = "";
   r.WindowState = 2;
   r.FontBold = true;
   const std::string bytes = SettingsBytes(r);
   EXPECT_EQ(platform.files[kSettings], bytes + std::string(200 - bytes.size(), 'T'));  // the old tail stays
-  EXPECT_TRUE(session.Close());
+}
+
+TEST_F(SessionTest, AFileThatCannotBeWrittenAtTheCloseIsAnError) {
   platform.write_errors[kRecovery] = EROFS;
   EXPECT_THROW(session.Close(), RuntimeError);
 }

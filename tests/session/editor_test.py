@@ -1,5 +1,4 @@
-"""The main job with the real program: open, edit, use the menus' keys, switch tabs, save, close, start again, and
-make a page by the keyboard. The notes as the whole program, and the keyboard on the screen beside a real one."""
+"""Documents from opening to saving, the notes alone, and the command line, with the real program."""
 
 import subprocess
 import unittest
@@ -9,39 +8,29 @@ from harness import PROGRAM, EditorCase
 BYTES = "<HTML>\r\nPříliš žluťoučký kůň €\r\n".encode("cp1250") + bytes([0, 13, 10, 13, 9, 255])
 
 
-class EditorTest(EditorCase):
-    def test_open_edit_save_close_and_start_again(self):
+class DocumentTest(EditorCase):
+    def test_a_file_is_opened_edited_by_keys_and_saved_to_the_byte(self):
         path = self.write("stránka.html", BYTES)
-        clean = f"Pelmar VEX ({path})"
-        main = self.start(path.name, title=clean)
-        # Keys of the menus, not of the text box: bold, centre, "@".
-        self.work(f'ctrl+End Return "text" [{clean}*] ctrl+t ctrl+c ctrl+z')
-        expected = BYTES + "\r\ntext<B>Tučně</B><CENTER> Centrovaný text </CENTER>@<HR>".encode("cp1250")
-        # The Enter that ends a dialog or leads to a question is none for what comes up, however long it is held.
-        with self.busy_processors():
-            for steps, after in (("ctrl+h [Html horizontální čára]", f"{clean}*"), ("alt+s", "Nový")):
-                self.work(steps)
-                self.command("xdotool", "keydown", "Return", "sleep", "1.2", "keyup", "Return")
-                self.wait_window(after)
-        self.work("[Nový] Escape /")
-        self.work(f'alt+2 [Pelmar VEX ()] "second" [Pelmar VEX ()*] alt+1 [{clean}*]')
+        title = f"Pelmar VEX ({path})"
+        self.start(path.name, title=title)
+        # Ctrl+C and Ctrl+Z are keys of the menus here: centre and "@".
+        self.work(f'ctrl+End Return "text" [{title}*] ctrl+t ctrl+c ctrl+z')
         self.save_over()
-        self.work(f"[{clean}]")
-        self.assertEqual(path.read_bytes(), expected)
-        # Two menus have the same access key, and many items none.
-        self.work("alt+t alt+t k Return [HTML Komentář] Escape /")
-        # Two questions in a row end where the first was asked.
-        self.work('F1 [Help k Pelmar VEX] Tab Tab "checkpoint" Return [hledání] Return /'
-                  " [hledání] Escape / [Help k Pelmar VEX] Escape /")
-        # The second document is unsaved: No keeps the program, Yes ends it.
-        self.work("ctrl+F4 [Konec] Escape /")
-        self.end(main)
-        self.assertEqual((self.autosaved(), self.rescues()), (expected, []))
-        # The text of the current tab comes back, without a path and without a mark.
+        self.work(f"[{title}]")
+        added = "\r\ntext<B>Tučně</B><CENTER> Centrovaný text </CENTER>@"
+        self.assertEqual(path.read_bytes(), BYTES + added.encode("cp1250"))
+
+    def test_an_unsaved_document_in_another_tab_is_asked_about(self):
         main = self.start()
-        self.work("ctrl+u [Uložit] Escape /")
-        self.end(main, answer=None)
-        self.assertEqual(self.autosaved(), expected)
+        self.work('alt+2 "second" [Pelmar VEX ()*] alt+1 [Pelmar VEX ()] ctrl+F4 [Konec] Escape /')
+        self.assertTrue(self.running())
+        self.end(main)
+        self.assertEqual(self.rescues(), [])
+
+    def test_the_last_text_comes_back_as_an_unchanged_document(self):
+        self.end(self.start_with(self.write("page.html", BYTES)), answer=None)
+        self.end(self.start(title="Pelmar VEX ()"), answer=None)
+        self.assertEqual(self.autosaved(), BYTES)
 
     def test_a_name_without_a_full_stop_ends_the_program_but_loses_nothing(self):
         self.start(self.write("README", "plain").name, title=None)
@@ -49,59 +38,56 @@ class EditorTest(EditorCase):
         self.wait_exit(1)
         self.assertTrue(self.holds(b"plain"))
 
-    def test_notes_store_themselves_and_alone_nothing_else(self):
-        main = self.start()
-        notes = self.work('F9 [Poznámky] "milk" Return "breads" alt+2 "second" alt+1 BackSpace')
-        self.command("xdotool", "windowminimize", notes.id)
-        self.work("[Pelmar VEX ()] F9 [Poznámky] alt+F4 /")
-        self.end(main, answer=None)
-        kept = {path: path.read_bytes() for path in self.folder.iterdir()}
-        notes = self.start("-note", title="Poznámky")
-        self.assertEqual(self.windows(), [notes])
-        self.work('ctrl+End "!" alt+F4 [Konec] Return /')  # No is the default
-        self.end(notes, "alt+a")
-        kept[self.folder / "notes.dat"] = b"\x0c\0milk\r\nbread!\6\0second" + bytes(6)
-        self.assertEqual({path: path.read_bytes() for path in self.folder.iterdir()}, kept)
-
-    def test_the_terminals_switches_print_and_touch_nothing(self):
-        home = self.home / "other"
-        home.mkdir()
-        def run(*words, **where):
-            return subprocess.run([PROGRAM, *words], env={"HOME": str(home)}, timeout=15, **where)
-        for switch, printed in (("--help", b"-NOMSG"), ("--version", b"Pelmar VEX 8.9.2.1b CZ\n")):
-            done = run(switch, capture_output=True)
-            self.assertEqual((done.returncode, done.stderr, printed in done.stdout), (0, b"", True), done.stdout)
-            with open("/dev/full", "wb") as full:
-                self.assertEqual(run(switch, stdout=full).returncode, 1)
-        done = run("--help", "x", capture_output=True)  # a file, which needs a display
-        self.assertEqual((done.returncode, done.stdout, b"DISPLAY" in done.stderr), (1, b"", True))
-        done = subprocess.run([PROGRAM], env={"HOME": str(home), "DISPLAY": ":9999"}, timeout=15, capture_output=True)
-        self.assertEqual((done.returncode, b"DISPLAY: :9999" in done.stderr), (1, True), done.stderr)
-        self.assertEqual(list(home.iterdir()), [])
-
-    def test_keyboard_on_the_screen(self):
-        # With a text there from the first moment all items of the menu are on, so counting from its end is safe.
-        (self.folder / "autosave_pelmar_vex.txt").write_bytes(b"ab")
-        self.command("setxkbmap", "cz")  # with dead keys
-        main = self.start()
-        self.work("alt+s" + 8 * " Up" + " Return [Klávesnice] @190,30 @60,150 @190,30")  # č, Shift, č
-        self.wait(lambda: self.window("Pelmar VEX ()*"), "the mark of the change")
-        self.work("[Klávesnice] x space @560,150 y dead_caron n Escape / z")  # Shift off
-        self.end(main)
-        self.assertEqual(self.autosaved().decode("cp1250"), "čČX yňzab")
-
-    def test_a_page_by_the_keyboard_alone(self):
-        color = "[HTML  - Vytvoření] Tab space Tab space [Výběr barvy]"  # the next one, by its button
+    def test_a_page_is_made_by_the_keyboard_alone(self):
+        color = "[HTML  - Vytvoření] Tab space Tab space [Výběr barvy]"  # the next colour, by its button
         page = self.home / "kocka.html"
         self.start("")
-        # White ground and wine-red text; then what is typed goes over the marker that stands selected.
+        # White ground and wine-red text. What is typed replaces the marker, which is selected.
         self.work(f"""alt+s v [HTML  - Vytvoření] ctrl+a "Kocka" {color} Return / {color} {8 * "Page_Down "} Return /
             [HTML  - Vytvoření] alt+o / [Pelmar VEX ()*] alt+v Alt_L "Nase kocka"
             ctrl+u [Uložit] ctrl+a "kocka" Return /
             [Pelmar VEX ({page})]""")
         text = page.read_bytes().decode("cp1250")
-        for part in ("<TITLE>Kocka</TITLE>", ' <BODY BGCOLOR="#FFFFFF" TEXT="#500000">\r\nNase kocka\r\n'):
-            self.assertIn(part, text)
+        self.assertIn("<TITLE>Kocka</TITLE>", text)
+        self.assertIn(' <BODY BGCOLOR="#FFFFFF" TEXT="#500000">\r\nNase kocka\r\n', text)
+
+
+class NotesTest(EditorCase):
+    def test_notes_alone_write_no_other_file(self):
+        self.end(self.start(), answer=None)
+        files = {path: path.read_bytes() for path in self.folder.iterdir()}
+        notes = self.start("-note", title="Poznámky")
+        self.assertEqual(self.windows(), [notes])
+        self.work('"milk" alt+F4 [Konec] Return /')  # No is the default
+        self.end(notes, "alt+a")
+        files[self.folder / "notes.dat"] = b"\4\0milk" + bytes(8)
+        self.assertEqual({path: path.read_bytes() for path in self.folder.iterdir()}, files)
+
+
+class CommandLineTest(EditorCase):
+    """Without a display, and with an empty home."""
+
+    def run_program(self, *words, display=None):
+        home = self.home / "other"
+        home.mkdir(exist_ok=True)
+        environment = {"HOME": str(home)} | ({"DISPLAY": display} if display else {})
+        done = subprocess.run([PROGRAM, *words], env=environment, timeout=60, capture_output=True)
+        self.assertEqual(list(home.iterdir()), [])
+        return done
+
+    def test_help_and_version_are_printed_and_leave_no_file(self):
+        for switch, printed in (("--help", b"-NOMSG"), ("--version", b"Pelmar VEX 8.9.2.1b CZ\n")):
+            with self.subTest(switch):
+                done = self.run_program(switch)
+                self.assertEqual((done.returncode, done.stderr), (0, b""))
+                self.assertIn(printed, done.stdout)
+
+    def test_a_missing_display_is_named(self):
+        for words, display, named in (((), ":9999", b"DISPLAY: :9999"), (("--help", "x"), None, b"DISPLAY")):
+            with self.subTest(words):
+                done = self.run_program(*words, display=display)
+                self.assertEqual((done.returncode, done.stdout), (1, b""))
+                self.assertIn(named, done.stderr)
 
 
 if __name__ == "__main__":

@@ -1,8 +1,8 @@
-"""Drives the real program on a screen of its own, as a person would: keys, mouse, windows by title.
+"""Works the real program on a screen of its own as a user does: by keys, mouse and the titles of windows.
 
-Every wait polls up to a deadline and fails with what it waited for, the windows on show and what the program wrote.
-With PELMAR_SHOTS set to a folder, a picture of the screen at the end of each test goes there. PELMAR_BUILD names the
-build folder.
+A test waits for what it expects, up to a limit. If that doesn't come, the failure says what it waited for, which
+windows there are and what the program wrote. PELMAR_SHOTS names a folder for a picture of the screen at the end of each
+test, PELMAR_BUILD the build folder.
 """
 
 import contextlib
@@ -20,7 +20,7 @@ sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "tools"))
 from screen import Screen, write_settings  # noqa: E402
 
 NOBODY = 65534
-# What runs a command as an ordinary user, where the test is run by root.
+# Runs a command as an ordinary user if root runs the test.
 AS_USER = ["setpriv", f"--reuid={NOBODY}", f"--regid={NOBODY}", "--clear-groups"] if os.geteuid() == 0 else []
 PATIENCE = 30.0  # seconds
 POLL = 0.02
@@ -41,7 +41,7 @@ class Window(NamedTuple):
 
 
 class EditorCase(unittest.TestCase):
-    """A test of the program on a screen and in a home of its own, where it may be started again and again."""
+    """A test with a screen and a home of its own, in which it may start the program again and again."""
 
     screen = Screen
     settings = {}  # fields of the settings record
@@ -58,8 +58,8 @@ class EditorCase(unittest.TestCase):
     # The program.
 
     def start(self, *arguments, title="Pelmar VEX ()", program=PROGRAM, user=False, **environment):
-        """Starts it, with an empty document by default, and gives its window of this title, where one is told. The one
-        before must have ended. As a user: by an ordinary one who owns the home."""
+        """Starts the program, by default with an empty document, and returns its window of this title, if one is given.
+        An earlier start must have ended. With `user` an ordinary user owns the home and starts the program."""
         self.assertFalse(self.running())
         command = [program, *(arguments or ["-NOMSG"])]
         if user and AS_USER:
@@ -91,12 +91,17 @@ class EditorCase(unittest.TestCase):
                 os.killpg(self.program.pid, signal.SIGKILL)
             self.program.wait()
 
-    # A person's steps.
+    # What a user does.
 
     def work(self, steps):
-        """A line of steps: keys in xdotool's names, as in "ctrl+k"; text to type between quotes; a title in brackets
-        waits until such a window has the keyboard; "@10,20" clicks there in that window; "/" waits for its end. Gives
-        the window that was waited for last."""
+        """Does a line of steps and returns the window that was waited for last.
+
+            ctrl+k     presses a key, by xdotool's name
+            "text"     types the text
+            [Title]    waits until a window of this title has the keyboard
+            @10,20     clicks there in that window
+            /          waits for that window's end
+        """
         awaited = []
         for step in STEP.finditer(steps):
             if step["window"] is not None:
@@ -111,27 +116,19 @@ class EditorCase(unittest.TestCase):
                 self.command("xdotool", "key", "--clearmodifiers", step["key"])
         return awaited[-1] if awaited else None
 
-    @contextlib.contextmanager
-    def busy_processors(self):
-        loops = [subprocess.Popen([sys.executable, "-c", "while True: pass"]) for _ in range(os.cpu_count())]
-        yield
-        for loop in loops:
-            loop.kill()
-            loop.wait()
-
     def save_over(self):
-        """Ulož with its default button, and Yes to its question."""
+        """Saves by Ulož and answers Yes to its question."""
         self.work("ctrl+u [Uložit] Return [Soubor] Return / /")
 
     def end(self, window, answer="Return"):
-        """Closes the window that is the program, and answers its question, where one is expected."""
+        """Closes the program by its window and presses `answer` in its question, if one is expected."""
         self.command("wmctrl", "-i", "-c", window.id)
         if answer:
             self.work(f"[Konec] {answer}")
         self.wait_exit()
 
     def point(self, window, x, y, *then):
-        """Moves the mouse to a place counted from the window's inner top left corner."""
+        """Moves the mouse to a place, counted from the window's top left corner within the frame."""
         self.command("xdotool", "mousemove", "--window", window.id, x, y, *then)
 
     # Windows.
@@ -152,7 +149,7 @@ class EditorCase(unittest.TestCase):
         return next((one for one in reversed(self.windows()) if re.fullmatch(pattern, one.title)), None)
 
     def wait_window(self, title):
-        """Waits until it has the keyboard."""
+        """Waits until a window of this title has the keyboard."""
         def ready():
             found = self.window(title)
             return found if found and self.active() == found.id else None
@@ -211,7 +208,7 @@ class EditorCase(unittest.TestCase):
             self.command("import", "-window", "root", f"{folder}/{self.id()}.png", check=False)
 
     def command(self, *command, check=True):
-        """What a command prints that works on the screen."""
+        """Runs a command that works on the screen, and returns what it prints."""
         words = [str(word) for word in command]
         done = subprocess.run(words, env=self.env, capture_output=True, text=True, errors="replace", timeout=240)
         if check and done.returncode:

@@ -1,0 +1,230 @@
+// The notes window: its pages, its file, the rescue of unsaved notes, its place.
+#include <QTimer>
+
+#include "accessories/windows/poznamka.h"
+#include "platform/qt/frames/outer_geometry.h"
+#include "support/printed_places.h"
+#include "support/program_test.h"
+#include "support/temp_folder.h"
+
+namespace pelmar {
+namespace {
+
+// The locks of rescue files are real, all other files lie in the scripted platform.
+struct NotesWindowTest : ProgramTest {
+  TempFolder folder;
+  Poznamka* notes = nullptr;
+
+  NotesWindowTest() {
+    platform.install_folder = folder.Path() + '/';
+    editor.settings.AutosnapDistance = 240;
+  }
+  [[nodiscard]] std::string& File(const std::string& name = "notes.dat") {
+    return platform.files[platform.install_folder + name];
+  }
+  void OpenOver(const NotesRecord& record) {
+    File() = NotesBytes(record);
+    notes = &Open<Poznamka>();
+  }
+  // The notes as the whole program.
+  void RunAloneOver(const NotesRecord& record) {
+    SettingsRecord settings;
+    settings.UserName = settings.UserEmail = "jan";
+    File("pelmar.ini") = SettingsBytes(settings);
+    File() = NotesBytes(record);
+    program.Run("-NOTE");
+    notes = &parts.windows.Get<Poznamka>();
+  }
+  // The names of the lock files.
+  [[nodiscard]] std::vector<std::string> Locks() const {
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(folder.Path()))
+      if (entry.path().extension() == ".lock") names.push_back(entry.path().filename());
+    return names;
+  }
+  // The rescue file of a copy that died, and its lock.
+  void LeaveBehind(const char* name, const RescueRecord& record) {
+    folder.Put(name, "");
+    File(name) = RescueBytes(kNotesRescue, record);
+  }
+};
+
+TEST_F(NotesWindowTest, StaysOnTopAndHasTheEditorsFont) {
+  main.SetEditorFontSize(14);
+  main.SetEditorBold(true);
+  OpenOver({});
+  EXPECT_TRUE(notes->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+  EXPECT_EQ(Named(*notes, "Text1")->font().pointSize(), 14);
+  EXPECT_TRUE(Named(*notes, "Text1")->font().bold());
+}
+
+TEST_F(NotesWindowTest, EachTabShowsItsPage) {
+  OpenOver({{"first", "second"}});
+  notes->Buffer().Type("my ");
+  ExpectState(*notes, "TabStrip1=1", "Text1=second");
+  ExpectState(*notes, "TabStrip1=0", "Text1='my first'");
+}
+
+// A Czech keyboard has other characters on the keys of the digits. Code 10 + n is the key of the digit n.
+TEST_F(NotesWindowTest, AltAndTheKeyOfADigitChangeThePage) {
+  OpenOver({});
+  for (const auto& [code, state] : {std::pair(11U, "TabStrip1=1"), {14U, "TabStrip1=4"}, {15U, "TabStrip1=4"}}) {
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Plus, Qt::AltModifier, code, 0, 0, QStringLiteral("+"));
+    QCoreApplication::sendEvent(Named(*notes, "Text1"), &press);
+    ExpectState(*notes, "", state);
+  }
+}
+
+TEST_F(NotesWindowTest, TheToolbarCopiesAndPastesTheSelection) {
+  OpenOver({});
+  EXPECT_EQ(notes->findChild<QAction*>(QStringLiteral("Copy"))->toolTip(),
+            QStringLiteral("Kopírovat výbět"));  // required
+  PutMarked(notes->Buffer(), "[one| two");
+  Work(*notes, "Copy!");
+  EXPECT_EQ(platform.clipboard, "one");
+  PutMarked(notes->Buffer(), "one [two|");
+  Work(*notes, "Paste!");
+  EXPECT_EQ(Marked(notes->Buffer()), "one one|");
+}
+
+TEST_F(NotesWindowTest, OnlyTheCloseWritesTheFileAndAsksNothing) {
+  OpenOver({{"first", "second"}});
+  notes->Buffer().Type("my ");
+  Work(*notes, "TabStrip1=4 Text1=fifth");
+  EXPECT_EQ(File(), NotesBytes({{"first", "second"}}));
+  platform.TakeCalls();
+  Work(*notes, "Close!");
+  EXPECT_EQ(File(), NotesBytes({{"my first", "second", "", "", "fifth"}}));
+  EXPECT_EQ(platform.calls, std::vector<std::string>{"write " + platform.install_folder + "notes.dat"});
+  EXPECT_EQ(parts.windows.Find<Poznamka>(), nullptr);
+}
+
+TEST_F(NotesWindowTest, AnOverlongPageCanBeNeitherLeftNorStored) {
+  OpenOver({{"first", "second"}});
+  notes->Buffer().SetText(std::string(kLongestNote + 1, 'x'));
+  platform.answers = {Answer::kOk, Answer::kOk};
+  ExpectState(*notes, "TabStrip1=1", "TabStrip1=0");
+  EXPECT_FALSE(notes->close());
+  EXPECT_TRUE(platform.answers.empty());
+  EXPECT_EQ(File(), NotesBytes({{"first", "second"}}));
+}
+
+TEST_F(NotesWindowTest, AloneTheCloseStoresThenAsksAndANoKeepsTheWindow) {
+  RunAloneOver({{"first"}});
+  notes->Buffer().Type("my ");
+  platform.on_message = [this] { EXPECT_EQ(File(), NotesBytes({{"my first"}})); };
+  platform.answers = {Answer::kNo};
+  EXPECT_FALSE(notes->close());
+  EXPECT_TRUE(notes->isVisible());
+  EXPECT_EQ(platform.calls.back(), R"(message 276 "OPRAVDU UKONČIT Poznámky (Pelmar VEX) ?" "Konec")");
+}
+
+TEST_F(NotesWindowTest, AloneAYesEndsTheProgram) {
+  RunAloneOver({});
+  platform.answers = {Answer::kYes};
+  EXPECT_TRUE(notes->close());
+  EXPECT_EQ(QCoreApplication::exec(), 0);
+}
+
+TEST_F(NotesWindowTest, APageThatAnotherCopyStoredMeanwhileStays) {
+  RunAloneOver({{"first", "second"}});
+  notes->Buffer().Type("my ");
+  File() = NotesBytes({{"their first", "their second", "", "x", "y"}});
+  platform.answers = {Answer::kOk, Answer::kNo, Answer::kNo};
+  notes->close();
+  const std::string both = NotesBytes({{"their first", "their second", "my first", "x", "y"}});
+  EXPECT_EQ(File(), both);
+  ExpectState(*notes, "", "Text1='their first'");
+  notes->close();  // asks about it no more, and keeps nothing a third time
+  EXPECT_EQ(File(), both);
+  EXPECT_TRUE(platform.answers.empty());
+}
+
+TEST_F(NotesWindowTest, UnsavedPagesAreKeptSoonAndAtAnEndWithoutAClose) {
+  OpenOver({});
+  Work(*notes, "Text1=typed");
+  ASSERT_TRUE(QTest::qWaitFor([this] { return !Locks().empty(); }));
+  Work(*notes, "Text1='typed later'");
+  parts.windows.Unload<Poznamka>();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  const auto kept = platform.files.lower_bound(platform.install_folder + "notes-rescue-");
+  ASSERT_NE(kept, platform.files.end());
+  EXPECT_EQ(ReadRescue(kNotesRescue, kept->second), (RescueRecord{1, {{1, "", "typed later"}}}));
+}
+
+TEST_F(NotesWindowTest, RescuedPagesComeBackAndAreStoredByTheClose) {
+  LeaveBehind("notes-rescue-1-1.pelmar", {2, {{1, "first", "FIRST"}, {2, "", "SECOND"}}});
+  LeaveBehind("notes-rescue-2-1.pelmar", {1, {{1, "first", "another first"}, {3, "", ""}}});  // page 3 is as it was
+  platform.answers = {Answer::kYes};
+  OpenOver({{"first"}});
+  platform.TakeCalls();
+  notes->OfferRescued();
+  EXPECT_EQ(platform.calls[0],
+            "message 52 \"Poznámky minule nebyly uloženy.\r\nPočet zachovaných stránek: 3.\r\nVrátit je do poznámek ?\""
+            " \"Záchrana\"");
+  ExpectState(*notes, "", "TabStrip1=1 Text1=SECOND");
+  EXPECT_EQ(File(), NotesBytes({{"first"}}));
+  EXPECT_EQ(Locks().size(), 1u);  // that of this copy's own rescue file
+  notes->OfferRescued();          // asks only once
+  notes->close();
+  EXPECT_EQ(File(), NotesBytes({{"FIRST", "SECOND", "another first"}}));
+  EXPECT_EQ(Locks(), std::vector<std::string>());
+}
+
+TEST_F(NotesWindowTest, TheMenuStoresAndRestoresTheCheckpoint) {
+  text.SetText("kept");
+  Work(main, "mnu_chp_s!");
+  text.SetText("spoilt");
+  platform.answers = {Answer::kYes};
+  Work(main, "mnu_chp_r!");
+  EXPECT_EQ(text.Text(), "kept");
+  Work(main, "mnu_chp_v!");
+  EXPECT_TRUE(parts.windows.Get<Poznamka>().isVisible());
+}
+
+struct NotesPlaceTest : NotesWindowTest {
+  QTimer* timer = nullptr;
+
+  NotesPlaceTest() {
+    OpenOver({});
+    timer = notes->findChild<QTimer*>(QStringLiteral("Timer1"));
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(notes));
+  }
+  void WaitForPlace(const TwipsRect& place) const {
+    static_cast<void>(QTest::qWaitFor([&] { return OuterGeometry(*notes) == place; }));
+    EXPECT_EQ(OuterGeometry(*notes), place);
+  }
+};
+
+TEST_F(NotesPlaceTest, TheTextFillsTheWindowBelowToolbarAndTabs) {
+  notes->resize(450, 300);
+  const int toolbar = Named(*notes, "Toolbar1")->height();
+  EXPECT_EQ(Named(*notes, "TabStrip1")->geometry(), QRect(0, toolbar, 450, 300 - toolbar));
+  EXPECT_EQ(Named(*notes, "Text1")->geometry(), QRect(0, toolbar + 22, 450, 300 - toolbar - 22));
+}
+
+TEST_F(NotesPlaceTest, SnapsToTheEdgesOfTheScreen) {
+  SetOuterPlace(*notes, {150, 225, 4500, 4500});
+  WaitForPlace({0, 0, 4500, 4500});
+}
+
+TEST_F(NotesPlaceTest, DocksBesideTheMainWindow) {
+  main.show();
+  main.SetPlace({0, 1500, 6000, 4500});
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&main));
+  Work(*notes, "Dock!");
+  const TwipsRect place = main.Place();
+  const int right = place.left + place.width;
+  WaitForPlace({right, place.top, ScreenTwips(*notes).width - right, place.height});
+}
+
+TEST_F(NotesPlaceTest, TheTimerIsFastOnlyAfterAMoveAndStopsWhileHidden) {
+  EXPECT_TRUE(QTest::qWaitFor([this] { return timer->interval() > 10; }));
+  SetOuterPlace(*notes, {1500, 1500, 4500, 4500});
+  EXPECT_EQ(timer->interval(), 10);
+  notes->hide();
+  EXPECT_FALSE(timer->isActive());
+}
+
+}  // namespace
+}  // namespace pelmar
