@@ -30,6 +30,7 @@ TEST_F(ZaKodTest, TwiceTheSameKeyRestoresTheWholeDocument) {
   PutMarked(text, "[a|b");  // required: the selection doesn't matter
   ExpectState(dialog, "Command1!", "Text1= ProgressBar1=2 Txt=40");
   EXPECT_EQ(text.Text(), "40");
+  EXPECT_FALSE(text.CanUndo());  // required for a replaced text
   ExpectState(dialog, "Text1=0 Command1!", "Txt=ab");
   EXPECT_EQ(text.Text(), "ab");
 }
@@ -80,6 +81,7 @@ TEST_F(ShiftKodTest, ShiftsTheWholeDocumentThereAndBack) {
   PutMarked(text, "[A|z");  // required: the selection doesn't matter
   ExpectState(dialog, "HScroll1=5 Command1!", "Label4=5 Label2=FGHIJKLMNOPQRSTUVWXYZABCDE");
   EXPECT_EQ(text.Text(), "Fe");
+  EXPECT_FALSE(text.CanUndo());  // required for a replaced text
   Work(dialog, "Command2!");
   EXPECT_EQ(text.Text(), "Az");
 }
@@ -110,6 +112,7 @@ TEST_F(ConfeldTest, MovesTheWholeDocumentThereAndBack) {
   PutMarked(text, "[aa| aa");  // required: the selection doesn't matter
   ExpectState(dialog, "Text1=012 Command1!", "Text1=12");
   EXPECT_EQ(text.Text(), "bc cb");
+  EXPECT_FALSE(text.CanUndo());  // required for a replaced text
   Work(dialog, "Command2!");
   EXPECT_EQ(text.Text(), "aa aa");
 }
@@ -135,6 +138,7 @@ TEST_F(ProgramTest, ChtTranscribesTheDocumentAndShowsTheLookAlikes) {
               "Text1='ABCDEFGHIJKLMNOPQRSTUVWXYZ\r\nabcdefghijklmnopqrstuvwxyz\r\n&8(>3[6#1?<7~%09  5+ ^M*/2\r\n"
               "@  )    !  4w     $   m\r\n        |   W'");
   EXPECT_EQ(text.Text(), "@q\r\n");
+  EXPECT_FALSE(text.CanUndo());  // required for a replaced text
   EXPECT_EQ(platform.reseeds, 0);
 }
 
@@ -197,8 +201,10 @@ TEST_F(RndSifraTest, EnciphersAndDeciphersThePreparedText) {
   ExpectState(dialog, "HScroll1=40 Command2! Command1!", "Text1='PRILIS\r\nKUN'");
   ExpectState(dialog, "Command5!", "Cnt=11");
   EXPECT_EQ(text.Size(), 11u * 40);
+  EXPECT_FALSE(text.CanUndo());  // required for a replaced text
   ExpectState(dialog, "Command1! Command6!", "Cnt=440");
   EXPECT_EQ(text.Text(), "PRILIS\r\nKUN");
+  EXPECT_FALSE(text.CanUndo());    // required for a replaced text
   EXPECT_EQ(platform.reseeds, 2);  // deciphering draws nothing
   EXPECT_EQ(platform.TakeTold(), "");
 }

@@ -3,6 +3,8 @@
 
 #include <QCheckBox>
 #include <QLineEdit>
+#include <QListWidget>
+#include <QStyledItemDelegate>
 #include <QTabBar>
 #include <QTreeWidget>
 #include <filesystem>
@@ -156,6 +158,7 @@ TEST_F(HtmlDialogTest, APageHoldsTheProfileTheTimeAndTheSelection) {
   ExpectDocument("mnucreate", "Command1!", "|", kPageHead + ">¶[---TEXT---|" + kPageEnd);
   ExpectDocument("mnucreate", "Check8! HScroll1=7 Command1!", "[x|",
                  kPageHead + ">¶<BASEFONT SIZE=\"7\">¶[x|" + kPageEnd);
+  EXPECT_FALSE(text.CanUndo());  // required for a replaced text
 }
 
 // required: the editor takes the swatch, which begins white, the page the label, which begins as black
@@ -336,7 +339,7 @@ TEST_F(HtmlDialogTest, TheOkButtonOfALinkNeedsAFileOrAnAddress) {
   const QWidget& link = Open("mnuodkazjiny");
   ExpectState(link, "", "Frame1= Text1=(http://) Command1=(&Ok)");
   ExpectState(link, "Option2!", "Frame1=() Text1=http:// Command1=&Ok");
-  ExpectState(link, "Option1! File1=0 Text2= Text1=b Option1!", "Frame1= Command1=&Ok");
+  ExpectState(link, "Option1! File1=0 Text2= Text1=b Option1!", "Frame1= Command1=&Ok Command3=");
   ExpectState(link, "Option2! Text2= Text1=a", "Command1=(&Ok)");  // required: without an anchor
   ExpectState(link, "Text1=b Text2=k Text1=c", "Command1=&Ok");
   ExpectState(link, "Dir1=/ Option1!", "Label1=/ Command1=(&Ok) Command3=()");
@@ -418,6 +421,14 @@ TEST_F(HtmlDialogTest, EnterAddsAnItemAndGoesOnWithTheNext) {
   const QWidget& list = Open("mnulist");
   ExpectState(list, "Command2! Text1= Text1:2\r3\r", "List1=2|3 Command2=O&deber");
   EXPECT_EQ(list.focusWidget(), Named(list, "Text1"));
+}
+
+TEST_F(HtmlDialogTest, AnItemOfSeveralLinesIsShownOnOne) {
+  for (const char* command : {"mnulist", "mnulistcount"}) {
+    const auto* rows = Find<QListWidget>(Open(command), "List1");
+    const auto* shown_by = qobject_cast<const QStyledItemDelegate*>(rows->itemDelegate());
+    EXPECT_EQ(shown_by->displayText(QStringLiteral("a\r\nb"), QLocale()), QStringLiteral("a¶b")) << command;
+  }
 }
 
 TEST_F(HtmlDialogTest, ADefinitionListHoldsPairs) {
