@@ -110,6 +110,15 @@ TEST_F(BrowserTest, ShowsTheProgress) {
   ExpectState(window, "", "Panel2=");
 }
 
+TEST_F(BrowserTest, TheLinkUnderThePointerHasItsOwnPanel) {
+  Tick();
+  view->on_link(QStringLiteral("http://x.cz/"));
+  Tick();
+  ExpectState(window, "", "Panel1=Idle Panel4=http://x.cz/");
+  view->on_link(QString());
+  ExpectState(window, "", "Panel4=");
+}
+
 TEST_F(BrowserTest, AskedByThePersonItLoadsWhatWasWithheld) {
   window.Present();
   view->on_withheld(true);
