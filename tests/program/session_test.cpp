@@ -72,14 +72,16 @@ TEST_F(SessionTest, TheProfileIsStoredAtOnceButNotTheWindowsState) {
 TEST_F(SessionTest, StoredSettingsAreAppliedInOrder) {
   SettingsRecord r = kStored;
   r.FontBold = r.FontItalic = r.AlwaysOnTopFlag = true;
-  r.AutosnapDistance = 100;
+  r.AutosnapDistance = 2'000'000'000;
   platform.files[kSettings] = SettingsBytes(r);
   Start("-nomsg");
   EXPECT_EQ(view.calls, (Calls{"colors", "recent", "place", "state", "font", "colors", "size", "bold", "bold mark",
                                "italic", "italic mark", "top", "main"}));
   EXPECT_EQ(Told(view.look), "Font 12 bold italic #010000 #020000");
   EXPECT_EQ(view.place, (TwipsRect{150, 300, 9000, 6000}));
-  EXPECT_EQ(editor.settings.AutosnapDistance, 100);
+  EXPECT_EQ(editor.settings.AutosnapDistance, 2'000'000'000);
+  session.Close();
+  EXPECT_EQ(ReadSettings(platform.files[kSettings]).AutosnapDistance, 2'000'000'000);
 }
 
 TEST_F(SessionTest, ImpossibleSettingsAreReplacedByDefaults) {
@@ -91,13 +93,6 @@ TEST_F(SessionTest, ImpossibleSettingsAreReplacedByDefaults) {
   Start();
   EXPECT_EQ(Told(view.look), "Font 8 #000000 #FFFFFF");
   EXPECT_EQ(view.state, WindowMode::kNormal);
-}
-
-TEST_F(SessionTest, OnlyOfferedSizesOfTheFontAreTaken) {
-  for (const auto& [size, expected] : {std::pair{10, 10}, {24, 24}, {0, 8}, {25, 8}}) {
-    view.SetEditorFontSize(size);
-    EXPECT_EQ(view.look.font_size, expected) << size;
-  }
 }
 
 TEST(Session, TheTextComesFromTheRecoveryFileOrTheClipboard) {

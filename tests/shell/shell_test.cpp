@@ -1,6 +1,8 @@
 // The shell's routines: paths, texts, help, status, the places of windows and the settings record.
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "platform/color.h"
 #include "platform/paths.h"
 #include "platform/runtime_error.h"
@@ -9,11 +11,13 @@
 #include "shell/help.h"
 #include "shell/settings_record.h"
 #include "shell/status.h"
+#include "shell/terminal_answer.h"
 #include "shell/window_geometry.h"
 #include "support/marked_text.h"
 #include "support/printed_places.h"
 #include "support/random_source.h"
 #include "support/scripted_platform.h"
+#include "support/temp_folder.h"
 #include "text/codepage.h"
 
 namespace pelmar {
@@ -164,6 +168,12 @@ TEST(Snap, PullsWindowsToTheEdges) {
   for (const auto& [what, before, after] : cases) EXPECT_EQ(Snap(before, 240, {0, 0, 28800, 16200}), after) << what;
 }
 
+TEST(Snap, TakesAnyDistanceOfTheSettingsFile) {
+  const TwipsRect screen{0, 0, 28800, 16200}, window{300, 300, 9000, 6000};
+  EXPECT_EQ(Snap(window, std::numeric_limits<int>::max(), screen), screen);
+  EXPECT_EQ(Snap(window, std::numeric_limits<int>::min(), screen), window);
+}
+
 // required: the sum counts panel 4 itself, so two widths take turns
 TEST(SparePanelWidth, AlternatesOnceBothWidthsAreAboveZero) {
   std::array<int, kPanelCount> widths = {1500, 1500, 1500, 0, 500, 500, 500};
@@ -221,6 +231,22 @@ TEST(SettingsRecord, HasTheseBytes) {
   EXPECT_EQ(ReadSettings(expected + "an old tail"), FullRecord());
 }
 
+TEST(SettingsRecord, HasPathsInTheCodePageOrElseAsUrls) {
+  const std::pair<std::string, std::string> cases[] = {
+      {"/žluť.txt", "/\x9Elu\x9D.txt"},
+      {"/Ĺľ.txt", "/\xC5\xBE.txt"},  // "ž" in UTF-8
+      {"/日.txt", "file:///%E6%97%A5.txt"},
+      {"/k\xF9\xF2.txt", "file:///k%F9%F2.txt"},  // no UTF-8
+  };
+  for (const auto& [path, stored] : cases) {
+    SettingsRecord r;
+    r.RecentFiles[0] = path;
+    const std::string bytes = SettingsBytes(r);
+    EXPECT_NE(bytes.find(std::string{static_cast<char>(stored.size()), '\0'} + stored), std::string::npos) << path;
+    EXPECT_EQ(ReadSettings(bytes).RecentFiles[0], path);
+  }
+}
+
 // Every short length: what is whole keeps its value, the rest reads as zero and empty.
 TEST(SettingsRecord, ShortAndDamagedFilesReadAsZeroFromTheirEndOn) {
   std::string bytes = SettingsBytes(FullRecord());
@@ -234,6 +260,17 @@ TEST(SettingsRecord, ShortAndDamagedFilesReadAsZeroFromTheirEndOn) {
   // A count beyond the end is no string, and nothing behind it counts.
   bytes[18] = bytes[19] = '\xFF';
   EXPECT_EQ(ReadSettings(bytes), ReadSettings(bytes.substr(0, 18)));
+}
+
+TEST(TerminalAnswer, AFileThatIsCalledLikeASwitchIsOpened) {
+  const TempFolder folder;
+  folder.Put("--help", "");
+  std::string name = "--help";
+  char* const arguments[] = {name.data()};
+  const std::filesystem::path old_folder = std::filesystem::current_path();
+  std::filesystem::current_path(folder.Path());
+  EXPECT_FALSE(TerminalAnswer(arguments).has_value());
+  std::filesystem::current_path(old_folder);
 }
 
 }  // namespace
