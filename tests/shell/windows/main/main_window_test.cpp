@@ -289,6 +289,16 @@ TEST_F(WarningTest, AHintAtUtf8StandsUntilTheTextChanges) {
   EXPECT_EQ(Shown(), FormatHint("\xC5\xBE"));
 }
 
+TEST_F(WarningTest, AHintLeavesPanelsOneToThreeAlone) {
+  const StatusStrip& bar = main.Bar();
+  OpenFile("/u.txt", "\xC5\xBE");
+  Tick();
+  EXPECT_EQ(Shown(), FormatHint("\xC5\xBE"));
+  EXPECT_EQ(label->geometry(), bar.Panel(4)->geometry());
+  for (const int panel : {1, 2, 3})
+    EXPECT_EQ(bar.childAt(bar.Panel(panel)->geometry().center()), bar.Panel(panel)) << panel;
+}
+
 TEST_F(WarningTest, AHintAtTwoEncodingsStandsUntilTheyAreGone) {
   OpenFile("/u.txt", "\xC5\xBE");
   text.Type("\x9E");
@@ -365,6 +375,20 @@ TEST_F(MainWindowTest, TogglesHideAndShowTheBars) {
   EXPECT_EQ(editor.documents.SelectedTab(), 1);  // with the strip the switching is gone
   Work(main, "MnuTS! MnuSBS! mnuFTS!");
   EXPECT_EQ(main.Box().geometry(), with);
+}
+
+TEST_F(MainWindowTest, ALowWindowGrowsForTheBarsThatComeBack) {
+  main.setMinimumSize(1, 1);
+  Work(main, "MnuTS! MnuSBS!");
+  main.resize(480, 30);
+  Work(main, "MnuTS! MnuSBS!");
+  EXPECT_GE(main.Bar().y(), main.Toolbar().geometry().bottom());
+}
+
+TEST_F(ProgramTest, AStoredPlaceBeyondAnyScreenIsBounded) {
+  main.SetPlace({-2'000'000'000, 2'000'000'000, 2'000'000'000, 9000});
+  const int farthest = TwipsOf(32'767);
+  EXPECT_EQ(main.Place(), (TwipsRect{-farthest, farthest, farthest, 9000}));
 }
 
 TEST_F(MainWindowTest, RecentMenuShowsAndOpensTheEntries) {
