@@ -15,7 +15,6 @@ class PlainView : public MainView {
   std::vector<std::string> calls;
   TwipsRect place;
   WindowMode state = WindowMode::kNormal;
-  int alignment = 0;
   EditorLook look;
 
   void SetPlace(const TwipsRect& p) override { Set(place, p, "place"); }
@@ -33,7 +32,7 @@ class PlainView : public MainView {
   void SetEditorItalic(bool italic) override { Set(look.italic, italic, "italic"); }
   void MarkBold(bool bold) override { calls.push_back(bold ? "bold mark" : "no bold mark"); }
   void MarkItalic(bool italic) override { calls.push_back(italic ? "italic mark" : "no italic mark"); }
-  void NextAlignment() override { alignment = (alignment + 1) % 3; }
+  void NextAlignment() override {}
   void SetNormalState() override { calls.push_back("normal"); }
   void SetOuterSize(int width, int height) override {
     place.width = width;

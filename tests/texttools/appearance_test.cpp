@@ -43,13 +43,6 @@ TEST_F(AppearanceTest, EachCommandChangesItsPartOfTheLook) {
   EXPECT_EQ(Look("mnuinvert"), "Font 17 italic #FEFDFC #000000");
 }
 
-TEST_F(AppearanceTest, ThreeAlignmentsTakeTurns) {
-  for (const int alignment : {1, 2, 0}) {
-    Look("Mnu_Change_Alingment");
-    EXPECT_EQ(view.alignment, alignment);
-  }
-}
-
 TEST_F(AppearanceTest, DosSetsTheWindowToo) {
   EXPECT_EQ(Look("Dos"), "Courier New 8 #C2C2C2 #000000");
   EXPECT_EQ(view.place, (TwipsRect{0, 0, 9210, 6675}));

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QClipboard>
 #include <QListWidget>
 
 #include "accessories/windows/color_dialog.h"
@@ -28,6 +29,15 @@ struct SearchTest : ProgramTest {
     const QRect match = main.Box().CharRect(text.SelStart());
     const QPoint place = main.Box().viewport()->mapToGlobal(match.topLeft());
     EXPECT_TRUE(QTest::qWaitFor([&] { return !dialog.geometry().intersects(QRect(place, match.size())); }));
+  }
+  // Takes the steps, the last of which finds nothing.
+  void ExpectNoFiguresDuringMessage(const QWidget& dialog, const char* steps) {
+    std::string during_message;
+    platform.on_message = [&] { during_message = State(dialog, "Label3 Label5"); };
+    platform.answers = {Answer::kOk};
+    Work(dialog, steps);
+    platform.on_message = {};
+    EXPECT_EQ(during_message, "Label3= Label5=") << steps;
   }
 };
 
@@ -73,6 +83,24 @@ TEST_F(HledaniTest, ALongSelectionOfSeveralLinesIsTheTerm) {
   EXPECT_EQ(text.SelEnd(), text.Size());
 }
 
+TEST_F(HledaniTest, LinesPastedIntoTheFieldAreFound) {
+  const auto& dialog = OpenFor("|x a¶b");
+  auto* field = Find<QLineEdit>(dialog, "Find");
+  field->selectAll();
+  QGuiApplication::clipboard()->setText(QStringLiteral("a\nb"));
+  QTest::keyClick(field, Qt::Key_V, Qt::ControlModifier);
+  Work(dialog, "Command1!");
+  EXPECT_EQ(Marked(text), "x [a¶b|");
+}
+
+TEST_F(HledaniTest, NoFiguresStandBehindTheMessageOfAStart) {
+  ExpectNoFiguresDuringMessage(OpenFor("|jedna dvě"), "Find=dvě Command1! Command4! Find=x Command1!");
+}
+
+TEST_F(HledaniTest, EnterAtTheBoxForTheCasePressesTheDefaultButton) {
+  ExpectState(OpenFor("|jedna"), "Find=jedna Rozlisovat:\r", "Find=Text Rozlisovat=1 Label3= History=");
+}
+
 TEST_F(HledaniTest, TheDialogMovesOffTheMatch) { ExpectMovedOffTheMatch(OpenFor("|a b"), "Find=b Command1!"); }
 
 struct ZamenaTest : SearchTest {
@@ -116,6 +144,14 @@ TEST_F(ZamenaTest, ARowOfEitherListPicksTheWholePair) {
   Work(dialog, "Find=a Chage=c Command1! Command4! Find=b Chage=d Command1! Command4!");
   ExpectState(dialog, "Find=x Chage=y List1=0", "Find=a Chage=c History=>a|b List1=>c|d Command6='zaměnit &Vše'");
   ExpectState(dialog, "Find=x Chage=y History=1", "Find=b Chage=d History=a|>b List1=c|>d");
+}
+
+TEST_F(ZamenaTest, NoFiguresStandBehindTheMessageOfAStart) {
+  ExpectNoFiguresDuringMessage(dialog, "Find=b Command1! Command5! Command4! Find=x Command1!");
+}
+
+TEST_F(ZamenaTest, EnterAtTheBoxForTheCasePressesTheDefaultButton) {
+  ExpectState(dialog, "Find=b Rozlisovat:\r", "Find=Text Rozlisovat=1 Label3= History=");
 }
 
 TEST_F(ZamenaTest, TheDialogMovesOffTheMatch) { ExpectMovedOffTheMatch(dialog, "Find=b Command1!"); }
