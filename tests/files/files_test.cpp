@@ -263,6 +263,11 @@ TEST_F(FastSave, AsksTwiceAndWritesTheTextAsItIsThen) {
   EXPECT_EQ(StateOf(documents), SavedAt("/a.txt"));
 }
 
+TEST_F(FastSave, AsksTheSameWhereTheFileIsGone) {
+  platform.files.erase("/a.txt");
+  EXPECT_EQ(Saved({kNo}), Calls{ask});
+}
+
 TEST_F(FastSave, AsksOnceBeforeTwoEncodingsGoOverAFileInUtf8) {
   const std::string mix = Asked(276, MixQuestion("/a.txt"));
   platform.files["/a.txt"] = "\xC5\xBE";

@@ -107,6 +107,11 @@ TEST_F(AnalyticTest, ThePointerShowsTheCharacterUntilAClickBehindTheGraph) {
   ExpectState(dialog, "", "Label2=");
 }
 
+TEST_F(AnalyticTest, ThePointerShowsAControlCharacterItself) {
+  QTest::mouseMove(graph, QPoint(2 * 7 * graph->width() / 508 + 1, 20));
+  ExpectState(dialog, "", "Label2='Poloha: 7 Znak: \"\a\"'");
+}
+
 TEST_F(AnalyticTest, AScreenReaderReadsTheBarUnderThePointer) {
   QTest::mouseMove(graph, QPoint(2 * 97 * graph->width() / 508 + 1, 20));
   EXPECT_EQ(QAccessible::queryAccessibleInterface(graph)->text(QAccessible::Description),

@@ -170,6 +170,10 @@ TEST_F(CharTableTest, AScreenReaderReadsTheCells) {
             QStringLiteral("A, kód 65"));
 }
 
+TEST_F(CharTableTest, TheTableBeginsInTheFontThatItsFieldNames) {
+  EXPECT_EQ(grid->font().family(), Find<QComboBox>(kod, "Combo1")->currentText());
+}
+
 TEST_F(CharTableTest, AFontGoesToAllThatShowsCharactersAndItsNameStaysAsTyped) {
   ExpectState(kod, "Option3! Combo1= Combo1:Courier", "Combo1=Courier");
   for (const char* name : {"Picture1", "Picture2", "Label2", "Text1"})
@@ -181,6 +185,16 @@ TEST_F(CharTableTest, TypedKeysEditTheDocument) {
   ExpectDocument("mnuASCII", "Picture1:→↓\r", "[ab|c", "¶|c");                 // required: Enter on a marked cell too
   ExpectDocument("mnuASCII", "HScroll1=65 Command3:'\r '", "[ab|c", "[ab|c");  // they click the button
   ExpectState(kod, "", "Text1=AA");
+}
+
+TEST_F(CharTableTest, AHeldEnterGoesOnInTheDocument) {
+  grid->setFocus();
+  for (const bool repeat : {false, true}) {
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"), repeat);
+    QSpontaneKeyEvent::setSpontaneous(&press);
+    qApp->notify(grid, &press);
+  }
+  EXPECT_EQ(Marked(text), "¶¶|");
 }
 
 TEST_F(CharTableTest, ControlAndEnterInsertTheCellThatTheArrowsMarked) {

@@ -145,6 +145,14 @@ TEST_F(FileDialogsTest, ConversionsNeedAFileAndWriteBesideIt) {
   EXPECT_TRUE(dialog.isVisible());
 }
 
+TEST_F(FileDialogsTest, ConversionsStayEnabledAfterTheirFileWasDeleted) {
+  auto& dialog = Open<Dos_Unix_conv>();
+  Expect(dialog, "Dir1=~ File1=b.html", "Command1='&DOS --> UNIX'");
+  std::filesystem::remove(folder.File("b.html"));
+  // A conversion reads the folder again.
+  Expect(dialog, "Command1!", "File1=a.TXT|>b.html|big.txt Command1='&DOS --> UNIX' Command5='&1250 --> UTF-8'");
+}
+
 struct DirSetupTest : FileDialogsTest {
   DirSetup& dialog = Open<DirSetup>();
 
