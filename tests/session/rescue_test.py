@@ -131,17 +131,25 @@ class RescueTest(EditorCase):
         self.start()
         self.assertEqual(self.rescues(), [])
 
+    def assert_closing_files(self, text):
+        """The files of a close are there."""
+        self.assertEqual(self.autosaved(), text)
+        self.assertIn(text, (self.folder / "autosave_all_files.txt").read_bytes())
+        self.assertTrue((self.folder / "pelmar.ini").stat().st_size)
+
     def test_the_system_ends_the_program_and_all_is_kept(self):
         for number in (signal.SIGTERM, signal.SIGHUP, signal.SIGINT):
             main = self.start()
             self.work('F9 [Poznámky] "a note"')
             self.activate(main)
             self.work('"typed just now" [Pelmar VEX ()*]')
+            (self.folder / "pelmar.ini").unlink()
             self.program.send_signal(number)
             self.wait_exit(-number)
             self.assertTrue(self.holds(b"typed just now", "rescue-*.pelmar"), number)
             self.assertTrue(self.holds(b"a note", "notes-rescue-*.pelmar"), number)
-            for one in self.rescues():
+            self.assert_closing_files(b"typed just now")
+            for one in (*self.rescues(), *self.folder.glob("autosave_*")):
                 one.unlink()
         # A program whose work is saved leaves nothing.
         self.start()
@@ -154,9 +162,11 @@ class RescueTest(EditorCase):
         self.start(title=None, SESSION_MANAGER=manager.address)
         self.wait(lambda: manager.saves, "the first save")
         self.work('[Pelmar VEX ()] "typed just now" [Pelmar VEX ()*]')
+        (self.folder / "pelmar.ini").unlink()
         manager.end_session()
         self.wait_exit()
         self.assertTrue(self.holds(b"typed just now"))
+        self.assert_closing_files(b"typed just now")
         # How it wants to be started again: an argument would be a file to open.
         self.assertIn(array(b"RestartCommand") + array(b"LISTofARRAY8") + bytes([1, 0, 0, 0, 0, 0, 0, 0])
                       + array(os.fsencode(PROGRAM)), manager.heard)
