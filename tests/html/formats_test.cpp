@@ -32,6 +32,17 @@ void ExpectWritten(const Cases& cases) {
   for (const auto& [made, expected] : cases) EXPECT_EQ(ToUtf8(made), expected);
 }
 
+TEST(Lists, NameTheirTypes) {
+  const char* bullets[] = {"disk", "circle", "square"};
+  for (std::size_t type = 0; type < 3; ++type)
+    EXPECT_EQ(BuildList({ListKind::kBullets, type, false, {}, {}}),
+              std::string("<UL TYPE=\"") + bullets[type] + "\">\r\n</UL>");
+  const char* numbers[] = {"1", "a", "A", "I", "i"};
+  for (std::size_t type = 0; type < 5; ++type)
+    EXPECT_EQ(BuildList({ListKind::kNumbers, type, false, {}, {}}),
+              std::string("<OL TYPE=\"") + numbers[type] + "\">\r\n</OL>");
+}
+
 TEST(Formats, BlocksAndFragments) {
   const FontSpec font{7, "Times", "#FF0000"};
   ExpectWritten({

@@ -119,6 +119,12 @@ TEST_F(DocumentsTest, RescueKeepsTheUnsavedDocumentsAndBringsThemBack) {
   EXPECT_EQ(later.SwitchTo(1), (DocumentState{"(/a/one.txt)*", "one.txt", "/a/one.txt", "", true, 2}));
 }
 
+TEST_F(DocumentsTest, ARestoredDocumentIsShownAndUnsaved) {
+  documents.Restore(2, "text", "/a/b.txt");
+  EXPECT_EQ(documents.Title(), "Pelmar VEX (/a/b.txt)*");
+  EXPECT_EQ(documents.SelectedTab(), 2);
+}
+
 TEST_F(DocumentsTest, RescueNeverOverwritesADocumentOfThisRun) {
   documents.MakeCurrent("/given.txt", "given");
   const RescueRecord first{1,

@@ -60,6 +60,7 @@ TEST(Paths, AreJoinedAndMadeUrlsInBothKindsAndFoundWithASeparatorAtTheEnd) {
   EXPECT_EQ(PathToFileUrl("C:\\a\\b%.html"), "file:///C:/a/b%.html");
   for (const char* folder : {"/tmp", "/tmp/"}) EXPECT_EQ(JoinPath(folder, "a.txt"), "/tmp/a.txt");
   for (const char* folder : {"C:\\x", "C:\\x\\"}) EXPECT_EQ(JoinPath(folder, "a.txt"), "C:\\x\\a.txt");
+  EXPECT_EQ(JoinPath("C:\\x/y", "a.txt"), "C:\\x/y/a.txt");
 }
 
 TEST(Common, ColorsCountsAndLetters) {
