@@ -1,5 +1,5 @@
 // The desk calculator in the window Kalkul. Its state is three texts: the number shown, the pending operation and the
-// first operand. required: there is no state of input, so a digit is appended to a result as to typed digits.
+// first operand. required: a digit typed after a result is appended to this result.
 #pragma once
 
 #include <optional>
@@ -20,7 +20,7 @@ class Calculator {
 
   // Which keys are enabled.
   [[nodiscard]] bool OperatorsOn() const { return operation.empty(); }  // + - * / and log
-  // required: x^y stays enabled during a division or a logarithm and then drops its first operand
+  // required: x^y stays enabled while "/" or "L" is pending; pressing x^y drops the pending operation's operand
   [[nodiscard]] bool PowerOn() const { return operation.empty() || operation == "/" || operation == "L"; }
   [[nodiscard]] bool EqualsOn() const { return !operation.empty(); }
 
@@ -32,7 +32,7 @@ class Calculator {
 
   // Starts one of + - * / L ^.
   void Operator(char symbol);
-  // Ends the pending operation. A failure is reported and keeps the number.
+  // Computes and ends the pending operation, if there is one. On failure reports the error and keeps the number.
   void Evaluate();
 
   // Each replaces the number by its result. On failure each reports the error, keeps the number and drops the pending
@@ -44,11 +44,11 @@ class Calculator {
   void Cosine();
   void Tangent();
   void Cotangent();
-  // Has an error message of its own and keeps the pending operation.
+  // Like the functions above, but on failure shows another message and keeps the pending operation.
   void SquareRoot();
 
   void Pi() { shown = "3,14159265358979"; }
-  void E() { shown = "2.718282"; }  // required: has a point, so it can't be read again
+  void E() { shown = "2.718282"; }  // required: has a point, so no operation can read this number
   void Random();
 
  private:

@@ -10,25 +10,25 @@
 namespace pelmar {
 
 // Reads a decimal number, a hexadecimal number after "&H" or an octal number after "&O". Up to 4 hexadecimal or 6 octal
-// digits are a signed 16-bit number, more digits a signed 32-bit number. Nothing if the digits don't fit 32 bits.
+// digits that fit 16 bits are a signed 16-bit number, others a signed 32-bit number. Nothing if they don't fit 32 bits.
 std::optional<double> ReadNumber(std::string_view text);
 
 // In two's complement, upper case, without leading zeros.
 std::string ToHex(std::int32_t value);
 std::string ToOct(std::int32_t value);
 
-// Roman numerals such as IIII, without an upper limit. "0" for numbers below 1. Calls `go_on` after each letter and
-// returns nothing once `go_on` returns false.
+// Roman numerals that only add: 4 is IIII. There is no upper limit. "0" for numbers below 1. Calls `go_on` after each
+// letter, and returns nothing once `go_on` returns false.
 std::optional<std::string> ToRoman(std::int32_t n, const std::function<bool()>& go_on);
 std::string ToRoman(std::int32_t n);
 
-// The fields of the window and the effect of its keys.
+// The fields of the window and the effect of its keys. Digit and the From functions cut the end of a field that is too
+// long.
 struct Converter {
   std::string decimal = "0";      // at most 9 characters
   std::string hexadecimal = "0";  // at most 9 characters
   std::string octal = "0";        // at most 11 characters
 
-  // After each of these calls, a field that is too long loses its last characters.
   void Digit(std::string Converter::*field, char digit);
   void DropLast(std::string Converter::*field);
 

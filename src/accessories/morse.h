@@ -10,7 +10,8 @@ namespace pelmar {
 
 struct Editor;
 
-// Each sign ends in "/". Letters lose their diacritics. A character without a sign stays, without "/".
+// Each sign ends in "/". Letters lose their diacritics. A character without a sign stays, without "/". required: a
+// blank has the sign of the slash; "CH" has a sign of its own, and the sign of H follows it.
 std::string TextToMorse(std::string_view text);
 
 // A menu item: its name, its caption and the sign that it inserts.

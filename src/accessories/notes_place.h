@@ -1,6 +1,7 @@
-// The place of the notes window at each tick of its timer: snapped to the edges of the screen, docked to the right of
-// the main window, at the right edge beside a maximised main window, or in the corner of the screen. Places are outer
-// frames in twips.
+// Computes where the notes window goes at each tick of its timer. Undocked, or while the main window is minimised, it
+// snaps to the edges of the screen. Docked, it lies right of the main window, or over a maximised main window at the
+// right edge of the screen. Docked and running alone, it lies in the lower right corner. Places are outer frames in
+// twips.
 #pragma once
 
 #include <optional>
@@ -19,15 +20,15 @@ struct NotesSurroundings {
   bool docked = false;  // the button "Dock" is pressed
   int snap_distance = 0;
   TwipsRect screen;   // the screen of the notes, or of the main window if docked
-  int narrowest = 0;  // the smallest width of the window
+  int narrowest = 0;  // the smallest width of the notes
   bool operator==(const NotesSurroundings&) const = default;
 };
 
-// The notes window is neither minimised nor maximised.
+// The new place. Call only while the notes window is neither minimised nor maximised.
 TwipsRect PlaceNotes(const NotesSurroundings& around);
 
 // The timer of the notes window. A hundred ticks a second cost a percent of a core, so the timer slows down when
-// nothing has moved for a second. Slow ticks notice changes without an event: the distance and the screen.
+// nothing has moved for a second. Slow ticks remain, because no event reports a new snap distance or another screen.
 class NotesTimer {
  public:
   [[nodiscard]] int Interval() const { return quiet_ticks_ < kTicksUntilQuiet ? kTick : kQuietTick; }  // ms
@@ -42,7 +43,7 @@ class NotesTimer {
   static constexpr int kTick = 10;
   static constexpr int kQuietTick = 250;
   static constexpr int kTicksUntilQuiet = 100;
-  // A window manager may ignore a request while it moves the window, or always.
+  // The most requests for one place. A window manager may ignore them while the person moves the window, or always.
   static constexpr int kTries = 50;
 
   NotesSurroundings placed_for_;  // the surroundings at the last tick

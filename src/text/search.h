@@ -1,4 +1,4 @@
-// Searches a text for a term, exactly. Positions count from 0, in messages from 1.
+// Finds a term in a text. Upper and lower case differ. Positions count from 0, but in messages from 1.
 #pragma once
 
 #include <cstddef>
@@ -10,13 +10,13 @@
 
 namespace pelmar {
 
-// The first hit at or after `from`. Finds an empty term at `from`. Finds nothing from the end of the text on.
+// The first hit at or after `from`. An empty term is found at `from`. Nothing if `from` is not before the text's end.
 std::optional<std::size_t> FindFrom(std::string_view text, std::string_view term, std::size_t from);
 
 // Selects a hit, at most up to the end of the text. Selects the start first, so that the start becomes visible.
 void SelectHit(TextBuffer& buffer, std::size_t hit, std::size_t length);
 
-// The question at a hit whether to search on. UTF-8.
+// The question after a hit: whether to look for the next one. UTF-8.
 std::string GoOnQuestion(std::size_t hit);
 
 }  // namespace pelmar

@@ -22,7 +22,8 @@ KeyPreview::KeyPreview(QWidget& window, std::function<Preview(const QKeyEvent&)>
     widget->installEventFilter(this);
     // Without this attribute no letters could be composed while a button has the focus.
     widget->setAttribute(Qt::WA_InputMethodEnabled);
-    // A held Enter repeats, except on a button, which it presses only once.
+    // ImhMultiLine makes KeyRouter let a held Enter repeat. A button doesn't get this hint, so a held Enter presses the
+    // button only once.
     if (!qobject_cast<QPushButton*>(widget)) widget->setInputMethodHints(widget->inputMethodHints() | Qt::ImhMultiLine);
   }
 }
@@ -38,7 +39,8 @@ bool KeyPreview::Takes(QWidget& receiver, QKeyEvent& press) {
   return preview != Preview::kPass;
 }
 
-// Letters from dead keys or an input method come without a key press. A shared letter also reaches the control.
+// Letters from dead keys or an input method come without a key press. The control gets them too, unless the window
+// takes the last one.
 bool KeyPreview::TakesComposed(const QInputMethodEvent& event) {
   bool taken = false;
   for (const char letter : PageText(event.commitString())) {

@@ -1,4 +1,4 @@
-// The dialog `Barva` inserts a FONT tag with size, face and colour.
+// The dialog `Barva` puts the selection into a FONT tag with size, face or colour, or several of them.
 #pragma once
 
 #include <functional>

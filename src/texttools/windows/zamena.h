@@ -1,4 +1,5 @@
-// `Záměna`: replaces step by step or all at once, with two histories whose rows belong together.
+// The dialog `Záměna` finds a term and replaces it, step by step or all at once. One list shows the earlier terms, the
+// other shows in the same row the replacement of each term.
 #pragma once
 
 #include <QRect>
@@ -17,7 +18,8 @@ class Zamena : public FormDialog<Ui::Zamena> {
   Q_OBJECT
 
  public:
-  // `match` returns the place of a visible match on the screen, else an empty one. The window moves off the match.
+  // `match` returns the screen rectangle of the match, empty if the match isn't visible. The window moves off the
+  // match.
   Zamena(TextBuffer& buffer, Platform& platform, std::function<QRect()> match, QWidget* parent);
 
  private:
