@@ -11,7 +11,7 @@ namespace pelmar {
 enum class StartMode { kEditor, kCalculator, kNotes, kBrowser };
 
 // Asks whether to close `accessory` (in the accusative, as in "Poznámky"). If true, the caller ends the process at
-// once: these modes write neither the settings nor the recovery files.
+// once: these modes store neither the settings nor the documents.
 bool MayEndStandAlone(Platform& platform, std::string_view accessory);
 
 }  // namespace pelmar

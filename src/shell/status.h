@@ -1,5 +1,4 @@
-// Computes what the status timer shows: the state of the menu items on each tick, and the texts of panels 1 to 4 when
-// the text or the clipboard has changed. Panel texts are Windows-1250.
+// Computes what the status timer shows: the state of the menu items, and the texts of panels 1 to 4 in Windows-1250.
 #pragma once
 
 #include <optional>
@@ -17,10 +16,10 @@ struct PanelTexts {
   std::string lines;     // panel 3
 };
 
-// The number of lines is the number of line feeds.
+// required: line feeds count as lines, so the first line is 0. Without `line_counting`, `lines` is "(OFF)".
 PanelTexts ComputePanels(const TextBuffer& buffer, bool line_counting);
 
-// The text of panel 4. `clipboard` is nothing if the clipboard offers no plain text.
+// The text of panel 4. `clipboard` is nullopt if the clipboard offers no plain text.
 std::string ComputeContent(const TextBuffer& buffer, const std::optional<std::string>& clipboard);
 
 MenuState ComputeMenuState(const TextBuffer& buffer, std::string_view current_path,

@@ -16,7 +16,7 @@ constexpr int kFarthest = 1'000'000;  // more than any screen
 }  // namespace
 
 TwipsRect Snap(TwipsRect f, int d, const TwipsRect& screen) {
-  d = std::clamp(d, -kFarthest, kFarthest);  // sums can't overflow
+  d = std::clamp(d, -kFarthest, kFarthest);  // so that sums can't overflow
   f.left -= screen.left;
   f.top -= screen.top;
   // Each test uses the values set by the lines above.
