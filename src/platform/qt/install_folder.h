@@ -1,4 +1,4 @@
-// The install folder, where the program keeps its settings, notes and recovery files.
+// The install folder, where the program keeps its settings, notes and rescue files.
 #pragma once
 
 #include <QString>

@@ -6,7 +6,8 @@
 
 namespace pelmar {
 
-// Makes `Face`, constructed from the control, the accessible interface of every `Control`. Further calls do nothing.
+// Gives every `Control` an accessible interface of the class `Face`, whose constructor takes the control. Further calls
+// do nothing.
 template <class Control, class Face>
 void InstallFace() {
   static const bool installed = [] {
@@ -19,13 +20,14 @@ void InstallFace() {
   Q_UNUSED(installed);
 }
 
-// For a widget or a window that would otherwise be presented as a mere container.
+// Sets the role that assistive technology sees. Without it, a plain widget or window counts as a container.
 void SetAccessibleRole(QWidget& widget, QAccessible::Role role);
 
-// A dynamic property of a label that shows a value: the name of the value. Screen readers say the name and the value,
-// but an accessible name would replace the value.
+// The dynamic property that names the value which a label shows. Screen readers say the name and then the value; an
+// accessible name would replace the value.
 inline constexpr char kValueName[] = "valueName";
-// Activates kValueName and names groups of options by the label above. Call before the first such label is created.
+// Makes kValueName work, and presents a frame that is a label's buddy as a group with this name. Call before the first
+// such label is created.
 void InstallLabelFaces();
 
 // Lets screen readers say a text. Does nothing if no screen reader runs.

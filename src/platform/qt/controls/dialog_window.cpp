@@ -31,7 +31,8 @@
 namespace pelmar {
 namespace {
 
-// Moves a horizontal scroll bar by the Left or Right key, since Qt moves the bar the wrong way. False for other keys.
+// Moves a horizontal scroll bar by the Left or Right key; Qt would move the bar the wrong way. False for other keys and
+// for vertical bars.
 bool MoveByArrow(QScrollBar& bar, int key) {
   if (bar.orientation() != Qt::Horizontal || (key != Qt::Key_Left && key != Qt::Key_Right)) return false;
   bar.triggerAction(key == Qt::Key_Left ? QAbstractSlider::SliderSingleStepSub : QAbstractSlider::SliderSingleStepAdd);
@@ -61,7 +62,7 @@ bool IsAltCharacter(const QKeyEvent& event) {
   return event.modifiers() == Qt::AltModifier && !event.text().isEmpty() && event.text().front().isPrint();
 }
 
-// Lets the Tab key enter a group at the checked option. Qt does so only after the person has used the group.
+// Lets the Tab key enter a group of radio buttons at the checked one. Qt does so only once the group was used.
 void GatherTabStops(QRadioButton& option) {
   for (auto* other : option.parentWidget()->findChildren<QRadioButton*>(Qt::FindDirectChildrenOnly))
     if (other->group() == option.group()) other->setFocusPolicy(other == &option ? Qt::StrongFocus : Qt::ClickFocus);
@@ -87,8 +88,8 @@ QList<QWidget*> FieldsInOrder(QWidget& window) {
   return fields;
 }
 
-// Whether the widget is on a page of tabs. There the person fills in the same fields for one row or cell after another,
-// and other pages have more fields.
+// Whether the widget is on a tab page. There Enter in the last field goes to the first field and doesn't press the
+// default button: the person fills in the same fields for the next row or cell, or goes on to another page.
 bool LiesBehindTabs(const QWidget* widget) {
   while (widget != nullptr && !qobject_cast<const QStackedWidget*>(widget)) widget = widget->parentWidget();
   return widget != nullptr;
@@ -174,7 +175,7 @@ bool DialogWindow::GoToNextField() {
   if (property("defaultFromFields").toBool()) return false;
   const QList<QWidget*> fields = FieldsInOrder(*this);
   const auto at = fields.indexOf(focusWidget());
-  // Enter in a scroll bar on a page of tabs goes to the next control.
+  // Enter in a scroll bar on a tab page goes to the next control.
   if (at < 0 && LiesBehindTabs(focusWidget()) && qobject_cast<QScrollBar*>(focusWidget())) {
     focusNextChild();
     return true;
@@ -201,7 +202,7 @@ void DialogWindow::showEvent(QShowEvent* event) {
 void DialogWindow::BeginInFirstField() {
   if (!first_field_ || !first_field_->isEnabled()) return;
   first_field_->setFocus(Qt::TabFocusReason);
-  // A window that isn't active yet gets the focus later for another reason, which selects no text.
+  // If the window isn't active yet, the field gets the focus later and not as by Tab, so Qt selects no text.
   SelectText(*first_field_);
 }
 
@@ -222,13 +223,13 @@ void DialogWindow::Prepare() {
     connect(option, &QRadioButton::toggled, this, gather);
     gather();
   }
-  // A dialog under the notes window, which stays on top, comes above the notes window when used.
+  // The notes window may stay on top. A dialog that gets the focus then stays on top too, until no such window is left.
   connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* now) {
     if (isVisible() && (now == windowHandle() || !HasWindowOnTop())) PutAboveAll(*this);
   });
   // The default button is drawn as default only while no other button takes Enter.
   connect(qApp, &QApplication::focusChanged, this, [this] {
-    if (!isVisible()) return;  // includes destruction
+    if (!isVisible()) return;  // also while the dialog is destroyed
     for (QPushButton* button : findChildren<QPushButton*>())
       if (button->isDefault()) button->update();
   });

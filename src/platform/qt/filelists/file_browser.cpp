@@ -38,7 +38,7 @@ void LinkFileBrowser(DriveList* place, FolderList* folders, FileList* files, QCo
   files->SetPath(folders->Path());
   if (!mask) return;
   mask->setCompleter(nullptr);  // a completer would turn a typed "*.h" into "*.htm"
-  // The arrow keys start from the displayed mask.
+  // Makes the row of the displayed mask current, so that the arrow keys start there.
   if (const int row = mask->findText(mask->currentText()); row >= 0) mask->setCurrentIndex(row);
   QObject::connect(mask, &QComboBox::currentTextChanged, files, &FileList::SetPattern);
   files->SetPattern(mask->currentText());
