@@ -25,13 +25,13 @@ void PreferX11() {
     qputenv("QT_QPA_PLATFORM", "xcb;wayland");
 }
 
-// Without a display the toolkit would abort with an English message.
+// Without a display Qt would abort with an English message.
 bool HasDisplay() {
   return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
          qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
 }
 
-// While the toolkit looks for a display, replaces its fatal English message by a Czech one and ends the program.
+// While Qt looks for a display, replaces its fatal English message by a Czech one and ends the program.
 void EndWithoutDisplay(QtMsgType type, const QMessageLogContext& context, const QString& text) {
   if (type != QtFatalMsg) {
     std::fputs(qPrintable(qFormatLogMessage(type, context, text) + u'\n'), stderr);
@@ -65,9 +65,9 @@ int main(int argc, char** argv) {
   PreferX11();
   QStringList arguments;
   for (int i = 1; i < argc; ++i) arguments.append(pelmar::PathToQString(argv[i]));
-  // The toolkit must not interpret the program's arguments.
+  // Qt must not interpret the program's arguments.
   int own_argc = 1;
-  // The toolkit would look for a native menu bar on the session bus and might have to start the bus first.
+  // Qt would look for a native menu bar on the session bus and might have to start the bus first.
   pelmar::Application::setAttribute(Qt::AA_DontUseNativeMenuBar);
   const QtMessageHandler usual = qInstallMessageHandler(EndWithoutDisplay);
   pelmar::Application application(own_argc, argv);

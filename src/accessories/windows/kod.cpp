@@ -37,7 +37,7 @@ Kod::Kod(TextBuffer& buffer, std::function<void(const QKeyEvent&)> stroke_main, 
     : FormDialog(parent), buffer_(buffer), stroke_main_(std::move(stroke_main)) {
   // The form's cells fit letters of 10 points.
   ui_->Picture1->setMinimumSize(ui_->Picture1->minimumSize() * (ui_->Picture1->font().pointSizeF() / 10));
-  ui_->Combo1->setCompleter(nullptr);  // the toolkit would complete a typed "Courier" to "Courier New"
+  ui_->Combo1->setCompleter(nullptr);  // Qt would complete a typed "Courier" to "Courier New"
   connect(ui_->Combo1, &QComboBox::currentTextChanged, this, &Kod::Combo1_Change);
   connect(ui_->HScroll1, &QScrollBar::valueChanged, this, &Kod::HScroll1_Change);
   connect(ui_->Command3, &QPushButton::clicked, this, &Kod::Command3_Click);

@@ -74,7 +74,7 @@ void Prev::ShowRoman(std::int32_t number) {
   });
   if (!roman) return;
   roman_ = std::move(*roman);
-  // A line of a million letters would take the toolkit half a second at each paint.
+  // A line of a million letters would take Qt half a second at each paint.
   ui_->Label8->setText(roman_.size() <= kLongestShown
                            ? Utf8ToQString(roman_)
                            : QChar(0x2026) + Utf8ToQString(roman_.substr(roman_.size() - kLongestShown + 1)));

@@ -114,7 +114,7 @@ void FrmBrowser::ConnectToolBar() {
 
 void FrmBrowser::ConnectAddress() {
   QLineEdit* line = ui_->cboAddress->lineEdit();
-  // The toolkit would complete typed text, and load an entry of the list when the box loses focus.
+  // Qt would complete typed text, and load an entry of the list when the box loses focus.
   ui_->cboAddress->setCompleter(nullptr);
   disconnect(line, &QLineEdit::editingFinished, ui_->cboAddress, nullptr);
   ui_->cboAddress->installEventFilter(this);
@@ -261,7 +261,7 @@ void FrmBrowser::Close_Click() {
 }
 
 void FrmBrowser::closeEvent(QCloseEvent* event) {
-  // The toolkit hides the window after accept().
+  // Qt hides the window after accept().
   if (!end_program_) {
     view_->EndIfStuck();
     return event->accept();

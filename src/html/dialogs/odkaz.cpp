@@ -7,7 +7,7 @@
 namespace pelmar {
 
 Odkaz::Odkaz(TextBuffer& buffer, QWidget* parent) : FragmentDialog(buffer, parent) {
-  AcceptFreeText(ui_->Combo1);  // the toolkit would complete a typed "Kotva1" to "Kotva10"
+  AcceptFreeText(ui_->Combo1);  // Qt would complete a typed "Kotva1" to "Kotva10"
 }
 
 void Odkaz::AddAnchor(const QString& name) {

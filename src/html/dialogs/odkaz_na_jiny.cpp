@@ -12,7 +12,7 @@ OdkazNaJiny::OdkazNaJiny(TextBuffer& buffer, std::function<void(const std::strin
   choice_.Link(std::move(show_in_browser));
   EnableWith(ui_->Check1, {ui_->Text2});
   EnableWith(ui_->Check3, {ui_->Combo2});
-  AcceptFreeText(ui_->Combo2);  // the toolkit would complete the name "_s" of a frame to "_self"
+  AcceptFreeText(ui_->Combo2);  // Qt would complete the name "_s" of a frame to "_self"
   connect(ui_->Option1, &QRadioButton::toggled, this, &OdkazNaJiny::Option_Click);
   // A click on an option that is already set counts too.
   connect(ui_->Option1, &QRadioButton::clicked, this, &OdkazNaJiny::Option_Click);

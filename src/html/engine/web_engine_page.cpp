@@ -42,7 +42,7 @@ bool MayBeFramed(const QUrl& address) {
   return MayBeShown(address) || address.scheme() == QLatin1String("about") || address.scheme() == QLatin1String("blob");
 }
 
-// The access key toggles this box at once. The toolkit's box waits a moment, and Enter may come sooner.
+// The access key toggles this box at once. Qt's box waits a moment, and Enter may come sooner.
 class SilenceBox : public QCheckBox {
  public:
   SilenceBox() : QCheckBox(QStringLiteral("&Další zprávy této stránky neukazovat")) {}

@@ -11,7 +11,7 @@ namespace {
 
 constexpr char kAway[] = "PelmarAway";
 
-// Describes a hidden window to assistive technology by its title alone. The toolkit would list all its content.
+// Describes a hidden window to assistive technology by its title alone. Qt would list all its content.
 class EmptyWindow : public QAccessibleObject {
  public:
   using QAccessibleObject::QAccessibleObject;
@@ -35,7 +35,7 @@ QAccessibleInterface* MakeEmptyWindow(const QString&, QObject* object) {
   return object->isWidgetType() && object->property(kAway).toBool() ? new EmptyWindow(object) : nullptr;
 }
 
-// Deletes the toolkit's cached descriptions of a window, so that assistive technology gets new ones.
+// Deletes Qt's cached descriptions of a window, so that assistive technology gets new ones.
 void ForgetFaces(QWidget& window) {
   QList<QWidget*> widgets = window.findChildren<QWidget*>();
   widgets.append(&window);

@@ -89,7 +89,7 @@ void MainToolbar::Arrange(const QList<QAction*>& order) {
   }
 }
 
-// The toolkit's buttons react only to the space bar, so the other keys are handled here.
+// Qt's buttons react only to the space bar, so the other keys are handled here.
 bool MainToolbar::TakesKey(QWidget& receiver, const QKeyEvent& press) {
   auto* button = qobject_cast<QToolButton*>(&receiver);
   if (button == nullptr) return false;

@@ -13,7 +13,7 @@
 namespace pelmar {
 namespace {
 
-// Parses "Ctrl+X", "Ctrl+F4" or "F1". The toolkit's parser would load the key names of every language.
+// Parses "Ctrl+X", "Ctrl+F4" or "F1". Qt's parser would load the key names of every language.
 QKeyCombination KeysOf(std::string_view shortcut) {
   constexpr std::string_view kControl = "Ctrl+";
   const bool control = shortcut.starts_with(kControl);
@@ -162,7 +162,7 @@ bool MenuBar::eventFilter(QObject* watched, QEvent* event) {
   if (menu == nullptr || (!press && event->type() != QEvent::KeyRelease)) return QMenuBar::eventFilter(watched, event);
   const auto& key = static_cast<QKeyEvent&>(*event);
   if (key.key() != Qt::Key_Alt) return press && KeyInMenu(*menu, key);
-  // The toolkit would close the menu on the press of Alt, so Alt+T could never open the second menu with the key T.
+  // Qt would close the menu on the press of Alt, so Alt+T could never open the second menu with the key T.
   if (!press && alt_alone_) CloseMenus();
   alt_alone_ = press;
   return true;
