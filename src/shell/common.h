@@ -16,7 +16,7 @@ inline constexpr std::string_view kQuote = "\"";
 // Removes the diacritics of Czech letters. Letters of other languages stay.
 std::string StripDiacritics(std::string_view text);
 
-// Sets each character to upper or lower case at random, with one draw for each.
+// Sets each character to upper or lower case at random. Draws one number for each character.
 std::string RandomCase(std::string_view text, const Draw& draw);
 
 // Replaces each exact occurrence of `find`, which is not empty, from the left. required: the search goes on at the

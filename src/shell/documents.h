@@ -1,6 +1,7 @@
-// The five documents, which share one text box. required: the four places that hold a document's state may disagree.
-// The box holds the current text, `current path` its path, a tab's tool tip the path restored by a switch to the tab,
-// and the title's "*" the mark for unsaved changes. Tabs count from 1. Texts are Windows-1250, all other strings UTF-8.
+// The five documents, which share one text box. required: the state of a document lies in four places, which may
+// disagree. The box holds the current text. `current path` holds its path. The tool tip of a tab holds the path that a
+// switch to the tab restores. The "*" in the title marks unsaved changes. Tabs count from 1. Texts are Windows-1250,
+// all other strings UTF-8.
 #pragma once
 
 #include <array>
@@ -53,7 +54,7 @@ class Documents {
   [[nodiscard]] bool Marked() const { return title_.marked; }
   [[nodiscard]] TextBuffer& Buffer() { return buffer_; }
   [[nodiscard]] const TextBuffer& Buffer() const { return buffer_; }
-  // The remembered file. Null if the current document no longer has its path, as after clearing the tab.
+  // The file given to Remember. Null if the current document now has another path or none, as after clearing the tab.
   [[nodiscard]] const KnownFile* CurrentFile() const;
   [[nodiscard]] SaveTarget& Target() { return target_; }
 
@@ -79,7 +80,7 @@ class Documents {
   // Makes the path the file of the current document and counts the text as saved. A name without an extension throws
   // RuntimeError after the current path has been set; nothing else of the document changes then.
   void MakeCurrent(const std::string& path);
-  // First loads the text of an opened file, then does the same. The text is loaded even if the name throws.
+  // Loads the text of an opened file and then calls MakeCurrent(path). If that throws, the text stays loaded.
   void MakeCurrent(const std::string& path, std::string text);
 
   Listeners<> title_changed;

@@ -1,6 +1,7 @@
-// File number 1, which the whole program shares. Operations on documents and on the program's own files use the number,
-// one at a time. required: if an error interrupts the opening of a document, the number stays in use, and every later
-// operation fails until the program is restarted. The rescue and the conversions of files don't use the number.
+// File number 1 is a lock that the whole program shares. An operation on a document or on the program's own files holds
+// the number, so only one runs at a time. required: if an error interrupts the opening of a document, the number stays
+// in use, and every later operation fails until the program is restarted. The rescue and the conversions of files don't
+// use the number.
 #pragma once
 
 #include <cerrno>

@@ -21,11 +21,11 @@ struct FixedInsert {
 // The commands keep references to `inserts`.
 void AddFixedInserts(Editor& editor, std::span<const FixedInsert> inserts);
 
-// "11-24-2026" and "09:05:00", in any regional format of the system.
+// "11-24-2026" and "09:05:00". The regional settings of the system change nothing.
 std::string DateText(const LocalTime& time);
 std::string TimeText(const LocalTime& time);
 
-// "name" <address>
+// The person's name and e-mail address: "name" <address>.
 std::string EmailText(const SettingsRecord& settings);
 
 void AddInsertCommands(Editor& editor);

@@ -1,4 +1,5 @@
-// The content that the rescue protects, documents or notes: collects unsaved texts and brings them back after a crash.
+// What a rescue file protects: the documents or the notes. Collects the unsaved texts, and brings them back after a
+// crash.
 #pragma once
 
 #include <string>
@@ -35,7 +36,7 @@ class RescueContent {
   [[nodiscard]] virtual std::string Readable(const std::vector<RescuedText>& texts) const = 0;
   // True if the text needn't come back because the program already has it.
   [[nodiscard]] virtual bool IsHere(const RescuedText&) const { return false; }
-  // Returns the texts for which there was no place.
+  // Puts the texts into the program. Returns those for which there was no place.
   virtual std::vector<RescuedText> BringBack(const std::vector<RescueRecord>& records) = 0;
 };
 

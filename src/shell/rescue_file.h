@@ -10,7 +10,7 @@
 
 namespace pelmar {
 
-// The kind of the texts. The file name begins with the prefix. No prefix begins with another one.
+// The kind of the texts. The file name begins with the prefix. No kind's prefix is the start of another's.
 struct RescueKind {
   std::string_view prefix;
   std::string_view signature;
@@ -32,7 +32,7 @@ struct RescueRecord {
   bool operator==(const RescueRecord&) const = default;
 };
 
-// "" if there is no text to keep.
+// The content of a rescue file, "" if there is no text to keep.
 std::string RescueBytes(const RescueKind& kind, const RescueRecord& record);
 
 // Nothing if RescueBytes didn't write these bytes or they are incomplete. Never allocates more than the bytes' size.

@@ -1,5 +1,5 @@
-// Rescue files in the install folder. Each running copy of the program has one file for documents and one for notes,
-// and locks both, so that no other copy takes a file for abandoned. Writes are atomic. Call from one thread at a time.
+// Rescue files in the install folder. Each running copy of the program has one file for documents and one for notes. It
+// locks both, which tells other copies that the files are in use. Writes are atomic. Call from one thread at a time.
 #pragma once
 
 #include <functional>

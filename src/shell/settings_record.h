@@ -12,7 +12,7 @@
 
 namespace pelmar {
 
-// A window nearer than this to an edge of the screen snaps to it, unless the person has set another distance. Twips.
+// In twips. A window nearer than this to an edge of the screen snaps to the edge. The person can set another distance.
 inline constexpr std::int32_t kDefaultAutosnapDistance = 240;
 
 // The fields of SettingsRecord, DocSlot and TabFace keep the names of the stored format and of the tabs' properties, so

@@ -1,4 +1,4 @@
-// Answers the two command-line switches that every Linux program has and that need no window.
+// Answers the switches `--help` and `--version`, which need no window.
 #pragma once
 
 #include <optional>
@@ -7,8 +7,8 @@
 
 namespace pelmar {
 
-// The text to print if the only argument after the program's name is one of the two switches, UTF-8; otherwise nothing.
-// After the text the program ends.
+// The text to print, UTF-8, if the only argument after the program's name is one of the two switches and no file has
+// this name. Otherwise nothing. After the text the program ends.
 std::optional<std::string_view> TerminalAnswer(std::span<char* const> arguments);
 
 }  // namespace pelmar

@@ -1,5 +1,5 @@
-// The parts from which all subsystems make their windows and commands. Each subsystem registers its own in a function
-// of its windows folder. The parts outlive every window.
+// The parts from which all subsystems make their windows and commands. The functions Add...Windows below register them;
+// each lies in its subsystem's folder of windows. The parts outlive every window.
 #pragma once
 
 #include <functional>
@@ -57,8 +57,8 @@ struct ProgramParts {
   [[nodiscard]] std::function<void(const std::string& path)> BrowserDoor() const;
   [[nodiscard]] std::function<Color(Color)> ColorDoor() const;
 
-  // Registers the window, and commands with these names that show it. The window is made from copies of `with` and the
-  // main window as its parent. Use std::ref for an argument that must not be copied.
+  // Registers the window, and commands with these names that show it. The window's constructor gets copies of `with`,
+  // then the main window as parent. Use std::ref for an argument that must not be copied.
   template <class Window, class... With>
   void Add(std::initializer_list<std::string_view> names, With... with) const {
     windows.Register<Window>(
@@ -84,7 +84,7 @@ struct ProgramParts {
   void AddFilePicker(std::type_index window) const;
 };
 
-// Each subsystem's function that registers its windows and commands. Program calls them all.
+// Each function registers windows and commands of one subsystem. Program calls them all.
 void AddShellWindows(const ProgramParts& parts);
 void AddFileWindows(const ProgramParts& parts);
 void AddTextWindows(const ProgramParts& parts);

@@ -37,7 +37,7 @@ void RescueKeeper::KeepSoon() {
   if (!timer_.isActive() || timer_.remainingTime() > kDelay) timer_.start(kDelay);
 }
 
-// Nothing if there isn't enough memory.
+// The unsaved texts, or nothing if there isn't enough memory.
 std::optional<RescueRecord> RescueKeeper::CopyUnsaved() const {
   try {
     return content_.Unsaved();
@@ -49,7 +49,7 @@ std::optional<RescueRecord> RescueKeeper::CopyUnsaved() const {
 void RescueKeeper::WriteInThread() {
   // Waits for the running write on a slow disk. The next write takes the latest text.
   if (writer_.activeThreadCount() > 0) return timer_.start(kDelay);
-  // This copy is the only work in the user interface's thread.
+  // The interface thread only copies the texts; the rest is done in the other thread.
   auto now = CopyUnsaved();
   if (!now) return AfterWrite(ENOMEM);
   writer_.start([this, write = ++writes_, record = std::move(*now)]() mutable {

@@ -1,5 +1,5 @@
 // `Timer1` of the main window. Every 500 ms the timer snaps windows to the screen edges. While the main window is
-// active, the timer also enables the menu items and updates the panels of the status bar; nothing else updates them.
+// active, the timer also enables the menu items and updates the panels of the status bar. Only the timer does so.
 #pragma once
 
 #include <QTimer>
@@ -28,14 +28,14 @@ class StatusTimer : public QTimer {
   void Tick();
 
  private:
-  // The input of the texts in panels 1 to 3.
+  // The texts of panels 1 to 3 depend on these values.
   struct TextState {
     std::uint64_t text = 0;
     std::size_t start = 0, end = 0;
     bool line_counting = false;
     bool operator==(const TextState&) const = default;
   };
-  // The input of the text in panel 4.
+  // The text of panel 4 depends on these values.
   struct ContentState {
     TextState selected;  // default values if nothing is selected
     std::uint64_t clipboard = 0;

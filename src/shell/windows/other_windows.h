@@ -1,4 +1,4 @@
-// Hides the program's other windows from the screen and from assistive technology during its own lifetime.
+// An object that hides the program's other windows, on the screen and from assistive technology, while it exists.
 #pragma once
 
 #include <QObject>
@@ -8,7 +8,7 @@
 
 namespace pelmar {
 
-// The windows get no events, so they return unchanged. A window destroyed in between isn't shown again.
+// The windows get no hide and show events, so they come back unchanged.
 class OtherWindowsAway : public QObject {
  public:
   // Hides every visible window except `staying`.

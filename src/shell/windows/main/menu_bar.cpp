@@ -50,7 +50,7 @@ QAction* NextByInitial(const QMenu& menu, QChar letter) {
   return found == items.end() ? nullptr : *found;
 }
 
-// Activates the item by Down keys. QMenu::setActiveAction would open a submenu.
+// Sends Down keys to the menu until the item is active. QMenu::setActiveAction would open a submenu.
 void GoTo(QMenu& menu, const QAction* item) {
   QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
   for (auto left = menu.actions().size(); left > 0 && menu.activeAction() != item; --left)

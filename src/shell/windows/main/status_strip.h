@@ -38,7 +38,7 @@ class StatusPanel : public ElidedLabel {
   std::string content_;
 };
 
-// The reasons of warnings, the most serious first. The first two are warnings, the others only hints.
+// What the status bar warns about, the most serious first. The first two are warnings, the others are mere hints.
 enum class Warning {
   kUnkept,          // unsaved work can't be kept in a rescue file
   kFilesStuck,      // no file can be opened or saved
@@ -57,7 +57,7 @@ class StatusStrip : public QStatusBar {
   [[nodiscard]] StatusPanel* Panel(int number) const { return panels_[IndexFromOne(number)]; }
   void Show(const PanelTexts& texts);
   void ShowContent(const std::string& text);
-  // Clears panels 1 to 4 until the next Show, because they may show a part of the text.
+  // Clears panels 1 to 4 until the next Show. For a closed lock, since panel 4 may show a part of the text.
   void Clear();
   [[nodiscard]] bool Cleared() const { return cleared_; }
   void Show(const KeyStates& keys);
