@@ -9,8 +9,8 @@
 
 namespace pelmar {
 
-// The pattern of names that match one of the masks, which stand between ";". A mask has "*" and "?" and ignores case.
-// "*.*" and an empty mask match every name.
+// The pattern for the names that match a mask. `mask` may hold several masks, separated by ";". A mask has "*" and "?"
+// and ignores case. "*.*" and an empty mask match every name.
 QRegularExpression MaskPattern(const QString& mask);
 
 // Whether the folder can be listed and entered.

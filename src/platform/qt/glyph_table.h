@@ -31,7 +31,8 @@ class GlyphTable {
   // count from the beginning of the row. `origin` is the upper left corner of the row.
   void Draw(QPainter& painter, QPointF origin, std::int64_t x, std::string_view text, const QColor& colour) const;
 
-  // For a single character. A TAB is shown as a sign too. The width is in pixels; `at` is the upper left corner.
+  // Measure and draw a single character outside a row. Here a TAB is shown as a sign too. The width is in pixels; `at`
+  // is the upper left corner.
   [[nodiscard]] qreal WidthAlone(char ch) const;
   void DrawAlone(QPainter& painter, QPointF at, char ch, const QColor& colour) const;
 
@@ -68,7 +69,8 @@ class GlyphTable {
 bool IsControlSign(unsigned char code);
 // The name of a control character, TAB included: "CR", "DEL", or the code in hexadecimal.
 QString SignName(unsigned char code);
-// A text for labels and lists. Names replace control characters, TAB included, which break lines or are invisible.
+// The text for a label or a list. Control characters, TAB included, are replaced by their names; otherwise they would
+// break lines or be invisible.
 QString ReadableText(std::string_view text);
 
 }  // namespace pelmar

@@ -10,9 +10,9 @@ class QKeyEvent;
 
 namespace pelmar {
 
-// The order in which takers are asked, until one of them takes the key. Before, Qt runs shortcuts, and the router stops
-// a held Enter or Delete. A key that no taker takes goes to the focused widget. A key that this widget ignores goes to
-// its parents, up to the window. In this way Enter in a field reaches its dialog.
+// The order in which takers are asked, until one of them takes the key. Qt has run shortcuts before, and the router has
+// dropped repeats of Enter and Delete (see HoldsBack). A key that no taker takes goes to the focused widget. A key that
+// this widget ignores goes to its parents, up to the window. In this way an Enter in a field reaches the dialog.
 enum class KeyTurn {
   kTabs,    // the physical number keys select a tab
   kMenu,    // keys of menu items that are still disabled

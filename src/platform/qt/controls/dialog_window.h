@@ -1,6 +1,6 @@
-// The base of the program's own dialogs. A dialog is modeless unless executed. Closing only hides a dialog, so its
+// The base of the program's own dialogs. A dialog is modeless unless exec runs it. Closing only hides a dialog, so its
 // fields keep their contents. Each opening starts in the same field, with its text selected. The first opening is in
-// the centre of the screen. On a small screen the contents scroll and the ending buttons stay visible.
+// the centre of the screen. On a small screen the contents scroll, and the buttons that close the dialog stay visible.
 #pragma once
 
 #include <QDialog>
@@ -40,7 +40,8 @@ class DialogWindow : public QDialog {
   // The mouse wheel changes only a focused combo box or scroll bar, so that nobody changes a value by accident.
   bool eventFilter(QObject* watched, QEvent* event) override;
   // Enter presses the focused button. In a field Enter goes to the next field, so that no half-filled dialog writes
-  // into the text. In the last field, outside fields and with `defaultFromFields` Enter presses the default button.
+  // into the text. In the last field, outside fields and with `defaultFromFields` Enter presses the default button. On
+  // a tab page the last field is followed by the first one.
   void keyPressEvent(QKeyEvent* event) override;
   void showEvent(QShowEvent* event) override;
 

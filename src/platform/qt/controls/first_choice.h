@@ -1,4 +1,4 @@
-// The first use of the arrow keys in a list without a selection.
+// The first press of an arrow key in a list without a selection.
 #pragma once
 
 class QAbstractItemView;

@@ -1,5 +1,5 @@
-// A line edit with visible control characters. Qt shows them as blanks; this class draws a sign over each blank and
-// names them in the tool tip. The text itself is unchanged.
+// A line edit with visible control characters. Qt shows them as blanks. This class draws a sign over each of these
+// blanks, and the tool tip names the characters. The text itself is unchanged.
 #pragma once
 
 #include "platform/qt/controls/field.h"

@@ -15,7 +15,7 @@ inline constexpr char kBytesMimeType[] = "application/x-pelmar-windows-1250";
 // The caller owns the result. The plain text is made only if another program asks for the text.
 QMimeData* MimeFromText(std::string_view bytes);
 
-// The exact bytes if offered, otherwise the plain text by PageText. Nothing if `mime` is null or has no text.
+// The exact bytes if offered, otherwise the plain text converted by PageText. Nothing if `mime` is null or has no text.
 std::optional<std::string> TextFromMime(const QMimeData* mime);
 
 // The text for a single-line field, not converted to Windows-1250. Line breaks are removed unless `holds_lines`.

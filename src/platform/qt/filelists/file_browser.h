@@ -28,7 +28,7 @@ FolderBrowser FolderBrowserOf(const QWidget& dialog);
 // process with the focus on the files: on the list of places the arrow key Down would change the folder.
 void LinkFileBrowser(DriveList* place, FolderList* folders, FileList* files, QComboBox* mask = nullptr);
 
-// The same for a dialog without files. The focus starts on the folders.
+// Does the same for a dialog that has no list of files. The focus starts on the folders.
 void LinkFolderBrowser(DriveList* place, FolderList* folders);
 
 // ShowPath shows a path in a label. PathOn returns this path without loss, or the text of the label if it has changed.

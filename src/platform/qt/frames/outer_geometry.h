@@ -17,7 +17,7 @@ TwipsRect OuterGeometry(const QWidget& window);
 void SetOuterPosition(QWidget& window, int left, int top);
 void SetOuterWidth(QWidget& window, int twips);
 void SetOuterHeight(QWidget& window, int twips);
-// Sets the whole place. Values that are equal already are not set.
+// Sets the size and the position. Skips values that are already right.
 void SetOuterPlace(QWidget& window, const TwipsRect& place);
 
 // The screen of the window, panels included, in the coordinates of the desktop.
@@ -26,7 +26,7 @@ TwipsRect ScreenTwips(const QWidget& window);
 TwipsRect ScreenTwips(const TwipsRect& place);
 // The size of the screen without panels and without a usual frame, in logical pixels. For windows never shown before.
 QSize RoomOnScreen(const QWidget& window);
-// Moves a window that covers `place` (in logical pixels on the desktop) to a free place beside, if there is one.
+// If the window covers `place` (in logical pixels on the desktop), moves it to a free place beside that, if any.
 void MoveAside(QWidget& window, const QRect& place);
 
 // The width of a window that shows its whole title and the buttons of the frame, in logical pixels.

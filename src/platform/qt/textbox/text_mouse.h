@@ -26,7 +26,8 @@ class TextMouse : public QObject {
   void timerEvent(QTimerEvent* event) override;
 
  private:
-  // kTapping: a finger scrolls. A finger that is lifted where it came down sets the caret.
+  // kTapping: a finger touches the box. If it moves, the text scrolls. If it is lifted where it came down, the caret is
+  // set there.
   enum class State : std::uint8_t { kIdle, kSelecting, kMayDrag, kTapping };
   enum class Unit : std::uint8_t { kChar, kWord, kLine };
 

@@ -19,7 +19,7 @@ namespace pelmar {
 class TextView {
  public:
   static constexpr int kMargin = 4;
-  // How many pixels letters may extend into neighbouring rows. Accents do, and any letter at a fractional scale.
+  // How many pixels a letter may extend into neighbouring rows: accents do, and at a fractional scale any letter.
   static constexpr int kOverhang = 2;
 
   // `window_width` is called for each full layout. SetWindowWidth reports changes in between.
