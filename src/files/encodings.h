@@ -12,14 +12,14 @@
 
 namespace pelmar {
 
-// The hint shown for an opened text in UTF-8, or with LF line ends. UTF-8; "" for any other text.
+// The hint for an opened text that is in UTF-8 or has LF line ends, "" for any other text. The hint itself is UTF-8.
 std::string_view FormatHint(std::string_view bytes);
 // The hint for a text that was read from a UTF-8 file and has since got letters in Windows-1250.
 std::string_view MixHint();
 // The question before such a mixed text is written over the UTF-8 file at `path`.
 std::string MixQuestion(const std::string& path);
 
-// A position in a file; numbers count from 1. CR LF, CR and LF end a line. A byte order mark is no column.
+// A position in a file; all three numbers count from 1. CR LF, CR and LF end a line. A byte order mark has no column.
 struct FilePlace {
   std::uint64_t byte = 1, line = 1, column = 1;
 };
@@ -77,8 +77,9 @@ class PageToUtf8 : public FileRewriter {
 // Replaces the extension of the file name. A name without an extension, such as ".profile", gets one appended.
 std::string PathBeside(std::string_view path, std::string_view extension);
 
-// Reports failures, and a target that is the source file. Asks before an existing target is overwritten.
-void ConvertToPage(Platform& platform, const std::string& path);                        // "1250"
-void ConvertToUtf8(Platform& platform, const std::string& path, bool byte_order_mark);  // "utf8"
+// Convert a file into a new one with the extension "1250" or "utf8". Report failures, and a target that is the source
+// file. Ask before an existing target is overwritten.
+void ConvertToPage(Platform& platform, const std::string& path);
+void ConvertToUtf8(Platform& platform, const std::string& path, bool byte_order_mark);
 
 }  // namespace pelmar

@@ -23,7 +23,7 @@ void Convert(Platform& platform, const std::string& path, std::string_view exten
 
 }  // namespace
 
-// The loop has no branch for a single character, so a file of line ends alone is as fast as any other.
+// The loop has no branches, so a file that consists only of line ends is converted as fast as any other.
 std::string_view ToLineFeeds::Rewrite(std::string_view piece) {
   if (out_.size() < piece.size()) out_.resize(piece.size());
   char* to = out_.data();

@@ -24,7 +24,7 @@ class ToLineFeeds : public FileRewriter {
   bool in_line_ = false;   // the last line has no end yet
 };
 
-// Each LF becomes CR LF, also in CR LF, which becomes CR CR LF. required: text after the last LF is lost.
+// Writes a CR before each LF, even after a CR: CR LF becomes CR CR LF. required: text after the last LF is lost.
 class ToCrLf : public FileRewriter {
  public:
   std::string_view Rewrite(std::string_view piece) override;
@@ -47,8 +47,9 @@ bool IsOwnSource(Platform& platform, const std::string& path, const std::string&
 // path without "." gives the bare extension, a file in the current folder.
 std::string ConvertedPath(std::string_view path, std::string_view extension);
 
-// Both throw RuntimeError if a file fails. A target that is the source file is reported and isn't written.
-void ConvertToUnix(Platform& platform, const std::string& path);  // "unx"; required: a longer old target keeps its tail
-void ConvertToDos(Platform& platform, const std::string& path);   // "dos"
+// Convert a file into a new one with the extension "unx" or "dos". Throw RuntimeError if a file fails. A target that is
+// the source file is reported and isn't written.
+void ConvertToUnix(Platform& platform, const std::string& path);  // required: a longer old target keeps its tail
+void ConvertToDos(Platform& platform, const std::string& path);
 
 }  // namespace pelmar

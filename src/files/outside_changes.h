@@ -1,5 +1,5 @@
-// Compares the current document's file with its state when this program opened or saved it. So the status bar can
-// report that another program, or another tab, wrote or removed the file. Nothing is reloaded.
+// Compares the current document's file with its state when this program opened or saved it. The status bar reports if
+// another program, or another tab, wrote or removed the file since. Nothing is reloaded.
 #pragma once
 
 #include <string_view>

@@ -73,7 +73,7 @@ void PutOnPages(const std::vector<PrintedPiece>& pieces, Paper& paper) {
   }
 }
 
-// Nothing if the person closed the question without an answer.
+// The selection or the whole text, or nothing if the person closed the question without an answer.
 std::optional<std::string> TextToPrint(Editor& e) {
   if (!e.text.HasSelection()) return e.text.Text();
   switch (e.platform.Message(MessageType::kYesNoWarning, "Tisknout pouze výběr ?", "Tisk")) {

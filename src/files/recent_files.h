@@ -1,4 +1,5 @@
-// The ten recent files of the toolbar's "Recent" and the settings. Entries count from 1, newest first. Paths are UTF-8.
+// The ten recent files. The toolbar's button "Recent" shows them, and the settings store them. Entries count from 1,
+// newest first. Paths are UTF-8.
 #pragma once
 
 #include <string>
@@ -19,7 +20,7 @@ class RecentFiles {
 
   // Moves a path to the first place, or inserts it there. An empty path changes nothing.
   void PushRecentFile(const std::string& path);
-  // Also adds the path to the recent documents of the desktop.
+  // Does the same, and also adds the path to the recent documents of the desktop.
   void Remember(const std::string& path);
 
   Listeners<> changed;

@@ -16,8 +16,8 @@ class Saver {
  public:
   Saver(Documents& documents, RecentFiles& recent, Platform& platform, FileNumber& file_number);
 
-  // Saves the document and makes the path its file. Asks before it overwrites a file, and writes the text as it is
-  // after the answer. A failure is reported; the steps already done stay done.
+  // Saves the document and makes the path its file. Asks before it overwrites a file. Writes the text that the document
+  // has after the answer. A failure is reported, and the steps done before it stay done.
   void SaveToPath(const std::string& path);
 
   // Writes the text to a file and leaves the document unchanged.
@@ -36,7 +36,8 @@ class Saver {
   void InsertFromFile();
 
  private:
-  // Asks before a text in two encodings is written over a UTF-8 file. Asks once for each file.
+  // Asks before a text in two encodings is written over a UTF-8 file. After Yes, asks about this file again only after
+  // a successful save.
   bool MayMixEncodings(const std::string& path);
   bool MayWrite(const std::string& path);
   WriteOutcome Write(const std::string& path, std::string_view text);

@@ -21,8 +21,9 @@ QString TooLong(std::size_t size) {
 
 }  // namespace
 
-// The disk is checked when the main window gains or loses the keyboard focus, so never while the person types. A
-// question takes the focus too. A file that this program opened or saved counts as unchanged.
+// Looks at the file on disk when a tab is selected, and when the main window gains or loses the keyboard focus: never
+// while the person types. A question takes the focus too. A file counts as unchanged once this program has opened or
+// saved it.
 FileWarnings::FileWarnings(MainWindow& window, Editor& editor)
     : QObject(&window),
       window_(window),
@@ -48,7 +49,7 @@ FileWarnings::FileWarnings(MainWindow& window, Editor& editor)
 
 bool FileWarnings::eventFilter(QObject* watched, QEvent* event) {
   const bool turns = event->type() == QEvent::WindowActivate || event->type() == QEvent::WindowDeactivate;
-  // A window that is being destroyed also loses the keyboard, and is no main window any more.
+  // A window that is being destroyed loses the focus too, but then it is no MainWindow any more.
   if (turns && qobject_cast<MainWindow*>(watched) != nullptr) {
     CheckDisk();
     WarnOfName();
