@@ -148,6 +148,7 @@ TEST(TextStops, WordsBeginAtLettersAtOtherSignsAndAtLines) {
   EXPECT_EQ(Walked(NextWord, kStopText, 0), (Stops{0, 2, 4, 5, 7, 11, 12, 13, 15}));
   EXPECT_EQ(Walked(PreviousWord, kStopText, 15), (Stops{15, 13, 12, 11, 9, 7, 5, 4, 2, 0}));
   EXPECT_EQ(NextWord("\r\n\na", 1), 2u);
+  EXPECT_EQ(NextWord("a09_Z.", 0), 5u);  // digits and "_" belong to a word
   EXPECT_EQ(PreviousWord("  a", 2), 0u);
 }
 
