@@ -20,6 +20,13 @@ class DocumentTest(EditorCase):
         added = "\r\ntext<B>Tučně</B><CENTER> Centrovaný text </CENTER>@"
         self.assertEqual(path.read_bytes(), BYTES + added.encode("cp1250"))
 
+    def test_enter_in_an_option_accepts_the_dialog_on_every_desktop(self):
+        # GNOME would choose the option.
+        self.start(XDG_CURRENT_DESKTOP="GNOME")
+        self.work("ctrl+h [Html horizontální čára] Return / [Pelmar VEX ()*]")
+        self.end(self.window("Pelmar VEX ()*"))
+        self.assertEqual(self.autosaved(), b"<HR>")
+
     def test_an_unsaved_document_in_another_tab_is_asked_about(self):
         main = self.start()
         self.work('alt+2 "second" [Pelmar VEX ()*] alt+1 [Pelmar VEX ()] ctrl+F4 [Konec] Escape /')

@@ -18,6 +18,7 @@ enum class KeyTurn {
   kMenu,    // keys of menu items that are still disabled
   kField,   // Enter and arrow keys in one field, list or toolbar
   kWindow,  // windows that get all keys: calculator, converter, character table, on-screen keyboard, welcome
+  kDialog,  // Enter in a check box or an option, which some desktops would tick
 };
 
 // Returns true if the taker handles the key, so that nobody else gets the key.

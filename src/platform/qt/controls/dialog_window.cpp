@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLayout>
@@ -113,6 +114,13 @@ DialogWindow::DialogWindow(QWidget* parent) : QDialog(parent) {
   setProperty(kRoomProperty, true);
   KeyRouter::Get().Add(KeyTurn::kField, *this,
                        [this](QWidget& receiver, const QKeyEvent& press) { return TakesKey(receiver, press); });
+  KeyRouter::Get().Add(KeyTurn::kDialog, *this, [this](QWidget& receiver, QKeyEvent& press) {
+    const bool ticks =
+        qobject_cast<QCheckBox*>(&receiver) != nullptr || qobject_cast<QRadioButton*>(&receiver) != nullptr;
+    if (!ticks || !IsPlainEnter(press)) return false;
+    keyPressEvent(&press);
+    return true;
+  });
 }
 
 void DialogWindow::Present() {
