@@ -95,6 +95,16 @@ TEST_F(SessionTest, ImpossibleSettingsAreReplacedByDefaults) {
   EXPECT_EQ(view.state, WindowMode::kNormal);
 }
 
+TEST_F(SessionTest, OnlyThreeStatesOfTheWindowAreKnown) {
+  for (const auto& [stored, applied] : {std::pair{-1, 0}, {0, 0}, {1, 1}, {2, 2}, {3, 0}}) {
+    SettingsRecord r = kStored;
+    r.WindowState = stored;
+    platform.files[kSettings] = SettingsBytes(r);
+    session.Load();
+    EXPECT_EQ(static_cast<int>(view.state), applied) << stored;
+  }
+}
+
 TEST(Session, TheTextComesFromTheRecoveryFileOrTheClipboard) {
   const std::string longest(64000, 'r'), longer(70000, 'c');
   using Text = std::optional<std::string>;

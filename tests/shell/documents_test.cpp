@@ -48,6 +48,15 @@ TEST_F(DocumentsTest, ASwitchKeepsTextPathAndMarkOfTheTabItLeaves) {
   EXPECT_FALSE(text.CanUndo());
 }
 
+TEST_F(DocumentsTest, TheSelectedTabChosenAgainChangesNothing) {
+  documents.MakeCurrent("/a/one.txt", "one");
+  Type("!");
+  const DocumentState before = StateOf(documents);
+  EXPECT_EQ(SwitchTo(1), before);
+  EXPECT_EQ(text.Caret(), 4u);
+  EXPECT_TRUE(text.CanUndo());
+}
+
 TEST_F(DocumentsTest, ATabThatAPersonEmptiedIsNotFree) {
   EXPECT_EQ(documents.EmptyTab(), 2);
   documents.SwitchTo(2);

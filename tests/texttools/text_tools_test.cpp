@@ -26,7 +26,8 @@ TEST(TextTools, EachCommandLeavesItsTextAndCalls) {
       {"mnusmall", "x[ŘEKA|x", "xřeka|x"},
       {"mnubig", "x[řeka|x", "xŘEKA|x"},
       {"mnubig", "a|b", "a|b"},  // nothing selected, nothing said
-      {"mnupropercase", "[ŽLUŤOUČKÝ kůň\tčeká¶na-dvoře. a\vb\fc\0d|"sv, "Žluťoučký Kůň\tČeká¶Na-dvoře. A\vB\fC\0D|"sv},
+      {"mnupropercase", "[ŽLUŤOUČKÝ kůň\tčeká¶na-dvoře. a\vb\fc\0d\re|"sv,
+       "Žluťoučký Kůň\tČeká¶Na-dvoře. A\vB\fC\0D\rE|"sv},
       {"mnuprevrat", "x[ab¶c|x", "xc\n\rba|x"},
       {"mnuHackyCarky", "x[Řeka|x", "xReka|x"},
       {"mnu_untext", "x[řeka|x", "xřeKA|x", "", kOk, 1},
