@@ -118,16 +118,5 @@ TEST_F(AnalyticTest, AScreenReaderReadsTheBarUnderThePointer) {
             QStringLiteral("Poloha: 97 Znak: \"a\", výška 50 %"));
 }
 
-TEST_F(AnalyticTest, KeysMoveOverTheGraph) {
-  QTest::mouseMove(graph, QPoint(130 * graph->width() / 508 + 1, 20));
-  for (const auto& [key, state] : {std::pair(Qt::Key_Right, "Label2='Poloha: 66 Znak: \"B\"'"),
-                                   {Qt::Key_PageDown, "Label2='Poloha: 82 Znak: \"R\"'"},
-                                   {Qt::Key_Left, "Label2='Poloha: 81 Znak: \"Q\"'"},
-                                   {Qt::Key_End, "Label2='Poloha: 254 Znak: \"ţ\"'"}}) {
-    QTest::keyClick(graph, key);
-    ExpectState(dialog, "", state);
-  }
-}
-
 }  // namespace
 }  // namespace pelmar

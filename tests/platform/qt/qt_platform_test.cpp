@@ -218,23 +218,6 @@ TEST(AddBookmark, AddsTheProgramToTheEntryOfTheFileAndLeavesTheRestAsItIs) {
     EXPECT_EQ(Add(ToBytes(before + without + behind)).toStdString(), head + before + with + behind + '\n');
 }
 
-TEST(AddBookmark, CountsInANewListAndUnderAnotherPrefix) {
-  EXPECT_TRUE(Add(Add({})).contains(R"(count="2")"));
-  const QByteArray other =
-      R"(<!DOCTYPE xbel><xbel xmlns:b="http://www.freedesktop.org/standards/desktop-bookmarks">
-<bookmark href="file:///a"><info><metadata owner="http://freedesktop.org"><b:applications>)"
-      R"(<b:application name="Pelmar VEX" count="1"/></b:applications></metadata></info></bookmark></xbel>)";
-  EXPECT_TRUE(Add(other, "/a").contains(R"(<b:application name="Pelmar VEX" count="2" )"));
-}
-
-TEST(AddBookmark, RefusesWhatIsNoList) {
-  for (const QByteArray& none :
-       {QByteArray(" "), QByteArray("<xbel>"), QByteArray("<xbel></xbel><xbel/>"), QByteArray("<html></html>"),
-        QByteArray("<xbel><a></b></xbel>"), QByteArray("<xbel><undeclared:a/></xbel>"),
-        QByteArray("<xbel>\0</xbel>", 14), QByteArray("<xbel>\xFF</xbel>")})
-    EXPECT_EQ(Add(none), "") << none.toStdString();
-}
-
 TEST(RecentDocuments, AreAllNotedInOrderWhenTheProgramEnds) {
   const TempFolder temp;
   const std::string list = temp.File("share/recently-used.xbel");

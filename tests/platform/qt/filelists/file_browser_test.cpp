@@ -296,15 +296,6 @@ TEST_F(FileBrowserTest, ReadsItsFolderAgainWhenItShowsAgain) {
   EXPECT_EQ(Files(), "b.HTM|c.htm|d");
 }
 
-TEST_F(FileBrowserTest, GoesUpFromAFolderThatIsGoneWhenItShowsAgain) {
-  Show();
-  SetFolder("/sub/inner");
-  SetVisible(false);
-  Remove("sub");
-  SetVisible(true);
-  EXPECT_EQ(Folders(), ">.|Č");
-}
-
 struct DriveListTest : testing::Test {
   DriveList place;
   QSignalSpy changes{&place, &DriveList::DriveChanged};

@@ -363,19 +363,6 @@ TEST_F(TextBoxTest, WhatIsRepaintedInPartsEqualsTheWholeWithTheCaretInSight) {
   }
 }
 
-TEST_F(TextBoxTest, APaleCaretStaysInATextThatToolWindowsWriteInto) {
-  for (const bool stays : {false, true}) {
-    box->SetCaretStays(stays);
-    box->setFocus();
-    box->clearFocus();
-    box->SetText("      ");
-    box->Buffer().ReplaceSelection("   ");
-    const QImage image = box->viewport()->grab().toImage();
-    EXPECT_EQ(HasInk(image, box->CaretRect()), stays);
-    EXPECT_NE(image.pixelColor(box->CaretRect().center()), QColor(Qt::black));
-  }
-}
-
 TEST_F(TextBoxTest, KeysScrollByPagesAndWithCtrlByRows) {
   const QScrollBar& down = *box->verticalScrollBar();
   SetRows(500);
