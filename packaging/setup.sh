@@ -3,7 +3,10 @@
 
 build_packages="build-essential cmake ninja-build ccache qt6-base-dev qt6-tools-dev qt6-l10n-tools
 libgl-dev libx11-dev librsvg2-bin qt6-webengine-dev"
-runtime_packages="qt6-svg-plugins|libqt6svg6 qt6-qpa-plugins qt6-translations-l10n fonts-dejavu-core xdg-utils"
+# Qt's plug-in for SVG pictures. Debian 12 has it in the package of the library.
+svg_plugin=qt6-svg-plugins
+[ "$(. /etc/os-release 2>/dev/null && echo "$VERSION_ID")" != 12 ] || svg_plugin=libqt6svg6
+runtime_packages="$svg_plugin qt6-qpa-plugins qt6-translations-l10n fonts-dejavu-core xdg-utils"
 test_packages="libgtest-dev libbenchmark-dev python3 xvfb openbox xdotool xclip wmctrl x11-utils
 imagemagick cups-daemon cups-client lintian dpkg-dev appstream desktop-file-utils fakeroot poppler-utils
 dbus-daemon at-spi2-core gir1.2-atspi-2.0 python3-gi weston qt6-wayland"
@@ -14,44 +17,30 @@ tell() {
   printf '%s: %s\n' "$step" "$*" >&2
 }
 
-# Prints those of the packages given that are missing. Of alternatives "new|old" only the one counts that this release has.
-missing_of() {
-  names=
-  for package in "$@"; do
-    new=${package%%|*}
-    if [ "$new" = "$package" ] || apt-cache show "$new" >/dev/null 2>&1; then
-      names="$names $new"
-    else
-      names="$names ${package#*|}"
-    fi
-  done
-  installed=$(dpkg-query -W -f='${db:Status-Abbrev}${Package}\n' $names 2>/dev/null | sed -n 's/^ii *//p')
-  for package in $names; do
-    printf '%s\n' "$installed" | grep -qx "$package" || echo "$package"
-  done
-}
-
 # Installs those of the packages given that are missing. Asks the network for nothing when none is.
 install_missing() {
   if ! command -v dpkg-query >/dev/null; then
     tell "no Debian packages here; going on with what is installed (needed: $(echo $*))"
     return 0
   fi
-  [ -n "$(missing_of "$@")" ] || return 0
+  installed=$(dpkg-query -W -f='${db:Status-Abbrev}${Package}\n' "$@" 2>/dev/null | sed -n 's/^ii *//p')
+  missing=
+  for package in "$@"; do
+    printf '%s\n' "$installed" | grep -qx "$package" || missing="$missing $package"
+  done
+  [ -n "$missing" ] || return 0
 
   as_root=
   if [ "$(id -u)" -ne 0 ]; then
     if ! command -v sudo >/dev/null; then
-      tell "these packages are missing, and only root or sudo can install them: $(echo $(missing_of "$@"))"
+      tell "these packages are missing, and only root or sudo can install them:$missing"
       return 1
     fi
     as_root=sudo
   fi
+  tell "installing missing packages:$missing"
   apt="$as_root env DEBIAN_FRONTEND=noninteractive apt-get -qq -o DPkg::Lock::Timeout=300 -o Dpkg::Use-Pty=0"
-  $apt update >&2
-  missing=$(echo $(missing_of "$@"))
-  tell "installing missing packages: $missing"
-  $apt install -y --no-install-recommends $missing >&2 || {
+  $apt update >&2 && $apt install -y --no-install-recommends $missing >&2 || {
     tell "the packages could not be installed"
     return 1
   }
