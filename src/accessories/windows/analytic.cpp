@@ -93,11 +93,11 @@ void Analytic::Command3_Click() {
 void Analytic::Pic_Pointed(double x) {
   const int code = CodeAt(x, ui_->Check1->isChecked());
   if (code < 0) return;
-  const QString text = TextToQString(PointedText(code));
-  ui_->Label2->setText(text);
-  ui_->Pic->setToolTip(text);
+  const std::string text = PointedText(code);
+  ui_->Label2->setText(TextToQString(text));
+  ui_->Pic->setToolTip(TextToQString(text));
   ui_->Pic->setAccessibleDescription(
-      QStringLiteral("%1, výška %2 %").arg(ReadableText(PointedText(code))).arg(ui_->Pic->PointedShare()));
+      QStringLiteral("%1, výška %2 %").arg(ReadableText(text)).arg(ui_->Pic->PointedShare()));
 }
 
 void Analytic::Text1_Change() {

@@ -24,12 +24,8 @@ Dos_Unix_conv::Dos_Unix_conv(Platform& platform, QWidget* parent) : FormDialog(p
 }
 
 void Dos_Unix_conv::File1_Click() {
-  EnableConversions(true);
+  for (QPushButton* convert : {ui_->Command1, ui_->Command2, ui_->Command4, ui_->Command5}) convert->setEnabled(true);
   ShowPath(*ui_->Label2, PickedPath(*ui_->File1));
-}
-
-void Dos_Unix_conv::EnableConversions(bool on) {
-  for (QPushButton* convert : {ui_->Command1, ui_->Command2, ui_->Command4, ui_->Command5}) convert->setEnabled(on);
 }
 
 void Dos_Unix_conv::Convert(const std::function<void(const std::string& path)>& convert) {

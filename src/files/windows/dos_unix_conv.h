@@ -22,7 +22,6 @@ class Dos_Unix_conv : public FormDialog<Ui::Dos_Unix_conv> {
 
  private:
   void File1_Click();
-  void EnableConversions(bool on);
   void Convert(const std::function<void(const std::string& path)>& convert);
 
   Platform& platform_;
