@@ -158,7 +158,7 @@ TEST_F(StreamTest, GoesOnBehindCode8AfterNo) {
   platform.answers = {Answer::kOk, Answer::kNo};
   Rewrite("a\bb");
   EXPECT_EQ(document.Text(), Enciphered("a\bb", 3));
-  EXPECT_EQ(platform.TakeTold(), kWarningOfCode8);
+  EXPECT_EQ(platform.TakeCallsInOneLine(), kWarningOfCode8);
   EXPECT_EQ(progress, (std::vector<std::size_t>{1, 2, 2, 3}));  // the warning stands at its character
 }
 

@@ -148,7 +148,7 @@ struct TableFilesTest : testing::Test {
     platform.saves = {path};
     files.Save(table);
     EXPECT_FALSE(editor.file_number.IsOpen());
-    return platform.TakeTold();
+    return platform.TakeCallsInOneLine();
   }
 };
 

@@ -71,7 +71,7 @@ TEST_F(TagCommandsTest, MakeListsOfLines) {
 TEST_F(TagCommandsTest, AskForASelectionBeforeTheyMakeAList) {
   platform.answers = {Answer::kOk};
   EXPECT_EQ(Made("mnu_HTML_sel_num_list", ""), "-");
-  EXPECT_EQ(platform.TakeTold(), "message 0 \"Vyber text\" \"HTML list\"; ");
+  EXPECT_EQ(platform.TakeCallsInOneLine(), "message 0 \"Vyber text\" \"HTML list\"; ");
 }
 
 TEST_F(TagCommandsTest, StripTags) {
@@ -84,7 +84,7 @@ TEST_F(TagCommandsTest, StripTags) {
   for (const auto& [html, plain] : cases) {
     EXPECT_EQ(Made("mnuNoHtml", html), plain);
     EXPECT_EQ(editor.text.SelStart(), editor.text.Size() - 1) << html;
-    EXPECT_EQ(platform.TakeTold(), "busy 1; busy 0; ") << html;
+    EXPECT_EQ(platform.TakeCallsInOneLine(), "busy 1; busy 0; ") << html;
   }
 }
 

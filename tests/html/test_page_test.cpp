@@ -20,7 +20,7 @@ TEST_F(PageTest, ASavedDocumentIsShownFromItsFileAfterAQuestion) {
   editor.documents.MakeCurrent("/home/jan/a.html");
   platform.answers = {Answer::kYes};
   editor.commands.Run("mnutest");
-  EXPECT_EQ(platform.TakeTold(),
+  EXPECT_EQ(platform.TakeCallsInOneLine(),
             "message 52 \"Soubor je uložen, zobrazit uloženou verzi ?\" \"Nový\"; default program /home/jan/a.html; ");
 }
 
@@ -28,7 +28,8 @@ TEST_F(PageTest, TheWrittenNameIsNotTheOpenedOne) {  // required
   editor.text.SetText("<P>");
   platform.draws = {0.5};
   editor.commands.Run("mnutest");
-  EXPECT_EQ(platform.TakeTold(), "create /tmp/$$$PelmarTemp49999999.htm; default program /tmp/49999999.htm; ");
+  EXPECT_EQ(platform.TakeCallsInOneLine(),
+            "create /tmp/$$$PelmarTemp49999999.htm; default program /tmp/49999999.htm; ");
   EXPECT_EQ(platform.files["/tmp/$$$PelmarTemp49999999.htm"], "<P>\r\n");
   EXPECT_EQ(platform.reseeds, 1);
 }

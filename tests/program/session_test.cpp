@@ -53,7 +53,7 @@ TEST_F(SessionTest, AFirstStartAsksForTheProfileAndUsesTheDefaults) {
   EXPECT_EQ(view.calls, (Calls{"colors", "recent", "place", "state", "font", "colors", "size", "bold", "no bold mark",
                                "italic", "no italic mark", "config", "not top", "main"}));
   EXPECT_EQ(editor.documents.Title(), "Pelmar VEX ()");
-  EXPECT_EQ(Told(view.look), "Courier New 8 #000000 #FFFFFF");
+  EXPECT_EQ(Described(view.look), "Courier New 8 #000000 #FFFFFF");
   EXPECT_EQ(editor.settings.AutosnapDistance, 240);
 }
 
@@ -77,7 +77,7 @@ TEST_F(SessionTest, StoredSettingsAreAppliedInOrder) {
   Start("-nomsg");
   EXPECT_EQ(view.calls, (Calls{"colors", "recent", "place", "state", "font", "colors", "size", "bold", "bold mark",
                                "italic", "italic mark", "top", "main"}));
-  EXPECT_EQ(Told(view.look), "Font 12 bold italic #010000 #020000");
+  EXPECT_EQ(Described(view.look), "Font 12 bold italic #010000 #020000");
   EXPECT_EQ(view.place, (TwipsRect{150, 300, 9000, 6000}));
   EXPECT_EQ(editor.settings.AutosnapDistance, 2'000'000'000);
   session.Close();
@@ -91,7 +91,7 @@ TEST_F(SessionTest, ImpossibleSettingsAreReplacedByDefaults) {
   r.ForeColor = r.BackColor;
   platform.files[kSettings] = SettingsBytes(r);
   Start();
-  EXPECT_EQ(Told(view.look), "Font 8 #000000 #FFFFFF");
+  EXPECT_EQ(Described(view.look), "Font 8 #000000 #FFFFFF");
   EXPECT_EQ(view.state, WindowMode::kNormal);
 }
 

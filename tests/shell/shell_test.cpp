@@ -115,7 +115,7 @@ TEST(Help, SearchesWithoutCaseAsLongAsThePersonWants) {
     TextBuffer text;
     PutMarked(text, "|Žába a žába. KONEC");
     SearchHelp(text, c.term, platform);
-    EXPECT_EQ(platform.TakeTold(), c.told);
+    EXPECT_EQ(platform.TakeCallsInOneLine(), c.told);
     EXPECT_EQ(Marked(text), c.marked);
   }
 }

@@ -50,7 +50,7 @@ class PlainView : public MainView {
 };
 
 // A look in one line.
-inline std::string Told(const EditorLook& look) {
+inline std::string Described(const EditorLook& look) {
   return look.font_name + ' ' + std::to_string(std::lround(look.font_size)) + (look.bold ? " bold" : "") +
          (look.italic ? " italic " : " ") + ColorToHex(look.fore_color) + ' ' + ColorToHex(look.back_color);
 }

@@ -35,10 +35,10 @@ class ScriptedPlatform : public Platform, public Paper {
     return !calls.empty();
   }
   // The same in one line, "; " behind each.
-  std::string TakeTold() {
-    std::string told;
-    for (const std::string& call : TakeCalls()) told += call + "; ";
-    return told;
+  std::string TakeCallsInOneLine() {
+    std::string line;
+    for (const std::string& call : TakeCalls()) line += call + "; ";
+    return line;
   }
 
   std::deque<Answer> answers;  // to messages; an OK box takes only kOk, a question only kYes and kNo

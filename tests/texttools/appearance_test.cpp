@@ -26,7 +26,7 @@ struct AppearanceTest : testing::Test {
   std::string Look(const char* command) {
     view.calls.clear();
     editor.commands.Run(command);
-    return Told(view.look);
+    return Described(view.look);
   }
   // Whether the last command set a check mark, or asked for the window's state.
   [[nodiscard]] bool Did(const char* call) const { return std::ranges::count(view.calls, call) > 0; }
@@ -58,7 +58,7 @@ TEST_F(AppearanceTest, TheBasicLookLeavesTheMarkOfBold) {  // required
 
 TEST_F(AppearanceTest, ALookWithoutAFontKeepsTheFontAndAStrangeSizeBecomesEight) {
   ApplyLook(view, {"", 3, 4, 11, true, false});
-  EXPECT_EQ(Told(view.look), "Font 8 bold #030000 #040000");
+  EXPECT_EQ(Described(view.look), "Font 8 bold #030000 #040000");
   EXPECT_TRUE(Did("bold mark"));
 }
 

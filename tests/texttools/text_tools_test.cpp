@@ -75,7 +75,7 @@ TEST(TextTools, EachCommandLeavesItsTextAndCalls) {
     platform.answers = {c.answer};
     editor.commands.Run(c.command);
     EXPECT_EQ(Marked(editor.text), c.after) << c.command;
-    EXPECT_EQ(platform.TakeTold(), c.calls) << c.command;
+    EXPECT_EQ(platform.TakeCallsInOneLine(), c.calls) << c.command;
     EXPECT_EQ(platform.reseeds, c.reseeds) << c.command;
   }
 }

@@ -80,11 +80,6 @@ TEST_F(KalkulTest, ATypedOperatorDoesNothingWhileItsKeyIsDisabled) {
   ExpectState(kalkul, "Cislo:25/5+2", "Label2=25 Label1=/ Cislo=52");
 }
 
-TEST_F(KalkulTest, AKeyThatIsDisabledGivesTheFocusToTheNumber) {
-  Work(kalkul, "Command12:' '");
-  EXPECT_EQ(kalkul.focusWidget(), Named(kalkul, "Cislo"));
-}
-
 TEST_F(KalkulTest, InsertsTheNumberBeforeTheSelection) {
   ExpectDocument("mnucalk", "Command4! Command19!", "x[y|", "x4|y");
 }

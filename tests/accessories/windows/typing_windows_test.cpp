@@ -153,11 +153,6 @@ TEST_F(CharTableTest, ThePointerShowsTheCode) {
   }
 }
 
-TEST_F(CharTableTest, ControlCharactersAreShownByTheirNames) {
-  ExpectState(kod, "HScroll1=13", "Label1=13 Label2=CR");
-  ExpectState(kod, "HScroll1=65", "Label1=65 Label2=A");
-}
-
 TEST_F(CharTableTest, TheCellOfCodeZeroIsEmpty) {
   const QImage picture = grid->grab().toImage();
   const auto cell = [&](int code) { return picture.copy(QRect(Cell(code) - QPoint(8, 6), QSize(16, 12))); };

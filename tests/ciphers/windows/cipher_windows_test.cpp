@@ -157,7 +157,7 @@ struct ShiftTest : ProgramTest {
 TEST_F(ShiftTest, WithoutASelectionTheCommandAsksForOne) {
   platform.answers = {Answer::kOk};
   editor.commands.Run("MnuSelTextPosun");
-  EXPECT_EQ(platform.TakeTold(), "message 0 \"Vyber text!\" \"Posun\"; ");
+  EXPECT_EQ(platform.TakeCallsInOneLine(), "message 0 \"Vyber text!\" \"Posun\"; ");
 }
 
 TEST_F(ShiftTest, TheTextBeginsUnrotatedAlthoughTheBarBeginsAt1) {  // required
@@ -206,14 +206,14 @@ TEST_F(RndSifraTest, EnciphersAndDeciphersThePreparedText) {
   EXPECT_EQ(text.Text(), "PRILIS\r\nKUN");
   EXPECT_FALSE(text.CanUndo());    // required for a replaced text
   EXPECT_EQ(platform.reseeds, 2);  // deciphering draws nothing
-  EXPECT_EQ(platform.TakeTold(), "");
+  EXPECT_EQ(platform.TakeCallsInOneLine(), "");
 }
 
 TEST_F(RndSifraTest, AnEmptyTextEmptiesTheDocumentWithoutAQuestion) {  // required
   text.SetText("document");
   ExpectState(dialog, "Command2! Text1= Command5!", "Cnt=0");
   EXPECT_EQ(text.Text(), "");
-  EXPECT_EQ(platform.TakeTold(), "");
+  EXPECT_EQ(platform.TakeCallsInOneLine(), "");
 }
 
 TEST_F(RndSifraTest, ASavedTableLoadsWithItsCodesLettersAndNote) {

@@ -232,7 +232,7 @@ TEST_F(BrowserTest, AnAddressOfTheEngineIsRefused) {
   platform.answers = {Answer::kOk};
   Work(window, "cboAddress:chrome://crash\r");
   EXPECT_EQ(Calls(), "");
-  EXPECT_EQ(platform.TakeTold(),
+  EXPECT_EQ(platform.TakeCallsInOneLine(),
             "message 64 \"Takovou adresu interní browser neotvírá:\r\nchrome://crash\r\n\r\nOtvírá http, https, file, "
             "data a about:blank.\" \"Interní browser\"; ");
 }

@@ -206,7 +206,7 @@ TEST_F(RescueKeeperTest, TheStartTellsOnceWhereAKilledSaveHasLeftTheOldContent) 
     program.Run("-NOMSG");
     QApplication::processEvents();
     EXPECT_EQ(platform.answers.empty(), first);
-    const std::string told = platform.TakeTold();
+    const std::string told = platform.TakeCallsInOneLine();
     EXPECT_EQ(told.find(left) != std::string::npos, first) << told;
   }
 }

@@ -115,7 +115,7 @@ TEST_F(HelpTest, AMissingFileIsReported) {
   platform.TakeCalls();
   platform.answers = {Answer::kOk};
   The<Hlp>();
-  EXPECT_EQ(platform.TakeTold(),
+  EXPECT_EQ(platform.TakeCallsInOneLine(),
             "message 0 \"Chyba helpového systému - pelmar.txt: soubor nebo složka neexistuje\" "
             "\"Help k Pelmar VEX\"; ");
 }

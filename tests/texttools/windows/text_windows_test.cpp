@@ -227,7 +227,7 @@ TEST_F(FormatujTest, WithoutASelectionSaysSoAndHasNoRows) {
   platform.answers = {Answer::kOk};
   Formatuj dialog(text, platform, nullptr);
   ExpectState(dialog, "Hz=9 Hk=9", "List1= Label2=0 Label4=0 Hz=0 Hk=0");
-  EXPECT_EQ(platform.TakeTold(), "message 0 \"Vyber text\" \"Fomátování\"; ");
+  EXPECT_EQ(platform.TakeCallsInOneLine(), "message 0 \"Vyber text\" \"Fomátování\"; ");
 }
 
 struct ColorDialogTest : ProgramTest {
@@ -299,8 +299,8 @@ struct VisualTest : ProgramTest {
     Work(visual, steps);
     const auto* preview = Find<TextBox>(visual, "Label1");
     const QFont font = preview->font();
-    EXPECT_EQ(Told({font.family().toStdString(), ColorFromQt(preview->TextColor()),
-                    ColorFromQt(preview->BackgroundColor()), font.pointSizeF(), font.bold(), font.italic()}),
+    EXPECT_EQ(Described({font.family().toStdString(), ColorFromQt(preview->TextColor()),
+                         ColorFromQt(preview->BackgroundColor()), font.pointSizeF(), font.bold(), font.italic()}),
               look)
         << steps;
   }
@@ -316,16 +316,16 @@ TEST_F(VisualTest, ChoicesChangeThePreviewAndOkAppliesThem) {
   const QWidget& visual = Open("mnumore");
   ExpectPreview(visual, "Option3! Check2!", "Terminal 12 italic #0A0000 #C8C8C8");
   ExpectPreview(visual, "Command8! Command9! Combo1=11", "Terminal 11 italic #0B0000 #C9C8C8");
-  EXPECT_EQ(Told(main.Look()), "Courier New 12 bold italic #0A0000 #C8C8C8");
+  EXPECT_EQ(Described(main.Look()), "Courier New 12 bold italic #0A0000 #C8C8C8");
   Work(visual, "Command1!");
-  EXPECT_EQ(Told(main.Look()), "Terminal 8 italic #0B0000 #C9C8C8");  // 11 is none of the six sizes
+  EXPECT_EQ(Described(main.Look()), "Terminal 8 italic #0B0000 #C9C8C8");  // 11 is none of the six sizes
 }
 
 TEST_F(VisualTest, TheBasicLookChangesThePreviewAndTheDosLookTheEditor) {
   const QWidget& visual = Open("mnumore");
   ExpectPreview(visual, "Command3!", "Courier New 8 #000000 #FFFFFF");
   ExpectPreview(visual, "Command4!", "Courier New 8 #000000 #FFFFFF");
-  EXPECT_EQ(Told(main.Look()), "Courier New 8 #C2C2C2 #000000");
+  EXPECT_EQ(Described(main.Look()), "Courier New 8 #C2C2C2 #000000");
 }
 
 TEST_F(VisualTest, TheDistanceIsStoredByItsButtonAndLineCountingAtOnce) {

@@ -252,22 +252,6 @@ TEST(ProgramStyle, WhatIsOffCanBeReadOnLightAndDarkGround) {
   }
 }
 
-TEST(ProgramStyle, ShowsWhichButtonEnterPresses) {
-  QWidget window;
-  window.resize(300, 300);
-  QPushButton standing(&window), focused(&window), plain(&window);
-  for (QPushButton* button : {&standing, &focused, &plain}) button->move(100, 200);  // not under the pointer
-  standing.setDefault(true);
-  window.show();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-  const auto picture = [](QWidget& button) { return button.grab().toImage(); };
-  EXPECT_NE(picture(standing), picture(plain));
-  window.setAttribute(Qt::WA_KeyboardFocusChange);
-  focused.setFocus();
-  EXPECT_EQ(picture(standing), picture(plain));
-  EXPECT_NE(picture(focused), picture(plain));
-}
-
 TEST(SvgIcon, EachOfTheProgramDraws) {
   const QDir icons(QStringLiteral(":/icons"), QStringLiteral("*.svg"));
   EXPECT_GT(icons.count(), 28u);

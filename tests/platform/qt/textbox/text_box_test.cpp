@@ -245,13 +245,6 @@ TEST_F(TextMenuTest, OffersWhatThereIsToDo) {
                             "Kopírovat Ctrl+C", "Vložit Ctrl+V", "Smazat Del", "", "Vybrat vše Ctrl+A"}));
 }
 
-TEST_F(TextMenuTest, NamesOtherKeysWhereAMenuHasCtrlWithLetters) {
-  box->setStandardShortcuts(false);
-  Put("|");
-  EXPECT_EQ(Shown(), (Items{"(Zpět Alt+Backspace)", "(Znovu Alt+Shift+Backspace)", "", "(Vyjmout Shift+Del)",
-                            "(Kopírovat Ctrl+Ins)", "(Vložit Shift+Ins)", "(Smazat Del)", "", "(Vybrat vše)"}));
-}
-
 TEST_F(TextMenuTest, PastesTextOfAnotherProgram) {
   QGuiApplication::clipboard()->setText(QStringLiteral("theirs"));
   Put("a[b|");
@@ -373,19 +366,6 @@ TEST_F(TextBoxTest, KeysScrollByPagesAndWithCtrlByRows) {
   EXPECT_EQ(box->SelStart(), 0);
 }
 
-TEST_F(TextBoxTest, AnotherWidthKeepsTheTopOfAWrappedText) {
-  QScrollBar& down = *box->verticalScrollBar();
-  box->setWordWrap(true);
-  SetRows(500);
-  EXPECT_EQ(box->horizontalScrollBar()->maximum(), 0);
-  down.setValue(down.maximum() / 2);
-  const std::size_t top = box->PlaceAt({0, 0}).pos;
-  box->resize(250, 300);
-  const TextSpan row = box->RowSpan(box->PlaceAt({0, 0}).pos);
-  EXPECT_LE(row.begin, top);
-  EXPECT_GT(row.end, top);
-}
-
 TEST_F(TextBoxTest, LaysAHiddenTextOutWhenItShowsWithTheCaretInSight) {
   window.hide();
   SetRows(500);
@@ -437,15 +417,6 @@ TEST_F(TextBoxTest, TheWheelScrollsByLinesOrPixelsAndLeavesZoomingToTheWindow) {
   EXPECT_TRUE(RollWheel(area, {0, -7}, {0, -56}));
   EXPECT_TRUE(down.value() == rows + 7 || QGuiApplication::platformName() == QStringLiteral("xcb"));
   EXPECT_FALSE(RollWheel(area, {}, {0, -120}, Qt::ControlModifier));
-}
-
-TEST_F(TextBoxTest, DraggingBelowTheBoxScrollsToTheEnd) {
-  SetRows(60);
-  Mouse(QTest::MousePress, 0);
-  QTest::mouseMove(box->viewport(), QPoint(10, box->viewport()->height() + 500));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return box->Buffer().Caret() == box->Buffer().Size(); }));
-  Mouse(QTest::MouseRelease, 0);
-  EXPECT_EQ(box->verticalScrollBar()->value(), box->verticalScrollBar()->maximum());
 }
 
 TEST(MoveSelection, EqualsCutAndPasteAndIsUndoneInOneStep) {
