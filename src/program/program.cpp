@@ -40,9 +40,6 @@ Program::Program(Platform& platform)
       rescue_(unsaved_, platform),
       timer_(main_, editor_) {
   AddCommands(editor_, files_);
-  doors_.store_settings = [this] { session_.StoreSettings(); };
-  doors_.mode = [this] { return session_.Mode(); };
-  doors_.closed = [this] { return session_.Closed(); };
   AddWindows();
   main_.RefreshCommands();
   main_.may_close = [this] { return MayClose(); };
@@ -73,7 +70,7 @@ bool Program::KeepsDocuments() const { return loaded_ && session_.Mode() == Star
 
 void Program::ShowAccessory(StartMode mode) {
   rescue_.End();
-  if (const auto found = stand_alones_.find(mode); found != stand_alones_.end()) return found->second();
+  if (const auto found = services_.show_alone.find(mode); found != services_.show_alone.end()) return found->second();
   platform_.Message(MessageType::kOk, "Tato část programu není nainstalována.", "Pelmar VEX");
   EndProgram(EXIT_FAILURE);
 }
@@ -108,15 +105,14 @@ void Program::KeepUnsaved() {
       // The rescue file holds the documents, and nobody is there to read a message.
     }
   }
-  for (const auto& keep : keepers_) keep();
+  services_.keep_notes();
 }
 
 void Program::ReportRuntimeError(const RuntimeError& error) {
   std::string text = "Běhová chyba " + std::to_string(error.Number()) + ":\r\n" + error.what() + "\r\n\r\n";
   if (KeepsDocuments())
     if (const std::string notice = rescue_.NoticeOf(rescue_.KeepNow()); !notice.empty()) text += notice + "\r\n\r\n";
-  for (const auto& keep : keepers_)
-    if (const std::string notice = keep(); !notice.empty()) text += notice + "\r\n\r\n";
+  if (const std::string notice = services_.keep_notes(); !notice.empty()) text += notice + "\r\n\r\n";
   text += "Program bude ukončen.";
   platform_.Message(MessageType::kOk, text, "Pelmar VEX");
 }

@@ -54,12 +54,9 @@ class Program {
   bool loaded_ = false;
   StatusTimer timer_;
   std::vector<Listening> listenings_;
-  StandAlones stand_alones_;
-  Keepers keepers_;
-  FilePickers file_pickers_;
-  Doors doors_;
+  WindowServices services_;
   WindowRegistry windows_;  // below all members that its windows use
-  ProgramParts parts_{platform_, editor_, files_, main_, windows_, stand_alones_, keepers_, file_pickers_, doors_};
+  ProgramParts parts_{platform_, editor_, files_, main_, windows_, session_, services_};
 };
 
 // The command-line arguments joined by blanks. The relative path of an existing file becomes absolute, if possible

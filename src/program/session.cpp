@@ -20,9 +20,9 @@ constexpr std::string_view kSettingsName = "pelmar.ini";
 
 }  // namespace
 
-Session::Session(MainView& view, Doors doors, Editor& editor, Files& files)
+Session::Session(MainView& view, Callbacks callbacks, Editor& editor, Files& files)
     : view_(view),
-      doors_(std::move(doors)),
+      callbacks_(std::move(callbacks)),
       documents_(editor.documents),
       settings_(editor.settings),
       files_(files),
@@ -40,7 +40,7 @@ void Session::Load() {
   if (settings_.WindowState < 0 || settings_.WindowState > 2) settings_.WindowState = 0;
   view_.SetWindowState(WindowMode{settings_.WindowState});
   ApplyLook();
-  if (settings_.UserEmail.empty() || settings_.UserName.empty()) doors_.show_config();
+  if (settings_.UserEmail.empty() || settings_.UserName.empty()) callbacks_.show_config();
   if (settings_.AutosnapDistance == 0) settings_.AutosnapDistance = kDefaultAutosnapDistance;
   view_.SetAlwaysOnTop(settings_.AlwaysOnTopFlag);
   documents_.ForgetPath();
@@ -94,9 +94,9 @@ void Session::Act(std::string_view tail) {
   if (upper == "-CALC") mode_ = StartMode::kCalculator;
   if (upper == "-NOTE") mode_ = StartMode::kNotes;
   if (upper == "-BROWSER") mode_ = StartMode::kBrowser;
-  if (mode_ != StartMode::kEditor) return doors_.show_accessory(mode_);
-  if (tail.empty() && settings_.ShowStart) return doors_.show_start();
-  doors_.show_main();
+  if (mode_ != StartMode::kEditor) return callbacks_.show_accessory(mode_);
+  if (tail.empty() && settings_.ShowStart) return callbacks_.show_start();
+  callbacks_.show_main();
   if (!tail.empty() && upper != "-NOMSG") files_.opener.OpenPath(std::string(tail));
 }
 

@@ -10,20 +10,20 @@
 #include "files/files.h"
 #include "shell/editor.h"
 #include "shell/main_view.h"
-#include "shell/stand_alone.h"
+#include "shell/session_state.h"
 
 namespace pelmar {
 
-class Session {
+class Session : public SessionState {
  public:
   // Functions that show the next window of the start. The main window stays hidden until show_main.
-  struct Doors {
+  struct Callbacks {
     std::function<void()> show_config;  // modal
     std::function<void()> show_main;
     std::function<void()> show_start;  // instead of the main window
     std::function<void(StartMode)> show_accessory;
   };
-  Session(MainView& view, Doors doors, Editor& editor, Files& files);
+  Session(MainView& view, Callbacks callbacks, Editor& editor, Files& files);
 
   // Loads the text and the settings, and asks for a missing profile.
   void Load();
@@ -39,13 +39,9 @@ class Session {
   // Writes the files of a close: the current text, all texts and the settings. Throws RuntimeError like Close.
   void StoreAll();
 
-  // Writes the settings file. The window's state changes only in StoreAll.
-  void StoreSettings();
-
-  // True after a confirmed Close: the program is ending and the settings are already stored.
-  [[nodiscard]] bool Closed() const { return closed_; }
-
-  [[nodiscard]] StartMode Mode() const { return mode_; }
+  [[nodiscard]] StartMode Mode() const override { return mode_; }
+  [[nodiscard]] bool Closed() const override { return closed_; }
+  void StoreSettings() override;
 
  private:
   void LoadText();
@@ -57,7 +53,7 @@ class Session {
   std::string InstallPath(std::string_view name);
 
   MainView& view_;
-  Doors doors_;
+  Callbacks callbacks_;
   Documents& documents_;
   SettingsRecord& settings_;
   Files& files_;

@@ -14,7 +14,7 @@ namespace {
 constexpr const char* kRecovery = "/install/autosave_pelmar_vex.txt";
 constexpr const char* kSettings = "/install/pelmar.ini";
 
-// The editor under a plain window. The calls of the window and of the start's doors stand in one list.
+// The editor under a plain window. The calls of the window and of the callbacks of the start are in one list.
 struct Desk {
   ScriptedPlatform platform;
   WholeEditor editor{platform};

@@ -25,7 +25,7 @@ struct ProgramTest : testing::Test {
   ScriptedPlatform platform;
   Program program{platform};
   const ProgramParts& parts = program.Parts();
-  Doors& doors = parts.doors;  // a test may set pick_color or show_in_browser
+  WindowServices& services = parts.services;  // a test may set pick_color or show_in_browser
   MainWindow& main = parts.main;
   Editor& editor = parts.editor;
   TextBuffer& text = editor.text;  // the document

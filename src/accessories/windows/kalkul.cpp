@@ -11,11 +11,11 @@
 
 namespace pelmar {
 
-Kalkul::Kalkul(Platform& platform, bool stand_alone, Doors doors, QWidget* parent)
+Kalkul::Kalkul(Platform& platform, bool stand_alone, Callbacks callbacks, QWidget* parent)
     : FormDialog(parent),
       platform_(platform),
       stand_alone_(stand_alone),
-      doors_(std::move(doors)),
+      callbacks_(std::move(callbacks)),
       calculator_(platform) {
   if (stand_alone_) {
     setWindowFlags(Qt::Window);  // a window can be minimised, a dialog can't
@@ -31,9 +31,9 @@ Kalkul::Kalkul(Platform& platform, bool stand_alone, Doors doors, QWidget* paren
   ConnectEntry();
   ConnectOperators();
   ConnectFunctions();
-  connect(ui_->Command19, &QPushButton::clicked, this, [this] { doors_.hand_over(calculator_.shown); });
+  connect(ui_->Command19, &QPushButton::clicked, this, [this] { callbacks_.hand_over(calculator_.shown); });
   connect(ui_->Command20, &QPushButton::clicked, this, &Kalkul::Command20_Click);
-  connect(ui_->Command35, &QPushButton::clicked, this, [this] { doors_.show_converter(); });
+  connect(ui_->Command35, &QPushButton::clicked, this, [this] { callbacks_.show_converter(); });
   new KeyPreview(*this, [this](const QKeyEvent& event) { return PhysicalKey(event); });
 }
 
@@ -103,25 +103,25 @@ void Kalkul::ShowCut() {
 
 void Kalkul::Command20_Click() {
   hide();
-  doors_.hide_converter();
+  callbacks_.hide_converter();
   if (stand_alone_) MayUnload();
 }
 
 bool Kalkul::MayUnload() {
-  doors_.hide_converter();
+  callbacks_.hide_converter();
   if (!stand_alone_) return true;
   if (!MayEndStandAlone(platform_, "Kalkulačku")) {
     Present();
     return false;
   }
-  doors_.end_program();
+  callbacks_.end_program();
   return true;
 }
 
 void Kalkul::closeEvent(QCloseEvent* event) {
   if (!MayUnload()) return event->ignore();
   DialogWindow::closeEvent(event);
-  if (!stand_alone_) doors_.unload();
+  if (!stand_alone_) callbacks_.unload();
 }
 
 void Kalkul::showEvent(QShowEvent* event) {

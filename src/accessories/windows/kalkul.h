@@ -21,7 +21,7 @@ class Kalkul : public FormDialog<Ui::Kalkul> {
   Q_OBJECT
 
  public:
-  struct Doors {
+  struct Callbacks {
     std::function<void(const std::string&)> hand_over;  // takes the number to the text or to the clipboard
     std::function<void()> show_converter;
     std::function<void()> hide_converter;
@@ -29,7 +29,7 @@ class Kalkul : public FormDialog<Ui::Kalkul> {
     std::function<void()> end_program;  // if the calculator is the whole program
   };
 
-  Kalkul(Platform& platform, bool stand_alone, Doors doors, QWidget* parent);
+  Kalkul(Platform& platform, bool stand_alone, Callbacks callbacks, QWidget* parent);
 
   // Replaces the shown number.
   void SetNumber(const std::string& number);
@@ -52,7 +52,7 @@ class Kalkul : public FormDialog<Ui::Kalkul> {
 
   Platform& platform_;
   bool stand_alone_;
-  Doors doors_;
+  Callbacks callbacks_;
   Calculator calculator_;
   QLabel* cut_;  // dots before a number whose beginning doesn't fit
 };

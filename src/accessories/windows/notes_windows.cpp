@@ -12,7 +12,7 @@ namespace pelmar {
 namespace {
 
 std::unique_ptr<Poznamka> MakeNotes(const ProgramParts& parts) {
-  const StartMode mode = parts.doors.mode();
+  const StartMode mode = parts.session.Mode();
   const auto end = [parts, mode] {
     if (mode == StartMode::kNotes) return EndProgram(EXIT_SUCCESS);
     parts.windows.Unload<Poznamka>();
@@ -52,9 +52,9 @@ void AddNotesWindows(const ProgramParts& parts) {
   parts.windows.Register<Poznamka>([parts] { return MakeNotes(parts); });
   parts.Add<Analytic>({"mnu_analysis"}, std::cref(parts.editor.text));
   parts.editor.commands.Add("mnupozn", [parts] { ShowNotes(parts); });
-  parts.stand_alones[StartMode::kNotes] = [parts] { ShowNotes(parts); };
+  parts.services.show_alone[StartMode::kNotes] = [parts] { ShowNotes(parts); };
   AddCheckpoints(parts);
-  parts.keepers.emplace_back([&windows = parts.windows] { return KeepNotes(windows); });
+  parts.services.keep_notes = [&windows = parts.windows] { return KeepNotes(windows); };
 }
 
 }  // namespace pelmar

@@ -18,8 +18,8 @@ constexpr std::size_t kLongestShown = 32767;
 
 }  // namespace
 
-Prev::Prev(Platform& platform, bool stand_alone, Doors doors, QWidget* parent)
-    : FormDialog(parent), platform_(platform), doors_(std::move(doors)) {
+Prev::Prev(Platform& platform, bool stand_alone, Callbacks callbacks, QWidget* parent)
+    : FormDialog(parent), platform_(platform), callbacks_(std::move(callbacks)) {
   bases_ = {{ui_->Frame1, &Converter::decimal, ui_->Command35, ui_->Command38, ui_->Command42, &Converter::FromDecimal},
             {ui_->Frame2, &Converter::hexadecimal, ui_->Command36, ui_->Command39, ui_->Command43, &Converter::FromHex},
             {ui_->Frame3, &Converter::octal, ui_->Command37, ui_->Command40, ui_->Command44, &Converter::FromOct}};
@@ -27,8 +27,8 @@ Prev::Prev(Platform& platform, bool stand_alone, Doors doors, QWidget* parent)
     ConnectBase(base);
     base.to_text->setEnabled(!stand_alone);
   }
-  connect(ui_->Command46, &QPushButton::clicked, this, [this] { doors_.to_text(roman_); });
-  connect(ui_->Command41, &QPushButton::clicked, this, [this] { doors_.to_calculator(converter_.decimal); });
+  connect(ui_->Command46, &QPushButton::clicked, this, [this] { callbacks_.to_text(roman_); });
+  connect(ui_->Command41, &QPushButton::clicked, this, [this] { callbacks_.to_calculator(converter_.decimal); });
   connect(ui_->Command45, &QPushButton::clicked, this, &Prev::hide);
   new KeyPreview(*this, [this](const QKeyEvent& event) { return PhysicalKey(event); });
 }
@@ -46,7 +46,8 @@ void Prev::ConnectBase(const Base& base) {
     ShowFields();
   });
   connect(base.convert, &QPushButton::clicked, this, [this, base] { Convert(base); });
-  connect(base.to_text, &QPushButton::clicked, this, [this, field = base.field] { doors_.to_text(converter_.*field); });
+  connect(base.to_text, &QPushButton::clicked, this,
+          [this, field = base.field] { callbacks_.to_text(converter_.*field); });
 }
 
 void Prev::Convert(const Base& base) {

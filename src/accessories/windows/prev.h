@@ -25,12 +25,12 @@ class Prev : public FormDialog<Ui::Prev> {
   Q_OBJECT
 
  public:
-  struct Doors {
+  struct Callbacks {
     std::function<void(const std::string&)> to_text;
     std::function<void(const std::string&)> to_calculator;
   };
 
-  Prev(Platform& platform, bool stand_alone, Doors doors, QWidget* parent);
+  Prev(Platform& platform, bool stand_alone, Callbacks callbacks, QWidget* parent);
 
  protected:
   void hideEvent(QHideEvent* event) override;
@@ -53,7 +53,7 @@ class Prev : public FormDialog<Ui::Prev> {
   Preview PhysicalKey(const QKeyEvent& event);
 
   Platform& platform_;
-  Doors doors_;
+  Callbacks callbacks_;
   Converter converter_;
   std::string roman_;
   int conversions_ = 0;  // number of conversions begun; a running one stops unless it is the last

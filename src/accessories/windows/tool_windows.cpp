@@ -26,7 +26,7 @@ void Stroke(MainWindow& main, const QKeyEvent& key) {
 }
 
 // Whether the calculator is the whole program.
-bool StandsAlone(const ProgramParts& parts) { return parts.doors.mode() == StartMode::kCalculator; }
+bool StandsAlone(const ProgramParts& parts) { return parts.session.Mode() == StartMode::kCalculator; }
 
 std::unique_ptr<Kalkul> MakeKalkul(const ProgramParts& parts) {
   WindowRegistry& windows = parts.windows;
@@ -38,19 +38,19 @@ std::unique_ptr<Kalkul> MakeKalkul(const ProgramParts& parts) {
   const auto hide_converter = [&windows] {
     if (Prev* converter = windows.Find<Prev>()) converter->hide();
   };
-  Kalkul::Doors doors{hand_over, [&windows] { windows.Get<Prev>().Present(); }, hide_converter,
-                      [&windows] { windows.Unload<Kalkul>(); }, [] { EndProgram(EXIT_SUCCESS); }};
-  return std::make_unique<Kalkul>(parts.platform, alone, std::move(doors), alone ? nullptr : &parts.main);
+  Kalkul::Callbacks callbacks{hand_over, [&windows] { windows.Get<Prev>().Present(); }, hide_converter,
+                              [&windows] { windows.Unload<Kalkul>(); }, [] { EndProgram(EXIT_SUCCESS); }};
+  return std::make_unique<Kalkul>(parts.platform, alone, std::move(callbacks), alone ? nullptr : &parts.main);
 }
 
 std::unique_ptr<Prev> MakePrev(const ProgramParts& parts) {
   const bool alone = StandsAlone(parts);
-  Prev::Doors doors{[&text = parts.editor.text](const std::string& number) { InsertAtCaret(text, number); },
-                    [&windows = parts.windows](const std::string& number) {
-                      windows.Get<Kalkul>().SetNumber(number);
-                      windows.Get<Kalkul>().Present();
-                    }};
-  return std::make_unique<Prev>(parts.platform, alone, std::move(doors), alone ? nullptr : &parts.main);
+  Prev::Callbacks callbacks{[&text = parts.editor.text](const std::string& number) { InsertAtCaret(text, number); },
+                            [&windows = parts.windows](const std::string& number) {
+                              windows.Get<Kalkul>().SetNumber(number);
+                              windows.Get<Kalkul>().Present();
+                            }};
+  return std::make_unique<Prev>(parts.platform, alone, std::move(callbacks), alone ? nullptr : &parts.main);
 }
 
 }  // namespace
@@ -59,7 +59,7 @@ void AddToolWindows(const ProgramParts& parts) {
   const auto text = std::ref(parts.editor.text);
   const auto platform = std::ref(parts.platform);
   parts.Add<ColorDialog>({}, platform);
-  parts.doors.pick_color = [&windows = parts.windows](Color color) {
+  parts.services.pick_color = [&windows = parts.windows](Color color) {
     return windows.Get<ColorDialog>().PickColor(color);
   };
   parts.Add<Morse>({"mnumorse"}, platform);
@@ -67,7 +67,7 @@ void AddToolWindows(const ProgramParts& parts) {
   parts.Add<Kod>({"mnuASCII"}, text, [&main = parts.main](const QKeyEvent& key) { Stroke(main, key); });
   parts.windows.Register<Kalkul>([parts] { return MakeKalkul(parts); });
   parts.windows.Register<Prev>([parts] { return MakePrev(parts); });
-  parts.stand_alones[StartMode::kCalculator] = [&windows = parts.windows] { windows.Get<Kalkul>().Present(); };
+  parts.services.show_alone[StartMode::kCalculator] = [&windows = parts.windows] { windows.Get<Kalkul>().Present(); };
   parts.ShowBy<Kalkul>({"mnucalk"});
 }
 

@@ -19,7 +19,7 @@ void RotateSelection(const ProgramParts& parts) {
 void AddCipherWindows(const ProgramParts& parts) {
   const auto text = std::ref(parts.editor.text);
   const auto platform = std::ref(parts.platform);
-  parts.Add<ZaKod>({"mnucode"}, std::ref(parts.editor), [&closed = parts.doors.closed] { return closed(); });
+  parts.Add<ZaKod>({"mnucode"}, std::ref(parts.editor), [&session = parts.session] { return session.Closed(); });
   parts.Add<ShiftKod>({"mnu_encrypt_shift"}, text, platform);
   parts.Add<Confeld>({"Mnu_Encrypt_Confeld"}, text, platform);
   parts.Add<RND_Sifra>({"mnu_rnd_encrypt"}, std::ref(parts.editor));

@@ -13,7 +13,7 @@ void AddFileWindows(const ProgramParts& parts) {
   parts.Add<Otevri>({"mnuopen", "Open"}, std::ref(parts.files.opener), platform);
   parts.Add<Uloz>({"mnusave", "Save"}, std::ref(parts.editor.documents), std::ref(parts.files.saver));
   parts.Add<Dos_Unix_conv>({"mnu_utiliti_dos_unix"}, platform);
-  parts.Add<DirSetup>({"mnudir"}, std::cref(parts.file_pickers));
+  parts.Add<DirSetup>({"mnudir"}, std::cref(parts.services.folder_browsers));
   parts.AddFilePicker<Otevri>();
   parts.AddFilePicker<Uloz>();
   parts.AddFilePicker<Dos_Unix_conv>();

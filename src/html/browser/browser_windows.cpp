@@ -25,7 +25,7 @@ FrmBrowser* Browser(const ProgramParts& parts, BrowserModule& module) {
 
 void AddShowCommand(const ProgramParts& parts, std::string_view name, PageEnd end) {
   parts.editor.commands.Add(name, [parts, end] {
-    if (const auto page = PageToShow(parts.editor, end)) parts.doors.show_in_browser(*page);
+    if (const auto page = PageToShow(parts.editor, end)) parts.services.show_in_browser(*page);
   });
 }
 
@@ -35,15 +35,15 @@ void AddBrowserWindows(const ProgramParts& parts) {
   const auto module = std::make_shared<BrowserModule>();
   parts.windows.Register<FrmBrowser>([parts, module]() -> std::unique_ptr<FrmBrowser> {
     if (module->Maker() == nullptr) return nullptr;
-    const bool alone = parts.doors.mode() == StartMode::kBrowser;
+    const bool alone = parts.session.Mode() == StartMode::kBrowser;
     return std::make_unique<FrmBrowser>(*module->Maker(), parts.platform,
                                         alone ? [] { EndProgram(EXIT_SUCCESS); } : std::function<void()>());
   });
-  parts.doors.show_in_browser = [parts, module](const std::string& path) {
+  parts.services.show_in_browser = [parts, module](const std::string& path) {
     if (path.empty()) return;
     if (FrmBrowser* browser = Browser(parts, *module)) browser->ShowInBrowser(path);
   };
-  parts.stand_alones[StartMode::kBrowser] = [parts, module] {
+  parts.services.show_alone[StartMode::kBrowser] = [parts, module] {
     FrmBrowser* browser = Browser(parts, *module);
     if (browser == nullptr) return EndProgram(EXIT_FAILURE);
     browser->ShowAlone();

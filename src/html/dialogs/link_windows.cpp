@@ -12,8 +12,8 @@ void AddLinkWindows(const ProgramParts& parts) {
   const auto text = std::ref(parts.editor.text);
   const auto settings = std::cref(parts.editor.settings);
   const auto remember = [&windows = parts.windows](const QString& name) { windows.Get<Odkaz>().AddAnchor(name); };
-  parts.Add<Obrazek>({"mnuobr", "Image"}, text, parts.BrowserDoor());
-  parts.Add<OdkazNaJiny>({"mnuodkazjiny", "Link"}, text, parts.BrowserDoor());
+  parts.Add<Obrazek>({"mnuobr", "Image"}, text, parts.BrowserCallback());
+  parts.Add<OdkazNaJiny>({"mnuodkazjiny", "Link"}, text, parts.BrowserCallback());
   parts.Add<Odkaz>({"mnuodkaz"}, text);
   parts.Add<Kotva>({"mnukotva"}, text, remember);
   parts.Add<MailTo>({"mnumailto"}, text, std::cref(settings.get().UserEmail));

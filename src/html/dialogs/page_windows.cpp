@@ -15,11 +15,11 @@ void AddPageWindows(const ProgramParts& parts) {
   const auto ask_row = [&windows = parts.windows] { return windows.Get<TableRow>().AskAttributes(); };
   parts.Add<Table>({"mnutable", "Table"}, text, ask_cell, ask_row);
   parts.Add<TableRow>({"mnurow"}, text);
-  parts.Add<TableCell>({"mnucell"}, text, parts.ColorDoor());
+  parts.Add<TableCell>({"mnucell"}, text, parts.ColorCallback());
   parts.Add<Frames>({"mnuHTML_fset"}, text);
-  parts.Add<Frame>({"mnuHTML_Fme"}, text, parts.BrowserDoor());
+  parts.Add<Frame>({"mnuHTML_Fme"}, text, parts.BrowserCallback());
   parts.Add<Vytvor>({"mnucreate", "Newhtml"}, text, std::ref(parts.main), std::cref(parts.editor.settings),
-                    std::ref(parts.platform), Vytvor::Doors{parts.ColorDoor(), parts.BrowserDoor()});
+                    std::ref(parts.platform), Vytvor::Callbacks{parts.ColorCallback(), parts.BrowserCallback()});
   parts.AddFilePicker<Frame>();
   parts.AddFilePicker<Vytvor>();
 }

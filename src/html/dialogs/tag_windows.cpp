@@ -27,7 +27,7 @@ void AddTagWindows(const ProgramParts& parts) {
   parts.Add<Odstavec>({"mnuparagraph"}, text);
   parts.Add<Hr>({"mnuhr", "Line"}, text);
   parts.Add<Nadpis>({"mnulabel"}, text);
-  parts.Add<Barva>({"mnubarva"}, text, parts.ColorDoor());
+  parts.Add<Barva>({"mnubarva"}, text, parts.ColorCallback());
   parts.Add<LineLabel>({"mnulinelabel"}, text);
   parts.Add<Label>({"mnulinelabel2"}, text);
   parts.Add<Zlomek>({"mnubreak"}, text);
@@ -45,7 +45,7 @@ void AddTagWindows(const ProgramParts& parts) {
   parts.editor.commands.Add("Mnu_Insert_Custom_Tag",
                             [&windows = parts.windows] { windows.Get<Tagy>().InsertCustomTag(); });
   parts.editor.commands.Add(
-      "Mnu_Edit_Tag", [parts] { EdiTag(parts.editor.text, parts.platform, parts.ColorDoor(), &parts.main).Run(); });
+      "Mnu_Edit_Tag", [parts] { EdiTag(parts.editor.text, parts.platform, parts.ColorCallback(), &parts.main).Run(); });
 }
 
 }  // namespace pelmar

@@ -11,7 +11,7 @@
 namespace pelmar {
 
 Vytvor::Vytvor(TextBuffer& buffer, MainView& view, const SettingsRecord& settings, Platform& platform,
-               const Doors& doors, QWidget* parent)
+               const Callbacks& callbacks, QWidget* parent)
     : FragmentDialog(buffer, parent),
       view_(view),
       settings_(settings),
@@ -19,10 +19,10 @@ Vytvor::Vytvor(TextBuffer& buffer, MainView& view, const SettingsRecord& setting
       choice_(FileChoice::Of(*ui_, ui_->Check4, ui_->Label10)) {
   setObjectName(QStringLiteral("Vytvoř"));
   ui_->Text1->SetText(ToBytes(kPreviewText));
-  ConnectColors(doors.pick_color);
+  ConnectColors(callbacks.pick_color);
   EnableWith(ui_->Check8, {ui_->HScroll1});
   ShowValue(ui_->HScroll1, ui_->Label14);
-  choice_.Link(doors.show_in_browser);
+  choice_.Link(callbacks.show_in_browser);
   EnableWith(ui_->Check3, {ui_->Drive1, ui_->Dir1, ui_->File1, ui_->Combo1, ui_->Check4});
   connect(ui_->Check3, &QCheckBox::toggled, this, &Vytvor::Check3_Click);
 }

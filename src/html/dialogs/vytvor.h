@@ -18,12 +18,12 @@ class Vytvor : public FragmentDialog<Ui::Vytvor> {
   Q_OBJECT
 
  public:
-  struct Doors {
+  struct Callbacks {
     std::function<Color(Color)> pick_color;
     std::function<void(const std::string& path)> show_in_browser;
   };
-  Vytvor(TextBuffer& buffer, MainView& view, const SettingsRecord& settings, Platform& platform, const Doors& doors,
-         QWidget* parent);
+  Vytvor(TextBuffer& buffer, MainView& view, const SettingsRecord& settings, Platform& platform,
+         const Callbacks& callbacks, QWidget* parent);
 
  private:
   void ConnectColors(const std::function<Color(Color)>& pick_color);

@@ -6,12 +6,12 @@
 
 namespace pelmar {
 
-std::function<void(const std::string& path)> ProgramParts::BrowserDoor() const {
-  return [&show = doors.show_in_browser](const std::string& path) { show(path); };
+std::function<void(const std::string& path)> ProgramParts::BrowserCallback() const {
+  return [&show = services.show_in_browser](const std::string& path) { show(path); };
 }
 
-std::function<Color(Color)> ProgramParts::ColorDoor() const {
-  return [&pick = doors.pick_color](Color color) { return pick(color); };
+std::function<Color(Color)> ProgramParts::ColorCallback() const {
+  return [&pick = services.pick_color](Color color) { return pick(color); };
 }
 
 QWidget* ProgramParts::Parent() const { return &main; }
@@ -22,7 +22,7 @@ void ProgramParts::ShowBy(std::initializer_list<std::string_view> names, std::ty
 }
 
 void ProgramParts::AddFilePicker(std::type_index window) const {
-  file_pickers.emplace_back([&shown = windows, window] { return FolderBrowserOf(shown.Get(window)); });
+  services.folder_browsers.emplace_back([&shown = windows, window] { return FolderBrowserOf(shown.Get(window)); });
 }
 
 }  // namespace pelmar

@@ -13,7 +13,7 @@
 #include "platform/platform.h"
 #include "shell/editor.h"
 #include "shell/services/window_registry.h"
-#include "shell/stand_alone.h"
+#include "shell/session_state.h"
 
 namespace pelmar {
 
@@ -21,25 +21,20 @@ struct Files;
 class MainWindow;
 struct FolderBrowser;
 
-// The function that shows an accessory as the whole program, for each mode.
-using StandAlones = std::map<StartMode, std::function<void()>>;
-
-// Called before an error or the system ends the program. Each function saves the unsaved texts of its window and
-// returns a notice with their place, UTF-8. "" if there were no unsaved texts.
-using Keepers = std::vector<std::function<std::string()>>;
-
-// The folder browsers of all dialogs that pick files. Each function creates its dialog when called.
-using FilePickers = std::vector<std::function<FolderBrowser()>>;
-
-// Functions that windows call. Program sets them except where noted.
-struct Doors {
-  std::function<void()> store_settings;  // stores all but the window's state
-  std::function<StartMode()> mode;
-  std::function<bool()> closed;  // the program is ending and the settings are already stored
-  // Shows a file in the internal browser, which sets this function. The path is UTF-8; an empty path does nothing.
+// What the windows of one subsystem do for the other windows and for Program. The function that registers a window sets
+// the window's services.
+struct WindowServices {
+  // Shows a file in the internal browser. The path is UTF-8; an empty path does nothing.
   std::function<void(const std::string& path)> show_in_browser;
-  // Asks for a colour, with the given one as the initial choice. The colour dialog sets this function.
+  // Asks for a colour, with the given one as the initial choice.
   std::function<Color(Color)> pick_color;
+  // Shows an accessory as the whole program.
+  std::map<StartMode, std::function<void()>> show_alone;
+  // Saves unsaved notes at once, before an error or the system ends the program. Returns a notice with their place,
+  // UTF-8, or "" if there were no unsaved notes.
+  std::function<std::string()> keep_notes;
+  // The folder browsers of all dialogs that pick files. Each function creates its dialog when called.
+  std::vector<std::function<FolderBrowser()>> folder_browsers;
 };
 
 struct ProgramParts {
@@ -48,14 +43,12 @@ struct ProgramParts {
   Files& files;
   MainWindow& main;
   WindowRegistry& windows;
-  StandAlones& stand_alones;
-  Keepers& keepers;
-  FilePickers& file_pickers;
-  Doors& doors;
+  SessionState& session;
+  WindowServices& services;
 
-  // Functions that call show_in_browser and pick_color. A window may get them before these two are set.
-  [[nodiscard]] std::function<void(const std::string& path)> BrowserDoor() const;
-  [[nodiscard]] std::function<Color(Color)> ColorDoor() const;
+  // Functions that call the services show_in_browser and pick_color. A window may get them before these two are set.
+  [[nodiscard]] std::function<void(const std::string& path)> BrowserCallback() const;
+  [[nodiscard]] std::function<Color(Color)> ColorCallback() const;
 
   // Registers the window, and commands with these names that show it. The window's constructor gets copies of `with`,
   // then the main window as parent. Use std::ref for an argument that must not be copied.

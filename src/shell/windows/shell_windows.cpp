@@ -14,7 +14,7 @@ void AddShellWindows(const ProgramParts& parts) {
   const auto settings = std::ref(parts.editor.settings);
   const auto platform = std::ref(parts.platform);
   const auto main = std::ref(parts.main);
-  parts.Add<Config>({}, settings, platform, [parts] { parts.doors.store_settings(); });
+  parts.Add<Config>({}, settings, platform, [parts] { parts.session.StoreSettings(); });
   parts.Add<Pass>({}, settings, platform, [parts](bool hide) { parts.main.HideText(hide); });
   parts.Add<Hlp>({}, platform, [parts] { parts.windows.Get<O>().Present(); });
   parts.Add<O>({"mnuabout"}, settings, platform);
@@ -23,8 +23,8 @@ void AddShellWindows(const ProgramParts& parts) {
   parts.windows.Register<Start>([parts] {
     return std::make_unique<Start>(
         parts.editor.settings,
-        Start::Doors{[parts] { parts.main.ShowMain(); }, [parts] { parts.editor.commands.Run("mnuopen"); },
-                     [parts] { parts.windows.Get<Config>().Run(); }});
+        Start::Callbacks{[parts] { parts.main.ShowMain(); }, [parts] { parts.editor.commands.Run("mnuopen"); },
+                         [parts] { parts.windows.Get<Config>().Run(); }});
   });
   parts.ShowBy<Start>({"mnustart"});
   for (const std::string_view name : {"mnuhlp", "Help"})

@@ -19,8 +19,8 @@ bool IsModifier(int key) {
 
 }  // namespace
 
-Start::Start(SettingsRecord& settings, Doors doors)
-    : FormDialog(nullptr), settings_(settings), doors_(std::move(doors)) {
+Start::Start(SettingsRecord& settings, Callbacks callbacks)
+    : FormDialog(nullptr), settings_(settings), callbacks_(std::move(callbacks)) {
   ui_->Label8->setContentsMargins(kShadow, kShadow, 0, 0);
   ui_->Check1->setChecked(!settings_.ShowStart);
   ui_->Label9->installEventFilter(this);
@@ -49,17 +49,17 @@ bool Start::eventFilter(QObject* watched, QEvent* event) {
 
 void Start::Leave() {
   hide();
-  doors_.show_main();
+  callbacks_.show_main();
 }
 
 void Start::Command2_Click() {
-  doors_.show_main();
+  callbacks_.show_main();
   hide();
-  doors_.show_open();
+  callbacks_.show_open();
 }
 
 void Start::Label9_Click() {
-  doors_.show_config();
+  callbacks_.show_config();
   ui_->Label9->setText(TextToQString(settings_.UserName));
 }
 

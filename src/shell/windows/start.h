@@ -16,12 +16,12 @@ class Start : public FormDialog<Ui::Start> {
   Q_OBJECT
 
  public:
-  struct Doors {
+  struct Callbacks {
     std::function<void()> show_main;
     std::function<void()> show_open;
     std::function<void()> show_config;  // modal
   };
-  Start(SettingsRecord& settings, Doors doors);
+  Start(SettingsRecord& settings, Callbacks callbacks);
 
   void reject() override { Leave(); }
 
@@ -35,7 +35,7 @@ class Start : public FormDialog<Ui::Start> {
   void Label9_Click();
 
   SettingsRecord& settings_;
-  Doors doors_;
+  Callbacks callbacks_;
 };
 
 }  // namespace pelmar

@@ -30,7 +30,7 @@ void AddTextWindows(const ProgramParts& parts) {
   parts.Add<Zamena>({"mnuchange"}, text, platform, match);
   parts.Add<Vyber>({}, text);
   parts.Add<Visual>({}, std::ref(parts.main), std::ref(parts.editor.settings),
-                    Visual::Doors{parts.ColorDoor(), [&windows] { windows.Anew<Pos>().Present(); }});
+                    Visual::Callbacks{parts.ColorCallback(), [&windows] { windows.Anew<Pos>().Present(); }});
   parts.editor.commands.Add("mnupresnvyb", [&windows] {
     auto& window = windows.Anew<Vyber>();
     if (window.isVisible()) window.Load();  // the selection may have changed

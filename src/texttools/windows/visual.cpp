@@ -9,8 +9,8 @@
 
 namespace pelmar {
 
-Visual::Visual(MainView& view, SettingsRecord& settings, Doors doors, QWidget* parent)
-    : FormDialog(parent), view_(view), settings_(settings), doors_(std::move(doors)) {
+Visual::Visual(MainView& view, SettingsRecord& settings, Callbacks callbacks, QWidget* parent)
+    : FormDialog(parent), view_(view), settings_(settings), callbacks_(std::move(callbacks)) {
   ConnectPreview();
   connect(ui_->Check1, &QCheckBox::clicked, this, [this](bool checked) { settings_.LineCounting = checked; });
   connect(ui_->VScroll7, &QScrollBar::valueChanged, this, &Visual::VScroll7_Change);
@@ -21,7 +21,7 @@ Visual::Visual(MainView& view, SettingsRecord& settings, Doors doors, QWidget* p
   connect(ui_->Command2, &QPushButton::clicked, this, &Visual::hide);
   connect(ui_->Command3, &QPushButton::clicked, this, &Visual::Command3_Click);
   connect(ui_->Command4, &QPushButton::clicked, this, [this] { ApplyDosLook(view_); });
-  connect(ui_->Command7, &QPushButton::clicked, this, [this] { doors_.show_pos(); });
+  connect(ui_->Command7, &QPushButton::clicked, this, [this] { callbacks_.show_pos(); });
 }
 
 std::array<std::pair<QRadioButton*, std::string_view>, 3> Visual::Fonts() const {
@@ -39,10 +39,11 @@ void Visual::ConnectPreview() {
     });
   ui_->Combo1->setCompleter(nullptr);  // Qt would complete a typed "2" to "24"
   connect(ui_->Combo1, &QComboBox::editTextChanged, this, &Visual::Combo1_Change);
-  connect(ui_->Command8, &QPushButton::clicked, this,
-          [this] { ui_->Label1->setTextColor(ColorToQt(doors_.pick_color(ColorFromQt(ui_->Label1->TextColor())))); });
+  connect(ui_->Command8, &QPushButton::clicked, this, [this] {
+    ui_->Label1->setTextColor(ColorToQt(callbacks_.pick_color(ColorFromQt(ui_->Label1->TextColor()))));
+  });
   connect(ui_->Command9, &QPushButton::clicked, this, [this] {
-    ui_->Label1->setBackgroundColor(ColorToQt(doors_.pick_color(ColorFromQt(ui_->Label1->BackgroundColor()))));
+    ui_->Label1->setBackgroundColor(ColorToQt(callbacks_.pick_color(ColorFromQt(ui_->Label1->BackgroundColor()))));
   });
 }
 

@@ -22,11 +22,11 @@ class Visual : public FormDialog<Ui::Visual> {
   Q_OBJECT
 
  public:
-  struct Doors {
+  struct Callbacks {
     std::function<Color(Color)> pick_color;
     std::function<void()> show_pos;
   };
-  Visual(MainView& view, SettingsRecord& settings, Doors doors, QWidget* parent);
+  Visual(MainView& view, SettingsRecord& settings, Callbacks callbacks, QWidget* parent);
 
   // Call when the main text box has changed its font size, or the status bar has switched the line counting.
   void FollowFontSize();
@@ -47,7 +47,7 @@ class Visual : public FormDialog<Ui::Visual> {
 
   MainView& view_;
   SettingsRecord& settings_;
-  Doors doors_;
+  Callbacks callbacks_;
 };
 
 }  // namespace pelmar

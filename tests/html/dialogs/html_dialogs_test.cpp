@@ -39,8 +39,8 @@ struct HtmlDialogTest : ProgramTest {
   int picked = 0;                  // how many colours were asked for; the first is #FF0010, the next #FF0011 ...
 
   HtmlDialogTest() {
-    doors.show_in_browser = [this](const std::string& path) { shown.push_back(path); };
-    doors.pick_color = [this](Color) { return Rgb(255, 0, 16 + picked++); };
+    services.show_in_browser = [this](const std::string& path) { shown.push_back(path); };
+    services.pick_color = [this](Color) { return Rgb(255, 0, 16 + picked++); };
     platform.now = {2026, 11, 24, 9, 5, 0};
     editor.settings.UserName = "Jan Novák"_w;
     editor.settings.UserEmail = "žluť@b.cz"_w;

@@ -292,7 +292,7 @@ struct VisualTest : ProgramTest {
     ApplyLook(main, {"Courier New", Rgb(10, 0, 0), Rgb(200, 200, 200), 12, true, true});
     editor.settings.AutosnapDistance = 300;
     editor.settings.LineCounting = true;
-    doors.pick_color = [](Color color) { return color + 1; };
+    services.pick_color = [](Color color) { return color + 1; };
   }
   // Takes the steps and compares the look of the preview.
   void ExpectPreview(const QWidget& visual, const char* steps, const char* look) {

@@ -1,0 +1,22 @@
+// What windows may know and ask of the running session.
+#pragma once
+
+#include "shell/stand_alone.h"
+
+namespace pelmar {
+
+class SessionState {
+ public:
+  virtual ~SessionState() = default;
+
+  // The editor, or the accessory that is the whole program.
+  [[nodiscard]] virtual StartMode Mode() const = 0;
+
+  // True after a confirmed close: the program is ending and the settings are already stored.
+  [[nodiscard]] virtual bool Closed() const = 0;
+
+  // Writes the settings file, except the state of the main window. Throws RuntimeError if the file can't be written.
+  virtual void StoreSettings() = 0;
+};
+
+}  // namespace pelmar
