@@ -26,7 +26,7 @@ class Program {
   // Starts the program with the joined command-line arguments (UTF-8).
   void Run(const std::string& tail);
 
-  // Before the system ends the program: writes the files of a close and all unsaved texts, at once and without a
+  // Call before the system ends the program. Writes all unsaved texts and the files that a close writes, without a
   // message or a question.
   void KeepUnsaved();
 
@@ -58,12 +58,12 @@ class Program {
   Keepers keepers_;
   FilePickers file_pickers_;
   Doors doors_;
-  WindowRegistry windows_;  // below all members that its windows use
+  WindowRegistry windows_;  // after all members that its windows use, so that they outlive it
   ProgramParts parts_{platform_, editor_, files_, main_, windows_, stand_alones_, keepers_, file_pickers_, doors_};
 };
 
 // The command-line arguments joined by blanks. The relative path of an existing file becomes absolute, if possible
-// without "." and "..".
+// without "." and ".."; a "file://" URL becomes its path.
 std::string CommandTail(const QStringList& arguments);
 
 }  // namespace pelmar
