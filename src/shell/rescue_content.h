@@ -30,7 +30,6 @@ class RescueContent {
   const RescueKind kind;
   const RescueWords words;
 
-  // The texts that are unsaved now.
   [[nodiscard]] virtual RescueRecord Unsaved() const = 0;
   // The content of a text file with these texts, for a person to read.
   [[nodiscard]] virtual std::string Readable(const std::vector<RescuedText>& texts) const = 0;

@@ -17,14 +17,14 @@ constexpr std::string_view kLockSuffix = ".lock";
 
 std::string LockPath(const std::string& rescue) { return rescue + std::string(kLockSuffix); }
 
-// The time in the name tells apart two copies that had the same process number.
+// The time in the name distinguishes two copies that had the same process ID.
 std::string FileName(std::string_view prefix) {
   const auto now = std::chrono::system_clock::now().time_since_epoch();
   return std::string(prefix) + std::to_string(::getpid()) + "-" +
          std::to_string(std::chrono::duration_cast<std::chrono::microseconds>(now).count()) + std::string(kSuffix);
 }
 
-// The names of all rescue files in the folder, and of locks whose rescue file doesn't exist.
+// The names of all rescue files in the folder, including files of which only the lock exists.
 std::set<std::string> RescueNames(const std::string& folder, std::string_view prefix) {
   std::set<std::string> names;
   std::error_code error;

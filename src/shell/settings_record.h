@@ -47,7 +47,7 @@ SettingsRecord ReadSettings(std::string_view bytes);
 // The record's bytes. A string longer than 65,535 bytes is cut.
 std::string SettingsBytes(const SettingsRecord& record);
 
-// Repairs a loaded record: a missing font name, equal colours of text and background, lengths larger than any desktop.
+// Repairs a loaded record: a missing font name, equal colours of text and background.
 void ApplySettingsDefaults(SettingsRecord& record);
 
 }  // namespace pelmar
