@@ -26,7 +26,7 @@ class Opener {
  public:
   Opener(Documents& documents, RecentFiles& recent, Platform& platform, FileNumber& file_number);
 
-  // Opens a file into the current tab. Reports a missing or too long file; throws RuntimeError if a file can't be read.
+  // Opens a file into the current tab. Reports a missing or too long file. Throws RuntimeError if reading fails.
   // required: a name without an extension throws after the text has been loaded, and leaves file number 1 open.
   void OpenPath(const std::string& path);
 

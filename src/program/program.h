@@ -26,7 +26,7 @@ class Program {
   // Starts the program with the joined command-line arguments (UTF-8).
   void Run(const std::string& tail);
 
-  // Call before the system ends the program. Writes all unsaved texts and the files that a close writes, without a
+  // Call before the system ends the program. Writes all unsaved texts and the files of Session::StoreAll, without a
   // message or a question.
   void KeepUnsaved();
 

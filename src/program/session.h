@@ -33,10 +33,9 @@ class Session {
   // Opens the file or shows the window that the command line names. `tail` is the joined command line (UTF-8).
   void Act(std::string_view tail);
 
-  // Writes the files, then asks about unsaved changes. False if the person doesn't want to close. Throws RuntimeError
-  // if a file can't be written.
+  // Calls StoreAll, then asks about unsaved changes. False if the person doesn't want to close.
   bool Close();
-  // Writes the files that a close writes: the current text, all texts and the settings. Throws RuntimeError like Close.
+  // Writes the files of the current text, of all texts and of the settings. Throws RuntimeError if a write fails.
   void StoreAll();
 
   // Writes the settings file. The window's state changes only in StoreAll.

@@ -1,7 +1,7 @@
 // The five documents, which share one text box. required: the state of a document lies in four places, which may
-// disagree. The box holds the current text. `current path` holds its path. The tool tip of a tab holds the path that a
-// switch to the tab restores. The "*" in the title marks unsaved changes. Tabs count from 1. Texts are Windows-1250,
-// all other strings UTF-8.
+// disagree. The box holds the current text. CurrentPath() is the path of this text. The tool tip of a tab holds the
+// path that a switch to the tab restores. The "*" in the title marks unsaved changes. Tabs count from 1. Texts are
+// Windows-1250, all other strings UTF-8.
 #pragma once
 
 #include <array>
@@ -40,7 +40,7 @@ struct TabFace {
 
 class Documents {
  public:
-  // Construct this object before any view of the text, so that it is notified first.
+  // Construct this object before any view of the text, so that views are notified later.
   explicit Documents(TextBuffer& buffer);
 
   void SwitchTo(int tab);

@@ -31,7 +31,7 @@ class MainPlace {
   MainPlace& operator=(const MainPlace&) = delete;
   virtual ~MainPlace() = default;
 
-  // A width or height below 1 stands for the initial one.
+  // The initial width or height replaces a value below 1.
   virtual void SetPlace(const TwipsRect& place) = 0;
   [[nodiscard]] virtual TwipsRect Place() const = 0;
   virtual void SetWindowState(WindowMode state) = 0;

@@ -70,8 +70,8 @@ class TextBuffer {
   // Typing and deleting by hand. Letters typed one after the other are one step of undo, and so are deleted letters,
   // until the caret moves or a line ends.
   void Type(std::string_view text);
-  void EraseBefore(std::size_t count);  // with a selection: the selection
-  void EraseAfter(std::size_t count);   // with a selection: the selection
+  void EraseBefore(std::size_t count);  // erases only the selection if there is one
+  void EraseAfter(std::size_t count);   // erases only the selection if there is one
 
   [[nodiscard]] bool CanUndo() const { return !undo_.empty(); }
   [[nodiscard]] bool CanRedo() const { return !redo_.empty(); }

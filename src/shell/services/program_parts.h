@@ -33,7 +33,7 @@ using FilePickers = std::vector<std::function<FolderBrowser()>>;
 
 // Functions that windows call. Program sets them except where noted.
 struct Doors {
-  std::function<void()> store_settings;  // stores all but the window's state
+  std::function<void()> store_settings;  // stores all settings but the window's state
   std::function<StartMode()> mode;
   std::function<bool()> closed;  // the program is ending and the settings are already stored
   // Shows a file in the internal browser, which sets this function. The path is UTF-8; an empty path does nothing.

@@ -165,7 +165,7 @@ void RescueKeeper::End() {
   ReportFailure(0);
 }
 
-// Reads rescue files and keeps in `files` only the names of those that are complete. The other files stay on disk.
+// Reads rescue files and keeps in `files` only the names of complete files. The other files stay on disk.
 std::vector<RescueRecord> RescueKeeper::ReadAbandoned(std::vector<std::string>& files) {
   std::vector<RescueRecord> records;
   std::vector<RescuedText> seen;

@@ -132,8 +132,8 @@ bool MenuBar::RunGrey(const QKeyEvent& keys, const std::function<MenuState()>& n
   return false;
 }
 
-// Opens the menu with the access key. Two menus have the key T: T opens the first and, if this is open, the second. A
-// disabled menu takes its key but stays closed.
+// Opens the menu with the access key. Two menus have the key T: T opens the first menu and, if the first is open,
+// the second. A disabled menu takes its key but stays closed.
 bool MenuBar::OpenByAccessKey(const QKeySequence& key) {
   QList<QAction*> menus = actions();
   menus.removeIf([&key](const QAction* menu) { return !HasAccessKey(*menu, key); });
