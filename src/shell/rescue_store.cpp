@@ -60,8 +60,8 @@ std::vector<std::string> FindAbandoned(const std::string& folder, std::string_vi
   if (names.empty() || offer.IsHeld() || offer.Take(folder + std::string(prefix) + "offer.lock") != 0) return {};
   std::vector<std::string> found;
   for (const std::string& name : names) {
-    LockFile copy;  // a lock without a rescue file is removed here too
-    if (copy.Take(LockPath(folder + name)) != 0) continue;
+    LockFile lock;  // a lock without a rescue file is removed here too
+    if (lock.Take(LockPath(folder + name)) != 0) continue;
     if (access((folder + name).c_str(), F_OK) == 0) found.push_back(folder + name);
   }
   if (found.empty()) offer.Release();
