@@ -40,15 +40,15 @@ class ToCrLf : public FileRewriter {
 // The title of the messages of a conversion.
 inline constexpr std::string_view kConversionTitle = "Konverze UNIX <-> DOS";
 
-// True if the target is the source file. Reports this to the person.
+// True if the target is the source file, which is reported to the person.
 bool IsOwnSource(Platform& platform, const std::string& path, const std::string& target);
 
-// The path of the converted file. required: the path is cut after its first "." even if this lies in a folder's name. A
-// path without "." gives the bare extension, a file in the current folder.
+// The path of the converted file. required: the path is cut after its first ".", even in the name of a folder. A path
+// without "." becomes the extension alone, a file in the current folder.
 std::string ConvertedPath(std::string_view path, std::string_view extension);
 
-// Convert a file into a new one with the extension "unx" or "dos". Throw RuntimeError if a file fails. A target that is
-// the source file is reported and isn't written.
+// Convert a file into a new file with the extension "unx" or "dos". Throw RuntimeError if a file can't be read or
+// written. A target that is the source file is reported and isn't written.
 void ConvertToUnix(Platform& platform, const std::string& path);  // required: a longer old target keeps its tail
 void ConvertToDos(Platform& platform, const std::string& path);
 

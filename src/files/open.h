@@ -13,34 +13,33 @@
 
 namespace pelmar {
 
-inline constexpr std::uint64_t kLargestDocument = 64'000;
+inline constexpr std::uint64_t kLargestDocument = 64'000;  // bytes
 // The filter of every system dialog that picks a document, and the number of its initial row (from 1).
 inline constexpr std::string_view kDocumentFilter =
     "Všechno (*.*)|*.*|jen text (*.txt)|*.txt|dávky (*.bat)|*.bat|Html dokument (*.html)|*.html|"
     "htm dokument (*.htm)|*.htm|ini soubor (*.ini)|*.ini";
 inline constexpr int kDocumentFilterIndex = 2;
 
-// The preview of a file that is too long or can't be read.
 inline constexpr std::string_view kNoPreview = "Není k dispozici"_w;
 
 class Opener {
  public:
   Opener(Documents& documents, RecentFiles& recent, Platform& platform, FileNumber& file_number);
 
-  // Opens a file into the current tab, or reports why this failed. required: a name without an extension throws
-  // RuntimeError after the text has been loaded, and leaves file number 1 open.
+  // Opens a file into the current tab. Reports a missing or too long file. Throws RuntimeError if reading fails.
+  // required: a name without an extension throws after the text has been loaded, and leaves file number 1 open.
   void OpenPath(const std::string& path);
 
-  // Opens entry 1 to 10 of the recent files. A failure ends the command in silence.
+  // Opens entry 1 to 10 of the recent files. Ignores a RuntimeError of OpenPath.
   void OpenRecentFile(int number);
 
-  // Shows the system's open dialog, then opens the file. Cancel or a failure ends the command in silence.
+  // Shows the system's open dialog, then opens the file. Ignores a RuntimeError of OpenPath.
   void OpenStandard();
 
-  // Asks, then reads the current file again. A failure ends the command in silence.
+  // Asks, then reads the current file again. Ignores a RuntimeError of OpenPath.
   void ReloadFile();
 
-  // The preview of a file: its bytes, or kNoPreview if the file is too long or can't be read.
+  // The bytes of a file, or kNoPreview if the file is too long or can't be read, or if file number 1 is open.
   std::string Preview(const std::string& path);
 
  private:

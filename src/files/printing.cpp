@@ -15,14 +15,14 @@ namespace {
 constexpr std::string_view kMargin = "ZZZZZZZZ";
 constexpr std::string_view kBreaks = "\r\n";
 
-// Removes the part before the first of `ends` from the front of `text` and returns the part.
+// Removes the part of `text` before its first character that is in `ends`, and returns this part.
 std::string_view TakeUpTo(std::string_view& text, std::string_view ends) {
   const std::string_view taken = text.substr(0, text.find_first_of(ends));
   text.remove_prefix(taken.size());
   return taken;
 }
 
-// A line end of one character, as in a document of another system, is also a line break on the sheet of paper.
+// A lone CR or LF also breaks the line on paper.
 std::size_t BreakLength(std::string_view text) { return text.starts_with(kCrLf) ? 2 : 1; }
 
 class WordWrap {

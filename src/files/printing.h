@@ -12,7 +12,7 @@ namespace pelmar {
 
 struct Editor;
 
-// A piece of text on paper. `x` is measured from the start of its line. Lines count from 0 through all sheets of paper.
+// A piece of text on paper. `x` is the distance from the start of the line. Lines count from 0 over all pages.
 struct PrintedPiece {
   std::size_t line = 0;
   double x = 0;
@@ -20,9 +20,9 @@ struct PrintedPiece {
   bool operator==(const PrintedPiece&) const = default;
 };
 
-// Lays out words, separated by blanks, on lines of `page_width`. `end_of` returns where a text ends that starts at x
-// and has no line breaks. The pieces point into `text`. required: the width of eight "Z" stays free at the right. A
-// word that doesn't fit starts a new line, even if the current line is empty, and isn't broken.
+// Lays out words, separated by blanks, on lines of `page_width`. `end_of` returns the right end of a text that
+// starts at x and has no line breaks. The pieces point into `text`. required: the width of eight "Z" stays free at the
+// right. A word that doesn't fit starts a new line, even if the current line is empty, and isn't broken.
 std::vector<PrintedPiece> LayOutForPrint(std::string_view text, double page_width,
                                          const std::function<double(double x, std::string_view text)>& end_of);
 

@@ -20,7 +20,7 @@ class RecentFiles {
 
   // Moves a path to the first place, or inserts it there. An empty path changes nothing.
   void PushRecentFile(const std::string& path);
-  // Does the same, and also adds the path to the recent documents of the desktop.
+  // Calls PushRecentFile, and adds the path to the recent documents of the desktop.
   void Remember(const std::string& path);
 
   Listeners<> changed;

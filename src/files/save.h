@@ -16,8 +16,8 @@ class Saver {
  public:
   Saver(Documents& documents, RecentFiles& recent, Platform& platform, FileNumber& file_number);
 
-  // Saves the document and makes the path its file. Asks before it overwrites a file. Writes the text that the document
-  // has after the answer. A failure is reported, and the steps done before it stay done.
+  // Saves the document and makes the path its file. Asks before a file is overwritten, and writes the text that the
+  // document has after the answer. Reports a failure and doesn't undo the steps before the failure.
   void SaveToPath(const std::string& path);
 
   // Writes the text to a file and leaves the document unchanged.

@@ -64,8 +64,8 @@ void Program::AddWindows() {
   AddBrowserWindows(parts_);
 }
 
-// False during the load, because the loaded text is no unsaved work even while it is marked. False if an accessory runs
-// alone: the editor is hidden then and has no document to keep.
+// False during the load, when the title marks the loaded text although it is no unsaved work. False if an accessory
+// runs alone, because the hidden editor then has no document.
 bool Program::KeepsDocuments() const { return loaded_ && session_.Mode() == StartMode::kEditor; }
 
 void Program::ShowAccessory(StartMode mode) {
@@ -81,7 +81,7 @@ void Program::Run(const std::string& tail) {
   session_.Load();
   loaded_ = true;
   session_.Act(tail);
-  // Only the editor offers rescued texts, after its window is open.
+  // Only the editor offers rescued documents, after its first window is open.
   if (session_.Mode() != StartMode::kEditor) return;
   QTimer::singleShot(0, &main_, [this] {
     ReportLeftContents(platform_);
@@ -102,7 +102,7 @@ void Program::KeepUnsaved() {
     try {
       session_.StoreAll();
     } catch (const RuntimeError&) {
-      // The rescue file holds the documents, and nobody is there to read a message.
+      // The rescue file holds the documents, and nobody can read a message.
     }
   }
   services_.keep_notes();

@@ -26,7 +26,7 @@ class Program {
   // Starts the program with the joined command-line arguments (UTF-8).
   void Run(const std::string& tail);
 
-  // Before the system ends the program: writes the files of a close and all unsaved texts, at once and without a
+  // Call before the system ends the program. Writes all unsaved texts and the files of Session::StoreAll, without a
   // message or a question.
   void KeepUnsaved();
 
@@ -55,12 +55,12 @@ class Program {
   StatusTimer timer_;
   std::vector<Listening> listenings_;
   WindowServices services_;
-  WindowRegistry windows_;  // below all members that its windows use
+  WindowRegistry windows_;  // after all members that its windows use, so that they outlive it
   ProgramParts parts_{platform_, editor_, files_, main_, windows_, session_, services_};
 };
 
 // The command-line arguments joined by blanks. The relative path of an existing file becomes absolute, if possible
-// without "." and "..".
+// without "." and ".."; a "file://" URL becomes its path.
 std::string CommandTail(const QStringList& arguments);
 
 }  // namespace pelmar

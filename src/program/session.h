@@ -16,7 +16,7 @@ namespace pelmar {
 
 class Session : public SessionState {
  public:
-  // Functions that show the next window of the start. The main window stays hidden until show_main.
+  // Functions that show windows during the start. The main window stays hidden until show_main.
   struct Callbacks {
     std::function<void()> show_config;  // modal
     std::function<void()> show_main;
@@ -30,13 +30,12 @@ class Session : public SessionState {
   // Call if the clipboard's content arrives after the start. Inserts the content into an empty document that wasn't
   // changed since the load, and doesn't mark the document as changed.
   void TakeLateClipboard();
-  // Shows the window, or opens the file, that the command line names.
+  // Opens the file or shows the window that the command line names. `tail` is the joined command line (UTF-8).
   void Act(std::string_view tail);
 
-  // Writes the files, then asks about unsaved changes. False if the person doesn't want to close. Throws RuntimeError
-  // if a file can't be written.
+  // Calls StoreAll, then asks about unsaved changes. False if the person doesn't want to close.
   bool Close();
-  // Writes the files of a close: the current text, all texts and the settings. Throws RuntimeError like Close.
+  // Writes the files of the current text, of all texts and of the settings. Throws RuntimeError if a write fails.
   void StoreAll();
 
   [[nodiscard]] StartMode Mode() const override { return mode_; }

@@ -1,4 +1,4 @@
-// Small functions for texts that the whole program shares. Texts are Windows-1250.
+// Small text functions that the whole program shares. Texts are Windows-1250.
 #pragma once
 
 #include <cstdint>
@@ -19,8 +19,8 @@ std::string StripDiacritics(std::string_view text);
 // Sets each character to upper or lower case at random. Draws one number for each character.
 std::string RandomCase(std::string_view text, const Draw& draw);
 
-// Replaces each exact occurrence of `find`, which is not empty, from the left. required: the search goes on at the
-// second character of the inserted replacement, so a new occurrence may begin in the replacement but must end after it.
+// Replaces each exact occurrence of `find`, which is not empty, from the left. required: the search continues at the
+// second character of the replacement, so a new occurrence may begin in the replacement but must end after it.
 std::string ReplaceAllText(std::string_view text, std::string_view find, std::string_view with);
 
 // The number of characters of code 10.

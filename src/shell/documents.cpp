@@ -17,13 +17,13 @@ const KnownFile* Documents::CurrentFile() const {
 void Documents::LeaveTab() {
   Current().Text = buffer_.Text();
   Current().Path = current_path_;
-  // required: set only here; saving, opening and a new document clear the flag
+  // required: a change of the text sets the flag only here; saving, opening and a new document clear the flag
   if (Marked()) Current().Modified = true;
 }
 
 void Documents::EnterTab(int entered) {
   selected_ = entered;
-  // required: when SetText notifies the change, current_path_ is still that of the old tab and goes into the slot
+  // required: when SetText notifies the change, the path of the old tab is still current and is stored in the slot
   title_follows_ = true;
   buffer_.SetText(std::exchange(Current().Text, {}));
   title_follows_ = false;
@@ -64,7 +64,7 @@ int Documents::EmptyTab() const {
 void Documents::ClearCurrent() {
   SetFace({}, {});
   Current() = {};
-  // required: when SetText notifies the change, current_path_ isn't cleared yet and goes into the slot
+  // required: when SetText notifies the change, the old path is still current and is stored in the slot
   buffer_.SetText({});
   ForgetPath();
 }

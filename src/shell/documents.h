@@ -1,7 +1,7 @@
 // The five documents, which share one text box. required: the state of a document lies in four places, which may
-// disagree. The box holds the current text. `current path` holds its path. The tool tip of a tab holds the path that a
-// switch to the tab restores. The "*" in the title marks unsaved changes. Tabs count from 1. Texts are Windows-1250,
-// all other strings UTF-8.
+// disagree. The box holds the current text. CurrentPath() is the path of this text. The tool tip of a tab holds the
+// path that a switch to the tab restores. The "*" in the title marks unsaved changes. Tabs count from 1. Texts are
+// Windows-1250, all other strings UTF-8.
 #pragma once
 
 #include <array>
@@ -19,7 +19,7 @@ namespace pelmar {
 
 inline constexpr int kTabCount = 5;
 
-// A document's file when this program opened or saved it.
+// The state of a document's file when this program opened or saved the file.
 struct KnownFile {
   std::string path;
   std::optional<FileStamp> stamp;  // taken before the file was read, or after it was written
@@ -40,7 +40,7 @@ struct TabFace {
 
 class Documents {
  public:
-  // Construct this object before any view of the text, so that it is notified first.
+  // Construct this object before any view of the text, so that views are notified later.
   explicit Documents(TextBuffer& buffer);
 
   void SwitchTo(int tab);
@@ -54,13 +54,12 @@ class Documents {
   [[nodiscard]] bool Marked() const { return title_.marked; }
   [[nodiscard]] TextBuffer& Buffer() { return buffer_; }
   [[nodiscard]] const TextBuffer& Buffer() const { return buffer_; }
-  // The file given to Remember. Null if the current document now has another path or none, as after clearing the tab.
+  // The file given to Remember. Null if the path of the current document has changed since.
   [[nodiscard]] const KnownFile* CurrentFile() const;
   [[nodiscard]] SaveTarget& Target() { return target_; }
 
-  // True if closing the program would lose changes: the slot's flag is set, or the current document is marked.
+  // True if closing the program would lose changes: `Modified` is set, or the current document is marked.
   [[nodiscard]] bool IsUnsaved(int tab) const;
-  // The number of unsaved documents, shown in the question at the close.
   [[nodiscard]] int UnsavedCount() const;
 
   // The first empty tab after the current one, or 0 if no tab is empty.
@@ -70,7 +69,7 @@ class Documents {
   void ClearCurrent();
   // Removes the path and the mark of the current document.
   void ForgetPath();
-  // Clears the flag of slot 1, because the text restored at the start counts as unchanged.
+  // Clears `Modified` of slot 1, because the text loaded at the start counts as unchanged.
   void ForgetFirstSlotsMark() { slots_[0].Modified = false; }
   // Puts a document rescued after a crash into the tab, selects the tab and marks the document as unsaved.
   void Restore(int tab, std::string text, const std::string& path);
@@ -80,7 +79,7 @@ class Documents {
   // Makes the path the file of the current document and counts the text as saved. A name without an extension throws
   // RuntimeError after the current path has been set; nothing else of the document changes then.
   void MakeCurrent(const std::string& path);
-  // Loads the text of an opened file and then calls MakeCurrent(path). If that throws, the text stays loaded.
+  // Loads the text of an opened file and then calls MakeCurrent(path). If this call throws, the text stays loaded.
   void MakeCurrent(const std::string& path, std::string text);
 
   Listeners<> title_changed;
@@ -109,7 +108,7 @@ class Documents {
   std::string current_path_;
   TitleParts title_;
   SaveTarget target_;
-  bool title_follows_ = false;  // the title will be set after this text change, so its listeners are notified once
+  bool title_follows_ = false;  // the title is set after this change of the text, so title_changed is notified once
   Listening changes_;
 };
 

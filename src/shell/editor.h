@@ -1,5 +1,5 @@
-// The program without its windows: the text, the documents, the settings and the commands that need no window. Windows
-// get the parts they need through their constructors.
+// The program without its windows: the text, the documents, the settings and the commands. Windows get the parts they
+// need through their constructors.
 #pragma once
 
 #include "platform/platform.h"

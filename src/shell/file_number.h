@@ -1,7 +1,7 @@
 // File number 1 is a lock that the whole program shares. An operation on a document or on the program's own files holds
-// the number, so only one runs at a time. required: if an error interrupts the opening of a document, the number stays
-// in use, and every later operation fails until the program is restarted. The rescue and the conversions of files don't
-// use the number.
+// the number, so only one operation runs at a time. required: if an error interrupts the opening of a document, the
+// number stays in use, and every later operation fails until the program is restarted. The rescue and the conversions
+// of files don't use the number.
 #pragma once
 
 #include <cerrno>
@@ -42,7 +42,7 @@ class OpenNumber {
 };
 
 // True if the file can be opened for reading. required: always false while the number is in use, so that every later
-// operation fails until the program is restarted. Never releases the number.
+// operation fails. Never releases the number.
 bool FileExists(const FileNumber& number, Platform& platform, const std::string& path);
 
 // The error for an existing file that can't be read.

@@ -13,7 +13,6 @@ namespace pelmar {
 
 struct Editor;
 
-// A command that inserts a fixed text.
 struct FixedInsert {
   std::string_view command;
   std::string_view text;

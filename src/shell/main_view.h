@@ -31,6 +31,7 @@ class MainPlace {
   MainPlace& operator=(const MainPlace&) = delete;
   virtual ~MainPlace() = default;
 
+  // The initial width or height replaces a value below 1.
   virtual void SetPlace(const TwipsRect& place) = 0;
   [[nodiscard]] virtual TwipsRect Place() const = 0;
   virtual void SetWindowState(WindowMode state) = 0;
@@ -39,7 +40,7 @@ class MainPlace {
 
   virtual void SetNormalState() = 0;
   virtual void SetOuterSize(int width, int height) = 0;
-  // Sets the size, then the place.
+  // Sets the size, then the position.
   virtual void MoveTo(const TwipsRect& place) = 0;
 };
 

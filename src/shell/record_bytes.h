@@ -18,7 +18,7 @@ class RecordReader {
   // `size` is in bytes, at most 8.
   std::uint64_t Number(std::size_t size);
   std::string_view Bytes(std::uint64_t count);
-  // Reads a count of `count_size` bytes, then as many bytes.
+  // Reads a count, a number of `count_size` bytes, and then as many bytes as the count says.
   std::string_view String(std::size_t count_size) { return Bytes(Number(count_size)); }
 
   // True if a field went beyond the end of the bytes.

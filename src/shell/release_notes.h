@@ -1,4 +1,4 @@
-// The notes in the about window, up to the heading of this version's own notes. Windows-1250.
+// The text of the about window, Windows-1250. The last line is the heading for notes on this version.
 #pragma once
 
 #include <string>

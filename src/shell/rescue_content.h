@@ -12,8 +12,8 @@ namespace pelmar {
 
 // UTF-8, except for the file name.
 struct RescueWords {
-  std::string_view found;         // the question, before the number of texts
-  std::string_view wanted;        // the question, after the number of texts
+  std::string_view found;         // the part of the question before the number of texts
+  std::string_view wanted;        // the part of the question after the number of texts
   std::string_view kept;          // the kind of text, for the notice after an error
   std::string_view next_time;     // when the program will offer to restore the texts
   std::string_view rest_name;     // the file for texts that don't come back
@@ -30,7 +30,6 @@ class RescueContent {
   const RescueKind kind;
   const RescueWords words;
 
-  // The texts that are unsaved now.
   [[nodiscard]] virtual RescueRecord Unsaved() const = 0;
   // The content of a text file with these texts, for a person to read.
   [[nodiscard]] virtual std::string Readable(const std::vector<RescuedText>& texts) const = 0;

@@ -17,14 +17,14 @@ constexpr std::string_view kLockSuffix = ".lock";
 
 std::string LockPath(const std::string& rescue) { return rescue + std::string(kLockSuffix); }
 
-// The time in the name tells apart two copies that had the same process number.
+// The time in the name distinguishes two copies that had the same process ID.
 std::string FileName(std::string_view prefix) {
   const auto now = std::chrono::system_clock::now().time_since_epoch();
   return std::string(prefix) + std::to_string(::getpid()) + "-" +
          std::to_string(std::chrono::duration_cast<std::chrono::microseconds>(now).count()) + std::string(kSuffix);
 }
 
-// The names of all rescue files in the folder, and of locks whose rescue file doesn't exist.
+// The names of all rescue files in the folder, including files of which only the lock exists.
 std::set<std::string> RescueNames(const std::string& folder, std::string_view prefix) {
   std::set<std::string> names;
   std::error_code error;
@@ -60,8 +60,8 @@ std::vector<std::string> FindAbandoned(const std::string& folder, std::string_vi
   if (names.empty() || offer.IsHeld() || offer.Take(folder + std::string(prefix) + "offer.lock") != 0) return {};
   std::vector<std::string> found;
   for (const std::string& name : names) {
-    LockFile copy;  // a lock without a rescue file is removed here too
-    if (copy.Take(LockPath(folder + name)) != 0) continue;
+    LockFile lock;  // a lock without a rescue file is removed here too
+    if (lock.Take(LockPath(folder + name)) != 0) continue;
     if (access((folder + name).c_str(), F_OK) == 0) found.push_back(folder + name);
   }
   if (found.empty()) offer.Release();

@@ -1,5 +1,5 @@
-// Rescue files in the install folder. Each running copy of the program has one file for documents and one for notes. It
-// locks both, which tells other copies that the files are in use. Writes are atomic. Call from one thread at a time.
+// Rescue files in the install folder. Each running copy of the program has one file for documents and one for notes. A
+// lock shows other copies that the file is in use. Writes are atomic. Call from one thread at a time.
 #pragma once
 
 #include <functional>
@@ -16,14 +16,14 @@ class RescueStore {
   // Returns 0 or errno, like Platform::WritePrivateFile.
   using WriteFile = std::function<int(const std::string& path, std::string_view bytes)>;
 
-  // `folder` ends in a separator and is used from the first Keep on. The file name begins with `prefix`.
+  // `folder` ends in a separator. The constructor creates nothing. The file name begins with `prefix`.
   RescueStore(std::string folder, std::string_view prefix, WriteFile write);
   RescueStore(const RescueStore&) = delete;
   RescueStore& operator=(const RescueStore&) = delete;
 
   // Writes this copy's file; empty bytes remove the file. Returns 0 or errno.
   int Keep(std::string_view bytes);
-  // The path of this copy's file. If the program crashes, the next start finds the file there.
+  // The path of this copy's file. After a crash the next start finds the file there.
   [[nodiscard]] const std::string& Path() const { return path_; }
   [[nodiscard]] bool HasFile() const;
 

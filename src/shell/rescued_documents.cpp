@@ -29,13 +29,13 @@ std::vector<RescuedText> BringBackDocuments(Documents& documents, const std::vec
       if (!taken[static_cast<std::size_t>(tab)] && documents.TextOf(tab).empty()) return tab;
     return 0;
   };
-  std::vector<RescuedText> homeless;
+  std::vector<RescuedText> without_tab;
   int selected = documents.SelectedTab();
   for (const RescueRecord& record : records) {
     for (const RescuedText& document : record.texts) {
       const int tab = place_of(document.place);
       if (tab == 0) {
-        homeless.push_back(document);
+        without_tab.push_back(document);
         continue;
       }
       taken[static_cast<std::size_t>(tab)] = true;
@@ -44,7 +44,7 @@ std::vector<RescuedText> BringBackDocuments(Documents& documents, const std::vec
     }
   }
   documents.SwitchTo(selected);
-  return homeless;
+  return without_tab;
 }
 
 std::string ReadableDocument(std::string_view path, std::string_view text) {

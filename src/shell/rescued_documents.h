@@ -11,14 +11,13 @@
 
 namespace pelmar {
 
-// All documents with unsaved changes.
 RescueRecord UnsavedDocuments(const Documents& documents);
 
-// Puts each document into the tab from which it came. If this tab holds a file or another restored document, the first
-// empty tab is used. Returns the documents for which there was no tab.
+// Puts each document into its old tab. If this tab holds a file or another restored document, the first empty tab is
+// used. Returns the documents for which there was no tab.
 std::vector<RescuedText> BringBackDocuments(Documents& documents, const std::vector<RescueRecord>& records);
 
-// A document for a person to read: a line with the path, then the text. A path beyond Windows-1250 is written in UTF-8.
+// A document for a person to read: a line with the result of StoredPath, then the text.
 std::string ReadableDocument(std::string_view path, std::string_view text);
 std::string ReadableDocuments(const std::vector<RescuedText>& documents);
 

@@ -15,8 +15,8 @@ namespace pelmar {
 // In twips. A window nearer than this to an edge of the screen snaps to the edge. The person can set another distance.
 inline constexpr std::int32_t kDefaultAutosnapDistance = 240;
 
-// The fields of SettingsRecord, DocSlot and TabFace keep the names of the stored format and of the tabs' properties, so
-// they begin with a capital. All other fields of structs begin with a small letter.
+// Fields of SettingsRecord, DocSlot and TabFace that have names of the stored format or of the tabs' properties begin
+// with a capital. All other fields of structs begin with a small letter.
 struct SettingsRecord {
   std::int32_t Width = 0;  // outer size and place of the main window, twips
   std::int32_t Height = 0;
@@ -47,7 +47,7 @@ SettingsRecord ReadSettings(std::string_view bytes);
 // The record's bytes. A string longer than 65,535 bytes is cut.
 std::string SettingsBytes(const SettingsRecord& record);
 
-// Repairs a loaded record: a missing font name, equal colours of text and background, lengths larger than any desktop.
+// Repairs a loaded record: a missing font name, equal colours of text and background.
 void ApplySettingsDefaults(SettingsRecord& record);
 
 }  // namespace pelmar

@@ -15,20 +15,20 @@ constexpr int kFarthest = 1'000'000;  // more than any screen
 
 }  // namespace
 
-TwipsRect Snap(TwipsRect f, int d, const TwipsRect& screen) {
-  d = std::clamp(d, -kFarthest, kFarthest);  // so that sums can't overflow
-  f.left -= screen.left;
-  f.top -= screen.top;
+TwipsRect Snap(TwipsRect window, int distance, const TwipsRect& screen) {
+  distance = std::clamp(distance, -kFarthest, kFarthest);  // so that sums can't overflow
+  window.left -= screen.left;
+  window.top -= screen.top;
   // Each test uses the values set by the lines above.
-  if (f.left + f.width - screen.width > -d && f.left < d) f.width = screen.width;
-  if (f.top + f.height - screen.height > -d && f.top < d) f.height = screen.height;
-  if (f.left < d) f.left = 0;
-  if (f.top < d) f.top = 0;
-  if (f.left + f.width - screen.width > -d) f.left = screen.width - f.width;
-  if (f.top + f.height - screen.height > -d) f.top = screen.height - f.height;
-  f.left += screen.left;
-  f.top += screen.top;
-  return f;
+  if (window.left + window.width - screen.width > -distance && window.left < distance) window.width = screen.width;
+  if (window.top + window.height - screen.height > -distance && window.top < distance) window.height = screen.height;
+  if (window.left < distance) window.left = 0;
+  if (window.top < distance) window.top = 0;
+  if (window.left + window.width - screen.width > -distance) window.left = screen.width - window.width;
+  if (window.top + window.height - screen.height > -distance) window.top = screen.height - window.height;
+  window.left += screen.left;
+  window.top += screen.top;
+  return window;
 }
 
 bool PlaceRequests::Worthwhile(const TwipsRect& now, const TwipsRect& wanted) {

@@ -1,5 +1,5 @@
-// Computes how windows snap to the edges of the screen, and the layout of the main window. Places and sizes are outer
-// ones in twips, 15 to the logical pixel.
+// Computes how windows snap to the edges of the screen, and the layout of the main window. Lengths are twips, 15 to the
+// logical pixel.
 #pragma once
 
 #include <array>
@@ -27,8 +27,8 @@ class PlaceRequests {
   int in_vain_ = 0;
 };
 
-// The new width of panel 4, or nothing if the width stays. required: the sum includes the present width of panel 4, so
-// the width alternates between two values if both are above 0.
+// The new width of panel 4, or nothing if the width stays. required: the sum of `widths` includes panel 4, so that its
+// width alternates between two values if both are above 0.
 std::optional<int> SparePanelWidth(int outer_width, const std::array<int, kPanelCount>& widths);
 
 struct LayoutInput {

@@ -1,6 +1,6 @@
-// Moves the caret over the rows of a layout, as the keyboard asks. Where a line wraps, one position belongs to two
-// rows: CaretMover remembers which of the two rows shows the caret. CaretMover also remembers the x that Up and Down
-// aim at. Any other move of the caret makes both void.
+// Moves the caret over the rows of a layout. Where a line wraps, one position belongs to two rows: CaretMover remembers
+// which of the two rows shows the caret. CaretMover also remembers the x that Up and Down aim at. Other moves of the
+// caret clear both.
 #pragma once
 
 #include <cstddef>
@@ -41,7 +41,6 @@ class CaretMover {
   void Go(TextBuffer& buffer, CaretMove move, bool select, std::size_t page_rows = 1);
   void Put(TextBuffer& buffer, TextPlace place, bool select);
 
-  // The row that shows the caret.
   [[nodiscard]] std::size_t Row(const TextBuffer& buffer) const;
   // Call after each change of the text.
   void Forget();
@@ -57,7 +56,7 @@ class CaretMover {
   std::int64_t aim_ = 0;
 };
 
-// The place in the row that is nearest to `x`. `x` counts from the left edge of the content.
+// The place in the row that is nearest to `x`. `x` counts from the left edge of the content, in units of the layout.
 TextPlace PlaceInRow(const TextLayout& layout, std::size_t row, std::int64_t x);
 
 }  // namespace pelmar

@@ -41,7 +41,7 @@ constexpr int FindCode(char32_t character) {
 // The code of a Unicode character, "?" if the code page lacks the character.
 unsigned char CodeOfUnicode(char32_t character);
 
-// Whole strings. Each malformed byte of UTF-8 becomes "?".
+// Convert whole strings. Each malformed byte of UTF-8 becomes "?".
 std::string FromUtf8(std::string_view utf8);
 std::string ToUtf8(std::string_view text);
 std::string FromUtf16(std::u16string_view utf16);

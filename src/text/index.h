@@ -6,10 +6,10 @@
 
 namespace pelmar {
 
-// The index of a character in a table of all 256.
+// The index of a character in a table of all 256 characters.
 constexpr std::size_t IndexOf(char ch) { return static_cast<unsigned char>(ch); }
 
-// The index of a choice in a table with a row for each choice.
+// The index of an enumerator in a table with a row for each enumerator.
 template <typename Choice>
 requires std::is_enum_v<Choice>
 constexpr std::size_t IndexOf(Choice choice) { return static_cast<std::size_t>(choice); }

@@ -11,7 +11,7 @@ namespace pelmar {
 // Inserts at the start of the selection. The selected text stays, after the new text, and is no longer selected.
 void InsertAtCaret(TextBuffer& buffer, std::string_view text);
 
-// Puts the selection between `open` and `close`, or `sample` if nothing is selected.
+// Puts `open` before the selection and `close` after it. An empty selection is replaced by `sample` first.
 void WrapSelection(TextBuffer& buffer, std::string_view open, std::string_view close, std::string_view sample);
 
 struct Wrapping {

@@ -22,7 +22,6 @@ std::string GeneralText(Number number, int digits) {
   return {buffer, end};
 }
 
-// The end of the digits that begin at `at`.
 std::size_t DigitsEnd(std::string_view text, std::size_t at) {
   while (at < text.size() && IsDigit(text[at])) ++at;
   return at;
@@ -49,7 +48,7 @@ std::size_t NumberLength(std::string_view text, char mark) {
   return end;
 }
 
-// Whether a number that does not fit a double is too close to zero, not too large. The decimal mark is the point.
+// True if a number that no double can hold is too close to zero, false if too large. The decimal mark is the point.
 bool IsTiny(std::string_view number) {
   const std::string_view mantissa = number.substr(0, number.find_first_of("eE"));
   std::string_view digits = number.substr(std::min(mantissa.size() + 1, number.size()));
@@ -83,7 +82,7 @@ std::string ZeroPadded(std::int64_t number, std::size_t width) {
 }
 
 std::string FixedText(double number, int decimals) {
-  // Rounds decimal digits: in binary, a number that ends in 5 may be slightly less.
+  // Rounds the decimal digits, because the binary value of a number that ends in 5 may be slightly lower.
   constexpr int kDigits = 15;
   const double size = std::abs(number);
   const int whole = size < 1 ? 1 : static_cast<int>(std::floor(std::log10(size))) + 1;
@@ -118,7 +117,7 @@ double LeadingNumber(std::string_view text) {
   text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
   text = text.substr(0, NumberLength(text, '.'));
   if (const auto value = ValueOf(text)) return *value;
-  // The number is too large. Take the longest part that is not.
+  // The number is too large for a double. Take the longest part that fits.
   std::size_t length = 0;
   while (ValueOf(text.substr(0, length + 1))) ++length;
   return ValueOf(text.substr(0, length)).value_or(0);

@@ -11,12 +11,12 @@
 
 namespace pelmar {
 
-// At most 15 significant digits (a float: 7), without grouping: "0", "-2,5". Numbers with more digits before the comma
-// and numbers below 0,0001 have an exponent: "1E+15", "1,5E-05". The number is finite.
+// At most 15 significant digits (a float: 7), without grouping: "0", "-2,5". Numbers from 1E+15 on (a float: 1E+07) and
+// numbers below 0,0001 are written with an exponent: "1E+15", "1,5E-05". The number is finite.
 std::string NumberText(double number);
 std::string NumberText(float number);
 
-// The digits of a number that is not negative. Zeros in front fill up to `width` digits.
+// A number that is not negative, with leading zeros up to `width` digits.
 std::string ZeroPadded(std::int64_t number, std::size_t width);
 
 // Exactly `decimals` digits (1 or more) after the comma. Halves are rounded away from zero: FixedText(1.015625, 5) is

@@ -1,6 +1,7 @@
 // The document in a text box: Windows-1250 bytes, one selection, an index of the lines, undo and redo. Positions are
 // byte offsets from 0 and may lie between a CR and its LF. Only CR LF breaks a line. Each change of the text notifies
-// the listeners once, when text and selection have their new values. A text that stays the same notifies nobody.
+// its listeners once, when text and selection have their new values. An edit that leaves the text the same is no change
+// and no step of undo. Such an edit only moves the caret.
 #pragma once
 
 #include <cstddef>
@@ -32,20 +33,18 @@ class TextBuffer {
   TextBuffer(const TextBuffer&) = delete;
   TextBuffer& operator=(const TextBuffer&) = delete;
 
-  // Notified after each change of the text, as long as the handle exists.
   [[nodiscard]] Listening OnChange(ChangeListener listener) { return changed_.Add(std::move(listener)); }
-  // Notified when caret or anchor have moved without a change of the text.
+  // For moves of the caret or the anchor without a change of the text.
   [[nodiscard]] Listening OnSelection(SelectionListener listener) { return moved_.Add(std::move(listener)); }
 
   [[nodiscard]] const std::string& Text() const { return text_; }
   [[nodiscard]] std::size_t Size() const { return text_.size(); }
   [[nodiscard]] bool Empty() const { return text_.empty(); }
-  // The number of changes so far. If a listener changes the text, the listeners after it are notified of the second
-  // change before the first. The revision shows this.
+  // The number of changes so far. If a listener changes the text, later listeners are notified of the second change
+  // first. They detect this by the revision.
   [[nodiscard]] std::uint64_t Revision() const { return revision_; }
 
-  // Replaces the whole text, puts the caret at 0 and (required) clears undo. Notifies nobody if the text stays the
-  // same.
+  // Replaces the whole text and puts the caret at 0. required: clears undo.
   void SetText(std::string text);
 
   // The selection, clipped to the text. SetSelStart collapses the selection. SetSelLength keeps the start and puts the
@@ -63,17 +62,16 @@ class TextBuffer {
   [[nodiscard]] std::size_t Anchor() const { return anchor_; }
   void Select(std::size_t anchor, std::size_t caret);
 
-  // Replaces the selection and puts the caret after the new text, in one step of undo. Notifies nobody if the text
-  // stays the same.
+  // Replaces the selection and puts the caret after the new text, in one step of undo.
   void ReplaceSelection(std::string_view text);
-  // The same for any part of the text.
+  // Replaces any part of the text in the same way.
   void Replace(std::size_t pos, std::size_t length, std::string_view text);
 
   // Typing and deleting by hand. Letters typed one after the other are one step of undo, and so are deleted letters,
   // until the caret moves or a line ends.
   void Type(std::string_view text);
-  void EraseBefore(std::size_t count);  // with a selection: the selection
-  void EraseAfter(std::size_t count);   // with a selection: the selection
+  void EraseBefore(std::size_t count);  // erases only the selection if there is one
+  void EraseAfter(std::size_t count);   // erases only the selection if there is one
 
   [[nodiscard]] bool CanUndo() const { return !undo_.empty(); }
   [[nodiscard]] bool CanRedo() const { return !redo_.empty(); }

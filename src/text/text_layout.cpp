@@ -20,7 +20,7 @@ std::int64_t Sum(const AdvanceTable& advances, std::string_view text) {
   return sum;
 }
 
-// Puts `fresh` in place of [from, to).
+// Replaces the elements [from, to) by `fresh`.
 template <typename T>
 void Splice(std::vector<T>& all, std::size_t from, std::size_t to, const std::vector<T>& fresh) {
   const auto at = [&](std::size_t index) { return all.begin() + static_cast<std::ptrdiff_t>(index); };
@@ -94,7 +94,7 @@ RowsChange TextLayout::Update(const TextChange& change) {
   const std::size_t old_end = change.pos + change.removed;
   const std::size_t new_end = change.pos + change.inserted;
 
-  // Rows are computed until one begins where an old row began after the change. All later rows stay.
+  // Rows are computed until a new row begins where an old row after the change began. All later rows stay.
   auto same = static_cast<std::size_t>(std::lower_bound(rows_.begin(), rows_.end(), old_end) - rows_.begin());
   same = std::max(same, first + 1);
   std::vector<std::size_t> fresh;
@@ -124,7 +124,7 @@ std::size_t TextLayout::RowEnd(std::size_t row) const {
   return EndsLine(row) ? rows_[row + 1] - 2 : rows_[row + 1];
 }
 
-// A row begins a line if a CR LF stands before the row.
+// A row ends a line if a CR LF comes before the next row.
 bool TextLayout::EndsLine(std::size_t row) const {
   if (row + 1 == rows_.size()) return true;
   const std::size_t next = rows_[row + 1];
@@ -161,9 +161,9 @@ std::int64_t TextLayout::Walk(Mark from, std::size_t to) const {
 std::int64_t TextLayout::XOf(std::size_t row, std::size_t pos) const {
   Mark from{rows_[row], 0};
   pos = std::clamp(pos, rows_[row], RowEnd(row));
-  const auto behind =
+  const auto after =
       std::upper_bound(marks_.begin(), marks_.end(), pos, [](std::size_t p, const Mark& mark) { return p < mark.pos; });
-  if (behind != marks_.begin() && std::prev(behind)->pos > from.pos) from = *std::prev(behind);
+  if (after != marks_.begin() && std::prev(after)->pos > from.pos) from = *std::prev(after);
   const std::int64_t x = Walk(from, pos);
   return rules_.wrap ? std::min(x, std::max(rules_.width, std::int64_t{0})) : x;
 }
@@ -174,8 +174,8 @@ std::size_t TextLayout::CharAt(std::size_t row, std::int64_t x) const {
   const auto by_pos = [](const Mark& mark, std::size_t p) { return mark.pos <= p; };
   const auto first = std::lower_bound(marks_.begin(), marks_.end(), from.pos, by_pos);
   const auto last = std::lower_bound(first, marks_.end(), end, by_pos);
-  const auto behind = std::upper_bound(first, last, x, [](std::int64_t v, const Mark& mark) { return v < mark.x; });
-  if (behind != first) from = *std::prev(behind);
+  const auto after = std::upper_bound(first, last, x, [](std::int64_t v, const Mark& mark) { return v < mark.x; });
+  if (after != first) from = *std::prev(after);
   for (; from.pos < end; ++from.pos) {
     const std::int64_t next = rules_.advances.After(from.x, buffer_->Text()[from.pos]);
     if (next > x) break;
@@ -234,12 +234,12 @@ void TextLayout::Remeasure(const RowsChange& rows, const TextChange& change, std
          marks);
 
   const auto old = widths_.begin() + static_cast<std::ptrdiff_t>(rows.first);
-  const std::int64_t gone = *std::max_element(old, old + static_cast<std::ptrdiff_t>(rows.removed));
-  const std::int64_t come = *std::max_element(widths.begin(), widths.end());
+  const std::int64_t old_widest = *std::max_element(old, old + static_cast<std::ptrdiff_t>(rows.removed));
+  const std::int64_t new_widest = *std::max_element(widths.begin(), widths.end());
   Splice(widths_, rows.first, rows.first + rows.removed, widths);
-  if (come >= widest_) {
-    widest_ = come;
-  } else if (gone == widest_) {
+  if (new_widest >= widest_) {
+    widest_ = new_widest;
+  } else if (old_widest == widest_) {
     widest_ = *std::max_element(widths_.begin(), widths_.end());
   }
 }

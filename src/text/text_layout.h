@@ -1,6 +1,6 @@
-// Divides a text into rows and computes the place of each character from a table of 256 advances. Painting and mouse
-// clicks use the same sums. Lengths are 64ths of a logical pixel, the unit of the font engine, so sums are exact. Rows
-// and positions (bytes) count from 0. The CR LF at the end of a line belongs to no row.
+// Divides the lines of a text into rows and computes the place of each character from a table of 256 advances. Painting
+// and mouse clicks use the same places. Lengths are 64ths of a logical pixel, the unit of the font engine, so sums
+// are exact. Rows and positions (bytes) count from 0. The CR LF at the end of a line belongs to no row.
 #pragma once
 
 #include <array>
@@ -53,7 +53,6 @@ class TextLayout {
   // The buffer must outlive the layout. Until the first Lay there is one row, without width.
   explicit TextLayout(const TextBuffer& buffer) : buffer_(&buffer) {}
 
-  // Computes all rows.
   void Lay(const LayoutRules& rules);
   // Changes the width of the window. Computes all rows again if lines wrap.
   void SetWidth(std::int64_t width);
@@ -64,7 +63,7 @@ class TextLayout {
   [[nodiscard]] std::size_t RowCount() const { return rows_.size(); }
   [[nodiscard]] std::size_t RowStart(std::size_t row) const { return rows_[row]; }
   [[nodiscard]] std::size_t RowEnd(std::size_t row) const;
-  // True if a line ends with the row, false if the line goes on in the next row.
+  // True if the row is the last row of its line.
   [[nodiscard]] bool EndsLine(std::size_t row) const;
   // A position between two rows of one line belongs to the second row, with `at_row_end` to the first.
   [[nodiscard]] std::size_t RowOf(std::size_t pos, bool at_row_end = false) const;
@@ -75,14 +74,14 @@ class TextLayout {
   // The left edge of a row, which depends on the alignment.
   [[nodiscard]] std::int64_t RowLeft(std::size_t row) const;
 
-  // The distance of a position from the start of the row. A blank beyond the right edge of the window has no width.
+  // The distance of a position from the start of the row. If lines wrap, a blank beyond `width` has no width.
   [[nodiscard]] std::int64_t XOf(std::size_t row, std::size_t pos) const;
-  // The position nearest to `x`, and the position of the character at `x`: the end of the row after its last character.
+  // The position nearest to `x`, and the position of the character at `x`. After the last character: the row end.
   [[nodiscard]] std::size_t StopAt(std::size_t row, std::int64_t x) const;
   [[nodiscard]] std::size_t CharAt(std::size_t row, std::int64_t x) const;
 
  private:
-  // A known x in a long row. A sum begins at the nearest mark and stays short.
+  // The x of a position in a long row. A sum begins at the last mark before its position, so that it stays short.
   struct Mark {
     std::size_t pos = 0;
     std::int64_t x = 0;

@@ -68,13 +68,13 @@ constexpr char32_t DecodeUtf8(std::string_view utf8, std::size_t& at) {
 // Appends a Unicode character, which must not be a surrogate, to UTF-8.
 void AppendUtf8(std::string& utf8, char32_t character);
 
-// Whether the bytes are well-formed UTF-8. ASCII is.
+// Whether the bytes are well-formed UTF-8. ASCII is well-formed.
 bool IsUtf8(std::string_view bytes);
 
-// Whether the bytes are well-formed UTF-8 with a character beyond ASCII. Text in another encoding hardly ever is.
+// Whether the bytes are well-formed UTF-8 with a character beyond ASCII. Text in another encoding is hardly ever UTF-8.
 bool LooksLikeUtf8(std::string_view bytes);
 
-// True where the string holds characters of several bytes in UTF-8 and also bytes that are no UTF-8.
+// True if the bytes hold both UTF-8 characters beyond ASCII and bytes that are malformed UTF-8.
 bool MixesEncodings(std::string_view bytes);
 
 }  // namespace pelmar

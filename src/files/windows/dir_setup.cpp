@@ -16,10 +16,10 @@ void DirSetup::Command1_Click() {
   for (const auto& browser : dialogs_) browser().drives->SetDrive(ui_->Drive1->Drive());
   for (const auto& browser : dialogs_) {
     FolderList* const folders = browser().folders;
-    const bool there = folders->Path() == ui_->Dir1->Path();
+    const bool unchanged = folders->Path() == ui_->Dir1->Path();
     folders->SetPath(ui_->Dir1->Path());
     // A dialog that already shows this folder must react to the choice too.
-    if (there) Q_EMIT folders->PathChanged(folders->Path());
+    if (unchanged) Q_EMIT folders->PathChanged(folders->Path());
   }
   hide();
 }

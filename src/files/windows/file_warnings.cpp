@@ -21,9 +21,9 @@ QString TooLong(std::size_t size) {
 
 }  // namespace
 
-// Looks at the file on disk when a tab is selected, and when the main window gains or loses the keyboard focus: never
-// while the person types. A question takes the focus too. A file counts as unchanged once this program has opened or
-// saved it.
+// Looks for a change of the file on disk when a tab is selected, and when the main window gains or loses the keyboard
+// focus, also to a question. Never looks while the person types. A file that this program opens or saves counts as
+// unchanged from then on.
 FileWarnings::FileWarnings(MainWindow& window, Editor& editor)
     : QObject(&window),
       window_(window),
@@ -48,9 +48,9 @@ FileWarnings::FileWarnings(MainWindow& window, Editor& editor)
 }
 
 bool FileWarnings::eventFilter(QObject* watched, QEvent* event) {
-  const bool turns = event->type() == QEvent::WindowActivate || event->type() == QEvent::WindowDeactivate;
+  const bool focus_moves = event->type() == QEvent::WindowActivate || event->type() == QEvent::WindowDeactivate;
   // A window that is being destroyed loses the focus too, but then it is no MainWindow any more.
-  if (turns && qobject_cast<MainWindow*>(watched) != nullptr) {
+  if (focus_moves && qobject_cast<MainWindow*>(watched) != nullptr) {
     CheckDisk();
     WarnOfName();
   }

@@ -1,5 +1,5 @@
-// The parts from which all subsystems make their windows and commands. The functions Add...Windows below register them;
-// each lies in its subsystem's folder of windows. The parts outlive every window.
+// The parts from which all subsystems make their windows and commands. Each function Add...Windows below is defined in
+// the folder `windows` of its subsystem. The parts outlive every window.
 #pragma once
 
 #include <functional>

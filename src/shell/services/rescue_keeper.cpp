@@ -105,7 +105,7 @@ void RescueKeeper::ReportFailure(int error) {
   if (std::exchange(failure_, error) != error && on_failure) on_failure(error);
 }
 
-// Call after the restored texts are written. Writes the others to a text file, then removes the old rescue files.
+// Call after the restored texts are written. Writes all other texts to a text file, then removes the old rescue files.
 void RescueKeeper::RemoveOldFiles() {
   if (owed_.files.empty()) return;
   if (!owed_.rest.empty()) {
@@ -130,7 +130,7 @@ Kept RescueKeeper::KeepNow() {
 bool RescueKeeper::WriteReadable() {
   try {
     const std::string readable = content_.Readable(content_.Unsaved().texts);
-    // The desktop may ask several times while it ends the session.
+    // The desktop may request the end several times. One file is enough for the same texts.
     if (readable == last_resort_.text && platform_.CanRead(last_resort_.path)) return true;
     const TempFile file = WriteTempFile(platform_, "pelmar-" + std::string(content_.kind.prefix), ".txt", readable);
     if (file.error == 0) last_resort_ = {file.path, readable};
@@ -141,14 +141,14 @@ bool RescueKeeper::WriteReadable() {
 }
 
 std::string RescueKeeper::NoticeOf(const Kept& kept) const {
-  const std::string what(content_.words.kept), lie = what + " jsou zachovány v souboru\r\n" + kept.path + "\r\n";
+  const std::string what(content_.words.kept), where = what + " jsou zachovány v souboru\r\n" + kept.path + "\r\n";
   switch (kept.place) {
     case Kept::kNothingToKeep:
       return {};
     case Kept::kRescueFile:
-      return lie + std::string(content_.words.next_time);
+      return where + std::string(content_.words.next_time);
     case Kept::kReadableFile:
-      return lie + "Program je sám nenabídne, soubor si zkopírujte jinam.";
+      return where + "Program je sám nenabídne, soubor si zkopírujte jinam.";
     case Kept::kNowhere:
       return what + " nebylo možné zachovat.";
   }
@@ -165,7 +165,7 @@ void RescueKeeper::End() {
   ReportFailure(0);
 }
 
-// Reads rescue files and keeps in `files` only the names of those that are complete. The other files stay on disk.
+// Reads rescue files and keeps in `files` only the names of complete files. The other files stay on disk.
 std::vector<RescueRecord> RescueKeeper::ReadAbandoned(std::vector<std::string>& files) {
   std::vector<RescueRecord> records;
   std::vector<RescuedText> seen;

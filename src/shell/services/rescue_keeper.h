@@ -1,6 +1,6 @@
-// Writes unsaved documents or notes to a rescue file within two seconds of a change, in a thread of its own. Each
-// running copy of the program has its own rescue file. Offers the texts of crashed copies, and removes their rescue
-// files once all these texts are on disk again.
+// Writes unsaved documents or notes to a rescue file within two seconds of a change, in a separate thread. Each running
+// copy of the program has its own rescue file. Offers the texts of crashed copies, and removes their rescue files once
+// all these texts are on disk again.
 #pragma once
 
 #include <QObject>

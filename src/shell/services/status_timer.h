@@ -1,5 +1,5 @@
 // `Timer1` of the main window. Every 500 ms the timer snaps windows to the screen edges. While the main window is
-// active, the timer also enables the menu items and updates the panels of the status bar. Only the timer does so.
+// active, the timer also enables or disables menu items and updates the panels of the status bar.
 #pragma once
 
 #include <QTimer>
@@ -30,15 +30,15 @@ class StatusTimer : public QTimer {
  private:
   // The texts of panels 1 to 3 depend on these values.
   struct TextState {
-    std::uint64_t text = 0;
+    std::uint64_t text = 0;  // the revision of the text
     std::size_t start = 0, end = 0;
     bool line_counting = false;
     bool operator==(const TextState&) const = default;
   };
   // The text of panel 4 depends on these values.
   struct ContentState {
-    TextState selected;  // default values if nothing is selected
-    std::uint64_t clipboard = 0;
+    TextState selected;           // default values if nothing is selected
+    std::uint64_t clipboard = 0;  // the revision of the clipboard
     bool operator==(const ContentState&) const = default;
   };
 

@@ -35,7 +35,7 @@ class WindowRegistry {
     return static_cast<Window*>(Find(typeid(Window)));
   }
 
-  // For a window that begins afresh at each opening: a hidden window is replaced by a new one.
+  // Like Get, but replaces a hidden window by a new one.
   template <class Window>
   Window& Anew() {
     if (const QWidget* old = Find(typeid(Window)); old != nullptr && !old->isVisible()) Unload<Window>();

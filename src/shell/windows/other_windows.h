@@ -1,4 +1,4 @@
-// An object that hides the program's other windows, on the screen and from assistive technology, while it exists.
+// Hides windows of the program, on the screen and from assistive technology, as long as the object exists.
 #pragma once
 
 #include <QObject>

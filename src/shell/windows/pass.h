@@ -17,13 +17,13 @@ class Pass : public FormDialog<Ui::Pass> {
   Q_OBJECT
 
  public:
-  // `hide_text` is called with true when the lock closes, and with false when it opens.
+  // `hide_text` is called with true when the dialog appears, and with false after the right password.
   Pass(const SettingsRecord& settings, Platform& platform, std::function<void(bool)> hide_text, QWidget* parent);
 
   // Shows the lock and waits until the password is right.
   void Run();
 
-  // Neither Escape nor the window manager opens the lock.
+  // Neither Escape nor the window manager closes the dialog.
   void reject() override {}
 
  protected:

@@ -14,7 +14,6 @@ class Pos : public FormDialog<Ui::Pos> {
   Q_OBJECT
 
  public:
-  // `main` is the window to move.
   Pos(MainPlace& main, QWidget* parent);
 
  protected:

@@ -1,4 +1,5 @@
-// The welcome dialog `Start` appears at launch instead of the main window, or from the menu. Any key closes it.
+// The welcome dialog `Start` appears at launch instead of the main window, or from the menu. Any key except a modifier
+// closes the dialog.
 #pragma once
 
 #include <functional>

@@ -1,6 +1,6 @@
-// The tabs of the five documents show and change the selected document. The strip of tabs spans the window and lies
-// under the text box, which covers all but the tabs at the right edge. Captions run downwards. A tab without a file
-// shows its number. The tab of an unsaved document shows a dot.
+// The tabs of the five documents show and change the selected document. The strip of tabs is as wide as the window. The
+// text box covers the strip except at the right edge. Captions run downwards. A tab without a file shows its number.
+// The tab of an unsaved document shows a dot.
 #pragma once
 
 #include <QTabBar>

@@ -22,14 +22,13 @@
 namespace pelmar {
 namespace {
 
-// The minimum size of the window. On a small screen at most half of its width and height, for the layout picker.
+// The minimum size of the window. At most half of the screen, which is the smallest size that the layout picker sets.
 constexpr QSize kSmallest(480, 320);
 // The size at the first start, with space for the whole toolbar.
 constexpr QSize kFirstSize(820, 560);
-// X11 has no farther or larger windows.
+// The largest coordinate and length of a window under X11, in twips.
 constexpr int kFarthest = TwipsOf(32'767);
 
-// The paths of the dropped local files.
 std::vector<std::string> DroppedFiles(const QMimeData* mime) {
   std::vector<std::string> paths;
   for (const QUrl& url : mime->urls())
@@ -165,7 +164,8 @@ LayoutInput MainWindow::Measures() const {
 }
 
 void MainWindow::ApplyLayout() {
-  // Until the first tick, panel 4 starts from 0. Otherwise a size changed by few pixels would make its width alternate.
+  // Until the first tick the width of panel 4 is computed from 0. Otherwise each small change of the window's size
+  // would make this width alternate.
   if (!ticked_) bar_->SetWidth(4, 0);
   const LayoutInput in = Measures();
   const LayoutResult out = ComputeLayout(in);
@@ -311,7 +311,7 @@ void MainWindow::ShowMain() {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-  // A closed lock must not let anybody close the program.
+  // Nobody may close a locked program.
   if (box_->isHidden() || (may_close && !may_close())) return event->ignore();
   event->accept();
 }
@@ -362,7 +362,7 @@ void MainWindow::changeEvent(QEvent* event) {
 bool MainWindow::event(QEvent* event) {
   if (event->type() == QEvent::WindowActivate) {
     main_active_ = true;
-    if (isVisible()) box_->setFocus();  // the text is hidden if an accessory runs alone
+    if (isVisible()) box_->setFocus();  // the window is hidden if an accessory runs alone
   }
   if (event->type() == QEvent::WindowDeactivate) main_active_ = false;
   return QMainWindow::event(event);

@@ -31,7 +31,6 @@ class MainWindow : public QMainWindow, public MainView {
   [[nodiscard]] MenuBar& Menus() { return *menus_; }
   [[nodiscard]] MainToolbar& Toolbar() { return *toolbar_; }
   [[nodiscard]] StatusStrip& Bar() { return *bar_; }
-  // True while the main window is the active one.
   [[nodiscard]] bool MainActive() const { return main_active_; }
 
   // Called before the window closes; false keeps it open.
@@ -41,7 +40,7 @@ class MainWindow : public QMainWindow, public MainView {
   void ShowMain();
   // Enables the menu items and buttons whose commands exist. Call after all commands were added.
   void RefreshCommands();
-  // Hides the text from the screen and from assistive technology while the lock is closed.
+  // Hides the text from the screen and from assistive technology while the program is locked.
   void HideText(bool hide);
   // Sets the places of text box, tabs and bars.
   void ApplyLayout();

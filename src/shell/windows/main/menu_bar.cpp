@@ -38,8 +38,8 @@ QChar Initial(const QString& text) {
   return letter == text.end() ? QChar() : letter->toLower();
 }
 
-// The next item after the active one that begins with the letter. After the last item the search goes on at the first.
-// An item with an access key is skipped, because only this key opens it.
+// The next item after the active one that begins with the letter. After the last item the search continues at the
+// first. An item with an access key is skipped, because only this key opens it.
 QAction* NextByInitial(const QMenu& menu, QChar letter) {
   const auto first = menu.actions().indexOf(menu.activeAction()) + 1;
   QList<QAction*> items = menu.actions();
@@ -60,7 +60,7 @@ void GoTo(QMenu& menu, const QAction* item) {
 }  // namespace
 
 MenuBar::MenuBar(const Commands& commands, QWidget* parent) : QMenuBar(parent), commands_(commands) {
-  std::vector<QWidget*> open{this};  // the open menu of each level
+  std::vector<QWidget*> open{this};  // the latest menu of each level, to which items are added
   for (const MenuItem& item : MenuItems()) {
     open.resize(static_cast<std::size_t>(item.level) + 1);
     const QString name = Utf8ToQString(item.name);
@@ -121,10 +121,10 @@ bool MenuBar::RunGrey(const QKeyEvent& keys, const std::function<MenuState()>& n
       QAction* grey = Action(name);
       if (grey->isEnabled()) continue;
       // The items of a disabled menu are not disabled themselves.
-      const QList<QAction*> in_it = grey->menu() != nullptr ? grey->menu()->actions() : QList<QAction*>{grey};
+      const QList<QAction*> candidates = grey->menu() != nullptr ? grey->menu()->actions() : QList<QAction*>{grey};
       const auto of_keys = [&sequence](const QAction* item) { return item->shortcut() == sequence; };
-      const auto item = std::ranges::find_if(in_it, of_keys);
-      if (item == in_it.end() || !(now().*condition)) continue;
+      const auto item = std::ranges::find_if(candidates, of_keys);
+      if (item == candidates.end() || !(now().*condition)) continue;
       commands_.Run(Utf8FromQString((*item)->objectName()));
       return true;
     }
@@ -132,8 +132,8 @@ bool MenuBar::RunGrey(const QKeyEvent& keys, const std::function<MenuState()>& n
   return false;
 }
 
-// Opens the menu with the access key. Two menus have the key T: T opens the first and, if this is open, the second. A
-// disabled menu takes its key but stays closed.
+// Opens the menu with the access key. Two menus have the key T: T opens the first menu and, if the first is open,
+// the second. A disabled menu takes its key but stays closed.
 bool MenuBar::OpenByAccessKey(const QKeySequence& key) {
   QList<QAction*> menus = actions();
   menus.removeIf([&key](const QAction* menu) { return !HasAccessKey(*menu, key); });

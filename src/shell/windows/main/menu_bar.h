@@ -31,9 +31,9 @@ class MenuBar : public QMenuBar {
   void Refresh();
   // Enables or disables the items that depend on the state. An item without a command stays disabled.
   void Apply(const MenuState& state);
-  // Apply runs only on ticks of the status timer. An item may still be disabled when its command is already allowed.
-  // Runs such a command if its shortcut is `keys`. Calls `now`, the present state, only for a disabled item with this
-  // shortcut. False if no command ran.
+  // Apply runs only on ticks of the status timer, so an item may still be disabled when the state already allows its
+  // command. Runs the command of such an item if `keys` is its shortcut. `now` computes the present state. False if no
+  // command ran.
   bool RunGrey(const QKeyEvent& keys, const std::function<MenuState()>& now) const;
 
  protected:

@@ -12,12 +12,13 @@ namespace {
 
 constexpr int kGap = 2;
 constexpr int kTextMargin = 4;
-constexpr std::size_t kFigures = 3;  // the number of panels with figures, the first ones
+constexpr std::size_t kFigures = 3;  // the number of panels with figures, which come first
 constexpr std::size_t kFirstKey = 4;
 
 // The initial widths of the panels in average characters, enough for the largest figures. Panel 4 gets the remaining
-// width. Measuring real texts would load the font's shaping before the first window appears.
+// width. Measuring real texts would start the slow text shaping before the first window appears.
 constexpr int kCharacters[kPanelCount] = {23, 24, 25, 0, 6, 6, 5};
+// required: the first two tips are interchanged
 constexpr QStringView kTips[kPanelCount] = {
     u"Pozice", u"Délka", u"Řádky (Click - off, DblCick - on)", u"Obsah", u"CAPS", u"NUM", u"INS",
 };

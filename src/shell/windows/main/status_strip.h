@@ -57,12 +57,12 @@ class StatusStrip : public QStatusBar {
   [[nodiscard]] StatusPanel* Panel(int number) const { return panels_[IndexFromOne(number)]; }
   void Show(const PanelTexts& texts);
   void ShowContent(const std::string& text);
-  // Clears panels 1 to 4 until the next Show. For a closed lock, since panel 4 may show a part of the text.
+  // Clears panels 1 to 4 until the next Show. Panel 4 may show a part of the text, which a locked program must hide.
   void Clear();
   [[nodiscard]] bool Cleared() const { return cleared_; }
   void Show(const KeyStates& keys);
-  // Sets or, with "", removes the text of one warning, then shows the most serious warning. A hint covers only panel 4
-  // and is cut there; a warning covers as many panels as its text needs. Without `tip` the text is also the tool tip.
+  // Sets the text of a warning ("" removes it), then shows the most serious warning. A hint covers only panel 4 and is
+  // cut there. A warning covers as many panels as its text needs. Without `tip` the text is also the tool tip.
   void Warn(Warning of, const QString& text, const QString& tip = {});
   // Shows the warning kUnkept. `error` is the errno of the failed write; 0 removes the warning.
   void WarnOfUnkept(int error);
