@@ -162,8 +162,8 @@ class TextBox : public QAbstractScrollArea {
   [[nodiscard]] int CaretWidth() const;
   [[nodiscard]] TextColours Colours() const;
   [[nodiscard]] QColor Background() const;
-  // The place of the caret, and the beginning of composed text: equal, or further left if the text doesn't fit.
   [[nodiscard]] QPoint CaretPoint() const;
+  // The beginning of the composed text: CaretPoint, or further left if the composed text doesn't fit.
   [[nodiscard]] QPoint ComposedPoint() const;
 
   std::unique_ptr<TextBuffer> own_buffer_;
