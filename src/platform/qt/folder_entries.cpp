@@ -34,8 +34,8 @@ QStringList NamesOf(const QString& path, Kind kind, const std::function<bool(con
   std::vector<std::pair<QCollatorSortKey, QString>> names;
   std::error_code error;
   for (std::filesystem::directory_iterator at(PathFromQString(path), error), end; at != end; at.increment(error)) {
-    std::error_code gone;
-    if (!(kind == Kind::kFolders ? at->is_directory(gone) : at->is_regular_file(gone))) continue;
+    std::error_code ignored;
+    if (!(kind == Kind::kFolders ? at->is_directory(ignored) : at->is_regular_file(ignored))) continue;
     QString name = PathToQString(at->path().filename().native());
     const QString shown = ShownPath(name);
     if (wanted(shown)) names.emplace_back(collator.sortKey(shown), std::move(name));

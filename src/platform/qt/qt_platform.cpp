@@ -94,8 +94,8 @@ WriteOutcome QtPlatform::RewriteFile(const std::string& source, const std::strin
 }
 
 bool QtPlatform::IsSameFile(const std::string& left, const std::string& right) {
-  std::error_code none;
-  return std::filesystem::equivalent(left, right, none);
+  std::error_code ignored;
+  return std::filesystem::equivalent(left, right, ignored);
 }
 
 std::optional<FileStamp> QtPlatform::Stamp(const std::string& path) { return StampOf(path); }

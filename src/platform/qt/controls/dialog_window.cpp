@@ -124,9 +124,9 @@ DialogWindow::DialogWindow(QWidget* parent) : QDialog(parent) {
 }
 
 void DialogWindow::Present() {
-  const bool on_show = isVisible();
+  const bool was_visible = isVisible();
   BringToFront(*this);
-  if (on_show) BeginInFirstField();
+  if (was_visible) BeginInFirstField();
 }
 
 int DialogWindow::exec() {
