@@ -108,7 +108,7 @@ class FileRewriter {
 // What happens to the rest of an old file that is longer than the new content.
 enum class OldTail { kDrop, kKeep };
 
-// The pointer during a long command: the hourglass alone, or the arrow with it.
+// The pointer during a long command: an hourglass, or an arrow with an hourglass.
 enum class BusyLook { kHourglass, kArrow };
 
 class Platform {
@@ -118,7 +118,7 @@ class Platform {
   Platform& operator=(const Platform&) = delete;
   virtual ~Platform() = default;
 
-  // Message boxes. They return when the person has answered.
+  // Message boxes. A call returns when the person has answered.
   virtual Answer Message(MessageType type, std::string_view text, std::string_view title) = 0;
   // Asks with a warning. True only for Yes.
   bool Confirmed(std::string_view question, std::string_view title) {

@@ -29,7 +29,7 @@ class NewFile {
   int TakeNewName(const std::string& path);
   // Gives the file the name `start`, six random characters and `end`. `taken` becomes the whole name.
   int TakeFreeName(const std::string& start, const std::string& end, std::string& taken);
-  // Replaces the file that has the name.
+  // Gives the file this name. A file that already has the name is replaced.
   int TakeNameOf(const std::string& path);
 
  private:

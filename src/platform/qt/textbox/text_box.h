@@ -104,7 +104,7 @@ class TextBox : public QAbstractScrollArea {
   [[nodiscard]] TextSpan RowSpan(std::size_t pos) const;
   // Makes the selection the primary selection, which the middle mouse button pastes.
   void PublishSelection();
-  // Shows the place where a drop would insert text, or hides it.
+  // Marks the place where a drop would insert text. Without a place, removes the mark.
   void ShowDropPlace(std::optional<TextPlace> place);
 
  Q_SIGNALS:
