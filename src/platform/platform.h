@@ -1,9 +1,7 @@
 // Everything that the program asks of the system. platform/qt implements Platform with Qt, and the tests have a
 // scripted implementation. Messages and titles are UTF-8, documents and the clipboard are Windows-1250. A path is the
-// bytes that the system gave. No call throws: a call on a file returns 0 or an errno, alone or in the field `error`. A
-// command that can't go on after an error throws RuntimeError.
-// Call from the interface thread. Only WritePrivateFile may also be called from another thread, even while the
-// interface thread calls any function: the rescue files are written by threads.
+// bytes that the system gave. No call throws: a call on a file returns 0 or an errno, alone or in the field `error`.
+// Call these functions from the interface thread. Other threads may call only WritePrivateFile, at any time.
 #pragma once
 
 #include <cstdint>
@@ -28,7 +26,7 @@ enum class Answer {
   kOk,
   kYes,
   kNo,
-  kNone,  // the person closed the question; most callers take this for No
+  kNone,  // the person closed the question; most callers treat this as No
 };
 
 struct LocalTime {
@@ -86,13 +84,13 @@ class Paper {
 
 struct PrintOutcome {
   int error = 0;             // 0 or an errno
-  std::string printer = {};  // its name, "" if the system has no printer
-  // Set if there is no printer. UTF-8.
+  std::string printer = {};  // its name, "" if no printer could be used
+  // Set if no printer could be used. UTF-8.
   std::string problem = {};  // the reason
   std::string pdf = {};      // the path of the PDF file that was written instead
 };
 
-// Changes the bytes of a file on their way into another file. A result is valid until the next call.
+// Changes the bytes of a file on their way into another file. Returned bytes are valid until the next call.
 class FileRewriter {
  public:
   FileRewriter() = default;
@@ -103,14 +101,14 @@ class FileRewriter {
   virtual std::string_view Rewrite(std::string_view piece) = 0;
   // The bytes after the last piece.
   virtual std::string_view Finish() = 0;
-  // How many of the returned bytes stay, from the first one on. Call after Finish.
+  // The length of the new content. Returned bytes after this length are dropped. Call after Finish.
   [[nodiscard]] virtual std::uint64_t Kept() const = 0;
 };
 
 // What happens to the rest of an old file that is longer than the new content.
 enum class OldTail { kDrop, kKeep };
 
-// The pointer during a long command: the hourglass alone, or the arrow with it.
+// The pointer during a long command: an hourglass, or an arrow with an hourglass.
 enum class BusyLook { kHourglass, kArrow };
 
 class Platform {
@@ -120,13 +118,13 @@ class Platform {
   Platform& operator=(const Platform&) = delete;
   virtual ~Platform() = default;
 
-  // Message boxes. They return when the person has answered.
+  // Message boxes. A call returns when the person has answered.
   virtual Answer Message(MessageType type, std::string_view text, std::string_view title) = 0;
   // Asks with a warning. True only for Yes.
   bool Confirmed(std::string_view question, std::string_view title) {
     return Message(MessageType::kYesNoWarning, question, title) == Answer::kYes;
   }
-  // Shows a box about a program.
+  // Shows a message box with the icon of the program.
   virtual void ShowAbout(std::string_view title, std::string_view text) = 0;
   // Asks for a line of text. Nothing if the person cancels. All texts are UTF-8.
   virtual std::optional<std::string> InputBox(std::string_view prompt, std::string_view title,
@@ -139,17 +137,17 @@ class Platform {
   // The plain text of the clipboard, if there is any, with CR LF line breaks. Valid until the clipboard changes.
   virtual const std::optional<std::string>& ClipboardContent() = 0;
   std::string ClipboardText() { return ClipboardContent().value_or(std::string()); }
-  // Changes with each change of the clipboard.
+  // A new number after each change of the clipboard.
   virtual std::uint64_t ClipboardRevision() = 0;
   virtual void SetClipboardText(std::string_view text) = 0;
   virtual void ClearClipboard() = 0;
 
-  // Files. ReadFile reads at most `limit` bytes. A write keeps the old content until the new content is complete: a new
-  // file replaces the old file. If a new file would lose a link or an attribute, the old content is copied first.
-  virtual bool CanRead(const std::string& path) = 0;  // opens for reading; false for a folder
+  // Files. ReadFile reads at most `limit` bytes. A write replaces the old file by a new file that is complete. If a new
+  // file would lose a link or an attribute, the old content is copied and then overwritten.
+  virtual bool CanRead(const std::string& path) = 0;  // false for a folder or a device
   virtual FileBytes ReadFile(const std::string& path, std::optional<std::uint64_t> limit) = 0;
   virtual WriteOutcome WriteDocument(const std::string& path, std::string_view bytes) = 0;
-  // Like WriteDocument, for the program's own files. Only its owner can read a new file. Returns 0 or an errno. May be
+  // Like WriteDocument, for the program's own files. Only the owner can read a new file. Returns 0 or an errno. May be
   // called from any thread.
   virtual int WritePrivateFile(const std::string& path, std::string_view bytes) = 0;
   // Creates a file that only its owner can read. EEXIST if the name is taken, even by a link that leads nowhere.
@@ -169,8 +167,8 @@ class Platform {
   virtual std::string TempFolder() = 0;
   virtual std::string ShareFolder() = 0;  // where the package keeps its files
 
-  // Prints what `draw` puts on the paper. The printer is the default printer or the only printer. Without a printer, a
-  // new PDF file in the documents folder is written instead. `name` (UTF-8) names the job and the file.
+  // Prints what `draw` puts on the paper, on the default printer or the only printer. If no printer can be used, writes
+  // a new PDF file in the documents folder. `name` (UTF-8) names the job and the file.
   virtual PrintOutcome Print(const PrintFont& font, const std::string& name,
                              const std::function<void(Paper&)>& draw) = 0;
 

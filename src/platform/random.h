@@ -1,4 +1,4 @@
-// Numbers from the ordinary random source. The stream cipher has a random source of its own.
+// Numbers from the ordinary random source. The stream cipher uses another source, ReproducibleGenerator.
 #pragma once
 
 #include <cstddef>
@@ -13,7 +13,7 @@ using Draw = std::function<double()>;
 
 Draw DrawFrom(Platform& platform);
 
-// The integer part of r * count: 0 to count - 1, and 0 if count is 0. Takes one draw.
+// The integer part of r * count: 0 to count - 1, and 0 if count is 0. Calls `draw` once.
 inline std::size_t DrawBelow(const Draw& draw, std::size_t count) {
   return static_cast<std::size_t>(draw() * static_cast<double>(count));
 }

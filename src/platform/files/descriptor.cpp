@@ -43,7 +43,6 @@ int SyncFolderOf(const std::string& path, int file) {
   const std::string name = FolderOf(path);
   const Descriptor folder(open(name.empty() ? "." : name.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (folder.IsOpen()) return Sync(folder.Number());
-  // A folder may be writable but not readable. Then the whole file system is written to the disk.
   return syncfs(file) == 0 ? 0 : errno;
 }
 

@@ -51,13 +51,14 @@ int CopyWhole(int from, int to);
 // The part of a path up to its last separator, with the separator. "" if the path has no separator.
 std::string FolderOf(const std::string& path);
 
-// Waits until a file or a folder is on the disk. Returns 0 if the file system can't wait.
+// Waits until a file or a folder is on the disk. Returns 0 if the file system has no fsync.
 int Sync(int file);
 
-// Waits until the folder of the path is on the disk, which includes the name of the open `file` in this folder.
+// Waits until the folder of the path is on the disk, with the names of its files. If the folder is writable but not
+// readable, waits for the whole file system of the open `file`.
 int SyncFolderOf(const std::string& path, int file);
 
-// False if the path now names another file, or no file, than the open `file`. A lock on `file` is useless then.
+// Whether the path still leads to the open `file`. If not, a lock on `file` is useless.
 bool IsStillNamed(int file, const std::string& path);
 
 }  // namespace pelmar

@@ -46,7 +46,7 @@ int Reserve(int file, std::uint64_t size) {
   return errno == ENOSPC || errno == EDQUOT || errno == EFBIG ? errno : 0;
 }
 
-// Fills in what lies at the path. Returns 0, or an errno if the target can't be written.
+// Sets `kind` and `old` of the target. Returns 0, or an errno if the target can't be written.
 int Look(Target& target) {
   if (stat(target.path.c_str(), &target.old) != 0) return errno != ENOENT || target.path.ends_with('/') ? errno : 0;
   const mode_t mode = target.old.st_mode;

@@ -13,7 +13,7 @@
 namespace pelmar {
 
 struct Target {
-  int error = 0;     // 0, or the errno of why the target can't be written
+  int error = 0;     // 0, or an errno if the target can't be written
   std::string path;  // without links
   enum Kind { kNew, kOld, kDevice } kind = kNew;
   struct stat old {};
@@ -32,15 +32,15 @@ struct NewContent {
 
 struct Beside {
   int error = 0;
-  bool try_in_place = false;          // the error comes from the folder or from the attributes of the old file
+  bool try_in_place = false;          // WriteInPlace may still succeed
   Descriptor content = Descriptor();  // the new file, if its content is complete but its rename failed
 };
 
-// Writes a new file with the name of the target, which is no device. A new target gets `new_mode`, before the umask.
+// Saves into a new file that takes the target's name. Not for devices. A new target gets `new_mode`, before the umask.
 Beside WriteBeside(const Target& target, const NewContent& content, mode_t new_mode);
 
-// Overwrites an old target. First copies the old content to a file in `keep_folder` (with its separator) that only its
-// owner can read. After a failure restores the old content. If the restoring fails too, the outcome names the copy.
+// Overwrites an old target. First copies the old content to a file in `keep_folder` (with its separator) that only the
+// owner can read. If the write fails, restores the old content. If the restore fails too, the outcome names the copy.
 WriteOutcome WriteInPlace(const Target& target, const NewContent& content, const std::string& keep_folder);
 
 }  // namespace pelmar

@@ -1,6 +1,6 @@
 // A copy of the old content of a file that is overwritten, stored as "puvodni-*" in the install folder. The copy is
 // made before the first byte changes and removed when the new content is on the disk. During the save the copy is
-// locked. If a save is killed, its copy remains: the person is notified once, then the copy is read-only.
+// locked. A copy that remains from a killed save is reported at the next start and then made read-only.
 #pragma once
 
 #include <optional>
@@ -14,7 +14,7 @@ namespace pelmar {
 class KeptContent {
  public:
   // Copies the open `file` of this path to `folder` (with its separator) and waits until the copy is on the disk. Only
-  // its owner can read the copy. Returns 0, or an errno if there is no copy.
+  // the owner can read the copy. Returns 0, or an errno if there is no copy.
   int Keep(int file, const std::string& path, const std::string& folder);
   // Restores the content of the file from the copy. Returns 0 or an errno.
   int PutBack(int file);
@@ -27,10 +27,10 @@ class KeptContent {
   std::string path_;
 };
 
-// The paths of copies in the folder that killed saves have left and that the person does not know yet.
+// The sorted paths of the copies that remain from killed saves. Copies marked as reported are left out.
 std::vector<std::string> FindLeftContents(const std::string& folder);
 
-// Makes the copy read-only, which marks the copy as known to the person.
+// Makes the copy read-only, which is the mark of a reported copy.
 void MarkAsReported(const std::string& path);
 
 }  // namespace pelmar

@@ -1,5 +1,5 @@
-// An empty file with a lock. The lock shows other copies of the program that its holder is running. The kernel releases
-// the lock when its process ends.
+// An empty file with a lock. The lock shows other processes that its holder is running. The kernel releases the lock
+// when the holder ends.
 #pragma once
 
 #include <string>
@@ -15,10 +15,10 @@ class LockFile {
   LockFile& operator=(const LockFile&) = delete;
   ~LockFile() { Release(); }
 
-  // Locks the file and creates the file if missing. Returns 0 or an errno: EAGAIN if another copy holds the lock.
+  // Locks the file and creates the file if missing. Returns 0 or an errno: EAGAIN if another process holds the lock.
   int Take(const std::string& path);
   [[nodiscard]] bool IsHeld() const { return file_.IsOpen(); }
-  // Removes the file. Does nothing if the lock is not held.
+  // Removes the file and releases the lock. Does nothing if the lock is not held.
   void Release();
 
  private:

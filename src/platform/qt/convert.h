@@ -16,7 +16,7 @@ namespace pelmar {
 QString TextToQString(std::string_view text);
 std::string TextFromQString(const QString& string);
 
-// For display. Bytes that are not UTF-8, such as parts of a path in a message, are read as Windows-1250.
+// For display. Reads bytes that are not UTF-8 as Windows-1250: a message may contain a path with such bytes.
 QString Utf8ToQString(std::string_view utf8);
 inline std::string Utf8FromQString(const QString& string) { return string.toStdString(); }
 

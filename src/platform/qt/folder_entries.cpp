@@ -27,15 +27,15 @@ bool LiesInHidden(const QString& path) { return path.contains(QLatin1String("/."
 
 enum class Kind { kFolders, kFiles };
 
-// The sorted names that `wanted` accepts. A file itself is examined only if the file is a link or if the file system
-// doesn't store kinds in folders.
+// The sorted names of one kind that `wanted` accepts. The folder itself stores the kinds. A file is examined only if it
+// is a link or if the file system doesn't store kinds in folders.
 QStringList NamesOf(const QString& path, Kind kind, const std::function<bool(const QString&)>& wanted) {
   const QCollator collator = CzechCollator();
   std::vector<std::pair<QCollatorSortKey, QString>> names;
   std::error_code error;
   for (std::filesystem::directory_iterator at(PathFromQString(path), error), end; at != end; at.increment(error)) {
-    std::error_code gone;
-    if (!(kind == Kind::kFolders ? at->is_directory(gone) : at->is_regular_file(gone))) continue;
+    std::error_code ignored;
+    if (!(kind == Kind::kFolders ? at->is_directory(ignored) : at->is_regular_file(ignored))) continue;
     QString name = PathToQString(at->path().filename().native());
     const QString shown = ShownPath(name);
     if (wanted(shown)) names.emplace_back(collator.sortKey(shown), std::move(name));
@@ -61,7 +61,7 @@ QRegularExpression MaskPattern(const QString& mask) {
   for (const QString& part : mask.split(u';')) {
     QString one = part.trimmed();
     if (one == QLatin1String("*.*")) one = QStringLiteral("*");
-    one.replace(u'[', QLatin1String("[[]"));  // a plain character in a mask
+    one.replace(u'[', QLatin1String("[[]"));  // "[" is a plain character in a mask
     if (!one.isEmpty()) patterns.append(QRegularExpression::wildcardToRegularExpression(one));
   }
   return QRegularExpression(patterns.join(u'|'), QRegularExpression::CaseInsensitiveOption);

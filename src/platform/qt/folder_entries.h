@@ -27,7 +27,7 @@ QStringList SubfoldersOf(const QString& path);
 QStringList FilesOf(const QString& path, const QString& mask);
 
 // The places where a person looks for files: the home folder, "/" and the mounted disks. `mounts` is the path of the
-// system's table of mounts. The disks are not accessed, because a dead server would never answer.
+// system's table of mounts. The disks are not accessed: a network disk whose server is dead would block the program.
 QStringList MountedPlaces(const QString& home, const QString& mounts = QStringLiteral("/proc/self/mounts"));
 
 // The deepest of the places that contain `path`, or "".

@@ -111,7 +111,7 @@ void GlyphTable::FillSigns(const QFont& font) {
   }
 }
 
-// In whole pixels, with the gap after the sign.
+// The width in whole pixels, with the gap after the sign.
 qreal GlyphTable::SignWidth(unsigned char code) const {
   qreal width = 2 * kSignPadding + kSignGap;
   const QList<quint32> glyphs = sign_face_.glyphIndexesForString(SignName(code));

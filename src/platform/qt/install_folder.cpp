@@ -28,10 +28,10 @@ ChosenFolder FindInstallFolder(const QString& program_folder, const QString& dat
   const std::string own = PathIn(data_home);
   const int error = MakeFolder(own);
   if (error == 0) return {.path = own + '/'};
-  const std::string passing = PathIn(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation));
-  // If both folders fail, the first write of a file reports the error.
-  if (MakeFolder(passing) != 0) return {.path = own + '/'};
-  return {.path = passing + '/', .refused = own, .error = error};
+  const std::string runtime = PathIn(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation));
+  // If neither folder can be created, the first write of a file reports the error.
+  if (MakeFolder(runtime) != 0) return {.path = own + '/'};
+  return {.path = runtime + '/', .refused = own, .error = error};
 }
 
 std::string InstallFolderNotice(const ChosenFolder& folder) {

@@ -11,7 +11,7 @@ bool IsBareInsert(const QKeyEvent& event) {
   return event.key() == Qt::Key_Insert && (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
 }
 
-// Whether Enter breaks lines in the widget, or Delete erases characters. In such a widget a held key repeats.
+// Whether the key edits text in the widget: Enter breaks a line, Delete erases a character. There a held key repeats.
 bool EditsTextWith(int key, const QWidget& receiver) {
   if (receiver.inputMethodQuery(Qt::ImReadOnly).toBool()) return false;
   if (key == Qt::Key_Delete) return receiver.inputMethodQuery(Qt::ImCursorPosition).isValid();

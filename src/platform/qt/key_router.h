@@ -10,9 +10,9 @@ class QKeyEvent;
 
 namespace pelmar {
 
-// The order in which takers are asked, until one of them takes the key. Qt has run shortcuts before, and the router has
-// dropped repeats of Enter and Delete (see HoldsBack). A key that no taker takes goes to the focused widget. A key that
-// this widget ignores goes to its parents, up to the window. In this way an Enter in a field reaches the dialog.
+// The order in which takers are asked, until one of them takes the key. Before that, Qt looks for a shortcut, and the
+// router drops repeats of Enter and Delete (see HoldsBack). If no taker takes the key, the focused widget gets the key.
+// If this widget ignores the key, its parents get the key: in this way an Enter in a field reaches the dialog.
 enum class KeyTurn {
   kTabs,    // the physical number keys select a tab
   kMenu,    // keys of menu items that are still disabled
@@ -29,7 +29,7 @@ class KeyRouter {
   // The only router, since there is only one keyboard.
   static KeyRouter& Get();
 
-  // Adds a taker, which is asked about key presses for `scope` and the widgets inside, until `scope` is deleted.
+  // Adds a taker for key presses in `scope` and in the widgets inside `scope`, until `scope` is deleted.
   void Add(KeyTurn turn, QWidget& scope, KeyTaker taker);
 
   // Call with each key event for a widget, in order. True if the widget must not get the event.

@@ -94,13 +94,13 @@ WriteOutcome QtPlatform::RewriteFile(const std::string& source, const std::strin
 }
 
 bool QtPlatform::IsSameFile(const std::string& left, const std::string& right) {
-  std::error_code none;
-  return std::filesystem::equivalent(left, right, none);
+  std::error_code ignored;
+  return std::filesystem::equivalent(left, right, ignored);
 }
 
 std::optional<FileStamp> QtPlatform::Stamp(const std::string& path) { return StampOf(path); }
 
-// The share folder of the installation if it exists, otherwise the program's folder, as in a build tree.
+// The share folder of the installation. If there is none, as in a build tree, the program's folder.
 std::string QtPlatform::ShareFolder() {
   const QString installed = QCoreApplication::applicationDirPath() + QStringLiteral("/../share/pelmar-vex/");
   const QString beside = QCoreApplication::applicationDirPath() + QLatin1Char('/');
@@ -119,7 +119,7 @@ void QtPlatform::ReportRefusedFolder() {
   if (!notice.empty()) Message(MessageType::kOkInfo, notice, "Pelmar VEX");
 }
 
-// Reads TMPDIR itself: for a missing folder Qt would return "", and files would be written to the root of the disk.
+// Doesn't use Qt: for a missing folder Qt would return "", and files would be written to the root of the disk.
 std::string QtPlatform::TempFolder() {
   const QString set = QFile::decodeName(qgetenv("TMPDIR"));
   const QString folder = set.isEmpty() ? QStringLiteral("/tmp") : QDir::cleanPath(QFileInfo(set).absoluteFilePath());

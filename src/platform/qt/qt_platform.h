@@ -60,7 +60,7 @@ class QtPlatform : public Platform {
   std::vector<std::size_t> SortedOrder(const std::vector<std::string_view>& texts) override;
   void SetBusyPointer(bool busy, BusyLook look) override;
 
-  // Reports the folder that is used instead if the install folder can't be created.
+  // If the install folder can't be created, shows a message with the folder that is used instead.
   void ReportRefusedFolder();
 
   // Waits for background work. Call before an exit that skips destructors.

@@ -20,21 +20,21 @@ void InstallFace() {
   Q_UNUSED(installed);
 }
 
-// Sets the role that assistive technology sees. Without it, a plain widget or window counts as a container.
+// Sets the role that assistive technology sees. A plain widget or window without this role counts as a container.
 void SetAccessibleRole(QWidget& widget, QAccessible::Role role);
 
 // The dynamic property that names the value which a label shows. Screen readers say the name and then the value; an
 // accessible name would replace the value.
 inline constexpr char kValueName[] = "valueName";
-// Makes kValueName work, and presents a frame that is a label's buddy as a group with this name. Call before the first
-// such label is created.
+// Makes kValueName work, and presents a frame that is a label's buddy as a group with the label's text as its name.
+// Call before the first such label is created.
 void InstallLabelFaces();
 
 // Lets screen readers say a text. Does nothing if no screen reader runs.
 void Announce(QWidget& window, const QString& text);
 
-// Qt presents the current item as the name of a combo box, so a label must say its purpose. Combo boxes without a label
-// get a hidden label with their accessible name. The fields of editable combo boxes get the same name.
+// Gives each combo box without a label a hidden label with the box's accessible name, since Qt presents the current
+// item in place of this name. The field of an editable box gets the name too, or the text of its label.
 void LabelBoxes(QWidget& window);
 
 }  // namespace pelmar

@@ -19,7 +19,7 @@ class CellGrid : public QWidget {
   void NameCells(std::function<QString(int row, int column)> name) { name_ = std::move(name); }
 
   // These functions number the cells in reading order, from 0. Marked() is -1 if no cell is marked.
-  [[nodiscard]] int Cells() const { return cells_; }  // in each row and each column
+  [[nodiscard]] int Cells() const { return cells_; }  // the number in each row and each column
   [[nodiscard]] int Marked() const { return row_ > 0 ? (row_ - 1) * cells_ + column_ - 1 : -1; }
   [[nodiscard]] QString CellName(int number) const;
   void Choose(int number);

@@ -63,7 +63,7 @@ bool IsAltCharacter(const QKeyEvent& event) {
   return event.modifiers() == Qt::AltModifier && !event.text().isEmpty() && event.text().front().isPrint();
 }
 
-// Lets the Tab key enter a group of radio buttons at the checked one. Qt does so only once the group was used.
+// Lets the Tab key enter a group of radio buttons at the checked button. Qt does so only after the group was used.
 void GatherTabStops(QRadioButton& option) {
   for (auto* other : option.parentWidget()->findChildren<QRadioButton*>(Qt::FindDirectChildrenOnly))
     if (other->group() == option.group()) other->setFocusPolicy(other == &option ? Qt::StrongFocus : Qt::ClickFocus);
@@ -124,9 +124,9 @@ DialogWindow::DialogWindow(QWidget* parent) : QDialog(parent) {
 }
 
 void DialogWindow::Present() {
-  const bool on_show = isVisible();
+  const bool was_visible = isVisible();
   BringToFront(*this);
-  if (on_show) BeginInFirstField();
+  if (was_visible) BeginInFirstField();
 }
 
 int DialogWindow::exec() {
@@ -210,7 +210,7 @@ void DialogWindow::showEvent(QShowEvent* event) {
 void DialogWindow::BeginInFirstField() {
   if (!first_field_ || !first_field_->isEnabled()) return;
   first_field_->setFocus(Qt::TabFocusReason);
-  // If the window isn't active yet, the field gets the focus later and not as by Tab, so Qt selects no text.
+  // If the window isn't active yet, the field gets the focus later, without the reason Tab, and Qt selects no text.
   SelectText(*first_field_);
 }
 
@@ -237,7 +237,7 @@ void DialogWindow::Prepare() {
   });
   // The default button is drawn as default only while no other button takes Enter.
   connect(qApp, &QApplication::focusChanged, this, [this] {
-    if (!isVisible()) return;  // also while the dialog is destroyed
+    if (!isVisible()) return;  // the dialog is hidden or is being destroyed
     for (QPushButton* button : findChildren<QPushButton*>())
       if (button->isDefault()) button->update();
   });

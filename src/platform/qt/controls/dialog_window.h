@@ -41,7 +41,7 @@ class DialogWindow : public QDialog {
   bool eventFilter(QObject* watched, QEvent* event) override;
   // Enter presses the focused button. In a field Enter goes to the next field, so that no half-filled dialog writes
   // into the text. In the last field, outside fields and with `defaultFromFields` Enter presses the default button. On
-  // a tab page the last field is followed by the first one.
+  // a tab page Enter goes from the last field to the first field.
   void keyPressEvent(QKeyEvent* event) override;
   void showEvent(QShowEvent* event) override;
 
@@ -58,8 +58,8 @@ class DialogWindow : public QDialog {
   bool prepared_ = false;
 };
 
-// A dialog with its form. Only this class owns the form; a shared_ptr lets subclasses do without a destructor that
-// needs the complete form type.
+// A dialog with its form. The form has only this owner. With a unique_ptr in place of the shared_ptr, each subclass
+// would need a destructor in a file that includes the form.
 template <class Form>
 class FormDialog : public DialogWindow {
  protected:

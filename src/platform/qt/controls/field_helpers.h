@@ -19,10 +19,10 @@ std::string FieldText(const QComboBox& field);
 std::string FieldText(const QLabel& field);
 void ShowFieldText(QLineEdit& field, const std::string& text);
 
-// Appends the rows that the list doesn't contain yet.
+// The list already shows the first of the rows. Appends the others.
 void ShowRows(QListWidget& list, const std::vector<std::string>& rows);
 
-// Shows the number without separators, or an empty text.
+// Shows the number without separators, or an empty text if there is no number.
 void ShowNumber(QLabel& label, std::optional<std::size_t> number);
 
 }  // namespace pelmar

@@ -11,7 +11,7 @@ constexpr int kEdge = 3;  // the width of the frame on each side
 
 QString Plain(QString caption) { return caption.remove(QLatin1Char('&')); }
 
-// Whether the access key is underlined. Only letters are: a keypad of underlined digits is hard to read.
+// Whether the access key is underlined. Only letters are underlined: a keypad of underlined digits is hard to read.
 bool ShowsAccessKey(const QString& caption) {
   const auto at = caption.indexOf(QLatin1Char('&')) + 1;
   return at > 0 && at < caption.size() && caption[at].isLetter();
@@ -54,7 +54,7 @@ void KeyCap::paintEvent(QPaintEvent* /*event*/) {
   QStyleOptionButton option;
   initStyleOption(&option);
   PaintFrame(painter, option);
-  // If a key is higher than wide, its caption is one word, written vertically.
+  // The caption of a tall key is one word with blanks for several lines ("En te  r"). The blanks are not painted.
   const QString caption = height() > width() ? Words(text()).join(QString()) : text();
   PaintCaption(painter, *this, caption, QPalette::ButtonText);
 }

@@ -1,5 +1,5 @@
 // The keys of the on-screen keyboard: a push button whose caption may have several lines, and a check box that looks
-// like a key and stays down while checked. A layout may make both very small.
+// like a key and stays down while checked. Both may be smaller than Qt's own buttons.
 #pragma once
 
 #include <QCheckBox>

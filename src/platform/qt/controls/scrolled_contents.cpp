@@ -22,8 +22,8 @@ bool HoldsButtonsOnly(const QLayout& layout) {
   return buttons > 0;
 }
 
-// Takes the last layout with buttons out of `contents`, or makes a row of the buttons `ending`. The caller owns the
-// result, which is null if there are no buttons.
+// Takes the last item out of `contents` if this item is a layout of buttons. Otherwise makes a row of the buttons
+// `ending`. The caller owns the result, which is null if there are no buttons.
 QLayout* TakeButtons(QLayout& contents, const QList<QPushButton*>& ending) {
   QLayoutItem* last = contents.count() > 0 ? contents.itemAt(contents.count() - 1) : nullptr;
   if (last != nullptr && last->layout() != nullptr && HoldsButtonsOnly(*last->layout()))

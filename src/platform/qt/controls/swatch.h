@@ -1,4 +1,4 @@
-// A button that shows a colour.
+// A button that shows a colour, a bar with a gradient, and a bar that shows a length.
 #pragma once
 
 #include <QAbstractButton>

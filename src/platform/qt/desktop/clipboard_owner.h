@@ -1,4 +1,4 @@
-// Whether the clipboard has an owner; true without an X server. Qt's own answer would load image plug-ins.
+// Asks the X server whether the clipboard has an owner. True if there is no X server. Asking Qt would load plug-ins.
 #pragma once
 
 namespace pelmar {

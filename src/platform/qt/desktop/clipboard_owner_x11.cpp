@@ -1,4 +1,4 @@
-// In a file of its own, because Xlib's macros (None, Bool, Status) break Qt's headers if included before them.
+// A separate file, because macros of Xlib (None, Bool, Status) break Qt headers that are included after Xlib.
 #include <QGuiApplication>
 
 #include "platform/qt/desktop/clipboard_owner.h"

@@ -18,7 +18,7 @@ QMimeData* MimeFromText(std::string_view bytes);
 // The exact bytes if offered, otherwise the plain text converted by PageText. Nothing if `mime` is null or has no text.
 std::optional<std::string> TextFromMime(const QMimeData* mime);
 
-// The text for a single-line field, not converted to Windows-1250. Line breaks are removed unless `holds_lines`.
+// The text for a single-line field, in Unicode. Removes line breaks, or converts them to CR LF if `holds_lines`.
 QString LineFromMime(const QMimeData& mime, bool holds_lines);
 
 // Converts a text to Windows-1250. First joins letters with separate accents. A lone LF becomes CR LF.

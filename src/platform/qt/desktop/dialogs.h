@@ -19,9 +19,9 @@ std::optional<QString> AskForText(const QString& prompt, const QString& title, c
 
 enum class FileDialogKind { kOpen, kSave };
 
-// The path of the file, or nothing on cancel. The dialog starts in `folder`, or in the current folder if "". `folder`
-// becomes the folder of the file. A save dialog returns the name as typed and does not ask before overwriting. Filter
-// and index are those of Platform::OpenDialog.
+// Returns the path of the file, or nothing on cancel. The dialog starts in `folder`; "" means the current folder. Sets
+// `folder` to the folder of the file. A save dialog returns the name as typed and does not ask before overwriting.
+// Filter and index are those of Platform::OpenDialog.
 std::optional<QString> AskForFile(FileDialogKind kind, const QString& filter, int filter_index, QString& folder);
 
 // Converts "caption|*.a;*.b|caption|*.*" to a filter list for Qt. A caption without a pattern at the end is dropped.

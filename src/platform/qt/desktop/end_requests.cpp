@@ -30,7 +30,7 @@ extern "C" void PassOn(int number) {
 
 void Catch(int number) {
   struct sigaction action {};
-  // A signal that is ignored from the start, as nohup does, stays ignored.
+  // A signal that was ignored at the start, for instance by nohup, stays ignored.
   if (::sigaction(number, nullptr, &action) != 0 || action.sa_handler == SIG_IGN) return;
   action = {};
   action.sa_handler = PassOn;
@@ -65,7 +65,7 @@ void EndRequests::EndBySignal() {
   std::raise(number);
 }
 
-// At the end of the session, after the requests to save, the program quits without asking its windows.
+// Qt sends Quit at the end of the session, after the requests to save. Ends the program without asking its windows.
 bool EndRequests::eventFilter(QObject* watched, QEvent* event) {
   if (watched != qGuiApp || event->type() != QEvent::Quit) return QObject::eventFilter(watched, event);
   keep_();

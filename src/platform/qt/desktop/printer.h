@@ -1,5 +1,5 @@
-// Prints on the system's printer, or into a PDF file if there is no printer. Letters, tabs and control characters look
-// as in the text box.
+// Prints on the system's printer, or into a PDF file if no printer can be used. Letters, tabs and control characters
+// look as in the text box.
 #pragma once
 
 #include <QString>

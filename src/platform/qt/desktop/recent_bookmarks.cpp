@@ -17,7 +17,7 @@ QString MetadataOwner() { return QStringLiteral("http://freedesktop.org"); }
 QString ProgramName() { return QStringLiteral("Pelmar VEX"); }
 QString ProgramCommand() { return QStringLiteral("'pelmar-vex %f'"); }
 
-// The element that the copier is in. Elements outside the entry of our file are kOther.
+// The elements on the way from the root to the applications in the entry of our file. All other elements are kOther.
 enum class Place { kOther, kRoot, kEntry, kInfo, kMetadata, kApplications };
 
 // Copies the list token by token and inserts our entry. Names keep the prefixes of the file. Our own elements declare
@@ -158,7 +158,7 @@ class BookmarkCopier {
             {QStringLiteral("count"), QString::number(count)}};
   }
 
-  // Writes the attributes of the current element. The given fields replace attributes or are added.
+  // Writes the attributes of the current element. `fields` replace attributes of the same name; the others are added.
   void WriteAttributes(Fields fields) {
     for (const auto& attribute : reader_.attributes()) {
       QString value = attribute.value().toString();

@@ -1,4 +1,4 @@
-// The list of places above a folder list: the home folder, "/" and the mounted disks. Each opening updates the list.
+// A drop-down list of places: the home folder, "/" and the mounted disks. Each opening reads the places again.
 #pragma once
 
 #include <QComboBox>

@@ -23,15 +23,15 @@ struct FolderBrowser {
 // The lists `Drive1` and `Dir1` of a dialog.
 FolderBrowser FolderBrowserOf(const QWidget& dialog);
 
-// A place sets the folder, the folder list sets the folder of the files, and `mask` (may be null) sets their pattern. A
-// key released in the folder list shows the files of the highlighted folder. Starts in the current folder of the
-// process with the focus on the files: on the list of places the arrow key Down would change the folder.
+// `place` sets the folder of `folders`, `folders` sets the folder of `files`, and `mask` (may be null) sets the pattern
+// of `files`. A key released in `folders` shows the files of the highlighted folder. Starts in the current folder of
+// the process with the focus on `files`: on `place` the arrow key Down would change the folder.
 void LinkFileBrowser(DriveList* place, FolderList* folders, FileList* files, QComboBox* mask = nullptr);
 
-// Does the same for a dialog that has no list of files. The focus starts on the folders.
+// Does the same for a dialog without a list of files. Starts with the focus on `folders`.
 void LinkFolderBrowser(DriveList* place, FolderList* folders);
 
-// ShowPath shows a path in a label. PathOn returns this path without loss, or the text of the label if it has changed.
+// ShowPath shows a path in a label. PathOn returns this path without loss, or the text if another text was set later.
 void ShowPath(QLabel& label, const std::string& path);
 std::string PathOn(const QLabel& label);
 

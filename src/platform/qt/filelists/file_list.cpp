@@ -115,7 +115,7 @@ void FileList::ReadAnew() {
   }
 }
 
-// Watches the folder only while the list is visible. showEvent reads the folder again.
+// A hidden list doesn't watch its folder, since showEvent reads the folder again.
 void FileList::Watch(bool watch) {
   if (const QStringList watched = watcher_.directories(); !watched.isEmpty()) watcher_.removePaths(watched);
   settle_.stop();

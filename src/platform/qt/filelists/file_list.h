@@ -54,7 +54,6 @@ class FileList : public QListView {
  private:
   void Fill(const QString& selected);
   void Show(const QStringList& names, const QString& selected);
-  // Reads the folder again.
   void ReadAnew();
   void Watch(bool watch);
 

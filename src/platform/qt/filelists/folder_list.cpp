@@ -11,7 +11,7 @@
 
 namespace pelmar {
 
-// The rows, each with its depth below "/". First the open folders down to the current one, then its subfolders.
+// The rows with their depths below "/": the folders from "/" down to the current folder, then its subfolders.
 class FolderModel : public QAbstractListModel {
  public:
   enum Role { kPath = Qt::UserRole, kDepth };

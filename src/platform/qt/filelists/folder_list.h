@@ -14,7 +14,7 @@ class FolderList : public QListView {
   Q_PROPERTY(QString Path READ Path WRITE SetPath NOTIFY PathChanged)
 
  public:
-  // Begins at the current folder of the process.
+  // Begins at the current folder of the process, or at its nearest readable parent.
   explicit FolderList(QWidget* parent = nullptr);
 
   // The absolute path from PathToQString, without "/" at the end unless the path is "/".

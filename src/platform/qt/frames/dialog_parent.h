@@ -6,8 +6,8 @@ class QWidget;
 
 namespace pelmar {
 
-// The window that is active or soon will be, otherwise an open modal dialog, otherwise the main window. Null if there
-// is none.
+// The window that is active or soon will be, otherwise an open modal dialog, otherwise the main window. Null if no such
+// window is visible.
 QWidget* DialogParent();
 
 // Activates the window. DialogParent returns this window even before the window manager has activated it.
@@ -15,7 +15,7 @@ void ExpectActive(QWidget* window);
 
 // Whether the program shows a window that stays on top. Dialogs don't count, since PutAboveAll puts them on top.
 bool HasWindowOnTop();
-// Sets whether the dialog stays on top: only if HasWindowOnTop, because that window could cover the dialog.
+// Sets the dialog to stay on top if HasWindowOnTop, otherwise not. A window on top could cover the dialog.
 void PutAboveAll(QWidget& dialog);
 
 // Call for a window that was never shown: the window will appear on the screen of DialogParent.

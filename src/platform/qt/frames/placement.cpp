@@ -52,8 +52,8 @@ Placement::Placement(QWidget& window, Wish wish, Trust trust)
   connect(&timer_, &QTimer::timeout, this, &Placement::Look);
 }
 
-void Placement::Begin(const QMargins& left, bool maximised) {
-  left_ = left;
+void Placement::Begin(const QMargins& old_frame, bool maximised) {
+  left_ = old_frame;
   maximised_ = maximised;
   met_ = 0;
   mapped_ = false;

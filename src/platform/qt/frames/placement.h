@@ -16,7 +16,7 @@ namespace pelmar {
 
 class Placement : public QObject {
  public:
-  // Returns the wanted outer place. `now` is the current one.
+  // Returns the wanted outer place. `now` is the current outer place.
   using Wish = std::function<TwipsRect(const TwipsRect& now)>;
 
   // When the work for a new window ends. kFirst: after the first check that finds the window in place; then others may
@@ -26,9 +26,9 @@ class Placement : public QObject {
   // Does nothing before Begin.
   Placement(QWidget& window, Wish wish, Trust trust = Trust::kFirst);
 
-  // Starts when the window is shown and its frame differs from `left`, the frame in its previous state. If `maximised`,
-  // keeps the window maximised instead of placing the window.
-  void Begin(const QMargins& left = {}, bool maximised = false);
+  // Starts when the window is shown and its frame differs from `old_frame`, the frame in its previous state. If
+  // `maximised`, keeps the window maximised instead of placing the window.
+  void Begin(const QMargins& old_frame = {}, bool maximised = false);
   // Whether the first frame of the window is known, or the window manager gives no frame.
   [[nodiscard]] bool FrameKnown() const { return frame_known_; }
 

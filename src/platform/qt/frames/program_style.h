@@ -9,7 +9,7 @@
 
 namespace pelmar {
 
-// A dynamic property of the windows that get these margins and this spacing.
+// A dynamic property of the windows that get the margins and the spacing of dialogs.
 inline constexpr char kRoomProperty[] = "roomByStyle";
 
 class ProgramStyle : public QProxyStyle {

@@ -53,7 +53,7 @@ class SvgIconEngine final : public QIconEngine {
     return {side, side};
   }
 
-  // `size` counts device pixels.
+  // `size` is in device pixels.
   QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override {
     const int side = std::min(size.width(), size.height());
     if (side <= 0) return {};

@@ -10,7 +10,7 @@ namespace pelmar {
 // The icon of an SVG file such as ":/icons/open.svg". A missing or damaged file draws nothing. Interface thread only.
 QIcon SvgIcon(const QString& resource_path);
 
-// Gives all windows the icon of the program. The first call draws the icon, so call when a window needs the icon.
+// Gives all windows the icon of the program. The first call draws the icon, so don't call before a window needs it.
 void ShowProgramIcon();
 
 }  // namespace pelmar

@@ -191,8 +191,8 @@ void TextBox::Relayout() {
   viewport()->update();
 }
 
-// A scroll bar that appears or disappears changes the width, and the width changes the height. Two rounds are enough,
-// since a narrower window never needs less height.
+// A scroll bar that appears or disappears changes the size of the viewport, which may change the need for the other
+// scroll bar. So the ranges are set until the size stays the same, at most three times.
 void TextBox::UpdateScrollBars() {
   if (updating_bars_) return;
   updating_bars_ = true;

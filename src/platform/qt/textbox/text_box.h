@@ -104,7 +104,7 @@ class TextBox : public QAbstractScrollArea {
   [[nodiscard]] TextSpan RowSpan(std::size_t pos) const;
   // Makes the selection the primary selection, which the middle mouse button pastes.
   void PublishSelection();
-  // Shows the place where a drop would insert text, or hides it.
+  // Marks the place where a drop would insert text. Without a place, removes the mark.
   void ShowDropPlace(std::optional<TextPlace> place);
 
  Q_SIGNALS:
@@ -162,8 +162,8 @@ class TextBox : public QAbstractScrollArea {
   [[nodiscard]] int CaretWidth() const;
   [[nodiscard]] TextColours Colours() const;
   [[nodiscard]] QColor Background() const;
-  // The place of the caret, and the beginning of composed text: equal, or further left if the text doesn't fit.
   [[nodiscard]] QPoint CaretPoint() const;
+  // The beginning of the composed text: CaretPoint, or further left if the composed text doesn't fit.
   [[nodiscard]] QPoint ComposedPoint() const;
 
   std::unique_ptr<TextBuffer> own_buffer_;

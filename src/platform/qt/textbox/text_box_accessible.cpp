@@ -186,7 +186,7 @@ void TextBoxNotifier::CaretMoved() {
   NotifyCaret();
 }
 
-// Sent separately, since magnifiers and braille displays ignore the caret position in text events.
+// Sends a separate event, since magnifiers and braille displays ignore the caret position in text events.
 void TextBoxNotifier::NotifyCaret() {
   QAccessibleTextCursorEvent caret(&box_, static_cast<int>(box_.Buffer().Caret()));
   Send(caret);

@@ -1,5 +1,5 @@
 // The text that an input method (dead keys, ibus) is composing. This text is shown at the caret but is not in the
-// buffer yet. The class also tells input methods the text around the caret.
+// buffer yet. The class also gives input methods the text around the caret.
 #pragma once
 
 #include <QFont>
@@ -22,12 +22,12 @@ class TextComposer {
   [[nodiscard]] int CaretX(const QFont& font) const;
   [[nodiscard]] int Width(const QFont& font) const;
 
-  // Inserts the finished text of the event into the buffer and keeps the composed text.
+  // Inserts the finished text of the event into the buffer. Stores the text that is still being composed.
   void Handle(const QInputMethodEvent& event, TextBuffer& buffer);
   void Clear();
   void Paint(QPainter& painter, QPointF baseline, const QFont& font) const;
 
-  // Answers the questions about the text. Invalid for other questions.
+  // The answer to a query about the text around the caret or the selection. Invalid for other queries.
   static QVariant AnswerFromText(Qt::InputMethodQuery query, const TextBuffer& buffer);
 
  private:

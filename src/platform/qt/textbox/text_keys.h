@@ -27,11 +27,11 @@ enum class TextCommand : std::uint8_t {
 
 struct TextKey {
   TextCommand command = TextCommand::kMove;
-  CaretMove move = CaretMove::kLeft;  // of kMove
-  bool select = false;                // of kMove
+  CaretMove move = CaretMove::kLeft;  // only for kMove
+  bool select = false;                // only for kMove
 };
 
-// The command of a key, if any. Without `standard_shortcuts`, Ctrl with a letter has none: a menu handles such keys.
+// The command of a key, if any. Without `standard_shortcuts`, Ctrl with a letter has no command: a menu handles it.
 std::optional<TextKey> TextKeyOf(const QKeyEvent& event, bool standard_shortcuts);
 
 // The characters that a key types, or "".

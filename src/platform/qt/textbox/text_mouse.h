@@ -26,8 +26,7 @@ class TextMouse : public QObject {
   void timerEvent(QTimerEvent* event) override;
 
  private:
-  // kTapping: a finger touches the box. If it moves, the text scrolls. If it is lifted where it came down, the caret is
-  // set there.
+  // kTapping: a finger touches the box. Moving the finger scrolls the text; lifting an unmoved finger sets the caret.
   enum class State : std::uint8_t { kIdle, kSelecting, kMayDrag, kTapping };
   enum class Unit : std::uint8_t { kChar, kWord, kLine };
 

@@ -19,7 +19,7 @@ namespace pelmar {
 class TextView {
  public:
   static constexpr int kMargin = 4;
-  // How many pixels a letter may extend into neighbouring rows: accents do, and at a fractional scale any letter.
+  // A letter may extend this many pixels into a neighbouring row, by its accent or because of a fractional scale.
   static constexpr int kOverhang = 2;
 
   // `window_width` is called for each full layout. SetWindowWidth reports changes in between.
@@ -37,7 +37,7 @@ class TextView {
   std::optional<RowsChange> Follow(const TextChange& change);
 
   const TextLayout& Layout();
-  // Valid as long as the view, but only as current as the last call of Layout.
+  // The layout of the last call of Layout, perhaps outdated. The reference is valid as long as the view.
   [[nodiscard]] const TextLayout& RawLayout() const { return layout_; }
   const GlyphTable& Glyphs();
   [[nodiscard]] bool Wraps() const { return rules_.wrap; }
@@ -45,7 +45,7 @@ class TextView {
 
   QSize ContentSize();
   int RowTop(std::size_t row) { return kMargin + static_cast<int>(row) * Glyphs().RowHeight(); }
-  // The row at a height. Outside the text, the first or last row.
+  // The row at `y`. Above the text the first row, below the text the last row.
   std::size_t RowAt(int y);
   TextPlace PlaceAt(QPoint point);
   // The left edge of a caret position.
