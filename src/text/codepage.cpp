@@ -1,8 +1,5 @@
 #include "text/codepage.h"
 
-#include <algorithm>
-#include <utility>
-
 #include "text/index.h"
 
 namespace pelmar {
@@ -22,16 +19,6 @@ consteval std::array<char, 256> CaseTable(std::string_view from, std::string_vie
 constexpr auto kToUpper = CaseTable(kLowerLetters, kUpperLetters);
 constexpr auto kToLower = CaseTable(kUpperLetters, kLowerLetters);
 
-// The codes from 0x80 on, sorted by Unicode character: the conversion of large files needs a fast search.
-consteval auto SortedByUnicode() {
-  std::array<std::pair<char16_t, unsigned char>, 128> pairs{};
-  for (std::size_t i = 0; i < pairs.size(); ++i) pairs[i] = {kCodePageHigh[i], static_cast<unsigned char>(i + 0x80)};
-  std::sort(pairs.begin(), pairs.end());
-  return pairs;
-}
-
-constexpr auto kByUnicode = SortedByUnicode();
-
 std::string Mapped(std::string_view text, const std::array<char, 256>& table) {
   std::string result(text);
   for (char& ch : result) ch = table[IndexOf(ch)];
@@ -41,12 +28,8 @@ std::string Mapped(std::string_view text, const std::array<char, 256>& table) {
 }  // namespace
 
 unsigned char CodeOfUnicode(char32_t character) {
-  if (character < 0x80) return static_cast<unsigned char>(character);
-  if (character > 0xFFFF) return '?';
-  const auto unit = static_cast<char16_t>(character);
-  const auto at = std::lower_bound(kByUnicode.begin(), kByUnicode.end(), unit,
-                                   [](const auto& pair, char16_t wanted) { return pair.first < wanted; });
-  return at != kByUnicode.end() && at->first == unit ? at->second : static_cast<unsigned char>('?');
+  const int code = FindCode(character);
+  return code < 0 ? '?' : static_cast<unsigned char>(code);
 }
 
 std::string FromUtf8(std::string_view utf8) {

@@ -29,8 +29,7 @@ inline constexpr std::array<char16_t, 128> kCodePageHigh = {
 
 constexpr char16_t UnicodeOf(unsigned char code) { return code < 0x80 ? char16_t{code} : kCodePageHigh[code - 0x80u]; }
 
-// The code of a Unicode character, -1 if the code page lacks the character. For literals: slow, but usable at compile
-// time.
+// The code of a Unicode character, -1 if the code page lacks the character.
 constexpr int FindCode(char32_t character) {
   if (character < 0x80) return static_cast<int>(character);
   for (std::size_t i = 0; i < kCodePageHigh.size(); ++i)
