@@ -8,80 +8,67 @@ namespace {
 
 class Reader {
  public:
-  explicit Reader(std::string_view bytes) : fields_(bytes) {}
+  explicit Reader(std::string_view bytes) : bytes_(bytes) {}
 
-  void Read(std::int32_t& value) { value = static_cast<std::int32_t>(fields_.Number(4)); }
-  void Read(std::uint8_t& value) { value = static_cast<std::uint8_t>(fields_.Number(1)); }
-  void Read(bool& value) { value = fields_.Number(2) != 0; }
-  void Read(std::string& value) { value = fields_.String(2); }
+  void Field(std::int32_t& value) { value = static_cast<std::int32_t>(bytes_.Number(4)); }
+  void Field(std::uint8_t& value) { value = static_cast<std::uint8_t>(bytes_.Number(1)); }
+  void Field(bool& value) { value = bytes_.Number(2) != 0; }
+  void Field(std::string& value) { value = bytes_.String(2); }
+  void Path(std::string& path) { path = PathFromStored(bytes_.String(2)); }
 
  private:
-  RecordReader fields_;
+  RecordReader bytes_;
 };
 
 class Writer {
  public:
-  void Write(std::int32_t value) { fields_.Number(static_cast<std::uint32_t>(value), 4); }
-  void Write(std::uint8_t value) { fields_.Number(value, 1); }
-  void Write(bool value) { fields_.Number(value ? 0xFFFF : 0, 2); }
-  void Write(std::string_view value) { fields_.String(value, 2); }
-  std::string Bytes() && { return std::move(fields_).Take(); }
+  void Field(std::int32_t value) { bytes_.Number(static_cast<std::uint32_t>(value), 4); }
+  void Field(std::uint8_t value) { bytes_.Number(value, 1); }
+  void Field(bool value) { bytes_.Number(value ? 0xFFFF : 0, 2); }
+  void Field(std::string_view value) { bytes_.String(value, 2); }
+  void Path(std::string_view path) { bytes_.String(StoredPath(path), 2); }
+  std::string Bytes() && { return std::move(bytes_).Take(); }
 
  private:
-  RecordWriter fields_;
+  RecordWriter bytes_;
 };
+
+// Passes all fields to a Reader or a Writer, in the order of the stored format.
+template <class Record, class Stored>
+void ForEachField(Record& record, Stored& stored) {
+  stored.Field(record.Width);
+  stored.Field(record.Height);
+  stored.Field(record.Top);
+  stored.Field(record.Left);
+  stored.Field(record.AlwaysOnTopFlag);
+  stored.Field(record.FontName);
+  stored.Field(record.ForeColor);
+  stored.Field(record.BackColor);
+  stored.Field(record.FontSize);
+  stored.Field(record.FontBold);
+  stored.Field(record.FontItalic);
+  stored.Field(record.UserName);
+  stored.Field(record.UserEmail);
+  stored.Field(record.ShowStart);
+  stored.Field(record.AutosnapDistance);
+  stored.Field(record.LockPassword);
+  for (auto& path : record.RecentFiles) stored.Path(path);
+  stored.Field(record.WindowState);
+  stored.Field(record.LineCounting);
+}
 
 }  // namespace
 
 SettingsRecord ReadSettings(std::string_view bytes) {
-  SettingsRecord r;
+  SettingsRecord record;
   Reader reader(bytes);
-  reader.Read(r.Width);
-  reader.Read(r.Height);
-  reader.Read(r.Top);
-  reader.Read(r.Left);
-  reader.Read(r.AlwaysOnTopFlag);
-  reader.Read(r.FontName);
-  reader.Read(r.ForeColor);
-  reader.Read(r.BackColor);
-  reader.Read(r.FontSize);
-  reader.Read(r.FontBold);
-  reader.Read(r.FontItalic);
-  reader.Read(r.UserName);
-  reader.Read(r.UserEmail);
-  reader.Read(r.ShowStart);
-  reader.Read(r.AutosnapDistance);
-  reader.Read(r.LockPassword);
-  for (std::string& path : r.RecentFiles) {
-    reader.Read(path);
-    path = PathFromStored(path);
-  }
-  reader.Read(r.WindowState);
-  reader.Read(r.LineCounting);
-  return r;
+  ForEachField(record, reader);
+  return record;
 }
 
-std::string SettingsBytes(const SettingsRecord& r) {
+std::string SettingsBytes(const SettingsRecord& record) {
   Writer writer;
-  writer.Write(r.Width);
-  writer.Write(r.Height);
-  writer.Write(r.Top);
-  writer.Write(r.Left);
-  writer.Write(r.AlwaysOnTopFlag);
-  writer.Write(r.FontName);
-  writer.Write(r.ForeColor);
-  writer.Write(r.BackColor);
-  writer.Write(r.FontSize);
-  writer.Write(r.FontBold);
-  writer.Write(r.FontItalic);
-  writer.Write(r.UserName);
-  writer.Write(r.UserEmail);
-  writer.Write(r.ShowStart);
-  writer.Write(r.AutosnapDistance);
-  writer.Write(r.LockPassword);
-  for (const std::string& path : r.RecentFiles) writer.Write(StoredPath(path));
-  writer.Write(r.WindowState);
-  writer.Write(r.LineCounting);
+  ForEachField(record, writer);
   return std::move(writer).Bytes();
 }
 
