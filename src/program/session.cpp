@@ -32,7 +32,6 @@ Session::Session(MainView& view, Callbacks callbacks, Editor& editor, Files& fil
 void Session::Load() {
   view_.SetEditorColors(Rgb(0, 0, 0), Rgb(255, 255, 255));
   LoadText();
-  documents_.ForgetFirstSlotsMark();
   LoadSettings();
   ApplySettingsDefaults(settings_);
   files_.recent.changed.Notify();

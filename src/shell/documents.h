@@ -70,7 +70,6 @@ class Documents {
   // Removes the path and the mark of the current document.
   void ForgetPath();
   // Clears `Modified` of slot 1, because the text loaded at the start counts as unchanged.
-  void ForgetFirstSlotsMark() { slots_[0].Modified = false; }
   // Puts a document rescued after a crash into the tab, selects the tab and marks the document as unsaved.
   void Restore(int tab, std::string text, const std::string& path);
 
