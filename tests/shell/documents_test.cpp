@@ -117,11 +117,11 @@ TEST_F(DocumentsTest, RescueKeepsTheUnsavedDocumentsAndBringsThemBack) {
   documents.MakeCurrent("/a/two.txt", "two");  // saved
   documents.SwitchTo(4);
   Type("never saved");
-  const RescueRecord kept = UnsavedDocuments(documents);
+  const RescueRecord kept = DocumentsRescue(documents).Unsaved();
   EXPECT_EQ(kept, (RescueRecord{4, {{1, "/a/one.txt", "one!"}, {4, "", "never saved"}}}));
 
   Desk later;
-  EXPECT_TRUE(BringBackDocuments(later.documents, {kept}).empty());
+  EXPECT_TRUE(DocumentsRescue(later.documents).BringBack({kept}).empty());
   EXPECT_EQ(later.documents.SelectedTab(), 4);
   EXPECT_EQ(TextsOf(later.documents), "one!|||never saved||");
   EXPECT_EQ(StateOf(later.documents), (DocumentState{.title = "()*", .flagged = true, .unsaved = 2}));
@@ -139,7 +139,8 @@ TEST_F(DocumentsTest, RescueNeverOverwritesADocumentOfThisRun) {
   const RescueRecord first{1,
                            {{1, "/a/README", "1"}, {2, "", "2"}, {3, "", "3"}, {4, "", "4"}, {5, "/\u65e5.txt", "5"}}};
   // Four free tabs, five documents. A path outside the code page is stored as a URL.
-  EXPECT_EQ(ReadableDocuments(BringBackDocuments(documents, {first})), "Soubor:file:///%E6%97%A5.txt\r\n5\r\n\r\n");
+  DocumentsRescue rescue(documents);
+  EXPECT_EQ(rescue.Readable(rescue.BringBack({first})), "Soubor:file:///%E6%97%A5.txt\r\n5\r\n\r\n");
   EXPECT_EQ(TextsOf(documents), "given|1|2|3|4|");
   documents.SwitchTo(1);
   // A name without a full stop doesn't break the switch.

@@ -27,10 +27,13 @@ struct RescueKeeperTest : testing::Test {
     platform.files[folder.File("pelmar.ini")] = SettingsBytes(settings);
   }
   [[nodiscard]] bool FolderIsEmpty() const { return std::filesystem::is_empty(folder.Path()); }
-  // The texts of a rescue file; nothing where it isn't there.
+  // The texts of a rescue file, "" if there is no such file.
   [[nodiscard]] std::string Texts(const std::string& path) {
     const auto record = ReadRescue(kDocumentsRescue, platform.files[path]);
-    return record ? ReadableDocuments(record->texts) : "";
+    std::string texts;
+    if (record)
+      for (const RescuedText& document : record->texts) texts += ReadableDocument(document.origin, document.text);
+    return texts;
   }
 };
 
