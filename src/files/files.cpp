@@ -9,8 +9,8 @@ void AddFileCommands(Editor& editor, Files& files) {
   editor.commands.Add("Recent", [&files] { files.opener.OpenRecentFile(2); });
   editor.commands.Add("mnu_save_st", [&files] { files.saver.SaveStandard(); });
   editor.commands.Add("Mnu_SaveFast", [&files] { files.saver.SaveFast(); });
-  editor.commands.Add("mnuulvyb", [&files] { files.saver.SaveSelectionAs(); });
-  editor.commands.Add("mnukopsoub", [&files] { files.saver.SaveSelectionAs(); });
+  for (const std::string_view name : {"mnuulvyb", "mnukopsoub"})
+    editor.commands.Add(name, [&files] { files.saver.SaveSelectionAs(); });
   editor.commands.Add("mnuzesouboru", [&files] { files.saver.InsertFromFile(); });
 }
 

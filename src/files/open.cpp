@@ -31,31 +31,25 @@ void Opener::OpenPath(const std::string& path) {
   file_number_.Close();
 }
 
-void Opener::OpenRecentFile(int number) {
+void Opener::OpenQuietly(const std::string& path) {
   try {
-    OpenPath(std::string(recent_.Path(number)));
+    OpenPath(path);
   } catch (const RuntimeError&) {  // required: the command ends in silence
   }
 }
 
+void Opener::OpenRecentFile(int number) { OpenQuietly(std::string(recent_.Path(number))); }
+
 void Opener::OpenStandard() {
   const auto path = platform_.OpenDialog(kDocumentFilter, kDocumentFilterIndex);
-  if (!path) return;
-  try {
-    OpenPath(*path);
-  } catch (const RuntimeError&) {  // required: the command ends in silence
-  }
+  if (path) OpenQuietly(*path);
 }
 
 void Opener::ReloadFile() {
   const std::string path = documents_.CurrentPath();
   const std::string question =
       "Opravdu reload souboru ?\r\nZměny od posledního uložení \"" + path + "\" Budou ztraceny!";
-  if (!platform_.Confirmed(question, "Reload")) return;
-  try {
-    OpenPath(path);
-  } catch (const RuntimeError&) {  // required: the command ends in silence
-  }
+  if (platform_.Confirmed(question, "Reload")) OpenQuietly(path);
 }
 
 std::string Opener::Preview(const std::string& path) {

@@ -43,6 +43,8 @@ class Opener {
   std::string Preview(const std::string& path);
 
  private:
+  void OpenQuietly(const std::string& path);
+
   Documents& documents_;
   RecentFiles& recent_;
   Platform& platform_;
