@@ -20,7 +20,7 @@
 #include "platform/qt/desktop/printer.h"
 #include "platform/qt/folder_entries.h"
 #include "platform/qt/key_router.h"
-#include "platform/qt/lock_keys.h"
+#include "platform/qt/x11.h"
 
 namespace pelmar {
 namespace {
@@ -34,7 +34,9 @@ std::optional<std::string> ToPath(const std::optional<QString>& answer) {
 
 }  // namespace
 
-QtPlatform::QtPlatform() : recent_(DataHome() + QStringLiteral("/recently-used.xbel")) {}
+QtPlatform::QtPlatform()
+    : recent_(DataHome() + QStringLiteral("/recently-used.xbel")),
+      install_folder_(FindInstallFolder(QCoreApplication::applicationDirPath(), DataHome())) {}
 
 Answer QtPlatform::Message(MessageType type, std::string_view text, std::string_view title) {
   const WaitCursor::Lift lift(pointer_);
@@ -107,14 +109,7 @@ std::string QtPlatform::ShareFolder() {
   return Utf8FromQString(QDir(installed).exists() ? QDir::cleanPath(installed) + QLatin1Char('/') : beside);
 }
 
-std::string QtPlatform::InstallFolder() {
-  if (install_folder_.path.empty())
-    install_folder_ = FindInstallFolder(QCoreApplication::applicationDirPath(), DataHome());
-  return install_folder_.path;
-}
-
 void QtPlatform::ReportRefusedFolder() {
-  InstallFolder();
   const std::string notice = InstallFolderNotice(install_folder_);
   if (!notice.empty()) Message(MessageType::kOkInfo, notice, "Pelmar VEX");
 }

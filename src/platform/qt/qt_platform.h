@@ -43,7 +43,7 @@ class QtPlatform : public Platform {
   std::optional<FileStamp> Stamp(const std::string& path) override;
   bool IsSameFile(const std::string& left, const std::string& right) override;
 
-  std::string InstallFolder() override;
+  std::string InstallFolder() override { return install_folder_.path; }
   std::string TempFolder() override;
   std::string ShareFolder() override;
 
@@ -71,7 +71,7 @@ class QtPlatform : public Platform {
   Clipboard clipboard_;
   QCollator collator_ = CzechCollator();
   RecentDocuments recent_;
-  ChosenFolder install_folder_;
+  const ChosenFolder install_folder_;
   QString dialog_folder_;  // the folder of the last chosen file
   std::mt19937 random_{std::random_device{}()};
 };

@@ -5,8 +5,8 @@
 #include <QWindow>
 #include <utility>
 
-#include "platform/qt/desktop/clipboard_owner.h"
 #include "platform/qt/desktop/clipboard_text.h"
+#include "platform/qt/x11.h"
 
 namespace pelmar {
 
