@@ -56,7 +56,7 @@ void KeptContent::Remove() {
 std::vector<std::string> FindLeftContents(const std::string& folder) {
   std::vector<std::string> found;
   std::error_code error;
-  for (std::filesystem::directory_iterator at(folder, error), end; !error && at != end; at.increment(error))
+  for (std::filesystem::directory_iterator at(folder, error), end; at != end; at.increment(error))
     if (IsNameOfKept(at->path().filename().string()) && IsLeft(at->path())) found.push_back(at->path());
   std::ranges::sort(found);
   return found;

@@ -26,16 +26,6 @@ class TextMime : public QMimeData {
   QByteArray bytes_;
 };
 
-std::string WithCrLf(std::string_view text) {
-  std::string result;
-  result.reserve(text.size() + text.size() / 16);
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (text[i] == '\n' && (i == 0 || text[i - 1] != '\r')) result += '\r';
-    result += text[i];
-  }
-  return result;
-}
-
 QString WithCrLf(QString text) {
   return text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\n', QLatin1String("\r\n"));
 }
@@ -44,11 +34,15 @@ QString WithCrLf(QString text) {
 
 QMimeData* MimeFromText(std::string_view bytes) { return new TextMime(bytes); }
 
+bool HasText(const QMimeData& mime) {
+  return mime.hasFormat(QString::fromLatin1(kBytesMimeType)) || mime.hasFormat(kPlainMimeType);
+}
+
 std::optional<std::string> TextFromMime(const QMimeData* mime) {
   if (mime == nullptr) return std::nullopt;
   if (const QString own = QString::fromLatin1(kBytesMimeType); mime->hasFormat(own))
     return mime->data(own).toStdString();
-  if (mime->hasFormat(kPlainMimeType)) return PageText(mime->text());
+  if (HasText(*mime)) return PageText(mime->text());
   return std::nullopt;
 }
 
@@ -59,7 +53,7 @@ QString LineFromMime(const QMimeData& mime, bool holds_lines) {
 }
 
 std::string PageText(const QString& foreign) {
-  return WithCrLf(TextFromQString(foreign.normalized(QString::NormalizationForm_C)));
+  return TextFromQString(WithCrLf(foreign.normalized(QString::NormalizationForm_C)));
 }
 
 }  // namespace pelmar

@@ -12,6 +12,8 @@ namespace pelmar {
 
 inline constexpr char kBytesMimeType[] = "application/x-pelmar-windows-1250";
 
+bool HasText(const QMimeData& mime);
+
 // The caller owns the result. The plain text is made only if another program asks for the text.
 QMimeData* MimeFromText(std::string_view bytes);
 

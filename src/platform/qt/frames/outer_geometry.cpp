@@ -34,20 +34,13 @@ TwipsRect OuterGeometry(const QWidget& window) { return InTwips(Outer(window)); 
 
 void SetOuterPosition(QWidget& window, int left, int top) { MoveOuter(window, {PixelsOf(left), PixelsOf(top)}); }
 
-void SetOuterWidth(QWidget& window, int twips) {
-  const QMargins frame = Frame(window);
-  window.resize(PixelsOf(twips) - frame.left() - frame.right(), window.height());
-}
-
-void SetOuterHeight(QWidget& window, int twips) {
-  const QMargins frame = Frame(window);
-  window.resize(window.width(), PixelsOf(twips) - frame.top() - frame.bottom());
+void SetOuterSize(QWidget& window, int width, int height) {
+  window.resize(QSize(PixelsOf(width), PixelsOf(height)).shrunkBy(Frame(window)));
 }
 
 void SetOuterPlace(QWidget& window, const TwipsRect& place) {
   const TwipsRect now = OuterGeometry(window);
-  if (place.width != now.width) SetOuterWidth(window, place.width);
-  if (place.height != now.height) SetOuterHeight(window, place.height);
+  if (place.width != now.width || place.height != now.height) SetOuterSize(window, place.width, place.height);
   if (place.left != now.left || place.top != now.top) SetOuterPosition(window, place.left, place.top);
 }
 

@@ -14,8 +14,7 @@ namespace pelmar {
 TwipsRect OuterGeometry(const QWidget& window);
 // Sets left and top together. Separate calls would overwrite each other, since the window manager answers with a delay.
 void SetOuterPosition(QWidget& window, int left, int top);
-void SetOuterWidth(QWidget& window, int twips);
-void SetOuterHeight(QWidget& window, int twips);
+void SetOuterSize(QWidget& window, int width, int height);
 // Sets the size and the position. Skips values that are already right.
 void SetOuterPlace(QWidget& window, const TwipsRect& place);
 

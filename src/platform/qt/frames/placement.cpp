@@ -53,7 +53,7 @@ Placement::Placement(QWidget& window, Wish wish, Trust trust)
 }
 
 void Placement::Begin(const QMargins& old_frame, bool maximised) {
-  left_ = old_frame;
+  old_frame_ = old_frame;
   maximised_ = maximised;
   met_ = 0;
   mapped_ = false;
@@ -76,13 +76,13 @@ void Placement::Look() {
   mapped_ = true;
   const bool late = deadline_.hasExpired();
   const QMargins frame = system->frameMargins();
-  if (!late && (frame == left_ || !IsMade(frame))) return;
+  if (!late && (frame == old_frame_ || !IsMade(frame))) return;
   if (!window_.isMinimized()) Apply();
   if (!frame_known_) {
     frame_known_ = true;
     if (on_frame) on_frame();
   }
-  const bool trusted = trust_ == Trust::kFirst && left_.isNull();
+  const bool trusted = trust_ == Trust::kFirst && old_frame_.isNull();
   if (late || met_ >= (trusted ? 1 : kOftenEnough)) End();
 }
 

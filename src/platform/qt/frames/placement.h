@@ -49,7 +49,7 @@ class Placement : public QObject {
   Wish wish_;
   Trust trust_;
   QTimer timer_;
-  QMargins left_;
+  QMargins old_frame_;
   QDeadlineTimer deadline_;
   int met_ = 0;  // how many checks in a row found the window in place
   bool maximised_ = false;

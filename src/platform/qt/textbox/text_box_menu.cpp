@@ -12,8 +12,7 @@ namespace {
 
 bool ClipboardHasText() {
   const QMimeData* mime = QGuiApplication::clipboard()->mimeData();
-  return mime != nullptr &&
-         (mime->hasFormat(QString::fromLatin1(kBytesMimeType)) || mime->hasFormat(QStringLiteral("text/plain")));
+  return mime != nullptr && HasText(*mime);
 }
 
 }  // namespace

@@ -60,9 +60,7 @@ bool TextDrop::IsOwn(const QDropEvent& event) const {
 }
 
 bool TextDrop::Takes(const QDropEvent& event) const {
-  const QMimeData* mime = event.mimeData();
-  if (box_.IsReadOnly() || mime->hasUrls()) return false;
-  return mime->hasFormat(QString::fromLatin1(kBytesMimeType)) || mime->hasFormat(QStringLiteral("text/plain"));
+  return !box_.IsReadOnly() && !event.mimeData()->hasUrls() && HasText(*event.mimeData());
 }
 
 void TextDrop::Accept(QDropEvent& event) const {

@@ -210,8 +210,7 @@ void MainWindow::SetPlace(const TwipsRect& place) {
   const QSize first = kFirstSize.boundedTo(screen()->availableSize());
   if (place.width <= 0) wanted_place_.width = TwipsOf(first.width());
   if (place.height <= 0) wanted_place_.height = TwipsOf(first.height());
-  SetOuterWidth(*this, wanted_place_.width);
-  SetOuterHeight(*this, wanted_place_.height);
+  pelmar::SetOuterSize(*this, wanted_place_.width, wanted_place_.height);
   SetOuterPosition(*this, wanted_place_.left, wanted_place_.top);
 }
 
@@ -244,8 +243,7 @@ void MainWindow::SetOuterSize(int width, int height) {
   wants_position_ = false;
   wanted_place_.width = width;
   wanted_place_.height = height;
-  SetOuterWidth(*this, width);
-  SetOuterHeight(*this, height);
+  pelmar::SetOuterSize(*this, width, height);
 }
 
 void MainWindow::MoveTo(const TwipsRect& place) {
