@@ -56,7 +56,7 @@ class Prev : public FormDialog<Ui::Prev> {
   Doors doors_;
   Converter converter_;
   std::string roman_;
-  int conversions_ = 0;  // number of conversions begun; a running one stops unless it is the last
+  int conversions_ = 0;  // the number of started conversions; a running conversion stops when the number changes
   std::vector<Base> bases_;
 };
 
