@@ -49,7 +49,7 @@ class FrmBrowser : public QMainWindow {
   // Puts the address into the box and its list, then loads it.
   void Visit(const QString& address);
   void NavigateToBox();
-  // Loads the address, or tells the person why not.
+  // Loads the address, or shows a message that refuses the address.
   void Load(const QString& address);
   void ShowCaption();
   void ShowHistory();

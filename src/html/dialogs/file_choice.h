@@ -35,8 +35,8 @@ struct FileChoice {
 
   [[nodiscard]] bool HasFile() const;
 
-  // Copies the label's path, with slashes in place of backslashes, into the dialog's hidden label. Returns the path as
-  // it is written in a link.
+  // Copies the label's path, with slashes in place of backslashes, into the hidden field `working_copy`. Returns the
+  // LinkText of the path.
   std::string TakePath(QLineEdit& working_copy) const;
 
   DriveList* places;

@@ -71,7 +71,7 @@ Value SetOption(Options<Value> options) {
   return options.begin()->second;
 }
 
-// The same. Nothing if the box is not checked.
+// The same value. Nothing if the box is not checked.
 template <class Value>
 std::optional<Value> SetOption(const QCheckBox* box, Options<Value> options) {
   return box->isChecked() ? std::optional(SetOption<Value>(options)) : std::nullopt;
