@@ -1,6 +1,5 @@
-// `Kalkul`: the desk calculator, for the mouse and the real keyboard. In the editor, the button "Zavři" hides the
-// window, and the close box unloads the window with its number. If the calculator is the whole program, both ask
-// whether to end the program.
+// `Kalkul`: the desk calculator. In the editor, the button "Zavři" hides the window, and the close box unloads the
+// window with its number. If the calculator is the whole program, both ask whether to end the program.
 #pragma once
 
 #include <functional>

@@ -1,5 +1,5 @@
-// `Prev`: whole numbers in four notations, with a keypad for each of three bases. The real keyboard works the focused
-// keypad.
+// `Prev`: whole numbers in four notations, with a keypad for each of three bases. Typed characters press the keys of
+// the focused keypad.
 #pragma once
 
 #include <functional>

@@ -34,8 +34,7 @@ QString Title() { return QStringLiteral("Zpráva stránky"); }
 constexpr char kLeaving[] = "Are you sure you want to leave this page? Changes that you made may not be saved.";
 constexpr int kMostUnasked = 2;         // questions before a page may be silenced
 constexpr int kLongestQuestion = 2000;  // characters of a page's own text
-// The most characters of an address in a question, and of one line. A longer address isn't opened, since the person
-// must see all of an address.
+// The most characters of an address that a question shows, and of one of its lines. A longer address isn't opened.
 constexpr qsizetype kLongestAsked = 1000, kAddressLine = 80;
 
 // A frame of a page may also hold about: and blob: addresses.
