@@ -23,7 +23,7 @@ class FrmBrowser : public QMainWindow {
   Q_OBJECT
 
  public:
-  // `end_program` is called when the person ends a browser that is the whole program. Otherwise it is empty.
+  // `end_program` is called when the person ends a browser that is the whole program, and is empty in the editor.
   FrmBrowser(WebViewMaker& maker, Platform& platform, std::function<void()> end_program);
   ~FrmBrowser() override;
 

@@ -27,7 +27,7 @@ class WebView {
   virtual void Go(int places) = 0;  // steps in the history: -1 back, 1 forward
   virtual void Refresh() = 0;
   virtual void Stop() = 0;
-  // Ends the page's process if it doesn't answer within three seconds. The commands above do the same.
+  // Ends the process of a page that doesn't answer within three seconds. The commands above do the same.
   virtual void EndIfStuck() = 0;
   // Loads the present page again, this time with its parts from the net.
   virtual void LoadFromNet() = 0;

@@ -13,7 +13,7 @@
 
 #include "html/engine/net_gate.h"
 
-// This function of Qt has no public header. It sets the context that all others share.
+// This function of Qt, which has no public header, sets the context that all others share.
 extern void qt_gl_set_global_share_context(QOpenGLContext* context);
 
 namespace pelmar {
