@@ -23,8 +23,7 @@ std::string ToOct(std::int32_t value);
 std::optional<std::string> ToRoman(std::int32_t n, const std::function<bool()>& go_on);
 std::string ToRoman(std::int32_t n);
 
-// The fields of the window and the effect of its keys. Digit and the From functions cut the end of a field that is too
-// long.
+// The fields of the window and the effect of its keys. Digit and the From functions truncate a field that is too long.
 struct Converter {
   std::string decimal = "0";      // at most 9 characters
   std::string hexadecimal = "0";  // at most 9 characters

@@ -1,6 +1,4 @@
-// Functions that many HTML dialogs share. They enable controls by a check box, show a colour as hexadecimal digits,
-// read the chosen option, write the value of a bar into a label, and read a text that counts only while its box is
-// checked.
+// Functions that many HTML dialogs share, for check boxes, options, colours and the values of bars.
 #pragma once
 
 #include <QCheckBox>
