@@ -28,7 +28,7 @@ Analysis AnalyseText(std::string_view text) {
   Analysis analysis;
   analysis.length = text.size();
   for (const char ch : text) ++analysis.counts[IndexOf(ch)];
-  analysis.counts[0] = 0;  // code 0 is not counted
+  analysis.counts[0] = 0;
   std::iota(analysis.ranking.begin(), analysis.ranking.end(), std::uint8_t{1});
   std::ranges::stable_sort(analysis.ranking, std::greater(), [&](std::uint8_t code) { return analysis.counts[code]; });
   return analysis;

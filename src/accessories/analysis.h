@@ -20,7 +20,7 @@ struct Analysis {
 
 Analysis AnalyseText(std::string_view text);
 
-// The scale of the graph. Bars stand on the lower edge; a bar of height kGraphFull reaches the top.
+// The scale of the graph. Bars stand at y = kGraphFull, just below the visible part; the highest bar reaches y = 0.
 inline constexpr int kGraphWidth = 508;
 inline constexpr int kGraphHeight = 196;
 inline constexpr int kGraphFull = 200;
@@ -31,19 +31,19 @@ struct Bar {
   bool operator==(const Bar&) const = default;
 };
 
-// The bars, at x = code * BarStep. No bars if no counted code occurs.
+// The bars, at x = code * BarStep. Empty if no counted code occurs.
 std::vector<Bar> GraphBars(const Analysis& analysis, bool wide, bool ignore_blank);
 constexpr int BarStep(bool wide) { return wide ? 2 : 4; }
 constexpr int BarWidth(bool wide) { return wide ? 1 : 3; }
 
-// The code at x of the scale. -1, which is no code, just left of the graph.
+// The code at `x` of the scale. Negative, which is no code, left of the graph.
 int CodeAt(double x, bool wide);
 // For example "Poloha: 65 Znak: "A"".
 std::string PointedText(int code);
 
-// The 255 rows of the list, the most frequent code first.
+// The 255 rows of the list, the most frequent code first. Empty for an empty text.
 std::vector<std::string> AnalysisRows(const Analysis& analysis);
-// The character of a row; 0 for a text that is no row.
+// The character that a row of AnalysisRows shows. 0 for a text of less than two characters.
 char CharOfRow(std::string_view row);
 
 }  // namespace pelmar

@@ -9,7 +9,7 @@ namespace {
 
 constexpr double kRadian = 3.14159265358979 / 180;
 
-// The value of a typed number. A comma alone is what is left of "0,", so it is 0.
+// The value of a number from the display. A comma alone, which DropFirst may leave, counts as 0.
 std::optional<double> Read(std::string_view number) {
   const std::string_view unsigned_part = number.substr(number.starts_with('-') ? 1 : 0);
   return unsigned_part == "," ? 0.0 : ParseNumber(number);

@@ -28,15 +28,15 @@ Channels RandomChannels(const Draw& draw);
 Channels Darker(const Channels& c);
 Channels Lighter(const Channels& c);
 Channels Rotated(const Channels& c);
-// Moves all channels so that the lowest becomes 0, or the highest 255. required: if two channels tie, LowestToZero
-// changes nothing and HighestToFull makes white.
+// Move all channels by the same number, which brings the lowest to 0, or the highest to 255. required: if two channels
+// share the lowest value, LowestToZero changes nothing; if two share the highest value, HighestToFull gives white.
 Channels LowestToZero(const Channels& c);
 Channels HighestToFull(const Channels& c);
 Channels MeanToMiddle(const Channels& c);
 
 // For example "012,255,000".
 std::string HistoryRow(const Channels& c);
-// required: green is read from its comma on, so green is 0.
+// required: green is read from the comma before its digits, so green is 0.
 Channels FromHistoryRow(std::string_view row);
 
 }  // namespace pelmar

@@ -108,7 +108,7 @@ std::optional<std::int32_t> Converter::FromHex() {
   decimal = std::to_string(*value);
   octal = ToOct(*value);
   Cut();
-  // required: the number in the decimal field, which loses its tenth digit
+  // required: the Roman form uses the decimal field, in which Cut has dropped a tenth character
   return Whole(LeadingNumber(decimal));
 }
 

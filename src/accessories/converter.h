@@ -9,8 +9,9 @@
 
 namespace pelmar {
 
-// Reads a decimal number, a hexadecimal number after "&H" or an octal number after "&O". Up to 4 hexadecimal or 6 octal
-// digits that fit 16 bits are a signed 16-bit number, others a signed 32-bit number. Nothing if they don't fit 32 bits.
+// Reads a decimal number, a hexadecimal number after "&H" or an octal number after "&O". At most 4 hexadecimal or 6
+// octal digits are a signed 16-bit number if they fit 16 bits, other digits a signed 32-bit number. Nothing if a
+// hexadecimal or octal number doesn't fit 32 bits.
 std::optional<double> ReadNumber(std::string_view text);
 
 // In two's complement, upper case, without leading zeros.
@@ -22,8 +23,7 @@ std::string ToOct(std::int32_t value);
 std::optional<std::string> ToRoman(std::int32_t n, const std::function<bool()>& go_on);
 std::string ToRoman(std::int32_t n);
 
-// The fields of the window and the effect of its keys. Digit and the From functions cut the end of a field that is too
-// long.
+// The fields of the window and the effect of its keys. Digit and the From functions truncate a field that is too long.
 struct Converter {
   std::string decimal = "0";      // at most 9 characters
   std::string hexadecimal = "0";  // at most 9 characters
@@ -32,8 +32,8 @@ struct Converter {
   void Digit(std::string Converter::*field, char digit);
   void DropLast(std::string Converter::*field);
 
-  // Each fills the other two fields and returns the number for the Roman form. Nothing, with all fields unchanged, if
-  // the number doesn't fit 32 bits.
+  // Each fills the other two fields and returns the number for the Roman form. If the number doesn't fit 32 bits, each
+  // returns nothing and changes no field.
   std::optional<std::int32_t> FromDecimal();
   std::optional<std::int32_t> FromHex();
   std::optional<std::int32_t> FromOct();

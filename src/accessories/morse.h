@@ -10,14 +10,14 @@ namespace pelmar {
 
 struct Editor;
 
-// Each sign ends in "/". Letters lose their diacritics. A character without a sign stays, without "/". required: a
-// blank has the sign of the slash; "CH" has a sign of its own, and the sign of H follows it.
+// Each sign ends in "/". Letters lose their diacritics. A character without a sign is copied, without "/". required: a
+// blank has the sign of the slash; "CH" becomes the sign of CH and the sign of H.
 std::string TextToMorse(std::string_view text);
 
-// A menu item: its name, its caption and the sign that it inserts.
+// Names and captions are UTF-8.
 struct MorseItem {
-  std::string_view name;     // UTF-8
-  std::string_view caption;  // UTF-8
+  std::string_view name;
+  std::string_view caption;
   std::string_view sign;
 };
 

@@ -84,8 +84,8 @@ RescueRecord NotesToKeep(const NotesRecord& stored, const NotesRecord& now, int 
 
 std::vector<RescuedText> BringBackNotes(NotesRecord& record, const std::vector<RescueRecord>& unsaved) {
   std::vector<RescuedText> moved;
-  for (const RescueRecord& of_one : unsaved) {
-    for (const RescuedText& note : of_one.texts) {
+  for (const RescueRecord& rescued : unsaved) {
+    for (const RescuedText& note : rescued.texts) {
       if (record.Page(note.place) == note.origin) {
         record.Page(note.place) = note.text;
       } else if (!note.text.empty() && record.Page(note.place) != note.text) {
@@ -93,7 +93,7 @@ std::vector<RescuedText> BringBackNotes(NotesRecord& record, const std::vector<R
       }
     }
   }
-  // Other pages take empty pages only after all pages that can are back in their own places.
+  // The empty pages are filled last, so that none is filled before its own text returns.
   std::erase_if(moved, [&](const RescuedText& note) { return TakeEmptyPage(record, note.text); });
   return moved;
 }

@@ -1,6 +1,6 @@
 // The five notes pages, their file "\notes.dat", and the rescue of unsaved pages. The file is one record from offset 0:
-// for each page a 16-bit length and its bytes. The file is not cut, so the rest of a longer old record stays after the
-// new record. Pages are numbered from 1; their texts are Windows-1250.
+// for each page a 16-bit length and its bytes. A save doesn't shorten the file, so the rest of a longer old record
+// stays after the new record. Pages are numbered from 1; their texts are Windows-1250.
 #pragma once
 
 #include <array>
@@ -36,28 +36,28 @@ int OverlongPage(const NotesRecord& record);
 // The message about a page that is too long. UTF-8.
 std::string OverlongMessage(int page, std::size_t size);
 
-// The file in the install folder. A missing file is created empty. Both throw RuntimeError if the file can't be used.
+// Read and write the file in the install folder. LoadNotes creates a missing file. Both throw RuntimeError on failure.
 NotesRecord LoadNotes(Platform& platform, FileNumber& file_number);
 void StoreNotes(const NotesRecord& record, Platform& platform, FileNumber& file_number);
-// Reads the file again, since another copy of the program may have written it after this copy stored `stored`. Returns
-// `stored` if the file is missing or empty. Throws like LoadNotes.
+// Reads the file again, since another copy of the program may have written it. If the file is missing or empty, returns
+// `stored`, which this copy read or wrote last. Throws like LoadNotes.
 NotesRecord LoadNotesAnew(const NotesRecord& stored, Platform& platform, FileNumber& file_number);
 
 struct MergedNotes {
   NotesRecord record;
-  int twice = 0;  // the first page that changed in both; 0 for none
+  int twice = 0;  // the first page of which both texts are kept; 0 for none
 };
 
-// Applies the changes from `stored` to `now` to the present content of the file. A page that changed in both is kept
-// twice: the text of `now` goes to an empty page or, if no page is empty, below the other text, where it may become too
-// long.
+// Applies the changes between `stored` and `now` to `file`, the present content of the file. If a page has changed in
+// the file too, both texts are kept: an empty page gets the text of `now`. If no page is empty, this text is appended
+// to the text in the file, and the page may become too long.
 MergedNotes MergeNotes(const NotesRecord& now, const NotesRecord& stored, const NotesRecord& file);
 
-// The pages that differ from the stored ones.
+// The pages of `now` that differ from `stored`.
 RescueRecord NotesToKeep(const NotesRecord& stored, const NotesRecord& now, int page_on_show);
 
-// Puts rescued pages back: a page goes to its own place if the place still holds the old text, otherwise to the next
-// empty page. Returns the pages that found no place. An emptied page needs no place.
+// Puts unsaved pages back: a text returns to its page if the page still has the stored text, otherwise an empty page
+// gets the text. Returns the texts for which no page was empty. An empty text needs no page.
 std::vector<RescuedText> BringBackNotes(NotesRecord& record, const std::vector<RescueRecord>& unsaved);
 
 // The pages as one readable text.

@@ -1,7 +1,7 @@
-// Computes where the notes window goes at each tick of its timer. Undocked, or while the main window is minimised, it
-// snaps to the edges of the screen. Docked, it lies right of the main window, or over a maximised main window at the
-// right edge of the screen. Docked and running alone, it lies in the lower right corner. Places are outer frames in
-// twips.
+// Computes the place of the notes window at each tick of its timer. The window snaps to the edges of the screen if it
+// is undocked or the main window is minimised. A docked window lies right of the main window, or at the right edge of
+// the screen over a maximised main window, or, without the editor, in the lower right corner of the screen. Places are
+// outer frames in twips.
 #pragma once
 
 #include <optional>
@@ -34,7 +34,7 @@ class NotesTimer {
   [[nodiscard]] int Interval() const { return quiet_ticks_ < kTicksUntilQuiet ? kTick : kQuietTick; }  // ms
   // Call when something has moved.
   void Wake() { quiet_ticks_ = 0; }
-  // Call when the window is minimised or maximised and stays in place.
+  // Call in place of Tick while the window is minimised or maximised.
   void Rest() { ++quiet_ticks_; }
   // The new place of the window, nothing if the window stays.
   std::optional<TwipsRect> Tick(const NotesSurroundings& now);

@@ -13,7 +13,7 @@ struct CheckSums {
   std::int64_t and_crc = 0;     // AND of each pair
   std::int64_t short_crc = 0;   // XOR of the ANDs of the two pairs in each four
 };
-// Only `crc` counts the characters that are left over at the end.
+// Only `crc` counts the characters after the last whole pair or four.
 CheckSums SumsOf(std::string_view text);
 
 // The message: a line for each sum, in hexadecimal and decimal. UTF-8.

@@ -8,7 +8,7 @@
 
 namespace pelmar {
 
-// The table that the dialog shows: in five rows, the look-alikes under each letter.
+// The table that the dialog shows: a row of letters, and below each letter its look-alikes.
 std::string LookAlikeReminder();
 
 // Replaces each letter from A to Z and a to z by one of its look-alikes; both cases of the letter are look-alikes too.

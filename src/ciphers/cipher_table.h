@@ -1,6 +1,6 @@
 // The key of the RND cipher: a code of binary digits for each of 29 symbols, and the letters that stand for the digits.
-// A table from a file may be damaged: with codes of other lengths or characters, without letters, with any depth from 0
-// to 255. All functions accept such a table.
+// A table from a file may have codes of any length and characters, no letters, and any depth from 0 to 255. All
+// functions accept such a table.
 #pragma once
 
 #include <array>
@@ -20,14 +20,13 @@ inline constexpr std::size_t kSymbols = kSymbolCharacters.size();
 
 struct CipherTable {
   std::array<std::string, kSymbols> symbol_codes;
-  std::uint8_t depth = 0;  // digits of a code
+  std::uint8_t depth = 0;  // the number of digits in a code
   std::string one_letters;
   std::string zero_letters;
   std::string note;
 };
 
-// Makes new codes of `depth` digits, 8 to 64. Takes two draws for each digit. required: two symbols may get the same
-// code.
+// Makes new codes of `depth` digits. Takes two draws for each digit. required: two symbols may get the same code.
 void GenerateCodes(CipherTable& table, int depth, const Draw& draw);
 
 // Divides the letters between the two sets. Takes two draws for each letter.
@@ -39,7 +38,7 @@ std::vector<std::string> LetterRows(const CipherTable& table);
 
 enum class CountedDigits { kAll, kFirstEight };
 // The line with the two coefficients and their product; 1 means perfect balance. Nothing if a coefficient would divide
-// by zero. required: a generated table counts other digits than a table from a file.
+// by zero. required: all digits count only if the codes and the letters were both just generated.
 std::optional<std::string> CoefficientsText(const CipherTable& table, CountedDigits counted);
 
 }  // namespace pelmar

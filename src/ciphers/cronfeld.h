@@ -1,5 +1,5 @@
-// The Cronfeld system moves letters by the digits of a password. Each character of the text takes the next digit, and
-// after the last digit the first one again. Other characters than letters stay.
+// The Cronfeld system moves letters in the alphabet by the digits of a password. Each character of the text uses the
+// next digit, and the first digit follows the last. Only letters change.
 #pragma once
 
 #include <string>
@@ -13,7 +13,7 @@ namespace pelmar {
 std::string CronfeldEncipher(std::string_view text, std::string_view password);
 std::string CronfeldDecipher(std::string_view text, std::string_view password);
 
-// What the password field makes of a typed text: the whole number at or below its value.
+// The text that the password field shows after a typed text: the typed number, rounded down.
 std::string PasswordText(std::string_view typed);
 
 // 15 digits. The first digit is not 0, since the field would drop a 0. Takes 15 draws.

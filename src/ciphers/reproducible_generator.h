@@ -23,7 +23,7 @@ class ReproducibleGenerator {
   // 0 <= r < 1. Call Reseed before the first draw.
   float Draw() { return static_cast<float>(Step()) / static_cast<float>(kModulus); }
 
-  // The integer part of r * range + 1 for the next draw r: 1 to range. The range is at most 256.
+  // A number from 1 to `range`: the integer part of r * range + 1, where r is the next draw. `range` is at most 256.
   std::uint32_t DrawUpTo(std::uint32_t range) { return (Step() * range >> kBits) + 1; }
 
  private:

@@ -1,5 +1,5 @@
-// The RND cipher. Each symbol of the text becomes its code from the table, and each digit of the code a random letter
-// of the set for this digit. A damaged table works as far as possible.
+// The RND cipher. The table gives the code of each symbol. For each digit of the code, the cipher writes a random
+// letter from the set for this digit. A damaged table works as far as possible.
 #pragma once
 
 #include <cstddef>
@@ -12,19 +12,19 @@
 
 namespace pelmar {
 
-// Called now and then with the number of characters that are done.
+// Called now and then with the number of processed characters.
 using Progress = std::function<void(std::size_t done)>;
 
-// The text as the cipher can take it: A to Z without diacritics, blanks, and the codes 13 and 10. All else is dropped.
+// The text in upper case and without diacritics. Characters that are no symbols are dropped.
 std::string PrepareText(std::string_view text);
 
-// Writes `depth` letters for each character, with one draw each. required: a character that is no symbol repeats the
-// code of the character before; at the start its code is all ones. An empty set writes no letter.
+// Takes `depth` draws for each character. Each draw writes a letter, or nothing if the set of the digit is empty.
+// required: a character that is no symbol gets the code of the last symbol before it, or a code of ones at the start.
 std::string RndEncipher(std::string_view text, const CipherTable& table, const Draw& draw, const Progress& progress);
 
-// Reads a character from each `depth` letters. Letters outside the set of zeros are ones. required: the last symbol
-// whose code holds the digits wins; unknown digits repeat the character before; left over digits may lie anywhere in a
-// code.
+// Reads a character from each `depth` letters. A letter outside the set of zeros is a 1. required: the last symbol
+// whose code contains the digits counts; unknown digits repeat the previous character; too few digits at the end match
+// any part of a code.
 std::string RndDecipher(std::string_view text, const CipherTable& table, const Progress& progress);
 
 }  // namespace pelmar

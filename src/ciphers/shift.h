@@ -1,5 +1,5 @@
-// Moves the letters A to Z and a to z by a fixed number of places in the alphabet, and rotates a text. Other characters
-// stay.
+// Moves the letters A to Z and a to z by a fixed number of places in the alphabet; other characters stay. Also rotates
+// a text.
 #pragma once
 
 #include <cstddef>
@@ -11,10 +11,10 @@ namespace pelmar {
 
 inline constexpr int kLetters = 26;
 
-// Whether the first character equals its upper-case form. Digits and signs do.
+// True if the first character equals its upper-case form, as digits and signs do. True for an empty text.
 bool IsUpperChar(std::string_view ch);
 
-// The place of a letter in the alphabet, from 1. 0 for all characters but A to Z and a to z.
+// The place of a letter from A to Z or a to z in the alphabet, 1 to 26. Other characters give 0.
 int LetterNumber(char ch);
 
 // The letter `shift` places after `letter`, in the same case. required: the alphabet repeats only once, so a large

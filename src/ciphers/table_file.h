@@ -1,5 +1,5 @@
 // Reads and writes the file of a cipher table (".pvt"). The file has no signature: any file is read as a table, and
-// fields after its end are zero or empty. The size of the file limits the memory for reading.
+// fields beyond the end of the file are zero or empty.
 #pragma once
 
 #include <cstdint>
@@ -14,24 +14,24 @@ namespace pelmar {
 
 inline constexpr std::string_view kTableFilter = "Pelmar VEX Šifrovací tabulka (*.pvt)|*.pvt";
 
-// The longest text in a field of the file.
+// The longest text in a field of the file, in bytes.
 inline constexpr std::size_t kLongestField = 65535;
 
 CipherTable ReadTable(std::string_view bytes);
 // Cuts fields to kLongestField bytes.
 std::string TableBytes(const CipherTable& table);
 
-// Loads and saves a table through the file dialogs. Both share the name of the last file.
+// Loads and saves a table through the file dialogs. Load and Save share the path of the last file.
 class TableFiles {
  public:
   TableFiles(Platform& platform, FileNumber& file_number);
 
   // Reads a table. required: if the person cancels, the last file is read again; a missing file is created and read as
-  // empty. Throws RuntimeError and keeps the table if the file can't be read or created, or without a last file.
+  // empty. Throws RuntimeError and keeps the table if the file can't be read or created, or if there is no last file.
   void Load(CipherTable& table);
 
-  // Overwrites the start of a file; the rest of a longer file stays. Asks before the file is overwritten. required:
-  // errors are not reported.
+  // Overwrites the start of a file; the rest of a longer file stays. Asks first if the file exists. required: errors
+  // are not reported.
   void Save(const CipherTable& table);
 
  private:

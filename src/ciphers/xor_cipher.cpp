@@ -16,7 +16,7 @@ bool EndsBroken(Platform& platform) {
   return platform.Confirmed("Ukončit proces? (doporučuji ne)", "Kódování");
 }
 
-// Large enough steps that showing the progress is cheap, short enough that the windows stay alive.
+// Characters between two calls of on_progress: enough to make the calls cheap, few enough to keep the windows alive.
 std::size_t StepSize(std::size_t length) {
   constexpr std::size_t kSteps = 64;
   constexpr std::size_t kSmallest = 4096;

@@ -1,6 +1,6 @@
 // Two ciphers that restore the text when applied twice: the stream cipher with a numeric key, and the primitive cipher.
-// required: the stream cipher drops each character that would become code 0; all characters after it are then lost on
-// the way back.
+// required: the stream cipher drops each character that would become code 0. A second run then gives wrong characters
+// from this place on.
 #pragma once
 
 #include <cstddef>
@@ -14,8 +14,8 @@
 
 namespace pelmar {
 
-// What the key field makes of a typed text: a number, read and written again until the text stays the same. required:
-// reading needs a point and writing uses a comma, so a fraction loses its decimals.
+// The text that the key field shows after a typed text: the number is read and written until the text stays the same.
+// required: reading needs a point and writing uses a comma, so a fraction loses its decimals.
 std::string KeyText(std::string_view typed);
 
 class StreamCipher {
@@ -28,10 +28,9 @@ class StreamCipher {
   ReproducibleGenerator generator_;
 };
 
-// Enciphers the document into `output` and, at the end, replaces the document by `output`. At a character of code 8 a
-// question lets the person stop. `on_progress` is called at least every 20 ms with the number of enciphered characters;
-// it handles events and returns false to stop. A stopped run leaves the document unchanged and its part in `output`.
-// Events may change the document: each character is read when its turn comes, the length is read only at the start.
+// Enciphers the document into `output`, then replaces the document by `output`. At code 8 a question lets the person
+// stop. `on_progress` gets the number of read characters, handles events and returns false to stop. A stopped run keeps
+// the document. If events change the document, the run goes on in the new text, up to the old length.
 void RewriteStream(TextBuffer& buffer, double key, std::string& output, Platform& platform,
                    const std::function<bool(std::size_t done)>& on_progress);
 

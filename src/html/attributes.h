@@ -21,11 +21,11 @@ std::string Quoted(std::string_view text);
 // The path with a slash for each backslash.
 std::string ForwardSlashes(std::string_view path);
 
-// The path as it stands in a link. Only characters outside Windows-1250 and bytes that are not UTF-8 are
-// percent-encoded, since the link would not lead to the file otherwise.
+// Converts a UTF-8 path to Windows-1250 for a link. Characters outside Windows-1250 and bytes that are not UTF-8 are
+// percent-encoded, so that the link leads to the file.
 std::string LinkText(std::string_view path);
 
-// The address of a file in a tag: its URL, or with `relative` its bare name. Backslashes become slashes.
+// The address of a file in a tag: the URL of the path, or the path itself if `relative`. Backslashes become slashes.
 std::string FileAddress(std::string_view path, bool relative);
 
 // Without blanks at the left, or at both ends. Other white space stays.

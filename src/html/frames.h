@@ -1,5 +1,5 @@
-// A frameset page around the document, which becomes the NOFRAMES part, and the FRAME tag. Texts are Windows-1250 and
-// are not escaped. Numbers are texts, as labels show them.
+// Writes a frameset page, with the document in its NOFRAMES part, and the FRAME tag. Texts are Windows-1250 and are not
+// escaped. Numbers are texts, as labels show them.
 #pragma once
 
 #include <optional>

@@ -15,14 +15,14 @@ enum class ListKind { kBullets, kNumbers };
 
 struct ListSpec {
   ListKind kind = ListKind::kBullets;
-  std::optional<std::size_t> type;  // from 0, in the order of the options of the kind; larger numbers write no type
+  std::optional<std::size_t> type;  // from 0, in the order of the dialog's options; a number too large writes no type
   bool compact = false;
   std::optional<std::string> heading;
   std::vector<std::string> items;
 };
 std::string BuildList(const ListSpec& spec);
 
-// A row for each item of the longer list. What the shorter list lacks is empty.
+// A row for each item of the longer list. Missing items of the shorter list are empty.
 std::string BuildDefinitionList(const std::vector<std::string>& terms, const std::vector<std::string>& definitions);
 
 // Each line of a text as an item. required: the last character is lost.

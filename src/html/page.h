@@ -1,5 +1,5 @@
 // A whole web page around the document: a head and a BODY tag before the text, the end tags after the text. Framesets
-// share parts of a page. Texts are Windows-1250 and are not escaped.
+// use the last two functions too. Texts are Windows-1250 and are not escaped.
 #pragma once
 
 #include <optional>
@@ -30,7 +30,7 @@ void WrapInPage(TextBuffer& buffer, const PageSpec& spec);
 // The META lines of the code page and of the program, each with its line end.
 std::string CodePageAndGenerator();
 
-// Puts the document, or `sample` if the document is empty, between head and tail, and selects it there.
+// Puts head and tail around the document, or around `sample` if the document is empty, and selects the part between.
 void PutAround(TextBuffer& buffer, std::string_view head, std::string_view sample, std::string_view tail);
 
 }  // namespace pelmar

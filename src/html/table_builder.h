@@ -1,5 +1,5 @@
-// A whole TABLE, from the fields of its dialog and a grid of 20 by 20 cells. The grid keeps cells outside the table,
-// and they come back when the table grows. Texts are Windows-1250 and are not escaped.
+// A whole TABLE, from the fields of its dialog and a grid of 20 by 20 cells. The grid keeps cells outside the table, in
+// case the table grows again. Texts are Windows-1250 and are not escaped.
 #pragma once
 
 #include <array>
@@ -15,7 +15,7 @@ struct TableGrid {
   using Cells = std::array<std::array<std::string, kMost + 1>, kMost + 1>;
 
   Cells cell_text;   // by column, then row
-  Cells cell_attrs;  // the same
+  Cells cell_attrs;  // by column, then row
   std::array<std::string, kMost + 1> row_attrs;
 };
 

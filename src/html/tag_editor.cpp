@@ -105,7 +105,7 @@ class Analyser {
     return true;
   }
 
-  // Reads the name of the tag. Returns the position of the first blank.
+  // Reads the name of the tag. Returns the position of the first blank in the tag, npos if there is none.
   std::size_t TakeName() {
     const std::size_t blank = tag_.find(' ');
     const std::string_view name = blank == std::string_view::npos

@@ -1,5 +1,5 @@
 // Reads a tag from the text into fields and writes the fields back. There is no parser: a fixed sequence of
-// replacements divides the tag. required: each replacement keeps its place and its oddities. Positions count from 0,
+// replacements divides the tag. required: the order and the oddities of these replacements. Positions count from 0,
 // texts are Windows-1250.
 #pragma once
 
@@ -33,7 +33,7 @@ struct TagRange {
 
 // The result of an analysis. After a failure, the part that was read until then.
 struct TagAnalysis {
-  bool has_tag = false;           // a "<" up to the caret, or just after it, and a ">" after the first "<" of the text
+  bool has_tag = false;           // a "<" before or just after the caret, and a ">" after the first "<" of the text
   std::optional<TagRange> range;  // the tag, for the editor to select
   std::string name;
   AttributeLists attributes;
@@ -52,8 +52,8 @@ std::string AttributesText(const AttributeLists& attributes);
 // <name attributes>
 std::string TagText(std::string_view name, const AttributeLists& attributes);
 
-// Inserts attributes before the first ">" from the character before the caret on. If there is no such ">" or no such
-// character, shows a message and returns false.
+// Inserts the attributes before the next ">". The search begins one character before the caret. If there is no such
+// character or no ">", shows a message and returns false.
 bool AddAttributes(TextBuffer& buffer, const AttributeLists& attributes, Platform& platform);
 
 struct CustomTag {

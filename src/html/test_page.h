@@ -15,7 +15,7 @@ namespace pelmar {
 // are not recognised.
 std::string StripHtml(std::string_view text);
 
-// The end of the temporary page: the text alone, or the text and a line break.
+// How the temporary page ends: with one more line break, or as the text ends.
 enum class PageEnd { kLineBreak, kAsItIs };
 
 // The file for the internal browser: the saved document without unsaved changes, or a new temporary page. Nothing,

@@ -1,4 +1,4 @@
-// The look of the main text box, as menu commands and the dialog Visual change it.
+// Changes of the look of the main text box, for the menu commands and the dialog Visual.
 #pragma once
 
 #include <string>
@@ -23,7 +23,7 @@ inline constexpr std::string_view kPreviewText =
 // The commands for bold, italic, sizes, inverted colours, alignment, the DOS look and the basic look.
 void AddAppearanceCommands(Editor& editor, MainView& view);
 
-// Sets the normal window state, a fixed size, and light grey on black.
+// Sets the normal window state, a fixed size, and light grey text in Courier on black.
 void ApplyDosLook(MainView& view);
 
 // Sets the look and the check marks of bold and italic. An empty font name keeps the font.
@@ -32,7 +32,7 @@ void ApplyLook(MainView& view, const EditorLook& look);
 // White minus the colour.
 Color InvertedColor(Color color);
 
-// What the size field makes of typed text: the new text of the field, and the size of the preview.
+// The size field after a typed text: its new text, and the size of the preview in points.
 struct SizeField {
   std::string text;
   int size = 1;

@@ -10,21 +10,20 @@ namespace pelmar {
 
 using Rows = std::vector<std::string>;
 
-// The lines of the selection, and the length of the shortest line as the tool counts it.
+// The lines of the selection, and the length that the dialog first shows for the shortest line.
 struct SelectedRows {
   Rows rows;
   std::size_t shortest = 0;
 };
 
-// required: the last character is not read, and what remains then is a row. A selection that ends in CR LF gets an
-// extra row: its last line again, without the first character and with the line end. A last line of one character gets
-// no row.
+// required: if the selection ends in CR LF, an extra row repeats its last line, without the first character and with
+// the line end. A last line of one character gets no row.
 SelectedRows RowsOfSelection(std::string_view selected);
 
 // The length of the shortest row, 0 if there are no rows.
 std::size_t ShortestRow(const Rows& rows);
 
-// A row that is shorter than the distance stays. So does a row without a character at the distance.
+// The insertions change only rows of at least `distance` characters, the removals only longer rows.
 void InsertFromStart(Rows& rows, std::size_t distance, std::string_view text);
 void InsertFromEnd(Rows& rows, std::size_t distance, std::string_view text);
 void RemoveFromStart(Rows& rows, std::size_t distance);

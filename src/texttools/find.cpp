@@ -47,7 +47,7 @@ void Finder::Next() {
 void Finder::New() {
   TakeDefaultTerm();
   find_on = history_on = true;
-  next_on = false;  // required: after a search the case stays disabled
+  next_on = false;  // required: after a search the check box for the case stays disabled
 }
 
 void Finder::PickHistory(std::size_t row) {

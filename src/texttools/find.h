@@ -52,7 +52,7 @@ class Finder {
   TextBuffer snapshot_;
 };
 
-// Asks at each hit in the document whether to search on. Always case sensitive.
+// At each hit in the document, asks whether to continue. The search is always case sensitive.
 void FindPrimitively(TextBuffer& buffer, Platform& platform);
 
 // The first term of a search: the selected text, otherwise "Text".

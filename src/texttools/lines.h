@@ -19,11 +19,11 @@ std::string SortLines(std::string_view text, const SortedOrder& order);
 // A number of five digits and a blank before each line. required: the last character is lost.
 std::string NumberLines(std::string_view text);
 
-// The words of a text. Each word includes the blank at its end, so each further blank is a word of its own. Line ends
-// are characters of a word.
+// The words of a text. Each word includes one blank at its end, so each further blank is a separate word. Line ends are
+// characters of a word.
 std::vector<std::string_view> WordsOf(std::string_view text);
 
-// Each word, with its blank, on a line of its own. The last line ends in CR LF too.
+// Each word, with its blank, on a separate line. The last line ends in CR LF too.
 std::string WordsToLines(std::string_view text);
 
 }  // namespace pelmar

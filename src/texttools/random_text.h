@@ -8,7 +8,7 @@
 
 namespace pelmar {
 
-// A sentence of 10 to 50 letters, with a stop and a blank at its end.
+// A sentence of 10 to 50 letters, with a punctuation mark and a blank at its end.
 std::string RandomSentence(const Draw& draw);
 
 // A word of 2 to 10 small letters, with a blank at its end.

@@ -70,7 +70,7 @@ void Replacer::ReportNothing() {
   if (before_message) before_message();
   ReportNothingFound(platform_);
   case_on = lists_on = find_on = change_on = true;
-  step_on = false;  // required: Command6 stays on
+  step_on = false;  // required: Command6 stays enabled
   if (buffer_.HasSelection()) find = buffer_.SelText();
 }
 
@@ -78,7 +78,7 @@ void Replacer::ReplaceAll() {
   const BusyPointer busy(platform_);
   buffer_.SetText(ReplaceAllByMarker(buffer_.Text(), find, change));
   find_on = lists_on = change_on = true;
-  step_on = all_on = false;  // required: the case stays disabled
+  step_on = all_on = false;  // required: the check box for the case stays disabled
   found_shown = replaced_shown = std::nullopt;
 }
 

@@ -59,7 +59,7 @@ class Replacer {
 };
 
 // The result of Replace all. required: each hit becomes character 255 first, and each character 255 then becomes the
-// replacement, even one that was in the text. With an empty replacement every second one of adjacent hits stays as
+// replacement, even one that was in the text. With an empty replacement, the 2nd, 4th, 6th ... of adjacent hits stay
 // character 255.
 std::string ReplaceAllByMarker(std::string_view text, std::string_view find, std::string_view change);
 

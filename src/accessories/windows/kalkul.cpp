@@ -24,7 +24,7 @@ Kalkul::Kalkul(Platform& platform, bool stand_alone, Callbacks callbacks, QWidge
   }
   cut_ = new QLabel(QStringLiteral("…"), ui_->Cislo);
   cut_->hide();
-  // In a button group the arrow keys move between the keys by position.
+  // In a button group, the arrow keys move the focus between the buttons by their position.
   auto* group = new QButtonGroup(this);
   group->setExclusive(false);
   for (QPushButton* button : findChildren<QPushButton*>()) group->addButton(button);

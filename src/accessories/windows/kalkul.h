@@ -1,5 +1,5 @@
-// `Kalkul`: the desk calculator, for the mouse and the real keyboard. Beside the editor its buttons hide the window,
-// and its close box unloads the window and the number. A calculator that is the whole program asks and ends instead.
+// `Kalkul`: the desk calculator. In the editor, the button "Zavři" hides the window, and the close box unloads the
+// window with its number. If the calculator is the whole program, both ask whether to end the program.
 #pragma once
 
 #include <functional>
@@ -31,7 +31,6 @@ class Kalkul : public FormDialog<Ui::Kalkul> {
 
   Kalkul(Platform& platform, bool stand_alone, Callbacks callbacks, QWidget* parent);
 
-  // Replaces the shown number.
   void SetNumber(const std::string& number);
 
  protected:

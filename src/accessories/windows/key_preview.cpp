@@ -39,8 +39,8 @@ bool KeyPreview::Takes(QWidget& receiver, QKeyEvent& press) {
   return preview != Preview::kPass;
 }
 
-// Letters from dead keys or an input method come without a key press. The control gets them too, unless the window
-// takes the last one.
+// Letters from dead keys or an input method cause no key press. The control gets the letters too, unless the window
+// takes the last letter.
 bool KeyPreview::TakesComposed(const QInputMethodEvent& event) {
   bool taken = false;
   for (const char letter : PageText(event.commitString())) {

@@ -22,7 +22,7 @@ Klavesnice::Klavesnice(TextBuffer& buffer, QWidget* parent) : FormDialog(parent)
 }
 
 void Klavesnice::ConnectKeys() {
-  // In a button group the arrow keys move between the keys by position.
+  // In a button group, the arrow keys move the focus between the buttons by their position.
   auto* group = new QButtonGroup(this);
   group->setExclusive(false);
   group->addButton(ui_->Check1);

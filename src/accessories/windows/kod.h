@@ -1,6 +1,6 @@
 // `kod`: the 256 codes as a grid. A click, or Enter on a cell marked by the arrow keys, inserts the character or its
-// reference into the document, or collects the character first. If characters are inserted directly, typed keys go to
-// the document too.
+// reference into the document, or the character into a field of this window. While the option for characters in the
+// document is set, the main window gets typed keys too.
 #pragma once
 
 #include <functional>

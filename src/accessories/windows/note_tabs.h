@@ -1,5 +1,5 @@
-// The tabs of the notes. The strip fills the window's client area, but only its row of tabs shows, above the text. In a
-// narrow window the tabs show their numbers instead of captions.
+// The tabs of the notes. The strip reaches from the tool bar to the bottom of the window, and the text covers it below
+// the row of tabs. In a narrow window the tabs show their numbers instead of captions.
 #pragma once
 
 #include <QTabBar>

@@ -34,7 +34,7 @@ class Poznamka : public QWidget {
     const MainView& main;
     QObject* main_window = nullptr;  // the main window as an object, to watch its moves
     StartMode mode = StartMode::kEditor;
-    std::function<void()> end;  // called after closing: unloads the window, or ends a program for notes alone
+    std::function<void()> end;  // called after closing: unloads the window, or ends the program started for the notes
   };
 
   // Throws RuntimeError if the file can't be read or created.
@@ -46,7 +46,7 @@ class Poznamka : public QWidget {
   void OfferRescued() { keeper_.Offer(); }
   // The text of the visible notes page.
   [[nodiscard]] TextBuffer& Buffer();
-  // Keeps unsaved notes at once. Returns the notice for the person, or "" if all notes were saved.
+  // Writes unsaved notes to the rescue file now. Returns the notice for the person, or "" if all notes were saved.
   std::string KeepNow() { return keeper_.NoticeOf(keeper_.KeepNow()); }
 
  protected:

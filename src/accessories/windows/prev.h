@@ -1,5 +1,5 @@
-// `Prev`: whole numbers in four notations, with a keypad for each of three bases. The real keyboard works the focused
-// keypad.
+// `Prev`: whole numbers in four notations, with a keypad for each of three bases. Typed characters press the keys of
+// the focused keypad.
 #pragma once
 
 #include <functional>
@@ -56,7 +56,7 @@ class Prev : public FormDialog<Ui::Prev> {
   Callbacks callbacks_;
   Converter converter_;
   std::string roman_;
-  int conversions_ = 0;  // number of conversions begun; a running one stops unless it is the last
+  int conversions_ = 0;  // the number of started conversions; a running conversion stops when the number changes
   std::vector<Base> bases_;
 };
 

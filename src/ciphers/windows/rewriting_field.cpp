@@ -11,9 +11,9 @@ namespace {
 int CaretIn(const QString& shown, const QString& typed, int caret) {
   const auto length = static_cast<int>(shown.size());
   if (shown == QLatin1String("0")) return length;
-  // `rewrite` has removed characters before the number (a 0, a blank) or after the number.
-  const int fallen = typed.endsWith(shown) ? static_cast<int>(typed.size()) - length : 0;
-  return std::clamp(caret - fallen, 0, length);
+  // If the typed text ends with the shown text, `rewrite` has removed characters before it, for example a 0 or a blank.
+  const int removed = typed.endsWith(shown) ? static_cast<int>(typed.size()) - length : 0;
+  return std::clamp(caret - removed, 0, length);
 }
 
 }  // namespace

@@ -9,8 +9,8 @@ class QLineEdit;
 
 namespace pelmar {
 
-// Rewrites the field's text after each change. `rewrite` must leave its own result unchanged. The caret keeps its place
-// in the remaining text, or follows the text if only "0" remains.
+// `rewrite` returns the new text and must leave its own result unchanged. The caret keeps its place in the remaining
+// text, or moves to the end if only "0" remains.
 void RewriteOnChange(QLineEdit* field, std::function<std::string(std::string_view)> rewrite);
 
 }  // namespace pelmar

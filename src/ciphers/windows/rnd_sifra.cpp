@@ -24,7 +24,7 @@ RND_Sifra::RND_Sifra(Editor& editor, QWidget* parent)
       buffer_(editor.text),
       platform_(editor.platform),
       files_(editor.platform, editor.file_number) {
-  for (QListWidget* list : {ui_->List1, ui_->List2}) ShowRowsOnOneLine(*list);  // any file can be loaded as a table
+  for (QListWidget* list : {ui_->List1, ui_->List2}) ShowRowsOnOneLine(*list);  // a loaded row may have line breaks
   connect(ui_->Command1, &QPushButton::clicked, this,
           [this] { ui_->Text1->Buffer().SetText(PrepareText(buffer_.Text())); });
   connect(ui_->Command2, &QPushButton::clicked, this, &RND_Sifra::Command2_Click);

@@ -1,4 +1,4 @@
-// `Shift`: rotates the selected text by whole characters. Modal; each opening starts with the present selection.
+// `Shift`: rotates the selected text by a number of characters. Each opening of the modal dialog reads the selection.
 #pragma once
 
 #include "platform/qt/controls/fragment_dialog.h"

@@ -1,5 +1,5 @@
-// `ZaKod`: the stream cipher for the whole document. The program handles events while the cipher runs, so this class
-// and RewriteStream allow for typing, clicks and another document meanwhile.
+// `ZaKod`: the stream cipher for the whole document. The program handles events while the cipher runs. During a run the
+// person may therefore type, click, or open another document.
 #pragma once
 
 #include <functional>
@@ -18,7 +18,7 @@ class ZaKod : public FormDialog<Ui::ZaKod> {
   Q_OBJECT
 
  public:
-  // `closed` returns true after the documents were stored and the program began to end.
+  // `closed` returns true once the person has closed the program.
   ZaKod(Editor& editor, std::function<bool()> closed, QWidget* parent);
 
  private:

@@ -6,7 +6,7 @@ namespace pelmar {
 
 WebViewMaker* BrowserModule::Maker() {
   if (maker_ != nullptr) return maker_;
-  // The engine warns on standard error that it isn't linked into the program.
+  // Hides the engine's warning on standard error that the engine isn't linked into the program.
   QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
   const LoadedModule module = LoadModule(folders_, QStringLiteral("pelmar-browser.so"));
   QLoggingCategory::setFilterRules(QString());

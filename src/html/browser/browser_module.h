@@ -1,5 +1,5 @@
-// Loads the module pelmar-browser at the first use of the internal browser. The module is a shared library of its own,
-// since the web engine in it is large.
+// Loads the module pelmar-browser at the first use of the internal browser. The module is a separate shared library,
+// since it needs the large web engine.
 #pragma once
 
 #include <QString>

@@ -127,7 +127,7 @@ void FrmBrowser::ConnectAddress() {
 }
 
 bool FrmBrowser::eventFilter(QObject* watched, QEvent* event) {
-  // Turning the wheel over the list chooses nothing.
+  // Turning the wheel over the box loads nothing.
   if (watched == ui_->cboAddress && event->type() == QEvent::Wheel) return true;
   return QMainWindow::eventFilter(watched, event);
 }

@@ -23,7 +23,7 @@ class FrmBrowser : public QMainWindow {
   Q_OBJECT
 
  public:
-  // `end_program` is called when the person ends a browser that is the whole program. Otherwise it is empty.
+  // `end_program` is called when the person ends a browser that is the whole program, and is empty in the editor.
   FrmBrowser(WebViewMaker& maker, Platform& platform, std::function<void()> end_program);
   ~FrmBrowser() override;
 
@@ -49,7 +49,7 @@ class FrmBrowser : public QMainWindow {
   // Puts the address into the box and its list, then loads it.
   void Visit(const QString& address);
   void NavigateToBox();
-  // Loads the address, or tells the person why not.
+  // Loads the address, or shows a message that refuses the address.
   void Load(const QString& address);
   void ShowCaption();
   void ShowHistory();

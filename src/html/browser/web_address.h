@@ -13,7 +13,7 @@ namespace pelmar {
 QUrl UrlOfAddress(const QString& address);
 
 QString AddressOfUrl(const QUrl& url);
-// Percent-encoded if the path isn't UTF-8, since nobody could type it otherwise.
+// Percent-encoded if the path isn't UTF-8, since nobody could type the address otherwise.
 QString AddressOfFile(std::string_view path);
 
 inline bool IsOfTheNet(const QUrl& url) {

@@ -1,5 +1,5 @@
-// A widget that shows web pages, for the window of the internal browser. The module pelmar-browser has the real one,
-// the tests have a scripted one. All calls come from the interface thread.
+// The interface to the widget that shows web pages in the internal browser. The module pelmar-browser implements this
+// interface, and so do the tests. All calls come from the interface thread.
 #pragma once
 
 #include <QString>
@@ -22,14 +22,14 @@ class WebView {
   // The widget on the screen. This object owns the widget, although the widget also has a parent.
   [[nodiscard]] virtual QWidget* Widget() = 0;
 
-  // These do nothing if there is nothing to do, for example no page to go back to.
+  // These commands do nothing if they can't be done, for example without a page to go back to.
   virtual void Load(const QUrl& address) = 0;
   virtual void Go(int places) = 0;  // steps in the history: -1 back, 1 forward
   virtual void Refresh() = 0;
   virtual void Stop() = 0;
-  // Ends the page's process if it doesn't answer within three seconds. The commands above do the same.
+  // Ends the process of a page that doesn't answer within three seconds. The commands above do the same.
   virtual void EndIfStuck() = 0;
-  // Loads the present page again, this once with its parts from the net.
+  // Loads the present page again, this time with its parts from the net.
   virtual void LoadFromNet() = 0;
 
   [[nodiscard]] virtual bool CanGo(int places) const = 0;

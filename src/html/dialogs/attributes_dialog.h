@@ -32,7 +32,7 @@ class AttributesDialog : public FragmentDialog<Form> {
 
   [[nodiscard]] virtual std::string OpeningTag() const = 0;
   virtual void InsertTags() = 0;
-  // Disables the fields that the table builder does not use.
+  // Enables or disables the fields that only the editor uses.
   virtual void EnableForEditor(bool enabled) = 0;
 
  private:

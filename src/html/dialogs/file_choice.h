@@ -18,7 +18,7 @@ class DriveList;
 class FileList;
 class FolderList;
 
-// The controls of the dialog. They must outlive the choice.
+// The controls of the dialog. The controls must outlive this object.
 struct FileChoice {
   // All four forms use the same names, except for `relative` and `path`.
   template <class Form>
@@ -26,8 +26,8 @@ struct FileChoice {
     return {ui.Drive1, ui.Dir1, ui.File1, ui.Combo1, relative, path, ui.Command1, ui.Command3};
   }
 
-  // Connects the controls. Call once. Each choice of a file, folder or mask updates the label and the buttons; before
-  // the first choice they have the form's state. `show_in_browser` is called with the label's path.
+  // Connects the controls. Call once. Each choice of a file, folder or mask updates the label and the buttons, which
+  // have the form's state before. `show_in_browser` is called with the label's path.
   void Link(std::function<void(const std::string& path)> show_in_browser) const;
 
   // Writes the path, or only the name, into the label. Enables the buttons that can be used now.
@@ -35,8 +35,8 @@ struct FileChoice {
 
   [[nodiscard]] bool HasFile() const;
 
-  // Copies the label's path, with slashes in place of backslashes, into the dialog's hidden label. Returns the path as
-  // it is written in a link.
+  // Copies the label's path, with slashes in place of backslashes, into the hidden field `working_copy`. Returns the
+  // LinkText of the path.
   std::string TakePath(QLineEdit& working_copy) const;
 
   DriveList* places;

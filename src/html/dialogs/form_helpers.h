@@ -1,6 +1,4 @@
-// Functions that many HTML dialogs share. They enable controls by a check box, show a colour as hexadecimal digits,
-// read the chosen option, write the value of a bar into a label, and read a text that counts only while its box is
-// checked.
+// Functions that many HTML dialogs share, for check boxes, options, colours and the values of bars.
 #pragma once
 
 #include <QCheckBox>
@@ -71,7 +69,7 @@ Value SetOption(Options<Value> options) {
   return options.begin()->second;
 }
 
-// The same. Nothing if the box is not checked.
+// The same value. Nothing if the box is not checked.
 template <class Value>
 std::optional<Value> SetOption(const QCheckBox* box, Options<Value> options) {
   return box->isChecked() ? std::optional(SetOption<Value>(options)) : std::nullopt;

@@ -20,7 +20,7 @@ int SelectedRow(const QListWidget& list);
 // Adds a row before the selected row, or at the end.
 void AddRow(QListWidget& list, const QString& text);
 
-// Removes the selected row, or the last row if no row is selected. Then no row is selected. An empty list stays.
+// Removes the selected row, or the last row if no row is selected. Afterwards no row is selected.
 void RemoveRow(QListWidget& list);
 
 // The key Delete in the list clicks the button that removes rows.

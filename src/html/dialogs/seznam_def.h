@@ -1,4 +1,4 @@
-// The dialog `SeznamDef` inserts a list of terms and definitions. It keeps the list for the next opening.
+// The dialog `SeznamDef` inserts a list of terms and definitions. The dialog keeps the list for the next opening.
 #pragma once
 
 #include "platform/qt/controls/fragment_dialog.h"

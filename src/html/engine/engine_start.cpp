@@ -13,25 +13,25 @@
 
 #include "html/engine/net_gate.h"
 
-// This function of Qt has no public header. It sets the context that all others share.
+// This function of Qt, which has no public header, sets the context that all others share.
 extern void qt_gl_set_global_share_context(QOpenGLContext* context);
 
 namespace pelmar {
 namespace {
 
 constexpr char kFlags[] = "QTWEBENGINE_CHROMIUM_FLAGS";
-// All traffic to the net uses TCP and the program's gate, which also resolves the names of hosts.
+// Makes all traffic to the net use TCP and the program's gate, which also resolves the names of hosts.
 constexpr char kOnlyThroughTheGate[] =
     " --force-webrtc-ip-handling-policy=disable_non_proxied_udp --disable-quic --dns-prefetch-disable"
     " --host-resolver-rules=\"MAP * ~NOTFOUND, EXCLUDE ";
-// The engine follows these variables before the variable of the gate. Some lead to the desktop's own settings.
+// The engine prefers these variables to kWayOut. Some of them make the engine use the desktop's settings.
 constexpr const char* kBeforeTheGate[] = {
     "auto_proxy",    "AUTO_PROXY",          "all_proxy",       "ALL_PROXY",        "http_proxy",
     "HTTP_PROXY",    "https_proxy",         "HTTPS_PROXY",     "ftp_proxy",        "FTP_PROXY",
     "SOCKS_VERSION", "XDG_CURRENT_DESKTOP", "DESKTOP_SESSION", "KDE_FULL_SESSION", "GNOME_DESKTOP_SESSION_ID"};
 constexpr char kNoSandbox[] = "QTWEBENGINE_DISABLE_SANDBOX";
 
-// The sandbox needs a user name space and refuses root. Without a sandbox the engine would end the whole program.
+// The sandbox needs a user name space and refuses root. If the sandbox fails, the engine ends the whole program.
 bool SandboxWorks() {
   if (geteuid() == 0) return false;
   const pid_t child = fork();
@@ -72,7 +72,7 @@ ScopedVariable::~ScopedVariable() {
 EngineStart::EngineStart() {
   const auto set = [this](const char* name, const QByteArray& value) { variables_.emplace_back(name, value); };
   set(kFlags, qgetenv(kFlags) + " --disable-gpu --lang=cs" + kOnlyThroughTheGate + kGateHost + "\"");
-  // Servers of this machine go through the gate too.
+  // Requests to this machine pass the gate too.
   set("no_proxy", "<-loopback>");
   for (const char* name : kBeforeTheGate) set(name, QByteArray());
   if (!SandboxWorks()) set(kNoSandbox, "1");

@@ -23,7 +23,7 @@ class ScopedVariable {
 // The variable from which a new profile of the engine reads the address of its NetGate.
 inline constexpr char kWayOut[] = "SOCKS_SERVER";
 
-// The engine may start while an object of this class exists. The destructor restores the environment, which other
+// An object of this class must exist while the engine starts. The destructor restores the environment, which other
 // programs inherit from this one.
 class EngineStart {
  public:

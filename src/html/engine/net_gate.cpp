@@ -96,7 +96,7 @@ class Passage : public QObject {
     if (!target) return;
     if (request_[1] != kConnect) return Refuse(kRefused);
     step_ = Step::kConnecting;
-    // The system may have a proxy of its own.
+    // The system may require a proxy.
     QUrl address;
     address.setScheme(target->port == 443 ? QStringLiteral("https") : QStringLiteral("http"));
     address.setHost(target->host);

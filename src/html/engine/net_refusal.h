@@ -1,5 +1,5 @@
-// Refuses requests to the net for pages that must stay on the disk, and requests for the engine's own addresses for all
-// pages. Each profile has its own refusal, so late requests of a local page stay refused.
+// Blocks requests of local pages to the net, and requests of all pages for the engine's own addresses. Each profile has
+// its own NetRefusal, so a late request of a local page is blocked too.
 #pragma once
 
 #include <QWebEngineUrlRequestInterceptor>

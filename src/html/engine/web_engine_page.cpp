@@ -34,7 +34,7 @@ QString Title() { return QStringLiteral("Zpráva stránky"); }
 constexpr char kLeaving[] = "Are you sure you want to leave this page? Changes that you made may not be saved.";
 constexpr int kMostUnasked = 2;         // questions before a page may be silenced
 constexpr int kLongestQuestion = 2000;  // characters of a page's own text
-// The most characters of an address and of one of its lines. A person must see all of an address to open it.
+// The most characters of an address that a question shows, and of one of its lines. A longer address isn't opened.
 constexpr qsizetype kLongestAsked = 1000, kAddressLine = 80;
 
 // A frame of a page may also hold about: and blob: addresses.
@@ -42,7 +42,7 @@ bool MayBeFramed(const QUrl& address) {
   return MayBeShown(address) || address.scheme() == QLatin1String("about") || address.scheme() == QLatin1String("blob");
 }
 
-// The access key toggles this box at once. Qt's box waits a moment, and Enter may come sooner.
+// The access key toggles this box at once. Qt's box waits a moment, and the person may press Enter before that.
 class SilenceBox : public QCheckBox {
  public:
   SilenceBox() : QCheckBox(QStringLiteral("&Další zprávy této stránky neukazovat")) {}
@@ -74,7 +74,7 @@ WebEnginePage::WebEnginePage(QWebEngineProfile* profile, PageSide side) : QWebEn
           [this](QWebEngineNewWindowRequest& request) { OpenHere(request.requestedUrl()); });
 }
 
-// The engine restricts a page's own links but not load(), so a page of the net must not open files here.
+// The engine checks the links of a page, but not load(). So this function must not load a file for a page of the net.
 void WebEnginePage::OpenHere(const QUrl& address) {
   if (IsOfTheNet(address) || (address.isLocalFile() && side_ != PageSide::kNet)) load(address);
 }

@@ -28,14 +28,14 @@ class WebEnginePage : public QWebEnginePage {
   // Call at each command of the person. Answers the open question, and all questions until HearAgain(), with No.
   void Silence();
   void HearAgain() { silenced_ = false; }
-  // Call before another page loads: the person may have silenced the present one.
+  // Call before another page loads. The person may have silenced the present page.
   void ForgetQuestions();
   [[nodiscard]] bool Asking() const { return question_ != nullptr; }
 
   std::function<void()> on_coming;                    // another page is about to load
   std::function<void()> on_asking;                    // a question is about to be shown
   std::function<void()> on_answered;                  // a question was closed
-  std::function<void(const QUrl& address)> on_leave;  // this page can't show the address, another one has to
+  std::function<void(const QUrl& address)> on_leave;  // the address needs a page of another side
 
  protected:
   bool acceptNavigationRequest(const QUrl& address, NavigationType type, bool is_main_frame) override;
@@ -59,9 +59,9 @@ class WebEnginePage : public QWebEnginePage {
   const PageSide side_;
   bool loaded_ = false;
   QPointer<QDialog> question_;
-  int questions_ = 0;   // number of questions of the page so far
-  bool muted_ = false;  // the person silenced the page
-  bool silenced_ = false;
+  int questions_ = 0;      // number of questions of the page so far
+  bool muted_ = false;     // the person silenced the page
+  bool silenced_ = false;  // from Silence() to HearAgain()
 };
 
 }  // namespace pelmar

@@ -49,7 +49,7 @@ WebEngineView::WebEngineView(QWidget* parent) : view_(std::make_unique<QWebEngin
   for (const PageSide side : {PageSide::kDisk, PageSide::kDiskWithNet, PageSide::kNet}) {
     const bool lets_out = side != PageSide::kDisk;
     const ScopedVariable way_out(kWayOut, (lets_out ? open_gate_ : shut_gate_).Address());
-    // Requests of an earlier page may still come.
+    // A late request of an earlier local page doesn't concern a page of the net.
     profiles_[side] = MakeProfile(lets_out, [this] {
       if (page_->Side() == PageSide::kDisk) on_withheld(true);
     });
@@ -204,7 +204,7 @@ void WebEngineView::Load(const QUrl& address) {
 
 bool WebEngineView::CanGo(int places) const {
   const QWebEngineHistory& own = *page_->history();
-  // A page that has moved on by itself drops the later places of the history.
+  // A page that has opened another address by itself drops the later places of the history.
   return places < 0 ? own.canGoBack() || place_ > 0
                     : own.canGoForward() || (own.count() <= 1 && place_ + 1 < places_.size());
 }

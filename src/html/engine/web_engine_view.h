@@ -1,5 +1,5 @@
 // The module's web view: Qt WebEngine, drawn without a graphics processor, so the view works on every screen and needs
-// no preparation when the program starts. Nothing about visited pages is kept on the disk.
+// no preparation when the program starts. Nothing about visited pages is stored on the disk.
 #pragma once
 
 #include <QList>
@@ -47,7 +47,7 @@ class WebEngineView : public QObject, public WebView {
   void Cross(qsizetype place, PageSide side);
   // Copies the present page's history into places_.
   void GatherPlaces();
-  // Asks the page for an answer. If none comes in time, ends the page's process and runs the step.
+  // Asks the page for an answer. If the page doesn't answer within three seconds, ends its process and runs the step.
   void Probe(std::function<void()> step);
   void Answered();
   void EndProcess(std::function<void()> then);
@@ -57,18 +57,18 @@ class WebEngineView : public QObject, public WebView {
   void ShowMenu(const QPoint& at);
 
   NetGate open_gate_{true}, shut_gate_{false};
-  // A profile reads the address of its NetGate when it is made, and keeps it.
+  // A new profile reads the address of its NetGate, and never reads the address again.
   std::map<PageSide, std::unique_ptr<QWebEngineProfile>> profiles_;
   std::unique_ptr<WebEnginePage> page_;
   std::unique_ptr<QWebEngineView> view_;
-  QList<QUrl> places_;   // the history; at place_ the present page's own history is inserted
-  qsizetype place_ = 0;  // from 0
-  QTimer expecting_;     // runs from a command until its load begins
-  QTimer unanswered_;    // runs until the page answers a probe
-  qint64 probed_ = 0;    // the process that was probed
-  int probes_ = 0;
-  std::function<void()> held_up_;  // a step that waits for the page's answer or for the end of its process
-  std::function<void()> after_question_;
+  QList<QUrl> places_;                    // the history; the place at place_ stands for the present page's own history
+  qsizetype place_ = 0;                   // from 0
+  QTimer expecting_;                      // runs after a command until a load ends, for a second at most
+  QTimer unanswered_;                     // runs until the page answers a probe
+  qint64 probed_ = 0;                     // the process that was probed
+  int probes_ = 0;                        // only the answer to the probe with this number counts
+  std::function<void()> held_up_;         // the step to run when the page's process has ended
+  std::function<void()> after_question_;  // the command to run when the open question is closed
 };
 
 }  // namespace pelmar

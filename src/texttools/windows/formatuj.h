@@ -1,5 +1,5 @@
-// `Formatuj`: the column tool for the selected lines. The dialog reads the selection only when it is made, so each
-// opening makes a new dialog.
+// `Formatuj`: the column tool for the selected lines. Only the constructor reads the selection, so each opening makes a
+// new dialog.
 #pragma once
 
 #include <functional>

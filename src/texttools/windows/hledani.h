@@ -17,7 +17,7 @@ class Hledani : public FormDialog<Ui::Hledani> {
   Q_OBJECT
 
  public:
-  // `match` returns the place of a visible match on the screen, else an empty one. The window moves off the match.
+  // `match` returns the screen rectangle of the match, empty if the match isn't visible. The dialog moves off it.
   Hledani(TextBuffer& buffer, Platform& platform, std::function<QRect()> match, QWidget* parent);
 
  private:

@@ -15,7 +15,7 @@ Vyber::Vyber(TextBuffer& buffer, QWidget* parent) : FormDialog(parent), buffer_(
 
 void Vyber::Load() {
   const int start = static_cast<int>(buffer_.SelStart());
-  const int length = static_cast<int>(buffer_.SelLength());  // the first slider may collapse the selection
+  const int length = static_cast<int>(buffer_.SelLength());  // read before the first slider collapses the selection
   ui_->Start->setMaximum(static_cast<int>(buffer_.Size()));
   ui_->Delka->setMaximum(static_cast<int>(buffer_.Size()));
   ui_->Start->setValue(start);

@@ -1,4 +1,4 @@
-// `Výběr`: sets the exact selection by two sliders. The dialog reads the selection when it is made and at Load().
+// `Výběr`: sets the exact selection by two sliders. The constructor and Load() read the selection.
 #pragma once
 
 #include "platform/qt/controls/dialog_window.h"

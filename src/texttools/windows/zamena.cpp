@@ -43,7 +43,7 @@ void Zamena::Step(void (Replacer::*step)()) {
   TakeFields();
   (replacer_.*step)();
   ShowFields();
-  // The last step disables the focused button. The focus must not go on to the button that replaces all.
+  // A step without a match disables the focused button. The focus must not move to the button that replaces all.
   if (!replacer_.step_on) return ui_->Command4->setFocus();
   MoveAside(*this, match_());
 }

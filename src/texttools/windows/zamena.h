@@ -1,5 +1,5 @@
 // The dialog `Záměna` finds a term and replaces it, step by step or all at once. One list shows the earlier terms, the
-// other shows in the same row the replacement of each term.
+// other list shows their replacements in the same rows.
 #pragma once
 
 #include <QRect>
@@ -18,8 +18,7 @@ class Zamena : public FormDialog<Ui::Zamena> {
   Q_OBJECT
 
  public:
-  // `match` returns the screen rectangle of the match, empty if the match isn't visible. The window moves off the
-  // match.
+  // `match` returns the screen rectangle of the match, empty if the match isn't visible. The dialog moves off it.
   Zamena(TextBuffer& buffer, Platform& platform, std::function<QRect()> match, QWidget* parent);
 
  private:
