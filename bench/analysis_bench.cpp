@@ -16,7 +16,7 @@ namespace {
 
 constexpr std::size_t kDocument = 64000;
 
-// A text with every code. Each seed gives another ranking of the codes.
+// Some codes occur often, most rarely or never. Each seed gives another ranking of the codes.
 std::string Text(unsigned seed) {
   std::mt19937 random(seed);
   std::binomial_distribution<int> code(255, 0.2 + 0.1 * (seed % 7));

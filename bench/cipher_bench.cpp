@@ -47,7 +47,7 @@ struct Desk {
     if (!QTest::qWaitForWindowActive(&window)) std::abort();
     editor.text.SetText(Page());
   }
-  // Waits until everything is painted.
+  // Handles the pending events, which paints the windows.
   static void Show() { QCoreApplication::processEvents(); }
 };
 

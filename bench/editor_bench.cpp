@@ -1,7 +1,7 @@
 // Measures the editor without its text box, for a document of the largest size in a file (64,000 bytes) and a pasted
-// one (10 MB): a key, a tick of the status timer, a switch of tabs, an open, and the work of the user interface's
-// thread for the rescue file. Line counting is on. Limits with 64,000 bytes: tick 0.5 ms, switch 1 ms. Runs offscreen
-// on the real platform.
+// one (10 MB): a key, a tick of the status timer, a switch of tabs, an open, and the work of the interface thread for
+// the rescue file. Line counting is on. Limits with 64,000 bytes: tick 0.5 ms, switch 1 ms. Runs offscreen on the real
+// platform.
 #include <benchmark/benchmark.h>
 
 #include <QEventLoop>
@@ -153,7 +153,7 @@ void Open(benchmark::State& state) {
   }
 }
 
-// Processor time of the user interface's thread from a key to the finished rescue file, just over a second later.
+// Processor time of the interface thread from a key to the finished rescue file, just over a second later.
 void Rescue(benchmark::State& state) {
   BenchPlatform platform;
   Editor editor(platform);

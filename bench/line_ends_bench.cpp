@@ -1,6 +1,6 @@
-// Compares the line-end conversion of a large file with a plain copy. Prints the best of three runs in seconds, by the
-// clock and by the processor, and then the memory of the process. Limits: a fifth of the copy's speed if both files fit
-// into the system's memory; 64 MiB.
+// Compares the line-end conversion of a large file with a plain copy. Prints the best of three runs in seconds (clock
+// and processor time) and the memory of the process. Limits: a fifth of the copy's speed if both files fit into the
+// system's memory, and 64 MiB for the process.
 //
 //   line_ends_bench FOLDER [MEBIBYTES]
 #include <fcntl.h>

@@ -1,5 +1,6 @@
-// Reads damaged settings, rescue files of documents and UTF-8 files. The result is never larger than the input, and is
-// the same after writing and reading it again. Cutting a file into pieces doesn't change its conversion.
+// Reads damaged settings, rescue files of documents and UTF-8 files. Settings and rescue files are the same after
+// writing and reading them again. Texts of a rescue file are never larger than the file. Cutting a file into pieces
+// doesn't change its conversion.
 #include <cstdint>
 #include <string>
 #include <string_view>

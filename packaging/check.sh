@@ -1,12 +1,12 @@
 #!/bin/sh
-# What ./test --all runs behind the tests: clang-format over all sources, the tests once more under the address and
-# undefined behaviour sanitizers, each fuzzer for a while, clang-tidy over what the last day changed, and each benchmark
-# once to see that it still runs.
+# ./test --all runs this script after the tests. It runs clang-format over all sources, the core and window tests under
+# the sanitizers for addresses and undefined behaviour, each fuzzer for a while, clang-tidy over the sources changed in
+# the last day, and each benchmark once, to check that it still works.
 root=$(dirname "$(dirname "$(readlink -f "$0")")")
 step=check
 . "$root/packaging/setup.sh"
 fuzz_seconds=20
-most_tidied=40  # files, which keeps a day of many changes within some minutes
+most_tidied=40  # files, which takes some minutes
 cd "$root" || exit 1
 
 tell "clang-format over all sources"
@@ -14,7 +14,7 @@ find src tests fuzz bench tools -name '*.h' -o -name '*.cpp' | xargs clang-forma
 
 configure_and_build asan core_tests window_tests || exit 1
 tell "running the core and window tests under the sanitizers"
-# The toolkit and its plug-ins keep some memory for the life of the process.
+# No check for leaks, because Qt and its plug-ins keep some memory until the process ends.
 ASAN_OPTIONS=detect_leaks=0 ctest --test-dir build/asan -R '^(core|windows)$' --output-on-failure --no-tests=error \
   --timeout 900 || exit 1
 
@@ -28,13 +28,12 @@ for fuzzer in build/fuzz/fuzz/*_fuzzer; do
   fi
 done
 
-# The latest first: what a day of many changes leaves out was among the latest of an earlier run.
+# The latest change first. On a day of many changes the oldest are left out; an earlier run has checked them.
 changed=$(git log --since='24 hours ago' --name-only --pretty=format: -- 'src/*.cpp' 2>/dev/null | awk '!seen[$0]++' |
   while read -r file; do [ -n "$file" ] && [ -f "$file" ] && echo "$file"; done | head -n $most_tidied)
 if [ -n "$changed" ]; then
   tell "clang-tidy over $(echo "$changed" | wc -l) changed files"
-  # In a tree without precompiled headers, which are the other compiler's own; of it only what forms and classes
-  # generate is built.
+  # build/tidy has no precompiled headers, because clang can't read those of GCC. Only generated headers are built.
   configure_and_build tidy form_headers pelmar-printer_autogen pelmar-browser_autogen || exit 1
   echo "$changed" | xargs -P "$(nproc)" -n 4 clang-tidy --quiet -p build/tidy >&2 || exit 1
 fi

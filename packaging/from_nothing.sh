@@ -1,5 +1,5 @@
 #!/bin/sh
-# Times what a newcomer does in a fresh clone: ./run, ./test, the packages. Ends at the first that fails.
+# Measures how long ./run, ./test and the packages take in a fresh clone. Stops at the first failure.
 cd "$(dirname "$(dirname "$(readlink -f "$0")")")" || exit 1
 
 timed() {
@@ -9,7 +9,7 @@ timed() {
   echo "from_nothing: $*: $((took / 60)) min $((took % 60)) s"
 }
 
-# The program prints its version and needs no display for that.
+# --version needs no display, but ./run asks for one.
 timed env DISPLAY=:none ./run --version
 timed ./test
 cd build/release && timed cpack

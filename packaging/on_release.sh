@@ -1,11 +1,13 @@
 #!/bin/sh
-# Tries the last commit on a Debian release, from nothing: packaging/on_release.sh RELEASE [FROM]
+# Tries the last commit on a Debian release: packaging/on_release.sh RELEASE [FROM]
 #
-# Makes a system of the release (bookworm, trixie) in a temporary folder, out of this machine's own package sources. In it
-# from_nothing.sh builds, tests and packs a clone. The packages are installed in a fresh system of the release and, where
-# an earlier release FROM is named that was tried before, in a system with the packages of that one which is upgraded.
-# Packages, log and a summary with times stay in build/on_release/RELEASE; the systems are removed.
-# CXX=clang++ builds with clang.
+# 1. Makes a system of the release (bookworm, trixie) in a temporary folder, from the package sources of this machine.
+#    from_nothing.sh builds, tests and packs a clone in that system.
+# 2. Installs the packages in a fresh system of the release.
+# 3. With an earlier release FROM, which this script must have tried before: installs the packages of FROM in a fresh
+#    system of FROM, then upgrades that system to RELEASE.
+# Packages, a log and a summary with times stay in build/on_release/RELEASE. The systems are removed. CXX=clang++ builds
+# with clang.
 root=$(dirname "$(dirname "$(readlink -f "$0")")")
 step=on_release
 . "$root/packaging/setup.sh"
@@ -14,20 +16,20 @@ from=${2-}
 results=$root/build/on_release/$release
 old=$root/build/on_release/$from/packages
 
-# The lines of apt for the release $1: those of this machine's own release, renamed.
+# Prints the lines of sources.list for the release $1: those of this machine, with the name of its release replaced.
 sources_of() {
   apt-get indextargets --format 'deb $(REPO_URI) $(RELEASE) $(COMPONENT)' 'Identifier: Packages' |
     sed -n "s/^\(deb [^ ]* \)$(. /etc/os-release && echo "$VERSION_CODENAME")\([^ ]* .*\)/\1$1\2/p" | sort -u
 }
 
-# Makes a system of the release $1, does in it what the other arguments say, which are hooks of mmdebstrap, and removes it.
+# Makes a system of the release $1, runs the other arguments as options (hooks) of mmdebstrap, and removes the system.
 on_system() {
   made=$1
   shift
   sources_of "$made" | mmdebstrap --variant=apt --format=null --include=ca-certificates "$@" "$made" /dev/null -
 }
 
-# Runs a step, and notes in the summary how it ended and how long it took.
+# Runs a command after its name $1. Adds the name, the result and the time to the summary.
 timed() {
   what=$1
   shift

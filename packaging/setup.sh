@@ -1,5 +1,5 @@
-# Set-up shared by ./run and ./test, sourced by them: packages and configuring. POSIX sh.
-# The caller sets `root` (the source tree) and `step` (the word before each line that is told).
+# The set-up of ./run, ./test and the scripts beside this file, which source it: packages, configuration and build.
+# The caller sets `root` (the source tree) and `step` (the word before each printed line). POSIX sh.
 
 build_packages="build-essential cmake ninja-build ccache qt6-base-dev qt6-tools-dev qt6-l10n-tools
 libgl-dev libx11-dev librsvg2-bin qt6-webengine-dev"
@@ -17,7 +17,7 @@ tell() {
   printf '%s: %s\n' "$step" "$*" >&2
 }
 
-# Installs those of the packages given that are missing. Asks the network for nothing when none is.
+# Installs the missing ones of the given packages. Doesn't use the network if all are installed.
 install_missing() {
   if ! command -v dpkg-query >/dev/null; then
     tell "no Debian packages here; going on with what is installed (needed: $(echo $*))"
@@ -46,8 +46,9 @@ install_missing() {
   }
 }
 
-# Configures a preset when that wasn't done yet for this tree with these options, then builds it. What follows the
-# preset's name are options of cmake (they begin with "-") and the targets to build; all of them where none is named.
+# configure_and_build PRESET [OPTION ...] [TARGET ...]
+# Configures the preset unless this tree is already configured with these options of cmake (-D...). Then builds the
+# targets, by default all.
 configure_and_build() {
   preset=$1
   shift
@@ -71,7 +72,7 @@ configure_and_build() {
     (cd "$root" && cmake --log-level=WARNING --preset "$preset" $options >&2) || return 1
   fi
   tell "building what changed in build/$preset"
-  # A terminal gets ninja's one moving line, a log only what goes wrong.
+  # On a terminal ninja shows its progress in one line. A log gets only errors and warnings.
   quiet=--quiet
   [ -t 2 ] && quiet=
   ninja -C "$build" -j "$(nproc)" $quiet $targets >&2

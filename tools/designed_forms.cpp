@@ -3,8 +3,8 @@
 //
 //   designed_forms [--rewrite] FOLDER-OR-FORM...
 //
-// With --rewrite, differing forms are written in the editor's format. Enumerators are written in the format of Qt 6.4,
-// which later editors can read.
+// With --rewrite, differing forms are replaced by that output. Enumerators are written in the format of Qt 6.4, which
+// later editors can read.
 #include <QApplication>
 #include <QDesignerComponents>
 #include <QDesignerFormEditorInterface>
@@ -53,7 +53,7 @@ QStringList Forms(const QStringList& places) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  // The editor saves the sizes of a form's contents, which must be equal on every machine.
+  // Platform, style and font are the same on every machine, since the editor saves sizes that depend on them.
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QHashSeed::setDeterministicGlobalSeed();  // button groups are saved in the order of a hash table
   QApplication::setStyle(QStringLiteral("fusion"));

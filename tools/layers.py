@@ -1,14 +1,14 @@
 #!/usr/bin/env python3
 """Checks the order of layers in src/: layers.py [SRC]
 
-A file may include files of lower layers and of its own subsystem. An include of a higher layer, or of another subsystem
-in the same layer, is printed with file, line and rule. The exit status is then 1.
+A file may include files of lower layers, and of its own layer within its subsystem (top folder). Each other include is
+printed with file, line and rule. The exit status is then 1.
 """
 import pathlib
 import re
 import sys
 
-# The lowest layer first; each line is one layer. A file belongs to the longest listed folder that contains it.
+# The lowest layer first; each line is one layer. A file belongs to the deepest listed folder that contains the file.
 ORDER = [
     ["text"],
     ["platform"],
@@ -30,7 +30,7 @@ INCLUDE = re.compile(r'\s*#include "([^"]+)"')
 
 
 def layer(path):
-    """The listed folder that contains a path in src/, or None."""
+    """The deepest listed folder that contains a path in src/, or None."""
     parts = path.split("/")
     for count in range(len(parts), 0, -1):
         if "/".join(parts[:count]) in RANK:

@@ -17,7 +17,7 @@ OUTSIDE = ("WAYLAND_DISPLAY", "XAUTHORITY", "SESSION_MANAGER", "DBUS_SESSION_BUS
 
 class Screen:
     """Use as a context manager. `env` is the environment for programs, `home` the temporary home, `data_folder` the
-    folder of the program's settings, notes and recovery files."""
+    folder of the program's settings, notes and rescue files."""
 
     def __enter__(self):
         self.children = []

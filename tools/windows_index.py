@@ -50,7 +50,7 @@ def paths_of_commands():
 
 
 def registered_commands():
-    """By the class of a window, the commands that parts.Add and parts.ShowBy give it."""
+    """For each window class, in lower case, the commands that parts.Add and parts.ShowBy name."""
     found = {}
     for source in (ROOT / "src").rglob("*_windows.cpp"):
         for window, names in re.findall(r"parts\.(?:Add|ShowBy)<(\w+)>\(\{([^}]*)\}", source.read_text()):
@@ -71,7 +71,7 @@ def read_rows(text):
 
 
 def expected(row, forms, paths):
-    """The row as the code has it, and what is wrong with its files and commands."""
+    """The row as the code requires it, and the faults of its files and commands."""
     faults = []
     match = FILES.fullmatch(row[0])
     if not match:

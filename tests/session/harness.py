@@ -1,8 +1,7 @@
-"""Works the real program on a screen of its own as a user does: by keys, mouse and the titles of windows.
+"""Operates the real program as a user does, with keys and mouse, on a separate X server. Titles identify windows.
 
-A test waits for what it expects, up to a limit. If that doesn't come, the failure says what it waited for, which
-windows there are and what the program wrote. PELMAR_SHOTS names a folder for a picture of the screen at the end of each
-test, PELMAR_BUILD the build folder.
+A test waits for an expected state, up to a limit. A failure names this state, the windows and the program's output.
+PELMAR_SHOTS names a folder for a picture of the screen at the end of each test, PELMAR_BUILD the build folder.
 """
 
 import contextlib
@@ -41,7 +40,7 @@ class Window(NamedTuple):
 
 
 class EditorCase(unittest.TestCase):
-    """A test with a screen and a home of its own, in which it may start the program again and again."""
+    """A test with its own screen and home folder. It may start the program several times, one after the other."""
 
     screen = Screen
     settings = {}  # fields of the settings record
@@ -58,8 +57,8 @@ class EditorCase(unittest.TestCase):
     # The program.
 
     def start(self, *arguments, title="Pelmar VEX ()", program=PROGRAM, user=False, **environment):
-        """Starts the program, by default with an empty document, and returns its window of this title, if one is given.
-        An earlier start must have ended. With `user` an ordinary user owns the home and starts the program."""
+        """Starts the program, by default with an empty document. Waits for a window of this title and returns the
+        window, or None without a title. With `user` an ordinary user owns the home folder and starts the program."""
         self.assertFalse(self.running())
         command = [program, *(arguments or ["-NOMSG"])]
         if user and AS_USER:
@@ -80,12 +79,12 @@ class EditorCase(unittest.TestCase):
         return self.program is not None and self.program.poll() is None
 
     def wait_exit(self, status=0):
-        """Negative for a signal."""
+        """Waits until the program ends, and checks its exit status. The status of a signal is negative."""
         self.wait(lambda: not self.running(), "the end of the program", needs_program=False)
         self.assertEqual(self.program.returncode, status, self.log.read_text(errors="replace"))
 
     def kill(self):
-        """Ends the program and what it started in its process group, at once, as a power cut would."""
+        """Kills the program and the processes of its group, at once, as a power cut would."""
         if self.program is not None:
             with contextlib.suppress(ProcessLookupError):
                 os.killpg(self.program.pid, signal.SIGKILL)
@@ -94,13 +93,13 @@ class EditorCase(unittest.TestCase):
     # What a user does.
 
     def work(self, steps):
-        """Does a line of steps and returns the window that was waited for last.
+        """Runs a line of steps and returns the last awaited window that isn't gone.
 
             ctrl+k     presses a key, by xdotool's name
             "text"     types the text
             [Title]    waits until a window of this title has the keyboard
             @10,20     clicks there in that window
-            /          waits for that window's end
+            /          waits until that window is gone; clicks then go to the window awaited before
         """
         awaited = []
         for step in STEP.finditer(steps):
@@ -128,7 +127,8 @@ class EditorCase(unittest.TestCase):
         self.wait_exit()
 
     def point(self, window, x, y, *then):
-        """Moves the mouse to a place, counted from the window's top left corner within the frame."""
+        """Moves the mouse to a place, counted from the window's top left corner inside the frame. `then` are more
+        arguments of xdotool."""
         self.command("xdotool", "mousemove", "--window", window.id, x, y, *then)
 
     # Windows.
@@ -190,7 +190,7 @@ class EditorCase(unittest.TestCase):
     # Waiting and looking.
 
     def wait(self, check, what, needs_program=True):
-        """Calls check() until it gives something true, and returns that."""
+        """Calls check() until its result is true, and returns the result."""
         deadline = time.monotonic() + PATIENCE
         while not (result := check()):
             ended = needs_program and not self.running()

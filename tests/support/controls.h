@@ -1,4 +1,4 @@
-// Finds and works the controls of a window by their names.
+// Finds the controls of a window by their names, and operates them.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -17,7 +17,7 @@ Type* Find(const QWidget& window, const char* name) {
   return window.findChild<Type*>(QString::fromUtf8(name));
 }
 
-// True where the widget takes it.
+// Turns the mouse wheel over the widget. True if the widget accepts the event.
 inline bool RollWheel(QWidget& widget, QPoint pixels, QPoint angle, Qt::KeyboardModifiers modifiers = {}) {
   QWheelEvent wheel(QPointF(1, 1), widget.mapToGlobal(QPointF(1, 1)), pixels, angle, {}, modifiers, Qt::NoScrollPhase,
                     false);
@@ -25,10 +25,10 @@ inline bool RollWheel(QWidget& widget, QPoint pixels, QPoint angle, Qt::Keyboard
   return wheel.isAccepted();
 }
 
-// Does something in a dialog that the next call waits for.
+// Runs `act` inside the next event loop, for a following call that waits in a modal dialog.
 inline void Inside(std::function<void()> act) { QTimer::singleShot(0, qApp, std::move(act)); }
 
-// The same with the dialog, which has to be of that type.
+// Like Inside, with the open modal dialog as argument. A dialog of another type is a failure.
 template <class Dialog>
 void InDialog(std::function<void(Dialog&)> act) {
   Inside([act = std::move(act)] {

@@ -9,11 +9,11 @@
 namespace pelmar {
 
 struct DocumentState {
-  std::string title;        // behind the program's name, with its mark
+  std::string title;        // from "(" on, without the program's name
   std::string tab{};        // the tab's caption
   std::string tip{};        // the tab's tool tip
-  std::string slot_path{};  // the path that the tab's slot keeps
-  bool flagged = false;     // the slot is flagged as modified
+  std::string slot_path{};  // DocSlot::Path
+  bool flagged = false;     // DocSlot::Modified
   int unsaved = 0;          // how many documents are unsaved
   bool operator==(const DocumentState&) const = default;
 };
@@ -31,12 +31,12 @@ inline DocumentState StateOf(const Documents& documents) {
           documents.UnsavedCount()};
 }
 
-// The document of a saved file, as an open and a save leave it.
+// The state of a document that was just opened or saved.
 inline DocumentState SavedAt(const std::string& path) {
   return {'(' + path + ')', path.substr(path.rfind('/') + 1), path, path, false, 0};
 }
 
-// The texts of all tabs, "|" behind each.
+// The texts of all tabs, with "|" after each text.
 inline std::string TextsOf(const Documents& documents) {
   std::string texts;
   for (int tab = 1; tab <= kTabCount; ++tab) texts += documents.TextOf(tab) + '|';

@@ -1,6 +1,6 @@
 // Marked text, one of the two notations of the tests (steps.h has the other): a document with its selection, in UTF-8.
-// "|" is the caret, "[" the other end of the selection, "¶" a line end (CR LF). In "a[bc|d" the text "bc" is selected,
-// in "ab¶|" nothing is and the caret stands in the second line.
+// "|" is the caret, "[" the other end of the selection, "¶" a line end (CR LF). In "a[bc|d" the text "bc" is selected.
+// In "ab¶|" nothing is selected, and the caret is in the second line.
 #pragma once
 
 #include <optional>
@@ -12,13 +12,13 @@
 
 namespace pelmar {
 
-// "¶" for each line end of a UTF-8 text.
+// Replaces each line end of a UTF-8 text by "¶".
 inline std::string FoldLineEnds(std::string text) {
   for (std::size_t at = 0; (at = text.find("\r\n", at)) != std::string::npos;) text.replace(at, 2, "¶");
   return text;
 }
 
-// The text of a document as marked text writes it.
+// A Windows-1250 text in UTF-8, with "¶" for each line end.
 inline std::string ShownText(std::string_view text) { return FoldLineEnds(ToUtf8(text)); }
 
 inline void PutMarked(TextBuffer& buffer, std::string_view marked) {

@@ -1,4 +1,4 @@
-// A main window without a screen: it keeps the values that it gets, and the calls in order.
+// A main window without a screen. It stores the values that are set, and lists the calls in order.
 #pragma once
 
 #include <cmath>

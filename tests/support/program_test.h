@@ -1,4 +1,4 @@
-// The fixture of window tests: the whole program over a scripted platform, put together as for a user but not started.
+// The fixture of window tests: the whole program over a scripted platform, complete but not started.
 //
 //   TEST_F(ProgramTest, HrWritesTheWidthInPercent) {
 //     ExpectDocument("mnuhr", "Check1! Command1!", "a[b|c", R"(a<HR Width = "1%">|bc)");
@@ -38,8 +38,8 @@ struct ProgramTest : testing::Test {
     return window;
   }
 
-  // Hides the other windows, runs the command and returns the window that it shows. For a command that waits for its
-  // dialog, use InDialog of controls.h.
+  // Hides the other windows, runs the command and returns the window that the command shows. For a command that waits
+  // in a modal dialog, use InDialog of controls.h.
   QWidget& Open(const std::string& command) {
     while (QWidget* window = VisibleWindow()) window->hide();
     editor.commands.Run(command);
@@ -56,8 +56,8 @@ struct ProgramTest : testing::Test {
     return nullptr;
   }
 
-  // Opens the window by the command, then fills the document with `before`, takes the steps, which end with the button
-  // that writes into the document, and expects the document `after`. A failure names the caller's line.
+  // Opens the window of the command, sets the document to `before` and runs the steps in the window. The last step
+  // presses the button that writes into the document. Expects the document `after`. A failure names the caller's line.
   void ExpectDocument(const std::string& command, const char* steps, const char* before, const std::string& after,
                       const char* file = __builtin_FILE(), int line = __builtin_LINE()) {
     const QWidget& window = Open(command);

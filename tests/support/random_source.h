@@ -1,4 +1,4 @@
-// Random texts and draws for comparisons with a second implementation. One seed gives the same ones on every machine.
+// Random texts and draws for comparisons with a second implementation. Equal seeds give equal results on every machine.
 #pragma once
 
 #include <cstddef>
@@ -14,9 +14,9 @@ class RandomSource {
  public:
   explicit RandomSource(unsigned seed) : random_(seed) {}
 
-  // 0 to count - 1.
+  // A number from 0 to count - 1.
   std::size_t Below(std::size_t count) { return random_() % count; }
-  // 0 to `most` characters of the alphabet; one that stands there twice comes twice as often.
+  // 0 to `most` characters of the alphabet. A character that the alphabet has twice is drawn twice as often.
   std::string Text(std::size_t most, std::string_view alphabet) {
     std::string text(Below(most + 1), ' ');
     for (char& ch : text) ch = alphabet[Below(alphabet.size())];
@@ -29,7 +29,7 @@ class RandomSource {
     return text;
   }
   double Next() { return static_cast<double>(random_()) / 4294967296.0; }
-  // Refers to this source.
+  // This object must outlive the result.
   Draw Draws() {
     return [this] { return Next(); };
   }

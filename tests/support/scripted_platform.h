@@ -1,7 +1,7 @@
-// A platform without a screen: it keeps the calls that a user or the system would notice, and answers from queues
-// that the test fills. A question without an answer throws std::logic_error, so that no test passes by an answer that
-// it didn't give. Files lie in memory; a path ending in "/" in `files` is a folder. WritePrivateFile may be called from
-// a thread, so this call and others that use `calls` or `files` take a lock.
+// A platform without a screen. It lists the calls that a user or the system would notice, and takes its answers from
+// queues that the test fills. A question throws std::logic_error if its queue is empty, so that no test passes by an
+// answer that it didn't give. Files are in memory; a path in `files` that ends in "/" is a folder. A lock allows
+// WritePrivateFile in another thread while this one reads a file or adds a call.
 #pragma once
 
 #include <algorithm>
@@ -21,44 +21,43 @@
 
 namespace pelmar {
 
-// Its printer's paper is the platform itself.
+// The platform is also the paper of its printer.
 class ScriptedPlatform : public Platform, public Paper {
  public:
-  // One string a call, in order, as the functions below note it, with texts as they were given; also of a write that
-  // failed. Reading leaves no trace.
+  // One string for each call, in order, with the call's texts in quotes. Lists failed writes too, but no reads.
   std::vector<std::string> calls;
-  // The calls so far, which are then forgotten.
+  // Returns the calls so far and empties the list.
   std::vector<std::string> TakeCalls() { return std::exchange(calls, {}); }
-  // Waits for a thread that is writing.
+  // True if the list isn't empty.
   [[nodiscard]] bool HasCalls() {
     const std::lock_guard hold(lock_);
     return !calls.empty();
   }
-  // The same in one line, "; " behind each.
+  // Like TakeCalls, as one line with "; " after each call.
   std::string TakeCallsInOneLine() {
     std::string line;
     for (const std::string& call : TakeCalls()) line += call + "; ";
     return line;
   }
 
-  std::deque<Answer> answers;  // to messages; an OK box takes only kOk, a question only kYes and kNo
+  std::deque<Answer> answers;  // to messages: kOk for an OK box, another answer for a question
   std::deque<std::optional<std::string>> inputs, opens, saves;
 
   std::map<std::string, std::string> files;
   std::set<std::string> private_files;
   std::map<std::string, int> read_errors, write_errors;  // errno by path
-  std::string kept_content;                              // what failed writes tell of the old content
-  std::function<void()> on_message;                      // called while a message is on show
+  std::string kept_content;                              // WriteOutcome::kept of failed writes
+  std::function<void()> on_message;                      // called while a message is open
   std::optional<std::string> clipboard;
 
   LocalTime now{2024, 5, 6, 7, 8, 9};
   KeyStates keys;
-  std::deque<double> draws;  // Random() takes these first, then 0, 0.25, 0.5 and 0.75 in turn.
+  std::deque<double> draws;  // the results of Random(); after them 0, 0.25, 0.5 and 0.75 in turn
   int reseeds = 0;
   std::string install_folder = "/install/";
   PrintOutcome print_outcome{.printer = "P"};
   double paper_width = 100;  // each character is one dot wide
-  int busy = 0;              // how many busy pointers are in force
+  int busy = 0;              // the number of busy pointers that were set and not reset
 
   Answer Message(MessageType type, std::string_view text, std::string_view title) override {
     const std::string call = Note("message " + std::to_string(static_cast<int>(type)), {text, title});
@@ -113,7 +112,7 @@ class ScriptedPlatform : public Platform, public Paper {
     if (const int error = ErrorAt(path, write_errors)) return error;
     return files.try_emplace(path, bytes).second ? 0 : EEXIST;
   }
-  // In pieces of three bytes, so that every border is met.
+  // Passes pieces of three bytes, so that a text is cut at many places.
   int ReadByPieces(const std::string& path, const std::function<bool(std::string_view piece)>& take) override {
     if (const int error = ReadError(path)) return error;
     const std::string_view bytes = files[path];
@@ -134,7 +133,7 @@ class ScriptedPlatform : public Platform, public Paper {
     files[target] = out;
     return {};
   }
-  // A file's stamp is its bytes', by a checksum.
+  // Files with equal bytes have equal stamps.
   std::optional<FileStamp> Stamp(const std::string& path) override {
     const auto found = files.find(path);
     if (found == files.end()) return std::nullopt;
@@ -161,7 +160,7 @@ class ScriptedPlatform : public Platform, public Paper {
     return Take(draws, "a draw");
   }
   void ReseedRandom() override { ++reseeds; }
-  // By the codes of the upper-case letters: the Czech order is the real platform's affair.
+  // Sorts by the codes of the upper-case letters. Only the real platform has the Czech order.
   std::vector<std::size_t> SortedOrder(const std::vector<std::string_view>& texts) override {
     std::vector<std::size_t> order(texts.size());
     std::iota(order.begin(), order.end(), std::size_t{0});
@@ -174,7 +173,7 @@ class ScriptedPlatform : public Platform, public Paper {
   }
 
  private:
-  // The texts stand in quotes.
+  // Adds a call to the list, with its texts in quotes.
   std::string& Note(std::string call, std::initializer_list<std::string_view> texts = {}) {
     for (const std::string_view text : texts) call += " \"" + std::string(text) + '"';
     const std::lock_guard hold(lock_);

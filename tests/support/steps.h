@@ -3,22 +3,21 @@
 //
 //   ExpectState(window, "Text1='a b' Check1! Command1!", "Label1=3 List1=a|>b Command2=(&Ok)");
 //
-// A line has words between blanks. A word holds blanks between apostrophes. Steps:
+// Blanks separate the words of a line. Between apostrophes a blank belongs to its word. Steps:
 //   Command1!      clicks a button, a check box, an option, or an item of a menu or of a toolbar
 //   Text1=abc      replaces the text of a field or of an editable box
 //   VScroll1=3     moves a scroll bar to a value
-//   List1=2        makes a row of a list current, counted from 0; List1=abc the first row that begins so
+//   List1=2        makes a row of a list current, counted from 0; List1=abc the first row that begins with "abc"
 //   Combo1=2       chooses a row of a box that isn't editable, TabStrip1=1 a tab
 //   Dir1=/a        goes to a folder
 //   Text1:ab\r     gives the focus to a control and types: \r Enter, \b Backspace, \x7f Delete, \x1b Escape, → and ↓
 // States:
 //   Label1=abc     the text of a label, button, field or box, or the value of a bar
-//   Check1=1       a check box, an option or a button is checked; 0 it isn't
+//   Check1=1       a check box, an option or a button is checked; 0: it isn't checked
 //   List1=a|>b     the rows of a list, ">" before a selected one
 //   Picture1=#ff0000 the colour of a swatch
 //   Command1=(&Ok) the control is disabled
-// The session tests work the real program by a line of keys, which `work` of session/harness.py takes:
-//   ctrl+k  "typed text"  [Title] waits for that window  @10,20 clicks there  / waits for the window's end
+// In session tests a line of steps has keys; see `work` in session/harness.py.
 #pragma once
 
 #include <QAbstractItemView>
@@ -68,7 +67,7 @@ inline void Type(QWidget& focus, QChar key) {
   QTest::keyClick(&focus, key.toLatin1());
 }
 
-// Takes the steps.
+// Runs the steps.
 inline void Work(const QWidget& window, const char* steps) {
   for (const QString& step : Words(steps)) {
     const auto end = std::find_if(step.begin(), step.end(), [](QChar c) { return QLatin1String("!=:").contains(c); });
@@ -105,7 +104,7 @@ inline void Work(const QWidget& window, const char* steps) {
   }
 }
 
-// What a control shows, as a state line writes it.
+// The content of a control, as a state line writes it.
 inline QString Shown(const QWidget* control) {
   QString shown;
   for (const char* property : {"currentIndex", "currentText", "text", "value"})
@@ -126,7 +125,7 @@ inline QString Shown(const QWidget* control) {
   return control->isEnabled() ? shown : QLatin1Char('(') + shown + QLatin1Char(')');
 }
 
-// The state line of the named controls. A name may have more behind "=".
+// The state line of the named controls. The rest of a word, from "=" on, is ignored.
 inline std::string State(const QWidget& window, const char* names) {
   QStringList shown;
   for (const QString& word : Words(names)) {
@@ -136,7 +135,7 @@ inline std::string State(const QWidget& window, const char* names) {
   return shown.join(QLatin1Char(' ')).toStdString();
 }
 
-// Takes the steps, then compares each control that the state line names. A failure names the caller's line.
+// Runs the steps, then compares each control that the state line names. A failure names the caller's line.
 inline void ExpectState(const QWidget& window, const char* steps, const char* state,
                         const char* file = __builtin_FILE(), int line = __builtin_LINE()) {
   Work(window, steps);

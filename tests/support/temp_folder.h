@@ -1,4 +1,4 @@
-// A folder of a test's own, gone with it. No Qt, for core tests too.
+// A temporary folder, which the destructor removes. Core tests use this file too, so it includes no Qt.
 #pragma once
 
 #include <cstdlib>
@@ -28,7 +28,7 @@ class TempFolder {
   [[nodiscard]] const std::string& Path() const { return path_; }
   [[nodiscard]] std::string File(std::string_view name) const { return path_ + "/" + std::string(name); }
 
-  // Returns the path.
+  // Writes a file and creates missing folders. Returns the path.
   std::string Put(std::string_view name, std::string_view bytes) const {
     std::string path = File(name);
     std::filesystem::create_directories(std::filesystem::path(path).parent_path());
@@ -40,14 +40,14 @@ class TempFolder {
   std::string path_;
 };
 
-// "<missing>" where there is no such file.
+// The bytes of a file, or "<missing>" if the file doesn't exist.
 inline std::string Content(const std::string& path) {
   std::ifstream file(path, std::ios::binary);
   if (!file) return "<missing>";
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
-// The lines of a kept file, as in "steps -> what they lead to", but for remarks behind a #.
+// The lines of a file, without those that begin with "#". Throws if there are none.
 inline std::vector<std::string> KeptLines(const std::string& path) {
   std::ifstream file(path);
   std::vector<std::string> lines;

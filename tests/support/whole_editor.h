@@ -1,4 +1,4 @@
-// The editor with its files and every command that needs no window, as the program puts it together.
+// The editor with its files and every command that needs no window.
 #pragma once
 
 #include "files/files.h"
