@@ -51,7 +51,7 @@ class PlaceTest(EditorCase):
         place = (300, 450, 12000, 9000)
         left, top, width, height = place
         write_settings(self.folder, left=left, top=top, width=width, height=height, window_state=1)
-        for shown in (False, False, True):
+        for shown in (False, True):
             self.start(title=None)
             main = self.wait(lambda: self.window("Pelmar VEX ()"), "the minimised window")
             if shown:
