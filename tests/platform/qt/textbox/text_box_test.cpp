@@ -10,7 +10,6 @@
 #include "platform/qt/convert.h"
 #include "platform/qt/desktop/clipboard_text.h"
 #include "platform/qt/textbox/text_box_accessible.h"
-#include "support/controls.h"
 #include "support/marked_text.h"
 #include "support/random_source.h"
 
@@ -245,15 +244,6 @@ TEST_F(TextMenuTest, OffersWhatThereIsToDo) {
                             "Kopírovat Ctrl+C", "Vložit Ctrl+V", "Smazat Del", "", "Vybrat vše Ctrl+A"}));
 }
 
-TEST_F(TextMenuTest, PastesTextOfAnotherProgram) {
-  QGuiApplication::clipboard()->setText(QStringLiteral("theirs"));
-  Put("a[b|");
-  QMenu* menu = Open();
-  menu->actions().at(5)->trigger();
-  menu->close();
-  EXPECT_EQ(Document(), "atheirs|");
-}
-
 TEST_F(TextMenuTest, IsLeftToTheWindowThatAsksForIt) {
   const QSignalSpy asked(box, &QWidget::customContextMenuRequested);
   box->setContextMenuPolicy(Qt::CustomContextMenu);
@@ -273,20 +263,6 @@ TEST_F(TextBoxTest, TabGoesOnWhereItIsNotTyped) {
   box->setFocus();
   Press("Tab");
   EXPECT_TRUE(behind.hasFocus());
-}
-
-TEST_F(TextBoxTest, TabIntoTheBoxSelectsTheWholeTextWhereItShall) {
-  QLineEdit before(&window);
-  before.show();
-  QWidget::setTabOrder(&before, box);
-  Put("a|b");
-  for (const bool selects : {false, true}) {
-    box->setTabSelectsAll(selects);
-    Press("Shift+Backtab");
-    EXPECT_TRUE(before.hasFocus());
-    QTest::keyClick(&before, Qt::Key_Tab);
-    EXPECT_EQ(Document(), selects ? "[ab|" : "a|b");
-  }
 }
 
 // True where a pixel of the rectangle differs from the background.
@@ -407,18 +383,6 @@ TEST_F(TextBoxTest, FollowsItsBufferUntilItGetsAnother) {
   first.SetText("alone");
 }
 
-TEST_F(TextBoxTest, TheWheelScrollsByLinesOrPixelsAndLeavesZoomingToTheWindow) {
-  QWidget& area = *box->viewport();
-  const QScrollBar& down = *box->verticalScrollBar();
-  SetRows(60);
-  EXPECT_TRUE(RollWheel(area, {}, {0, -120}));
-  const int rows = QApplication::wheelScrollLines() * down.singleStep();
-  EXPECT_EQ(down.value(), rows);
-  EXPECT_TRUE(RollWheel(area, {0, -7}, {0, -56}));
-  EXPECT_TRUE(down.value() == rows + 7 || QGuiApplication::platformName() == QStringLiteral("xcb"));
-  EXPECT_FALSE(RollWheel(area, {}, {0, -120}, Qt::ControlModifier));
-}
-
 TEST(MoveSelection, EqualsCutAndPasteAndIsUndoneInOneStep) {
   RandomSource random(1);
   for (int round = 0; round < 500; ++round) {
@@ -439,23 +403,6 @@ TEST(MoveSelection, EqualsCutAndPasteAndIsUndoneInOneStep) {
     if (expected != text) buffer.Undo();
     ASSERT_EQ(buffer.Text() + std::string(buffer.SelText()), text + moved);
   }
-}
-
-TEST_F(TextBoxTest, InputMethodsSeeTheTextAroundTheCaretOnly) {
-  const std::string most(512, 'a'), before = most.substr(1);
-  box->Buffer().SetText("first\r\n" + std::string(4000, 'b') + most + "\xE9" + most + std::string(4000, 'b') +
-                        "\r\nlast");
-  box->SetSelStart(4519);
-  Press("Shift+Right");
-  const auto answer = [&](Qt::InputMethodQuery query) { return box->inputMethodQuery(query); };
-  EXPECT_EQ(answer(Qt::ImTextBeforeCursor).toString().toStdString(), before + "é");
-  EXPECT_EQ(answer(Qt::ImTextAfterCursor).toString().toStdString(), most);
-  EXPECT_EQ(answer(Qt::ImCursorPosition).toInt(), 512);
-  EXPECT_EQ(answer(Qt::ImAnchorPosition).toInt(), 511);
-  EXPECT_EQ(answer(Qt::ImSurroundingText).toString().toStdString(), before + "é" + most);
-  EXPECT_EQ(answer(Qt::ImCursorRectangle).toRect(), box->CaretRect().translated(box->viewport()->pos()));
-  box->setReadOnly(true);
-  EXPECT_FALSE(answer(Qt::ImEnabled).toBool());
 }
 
 // A screen reader that knows the text by its notifications alone. No test platform has one at work.
