@@ -5,7 +5,6 @@ import re
 import select
 import shutil
 import socket
-import stat
 import subprocess
 import threading
 import time
@@ -134,32 +133,25 @@ class BrowserTest(EditorCase):
         self.shown("Sit")
         self.assertEqual(server.asked, ["/typed"])
 
-    def test_what_a_local_page_has_read_stays_here_however_the_border_is_crossed(self):
+    def test_what_a_local_page_has_read_stays_here(self):
         server, site = self.serve()
         self.write("secret.txt", "secret")
         page = (Path(__file__).parent / "crossing" / "hostile.html").read_text()
         path = self.write("hostile.html", page.replace("LINK", LINK).replace("SITE", site))
         read, found = "[HTML testovací browser (reads secret)]", "[HTML testovací browser (finds nothing)]"
-        disk, net = f"{go(f'file://{path}')} {read}", f"{go(f'http://{site}/look')} {found}"
-        ways = {"address": f"{disk} {net}",
-                "address, from a page that loops": f"{go(f'file://{path}?loops')} {read} {net}",
-                "back, forward": f"{disk} {net} alt+Left {read} alt+Right {found}",
-                "Načíst, link": f"{disk} alt+n [HTML testovací browser (hostile)]"}
         browser = self.start("-BROWSER", title=ALONE)
-        for way, steps in ways.items():
-            with self.subTest(way):
-                self.work(f"{net} {steps}")
-                if "link" in way:
-                    self.wait(lambda: "/picture" in server.asked, "the picture of the page")
-                    self.click_link(browser)
-                    self.work("[Pelmar VEX] alt+a /")
-                    self.shown("Sit")
-                time.sleep(0.3)  # for what would come late
-                self.assertLessEqual(set(server.asked), {"/look", "/link", "/picture"})
-                server.asked.clear()
+        self.work(f"{go(f'file://{path}')} {read} {go(f'http://{site}/look')} {found}")
+        self.work(f"alt+Left {read} alt+Right {found}")
+        # "Načíst" loads the page with its picture and without its script. Then its link is followed.
+        self.work(f"alt+Left {read} alt+n [HTML testovací browser (hostile)]")
+        self.wait(lambda: "/picture" in server.asked, "the picture of the page")
+        self.click_link(browser)
+        self.work("[Pelmar VEX] alt+a /")
+        self.shown("Sit")
+        time.sleep(0.3)  # for what would come late
+        self.assertEqual(set(server.asked), {"/look", "/link", "/picture"})
 
-    def test_addresses_within_the_engine_and_endless_ones_are_refused(self):
-        server, site = self.serve()
+    def test_an_address_of_the_engine_itself_is_refused(self):
         crash = "chrome://inducebrowsercrashforrealz"
         path = self.write("a.html", f"""<TITLE>A</TITLE><A HREF="{crash}">{LINK}</A><SCRIPT>
             for (const address of ['{crash}', 'chrome://gpucrash', 'view-source:file:///', 'devtools://x', 'qrc:/x'])
@@ -167,11 +159,8 @@ class BrowserTest(EditorCase):
         self.start("-BROWSER", title=ALONE)
         self.work(go(f"file://{path}"))
         self.click_link(self.shown("A"))
-        longest = self.write("long.html", f'<TITLE>L</TITLE><A HREF="http://{site}/{1000 * "x"}">{LINK}</A>')
-        self.work(go(f"file://{longest}"))
-        self.click_link(self.shown("L"))
-        self.work("[Zpráva stránky] Return /")  # no box would show all of it
-        self.assertEqual(server.asked, [])
+        self.work(go(f"file://{self.write('next.html', '<TITLE>Next')}"))
+        self.shown("Next")  # the engine still works
 
     def engine(self):
         """The command lines of the engine's processes by their numbers."""
@@ -213,7 +202,7 @@ class BrowserTest(EditorCase):
 
     @unittest.skipIf(subprocess.call([*AS_USER, "unshare", "-U", "true"], stderr=subprocess.DEVNULL),
                      "an ordinary user gets no name space here, and the engine no sandbox")
-    def test_an_ordinary_user_gets_the_sandbox_and_own_pages(self):
+    def test_an_ordinary_user_gets_the_sandbox(self):
         for file in (PROGRAM, MODULE):
             shutil.copy(file, self.home)
         self.start(program=self.home / PROGRAM.name, user=True)
@@ -222,8 +211,7 @@ class BrowserTest(EditorCase):
         engine = self.engine().values()
         self.assertTrue(any("QtWebEngineProcess" in words for words in engine), engine)
         self.assertFalse(any("--no-sandbox" in words for words in engine), engine)
-        page, = (self.home / "tmp").glob("$$$PelmarTemp*.html")
-        self.assertEqual(stat.S_IMODE(page.stat().st_mode), 0o600)
+
 
 if __name__ == "__main__":
     unittest.main()

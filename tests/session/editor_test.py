@@ -32,19 +32,6 @@ class DocumentTest(EditorCase):
         self.wait_exit(1)
         self.assertTrue(self.holds(b"plain"))
 
-    def test_a_page_is_made_by_the_keyboard_alone(self):
-        color = "[HTML  - Vytvoření] Tab space Tab space [Výběr barvy]"  # the next colour, by its button
-        page = self.home / "kocka.html"
-        self.start("")
-        # White ground and wine-red text. What is typed replaces the marker, which is selected.
-        self.work(f"""alt+s v [HTML  - Vytvoření] ctrl+a "Kocka" {color} Return / {color} {8 * "Page_Down "} Return /
-            [HTML  - Vytvoření] alt+o / [Pelmar VEX ()*] alt+v Alt_L "Nase kocka"
-            ctrl+u [Uložit] ctrl+a "kocka" Return /
-            [Pelmar VEX ({page})]""")
-        text = page.read_bytes().decode("cp1250")
-        self.assertIn("<TITLE>Kocka</TITLE>", text)
-        self.assertIn(' <BODY BGCOLOR="#FFFFFF" TEXT="#500000">\r\nNase kocka\r\n', text)
-
 
 class NotesTest(EditorCase):
     def test_notes_alone_write_no_other_file(self):

@@ -10,7 +10,6 @@
 #include "platform/qt/controls/field.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/frames/program_style.h"
-#include "platform/qt/frames/svg_icon.h"
 #include "support/controls.h"
 #include "support/temp_folder.h"
 
@@ -147,9 +146,6 @@ TEST(DialogWindow, IsCentredOnceAndKeepsItsPlaceOrEachTime) {
   dialog.hide();
   dialog.Present();
   EXPECT_LE((dialog.frameGeometry().center() - screen.center()).manhattanLength(), 12);
-  dialog.showMinimized();
-  dialog.Present();
-  EXPECT_FALSE(dialog.isMinimized());
 }
 
 struct DialogWindowTest : testing::Test {
@@ -199,17 +195,6 @@ TEST(ProgramStyle, WhatIsOffCanBeReadOnLightAndDarkGround) {
     EXPECT_GE(Difference(palette.color(QPalette::PlaceholderText), palette.color(QPalette::Base)), 90);
     EXPECT_GE(Difference(off(QPalette::WindowText), ground), 70);
     EXPECT_GE(Difference(palette.color(QPalette::Mid), ground), 40);
-  }
-}
-
-TEST(SvgIcon, EachOfTheProgramDraws) {
-  const QDir icons(QStringLiteral(":/icons"), QStringLiteral("*.svg"));
-  EXPECT_GT(icons.count(), 28u);
-  for (const QString& name : icons.entryList()) {
-    const QImage image = SvgIcon(icons.filePath(name)).pixmap(24, 24).toImage();
-    int drawn = 0;
-    for (int at = 0; at < 24 * 24; ++at) drawn += image.pixelColor(at % 24, at / 24).alpha() > 128;
-    EXPECT_GT(drawn, 24) << name.toStdString();
   }
 }
 

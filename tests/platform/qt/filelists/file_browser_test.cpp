@@ -71,8 +71,6 @@ TEST(FolderEntries, KeepTheBytesOfNamesThatAreNoUtf8) {
   EXPECT_EQ(ShownPath(names.last()), QStringLiteral("kůň.txt"));
   EXPECT_EQ(Utf8ToQString("Žába k\xF9\xF2.txt"), QStringLiteral("Žába kůň.txt"));
   EXPECT_EQ(FilesOf(folder, QStringLiteral("*ůň*")).size(), 1);  // a mask is what a person sees
-  for (const char* path : {"/k\xF9\xF2 %#?.txt", "/kůň %#?.txt"}) EXPECT_EQ(PathOfUrl(UrlOfPath(path)), path);
-  EXPECT_EQ(UrlOfPath("/k\xF9 %.txt").toEncoded().toStdString(), "file:///k%F9%20%25.txt");
 }
 
 TEST(MountedPlaces, AreHomeRootAndTheUsualPlacesForDisksWhichHoldPaths) {
@@ -146,9 +144,6 @@ struct FileBrowserTest : testing::Test {
     if (!rows.isEmpty()) rows[0] = QLatin1String(rows[0].startsWith(u'>') ? ">." : ".");
     return rows.join(u'|').toStdString();
   }
-  void WaitForFiles(const char* rows) {
-    EXPECT_TRUE(QTest::qWaitFor([&] { return Files() == rows; })) << Files() << " instead of " << rows;
-  }
   std::vector<std::string> TakeEvents() { return std::exchange(events, {}); }
 
   using Events = std::vector<std::string>;
@@ -170,14 +165,6 @@ TEST_F(FileBrowserTest, ArrowKeysSelectFilesFromTheFirstOn) {
   EXPECT_EQ(Files(), ">a.txt|b.HTM|c.htm|d");
   QTest::keyClick(&files, Qt::Key_Down);
   EXPECT_EQ(Files(), "a.txt|>b.HTM|c.htm|d");
-  EXPECT_EQ(events, (Events{"clicked", "clicked"}));
-}
-
-TEST_F(FileBrowserTest, AClickOnTheSelectedFileIsNotifiedToo) {
-  Show();
-  Click(files, QStringLiteral("c.htm"));
-  Click(files, QStringLiteral("c.htm"));
-  EXPECT_EQ(Files(), "a.txt|b.HTM|>c.htm|d");
   EXPECT_EQ(events, (Events{"clicked", "clicked"}));
 }
 
@@ -239,15 +226,6 @@ TEST_F(FileBrowserTest, AMaskKeepsTheSelectionAsLongAsTheFileIsListed) {
   mask.setEditText(QStringLiteral("*.txt"));
   EXPECT_EQ(Files(), "a.txt");
   EXPECT_EQ(events, (Events{"mask *.htm", "mask *.txt"}));
-}
-
-TEST_F(FileBrowserTest, FollowsItsFolderOnTheDisk) {
-  Show();
-  SetFolder("/sub");
-  temp.Put("sub/e.htm", "");
-  WaitForFiles("c.htm|e.htm");
-  Remove("sub/c.htm");
-  WaitForFiles("e.htm");
 }
 
 TEST_F(FileBrowserTest, ReadsItsFolderAgainWhenItShowsAgain) {
