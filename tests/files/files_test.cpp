@@ -41,7 +41,7 @@ struct FilesTest : testing::Test {
     editor.opener.OpenPath("/a.txt");
     PutMarked(editor.text, "[new|saved");
   }
-  // What is asked and done by a command, with a file chosen in a dialog and all questions answered.
+  // Runs the command with this file chosen in its dialog and these answers. Returns the calls.
   Calls Run(const char* command, const std::optional<std::string>& chosen, const std::deque<Answer>& answers = {}) {
     platform.opens = platform.saves = {chosen};
     platform.answers = answers;

@@ -1,5 +1,5 @@
-"""The internal browser of the real program with pages that mean no good, looked at from outside: by the colours on the
-screen, the titles of the windows, and what arrives at a server of this machine."""
+"""Hostile pages in the internal browser of the real program. The tests look from outside: at colours on the screen, at
+titles of windows, and at what reaches a server on this machine."""
 
 import re
 import select
@@ -18,11 +18,11 @@ MODULE = built("pelmar-browser.so")
 GREEN, BLUE, YELLOW = "#00c000", "#2000f0", "#f0f000"
 ALONE = re.compile(r"HTML [Tt]estovací +browser.*")  # whatever page it shows
 BROWSE = "alt+s" + 4 * " Right" + " Up Return"  # the last item of the menu Html
-# What stands in a link. It tells when the engine has noticed the mouse, which may take it a while.
+# The content of a link. Its colour changes when the engine has noticed the mouse, which may take a while.
 LINK = f"""<STYLE>#link {{ background: {BLUE} }} A:hover #link {{ background: {YELLOW} }}</STYLE>
     <IMG ID="link" WIDTH="60" HEIGHT="60" ALT="">"""
 
-# Pages that try to reach SITE by themselves. DONE stands where they have begun to.
+# Pages that try to reach SITE by themselves. At DONE, after they have tried, they set their title.
 PAGES = sorted((Path(__file__).parent / "sending").glob("*.html"))
 
 
@@ -50,7 +50,7 @@ class Handler(BaseHTTPRequestHandler):
 
 
 class CountingServer(ThreadingHTTPServer):
-    """Of this machine. It counts what arrives, over TCP and UDP at one port."""
+    """A server on this machine that counts what arrives at its port over TCP and UDP."""
 
     def __init__(self):
         super().__init__(("127.0.0.1", 0), Handler)
@@ -67,7 +67,7 @@ class CountingServer(ThreadingHTTPServer):
         return True
 
     def reached(self):
-        """Whether anything has come, be it an empty connection."""
+        """True if anything has arrived, even a connection without a request."""
         return bool(self.connections or select.select([self.udp], [], [], 0)[0])
 
     def server_close(self):
@@ -90,7 +90,7 @@ class BrowserTest(EditorCase):
         return self.work(f"[HTML testovací browser ({title})]")
 
     def wait_colored(self, window, color):
-        """Left, top, width and height of all that the window shows in this colour ("#ff0000"), once it does."""
+        """Waits until the window shows this colour ("#ff0000"). Returns left, top, width and height of that area."""
         def colored():
             picture = f"import -window {window.id} miff:- | convert - -fill black +opaque '{color}'"
             box = self.command("sh", "-c", picture + " -bordercolor black -border 1 -format %@ info:")
@@ -128,7 +128,7 @@ class BrowserTest(EditorCase):
                     self.work("[Pelmar VEX] Return /")  # No is the default
                 self.shown(name)
                 self.assertFalse(server.reached())
-        # What is typed goes out, so the server would have heard.
+        # A typed address reaches the server, so the server would have noticed the pages too.
         self.work(go(f"http://{site}/typed"))
         self.shown("Sit")
         self.assertEqual(server.asked, ["/typed"])
@@ -188,13 +188,13 @@ class BrowserTest(EditorCase):
                 self.work(then)
                 self.wait_colored(self.shown("Good"), GREEN)
 
-    def test_a_pages_questions_leave_the_editor_alone_and_end_by_the_persons_word(self):
+    def test_a_pages_questions_leave_the_editor_alone_and_can_be_turned_off(self):
         main = self.start_with(self.write("alerts.html", """<TITLE>alerts</TITLE><SCRIPT>setTimeout(() => {
             for (let i = 0; i < 500; ++i) alert(i); document.title = 'done' }, 300)</SCRIPT>"""))
         box = self.work(f"{BROWSE} [Zpráva stránky]")
         self.activate(main)
         self.work(f'"x" [{main.title}*]')
-        time.sleep(3.5)  # a page that waits for its answer is not a stuck one
+        time.sleep(3.5)  # a page that waits for an answer doesn't count as stuck
         self.activate(box)
         # From the third one on the box offers to silence the page.
         self.work(2 * "[Zpráva stránky] Return / " + "[Zpráva stránky] alt+d Return /")

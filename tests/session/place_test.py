@@ -1,4 +1,4 @@
-"""The place of the main window with its frame, under a real window manager, which moves it a moment after the wish."""
+"""The place of the main window and its frame under a real window manager, which moves a window a little later."""
 
 import re
 import struct

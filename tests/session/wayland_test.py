@@ -61,7 +61,7 @@ class WaylandTest(EditorCase):
 
     def wait(self, check, what, needs_program=True):
         def look():
-            while GLib.MainContext.default().iteration(False):  # lets the bus bring its news
+            while GLib.MainContext.default().iteration(False):  # takes the messages of the bus
                 pass
             with contextlib.suppress(GLib.GError):  # an object may be gone meanwhile
                 return check()

@@ -39,7 +39,7 @@ TEST(SortedOrder, KeepsEqualsInPlace) {
   EXPECT_EQ(QtPlatform().SortedOrder({std::begin(equals), std::end(equals)}), (std::vector<std::size_t>{0, 1, 2}));
 }
 
-// A folder that isn't there stays what was asked for, so that writing to it fails, rather than becoming the root.
+// A missing folder isn't replaced by the root folder, so writing to it fails.
 TEST(Folders, EndInASeparatorAndTheTemporaryOneIsWhatTheEnvironmentSays) {
   QtPlatform platform;
   EXPECT_TRUE(std::filesystem::is_directory(platform.InstallFolder())) << platform.InstallFolder();

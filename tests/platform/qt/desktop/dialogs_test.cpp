@@ -85,7 +85,7 @@ struct FileDialogTest : testing::Test {
   const QFileInfo letter{Utf8ToQString(temp.Put("inner/Dopis.TXT", "x"))};
   QString folder = Utf8ToQString(temp.Path());
 
-  // What the dialog gives, "none" if nothing, where `act` works it.
+  // The answer of the dialog after `act`, or "none".
   std::string Ask(FileDialogKind kind, int filter_index, const std::function<void(QFileDialog&)>& act) {
     InDialog<QFileDialog>([&](QFileDialog& dialog) {
       EXPECT_EQ(dialog.acceptMode() == QFileDialog::AcceptSave, kind == FileDialogKind::kSave);

@@ -20,7 +20,7 @@
 namespace pelmar {
 namespace {
 
-// Tries every way to share the name out to the stars.
+// Tries every length that a star can match.
 bool SlowlyMatches(std::string_view mask, std::string_view name) {
   if (mask.empty()) return name.empty();
   if (mask[0] == '*')
@@ -101,7 +101,7 @@ struct FileBrowserTest : testing::Test {
     mask.setEditText(QStringLiteral("*.*"));
     LinkFileBrowser(&place, &folders, &files, &mask);
   }
-  // Both lists on show, with the folder of the test.
+  // Shows both lists at the folder of the test, and records their events from then on.
   void Show() {
     folders.resize(300, 400);
     files.resize(300, 400);
@@ -137,7 +137,7 @@ struct FileBrowserTest : testing::Test {
     QTest::mouseRelease(list.viewport(), Qt::LeftButton, {}, at);
   }
 
-  // The rows between "|", with ">" before the selected one; of the folders those from the test's own on, as ".".
+  // The rows with "|" between them and ">" before the selected one. Folders begin with the test's own, shown as ".".
   [[nodiscard]] std::string Files() const { return Shown(&files).toStdString(); }
   [[nodiscard]] std::string Folders() const {
     QStringList rows = Shown(&folders).split(u'|').mid(base.count(u'/'));

@@ -51,7 +51,7 @@ struct TextBoxTest : testing::Test {
     event.setCommitString(QString::fromUtf8(typed), from, length);
     QApplication::sendEvent(box, &event);
   }
-  // Just right of the left border of a character, so that the caret goes before it, or that far into it.
+  // A point in the character at this position. 3 is at the left edge of character 3, 3.7 is further to the right.
   [[nodiscard]] QPoint At(double place) const {
     const QRect cell = box->CharRect(static_cast<std::size_t>(place));
     return {cell.left() + 1 + static_cast<int>(std::fmod(place, 1) * cell.width()), cell.center().y()};
