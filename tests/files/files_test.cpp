@@ -5,7 +5,6 @@
 
 #include <cerrno>
 
-#include "files/encodings.h"
 #include "files/outside_changes.h"
 #include "support/document_state.h"
 #include "support/marked_text.h"
@@ -42,7 +41,7 @@ struct FilesTest : testing::Test {
     editor.opener.OpenPath("/a.txt");
     PutMarked(editor.text, "[new|saved");
   }
-  // What is asked and done by a command, with a file chosen in a dialog and all questions answered.
+  // Runs the command with this file chosen in its dialog and these answers. Returns the calls.
   Calls Run(const char* command, const std::optional<std::string>& chosen, const std::deque<Answer>& answers = {}) {
     platform.opens = platform.saves = {chosen};
     platform.answers = answers;
@@ -196,15 +195,8 @@ TEST_F(FilesTest, InsertFromFilePutsOneFieldOverTheSelection) {
 
 TEST(InsertFromFile, ReadsOneField) {
   const std::pair<std::string_view, std::string_view> cases[] = {
-      {" \t abc \t,def", "abc"},
-      {"\"a, b\r\nc\" ,d", "a, b\r\nc"},
-      {"", ""},
-      {",x", ""},
-      {"\"open", "open"},
-      {"\"\",x", ""},
-      {"a \"b\" c\nd", "a \"b\" c"},
-      {"   ", ""},
-      {"\r\nx", ""},
+      {" \t abc \t,def", "abc"}, {"\"a, b\r\nc\" ,d", "a, b\r\nc"}, {"", ""},      {",x", ""},
+      {"\"open", "open"},        {"a \"b\" c\nd", "a \"b\" c"},     {"\r\nx", ""},
   };
   for (const auto& [bytes, field] : cases) EXPECT_EQ(FirstField(bytes), field) << bytes;
 }
@@ -237,14 +229,6 @@ TEST_F(RecentFilesTest, APathThatIsListedMovesToTheHead) {
   EXPECT_EQ(recent.Path(3), "/a");
 }
 
-TEST_F(RecentFilesTest, TheCommandOpensTheSecond) {
-  platform.files = {{"/a.txt", "a"}, {"/b.txt", "b"}};
-  for (const char* path : {"/a.txt", "/b.txt"}) editor.opener.OpenPath(path);
-  editor.commands.Run("Recent");
-  EXPECT_EQ(editor.text.Text(), "a");
-  EXPECT_EQ(recent.Path(1), "/a.txt");
-}
-
 struct FastSave : FilesTest {
   const std::string ask = Asked(52, "Opravdu uložit soubor?\r\n\"/a.txt\"");
   const std::string overwrite = AskedToOverwrite("/a.txt");
@@ -268,31 +252,10 @@ TEST_F(FastSave, AsksTheSameWhereTheFileIsGone) {
   EXPECT_EQ(Saved({kNo}), Calls{ask});
 }
 
-TEST_F(FastSave, AsksOnceBeforeTwoEncodingsGoOverAFileInUtf8) {
-  const std::string mix = Asked(276, MixQuestion("/a.txt"));
-  platform.files["/a.txt"] = "\xC5\xBE";
-  editor.opener.OpenPath("/a.txt");
-  editor.text.Type("a");
-  EXPECT_EQ(Saved({kNo}), Calls{ask});  // still UTF-8
-  editor.text.Type("\x9E");
-  EXPECT_EQ(Saved({kNo}), Calls{mix});
-  EXPECT_EQ(Saved({kYes, kYes, kNo}), (Calls{mix, ask, overwrite}));
-  EXPECT_EQ(Saved({kNo}), Calls{ask});
-}
-
-TEST_F(FilesTest, AnotherProgramsChangeOfTheFileIsNoticedInEachTab) {
-  EXPECT_EQ(OutsideChangeOf(documents, platform), OutsideChange::kNone);
-  platform.files["/a.txt"] = "their";
-  EXPECT_EQ(OutsideChangeOf(documents, platform), OutsideChange::kWritten);
-  documents.SwitchTo(2);
-  EXPECT_EQ(OutsideChangeOf(documents, platform), OutsideChange::kNone);
-  documents.SwitchTo(1);
-  platform.answers = {kYes};
-  editor.saver.SaveToPath("/a.txt");
-  EXPECT_EQ(OutsideChangeOf(documents, platform), OutsideChange::kNone);
+TEST_F(FilesTest, AFileThatAnotherProgramRemovedIsGone) {
   platform.files.erase("/a.txt");
   EXPECT_EQ(OutsideChangeOf(documents, platform), OutsideChange::kGone);
-  documents.ClearCurrent();
+  documents.SwitchTo(2);
   EXPECT_EQ(OutsideChangeOf(documents, platform), OutsideChange::kNone);
 }
 

@@ -29,7 +29,6 @@ TEST(PrintLayout, WrapsAtBlanksAndBreaks) {
       {"\r\n", {""}},
       {"abcd efgh ij", {"abcd efgh", "ij"}},
       {"abcd efghi", {"abcd efghi"}},  // fits exactly
-      {"a   b", {"a   b"}},
       {"a\tb c", {"a\tb", "c"}},
       {"            x", {"", " x"}},  // blanks run past the margin like words without width
       // A wide word begins a line and isn't broken. required: a first one too

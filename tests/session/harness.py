@@ -84,7 +84,7 @@ class EditorCase(unittest.TestCase):
         self.assertEqual(self.program.returncode, status, self.log.read_text(errors="replace"))
 
     def kill(self):
-        """Kills the program and the processes of its group, at once, as a power cut would."""
+        """Ends the program and the processes of its group at once."""
         if self.program is not None:
             with contextlib.suppress(ProcessLookupError):
                 os.killpg(self.program.pid, signal.SIGKILL)
@@ -177,12 +177,12 @@ class EditorCase(unittest.TestCase):
     def autosaved(self):
         return (self.folder / "autosave_pelmar_vex.txt").read_bytes()
 
-    def rescues(self, pattern="*rescue*"):
-        return list(self.folder.glob(pattern))
+    def rescues(self):
+        return list(self.folder.glob("*rescue-*.pelmar"))
 
-    def holds(self, text, pattern="*rescue-*.pelmar"):
+    def holds(self, text):
         """Whether a rescue file holds the text."""
-        return any(text in one.read_bytes() for one in self.rescues(pattern))
+        return any(text in one.read_bytes() for one in self.rescues())
 
     def wait_kept(self, *texts):
         self.wait(lambda: all(map(self.holds, texts)), f"{texts} in a rescue file")

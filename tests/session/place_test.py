@@ -1,4 +1,4 @@
-"""The place of the main window with its frame, under a real window manager, which moves it a moment after the wish."""
+"""The place of the main window and its frame under a real window manager, which moves a window a little later."""
 
 import re
 import struct
@@ -51,7 +51,7 @@ class PlaceTest(EditorCase):
         place = (300, 450, 12000, 9000)
         left, top, width, height = place
         write_settings(self.folder, left=left, top=top, width=width, height=height, window_state=1)
-        for shown in (False, False, True):
+        for shown in (False, True):
             self.start(title=None)
             main = self.wait(lambda: self.window("Pelmar VEX ()"), "the minimised window")
             if shown:

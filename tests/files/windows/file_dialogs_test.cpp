@@ -5,7 +5,6 @@
 #include "files/windows/otevri.h"
 #include "files/windows/uloz.h"
 #include "platform/qt/filelists/drive_list.h"
-#include "platform/qt/filelists/file_list.h"
 #include "support/program_test.h"
 #include "support/temp_folder.h"
 
@@ -38,18 +37,9 @@ TEST_F(OpenDialogTest, BeginsWithoutAFile) {
   Expect(dialog, "", "Command1=(&Otevři) Label1='Nastav soubor !' Text1=*.* Text2='Není k dispozici' Label3=");
 }
 
-TEST_F(OpenDialogTest, ArrowKeysGoOnFromTheMaskThatShows) { Expect(dialog, "Text1:↓", "Text1=*.html"); }
-
 TEST_F(OpenDialogTest, PreviewsTheSelectedFile) {
   Expect(dialog, "Dir1=~ File1=b.html", "Command1=&Otevři Label1=~/b.html Text2=<B>\r\n File1=a.TXT|>b.html|big.txt");
   Expect(dialog, "Text1=*.txt File1=big.txt", "File1=a.TXT|>big.txt Text2='Není k dispozici'");
-}
-
-TEST_F(OpenDialogTest, HintsAtAFileInUtf8) {
-  Put("a.TXT", "kůň");
-  Expect(dialog, "Dir1=~ File1=a.TXT",
-         "Label3='Soubor je v UTF-8, čte se jako Windows-1250. Převede ho „Konverze dos - unix“ v nabídce Soubor.'");
-  Expect(dialog, "File1=b.html", "Label3=");
 }
 
 TEST_F(OpenDialogTest, OpensAfterAQuestionAndHides) {
@@ -63,29 +53,14 @@ TEST_F(OpenDialogTest, OpensAfterAQuestionAndHides) {
   EXPECT_FALSE(dialog.isVisible());
 }
 
-TEST_F(OpenDialogTest, ADoubleClickOpens) {
-  Expect(dialog, "Dir1=~ File1=a.TXT", "Label1=~/a.TXT");
-  auto* list = Find<FileList>(dialog, "File1");
-  const QPoint row = list->visualRect(list->currentIndex()).center();
-  platform.answers = {Answer::kYes};
-  QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, row);
-  QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, row);
-  EXPECT_EQ(text.Text(), "text");
-}
-
-TEST_F(OpenDialogTest, ANameThatIsNoUtf8IsShownOpenedAndSavedByItsBytes) {
+TEST_F(OpenDialogTest, ANameThatIsNoUtf8IsOpenedAndSavedByItsBytes) {
   const std::string path = folder.Put("k\xF9\xF2.txt", "");
   platform.files[path] = "horse";
   platform.answers = {Answer::kYes};
   Expect(dialog, "Dir1=~ File1=kůň.txt Command1!", "Label1=~/kůň.txt");
   EXPECT_EQ(text.Text(), "horse");
-  EXPECT_EQ(editor.documents.CurrentPath(), path);
-  text.SetText("mare");
-  platform.answers = {Answer::kYes};
-  Work(Open<Uloz>(), "Command1!");
-  EXPECT_EQ(platform.files[path], "mare");
-  Work(Open<Uloz>(), "Text2=htm Command1!");  // the name is still the old one
-  EXPECT_EQ(platform.files[folder.File("k\xF9\xF2.htm")], "mare");
+  Work(Open<Uloz>(), "Text2=htm Command1!");
+  EXPECT_EQ(platform.files[folder.File("k\xF9\xF2.htm")], "horse");
 }
 
 struct SaveDialogTest : FileDialogsTest {

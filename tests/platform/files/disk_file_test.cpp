@@ -34,7 +34,7 @@ void SetExtended(const std::string& path, const char* name, const std::string& v
 // A folder that everybody may write to, as a test may be anybody.
 struct OpenFolder : TempFolder {
   OpenFolder() { chmod(Path().c_str(), 0777); }
-  // "a=content b/ c>target", in the order of the names; where asked for, with all that a file has beside its content.
+  // "a=content b/ c>target", sorted by name. With facts also owner, group, permissions, links and attributes of files.
   [[nodiscard]] std::string Holds(bool with_facts = false) const {
     std::string all;
     for (const fs::path& path : std::set<fs::path>{fs::recursive_directory_iterator(Path()), {}}) {
@@ -92,7 +92,7 @@ TEST(ReadWholeFile, RefusesWhatIsNoReadableFileAndNeverWaits) {
   ASSERT_EQ(seteuid(user), 0);
 }
 
-// Gives the pieces on as they are, with an end that is cut off again.
+// Passes the pieces on unchanged. What Finish() adds is cut off again.
 struct Same : FileRewriter {
   std::string_view Rewrite(std::string_view piece) override {
     kept += piece.size();
@@ -106,7 +106,7 @@ struct Same : FileRewriter {
 
 enum class How { kSave, kKeepTail, kDropTail, kCreate };
 
-// `keep` holds the bytes as "source".
+// `keep` has a file "source" with these bytes.
 WriteOutcome Write(const std::string& path, const std::string& bytes, How how, const OpenFolder& keep) {
   if (how == How::kCreate) return {.error = CreateFile(path, bytes)};
   if (how == How::kSave) return ReplaceFile(path, bytes, keep.File(""));
@@ -116,7 +116,7 @@ WriteOutcome Write(const std::string& path, const std::string& bytes, How how, c
   return RewriteFileByPieces(keep.File("source"), path, tail, same, keep.File(""));
 }
 
-// What who doesn't mind a crash does.
+// Writes without care for crashes.
 WriteOutcome WritePlainly(const std::string& path, const std::string& bytes, How how, const OpenFolder&) {
   const int flags = O_WRONLY | (how == How::kCreate ? O_CREAT | O_EXCL : how == How::kKeepTail ? 0 : O_TRUNC);
   int file = open(path.c_str(), flags, 0600);
@@ -171,8 +171,7 @@ TEST(WriteFile, LeavesWhatPlainWritingLeavesWhateverTheFileAndTheFolderAre) {
       if (extended == 1) SetExtended(file, kNote, "from: me");
       if (extended == 2) SetExtended(file, kAccessList, kSharedList);
       if (extended == 3) SetExtended(folder.Path(), "system.posix_acl_default", kSharedList);
-      // Set-id bits go, which plain writing leaves to root, and where it has nothing to write or the group can't
-      // execute.
+      // A save clears the set-id bits. Where plain writing keeps them, both are compared without the bits.
       const bool keeps = extended == 2 || bytes.empty() || (writer == 0 && (plain || !to_file));
       ASSERT_EQ(chmod(file.c_str(), keeps ? mode & 0777 : mode), 0);
       chmod(folder.Path().c_str(), folder_mode);
@@ -198,7 +197,7 @@ TEST(WriteFile, LeavesWhatPlainWritingLeavesWhateverTheFileAndTheFolderAre) {
 // The ways of a save, for tests that cut it off at each of its calls.
 const struct Way {
   const char* what;
-  const char* steps;  // in which content, name and folder come to the disk
+  const char* steps;  // the order in which content, name and folder reach the disk
   How how = How::kSave;
   bool hard_link = false, no_unnamed = false, is_new = false;
 } kWays[] = {{"beside", "content link rename folder"},
@@ -232,14 +231,14 @@ struct CutOff {
   }
   ~CutOff() { no_unnamed_files = false; }
   [[nodiscard]] WriteOutcome Save() const { return Write(path, kNewContent, way.how, keep); }
-  // What the folder holds, but for what a save that was cut off has left beside the file.
+  // The content of the folder, without what an interrupted save has left beside the file.
   [[nodiscard]] std::string Left() const {
     const std::string all = folder.Holds();
     return all.substr(std::min(all.find("file="), all.size()));
   }
 };
 
-// Each way once for each of its calls, until `cut` says that there was no such call.
+// Cuts each way off at its first call, then at its second and so on. `cut` returns true if there was no such call.
 void ForEachCall(const std::function<bool(const CutOff& file, int number)>& cut) {
   for (const Way& way : kWays) {
     int number = 0;

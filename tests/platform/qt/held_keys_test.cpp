@@ -56,7 +56,7 @@ TEST(HeldKeys, RepeatOnlyWhereTheyEditText) {
       counter.presses = 0;
       Send(one.pressed, QEvent::KeyRelease, one.key, ++now, marked);
       if (marked) ++now;
-      // What must not arrive is none for a shortcut either; a field keeps its keys from shortcuts by itself.
+      // A press that is held back must not reach a shortcut either. A field keeps its keys from shortcuts anyway.
       const bool kept = Send(one.repeated, QEvent::ShortcutOverride, one.key, now, marked);
       EXPECT_EQ(kept, !one.arrives || &one.repeated == &field);
       Send(one.repeated, QEvent::KeyPress, one.key, now, marked);

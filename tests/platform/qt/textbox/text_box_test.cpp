@@ -10,7 +10,6 @@
 #include "platform/qt/convert.h"
 #include "platform/qt/desktop/clipboard_text.h"
 #include "platform/qt/textbox/text_box_accessible.h"
-#include "support/controls.h"
 #include "support/marked_text.h"
 #include "support/random_source.h"
 
@@ -52,7 +51,7 @@ struct TextBoxTest : testing::Test {
     event.setCommitString(QString::fromUtf8(typed), from, length);
     QApplication::sendEvent(box, &event);
   }
-  // Just right of the left border of a character, so that the caret goes before it, or that far into it.
+  // A point in the character at this position. 3 is at the left edge of character 3, 3.7 is further to the right.
   [[nodiscard]] QPoint At(double place) const {
     const QRect cell = box->CharRect(static_cast<std::size_t>(place));
     return {cell.left() + 1 + static_cast<int>(std::fmod(place, 1) * cell.width()), cell.center().y()};
@@ -212,52 +211,14 @@ TEST_F(TextBoxTest, TakesADroppedTextButNoFileAndNothingWhenReadOnly) {
   EXPECT_EQ(Document(), "a[š¶|b");
 }
 
-struct TextMenuTest : TextBoxTest {
-  using Items = std::vector<std::string>;
-
-  [[nodiscard]] QMenu* Open() const {
-    Press("Shift+F10");
-    return qobject_cast<QMenu*>(QApplication::activePopupWidget());
-  }
-  // The items, in parentheses those that can't be chosen.
-  [[nodiscard]] Items Shown() const {
-    QMenu* menu = Open();
-    Items items;
-    for (const QAction* action : menu->actions()) {
-      const std::string caption = Utf8FromQString(action->text().remove(u'&').replace(u'\t', u' ').trimmed());
-      items.push_back(action->isEnabled() ? caption : '(' + caption + ')');
-    }
-    menu->close();
-    return items;
-  }
-};
-
-TEST_F(TextMenuTest, OfAReadOnlyTextCopiesAndSelects) {
-  box->setReadOnly(true);
-  Put("a|b");
-  EXPECT_EQ(Shown(), (Items{"(Kopírovat Ctrl+C)", "", "Vybrat vše Ctrl+A"}));
-}
-
-TEST_F(TextMenuTest, OffersWhatThereIsToDo) {
-  Put("[a|");
-  Press("Ctrl+C X Alt+Backspace");
-  EXPECT_EQ(Shown(), (Items{"(Zpět Alt+Backspace)", "Znovu Alt+Shift+Backspace", "", "Vyjmout Ctrl+X",
-                            "Kopírovat Ctrl+C", "Vložit Ctrl+V", "Smazat Del", "", "Vybrat vše Ctrl+A"}));
-}
-
-TEST_F(TextMenuTest, PastesTextOfAnotherProgram) {
-  QGuiApplication::clipboard()->setText(QStringLiteral("theirs"));
-  Put("a[b|");
-  QMenu* menu = Open();
-  menu->actions().at(5)->trigger();
-  menu->close();
-  EXPECT_EQ(Document(), "atheirs|");
-}
-
-TEST_F(TextMenuTest, IsLeftToTheWindowThatAsksForIt) {
+TEST_F(TextBoxTest, ItsMenuIsLeftToTheWindowThatAsksForIt) {
   const QSignalSpy asked(box, &QWidget::customContextMenuRequested);
+  Press("Shift+F10");
+  ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+  QApplication::activePopupWidget()->close();
   box->setContextMenuPolicy(Qt::CustomContextMenu);
-  EXPECT_EQ(Open(), nullptr);
+  Press("Shift+F10");
+  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
   EXPECT_EQ(asked.count(), 1);
 }
 
@@ -273,20 +234,6 @@ TEST_F(TextBoxTest, TabGoesOnWhereItIsNotTyped) {
   box->setFocus();
   Press("Tab");
   EXPECT_TRUE(behind.hasFocus());
-}
-
-TEST_F(TextBoxTest, TabIntoTheBoxSelectsTheWholeTextWhereItShall) {
-  QLineEdit before(&window);
-  before.show();
-  QWidget::setTabOrder(&before, box);
-  Put("a|b");
-  for (const bool selects : {false, true}) {
-    box->setTabSelectsAll(selects);
-    Press("Shift+Backtab");
-    EXPECT_TRUE(before.hasFocus());
-    QTest::keyClick(&before, Qt::Key_Tab);
-    EXPECT_EQ(Document(), selects ? "[ab|" : "a|b");
-  }
 }
 
 // True where a pixel of the rectangle differs from the background.
@@ -366,16 +313,6 @@ TEST_F(TextBoxTest, KeysScrollByPagesAndWithCtrlByRows) {
   EXPECT_EQ(box->SelStart(), 0);
 }
 
-TEST_F(TextBoxTest, LaysAHiddenTextOutWhenItShowsWithTheCaretInSight) {
-  window.hide();
-  SetRows(500);
-  EXPECT_EQ(box->verticalScrollBar()->maximum(), 0);  // a long text would take a while
-  box->SetSelStart(1'000'000);
-  window.show();
-  EXPECT_TRUE(CaretInSight());
-  EXPECT_EQ(box->PlaceAt(box->CaretRect().center()).pos, box->Buffer().Size());
-}
-
 TEST_F(TextBoxTest, ShowsABufferThatAnotherListenerChangesInBetween) {
   TextBuffer buffer;
   const Listening heard = buffer.OnChange([&](const TextChange& change) {  // notified before the box
@@ -407,18 +344,6 @@ TEST_F(TextBoxTest, FollowsItsBufferUntilItGetsAnother) {
   first.SetText("alone");
 }
 
-TEST_F(TextBoxTest, TheWheelScrollsByLinesOrPixelsAndLeavesZoomingToTheWindow) {
-  QWidget& area = *box->viewport();
-  const QScrollBar& down = *box->verticalScrollBar();
-  SetRows(60);
-  EXPECT_TRUE(RollWheel(area, {}, {0, -120}));
-  const int rows = QApplication::wheelScrollLines() * down.singleStep();
-  EXPECT_EQ(down.value(), rows);
-  EXPECT_TRUE(RollWheel(area, {0, -7}, {0, -56}));
-  EXPECT_TRUE(down.value() == rows + 7 || QGuiApplication::platformName() == QStringLiteral("xcb"));
-  EXPECT_FALSE(RollWheel(area, {}, {0, -120}, Qt::ControlModifier));
-}
-
 TEST(MoveSelection, EqualsCutAndPasteAndIsUndoneInOneStep) {
   RandomSource random(1);
   for (int round = 0; round < 500; ++round) {
@@ -439,23 +364,6 @@ TEST(MoveSelection, EqualsCutAndPasteAndIsUndoneInOneStep) {
     if (expected != text) buffer.Undo();
     ASSERT_EQ(buffer.Text() + std::string(buffer.SelText()), text + moved);
   }
-}
-
-TEST_F(TextBoxTest, InputMethodsSeeTheTextAroundTheCaretOnly) {
-  const std::string most(512, 'a'), before = most.substr(1);
-  box->Buffer().SetText("first\r\n" + std::string(4000, 'b') + most + "\xE9" + most + std::string(4000, 'b') +
-                        "\r\nlast");
-  box->SetSelStart(4519);
-  Press("Shift+Right");
-  const auto answer = [&](Qt::InputMethodQuery query) { return box->inputMethodQuery(query); };
-  EXPECT_EQ(answer(Qt::ImTextBeforeCursor).toString().toStdString(), before + "é");
-  EXPECT_EQ(answer(Qt::ImTextAfterCursor).toString().toStdString(), most);
-  EXPECT_EQ(answer(Qt::ImCursorPosition).toInt(), 512);
-  EXPECT_EQ(answer(Qt::ImAnchorPosition).toInt(), 511);
-  EXPECT_EQ(answer(Qt::ImSurroundingText).toString().toStdString(), before + "é" + most);
-  EXPECT_EQ(answer(Qt::ImCursorRectangle).toRect(), box->CaretRect().translated(box->viewport()->pos()));
-  box->setReadOnly(true);
-  EXPECT_FALSE(answer(Qt::ImEnabled).toBool());
 }
 
 // A screen reader that knows the text by its notifications alone. No test platform has one at work.
