@@ -163,21 +163,18 @@ TEST(ReadNumber, PrefixesAreTwosComplement) {
   for (const auto& [text, number] : cases) EXPECT_EQ(ReadNumber(text), number) << text;
 }
 
-enum class Typed { kDecimal, kHexadecimal, kOctal };
-
-std::optional<std::int32_t> ConvertTyped(Converter& converter, Typed typed, std::string_view digits) {
-  std::string Converter::*const field = typed == Typed::kDecimal       ? &Converter::decimal
-                                        : typed == Typed::kHexadecimal ? &Converter::hexadecimal
-                                                                       : &Converter::octal;
-  for (const char digit : digits) converter.Digit(field, digit);
-  if (typed == Typed::kDecimal) return converter.FromDecimal();
-  return typed == Typed::kHexadecimal ? converter.FromHex() : converter.FromOct();
-}
+// A field of the converter and the conversion from it.
+struct Base {
+  std::string Converter::*field;
+  std::optional<std::int32_t> (Converter::*convert)();
+};
+constexpr Base kDecimal{&Converter::decimal, &Converter::FromDecimal};
+constexpr Base kHexadecimal{&Converter::hexadecimal, &Converter::FromHex};
+constexpr Base kOctal{&Converter::octal, &Converter::FromOct};
 
 TEST(Converter, FillsTheOtherFields) {
-  using enum Typed;
   const struct {
-    Typed typed;
+    Base from;
     const char *digits, *decimal, *hexadecimal, *octal;
     std::optional<int> roman;  // the number whose Roman form is shown
   } cases[] = {
@@ -196,7 +193,8 @@ TEST(Converter, FillsTheOtherFields) {
   };
   for (const auto& c : cases) {
     Converter converter;
-    EXPECT_EQ(ConvertTyped(converter, c.typed, c.digits), c.roman) << c.digits;
+    for (const char digit : std::string(c.digits)) converter.Digit(c.from.field, digit);
+    EXPECT_EQ((converter.*c.from.convert)(), c.roman) << c.digits;
     EXPECT_EQ(converter.decimal, c.decimal) << c.digits;
     EXPECT_EQ(converter.hexadecimal, c.hexadecimal) << c.digits;
     EXPECT_EQ(converter.octal, c.octal) << c.digits;

@@ -25,16 +25,6 @@ TEST(AnalyseText, RanksByCountAndThenByCode) {
   EXPECT_EQ(rows[254], "255 00000 000,00 254 \"\xFE\"");
 }
 
-TEST(AnalyseText, RoundsHalvesOfAHundredthUp) {
-  EXPECT_EQ(AnalysisRows(AnalyseText(std::string(799, 'b') + 'a'))[1], "002 00001 000,13 097 \"a\"");  // of 0.125
-}
-
-TEST(AnalyseText, TheCharacterOfALongRowIsFoundToo) {
-  const std::string row = AnalysisRows(AnalyseText(std::string(100000, 'q')))[0];
-  EXPECT_EQ(row, "001 100000 100,00 113 \"q\"");
-  EXPECT_EQ(CharOfRow(row), 'q');
-}
-
 struct Rising {
   int x;
   long height;
@@ -111,22 +101,13 @@ TEST(Morse, EncodesEachCharacter) {
   for (const auto& [text, morse] : cases) EXPECT_EQ(TextToMorse(text), morse) << text;
 }
 
-struct MorseCommandTest : testing::Test {
+TEST(MorseCommand, RewritesTheSelection) {
   ScriptedPlatform platform;
-  WholeEditor editor{platform};
-};
-
-TEST_F(MorseCommandTest, RewritesTheSelection) {
+  WholeEditor editor(platform);
   PutMarked(editor.text, "x [sos| y");
   editor.commands.Run("mnuMakeMorse");
   EXPECT_EQ(Marked(editor.text), "x .../---/.../| y");
   EXPECT_EQ(platform.calls, (std::vector<std::string>{"arrow 1", "arrow 0"}));
-}
-
-TEST_F(MorseCommandTest, WithoutASelectionChangesNothing) {
-  PutMarked(editor.text, "x |sos y");
-  editor.commands.Run("mnuMakeMorse");
-  EXPECT_EQ(Marked(editor.text), "x |sos y");
 }
 
 }  // namespace

@@ -1,5 +1,4 @@
 // The calculator and its converter of numbers, beside the editor and alone.
-#include <QLineEdit>
 #include <QSignalSpy>
 
 #include "accessories/windows/kalkul.h"
@@ -76,10 +75,6 @@ TEST_F(KalkulTest, TypedCharactersPressTheirKeys) {
   ExpectState(kalkul, "Cislo:\x7f", "Cislo=0");
 }
 
-TEST_F(KalkulTest, ATypedOperatorDoesNothingWhileItsKeyIsDisabled) {
-  ExpectState(kalkul, "Cislo:25/5+2", "Label2=25 Label1=/ Cislo=52");
-}
-
 TEST_F(KalkulTest, InsertsTheNumberBeforeTheSelection) {
   ExpectDocument("mnucalk", "Command4! Command19!", "x[y|", "x4|y");
 }
@@ -148,17 +143,6 @@ TEST_F(PrevTest, ANewConversionGivesUpTheOneAtWork) {
   Inside([this] { Work(prev, "Label1:\b\b\b\b\b\b\b\b\r"); });
   ExpectState(prev, "Label1:999999999\r", "Label1=9 Label3=9 Label6=11 Label8=VIIII");
   EXPECT_EQ(roman.count(), 1);
-}
-
-TEST_F(PrevTest, HidingGivesUpTheConversionAtWork) {
-  Inside([this] { prev.hide(); });
-  ExpectState(prev, "Label1:999999999\r", "Label1=999999999 Label8=");
-}
-
-TEST_F(PrevTest, TheDocumentGetsMoreLettersThanTheFieldCanShow) {
-  Work(prev, "Label1:99999999\r Command46!");
-  EXPECT_EQ(text.Size(), 99999u + 15);
-  EXPECT_EQ(Find<QLineEdit>(prev, "Label8")->text().size(), 32767);
 }
 
 struct CalculatorAloneTest : ProgramTest {

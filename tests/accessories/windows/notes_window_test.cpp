@@ -1,6 +1,4 @@
 // The notes window: its pages, its file, the rescue of unsaved notes, its place.
-#include <QTimer>
-
 #include "accessories/windows/poznamka.h"
 #include "platform/qt/frames/outer_geometry.h"
 #include "support/printed_places.h"
@@ -65,20 +63,8 @@ TEST_F(NotesWindowTest, EachTabShowsItsPage) {
   ExpectState(*notes, "TabStrip1=0", "Text1='my first'");
 }
 
-// A Czech keyboard has other characters on the keys of the digits. Code 10 + n is the key of the digit n.
-TEST_F(NotesWindowTest, AltAndTheKeyOfADigitChangeThePage) {
-  OpenOver({});
-  for (const auto& [code, state] : {std::pair(11U, "TabStrip1=1"), {14U, "TabStrip1=4"}, {15U, "TabStrip1=4"}}) {
-    QKeyEvent press(QEvent::KeyPress, Qt::Key_Plus, Qt::AltModifier, code, 0, 0, QStringLiteral("+"));
-    QCoreApplication::sendEvent(Named(*notes, "Text1"), &press);
-    ExpectState(*notes, "", state);
-  }
-}
-
 TEST_F(NotesWindowTest, TheToolbarCopiesAndPastesTheSelection) {
   OpenOver({});
-  EXPECT_EQ(notes->findChild<QAction*>(QStringLiteral("Copy"))->toolTip(),
-            QStringLiteral("Kopírovat výbět"));  // required
   PutMarked(notes->Buffer(), "[one| two");
   Work(*notes, "Copy!");
   EXPECT_EQ(platform.clipboard, "one");
@@ -117,13 +103,6 @@ TEST_F(NotesWindowTest, AloneTheCloseStoresThenAsksAndANoKeepsTheWindow) {
   EXPECT_FALSE(notes->close());
   EXPECT_TRUE(notes->isVisible());
   EXPECT_EQ(platform.calls.back(), R"(message 276 "OPRAVDU UKONČIT Poznámky (Pelmar VEX) ?" "Konec")");
-}
-
-TEST_F(NotesWindowTest, AloneAYesEndsTheProgram) {
-  RunAloneOver({});
-  platform.answers = {Answer::kYes};
-  EXPECT_TRUE(notes->close());
-  EXPECT_EQ(QCoreApplication::exec(), 0);
 }
 
 TEST_F(NotesWindowTest, APageThatAnotherCopyStoredMeanwhileStays) {
@@ -183,11 +162,8 @@ TEST_F(NotesWindowTest, TheMenuStoresAndRestoresTheCheckpoint) {
 }
 
 struct NotesPlaceTest : NotesWindowTest {
-  QTimer* timer = nullptr;
-
   NotesPlaceTest() {
     OpenOver({});
-    timer = notes->findChild<QTimer*>(QStringLiteral("Timer1"));
     EXPECT_TRUE(QTest::qWaitForWindowExposed(notes));
   }
   void WaitForPlace(const TwipsRect& place) const {
@@ -216,14 +192,6 @@ TEST_F(NotesPlaceTest, DocksBesideTheMainWindow) {
   const TwipsRect place = main.Place();
   const int right = place.left + place.width;
   WaitForPlace({right, place.top, ScreenTwips(*notes).width - right, place.height});
-}
-
-TEST_F(NotesPlaceTest, TheTimerIsFastOnlyAfterAMoveAndStopsWhileHidden) {
-  EXPECT_TRUE(QTest::qWaitFor([this] { return timer->interval() > 10; }));
-  SetOuterPlace(*notes, {1500, 1500, 4500, 4500});
-  EXPECT_EQ(timer->interval(), 10);
-  notes->hide();
-  EXPECT_FALSE(timer->isActive());
 }
 
 }  // namespace

@@ -1,5 +1,4 @@
 // The windows that type into the document: Morse, the keyboard on the screen, the table of characters.
-#include <QAccessible>
 #include <QLineEdit>
 
 #include "accessories/windows/klavesnice.h"
@@ -160,15 +159,6 @@ TEST_F(CharTableTest, TheCellOfCodeZeroIsEmpty) {
   EXPECT_FALSE(cell(9) == cell(' '));
 }
 
-TEST_F(CharTableTest, AScreenReaderReadsTheCells) {
-  EXPECT_EQ(QAccessible::queryAccessibleInterface(grid)->child(65)->text(QAccessible::Name),
-            QStringLiteral("A, kód 65"));
-}
-
-TEST_F(CharTableTest, TheTableBeginsInTheFontThatItsFieldNames) {
-  EXPECT_EQ(grid->font().family(), Find<QComboBox>(kod, "Combo1")->currentText());
-}
-
 TEST_F(CharTableTest, AFontGoesToAllThatShowsCharactersAndItsNameStaysAsTyped) {
   ExpectState(kod, "Option3! Combo1= Combo1:Courier", "Combo1=Courier");
   for (const char* name : {"Picture1", "Picture2", "Label2", "Text1"})
@@ -182,26 +172,11 @@ TEST_F(CharTableTest, TypedKeysEditTheDocument) {
   ExpectState(kod, "", "Text1=AA");
 }
 
-TEST_F(CharTableTest, AHeldEnterGoesOnInTheDocument) {
-  grid->setFocus();
-  for (const bool repeat : {false, true}) {
-    QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"), repeat);
-    QSpontaneKeyEvent::setSpontaneous(&press);
-    qApp->notify(grid, &press);
-  }
-  EXPECT_EQ(Marked(text), "¶¶|");
-}
-
 TEST_F(CharTableTest, ControlAndEnterInsertTheCellThatTheArrowsMarked) {
   PutMarked(text, "[ab|c");
   Work(kod, "Picture1:→↓");
   QTest::keyClick(grid, Qt::Key_Return, Qt::ControlModifier);
   EXPECT_EQ(Marked(text), "\x10|abc");
-}
-
-TEST_F(CharTableTest, ComposedLettersAreTyped) {
-  Compose(grid, QStringLiteral("ň"));
-  EXPECT_EQ(text.Text(), "ň"_w);
 }
 
 TEST_F(CharTableTest, KeysTypedInTheFieldGoIntoTheDocumentTooIfClicksDo) {
