@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "accessories/notes.h"
 #include "platform/runtime_error.h"
 #include "program/session.h"
 #include "shell/rescued_documents.h"
@@ -46,24 +45,6 @@ TEST_F(DocumentsTest, ASwitchKeepsTextPathAndMarkOfTheTabItLeaves) {
   EXPECT_EQ(text.Text(), "one!");
   EXPECT_EQ(text.Caret(), 0u);
   EXPECT_FALSE(text.CanUndo());
-}
-
-TEST_F(DocumentsTest, TheSelectedTabChosenAgainChangesNothing) {
-  documents.MakeCurrent("/a/one.txt", "one");
-  Type("!");
-  const DocumentState before = StateOf(documents);
-  EXPECT_EQ(SwitchTo(1), before);
-  EXPECT_EQ(text.Caret(), 4u);
-  EXPECT_TRUE(text.CanUndo());
-}
-
-TEST_F(DocumentsTest, ATabThatAPersonEmptiedIsNotFree) {
-  EXPECT_EQ(documents.EmptyTab(), 2);
-  documents.SwitchTo(2);
-  Type("x");
-  text.SetText("");
-  documents.SwitchTo(1);
-  EXPECT_EQ(documents.EmptyTab(), 3);
 }
 
 // required: the change that a switch raises still writes the path of the tab that was left
@@ -126,12 +107,6 @@ TEST_F(DocumentsTest, RescueKeepsTheUnsavedDocumentsAndBringsThemBack) {
   EXPECT_EQ(TextsOf(later.documents), "one!|||never saved||");
   EXPECT_EQ(StateOf(later.documents), (DocumentState{.title = "()*", .flagged = true, .unsaved = 2}));
   EXPECT_EQ(later.SwitchTo(1), (DocumentState{"(/a/one.txt)*", "one.txt", "/a/one.txt", "", true, 2}));
-}
-
-TEST_F(DocumentsTest, ARestoredDocumentIsShownAndUnsaved) {
-  documents.Restore(2, "text", "/a/b.txt");
-  EXPECT_EQ(documents.Title(), "Pelmar VEX (/a/b.txt)*");
-  EXPECT_EQ(documents.SelectedTab(), 2);
 }
 
 TEST_F(DocumentsTest, RescueNeverOverwritesADocumentOfThisRun) {
