@@ -91,13 +91,6 @@ TEST(MergeNotes, BothTextsOfAPageThatBothSidesChangedAreKept) {
             std::pair(NotesRecord{{"1\r\n\r\nONE", "TWO", "3", "FOUR", "5"}}, 1));
 }
 
-TEST(NotesRescue, KeepsThePagesThatDifferFromTheFile) {
-  NotesRecord now = kStored;
-  now.Page(1) = "new";
-  now.Page(3).clear();
-  EXPECT_EQ(NotesToKeep(kStored, now, 3), (RescueRecord{3, {{1, "a\r\n", "new"}, {3, std::string(258, 'x'), ""}}}));
-}
-
 TEST(NotesRescue, BringsAPageBackToItsPlaceOrToAnEmptyOneAndReturnsTheRest) {
   NotesRecord record{{"one", "two", "", "four", "five"}};
   const std::vector<RescueRecord> unsaved = {
@@ -156,7 +149,6 @@ TEST(PlaceNotes, SnapsOrDocksOnEitherScreen) {
   const TwipsRect edge{100, 300, 6000, 4000};
   const std::tuple<const char*, NotesSurroundings, TwipsRect> kCases[] = {
       {"free", Around({300, 300, 6000, 4000}), {300, 300, 6000, 4000}},
-      {"just within the distance", Around({239, 239, 6000, 4000}), {0, 0, 6000, 4000}},
       {"right and bottom", Around({13000, 11200, 6000, 4000}, kEditor, false, kMaximised), {13200, 11360, 6000, 4000}},
       {"docked", Around(edge, kEditor, true), {13500, 600, 5700, 9000}},
       {"docked beside a minimised one", Around(edge, kEditor, true, kMinimised), {0, 300, 6000, 4000}},

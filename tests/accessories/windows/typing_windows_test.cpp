@@ -69,12 +69,6 @@ TEST_F(KeyboardTest, BothShiftKeysAreOneState) {
 
 TEST_F(KeyboardTest, AKeyTypesBeforeTheSelection) { ExpectDocument("mnuklavesnice", "Command18!", "a[bc|d", "ah|bcd"); }
 
-TEST_F(KeyboardTest, TheSpaceBarClicksTheKeyThatTheArrowsFocusedAndEnterIsTyped) {
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&keyboard));
-  Work(keyboard, "Command3:'→ \r'");
-  EXPECT_EQ(text.Text(), "w\r");
-}
-
 TEST_F(KeyboardTest, PhysicalKeysTypeTheirCharacters) {
   Work(keyboard, "Check1!");
   QTest::keyClicks(&keyboard, QStringLiteral("a 1\r\b"));
@@ -85,13 +79,6 @@ TEST_F(KeyboardTest, ComposedLettersAreTyped) {
   Compose(&keyboard, QStringLiteral("ň"));
   Compose(Named(keyboard, "Command3"), QStringLiteral("ďo\u0301😀"));
   EXPECT_EQ(text.Text(), "ňďó?"_w);
-}
-
-TEST_F(KeyboardTest, AClickDoesNotFocusTheKey) {
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&keyboard));
-  QTest::mouseClick(Named(keyboard, "Command3"), Qt::LeftButton);
-  EXPECT_EQ(text.Text(), "q");
-  EXPECT_EQ(keyboard.focusWidget(), &keyboard);
 }
 
 struct CharTableTest : ProgramTest {
@@ -170,13 +157,6 @@ TEST_F(CharTableTest, TypedKeysEditTheDocument) {
   ExpectDocument("mnuASCII", "Picture1:→↓\r", "[ab|c", "¶|c");                 // required: Enter on a marked cell too
   ExpectDocument("mnuASCII", "HScroll1=65 Command3:'\r '", "[ab|c", "[ab|c");  // they click the button
   ExpectState(kod, "", "Text1=AA");
-}
-
-TEST_F(CharTableTest, ControlAndEnterInsertTheCellThatTheArrowsMarked) {
-  PutMarked(text, "[ab|c");
-  Work(kod, "Picture1:→↓");
-  QTest::keyClick(grid, Qt::Key_Return, Qt::ControlModifier);
-  EXPECT_EQ(Marked(text), "\x10|abc");
 }
 
 TEST_F(CharTableTest, KeysTypedInTheFieldGoIntoTheDocumentTooIfClicksDo) {
