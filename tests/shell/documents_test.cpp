@@ -24,7 +24,13 @@ struct Desk {
   }
 };
 
-struct DocumentsTest : testing::Test, Desk {};
+struct DocumentsTest : testing::Test, Desk {
+  // What the save dialog begins with.
+  std::string Primed() {
+    const SaveTarget& target = documents.Target();
+    return target.Path() + ' ' + target.Folder() + ' ' + target.Name() + ' ' + target.Extension();
+  }
+};
 
 TEST_F(DocumentsTest, AChangeMarksTheTitleAlone) {
   EXPECT_EQ(StateOf(documents), DocumentState{.title = "()"});
@@ -67,14 +73,7 @@ TEST_F(DocumentsTest, ClearingADocumentLeavesItsPathInTheSlot) {
   EXPECT_EQ(documents.CurrentPath(), "");
 }
 
-struct SaveTargetTest : DocumentsTest {
-  std::string Primed() {
-    const SaveTarget& target = documents.Target();
-    return target.Path() + ' ' + target.Folder() + ' ' + target.Name() + ' ' + target.Extension();
-  }
-};
-
-TEST_F(SaveTargetTest, OnlyADocumentWithAPathPrimesTheSaveDialog) {
+TEST_F(DocumentsTest, OnlyADocumentWithAPathPrimesTheSaveDialog) {
   documents.MakeCurrent("/a/one.txt", "one");
   documents.SwitchTo(2);
   documents.Target().Prime("/b/kept.txt");
@@ -84,7 +83,7 @@ TEST_F(SaveTargetTest, OnlyADocumentWithAPathPrimesTheSaveDialog) {
   EXPECT_EQ(Primed(), "/a/one.txt /a/ one txt");
 }
 
-TEST_F(SaveTargetTest, ANameWithoutDotPrimesHalfOfIt) {  // required
+TEST_F(DocumentsTest, ANameWithoutDotPrimesHalfOfIt) {  // required
   documents.Target().Prime("/a/one.txt");
   EXPECT_THROW(documents.Target().Prime("/b/README"), RuntimeError);
   EXPECT_EQ(Primed(), "/b/README /b/ one txt");

@@ -84,44 +84,25 @@ TEST_F(RescueKeeperTest, TheLastResortIsANewFileOfADrawnName) {
   EXPECT_EQ(platform.calls.size(), 2u);
 }
 
-struct EndByErrorTest : RescueKeeperTest {
-  // The last message of a program that an error ends.
-  std::string Message(const char* tail, const char* typed) {
-    Program program(platform);
-    platform.answers = {Answer::kOk};
-    try {
-      program.Run(tail);
-      program.Main().Box().Buffer().Type(typed);
-      throw RuntimeError(5, "Chyba");
-    } catch (const RuntimeError& error) {
-      program.ReportRuntimeError(error);
-    }
-    return platform.calls.back();
-  }
-};
-
-TEST_F(EndByErrorTest, ShowsTheFileThatKeepsTheWork) {
-  const std::string message = Message("-NOMSG", "typed"), own = platform.calls[0].substr(6);
+TEST_F(RescueKeeperTest, TheMessageOfAnErrorNamesTheFileThatKeepsTheWork) {
+  Program program(platform);
+  program.Run("-NOMSG");
+  program.Main().Box().Buffer().Type("typed");
+  platform.answers = {Answer::kOk};
+  program.ReportRuntimeError(RuntimeError(5, "Chyba"));
+  const std::string own = platform.calls.front().substr(6);
   EXPECT_EQ(Texts(own), "Soubor:\r\ntyped\r\n\r\n");
-  EXPECT_EQ(message, "message 0 \"Běhová chyba 5:\r\nChyba\r\n\r\nNeuložené dokumenty jsou zachovány v souboru\r\n" +
-                         own +
-                         "\r\nPříští start programu je nabídne zpět.\r\n\r\nProgram bude ukončen.\" \"Pelmar VEX\"");
+  EXPECT_EQ(platform.calls.back(),
+            "message 0 \"Běhová chyba 5:\r\nChyba\r\n\r\nNeuložené dokumenty jsou zachovány v souboru\r\n" + own +
+                "\r\nPříští start programu je nabídne zpět.\r\n\r\nProgram bude ukončen.\" \"Pelmar VEX\"");
 }
 
-struct KeeperTest : RescueKeeperTest {
+// Files of copies that crashed. Two hold the same text, and one is torn.
+struct OfferTest : RescueKeeperTest {
   TextBuffer box;
   Documents documents{box};
   DocumentsRescue unsaved{documents};
   RescueKeeper keeper{unsaved, platform};
-
-  void PutOldFile(const std::string& path, const std::string& bytes) {
-    platform.files[path] = bytes;
-    std::ofstream touched(path);
-  }
-};
-
-// Files of copies that crashed. Two hold the same text, and one is torn.
-struct OfferTest : KeeperTest {
   const std::string bytes = RescueBytes(kDocumentsRescue, {2, {{2, "/a.txt", "lost"}}}),
                     readable = "Soubor:/a.txt\r\nlost\r\n\r\n", old = folder.File("rescue-1-1.pelmar"),
                     twin = folder.File("rescue-2-1.pelmar"), torn = folder.File("rescue-3-1.pelmar"),
@@ -136,6 +117,10 @@ struct OfferTest : KeeperTest {
     PutOldFile(old, bytes);
     PutOldFile(twin, bytes);
     PutOldFile(torn, bytes.substr(1));
+  }
+  void PutOldFile(const std::string& path, const std::string& content) {
+    platform.files[path] = content;
+    std::ofstream touched(path);
   }
   [[nodiscard]] bool OldFilesAreThere() const {
     EXPECT_EQ(std::filesystem::exists(old), std::filesystem::exists(twin));
