@@ -18,7 +18,7 @@ struct CalculatorTest : testing::Test {
   ScriptedPlatform platform;
   Calculator calculator{platform};
 
-  // The last message, which is then forgotten; "" if there was none.
+  // Returns the last message and forgets it. Empty if there was none.
   std::string TakeMessage() {
     const std::vector<std::string> calls = platform.TakeCalls();
     return calls.empty() ? "" : calls.back();
@@ -51,11 +51,11 @@ TEST_F(CalculatorTest, OperatorsComputeOrShowAMessage) {
       {"5", '-', "7", "-2"},
       {"99999999", '*', "99999999", "9,9999998E+15"},
       {"7", '/', "0", "0", kNoDivision},
-      {"7", '/', ",", ",", kNoDivision},  // a comma alone is a number
+      {"7", '/', ",", ",", kNoDivision},  // a comma alone is 0
       {"5", 'L', "0", "0", kNoResult},
       {"-2", '^', "0,5", "0,5", kNoResult},
       {"10", '^', "999", "999", kNoResult},
-      {"1", '+', "2.718282", "2.718282", kNoResult},  // can't be read any more
+      {"1", '+', "2.718282", "2.718282", kNoResult},  // no number, because it has a decimal point
       {"2.718282", '+', "1", "1", kNoResult},
   };
   for (const auto& c : cases) {
@@ -156,7 +156,7 @@ TEST(Converter, FillsTheOtherFields) {
       {kDecimal, "999999999", "999999999", "3B9AC9FF", "7346544777", 999999999},
       {kDecimal, "1234567890", "123456789", "75BCD15", "726746425", 123456789},  // the tenth digit doesn't stay
       {kHexadecimal, "FFFF", "-1", "FFFF", "37777777777", -1},
-      // Ten characters and more are cut in the decimal field, which the Roman form follows.
+      // The decimal field keeps nine characters of a longer number. The Roman form is that of the field.
       {kHexadecimal, "7FFFFFFF", "214748364", "7FFFFFFF", "17777777777", 214748364},
       {kHexadecimal, "80000000", "-21474836", "80000000", "20000000000", -21474836},
       {kHexadecimal, "FFFFFFFFFF", "0", "FFFFFFFFF", "0", std::nullopt},  // too large

@@ -69,24 +69,24 @@ TEST_F(NotesOnDisk, AnUnreadableFileIsNotOverwritten) {
   EXPECT_EQ(platform.files[kPath], "kept");
 }
 
-// The pages here, merged into what another copy has stored since they were read, and the number of a page whose both
-// texts were kept, or 0.
+// Merges the pages here into the file that another copy has stored since. Both began with the same pages. The number is
+// that of a page of which both texts are kept, or 0.
 std::pair<NotesRecord, int> Merged(const NotesRecord& here, const NotesRecord& file) {
   const MergedNotes merged = MergeNotes(here, {{"one", "two", "", "four", "five"}}, file);
   return {merged.record, merged.twice};
 }
 
-TEST(MergeNotes, ThePagesThatOneSideChangedAreThatSides) {
+TEST(MergeNotes, APageThatOneSideChangedComesFromThatSide) {
   EXPECT_EQ(Merged({{"one", "two", "", "four", "five"}}, {{"1", "", "3"}}), std::pair(NotesRecord{{"1", "", "3"}}, 0));
   const NotesRecord changed{{"ONE", "TWO", "", "FOUR", ""}};
   EXPECT_EQ(Merged(changed, {{"one", "two", "", "four", "five"}}), std::pair(changed, 0));
 }
 
-TEST(MergeNotes, BothTextsOfAPageThatBothSidesChangedAreKept) {
+TEST(MergeNotes, OfAPageThatBothSidesChangedBothTextsAreKept) {
   const NotesRecord here{{"ONE", "TWO", "", "FOUR", ""}};
-  // The second goes to the empty page. The fourth is the same on both sides. An emptied page gives way.
+  // Page 2 goes to the empty page. Page 4 is the same on both sides. The emptied page 5 gives way.
   EXPECT_EQ(Merged(here, {{"one", "2", "", "FOUR", "5"}}), std::pair(NotesRecord{{"ONE", "2", "TWO", "FOUR", "5"}}, 2));
-  // Without an empty page both stand in one.
+  // Without an empty page, both texts are in one page.
   EXPECT_EQ(Merged(here, {{"1", "two", "3", "four", "5"}}),
             std::pair(NotesRecord{{"1\r\n\r\nONE", "TWO", "3", "FOUR", "5"}}, 1));
 }

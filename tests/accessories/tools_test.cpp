@@ -13,7 +13,7 @@ namespace pelmar {
 namespace {
 
 TEST(AnalyseText, RanksByCountAndThenByCode) {
-  // The code 0 counts in the length alone.
+  // A character of code 0 counts only in the length.
   const auto rows = AnalysisRows(AnalyseText(std::string_view("bbb aa\xFF\xFF\n\0", 10)));
   ASSERT_EQ(rows.size(), 255u);
   EXPECT_EQ(rows[0], "001 00003 030,00 098 \"b\"");
@@ -40,7 +40,7 @@ TEST(GraphBars, TheWideGraphShowsWhatOccurs) {
 
 TEST(GraphBars, TheNarrowGraphLeavesOutWhatOccursOnce) {  // required
   EXPECT_EQ(Bars("aaaabbc\xFF\xFF", false), (Graph{{388, 200}, {392, 100}}));
-  EXPECT_EQ(Bars("aa\xFF\xFF\xFF\xFF", false), (Graph{{388, 100}}));  // the highest may stand beyond the graph
+  EXPECT_EQ(Bars("aa\xFF\xFF\xFF\xFF", false), (Graph{{388, 100}}));  // the most frequent code is not in this graph
   EXPECT_EQ(GraphBars(AnalyseText("x"), false, false).size(), 127u);
 }
 

@@ -14,7 +14,7 @@ namespace {
 constexpr const char* kRecovery = "/install/autosave_pelmar_vex.txt";
 constexpr const char* kSettings = "/install/pelmar.ini";
 
-// The editor under a plain window. The calls of the window and of the start's doors stand in one list.
+// The editor with a plain window. One list has the calls of the window and of the session's doors in order.
 struct Desk {
   ScriptedPlatform platform;
   WholeEditor editor{platform};
@@ -40,7 +40,7 @@ struct Desk {
   }
 };
 
-// In the order of the file: 9,000 by 6,000 twips at 150 from the left and 300 from the top.
+// The fields are in the order of the file: 9,000 by 6,000 twips at 150 from the left and 300 from the top.
 const SettingsRecord kStored{9000,  6000,  300,   150,      false, "Font", 1,  2, 12,
                              false, false, "Jan", "j@x.cz", false, 0,      "", {}};
 
@@ -119,7 +119,7 @@ TEST(Session, TheTextComesFromTheRecoveryFileOrTheClipboard) {
     one.Start();
     EXPECT_EQ(one.editor.text.Text().substr(0, 10), text.substr(0, 10));
     EXPECT_EQ(one.editor.text.Size(), text.size());
-    EXPECT_TRUE(one.session.Close());  // without a question: what came is no change
+    EXPECT_TRUE(one.session.Close());  // without a question, because loaded text is no change
   }
 }
 
@@ -169,7 +169,7 @@ TEST_F(SessionTest, TheCloseWritesTheFilesBeforeItAsks) {
 
 TEST_F(SessionTest, TheCloseStoresPlaceStateAndLookOverTheOldSettings) {
   platform.files[kSettings] = std::string(200, 'T');
-  view.place = {150, 300, 9000, 6000};  // all as kStored has it but for state and bold
+  view.place = {150, 300, 9000, 6000};  // as in kStored, except for state and bold
   view.state = WindowMode::kMaximised;
   view.look = {"Font", 1, 2, 11.6, true, false};
   EXPECT_TRUE(session.Close());

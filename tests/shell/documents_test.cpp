@@ -32,7 +32,7 @@ struct DocumentsTest : testing::Test, Desk {
   }
 };
 
-TEST_F(DocumentsTest, AChangeMarksTheTitleAlone) {
+TEST_F(DocumentsTest, AChangeMarksOnlyTheTitle) {
   EXPECT_EQ(StateOf(documents), DocumentState{.title = "()"});
   Type("a");
   EXPECT_EQ(StateOf(documents), (DocumentState{.title = "()*", .unsaved = 1}));
@@ -46,7 +46,7 @@ TEST_F(DocumentsTest, ASwitchKeepsTextPathAndMarkOfTheTabItLeaves) {
   EXPECT_EQ(SwitchTo(3), (DocumentState{.title = "()", .slot_path = "/a/one.txt", .unsaved = 1}));
   EXPECT_EQ(text.Text(), "");
   Type("three");
-  // Unsaved by its flag and by the title, but counted once.
+  // Tab 1 is unsaved by its flag and by the title, but counted once.
   EXPECT_EQ(SwitchTo(1), (DocumentState{"(/a/one.txt)*", "one.txt", "/a/one.txt", "", true, 2}));
   EXPECT_EQ(text.Text(), "one!");
   EXPECT_EQ(text.Caret(), 0u);

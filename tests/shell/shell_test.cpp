@@ -48,7 +48,7 @@ TEST(FilePart, SplitsAtTheLastSeparatorAndTheLastDot) {
   EXPECT_EQ(FilePart("/a/b.c", 4), "");
 }
 
-TEST(Paths, AreJoinedAndMadeUrlsInBothKindsAndFoundWithASeparatorAtTheEnd) {
+TEST(Paths, MayHaveSlashesOrBackslashesAndASeparatorAtTheEnd) {
   ScriptedPlatform platform;
   platform.files["/a.txt"] = "";
   for (const char* path : {"/a.txt", "/a.txt/"}) EXPECT_TRUE(FileExists(FileNumber(), platform, path));
@@ -142,7 +142,7 @@ TEST_F(StatusTest, ContentIsTheSelectionsBeginningOrTheClipboard) {
 
 TEST_F(StatusTest, ItemsFollowPathClipboardTextAndSelection) {
   EXPECT_EQ(ComputeMenuState(box, "", std::nullopt), MenuState{});
-  EXPECT_EQ(ComputeMenuState(box, "/a", ""), MenuState{.has_path = true});  // an empty clipboard is none
+  EXPECT_EQ(ComputeMenuState(box, "/a", ""), MenuState{.has_path = true});  // an empty clipboard counts as none
   PutMarked(box, "a|");
   EXPECT_EQ(ComputeMenuState(box, "", "x"), (MenuState{.has_clipboard = true, .has_text = true}));
   PutMarked(box, "[a|");
@@ -232,7 +232,7 @@ TEST(SettingsRecord, HasPathsInTheCodePageOrElseAsUrls) {
   }
 }
 
-// Every short length: what is whole keeps its value, the rest reads as zero and empty.
+// Cuts the file at each length: complete fields keep their values, the others are zero or empty.
 TEST(SettingsRecord, ShortAndDamagedFilesReadAsZeroFromTheirEndOn) {
   std::string bytes = SettingsBytes(FullRecord());
   for (std::size_t length = 0; length <= bytes.size(); ++length) {
@@ -241,7 +241,7 @@ TEST(SettingsRecord, ShortAndDamagedFilesReadAsZeroFromTheirEndOn) {
     EXPECT_EQ(r.FontSize, length >= 34 ? 14 : 0) << length;
     EXPECT_EQ(r.LineCounting, length == bytes.size()) << length;
   }
-  // A count beyond the end is no string, and nothing behind it counts.
+  // A count beyond the end gives no string, and nothing behind it is read.
   bytes[18] = bytes[19] = '\xFF';
   EXPECT_EQ(ReadSettings(bytes), ReadSettings(bytes.substr(0, 18)));
 }

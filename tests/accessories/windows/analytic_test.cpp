@@ -41,7 +41,7 @@ TEST_F(AnalyticTest, ShowsTheDocumentAtOnceAndItsChangesOnDemand) {
   EXPECT_EQ(Columns(), 1);
 }
 
-TEST_F(AnalyticTest, AnEmptyTextEmptiesTheGraphAlone) {
+TEST_F(AnalyticTest, AnEmptyTextEmptiesOnlyTheGraph) {
   text.SetText("");
   Work(dialog, "Command1!");
   EXPECT_EQ(Columns(), 0);

@@ -152,7 +152,7 @@ TEST_F(CalculatorAloneTest, GivesTheNumberToTheClipboard) {
   EXPECT_EQ(platform.clipboard, "5");
 }
 
-TEST_F(CalculatorAloneTest, DisablesTheConvertersWaysIntoTheTextButTheRomanOne) {
+TEST_F(CalculatorAloneTest, DisablesTheConvertersButtonsIntoTheTextExceptTheRomanOne) {
   Work(Calculator(), "Command35!");
   ExpectState(parts.windows.Get<Prev>(), "",
               "Command42=('Do textu') Command43=('Do textu') Command44=('Do textu') Command46='Do textu'");

@@ -8,7 +8,7 @@
 namespace pelmar {
 namespace {
 
-// The locks of rescue files are real, all other files lie in the scripted platform.
+// The locks of rescue files are real. All other files are in the scripted platform.
 struct NotesWindowTest : ProgramTest {
   TempFolder folder;
   Poznamka* notes = nullptr;
@@ -24,7 +24,7 @@ struct NotesWindowTest : ProgramTest {
     File() = NotesBytes(record);
     notes = &Open<Poznamka>();
   }
-  // The notes as the whole program.
+  // Starts the notes as the whole program.
   void RunAloneOver(const NotesRecord& record) {
     SettingsRecord settings;
     settings.UserName = settings.UserEmail = "jan";
@@ -40,7 +40,7 @@ struct NotesWindowTest : ProgramTest {
       if (entry.path().extension() == ".lock") names.push_back(entry.path().filename());
     return names;
   }
-  // The rescue file of a copy that died, and its lock.
+  // Leaves the rescue file of a copy that crashed, and its lock.
   void LeaveBehind(const char* name, const RescueRecord& record) {
     folder.Put(name, "");
     File(name) = RescueBytes(kNotesRescue, record);
@@ -114,7 +114,7 @@ TEST_F(NotesWindowTest, APageThatAnotherCopyStoredMeanwhileStays) {
   const std::string both = NotesBytes({{"their first", "their second", "my first", "x", "y"}});
   EXPECT_EQ(File(), both);
   ExpectState(*notes, "", "Text1='their first'");
-  notes->close();  // asks about it no more, and keeps nothing a third time
+  notes->close();  // neither asks nor keeps a page again
   EXPECT_EQ(File(), both);
   EXPECT_TRUE(platform.answers.empty());
 }
@@ -133,7 +133,7 @@ TEST_F(NotesWindowTest, UnsavedPagesAreKeptSoonAndAtAnEndWithoutAClose) {
 
 TEST_F(NotesWindowTest, RescuedPagesComeBackAndAreStoredByTheClose) {
   LeaveBehind("notes-rescue-1-1.pelmar", {2, {{1, "first", "FIRST"}, {2, "", "SECOND"}}});
-  LeaveBehind("notes-rescue-2-1.pelmar", {1, {{1, "first", "another first"}, {3, "", ""}}});  // page 3 is as it was
+  LeaveBehind("notes-rescue-2-1.pelmar", {1, {{1, "first", "another first"}, {3, "", ""}}});  // page 3 hasn't changed
   platform.answers = {Answer::kYes};
   OpenOver({{"first"}});
   platform.TakeCalls();

@@ -39,7 +39,7 @@ TEST_F(ProgramTest, MorseCollectsSigns) {
 struct KeyboardTest : ProgramTest {
   Klavesnice& keyboard = Open<Klavesnice>();
 
-  // Clicks Command1 to Command68 but for the one that closes, and expects one character of each.
+  // Clicks Command1 to Command68, except the one that closes the window. Each has to type its character.
   void ExpectKeysType(std::string_view characters) {
     ASSERT_EQ(characters.size(), 68u);
     for (std::size_t key = 1; key <= characters.size(); ++key) {
@@ -126,7 +126,7 @@ TEST_F(CharTableTest, TheNumberedCharacterIsCollectedBeforeTheSelection) {
 
 TEST_F(CharTableTest, CollectedCharactersAreSentBeforeTheSelection) {
   ExpectDocument("mnuASCII", "Text1=x Command4!", "a[b|c", "ax|bc");
-  ExpectDocument("mnuASCII", "Command4!", "a[b|c", "a[b|c");  // none
+  ExpectDocument("mnuASCII", "Command4!", "a[b|c", "a[b|c");  // nothing is collected
 }
 
 TEST_F(CharTableTest, ThePointerShowsTheCode) {

@@ -13,19 +13,19 @@
 namespace pelmar {
 namespace {
 
-// The lock files are real, and empty rescue files tell that they are there; their bytes are the scripted platform's.
+// Lock files and the names of rescue files are real. The bytes of all files are in the scripted platform.
 struct RescueKeeperTest : testing::Test {
   const TempFolder folder;
   ScriptedPlatform platform;
 
   RescueKeeperTest() {
     platform.install_folder = folder.Path() + "/";
-    SettingsRecord settings;  // with which the start asks nothing
+    SettingsRecord settings;  // complete, so the start asks nothing
     settings.UserName = settings.UserEmail = "jan";
     platform.files[folder.File("pelmar.ini")] = SettingsBytes(settings);
   }
   [[nodiscard]] bool FolderIsEmpty() const { return std::filesystem::is_empty(folder.Path()); }
-  // The texts of a rescue file; nothing where it isn't there.
+  // The texts of a rescue file. Empty if there is no such file.
   [[nodiscard]] std::string Texts(const std::string& path) {
     const auto record = ReadRescue(kDocumentsRescue, platform.files[path]);
     return record ? ReadableDocuments(record->texts) : "";
@@ -46,7 +46,7 @@ TEST_F(RescueKeeperTest, KeepsAChangeWithinTwoSecondsUntilThePersonGivesItUp) {
   EXPECT_TRUE(window.isVisible());
   window.close();
   EXPECT_TRUE(FolderIsEmpty());
-  EXPECT_EQ(QApplication::exec(), EXIT_SUCCESS);  // which the close has ended
+  EXPECT_EQ(QApplication::exec(), EXIT_SUCCESS);  // the close has already ended it
 }
 
 TEST_F(RescueKeeperTest, TheBarWarnsForAsLongAsNothingCanBeKept) {
@@ -65,7 +65,7 @@ TEST_F(RescueKeeperTest, TheBarWarnsForAsLongAsNothingCanBeKept) {
   EXPECT_EQ(Texts(own), "Soubor:\r\nab\r\n\r\n");
 }
 
-// Somebody has planted the first name that is drawn.
+// Somebody else already has a file of the first name that is drawn.
 TEST_F(RescueKeeperTest, TheLastResortIsANewFileOfADrawnName) {
   platform.install_folder = "/dev/null/";
   platform.draws = {0.5, 0.25};
@@ -112,7 +112,7 @@ struct OfferTest : RescueKeeperTest {
   OfferTest() {
     box.SetText("probe");
     own = keeper.KeepNow().path;
-    documents.ForgetPath();  // saved: nothing is left to keep
+    documents.ForgetPath();  // saved, so nothing is left to keep
     EXPECT_EQ(keeper.KeepNow().path, "");
     PutOldFile(old, bytes);
     PutOldFile(twin, bytes);
@@ -139,7 +139,7 @@ TEST_F(OfferTest, YesBringsATextBackOnceAndKeepsItInTheOwnFile) {
   EXPECT_EQ(documents.Title(), "Pelmar VEX (/a.txt)*");
   EXPECT_EQ(Texts(own), readable);
   EXPECT_FALSE(OldFilesAreThere());
-  Offer({});  // asked once
+  Offer({});  // asks only once
 }
 
 TEST_F(OfferTest, NoWritesTheTextIntoAReadableFile) {
@@ -147,7 +147,7 @@ TEST_F(OfferTest, NoWritesTheTextIntoAReadableFile) {
   EXPECT_EQ(documents.Title(), "Pelmar VEX ()");
   EXPECT_EQ(platform.files[rest], readable);
   EXPECT_FALSE(OldFilesAreThere());
-  platform.files[rest].clear();  // what the person takes away doesn't come again
+  platform.files[rest].clear();  // a text that the person removes isn't written again
   keeper.KeepNow();
   EXPECT_EQ(platform.files[rest], "");
 }
@@ -160,7 +160,7 @@ TEST_F(OfferTest, OldFilesStayUntilTheirTextIsWritten) {
     platform.write_errors[written] = ENOSPC;
     Offer({answer});
     EXPECT_TRUE(OldFilesAreThere()) << written;
-    platform.write_errors.clear();  // with room again it goes on by itself
+    platform.write_errors.clear();  // with space again, the keeper goes on by itself
     EXPECT_TRUE(QTest::qWaitFor([this] { return !OldFilesAreThere(); })) << written;
     documents.ForgetPath();
   }

@@ -19,7 +19,7 @@ namespace pelmar {
 namespace {
 
 struct StartedTest : ProgramTest {
-  // In the order of the file.
+  // The fields are in the order of the file.
   const SettingsRecord stored{12000, 9000,  1500,     3000,  true, "DejaVu Sans Mono", 0x030201, 0xFCFBFA, 14,  true,
                               false, "Jan", "j@x.cz", false, 240,  "tajn\xE9",         {},       0,        true};
   std::string& settings = platform.files["/install/pelmar.ini"];
@@ -70,7 +70,7 @@ TEST_F(StartedTest, TheWelcomeLeadsToTheEditorHoweverItIsLeft) {
     EXPECT_FALSE(The<Otevri>().isVisible());
     main.hide();
     start.Present();
-    QTest::keyClick(&start, Qt::Key_Shift);  // no key of its own
+    QTest::keyClick(&start, Qt::Key_Shift);  // a modifier alone doesn't close the welcome
     EXPECT_TRUE(start.isVisible());
     if (leave == std::string("the system's close"))
       start.close();
@@ -82,7 +82,7 @@ TEST_F(StartedTest, TheWelcomeLeadsToTheEditorHoweverItIsLeft) {
   EXPECT_TRUE(The<Otevri>().isVisible());
 }
 
-TEST_F(StartedTest, TheWelcomeTakesWhetherItComesAgain) {
+TEST_F(StartedTest, TheWelcomeSetsWhetherItShowsAgain) {
   auto& start = Open<Start>();
   ExpectState(start, "", "Label9=Jan Check1=1");
   EXPECT_FALSE(editor.settings.ShowStart);
@@ -120,7 +120,7 @@ TEST_F(HelpTest, TheButtonSearches) {
 struct ToolbarTest : StartedTest {
   CustomizeToolbar& window = Open<CustomizeToolbar>();
 
-  // The first of the toolbar's buttons that show, "|" for a separator.
+  // The first visible buttons of the toolbar, "|" for a separator.
   [[nodiscard]] std::string Buttons(int count) {
     std::string names;
     for (const QAction* action : main.Toolbar().actions())
@@ -130,7 +130,7 @@ struct ToolbarTest : StartedTest {
   }
 };
 
-TEST_F(ToolbarTest, ButtonsMoveByTheListButNotOverItsEndsAndHide) {
+TEST_F(ToolbarTest, TheListMovesAndHidesButtons) {
   EXPECT_EQ(Buttons(7), "New Newhtml Open | Recent | Save ");
   Work(window, "Buttons=0 Up! Buttons=1 Up!");
   EXPECT_EQ(Buttons(7), "Newhtml New Open | Recent | Save ");
@@ -158,7 +158,7 @@ TEST_F(StartedTest, AboutShowsTheUserAndPlaysWithTheNameUnderTheMouse) {
 struct ConfigTest : StartedTest {
   Config& config = The<Config>();
 
-  // What the window stores as name, address and password, when it is open for that.
+  // The name, address and password that the open window stores by `act`.
   std::string StoredBy(std::function<void()> act) {
     settings.clear();
     Inside(std::move(act));

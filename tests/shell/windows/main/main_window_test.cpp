@@ -43,7 +43,7 @@ struct MainWindowTest : ProgramTest {
 struct MenuTest : ProgramTest {
   MenuBar& bar = main.Menus();
 
-  // Compares the captions of actions, their keys behind them and "-" for a line, with those between "|".
+  // Compares actions with a list between "|": a caption with its key behind it, or "-" for a separator.
   static void ExpectItems(const char* where, const QList<QAction*>& actions, const char* expected) {
     const QStringList captions = QString::fromUtf8(expected).split(u'|');
     EXPECT_EQ(actions.size(), captions.size()) << where;
@@ -90,14 +90,14 @@ TEST_F(MenuTest, HasItsCaptionsAndKeys) {
   for (const auto& [menu, items] : menus) ExpectItems(menu, bar.Submenu(menu)->actions(), items);
 }
 
-TEST_F(MenuTest, TheToolbarHasItsTipsAndLines) {
+TEST_F(MenuTest, TheToolbarHasItsTipsAndSeparators) {
   ExpectItems("toolbar", main.Toolbar().actions(),
               "Otevřít|Nový HTML|Otevřít|-|Předposlední soubor|-|Uložit|Vyjmout|Kopítovat|Vložit|Najít|Obrázek|Tučně|"
               "Kurziva|Podtrženě|Centrovat|Tabulka|-|Odkaz|Čára HR|-|Nápověda|Tisk|Dos obrazovka|Zámek|"
               "Interní browser");
 }
 
-// An item without a command would be off in each of the states.
+// An item without a command would be off in every row.
 TEST_F(MenuTest, ItemsNeedAPathAClipboardATextOrASelection) {
   const std::pair<MenuState, const char*> cases[] = {
       {{true, true, true, true}, ""},
@@ -118,8 +118,8 @@ TEST_F(MenuTest, ItemsNeedAPathAClipboardATextOrASelection) {
   }
 }
 
-// What is open and marked: the menu of the bar, and the item in the open menu.
-TEST_F(MenuTest, GoesByAccessKeysAndFirstLetters) {
+// After each key: the open menu of the bar and the active item in it.
+TEST_F(MenuTest, OpensByAccessKeysAndFirstLetters) {
   Activate(main);
   bar.Apply({});  // without a text "Hledání" is grey
   const auto pressed = [&](Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
@@ -137,7 +137,7 @@ TEST_F(MenuTest, GoesByAccessKeysAndFirstLetters) {
       {Qt::Key_V, Qt::AltModifier, "&Text/8"},  // its own item "&Velikost", not the menu "&Vlož"
       {Qt::Key_Left, Qt::NoModifier, "&Text/&Velikost"},
       {Qt::Key_T, Qt::AltModifier, "H&tml/Horizontální čára"},
-      {Qt::Key_T, Qt::NoModifier, "H&tml/Tabulky"},  // shut
+      {Qt::Key_T, Qt::NoModifier, "H&tml/Tabulky"},  // its submenu stays closed
       {Qt::Key_T, Qt::NoModifier, "H&tml/Testuj html"},
       {Qt::Key_Alt, Qt::NoModifier, "/"},
       {Qt::Key_T, Qt::AltModifier, "&Text/&Základní"}};
@@ -160,7 +160,7 @@ TEST_F(MainWindowTest, NamesOfFilesStandAsTheyAre) {
   files.opener.OpenPath("/a/b&c[*].txt");
   EXPECT_EQ(tabs->tabText(0), QStringLiteral("b&&c[*].txt"));
   EXPECT_EQ(tabs->tabToolTip(0), QStringLiteral("/a/b&c[*].txt"));
-  // The toolkit turns doubled placeholders into plain ones when it sets the system's title.
+  // Qt shows "[*][*]" as "[*]" in the title bar.
   EXPECT_EQ(main.windowTitle(), QStringLiteral("Pelmar VEX (/a/b&c[*][*].txt)"));
 }
 
@@ -188,10 +188,10 @@ TEST_F(MainWindowTest, AClickOnPanelThreeStopsLineCountingAndADoubleClickStartsI
 TEST_F(MainWindowTest, TheTickSnapsTheWindowToTheEdges) {
   editor.settings.AutosnapDistance = 240;
   Activate(other);
-  other.move(5, 5);  // has no tag for it
+  other.move(5, 5);  // isn't tagged for snapping
   const QPoint place = other.pos();
   EXPECT_TRUE(QTest::qWaitFor([this] {
-    main.MoveTo({150, 225, 12000, 9000});  // again, where the answer to an earlier wish has undone it
+    main.MoveTo({150, 225, 12000, 9000});  // again, because an answer to an earlier wish may undo it
     return main.Place() == TwipsRect{150, 225, 12000, 9000};
   }));
   EXPECT_TRUE(QTest::qWaitFor([this] {
@@ -255,7 +255,7 @@ TEST_F(WarningTest, AFailedOpenWarnsThatFilesAreStuck) {
 }
 
 // required: the items are only as fresh as the last tick. Their keys needn't wait for the next one.
-TEST_F(MainWindowTest, KeysOfGreyItemsGoByTheStateOfNow) {
+TEST_F(MainWindowTest, KeysOfGreyItemsFollowTheCurrentState) {
   Tick();
   text.SetText("abc");
   Press(Qt::Key_K, Qt::ControlModifier);
@@ -276,7 +276,7 @@ TEST_F(MainWindowTest, TogglesHideAndShowTheBars) {
   EXPECT_GT(main.Box().height(), with.height());
   EXPECT_EQ(main.Box().width(), with.width() + 24);
   Press(Qt::Key_Tab, Qt::ControlModifier);
-  EXPECT_EQ(editor.documents.SelectedTab(), 1);  // with the strip the switching is gone
+  EXPECT_EQ(editor.documents.SelectedTab(), 1);  // without the strip there is no switching
   Work(main, "MnuTS! MnuSBS! mnuFTS!");
   EXPECT_EQ(main.Box().geometry(), with);
 }
