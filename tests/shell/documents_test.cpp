@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "accessories/notes.h"
 #include "platform/runtime_error.h"
 #include "program/session.h"
 #include "shell/rescued_documents.h"
@@ -25,9 +24,15 @@ struct Desk {
   }
 };
 
-struct DocumentsTest : testing::Test, Desk {};
+struct DocumentsTest : testing::Test, Desk {
+  // What the save dialog begins with.
+  std::string Primed() {
+    const SaveTarget& target = documents.Target();
+    return target.Path() + ' ' + target.Folder() + ' ' + target.Name() + ' ' + target.Extension();
+  }
+};
 
-TEST_F(DocumentsTest, AChangeMarksTheTitleAlone) {
+TEST_F(DocumentsTest, AChangeMarksOnlyTheTitle) {
   EXPECT_EQ(StateOf(documents), DocumentState{.title = "()"});
   Type("a");
   EXPECT_EQ(StateOf(documents), (DocumentState{.title = "()*", .unsaved = 1}));
@@ -41,29 +46,11 @@ TEST_F(DocumentsTest, ASwitchKeepsTextPathAndMarkOfTheTabItLeaves) {
   EXPECT_EQ(SwitchTo(3), (DocumentState{.title = "()", .slot_path = "/a/one.txt", .unsaved = 1}));
   EXPECT_EQ(text.Text(), "");
   Type("three");
-  // Unsaved by its flag and by the title, but counted once.
+  // Tab 1 is unsaved by its flag and by the title, but counted once.
   EXPECT_EQ(SwitchTo(1), (DocumentState{"(/a/one.txt)*", "one.txt", "/a/one.txt", "", true, 2}));
   EXPECT_EQ(text.Text(), "one!");
   EXPECT_EQ(text.Caret(), 0u);
   EXPECT_FALSE(text.CanUndo());
-}
-
-TEST_F(DocumentsTest, TheSelectedTabChosenAgainChangesNothing) {
-  documents.MakeCurrent("/a/one.txt", "one");
-  Type("!");
-  const DocumentState before = StateOf(documents);
-  EXPECT_EQ(SwitchTo(1), before);
-  EXPECT_EQ(text.Caret(), 4u);
-  EXPECT_TRUE(text.CanUndo());
-}
-
-TEST_F(DocumentsTest, ATabThatAPersonEmptiedIsNotFree) {
-  EXPECT_EQ(documents.EmptyTab(), 2);
-  documents.SwitchTo(2);
-  Type("x");
-  text.SetText("");
-  documents.SwitchTo(1);
-  EXPECT_EQ(documents.EmptyTab(), 3);
 }
 
 // required: the change that a switch raises still writes the path of the tab that was left
@@ -86,14 +73,7 @@ TEST_F(DocumentsTest, ClearingADocumentLeavesItsPathInTheSlot) {
   EXPECT_EQ(documents.CurrentPath(), "");
 }
 
-struct SaveTargetTest : DocumentsTest {
-  std::string Primed() {
-    const SaveTarget& target = documents.Target();
-    return target.Path() + ' ' + target.Folder() + ' ' + target.Name() + ' ' + target.Extension();
-  }
-};
-
-TEST_F(SaveTargetTest, OnlyADocumentWithAPathPrimesTheSaveDialog) {
+TEST_F(DocumentsTest, OnlyADocumentWithAPathPrimesTheSaveDialog) {
   documents.MakeCurrent("/a/one.txt", "one");
   documents.SwitchTo(2);
   documents.Target().Prime("/b/kept.txt");
@@ -103,7 +83,7 @@ TEST_F(SaveTargetTest, OnlyADocumentWithAPathPrimesTheSaveDialog) {
   EXPECT_EQ(Primed(), "/a/one.txt /a/ one txt");
 }
 
-TEST_F(SaveTargetTest, ANameWithoutDotPrimesHalfOfIt) {  // required
+TEST_F(DocumentsTest, ANameWithoutDotPrimesHalfOfIt) {  // required
   documents.Target().Prime("/a/one.txt");
   EXPECT_THROW(documents.Target().Prime("/b/README"), RuntimeError);
   EXPECT_EQ(Primed(), "/b/README /b/ one txt");
@@ -126,12 +106,6 @@ TEST_F(DocumentsTest, RescueKeepsTheUnsavedDocumentsAndBringsThemBack) {
   EXPECT_EQ(TextsOf(later.documents), "one!|||never saved||");
   EXPECT_EQ(StateOf(later.documents), (DocumentState{.title = "()*", .flagged = true, .unsaved = 2}));
   EXPECT_EQ(later.SwitchTo(1), (DocumentState{"(/a/one.txt)*", "one.txt", "/a/one.txt", "", true, 2}));
-}
-
-TEST_F(DocumentsTest, ARestoredDocumentIsShownAndUnsaved) {
-  documents.Restore(2, "text", "/a/b.txt");
-  EXPECT_EQ(documents.Title(), "Pelmar VEX (/a/b.txt)*");
-  EXPECT_EQ(documents.SelectedTab(), 2);
 }
 
 TEST_F(DocumentsTest, RescueNeverOverwritesADocumentOfThisRun) {

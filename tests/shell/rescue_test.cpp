@@ -30,7 +30,7 @@ struct RescueStoreTest : testing::Test {
   }
 };
 
-TEST_F(RescueStoreTest, AnOrdinaryEndLeavesNothingAndALivingCopysFileIsNobodyElses) {
+TEST_F(RescueStoreTest, AnEmptyRecordRemovesTheFileAndNobodyFindsTheFileOfARunningCopy) {
   RescueStore store = StoreIn(folder);
   for (const char* kept : {"one", "two", "", "again"}) {
     EXPECT_EQ(store.Keep(kept), 0);
@@ -41,7 +41,7 @@ TEST_F(RescueStoreTest, AnOrdinaryEndLeavesNothingAndALivingCopysFileIsNobodyEls
   EXPECT_NE(StoreIn("/nonexistent/folder/").Keep("x"), 0);
 }
 
-TEST_F(RescueStoreTest, WhatADeadCopyKeptIsOfferedByOneCopyAtATime) {
+TEST_F(RescueStoreTest, TheFileOfACrashedCopyIsFoundByOneCopyAtATime) {
   const pid_t child = ::fork();
   if (child == 0) {
     RescueStore store = StoreIn(folder);
@@ -61,7 +61,7 @@ TEST_F(RescueStoreTest, WhatADeadCopyKeptIsOfferedByOneCopyAtATime) {
   EXPECT_TRUE(std::filesystem::is_empty(folder));
 }
 
-TEST(RescueFile, ReadsWhatWasWrittenWholeAndOfItsKindAlone) {
+TEST(RescueFile, RefusesDamagedFilesAndFilesOfAnotherKind) {
   const RescueRecord record{2, {{2, "/x", std::string(300, 'y')}, {5, "", "z"}}};
   const std::string bytes = RescueBytes(kNotesRescue, record);
   EXPECT_EQ(ReadRescue(kNotesRescue, bytes), record);

@@ -1,7 +1,6 @@
 // The analysis of characters: its source, its list and its graph.
 #include "accessories/windows/analytic.h"
 
-#include <QAccessible>
 #include <QListWidget>
 #include <QScrollBar>
 
@@ -42,7 +41,7 @@ TEST_F(AnalyticTest, ShowsTheDocumentAtOnceAndItsChangesOnDemand) {
   EXPECT_EQ(Columns(), 1);
 }
 
-TEST_F(AnalyticTest, AnEmptyTextEmptiesTheGraphAlone) {
+TEST_F(AnalyticTest, AnEmptyTextEmptiesOnlyTheGraph) {
   text.SetText("");
   Work(dialog, "Command1!");
   EXPECT_EQ(Columns(), 0);
@@ -94,28 +93,12 @@ TEST_F(AnalyticTest, SearchSelectsTheRowOfTheCharacter) {
   EXPECT_EQ(SelectedRow(), kTwoOfThree);
 }
 
-TEST_F(AnalyticTest, SearchForALetterOutsideTheCodePageSelectsNothing) {
-  Work(dialog, "List1=1 Text2=→ Command3!");
-  EXPECT_EQ(SelectedRow(), "002 00001 033,33 097 \"a\"");
-}
-
 TEST_F(AnalyticTest, ThePointerShowsTheCharacterUntilAClickBehindTheGraph) {
   QTest::mouseMove(graph, QPoint(130 * graph->width() / 508 + 1, 20));
   ExpectState(dialog, "", "Label2='Poloha: 65 Znak: \"A\"'");
   EXPECT_EQ(graph->toolTip(), QStringLiteral("Poloha: 65 Znak: \"A\""));
   QTest::mouseClick(Named(dialog, "Picture2"), Qt::LeftButton, {}, QPoint(3, 3));
   ExpectState(dialog, "", "Label2=");
-}
-
-TEST_F(AnalyticTest, ThePointerShowsAControlCharacterItself) {
-  QTest::mouseMove(graph, QPoint(2 * 7 * graph->width() / 508 + 1, 20));
-  ExpectState(dialog, "", "Label2='Poloha: 7 Znak: \"\a\"'");
-}
-
-TEST_F(AnalyticTest, AScreenReaderReadsTheBarUnderThePointer) {
-  QTest::mouseMove(graph, QPoint(2 * 97 * graph->width() / 508 + 1, 20));
-  EXPECT_EQ(QAccessible::queryAccessibleInterface(graph)->text(QAccessible::Description),
-            QStringLiteral("Poloha: 97 Znak: \"a\", výška 50 %"));
 }
 
 }  // namespace

@@ -1,6 +1,4 @@
 // The notes window: its pages, its file, the rescue of unsaved notes, its place.
-#include <QTimer>
-
 #include "accessories/windows/poznamka.h"
 #include "platform/qt/frames/outer_geometry.h"
 #include "support/printed_places.h"
@@ -10,7 +8,7 @@
 namespace pelmar {
 namespace {
 
-// The locks of rescue files are real, all other files lie in the scripted platform.
+// The locks of rescue files are real. All other files are in the scripted platform.
 struct NotesWindowTest : ProgramTest {
   TempFolder folder;
   Poznamka* notes = nullptr;
@@ -26,7 +24,7 @@ struct NotesWindowTest : ProgramTest {
     File() = NotesBytes(record);
     notes = &Open<Poznamka>();
   }
-  // The notes as the whole program.
+  // Starts the notes as the whole program.
   void RunAloneOver(const NotesRecord& record) {
     SettingsRecord settings;
     settings.UserName = settings.UserEmail = "jan";
@@ -42,7 +40,7 @@ struct NotesWindowTest : ProgramTest {
       if (entry.path().extension() == ".lock") names.push_back(entry.path().filename());
     return names;
   }
-  // The rescue file of a copy that died, and its lock.
+  // Leaves the rescue file of a copy that crashed, and its lock.
   void LeaveBehind(const char* name, const RescueRecord& record) {
     folder.Put(name, "");
     File(name) = RescueBytes(kNotesRescue, record);
@@ -65,20 +63,8 @@ TEST_F(NotesWindowTest, EachTabShowsItsPage) {
   ExpectState(*notes, "TabStrip1=0", "Text1='my first'");
 }
 
-// A Czech keyboard has other characters on the keys of the digits. Code 10 + n is the key of the digit n.
-TEST_F(NotesWindowTest, AltAndTheKeyOfADigitChangeThePage) {
-  OpenOver({});
-  for (const auto& [code, state] : {std::pair(11U, "TabStrip1=1"), {14U, "TabStrip1=4"}, {15U, "TabStrip1=4"}}) {
-    QKeyEvent press(QEvent::KeyPress, Qt::Key_Plus, Qt::AltModifier, code, 0, 0, QStringLiteral("+"));
-    QCoreApplication::sendEvent(Named(*notes, "Text1"), &press);
-    ExpectState(*notes, "", state);
-  }
-}
-
 TEST_F(NotesWindowTest, TheToolbarCopiesAndPastesTheSelection) {
   OpenOver({});
-  EXPECT_EQ(notes->findChild<QAction*>(QStringLiteral("Copy"))->toolTip(),
-            QStringLiteral("Kopírovat výbět"));  // required
   PutMarked(notes->Buffer(), "[one| two");
   Work(*notes, "Copy!");
   EXPECT_EQ(platform.clipboard, "one");
@@ -119,13 +105,6 @@ TEST_F(NotesWindowTest, AloneTheCloseStoresThenAsksAndANoKeepsTheWindow) {
   EXPECT_EQ(platform.calls.back(), R"(message 276 "OPRAVDU UKONČIT Poznámky (Pelmar VEX) ?" "Konec")");
 }
 
-TEST_F(NotesWindowTest, AloneAYesEndsTheProgram) {
-  RunAloneOver({});
-  platform.answers = {Answer::kYes};
-  EXPECT_TRUE(notes->close());
-  EXPECT_EQ(QCoreApplication::exec(), 0);
-}
-
 TEST_F(NotesWindowTest, APageThatAnotherCopyStoredMeanwhileStays) {
   RunAloneOver({{"first", "second"}});
   notes->Buffer().Type("my ");
@@ -135,7 +114,7 @@ TEST_F(NotesWindowTest, APageThatAnotherCopyStoredMeanwhileStays) {
   const std::string both = NotesBytes({{"their first", "their second", "my first", "x", "y"}});
   EXPECT_EQ(File(), both);
   ExpectState(*notes, "", "Text1='their first'");
-  notes->close();  // asks about it no more, and keeps nothing a third time
+  notes->close();  // neither asks nor keeps a page again
   EXPECT_EQ(File(), both);
   EXPECT_TRUE(platform.answers.empty());
 }
@@ -154,7 +133,7 @@ TEST_F(NotesWindowTest, UnsavedPagesAreKeptSoonAndAtAnEndWithoutAClose) {
 
 TEST_F(NotesWindowTest, RescuedPagesComeBackAndAreStoredByTheClose) {
   LeaveBehind("notes-rescue-1-1.pelmar", {2, {{1, "first", "FIRST"}, {2, "", "SECOND"}}});
-  LeaveBehind("notes-rescue-2-1.pelmar", {1, {{1, "first", "another first"}, {3, "", ""}}});  // page 3 is as it was
+  LeaveBehind("notes-rescue-2-1.pelmar", {1, {{1, "first", "another first"}, {3, "", ""}}});  // page 3 hasn't changed
   platform.answers = {Answer::kYes};
   OpenOver({{"first"}});
   platform.TakeCalls();
@@ -183,16 +162,9 @@ TEST_F(NotesWindowTest, TheMenuStoresAndRestoresTheCheckpoint) {
 }
 
 struct NotesPlaceTest : NotesWindowTest {
-  QTimer* timer = nullptr;
-
   NotesPlaceTest() {
     OpenOver({});
-    timer = notes->findChild<QTimer*>(QStringLiteral("Timer1"));
     EXPECT_TRUE(QTest::qWaitForWindowExposed(notes));
-  }
-  void WaitForPlace(const TwipsRect& place) const {
-    static_cast<void>(QTest::qWaitFor([&] { return OuterGeometry(*notes) == place; }));
-    EXPECT_EQ(OuterGeometry(*notes), place);
   }
 };
 
@@ -203,11 +175,6 @@ TEST_F(NotesPlaceTest, TheTextFillsTheWindowBelowToolbarAndTabs) {
   EXPECT_EQ(Named(*notes, "Text1")->geometry(), QRect(0, toolbar + 22, 450, 300 - toolbar - 22));
 }
 
-TEST_F(NotesPlaceTest, SnapsToTheEdgesOfTheScreen) {
-  SetOuterPlace(*notes, {150, 225, 4500, 4500});
-  WaitForPlace({0, 0, 4500, 4500});
-}
-
 TEST_F(NotesPlaceTest, DocksBesideTheMainWindow) {
   main.show();
   main.SetPlace({0, 1500, 6000, 4500});
@@ -215,15 +182,9 @@ TEST_F(NotesPlaceTest, DocksBesideTheMainWindow) {
   Work(*notes, "Dock!");
   const TwipsRect place = main.Place();
   const int right = place.left + place.width;
-  WaitForPlace({right, place.top, ScreenTwips(*notes).width - right, place.height});
-}
-
-TEST_F(NotesPlaceTest, TheTimerIsFastOnlyAfterAMoveAndStopsWhileHidden) {
-  EXPECT_TRUE(QTest::qWaitFor([this] { return timer->interval() > 10; }));
-  SetOuterPlace(*notes, {1500, 1500, 4500, 4500});
-  EXPECT_EQ(timer->interval(), 10);
-  notes->hide();
-  EXPECT_FALSE(timer->isActive());
+  const TwipsRect beside{right, place.top, ScreenTwips(*notes).width - right, place.height};
+  static_cast<void>(QTest::qWaitFor([&] { return OuterGeometry(*notes) == beside; }));
+  EXPECT_EQ(OuterGeometry(*notes), beside);
 }
 
 }  // namespace

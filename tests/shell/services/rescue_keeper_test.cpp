@@ -2,27 +2,25 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QTest>
 
-#include "accessories/windows/prev.h"
 #include "program/program.h"
 #include "shell/rescued_documents.h"
-#include "support/controls.h"
 #include "support/scripted_platform.h"
-#include "support/steps.h"
 #include "support/temp_folder.h"
 
 namespace pelmar {
 namespace {
 
-// The lock files are real, and empty rescue files tell that they are there; their bytes are the scripted platform's.
+// Lock files and the names of rescue files are real. The bytes of all files are in the scripted platform.
 struct RescueKeeperTest : testing::Test {
   const TempFolder folder;
   ScriptedPlatform platform;
 
   RescueKeeperTest() {
     platform.install_folder = folder.Path() + "/";
-    SettingsRecord settings;  // with which the start asks nothing
+    SettingsRecord settings;  // complete, so the start asks nothing
     settings.UserName = settings.UserEmail = "jan";
     platform.files[folder.File("pelmar.ini")] = SettingsBytes(settings);
   }
@@ -51,7 +49,7 @@ TEST_F(RescueKeeperTest, KeepsAChangeWithinTwoSecondsUntilThePersonGivesItUp) {
   EXPECT_TRUE(window.isVisible());
   window.close();
   EXPECT_TRUE(FolderIsEmpty());
-  EXPECT_EQ(QApplication::exec(), EXIT_SUCCESS);  // which the close has ended
+  EXPECT_EQ(QApplication::exec(), EXIT_SUCCESS);  // the close has already ended it
 }
 
 TEST_F(RescueKeeperTest, TheBarWarnsForAsLongAsNothingCanBeKept) {
@@ -70,7 +68,7 @@ TEST_F(RescueKeeperTest, TheBarWarnsForAsLongAsNothingCanBeKept) {
   EXPECT_EQ(Texts(own), "Soubor:\r\nab\r\n\r\n");
 }
 
-// Somebody has planted the first name that is drawn.
+// Somebody else already has a file of the first name that is drawn.
 TEST_F(RescueKeeperTest, TheLastResortIsANewFileOfADrawnName) {
   platform.install_folder = "/dev/null/";
   platform.draws = {0.5, 0.25};
@@ -89,53 +87,25 @@ TEST_F(RescueKeeperTest, TheLastResortIsANewFileOfADrawnName) {
   EXPECT_EQ(platform.calls.size(), 2u);
 }
 
-// The numeral goes into the editor's hidden document, which nobody would miss and no later start has to offer.
-TEST_F(RescueKeeperTest, AnAccessoryAloneKeepsNoDocument) {
+TEST_F(RescueKeeperTest, TheMessageOfAnErrorNamesTheFileThatKeepsTheWork) {
   Program program(platform);
-  program.Run("-CALC");
-  Work(program.Windows().Get<Prev>(), "Command38! Command46!");
-  program.KeepUnsaved();
-  EXPECT_TRUE(FolderIsEmpty());
-}
-
-struct EndByErrorTest : RescueKeeperTest {
-  // The last message of a program that an error ends.
-  std::string Message(const char* tail, const char* typed) {
-    Program program(platform);
-    platform.answers = {Answer::kOk};
-    try {
-      program.Run(tail);
-      program.Main().Box().Buffer().Type(typed);
-      throw RuntimeError(5, "Chyba");
-    } catch (const RuntimeError& error) {
-      program.ReportRuntimeError(error);
-    }
-    return platform.calls.back();
-  }
-};
-
-TEST_F(EndByErrorTest, ShowsTheFileThatKeepsTheWork) {
-  const std::string message = Message("-NOMSG", "typed"), own = platform.calls[0].substr(6);
+  program.Run("-NOMSG");
+  program.Main().Box().Buffer().Type("typed");
+  platform.answers = {Answer::kOk};
+  program.ReportRuntimeError(RuntimeError(5, "Chyba"));
+  const std::string own = platform.calls.front().substr(6);
   EXPECT_EQ(Texts(own), "Soubor:\r\ntyped\r\n\r\n");
-  EXPECT_EQ(message, "message 0 \"Běhová chyba 5:\r\nChyba\r\n\r\nNeuložené dokumenty jsou zachovány v souboru\r\n" +
-                         own +
-                         "\r\nPříští start programu je nabídne zpět.\r\n\r\nProgram bude ukončen.\" \"Pelmar VEX\"");
+  EXPECT_EQ(platform.calls.back(),
+            "message 0 \"Běhová chyba 5:\r\nChyba\r\n\r\nNeuložené dokumenty jsou zachovány v souboru\r\n" + own +
+                "\r\nPříští start programu je nabídne zpět.\r\n\r\nProgram bude ukončen.\" \"Pelmar VEX\"");
 }
 
-struct KeeperTest : RescueKeeperTest {
+// Files of copies that crashed. Two hold the same text, and one is torn.
+struct OfferTest : RescueKeeperTest {
   TextBuffer box;
   Documents documents{box};
   DocumentsRescue unsaved{documents};
   RescueKeeper keeper{unsaved, platform};
-
-  void PutOldFile(const std::string& path, const std::string& bytes) {
-    platform.files[path] = bytes;
-    std::ofstream touched(path);
-  }
-};
-
-// Files of copies that crashed. Two hold the same text, and one is torn.
-struct OfferTest : KeeperTest {
   const std::string bytes = RescueBytes(kDocumentsRescue, {2, {{2, "/a.txt", "lost"}}}),
                     readable = "Soubor:/a.txt\r\nlost\r\n\r\n", old = folder.File("rescue-1-1.pelmar"),
                     twin = folder.File("rescue-2-1.pelmar"), torn = folder.File("rescue-3-1.pelmar"),
@@ -145,11 +115,15 @@ struct OfferTest : KeeperTest {
   OfferTest() {
     box.SetText("probe");
     own = keeper.KeepNow().path;
-    documents.ForgetPath();  // saved: nothing is left to keep
+    documents.ForgetPath();  // saved, so nothing is left to keep
     EXPECT_EQ(keeper.KeepNow().path, "");
     PutOldFile(old, bytes);
     PutOldFile(twin, bytes);
     PutOldFile(torn, bytes.substr(1));
+  }
+  void PutOldFile(const std::string& path, const std::string& content) {
+    platform.files[path] = content;
+    std::ofstream touched(path);
   }
   [[nodiscard]] bool OldFilesAreThere() const {
     EXPECT_EQ(std::filesystem::exists(old), std::filesystem::exists(twin));
@@ -168,7 +142,7 @@ TEST_F(OfferTest, YesBringsATextBackOnceAndKeepsItInTheOwnFile) {
   EXPECT_EQ(documents.Title(), "Pelmar VEX (/a.txt)*");
   EXPECT_EQ(Texts(own), readable);
   EXPECT_FALSE(OldFilesAreThere());
-  Offer({});  // asked once
+  Offer({});  // asks only once
 }
 
 TEST_F(OfferTest, NoWritesTheTextIntoAReadableFile) {
@@ -176,7 +150,7 @@ TEST_F(OfferTest, NoWritesTheTextIntoAReadableFile) {
   EXPECT_EQ(documents.Title(), "Pelmar VEX ()");
   EXPECT_EQ(platform.files[rest], readable);
   EXPECT_FALSE(OldFilesAreThere());
-  platform.files[rest].clear();  // what the person takes away doesn't come again
+  platform.files[rest].clear();  // a text that the person removes isn't written again
   keeper.KeepNow();
   EXPECT_EQ(platform.files[rest], "");
 }
@@ -189,7 +163,7 @@ TEST_F(OfferTest, OldFilesStayUntilTheirTextIsWritten) {
     platform.write_errors[written] = ENOSPC;
     Offer({answer});
     EXPECT_TRUE(OldFilesAreThere()) << written;
-    platform.write_errors.clear();  // with room again it goes on by itself
+    platform.write_errors.clear();  // with space again, the keeper goes on by itself
     EXPECT_TRUE(QTest::qWaitFor([this] { return !OldFilesAreThere(); })) << written;
     documents.ForgetPath();
   }
