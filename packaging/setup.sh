@@ -1,13 +1,13 @@
 # The set-up of ./run, ./test and the scripts beside this file, which source it: packages, configuration and build.
 # The caller sets `root` (the source tree) and `step` (the word before each printed line). POSIX sh.
 
-build_packages="build-essential cmake ninja-build ccache qt6-base-dev qt6-tools-dev qt6-l10n-tools
+build_packages="build-essential cmake ninja-build ccache qt6-base-dev qt6-tools-dev
 libgl-dev libx11-dev librsvg2-bin qt6-webengine-dev"
 # Qt's plug-in for SVG pictures. Debian 12 has it in the package of the library.
 svg_plugin=qt6-svg-plugins
 [ "$(. /etc/os-release 2>/dev/null && echo "$VERSION_ID")" != 12 ] || svg_plugin=libqt6svg6
 runtime_packages="$svg_plugin qt6-qpa-plugins qt6-translations-l10n fonts-dejavu-core xdg-utils"
-test_packages="libgtest-dev libbenchmark-dev python3 xvfb openbox xdotool xclip wmctrl x11-utils
+test_packages="libgtest-dev libbenchmark-dev python3 xvfb openbox xdotool wmctrl x11-utils
 imagemagick cups-daemon cups-client lintian dpkg-dev appstream desktop-file-utils fakeroot poppler-utils
 dbus-daemon at-spi2-core gir1.2-atspi-2.0 python3-gi weston qt6-wayland"
 fuzz_packages="clang libclang-rt-dev"

@@ -76,10 +76,6 @@ std::optional<std::string> ToRoman(std::int32_t n, const std::function<bool()>& 
   return roman;
 }
 
-std::string ToRoman(std::int32_t n) {
-  return *ToRoman(n, [] { return true; });
-}
-
 void Converter::Cut() {
   if (decimal.size() > kLongestDecimal) decimal.resize(kLongestDecimal);
   if (hexadecimal.size() > kLongestHex) hexadecimal.resize(kLongestHex);

@@ -21,7 +21,6 @@ std::string ToOct(std::int32_t value);
 // Roman numerals that only add: 4 is IIII. There is no upper limit. "0" for numbers below 1. Calls `go_on` after each
 // letter, and returns nothing once `go_on` returns false.
 std::optional<std::string> ToRoman(std::int32_t n, const std::function<bool()>& go_on);
-std::string ToRoman(std::int32_t n);
 
 // The fields of the window and the effect of its keys. Digit and the From functions truncate a field that is too long.
 struct Converter {

@@ -11,15 +11,8 @@ std::string DefaultTerm(const TextBuffer& buffer) {
   return buffer.HasSelection() ? std::string(buffer.SelText()) : "Text";
 }
 
-Finder::Finder(TextBuffer& buffer, Platform& platform) : buffer_(buffer), platform_(platform) {}
-
-void Finder::Load() {
-  TakeDefaultTerm();
-  case_on = find_on = true;
-  next_on = false;
-}
-
-void Finder::TakeDefaultTerm() { find = DefaultTerm(buffer_); }
+Finder::Finder(TextBuffer& buffer, Platform& platform)
+    : find(DefaultTerm(buffer)), buffer_(buffer), platform_(platform) {}
 
 void Finder::Start() {
   history_on = case_on = find_on = false;
@@ -45,7 +38,7 @@ void Finder::Next() {
 }
 
 void Finder::New() {
-  TakeDefaultTerm();
+  find = DefaultTerm(buffer_);
   find_on = history_on = true;
   next_on = false;  // required: after a search the check box for the case stays disabled
 }

@@ -35,14 +35,12 @@ class Finder {
 
   [[nodiscard]] TextBuffer& Snapshot() { return snapshot_; }
 
-  void Load();  // when the dialog is first shown
   void Start();
   void Next();
   void New();
   void PickHistory(std::size_t row);
 
  private:
-  void TakeDefaultTerm();
   void Show(std::size_t hit);
   void GoIdle();
   void ReportNothing();

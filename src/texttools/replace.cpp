@@ -13,13 +13,8 @@ constexpr std::string_view kMarker = "\xFF";
 
 }  // namespace
 
-Replacer::Replacer(TextBuffer& buffer, Platform& platform) : change("Zaměň"_w), buffer_(buffer), platform_(platform) {}
-
-void Replacer::Load() {
-  find = DefaultTerm(buffer_);
-  case_on = find_on = true;
-  step_on = false;
-}
+Replacer::Replacer(TextBuffer& buffer, Platform& platform)
+    : find(DefaultTerm(buffer)), change("Zaměň"_w), buffer_(buffer), platform_(platform) {}
 
 bool Replacer::Start() {
   lists_on = change_on = case_on = find_on = false;

@@ -37,7 +37,6 @@ class Replacer {
 
   [[nodiscard]] TextBuffer& Snapshot() { return snapshot_; }
 
-  void Load();   // when the dialog is first shown
   bool Start();  // true if the focus goes to Replace
   void Next();
   void Replace();

@@ -3,14 +3,9 @@
 
 #include <QGuiApplication>
 
-#if PELMAR_HAS_X11
 #include <X11/XKBlib.h>
-#endif
 
 namespace pelmar {
-
-#if PELMAR_HAS_X11
-
 namespace {
 
 // The connection to the X server, or null. Qt's offscreen platform has the interface too, but no display.
@@ -32,12 +27,5 @@ bool ClipboardHasOwner() {
   Display* display = Connection();
   return display == nullptr || XGetSelectionOwner(display, XInternAtom(display, "CLIPBOARD", 0)) != None;
 }
-
-#else
-
-LockKeys ReadLockKeys() { return {}; }
-bool ClipboardHasOwner() { return true; }
-
-#endif
 
 }  // namespace pelmar

@@ -23,7 +23,6 @@ Hledani::Hledani(TextBuffer& buffer, Platform& platform, std::function<QRect()> 
     ui_->Find->setText(TextToQString(finder_.find));
   });
   finder_.before_message = [this] { ShowFields(); };
-  finder_.Load();
   ShowFields();
   ui_->Find->setFocus();
 }

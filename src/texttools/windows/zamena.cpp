@@ -26,7 +26,6 @@ Zamena::Zamena(TextBuffer& buffer, Platform& platform, std::function<QRect()> ma
     OnRowPicked(*list, [this](int row) { PickRow(row); });
   }
   replacer_.before_message = [this] { ShowFields(); };
-  replacer_.Load();
   ShowFields();
   ui_->Find->setFocus();
 }
