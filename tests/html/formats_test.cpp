@@ -1,4 +1,4 @@
-// What is written for the fields of the dialogs: each tag with nothing and with everything, and its oddities.
+// What is written for the fields of the dialogs, each tag with everything and with its oddities, and the samples.
 #include <gtest/gtest.h>
 
 #include "html/attributes.h"
@@ -8,6 +8,7 @@
 #include "html/link.h"
 #include "html/lists.h"
 #include "html/page.h"
+#include "html/samples/templaty.h"
 #include "html/table_builder.h"
 #include "html/table_tags.h"
 #include "text/codepage.h"
@@ -32,17 +33,6 @@ void ExpectWritten(const Cases& cases) {
   for (const auto& [made, expected] : cases) EXPECT_EQ(ToUtf8(made), expected);
 }
 
-TEST(Lists, NameTheirTypes) {
-  const char* bullets[] = {"disk", "circle", "square"};
-  for (std::size_t type = 0; type < 3; ++type)
-    EXPECT_EQ(BuildList({ListKind::kBullets, type, false, {}, {}}),
-              std::string("<UL TYPE=\"") + bullets[type] + "\">\r\n</UL>");
-  const char* numbers[] = {"1", "a", "A", "I", "i"};
-  for (std::size_t type = 0; type < 5; ++type)
-    EXPECT_EQ(BuildList({ListKind::kNumbers, type, false, {}, {}}),
-              std::string("<OL TYPE=\"") + numbers[type] + "\">\r\n</OL>");
-}
-
 TEST(Formats, BlocksAndFragments) {
   const FontSpec font{7, "Times", "#FF0000"};
   ExpectWritten({
@@ -58,9 +48,8 @@ TEST(Formats, BlocksAndFragments) {
       {CommentText("x"), "<! x >"},  // required
       {CharacterReference(255), "&#255;"},
       {Smiley({" ", ":", " ", ")", " "}), ": )"},
-      {BuildList({ListKind::kBullets, {}, false, {}, {"a"}}), "<UL>\r\n<LI>a</LI>\r\n</UL>"},
+      {BuildList({ListKind::kBullets, 2, false, {}, {"a"}}), "<UL TYPE=\"square\">\r\n<LI>a</LI>\r\n</UL>"},
       {BuildList({ListKind::kNumbers, 4, true, "", {}}), "<OL TYPE=\"i\" COMPACT>\r\n<LH></LH>\r\n</OL>"},
-      {BuildDefinitionList({}, {}), "<DL>\r\n</DL>"},
       {BuildDefinitionList({"a"}, {"c", "d"}), "<DL>\r\n<DT>a</DT>\r\n<DD>c</DD>\r\n<DT></DT>\r\n<DD>d</DD>\r\n</DL>"},
   });
 }
@@ -77,7 +66,6 @@ TEST(Formats, PathsAndLinks) {
       {Made(kWrap, LinkToAnchor("x"), " "), R"(<A HREF="#x"> </A>)"},
       {Made(kWrap, LinkToAnchor("část"_w), ""), R"(<A HREF="#část">Odkaz na část</A>)"},
       {Made(kWrap, LinkToMail("a@b"), "x"), R"(<A HREF="mailto:a@b" >x</A>)"},  // required: the blank
-      {Made(kWrap, LinkToMail(""), ""), R"(<A HREF="mailto:" >mailto na </A>)"},
       {Made(kWrap, LinkToDocument({"x.htm", "a", "_top"}), ""),
        R"(<A HREF="x.htm#a" TARGET="_top">Odkaz na x.htm#a</A>)"},
       {Made(kWrap, LinkToDocument({"x.htm", "", ""}), "x"), R"(<A HREF="x.htm" TARGET="">x</A>)"},
@@ -100,7 +88,6 @@ TEST(Formats, ImagesAndFrames) {
                         .margins = FrameSpec::Margins{" 0", " 3"},
                         .noresize = true};
   ExpectWritten({
-      {ImageTag({"C:\\a\\b.gif", false, {}, {}, {}, {}, {}, {}, {}}), R"(<IMG SRC="file:///C:/a/b.gif">)"},
       {ImageTag(image), R"(<IMG SRC="b" ALT="a "b" <" ALIGN="left" WIDTH="10%" HEIGHT="20" VSPACE="3" HSPACE="4")"
                         R"( BORDER="5" LOWSRC="low.jpg" USEMAP="#mapa">)"},
       {FrameTag({.path = "/a.htm"}), R"(<FRAME SRC="file:///a.htm">)"},
@@ -186,6 +173,35 @@ TEST(Formats, PagesAroundTheDocument) {
       {Made(WrapInFrameset, FramesetSpec{"1,*", "2,*", "t"}, "x\r\ny"),  // required: columns as rows too
        frameset + " ROWS=\"1,*\" ROWS=\"2,*\">\r\n </FRAMESET>\r\n <NOFRAMES>\r\nx\r\ny\r\n </NOFRAMES>\r\n</HTML>"},
   });
+}
+
+TEST(Samples, StandInTheListWithTheirFilesAndHaveTheirLength) {
+  const struct {
+    const char *key, *text, *file_name;
+    std::size_t bytes;
+  } rows[] = {
+      {"HTML1", "Jednoduchý HTML dokument 1", "test1.html", 498},
+      {"HTML2", "Jednoduchý HTML dokument 2", "test2.html", 1455},
+      {"HTML3", "Jednoduchý HTML dokument 3", "test3.html", 1292},
+      {"HTML4", "Jednoduchý HTML dokument 4", "test4.html", 1489},
+      {"INI1", "Inicializační soubor 1", "acad.ini", 1029},
+      {"INI2", "Inicializační soubor 2", "netscape.ini", 377},
+      {"INF1", "Autorun", "autorun.inf", 118},
+      {"HTML5", "HTML s javascriptem", "java.html", 3971},
+      {"BAT1", "Dávkový soubor 1", "autoexec.bat", 175},
+      {"BAT2", "Dávkový soubor 2", "cleanup.bat", 106},
+      {"DIZ1", "info", "file_ID.diz", 213},
+  };
+  SettingsRecord profile;
+  profile.UserName = "Jan Žižka"_w;
+  profile.UserEmail = "a@b";
+  ASSERT_EQ(Samples().size(), std::size(rows));
+  for (std::size_t i = 0; i < std::size(rows); ++i) {
+    EXPECT_EQ(Samples()[i].key, rows[i].key);
+    EXPECT_EQ(ToUtf8(Samples()[i].text), rows[i].text);
+    EXPECT_EQ(Samples()[i].file_name, rows[i].file_name);
+    EXPECT_EQ(SampleText(rows[i].key, profile).size(), rows[i].bytes) << rows[i].key;
+  }
 }
 
 }  // namespace
