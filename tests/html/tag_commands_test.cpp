@@ -1,8 +1,11 @@
-// The commands of the HTML menu that need no dialog.
+// The commands of the HTML menu that need no dialog, and the texts of the browser.
 #include "html/tag_commands.h"
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
+
+#include "html/browser_texts.h"
 #include "html/test_page.h"
 #include "support/scripted_platform.h"
 #include "support/whole_editor.h"
@@ -61,7 +64,6 @@ TEST_F(TagCommandsTest, MakeListsOfLines) {
   const std::pair<const char*, const char*> cases[] = {
       {"a\r\n\r\nbc", "<UL><LI>a</LI>\r\n<LI></LI>\r\n<LI>b</LI></UL>-"},  // required: the last one is lost
       {"x", "<UL><LI></LI></UL>-"},
-      {"a\r\n", "<UL><LI>a</LI>\r</LI></UL>-"},
       {"a\nbc", "<UL><LI>a\n<LI>b</LI></UL>-"},
   };
   for (const auto& [lines, list] : cases) EXPECT_EQ(Made("mnu_HTML_sel_list", lines), list);
@@ -86,6 +88,57 @@ TEST_F(TagCommandsTest, StripTags) {
     EXPECT_EQ(editor.text.SelStart(), editor.text.Size() - 1) << html;
     EXPECT_EQ(platform.TakeCallsInOneLine(), "busy 1; busy 0; ") << html;
   }
+}
+
+TEST_F(TagCommandsTest, ShowASavedDocumentFromItsFileAfterAQuestion) {
+  editor.documents.MakeCurrent("/home/jan/a.html");
+  platform.answers = {Answer::kYes};
+  editor.commands.Run("mnutest");
+  EXPECT_EQ(platform.TakeCallsInOneLine(),
+            "message 52 \"Soubor je uložen, zobrazit uloženou verzi ?\" \"Nový\"; default program /home/jan/a.html; ");
+}
+
+TEST_F(TagCommandsTest, OpenAPageByAnotherNameThanTheWrittenOne) {  // required
+  editor.text.SetText("<P>");
+  platform.draws = {0.5};
+  editor.commands.Run("mnutest");
+  EXPECT_EQ(platform.TakeCallsInOneLine(),
+            "create /tmp/$$$PelmarTemp49999999.htm; default program /tmp/49999999.htm; ");
+  EXPECT_EQ(platform.files["/tmp/$$$PelmarTemp49999999.htm"], "<P>\r\n");
+  EXPECT_EQ(platform.reseeds, 1);
+}
+
+TEST_F(TagCommandsTest, WriteAPageOverNoOtherFile) {
+  platform.files["/tmp/$$$PelmarTemp0.html"] = "other";
+  editor.text.SetText("<P>");
+  platform.draws = {0.0, 0.0, 0.999999999};
+  EXPECT_EQ(PageToShow(editor, PageEnd::kAsItIs), "/tmp/$$$PelmarTemp99999998.html");
+  EXPECT_EQ(platform.files["/tmp/$$$PelmarTemp0.html"], "other");
+  EXPECT_EQ(platform.files["/tmp/$$$PelmarTemp99999998.html"], "<P>");
+  EXPECT_FALSE(editor.file_number.IsOpen());
+}
+
+TEST_F(TagCommandsTest, ReportAPageThatCannotBeWritten) {
+  platform.draws = {0.0};
+  platform.write_errors["/tmp/$$$PelmarTemp0.htm"] = ENOSPC;
+  platform.answers = {Answer::kOk};
+  editor.commands.Run("mnutest");
+  EXPECT_EQ(platform.calls.back(),
+            "message 0 \"Testovací stránku nelze zapsat do složky /tmp/\r\nKód chyby 28: na disku není místo\" "
+            "\"Testuj html\"");
+  EXPECT_FALSE(editor.file_number.IsOpen());
+}
+
+TEST(BrowserTexts, TellHowFarAPageIs) {
+  EXPECT_EQ(ProgressText(1, 3), "33,3333333333333%");
+  EXPECT_EQ(ProgressText(5, 5), "100%");
+  EXPECT_EQ(ProgressText(1, 0), "");
+}
+
+TEST(BrowserTexts, KnowUtf8ThatDoesntSaySo) {
+  EXPECT_TRUE(IsUndeclaredUtf8("kůň"));
+  for (const char* page : {"\xEF\xBB\xBFkůň", "k\xF9\xF2", "kun", "CharSet=utf-8 kůň"})
+    EXPECT_FALSE(IsUndeclaredUtf8(page)) << page;
 }
 
 }  // namespace

@@ -79,11 +79,7 @@ std::string ShownSlowly(const std::string& text, std::size_t caret) {
 TEST(TagEditor, ReadsATagByItsGrammar) {
   const std::pair<std::string_view, std::string_view> cases[] = {
       {"x| <B>", "none"},
-      {"a > b <|", "none"},          // no ">" behind the first "<"
-      {"<B>x</B> text|", "4+4 /B"},  // long closed
-      {"<B>x|</B>", "4+4 /B"},       // "<" directly behind the caret
-      {"<a><b c|", "3+4 b|:True"},   // never closed: up to the end, without the last character
-      {R"(|<F SIZE ="3"    COLOR=  "r d" ID= x >)", "0+37 F|SIZE:3|COLOR:r d|ID:x"},
+      {"<B>x|</B>", "4+4 /B"},                                         // "<" directly behind the caret
       {R"(|<A HREF= ID='x y' R=a>)", R"(0+22 A|HREF:ID="'x y'|R:a)"},  // a "=" inside a value gains a quote
       {R"(|<F  SIZE = 3>)", "0+13 F|:True|SIZE:3"},  // a second blank leaves a lone quote: a row without a name
       {"|<A ID=x HREF=>", "0+14 A|ID:x|HREF !Přepis"},
@@ -116,12 +112,9 @@ struct TagEditorOnText : testing::Test {
   }
 };
 
-TEST_F(TagEditorOnText, OpeningSelectsTheTag) {
+TEST_F(TagEditorOnText, OpeningSelectsTheTagOrSaysThatThereIsNoneOrABadOne) {
   EXPECT_TRUE(Opened("ab<B>|c").empty());
   EXPECT_EQ(Marked(text), "ab[<B>|c");
-}
-
-TEST_F(TagEditorOnText, WithoutATagOrWithABadOneAMessageSaysSo) {
   EXPECT_EQ(Opened("a[b|"), std::vector<std::string>{R"(message 0 "Není tag!" "EdiTag")"});
   EXPECT_EQ(Marked(text), "a[b|");
   EXPECT_EQ(Opened("<A HREF=>|"),
