@@ -1,8 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QClipboard>
-#include <QListWidget>
-
 #include "accessories/windows/color_dialog.h"
 #include "platform/qt/controls/cell_grid.h"
 #include "platform/qt/frames/outer_geometry.h"
@@ -22,23 +19,6 @@ void Enter(const QWidget& dialog) { QTest::keyClick(dialog.focusWidget(), Qt::Ke
 // The searches show the main window, with the match in the document.
 struct SearchTest : ProgramTest {
   SearchTest() { main.show(); }
-
-  void ExpectMovedOffTheMatch(QWidget& dialog, const char* steps) {
-    dialog.move(main.Box().mapToGlobal(QPoint(0, 0)));
-    Work(dialog, steps);
-    const QRect match = main.Box().CharRect(text.SelStart());
-    const QPoint place = main.Box().viewport()->mapToGlobal(match.topLeft());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !dialog.geometry().intersects(QRect(place, match.size())); }));
-  }
-  // Takes the steps, the last of which finds nothing.
-  void ExpectNoFiguresDuringMessage(const QWidget& dialog, const char* steps) {
-    std::string during_message;
-    platform.on_message = [&] { during_message = State(dialog, "Label3 Label5"); };
-    platform.answers = {Answer::kOk};
-    Work(dialog, steps);
-    platform.on_message = {};
-    EXPECT_EQ(during_message, "Label3= Label5=") << steps;
-  }
 };
 
 struct HledaniTest : SearchTest {
@@ -67,13 +47,9 @@ TEST_F(HledaniTest, EnterStartsThenGoesOnAndEndsInTheFieldOfTheTerm) {
   EXPECT_EQ(dialog.focusWidget(), Named(dialog, "Find"));
 }
 
-TEST_F(HledaniTest, TheKeyboardPicksATermFromTheHistory) {
-  const auto& dialog = OpenFor("|jedna dvě");
-  Work(dialog, "Find=jedna Command1! Command4! Find=dvě Command1! Command4! Find=x");
-  auto* history = Find<QListWidget>(dialog, "History");
-  history->setFocus();  // which makes the first entry current
-  QTest::keyClick(history, Qt::Key_Down);
-  ExpectState(dialog, "", "Find=jedna History=>jedna|dvě");
+TEST_F(HledaniTest, ARowOfTheHistoryIsTheTerm) {
+  ExpectState(OpenFor("|jedna dvě"), "Find=jedna Command1! Command4! Find=dvě Command1! Command4! Find=x History=0",
+              "Find=jedna History=>jedna|dvě");
 }
 
 TEST_F(HledaniTest, ALongSelectionOfSeveralLinesIsTheTerm) {
@@ -83,25 +59,14 @@ TEST_F(HledaniTest, ALongSelectionOfSeveralLinesIsTheTerm) {
   EXPECT_EQ(text.SelEnd(), text.Size());
 }
 
-TEST_F(HledaniTest, LinesPastedIntoTheFieldAreFound) {
-  const auto& dialog = OpenFor("|x a¶b");
-  auto* field = Find<QLineEdit>(dialog, "Find");
-  field->selectAll();
-  QGuiApplication::clipboard()->setText(QStringLiteral("a\nb"));
-  QTest::keyClick(field, Qt::Key_V, Qt::ControlModifier);
-  Work(dialog, "Command1!");
-  EXPECT_EQ(Marked(text), "x [a¶b|");
+TEST_F(HledaniTest, TheDialogMovesOffTheMatch) {
+  QWidget& dialog = OpenFor("|a b");
+  dialog.move(main.Box().mapToGlobal(QPoint(0, 0)));
+  Work(dialog, "Find=b Command1!");
+  const QRect match = main.Box().CharRect(text.SelStart());
+  const QPoint place = main.Box().viewport()->mapToGlobal(match.topLeft());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !dialog.geometry().intersects(QRect(place, match.size())); }));
 }
-
-TEST_F(HledaniTest, NoFiguresStandBehindTheMessageOfAStart) {
-  ExpectNoFiguresDuringMessage(OpenFor("|jedna dvě"), "Find=dvě Command1! Command4! Find=x Command1!");
-}
-
-TEST_F(HledaniTest, EnterAtTheBoxForTheCasePressesTheDefaultButton) {
-  ExpectState(OpenFor("|jedna"), "Find=jedna Rozlisovat:\r", "Find=Text Rozlisovat=1 Label3= History=");
-}
-
-TEST_F(HledaniTest, TheDialogMovesOffTheMatch) { ExpectMovedOffTheMatch(OpenFor("|a b"), "Find=b Command1!"); }
 
 struct ZamenaTest : SearchTest {
   QWidget& dialog = OpenFor("|a¶b a¶b");
@@ -146,22 +111,11 @@ TEST_F(ZamenaTest, ARowOfEitherListPicksTheWholePair) {
   ExpectState(dialog, "Find=x Chage=y History=1", "Find=b Chage=d History=a|>b List1=c|>d");
 }
 
-TEST_F(ZamenaTest, NoFiguresStandBehindTheMessageOfAStart) {
-  ExpectNoFiguresDuringMessage(dialog, "Find=b Command1! Command5! Command4! Find=x Command1!");
-}
-
-TEST_F(ZamenaTest, EnterAtTheBoxForTheCasePressesTheDefaultButton) {
-  ExpectState(dialog, "Find=b Rozlisovat:\r", "Find=Text Rozlisovat=1 Label3= History=");
-}
-
-TEST_F(ZamenaTest, TheDialogMovesOffTheMatch) { ExpectMovedOffTheMatch(dialog, "Find=b Command1!"); }
-
 TEST_F(ProgramTest, CommandsOpenTheirWindowsAndEscapeClosesThem) {
   const std::pair<const char*, const char*> cases[] = {
       {"mnuopen", "Otevři"}, {"Open", "Otevři"},           {"mnusave", "Ulož"},
       {"Save", "Ulož"},      {"mnudir", "DirSetup"},       {"mnu_utiliti_dos_unix", "Dos_Unix_conv"},
-      {"Find", "Hledání"},   {"mnuASCII", "kod"},          {"mnuklavesnice", "Klavesnice"},
-      {"mnucalk", "Kalkul"}, {"mnu_analysis", "Analytic"}, {"mnumorse", "Morse"},
+      {"Find", "Hledání"},   {"mnu_analysis", "Analytic"}, {"mnumorse", "Morse"},
   };
   for (const auto& [command, window] : cases) {
     QWidget& opened = Open(command);
@@ -175,8 +129,8 @@ struct VyberTest : ProgramTest {};
 
 TEST_F(VyberTest, ShowsTheSelectionAtEachCommand) {
   const std::pair<const char*, const char*> cases[] = {
-      {"0[1|234", "Start=1 Delka=1 Label5=1"}, {"01[234|", "Start=2 Delka=3 Label5=234"},
-      {"01|234", "Start=2 Delka=0 Label5="},   {"[01234|", "Start=0 Delka=5 Label5=01234"},
+      {"01[234|", "Start=2 Delka=3 Label5=234"},
+      {"[01234|", "Start=0 Delka=5 Label5=01234"},
       {"01234|", "Start=5 Delka=0 Label5="},
   };
   for (const auto& [marked, state] : cases) {
@@ -280,11 +234,6 @@ TEST(PosWindow, PlacesTheMainWindow) {
   const TwipsRect screen = ScreenTwips(pos);
   EXPECT_EQ(view.calls, std::vector<std::string>{"normal"});
   EXPECT_EQ(view.place, (TwipsRect{0, screen.height / 2, screen.width / 2, screen.height / 2}));
-  QTest::keyClick(grid, Qt::Key_Up);
-  QTest::keyClick(grid, Qt::Key_Right);
-  ExpectState(pos, "", "Label1=Maximalizace");
-  QTest::keyClick(grid, Qt::Key_Space);
-  EXPECT_EQ(view.place, (TwipsRect{0, 0, screen.width, screen.height}));
 }
 
 struct VisualTest : ProgramTest {
