@@ -109,15 +109,6 @@ TEST_F(BrowserTest, EnterLoadsTheTypedAddress) {
   EXPECT_EQ(List(), "http://www.priklad.cz");
 }
 
-TEST_F(BrowserTest, APageThatFinishesLeavesAHalfTypedAddress) {
-  window.ShowInBrowser("/a.html");
-  Work(window, "cboAddress= cboAddress:x.cz");
-  view->Finish();
-  EXPECT_EQ(address.currentText(), QStringLiteral("x.cz"));
-  QTest::keyClick(&address, Qt::Key_Enter);
-  EXPECT_EQ(calls.back(), QStringLiteral("load http://x.cz"));
-}
-
 TEST_F(BrowserTest, OnlyAChoiceByThePersonLoadsARowOfTheList) {
   for (const char* page : {"/a.html", "/b.html"}) {
     window.ShowInBrowser(page);

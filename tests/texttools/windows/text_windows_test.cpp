@@ -9,7 +9,6 @@
 #include "text/codepage.h"
 #include "texttools/appearance.h"
 #include "texttools/windows/formatuj.h"
-#include "texttools/windows/vyber.h"
 
 namespace pelmar {
 namespace {
@@ -19,13 +18,14 @@ void Enter(const QWidget& dialog) { QTest::keyClick(dialog.focusWidget(), Qt::Ke
 // The searches show the main window, with the match in the document.
 struct SearchTest : ProgramTest {
   SearchTest() { main.show(); }
+  QWidget& OpenFor(const char* command, const char* marked) {
+    PutMarked(text, marked);
+    return Open(command);
+  }
 };
 
 struct HledaniTest : SearchTest {
-  QWidget& OpenFor(const char* marked) {
-    PutMarked(text, marked);
-    return Open("mnufind");
-  }
+  QWidget& OpenFor(const char* marked) { return SearchTest::OpenFor("mnufind", marked); }
 };
 
 TEST_F(HledaniTest, AStartAllowsOnlyTheNextMatch) {
@@ -35,16 +35,6 @@ TEST_F(HledaniTest, AStartAllowsOnlyTheNextMatch) {
               "Find=(jedna) Command1='(&Start hledání)' Rozlisovat=(1) Command2='&Další vyhledaný' History=(jedna) "
               "Label3=1 Label5=0 Text1='jedna dvě jedna'");
   EXPECT_EQ(Marked(text), "[jedna| dvě jedna");
-}
-
-TEST_F(HledaniTest, EnterStartsThenGoesOnAndEndsInTheFieldOfTheTerm) {
-  const auto& dialog = OpenFor("|jedna dvě jedna");
-  ExpectState(dialog, "Find=jedna Find:\r", "Label3=1 Label5=0");
-  Enter(dialog);  // on Command2, though Command4 is the default button
-  ExpectState(dialog, "", "Label3=2 Label5=10");
-  platform.answers = {Answer::kOk};
-  Enter(dialog);
-  EXPECT_EQ(dialog.focusWidget(), Named(dialog, "Find"));
 }
 
 TEST_F(HledaniTest, ARowOfTheHistoryIsTheTerm) {
@@ -69,12 +59,7 @@ TEST_F(HledaniTest, TheDialogMovesOffTheMatch) {
 }
 
 struct ZamenaTest : SearchTest {
-  QWidget& dialog = OpenFor("|a¶b a¶b");
-
-  QWidget& OpenFor(const char* marked) {
-    PutMarked(text, marked);
-    return Open("mnuchange");
-  }
+  QWidget& dialog = OpenFor("mnuchange", "|a¶b a¶b");
 };
 
 TEST_F(ZamenaTest, AStartAllowsTheStepsOnly) {
@@ -125,39 +110,25 @@ TEST_F(ProgramTest, CommandsOpenTheirWindowsAndEscapeClosesThem) {
   }
 }
 
-struct VyberTest : ProgramTest {};
-
-TEST_F(VyberTest, ShowsTheSelectionAtEachCommand) {
-  const std::pair<const char*, const char*> cases[] = {
-      {"01[234|", "Start=2 Delka=3 Label5=234"},
-      {"[01234|", "Start=0 Delka=5 Label5=01234"},
-      {"01234|", "Start=5 Delka=0 Label5="},
-  };
-  for (const auto& [marked, state] : cases) {
-    PutMarked(text, marked);
-    editor.commands.Run("mnupresnvyb");  // from the second time on the window is already open
-    ExpectState(parts.windows.Get<Vyber>(), "", state);
-    EXPECT_EQ(Marked(text), marked);
-  }
-}
-
-TEST_F(VyberTest, SetsTheSelectionAndCutsItAtTheEnd) {
-  PutMarked(text, "01[2|34");
+TEST_F(ProgramTest, TheExactSelectionShowsAndSetsTheSelectionAndCutsItAtTheEnd) {
+  PutMarked(text, "01234|");
   const QWidget& dialog = Open("mnupresnvyb");
+  ExpectState(dialog, "", "Start=5 Delka=0 Label5=");
+  PutMarked(text, "01[2|34");
+  editor.commands.Run("mnupresnvyb");  // while the window is open
+  ExpectState(dialog, "", "Start=2 Delka=1 Label5=2");
+  EXPECT_EQ(Marked(text), "01[2|34");
   ExpectState(dialog, "Delka=99", "Delka=3 Label2=3 Label5=234");
   ExpectState(dialog, "Start=4", "Delka=1 Label1=4 Label2=1 Label5=4");
   EXPECT_EQ(Marked(text), "0123[4|");
 }
 
-struct FormatujTest : ProgramTest {};
-
-TEST_F(FormatujTest, WorksOnTheRowsAndWritesThemBack) {
+TEST_F(ProgramTest, TheColumnFormatterWorksOnTheRowsAndWritesThemBack) {
   const struct {
     const char *document, *steps, *state, *after;
   } cases[] = {
       {"x[ab¶cde|x", "Hz=9", "List1=ab|cde Label2=2 Label4=2 Hz=2 Label7=2 Label8=0", "xab¶cde|x"},
       {"[ab¶cde|", "Hz=1 Text1=- Text1:\r", "List1=a-b|c-de Label2=2 Label4=3 Label7=1", "a-b¶c-de|"},
-      {"[ab¶cde|", "Hk=1 Text2=č Text2:\r", "List1=ačb|cdče Label4=3 Label8=1", "ačb¶cdče|"},
       {"[ab¶cde|", "Text1=- Text2=+ Command3! Command4! Hk=9", "List1=-ab+|-cde+ Hk=4", "-ab+¶-cde+|"},
       {"[ab¶cde|", "Hz=1 Command6!", "List1=a|ce Label4=1", "a¶ce|"},
       {"[ab¶cde|", "Hk=1 Command5!", "List1=b|ce Label4=1", "b¶ce|"},
@@ -177,7 +148,7 @@ TEST_F(FormatujTest, WorksOnTheRowsAndWritesThemBack) {
   }
 }
 
-TEST_F(FormatujTest, WithoutASelectionSaysSoAndHasNoRows) {
+TEST_F(ProgramTest, TheColumnFormatterNeedsASelection) {
   platform.answers = {Answer::kOk};
   Formatuj dialog(text, platform, nullptr);
   ExpectState(dialog, "Hz=9 Hk=9", "List1= Label2=0 Label4=0 Hz=0 Hk=0");
