@@ -173,31 +173,22 @@ TEST(Replace, AllGoesByCharacter255) {
   for (const auto& [text, term, change, after] : cases) EXPECT_EQ(ReplaceAllByMarker(text, term, change), after);
 }
 
-struct PrimitiveFindTest : testing::Test {
+TEST(PrimitiveFind, AsksAtEachHitUntilNothingIsFoundOrThePersonSaysNo) {
+  const auto hit = [](int place) {
+    return "message 36 \"Nalezeno na " + std::to_string(place) + " místě, pokračovat ?\" \"hledání\"";
+  };
+  const std::string ask = "input \"Vložte prosím text na hledání.\" \"Hledání\" \"ab\"";
+  const std::string end = "message 0 \"Nalezeno 2 X\" \"Hledání\"";
   ScriptedPlatform platform;
   TextBuffer text;
-  const std::string ask = "input \"Vložte prosím text na hledání.\" \"Hledání\" \"ab\"";
-  static std::string Hit(int place) {
-    return "message 36 \"Nalezeno na " + std::to_string(place) + " místě, pokračovat ?\" \"hledání\"";
-  }
-  const std::string end = "message 0 \"Nalezeno 2 X\" \"Hledání\"";
-};
-
-TEST_F(PrimitiveFindTest, AsksAtEachHitUntilNothingIsFound) {
   PutMarked(text, "[ab| ab");
-  platform.inputs = {"ab"};
-  platform.answers = {Answer::kYes, Answer::kYes, Answer::kOk, Answer::kOk};
+  platform.inputs = {"ab", std::nullopt};
+  platform.answers = {Answer::kYes, Answer::kYes, Answer::kOk, Answer::kOk, Answer::kYes, Answer::kNo, Answer::kOk};
   FindPrimitively(text, platform);
-  EXPECT_EQ(platform.calls, (Calls{ask, Hit(1), Hit(4), kNothingFound, end}));
+  EXPECT_EQ(platform.TakeCalls(), (Calls{ask, hit(1), hit(4), kNothingFound, end}));
   EXPECT_EQ(Marked(text), "ab [ab|");
-}
-
-TEST_F(PrimitiveFindTest, ACancelIsAnEmptyTermAndNoEndsTheSearch) {
-  PutMarked(text, "[ab| ab");
-  platform.inputs = {std::nullopt};
-  platform.answers = {Answer::kYes, Answer::kNo, Answer::kOk};
-  FindPrimitively(text, platform);
-  EXPECT_EQ(platform.calls, (Calls{ask, Hit(1), Hit(2), end}));
+  FindPrimitively(text, platform);  // a cancelled question is an empty term
+  EXPECT_EQ(platform.calls, (Calls{ask, hit(1), hit(2), end}));
 }
 
 }  // namespace

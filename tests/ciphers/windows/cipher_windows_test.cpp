@@ -59,7 +59,11 @@ struct ShiftKodTest : ProgramTest {
   const QWidget& dialog = Open("mnu_encrypt_shift");
 };
 
-TEST_F(ShiftKodTest, ShiftsTheWholeDocumentThereAndBack) {
+TEST_F(ShiftKodTest, ShiftsTheWholeDocumentThereAndBackByAChosenOrDrawnShift) {
+  platform.draws = {0.99, 0.0};
+  ExpectState(dialog, "Command4!", "Label4=26");
+  ExpectState(dialog, "Command4!", "Label4=0");
+  EXPECT_EQ(platform.reseeds, 2);
   PutMarked(text, "[A|z");  // required: the selection doesn't matter
   ExpectState(dialog, "HScroll1=5 Command1!", "Label4=5 Label2=FGHIJKLMNOPQRSTUVWXYZABCDE");
   EXPECT_EQ(text.Text(), "Fe");
@@ -79,18 +83,14 @@ TEST_F(ShiftKodTest, TheQuickTextIsShiftedAsItIsTypedAndByTheBarIfTicked) {
   EXPECT_EQ(text.Text(), "Az");
 }
 
-TEST_F(ShiftKodTest, DrawsAShiftFrom0To26) {
-  platform.draws = {0.99, 0.0};
-  ExpectState(dialog, "Command4!", "Label4=26");
-  ExpectState(dialog, "Command4!", "Label4=0");
-  EXPECT_EQ(platform.reseeds, 2);
-}
-
 struct ConfeldTest : ProgramTest {
   const QWidget& dialog = Open("Mnu_Encrypt_Confeld");
 };
 
-TEST_F(ConfeldTest, MovesTheWholeDocumentThereAndBack) {
+TEST_F(ConfeldTest, MovesTheWholeDocumentThereAndBackByATypedOrDrawnPassword) {
+  platform.draws.assign(15, 0.999);
+  ExpectState(dialog, "Command4!", "Text1=999999999999999");
+  EXPECT_EQ(platform.reseeds, 1);
   PutMarked(text, "[aa| aa");  // required: the selection doesn't matter
   ExpectState(dialog, "Text1=012 Command1!", "Text1=12");
   EXPECT_EQ(text.Text(), "bc cb");
@@ -105,12 +105,6 @@ TEST_F(ConfeldTest, TheQuickTextIsMovedByTheButtonsOnly) {
   ExpectState(dialog, "Command1!", "Text2=Ad");
   ExpectState(dialog, "Command2!", "Text2=Yz");
   EXPECT_EQ(text.Text(), "aa");
-}
-
-TEST_F(ConfeldTest, DrawsAPassword) {
-  platform.draws.assign(15, 0.999);
-  ExpectState(dialog, "Command4!", "Text1=999999999999999");
-  EXPECT_EQ(platform.reseeds, 1);
 }
 
 TEST_F(ProgramTest, ChtTranscribesTheDocumentAndShowsTheLookAlikes) {
@@ -136,15 +130,12 @@ struct ShiftTest : ProgramTest {
   }
 };
 
-TEST_F(ShiftTest, WithoutASelectionTheCommandAsksForOne) {
+TEST_F(ShiftTest, OkWritesTheRotatedTextAndTheCommandNeedsASelection) {
+  Rotate("HScroll1=3 HScroll1=1 Command1!", "Label2=1 Text1=bcda");
+  EXPECT_EQ(Marked(text), "xbcda|x");
   platform.answers = {Answer::kOk};
   editor.commands.Run("MnuSelTextPosun");
   EXPECT_EQ(platform.TakeCallsInOneLine(), "message 0 \"Vyber text!\" \"Posun\"; ");
-}
-
-TEST_F(ShiftTest, OkWritesTheRotatedTextAndMovesTheCaretBehindIt) {
-  Rotate("HScroll1=3 HScroll1=1 Command1!", "Label2=1 Text1=bcda");
-  EXPECT_EQ(Marked(text), "xbcda|x");
 }
 
 TEST_F(ShiftTest, TheBarGoesFrom1ToTheLengthOfTheSelection) {

@@ -92,13 +92,18 @@ TEST_F(BrowserTest, ThePictureOfALoadHasEightFrames) {
   EXPECT_EQ(frames.size(), 8);
 }
 
-TEST_F(BrowserTest, AFinishedPageStandsOnceInTheListAndAtItsTop) {
+TEST_F(BrowserTest, AFinishedPageStandsOnceAtTheTopOfTheListWhereOnlyAPersonChooses) {
   for (const char* page : {"/a.html", "/b.html", "/a.html"}) {
     window.ShowInBrowser(page);
     view->Finish();
   }
   EXPECT_EQ(List(), "file:///a.html file:///b.html");
+  Q_EMIT address.lineEdit()->editingFinished();
+  address.setCurrentIndex(1);
   EXPECT_EQ(calls.size(), 3);  // a change of the list loads nothing
+  Calls();
+  QTest::keyClick(&address, Qt::Key_Up);
+  EXPECT_EQ(Calls(), "load file:///a.html");
 }
 
 TEST_F(BrowserTest, EnterLoadsTheTypedAddress) {
@@ -107,19 +112,6 @@ TEST_F(BrowserTest, EnterLoadsTheTypedAddress) {
   EXPECT_EQ(List(), "");  // it joins the list when the page is there
   view->Finish();
   EXPECT_EQ(List(), "http://www.priklad.cz");
-}
-
-TEST_F(BrowserTest, OnlyAChoiceByThePersonLoadsARowOfTheList) {
-  for (const char* page : {"/a.html", "/b.html"}) {
-    window.ShowInBrowser(page);
-    view->Finish();
-  }
-  Calls();
-  Q_EMIT address.lineEdit()->editingFinished();
-  address.setCurrentIndex(1);
-  EXPECT_EQ(Calls(), "");
-  QTest::keyClick(&address, Qt::Key_Up);
-  EXPECT_EQ(Calls(), "load file:///b.html");
 }
 
 TEST_F(BrowserTest, EachButtonOfTheToolBarActsAndStartsTheTimer) {
