@@ -146,11 +146,8 @@ TEST_F(ProgramTest, TheColumnFormatterWorksOnTheRowsAndWritesThemBack) {
     EXPECT_EQ(Marked(text), c.after) << c.steps;
     EXPECT_FALSE(dialog.isVisible()) << c.steps;
   }
-}
-
-TEST_F(ProgramTest, TheColumnFormatterNeedsASelection) {
   platform.answers = {Answer::kOk};
-  Formatuj dialog(text, platform, nullptr);
+  const Formatuj dialog(text, platform, nullptr);  // without a selection
   ExpectState(dialog, "Hz=9 Hk=9", "List1= Label2=0 Label4=0 Hz=0 Hk=0");
   EXPECT_EQ(platform.TakeCallsInOneLine(), "message 0 \"Vyber text\" \"Fomátování\"; ");
 }
@@ -220,7 +217,7 @@ struct VisualTest : ProgramTest {
   }
 };
 
-TEST_F(VisualTest, BeginsWithTheLookChangesItsPreviewAndAppliesItByOk) {
+TEST_F(VisualTest, BeginsWithTheLookAndChangesItsPreviewButTheEditorByOkAndDos) {
   const QWidget& visual = Open("mnumore");
   ExpectState(visual, "", "Check2=1 Check3=1 Check1=1 Option2=1 Combo1=12 VScroll7=300 Label12=300");
   ExpectPreview(visual, "", "Courier New 12 bold italic #0A0000 #C8C8C8");
@@ -229,13 +226,9 @@ TEST_F(VisualTest, BeginsWithTheLookChangesItsPreviewAndAppliesItByOk) {
   EXPECT_EQ(Described(main.Look()), "Courier New 12 bold italic #0A0000 #C8C8C8");
   Work(visual, "Command1!");
   EXPECT_EQ(Described(main.Look()), "Terminal 8 italic #0B0000 #C9C8C8");  // 11 is none of the six sizes
-}
-
-TEST_F(VisualTest, TheBasicLookChangesThePreviewAndTheDosLookTheEditor) {
-  const QWidget& visual = Open("mnumore");
   ExpectPreview(visual, "Command3!", "Courier New 8 #000000 #FFFFFF");
   ExpectPreview(visual, "Command4!", "Courier New 8 #000000 #FFFFFF");
-  EXPECT_EQ(Described(main.Look()), "Courier New 8 #C2C2C2 #000000");
+  EXPECT_EQ(Described(main.Look()), "Courier New 8 #C2C2C2 #000000");  // the button Dos changes the editor at once
 }
 
 TEST_F(VisualTest, TheDistanceIsStoredByItsButtonAndLineCountingAtOnce) {
