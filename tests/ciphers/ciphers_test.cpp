@@ -140,18 +140,14 @@ struct StreamTest : testing::Test {
   }
 };
 
-TEST_F(StreamTest, GoesOnBehindCode8AfterNo) {
-  platform.answers = {Answer::kOk, Answer::kNo};
+TEST_F(StreamTest, GoesOnBehindCode8AfterNoAndKeepsTheDocumentAfterYes) {
+  platform.answers = {Answer::kOk, Answer::kNo, Answer::kOk, Answer::kYes};
   Rewrite("a\bb");
   EXPECT_EQ(document.Text(), Enciphered("a\bb", 3));
   EXPECT_EQ(platform.TakeCallsInOneLine(),
             "message 0 \"Porusena intengrita textu!\" \"Kódování\"; "
             "message 52 \"Ukončit proces? (doporučuji ne)\" \"Kódování\"; ");
   EXPECT_EQ(progress, (std::vector<std::size_t>{1, 2, 2, 3}));  // the warning stands at its character
-}
-
-TEST_F(StreamTest, EndsAtCode8AfterYesAndKeepsTheDocument) {
-  platform.answers = {Answer::kOk, Answer::kYes};
   Rewrite("a\bb");
   EXPECT_EQ(document.Text(), "a\bb");
   EXPECT_EQ(output, Enciphered("a", 3));

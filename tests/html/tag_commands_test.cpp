@@ -68,11 +68,8 @@ TEST_F(TagCommandsTest, MakeListsOfLines) {
   };
   for (const auto& [lines, list] : cases) EXPECT_EQ(Made("mnu_HTML_sel_list", lines), list);
   EXPECT_EQ(Made("mnu_HTML_sel_num_list", "ab"), "<OL><LI>a</LI></OL>-");
-}
-
-TEST_F(TagCommandsTest, AskForASelectionBeforeTheyMakeAList) {
   platform.answers = {Answer::kOk};
-  EXPECT_EQ(Made("mnu_HTML_sel_num_list", ""), "-");
+  EXPECT_EQ(Made("mnu_HTML_sel_num_list", ""), "-");  // needs a selection
   EXPECT_EQ(platform.TakeCallsInOneLine(), "message 0 \"Vyber text\" \"HTML list\"; ");
 }
 

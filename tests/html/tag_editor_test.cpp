@@ -75,22 +75,7 @@ std::string ShownSlowly(const std::string& text, std::size_t caret) {
   return shown;
 }
 
-// required: all of it is what a row of text rewritings makes of a tag
-TEST(TagEditor, ReadsATagByItsGrammar) {
-  const std::pair<std::string_view, std::string_view> cases[] = {
-      {"x| <B>", "none"},
-      {"<B>x|</B>", "4+4 /B"},                                         // "<" directly behind the caret
-      {R"(|<A HREF= ID='x y' R=a>)", R"(0+22 A|HREF:ID="'x y'|R:a)"},  // a "=" inside a value gains a quote
-      {R"(|<F  SIZE = 3>)", "0+13 F|:True|SIZE:3"},  // a second blank leaves a lone quote: a row without a name
-      {"|<A ID=x HREF=>", "0+14 A|ID:x|HREF !Přepis"},
-  };
-  for (const auto& [marked, shown] : cases) {
-    TextBuffer text;
-    PutMarked(text, marked);
-    EXPECT_EQ(Shown(AnalyseTag(text.Text(), text.SelStart())), shown) << marked;
-  }
-}
-
+// required: what a row of text rewritings makes of a tag, for example a lone quote of two blanks
 TEST(TagEditor, ReadsRandomTagsAsASlowReaderDoes) {
   RandomSource random(20240506);
   for (int round = 0; round < 20000; ++round) {

@@ -139,18 +139,13 @@ TEST_F(BrowserTest, StopEndsTheLoadAtOnce) {
   EXPECT_FALSE(timer.isActive());
 }
 
-TEST_F(BrowserTest, AloneItStartsWithItsPage) {
-  EXPECT_TRUE(window.StartingAddress.startsWith(QStringLiteral("https://")));
-  window.StartingAddress = QStringLiteral("https://a.cz/");
-  window.ShowAlone();
-  EXPECT_EQ(Calls(), "load https://a.cz/");
-}
-
-TEST_F(BrowserTest, AloneItEndsTheProgramAfterAQuestion) {
+TEST_F(BrowserTest, AloneItStartsWithItsPageAndEndsTheProgramAfterAQuestion) {
   int ended = 0;
   FrmBrowser alone(*this, platform, [&] { ++ended; });
   EXPECT_EQ(Find<QAction>(alone, "Close")->toolTip(), QStringLiteral("Ukončit program"));
-  alone.Present();
+  EXPECT_TRUE(alone.StartingAddress.startsWith(QStringLiteral("https://")));
+  alone.ShowAlone();
+  EXPECT_EQ(Calls(), "load " + alone.StartingAddress.toStdString());
   platform.answers = {Answer::kNo, Answer::kYes};
   EXPECT_FALSE(alone.close());
   EXPECT_TRUE(alone.isVisible());
@@ -158,13 +153,6 @@ TEST_F(BrowserTest, AloneItEndsTheProgramAfterAQuestion) {
   EXPECT_EQ(platform.calls.back(), "message 276 \"OPRAVDU UKONČIT Browser (Pelmar VEX) ?\" \"Konec\"");
   Work(alone, "Close!");
   EXPECT_EQ(ended, 1);
-}
-
-TEST_F(BrowserTest, AnAddressOfTheEngineIsRefused) {
-  platform.answers = {Answer::kOk};
-  Work(window, "cboAddress:chrome://crash\r");
-  EXPECT_EQ(Calls(), "");
-  EXPECT_TRUE(platform.TakeCallsInOneLine().starts_with("message 64 \"Takovou adresu interní browser neotvírá:"));
 }
 
 TEST(WebAddress, OnlyPagesMayBeShown) {

@@ -166,10 +166,8 @@ TEST_F(HtmlDialogTest, APageHasTheChosenBackground) {
   // required: a bare name makes a file's address too
   ExpectDocument("Newhtml", "Check4! Command1!", "[x|",
                  kPageHead + " BACKGROUND=\"file:///ž%D0%96.GIF\">¶[x|" + kPageEnd);
-}
-
-TEST_F(HtmlDialogTest, APageWithoutABackgroundNeedsNoFile) {
-  ExpectDocument("Newhtml", "Check3! Check3! Dir1=/ Command1!", "[x|", kPageHead + ">¶[x|" + kPageEnd);
+  // without a background it needs no file
+  ExpectDocument("Newhtml", "Dir1=/ Check3! Combo1=*.BMP Command1!", "[x|", kPageHead + ">¶[x|" + kPageEnd);
 }
 
 TEST_F(HtmlDialogTest, TablesRowsAndCellsHaveTheTickedAttributes) {
@@ -473,11 +471,8 @@ struct SampleTest : HtmlDialogTest {
   }
 };
 
-TEST_F(SampleTest, WithoutAChoiceTheHintTakesThePlaceOfTheDocument) {  // required
-  ExpectDocument("mnutemplate", "Command1!", "[x|", "|Vyber dokument¶");
-}
-
 TEST_F(SampleTest, TheChosenRowIsShown) {
+  EXPECT_EQ(Preview(), "Vyber dokument\r\n");  // required: Ok would put this hint into the document
   list.setFocus();
   QTest::keyClick(&list, Qt::Key_Down);  // the first row, not the second
   EXPECT_EQ(Preview(), SampleText("HTML1", editor.settings));
