@@ -164,15 +164,13 @@ TEST_F(TableFilesTest, SaveOverwritesOnlyAfterYesAndKeepsTheOldTail) {
   EXPECT_EQ(platform.files["/a.pvt"], bytes + std::string(5000 - bytes.size(), 'x'));
 }
 
-TEST_F(TableFilesTest, ACancelledSaveWritesTheLastFileAgain) {  // required
+// required
+TEST_F(TableFilesTest, ACancelledSaveWritesTheLastFileAgainAndAFailedOneIsNotReported) {
   EXPECT_EQ(Save(std::nullopt), kSaveDialog);
   EXPECT_EQ(Save("/a.pvt"), kSaveDialog + "write /a.pvt; ");
   EXPECT_EQ(platform.files["/a.pvt"], TableBytes(table));
   platform.answers = {Answer::kNo};
   EXPECT_EQ(Save(std::nullopt), kSaveDialog + kOverwrite);
-}
-
-TEST_F(TableFilesTest, AFailedSaveIsNotReported) {  // required
   platform.write_errors["/full.pvt"] = ENOSPC;
   EXPECT_EQ(Save("/full.pvt"), kSaveDialog + "write /full.pvt; ");
 }
@@ -187,16 +185,14 @@ TEST_F(TableFilesTest, LoadKeepsTheTableIfItCannotRead) {
   }
 }
 
-TEST_F(TableFilesTest, ACancelledLoadReadsTheLastFileAgain) {  // required
+// required
+TEST_F(TableFilesTest, ACancelledLoadReadsTheLastFileAgainAndAMissingFileReadsAsEmpty) {
   platform.files["/a.pvt"] = TableBytes(Table(16, "file"));
   EXPECT_EQ(Load("/a.pvt"), "file");
   table = {};
   EXPECT_EQ(Load(std::nullopt), "file");
   EXPECT_EQ(TableBytes(table), platform.files["/a.pvt"]);
-}
-
-TEST_F(TableFilesTest, AMissingFileIsCreatedAndReadAsEmpty) {  // required
-  EXPECT_EQ(Load("/new.pvt"), "");
+  EXPECT_EQ(Load("/new.pvt"), "");  // a missing file is created
   EXPECT_EQ(platform.files.at("/new.pvt"), "");
   EXPECT_EQ(TableBytes(table), TableBytes({}));
 }

@@ -50,6 +50,7 @@ TEST(TextTools, EachCommandLeavesItsTextAndCalls) {
       {"mnunahslovo", "x[a b|x", "xgn |a bx", "", kOk, 1},
       {"mnunahjmeno", "x|a", "xGn Agntagnt |a", "", kOk, 1},
       {"mnunahtex", "|x", "Gna tgtgtgt. |x", "", kOk, 1},
+      // required: the last word has no blank
       {"MnuSelTextDada", "x[a b c d e|x", "xa c d eb |x", "busy 1; busy 0; ", kOk, 1},
 
       {"mnuadd", "a[bc|d", "aXY|bcd"},  // required: never over the selection
@@ -83,14 +84,6 @@ TEST(TextTools, EachCommandLeavesItsTextAndCalls) {
   }
 }
 
-// Gives these draws in turn, again and again.
-struct Drawn {
-  std::vector<double> draws;
-  std::size_t taken = 0;
-
-  double operator()() { return draws[taken++ % draws.size()]; }
-};
-
 TEST(RandomText, FollowsItsDraws) {
   const std::vector<double> lowest{0}, highest{0.999};
   const std::vector<double> mixed{0, 0, 0, 0.3, 0.9, 0.05, 0.3, 0.3, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0.6};
@@ -108,20 +101,11 @@ TEST(RandomText, FollowsItsDraws) {
       {RandomName, highest, "Zzzzzzzzzz Zzzzzzzzzz ", 22},
   };
   for (const auto& c : cases) {
-    Drawn drawn{c.draws};
-    EXPECT_EQ(c.generate(std::ref(drawn)), c.text);
-    EXPECT_EQ(drawn.taken, c.taken) << c.text;
+    std::size_t taken = 0;
+    EXPECT_EQ(c.generate([&] { return c.draws[taken++ % c.draws.size()]; }), c.text);
+    EXPECT_EQ(taken, c.taken) << c.text;
   }
   EXPECT_TRUE(RandomSentence([] { return 0.999; }).ends_with("Z" + std::string(49, 'z') + "! "));
-}
-
-TEST(RandomText, ShuffledWordsRunIntoEachOther) {  // required: the last one has no blank
-  const std::pair<double, const char*> cases[] = {{0, "a b\r\n  c"}, {0.999, "c b\r\n a "}, {0.5, " b\r\n ca "}};
-  for (const auto& [draw, shuffled] : cases) {
-    Drawn drawn{{draw}};
-    EXPECT_EQ(ShuffledWords("a b\r\n  c", std::ref(drawn)), shuffled) << draw;
-    EXPECT_EQ(drawn.taken, 4u);
-  }
 }
 
 TEST(ColumnFormat, TheLoadMakesItsRowsAndTellsTheShortest) {

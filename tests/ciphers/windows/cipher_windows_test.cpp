@@ -33,20 +33,14 @@ TEST_F(ZaKodTest, TwiceTheSameKeyRestoresTheWholeDocument) {
   EXPECT_EQ(text.Text(), "ab");
 }
 
-TEST_F(ZaKodTest, ASecondClickDuringARunStartsNoSecondRun) {
+TEST_F(ZaKodTest, WhatAPersonDoesDuringARunIsLeftAlone) {
   std::string once;
   StreamCipher(0).Append(long_text, once);
-  EXPECT_EQ(After([&] { Work(dialog, "Command1!"); }), once);
-}
-
-TEST_F(ZaKodTest, AnotherTabChosenDuringARunIsLeftAlone) {
-  EXPECT_EQ(After([&] { Work(main, "FileTab=1"); }), "");
-}
-
-TEST_F(ZaKodTest, AFileOpenedDuringARunIsLeftAloneEvenWithTheSameText) {
+  EXPECT_EQ(After([&] { Work(dialog, "Command1!"); }), once);  // starts no second run
   platform.files = {{"/same.txt", long_text}};
   platform.opens = {"/same.txt"};
   EXPECT_EQ(After([&] { editor.commands.Run("mnu_open_st"); }), long_text);
+  EXPECT_EQ(After([&] { Work(main, "FileTab=1"); }), "");
 }
 
 TEST_F(ZaKodTest, AProgramThatEndsDuringARunKeepsTheDocument) {
@@ -193,18 +187,13 @@ TEST_F(RndSifraTest, NewCodesKeepTheLettersAndNewLettersTheCodes) {
   EXPECT_EQ(platform.reseeds, 3);
 }
 
-TEST_F(RndSifraTest, ACancelledLoadSaysSoAndLeavesTheTable) {
-  platform.opens = {std::nullopt};
-  platform.answers = {Answer::kOk};
+TEST_F(RndSifraTest, WithoutATableItSaysSoAndEnciphersNothing) {
+  platform.opens = {std::nullopt, "/new.pvt"};
+  platform.answers = {Answer::kOk, Answer::kOk};
   ExpectState(dialog, "Command3!", "List1= Command5=(Zašifruj)");
   EXPECT_EQ(platform.calls.back(), "message 0 \"Nepodařilo se otevřít ...\" \"Open RND\"");
-}
-
-TEST_F(RndSifraTest, AnEmptyFileIsATableThatEnciphersNothing) {
   text.SetText("keep");
-  platform.opens = {"/new.pvt"};
-  platform.answers = {Answer::kOk};
-  Work(dialog, "Command2! Command3!");
+  Work(dialog, "Command2! Command3!");  // loads an empty file
   ExpectState(dialog, "Text1=KEEP Command6! Command8!", "Label6='Koeficienty nelze spočítat (dělení nulou)'");
   EXPECT_EQ(text.Text(), "keep");
 }
