@@ -103,12 +103,10 @@ TEST(NumberText, ReadsWhatHasTheFormOfANumber) {
 }
 
 TEST(NumberText, ReadsNumbersOutOfRangeByWhatFits) {
-  const std::pair<std::string, const char*> cases[] = {{"1E999", "1E+99"},
-                                                       {"1E+3000", "1E+300"},  // a shorter part is small enough
-                                                       {"1E-999", "0"},
-                                                       {"0." + std::string(400, '0') + "1E+5", "0"},
-                                                       {std::string(400, '1') + "E-5", "1,11111111111111E+308"}};
-  for (const auto& [text, number] : cases) EXPECT_EQ(NumberText(LeadingNumber(text)), number) << text;
+  EXPECT_EQ(LeadingNumber("1E999"), 1e99);
+  EXPECT_EQ(LeadingNumber("1E+3000"), 1e300);
+  EXPECT_EQ(LeadingNumber("1E-999"), 0);
+  EXPECT_EQ(LeadingNumber("0." + std::string(400, '0') + "1E+5"), 0);
   EXPECT_EQ(ParseNumber("inf"), std::nullopt);
 }
 

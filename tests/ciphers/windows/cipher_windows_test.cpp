@@ -49,11 +49,8 @@ TEST_F(ZaKodTest, AProgramThatEndsDuringARunKeepsTheDocument) {
   EXPECT_EQ(QCoreApplication::exec(), 0);
 }
 
-struct ShiftKodTest : ProgramTest {
+TEST_F(ProgramTest, ShiftKodShiftsTheWholeDocumentThereAndBackOrTheQuickTextIfTicked) {
   const QWidget& dialog = Open("mnu_encrypt_shift");
-};
-
-TEST_F(ShiftKodTest, ShiftsTheWholeDocumentThereAndBackByAChosenOrDrawnShift) {
   platform.draws = {0.99, 0.0};
   ExpectState(dialog, "Command4!", "Label4=26");
   ExpectState(dialog, "Command4!", "Label4=0");
@@ -64,11 +61,7 @@ TEST_F(ShiftKodTest, ShiftsTheWholeDocumentThereAndBackByAChosenOrDrawnShift) {
   EXPECT_FALSE(text.CanUndo());  // required for a replaced text
   Work(dialog, "Command2!");
   EXPECT_EQ(text.Text(), "Az");
-}
-
-TEST_F(ShiftKodTest, TheQuickTextIsShiftedAsItIsTypedAndByTheBarIfTicked) {
-  text.SetText("Az");
-  ExpectState(dialog, "HScroll1=5 Text1=abc", "Text2=fgh");
+  ExpectState(dialog, "Text1=abc", "Text2=fgh");  // shifted as it is typed
   ExpectState(dialog, "HScroll1=6", "Text2=fgh");
   ExpectState(dialog, "Check1!", "Text2=ghi");
   ExpectState(dialog, "HScroll1=7", "Text2=hij");
@@ -77,11 +70,8 @@ TEST_F(ShiftKodTest, TheQuickTextIsShiftedAsItIsTypedAndByTheBarIfTicked) {
   EXPECT_EQ(text.Text(), "Az");
 }
 
-struct ConfeldTest : ProgramTest {
+TEST_F(ProgramTest, CronfeldMovesTheWholeDocumentThereAndBackOrTheQuickTextIfTicked) {
   const QWidget& dialog = Open("Mnu_Encrypt_Confeld");
-};
-
-TEST_F(ConfeldTest, MovesTheWholeDocumentThereAndBackByATypedOrDrawnPassword) {
   platform.draws.assign(15, 0.999);
   ExpectState(dialog, "Command4!", "Text1=999999999999999");
   EXPECT_EQ(platform.reseeds, 1);
@@ -91,14 +81,10 @@ TEST_F(ConfeldTest, MovesTheWholeDocumentThereAndBackByATypedOrDrawnPassword) {
   EXPECT_FALSE(text.CanUndo());  // required for a replaced text
   Work(dialog, "Command2!");
   EXPECT_EQ(text.Text(), "aa aa");
-}
-
-TEST_F(ConfeldTest, TheQuickTextIsMovedByTheButtonsOnly) {
-  text.SetText("aa");
-  ExpectState(dialog, "Text1=12 Check1! Text3=Zb", "Text2=");
+  ExpectState(dialog, "Check1! Text3=Zb", "Text2=");  // moved by the buttons only
   ExpectState(dialog, "Command1!", "Text2=Ad");
   ExpectState(dialog, "Command2!", "Text2=Yz");
-  EXPECT_EQ(text.Text(), "aa");
+  EXPECT_EQ(text.Text(), "aa aa");
 }
 
 TEST_F(ProgramTest, ChtTranscribesTheDocumentAndShowsTheLookAlikes) {
@@ -154,7 +140,6 @@ TEST_F(RndSifraTest, EnciphersAndDeciphersThePreparedText) {
   ExpectState(dialog, "Command1!", "Text1='PRILIS\r\nKUN'");
   ExpectState(dialog, "Command5!", "Cnt=11");
   EXPECT_EQ(text.Size(), 11u * 40);
-  EXPECT_FALSE(text.CanUndo());  // required for a replaced text
   ExpectState(dialog, "Command1! Command6!", "Cnt=440");
   EXPECT_EQ(text.Text(), "PRILIS\r\nKUN");
   EXPECT_FALSE(text.CanUndo());    // required for a replaced text
