@@ -1,9 +1,10 @@
-// What is written for the fields of the dialogs, each tag with everything and with its oddities, and the samples.
+// The texts that the dialogs write, with their oddities and limits, and the samples.
 #include <gtest/gtest.h>
 
 #include "html/attributes.h"
 #include "html/blocks.h"
 #include "html/frames.h"
+#include "html/image.h"
 #include "html/link.h"
 #include "html/lists.h"
 #include "html/page.h"
@@ -49,7 +50,10 @@ TEST(Formats, BlocksAndFragments) {
   });
 }
 
-TEST(Formats, PathsAndLinks) {
+TEST(Formats, PathsLinksImagesAndFrames) {
+  const ImageSpec image{
+      "b",  true,      "a \"b\" <", ImageAlign::kLeft, ImageSpec::Size{" 10%", " 20"}, ImageSpec::Space{" 3", " 4"},
+      " 5", "low.jpg", "#mapa"};
   ExpectWritten({
       {FileAddress("C:\\a\\b c.gif", false), "file:///C:/a/b c.gif"},
       {FileAddress("a\\b.gif", true), "a/b.gif"},
@@ -65,6 +69,11 @@ TEST(Formats, PathsAndLinks) {
        R"(<A HREF="x.htm#a" TARGET="_top">Odkaz na x.htm#a</A>)"},
       {Made(kWrap, LinkToDocument({"x.htm", "", ""}), "x"), R"(<A HREF="x.htm" TARGET="">x</A>)"},
       {Made(kWrap, LinkToDocument({"", "a", {}}), "x"), R"(<A HREF="#a">x</A>)"},
+      {ImageTag(image), R"(<IMG SRC="b" ALT="a "b" <" ALIGN="left" WIDTH="10%" HEIGHT="20" VSPACE="3" HSPACE="4")"
+                        R"( BORDER="5" LOWSRC="low.jpg" USEMAP="#mapa">)"},
+      // required: SCROLLING twice, the second as it was typed
+      {FrameTag({.path = "a", .relative = true, .scrolling = "  no", .margins = FrameSpec::Margins{" 0", " 3"}}),
+       R"(<FRAME SRC="a" SCROLLING="no" MARGINHEIGHT="0" MARGINWIDTH="3" SCROLLING="  no">)"},
   });
 }
 
