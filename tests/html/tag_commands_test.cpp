@@ -224,7 +224,7 @@ struct TagEditorOnText : testing::Test {
   }
 };
 
-TEST_F(TagEditorOnText, OpeningSelectsTheTagOrSaysThatThereIsNoneOrABadOne) {
+TEST_F(TagEditorOnText, OpeningSelectsTheTagOrSaysWhatIsWrong) {
   EXPECT_TRUE(Opened("ab<B>|c").empty());
   EXPECT_EQ(Marked(text), "ab[<B>|c");
   EXPECT_EQ(Opened("a[b|"), std::vector<std::string>{R"(message 0 "Není tag!" "EdiTag")"});

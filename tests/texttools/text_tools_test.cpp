@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <vector>
 
 #include "shell/layout_picker.h"

@@ -33,7 +33,7 @@ TEST_F(ZaKodTest, TwiceTheSameKeyRestoresTheWholeDocument) {
   EXPECT_EQ(text.Text(), "ab");
 }
 
-TEST_F(ZaKodTest, WhatAPersonDoesDuringARunIsLeftAlone) {
+TEST_F(ZaKodTest, ADocumentThatAPersonChangesDuringARunIsLeftAlone) {
   std::string once;
   StreamCipher(0).Append(long_text, once);
   EXPECT_EQ(After([&] { Work(dialog, "Command1!"); }), once);  // starts no second run

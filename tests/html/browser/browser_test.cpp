@@ -92,7 +92,7 @@ TEST_F(BrowserTest, ThePictureOfALoadHasEightFrames) {
   EXPECT_EQ(frames.size(), 8);
 }
 
-TEST_F(BrowserTest, AFinishedPageStandsOnceAtTheTopOfTheListWhereOnlyAPersonChooses) {
+TEST_F(BrowserTest, AFinishedPageStandsOnceAtTheTopOfTheListWhichOnlyAPersonLoadsFrom) {
   for (const char* page : {"/a.html", "/b.html", "/a.html"}) {
     window.ShowInBrowser(page);
     view->Finish();

@@ -6,7 +6,6 @@
 #include "shell/windows/pos.h"
 #include "support/plain_view.h"
 #include "support/program_test.h"
-#include "text/codepage.h"
 #include "texttools/appearance.h"
 #include "texttools/windows/formatuj.h"
 
@@ -110,7 +109,7 @@ TEST_F(ProgramTest, CommandsOpenTheirWindowsAndEscapeClosesThem) {
   }
 }
 
-TEST_F(ProgramTest, TheExactSelectionShowsAndSetsTheSelectionAndCutsItAtTheEnd) {
+TEST_F(ProgramTest, VyberShowsAndSetsTheSelectionAndCutsItAtTheEnd) {
   PutMarked(text, "01234|");
   const QWidget& dialog = Open("mnupresnvyb");
   ExpectState(dialog, "", "Start=5 Delka=0 Label5=");
@@ -216,7 +215,7 @@ struct VisualTest : ProgramTest {
   }
 };
 
-TEST_F(VisualTest, BeginsWithTheLookAndChangesItsPreviewButTheEditorByOkAndDos) {
+TEST_F(VisualTest, ThePreviewFollowsAtOnceAndTheEditorByOkOrDos) {
   const QWidget& visual = Open("mnumore");
   ExpectState(visual, "", "Check2=1 Check3=1 Check1=1 Option2=1 Combo1=12 VScroll7=300 Label12=300");
   ExpectPreview(visual, "", "Courier New 12 bold italic #0A0000 #C8C8C8");
