@@ -1,4 +1,4 @@
-// What is written for the fields of the dialogs: each tag with nothing and with everything, and its oddities.
+// The texts that the dialogs write, with their oddities and limits, and the samples.
 #include <gtest/gtest.h>
 
 #include "html/attributes.h"
@@ -8,6 +8,7 @@
 #include "html/link.h"
 #include "html/lists.h"
 #include "html/page.h"
+#include "html/samples/templaty.h"
 #include "html/table_builder.h"
 #include "html/table_tags.h"
 #include "text/codepage.h"
@@ -32,40 +33,27 @@ void ExpectWritten(const Cases& cases) {
   for (const auto& [made, expected] : cases) EXPECT_EQ(ToUtf8(made), expected);
 }
 
-TEST(Lists, NameTheirTypes) {
-  const char* bullets[] = {"disk", "circle", "square"};
-  for (std::size_t type = 0; type < 3; ++type)
-    EXPECT_EQ(BuildList({ListKind::kBullets, type, false, {}, {}}),
-              std::string("<UL TYPE=\"") + bullets[type] + "\">\r\n</UL>");
-  const char* numbers[] = {"1", "a", "A", "I", "i"};
-  for (std::size_t type = 0; type < 5; ++type)
-    EXPECT_EQ(BuildList({ListKind::kNumbers, type, false, {}, {}}),
-              std::string("<OL TYPE=\"") + numbers[type] + "\">\r\n</OL>");
-}
-
 TEST(Formats, BlocksAndFragments) {
-  const FontSpec font{7, "Times", "#FF0000"};
   ExpectWritten({
       {Made(kWrap, Paragraph(Align::kLeft), ""), R"(<P ALIGN = "LEFT" > Odstavcový text </P>)"},
       {Made(kWrap, Heading({" 3", Align::kRight, true}), "x"), R"(<H3 NOWRAP ALIGN = "RIGHT"> x </H3>)"},
       {Made(kWrap, Heading({"6", Align::kNone, false}), ""), "<H6> Nadpisový text </H6>"},
       {Made(kWrap, Font({}), ""), "<FONT> fontové písmo </FONT>"},  // required: blanks around the sample only
-      {Made(kWrap, Font(font), "x"), R"(<FONT SIZE="7" FACE="Times" COLOR="#FF0000">x</FONT>)"},
-      {HorizontalRule({}), "<HR>"},
       {HorizontalRule({Align::kCenter, true, " 50%"}), R"(<HR ALIGN = "CENTER" NOSHADE Width = "50%">)"},
       {LinedHeading("x"), R"(<HR ALIGN = "LEFT" Width = "60%"><H2>x</H2><HR ALIGN = "RIGHT" Width = "60%">)"},
       {Fraction("A", "B"), "<SUP>A</SUP>/<SUB>B</SUB>"},
       {CommentText("x"), "<! x >"},  // required
-      {CharacterReference(255), "&#255;"},
       {Smiley({" ", ":", " ", ")", " "}), ": )"},
-      {BuildList({ListKind::kBullets, {}, false, {}, {"a"}}), "<UL>\r\n<LI>a</LI>\r\n</UL>"},
+      {BuildList({ListKind::kBullets, 2, false, {}, {"a"}}), "<UL TYPE=\"square\">\r\n<LI>a</LI>\r\n</UL>"},
       {BuildList({ListKind::kNumbers, 4, true, "", {}}), "<OL TYPE=\"i\" COMPACT>\r\n<LH></LH>\r\n</OL>"},
-      {BuildDefinitionList({}, {}), "<DL>\r\n</DL>"},
       {BuildDefinitionList({"a"}, {"c", "d"}), "<DL>\r\n<DT>a</DT>\r\n<DD>c</DD>\r\n<DT></DT>\r\n<DD>d</DD>\r\n</DL>"},
   });
 }
 
-TEST(Formats, PathsAndLinks) {
+TEST(Formats, PathsLinksImagesAndFrames) {
+  const ImageSpec image{
+      "b",  true,      "a \"b\" <", ImageAlign::kLeft, ImageSpec::Size{" 10%", " 20"}, ImageSpec::Space{" 3", " 4"},
+      " 5", "low.jpg", "#mapa"};
   ExpectWritten({
       {FileAddress("C:\\a\\b c.gif", false), "file:///C:/a/b c.gif"},
       {FileAddress("a\\b.gif", true), "a/b.gif"},
@@ -77,37 +65,15 @@ TEST(Formats, PathsAndLinks) {
       {Made(kWrap, LinkToAnchor("x"), " "), R"(<A HREF="#x"> </A>)"},
       {Made(kWrap, LinkToAnchor("část"_w), ""), R"(<A HREF="#část">Odkaz na část</A>)"},
       {Made(kWrap, LinkToMail("a@b"), "x"), R"(<A HREF="mailto:a@b" >x</A>)"},  // required: the blank
-      {Made(kWrap, LinkToMail(""), ""), R"(<A HREF="mailto:" >mailto na </A>)"},
       {Made(kWrap, LinkToDocument({"x.htm", "a", "_top"}), ""),
        R"(<A HREF="x.htm#a" TARGET="_top">Odkaz na x.htm#a</A>)"},
       {Made(kWrap, LinkToDocument({"x.htm", "", ""}), "x"), R"(<A HREF="x.htm" TARGET="">x</A>)"},
       {Made(kWrap, LinkToDocument({"", "a", {}}), "x"), R"(<A HREF="#a">x</A>)"},
-  });
-}
-
-TEST(Formats, ImagesAndFrames) {
-  const ImageSpec image{
-      "b",  true,      "a \"b\" <", ImageAlign::kLeft, ImageSpec::Size{" 10%", " 20"}, ImageSpec::Space{" 3", " 4"},
-      " 5", "low.jpg", "#mapa"};
-  const FrameSpec frame{.path = "a",
-                        .relative = true,
-                        .name = "n",
-                        .align = " RIGHT",
-                        .border = "1",
-                        .border_color = "#FF0010",
-                        .spacing = "2",
-                        .scrolling = "  no",
-                        .margins = FrameSpec::Margins{" 0", " 3"},
-                        .noresize = true};
-  ExpectWritten({
-      {ImageTag({"C:\\a\\b.gif", false, {}, {}, {}, {}, {}, {}, {}}), R"(<IMG SRC="file:///C:/a/b.gif">)"},
       {ImageTag(image), R"(<IMG SRC="b" ALT="a "b" <" ALIGN="left" WIDTH="10%" HEIGHT="20" VSPACE="3" HSPACE="4")"
                         R"( BORDER="5" LOWSRC="low.jpg" USEMAP="#mapa">)"},
-      {FrameTag({.path = "/a.htm"}), R"(<FRAME SRC="file:///a.htm">)"},
       // required: SCROLLING twice, the second as it was typed
-      {FrameTag(frame),
-       R"(<FRAME SRC="a" NAME="n" ALIGN=" RIGHT" FRAMEBORDER="1" BORDERCOLOR="#FF0010" FRAMESPACING="2")"
-       R"( SCROLLING="no" MARGINHEIGHT="0" MARGINWIDTH="3" SCROLLING="  no" NORESIZE>)"},
+      {FrameTag({.path = "a", .relative = true, .scrolling = "  no", .margins = FrameSpec::Margins{" 0", " 3"}}),
+       R"(<FRAME SRC="a" SCROLLING="no" MARGINHEIGHT="0" MARGINWIDTH="3" SCROLLING="  no">)"},
   });
 }
 
@@ -116,57 +82,26 @@ TEST(Formats, Tables) {
   grid.cell_text[2][1] = "x";
   grid.cell_attrs[1][2] = " NOWRAP";
   grid.row_attrs[2] = "typed";  // what is typed without its blank stays without
-  const TableSpec all{.columns = 2,
-                      .rows = 2,
-                      .width = " 1%",
-                      .cols = "1",
-                      .colspec = " L100% ",
-                      .align = TableAlign::kCenter,
-                      .border = TableSpec::Border{TableFrame::kBox, " 0"},
-                      .rules = TableRules::kAll,
-                      .cell_spacing = " 2",
-                      .cell_padding = " 3",
-                      .caption = TableSpec::Caption{CaptionSide::kBottom, " <x> "}};
   const CellAlignment by_character{CellAlign::kCharacter, ",", CellVAlign::kBottom};
-  const CellSpec cell{.header = true,
-                      .alignment = by_character,
-                      .bgcolor = "#FF0000",
-                      .colspan = "1",
-                      .rowspan = "2",
-                      .nowrap = true,
-                      .width = "3"};
   ExpectWritten({
-      {BuildTable({}, {}), "<TABLE>\r\n<TR><TD></TD></TR>\r\n</TABLE>"},
-      {BuildTable(all, grid),
-       "<TABLE WIDTH=\"1%\" COLS=\"1\" COLSPEC=\" L100% \" ALIGN=\"CENTER\" FRAME=\"BOX\" BORDER=\"0\""
-       " RULES=\"ALL\" CELLSPACING=\"2\" CELLPADDING=\"3\">\r\n<CAPTION ALIGN=\"BOTTOM\"> <x> "
-       "</CAPTION>\r\n<TR><TD></TD><TD>x</TD></TR>\r\n<TRtyped><TD NOWRAP></TD><TD></TD></TR>\r\n"
-       "</TABLE>"},
+      {BuildTable({.columns = 2, .rows = 2}, grid),
+       "<TABLE>\r\n<TR><TD></TD><TD>x</TD></TR>\r\n<TRtyped><TD NOWRAP></TD><TD></TD></TR>\r\n</TABLE>"},
       {TagAttributes(RowTag({})), ""},  // what the builder of tables takes
       {TagAttributes(RowTag({.alignment = by_character})), R"( ALIGN="CHAR" CHAR="," VALIGN="BOTTOM")"},
       {RowTag({.alignment = {CellAlign::kCharacter, "", {}}}), R"(<TR ALIGN="CHAR">)"},
       {RowTag({.alignment = {CellAlign::kRight, ",", {}}}), R"(<TR ALIGN="RIGHT">)"},
-      {Made(WrapInCell, cell, "x"),
-       R"(<TH ALIGN="CHAR" CHAR="," VALIGN="BOTTOM" BGCOLOR="#FF0000" COLSPAN="1" ROWSPAN="2" NOWRAP)"
-       R"( WIDTH="3">x</TH>)"},
       {Made(WrapInCell, CellSpec{}, ""), "<TD>Buňka</TD>"},
       {Made(InsertRow, RowSpec{.cells = 2}, "x"), "<TR><TD>Buňka1</TD><TD>Buňka2</TD></TR>\r\nx"},
   });
 }
 
 TEST(Formats, PagesAroundTheDocument) {
-  PageSpec bare;
-  bare.author = "Jan Novák"_w;
-  bare.created = "11-24-2026 09:05:00";
-  bare.title = "ž"_w;
-  PageSpec full = bare;
-  full.background = "a.gif";  // required: a file's address of a bare name too
-  full.bgcolor = "1";
-  full.text = "2";
-  full.link = "3";
-  full.vlink = "4";
-  full.alink = "5";
-  full.base_font = 7;
+  PageSpec spec;
+  spec.author = "Jan Novák"_w;
+  spec.created = "11-24-2026 09:05:00";
+  spec.title = "ž"_w;
+  spec.background = "a.gif";  // required: a file's address of a bare name too
+  spec.base_font = 7;
   const std::string code_page =
       "  <META HTTP-EQUIV=\"Content-Type\" CONTENT=\"text/html; charset=windows-1250\">\r\n"
       "  <META NAME=\"GENERATOR\" CONTENT=\"Orvilanths PELmar VEX v8.9.2.1b CZ\">\r\n";
@@ -177,15 +112,40 @@ TEST(Formats, PagesAroundTheDocument) {
   const std::string frameset = "<!DOCTYPE HTML PUBLIC \"-//IETF/DTD HTML v.m//EN\">\r\n<HTML>\r\n <HEAD>\r\n" +
                                code_page + "  <TITLE>t</TITLE>\r\n </HEAD>\r\n <FRAMESET";
   ExpectWritten({
-      {Made(WrapInPage, bare, ""), page + ">\r\n---TEXT---\r\n\r\n </BODY>\r\n</HTML>"},
-      {Made(WrapInPage, full, "x\r\n"),
-       page + R"( BACKGROUND="file:///a.gif" BGCOLOR="1" TEXT="2" LINK="3" VLINK="4" ALINK="5">)"
-              "\r\n<BASEFONT SIZE=\"7\">\r\nx\r\n\r\n\r\n </BODY>\r\n</HTML>"},
-      {Made(WrapInFrameset, FramesetSpec{{}, {}, "t"}, ""),
-       frameset + ">\r\n </FRAMESET>\r\n <NOFRAMES>\r\nTento Prohlížeč nepodporuje Framesy\r\n </NOFRAMES>\r\n</HTML>"},
+      {Made(WrapInPage, spec, ""),
+       page + " BACKGROUND=\"file:///a.gif\">\r\n<BASEFONT SIZE=\"7\">\r\n---TEXT---\r\n\r\n </BODY>\r\n</HTML>"},
       {Made(WrapInFrameset, FramesetSpec{"1,*", "2,*", "t"}, "x\r\ny"),  // required: columns as rows too
        frameset + " ROWS=\"1,*\" ROWS=\"2,*\">\r\n </FRAMESET>\r\n <NOFRAMES>\r\nx\r\ny\r\n </NOFRAMES>\r\n</HTML>"},
   });
+}
+
+TEST(Samples, StandInTheListWithTheirFilesAndHaveTheirLength) {
+  const struct {
+    const char *key, *text, *file_name;
+    std::size_t bytes;
+  } rows[] = {
+      {"HTML1", "Jednoduchý HTML dokument 1", "test1.html", 498},
+      {"HTML2", "Jednoduchý HTML dokument 2", "test2.html", 1455},
+      {"HTML3", "Jednoduchý HTML dokument 3", "test3.html", 1292},
+      {"HTML4", "Jednoduchý HTML dokument 4", "test4.html", 1489},
+      {"INI1", "Inicializační soubor 1", "acad.ini", 1029},
+      {"INI2", "Inicializační soubor 2", "netscape.ini", 377},
+      {"INF1", "Autorun", "autorun.inf", 118},
+      {"HTML5", "HTML s javascriptem", "java.html", 3971},
+      {"BAT1", "Dávkový soubor 1", "autoexec.bat", 175},
+      {"BAT2", "Dávkový soubor 2", "cleanup.bat", 106},
+      {"DIZ1", "info", "file_ID.diz", 213},
+  };
+  SettingsRecord profile;
+  profile.UserName = "Jan Žižka"_w;
+  profile.UserEmail = "a@b";
+  ASSERT_EQ(Samples().size(), std::size(rows));
+  for (std::size_t i = 0; i < std::size(rows); ++i) {
+    EXPECT_EQ(Samples()[i].key, rows[i].key);
+    EXPECT_EQ(ToUtf8(Samples()[i].text), rows[i].text);
+    EXPECT_EQ(Samples()[i].file_name, rows[i].file_name);
+    EXPECT_EQ(SampleText(rows[i].key, profile).size(), rows[i].bytes) << rows[i].key;
+  }
 }
 
 }  // namespace

@@ -8,7 +8,6 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace pelmar {
 
@@ -45,16 +44,6 @@ inline std::string Content(const std::string& path) {
   std::ifstream file(path, std::ios::binary);
   if (!file) return "<missing>";
   return {std::istreambuf_iterator<char>(file), {}};
-}
-
-// The lines of a file, without those that begin with "#". Throws if there are none.
-inline std::vector<std::string> KeptLines(const std::string& path) {
-  std::ifstream file(path);
-  std::vector<std::string> lines;
-  for (std::string line; std::getline(file, line);)
-    if (!line.starts_with('#')) lines.push_back(line);
-  if (lines.empty()) throw std::runtime_error("nothing in " + path);
-  return lines;
 }
 
 }  // namespace pelmar

@@ -45,7 +45,6 @@ struct Searching {
 
 struct Finding : Searching<Finder> {
   static void PickFirst(Searching& s) { s.search.PickHistory(0); }
-  static void PickSecond(Searching& s) { s.search.PickHistory(1); }
 };
 
 TEST(Find, StepsThroughTheTextOfTheStart) {
@@ -63,14 +62,13 @@ TEST(Find, StepsThroughTheTextOfTheStart) {
       {"|aaaa", "aa", {F::Start, F::Next}, "a[aa|a", "aa", 2, 1, true},
       {"|aa", "a", {F::Start, F::Next, F::Next}, "a[a| !", "a", 2, 1},  // required: the numbers stay
       {"a[b|c", "z", {F::Start}, "a[b|c !", "b", {}, {}},
-      {"a[b|c", "z", {F::Start, F::PickFirst, F::PickSecond}, "a[b|c", "z", {}, {}},
       {"|xx čaj Čaj", "čaj", {F::IgnoreCase, F::Start}, "xx [čaj| Čaj", "ČAJ", 1, 3, true},
       // Behind the last hit the term is as the document has it. required: in the history it is in upper case.
       {"|čaj Čaj", "čaj", {F::IgnoreCase, F::Start, F::Next, F::Next}, "čaj [Čaj| !", "Čaj", 2, 4},
       {"|čaj", "čaj", {F::IgnoreCase, F::Start, F::Next, F::PickFirst}, "[čaj|", "ČAJ", 1, 0},
       {"|ab", "", {F::Start, F::Next}, "a|b", "", 2, 1, true},
       {"|", "", {F::Start}, "| !", "", {}, {}},
-      {"|one¶two", "e\r\ntwo", {F::Start}, "on[e¶two|", "e\r\ntwo", 1, 2, true},
+      {"|one", "one", {F::Start, F::OtherText, F::New, F::Start}, "|short text !", "Text", {}, {}},
       {"|one two one", "one", {F::Start, F::OtherText, F::Next}, "short te[xt|", "one", 2, 8, true},
   };
   for (const auto& c : cases) {
@@ -120,6 +118,7 @@ TEST(Replace, ReadsItsReplacementAgainFromTheSecondCharacterOn) {  // required
       {"|a a a", "a", "ba", {R::IgnoreCase, R::Start, R::Replace}, "ba [a| a", "A", 2, 1, true},
       {"|a", "a", "X", {R::Start, R::Replace}, "X| !", "a", 1, 1},
       {"a[b|c", "z", "", {R::Start}, "a[b|c !", "b", {}, {}},
+      {"|a", "a", "X", {R::Start, R::Replace, R::OtherText, R::New, R::Start}, "|short text !", "Text", {}, {}},
       {"|a a", "a", "b", {R::Start, R::OtherText, R::Replace}, "bs[h|ort text", "a", 2, 1, true},
       // required: in the list the term is as it was typed
       {"|Čaj", "čaj", "x", {R::IgnoreCase, R::Start, R::PickSecond}, "[Čaj|", "ČAJ", 1, {}, true},
@@ -174,31 +173,22 @@ TEST(Replace, AllGoesByCharacter255) {
   for (const auto& [text, term, change, after] : cases) EXPECT_EQ(ReplaceAllByMarker(text, term, change), after);
 }
 
-struct PrimitiveFindTest : testing::Test {
+TEST(PrimitiveFind, AsksAtEachHitUntilNothingIsFoundOrThePersonSaysNo) {
+  const auto hit = [](int place) {
+    return "message 36 \"Nalezeno na " + std::to_string(place) + " místě, pokračovat ?\" \"hledání\"";
+  };
+  const std::string ask = "input \"Vložte prosím text na hledání.\" \"Hledání\" \"ab\"";
+  const std::string end = "message 0 \"Nalezeno 2 X\" \"Hledání\"";
   ScriptedPlatform platform;
   TextBuffer text;
-  const std::string ask = "input \"Vložte prosím text na hledání.\" \"Hledání\" \"ab\"";
-  static std::string Hit(int place) {
-    return "message 36 \"Nalezeno na " + std::to_string(place) + " místě, pokračovat ?\" \"hledání\"";
-  }
-  const std::string end = "message 0 \"Nalezeno 2 X\" \"Hledání\"";
-};
-
-TEST_F(PrimitiveFindTest, AsksAtEachHitUntilNothingIsFound) {
   PutMarked(text, "[ab| ab");
-  platform.inputs = {"ab"};
-  platform.answers = {Answer::kYes, Answer::kYes, Answer::kOk, Answer::kOk};
+  platform.inputs = {"ab", std::nullopt};
+  platform.answers = {Answer::kYes, Answer::kYes, Answer::kOk, Answer::kOk, Answer::kYes, Answer::kNo, Answer::kOk};
   FindPrimitively(text, platform);
-  EXPECT_EQ(platform.calls, (Calls{ask, Hit(1), Hit(4), kNothingFound, end}));
+  EXPECT_EQ(platform.TakeCalls(), (Calls{ask, hit(1), hit(4), kNothingFound, end}));
   EXPECT_EQ(Marked(text), "ab [ab|");
-}
-
-TEST_F(PrimitiveFindTest, ACancelIsAnEmptyTermAndNoEndsTheSearch) {
-  PutMarked(text, "[ab| ab");
-  platform.inputs = {std::nullopt};
-  platform.answers = {Answer::kYes, Answer::kNo, Answer::kOk};
-  FindPrimitively(text, platform);
-  EXPECT_EQ(platform.calls, (Calls{ask, Hit(1), Hit(2), end}));
+  FindPrimitively(text, platform);  // a cancelled question is an empty term
+  EXPECT_EQ(platform.calls, (Calls{ask, hit(1), hit(2), end}));
 }
 
 }  // namespace

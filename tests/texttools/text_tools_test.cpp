@@ -1,11 +1,14 @@
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <vector>
 
+#include "shell/layout_picker.h"
 #include "support/marked_text.h"
+#include "support/plain_view.h"
+#include "support/printed_places.h"
 #include "support/scripted_platform.h"
 #include "support/whole_editor.h"
+#include "texttools/appearance.h"
 #include "texttools/column_format.h"
 #include "texttools/random_text.h"
 
@@ -25,7 +28,6 @@ TEST(TextTools, EachCommandLeavesItsTextAndCalls) {
   } cases[] = {
       {"mnusmall", "x[ŘEKA|x", "xřeka|x"},
       {"mnubig", "x[řeka|x", "xŘEKA|x"},
-      {"mnubig", "a|b", "a|b"},  // nothing selected, nothing said
       {"mnupropercase", "[ŽLUŤOUČKÝ kůň\tčeká¶na-dvoře. a\vb\fc\0d\re|"sv,
        "Žluťoučký Kůň\tČeká¶Na-dvoře. A\vB\fC\0D\rE|"sv},
       {"mnuprevrat", "x[ab¶c|x", "xc\n\rba|x"},
@@ -35,22 +37,20 @@ TEST(TextTools, EachCommandLeavesItsTextAndCalls) {
       {"Mnu_Sort_Lines", "x[b¶a¶|y", "xa¶b¶|y", "busy 1; busy 0; "},
       {"Mnu_Sort_Lines", "[b¶¶a|", "ab¶|", "busy 1; busy 0; "},  // required: the end is missing where it was
       {"Mnu_Sort_Lines", "[b\n\na2¶A1¶a1¶|", "\nA1¶a1¶a2¶b\n|", "busy 1; busy 0; "},
-      {"Mnu_Sort_Lines", "a|b", "a|b", "busy 1; busy 0; "},
       // required: the last character is lost
       {"mnuEnterLineNumbers", "[a¶b¶|", "00001 a¶00002 b\r|", "busy 1; busy 0; "},
       {"mnuEnterLineNumbers", "[x|", "00001 |", "busy 1; busy 0; "},
       {"mnuEnterLineNumbers", "a|b", "a|b", "busy 1; message 0 \"Vyber text\" \"Očíslování\"; busy 0; "},
       {"MnuSelTextDivideWordsToLines", "[a¶b  c |", "a¶b ¶ ¶c ¶|", "busy 1; busy 0; "},
       {"MnuSelTextDivideWordsToLines", "[ab cd|", "ab ¶cd¶|", "busy 1; busy 0; "},
-      {"MnuSelTextDivideWordsToLines", "a|b", "a|b", "busy 1; busy 0; "},
       {"mnucharcount", "[ab\r|\n", "[ab\r|\n", "message 0 \"Počet znaků je : 3 celkem.\" \"Znaky\"; "},
       {"mnucharcount", "|ab", "|ab", "message 0 \"Počet znaků v celém textu je : 2 celkem.\" \"Znaky\"; "},
 
       {"mnunahslovo", "x[a b|x", "xgn |a bx", "", kOk, 1},
       {"mnunahjmeno", "x|a", "xGn Agntagnt |a", "", kOk, 1},
       {"mnunahtex", "|x", "Gna tgtgtgt. |x", "", kOk, 1},
+      // required: the last word has no blank
       {"MnuSelTextDada", "x[a b c d e|x", "xa c d eb |x", "busy 1; busy 0; ", kOk, 1},
-      {"MnuSelTextDada", "a|b", "a|b", "busy 1; busy 0; ", kOk, 1},
 
       {"mnuadd", "a[bc|d", "aXY|bcd"},  // required: never over the selection
       {"Paste", "a|bc[d", "aXY|bcd"},
@@ -70,6 +70,7 @@ TEST(TextTools, EachCommandLeavesItsTextAndCalls) {
   for (const auto& c : cases) {
     ScriptedPlatform platform;
     WholeEditor editor(platform);
+    editor.documents.MakeCurrent("/a.txt");
     PutMarked(editor.text, c.before);
     platform.clipboard = "XY";
     platform.answers = {c.answer};
@@ -77,27 +78,10 @@ TEST(TextTools, EachCommandLeavesItsTextAndCalls) {
     EXPECT_EQ(Marked(editor.text), c.after) << c.command;
     EXPECT_EQ(platform.TakeCallsInOneLine(), c.calls) << c.command;
     EXPECT_EQ(platform.reseeds, c.reseeds) << c.command;
+    // required: the command forgets the path after No too
+    EXPECT_EQ(editor.documents.CurrentPath(), c.command == "mnunewclip"sv ? "" : "/a.txt") << c.command;
   }
 }
-
-TEST(TextTools, ANewDocumentFromTheClipboardForgetsItsPathAlsoAfterNo) {  // required
-  ScriptedPlatform platform;
-  WholeEditor editor(platform);
-  editor.documents.MakeCurrent("/a.txt", "");
-  platform.clipboard = "XY";
-  platform.answers = {Answer::kNo};
-  editor.commands.Run("mnunewclip");
-  EXPECT_EQ(editor.documents.CurrentPath(), "");
-  EXPECT_EQ(editor.documents.Title(), "Pelmar VEX ()");
-}
-
-// Gives these draws in turn, again and again.
-struct Drawn {
-  std::vector<double> draws;
-  std::size_t taken = 0;
-
-  double operator()() { return draws[taken++ % draws.size()]; }
-};
 
 TEST(RandomText, FollowsItsDraws) {
   const std::vector<double> lowest{0}, highest{0.999};
@@ -116,20 +100,11 @@ TEST(RandomText, FollowsItsDraws) {
       {RandomName, highest, "Zzzzzzzzzz Zzzzzzzzzz ", 22},
   };
   for (const auto& c : cases) {
-    Drawn drawn{c.draws};
-    EXPECT_EQ(c.generate(std::ref(drawn)), c.text);
-    EXPECT_EQ(drawn.taken, c.taken) << c.text;
+    std::size_t taken = 0;
+    EXPECT_EQ(c.generate([&] { return c.draws[taken++ % c.draws.size()]; }), c.text);
+    EXPECT_EQ(taken, c.taken) << c.text;
   }
   EXPECT_TRUE(RandomSentence([] { return 0.999; }).ends_with("Z" + std::string(49, 'z') + "! "));
-}
-
-TEST(RandomText, ShuffledWordsRunIntoEachOther) {  // required: the last one has no blank
-  const std::pair<double, const char*> cases[] = {{0, "a b\r\n  c"}, {0.999, "c b\r\n a "}, {0.5, " b\r\n ca "}};
-  for (const auto& [draw, shuffled] : cases) {
-    Drawn drawn{{draw}};
-    EXPECT_EQ(ShuffledWords("a b\r\n  c", std::ref(drawn)), shuffled) << draw;
-    EXPECT_EQ(drawn.taken, 4u);
-  }
 }
 
 TEST(ColumnFormat, TheLoadMakesItsRowsAndTellsTheShortest) {
@@ -137,7 +112,6 @@ TEST(ColumnFormat, TheLoadMakesItsRowsAndTellsTheShortest) {
       {"", {}, 0},
       {"a", {}, 1},  // required: one character gives no row
       {"ab", {"ab"}, 2},
-      {"ab\r\ncde", {"ab", "cde"}, 2},
       {"abc\r\n", {"abc", "bc\r\n"}, 4},  // required: the extra row
       {"abc\r\nde\r\n", {"abc", "de", "e\r\n"}, 3},
       {"abc\r\n\r\nde", {"abc", "", "de"}, 0},
@@ -176,6 +150,60 @@ TEST(ColumnFormat, OperationsActAtTheDistance) {
   }
   EXPECT_EQ(ShortestRow({"abc", "ab", "x"}), 1u);
   EXPECT_EQ(ShortestRow({}), 0u);
+}
+
+struct AppearanceTest : testing::Test {
+  ScriptedPlatform platform;
+  WholeEditor editor{platform};
+  PlainView view;
+
+  AppearanceTest() {
+    AddAppearanceCommands(editor, view);
+    view.look = {"Font", Rgb(1, 2, 3), Rgb(255, 255, 255), 8, false, false};
+  }
+  // The look behind a command, then the marks and the window's state that it set.
+  std::string Look(const char* command) {
+    view.calls.clear();
+    editor.commands.Run(command);
+    std::string look = Described(view.look);
+    for (const std::string& call : view.calls)
+      if (call.ends_with(" mark") || call == "normal") look += ", " + call;
+    return look;
+  }
+};
+
+TEST_F(AppearanceTest, EachCommandChangesItsPartOfTheLook) {
+  EXPECT_EQ(Look("mnu17"), "Font 17 #010203 #FFFFFF");
+  EXPECT_EQ(Look("mnuEditBold"), "Font 17 bold #010203 #FFFFFF, bold mark");
+  EXPECT_EQ(Look("mnuitalic"), "Font 17 bold italic #010203 #FFFFFF, italic mark");
+  EXPECT_EQ(Look("mnuEditBold"), "Font 17 italic #010203 #FFFFFF, no bold mark");
+  EXPECT_EQ(Look("mnuinvert"), "Font 17 italic #FEFDFC #000000");
+  EXPECT_EQ(Look("Dos"), "Courier New 8 #C2C2C2 #000000, normal, no bold mark, no italic mark");
+  EXPECT_EQ(view.place, (TwipsRect{0, 0, 9210, 6675}));
+  Look("mnuEditBold");
+  EXPECT_EQ(Look("mnubasic"), "MS Sans Serif 8 #000000 #FFFFFF, no italic mark");  // required: the mark of bold stays
+}
+
+TEST_F(AppearanceTest, ALookWithoutAFontKeepsTheFontAndAStrangeSizeBecomesEight) {
+  ApplyLook(view, {"", 3, 4, 11, true, false});
+  EXPECT_EQ(Described(view.look), "Font 8 bold #030000 #040000");
+}
+
+TEST(Visual, SizeField) {
+  const std::pair<std::string_view, SizeField> cases[] = {
+      {"", {"1", 1}},       {"00", {"1", 1}},  {"11", {"11", 11}}, {"08", {"8", 8}},
+      {"123", {"12", 123}}, {"abc", {"1", 1}}, {"9x", {"9", 9}},   {"99999", {"99", 9999}},
+  };
+  for (const auto& [typed, field] : cases) EXPECT_EQ(NormalizeSize(typed), field) << typed;
+}
+
+TEST(LayoutPicker, ACellIsAHalfOrAQuarterOfTheScreen) {
+  const TwipsRect screen{1000, 30, 1200, 800};
+  EXPECT_EQ(PlaceOfCell(1, 1, screen).place, (TwipsRect{1000, 30, 600, 400}));
+  EXPECT_EQ(PlaceOfCell(2, 2, screen).place, screen);
+  EXPECT_EQ(PlaceOfCell(2, 3, screen).place, (TwipsRect{1600, 30, 600, 800}));
+  EXPECT_EQ(PlaceOfCell(3, 2, screen).place, (TwipsRect{1000, 430, 1200, 400}));
+  EXPECT_EQ(PlaceOfCell(3, 2, screen).name, "Dole");
 }
 
 }  // namespace

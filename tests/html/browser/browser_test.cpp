@@ -2,7 +2,6 @@
 
 #include <QLineEdit>
 
-#include "html/browser/browser_module.h"
 #include "html/browser/frm_browser.h"
 #include "html/browser/web_address.h"
 #include "support/scripted_platform.h"
@@ -16,14 +15,13 @@ namespace {
 struct ScriptedView : WebView {
   QStringList& calls;
   QWidget* widget;
-  bool busy = false, back = true, forward = true;
+  bool busy = false;
   QString name;
   QUrl address;
 
   ScriptedView(QStringList& asked, QWidget* parent) : calls(asked), widget(new QWidget(parent)) {}
-  void Finish(const char* new_name = "") {
+  void Finish() {
     busy = false;
-    name = QString::fromUtf8(new_name);
     on_finished();
   }
   QWidget* Widget() override { return widget; }
@@ -37,7 +35,7 @@ struct ScriptedView : WebView {
   void Stop() override { calls += QStringLiteral("stop"); }
   void EndIfStuck() override { calls += QStringLiteral("end if stuck"); }
   void LoadFromNet() override { calls += QStringLiteral("load from net"); }
-  bool CanGo(int places) const override { return places < 0 ? back : forward; }
+  bool CanGo(int) const override { return true; }
   bool Busy() const override { return busy; }
   QString LocationName() const override { return name; }
   QUrl LocationAddress() const override { return address; }
@@ -73,7 +71,8 @@ TEST_F(BrowserTest, LoadsAFileAndWatchesTheLoad) {
   EXPECT_EQ(Caption(), "HTML Testovací  browser");
   EXPECT_FALSE(Named(window, "Picture1")->isEnabled());
   Tick();
-  ExpectState(window, "", "cboAddress=file:///stránka.html Panel1=Busy");
+  view->on_progress(70, 100);
+  ExpectState(window, "", "cboAddress=file:///stránka.html Panel1=Busy Panel2=70%");
   EXPECT_TRUE(Named(window, "Picture1")->isEnabled());
   view->busy = false;
   view->name = QStringLiteral("Stránka [*]");
@@ -93,49 +92,18 @@ TEST_F(BrowserTest, ThePictureOfALoadHasEightFrames) {
   EXPECT_EQ(frames.size(), 8);
 }
 
-TEST_F(BrowserTest, WarnsOfAPageInUndeclaredUtf8) {
-  const TempFolder folder;
-  window.ShowInBrowser(folder.Put("a.html", "<P>kůň"));
-  view->Finish();
-  ExpectState(window, "", "Panel3='Stránka je v UTF-8 a neuvádí to: převede ji Konverze dos - unix'");
-  folder.Put("a.html", "<P>k\xF9\xF2");
-  view->Finish();
-  ExpectState(window, "", "Panel3=");
-}
-
-TEST_F(BrowserTest, ShowsTheProgress) {
-  view->on_progress(70, 100);
-  ExpectState(window, "", "Panel2=70%");
-  view->on_progress(3, -1);
-  ExpectState(window, "", "Panel2=");
-}
-
-TEST_F(BrowserTest, TheLinkUnderThePointerHasItsOwnPanel) {
-  Tick();
-  view->on_link(QStringLiteral("http://x.cz/"));
-  Tick();
-  ExpectState(window, "", "Panel1=Idle Panel4=http://x.cz/");
-  view->on_link(QString());
-  ExpectState(window, "", "Panel4=");
-}
-
-TEST_F(BrowserTest, AskedByThePersonItLoadsWhatWasWithheld) {
-  window.Present();
-  view->on_withheld(true);
-  EXPECT_TRUE(Named(window, "netLine")->isVisible());
-  Work(window, "LoadNet!");
-  EXPECT_EQ(Calls(), "load from net");
-  view->on_withheld(false);
-  EXPECT_FALSE(Named(window, "netLine")->isVisible());
-}
-
-TEST_F(BrowserTest, AFinishedPageStandsOnceInTheListAndAtItsTop) {
+TEST_F(BrowserTest, AFinishedPageStandsOnceAtTheTopOfTheListWhichOnlyAPersonLoadsFrom) {
   for (const char* page : {"/a.html", "/b.html", "/a.html"}) {
     window.ShowInBrowser(page);
     view->Finish();
   }
   EXPECT_EQ(List(), "file:///a.html file:///b.html");
+  Q_EMIT address.lineEdit()->editingFinished();
+  address.setCurrentIndex(1);
   EXPECT_EQ(calls.size(), 3);  // a change of the list loads nothing
+  Calls();
+  QTest::keyClick(&address, Qt::Key_Up);
+  EXPECT_EQ(Calls(), "load file:///a.html");
 }
 
 TEST_F(BrowserTest, EnterLoadsTheTypedAddress) {
@@ -144,32 +112,6 @@ TEST_F(BrowserTest, EnterLoadsTheTypedAddress) {
   EXPECT_EQ(List(), "");  // it joins the list when the page is there
   view->Finish();
   EXPECT_EQ(List(), "http://www.priklad.cz");
-}
-
-TEST_F(BrowserTest, APageThatFinishesLeavesAHalfTypedAddress) {
-  window.ShowInBrowser("/a.html");
-  Work(window, "cboAddress= cboAddress:x.cz");
-  view->Finish();
-  EXPECT_EQ(address.currentText(), QStringLiteral("x.cz"));
-  QTest::keyClick(&address, Qt::Key_Enter);
-  EXPECT_EQ(calls.back(), QStringLiteral("load http://x.cz"));
-  address.lineEdit()->selectAll();  // about to be typed over
-  view->Finish();
-  EXPECT_EQ(address.lineEdit()->selectedText(), QStringLiteral("http://x.cz"));
-}
-
-TEST_F(BrowserTest, OnlyAChoiceByThePersonLoadsARowOfTheList) {
-  for (const char* page : {"/a.html", "/b.html"}) {
-    window.ShowInBrowser(page);
-    view->Finish();
-  }
-  Calls();
-  Q_EMIT address.lineEdit()->editingFinished();
-  address.setCurrentIndex(1);
-  RollWheel(address, {}, {0, 120});
-  EXPECT_EQ(Calls(), "");
-  QTest::keyClick(&address, Qt::Key_Up);
-  EXPECT_EQ(Calls(), "load file:///b.html");
 }
 
 TEST_F(BrowserTest, EachButtonOfTheToolBarActsAndStartsTheTimer) {
@@ -197,28 +139,11 @@ TEST_F(BrowserTest, StopEndsTheLoadAtOnce) {
   EXPECT_FALSE(timer.isActive());
 }
 
-TEST_F(BrowserTest, ButtonsWithoutAPageToGoToAreDisabled) {
-  view->back = view->forward = false;
-  view->on_change();
-  EXPECT_FALSE(Find<QAction>(window, "Back")->isEnabled());
-  EXPECT_FALSE(Find<QAction>(window, "Forward")->isEnabled());
-  view->back = true;
-  view->Finish();
-  EXPECT_TRUE(Find<QAction>(window, "Back")->isEnabled());
-}
-
-TEST_F(BrowserTest, AloneItStartsWithItsPage) {
-  EXPECT_TRUE(window.StartingAddress.startsWith(QStringLiteral("https://")));
-  window.StartingAddress = QStringLiteral("https://a.cz/");
-  window.ShowAlone();
-  EXPECT_EQ(Calls(), "load https://a.cz/");
-}
-
-TEST_F(BrowserTest, AloneItEndsTheProgramAfterAQuestion) {
+TEST_F(BrowserTest, AloneItStartsWithItsPageAndEndsTheProgramAfterAQuestion) {
   int ended = 0;
   FrmBrowser alone(*this, platform, [&] { ++ended; });
-  EXPECT_EQ(Find<QAction>(alone, "Close")->toolTip(), QStringLiteral("Ukončit program"));
-  alone.Present();
+  alone.ShowAlone();
+  EXPECT_EQ(Calls(), "load " + alone.StartingAddress.toStdString());
   platform.answers = {Answer::kNo, Answer::kYes};
   EXPECT_FALSE(alone.close());
   EXPECT_TRUE(alone.isVisible());
@@ -226,15 +151,6 @@ TEST_F(BrowserTest, AloneItEndsTheProgramAfterAQuestion) {
   EXPECT_EQ(platform.calls.back(), "message 276 \"OPRAVDU UKONČIT Browser (Pelmar VEX) ?\" \"Konec\"");
   Work(alone, "Close!");
   EXPECT_EQ(ended, 1);
-}
-
-TEST_F(BrowserTest, AnAddressOfTheEngineIsRefused) {
-  platform.answers = {Answer::kOk};
-  Work(window, "cboAddress:chrome://crash\r");
-  EXPECT_EQ(Calls(), "");
-  EXPECT_EQ(platform.TakeCallsInOneLine(),
-            "message 64 \"Takovou adresu interní browser neotvírá:\r\nchrome://crash\r\n\r\nOtvírá http, https, file, "
-            "data a about:blank.\" \"Interní browser\"; ");
 }
 
 TEST(WebAddress, OnlyPagesMayBeShown) {
@@ -247,28 +163,12 @@ TEST(WebAddress, OnlyPagesMayBeShown) {
 
 TEST(WebAddress, OfAFileComesBackAsItWas) {
   const TempFolder folder;
-  const auto url_of = [](const std::string& typed) { return UrlOfAddress(QString::fromStdString(typed)); };
-  const std::string odd = "file://" + folder.Put("100% #1 žluť?.html", ""),
-                    plain = "file://" + folder.Put("a.html", "");
-  EXPECT_EQ(PathOfUrl(url_of(odd)), odd.substr(7));
-  EXPECT_EQ(url_of(plain + "#část").fragment(), QStringLiteral("část"));
-  for (const std::string& address :
-       {odd, plain + "#část", plain + "?a=1", std::string("file:///a%20%E8%23.htm"), std::string("file:///C:/a b.htm")})
-    EXPECT_EQ(AddressOfUrl(url_of(address)).toStdString(), address);
-  EXPECT_EQ(AddressOfFile("/a č#.htm"), QStringLiteral("file:///a č#.htm"));
+  const std::string odd = "file://" + folder.Put("100% #1 žluť?.html", "");
+  const std::string part = "file://" + folder.Put("a.html", "") + "#část";
+  for (const std::string& address : {odd, part, std::string("file:///a%20%E8%23.htm")})
+    EXPECT_EQ(AddressOfUrl(UrlOfAddress(QString::fromStdString(address))).toStdString(), address);
+  EXPECT_EQ(PathOfUrl(UrlOfAddress(QString::fromStdString(odd))), odd.substr(7));
   EXPECT_EQ(AddressOfFile("/a \xE8#.htm"), QStringLiteral("file:///a%20%E8%23.htm"));
-}
-
-TEST(BrowserModule, TellsWhatIsMissing) {
-  const TempFolder folder;
-  BrowserModule module({QString::fromStdString(folder.Path())});
-  EXPECT_EQ(module.Maker(), nullptr);
-  EXPECT_TRUE(module.Problem().startsWith(QStringLiteral("Interní browser není nainstalován.\r\n")));
-  folder.Put("pelmar-browser.so", "not a library");
-  EXPECT_EQ(module.Maker(), nullptr);
-  EXPECT_EQ(module.Problem().toStdString(), "Interní browser nelze spustit.\r\nSoubor " +
-                                                folder.File("pelmar-browser.so") +
-                                                " je poškozen nebo z jiné verze programu");
 }
 
 }  // namespace

@@ -2,10 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <QCheckBox>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QStyledItemDelegate>
-#include <QTabBar>
 #include <QTreeWidget>
 #include <filesystem>
 
@@ -57,24 +53,14 @@ struct HtmlDialogTest : ProgramTest {
   }
 };
 
-TEST_F(HtmlDialogTest, ParagraphsAndHeadingsWrapTheSelectionOrASample) {
+TEST_F(HtmlDialogTest, BlocksWrapTheSelectionAndFragmentsStandInFrontOfIt) {
   ExpectDocument("mnuparagraph", "Command1!", "a[b|c", R"(a<P ALIGN = "LEFT" > b </P>|c)");
   ExpectDocument("mnulabel", "VScroll1=9 Option4! Check1! Command1!", "|", "<H6 NOWRAP> Nadpisový text </H6>|");
-}
-
-TEST_F(HtmlDialogTest, AFontHasTheTickedAttributes) {
   ExpectDocument("mnubarva", "Check1! Check2! Check3! VScroll4=7 Combo1=Žluté Command3! Command1!", "[x|",
                  R"(<FONT SIZE="7" FACE="Žluté" COLOR="#FF0010">x</FONT>|)");
-}
-
-TEST_F(HtmlDialogTest, ARuleHasTheTickedAttributesAndStandsInFrontOfTheSelection) {
   ExpectDocument("mnuhr", "Command1!", "a[b|c", "a<HR>|bc");
   ExpectDocument("Line", "Check1! Option1! Shader! VScroll1=50 Command1!", "|",
                  R"(<HR ALIGN = "CENTER" NOSHADE Width = "50%">|)");
-  ExpectDocument("Line", "Option6! Option5! Shader! VScroll1=800 Command1!", "|", R"(<HR Width = "800">|)");
-}
-
-TEST_F(HtmlDialogTest, SmallDialogsWriteTheirFields) {
   ExpectDocument("mnulinelabel", "Command1!", "[x|",
                  R"(<HR ALIGN = "LEFT" Width = "60%"><H2>Nadpis</H2><HR ALIGN = "RIGHT" Width = "60%">|x)");
   ExpectDocument("mnulinelabel2", "Text1=ž Command1!", "|",
@@ -85,10 +71,7 @@ TEST_F(HtmlDialogTest, SmallDialogsWriteTheirFields) {
   ExpectDocument("MnuMeta", "Command1!", "[x|", "Vyber meta-tag|x");
   ExpectDocument("MnuHTMLASCII", "HScroll1=255 Command1!", "[x|", "&#255;|x");
   ExpectDocument("mnumailto", "Command1!", "|", R"(<A HREF="mailto:žluť@b.cz" >mailto na žluť@b.cz</A>|)");
-}
-
-TEST_F(HtmlDialogTest, TheDocumentTypeGoesToTheStartOfTheDocument) {
-  ExpectDocument("mnuid", "Combo1=1 Command1!", "a[b|c",
+  ExpectDocument("mnuid", "Combo1=1 Command1!", "a[b|c",  // in front of the whole document
                  R"(|<!DOCTYPE HTML PUBLIC "-//W3C//DTD HTML 4.0 Transitional//EN">¶abc)");
 }
 
@@ -101,10 +84,7 @@ TEST_F(HtmlDialogTest, LinksOfferTheAnchorsOfTheRun) {
   ExpectDocument("mnukotva", "Text1=Kotva1 Command1!", "|", R"(<A NAME="Kotva1"></A>|)");
   ExpectDocument("mnukotva", "Text1=část Command1!", "a[b|c", R"(a<A NAME="část"></A>|bc)");
   ExpectDocument("mnuodkaz", "Combo1= Combo1:kotva1\r", "[x|", R"(<A HREF="#kotva1">x</A>|)");
-  QWidget& link = Open("mnuodkaz");
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&link));
-  ExpectState(link, "Combo1= Combo1:kotva", "Combo1=kotva");  // not completed
-  const auto* list = Find<QComboBox>(link, "Combo1");
+  const auto* list = Find<QComboBox>(Open("mnuodkaz"), "Combo1");
   EXPECT_EQ(list->itemText(0) + u'|' + list->itemText(1), QStringLiteral("Kotva1|část"));
 }
 
@@ -114,29 +94,21 @@ TEST_F(HtmlDialogTest, AnAnchorOrALinkWithoutANameIsNotWritten) {
   ExpectDocument("mnuodkaz", "Combo1= Command1!", "[kept|", "[kept|");
 }
 
-TEST_F(HtmlDialogTest, ALinkLeadsToTheChosenFileWithItsAnchorAndTarget) {
+TEST_F(HtmlDialogTest, ALinkLeadsToTheChosenFileOrToATypedAddress) {
   ExpectDocument("mnuodkazjiny", "File1=0 Command1!", "[x|", R"(<A HREF="file://)" + temp.Path() + R"(/x.htm">x</A>|)");
   ExpectDocument("Link", "Check1! Check2! Check3! Text2=a Combo2=_top Command1!", "|",
                  R"(<A HREF="x.htm#a" TARGET="_top">Odkaz na x.htm#a</A>|)");
-  ExpectDocument("Link", "Text2= Combo2= Command1!", "|", R"(<A HREF="x.htm" TARGET="">Odkaz na x.htm</A>|)");
-}
-
-TEST_F(HtmlDialogTest, ALinkLeadsToATypedAddress) {
-  ExpectDocument("Link", "Option2! Text1=http://žába.cz Option2! Command1!", "|",
+  ExpectDocument("Link", "Check1! Check3! Option2! Text1=http://žába.cz Option2! Command1!", "|",
                  R"(<A HREF="http://žába.cz">Odkaz na http://žába.cz</A>|)");
 }
 
-TEST_F(HtmlDialogTest, AnImageHasTheTickedAttributes) {
-  ExpectDocument("mnuobr", "File1=0 Command1!", "a[b|c", "a<IMG SRC=\"" + address + "/ž%D0%96.GIF\">|bc");
+TEST_F(HtmlDialogTest, ImagesAndFramesHaveTheTickedAttributes) {
   ExpectDocument("Image",
-                 "Check1! Check2! Check3! Check4! Check5! Check6! Check7! Check8! Option7! VScroll1=600 VScroll2=800 "
-                 "VScroll3=3 VScroll4=4 VScroll5=5 Text1='a \" <' Command1!",
+                 "File1=0 Check1! Check2! Check3! Check4! Check5! Check6! Check7! Check8! Option7! VScroll1=600 "
+                 "VScroll2=800 VScroll3=3 VScroll4=4 VScroll5=5 Text1='a \" <' Command1!",
                  "|",
                  R"(<IMG SRC="ž%D0%96.GIF" ALT="a " <" ALIGN="left" WIDTH="800" HEIGHT="600" VSPACE="5" HSPACE="4")"
                  R"( BORDER="3" LOWSRC="path/file.jpg" USEMAP="#mapa">|)");
-}
-
-TEST_F(HtmlDialogTest, AFrameHasTheTickedAttributes) {
   ExpectDocument("mnuHTML_Fme", "File1=0 Command1!", "a[b|c", "a<FRAME SRC=\"" + address + "/x.htm\">|bc");
   // required: SCROLLING twice, the second as it was typed
   ExpectDocument("mnuHTML_Fme",
@@ -173,11 +145,9 @@ TEST_F(HtmlDialogTest, TickedColoursOfAPageAlsoColourTheEditor) {
 
 TEST_F(HtmlDialogTest, PickedColoursReachThePreviewThenThePageAndTheEditor) {
   const QWidget& dialog = Open("Newhtml");
-  const std::string before = ColorToHex(main.Look().fore_color);
   Work(dialog, "Check1! Check2! Check5! Check6! Check7! Command4! Command5! Command6! Command7! Command8!");
   EXPECT_EQ(Find<TextBox>(dialog, "Text1")->TextColor().name(), QStringLiteral("#ff0013"));
   EXPECT_EQ(Find<TextBox>(dialog, "Text1")->BackgroundColor().name(), QStringLiteral("#ff0010"));
-  EXPECT_EQ(ColorToHex(main.Look().fore_color), before);
   ExpectDocument("Newhtml", "Command1!", "[x|",
                  kPageHead +
                      R"( BGCOLOR="#FF0010" TEXT="#FF0013" LINK="#FF0012" VLINK="#FF0011" ALINK="#FF0014">¶[x|)" +
@@ -193,15 +163,11 @@ TEST_F(HtmlDialogTest, APageHasTheChosenBackground) {
   // required: a bare name makes a file's address too
   ExpectDocument("Newhtml", "Check4! Command1!", "[x|",
                  kPageHead + " BACKGROUND=\"file:///ž%D0%96.GIF\">¶[x|" + kPageEnd);
+  // without a background it needs no file
+  ExpectDocument("Newhtml", "Dir1=/ Check3! Combo1=*.BMP Command1!", "[x|", kPageHead + ">¶[x|" + kPageEnd);
 }
 
-TEST_F(HtmlDialogTest, APageWithoutABackgroundNeedsNoFile) {
-  ExpectState(Open("Newhtml"), "Check3! Combo1=*.BMP", "Command1=(&Ok)");
-  ExpectDocument("Newhtml", "Check3! Dir1=/ Command1!", "[x|", kPageHead + ">¶[x|" + kPageEnd);
-}
-
-TEST_F(HtmlDialogTest, ATableHasTheTickedAttributes) {
-  ExpectDocument("mnutable", "Command1!", "a[b|c", "a<TABLE>¶<TR><TD></TD></TR>¶</TABLE>|bc");
+TEST_F(HtmlDialogTest, TablesRowsAndCellsHaveTheTickedAttributes) {
   // required: until its bar moves, a label is written as it stands, also the thickness over a bar at 0
   ExpectDocument(
       "Table", "Check1! Check2! Check3! Check4! Check5! Check6! Check7! Check8! Check9! Command1!", "|",
@@ -214,16 +180,9 @@ TEST_F(HtmlDialogTest, ATableHasTheTickedAttributes) {
                  R"(<TABLE WIDTH="300" COLS="2" COLSPEC="c" ALIGN="LEFT" FRAME="NONE" BORDER="0" RULES="ALL")"
                  R"( CELLSPACING="7" CELLPADDING="8">¶<CAPTION ALIGN="TOP"> <x> </CAPTION>¶)"
                  R"(<TR><TD></TD><TD></TD></TR>¶</TABLE>|)");
-}
-
-TEST_F(HtmlDialogTest, ARowHasItsCellsAndTheTickedAlignment) {
   ExpectDocument("mnurow", "VScroll1=2 Command1!", "[ab|c", "<TR><TD>Buňka1</TD><TD>Buňka2</TD></TR>¶|abc");
   ExpectDocument("mnurow", "Check1! Option4! Check2! VScroll1=1 Command1!", "|",
                  R"(<TR ALIGN="CHAR" CHAR="," VALIGN="MIDDLE"><TD>Buňka1</TD></TR>¶|)");
-  ExpectDocument("mnurow", "Text1= Check2! Command1!", "|", R"(<TR ALIGN="CHAR"><TD>Buňka1</TD></TR>¶|)");
-}
-
-TEST_F(HtmlDialogTest, ACellHasTheTickedAttributes) {
   ExpectDocument(
       "mnucell", "Check1! Check2! Check3! Check4! Check5! Check6! Check7! Check9! Command1!", "a[b|c",
       R"(a<TH ALIGN="CENTER" VALIGN="MIDDLE" BGCOLOR="#000000" COLSPAN="1" ROWSPAN="1" NOWRAP WIDTH="1">b</TH>|c)");
@@ -248,14 +207,6 @@ TEST_F(TableGridTest, ASmallerTableMovesThePositionIntoItAndForgetsNothing) {
   Work(table, "VScroll1=3 VScroll2=3 HScroll1=3 VScroll7=3 VScroll8=3 Text4=ř Text5=typed");
   ExpectState(table, "VScroll1=2 VScroll2=2", "Label12=2/2 Label13=2/2 Label16=2/2 Text4= Text5=");
   ExpectState(table, "VScroll1=3 VScroll2=3 HScroll1=3 VScroll7=3 VScroll8=3", "Text4=ř Text5=typed");
-}
-
-TEST_F(TableGridTest, EnterGoesFromCellToCellAndEndsAtTheOkButton) {
-  ExpectState(table, "VScroll1=3 VScroll2=2 TabStrip1=1 HScroll1:\r VScroll7:\r Text4:a\rb\rc\rd\re\rf\r", "Text4=f");
-  EXPECT_EQ(table.focusWidget(), Named(table, "Command1"));
-  Work(table, "Command1!");
-  EXPECT_EQ(Marked(text),
-            "<TABLE>¶<TR><TD>a</TD><TD>b</TD><TD>c</TD></TR>¶<TR><TD>d</TD><TD>e</TD><TD>f</TD></TR>¶</TABLE>|");
 }
 
 TEST_F(TableGridTest, AttributesOfACellAndOfARowComeFromTheirDialogs) {
@@ -326,11 +277,9 @@ TEST_F(HtmlDialogTest, TheSizeOfAnImageFollowsBarsAndUnit) {
 
 TEST_F(HtmlDialogTest, OtherLabelsFollowTheirBars) {
   ExpectState(Open("mnubarva"), "Check1! VScroll4=7", "Label4=7");
-  ExpectState(Open("MnuHTMLASCII"), "HScroll1=38", "Label1=38 Label2=&");
   ExpectState(Open("MnuHTMLASCII"), "HScroll1=138", "Label1=138 Label2=Š");
   ExpectState(Open("mnuHTML_Fme"), "Check9! VScroll12=255 VScroll10=16", "Label8=#FF0010 Picture3=#ff0010");
   ExpectState(Open("mnucreate"), "Check8! HScroll1=3", "Label14=3");
-  ExpectState(Open("mnucreate"), "Check6! Command8!", "Label11=#FF0010 Picture3=#ff0010");
   ExpectState(Open("mnucell"), "Check7! VScroll6=300", "Label8=300");
   ExpectState(Open("mnucell"), "Check8!", "Label8=100%");
 }
@@ -346,20 +295,20 @@ TEST_F(HtmlDialogTest, TheOkButtonOfALinkNeedsAFileOrAnAddress) {
 }
 
 TEST_F(HtmlDialogTest, EachBoxEnablesItsControls) {
-  const std::pair<const char*, QString> cases[] = {
+  const std::pair<const char*, const char*> cases[] = {
       // How many controls each box enables, in the order of the form.
-      {"mnubarva", QStringLiteral("2 1 3")},
-      {"mnulistcount", QStringLiteral("5 1 0")},
-      {"mnuHTML_Fme", QStringLiteral("0 1 1 1 2 2 7 6 0")},
-      {"mnuHTML_fset", QStringLiteral("1 1")},
-      {"mnuhr", QStringLiteral("4 0")},
-      {"mnuobr", QStringLiteral("0 1 1 1 8 5 6 3")},
-      {"mnuodkazjiny", QStringLiteral("0 1 1")},
-      {"mnulist", QStringLiteral("3 1 0")},
-      {"mnutable", QStringLiteral("0 4 3 5 11 4 1 2 2")},
-      {"mnucell", QStringLiteral("0 4 3 2 2 2 3 0 0")},
-      {"mnurow", QStringLiteral("4 3")},
-      {"mnucreate", QStringLiteral("2 2 2 2 2 2 4 0")},
+      {"mnubarva", "2 1 3"},
+      {"mnulistcount", "5 1 0"},
+      {"mnuHTML_Fme", "0 1 1 1 2 2 7 6 0"},
+      {"mnuHTML_fset", "1 1"},
+      {"mnuhr", "4 0"},
+      {"mnuobr", "0 1 1 1 8 5 6 3"},
+      {"mnuodkazjiny", "0 1 1"},
+      {"mnulist", "3 1 0"},
+      {"mnutable", "0 4 3 5 11 4 1 2 2"},
+      {"mnucell", "0 4 3 2 2 2 3 0 0"},
+      {"mnurow", "4 3"},
+      {"mnucreate", "2 2 2 2 2 2 4 0"},
   };
   for (const auto& [command, expected] : cases) {
     const QWidget& window = Open(command);
@@ -368,17 +317,13 @@ TEST_F(HtmlDialogTest, EachBoxEnablesItsControls) {
         return !control->isEnabled() && control->parentWidget()->isEnabled();
       });
     };
-    const auto at_first = disabled();
     QStringList enabled;
     for (auto* box : window.findChildren<QCheckBox*>()) {
       const auto before = disabled();
       box->click();
       enabled += QString::number(before - disabled());
     }
-    const QString seen = enabled.join(u' ');
-    EXPECT_EQ(seen.toStdString(), expected.toStdString()) << command;
-    for (auto* box : window.findChildren<QCheckBox*>()) box->click();
-    EXPECT_EQ(disabled(), at_first) << command << " after a second click on each box";
+    EXPECT_EQ(enabled.join(u' ').toStdString(), expected) << command;
   }
 }
 
@@ -409,33 +354,17 @@ TEST_F(HtmlDialogTest, ListsHoldTheirItemsAndTheTickedAttributes) {
 }
 
 TEST_F(HtmlDialogTest, ItemsAreAddedAboveTheSelectedRowAndRemoved) {
-  QWidget& list = Open("mnulist");
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&list));
-  ExpectState(list, "Text1=a Command1! Text1=b Command1! List1=1 Text1=x Command1!", "List1=Položka|x|>a|b");
-  ExpectState(list, "Command2!", "List1=Položka|x|b");  // the selected row
-  ExpectState(list, "List1=2 List1:\x7f", "List1=Položka|x Command2=O&deber");
-  ExpectState(list, "Command2! Command2!", "List1= Command2=(O&deber)");  // without a selected row the last one
-}
-
-TEST_F(HtmlDialogTest, EnterAddsAnItemAndGoesOnWithTheNext) {
   const QWidget& list = Open("mnulist");
-  ExpectState(list, "Command2! Text1= Text1:2\r3\r", "List1=2|3 Command2=O&deber");
-  EXPECT_EQ(list.focusWidget(), Named(list, "Text1"));
-}
-
-TEST_F(HtmlDialogTest, AnItemOfSeveralLinesIsShownOnOne) {
-  for (const char* command : {"mnulist", "mnulistcount"}) {
-    const auto* rows = Find<QListWidget>(Open(command), "List1");
-    const auto* shown_by = qobject_cast<const QStyledItemDelegate*>(rows->itemDelegate());
-    EXPECT_EQ(shown_by->displayText(QStringLiteral("a\r\nb"), QLocale()), QStringLiteral("a¶b")) << command;
-  }
+  ExpectState(list, "Text1=a Command1! Text1=b Text1:\r List1=1 Text1=x Command1!", "List1=Položka|x|>a|b");
+  ExpectState(list, "Command2!", "List1=Položka|x|b");                 // the selected row
+  ExpectState(list, "Command2!", "List1=Položka|x Command2=O&deber");  // without a selected row the last one
+  ExpectState(list, "Command2! Command2!", "List1= Command2=(O&deber)");
 }
 
 TEST_F(HtmlDialogTest, ADefinitionListHoldsPairs) {
   const QWidget& terms = Open("MnuListDef");
   ExpectState(terms, "Command1! Atribut=a Hodnota=", "Command1=(&Přidej)");  // required: by the last change
   ExpectState(terms, "Atribut=b Hodnota:\r", "Atributs=Text1|b Values=Text1|");
-  EXPECT_EQ(Find<QLineEdit>(terms, "Atribut")->selectedText(), QStringLiteral("b"));
   ExpectState(terms, "Values=0", "Atributs=>Text1|b Values=>Text1| Atribut=b");  // the fields don't follow here
   Work(terms, "Command3!");
   EXPECT_EQ(Marked(text), "<DL>¶<DT>Text1</DT>¶<DD>Text1</DD>¶<DT>b</DT>¶<DD></DD>¶</DL>|");
@@ -457,11 +386,8 @@ TEST_F(HtmlDialogTest, AttributesAreChosenFromAListOrTyped) {
   ExpectState(attributes, "Command2!", "Atributs=ID|X Values=ž|ž");
 }
 
-TEST_F(HtmlDialogTest, AttributesGoIntoTheTagAtTheCaret) {
+TEST_F(HtmlDialogTest, AttributesGoIntoTheTagAtTheCaretOrKeepTheDialogOpen) {
   ExpectDocument("mnuatr", "Atribut=ID Hodnota=ž Command1! Command3!", "<A>|x</A>", R"(<A ID="ž"|>x</A>)");
-}
-
-TEST_F(HtmlDialogTest, AttributesWithoutATagKeepTheDialogOpen) {
   platform.answers = {Answer::kOk};
   ExpectDocument("mnuatr", "Command1! Command3!", "|<A>x</A>", "|<A>x</A>");
   EXPECT_TRUE(parts.windows.Get<Attr>().isVisible());
@@ -481,14 +407,11 @@ struct EdiTagTest : HtmlDialogTest {
   }
 };
 
-TEST_F(EdiTagTest, ATagIsTakenApartAndWrittenBack) {
+TEST_F(EdiTagTest, ATagIsTakenApartEditedAndWrittenBack) {
   ExpectEdited("a<IMG ALT=\"a b\" SRC=c>|d", "", "Text1=IMG Atributs=ALT|SRC Values='a b|c' Command2=O&deber",
                "Command3!", "a<IMG ALT=\"a b\" SRC=\"c\">|d");
   ExpectEdited("<A B=x¶y C=2>| ", "Atributs=0 Atributs=1 Atributs=0", "Atribut=B", "Command3!",
                R"(<A B="x¶y" C="2">| )");
-}
-
-TEST_F(EdiTagTest, TheFieldsChangeTheChosenAttribute) {
   ExpectEdited("<A B=1 C=2>| ", "Atributs=1", "Values=1|>2 Atribut=C Hodnota=2", "Command3!", R"(<A B="1" C="2">| )");
   ExpectEdited("<A B=1 C=2>| ", "Values=0 Atribut=X HScroll1=50", "Atributs=>X|C Values=>50%|2", "Command3!",
                R"(<A X="50%" C="2">| )");
@@ -504,14 +427,11 @@ TEST_F(EdiTagTest, AColourOrAFileBecomesTheValue) {
   EXPECT_EQ(platform.calls.front(), R"(open "Všechno(*.*)|*.*" 1)");
 }
 
-TEST_F(EdiTagTest, AttributesAreAddedAndRemoved) {
+TEST_F(EdiTagTest, AttributesAreAddedAndRemovedButNotByStorno) {
   ExpectEdited("<A B=1 C=2>| ", "Values=0 Command1!", "Atributs=B|>B|C", "Command3!", R"(<A B="1" B="1" C="2">| )");
   platform.answers = {Answer::kOk};  // a value is missing
   ExpectEdited("<A B=1 C=>| ", "Atributs=1 Command2!", "Atributs=B Values= Command2=(O&deber)", "Command3!",
                R"(<A B="">| )");
-}
-
-TEST_F(EdiTagTest, StornoLeavesTheTag) {
   ExpectEdited("<A B=1 C=2>| ", "Atributs=0 Command2!", "Atributs=C Values=2", "Command4!", "[<A B=1 C=2>| ");
 }
 
@@ -538,18 +458,12 @@ struct SampleTest : HtmlDialogTest {
   }
 };
 
-TEST_F(SampleTest, WithoutAChoiceTheHintTakesThePlaceOfTheDocument) {  // required
-  ExpectDocument("mnutemplate", "Command1!", "[x|", "|Vyber dokument¶");
-}
-
 TEST_F(SampleTest, TheChosenRowIsShown) {
+  EXPECT_EQ(Preview(), "Vyber dokument\r\n");  // required: Ok would put this hint into the document
   list.setFocus();
   QTest::keyClick(&list, Qt::Key_Down);  // the first row, not the second
   EXPECT_EQ(Preview(), SampleText("HTML1", editor.settings));
   ExpectState(window, "", "Label1='Zobrazení dokumentu :Jednoduchý HTML dokument 1'");
-  editor.settings.UserEmail = "c@d";
-  Click(0);  // shows the new address
-  EXPECT_EQ(Preview(), SampleText("HTML1", editor.settings));
 }
 
 TEST_F(SampleTest, EnterPutsTheSampleInPlaceOfTheDocument) {

@@ -1,18 +1,13 @@
 #include <gtest/gtest.h>
 
-#include <QClipboard>
-#include <QListWidget>
-
 #include "accessories/windows/color_dialog.h"
 #include "platform/qt/controls/cell_grid.h"
 #include "platform/qt/frames/outer_geometry.h"
 #include "shell/windows/pos.h"
 #include "support/plain_view.h"
 #include "support/program_test.h"
-#include "text/codepage.h"
 #include "texttools/appearance.h"
 #include "texttools/windows/formatuj.h"
-#include "texttools/windows/vyber.h"
 
 namespace pelmar {
 namespace {
@@ -22,30 +17,14 @@ void Enter(const QWidget& dialog) { QTest::keyClick(dialog.focusWidget(), Qt::Ke
 // The searches show the main window, with the match in the document.
 struct SearchTest : ProgramTest {
   SearchTest() { main.show(); }
-
-  void ExpectMovedOffTheMatch(QWidget& dialog, const char* steps) {
-    dialog.move(main.Box().mapToGlobal(QPoint(0, 0)));
-    Work(dialog, steps);
-    const QRect match = main.Box().CharRect(text.SelStart());
-    const QPoint place = main.Box().viewport()->mapToGlobal(match.topLeft());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !dialog.geometry().intersects(QRect(place, match.size())); }));
-  }
-  // Takes the steps, the last of which finds nothing.
-  void ExpectNoFiguresDuringMessage(const QWidget& dialog, const char* steps) {
-    std::string during_message;
-    platform.on_message = [&] { during_message = State(dialog, "Label3 Label5"); };
-    platform.answers = {Answer::kOk};
-    Work(dialog, steps);
-    platform.on_message = {};
-    EXPECT_EQ(during_message, "Label3= Label5=") << steps;
+  QWidget& OpenFor(const char* command, const char* marked) {
+    PutMarked(text, marked);
+    return Open(command);
   }
 };
 
 struct HledaniTest : SearchTest {
-  QWidget& OpenFor(const char* marked) {
-    PutMarked(text, marked);
-    return Open("mnufind");
-  }
+  QWidget& OpenFor(const char* marked) { return SearchTest::OpenFor("mnufind", marked); }
 };
 
 TEST_F(HledaniTest, AStartAllowsOnlyTheNextMatch) {
@@ -57,23 +36,9 @@ TEST_F(HledaniTest, AStartAllowsOnlyTheNextMatch) {
   EXPECT_EQ(Marked(text), "[jedna| dvě jedna");
 }
 
-TEST_F(HledaniTest, EnterStartsThenGoesOnAndEndsInTheFieldOfTheTerm) {
-  const auto& dialog = OpenFor("|jedna dvě jedna");
-  ExpectState(dialog, "Find=jedna Find:\r", "Label3=1 Label5=0");
-  Enter(dialog);  // on Command2, though Command4 is the default button
-  ExpectState(dialog, "", "Label3=2 Label5=10");
-  platform.answers = {Answer::kOk};
-  Enter(dialog);
-  EXPECT_EQ(dialog.focusWidget(), Named(dialog, "Find"));
-}
-
-TEST_F(HledaniTest, TheKeyboardPicksATermFromTheHistory) {
-  const auto& dialog = OpenFor("|jedna dvě");
-  Work(dialog, "Find=jedna Command1! Command4! Find=dvě Command1! Command4! Find=x");
-  auto* history = Find<QListWidget>(dialog, "History");
-  history->setFocus();  // which makes the first entry current
-  QTest::keyClick(history, Qt::Key_Down);
-  ExpectState(dialog, "", "Find=jedna History=>jedna|dvě");
+TEST_F(HledaniTest, ARowOfTheHistoryIsTheTerm) {
+  ExpectState(OpenFor("|jedna dvě"), "Find=jedna Command1! Command4! Find=dvě Command1! Command4! Find=x History=0",
+              "Find=jedna History=>jedna|dvě");
 }
 
 TEST_F(HledaniTest, ALongSelectionOfSeveralLinesIsTheTerm) {
@@ -83,33 +48,17 @@ TEST_F(HledaniTest, ALongSelectionOfSeveralLinesIsTheTerm) {
   EXPECT_EQ(text.SelEnd(), text.Size());
 }
 
-TEST_F(HledaniTest, LinesPastedIntoTheFieldAreFound) {
-  const auto& dialog = OpenFor("|x a¶b");
-  auto* field = Find<QLineEdit>(dialog, "Find");
-  field->selectAll();
-  QGuiApplication::clipboard()->setText(QStringLiteral("a\nb"));
-  QTest::keyClick(field, Qt::Key_V, Qt::ControlModifier);
-  Work(dialog, "Command1!");
-  EXPECT_EQ(Marked(text), "x [a¶b|");
+TEST_F(HledaniTest, TheDialogMovesOffTheMatch) {
+  QWidget& dialog = OpenFor("|a b");
+  dialog.move(main.Box().mapToGlobal(QPoint(0, 0)));
+  Work(dialog, "Find=b Command1!");
+  const QRect match = main.Box().CharRect(text.SelStart());
+  const QPoint place = main.Box().viewport()->mapToGlobal(match.topLeft());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !dialog.geometry().intersects(QRect(place, match.size())); }));
 }
-
-TEST_F(HledaniTest, NoFiguresStandBehindTheMessageOfAStart) {
-  ExpectNoFiguresDuringMessage(OpenFor("|jedna dvě"), "Find=dvě Command1! Command4! Find=x Command1!");
-}
-
-TEST_F(HledaniTest, EnterAtTheBoxForTheCasePressesTheDefaultButton) {
-  ExpectState(OpenFor("|jedna"), "Find=jedna Rozlisovat:\r", "Find=Text Rozlisovat=1 Label3= History=");
-}
-
-TEST_F(HledaniTest, TheDialogMovesOffTheMatch) { ExpectMovedOffTheMatch(OpenFor("|a b"), "Find=b Command1!"); }
 
 struct ZamenaTest : SearchTest {
-  QWidget& dialog = OpenFor("|a¶b a¶b");
-
-  QWidget& OpenFor(const char* marked) {
-    PutMarked(text, marked);
-    return Open("mnuchange");
-  }
+  QWidget& dialog = OpenFor("mnuchange", "|a¶b a¶b");
 };
 
 TEST_F(ZamenaTest, AStartAllowsTheStepsOnly) {
@@ -146,22 +95,11 @@ TEST_F(ZamenaTest, ARowOfEitherListPicksTheWholePair) {
   ExpectState(dialog, "Find=x Chage=y History=1", "Find=b Chage=d History=a|>b List1=c|>d");
 }
 
-TEST_F(ZamenaTest, NoFiguresStandBehindTheMessageOfAStart) {
-  ExpectNoFiguresDuringMessage(dialog, "Find=b Command1! Command5! Command4! Find=x Command1!");
-}
-
-TEST_F(ZamenaTest, EnterAtTheBoxForTheCasePressesTheDefaultButton) {
-  ExpectState(dialog, "Find=b Rozlisovat:\r", "Find=Text Rozlisovat=1 Label3= History=");
-}
-
-TEST_F(ZamenaTest, TheDialogMovesOffTheMatch) { ExpectMovedOffTheMatch(dialog, "Find=b Command1!"); }
-
 TEST_F(ProgramTest, CommandsOpenTheirWindowsAndEscapeClosesThem) {
   const std::pair<const char*, const char*> cases[] = {
       {"mnuopen", "Otevři"}, {"Open", "Otevři"},           {"mnusave", "Ulož"},
       {"Save", "Ulož"},      {"mnudir", "DirSetup"},       {"mnu_utiliti_dos_unix", "Dos_Unix_conv"},
-      {"Find", "Hledání"},   {"mnuASCII", "kod"},          {"mnuklavesnice", "Klavesnice"},
-      {"mnucalk", "Kalkul"}, {"mnu_analysis", "Analytic"}, {"mnumorse", "Morse"},
+      {"Find", "Hledání"},   {"mnu_analysis", "Analytic"}, {"mnumorse", "Morse"},
   };
   for (const auto& [command, window] : cases) {
     QWidget& opened = Open(command);
@@ -171,39 +109,25 @@ TEST_F(ProgramTest, CommandsOpenTheirWindowsAndEscapeClosesThem) {
   }
 }
 
-struct VyberTest : ProgramTest {};
-
-TEST_F(VyberTest, ShowsTheSelectionAtEachCommand) {
-  const std::pair<const char*, const char*> cases[] = {
-      {"0[1|234", "Start=1 Delka=1 Label5=1"}, {"01[234|", "Start=2 Delka=3 Label5=234"},
-      {"01|234", "Start=2 Delka=0 Label5="},   {"[01234|", "Start=0 Delka=5 Label5=01234"},
-      {"01234|", "Start=5 Delka=0 Label5="},
-  };
-  for (const auto& [marked, state] : cases) {
-    PutMarked(text, marked);
-    editor.commands.Run("mnupresnvyb");  // from the second time on the window is already open
-    ExpectState(parts.windows.Get<Vyber>(), "", state);
-    EXPECT_EQ(Marked(text), marked);
-  }
-}
-
-TEST_F(VyberTest, SetsTheSelectionAndCutsItAtTheEnd) {
-  PutMarked(text, "01[2|34");
+TEST_F(ProgramTest, VyberShowsAndSetsTheSelectionAndCutsItAtTheEnd) {
+  PutMarked(text, "01234|");
   const QWidget& dialog = Open("mnupresnvyb");
+  ExpectState(dialog, "", "Start=5 Delka=0 Label5=");
+  PutMarked(text, "01[2|34");
+  editor.commands.Run("mnupresnvyb");  // while the window is open
+  ExpectState(dialog, "", "Start=2 Delka=1 Label5=2");
+  EXPECT_EQ(Marked(text), "01[2|34");
   ExpectState(dialog, "Delka=99", "Delka=3 Label2=3 Label5=234");
   ExpectState(dialog, "Start=4", "Delka=1 Label1=4 Label2=1 Label5=4");
   EXPECT_EQ(Marked(text), "0123[4|");
 }
 
-struct FormatujTest : ProgramTest {};
-
-TEST_F(FormatujTest, WorksOnTheRowsAndWritesThemBack) {
+TEST_F(ProgramTest, TheColumnFormatterWorksOnTheRowsAndWritesThemBack) {
   const struct {
     const char *document, *steps, *state, *after;
   } cases[] = {
       {"x[ab¶cde|x", "Hz=9", "List1=ab|cde Label2=2 Label4=2 Hz=2 Label7=2 Label8=0", "xab¶cde|x"},
       {"[ab¶cde|", "Hz=1 Text1=- Text1:\r", "List1=a-b|c-de Label2=2 Label4=3 Label7=1", "a-b¶c-de|"},
-      {"[ab¶cde|", "Hk=1 Text2=č Text2:\r", "List1=ačb|cdče Label4=3 Label8=1", "ačb¶cdče|"},
       {"[ab¶cde|", "Text1=- Text2=+ Command3! Command4! Hk=9", "List1=-ab+|-cde+ Hk=4", "-ab+¶-cde+|"},
       {"[ab¶cde|", "Hz=1 Command6!", "List1=a|ce Label4=1", "a¶ce|"},
       {"[ab¶cde|", "Hk=1 Command5!", "List1=b|ce Label4=1", "b¶ce|"},
@@ -221,11 +145,8 @@ TEST_F(FormatujTest, WorksOnTheRowsAndWritesThemBack) {
     EXPECT_EQ(Marked(text), c.after) << c.steps;
     EXPECT_FALSE(dialog.isVisible()) << c.steps;
   }
-}
-
-TEST_F(FormatujTest, WithoutASelectionSaysSoAndHasNoRows) {
   platform.answers = {Answer::kOk};
-  Formatuj dialog(text, platform, nullptr);
+  const Formatuj dialog(text, platform, nullptr);  // without a selection
   ExpectState(dialog, "Hz=9 Hk=9", "List1= Label2=0 Label4=0 Hz=0 Hk=0");
   EXPECT_EQ(platform.TakeCallsInOneLine(), "message 0 \"Vyber text\" \"Fomátování\"; ");
 }
@@ -245,16 +166,12 @@ struct ColorDialogTest : ProgramTest {
 
 TEST_F(ColorDialogTest, StornoGivesTheLastColourOfTheRunBlackAtFirst) {  // required
   EXPECT_EQ(Pick(Rgb(10, 20, 0), "Command2!", "Label11=#0A1400 Picture13=#0a1400 Picture3=#0a1400"), 0);
-  Pick(0, "Picture9! Command1!", "List1=255,255,000");
+  Pick(0, "Picture9! Command1!", "List1=255,255,000 Label11=#FFFF00 VScroll11=255 Label2=255");
   EXPECT_EQ(Pick(5, "Command2!", ""), Rgb(255, 255, 0));
 }
 
-TEST_F(ColorDialogTest, BarsAndColourFieldsMixTheColour) {
+TEST_F(ColorDialogTest, BarsAndButtonsChangeTheColour) {
   Pick(0, "VScroll10=1 VScroll11=2 VScroll12=3", "Label11=#010203 Label1=1 Label2=2 Label3=3 Picture3=#010203");
-  Pick(0, "Picture9!", "Label11=#FFFF00 VScroll11=255 Label2=255");
-}
-
-TEST_F(ColorDialogTest, ButtonsChangeTheColour) {
   Pick(Rgb(255, 255, 0), "Command6! Command7! Command8! Command3! Command11!", "Label11=#2CFF2C");
   Pick(Rgb(44, 255, 44), "Command4!", "Label11=#727272");
   Pick(Rgb(114, 114, 114), "Command10!", "Label11=#FFFFFF");
@@ -273,18 +190,10 @@ TEST(PosWindow, PlacesTheMainWindow) {
   auto* grid = Find<CellGrid>(pos, "Picture1");
   QTest::mouseMove(grid, QPoint(grid->width() - 4, 4));
   ExpectState(pos, "", "Label1='Vpravo nahoře'");
-  QTest::mousePress(grid, Qt::LeftButton, {}, QPoint(4, 4));
-  QTest::mouseRelease(grid, Qt::LeftButton, {}, QPoint(-40, 4));  // drawn off the grid
-  EXPECT_TRUE(view.calls.empty());
   QTest::mouseClick(grid, Qt::LeftButton, {}, QPoint(4, grid->height() - 4));
   const TwipsRect screen = ScreenTwips(pos);
   EXPECT_EQ(view.calls, std::vector<std::string>{"normal"});
   EXPECT_EQ(view.place, (TwipsRect{0, screen.height / 2, screen.width / 2, screen.height / 2}));
-  QTest::keyClick(grid, Qt::Key_Up);
-  QTest::keyClick(grid, Qt::Key_Right);
-  ExpectState(pos, "", "Label1=Maximalizace");
-  QTest::keyClick(grid, Qt::Key_Space);
-  EXPECT_EQ(view.place, (TwipsRect{0, 0, screen.width, screen.height}));
 }
 
 struct VisualTest : ProgramTest {
@@ -306,26 +215,18 @@ struct VisualTest : ProgramTest {
   }
 };
 
-TEST_F(VisualTest, OpensWithTheLookAndTheSettings) {
+TEST_F(VisualTest, ThePreviewFollowsAtOnceAndTheEditorByOkOrDos) {
   const QWidget& visual = Open("mnumore");
   ExpectState(visual, "", "Check2=1 Check3=1 Check1=1 Option2=1 Combo1=12 VScroll7=300 Label12=300");
   ExpectPreview(visual, "", "Courier New 12 bold italic #0A0000 #C8C8C8");
-}
-
-TEST_F(VisualTest, ChoicesChangeThePreviewAndOkAppliesThem) {
-  const QWidget& visual = Open("mnumore");
   ExpectPreview(visual, "Option3! Check2!", "Terminal 12 italic #0A0000 #C8C8C8");
   ExpectPreview(visual, "Command8! Command9! Combo1=11", "Terminal 11 italic #0B0000 #C9C8C8");
   EXPECT_EQ(Described(main.Look()), "Courier New 12 bold italic #0A0000 #C8C8C8");
   Work(visual, "Command1!");
   EXPECT_EQ(Described(main.Look()), "Terminal 8 italic #0B0000 #C9C8C8");  // 11 is none of the six sizes
-}
-
-TEST_F(VisualTest, TheBasicLookChangesThePreviewAndTheDosLookTheEditor) {
-  const QWidget& visual = Open("mnumore");
   ExpectPreview(visual, "Command3!", "Courier New 8 #000000 #FFFFFF");
   ExpectPreview(visual, "Command4!", "Courier New 8 #000000 #FFFFFF");
-  EXPECT_EQ(Described(main.Look()), "Courier New 8 #C2C2C2 #000000");
+  EXPECT_EQ(Described(main.Look()), "Courier New 8 #C2C2C2 #000000");  // the button Dos changes the editor at once
 }
 
 TEST_F(VisualTest, TheDistanceIsStoredByItsButtonAndLineCountingAtOnce) {
