@@ -70,7 +70,7 @@ def read_rows(text):
     return rows[2:]
 
 
-def expected(row, forms, paths):
+def expected(row, forms, paths, registered):
     """The row as the code requires it, and the faults of its files and commands."""
     faults = []
     match = FILES.fullmatch(row[0])
@@ -85,7 +85,7 @@ def expected(row, forms, paths):
         faults.append(f"{row[0]}: no command, nor \"opened by\" another window")
     faults += [f"{row[0]}: {command} is in no menu" for command in commands if command not in paths]
     path = "; ".join(paths[command] for command in commands if command in paths)
-    missing = registered_commands().get(window.lower(), set()) - set(commands)
+    missing = registered.get(window.lower(), set()) - set(commands)
     faults += [f"{row[0]}: {command} shows the window and isn't named" for command in sorted(missing)]
     return [row[0], f"`{name}`", title, row[3], path], faults
 
@@ -96,14 +96,14 @@ def main():
     listed = {row[0] for row in rows}
     new = [f"`src/{form}.{{ui,h,cpp}}`" for form in forms if f"`src/{form}.{{ui,h,cpp}}`" not in listed]
     faults = [] if write else [f"{files} has no row" for files in new]
-    commands = registered_commands()
+    registered = registered_commands()
     if write:
         for files in new:
-            names = commands.get(forms[FILES.fullmatch(files)[1]][0].lower(), set())
+            names = registered.get(forms[FILES.fullmatch(files)[1]][0].lower(), set())
             rows.append([files, "", "", ", ".join(f"`{name}`" for name in sorted(names, key=menu_first)), ""])
     result = []
     for row in rows:
-        right, wrong = expected(row, forms, paths)
+        right, wrong = expected(row, forms, paths, registered)
         faults += wrong
         if not write and right != row:
             faults.append(f"{row[0]}: {row} should be {right}")

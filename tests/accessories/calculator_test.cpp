@@ -113,10 +113,11 @@ TEST(Calculator, RandomIsBelowOneAndHasSevenDigits) {
 }
 
 TEST(Roman, IsAdditive) {
-  EXPECT_EQ(ToRoman(-5), "0");
-  EXPECT_EQ(ToRoman(0), "0");
-  EXPECT_EQ(ToRoman(1999), "MDCCCCLXXXXVIIII");
-  EXPECT_EQ(ToRoman(3000), "MMM");
+  const auto always = [] { return true; };
+  EXPECT_EQ(ToRoman(-5, always), "0");
+  EXPECT_EQ(ToRoman(0, always), "0");
+  EXPECT_EQ(ToRoman(1999, always), "MDCCCCLXXXXVIIII");
+  EXPECT_EQ(ToRoman(3000, always), "MMM");
 }
 
 TEST(ReadNumber, PrefixesAreTwosComplement) {

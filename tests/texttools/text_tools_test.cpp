@@ -2,13 +2,9 @@
 
 #include <vector>
 
-#include "shell/layout_picker.h"
 #include "support/marked_text.h"
-#include "support/plain_view.h"
-#include "support/printed_places.h"
 #include "support/scripted_platform.h"
 #include "support/whole_editor.h"
-#include "texttools/appearance.h"
 #include "texttools/column_format.h"
 #include "texttools/random_text.h"
 
@@ -150,60 +146,6 @@ TEST(ColumnFormat, OperationsActAtTheDistance) {
   }
   EXPECT_EQ(ShortestRow({"abc", "ab", "x"}), 1u);
   EXPECT_EQ(ShortestRow({}), 0u);
-}
-
-struct AppearanceTest : testing::Test {
-  ScriptedPlatform platform;
-  WholeEditor editor{platform};
-  PlainView view;
-
-  AppearanceTest() {
-    AddAppearanceCommands(editor, view);
-    view.look = {"Font", Rgb(1, 2, 3), Rgb(255, 255, 255), 8, false, false};
-  }
-  // The look behind a command, then the marks and the window's state that it set.
-  std::string Look(const char* command) {
-    view.calls.clear();
-    editor.commands.Run(command);
-    std::string look = Described(view.look);
-    for (const std::string& call : view.calls)
-      if (call.ends_with(" mark") || call == "normal") look += ", " + call;
-    return look;
-  }
-};
-
-TEST_F(AppearanceTest, EachCommandChangesItsPartOfTheLook) {
-  EXPECT_EQ(Look("mnu17"), "Font 17 #010203 #FFFFFF");
-  EXPECT_EQ(Look("mnuEditBold"), "Font 17 bold #010203 #FFFFFF, bold mark");
-  EXPECT_EQ(Look("mnuitalic"), "Font 17 bold italic #010203 #FFFFFF, italic mark");
-  EXPECT_EQ(Look("mnuEditBold"), "Font 17 italic #010203 #FFFFFF, no bold mark");
-  EXPECT_EQ(Look("mnuinvert"), "Font 17 italic #FEFDFC #000000");
-  EXPECT_EQ(Look("Dos"), "Courier New 8 #C2C2C2 #000000, normal, no bold mark, no italic mark");
-  EXPECT_EQ(view.place, (TwipsRect{0, 0, 9210, 6675}));
-  Look("mnuEditBold");
-  EXPECT_EQ(Look("mnubasic"), "MS Sans Serif 8 #000000 #FFFFFF, no italic mark");  // required: the mark of bold stays
-}
-
-TEST_F(AppearanceTest, ALookWithoutAFontKeepsTheFontAndAStrangeSizeBecomesEight) {
-  ApplyLook(view, {"", 3, 4, 11, true, false});
-  EXPECT_EQ(Described(view.look), "Font 8 bold #030000 #040000");
-}
-
-TEST(Visual, SizeField) {
-  const std::pair<std::string_view, SizeField> cases[] = {
-      {"", {"1", 1}},       {"00", {"1", 1}},  {"11", {"11", 11}}, {"08", {"8", 8}},
-      {"123", {"12", 123}}, {"abc", {"1", 1}}, {"9x", {"9", 9}},   {"99999", {"99", 9999}},
-  };
-  for (const auto& [typed, field] : cases) EXPECT_EQ(NormalizeSize(typed), field) << typed;
-}
-
-TEST(LayoutPicker, ACellIsAHalfOrAQuarterOfTheScreen) {
-  const TwipsRect screen{1000, 30, 1200, 800};
-  EXPECT_EQ(PlaceOfCell(1, 1, screen).place, (TwipsRect{1000, 30, 600, 400}));
-  EXPECT_EQ(PlaceOfCell(2, 2, screen).place, screen);
-  EXPECT_EQ(PlaceOfCell(2, 3, screen).place, (TwipsRect{1600, 30, 600, 800}));
-  EXPECT_EQ(PlaceOfCell(3, 2, screen).place, (TwipsRect{1000, 430, 1200, 400}));
-  EXPECT_EQ(PlaceOfCell(3, 2, screen).name, "Dole");
 }
 
 }  // namespace

@@ -1,0 +1,68 @@
+#include "html/test_page.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+
+#include "html/browser_texts.h"
+#include "support/scripted_platform.h"
+#include "support/whole_editor.h"
+
+namespace pelmar {
+namespace {
+
+struct TestPage : testing::Test {
+  ScriptedPlatform platform;
+  WholeEditor editor{platform};
+};
+
+TEST_F(TestPage, ShowsASavedDocumentFromItsFileAfterAQuestion) {
+  editor.documents.MakeCurrent("/home/jan/a.html");
+  platform.answers = {Answer::kYes};
+  editor.commands.Run("mnutest");
+  EXPECT_EQ(platform.TakeCallsInOneLine(),
+            "message 52 \"Soubor je uložen, zobrazit uloženou verzi ?\" \"Nový\"; default program /home/jan/a.html; ");
+}
+
+TEST_F(TestPage, IsOpenedByAnotherNameThanTheWrittenOne) {  // required
+  editor.text.SetText("<P>");
+  platform.draws = {0.5};
+  editor.commands.Run("mnutest");
+  EXPECT_EQ(platform.TakeCallsInOneLine(),
+            "create /tmp/$$$PelmarTemp49999999.htm; default program /tmp/49999999.htm; ");
+  EXPECT_EQ(platform.files["/tmp/$$$PelmarTemp49999999.htm"], "<P>\r\n");
+  EXPECT_EQ(platform.reseeds, 1);
+}
+
+TEST_F(TestPage, IsWrittenOverNoOtherFile) {
+  platform.files["/tmp/$$$PelmarTemp0.html"] = "other";
+  editor.text.SetText("<P>");
+  platform.draws = {0.0, 0.0, 0.999999999};
+  EXPECT_EQ(PageToShow(editor, PageEnd::kAsItIs), "/tmp/$$$PelmarTemp99999998.html");
+  EXPECT_EQ(platform.files["/tmp/$$$PelmarTemp0.html"], "other");
+  EXPECT_EQ(platform.files["/tmp/$$$PelmarTemp99999998.html"], "<P>");
+  EXPECT_FALSE(editor.file_number.IsOpen());
+}
+
+TEST_F(TestPage, IsReportedIfItCannotBeWritten) {
+  platform.draws = {0.0};
+  platform.write_errors["/tmp/$$$PelmarTemp0.htm"] = ENOSPC;
+  platform.answers = {Answer::kOk};
+  editor.commands.Run("mnutest");
+  EXPECT_TRUE(platform.calls.back().starts_with("message 0 \"Testovací stránku nelze zapsat do složky /tmp/"));
+  EXPECT_FALSE(editor.file_number.IsOpen());
+}
+
+TEST(BrowserTexts, ShowTheProgressOfALoad) {
+  EXPECT_EQ(ProgressText(1, 3), "33,3333333333333%");
+  EXPECT_EQ(ProgressText(1, 0), "");
+}
+
+TEST(BrowserTexts, RecogniseUtf8ThatThePageDoesNotDeclare) {
+  EXPECT_TRUE(IsUndeclaredUtf8("kůň"));
+  for (const char* page : {"\xEF\xBB\xBFkůň", "k\xF9\xF2", "kun", "CharSet=utf-8 kůň"})
+    EXPECT_FALSE(IsUndeclaredUtf8(page)) << page;
+}
+
+}  // namespace
+}  // namespace pelmar
