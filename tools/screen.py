@@ -51,6 +51,8 @@ class Screen:
         screen = "%dx%dx24" % SIZE
         number = self.serve("Xvfb", "-displayfd", "1", "-screen", "0", screen, "-nolisten", "tcp", "-noreset")
         self.env["DISPLAY"] = ":" + number
+        # The first key of an X server makes openbox grab its shortcuts anew. One pressed meanwhile would be lost.
+        subprocess.run(["xdotool", "key", "shift"], env=self.env, check=True)
         self.serve("openbox", "--startup", "echo running")
 
     def serve(self, *command):
