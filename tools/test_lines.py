@@ -8,7 +8,7 @@ import collections
 import pathlib
 import sys
 
-LIMIT = 39  # percent; the aim is a third
+LIMIT = 33.4  # percent, a third
 CODE = {".h", ".cpp"}
 PICTURES = {".png", ".gif", ".jpg", ".bmp", ".ico", ".pyc"}
 
