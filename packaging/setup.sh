@@ -2,7 +2,7 @@
 # The caller sets `root` (the source tree) and `step` (the word before each printed line). POSIX sh.
 
 build_packages="build-essential cmake ninja-build ccache qt6-base-dev qt6-tools-dev
-libgl-dev libx11-dev librsvg2-bin qt6-webengine-dev"
+pkgconf libgl-dev libglib2.0-dev libx11-dev librsvg2-bin qt6-webengine-dev"
 # Qt's plug-in for SVG pictures. Debian 12 has it in the package of the library.
 svg_plugin=qt6-svg-plugins
 [ "$(. /etc/os-release 2>/dev/null && echo "$VERSION_ID")" != 12 ] || svg_plugin=libqt6svg6

@@ -2,7 +2,6 @@
 
 #include <fcntl.h>
 
-#include <QDateTime>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -61,8 +60,8 @@ void AddToRecentList(const QString& list_path, const QString& path) {
   if (!locked.may_write) return;
   const FileBytes old = ReadWholeFile(native, kLongestList + 1);
   if ((old.error != 0 && old.error != ENOENT) || old.bytes.size() > kLongestList) return;
-  const QByteArray list = AddBookmark(ToBytes(old.bytes), path, mime, QDateTime::currentDateTimeUtc());
-  if (!list.isEmpty()) ReplaceFile(native, ViewOf(list), FolderOf(native), 0600);
+  const std::string list = AddBookmark(old.bytes, PathFromQString(path), mime.toStdString());
+  if (!list.empty()) ReplaceFile(native, list, FolderOf(native), 0600);
 }
 
 RecentDocuments::RecentDocuments(QString list_path) : list_path_(std::move(list_path)) { pool_.setMaxThreadCount(1); }

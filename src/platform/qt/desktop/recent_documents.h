@@ -10,13 +10,14 @@ namespace pelmar {
 class RecentDocuments {
  public:
   explicit RecentDocuments(QString list_path);
-  // Waits for work in the background.
+  // Calls Wait.
   ~RecentDocuments();
   RecentDocuments(const RecentDocuments&) = delete;
   RecentDocuments& operator=(const RecentDocuments&) = delete;
 
   // `path` is absolute.
   void Add(const QString& path);
+  // Waits until all added files are in the list.
   void Wait();
 
  private:
