@@ -42,7 +42,8 @@ timed() {
   [ $ended = passed ]
 }
 
-installed='pelmar-vex --version && ! ldd /usr/bin/pelmar-vex /usr/lib/*/pelmar-vex/*.so | grep "not found"'
+# Shows that the installed program and its modules find all libraries.
+runs='pelmar-vex --version && ! ldd /usr/bin/pelmar-vex /usr/lib/*/pelmar-vex/*.so | grep "not found"'
 
 install_missing mmdebstrap git || exit 1
 rm -rf "$results"
@@ -56,9 +57,9 @@ timed "build, test and pack" on_system "$release" \
 grep '^from_nothing: ' "$results/log" | tee -a "$results/summary" >&2
 rm -rf "$results/pelmar-vex"
 timed "install" on_system "$release" --customize-hook="copy-in '$results/packages' /" \
-  --customize-hook="chroot \"\$1\" sh -c 'apt-get -qq install /packages/*.deb && $installed'" || exit 1
+  --customize-hook="chroot \"\$1\" sh -c 'apt-get -qq install /packages/*.deb && $runs'" || exit 1
 [ -n "$from" ] || exit 0
 timed "upgrade from $from" on_system "$from" --customize-hook="copy-in '$old' /" \
-  --customize-hook="chroot \"\$1\" sh -c 'apt-get -qq install /packages/*.deb && $installed && rm -r /packages'" \
+  --customize-hook="chroot \"\$1\" sh -c 'apt-get -qq install /packages/*.deb && $runs && rm -r /packages'" \
   --customize-hook="copy-in '$results/packages' /" --customize-hook="upload '$results/sources' /etc/apt/sources.list" \
-  --customize-hook="chroot \"\$1\" sh -c 'apt-get -qq update && apt-get -qq full-upgrade && apt-get -qq install /packages/*.deb && $installed'"
+  --customize-hook="chroot \"\$1\" sh -c 'apt-get -qq update && apt-get -qq full-upgrade && apt-get -qq install /packages/*.deb && $runs'"
