@@ -54,7 +54,7 @@ int Print(std::string_view text) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  // The switches are handled first, because they work without a display and create no file.
+  // --help and --version come first, because they need no display and create no file.
   if (argc > 0)
     if (const auto text = pelmar::TerminalAnswer(std::span(argv, static_cast<std::size_t>(argc)).subspan(1)))
       return Print(*text);

@@ -7,7 +7,7 @@
 namespace pelmar {
 namespace {
 
-constexpr double kRadian = 3.14159265358979 / 180;
+constexpr double kDegree = 3.14159265358979 / 180;  // in radians
 
 // The value of a number from the display. A comma alone, which DropFirst may leave, counts as 0.
 std::optional<double> Read(std::string_view number) {
@@ -29,7 +29,7 @@ double Combine(char symbol, double a, double b) {
     case 'L':
       // Without this test every logarithm to the base 0 would be 0.
       return b > 0 ? std::log(a) / std::log(b) : std::nan("");
-    default:
+    default:  // '^'
       return std::pow(a, b);
   }
 }
@@ -72,10 +72,10 @@ void Calculator::Evaluate() {
   if (operation.empty()) return;
   const std::optional<double> a = Read(operand);
   const std::optional<double> b = Read(shown);
-  const bool by_zero = a && b && operation == "/" && *b == 0;
-  const bool done = a && b && !by_zero && Put(Combine(operation.front(), *a, *b));
-  if (by_zero) platform_.Message(MessageType::kOk, "Není možno dělit nulou", "Dělení");
-  if (!done && !by_zero) ReportNoResult();
+  if (a && b && operation == "/" && *b == 0)
+    platform_.Message(MessageType::kOk, "Není možno dělit nulou", "Dělení");
+  else if (!a || !b || !Put(Combine(operation.front(), *a, *b)))
+    ReportNoResult();
   EndOperation();
 }
 
@@ -112,19 +112,19 @@ void Calculator::HalfFloor() {
 }
 
 void Calculator::Sine() {
-  Apply([](double x) { return std::sin(x * kRadian); });
+  Apply([](double x) { return std::sin(x * kDegree); });
 }
 
 void Calculator::Cosine() {
-  Apply([](double x) { return std::cos(x * kRadian); });
+  Apply([](double x) { return std::cos(x * kDegree); });
 }
 
 void Calculator::Tangent() {
-  Apply([](double x) { return std::tan(x * kRadian); });
+  Apply([](double x) { return std::tan(x * kDegree); });
 }
 
 void Calculator::Cotangent() {
-  Apply([](double x) { return 1 / std::tan(x * kRadian); });
+  Apply([](double x) { return 1 / std::tan(x * kDegree); });
 }
 
 void Calculator::SquareRoot() {

@@ -63,13 +63,13 @@ NotesRecord LoadNotesAnew(const NotesRecord& stored, Platform& platform, FileNum
   return bytes.empty() ? stored : ReadNotes(bytes);
 }
 
-MergedNotes MergeNotes(const NotesRecord& now, const NotesRecord& stored, const NotesRecord& file) {
+MergedNotes MergeNotes(const NotesRecord& stored, const NotesRecord& now, const NotesRecord& file) {
   MergedNotes merged{file};
   for (const RescuedText& note : BringBackNotes(merged.record, {NotesToKeep(stored, now, 1)}))
     merged.record.Page(note.place) += "\r\n\r\n" + note.text;
   for (int page = kNotePages; page >= 1; --page) {
     const std::string& text = now.Page(page);
-    if (text != stored.Page(page) && text != merged.record.Page(page) && !text.empty()) merged.twice = page;
+    if (text != stored.Page(page) && text != merged.record.Page(page) && !text.empty()) merged.page_in_conflict = page;
   }
   return merged;
 }

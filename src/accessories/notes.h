@@ -1,4 +1,4 @@
-// The five notes pages, their file "\notes.dat", and the rescue of unsaved pages. The file is one record from offset 0:
+// The five notes pages, their file notes.dat, and the rescue of unsaved pages. The file is one record from offset 0:
 // for each page a 16-bit length and its bytes. A save doesn't shorten the file, so the rest of a longer old record
 // stays after the new record. Pages are numbered from 1; their texts are Windows-1250.
 #pragma once
@@ -45,15 +45,15 @@ NotesRecord LoadNotesAnew(const NotesRecord& stored, Platform& platform, FileNum
 
 struct MergedNotes {
   NotesRecord record;
-  int twice = 0;  // the first page of which both texts are kept; 0 for none
+  int page_in_conflict = 0;  // the first page of which both texts are kept; 0 for none
 };
 
 // Applies the changes between `stored` and `now` to `file`, the present content of the file. If a page has changed in
-// the file too, both texts are kept: an empty page gets the text of `now`. If no page is empty, this text is appended
-// to the text in the file, and the page may become too long.
-MergedNotes MergeNotes(const NotesRecord& now, const NotesRecord& stored, const NotesRecord& file);
+// the file too, the page keeps the text of the file, and an empty page gets the text of `now`. If no page is empty, the
+// text of `now` is appended, and the page may become too long.
+MergedNotes MergeNotes(const NotesRecord& stored, const NotesRecord& now, const NotesRecord& file);
 
-// The pages of `now` that differ from `stored`.
+// The pages of `now` that differ from `stored`. `page_on_show` is the number of the selected page.
 RescueRecord NotesToKeep(const NotesRecord& stored, const NotesRecord& now, int page_on_show);
 
 // Puts unsaved pages back: a text returns to its page if the page still has the stored text, otherwise an empty page

@@ -13,7 +13,7 @@ namespace pelmar {
 std::string CronfeldEncipher(std::string_view text, std::string_view password);
 std::string CronfeldDecipher(std::string_view text, std::string_view password);
 
-// The text that the password field shows after a typed text: the typed number, rounded down.
+// What the password field makes of typed text: the number at its start, rounded down.
 std::string PasswordText(std::string_view typed);
 
 // 15 digits. The first digit is not 0, since the field would drop a 0. Takes 15 draws.

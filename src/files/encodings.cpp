@@ -40,8 +40,8 @@ void ReportError(Platform& platform, const std::string& path, const WriteOutcome
                        std::to_string(outcome.error) + ": " + ErrorText(outcome.error) + KeptNotice(outcome));
 }
 
-// False if the file can't be read, which is reported.
-bool Survey(Platform& platform, const std::string& path, Utf8Survey& survey) {
+// Reads the whole file into `survey`. Reports a file that can't be read, and returns false.
+bool ReadInto(Platform& platform, const std::string& path, Utf8Survey& survey) {
   int error = 0;
   {
     const BusyPointer busy(platform);
@@ -52,7 +52,7 @@ bool Survey(Platform& platform, const std::string& path, Utf8Survey& survey) {
   return error == 0;
 }
 
-// False if the target is the source, or if the person refuses to overwrite the target.
+// False if the target is the source, which is reported, or if the person refuses to overwrite the target.
 bool MayWrite(Platform& platform, const std::string& path, const std::string& target) {
   return !IsOwnSource(platform, path, target) &&
          (!platform.CanRead(target) || Agreed(platform, OverwriteQuestion(target)));
@@ -72,12 +72,15 @@ void Write(Platform& platform, const std::string& path, const std::string& targe
 std::string_view FormatHint(std::string_view bytes) {
   if (LooksLikeUtf8(bytes))
     return "Soubor je v UTF-8, čte se jako Windows-1250. Převede ho „Konverze dos - unix“ v nabídce Soubor.";
-  bool whole = false, lone = false;
-  for (std::size_t at = bytes.find('\n'); at != std::string_view::npos; at = bytes.find('\n', at + 1))
-    (at > 0 && bytes[at - 1] == '\r' ? whole : lone) = true;
-  if (!lone) return {};
-  return whole ? "Část řádků končí jen LF. Převede je „Konverze dos - unix“ v nabídce Soubor."
-               : "Řádky končí jen LF. Převede je „Konverze dos - unix“ v nabídce Soubor.";
+  bool has_cr_lf = false, has_lone_lf = false;
+  for (std::size_t at = bytes.find('\n'); at != std::string_view::npos; at = bytes.find('\n', at + 1)) {
+    const bool is_cr_lf = at > 0 && bytes[at - 1] == '\r';
+    has_cr_lf |= is_cr_lf;
+    has_lone_lf |= !is_cr_lf;
+  }
+  if (!has_lone_lf) return {};
+  return has_cr_lf ? "Část řádků končí jen LF. Převede je „Konverze dos - unix“ v nabídce Soubor."
+                   : "Řádky končí jen LF. Převede je „Konverze dos - unix“ v nabídce Soubor.";
 }
 
 std::string_view MixHint() {
@@ -160,7 +163,7 @@ std::string PathBeside(std::string_view path, std::string_view extension) {
 void ConvertToPage(Platform& platform, const std::string& path) {
   const std::string target = PathBeside(path, "1250");
   Utf8Survey survey;
-  if (!Survey(platform, path, survey)) return;
+  if (!ReadInto(platform, path, survey)) return;
   if (survey.malformed)
     return Report(platform,
                   "Soubor " + path + " není v UTF-8:\r\n" + Described(*survey.malformed) + ".\r\nNic nebylo zapsáno.");
@@ -177,7 +180,7 @@ void ConvertToPage(Platform& platform, const std::string& path) {
 void ConvertToUtf8(Platform& platform, const std::string& path, bool byte_order_mark) {
   const std::string target = PathBeside(path, "utf8");
   Utf8Survey survey;
-  if (!Survey(platform, path, survey)) return;
+  if (!ReadInto(platform, path, survey)) return;
   if (!survey.malformed && survey.beyond_ascii &&
       !Agreed(platform, "Soubor " + path + " je v UTF-8 už teď.\r\nOpravdu převést ?"))
     return;

@@ -8,7 +8,7 @@
 namespace pelmar {
 namespace {
 
-// A blank, "ALIGN", "=" between blanks and the quoted value. Empty for kNone.
+// For example ` ALIGN = "LEFT"`, with the leading blank. "" for kNone.
 std::string SpacedAlign(Align align) {
   static constexpr std::string_view kValues[] = {"", "LEFT", "CENTER", "RIGHT"};
   if (align == Align::kNone) return {};
@@ -17,18 +17,20 @@ std::string SpacedAlign(Align align) {
 
 std::string SpacedWidth(std::string_view width) { return " Width = " + Quoted(width); }
 
-Wrapping BlankWrapping(const std::string& open, const std::string& close, std::string_view sample) {
+Wrapping WrappingWithBlanks(const std::string& open, const std::string& close, std::string_view sample) {
   return {open + " ", " " + close, std::string(sample)};
 }
 
 }  // namespace
 
-Wrapping Paragraph(Align align) { return BlankWrapping("<P" + SpacedAlign(align) + " >", "</P>", "Odstavcový text"_w); }
+Wrapping Paragraph(Align align) {
+  return WrappingWithBlanks("<P" + SpacedAlign(align) + " >", "</P>", "Odstavcový text"_w);
+}
 
 Wrapping Heading(const HeadingSpec& spec) {
   const std::string tag = "H" + std::string(LeftTrimmed(spec.size));
   const std::string wrap = spec.no_wrap ? " NOWRAP" : "";
-  return BlankWrapping("<" + tag + wrap + SpacedAlign(spec.align) + ">", "</" + tag + ">", "Nadpisový text"_w);
+  return WrappingWithBlanks("<" + tag + wrap + SpacedAlign(spec.align) + ">", "</" + tag + ">", "Nadpisový text"_w);
 }
 
 Wrapping Font(const FontSpec& spec) {
@@ -66,7 +68,7 @@ std::string Fraction(std::string_view numerator, std::string_view denominator) {
 }
 
 std::string CommentText(std::string_view text) {
-  std::string comment("<! ");  // required: not a comment of the language
+  std::string comment("<! ");  // required: this is no valid HTML comment
   return comment.append(text).append(" >");
 }
 

@@ -1,6 +1,6 @@
 // Everything that the program asks of the system. platform/qt implements Platform with Qt, and the tests have a
 // scripted implementation. Messages and titles are UTF-8, documents and the clipboard are Windows-1250. A path is the
-// bytes that the system gave. No call throws: a call on a file returns 0 or an errno, alone or in the field `error`.
+// bytes that the system gave. No call throws. A call that reads or writes a file gives 0 or an errno.
 // Call these functions from the interface thread. Other threads may call only WritePrivateFile, at any time.
 #pragma once
 
@@ -40,14 +40,14 @@ struct FileBytes {
 
 struct WriteOutcome {
   int error = 0;  // 0 or an errno
-  // If a failed write damaged the file for good: the path of a copy of the old content.
+  // The path of a copy of the old content, if a failed write damaged the file and it couldn't be restored. Else "".
   std::string kept = {};
 };
 
-// If two stamps of a path differ, its file has changed.
+// Two different stamps of a path mean that its file was written or replaced in between.
 struct FileStamp {
   std::uint64_t device = 0, node = 0, size = 0;
-  std::int64_t changed = 0;  // nanoseconds since 1970
+  std::int64_t changed = 0;  // the time of the last write, in nanoseconds since 1970
   bool operator==(const FileStamp&) const = default;
 };
 
@@ -101,7 +101,7 @@ class FileRewriter {
   virtual std::string_view Rewrite(std::string_view piece) = 0;
   // The bytes after the last piece.
   virtual std::string_view Finish() = 0;
-  // The length of the new content. Returned bytes after this length are dropped. Call after Finish.
+  // The length of the new content. The file is cut to this length. Call after Finish.
   [[nodiscard]] virtual std::uint64_t Kept() const = 0;
 };
 
@@ -179,8 +179,9 @@ class Platform {
   virtual void StartAnotherCopy() = 0;
 
   virtual LocalTime Now() = 0;
+  // Whether Caps Lock, Num Lock and Insert are on.
   virtual KeyStates Keys() = 0;
-  // 0 <= r < 1, from the ordinary random source.
+  // A number r, 0 <= r < 1, from the generator that ReseedRandom seeds.
   virtual double Random() = 0;
   virtual void ReseedRandom() = 0;  // from the clock
   // The indexes of the texts in Czech alphabetical order, ignoring case. Equal texts keep their order.

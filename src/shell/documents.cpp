@@ -28,8 +28,8 @@ void Documents::EnterTab(int entered) {
   buffer_.SetText(std::exchange(Current().Text, {}));
   title_follows_ = false;
   current_path_ = faces_[IndexFromOne(entered)].ToolTipText;
-  // Prime would throw for a restored document without an extension.
-  if (!current_path_.empty() && HasExtension(current_path_)) target_.Prime(current_path_);
+  // SetPath would throw for a restored document without an extension.
+  if (!current_path_.empty() && HasExtension(current_path_)) target_.SetPath(current_path_);
   SetTitle(current_path_, Current().Modified);
 }
 
@@ -88,7 +88,7 @@ void Documents::ShowPathInTitle() { SetTitle(current_path_, false); }
 
 void Documents::MakeCurrent(const std::string& path) {
   current_path_ = path;
-  target_.Prime(path);  // required: if this throws, the steps below aren't done
+  target_.SetPath(path);  // required: if this throws, the steps below aren't done
   Current().Path = path;
   Current().Modified = false;
   ShowPathInTitle();

@@ -2,10 +2,10 @@
 
 namespace pelmar {
 
-void SaveTarget::Prime(const std::string& path) {
+void SaveTarget::SetPath(const std::string& path) {
   path_ = path;
   if (HasExtension(path)) file_ = path;
-  primed.Notify();
+  path_set.Notify();
   FilePart(path, 2);  // required: throws here for a name without an extension, so an open or a save ends at this point
 }
 

@@ -12,11 +12,11 @@ namespace pelmar {
 class SaveTarget {
  public:
   // Sets the path. For a name without an extension, sets only the folder and throws RuntimeError.
-  void Prime(const std::string& path);
+  void SetPath(const std::string& path);
 
   // False if no path was set yet; the dialog then keeps its initial fields.
-  [[nodiscard]] bool Primed() const { return !path_.empty(); }
-  // False if the last Prime threw; name and extension are then still the old ones.
+  [[nodiscard]] bool HasPath() const { return !path_.empty(); }
+  // False if the last SetPath threw; name and extension are then still the old ones.
   [[nodiscard]] bool Complete() const { return file_ == path_; }
 
   [[nodiscard]] const std::string& Path() const { return path_; }
@@ -24,8 +24,8 @@ class SaveTarget {
   [[nodiscard]] std::string Name() const { return file_.empty() ? std::string() : FilePart(file_, 2); }
   [[nodiscard]] std::string Extension() const { return file_.empty() ? std::string() : FilePart(file_, 3); }
 
-  // Notified after each Prime, also after one that throws.
-  Listeners<> primed;
+  // Notified after each SetPath, also after one that throws.
+  Listeners<> path_set;
 
  private:
   std::string path_;

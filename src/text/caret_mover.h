@@ -1,6 +1,6 @@
 // Moves the caret over the rows of a layout. Where a line wraps, one position belongs to two rows: CaretMover remembers
-// which of the two rows shows the caret. CaretMover also remembers the x that Up and Down aim at. Other moves of the
-// caret clear both.
+// which of the two rows shows the caret. CaretMover also remembers the x that Up and Down aim at. Both
+// count only while the caret is where CaretMover has put it.
 #pragma once
 
 #include <cstddef>
@@ -56,7 +56,8 @@ class CaretMover {
   std::int64_t aim_ = 0;
 };
 
-// The place in the row that is nearest to `x`. `x` counts from the left edge of the content, in units of the layout.
+// The place of the caret in this row that is nearest to `x`. `x` counts from the left edge of the content, in units of
+// the layout.
 TextPlace PlaceInRow(const TextLayout& layout, std::size_t row, std::int64_t x);
 
 }  // namespace pelmar

@@ -1,5 +1,5 @@
-// The column tool inserts a text into each line, or removes a character, at one distance from the start or the end of
-// the line. Texts are Windows-1250, distances count characters.
+// The column tool inserts a text into each row, or removes a character, at one distance from the start or the end of
+// the row. Texts are Windows-1250, distances count characters.
 #pragma once
 
 #include <string>
@@ -10,14 +10,14 @@ namespace pelmar {
 
 using Rows = std::vector<std::string>;
 
-// The lines of the selection, and the length that the dialog first shows for the shortest line.
+// The lines of the selection without their line ends, and the length of the shortest row when the dialog opens.
 struct SelectedRows {
   Rows rows;
   std::size_t shortest = 0;
 };
 
-// required: if the selection ends in CR LF, an extra row repeats its last line, without the first character and with
-// the line end. A last line of one character gets no row.
+// required: if the selection ends in a line with text and CR LF, an extra row repeats this line without its first
+// character and with the CR LF. A last line of one character without a line end gets no row.
 SelectedRows RowsOfSelection(std::string_view selected);
 
 // The length of the shortest row, 0 if there are no rows.

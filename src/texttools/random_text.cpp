@@ -8,7 +8,7 @@
 namespace pelmar {
 namespace {
 
-// A random whole number: one of the `count` numbers from `least` on.
+// A random whole number from `least` to `least + count - 1`.
 int Pick(const Draw& draw, int count, int least) {
   return static_cast<int>(DrawBelow(draw, static_cast<std::size_t>(count))) + least;
 }
@@ -21,7 +21,7 @@ void AppendLetters(std::string& text, int count, const Draw& draw) {
 }
 
 std::string NamePart(const Draw& draw) {
-  const int small = Pick(draw, 9, 2) - 1;
+  const int small = Pick(draw, 9, 2) - 1;  // without the capital
   std::string part(1, Capital(draw));
   AppendLetters(part, small, draw);
   return part + ' ';
@@ -30,7 +30,7 @@ std::string NamePart(const Draw& draw) {
 }  // namespace
 
 std::string RandomSentence(const Draw& draw) {
-  const int letters = Pick(draw, 41, 10) - 1;
+  const int letters = Pick(draw, 41, 10) - 1;  // without the capital
   std::string text(1, Capital(draw));
   for (int i = 0; i < letters; ++i) {
     text += Letter(draw);

@@ -72,8 +72,8 @@ TEST_F(NotesOnDisk, AnUnreadableFileIsNotOverwritten) {
 // Merges the pages here into the file that another copy has stored since. Both began with the same pages. The number is
 // that of a page of which both texts are kept, or 0.
 std::pair<NotesRecord, int> Merged(const NotesRecord& here, const NotesRecord& file) {
-  const MergedNotes merged = MergeNotes(here, {{"one", "two", "", "four", "five"}}, file);
-  return {merged.record, merged.twice};
+  const MergedNotes merged = MergeNotes({{"one", "two", "", "four", "five"}}, here, file);
+  return {merged.record, merged.page_in_conflict};
 }
 
 TEST(MergeNotes, APageThatOneSideChangedComesFromThatSide) {

@@ -174,7 +174,7 @@ TEST(CheckSums, StandInFourLines) {
   } cases[] = {
       {"ABCDE", "14F (335)", "A (10)", "80 (128)", "0 (0)"},  // the last character has no partner and no four
       {"ACBD", "10A (266)", "8 (8)", "81 (129)", "1 (1)"},
-      {"\xFF\xFF\x0F\x0F", "21C (540)", "0 (0)", "10E (270)", "F0 (240)"},
+      {"\xFF\xFF\x0F\x0F\x01\x01\x02\x02", "222 (546)", "0 (0)", "111 (273)", "F3 (243)"},
   };
   for (const auto& c : cases) {
     ScriptedPlatform platform;

@@ -26,7 +26,7 @@ struct Desk {
 
 struct DocumentsTest : testing::Test, Desk {
   // What the save dialog begins with.
-  std::string Primed() {
+  std::string FieldsOfTarget() {
     const SaveTarget& target = documents.Target();
     return target.Path() + ' ' + target.Folder() + ' ' + target.Name() + ' ' + target.Extension();
   }
@@ -73,20 +73,20 @@ TEST_F(DocumentsTest, ClearingADocumentLeavesItsPathInTheSlot) {
   EXPECT_EQ(documents.CurrentPath(), "");
 }
 
-TEST_F(DocumentsTest, OnlyADocumentWithAPathPrimesTheSaveDialog) {
+TEST_F(DocumentsTest, OnlyADocumentWithAPathSetsTheFieldsOfTheSaveDialog) {
   documents.MakeCurrent("/a/one.txt", "one");
   documents.SwitchTo(2);
-  documents.Target().Prime("/b/kept.txt");
+  documents.Target().SetPath("/b/kept.txt");
   documents.SwitchTo(3);
-  EXPECT_EQ(Primed(), "/b/kept.txt /b/ kept txt");
+  EXPECT_EQ(FieldsOfTarget(), "/b/kept.txt /b/ kept txt");
   documents.SwitchTo(1);
-  EXPECT_EQ(Primed(), "/a/one.txt /a/ one txt");
+  EXPECT_EQ(FieldsOfTarget(), "/a/one.txt /a/ one txt");
 }
 
-TEST_F(DocumentsTest, ANameWithoutDotPrimesHalfOfIt) {  // required
-  documents.Target().Prime("/a/one.txt");
-  EXPECT_THROW(documents.Target().Prime("/b/README"), RuntimeError);
-  EXPECT_EQ(Primed(), "/b/README /b/ one txt");
+TEST_F(DocumentsTest, ANameWithoutAnExtensionSetsHalfOfIt) {  // required
+  documents.Target().SetPath("/a/one.txt");
+  EXPECT_THROW(documents.Target().SetPath("/b/README"), RuntimeError);
+  EXPECT_EQ(FieldsOfTarget(), "/b/README /b/ one txt");
   EXPECT_FALSE(documents.Target().Complete());
 }
 

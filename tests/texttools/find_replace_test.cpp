@@ -56,7 +56,7 @@ TEST(Find, BeginsWithTheSelectedTextOrASample) {
   EXPECT_EQ(Finder(text, platform).find, "Text");
 }
 
-TEST(Find, StepsThroughTheTextOfTheStart) {
+TEST(Find, SearchesTheTextAsItWasAtTheStart) {
   using F = Finding;
   const struct {
     const char *document, *term;
@@ -109,7 +109,7 @@ struct Replacing : Searching<Replacer> {
   static void ChangeToX(Searching& s) { s.search.change = "X"; }
 };
 
-TEST(Replace, ReadsItsReplacementAgainFromTheSecondCharacterOn) {  // required
+TEST(Replace, ContinuesAtTheSecondCharacterOfTheReplacement) {  // required
   using R = Replacing;
   const struct {
     const char *document, *term, *change;
@@ -144,7 +144,7 @@ TEST(Replace, ReadsItsReplacementAgainFromTheSecondCharacterOn) {  // required
     EXPECT_EQ(replacing.search.change_on, !c.searching);
     EXPECT_EQ(replacing.search.case_on, !c.searching);
     EXPECT_EQ(replacing.search.lists_on, !c.searching);
-    EXPECT_TRUE(replacing.search.all_on);  // required: it outlives the search
+    EXPECT_TRUE(replacing.search.all_on);  // required: it stays enabled after the search
   }
 }
 
@@ -164,17 +164,17 @@ TEST(Replace, AllWithoutCaseSearchesTheTermInUpperCaseAndEndsTheSearch) {  // re
   EXPECT_FALSE(replacing.search.all_on);
 }
 
-TEST(Replace, AllGoesByCharacter255) {
+TEST(Replace, AllUsesCharacter255AsAMarker) {
   const std::tuple<const char*, const char*, const char*, const char*> cases[] = {
       {"a b a", "a", "xax", "xax b xax"},
       {"aaaab", "a", "",
        "\xFF\xFF"
-       "b"},                        // required: every second of adjacent hits stays
+       "b"},                        // required: every second of adjacent hits becomes character 255 and stays
       {"x\xFFy", "q", "z", "xzy"},  // required: a character 255 of the text goes too
       {"abc", "", "z", "abc"},
       {"aba", "a", "x\xFF",
        "x\xFF"
-       "bx\xFF"},  // would never end by the plain rule
+       "bx\xFF"},  // a new character 255 is not replaced again, otherwise the loop would never end
   };
   for (const auto& [text, term, change, after] : cases) EXPECT_EQ(ReplaceAllByMarker(text, term, change), after);
 }

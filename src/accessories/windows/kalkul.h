@@ -22,7 +22,7 @@ class Kalkul : public FormDialog<Ui::Kalkul> {
 
  public:
   struct Callbacks {
-    std::function<void(const std::string&)> hand_over;  // takes the number to the text or to the clipboard
+    std::function<void(const std::string&)> hand_over;  // puts the number into the text or on the clipboard
     std::function<void()> show_converter;
     std::function<void()> hide_converter;
     std::function<void()> unload;       // deletes this window after the present event

@@ -163,15 +163,16 @@ bool Poznamka::Unload() {
   const NotesRecord now = Now();
   const NotesRecord before = stored_;
   stored_ = LoadNotesAnew(before, around_.platform, around_.file_number);
-  const MergedNotes merged = MergeNotes(now, before, stored_);
+  const MergedNotes merged = MergeNotes(before, now, stored_);
   record_ = merged.record;
   if (record_.Page(page_) != now.Page(page_)) ShowPage(page_);
   if (RefuseOverlong(record_)) return false;
   StoreNotes(record_, around_.platform, around_.file_number);
   stored_ = record_;
   keeper_.End();
-  if (merged.twice != 0)
-    around_.platform.Message(MessageType::kOk, KeptTwiceMessage(merged.twice), Utf8FromQString(windowTitle()));
+  if (merged.page_in_conflict != 0)
+    around_.platform.Message(MessageType::kOk, KeptTwiceMessage(merged.page_in_conflict),
+                             Utf8FromQString(windowTitle()));
   return around_.mode != StartMode::kNotes || MayEndStandAlone(around_.platform, "Poznámky");
 }
 

@@ -29,7 +29,7 @@ void Dos_Unix_conv::File1_Click() {
 }
 
 void Dos_Unix_conv::Convert(const std::function<void(const std::string& path)>& convert) {
-  convert(PathOn(*ui_->Label2));
+  convert(PathShownBy(*ui_->Label2));
   ui_->File1->SetPath(ui_->File1->Path());  // shows the new file in the list
 }
 

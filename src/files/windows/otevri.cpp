@@ -31,7 +31,7 @@ void Otevri::File1_Click() {
 
 void Otevri::Command1_Click() {
   if (!platform_.Confirmed("Opravdu otevřít soubor ?", "Soubor")) return;
-  opener_.OpenPath(PathOn(*ui_->Label1));
+  opener_.OpenPath(PathShownBy(*ui_->Label1));
   hide();
 }
 

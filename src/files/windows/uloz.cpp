@@ -18,16 +18,16 @@ Uloz::Uloz(Documents& documents, Saver& saver, QWidget* parent)
   connect(ui_->Text2, &QComboBox::textActivated, this, &Uloz::FieldChanged);  // also if the same extension is chosen
   connect(ui_->Command1, &QPushButton::clicked, this, &Uloz::Command1_Click);
   connect(ui_->Command2, &QPushButton::clicked, this, &Uloz::hide);
-  priming_ = documents_.Target().primed.Add([this] { TakeTarget(); });
-  if (documents_.Target().Primed()) TakeTarget();
+  listening_ = documents_.Target().path_set.Add([this] { TakeTarget(); });
+  if (documents_.Target().HasPath()) TakeTarget();
 }
 
 void Uloz::FieldChanged() {
   ui_->Command1->setEnabled(true);
   // An unchanged field keeps the bytes of its file name, which the conversion to QString may lose.
   const SaveTarget& target = documents_.Target();
-  const auto typed = [](const QString& text, const std::string& primed) {
-    return text == Utf8ToQString(primed) ? primed : Utf8FromQString(text);
+  const auto typed = [](const QString& text, const std::string& shown) {
+    return text == Utf8ToQString(shown) ? shown : Utf8FromQString(text);
   };
   ShowPath(*ui_->Label1, TargetPath(PathFromQString(ui_->Dir1->Path()), typed(ui_->Text1->text(), target.Name()),
                                     typed(ui_->Text2->currentText(), target.Extension())));
@@ -46,7 +46,7 @@ void Uloz::TakeTarget() {
 }
 
 void Uloz::Command1_Click() {
-  saver_.SaveToPath(PathOn(*ui_->Label1));
+  saver_.SaveToPath(PathShownBy(*ui_->Label1));
   hide();
 }
 

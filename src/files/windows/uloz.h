@@ -24,7 +24,7 @@ class Uloz : public FormDialog<Ui::Uloz> {
 
   Documents& documents_;
   Saver& saver_;
-  Listening priming_;
+  Listening listening_;
 };
 
 }  // namespace pelmar

@@ -24,7 +24,7 @@ void FileChoice::Link(std::function<void(const std::string&)> show_in_browser) c
   QObject::connect(files, &FileList::PatternChanged, path, refresh);
   QObject::connect(relative, &QCheckBox::toggled, path, refresh);
   QObject::connect(show, &QAbstractButton::clicked, path,
-                   [shown = path, show_path = std::move(show_in_browser)] { show_path(PathOn(*shown)); });
+                   [shown = path, show_path = std::move(show_in_browser)] { show_path(PathShownBy(*shown)); });
 }
 
 void FileChoice::Refresh() const {
@@ -37,7 +37,7 @@ void FileChoice::Refresh() const {
 bool FileChoice::HasFile() const { return !files->FileName().isEmpty(); }
 
 std::string FileChoice::TakePath(QLineEdit& working_copy) const {
-  const std::string taken = ForwardSlashes(PathOn(*path));
+  const std::string taken = ForwardSlashes(PathShownBy(*path));
   working_copy.setText(Utf8ToQString(taken));
   return LinkText(taken);
 }

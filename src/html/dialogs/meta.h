@@ -1,4 +1,4 @@
-// The dialog `Meta` inserts a META tag. The person chooses the tag from a list or types it.
+// The dialog `Meta` inserts the text that the person chooses from a list of META tags, or types.
 #pragma once
 
 #include "platform/qt/controls/fragment_dialog.h"

@@ -62,7 +62,7 @@ PageSpec Vytvor::Read() const {
   spec.author = settings_.UserName;
   spec.created = DateText(now) + ' ' + TimeText(now);
   spec.title = FieldText(*ui_->Text2);
-  if (ui_->Check3->isChecked()) spec.background = LinkText(PathOn(*ui_->Label10));
+  if (ui_->Check3->isChecked()) spec.background = LinkText(PathShownBy(*ui_->Label10));
   spec.bgcolor = Written(ui_->Check1, ui_->Label2);
   spec.text = Written(ui_->Check2, ui_->Label4);
   spec.link = Written(ui_->Check7, ui_->Label13);

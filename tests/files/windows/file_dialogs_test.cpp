@@ -93,7 +93,7 @@ TEST_F(SaveDialogTest, SavesAndHidesBeTheQuestionAnsweredByNo) {
   EXPECT_FALSE(dialog.isVisible());
 }
 
-TEST_F(SaveDialogTest, AnOpenedFilePrimesIt) {
+TEST_F(SaveDialogTest, AnOpenedFileSetsItsFields) {
   parts.files.opener.OpenPath(folder.File("b.html"));
   Expect(dialog, "", "Text1=b Text2=html Label1=~/b.html Command1=&Ulož");
   EXPECT_EQ(Utf8FromQString(Find<FolderList>(dialog, "Dir1")->Path()), folder.Path());
@@ -102,7 +102,7 @@ TEST_F(SaveDialogTest, AnOpenedFilePrimesIt) {
   Expect(dialog, "", "Command1=&Ulož");
 }
 
-TEST_F(FileDialogsTest, AFilePrimesASaveDialogThatIsMadeLater) {
+TEST_F(FileDialogsTest, AFileSetsTheFieldsOfASaveDialogThatIsMadeLater) {
   parts.files.opener.OpenPath(folder.File("b.html"));
   Expect(Open<Uloz>(), "", "Text1=b Text2=html Label1=~/b.html Command1=&Ulož");
 }

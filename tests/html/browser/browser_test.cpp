@@ -11,7 +11,7 @@
 namespace pelmar {
 namespace {
 
-// A view that loads nothing by itself: the test says when it is busy and when it has finished.
+// A view that loads nothing. A load stays busy until the test ends it.
 struct ScriptedView : WebView {
   QStringList& calls;
   QWidget* widget;
@@ -78,7 +78,7 @@ TEST_F(BrowserTest, LoadsAFileAndWatchesTheLoad) {
   view->name = QStringLiteral("Stránka [*]");
   EXPECT_TRUE(QTest::qWaitFor([this] { return !timer.isActive(); }));
   ExpectState(window, "", "Panel1=Idle");
-  EXPECT_EQ(Caption(), "HTML testovací browser (Stránka [*][*])");  // the toolkit shows "[*][*]" as "[*]"
+  EXPECT_EQ(Caption(), "HTML testovací browser (Stránka [*][*])");  // Qt shows "[*][*]" as "[*]"
 }
 
 TEST_F(BrowserTest, ThePictureOfALoadHasEightFrames) {
@@ -92,7 +92,7 @@ TEST_F(BrowserTest, ThePictureOfALoadHasEightFrames) {
   EXPECT_EQ(frames.size(), 8);
 }
 
-TEST_F(BrowserTest, AFinishedPageStandsOnceAtTheTopOfTheListWhichOnlyAPersonLoadsFrom) {
+TEST_F(BrowserTest, AFinishedPageMovesToTheTopOfTheListFromWhichOnlyAPersonLoads) {
   for (const char* page : {"/a.html", "/b.html", "/a.html"}) {
     window.ShowInBrowser(page);
     view->Finish();
@@ -114,7 +114,7 @@ TEST_F(BrowserTest, EnterLoadsTheTypedAddress) {
   EXPECT_EQ(List(), "http://www.priklad.cz");
 }
 
-TEST_F(BrowserTest, EachButtonOfTheToolBarActsAndStartsTheTimer) {
+TEST_F(BrowserTest, EachToolbarButtonButStopActsAndStartsTheTimer) {
   platform.opens = {"/home/jan/c.htm"};
   const std::pair<const char*, const char*> cases[] = {{"Back!", "back"},
                                                        {"Forward!", "forward"},

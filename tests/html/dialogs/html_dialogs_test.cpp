@@ -45,7 +45,7 @@ struct HtmlDialogTest : ProgramTest {
   }
   ~HtmlDialogTest() override { std::filesystem::current_path(old_folder); }
 
-  // In addition the dialog closes, unless it left the document.
+  // Also expects that the dialog closes if it changed the document.
   void ExpectDocument(const std::string& command, const char* steps, const char* before, const std::string& after,
                       const char* file = __builtin_FILE(), int line = __builtin_LINE()) {
     ProgramTest::ExpectDocument(command, steps, before, after, file, line);
@@ -53,7 +53,7 @@ struct HtmlDialogTest : ProgramTest {
   }
 };
 
-TEST_F(HtmlDialogTest, BlocksWrapTheSelectionAndFragmentsStandInFrontOfIt) {
+TEST_F(HtmlDialogTest, BlocksWrapTheSelectionAndFragmentsComeBeforeIt) {
   ExpectDocument("mnuparagraph", "Command1!", "a[b|c", R"(a<P ALIGN = "LEFT" > b </P>|c)");
   ExpectDocument("mnulabel", "VScroll1=9 Option4! Check1! Command1!", "|", "<H6 NOWRAP> Nadpisový text </H6>|");
   ExpectDocument("mnubarva", "Check1! Check2! Check3! VScroll4=7 Combo1=Žluté Command3! Command1!", "[x|",
@@ -71,7 +71,7 @@ TEST_F(HtmlDialogTest, BlocksWrapTheSelectionAndFragmentsStandInFrontOfIt) {
   ExpectDocument("MnuMeta", "Command1!", "[x|", "Vyber meta-tag|x");
   ExpectDocument("MnuHTMLASCII", "HScroll1=255 Command1!", "[x|", "&#255;|x");
   ExpectDocument("mnumailto", "Command1!", "|", R"(<A HREF="mailto:žluť@b.cz" >mailto na žluť@b.cz</A>|)");
-  ExpectDocument("mnuid", "Combo1=1 Command1!", "a[b|c",  // in front of the whole document
+  ExpectDocument("mnuid", "Combo1=1 Command1!", "a[b|c",  // before the whole document
                  R"(|<!DOCTYPE HTML PUBLIC "-//W3C//DTD HTML 4.0 Transitional//EN">¶abc)");
 }
 
@@ -80,7 +80,7 @@ TEST_F(HtmlDialogTest, ASmileyIsPutTogetherOnlyByTheButton) {
   ExpectDocument("mnusmajl", "Combo1=1 Command3! Command1!", "|", "(§ )-|");
 }
 
-TEST_F(HtmlDialogTest, LinksOfferTheAnchorsOfTheRun) {
+TEST_F(HtmlDialogTest, LinksOfferTheAnchorsInsertedSinceTheStart) {
   ExpectDocument("mnukotva", "Text1=Kotva1 Command1!", "|", R"(<A NAME="Kotva1"></A>|)");
   ExpectDocument("mnukotva", "Text1=část Command1!", "a[b|c", R"(a<A NAME="část"></A>|bc)");
   ExpectDocument("mnuodkaz", "Combo1= Combo1:kotva1\r", "[x|", R"(<A HREF="#kotva1">x</A>|)");
@@ -110,7 +110,7 @@ TEST_F(HtmlDialogTest, ImagesAndFramesHaveTheTickedAttributes) {
                  R"(<IMG SRC="ž%D0%96.GIF" ALT="a " <" ALIGN="left" WIDTH="800" HEIGHT="600" VSPACE="5" HSPACE="4")"
                  R"( BORDER="3" LOWSRC="path/file.jpg" USEMAP="#mapa">|)");
   ExpectDocument("mnuHTML_Fme", "File1=0 Command1!", "a[b|c", "a<FRAME SRC=\"" + address + "/x.htm\">|bc");
-  // required: SCROLLING twice, the second as it was typed
+  // required: SCROLLING appears twice, the second time exactly as typed
   ExpectDocument("mnuHTML_Fme",
                  "Check1! Check2! Check3! Check4! Check5! Check6! Check7! Check8! Check9! VScroll12=255 VScroll11=1 "
                  "VScroll10=16 VScroll1=4 VScroll2=5 VScroll4=400 VScroll5=400 Combo2=' no' Combo3=ř Command1!",
@@ -133,7 +133,7 @@ TEST_F(HtmlDialogTest, APageHoldsTheProfileTheTimeAndTheSelection) {
   EXPECT_FALSE(text.CanUndo());  // required for a replaced text
 }
 
-// required: the editor takes the swatch, which begins white, the page the label, which begins as black
+// required: the editor gets the colour of the swatch, at first white. The page gets the label, at first "#000000".
 TEST_F(HtmlDialogTest, TickedColoursOfAPageAlsoColourTheEditor) {
   main.SetEditorColors(Rgb(7, 7, 7), Rgb(8, 8, 8));
   ExpectDocument("Newhtml", "Check1! Command1!", "[x|", kPageHead + " BGCOLOR=\"#000000\">¶[x|" + kPageEnd);
@@ -160,7 +160,7 @@ TEST_F(HtmlDialogTest, APageHasTheChosenBackground) {
   ExpectState(Open("Newhtml"), "Check3!", "Command1=(&Ok) Command3=()");
   ExpectDocument("Newhtml", "File1=0 Command1!", "[x|",
                  kPageHead + " BACKGROUND=\"" + address + "/ž%D0%96.GIF\">¶[x|" + kPageEnd);
-  // required: a bare name makes a file's address too
+  // required: a bare file name gets "file:///" too
   ExpectDocument("Newhtml", "Check4! Command1!", "[x|",
                  kPageHead + " BACKGROUND=\"file:///ž%D0%96.GIF\">¶[x|" + kPageEnd);
   // without a background it needs no file
@@ -168,7 +168,7 @@ TEST_F(HtmlDialogTest, APageHasTheChosenBackground) {
 }
 
 TEST_F(HtmlDialogTest, TablesRowsAndCellsHaveTheTickedAttributes) {
-  // required: until its bar moves, a label is written as it stands, also the thickness over a bar at 0
+  // required: a tag gets the text of a label whose bar never moved, so BORDER is 1 although its bar is at 0
   ExpectDocument(
       "Table", "Check1! Check2! Check3! Check4! Check5! Check6! Check7! Check8! Check9! Command1!", "|",
       R"(<TABLE WIDTH="1%" COLS="1" COLSPEC="L100%" ALIGN="LEFT" FRAME="NONE" BORDER="1" RULES="ALL" CELLSPACING="0")"
@@ -203,7 +203,7 @@ TEST_F(TableGridTest, EachCellAndRowKeepsItsTexts) {
   ExpectState(table, "Command4! Command5!", "Text3= Text4=ř Text5=");
 }
 
-TEST_F(TableGridTest, ASmallerTableMovesThePositionIntoItAndForgetsNothing) {
+TEST_F(TableGridTest, ShrinkingTheTableSelectsACellInsideAndKeepsAllTexts) {
   Work(table, "VScroll1=3 VScroll2=3 HScroll1=3 VScroll7=3 VScroll8=3 Text4=ř Text5=typed");
   ExpectState(table, "VScroll1=2 VScroll2=2", "Label12=2/2 Label13=2/2 Label16=2/2 Text4= Text5=");
   ExpectState(table, "VScroll1=3 VScroll2=3 HScroll1=3 VScroll7=3 VScroll8=3", "Text4=ř Text5=typed");
@@ -218,12 +218,12 @@ TEST_F(TableGridTest, AttributesOfACellAndOfARowComeFromTheirDialogs) {
   ask("Command3!", "Check1! Option4! Command1!", "Text3=' ALIGN=\"CHAR\" CHAR=\",\"'");
   ask("Command3!", "Check1! Command2!", "Text3=' ALIGN=\"CHAR\" CHAR=\",\"'");  // cancelled
   ask("Command3!", "Command1!", "Text3=");                                      // nothing is ticked any more
-  Open<TableRow>();                                                             // an open dialog answers too
+  Open<TableRow>();                                                             // the dialog may be open before
   ask("Command6!", "Check2! Command1!", "Text5=' VALIGN=\"MIDDLE\"'");
   EXPECT_EQ(text.Text(), "kept");
 }
 
-TEST_F(HtmlDialogTest, EachOptionHasItsWord) {
+TEST_F(HtmlDialogTest, EachOptionWritesItsValue) {
   const struct {
     const char* command;
     int first, last;
@@ -270,8 +270,9 @@ TEST_F(HtmlDialogTest, TheLabelOfARuleFollowsBarAndUnit) {
 TEST_F(HtmlDialogTest, TheSizeOfAnImageFollowsBarsAndUnit) {
   const QWidget& image = Open("mnuobr");
   ExpectState(image, "Check1! VScroll1=150", "Label3=' 150%' Label4=' 10%'");
-  ExpectState(image, "Option7!", "Label3=' 150' Label4=' 10'");                    // the values stay
-  ExpectState(image, "VScroll1=999 VScroll2=999", "Label3=' 600' Label4=' 800'");  // required: wider than high
+  ExpectState(image, "Option7!", "Label3=' 150' Label4=' 10'");  // the values stay
+  ExpectState(image, "VScroll1=999 VScroll2=999",
+              "Label3=' 600' Label4=' 800'");  // required: at most 600 high and 800 wide
   ExpectState(image, "VScroll2=5 Option6!", "Label3=' 200%' Label4=' 10%'");
 }
 
@@ -289,7 +290,7 @@ TEST_F(HtmlDialogTest, TheOkButtonOfALinkNeedsAFileOrAnAddress) {
   ExpectState(link, "", "Frame1= Text1=(http://) Command1=(&Ok)");
   ExpectState(link, "Option2!", "Frame1=() Text1=http:// Command1=&Ok");
   ExpectState(link, "Option1! File1=0 Text2= Text1=b Option1!", "Frame1= Command1=&Ok Command3=");
-  ExpectState(link, "Option2! Text2= Text1=a", "Command1=(&Ok)");  // required: without an anchor
+  ExpectState(link, "Option2! Text2= Text1=a", "Command1=(&Ok)");  // required: an empty anchor disables Ok
   ExpectState(link, "Text1=b Text2=k Text1=c", "Command1=&Ok");
   ExpectState(link, "Dir1=/ Option1!", "Label1=/ Command1=(&Ok) Command3=()");
 }
@@ -327,7 +328,7 @@ TEST_F(HtmlDialogTest, EachBoxEnablesItsControls) {
   }
 }
 
-TEST_F(HtmlDialogTest, TheChosenFileLeadsLabelAndButtons) {
+TEST_F(HtmlDialogTest, TheChosenFileSetsLabelAndButtons) {
   const QWidget& image = Open("mnuobr");
   const std::string folder = temp.Path();
   const auto expect = [&](const char* steps, const std::string& state) { ExpectState(image, steps, state.c_str()); };
@@ -363,14 +364,15 @@ TEST_F(HtmlDialogTest, ItemsAreAddedAboveTheSelectedRowAndRemoved) {
 
 TEST_F(HtmlDialogTest, ADefinitionListHoldsPairs) {
   const QWidget& terms = Open("MnuListDef");
-  ExpectState(terms, "Command1! Atribut=a Hodnota=", "Command1=(&Přidej)");  // required: by the last change
+  ExpectState(terms,
+              "Command1! Atribut=a Hodnota=", "Command1=(&Přidej)");  // required: only the last changed field counts
   ExpectState(terms, "Atribut=b Hodnota:\r", "Atributs=Text1|b Values=Text1|");
-  ExpectState(terms, "Values=0", "Atributs=>Text1|b Values=>Text1| Atribut=b");  // the fields don't follow here
+  ExpectState(terms, "Values=0", "Atributs=>Text1|b Values=>Text1| Atribut=b");  // unlike in EdiTag, the fields stay
   Work(terms, "Command3!");
   EXPECT_EQ(Marked(text), "<DL>¶<DT>Text1</DT>¶<DD>Text1</DD>¶<DT>b</DT>¶<DD></DD>¶</DL>|");
 }
 
-TEST_F(HtmlDialogTest, ATagOfOnesOwnWrapsTheSelection) {
+TEST_F(HtmlDialogTest, ACustomTagWrapsTheSelection) {
   editor.commands.Run("Mnu_Insert_Custom_Tag");  // without its window
   EXPECT_EQ(Marked(text), "<TAG>Vlastní tag</TAG>|");
   ExpectDocument("mnuvlastni", "TagText=X Command1! Command3!", "[a|", R"(<X Atribut="Hodnota">a</X>|)");
@@ -394,7 +396,7 @@ TEST_F(HtmlDialogTest, AttributesGoIntoTheTagAtTheCaretOrKeepTheDialogOpen) {
 }
 
 struct EdiTagTest : HtmlDialogTest {
-  // Edits the tag of the marked document by the steps, and ends with the steps' button.
+  // Opens the tag at the caret of `before`, takes `steps`, expects `state`, takes `end` and expects `after`.
   void ExpectEdited(const char* before, const char* steps, const char* state, const char* end, const char* after) {
     PutMarked(text, before);
     InDialog<QDialog>([&](QDialog& dialog) {
@@ -427,7 +429,7 @@ TEST_F(EdiTagTest, AColourOrAFileBecomesTheValue) {
   EXPECT_EQ(platform.calls.front(), R"(open "Všechno(*.*)|*.*" 1)");
 }
 
-TEST_F(EdiTagTest, AttributesAreAddedAndRemovedButNotByStorno) {
+TEST_F(EdiTagTest, AttributesAreAddedAndRemovedUnlessThePersonCancels) {
   ExpectEdited("<A B=1 C=2>| ", "Values=0 Command1!", "Atributs=B|>B|C", "Command3!", R"(<A B="1" B="1" C="2">| )");
   platform.answers = {Answer::kOk};  // a value is missing
   ExpectEdited("<A B=1 C=>| ", "Atributs=1 Command2!", "Atributs=B Values= Command2=(O&deber)", "Command3!",

@@ -1,5 +1,5 @@
-// The base of the dialogs that insert something into the text. One button calls Put and hides the dialog; the other
-// button only hides the dialog.
+// The base of the dialogs that insert something into the text. One button calls Put and, if Put returns true, hides the
+// dialog. The other button only hides the dialog.
 #pragma once
 
 #include <QPushButton>
@@ -13,20 +13,20 @@ namespace pelmar {
 template <class Form>
 class FragmentDialog : public FormDialog<Form> {
  protected:
-  // `ok` and `storno` are the two buttons in the form.
+  // `ok` and `cancel` are the two buttons in the form.
   FragmentDialog(TextBuffer& buffer, QWidget* parent, QPushButton* Form::*ok = &Form::Command1,
-                 QPushButton* Form::*storno = &Form::Command2)
+                 QPushButton* Form::*cancel = &Form::Command2)
       : FormDialog<Form>(parent), buffer_(buffer) {
     QObject::connect(this->ui_.get()->*ok, &QPushButton::clicked, this, [this] {
       if (Put()) this->hide();
     });
-    QObject::connect(this->ui_.get()->*storno, &QPushButton::clicked, this, &QWidget::hide);
+    QObject::connect(this->ui_.get()->*cancel, &QPushButton::clicked, this, &QWidget::hide);
   }
 
   // Writes into the text. Returns false if the dialog must stay open.
   virtual bool Put() = 0;
 
-  // Inserts the fragment at the caret. Returns true, for use in Put.
+  // Inserts the fragment before the selection. Returns true, for use in Put.
   bool Insert(std::string_view fragment) {
     InsertAtCaret(buffer_, fragment);
     return true;

@@ -14,7 +14,7 @@ class KeyCap : public QPushButton {
   explicit KeyCap(QWidget* parent = nullptr) : QPushButton(parent) {}
 
   QSize sizeHint() const override { return minimumSizeHint(); }
-  // The space for the longest word of the caption.
+  // The space for the widest word of the caption.
   QSize minimumSizeHint() const override;
 
  protected:

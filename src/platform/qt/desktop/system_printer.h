@@ -17,7 +17,7 @@ class SystemPrinter {
   virtual ~SystemPrinter() = default;
   // The name of the default printer or of the only printer. If there is neither, returns "" and sets `problem`.
   [[nodiscard]] virtual QString FindPrinter(QString& problem) = 0;
-  // Starts a job on this printer. The job is sent when the painting ends.
+  // Starts the job `name` on the printer `printer`. The job is sent when the painting ends.
   [[nodiscard]] virtual std::unique_ptr<QPagedPaintDevice> BeginJob(const QString& printer, const QString& name) = 0;
   // Whether a job of BeginJob has failed. Call after the painting has ended.
   [[nodiscard]] virtual bool HasFailed(const QPagedPaintDevice& job) = 0;

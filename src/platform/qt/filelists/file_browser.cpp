@@ -53,7 +53,7 @@ void ShowPath(QLabel& label, const std::string& path) {
   label.setProperty(kPathProperty, ToBytes(path));
 }
 
-std::string PathOn(const QLabel& label) {
+std::string PathShownBy(const QLabel& label) {
   const QByteArray path = label.property(kPathProperty).toByteArray();
   return Utf8ToQString(ViewOf(path)) == label.text() ? path.toStdString() : Utf8FromQString(label.text());
 }

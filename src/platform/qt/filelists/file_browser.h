@@ -31,9 +31,10 @@ void LinkFileBrowser(DriveList* place, FolderList* folders, FileList* files, QCo
 // Does the same for a dialog without a list of files. Starts with the focus on `folders`.
 void LinkFolderBrowser(DriveList* place, FolderList* folders);
 
-// ShowPath shows a path in a label. PathOn returns this path without loss, or the text if another text was set later.
+// ShowPath shows a path in a label. PathShownBy returns this path without loss, or the text if another text was set
+// later.
 void ShowPath(QLabel& label, const std::string& path);
-std::string PathOn(const QLabel& label);
+std::string PathShownBy(const QLabel& label);
 
 // The path of the selected file as bytes. If no file is selected, the folder with a separator.
 std::string PickedPath(const FileList& files);

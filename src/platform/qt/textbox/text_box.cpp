@@ -198,7 +198,7 @@ void TextBox::UpdateScrollBars() {
   updating_bars_ = true;
   for (int round = 0; round < 3; ++round) {
     const QSize window = viewport()->size();
-    view_->SetWindowWidth(window.width());
+    view_->SetViewportWidth(window.width());
     const QSize content = view_->ContentSize();
     verticalScrollBar()->setSingleStep(view_->Glyphs().RowHeight());
     verticalScrollBar()->setPageStep(window.height());

@@ -44,9 +44,9 @@ void TextBoxAccessible::setText(QAccessible::Text type, const QString& text) {
 }
 
 void TextBoxAccessible::selection(int index, int* start, int* end) const {
-  const bool known = index == 0 && box_.Buffer().HasSelection();
-  *start = known ? box_.SelStart() : 0;
-  *end = known ? box_.SelStart() + box_.SelLength() : 0;
+  const bool exists = index == 0 && box_.Buffer().HasSelection();
+  *start = exists ? box_.SelStart() : 0;
+  *end = exists ? box_.SelStart() + box_.SelLength() : 0;
 }
 
 int TextBoxAccessible::selectionCount() const { return box_.Buffer().HasSelection() ? 1 : 0; }
@@ -167,6 +167,7 @@ void TextBoxNotifier::Changed(const TextChange& change) {
   } else {
     known_text_ = text;
     knows_text_ = true;
+    // The removed text is unknown, so only the insertion is sent.
     QAccessibleTextInsertEvent event(&box_, static_cast<int>(change.pos), TextToQString(inserted));
     event.setCursorPosition(static_cast<int>(box_.Buffer().Caret()));
     Send(event);

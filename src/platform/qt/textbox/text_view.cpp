@@ -27,7 +27,7 @@ void TextView::SetAlign(TextAlign align) {
   layout_.SetAlign(align);
 }
 
-void TextView::SetWindowWidth(int width) {
+void TextView::SetViewportWidth(int width) {
   rules_.width = std::max(width - 2 * kMargin, 1) * kUnitsPerPixel;
   if (!stale_) layout_.SetWidth(rules_.width);
 }
@@ -39,7 +39,7 @@ std::optional<RowsChange> TextView::Follow(const TextChange& change) {
 
 const TextLayout& TextView::Layout() {
   if (!stale_) return layout_;
-  SetWindowWidth(window_width_());
+  SetViewportWidth(viewport_width_());
   rules_.advances = Glyphs().Advances();
   layout_.Lay(rules_);
   stale_ = false;
@@ -53,7 +53,7 @@ const GlyphTable& TextView::Glyphs() {
 
 QSize TextView::ContentSize() {
   const TextLayout& layout = Layout();
-  // Without word wrap the caret needs room after the widest row.
+  // Rounded up to whole pixels. The right margin leaves room for the caret after the widest row.
   const int width = WholePixelsBelow(layout.ContentWidth() + kUnitsPerPixel - 1);
   return {width + 2 * kMargin, static_cast<int>(layout.RowCount()) * Glyphs().RowHeight() + 2 * kMargin};
 }
@@ -69,7 +69,7 @@ TextPlace TextView::PlaceAt(QPoint point) {
 
 int TextView::StopX(std::size_t row, std::size_t pos) {
   const TextLayout& layout = Layout();
-  // Rounded down, so that a letter never covers the caret before it.
+  // Rounded down, so that the caret is left of the first pixel of its letter.
   return kMargin + WholePixelsBelow(layout.RowLeft(row) + layout.XOf(row, pos));
 }
 

@@ -22,15 +22,15 @@ class TextView {
   // A letter may extend this many pixels into a neighbouring row, by its accent or because of a fractional scale.
   static constexpr int kOverhang = 2;
 
-  // `window_width` is called for each full layout. SetWindowWidth reports changes in between.
-  TextView(const TextBuffer& buffer, std::function<int()> window_width)
-      : window_width_(std::move(window_width)), layout_(buffer) {}
+  // `viewport_width` is called for each full layout. SetViewportWidth reports changes in between.
+  TextView(const TextBuffer& buffer, std::function<int()> viewport_width)
+      : viewport_width_(std::move(viewport_width)), layout_(buffer) {}
 
   void Show(const TextBuffer& buffer);
   void SetFont(const QFont& font);
   void SetWrap(bool wrap);
   void SetAlign(TextAlign align);
-  void SetWindowWidth(int width);
+  void SetViewportWidth(int width);
   void Invalidate() { stale_ = true; }
 
   // Updates the layout after a change of the buffer. Returns nothing if a full layout is due anyway.
@@ -54,7 +54,7 @@ class TextView {
   QRect CharRect(std::size_t pos);
 
  private:
-  std::function<int()> window_width_;
+  std::function<int()> viewport_width_;
   QFont font_;
   std::unique_ptr<GlyphTable> glyphs_;
   LayoutRules rules_;

@@ -28,7 +28,7 @@ bool SlowlyMatches(std::string_view mask, std::string_view name) {
   return !name.empty() && (mask[0] == '?' || mask[0] == name[0]) && SlowlyMatches(mask.substr(1), name.substr(1));
 }
 
-TEST(Mask, EqualsASlowOneOnRandomNames) {
+TEST(Mask, MatchesLikeASlowSecondImplementation) {
   RandomSource random(1);
   for (int round = 0; round < 3000; ++round) {
     const std::string mask = random.Text(6, "ab.*?[") + "a", name = random.Text(8, "ab.[");
@@ -37,7 +37,7 @@ TEST(Mask, EqualsASlowOneOnRandomNames) {
   }
 }
 
-TEST(FolderEntries, AreSortedInCzechAndTakenByKindAndMask) {
+TEST(FolderEntries, AreSortedInCzechAndFilteredByKindAndMask) {
   const TempFolder temp;
   for (const char* name : {"čaj.txt", "Cesta.TXT", "chata.txt", "had.txt", "a.htm", "A.htm", ".skrytý.txt", "README",
                            "Žlutá/x", "zelená/.git/y.txt", "zelená/.git/objects/z", ".config/x", "b.Čárka"})
@@ -70,10 +70,10 @@ TEST(FolderEntries, KeepTheBytesOfNamesThatAreNoUtf8) {
   EXPECT_EQ(PathFromQString(names.join(u'|')), "ku\xED\xB2\x8D😀.txt|k\xF9\xF2.txt");
   EXPECT_EQ(ShownPath(names.last()), QStringLiteral("kůň.txt"));
   EXPECT_EQ(Utf8ToQString("Žába k\xF9\xF2.txt"), QStringLiteral("Žába kůň.txt"));
-  EXPECT_EQ(FilesOf(folder, QStringLiteral("*ůň*")).size(), 1);  // a mask is what a person sees
+  EXPECT_EQ(FilesOf(folder, QStringLiteral("*ůň*")).size(), 1);  // a mask matches the shown name
 }
 
-TEST(MountedPlaces, AreHomeRootAndTheUsualPlacesForDisksWhichHoldPaths) {
+TEST(MountedPlaces, AreHomeRootAndMountedDisks) {
   const TempFolder temp;
   const std::string mounts =
       temp.Put("mounts",
@@ -83,7 +83,7 @@ TEST(MountedPlaces, AreHomeRootAndTheUsualPlacesForDisksWhichHoldPaths) {
   const QStringList places = MountedPlaces(QStringLiteral("/home/jan"), Utf8ToQString(mounts));
   EXPECT_EQ(places.join(u'|').toStdString(), "/home/jan|/|/media/jan/USB disk|/mnt|/run/media/jan/A");
   EXPECT_EQ(MountedPlaces(QStringLiteral("/"), Utf8ToQString(temp.File("none"))), QStringList(QStringLiteral("/")));
-  // The deepest that holds it.
+  // The deepest place that contains the path.
   const std::pair<const char*, const char*> cases[] = {
       {"/home/jan", "/home/jan"}, {"/home/jan/x/", "/home/jan"},
       {"/home/janek", "/"},       {"/run/media/jan/A/b", "/run/media/jan/A"},
@@ -137,7 +137,7 @@ struct FileBrowserTest : testing::Test {
     QTest::mouseRelease(list.viewport(), Qt::LeftButton, {}, at);
   }
 
-  // The rows with "|" between them and ">" before the selected one. Folders begin with the test's own, shown as ".".
+  // The rows with "|" between them and ">" before the selected row. The folder of the test is written as ".".
   [[nodiscard]] std::string Files() const { return Shown(&files).toStdString(); }
   [[nodiscard]] std::string Folders() const {
     QStringList rows = Shown(&folders).split(u'|').mid(base.count(u'/'));
@@ -201,7 +201,7 @@ TEST_F(FileBrowserTest, ADoubleClickOrEnterEntersAFolder) {
   EXPECT_EQ(TakeEvents(), (Events{"files .", "folder ."}));
 }
 
-TEST_F(FileBrowserTest, AChosenPlaceLeadsTheFolders) {
+TEST_F(FileBrowserTest, AChosenPlaceSetsTheFolder) {
   Show();
   Q_EMIT place.DriveChanged(base + QStringLiteral("/sub"));
   EXPECT_EQ(Folders(), ".|>sub|inner");

@@ -45,7 +45,8 @@ struct TextBoxTest : testing::Test {
       EXPECT_EQ(Document(), one.after) << one.keys << " in " << one.before;
     }
   }
-  // What an input method shows, what it types, and which characters, counted from the caret, this replaces.
+  // Sends an event of an input method: `shown` is still being composed, `typed` replaces `length` characters from
+  // `from`, counted from the caret.
   void Compose(const char* shown, const char* typed = "", int from = 0, int length = 0) const {
     QInputMethodEvent event(QString::fromUtf8(shown), {});
     event.setCommitString(QString::fromUtf8(typed), from, length);
@@ -188,7 +189,7 @@ TEST_F(TextBoxTest, ComposingReplacesTheSelectionAndTypesWhenItEnds) {
   EXPECT_EQ(Document(), "XY|");
 }
 
-// True where the box takes the drop.
+// Drops the data. Returns whether the box accepted the drag.
 bool Drop(TextBox& box, QPoint place, QMimeData& mime) {
   QDragEnterEvent enter(place, Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
   QDropEvent drop(place, Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
@@ -222,7 +223,7 @@ TEST_F(TextBoxTest, ItsMenuIsLeftToTheWindowThatAsksForIt) {
   EXPECT_EQ(asked.count(), 1);
 }
 
-TEST_F(TextBoxTest, TabGoesOnWhereItIsNotTyped) {
+TEST_F(TextBoxTest, TabMovesTheFocusIfItIsNotTyped) {
   QLineEdit behind(&window);
   behind.show();
   QWidget::setTabOrder(box, &behind);
@@ -236,7 +237,7 @@ TEST_F(TextBoxTest, TabGoesOnWhereItIsNotTyped) {
   EXPECT_TRUE(behind.hasFocus());
 }
 
-// True where a pixel of the rectangle differs from the background.
+// True if a pixel of the rectangle differs from the background.
 bool HasInk(const QImage& image, const QRect& rect) {
   for (int y = rect.top(); y <= rect.bottom(); ++y)
     for (int x = rect.left(); x <= rect.right(); ++x)
@@ -247,7 +248,7 @@ bool HasInk(const QImage& image, const QRect& rect) {
 constexpr Qt::AlignmentFlag kAlignments[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
 
 TEST_F(TextBoxTest, EveryCodeIsPaintedWhereTheLayoutSaysItIs) {
-  std::string text;  // each code with a blank or a letter behind it
+  std::string text;  // each code, followed by a blank, a tab or a letter
   for (int code = 0; code < 256; ++code)
     text += std::string(1, static_cast<char>(code * 101)) + " \tH"[code % 3] + (code % 40 == 39 ? "\r\n" : "");
   box->SetText(QByteArray::fromStdString(text));
@@ -272,7 +273,7 @@ TEST_F(TextBoxTest, EveryCodeIsPaintedWhereTheLayoutSaysItIs) {
   }
 }
 
-TEST_F(TextBoxTest, WhatIsRepaintedInPartsEqualsTheWholeWithTheCaretInSight) {
+TEST_F(TextBoxTest, PartialRepaintsEqualAFullRepaintAndShowTheCaret) {
   RandomSource random(11);
   TextBuffer& buffer = box->Buffer();
   const char* const keys[] = {"Alt+Backspace", "PgDown", "Shift+PgDown", "Return", "X", "PgUp", "Left", "Shift+Up"};
@@ -366,7 +367,7 @@ TEST(MoveSelection, EqualsCutAndPasteAndIsUndoneInOneStep) {
   }
 }
 
-// A screen reader that knows the text by its notifications alone. No test platform has one at work.
+// A screen reader that builds the text from the notifications. It is always active.
 struct Reader : TextBoxNotifier {
   using TextBoxNotifier::TextBoxNotifier;
   bool IsActive() const override { return true; }
@@ -388,7 +389,7 @@ struct Reader : TextBoxNotifier {
   std::pair<int, int> selection;
 };
 
-TEST_F(TextBoxTest, NotificationsOfAScreenReaderMakeUpTheText) {
+TEST_F(TextBoxTest, AScreenReaderCanRebuildTheTextFromItsNotifications) {
   TextBuffer& buffer = box->Buffer();
   Reader reader(*box);
   const Listening changes = buffer.OnChange([&](const TextChange& change) { reader.Changed(change); });

@@ -43,7 +43,7 @@ struct MainWindowTest : ProgramTest {
 struct MenuTest : ProgramTest {
   MenuBar& bar = main.Menus();
 
-  // Compares actions with a list between "|": a caption with its key behind it, or "-" for a separator.
+  // Compares actions with a list separated by "|": a caption and its key, or "-" for a separator.
   static void ExpectItems(const char* where, const QList<QAction*>& actions, const char* expected) {
     const QStringList captions = QString::fromUtf8(expected).split(u'|');
     EXPECT_EQ(actions.size(), captions.size()) << where;
@@ -55,7 +55,7 @@ struct MenuTest : ProgramTest {
   }
 };
 
-// The menus whose items have keys. "&&" stands for the character itself.
+// The menus whose items have keys, and a menu with "&&", which shows as "&".
 TEST_F(MenuTest, HasItsCaptionsAndKeys) {
   const std::pair<const char*, const char*> menus[] = {
       {"mnufile",
@@ -155,7 +155,7 @@ TEST_F(MainWindowTest, AClickOrCtrlTabSwitchesTheDocument) {
   ExpectState(main, "", "FileTab=0 Text1=first");
 }
 
-TEST_F(MainWindowTest, NamesOfFilesStandAsTheyAre) {
+TEST_F(MainWindowTest, NamesOfFilesAreShownUnchanged) {
   platform.files["/a/b&c[*].txt"] = "x";
   files.opener.OpenPath("/a/b&c[*].txt");
   EXPECT_EQ(tabs->tabText(0), QStringLiteral("b&&c[*].txt"));
@@ -191,7 +191,7 @@ TEST_F(MainWindowTest, TheTickSnapsTheWindowToTheEdges) {
   other.move(5, 5);  // isn't tagged for snapping
   const QPoint place = other.pos();
   EXPECT_TRUE(QTest::qWaitFor([this] {
-    main.MoveTo({150, 225, 12000, 9000});  // again, because an answer to an earlier wish may undo it
+    main.MoveTo({150, 225, 12000, 9000});  // repeated, since an answer to an earlier request may undo it
     return main.Place() == TwipsRect{150, 225, 12000, 9000};
   }));
   EXPECT_TRUE(QTest::qWaitFor([this] {
@@ -212,7 +212,7 @@ struct WarningTest : MainWindowTest {
   }
 };
 
-TEST_F(WarningTest, AFileThatAnotherProgramChangedIsHintedAtOnTheNextVisit) {
+TEST_F(WarningTest, AFileChangedByAnotherProgramIsReportedWhenTheFocusMoves) {
   OpenFile("/a.txt", "x");
   LeaveAndReturn();
   EXPECT_EQ(Shown(), "");
@@ -228,7 +228,7 @@ TEST_F(WarningTest, AFileThatAnotherProgramChangedIsHintedAtOnTheNextVisit) {
   EXPECT_EQ(Shown(), "");
 }
 
-TEST_F(WarningTest, AHintAtUtf8StandsUntilTheTextChanges) {
+TEST_F(WarningTest, TheUtf8HintStaysUntilTheTextChanges) {
   OpenFile("/u.txt", "\xC5\xBE");
   EXPECT_EQ(Shown(), FormatHint("\xC5\xBE"));
   text.Type("z");
@@ -238,14 +238,14 @@ TEST_F(WarningTest, AHintAtUtf8StandsUntilTheTextChanges) {
   EXPECT_EQ(Shown(), FormatHint("\xC5\xBE"));
 }
 
-TEST_F(WarningTest, ATextThatIsTooLongToBeOpenedIsHintedAt) {
+TEST_F(WarningTest, ATextTooLongToBeOpenedAgainIsReported) {
   text.SetText(std::string(64001, 'x'));
   EXPECT_EQ(Shown(), "Příliš dlouhý text: má 64001 znaků, znovu otevřít jich lze nejvýše 64000");
   text.SetText(std::string(64000, 'x'));
   EXPECT_EQ(Shown(), "");
 }
 
-// required: no message says that no file can be opened, only the status bar does
+// required: no message says that files can't be opened any more; only the status bar does
 TEST_F(WarningTest, AFailedOpenWarnsThatFilesAreStuck) {
   platform.files["/README"] = "x";
   platform.opens = {"/README"};
@@ -276,7 +276,7 @@ TEST_F(MainWindowTest, TogglesHideAndShowTheBars) {
   EXPECT_GT(main.Box().height(), with.height());
   EXPECT_EQ(main.Box().width(), with.width() + 24);
   Press(Qt::Key_Tab, Qt::ControlModifier);
-  EXPECT_EQ(editor.documents.SelectedTab(), 1);  // without the strip there is no switching
+  EXPECT_EQ(editor.documents.SelectedTab(), 1);  // Ctrl+Tab does nothing while the tabs are hidden
   Work(main, "MnuTS! MnuSBS! mnuFTS!");
   EXPECT_EQ(main.Box().geometry(), with);
 }
@@ -329,7 +329,7 @@ TEST_F(DropTest, ANoOpensNothing) {
   EXPECT_EQ(TextsOf(editor.documents), "|||mine||");
 }
 
-TEST_F(DropTest, FilesAreOpenedAfterAQuestionAsFarAsThereAreTabs) {
+TEST_F(DropTest, FilesAreOpenedAfterAQuestionUntilNoTabIsFree) {
   Drop({"file:///a/1.txt", "file:///a/2.txt", "file:///a/3.txt", "file:///a/4.txt", "file:///a/5.txt",
         "file:///a/6.txt"},
        {Answer::kYes, Answer::kOk});
