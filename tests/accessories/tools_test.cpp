@@ -91,6 +91,14 @@ TEST(Morse, EncodesEachCharacter) {
   for (const auto& [text, morse] : cases) EXPECT_EQ(TextToMorse(text), morse) << text;
 }
 
+TEST(MorseMenus, HaveTheSignsOfTheirLettersAndDigits) {
+  for (const MorseMenu& menu : MorseMenus().first(2)) {
+    for (const MorseItem& item : menu.items) {
+      EXPECT_EQ(item.caption == "CH" ? "----/" : TextToMorse(item.caption), item.sign) << item.caption;
+    }
+  }
+}
+
 TEST(MorseCommand, RewritesTheSelection) {
   ScriptedPlatform platform;
   WholeEditor editor(platform);

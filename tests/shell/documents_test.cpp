@@ -108,6 +108,12 @@ TEST_F(DocumentsTest, RescueKeepsTheUnsavedDocumentsAndBringsThemBack) {
   EXPECT_EQ(later.SwitchTo(1), (DocumentState{"(/a/one.txt)*", "one.txt", "/a/one.txt", "", true, 2}));
 }
 
+TEST_F(DocumentsTest, ARestoredDocumentIsShownAndUnsaved) {
+  documents.Restore(2, "text", "/a/b.txt");
+  EXPECT_EQ(documents.Title(), "Pelmar VEX (/a/b.txt)*");
+  EXPECT_EQ(documents.SelectedTab(), 2);
+}
+
 TEST_F(DocumentsTest, RescueNeverOverwritesADocumentOfThisRun) {
   documents.MakeCurrent("/given.txt", "given");
   const RescueRecord first{1,
@@ -117,7 +123,7 @@ TEST_F(DocumentsTest, RescueNeverOverwritesADocumentOfThisRun) {
   EXPECT_EQ(rescue.Readable(rescue.BringBack({first})), "Soubor:file:///%E6%97%A5.txt\r\n5\r\n\r\n");
   EXPECT_EQ(TextsOf(documents), "given|1|2|3|4|");
   documents.SwitchTo(1);
-  // A name without a full stop doesn't break the switch.
+  // A name without an extension doesn't break the switch.
   EXPECT_EQ(SwitchTo(2), (DocumentState{"(/a/README)*", "README", "/a/README", "/given.txt", true, 4}));
 }
 

@@ -8,6 +8,7 @@
 #include "shell/file_number.h"
 #include "shell/help.h"
 #include "shell/settings_record.h"
+#include "shell/stand_alone.h"
 #include "shell/status.h"
 #include "shell/window_geometry.h"
 #include "support/marked_text.h"
@@ -18,6 +19,13 @@
 
 namespace pelmar {
 namespace {
+
+TEST(StandAlone, EndsOnlyAfterYes) {
+  ScriptedPlatform platform;
+  platform.answers = {Answer::kYes, Answer::kNo, Answer::kNone};
+  for (const bool may_end : {true, false, false}) EXPECT_EQ(MayEndStandAlone(platform, "Poznámky"), may_end);
+  EXPECT_EQ(platform.calls.back(), "message 276 \"OPRAVDU UKONČIT Poznámky (Pelmar VEX) ?\" \"Konec\"");
+}
 
 TEST(FilePart, SplitsAtTheLastSeparatorAndTheLastDot) {
   const auto part = [](const char* path, int number) {
