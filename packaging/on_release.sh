@@ -50,9 +50,9 @@ rm -rf "$results"
 mkdir -p "$results"
 sources_of "$release" >"$results/sources"
 git clone -q "file://$root" "$results/pelmar-vex" || exit 1
-timed "build, test and pack" on_system "$release" \
+timed "build, test and pack" on_system "$release" ${CXX:+--include=clang} \
   --customize-hook="copy-in '$results/pelmar-vex' /" \
-  --customize-hook='chroot "$1" /pelmar-vex/packaging/from_nothing.sh' \
+  --customize-hook="chroot \"\$1\" env ${CXX:+CXX=$CXX} /pelmar-vex/packaging/from_nothing.sh" \
   --customize-hook="copy-out /pelmar-vex/build/release/packages '$results'" || exit 1
 grep '^from_nothing: ' "$results/log" | tee -a "$results/summary" >&2
 rm -rf "$results/pelmar-vex"
