@@ -1,12 +1,13 @@
 #!/bin/sh
 # ./test --all runs this script after the tests. It runs clang-format over all sources, the core and window tests under
-# the sanitizers for addresses and undefined behaviour, each fuzzer for a while, clang-tidy over the sources changed in
-# the last day, and each benchmark once, to check that it still works.
+# the sanitizers for addresses and undefined behaviour, each fuzzer for a while, the compiler over each changed test,
+# clang-tidy over the changed sources, and each benchmark once, to check that it still works.
 root=$(dirname "$(dirname "$(readlink -f "$0")")")
 step=check
 . "$root/packaging/setup.sh"
 fuzz_seconds=20
-most_tidied=40  # files, which takes some minutes
+most_tidied=40    # files, which takes some minutes
+most_compiled=20
 cd "$root" || exit 1
 
 tell "clang-format over all sources"
@@ -28,14 +29,26 @@ for fuzzer in build/fuzz/fuzz/*_fuzzer; do
   fi
 done
 
-# The latest change first. On a day of many changes the oldest are left out; an earlier run has checked them.
-changed=$(git log --since='24 hours ago' --name-only --pretty=format: -- 'src/*.cpp' 2>/dev/null | awk '!seen[$0]++' |
-  while read -r file; do [ -n "$file" ] && [ -f "$file" ] && echo "$file"; done | head -n $most_tidied)
-if [ -n "$changed" ]; then
-  tell "clang-tidy over $(echo "$changed" | wc -l) changed files"
+# Prints the files of the pattern $1 that were changed in the last day, the latest first, at most $2. On a day of many
+# changes the oldest are left out; an earlier run has checked them.
+changed() {
+  git log --since='24 hours ago' --name-only --pretty=format: -- "$1" 2>/dev/null | awk '!seen[$0]++' |
+    while read -r file; do [ -n "$file" ] && [ -f "$file" ] && echo "$file"; done | head -n "$2"
+}
+
+tests=$(changed 'tests/*_test.cpp' $most_compiled)
+if [ -n "$tests" ]; then
+  tell "compiling changed tests one by one"
+  # Where several sources are compiled as one, a missing include isn't noticed.
+  configure_and_build check $(echo "$tests" | sed "s|.*|$root/&^|") || exit 1
+fi
+
+sources=$(changed 'src/*.cpp' $most_tidied)
+if [ -n "$sources" ]; then
+  tell "clang-tidy over $(echo "$sources" | wc -l) changed files"
   # build/tidy has no precompiled headers, because clang can't read those of GCC. Only generated headers are built.
   configure_and_build tidy form_headers pelmar-printer_autogen pelmar-browser_autogen || exit 1
-  echo "$changed" | xargs -P "$(nproc)" -n 4 clang-tidy --quiet -p build/tidy >&2 || exit 1
+  echo "$sources" | xargs -P "$(nproc)" -n 4 clang-tidy --quiet -p build/tidy >&2 || exit 1
 fi
 
 for benchmark in build/ci/bench/*_bench; do

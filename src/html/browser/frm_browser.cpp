@@ -27,6 +27,7 @@ namespace {
 
 constexpr int kTimerInterval = 5;                 // ms
 constexpr qint64 kLongestPage = qint64{4} << 20;  // bytes of a page that are checked for UTF-8
+constexpr int kLongestInMessage = 300;            // characters of an address
 constexpr std::string_view kOpenFilter = "Všechno (*.*)|*.*|htm (*.htm)|*.htm|html (*.html)|*.html";
 
 QLabel* AddPanel(QStatusBar& bar, const char* name, const QString& value_name, int stretch) {
@@ -133,7 +134,6 @@ bool FrmBrowser::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void FrmBrowser::ShowInBrowser(const std::string& path) {
-  if (path.empty()) return;
   Visit(AddressOfFile(path));
   Present();
 }
@@ -159,8 +159,8 @@ void FrmBrowser::Load(const QString& address) {
   if (url.isValid() && !MayBeShown(url)) {
     const QString refusal = QStringLiteral(
         "Takovou adresu interní browser neotvírá:\r\n%1\r\n\r\nOtvírá http, https, file, data a about:blank.");
-    platform_.Message(MessageType::kOkInfo, Utf8FromQString(refusal.arg(Shortened(address.trimmed(), kLongestShown))),
-                      "Interní browser");
+    platform_.Message(MessageType::kOkInfo,
+                      Utf8FromQString(refusal.arg(Shortened(address.trimmed(), kLongestInMessage))), "Interní browser");
     return;
   }
   timTimer.start();

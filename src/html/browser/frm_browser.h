@@ -27,7 +27,7 @@ class FrmBrowser : public QMainWindow {
   FrmBrowser(WebViewMaker& maker, Platform& platform, std::function<void()> end_program);
   ~FrmBrowser() override;
 
-  // Shows a file. The path is UTF-8; an empty path does nothing.
+  // Shows a file.
   void ShowInBrowser(const std::string& path);
   // Shows the window with its first page. Only for a browser that is the whole program.
   void ShowAlone();

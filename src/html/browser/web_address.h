@@ -29,11 +29,4 @@ inline bool MayBeShown(const QUrl& url) {
   return url.toString() == QLatin1String("about:blank");
 }
 
-inline constexpr int kLongestShown = 300;  // the most characters of an address in a message
-
-// Shortens a text for a message. Dots mark the cut.
-inline QString Shortened(const QString& text, int most) {
-  return text.size() <= most ? text : text.left(most) + QLatin1String(" ...");
-}
-
 }  // namespace pelmar

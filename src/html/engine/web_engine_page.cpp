@@ -24,6 +24,7 @@
 #endif
 
 #include "html/browser/web_address.h"
+#include "platform/qt/convert.h"
 
 namespace pelmar {
 namespace {

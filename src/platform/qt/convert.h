@@ -35,6 +35,11 @@ inline QString PlainTitle(std::string_view utf8) {
   return Utf8ToQString(utf8).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
 }
 
+// Shortens a text for a message to `most` characters. Dots mark the cut.
+inline QString Shortened(const QString& text, int most) {
+  return text.size() <= most ? text : text.left(most) + QLatin1String(" ...");
+}
+
 inline QColor ColorToQt(Color color) { return {RedOf(color), GreenOf(color), BlueOf(color)}; }
 inline Color ColorFromQt(const QColor& color) { return Rgb(color.red(), color.green(), color.blue()); }
 
