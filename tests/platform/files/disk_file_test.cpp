@@ -27,15 +27,16 @@ constexpr uid_t kNobody = 65534;
 constexpr const char* kNote = "user.note";
 constexpr const char* kAccessList = "system.posix_acl_access";
 
-void SetExtended(const std::string& path, const char* name, const std::string& value) {
+void SetAttribute(const std::string& path, const char* name, const std::string& value) {
   ASSERT_EQ(setxattr(path.c_str(), name, value.data(), value.size(), 0), 0) << name;
 }
 
-// A folder that everybody may write to, as a test may be anybody.
+// A folder that every user may write to, because a test may act as another user.
 struct OpenFolder : TempFolder {
   OpenFolder() { chmod(Path().c_str(), 0777); }
-  // "a=content b/ c>target", sorted by name. With facts also owner, group, permissions, links and attributes of files.
-  [[nodiscard]] std::string Holds(bool with_facts = false) const {
+  // Lists the entries by name: "a=content b/ c>target". `detailed` adds the owner, group, permissions, number of links
+  // and attributes of each file.
+  [[nodiscard]] std::string Listing(bool detailed = false) const {
     std::string all;
     for (const fs::path& path : std::set<fs::path>{fs::recursive_directory_iterator(Path()), {}}) {
       const bool file = fs::is_regular_file(fs::symlink_status(path));
@@ -43,9 +44,9 @@ struct OpenFolder : TempFolder {
       all += path.string().substr(Path().size() + 1);
       all += fs::is_symlink(path) ? ">" + fs::read_symlink(path).string() : file ? "=" + Content(path) : "/";
       struct stat state {};
-      if (!file || !with_facts || lstat(path.c_str(), &state) != 0) continue;
-      for (const auto fact : {state.st_uid, state.st_gid, state.st_mode, static_cast<unsigned>(state.st_nlink)})
-        all += ' ' + std::to_string(fact);
+      if (!file || !detailed || lstat(path.c_str(), &state) != 0) continue;
+      for (const auto detail : {state.st_uid, state.st_gid, state.st_mode, static_cast<unsigned>(state.st_nlink)})
+        all += ' ' + std::to_string(detail);
       char bytes[100];
       for (const char* name : {kNote, kAccessList})
         if (const ssize_t size = getxattr(path.c_str(), name, bytes, sizeof bytes); size > 0)
@@ -55,20 +56,20 @@ struct OpenFolder : TempFolder {
   }
 };
 
-TEST(ReadWholeFile, TakesAFileUpToTheLimit) {
+TEST(ReadWholeFile, StopsAtTheLimitAndRefusesAHugeFileWithoutOne) {
   const OpenFolder folder;
   std::string all;
   for (int at = 0; at < 256 * 300; ++at) all += static_cast<char>(at);
-  const std::string path = folder.Put("all", all), endless = folder.Put("endless", "");
+  const std::string path = folder.Put("all", all), huge = folder.Put("huge", "");
   for (const std::optional<std::uint64_t> limit : {{}, {0}, {64001}, {65537}, std::optional(UINT64_MAX)})
     EXPECT_TRUE(ReadWholeFile(path, limit).bytes == all.substr(0, limit.value_or(all.size()))) << limit.value_or(1);
   EXPECT_TRUE(CanReadFile(path));
-  fs::resize_file(endless, std::uintmax_t{1} << 40);
-  EXPECT_EQ(ReadWholeFile(endless, {}).error, EFBIG);
-  EXPECT_EQ(ReadWholeFile(endless, 64001).bytes.size(), 64001U);
+  fs::resize_file(huge, std::uintmax_t{1} << 40);
+  EXPECT_EQ(ReadWholeFile(huge, {}).error, EFBIG);
+  EXPECT_EQ(ReadWholeFile(huge, 64001).bytes.size(), 64001U);
 }
 
-TEST(ReadWholeFile, RefusesWhatIsNoReadableFileAndNeverWaits) {
+TEST(ReadWholeFile, RefusesAllButReadableRegularFilesWithoutWaiting) {
   const OpenFolder folder;
   const std::string secret = folder.Put("secret", "");
   chmod(secret.c_str(), 0);
@@ -84,7 +85,7 @@ TEST(ReadWholeFile, RefusesWhatIsNoReadableFileAndNeverWaits) {
                                                  {"", ENOENT},
                                                  {secret, EACCES}};
   const uid_t user = geteuid();
-  ASSERT_EQ(seteuid(user == 0 ? kNobody : user), 0);  // permissions bind nobody but an ordinary user
+  ASSERT_EQ(seteuid(user == 0 ? kNobody : user), 0);  // root may read any file
   for (const auto& [path, error] : refused) {
     EXPECT_EQ(ReadWholeFile(path, {}).error, error) << path;
     EXPECT_FALSE(CanReadFile(path)) << path;
@@ -92,8 +93,8 @@ TEST(ReadWholeFile, RefusesWhatIsNoReadableFileAndNeverWaits) {
   ASSERT_EQ(seteuid(user), 0);
 }
 
-// Passes the pieces on unchanged. What Finish() adds is cut off again.
-struct Same : FileRewriter {
+// Copies the pieces unchanged. Kept() doesn't count the end that Finish() adds, so this end must be cut off.
+struct CopyingRewriter : FileRewriter {
   std::string_view Rewrite(std::string_view piece) override {
     kept += piece.size();
     return piece;
@@ -106,17 +107,17 @@ struct Same : FileRewriter {
 
 enum class How { kSave, kKeepTail, kDropTail, kCreate };
 
-// `keep` has a file "source" with these bytes.
-WriteOutcome Write(const std::string& path, const std::string& bytes, How how, const OpenFolder& keep) {
+// `keep_folder` is the folder for copies of old content. It has a file "source" with these bytes.
+WriteOutcome Write(const std::string& path, const std::string& bytes, How how, const OpenFolder& keep_folder) {
   if (how == How::kCreate) return {.error = CreateFile(path, bytes)};
-  if (how == How::kSave) return ReplaceFile(path, bytes, keep.File(""));
-  Same same;
-  if (how == How::kDropTail) same.end = "cut off";
+  if (how == How::kSave) return ReplaceFile(path, bytes, keep_folder.File(""));
+  CopyingRewriter rewriter;
+  if (how == How::kDropTail) rewriter.end = "cut off";
   const OldTail tail = how == How::kKeepTail ? OldTail::kKeep : OldTail::kDrop;
-  return RewriteFileByPieces(keep.File("source"), path, tail, same, keep.File(""));
+  return RewriteFileByPieces(keep_folder.File("source"), path, tail, rewriter, keep_folder.File(""));
 }
 
-// Writes without care for crashes.
+// Writes directly into the file, so that a crash would lose content.
 WriteOutcome WritePlainly(const std::string& path, const std::string& bytes, How how, const OpenFolder&) {
   const int flags = O_WRONLY | (how == How::kCreate ? O_CREAT | O_EXCL : how == How::kKeepTail ? 0 : O_TRUNC);
   int file = open(path.c_str(), flags, 0600);
@@ -126,37 +127,38 @@ WriteOutcome WritePlainly(const std::string& path, const std::string& bytes, How
   return {.error = close(file)};
 }
 
-// As the system stores it: version 2, then tag, permissions and user. User 1234 may read, the group nothing.
+// An access list in the kernel's format: version 2, then entries of tag, permissions and user. User 1234 may read, the
+// group may not.
 const std::string kSharedList(
     "\2\0\0\0\1\0\6\0\xff\xff\xff\xff\2\0\4\0\xd2\4\0\0\4\0\0\0\xff\xff\xff\xff"
     "\x10\0\4\0\xff\xff\xff\xff\x20\0\0\0\xff\xff\xff\xff",
     44);
 
-TEST(WriteFile, LeavesWhatPlainWritingLeavesWhateverTheFileAndTheFolderAre) {
+TEST(WriteFile, EqualsPlainWritingInRandomFilesAndFolders) {
   RandomSource random(1);
   const auto one_of = [&](std::initializer_list<unsigned> all) { return all.begin()[random.Below(all.size())]; };
   const std::string names[] = {"file",   "link",         "to link",   "to nothing", "circle", "inner",
                                "inner/", "missing/file", "file/file", "new",        "new/",   std::string(256, 'x')};
   const std::string contents[] = {"", "short", "longer than before", random.Bytes(100'000), random.Bytes(700'000)};
-  const OpenFolder keep;
+  const OpenFolder keep_folder;
   const uid_t user = geteuid();
   const gid_t group = getegid();
   const mode_t mask = umask(027);
-  failing = {};  // nothing fails, and no disk is waited for
+  failing = {};  // no call fails, and nothing waits for the disk
   for (int round = 0; round < 500; ++round) {
     const uid_t writer = user == 0 ? one_of({0, kNobody, kNobody}) : user;
     const uid_t owner = user == 0 ? one_of({1234, kNobody, kNobody}) : user;
-    const gid_t owning = user == 0 ? one_of({2345, group, group}) : group;
+    const gid_t file_group = user == 0 ? one_of({2345, group, group}) : group;
     const mode_t folder_mode = one_of({0777, 0777, 0777, 0555, 0111, 01777}),
                  mode = one_of({0640, 0604, 0666, 0404, 06755});
     const bool two_names = one_of({0, 0, 1}) == 1;
-    const unsigned extended = one_of({0, 0, 1, 2, 3});
+    const unsigned attribute = one_of({0, 0, 1, 2, 3});  // 0: none
     const How how{static_cast<How>(random.Below(4))};
     const std::string &name = names[one_of({0, 1}) * random.Below(std::size(names))],
                       &bytes = contents[random.Below(random.Below(9) > 0 ? 3 : 5)];
-    const bool to_file = how != How::kCreate && (name == "file" || name == "link" || name == "to link");
-    chmod(keep.Put("source", bytes).c_str(), 0644);
-    std::string left[2];
+    const bool targets_file = how != How::kCreate && (name == "file" || name == "link" || name == "to link");
+    chmod(keep_folder.Put("source", bytes).c_str(), 0644);
+    std::string results[2];
     for (const bool plain : {false, true}) {
       const OpenFolder folder;
       const std::string file = folder.Put("file", "old content");
@@ -167,126 +169,132 @@ TEST(WriteFile, LeavesWhatPlainWritingLeavesWhateverTheFileAndTheFolderAre) {
         chmod(fs::path(folder.Put("inner/other", "")).parent_path().c_str(), 0777);
       }
       if (two_names) fs::create_hard_link(file, folder.File("second name"));
-      ASSERT_EQ(chown(file.c_str(), owner, owning), 0);
-      if (extended == 1) SetExtended(file, kNote, "from: me");
-      if (extended == 2) SetExtended(file, kAccessList, kSharedList);
-      if (extended == 3) SetExtended(folder.Path(), "system.posix_acl_default", kSharedList);
+      ASSERT_EQ(chown(file.c_str(), owner, file_group), 0);
+      if (attribute == 1) SetAttribute(file, kNote, "from: me");
+      if (attribute == 2) SetAttribute(file, kAccessList, kSharedList);
+      if (attribute == 3) SetAttribute(folder.Path(), "system.posix_acl_default", kSharedList);
       // A save clears the set-id bits. Where plain writing keeps them, both are compared without the bits.
-      const bool keeps = extended == 2 || bytes.empty() || (writer == 0 && (plain || !to_file));
-      ASSERT_EQ(chmod(file.c_str(), keeps ? mode & 0777 : mode), 0);
+      const bool keeps_bits = attribute == 2 || bytes.empty() || (writer == 0 && (plain || !targets_file));
+      ASSERT_EQ(chmod(file.c_str(), keeps_bits ? mode & 0777 : mode), 0);
       chmod(folder.Path().c_str(), folder_mode);
       const auto node = StampOf(file)->node;
       ASSERT_EQ(seteuid(writer), 0);
-      const WriteOutcome outcome = (plain ? WritePlainly : Write)(folder.File(name), bytes, how, keep);
+      const WriteOutcome outcome = (plain ? WritePlainly : Write)(folder.File(name), bytes, how, keep_folder);
       ASSERT_EQ(seteuid(user), 0);
       chmod(folder.Path().c_str(), 0777);
-      left[plain] = "error " + std::to_string(outcome.error) + outcome.kept + keep.Holds() + ' ' + folder.Holds(true);
-      if (plain || outcome.error != 0 || !to_file) continue;
-      const bool own = writer == 0 || (owner == writer && owning == group);
-      const bool beside = own && !two_names && (writer == 0 || (folder_mode & 0222) != 0);
-      EXPECT_EQ(StampOf(file)->node != node, beside) << round;
+      results[plain] =
+          "error " + std::to_string(outcome.error) + outcome.kept + keep_folder.Listing() + ' ' + folder.Listing(true);
+      if (plain || outcome.error != 0 || !targets_file) continue;
+      const bool can_set_owner = writer == 0 || (owner == writer && file_group == group);
+      const bool replaced = can_set_owner && !two_names && (writer == 0 || (folder_mode & 0222) != 0);
+      EXPECT_EQ(StampOf(file)->node != node, replaced) << round;
     }
-    ASSERT_EQ(left[0], left[1]) << name << " by " << writer << " round " << round;
+    ASSERT_EQ(results[0], results[1]) << name << " by " << writer << " round " << round;
   }
   failing.counts = false;
   umask(mask);
+}
+
+TEST(WriteFile, ReportsTheErrorOfADeviceAndLeavesTheDevice) {
   EXPECT_EQ(Write("/dev/full", "x", How::kSave, {}).error, ENOSPC);
   EXPECT_TRUE(fs::is_character_file("/dev/full"));
 }
 
-// The ways of a save, for tests that cut it off at each of its calls.
+// The ways to write a file, for tests that interrupt each way at each of its system calls.
 const struct Way {
-  const char* what;
+  const char* name;
   const char* steps;  // the order in which content, name and folder reach the disk
   How how = How::kSave;
-  bool hard_link = false, no_unnamed = false, is_new = false;
-} kWays[] = {{"beside", "content link rename folder"},
-             {"beside, with names", "create content rename folder", How::kSave, false, true},
+  bool hard_link = false;   // the file has two names, so it is overwritten in place
+  bool no_unnamed = false;  // the file system supports no files without a name
+  bool is_new = false;      // there is no old file
+} kWays[] = {{"replaced", "content link rename folder"},
+             {"replaced, no unnamed files", "create content rename folder", How::kSave, false, true},
              {"in place", "content link folder content remove", How::kSave, true},
-             {"in place, with names", "create content rename folder content remove", How::kSave, true, true},
+             {"in place, no unnamed files", "create content rename folder content remove", How::kSave, true, true},
              {"new", "content link folder", How::kSave, false, false, true},
-             {"new, with a name", "create content rename folder", How::kSave, false, true, true},
+             {"new, no unnamed files", "create content rename folder", How::kSave, false, true, true},
              {"by pieces", "content link rename folder", How::kKeepTail},
              {"by pieces, in place", "content link folder content remove", How::kKeepTail, true},
-             {"made", "create content folder", How::kCreate, false, false, true}};
+             {"created", "create content folder", How::kCreate, false, false, true}};
 
 const std::string kOldContent(7'000, 'o');
 const std::string kNewContent(9'000, 'n');
 
-// One file to be saved in one of the ways.
-struct CutOff {
+// A file to be written in one of the ways. `before` and `after` list the folder.
+struct SaveCase {
   const Way& way;
-  OpenFolder folder, keep;
+  OpenFolder folder, keep_folder;
   std::string path = folder.File("file"), before, after = "file=" + kNewContent;
 
-  explicit CutOff(const Way& its_way) : way(its_way) {
+  explicit SaveCase(const Way& tested) : way(tested) {
     no_unnamed_files = way.no_unnamed;
-    keep.Put("source", kNewContent);
+    keep_folder.Put("source", kNewContent);
     if (way.is_new) return;
     folder.Put("file", kOldContent);
-    SetExtended(path, kNote, "x");
+    SetAttribute(path, kNote, "x");
     if (way.hard_link) fs::create_hard_link(path, folder.File("link"));
     if (way.hard_link) after += " link=" + kNewContent;
-    before = folder.Holds();
+    before = folder.Listing();
   }
-  ~CutOff() { no_unnamed_files = false; }
-  [[nodiscard]] WriteOutcome Save() const { return Write(path, kNewContent, way.how, keep); }
-  // The content of the folder, without what an interrupted save has left beside the file.
-  [[nodiscard]] std::string Left() const {
-    const std::string all = folder.Holds();
+  ~SaveCase() { no_unnamed_files = false; }
+  [[nodiscard]] WriteOutcome Save() const { return Write(path, kNewContent, way.how, keep_folder); }
+  // Lists the folder without the temporary files of an interrupted save, which are listed before "file".
+  [[nodiscard]] std::string ListingWithoutTemporaries() const {
+    const std::string all = folder.Listing();
     return all.substr(std::min(all.find("file="), all.size()));
   }
 };
 
-// Cuts each way off at its first call, then at its second and so on. `cut` returns true if there was no such call.
-void ForEachCall(const std::function<bool(const CutOff& file, int number)>& cut) {
+// Runs `test` for each way and each of its system calls, by number. `test` returns true if there is no such call.
+void ForEachCall(const std::function<bool(const SaveCase& file, int number)>& test) {
   for (const Way& way : kWays) {
     int number = 0;
     for (bool done = false; !done;) {
-      const CutOff file(way);
-      SCOPED_TRACE(testing::Message() << way.what << ", call " << ++number);
-      done = cut(file, number);
+      ++number;
+      SCOPED_TRACE(testing::Message() << way.name << ", call " << number);
+      done = test(SaveCase(way), number);
     }
     EXPECT_GT(number, way.how == How::kCreate ? 2 : 5);
   }
 }
 
-TEST(WriteFile, BringsTheContentToTheDiskThenTheNameThenTheFolder) {
+TEST(WriteFile, WritesToTheDiskInASafeOrder) {
   for (const Way& way : kWays) {
-    const CutOff file(way);
+    const SaveCase file(way);
     failing = {};
     EXPECT_EQ(file.Save().error, 0);
     failing.counts = false;
-    EXPECT_EQ(failing.steps, way.steps) << way.what;
+    EXPECT_EQ(failing.steps, way.steps) << way.name;
   }
 }
 
-TEST(ReplaceFile, AFailureAtAnyCallLosesNothing) {
+TEST(WriteFile, LosesNothingIfAnyCallFails) {
   constexpr std::pair<int, bool> kFailures[] = {{EIO, false}, {EACCES, false}, {EACCES, true}, {ENOSPC, true}};
   for (const auto& failure : kFailures) {
     const int error = failure.first;
-    const bool all_behind = failure.second;
-    SCOPED_TRACE(testing::Message() << "error " << error << all_behind);
-    ForEachCall([error, all_behind](const CutOff& file, int number) {
-      failing = {.number = number, .error = error, .all_behind = all_behind};
+    const bool all_later = failure.second;
+    SCOPED_TRACE(testing::Message() << "error " << error << (all_later ? ", then all calls fail" : ""));
+    ForEachCall([error, all_later](const SaveCase& file, int number) {
+      failing = {.number = number, .error = error, .all_later = all_later};
       const WriteOutcome outcome = file.Save();
       const bool done = failing.made < number;
       failing = {.counts = false};
       EXPECT_TRUE(!done || outcome.error == 0) << outcome.error;
       EXPECT_TRUE(outcome.kept.empty() || (Content(outcome.kept) == kOldContent && outcome.error != 0));
-      // After one failure the old content is put back.
-      EXPECT_TRUE(outcome.kept.empty() || (all_behind && (file.way.hard_link || error == EACCES)));
-      const std::string left = all_behind ? file.Left() : file.folder.Holds();
-      const bool torn = all_behind && file.way.how == How::kCreate;  // nobody has lost anything
-      // Where only the last wait for the disk failed, the new content is in its place.
-      const bool whole = left == file.after || (outcome.error != 0 && left == file.before);
-      EXPECT_TRUE(whole || (outcome.error != 0 && (!outcome.kept.empty() || torn))) << left;
+      // After a single failure the old content is restored, and its copy is removed.
+      EXPECT_TRUE(outcome.kept.empty() || (all_later && (file.way.hard_link || error == EACCES)));
+      const std::string listing = all_later ? file.ListingWithoutTemporaries() : file.folder.Listing();
+      const bool torn = all_later && file.way.how == How::kCreate;  // a half-written new file, no loss
+      // If only the last fsync failed, the file has its new content.
+      const bool whole = listing == file.after || (outcome.error != 0 && listing == file.before);
+      EXPECT_TRUE(whole || (outcome.error != 0 && (!outcome.kept.empty() || torn))) << listing;
       return done;
     });
   }
 }
 
-TEST(KeptContent, OfAKilledSaveIsFoundUntilThePersonKnows) {
+TEST(KeptContent, OfAKilledSaveIsFoundUntilItIsReported) {
   const OpenFolder folder;
   const Descriptor living(open(folder.Put("puvodni-living-a.txt", "").c_str(), O_RDONLY | O_CLOEXEC));
   ASSERT_EQ(flock(living.Number(), LOCK_EX), 0);

@@ -1,4 +1,4 @@
-// The checked calls of the C library are inline functions of the same names.
+// With this macro the C library would define inline functions of the same names.
 #undef _FORTIFY_SOURCE
 
 #include "platform/files/failing_calls.h"
@@ -12,13 +12,13 @@
 namespace pelmar {
 namespace {
 
-// The system's flags for files without a name, and for new ones.
+// The bits of O_TMPFILE, and O_CREAT | O_EXCL.
 constexpr int kUnnamed = 020000000, kNew = 0300;
 
-// True where this call is to fail; errno is set then.
+// Counts a call. Returns true and sets errno if the call is to fail.
 bool Fails() {
   if (!failing.counts || ++failing.made < failing.number || failing.number == 0) return false;
-  if (failing.made > failing.number && !failing.all_behind) return false;
+  if (failing.made > failing.number && !failing.all_later) return false;
   errno = failing.error;
   return true;
 }
@@ -43,10 +43,13 @@ Result Pass(const char* name, Arguments... arguments) {
 using pelmar::Note;
 using pelmar::Pass;
 
-// These stand before the C library's own. Its headers, with other promises about exceptions, stay out.
+// These replace the C library's functions. The headers of these functions aren't included: some declare noexcept.
 extern "C" {
 int open(const char* path, int flags, ...) {
-  if (pelmar::no_unnamed_files && (flags & pelmar::kUnnamed) == pelmar::kUnnamed) return errno = EOPNOTSUPP, -1;
+  if (pelmar::no_unnamed_files && (flags & pelmar::kUnnamed) == pelmar::kUnnamed) {
+    errno = EOPNOTSUPP;
+    return -1;
+  }
   if ((flags & pelmar::kNew) == pelmar::kNew) Note("create");
   va_list rest;
   va_start(rest, flags);
@@ -54,20 +57,22 @@ int open(const char* path, int flags, ...) {
   va_end(rest);
   return Pass<int>("open", path, flags, mode);
 }
-// One that fails has written a half, as on a disk that fills up.
+// A failing call writes half of the bytes, as on a disk that becomes full.
 ssize_t write(int file, const void* bytes, size_t size) {
   const bool fails = pelmar::Fails();
   const int error = errno;
   const ssize_t written = pelmar::Real<ssize_t>("write", file, bytes, fails ? size / 2 : size);
-  return fails ? (errno = error, -1) : written;
+  if (!fails) return written;
+  errno = error;
+  return -1;
 }
-// A save that an error cuts off doesn't need the disk, and hundreds of them would wait for it.
+// While calls are counted, nothing waits for the disk: a test makes hundreds of saves.
 int fsync(int file) {
   if (!pelmar::failing.counts) return pelmar::Real<int>("fsync", file);
   const bool folder =
       pelmar::Real<ssize_t>("read", file, static_cast<void*>(nullptr), size_t{0}) < 0 && errno == EISDIR;
   Note(folder ? "folder" : "content");
-  return -int{pelmar::Fails()};
+  return pelmar::Fails() ? -1 : 0;
 }
 ssize_t read(int file, void* bytes, size_t size) { return Pass<ssize_t>("read", file, bytes, size); }
 off_t lseek(int file, off_t at, int from) { return Pass<off_t>("lseek", file, at, from); }
