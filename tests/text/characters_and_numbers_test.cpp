@@ -19,7 +19,7 @@ std::string AllBytes() {
   return all;
 }
 
-TEST(CodePage, EveryByteSurvivesUnicode) {
+TEST(CodePage, EveryByteSurvivesTheConversionToUnicodeAndBack) {
   const std::string all = AllBytes();
   EXPECT_EQ(FromUtf8(ToUtf8(all)), all);
   std::u16string wide;
@@ -28,14 +28,14 @@ TEST(CodePage, EveryByteSurvivesUnicode) {
   EXPECT_EQ("Žluťoučký kůň €"_w, "\x8Elu\x9Dou\xE8k\xFD k\xF9\xF2 \x80");
 }
 
-TEST(CodePage, WhatThePageLacksBecomesOneQuestionMark) {
+TEST(CodePage, EachForeignCharacterOrMalformedByteBecomesAQuestionMark) {
   const std::pair<std::string_view, std::string_view> cases[] = {
       {"aЖb", "a?b"}, {"😀!", "?!"}, {"\xFF\xFE", "??"}, {"\xE2\x82", "??"}, {"\xC0\x80x", "??x"}, {"€", "\x80"}};
   for (const auto& [utf8, expected] : cases) EXPECT_EQ(FromUtf8(utf8), expected) << utf8;
   EXPECT_EQ(FromUtf16(u"a\U0001F600b\xD800"), "a?b?");
 }
 
-TEST(Utf8, IsWellFormedToTheLastBit) {
+TEST(Utf8, MalformedSequencesAreRefused) {
   for (const std::string_view good : {"kůň", "\u0800\uD7FF\uE000\uFFFF", "\U00010000\U0010FFFF", "\uFEFFa"})
     EXPECT_TRUE(IsUtf8(good) && LooksLikeUtf8(good)) << good;
   EXPECT_TRUE(IsUtf8("kun\x7F"));
@@ -83,26 +83,26 @@ TEST(NumberText, FixedNumbersRoundHalvesUp) {
   EXPECT_EQ(FixedText(123.456, 9), "123,456000000");
 }
 
-TEST(NumberText, ReadsWhatHasTheFormOfANumber) {
-  const auto form = [](const std::string& mark) {  // once more, as an expression
-    return "\\s*([+-]?(\\d+" + mark + "?\\d*|" + mark + "\\d+)([eE][+-]?\\d+)?)";
+TEST(NumberText, ReadsNumbersAsARegularExpressionDoes) {
+  const auto form = [](const std::string& separator) {
+    return "\\s*([+-]?(\\d+" + separator + "?\\d*|" + separator + "\\d+)([eE][+-]?\\d+)?)";
   };
   const std::regex leading(form("[.]")), whole(form(",") + "\\s*"), comma(",");
   RandomSource random(8);
   for (int round = 0; round < 30000; ++round) {
     const std::string text = random.Text(2, " \t\r\n") + random.Text(8, "0159.,+-Ee x");
     std::smatch found;
-    const bool leads = std::regex_search(text, found, leading, std::regex_constants::match_continuous);
-    const double number = leads ? std::strtod(found.str(1).c_str(), nullptr) : 0;
+    const bool has_leading = std::regex_search(text, found, leading, std::regex_constants::match_continuous);
+    const double number = has_leading ? std::strtod(found.str(1).c_str(), nullptr) : 0;
     if (!std::isfinite(number)) continue;
     ASSERT_EQ(LeadingNumber(text), number) << text;
-    const bool reads = std::regex_match(text, found, whole);
-    const double read = reads ? std::strtod(std::regex_replace(found.str(1), comma, ".").c_str(), nullptr) : 0;
-    ASSERT_EQ(ParseNumber(text), reads && std::isfinite(read) ? std::optional(read) : std::nullopt) << text;
+    const bool is_number = std::regex_match(text, found, whole);
+    const double read = is_number ? std::strtod(std::regex_replace(found.str(1), comma, ".").c_str(), nullptr) : 0;
+    ASSERT_EQ(ParseNumber(text), is_number && std::isfinite(read) ? std::optional(read) : std::nullopt) << text;
   }
 }
 
-TEST(NumberText, ReadsNumbersOutOfRangeByWhatFits) {
+TEST(NumberText, NumbersOutOfRangeAreCutRoundedToZeroOrRefused) {
   EXPECT_EQ(LeadingNumber("1E999"), 1e99);
   EXPECT_EQ(LeadingNumber("1E+3000"), 1e300);
   EXPECT_EQ(LeadingNumber("1E-999"), 0);

@@ -12,11 +12,11 @@
 namespace pelmar {
 namespace {
 
-// The buffer once more, the slow way: each step of undo keeps the whole text of before and after it.
+// A slow second implementation of the buffer: each undo step stores the whole text before and after the step.
 class PlainBuffer {
  public:
   enum class Run { kNone, kTyping, kErasing };
-  int moves = 0;  // of the selection alone
+  int moves = 0;  // changes of the selection without a change of the text
 
   [[nodiscard]] const std::string& Text() const { return now_.text; }
   [[nodiscard]] std::size_t Caret() const { return now_.caret; }
@@ -57,8 +57,8 @@ class PlainBuffer {
   void Type(const std::string& with) { Replace(SelStart(), SelLength(), with, Run::kTyping); }
   void EraseBefore(std::size_t count) { Erase(now_.caret - std::min(count, now_.caret), now_.caret); }
   void EraseAfter(std::size_t count) { Erase(now_.caret, std::min(now_.caret + count, now_.text.size())); }
-  bool Undo() { return CanUndo() && Take(steps_[--done_].first); }
-  bool Redo() { return CanRedo() && Take(steps_[done_++].second); }
+  bool Undo() { return CanUndo() && Restore(steps_[--done_].first); }
+  bool Redo() { return CanRedo() && Restore(steps_[done_++].second); }
 
  private:
   struct State {
@@ -70,35 +70,35 @@ class PlainBuffer {
     const bool selected = SelLength() > 0;
     Replace(selected ? SelStart() : from, selected ? SelLength() : to - from, "", Run::kErasing);
   }
-  bool Take(const State& state) {
+  bool Restore(const State& state) {
     now_ = state;
     run_ = Run::kNone;
     return true;
   }
 
   State now_;
-  std::vector<std::pair<State, State>> steps_;  // before and after each
-  std::size_t done_ = 0;
+  std::vector<std::pair<State, State>> steps_;  // the states before and after each step
+  std::size_t done_ = 0;                        // steps that Undo can take back
   Run run_ = Run::kNone;
 };
 
-// The same of both buffers, by the same draws.
+// Makes a random edit. Equal seeds make the same edit in both kinds of buffer.
 template <class Buffer>
-bool DoSomething(Buffer& buffer, RandomSource random) {
-  const std::size_t what = random.Below(13), at = random.Below(14), count = random.Below(4);
+bool EditRandomly(Buffer& buffer, RandomSource random) {
+  const std::size_t action = random.Below(13), at = random.Below(14), count = random.Below(4);
   const std::string piece = random.Text(3, "\r\n\nx");
-  if (what == 0) buffer.Select(at, at + count);
-  if (what == 1) buffer.Select(at + count, at);  // dragged backwards
-  if (what == 2) buffer.SetSelStart(at);
-  if (what == 3) buffer.SetSelLength(count * 5);
-  if (what == 4) buffer.EraseBefore(count);
-  if (what == 5) buffer.EraseAfter(count);
-  if (what == 6) buffer.Replace(at, count, piece);
-  if (what == 7) buffer.ReplaceSelection(piece);
-  if (what == 8) return buffer.Undo();
-  if (what == 9) return buffer.Redo();
-  if (what == 10 && at == 0) buffer.SetText(count == 0 ? buffer.Text() : piece + piece);
-  if (what > 10) buffer.Type(piece);
+  if (action == 0) buffer.Select(at, at + count);
+  if (action == 1) buffer.Select(at + count, at);  // dragged backwards
+  if (action == 2) buffer.SetSelStart(at);
+  if (action == 3) buffer.SetSelLength(count * 5);
+  if (action == 4) buffer.EraseBefore(count);
+  if (action == 5) buffer.EraseAfter(count);
+  if (action == 6) buffer.Replace(at, count, piece);
+  if (action == 7) buffer.ReplaceSelection(piece);
+  if (action == 8) return buffer.Undo();
+  if (action == 9) return buffer.Redo();
+  if (action == 10 && at == 0) buffer.SetText(count == 0 ? buffer.Text() : piece + piece);
+  if (action > 10) buffer.Type(piece);
   return true;
 }
 
@@ -120,7 +120,7 @@ void ExpectLines(const TextBuffer& buffer) {
   ASSERT_EQ(buffer.LineCount(), line + 1);
 }
 
-TEST(TextBuffer, RandomEditsEqualASlowBuffer) {
+TEST(TextBuffer, EqualsASlowBufferAfterRandomEdits) {
   RandomSource random(7);
   for (unsigned round = 0; round < 400; ++round) {
     TextBuffer buffer;
@@ -136,7 +136,7 @@ TEST(TextBuffer, RandomEditsEqualASlowBuffer) {
     });
     for (unsigned edit = 0; edit < 60; ++edit) {
       const unsigned seed = 100 * round + edit;
-      ASSERT_EQ(DoSomething(buffer, RandomSource(seed)), DoSomething(plain, RandomSource(seed)));
+      ASSERT_EQ(EditRandomly(buffer, RandomSource(seed)), EditRandomly(plain, RandomSource(seed)));
       ASSERT_EQ(StateOf(buffer), StateOf(plain)) << "round " << round << " edit " << edit;
       ASSERT_EQ(buffer.Text(), mirror);
       ASSERT_EQ(buffer.Revision(), changes);
@@ -150,7 +150,7 @@ TEST(TextBuffer, RandomEditsEqualASlowBuffer) {
   }
 }
 
-TEST(TextBuffer, TakesAViewOfItself) {
+TEST(TextBuffer, ReplacesTextByAViewOfItself) {
   TextBuffer buffer;
   PutMarked(buffer, "[aXYZc|");
   buffer.ReplaceSelection(buffer.SelText().substr(1, 3));

@@ -16,7 +16,7 @@
 namespace pelmar {
 namespace {
 
-// Every character ten pixels, and by `odd` a fraction more to each, as at scales between whole numbers.
+// Each character is ten pixels wide. `odd` adds a different fraction of a pixel to each, as at a fractional scale.
 LayoutRules Rules(std::size_t width_pixels, bool wrap = true, std::size_t odd = 0) {
   LayoutRules rules;
   for (std::size_t code = 0; code < 256; ++code)
@@ -35,14 +35,14 @@ std::int64_t Width(const LayoutRules& rules, std::string_view text) {
   return x;
 }
 
-// The rows of a text once more, the slow way, each with the CR LF that ends it.
+// A slow second implementation of the layout: the rows of a text, each with the CR LF that ends it.
 std::vector<std::string> SlowRows(std::string_view text, const LayoutRules& rules) {
   std::vector<std::string> rows;
   do {
     const std::size_t line = std::min(text.find("\r\n"), text.size());
     std::size_t length = 0;
     while (length < line && (!rules.wrap || Width(rules, text.substr(0, length + 1)) <= rules.width)) ++length;
-    if (length < line) {  // behind a blank, be it the one that hangs over the edge, but one character at least
+    if (length < line) {  // wraps after a blank, which may hang over the edge, or after at least one character
       const std::size_t blank = text.substr(0, length + 1).find_last_of(" \t");
       length = blank == std::string::npos ? std::max<std::size_t>(length, 1) : blank + 1;
     }
@@ -53,7 +53,7 @@ std::vector<std::string> SlowRows(std::string_view text, const LayoutRules& rule
   return rows;
 }
 
-// Whether a layout has these rows, and in them every place where their widths put it.
+// Expects these rows in the layout, and each position where the widths of the characters put it.
 void ExpectPlaces(const TextLayout& layout, const LayoutRules& rules, const std::vector<std::string>& rows) {
   std::int64_t content = rules.width;
   for (const std::string& row : rows)
@@ -73,7 +73,7 @@ void ExpectPlaces(const TextLayout& layout, const LayoutRules& rules, const std:
     ASSERT_EQ(layout.RowStart(i), start);
     ASSERT_EQ(layout.RowEnd(i), start + line.size());
     ASSERT_EQ(layout.EndsLine(i), !wraps);
-    for (std::size_t at = 0; at <= line.size(); at += line.size() > 1000 ? 683 : 1) {
+    for (std::size_t at = 0; at <= line.size(); at += line.size() > 1000 ? 683 : 1) {  // samples of long lines
       ASSERT_EQ(layout.RowOf(start + at, at > 0), i) << at;
       ASSERT_EQ(layout.RowOf(start + at), wraps && at == line.size() ? i + 1 : i) << at;
       ASSERT_EQ(layout.XOf(i, start + at), x_of(at)) << at;
@@ -82,14 +82,14 @@ void ExpectPlaces(const TextLayout& layout, const LayoutRules& rules, const std:
       ASSERT_EQ(layout.CharAt(i, x_of(at)), start + at);
       ASSERT_EQ(layout.CharAt(i, x_of(at + 1) - 1), start + at);
       ASSERT_EQ(PlaceInRow(layout, i, left + x_of(at) + (width - 1) / 2).pos, start + at);
-      const TextPlace behind = PlaceInRow(layout, i, left + x_of(at) + (width + 1) / 2);
-      ASSERT_EQ(behind.pos, start + at + 1);
-      ASSERT_EQ(behind.at_row_end, wraps && at + 1 == line.size());
+      const TextPlace after = PlaceInRow(layout, i, left + x_of(at) + (width + 1) / 2);
+      ASSERT_EQ(after.pos, start + at + 1);
+      ASSERT_EQ(after.at_row_end, wraps && at + 1 == line.size());
     }
   }
 }
 
-TEST(TextLayout, FollowsAnyEditAsASlowLayoutHasIt) {
+TEST(TextLayout, EqualsASlowLayoutAfterRandomEdits) {
   RandomSource random(20);
   const auto piece = [&](std::size_t longest) { return random.Text(longest, "ab  \t\r\n\r\n\x01-\xA0"); };
   for (int round = 0; round < 120; ++round) {
@@ -98,14 +98,14 @@ TEST(TextLayout, FollowsAnyEditAsASlowLayoutHasIt) {
     buffer.SetText(round < 2 ? std::string(9000, 'b') + '\t' + std::string(3000, 'a') : piece(200));
     TextLayout layout(buffer);
     layout.Lay(rules);
-    std::vector<std::string> painted;  // by the rows of the notifications
-    const Listening heard = buffer.OnChange([&](const TextChange& change) {
-      const RowsChange told = layout.Update(change);
+    std::vector<std::string> painted;  // the rows as the notifications update them
+    const Listening listening = buffer.OnChange([&](const TextChange& change) {
+      const RowsChange rows = layout.Update(change);
       const std::vector<std::string> before = std::exchange(painted, {}), now = SlowRows(buffer.Text(), rules);
       for (std::size_t i = 0; i < now.size(); ++i)
-        painted.push_back(i < told.first                   ? before.at(i)
-                          : i < told.first + told.inserted ? now[i]
-                                                           : before.at(i - told.inserted + told.removed));
+        painted.push_back(i < rows.first                   ? before.at(i)
+                          : i < rows.first + rows.inserted ? now[i]
+                                                           : before.at(i - rows.inserted + rows.removed));
     });
     for (int edit = 0; edit < 40; ++edit) {
       rules.align = static_cast<TextAlign>(random.Below(3));
@@ -124,33 +124,33 @@ TEST(TextLayout, FollowsAnyEditAsASlowLayoutHasIt) {
 
 using Stops = std::vector<std::size_t>;
 
-// The stops of all steps from one end of the text to the other.
-Stops Walked(std::size_t (*step)(std::string_view, std::size_t), std::string_view text, std::size_t from) {
+// The positions that `step` reaches, from `from` to the end of the text.
+Stops AllStops(std::size_t (*step)(std::string_view, std::size_t), std::string_view text, std::size_t from) {
   Stops stops{from};
   while (stops.size() < 99 && step(text, stops.back()) != stops.back()) stops.push_back(step(text, stops.back()));
   return stops;
 }
 
-constexpr std::string_view kStopText = "ab, c\r\n\r\n  d\re\xE8";  // è of the page's own: a letter
+constexpr std::string_view kStopText = "ab, c\r\n\r\n  d\re\xE8";  // \xE8 is the letter "č"
 
-TEST(TextStops, StepsTakeALineEndAsOne) {
-  EXPECT_EQ(Walked(NextStop, kStopText, 0), (Stops{0, 1, 2, 3, 4, 5, 7, 9, 10, 11, 12, 13, 14, 15}));
-  EXPECT_EQ(Walked(PreviousStop, kStopText, 15), (Stops{15, 14, 13, 12, 11, 10, 9, 7, 5, 4, 3, 2, 1, 0}));
+TEST(TextStops, CountALineEndAsOneStep) {
+  EXPECT_EQ(AllStops(NextStop, kStopText, 0), (Stops{0, 1, 2, 3, 4, 5, 7, 9, 10, 11, 12, 13, 14, 15}));
+  EXPECT_EQ(AllStops(PreviousStop, kStopText, 15), (Stops{15, 14, 13, 12, 11, 10, 9, 7, 5, 4, 3, 2, 1, 0}));
   EXPECT_EQ(PreviousStop(kStopText, 6), 5u);  // from between CR and LF
   EXPECT_EQ(NextStop(kStopText, 6), 7u);
 }
 
-TEST(TextStops, WordsBeginAtLettersAtOtherSignsAndAtLines) {
-  EXPECT_EQ(Walked(NextWord, kStopText, 0), (Stops{0, 2, 4, 5, 7, 11, 12, 13, 15}));
-  EXPECT_EQ(Walked(PreviousWord, kStopText, 15), (Stops{15, 13, 12, 11, 9, 7, 5, 4, 2, 0}));
+TEST(TextStops, WordsBeginAtLettersOtherSignsAndLineEnds) {
+  EXPECT_EQ(AllStops(NextWord, kStopText, 0), (Stops{0, 2, 4, 5, 7, 11, 12, 13, 15}));
+  EXPECT_EQ(AllStops(PreviousWord, kStopText, 15), (Stops{15, 13, 12, 11, 9, 7, 5, 4, 2, 0}));
   EXPECT_EQ(NextWord("\r\n\na", 1), 2u);
   EXPECT_EQ(NextWord("a09_Z.", 0), 5u);  // digits and "_" belong to a word
   EXPECT_EQ(PreviousWord("  a", 2), 0u);
 }
 
-TEST(TextStops, TheWordAtAPlace) {
+TEST(WordAt, FindsTheWordAtOrBeforeAPosition) {
   const std::pair<std::size_t, std::string_view> words[] = {
-      {1, "ab"}, {2, ","}, {5, "c"}, {6, ""}, {7, ""}, {15, "e\xE8"}};  // 5: behind the last word of the line
+      {1, "ab"}, {2, ","}, {5, "c"}, {6, ""}, {7, ""}, {15, "e\xE8"}};  // 5: after the last word of the line
   for (const auto& [pos, word] : words) {
     const TextSpan span = WordAt(kStopText, pos);
     EXPECT_EQ(kStopText.substr(span.begin, span.end - span.begin), word) << pos;
@@ -158,7 +158,7 @@ TEST(TextStops, TheWordAtAPlace) {
   EXPECT_EQ(WordAt("", 0).end, 0u);
 }
 
-// Over rows of three characters; a page has two rows.
+// The rows have three characters, a page has two rows.
 struct CaretMoverTest : testing::Test {
   TextBuffer buffer;
   TextLayout layout{buffer};
@@ -169,14 +169,14 @@ struct CaretMoverTest : testing::Test {
     layout.Lay(Rules(30));
     mover.Forget();
   }
-  // The document behind the moves.
+  // Makes the moves and returns the document.
   std::string Moved(const std::vector<CaretMove>& moves, bool select = false) {
     for (const CaretMove move : moves) mover.Go(buffer, move, select, 2);
     return Marked(buffer);
   }
 };
 
-TEST_F(CaretMoverTest, MovesByRowsAndPagesToItsAim) {
+TEST_F(CaretMoverTest, MovesByRowsAndPagesAndEndsASelection) {
   using enum CaretMove;
   const struct {
     const char* before;
@@ -184,15 +184,15 @@ TEST_F(CaretMoverTest, MovesByRowsAndPagesToItsAim) {
     const char* after;
     bool select = false;
   } cases[] = {
-      {"ab|c¶a¶abc¶", {kDown, kDown}, "abc¶a¶ab|c¶"},  // the short row keeps the aim
+      {"ab|c¶a¶abc¶", {kDown, kDown}, "abc¶a¶ab|c¶"},  // a short row keeps the wanted column
       {"ab|c¶a¶abc¶", {kDown, kDown, kDown, kDown, kUp, kUp}, "abc¶a|¶abc¶"},
-      {"ab|c¶a¶abc¶", {kDown, kLeft, kDown}, "abc¶a¶|abc¶"},    // any other move sets a new aim
-      {"ab|c¶a¶abc¶", {kDown, kRowEnd, kDown}, "abc¶a¶a|bc¶"},  // be it to the same place
+      {"ab|c¶a¶abc¶", {kDown, kLeft, kDown}, "abc¶a¶|abc¶"},    // any other move sets a new column
+      {"ab|c¶a¶abc¶", {kDown, kRowEnd, kDown}, "abc¶a¶a|bc¶"},  // even if the caret stays where it is
       {"a|¶b", {kUp}, "a|¶b"},
       {"a|¶b¶c¶d", {kPageDown}, "a¶b¶c|¶d"},
       {"a|¶b¶c¶d", {kPageDown, kPageDown}, "a¶b¶c¶d|"},
       {"a¶b|¶c¶d", {kPageUp}, "a|¶b¶c¶d"},
-      {"ab|c[", {kRight}, "abc|"},  // an arrow leaves a selection at its border
+      {"ab|c[", {kRight}, "abc|"},  // an arrow ends the selection at its border
       {"a|b[", {kLeft}, "a|b"},
       {"a|b[c", {kLeft}, "|ab[c", true},
       {"a|b[c", {kTextEnd}, "ab[c|", true},
@@ -204,7 +204,7 @@ TEST_F(CaretMoverTest, MovesByRowsAndPagesToItsAim) {
   }
 }
 
-TEST_F(CaretMoverTest, TheEndOfAWrappedRowShowsOnThatRow) {
+TEST_F(CaretMoverTest, TheCaretAtTheEndOfAWrappedRowStaysInThatRow) {
   using enum CaretMove;
   Put("|abcd");
   EXPECT_EQ(Moved({kRowEnd, kRowEnd}), "abc|d");
