@@ -14,8 +14,8 @@ namespace {
 constexpr const char* kRecovery = "/install/autosave_pelmar_vex.txt";
 constexpr const char* kSettings = "/install/pelmar.ini";
 
-// The editor under a plain window. The calls of the window and of the callbacks of the start are in one list.
-struct Desk {
+// The editor with a main window that has no screen. `view.calls` lists the calls of the window and of the start.
+struct PlainProgram {
   ScriptedPlatform platform;
   WholeEditor editor{platform};
   PlainView view;
@@ -40,11 +40,20 @@ struct Desk {
   }
 };
 
-// The fields are in the order of the file: 9,000 by 6,000 twips at 150 from the left and 300 from the top.
-const SettingsRecord kStored{9000,  6000,  300,   150,      false, "Font", 1,  2, 12,
-                             false, false, "Jan", "j@x.cz", false, 0,      "", {}};
+const SettingsRecord kStored{.Width = 9000,
+                             .Height = 6000,
+                             .Top = 300,
+                             .Left = 150,
+                             .FontName = "Font",
+                             .ForeColor = 1,
+                             .BackColor = 2,
+                             .FontSize = 12,
+                             .UserName = "Jan",
+                             .UserEmail = "j@x.cz",
+                             .LockPassword = {},
+                             .RecentFiles = {}};
 
-struct SessionTest : testing::Test, Desk {};
+struct SessionTest : testing::Test, PlainProgram {};
 
 using Calls = std::vector<std::string>;
 
@@ -93,7 +102,7 @@ TEST_F(SessionTest, ImpossibleSettingsAreReplacedByDefaults) {
   EXPECT_EQ(Described(view.look), "Font 8 #000000 #FFFFFF");
 }
 
-TEST_F(SessionTest, OnlyThreeStatesOfTheWindowAreKnown) {
+TEST_F(SessionTest, AnUnknownWindowStateIsReplacedByNormal) {
   for (const auto& [stored, applied] : {std::pair{-1, 0}, {0, 0}, {1, 1}, {2, 2}, {3, 0}}) {
     SettingsRecord r = kStored;
     r.WindowState = stored;
@@ -111,15 +120,15 @@ TEST(Session, TheTextComesFromTheRecoveryFileOrTheClipboard) {
       {longest + 'r', "clip", "clip"},
       {longest + 'r', std::nullopt, ""},
       {"", "clip", "clip"},
-      {std::nullopt, longer, longer}};  // no length test of the clipboard
+      {std::nullopt, longer, longer}};  // the clipboard's text has no limit
   for (const auto& [recovery, clipboard, text] : cases) {
-    Desk one;
+    PlainProgram one;
     if (recovery) one.platform.files[kRecovery] = *recovery;
     one.platform.clipboard = clipboard;
     one.Start();
     EXPECT_EQ(one.editor.text.Text().substr(0, 10), text.substr(0, 10));
     EXPECT_EQ(one.editor.text.Size(), text.size());
-    EXPECT_TRUE(one.session.Close());  // without a question, because loaded text is no change
+    EXPECT_TRUE(one.session.Close());  // without a question, because loading a text changes nothing
   }
 }
 
@@ -134,9 +143,9 @@ TEST_F(SessionTest, AClipboardThatComesLateGoesIntoAnUnchangedDocument) {
 TEST(Session, TheCommandLineChoosesTheWindow) {
   const std::tuple<const char*, bool, const char*> cases[] = {
       {"", false, "main"},   {"", true, "start"},      {"-nomsg", true, "main"},  {"-calc", true, "1"},
-      {"-NOTE", false, "2"}, {"-Browser", false, "3"}, {"/a.txt", true, "recent"}};  // main before it
+      {"-NOTE", false, "2"}, {"-Browser", false, "3"}, {"/a.txt", true, "recent"}};  // called after "main"
   for (const auto& [tail, show_start, shown] : cases) {
-    Desk one;
+    PlainProgram one;
     SettingsRecord r = kStored;
     r.ShowStart = show_start;
     one.platform.files = {{"/a.txt", "file"}, {kRecovery, "recovered"}, {kSettings, SettingsBytes(r)}};
@@ -146,13 +155,13 @@ TEST(Session, TheCommandLineChoosesTheWindow) {
   }
 }
 
-TEST_F(SessionTest, ASwitchWithMoreBehindItIsAFileName) {
+TEST_F(SessionTest, ASwitchWithTextAfterItIsAFileName) {
   platform.answers = {Answer::kOk};
   Start("-CALC x");
   EXPECT_EQ(platform.calls.back(), "message 0 \"Soubor -CALC x nenalezen!\" \"Soubor\"");
 }
 
-TEST_F(SessionTest, TheCloseWritesTheFilesBeforeItAsks) {
+TEST_F(SessionTest, ClosingWritesTheFilesBeforeItAsks) {
   editor.text.SetText("text\r\n");
   editor.documents.SwitchTo(2);
   editor.text.SetText("second");
@@ -167,7 +176,7 @@ TEST_F(SessionTest, TheCloseWritesTheFilesBeforeItAsks) {
   EXPECT_TRUE(session.Close());
 }
 
-TEST_F(SessionTest, TheCloseStoresPlaceStateAndLookOverTheOldSettings) {
+TEST_F(SessionTest, ClosingStoresPlaceStateAndLookOverTheOldSettings) {
   platform.files[kSettings] = std::string(200, 'T');
   view.place = {150, 300, 9000, 6000};  // as in kStored, except for state and bold
   view.state = WindowMode::kMaximised;
@@ -178,10 +187,10 @@ TEST_F(SessionTest, TheCloseStoresPlaceStateAndLookOverTheOldSettings) {
   r.WindowState = 2;
   r.FontBold = true;
   const std::string bytes = SettingsBytes(r);
-  EXPECT_EQ(platform.files[kSettings], bytes + std::string(200 - bytes.size(), 'T'));  // the old tail stays
+  EXPECT_EQ(platform.files[kSettings], bytes + std::string(200 - bytes.size(), 'T'));  // the rest of the old file stays
 }
 
-TEST_F(SessionTest, AFileThatCannotBeWrittenAtTheCloseIsAnError) {
+TEST_F(SessionTest, ClosingFailsIfAFileCannotBeWritten) {
   platform.write_errors[kRecovery] = EROFS;
   EXPECT_THROW(session.Close(), RuntimeError);
 }
