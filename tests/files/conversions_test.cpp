@@ -15,7 +15,7 @@ namespace {
 
 using enum Answer;
 
-// What a rewriter makes of a text that comes in pieces of any length.
+// Rewrites the text in pieces of random length and returns the result.
 std::string Rewritten(FileRewriter&& rewriter, std::string_view text, RandomSource& random) {
   std::string out;
   while (!text.empty()) {
@@ -27,7 +27,7 @@ std::string Rewritten(FileRewriter&& rewriter, std::string_view text, RandomSour
   return out.substr(0, rewriter.Kept());
 }
 
-TEST(LineEnds, EqualASlowWalkThroughRandomTexts) {
+TEST(LineEnds, EqualASlowConversionOfRandomTexts) {
   RandomSource random(8);
   for (int round = 0; round < 3000; ++round) {
     const std::string text = random.Text(90, "a\r\n");
@@ -37,14 +37,14 @@ TEST(LineEnds, EqualASlowWalkThroughRandomTexts) {
       dos_text += text[i] == '\n' ? "\r\n" : std::string(1, text[i]);
     }
     if (!unix_text.empty() && unix_text.back() != '\n') unix_text += '\n';
-    dos_text.resize(dos_text.rfind('\n') + 1);  // required: what stands behind the last line feed is lost
+    dos_text.resize(dos_text.rfind('\n') + 1);  // required: the text after the last line feed is lost
     ASSERT_EQ(Rewritten(ToLineFeeds(), text, random), unix_text) << text;
     ASSERT_EQ(Rewritten(ToCrLf(), text, random), dos_text) << text;
   }
 }
 
-// required: a path is cut at its first full stop, be it a folder's
-TEST(LineEnds, TheTargetIsThePathUpToItsFirstDot) {
+// required: the first full stop counts, even in the name of a folder
+TEST(ConvertedPath, CutsThePathAtItsFirstFullStop) {
   EXPECT_EQ(ConvertedPath("/a.b.txt", "unx"), "/a.unx");
   EXPECT_EQ(ConvertedPath("/folder.d/lines.txt", "dos"), "/folder.dos");
   EXPECT_EQ(ConvertedPath("/name", "unx"), "unx");
@@ -53,7 +53,7 @@ TEST(LineEnds, TheTargetIsThePathUpToItsFirstDot) {
 struct ConversionTest : testing::Test {
   ScriptedPlatform platform;
 
-  // The text of the only message of a conversion.
+  // Runs the conversion and returns its only message without the title.
   template <class Convert>
   std::string Message(const Convert& convert, const std::deque<Answer>& answers = {kOk}) {
     platform.answers = answers;
@@ -88,22 +88,22 @@ TEST_F(ConversionTest, ToUnixKeepsTheTailOfALongerOldFileAndToDosDoesNot) {  // 
 
 TEST_F(ConversionTest, AFileIsNeverWrittenOverItself) {
   platform.files = {{"/a.unx", "a"}, {"/a.1250", "a"}, {"/a.utf8", "a"}};
-  const std::string told = "message 0 \"Výsledek by přepsal převáděný soubor:¶";
-  EXPECT_EQ(Message([&] { ConvertToUnix(platform, "/a.unx"); }), told + "/a.unx\"");
-  EXPECT_EQ(OfPage("/a.1250"), told + "/a.1250\"");
-  EXPECT_EQ(OfUtf8("/a.utf8"), told + "/a.utf8\"");
+  const std::string refusal = "message 0 \"Výsledek by přepsal převáděný soubor:¶";
+  EXPECT_EQ(Message([&] { ConvertToUnix(platform, "/a.unx"); }), refusal + "/a.unx\"");
+  EXPECT_EQ(OfPage("/a.1250"), refusal + "/a.1250\"");
+  EXPECT_EQ(OfUtf8("/a.utf8"), refusal + "/a.utf8\"");
 }
 
 TEST_F(ConversionTest, AFailureNamesTheFileAndWhereTheOldContentIs) {
   platform.files["/full.utf8"] = "a";
   for (const char* full : {"/full.1250", "/full.dos"}) platform.write_errors[full] = ENOSPC;
   platform.kept_content = "/kept";
-  const std::string told = "message 0 \"Soubor se nepodařilo převést!¶Soubor: ";
+  const std::string failure = "message 0 \"Soubor se nepodařilo převést!¶Soubor: ";
   const std::string missing = "Kód chyby 2: soubor nebo složka neexistuje\"";
-  EXPECT_EQ(OfPage("/no"), told + "/no¶" + missing);
-  EXPECT_EQ(OfUtf8("/no"), told + "/no¶" + missing);
+  EXPECT_EQ(OfPage("/no"), failure + "/no¶" + missing);
+  EXPECT_EQ(OfUtf8("/no"), failure + "/no¶" + missing);
   const std::string damaged = "na disku není místo¶Soubor je poškozen, jeho původní obsah leží v /kept";
-  EXPECT_EQ(OfPage("/full.utf8"), told + "/full.1250¶Kód chyby 28: " + damaged + '"');
+  EXPECT_EQ(OfPage("/full.utf8"), failure + "/full.1250¶Kód chyby 28: " + damaged + '"');
   try {
     ConvertToDos(platform, "/full.utf8");
     ADD_FAILURE() << "no error";
@@ -115,10 +115,10 @@ TEST_F(ConversionTest, AFailureNamesTheFileAndWhereTheOldContentIs) {
   EXPECT_THROW(ConvertToUnix(platform, "/no.txt"), RuntimeError);
 }
 
-TEST_F(ConversionTest, BytesThatAreNoUtf8AreReportedByTheirPlace) {
+TEST_F(ConversionTest, MalformedUtf8IsReportedWithItsPosition) {
   const std::pair<const char*, const char*> cases[] = {
       {"\xE8", "řádek 1, sloupec 1, bajt 1"},
-      {"\xEF\xBB\xBFůů\xC5", "řádek 1, sloupec 3, bajt 8"},  // the byte order mark is no column
+      {"\xEF\xBB\xBFůů\xC5", "řádek 1, sloupec 3, bajt 8"},  // the byte order mark has no column
       {"a\r\nb\rc\n\nůx\xC5y", "řádek 5, sloupec 3, bajt 12"},
   };
   for (const auto& [bytes, place] : cases) {
@@ -132,12 +132,12 @@ TEST_F(ConversionTest, BytesThatAreNoUtf8AreReportedByTheirPlace) {
 TEST_F(ConversionTest, CharactersOutsideThePageAreAskedAbout) {
   const std::pair<const char*, const char*> cases[] = {
       {"ů\n→?😀\xC2\x85", "3.¶První je → (U+2192): řádek 2, sloupec 1, bajt 4."},
-      {"\xC2\x85", "1.¶První je U+0085: řádek 1, sloupec 1, bajt 1."},  // a control character doesn't show
+      {"\xC2\x85", "1.¶První je U+0085: řádek 1, sloupec 1, bajt 1."},  // a control character isn't shown
   };
-  for (const auto& [text, told] : cases) {
+  for (const auto& [text, found] : cases) {
     platform.files = {{"/a.txt", text}};
     EXPECT_EQ(OfPage("/a.txt", kNo),
-              std::string("message 52 \"Soubor /a.txt obsahuje znaky, které ve Windows-1250 nejsou, celkem ") + told +
+              std::string("message 52 \"Soubor /a.txt obsahuje znaky, které ve Windows-1250 nejsou, celkem ") + found +
                   "¶¶Zapsat místo nich \"?\" ?\"");
     EXPECT_FALSE(platform.files.contains("/a.1250"));
   }
@@ -146,18 +146,18 @@ TEST_F(ConversionTest, CharactersOutsideThePageAreAskedAbout) {
   EXPECT_EQ(platform.files["/a.1250"], "\xF9\n??");
 }
 
-TEST_F(ConversionTest, AnyTextGoesThereAndBackBesideItsFile) {
+TEST_F(ConversionTest, WritesBesideTheSourceAndRestoresAnyText) {
   RandomSource random(3);
   const std::pair<const char*, const char*> stems[] = {
       {"/a.d/b.c.txt", "/a.d/b.c."}, {"/a.d/b", "/a.d/b."}, {"/a/.rc", "/a/.rc."}, {"b.", "b."}};
   for (int round = 0; round < 400; ++round) {
     const std::string page = round % 2 ? random.Bytes(12) : random.Text(12, "k\xF9\xF2\r\n\x80?");
-    const bool mark = round % 3 == 0;
-    const std::string utf8 = (mark ? "\xEF\xBB\xBF" : "") + ToUtf8(page);
+    const bool byte_order_mark = round % 3 == 0;
+    const std::string utf8 = (byte_order_mark ? "\xEF\xBB\xBF" : "") + ToUtf8(page);
     const auto& [path, stem] = stems[round % 4];
-    platform.answers.assign(1, kYes);  // where the bytes look like UTF-8 already
+    platform.answers.assign(1, kYes);  // if the bytes already look like UTF-8
     platform.files = {{path, page}};
-    ConvertToUtf8(platform, path, mark);
+    ConvertToUtf8(platform, path, byte_order_mark);
     ASSERT_EQ(platform.files[stem + std::string("utf8")], utf8);
     platform.files = {{path, utf8}};
     ConvertToPage(platform, path);
@@ -165,10 +165,10 @@ TEST_F(ConversionTest, AnyTextGoesThereAndBackBesideItsFile) {
   }
 }
 
-TEST(Encodings, OfOtherSystemsGetAHint) {
+TEST(FormatHint, NamesUtf8AndForeignLineEnds) {
   const std::pair<std::string_view, std::string_view> cases[] = {
       {"\xC5\xBE\n", "Soubor je v UTF-8"}, {"\na", "Řádky končí"}, {"a\r\n\n", "Část řádků"}};
-  for (const auto& [text, told] : cases) EXPECT_TRUE(FormatHint(text).starts_with(told)) << text;
+  for (const auto& [text, hint] : cases) EXPECT_TRUE(FormatHint(text).starts_with(hint)) << text;
   EXPECT_EQ(FormatHint("\xBE\r\na\r"), "");
 }
 

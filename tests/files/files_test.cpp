@@ -1,4 +1,4 @@
-// Opening and saving over the editor's document.
+// Opens and saves the editor's document.
 #include "files/files.h"
 
 #include <gtest/gtest.h>
@@ -22,14 +22,14 @@ const std::string kDialog =
     "htm dokument (*.htm)|*.htm|ini soubor (*.ini)|*.ini\" 2";
 const std::string kOpenDialog = "open" + kDialog, kSaveDialog = "save" + kDialog;
 
-std::string Asked(int type, const std::string& question, const std::string& title = "Soubor") {
-  return "message " + std::to_string(type) + " \"" + question + "\" \"" + title + '"';
+std::string MessageCall(int type, const std::string& text, const std::string& title = "Soubor") {
+  return "message " + std::to_string(type) + " \"" + text + "\" \"" + title + '"';
 }
-std::string AskedToOverwrite(const std::string& path) {
-  return Asked(52, "Opravdu uložit " + path + "?\r\nSoubor již existuje a bude přepsán!");
+std::string OverwriteCall(const std::string& path) {
+  return MessageCall(52, "Opravdu uložit " + path + "?\r\nSoubor již existuje a bude přepsán!");
 }
 
-// A changed document of /a.txt beside other files.
+// The editor with a changed document of the file /a.txt. There are two more files.
 struct FilesTest : testing::Test {
   ScriptedPlatform platform;
   WholeEditor editor{platform};
@@ -66,15 +66,15 @@ TEST_F(FilesTest, ACancelledDialogDoesNothing) {
   ExpectUntouched();
 }
 
-TEST_F(FilesTest, OpenReplacesADocumentUnasked) {
+TEST_F(FilesTest, OpenReplacesTheDocumentWithoutAsking) {
   EXPECT_EQ(Run("mnu_open_st", "/b.txt"), (Calls{kOpenDialog, "recent /b.txt"}));
   EXPECT_EQ(Marked(editor.text), "|b");
   EXPECT_EQ(StateOf(documents), SavedAt("/b.txt"));
 }
 
-TEST_F(FilesTest, WhatCantBeOpenedIsReported) {
-  EXPECT_EQ(Run("mnu_open_st", "/no.txt", {kOk}), (Calls{kOpenDialog, Asked(0, "Soubor /no.txt nenalezen!")}));
-  EXPECT_EQ(Run("Recent", {}, {kOk}), Calls{Asked(0, "Soubor  nenalezen!")});  // there is no second entry
+TEST_F(FilesTest, AMissingFileIsReported) {
+  EXPECT_EQ(Run("mnu_open_st", "/no.txt", {kOk}), (Calls{kOpenDialog, MessageCall(0, "Soubor /no.txt nenalezen!")}));
+  EXPECT_EQ(Run("Recent", {}, {kOk}), Calls{MessageCall(0, "Soubor  nenalezen!")});  // the list has no second file
   ExpectUntouched();
 }
 
@@ -87,32 +87,32 @@ TEST_F(FilesTest, TheLimitOf64000BytesIsExact) {
   EXPECT_EQ(editor.opener.Preview("/př.txt"), full);
   platform.answers = {kOk};
   editor.opener.OpenPath("/over.txt");
-  EXPECT_EQ(platform.calls.back(), Asked(0, "Nelze otevřít /over.txt, Soubor příliš velký"));
+  EXPECT_EQ(platform.calls.back(), MessageCall(0, "Nelze otevřít /over.txt, Soubor příliš velký"));
   EXPECT_EQ(StateOf(documents), SavedAt("/př.txt"));
   EXPECT_TRUE(editor.text.Text() == full);
   EXPECT_EQ(editor.opener.Preview("/over.txt"), "Není k dispozici"_w);
 }
 
-TEST_F(FilesTest, AFolderOrALockedFileIsNotFound) {
+TEST_F(FilesTest, AFolderOrAnUnreadableFileIsReportedAsMissing) {
   platform.files["/dir/"] = "";
   platform.read_errors["/locked.txt"] = EACCES;
   for (const std::string path : {"/none.txt", "/dir", "/dir/", "/locked.txt", "\"/a.txt\"", ""}) {
     platform.answers = {kOk};
     editor.opener.OpenPath(path);
-    EXPECT_EQ(platform.calls.back(), Asked(0, "Soubor " + path + " nenalezen!"));
+    EXPECT_EQ(platform.calls.back(), MessageCall(0, "Soubor " + path + " nenalezen!"));
     EXPECT_EQ(editor.opener.Preview(path), "Není k dispozici"_w) << path;
   }
   ExpectUntouched();
 }
 
-// required: text and path have changed by then, and no file can be had while file number 1 is taken
-TEST_F(FilesTest, ANameWithoutDotStopsOpeningHalfWayAndLeavesTheNumberTaken) {
+// required: text and path have changed already, and file number 1 stays open, so no other file can be opened or saved
+TEST_F(FilesTest, OpeningANameWithoutADotFailsHalfwayAndLeavesTheFileOpen) {
   EXPECT_EQ(Run("mnu_open_st", "/README"), Calls{kOpenDialog});
   EXPECT_EQ(Marked(editor.text), "|r");
   EXPECT_EQ(documents.CurrentPath(), "/README");
   EXPECT_EQ(StateOf(documents), (DocumentState{"(/a.txt)*", "a.txt", "/a.txt", "/README", false, 1}));
   EXPECT_TRUE(editor.file_number.IsOpen());
-  EXPECT_EQ(Run("mnu_open_st", "/b.txt", {kOk}).back(), Asked(0, "Soubor /b.txt nenalezen!"));
+  EXPECT_EQ(Run("mnu_open_st", "/b.txt", {kOk}).back(), MessageCall(0, "Soubor /b.txt nenalezen!"));
   EXPECT_EQ(editor.opener.Preview("/b.txt"), "Není k dispozici"_w);
   platform.answers = {kOk};
   editor.saver.SaveToPath("/b.txt");
@@ -121,25 +121,25 @@ TEST_F(FilesTest, ANameWithoutDotStopsOpeningHalfWayAndLeavesTheNumberTaken) {
 }
 
 TEST_F(FilesTest, ReloadAsksBeforeChangesAreLost) {
-  const std::string ask =
-      Asked(52, "Opravdu reload souboru ?\r\nZměny od posledního uložení \"/a.txt\" Budou ztraceny!", "Reload");
-  EXPECT_EQ(Run("Mnu_Reload_File", {}, {kNo}), Calls{ask});
+  const std::string question =
+      MessageCall(52, "Opravdu reload souboru ?\r\nZměny od posledního uložení \"/a.txt\" Budou ztraceny!", "Reload");
+  EXPECT_EQ(Run("Mnu_Reload_File", {}, {kNo}), Calls{question});
   ExpectUntouched();
-  EXPECT_EQ(Run("Mnu_Reload_File", {}, {kYes}), (Calls{ask, "recent /a.txt"}));
+  EXPECT_EQ(Run("Mnu_Reload_File", {}, {kYes}), (Calls{question, "recent /a.txt"}));
   EXPECT_EQ(Marked(editor.text), "|saved");
   EXPECT_EQ(StateOf(documents), SavedAt("/a.txt"));
 }
 
 TEST_F(FilesTest, ANewDocumentAsksBeforeChangesAreLost) {
-  EXPECT_EQ(Run("New", {}, {kNo}), Calls{Asked(52, "Opravdu nový soubor ?", "Nový")});
+  EXPECT_EQ(Run("New", {}, {kNo}), Calls{MessageCall(52, "Opravdu nový soubor ?", "Nový")});
   ExpectUntouched();
-  EXPECT_EQ(Run("mnuclean", {}, {kYes}), Calls{Asked(52, "Opravdu nový soubor ?", "Nový")});
+  EXPECT_EQ(Run("mnuclean", {}, {kYes}), Calls{MessageCall(52, "Opravdu nový soubor ?", "Nový")});
   EXPECT_EQ(Marked(editor.text), "|");
   EXPECT_EQ(StateOf(documents), (DocumentState{.title = "()", .slot_path = "/a.txt"}));
   EXPECT_EQ(documents.CurrentPath(), "");
 }
 
-TEST_F(FilesTest, SaveMakesANewPathTheDocuments) {
+TEST_F(FilesTest, SavingUnderANewPathGivesThePathToTheDocument) {
   EXPECT_EQ(Run("mnu_save_st", "/x.y.txt"), (Calls{kSaveDialog, "write /x.y.txt", "recent /x.y.txt"}));
   EXPECT_EQ(platform.files["/x.y.txt"], "newsaved");
   EXPECT_EQ(Marked(editor.text), "[new|saved");
@@ -147,27 +147,28 @@ TEST_F(FilesTest, SaveMakesANewPathTheDocuments) {
 }
 
 TEST_F(FilesTest, SaveAsksBeforeItOverwrites) {
-  EXPECT_EQ(Run("mnu_save_st", "/b.txt", {kNo}), (Calls{kSaveDialog, AskedToOverwrite("/b.txt")}));
+  EXPECT_EQ(Run("mnu_save_st", "/b.txt", {kNo}), (Calls{kSaveDialog, OverwriteCall("/b.txt")}));
   ExpectUntouched();
 }
 
-TEST_F(FilesTest, AFailedSaveTellsWhereTheOldContentIsAndLeavesTheMark) {
+TEST_F(FilesTest, AFailedSaveReportsWhereTheOldContentIsAndKeepsTheMark) {
   platform.write_errors["/full.txt"] = ENOSPC;
   platform.kept_content = "/kept";
-  const Calls told{kSaveDialog, "write /full.txt",
-                   Asked(0,
-                         "Chyba ukládání!\r\nSoubor: /full.txt\r\nKód chyby 28\r\nSoubor je poškozen, jeho původní "
-                         "obsah leží v /kept",
-                         "Pelmar VEX")};
-  EXPECT_EQ(Run("mnu_save_st", "/full.txt", {kOk}), told);
-  EXPECT_EQ(Run("mnuulvyb", "/full.txt", {kOk}), told);
+  const Calls report{
+      kSaveDialog, "write /full.txt",
+      MessageCall(0,
+                  "Chyba ukládání!\r\nSoubor: /full.txt\r\nKód chyby 28\r\nSoubor je poškozen, jeho původní "
+                  "obsah leží v /kept",
+                  "Pelmar VEX")};
+  EXPECT_EQ(Run("mnu_save_st", "/full.txt", {kOk}), report);
+  EXPECT_EQ(Run("mnuulvyb", "/full.txt", {kOk}), report);
   ExpectUntouched();
 }
 
 // required: the file is written before the message, and the mark stays
-TEST_F(FilesTest, SavingUnderANameWithoutDotFailsBehindTheWrite) {
-  const std::string told = Asked(0, "Chyba ukládání!\r\nSoubor: /new\r\nKód chyby 22", "Pelmar VEX");
-  EXPECT_EQ(Run("mnu_save_st", "/new", {kOk}), (Calls{kSaveDialog, "write /new", told}));
+TEST_F(FilesTest, SavingUnderANameWithoutADotFailsAfterTheWrite) {
+  const std::string report = MessageCall(0, "Chyba ukládání!\r\nSoubor: /new\r\nKód chyby 22", "Pelmar VEX");
+  EXPECT_EQ(Run("mnu_save_st", "/new", {kOk}), (Calls{kSaveDialog, "write /new", report}));
   EXPECT_EQ(platform.files["/new"], "newsaved");
   EXPECT_EQ(documents.CurrentPath(), "/new");
   EXPECT_EQ(StateOf(documents), changed);
@@ -178,12 +179,12 @@ TEST_F(FilesTest, TheSelectionIsSavedAloneAndTheDocumentStaysAsItWas) {
   EXPECT_EQ(platform.files["/new.txt"], "new");
   ExpectUntouched();
   EXPECT_EQ(Run("mnuulvyb", "/b.txt", {kYes}),
-            (Calls{kSaveDialog, AskedToOverwrite("/b.txt"), "write /b.txt", "recent /b.txt"}));
+            (Calls{kSaveDialog, OverwriteCall("/b.txt"), "write /b.txt", "recent /b.txt"}));
   EXPECT_EQ(platform.files["/b.txt"], "new");
   EXPECT_EQ(StateOf(documents), changed);
 }
 
-TEST_F(FilesTest, InsertFromFilePutsOneFieldOverTheSelection) {
+TEST_F(FilesTest, InsertFromFileReplacesTheSelectionByOneField) {
   platform.files["/fields"] = "abc, rest";
   platform.files["/empty"] = "";
   for (const char* silent : {"/no", "/empty"}) EXPECT_EQ(Run("mnuzesouboru", silent), Calls{kOpenDialog}) << silent;
@@ -206,7 +207,7 @@ struct RecentFilesTest : testing::Test {
   WholeEditor editor{platform};
   RecentFiles& recent = editor.files.recent;
   int notified = 0;
-  const Listening heard = recent.changed.Add([this] { ++notified; });
+  const Listening listening = recent.changed.Add([this] { ++notified; });
 
   [[nodiscard]] std::string Listed() const {
     std::string items;
@@ -221,38 +222,38 @@ TEST_F(RecentFilesTest, AnEleventhPathPushesTheFirstOut) {
   EXPECT_EQ(notified, 11);
 }
 
-TEST_F(RecentFilesTest, APathThatIsListedMovesToTheHead) {
+TEST_F(RecentFilesTest, AListedPathMovesToTheTop) {
   for (const char* path : {"/c", "/b", "/a", "/c", "/c", ""}) recent.PushRecentFile(path);
   EXPECT_EQ(Listed(), "&0 /c &1 /a &2 /b &3  &4  &5  &6  &7  &8  &9  ");
-  EXPECT_EQ(notified, 4);       // not for the path at the head and for none
+  EXPECT_EQ(notified, 4);       // not for the top path again, not for an empty path
   recent.PushRecentFile("/A");  // case counts
   EXPECT_EQ(recent.Path(3), "/a");
 }
 
 struct FastSave : FilesTest {
-  const std::string ask = Asked(52, "Opravdu uložit soubor?\r\n\"/a.txt\"");
-  const std::string overwrite = AskedToOverwrite("/a.txt");
+  const std::string question = MessageCall(52, "Opravdu uložit soubor?\r\n\"/a.txt\"");
+  const std::string overwrite = OverwriteCall("/a.txt");
 
   Calls Saved(const std::deque<Answer>& answers) { return Run("Mnu_SaveFast", {}, answers); }
 };
 
-TEST_F(FastSave, AsksTwiceAndWritesTheTextAsItIsThen) {
-  EXPECT_EQ(Saved({kNo}), Calls{ask});
-  EXPECT_EQ(Saved({kYes, kNo}), (Calls{ask, overwrite}));
+TEST_F(FastSave, AsksTwiceThenWritesTheCurrentText) {
+  EXPECT_EQ(Saved({kNo}), Calls{question});
+  EXPECT_EQ(Saved({kYes, kNo}), (Calls{question, overwrite}));
   ExpectUntouched();
   int asked = 0;
   platform.on_message = [&] { editor.text.Replace(0, 0, std::to_string(++asked)); };
-  EXPECT_EQ(Saved({kYes, kYes}), (Calls{ask, overwrite, "write /a.txt", "recent /a.txt"}));
+  EXPECT_EQ(Saved({kYes, kYes}), (Calls{question, overwrite, "write /a.txt", "recent /a.txt"}));
   EXPECT_EQ(platform.files["/a.txt"], "21newsaved");
   EXPECT_EQ(StateOf(documents), SavedAt("/a.txt"));
 }
 
-TEST_F(FastSave, AsksTheSameWhereTheFileIsGone) {
+TEST_F(FastSave, AsksEvenIfTheFileIsMissing) {
   platform.files.erase("/a.txt");
-  EXPECT_EQ(Saved({kNo}), Calls{ask});
+  EXPECT_EQ(Saved({kNo}), Calls{question});
 }
 
-TEST_F(FilesTest, AFileThatAnotherProgramRemovedIsGone) {
+TEST_F(FilesTest, NoticesThatAnotherProgramRemovedTheFile) {
   platform.files.erase("/a.txt");
   EXPECT_EQ(OutsideChangeOf(documents, platform), OutsideChange::kGone);
   documents.SwitchTo(2);

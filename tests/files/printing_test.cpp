@@ -15,13 +15,13 @@ namespace {
 
 using enum Answer;
 
-// Each character one wide, a tab leads to the next multiple of 8.
+// Each character is one unit wide. A tab ends at the next multiple of 8.
 double EndOf(double x, std::string_view text) {
   for (const char ch : text) x = ch == '\t' ? (static_cast<int>(x) / 8 + 1) * 8.0 : x + 1;
   return x;
 }
 
-constexpr double kPage = 18;  // ten columns for text, eight for the "Z"s
+constexpr double kPage = 18;  // ten columns for text and eight for the margin
 
 TEST(PrintLayout, WrapsAtBlanksAndBreaks) {
   const std::pair<std::string, std::vector<std::string>> cases[] = {
@@ -30,12 +30,12 @@ TEST(PrintLayout, WrapsAtBlanksAndBreaks) {
       {"abcd efgh ij", {"abcd efgh", "ij"}},
       {"abcd efghi", {"abcd efghi"}},  // fits exactly
       {"a\tb c", {"a\tb", "c"}},
-      {"            x", {"", " x"}},  // blanks run past the margin like words without width
-      // A wide word begins a line and isn't broken. required: a first one too
+      {"            x", {"", " x"}},  // each blank ends an empty word, so a row of blanks wraps too
+      // A word wider than the line begins a line and isn't broken. required: the first word too begins a new line
       {"ab abcdefghijklmnopqrstuvwxyz c", {"ab", "abcdefghijklmnopqrstuvwxyz", "c"}},
       {"abcdefghijk", {"", "abcdefghijk"}},
       {"ab\r\n\r\ncd\nef gh\rij", {"ab", "", "cd", "ef gh", "ij"}},
-      {"abcde fg\r\nhijklmno p", {"abcde fg", "hijklmno p"}},  // only what stands before the break has to fit
+      {"abcde fg\r\nhijklmno p", {"abcde fg", "hijklmno p"}},  // only the part before the line break must fit
   };
   for (const auto& [text, paper] : cases) {
     std::vector<std::string> lines(1);
@@ -61,7 +61,7 @@ TEST_F(PrintingTest, FillsPageAfterPage) {
                                                       R"(put 0 0 "e")", "page", R"(put 1 0 "f")", "busy 0"}));
 }
 
-TEST_F(PrintingTest, ASelectionIsAskedAboutAndAClosedQuestionPrintsNothing) {
+TEST_F(PrintingTest, AsksAboutASelectionAndPrintsNothingWithoutAnAnswer) {
   PlainView view;
   AddPrintCommands(editor, view);
   PutMarked(editor.text, "[new|saved");
@@ -77,13 +77,13 @@ TEST_F(PrintingTest, ASelectionIsAskedAboutAndAClosedQuestionPrintsNothing) {
   }
 }
 
-TEST_F(PrintingTest, WithoutAPrinterTheTextGoesIntoAFileOrThatIsReported) {
-  for (const auto& [error, told] : {std::pair(0, "je vytištěn do souboru\r\n/x.pdf\""),
-                                    {ENOSPC, "nelze vytisknout ani do souboru\r\n/x.pdf\r\nna disku není místo\""}}) {
+TEST_F(PrintingTest, WithoutAPrinterTheTextGoesIntoAFileOrAFailureIsReported) {
+  for (const auto& [error, report] : {std::pair(0, "je vytištěn do souboru\r\n/x.pdf\""),
+                                      {ENOSPC, "nelze vytisknout ani do souboru\r\n/x.pdf\r\nna disku není místo\""}}) {
     platform.print_outcome = {.error = error, .problem = "Chybí modul.", .pdf = "/x.pdf"};
     platform.answers = {kOk};
     PrintDocument(editor, {});
-    EXPECT_EQ(platform.calls.back(), std::string("message 64 \"Chybí modul. Text ") + told + " \"Tisk\"");
+    EXPECT_EQ(platform.calls.back(), std::string("message 64 \"Chybí modul. Text ") + report + " \"Tisk\"");
   }
 }
 

@@ -11,7 +11,7 @@
 namespace pelmar {
 namespace {
 
-// The lists show the real disk; what the dialogs read and write is the scripted one, filled with the same names.
+// The lists show a real folder. The dialogs read and write scripted files of the same names.
 struct FileDialogsTest : ProgramTest {
   TempFolder folder;
 
@@ -21,7 +21,7 @@ struct FileDialogsTest : ProgramTest {
     Put("big.txt", std::string(64001, 'x'));
   }
   void Put(const char* name, const std::string& bytes) { platform.files[folder.Put(name, "")] = bytes; }
-  // In both lines "~" is the folder.
+  // Like ExpectState, with "~" for the folder in both lines.
   void Expect(const QWidget& dialog, std::string steps, std::string state) const {
     for (std::string* line : {&steps, &state})
       for (std::size_t at; (at = line->find('~')) != std::string::npos;) line->replace(at, 1, folder.Path());
@@ -71,17 +71,17 @@ TEST_F(SaveDialogTest, WaitsForAChoiceBeforeItSaves) {
   Expect(dialog, "Text2:\r", "Text1=Jméno Text2=html Label1='Vložte údaje !' Command1=(&Ulož)");
   auto* extension = Find<QComboBox>(dialog, "Text2");
   extension->showPopup();
-  QTest::keyClick(extension->view(), Qt::Key_Return);  // "html" again counts
+  QTest::keyClick(extension->view(), Qt::Key_Return);  // choosing "html" again is a choice too
   Expect(dialog, "", "Command1=&Ulož");
 }
 
-TEST_F(SaveDialogTest, ShowsItsTargetAsItIsMade) {
+TEST_F(SaveDialogTest, UpdatesTheTargetPathWithEachField) {
   Find<QComboBox>(dialog, "Text2")->lineEdit()->selectAll();
-  Expect(dialog, "Dir1=~ Text2:h", "Text2=h Label1=~/Jméno.h");  // nothing is completed
+  Expect(dialog, "Dir1=~ Text2:h", "Text2=h Label1=~/Jméno.h");  // no automatic completion
   Expect(dialog, "Text1=new.x Text2=", "Label1=~/new.x.");
 }
 
-TEST_F(SaveDialogTest, SavesAndHidesBeTheQuestionAnsweredByNo) {
+TEST_F(SaveDialogTest, HidesAfterASaveAndAfterTheAnswerNo) {
   text.SetText("content");
   Expect(dialog, "Dir1=~ Text1=new.x Text2=čtu Command1!", "Label1=~/new.x.čtu");
   EXPECT_EQ(platform.files[folder.File("new.x.čtu")], "content");
@@ -98,11 +98,11 @@ TEST_F(SaveDialogTest, AnOpenedFileSetsItsFields) {
   Expect(dialog, "", "Text1=b Text2=html Label1=~/b.html Command1=&Ulož");
   EXPECT_EQ(Utf8FromQString(Find<FolderList>(dialog, "Dir1")->Path()), folder.Path());
   Named(dialog, "Command1")->setEnabled(false);
-  parts.files.opener.OpenPath(folder.File("b.html"));  // which changes no field
+  parts.files.opener.OpenPath(folder.File("b.html"));  // this changes no field
   Expect(dialog, "", "Command1=&Ulož");
 }
 
-TEST_F(FileDialogsTest, AFileSetsTheFieldsOfASaveDialogThatIsMadeLater) {
+TEST_F(FileDialogsTest, AnOpenedFileSetsTheFieldsOfALaterSaveDialog) {
   parts.files.opener.OpenPath(folder.File("b.html"));
   Expect(Open<Uloz>(), "", "Text1=b Text2=html Label1=~/b.html Command1=&Ulož");
 }
@@ -131,8 +131,8 @@ TEST_F(FileDialogsTest, ConversionsStayEnabledAfterTheirFileWasDeleted) {
 struct DirSetupTest : FileDialogsTest {
   DirSetup& dialog = Open<DirSetup>();
 
-  // The windows with a list of folders that stands at the folder.
-  [[nodiscard]] std::vector<std::string> Reached() const {
+  // The names of the windows whose folder list shows the test's folder.
+  [[nodiscard]] std::vector<std::string> WindowsAtTheFolder() const {
     std::vector<std::string> names;
     for (const QWidget* widget : QApplication::allWidgets()) {
       const auto* folders = qobject_cast<const FolderList*>(widget);
@@ -144,18 +144,18 @@ struct DirSetupTest : FileDialogsTest {
   }
 };
 
-TEST_F(DirSetupTest, OkLeadsEveryDialogThatPicksFilesToTheFolder) {
+TEST_F(DirSetupTest, OkSetsTheFolderOfEveryFolderList) {
   Find<DriveList>(dialog, "Drive1")->SetDrive(QStringLiteral("/"));
   Expect(dialog, "Dir1=~ Command2!", "Drive1=/");
-  EXPECT_EQ(Reached(), std::vector<std::string>{"DirSetup"});
+  EXPECT_EQ(WindowsAtTheFolder(), std::vector<std::string>{"DirSetup"});
   dialog.show();
   Work(dialog, "Command1!");
   EXPECT_FALSE(dialog.isVisible());
-  EXPECT_EQ(Reached(), (std::vector<std::string>{"DirSetup", "Dos_Unix_conv", "Frame", "Obrazek", "OdkazNaJiný",
-                                                 "Otevři", "Ulož", "Vytvoř"}));
+  EXPECT_EQ(WindowsAtTheFolder(), (std::vector<std::string>{"DirSetup", "Dos_Unix_conv", "Frame", "Obrazek",
+                                                            "OdkazNaJiný", "Otevři", "Ulož", "Vytvoř"}));
 }
 
-TEST_F(DirSetupTest, AFolderWhereAListStandsAlreadyIsAChoiceToo) {
+TEST_F(DirSetupTest, ChoosingTheShownFolderIsAChoiceToo) {
   Expect(dialog, "Dir1=~ Command1!", "Command1=&Ok");
   auto& save = Open<Uloz>();
   Expect(save, "", "Label1=~/Jméno.html Command1=&Ulož");
