@@ -34,15 +34,14 @@ TEST(SortedOrder, FollowsTheCzechAlphabet) {
   EXPECT_EQ(platform.SortedOrder({std::rbegin(ordered), std::rend(ordered)}), order);
 }
 
-TEST(SortedOrder, KeepsEqualsInPlace) {
+TEST(SortedOrder, KeepsTheOrderOfEqualTexts) {
   const std::string_view equals[] = {"ŽLUŤ"_w, "žluť"_w, "ŽLUŤ"_w};
   EXPECT_EQ(QtPlatform().SortedOrder({std::begin(equals), std::end(equals)}), (std::vector<std::size_t>{0, 1, 2}));
 }
 
-// A missing folder isn't replaced by the root folder, so writing to it fails.
-TEST(Folders, EndInASeparatorAndTheTemporaryOneIsWhatTheEnvironmentSays) {
+// A missing folder isn't replaced by another one, so a write to it fails.
+TEST(TemporaryFolder, ComesFromTheEnvironmentAndEndsInASeparator) {
   QtPlatform platform;
-  EXPECT_TRUE(std::filesystem::is_directory(platform.InstallFolder())) << platform.InstallFolder();
   const QByteArray before = qgetenv("TMPDIR");
   for (const auto& [set, expected] : {std::pair("/nonexistent/x", "/nonexistent/x/"), {"/", "/"}, {"", "/tmp/"}}) {
     qputenv("TMPDIR", set);
@@ -51,7 +50,7 @@ TEST(Folders, EndInASeparatorAndTheTemporaryOneIsWhatTheEnvironmentSays) {
   qputenv("TMPDIR", before);
 }
 
-TEST(Files, AreTheSameAndHaveOneStampUnderAnyName) {
+TEST(Files, AreTheSameAndHaveOneStampUnderAllTheirNames) {
   QtPlatform platform;
   const TempFolder folder;
   const std::string file = folder.Put("a", "1"), other = folder.Put("b", "1"), link = folder.File("link");
@@ -61,27 +60,32 @@ TEST(Files, AreTheSameAndHaveOneStampUnderAnyName) {
   EXPECT_FALSE(platform.IsSameFile(folder.File("none"), folder.File("none")) || platform.Stamp(folder.File("none")));
 }
 
-// A mark is a regular file: "pelmar.ini" with any content, "portable" an empty one.
-TEST(InstallFolder, IsTheProgramsOwnWithAMarkInItOrElseOneForTheUserAlone) {
+TEST(InstallFolder, Exists) {
+  const std::string folder = QtPlatform().InstallFolder();
+  EXPECT_TRUE(std::filesystem::is_directory(folder)) << folder;
+}
+
+// A regular file marks the program's folder: "pelmar.ini" with any content, or an empty "portable".
+TEST(InstallFolder, IsTheMarkedFolderOfTheProgramOrAFolderForTheUserAlone) {
   const std::tuple<const char*, const char*, bool> cases[] = {{"pelmar.ini", "any", true},
                                                               {"portable", "", true},
                                                               {"pelmar.ini/f", "", false},
                                                               {"portable", "text", false},
                                                               {"portable/f", "", false}};
-  for (const auto& [file, content, own] : cases) {
+  for (const auto& [file, content, is_mark] : cases) {
     const TempFolder program, data;
     program.Put(file, content);
-    const std::string users = data.File("deep/pelmar-vex");
+    const std::string user_folder = data.File("deep/pelmar-vex");
     const ChosenFolder found = FindInstallFolder(Utf8ToQString(program.Path()), Utf8ToQString(data.File("deep")));
     EXPECT_EQ(InstallFolderNotice(found), "");
-    EXPECT_EQ(found.path, (own ? program.Path() : users) + "/") << file;
-    EXPECT_EQ(std::filesystem::exists(users), !own) << file;
-    if (own) continue;
-    EXPECT_EQ(std::filesystem::status(users).permissions(), std::filesystem::perms::owner_all) << file;
+    EXPECT_EQ(found.path, (is_mark ? program.Path() : user_folder) + "/") << file;
+    EXPECT_EQ(std::filesystem::exists(user_folder), !is_mark) << file;
+    if (is_mark) continue;
+    EXPECT_EQ(std::filesystem::status(user_folder).permissions(), std::filesystem::perms::owner_all) << file;
   }
 }
 
-TEST(BusyPointer, NestsAndIsLiftedWhileABoxShows) {
+TEST(BusyPointer, NestsAndIsNotShownOverAMessageBox) {
   QtPlatform platform;
   const auto busy = [] { return QGuiApplication::overrideCursor() != nullptr; };
   for (const bool set : {false, true, true, false}) platform.SetBusyPointer(set, BusyLook::kArrow);
@@ -97,7 +101,7 @@ TEST(BusyPointer, NestsAndIsLiftedWhileABoxShows) {
   EXPECT_FALSE(busy());
 }
 
-TEST(Keys, InsertTurnsOnceForEachPressOfTheBareKey) {
+TEST(Keys, InsertTogglesAtEachPressWithoutShiftOrCtrl) {
   QtPlatform platform;
   QWidget window;
   auto* field = new QWidget(&window);  // ignores the key, which then goes up to the window
@@ -110,7 +114,7 @@ TEST(Keys, InsertTurnsOnceForEachPressOfTheBareKey) {
     QTest::keySequence(field, QKeySequence(QString::fromLatin1(key)));
     EXPECT_EQ(platform.Keys().insert, on) << key;
   }
-  QTest::keyClick(window.windowHandle(), Qt::Key_Insert);  // by the way of real presses
+  QTest::keyClick(window.windowHandle(), Qt::Key_Insert);  // through the window, as a real press
   EXPECT_FALSE(platform.Keys().insert);
 }
 
@@ -129,7 +133,7 @@ TEST(Random, StaysInRangeAndDiffersFromRunToRunAndSeedToSeed) {
   EXPECT_EQ(draws.size(), 1003U);
 }
 
-TEST(Clipboard, OurOwnTextComesBackToTheByte) {
+TEST(Clipboard, OurOwnTextComesBackUnchanged) {
   std::string all;
   for (int code = 0; code < 256; ++code) all += CharOf(code);
   all += "\r\n\n\r";
@@ -141,12 +145,12 @@ TEST(Clipboard, OtherProgramsGetUnicodeAndLineFeeds) {
   EXPECT_EQ(mime->text(), QStringLiteral("Žlutý") + QChar(0x81) + QStringLiteral("\nkůň\n\r"));
 }
 
-TEST(Clipboard, OthersTextIsConverted) {
+TEST(Clipboard, TextOfOtherProgramsIsConverted) {
   Clipboard clipboard;
   const std::pair<QString, std::string_view> cases[] = {
       {QStringLiteral("\na\r\nb\n\nc\r"), "\r\na\r\nb\r\n\r\nc\r"},
       {QStringLiteral("příliš → žlutý 🐎"), "příliš ? žlutý ?"_w},
-      {QStringLiteral("c\u030Carka"), "čarka"_w},  // the accent apart
+      {QStringLiteral("c\u030Carka"), "čarka"_w},  // a separate accent
   };
   for (const auto& [theirs, ours] : cases) {
     clipboard.SetText("ours");
@@ -156,7 +160,7 @@ TEST(Clipboard, OthersTextIsConverted) {
   }
 }
 
-TEST(Clipboard, AnEmptyTextIsATextAndAPictureIsNone) {
+TEST(Clipboard, AnEmptyTextCountsAsTextButAPictureDoesNot) {
   Clipboard clipboard;
   clipboard.SetText("");
   EXPECT_EQ(clipboard.Content(), "");
@@ -168,7 +172,7 @@ TEST(Clipboard, AnEmptyTextIsATextAndAPictureIsNone) {
   EXPECT_EQ(TextFromMime(nullptr), std::nullopt);
 }
 
-TEST(AddBookmark, CountsTheProgramInTheEntryOfTheFileAndKeepsTheOthers) {
+TEST(AddBookmark, CountsTheUsesOfTheFileAndKeepsOtherEntries) {
   const std::string others = AddBookmark("", "/other", "text/html");
   const std::string once = AddBookmark(others, "/mů &", "text/plain"), twice = AddBookmark(once, "/mů &", "text/plain");
   for (const auto& [list, count] : {std::pair{once, "1"}, {twice, "2"}}) {
@@ -188,21 +192,21 @@ TEST(AddBookmark, LeavesADamagedListAlone) {
     EXPECT_EQ(AddBookmark(damaged, "/a", "text/plain"), "") << damaged;
 }
 
-TEST(RecentDocuments, AreAllNotedInOrderWhenTheProgramEnds) {
+TEST(RecentDocuments, AreAllWrittenInOrderAtTheEndOfTheProgram) {
   const TempFolder temp;
   const std::string list = temp.File("share/recently-used.xbel");
   {
     RecentDocuments recent(Utf8ToQString(list));
     for (const char name : std::string("bcaefdhgc")) recent.Add(u'/' + QChar::fromLatin1(name));
   }
-  QString noted;
+  QString written;
   const QRegularExpression entry(QStringLiteral("file:///(.)\""));
-  for (const auto& match : entry.globalMatch(Utf8ToQString(Content(list)))) noted += match.captured(1);
-  EXPECT_EQ(noted.toStdString(), "bcaefdhg");
+  for (const auto& match : entry.globalMatch(Utf8ToQString(Content(list)))) written += match.captured(1);
+  EXPECT_EQ(written.toStdString(), "bcaefdhg");
   EXPECT_EQ(std::filesystem::status(list).permissions(), std::filesystem::perms{0600});
 }
 
-// The scripted platform with the real paper.
+// The scripted platform with the real printing, which writes a PDF file.
 struct PaperPlatform : ScriptedPlatform {
   QString pdf;
   PrintOutcome Print(const PrintFont& font, const std::string& name, const std::function<void(Paper&)>& draw) override {
@@ -218,14 +222,14 @@ struct PrinterTest : testing::Test {
   WholeEditor editor{platform};
   EditorLook look{.font_name = "Courier New", .font_size = 12};
 
-  // What another program says of the PDF.
+  // Runs a program on the PDF and returns its output. The argument "PDF" is replaced by the path.
   [[nodiscard]] QString Ask(const char* program, QStringList arguments) const {
     QProcess reader;
     reader.start(QString::fromLatin1(program), arguments.replaceInStrings(QStringLiteral("PDF"), platform.pdf));
     EXPECT_TRUE(reader.waitForFinished()) << program << " is missing";
     return QString::fromUtf8(reader.readAllStandardOutput());
   }
-  // The words on the pages, one after the other, with a form feed behind each.
+  // Prints the text. Returns the text of the pages, with a form feed after each page.
   QString Printed(std::string_view text) {
     editor.text.SetText(std::string(text));
     platform.answers = {Answer::kOk};
@@ -235,7 +239,7 @@ struct PrinterTest : testing::Test {
   }
 };
 
-TEST_F(PrinterTest, LinesAndTabsStandAsInTheEditor) {
+TEST_F(PrinterTest, LinesAndTabsArePrintedAsInTheEditor) {
   EXPECT_EQ(Printed("Příliš žluťoučký kůň\r\núpěl ďábelské ódy\r\n\r\na\tb <P>\x01"_w),
             QStringLiteral("Příliš žluťoučký kůň\núpěl ďábelské ódy\n\na       b <P>SOH\n\f"));
 }

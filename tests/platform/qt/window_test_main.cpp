@@ -1,4 +1,4 @@
-// Runs the window tests in a home of their own, so that no test reads or touches the person's files or leaves any.
+// Runs the window tests with temporary home folders, so that no test reads, changes or leaves files in the real ones.
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 

@@ -40,7 +40,7 @@ TEST(Message, HasTheButtonsThePictureAndTheDefaultOfItsType) {
   }
 }
 
-TEST(Message, StandsAboveItsWindowAndOutlivesIt) {
+TEST(Message, StaysAboveItsWindowAndOutlivesIt) {
   auto* window = new QWidget(nullptr, Qt::WindowStaysOnTopHint);
   window->show();
   window->activateWindow();
@@ -53,7 +53,7 @@ TEST(Message, StandsAboveItsWindowAndOutlivesIt) {
   EXPECT_EQ(ShowMessage(MessageType::kYesNoWarning, QStringLiteral("?"), QString()), Answer::kNone);
 }
 
-TEST(InputBox, GivesTheTextOrNothing) {
+TEST(InputBox, ReturnsTheTextOrNothing) {
   const QString prompt = QStringLiteral("Výzva"), title = QStringLiteral("Titul"), initial = QStringLiteral("původní");
   const std::optional<QString> answers[] = {initial, QString(40000, u'A'), QString(), std::nullopt};
   for (const auto& answer : answers) {
@@ -61,7 +61,7 @@ TEST(InputBox, GivesTheTextOrNothing) {
       EXPECT_EQ(std::tuple(box.labelText(), box.windowTitle(), box.textValue()), std::tuple(prompt, title, initial));
       auto* field = box.findChild<QLineEdit*>();
       QGuiApplication::clipboard()->setText(QStringLiteral("a\nb"));
-      QTest::keyClick(field, Qt::Key_V, Qt::ControlModifier);  // over what is selected there
+      QTest::keyClick(field, Qt::Key_V, Qt::ControlModifier);  // replaces the selected text
       EXPECT_EQ(field->text(), QStringLiteral("a\r\nb"));
       field->setText(answer.value_or(initial));
       answer ? box.accept() : box.reject();
@@ -70,9 +70,9 @@ TEST(InputBox, GivesTheTextOrNothing) {
   }
 }
 
-TEST(Field, TakesPastedLinesWithoutTheirBreaks) {
+TEST(Field, DropsTheLineBreaksOfPastedText) {
   Field field(nullptr);
-  field.setText(QStringLiteral("x\ny"));  // what the program sets keeps its breaks
+  field.setText(QStringLiteral("x\ny"));  // a text set by the program keeps its line breaks
   field.home(false);
   field.show();
   QGuiApplication::clipboard()->setText(QStringLiteral("→\nb\r\nc"));
@@ -85,7 +85,7 @@ struct FileDialogTest : testing::Test {
   const QFileInfo letter{Utf8ToQString(temp.Put("inner/Dopis.TXT", "x"))};
   QString folder = Utf8ToQString(temp.Path());
 
-  // The answer of the dialog after `act`, or "none".
+  // Opens the dialog and runs `act` in it. Returns the chosen path, or "none".
   std::string Ask(FileDialogKind kind, int filter_index, const std::function<void(QFileDialog&)>& act) {
     InDialog<QFileDialog>([&](QFileDialog& dialog) {
       EXPECT_EQ(dialog.acceptMode() == QFileDialog::AcceptSave, kind == FileDialogKind::kSave);
@@ -110,7 +110,7 @@ TEST_F(FileDialogTest, OpensWithTheGivenFilterAndRemembersTheFolder) {
   EXPECT_EQ(Ask(FileDialogKind::kOpen, 9, [](QFileDialog& dialog) { dialog.reject(); }), "none");
 }
 
-TEST_F(FileDialogTest, SavesOverAFileUnasked) {
+TEST_F(FileDialogTest, ChoosesAnExistingFileForSavingWithoutAsking) {
   const std::string saved = Ask(FileDialogKind::kSave, 1, [](QFileDialog& dialog) {
     Inside([] {
       auto* question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
@@ -122,7 +122,7 @@ TEST_F(FileDialogTest, SavesOverAFileUnasked) {
   EXPECT_EQ(saved, Utf8FromQString(letter.filePath()));
 }
 
-TEST_F(FileDialogTest, TakesANameAsItIsTypedWhateverTheFilter) {
+TEST_F(FileDialogTest, AddsNoExtensionOfTheFilterToATypedName) {
   const std::string saved = Ask(FileDialogKind::kSave, 2, [](QFileDialog& dialog) {
     dialog.selectFile(QStringLiteral("README"));
     QTest::keyClick(&dialog, Qt::Key_Return);
@@ -130,7 +130,7 @@ TEST_F(FileDialogTest, TakesANameAsItIsTypedWhateverTheFilter) {
   EXPECT_EQ(saved, Utf8FromQString(letter.path()) + "/README");
 }
 
-TEST(DialogWindow, IsCentredOnceAndKeepsItsPlaceOrEachTime) {
+TEST(DialogWindow, IsCentredAtTheFirstOpeningOrAtEachOne) {
   DialogWindow dialog(nullptr);
   dialog.resize(300, 9000);
   dialog.Present();
@@ -151,50 +151,50 @@ TEST(DialogWindow, IsCentredOnceAndKeepsItsPlaceOrEachTime) {
 struct DialogWindowTest : testing::Test {
   DialogWindow dialog{nullptr};
   QLineEdit field{QStringLiteral("typed before"), &dialog};
-  QPushButton ok{&dialog}, storno{&dialog};
+  QPushButton ok{&dialog}, cancel{&dialog};
 
   DialogWindowTest() {
     ok.setDefault(true);
-    storno.setAutoDefault(false);
+    cancel.setAutoDefault(false);
   }
 };
 
-TEST_F(DialogWindowTest, BeginsInItsFirstFieldWithAllSelectedEachTime) {
+TEST_F(DialogWindowTest, EachOpeningFocusesTheFirstFieldAndSelectsItsText) {
   for (int opened = 0; opened < 2; ++opened) {
     dialog.Present();
     EXPECT_EQ(dialog.focusWidget(), &field);
     EXPECT_EQ(field.selectedText(), field.text());
-    storno.setFocus();
+    cancel.setFocus();
     field.deselect();
     dialog.hide();
   }
 }
 
 TEST_F(DialogWindowTest, EnterPressesTheButtonInFocus) {
-  const QSignalSpy pressed_ok(&ok, &QPushButton::clicked), pressed_storno(&storno, &QPushButton::clicked);
+  const QSignalSpy pressed_ok(&ok, &QPushButton::clicked), pressed_cancel(&cancel, &QPushButton::clicked);
   dialog.Present();
   EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
-  storno.setFocus();
-  QTest::keyClick(&storno, Qt::Key_Return);
-  EXPECT_EQ(pressed_storno.count(), 1);
+  cancel.setFocus();
+  QTest::keyClick(&cancel, Qt::Key_Return);
+  EXPECT_EQ(pressed_cancel.count(), 1);
   EXPECT_EQ(pressed_ok.count(), 0);
 }
 
 int Difference(const QColor& one, const QColor& other) { return std::abs(qGray(one.rgb()) - qGray(other.rgb())); }
 
-TEST(ProgramStyle, WhatIsOffCanBeReadOnLightAndDarkGround) {
+TEST(ProgramStyle, DisabledTextIsReadableOnLightAndDarkBackgrounds) {
   ProgramStyle style(QStringLiteral("fusion"));
-  for (const QColor& ground : {QColor(239, 239, 239), QColor(53, 53, 53), QColor(30, 30, 34)}) {
-    SCOPED_TRACE(ground.red());
-    QPalette palette(ground);
+  for (const QColor& background : {QColor(239, 239, 239), QColor(53, 53, 53), QColor(30, 30, 34)}) {
+    SCOPED_TRACE(background.red());
+    QPalette palette(background);
     palette.setColor(QPalette::PlaceholderText, Qt::black);
     style.polish(palette);
-    const auto off = [&](QPalette::ColorRole role) { return palette.color(QPalette::Disabled, role); };
-    EXPECT_GE(Difference(off(QPalette::Text), off(QPalette::Base)), 90);
-    EXPECT_GE(Difference(off(QPalette::HighlightedText), off(QPalette::Highlight)), 90);
+    const auto disabled = [&](QPalette::ColorRole role) { return palette.color(QPalette::Disabled, role); };
+    EXPECT_GE(Difference(disabled(QPalette::Text), disabled(QPalette::Base)), 90);
+    EXPECT_GE(Difference(disabled(QPalette::HighlightedText), disabled(QPalette::Highlight)), 90);
     EXPECT_GE(Difference(palette.color(QPalette::PlaceholderText), palette.color(QPalette::Base)), 90);
-    EXPECT_GE(Difference(off(QPalette::WindowText), ground), 70);
-    EXPECT_GE(Difference(palette.color(QPalette::Mid), ground), 40);
+    EXPECT_GE(Difference(disabled(QPalette::WindowText), background), 70);
+    EXPECT_GE(Difference(palette.color(QPalette::Mid), background), 40);
   }
 }
 

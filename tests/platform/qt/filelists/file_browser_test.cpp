@@ -54,13 +54,13 @@ TEST(FolderEntries, AreSortedInCzechAndFilteredByKindAndMask) {
   EXPECT_EQ(files(".*") + files("readme"), ".skrytý.txtREADME");
   for (const char* mask : {"*.*", "", ";"}) EXPECT_EQ(files(mask), all);
   QStringList folders;
-  for (const char* below : {"", "/zelená", "/zelená/.git", "/missing", "/had.txt"})
-    folders += SubfoldersOf(path + QString::fromUtf8(below));
+  for (const char* subfolder : {"", "/zelená", "/zelená/.git", "/missing", "/had.txt"})
+    folders += SubfoldersOf(path + QString::fromUtf8(subfolder));
   EXPECT_EQ(folders.join(u' ').toStdString(), "link.txt zelená Žlutá objects");
   for (const char* name : {"/had.txt", "/missing"}) EXPECT_FALSE(IsReadableFolder(path + QLatin1String(name)));
 }
 
-TEST(FolderEntries, KeepTheBytesOfNamesThatAreNoUtf8) {
+TEST(FolderEntries, KeepTheBytesOfNamesThatAreNotUtf8) {
   const TempFolder temp;
   temp.Put("d\xE9/k\xF9\xF2.txt", "");
   temp.Put("d\xE9/ku\xED\xB2\x8D😀.txt", "");
@@ -83,7 +83,10 @@ TEST(MountedPlaces, AreHomeRootAndMountedDisks) {
   const QStringList places = MountedPlaces(QStringLiteral("/home/jan"), Utf8ToQString(mounts));
   EXPECT_EQ(places.join(u'|').toStdString(), "/home/jan|/|/media/jan/USB disk|/mnt|/run/media/jan/A");
   EXPECT_EQ(MountedPlaces(QStringLiteral("/"), Utf8ToQString(temp.File("none"))), QStringList(QStringLiteral("/")));
-  // The deepest place that contains the path.
+}
+
+TEST(PlaceOf, IsTheDeepestPlaceThatContainsThePath) {
+  const QStringList places = QStringLiteral("/home/jan|/|/media/jan/USB disk|/mnt|/run/media/jan/A").split(u'|');
   const std::pair<const char*, const char*> cases[] = {
       {"/home/jan", "/home/jan"}, {"/home/jan/x/", "/home/jan"},
       {"/home/janek", "/"},       {"/run/media/jan/A/b", "/run/media/jan/A"},
@@ -101,7 +104,7 @@ struct FileBrowserTest : testing::Test {
     mask.setEditText(QStringLiteral("*.*"));
     LinkFileBrowser(&place, &folders, &files, &mask);
   }
-  // Shows both lists at the folder of the test, and records their events from then on.
+  // Shows the test's folder in both lists, then records their events.
   void Show() {
     folders.resize(300, 400);
     files.resize(300, 400);
@@ -126,7 +129,7 @@ struct FileBrowserTest : testing::Test {
     files.setVisible(visible);
   }
   void Remove(const char* name) const { std::filesystem::remove_all(temp.File(name)); }
-  void SetFolder(const char* below) { folders.SetPath(base + QString::fromUtf8(below)); }
+  void SetFolder(const char* subfolder) { folders.SetPath(base + QString::fromUtf8(subfolder)); }
   static void Click(QAbstractItemView& list, const QString& row, bool twice = false) {
     const QModelIndexList found = list.model()->match(list.model()->index(0, 0), Qt::DisplayRole, row);
     ASSERT_EQ(found.size(), 1) << row.toStdString();
@@ -156,7 +159,7 @@ struct FileBrowserTest : testing::Test {
   QComboBox mask;
 };
 
-TEST_F(FileBrowserTest, ArrowKeysSelectFilesFromTheFirstOn) {
+TEST_F(FileBrowserTest, ArrowKeysSelectFilesBeginningWithTheFirst) {
   Show();
   QTest::keyClick(&files, Qt::Key_Return);
   EXPECT_EQ(Files(), "a.txt|b.HTM|c.htm|d");  // the focus alone selects nothing
@@ -201,7 +204,7 @@ TEST_F(FileBrowserTest, ADoubleClickOrEnterEntersAFolder) {
   EXPECT_EQ(TakeEvents(), (Events{"files .", "folder ."}));
 }
 
-TEST_F(FileBrowserTest, AChosenPlaceSetsTheFolder) {
+TEST_F(FileBrowserTest, ChoosingAPlaceSetsTheFolder) {
   Show();
   Q_EMIT place.DriveChanged(base + QStringLiteral("/sub"));
   EXPECT_EQ(Folders(), ".|>sub|inner");
@@ -228,7 +231,7 @@ TEST_F(FileBrowserTest, AMaskKeepsTheSelectionAsLongAsTheFileIsListed) {
   EXPECT_EQ(events, (Events{"mask *.htm", "mask *.txt"}));
 }
 
-TEST_F(FileBrowserTest, ReadsItsFolderAgainWhenItShowsAgain) {
+TEST_F(FileBrowserTest, ReadsItsFolderAgainWhenItIsShownAgain) {
   Show();
   SetVisible(false);
   Remove("a.txt");
@@ -244,7 +247,7 @@ struct DriveListTest : testing::Test {
   QSignalSpy changes{&place, &DriveList::DriveChanged};
 };
 
-TEST_F(DriveListTest, FollowsAPathSilently) {
+TEST_F(DriveListTest, FollowsAPathWithoutNotification) {
   place.SetDrive(QDir::homePath() + QStringLiteral("/some/where"));
   EXPECT_EQ(place.Drive(), QDir::homePath());
   for (const char* path : {"/et", ""}) place.SetDrive(QLatin1String(path));

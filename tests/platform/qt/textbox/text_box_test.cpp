@@ -111,7 +111,7 @@ TEST_F(TextBoxTest, KeysUseTheClipboard) {
               {"a¶b|", "Ctrl+A Ctrl+C End Ctrl+V", "a¶ba¶b|"}});
 }
 
-TEST_F(TextBoxTest, LeavesCtrlWithLettersToAMenu) {
+TEST_F(TextBoxTest, LeavesCtrlAndLettersToTheMenu) {
   box->setStandardShortcuts(false);
   QGuiApplication::clipboard()->setText(QStringLiteral("no"));
   ExpectKeys({{"a[b|c", "Ctrl+A Ctrl+X Ctrl+V Ctrl+Z Ctrl+B Ctrl+Y F3", "a[b|c"},
@@ -133,7 +133,7 @@ TEST_F(TextBoxTest, TypesCharactersOfAltGrButNotAccessKeys) {
   }
 }
 
-TEST_F(TextBoxTest, AReadOnlyTextChangesByTheProgramAlone) {
+TEST_F(TextBoxTest, OnlyTheProgramChangesAReadOnlyText) {
   box->setReadOnly(true);
   QGuiApplication::clipboard()->setText(QStringLiteral("no"));
   ExpectKeys({{"a|b[c", "X Return Backspace Ctrl+X Ctrl+V Ctrl+Backspace Delete", "a|b[c"}});
@@ -148,12 +148,12 @@ TEST_F(TextBoxTest, ClicksMoveTheCaretAndSelect) {
   constexpr auto kPress = QTest::MousePress, kMove = QTest::MouseMove, kRelease = QTest::MouseRelease,
                  kDouble = QTest::MouseDClick;
   const struct {
-    const char *what, *before;
-    std::vector<std::pair<QTest::MouseAction, double>> acts;  // each at its character
+    const char *name, *before;
+    std::vector<std::pair<QTest::MouseAction, double>> acts;  // each at the position of a character
     const char* after;
   } cases[] = {
       {"a click in a selection", "[ab cd|", {{kPress, 1}, {kRelease, 1}}, "a|b cd"},
-      {"a drag and a move behind it", "|ab cd¶ef", {{kPress, 8}, {kMove, 1}, {kRelease, 1}, {kMove, 4}}, "a|b cd¶e[f"},
+      {"a drag and a move after it", "|ab cd¶ef", {{kPress, 8}, {kMove, 1}, {kRelease, 1}, {kMove, 4}}, "a|b cd¶e[f"},
       {"a double click nearer to the blank, but still on the letter", "|ab cd¶ef", {{kDouble, 1.7}}, "[ab| cd¶ef"},
       {"a double click and a drag", "|ab cd¶ef", {{kDouble, 1}, {kMove, 4}, {kRelease, 4}}, "[ab cd|¶ef"},
       {"a third click and a drag", "|ab cd¶ef", {{kDouble, 8}, {kPress, 8}, {kMove, 1}}, "|ab cd¶ef["},
@@ -161,7 +161,7 @@ TEST_F(TextBoxTest, ClicksMoveTheCaretAndSelect) {
   for (const auto& one : cases) {
     Put(one.before);
     for (const auto& [action, place] : one.acts) Mouse(action, place);
-    EXPECT_EQ(Document(), one.after) << one.what;
+    EXPECT_EQ(Document(), one.after) << one.name;
   }
 }
 
@@ -182,7 +182,7 @@ TEST_F(TextBoxTest, TheRightButtonKeepsASelectionForTheMenu) {
 TEST_F(TextBoxTest, ComposingReplacesTheSelectionAndTypesWhenItEnds) {
   Put("a[b|c");
   Compose("´");
-  EXPECT_EQ(Document(), "a|c");  // what is composed is no text yet
+  EXPECT_EQ(Document(), "a|c");  // text in composition isn't in the document yet
   Compose("", "é");
   EXPECT_EQ(Document(), "aé|c");
   Compose("", "XY", -2, 3);
@@ -198,7 +198,7 @@ bool Drop(TextBox& box, QPoint place, QMimeData& mime) {
   return enter.isAccepted();
 }
 
-TEST_F(TextBoxTest, TakesADroppedTextButNoFileAndNothingWhenReadOnly) {
+TEST_F(TextBoxTest, AcceptsDroppedTextButNoFileAndNothingIfReadOnly) {
   QMimeData text, file;
   text.setText(QStringLiteral("š\n"));
   file.setText(QStringLiteral("file:///tmp/x.htm"));
@@ -212,7 +212,7 @@ TEST_F(TextBoxTest, TakesADroppedTextButNoFileAndNothingWhenReadOnly) {
   EXPECT_EQ(Document(), "a[š¶|b");
 }
 
-TEST_F(TextBoxTest, ItsMenuIsLeftToTheWindowThatAsksForIt) {
+TEST_F(TextBoxTest, ShowsItsOwnMenuUnlessTheWindowProvidesOne) {
   const QSignalSpy asked(box, &QWidget::customContextMenuRequested);
   Press("Shift+F10");
   ASSERT_NE(QApplication::activePopupWidget(), nullptr);
@@ -223,18 +223,18 @@ TEST_F(TextBoxTest, ItsMenuIsLeftToTheWindowThatAsksForIt) {
   EXPECT_EQ(asked.count(), 1);
 }
 
-TEST_F(TextBoxTest, TabMovesTheFocusIfItIsNotTyped) {
-  QLineEdit behind(&window);
-  behind.show();
-  QWidget::setTabOrder(box, &behind);
+TEST_F(TextBoxTest, TabMovesTheFocusUnlessItIsTyped) {
+  QLineEdit next(&window);
+  next.show();
+  QWidget::setTabOrder(box, &next);
   box->setReadOnly(true);
   Press("Tab");
-  EXPECT_TRUE(behind.hasFocus());
+  EXPECT_TRUE(next.hasFocus());
   box->setReadOnly(false);
   box->setTabChangesFocus(true);
   box->setFocus();
   Press("Tab");
-  EXPECT_TRUE(behind.hasFocus());
+  EXPECT_TRUE(next.hasFocus());
 }
 
 // True if a pixel of the rectangle differs from the background.
@@ -279,13 +279,13 @@ TEST_F(TextBoxTest, PartialRepaintsEqualAFullRepaintAndShowTheCaret) {
   const char* const keys[] = {"Alt+Backspace", "PgDown", "Shift+PgDown", "Return", "X", "PgUp", "Left", "Shift+Up"};
   const auto text = [&](std::size_t most) { return random.Text(most, "abcdefg mnop\t\x02\n\n"); };
   const auto place = [&] { return random.Below(buffer.Size() + 1); };
-  const auto act = [&](std::size_t what) {
-    if (what == 0) box->verticalScrollBar()->setValue(static_cast<int>(random.Below(900)));
-    if (what == 1) box->horizontalScrollBar()->setValue(static_cast<int>(random.Below(900)));
-    if (what == 2) buffer.Select(place(), place());
-    if (what == 3) buffer.Replace(place(), random.Below(30), text(30));
-    if (what == 4) Compose(random.Below(2) == 0 ? "´ě" : "");
-    if (what > 4) Press(keys[random.Below(std::size(keys))]);
+  const auto act = [&](std::size_t action) {
+    if (action == 0) box->verticalScrollBar()->setValue(static_cast<int>(random.Below(900)));
+    if (action == 1) box->horizontalScrollBar()->setValue(static_cast<int>(random.Below(900)));
+    if (action == 2) buffer.Select(place(), place());
+    if (action == 3) buffer.Replace(place(), random.Below(30), text(30));
+    if (action == 4) Compose(random.Below(2) == 0 ? "´ě" : "");
+    if (action > 4) Press(keys[random.Below(std::size(keys))]);
   };
   box->setFrameShape(QFrame::NoFrame);
   for (std::size_t round = 0; round < 360; ++round) {
@@ -294,13 +294,13 @@ TEST_F(TextBoxTest, PartialRepaintsEqualAFullRepaintAndShowTheCaret) {
       box->setAlignment(kAlignments[round / 60 % 3]);
       buffer.SetText(PageText(QString::fromStdString(text(3000))));
     }
-    const std::size_t what = random.Below(7);
-    act(what);
-    ASSERT_TRUE(what < 2 || CaretInSight()) << "round " << round << " act " << what;
+    const std::size_t action = random.Below(7);
+    act(action);
+    ASSERT_TRUE(action < 2 || CaretInSight()) << "round " << round << " act " << action;
     QApplication::processEvents();
     const QImage seen = window.screen()->grabWindow(window.winId()).toImage().convertToFormat(QImage::Format_RGB32);
     ASSERT_TRUE(seen == window.grab().toImage().convertToFormat(QImage::Format_RGB32))
-        << "round " << round << " act " << what;
+        << "round " << round << " act " << action;
   }
 }
 
@@ -316,7 +316,7 @@ TEST_F(TextBoxTest, KeysScrollByPagesAndWithCtrlByRows) {
 
 TEST_F(TextBoxTest, ShowsABufferThatAnotherListenerChangesInBetween) {
   TextBuffer buffer;
-  const Listening heard = buffer.OnChange([&](const TextChange& change) {  // notified before the box
+  const Listening listening = buffer.OnChange([&](const TextChange& change) {  // notified before the box
     if (change.removed == 1) buffer.Replace(0, 3, "x\r\ny\r\nz");
   });
   box->UseBuffer(buffer);
@@ -395,14 +395,14 @@ TEST_F(TextBoxTest, AScreenReaderCanRebuildTheTextFromItsNotifications) {
   const Listening changes = buffer.OnChange([&](const TextChange& change) { reader.Changed(change); });
   const Listening moves = buffer.OnSelection([&] { reader.CaretMoved(); });
   RandomSource random(1);
-  buffer.SetText("the first that is heard: nobody knows what was before");
+  buffer.SetText("this text comes first: the reader knows no older text");
   for (int step = 0; step < 500; ++step) {
     const std::size_t from = random.Below(buffer.Size() + 1), to = random.Below(buffer.Size() + 1),
-                      what = random.Below(4);
+                      action = random.Below(4);
     if (step % 50 == 0) buffer.SetText(random.Text(30, "ab\xE8\r\n"));
-    if (what == 0) buffer.Undo();
-    if (what == 1) buffer.Replace(from, random.Below(5), random.Text(5, "ab\xE8\r\n"));
-    if (what > 1 && (from != buffer.Anchor() || to != buffer.Caret())) {
+    if (action == 0) buffer.Undo();
+    if (action == 1) buffer.Replace(from, random.Below(5), random.Text(5, "ab\xE8\r\n"));
+    if (action > 1 && (from != buffer.Anchor() || to != buffer.Caret())) {
       buffer.Select(from, to);
       ASSERT_EQ(reader.selection, std::pair(box->SelStart(), box->SelStart() + box->SelLength())) << step;
     }
@@ -411,7 +411,7 @@ TEST_F(TextBoxTest, AScreenReaderCanRebuildTheTextFromItsNotifications) {
   }
 }
 
-TEST_F(TextBoxTest, AssistiveTechnologyReadsUnits) {
+TEST_F(TextBoxTest, AssistiveTechnologyReadsCharactersWordsAndLines) {
   using Text = QAccessibleTextInterface;
   Text& text = *QAccessible::queryAccessibleInterface(box)->textInterface();
   Put("Při¶two words¶|");
