@@ -16,13 +16,13 @@ from harness import AS_USER, PROGRAM, EditorCase, built
 
 MODULE = built("pelmar-browser.so")
 GREEN, BLUE, YELLOW = "#00c000", "#2000f0", "#f0f000"
-ALONE = re.compile(r"HTML [Tt]estovací +browser.*")  # whatever page it shows
+ALONE = re.compile(r"HTML [Tt]estovací +browser.*")  # the browser alone, with any page
 BROWSE = "alt+s" + 4 * " Right" + " Up Return"  # the last item of the menu Html
 # The content of a link. Its colour changes when the engine has noticed the mouse, which may take a while.
 LINK = f"""<STYLE>#link {{ background: {BLUE} }} A:hover #link {{ background: {YELLOW} }}</STYLE>
     <IMG ID="link" WIDTH="60" HEIGHT="60" ALT="">"""
 
-# Pages that try to reach SITE by themselves. At DONE, after they have tried, they set their title.
+# Pages that try to reach SITE by themselves. At DONE they set their title.
 PAGES = sorted((Path(__file__).parent / "sending").glob("*.html"))
 
 
@@ -34,8 +34,9 @@ class Handler(BaseHTTPRequestHandler):
     timeout = 5
 
     def do_GET(self):
-        """A page whose title tells what it finds of other pages, if its path is /look."""
-        self.server.asked += [] if "favicon" in self.path else [self.path]
+        """Answers with a page. The title of the page /look shows the data that other pages have left."""
+        if "favicon" not in self.path:
+            self.server.asked.append(self.path)
         self.send_response(200)
         self.send_header("Content-Type", "text/html")
         self.end_headers()
@@ -60,7 +61,7 @@ class CountingServer(ThreadingHTTPServer):
         threading.Thread(target=self.serve_forever, daemon=True).start()
 
     def handle_error(self, *_):
-        pass  # a page that went away
+        pass  # a page that closed its connection
 
     def verify_request(self, *_):
         self.connections += 1
@@ -105,7 +106,7 @@ class BrowserTest(EditorCase):
         self.wait_colored(browser, YELLOW)
         self.command("xdotool", "click", "1")
 
-    def test_a_page_gets_no_window_no_download_and_asks_in_czech(self):
+    def test_a_page_gets_no_window_and_no_download_and_its_message_is_czech(self):
         self.write("nova.html", "<TITLE>Nova</TITLE>")
         self.command("tar", "-czf", self.home / "balik.tar.gz", "-C", self.home, "nova.html")
         self.start_with(self.write("stranka.html", f"""<TITLE>Stranka</TITLE><BODY onload="alert('<B>ahoj')">
@@ -120,9 +121,10 @@ class BrowserTest(EditorCase):
     def test_a_local_page_sends_nothing_out(self):
         server, site = self.serve()
         self.start("-BROWSER", title=ALONE)
-        for page in PAGES:
-            with self.subTest(name := page.stem):
-                page = page.read_text().replace("SITE", site).replace("DONE", f"document.title = '{name}'")
+        for path in PAGES:
+            name = path.stem
+            with self.subTest(name):
+                page = path.read_text().replace("SITE", site).replace("DONE", f"document.title = '{name}'")
                 self.work(go(f"file://{self.write('page.html', page)}"))
                 if name == "form":  # would leave the page
                     self.work("[Pelmar VEX] Return /")  # No is the default
@@ -133,7 +135,7 @@ class BrowserTest(EditorCase):
         self.shown("Sit")
         self.assertEqual(server.asked, ["/typed"])
 
-    def test_what_a_local_page_has_read_stays_here(self):
+    def test_a_local_page_neither_sends_nor_stores_a_file_that_it_reads(self):
         server, site = self.serve()
         self.write("secret.txt", "secret")
         page = (Path(__file__).parent / "crossing" / "hostile.html").read_text()
@@ -148,7 +150,7 @@ class BrowserTest(EditorCase):
         self.click_link(browser)
         self.work("[Pelmar VEX] alt+a /")
         self.shown("Sit")
-        time.sleep(0.3)  # for what would come late
+        time.sleep(0.3)  # for late requests
         self.assertEqual(set(server.asked), {"/look", "/link", "/picture"})
 
     def test_an_address_of_the_engine_itself_is_refused(self):
@@ -163,7 +165,7 @@ class BrowserTest(EditorCase):
         self.shown("Next")  # the engine still works
 
     def engine(self):
-        """The command lines of the engine's processes by their numbers."""
+        """The command lines of the engine's processes by process id."""
         rows = [line.split(None, 2) for line in self.command("ps", "-eo", "pid,pgid,args").split("\n")]
         return {row[0]: row[2] for row in rows if row[1:2] == [str(self.program.pid)] and "Engine" in row[2]}
 
@@ -182,7 +184,7 @@ class BrowserTest(EditorCase):
             with self.subTest(name, leave=leave):
                 self.work(go(f"file://{path}"))
                 self.shown(name)
-                before = {number for number, words in self.engine().items() if "--type=renderer" in words}
+                before = {pid for pid, words in self.engine().items() if "--type=renderer" in words}
                 self.work(leave)
                 self.wait(lambda: not before & self.engine().keys(), "the end of the page")
                 self.work(then)
@@ -196,7 +198,7 @@ class BrowserTest(EditorCase):
         self.work(f'"x" [{main.title}*]')
         time.sleep(3.5)  # a page that waits for an answer doesn't count as stuck
         self.activate(box)
-        # From the third one on the box offers to silence the page.
+        # From the third message on, the box offers to silence the page.
         self.work(2 * "[Zpráva stránky] Return / " + "[Zpráva stránky] alt+d Return /")
         self.shown("done")
 

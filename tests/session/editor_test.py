@@ -20,7 +20,7 @@ class DocumentTest(EditorCase):
         self.assertEqual(path.read_bytes(), BYTES + added.encode("cp1250"))
 
     def test_enter_in_an_option_accepts_the_dialog_on_every_desktop(self):
-        # GNOME would choose the option.
+        # GNOME's own rule would choose the option.
         self.start(XDG_CURRENT_DESKTOP="GNOME")
         self.work("ctrl+h [Html horizontální čára] Return / [Pelmar VEX ()*]")
         self.end(self.window("Pelmar VEX ()*"))
@@ -30,7 +30,7 @@ class DocumentTest(EditorCase):
         self.start(self.write("README", "plain").name, title=None)
         self.work("[Pelmar VEX] Return")
         self.wait_exit(1)
-        self.assertTrue(self.holds(b"plain"))
+        self.assertTrue(self.is_rescued(b"plain"))
 
 
 class NotesTest(EditorCase):

@@ -62,7 +62,7 @@ class EditorCase(unittest.TestCase):
         self.assertFalse(self.running())
         command = [program, *(arguments or ["-NOMSG"])]
         if user and AS_USER:
-            command[:0] = AS_USER
+            command = [*AS_USER, *command]
             for path in (self.home, *self.home.rglob("*")):
                 os.chown(path, NOBODY, NOBODY, follow_symlinks=False)
         self.log = self.home / "program.log"
@@ -180,12 +180,12 @@ class EditorCase(unittest.TestCase):
     def rescues(self):
         return list(self.folder.glob("*rescue-*.pelmar"))
 
-    def holds(self, text):
-        """Whether a rescue file holds the text."""
+    def is_rescued(self, text):
+        """Whether a rescue file contains the text."""
         return any(text in one.read_bytes() for one in self.rescues())
 
-    def wait_kept(self, *texts):
-        self.wait(lambda: all(map(self.holds, texts)), f"{texts} in a rescue file")
+    def wait_rescued(self, *texts):
+        self.wait(lambda: all(map(self.is_rescued, texts)), f"{texts} in a rescue file")
 
     # Waiting and looking.
 

@@ -1,4 +1,4 @@
-"""The place of the main window and its frame under a real window manager, which moves a window a little later."""
+"""The place of the main window and its frame under a real window manager, which moves windows with a delay."""
 
 import re
 import struct
@@ -16,7 +16,7 @@ class PlaceTest(EditorCase):
         info = self.command("xwininfo", "-id", window.id)
         left, top, width, height = map(int, re.findall(r"(?:Absolute.*|Width|Height): +(-?\d+)", info))
         extents = re.findall(r"\d+", self.command("xprop", "-id", window.id, "_NET_FRAME_EXTENTS").partition("=")[2])
-        west, east, north, south = (int(one) for one in extents or "0000")
+        west, east, north, south = (int(one) for one in extents or [0] * 4)
         return left - west, top - north, width + west + east, height + north + south
 
     def wait_place(self, window, *place):
@@ -39,15 +39,16 @@ class PlaceTest(EditorCase):
                 self.point(picker, 12 + 216 * 5 // 6, 12 + 135 * (2 * row + 1) // 6, "click", "1")
                 self.wait_place(main, WIDTH // 2, row // 2 * HEIGHT // 2, WIDTH // 2, HEIGHT // 2)
 
-    def test_maximised_outlasts_the_welcome_and_the_profile(self):
+    def test_the_window_stays_maximised_after_the_welcome_and_the_profile(self):
         write_settings(self.folder, show_start=True, window_state=2)
         self.start("", title="Pelmar VEX")
-        main = self.work("[Pelmar VEX] @60,76 [Config] Return / [Pelmar VEX] Return [Pelmar VEX ()]")  # on the name
+        # The click on the user's name opens the profile.
+        main = self.work("[Pelmar VEX] @60,76 [Config] Return / [Pelmar VEX] Return [Pelmar VEX ()]")
         self.wait_place(main, 0, 0, *SIZE)
         self.end(main, answer=None)
         self.assertEqual(self.stored()[4], 2)
 
-    def test_a_window_minimised_since_the_start_keeps_its_place(self):
+    def test_a_window_that_starts_minimised_keeps_its_place(self):
         place = (300, 450, 12000, 9000)
         left, top, width, height = place
         write_settings(self.folder, left=left, top=top, width=width, height=height, window_state=1)

@@ -10,11 +10,11 @@ from harness import EditorCase
 
 
 class RescueTest(EditorCase):
-    def test_a_killed_program_gives_documents_and_notes_back(self):
+    def test_documents_and_notes_come_back_after_a_kill(self):
         (self.folder / "notes.dat").write_bytes(b"\x05\0first" + bytes(8))
         self.start()
         self.work('"never saved" alt+3 "third" F9 [Poznámky] ctrl+End " and more"')
-        self.wait_kept(b"never saved", b"third", b"first and more")
+        self.wait_rescued(b"never saved", b"third", b"first and more")
         self.kill()
         self.start(title="Záchrana")
         main = self.work("[Záchrana] Return / [Pelmar VEX ()*]")
@@ -27,11 +27,11 @@ class RescueTest(EditorCase):
         self.assertEqual(self.autosaved(), b"third!")
         self.assertEqual(self.rescues(), [])
 
-    def remove_kept(self):
+    def remove_rescues_and_autosaves(self):
         for one in (*self.rescues(), *self.folder.glob("autosave_*")):
             one.unlink()
 
-    def test_the_system_ends_the_program_and_all_is_kept(self):
+    def test_the_system_ends_the_program_and_nothing_is_lost(self):
         for number in (signal.SIGTERM, signal.SIGHUP):
             main = self.start()
             self.work('F9 [Poznámky] "a note"')
@@ -40,16 +40,17 @@ class RescueTest(EditorCase):
             (self.folder / "pelmar.ini").unlink()
             self.program.send_signal(number)
             self.wait_exit(-number)
-            self.assertTrue(self.holds(b"typed just now") and self.holds(b"a note"), number)
-            # The files of a close are there too.
+            self.assertTrue(self.is_rescued(b"typed just now") and self.is_rescued(b"a note"), number)
+            # The files that a close writes are there too.
             self.assertEqual(self.autosaved(), b"typed just now")
             self.assertIn(b"typed just now", (self.folder / "autosave_all_files.txt").read_bytes())
             self.assertTrue((self.folder / "pelmar.ini").stat().st_size)
-            self.remove_kept()
+            self.remove_rescues_and_autosaves()
 
-    def one_kill(self, number, act, kept, is_new):
-        """Killed while it saves, closes and stores settings, then again after the Yes to what was kept: the document's
-        file is whole, old or new, and new if the title said so. The settings are whole, and nothing kept is lost."""
+    def check_kills(self, number, act, rescued, is_new):
+        """Kills the program at a random moment after `act`, and again after the next start. Each time the page's file is
+        whole, old or new, and new if the title has no star. With `rescued` a rescue file has the new text before `act`,
+        so the text isn't lost. The settings are whole."""
         def kill(latest):
             time.sleep(random.uniform(0, latest))
             saved = self.window(f"Pelmar VEX ({page})") is not None
@@ -57,7 +58,7 @@ class RescueTest(EditorCase):
             content = page.read_bytes() if page.exists() else None
             self.assertIn(content, [new] if saved else [None if is_new else old, new])
             everywhere = [page, *self.folder.iterdir()]
-            self.assertTrue(not kept or any(new in one.read_bytes() for one in everywhere if one.is_file()))
+            self.assertTrue(not rescued or any(new in one.read_bytes() for one in everywhere if one.is_file()))
         old = b"old content\r\n" * 1000
         new = b"token%d" % number + old
         page = self.home / "page.html"
@@ -66,28 +67,28 @@ class RescueTest(EditorCase):
         if is_new:
             page.unlink()
         self.work(f'"token{number}" [Pelmar VEX ({page})*]')
-        if kept:
-            self.wait_kept(new)
+        if rescued:
+            self.wait_rescued(new)
         self.work(act)
         kill(0.03)
         self.assertGreaterEqual((self.folder / "pelmar.ini").stat().st_size, self.size_of_settings)
         for path in self.folder.glob("autosave_*.txt"):
             self.assertIn(new, path.read_bytes())
-        # The next start works, with or without an offer of what was left.
+        # The next start works, whether or not it offers the rescued text.
         if self.start(title=re.compile(r"Záchrana|Pelmar VEX \(\)")).title == "Záchrana":
             self.work(f"[Záchrana] Return / [Pelmar VEX ({page})*]")
         kill(0.3)
-        self.remove_kept()
+        self.remove_rescues_and_autosaves()
 
     def test_kills_at_random_moments_lose_nothing(self):
         self.size_of_settings = (self.folder / "pelmar.ini").stat().st_size
-        # Each leads to a moment at which files are about to be written. The question "Konec" comes after them.
+        # After each of these steps the program writes files, or has just written them before the question "Konec".
         for number, act in enumerate(("ctrl+u [Uložit] Return", "ctrl+F4 [Konec] Return", "ctrl+F4 [Konec] Escape")):
-            kept, is_new = random.random() < 0.5, random.random() < 0.5
+            rescued, is_new = random.random() < 0.5, random.random() < 0.5
             if number == 0 and not is_new:
                 act += " [Soubor] Return"
-            with self.subTest(act=act, kept=kept, is_new=is_new):
-                self.one_kill(number, act, kept, is_new)
+            with self.subTest(act=act, rescued=rescued, is_new=is_new):
+                self.check_kills(number, act, rescued, is_new)
 
 
 if __name__ == "__main__":

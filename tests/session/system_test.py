@@ -22,7 +22,7 @@ class SystemTest(EditorCase):
         self.root.chmod(0o711)
 
     def start_print_server(self):
-        """One that keeps each job, with a printer that is not enabled yet."""
+        """Starts a server that keeps each job. Its printer isn't enabled yet."""
         (self.root / "server.conf").write_text(SERVER.format(self.root))
         (self.root / "files.conf").write_text(FILES.format(self.root))
         if AS_USER:
@@ -40,18 +40,20 @@ class SystemTest(EditorCase):
     def jobs(self):
         return list((self.root / "jobs").glob("d*"))
 
-    def test_a_refused_job_ends_the_program_and_words_reach_a_printer_that_takes_them(self):
+    def test_a_refused_print_job_ends_the_program(self):
         self.start_print_server()
-        page = self.write("page.html", WORDS)
-        self.start_with(page)
+        self.start_with(self.write("page.html", WORDS))
         self.work("alt+s t [Pelmar VEX] Return")
         self.wait_exit(1)
         self.assertEqual(self.jobs(), [])
+
+    def test_the_words_of_the_document_reach_the_printer(self):
+        self.start_print_server()
         self.command("cupsenable", "Test")
         self.command("cupsaccept", "Test")
-        self.start_with(page)
+        self.start_with(self.write("page.html", WORDS))
         self.work("alt+s t")
-        job, = self.wait(self.jobs, "a print job")
+        [job] = self.wait(self.jobs, "a print job")
         self.wait(lambda: b"%%EOF" in job.read_bytes()[-32:], "the whole job")
         self.assertEqual(self.command("pdftotext", job, "-").split(), WORDS.split())
 
@@ -60,7 +62,7 @@ class SystemTest(EditorCase):
         self.command(*as_root, "dpkg", f"--root={self.tree}", "--force-depends", "--force-not-root", *arguments)
 
     def install_packages(self):
-        """Builds the packages, checks them, and installs them in a tree of their own."""
+        """Builds the packages, checks them, and installs them in a separate tree."""
         self.command("cpack", "--config", built("CPackConfig.cmake"), "-B", self.root / "packages")
         self.packages = {one.name.split("_")[0]: one for one in (self.root / "packages").glob("*.deb")}
         self.command("lintian", "--allow-root", "--fail-on", "error,warning", *self.packages.values())
@@ -75,21 +77,21 @@ class SystemTest(EditorCase):
 
     def test_an_ordinary_user_works_and_keeps_the_files_after_a_removal(self):
         self.install_packages()
-        # What the program loads while it runs is not found by a look at the binary.
+        # The packaging tools don't find libraries that the program loads at run time.
         depends = self.command("dpkg-deb", "-f", self.packages["pelmar-vex"], "Depends")
         self.assertTrue("libqt6svg6" in depends and "qt6-translations-l10n" in depends, depends)
         self.assertTrue(list(self.tree.glob("usr/lib/*/pelmar-vex/pelmar-printer.so")))
         program, installed = self.tree / "usr/bin/pelmar-vex", sorted(self.tree.rglob("*"))
         page = self.write("page.html", "<P>žluťoučký</P>")
         main = self.start_with(page, program=program, user=True)
-        # The help's text lies in the package. Without it a message would stay open.
+        # The help's text is in the package. Without it a message would stay open.
         self.work('"new " F1 [Help k Pelmar VEX] Escape /')
         self.assertEqual([one.title for one in self.windows()], [f"{main.title}*"])
         self.save_over()
         self.end(main, answer=None)
         if "pelmar-vex-browser" in self.packages:
             self.start("-BROWSER", title=re.compile("HTML [tT]estovací +browser.*"), program=program, user=True,
-                       https_proxy="http://127.0.0.1:9")  # its page is out of reach
+                       https_proxy="http://127.0.0.1:9")  # its start page can't be reached
             self.kill()
         self.assertEqual(sorted(self.tree.rglob("*")), installed)
         self.dpkg("-r", "--force-remove-reinstreq", *self.packages)

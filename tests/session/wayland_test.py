@@ -1,6 +1,6 @@
 """The program on a Wayland compositor without an X server, read over the accessibility bus as a screen reader does.
 
-The test starts itself again on a bus of its own, by the distribution's Python, which has the bindings."""
+The test restarts itself on a separate bus with the distribution's Python, which has the bindings."""
 
 import contextlib
 import os
@@ -29,7 +29,7 @@ def children(node):
 
 
 def walk(node):
-    """The node and all that lies below it."""
+    """The node and all its descendants."""
     yield node
     for child in children(node):
         yield from walk(child)
@@ -40,7 +40,7 @@ def has(node, state):
 
 
 class Compositor(Screen):
-    """A Wayland compositor in a window of an X screen, from which it has its keyboard."""
+    """A Wayland compositor in a window of an X screen. It uses the keyboard of this screen."""
 
     def begin(self):
         super().begin()
