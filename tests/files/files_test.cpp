@@ -34,7 +34,8 @@ struct FilesTest : testing::Test {
   ScriptedPlatform platform;
   WholeEditor editor{platform};
   Documents& documents = editor.documents;
-  const DocumentState changed{"(/a.txt)*", "a.txt", "/a.txt", "/a.txt", false, 1};
+  const DocumentState changed{
+      .title = "(/a.txt)*", .tab = "a.txt", .tip = "/a.txt", .slot_path = "/a.txt", .unsaved = 1};
 
   FilesTest() {
     platform.files = {{"/a.txt", "saved"}, {"/b.txt", "b"}, {"/README", "r"}};
@@ -110,7 +111,9 @@ TEST_F(FilesTest, OpeningANameWithoutADotFailsHalfwayAndLeavesTheFileOpen) {
   EXPECT_EQ(Run("mnu_open_st", "/README"), Calls{kOpenDialog});
   EXPECT_EQ(Marked(editor.text), "|r");
   EXPECT_EQ(documents.CurrentPath(), "/README");
-  EXPECT_EQ(StateOf(documents), (DocumentState{"(/a.txt)*", "a.txt", "/a.txt", "/README", false, 1}));
+  DocumentState expected = changed;
+  expected.slot_path = "/README";
+  EXPECT_EQ(StateOf(documents), expected);
   EXPECT_TRUE(editor.file_number.IsOpen());
   EXPECT_EQ(Run("mnu_open_st", "/b.txt", {kOk}).back(), MessageCall(0, "Soubor /b.txt nenalezen!"));
   EXPECT_EQ(editor.opener.Preview("/b.txt"), "Není k dispozici"_w);
