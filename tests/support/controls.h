@@ -25,7 +25,7 @@ inline bool RollWheel(QWidget& widget, QPoint pixels, QPoint angle, Qt::Keyboard
   return wheel.isAccepted();
 }
 
-// Runs `act` inside the next event loop, for a following call that waits in a modal dialog.
+// Runs `act` in the next event loop. Call this before a function that waits in a modal dialog.
 inline void Inside(std::function<void()> act) { QTimer::singleShot(0, qApp, std::move(act)); }
 
 // Like Inside, with the open modal dialog as argument. A dialog of another type is a failure.

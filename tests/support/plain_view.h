@@ -43,13 +43,13 @@ class PlainView : public MainView {
 
  private:
   template <typename Value, typename Given>
-  void Set(Value& kept, const Given& given, const char* call) {
-    kept = given;
+  void Set(Value& stored, const Given& given, const char* call) {
+    stored = given;
     calls.emplace_back(call);
   }
 };
 
-// A look in one line.
+// The look in one line.
 inline std::string Described(const EditorLook& look) {
   return look.font_name + ' ' + std::to_string(std::lround(look.font_size)) + (look.bold ? " bold" : "") +
          (look.italic ? " italic " : " ") + ColorToHex(look.fore_color) + ' ' + ColorToHex(look.back_color);

@@ -1,4 +1,4 @@
-// Lets a failing comparison of places print them.
+// Prints the places of windows in a failed comparison.
 #pragma once
 
 #include <ostream>

@@ -44,7 +44,7 @@ struct ProgramTest : testing::Test {
     while (QWidget* window = VisibleWindow()) window->hide();
     editor.commands.Run(command);
     if (QWidget* window = VisibleWindow()) return *window;
-    throw std::logic_error("no window opens by " + command);
+    throw std::logic_error("no window was opened by " + command);
   }
 
   // A visible window or dialog other than the main window, or null.

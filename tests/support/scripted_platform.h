@@ -73,10 +73,10 @@ class ScriptedPlatform : public Platform, public Paper {
     return Take(inputs, Note("input", {prompt, title, initial}));
   }
   std::optional<std::string> OpenDialog(std::string_view filter, int filter_index) override {
-    return Take(opens, Note("open", {filter}) += ' ' + std::to_string(filter_index));
+    return Take(opens, Note("open", {filter}, ' ' + std::to_string(filter_index)));
   }
   std::optional<std::string> SaveDialog(std::string_view filter, int filter_index) override {
-    return Take(saves, Note("save", {filter}) += ' ' + std::to_string(filter_index));
+    return Take(saves, Note("save", {filter}, ' ' + std::to_string(filter_index)));
   }
 
   const std::optional<std::string>& ClipboardContent() override { return clipboard; }
@@ -116,14 +116,18 @@ class ScriptedPlatform : public Platform, public Paper {
   int ReadByPieces(const std::string& path, const std::function<bool(std::string_view piece)>& take) override {
     if (const int error = ReadError(path)) return error;
     const std::string_view bytes = files[path];
-    for (std::size_t at = 0; at < bytes.size() && take(bytes.substr(at, 3)); at += 3) continue;
+    for (std::size_t at = 0; at < bytes.size(); at += 3)
+      if (!take(bytes.substr(at, 3))) break;
     return 0;
   }
   WriteOutcome RewriteFile(const std::string& source, const std::string& target, OldTail tail,
                            FileRewriter& rewriter) override {
     Note("rewrite " + source + ' ' + target);
     std::string out;
-    const auto rewrite = [&](std::string_view piece) { return out += rewriter.Rewrite(piece), true; };
+    const auto rewrite = [&](std::string_view piece) {
+      out += rewriter.Rewrite(piece);
+      return true;
+    };
     if (const int error = ReadByPieces(source, rewrite)) return {.error = error};
     out += rewriter.Finish();
     out.resize(static_cast<std::size_t>(rewriter.Kept()));
@@ -173,15 +177,15 @@ class ScriptedPlatform : public Platform, public Paper {
   }
 
  private:
-  // Adds a call to the list, with its texts in quotes.
-  std::string& Note(std::string call, std::initializer_list<std::string_view> texts = {}) {
+  // Adds a call to the list, with its texts in quotes before the `end`.
+  std::string& Note(std::string call, std::initializer_list<std::string_view> texts = {}, const std::string& end = "") {
     for (const std::string_view text : texts) call += " \"" + std::string(text) + '"';
     const std::lock_guard hold(lock_);
-    return calls.emplace_back(std::move(call));
+    return calls.emplace_back(call + end);
   }
   template <typename Value>
   Value Take(std::deque<Value>& queue, const std::string& call) {
-    if (queue.empty()) throw std::logic_error("nobody answers " + call);
+    if (queue.empty()) throw std::logic_error("no answer to " + call);
     Value answer = std::move(queue.front());
     queue.pop_front();
     return answer;

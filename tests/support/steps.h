@@ -8,7 +8,7 @@
 //   Text1=abc      replaces the text of a field or of an editable box
 //   VScroll1=3     moves a scroll bar to a value
 //   List1=2        makes a row of a list current, counted from 0; List1=abc the first row that begins with "abc"
-//   Combo1=2       chooses a row of a box that isn't editable, TabStrip1=1 a tab
+//   Combo1=2       chooses a row of a box that isn't editable; TabStrip1=1 chooses a tab
 //   Dir1=/a        goes to a folder
 //   Text1:ab\r     gives the focus to a control and types: \r Enter, \b Backspace, \x7f Delete, \x1b Escape, → and ↓
 // States:
@@ -72,17 +72,17 @@ inline void Work(const QWidget& window, const char* steps) {
   for (const QString& step : Words(steps)) {
     const auto end = std::find_if(step.begin(), step.end(), [](QChar c) { return QLatin1String("!=:").contains(c); });
     const QString name = step.left(end - step.begin()), value = step.mid(name.size() + 1);
-    const QChar act = step.size() > name.size() ? *end : QChar();
-    if (auto* item = window.findChild<QAction*>(name); item && act == QLatin1Char('!')) {
+    const QChar sign = step.size() > name.size() ? *end : QChar();
+    if (auto* item = window.findChild<QAction*>(name); item && sign == QLatin1Char('!')) {
       item->trigger();
       continue;
     }
     QWidget* control = Named(window, name);
     if (!control) continue;
     auto* box = qobject_cast<QComboBox*>(control);
-    if (auto* button = qobject_cast<QAbstractButton*>(control); button && act == QLatin1Char('!')) {
+    if (auto* button = qobject_cast<QAbstractButton*>(control); button && sign == QLatin1Char('!')) {
       button->click();
-    } else if (act == QLatin1Char(':')) {
+    } else if (sign == QLatin1Char(':')) {
       control->setFocus();
       for (const QChar c : value) Type(*window.focusWidget(), c);
     } else if (auto* text = qobject_cast<TextBox*>(control)) {
