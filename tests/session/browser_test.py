@@ -122,13 +122,12 @@ class BrowserTest(EditorCase):
         server, site = self.serve()
         self.start("-BROWSER", title=ALONE)
         for path in PAGES:
-            name = path.stem
-            with self.subTest(name):
-                page = path.read_text().replace("SITE", site).replace("DONE", f"document.title = '{name}'")
+            with self.subTest(path.stem):
+                page = path.read_text().replace("SITE", site).replace("DONE", f"document.title = '{path.stem}'")
                 self.work(go(f"file://{self.write('page.html', page)}"))
-                if name == "form":  # would leave the page
+                if path.stem == "form":  # would leave the page
                     self.work("[Pelmar VEX] Return /")  # No is the default
-                self.shown(name)
+                self.shown(path.stem)
                 self.assertFalse(server.reached())
         # A typed address reaches the server, so the server would have noticed the pages too.
         self.work(go(f"http://{site}/typed"))

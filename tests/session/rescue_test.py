@@ -48,9 +48,8 @@ class RescueTest(EditorCase):
             self.remove_rescues_and_autosaves()
 
     def check_kills(self, number, act, rescued, is_new):
-        """Kills the program at a random moment after `act`, and again after the next start. Each time the page's file is
-        whole, old or new, and new if the title has no star. With `rescued` a rescue file has the new text before `act`,
-        so the text isn't lost. The settings are whole."""
+        """Kills the program soon after `act`, and again after the next start. The page's file is whole, old or new (new
+        if the title has no star). The settings are whole. With `rescued` a rescue file has `new` before `act`."""
         def kill(latest):
             time.sleep(random.uniform(0, latest))
             saved = self.window(f"Pelmar VEX ({page})") is not None
