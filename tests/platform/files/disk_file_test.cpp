@@ -34,8 +34,7 @@ void SetAttribute(const std::string& path, const char* name, const std::string& 
 // A folder that every user may write to, because a test may act as another user.
 struct OpenFolder : TempFolder {
   OpenFolder() { chmod(Path().c_str(), 0777); }
-  // Lists the entries by name: "a=content b/ c>target". `detailed` adds the owner, group, permissions, number of links
-  // and attributes of each file.
+  // Lists "a=content b/ c>target" by name. `detailed` adds owner, group, permissions, links and attributes of files.
   [[nodiscard]] std::string Listing(bool detailed = false) const {
     std::string all;
     for (const fs::path& path : std::set<fs::path>{fs::recursive_directory_iterator(Path()), {}}) {
@@ -56,7 +55,7 @@ struct OpenFolder : TempFolder {
   }
 };
 
-TEST(ReadWholeFile, StopsAtTheLimitAndRefusesAHugeFileWithoutOne) {
+TEST(ReadWholeFile, StopsAtTheLimitAndRefusesAHugeFileWithoutALimit) {
   const OpenFolder folder;
   std::string all;
   for (int at = 0; at < 256 * 300; ++at) all += static_cast<char>(at);
@@ -127,9 +126,8 @@ WriteOutcome WritePlainly(const std::string& path, const std::string& bytes, How
   return {.error = close(file)};
 }
 
-// An access list in the kernel's format: version 2, then entries of tag, permissions and user. User 1234 may read, the
-// group may not.
-const std::string kSharedList(
+// In the kernel's format: version 2, then tag, permissions and user. User 1234 may read, the group may not.
+const std::string kAccessListOf1234(
     "\2\0\0\0\1\0\6\0\xff\xff\xff\xff\2\0\4\0\xd2\4\0\0\4\0\0\0\xff\xff\xff\xff"
     "\x10\0\4\0\xff\xff\xff\xff\x20\0\0\0\xff\xff\xff\xff",
     44);
@@ -171,8 +169,8 @@ TEST(WriteFile, EqualsPlainWritingInRandomFilesAndFolders) {
       if (two_names) fs::create_hard_link(file, folder.File("second name"));
       ASSERT_EQ(chown(file.c_str(), owner, file_group), 0);
       if (attribute == 1) SetAttribute(file, kNote, "from: me");
-      if (attribute == 2) SetAttribute(file, kAccessList, kSharedList);
-      if (attribute == 3) SetAttribute(folder.Path(), "system.posix_acl_default", kSharedList);
+      if (attribute == 2) SetAttribute(file, kAccessList, kAccessListOf1234);
+      if (attribute == 3) SetAttribute(folder.Path(), "system.posix_acl_default", kAccessListOf1234);
       // A save clears the set-id bits. Where plain writing keeps them, both are compared without the bits.
       const bool keeps_bits = attribute == 2 || bytes.empty() || (writer == 0 && (plain || !targets_file));
       ASSERT_EQ(chmod(file.c_str(), keeps_bits ? mode & 0777 : mode), 0);
@@ -205,9 +203,7 @@ const struct Way {
   const char* name;
   const char* steps;  // the order in which content, name and folder reach the disk
   How how = How::kSave;
-  bool hard_link = false;   // the file has two names, so it is overwritten in place
-  bool no_unnamed = false;  // the file system supports no files without a name
-  bool is_new = false;      // there is no old file
+  bool hard_link = false, no_unnamed = false, is_new = false;
 } kWays[] = {{"replaced", "content link rename folder"},
              {"replaced, no unnamed files", "create content rename folder", How::kSave, false, true},
              {"in place", "content link folder content remove", How::kSave, true},

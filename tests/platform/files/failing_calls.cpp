@@ -60,10 +60,9 @@ int open(const char* path, int flags, ...) {
 // A failing call writes half of the bytes, as on a disk that becomes full.
 ssize_t write(int file, const void* bytes, size_t size) {
   const bool fails = pelmar::Fails();
-  const int error = errno;
   const ssize_t written = pelmar::Real<ssize_t>("write", file, bytes, fails ? size / 2 : size);
   if (!fails) return written;
-  errno = error;
+  errno = pelmar::failing.error;
   return -1;
 }
 // While calls are counted, nothing waits for the disk: a test makes hundreds of saves.

@@ -60,10 +60,7 @@ TEST(Files, AreTheSameAndHaveOneStampUnderAllTheirNames) {
   EXPECT_FALSE(platform.IsSameFile(folder.File("none"), folder.File("none")) || platform.Stamp(folder.File("none")));
 }
 
-TEST(InstallFolder, Exists) {
-  const std::string folder = QtPlatform().InstallFolder();
-  EXPECT_TRUE(std::filesystem::is_directory(folder)) << folder;
-}
+TEST(InstallFolder, Exists) { EXPECT_TRUE(std::filesystem::is_directory(QtPlatform().InstallFolder())); }
 
 // A regular file marks the program's folder: "pelmar.ini" with any content, or an empty "portable".
 TEST(InstallFolder, IsTheMarkedFolderOfTheProgramOrAFolderForTheUserAlone) {
