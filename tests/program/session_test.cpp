@@ -40,18 +40,10 @@ struct PlainProgram {
   }
 };
 
-const SettingsRecord kStored{.Width = 9000,
-                             .Height = 6000,
-                             .Top = 300,
-                             .Left = 150,
-                             .FontName = "Font",
-                             .ForeColor = 1,
-                             .BackColor = 2,
-                             .FontSize = 12,
-                             .UserName = "Jan",
-                             .UserEmail = "j@x.cz",
-                             .LockPassword = {},
-                             .RecentFiles = {}};
+// Width, height, top, left, always on top, font name, colour of text and background, font size,
+// bold, italic, user name, e-mail, show Start, autosnap distance, password, recent files.
+const SettingsRecord kStored{9000,  6000,  300,   150,      false, "Font", 1,  2, 12,
+                             false, false, "Jan", "j@x.cz", false, 0,      "", {}};
 
 struct SessionTest : testing::Test, PlainProgram {};
 
