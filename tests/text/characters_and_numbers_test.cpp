@@ -74,7 +74,7 @@ TEST(NumberText, WritesFifteenDigitsWithAComma) {
   EXPECT_EQ(NumberText(0.00001f), "1E-05");
 }
 
-TEST(NumberText, FixedNumbersRoundHalvesUp) {
+TEST(NumberText, FixedNumbersRoundHalvesAwayFromZero) {
   const std::pair<double, const char*> cases[] = {
       {1.0, "1,00000"},      {1.015625, "1,01563"},  {1.0390625, "1,03906"}, {0.000005, "0,00001"},
       {1.000005, "1,00001"}, {9.999999, "10,00000"}, {-0.000001, "0,00000"}, {-1.2345678, "-1,23457"}};

@@ -53,7 +53,7 @@ TEST_F(OpenDialogTest, OpensAfterAQuestionAndHides) {
   EXPECT_FALSE(dialog.isVisible());
 }
 
-TEST_F(OpenDialogTest, ANameThatIsNoUtf8IsOpenedAndSavedByItsBytes) {
+TEST_F(OpenDialogTest, ANameThatIsNotUtf8IsOpenedAndSavedByItsBytes) {
   const std::string path = folder.Put("k\xF9\xF2.txt", "");
   platform.files[path] = "horse";
   platform.answers = {Answer::kYes};
