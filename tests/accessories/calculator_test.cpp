@@ -70,7 +70,8 @@ TEST_F(CalculatorTest, OperatorsComputeOrShowAMessage) {
   }
 }
 
-TEST_F(CalculatorTest, FunctionsLeaveAWaitingOperatorUnlessTheyFail) {
+// Only the message kNoResult also removes a waiting operator.
+TEST_F(CalculatorTest, FunctionsComputeOrShowAMessage) {
   const struct {
     const char *name, *number;
     void (Calculator::*function)();
@@ -120,7 +121,7 @@ TEST(Roman, IsAdditive) {
   EXPECT_EQ(ToRoman(3000, always), "MMM");
 }
 
-TEST(ReadNumber, PrefixesAreTwosComplement) {
+TEST(ReadNumber, ReadsPrefixedNumbersAsTwosComplement) {
   const std::pair<const char*, std::optional<double>> cases[] = {
       {"-12ab", -12},
       {"", 0},
@@ -153,11 +154,12 @@ TEST(Converter, FillsTheOtherFields) {
     const char *digits, *decimal, *hexadecimal, *octal;
     std::optional<int> roman;  // the number whose Roman form is shown
   } cases[] = {
+      // The field and the typed digits; then the decimal, hexadecimal and octal field and the Roman number.
       {kDecimal, "007", "7", "7", "7", 7},
       {kDecimal, "999999999", "999999999", "3B9AC9FF", "7346544777", 999999999},
-      {kDecimal, "1234567890", "123456789", "75BCD15", "726746425", 123456789},  // the tenth digit doesn't stay
+      {kDecimal, "1234567890", "123456789", "75BCD15", "726746425", 123456789},  // a tenth digit is dropped
       {kHexadecimal, "FFFF", "-1", "FFFF", "37777777777", -1},
-      // The decimal field keeps nine characters of a longer number. The Roman form is that of the field.
+      // The decimal field keeps nine characters of a longer number. The Roman number is the number of this field.
       {kHexadecimal, "7FFFFFFF", "214748364", "7FFFFFFF", "17777777777", 214748364},
       {kHexadecimal, "80000000", "-21474836", "80000000", "20000000000", -21474836},
       {kHexadecimal, "FFFFFFFFFF", "0", "FFFFFFFFF", "0", std::nullopt},  // too large

@@ -15,7 +15,7 @@ namespace {
 constexpr char kPath[] = "/install/notes.dat";
 const NotesRecord kStored{{"a\r\n", "", std::string(258, 'x'), "\xE8\xFF", std::string("\0z", 2)}};
 
-// The bytes of the first two pages of kStored, and the length of 258 of the third.
+// The bytes of the first two pages of kStored, and the length of the third page, 258.
 const std::string kBeginning("\3\0a\r\n\0\0\2\1", 9);
 
 TEST(NotesFile, HasALengthOf16BitsBeforeEachPage) {
@@ -23,7 +23,7 @@ TEST(NotesFile, HasALengthOf16BitsBeforeEachPage) {
   EXPECT_EQ(ReadNotes(NotesBytes(kStored)), kStored);
 }
 
-TEST(NotesFile, IsEmptyFromACutPageOn) { EXPECT_EQ(ReadNotes(kBeginning + "xx"), (NotesRecord{{"a\r\n"}})); }
+TEST(NotesFile, ReadsATruncatedPageAsEmpty) { EXPECT_EQ(ReadNotes(kBeginning + "xx"), (NotesRecord{{"a\r\n"}})); }
 
 TEST(NotesFile, HoldsAtMost65535BytesOfAPage) {
   NotesRecord record;
@@ -55,7 +55,7 @@ TEST_F(NotesOnDisk, TheTailOfALongerRecordStaysAndIsNotRead) {
   EXPECT_EQ(Load(), (NotesRecord{{"b"}}));
 }
 
-TEST_F(NotesOnDisk, AFileThatDisappearedTakesNoPageAway) {
+TEST_F(NotesOnDisk, ADisappearedFileDoesNotEmptyThePages) {
   EXPECT_EQ(LoadNotesAnew(kStored, platform, file_number), kStored);
   StoreNotes({}, platform, file_number);
   EXPECT_EQ(LoadNotesAnew(kStored, platform, file_number), NotesRecord{});
@@ -69,10 +69,10 @@ TEST_F(NotesOnDisk, AnUnreadableFileIsNotOverwritten) {
   EXPECT_EQ(platform.files[kPath], "kept");
 }
 
-// Merges the pages here into the file that another copy has stored since. Both began with the same pages. The number is
-// that of a page of which both texts are kept, or 0.
-std::pair<NotesRecord, int> Merged(const NotesRecord& here, const NotesRecord& file) {
-  const MergedNotes merged = MergeNotes({{"one", "two", "", "four", "five"}}, here, file);
+// Merges this copy's pages with the file that another copy has written. Both copies began with the same pages. Returns
+// the merged pages, and the number of a page in conflict or 0.
+std::pair<NotesRecord, int> Merged(const NotesRecord& own, const NotesRecord& file) {
+  const MergedNotes merged = MergeNotes({{"one", "two", "", "four", "five"}}, own, file);
   return {merged.record, merged.page_in_conflict};
 }
 
@@ -82,19 +82,20 @@ TEST(MergeNotes, APageThatOneSideChangedComesFromThatSide) {
   EXPECT_EQ(Merged(changed, {{"one", "two", "", "four", "five"}}), std::pair(changed, 0));
 }
 
-TEST(MergeNotes, OfAPageThatBothSidesChangedBothTextsAreKept) {
-  const NotesRecord here{{"ONE", "TWO", "", "FOUR", ""}};
-  // Page 2 goes to the empty page. Page 4 is the same on both sides. The emptied page 5 gives way.
-  EXPECT_EQ(Merged(here, {{"one", "2", "", "FOUR", "5"}}), std::pair(NotesRecord{{"ONE", "2", "TWO", "FOUR", "5"}}, 2));
+TEST(MergeNotes, BothTextsOfAPageThatBothSidesChangedAreKept) {
+  const NotesRecord own{{"ONE", "TWO", "", "FOUR", ""}};
+  // The own page 2 goes to the empty page. Page 4 is the same on both sides. Page 5 keeps the text of the file.
+  EXPECT_EQ(Merged(own, {{"one", "2", "", "FOUR", "5"}}), std::pair(NotesRecord{{"ONE", "2", "TWO", "FOUR", "5"}}, 2));
   // Without an empty page, both texts are in one page.
-  EXPECT_EQ(Merged(here, {{"1", "two", "3", "four", "5"}}),
+  EXPECT_EQ(Merged(own, {{"1", "two", "3", "four", "5"}}),
             std::pair(NotesRecord{{"1\r\n\r\nONE", "TWO", "3", "FOUR", "5"}}, 1));
 }
 
 TEST(NotesRescue, BringsAPageBackToItsPlaceOrToAnEmptyOneAndReturnsTheRest) {
   NotesRecord record{{"one", "two", "", "four", "five"}};
   const std::vector<RescueRecord> unsaved = {
-      {1, {{1, "one", "ONE"}, {3, "", "THREE"}, {5, "older", ""}}},  // an emptied page gives way to a changed one
+      // Page 5 has changed since, and its unsaved text is empty.
+      {1, {{1, "one", "ONE"}, {3, "", "THREE"}, {5, "older", ""}}},
       {2, {{1, "one", "another one"}, {2, "two", ""}}},
       {1, {{4, "older", "no place"}}},
   };
@@ -109,7 +110,7 @@ struct CheckpointTest : testing::Test {
   TextBuffer document, note;
 };
 
-TEST_F(CheckpointTest, ComesBackToTheByteAfterAYes) {
+TEST_F(CheckpointTest, IsRestoredByteForByteAfterAYes) {
   document.SetText("text\r\n\xFF");
   note.SetText("old note");
   SaveCheckpoint(document, note, platform);
@@ -128,7 +129,7 @@ TEST_F(CheckpointTest, AnEmptyNoteRestoresNothingAndAsksNothing) {
   EXPECT_EQ(document.Text(), "text");
 }
 
-TEST_F(CheckpointTest, ATextThatNoNoteHoldsIsRefused) {
+TEST_F(CheckpointTest, ATextTooLongForANoteIsRefused) {
   document.SetText(std::string(65536, 'x'));
   note.SetText("old note");
   platform.answers = {Answer::kOk};
@@ -139,6 +140,7 @@ TEST_F(CheckpointTest, ATextThatNoNoteHoldsIsRefused) {
 using enum WindowMode;
 constexpr int kWidth = 19200, kHeight = 15360;
 
+// The snap distance is 240, the smallest width of the notes 2700.
 NotesSurroundings Around(TwipsRect notes, StartMode mode = StartMode::kEditor, bool docked = false,
                          WindowMode main_state = kNormal, int main_width = 12000) {
   return {notes, {1500, 600, main_width, 9000}, main_state, mode, docked, 240, {0, 0, kWidth, kHeight}, 2700};
@@ -154,8 +156,8 @@ TEST(PlaceNotes, SnapsOrDocksOnEitherScreen) {
       {"docked beside a minimised one", Around(edge, kEditor, true, kMinimised), {0, 300, 6000, 4000}},
       {"docked beside a maximised one", Around(edge, kEditor, true, kMaximised), {16500, 0, 2700, kHeight}},
       {"in the corner", Around(edge, kNotes, true), {13200, 11360, 6000, 4000}},
-      {"without room", Around(edge, kEditor, true, kNormal, kWidth - 1500), {kWidth, 600, 6000, 9000}},
-      {"with too little", Around(edge, kEditor, true, kNormal, kWidth - 1800), {kWidth - 300, 600, 2700, 9000}},
+      {"docked, no room", Around(edge, kEditor, true, kNormal, kWidth - 1500), {kWidth, 600, 6000, 9000}},
+      {"docked, little room", Around(edge, kEditor, true, kNormal, kWidth - 1800), {kWidth - 300, 600, 2700, 9000}},
   };
   const auto on_second = [](TwipsRect place) {
     return TwipsRect{place.left + 28800, place.top - 600, place.width, place.height};

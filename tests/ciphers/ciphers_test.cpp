@@ -15,7 +15,7 @@
 namespace pelmar {
 namespace {
 
-TEST(Shiftp, MovesLettersAlone) {
+TEST(Shiftp, MovesOnlyLetters) {
   const struct {
     std::string_view text;
     std::int16_t shift;
@@ -24,14 +24,14 @@ TEST(Shiftp, MovesLettersAlone) {
       {"Ahoj, Čecho!"_w, 1, "Bipk, Čfdip!"_w},
       {"aZ\r\n09@[`{", 26, "aZ\r\n09@[`{"},
       {"AzBb", 25, "ZyAa"},
-      {"A", 60, "C"},  // required: one turn is taken back, no more, and the case forced on what comes out
+      {"A", 60, "C"},  // required: the alphabet repeats once, then the result gets the case of the letter
       {"A", -1, "@"},
   };
   for (const auto& c : cases) EXPECT_EQ(Shiftp(c.text, c.shift), c.shifted) << c.text << ' ' << c.shift;
 }
 
-// Every character uses up a digit, also a line end; what is no digit counts as 0.
-TEST(Cronfeld, IsAShiftOfEachCharacterByItsDigitAndBack) {
+// Each character uses the next digit, even in a line end. Other characters of the password count as 0.
+TEST(Cronfeld, MovesEachCharacterByItsDigitAndBack) {
   EXPECT_EQ(CronfeldEncipher("Čaa aa"_w, "12"), "Čcb bc"_w);
   RandomSource random(4);
   for (int round = 0; round < 3000; ++round) {
@@ -46,7 +46,7 @@ TEST(Cronfeld, IsAShiftOfEachCharacterByItsDigitAndBack) {
   }
 }
 
-TEST(KeyFields, AKeyIsANumberAndAPasswordAWholeOne) {
+TEST(KeyFields, ReduceATypedTextToTheNumberAtItsStart) {
   const struct {
     const char *typed, *key, *password;
   } cases[] = {
@@ -64,7 +64,7 @@ TEST(RandomPassword, HasFifteenDigitsOfWhichTheFirstIsNotZero) {
   EXPECT_EQ(RandomPassword([] { return 0.999; }), "999999999999999");
 }
 
-TEST(HackerTranscription, DrawsEachLookAlikeAsOftenAsTheOthersAndLeavesAllElse) {
+TEST(HackerTranscription, GivesEachLookAlikeAnEqualShareAndKeepsOtherCharacters) {
   const std::pair<double, const char*> cases[] = {{0.1, "AABCDEFGHIJKLMNOPQRSTUVWXYZZ Í\r\n1"},
                                                   {0.3, "aaBCdEFGHiJKlmNOPQRsTUVwXYZZ Í\r\n1"},
                                                   {0.5, "@@bc)efgh1jk7~nopqr5tuv~xyzz Í\r\n1"},
@@ -89,7 +89,7 @@ TEST(StreamCipher, HasTheRequiredKeyBytes) {
   EXPECT_EQ(Enciphered(zeros, 123), "\xCB\x06\xB4\x86\x9F\x13");
 }
 
-// A second implementation of the generator, by divisions of longer numbers.
+// A second implementation of the generator, with divisions of larger numbers.
 struct SecondGenerator {
   unsigned long long state = 0x395886;
 
@@ -105,7 +105,7 @@ struct SecondGenerator {
 };
 
 // required: the character that equals its key byte is lost
-TEST(StreamCipher, EqualsASecondGeneratorWithoutTheZeros) {
+TEST(StreamCipher, EqualsASecondImplementationAndDropsZeros) {
   std::vector<double> keys = {0, 1, -1, 0.5, 0.1, 1e15, 1e-300, 1.5e308, -12345678901234, 65535, 65536};
   RandomSource random(3);
   for (int i = 0; i < 1000; ++i) keys.push_back(std::ldexp(random.Next(), static_cast<int>(random.Below(1000)) - 500));
@@ -118,7 +118,8 @@ TEST(StreamCipher, EqualsASecondGeneratorWithoutTheZeros) {
     for (const char ch : text) {
       const double drawn = second.Next();
       ASSERT_EQ(generator.Draw(), drawn) << key;
-      if (const int code = CodeOf(ch) ^ static_cast<int>(drawn * 254 + 1)) expected += CharOf(code);
+      const int code = CodeOf(ch) ^ static_cast<int>(drawn * 254 + 1);
+      if (code != 0) expected += CharOf(code);
     }
     ASSERT_EQ(Enciphered(text, key), expected) << key;
   }
@@ -140,20 +141,20 @@ struct StreamTest : testing::Test {
   }
 };
 
-TEST_F(StreamTest, ContinuesAfterCode8AtNoAndKeepsTheDocumentAtYes) {
+TEST_F(StreamTest, AtCode8ANoContinuesAndAYesKeepsTheDocument) {
   platform.answers = {Answer::kOk, Answer::kNo, Answer::kOk, Answer::kYes};
   Rewrite("a\bb");
   EXPECT_EQ(document.Text(), Enciphered("a\bb", 3));
   EXPECT_EQ(platform.TakeCallsInOneLine(),
             "message 0 \"Porusena intengrita textu!\" \"Kódování\"; "
             "message 52 \"Ukončit proces? (doporučuji ne)\" \"Kódování\"; ");
-  EXPECT_EQ(progress, (std::vector<std::size_t>{1, 2, 2, 3}));  // the warning stands at its character
+  EXPECT_EQ(progress, (std::vector<std::size_t>{1, 2, 2, 3}));  // 2 is shown during the question
   Rewrite("a\bb");
   EXPECT_EQ(document.Text(), "a\bb");
   EXPECT_EQ(output, Enciphered("a", 3));
 }
 
-TEST_F(StreamTest, ReadsEachCharacterAtItsTurnAndTheLengthOnce) {
+TEST_F(StreamTest, ContinuesInAChangedDocumentUpToTheOldLength) {
   const std::string text(20000, 'a');
   Rewrite(text, [&] {
     if (progress.size() == 1) document.SetText(std::string(30000, 'b'));
@@ -162,17 +163,18 @@ TEST_F(StreamTest, ReadsEachCharacterAtItsTurnAndTheLengthOnce) {
   EXPECT_EQ(document.Text(), Enciphered(std::string(done, 'a') + std::string(text.size() - done, 'b'), 3));
 }
 
-TEST_F(StreamTest, EndsWithADocumentThatBecomesShorter) {
+TEST_F(StreamTest, EndsAtTheEndOfAShortenedDocument) {
   Rewrite(std::string(20000, 'a'), [&] { document.SetText("short"); });
   EXPECT_EQ(document.Text(), Enciphered(std::string(progress.front(), 'a'), 3));
 }
 
-TEST(CheckSums, StandInFourLines) {
+TEST(CheckSums, AreShownInFourLines) {
   const struct {
     std::string text;
     const char *crc, *contra_crc, *and_crc, *short_crc;
   } cases[] = {
-      {"ABCDE", "14F (335)", "A (10)", "80 (128)", "0 (0)"},  // the last character has no partner and no four
+      // The last character is in no pair and in no group of four.
+      {"ABCDE", "14F (335)", "A (10)", "80 (128)", "0 (0)"},
       {"ACBD", "10A (266)", "8 (8)", "81 (129)", "1 (1)"},
       {"\xFF\xFF\x0F\x0F\x01\x01\x02\x02", "222 (546)", "0 (0)", "111 (273)", "F3 (243)"},
   };
@@ -189,7 +191,7 @@ TEST(CheckSums, StandInFourLines) {
   }
 }
 
-TEST(PrimitiveRewrite, TakesEachCodeFrom256) {
+TEST(PrimitiveRewrite, SubtractsEachCodeFrom256) {
   ScriptedPlatform platform;
   WholeEditor editor(platform);
   editor.text.SetText("\x01\r\n\x80\xFF");

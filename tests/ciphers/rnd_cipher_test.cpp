@@ -14,7 +14,7 @@
 namespace pelmar {
 namespace {
 
-// The depth is also the seed. Codes of 24 digits and more are all different.
+// A random table. The depth is also the seed. Codes of 24 digits and more are all different.
 CipherTable Table(int depth, const std::string& note = "note") {
   RandomSource random(static_cast<unsigned>(depth));
   CipherTable table;
@@ -24,12 +24,12 @@ CipherTable Table(int depth, const std::string& note = "note") {
   return table;
 }
 
-TEST(RndCipher, PreparesTheText) {
+TEST(RndCipher, PreparesATextInUpperCaseWithoutDiacritics) {
   EXPECT_EQ(PrepareText("Žluťoučký kůň,\r\n5× úpěl\tĎÁBELSKÉ."_w), "ZLUTOUCKY KUN\r\n UPELDABELSKE");
-  EXPECT_EQ(PrepareText("ABCäöüĺľŕ XYZ"_w), "ABC XYZ");  // letters of other languages keep their marks and go
+  EXPECT_EQ(PrepareText("ABCäöüĺľŕ XYZ"_w), "ABC XYZ");  // letters of other languages are dropped
 }
 
-TEST(RndCipher, GeneratesFromPairsOfDraws) {
+TEST(RndCipher, GeneratesEachDigitAndEachLetterFromTwoDraws) {
   CipherTable table;
   std::size_t draws = 0;
   const Draw draw = [&] { return std::array{0.5, 0.5, 0.5, 0.4, 0.0, 0.99, 0.99, 0.1}[draws++ % 8]; };
@@ -61,10 +61,10 @@ TEST(RndCipher, CoefficientsCountTheFirstEightDigitsOrAll) {
   } cases[] = {
       {10, 16, "1111000010101111", "Koeficient A:1,60000 Koeficient B:1,00000 Celkem:1,600000000",
        "Koeficient A:1,60000 Koeficient B:1,66667 Celkem:2,666666667"},
-      // A ratio below 1 counts as much as it is apart from 1.
+      // A ratio below 1 counts as 2 minus the ratio.
       {16, 10, "0000111100000000", "Koeficient A:1,37500 Koeficient B:1,00000 Celkem:1,375000000",
        "Koeficient A:1,37500 Koeficient B:1,66667 Celkem:2,291666667"},
-      // Without zeros there is nothing to divide by.
+      // A division by zero gives an empty text.
       {10, 0, "111111110", "", "Koeficient A:2,00000 Koeficient B:8,00000 Celkem:16,000000000"},
       {0, 10, "01", "", ""},
   };
@@ -76,13 +76,13 @@ TEST(RndCipher, CoefficientsCountTheFirstEightDigitsOrAll) {
   }
 }
 
-TEST(RndCipher, WritesADigitAsALetterOfItsSet) {
+TEST(RndCipher, WritesEachDigitAsALetterOfItsSet) {
   CipherTable table{{"01010011"}, 8, "NOPQRSTUVWXYZ", "ABCDEFGHIJKLM", {}};
   const auto cipher = [&table](std::string_view text, double r) {
     return RndEncipher(text, table, [r] { return r; }, {});
   };
   EXPECT_EQ(cipher("A", 0.9999), "MZMZMMZZ");
-  EXPECT_EQ(cipher("A.", 0), "ANANAANNANANAANN");  // required: the one before it again
+  EXPECT_EQ(cipher("A.", 0), "ANANAANNANANAANN");  // required: "." gets the code of the symbol before it
   EXPECT_EQ(cipher(".A", 0), "NNNNNNNNANANAANN");
   table.zero_letters.clear();
   EXPECT_EQ(cipher("A", 0), "NNNN");  // draws from an empty set yield nothing
@@ -99,9 +99,9 @@ TEST(RndCipher, DecipheringUndoesEnciphering) {
   }
 }
 
-// required: the last of two equal codes counts, unknown digits repeat the character before, and the digits that are
-// left over may lie anywhere in a code
-TEST(RndCipher, DeciphersByADamagedTable) {
+// required: the last of two equal codes counts, unknown digits repeat the previous character, and too few digits at the
+// end match any part of a code
+TEST(RndCipher, DeciphersWithADamagedTable) {
   CipherTable table{{"01", "01", "110"}, 2, {}, "A", {}};
   const std::pair<std::string_view, std::string_view> cases[] = {
       {"AX", "B"}, {"A\n", "B"}, {"XXXA", "CC"}, {"AAAX", "B"}, {"AXAA", "BB"}, {"AXA", "BC"}, {"", ""}};
@@ -110,7 +110,7 @@ TEST(RndCipher, DeciphersByADamagedTable) {
   EXPECT_EQ(RndDecipher("AX", table, {}), "");
 }
 
-TEST(TableFile, ADamagedFileIsReadUpToItsEnd) {
+TEST(TableFile, IsReadUpToTheLastCompleteField) {
   const CipherTable table = Table(16, "x\r\n" + std::string(300, 'y'));
   const auto counted = [](const std::string& text) {
     return std::string{static_cast<char>(text.size() % 256), static_cast<char>(text.size() / 256)} + text;
@@ -143,7 +143,7 @@ struct TableFilesTest : testing::Test {
     EXPECT_FALSE(editor.file_number.IsOpen());
     return table.note;
   }
-  // Returns what was asked and written.
+  // Saves to the file that the dialog gives, and returns the calls.
   std::string Save(const std::optional<std::string>& path) {
     platform.saves = {path};
     files.Save(table);
@@ -164,18 +164,20 @@ TEST_F(TableFilesTest, SaveOverwritesOnlyAfterYesAndKeepsTheOldTail) {
   EXPECT_EQ(platform.files["/a.pvt"], bytes + std::string(5000 - bytes.size(), 'x'));
 }
 
-// required
-TEST_F(TableFilesTest, ACancelledSaveWritesTheLastFileAgainAndAFailedOneIsNotReported) {
+TEST_F(TableFilesTest, ACancelledSaveWritesTheLastFileAgain) {  // required
   EXPECT_EQ(Save(std::nullopt), kSaveDialog);
   EXPECT_EQ(Save("/a.pvt"), kSaveDialog + "write /a.pvt; ");
   EXPECT_EQ(platform.files["/a.pvt"], TableBytes(table));
   platform.answers = {Answer::kNo};
   EXPECT_EQ(Save(std::nullopt), kSaveDialog + kOverwrite);
+}
+
+TEST_F(TableFilesTest, AFailedSaveIsNotReported) {  // required
   platform.write_errors["/full.pvt"] = ENOSPC;
   EXPECT_EQ(Save("/full.pvt"), kSaveDialog + "write /full.pvt; ");
 }
 
-TEST_F(TableFilesTest, LoadKeepsTheTableIfItCannotRead) {
+TEST_F(TableFilesTest, LoadKeepsTheTableIfTheFileCannotBeRead) {
   platform.files["/folder/"] = "";
   platform.read_errors["/locked.pvt"] = EACCES;
   platform.write_errors["/gone/new.pvt"] = ENOENT;
@@ -185,14 +187,16 @@ TEST_F(TableFilesTest, LoadKeepsTheTableIfItCannotRead) {
   }
 }
 
-// required
-TEST_F(TableFilesTest, ACancelledLoadReadsTheLastFileAgainAndAMissingFileReadsAsEmpty) {
+TEST_F(TableFilesTest, ACancelledLoadReadsTheLastFileAgain) {  // required
   platform.files["/a.pvt"] = TableBytes(Table(16, "file"));
   EXPECT_EQ(Load("/a.pvt"), "file");
   table = {};
   EXPECT_EQ(Load(std::nullopt), "file");
   EXPECT_EQ(TableBytes(table), platform.files["/a.pvt"]);
-  EXPECT_EQ(Load("/new.pvt"), "");  // a missing file is created
+}
+
+TEST_F(TableFilesTest, AMissingFileIsCreatedAndReadAsEmpty) {  // required
+  EXPECT_EQ(Load("/new.pvt"), "");
   EXPECT_EQ(platform.files.at("/new.pvt"), "");
   EXPECT_EQ(TableBytes(table), TableBytes({}));
 }

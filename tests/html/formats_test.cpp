@@ -16,9 +16,9 @@
 namespace pelmar {
 namespace {
 
-// What the function makes of a text that is selected as a whole.
+// Calls the function with a document of the selected text, and returns the new document.
 template <class Function, class Spec>
-std::string Made(Function write, const Spec& spec, std::string_view selected) {
+std::string Apply(Function write, const Spec& spec, std::string_view selected) {
   TextBuffer text;
   text.SetText(std::string(selected));
   text.Select(0, text.Size());
@@ -30,15 +30,15 @@ constexpr auto kWrap = [](TextBuffer& document, const Wrapping& tag) { WrapSelec
 using Cases = std::vector<std::pair<std::string, std::string>>;
 
 void ExpectWritten(const Cases& cases) {
-  for (const auto& [made, expected] : cases) EXPECT_EQ(ToUtf8(made), expected);
+  for (const auto& [written, expected] : cases) EXPECT_EQ(ToUtf8(written), expected);
 }
 
-TEST(Formats, BlocksAndFragments) {
+TEST(HtmlOutput, IsExactForBlocksAndFragments) {
   ExpectWritten({
-      {Made(kWrap, Paragraph(Align::kLeft), ""), R"(<P ALIGN = "LEFT" > Odstavcový text </P>)"},
-      {Made(kWrap, Heading({" 3", Align::kRight, true}), "x"), R"(<H3 NOWRAP ALIGN = "RIGHT"> x </H3>)"},
-      {Made(kWrap, Heading({"6", Align::kNone, false}), ""), "<H6> Nadpisový text </H6>"},
-      {Made(kWrap, Font({}), ""), "<FONT> fontové písmo </FONT>"},  // required: blanks around the sample only
+      {Apply(kWrap, Paragraph(Align::kLeft), ""), R"(<P ALIGN = "LEFT" > Odstavcový text </P>)"},
+      {Apply(kWrap, Heading({" 3", Align::kRight, true}), "x"), R"(<H3 NOWRAP ALIGN = "RIGHT"> x </H3>)"},
+      {Apply(kWrap, Heading({"6", Align::kNone, false}), ""), "<H6> Nadpisový text </H6>"},
+      {Apply(kWrap, Font({}), ""), "<FONT> fontové písmo </FONT>"},  // required: blanks around the sample only
       {HorizontalRule({Align::kCenter, true, " 50%"}), R"(<HR ALIGN = "CENTER" NOSHADE Width = "50%">)"},
       {LinedHeading("x"), R"(<HR ALIGN = "LEFT" Width = "60%"><H2>x</H2><HR ALIGN = "RIGHT" Width = "60%">)"},
       {Fraction("A", "B"), "<SUP>A</SUP>/<SUB>B</SUB>"},
@@ -50,57 +50,58 @@ TEST(Formats, BlocksAndFragments) {
   });
 }
 
-TEST(Formats, PathsLinksImagesAndFrames) {
+TEST(HtmlOutput, IsExactForPathsLinksImagesAndFrames) {
+  // Path, whether it is relative, ALT, ALIGN, WIDTH and HEIGHT, VSPACE and HSPACE, BORDER, LOWSRC, USEMAP.
   const ImageSpec image{
       "b",  true,      "a \"b\" <", ImageAlign::kLeft, ImageSpec::Size{" 10%", " 20"}, ImageSpec::Space{" 3", " 4"},
       " 5", "low.jpg", "#mapa"};
   ExpectWritten({
       {FileAddress("C:\\a\\b c.gif", false), "file:///C:/a/b c.gif"},
       {FileAddress("a\\b.gif", true), "a/b.gif"},
-      // Only what could not lead to its file is encoded.
+      // Only characters outside the code page and bytes that aren't UTF-8 are encoded.
       {LinkText("/moje složka/50%#.htm"), "/moje složka/50%#.htm"},
       {LinkText("Жč?😀k\xF9.htm"), "%D0%96č?%F0%9F%98%80k%F9.htm"},
       {LinkText("\xF2\xC5"), "%F2%C5"},
       {AnchorTag("Kotva 1"), R"(<A NAME="Kotva 1"></A>)"},
-      {Made(kWrap, LinkToAnchor("x"), " "), R"(<A HREF="#x"> </A>)"},
-      {Made(kWrap, LinkToAnchor("část"_w), ""), R"(<A HREF="#část">Odkaz na část</A>)"},
-      {Made(kWrap, LinkToMail("a@b"), "x"), R"(<A HREF="mailto:a@b" >x</A>)"},  // required: the blank
-      {Made(kWrap, LinkToDocument({"x.htm", "a", "_top"}), ""),
+      {Apply(kWrap, LinkToAnchor("x"), " "), R"(<A HREF="#x"> </A>)"},
+      {Apply(kWrap, LinkToAnchor("část"_w), ""), R"(<A HREF="#část">Odkaz na část</A>)"},
+      {Apply(kWrap, LinkToMail("a@b"), "x"), R"(<A HREF="mailto:a@b" >x</A>)"},  // required: the blank
+      {Apply(kWrap, LinkToDocument({"x.htm", "a", "_top"}), ""),
        R"(<A HREF="x.htm#a" TARGET="_top">Odkaz na x.htm#a</A>)"},
-      {Made(kWrap, LinkToDocument({"x.htm", "", ""}), "x"), R"(<A HREF="x.htm" TARGET="">x</A>)"},
-      {Made(kWrap, LinkToDocument({"", "a", {}}), "x"), R"(<A HREF="#a">x</A>)"},
+      {Apply(kWrap, LinkToDocument({"x.htm", "", ""}), "x"), R"(<A HREF="x.htm" TARGET="">x</A>)"},
+      {Apply(kWrap, LinkToDocument({"", "a", {}}), "x"), R"(<A HREF="#a">x</A>)"},
       {ImageTag(image), R"(<IMG SRC="b" ALT="a "b" <" ALIGN="left" WIDTH="10%" HEIGHT="20" VSPACE="3" HSPACE="4")"
                         R"( BORDER="5" LOWSRC="low.jpg" USEMAP="#mapa">)"},
-      // required: SCROLLING twice, the second as it was typed
+      // required: SCROLLING appears twice, the second time exactly as typed
       {FrameTag({.path = "a", .relative = true, .scrolling = "  no", .margins = FrameSpec::Margins{" 0", " 3"}}),
        R"(<FRAME SRC="a" SCROLLING="no" MARGINHEIGHT="0" MARGINWIDTH="3" SCROLLING="  no">)"},
   });
 }
 
-TEST(Formats, Tables) {
+TEST(HtmlOutput, IsExactForTables) {
   TableGrid grid;
   grid.cell_text[2][1] = "x";
   grid.cell_attrs[1][2] = " NOWRAP";
-  grid.row_attrs[2] = "typed";  // what is typed without its blank stays without
+  grid.row_attrs[2] = "typed";  // nothing puts a blank before typed attributes
   const CellAlignment by_character{CellAlign::kCharacter, ",", CellVAlign::kBottom};
   ExpectWritten({
       {BuildTable({.columns = 2, .rows = 2}, grid),
        "<TABLE>\r\n<TR><TD></TD><TD>x</TD></TR>\r\n<TRtyped><TD NOWRAP></TD><TD></TD></TR>\r\n</TABLE>"},
-      {TagAttributes(RowTag({})), ""},  // what the builder of tables takes
+      {TagAttributes(RowTag({})), ""},  // the table builder stores the attributes without the tag
       {TagAttributes(RowTag({.alignment = by_character})), R"( ALIGN="CHAR" CHAR="," VALIGN="BOTTOM")"},
       {RowTag({.alignment = {CellAlign::kCharacter, "", {}}}), R"(<TR ALIGN="CHAR">)"},
       {RowTag({.alignment = {CellAlign::kRight, ",", {}}}), R"(<TR ALIGN="RIGHT">)"},
-      {Made(WrapInCell, CellSpec{}, ""), "<TD>Buňka</TD>"},
-      {Made(InsertRow, RowSpec{.cells = 2}, "x"), "<TR><TD>Buňka1</TD><TD>Buňka2</TD></TR>\r\nx"},
+      {Apply(WrapInCell, CellSpec{}, ""), "<TD>Buňka</TD>"},
+      {Apply(InsertRow, RowSpec{.cells = 2}, "x"), "<TR><TD>Buňka1</TD><TD>Buňka2</TD></TR>\r\nx"},
   });
 }
 
-TEST(Formats, PagesAroundTheDocument) {
+TEST(HtmlOutput, IsExactForPagesAndFramesetsAroundTheDocument) {
   PageSpec spec;
   spec.author = "Jan Novák"_w;
   spec.created = "11-24-2026 09:05:00";
   spec.title = "ž"_w;
-  spec.background = "a.gif";  // required: a file's address of a bare name too
+  spec.background = "a.gif";  // required: a bare file name gets "file:///" too
   spec.base_font = 7;
   const std::string code_page =
       "  <META HTTP-EQUIV=\"Content-Type\" CONTENT=\"text/html; charset=windows-1250\">\r\n"
@@ -112,14 +113,14 @@ TEST(Formats, PagesAroundTheDocument) {
   const std::string frameset = "<!DOCTYPE HTML PUBLIC \"-//IETF/DTD HTML v.m//EN\">\r\n<HTML>\r\n <HEAD>\r\n" +
                                code_page + "  <TITLE>t</TITLE>\r\n </HEAD>\r\n <FRAMESET";
   ExpectWritten({
-      {Made(WrapInPage, spec, ""),
+      {Apply(WrapInPage, spec, ""),
        page + " BACKGROUND=\"file:///a.gif\">\r\n<BASEFONT SIZE=\"7\">\r\n---TEXT---\r\n\r\n </BODY>\r\n</HTML>"},
-      {Made(WrapInFrameset, FramesetSpec{"1,*", "2,*", "t"}, "x\r\ny"),  // required: columns as rows too
+      {Apply(WrapInFrameset, FramesetSpec{"1,*", "2,*", "t"}, "x\r\ny"),  // required: ROWS for the columns too
        frameset + " ROWS=\"1,*\" ROWS=\"2,*\">\r\n </FRAMESET>\r\n <NOFRAMES>\r\nx\r\ny\r\n </NOFRAMES>\r\n</HTML>"},
   });
 }
 
-TEST(Samples, StandInTheListWithTheirFilesAndHaveTheirLength) {
+TEST(Samples, HaveTheRequiredKeysTextsFileNamesAndLengths) {
   const struct {
     const char *key, *text, *file_name;
     std::size_t bytes;

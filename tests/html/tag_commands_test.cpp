@@ -13,16 +13,16 @@ struct TagCommandsTest : testing::Test {
   ScriptedPlatform platform;
   WholeEditor editor{platform};
 
-  // What the commands write, one after the other, into an empty document.
+  // Runs the commands in an empty document, one after the other, and returns the document.
   std::string Written(std::initializer_list<const char*> commands) {
     editor.text.SetText("");
     for (const char* command : commands) editor.commands.Run(command);
     return ToUtf8(editor.text.Text());
   }
-  // What the command makes of a document "text-" with the text selected.
-  std::string Made(const std::string& command, const std::string& text) {
-    editor.text.SetText(text + "-");
-    editor.text.Select(0, text.size());
+  // Runs the command in a document of the selected text and "-", and returns the document.
+  std::string AfterCommand(const std::string& command, const std::string& selected) {
+    editor.text.SetText(selected + "-");
+    editor.text.Select(0, selected.size());
     editor.commands.Run(command);
     return editor.text.Text();
   }
@@ -44,7 +44,7 @@ TEST_F(TagCommandsTest, WriteTheTimeAndTheProfile) {
 
 TEST_F(TagCommandsTest, WrapTheSelectionInTagsThatMatch) {
   for (const TagWrapper& tag : TagWrappers()) {
-    EXPECT_EQ(Made(std::string(tag.command), "x"), std::string(tag.open) + "x" + std::string(tag.close) + "-");
+    EXPECT_EQ(AfterCommand(std::string(tag.command), "x"), std::string(tag.open) + "x" + std::string(tag.close) + "-");
     EXPECT_EQ(tag.close.substr(tag.close.find('/') + 1), std::string(tag.open.substr(1, tag.open.find('>'))));
   }
 }
@@ -55,16 +55,19 @@ TEST_F(TagCommandsTest, WithoutASelectionWrapASample) {
   EXPECT_EQ(Written({"mnutt", "mnuhttpbig"}), "<TT>Pevná šířka znaků</TT><BIG>Velké</BIG>");
 }
 
-TEST_F(TagCommandsTest, MakeListsOfLines) {
+TEST_F(TagCommandsTest, MakeListsOfTheSelectedLines) {
   const std::pair<const char*, const char*> cases[] = {
-      {"a\r\n\r\nbc", "<UL><LI>a</LI>\r\n<LI></LI>\r\n<LI>b</LI></UL>-"},  // required: the last one is lost
+      {"a\r\n\r\nbc", "<UL><LI>a</LI>\r\n<LI></LI>\r\n<LI>b</LI></UL>-"},  // required: the last character is lost
       {"x", "<UL><LI></LI></UL>-"},
       {"a\nbc", "<UL><LI>a\n<LI>b</LI></UL>-"},
   };
-  for (const auto& [lines, list] : cases) EXPECT_EQ(Made("mnu_HTML_sel_list", lines), list);
-  EXPECT_EQ(Made("mnu_HTML_sel_num_list", "ab"), "<OL><LI>a</LI></OL>-");
+  for (const auto& [lines, list] : cases) EXPECT_EQ(AfterCommand("mnu_HTML_sel_list", lines), list);
+  EXPECT_EQ(AfterCommand("mnu_HTML_sel_num_list", "ab"), "<OL><LI>a</LI></OL>-");
+}
+
+TEST_F(TagCommandsTest, MakeNoListWithoutASelection) {
   platform.answers = {Answer::kOk};
-  EXPECT_EQ(Made("mnu_HTML_sel_num_list", ""), "-");  // needs a selection
+  EXPECT_EQ(AfterCommand("mnu_HTML_sel_num_list", ""), "-");
   EXPECT_EQ(platform.TakeCallsInOneLine(), "message 0 \"Vyber text\" \"HTML list\"; ");
 }
 
@@ -76,7 +79,7 @@ TEST_F(TagCommandsTest, StripTags) {
       {"<P\r\nX>&lt;\r\n\x9e</P>\n<", "&lt;\r\n\x9e\n-"},
   };
   for (const auto& [html, plain] : cases) {
-    EXPECT_EQ(Made("mnuNoHtml", html), plain);
+    EXPECT_EQ(AfterCommand("mnuNoHtml", html), plain);
     EXPECT_EQ(editor.text.SelStart(), editor.text.Size() - 1) << html;
     EXPECT_EQ(platform.TakeCallsInOneLine(), "busy 1; busy 0; ") << html;
   }

@@ -14,10 +14,10 @@ namespace {
 
 constexpr std::size_t kNone = std::string::npos;
 
-// A result in one line: place and length of the tag, its name, "|NAME:value" for each row, then the failed step.
+// A result in one line: start and length of the tag, its name, "|NAME:value" for each row, then the failed step.
 std::string Shown(const TagAnalysis& analysis) {
-  if (!analysis.has_tag) return analysis.range || analysis.failed_in ? "none, but more" : "none";
-  std::string shown = "no place";
+  if (!analysis.has_tag) return analysis.range || analysis.failed_in ? "none, but a range or a failure" : "none";
+  std::string shown = "no range";
   if (analysis.range) shown = std::to_string(analysis.range->start) + '+' + std::to_string(analysis.range->length);
   shown += ' ' + analysis.name;
   for (std::size_t row = 0; row < analysis.attributes.names.size(); ++row) {
@@ -28,9 +28,10 @@ std::string Shown(const TagAnalysis& analysis) {
 }
 
 std::string Rewritten(std::string text, std::string_view find, std::string_view with) {
-  constexpr std::string_view kMarker = "˙"_w;  // what the tag has of it turns into the new text as well
+  constexpr std::string_view kMarker = "˙"_w;  // a "˙" of the tag itself becomes the new text too
   for (const auto& [from, to] : {std::pair{find, kMarker}, {kMarker, with}})
-    for (std::size_t at = 0; (at = text.find(from, at)) != kNone; at += to.size()) text.replace(at, from.size(), to);
+    for (std::size_t at = text.find(from); at != kNone; at = text.find(from, at + to.size()))
+      text.replace(at, from.size(), to);
   return text;
 }
 
@@ -40,13 +41,13 @@ std::string Trimmed(std::string text) {
   return text;
 }
 
-// A second, slow implementation of the same.
+// The same line from a second, slow implementation of AnalyseTag.
 std::string ShownSlowly(const std::string& text, std::size_t caret) {
   const std::size_t start = text.substr(0, caret + 1).rfind('<');
   if (start == kNone || text.find('>', text.find('<')) == kNone) return "none";
   const std::string tag = text.substr(start, text.find('>', start) - start + 1);
   const std::size_t blank = tag.find(' '), size = tag.size();
-  if (size < 2) return "no place  !Přeformátování";
+  if (size < 2) return "no range  !Přeformátování";
   std::string shown = std::to_string(start) + '+' + std::to_string(size) + ' ';
   if (blank == kNone) return shown + Trimmed(tag.substr(1, size - 2));
   shown += Trimmed(tag.substr(1, blank - 1));
@@ -75,8 +76,8 @@ std::string ShownSlowly(const std::string& text, std::size_t caret) {
   return shown;
 }
 
-// required: what a series of text replacements makes of a tag. A second blank, for example, gives an empty name.
-TEST(TagEditor, ReadsRandomTagsAsASlowReaderDoes) {
+// required: a series of text replacements divides the tag. For example, a second blank gives an empty name.
+TEST(TagEditor, ReadsRandomTagsLikeTheSlowImplementation) {
   RandomSource random(20240506);
   for (int round = 0; round < 20000; ++round) {
     const std::string text = random.Text(23, "<<>== \"'/aab\t\r\n˙  "_w);
@@ -89,7 +90,7 @@ struct TagEditorOnText : testing::Test {
   ScriptedPlatform platform;
   TextBuffer text;
 
-  std::vector<std::string> Opened(const char* marked) {
+  std::vector<std::string> MessagesOfOpening(const char* marked) {
     PutMarked(text, marked);
     platform.answers = {Answer::kOk};
     OpenTag(text, platform);
@@ -97,21 +98,21 @@ struct TagEditorOnText : testing::Test {
   }
 };
 
-TEST_F(TagEditorOnText, OpeningSelectsTheTagOrSaysWhatIsWrong) {
-  EXPECT_TRUE(Opened("ab<B>|c").empty());
+TEST_F(TagEditorOnText, OpeningSelectsTheTagOrShowsAMessage) {
+  EXPECT_TRUE(MessagesOfOpening("ab<B>|c").empty());
   EXPECT_EQ(Marked(text), "ab[<B>|c");
-  EXPECT_EQ(Opened("a[b|"), std::vector<std::string>{R"(message 0 "Není tag!" "EdiTag")"});
+  EXPECT_EQ(MessagesOfOpening("a[b|"), std::vector<std::string>{R"(message 0 "Není tag!" "EdiTag")"});
   EXPECT_EQ(Marked(text), "a[b|");
-  EXPECT_EQ(Opened("<A HREF=>|"),
+  EXPECT_EQ(MessagesOfOpening("<A HREF=>|"),
             std::vector<std::string>{
                 "message 0 \"Došlo k chybě při zpracování tagu. Ujistěte se, že se jedná o html tag ve správném "
                 "formátu\r\nKód chyby: Přepis\" \"EdiTag\""});
 }
 
 TEST_F(TagEditorOnText, AttributesGoIntoTheTagThatClosesAfterTheCaret) {
-  const AttributeLists attributes{{"ID", "REL"}, {"x"}};  // out of step: the missing value is empty
+  const AttributeLists attributes{{"ID", "REL"}, {"x"}};  // a missing value is empty
   const std::pair<const char*, const char*> cases[] = {
-      {"<[A>|b</A>", R"(<A ID="x" REL=""|>b</A>)"},  // the selection stays; ">" stands in front of the caret
+      {"<[A>|b</A>", R"(<A ID="x" REL=""|>b</A>)"},  // the selection stays; ">" may be just before the caret
       {"<A>b|</A>", R"(<A>b</A ID="x" REL=""|>)"},
   };
   for (const auto& [before, after] : cases) {

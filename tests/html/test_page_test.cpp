@@ -24,7 +24,7 @@ TEST_F(TestPage, ShowsASavedDocumentFromItsFileAfterAQuestion) {
             "message 52 \"Soubor je uložen, zobrazit uloženou verzi ?\" \"Nový\"; default program /home/jan/a.html; ");
 }
 
-TEST_F(TestPage, IsOpenedByAnotherNameThanTheWrittenOne) {  // required
+TEST_F(TestPage, IsWrittenUnderOneNameAndOpenedUnderAnother) {  // required
   editor.text.SetText("<P>");
   platform.draws = {0.5};
   editor.commands.Run("mnutest");
@@ -34,7 +34,7 @@ TEST_F(TestPage, IsOpenedByAnotherNameThanTheWrittenOne) {  // required
   EXPECT_EQ(platform.reseeds, 1);
 }
 
-TEST_F(TestPage, IsWrittenOverNoOtherFile) {
+TEST_F(TestPage, NeverOverwritesAnotherFile) {
   platform.files["/tmp/$$$PelmarTemp0.html"] = "other";
   editor.text.SetText("<P>");
   platform.draws = {0.0, 0.0, 0.999999999};

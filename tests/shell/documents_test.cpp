@@ -10,7 +10,8 @@
 namespace pelmar {
 namespace {
 
-struct Desk {
+// The documents of one run of the program.
+struct RunOfDocuments {
   TextBuffer text;
   Documents documents{text};
 
@@ -24,8 +25,8 @@ struct Desk {
   }
 };
 
-struct DocumentsTest : testing::Test, Desk {
-  // What the save dialog begins with.
+struct DocumentsTest : testing::Test, RunOfDocuments {
+  // The fields with which the save dialog opens.
   std::string FieldsOfTarget() {
     const SaveTarget& target = documents.Target();
     return target.Path() + ' ' + target.Folder() + ' ' + target.Name() + ' ' + target.Extension();
@@ -40,7 +41,7 @@ TEST_F(DocumentsTest, AChangeMarksOnlyTheTitle) {
   EXPECT_EQ(StateOf(documents), SavedAt("/a/one.txt"));
 }
 
-TEST_F(DocumentsTest, ASwitchKeepsTextPathAndMarkOfTheTabItLeaves) {
+TEST_F(DocumentsTest, ASwitchKeepsTextPathAndMarkOfTheLeftTab) {
   documents.MakeCurrent("/a/one.txt", "one");
   Type("!");
   EXPECT_EQ(SwitchTo(3), (DocumentState{.title = "()", .slot_path = "/a/one.txt", .unsaved = 1}));
@@ -53,7 +54,7 @@ TEST_F(DocumentsTest, ASwitchKeepsTextPathAndMarkOfTheTabItLeaves) {
   EXPECT_FALSE(text.CanUndo());
 }
 
-// required: the change that a switch raises still writes the path of the tab that was left
+// required: a switch changes the text, and this change still writes the path of the left tab
 TEST_F(DocumentsTest, TheEnteredSlotHoldsTheLeftPathUntilTheNextChange) {
   documents.MakeCurrent("/a/one.txt", "one");
   documents.SwitchTo(2);
@@ -64,7 +65,7 @@ TEST_F(DocumentsTest, TheEnteredSlotHoldsTheLeftPathUntilTheNextChange) {
   EXPECT_EQ(StateOf(documents), (DocumentState{.title = "()*", .unsaved = 1}));
 }
 
-// required: written back by the change
+// required: the change of the text writes the path back
 TEST_F(DocumentsTest, ClearingADocumentLeavesItsPathInTheSlot) {
   documents.MakeCurrent("/a/one.txt", "one");
   Type("!");
@@ -83,7 +84,7 @@ TEST_F(DocumentsTest, OnlyADocumentWithAPathSetsTheFieldsOfTheSaveDialog) {
   EXPECT_EQ(FieldsOfTarget(), "/a/one.txt /a/ one txt");
 }
 
-TEST_F(DocumentsTest, ANameWithoutAnExtensionSetsHalfOfIt) {  // required
+TEST_F(DocumentsTest, ANameWithoutAnExtensionSetsOnlyPathAndFolderOfTheTarget) {  // required
   documents.Target().SetPath("/a/one.txt");
   EXPECT_THROW(documents.Target().SetPath("/b/README"), RuntimeError);
   EXPECT_EQ(FieldsOfTarget(), "/b/README /b/ one txt");
@@ -100,7 +101,7 @@ TEST_F(DocumentsTest, RescueKeepsTheUnsavedDocumentsAndBringsThemBack) {
   const RescueRecord kept = DocumentsRescue(documents).Unsaved();
   EXPECT_EQ(kept, (RescueRecord{4, {{1, "/a/one.txt", "one!"}, {4, "", "never saved"}}}));
 
-  Desk later;
+  RunOfDocuments later;
   EXPECT_TRUE(DocumentsRescue(later.documents).BringBack({kept}).empty());
   EXPECT_EQ(later.documents.SelectedTab(), 4);
   EXPECT_EQ(TextsOf(later.documents), "one!|||never saved||");

@@ -30,12 +30,12 @@ struct RescueStoreTest : testing::Test {
   }
 };
 
-TEST_F(RescueStoreTest, AnEmptyRecordRemovesTheFileAndNobodyFindsTheFileOfARunningCopy) {
+TEST_F(RescueStoreTest, AnEmptyRecordRemovesTheFileAndNoFileOfARunningCopyIsFound) {
   RescueStore store = StoreIn(folder);
-  for (const char* kept : {"one", "two", "", "again"}) {
+  for (const std::string& kept : std::vector<std::string>{"one", "two", "", "again"}) {
     EXPECT_EQ(store.Keep(kept), 0);
-    EXPECT_EQ(Content(store.Path()), *kept == '\0' ? "<missing>" : kept);
-    EXPECT_EQ(std::filesystem::is_empty(folder), *kept == '\0') << kept;
+    EXPECT_EQ(Content(store.Path()), kept.empty() ? "<missing>" : kept);
+    EXPECT_EQ(std::filesystem::is_empty(folder), kept.empty()) << kept;
     EXPECT_TRUE(Found().empty());
   }
   EXPECT_NE(StoreIn("/nonexistent/folder/").Keep("x"), 0);

@@ -66,7 +66,7 @@ TEST(Paths, MayHaveSlashesOrBackslashesAndASeparatorAtTheEnd) {
   for (const char* folder : {"C:\\x", "C:\\x\\"}) EXPECT_EQ(JoinPath(folder, "a.txt"), "C:\\x\\a.txt");
 }
 
-TEST(Common, ColorsCountsAndLetters) {
+TEST(CommonRoutines, FormatNumbersCountLineFeedsAndChangeLetters) {
   EXPECT_EQ(ColorToHex(0x030201), "#010203");
   EXPECT_EQ(ColorToHex(Rgb(10, 0, 200)), "#0A00C8");
   EXPECT_EQ(CountLineFeeds("a\rb\n\n"), 2);
@@ -87,8 +87,8 @@ std::string PlainReplace(std::string s, const std::string& find, const std::stri
   return s;
 }
 
-// required: what a replacement brings in is read again from its second character on, so "aaaa" without "a" is "aa"
-TEST(ReplaceAllText, EqualsThePlainLoopOnRandomTextsAndEndsWhereThatWouldNot) {
+// required: the search continues at the second character of each replacement, so "aaaa" without "a" is "aa"
+TEST(ReplaceAllText, EqualsThePlainLoopOnRandomTextsAndAlwaysEnds) {
   EXPECT_EQ(ReplaceAllText("aba", "a", "aa"), "aabaa");
   RandomSource random(3);
   for (int round = 0; round < 3000; ++round) {
@@ -98,14 +98,14 @@ TEST(ReplaceAllText, EqualsThePlainLoopOnRandomTextsAndEndsWhereThatWouldNot) {
   }
 }
 
-TEST(Help, SearchesWithoutCaseAsLongAsThePersonWants) {
+TEST(Help, SearchesWithoutRegardToCaseAsLongAsThePersonWants) {
   const auto question = [](int place) {
     return "message 52 \"Nalezeno na " + std::to_string(place) + " místě, pokračovat ?\" \"hledání\"; ";
   };
   const struct {
     std::string_view term;
     std::deque<Answer> answers;
-    std::string told, marked;
+    std::string calls, document;
   } cases[] = {
       {"žába"_w, {Answer::kYes, Answer::kYes}, question(1) + question(8), "Žába a [žába|. KONEC"},
       {"ŽÁBA"_w, {Answer::kNo}, question(1), "[Žába| a žába. KONEC"},
@@ -117,8 +117,8 @@ TEST(Help, SearchesWithoutCaseAsLongAsThePersonWants) {
     TextBuffer text;
     PutMarked(text, "|Žába a žába. KONEC");
     SearchHelp(text, c.term, platform);
-    EXPECT_EQ(platform.TakeCallsInOneLine(), c.told);
-    EXPECT_EQ(Marked(text), c.marked);
+    EXPECT_EQ(platform.TakeCallsInOneLine(), c.calls);
+    EXPECT_EQ(Marked(text), c.document);
   }
 }
 
@@ -134,21 +134,21 @@ struct StatusTest : testing::Test {
   }
 };
 
-TEST_F(StatusTest, PanelsTellOfTheTextOrOfTheSelection) {
+TEST_F(StatusTest, PanelsDescribeTheTextOrTheSelection) {
   ExpectPanels("|", "Počet znaků : 0", "Pozice kurzoru : 0", "Řádek 0 z 0");
   ExpectPanels("a¶b\rc\n|\n", "Počet znaků : 8", "Pozice kurzoru : 7", "Řádek 2 z 3");
   ExpectPanels("|a¶[b¶c", "Znaky Výběru : 3", "Pozice výběru : 0", "Řádeky 0-1 z 2");
   EXPECT_EQ(ComputePanels(box, false).lines, "(OFF)");
 }
 
-TEST_F(StatusTest, ContentIsTheSelectionsBeginningOrTheClipboard) {
+TEST_F(StatusTest, TheContentIsTheStartOfTheSelectionOrTheClipboard) {
   EXPECT_EQ(ComputeContent(box, std::nullopt), "Výběr : "_w);
   EXPECT_EQ(ComputeContent(box, "x"), "Schránka : x"_w);
   PutMarked(box, "c[" + std::string(59, 'c') + "|¶");
   EXPECT_EQ(ComputeContent(box, "x"), std::string("Výběr : "_w) + std::string(50, 'c'));
 }
 
-TEST_F(StatusTest, ItemsFollowPathClipboardTextAndSelection) {
+TEST_F(StatusTest, MenuItemsDependOnPathClipboardTextAndSelection) {
   EXPECT_EQ(ComputeMenuState(box, "", std::nullopt), MenuState{});
   EXPECT_EQ(ComputeMenuState(box, "/a", ""), MenuState{.has_path = true});  // an empty clipboard counts as none
   PutMarked(box, "a|");
@@ -168,7 +168,7 @@ TEST(Snap, PullsWindowsToTheEdges) {
   for (const auto& [what, before, after] : cases) EXPECT_EQ(Snap(before, 240, {0, 0, 28800, 16200}), after) << what;
 }
 
-// required: the sum counts panel 4 itself, so two widths take turns
+// required: the sum counts panel 4 itself, so two widths alternate
 TEST(SparePanelWidth, AlternatesOnceBothWidthsAreAboveZero) {
   std::array<int, kPanelCount> widths = {1500, 1500, 1500, 0, 500, 500, 500};
   EXPECT_EQ(SparePanelWidth(12420, widths), 6000);
@@ -179,7 +179,7 @@ TEST(SparePanelWidth, AlternatesOnceBothWidthsAreAboveZero) {
   EXPECT_EQ(SparePanelWidth(12520, widths), 6000);
 }
 
-std::string Laid(const LayoutInput& in) {
+std::string ShownLayout(const LayoutInput& in) {
   const LayoutResult out = ComputeLayout(in);
   const auto shown = [](const std::optional<int>& size) { return size ? std::to_string(*size) : "none"; };
   return "text=" + shown(out.text_width) + 'x' + shown(out.text_height) + '@' + shown(out.text_top) +
@@ -187,32 +187,33 @@ std::string Laid(const LayoutInput& in) {
          " grow=" + shown(out.grow_outer_height);
 }
 
-TEST(Layout, FollowsTheBarsThatAreVisibleAndKeepsRoomForThem) {
+TEST(Layout, LeavesRoomForTheVisibleBarsAndGrowsAWindowThatIsTooLow) {
   LayoutInput in{.outer_width = 12000, .inner_width = 11900, .inner_height = 8000, .toolbar_height = 500};
   in.bar_height = 300;
   in.panel_widths = {1000, 1000, 1000, 0, 500, 500, 500};
-  EXPECT_EQ(Laid(in), "text=11540x7210@500 tabs=11900 panel4=7080 grow=0");
+  EXPECT_EQ(ShownLayout(in), "text=11540x7210@500 tabs=11900 panel4=7080 grow=0");
   in.inner_height = 1069;
-  EXPECT_EQ(Laid(in), "text=11540x279@500 tabs=11900 panel4=7080 grow=1");
+  EXPECT_EQ(ShownLayout(in), "text=11540x279@500 tabs=11900 panel4=7080 grow=1");
   in.bar_visible = false;
-  EXPECT_EQ(Laid(in), "text=11540x579@500 tabs=11900 panel4=7080 grow=0");
+  EXPECT_EQ(ShownLayout(in), "text=11540x579@500 tabs=11900 panel4=7080 grow=0");
   in.inner_height = 0;
-  EXPECT_EQ(Laid(in), "text=11540x-490@500 tabs=11900 panel4=7080 grow=0");
+  EXPECT_EQ(ShownLayout(in), "text=11540x-490@500 tabs=11900 panel4=7080 grow=0");
   in.toolbar_visible = in.tabs_visible = false;
   in.inner_height = 269;
-  EXPECT_EQ(Laid(in), "text=11900x279@0 tabs=none panel4=7080 grow=1");
+  EXPECT_EQ(ShownLayout(in), "text=11900x279@0 tabs=none panel4=7080 grow=1");
   in.minimised = true;
-  EXPECT_EQ(Laid(in), "text=nonexnone@0 tabs=none panel4=none grow=0");
+  EXPECT_EQ(ShownLayout(in), "text=nonexnone@0 tabs=none panel4=none grow=0");
 }
 
 SettingsRecord FullRecord() {
+  // In the order of the file: place, on top, font and colours, user, start, snapping, password, files, state, lines.
   SettingsRecord r{12000, 9000,  -15,      1440, true, "P\xEDsmo", 0x030201, 0xFDFEFF, 14,  true,
                    false, "Jan", "j@x.cz", true, 300,  "tajn\xE9", {},       2,        true};
   for (std::size_t i = 0; i < r.RecentFiles.size(); ++i) r.RecentFiles[i] = "/soubor" + std::to_string(i) + ".txt";
   return r;
 }
 
-TEST(SettingsRecord, HasTheseBytes) {
+TEST(SettingsRecord, HasTheRequiredBytes) {
   EXPECT_EQ(SettingsBytes({}), std::string(71, '\0'));
   std::string expected(
       "\xE0\x2E\0\0\x28\x23\0\0\xF1\xFF\xFF\xFF\xA0\x05\0\0\xFF\xFF"  // the place, always on top
@@ -225,7 +226,7 @@ TEST(SettingsRecord, HasTheseBytes) {
   EXPECT_EQ(ReadSettings(expected + "an old tail"), FullRecord());
 }
 
-TEST(SettingsRecord, HasPathsInTheCodePageOrElseAsUrls) {
+TEST(SettingsRecord, HoldsPathsInTheCodePageOrAsUrls) {
   const std::pair<std::string, std::string> cases[] = {
       {"/žluť.txt", "/\x9Elu\x9D.txt"},
       {"/Ĺľ.txt", "/\xC5\xBE.txt"},  // "ž" in UTF-8
@@ -241,7 +242,7 @@ TEST(SettingsRecord, HasPathsInTheCodePageOrElseAsUrls) {
 }
 
 // Cuts the file at each length: complete fields keep their values, the others are zero or empty.
-TEST(SettingsRecord, ShortAndDamagedFilesReadAsZeroFromTheirEndOn) {
+TEST(SettingsRecord, ReadsFieldsBeyondTheEndOfTheFileAsZero) {
   std::string bytes = SettingsBytes(FullRecord());
   for (std::size_t length = 0; length <= bytes.size(); ++length) {
     const SettingsRecord r = ReadSettings(std::string_view(bytes).substr(0, length));
@@ -249,7 +250,7 @@ TEST(SettingsRecord, ShortAndDamagedFilesReadAsZeroFromTheirEndOn) {
     EXPECT_EQ(r.FontSize, length >= 34 ? 14 : 0) << length;
     EXPECT_EQ(r.LineCounting, length == bytes.size()) << length;
   }
-  // A count beyond the end gives no string, and nothing behind it is read.
+  // A length beyond the end gives an empty string, and nothing after it is read.
   bytes[18] = bytes[19] = '\xFF';
   EXPECT_EQ(ReadSettings(bytes), ReadSettings(bytes.substr(0, 18)));
 }

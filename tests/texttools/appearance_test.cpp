@@ -20,8 +20,8 @@ struct AppearanceTest : testing::Test {
     AddAppearanceCommands(editor, view);
     view.look = {"Font", Rgb(1, 2, 3), Rgb(255, 255, 255), 8, false, false};
   }
-  // The look after a command, then the marks and the window's state that it set.
-  std::string Look(const char* command) {
+  // Runs the command and returns the new look, then the marks and the window state that the command set.
+  std::string LookAfter(const char* command) {
     view.calls.clear();
     editor.commands.Run(command);
     std::string look = Described(view.look);
@@ -32,23 +32,23 @@ struct AppearanceTest : testing::Test {
 };
 
 TEST_F(AppearanceTest, EachCommandChangesItsPartOfTheLook) {
-  EXPECT_EQ(Look("mnu17"), "Font 17 #010203 #FFFFFF");
-  EXPECT_EQ(Look("mnuEditBold"), "Font 17 bold #010203 #FFFFFF, bold mark");
-  EXPECT_EQ(Look("mnuitalic"), "Font 17 bold italic #010203 #FFFFFF, italic mark");
-  EXPECT_EQ(Look("mnuEditBold"), "Font 17 italic #010203 #FFFFFF, no bold mark");
-  EXPECT_EQ(Look("mnuinvert"), "Font 17 italic #FEFDFC #000000");
-  EXPECT_EQ(Look("Dos"), "Courier New 8 #C2C2C2 #000000, normal, no bold mark, no italic mark");
+  EXPECT_EQ(LookAfter("mnu17"), "Font 17 #010203 #FFFFFF");
+  EXPECT_EQ(LookAfter("mnuEditBold"), "Font 17 bold #010203 #FFFFFF, bold mark");
+  EXPECT_EQ(LookAfter("mnuitalic"), "Font 17 bold italic #010203 #FFFFFF, italic mark");
+  EXPECT_EQ(LookAfter("mnuEditBold"), "Font 17 italic #010203 #FFFFFF, no bold mark");
+  EXPECT_EQ(LookAfter("mnuinvert"), "Font 17 italic #FEFDFC #000000");
+  EXPECT_EQ(LookAfter("Dos"), "Courier New 8 #C2C2C2 #000000, normal, no bold mark, no italic mark");
   EXPECT_EQ(view.place, (TwipsRect{0, 0, 9210, 6675}));
-  Look("mnuEditBold");
-  EXPECT_EQ(Look("mnubasic"), "MS Sans Serif 8 #000000 #FFFFFF, no italic mark");  // required: the mark of bold stays
+  LookAfter("mnuEditBold");
+  EXPECT_EQ(LookAfter("mnubasic"), "MS Sans Serif 8 #000000 #FFFFFF, no italic mark");  // required: the bold mark stays
 }
 
-TEST_F(AppearanceTest, ALookWithoutAFontKeepsTheFontAndAStrangeSizeBecomesEight) {
+TEST_F(AppearanceTest, ALookWithoutAFontKeepsTheFontAndAnUnknownSizeBecomesEight) {
   ApplyLook(view, {"", 3, 4, 11, true, false});
   EXPECT_EQ(Described(view.look), "Font 8 bold #030000 #040000");
 }
 
-TEST(Visual, SizeField) {
+TEST(Visual, NormalizesATypedSize) {
   const std::pair<std::string_view, SizeField> cases[] = {
       {"", {"1", 1}},       {"00", {"1", 1}},  {"11", {"11", 11}}, {"08", {"8", 8}},
       {"123", {"12", 123}}, {"abc", {"1", 1}}, {"9x", {"9", 9}},   {"99999", {"99", 9999}},
@@ -56,7 +56,7 @@ TEST(Visual, SizeField) {
   for (const auto& [typed, field] : cases) EXPECT_EQ(NormalizeSize(typed), field) << typed;
 }
 
-TEST(LayoutPicker, ACellIsAHalfOrAQuarterOfTheScreen) {
+TEST(LayoutPicker, CellsCoverTheScreenAHalfOrAQuarterOfIt) {
   const TwipsRect screen{1000, 30, 1200, 800};
   EXPECT_EQ(PlaceOfCell(1, 1, screen).place, (TwipsRect{1000, 30, 600, 400}));
   EXPECT_EQ(PlaceOfCell(2, 2, screen).place, screen);

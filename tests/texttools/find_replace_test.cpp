@@ -1,4 +1,4 @@
-// The searches of the dialogs Hledání and Záměna, and the primitive one.
+// The searches of the dialogs Hledání and Záměna, and the primitive search.
 #include <gtest/gtest.h>
 
 #include "support/marked_text.h"
@@ -15,7 +15,7 @@ constexpr const char* kNothingFound = "message 0 \"Nenalezeno !\" \"Hledání\""
 
 using Number = std::optional<std::size_t>;
 
-// A search of a document, and what a person does in its dialog.
+// A search in a document, and the steps of a person in its dialog.
 template <class Search>
 struct Searching {
   ScriptedPlatform platform;
@@ -65,12 +65,13 @@ TEST(Find, SearchesTheTextAsItWasAtTheStart) {
     Number count, position;
     bool searching = false;
   } cases[] = {
+      // Document, term, steps; afterwards: document, term, number of hits, last position, whether the search continues.
       {"|aaaa", "aa", {F::Start}, "[aa|aa", "aa", 1, 0, true},
       {"|aaaa", "aa", {F::Start, F::Next}, "a[aa|a", "aa", 2, 1, true},
       {"|aa", "a", {F::Start, F::Next, F::Next}, "a[a| !", "a", 2, 1},  // required: the numbers stay
       {"a[b|c", "z", {F::Start}, "a[b|c !", "b", {}, {}},
       {"|xx čaj Čaj", "čaj", {F::IgnoreCase, F::Start}, "xx [čaj| Čaj", "ČAJ", 1, 3, true},
-      // After the last hit the term is as the document has it. required: in the history it is in upper case.
+      // After the last hit the term is as in the document. required: in the history the term is in upper case.
       {"|čaj Čaj", "čaj", {F::IgnoreCase, F::Start, F::Next, F::Next}, "čaj [Čaj| !", "Čaj", 2, 4},
       {"|čaj", "čaj", {F::IgnoreCase, F::Start, F::Next, F::PickFirst}, "[čaj|", "ČAJ", 1, 0},
       {"|ab", "", {F::Start, F::Next}, "a|b", "", 2, 1, true},
@@ -92,7 +93,7 @@ TEST(Find, SearchesTheTextAsItWasAtTheStart) {
   }
 }
 
-TEST(Find, ANewSearchLeavesTheCaseDisabled) {  // required
+TEST(Find, ANewSearchLeavesTheCheckBoxOfTheCaseDisabled) {  // required
   Finding finding;
   finding.After("|aa", "a", {Finding::Start, Finding::New});
   EXPECT_TRUE(finding.search.find_on);
@@ -118,6 +119,7 @@ TEST(Replace, ContinuesAtTheSecondCharacterOfTheReplacement) {  // required
     Number found, replaced;
     bool searching = false;
   } cases[] = {
+      // Document, term, replacement, steps; afterwards: document, term, both counts, whether the search continues.
       {"|aaa", "aa", "X", {R::Start, R::Next}, "a[aa|", "aa", 2, {}, true},
       {"|a a a", "a", "ba", {R::Start, R::Replace}, "b[a| a a", "a", 2, 1, true},
       {"|a a a", "a", "ba", {R::Start, R::Replace, R::Next}, "ba [a| a", "a", 3, 1, true},
@@ -126,7 +128,7 @@ TEST(Replace, ContinuesAtTheSecondCharacterOfTheReplacement) {  // required
       {"a[b|c", "z", "", {R::Start}, "a[b|c !", "b", {}, {}},
       {"|a", "a", "X", {R::Start, R::Replace, R::OtherText, R::New, R::Start}, "|short text !", "Text", {}, {}},
       {"|a a", "a", "b", {R::Start, R::OtherText, R::Replace}, "bs[h|ort text", "a", 2, 1, true},
-      // required: in the list the term is as it was typed
+      // required: the list has the term as it was typed
       {"|Čaj", "čaj", "x", {R::IgnoreCase, R::Start, R::PickSecond}, "[Čaj|", "ČAJ", 1, {}, true},
       {"|Čaj", "čaj", "x", {R::IgnoreCase, R::Start, R::PickFirst}, "[Čaj|", "čaj", 1, {}, true},
       {"|a", "a", "b", {R::Start, R::ChangeToX, R::PickFirst, R::Replace}, "b| !", "a", 1, 1},
@@ -144,11 +146,11 @@ TEST(Replace, ContinuesAtTheSecondCharacterOfTheReplacement) {  // required
     EXPECT_EQ(replacing.search.change_on, !c.searching);
     EXPECT_EQ(replacing.search.case_on, !c.searching);
     EXPECT_EQ(replacing.search.lists_on, !c.searching);
-    EXPECT_TRUE(replacing.search.all_on);  // required: it stays enabled after the search
+    EXPECT_TRUE(replacing.search.all_on);  // required: the button stays enabled after the search
   }
 }
 
-TEST(Replace, ANewSearchLeavesTheCaseDisabled) {  // required
+TEST(Replace, ANewSearchLeavesTheCheckBoxOfTheCaseDisabled) {  // required
   Replacing replacing;
   EXPECT_EQ(replacing.After("ab|", "b", {Replacing::Start, Replacing::OtherText, Replacing::New}), "|short text");
   EXPECT_EQ(replacing.search.find, "Text");
@@ -167,14 +169,11 @@ TEST(Replace, AllWithoutCaseSearchesTheTermInUpperCaseAndEndsTheSearch) {  // re
 TEST(Replace, AllUsesCharacter255AsAMarker) {
   const std::tuple<const char*, const char*, const char*, const char*> cases[] = {
       {"a b a", "a", "xax", "xax b xax"},
-      {"aaaab", "a", "",
-       "\xFF\xFF"
-       "b"},                        // required: every second of adjacent hits becomes character 255 and stays
-      {"x\xFFy", "q", "z", "xzy"},  // required: a character 255 of the text goes too
+      {"aaaab", "a", "", "\377\377b"},  // required: every second of adjacent hits becomes character 255 and stays
+      {"x\377y", "q", "z", "xzy"},      // required: a character 255 of the text is replaced too
       {"abc", "", "z", "abc"},
-      {"aba", "a", "x\xFF",
-       "x\xFF"
-       "bx\xFF"},  // a new character 255 is not replaced again, otherwise the loop would never end
+      // A new character 255 is not replaced again, otherwise the loop would never end.
+      {"aba", "a", "x\377", "x\377bx\377"},
   };
   for (const auto& [text, term, change, after] : cases) EXPECT_EQ(ReplaceAllByMarker(text, term, change), after);
 }

@@ -13,7 +13,7 @@ namespace {
 
 using namespace std::string_view_literals;
 
-TEST(TextTools, EachCommandLeavesItsTextAndCalls) {
+TEST(TextTools, EachCommandChangesTheTextAndCallsThePlatform) {
   using enum Answer;
   const struct {
     const char* command;
@@ -31,7 +31,7 @@ TEST(TextTools, EachCommandLeavesItsTextAndCalls) {
       {"mnu_untext", "x[řeka|x", "xřeKA|x", "", kOk, 1},
 
       {"Mnu_Sort_Lines", "x[b¶a¶|y", "xa¶b¶|y", "busy 1; busy 0; "},
-      {"Mnu_Sort_Lines", "[b¶¶a|", "ab¶|", "busy 1; busy 0; "},  // required: the end is missing where it was
+      {"Mnu_Sort_Lines", "[b¶¶a|", "ab¶|", "busy 1; busy 0; "},  // required: "a" still has no line end
       {"Mnu_Sort_Lines", "[b\n\na2¶A1¶a1¶|", "\nA1¶a1¶a2¶b\n|", "busy 1; busy 0; "},
       // required: the last character is lost
       {"mnuEnterLineNumbers", "[a¶b¶|", "00001 a¶00002 b\r|", "busy 1; busy 0; "},
@@ -48,13 +48,13 @@ TEST(TextTools, EachCommandLeavesItsTextAndCalls) {
       // required: the last word has no blank
       {"MnuSelTextDada", "x[a b c d e|x", "xa c d eb |x", "busy 1; busy 0; ", kOk, 1},
 
-      {"mnuadd", "a[bc|d", "aXY|bcd"},  // required: never over the selection
+      {"mnuadd", "a[bc|d", "aXY|bcd"},  // required: the selection stays
       {"Paste", "a|bc[d", "aXY|bcd"},
       {"mnucut", "a[bc|d", "a|d", "clipboard \"bc\"; "},
       {"Cut", "a[bc|d", "a|d", "clipboard \"bc\"; "},
       {"Copy", "a[bc|d", "a[bc|d", "clipboard \"bc\"; "},
       {"mnucopy", "a[bc|d", "a[bc|d", "clipboard \"abcd\"; "},
-      {"mnucopysel", "a|d", "a|d", "clipboard \"\"; "},  // the empty text goes there all the same
+      {"mnucopysel", "a|d", "a|d", "clipboard \"\"; "},  // an empty text is copied too
       {"mnuallselect", "ab|cd", "[abcd|"},
       {"mnuinsert", "a|b", "a|b", "message 52 \"Opravdu vše nahradit textem ze schránky ?\" \"Vložení\"; ", kNo},
       {"mnuinsert", "a|b", "|XY", "message 52 \"Opravdu vše nahradit textem ze schránky ?\" \"Vložení\"; ", kYes},
@@ -79,7 +79,7 @@ TEST(TextTools, EachCommandLeavesItsTextAndCalls) {
   }
 }
 
-TEST(RandomText, FollowsItsDraws) {
+TEST(RandomText, DependsOnlyOnItsDraws) {
   const std::vector<double> lowest{0}, highest{0.999};
   const std::vector<double> mixed{0, 0, 0, 0.3, 0.9, 0.05, 0.3, 0.3, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0.6};
   const struct {
@@ -103,7 +103,7 @@ TEST(RandomText, FollowsItsDraws) {
   EXPECT_TRUE(RandomSentence([] { return 0.999; }).ends_with("Z" + std::string(49, 'z') + "! "));
 }
 
-TEST(ColumnFormat, TheLoadMakesItsRowsAndTellsTheShortest) {
+TEST(ColumnFormat, MakesRowsOfTheSelectionAndMeasuresTheShortest) {
   const std::tuple<std::string_view, Rows, std::size_t> cases[] = {
       {"", {}, 0},
       {"a", {}, 1},  // required: one character gives no row
@@ -111,7 +111,7 @@ TEST(ColumnFormat, TheLoadMakesItsRowsAndTellsTheShortest) {
       {"abc\r\n", {"abc", "bc\r\n"}, 4},  // required: the extra row
       {"abc\r\nde\r\n", {"abc", "de", "e\r\n"}, 3},
       {"abc\r\n\r\nde", {"abc", "", "de"}, 0},
-      {"abc\r\n\r\n", {"abc", ""}, 3},              // the walk ends before the line feed of the empty line
+      {"abc\r\n\r\n", {"abc", ""}, 3},              // the loop ends before the line feed of the empty line
       {"ab\ncd", {"cd"}, 2},                        // a bare line feed makes no row
       {"ab\rc\r\n", {"ab", "b\rc", "\rc\r\n"}, 4},  // only a line feed ends a line
       {"ab\r\nd", {"ab"}, 2},                       // required: a last line of one character gives no row
@@ -123,7 +123,7 @@ TEST(ColumnFormat, TheLoadMakesItsRowsAndTellsTheShortest) {
   }
 }
 
-TEST(ColumnFormat, OperationsActAtTheDistance) {
+TEST(ColumnFormat, InsertsAndRemovesAtTheDistance) {
   const struct {
     std::size_t distance;
     Rows insert_from_start, remove_from_start, insert_from_end, remove_from_end;

@@ -1,4 +1,4 @@
-// The analysis of characters: its source, its list and its graph.
+// The window of the character analysis: its source, its list and its graph.
 #include "accessories/windows/analytic.h"
 
 #include <QListWidget>
@@ -57,7 +57,7 @@ TEST_F(AnalyticTest, TypingInTheScratchBoxMakesItTheSource) {
   EXPECT_EQ(FirstRow(), "001 00002 100,00 122 \"z\"");
 }
 
-TEST_F(AnalyticTest, IgnoredBlanksLeaveTheGraphButNotTheList) {
+TEST_F(AnalyticTest, IgnoredBlanksAreInTheListButNotInTheGraph) {
   text.SetText("  a");
   Work(dialog, "Check2!");
   EXPECT_EQ(Columns(), 1);
@@ -70,7 +70,7 @@ TEST_F(AnalyticTest, TheNarrowGraphHasThickerBars) {
   EXPECT_GT(Columns(), 2);
 }
 
-TEST_F(AnalyticTest, ACharacterTypedOnTheBoxForTheWidthClearsTheGraph) {
+TEST_F(AnalyticTest, ACharacterTypedOnTheWidthCheckBoxClearsTheGraph) {
   Work(dialog, "Check1:x");
   EXPECT_EQ(Columns(), 0);
 }
@@ -93,7 +93,7 @@ TEST_F(AnalyticTest, SearchSelectsTheRowOfTheCharacter) {
   EXPECT_EQ(SelectedRow(), kTwoOfThree);
 }
 
-TEST_F(AnalyticTest, ThePointerShowsTheCharacterUntilAClickBehindTheGraph) {
+TEST_F(AnalyticTest, ThePointerShowsTheCharacterUntilAClickBesideTheGraph) {
   QTest::mouseMove(graph, QPoint(130 * graph->width() / 508 + 1, 20));
   ExpectState(dialog, "", "Label2='Poloha: 65 Znak: \"A\"'");
   EXPECT_EQ(graph->toolTip(), QStringLiteral("Poloha: 65 Znak: \"A\""));

@@ -1,4 +1,4 @@
-// The calculator and its converter of numbers, beside the editor and alone.
+// The calculator and its number converter, with the editor and alone.
 #include "accessories/windows/kalkul.h"
 #include "accessories/windows/prev.h"
 #include "support/program_test.h"
@@ -10,7 +10,7 @@ struct KalkulTest : ProgramTest {
   Kalkul& kalkul = Open<Kalkul>();
 };
 
-TEST_F(KalkulTest, TypesByItsKeys) {
+TEST_F(KalkulTest, ItsKeysTypeAndEraseDigits) {
   ExpectState(kalkul,
               "Command1! Command2! Command3! Command4! Command5! Command6! Command7! Command8! Command9! Command10!",
               "Cislo=1234567890");
@@ -35,7 +35,7 @@ TEST_F(KalkulTest, EachOperatorKeyWaitsForTheSecondNumber) {
   }
 }
 
-TEST_F(KalkulTest, AWaitingOperatorLeavesTheOperatorKeysDisabled) {
+TEST_F(KalkulTest, AWaitingOperatorDisablesTheOperatorKeys) {
   ExpectState(kalkul, "", "Command12=&+ Command32=&log Command33=&x^y Command16=(&=)");
   ExpectState(kalkul, "Command12!",
               "Command12=(&+) Command13=(&-) Command14=(&*) Command15=(&/) Command32=(&log) Command33=(&x^y) "
@@ -43,7 +43,7 @@ TEST_F(KalkulTest, AWaitingOperatorLeavesTheOperatorKeysDisabled) {
   ExpectState(kalkul, "Command16!", "Command12=&+ Command32=&log Command33=&x^y Command16=(&=)");
 }
 
-// required: a power pressed then takes the place of the operator and of the first number
+// required: the power key then replaces the waiting operator and the first number
 TEST_F(KalkulTest, DivisionAndLogarithmLeaveThePowerKeyEnabled) {
   ExpectState(kalkul, "Command8! Command15!", "Command12=(&+) Command33=&x^y");
   ExpectState(kalkul, "Command2! Command33!", "Label2=2 Label1=^ Cislo=0");
@@ -112,7 +112,7 @@ TEST_F(PrevTest, EachKeyOfTheKeypadsTypesItsDigit) {
   const auto press = [this](int key) { Work(prev, ("Command" + std::to_string(key) + '!').c_str()); };
   for (int key = 1; key <= 19; ++key) press(key);
   for (int key = 26; key <= 34; ++key) press(key);
-  // The tenth digit doesn't stay.
+  // A tenth digit is dropped.
   ExpectState(prev, "", "Label1=123456789 Label3=123456789 Label6=12345670 Label8=");
   for (int erased = 0; erased < 9; ++erased) press(36);
   for (int key = 20; key <= 26; ++key) press(key);
@@ -147,12 +147,12 @@ struct CalculatorAloneTest : ProgramTest {
   Kalkul& Calculator() { return parts.windows.Get<Kalkul>(); }
 };
 
-TEST_F(CalculatorAloneTest, GivesTheNumberToTheClipboard) {
+TEST_F(CalculatorAloneTest, CopiesTheNumberToTheClipboard) {
   ExpectState(Calculator(), "Command5! Command19!", "Command19=&Clip Command20=&Quit");
   EXPECT_EQ(platform.clipboard, "5");
 }
 
-TEST_F(CalculatorAloneTest, DisablesTheConvertersButtonsIntoTheTextExceptTheRomanOne) {
+TEST_F(CalculatorAloneTest, DisablesTheConvertersTextButtonsExceptTheRomanOne) {
   Work(Calculator(), "Command35!");
   ExpectState(parts.windows.Get<Prev>(), "",
               "Command42=('Do textu') Command43=('Do textu') Command44=('Do textu') Command46='Do textu'");

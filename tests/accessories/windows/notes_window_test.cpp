@@ -40,8 +40,8 @@ struct NotesWindowTest : ProgramTest {
       if (entry.path().extension() == ".lock") names.push_back(entry.path().filename());
     return names;
   }
-  // Leaves the rescue file of a copy that crashed, and its lock.
-  void LeaveBehind(const char* name, const RescueRecord& record) {
+  // Creates the rescue file of a crashed copy: its name in the real folder, its bytes in the platform.
+  void PutRescueFile(const char* name, const RescueRecord& record) {
     folder.Put(name, "");
     File(name) = RescueBytes(kNotesRescue, record);
   }
@@ -114,12 +114,12 @@ TEST_F(NotesWindowTest, APageThatAnotherCopyStoredMeanwhileStays) {
   const std::string both = NotesBytes({{"their first", "their second", "my first", "x", "y"}});
   EXPECT_EQ(File(), both);
   ExpectState(*notes, "", "Text1='their first'");
-  notes->close();  // neither asks nor keeps a page again
+  notes->close();  // no second message about the page, and no second copy of it
   EXPECT_EQ(File(), both);
   EXPECT_TRUE(platform.answers.empty());
 }
 
-TEST_F(NotesWindowTest, UnsavedPagesAreKeptSoonAndAtAnEndWithoutAClose) {
+TEST_F(NotesWindowTest, UnsavedPagesAreRescuedSoonAndAtAnEndWithoutAClose) {
   OpenOver({});
   Work(*notes, "Text1=typed");
   ASSERT_TRUE(QTest::qWaitFor([this] { return !Locks().empty(); }));
@@ -131,9 +131,9 @@ TEST_F(NotesWindowTest, UnsavedPagesAreKeptSoonAndAtAnEndWithoutAClose) {
   EXPECT_EQ(ReadRescue(kNotesRescue, kept->second), (RescueRecord{1, {{1, "", "typed later"}}}));
 }
 
-TEST_F(NotesWindowTest, RescuedPagesComeBackAndAreStoredByTheClose) {
-  LeaveBehind("notes-rescue-1-1.pelmar", {2, {{1, "first", "FIRST"}, {2, "", "SECOND"}}});
-  LeaveBehind("notes-rescue-2-1.pelmar", {1, {{1, "first", "another first"}, {3, "", ""}}});  // page 3 hasn't changed
+TEST_F(NotesWindowTest, RescuedPagesAreRestoredAndTheCloseStoresThem) {
+  PutRescueFile("notes-rescue-1-1.pelmar", {2, {{1, "first", "FIRST"}, {2, "", "SECOND"}}});
+  PutRescueFile("notes-rescue-2-1.pelmar", {1, {{1, "first", "another first"}, {3, "", ""}}});  // page 3 hasn't changed
   platform.answers = {Answer::kYes};
   OpenOver({{"first"}});
   platform.TakeCalls();
@@ -143,7 +143,7 @@ TEST_F(NotesWindowTest, RescuedPagesComeBackAndAreStoredByTheClose) {
             " \"Záchrana\"");
   ExpectState(*notes, "", "TabStrip1=1 Text1=SECOND");
   EXPECT_EQ(File(), NotesBytes({{"first"}}));
-  EXPECT_EQ(Locks().size(), 1u);  // that of this copy's own rescue file
+  EXPECT_EQ(Locks().size(), 1u);  // the lock of this copy's own rescue file
   notes->OfferRescued();          // asks only once
   notes->close();
   EXPECT_EQ(File(), NotesBytes({{"FIRST", "SECOND", "another first"}}));

@@ -1,4 +1,4 @@
-// The windows that type into the document: Morse, the keyboard on the screen, the table of characters.
+// The windows that type into the document: Morse, the on-screen keyboard, the character table.
 #include <QLineEdit>
 
 #include "accessories/windows/klavesnice.h"
@@ -10,7 +10,7 @@
 namespace pelmar {
 namespace {
 
-// Letters as dead keys and input methods send them.
+// Sends letters as dead keys and input methods do.
 void Compose(QWidget* receiver, const QString& letters) {
   EXPECT_TRUE(receiver->testAttribute(Qt::WA_InputMethodEnabled));
   QInputMethodEvent event(QString(), {});
@@ -117,7 +117,7 @@ TEST_F(CharTableTest, EachCharacterIsCollectedAndSentUnchanged) {
   }
 }
 
-TEST_F(CharTableTest, TheNumberedCharacterIsCollectedBeforeTheSelection) {
+TEST_F(CharTableTest, TheCharacterOfTheBarIsCollectedBeforeTheSelection) {
   Work(kod, "Text1=ab");
   Find<QLineEdit>(kod, "Text1")->setSelection(1, 1);
   ExpectState(kod, "HScroll1=38 Command3!", "Label1=38 Text1=a&b");
@@ -146,7 +146,7 @@ TEST_F(CharTableTest, TheCellOfCodeZeroIsEmpty) {
   EXPECT_FALSE(cell(9) == cell(' '));
 }
 
-TEST_F(CharTableTest, AFontGoesToAllThatShowsCharactersAndItsNameStaysAsTyped) {
+TEST_F(CharTableTest, AFontIsSetWhereCharactersAreShownAndItsNameStaysAsTyped) {
   ExpectState(kod, "Option3! Combo1= Combo1:Courier", "Combo1=Courier");
   for (const char* name : {"Picture1", "Picture2", "Label2", "Text1"})
     EXPECT_EQ(Named(kod, name)->font().family(), QStringLiteral("Courier")) << name;
@@ -154,8 +154,8 @@ TEST_F(CharTableTest, AFontGoesToAllThatShowsCharactersAndItsNameStaysAsTyped) {
 
 TEST_F(CharTableTest, TypedKeysEditTheDocument) {
   ExpectDocument("mnuASCII", "Picture1:'x \ryz\b'", "[ab|c", "x ¶y|c");
-  ExpectDocument("mnuASCII", "Picture1:→↓\r", "[ab|c", "¶|c");                 // required: Enter on a marked cell too
-  ExpectDocument("mnuASCII", "HScroll1=65 Command3:'\r '", "[ab|c", "[ab|c");  // they click the button
+  ExpectDocument("mnuASCII", "Picture1:→↓\r", "[ab|c", "¶|c");                 // required: Enter on a selected cell too
+  ExpectDocument("mnuASCII", "HScroll1=65 Command3:'\r '", "[ab|c", "[ab|c");  // the keys click the button
   ExpectState(kod, "", "Text1=AA");
 }
 

@@ -12,11 +12,10 @@ namespace {
 
 struct ZaKodTest : ProgramTest {
   const QWidget& dialog = Open("mnucode");
-
   const std::string long_text = std::string(64000, 'a');
 
-  // Enciphers the long text, does something meanwhile and returns the document after it.
-  std::string After(const std::function<void()>& act) {
+  // Enciphers the long text, calls `act` during the run and returns the document after it.
+  std::string AfterRun(const std::function<void()>& act) {
     text.SetText(long_text);
     Inside(act);
     Work(dialog, "Command1!");
@@ -33,23 +32,23 @@ TEST_F(ZaKodTest, TwiceTheSameKeyRestoresTheWholeDocument) {
   EXPECT_EQ(text.Text(), "ab");
 }
 
-TEST_F(ZaKodTest, ADocumentThatAPersonChangesDuringARunIsLeftAlone) {
+TEST_F(ZaKodTest, DuringARunOkIsIgnoredAndAChangedDocumentIsNotEnciphered) {
   std::string once;
   StreamCipher(0).Append(long_text, once);
-  EXPECT_EQ(After([&] { Work(dialog, "Command1!"); }), once);  // starts no second run
+  EXPECT_EQ(AfterRun([&] { Work(dialog, "Command1!"); }), once);  // starts no second run
   platform.files = {{"/same.txt", long_text}};
   platform.opens = {"/same.txt"};
-  EXPECT_EQ(After([&] { editor.commands.Run("mnu_open_st"); }), long_text);
-  EXPECT_EQ(After([&] { Work(main, "FileTab=1"); }), "");
+  EXPECT_EQ(AfterRun([&] { editor.commands.Run("mnu_open_st"); }), long_text);
+  EXPECT_EQ(AfterRun([&] { Work(main, "FileTab=1"); }), "");
 }
 
 TEST_F(ZaKodTest, AProgramThatEndsDuringARunKeepsTheDocument) {
   platform.answers = {Answer::kYes, Answer::kYes};
-  Inside([&] { EXPECT_EQ(After([&] { main.close(); }), long_text); });
+  Inside([&] { EXPECT_EQ(AfterRun([&] { main.close(); }), long_text); });
   EXPECT_EQ(QCoreApplication::exec(), 0);
 }
 
-TEST_F(ProgramTest, ShiftKodShiftsTheWholeDocumentThereAndBackOrTheQuickTextIfTicked) {
+TEST_F(ProgramTest, ShiftKodEnciphersAndDeciphersTheDocumentOrTheQuickText) {
   const QWidget& dialog = Open("mnu_encrypt_shift");
   platform.draws = {0.99, 0.0};
   ExpectState(dialog, "Command4!", "Label4=26");
@@ -70,7 +69,7 @@ TEST_F(ProgramTest, ShiftKodShiftsTheWholeDocumentThereAndBackOrTheQuickTextIfTi
   EXPECT_EQ(text.Text(), "Az");
 }
 
-TEST_F(ProgramTest, CronfeldMovesTheWholeDocumentThereAndBackOrTheQuickTextIfTicked) {
+TEST_F(ProgramTest, CronfeldEnciphersAndDeciphersTheDocumentOrTheQuickText) {
   const QWidget& dialog = Open("Mnu_Encrypt_Confeld");
   platform.draws.assign(15, 0.999);
   ExpectState(dialog, "Command4!", "Text1=999999999999999");
@@ -81,7 +80,7 @@ TEST_F(ProgramTest, CronfeldMovesTheWholeDocumentThereAndBackOrTheQuickTextIfTic
   EXPECT_FALSE(text.CanUndo());  // required for a replaced text
   Work(dialog, "Command2!");
   EXPECT_EQ(text.Text(), "aa aa");
-  ExpectState(dialog, "Check1! Text3=Zb", "Text2=");  // moved by the buttons only
+  ExpectState(dialog, "Check1! Text3=Zb", "Text2=");  // only the buttons change Text2
   ExpectState(dialog, "Command1!", "Text2=Ad");
   ExpectState(dialog, "Command2!", "Text2=Yz");
   EXPECT_EQ(text.Text(), "aa aa");
@@ -99,8 +98,8 @@ TEST_F(ProgramTest, ChtTranscribesTheDocumentAndShowsTheLookAlikes) {
 }
 
 struct ShiftTest : ProgramTest {
-  // Runs the command with "abcd" selected, takes the steps in the dialog and closes it.
-  void Rotate(const char* steps, const char* state) {
+  // Runs the command with "abcd" selected and the steps in the dialog, expects the state and closes the dialog.
+  void ExpectRotation(const char* steps, const char* state) {
     PutMarked(text, "x[abcd|x");
     InDialog<Shift>([&](Shift& dialog) {
       ExpectState(dialog, steps, state);
@@ -110,17 +109,20 @@ struct ShiftTest : ProgramTest {
   }
 };
 
-TEST_F(ShiftTest, OkWritesTheRotatedTextAndTheCommandNeedsASelection) {
-  Rotate("HScroll1=3 HScroll1=1 Command1!", "Label2=1 Text1=bcda");
+TEST_F(ShiftTest, OkWritesTheRotatedText) {
+  ExpectRotation("HScroll1=3 HScroll1=1 Command1!", "Label2=1 Text1=bcda");
   EXPECT_EQ(Marked(text), "xbcda|x");
+}
+
+TEST_F(ShiftTest, TheCommandNeedsASelection) {
   platform.answers = {Answer::kOk};
   editor.commands.Run("MnuSelTextPosun");
   EXPECT_EQ(platform.TakeCallsInOneLine(), "message 0 \"Vyber text!\" \"Posun\"; ");
 }
 
 TEST_F(ShiftTest, TheBarGoesFrom1ToTheLengthOfTheSelection) {
-  Rotate("", "HScroll1=1 Label2=1 Text1=abcd Orig=abcd");  // required: the text begins unrotated
-  Rotate("HScroll1=9", "HScroll1=4 Label2=4 Text1=abcd");
+  ExpectRotation("", "HScroll1=1 Label2=1 Text1=abcd Orig=abcd");  // required: Text1 isn't rotated yet
+  ExpectRotation("HScroll1=9", "HScroll1=4 Label2=4 Text1=abcd");
 }
 
 struct RndSifraTest : ProgramTest {
@@ -172,7 +174,7 @@ TEST_F(RndSifraTest, NewCodesKeepTheLettersAndNewLettersTheCodes) {
   EXPECT_EQ(platform.reseeds, 3);
 }
 
-TEST_F(RndSifraTest, WithoutATableItSaysSoAndEnciphersNothing) {
+TEST_F(RndSifraTest, AFailedLoadIsReportedAndAnEmptyTableWritesNothing) {
   platform.opens = {std::nullopt, "/new.pvt"};
   platform.answers = {Answer::kOk, Answer::kOk};
   ExpectState(dialog, "Command3!", "List1= Command5=(Zašifruj)");

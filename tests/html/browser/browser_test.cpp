@@ -11,7 +11,7 @@
 namespace pelmar {
 namespace {
 
-// A view that loads nothing. A load stays busy until the test ends it.
+// A view that loads nothing. It is busy until the test ends the load.
 struct ScriptedView : WebView {
   QStringList& calls;
   QWidget* widget;
@@ -19,7 +19,7 @@ struct ScriptedView : WebView {
   QString name;
   QUrl address;
 
-  ScriptedView(QStringList& asked, QWidget* parent) : calls(asked), widget(new QWidget(parent)) {}
+  ScriptedView(QStringList& call_list, QWidget* parent) : calls(call_list), widget(new QWidget(parent)) {}
   void Finish() {
     busy = false;
     on_finished();
@@ -54,8 +54,8 @@ struct BrowserTest : testing::Test, WebViewMaker {
     return std::unique_ptr<WebView>(view);
   }
   [[nodiscard]] std::string Caption() const { return window.windowTitle().toStdString(); }
-  // The calls of the view since the last time.
-  std::string Calls() { return std::exchange(calls, {}).join(u", ").toStdString(); }
+  // Returns the calls of the view so far and empties the list.
+  std::string TakeCalls() { return std::exchange(calls, {}).join(u", ").toStdString(); }
   // The addresses in the list.
   [[nodiscard]] std::string List() const {
     QStringList rows;
@@ -65,9 +65,9 @@ struct BrowserTest : testing::Test, WebViewMaker {
   void Tick() { QMetaObject::invokeMethod(&timer, "timeout"); }
 };
 
-TEST_F(BrowserTest, LoadsAFileAndWatchesTheLoad) {
+TEST_F(BrowserTest, LoadsAFileAndShowsTheStateOfTheLoad) {
   window.ShowInBrowser("/stránka.html");
-  EXPECT_EQ(Calls(), "load file:///str%C3%A1nka.html");
+  EXPECT_EQ(TakeCalls(), "load file:///str%C3%A1nka.html");
   EXPECT_EQ(Caption(), "HTML Testovací  browser");
   EXPECT_FALSE(Named(window, "Picture1")->isEnabled());
   Tick();
@@ -92,7 +92,7 @@ TEST_F(BrowserTest, ThePictureOfALoadHasEightFrames) {
   EXPECT_EQ(frames.size(), 8);
 }
 
-TEST_F(BrowserTest, AFinishedPageMovesToTheTopOfTheListFromWhichOnlyAPersonLoads) {
+TEST_F(BrowserTest, AFinishedPageMovesToTheTopOfTheListAndOnlyAKeyLoadsFromIt) {
   for (const char* page : {"/a.html", "/b.html", "/a.html"}) {
     window.ShowInBrowser(page);
     view->Finish();
@@ -101,20 +101,20 @@ TEST_F(BrowserTest, AFinishedPageMovesToTheTopOfTheListFromWhichOnlyAPersonLoads
   Q_EMIT address.lineEdit()->editingFinished();
   address.setCurrentIndex(1);
   EXPECT_EQ(calls.size(), 3);  // a change of the list loads nothing
-  Calls();
+  TakeCalls();
   QTest::keyClick(&address, Qt::Key_Up);
-  EXPECT_EQ(Calls(), "load file:///a.html");
+  EXPECT_EQ(TakeCalls(), "load file:///a.html");
 }
 
 TEST_F(BrowserTest, EnterLoadsTheTypedAddress) {
   Work(window, "cboAddress:www.priklad.cz\r");
-  EXPECT_EQ(Calls(), "load http://www.priklad.cz");
-  EXPECT_EQ(List(), "");  // it joins the list when the page is there
+  EXPECT_EQ(TakeCalls(), "load http://www.priklad.cz");
+  EXPECT_EQ(List(), "");  // a finished page joins the list
   view->Finish();
   EXPECT_EQ(List(), "http://www.priklad.cz");
 }
 
-TEST_F(BrowserTest, EachToolbarButtonButStopActsAndStartsTheTimer) {
+TEST_F(BrowserTest, EachToolbarButtonExceptStopActsAndStartsTheTimer) {
   platform.opens = {"/home/jan/c.htm"};
   const std::pair<const char*, const char*> cases[] = {{"Back!", "back"},
                                                        {"Forward!", "forward"},
@@ -124,7 +124,7 @@ TEST_F(BrowserTest, EachToolbarButtonButStopActsAndStartsTheTimer) {
   for (const auto& [button, call] : cases) {
     timer.stop();
     Work(window, button);
-    EXPECT_EQ(Calls(), call);
+    EXPECT_EQ(TakeCalls(), call);
     EXPECT_TRUE(timer.isActive()) << button;
   }
   EXPECT_EQ(platform.calls.back(), "open \"Všechno (*.*)|*.*|htm (*.htm)|*.htm|html (*.html)|*.html\" 1");
@@ -132,18 +132,18 @@ TEST_F(BrowserTest, EachToolbarButtonButStopActsAndStartsTheTimer) {
 
 TEST_F(BrowserTest, StopEndsTheLoadAtOnce) {
   window.ShowInBrowser("/a.html");
-  Calls();
+  TakeCalls();
   Tick();
   ExpectState(window, "Stop!", "Panel1=Idle");
-  EXPECT_EQ(Calls(), "stop");
+  EXPECT_EQ(TakeCalls(), "stop");
   EXPECT_FALSE(timer.isActive());
 }
 
-TEST_F(BrowserTest, AloneItStartsWithItsPageAndEndsTheProgramAfterAQuestion) {
+TEST_F(BrowserTest, AloneItLoadsItsStartPageAndEndsTheProgramAfterAYes) {
   int ended = 0;
   FrmBrowser alone(*this, platform, [&] { ++ended; });
   alone.ShowAlone();
-  EXPECT_EQ(Calls(), "load " + alone.StartingAddress.toStdString());
+  EXPECT_EQ(TakeCalls(), "load " + alone.StartingAddress.toStdString());
   platform.answers = {Answer::kNo, Answer::kYes};
   EXPECT_FALSE(alone.close());
   EXPECT_TRUE(alone.isVisible());
@@ -161,13 +161,13 @@ TEST(WebAddress, OnlyPagesMayBeShown) {
     EXPECT_TRUE(MayBeShown(UrlOfAddress(QLatin1String(shown)))) << shown;
 }
 
-TEST(WebAddress, OfAFileComesBackAsItWas) {
+TEST(WebAddress, OfAFileIsTheSameAfterConversionToAUrlAndBack) {
   const TempFolder folder;
-  const std::string odd = "file://" + folder.Put("100% #1 žluť?.html", "");
-  const std::string part = "file://" + folder.Put("a.html", "") + "#část";
-  for (const std::string& address : {odd, part, std::string("file:///a%20%E8%23.htm")})
+  const std::string odd_name = "file://" + folder.Put("100% #1 žluť?.html", "");
+  const std::string with_anchor = "file://" + folder.Put("a.html", "") + "#část";
+  for (const std::string& address : {odd_name, with_anchor, std::string("file:///a%20%E8%23.htm")})
     EXPECT_EQ(AddressOfUrl(UrlOfAddress(QString::fromStdString(address))).toStdString(), address);
-  EXPECT_EQ(PathOfUrl(UrlOfAddress(QString::fromStdString(odd))), odd.substr(7));
+  EXPECT_EQ(PathOfUrl(UrlOfAddress(QString::fromStdString(odd_name))), odd_name.substr(7));
   EXPECT_EQ(AddressOfFile("/a \xE8#.htm"), QStringLiteral("file:///a%20%E8%23.htm"));
 }
 

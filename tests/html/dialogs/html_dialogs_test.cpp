@@ -133,7 +133,7 @@ TEST_F(HtmlDialogTest, APageHoldsTheProfileTheTimeAndTheSelection) {
   EXPECT_FALSE(text.CanUndo());  // required for a replaced text
 }
 
-// required: the editor gets the colour of the swatch, at first white. The page gets the label, at first "#000000".
+// required: the page gets the text of the label, at first black. The editor gets the swatch's colour, at first white.
 TEST_F(HtmlDialogTest, TickedColoursOfAPageAlsoColourTheEditor) {
   main.SetEditorColors(Rgb(7, 7, 7), Rgb(8, 8, 8));
   ExpectDocument("Newhtml", "Check1! Command1!", "[x|", kPageHead + " BGCOLOR=\"#000000\">¶[x|" + kPageEnd);
@@ -143,7 +143,7 @@ TEST_F(HtmlDialogTest, TickedColoursOfAPageAlsoColourTheEditor) {
   EXPECT_EQ(ColorToHex(main.Look().fore_color), "#000000");
 }
 
-TEST_F(HtmlDialogTest, PickedColoursReachThePreviewThenThePageAndTheEditor) {
+TEST_F(HtmlDialogTest, PickedColoursGoIntoThePreviewAndByOkIntoThePageAndTheEditor) {
   const QWidget& dialog = Open("Newhtml");
   Work(dialog, "Check1! Check2! Check5! Check6! Check7! Command4! Command5! Command6! Command7! Command8!");
   EXPECT_EQ(Find<TextBox>(dialog, "Text1")->TextColor().name(), QStringLiteral("#ff0013"));
@@ -211,23 +211,24 @@ TEST_F(TableGridTest, ShrinkingTheTableSelectsACellInsideAndKeepsAllTexts) {
 
 TEST_F(TableGridTest, AttributesOfACellAndOfARowComeFromTheirDialogs) {
   text.SetText("kept");
-  const auto ask = [&](const char* button, const char* steps, const char* state) {
+  // Presses the button, runs the steps in the dialog that opens, and expects the state of the table.
+  const auto expect = [&](const char* button, const char* steps, const char* state) {
     InDialog<QDialog>([&](QDialog& dialog) { Work(dialog, steps); });
     ExpectState(table, button, state);
   };
-  ask("Command3!", "Check1! Option4! Command1!", "Text3=' ALIGN=\"CHAR\" CHAR=\",\"'");
-  ask("Command3!", "Check1! Command2!", "Text3=' ALIGN=\"CHAR\" CHAR=\",\"'");  // cancelled
-  ask("Command3!", "Command1!", "Text3=");                                      // nothing is ticked any more
-  Open<TableRow>();                                                             // the dialog may be open before
-  ask("Command6!", "Check2! Command1!", "Text5=' VALIGN=\"MIDDLE\"'");
+  expect("Command3!", "Check1! Option4! Command1!", "Text3=' ALIGN=\"CHAR\" CHAR=\",\"'");
+  expect("Command3!", "Check1! Command2!", "Text3=' ALIGN=\"CHAR\" CHAR=\",\"'");  // cancelled
+  expect("Command3!", "Command1!", "Text3=");                                      // nothing is ticked any more
+  Open<TableRow>();                                                                // the dialog may already be open
+  expect("Command6!", "Check2! Command1!", "Text5=' VALIGN=\"MIDDLE\"'");
   EXPECT_EQ(text.Text(), "kept");
 }
 
 TEST_F(HtmlDialogTest, EachOptionWritesItsValue) {
   const struct {
     const char* command;
-    int first, last;
-    const char *mark, *words;
+    int first_option, last_option;
+    const char *text_before_value, *values;
   } cases[] = {
       {"mnuparagraph", 1, 3, "ALIGN = \"", "LEFT CENTER RIGHT"},
       {"mnulabel", 1, 4, "ALIGN = \"", "LEFT CENTER RIGHT "},
@@ -247,13 +248,13 @@ TEST_F(HtmlDialogTest, EachOptionWritesItsValue) {
     if (window.findChild<FileList*>() != nullptr) Work(window, "File1=0");
     for (auto* box : window.findChildren<QCheckBox*>()) box->setChecked(true);
     const char* ok = std::string_view(c.command).starts_with("mnulist") ? "Command3!" : "Command1!";
-    QStringList words;
-    for (int option = c.first; option <= c.last; ++option) {
+    QStringList values;
+    for (int option = c.first_option; option <= c.last_option; ++option) {
       text.SetText("");
       Work(window, qPrintable(QStringLiteral("Option%1! ").arg(option) + QLatin1String(ok)));
-      words += TextToQString(text.Text()).section(QLatin1String(c.mark), 1).section(u'"', 0, 0);
+      values += TextToQString(text.Text()).section(QLatin1String(c.text_before_value), 1).section(u'"', 0, 0);
     }
-    EXPECT_EQ(words.join(u' ').toStdString(), c.words) << c.command;
+    EXPECT_EQ(values.join(u' ').toStdString(), c.values) << c.command;
   }
 }
 
@@ -270,9 +271,8 @@ TEST_F(HtmlDialogTest, TheLabelOfARuleFollowsBarAndUnit) {
 TEST_F(HtmlDialogTest, TheSizeOfAnImageFollowsBarsAndUnit) {
   const QWidget& image = Open("mnuobr");
   ExpectState(image, "Check1! VScroll1=150", "Label3=' 150%' Label4=' 10%'");
-  ExpectState(image, "Option7!", "Label3=' 150' Label4=' 10'");  // the values stay
-  ExpectState(image, "VScroll1=999 VScroll2=999",
-              "Label3=' 600' Label4=' 800'");  // required: at most 600 high and 800 wide
+  ExpectState(image, "Option7!", "Label3=' 150' Label4=' 10'");                    // the values stay
+  ExpectState(image, "VScroll1=999 VScroll2=999", "Label3=' 600' Label4=' 800'");  // required: these limits
   ExpectState(image, "VScroll2=5 Option6!", "Label3=' 200%' Label4=' 10%'");
 }
 
@@ -295,9 +295,9 @@ TEST_F(HtmlDialogTest, TheOkButtonOfALinkNeedsAFileOrAnAddress) {
   ExpectState(link, "Dir1=/ Option1!", "Label1=/ Command1=(&Ok) Command3=()");
 }
 
-TEST_F(HtmlDialogTest, EachBoxEnablesItsControls) {
+TEST_F(HtmlDialogTest, EachCheckBoxEnablesItsControls) {
   const std::pair<const char*, const char*> cases[] = {
-      // How many controls each box enables, in the order of the form.
+      // How many controls each check box enables, in the order of the form.
       {"mnubarva", "2 1 3"},
       {"mnulistcount", "5 1 0"},
       {"mnuHTML_Fme", "0 1 1 1 2 2 7 6 0"},
@@ -311,7 +311,7 @@ TEST_F(HtmlDialogTest, EachBoxEnablesItsControls) {
       {"mnurow", "4 3"},
       {"mnucreate", "2 2 2 2 2 2 4 0"},
   };
-  for (const auto& [command, expected] : cases) {
+  for (const auto& [command, counts] : cases) {
     const QWidget& window = Open(command);
     const auto disabled = [&window] {
       return std::ranges::count_if(window.findChildren<QWidget*>(), [](const QWidget* control) {
@@ -324,7 +324,7 @@ TEST_F(HtmlDialogTest, EachBoxEnablesItsControls) {
       box->click();
       enabled += QString::number(before - disabled());
     }
-    EXPECT_EQ(enabled.join(u' ').toStdString(), expected) << command;
+    EXPECT_EQ(enabled.join(u' ').toStdString(), counts) << command;
   }
 }
 
@@ -341,9 +341,13 @@ TEST_F(HtmlDialogTest, TheChosenFileSetsLabelAndButtons) {
   expect("", "Label1=" + folder + "/sub/ Command1=(&Ok) Command3=()");
 }
 
-TEST_F(HtmlDialogTest, AFileIsShownInTheBrowserAndMayDisappearUnnoticed) {  // required
+TEST_F(HtmlDialogTest, TheChosenFileIsShownInTheBrowser) {
   Work(Open("mnuobr"), ("Dir1=" + temp.Path() + "/sub File1=0 Command3!").c_str());
   EXPECT_EQ(shown, std::vector<std::string>{temp.File("sub/k\xF9.gif")});
+}
+
+TEST_F(HtmlDialogTest, TheAddressOfADisappearedFileIsStillWritten) {  // required
+  Work(Open("mnuobr"), ("Dir1=" + temp.Path() + "/sub File1=0").c_str());
   std::filesystem::remove(temp.File("sub/k\xF9.gif"));
   ExpectDocument("mnuobr", "Command1!", "|", "<IMG SRC=\"" + address + "/sub/k%F9.gif\">|");
 }
@@ -364,8 +368,7 @@ TEST_F(HtmlDialogTest, ItemsAreAddedAboveTheSelectedRowAndRemoved) {
 
 TEST_F(HtmlDialogTest, ADefinitionListHoldsPairs) {
   const QWidget& terms = Open("MnuListDef");
-  ExpectState(terms,
-              "Command1! Atribut=a Hodnota=", "Command1=(&Přidej)");  // required: only the last changed field counts
+  ExpectState(terms, "Command1! Atribut=a Hodnota=", "Command1=(&Přidej)");  // required: only the last change counts
   ExpectState(terms, "Atribut=b Hodnota:\r", "Atributs=Text1|b Values=Text1|");
   ExpectState(terms, "Values=0", "Atributs=>Text1|b Values=>Text1| Atribut=b");  // unlike in EdiTag, the fields stay
   Work(terms, "Command3!");
@@ -388,7 +391,7 @@ TEST_F(HtmlDialogTest, AttributesAreChosenFromAListOrTyped) {
   ExpectState(attributes, "Command2!", "Atributs=ID|X Values=ž|ž");
 }
 
-TEST_F(HtmlDialogTest, AttributesGoIntoTheTagAtTheCaretOrKeepTheDialogOpen) {
+TEST_F(HtmlDialogTest, AttributesGoIntoTheTagAtTheCaretOrTheDialogStaysOpen) {
   ExpectDocument("mnuatr", "Atribut=ID Hodnota=ž Command1! Command3!", "<A>|x</A>", R"(<A ID="ž"|>x</A>)");
   platform.answers = {Answer::kOk};
   ExpectDocument("mnuatr", "Command1! Command3!", "|<A>x</A>", "|<A>x</A>");
@@ -396,7 +399,7 @@ TEST_F(HtmlDialogTest, AttributesGoIntoTheTagAtTheCaretOrKeepTheDialogOpen) {
 }
 
 struct EdiTagTest : HtmlDialogTest {
-  // Opens the tag at the caret of `before`, takes `steps`, expects `state`, takes `end` and expects `after`.
+  // Opens the tag at the caret of `before`, runs `steps`, expects `state`, runs `end` and expects `after`.
   void ExpectEdited(const char* before, const char* steps, const char* state, const char* end, const char* after) {
     PutMarked(text, before);
     InDialog<QDialog>([&](QDialog& dialog) {
@@ -409,7 +412,7 @@ struct EdiTagTest : HtmlDialogTest {
   }
 };
 
-TEST_F(EdiTagTest, ATagIsTakenApartEditedAndWrittenBack) {
+TEST_F(EdiTagTest, ATagIsReadIntoFieldsEditedAndWrittenBack) {
   ExpectEdited("a<IMG ALT=\"a b\" SRC=c>|d", "", "Text1=IMG Atributs=ALT|SRC Values='a b|c' Command2=O&deber",
                "Command3!", "a<IMG ALT=\"a b\" SRC=\"c\">|d");
   ExpectEdited("<A B=x¶y C=2>| ", "Atributs=0 Atributs=1 Atributs=0", "Atribut=B", "Command3!",
@@ -442,7 +445,7 @@ TEST_F(EdiTagTest, WithoutATagTheDialogIsEmpty) {
   ExpectEdited("|a", "", "Text1= Atributs= Command2=(O&deber)", "Command3!", "<>|a");
 }
 
-TEST_F(EdiTagTest, ALongValueComesBackWhole) {
+TEST_F(EdiTagTest, ALongValueIsWrittenBackWhole) {
   const std::string value(40000, 'A');
   ExpectEdited(("<B C=" + value + ">|").c_str(), "Atributs=0 Values=0", "Text1=B", "Command3!",
                ("<B C=\"" + value + "\">|").c_str());
@@ -468,7 +471,7 @@ TEST_F(SampleTest, TheChosenRowIsShown) {
   ExpectState(window, "", "Label1='Zobrazení dokumentu :Jednoduchý HTML dokument 1'");
 }
 
-TEST_F(SampleTest, EnterPutsTheSampleInPlaceOfTheDocument) {
+TEST_F(SampleTest, EnterReplacesTheDocumentByTheSample) {
   PutMarked(text, "ol|d");
   Click(9);
   EXPECT_EQ(Marked(text), "ol|d");

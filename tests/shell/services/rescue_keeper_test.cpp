@@ -25,6 +25,7 @@ struct RescueKeeperTest : testing::Test {
     platform.files[folder.File("pelmar.ini")] = SettingsBytes(settings);
   }
   [[nodiscard]] bool FolderIsEmpty() const { return std::filesystem::is_empty(folder.Path()); }
+  static std::string PathOfWrite(const std::string& call) { return call.substr(std::string_view("write ").size()); }
   // The texts of a rescue file, "" if there is no such file.
   [[nodiscard]] std::string Texts(const std::string& path) {
     const auto record = ReadRescue(kDocumentsRescue, platform.files[path]);
@@ -35,13 +36,13 @@ struct RescueKeeperTest : testing::Test {
   }
 };
 
-TEST_F(RescueKeeperTest, KeepsAChangeWithinTwoSecondsUntilThePersonGivesItUp) {
+TEST_F(RescueKeeperTest, KeepsAChangeWithinTwoSecondsUntilThePersonDiscardsIt) {
   Program program(platform);
   MainWindow& window = program.Main();
   program.Run("-NOMSG");
   window.Box().Buffer().Type("a");
   ASSERT_TRUE(QTest::qWaitFor([&] { return !platform.calls.empty(); }, 2000));
-  const std::string own = platform.calls.back().substr(6);
+  const std::string own = PathOfWrite(platform.calls.back());
   EXPECT_EQ(Texts(own), "Soubor:\r\na\r\n\r\n");
   EXPECT_TRUE(platform.private_files.contains(own));
   platform.answers = {Answer::kNo, Answer::kYes};
@@ -52,14 +53,14 @@ TEST_F(RescueKeeperTest, KeepsAChangeWithinTwoSecondsUntilThePersonGivesItUp) {
   EXPECT_EQ(QApplication::exec(), EXIT_SUCCESS);  // the close has already ended it
 }
 
-TEST_F(RescueKeeperTest, TheBarWarnsForAsLongAsNothingCanBeKept) {
+TEST_F(RescueKeeperTest, TheStatusBarWarnsAsLongAsNothingCanBeKept) {
   Program program(platform);
   program.Run("-NOMSG");
   const auto* warning = program.Main().Bar().findChild<QLabel*>(QStringLiteral("Warning"));
   program.Main().Box().Buffer().Type("a");
   program.KeepUnsaved();
   EXPECT_FALSE(warning->isVisible());
-  const std::string own = platform.calls.front().substr(6);
+  const std::string own = PathOfWrite(platform.calls.front());
   platform.write_errors[own] = ENOSPC;
   program.Main().Box().Buffer().Type("b");
   ASSERT_TRUE(QTest::qWaitFor([&] { return warning->isVisible(); }));
@@ -68,8 +69,8 @@ TEST_F(RescueKeeperTest, TheBarWarnsForAsLongAsNothingCanBeKept) {
   EXPECT_EQ(Texts(own), "Soubor:\r\nab\r\n\r\n");
 }
 
-// Somebody else already has a file of the first name that is drawn.
-TEST_F(RescueKeeperTest, TheLastResortIsANewFileOfADrawnName) {
+// The first random name already belongs to another file.
+TEST_F(RescueKeeperTest, TheLastResortIsANewFileWithARandomName) {
   platform.install_folder = "/dev/null/";
   platform.draws = {0.5, 0.25};
   platform.files["/tmp/pelmar-rescue-49999999.txt"] = "planted";
@@ -93,14 +94,14 @@ TEST_F(RescueKeeperTest, TheMessageOfAnErrorNamesTheFileThatKeepsTheWork) {
   program.Main().Box().Buffer().Type("typed");
   platform.answers = {Answer::kOk};
   program.ReportRuntimeError(RuntimeError(5, "Chyba"));
-  const std::string own = platform.calls.front().substr(6);
+  const std::string own = PathOfWrite(platform.calls.front());
   EXPECT_EQ(Texts(own), "Soubor:\r\ntyped\r\n\r\n");
   EXPECT_EQ(platform.calls.back(),
             "message 0 \"Běhová chyba 5:\r\nChyba\r\n\r\nNeuložené dokumenty jsou zachovány v souboru\r\n" + own +
                 "\r\nPříští start programu je nabídne zpět.\r\n\r\nProgram bude ukončen.\" \"Pelmar VEX\"");
 }
 
-// Files of copies that crashed. Two hold the same text, and one is torn.
+// Files of crashed copies. Two hold the same text, and one is damaged.
 struct OfferTest : RescueKeeperTest {
   TextBuffer box;
   Documents documents{box};
@@ -108,7 +109,7 @@ struct OfferTest : RescueKeeperTest {
   RescueKeeper keeper{unsaved, platform};
   const std::string bytes = RescueBytes(kDocumentsRescue, {2, {{2, "/a.txt", "lost"}}}),
                     readable = "Soubor:/a.txt\r\nlost\r\n\r\n", old = folder.File("rescue-1-1.pelmar"),
-                    twin = folder.File("rescue-2-1.pelmar"), torn = folder.File("rescue-3-1.pelmar"),
+                    twin = folder.File("rescue-2-1.pelmar"), damaged = folder.File("rescue-3-1.pelmar"),
                     rest = folder.File("rescued.txt");
   std::string own;
 
@@ -119,7 +120,7 @@ struct OfferTest : RescueKeeperTest {
     EXPECT_EQ(keeper.KeepNow().path, "");
     PutOldFile(old, bytes);
     PutOldFile(twin, bytes);
-    PutOldFile(torn, bytes.substr(1));
+    PutOldFile(damaged, bytes.substr(1));
   }
   void PutOldFile(const std::string& path, const std::string& content) {
     platform.files[path] = content;
@@ -133,7 +134,7 @@ struct OfferTest : RescueKeeperTest {
     platform.answers = answers;
     keeper.Offer();
     EXPECT_TRUE(platform.answers.empty());
-    EXPECT_TRUE(std::filesystem::exists(torn));
+    EXPECT_TRUE(std::filesystem::exists(damaged));
   }
 };
 
@@ -163,19 +164,19 @@ TEST_F(OfferTest, OldFilesStayUntilTheirTextIsWritten) {
     platform.write_errors[written] = ENOSPC;
     Offer({answer});
     EXPECT_TRUE(OldFilesAreThere()) << written;
-    platform.write_errors.clear();  // with space again, the keeper goes on by itself
+    platform.write_errors.clear();  // when the disk has space again, the keeper continues by itself
     EXPECT_TRUE(QTest::qWaitFor([this] { return !OldFilesAreThere(); })) << written;
     documents.ForgetPath();
   }
 }
 
-TEST_F(OfferTest, AFileThatCantBeReadStaysUnasked) {
-  for (const std::string& path : {old, twin, torn}) platform.read_errors[path] = EIO;
+TEST_F(OfferTest, AFileThatCannotBeReadStaysAndNothingIsAsked) {
+  for (const std::string& path : {old, twin, damaged}) platform.read_errors[path] = EIO;
   Offer({});
   EXPECT_TRUE(OldFilesAreThere());
 }
 
-TEST_F(RescueKeeperTest, TheStartTellsOnceWhereAKilledSaveHasLeftTheOldContent) {
+TEST_F(RescueKeeperTest, TheStartReportsOnceWhereAnInterruptedSaveLeftTheOldContent) {
   const std::string left = folder.Put("puvodni-abcdef-a.txt", "old");
   for (const bool first : {true, false}) {
     Program program(platform);
@@ -183,8 +184,8 @@ TEST_F(RescueKeeperTest, TheStartTellsOnceWhereAKilledSaveHasLeftTheOldContent) 
     program.Run("-NOMSG");
     QApplication::processEvents();
     EXPECT_EQ(platform.answers.empty(), first);
-    const std::string told = platform.TakeCallsInOneLine();
-    EXPECT_EQ(told.find(left) != std::string::npos, first) << told;
+    const std::string calls = platform.TakeCallsInOneLine();
+    EXPECT_EQ(calls.find(left) != std::string::npos, first) << calls;
   }
 }
 

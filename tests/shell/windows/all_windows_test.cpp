@@ -17,7 +17,7 @@ namespace {
 // The space for a window inside its frame on a screen of 1024 by 600, at 100% and at 150%.
 constexpr QSize kSmallScreen(1016, 560), kTinyScreen(675, 368);
 
-bool Is(const QWidget* widget, std::initializer_list<const char*> classes) {
+bool IsA(const QWidget* widget, std::initializer_list<const char*> classes) {
   return widget != nullptr && std::ranges::any_of(classes, [&](const char* name) { return widget->inherits(name); });
 }
 
@@ -31,15 +31,15 @@ QList<QWidget*> Widgets(const QWidget& window) {
   widgets.removeIf([](const QWidget* widget) {
     return !widget->isVisible() || widget->objectName().isEmpty() ||
            widget->objectName().startsWith(QLatin1String("qt_")) ||
-           Is(widget->parentWidget(), {"QAbstractScrollArea", "QComboBox"});
+           IsA(widget->parentWidget(), {"QAbstractScrollArea", "QComboBox"});
   });
   return widgets;
 }
 
 void ExpectWholeCaptions(const QWidget& window) {
   for (const QWidget* widget : Widgets(window)) {
-    const bool button = Is(widget, {"QAbstractButton"});
-    if (!button && (!Is(widget, {"QLabel"}) || Is(widget, {"pelmar::ElidedLabel"}))) continue;
+    const bool button = IsA(widget, {"QAbstractButton"});
+    if (!button && (!IsA(widget, {"QLabel"}) || IsA(widget, {"pelmar::ElidedLabel"}))) continue;
     if (widget->property("text").toString().isEmpty() || widget->property("wordWrap").toBool()) continue;
     const QSize needed = button ? QSize(widget->minimumSizeHint().width(), 0) : widget->sizeHint() - QSize(0, 1);
     EXPECT_EQ(needed.boundedTo(widget->size()), needed) << DescriptionOf(widget) << " is cut";
@@ -47,24 +47,25 @@ void ExpectWholeCaptions(const QWidget& window) {
 }
 
 // The control needs a name, and Tab has to reach it. In a group of options the arrow keys reach the unchecked ones.
-void ExpectReach(QWidget* control) {
-  const QAccessibleInterface* face = QAccessible::queryAccessibleInterface(control);
-  const QString name = face->text(QAccessible::Name);
+void ExpectNameAndTab(QWidget* control) {
+  const QAccessibleInterface* info = QAccessible::queryAccessibleInterface(control);
+  const QString name = info->text(QAccessible::Name);
   // The accessible name of a combo box is its content, so it needs a label.
-  const bool spoken = control->inherits("QComboBox")
-                          ? !face->relations(QAccessible::Label).isEmpty()
-                          : std::ranges::any_of(name, [](QChar ch) { return ch.isLetterOrNumber(); });
-  EXPECT_TRUE(spoken && face->role() != QAccessible::Client) << DescriptionOf(control) << " has no name or no role";
+  const bool named = control->inherits("QComboBox")
+                         ? !info->relations(QAccessible::Label).isEmpty()
+                         : std::ranges::any_of(name, [](QChar ch) { return ch.isLetterOrNumber(); });
+  EXPECT_TRUE(named && info->role() != QAccessible::Client) << DescriptionOf(control) << " has no name or no role";
   const auto* option = qobject_cast<const QRadioButton*>(control);
-  const bool of_group = option != nullptr && option->autoExclusive() && !option->isChecked();
+  const bool in_group = option != nullptr && option->autoExclusive() && !option->isChecked();
   // A swatch that only shows a colour is no control, nor is a label whose text can be copied by mouse.
-  const bool shows = control->focusPolicy() == Qt::NoFocus ? Is(control, {"pelmar::Swatch"}) : Is(control, {"QLabel"});
-  EXPECT_TRUE((control->focusPolicy() & Qt::TabFocus) || !control->isEnabled() || of_group || shows)
+  const bool only_shows =
+      control->focusPolicy() == Qt::NoFocus ? IsA(control, {"pelmar::Swatch"}) : IsA(control, {"QLabel"});
+  EXPECT_TRUE((control->focusPolicy() & Qt::TabFocus) || !control->isEnabled() || in_group || only_shows)
       << DescriptionOf(control) << " can't be reached by keyboard";
 }
 
 // Enter presses the default button from at most one field, the last one, unless `defaultFromFields` is set.
-void ExpectEnterGoesOn(QWidget& window) {
+void ExpectEnterMovesOn(QWidget& window) {
   const QList<QPushButton*> buttons = window.findChildren<QPushButton*>();
   const auto found = std::ranges::find_if(buttons, &QPushButton::isDefault);
   if (found == buttons.end() || window.property("defaultFromFields").toBool()) return;
@@ -75,7 +76,7 @@ void ExpectEnterGoesOn(QWidget& window) {
   QObject::connect(&trap, &QPushButton::clicked, [&] { ++pressed; });
   for (QWidget* field : Widgets(window)) {
     const auto* line = qobject_cast<const QLineEdit*>(field);
-    if (!field->isEnabled() || !Is(field, {"QLineEdit", "QComboBox"}) || (line && line->isReadOnly())) continue;
+    if (!field->isEnabled() || !IsA(field, {"QLineEdit", "QComboBox"}) || (line && line->isReadOnly())) continue;
     field->setFocus();
     QTest::keyClick(field, Qt::Key_Return);
   }
@@ -84,11 +85,11 @@ void ExpectEnterGoesOn(QWidget& window) {
 }
 
 // The dialog fits the screen, and its default and cancel buttons are visible.
-void ExpectButtonsInSight(const QWidget& window) {
+void ExpectItFitsWithItsButtons(const QWidget& window) {
   EXPECT_EQ(window.size().boundedTo(kTinyScreen), window.size()) << DescriptionOf(&window);
   const QString cancel = window.property("cancelButton").toString();
   for (const QPushButton* button : window.findChildren<QPushButton*>()) {
-    if (Is(button, {"pelmar::KeyCap"}) || (!button->isDefault() && button->objectName() != cancel)) continue;
+    if (IsA(button, {"pelmar::KeyCap"}) || (!button->isDefault() && button->objectName() != cancel)) continue;
     EXPECT_EQ(button->visibleRegion().boundingRect(), button->rect()) << DescriptionOf(button);
   }
 }
@@ -122,7 +123,7 @@ TEST_F(AllWindows, FitASmallScreenWithLargeLetters) {
     if (dialog == nullptr) return;
     dialog->FitInto(kTinyScreen);
     Show(window);
-    ExpectButtonsInSight(window);
+    ExpectItFitsWithItsButtons(window);
     window.hide();
   });
 }
@@ -140,12 +141,12 @@ TEST_F(AllWindows, HaveOnlyControlsWithANameThatTabReaches) {
   ForEach([](QWidget& window) {
     EXPECT_NE(QAccessible::queryAccessibleInterface(&window)->role(), QAccessible::Client) << DescriptionOf(&window);
     for (QWidget* widget : Widgets(window))
-      if (widget->focusPolicy() != Qt::NoFocus || Is(widget, {"QAbstractButton", "QAbstractSlider", "QTabBar"}))
-        ExpectReach(widget);
+      if (widget->focusPolicy() != Qt::NoFocus || IsA(widget, {"QAbstractButton", "QAbstractSlider", "QTabBar"}))
+        ExpectNameAndTab(widget);
   });
 }
 
-TEST_F(AllWindows, StayOpenAtEnterInAField) { ForEach(ExpectEnterGoesOn); }
+TEST_F(AllWindows, StayOpenAtEnterInAField) { ForEach(ExpectEnterMovesOn); }
 
 }  // namespace
 }  // namespace pelmar

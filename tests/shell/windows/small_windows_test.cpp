@@ -19,7 +19,7 @@ namespace pelmar {
 namespace {
 
 struct StartedTest : ProgramTest {
-  // The fields are in the order of the file.
+  // In the order of the file: place, on top, font and colours, user, start, snapping, password, files, state, lines.
   const SettingsRecord stored{12000, 9000,  1500,     3000,  true, "DejaVu Sans Mono", 0x030201, 0xFCFBFA, 14,  true,
                               false, "Jan", "j@x.cz", false, 240,  "tajn\xE9",         {},       0,        true};
   std::string& settings = platform.files["/install/pelmar.ini"];
@@ -30,7 +30,7 @@ struct StartedTest : ProgramTest {
     QApplication::processEvents();
   }
   template <class Window>
-  Window& The() {
+  Window& GetWindow() {
     return parts.windows.Get<Window>();
   }
 };
@@ -57,17 +57,17 @@ TEST_F(StartedTest, ACloseStoresTheSettingsAsTheyWere) {
   EXPECT_EQ(ReadSettings(settings), stored);
 }
 
-TEST_F(StartedTest, TheAlignmentGoesRound) {
+TEST_F(StartedTest, TheAlignmentChangesToRightCentreAndLeftInTurn) {
   for (const Qt::AlignmentFlag alignment : {Qt::AlignRight, Qt::AlignHCenter, Qt::AlignLeft}) {
     Work(main, "Mnu_Change_Alingment!");
     EXPECT_EQ(main.Box().Alignment(), alignment);
   }
 }
 
-TEST_F(StartedTest, TheWelcomeLeadsToTheEditorHoweverItIsLeft) {
-  auto& start = The<Start>();
+TEST_F(StartedTest, EachWayOutOfTheWelcomeShowsTheEditor) {
+  auto& start = GetWindow<Start>();
   for (const char* leave : {"Command1!", "Check1:' '", "the system's close", "Command2!"}) {
-    EXPECT_FALSE(The<Otevri>().isVisible());
+    EXPECT_FALSE(GetWindow<Otevri>().isVisible());
     main.hide();
     start.Present();
     QTest::keyClick(&start, Qt::Key_Shift);  // a modifier alone doesn't close the welcome
@@ -79,7 +79,7 @@ TEST_F(StartedTest, TheWelcomeLeadsToTheEditorHoweverItIsLeft) {
     EXPECT_TRUE(main.isVisible()) << leave;
     EXPECT_FALSE(start.isVisible()) << leave;
   }
-  EXPECT_TRUE(The<Otevri>().isVisible());
+  EXPECT_TRUE(GetWindow<Otevri>().isVisible());
 }
 
 TEST_F(StartedTest, TheWelcomeSetsWhetherItShowsAgain) {
@@ -98,13 +98,13 @@ TEST_F(HelpTest, AMissingFileIsReported) {
   platform.files.erase("/share/pelmar.txt");
   platform.TakeCalls();
   platform.answers = {Answer::kOk};
-  The<Hlp>();
+  GetWindow<Hlp>();
   EXPECT_EQ(platform.TakeCallsInOneLine(),
             "message 0 \"Chyba helpového systému - pelmar.txt: soubor nebo složka neexistuje\" "
             "\"Help k Pelmar VEX\"; ");
 }
 
-TEST_F(HelpTest, ThePersonsOwnFileComesFirstAndIsReadAnew) {
+TEST_F(HelpTest, ThePersonsOwnFileComesFirstAndIsReadAtEachOpening) {
   ExpectState(Open("mnuhlp"), "", "Text1='from the package' Text2=Najít");
   platform.files["/install/pelmar.txt"] = "own";
   ExpectState(Open("mnuhlp"), "", "Text1=own");
@@ -123,9 +123,11 @@ struct ToolbarTest : StartedTest {
   // The first visible buttons of the toolbar, "|" for a separator.
   [[nodiscard]] std::string Buttons(int count) {
     std::string names;
-    for (const QAction* action : main.Toolbar().actions())
-      if (action->isVisible() && count-- > 0)
-        names += action->isSeparator() ? "| " : action->objectName().toStdString() + ' ';
+    for (const QAction* action : main.Toolbar().actions()) {
+      if (!action->isVisible() || count == 0) continue;
+      --count;
+      names += action->isSeparator() ? "| " : action->objectName().toStdString() + ' ';
+    }
     return names;
   }
 };
@@ -142,7 +144,7 @@ TEST_F(ToolbarTest, TheListMovesAndHidesButtons) {
   EXPECT_EQ(Buttons(7), "New Newhtml Open | Recent | Save ");
 }
 
-TEST_F(StartedTest, AboutShowsTheUserAndPlaysWithTheNameUnderTheMouse) {
+TEST_F(StartedTest, AboutShowsTheUserAndChangesTheCaseOfItsTitleUnderTheMouse) {
   auto& about = Open<O>();
   ExpectState(about, "", "Label3=Jan");
   const std::string shown = Find<TextBox>(about, "Text1")->Text().toStdString();
@@ -156,9 +158,9 @@ TEST_F(StartedTest, AboutShowsTheUserAndPlaysWithTheNameUnderTheMouse) {
 }
 
 struct ConfigTest : StartedTest {
-  Config& config = The<Config>();
+  Config& config = GetWindow<Config>();
 
-  // The name, address and password that the open window stores by `act`.
+  // Opens the window, runs `act` and returns the stored name, address and password.
   std::string StoredBy(std::function<void()> act) {
     settings.clear();
     Inside(std::move(act));
@@ -168,7 +170,7 @@ struct ConfigTest : StartedTest {
   }
 };
 
-TEST_F(ConfigTest, WhatIsMissingOrDiffersIsReportedAndItsFieldGetsTheFocus) {
+TEST_F(ConfigTest, AMissingOrWrongFieldIsReportedAndGetsTheFocus) {
   const std::tuple<const char*, const char*, const char*> refused[] = {
       {"Text1= Text2= Check1! Text3=a Text4=A", "Vyplňte prosím své jméno.", "Text1"},
       {"Text1=Jiří", "Vyplňte prosím E-m@il.", "Text2"},
@@ -190,7 +192,7 @@ TEST_F(ConfigTest, EscapePressesOk) {
   EXPECT_EQ(StoredBy([this] { Work(config, "Text1=Eva Text1:\x1b"); }), "Eva j@x.cz ");
 }
 
-// required: the password goes in without the check mark and without a comparison
+// required: the password is stored without the check mark and without a comparison
 TEST_F(ConfigTest, APasswordIsStoredWithoutItsCheckMark) {
   EXPECT_EQ(StoredBy([this] { Work(config, "Text3=b Command1!"); }), "Jan j@x.cz b");
 }
@@ -203,7 +205,7 @@ TEST_F(ConfigTest, TheSystemsCloseStoresNothing) {
             "  ");
 }
 
-// The lock over the whole program: while it is closed, keys don't reach the text, and no window shows it.
+// The lock of the whole program: while it is closed, keys don't change the text, and no window shows the text.
 struct LockTest : StartedTest {
   LockTest() {
     PutMarked(text, "the [secret| text");
@@ -222,13 +224,13 @@ struct LockTest : StartedTest {
   void WhileLocked(std::function<void()> act) {
     Inside([this, act = std::move(act)] {
       act();
-      Work(The<Pass>(), "Text1=tajné Command1!");
+      Work(GetWindow<Pass>(), "Text1=tajné Command1!");
     });
     Work(main, "Mnu_Lock!");
   }
 };
 
-TEST_F(LockTest, NothingOfTheTextIsSeen) {
+TEST_F(LockTest, HidesTheText) {
   Work(Open<Hledani>(), "Command1!");  // this window holds the secret too
   Open<Vyber>();
   Tick();
@@ -254,13 +256,13 @@ TEST_F(LockTest, TheTextAndThePanelsComeBack) {
               "Panel1='Znaky Výběru : 6' Panel2='Pozice výběru : 4' Panel3='Řádeky 0-0 z 0' Panel4='Výběr : secret'");
 }
 
-TEST_F(LockTest, KeysAndACloseReachNothing) {
+TEST_F(LockTest, KeysAndACloseHaveNoEffect) {
   const std::string before = Marked(text);
   WhileLocked([&] {
     QWindow* window = main.windowHandle();
     QTest::keyClick(window, Qt::Key_X);
     QTest::keyClick(window, Qt::Key_T, Qt::ControlModifier);  // a menu's shortcut
-    QTest::keyClick(window, Qt::Key_2, Qt::AltModifier);      // a tab's
+    QTest::keyClick(window, Qt::Key_2, Qt::AltModifier);      // a tab's shortcut
     QTest::keyClick(window, Qt::Key_F4, Qt::ControlModifier);
     window->close();
     QApplication::processEvents();
@@ -271,7 +273,7 @@ TEST_F(LockTest, KeysAndACloseReachNothing) {
 
 TEST_F(LockTest, StaysClosedWithoutThePassword) {
   WhileLocked([&] {
-    auto& lock = The<Pass>();
+    auto& lock = GetWindow<Pass>();
     QTest::keyClick(&lock, Qt::Key_Escape);
     lock.close();
     platform.answers = {Answer::kOk};

@@ -14,7 +14,7 @@ namespace {
 
 void Enter(const QWidget& dialog) { QTest::keyClick(dialog.focusWidget(), Qt::Key_Return); }
 
-// The searches show the main window, with the match in the document.
+// The main window is visible, since a search selects its match there.
 struct SearchTest : ProgramTest {
   SearchTest() { main.show(); }
   QWidget& OpenFor(const char* command, const char* marked) {
@@ -36,7 +36,7 @@ TEST_F(HledaniTest, AStartAllowsOnlyTheNextMatch) {
   EXPECT_EQ(Marked(text), "[jedna| dvě jedna");
 }
 
-TEST_F(HledaniTest, ARowOfTheHistoryIsTheTerm) {
+TEST_F(HledaniTest, AChosenRowOfTheHistoryBecomesTheTerm) {
   ExpectState(OpenFor("|jedna dvě"), "Find=jedna Command1! Command4! Find=dvě Command1! Command4! Find=x History=0",
               "Find=jedna History=>jedna|dvě");
 }
@@ -48,7 +48,7 @@ TEST_F(HledaniTest, ALongSelectionOfSeveralLinesIsTheTerm) {
   EXPECT_EQ(text.SelEnd(), text.Size());
 }
 
-TEST_F(HledaniTest, TheDialogMovesOffTheMatch) {
+TEST_F(HledaniTest, TheDialogMovesAwayFromTheMatch) {
   QWidget& dialog = OpenFor("|a b");
   dialog.move(main.Box().mapToGlobal(QPoint(0, 0)));
   Work(dialog, "Find=b Command1!");
@@ -61,7 +61,7 @@ struct ZamenaTest : SearchTest {
   QWidget& dialog = OpenFor("mnuchange", "|a¶b a¶b");
 };
 
-TEST_F(ZamenaTest, AStartAllowsTheStepsOnly) {
+TEST_F(ZamenaTest, AStartAllowsOnlyNextAndTheReplacements) {
   ExpectState(dialog, "", "Find=Text Chage=Zaměň");
   ExpectState(dialog, "Find='a\r\nb' Chage=c Command1!",
               "Find='(a\r\nb)' Chage=(c) Command1=(&Start) Rozlisovat=(1) History='(a\r\nb)' List1=(c) "
@@ -109,7 +109,7 @@ TEST_F(ProgramTest, CommandsOpenTheirWindowsAndEscapeClosesThem) {
   }
 }
 
-TEST_F(ProgramTest, VyberShowsAndSetsTheSelectionAndCutsItAtTheEnd) {
+TEST_F(ProgramTest, VyberShowsTheSelectionAndSetsItWithinTheText) {
   PutMarked(text, "01234|");
   const QWidget& dialog = Open("mnupresnvyb");
   ExpectState(dialog, "", "Start=5 Delka=0 Label5=");
@@ -131,9 +131,9 @@ TEST_F(ProgramTest, TheColumnFormatterWorksOnTheRowsAndWritesThemBack) {
       {"[ab¶cde|", "Text1=- Text2=+ Command3! Command4! Hk=9", "List1=-ab+|-cde+ Hk=4", "-ab+¶-cde+|"},
       {"[ab¶cde|", "Hz=1 Command6!", "List1=a|ce Label4=1", "a¶ce|"},
       {"[ab¶cde|", "Hk=1 Command5!", "List1=b|ce Label4=1", "b¶ce|"},
-      // required: what is edited by hand isn't counted anew
+      // required: a row edited by hand isn't measured again
       {"[ab¶cd¶|", "Text3=unused List1=1 Text3=x", "List1='ab|>x|d\r\n' Label2=3 Label4=2", "ab¶x¶d¶|"},
-      // required: one character gives no row, and no rows take its place
+      // required: one character gives no row, so an empty text replaces it
       {"[a|", "Command3! Command5! Hz=9", "List1= Label2=0 Label4=0 Hz=0", "|"},
   };
   for (const auto& c : cases) {
@@ -154,7 +154,7 @@ TEST_F(ProgramTest, TheColumnFormatterWorksOnTheRowsAndWritesThemBack) {
 struct ColorDialogTest : ProgramTest {
   ColorDialog dialog{platform, nullptr};
 
-  // Asks for a colour, takes the steps, expects the state and closes the dialog.
+  // Asks for a colour, runs the steps, expects the state and closes the dialog. Returns the picked colour.
   Color Pick(Color initial, const char* steps, const char* state) {
     Inside([&, steps, state] {
       ExpectState(dialog, steps, state);
@@ -164,7 +164,7 @@ struct ColorDialogTest : ProgramTest {
   }
 };
 
-TEST_F(ColorDialogTest, StornoGivesTheLastColourOfTheRunBlackAtFirst) {  // required
+TEST_F(ColorDialogTest, StornoReturnsTheLastAcceptedColourAtFirstBlack) {  // required
   EXPECT_EQ(Pick(Rgb(10, 20, 0), "Command2!", "Label11=#0A1400 Picture13=#0a1400 Picture3=#0a1400"), 0);
   Pick(0, "Picture9! Command1!", "List1=255,255,000 Label11=#FFFF00 VScroll11=255 Label2=255");
   EXPECT_EQ(Pick(5, "Command2!", ""), Rgb(255, 255, 0));
@@ -178,7 +178,7 @@ TEST_F(ColorDialogTest, BarsAndButtonsChangeTheColour) {
   Pick(Rgb(255, 255, 255), "Command5! VScroll10=9 Command9!", "Label11=#003777");
 }
 
-TEST_F(ColorDialogTest, ARememberedColourComesBackWithoutItsGreen) {  // required
+TEST_F(ColorDialogTest, AColourOfTheHistoryLosesItsGreen) {  // required
   Pick(0, "VScroll10=230 VScroll11=230 Command1!", "List1=230,230,000");
   Pick(0, "List1=0", "Label11=#E60000");
 }
@@ -203,7 +203,7 @@ struct VisualTest : ProgramTest {
     editor.settings.LineCounting = true;
     services.pick_color = [](Color color) { return color + 1; };
   }
-  // Takes the steps and compares the look of the preview.
+  // Runs the steps and compares the look of the preview.
   void ExpectPreview(const QWidget& visual, const char* steps, const char* look) {
     Work(visual, steps);
     const auto* preview = Find<TextBox>(visual, "Label1");
@@ -215,7 +215,7 @@ struct VisualTest : ProgramTest {
   }
 };
 
-TEST_F(VisualTest, ThePreviewFollowsAtOnceAndTheEditorByOkOrDos) {
+TEST_F(VisualTest, ThePreviewChangesAtOnceAndTheEditorAfterOkOrDos) {
   const QWidget& visual = Open("mnumore");
   ExpectState(visual, "", "Check2=1 Check3=1 Check1=1 Option2=1 Combo1=12 VScroll7=300 Label12=300");
   ExpectPreview(visual, "", "Courier New 12 bold italic #0A0000 #C8C8C8");
@@ -223,7 +223,7 @@ TEST_F(VisualTest, ThePreviewFollowsAtOnceAndTheEditorByOkOrDos) {
   ExpectPreview(visual, "Command8! Command9! Combo1=11", "Terminal 11 italic #0B0000 #C9C8C8");
   EXPECT_EQ(Described(main.Look()), "Courier New 12 bold italic #0A0000 #C8C8C8");
   Work(visual, "Command1!");
-  EXPECT_EQ(Described(main.Look()), "Terminal 8 italic #0B0000 #C9C8C8");  // 11 is none of the six sizes
+  EXPECT_EQ(Described(main.Look()), "Terminal 8 italic #0B0000 #C9C8C8");  // 11 isn't one of the six sizes
   ExpectPreview(visual, "Command3!", "Courier New 8 #000000 #FFFFFF");
   ExpectPreview(visual, "Command4!", "Courier New 8 #000000 #FFFFFF");
   EXPECT_EQ(Described(main.Look()), "Courier New 8 #C2C2C2 #000000");  // the button Dos changes the editor at once

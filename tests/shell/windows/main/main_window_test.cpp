@@ -97,7 +97,7 @@ TEST_F(MenuTest, TheToolbarHasItsTipsAndSeparators) {
               "Interní browser");
 }
 
-// An item without a command would be off in every row.
+// The names of the disabled items. An item without a command would be disabled in every row.
 TEST_F(MenuTest, ItemsNeedAPathAClipboardATextOrASelection) {
   const std::pair<MenuState, const char*> cases[] = {
       {{true, true, true, true}, ""},
@@ -134,7 +134,7 @@ TEST_F(MenuTest, OpensByAccessKeysAndFirstLetters) {
   const std::tuple<Qt::Key, Qt::KeyboardModifier, const char*> steps[] = {
       {Qt::Key_L, Qt::NoModifier, "/"},
       {Qt::Key_T, Qt::NoModifier, "&Text/&Základní"},
-      {Qt::Key_V, Qt::AltModifier, "&Text/8"},  // its own item "&Velikost", not the menu "&Vlož"
+      {Qt::Key_V, Qt::AltModifier, "&Text/8"},  // the item "&Velikost" of the open menu, not the menu "&Vlož"
       {Qt::Key_Left, Qt::NoModifier, "&Text/&Velikost"},
       {Qt::Key_T, Qt::AltModifier, "H&tml/Horizontální čára"},
       {Qt::Key_T, Qt::NoModifier, "H&tml/Tabulky"},  // its submenu stays closed
@@ -164,7 +164,7 @@ TEST_F(MainWindowTest, NamesOfFilesAreShownUnchanged) {
   EXPECT_EQ(main.windowTitle(), QStringLiteral("Pelmar VEX (/a/b&c[*][*].txt)"));
 }
 
-TEST_F(MainWindowTest, ATickOfAWindowThatIsNotActiveShowsNothing) {
+TEST_F(MainWindowTest, ATickWhileTheWindowIsNotActiveShowsNothing) {
   Tick();
   Activate(other);
   text.SetText("ab");
@@ -172,7 +172,7 @@ TEST_F(MainWindowTest, ATickOfAWindowThatIsNotActiveShowsNothing) {
   ExpectState(main, "", "Panel1='Počet znaků : 0'");
   Activate(main);
   EXPECT_TRUE(main.Box().hasFocus());
-  EXPECT_FALSE(Item("mnuseek")->isEnabled());  // required: only as fresh as the last tick
+  EXPECT_FALSE(Item("mnuseek")->isEnabled());  // required: only a tick updates the items
   Tick();
   EXPECT_TRUE(Item("mnuseek")->isEnabled());
 }
@@ -188,10 +188,10 @@ TEST_F(MainWindowTest, AClickOnPanelThreeStopsLineCountingAndADoubleClickStartsI
 TEST_F(MainWindowTest, TheTickSnapsTheWindowToTheEdges) {
   editor.settings.AutosnapDistance = 240;
   Activate(other);
-  other.move(5, 5);  // isn't tagged for snapping
+  other.move(5, 5);  // this window doesn't snap
   const QPoint place = other.pos();
   EXPECT_TRUE(QTest::qWaitFor([this] {
-    main.MoveTo({150, 225, 12000, 9000});  // repeated, since an answer to an earlier request may undo it
+    main.MoveTo({150, 225, 12000, 9000});  // repeated, because the window manager may undo it
     return main.Place() == TwipsRect{150, 225, 12000, 9000};
   }));
   EXPECT_TRUE(QTest::qWaitFor([this] {
@@ -202,7 +202,7 @@ TEST_F(MainWindowTest, TheTickSnapsTheWindowToTheEdges) {
 }
 
 struct WarningTest : MainWindowTest {
-  static constexpr char kTheirs[] = "Soubor se změnil na disku";
+  static constexpr char kChangedOnDisk[] = "Soubor se změnil na disku";
   const QLabel* label = main.findChild<QLabel*>(QStringLiteral("Warning"));
 
   [[nodiscard]] std::string Shown() const { return label->isVisible() ? label->text().toStdString() : ""; }
@@ -218,17 +218,17 @@ TEST_F(WarningTest, AFileChangedByAnotherProgramIsReportedWhenTheFocusMoves) {
   EXPECT_EQ(Shown(), "");
   platform.files["/a.txt"] = "theirs";
   Activate(other);
-  EXPECT_EQ(Shown(), kTheirs);
+  EXPECT_EQ(Shown(), kChangedOnDisk);
   text.Type("z");
   EXPECT_EQ(Shown(), "");
   LeaveAndReturn();
-  EXPECT_EQ(Shown(), kTheirs);
+  EXPECT_EQ(Shown(), kChangedOnDisk);
   platform.answers = {Answer::kYes, Answer::kYes};
   editor.commands.Run("Mnu_SaveFast");
   EXPECT_EQ(Shown(), "");
 }
 
-TEST_F(WarningTest, TheUtf8HintStaysUntilTheTextChanges) {
+TEST_F(WarningTest, AChangeHidesTheUtf8HintUntilTheTabIsSelectedAgain) {
   OpenFile("/u.txt", "\xC5\xBE");
   EXPECT_EQ(Shown(), FormatHint("\xC5\xBE"));
   text.Type("z");
@@ -246,7 +246,7 @@ TEST_F(WarningTest, ATextTooLongToBeOpenedAgainIsReported) {
 }
 
 // required: no message says that files can't be opened any more; only the status bar does
-TEST_F(WarningTest, AFailedOpenWarnsThatFilesAreStuck) {
+TEST_F(WarningTest, AFailedOpenWarnsThatFilesCanNoLongerBeOpened) {
   platform.files["/README"] = "x";
   platform.opens = {"/README"};
   files.opener.OpenStandard();
@@ -254,7 +254,7 @@ TEST_F(WarningTest, AFailedOpenWarnsThatFilesAreStuck) {
   EXPECT_EQ(Shown(), "Soubory nelze otevírat ani ukládat, pomůže jen nový start programu");
 }
 
-// required: the items are only as fresh as the last tick. Their keys needn't wait for the next one.
+// required: only a tick updates the items. Their keys follow the current state without a tick.
 TEST_F(MainWindowTest, KeysOfGreyItemsFollowTheCurrentState) {
   Tick();
   text.SetText("abc");
@@ -269,16 +269,16 @@ TEST_F(MainWindowTest, KeysOfGreyItemsFollowTheCurrentState) {
 }
 
 TEST_F(MainWindowTest, TogglesHideAndShowTheBars) {
-  const QRect with = main.Box().geometry();
+  const QRect with_bars = main.Box().geometry();
   Work(main, "MnuTS! MnuSBS! mnuFTS!");
   EXPECT_TRUE(main.Toolbar().isHidden());
   EXPECT_EQ(main.Box().pos(), QPoint());
-  EXPECT_GT(main.Box().height(), with.height());
-  EXPECT_EQ(main.Box().width(), with.width() + 24);
+  EXPECT_GT(main.Box().height(), with_bars.height());
+  EXPECT_EQ(main.Box().width(), with_bars.width() + 24);
   Press(Qt::Key_Tab, Qt::ControlModifier);
   EXPECT_EQ(editor.documents.SelectedTab(), 1);  // Ctrl+Tab does nothing while the tabs are hidden
   Work(main, "MnuTS! MnuSBS! mnuFTS!");
-  EXPECT_EQ(main.Box().geometry(), with);
+  EXPECT_EQ(main.Box().geometry(), with_bars);
 }
 
 TEST_F(MainWindowTest, ALowWindowGrowsForTheBarsThatComeBack) {
@@ -289,7 +289,7 @@ TEST_F(MainWindowTest, ALowWindowGrowsForTheBarsThatComeBack) {
   EXPECT_GE(main.Bar().y(), main.Toolbar().geometry().bottom());
 }
 
-TEST_F(MainWindowTest, RecentMenuShowsAndOpensTheEntries) {
+TEST_F(MainWindowTest, TheRecentMenuShowsAndOpensItsEntries) {
   platform.files["/one&two.txt"] = "1";
   for (const char* path : {"/one&two.txt", "/three.txt"}) files.recent.PushRecentFile(path);
   EXPECT_EQ(Item("M1")->text(), QStringLiteral("&0 /three.txt"));
