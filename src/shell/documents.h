@@ -69,7 +69,6 @@ class Documents {
   void ClearCurrent();
   // Removes the path and the mark of the current document.
   void ForgetPath();
-  // Clears `Modified` of slot 1, because the text loaded at the start counts as unchanged.
   // Puts a document rescued after a crash into the tab, selects the tab and marks the document as unsaved.
   void Restore(int tab, std::string text, const std::string& path);
 
