@@ -12,7 +12,6 @@
 #include "platform/qt/convert.h"
 #include "platform/qt/desktop/clipboard_text.h"
 #include "platform/qt/desktop/printer.h"
-#include "platform/qt/desktop/recent_bookmarks.h"
 #include "platform/qt/desktop/recent_documents.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/install_folder.h"

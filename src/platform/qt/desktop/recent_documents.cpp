@@ -1,67 +1,47 @@
 #include "platform/qt/desktop/recent_documents.h"
 
-#include <fcntl.h>
+#include <glib.h>
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QMimeDatabase>
-#include <QThread>
 #include <cerrno>
-#include <optional>
+#include <memory>
 #include <utility>
 
 #include "platform/files/descriptor.h"
 #include "platform/files/disk_file.h"
 #include "platform/qt/convert.h"
-#include "platform/qt/desktop/recent_bookmarks.h"
 
 namespace pelmar {
 namespace {
 
-constexpr qint64 kLongestLockWait = 100;  // ms
-constexpr quint64 kLongestList = 64u << 20;
-
-struct Locked {
-  bool may_write = false;
-  Descriptor list = Descriptor();  // closing the file releases the lock
-};
-
-// A missing list needs no lock.
-Locked TryToLock(const std::string& path) {
-  Descriptor list(open(path.c_str(), O_RDWR | O_CLOEXEC | O_NONBLOCK));
-  if (!list.IsOpen()) return {.may_write = errno == ENOENT};
-  struct flock lock {};
-  lock.l_type = F_WRLCK;
-  lock.l_whence = SEEK_SET;
-  // Lock the open file, not the process: a lock of the process ends when another thread closes the same list.
-  const bool locked = fcntl(list.Number(), F_OFD_SETLK, &lock) == 0 && IsStillNamed(list.Number(), path);
-  return {.may_write = locked, .list = std::move(list)};
-}
-
-Locked Lock(const std::string& path) {
-  QElapsedTimer clock;
-  clock.start();
-  while (true) {
-    Locked locked = TryToLock(path);
-    if (locked.may_write || clock.elapsed() >= kLongestLockWait) return locked;
-    QThread::msleep(5);
-  }
+void AddToList(const QString& list_path, const QString& path) {
+  constexpr std::uint64_t kLongestList = 64u << 20;  // bytes; a longer list is cut, so it counts as damaged
+  QDir().mkpath(QFileInfo(list_path).path());
+  const std::string native = QFile::encodeName(list_path).toStdString();
+  const FileBytes old = ReadWholeFile(native, kLongestList);
+  if (old.error != 0 && old.error != ENOENT) return;
+  const QString mime = QMimeDatabase().mimeTypeForFile(path, QMimeDatabase::MatchExtension).name();
+  const std::string list = AddBookmark(old.bytes, PathFromQString(path), mime.toStdString());
+  if (!list.empty()) ReplaceFile(native, list, FolderOf(native), 0600);
 }
 
 }  // namespace
 
-void AddToRecentList(const QString& list_path, const QString& path) {
-  const QString mime = QMimeDatabase().mimeTypeForFile(path, QMimeDatabase::MatchExtension).name();
-  QDir().mkpath(QFileInfo(list_path).path());
-  const std::string native = QFile::encodeName(list_path).toStdString();
-  const Locked locked = Lock(native);
-  if (!locked.may_write) return;
-  const FileBytes old = ReadWholeFile(native, kLongestList + 1);
-  if ((old.error != 0 && old.error != ENOENT) || old.bytes.size() > kLongestList) return;
-  const std::string list = AddBookmark(old.bytes, PathFromQString(path), mime.toStdString());
-  if (!list.empty()) ReplaceFile(native, list, FolderOf(native), 0600);
+std::string AddBookmark(const std::string& xbel, const std::string& path, const std::string& mime) {
+  const std::unique_ptr<GBookmarkFile, decltype(&g_bookmark_file_free)> list(g_bookmark_file_new(),
+                                                                             g_bookmark_file_free);
+  if (!xbel.empty() && !g_bookmark_file_load_from_data(list.get(), xbel.data(), xbel.size(), nullptr)) return {};
+  const std::unique_ptr<char, decltype(&g_free)> url(g_filename_to_uri(path.c_str(), nullptr, nullptr), g_free);
+  const std::unique_ptr<GDateTime, decltype(&g_date_time_unref)> now(g_date_time_new_now_utc(), g_date_time_unref);
+  g_bookmark_file_set_mime_type(list.get(), url.get(), mime.c_str());
+  g_bookmark_file_add_application(list.get(), url.get(), "Pelmar VEX", "pelmar-vex %f");
+  g_bookmark_file_set_visited_date_time(list.get(), url.get(), now.get());
+  gsize size = 0;
+  const std::unique_ptr<char, decltype(&g_free)> bytes(g_bookmark_file_to_data(list.get(), &size, nullptr), g_free);
+  return bytes == nullptr ? std::string() : std::string(bytes.get(), size);
 }
 
 RecentDocuments::RecentDocuments(QString list_path) : list_path_(std::move(list_path)) { pool_.setMaxThreadCount(1); }
@@ -69,7 +49,7 @@ RecentDocuments::RecentDocuments(QString list_path) : list_path_(std::move(list_
 RecentDocuments::~RecentDocuments() { Wait(); }
 
 void RecentDocuments::Add(const QString& path) {
-  pool_.start([list = list_path_, path] { AddToRecentList(list, path); });
+  pool_.start([list = list_path_, path] { AddToList(list, path); });
 }
 
 void RecentDocuments::Wait() { pool_.waitForDone(); }

@@ -1,9 +1,10 @@
 // Adds opened and saved files to the desktop's list of recent documents, in order and in a background thread. A list
-// that is damaged, not writable or locked for too long is not changed. Failures are not reported.
+// that is damaged or not writable is not changed. Failures are not reported.
 #pragma once
 
 #include <QString>
 #include <QThreadPool>
+#include <string>
 
 namespace pelmar {
 
@@ -25,7 +26,8 @@ class RecentDocuments {
   QThreadPool pool_;
 };
 
-// Adds the path to the list in the calling thread. Gives up if the list stays locked for 100 ms.
-void AddToRecentList(const QString& list_path, const QString& path);
+// Returns the content of the list, `xbel`, with an entry for the file `path` (absolute), which this program has opened
+// now. An existing entry is updated. An empty `xbel` gives a new list. The result is empty if `xbel` is damaged.
+std::string AddBookmark(const std::string& xbel, const std::string& path, const std::string& mime);
 
 }  // namespace pelmar
