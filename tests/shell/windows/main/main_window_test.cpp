@@ -228,16 +228,6 @@ TEST_F(WarningTest, AFileChangedByAnotherProgramIsReportedWhenTheFocusMoves) {
   EXPECT_EQ(Shown(), "");
 }
 
-TEST_F(WarningTest, AChangeHidesTheUtf8HintUntilTheTabIsSelectedAgain) {
-  OpenFile("/u.txt", "\xC5\xBE");
-  EXPECT_EQ(Shown(), FormatHint("\xC5\xBE"));
-  text.Type("z");
-  EXPECT_EQ(Shown(), "");
-  editor.documents.SwitchTo(3);
-  editor.documents.SwitchTo(1);
-  EXPECT_EQ(Shown(), FormatHint("\xC5\xBE"));
-}
-
 TEST_F(WarningTest, ATextTooLongToBeOpenedAgainIsReported) {
   text.SetText(std::string(64001, 'x'));
   EXPECT_EQ(Shown(), "Příliš dlouhý text: má 64001 znaků, znovu otevřít jich lze nejvýše 64000");
