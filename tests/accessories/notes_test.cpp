@@ -130,11 +130,13 @@ TEST_F(CheckpointTest, AnEmptyNoteRestoresNothingAndAsksNothing) {
 }
 
 TEST_F(CheckpointTest, ATextTooLongForANoteIsRefused) {
-  document.SetText(std::string(65536, 'x'));
-  note.SetText("old note");
-  platform.answers = {Answer::kOk};
-  SaveCheckpoint(document, note, platform);
-  EXPECT_EQ(note.Text(), "old note");
+  const std::string longest(65535, 'x');
+  for (const std::string& text : {longest, longest + 'x'}) {
+    document.SetText(text);
+    platform.answers = {Answer::kOk};
+    SaveCheckpoint(document, note, platform);
+    EXPECT_EQ(note.Text(), longest);
+  }
 }
 
 using enum WindowMode;
