@@ -17,7 +17,7 @@ namespace {
 
 // Reports files whose last save was interrupted.
 void ReportLeftContents(Platform& platform) {
-  const std::vector<std::string> left = FindLeftContents(platform.InstallFolder());
+  const std::vector<std::string> left = FindUnreportedCopies(platform.InstallFolder());
   if (left.empty()) return;
   std::string text = "Ukládání minule neskončilo a soubor může být poškozen. Jeho původní obsah leží v";
   for (const std::string& path : left) text += "\r\n" + path;

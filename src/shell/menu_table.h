@@ -23,7 +23,7 @@ struct ToolbarButton {
   std::string_view key;
   std::string_view tip;
   std::string_view picture;  // the name of the picture file
-  bool separator_behind = false;
+  bool separator_after = false;
 };
 std::span<const ToolbarButton> ToolbarButtons();
 

@@ -1,5 +1,5 @@
 // Reads and writes the program's own binary files: little-endian numbers and byte strings in sequence. A field beyond
-// the end of a file reads as zero or empty. A wrong count never makes the reader allocate more than the file's size.
+// the end of a file reads as zero or empty. A count that is too large makes the reader fail.
 // Files that must be complete have a seal: a signature and a checksum.
 #pragma once
 
@@ -18,7 +18,7 @@ class RecordReader {
   // `size` is in bytes, at most 8.
   std::uint64_t Number(std::size_t size);
   std::string_view Bytes(std::uint64_t count);
-  // Reads a count, a number of `count_size` bytes, and then as many bytes as the count says.
+  // Reads a count, stored in `count_size` bytes, and then that many bytes.
   std::string_view String(std::size_t count_size) { return Bytes(Number(count_size)); }
 
   // True if a field went beyond the end of the bytes.
@@ -42,7 +42,8 @@ class RecordWriter {
   std::string bytes_;
 };
 
-// Puts a signature and a checksum before the body. They detect incomplete and foreign files, not intended changes.
+// Puts a signature and a checksum before the body. They detect incomplete, damaged and foreign files,
+// but no deliberate changes.
 std::string Sealed(std::string_view signature, std::string_view body);
 // The body of sealed bytes. Nothing if the signature or the checksum differs.
 std::optional<std::string_view> SealedBody(std::string_view signature, std::string_view bytes);

@@ -39,8 +39,9 @@ void Finder::Next() {
 
 void Finder::New() {
   find = DefaultTerm(buffer_);
+  // required: case_on isn't set, so after a hit the check box for the case stays disabled
   find_on = history_on = true;
-  next_on = false;  // required: after a search the check box for the case stays disabled
+  next_on = false;
 }
 
 void Finder::PickHistory(std::size_t row) {

@@ -40,7 +40,7 @@ Kalkul::Kalkul(Platform& platform, bool stand_alone, Callbacks callbacks, QWidge
 void Kalkul::OnClick(QPushButton* key, std::function<void()> act) {
   connect(key, &QPushButton::clicked, this, [this, act = std::move(act)] {
     act();
-    Show();
+    ShowState();
   });
 }
 
@@ -75,10 +75,10 @@ void Kalkul::ConnectFunctions() {
 
 void Kalkul::SetNumber(const std::string& number) {
   calculator_.shown = number;
-  Show();
+  ShowState();
 }
 
-void Kalkul::Show() {
+void Kalkul::ShowState() {
   ui_->Cislo->setText(Utf8ToQString(calculator_.shown));
   ui_->Label1->setText(Utf8ToQString(calculator_.operation));
   ShowCut();
@@ -104,10 +104,10 @@ void Kalkul::ShowCut() {
 void Kalkul::Command20_Click() {
   hide();
   callbacks_.hide_converter();
-  if (stand_alone_) MayUnload();
+  if (stand_alone_) ConfirmClose();
 }
 
-bool Kalkul::MayUnload() {
+bool Kalkul::ConfirmClose() {
   callbacks_.hide_converter();
   if (!stand_alone_) return true;
   if (!MayEndStandAlone(platform_, "Kalkulačku")) {
@@ -119,7 +119,7 @@ bool Kalkul::MayUnload() {
 }
 
 void Kalkul::closeEvent(QCloseEvent* event) {
-  if (!MayUnload()) return event->ignore();
+  if (!ConfirmClose()) return event->ignore();
   DialogWindow::closeEvent(event);
   if (!stand_alone_) callbacks_.unload();
 }

@@ -1,5 +1,5 @@
-// `Kalkul`: the desk calculator. In the editor, the button "Zavři" hides the window, and the close box unloads the
-// window with its number. If the calculator is the whole program, both ask whether to end the program.
+// `Kalkul`: the desk calculator. In the editor, the button "Zavři" hides the window, and the close box deletes the
+// window, so the number is lost. If the calculator is the whole program, both ask whether to end the program.
 #pragma once
 
 #include <functional>
@@ -43,10 +43,10 @@ class Kalkul : public FormDialog<Ui::Kalkul> {
   void ConnectFunctions();
   void OnClick(QPushButton* key, std::function<void()> act);
   void Command20_Click();
-  bool MayUnload();
+  bool ConfirmClose();
   Preview PhysicalKey(const QKeyEvent& event);
   [[nodiscard]] QPushButton* KeyOf(char character) const;
-  void Show();
+  void ShowState();
   void ShowCut();
 
   Platform& platform_;

@@ -16,7 +16,7 @@ QString Caption(int page) { return QStringLiteral("Poznámka %1").arg(page); }
 
 NoteTabs::NoteTabs(QWidget* parent) : QTabBar(parent) {
   setExpanding(false);
-  // Scroll buttons would lie in the middle of the strip, under the text.
+  // Qt would centre scroll buttons vertically in the strip, where the text of the note covers them.
   setUsesScrollButtons(false);
   setDrawBase(false);
   for (int page = 1; page <= kNotePages; ++page) {

@@ -24,7 +24,7 @@ class WebView {
 
   // These commands do nothing if they can't be done, for example without a page to go back to.
   virtual void Load(const QUrl& address) = 0;
-  virtual void Go(int places) = 0;  // steps in the history: -1 back, 1 forward
+  virtual void Go(int steps) = 0;  // steps in the history: -1 back, 1 forward
   virtual void Refresh() = 0;
   virtual void Stop() = 0;
   // Ends the process of a page that doesn't answer within three seconds. The commands above do the same.
@@ -32,7 +32,7 @@ class WebView {
   // Loads the present page again, this time with its parts from the net.
   virtual void LoadFromNet() = 0;
 
-  [[nodiscard]] virtual bool CanGo(int places) const = 0;
+  [[nodiscard]] virtual bool CanGo(int steps) const = 0;
   [[nodiscard]] virtual bool Busy() const = 0;
   [[nodiscard]] virtual QString LocationName() const = 0;  // the page's title, or the file's name without a title
   [[nodiscard]] virtual QUrl LocationAddress() const = 0;

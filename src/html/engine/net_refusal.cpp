@@ -27,7 +27,7 @@ bool IsMissed(QWebEngineUrlRequestInfo::ResourceType type) {
 void NetRefusal::interceptRequest(QWebEngineUrlRequestInfo& request) {
   const QString scheme = request.requestUrl().scheme();
   if (ReachesTheNet(scheme)) {
-    if (lets_to_net_) return;
+    if (allows_net_) return;
     request.block(true);
     if (IsMissed(request.resourceType())) on_withheld_();
   } else if (!MayBeShown(request.requestUrl()) && scheme != QLatin1String("blob") && scheme != QLatin1String("about")) {

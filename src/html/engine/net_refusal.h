@@ -10,12 +10,12 @@ namespace pelmar {
 class NetRefusal : public QWebEngineUrlRequestInterceptor {
  public:
   // `on_withheld` is called for each refused part that a reader of the page would miss.
-  NetRefusal(bool lets_to_net, std::function<void()> on_withheld, QObject* parent)
-      : QWebEngineUrlRequestInterceptor(parent), lets_to_net_(lets_to_net), on_withheld_(std::move(on_withheld)) {}
+  NetRefusal(bool allows_net, std::function<void()> on_withheld, QObject* parent)
+      : QWebEngineUrlRequestInterceptor(parent), allows_net_(allows_net), on_withheld_(std::move(on_withheld)) {}
   void interceptRequest(QWebEngineUrlRequestInfo& request) override;
 
  private:
-  const bool lets_to_net_;
+  const bool allows_net_;
   const std::function<void()> on_withheld_;
 };
 

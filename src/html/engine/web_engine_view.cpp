@@ -16,16 +16,17 @@
 namespace pelmar {
 namespace {
 
-// If no load begins within this time, the command loads nothing, for example a step within the same page.
-constexpr int kLongestExpectation = 1000;  // ms
+// A command after which no load begins within this time counts as one that loads nothing, for example a step to another
+// place in the same page.
+constexpr int kLongestWaitForLoad = 1000;  // ms
 constexpr int kLongestSilence = 3000;      // ms until a page without an answer counts as stuck
 
 PageSide SideOf(const QUrl& address) { return IsOfTheNet(address) ? PageSide::kNet : PageSide::kDisk; }
 
-std::unique_ptr<QWebEngineProfile> MakeProfile(bool lets_to_net, std::function<void()> on_withheld) {
+std::unique_ptr<QWebEngineProfile> MakeProfile(bool allows_net, std::function<void()> on_withheld) {
   auto profile = std::make_unique<QWebEngineProfile>();
   profile->setHttpAcceptLanguage(QStringLiteral("cs"));
-  profile->setUrlRequestInterceptor(new NetRefusal(lets_to_net, std::move(on_withheld), profile.get()));
+  profile->setUrlRequestInterceptor(new NetRefusal(allows_net, std::move(on_withheld), profile.get()));
   QObject::connect(profile.get(), &QWebEngineProfile::downloadRequested,
                    [](QWebEngineDownloadRequest* download) { download->cancel(); });
   return profile;
@@ -41,16 +42,16 @@ void SetUp(QTimer& timer, int interval) {
 WebEngineView::WebEngineView(QWidget* parent) : view_(std::make_unique<QWebEngineView>(parent)) {
   view_->setContextMenuPolicy(Qt::CustomContextMenu);
   connect(view_.get(), &QWidget::customContextMenuRequested, this, &WebEngineView::ShowMenu);
-  SetUp(expecting_, kLongestExpectation);
+  SetUp(expecting_load_, kLongestWaitForLoad);
   SetUp(unanswered_, kLongestSilence);
   connect(&unanswered_, &QTimer::timeout, this, [this] {
-    if (page_->renderProcessPid() == probed_) EndProcess(std::exchange(held_up_, {}));
+    if (page_->renderProcessPid() == probed_) EndProcess(std::exchange(after_end_, {}));
   });
   for (const PageSide side : {PageSide::kDisk, PageSide::kDiskWithNet, PageSide::kNet}) {
-    const bool lets_out = side != PageSide::kDisk;
-    const ScopedVariable way_out(kWayOut, (lets_out ? open_gate_ : shut_gate_).Address());
-    // A late request of an earlier local page doesn't concern a page of the net.
-    profiles_[side] = MakeProfile(lets_out, [this] {
+    const bool allows_net = side != PageSide::kDisk;
+    const ScopedVariable way_out(kWayOut, (allows_net ? open_gate_ : shut_gate_).Address());
+    // For a page of another side, the request is a late one of an earlier page.
+    profiles_[side] = MakeProfile(allows_net, [this] {
       if (page_->Side() == PageSide::kDisk) on_withheld(true);
     });
   }
@@ -81,7 +82,7 @@ void WebEngineView::ConnectPage() {
   connect(page_.get(), &QWebEnginePage::linkHovered, this, [this](const QString& address) {
     if (on_link) on_link(address);
   });
-  // Queued: the handler may delete the page, but only after the page's own call has returned.
+  // Queued, because the handler may delete the page, and the page must not be deleted while it sends the signal.
   connect(page_.get(), &QWebEnginePage::renderProcessTerminated, this, &WebEngineView::ProcessEnded,
           Qt::QueuedConnection);
   page_->on_leave = [this](const QUrl& address) {
@@ -91,7 +92,7 @@ void WebEngineView::ConnectPage() {
   // A page that asks a question isn't stuck, however long the person thinks.
   page_->on_asking = [this] {
     unanswered_.stop();
-    held_up_ = {};
+    after_end_ = {};
   };
   page_->on_answered = [this] {
     if (const auto step = std::exchange(after_question_, {})) step();
@@ -109,7 +110,7 @@ void WebEngineView::Command(std::function<void()> step) {
   }
   after_question_ = {};
   page_->ForgetQuestions();
-  expecting_.start();
+  expecting_load_.start();
   step();
 }
 
@@ -136,7 +137,7 @@ void WebEngineView::GatherPlaces() {
 void WebEngineView::Probe(std::function<void()> step) {
   probed_ = page_->renderProcessPid();
   if (probed_ <= 0 || page_->Side() == PageSide::kDiskWithNet) return page_->HearAgain();
-  held_up_ = std::move(step);
+  after_end_ = std::move(step);
   unanswered_.start();
   page_->runJavaScript(QStringLiteral("0"), QWebEngineScript::ApplicationWorld,
                        [this, number = ++probes_](const QVariant&) {
@@ -146,23 +147,23 @@ void WebEngineView::Probe(std::function<void()> step) {
 
 void WebEngineView::Answered() {
   unanswered_.stop();
-  held_up_ = {};
+  after_end_ = {};
   page_->HearAgain();
 }
 
 void WebEngineView::EndProcess(std::function<void()> then) {
   unanswered_.stop();
   const qint64 process = page_->renderProcessPid();
-  held_up_ = std::move(then);
+  after_end_ = std::move(then);
   if (process <= 0 || kill(static_cast<pid_t>(process), SIGKILL) != 0) ProcessEnded();
 }
 
 void WebEngineView::ProcessEnded() {
-  const auto step = std::exchange(held_up_, {});
+  const auto step = std::exchange(after_end_, {});
   ++probes_;
   Answered();
   if (step) return step();
-  // A page without a process doesn't load.
+  // A load, if there was one, has ended with the process.
   Finished();
 }
 
@@ -185,7 +186,7 @@ void WebEngineView::ReportChange() {
 }
 
 void WebEngineView::Finished() {
-  expecting_.stop();
+  expecting_load_.stop();
   if (on_progress) on_progress(0, 0);
   if (on_finished) on_finished();
 }
@@ -202,23 +203,22 @@ void WebEngineView::Load(const QUrl& address) {
   });
 }
 
-bool WebEngineView::CanGo(int places) const {
+bool WebEngineView::CanGo(int steps) const {
   const QWebEngineHistory& own = *page_->history();
-  // A page that has opened another address by itself drops the later places of the history.
-  return places < 0 ? own.canGoBack() || place_ > 0
-                    : own.canGoForward() || (own.count() <= 1 && place_ + 1 < places_.size());
+  // Once this page has opened a second address, for example by a link, the later places of the history are gone.
+  return steps < 0 ? own.canGoBack() || place_ > 0
+                   : own.canGoForward() || (own.count() <= 1 && place_ + 1 < places_.size());
 }
 
-void WebEngineView::Go(int places) {
-  if (!CanGo(places)) return;
-  Command([this, places] {
+void WebEngineView::Go(int steps) {
+  if (!CanGo(steps)) return;
+  Command([this, steps] {
     const QWebEngineHistory& own = *page_->history();
-    if (places < 0 ? own.canGoBack() : own.canGoForward())
-      return Stay(
-          [this, places] { page_->triggerAction(places < 0 ? QWebEnginePage::Back : QWebEnginePage::Forward); });
-    EndProcess([this, places] {
+    if (steps < 0 ? own.canGoBack() : own.canGoForward())
+      return Stay([this, steps] { page_->triggerAction(steps < 0 ? QWebEnginePage::Back : QWebEnginePage::Forward); });
+    EndProcess([this, steps] {
       GatherPlaces();
-      Cross(place_ + places, SideOf(places_[place_ + places]));
+      Cross(place_ + steps, SideOf(places_[place_ + steps]));
     });
   });
 }
@@ -236,12 +236,12 @@ void WebEngineView::Refresh() {
 }
 
 void WebEngineView::Stop() {
-  expecting_.stop();
+  expecting_load_.stop();
   page_->triggerAction(QWebEnginePage::Stop);
   EndIfStuck();
 }
 
-bool WebEngineView::Busy() const { return expecting_.isActive() || page_->isLoading(); }
+bool WebEngineView::Busy() const { return expecting_load_.isActive() || page_->isLoading(); }
 
 QString WebEngineView::LocationName() const {
   const QString title = page_->title();

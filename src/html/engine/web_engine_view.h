@@ -25,12 +25,12 @@ class WebEngineView : public QObject, public WebView {
 
   QWidget* Widget() override { return view_.get(); }
   void Load(const QUrl& address) override;
-  void Go(int places) override;
+  void Go(int steps) override;
   void Refresh() override;
   void Stop() override;
   void EndIfStuck() override;
   void LoadFromNet() override;
-  [[nodiscard]] bool CanGo(int places) const override;
+  [[nodiscard]] bool CanGo(int steps) const override;
   [[nodiscard]] bool Busy() const override;
   [[nodiscard]] QString LocationName() const override;
   [[nodiscard]] QUrl LocationAddress() const override;
@@ -63,11 +63,11 @@ class WebEngineView : public QObject, public WebView {
   std::unique_ptr<QWebEngineView> view_;
   QList<QUrl> places_;                    // the history; the place at place_ stands for the present page's own history
   qsizetype place_ = 0;                   // from 0
-  QTimer expecting_;                      // runs after a command until a load ends, for a second at most
+  QTimer expecting_load_;                 // runs after a command until a load ends, for a second at most
   QTimer unanswered_;                     // runs until the page answers a probe
   qint64 probed_ = 0;                     // the process that was probed
   int probes_ = 0;                        // only the answer to the probe with this number counts
-  std::function<void()> held_up_;         // the step to run when the page's process has ended
+  std::function<void()> after_end_;       // the step to run when the page's process has ended
   std::function<void()> after_question_;  // the command to run when the open question is closed
 };
 

@@ -53,7 +53,7 @@ void KeptContent::Remove() {
   if (!path_.empty()) unlink(path_.c_str());
 }
 
-std::vector<std::string> FindLeftContents(const std::string& folder) {
+std::vector<std::string> FindUnreportedCopies(const std::string& folder) {
   std::vector<std::string> found;
   std::error_code error;
   for (std::filesystem::directory_iterator at(folder, error), end; at != end; at.increment(error))

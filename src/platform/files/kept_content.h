@@ -1,6 +1,6 @@
 // A copy of the old content of a file that is overwritten, stored as "puvodni-*" in the install folder. The copy is
-// made before the first byte changes and removed when the new content is on the disk. During the save the copy is
-// locked. A copy that remains from a killed save is reported at the next start and then made read-only.
+// made before the first byte changes, and removed when the new content is on the disk or the old content is restored.
+// During the save the copy is locked. A copy that remains from a killed save is reported at the next start.
 #pragma once
 
 #include <optional>
@@ -13,8 +13,8 @@ namespace pelmar {
 
 class KeptContent {
  public:
-  // Copies the open `file` of this path to `folder` (with its separator) and waits until the copy is on the disk. Only
-  // the owner can read the copy. Returns 0, or an errno if there is no copy.
+  // Copies the open `file`, whose path is `path`, into `folder`, which ends in a separator. Waits until the copy is on
+  // the disk. Only the owner can read the copy. Returns 0, or an errno if there is no copy.
   int Keep(int file, const std::string& path, const std::string& folder);
   // Restores the content of the file from the copy. Returns 0 or an errno.
   int PutBack(int file);
@@ -28,7 +28,7 @@ class KeptContent {
 };
 
 // The sorted paths of the copies that remain from killed saves. Copies marked as reported are left out.
-std::vector<std::string> FindLeftContents(const std::string& folder);
+std::vector<std::string> FindUnreportedCopies(const std::string& folder);
 
 // Makes the copy read-only, which is the mark of a reported copy.
 void MarkAsReported(const std::string& path);

@@ -39,30 +39,30 @@ QtPlatform::QtPlatform()
       install_folder_(FindInstallFolder(QCoreApplication::applicationDirPath(), DataHome())) {}
 
 Answer QtPlatform::Message(MessageType type, std::string_view text, std::string_view title) {
-  const WaitCursor::Lift lift(pointer_);
+  const WaitCursor::Lift lift(wait_cursor_);
   return ShowMessage(type, Utf8ToQString(text), Utf8ToQString(title));
 }
 
 void QtPlatform::ShowAbout(std::string_view title, std::string_view text) {
-  const WaitCursor::Lift lift(pointer_);
+  const WaitCursor::Lift lift(wait_cursor_);
   pelmar::ShowAbout(Utf8ToQString(title), Utf8ToQString(text));
 }
 
 std::optional<std::string> QtPlatform::InputBox(std::string_view prompt, std::string_view title,
                                                 std::string_view initial) {
-  const WaitCursor::Lift lift(pointer_);
+  const WaitCursor::Lift lift(wait_cursor_);
   const auto answer = AskForText(Utf8ToQString(prompt), Utf8ToQString(title), Utf8ToQString(initial));
   if (!answer) return std::nullopt;
   return Utf8FromQString(*answer);
 }
 
 std::optional<std::string> QtPlatform::OpenDialog(std::string_view filter, int filter_index) {
-  const WaitCursor::Lift lift(pointer_);
+  const WaitCursor::Lift lift(wait_cursor_);
   return ToPath(AskForFile(FileDialogKind::kOpen, Utf8ToQString(filter), filter_index, dialog_folder_));
 }
 
 std::optional<std::string> QtPlatform::SaveDialog(std::string_view filter, int filter_index) {
-  const WaitCursor::Lift lift(pointer_);
+  const WaitCursor::Lift lift(wait_cursor_);
   return ToPath(AskForFile(FileDialogKind::kSave, Utf8ToQString(filter), filter_index, dialog_folder_));
 }
 
@@ -165,7 +165,7 @@ std::vector<std::size_t> QtPlatform::SortedOrder(const std::vector<std::string_v
   return order;
 }
 
-void QtPlatform::SetBusyPointer(bool busy, BusyLook look) { pointer_.Set(busy, look); }
+void QtPlatform::SetBusyPointer(bool busy, BusyLook look) { wait_cursor_.Set(busy, look); }
 
 void QtPlatform::FinishBackgroundWork() { recent_.Wait(); }
 

@@ -1,5 +1,5 @@
-// The implementation of Platform with Qt. The small files in this folder do most of the work. The object must be
-// created after the application object and destroyed before the application object.
+// The implementation of Platform with Qt. Most functions only call the files in this folder, in its subfolders and in
+// platform/files. The object must be created after the application object and destroyed before the application object.
 #pragma once
 
 #include <optional>
@@ -60,14 +60,14 @@ class QtPlatform : public Platform {
   std::vector<std::size_t> SortedOrder(const std::vector<std::string_view>& texts) override;
   void SetBusyPointer(bool busy, BusyLook look) override;
 
-  // If the install folder can't be created, shows a message with the folder that is used instead.
+  // If another folder is used because the install folder couldn't be created, shows a message with both.
   void ReportRefusedFolder();
 
   // Waits for background work. Call before an exit that skips destructors.
   void FinishBackgroundWork();
 
  private:
-  WaitCursor pointer_;
+  WaitCursor wait_cursor_;
   Clipboard clipboard_;
   QCollator collator_ = CzechCollator();
   RecentDocuments recent_;

@@ -30,7 +30,7 @@ struct ScriptedView : WebView {
     address = url;
     busy = true;
   }
-  void Go(int places) override { calls += places < 0 ? QStringLiteral("back") : QStringLiteral("forward"); }
+  void Go(int steps) override { calls += steps < 0 ? QStringLiteral("back") : QStringLiteral("forward"); }
   void Refresh() override { calls += QStringLiteral("refresh"); }
   void Stop() override { calls += QStringLiteral("stop"); }
   void EndIfStuck() override { calls += QStringLiteral("end if stuck"); }

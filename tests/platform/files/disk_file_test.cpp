@@ -296,9 +296,9 @@ TEST(KeptContent, OfAKilledSaveIsFoundUntilItIsReported) {
   ASSERT_EQ(flock(living.Number(), LOCK_EX), 0);
   folder.Put("puvodni-vydani.txt", "");
   const std::vector<std::string> left = {folder.Put("puvodni-abcdef", ""), folder.Put("puvodni-killed-a.txt", "")};
-  EXPECT_EQ(FindLeftContents(folder.File("")), left);
+  EXPECT_EQ(FindUnreportedCopies(folder.File("")), left);
   for (const std::string& path : left) MarkAsReported(path);
-  EXPECT_TRUE(FindLeftContents(folder.File("")).empty());
+  EXPECT_TRUE(FindUnreportedCopies(folder.File("")).empty());
 }
 
 }  // namespace

@@ -10,12 +10,12 @@
 namespace pelmar {
 namespace {
 
-bool IsControl(QChar ch) { return ch.category() == QChar::Other_Control; }
+bool IsControlCharacter(QChar ch) { return ch.category() == QChar::Other_Control; }
 
-bool HoldsControls(const QString& text) { return std::any_of(text.begin(), text.end(), IsControl); }
+bool HasControlCharacters(const QString& text) { return std::any_of(text.begin(), text.end(), IsControlCharacter); }
 
 // The text as the line edit lays it out.
-QString WithBlanks(QString text) {
+QString ControlCharactersAsBlanks(QString text) {
   for (QChar& ch : text)
     if (ch.unicode() < 0x20 && ch != u'\t') ch = u' ';
   return text;
@@ -25,15 +25,15 @@ QString WithBlanks(QString text) {
 
 LineWithSigns::LineWithSigns(QWidget* parent) : Field(parent) {
   connect(this, &QLineEdit::textChanged, this, [this](const QString& text) {
-    setToolTip(HoldsControls(text) ? ReadableText(TextFromQString(text)) : QString());
+    setToolTip(HasControlCharacters(text) ? ReadableText(TextFromQString(text)) : QString());
   });
 }
 
 void LineWithSigns::paintEvent(QPaintEvent* event) {
   Field::paintEvent(event);
   const QString whole = text();
-  if (!HoldsControls(whole)) return;
-  QTextLayout layout(WithBlanks(whole), font());
+  if (!HasControlCharacters(whole)) return;
+  QTextLayout layout(ControlCharactersAsBlanks(whole), font());
   layout.beginLayout();
   const QTextLine line = layout.createLine();
   layout.endLayout();
@@ -45,7 +45,7 @@ void LineWithSigns::paintEvent(QPaintEvent* event) {
   painter.setClipRect(rect().adjusted(2, 2, -2, -2));
   painter.setPen(palette().color(QPalette::Text));
   for (int at = 0; at < whole.size(); ++at) {
-    if (!IsControl(whole[at])) continue;
+    if (!IsControlCharacter(whole[at])) continue;
     const int left = qRound(origin + line.cursorToX(at)), right = qRound(origin + line.cursorToX(at + 1));
     painter.drawRect(left + 1, low - 5, std::max(right - left - 3, 2), 5);
   }

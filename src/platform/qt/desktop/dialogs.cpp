@@ -52,7 +52,7 @@ class Box : public QMessageBox {
   [[nodiscard]] bool IsQuestion() const { return standardButtons().testFlag(QMessageBox::No); }
 };
 
-// Mends pasting in a field that Qt created.
+// Lets TakePasted handle pastes and drops in a field that Qt created.
 class PasteFilter : public QObject {
  public:
   using QObject::QObject;
@@ -79,9 +79,9 @@ class ModalDialog {
   }
   Dialog* operator->() const { return dialog_.data(); }
   Dialog& operator*() const { return *dialog_; }
-  [[nodiscard]] bool Accepted() { return Result() == QDialog::Accepted; }
+  [[nodiscard]] bool RunAccepted() { return Run() == QDialog::Accepted; }
   // Runs the dialog. Returns its result, or 0 if the dialog was deleted.
-  [[nodiscard]] int Result() {
+  [[nodiscard]] int Run() {
     const int result = dialog_->exec();
     return dialog_.isNull() ? 0 : result;
   }
@@ -138,15 +138,15 @@ QMessageBox::Icon IconOf(MessageType type) {
   }
 }
 
-// Returns the pressed standard button.
-int Show(const QString& text, const QString& title, const std::function<void(Box&)>& equip) {
+// Returns the pressed standard button, or NoButton if a question was closed or the box was deleted.
+int Show(const QString& text, const QString& title, const std::function<void(Box&)>& configure) {
   ModalDialog<Box> box;
   box->setWindowTitle(title);
   box->setTextFormat(Qt::PlainText);
   box->setText(text);
-  equip(*box);
+  configure(*box);
   LeaveRoomForTitle(*box);
-  return box.Result();
+  return box.Run();
 }
 
 }  // namespace
@@ -158,7 +158,6 @@ Answer ShowMessage(MessageType type, const QString& text, const QString& title) 
     if (!question) return box.setStandardButtons(QMessageBox::Ok);
     box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
     box.setDefaultButton(type == MessageType::kYesNoStop ? QMessageBox::No : QMessageBox::Yes);
-    box.setEscapeButton(QMessageBox::No);  // enables the close button
   });
   if (!question) return Answer::kOk;
   return button == QMessageBox::Yes ? Answer::kYes : button == QMessageBox::No ? Answer::kNo : Answer::kNone;
@@ -182,7 +181,7 @@ std::optional<QString> AskForText(const QString& prompt, const QString& title, c
   field->setProperty(kHoldsLines, true);
   field->installEventFilter(new PasteFilter(field));
   dialog->setTextValue(initial);
-  if (!dialog.Accepted()) return std::nullopt;
+  if (!dialog.RunAccepted()) return std::nullopt;
   return dialog->textValue();
 }
 
@@ -217,8 +216,8 @@ std::optional<QString> AskForFile(FileDialogKind kind, const QString& filter, in
   }
   dialog->setNameFilters(filters);
   if (filter_index >= 1 && filter_index <= filters.size()) dialog->selectNameFilter(filters[filter_index - 1]);
-  if (!dialog.Accepted() || dialog->selectedUrls().isEmpty()) return std::nullopt;
-  // Use the URL, since the path from a dialog of the desktop may contain bytes that are not UTF-8.
+  if (!dialog.RunAccepted() || dialog->selectedUrls().isEmpty()) return std::nullopt;
+  // Use the URL: selectedFiles() would lose bytes that are not UTF-8, which a dialog of the desktop may return.
   const QString path = PathToQString(PathOfUrl(dialog->selectedUrls().constFirst()));
   folder = QFileInfo(path).path();
   return path;

@@ -15,8 +15,8 @@ namespace {
 constexpr std::chrono::milliseconds kPatience(500);
 constexpr std::chrono::milliseconds kPoll(20);
 // A window may be in place only for a moment, for instance while the window manager adds the frame. So this many checks
-// in a row must find the window in place, except under Trust::kFirst.
-constexpr int kOftenEnough = 20;
+// in a row must find the window in place. For a new window under Trust::kFirst, one check is enough.
+constexpr int kChecksInPlace = 20;
 
 // The frame of another window of the program. A new window most likely gets an equal frame.
 QMargins UsualFrame() {
@@ -27,9 +27,11 @@ QMargins UsualFrame() {
 }
 
 // Whether the frame is complete. Some window managers first use a frame of one pixel, which gives negative margins.
-bool IsMade(const QMargins& frame) { return std::min({frame.left(), frame.top(), frame.right(), frame.bottom()}) >= 0; }
+bool IsComplete(const QMargins& frame) {
+  return std::min({frame.left(), frame.top(), frame.right(), frame.bottom()}) >= 0;
+}
 
-TwipsRect OnPixels(const TwipsRect& place) {
+TwipsRect RoundedToPixels(const TwipsRect& place) {
   const auto on_pixel = [](int twips) { return TwipsOf(PixelsOf(twips)); };
   return {on_pixel(place.left), on_pixel(place.top), on_pixel(place.width), on_pixel(place.height)};
 }
@@ -49,18 +51,18 @@ TwipsRect InTheMiddle(const QWidget& window, const TwipsRect& now) {
 Placement::Placement(QWidget& window, Wish wish, Trust trust)
     : QObject(&window), window_(window), wish_(std::move(wish)), trust_(trust) {
   timer_.setInterval(kPoll);
-  connect(&timer_, &QTimer::timeout, this, &Placement::Look);
+  connect(&timer_, &QTimer::timeout, this, &Placement::Check);
 }
 
 void Placement::Begin(const QMargins& old_frame, bool maximised) {
   old_frame_ = old_frame;
   maximised_ = maximised;
-  met_ = 0;
+  checks_in_place_ = 0;
   mapped_ = false;
   window_.installEventFilter(this);
   if (!window_.isVisible()) return;
   timer_.start();
-  Look();
+  Check();
 }
 
 bool Placement::eventFilter(QObject*, QEvent* event) {
@@ -69,28 +71,28 @@ bool Placement::eventFilter(QObject*, QEvent* event) {
   return false;
 }
 
-void Placement::Look() {
-  const QWindow* system = window_.windowHandle();
-  if (system == nullptr || !system->isVisible()) return;
+void Placement::Check() {
+  const QWindow* native = window_.windowHandle();
+  if (native == nullptr || !native->isVisible()) return;
   if (!mapped_) deadline_.setRemainingTime(kPatience);
   mapped_ = true;
   const bool late = deadline_.hasExpired();
-  const QMargins frame = system->frameMargins();
-  if (!late && (frame == old_frame_ || !IsMade(frame))) return;
+  const QMargins frame = native->frameMargins();
+  if (!late && (frame == old_frame_ || !IsComplete(frame))) return;
   if (!window_.isMinimized()) Apply();
   if (!frame_known_) {
     frame_known_ = true;
     if (on_frame) on_frame();
   }
   const bool trusted = trust_ == Trust::kFirst && old_frame_.isNull();
-  if (late || met_ >= (trusted ? 1 : kOftenEnough)) End();
+  if (late || checks_in_place_ >= (trusted ? 1 : kChecksInPlace)) End();
 }
 
 void Placement::Apply() {
   const TwipsRect now = OuterGeometry(window_);
-  const TwipsRect wanted = OnPixels(wish_(now));
+  const TwipsRect wanted = RoundedToPixels(wish_(now));
   const bool met = maximised_ ? window_.isMaximized() : now == wanted && !window_.isMaximized();
-  met_ = met ? met_ + 1 : 0;
+  checks_in_place_ = met ? checks_in_place_ + 1 : 0;
   if (met) return;
   if (maximised_) return window_.showMaximized();
   if (!window_.isMaximized()) SetOuterPlace(window_, wanted);

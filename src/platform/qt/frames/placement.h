@@ -41,7 +41,7 @@ class Placement : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  void Look();
+  void Check();
   void Apply();
   void End();
 
@@ -51,7 +51,7 @@ class Placement : public QObject {
   QTimer timer_;
   QMargins old_frame_;
   QDeadlineTimer deadline_;
-  int met_ = 0;  // how many checks in a row found the window in place
+  int checks_in_place_ = 0;  // how many checks in a row found the window in place
   bool maximised_ = false;
   bool mapped_ = false;
   bool frame_known_ = false;

@@ -47,7 +47,7 @@ MainToolbar::MainToolbar(const Commands& commands, Files& files, QWidget* parent
     connect(action, &QAction::triggered, this, [this, key = button.key] { commands_.Run(key); });
     initial_.append(action);
     if (button.key == "Recent") AddRecentMenu(action);
-    if (!button.separator_behind) continue;
+    if (!button.separator_after) continue;
     auto* separator = new QAction(this);
     separator->setSeparator(true);
     initial_.append(separator);

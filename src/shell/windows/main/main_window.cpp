@@ -76,7 +76,7 @@ void MainWindow::MakeControls() {
   box_->setStandardShortcuts(false);
   box_->SetCaretStays(true);
   KeyRouter::Get().Add(KeyTurn::kMenu, *box_, [this](QWidget&, const QKeyEvent& press) {
-    return menus_->RunGrey(press, [this] {
+    return menus_->RunIfNowEnabled(press, [this] {
       return ComputeMenuState(editor_.text, editor_.documents.CurrentPath(), editor_.platform.ClipboardContent());
     });
   });

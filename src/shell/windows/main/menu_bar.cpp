@@ -107,7 +107,7 @@ void MenuBar::Apply(const MenuState& state) {
   SetEnabled(ItemsOfSelection(), state.has_selection);
 }
 
-bool MenuBar::RunGrey(const QKeyEvent& keys, const std::function<MenuState()>& now) const {
+bool MenuBar::RunIfNowEnabled(const QKeyEvent& keys, const std::function<MenuState()>& now) const {
   // An unknown key would match all items without a shortcut.
   if (keys.key() == 0 || keys.key() == Qt::Key_unknown) return false;
   const QKeySequence sequence(keys.keyCombination());

@@ -27,14 +27,14 @@ class MenuBar : public QMenuBar {
   // Null if the item is no submenu.
   [[nodiscard]] QMenu* Submenu(std::string_view name) const { return Action(name)->menu(); }
 
-  // Enables every submenu, and every item whose command exists. Call after commands were added.
+  // Enables every submenu and every item whose command exists, until the next Apply. Call after commands were added.
   void Refresh();
   // Enables or disables the items that depend on the state. An item without a command stays disabled.
   void Apply(const MenuState& state);
   // Apply runs only on ticks of the status timer, so an item may still be disabled when the state already allows its
-  // command. Runs the command of such an item if `keys` is its shortcut. `now` computes the present state. False if no
-  // command ran.
-  bool RunGrey(const QKeyEvent& keys, const std::function<MenuState()>& now) const;
+  // command. Runs the command of such an item if `keys` is its shortcut. `now` computes the present state. True
+  // if `keys` is the shortcut of such an item.
+  bool RunIfNowEnabled(const QKeyEvent& keys, const std::function<MenuState()>& now) const;
 
  protected:
   bool event(QEvent* event) override;
