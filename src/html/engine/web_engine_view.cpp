@@ -105,7 +105,7 @@ void WebEngineView::Command(std::function<void()> step) {
   page_->Silence();
   // The question runs an event loop within the engine's call, which has to return first.
   if (was_asking) {
-    after_question_ = [this, step] { Command(step); };
+    after_question_ = [this, step = std::move(step)] { Command(step); };
     return;
   }
   after_question_ = {};
