@@ -1,4 +1,4 @@
-// What windows may know and ask of the running session.
+// The part of the session that windows may use.
 #pragma once
 
 #include "shell/stand_alone.h"

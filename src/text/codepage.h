@@ -3,11 +3,13 @@
 // page becomes "?".
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "text/utf8.h"
 
@@ -29,12 +31,20 @@ inline constexpr std::array<char16_t, 128> kCodePageHigh = {
 
 constexpr char16_t UnicodeOf(unsigned char code) { return code < 0x80 ? char16_t{code} : kCodePageHigh[code - 0x80u]; }
 
+// The characters of the codes from 0x80 on, sorted for a fast search: a file to convert may be very large.
+inline constexpr auto kHighByUnicode = [] {
+  std::array<std::pair<char16_t, unsigned char>, 128> pairs{};
+  for (std::size_t i = 0; i < pairs.size(); ++i) pairs[i] = {kCodePageHigh[i], static_cast<unsigned char>(i + 0x80)};
+  std::ranges::sort(pairs);
+  return pairs;
+}();
+
 // The code of a Unicode character, -1 if the code page lacks the character.
 constexpr int FindCode(char32_t character) {
   if (character < 0x80) return static_cast<int>(character);
-  for (std::size_t i = 0; i < kCodePageHigh.size(); ++i)
-    if (kCodePageHigh[i] == character) return static_cast<int>(i + 0x80);
-  return -1;
+  const auto* const at =
+      std::ranges::lower_bound(kHighByUnicode, character, {}, [](const auto& pair) { return char32_t{pair.first}; });
+  return at != kHighByUnicode.end() && at->first == character ? at->second : -1;
 }
 
 // The code of a Unicode character, "?" if the code page lacks the character.
