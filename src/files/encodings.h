@@ -24,7 +24,7 @@ struct FilePlace {
   std::uint64_t byte = 1, line = 1, column = 1;
 };
 
-// Collects what a conversion to Windows-1250 would lose or refuse.
+// Counts the characters that a conversion to Windows-1250 would lose, and finds malformed UTF-8.
 class Utf8Survey {
  public:
   // False once malformed UTF-8 was found. Later bytes are ignored.

@@ -14,7 +14,7 @@ enum class OutsideChange { kNone, kWritten, kGone };
 // kNone if this program neither opened nor saved the file.
 OutsideChange OutsideChangeOf(const Documents& documents, Platform& platform);
 
-// True if the current document came from a UTF-8 file.
+// True if the current document was UTF-8 when this program opened its file, or at a save since then.
 bool CurrentWasUtf8(const Documents& documents);
 
 // The notice for the status bar, UTF-8; "" for kNone.

@@ -1,5 +1,5 @@
-// Saves the text, or a part of it, to a file, and inserts a file into the text. A file holds exactly the bytes of the
-// text; no line end is added. Paths are UTF-8, texts Windows-1250.
+// Saves the text, or a part of it, to a file, and inserts the first field of a file into the text. A saved file holds
+// exactly the bytes of the text; no line end is added. Paths are UTF-8, texts Windows-1250.
 #pragma once
 
 #include <string>
@@ -29,7 +29,7 @@ class Saver {
   // Shows the system's save dialog, then calls SaveToPath.
   void SaveStandard();
 
-  // Asks, then saves to the current path.
+  // Asks, then calls SaveToPath with the current path.
   void SaveFast();
 
   // Shows the system's open dialog and replaces the selection by the file's first field.

@@ -18,7 +18,7 @@ class DirSetup : public FormDialog<Ui::DirSetup> {
   Q_OBJECT
 
  public:
-  // Each function of `dialogs` creates its dialog and returns the dialog's folder browser.
+  // Each function of `dialogs` creates its dialog if necessary, and returns the dialog's folder browser.
   DirSetup(const std::vector<std::function<FolderBrowser()>>& dialogs, QWidget* parent);
 
  private:

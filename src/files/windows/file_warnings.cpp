@@ -22,8 +22,8 @@ QString TooLong(std::size_t size) {
 }  // namespace
 
 // Looks for a change of the file on disk when a tab is selected, and when the main window gains or loses the keyboard
-// focus, also to a question. Never looks while the person types. A file that this program opens or saves counts as
-// unchanged from then on.
+// focus, for example to a message box. Never looks while the person types. Compares the file with its state when this
+// program last opened or saved the file.
 FileWarnings::FileWarnings(MainWindow& window, Editor& editor)
     : QObject(&window),
       window_(window),

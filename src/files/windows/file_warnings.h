@@ -1,5 +1,6 @@
 // Hints in the status bar about the document's text and file. A hint about a text that is too long or in two encodings
-// stays until the text is corrected; a hint about a changed file, UTF-8 or line ends stays until the text changes.
+// stays until the text is corrected. A hint about a changed file, UTF-8 or line ends disappears when the text changes,
+// and may return when a tab is selected or when the main window gains or loses the keyboard focus.
 #pragma once
 
 #include <QObject>
