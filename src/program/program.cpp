@@ -64,8 +64,8 @@ void Program::AddWindows() {
   AddBrowserWindows(parts_);
 }
 
-// False during the load, when the title marks the loaded text although it is no unsaved work. False if an accessory
-// runs alone, because the hidden editor then has no document.
+// False during the load, when the title has a "*" although nothing is unsaved. False if an accessory runs alone,
+// because nobody can change the documents of the hidden editor.
 bool Program::KeepsDocuments() const { return loaded_ && session_.Mode() == StartMode::kEditor; }
 
 void Program::ShowAccessory(StartMode mode) {

@@ -48,7 +48,7 @@ void Session::Load() {
 void Session::LoadText() {
   const std::string path = InstallPath(kRecoveryName);
   if (FileExists(file_number_, platform_, path)) {
-    // A longer file isn't loaded. No message appears and the file stays on disk.
+    // A longer file isn't loaded, and no message appears. The next StoreAll overwrites the file.
     FileBytes file = platform_.ReadFile(path, kLargestDocument + 1);
     if (file.error != 0) throw Unreadable(path, file.error);
     if (file.bytes.size() <= kLargestDocument) documents_.Buffer().SetText(std::move(file.bytes));
@@ -67,7 +67,7 @@ void Session::TakeLateClipboard() {
                        !documents_.CurrentPath().empty();
   if (touched || !documents_.Buffer().Empty()) return;
   TakeClipboard();
-  documents_.ForgetPath();  // also removes the mark
+  documents_.ForgetPath();  // also removes the "*" from the title
 }
 
 void Session::LoadSettings() {

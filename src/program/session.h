@@ -25,7 +25,7 @@ class Session : public SessionState {
   };
   Session(MainView& view, Callbacks callbacks, Editor& editor, Files& files);
 
-  // Loads the text and the settings, and asks for a missing profile.
+  // Loads the text and the settings, and asks for the person's name and e-mail address if one is missing.
   void Load();
   // Call if the clipboard's content arrives after the start. Inserts the content into an empty document that wasn't
   // changed since the load, and doesn't mark the document as changed.
@@ -63,7 +63,7 @@ class Session : public SessionState {
   bool closed_ = false;
 };
 
-// The content of "\autosave_all_files.txt": a block for each document, also for an empty one.
+// The content of "autosave_all_files.txt": a block for each document, also for an empty one.
 std::string AllFilesText(const Documents& documents);
 
 }  // namespace pelmar
