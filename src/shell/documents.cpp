@@ -97,7 +97,7 @@ void Documents::MakeCurrent(const std::string& path) {
 
 void Documents::MakeCurrent(const std::string& path, std::string text) {
   current_path_ = path;                 // required: set before SetText notifies the change
-  title_follows_ = HasExtension(path);  // required: a name without an extension only adds the mark to the title
+  title_follows_ = HasExtension(path);  // required: for a name without an extension the title only gets the "*"
   buffer_.SetText(std::move(text));
   title_follows_ = false;
   MakeCurrent(path);

@@ -23,7 +23,7 @@ inline constexpr int kTabCount = 5;
 struct KnownFile {
   std::string path;
   std::optional<FileStamp> stamp;  // taken before the file was read, or after it was written
-  bool utf8 = false;               // the text came from a UTF-8 file
+  bool utf8 = false;               // the text was UTF-8 when the file was opened, or at a save since then
 };
 
 struct DocSlot {
@@ -40,7 +40,7 @@ struct TabFace {
 
 class Documents {
  public:
-  // Construct this object before any view of the text, so that views are notified later.
+  // Construct this object before any view of the text, so that this object is notified of a change first.
   explicit Documents(TextBuffer& buffer);
 
   void SwitchTo(int tab);
@@ -62,7 +62,7 @@ class Documents {
   [[nodiscard]] bool IsUnsaved(int tab) const;
   [[nodiscard]] int UnsavedCount() const;
 
-  // The first empty tab after the current one, or 0 if no tab is empty.
+  // Searches for an empty tab: first after the current tab, then from tab 1 up to the current tab. 0 if there is none.
   [[nodiscard]] int EmptyTab() const;
 
   // Empties the current tab without a question.

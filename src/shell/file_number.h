@@ -42,7 +42,7 @@ class OpenNumber {
 };
 
 // True if the file can be opened for reading. required: always false while the number is in use, so that every later
-// operation fails. Never releases the number.
+// operation fails.
 bool FileExists(const FileNumber& number, Platform& platform, const std::string& path);
 
 // The error for an existing file that can't be read.

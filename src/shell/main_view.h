@@ -53,7 +53,7 @@ class MainLook {
 
   // Sets the editor's font size. Only the six sizes of the menu are valid; any other becomes 8.
   void SetEditorFontSize(int size);
-  std::function<void()> on_font_size;  // called after each change of the size; the font dialog sets this
+  std::function<void()> on_font_size;  // called after each change of the size, for the font dialog
 
   // The check marks of bold and italic are set separately, by MarkBold and MarkItalic.
   virtual void SetEditorColors(Color fore, Color back) = 0;

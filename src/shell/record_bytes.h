@@ -1,6 +1,6 @@
-// Reads and writes the program's own binary files: little-endian numbers and byte strings in sequence. A field beyond
-// the end of a file reads as zero or empty. A count that is too large makes the reader fail.
-// Files that must be complete have a seal: a signature and a checksum.
+// Reads and writes the program's own binary files: little-endian numbers and byte strings in sequence. A field that
+// goes beyond the end of a file reads as zero or empty, and Failed() is true from then on. Files that must be complete
+// have a seal: a signature and a checksum.
 #pragma once
 
 #include <cstdint>

@@ -11,7 +11,7 @@ namespace pelmar {
 
 class SaveTarget {
  public:
-  // Sets the path. For a name without an extension, sets only the folder and throws RuntimeError.
+  // Sets the path. A name without an extension leaves Name() and Extension() as they were, and throws RuntimeError.
   void SetPath(const std::string& path);
 
   // False if no path was set yet; the dialog then keeps its initial fields.

@@ -15,7 +15,8 @@ class SessionState {
   // True after a confirmed close: the program is ending and the settings are already stored.
   [[nodiscard]] virtual bool Closed() const = 0;
 
-  // Writes the settings file, except the state of the main window. Throws RuntimeError if the file can't be written.
+  // Copies the place and the look of the main window into the settings, but not its WindowState. Then writes the
+  // settings file. Throws RuntimeError if the file can't be written.
   virtual void StoreSettings() = 0;
 };
 

@@ -1,4 +1,4 @@
-// The settings that "\pelmar.ini" stores, and their format: little-endian numbers, 16-bit booleans (-1 is true),
+// The settings that "pelmar.ini" stores, and their format: little-endian numbers, 16-bit booleans (-1 is true),
 // strings as a 16-bit byte count and that many bytes, without signature or padding. Texts are Windows-1250, except
 // RecentFiles, which are UTF-8 in memory; StoredPath says how they are stored.
 #pragma once
@@ -12,11 +12,11 @@
 
 namespace pelmar {
 
-// In twips. A window nearer than this to an edge of the screen snaps to the edge. The person can set another distance.
+// In twips. A window snaps to an edge of the screen that is nearer than this distance. The person can change the value.
 inline constexpr std::int32_t kDefaultAutosnapDistance = 240;
 
-// Fields of SettingsRecord, DocSlot and TabFace that have names of the stored format or of the tabs' properties begin
-// with a capital. All other fields of structs begin with a small letter.
+// Fields named after the stored format (in SettingsRecord) or after properties of the tabs (in DocSlot and TabFace)
+// begin with a capital letter. All other fields of structs begin with a small letter.
 struct SettingsRecord {
   std::int32_t Width = 0;  // outer size and place of the main window, twips
   std::int32_t Height = 0;

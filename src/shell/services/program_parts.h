@@ -1,5 +1,5 @@
-// The parts from which all subsystems make their windows and commands. Each function Add...Windows below is defined in
-// the folder `windows` of its subsystem. The parts outlive every window.
+// The parts from which all subsystems make their windows and commands. Each function Add...Windows below is defined
+// beside the windows that it adds. The parts outlive every window.
 #pragma once
 
 #include <functional>
@@ -21,8 +21,8 @@ struct Files;
 class MainWindow;
 struct FolderBrowser;
 
-// What the windows of one subsystem do for the other windows and for Program. The function that registers a window sets
-// the window's services.
+// Functions that the windows of one subsystem offer to other windows and to Program. The function that registers a
+// window also sets the services that this window offers.
 struct WindowServices {
   // Shows a file in the internal browser. The path is UTF-8; an empty path does nothing.
   std::function<void(const std::string& path)> show_in_browser;
@@ -33,7 +33,7 @@ struct WindowServices {
   // Saves unsaved notes at once, before an error or the system ends the program. Returns a notice with their place,
   // UTF-8, or "" if there were no unsaved notes.
   std::function<std::string()> keep_notes;
-  // The folder browsers of all dialogs that pick files. Each function creates its dialog when called.
+  // The folder browsers of all dialogs that pick files. Each function creates its dialog if necessary.
   std::vector<std::function<FolderBrowser()>> folder_browsers;
 };
 
@@ -46,7 +46,8 @@ struct ProgramParts {
   SessionState& session;
   WindowServices& services;
 
-  // Functions that call the services show_in_browser and pick_color. A window may get them before these two are set.
+  // Functions that call the services show_in_browser and pick_color. A window may get such a function before the
+  // service is set.
   [[nodiscard]] std::function<void(const std::string& path)> BrowserCallback() const;
   [[nodiscard]] std::function<Color(Color)> ColorCallback() const;
 
@@ -65,7 +66,7 @@ struct ProgramParts {
     ShowBy(names, typeid(Window));
   }
 
-  // Registers a window that picks files. DirSetup sets the folder of its lists `Drive1` and `Dir1`.
+  // Lets DirSetup set the folder of this window, which has the lists `Drive1` and `Dir1`.
   template <class Window>
   void AddFilePicker() const {
     AddFilePicker(typeid(Window));
@@ -86,7 +87,7 @@ void AddLinkWindows(const ProgramParts& parts);  // pictures, links, sample docu
 void AddTagWindows(const ProgramParts& parts);   // tags, lists, small fragments
 void AddBrowserWindows(const ProgramParts& parts);
 void AddCipherWindows(const ProgramParts& parts);
-void AddToolWindows(const ProgramParts& parts);   // calculator, tables, colours
+void AddToolWindows(const ProgramParts& parts);   // calculator, character tables, colours
 void AddNotesWindows(const ProgramParts& parts);  // notes and their checkpoints, character analysis
 
 }  // namespace pelmar

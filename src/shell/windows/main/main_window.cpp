@@ -22,7 +22,8 @@
 namespace pelmar {
 namespace {
 
-// The minimum size of the window. At most half of the screen, which is the smallest size that the layout picker sets.
+// The minimum size of the window. The constructor limits this size to half of the screen, because the layout picker
+// makes the window half as wide and high as the screen.
 constexpr QSize kSmallest(480, 320);
 // The size at the first start, with space for the whole toolbar.
 constexpr QSize kFirstSize(820, 560);
@@ -190,7 +191,8 @@ void MainWindow::WidenContentPanel() {
   if (const auto spare = SparePanelWidth(OuterGeometry(*this).width, bar_->Widths())) bar_->SetWidth(4, *spare);
 }
 
-// Call at the first paint. From then on the window manager can report the frame, so outer sizes can be set exactly.
+// Call at each paint; only the first call acts. From the first paint on, the window manager can report the frame, so
+// outer sizes can be set exactly.
 void MainWindow::FitToFrame() {
   if (fitted_) return;
   fitted_ = true;
@@ -232,7 +234,8 @@ WindowMode MainWindow::WindowState() const {
   return isMaximized() ? WindowMode::kMaximised : WindowMode::kNormal;
 }
 
-// The window manager may report another frame only after the change of state. Outer sizes are corrected then.
+// A normal window may have another frame than a maximised one. The window manager reports the frame later, and
+// Placement then corrects the outer size.
 void MainWindow::SetNormalState() {
   if (!isMaximized() && !isMinimized()) return;
   placement_.Begin(windowHandle()->frameMargins());
@@ -329,7 +332,8 @@ void MainWindow::dropEvent(QDropEvent* event) {
 
 void MainWindow::OpenDropped(std::vector<std::string> paths) {
   activateWindow();
-  // Opening a file without an extension makes every later file operation fail. A slip of the mouse must not do this.
+  // Opening a file without an extension makes every later file operation fail. A drop by mistake must not cause this
+  // failure.
   const auto nameless = std::stable_partition(paths.begin(), paths.end(), HasExtension);
   const std::vector<std::string> refused(nameless, paths.end());
   paths.erase(nameless, paths.end());

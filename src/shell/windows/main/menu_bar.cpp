@@ -39,7 +39,7 @@ QChar Initial(const QString& text) {
 }
 
 // The next item after the active one that begins with the letter. After the last item the search continues at the
-// first. An item with an access key is skipped, because only this key opens it.
+// first. An item with an access key is skipped, because only its access key chooses it.
 QAction* NextByInitial(const QMenu& menu, QChar letter) {
   const auto first = menu.actions().indexOf(menu.activeAction()) + 1;
   QList<QAction*> items = menu.actions();

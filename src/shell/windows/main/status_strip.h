@@ -1,4 +1,4 @@
-// The status bar `Bar1` with its seven panels. The program sets the widths of the panels.
+// The status bar `Bar1` with its seven panels.
 #pragma once
 
 #include <QStatusBar>
@@ -45,7 +45,7 @@ enum class Warning {
   kTooLong,         // the text is too long to be opened again
   kNoExtension,     // the file name has no extension, so the file can't be opened again
   kChangedOutside,  // the document's file was changed or removed since it was opened or saved
-  kFormat,          // the document's file is in UTF-8 or has the line ends of another system
+  kFormat,          // the text is in UTF-8, mixes UTF-8 with Windows-1250, or has LF line ends
 };
 
 class StatusStrip : public QStatusBar {
