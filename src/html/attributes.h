@@ -1,4 +1,4 @@
-// The pieces of tags that all dialogs write. Texts are Windows-1250 and are not escaped.
+// Pieces of HTML tags that several dialogs write. Texts are Windows-1250 and are not escaped.
 #pragma once
 
 #include <optional>
@@ -28,7 +28,7 @@ std::string LinkText(std::string_view path);
 // The address of a file in a tag: the URL of the path, or the path itself if `relative`. Backslashes become slashes.
 std::string FileAddress(std::string_view path, bool relative);
 
-// Without blanks at the left, or at both ends. Other white space stays.
+// The text without the blanks at its left end, or at both ends. Other white space stays.
 std::string_view LeftTrimmed(std::string_view text);
 std::string_view Trimmed(std::string_view text);
 

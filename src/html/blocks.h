@@ -44,10 +44,10 @@ std::string Fraction(std::string_view numerator, std::string_view denominator);
 std::string CommentText(std::string_view text);
 std::string CharacterReference(int code);
 
-// The five parts in a row, without blanks at both ends.
+// The five parts of a smiley, joined. Blanks at both ends are removed.
 std::string Smiley(const std::array<std::string, 5>& parts);
 
-// Puts the line before the text and the caret at the start.
+// Inserts the line before the text. The caret is then at the start of the text.
 void PutDoctype(TextBuffer& buffer, std::string_view line);
 
 }  // namespace pelmar

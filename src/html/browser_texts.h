@@ -1,4 +1,4 @@
-// The texts of the internal browser that are not in its form. UTF-8.
+// Texts and an encoding check of the internal browser. Texts are UTF-8.
 #pragma once
 
 #include <cstdint>
@@ -17,7 +17,7 @@ std::string ProgressText(std::int64_t progress, std::int64_t maximum);
 // letters.
 bool IsUndeclaredUtf8(std::string_view page);
 
-// The title of the window for the name of a web page.
+// The title of the browser's window, which contains the name of the web page.
 std::string BrowserCaption(std::string_view location_name);
 
 }  // namespace pelmar

@@ -1,5 +1,5 @@
-// Writes a frameset page, with the document in its NOFRAMES part, and the FRAME tag. Texts are Windows-1250 and are not
-// escaped. Numbers are texts, as labels show them.
+// Writes a FRAME tag, or a frameset page with the document in its NOFRAMES part. Texts are Windows-1250 and are not
+// escaped. Numbers are texts, as the labels of the dialogs show them.
 #pragma once
 
 #include <optional>
@@ -9,7 +9,7 @@
 
 namespace pelmar {
 
-// Fields that are switched off are absent.
+// An optional field has no value if its check box in the dialog is off.
 struct FramesetSpec {
   std::optional<std::string> rows = std::nullopt;
   std::optional<std::string> cols = std::nullopt;

@@ -22,13 +22,13 @@ struct ListSpec {
 };
 std::string BuildList(const ListSpec& spec);
 
-// A row for each item of the longer list. Missing items of the shorter list are empty.
+// Writes a DT and a DD for each item of the longer list. Missing items of the shorter list are empty.
 std::string BuildDefinitionList(const std::vector<std::string>& terms, const std::vector<std::string>& definitions);
 
 // Each line of a text as an item. required: the last character is lost.
 std::string ListOfLines(std::string_view text, ListKind kind);
 
-// mnu_HTML_sel_list and mnu_HTML_sel_num_list.
+// Adds the two commands that turn the selected lines into a list.
 void AddListCommands(Editor& editor);
 
 }  // namespace pelmar

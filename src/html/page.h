@@ -10,7 +10,7 @@
 
 namespace pelmar {
 
-// Fields that are switched off are absent. Colours are "#RRGGBB".
+// An optional field has no value if its check box in the dialog is off. Colours are "#RRGGBB".
 struct PageSpec {
   std::string author;
   std::string created;
@@ -24,7 +24,7 @@ struct PageSpec {
   std::optional<int> base_font = std::nullopt;
 };
 
-// Replaces the whole text by the page. The old text, or a marker if there was no text, is selected in the page.
+// Replaces the whole text by the page. The old text, or a placeholder if there was no text, is selected in the page.
 void WrapInPage(TextBuffer& buffer, const PageSpec& spec);
 
 // The META lines of the code page and of the program, each with its line end.

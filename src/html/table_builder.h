@@ -24,7 +24,8 @@ enum class TableFrame { kNone, kAbove, kBelow, kAboveAndBelow, kLeft, kRight, kL
 enum class TableRules { kNone, kRows, kColumns, kAll };
 enum class CaptionSide { kTop, kBottom, kLeft, kRight };
 
-// Fields that are switched off are absent. Numbers are texts, as labels show them: with or without a leading blank.
+// An optional field has no value if its check box in the dialog is off. Numbers are texts, as labels show them:
+// with or without a leading blank.
 struct TableSpec {
   struct Border {
     TableFrame frame = TableFrame::kNone;
@@ -48,8 +49,8 @@ struct TableSpec {
   std::optional<Caption> caption = std::nullopt;
 };
 
-// A line for the opening tag, for the caption and for each row, and "</TABLE>" without a line end. At most kMost
-// columns and rows.
+// A line for the opening tag, for the caption and for each row, and "</TABLE>" without a line end. `spec` must not have
+// more than kMost columns or rows.
 std::string BuildTable(const TableSpec& spec, const TableGrid& grid);
 
 }  // namespace pelmar

@@ -1,5 +1,5 @@
 // The tags of a row and of a cell, for tables written by hand and for the table builder. Texts are Windows-1250 and are
-// not escaped. Numbers are texts, as labels show them.
+// not escaped. Numbers are texts, as the labels of the dialogs show them.
 #pragma once
 
 #include <optional>
@@ -13,7 +13,7 @@ namespace pelmar {
 enum class CellAlign { kLeft, kCenter, kRight, kCharacter };
 enum class CellVAlign { kTop, kMiddle, kBottom };
 
-// Fields that are switched off are absent.
+// An optional field has no value if its check box in the dialog is off.
 struct CellAlignment {
   std::optional<CellAlign> align = std::nullopt;
   std::string character = {};  // for kCharacter; not written if empty
@@ -42,7 +42,7 @@ std::string CellTag(const CellSpec& spec);
 // are no attributes.
 std::string TagAttributes(std::string_view tag);
 
-// Inserts a row of numbered cells at the caret. The selection stays, after the row.
+// Inserts a row of numbered cells before the selection. The selected text stays, but is no longer selected.
 void InsertRow(TextBuffer& buffer, const RowSpec& spec);
 
 // Puts the selection, or a sample if nothing is selected, into a cell.

@@ -16,13 +16,13 @@ namespace {
 constexpr char kMarker = "˙"_w[0];
 constexpr std::string_view kNoTag = "Není tag!";
 
-// `count` characters from `from` on. A negative count fails, and the analysis reports this.
+// `count` characters from `from` on. A negative count throws RuntimeError, which ends the analysis as failed.
 std::string_view Middle(std::string_view text, std::size_t from, std::ptrdiff_t count) {
   if (count < 0) throw RuntimeError(EINVAL, "záporná délka textu");
   return text.substr(std::min(from, text.size()), static_cast<std::size_t>(count));
 }
 
-// required: replaces by way of a marker, so a marker in the text becomes the new text too
+// required: `find` becomes kMarker and then `with`, so each kMarker in the text becomes `with` too
 std::string ReplacedByMarker(std::string_view text, std::string_view find, std::string_view with) {
   const std::string_view marker(&kMarker, 1);
   return ReplaceAllText(ReplaceAllText(text, find, marker), marker, with);
@@ -46,7 +46,7 @@ std::string Reformatted(std::string attributes) {
   return ReplacedByMarker(attributes, "=", "=\"");  // required: even "=" in a value
 }
 
-// Divides the attributes at their blanks. A piece without "=" belongs to the value before.
+// Splits the attributes at their blanks. A piece without "=" is appended to the part before the piece.
 std::vector<std::string> SplitAttributes(std::string_view attributes) {
   std::vector<std::string> tag_parts;
   for (std::size_t from = 0; from < attributes.size();) {
@@ -94,7 +94,7 @@ class Analyser {
     for (const std::string& part : tag_parts) FillRow(part);
   }
 
-  // required: the last "<" counts, even if its tag was closed before the caret
+  // required: takes the last "<" before or just after the caret, even if its tag was closed before the caret
   bool FindTag() {
     const std::size_t start = text_.rfind('<', sel_start_);
     if (start == std::string_view::npos || text_.find('>', text_.find('<')) == std::string_view::npos) return false;

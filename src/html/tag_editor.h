@@ -1,5 +1,5 @@
 // Reads a tag from the text into fields and writes the fields back. There is no parser: a fixed sequence of
-// replacements divides the tag. required: the order and the oddities of these replacements. Positions count from 0,
+// replacements splits the tag. required: the order and the oddities of these replacements. Positions count from 0,
 // texts are Windows-1250.
 #pragma once
 
@@ -31,7 +31,7 @@ struct TagRange {
   bool operator==(const TagRange&) const = default;
 };
 
-// The result of an analysis. After a failure, the part that was read until then.
+// The result of an analysis. After a failure, the result contains only what was read before the failure.
 struct TagAnalysis {
   bool has_tag = false;           // a "<" before or just after the caret, and a ">" after the first "<" of the text
   std::optional<TagRange> range;  // the tag, for the editor to select
@@ -40,10 +40,10 @@ struct TagAnalysis {
   std::optional<TagStep> failed_in;
 };
 
-// Divides the tag around the caret. `sel_start` is the start of the selection.
+// Splits the tag at the caret into its name and attributes. `sel_start` is the start of the selection.
 TagAnalysis AnalyseTag(std::string_view text, std::size_t sel_start);
 
-// Divides the tag in the document and selects the tag. Reports a failure or a missing tag.
+// Splits the tag at the caret of the document and selects the tag. Shows a message for a failure or a missing tag.
 TagAnalysis OpenTag(TextBuffer& buffer, Platform& platform);
 
 // A blank, the name, "=" and the quoted value for each name. A missing value is empty.
@@ -62,7 +62,8 @@ struct CustomTag {
   bool closed = true;
 };
 
-// Inserts a tag at the caret, or puts a closed tag around the selection or a sample.
+// Inserts the opening tag at the caret. If the tag is `closed`, puts an opening and a closing tag around the selection,
+// or around a sample if nothing is selected.
 void InsertCustomTag(TextBuffer& buffer, const CustomTag& tag);
 
 }  // namespace pelmar

@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::string_view kPageName = "$$$PelmarTemp";
 
-// Nothing, after a message, if the page can't be written.
+// Writes the document to a temporary page. If the page can't be written, shows a message and returns nothing.
 std::optional<TempFile> TryTestPage(Editor& e, std::string_view extension, PageEnd end, std::string_view title) {
   std::string text = e.text.Text();
   if (end == PageEnd::kLineBreak) text += kCrLf;
@@ -44,7 +44,7 @@ void TestHtml(Editor& e) {
   }
   const std::optional<TempFile> page = TryTestPage(e, ".htm", PageEnd::kLineBreak, "Testuj html");
   if (!page) return;
-  // required: the opened name lacks the fixed part of the written name, and no message follows
+  // required: this path lacks kPageName, so it isn't the path of the written page. No message follows
   e.platform.OpenWithDefaultProgram(e.platform.TempFolder() + page->digits + ".htm");
 }
 

@@ -216,7 +216,7 @@ void FrmBrowser::View_Finished() {
   const QString typed = line.text();
   DontNavigateNow = true;
   PutOnTop(AddressOfUrl(view_->LocationAddress()));
-  // The person has typed a part of another address.
+  // If the person has typed a part of another address, the box keeps this part.
   if (half_typed) {
     line.setText(typed);
     line.setModified(true);

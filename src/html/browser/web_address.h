@@ -21,7 +21,7 @@ inline bool IsOfTheNet(const QUrl& url) {
 }
 
 // Whether the browser may show the URL: http, https, a file, data, or the empty page. The engine doesn't know other
-// schemes or uses them itself, and some of those end the whole program.
+// schemes, or uses them for pages of its own, and some of these pages end the whole program.
 inline bool MayBeShown(const QUrl& url) {
   const QString scheme = url.scheme();
   for (const char* shown : {"http", "https", "file", "data"})

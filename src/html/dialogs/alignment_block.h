@@ -1,5 +1,5 @@
-// The horizontal and vertical alignment of a row or a cell. The dialogs `TableRow` and `TableCell` contain these
-// fields, with the same names.
+// The horizontal and vertical alignment of a row or a cell. The dialogs `TableRow` and `TableCell` contain this
+// widget.
 #pragma once
 
 #include <QWidget>

@@ -1,5 +1,5 @@
 // The part with attributes in the tag editor and similar dialogs: two boxes for a name and a value, two lists of the
-// added pairs, and the buttons that add and remove pairs. This part also works in a hidden window.
+// added pairs, and the buttons that add and remove pairs.
 #pragma once
 
 #include <QWidget>
@@ -24,7 +24,7 @@ class AttributeEditor : public QWidget {
 
   [[nodiscard]] PairedLists& Lists() const { return *lists_; }
 
-  // `Atribut` and `Hodnota`.
+  // The boxes `Atribut` and `Hodnota`.
   [[nodiscard]] QComboBox* NameBox() const;
   [[nodiscard]] QComboBox* ValueBox() const;
 

@@ -1,6 +1,6 @@
-// The base of the dialogs for a row and a cell. Opened from the menu, the dialog stays open beside the editor, and Ok
-// inserts tags. Opened by the table builder, the dialog is modal and returns attributes. The fields keep their values
-// for the next opening.
+// The base of the dialogs for a row and a cell. Opened from the menu, the dialog is modeless, and Ok inserts tags.
+// Opened by the table builder, the dialog is modal and returns attributes. The fields keep their values for the next
+// opening.
 #pragma once
 
 #include <optional>
@@ -14,8 +14,8 @@ namespace pelmar {
 template <class Form>
 class AttributesDialog : public FragmentDialog<Form> {
  public:
-  // Returns the attributes when the dialog is closed, with a blank before the first one. "" if no attribute is set,
-  // nothing on cancel.
+  // Runs the dialog and returns the attributes, with a blank before the first one. "" if no attribute is set, nothing
+  // on cancel.
   std::optional<std::string> AskAttributes() {
     this->hide();  // a visible window can't become modal
     answer_.reset();
@@ -32,7 +32,7 @@ class AttributesDialog : public FragmentDialog<Form> {
 
   [[nodiscard]] virtual std::string OpeningTag() const = 0;
   virtual void InsertTags() = 0;
-  // Enables or disables the fields that only the editor uses.
+  // Enables or disables the fields that change nothing in the result of AskAttributes().
   virtual void EnableForEditor(bool enabled) = 0;
 
  private:

@@ -1,6 +1,6 @@
 // The controls that choose a file for a picture, a frame or a link in four dialogs: a file browser with a mask, a
-// switch that keeps only the name, a label with the path, and two buttons that need a file. While `files` is disabled,
-// the dialog itself enables `ok`.
+// check box that keeps only the name, a label with the path, and two buttons that need a file. While `files` is
+// disabled, the dialog itself enables `ok`.
 #pragma once
 
 #include <functional>
@@ -18,7 +18,7 @@ class DriveList;
 class FileList;
 class FolderList;
 
-// The controls of the dialog. The controls must outlive this object.
+// Pointers to the controls of the dialog. The controls must outlive this object.
 struct FileChoice {
   // All four forms use the same names, except for `relative` and `path`.
   template <class Form>
@@ -26,8 +26,8 @@ struct FileChoice {
     return {ui.Drive1, ui.Dir1, ui.File1, ui.Combo1, relative, path, ui.Command1, ui.Command3};
   }
 
-  // Connects the controls. Call once. Each choice of a file, folder or mask updates the label and the buttons, which
-  // have the form's state before. `show_in_browser` is called with the label's path.
+  // Connects the controls. Call once. The label and the buttons stay as in the form until the person chooses a file,
+  // folder or mask, or toggles `relative`. The button `show` calls `show_in_browser` with the label's path.
   void Link(std::function<void(const std::string& path)> show_in_browser) const;
 
   // Writes the path, or only the name, into the label. Enables the buttons that can be used now.
@@ -46,7 +46,7 @@ struct FileChoice {
   QCheckBox* relative;
   QLabel* path;
   QAbstractButton* ok;    // needs a file
-  QAbstractButton* show;  // needs a file with its folder; Link() sets its picture
+  QAbstractButton* show;  // needs a file with its whole path; Link() sets its icon
 };
 
 }  // namespace pelmar

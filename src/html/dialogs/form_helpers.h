@@ -40,7 +40,7 @@ QString Plain(int value);
 QString BlankLed(int value);
 
 // Writes each new value of the bar into the label. Before the first change the label has the form's text, even if the
-// bar has another value. Tags contain the label's text. The label is disabled together with the bar.
+// bar has another value. Tags get the label's text, not the bar's value. The label is disabled together with the bar.
 void ShowValue(QAbstractSlider* bar, QLabel* label, std::function<QString(int)> write = Plain);
 
 struct BarRange {
@@ -69,7 +69,7 @@ Value SetOption(Options<Value> options) {
   return options.begin()->second;
 }
 
-// The same value. Nothing if the box is not checked.
+// The value of the checked option, as above. Nothing if the box is not checked.
 template <class Value>
 std::optional<Value> SetOption(const QCheckBox* box, Options<Value> options) {
   return box->isChecked() ? std::optional(SetOption<Value>(options)) : std::nullopt;

@@ -1,4 +1,4 @@
-// The dialog `HTMLAscii` inserts the reference to a character by its code.
+// The dialog `HTMLAscii` inserts a character reference, for example "&#160;".
 #pragma once
 
 #include "platform/qt/controls/fragment_dialog.h"

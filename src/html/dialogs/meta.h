@@ -1,4 +1,4 @@
-// The dialog `Meta` inserts the text that the person chooses from a list of META tags, or types.
+// The dialog `Meta` inserts a META tag, which the person chooses from a list or types.
 #pragma once
 
 #include "platform/qt/controls/fragment_dialog.h"

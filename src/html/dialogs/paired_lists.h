@@ -44,7 +44,7 @@ class PairedLists : public QObject {
 
   PairedLists(const Parts& parts, QObject* parent);
 
-  // From this call on, the fields show the texts of a clicked row, and typing into a field changes the selected row.
+  // From this call on, the fields show the texts of the selected row, and typing into a field changes this row.
   void EditSelectedRows() { edits_rows_ = true; }
 
   // Adds a pair if the button is enabled, and selects the first field for the next pair.

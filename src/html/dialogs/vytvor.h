@@ -1,4 +1,5 @@
-// The dialog `Vytvoř` puts a whole page around the document. The text box gets the page's background and text colours.
+// The dialog `Vytvoř` puts a whole page around the document. The editor's text box gets the page's background and
+// text colours.
 #pragma once
 
 #include "html/dialogs/file_choice.h"

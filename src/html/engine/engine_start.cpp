@@ -31,7 +31,7 @@ constexpr const char* kBeforeTheGate[] = {
     "SOCKS_VERSION", "XDG_CURRENT_DESKTOP", "DESKTOP_SESSION", "KDE_FULL_SESSION", "GNOME_DESKTOP_SESSION_ID"};
 constexpr char kNoSandbox[] = "QTWEBENGINE_DISABLE_SANDBOX";
 
-// The sandbox needs a user name space and refuses root. If the sandbox fails, the engine ends the whole program.
+// The sandbox needs a user namespace and refuses root. If the sandbox fails, the engine ends the whole program.
 bool SandboxWorks() {
   if (geteuid() == 0) return false;
   const pid_t child = fork();

@@ -7,7 +7,7 @@
 
 namespace pelmar {
 
-// Sets a variable of the environment, or removes the variable for a null value. The destructor restores the old value.
+// Sets an environment variable, or removes the variable if `value` is null. The destructor restores the old value.
 class ScopedVariable {
  public:
   ScopedVariable(const char* name, const QByteArray& value);
@@ -20,11 +20,11 @@ class ScopedVariable {
   std::optional<QByteArray> old_;
 };
 
-// The variable from which a new profile of the engine reads the address of its NetGate.
+// The environment variable from which a new profile of the engine reads the address of its NetGate.
 inline constexpr char kWayOut[] = "SOCKS_SERVER";
 
-// An object of this class must exist while the engine starts. The destructor restores the environment, which other
-// programs inherit from this one.
+// An object of this class must exist while the engine starts. The destructor restores the environment, since child
+// processes of the program inherit the environment.
 class EngineStart {
  public:
   EngineStart();

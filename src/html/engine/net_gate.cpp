@@ -14,7 +14,7 @@
 namespace pelmar {
 namespace {
 
-constexpr qint64 kMostHeld = qint64{256} * 1024;  // the most bytes that one side holds for the other
+constexpr qint64 kMostHeld = qint64{256} * 1024;  // the largest size of each buffer of a passage, in bytes
 constexpr char kVersion = 5, kConnect = 1, kAddress4 = 1, kName = 3, kAddress6 = 4, kDone = 0, kRefused = 2,
                kFailed = 5;
 constexpr qsizetype kHeadLength = 4, kPortLength = 2;

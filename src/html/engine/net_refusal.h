@@ -1,5 +1,5 @@
-// Blocks requests of local pages to the net, and requests of all pages for the engine's own addresses. Each profile has
-// its own NetRefusal, so a late request of a local page is blocked too.
+// Blocks requests to the net if the profile doesn't allow the net. Blocks the engine's own addresses for all profiles.
+// Each profile has its own NetRefusal, so a local page's request is blocked even if another page is already shown.
 #pragma once
 
 #include <QWebEngineUrlRequestInterceptor>

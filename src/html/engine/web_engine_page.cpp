@@ -33,7 +33,7 @@ QString Title() { return QStringLiteral("Zpráva stránky"); }
 
 // The engine asks this question through javaScriptConfirm().
 constexpr char kLeaving[] = "Are you sure you want to leave this page? Changes that you made may not be saved.";
-constexpr int kMostUnasked = 2;         // questions before a page may be silenced
+constexpr int kMostUnasked = 2;         // questions without the check box that switches off further questions
 constexpr int kLongestQuestion = 2000;  // characters of a page's own text
 // The most characters of an address that a question shows, and of one of its lines. A longer address isn't opened.
 constexpr qsizetype kLongestAsked = 1000, kAddressLine = 80;
@@ -43,7 +43,7 @@ bool MayBeFramed(const QUrl& address) {
   return MayBeShown(address) || address.scheme() == QLatin1String("about") || address.scheme() == QLatin1String("blob");
 }
 
-// The access key toggles this box at once. Qt's box waits a moment, and the person may press Enter before that.
+// The access key toggles this box at once. Qt's box waits a moment, and the person may press Enter in the meantime.
 class SilenceBox : public QCheckBox {
  public:
   SilenceBox() : QCheckBox(QStringLiteral("&Další zprávy této stránky neukazovat")) {}
@@ -62,7 +62,7 @@ WebEnginePage::WebEnginePage(QWebEngineProfile* profile, PageSide side) : QWebEn
   settings()->setDefaultTextEncoding(QStringLiteral("windows-1250"));
   settings()->setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
   settings()->setAttribute(QWebEngineSettings::LocalContentCanAccessFileUrls, true);
-  // NetRefusal and NetGate block the net. The engine's own rule would block it without notifying on_withheld.
+  // NetRefusal and NetGate block the net. The engine's own rule would block the net without notifying on_withheld.
   settings()->setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, true);
   settings()->setAttribute(QWebEngineSettings::JavascriptEnabled, side != PageSide::kDiskWithNet);
   settings()->setAttribute(QWebEngineSettings::HyperlinkAuditingEnabled, false);
@@ -195,7 +195,7 @@ void WebEnginePage::javaScriptAlert(const QUrl&, const QString& text) {
 }
 
 bool WebEnginePage::javaScriptConfirm(const QUrl&, const QString& text) {
-  // A silenced page can't keep the person from leaving the page.
+  // A page that may not ask can't keep the person from leaving the page.
   if ((silenced_ || muted_) && text == QCoreApplication::translate("QWebEnginePage", kLeaving)) return true;
   return AskInBox(Title(), text, QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Ok);
 }

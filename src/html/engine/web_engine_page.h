@@ -25,10 +25,11 @@ class WebEnginePage : public QWebEnginePage {
 
   [[nodiscard]] PageSide Side() const { return side_; }
 
-  // Call at each command of the person. Answers the open question, and all questions until HearAgain(), with No.
+  // Call at each command of the person. Answers the open question with No. Until HearAgain(), the page may be left
+  // without a question, and each other question gets No.
   void Silence();
   void HearAgain() { silenced_ = false; }
-  // Call before another page loads. The person may have silenced the present page.
+  // Call before another page loads. Allows questions again if the person has switched off the present page's questions.
   void ForgetQuestions();
   [[nodiscard]] bool Asking() const { return question_ != nullptr; }
 
@@ -48,8 +49,8 @@ class WebEnginePage : public QWebEnginePage {
   // Shows the address in this page, although the page asked for a new window.
   void OpenHere(const QUrl& address);
   void AskToLeaveTheDisk(const QUrl& address);
-  // Shows a question of the page. From the third question on, the person may silence the page. False for No, and if the
-  // page is hidden, already asks or is silenced.
+  // Shows a question of the page. From the third question on, the person may switch off further questions.
+  // False for No, and if the page is hidden, already asks or may not ask.
   bool Ask(QDialog& question);
   bool AskInBox(const QString& title, const QString& text, QMessageBox::StandardButtons buttons,
                 QMessageBox::StandardButton default_button);
@@ -60,7 +61,7 @@ class WebEnginePage : public QWebEnginePage {
   bool loaded_ = false;
   QPointer<QDialog> question_;
   int questions_ = 0;      // number of questions of the page so far
-  bool muted_ = false;     // the person silenced the page
+  bool muted_ = false;     // the person switched off further questions
   bool silenced_ = false;  // from Silence() to HearAgain()
 };
 

@@ -50,7 +50,7 @@ WebEngineView::WebEngineView(QWidget* parent) : view_(std::make_unique<QWebEngin
   for (const PageSide side : {PageSide::kDisk, PageSide::kDiskWithNet, PageSide::kNet}) {
     const bool allows_net = side != PageSide::kDisk;
     const ScopedVariable way_out(kWayOut, (allows_net ? open_gate_ : shut_gate_).Address());
-    // For a page of another side, the request is a late one of an earlier page.
+    // If the present page is of another side, an earlier page sent the request.
     profiles_[side] = MakeProfile(allows_net, [this] {
       if (page_->Side() == PageSide::kDisk) on_withheld(true);
     });

@@ -39,7 +39,7 @@ class WebEngineView : public QObject, public WebView {
   // Replaces the page by an empty one.
   void MakePage(PageSide side);
   void ConnectPage();
-  // Runs a command of the person that leads to another page.
+  // Closes an open question, then runs a command of the person that loads a page.
   void Command(std::function<void()> step);
   // Runs a step that keeps the present page and its process.
   void Stay(const std::function<void()>& step);
@@ -61,8 +61,8 @@ class WebEngineView : public QObject, public WebView {
   std::map<PageSide, std::unique_ptr<QWebEngineProfile>> profiles_;
   std::unique_ptr<WebEnginePage> page_;
   std::unique_ptr<QWebEngineView> view_;
-  QList<QUrl> places_;                    // the history; the place at place_ stands for the present page's own history
-  qsizetype place_ = 0;                   // from 0
+  QList<QUrl> places_;                    // the history; GatherPlaces adds what the present page has opened
+  qsizetype place_ = 0;                   // the index in places_ at which the present page was loaded
   QTimer expecting_load_;                 // runs after a command until a load ends, for a second at most
   QTimer unanswered_;                     // runs until the page answers a probe
   qint64 probed_ = 0;                     // the process that was probed

@@ -1,5 +1,5 @@
-// The sample documents. A function builds each document line by line, with the name and address of the user. The texts
-// are Windows-1250; CR LF separates the lines.
+// The sample documents. A function builds each document line by line. Html1 and Diz1 contain the person's e-mail
+// address, Diz1 also the name. The texts are Windows-1250; CR LF separates the lines.
 #pragma once
 
 #include <span>
@@ -12,13 +12,13 @@ namespace pelmar {
 
 struct Sample {
   std::string_view key;
-  std::string_view text;       // in the list, Windows-1250
+  std::string_view text;       // the name in the list, Windows-1250
   std::string_view file_name;  // only displayed
   std::string_view picture;    // the name of an icon of the program
   std::string (*make)(const SettingsRecord& profile);
 };
 
-// In the order of the list.
+// All samples, in the order of the list.
 std::span<const Sample> Samples();
 
 // The text of a sample, "" for an unknown key.
