@@ -35,7 +35,7 @@ inline QString PlainTitle(std::string_view utf8) {
   return Utf8ToQString(utf8).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
 }
 
-// Shortens a text for a message to `most` characters. Dots mark the cut.
+// Cuts a text for a message after `most` characters and appends dots. Returns a shorter text unchanged.
 inline QString Shortened(const QString& text, int most) {
   return text.size() <= most ? text : text.left(most) + QLatin1String(" ...");
 }

@@ -1,4 +1,4 @@
-// Substitutes for the three fonts that the program names, for systems without these fonts.
+// Sets substitutes for the program's three fonts, for systems where these fonts are missing.
 #pragma once
 
 namespace pelmar {

@@ -15,7 +15,7 @@ constexpr std::size_t kTabColumns = 8;
 constexpr qreal kSignScale = 0.65;
 constexpr qreal kSmallestSign = 8;  // pixels
 constexpr qreal kSignPadding = 2;
-constexpr qreal kSignGap = 1;  // between neighbouring fields
+constexpr qreal kSignGap = 1;  // between neighbouring signs
 
 constexpr std::array<const char*, 32> kControlNames = {
     "NUL", "SOH", "STX", "ETX", "EOT", "ENQ", "ACK", "BEL", "BS",  "HT", "LF",  "VT",  "FF", "CR", "SO", "SI",

@@ -1,6 +1,6 @@
-// The glyph and the advance of each of the 256 codes in a font. Letters are not shaped, so painted places equal
-// computed places. Missing glyphs come from the system's fallback fonts. A control character other than TAB is shown as
-// a sign: its short name on a tinted field.
+// The glyph and the advance of each of the 256 Windows-1250 codes in a font. Letters are not shaped, so they are
+// painted at the computed positions. Missing glyphs come from the system's fallback fonts. A control character other
+// than TAB is shown as a sign: its short name on a tinted field.
 #pragma once
 
 #include <QColor>

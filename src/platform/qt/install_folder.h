@@ -8,7 +8,7 @@ namespace pelmar {
 
 struct ChosenFolder {
   std::string path;  // with "/" at the end
-  // Set if `path` is the third choice: the path that can't be created, and the errno.
+  // Set if `path` is the third choice of FindInstallFolder: the path of the second choice, and why creating it failed.
   std::string refused = {};
   int error = 0;
 };
@@ -18,7 +18,7 @@ struct ChosenFolder {
 // choice, if the creation fails: a folder that the system removes when the user logs out.
 ChosenFolder FindInstallFolder(const QString& program_folder, const QString& data_home);
 
-// The message about the third choice, in UTF-8. "" for the other choices.
+// The message about the third choice, in UTF-8. "" for the first and second choice.
 std::string InstallFolderNotice(const ChosenFolder& folder);
 
 }  // namespace pelmar

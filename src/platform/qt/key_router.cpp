@@ -11,7 +11,7 @@ bool IsBareInsert(const QKeyEvent& event) {
   return event.key() == Qt::Key_Insert && (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
 }
 
-// Whether the key edits text in the widget: Enter breaks a line, Delete erases a character. There a held key repeats.
+// Whether the key edits text in the widget: Enter breaks a line, Delete erases a character. Only such a key may repeat.
 bool EditsTextWith(int key, const QWidget& receiver) {
   if (receiver.inputMethodQuery(Qt::ImReadOnly).toBool()) return false;
   if (key == Qt::Key_Delete) return receiver.inputMethodQuery(Qt::ImCursorPosition).isValid();
@@ -53,8 +53,8 @@ bool KeyRouter::IsRepeat(const QKeyEvent& press) const {
   return press.isAutoRepeat() || (just_released && released_at_ != 0);
 }
 
-// Holds back a repeat of Enter or Delete in two cases: if the first press went to another widget, because the first
-// press may have opened or closed a window; and if the key edits no text, so that no button is pressed twice.
+// Whether a press is an unwanted repeat of Enter or Delete. If the first press went to another widget, that press
+// may have opened or closed a window. If the key edits no text, a repeat would press a button twice.
 bool KeyRouter::HoldsBack(const QWidget& receiver, const QKeyEvent& event) {
   const int key = event.key();
   if (event.type() == QEvent::KeyRelease) {

@@ -10,15 +10,15 @@ class QKeyEvent;
 
 namespace pelmar {
 
-// The order in which takers are asked, until one of them takes the key. Before that, Qt looks for a shortcut, and the
-// router drops repeats of Enter and Delete (see HoldsBack). If no taker takes the key, the focused widget gets the key.
-// If this widget ignores the key, its parents get the key: in this way an Enter in a field reaches the dialog.
+// The order in which the router asks its functions (KeyTaker), until one takes the key. Before the router asks them, Qt
+// has looked for a shortcut, and HoldsBack has dropped repeats. If no function takes the key, the focused widget gets
+// the key. If this widget ignores the key, its parents get the key: so an Enter in a field reaches the dialog.
 enum class KeyTurn {
-  kTabs,    // the physical number keys select a tab
-  kMenu,    // keys of menu items that are still disabled
-  kField,   // Enter and arrow keys in one field, list or toolbar
-  kWindow,  // windows that get all keys: calculator, converter, character table, on-screen keyboard, welcome
-  kDialog,  // Enter in a check box or an option, which some desktops would tick
+  kTabs,    // Alt with a physical number key selects a tab
+  kMenu,    // shortcuts of menu items that the status timer has not enabled yet
+  kField,   // keys of one control or dialog, for instance Enter in a field or arrows in a list
+  kWindow,  // windows that check each key first: calculator, converter, character table, on-screen keyboard, welcome
+  kDialog,  // Enter in a check box or an option button; some desktops would tick the box
 };
 
 // Returns true if the taker handles the key, so that nobody else gets the key.
@@ -32,7 +32,7 @@ class KeyRouter {
   // Adds a taker for key presses in `scope` and in the widgets inside `scope`, until `scope` is deleted.
   void Add(KeyTurn turn, QWidget& scope, KeyTaker taker);
 
-  // Call with each key event for a widget, in order. True if the widget must not get the event.
+  // Call with each key event before its widget gets the event. True if the widget must not get the event.
   bool Takes(QWidget& receiver, QKeyEvent& event);
 
   // The router keeps the state of the Insert key, since the system has none. Pressing Insert alone toggles the state.
@@ -48,7 +48,7 @@ class KeyRouter {
     KeyTaker takes;
   };
 
-  std::vector<Entry> entries_;  // by turn
+  std::vector<Entry> entries_;  // sorted by turn
   int released_key_ = 0;
   quint64 released_at_ = 0;             // ms, the time stamp of the event
   QPointer<const QWidget> pressed_in_;  // the widget of the last press of Enter or Delete that was not a repeat

@@ -24,7 +24,8 @@ void ShowMenu(QLineEdit& field, QPoint at) {
   QMenu* menu = field.createStandardContextMenu();
   menu->setAttribute(Qt::WA_DeleteOnClose);
   for (QAction* action : menu->actions()) {
-    if (!action->text().startsWith(QLineEdit::tr("&Paste"))) continue;  // the action has no name
+    // The action for pasting has no object name, so its text identifies the action.
+    if (!action->text().startsWith(QLineEdit::tr("&Paste"))) continue;
     action->disconnect(&field);
     QObject::connect(action, &QAction::triggered, &field, [&field] { Paste(field, QClipboard::Clipboard); });
   }

@@ -8,7 +8,7 @@
 namespace pelmar {
 namespace {
 
-// Turns the loader's error message, which is mostly English, into Czech. Names the library if one is missing.
+// The reason in Czech for an error message of the loader. Names the missing library, if there is one.
 QString Reason(const QString& path, const QString& words) {
   static const QRegularExpression missing(QStringLiteral(R"(\(([^/():\s]+\.so[.\d]*): )"));
   if (const auto match = missing.match(words); match.hasMatch())

@@ -114,7 +114,7 @@ void QtPlatform::ReportRefusedFolder() {
   if (!notice.empty()) Message(MessageType::kOkInfo, notice, "Pelmar VEX");
 }
 
-// Doesn't use Qt: for a missing folder Qt would return "", and files would be written to the root of the disk.
+// QDir::tempPath would return "" for a missing folder, and files would be written to the root of the disk.
 std::string QtPlatform::TempFolder() {
   const QString set = QFile::decodeName(qgetenv("TMPDIR"));
   const QString folder = set.isEmpty() ? QStringLiteral("/tmp") : QDir::cleanPath(QFileInfo(set).absoluteFilePath());

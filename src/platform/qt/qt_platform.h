@@ -1,4 +1,4 @@
-// The implementation of Platform with Qt. Most functions only call the files in this folder, in its subfolders and in
+// The implementation of Platform with Qt. Most functions only call a function of this folder, of a subfolder or of
 // platform/files. The object must be created after the application object and destroyed before the application object.
 #pragma once
 
@@ -60,7 +60,7 @@ class QtPlatform : public Platform {
   std::vector<std::size_t> SortedOrder(const std::vector<std::string_view>& texts) override;
   void SetBusyPointer(bool busy, BusyLook look) override;
 
-  // If another folder is used because the install folder couldn't be created, shows a message with both.
+  // If the usual install folder couldn't be created, shows a message with its path and the path of the folder in use.
   void ReportRefusedFolder();
 
   // Waits for background work. Call before an exit that skips destructors.

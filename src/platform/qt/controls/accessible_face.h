@@ -26,7 +26,7 @@ void SetAccessibleRole(QWidget& widget, QAccessible::Role role);
 // The dynamic property that names the value which a label shows. Screen readers say the name and then the value; an
 // accessible name would replace the value.
 inline constexpr char kValueName[] = "valueName";
-// Makes kValueName work, and presents a frame that is a label's buddy as a group with the label's text as its name.
+// Makes kValueName work. Also presents each plain frame that is the buddy of a label as a group, named by this label.
 // Call before the first such label is created.
 void InstallLabelFaces();
 
@@ -34,7 +34,8 @@ void InstallLabelFaces();
 void Announce(QWidget& window, const QString& text);
 
 // Gives each combo box without a label a hidden label with the box's accessible name, since Qt presents the current
-// item in place of this name. The field of an editable box gets the name too, or the text of its label.
+// item in place of this name. The field of an editable box gets this name too. If the box has no accessible
+// name, its field gets the text of the box's label.
 void LabelBoxes(QWidget& window);
 
 }  // namespace pelmar

@@ -1,4 +1,5 @@
-// A square grid of cells, painted by subclasses. Mouse and arrow keys mark a cell. Rows and columns count from 1.
+// A grid with as many rows as columns, 3 unless a subclass sets another number. The mouse and the arrow keys mark a
+// cell. Subclasses may paint something into the cells. Rows and columns count from 1.
 #pragma once
 
 #include <QWidget>

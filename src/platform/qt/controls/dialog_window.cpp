@@ -231,11 +231,11 @@ void DialogWindow::Prepare() {
     connect(option, &QRadioButton::toggled, this, gather);
     gather();
   }
-  // The notes window may stay on top. A dialog that gets the focus then stays on top too, until no such window is left.
+  // The notes window may stay on top. A dialog that gets the focus then stays on top too, while HasWindowOnTop is true.
   connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* now) {
     if (isVisible() && (now == windowHandle() || !HasWindowOnTop())) PutAboveAll(*this);
   });
-  // The default button is drawn as default only while no other button takes Enter.
+  // Repaints the default button: it is drawn as default only while no other button has the focus.
   connect(qApp, &QApplication::focusChanged, this, [this] {
     if (!isVisible()) return;  // the dialog is hidden or is being destroyed
     for (QPushButton* button : findChildren<QPushButton*>())

@@ -28,7 +28,7 @@ class DialogWindow : public QDialog {
   // Makes the window no larger than `room`, in logical pixels inside the frame. Call before the window is first shown.
   void FitInto(QSize room);
 
-  // Runs as a modal dialog of DialogParent and activates this parent again afterwards.
+  // Runs the dialog modally on the screen of DialogParent, and activates DialogParent again afterwards.
   int exec() override;
 
  protected:
@@ -41,7 +41,7 @@ class DialogWindow : public QDialog {
   bool eventFilter(QObject* watched, QEvent* event) override;
   // Enter presses the focused button. In a field Enter goes to the next field, so that no half-filled dialog writes
   // into the text. In the last field, outside fields and with `defaultFromFields` Enter presses the default button. On
-  // a tab page Enter goes from the last field to the first field.
+  // a tab page Enter goes from the last field to the first field, and from a scroll bar to the next control.
   void keyPressEvent(QKeyEvent* event) override;
   void showEvent(QShowEvent* event) override;
 

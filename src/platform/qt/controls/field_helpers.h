@@ -19,7 +19,7 @@ std::string FieldText(const QComboBox& field);
 std::string FieldText(const QLabel& field);
 void ShowFieldText(QLineEdit& field, const std::string& text);
 
-// The list already shows the first of the rows. Appends the others.
+// Appends to the list the rows that the list doesn't show yet. The list must show the beginning of `rows`.
 void ShowRows(QListWidget& list, const std::vector<std::string>& rows);
 
 // Shows the number without separators, or an empty text if there is no number.

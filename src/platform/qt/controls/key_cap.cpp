@@ -54,7 +54,8 @@ void KeyCap::paintEvent(QPaintEvent* /*event*/) {
   QStyleOptionButton option;
   initStyleOption(&option);
   PaintFrame(painter, option);
-  // The caption of a tall key is one word with blanks for several lines ("En te  r"). The blanks are not painted.
+  // The caption of a tall key is one word, written with blanks ("En te  r") so that the key may be narrow. The blanks
+  // are not painted.
   const QString caption = height() > width() ? Words(text()).join(QString()) : text();
   PaintCaption(painter, *this, caption, QPalette::ButtonText);
 }

@@ -42,7 +42,7 @@ class GradientBar : public QWidget {
   QColor bottom_ = Qt::black;
 };
 
-// A bar from the left, whose length is a value in twips.
+// A bar that begins at the left edge. Its length is a value in twips.
 class ValueBar : public QWidget {
   Q_OBJECT
 

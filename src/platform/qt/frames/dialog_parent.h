@@ -15,10 +15,12 @@ void ExpectActive(QWidget* window);
 
 // Whether the program shows a window that stays on top. Dialogs don't count, since PutAboveAll puts them on top.
 bool HasWindowOnTop();
-// Sets the dialog to stay on top if HasWindowOnTop, otherwise not. A window on top could cover the dialog.
+// If HasWindowOnTop is true, makes the dialog stay on top, so that no window can cover the dialog. Otherwise makes the
+// dialog a normal window.
 void PutAboveAll(QWidget& dialog);
 
-// Call for a window that was never shown: the window will appear on the screen of DialogParent.
+// Assigns a hidden window to the screen of DialogParent. A window that was shown before must be moved there too, for
+// instance by CentreOnScreen.
 void ShowOnParentsScreen(QWidget& window);
 
 }  // namespace pelmar

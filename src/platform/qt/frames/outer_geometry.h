@@ -1,5 +1,5 @@
 // Outer places and sizes of windows in twips, and the stacking order. An outer place includes the frame of the window
-// manager. Before a window is shown, its frame is unknown and counts as empty. A position is always that of the frame.
+// manager. Before a window is shown, its frame is unknown and counts as empty. A position is the upper left corner.
 #pragma once
 
 #include <QRect>
@@ -24,7 +24,8 @@ TwipsRect ScreenTwips(const QWidget& window);
 TwipsRect ScreenTwips(const TwipsRect& place);
 // The size of the screen without panels and without a usual frame, in logical pixels. For windows never shown before.
 QSize RoomOnScreen(const QWidget& window);
-// If the window covers `place` (in logical pixels on the desktop), moves the window beside `place` if there is room.
+// If the window overlaps `place` (in logical pixels on the desktop), moves the window below, above or beside `place`,
+// unless there is no room.
 void MoveAside(QWidget& window, const QRect& place);
 
 // The width of a window that shows its whole title and the buttons of the frame, in logical pixels.

@@ -1,6 +1,7 @@
 // Brings a window to an outer place. The frame is known only a moment after the window is shown, and the window manager
-// carries out requests with a delay. So Placement repeats its checks and requests until the window is in place.
-// Size and position are requested together, since separate requests would contain old values of each other.
+// carries out requests with a delay. So Placement repeats its checks and requests until the window is in place or a
+// time limit is over. Size and position are requested together: each request contains both, so separate requests would
+// bring back old values.
 #pragma once
 
 #include <QDeadlineTimer>
@@ -19,22 +20,22 @@ class Placement : public QObject {
   // Returns the wanted outer place. `now` is the current outer place.
   using Wish = std::function<TwipsRect(const TwipsRect& now)>;
 
-  // When the work for a new window ends. kFirst: after the first check that finds the window in place; then others may
-  // move the window. kLasting: after several such checks in a row; the wish must accept a window moved by others.
+  // When the checks of a new window end. kFirst: after the first check that finds the window in place. kLasting: after
+  // several such checks in a row. Meanwhile the person may move the window, and the wish must then return `now`.
   enum class Trust { kFirst, kLasting };
 
   // Does nothing before Begin.
   Placement(QWidget& window, Wish wish, Trust trust = Trust::kFirst);
 
-  // Starts when the window is shown and its frame differs from `old_frame`, the frame in its previous state. If
-  // `maximised`, keeps the window maximised instead of placing the window.
+  // Places the window once it is shown. Before that, waits up to the time limit for a frame other than `old_frame`, the
+  // frame before a change of state. If `maximised`, keeps the window maximised instead of placing the window.
   void Begin(const QMargins& old_frame = {}, bool maximised = false);
-  // Whether the first frame of the window is known, or the window manager gives no frame.
+  // Whether the first frame of the window is known. Also true if the window got no frame within the time limit.
   [[nodiscard]] bool FrameKnown() const { return frame_known_; }
 
-  // Called when the first frame is known and the place has been requested.
+  // Called when FrameKnown becomes true, after the place has been requested.
   std::function<void()> on_frame;
-  // Called when the window is in place, or when the time is up.
+  // Called when the window is in place, when the time limit is over, or when the window is hidden.
   std::function<void()> on_end;
 
  protected:

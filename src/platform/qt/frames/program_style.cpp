@@ -22,7 +22,7 @@ constexpr double kReadable = 4.5;
 constexpr double kVisible = 3.7;  // more than the usual 3 for borders, since their edges are blurred
 constexpr double kSeen = 3;       // disabled captions: visible, but paler than enabled ones
 constexpr double kLine = 2;
-constexpr double kMarked = 1.5;  // the background of a selected text
+constexpr double kMarked = 1.5;  // the background of a selected text in a disabled field
 constexpr int kSteps = 20;
 
 double Luminance(const QColor& color) {
@@ -58,8 +58,8 @@ bool TakesEnter(const QWidget* widget) {
   return qobject_cast<const QPushButton*>(widget) || qobject_cast<const QToolButton*>(widget);
 }
 
-// The height of a menu item. Reduces the usual height, at most to the height of the letters, so that the menu fits the
-// screen. Otherwise Qt would put the last items into a second column.
+// The height of a menu item. If necessary, reduces the usual height so that the menu fits the screen, but not below the
+// height of the letters. Otherwise Qt would put the last items into a second column.
 int HeightInMenu(const QMenu& menu, int usual) {
   constexpr int kSeparator = 8, kFrame = 8;
   int items = 0, around = kFrame;
@@ -93,7 +93,7 @@ int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QW
   // The buttons of message boxes have the look and the order of the program's own dialogs.
   if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
   if (hint == SH_DialogButtonLayout) return QDialogButtonBox::WinLayout;
-  // A wheel turn over the tabs is often an accident. The document would change and its undo history would be lost.
+  // A wheel turn over the tabs is often an accident. It would show another document and clear the undo history.
   if (hint == SH_TabBar_AllowWheelScrolling) return 0;
   return QProxyStyle::styleHint(hint, option, widget, answer);
 }
@@ -144,17 +144,18 @@ void ProgramStyle::polish(QPalette& palette) {
     if (Contrast(on, palette.color(QPalette::Disabled, role)) < wanted)
       palette.setColor(QPalette::Disabled, role, OfContrast(wanted, on, text(QPalette::WindowText)));
   };
-  // A search disables its fields while the person still has to read them.
+  // A running search disables fields of its dialog, but the person still has to read these fields.
   lift(QPalette::Text, QPalette::Base, kReadable);
   const QColor marked = OfContrast(kMarked, palette.color(QPalette::Disabled, QPalette::Base), text(QPalette::Text));
   palette.setColor(QPalette::Disabled, QPalette::Highlight, marked);
   palette.setColor(QPalette::Disabled, QPalette::HighlightedText, OfContrast(kReadable, marked, text(QPalette::Text)));
   lift(QPalette::WindowText, QPalette::Window, kSeen);
   lift(QPalette::ButtonText, QPalette::Button, kSeen);
-  // Some dark desktops leave placeholder texts black. Tabs show them on the colour of buttons, where contrast is lower.
+  // Some dark desktops leave placeholder texts black. The tabs of unnamed documents use this colour too, on the colour
+  // of buttons, where contrast is lower than in a field.
   const QColor hint = OfContrast(kReadable, text(QPalette::Button), text(QPalette::ButtonText));
   palette.setColor(QPalette::PlaceholderText, hint);
-  // The lines of the program's own controls.
+  // The colour of lines in the program's own controls.
   palette.setColor(QPalette::Mid, OfContrast(kLine, text(QPalette::Window), text(QPalette::WindowText)));
   // On some dark desktops tool tips stay light yellow.
   if (Luminance(text(QPalette::Window)) > Luminance(text(QPalette::WindowText))) return;
@@ -169,7 +170,7 @@ void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
     return DrawPushButton(*box, *painter, *widget);
   if ((element != PE_IndicatorCheckBox && element != PE_IndicatorRadioButton) || box == nullptr)
     return QProxyStyle::drawPrimitive(element, option, painter, widget);
-  // Qt's usual style darkens the background for the border, which is invisible on a dark background.
+  // Qt's usual style draws the border in a darker shade of the window's colour. On a dark window this is invisible.
   const int darkens = element == PE_IndicatorRadioButton ? 150 : 127;
   QStyleOptionButton rimmed(*box);
   const QColor rim = OfContrast(kVisible, box->palette.color(QPalette::Window),
