@@ -65,7 +65,6 @@ bool HasExtension(std::string_view path) {
 bool EndsInSeparator(std::string_view path) { return !path.empty() && IsSeparator(path.back()); }
 
 std::string PathToFileUrl(std::string_view path) {
-  // An absolute path begins with the third slash.
   std::string url = path.starts_with('/') ? "file://" : "file:///";
   url += path;
   std::replace(url.begin(), url.end(), '\\', '/');

@@ -1,5 +1,5 @@
-// Splits and joins paths, and converts them for files. A path is the bytes that the system gave. Both "\" and "/"
-// separate folders.
+// Splits and joins paths, and converts paths to file URLs and to Windows-1250. A path is the bytes that the system
+// gave. Both "\" and "/" separate folders.
 #pragma once
 
 #include <optional>
@@ -9,8 +9,8 @@
 namespace pelmar {
 
 // Part 1 is the folder with its separator, part 2 the name without extension, part 3 the extension. Other parts are "".
-// Throws RuntimeError (EINVAL) for an empty path, and for part 2 of a name without extension. required: part 3 of this
-// name is the whole name; a path without separator counts as a folder.
+// Throws RuntimeError (EINVAL) for an empty path, and for part 2 of a name without extension. required: part 3 of such
+// a name is the whole name; a path without separator counts as a folder.
 std::string FilePart(std::string_view path, int part);
 
 // Whether the name has an extension. False for a path without separator.
@@ -31,8 +31,9 @@ std::string_view NameOf(std::string_view path);
 // Joins folder and name with the separator that the folder uses. A separator at the end of the folder is not doubled.
 std::string JoinPath(std::string_view folder, std::string_view name);
 
-// Converts a path for a Windows-1250 file. A path that has no exact form in Windows-1250 becomes a "file://" URL, in
-// which "%" and bytes outside ASCII are percent-encoded. PathFromStored converts a stored path back.
+// Converts a path to bytes that a Windows-1250 file can store. A path that has no exact form in
+// Windows-1250 becomes a "file://" URL, in which "%" and bytes outside ASCII are percent-encoded. PathFromStored
+// converts a stored path back.
 std::string StoredPath(std::string_view path);
 std::string PathFromStored(std::string_view bytes);
 

@@ -1,7 +1,8 @@
 // Everything that the program asks of the system. platform/qt implements Platform with Qt, and the tests have a
 // scripted implementation. Messages and titles are UTF-8, documents and the clipboard are Windows-1250. A path is the
 // bytes that the system gave. No call throws. A call that reads or writes a file gives 0 or an errno.
-// Call these functions from the interface thread. Other threads may call only WritePrivateFile, at any time.
+// Call these functions from the interface thread, on which the windows run. Other threads may call only
+// WritePrivateFile, at any time.
 #pragma once
 
 #include <cstdint>
@@ -40,7 +41,8 @@ struct FileBytes {
 
 struct WriteOutcome {
   int error = 0;  // 0 or an errno
-  // The path of a copy of the old content, if a failed write damaged the file and it couldn't be restored. Else "".
+  // If a failed write damaged the file and the old content couldn't be restored: the path of a copy of the old content.
+  // Else "".
   std::string kept = {};
 };
 
@@ -101,7 +103,8 @@ class FileRewriter {
   virtual std::string_view Rewrite(std::string_view piece) = 0;
   // The bytes after the last piece.
   virtual std::string_view Finish() = 0;
-  // The length of the new content. The file is cut to this length. Call after Finish.
+  // How many of the returned bytes form the new content, counted from the first. The rest is cut off. Call after
+  // Finish.
   [[nodiscard]] virtual std::uint64_t Kept() const = 0;
 };
 
@@ -134,7 +137,8 @@ class Platform {
   virtual std::optional<std::string> OpenDialog(std::string_view filter, int filter_index) = 0;
   virtual std::optional<std::string> SaveDialog(std::string_view filter, int filter_index) = 0;
 
-  // The plain text of the clipboard, if there is any, with CR LF line breaks. Valid until the clipboard changes.
+  // The plain text of the clipboard, if there is any. Line breaks of other programs become CR LF. Valid until the
+  // clipboard changes.
   virtual const std::optional<std::string>& ClipboardContent() = 0;
   std::string ClipboardText() { return ClipboardContent().value_or(std::string()); }
   // A new number after each change of the clipboard.
@@ -142,8 +146,8 @@ class Platform {
   virtual void SetClipboardText(std::string_view text) = 0;
   virtual void ClearClipboard() = 0;
 
-  // Files. ReadFile reads at most `limit` bytes. A write replaces the old file by a new file that is complete. If a new
-  // file would lose a link or an attribute, the old content is copied and then overwritten.
+  // Files. ReadFile reads at most `limit` bytes. A write replaces the old file by a complete new file. If this is not
+  // possible, a write copies the old content to another file and then overwrites the old file (see disk_file.h).
   virtual bool CanRead(const std::string& path) = 0;  // false for a folder or a device
   virtual FileBytes ReadFile(const std::string& path, std::optional<std::uint64_t> limit) = 0;
   virtual WriteOutcome WriteDocument(const std::string& path, std::string_view bytes) = 0;
@@ -154,7 +158,7 @@ class Platform {
   virtual int WriteNewFile(const std::string& path, std::string_view bytes) = 0;  // 0 or an errno
   // Gives a file to `take` in pieces, until `take` returns false. Returns 0 or an errno.
   virtual int ReadByPieces(const std::string& path, const std::function<bool(std::string_view piece)>& take) = 0;
-  // Copies a file of any size through `rewriter`. The target keeps its old content until the new content is complete.
+  // Copies a file of any size through `rewriter`. The target is replaced or overwritten as in WriteDocument.
   virtual WriteOutcome RewriteFile(const std::string& source, const std::string& target, OldTail tail,
                                    FileRewriter& rewriter) = 0;
   // Nothing if there is no such file.

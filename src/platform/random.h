@@ -1,4 +1,4 @@
-// Numbers from the ordinary random source. The stream cipher uses another source, ReproducibleGenerator.
+// Random numbers from Platform::Random. Only the stream cipher uses another source, ReproducibleGenerator.
 #pragma once
 
 #include <cstddef>

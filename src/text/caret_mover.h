@@ -1,6 +1,6 @@
-// Moves the caret over the rows of a layout. Where a line wraps, one position belongs to two rows: CaretMover remembers
-// which of the two rows shows the caret. CaretMover also remembers the x that Up and Down aim at. Both
-// count only while the caret is where CaretMover has put it.
+// Moves the caret over the rows of a layout. The position at which a line wraps belongs to two rows: CaretMover
+// remembers which of the two rows shows the caret. CaretMover also remembers the x at which Up, Down, PageUp and
+// PageDown put the caret. This row and this x are used only while the caret is at the position that CaretMover set.
 #pragma once
 
 #include <cstddef>

@@ -1,6 +1,6 @@
 // Windows-1250, the code page of every document. The code page leaves five codes unassigned. They stand for the control
-// characters of the same number, so all 256 bytes survive the way to Unicode and back. A character outside the code
-// page becomes "?".
+// characters of the same number, so a conversion to Unicode and back changes no byte. A character outside the code page
+// becomes "?".
 #pragma once
 
 #include <algorithm>

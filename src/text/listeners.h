@@ -9,7 +9,7 @@
 
 namespace pelmar {
 
-// The end of the handle removes the listener.
+// The listener is removed when the last copy of this handle is destroyed.
 using Listening = std::shared_ptr<const void>;
 
 template <typename... Args>

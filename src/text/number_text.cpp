@@ -48,7 +48,8 @@ std::size_t NumberLength(std::string_view text, char mark) {
   return end;
 }
 
-// True if a number that no double can hold is too close to zero, false if too large. The decimal mark is the point.
+// For a number that no double can hold: true if the number is too close to zero, false if the number is too large. The
+// decimal mark is the point.
 bool IsTiny(std::string_view number) {
   const std::string_view mantissa = number.substr(0, number.find_first_of("eE"));
   std::string_view digits = number.substr(std::min(mantissa.size() + 1, number.size()));

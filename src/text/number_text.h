@@ -11,8 +11,8 @@
 
 namespace pelmar {
 
-// At most 15 significant digits (a float: 7), without grouping: "0", "-2,5". Numbers from 1E+15 on (a float: 1E+07) and
-// numbers below 0,0001 are written with an exponent: "1E+15", "1,5E-05". The number is finite.
+// At most 15 significant digits (a float: 7), without grouping: "0", "-2,5". An absolute value from 1E+15 on (a float:
+// 1E+07) or below 0,0001 is written with an exponent: "1E+15", "1,5E-05". The number must be finite.
 std::string NumberText(double number);
 std::string NumberText(float number);
 
@@ -20,7 +20,7 @@ std::string NumberText(float number);
 std::string ZeroPadded(std::int64_t number, std::size_t width);
 
 // Exactly `decimals` digits (1 or more) after the comma. Halves are rounded away from zero: FixedText(1.015625, 5) is
-// "1,01563". Only 15 significant digits count. The number is finite and below 1E+15.
+// "1,01563". Only the first 15 digits are used. The number must be finite and its absolute value below 1E+15.
 std::string FixedText(double number, int decimals);
 
 // The value of the longest finite number at the start of the text, after blanks. 0 if the text starts with no number.

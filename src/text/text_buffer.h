@@ -40,8 +40,8 @@ class TextBuffer {
   [[nodiscard]] const std::string& Text() const { return text_; }
   [[nodiscard]] std::size_t Size() const { return text_.size(); }
   [[nodiscard]] bool Empty() const { return text_.empty(); }
-  // The number of changes so far. If a listener changes the text, later listeners are notified of the second change
-  // first. They detect this by the revision.
+  // The number of changes so far. If a listener changes the text, the listeners after it are notified of this second
+  // change before the first change. They can detect the wrong order by the number.
   [[nodiscard]] std::uint64_t Revision() const { return revision_; }
 
   // Replaces the whole text and puts the caret at 0. required: clears undo.
@@ -67,8 +67,9 @@ class TextBuffer {
   // Replaces any part of the text in the same way.
   void Replace(std::size_t pos, std::size_t length, std::string_view text);
 
-  // Typing and deleting by hand. Letters typed one after the other are one step of undo, and so are deleted letters,
-  // until the caret moves or a line ends.
+  // Typing and deleting by hand. Letters typed one after the other are one step of undo, and so are letters deleted one
+  // after the other. A new step begins after a typed line break, and when the caret is moved without typing or
+  // deleting.
   void Type(std::string_view text);
   void EraseBefore(std::size_t count);  // erases only the selection if there is one
   void EraseAfter(std::size_t count);   // erases only the selection if there is one

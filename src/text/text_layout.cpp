@@ -87,8 +87,8 @@ RowsChange TextLayout::Update(const TextChange& change) {
     LayAll();
     return {0, old_count, rows_.size()};
   }
-  // The change may join or part a CR and a LF. A shorter word may fit into the row before. So the row before is
-  // computed again.
+  // If lines wrap, the row before the change is computed again too: a shorter word may fit into that row, and the
+  // change may join or part a CR and an LF at its end.
   const std::size_t touched = RowOf(rules_.wrap && change.pos > 0 ? change.pos - 1 : change.pos);
   const std::size_t first = rules_.wrap && touched > 0 ? touched - 1 : touched;
   const std::size_t old_end = change.pos + change.removed;
@@ -192,7 +192,7 @@ std::size_t TextLayout::StopAt(std::size_t row, std::int64_t x) const {
   return 2 * x < left + right ? at : at + 1;
 }
 
-// The width of a row, measured from the mark `from`. Appends new marks to `marks`.
+// The width of the whole row. Adds only the advances after the mark `from`. Appends new marks to `marks`.
 std::int64_t TextLayout::MeasureRow(std::size_t row, Mark from, std::vector<Mark>& marks) const {
   const std::size_t end = RowEnd(row);
   while (end - from.pos > kMarkDistance) {
@@ -214,8 +214,8 @@ void TextLayout::MeasureAll() {
   }
 }
 
-// Measures changed rows. Marks before the change stay. Marks from `same_from` on, a position in the old text, move with
-// the text.
+// Measures changed rows. Marks before the change stay. `same_from` is a position in the old text: the marks after
+// `same_from` move with the text.
 void TextLayout::Remeasure(const RowsChange& rows, const TextChange& change, std::size_t same_from) {
   const auto by_pos = [](const Mark& mark, std::size_t p) { return mark.pos <= p; };
   const auto kept_end = std::lower_bound(marks_.begin(), marks_.end(), change.pos, by_pos);

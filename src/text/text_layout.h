@@ -41,7 +41,7 @@ struct LayoutRules {
   TextAlign align = TextAlign::kLeft;
 };
 
-// Rows that a change of the text replaced.
+// A change of the rows: from the row `first` on, `inserted` rows replaced `removed` rows.
 struct RowsChange {
   std::size_t first = 0;
   std::size_t removed = 0;
@@ -54,7 +54,7 @@ class TextLayout {
   explicit TextLayout(const TextBuffer& buffer) : buffer_(&buffer) {}
 
   void Lay(const LayoutRules& rules);
-  // Changes the width of the window. Computes all rows again if lines wrap.
+  // Changes LayoutRules::width. Computes all rows again if lines wrap.
   void SetWidth(std::int64_t width);
   void SetAlign(TextAlign align) { rules_.align = align; }
   // Adapts the rows to a change of the text. Call after each change.
@@ -68,7 +68,7 @@ class TextLayout {
   // A position between two rows of one line belongs to the second row, with `at_row_end` to the first.
   [[nodiscard]] std::size_t RowOf(std::size_t pos, bool at_row_end = false) const;
 
-  // The width of the widest row or of the window, whichever is larger.
+  // LayoutRules::width or the width of the widest row, whichever is larger.
   [[nodiscard]] std::int64_t ContentWidth() const;
   [[nodiscard]] std::int64_t RowWidth(std::size_t row) const { return XOf(row, RowEnd(row)); }
   // The left edge of a row, which depends on the alignment.
@@ -76,12 +76,14 @@ class TextLayout {
 
   // The distance of a position from the start of the row. If lines wrap, a blank beyond `width` has no width.
   [[nodiscard]] std::int64_t XOf(std::size_t row, std::size_t pos) const;
-  // The position nearest to `x`, and the position of the character at `x`. After the last character: the row end.
+  // The position nearest to `x`, and the position of the character at `x`. After the last character: the row end. `x`
+  // counts from the start of the row.
   [[nodiscard]] std::size_t StopAt(std::size_t row, std::int64_t x) const;
   [[nodiscard]] std::size_t CharAt(std::size_t row, std::int64_t x) const;
 
  private:
-  // The x of a position in a long row. A sum begins at the last mark before its position, so that it stays short.
+  // The x of a position in a long row, stored at intervals. Computing the x of any position then begins at the nearest
+  // earlier mark, not at the start of the row.
   struct Mark {
     std::size_t pos = 0;
     std::int64_t x = 0;

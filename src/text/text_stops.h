@@ -1,5 +1,6 @@
-// The positions to which a step or a word moves the caret. Positions are byte offsets from 0. CR LF is one step. A word
-// is a run of letters, digits and "_", or a run of other signs. Blanks separate words.
+// The positions to which the caret moves by one step (a character or a CR LF) or by one word. Positions are byte
+// offsets from 0. A word is a run of letters, digits and "_", a run of other signs or a run of control characters.
+// Blanks separate words.
 #pragma once
 
 #include <cstddef>
@@ -11,9 +12,11 @@ namespace pelmar {
 std::size_t NextStop(std::string_view text, std::size_t pos);
 std::size_t PreviousStop(std::string_view text, std::size_t pos);
 
-// The next start of a word or end of a line; from the end of a line, the start of the next line.
+// The start of the next word, or the end of the line if no word follows. From the end of a line: the position after the
+// blanks at the start of the next line.
 std::size_t NextWord(std::string_view text, std::size_t pos);
-// The last start of a word or of the line before `pos`; from the start of a line, the end of the line before.
+// The start of the word that begins before `pos`, or the start of the line if no word begins there. From the start of a
+// line: the end of the previous line.
 std::size_t PreviousWord(std::string_view text, std::size_t pos);
 
 struct TextSpan {

@@ -1,5 +1,5 @@
-// Decodes UTF-8, from pieces of a file or from a whole string. Overlong forms, surrogates and values above U+10FFFF are
-// malformed. codepage.h turns the characters into Windows-1250.
+// Decodes UTF-8, in pieces or as a whole string, and encodes and checks UTF-8. Overlong forms, surrogates and values
+// above U+10FFFF are malformed. codepage.h turns the characters into Windows-1250.
 #pragma once
 
 #include <cstddef>
@@ -11,14 +11,15 @@ namespace pelmar {
 // Results that are not characters.
 inline constexpr char32_t kUnfinishedUtf8 = 0xFFFFFFFE;  // the character needs more bytes
 inline constexpr char32_t kMalformedUtf8 = 0xFFFFFFFF;
+// The mark that may stand at the start of a file.
 inline constexpr char32_t kByteOrderMark = 0xFEFF;
 inline constexpr std::string_view kByteOrderMarkBytes = "\xEF\xBB\xBF";
 
 // Decodes a stream in pieces. A piece may end within a character.
 class Utf8Decoder {
  public:
-  // The character that the byte completes, kUnfinishedUtf8 or kMalformedUtf8. After a malformed byte a new character
-  // begins.
+  // The character that the byte completes, kUnfinishedUtf8 or kMalformedUtf8. After kMalformedUtf8 the next byte begins
+  // a new character.
   constexpr char32_t Take(char ch) {
     const auto byte = static_cast<unsigned char>(ch);
     if (more_ == 0) return byte < 0x80 ? char32_t{byte} : Begin(byte);
@@ -71,7 +72,8 @@ void AppendUtf8(std::string& utf8, char32_t character);
 // Whether the bytes are well-formed UTF-8. ASCII is well-formed.
 bool IsUtf8(std::string_view bytes);
 
-// Whether the bytes are well-formed UTF-8 with a character beyond ASCII. Text in another encoding is hardly ever UTF-8.
+// Whether the bytes are well-formed UTF-8 with a character beyond ASCII. In another encoding a text
+// with such characters is hardly ever well-formed UTF-8.
 bool LooksLikeUtf8(std::string_view bytes);
 
 // True if the bytes hold both UTF-8 characters beyond ASCII and bytes that are malformed UTF-8.

@@ -9,7 +9,7 @@
 // 5. fsync of the folder brings the name to the disk. Now the save is complete.
 // If step 2 or 4 is not possible, the old file is overwritten in place: the folder may refuse a new file, an attribute
 // may be refused, or the old file may have several names. First kept_content copies the old content into "puvodni-*" of
-// the install folder. The copy is removed after the save.
+// the keep folder (for documents: the install folder). The copy is removed after the save.
 // A kill or a power cut leaves the old content or the new content in the file. Only a save in place can leave a mixture
 // of both; the old content is then complete in "puvodni-*", and the next start of the program reports this.
 #pragma once
@@ -47,7 +47,8 @@ WriteOutcome ReplaceFile(const std::string& path, std::string_view bytes, const 
 // leads nowhere. After a failed write the file is removed.
 int CreateFile(const std::string& path, std::string_view bytes);
 
-// See Platform::RewriteFile. The source must be a regular file. The target is written by the steps above.
+// See Platform::RewriteFile. The source must be a regular file. The target is saved by the steps above; a device or a
+// pipe as target gives EINVAL.
 WriteOutcome RewriteFileByPieces(const std::string& source, const std::string& target, OldTail tail,
                                  FileRewriter& rewriter, const std::string& keep_folder);
 

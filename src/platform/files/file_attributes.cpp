@@ -15,7 +15,7 @@ namespace {
 
 constexpr const char* kAccessList = "system.posix_acl_access";
 
-// Rights and signatures that belong to the old content. The kernel also removes them when a file is written.
+// Rights and signatures that belong to the old content, so they are not copied.
 constexpr std::string_view kOfTheContent[] = {"security.capability", "security.ima", "security.evm"};
 
 // Makes a call twice: for the size and for the bytes. Returns nothing on failure; errno has the reason.

@@ -9,8 +9,8 @@
 namespace pelmar {
 namespace {
 
-// The print server may refuse a job, and Qt doesn't report the refusal. The library of the server, loaded by Qt if
-// there is a server, remembers the answer to the last request of this thread.
+// The print server (CUPS) may refuse a job, and Qt doesn't report the refusal. The client library of the server
+// remembers the status of the last request of this thread.
 bool ServerHasRefused() {
   constexpr int kFirstFailure = 0x0100;  // the lowest error status of the Internet Printing Protocol
   const auto last_answer = reinterpret_cast<int (*)()>(QLibrary::resolve(QStringLiteral("cups"), 2, "cupsLastError"));

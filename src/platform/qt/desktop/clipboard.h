@@ -29,8 +29,8 @@ class Clipboard : public QObject {
   std::uint64_t fetched_ = 0;  // the revision of text_
 };
 
-// Wayland shows the clipboard only to the program with the keyboard focus. So under Wayland `act` is called when a
-// window gets the focus for the first time, unless `context` is deleted before. Elsewhere nothing happens.
+// Wayland shows the clipboard only to the program with the keyboard focus. So under Wayland `act` is called once, at
+// the next change of the focused window, unless `context` is deleted before. On other platforms `act` is never called.
 void WhenClipboardComes(QObject& context, std::function<void()> act);
 
 }  // namespace pelmar

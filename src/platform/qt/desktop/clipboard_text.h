@@ -23,7 +23,7 @@ std::optional<std::string> TextFromMime(const QMimeData* mime);
 // The text for a single-line field, in Unicode. Removes line breaks, or converts them to CR LF if `holds_lines`.
 QString LineFromMime(const QMimeData& mime, bool holds_lines);
 
-// Converts a text to Windows-1250. First joins letters with separate accents. A lone LF becomes CR LF.
+// Converts a text to Windows-1250. First composes letters and their combining accents (NFC). A lone LF becomes CR LF.
 std::string PageText(const QString& foreign);
 
 }  // namespace pelmar

@@ -26,8 +26,8 @@ class RecentDocuments {
   QThreadPool pool_;
 };
 
-// Returns the content of the list, `xbel`, with an entry for the file `path` (absolute), which this program has opened
-// now. An existing entry is updated. An empty `xbel` gives a new list. The result is empty if `xbel` is damaged.
+// Adds the file `path` (absolute) to a list, or updates its entry: this program has opened the file now. `xbel` is the
+// content of the list, and the result is the new content. An empty `xbel` gives a new list, a damaged `xbel` gives "".
 std::string AddBookmark(const std::string& xbel, const std::string& path, const std::string& mime);
 
 }  // namespace pelmar

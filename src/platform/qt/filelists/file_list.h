@@ -40,7 +40,8 @@ class FileList : public QListView {
   void PatternChanged(const QString& pattern);
   // A file was clicked, perhaps the same file again, or selected with the keyboard.
   void FileClicked();
-  // Double click or Enter. If the signal isn't connected, Enter presses the default button of the dialog.
+  // Double click or Enter. If no file is selected or the signal isn't connected, Enter presses the default button of
+  // the dialog.
   void FileActivated();
 
  protected:

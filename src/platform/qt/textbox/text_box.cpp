@@ -300,7 +300,8 @@ void TextBox::RevealRect(QRect rect) {
   };
   reveal(verticalScrollBar(), rect.top() - TextView::kMargin, rect.bottom() + 1 + TextView::kMargin,
          viewport()->height());
-  // If the rectangle is outside, scrolls a little further, so that the text around it is visible too.
+  // If the rectangle is outside the viewport, scrolls a little further sideways, to show some text around the
+  // rectangle.
   const bool outside = rect.left() < 0 || rect.right() >= viewport()->width();
   const int ahead = outside ? std::min(viewport()->width() / 8, 60) : 0;
   reveal(horizontalScrollBar(), rect.left() - std::max(TextView::kMargin, ahead),

@@ -80,12 +80,13 @@ class TextBox : public QAbstractScrollArea {
   [[nodiscard]] bool TabSelectsAll() const { return tab_selects_all_; }
   void setTabSelectsAll(bool selects) { tab_selects_all_ = selects; }
 
-  // If true, a pale caret is shown while another window has the focus, since tools in other windows insert text here.
+  // If true, a pale caret is shown while the text box lacks the focus, since tools in other windows insert text here.
   void SetCaretStays(bool stays) { caret_stays_ = stays; }
 
-  // Does what the key does, for use by menus. A read-only text is not changed.
+  // Does what the key does. Menus call this function too. A read-only text is not changed.
   void Do(const TextKey& key);
-  // Inserts the text of the clipboard or of a drop, converted by TextFromMime. Does nothing if there is no text.
+  // Replaces the selection by the text of the clipboard or of a drop, converted by TextFromMime. Does nothing if there
+  // is no text or if this control is read-only.
   void Insert(const QMimeData* mime);
 
   // Geometry for the helper classes, in pixels of the viewport.
@@ -97,7 +98,7 @@ class TextBox : public QAbstractScrollArea {
   void PutCaret(TextPlace place) { MoveCaret(place, false); }
   void SelectTo(TextPlace place) { MoveCaret(place, true); }
   void Select(TextSpan span, bool caret_first = false);
-  // Scroll as little as necessary to show a position or the caret.
+  // Scroll until a position or the caret is visible.
   void Reveal(std::size_t pos);
   void RevealCaret();
   // The span of the row that contains a position, including a line break at its end.

@@ -7,7 +7,8 @@ namespace pelmar {
 
 class TextBox;
 
-// The caller owns the menu. Each action does what the key in its caption does.
+// The menu is a child of the text box; the caller deletes the menu after use. Each action does what the key in its
+// caption does.
 QMenu* BuildTextMenu(TextBox& box);
 
 }  // namespace pelmar

@@ -1,5 +1,5 @@
-// The mouse in a text box: sets the caret, selects characters, words and lines, scrolls while pressed outside the box,
-// starts drags and pastes with the middle button.
+// The mouse in a text box: sets the caret, selects characters, words and lines, scrolls while the pointer is dragged
+// outside the box, starts drags and pastes with the middle button.
 #pragma once
 
 #include <QBasicTimer>

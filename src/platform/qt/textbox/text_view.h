@@ -50,7 +50,7 @@ class TextView {
   TextPlace PlaceAt(QPoint point);
   // The left edge of a caret position.
   int StopX(std::size_t row, std::size_t pos);
-  // The cell of the character at `pos`. At the end of a row, a rectangle of one pixel.
+  // The cell of the character at `pos`. At the end of a row, a cell that is one pixel wide.
   QRect CharRect(std::size_t pos);
 
  private:
