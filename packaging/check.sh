@@ -1,7 +1,8 @@
 #!/bin/sh
 # ./test --all runs this script after the tests. It runs clang-format over all sources, the core and window tests under
-# the sanitizers for addresses and undefined behaviour, each fuzzer for a while, the compiler over each changed test,
-# clang-tidy over the changed sources, and each benchmark once, to check that it still works.
+# the sanitizers for addresses and undefined behaviour, the core tests under the one for threads, each fuzzer for a
+# while, the compiler over each changed test, clang-tidy over the changed sources, and each benchmark once, to check that
+# it still works.
 root=$(dirname "$(dirname "$(readlink -f "$0")")")
 step=check
 . "$root/packaging/setup.sh"
@@ -18,6 +19,13 @@ tell "running the core and window tests under the sanitizers"
 # No check for leaks, because Qt and its plug-ins keep some memory until the process ends.
 ASAN_OPTIONS=detect_leaks=0 ctest --test-dir build/asan -R '^(core|windows)$' --output-on-failure --no-tests=error \
   --timeout 900 || exit 1
+
+configure_and_build tsan core_tests || exit 1
+tell "running the core tests under the sanitizer for threads"
+# The sanitizer of GCC 12 can't start where the kernel spreads addresses widely.
+fixed_addresses=
+setarch -R true 2>/dev/null && fixed_addresses='setarch -R'
+$fixed_addresses ctest --test-dir build/tsan -R '^core$' --output-on-failure --no-tests=error --timeout 900 || exit 1
 
 configure_and_build fuzz fuzzers || exit 1
 for fuzzer in build/fuzz/fuzz/*_fuzzer; do

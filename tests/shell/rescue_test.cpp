@@ -7,6 +7,7 @@
 #include "platform/files/lock_file.h"
 #include "shell/rescue_file.h"
 #include "shell/rescue_store.h"
+#include "shell/rescue_writer.h"
 #include "support/temp_folder.h"
 
 namespace pelmar {
@@ -58,6 +59,28 @@ TEST_F(RescueStoreTest, TheFileOfACrashedCopyIsFoundByOneCopyAtATime) {
   std::filesystem::remove(found[0]);
   offer.Release();
   EXPECT_TRUE(Found().empty());
+  EXPECT_TRUE(std::filesystem::is_empty(folder));
+}
+
+TEST_F(RescueStoreTest, TheLastRecordWinsWhetherTheThreadOrTheCallerWritesIt) {
+  int writes = 0;
+  RescueWriter writer(kDocumentsRescue, folder, [&writes](const std::string& path, std::string_view bytes) {
+    ++writes;
+    std::ofstream(path, std::ios::binary) << bytes;
+    return 0;
+  });
+  const auto record = [](int number) { return RescueRecord{1, {{1, "", std::to_string(number)}}}; };
+  int calls = 0;
+  const auto done = [&calls](int error) { calls += error == 0 ? 1 : 100; };
+  for (int number = 1; number < 100; number += 2) {
+    writer.Start(record(number), done);
+    ASSERT_EQ(writer.WriteNow(record(number + 1)), 0);
+    ASSERT_EQ(Content(writer.Store().Path()), RescueBytes(kDocumentsRescue, record(number + 1)));
+  }
+  writer.Start(record(100), done);  // not written again, because the file holds this record already
+  writer.Remove();
+  EXPECT_EQ(calls, 51);
+  EXPECT_EQ(writes, 100);
   EXPECT_TRUE(std::filesystem::is_empty(folder));
 }
 

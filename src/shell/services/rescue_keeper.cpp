@@ -22,15 +22,12 @@ constexpr int kLongestPause = 60'000;
 RescueKeeper::RescueKeeper(RescueContent& content, Platform& platform)
     : content_(content),
       platform_(platform),
-      store_(platform.InstallFolder(), content_.kind.prefix,
-             [&platform](const auto& path, std::string_view bytes) { return platform.WritePrivateFile(path, bytes); }),
+      writer_(content_.kind, platform.InstallFolder(),
+              [&platform](const auto& path, std::string_view bytes) { return platform.WritePrivateFile(path, bytes); }),
       pause_(kDelay) {
-  writer_.setMaxThreadCount(1);
   timer_.setSingleShot(true);
   connect(&timer_, &QTimer::timeout, this, &RescueKeeper::WriteInThread);
 }
-
-RescueKeeper::~RescueKeeper() { writer_.waitForDone(); }
 
 void RescueKeeper::KeepSoon() {
   pause_ = kDelay;
@@ -48,12 +45,11 @@ std::optional<RescueRecord> RescueKeeper::CopyUnsaved() const {
 
 void RescueKeeper::WriteInThread() {
   // Waits for the running write on a slow disk. The next write takes the latest text.
-  if (writer_.activeThreadCount() > 0) return timer_.start(kDelay);
+  if (writer_.IsRunning()) return timer_.start(kDelay);
   // The interface thread only copies the texts; the rest is done in the other thread.
   auto now = CopyUnsaved();
   if (!now) return AfterWrite(ENOMEM);
-  writer_.start([this, write = ++writes_, record = std::move(*now)]() mutable {
-    const int error = WriteIfChanged(std::move(record));
+  writer_.Start(std::move(*now), [this, write = ++writes_](int error) {
     // A newer write makes this result obsolete.
     const auto after = [this, write, error] {
       if (write != writes_) return;
@@ -64,28 +60,11 @@ void RescueKeeper::WriteInThread() {
   });
 }
 
-int RescueKeeper::WriteIfChanged(RescueRecord record) {
-  if (written_ == record) return 0;
-  int error = ENOMEM;
-  try {
-    error = store_.Keep(RescueBytes(content_.kind, record));
-  } catch (const std::bad_alloc&) {
-    // The file of the previous write stays.
-  }
-  if (error == 0)
-    written_ = std::move(record);
-  else
-    written_.reset();
-  return error;
-}
-
 int RescueKeeper::WriteAndWait() {
-  writer_.waitForDone();
   timer_.stop();
   ++writes_;
-  written_.reset();
   auto now = CopyUnsaved();
-  const int error = now ? WriteIfChanged(std::move(*now)) : ENOMEM;
+  const int error = now ? writer_.WriteNow(std::move(*now)) : ENOMEM;
   AfterWrite(error);
   return error;
 }
@@ -120,10 +99,10 @@ void RescueKeeper::RemoveOldFiles() {
 
 Kept RescueKeeper::KeepNow() {
   if (WriteAndWait() == 0)
-    return written_->texts.empty() ? Kept{} : Kept{.place = Kept::kRescueFile, .path = store_.Path()};
+    return writer_.HasWritten() ? Kept{.place = Kept::kRescueFile, .path = writer_.Store().Path()} : Kept{};
   if (WriteReadable()) return {.place = Kept::kReadableFile, .path = last_resort_.path};
   // The file of an earlier write may still exist.
-  if (store_.HasFile()) return {.place = Kept::kRescueFile, .path = store_.Path()};
+  if (writer_.Store().HasFile()) return {.place = Kept::kRescueFile, .path = writer_.Store().Path()};
   return {.place = Kept::kNowhere};
 }
 
@@ -156,11 +135,9 @@ std::string RescueKeeper::NoticeOf(const Kept& kept) const {
 }
 
 void RescueKeeper::End() {
-  writer_.waitForDone();
   timer_.stop();
   ++writes_;
-  written_.reset();
-  store_.Keep({});
+  writer_.Remove();
   RemoveOldFiles();
   ReportFailure(0);
 }

@@ -4,7 +4,6 @@
 #pragma once
 
 #include <QObject>
-#include <QThreadPool>
 #include <QTimer>
 #include <functional>
 #include <optional>
@@ -13,7 +12,7 @@
 
 #include "platform/platform.h"
 #include "shell/rescue_content.h"
-#include "shell/rescue_store.h"
+#include "shell/rescue_writer.h"
 
 namespace pelmar {
 
@@ -28,7 +27,6 @@ class RescueKeeper : public QObject {
 
  public:
   RescueKeeper(RescueContent& content, Platform& platform);
-  ~RescueKeeper() override;
 
   // Call after a change. The rescue file is written within two seconds.
   void KeepSoon();
@@ -56,7 +54,6 @@ class RescueKeeper : public QObject {
   [[nodiscard]] std::optional<RescueRecord> CopyUnsaved() const;
   void WriteInThread();
   int WriteAndWait();
-  int WriteIfChanged(RescueRecord record);
   void AfterWrite(int error);
   void RemoveOldFiles();
   void ReportFailure(int error);
@@ -66,10 +63,8 @@ class RescueKeeper : public QObject {
 
   RescueContent& content_;
   Platform& platform_;
-  RescueStore store_;
   QTimer timer_;
-  QThreadPool writer_;
-  std::optional<RescueRecord> written_;  // for the writing thread: the content on disk, nothing after a failure
+  RescueWriter writer_;
   int writes_ = 0;
   int pause_;
   int failure_ = 0;
