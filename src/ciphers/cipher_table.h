@@ -38,7 +38,8 @@ std::vector<std::string> LetterRows(const CipherTable& table);
 
 enum class CountedDigits { kAll, kFirstEight };
 // The line with the two coefficients and their product; 1 means perfect balance. Nothing if a coefficient would divide
-// by zero. required: all digits count only if the codes and the letters were both just generated.
+// by zero. required: the window counts all digits only after it has generated codes and letters in one step, otherwise
+// the first eight.
 std::optional<std::string> CoefficientsText(const CipherTable& table, CountedDigits counted);
 
 }  // namespace pelmar
