@@ -1,6 +1,6 @@
 // The key of the RND cipher: a code of binary digits for each of 29 symbols, and the letters that stand for the digits.
-// A table from a file may have codes of any length and characters, no letters, and any depth from 0 to 255. All
-// functions accept such a table.
+// In a table from a file the codes may have any length and any characters, the sets of letters may be empty, and the
+// depth is 0 to 255. All functions accept such a table.
 #pragma once
 
 #include <array>
