@@ -7,7 +7,7 @@ root=$(dirname "$(dirname "$(readlink -f "$0")")")
 step=check
 . "$root/packaging/setup.sh"
 fuzz_seconds=20
-most_tidied=40    # files, which takes some minutes
+most_tidied=40    # files; they take some minutes
 most_compiled=20
 cd "$root" || exit 1
 

@@ -1,10 +1,10 @@
-// Compares each form with the output of the form editor's own library, so that a form saved by the editor differs only
-// by the intended change.
+// Checks that each form is what Qt Designer's own library would save. A change made in Qt Designer then changes no
+// other lines of the form.
 //
 //   designed_forms [--rewrite] FOLDER-OR-FORM...
 //
-// With --rewrite, differing forms are replaced by that output. Enumerators are written in the format of Qt 6.4, which
-// later editors can read.
+// With --rewrite, a form that differs is saved as the library would save it. Enumerators are written in the format of
+// Qt 6.4, which later versions can read.
 #include <QApplication>
 #include <QDesignerComponents>
 #include <QDesignerFormEditorInterface>
@@ -21,14 +21,14 @@
 
 namespace {
 
-// Since 6.8 the editor also writes the enumeration: Qt::Orientation::Horizontal for Qt::Horizontal.
+// Since 6.8 Qt Designer also writes the enumeration: Qt::Orientation::Horizontal for Qt::Horizontal.
 QString WithShortEnumerators(QString form) {
   static const QRegularExpression scoped(QStringLiteral("\\b(Q\\w+)::\\w+::(?=\\w)"));
   return form.replace(scoped, QStringLiteral("\\1::"));
 }
 
-// The form as saved by the editor; empty if the editor can't read it. Each form needs a new editor, because an editor
-// also lists the classes of earlier forms.
+// The form as Qt Designer saves it; empty if Qt Designer can't read it. Each form needs a new editor object, because
+// such an object also lists the classes of earlier forms.
 QByteArray AsSaved(const QString& path, const QByteArray& form) {
   const std::unique_ptr<QDesignerFormEditorInterface> editor(QDesignerComponents::createFormEditor(nullptr));
   new QDesignerIntegration(editor.get(), editor.get());
@@ -53,13 +53,13 @@ QStringList Forms(const QStringList& places) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  // Platform, style and font are the same on every machine, since the editor saves sizes that depend on them.
+  // Platform, style and font are the same on every machine, since Qt Designer saves sizes that depend on them.
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QHashSeed::setDeterministicGlobalSeed();  // button groups are saved in the order of a hash table
   QApplication::setStyle(QStringLiteral("fusion"));
   QApplication application(argc, argv);
   QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
-  QCoreApplication::setLibraryPaths({});  // without the editor's plug-ins, which load a web engine
+  QCoreApplication::setLibraryPaths({});  // without Qt Designer's plug-ins, which load a web engine
   QLoggingCategory::setFilterRules(QStringLiteral("qt.core.qobject.connect=false"));  // no property editor exists here
 
   QStringList places = QCoreApplication::arguments().mid(1);

@@ -10,7 +10,7 @@ import tempfile
 from pathlib import Path
 
 SIZE = (1280, 1024)
-# Variables that would lead a program to another screen or change its look.
+# Variables that would connect a program to the person's session, or change its look or language.
 OUTSIDE = ("WAYLAND_DISPLAY", "XAUTHORITY", "SESSION_MANAGER", "DBUS_SESSION_BUS_ADDRESS", "QT_QPA_PLATFORM",
            "QT_STYLE_OVERRIDE", "QT_SCALE_FACTOR", "LC_ALL", "LANGUAGE")
 
@@ -51,7 +51,7 @@ class Screen:
         screen = "%dx%dx24" % SIZE
         number = self.serve("Xvfb", "-displayfd", "1", "-screen", "0", screen, "-nolisten", "tcp", "-noreset")
         self.env["DISPLAY"] = ":" + number
-        # The first key of an X server makes openbox grab its shortcuts anew. One pressed meanwhile would be lost.
+        # The first key of an X server makes openbox grab its shortcuts anew. A shortcut pressed meanwhile is lost.
         subprocess.run(["xdotool", "key", "shift"], env=self.env, check=True)
         self.serve("openbox", "--startup", "echo running")
 

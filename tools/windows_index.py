@@ -17,9 +17,9 @@ FILES = re.compile(r"`src/([\w/]+)\.\{([\w,]+)\}`")
 
 
 def windows_of_forms():
-    """For each form that is a window, by its path below src/: its class, object name and title.
+    """Maps the path of each form that is a window, below src/, to its class, object name and title.
 
-    A name with accents is set in the constructor."""
+    The constructor sets an object name with accents, because Qt Designer can't store it."""
     found = {}
     for form in sorted((ROOT / "src").rglob("*.ui")):
         widget = xml.etree.ElementTree.parse(form).getroot().find("widget")
@@ -38,7 +38,7 @@ def plain(caption):
 
 
 def paths_of_commands():
-    """For each menu item the captions that lead to it, for each toolbar key its tip."""
+    """Maps each menu item to the captions that lead to it, and each toolbar button to its tip."""
     table = (ROOT / "src/shell/menu_table.cpp").read_text()
     paths, above = {}, []
     for level, name, caption in re.findall(r'\{(\d), "(\w+)", "((?:[^"\\]|\\.)*)"', table):
@@ -50,7 +50,7 @@ def paths_of_commands():
 
 
 def registered_commands():
-    """For each window class, in lower case, the commands that parts.Add and parts.ShowBy name."""
+    """Maps each window class, in lower case, to the commands given to parts.Add and parts.ShowBy."""
     found = {}
     for source in (ROOT / "src").rglob("*_windows.cpp"):
         for window, names in re.findall(r"parts\.(?:Add|ShowBy)<(\w+)>\(\{([^}]*)\}", source.read_text()):
@@ -59,7 +59,7 @@ def registered_commands():
 
 
 def menu_first(command):
-    """The order of commands in a cell: menu items, then toolbar keys."""
+    """The sort key of the commands in a cell: menu items, then toolbar buttons."""
     return not command.lower().startswith("mnu"), command.lower()
 
 

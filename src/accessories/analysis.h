@@ -36,14 +36,14 @@ std::vector<Bar> GraphBars(const Analysis& analysis, bool wide, bool ignore_blan
 constexpr int BarStep(bool wide) { return wide ? 2 : 4; }
 constexpr int BarWidth(bool wide) { return wide ? 1 : 3; }
 
-// The code at `x` of the scale. Negative, which is no code, left of the graph.
+// The code at `x` of the scale, a negative number left of the graph.
 int CodeAt(double x, bool wide);
 // For example "Poloha: 65 Znak: "A"".
 std::string PointedText(int code);
 
 // The 255 rows of the list, the most frequent code first. Empty for an empty text.
 std::vector<std::string> AnalysisRows(const Analysis& analysis);
-// The character that a row of AnalysisRows shows. 0 for a text of less than two characters.
+// The character that a row of AnalysisRows shows. 0 for a row of less than two characters.
 char CharOfRow(std::string_view row);
 
 }  // namespace pelmar

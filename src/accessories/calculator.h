@@ -20,7 +20,7 @@ class Calculator {
 
   // Which keys are enabled.
   [[nodiscard]] bool OperatorsOn() const { return operation.empty(); }  // + - * / and log
-  // required: x^y stays enabled while "/" or "L" is pending; pressing x^y drops the pending operation's operand
+  // required: x^y stays enabled while "/" or "L" is pending; x^y then replaces the pending operation and its operand
   [[nodiscard]] bool PowerOn() const { return operation.empty() || operation == "/" || operation == "L"; }
   [[nodiscard]] bool EqualsOn() const { return !operation.empty(); }
 

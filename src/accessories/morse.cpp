@@ -21,12 +21,12 @@ constexpr std::string_view kSlash = "-..-./";
 constexpr std::string_view Letter(char letter) { return kLetters[letter - 'A']; }
 constexpr std::string_view Digit(char digit) { return kDigits[digit - '0']; }
 
-// The sign of a character of the prepared text, empty if there is no sign.
+// The sign of a character, empty if there is no sign. Letters are capitals without diacritics.
 std::string_view SignOf(char ch) {
   if (ch >= 'A' && ch <= 'Z') return Letter(ch);
   if (ch >= '0' && ch <= '9') return Digit(ch);
   switch (ch) {
-    case ' ':  // required: a blank becomes a slash first, and the slash becomes its sign
+    case ' ':  // required: a blank has the sign of the slash
     case '/':
       return kSlash;
     case '.':  // required: not a Morse sign

@@ -1,7 +1,7 @@
 // Computes the place of the notes window at each tick of its timer. The window snaps to the edges of the screen if it
-// is undocked or the main window is minimised. A docked window lies right of the main window, or at the right edge of
-// the screen over a maximised main window, or, without the editor, in the lower right corner of the screen. Places are
-// outer frames in twips.
+// is undocked or the main window is minimised. A docked window lies to the right of the main window; over a maximised
+// main window it lies at the right edge of the screen. If the notes are the whole program, the docked window lies in
+// the lower right corner of the screen. Places are outer frames in twips.
 #pragma once
 
 #include <optional>

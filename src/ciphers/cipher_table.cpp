@@ -8,7 +8,7 @@
 namespace pelmar {
 namespace {
 
-// The integer part of the sum of two draws.
+// The digit 1 (true) or 0: the integer part of the sum of two draws.
 bool DrawDigit(const Draw& draw) {
   const double first = draw();
   return first + draw() >= 1;

@@ -1,6 +1,6 @@
 // The key of the RND cipher: a code of binary digits for each of 29 symbols, and the letters that stand for the digits.
-// A table from a file may have codes of any length and characters, no letters, and any depth from 0 to 255. All
-// functions accept such a table.
+// In a table from a file the codes may have any length and any characters, the sets of letters may be empty, and the
+// depth is 0 to 255. All functions accept such a table.
 #pragma once
 
 #include <array>
@@ -38,7 +38,8 @@ std::vector<std::string> LetterRows(const CipherTable& table);
 
 enum class CountedDigits { kAll, kFirstEight };
 // The line with the two coefficients and their product; 1 means perfect balance. Nothing if a coefficient would divide
-// by zero. required: all digits count only if the codes and the letters were both just generated.
+// by zero. required: the window counts all digits only after it has generated codes and letters in one step, otherwise
+// the first eight.
 std::optional<std::string> CoefficientsText(const CipherTable& table, CountedDigits counted);
 
 }  // namespace pelmar

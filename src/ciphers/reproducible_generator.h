@@ -20,7 +20,7 @@ class ReproducibleGenerator {
     state_ = (state_ & 0xFF) | folded << 8;
   }
 
-  // 0 <= r < 1. Call Reseed before the first draw.
+  // The next draw r, 0 <= r < 1. Call Reseed before the first draw.
   float Draw() { return static_cast<float>(Step()) / static_cast<float>(kModulus); }
 
   // A number from 1 to `range`: the integer part of r * range + 1, where r is the next draw. `range` is at most 256.

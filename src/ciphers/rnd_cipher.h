@@ -22,9 +22,9 @@ std::string PrepareText(std::string_view text);
 // required: a character that is no symbol gets the code of the last symbol before it, or a code of ones at the start.
 std::string RndEncipher(std::string_view text, const CipherTable& table, const Draw& draw, const Progress& progress);
 
-// Reads a character from each `depth` letters. A letter outside the set of zeros is a 1. required: the last symbol
-// whose code contains the digits counts; unknown digits repeat the previous character; too few digits at the end match
-// any part of a code.
+// Reads a character from each `depth` letters. A letter outside the set of zeros is a 1. required: the character is the
+// last symbol whose code contains the digits, so too few digits at the end match any part of a code; if no code
+// contains the digits, the previous character is repeated.
 std::string RndDecipher(std::string_view text, const CipherTable& table, const Progress& progress);
 
 }  // namespace pelmar

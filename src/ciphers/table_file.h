@@ -30,8 +30,8 @@ class TableFiles {
   // empty. Throws RuntimeError and keeps the table if the file can't be read or created, or if there is no last file.
   void Load(CipherTable& table);
 
-  // Overwrites the start of a file; the rest of a longer file stays. Asks first if the file exists. required: errors
-  // are not reported.
+  // Overwrites the start of a file; the rest of a longer file stays. Asks first if the file exists. If the person
+  // cancels the file dialog, Save goes on with the last file. required: errors are not reported.
   void Save(const CipherTable& table);
 
  private:

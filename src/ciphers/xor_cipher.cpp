@@ -16,7 +16,8 @@ bool EndsBroken(Platform& platform) {
   return platform.Confirmed("Ukončit proces? (doporučuji ne)", "Kódování");
 }
 
-// Characters between two calls of on_progress: enough to make the calls cheap, few enough to keep the windows alive.
+// The number of characters between two calls of on_progress. A larger step saves time; a smaller step keeps the windows
+// more responsive.
 std::size_t StepSize(std::size_t length) {
   constexpr std::size_t kSteps = 64;
   constexpr std::size_t kSmallest = 4096;

@@ -16,7 +16,7 @@ inline constexpr std::string_view kSansSerif = "MS Sans Serif";
 inline constexpr std::string_view kCourier = "Courier New";
 inline constexpr std::string_view kTerminal = "Terminal";
 
-// The text of each preview.
+// The sample text in the previews of the dialogs Visual and Vytvoř.
 inline constexpr std::string_view kPreviewText =
     "aábcčdďeéěfghchiíjklmnoóprřsštťuúůvwxyýzž\r\nAÁBCČDĎEÉĚFGHCHIÍJKLMNOÓPQRŘSŠTŤUÚVWXYÝZŽ\r\n"_w;
 
@@ -26,13 +26,14 @@ void AddAppearanceCommands(Editor& editor, MainView& view);
 // Sets the normal window state, a fixed size, and light grey text in Courier on black.
 void ApplyDosLook(MainView& view);
 
-// Sets the look and the check marks of bold and italic. An empty font name keeps the font.
+// Sets the look of the text, and the check marks of the menu items for bold and italic. An empty font name keeps the
+// font.
 void ApplyLook(MainView& view, const EditorLook& look);
 
 // White minus the colour.
 Color InvertedColor(Color color);
 
-// The size field after a typed text: its new text, and the size of the preview in points.
+// What the size field shows after a typed text, and the size of the preview in points.
 struct SizeField {
   std::string text;
   int size = 1;

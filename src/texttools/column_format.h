@@ -10,14 +10,16 @@ namespace pelmar {
 
 using Rows = std::vector<std::string>;
 
-// The lines of the selection without their line ends, and the length of the shortest row when the dialog opens.
+// The lines of the selection without their line ends. `shortest` is the number that the dialog first shows as the
+// length of the shortest row.
 struct SelectedRows {
   Rows rows;
   std::size_t shortest = 0;
 };
 
 // required: if the selection ends in a line with text and CR LF, an extra row repeats this line without its first
-// character and with the CR LF. A last line of one character without a line end gets no row.
+// character and with the CR LF; `shortest` counts this row instead of the line. A last line of one character without a
+// line end gets no row.
 SelectedRows RowsOfSelection(std::string_view selected);
 
 // The length of the shortest row, 0 if there are no rows.

@@ -53,7 +53,7 @@ class Finder {
 // At each hit in the document, asks whether to continue. The search is always case sensitive.
 void FindPrimitively(TextBuffer& buffer, Platform& platform);
 
-// The first term of a search: the selected text, otherwise "Text".
+// The initial search term: the selected text, otherwise "Text".
 std::string DefaultTerm(const TextBuffer& buffer);
 
 void ReportNothingFound(Platform& platform);

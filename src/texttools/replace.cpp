@@ -65,7 +65,7 @@ void Replacer::ReportNothing() {
   if (before_message) before_message();
   ReportNothingFound(platform_);
   case_on = lists_on = find_on = change_on = true;
-  step_on = false;  // required: Command6 stays enabled
+  step_on = false;  // required: all_on stays true
   if (buffer_.HasSelection()) find = buffer_.SelText();
 }
 

@@ -1,5 +1,5 @@
-// The pictures of the character table: the grid of the 256 codes, and one enlarged code. Control characters and the TAB
-// are shown by their names.
+// The pictures of the character table: the grid of the 256 codes, and one enlarged code. Control characters, TAB
+// included, are shown by their names.
 #pragma once
 
 #include <memory>

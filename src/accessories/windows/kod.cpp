@@ -19,7 +19,7 @@ QString Readable(int code) { return ReadableText(std::string(1, CharOf(code))); 
 
 QString SpokenName(int code) { return QStringLiteral("%1, kód %2").arg(Readable(code)).arg(code); }
 
-// Inserts before the selected text, which stays, as everywhere in the program.
+// Inserts before the selected text, which stays, as InsertAtCaret does in the document.
 void InsertInto(QLineEdit& field, const QString& text) {
   if (field.hasSelectedText()) field.setCursorPosition(field.selectionStart());
   field.insert(text);
@@ -60,7 +60,7 @@ void Kod::Combo1_Change(const QString& font_name) {
 
 void Kod::HScroll1_Change(int code) {
   ui_->Label1->setText(QString::number(code));
-  // A caption ends at a character of code 0, so the caption of code 0 is empty.
+  // Code 0 can't be inserted, so its caption is empty.
   ui_->Label2->setText(code == 0 ? QString() : Readable(code));
 }
 

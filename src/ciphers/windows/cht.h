@@ -1,4 +1,4 @@
-// `CHT`: rewrites the whole document in the common hacker transcription.
+// `CHT`: replaces the letters of the whole document by characters that look like them.
 #pragma once
 
 #include "platform/platform.h"

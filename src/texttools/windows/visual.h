@@ -1,4 +1,4 @@
-// `Visual`: the look of the main text box with a preview, the line counters and the snap distance.
+// `Visual`: sets the look of the main text box, shows a preview of the look, and sets line counting and snap distance.
 #pragma once
 
 #include <array>
