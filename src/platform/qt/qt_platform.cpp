@@ -1,6 +1,7 @@
 #include "platform/qt/qt_platform.h"
 
 #include <QApplication>
+#include <QCursor>
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QDir>
@@ -32,6 +33,22 @@ std::optional<std::string> ToPath(const std::optional<QString>& answer) {
   return PathFromQString(*answer);
 }
 
+// Shows the arrow while a long command asks the person something.
+class OrdinaryPointer {
+ public:
+  OrdinaryPointer() {
+    if (busy_) QGuiApplication::setOverrideCursor(Qt::ArrowCursor);
+  }
+  OrdinaryPointer(const OrdinaryPointer&) = delete;
+  OrdinaryPointer& operator=(const OrdinaryPointer&) = delete;
+  ~OrdinaryPointer() {
+    if (busy_) QGuiApplication::restoreOverrideCursor();
+  }
+
+ private:
+  const bool busy_ = QGuiApplication::overrideCursor() != nullptr;
+};
+
 }  // namespace
 
 QtPlatform::QtPlatform()
@@ -39,30 +56,30 @@ QtPlatform::QtPlatform()
       install_folder_(FindInstallFolder(QCoreApplication::applicationDirPath(), DataHome())) {}
 
 Answer QtPlatform::Message(MessageType type, std::string_view text, std::string_view title) {
-  const WaitCursor::Lift lift(wait_cursor_);
+  const OrdinaryPointer pointer;
   return ShowMessage(type, Utf8ToQString(text), Utf8ToQString(title));
 }
 
 void QtPlatform::ShowAbout(std::string_view title, std::string_view text) {
-  const WaitCursor::Lift lift(wait_cursor_);
+  const OrdinaryPointer pointer;
   pelmar::ShowAbout(Utf8ToQString(title), Utf8ToQString(text));
 }
 
 std::optional<std::string> QtPlatform::InputBox(std::string_view prompt, std::string_view title,
                                                 std::string_view initial) {
-  const WaitCursor::Lift lift(wait_cursor_);
+  const OrdinaryPointer pointer;
   const auto answer = AskForText(Utf8ToQString(prompt), Utf8ToQString(title), Utf8ToQString(initial));
   if (!answer) return std::nullopt;
   return Utf8FromQString(*answer);
 }
 
 std::optional<std::string> QtPlatform::OpenDialog(std::string_view filter, int filter_index) {
-  const WaitCursor::Lift lift(wait_cursor_);
+  const OrdinaryPointer pointer;
   return ToPath(AskForFile(FileDialogKind::kOpen, Utf8ToQString(filter), filter_index, dialog_folder_));
 }
 
 std::optional<std::string> QtPlatform::SaveDialog(std::string_view filter, int filter_index) {
-  const WaitCursor::Lift lift(wait_cursor_);
+  const OrdinaryPointer pointer;
   return ToPath(AskForFile(FileDialogKind::kSave, Utf8ToQString(filter), filter_index, dialog_folder_));
 }
 
@@ -165,7 +182,10 @@ std::vector<std::size_t> QtPlatform::SortedOrder(const std::vector<std::string_v
   return order;
 }
 
-void QtPlatform::SetBusyPointer(bool busy, BusyLook look) { wait_cursor_.Set(busy, look); }
+void QtPlatform::SetBusyPointer(bool busy, BusyLook look) {
+  if (!busy) return QGuiApplication::restoreOverrideCursor();
+  QGuiApplication::setOverrideCursor(look == BusyLook::kHourglass ? Qt::WaitCursor : Qt::BusyCursor);
+}
 
 void QtPlatform::FinishBackgroundWork() { recent_.Wait(); }
 

@@ -11,7 +11,6 @@
 #include "platform/qt/czech_collation.h"
 #include "platform/qt/desktop/clipboard.h"
 #include "platform/qt/desktop/recent_documents.h"
-#include "platform/qt/desktop/wait_cursor.h"
 #include "platform/qt/install_folder.h"
 
 namespace pelmar {
@@ -67,7 +66,6 @@ class QtPlatform : public Platform {
   void FinishBackgroundWork();
 
  private:
-  WaitCursor wait_cursor_;
   Clipboard clipboard_;
   QCollator collator_ = CzechCollator();
   RecentDocuments recent_;

@@ -76,18 +76,20 @@ TEST(InstallFolder, IsTheMarkedFolderOfTheProgramOrAFolderForTheUserAlone) {
 
 TEST(BusyPointer, NestsAndIsNotShownOverAMessageBox) {
   QtPlatform platform;
-  const auto busy = [] { return QGuiApplication::overrideCursor() != nullptr; };
+  const auto expect = [](Qt::CursorShape shape) {
+    ASSERT_NE(QGuiApplication::overrideCursor(), nullptr);
+    EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), shape);
+  };
   for (const bool set : {false, true, true, false}) platform.SetBusyPointer(set, BusyLook::kArrow);
-  ASSERT_TRUE(busy());
-  EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::BusyCursor);
+  expect(Qt::BusyCursor);
   InDialog<QMessageBox>([&](QMessageBox& box) {
-    EXPECT_FALSE(busy());
+    expect(Qt::ArrowCursor);
     box.close();
   });
   platform.Message(MessageType::kOk, "x", "y");
-  EXPECT_TRUE(busy());
+  expect(Qt::BusyCursor);
   platform.SetBusyPointer(false, BusyLook::kArrow);
-  EXPECT_FALSE(busy());
+  EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
 
 TEST(Keys, InsertTogglesAtEachPressWithoutShiftOrCtrl) {
