@@ -38,11 +38,6 @@ QString TextBoxAccessible::text(QAccessible::Text type) const {
   return type == QAccessible::Value ? TextToQString(box_.Buffer().Text()) : QAccessibleWidget::text(type);
 }
 
-void TextBoxAccessible::setText(QAccessible::Text type, const QString& text) {
-  if (type != QAccessible::Value) return QAccessibleWidget::setText(type, text);
-  if (!box_.IsReadOnly()) box_.Buffer().SetText(PageText(text));
-}
-
 void TextBoxAccessible::selection(int index, int* start, int* end) const {
   const bool exists = index == 0 && box_.Buffer().HasSelection();
   *start = exists ? box_.SelStart() : 0;
@@ -88,29 +83,11 @@ TextSpan TextBoxAccessible::UnitAt(std::size_t pos, QAccessible::TextBoundaryTyp
   }
 }
 
-QString TextBoxAccessible::Answer(TextSpan span, int* start, int* end) const {
-  *start = static_cast<int>(span.begin);
-  *end = static_cast<int>(span.end);
-  return text(*start, *end);
-}
-
 QString TextBoxAccessible::textAtOffset(int offset, QAccessible::TextBoundaryType type, int* start, int* end) const {
-  return Answer(UnitAt(PosOf(offset, box_.Buffer()), type), start, end);
-}
-
-QString TextBoxAccessible::textBeforeOffset(int offset, QAccessible::TextBoundaryType type, int* start,
-                                            int* end) const {
-  const TextSpan here = UnitAt(PosOf(offset, box_.Buffer()), type);
-  if (here.begin == 0) return Answer({0, 0}, start, end);
-  return Answer({UnitAt(here.begin - 1, type).begin, here.begin}, start, end);
-}
-
-QString TextBoxAccessible::textAfterOffset(int offset, QAccessible::TextBoundaryType type, int* start, int* end) const {
-  const std::size_t size = box_.Buffer().Size();
-  const TextSpan here = UnitAt(PosOf(offset, box_.Buffer()), type);
-  if (here.end >= size) return Answer({size, size}, start, end);
-  const TextSpan next = UnitAt(here.end, type);
-  return Answer({here.end, std::max(next.end, here.end)}, start, end);
+  const TextSpan unit = UnitAt(PosOf(offset, box_.Buffer()), type);
+  *start = static_cast<int>(unit.begin);
+  *end = static_cast<int>(unit.end);
+  return text(*start, *end);
 }
 
 QRect TextBoxAccessible::characterRect(int offset) const {
@@ -144,29 +121,19 @@ void TextBoxAccessible::replaceText(int start, int end, const QString& text) {
   box_.Buffer().Replace(from, to - from, PageText(text));
 }
 
-void TextBoxNotifier::Forget() {
-  known_text_.clear();
-  known_text_.shrink_to_fit();
-  knows_text_ = false;
-}
-
 void TextBoxNotifier::Changed(const TextChange& change) {
-  if (!IsActive()) {
-    if (knows_text_) Forget();
-    return;
-  }
+  if (!IsActive()) return Forget();
   const std::string_view text = box_.Buffer().Text();
   const std::string_view inserted = text.substr(change.pos, change.inserted);
-  if (knows_text_) {
-    const std::string_view removed = std::string_view(known_text_).substr(change.pos, change.removed);
+  if (known_text_) {
+    const std::string_view removed = std::string_view(*known_text_).substr(change.pos, change.removed);
     const int pos = static_cast<int>(change.pos);
     QAccessibleTextUpdateEvent event(&box_, pos, TextToQString(removed), TextToQString(inserted));
     event.setCursorPosition(static_cast<int>(box_.Buffer().Caret()));
     Send(event);
-    known_text_.replace(change.pos, change.removed, inserted);
+    known_text_->replace(change.pos, change.removed, inserted);
   } else {
-    known_text_ = text;
-    knows_text_ = true;
+    known_text_.emplace(text);
     // The removed text is unknown, so only the insertion is sent.
     QAccessibleTextInsertEvent event(&box_, static_cast<int>(change.pos), TextToQString(inserted));
     event.setCursorPosition(static_cast<int>(box_.Buffer().Caret()));
@@ -177,10 +144,7 @@ void TextBoxNotifier::Changed(const TextChange& change) {
 
 void TextBoxNotifier::CaretMoved() {
   if (!IsActive()) return;
-  if (!knows_text_) {
-    known_text_ = box_.Buffer().Text();
-    knows_text_ = true;
-  }
+  if (!known_text_) known_text_.emplace(box_.Buffer().Text());
   QAccessibleTextSelectionEvent selection(&box_, box_.SelStart(), box_.SelStart() + box_.SelLength());
   selection.setCursorPosition(static_cast<int>(box_.Buffer().Caret()));
   Send(selection);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QAccessibleWidget>
+#include <optional>
 #include <string>
 
 #include "platform/qt/textbox/text_box.h"
@@ -17,7 +18,6 @@ class TextBoxAccessible : public QAccessibleWidget,
   void* interface_cast(QAccessible::InterfaceType type) override;
   [[nodiscard]] QAccessible::State state() const override;
   [[nodiscard]] QString text(QAccessible::Text type) const override;
-  void setText(QAccessible::Text type, const QString& text) override;
 
   void selection(int index, int* start, int* end) const override;
   [[nodiscard]] int selectionCount() const override;
@@ -27,8 +27,6 @@ class TextBoxAccessible : public QAccessibleWidget,
   [[nodiscard]] int cursorPosition() const override;
   void setCursorPosition(int position) override;
   [[nodiscard]] QString text(int start, int end) const override;
-  QString textBeforeOffset(int offset, QAccessible::TextBoundaryType type, int* start, int* end) const override;
-  QString textAfterOffset(int offset, QAccessible::TextBoundaryType type, int* start, int* end) const override;
   QString textAtOffset(int offset, QAccessible::TextBoundaryType type, int* start, int* end) const override;
   [[nodiscard]] int characterCount() const override;
   [[nodiscard]] QRect characterRect(int offset) const override;
@@ -42,7 +40,6 @@ class TextBoxAccessible : public QAccessibleWidget,
 
  private:
   [[nodiscard]] TextSpan UnitAt(std::size_t pos, QAccessible::TextBoundaryType type) const;
-  QString Answer(TextSpan span, int* start, int* end) const;
 
   TextBox& box_;
 };
@@ -56,7 +53,7 @@ class TextBoxNotifier {
   void Changed(const TextChange& change);
   void CaretMoved();
   // Call when the box shows another text.
-  void Forget();
+  void Forget() { known_text_.reset(); }
 
  protected:
   [[nodiscard]] virtual bool IsActive() const { return QAccessible::isActive(); }
@@ -66,8 +63,8 @@ class TextBoxNotifier {
   void NotifyCaret();
 
   TextBox& box_;
-  std::string known_text_;  // the text at the last notification, since a notification contains the removed text
-  bool knows_text_ = false;
+  // The text at the last notification, since a notification contains the removed text.
+  std::optional<std::string> known_text_;
 };
 
 }  // namespace pelmar
