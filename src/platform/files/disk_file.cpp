@@ -1,13 +1,10 @@
 #include "platform/files/disk_file.h"
 
-#include <linux/magic.h>
 #include <sys/stat.h>
-#include <sys/vfs.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
-#include <iterator>
 #include <new>
 
 #include "platform/files/descriptor.h"
@@ -15,16 +12,6 @@
 
 namespace pelmar {
 namespace {
-
-// Whether the file lies in a file system such as /proc. The kernel invents the content of such a file while the file is
-// read: the file reports the size 0, and some of these files never end.
-bool IsMadeUp(int file) {
-  constexpr decltype(statfs::f_type) kMadeUp[] = {PROC_SUPER_MAGIC,   SYSFS_MAGIC,      DEBUGFS_MAGIC,
-                                                  TRACEFS_MAGIC,      SECURITYFS_MAGIC, CGROUP_SUPER_MAGIC,
-                                                  CGROUP2_SUPER_MAGIC};
-  struct statfs system {};
-  return fstatfs(file, &system) == 0 && std::ranges::find(kMadeUp, system.f_type) != std::end(kMadeUp);
-}
 
 struct Source {
   int error = 0;
@@ -45,7 +32,6 @@ Source OpenRegular(const std::string& path) {
   Source source{.file = Descriptor(open(path.c_str(), O_RDONLY | kOpenSafely))};
   if (!source.file.IsOpen() || fstat(source.file.Number(), &state) != 0) return {.error = errno};
   if (const int error = NotRegular(state)) return {.error = error};
-  if (state.st_size == 0 && IsMadeUp(source.file.Number())) return {.error = EINVAL};
   source.size = static_cast<std::uint64_t>(state.st_size);
   return source;
 }

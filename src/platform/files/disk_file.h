@@ -29,8 +29,8 @@ namespace pelmar {
 // Whether the path leads to a regular file that can be opened for reading.
 bool CanReadFile(const std::string& path);
 
-// Reads the file, at most `limit` bytes. Errors: EISDIR for a folder; EINVAL for another file that is not regular, or
-// whose content the kernel invents (/proc); EFBIG if there is no limit and the file is longer than kLongestWhole bytes.
+// Reads the file, at most `limit` bytes. Errors: EISDIR for a folder; EINVAL for another file that is not regular;
+// EFBIG if there is no limit and the file is longer than kLongestWhole bytes.
 FileBytes ReadWholeFile(const std::string& path, std::optional<std::uint64_t> limit);
 
 // See Platform::ReadByPieces. The errors EISDIR and EINVAL are those of ReadWholeFile.
