@@ -34,7 +34,6 @@ constexpr Meaning kMeanings[] = {
     {EFBIG, "soubor je příliš velký"},
     {ENOSPC, "na disku není místo"},
     {EROFS, "disk je jen pro čtení"},
-    {EPIPE, "příjemce skončil"},
     {ENAMETOOLONG, "jméno je příliš dlouhé"},
     {ENOTEMPTY, "složka není prázdná"},
     {ELOOP, "příliš mnoho odkazů za sebou"},

@@ -39,8 +39,8 @@ void WriteFileOn(FileNumber& number, Platform& platform, const std::string& path
 void WriteRecordOn(FileNumber& number, Platform& platform, const std::string& path, std::string record) {
   const OpenNumber open(number);
   const FileBytes old = platform.ReadFile(path, std::nullopt);
-  // A missing file, and a path that is no regular file, have no tail.
-  if (old.error != ENOENT && old.error != EINVAL) Check({.error = old.error}, path, kCantWrite);
+  // A missing file has no tail.
+  if (old.error != ENOENT) Check({.error = old.error}, path, kCantWrite);
   if (old.bytes.size() > record.size()) record += old.bytes.substr(record.size());
   Check(platform.WriteDocument(path, record), path, kCantWrite);
 }

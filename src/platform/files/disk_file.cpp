@@ -50,14 +50,6 @@ int ReadAll(int file, std::uint64_t limit, std::string& bytes) {
   return 0;
 }
 
-int WriteToDevice(const std::string& path, std::string_view bytes) {
-  Descriptor file(open(path.c_str(), O_WRONLY | kOpenSafely));
-  if (!file.IsOpen()) return errno;
-  const int error = WriteAll(file.Number(), bytes);
-  const int close_error = file.Close();
-  return error != 0 ? error : close_error;
-}
-
 // Writes from the current position of `to`.
 int RewriteInto(int to, int from, FileRewriter& rewriter) {
   const int error = ForEachPiece(from, [&](std::string_view piece) { return WriteAll(to, rewriter.Rewrite(piece)); });
@@ -117,7 +109,6 @@ WriteOutcome ReplaceFile(const std::string& path, std::string_view bytes, const 
                          mode_t new_mode) {
   const Target target = FindTarget(path);
   if (target.error != 0) return {.error = target.error};
-  if (target.kind == Target::kDevice) return {.error = WriteToDevice(target.path, bytes)};
   const auto fill = [bytes](int to, int) {
     if (const int error = WriteAll(to, bytes)) return error;
     return ftruncate(to, static_cast<off_t>(bytes.size())) == 0 ? 0 : errno;
@@ -131,7 +122,6 @@ WriteOutcome RewriteFileByPieces(const std::string& source_path, const std::stri
   if (source.error != 0) return {.error = source.error};
   const Target target = FindTarget(target_path);
   if (target.error != 0) return {.error = target.error};
-  if (target.kind == Target::kDevice) return {.error = EINVAL};
   const auto fill = [&](int to, int old) {
     const int error = RewriteInto(to, source.file.Number(), rewriter);
     return error != 0 ? error : CopyTail(old, to, rewriter.Kept());

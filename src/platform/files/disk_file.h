@@ -1,8 +1,8 @@
 // Reads and saves files with system calls, so that the errno of a failed call can be shown. Only regular files are
-// read, since a device or a pipe could block forever. A path is the bytes that the system gave.
+// read and saved, since a device or a pipe could block forever. A path is the bytes that the system gave.
 //
 // The steps of a save:
-// 1. file_target follows links and finds out whether the file is new, old or a device.
+// 1. file_target follows links and finds out whether the file is new or old.
 // 2. new_file creates a file without a name in the same folder. file_attributes copies the attributes of the old file.
 // 3. The content is written and brought to the disk by fsync.
 // 4. The new file gets its name. If there is an old file, the new file replaces the old file by a rename.
@@ -39,7 +39,7 @@ int ReadFileByPieces(const std::string& path, const std::function<bool(std::stri
 inline constexpr std::uint64_t kLongestWhole = std::uint64_t{1} << 30;
 
 // Saves `bytes` in the file by the steps above. A copy of the old content, if necessary, is made in `keep_folder`. A
-// file that did not exist gets `new_mode`, before the umask. A character device or a pipe gets the bytes directly.
+// file that did not exist gets `new_mode`, before the umask. The errors EISDIR and EINVAL are those of ReadWholeFile.
 WriteOutcome ReplaceFile(const std::string& path, std::string_view bytes, const std::string& keep_folder,
                          mode_t new_mode = 0666);
 
@@ -47,8 +47,8 @@ WriteOutcome ReplaceFile(const std::string& path, std::string_view bytes, const 
 // leads nowhere. After a failed write the file is removed.
 int CreateFile(const std::string& path, std::string_view bytes);
 
-// See Platform::RewriteFile. The source must be a regular file. The target is saved by the steps above; a device or a
-// pipe as target gives EINVAL.
+// See Platform::RewriteFile. The target is saved by the steps above. The errors EISDIR and EINVAL, for the source or
+// the target, are those of ReadWholeFile.
 WriteOutcome RewriteFileByPieces(const std::string& source, const std::string& target, OldTail tail,
                                  FileRewriter& rewriter, const std::string& keep_folder);
 

@@ -31,7 +31,7 @@ bool FolderRefuses(int error) { return error == EACCES || error == EPERM || erro
 
 int Fill(int to, const Target& target, const NewContent& content) {
   Descriptor old;
-  if (content.reads_old && target.kind == Target::kOld) {
+  if (content.reads_old && target.exists) {
     old = Descriptor(open(target.path.c_str(), O_RDONLY | kOpenSafely));
     if (!old.IsOpen()) return errno;
   }
@@ -46,13 +46,13 @@ int Reserve(int file, std::uint64_t size) {
   return errno == ENOSPC || errno == EDQUOT || errno == EFBIG ? errno : 0;
 }
 
-// Sets `kind` and `old` of the target. Returns 0, or an errno if the target can't be written.
+// Sets `exists` and `old` of the target. Returns 0, or an errno if the target can't be written.
 int Look(Target& target) {
   if (stat(target.path.c_str(), &target.old) != 0) return errno != ENOENT || target.path.ends_with('/') ? errno : 0;
   const mode_t mode = target.old.st_mode;
   if (S_ISDIR(mode)) return EISDIR;
-  target.kind = S_ISREG(mode) ? Target::kOld : Target::kDevice;
-  if (target.kind == Target::kDevice) return S_ISCHR(mode) || S_ISFIFO(mode) ? 0 : EINVAL;
+  if (!S_ISREG(mode)) return EINVAL;
+  target.exists = true;
   // A rename would succeed without this permission, but a file that its owner has protected stays protected.
   return faccessat(AT_FDCWD, target.path.c_str(), W_OK, AT_EACCESS) == 0 ? 0 : errno;
 }
@@ -73,7 +73,7 @@ Target FindTarget(const std::string& path) {
 }
 
 Beside WriteBeside(const Target& target, const NewContent& content, mode_t new_mode) {
-  const bool old = target.kind == Target::kOld;
+  const bool old = target.exists;
   // All names of the file must lead to the new content.
   if (old && target.old.st_nlink > 1) return {.error = EMLINK, .try_in_place = true};
   NewFile file(target.path, old ? 0600 : new_mode);

@@ -15,7 +15,7 @@ namespace pelmar {
 struct Target {
   int error = 0;     // 0, or an errno if the target can't be written
   std::string path;  // without links
-  enum Kind { kNew, kOld, kDevice } kind = kNew;
+  bool exists = false;
   struct stat old {};
 };
 
@@ -36,7 +36,7 @@ struct Beside {
   Descriptor content = Descriptor();  // the new file, if its content is complete but its rename failed
 };
 
-// Saves into a new file that takes the target's name. Not for devices. A new target gets `new_mode`, before the umask.
+// Saves into a new file that takes the target's name. A new target gets `new_mode`, before the umask.
 Beside WriteBeside(const Target& target, const NewContent& content, mode_t new_mode);
 
 // Overwrites an old target. First copies the old content to a file in `keep_folder` (with its separator) that only the
