@@ -1,6 +1,5 @@
 #include "platform/qt/filelists/file_list.h"
 
-#include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QMetaMethod>
 #include <QScopedValueRollback>
@@ -13,14 +12,6 @@
 #include "platform/qt/folder_entries.h"
 
 namespace pelmar {
-namespace {
-
-// The delay from a change of the folder until the folder is read again: kSettle ms, but at least kReadings times the
-// duration of the last reading. So a large folder that changes constantly uses at most a tenth of the processor.
-constexpr int kSettle = 200;
-constexpr int kReadings = 10;
-
-}  // namespace
 
 // Stores the names and displays them with ShownPath.
 class FileNames : public QStringListModel {
@@ -43,12 +34,6 @@ FileList::FileList(QWidget* parent)
     if (!click_emitted_) Q_EMIT FileClicked();
   });
   connect(this, &QListView::doubleClicked, this, &FileList::FileActivated);
-  settle_.setSingleShot(true);
-  settle_.setInterval(kSettle);
-  connect(&settle_, &QTimer::timeout, this, &FileList::ReadAnew);
-  connect(&watcher_, &QFileSystemWatcher::directoryChanged, this, [this] {
-    if (!settle_.isActive()) settle_.start();
-  });
 }
 
 void FileList::SetPath(const QString& path) {
@@ -58,7 +43,6 @@ void FileList::SetPath(const QString& path) {
   if (clean == path_) return read_ ? ReadAnew() : void();
   path_ = clean;
   Fill({});
-  Watch(isVisible());
   Q_EMIT PathChanged(path_);
 }
 
@@ -95,10 +79,7 @@ void FileList::Show(const QStringList& names, const QString& selected) {
 
 void FileList::ReadAnew() {
   read_ = true;
-  QElapsedTimer clock;
-  clock.start();
   QStringList names = FilesOf(path_, pattern_);
-  settle_.setInterval(qMax<int>(kSettle, static_cast<int>(clock.elapsed()) * kReadings));
   const QString selected = FileName();
   // The name of a selected file stays in the list after the file was removed.
   if (!selected.isEmpty() && !names.contains(selected)) {
@@ -113,13 +94,6 @@ void FileList::ReadAnew() {
     executeDelayedItemsLayout();  // sets the range of the scroll bar
     verticalScrollBar()->setValue(scrolled);
   }
-}
-
-// A hidden list doesn't watch its folder, since showEvent reads the folder again.
-void FileList::Watch(bool watch) {
-  if (const QStringList watched = watcher_.directories(); !watched.isEmpty()) watcher_.removePaths(watched);
-  settle_.stop();
-  if (watch) watcher_.addPath(path_);
 }
 
 void FileList::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
@@ -153,14 +127,7 @@ void FileList::keyPressEvent(QKeyEvent* event) {
 
 void FileList::showEvent(QShowEvent* event) {
   QListView::showEvent(event);
-  if (event->spontaneous()) return;
-  Watch(true);
-  ReadAnew();
-}
-
-void FileList::hideEvent(QHideEvent* event) {
-  QListView::hideEvent(event);
-  if (!event->spontaneous()) Watch(false);
+  if (!event->spontaneous()) ReadAnew();
 }
 
 }  // namespace pelmar

@@ -1,12 +1,10 @@
-// The file list of the file browser dialogs: the files of a folder whose names match a mask. A visible list follows
-// changes of the folder and keeps selection and scrolling. The selected name stays even if its file is removed. Paths
-// and names come from PathToQString; the rows show them with ShownPath. Only actions of the person emit FileClicked and
-// FileActivated.
+// The file list of the file browser dialogs: the files of a folder whose names match a mask. Each time the list is
+// shown, the folder is read again; selection and scrolling stay. The selected name stays even if its file is removed.
+// Paths and names come from PathToQString; the rows show them with ShownPath. Only actions of the person emit
+// FileClicked and FileActivated.
 #pragma once
 
-#include <QFileSystemWatcher>
 #include <QListView>
-#include <QTimer>
 
 namespace pelmar {
 
@@ -50,18 +48,14 @@ class FileList : public QListView {
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void showEvent(QShowEvent* event) override;
-  void hideEvent(QHideEvent* event) override;
 
  private:
   void Fill(const QString& selected);
   void Show(const QStringList& names, const QString& selected);
   void ReadAnew();
-  void Watch(bool watch);
 
   FileNames* names_;
   QString path_, pattern_;
-  QFileSystemWatcher watcher_;
-  QTimer settle_;      // runs from a change of the folder until the folder is read again
   bool read_ = false;  // false until the list is first shown or a name is set, so that earlier settings cost nothing
   bool by_program_ = false;
   bool click_emitted_ = false;  // the current mouse press has changed the selection, which has emitted FileClicked
