@@ -1,6 +1,5 @@
 #include "accessories/morse.h"
 
-#include "platform/busy.h"
 #include "shell/common.h"
 #include "shell/editor.h"
 #include "text/codepage.h"

@@ -5,7 +5,6 @@
 
 #include "files/line_ends.h"
 #include "files/save.h"
-#include "platform/busy.h"
 #include "platform/error_text.h"
 #include "platform/paths.h"
 #include "shell/file_number.h"

@@ -2,7 +2,6 @@
 
 #include <cstring>
 
-#include "platform/busy.h"
 #include "platform/error_text.h"
 #include "platform/runtime_error.h"
 #include "shell/file_number.h"

@@ -2,7 +2,6 @@
 
 #include <optional>
 
-#include "platform/busy.h"
 #include "platform/error_text.h"
 #include "platform/paths.h"
 #include "platform/runtime_error.h"

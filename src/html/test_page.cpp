@@ -1,6 +1,5 @@
 #include "html/test_page.h"
 
-#include "platform/busy.h"
 #include "platform/error_text.h"
 #include "platform/runtime_error.h"
 #include "shell/common.h"

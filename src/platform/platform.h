@@ -193,4 +193,19 @@ class Platform {
   virtual void SetBusyPointer(bool busy, BusyLook look) = 0;
 };
 
+// Shows the hourglass, alone or beside the arrow, while a long command works.
+class BusyPointer {
+ public:
+  explicit BusyPointer(Platform& platform, BusyLook look = BusyLook::kHourglass) : platform_(platform), look_(look) {
+    platform_.SetBusyPointer(true, look_);
+  }
+  BusyPointer(const BusyPointer&) = delete;
+  BusyPointer& operator=(const BusyPointer&) = delete;
+  ~BusyPointer() { platform_.SetBusyPointer(false, look_); }
+
+ private:
+  Platform& platform_;
+  BusyLook look_;
+};
+
 }  // namespace pelmar

@@ -4,14 +4,16 @@
 #include <cstddef>
 #include <functional>
 
-namespace pelmar {
+#include "platform/platform.h"
 
-class Platform;
+namespace pelmar {
 
 // Returns a number r with 0 <= r < 1.
 using Draw = std::function<double()>;
 
-Draw DrawFrom(Platform& platform);
+inline Draw DrawFrom(Platform& platform) {
+  return [&platform] { return platform.Random(); };
+}
 
 // The integer part of r * count: 0 to count - 1, and 0 if count is 0. Calls `draw` once.
 inline std::size_t DrawBelow(const Draw& draw, std::size_t count) {

@@ -3,7 +3,6 @@
 #include <functional>
 #include <string>
 
-#include "platform/busy.h"
 #include "shell/common.h"
 #include "shell/editor.h"
 #include "text/codepage.h"

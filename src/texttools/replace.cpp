@@ -1,6 +1,5 @@
 #include "texttools/replace.h"
 
-#include "platform/busy.h"
 #include "shell/common.h"
 #include "text/codepage.h"
 #include "text/search.h"

@@ -5,7 +5,6 @@
 #include <QMenuBar>
 
 #include "accessories/morse.h"
-#include "platform/busy.h"
 #include "platform/qt/convert.h"
 #include "text/insert.h"
 #include "ui_morse.h"

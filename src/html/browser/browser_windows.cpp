@@ -4,7 +4,6 @@
 #include "html/browser/browser_module.h"
 #include "html/browser/frm_browser.h"
 #include "html/test_page.h"
-#include "platform/busy.h"
 #include "platform/qt/application.h"
 #include "platform/qt/convert.h"
 #include "shell/services/program_parts.h"

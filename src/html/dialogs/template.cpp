@@ -3,7 +3,7 @@
 #include <QHeaderView>
 
 #include "html/samples/templaty.h"
-#include "platform/qt/controls/first_choice.h"
+#include "platform/qt/controls/list_rows.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/frames/svg_icon.h"
 #include "ui_template.h"

@@ -1,9 +1,10 @@
 #include "platform/qt/controls/list_rows.h"
 
+#include <QKeyEvent>
 #include <QListWidget>
 #include <QStyledItemDelegate>
 
-#include "platform/qt/controls/first_choice.h"
+#include "platform/qt/key_router.h"
 
 namespace pelmar {
 namespace {
@@ -20,6 +21,17 @@ class OneLineDelegate : public QStyledItemDelegate {
 };
 
 }  // namespace
+
+void ChooseFirstByArrows(QAbstractItemView* list) {
+  KeyRouter::Get().Add(KeyTurn::kField, *list, [list](QWidget&, const QKeyEvent& press) {
+    const QModelIndex row = list->currentIndex();
+    const int key = press.key();
+    if (!row.isValid() || list->selectionModel()->hasSelection()) return false;
+    if (key != Qt::Key_Down && key != Qt::Key_Up && key != Qt::Key_Home) return false;
+    list->setCurrentIndex(row);
+    return true;
+  });
+}
 
 void OnRowPicked(QListWidget& list, const std::function<void(int row)>& picked) {
   ChooseFirstByArrows(&list);

@@ -3,9 +3,14 @@
 
 #include <functional>
 
+class QAbstractItemView;
 class QListWidget;
 
 namespace pelmar {
+
+// Makes Up, Down and Home select the current row if no row is selected. When a list gets the focus, Qt makes the first
+// row current without selecting it. So Down would skip the first row, and no key would select the only row of a list.
+void ChooseFirstByArrows(QAbstractItemView* list);
 
 // Calls `picked` when the person clicks a row, and when the person or the program selects a row. A click that selects a
 // row calls `picked` twice. The row that Qt makes current when the list gets the focus is not picked.

@@ -7,7 +7,7 @@
 #include <QStringListModel>
 #include <algorithm>
 
-#include "platform/qt/controls/first_choice.h"
+#include "platform/qt/controls/list_rows.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/folder_entries.h"
 
