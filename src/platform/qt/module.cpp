@@ -3,20 +3,8 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QPluginLoader>
-#include <QRegularExpression>
 
 namespace pelmar {
-namespace {
-
-// The reason in Czech for an error message of the loader. Names the missing library, if there is one.
-QString Reason(const QString& path, const QString& words) {
-  static const QRegularExpression missing(QStringLiteral(R"(\(([^/():\s]+\.so[.\d]*): )"));
-  if (const auto match = missing.match(words); match.hasMatch())
-    return QStringLiteral("Chybí knihovna %1").arg(match.captured(1));
-  return QStringLiteral("Soubor %1 je poškozen nebo z jiné verze programu").arg(path);
-}
-
-}  // namespace
 
 QStringList ModuleFolders() {
   const QString program = QCoreApplication::applicationDirPath();
@@ -28,9 +16,8 @@ LoadedModule LoadModule(const QStringList& folders, const QString& file_name) {
     const QString path = folder + QLatin1Char('/') + file_name;
     if (!QFileInfo::exists(path)) continue;
     QPluginLoader loader(path);
-    QObject* plugin = loader.instance();
-    return {
-        .plugin = plugin, .path = path, .error = plugin == nullptr ? Reason(path, loader.errorString()) : QString()};
+    if (QObject* const plugin = loader.instance()) return {.plugin = plugin, .path = path, .error = {}};
+    return {.path = path, .error = QStringLiteral("Soubor %1 je poškozen nebo z jiné verze programu").arg(path)};
   }
   return {};
 }
