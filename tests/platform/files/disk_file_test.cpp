@@ -192,9 +192,12 @@ TEST(WriteFile, EqualsPlainWritingInRandomFilesAndFolders) {
   umask(mask);
 }
 
-TEST(WriteFile, RefusesADeviceAndLeavesIt) {
-  EXPECT_EQ(Write("/dev/full", "x", How::kSave, {}).error, EINVAL);
-  EXPECT_TRUE(fs::is_character_file("/dev/full"));
+TEST(WriteFile, RefusesAPipeAndLeavesIt) {
+  const TempFolder folder;
+  const std::string pipe = folder.File("pipe");
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  EXPECT_EQ(Write(pipe, "x", How::kSave, {}).error, EINVAL);
+  EXPECT_TRUE(fs::is_fifo(pipe));
 }
 
 // The ways to write a file, for tests that interrupt each way at each of its system calls.
