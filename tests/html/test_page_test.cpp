@@ -4,7 +4,6 @@
 
 #include <cerrno>
 
-#include "html/browser_texts.h"
 #include "support/scripted_platform.h"
 #include "support/whole_editor.h"
 
@@ -51,17 +50,6 @@ TEST_F(TestPage, IsReportedIfItCannotBeWritten) {
   editor.commands.Run("mnutest");
   EXPECT_TRUE(platform.calls.back().starts_with("message 0 \"Testovací stránku nelze zapsat do složky /tmp/"));
   EXPECT_FALSE(editor.file_number.IsOpen());
-}
-
-TEST(BrowserTexts, ShowTheProgressOfALoad) {
-  EXPECT_EQ(ProgressText(1, 3), "33,3333333333333%");
-  EXPECT_EQ(ProgressText(1, 0), "");
-}
-
-TEST(BrowserTexts, RecogniseUtf8ThatThePageDoesNotDeclare) {
-  EXPECT_TRUE(IsUndeclaredUtf8("kůň"));
-  for (const char* page : {"\xEF\xBB\xBFkůň", "k\xF9\xF2", "kun", "CharSet=utf-8 kůň"})
-    EXPECT_FALSE(IsUndeclaredUtf8(page)) << page;
 }
 
 }  // namespace

@@ -1,8 +1,6 @@
 #include "html/browser/frm_browser.h"
 
 #include <QCloseEvent>
-#include <QFile>
-#include <QFileInfo>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -10,7 +8,6 @@
 #include <QToolButton>
 
 #include "html/browser/web_address.h"
-#include "html/browser_texts.h"
 #include "platform/qt/controls/accessible_face.h"
 #include "platform/qt/controls/elided_label.h"
 #include "platform/qt/convert.h"
@@ -20,14 +17,16 @@
 #include "platform/qt/frames/svg_icon.h"
 #include "platform/qt/key_router.h"
 #include "shell/stand_alone.h"
+#include "text/number_text.h"
 #include "ui_frm_browser.h"
 
 namespace pelmar {
 namespace {
 
-constexpr int kTimerInterval = 5;                 // ms
-constexpr qint64 kLongestPage = qint64{4} << 20;  // bytes of a page that are checked for UTF-8
-constexpr int kLongestInMessage = 300;            // characters of an address
+constexpr int kTimerInterval = 5;       // ms
+constexpr int kLongestInMessage = 300;  // characters of an address
+// The first web page of a browser that runs without the editor.
+constexpr std::string_view kStartingAddress = "https://duckduckgo.com/";
 constexpr std::string_view kOpenFilter = "Všechno (*.*)|*.*|htm (*.htm)|*.htm|html (*.html)|*.html";
 
 QLabel* AddPanel(QStatusBar& bar, const char* name, const QString& value_name, int stretch) {
@@ -59,7 +58,6 @@ FrmBrowser::FrmBrowser(WebViewMaker& maker, Platform& platform, std::function<vo
   status_->clear();
   progress_ = AddPanel(*ui_->StatusBar1, "Panel2", QStringLiteral("Průběh načítání"), 0);
   link_ = AddPanel(*ui_->StatusBar1, "Panel4", QStringLiteral("Odkaz pod ukazatelem"), 1);
-  encoding_ = AddPanel(*ui_->StatusBar1, "Panel3", QStringLiteral("Kódování stránky"), 0);
   timTimer.setObjectName(QStringLiteral("timTimer"));
   timTimer.setInterval(kTimerInterval);
   connect(&timTimer, &QTimer::timeout, this, &FrmBrowser::timTimer_Timer);
@@ -174,7 +172,9 @@ void FrmBrowser::NavigateToBox() {
   Load(ui_->cboAddress->currentText());
 }
 
-void FrmBrowser::ShowCaption() { setWindowTitle(PlainTitle(BrowserCaption(Utf8FromQString(view_->LocationName())))); }
+void FrmBrowser::ShowCaption() {
+  setWindowTitle(PlainTitle("HTML testovací browser (" + Utf8FromQString(view_->LocationName()) + ")"));
+}
 
 void FrmBrowser::ShowHistory() {
   ui_->Back->setEnabled(view_->CanGo(-1));
@@ -194,22 +194,14 @@ void FrmBrowser::ShowState() {
 }
 
 void FrmBrowser::View_Progress(qint64 progress, qint64 maximum) {
-  progress_->setText(Utf8ToQString(ProgressText(progress, maximum)));
-}
-
-void FrmBrowser::ShowEncoding() {
-  // Reads only regular files, since others may block.
-  QFile file(view_->LocationAddress().toLocalFile());
-  const bool undeclared = QFileInfo(file).isFile() && file.open(QIODevice::ReadOnly) &&
-                          IsUndeclaredUtf8(file.read(kLongestPage).toStdString());
-  encoding_->setText(undeclared ? QStringLiteral("Stránka je v UTF-8 a neuvádí to: převede ji Konverze dos - unix")
-                                : QString());
+  if (maximum <= 0) return progress_->clear();
+  const double percent = static_cast<double>(progress) / static_cast<double>(maximum) * 100.0;
+  progress_->setText(Utf8ToQString(NumberText(percent) + '%'));
 }
 
 void FrmBrowser::View_Finished() {
   ShowCaption();
   ShowHistory();
-  ShowEncoding();
   QLineEdit& line = *ui_->cboAddress->lineEdit();
   const bool half_typed = line.isModified();
   const bool selected = line.hasSelectedText();

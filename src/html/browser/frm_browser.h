@@ -57,8 +57,6 @@ class FrmBrowser : public QMainWindow {
   void ShowState();
   void View_Progress(qint64 progress, qint64 maximum);
   void View_Finished();
-  // Shows a hint if a local page is in UTF-8 and doesn't declare it.
-  void ShowEncoding();
   // Makes the address the first row of the list, selects the row and removes older rows of the same address.
   void PutOnTop(const QString& address);
   void Stop_Click();
@@ -72,7 +70,6 @@ class FrmBrowser : public QMainWindow {
   QLabel* status_ = nullptr;
   QLabel* progress_ = nullptr;
   QLabel* link_ = nullptr;  // the target of the link under the mouse
-  QLabel* encoding_ = nullptr;
   QTimer timTimer{this};
   bool centred_ = false;
   std::unique_ptr<WebView> view_;  // declared last, so deleted first: its page calls this window
