@@ -10,9 +10,9 @@ Barva::Barva(TextBuffer& buffer, std::function<Color(Color)> pick_color, QWidget
     : FragmentDialog(buffer, parent) {
   ui_->Combo1->setCurrentText(QStringLiteral("Combo1"));
   AcceptFreeText(ui_->Combo1);
-  EnableWith(ui_->Check1, {ui_->VScroll4});
+  EnableWith(ui_->Check1, {ui_->VScroll4, ui_->Label4});
   EnableWith(ui_->Check2, {ui_->Combo1});
-  EnableWith(ui_->Check3, {ui_->Command3, ui_->Label1});
+  EnableWith(ui_->Check3, {ui_->Command3, ui_->Label1, ui_->Label2});
   ShowValue(ui_->VScroll4, ui_->Label4);
   ConnectColorChoice(ui_->Command3, ui_->Label1, ui_->Label2, std::move(pick_color));
 }

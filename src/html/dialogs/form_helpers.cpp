@@ -2,7 +2,6 @@
 
 #include <QAbstractSlider>
 #include <QComboBox>
-#include <QEvent>
 #include <QLabel>
 
 #include "platform/qt/controls/swatch.h"
@@ -10,25 +9,6 @@
 #include "shell/common.h"
 
 namespace pelmar {
-namespace {
-
-class GreyFollower : public QObject {
- public:
-  GreyFollower(QWidget* source, QWidget* follower) : QObject(follower), follower_(follower) {
-    source->installEventFilter(this);
-    follower->setEnabled(source->isEnabled());
-  }
-
-  bool eventFilter(QObject* source, QEvent* event) override {
-    if (event->type() == QEvent::EnabledChange) follower_->setEnabled(static_cast<QWidget*>(source)->isEnabled());
-    return false;
-  }
-
- private:
-  QWidget* follower_;
-};
-
-}  // namespace
 
 void EnableWith(QCheckBox* box, std::initializer_list<QWidget*> widgets) {
   for (QWidget* widget : widgets) {
@@ -37,11 +17,8 @@ void EnableWith(QCheckBox* box, std::initializer_list<QWidget*> widgets) {
   }
 }
 
-void GreyWith(QWidget* source, QWidget* follower) { new GreyFollower(source, follower); }
-
 void ConnectColorChoice(QAbstractButton* button, Swatch* swatch, QLabel* hex, std::function<Color(Color)> pick,
                         std::function<void(const QColor&)> taken) {
-  GreyWith(button, hex);
   QObject::connect(button, &QAbstractButton::clicked, swatch,
                    [swatch, hex, pick = std::move(pick), taken = std::move(taken)] {
                      const Color color = pick(ColorFromQt(swatch->Color()));
@@ -63,7 +40,6 @@ QString Plain(int value) { return QString::number(value); }
 QString BlankLed(int value) { return Utf8ToQString(NumberWithSignBlank(value)); }
 
 void ShowValue(QAbstractSlider* bar, QLabel* label, std::function<QString(int)> write) {
-  GreyWith(bar, label);
   QObject::connect(bar, &QAbstractSlider::valueChanged, label,
                    [label, write = std::move(write)](int value) { label->setText(write(value)); });
 }

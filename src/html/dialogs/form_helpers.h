@@ -22,11 +22,8 @@ class Swatch;
 // Enables the widgets while the box is checked.
 void EnableWith(QCheckBox* box, std::initializer_list<QWidget*> widgets);
 
-// Disables the follower while the source is disabled. The follower keeps its text.
-void GreyWith(QWidget* source, QWidget* follower);
-
 // The button calls `pick` with the swatch's colour. The result is shown in the swatch and, in hexadecimal digits, in
-// the label; `taken` is called with the result. The label is disabled together with the button.
+// the label; `taken` is called with the result.
 void ConnectColorChoice(QAbstractButton* button, Swatch* swatch, QLabel* hex, std::function<Color(Color)> pick,
                         std::function<void(const QColor&)> taken = {});
 
@@ -40,7 +37,7 @@ QString Plain(int value);
 QString BlankLed(int value);
 
 // Writes each new value of the bar into the label. Before the first change the label has the form's text, even if the
-// bar has another value. Tags get the label's text, not the bar's value. The label is disabled together with the bar.
+// bar has another value. Tags get the label's text, not the bar's value.
 void ShowValue(QAbstractSlider* bar, QLabel* label, std::function<QString(int)> write = Plain);
 
 struct BarRange {

@@ -14,11 +14,11 @@ Frame::Frame(TextBuffer& buffer, std::function<void(const std::string&)> show_in
   EnableWith(ui_->Check4, {ui_->Text1});
   EnableWith(ui_->Check6, {ui_->Combo3});
   EnableWith(ui_->Check1, {ui_->Combo2});
-  EnableWith(ui_->Check7, {ui_->VScroll1});
-  EnableWith(ui_->Check8, {ui_->VScroll2});
+  EnableWith(ui_->Check7, {ui_->VScroll1, ui_->Label13});
+  EnableWith(ui_->Check8, {ui_->VScroll2, ui_->Label4});
   EnableWith(ui_->Check9,
              {ui_->letterR, ui_->VScroll12, ui_->letterG, ui_->VScroll11, ui_->letterB, ui_->VScroll10, ui_->Label8});
-  EnableWith(ui_->Check3, {ui_->Label9, ui_->VScroll4, ui_->Label10, ui_->VScroll5});
+  EnableWith(ui_->Check3, {ui_->Label9, ui_->VScroll4, ui_->Label10, ui_->VScroll5, ui_->Label11, ui_->Label12});
   // required: Label13 and Label4 begin at "0", which their bars never reach, and the tag gets the labels' text
   ShowValue(ui_->VScroll1, ui_->Label13);
   ShowValue(ui_->VScroll2, ui_->Label4);

@@ -18,10 +18,11 @@ Obrazek::Obrazek(TextBuffer& buffer, std::function<void(const std::string&)> sho
 }
 
 void Obrazek::EnableGroups() {
-  EnableWith(ui_->Check1, {ui_->Option6, ui_->Option7, ui_->Label5, ui_->VScroll1, ui_->Label6, ui_->VScroll2});
+  EnableWith(ui_->Check1, {ui_->Option6, ui_->Option7, ui_->Label5, ui_->VScroll1, ui_->Label6, ui_->VScroll2,
+                           ui_->Label3, ui_->Label4});
   EnableWith(ui_->Check8, {ui_->Option1, ui_->Option2, ui_->Option3, ui_->Option4, ui_->Option5});
-  EnableWith(ui_->Check3, {ui_->Label9, ui_->VScroll4, ui_->Label10, ui_->VScroll5});
-  EnableWith(ui_->Check2, {ui_->Label7, ui_->VScroll3});
+  EnableWith(ui_->Check3, {ui_->Label9, ui_->VScroll4, ui_->Label10, ui_->VScroll5, ui_->Label11, ui_->Label12});
+  EnableWith(ui_->Check2, {ui_->Label7, ui_->VScroll3, ui_->Label8});
   EnableWith(ui_->Check4, {ui_->Text1});
   EnableWith(ui_->Check6, {ui_->Text2});
   EnableWith(ui_->Check7, {ui_->Text3});

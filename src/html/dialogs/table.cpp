@@ -67,14 +67,14 @@ void Table::MakeTabs() {
 }
 
 void Table::ConnectGroups() {
-  EnableWith(ui_->Check1, {ui_->Option1, ui_->Option2, ui_->VScroll3});
+  EnableWith(ui_->Check1, {ui_->Option1, ui_->Option2, ui_->VScroll3, ui_->Label5});
   EnableWith(ui_->Check2, {ui_->Option3, ui_->Option4, ui_->Option5});
   EnableWith(ui_->Check3, {ui_->Text1});
   EnableWith(ui_->Check4, {ui_->Option6, ui_->Option7, ui_->Option8, ui_->Option9, ui_->Option10, ui_->Option11,
-                           ui_->Option12, ui_->Option13, ui_->Label6, ui_->VScroll4});
+                           ui_->Option12, ui_->Option13, ui_->Label6, ui_->VScroll4, ui_->Label7});
   EnableWith(ui_->Check5, {ui_->Option14, ui_->Option15, ui_->Option16, ui_->Option17});
-  EnableWith(ui_->Check6, {ui_->VScroll5});
-  EnableWith(ui_->Check7, {ui_->VScroll6});
+  EnableWith(ui_->Check6, {ui_->VScroll5, ui_->Label8});
+  EnableWith(ui_->Check7, {ui_->VScroll6, ui_->Label9});
   EnableWith(ui_->Check8, {ui_->Text2, ui_->Option18, ui_->Option19, ui_->Option20, ui_->Option21});
   LinkUnit(ui_->Option2, ui_->VScroll3, ui_->Label5);
   // required: Label7 begins at " 1" although its bar is at 0, and the tag gets the label's text

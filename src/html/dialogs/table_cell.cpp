@@ -7,13 +7,13 @@ namespace pelmar {
 
 TableCell::TableCell(TextBuffer& buffer, std::function<Color(Color)> pick_color, QWidget* parent)
     : AttributesDialog(buffer, parent) {
-  EnableWith(ui_->Check3, {ui_->Command3});
+  EnableWith(ui_->Check3, {ui_->Command3, ui_->Label2});
   ConnectColorChoice(ui_->Command3, ui_->Label1, ui_->Label2, std::move(pick_color));
-  EnableWith(ui_->Check4, {ui_->VScroll4});
+  EnableWith(ui_->Check4, {ui_->VScroll4, ui_->Label3});
   ShowValue(ui_->VScroll4, ui_->Label3);
-  EnableWith(ui_->Check5, {ui_->VScroll5});
+  EnableWith(ui_->Check5, {ui_->VScroll5, ui_->Label4});
   ShowValue(ui_->VScroll5, ui_->Label4);
-  EnableWith(ui_->Check7, {ui_->VScroll6, ui_->Check8});
+  EnableWith(ui_->Check7, {ui_->VScroll6, ui_->Check8, ui_->Label8});
   LinkUnit(ui_->Check8, ui_->VScroll6, ui_->Label8, Plain);
 }
 

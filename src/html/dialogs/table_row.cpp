@@ -15,6 +15,9 @@ std::string TableRow::OpeningTag() const { return RowTag(Read()); }
 
 void TableRow::InsertTags() { InsertRow(buffer_, Read()); }
 
-void TableRow::EnableForEditor(bool enabled) { ui_->VScroll1->setEnabled(enabled); }
+void TableRow::EnableForEditor(bool enabled) {
+  ui_->VScroll1->setEnabled(enabled);
+  ui_->Label2->setEnabled(enabled);
+}
 
 }  // namespace pelmar

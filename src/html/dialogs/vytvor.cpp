@@ -20,7 +20,7 @@ Vytvor::Vytvor(TextBuffer& buffer, MainView& view, const SettingsRecord& setting
   setObjectName(QStringLiteral("Vytvoř"));
   ui_->Text1->SetText(ToBytes(kPreviewText));
   ConnectColors(callbacks.pick_color);
-  EnableWith(ui_->Check8, {ui_->HScroll1});
+  EnableWith(ui_->Check8, {ui_->HScroll1, ui_->Label14});
   ShowValue(ui_->HScroll1, ui_->Label14);
   choice_.Link(callbacks.show_in_browser);
   EnableWith(ui_->Check3, {ui_->Drive1, ui_->Dir1, ui_->File1, ui_->Combo1, ui_->Check4});
@@ -45,7 +45,7 @@ void Vytvor::ConnectColors(const std::function<Color(Color)>& pick_color) {
       {ui_->Check6, ui_->Command8, ui_->Picture3, ui_->Label11, {}},
   };
   for (const Row& row : rows) {
-    EnableWith(row.box, {row.button});
+    EnableWith(row.box, {row.button, row.hex});
     ConnectColorChoice(row.button, row.swatch, row.hex, pick_color, row.preview);
   }
 }
