@@ -1,15 +1,51 @@
+#include <QLoggingCategory>
 #include <cstdlib>
 #include <memory>
 
-#include "html/browser/browser_module.h"
 #include "html/browser/frm_browser.h"
+#include "html/browser/web_view.h"
 #include "html/test_page.h"
 #include "platform/qt/application.h"
 #include "platform/qt/convert.h"
+#include "platform/qt/module.h"
 #include "shell/services/program_parts.h"
 
 namespace pelmar {
 namespace {
+
+// Loads the module pelmar-browser at the first use of the internal browser. The module is a separate shared library,
+// since it needs the large web engine.
+class BrowserModule {
+ public:
+  // Loads the module at the first call. Null if the module is missing or broken: Problem() then has the reason, and the
+  // next call tries again.
+  WebViewMaker* Maker();
+
+  // The reason, as a message for the person.
+  [[nodiscard]] const QString& Problem() const { return problem_; }
+
+ private:
+  WebViewMaker* maker_ = nullptr;
+  QString problem_;
+};
+
+WebViewMaker* BrowserModule::Maker() {
+  if (maker_ != nullptr) return maker_;
+  // Hides the engine's warning on standard error that the engine isn't linked into the program.
+  QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
+  const LoadedModule module = LoadModule(ModuleFolders(), QStringLiteral("pelmar-browser.so"));
+  QLoggingCategory::setFilterRules(QString());
+  maker_ = qobject_cast<WebViewMaker*>(module.plugin);
+  if (maker_ != nullptr) return maker_;
+  if (module.path.isEmpty()) {
+    problem_ = QStringLiteral("Interní browser není nainstalován.\r\nJe v balíčku pelmar-vex-browser.");
+  } else {
+    const QString other_version = QStringLiteral("Modul je z jiné verze programu.");
+    problem_ =
+        QStringLiteral("Interní browser nelze spustit.\r\n") + (module.error.isEmpty() ? other_version : module.error);
+  }
+  return nullptr;
+}
 
 // The browser's window. Null if the module doesn't load; the person has then seen a message.
 FrmBrowser* Browser(const ProgramParts& parts, BrowserModule& module) {
