@@ -10,10 +10,24 @@
 #include "texttools/find.h"
 #include "texttools/lines.h"
 #include "texttools/random_text.h"
-#include "texttools/transforms.h"
 
 namespace pelmar {
 namespace {
+
+// The first letter of each word in upper case, all others in lower case. Only blanks and the control characters 0 and 9
+// to 13 separate words.
+std::string ProperCase(std::string_view text) {
+  std::string result(text);
+  bool first = true;
+  for (char& ch : result) {
+    ch = first ? ToUpper(ch) : ToLower(ch);
+    first = ch == '\0' || ch == ' ' || (ch >= '\t' && ch <= '\r');
+  }
+  return result;
+}
+
+// The characters from last to first. A line break becomes LF CR.
+std::string Reversed(std::string_view text) { return {text.rbegin(), text.rend()}; }
 
 // Adds a command that replaces the selected text by what `transform` returns.
 void AddTransform(Editor& e, std::string_view name, std::function<std::string(std::string_view)> transform) {
