@@ -1,8 +1,10 @@
 #include "ciphers/check_sums.h"
 
 #include <cstdio>
+#include <string>
 
 #include "shell/common.h"
+#include "shell/editor.h"
 #include "text/codepage.h"
 
 namespace pelmar {
@@ -13,6 +15,12 @@ std::string Line(std::string_view name, std::int64_t sum) {
   std::snprintf(digits, sizeof digits, "%llX (%lld)", static_cast<unsigned long long>(sum),
                 static_cast<long long>(sum));
   return std::string(name) + " součet je #" + digits;
+}
+
+// A line for each sum, in hexadecimal and decimal. UTF-8.
+std::string SumsMessage(const CheckSums& sums) {
+  return JoinLines({Line("CRC", sums.crc), Line("ContraCRC", sums.contra_crc), Line("&CRC", sums.and_crc),
+                    Line("ShortCRC", sums.short_crc)});
 }
 
 }  // namespace
@@ -29,9 +37,10 @@ CheckSums SumsOf(std::string_view text) {
   return sums;
 }
 
-std::string SumsMessage(const CheckSums& sums) {
-  return JoinLines({Line("CRC", sums.crc), Line("ContraCRC", sums.contra_crc), Line("&CRC", sums.and_crc),
-                    Line("ShortCRC", sums.short_crc)});
+void AddCheckSumCommand(Editor& editor) {
+  editor.commands.Add("mnu_crc", [&editor] {
+    editor.platform.Message(MessageType::kOkInfo, SumsMessage(SumsOf(editor.text.Text())), "CRC");
+  });
 }
 
 }  // namespace pelmar

@@ -2,10 +2,11 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
 #include <string_view>
 
 namespace pelmar {
+
+struct Editor;
 
 struct CheckSums {
   std::int64_t crc = 0;         // all codes
@@ -16,7 +17,7 @@ struct CheckSums {
 // Only `crc` counts the characters after the last whole pair or four.
 CheckSums SumsOf(std::string_view text);
 
-// The message: a line for each sum, in hexadecimal and decimal. UTF-8.
-std::string SumsMessage(const CheckSums& sums);
+// Adds the command that shows the sums of the document.
+void AddCheckSumCommand(Editor& editor);
 
 }  // namespace pelmar

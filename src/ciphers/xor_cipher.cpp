@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "shell/editor.h"
 #include "text/codepage.h"
 #include "text/number_text.h"
 
@@ -68,6 +69,13 @@ std::string PrimitiveRewrite(std::string_view text) {
   std::string result(text);
   for (char& ch : result) ch = CharOf(-CodeOf(ch));
   return result;
+}
+
+void AddPrimitiveCipherCommand(Editor& editor) {
+  editor.commands.Add("mnuZaKodPrim", [&editor] {
+    editor.text.SetText(PrimitiveRewrite(editor.text.Text()));
+    editor.platform.Message(MessageType::kOk, "Ukončeno kódování.", "kód");
+  });
 }
 
 }  // namespace pelmar

@@ -14,6 +14,8 @@
 
 namespace pelmar {
 
+struct Editor;
+
 // The text that the key field shows after a typed text: the number is read and written until the text stays the same.
 // required: reading needs a point and writing uses a comma, so a fraction loses its decimals.
 std::string KeyText(std::string_view typed);
@@ -36,5 +38,8 @@ void RewriteStream(TextBuffer& buffer, double key, std::string& output, Platform
 
 // Each code becomes 256 minus the code. 0 stays.
 std::string PrimitiveRewrite(std::string_view text);
+
+// Adds the command of the primitive cipher.
+void AddPrimitiveCipherCommand(Editor& editor);
 
 }  // namespace pelmar

@@ -1,7 +1,8 @@
 #include "program/commands.h"
 
 #include "accessories/morse.h"
-#include "ciphers/commands.h"
+#include "ciphers/check_sums.h"
+#include "ciphers/xor_cipher.h"
 #include "files/files.h"
 #include "html/lists.h"
 #include "html/tag_commands.h"
@@ -17,7 +18,8 @@ void AddCommands(Editor& editor, Files& files) {
   AddInsertCommands(editor);
   AddTextToolCommands(editor);
   AddListCommands(editor);
-  AddCipherCommands(editor);
+  AddPrimitiveCipherCommand(editor);
+  AddCheckSumCommand(editor);
   AddPageTestCommands(editor);
   AddMorseCommand(editor);
 }
