@@ -11,6 +11,7 @@ namespace {
 
 constexpr int kFilterIndex = 0;
 constexpr std::size_t kCountSize = 2;
+constexpr std::size_t kLongestField = 65535;  // bytes, the limit of a 16-bit count
 constexpr std::uint64_t kLargestTable = (kSymbols + 3) * (kCountSize + kLongestField) + 1;
 
 }  // namespace

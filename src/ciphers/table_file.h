@@ -14,11 +14,8 @@ namespace pelmar {
 
 inline constexpr std::string_view kTableFilter = "Pelmar VEX Šifrovací tabulka (*.pvt)|*.pvt";
 
-// The longest text in a field of the file, in bytes.
-inline constexpr std::size_t kLongestField = 65535;
-
 CipherTable ReadTable(std::string_view bytes);
-// Cuts fields to kLongestField bytes.
+// Cuts fields to 65,535 bytes.
 std::string TableBytes(const CipherTable& table);
 
 // Loads and saves a table through the file dialogs. Load and Save share the path of the last file.

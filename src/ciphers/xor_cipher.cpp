@@ -10,20 +10,14 @@ namespace pelmar {
 namespace {
 
 constexpr char kBroken = '\b';
+// The number of characters between two calls of on_progress. A larger step saves time; a smaller step keeps the windows
+// more responsive.
+constexpr std::size_t kStep = 4096;
 
 // True if the person ends the run.
 bool EndsBroken(Platform& platform) {
   platform.Message(MessageType::kOk, "Porusena intengrita textu!", "Kódování");
   return platform.Confirmed("Ukončit proces? (doporučuji ne)", "Kódování");
-}
-
-// The number of characters between two calls of on_progress. A larger step saves time; a smaller step keeps the windows
-// more responsive.
-std::size_t StepSize(std::size_t length) {
-  constexpr std::size_t kSteps = 64;
-  constexpr std::size_t kSmallest = 4096;
-  constexpr std::size_t kLargest = 1 << 20;
-  return std::clamp(length / kSteps, kSmallest, kLargest);
 }
 
 }  // namespace
@@ -47,10 +41,9 @@ void RewriteStream(TextBuffer& buffer, double key, std::string& output, Platform
   output.clear();
   StreamCipher cipher(key);
   const std::size_t length = buffer.Size();
-  const std::size_t step = StepSize(length);
   // The document may become shorter during the run. Then the run stops at the new end.
   for (std::size_t done = 0; done < std::min(length, buffer.Size());) {
-    std::string_view part = std::string_view(buffer.Text()).substr(done, std::min(step, length - done));
+    std::string_view part = std::string_view(buffer.Text()).substr(done, std::min(kStep, length - done));
     if (part.front() == kBroken) {
       // The progress bar shows the position of this character during the question.
       if (!on_progress(done + 1) || EndsBroken(platform)) return;

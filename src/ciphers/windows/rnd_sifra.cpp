@@ -36,7 +36,7 @@ RND_Sifra::RND_Sifra(Editor& editor, QWidget* parent)
   connect(ui_->Command8, &QPushButton::clicked, this, &RND_Sifra::Command8_Click);
   connect(ui_->Command9, &QPushButton::clicked, this, &RND_Sifra::Command9_Click);
   connect(ui_->HScroll1, &QScrollBar::valueChanged, ui_->Label9, qOverload<int>(&QLabel::setNum));
-  connect(ui_->Text2, &TextBox::TextChanged, this, &RND_Sifra::Text2_Change);
+  connect(ui_->Text2, &TextBox::TextChanged, this, [this] { table_.note = ui_->Text2->Buffer().Text(); });
   ui_->Command1->setFocus();
 }
 
@@ -83,13 +83,6 @@ void RND_Sifra::Command9_Click() {
   platform_.ReseedRandom();
   GenerateNewLetterSplit();
   ShowCoefficients(CountedDigits::kFirstEight);
-}
-
-void RND_Sifra::Text2_Change() {
-  TextBuffer& note = ui_->Text2->Buffer();
-  // Cuts the note to the longest field of a file. The cut calls this function again.
-  if (note.Size() > kLongestField) return note.Replace(kLongestField, note.Size() - kLongestField, {});
-  table_.note = note.Text();
 }
 
 void RND_Sifra::GenerateNewCodes() {

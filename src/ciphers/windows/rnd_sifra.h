@@ -28,7 +28,6 @@ class RND_Sifra : public FormDialog<Ui::RND_Sifra> {
   void Command6_Click();
   void Command8_Click();
   void Command9_Click();
-  void Text2_Change();
   void GenerateNewCodes();
   void GenerateNewLetterSplit();
   void ShowCodes();

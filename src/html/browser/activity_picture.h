@@ -9,15 +9,12 @@ namespace pelmar {
 
 class ActivityPicture : public QWidget {
   Q_OBJECT
-  Q_PROPERTY(int frame READ Frame)
 
  public:
   static constexpr int kFrames = 8;
 
   explicit ActivityPicture(QWidget* parent = nullptr);
 
-  // The number of the shown frame, from 0.
-  [[nodiscard]] int Frame() const { return frame_; }
   // Shows the next frame, and the first one after the last.
   void Step();
 

@@ -133,16 +133,14 @@ bool FrmBrowser::eventFilter(QObject* watched, QEvent* event) {
 
 void FrmBrowser::ShowInBrowser(const std::string& path) {
   Visit(AddressOfFile(path));
-  Present();
+  BringToFront(*this);
 }
 
 void FrmBrowser::ShowAlone() {
-  Present();
+  BringToFront(*this);
   if (!StartingAddress.isEmpty()) Visit(StartingAddress);
   ui_->cboAddress->setFocus();
 }
-
-void FrmBrowser::Present() { BringToFront(*this); }
 
 void FrmBrowser::Visit(const QString& address) {
   DontNavigateNow = true;

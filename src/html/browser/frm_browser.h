@@ -31,8 +31,6 @@ class FrmBrowser : public QMainWindow {
   void ShowInBrowser(const std::string& path);
   // Shows the window with its first page. Only for a browser that is the whole program.
   void ShowAlone();
-  // Shows the window, or brings it to the front.
-  void Present();
 
   QString StartingAddress;
   bool DontNavigateNow = false;  // true while the program itself changes the address list

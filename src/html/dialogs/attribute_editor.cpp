@@ -19,7 +19,6 @@ AttributeEditor::AttributeEditor(QWidget* parent) : QWidget(parent), ui_(std::ma
 
 AttributeEditor::~AttributeEditor() = default;
 
-QComboBox* AttributeEditor::NameBox() const { return ui_->Atribut; }
 QComboBox* AttributeEditor::ValueBox() const { return ui_->Hodnota; }
 
 }  // namespace pelmar

@@ -24,8 +24,7 @@ class AttributeEditor : public QWidget {
 
   [[nodiscard]] PairedLists& Lists() const { return *lists_; }
 
-  // The boxes `Atribut` and `Hodnota`.
-  [[nodiscard]] QComboBox* NameBox() const;
+  // The box `Hodnota`.
   [[nodiscard]] QComboBox* ValueBox() const;
 
  private:

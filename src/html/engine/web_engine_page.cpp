@@ -9,7 +9,6 @@
 #include <QWebEngineCertificateError>
 #include <QWebEngineClientCertificateSelection>
 #include <QWebEngineFileSystemAccessRequest>
-#include <QWebEngineFullScreenRequest>
 #include <QWebEngineNewWindowRequest>
 #include <QWebEngineRegisterProtocolHandlerRequest>
 #include <QWebEngineSettings>
@@ -140,8 +139,6 @@ void WebEnginePage::RefuseRequests() {
           [](QWebEngineRegisterProtocolHandlerRequest request) { request.reject(); });
   connect(this, &QWebEnginePage::fileSystemAccessRequested, this,
           [](QWebEngineFileSystemAccessRequest request) { request.reject(); });
-  connect(this, &QWebEnginePage::fullScreenRequested, this,
-          [](QWebEngineFullScreenRequest request) { request.reject(); });
   connect(this, &QWebEnginePage::selectClientCertificate, this,
           [](QWebEngineClientCertificateSelection selection) { selection.selectNone(); });
   connect(this, &QWebEnginePage::certificateError, this,
