@@ -31,9 +31,9 @@ void RequireRewrite(const std::string& text, const TagRange& range, const TagAna
 void Check(const std::string& text, std::size_t caret) {
   const TagAnalysis analysis = AnalyseTag(text, caret);
   const AttributeLists& lists = analysis.attributes;
-  Require(analysis.has_tag || (!analysis.range && analysis.name.empty() && !analysis.failed_in));
+  Require(analysis.has_tag || (!analysis.range && analysis.name.empty() && analysis.failed_in.empty()));
   // The lists differ in length only if the analysis failed between a name and its value.
-  Require(lists.names.size() == lists.values.size() + (analysis.failed_in == TagStep::kFill ? 1 : 0));
+  Require(lists.names.size() == lists.values.size() + (analysis.failed_in == "Přepis" ? 1 : 0));
   if (!analysis.range) return Require(lists.names.empty());
   RequireRange(text, caret, *analysis.range);
   RequireRewrite(text, *analysis.range, analysis);

@@ -7,7 +7,6 @@
 #include "platform/runtime_error.h"
 #include "shell/common.h"
 #include "text/codepage.h"
-#include "text/index.h"
 #include "text/insert.h"
 
 namespace pelmar {
@@ -73,24 +72,24 @@ class Analyser {
     try {
       Analyse();
     } catch (const RuntimeError&) {
-      result_.failed_in = step_;
+      result_.failed_in = tag_step_;
     }
     return std::move(result_);
   }
 
  private:
   void Analyse() {
-    step_ = TagStep::kSearch;
+    tag_step_ = "Hledání tagu";
     if (!FindTag()) return;
-    step_ = TagStep::kReformat;
+    tag_step_ = "Přeformátování";
     const std::size_t blank = TakeName();
     if (blank == std::string_view::npos) return;
     const auto count =
         static_cast<std::ptrdiff_t>(tag_.size() - blank) - 2;  // without the blank and the last character
     const std::string attributes = Reformatted(std::string(Middle(tag_, blank + 1, count)) + ' ');
-    step_ = TagStep::kSplit;
+    tag_step_ = "Analýza";
     const std::vector<std::string> tag_parts = SplitAttributes(attributes);
-    step_ = TagStep::kFill;
+    tag_step_ = "Přepis";
     for (const std::string& part : tag_parts) FillRow(part);
   }
 
@@ -132,7 +131,7 @@ class Analyser {
 
   std::string_view text_;
   std::size_t sel_start_;
-  TagStep step_ = TagStep::kInit;
+  std::string_view tag_step_ = "Init";  // named in the message of a failure
   std::size_t start_ = 0;
   std::string_view tag_;
   TagAnalysis result_;
@@ -140,20 +139,15 @@ class Analyser {
 
 }  // namespace
 
-std::string_view TagStepName(TagStep step) {
-  static constexpr std::string_view kNames[] = {"Init", "Hledání tagu", "Přeformátování", "Analýza", "Přepis"};
-  return kNames[IndexOf(step)];
-}
-
 TagAnalysis AnalyseTag(std::string_view text, std::size_t sel_start) { return Analyser(text, sel_start).Run(); }
 
 TagAnalysis OpenTag(TextBuffer& buffer, Platform& platform) {
   TagAnalysis analysis = AnalyseTag(buffer.Text(), buffer.SelStart());
   if (!analysis.has_tag) platform.Message(MessageType::kOk, kNoTag, "EdiTag");
   if (analysis.range) buffer.Select(analysis.range->start, analysis.range->start + analysis.range->length);
-  if (analysis.failed_in) {
+  if (!analysis.failed_in.empty()) {
     std::string message = "Došlo k chybě při zpracování tagu. Ujistěte se, že se jedná o html tag ve správném formátu";
-    message.append(kCrLf).append("Kód chyby: ").append(TagStepName(*analysis.failed_in));
+    message.append(kCrLf).append("Kód chyby: ").append(analysis.failed_in);
     platform.Message(MessageType::kOk, message, "EdiTag");
   }
   return analysis;

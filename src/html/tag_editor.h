@@ -21,10 +21,6 @@ struct AttributeLists {
   bool operator==(const AttributeLists&) const = default;
 };
 
-// The steps of an analysis.
-enum class TagStep { kInit, kSearch, kReformat, kSplit, kFill };
-std::string_view TagStepName(TagStep step);  // UTF-8
-
 struct TagRange {
   std::size_t start = 0;
   std::size_t length = 0;
@@ -37,7 +33,7 @@ struct TagAnalysis {
   std::optional<TagRange> range;  // the tag, for the editor to select
   std::string name;
   AttributeLists attributes;
-  std::optional<TagStep> failed_in;
+  std::string_view failed_in;  // the Czech name of the step that failed, UTF-8; "" if none failed
 };
 
 // Splits the tag at the caret into its name and attributes. `sel_start` is the start of the selection.

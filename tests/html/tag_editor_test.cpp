@@ -16,7 +16,8 @@ constexpr std::size_t kNone = std::string::npos;
 
 // A result in one line: start and length of the tag, its name, "|NAME:value" for each row, then the failed step.
 std::string Shown(const TagAnalysis& analysis) {
-  if (!analysis.has_tag) return analysis.range || analysis.failed_in ? "none, but a range or a failure" : "none";
+  if (!analysis.has_tag)
+    return analysis.range || !analysis.failed_in.empty() ? "none, but a range or a failure" : "none";
   std::string shown = "no range";
   if (analysis.range) shown = std::to_string(analysis.range->start) + '+' + std::to_string(analysis.range->length);
   shown += ' ' + analysis.name;
@@ -24,7 +25,7 @@ std::string Shown(const TagAnalysis& analysis) {
     shown += '|' + analysis.attributes.names[row];
     if (row < analysis.attributes.values.size()) shown += ':' + analysis.attributes.values[row];
   }
-  return analysis.failed_in ? shown + " !" + std::string(TagStepName(*analysis.failed_in)) : shown;
+  return analysis.failed_in.empty() ? shown : shown + " !" + std::string(analysis.failed_in);
 }
 
 std::string Rewritten(std::string text, std::string_view find, std::string_view with) {
