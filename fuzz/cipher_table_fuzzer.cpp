@@ -9,6 +9,8 @@
 
 namespace {
 
+constexpr auto kNoProgress = [](std::size_t) {};
+
 std::size_t SizeOf(const pelmar::CipherTable& table) {
   std::size_t size = table.one_letters.size() + table.zero_letters.size() + table.note.size();
   for (const std::string& code : table.symbol_codes) size += code.size();
@@ -33,9 +35,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   CoefficientsText(table, CountedDigits::kAll);
   CoefficientsText(table, CountedDigits::kFirstEight);
   constexpr std::string_view kText = ".AHOJ SVETE\r\nZ.";
-  const std::string cipher = RndEncipher(kText, table, [] { return 0.999; }, {});
+  const Draw draw = [] { return 0.999; };
+  const std::string cipher = RndEncipher(kText, table, draw, kNoProgress);
   Require(cipher.size() <= kText.size() * table.depth);
-  Require(RndDecipher(cipher, table, {}).size() <= kText.size());
-  RndDecipher(bytes, table, {});
+  Require(RndDecipher(cipher, table, kNoProgress).size() <= kText.size());
+  RndDecipher(bytes, table, kNoProgress);
   return 0;
 }

@@ -1,29 +1,12 @@
 #include "ciphers/rnd_cipher.h"
 
-#include <algorithm>
-
 #include "shell/common.h"
 #include "text/codepage.h"
 
 namespace pelmar {
 namespace {
 
-// Reports progress some thirty times in a text, and at its end.
-class Milestones {
- public:
-  Milestones(const Progress& progress, std::size_t all) : progress_(progress), all_(all), step_(all / 32 + 1) {}
-  void Pass(std::size_t done) {
-    if (done < next_ || !progress_) return;
-    progress_(done);
-    next_ = std::min(done + step_, all_);
-  }
-
- private:
-  const Progress& progress_;
-  std::size_t all_;
-  std::size_t step_;
-  std::size_t next_ = 0;
-};
+constexpr std::size_t kProgressStep = 1024;  // symbols between two calls of `progress`
 
 // The last symbol whose code holds the digits, kSymbols if no code does.
 std::size_t SymbolOf(const CipherTable& table, std::string_view digits) {
@@ -47,12 +30,11 @@ std::string PrepareText(std::string_view text) {
 }
 
 std::string RndEncipher(std::string_view text, const CipherTable& table, const Draw& draw, const Progress& progress) {
-  Milestones milestones(progress, text.size());
   std::string out;
   out.reserve(text.size() * table.depth);
   std::string_view code;
   for (std::size_t i = 0; i < text.size(); ++i) {
-    milestones.Pass(i);
+    if (i % kProgressStep == 0) progress(i);
     const std::size_t symbol = kSymbolCharacters.find(text[i]);
     if (symbol < kSymbols) code = table.symbol_codes[symbol];
     for (std::size_t j = 0; j < table.depth; ++j) {
@@ -62,23 +44,22 @@ std::string RndEncipher(std::string_view text, const CipherTable& table, const D
       if (drawn < letters.size()) out += letters[drawn];
     }
   }
-  milestones.Pass(text.size());
+  progress(text.size());
   return out;
 }
 
 std::string RndDecipher(std::string_view text, const CipherTable& table, const Progress& progress) {
   if (table.depth == 0) return {};
   const std::string digits = DigitsOf(text, table.zero_letters);
-  Milestones milestones(progress, digits.size());
   std::string out;
   std::size_t found = kSymbols;
   for (std::size_t at = 0; at < digits.size(); at += table.depth) {
-    milestones.Pass(at);
+    if (at % (kProgressStep * table.depth) == 0) progress(at);
     const std::size_t match = SymbolOf(table, std::string_view(digits).substr(at, table.depth));
     if (match < kSymbols) found = match;
     if (found < kSymbols) out += kSymbolCharacters[found];
   }
-  milestones.Pass(digits.size());
+  progress(digits.size());
   return out;
 }
 

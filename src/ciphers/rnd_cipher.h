@@ -12,7 +12,7 @@
 
 namespace pelmar {
 
-// Called now and then with the number of processed characters.
+// Called with the number of processed characters, every 1,024 symbols and at the end. Must not be empty.
 using Progress = std::function<void(std::size_t done)>;
 
 // The text in upper case and without diacritics. Characters that are no symbols are dropped.

@@ -14,6 +14,8 @@
 namespace pelmar {
 namespace {
 
+constexpr auto kNoProgress = [](std::size_t) {};
+
 // A random table. The depth is also the seed. Codes of 24 digits and more are all different.
 CipherTable Table(int depth, const std::string& note = "note") {
   RandomSource random(static_cast<unsigned>(depth));
@@ -79,7 +81,8 @@ TEST(RndCipher, CoefficientsCountTheFirstEightDigitsOrAll) {
 TEST(RndCipher, WritesEachDigitAsALetterOfItsSet) {
   CipherTable table{{"01010011"}, 8, "NOPQRSTUVWXYZ", "ABCDEFGHIJKLM", {}};
   const auto cipher = [&table](std::string_view text, double r) {
-    return RndEncipher(text, table, [r] { return r; }, {});
+    const Draw draw = [r] { return r; };
+    return RndEncipher(text, table, draw, kNoProgress);
   };
   EXPECT_EQ(cipher("A", 0.9999), "MZMZMMZZ");
   EXPECT_EQ(cipher("A.", 0), "ANANAANNANANAANN");  // required: "." gets the code of the symbol before it
@@ -93,9 +96,9 @@ TEST(RndCipher, DecipheringUndoesEnciphering) {
   for (int depth = 24; depth <= 64; ++depth) {
     const CipherTable table = Table(depth);
     const std::string text = source.Text(999, "ABCDEFGHIJKLMNOPQRSTUVWXYZ \r\n");
-    const std::string cipher = RndEncipher(text, table, source.Draws(), {});
+    const std::string cipher = RndEncipher(text, table, source.Draws(), kNoProgress);
     ASSERT_EQ(PrepareText(cipher), cipher);
-    ASSERT_EQ(RndDecipher(cipher, table, {}), text) << depth;
+    ASSERT_EQ(RndDecipher(cipher, table, kNoProgress), text) << depth;
   }
 }
 
@@ -105,9 +108,9 @@ TEST(RndCipher, DeciphersWithADamagedTable) {
   CipherTable table{{"01", "01", "110"}, 2, {}, "A", {}};
   const std::pair<std::string_view, std::string_view> cases[] = {
       {"AX", "B"}, {"A\n", "B"}, {"XXXA", "CC"}, {"AAAX", "B"}, {"AXAA", "BB"}, {"AXA", "BC"}, {"", ""}};
-  for (const auto& [text, expected] : cases) EXPECT_EQ(RndDecipher(text, table, {}), expected) << text;
+  for (const auto& [text, expected] : cases) EXPECT_EQ(RndDecipher(text, table, kNoProgress), expected) << text;
   table.depth = 0;
-  EXPECT_EQ(RndDecipher("AX", table, {}), "");
+  EXPECT_EQ(RndDecipher("AX", table, kNoProgress), "");
 }
 
 TEST(TableFile, IsReadUpToTheLastCompleteField) {
