@@ -8,7 +8,7 @@
 namespace pelmar {
 namespace {
 
-constexpr TagWrapper kTagWrappers[] = {
+constexpr TagCommand kTagCommands[] = {
     {"mnuBold", "<B>", "</B>", "Tučně"_w},
     {"mnuHtmlI", "<I>", "</I>", "Kurzívou"_w},
     {"mnuHTMLU", "<U>", "</U>", "Podtrženě"_w},
@@ -39,10 +39,10 @@ constexpr FixedInsert kFixedInserts[] = {
 
 }  // namespace
 
-std::span<const TagWrapper> TagWrappers() { return kTagWrappers; }
+std::span<const TagCommand> TagCommands() { return kTagCommands; }
 
 void AddTagCommands(Editor& e) {
-  for (const TagWrapper& tag : TagWrappers())
+  for (const TagCommand& tag : TagCommands())
     e.commands.Add(tag.command, [&e, &tag] { WrapSelection(e.text, tag.open, tag.close, tag.sample); });
   AddFixedInserts(e, kFixedInserts);
 }

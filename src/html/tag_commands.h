@@ -10,13 +10,13 @@ namespace pelmar {
 struct Editor;
 
 // A command that puts the selection, or `sample` if nothing is selected, between two tags.
-struct TagWrapper {
+struct TagCommand {
   std::string_view command;
   std::string_view open;
   std::string_view close;
   std::string_view sample;
 };
-std::span<const TagWrapper> TagWrappers();
+std::span<const TagCommand> TagCommands();
 
 void AddTagCommands(Editor& editor);
 

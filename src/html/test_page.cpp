@@ -11,7 +11,7 @@ namespace {
 constexpr std::string_view kPageName = "$$$PelmarTemp";
 
 // Writes the document to a temporary page. If the page can't be written, shows a message and returns nothing.
-std::optional<TempFile> TryTestPage(Editor& e, std::string_view extension, PageEnd end, std::string_view title) {
+std::optional<TempFile> WriteTestPage(Editor& e, std::string_view extension, PageEnd end, std::string_view title) {
   std::string text = e.text.Text();
   if (end == PageEnd::kLineBreak) text += kCrLf;
   TempFile page;
@@ -41,7 +41,7 @@ void TestHtml(Editor& e) {
     e.platform.OpenWithDefaultProgram(path);
     return;
   }
-  const std::optional<TempFile> page = TryTestPage(e, ".htm", PageEnd::kLineBreak, "Testuj html");
+  const std::optional<TempFile> page = WriteTestPage(e, ".htm", PageEnd::kLineBreak, "Testuj html");
   if (!page) return;
   // required: this path lacks kPageName, so it isn't the path of the written page. No message follows
   e.platform.OpenWithDefaultProgram(e.platform.TempFolder() + page->digits + ".htm");
@@ -67,7 +67,7 @@ std::string StripHtml(std::string_view text) {
 
 std::optional<std::string> PageToShow(Editor& editor, PageEnd end) {
   if (const std::string& path = editor.documents.CurrentPath(); !path.empty()) return path;
-  const std::optional<TempFile> page = TryTestPage(editor, ".html", end, "Interní browser");
+  const std::optional<TempFile> page = WriteTestPage(editor, ".html", end, "Interní browser");
   return page ? std::optional(page->path) : std::nullopt;
 }
 

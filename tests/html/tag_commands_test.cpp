@@ -43,7 +43,7 @@ TEST_F(TagCommandsTest, WriteTheTimeAndTheProfile) {
 }
 
 TEST_F(TagCommandsTest, WrapTheSelectionInTagsThatMatch) {
-  for (const TagWrapper& tag : TagWrappers()) {
+  for (const TagCommand& tag : TagCommands()) {
     EXPECT_EQ(AfterCommand(std::string(tag.command), "x"), std::string(tag.open) + "x" + std::string(tag.close) + "-");
     EXPECT_EQ(tag.close.substr(tag.close.find('/') + 1), std::string(tag.open.substr(1, tag.open.find('>'))));
   }

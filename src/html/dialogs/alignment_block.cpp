@@ -22,11 +22,12 @@ void AlignmentBlock::EnableCharacter() {
 CellAlignment AlignmentBlock::Read() const {
   using enum CellAlign;
   using enum CellVAlign;
-  return {SetOption<CellAlign>(
-              ui_->Check1,
-              {{ui_->Option1, kLeft}, {ui_->Option2, kCenter}, {ui_->Option3, kRight}, {ui_->Option4, kCharacter}}),
-          FieldText(*ui_->Text1),
-          SetOption<CellVAlign>(ui_->Check2, {{ui_->Option5, kTop}, {ui_->Option6, kMiddle}, {ui_->Option7, kBottom}})};
+  return {
+      CheckedOption<CellAlign>(
+          ui_->Check1,
+          {{ui_->Option1, kLeft}, {ui_->Option2, kCenter}, {ui_->Option3, kRight}, {ui_->Option4, kCharacter}}),
+      FieldText(*ui_->Text1),
+      CheckedOption<CellVAlign>(ui_->Check2, {{ui_->Option5, kTop}, {ui_->Option6, kMiddle}, {ui_->Option7, kBottom}})};
 }
 
 }  // namespace pelmar

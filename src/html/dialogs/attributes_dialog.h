@@ -20,9 +20,9 @@ class AttributesDialog : public FragmentDialog<Form> {
     this->hide();  // a visible window can't become modal
     answer_.reset();
     for_builder_ = true;
-    EnableForEditor(false);
+    EnableTagOnlyFields(false);
     this->exec();
-    EnableForEditor(true);
+    EnableTagOnlyFields(true);
     for_builder_ = false;
     return answer_;
   }
@@ -33,7 +33,7 @@ class AttributesDialog : public FragmentDialog<Form> {
   [[nodiscard]] virtual std::string OpeningTag() const = 0;
   virtual void InsertTags() = 0;
   // Enables or disables the fields that change nothing in the result of AskAttributes().
-  virtual void EnableForEditor(bool enabled) = 0;
+  virtual void EnableTagOnlyFields(bool enabled) = 0;
 
  private:
   bool Put() override {

@@ -20,8 +20,8 @@ Barva::Barva(TextBuffer& buffer, std::function<Color(Color)> pick_color, QWidget
 bool Barva::Put() {
   FontSpec spec;
   if (ui_->Check1->isChecked()) spec.size = ui_->VScroll4->value();
-  spec.face = Written(ui_->Check2, ui_->Combo1);
-  spec.color = Written(ui_->Check3, ui_->Label2);
+  spec.face = TextIfChecked(ui_->Check2, ui_->Combo1);
+  spec.color = TextIfChecked(ui_->Check3, ui_->Label2);
   WrapSelection(buffer_, Font(spec));
   return true;
 }

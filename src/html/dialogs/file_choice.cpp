@@ -17,7 +17,7 @@ namespace pelmar {
 
 void FileChoice::Link(std::function<void(const std::string&)> show_in_browser) const {
   show->setIcon(SvgIcon(QStringLiteral(":/icons/browser.svg")));
-  LinkFileBrowser(places, folders, files, mask);
+  LinkFileBrowser(drives, folders, files, mask);
   const auto refresh = [choice = *this] { choice.Refresh(); };
   QObject::connect(files, &FileList::FileClicked, path, refresh);
   QObject::connect(files, &FileList::PathChanged, path, refresh);

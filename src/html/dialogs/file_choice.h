@@ -39,7 +39,7 @@ struct FileChoice {
   // LinkText of the path.
   std::string TakePath(QLineEdit& working_copy) const;
 
-  DriveList* places;
+  DriveList* drives;
   FolderList* folders;
   FileList* files;
   QComboBox* mask;

@@ -50,7 +50,7 @@ void LinkUnit(QAbstractButton* percent, QAbstractSlider* bar, QLabel* label, Wri
 
 // The text of the field in Windows-1250. Nothing if the box is not checked.
 template <class Field>
-std::optional<std::string> Written(const QCheckBox* box, const Field* field) {
+std::optional<std::string> TextIfChecked(const QCheckBox* box, const Field* field) {
   return box->isChecked() ? std::optional(FieldText(*field)) : std::nullopt;
 }
 
@@ -60,7 +60,7 @@ using Options = std::initializer_list<std::pair<const QRadioButton*, Value>>;
 
 // The value of the checked option, or of the first option if no option is checked.
 template <class Value>
-Value SetOption(Options<Value> options) {
+Value CheckedOption(Options<Value> options) {
   for (const auto& [option, value] : options)
     if (option->isChecked()) return value;
   return options.begin()->second;
@@ -68,8 +68,8 @@ Value SetOption(Options<Value> options) {
 
 // The value of the checked option, as above. Nothing if the box is not checked.
 template <class Value>
-std::optional<Value> SetOption(const QCheckBox* box, Options<Value> options) {
-  return box->isChecked() ? std::optional(SetOption<Value>(options)) : std::nullopt;
+std::optional<Value> CheckedOption(const QCheckBox* box, Options<Value> options) {
+  return box->isChecked() ? std::optional(CheckedOption<Value>(options)) : std::nullopt;
 }
 
 }  // namespace pelmar

@@ -38,12 +38,12 @@ FrameSpec Frame::Read() const {
   FrameSpec spec;
   spec.path = choice_.TakePath(*ui_->Text);
   spec.relative = ui_->Check5->isChecked();
-  spec.name = Written(ui_->Check4, ui_->Text1);
-  spec.align = Written(ui_->Check6, ui_->Combo3);
-  spec.border = Written(ui_->Check7, ui_->Label13);
-  spec.border_color = Written(ui_->Check9, ui_->Label8);
-  spec.spacing = Written(ui_->Check8, ui_->Label4);
-  spec.scrolling = Written(ui_->Check1, ui_->Combo2);
+  spec.name = TextIfChecked(ui_->Check4, ui_->Text1);
+  spec.align = TextIfChecked(ui_->Check6, ui_->Combo3);
+  spec.border = TextIfChecked(ui_->Check7, ui_->Label13);
+  spec.border_color = TextIfChecked(ui_->Check9, ui_->Label8);
+  spec.spacing = TextIfChecked(ui_->Check8, ui_->Label4);
+  spec.scrolling = TextIfChecked(ui_->Check1, ui_->Combo2);
   if (ui_->Check3->isChecked()) spec.margins = {FieldText(*ui_->Label12), FieldText(*ui_->Label11)};
   spec.noresize = ui_->Check2->isChecked();
   return spec;

@@ -12,7 +12,8 @@ Frames::Frames(TextBuffer& buffer, QWidget* parent) : FragmentDialog(buffer, par
 }
 
 bool Frames::Put() {
-  WrapInFrameset(buffer_, {Written(ui_->Check1, ui_->Text1), Written(ui_->Check2, ui_->Text2), FieldText(*ui_->Text3)});
+  WrapInFrameset(buffer_, {TextIfChecked(ui_->Check1, ui_->Text1), TextIfChecked(ui_->Check2, ui_->Text2),
+                           FieldText(*ui_->Text3)});
   return true;
 }
 

@@ -23,10 +23,10 @@ Hr::Hr(TextBuffer& buffer, QWidget* parent) : FragmentDialog(buffer, parent) {
 bool Hr::Put() {
   using enum Align;
   RuleSpec spec;
-  spec.align =
-      SetOption<Align>({{ui_->Option6, kNone}, {ui_->Option2, kLeft}, {ui_->Option1, kCenter}, {ui_->Option3, kRight}});
+  spec.align = CheckedOption<Align>(
+      {{ui_->Option6, kNone}, {ui_->Option2, kLeft}, {ui_->Option1, kCenter}, {ui_->Option3, kRight}});
   spec.no_shade = ui_->Shader->isChecked();
-  spec.width = Written(ui_->Check1, ui_->Label1);
+  spec.width = TextIfChecked(ui_->Check1, ui_->Label1);
   return Insert(HorizontalRule(spec));
 }
 

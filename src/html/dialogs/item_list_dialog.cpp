@@ -43,7 +43,7 @@ bool ItemListDialog<Form>::Put() {
   const qsizetype type = ui->kind->buttons().indexOf(ui->kind->checkedButton());
   if (ui->Check2->isChecked() && type >= 0) spec.type = static_cast<std::size_t>(type);
   spec.compact = ui->Check3->isChecked();
-  spec.heading = Written(ui->Check1, ui->Text2);
+  spec.heading = TextIfChecked(ui->Check1, ui->Text2);
   spec.items = RowTexts(*ui->List1);
   return this->Insert(BuildList(spec));
 }

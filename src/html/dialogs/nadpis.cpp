@@ -14,8 +14,8 @@ bool Nadpis::Put() {
   using enum Align;
   HeadingSpec spec;
   spec.size = FieldText(*ui_->Label1);
-  spec.align =
-      SetOption<Align>({{ui_->Option1, kLeft}, {ui_->Option2, kCenter}, {ui_->Option3, kRight}, {ui_->Option4, kNone}});
+  spec.align = CheckedOption<Align>(
+      {{ui_->Option1, kLeft}, {ui_->Option2, kCenter}, {ui_->Option3, kRight}, {ui_->Option4, kNone}});
   spec.no_wrap = ui_->Check1->isChecked();
   WrapSelection(buffer_, Heading(spec));
   return true;

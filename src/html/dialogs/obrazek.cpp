@@ -33,17 +33,17 @@ ImageSpec Obrazek::Read() const {
   ImageSpec image;
   image.path = choice_.TakePath(*ui_->Text);
   image.relative = ui_->Check5->isChecked();
-  image.alt = Written(ui_->Check4, ui_->Text1);
-  image.align = SetOption<ImageAlign>(ui_->Check8, {{ui_->Option1, kTop},
-                                                    {ui_->Option2, kMiddle},
-                                                    {ui_->Option3, kBottom},
-                                                    {ui_->Option4, kLeft},
-                                                    {ui_->Option5, kRight}});
+  image.alt = TextIfChecked(ui_->Check4, ui_->Text1);
+  image.align = CheckedOption<ImageAlign>(ui_->Check8, {{ui_->Option1, kTop},
+                                                        {ui_->Option2, kMiddle},
+                                                        {ui_->Option3, kBottom},
+                                                        {ui_->Option4, kLeft},
+                                                        {ui_->Option5, kRight}});
   if (ui_->Check1->isChecked()) image.size = {FieldText(*ui_->Label4), FieldText(*ui_->Label3)};
   if (ui_->Check3->isChecked()) image.space = {FieldText(*ui_->Label12), FieldText(*ui_->Label11)};
-  image.border = Written(ui_->Check2, ui_->Label8);
-  image.low_source = Written(ui_->Check6, ui_->Text2);
-  image.map = Written(ui_->Check7, ui_->Text3);
+  image.border = TextIfChecked(ui_->Check2, ui_->Label8);
+  image.low_source = TextIfChecked(ui_->Check6, ui_->Text2);
+  image.map = TextIfChecked(ui_->Check7, ui_->Text3);
   return image;
 }
 

@@ -38,8 +38,8 @@ LinkSpec OdkazNaJiny::Read() const {
     link.target = FileAddress(choice_.TakePath(*ui_->Text), ui_->Check2->isChecked());
   else
     link.target = FieldText(*ui_->Text1);
-  link.fragment = Written(ui_->Check1, ui_->Text2);
-  link.frame = Written(ui_->Check3, ui_->Combo2);
+  link.fragment = TextIfChecked(ui_->Check1, ui_->Text2);
+  link.frame = TextIfChecked(ui_->Check3, ui_->Combo2);
   return link;
 }
 

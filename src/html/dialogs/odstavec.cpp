@@ -10,8 +10,9 @@ Odstavec::Odstavec(TextBuffer& buffer, QWidget* parent) : FragmentDialog(buffer,
 
 bool Odstavec::Put() {
   using enum Align;
-  WrapSelection(buffer_,
-                Paragraph(SetOption<Align>({{ui_->Option1, kLeft}, {ui_->Option2, kCenter}, {ui_->Option3, kRight}})));
+  WrapSelection(
+      buffer_,
+      Paragraph(CheckedOption<Align>({{ui_->Option1, kLeft}, {ui_->Option2, kCenter}, {ui_->Option3, kRight}})));
   return true;
 }
 

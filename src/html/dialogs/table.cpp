@@ -21,30 +21,30 @@ void AskInto(QLineEdit* field, const Table::AskAttributes& ask) {
 
 std::optional<TableAlign> AlignOf(const Ui::Table& ui) {
   using enum TableAlign;
-  return SetOption<TableAlign>(ui.Check2, {{ui.Option3, kLeft}, {ui.Option4, kCenter}, {ui.Option5, kRight}});
+  return CheckedOption<TableAlign>(ui.Check2, {{ui.Option3, kLeft}, {ui.Option4, kCenter}, {ui.Option5, kRight}});
 }
 
 TableFrame FrameOf(const Ui::Table& ui) {
   using enum TableFrame;
-  return SetOption<TableFrame>({{ui.Option6, kNone},
-                                {ui.Option7, kAbove},
-                                {ui.Option8, kBelow},
-                                {ui.Option9, kAboveAndBelow},
-                                {ui.Option10, kLeft},
-                                {ui.Option11, kRight},
-                                {ui.Option12, kLeftAndRight},
-                                {ui.Option13, kBox}});
+  return CheckedOption<TableFrame>({{ui.Option6, kNone},
+                                    {ui.Option7, kAbove},
+                                    {ui.Option8, kBelow},
+                                    {ui.Option9, kAboveAndBelow},
+                                    {ui.Option10, kLeft},
+                                    {ui.Option11, kRight},
+                                    {ui.Option12, kLeftAndRight},
+                                    {ui.Option13, kBox}});
 }
 
 std::optional<TableRules> RulesOf(const Ui::Table& ui) {
   using enum TableRules;
-  return SetOption<TableRules>(
+  return CheckedOption<TableRules>(
       ui.Check5, {{ui.Option14, kNone}, {ui.Option15, kRows}, {ui.Option16, kColumns}, {ui.Option17, kAll}});
 }
 
 CaptionSide SideOf(const Ui::Table& ui) {
   using enum CaptionSide;
-  return SetOption<CaptionSide>(
+  return CheckedOption<CaptionSide>(
       {{ui.Option18, kTop}, {ui.Option19, kBottom}, {ui.Option20, kLeft}, {ui.Option21, kRight}});
 }
 
@@ -90,9 +90,10 @@ void Table::ConnectWalk(AskAttributes ask_cell, AskAttributes ask_row) {
   connect(ui_->VScroll7, &QScrollBar::valueChanged, this, &Table::ShowCell);
   connect(ui_->VScroll8, &QScrollBar::valueChanged, this, &Table::ShowRow);
   OnEnter(ui_->Text4, [this] { GoToNextCell(); });
-  connect(ui_->Text4, &QLineEdit::textChanged, this, [this](const QString& text) { Text() = TextFromQString(text); });
+  connect(ui_->Text4, &QLineEdit::textChanged, this,
+          [this](const QString& text) { ShownCellText() = TextFromQString(text); });
   connect(ui_->Text3, &QLineEdit::textChanged, this,
-          [this](const QString& text) { Attributes() = TextFromQString(text); });
+          [this](const QString& text) { ShownCellAttributes() = TextFromQString(text); });
   connect(ui_->Text5, &QLineEdit::textChanged, this,
           [this](const QString& text) { RowAttributes() = TextFromQString(text); });
   connect(ui_->Command3, &QPushButton::clicked, this, [this, ask = std::move(ask_cell)] { AskInto(ui_->Text3, ask); });
@@ -118,8 +119,8 @@ void Table::VScroll2_Change(int rows) {
 void Table::ShowCell() {
   ShowPosition(ui_->Label12, ui_->HScroll1, ui_->VScroll1);
   ShowPosition(ui_->Label13, ui_->VScroll7, ui_->VScroll2);
-  ui_->Text4->setText(TextToQString(Text()));
-  ui_->Text3->setText(TextToQString(Attributes()));
+  ui_->Text4->setText(TextToQString(ShownCellText()));
+  ui_->Text3->setText(TextToQString(ShownCellAttributes()));
 }
 
 // Moves to the right, then to the next row, and from the last cell to the button Ok.
@@ -137,9 +138,11 @@ void Table::ShowRow() {
   ui_->Text5->setText(TextToQString(RowAttributes()));
 }
 
-std::string& Table::Text() { return grid_.cell_text.at(ValueOf(ui_->HScroll1)).at(ValueOf(ui_->VScroll7)); }
+std::string& Table::ShownCellText() { return grid_.cell_text.at(ValueOf(ui_->HScroll1)).at(ValueOf(ui_->VScroll7)); }
 
-std::string& Table::Attributes() { return grid_.cell_attrs.at(ValueOf(ui_->HScroll1)).at(ValueOf(ui_->VScroll7)); }
+std::string& Table::ShownCellAttributes() {
+  return grid_.cell_attrs.at(ValueOf(ui_->HScroll1)).at(ValueOf(ui_->VScroll7));
+}
 
 std::string& Table::RowAttributes() { return grid_.row_attrs.at(ValueOf(ui_->VScroll8)); }
 
@@ -147,15 +150,15 @@ TableSpec Table::Read() const {
   TableSpec spec;
   spec.columns = ValueOf(ui_->VScroll1);
   spec.rows = ValueOf(ui_->VScroll2);
-  spec.width = Written(ui_->Check1, ui_->Label5);
-  spec.cols = Written(ui_->Check9, ui_->Label3);
-  spec.colspec = Written(ui_->Check3, ui_->Text1);
+  spec.width = TextIfChecked(ui_->Check1, ui_->Label5);
+  spec.cols = TextIfChecked(ui_->Check9, ui_->Label3);
+  spec.colspec = TextIfChecked(ui_->Check3, ui_->Text1);
   spec.align = AlignOf(*ui_);
-  if (const auto thickness = Written(ui_->Check4, ui_->Label7)) spec.border = {FrameOf(*ui_), *thickness};
+  if (const auto thickness = TextIfChecked(ui_->Check4, ui_->Label7)) spec.border = {FrameOf(*ui_), *thickness};
   spec.rules = RulesOf(*ui_);
-  spec.cell_spacing = Written(ui_->Check6, ui_->Label8);
-  spec.cell_padding = Written(ui_->Check7, ui_->Label9);
-  if (const auto text = Written(ui_->Check8, ui_->Text2)) spec.caption = {SideOf(*ui_), *text};
+  spec.cell_spacing = TextIfChecked(ui_->Check6, ui_->Label8);
+  spec.cell_padding = TextIfChecked(ui_->Check7, ui_->Label9);
+  if (const auto text = TextIfChecked(ui_->Check8, ui_->Text2)) spec.caption = {SideOf(*ui_), *text};
   return spec;
 }
 

@@ -37,8 +37,8 @@ class Table : public FragmentDialog<Ui::Table> {
   bool Put() override;
 
   // The strings of the shown cell and row in the grid.
-  std::string& Text();
-  std::string& Attributes();
+  std::string& ShownCellText();
+  std::string& ShownCellAttributes();
   std::string& RowAttributes();
 
   TableGrid grid_;

@@ -21,11 +21,11 @@ CellSpec TableCell::Read() const {
   CellSpec spec;
   spec.header = ui_->Check9->isChecked();
   spec.alignment = ui_->alignment->Read();
-  spec.bgcolor = Written(ui_->Check3, ui_->Label2);
-  spec.colspan = Written(ui_->Check4, ui_->Label3);
-  spec.rowspan = Written(ui_->Check5, ui_->Label4);
+  spec.bgcolor = TextIfChecked(ui_->Check3, ui_->Label2);
+  spec.colspan = TextIfChecked(ui_->Check4, ui_->Label3);
+  spec.rowspan = TextIfChecked(ui_->Check5, ui_->Label4);
   spec.nowrap = ui_->Check6->isChecked();
-  spec.width = Written(ui_->Check7, ui_->Label8);
+  spec.width = TextIfChecked(ui_->Check7, ui_->Label8);
   return spec;
 }
 
@@ -33,6 +33,6 @@ std::string TableCell::OpeningTag() const { return CellTag(Read()); }
 
 void TableCell::InsertTags() { WrapInCell(buffer_, Read()); }
 
-void TableCell::EnableForEditor(bool enabled) { ui_->Check9->setEnabled(enabled); }
+void TableCell::EnableTagOnlyFields(bool enabled) { ui_->Check9->setEnabled(enabled); }
 
 }  // namespace pelmar

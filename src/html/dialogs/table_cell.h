@@ -22,7 +22,7 @@ class TableCell : public AttributesDialog<Ui::TableCell> {
   [[nodiscard]] CellSpec Read() const;
   [[nodiscard]] std::string OpeningTag() const override;
   void InsertTags() override;
-  void EnableForEditor(bool enabled) override;
+  void EnableTagOnlyFields(bool enabled) override;
 };
 
 }  // namespace pelmar

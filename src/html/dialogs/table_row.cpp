@@ -15,7 +15,7 @@ std::string TableRow::OpeningTag() const { return RowTag(Read()); }
 
 void TableRow::InsertTags() { InsertRow(buffer_, Read()); }
 
-void TableRow::EnableForEditor(bool enabled) {
+void TableRow::EnableTagOnlyFields(bool enabled) {
   ui_->VScroll1->setEnabled(enabled);
   ui_->Label2->setEnabled(enabled);
 }

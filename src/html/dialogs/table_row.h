@@ -19,7 +19,7 @@ class TableRow : public AttributesDialog<Ui::TableRow> {
   [[nodiscard]] RowSpec Read() const;
   [[nodiscard]] std::string OpeningTag() const override;
   void InsertTags() override;
-  void EnableForEditor(bool enabled) override;
+  void EnableTagOnlyFields(bool enabled) override;
 };
 
 }  // namespace pelmar

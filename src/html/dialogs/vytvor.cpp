@@ -63,11 +63,11 @@ PageSpec Vytvor::Read() const {
   spec.created = DateText(now) + ' ' + TimeText(now);
   spec.title = FieldText(*ui_->Text2);
   if (ui_->Check3->isChecked()) spec.background = LinkText(PathShownBy(*ui_->Label10));
-  spec.bgcolor = Written(ui_->Check1, ui_->Label2);
-  spec.text = Written(ui_->Check2, ui_->Label4);
-  spec.link = Written(ui_->Check7, ui_->Label13);
-  spec.vlink = Written(ui_->Check5, ui_->Label12);
-  spec.alink = Written(ui_->Check6, ui_->Label11);
+  spec.bgcolor = TextIfChecked(ui_->Check1, ui_->Label2);
+  spec.text = TextIfChecked(ui_->Check2, ui_->Label4);
+  spec.link = TextIfChecked(ui_->Check7, ui_->Label13);
+  spec.vlink = TextIfChecked(ui_->Check5, ui_->Label12);
+  spec.alink = TextIfChecked(ui_->Check6, ui_->Label11);
   if (ui_->Check8->isChecked()) spec.base_font = ui_->HScroll1->value();
   return spec;
 }

@@ -25,7 +25,7 @@ constexpr char kOnlyThroughTheGate[] =
     " --force-webrtc-ip-handling-policy=disable_non_proxied_udp --disable-quic --dns-prefetch-disable"
     " --host-resolver-rules=\"MAP * ~NOTFOUND, EXCLUDE ";
 // The engine prefers these variables to kWayOut. Some of them make the engine use the desktop's settings.
-constexpr const char* kBeforeTheGate[] = {
+constexpr const char* kOverridesOfWayOut[] = {
     "auto_proxy",    "AUTO_PROXY",          "all_proxy",       "ALL_PROXY",        "http_proxy",
     "HTTP_PROXY",    "https_proxy",         "HTTPS_PROXY",     "ftp_proxy",        "FTP_PROXY",
     "SOCKS_VERSION", "XDG_CURRENT_DESKTOP", "DESKTOP_SESSION", "KDE_FULL_SESSION", "GNOME_DESKTOP_SESSION_ID"};
@@ -74,7 +74,7 @@ EngineStart::EngineStart() {
   set(kFlags, qgetenv(kFlags) + " --disable-gpu --lang=cs" + kOnlyThroughTheGate + kGateHost + "\"");
   // Requests to this machine pass the gate too.
   set("no_proxy", "<-loopback>");
-  for (const char* name : kBeforeTheGate) set(name, QByteArray());
+  for (const char* name : kOverridesOfWayOut) set(name, QByteArray());
   if (!SandboxWorks()) set(kNoSandbox, "1");
   ShareEmptyContext();
   QNetworkProxyFactory::setUseSystemConfiguration(true);

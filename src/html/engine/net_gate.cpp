@@ -14,7 +14,7 @@
 namespace pelmar {
 namespace {
 
-constexpr qint64 kMostHeld = qint64{256} * 1024;  // the largest size of each buffer of a passage, in bytes
+constexpr qint64 kBufferSize = qint64{256} * 1024;  // the largest size of each buffer of a connection, in bytes
 constexpr char kVersion = 5, kConnect = 1, kAddress4 = 1, kName = 3, kAddress6 = 4, kDone = 0, kRefused = 2,
                kFailed = 5;
 constexpr qsizetype kHeadLength = 4, kPortLength = 2;
@@ -54,13 +54,13 @@ std::optional<Target> ReadTarget(const QByteArray& request) {
   return target;
 }
 
-// One connection through the gate. The engine's socket owns the passage.
-class Passage : public QObject {
+// One connection through the gate. The engine's socket owns this object.
+class Connection : public QObject {
  public:
-  explicit Passage(QTcpSocket* engine) : QObject(engine), engine_(*engine) {
-    engine_.setReadBufferSize(kMostHeld);
-    net_.setReadBufferSize(kMostHeld);
-    connect(&engine_, &QTcpSocket::readyRead, this, &Passage::FromEngine);
+  explicit Connection(QTcpSocket* engine) : QObject(engine), engine_(*engine) {
+    engine_.setReadBufferSize(kBufferSize);
+    net_.setReadBufferSize(kBufferSize);
+    connect(&engine_, &QTcpSocket::readyRead, this, &Connection::FromEngine);
     connect(&engine_, &QTcpSocket::disconnected, &engine_, &QObject::deleteLater);
     connect(&engine_, &QTcpSocket::bytesWritten, this, [this] { Pass(net_, engine_); });
     connect(&net_, &QTcpSocket::connected, this, [this] {
@@ -69,7 +69,7 @@ class Passage : public QObject {
     });
     connect(&net_, &QTcpSocket::readyRead, this, [this] { Pass(net_, engine_); });
     connect(&net_, &QTcpSocket::bytesWritten, this, [this] { Pass(engine_, net_); });
-    connect(&net_, &QTcpSocket::errorOccurred, this, &Passage::End);
+    connect(&net_, &QTcpSocket::errorOccurred, this, &Connection::End);
   }
 
  private:
@@ -78,7 +78,7 @@ class Passage : public QObject {
   void FromEngine() {
     if (step_ == Step::kOpen) return Pass(engine_, net_);
     if (step_ == Step::kConnecting) return;
-    request_ += engine_.read(kMostHeld);
+    request_ += engine_.read(kBufferSize);
     if (step_ == Step::kGreeting) ReadGreeting();
     if (step_ == Step::kRequest) ReadRequest();
   }
@@ -124,7 +124,7 @@ class Passage : public QObject {
 
   void Pass(QTcpSocket& from, QTcpSocket& to) {
     if (step_ != Step::kOpen) return;
-    const qint64 room = kMostHeld - to.bytesToWrite();
+    const qint64 room = kBufferSize - to.bytesToWrite();
     if (room > 0 && from.bytesAvailable() > 0) to.write(from.read(room));
   }
 
@@ -151,7 +151,7 @@ QByteArray NetGate::Address() const {
 void NetGate::Accept() {
   while (QTcpSocket* socket = server_.nextPendingConnection()) {
     if (open_ && IsOurs(*socket)) {
-      new Passage(socket);
+      new Connection(socket);
     } else {
       socket->abort();
       socket->deleteLater();

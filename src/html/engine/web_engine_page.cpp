@@ -32,8 +32,8 @@ QString Title() { return QStringLiteral("Zpráva stránky"); }
 
 // The engine asks this question through javaScriptConfirm().
 constexpr char kLeaving[] = "Are you sure you want to leave this page? Changes that you made may not be saved.";
-constexpr int kMostUnasked = 2;         // questions without the check box that switches off further questions
-constexpr int kLongestQuestion = 2000;  // characters of a page's own text
+constexpr int kQuestionsBeforeSilenceBox = 2;  // questions without the check box that switches off further questions
+constexpr int kLongestQuestion = 2000;         // characters of a page's own text
 // The most characters of an address that a question shows, and of one of its lines. A longer address isn't opened.
 constexpr qsizetype kLongestAsked = 1000, kAddressLine = 80;
 
@@ -145,20 +145,20 @@ void WebEnginePage::RefuseRequests() {
           [](QWebEngineCertificateError error) { error.rejectCertificate(); });
 }
 
-void WebEnginePage::Silence() {
-  silenced_ = true;
+void WebEnginePage::AnswerNo() {
+  answers_no_ = true;
   if (question_ != nullptr) question_->reject();
 }
 
-void WebEnginePage::ForgetQuestions() {
-  muted_ = false;
+void WebEnginePage::ResetQuestions() {
+  questions_off_ = false;
   questions_ = 0;
 }
 
 bool WebEnginePage::Ask(QDialog& question) {
   QWidget* view = QWebEngineView::forPage(this);
-  if (silenced_ || muted_ || question_ != nullptr || view == nullptr || !view->isVisible()) return false;
-  QCheckBox* silence = ++questions_ > kMostUnasked ? new SilenceBox : nullptr;
+  if (answers_no_ || questions_off_ || question_ != nullptr || view == nullptr || !view->isVisible()) return false;
+  QCheckBox* silence = ++questions_ > kQuestionsBeforeSilenceBox ? new SilenceBox : nullptr;
   if (auto* box = qobject_cast<QMessageBox*>(&question); box != nullptr && silence != nullptr) {
     box->setCheckBox(silence);
   } else if (silence != nullptr) {
@@ -173,7 +173,7 @@ bool WebEnginePage::Ask(QDialog& question) {
   const int result = question.exec();
   if (self == nullptr) return false;
   question_ = nullptr;
-  if (silence != nullptr && silence->isChecked()) muted_ = true;
+  if (silence != nullptr && silence->isChecked()) questions_off_ = true;
   if (on_answered) QMetaObject::invokeMethod(this, on_answered, Qt::QueuedConnection);
   return result == QDialog::Accepted || result == QMessageBox::Yes || result == QMessageBox::Ok;
 }
@@ -193,7 +193,7 @@ void WebEnginePage::javaScriptAlert(const QUrl&, const QString& text) {
 
 bool WebEnginePage::javaScriptConfirm(const QUrl&, const QString& text) {
   // A page that may not ask can't keep the person from leaving the page.
-  if ((silenced_ || muted_) && text == QCoreApplication::translate("QWebEnginePage", kLeaving)) return true;
+  if ((answers_no_ || questions_off_) && text == QCoreApplication::translate("QWebEnginePage", kLeaving)) return true;
   return AskInBox(Title(), text, QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Ok);
 }
 

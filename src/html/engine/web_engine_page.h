@@ -25,12 +25,12 @@ class WebEnginePage : public QWebEnginePage {
 
   [[nodiscard]] PageSide Side() const { return side_; }
 
-  // Call at each command of the person. Answers the open question with No. Until HearAgain(), the page may be left
+  // Call at each command of the person. Answers the open question with No. Until AllowQuestions(), the page may be left
   // without a question, and each other question gets No.
-  void Silence();
-  void HearAgain() { silenced_ = false; }
+  void AnswerNo();
+  void AllowQuestions() { answers_no_ = false; }
   // Call before another page loads. Allows questions again if the person has switched off the present page's questions.
-  void ForgetQuestions();
+  void ResetQuestions();
   [[nodiscard]] bool Asking() const { return question_ != nullptr; }
 
   std::function<void()> on_coming;                    // another page is about to load
@@ -60,9 +60,9 @@ class WebEnginePage : public QWebEnginePage {
   const PageSide side_;
   bool loaded_ = false;
   QPointer<QDialog> question_;
-  int questions_ = 0;      // number of questions of the page so far
-  bool muted_ = false;     // the person switched off further questions
-  bool silenced_ = false;  // from Silence() to HearAgain()
+  int questions_ = 0;           // number of questions of the page so far
+  bool questions_off_ = false;  // the person switched off further questions
+  bool answers_no_ = false;     // from AnswerNo() to AllowQuestions()
 };
 
 }  // namespace pelmar

@@ -102,24 +102,24 @@ void WebEngineView::ConnectPage() {
 
 void WebEngineView::Command(std::function<void()> step) {
   const bool was_asking = page_->Asking();
-  page_->Silence();
+  page_->AnswerNo();
   // The question runs an event loop within the engine's call, which has to return first.
   if (was_asking) {
     after_question_ = [this, step = std::move(step)] { Command(step); };
     return;
   }
   after_question_ = {};
-  page_->ForgetQuestions();
+  page_->ResetQuestions();
   expecting_load_.start();
   step();
 }
 
-void WebEngineView::Stay(const std::function<void()>& step) {
+void WebEngineView::RunInPage(const std::function<void()>& step) {
   Probe(step);
   step();
 }
 
-void WebEngineView::Cross(qsizetype place, PageSide side) {
+void WebEngineView::LoadInNewPage(qsizetype place, PageSide side) {
   place_ = place;
   MakePage(side);
   page_->load(places_[place_]);
@@ -136,19 +136,19 @@ void WebEngineView::GatherPlaces() {
 
 void WebEngineView::Probe(std::function<void()> step) {
   probed_ = page_->renderProcessPid();
-  if (probed_ <= 0 || page_->Side() == PageSide::kDiskWithNet) return page_->HearAgain();
+  if (probed_ <= 0 || page_->Side() == PageSide::kDiskWithNet) return page_->AllowQuestions();
   after_end_ = std::move(step);
   unanswered_.start();
   page_->runJavaScript(QStringLiteral("0"), QWebEngineScript::ApplicationWorld,
                        [this, number = ++probes_](const QVariant&) {
-                         if (number == probes_) Answered();
+                         if (number == probes_) StopProbe();
                        });
 }
 
-void WebEngineView::Answered() {
+void WebEngineView::StopProbe() {
   unanswered_.stop();
   after_end_ = {};
-  page_->HearAgain();
+  page_->AllowQuestions();
 }
 
 void WebEngineView::EndProcess(std::function<void()> then) {
@@ -161,14 +161,14 @@ void WebEngineView::EndProcess(std::function<void()> then) {
 void WebEngineView::ProcessEnded() {
   const auto step = std::exchange(after_end_, {});
   ++probes_;
-  Answered();
+  StopProbe();
   if (step) return step();
   // A load, if there was one, has ended with the process.
   Finished();
 }
 
 void WebEngineView::EndIfStuck() {
-  page_->Silence();
+  page_->AnswerNo();
   Probe({});
 }
 
@@ -176,7 +176,7 @@ void WebEngineView::LoadFromNet() {
   Command([this] {
     EndProcess([this] {
       GatherPlaces();
-      Cross(place_, PageSide::kDiskWithNet);
+      LoadInNewPage(place_, PageSide::kDiskWithNet);
     });
   });
 }
@@ -194,11 +194,12 @@ void WebEngineView::Finished() {
 void WebEngineView::Load(const QUrl& address) {
   if (!address.isValid() || !MayBeShown(address)) return;
   Command([this, address] {
-    if (!places_.isEmpty() && SideOf(address) == page_->Side()) return Stay([this, address] { page_->load(address); });
+    if (!places_.isEmpty() && SideOf(address) == page_->Side())
+      return RunInPage([this, address] { page_->load(address); });
     EndProcess([this, address] {
       GatherPlaces();
       places_ = places_.mid(0, place_ + 1) + QList{address};
-      Cross(places_.size() - 1, SideOf(address));
+      LoadInNewPage(places_.size() - 1, SideOf(address));
     });
   });
 }
@@ -215,10 +216,11 @@ void WebEngineView::Go(int steps) {
   Command([this, steps] {
     const QWebEngineHistory& own = *page_->history();
     if (steps < 0 ? own.canGoBack() : own.canGoForward())
-      return Stay([this, steps] { page_->triggerAction(steps < 0 ? QWebEnginePage::Back : QWebEnginePage::Forward); });
+      return RunInPage(
+          [this, steps] { page_->triggerAction(steps < 0 ? QWebEnginePage::Back : QWebEnginePage::Forward); });
     EndProcess([this, steps] {
       GatherPlaces();
-      Cross(place_ + steps, SideOf(places_[place_ + steps]));
+      LoadInNewPage(place_ + steps, SideOf(places_[place_ + steps]));
     });
   });
 }
@@ -227,10 +229,10 @@ void WebEngineView::Refresh() {
   if (places_.isEmpty()) return;
   Command([this] {
     if (page_->Side() != PageSide::kDiskWithNet && page_->url().isValid())
-      return Stay([this] { page_->triggerAction(QWebEnginePage::Reload); });
+      return RunInPage([this] { page_->triggerAction(QWebEnginePage::Reload); });
     EndProcess([this] {
       GatherPlaces();
-      Cross(place_, SideOf(places_[place_]));
+      LoadInNewPage(place_, SideOf(places_[place_]));
     });
   });
 }

@@ -42,14 +42,14 @@ class WebEngineView : public QObject, public WebView {
   // Closes an open question, then runs a command of the person that loads a page.
   void Command(std::function<void()> step);
   // Runs a step that keeps the present page and its process.
-  void Stay(const std::function<void()>& step);
+  void RunInPage(const std::function<void()>& step);
   // Loads a place of the history in a new page. The process of the present page must have ended.
-  void Cross(qsizetype place, PageSide side);
+  void LoadInNewPage(qsizetype place, PageSide side);
   // Copies the present page's history into places_.
   void GatherPlaces();
   // Asks the page for an answer. If the page doesn't answer within three seconds, ends its process and runs the step.
   void Probe(std::function<void()> step);
-  void Answered();
+  void StopProbe();
   void EndProcess(std::function<void()> then);
   void ProcessEnded();
   void ReportChange();
