@@ -22,8 +22,8 @@ std::string Rewritten(FileRewriter& rewriter, std::string_view bytes, std::size_
   std::string out(rewriter.Rewrite(bytes.substr(0, cut)));
   out += rewriter.Rewrite(bytes.substr(cut));
   out += rewriter.Finish();
-  Require(rewriter.Kept() <= out.size());
-  return out.substr(0, rewriter.Kept());
+  Require(rewriter.ResultLength() <= out.size());
+  return out.substr(0, rewriter.ResultLength());
 }
 
 void CheckEncodings(std::string_view bytes, std::size_t cut) {

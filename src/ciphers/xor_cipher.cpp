@@ -9,13 +9,13 @@
 namespace pelmar {
 namespace {
 
-constexpr char kBroken = '\b';
+constexpr char kQuestionCode = '\b';
 // The number of characters between two calls of on_progress. A larger step saves time; a smaller step keeps the windows
 // more responsive.
 constexpr std::size_t kStep = 4096;
 
 // True if the person ends the run.
-bool EndsBroken(Platform& platform) {
+bool PersonStops(Platform& platform) {
   platform.Message(MessageType::kOk, "Porusena intengrita textu!", "Kódování");
   return platform.Confirmed("Ukončit proces? (doporučuji ne)", "Kódování");
 }
@@ -44,12 +44,12 @@ void RewriteStream(TextBuffer& buffer, double key, std::string& output, Platform
   // The document may become shorter during the run. Then the run stops at the new end.
   for (std::size_t done = 0; done < std::min(length, buffer.Size());) {
     std::string_view part = std::string_view(buffer.Text()).substr(done, std::min(kStep, length - done));
-    if (part.front() == kBroken) {
+    if (part.front() == kQuestionCode) {
       // The progress bar shows the position of this character during the question.
-      if (!on_progress(done + 1) || EndsBroken(platform)) return;
-      part = std::string_view(&kBroken, 1);  // the character that was read; the document may have changed since
+      if (!on_progress(done + 1) || PersonStops(platform)) return;
+      part = std::string_view(&kQuestionCode, 1);  // the character that was read; the document may have changed since
     } else {
-      part = part.substr(0, part.find(kBroken));
+      part = part.substr(0, part.find(kQuestionCode));
     }
     cipher.Append(part, output);
     done += part.size();

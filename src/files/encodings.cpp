@@ -140,7 +140,7 @@ std::string_view Utf8ToPage::Rewrite(std::string_view piece) {
     if (begun_ || character != kByteOrderMark) out_ += static_cast<char>(CodeOfUnicode(character));
     begun_ = true;
   }
-  kept_ += out_.size();
+  result_length_ += out_.size();
   return out_;
 }
 
@@ -148,11 +148,11 @@ std::string_view PageToUtf8::Rewrite(std::string_view piece) {
   out_ = ToUtf8(piece);
   if (mark_) out_.insert(0, kByteOrderMarkBytes);
   mark_ = false;
-  kept_ += out_.size();
+  result_length_ += out_.size();
   return out_;
 }
 
-std::string PathBeside(std::string_view path, std::string_view extension) {
+std::string WithExtension(std::string_view path, std::string_view extension) {
   const std::string_view name = NameOf(path);
   if (const std::size_t dot = name.rfind('.'); dot != 0 && dot != std::string_view::npos)
     path.remove_suffix(name.size() - dot);
@@ -160,7 +160,7 @@ std::string PathBeside(std::string_view path, std::string_view extension) {
 }
 
 void ConvertToPage(Platform& platform, const std::string& path) {
-  const std::string target = PathBeside(path, "1250");
+  const std::string target = WithExtension(path, "1250");
   Utf8Survey survey;
   if (!ReadInto(platform, path, survey)) return;
   if (survey.malformed)
@@ -177,7 +177,7 @@ void ConvertToPage(Platform& platform, const std::string& path) {
 }
 
 void ConvertToUtf8(Platform& platform, const std::string& path, bool byte_order_mark) {
-  const std::string target = PathBeside(path, "utf8");
+  const std::string target = WithExtension(path, "utf8");
   Utf8Survey survey;
   if (!ReadInto(platform, path, survey)) return;
   if (!survey.malformed && survey.beyond_ascii &&

@@ -52,12 +52,12 @@ class Utf8ToPage : public FileRewriter {
  public:
   std::string_view Rewrite(std::string_view piece) override;
   std::string_view Finish() override { return {}; }
-  [[nodiscard]] std::uint64_t Kept() const override { return kept_; }
+  [[nodiscard]] std::uint64_t ResultLength() const override { return result_length_; }
 
  private:
   Utf8Decoder decoder_;
   std::string out_;
-  std::uint64_t kept_ = 0;
+  std::uint64_t result_length_ = 0;
   bool begun_ = false;
 };
 
@@ -66,16 +66,16 @@ class PageToUtf8 : public FileRewriter {
   explicit PageToUtf8(bool byte_order_mark) : mark_(byte_order_mark) {}
   std::string_view Rewrite(std::string_view piece) override;
   std::string_view Finish() override { return Rewrite({}); }
-  [[nodiscard]] std::uint64_t Kept() const override { return kept_; }
+  [[nodiscard]] std::uint64_t ResultLength() const override { return result_length_; }
 
  private:
   std::string out_;
-  std::uint64_t kept_ = 0;
+  std::uint64_t result_length_ = 0;
   bool mark_;  // the byte order mark must still be written
 };
 
 // Replaces the extension of the file name. A name without an extension, such as ".profile", gets one appended.
-std::string PathBeside(std::string_view path, std::string_view extension);
+std::string WithExtension(std::string_view path, std::string_view extension);
 
 // Convert a file into a new one with the extension "1250" or "utf8". Report failures, and a target that is the source
 // file. Ask before an existing target is overwritten.

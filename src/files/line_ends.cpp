@@ -35,13 +35,13 @@ std::string_view ToLineFeeds::Rewrite(std::string_view piece) {
   after_cr_ = before == '\r';
   const std::string_view out(out_.data(), static_cast<std::size_t>(to - out_.data()));
   if (!out.empty()) in_line_ = out.back() != '\n';
-  kept_ += out.size();
+  result_length_ += out.size();
   return out;
 }
 
 std::string_view ToLineFeeds::Finish() {
   const std::string_view out = in_line_ ? "\n" : "";
-  kept_ += out.size();
+  result_length_ += out.size();
   return out;
 }
 
@@ -55,7 +55,8 @@ std::string_view ToCrLf::Rewrite(std::string_view piece) {
   }
   const std::string_view out(out_.data(), static_cast<std::size_t>(to - out_.data()));
   const void* const feed = out.empty() ? nullptr : memrchr(out.data(), '\n', out.size());
-  if (feed != nullptr) kept_ = put_ + static_cast<std::uint64_t>(static_cast<const char*>(feed) - out.data()) + 1;
+  if (feed != nullptr)
+    result_length_ = put_ + static_cast<std::uint64_t>(static_cast<const char*>(feed) - out.data()) + 1;
   put_ += out.size();
   return out;
 }

@@ -15,11 +15,11 @@ class ToLineFeeds : public FileRewriter {
  public:
   std::string_view Rewrite(std::string_view piece) override;
   std::string_view Finish() override;
-  [[nodiscard]] std::uint64_t Kept() const override { return kept_; }
+  [[nodiscard]] std::uint64_t ResultLength() const override { return result_length_; }
 
  private:
   std::vector<char> out_;
-  std::uint64_t kept_ = 0;
+  std::uint64_t result_length_ = 0;
   bool after_cr_ = false;  // an LF that follows belongs to this CR
   bool in_line_ = false;   // the last line has no end yet
 };
@@ -29,12 +29,12 @@ class ToCrLf : public FileRewriter {
  public:
   std::string_view Rewrite(std::string_view piece) override;
   std::string_view Finish() override { return {}; }
-  [[nodiscard]] std::uint64_t Kept() const override { return kept_; }
+  [[nodiscard]] std::uint64_t ResultLength() const override { return result_length_; }
 
  private:
   std::vector<char> out_;
   std::uint64_t put_ = 0;
-  std::uint64_t kept_ = 0;
+  std::uint64_t result_length_ = 0;
 };
 
 // The title of the messages of a conversion.

@@ -62,7 +62,7 @@ void Saver::InsertFromFile() {
   const auto path = platform_.OpenDialog(kDocumentFilter, kDocumentFilterIndex);
   if (!path) return;
   try {
-    const OpenNumber number(file_number_);
+    const FileNumberGuard number(file_number_);
     const FileBytes file = platform_.ReadFile(*path, std::nullopt);
     // required: an empty file has no field, so the command ends in silence
     if (file.error != 0 || file.bytes.empty()) return;
@@ -86,7 +86,7 @@ bool Saver::MayWrite(const std::string& path) {
 }
 
 WriteOutcome Saver::Write(const std::string& path, std::string_view text) {
-  const OpenNumber number(file_number_);
+  const FileNumberGuard number(file_number_);
   return platform_.WriteDocument(path, text);
 }
 

@@ -17,7 +17,7 @@ std::optional<TempFile> WriteTestPage(Editor& e, std::string_view extension, Pag
   TempFile page;
   try {
     e.platform.ReseedRandom();
-    const OpenNumber number(e.file_number);
+    const FileNumberGuard number(e.file_number);
     page = WriteTempFile(e.platform, kPageName, extension, text);
   } catch (const RuntimeError& error) {
     page.error = error.Number();

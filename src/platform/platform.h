@@ -105,7 +105,7 @@ class FileRewriter {
   virtual std::string_view Finish() = 0;
   // How many of the returned bytes form the new content, counted from the first. The rest is cut off. Call after
   // Finish.
-  [[nodiscard]] virtual std::uint64_t Kept() const = 0;
+  [[nodiscard]] virtual std::uint64_t ResultLength() const = 0;
 };
 
 // What happens to the rest of an old file that is longer than the new content.

@@ -18,7 +18,7 @@ void Documents::LeaveTab() {
   Current().Text = buffer_.Text();
   Current().Path = current_path_;
   // required: a change of the text sets the flag only here; saving, opening and a new document clear the flag
-  if (Marked()) Current().Modified = true;
+  if (TitleIsMarked()) Current().Modified = true;
 }
 
 void Documents::EnterTab(int entered) {
@@ -45,7 +45,7 @@ void Documents::TextChanged() {
   Current().Path = current_path_;
 }
 
-bool Documents::IsUnsaved(int tab) const { return Slot(tab).Modified || (tab == selected_ && Marked()); }
+bool Documents::IsUnsaved(int tab) const { return Slot(tab).Modified || (tab == selected_ && TitleIsMarked()); }
 
 int Documents::UnsavedCount() const {
   int count = 0;

@@ -51,7 +51,7 @@ class Documents {
   [[nodiscard]] const TabFace& Face(int tab) const { return faces_[IndexFromOne(tab)]; }
   [[nodiscard]] const std::string& CurrentPath() const { return current_path_; }
   [[nodiscard]] std::string Title() const;
-  [[nodiscard]] bool Marked() const { return title_.marked; }
+  [[nodiscard]] bool TitleIsMarked() const { return title_.marked; }
   [[nodiscard]] TextBuffer& Buffer() { return buffer_; }
   [[nodiscard]] const TextBuffer& Buffer() const { return buffer_; }
   // The file given to Remember. Null if the path of the current document has changed since.

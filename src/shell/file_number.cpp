@@ -32,12 +32,12 @@ std::string KeptNotice(const WriteOutcome& outcome) {
 }
 
 void WriteFileOn(FileNumber& number, Platform& platform, const std::string& path, std::string_view bytes) {
-  const OpenNumber open(number);
+  const FileNumberGuard open(number);
   Check(platform.WriteDocument(path, bytes), path, kCantWrite);
 }
 
 void WriteRecordOn(FileNumber& number, Platform& platform, const std::string& path, std::string record) {
-  const OpenNumber open(number);
+  const FileNumberGuard open(number);
   const FileBytes old = platform.ReadFile(path, std::nullopt);
   // A missing file has no tail.
   if (old.error != ENOENT) Check({.error = old.error}, path, kCantWrite);
@@ -46,7 +46,7 @@ void WriteRecordOn(FileNumber& number, Platform& platform, const std::string& pa
 }
 
 std::string ReadOrMakeOn(FileNumber& number, Platform& platform, const std::string& path, std::uint64_t limit) {
-  const OpenNumber open(number);
+  const FileNumberGuard open(number);
   FileBytes file = platform.ReadFile(path, limit);
   Check(file.error == ENOENT ? platform.WriteDocument(path, {}) : WriteOutcome{.error = file.error}, path, kCantOpen);
   return std::move(file.bytes);

@@ -30,12 +30,12 @@ class FileNumber {
 };
 
 // Keeps the file number in use during its own lifetime.
-class OpenNumber {
+class FileNumberGuard {
  public:
-  explicit OpenNumber(FileNumber& number) : number_(number) { number_.Open(); }
-  OpenNumber(const OpenNumber&) = delete;
-  OpenNumber& operator=(const OpenNumber&) = delete;
-  ~OpenNumber() { number_.Close(); }
+  explicit FileNumberGuard(FileNumber& number) : number_(number) { number_.Open(); }
+  FileNumberGuard(const FileNumberGuard&) = delete;
+  FileNumberGuard& operator=(const FileNumberGuard&) = delete;
+  ~FileNumberGuard() { number_.Close(); }
 
  private:
   FileNumber& number_;

@@ -31,11 +31,11 @@ TwipsRect Snap(TwipsRect window, int distance, const TwipsRect& screen) {
   return window;
 }
 
-bool PlaceRequests::Worthwhile(const TwipsRect& now, const TwipsRect& wanted) {
-  if (now != now_ || wanted != wanted_) in_vain_ = 0;
+bool PlaceRequests::MayRequest(const TwipsRect& now, const TwipsRect& wanted) {
+  if (now != now_ || wanted != wanted_) ignored_ = 0;
   now_ = now;
   wanted_ = wanted;
-  return ++in_vain_ <= kMostRequests;
+  return ++ignored_ <= kMostRequests;
 }
 
 std::optional<int> SparePanelWidth(int outer_width, const std::array<int, kPanelCount>& widths) {

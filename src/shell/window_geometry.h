@@ -19,12 +19,12 @@ TwipsRect Snap(TwipsRect window, int distance, const TwipsRect& screen);
 class PlaceRequests {
  public:
   // False if a window at `now` ignored too many requests to go to `wanted`.
-  bool Worthwhile(const TwipsRect& now, const TwipsRect& wanted);
+  bool MayRequest(const TwipsRect& now, const TwipsRect& wanted);
 
  private:
   TwipsRect now_;
   TwipsRect wanted_;
-  int in_vain_ = 0;
+  int ignored_ = 0;
 };
 
 // The new width of panel 4, or nothing if the width stays. required: the sum of `widths` includes panel 4, so that its

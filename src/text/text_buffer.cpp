@@ -120,10 +120,10 @@ void TextBuffer::Apply(std::size_t pos, std::size_t length, std::string_view tex
   anchor_ = caret_ = pos + text.size();
 }
 
-bool TextBuffer::Undo() { return TakeBack(undo_, redo_); }
-bool TextBuffer::Redo() { return TakeBack(redo_, undo_); }
+bool TextBuffer::Undo() { return MoveStep(undo_, redo_); }
+bool TextBuffer::Redo() { return MoveStep(redo_, undo_); }
 
-bool TextBuffer::TakeBack(std::vector<Step>& from, std::vector<Step>& to) {
+bool TextBuffer::MoveStep(std::vector<Step>& from, std::vector<Step>& to) {
   if (from.empty()) return false;
   const bool forward = &from == &redo_;
   Step step = std::move(from.back());

@@ -101,7 +101,7 @@ class TextBuffer {
   void Apply(std::size_t pos, std::size_t length, std::string_view text);
   void Remember(std::size_t pos, std::size_t length, std::string_view text, Run run);
   void TrimHistory();
-  bool TakeBack(std::vector<Step>& from, std::vector<Step>& to);
+  bool MoveStep(std::vector<Step>& from, std::vector<Step>& to);
   void IndexLines();
 
   std::string text_;

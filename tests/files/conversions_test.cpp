@@ -24,7 +24,7 @@ std::string Rewritten(FileRewriter&& rewriter, std::string_view text, RandomSour
     text.remove_prefix(piece.size());
   }
   out += rewriter.Finish();
-  return out.substr(0, rewriter.Kept());
+  return out.substr(0, rewriter.ResultLength());
 }
 
 TEST(LineEnds, EqualASlowConversionOfRandomTexts) {

@@ -130,7 +130,7 @@ class ScriptedPlatform : public Platform, public Paper {
     };
     if (const int error = ReadByPieces(source, rewrite)) return {.error = error};
     out += rewriter.Finish();
-    out.resize(static_cast<std::size_t>(rewriter.Kept()));
+    out.resize(static_cast<std::size_t>(rewriter.ResultLength()));
     if (const int error = ErrorAt(target, write_errors)) return {.error = error, .kept = kept_content};
     const std::string& old = files[target];
     if (tail == OldTail::kKeep && old.size() > out.size()) out += old.substr(out.size());

@@ -43,7 +43,7 @@ bool KeyPreview::Takes(QWidget& receiver, QKeyEvent& press) {
 // takes the last letter.
 bool KeyPreview::TakesComposed(const QInputMethodEvent& event) {
   bool taken = false;
-  for (const char letter : PageText(event.commitString())) {
+  for (const char letter : TextInCodePage(event.commitString())) {
     const QKeyEvent key(QEvent::KeyPress, 0, Qt::NoModifier, TextToQString(std::string(1, letter)));
     taken = first_(key) == Preview::kTake;
   }

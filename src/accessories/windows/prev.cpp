@@ -13,7 +13,7 @@ namespace pelmar {
 namespace {
 
 // Milliseconds between two checks for events during a conversion, and the most milliseconds of one check.
-constexpr int kBreath = 10;
+constexpr int kEventInterval = 10;
 constexpr std::size_t kLongestShown = 32767;
 
 }  // namespace
@@ -65,11 +65,11 @@ void Prev::Convert(const Base& base) {
 void Prev::ShowRoman(std::int32_t number) {
   const int mine = ++conversions_;
   const QPointer<Prev> alive(this);
-  QElapsedTimer breath;
+  QElapsedTimer since_events;
   auto roman = ToRoman(number, [&] {
-    if (!breath.isValid() || breath.hasExpired(kBreath)) {
-      QCoreApplication::processEvents(QEventLoop::AllEvents, kBreath);
-      breath.start();
+    if (!since_events.isValid() || since_events.hasExpired(kEventInterval)) {
+      QCoreApplication::processEvents(QEventLoop::AllEvents, kEventInterval);
+      since_events.start();
     }
     return alive && mine == conversions_;
   });

@@ -11,7 +11,7 @@ namespace {
 
 void RotateSelection(const ProgramParts& parts) {
   if (!parts.editor.text.HasSelection()) return void(parts.platform.Message(MessageType::kOk, "Vyber text!", "Posun"));
-  parts.windows.Anew<Shift>().exec();
+  parts.windows.GetFresh<Shift>().exec();
 }
 
 }  // namespace

@@ -124,7 +124,7 @@ WriteOutcome RewriteFileByPieces(const std::string& source_path, const std::stri
   if (target.error != 0) return {.error = target.error};
   const auto fill = [&](int to, int old) {
     const int error = RewriteInto(to, source.file.Number(), rewriter);
-    return error != 0 ? error : CopyTail(old, to, rewriter.Kept());
+    return error != 0 ? error : CopyTail(old, to, rewriter.ResultLength());
   };
   const NewContent content{.fill = fill, .reads_old = tail == OldTail::kKeep};
   return WriteOver(target, content, keep_folder, 0666);

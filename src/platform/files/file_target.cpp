@@ -47,7 +47,7 @@ int Reserve(int file, std::uint64_t size) {
 }
 
 // Sets `exists` and `old` of the target. Returns 0, or an errno if the target can't be written.
-int Look(Target& target) {
+int Examine(Target& target) {
   if (stat(target.path.c_str(), &target.old) != 0) return errno != ENOENT || target.path.ends_with('/') ? errno : 0;
   const mode_t mode = target.old.st_mode;
   if (S_ISDIR(mode)) return EISDIR;
@@ -68,7 +68,7 @@ int Overwrite(int file, const NewContent& content, const KeptContent& kept) {
 Target FindTarget(const std::string& path) {
   Target target{.path = path};
   target.error = FollowLinks(target.path);
-  if (target.error == 0) target.error = Look(target);
+  if (target.error == 0) target.error = Examine(target);
   return target;
 }
 

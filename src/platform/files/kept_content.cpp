@@ -20,7 +20,7 @@ bool IsNameOfKept(const std::string& name) {
   return name.starts_with(kStart) && (name.size() == kSize || (name.size() > kSize && name[kSize] == '-'));
 }
 
-bool IsLeft(const std::string& path) {
+bool IsUnreportedCopy(const std::string& path) {
   const Descriptor file(open(path.c_str(), O_RDONLY | O_NOFOLLOW | kOpenSafely));
   struct stat state {};
   if (!file.IsOpen() || fstat(file.Number(), &state) != 0 || !S_ISREG(state.st_mode)) return false;
@@ -57,7 +57,7 @@ std::vector<std::string> FindUnreportedCopies(const std::string& folder) {
   std::vector<std::string> found;
   std::error_code error;
   for (std::filesystem::directory_iterator at(folder, error), end; at != end; at.increment(error))
-    if (IsNameOfKept(at->path().filename().string()) && IsLeft(at->path())) found.push_back(at->path());
+    if (IsNameOfKept(at->path().filename().string()) && IsUnreportedCopy(at->path())) found.push_back(at->path());
   std::ranges::sort(found);
   return found;
 }

@@ -42,7 +42,7 @@ int Link(int file, const std::string& name) {
 
 // Closes a duplicate of the descriptor, since a file server may report a failed write only on close. The file stays
 // open because its content may still be needed.
-int CloseOnce(int file) {
+int CloseDuplicate(int file) {
   const int again = fcntl(file, F_DUPFD_CLOEXEC, 0);
   return again >= 0 && close(again) == 0 ? 0 : errno;
 }
@@ -53,7 +53,7 @@ NewFile::NewFile(const std::string& beside, mode_t mode) : folder_(FolderOf(besi
   const char* const folder = folder_.empty() ? "." : folder_.c_str();
   // A file without a name gets its name through /proc later.
   if (access("/proc/self/fd", X_OK) == 0) file_ = Descriptor(open(folder, O_TMPFILE | O_RDWR | O_CLOEXEC, mode));
-  if (!file_.IsOpen()) error_ = Draw(mode);
+  if (!file_.IsOpen()) error_ = CreateNamed(mode);
 }
 
 NewFile::~NewFile() {
@@ -62,7 +62,7 @@ NewFile::~NewFile() {
   errno = error;
 }
 
-int NewFile::Draw(mode_t mode) {
+int NewFile::CreateNamed(mode_t mode) {
   return TryNames(folder_ + kMark, "", [&](const std::string& name) {
     file_ = Descriptor(open(name.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, mode));
     if (!file_.IsOpen()) return errno;
@@ -72,7 +72,7 @@ int NewFile::Draw(mode_t mode) {
 }
 
 int NewFile::TakeNewName(const std::string& path) {
-  if (const int error = CloseOnce(file_.Number())) return error;
+  if (const int error = CloseDuplicate(file_.Number())) return error;
   if (name_.empty()) return Link(file_.Number(), path);
   const bool renamed = renameat2(AT_FDCWD, name_.c_str(), AT_FDCWD, path.c_str(), RENAME_NOREPLACE) == 0;
   if (!renamed && errno != EINVAL && errno != ENOSYS) return errno;
@@ -94,7 +94,7 @@ int NewFile::TakeFreeName(const std::string& start, const std::string& end, std:
 int NewFile::TakeNameOf(const std::string& path) {
   if (name_.empty()) {
     if (const int error = TakeFreeName(folder_ + kMark, "", name_)) return error;
-  } else if (const int error = CloseOnce(file_.Number())) {
+  } else if (const int error = CloseDuplicate(file_.Number())) {
     return error;
   }
   if (rename(name_.c_str(), path.c_str()) != 0) return errno;

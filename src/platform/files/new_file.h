@@ -25,7 +25,8 @@ class NewFile {
 
   // These functions return 0 or an errno. The name is on the disk only after SyncFolderOf.
 
-  // Gives the file an unused name. EEXIST if the name is taken.
+  // Gives the file an unused name. EEXIST if the name is taken. A few file systems can't check this and rename at once;
+  // they replace a file with this name.
   int TakeNewName(const std::string& path);
   // Gives the file the name `start`, six random characters and `end`. `taken` becomes the whole name.
   int TakeFreeName(const std::string& start, const std::string& end, std::string& taken);
@@ -33,7 +34,7 @@ class NewFile {
   int TakeNameOf(const std::string& path);
 
  private:
-  int Draw(mode_t mode);
+  int CreateNamed(mode_t mode);
 
   std::string folder_;  // "" or with its separator
   Descriptor file_;

@@ -32,7 +32,7 @@ void KeyRouter::Add(KeyTurn turn, QWidget& scope, KeyTaker taker) {
 
 bool KeyRouter::Takes(QWidget& receiver, QKeyEvent& event) {
   // A key that the program itself sends is never held.
-  if (event.spontaneous() && HoldsBack(receiver, event)) {
+  if (event.spontaneous() && DropsRepeat(receiver, event)) {
     event.accept();  // otherwise Qt would look for a shortcut of this key
     return true;
   }
@@ -55,7 +55,7 @@ bool KeyRouter::IsRepeat(const QKeyEvent& press) const {
 
 // Whether a press is an unwanted repeat of Enter or Delete. If the first press went to another widget, that press
 // may have opened or closed a window. If the key edits no text, a repeat would press a button twice.
-bool KeyRouter::HoldsBack(const QWidget& receiver, const QKeyEvent& event) {
+bool KeyRouter::DropsRepeat(const QWidget& receiver, const QKeyEvent& event) {
   const int key = event.key();
   if (event.type() == QEvent::KeyRelease) {
     released_key_ = key;

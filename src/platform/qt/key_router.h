@@ -11,7 +11,7 @@ class QKeyEvent;
 namespace pelmar {
 
 // The order in which the router asks its functions (KeyTaker), until one takes the key. Before the router asks them, Qt
-// has looked for a shortcut, and HoldsBack has dropped repeats. If no function takes the key, the focused widget gets
+// has looked for a shortcut, and DropsRepeat has dropped repeats. If no function takes the key, the focused widget gets
 // the key. If this widget ignores the key, its parents get the key: so an Enter in a field reaches the dialog.
 enum class KeyTurn {
   kTabs,    // Alt with a physical number key selects a tab
@@ -40,7 +40,7 @@ class KeyRouter {
 
  private:
   [[nodiscard]] bool IsRepeat(const QKeyEvent& press) const;
-  bool HoldsBack(const QWidget& receiver, const QKeyEvent& event);
+  bool DropsRepeat(const QWidget& receiver, const QKeyEvent& event);
 
   struct Entry {
     KeyTurn turn;

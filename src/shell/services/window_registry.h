@@ -37,7 +37,7 @@ class WindowRegistry {
 
   // Like Get, but replaces a hidden window by a new one.
   template <class Window>
-  Window& Anew() {
+  Window& GetFresh() {
     if (const QWidget* old = Find(typeid(Window)); old != nullptr && !old->isVisible()) Unload<Window>();
     return Get<Window>();
   }

@@ -28,9 +28,9 @@ void AddShellWindows(const ProgramParts& parts) {
   });
   parts.ShowBy<Start>({"mnustart"});
   for (const std::string_view name : {"mnuhlp", "Help"})
-    parts.editor.commands.Add(name, [parts] { parts.windows.Anew<Hlp>().Present(); });
+    parts.editor.commands.Add(name, [parts] { parts.windows.GetFresh<Hlp>().Present(); });
   for (const std::string_view name : {"Mnu_Lock", "Lock"})
-    parts.editor.commands.Add(name, [parts] { parts.windows.Anew<Pass>().Run(); });
+    parts.editor.commands.Add(name, [parts] { parts.windows.GetFresh<Pass>().Run(); });
 }
 
 }  // namespace pelmar

@@ -30,13 +30,13 @@ void AddTextWindows(const ProgramParts& parts) {
   parts.Add<Zamena>({"mnuchange"}, text, platform, match);
   parts.Add<Vyber>({}, text);
   parts.Add<Visual>({}, std::ref(parts.main), std::ref(parts.editor.settings),
-                    Visual::Callbacks{parts.ColorCallback(), [&windows] { windows.Anew<Pos>().Present(); }});
+                    Visual::Callbacks{parts.ColorCallback(), [&windows] { windows.GetFresh<Pos>().Present(); }});
   parts.editor.commands.Add("mnupresnvyb", [&windows] {
-    auto& window = windows.Anew<Vyber>();
+    auto& window = windows.GetFresh<Vyber>();
     if (window.isVisible()) window.Load();  // the selection may have changed
     window.Present();
   });
-  parts.editor.commands.Add("mnumore", [&windows] { windows.Anew<Visual>().Present(); });
+  parts.editor.commands.Add("mnumore", [&windows] { windows.GetFresh<Visual>().Present(); });
   parts.editor.commands.Add("mnu_format", [parts] { Formatuj(parts.editor.text, parts.platform, &parts.main).exec(); });
   AddAppearanceCommands(parts.editor, parts.main);
   parts.main.on_line_counting = [&windows] {

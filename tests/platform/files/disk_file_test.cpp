@@ -91,14 +91,14 @@ TEST(ReadWholeFile, RefusesAllButReadableRegularFilesWithoutWaiting) {
   ASSERT_EQ(seteuid(user), 0);
 }
 
-// Copies the pieces unchanged. Kept() doesn't count the end that Finish() adds, so this end must be cut off.
+// Copies the pieces unchanged. ResultLength() doesn't count the end that Finish() adds, so this end must be cut off.
 struct CopyingRewriter : FileRewriter {
   std::string_view Rewrite(std::string_view piece) override {
     kept += piece.size();
     return piece;
   }
   std::string_view Finish() override { return end; }
-  [[nodiscard]] std::uint64_t Kept() const override { return kept; }
+  [[nodiscard]] std::uint64_t ResultLength() const override { return kept; }
   std::uint64_t kept = 0;
   std::string_view end;
 };

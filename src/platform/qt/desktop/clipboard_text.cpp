@@ -42,7 +42,7 @@ std::optional<std::string> TextFromMime(const QMimeData* mime) {
   if (mime == nullptr) return std::nullopt;
   if (const QString own = QString::fromLatin1(kBytesMimeType); mime->hasFormat(own))
     return mime->data(own).toStdString();
-  if (HasText(*mime)) return PageText(mime->text());
+  if (HasText(*mime)) return TextInCodePage(mime->text());
   return std::nullopt;
 }
 
@@ -52,7 +52,7 @@ QString LineFromMime(const QMimeData& mime, bool holds_lines) {
   return holds_lines ? text : text.remove(u'\r').remove(u'\n');
 }
 
-std::string PageText(const QString& foreign) {
+std::string TextInCodePage(const QString& foreign) {
   return TextFromQString(WithCrLf(foreign.normalized(QString::NormalizationForm_C)));
 }
 

@@ -17,13 +17,14 @@ bool HasText(const QMimeData& mime);
 // The caller owns the result. The plain text is made only if another program asks for the text.
 QMimeData* MimeFromText(std::string_view bytes);
 
-// The exact bytes if offered, otherwise the plain text converted by PageText. Nothing if `mime` is null or has no text.
+// The exact bytes if offered, otherwise the plain text converted by TextInCodePage. Nothing if `mime` is null or has no
+// text.
 std::optional<std::string> TextFromMime(const QMimeData* mime);
 
 // The text for a single-line field, in Unicode. Removes line breaks, or converts them to CR LF if `holds_lines`.
 QString LineFromMime(const QMimeData& mime, bool holds_lines);
 
 // Converts a text to Windows-1250. First composes letters and their combining accents (NFC). A lone LF becomes CR LF.
-std::string PageText(const QString& foreign);
+std::string TextInCodePage(const QString& foreign);
 
 }  // namespace pelmar

@@ -18,9 +18,9 @@ namespace pelmar {
 namespace {
 
 // The wanted contrasts with the background, as ratios of luminances: 1 for equal colours, 21 for black on white.
-constexpr double kReadable = 4.5;
-constexpr double kVisible = 3.7;  // more than the usual 3 for borders, since their edges are blurred
-constexpr double kSeen = 3;       // disabled captions: visible, but paler than enabled ones
+constexpr double kTextContrast = 4.5;
+constexpr double kBorderContrast = 3.7;  // more than the usual 3 for borders, since their edges are blurred
+constexpr double kDisabledContrast = 3;  // disabled captions: visible, but paler than enabled ones
 constexpr double kLine = 2;
 constexpr double kMarked = 1.5;  // the background of a selected text in a disabled field
 constexpr int kSteps = 20;
@@ -145,15 +145,16 @@ void ProgramStyle::polish(QPalette& palette) {
       palette.setColor(QPalette::Disabled, role, OfContrast(wanted, on, text(QPalette::WindowText)));
   };
   // A running search disables fields of its dialog, but the person still has to read these fields.
-  lift(QPalette::Text, QPalette::Base, kReadable);
+  lift(QPalette::Text, QPalette::Base, kTextContrast);
   const QColor marked = OfContrast(kMarked, palette.color(QPalette::Disabled, QPalette::Base), text(QPalette::Text));
   palette.setColor(QPalette::Disabled, QPalette::Highlight, marked);
-  palette.setColor(QPalette::Disabled, QPalette::HighlightedText, OfContrast(kReadable, marked, text(QPalette::Text)));
-  lift(QPalette::WindowText, QPalette::Window, kSeen);
-  lift(QPalette::ButtonText, QPalette::Button, kSeen);
+  palette.setColor(QPalette::Disabled, QPalette::HighlightedText,
+                   OfContrast(kTextContrast, marked, text(QPalette::Text)));
+  lift(QPalette::WindowText, QPalette::Window, kDisabledContrast);
+  lift(QPalette::ButtonText, QPalette::Button, kDisabledContrast);
   // Some dark desktops leave placeholder texts black. The tabs of unnamed documents use this colour too, on the colour
   // of buttons, where contrast is lower than in a field.
-  const QColor hint = OfContrast(kReadable, text(QPalette::Button), text(QPalette::ButtonText));
+  const QColor hint = OfContrast(kTextContrast, text(QPalette::Button), text(QPalette::ButtonText));
   palette.setColor(QPalette::PlaceholderText, hint);
   // The colour of lines in the program's own controls.
   palette.setColor(QPalette::Mid, OfContrast(kLine, text(QPalette::Window), text(QPalette::WindowText)));
@@ -173,7 +174,7 @@ void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
   // Qt's usual style draws the border in a darker shade of the window's colour. On a dark window this is invisible.
   const int darkens = element == PE_IndicatorRadioButton ? 150 : 127;
   QStyleOptionButton rimmed(*box);
-  const QColor rim = OfContrast(kVisible, box->palette.color(QPalette::Window),
+  const QColor rim = OfContrast(kBorderContrast, box->palette.color(QPalette::Window),
                                 box->palette.color(QPalette::Active, QPalette::WindowText));
   rimmed.palette.setColor(QPalette::Window, rim.lighter(darkens));
   QProxyStyle::drawPrimitive(element, &rimmed, painter, widget);
@@ -219,7 +220,7 @@ void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOption
   // Only scroll bars that hold a value can have the focus; the scroll bars of lists and texts can't.
   if (control != CC_ScrollBar || widget == nullptr || widget->focusPolicy() == Qt::NoFocus) return;
   const QPalette& palette = option->palette;
-  painter->setPen(widget->isEnabled() ? OfContrast(kVisible, palette.color(QPalette::Window),
+  painter->setPen(widget->isEnabled() ? OfContrast(kBorderContrast, palette.color(QPalette::Window),
                                                    palette.color(QPalette::Active, QPalette::WindowText))
                                       : palette.color(QPalette::Mid));
   painter->setBrush(Qt::NoBrush);

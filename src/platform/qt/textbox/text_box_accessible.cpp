@@ -118,7 +118,7 @@ void TextBoxAccessible::replaceText(int start, int end, const QString& text) {
   if (box_.IsReadOnly()) return;
   const std::size_t from = PosOf(start, box_.Buffer());
   const std::size_t to = std::max(PosOf(end, box_.Buffer()), from);
-  box_.Buffer().Replace(from, to - from, PageText(text));
+  box_.Buffer().Replace(from, to - from, TextInCodePage(text));
 }
 
 void TextBoxNotifier::Changed(const TextChange& change) {

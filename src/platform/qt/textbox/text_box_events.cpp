@@ -48,7 +48,7 @@ void TextBox::keyPressEvent(QKeyEvent* event) {
   }
   const QString typed = TypedText(*event);
   if (typed.isEmpty() || read_only_) return event->ignore();
-  buffer_->Type(PageText(typed));
+  buffer_->Type(TextInCodePage(typed));
   event->accept();
 }
 

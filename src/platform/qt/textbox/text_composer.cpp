@@ -46,7 +46,7 @@ void TextComposer::Handle(const QInputMethodEvent& event, TextBuffer& buffer) {
     buffer.Select(from, Offset(from, event.replacementLength(), buffer.Size()));
   }
   if (!event.commitString().isEmpty()) {
-    buffer.Type(PageText(event.commitString()));
+    buffer.Type(TextInCodePage(event.commitString()));
   } else if (replaces || (changes && buffer.HasSelection())) {
     buffer.ReplaceSelection({});
   }

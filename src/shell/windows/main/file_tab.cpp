@@ -43,15 +43,15 @@ QString FileTab::CaptionAt(int index) const { return Utf8ToQString(documents_.Fa
 void FileTab::ShowFace(int tab) {
   setTabText(tab - 1, CaptionAt(tab - 1).replace(QLatin1Char('&'), QLatin1String("&&")));
   setTabToolTip(tab - 1, Utf8ToQString(documents_.Face(tab).ToolTipText));
-  NameTab(tab);
+  SetAccessibleTabName(tab);
 }
 
 void FileTab::ShowUnsaved() {
-  for (int tab = 1; tab <= kTabCount; ++tab) NameTab(tab);
+  for (int tab = 1; tab <= kTabCount; ++tab) SetAccessibleTabName(tab);
   update();
 }
 
-void FileTab::NameTab(int tab) {
+void FileTab::SetAccessibleTabName(int tab) {
   const QString caption = CaptionAt(tab - 1);
   const QString spoken = caption.isEmpty() ? QStringLiteral("nový soubor") : caption;
   const QString state = documents_.IsUnsaved(tab) ? QStringLiteral(", neuloženo") : QString();

@@ -28,7 +28,7 @@ class FileTab : public QTabBar {
   // Tabs count from 1, indexes from 0.
   void ShowFace(int tab);
   void ShowUnsaved();
-  void NameTab(int tab);
+  void SetAccessibleTabName(int tab);
   [[nodiscard]] QString CaptionAt(int index) const;
   [[nodiscard]] QRect VisibleRect(int index) const;
   void PaintTab(QPainter& painter, int index) const;

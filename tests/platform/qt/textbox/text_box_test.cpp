@@ -292,7 +292,7 @@ TEST_F(TextBoxTest, PartialRepaintsEqualAFullRepaintAndShowTheCaret) {
     if (round % 60 == 0) {
       box->setWordWrap(round % 120 == 0);
       box->setAlignment(kAlignments[round / 60 % 3]);
-      buffer.SetText(PageText(QString::fromStdString(text(3000))));
+      buffer.SetText(TextInCodePage(QString::fromStdString(text(3000))));
     }
     const std::size_t action = random.Below(7);
     act(action);
