@@ -15,7 +15,7 @@ namespace {
 constexpr std::chrono::milliseconds kPatience(500);
 constexpr std::chrono::milliseconds kPoll(20);
 // A window may be in place only for a moment, for instance while the window manager adds the frame. So this many checks
-// in a row must find the window in place. For a new window under Trust::kFirst, one check is enough.
+// in a row must find the window in place. For a new window under EndAfter::kOneCheck, one check is enough.
 constexpr int kChecksInPlace = 20;
 
 // The frame of another window of the program. A new window most likely gets an equal frame.
@@ -48,8 +48,8 @@ TwipsRect InTheMiddle(const QWidget& window, const TwipsRect& now) {
 
 }  // namespace
 
-Placement::Placement(QWidget& window, Wish wish, Trust trust)
-    : QObject(&window), window_(window), wish_(std::move(wish)), trust_(trust) {
+Placement::Placement(QWidget& window, Wish wish, EndAfter end_after)
+    : QObject(&window), window_(window), wish_(std::move(wish)), end_after_(end_after) {
   timer_.setInterval(kPoll);
   connect(&timer_, &QTimer::timeout, this, &Placement::Check);
 }
@@ -58,7 +58,7 @@ void Placement::Begin(const QMargins& old_frame, bool maximised) {
   old_frame_ = old_frame;
   maximised_ = maximised;
   checks_in_place_ = 0;
-  mapped_ = false;
+  deadline_set_ = false;
   window_.installEventFilter(this);
   if (!window_.isVisible()) return;
   timer_.start();
@@ -74,8 +74,8 @@ bool Placement::eventFilter(QObject*, QEvent* event) {
 void Placement::Check() {
   const QWindow* native = window_.windowHandle();
   if (native == nullptr || !native->isVisible()) return;
-  if (!mapped_) deadline_.setRemainingTime(kPatience);
-  mapped_ = true;
+  if (!deadline_set_) deadline_.setRemainingTime(kPatience);
+  deadline_set_ = true;
   const bool late = deadline_.hasExpired();
   const QMargins frame = native->frameMargins();
   if (!late && (frame == old_frame_ || !IsComplete(frame))) return;
@@ -84,8 +84,8 @@ void Placement::Check() {
     frame_known_ = true;
     if (on_frame) on_frame();
   }
-  const bool trusted = trust_ == Trust::kFirst && old_frame_.isNull();
-  if (late || checks_in_place_ >= (trusted ? 1 : kChecksInPlace)) End();
+  const bool one_check = end_after_ == EndAfter::kOneCheck && old_frame_.isNull();
+  if (late || checks_in_place_ >= (one_check ? 1 : kChecksInPlace)) End();
 }
 
 void Placement::Apply() {
@@ -118,7 +118,7 @@ void CentreOnScreen(QWidget& window) {
         // If the window is elsewhere, somebody has moved it: leave it there.
         return outer == asked || window.geometry().topLeft() == asked ? InTheMiddle(window, now) : now;
       },
-      Placement::Trust::kLasting);
+      Placement::EndAfter::kSeveralChecks);
   placement->on_end = [placement] { placement->deleteLater(); };
   placement->Begin();
 }

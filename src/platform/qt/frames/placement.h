@@ -20,12 +20,13 @@ class Placement : public QObject {
   // Returns the wanted outer place. `now` is the current outer place.
   using Wish = std::function<TwipsRect(const TwipsRect& now)>;
 
-  // When the checks of a new window end. kFirst: after the first check that finds the window in place. kLasting: after
-  // several such checks in a row. Meanwhile the person may move the window, and the wish must then return `now`.
-  enum class Trust { kFirst, kLasting };
+  // When the checks of a new window end. kOneCheck: after the first check that finds the window in place.
+  // kSeveralChecks: after several such checks in a row. Meanwhile the person may move the window, and the wish must
+  // then return `now`.
+  enum class EndAfter { kOneCheck, kSeveralChecks };
 
   // Does nothing before Begin.
-  Placement(QWidget& window, Wish wish, Trust trust = Trust::kFirst);
+  Placement(QWidget& window, Wish wish, EndAfter end_after = EndAfter::kOneCheck);
 
   // Places the window once it is shown. Before that, waits up to the time limit for a frame other than `old_frame`, the
   // frame before a change of state. If `maximised`, keeps the window maximised instead of placing the window.
@@ -48,13 +49,13 @@ class Placement : public QObject {
 
   QWidget& window_;
   Wish wish_;
-  Trust trust_;
+  EndAfter end_after_;
   QTimer timer_;
   QMargins old_frame_;
   QDeadlineTimer deadline_;
   int checks_in_place_ = 0;  // how many checks in a row found the window in place
   bool maximised_ = false;
-  bool mapped_ = false;
+  bool deadline_set_ = false;
   bool frame_known_ = false;
 };
 
