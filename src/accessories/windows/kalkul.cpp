@@ -90,8 +90,7 @@ void Kalkul::ShowState() {
 
 void Kalkul::Command20_Click() {
   hide();
-  callbacks_.hide_converter();
-  if (stand_alone_) ConfirmClose();
+  ConfirmClose();
 }
 
 bool Kalkul::ConfirmClose() {

@@ -41,6 +41,7 @@ class Kalkul : public FormDialog<Ui::Kalkul> {
   void ConnectFunctions();
   void OnClick(QPushButton* key, std::function<void()> act);
   void Command20_Click();
+  // Hides the converter. If the calculator is the whole program, asks whether to end the program. False after a No.
   bool ConfirmClose();
   Preview PhysicalKey(const QKeyEvent& event);
   [[nodiscard]] QPushButton* KeyOf(char character) const;
