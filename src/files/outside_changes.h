@@ -9,15 +9,11 @@
 
 namespace pelmar {
 
-enum class OutsideChange { kNone, kWritten, kGone };
-
-// kNone if this program neither opened nor saved the file.
-OutsideChange OutsideChangeOf(const Documents& documents, Platform& platform);
+// The notice for the status bar, UTF-8. "" if nothing happened to the file, or if this program neither opened nor saved
+// the file.
+std::string_view OutsideNotice(const Documents& documents, Platform& platform);
 
 // True if the current document was UTF-8 when this program opened its file, or at a save since then.
 bool CurrentWasUtf8(const Documents& documents);
-
-// The notice for the status bar, UTF-8; "" for kNone.
-std::string_view OutsideNotice(OutsideChange change);
 
 }  // namespace pelmar

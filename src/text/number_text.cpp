@@ -48,27 +48,15 @@ std::size_t NumberLength(std::string_view text, char mark) {
   return end;
 }
 
-// For a number that no double can hold: true if the number is too close to zero, false if the number is too large. The
-// decimal mark is the point.
-bool IsTiny(std::string_view number) {
-  const std::string_view mantissa = number.substr(0, number.find_first_of("eE"));
-  std::string_view digits = number.substr(std::min(mantissa.size() + 1, number.size()));
-  const bool negative = digits.starts_with('-');
-  if (digits.starts_with('-') || digits.starts_with('+')) digits.remove_prefix(1);
-  double exponent = 0;  // a double, since the text may have any number of digits
-  for (const char digit : digits) exponent = 10 * exponent + (digit - '0');
-  const auto point = static_cast<double>(std::min(mantissa.find('.'), mantissa.size()));
-  const auto first = static_cast<double>(mantissa.find_first_of("123456789"));
-  return point - first + (negative ? -exponent : exponent) < 0;
-}
-
-// The value of a number with a decimal point. 0 for a text that is no number, nothing for a number that is too large.
+// The value of a number with a decimal point. 0 for a text that is no number. A number that no double can hold is 0 if
+// its exponent is negative, otherwise nothing.
 std::optional<double> ValueOf(std::string_view number) {
   if (number.starts_with('+')) number.remove_prefix(1);
   double value = 0;
   const std::errc error = std::from_chars(number.data(), number.data() + number.size(), value).ec;
-  if (error == std::errc::result_out_of_range) return IsTiny(number) ? std::optional(0.0) : std::nullopt;
-  return value;
+  if (error != std::errc::result_out_of_range) return value;
+  const bool negative_exponent = number.find('-', 1) != std::string_view::npos;
+  return negative_exponent ? std::optional(0.0) : std::nullopt;
 }
 
 }  // namespace
@@ -83,35 +71,14 @@ std::string ZeroPadded(std::int64_t number, std::size_t width) {
 }
 
 std::string FixedText(double number, int decimals) {
-  // Rounds the decimal digits, because the binary value of a number that ends in 5 may be slightly lower.
-  constexpr int kDigits = 15;
-  const double size = std::abs(number);
-  const int whole = size < 1 ? 1 : static_cast<int>(std::floor(std::log10(size))) + 1;
+  // The binary value of a number that ends in 5 may be slightly lower, so the number is made a little larger.
+  const double scale = std::pow(10, decimals);
+  double rounded = std::round(number * scale * (1 + 1e-15)) / scale;
+  if (rounded == 0) rounded = 0;  // without the sign of a negative zero
   char buffer[64];
-  const auto end =
-      std::to_chars(buffer, buffer + sizeof buffer, size, std::chars_format::fixed, std::max(kDigits - whole, 0)).ptr;
-  std::string text(buffer, end);
-  std::size_t mark = std::min(text.find('.'), text.size());
-  if (mark < text.size()) text.erase(mark, 1);
-
-  const auto wanted = mark + static_cast<std::size_t>(decimals);
-  const bool up = wanted < text.size() && text[wanted] >= '5';
-  text.resize(wanted, '0');
-  for (std::size_t i = text.size(); up;) {
-    if (i == 0) {
-      text.insert(text.begin(), '1');
-      ++mark;
-      break;
-    }
-    if (text[--i] != '9') {
-      ++text[i];
-      break;
-    }
-    text[i] = '0';
-  }
-  const bool negative = number < 0 && text.find_first_not_of('0') != std::string::npos;
-  text.insert(mark, 1, ',');
-  return negative ? '-' + text : text;
+  const auto end = std::to_chars(buffer, buffer + sizeof buffer, rounded, std::chars_format::fixed, decimals).ptr;
+  std::replace(buffer, end, '.', ',');
+  return {buffer, end};
 }
 
 double LeadingNumber(std::string_view text) {

@@ -20,7 +20,7 @@ std::string NumberText(float number);
 std::string ZeroPadded(std::int64_t number, std::size_t width);
 
 // Exactly `decimals` digits (1 or more) after the comma. Halves are rounded away from zero: FixedText(1.015625, 5) is
-// "1,01563". Only the first 15 digits are used. The number must be finite and its absolute value below 1E+15.
+// "1,01563". The number must be finite and have at most 14 digits, the decimals included.
 std::string FixedText(double number, int decimals);
 
 // The value of the longest finite number at the start of the text, after blanks. 0 if the text starts with no number.

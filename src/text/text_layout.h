@@ -7,7 +7,6 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <string_view>
 #include <vector>
 
 #include "text/index.h"
@@ -36,8 +35,7 @@ enum class TextAlign : std::uint8_t { kLeft, kRight, kCentre };
 
 struct LayoutRules {
   AdvanceTable advances;
-  std::int64_t width = 0;  // of the window that shows the text
-  bool wrap = true;        // break lines at `width`, after a blank if there is one
+  std::int64_t width = 0;  // lines wrap here, after a blank if there is one; never negative
   TextAlign align = TextAlign::kLeft;
 };
 
@@ -54,7 +52,7 @@ class TextLayout {
   explicit TextLayout(const TextBuffer& buffer) : buffer_(&buffer) {}
 
   void Lay(const LayoutRules& rules);
-  // Changes LayoutRules::width. Computes all rows again if lines wrap.
+  // Changes LayoutRules::width and computes all rows again.
   void SetWidth(std::int64_t width);
   void SetAlign(TextAlign align) { rules_.align = align; }
   // Adapts the rows to a change of the text. Call after each change.
@@ -68,13 +66,11 @@ class TextLayout {
   // A position between two rows of one line belongs to the second row, with `at_row_end` to the first.
   [[nodiscard]] std::size_t RowOf(std::size_t pos, bool at_row_end = false) const;
 
-  // LayoutRules::width or the width of the widest row, whichever is larger.
-  [[nodiscard]] std::int64_t ContentWidth() const;
   [[nodiscard]] std::int64_t RowWidth(std::size_t row) const { return XOf(row, RowEnd(row)); }
   // The left edge of a row, which depends on the alignment.
   [[nodiscard]] std::int64_t RowLeft(std::size_t row) const;
 
-  // The distance of a position from the start of the row. If lines wrap, a blank beyond `width` has no width.
+  // The distance of a position from the start of the row. A blank beyond LayoutRules::width has no width.
   [[nodiscard]] std::int64_t XOf(std::size_t row, std::size_t pos) const;
   // The position nearest to `x`, and the position of the character at `x`. After the last character: the row end. `x`
   // counts from the start of the row.
@@ -82,27 +78,13 @@ class TextLayout {
   [[nodiscard]] std::size_t CharAt(std::size_t row, std::int64_t x) const;
 
  private:
-  // The x of a position in a long row, stored at intervals. Computing the x of any position then begins at the nearest
-  // earlier mark, not at the start of the row.
-  struct Mark {
-    std::size_t pos = 0;
-    std::int64_t x = 0;
-  };
-
   void LayAll();
   [[nodiscard]] std::size_t NextRow(std::size_t start, std::size_t& line) const;
   [[nodiscard]] std::size_t WrapAt(std::size_t start, std::size_t end) const;
-  [[nodiscard]] std::int64_t Walk(Mark from, std::size_t to) const;
-  [[nodiscard]] std::int64_t MeasureRow(std::size_t row, Mark from, std::vector<Mark>& marks) const;
-  void MeasureAll();
-  void Remeasure(const RowsChange& rows, const TextChange& change, std::size_t same_from);
 
   const TextBuffer* buffer_;
   LayoutRules rules_;
   std::vector<std::size_t> rows_{0};
-  std::vector<std::int64_t> widths_{0};  // of each row; without wrapping only
-  std::vector<Mark> marks_;              // without wrapping only
-  std::int64_t widest_ = 0;
 };
 
 }  // namespace pelmar

@@ -258,9 +258,9 @@ TEST_F(FastSave, AsksEvenIfTheFileIsMissing) {
 
 TEST_F(FilesTest, NoticesThatAnotherProgramRemovedTheFile) {
   platform.files.erase("/a.txt");
-  EXPECT_EQ(OutsideChangeOf(documents, platform), OutsideChange::kGone);
+  EXPECT_EQ(OutsideNotice(documents, platform), "Soubor zmizel z disku");
   documents.SwitchTo(2);
-  EXPECT_EQ(OutsideChangeOf(documents, platform), OutsideChange::kNone);
+  EXPECT_EQ(OutsideNotice(documents, platform), "");
 }
 
 }  // namespace

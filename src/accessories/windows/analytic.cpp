@@ -93,11 +93,9 @@ void Analytic::Command3_Click() {
 void Analytic::Pic_Pointed(double x) {
   const int code = CodeAt(x, ui_->Check1->isChecked());
   if (code < 0) return;
-  const std::string text = PointedText(code);
-  ui_->Label2->setText(TextToQString(text));
-  ui_->Pic->setToolTip(TextToQString(text));
-  ui_->Pic->setAccessibleDescription(
-      QStringLiteral("%1, výška %2 %").arg(ReadableText(text)).arg(ui_->Pic->PointedShare()));
+  const QString text = TextToQString(PointedText(code));
+  ui_->Label2->setText(text);
+  ui_->Pic->setToolTip(text);
 }
 
 void Analytic::Text1_Change() {
@@ -110,10 +108,7 @@ void Analytic::Timer1_Timer() {
 }
 
 bool Analytic::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == ui_->Picture2 && event->type() == QEvent::MouseButtonPress) {
-    ui_->Label2->clear();
-    ui_->Pic->ForgetPlace();
-  }
+  if (watched == ui_->Picture2 && event->type() == QEvent::MouseButtonPress) ui_->Label2->clear();
   return DialogWindow::eventFilter(watched, event);
 }
 

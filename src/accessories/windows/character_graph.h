@@ -1,9 +1,7 @@
-// The bar graph of the character analysis, in its own scale of 508 by 196 at any size of the control. The mouse and the
-// arrow keys mark a place on the scale.
+// The bar graph of the character analysis, in its own scale of 508 by 196 at any size of the control.
 #pragma once
 
 #include <QWidget>
-#include <optional>
 #include <vector>
 
 #include "accessories/analysis.h"
@@ -20,30 +18,19 @@ class CharacterGraph : public QWidget {
 
   void Show(std::vector<Bar> bars, bool wide);
   void Clear();
-  // Removes the mark.
-  void ForgetPlace();
-
-  // The code at the mark, 0 without a mark, and the height of its bar in percent.
-  [[nodiscard]] int PointedCode() const;
-  [[nodiscard]] int PointedShare() const;
-  [[nodiscard]] int LastCode() const;
-  void GoTo(int code);
 
  Q_SIGNALS:
-  void Pointed(double x);  // the marked place, in the graph's scale
+  void Pointed(double x);  // the place of the mouse pointer, in the graph's scale
 
  protected:
   void mouseMoveEvent(QMouseEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  void Point(double x);
-  void PaintColumn(QPainter& painter, double x, double top, const QColor& color) const;
+  void PaintBar(QPainter& painter, const Bar& bar) const;
 
   std::vector<Bar> bars_;
-  std::optional<double> place_;
   bool wide_ = true;
 };
 

@@ -3,7 +3,6 @@
 #include <QButtonGroup>
 #include <QCloseEvent>
 #include <QKeyEvent>
-#include <QLabel>
 
 #include "platform/qt/convert.h"
 #include "shell/stand_alone.h"
@@ -22,8 +21,6 @@ Kalkul::Kalkul(Platform& platform, bool stand_alone, Callbacks callbacks, QWidge
     ui_->Command19->setText(QStringLiteral("&Clip"));
     ui_->Command20->setText(QStringLiteral("&Quit"));
   }
-  cut_ = new QLabel(QStringLiteral("…"), ui_->Cislo);
-  cut_->hide();
   // In a button group, the arrow keys move the focus between the buttons by their position.
   auto* group = new QButtonGroup(this);
   group->setExclusive(false);
@@ -81,7 +78,6 @@ void Kalkul::SetNumber(const std::string& number) {
 void Kalkul::ShowState() {
   ui_->Cislo->setText(Utf8ToQString(calculator_.shown));
   ui_->Label1->setText(Utf8ToQString(calculator_.operation));
-  ShowCut();
   ui_->Label2->setText(Utf8ToQString(calculator_.operand));
   // A disabled key would pass its focus to the next key, so the focus goes to the number.
   const QWidget* focus = focusWidget();
@@ -92,19 +88,9 @@ void Kalkul::ShowState() {
   if (focus != nullptr && !focus->isEnabled()) ui_->Cislo->setFocus();
 }
 
-void Kalkul::ShowCut() {
-  constexpr int kEdges = 12;  // frame and margins of the field
-  const bool cut = ui_->Cislo->fontMetrics().horizontalAdvance(ui_->Cislo->text()) > ui_->Cislo->width() - kEdges;
-  cut_->setGeometry(kEdges / 2, 0, cut_->sizeHint().width(), ui_->Cislo->height());
-  cut_->setVisible(cut);
-  ui_->Cislo->setTextMargins(cut ? cut_->width() + kEdges / 2 : 0, 0, 0, 0);
-  ui_->Cislo->setToolTip(cut ? ui_->Cislo->text() : QString());
-}
-
 void Kalkul::Command20_Click() {
   hide();
-  callbacks_.hide_converter();
-  if (stand_alone_) ConfirmClose();
+  ConfirmClose();
 }
 
 bool Kalkul::ConfirmClose() {
@@ -122,11 +108,6 @@ void Kalkul::closeEvent(QCloseEvent* event) {
   if (!ConfirmClose()) return event->ignore();
   DialogWindow::closeEvent(event);
   if (!stand_alone_) callbacks_.unload();
-}
-
-void Kalkul::showEvent(QShowEvent* event) {
-  DialogWindow::showEvent(event);
-  ShowCut();  // the number may have been set while the window was hidden
 }
 
 QPushButton* Kalkul::KeyOf(char character) const {

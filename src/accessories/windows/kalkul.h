@@ -8,7 +8,6 @@
 #include "accessories/windows/key_preview.h"
 #include "platform/qt/controls/dialog_window.h"
 
-class QLabel;
 class QPushButton;
 
 namespace Ui {
@@ -35,7 +34,6 @@ class Kalkul : public FormDialog<Ui::Kalkul> {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
-  void showEvent(QShowEvent* event) override;
 
  private:
   void ConnectEntry();
@@ -43,17 +41,16 @@ class Kalkul : public FormDialog<Ui::Kalkul> {
   void ConnectFunctions();
   void OnClick(QPushButton* key, std::function<void()> act);
   void Command20_Click();
+  // Hides the converter. If the calculator is the whole program, asks whether to end the program. False after a No.
   bool ConfirmClose();
   Preview PhysicalKey(const QKeyEvent& event);
   [[nodiscard]] QPushButton* KeyOf(char character) const;
   void ShowState();
-  void ShowCut();
 
   Platform& platform_;
   bool stand_alone_;
   Callbacks callbacks_;
   Calculator calculator_;
-  QLabel* cut_;  // dots before a number whose beginning doesn't fit
 };
 
 }  // namespace pelmar

@@ -4,6 +4,7 @@
 
 #include "files/encodings.h"
 #include "files/open.h"
+#include "files/outside_changes.h"
 #include "platform/paths.h"
 #include "platform/qt/convert.h"
 
@@ -35,12 +36,12 @@ FileWarnings::FileWarnings(MainWindow& window, Editor& editor)
                     WarnOfFormat(false);
                   }),
                   editor.documents.face_changed.Add([this](int) {
-                    WarnOfOutside(OutsideChange::kNone);
+                    WarnOfOutside({});
                     WarnOfName();
                     WarnOfFormat(false);
                   }),
                   editor.text.OnChange([this](const TextChange&) {
-                    WarnOfOutside(OutsideChange::kNone);
+                    WarnOfOutside({});
                     WarnOfFormat(true);
                     WarnOfLength();
                   })} {
@@ -57,11 +58,11 @@ bool FileWarnings::eventFilter(QObject* watched, QEvent* event) {
   return QObject::eventFilter(watched, event);
 }
 
-void FileWarnings::WarnOfOutside(OutsideChange change) {
-  window_.Bar().Warn(Warning::kChangedOutside, Utf8ToQString(OutsideNotice(change)));
+void FileWarnings::WarnOfOutside(std::string_view notice) {
+  window_.Bar().Warn(Warning::kChangedOutside, Utf8ToQString(notice));
 }
 
-void FileWarnings::CheckDisk() { WarnOfOutside(OutsideChangeOf(documents_, platform_)); }
+void FileWarnings::CheckDisk() { WarnOfOutside(OutsideNotice(documents_, platform_)); }
 
 void FileWarnings::WarnOfName() {
   const std::string& path = documents_.CurrentPath();

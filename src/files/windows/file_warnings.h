@@ -5,8 +5,8 @@
 
 #include <QObject>
 #include <array>
+#include <string_view>
 
-#include "files/outside_changes.h"
 #include "shell/editor.h"
 #include "shell/windows/main/main_window.h"
 
@@ -23,7 +23,7 @@ class FileWarnings : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  void WarnOfOutside(OutsideChange change);
+  void WarnOfOutside(std::string_view notice);
   void CheckDisk();
   void WarnOfName();
   void WarnOfFormat(bool changed);

@@ -82,14 +82,6 @@ void TextBox::setReadOnly(bool read_only) {
   viewport()->update();
 }
 
-void TextBox::setWordWrap(bool wrap) {
-  if (wrap == WordWrap()) return;
-  KeepTopWhile([&] {
-    view_->SetWrap(wrap);
-    Relayout();
-  });
-}
-
 Qt::Alignment TextBox::Alignment() const {
   switch (view_->Align()) {
     case TextAlign::kRight:
@@ -142,12 +134,10 @@ void TextBox::ShowChange(const TextChange& change) {
   notifier_->Changed(change);
   if (!Showing()) return view_->Invalidate();
 
-  const std::int64_t width = view_->RawLayout().ContentWidth();
   if (const auto rows = view_->Follow(change)) {
     UpdateRows(*rows);
-    const bool moved = view_->Align() != TextAlign::kLeft && view_->RawLayout().ContentWidth() != width;
-    if (moved || selected) viewport()->update();
-    UpdateScrollBars();
+    if (selected) viewport()->update();
+    UpdateScrollBar();
   } else {
     Relayout();
   }
@@ -187,28 +177,24 @@ void TextBox::UpdateRowsOf(TextSpan span) {
 
 void TextBox::Relayout() {
   if (!Showing()) return;
-  UpdateScrollBars();
+  UpdateScrollBar();
   viewport()->update();
 }
 
-// A scroll bar that appears or disappears changes the size of the viewport, which may change the need for the other
-// scroll bar. So the ranges are set until the size stays the same, at most three times.
-void TextBox::UpdateScrollBars() {
-  if (updating_bars_) return;
-  updating_bars_ = true;
+// A scroll bar that appears or disappears changes the width of the viewport, and with it the rows. So the range is set
+// until the width stays the same, at most three times.
+void TextBox::UpdateScrollBar() {
+  if (updating_bar_) return;
+  updating_bar_ = true;
   for (int round = 0; round < 3; ++round) {
     const QSize window = viewport()->size();
     view_->SetViewportWidth(window.width());
-    const QSize content = view_->ContentSize();
     verticalScrollBar()->setSingleStep(view_->Glyphs().RowHeight());
     verticalScrollBar()->setPageStep(window.height());
-    verticalScrollBar()->setRange(0, std::max(content.height() - window.height(), 0));
-    horizontalScrollBar()->setSingleStep(view_->Glyphs().RowHeight());
-    horizontalScrollBar()->setPageStep(window.width());
-    horizontalScrollBar()->setRange(0, std::max(content.width() - window.width(), 0));
+    verticalScrollBar()->setRange(0, std::max(view_->ContentHeight() - window.height(), 0));
     if (viewport()->size() == window) break;
   }
-  updating_bars_ = false;
+  updating_bar_ = false;
 }
 
 // Keeps the text of the top row in place while `change` changes the rows.
@@ -222,7 +208,7 @@ void TextBox::KeepTopWhile(const std::function<void()>& change) {
   verticalScrollBar()->setValue(view_->RowTop(view_->Layout().RowOf(pos)) + within);
 }
 
-QPoint TextBox::Scrolled() const { return {horizontalScrollBar()->value(), verticalScrollBar()->value()}; }
+QPoint TextBox::Scrolled() const { return {0, verticalScrollBar()->value()}; }
 
 std::size_t TextBox::PageRows() const {
   const int rows = viewport()->height() / view_->Glyphs().RowHeight();
@@ -237,12 +223,11 @@ bool TextBox::IsSelectedAt(QPoint point) const {
   if (!buffer_->HasSelection()) return false;
   const std::size_t row = view_->RowAt(point.y() + Scrolled().y());
   const QRect rows(0, view_->RowTop(row), viewport()->width(), view_->Glyphs().RowHeight());
-  const int x = point.x() + Scrolled().x();
   if (!rows.contains(0, point.y() + Scrolled().y())) return false;
   const TextLayout& layout = view_->Layout();
   const std::size_t begin = std::clamp(buffer_->SelStart(), layout.RowStart(row), layout.RowEnd(row));
   const std::size_t end = std::clamp(buffer_->SelEnd(), layout.RowStart(row), layout.RowEnd(row));
-  return begin < end && x >= view_->StopX(row, begin) && x < view_->StopX(row, end);
+  return begin < end && point.x() >= view_->StopX(row, begin) && point.x() < view_->StopX(row, end);
 }
 
 QPoint TextBox::CaretPoint() const {
@@ -253,8 +238,8 @@ QPoint TextBox::CaretPoint() const {
 
 QPoint TextBox::ComposedPoint() const {
   QPoint at = CaretPoint();
+  if (!composer_.Active()) return at;
   const int right = viewport()->width() - TextView::kMargin;
-  if (!composer_.Active() || at.x() > right) return at;
   at.setX(std::min(at.x(), std::max(right - composer_.Width(font()), TextView::kMargin)));
   return at;
 }
@@ -294,18 +279,11 @@ void TextBox::RevealCaret() {
 }
 
 void TextBox::RevealRect(QRect rect) {
-  const auto reveal = [](QScrollBar* bar, int from, int to, int size) {
-    if (to > size) bar->setValue(bar->value() + to - size);
-    if (from < 0) bar->setValue(bar->value() + from);
-  };
-  reveal(verticalScrollBar(), rect.top() - TextView::kMargin, rect.bottom() + 1 + TextView::kMargin,
-         viewport()->height());
-  // If the rectangle is outside the viewport, scrolls a little further sideways, to show some text around the
-  // rectangle.
-  const bool outside = rect.left() < 0 || rect.right() >= viewport()->width();
-  const int ahead = outside ? std::min(viewport()->width() / 8, 60) : 0;
-  reveal(horizontalScrollBar(), rect.left() - std::max(TextView::kMargin, ahead),
-         rect.right() + std::max(TextView::kMargin, ahead), viewport()->width());
+  QScrollBar* bar = verticalScrollBar();
+  const int top = rect.top() - TextView::kMargin;
+  const int below = rect.bottom() + 1 + TextView::kMargin - viewport()->height();
+  if (below > 0) bar->setValue(bar->value() + below);
+  if (top < 0) bar->setValue(bar->value() + top);
 }
 
 void TextBox::ShowCaretAnew() {

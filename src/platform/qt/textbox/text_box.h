@@ -31,7 +31,6 @@ class TextBox : public QAbstractScrollArea {
   Q_PROPERTY(int SelLength READ SelLength WRITE SetSelLength NOTIFY SelectionChanged)
   Q_PROPERTY(QByteArray SelText READ SelText WRITE SetSelText)
   Q_PROPERTY(bool readOnly READ IsReadOnly WRITE setReadOnly)
-  Q_PROPERTY(bool wordWrap READ WordWrap WRITE setWordWrap)
   Q_PROPERTY(Qt::Alignment alignment READ Alignment WRITE setAlignment)
   Q_PROPERTY(QColor textColor READ TextColor WRITE setTextColor)
   Q_PROPERTY(QColor backgroundColor READ BackgroundColor WRITE setBackgroundColor)
@@ -59,8 +58,6 @@ class TextBox : public QAbstractScrollArea {
 
   [[nodiscard]] bool IsReadOnly() const { return read_only_; }
   void setReadOnly(bool read_only);
-  [[nodiscard]] bool WordWrap() const { return view_->Wraps(); }
-  void setWordWrap(bool wrap);
   // Left, right or centre. Other values mean left.
   [[nodiscard]] Qt::Alignment Alignment() const;
   void setAlignment(Qt::Alignment alignment);
@@ -147,7 +144,7 @@ class TextBox : public QAbstractScrollArea {
   void UpdateRowsOf(TextSpan span);
   void MoveCaret(TextPlace place, bool select);
   void RevealRect(QRect rect);
-  void UpdateScrollBars();
+  void UpdateScrollBar();
   void Relayout();
   void ShowAnew();
   void GetReady();
@@ -188,7 +185,7 @@ class TextBox : public QAbstractScrollArea {
   bool tab_changes_focus_ = false;
   bool tab_selects_all_ = false;
   bool caret_stays_ = false;
-  bool updating_bars_ = false;
+  bool updating_bar_ = false;
   bool ready_ = false;  // has been on the screen
 };
 

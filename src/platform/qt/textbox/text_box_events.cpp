@@ -194,7 +194,7 @@ void TextBox::paintEvent(QPaintEvent* event) {
   const int height = view_->Glyphs().RowHeight();
   const std::size_t last = view_->RowAt(near.bottom() + scrolled.y());
   for (std::size_t row = view_->RowAt(near.top() + scrolled.y()); row <= last; ++row) {
-    const QPoint at(TextView::kMargin - scrolled.x(), view_->RowTop(row) - scrolled.y());
+    const QPoint at(TextView::kMargin, view_->RowTop(row) - scrolled.y());
     const QRect reach(0, at.y() - TextView::kOverhang, viewport()->width(), height + 2 * TextView::kOverhang);
     if (event->region().intersects(reach)) rows.PaintRow(row, at, exposed.left(), exposed.right() + 1);
   }
@@ -230,7 +230,7 @@ void TextBox::scrollContentsBy(int dx, int dy) {
 }
 
 void TextBox::resizeEvent(QResizeEvent* /*event*/) {
-  if (updating_bars_) return;
+  if (updating_bar_) return;
   KeepTopWhile([this] { Relayout(); });
 }
 
@@ -299,7 +299,6 @@ void TextBox::wheelEvent(QWheelEvent* event) {
   // Touch pads report distances in pixels. Under X11 these values are unreliable.
   const bool exact = !event->pixelDelta().isNull() && QGuiApplication::platformName() != QStringLiteral("xcb");
   if (!exact) return QAbstractScrollArea::wheelEvent(event);
-  horizontalScrollBar()->setValue(horizontalScrollBar()->value() - event->pixelDelta().x());
   verticalScrollBar()->setValue(verticalScrollBar()->value() - event->pixelDelta().y());
   event->accept();
 }

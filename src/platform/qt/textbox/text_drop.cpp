@@ -13,7 +13,7 @@
 namespace pelmar {
 namespace {
 
-constexpr int kScrollBorder = 12;  // the width in pixels of the edges where dragging scrolls
+constexpr int kScrollBorder = 12;  // the width in pixels of the upper and lower edge where dragging scrolls
 
 int ScrollSign(int at, int size) {
   if (at < kScrollBorder) return -1;
@@ -78,11 +78,8 @@ void TextDrop::Enter(QDragEnterEvent* event) {
 void TextDrop::Move(QDragMoveEvent* event) {
   if (!Takes(*event)) return event->ignore();
   const QPoint at = event->position().toPoint();
-  const QSize size = box_.viewport()->size();
-  QScrollBar* down = box_.verticalScrollBar();
-  QScrollBar* across = box_.horizontalScrollBar();
-  down->setValue(down->value() + ScrollSign(at.y(), size.height()) * down->singleStep());
-  across->setValue(across->value() + ScrollSign(at.x(), size.width()) * across->singleStep());
+  QScrollBar* bar = box_.verticalScrollBar();
+  bar->setValue(bar->value() + ScrollSign(at.y(), box_.viewport()->height()) * bar->singleStep());
   box_.ShowDropPlace(box_.PlaceAt(at));
   Accept(*event);
 }

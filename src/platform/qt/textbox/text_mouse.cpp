@@ -135,11 +135,8 @@ void TextMouse::ShowPointer(QPoint at) {
 void TextMouse::timerEvent(QTimerEvent* event) {
   if (event->timerId() != scroll_timer_.timerId()) return QObject::timerEvent(event);
   if (!box_.isActiveWindow()) return scroll_timer_.stop();  // the release goes to another window
-  const QSize size = box_.viewport()->size();
-  QScrollBar* down = box_.verticalScrollBar();
-  QScrollBar* across = box_.horizontalScrollBar();
-  down->setValue(down->value() + Overshoot(last_at_.y(), size.height()));
-  across->setValue(across->value() + Overshoot(last_at_.x(), size.width()));
+  QScrollBar* bar = box_.verticalScrollBar();
+  bar->setValue(bar->value() + Overshoot(last_at_.y(), box_.viewport()->height()));
   Extend(last_at_);
 }
 

@@ -16,12 +16,6 @@ void TextView::SetFont(const QFont& font) {
   stale_ = true;
 }
 
-void TextView::SetWrap(bool wrap) {
-  if (rules_.wrap == wrap) return;
-  rules_.wrap = wrap;
-  stale_ = true;
-}
-
 void TextView::SetAlign(TextAlign align) {
   rules_.align = align;
   layout_.SetAlign(align);
@@ -51,12 +45,7 @@ const GlyphTable& TextView::Glyphs() {
   return *glyphs_;
 }
 
-QSize TextView::ContentSize() {
-  const TextLayout& layout = Layout();
-  // Rounded up to whole pixels. The right margin leaves room for the caret after the widest row.
-  const int width = WholePixelsBelow(layout.ContentWidth() + kUnitsPerPixel - 1);
-  return {width + 2 * kMargin, static_cast<int>(layout.RowCount()) * Glyphs().RowHeight() + 2 * kMargin};
-}
+int TextView::ContentHeight() { return RowTop(Layout().RowCount()) + kMargin; }
 
 std::size_t TextView::RowAt(int y) {
   const int row = std::max(y - kMargin, 0) / Glyphs().RowHeight();

@@ -4,7 +4,6 @@
 
 #include <QFont>
 #include <QRect>
-#include <QSize>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -28,7 +27,6 @@ class TextView {
 
   void Show(const TextBuffer& buffer);
   void SetFont(const QFont& font);
-  void SetWrap(bool wrap);
   void SetAlign(TextAlign align);
   void SetViewportWidth(int width);
   void Invalidate() { stale_ = true; }
@@ -40,10 +38,9 @@ class TextView {
   // The layout of the last call of Layout, perhaps outdated. The reference is valid as long as the view.
   [[nodiscard]] const TextLayout& RawLayout() const { return layout_; }
   const GlyphTable& Glyphs();
-  [[nodiscard]] bool Wraps() const { return rules_.wrap; }
   [[nodiscard]] TextAlign Align() const { return rules_.align; }
 
-  QSize ContentSize();
+  int ContentHeight();
   int RowTop(std::size_t row) { return kMargin + static_cast<int>(row) * Glyphs().RowHeight(); }
   // The row at `y`. Above the text the first row, below the text the last row.
   std::size_t RowAt(int y);

@@ -139,14 +139,12 @@ void MainWindow::ToggleAlwaysOnTop() {
 }
 
 void MainWindow::HideText(bool hide) {
-  QScrollBar* const across = box_->horizontalScrollBar();
-  QScrollBar* const down = box_->verticalScrollBar();
-  if (hide) scrolled_ = {across->value(), down->value()};
+  QScrollBar* const bar = box_->verticalScrollBar();
+  if (hide) scrolled_ = bar->value();
   box_->setVisible(!hide);
   box_->UseBuffer(hide ? nothing_ : editor_.text);
   if (hide) return bar_->Clear();  // until the next tick
-  across->setValue(scrolled_.x());
-  down->setValue(scrolled_.y());
+  bar->setValue(scrolled_);
 }
 
 LayoutInput MainWindow::Measures() const {

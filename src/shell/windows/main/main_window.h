@@ -90,7 +90,7 @@ class MainWindow : public QMainWindow, public MainView {
   Files& files_;
   std::vector<Listening> listenings_;
   TextBuffer nothing_;  // the empty text shown while the text is hidden
-  QPoint scrolled_;     // the scroll position before the text was hidden
+  int scrolled_ = 0;    // the scroll position before the text was hidden
   QWidget* client_ = nullptr;
   MenuBar* menus_ = nullptr;
   MainToolbar* toolbar_ = nullptr;

@@ -254,11 +254,10 @@ TEST_F(TextBoxTest, EveryCodeIsPaintedWhereTheLayoutSaysItIs) {
   box->SetText(QByteArray::fromStdString(text));
   EXPECT_EQ(box->Text().toStdString(), text);
   box->clearFocus();  // no caret
-  for (std::size_t round = 0; round < 12; ++round) {
+  for (std::size_t round = 0; round < 6; ++round) {
     SCOPED_TRACE(round);
-    box->setFont(QFont(QLatin1String(round < 6 ? "DejaVu Sans" : "URW Gothic"), 9));
+    box->setFont(QFont(QLatin1String(round < 3 ? "DejaVu Sans" : "URW Gothic"), 9));
     box->setAlignment(kAlignments[round % 3]);
-    box->setWordWrap(round % 2 == 0);
     const QImage image = box->viewport()->grab().toImage();
     int seen = 0;
     for (std::size_t pos = 0; pos < text.size(); ++pos) {
@@ -281,22 +280,20 @@ TEST_F(TextBoxTest, PartialRepaintsEqualAFullRepaintAndShowTheCaret) {
   const auto place = [&] { return random.Below(buffer.Size() + 1); };
   const auto act = [&](std::size_t action) {
     if (action == 0) box->verticalScrollBar()->setValue(static_cast<int>(random.Below(900)));
-    if (action == 1) box->horizontalScrollBar()->setValue(static_cast<int>(random.Below(900)));
-    if (action == 2) buffer.Select(place(), place());
-    if (action == 3) buffer.Replace(place(), random.Below(30), text(30));
-    if (action == 4) Compose(random.Below(2) == 0 ? "´ě" : "");
-    if (action > 4) Press(keys[random.Below(std::size(keys))]);
+    if (action == 1) buffer.Select(place(), place());
+    if (action == 2) buffer.Replace(place(), random.Below(30), text(30));
+    if (action == 3) Compose(random.Below(2) == 0 ? "´ě" : "");
+    if (action > 3) Press(keys[random.Below(std::size(keys))]);
   };
   box->setFrameShape(QFrame::NoFrame);
   for (std::size_t round = 0; round < 360; ++round) {
     if (round % 60 == 0) {
-      box->setWordWrap(round % 120 == 0);
       box->setAlignment(kAlignments[round / 60 % 3]);
       buffer.SetText(TextInCodePage(QString::fromStdString(text(3000))));
     }
-    const std::size_t action = random.Below(7);
+    const std::size_t action = random.Below(6);
     act(action);
-    ASSERT_TRUE(action < 2 || CaretInSight()) << "round " << round << " act " << action;
+    ASSERT_TRUE(action == 0 || CaretInSight()) << "round " << round << " act " << action;
     QApplication::processEvents();
     const QImage seen = window.screen()->grabWindow(window.winId()).toImage().convertToFormat(QImage::Format_RGB32);
     ASSERT_TRUE(seen == window.grab().toImage().convertToFormat(QImage::Format_RGB32))
