@@ -12,19 +12,21 @@
 
 namespace pelmar {
 
-// Called with the number of processed characters, every 1,024 symbols and at the end. Must not be empty.
+// Called with the number of characters read from the input: at the start, after every 1,024 characters (or, in
+// RndDecipher, groups of `depth` letters) and at the end. Must not be empty.
 using Progress = std::function<void(std::size_t done)>;
 
 // The text in upper case and without diacritics. Characters that are no symbols are dropped.
 std::string PrepareText(std::string_view text);
 
 // Takes `depth` draws for each character. Each draw writes a letter, or nothing if the set of the digit is empty.
-// required: a character that is no symbol gets the code of the last symbol before it, or a code of ones at the start.
+// required: a character that is no symbol gets the code of the last symbol before it. Before the first symbol, it gets
+// a code of ones.
 std::string RndEncipher(std::string_view text, const CipherTable& table, const Draw& draw, const Progress& progress);
 
 // Reads a character from each `depth` letters. A letter outside the set of zeros is a 1. required: the character is the
-// last symbol whose code contains the digits, so too few digits at the end match any part of a code; if no code
-// contains the digits, the previous character is repeated.
+// last symbol of the table whose code contains the digits at any place, so an incomplete group at the end of the text
+// also gives a character. If no code contains the digits, the previous character, if there is one, is repeated.
 std::string RndDecipher(std::string_view text, const CipherTable& table, const Progress& progress);
 
 }  // namespace pelmar

@@ -49,7 +49,8 @@ std::size_t TextLayout::NextRow(std::size_t start, std::size_t& line) const {
 }
 
 // The end of the row that starts at `start`, or `end` if the rest of the line fits. A blank at the edge still belongs
-// to the row. A word wider than the row breaks anywhere.
+// to the row. A word wider than the row breaks
+// at the edge, after at least one character.
 std::size_t TextLayout::WrapAt(std::size_t start, std::size_t end) const {
   const std::string& text = buffer_->Text();
   std::int64_t x = 0;
@@ -72,8 +73,9 @@ RowsChange TextLayout::Update(const TextChange& change) {
     LayAll();
     return {0, old_count, rows_.size()};
   }
-  // The row before the change is computed again too: a shorter word may fit into that row, and the change may join or
-  // part a CR and an LF at its end.
+  // `touched` is the row of the byte before the change, since this byte may be a CR that the change joins to an LF or
+  // parts from one. The row before `touched` is computed again too, since the first word of `touched` may now fit
+  // there.
   const std::size_t touched = RowOf(change.pos > 0 ? change.pos - 1 : 0);
   const std::size_t first = touched > 0 ? touched - 1 : 0;
   const std::size_t old_end = change.pos + change.removed;

@@ -14,7 +14,7 @@ constexpr std::string_view kLetters = "abcdefghijklmnopqrstuvwxyz012345";
 constexpr std::size_t kDrawn = 6;
 constexpr int kMostTries = 100;
 
-// Draws random letters. "" if the system has no random numbers; errno has the reason.
+// Draws six random characters. "" if the system has no random numbers; errno has the reason.
 std::string DrawLetters() {
   std::array<unsigned char, kDrawn> draw{};
   if (getentropy(draw.data(), draw.size()) != 0) return "";
@@ -23,7 +23,8 @@ std::string DrawLetters() {
   return letters;
 }
 
-// Calls `take` with random names until a name is free. Returns the result of `take`, 0 or an errno.
+// Calls `take` with random names while it returns EEXIST, at most kMostTries times. Returns 0 or an errno: that of the
+// last `take`, or that of a failed draw.
 template <typename Take>
 int TryNames(const std::string& start, const std::string& end, const Take& take) {
   for (int tries = 0; tries < kMostTries; ++tries) {
@@ -76,7 +77,7 @@ int NewFile::TakeNewName(const std::string& path) {
   if (name_.empty()) return Link(file_.Number(), path);
   const bool renamed = renameat2(AT_FDCWD, name_.c_str(), AT_FDCWD, path.c_str(), RENAME_NOREPLACE) == 0;
   if (!renamed && errno != EINVAL && errno != ENOSYS) return errno;
-  // The file system lacks a rename that replaces nothing. A hard link replaces nothing either.
+  // If the rename failed, the file system has no rename that replaces nothing. A hard link replaces nothing either.
   if (!renamed && link(name_.c_str(), path.c_str()) != 0) return errno == EEXIST ? EEXIST : TakeNameOf(path);
   if (!renamed) unlink(name_.c_str());
   name_.clear();

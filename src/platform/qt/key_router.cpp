@@ -11,7 +11,7 @@ bool IsBareInsert(const QKeyEvent& event) {
   return event.key() == Qt::Key_Insert && (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
 }
 
-// Whether the key edits text in the widget: Enter breaks a line, Delete erases a character. Only such a key may repeat.
+// Whether Enter or Delete edits text in the widget: Enter breaks a line, Delete erases a character.
 bool EditsTextWith(int key, const QWidget& receiver) {
   if (receiver.inputMethodQuery(Qt::ImReadOnly).toBool()) return false;
   if (key == Qt::Key_Delete) return receiver.inputMethodQuery(Qt::ImCursorPosition).isValid();
@@ -38,7 +38,7 @@ bool KeyRouter::Takes(QWidget& receiver, QKeyEvent& event) {
   }
   if (event.type() != QEvent::KeyPress) return false;
   if (IsBareInsert(event) && !IsRepeat(event)) insert_on_ = !insert_on_;
-  // Copies the entries, since a taker may open or close windows, which changes the list.
+  // Copies the entries, since a taker may open a window, which adds entries.
   std::vector<Entry> asked;
   std::ranges::copy_if(entries_, std::back_inserter(asked), [&receiver](const Entry& entry) {
     return entry.scope == &receiver || (entry.scope && entry.scope->isAncestorOf(&receiver));
@@ -53,8 +53,8 @@ bool KeyRouter::IsRepeat(const QKeyEvent& press) const {
   return press.isAutoRepeat() || (just_released && released_at_ != 0);
 }
 
-// Whether a press is an unwanted repeat of Enter or Delete. If the first press went to another widget, that press
-// may have opened or closed a window. If the key edits no text, a repeat would press a button twice.
+// True for a repeat of Enter or Delete in two cases. The first press went to another widget, so it may have opened or
+// closed a window. Or the key edits no text, so a repeat could run an action twice, for instance press a button.
 bool KeyRouter::DropsRepeat(const QWidget& receiver, const QKeyEvent& event) {
   const int key = event.key();
   if (event.type() == QEvent::KeyRelease) {

@@ -1,5 +1,5 @@
-// The base of the dialogs that insert something into the text. One button calls Put and, if Put returns true, hides the
-// dialog. The other button only hides the dialog.
+// The base of the dialogs that write into the text. One button calls Put and, if Put returns true, hides the dialog.
+// The other button only hides the dialog.
 #pragma once
 
 #include <QPushButton>

@@ -63,7 +63,8 @@ class TextBoxNotifier {
   void NotifyCaret();
 
   TextBox& box_;
-  // The text at the last notification, since a notification contains the removed text.
+  // A copy of the text before the next change. The notification of that change contains the removed text, which the
+  // buffer no longer has.
   std::optional<std::string> known_text_;
 };
 

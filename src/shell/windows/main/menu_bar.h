@@ -27,7 +27,8 @@ class MenuBar : public QMenuBar {
   // Null if the item is no submenu.
   [[nodiscard]] QMenu* Submenu(std::string_view name) const { return Action(name)->menu(); }
 
-  // Enables every submenu and every item whose command exists, until the next Apply. Call after commands were added.
+  // Enables every submenu and every item that has a command, and disables all other items. Call after commands were
+  // added. The next Apply may disable items that depend on the state.
   void Refresh();
   // Enables or disables the items that depend on the state. An item without a command stays disabled.
   void Apply(const MenuState& state);
