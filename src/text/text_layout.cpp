@@ -49,8 +49,7 @@ std::size_t TextLayout::NextRow(std::size_t start, std::size_t& line) const {
 }
 
 // The end of the row that starts at `start`, or `end` if the rest of the line fits. A blank at the edge still belongs
-// to the row. A word wider than the row breaks
-// at the edge, after at least one character.
+// to the row. A word wider than the row breaks at the edge, after at least one character.
 std::size_t TextLayout::WrapAt(std::size_t start, std::size_t end) const {
   const std::string& text = buffer_->Text();
   std::int64_t x = 0;
