@@ -42,13 +42,12 @@ class Window(NamedTuple):
 class EditorCase(unittest.TestCase):
     """A test with its own screen and home folder. It may start the program several times, one after the other."""
 
-    screen = Screen
     settings = {}  # fields of the settings record
     environment = {}  # for each start of the program
     program = None
 
     def setUp(self):
-        screen = self.enterContext(self.screen())
+        screen = self.enterContext(Screen())
         self.home, self.env, self.folder = screen.home, screen.env, screen.data_folder
         self.addCleanup(self.kill)
         self.addCleanup(self.shot)
