@@ -53,16 +53,6 @@ TEST_F(OpenDialogTest, OpensAfterAQuestionAndHides) {
   EXPECT_FALSE(dialog.isVisible());
 }
 
-TEST_F(OpenDialogTest, ANameThatIsNotUtf8IsOpenedAndSavedByItsBytes) {
-  const std::string path = folder.Put("k\xF9\xF2.txt", "");
-  platform.files[path] = "horse";
-  platform.answers = {Answer::kYes};
-  Expect(dialog, "Dir1=~ File1=kůň.txt Command1!", "Label1=~/kůň.txt");
-  EXPECT_EQ(text.Text(), "horse");
-  Work(Open<Uloz>(), "Text2=htm Command1!");
-  EXPECT_EQ(platform.files[folder.File("k\xF9\xF2.htm")], "horse");
-}
-
 struct SaveDialogTest : FileDialogsTest {
   Uloz& dialog = Open<Uloz>();
 };
@@ -118,14 +108,6 @@ TEST_F(FileDialogsTest, ConversionsNeedAFileAndWriteBesideIt) {
   EXPECT_EQ(platform.files[folder.File("b.1250")], "<B>\r\n");
   EXPECT_EQ(platform.files[folder.File("b.utf8")], "\xEF\xBB\xBF<B>\r\n");
   EXPECT_TRUE(dialog.isVisible());
-}
-
-TEST_F(FileDialogsTest, ConversionsStayEnabledAfterTheirFileWasDeleted) {
-  auto& dialog = Open<Dos_Unix_conv>();
-  Expect(dialog, "Dir1=~ File1=b.html", "Command1='&DOS --> UNIX'");
-  std::filesystem::remove(folder.File("b.html"));
-  // A conversion reads the folder again.
-  Expect(dialog, "Command1!", "File1=a.TXT|>b.html|big.txt Command1='&DOS --> UNIX' Command5='&1250 --> UTF-8'");
 }
 
 struct DirSetupTest : FileDialogsTest {

@@ -95,20 +95,6 @@ TEST_F(ZamenaTest, ARowOfEitherListPicksTheWholePair) {
   ExpectState(dialog, "Find=x Chage=y History=1", "Find=b Chage=d History=a|>b List1=c|>d");
 }
 
-TEST_F(ProgramTest, CommandsOpenTheirWindowsAndEscapeClosesThem) {
-  const std::pair<const char*, const char*> cases[] = {
-      {"mnuopen", "Otevři"}, {"Open", "Otevři"},           {"mnusave", "Ulož"},
-      {"Save", "Ulož"},      {"mnudir", "DirSetup"},       {"mnu_utiliti_dos_unix", "Dos_Unix_conv"},
-      {"Find", "Hledání"},   {"mnu_analysis", "Analytic"}, {"mnumorse", "Morse"},
-  };
-  for (const auto& [command, window] : cases) {
-    QWidget& opened = Open(command);
-    EXPECT_EQ(opened.objectName().toStdString(), window) << command;
-    QTest::keyClick(&opened, Qt::Key_Escape);
-    EXPECT_FALSE(opened.isVisible()) << command;
-  }
-}
-
 TEST_F(ProgramTest, VyberShowsTheSelectionAndSetsItWithinTheText) {
   PutMarked(text, "01234|");
   const QWidget& dialog = Open("mnupresnvyb");

@@ -85,16 +85,6 @@ TEST(MountedPlaces, AreHomeRootAndMountedDisks) {
   EXPECT_EQ(MountedPlaces(QStringLiteral("/"), Utf8ToQString(temp.File("none"))), QStringList(QStringLiteral("/")));
 }
 
-TEST(PlaceOf, IsTheDeepestPlaceThatContainsThePath) {
-  const QStringList places = QStringLiteral("/home/jan|/|/media/jan/USB disk|/mnt|/run/media/jan/A").split(u'|');
-  const std::pair<const char*, const char*> cases[] = {
-      {"/home/jan", "/home/jan"}, {"/home/jan/x/", "/home/jan"},
-      {"/home/janek", "/"},       {"/run/media/jan/A/b", "/run/media/jan/A"},
-      {"/mnt/../etc", "/"},       {"/mnt/a", "/mnt"},
-      {"relative", ""},           {"", ""}};
-  for (const auto& [path, place] : cases) EXPECT_EQ(PlaceOf(QLatin1String(path), places).toStdString(), place) << path;
-}
-
 struct FileBrowserTest : testing::Test {
   FileBrowserTest() {
     for (const char* file : {"a.txt", "b.HTM", "c.htm", "d", "sub/c.htm", "sub/inner/x", "Č/x"}) temp.Put(file, "");
