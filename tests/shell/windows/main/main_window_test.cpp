@@ -145,6 +145,16 @@ TEST_F(MenuTest, OpensByAccessKeysAndFirstLetters) {
   pressed(Qt::Key_Alt);
 }
 
+TEST_F(MainWindowTest, ContextMenusAreSubmenusOfTheMenuBar) {
+  const std::pair<QWidget*, const char*> cases[] = {
+      {&main.Box(), "MnuSel"}, {tabs, "MnuPopUp"}, {&main.Bar(), "MnuPopUp"}, {&main.Toolbar(), "MnuPopUp"}};
+  for (const auto& [owner, menu] : cases) {
+    Q_EMIT owner->customContextMenuRequested({});
+    EXPECT_EQ(QApplication::activePopupWidget(), main.Menus().Submenu(menu)) << menu;
+    main.Menus().Submenu(menu)->close();
+  }
+}
+
 TEST_F(MainWindowTest, AClickOrCtrlTabSwitchesTheDocument) {
   text.SetText("first");
   QTest::mouseClick(tabs, Qt::LeftButton, {}, QPoint(tabs->width() - 5, tabs->tabRect(2).center().y()));
