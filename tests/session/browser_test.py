@@ -189,18 +189,6 @@ class BrowserTest(EditorCase):
                 self.work(then)
                 self.wait_colored(self.shown("Good"), GREEN)
 
-    def test_a_pages_questions_leave_the_editor_alone_and_can_be_turned_off(self):
-        main = self.start_with(self.write("alerts.html", """<TITLE>alerts</TITLE><SCRIPT>setTimeout(() => {
-            for (let i = 0; i < 500; ++i) alert(i); document.title = 'done' }, 300)</SCRIPT>"""))
-        box = self.work(f"{BROWSE} [Zpráva stránky]")
-        self.activate(main)
-        self.work(f'"x" [{main.title}*]')
-        time.sleep(3.5)  # a page that waits for an answer doesn't count as stuck
-        self.activate(box)
-        # From the third message on, the box offers to silence the page.
-        self.work(2 * "[Zpráva stránky] Return / " + "[Zpráva stránky] alt+d Return /")
-        self.shown("done")
-
     @unittest.skipIf(subprocess.call([*AS_USER, "unshare", "-U", "true"], stderr=subprocess.DEVNULL),
                      "an ordinary user gets no name space here, and the engine no sandbox")
     def test_an_ordinary_user_gets_the_sandbox(self):

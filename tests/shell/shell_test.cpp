@@ -10,7 +10,6 @@
 #include "shell/settings_record.h"
 #include "shell/stand_alone.h"
 #include "shell/status.h"
-#include "shell/terminal_answer.h"
 #include "shell/window_geometry.h"
 #include "support/marked_text.h"
 #include "support/printed_places.h"
@@ -20,13 +19,6 @@
 
 namespace pelmar {
 namespace {
-
-TEST(TerminalAnswer, IsForOneSwitchAlone) {
-  char version[] = "--version", other[] = "-CALC";
-  EXPECT_EQ(TerminalAnswer(std::array<char* const, 1>{version}), "Pelmar VEX 8.9.2.1b CZ\n");
-  EXPECT_EQ(TerminalAnswer(std::array<char* const, 1>{other}), std::nullopt);
-  EXPECT_EQ(TerminalAnswer(std::array<char* const, 2>{version, other}), std::nullopt);
-}
 
 TEST(StandAlone, EndsOnlyAfterYes) {
   ScriptedPlatform platform;

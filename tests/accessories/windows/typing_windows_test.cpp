@@ -10,14 +10,6 @@
 namespace pelmar {
 namespace {
 
-// Sends letters as dead keys and input methods do.
-void Compose(QWidget* receiver, const QString& letters) {
-  EXPECT_TRUE(receiver->testAttribute(Qt::WA_InputMethodEnabled));
-  QInputMethodEvent event(QString(), {});
-  event.setCommitString(letters);
-  QCoreApplication::sendEvent(receiver, &event);
-}
-
 TEST_F(ProgramTest, MorseCollectsSigns) {
   const auto& morse = Open<Morse>();
   TextBuffer& box = Find<TextBox>(morse, "Text1")->Buffer();
@@ -73,12 +65,6 @@ TEST_F(KeyboardTest, PhysicalKeysTypeTheirCharacters) {
   Work(keyboard, "Check1!");
   QTest::keyClicks(&keyboard, QStringLiteral("a 1\r\b"));
   EXPECT_EQ(text.Text(), "A 1\r\b");  // required: Enter and Backspace type the characters 13 and 8
-}
-
-TEST_F(KeyboardTest, ComposedLettersAreTyped) {
-  Compose(&keyboard, QStringLiteral("ň"));
-  Compose(Named(keyboard, "Command3"), QStringLiteral("ďo\u0301😀"));
-  EXPECT_EQ(text.Text(), "ňďó?"_w);
 }
 
 struct CharTableTest : ProgramTest {

@@ -15,7 +15,6 @@
 #include "platform/qt/desktop/recent_documents.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/install_folder.h"
-#include "support/controls.h"
 #include "support/scripted_platform.h"
 #include "support/temp_folder.h"
 #include "support/whole_editor.h"
@@ -74,20 +73,11 @@ TEST(InstallFolder, IsTheMarkedFolderOfTheProgramOrAFolderForTheUserAlone) {
   }
 }
 
-TEST(BusyPointer, NestsAndIsNotShownOverAMessageBox) {
+TEST(BusyPointer, StaysUntilAllTasksEnd) {
   QtPlatform platform;
-  const auto expect = [](Qt::CursorShape shape) {
-    ASSERT_NE(QGuiApplication::overrideCursor(), nullptr);
-    EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), shape);
-  };
   for (const bool set : {false, true, true, false}) platform.SetBusyPointer(set, BusyLook::kArrow);
-  expect(Qt::BusyCursor);
-  InDialog<QMessageBox>([&](QMessageBox& box) {
-    expect(Qt::ArrowCursor);
-    box.close();
-  });
-  platform.Message(MessageType::kOk, "x", "y");
-  expect(Qt::BusyCursor);
+  ASSERT_NE(QGuiApplication::overrideCursor(), nullptr);
+  EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::BusyCursor);
   platform.SetBusyPointer(false, BusyLook::kArrow);
   EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }

@@ -8,14 +8,13 @@
 #include <QRadioButton>
 #include <QTest>
 
-#include "platform/qt/controls/dialog_window.h"
 #include "support/program_test.h"
 
 namespace pelmar {
 namespace {
 
-// The space for a window inside its frame on a screen of 1024 by 600, at 100% and at 150%.
-constexpr QSize kSmallScreen(1016, 560), kTinyScreen(675, 368);
+// The space for a window inside its frame on a screen of 1024 by 600.
+constexpr QSize kSmallScreen(1016, 560);
 
 bool IsA(const QWidget* widget, std::initializer_list<const char*> classes) {
   return widget != nullptr && std::ranges::any_of(classes, [&](const char* name) { return widget->inherits(name); });
@@ -84,20 +83,8 @@ void ExpectEnterMovesOn(QWidget& window) {
   (*found)->setDefault(true);
 }
 
-// The dialog fits the screen, and its default and cancel buttons are visible.
-void ExpectItFitsWithItsButtons(const QWidget& window) {
-  EXPECT_EQ(window.size().boundedTo(kTinyScreen), window.size()) << DescriptionOf(&window);
-  const QString cancel = window.property("cancelButton").toString();
-  for (const QPushButton* button : window.findChildren<QPushButton*>()) {
-    if (IsA(button, {"pelmar::KeyCap"}) || (!button->isDefault() && button->objectName() != cancel)) continue;
-    EXPECT_EQ(button->visibleRegion().boundingRect(), button->rect()) << DescriptionOf(button);
-  }
-}
-
 struct AllWindows : ProgramTest {
   AllWindows() { platform.files["/share/pelmar.txt"] = "help"; }
-  ~AllWindows() override { QApplication::setFont(font); }
-  const QFont font = QApplication::font();
 
   static void Show(QWidget& window) {
     window.show();
@@ -113,20 +100,6 @@ struct AllWindows : ProgramTest {
     });
   }
 };
-
-TEST_F(AllWindows, FitASmallScreenWithLargeLetters) {
-  QFont large = font;
-  large.setPointSize(14);
-  QApplication::setFont(large);
-  parts.windows.ForEach([](QWidget& window) {
-    auto* dialog = qobject_cast<DialogWindow*>(&window);
-    if (dialog == nullptr) return;
-    dialog->FitInto(kTinyScreen);
-    Show(window);
-    ExpectItFitsWithItsButtons(window);
-    window.hide();
-  });
-}
 
 TEST_F(AllWindows, HaveATitleAndFitAScreenOf1024By600) {
   ForEach([](QWidget& window) {

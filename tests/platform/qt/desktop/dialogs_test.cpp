@@ -9,7 +9,6 @@
 #include "platform/qt/controls/dialog_window.h"
 #include "platform/qt/controls/field.h"
 #include "platform/qt/convert.h"
-#include "platform/qt/frames/program_style.h"
 #include "support/controls.h"
 #include "support/temp_folder.h"
 
@@ -178,24 +177,6 @@ TEST_F(DialogWindowTest, EnterPressesTheButtonInFocus) {
   QTest::keyClick(&cancel, Qt::Key_Return);
   EXPECT_EQ(pressed_cancel.count(), 1);
   EXPECT_EQ(pressed_ok.count(), 0);
-}
-
-int Difference(const QColor& one, const QColor& other) { return std::abs(qGray(one.rgb()) - qGray(other.rgb())); }
-
-TEST(ProgramStyle, DisabledTextIsReadableOnLightAndDarkBackgrounds) {
-  ProgramStyle style(QStringLiteral("fusion"));
-  for (const QColor& background : {QColor(239, 239, 239), QColor(53, 53, 53), QColor(30, 30, 34)}) {
-    SCOPED_TRACE(background.red());
-    QPalette palette(background);
-    palette.setColor(QPalette::PlaceholderText, Qt::black);
-    style.polish(palette);
-    const auto disabled = [&](QPalette::ColorRole role) { return palette.color(QPalette::Disabled, role); };
-    EXPECT_GE(Difference(disabled(QPalette::Text), disabled(QPalette::Base)), 90);
-    EXPECT_GE(Difference(disabled(QPalette::HighlightedText), disabled(QPalette::Highlight)), 90);
-    EXPECT_GE(Difference(palette.color(QPalette::PlaceholderText), palette.color(QPalette::Base)), 90);
-    EXPECT_GE(Difference(disabled(QPalette::WindowText), background), 70);
-    EXPECT_GE(Difference(palette.color(QPalette::Mid), background), 40);
-  }
 }
 
 }  // namespace

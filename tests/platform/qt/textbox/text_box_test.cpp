@@ -212,17 +212,6 @@ TEST_F(TextBoxTest, AcceptsDroppedTextButNoFileAndNothingIfReadOnly) {
   EXPECT_EQ(Document(), "a[š¶|b");
 }
 
-TEST_F(TextBoxTest, ShowsItsOwnMenuUnlessTheWindowProvidesOne) {
-  const QSignalSpy asked(box, &QWidget::customContextMenuRequested);
-  Press("Shift+F10");
-  ASSERT_NE(QApplication::activePopupWidget(), nullptr);
-  QApplication::activePopupWidget()->close();
-  box->setContextMenuPolicy(Qt::CustomContextMenu);
-  Press("Shift+F10");
-  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
-  EXPECT_EQ(asked.count(), 1);
-}
-
 TEST_F(TextBoxTest, TabMovesTheFocusUnlessItIsTyped) {
   QLineEdit next(&window);
   next.show();
@@ -309,19 +298,6 @@ TEST_F(TextBoxTest, KeysScrollByPagesAndWithCtrlByRows) {
   Press("PgUp PgUp Ctrl+Down Ctrl+Down Ctrl+Up");
   EXPECT_EQ(down.value(), down.singleStep());
   EXPECT_EQ(box->SelStart(), 0);
-}
-
-TEST_F(TextBoxTest, ShowsABufferThatAnotherListenerChangesInBetween) {
-  TextBuffer buffer;
-  const Listening listening = buffer.OnChange([&](const TextChange& change) {  // notified before the box
-    if (change.removed == 1) buffer.Replace(0, 3, "x\r\ny\r\nz");
-  });
-  box->UseBuffer(buffer);
-  buffer.SetText("1\r\n");
-  buffer.Replace(0, 1, "\r\n1");
-  EXPECT_EQ(Document(), "x¶y¶z|¶");
-  for (std::size_t line = 0; line < buffer.LineCount(); ++line)
-    EXPECT_EQ(box->RowSpan(buffer.LineStart(line)).begin, buffer.LineStart(line));
 }
 
 TEST_F(TextBoxTest, FollowsItsBufferUntilItGetsAnother) {
