@@ -6,7 +6,6 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QTimer>
-#include <QWheelEvent>
 #include <functional>
 #include <string>
 
@@ -15,14 +14,6 @@ namespace pelmar {
 template <class Type>
 Type* Find(const QWidget& window, const char* name) {
   return window.findChild<Type*>(QString::fromUtf8(name));
-}
-
-// Turns the mouse wheel over the widget. True if the widget accepts the event.
-inline bool RollWheel(QWidget& widget, QPoint pixels, QPoint angle, Qt::KeyboardModifiers modifiers = {}) {
-  QWheelEvent wheel(QPointF(1, 1), widget.mapToGlobal(QPointF(1, 1)), pixels, angle, {}, modifiers, Qt::NoScrollPhase,
-                    false);
-  QApplication::sendEvent(&widget, &wheel);
-  return wheel.isAccepted();
 }
 
 // Runs `act` in the next event loop. Call this before a function that waits in a modal dialog.
