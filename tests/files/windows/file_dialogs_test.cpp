@@ -53,6 +53,16 @@ TEST_F(OpenDialogTest, OpensAfterAQuestionAndHides) {
   EXPECT_FALSE(dialog.isVisible());
 }
 
+TEST_F(OpenDialogTest, ANameThatIsNotUtf8IsOpenedAndSavedByItsBytes) {
+  const std::string path = folder.Put("k\xF9\xF2.txt", "");
+  platform.files[path] = "horse";
+  platform.answers = {Answer::kYes};
+  Expect(dialog, "Dir1=~ File1=kůň.txt Command1!", "Label1=~/kůň.txt");
+  EXPECT_EQ(text.Text(), "horse");
+  Work(Open<Uloz>(), "Text2=htm Command1!");
+  EXPECT_EQ(platform.files[folder.File("k\xF9\xF2.htm")], "horse");
+}
+
 struct SaveDialogTest : FileDialogsTest {
   Uloz& dialog = Open<Uloz>();
 };

@@ -240,8 +240,10 @@ struct DriveListTest : testing::Test {
 TEST_F(DriveListTest, FollowsAPathWithoutNotification) {
   place.SetDrive(QDir::homePath() + QStringLiteral("/some/where"));
   EXPECT_EQ(place.Drive(), QDir::homePath());
-  for (const char* path : {"/et", ""}) place.SetDrive(QLatin1String(path));
-  EXPECT_EQ(place.Drive(), QStringLiteral("/"));
+  for (const QString& path : {QString(QDir::homePath() + u'x'), QStringLiteral("/et"), QString()}) {
+    place.SetDrive(path);
+    EXPECT_EQ(place.Drive(), QStringLiteral("/")) << path.toStdString();
+  }
   EXPECT_EQ(changes.size(), 0);
 }
 
