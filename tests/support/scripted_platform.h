@@ -28,11 +28,6 @@ class ScriptedPlatform : public Platform, public Paper {
   std::vector<std::string> calls;
   // Returns the calls so far and empties the list.
   std::vector<std::string> TakeCalls() { return std::exchange(calls, {}); }
-  // True if the list isn't empty.
-  [[nodiscard]] bool HasCalls() {
-    const std::lock_guard hold(lock_);
-    return !calls.empty();
-  }
   // Like TakeCalls, as one line with "; " after each call.
   std::string TakeCallsInOneLine() {
     std::string line;

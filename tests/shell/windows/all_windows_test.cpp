@@ -86,15 +86,12 @@ void ExpectEnterMovesOn(QWidget& window) {
 struct AllWindows : ProgramTest {
   AllWindows() { platform.files["/share/pelmar.txt"] = "help"; }
 
-  static void Show(QWidget& window) {
-    window.show();
-    // A nested layout settles one round later.
-    for (int round = 0; round < 3; ++round) QCoreApplication::processEvents();
-  }
   // Acts on each window while it is visible.
   void ForEach(const std::function<void(QWidget&)>& act) {
     parts.windows.ForEach([&](QWidget& window) {
-      Show(window);
+      window.show();
+      // A nested layout settles one round later.
+      for (int round = 0; round < 3; ++round) QCoreApplication::processEvents();
       act(window);
       window.hide();
     });
