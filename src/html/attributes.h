@@ -22,7 +22,7 @@ std::string Quoted(std::string_view text);
 std::string ForwardSlashes(std::string_view path);
 
 // Converts a UTF-8 path to Windows-1250 for a link. Characters outside Windows-1250 and bytes that are not UTF-8 are
-// percent-encoded. A "?" in their place would lead to another file.
+// percent-encoded. With a "?" in their place the link would not lead to the file.
 std::string LinkText(std::string_view path);
 
 // The address of a file in a tag: the URL of the path, or the path itself if `relative`. Backslashes become slashes.

@@ -36,11 +36,12 @@ struct TagAnalysis {
   std::string_view failed_in;  // the Czech name of the step that failed, UTF-8; "" if none failed
 };
 
-// Splits the tag at `sel_start`, the start of the selection, into its name and attributes.
+// Splits the last tag that begins at or before `sel_start` into its name and attributes. `sel_start` is the start of
+// the selection.
 TagAnalysis AnalyseTag(std::string_view text, std::size_t sel_start);
 
-// Splits the tag at the start of the selection and selects the tag. Shows a message if there is no tag or if a step
-// fails.
+// Splits the last tag that begins at or before the start of the selection, and selects this tag. Shows a message if
+// there is no tag or if a step fails.
 TagAnalysis OpenTag(TextBuffer& buffer, Platform& platform);
 
 // One Attribute() for each name. A missing value is empty, and a value without a name is left out.

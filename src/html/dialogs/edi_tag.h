@@ -1,4 +1,4 @@
-// The dialog `EdiTag` selects the tag at the start of the selection. The fields show the tag, and Ok replaces the tag.
+// The fields of the dialog `EdiTag` show the tag that OpenTag() selects, and Ok replaces this tag.
 // Each opening creates a new dialog. The dialog blocks the main window, so that the tag stays selected until Ok.
 #pragma once
 

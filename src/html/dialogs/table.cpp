@@ -14,7 +14,8 @@ void ShowPosition(QLabel* label, const QScrollBar* position, const QScrollBar* c
   label->setText(QStringLiteral("%1/%2").arg(position->value()).arg(count->value()));
 }
 
-// Runs `ask` and writes the result into the field. The field then stores the result in the grid, like a typed text.
+// Runs `ask` and, unless the person cancels, writes the result into the field. The field then stores the result in the
+// grid, like a typed text.
 void AskInto(QLineEdit* field, const Table::AskAttributes& ask) {
   if (const std::optional<std::string> attributes = ask()) field->setText(TextToQString(*attributes));
 }
