@@ -18,8 +18,8 @@ class Finder {
  public:
   Finder(TextBuffer& buffer, Platform& platform);
 
-  // What the dialog shows. Before each step the window stores `find` and `case_sensitive` here. After each step it
-  // shows all values.
+  // What the dialog shows. Before each step the window stores `find` and `case_sensitive` here. After each step the
+  // window shows all values.
   std::string find;
   bool case_sensitive = true;
   std::vector<std::string> history;     // all terms so far

@@ -18,8 +18,8 @@ std::string RandomWord(const Draw& draw);
 // Two words, each with 2 to 10 letters and a blank at its end. The first letter of each word is a capital.
 std::string RandomName(const Draw& draw);
 
-// The words in random order, each with the blank at its end. required: a word without a blank, at the end of `text`,
-// runs into the word that follows in the result.
+// The words in random order, each with the blank at its end. required: if `text` doesn't end in a blank, the last word
+// of `text` runs into the word that follows in the result.
 std::string ShuffledWords(std::string_view text, const Draw& draw);
 
 }  // namespace pelmar
