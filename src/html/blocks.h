@@ -1,6 +1,5 @@
-// The fragments that the small block and inline dialogs write, each from a struct of the fields of its dialog.
-// required: blanks around some "=", "Width" in mixed case, and the lower-case tags of TableHeading. Texts are
-// Windows-1250 and are not escaped.
+// The fragments that the small block and inline dialogs write. Texts are Windows-1250 and are not escaped.
+// required: blanks around some "=", "Width" in mixed case, and the lower-case tags of TableHeading.
 #pragma once
 
 #include <array>
@@ -44,10 +43,10 @@ std::string Fraction(std::string_view numerator, std::string_view denominator);
 std::string CommentText(std::string_view text);
 std::string CharacterReference(int code);
 
-// The five parts of a smiley, joined. Blanks at both ends are removed.
+// The five parts of a smiley, joined. Blanks at the start and the end of the smiley are removed.
 std::string Smiley(const std::array<std::string, 5>& parts);
 
-// Inserts the line before the text. The caret is then at the start of the text.
+// Inserts the line as the first line of the document, and puts the caret before this line.
 void PutDoctype(TextBuffer& buffer, std::string_view line);
 
 }  // namespace pelmar

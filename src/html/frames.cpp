@@ -23,7 +23,7 @@ std::string FrameTag(const FrameSpec& spec) {
   tag += Attribute("FRAMEBORDER", spec.border);
   tag += Attribute("BORDERCOLOR", spec.border_color);
   tag += Attribute("FRAMESPACING", spec.spacing);
-  // required: SCROLLING is written before the margins, without leading blanks, and once more after the margins
+  // required: SCROLLING is written twice: before the margins without leading blanks, after the margins unchanged
   if (spec.scrolling) tag += Attribute("SCROLLING", LeftTrimmed(*spec.scrolling));
   if (spec.margins) {
     tag += Attribute("MARGINHEIGHT", LeftTrimmed(spec.margins->height));

@@ -1,5 +1,5 @@
 // Writes a FRAME tag, or a frameset page with the document in its NOFRAMES part. Texts are Windows-1250 and are not
-// escaped. Numbers are texts, as the labels of the dialogs show them.
+// escaped. Numbers are texts, as the dialogs show them.
 #pragma once
 
 #include <optional>
@@ -16,7 +16,7 @@ struct FramesetSpec {
   std::string title;
 };
 
-// Replaces the whole text by the page. The old text, or a sentence if there was no text, is selected in the page.
+// Replaces the whole text by the page. The old text, or a sample if there was no text, is then selected in the page.
 void WrapInFrameset(TextBuffer& buffer, const FramesetSpec& spec);
 
 struct FrameSpec {
@@ -26,7 +26,7 @@ struct FrameSpec {
   };
 
   std::string path;
-  bool relative = false;  // the path is a bare name
+  bool relative = false;  // true if the path is a bare name
   std::optional<std::string> name = std::nullopt;
   std::optional<std::string> align = std::nullopt;
   std::optional<std::string> border = std::nullopt;

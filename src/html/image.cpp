@@ -9,7 +9,7 @@
 namespace pelmar {
 namespace {
 
-// required: lower case, unlike in other tags
+// required: lower case, although the names of the attributes are in upper case
 constexpr std::array<std::string_view, 5> kImageAligns = {"top", "middle", "bottom", "left", "right"};
 
 }  // namespace

@@ -8,7 +8,7 @@ namespace pelmar {
 
 enum class ImageAlign { kTop, kMiddle, kBottom, kLeft, kRight };
 
-// Texts are Windows-1250. Numbers are texts, as labels show them: with a leading blank or a "%".
+// Texts are Windows-1250. Numbers are texts, as the labels of the dialog show them, for example " 10" or " 10%".
 struct ImageSpec {
   std::string path;
   bool relative = false;

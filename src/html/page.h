@@ -1,5 +1,5 @@
-// A whole web page around the document: a head and a BODY tag before the text, the end tags after the text. Framesets
-// use the last two functions too. Texts are Windows-1250 and are not escaped.
+// A whole web page around the document: a head and a BODY tag before the document, the end tags after the document.
+// Framesets use CodePageAndGenerator and PutAround too. Texts are Windows-1250 and are not escaped.
 #pragma once
 
 #include <optional>
@@ -24,13 +24,14 @@ struct PageSpec {
   std::optional<int> base_font = std::nullopt;
 };
 
-// Replaces the whole text by the page. The old text, or a placeholder if there was no text, is selected in the page.
+// Replaces the whole text by the page. The old text, or a sample if there was no text, is then selected in the page.
 void WrapInPage(TextBuffer& buffer, const PageSpec& spec);
 
 // The META lines of the code page and of the program, each with its line end.
 std::string CodePageAndGenerator();
 
-// Puts head and tail around the document, or around `sample` if the document is empty, and selects the part between.
+// Puts `head` and `tail` around the document, or around `sample` if the document is empty. Then selects the text
+// between `head` and `tail`.
 void PutAround(TextBuffer& buffer, std::string_view head, std::string_view sample, std::string_view tail);
 
 }  // namespace pelmar

@@ -9,7 +9,8 @@
 
 namespace pelmar {
 
-// Columns and rows count from 1. Attributes begin with the blank after "<TD" or "<TR".
+// Columns and rows count from 1. Attributes are written directly after "<TD" or "<TR", so they are empty or begin with
+// a blank. Text that the person types is not checked.
 struct TableGrid {
   static constexpr std::size_t kMost = 20;
   using Cells = std::array<std::array<std::string, kMost + 1>, kMost + 1>;
@@ -49,8 +50,8 @@ struct TableSpec {
   std::optional<Caption> caption = std::nullopt;
 };
 
-// A line for the opening tag, for the caption and for each row, and "</TABLE>" without a line end. `spec` must not have
-// more than kMost columns or rows.
+// One line for the opening tag, one for the caption if there is a caption, and one for each row. Then "</TABLE>"
+// without a line end. `spec` must not have more than kMost columns or rows.
 std::string BuildTable(const TableSpec& spec, const TableGrid& grid);
 
 }  // namespace pelmar

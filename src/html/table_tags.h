@@ -1,5 +1,5 @@
 // The tags of a row and of a cell, for tables written by hand and for the table builder. Texts are Windows-1250 and are
-// not escaped. Numbers are texts, as the labels of the dialogs show them.
+// not escaped. Numbers in attributes are texts, as the labels of the dialogs show them.
 #pragma once
 
 #include <optional>

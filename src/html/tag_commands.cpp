@@ -28,7 +28,7 @@ constexpr TagCommand kTagCommands[] = {
     {"Bold", "<B>", "</B>", "Tučně"_w},
     {"Italic", "<I>", "</I>", "Kurzívou"_w},
     {"Underline", "<U>", "</U>", "Podtrženě"_w},
-    // required: the sample of the toolbar has no blanks, unlike the sample of the menu
+    // required: the sample of the toolbar has no blanks at its ends, unlike the sample of the menu
     {"Center", "<CENTER>", "</CENTER>", "Centrovaný text"_w},
 };
 

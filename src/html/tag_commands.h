@@ -1,5 +1,5 @@
-// The commands of the menu "Html" and of the toolbar that put tags around the selection or insert a fixed text. Texts
-// are Windows-1250 and are not escaped.
+// Commands that put tags around the selection or insert a fixed text, for the menu and the toolbar. Texts are
+// Windows-1250 and are not escaped.
 #pragma once
 
 #include <span>

@@ -15,13 +15,13 @@ namespace {
 constexpr char kMarker = "˙"_w[0];
 constexpr std::string_view kNoTag = "Není tag!";
 
-// `count` characters from `from` on. A negative count throws RuntimeError, which ends the analysis as failed.
+// At most `count` characters from `from` on. A negative count throws RuntimeError, so the analysis fails.
 std::string_view Middle(std::string_view text, std::size_t from, std::ptrdiff_t count) {
   if (count < 0) throw RuntimeError(EINVAL, "záporná délka textu");
   return text.substr(std::min(from, text.size()), static_cast<std::size_t>(count));
 }
 
-// required: `find` becomes kMarker and then `with`, so each kMarker in the text becomes `with` too
+// required: `find` becomes kMarker and then `with`, so a kMarker that was already in the text becomes `with` too
 std::string ReplacedByMarker(std::string_view text, std::string_view find, std::string_view with) {
   const std::string_view marker(&kMarker, 1);
   return ReplaceAllText(ReplaceAllText(text, find, marker), marker, with);
@@ -34,7 +34,7 @@ void CollapseBlanks(std::string& text) {
 
 bool HasEquals(std::string_view text) { return text.find('=') != std::string_view::npos; }
 
-// Writes one quote at each end of each value, and a blank after each attribute.
+// Removes repeated blanks and the blanks around "=". Then puts one quote after each "=" and one before each blank.
 std::string Reformatted(std::string attributes) {
   CollapseBlanks(attributes);
   attributes = ReplacedByMarker(attributes, " =", "=");
@@ -45,7 +45,8 @@ std::string Reformatted(std::string attributes) {
   return ReplacedByMarker(attributes, "=", "=\"");  // required: even "=" in a value
 }
 
-// Splits the attributes at their blanks. A piece without "=" is appended to the part before the piece.
+// Splits the attributes at their blanks. The first piece and each piece with "=" start a new part. Each other piece is
+// appended to the part before it.
 std::vector<std::string> SplitAttributes(std::string_view attributes) {
   std::vector<std::string> tag_parts;
   for (std::size_t from = 0; from < attributes.size();) {
@@ -54,7 +55,7 @@ std::vector<std::string> SplitAttributes(std::string_view attributes) {
     if (tag_parts.empty() || HasEquals(piece)) {
       tag_parts.emplace_back(piece);
     } else {
-      // A quote stands before each blank, so the part ends in a quote.
+      // The part ends in the quote that Reformatted() put before the blank. The part goes on, so remove this quote.
       std::string& front = tag_parts.back();
       front.pop_back();
       front.append(" ").append(piece);
@@ -93,7 +94,7 @@ class Analyser {
     for (const std::string& part : tag_parts) FillRow(part);
   }
 
-  // required: takes the last "<" before or just after the caret, even if its tag was closed before the caret
+  // required: takes the last "<" at or before sel_start_, even if a ">" stands between them
   bool FindTag() {
     const std::size_t start = text_.rfind('<', sel_start_);
     if (start == std::string_view::npos || text_.find('>', text_.find('<')) == std::string_view::npos) return false;
@@ -104,7 +105,8 @@ class Analyser {
     return true;
   }
 
-  // Reads the name of the tag. Returns the position of the first blank in the tag, npos if there is none.
+  // Stores the name and the range of the tag. Returns the position of the first blank in the tag, npos if there is no
+  // blank.
   std::size_t TakeName() {
     const std::size_t blank = tag_.find(' ');
     const std::string_view name = blank == std::string_view::npos

@@ -1,6 +1,6 @@
 // Reads a tag from the text into fields and writes the fields back. There is no parser: a fixed sequence of
-// replacements splits the tag. required: the order and the oddities of these replacements. Positions count from 0,
-// texts are Windows-1250.
+// replacements prepares the attributes, which are then split at their blanks. required: the order and the oddities of
+// the replacements. Positions count from 0, texts are Windows-1250.
 #pragma once
 
 #include <cstddef>
@@ -29,27 +29,29 @@ struct TagRange {
 
 // The result of an analysis. After a failure, the result contains only what was read before the failure.
 struct TagAnalysis {
-  bool has_tag = false;           // a "<" before or just after the caret, and a ">" after the first "<" of the text
-  std::optional<TagRange> range;  // the tag, for the editor to select
+  bool has_tag = false;           // a "<" at or before `sel_start`, and a ">" after the first "<" of the text
+  std::optional<TagRange> range;  // the place of the tag in the text
   std::string name;
   AttributeLists attributes;
   std::string_view failed_in;  // the Czech name of the step that failed, UTF-8; "" if none failed
 };
 
-// Splits the tag at the caret into its name and attributes. `sel_start` is the start of the selection.
+// Splits the last tag that begins at or before `sel_start` into its name and attributes. `sel_start` is the start of
+// the selection.
 TagAnalysis AnalyseTag(std::string_view text, std::size_t sel_start);
 
-// Splits the tag at the caret of the document and selects the tag. Shows a message for a failure or a missing tag.
+// Splits the last tag that begins at or before the start of the selection, and selects this tag. Shows a message if
+// there is no tag or if a step fails.
 TagAnalysis OpenTag(TextBuffer& buffer, Platform& platform);
 
-// A blank, the name, "=" and the quoted value for each name. A missing value is empty.
+// One Attribute() for each name. A missing value is empty, and a value without a name is left out.
 std::string AttributesText(const AttributeLists& attributes);
 
 // <name attributes>
 std::string TagText(std::string_view name, const AttributeLists& attributes);
 
-// Inserts the attributes before the next ">". The search begins one character before the caret. If there is no such
-// character or no ">", shows a message and returns false.
+// Inserts the attributes before the next ">". The search begins one character before the start of the selection. Shows
+// a message and returns false if the selection starts at 0 or no ">" is found.
 bool AddAttributes(TextBuffer& buffer, const AttributeLists& attributes, Platform& platform);
 
 struct CustomTag {
@@ -58,8 +60,8 @@ struct CustomTag {
   bool closed = true;
 };
 
-// Inserts the opening tag at the caret. If the tag is `closed`, puts an opening and a closing tag around the selection,
-// or around a sample if nothing is selected.
+// Puts an opening and a closing tag around the selection, or around a sample if nothing is selected. If the tag isn't
+// `closed`, only inserts the opening tag before the selection.
 void InsertCustomTag(TextBuffer& buffer, const CustomTag& tag);
 
 }  // namespace pelmar

@@ -43,7 +43,7 @@ void TestHtml(Editor& e) {
   }
   const std::optional<TempFile> page = WriteTestPage(e, ".htm", PageEnd::kLineBreak, "Testuj html");
   if (!page) return;
-  // required: this path lacks kPageName, so it isn't the path of the written page. No message follows
+  // required: this path lacks kPageName, so the written page doesn't open. No message says so
   e.platform.OpenWithDefaultProgram(e.platform.TempFolder() + page->digits + ".htm");
 }
 

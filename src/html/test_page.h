@@ -1,6 +1,6 @@
 // The page test: removes tags from a text, opens the document in another program, and provides the page for the
-// internal browser. If the document's own file isn't used, the document is written to a new temporary file, which only
-// its owner can read and which is never deleted.
+// internal browser. If the document's own file isn't used, the document is written to a new temporary file. Only the
+// user who runs the program can read this file, and the program never deletes it.
 #pragma once
 
 #include <optional>
@@ -11,15 +11,15 @@
 
 namespace pelmar {
 
-// The text without each "<" and everything up to the next ">". required: a "<" without ">" removes the rest of the
-// text, and comments and scripts are not recognised.
+// The text without each part from a "<" to the next ">". required: a "<" without ">" removes the rest of the text, and
+// comments and scripts are not recognised.
 std::string StripHtml(std::string_view text);
 
 // How the temporary page ends: with one more line break, or as the text ends.
 enum class PageEnd { kLineBreak, kAsItIs };
 
-// The path of the file for the internal browser: the document's file, which lacks unsaved changes, or a new temporary
-// page for a document without a path. If the page can't be written, shows a message and returns nothing.
+// The path of the page for the internal browser: the document's file, which lacks unsaved changes. A document without a
+// path is written to a new temporary page. If this page can't be written, shows a message and returns nothing.
 std::optional<std::string> PageToShow(Editor& editor, PageEnd end);
 
 // The commands "Odstraň HTML" and "Testuj html".

@@ -11,7 +11,7 @@ namespace pelmar {
 
 struct Editor;
 
-// The three fonts that the program offers.
+// The three fonts that the dialog Visual offers.
 inline constexpr std::string_view kSansSerif = "MS Sans Serif";
 inline constexpr std::string_view kCourier = "Courier New";
 inline constexpr std::string_view kTerminal = "Terminal";
@@ -23,7 +23,8 @@ inline constexpr std::string_view kPreviewText =
 // The commands for bold, italic, sizes, inverted colours, alignment, the DOS look and the basic look.
 void AddAppearanceCommands(Editor& editor, MainView& view);
 
-// Sets the normal window state, a fixed size, and light grey text in Courier on black.
+// Gives the window its normal state and a fixed size. The text becomes light grey on black, in Courier of 8 points, not
+// bold and not italic.
 void ApplyDosLook(MainView& view);
 
 // Sets the look of the text, and the check marks of the menu items for bold and italic. An empty font name keeps the

@@ -1,5 +1,5 @@
-// The column tool inserts a text into each row, or removes a character, at one distance from the start or the end of
-// the row. Texts are Windows-1250, distances count characters.
+// The column tool inserts a text into each row or removes a character from each row. The place in the row is given by
+// its distance from the start or the end of the row. Texts are Windows-1250, distances count characters.
 #pragma once
 
 #include <string>
@@ -17,15 +17,15 @@ struct SelectedRows {
   std::size_t shortest = 0;
 };
 
-// required: if the selection ends in a line with text and CR LF, an extra row repeats this line without its first
-// character and with the CR LF; `shortest` counts this row instead of the line. A last line of one character without a
-// line end gets no row.
+// required: if the last line isn't empty and ends in CR LF, an extra row repeats this line. The extra row lacks the
+// first character of the line and includes the CR LF; `shortest` counts the extra row instead of the line. A last line
+// of one character without a line end gets no row.
 SelectedRows RowsOfSelection(std::string_view selected);
 
 // The length of the shortest row, 0 if there are no rows.
 std::size_t ShortestRow(const Rows& rows);
 
-// The insertions change only rows of at least `distance` characters, the removals only longer rows.
+// The insertions skip rows shorter than `distance`. The removals also skip rows of exactly `distance` characters.
 void InsertFromStart(Rows& rows, std::size_t distance, std::string_view text);
 void InsertFromEnd(Rows& rows, std::size_t distance, std::string_view text);
 void RemoveFromStart(Rows& rows, std::size_t distance);

@@ -14,8 +14,8 @@
 namespace pelmar {
 namespace {
 
-// The first letter of each word in upper case, all others in lower case. Only blanks and the control characters 0 and 9
-// to 13 separate words.
+// The first character of each word in upper case, all other characters in lower case. Only blanks and the control
+// characters 0 and 9 to 13 separate words.
 std::string ProperCase(std::string_view text) {
   std::string result(text);
   bool first = true;
@@ -80,7 +80,8 @@ void AddLineTools(Editor& e) {
   e.commands.Add("mnucharcount", [&e] { CountCharacters(e); });
 }
 
-// Adds a command that inserts a generated text before the selection. The selection stays.
+// Adds a command that inserts a generated text before the selection. The selected text stays, but is no longer
+// selected.
 void AddGenerator(Editor& e, std::string_view name, std::string (*generate)(const Draw&)) {
   e.commands.Add(name, [&e, generate] {
     e.platform.ReseedRandom();
@@ -106,7 +107,7 @@ void AddClipboardCommands(Editor& e) {
     });
   for (const std::string_view name : {"Copy", "mnucopysel"})
     e.commands.Add(name, [&e] { e.platform.SetClipboardText(e.text.SelText()); });
-  // required: the text goes before the selection and does not replace the selection
+  // required: the pasted text goes before the selection and does not replace the selection
   for (const std::string_view name : {"Paste", "mnuadd"})
     e.commands.Add(name, [&e] { InsertAtCaret(e.text, e.platform.ClipboardText()); });
   e.commands.Add("mnucopy", [&e] { e.platform.SetClipboardText(e.text.Text()); });

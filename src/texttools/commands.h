@@ -1,4 +1,5 @@
-// The text tools without a dialog: commands on the selected text, on lines, on the clipboard, and the primitive search.
+// The commands of the text tools without a dialog of their own: for the selected text, for lines, for random texts, for
+// the clipboard, and the primitive search.
 #pragma once
 
 namespace pelmar {

@@ -23,7 +23,7 @@ void Finder::Start() {
     find = ToUpper(find);
   }
   snapshot_.SetText(std::move(text));
-  history.push_back(find);  // required: after the change to upper case, so the list holds upper case
+  history.push_back(find);  // required: in upper case if the search ignores case
   count = position = std::nullopt;
   if (const auto hit = FindFrom(snapshot_.Text(), find, 0)) return Show(*hit);
   ReportNothing();
@@ -31,7 +31,7 @@ void Finder::Start() {
 }
 
 void Finder::Next() {
-  // Hits may overlap: the next hit may begin one character after the last hit.
+  // Hits may overlap: the search goes on one character after the start of the latest hit.
   if (const auto hit = FindFrom(snapshot_.Text(), find, position.value_or(0) + 1)) return Show(*hit);
   ReportNothing();
   GoIdle();  // required: the labels keep their values, unlike in Start

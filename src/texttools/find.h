@@ -1,6 +1,6 @@
 // The search of the dialog Hledání without its window, and the primitive search. The dialog searches a copy of the
-// document and selects hits in the document at the positions of the copy, even if the document has changed since. Texts
-// are Windows-1250, positions count from 0.
+// document. A hit is selected in the document at its position in the copy, even if the document has changed since.
+// Texts are Windows-1250, positions count from 0.
 #pragma once
 
 #include <cstddef>
@@ -18,12 +18,13 @@ class Finder {
  public:
   Finder(TextBuffer& buffer, Platform& platform);
 
-  // The fields of the dialog. The window writes them before each step and shows them after each step.
+  // What the dialog shows. Before each step the window stores `find` and `case_sensitive` here. After each step the
+  // window shows all values.
   std::string find;
   bool case_sensitive = true;
   std::vector<std::string> history;     // all terms so far
-  std::optional<std::size_t> count;     // hits so far
-  std::optional<std::size_t> position;  // of the last hit
+  std::optional<std::size_t> count;     // hits of this search so far
+  std::optional<std::size_t> position;  // of the latest hit
   // Which controls are enabled.
   bool find_on = true;  // the term and Start
   bool case_on = true;
@@ -50,7 +51,7 @@ class Finder {
   TextBuffer snapshot_;
 };
 
-// At each hit in the document, asks whether to continue. The search is always case sensitive.
+// Asks for a term and, at each hit in the document, whether to continue. The search is always case sensitive.
 void FindPrimitively(TextBuffer& buffer, Platform& platform);
 
 // The initial search term: the selected text, otherwise "Text".

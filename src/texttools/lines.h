@@ -16,11 +16,11 @@ using SortedOrder = std::function<std::vector<std::size_t>(const std::vector<std
 // without an end runs into the line that follows in the result.
 std::string SortLines(std::string_view text, const SortedOrder& order);
 
-// A number of five digits and a blank before each line. required: the last character is lost.
+// A number of at least five digits and a blank before each line. required: the last character of the text is lost.
 std::string NumberLines(std::string_view text);
 
-// The words of a text. Each word includes one blank at its end, so each further blank is a separate word. Line ends are
-// characters of a word.
+// The words of a text. Each blank ends a word and belongs to this word, so a blank after a blank is a word of its own.
+// Line ends don't separate words.
 std::vector<std::string_view> WordsOf(std::string_view text);
 
 // Each word, with its blank, on a separate line. The last line ends in CR LF too.

@@ -1,4 +1,5 @@
-// Filler text of random words, and words in random order. The order of the draws is fixed. Texts are Windows-1250.
+// Filler text of random letters, and the words of a text in random order. The functions draw numbers in a fixed order,
+// so the same numbers always give the same text. Texts are Windows-1250.
 #pragma once
 
 #include <string>
@@ -14,11 +15,11 @@ std::string RandomSentence(const Draw& draw);
 // A word of 2 to 10 small letters, with a blank at its end.
 std::string RandomWord(const Draw& draw);
 
-// Two words of 2 to 10 letters that begin with a capital, each with a blank at its end.
+// Two words, each with 2 to 10 letters and a blank at its end. The first letter of each word is a capital.
 std::string RandomName(const Draw& draw);
 
-// The words in random order, each with the blank at its end. required: the last word of the text has no blank and runs
-// into the word that follows in the result.
+// The words in random order, each with the blank at its end. required: if `text` doesn't end in a blank, the last word
+// of `text` runs into the word that follows in the result.
 std::string ShuffledWords(std::string_view text, const Draw& draw);
 
 }  // namespace pelmar

@@ -1,5 +1,5 @@
-// The dialog Záměna without its window. The dialog searches a copy of the document, and replaces hits in the copy and
-// in the document. Texts are Windows-1250, positions count from 0.
+// The dialog Záměna without its window. The dialog searches a copy of the document. Replace changes the copy and the
+// document, ReplaceAll only the document. Texts are Windows-1250, positions count from 0.
 #pragma once
 
 #include <cstddef>
@@ -17,7 +17,8 @@ class Replacer {
  public:
   Replacer(TextBuffer& buffer, Platform& platform);
 
-  // The fields of the dialog. The window writes them before each step and shows them after each step.
+  // What the dialog shows. Before each step the window stores `find`, `change` and `case_sensitive` here. After each
+  // step the window shows all values.
   std::string find = "Najdi";
   std::string change;
   bool case_sensitive = true;
@@ -37,7 +38,7 @@ class Replacer {
 
   [[nodiscard]] TextBuffer& Snapshot() { return snapshot_; }
 
-  bool Start();  // true if the focus goes to Replace
+  bool Start();  // true if the term was found
   void Next();
   void Replace();
   void ReplaceAll();
@@ -57,9 +58,9 @@ class Replacer {
   std::size_t replaced_count_ = 0;
 };
 
-// The result of Replace all. required: each hit becomes character 255 first, and each character 255 then becomes the
-// replacement, even one that was in the text. With an empty replacement, the 2nd, 4th, 6th ... of adjacent hits stay
-// character 255.
+// The result of ReplaceAll. required: each hit becomes character 255 first. Then each character 255 becomes the
+// replacement, even one that was in the text. With an empty replacement, the 2nd, 4th, 6th ... of adjacent characters
+// 255 stay.
 std::string ReplaceAllByMarker(std::string_view text, std::string_view find, std::string_view change);
 
 }  // namespace pelmar

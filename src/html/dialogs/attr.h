@@ -1,4 +1,4 @@
-// The dialog `Attr` adds attributes to a tag in the text, and keeps its lists of attributes for the next opening.
+// The dialog `Attr` adds attributes to a tag in the text. The lists of attributes are kept for the next opening.
 #pragma once
 
 #include "platform/platform.h"

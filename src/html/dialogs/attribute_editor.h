@@ -1,5 +1,5 @@
-// The part with attributes in the tag editor and similar dialogs: two boxes for a name and a value, two lists of the
-// added pairs, and the buttons that add and remove pairs.
+// The controls for attributes in the tag editor and similar dialogs: a box and a list for the names, a box and a list
+// for the values, a button that adds a pair, and a button that removes rows.
 #pragma once
 
 #include <QWidget>

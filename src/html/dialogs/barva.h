@@ -1,4 +1,4 @@
-// The dialog `Barva` puts the selection into a FONT tag with size, face or colour, or several of them.
+// The dialog `Barva` puts the selection into a FONT tag. Size, face and colour are optional.
 #pragma once
 
 #include <functional>

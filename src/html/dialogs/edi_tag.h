@@ -1,5 +1,5 @@
-// The dialog `EdiTag` shows the tag around the caret in fields, and Ok replaces the tag. Each opening creates a new
-// dialog. The dialog blocks the main window, so that the tag stays selected until Ok.
+// The fields of the dialog `EdiTag` show the tag that OpenTag() selects, and Ok replaces this tag.
+// Each opening creates a new dialog. The dialog blocks the main window, so that the tag stays selected until Ok.
 #pragma once
 
 #include <functional>
@@ -20,7 +20,8 @@ class EdiTag : public FragmentDialog<Ui::EdiTag> {
  public:
   EdiTag(TextBuffer& buffer, Platform& platform, std::function<Color(Color)> pick_color, QWidget* parent);
 
-  // Reads the tag and returns when the dialog is closed. A tag that can't be read is reported.
+  // Reads the tag, runs the dialog and returns when the dialog is closed. If there is no tag or the tag can't be read,
+  // a message says so before the dialog opens.
   void Run();
 
  private:

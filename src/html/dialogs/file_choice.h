@@ -1,6 +1,6 @@
-// The controls that choose a file for a picture, a frame or a link in four dialogs: a file browser with a mask, a
-// check box that keeps only the name, a label with the path, and two buttons that need a file. While `files` is
-// disabled, the dialog itself enables `ok`.
+// The controls with which four dialogs choose a file for a picture, a frame or a link: a file browser with a mask, a
+// check box that shortens the path to the name, a label with the path, and two buttons that need a file. While `files`
+// is disabled, the dialog itself enables and disables `ok`.
 #pragma once
 
 #include <functional>
@@ -30,7 +30,8 @@ struct FileChoice {
   // folder or mask, or toggles `relative`. The button `show` calls `show_in_browser` with the label's path.
   void Link(std::function<void(const std::string& path)> show_in_browser) const;
 
-  // Writes the path, or only the name, into the label. Enables the buttons that can be used now.
+  // Writes the path, or only the name if `relative` is checked, into the label. Then enables or disables `show` and, if
+  // `files` is enabled, `ok`.
   void Refresh() const;
 
   [[nodiscard]] bool HasFile() const;
@@ -46,7 +47,7 @@ struct FileChoice {
   QCheckBox* relative;
   QLabel* path;
   QAbstractButton* ok;    // needs a file
-  QAbstractButton* show;  // needs a file with its whole path; Link() sets its icon
+  QAbstractButton* show;  // needs a file and its whole path; Link() sets the icon
 };
 
 }  // namespace pelmar

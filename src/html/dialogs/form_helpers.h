@@ -19,32 +19,32 @@ namespace pelmar {
 
 class Swatch;
 
-// Enables the widgets while the box is checked.
+// Keeps the widgets enabled while the box is checked, and disabled otherwise.
 void EnableWith(QCheckBox* box, std::initializer_list<QWidget*> widgets);
 
 // The button calls `pick` with the swatch's colour. The result is shown in the swatch and, in hexadecimal digits, in
-// the label; `taken` is called with the result.
+// the label. Then `taken` is called with the result.
 void ConnectColorChoice(QAbstractButton* button, Swatch* swatch, QLabel* hex, std::function<Color(Color)> pick,
                         std::function<void(const QColor&)> taken = {});
 
-// The box accepts any typed text and doesn't complete the text from its list. If the list doesn't contain the text, the
-// key Down selects the first row.
+// The box accepts any typed text and doesn't complete the text from the list. The row of the present text becomes
+// current, so that the arrow keys start there. If no row has this text, the key Down selects the first row.
 void AcceptFreeText(QComboBox* box);
 
-// How a label shows a number: as digits, or with a blank before the digits, as most labels do.
+// How a label shows a number: Plain writes "7", BlankLed writes " 7".
 using WriteNumber = QString (*)(int);
 QString Plain(int value);
 QString BlankLed(int value);
 
 // Writes each new value of the bar into the label. Before the first change the label has the form's text, even if the
-// bar has another value. Tags get the label's text, not the bar's value.
+// bar has another value. Many dialogs write the label's text, not the bar's value, into the tag.
 void ShowValue(QAbstractSlider* bar, QLabel* label, std::function<QString(int)> write = Plain);
 
 struct BarRange {
   int least, most;
 };
-// The bar counts percent while the button is checked, otherwise pixels; each unit has its own range. The label shows
-// the number, followed by "%" for percent.
+// The bar counts percent while the button is checked, otherwise pixels. A change of the unit sets the range of the new
+// unit. The label shows the number, followed by "%" for percent.
 void LinkUnit(QAbstractButton* percent, QAbstractSlider* bar, QLabel* label, WriteNumber write = BlankLed,
               BarRange in_percent = {1, 100}, BarRange in_pixels = {1, 800});
 

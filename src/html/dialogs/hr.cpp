@@ -9,7 +9,7 @@ namespace pelmar {
 Hr::Hr(TextBuffer& buffer, QWidget* parent) : FragmentDialog(buffer, parent) {
   EnableWith(ui_->Check1, {ui_->Option4, ui_->Option5, ui_->VScroll1, ui_->Label1});
   LinkUnit(ui_->Option4, ui_->VScroll1, ui_->Label1);
-  // required: a click on the option for pixels writes the number with a blank, a move of the bar the number alone
+  // required: for pixels, a click on the option writes a blank before the number, a move of the bar writes no blank
   for (QRadioButton* unit : {ui_->Option4, ui_->Option5})
     connect(unit, &QRadioButton::clicked, this, [this] {
       const QString number = BlankLed(ui_->VScroll1->value());

@@ -1,4 +1,4 @@
-// The dialog `Hr` inserts a horizontal line with its alignment, width and shade.
+// The dialog `Hr` inserts a horizontal line. The person sets alignment, width and shade.
 #pragma once
 
 #include "platform/qt/controls/fragment_dialog.h"

@@ -1,5 +1,6 @@
-// The base of the dialogs `Seznam` and `CisSeznam`, which insert lists. Only the kind of list and its types differ; the
-// options of the form's group `kind` set the type. A dialog keeps its items for the next opening.
+// The base of the dialogs `Seznam` and `CisSeznam`, which insert lists. The two dialogs differ in the kind of list and
+// in the types that the person can choose. The options of the form's group `kind` set the type. Each dialog keeps the
+// items for the next opening.
 #pragma once
 
 #include "html/lists.h"

@@ -1,4 +1,4 @@
-// The dialog `MailTo` inserts a link to an e-mail address.
+// The dialog `MailTo` makes the selection a link to an e-mail address.
 #pragma once
 
 #include <string>

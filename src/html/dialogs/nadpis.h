@@ -1,4 +1,4 @@
-// The dialog `Nadpis` inserts a heading with its size and alignment.
+// The dialog `Nadpis` puts the selection into a heading with a size and an alignment.
 #pragma once
 
 #include "platform/qt/controls/fragment_dialog.h"

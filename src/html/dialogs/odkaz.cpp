@@ -11,7 +11,7 @@ Odkaz::Odkaz(TextBuffer& buffer, QWidget* parent) : FragmentDialog(buffer, paren
 }
 
 void Odkaz::AddAnchor(const QString& name) {
-  const QString typed = ui_->Combo1->currentText();  // adding the first row to a list replaces this text
+  const QString typed = ui_->Combo1->currentText();  // adding a row to an empty list replaces this text
   ui_->Combo1->addItem(name);
   ui_->Combo1->setEditText(typed);
   AcceptFreeText(ui_->Combo1);

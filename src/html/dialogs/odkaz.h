@@ -1,5 +1,5 @@
-// The dialog `Odkaz` inserts a link to an anchor of the document. The list contains all anchors that the dialog `Kotva`
-// has inserted since the start of the program, also those of other documents.
+// The dialog `Odkaz` makes the selection a link to an anchor of the document. The list contains all anchors that the
+// dialog `Kotva` has inserted since the start of the program, also those of other documents.
 #pragma once
 
 #include "platform/qt/controls/fragment_dialog.h"

@@ -28,7 +28,7 @@ void OdkazNaJiny::Option_Click() {
 }
 
 void OdkazNaJiny::Text1_Change() {
-  // required: the fragment decides, not the address that the person types
+  // required: the fragment, not the typed address, decides whether Ok is enabled
   ui_->Command1->setEnabled(!ui_->Text2->text().isEmpty());
 }
 

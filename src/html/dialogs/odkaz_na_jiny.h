@@ -1,4 +1,4 @@
-// The dialog `OdkazNaJiný` inserts a link to a file or to a typed address.
+// The dialog `OdkazNaJiný` makes the selection a link to a file or to a typed address.
 #pragma once
 
 #include "html/dialogs/file_choice.h"

@@ -1,4 +1,4 @@
-// The dialog `Odstavec` inserts a paragraph with its alignment.
+// The dialog `Odstavec` puts the selection into a paragraph with an alignment.
 #pragma once
 
 #include "platform/qt/controls/fragment_dialog.h"

@@ -70,7 +70,7 @@ PairedLists::PairedLists(const Parts& parts, QObject* parent) : QObject(parent),
     });
     connect(list->verticalScrollBar(), &QScrollBar::valueChanged, other->verticalScrollBar(),
             [bar = other->verticalScrollBar()](int value) {
-              if (value <= bar->maximum()) bar->setValue(value);  // beyond its end, only the longer list scrolls
+              if (value <= bar->maximum()) bar->setValue(value);  // otherwise the shorter list stays where it is
             });
   }
   connect(parts_.name, &QLineEdit::textChanged, this,
@@ -93,9 +93,9 @@ void PairedLists::Follow(QListWidget* other, int row) {
 }
 
 void PairedLists::FieldChanged(const QString& text, QListWidget* list) {
-  // required: only the field that changed last decides
+  // required: only the field that changed last decides whether `add` is enabled
   parts_.add->setEnabled(!text.isEmpty());
-  // Selecting a row doesn't change the row.
+  // Follow() changes the fields too, but only shows a row in them.
   if (!edits_rows_ || following_) return;
   if (const int row = SelectedRow(*list); row >= 0) list->item(row)->setText(text);
 }

@@ -1,4 +1,5 @@
-// Lists to which a person adds rows, and the two parallel lists of the tag editor and similar dialogs.
+// Functions for a list to which the person adds rows, and a class for the two parallel lists of the tag editor and
+// similar dialogs.
 #pragma once
 
 #include <QObject>
@@ -17,20 +18,21 @@ namespace pelmar {
 // The index of the selected row, -1 if no row is selected.
 int SelectedRow(const QListWidget& list);
 
-// Adds a row before the selected row, or at the end.
+// Adds a row before the selected row, or at the end if no row is selected.
 void AddRow(QListWidget& list, const QString& text);
 
 // Removes the selected row, or the last row if no row is selected. Afterwards no row is selected.
 void RemoveRow(QListWidget& list);
 
-// The key Delete in the list clicks the button that removes rows.
+// Makes the key Delete in the list click the button `remove`, but only if a row is selected.
 void RemoveByKey(QListWidget& list, QAbstractButton& remove);
 
 // The texts of the rows, in Windows-1250.
 std::vector<std::string> RowTexts(const QListWidget& list);
 
-// Two lists whose rows form pairs, two fields for a new pair, and the buttons that add and remove pairs. required: the
-// lists may get out of step, since each one removes its own selected row.
+// Two lists whose rows form pairs, two fields for a new pair, a button that adds a pair and a button that removes rows.
+// required: the lists may get out of step. Each list adds and removes at its own selected row, or at the end if no row
+// is selected.
 class PairedLists : public QObject {
  public:
   struct Parts {
@@ -47,7 +49,7 @@ class PairedLists : public QObject {
   // From this call on, the fields show the texts of the selected row, and typing into a field changes this row.
   void EditSelectedRows() { edits_rows_ = true; }
 
-  // Adds a pair if the button is enabled, and selects the first field for the next pair.
+  // Adds a pair if the button `add` is enabled. Then focuses the field for the name and selects its text.
   void Add();
 
   [[nodiscard]] AttributeLists Rows() const;

@@ -14,7 +14,8 @@ void ShowPosition(QLabel* label, const QScrollBar* position, const QScrollBar* c
   label->setText(QStringLiteral("%1/%2").arg(position->value()).arg(count->value()));
 }
 
-// Writes the dialog's result into the field. The grid then stores the text like a typed text.
+// Runs `ask` and, unless the person cancels, writes the result into the field. The field then stores the result in the
+// grid, like a typed text.
 void AskInto(QLineEdit* field, const Table::AskAttributes& ask) {
   if (const std::optional<std::string> attributes = ask()) field->setText(TextToQString(*attributes));
 }
@@ -123,7 +124,7 @@ void Table::ShowCell() {
   ui_->Text3->setText(TextToQString(ShownCellAttributes()));
 }
 
-// Moves to the right, then to the next row, and from the last cell to the button Ok.
+// Goes to the cell on the right, from the last column to the next row, and from the last cell to the button Ok.
 void Table::GoToNextCell() {
   QScrollBar &column = *ui_->HScroll1, &row = *ui_->VScroll7;
   const bool last_column = column.value() == column.maximum();

@@ -1,4 +1,5 @@
-// The dialog `Tagy` inserts a tag with a typed name. The dialog keeps its lists of attributes for the next opening.
+// The dialog `Tagy` inserts a tag with a typed name, or puts the tag around the selection. The lists of attributes are
+// kept for the next opening.
 #pragma once
 
 #include "platform/qt/controls/fragment_dialog.h"

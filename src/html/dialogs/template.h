@@ -1,4 +1,5 @@
-// The dialog `Template` offers sample documents with a preview. The chosen sample replaces the whole document.
+// The dialog `Template` offers sample documents with a preview. Ok replaces the whole document by the text of the
+// preview, even before a sample is chosen.
 #pragma once
 
 #include "platform/qt/controls/fragment_dialog.h"

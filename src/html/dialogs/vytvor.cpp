@@ -72,7 +72,8 @@ PageSpec Vytvor::Read() const {
   return spec;
 }
 
-// required: the editor gets the swatches' colours, which differ from the hex labels until the person picks a colour
+// required: the main text box gets the colour of a swatch, even where the hex label beside the swatch shows another
+// colour. The two may differ until the person picks a colour
 void Vytvor::ColorEditor() {
   if (!ui_->Check1->isChecked() && !ui_->Check2->isChecked()) return;
   const EditorLook look = view_.Look();

@@ -1,5 +1,5 @@
-// The dialog `Vytvoř` puts a whole page around the document. The editor's text box gets the page's background and
-// text colours.
+// The dialog `Vytvoř` puts a whole page around the document. If the box for the background colour or the text
+// colour is checked, the main text box gets the colour of the swatch.
 #pragma once
 
 #include "html/dialogs/file_choice.h"

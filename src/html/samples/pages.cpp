@@ -23,7 +23,7 @@ std::string Html1(const SettingsRecord& profile) {
   });
 }
 
-// Only ASCII letters, since the head of this page doesn't declare a code page.
+// Only ASCII characters, since the head of this page doesn't declare a code page.
 std::string Html2(const SettingsRecord&) {
   return JoinLines({
       R"(<html>)",

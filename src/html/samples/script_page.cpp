@@ -1,5 +1,6 @@
-// The sample web page with a script: a menu in a frame. Its pictures change under the mouse, and a script loads random
-// web pages into the other frames. The page also works outside of a frameset, without random pages.
+// The sample web page with a script: a menu for one frame of a frameset. The pictures of the menu change under the
+// mouse. When the page is loaded, the script loads random web pages into two other frames. The page also works outside
+// of a frameset, without random pages.
 #include "html/samples/templaty.h"
 #include "shell/common.h"
 #include "text/codepage.h"

@@ -1,5 +1,5 @@
-// The sample documents. A function builds each document line by line. Html1 and Diz1 contain the person's e-mail
-// address, Diz1 also the name. The texts are Windows-1250; CR LF separates the lines.
+// The sample documents. For each document there is a function that builds the text line by line. Html1 and Diz1 contain
+// the person's e-mail address, Diz1 also the name. The texts are Windows-1250, and CR LF separates the lines.
 #pragma once
 
 #include <span>

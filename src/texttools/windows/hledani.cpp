@@ -31,7 +31,8 @@ void Hledani::Step(void (Finder::*step)()) {
   TakeFields();
   (finder_.*step)();
   ShowFields();
-  // The step may disable the focused control. The focus goes to the button for the next match, or to the field.
+  // The step may disable the focused control. So the focus goes to the button for the next hit or, if this button is
+  // disabled, to the field.
   if (!finder_.next_on) return ui_->Find->setFocus();
   ui_->Command2->setFocus();
   MoveAside(*this, match_());

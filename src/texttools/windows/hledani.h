@@ -1,4 +1,4 @@
-// `Hledání`: finds step by step in a copy of the document, with a history of the search terms.
+// `Hledání`: searches a copy of the document step by step, with a history of the search terms.
 #pragma once
 
 #include <QRect>
@@ -17,7 +17,8 @@ class Hledani : public FormDialog<Ui::Hledani> {
   Q_OBJECT
 
  public:
-  // `match` returns the screen rectangle of the match, empty if the match isn't visible. The dialog moves off it.
+  // `match` returns the rectangle of the selected hit on the screen, empty if the hit isn't visible. The dialog moves
+  // away from this rectangle if there is room on the screen.
   Hledani(TextBuffer& buffer, Platform& platform, std::function<QRect()> match, QWidget* parent);
 
  private:

@@ -15,7 +15,7 @@ Visual::Visual(MainView& view, SettingsRecord& settings, Callbacks callbacks, QW
   connect(ui_->Check1, &QCheckBox::clicked, this, [this](bool checked) { settings_.LineCounting = checked; });
   connect(ui_->VScroll7, &QScrollBar::valueChanged, this, &Visual::VScroll7_Change);
   connect(ui_->Command5, &QPushButton::clicked, this, [this] { settings_.AutosnapDistance = ui_->VScroll7->value(); });
-  // required: Command6 resets only the scroll bar; only Command5 stores the value
+  // required: Command6 resets the scroll bar, but doesn't store the value as Command5 does
   connect(ui_->Command6, &QPushButton::clicked, this, [this] { ui_->VScroll7->setValue(kDefaultAutosnapDistance); });
   connect(ui_->Command1, &QPushButton::clicked, this, &Visual::Command1_Click);
   connect(ui_->Command2, &QPushButton::clicked, this, &Visual::hide);

@@ -1,4 +1,4 @@
-// `Visual`: sets the look of the main text box, shows a preview of the look, and sets line counting and snap distance.
+// `Visual`: sets the look of the main text box, with a preview. Also sets the line counting and the snap distance.
 #pragma once
 
 #include <array>
@@ -28,8 +28,9 @@ class Visual : public FormDialog<Ui::Visual> {
   };
   Visual(MainView& view, SettingsRecord& settings, Callbacks callbacks, QWidget* parent);
 
-  // Call when the main text box has changed its font size, or the status bar has switched the line counting.
+  // Call when the font size of the main text box has changed.
   void FollowFontSize();
+  // Call when the status bar has switched the line counting.
   void FollowLineCounting();
 
  protected:

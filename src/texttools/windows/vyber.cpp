@@ -15,7 +15,7 @@ Vyber::Vyber(TextBuffer& buffer, QWidget* parent) : FormDialog(parent), buffer_(
 
 void Vyber::Load() {
   const int start = static_cast<int>(buffer_.SelStart());
-  const int length = static_cast<int>(buffer_.SelLength());  // read before the first slider collapses the selection
+  const int length = static_cast<int>(buffer_.SelLength());  // read before the first slider changes the selection
   ui_->Start->setMaximum(static_cast<int>(buffer_.Size()));
   ui_->Delka->setMaximum(static_cast<int>(buffer_.Size()));
   ui_->Start->setValue(start);
@@ -28,7 +28,7 @@ void Vyber::Change(QLabel* label, int value) {
   buffer_.SetSelStart(static_cast<std::size_t>(ui_->Start->value()));
   buffer_.SetSelLength(static_cast<std::size_t>(ui_->Delka->value()));
   ui_->Start->setMaximum(static_cast<int>(buffer_.Size()));
-  // If the length reaches past the end, the slider shortens the length and calls this function again.
+  // If the selection would reach past the end, this call lowers the value of the slider, which calls Change() again.
   ui_->Delka->setMaximum(ui_->Start->maximum() - ui_->Start->value());
   ui_->Label5->setText(TextToQString(buffer_.SelText()));
 }

@@ -18,7 +18,7 @@ class Vyber : public FormDialog<Ui::Vyber> {
  public:
   Vyber(TextBuffer& buffer, QWidget* parent);
 
-  // Sets the sliders to the present selection, which stays as it is.
+  // Sets the sliders to the present selection. Afterwards the same text is selected.
   void Load();
 
  private:

@@ -42,7 +42,8 @@ void Zamena::Step(void (Replacer::*step)()) {
   TakeFields();
   (replacer_.*step)();
   ShowFields();
-  // A step without a match disables the focused button. The focus must not move to the button that replaces all.
+  // The step may have disabled the focused button. Without this call the focus could move to the button that replaces
+  // all.
   if (!replacer_.step_on) return ui_->Command4->setFocus();
   MoveAside(*this, match_());
 }

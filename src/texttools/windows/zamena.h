@@ -18,7 +18,8 @@ class Zamena : public FormDialog<Ui::Zamena> {
   Q_OBJECT
 
  public:
-  // `match` returns the screen rectangle of the match, empty if the match isn't visible. The dialog moves off it.
+  // `match` returns the rectangle of the selected hit on the screen, empty if the hit isn't visible. The dialog moves
+  // away from this rectangle if there is room on the screen.
   Zamena(TextBuffer& buffer, Platform& platform, std::function<QRect()> match, QWidget* parent);
 
  private:
