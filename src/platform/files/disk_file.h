@@ -7,11 +7,12 @@
 // 3. The content is written and brought to the disk by fsync.
 // 4. The new file gets its name. If there is an old file, the new file replaces the old file by a rename.
 // 5. fsync of the folder brings the name to the disk. Now the save is complete.
-// If step 2 or 4 is not possible, the old file is overwritten in place: the folder may refuse a new file, an attribute
-// may be refused, or the old file may have several names. First kept_content copies the old content into "puvodni-*" of
-// the keep folder (for documents: the install folder). The copy is removed after the save.
-// A kill or a power cut leaves the old content or the new content in the file. Only a save in place can leave a mixture
-// of both; the old content is then complete in "puvodni-*", and the next start of the program reports this.
+// The old file is overwritten in place if it has several names, if the folder refuses a new file or the rename, or if
+// an attribute can't be copied. First kept_content copies the old content into "puvodni-*" of the keep folder (for
+// documents: the install folder). The copy is removed when the new content or the restored old content is on the disk.
+// A kill or a power cut during steps 1 to 5 leaves the old content or the new content in the file. Only a save in place
+// can leave a mixture of both. Then the complete old content is in "puvodni-*", and the next start of the program
+// reports the copies in the install folder.
 #pragma once
 
 #include <sys/types.h>
@@ -44,7 +45,7 @@ WriteOutcome ReplaceFile(const std::string& path, std::string_view bytes, const 
                          mode_t new_mode = 0666);
 
 // Creates a file that only its owner can read. Returns 0 or an errno: EEXIST if the name is taken, even by a link that
-// leads nowhere. After a failed write the file is removed.
+// leads nowhere. After a failure the new file is removed.
 int CreateFile(const std::string& path, std::string_view bytes);
 
 // See Platform::RewriteFile. The target is saved by the steps above. The errors EISDIR and EINVAL, for the source or
