@@ -1,7 +1,7 @@
-// A SOCKS proxy within this process, which is the engine's only way to the net. All TCP traffic of the engine passes a
-// gate, also the traffic of scripts and of peer connections. An open gate serves this process only. A shut gate refuses
-// every connection. A gate never changes between open and shut: if a shut gate opened, late requests of earlier pages
-// could get out.
+// A SOCKS proxy within this process. The engine has no other way to the net: all its TCP traffic passes a gate, also
+// the traffic of scripts and of peer connections. An open gate serves this process only. A shut gate refuses every
+// connection. A gate never changes between open and shut: if a shut gate opened, late requests of earlier pages could
+// get out.
 #pragma once
 
 #include <QByteArray>
