@@ -1,5 +1,5 @@
 // The interface to the widget that shows web pages in the internal browser. The module pelmar-browser implements this
-// interface, and so do the tests. All calls come from the main thread.
+// interface, and so do the tests. All calls come from the interface thread, on which the windows run.
 #pragma once
 
 #include <QString>
