@@ -17,11 +17,11 @@ namespace {
 // since it needs the large web engine.
 class BrowserModule {
  public:
-  // Loads the module at the first call. Null if the module is missing or broken: Problem() then has the reason, and the
-  // next call tries again.
+  // Loads the module unless an earlier call has loaded it. Null if the module is missing, broken or of another version:
+  // Problem() then returns the reason.
   WebViewMaker* Maker();
 
-  // The reason, as a message for the person.
+  // The reason why Maker() returned null, as a message for the person.
   [[nodiscard]] const QString& Problem() const { return problem_; }
 
  private:
@@ -84,7 +84,7 @@ void AddBrowserWindows(const ProgramParts& parts) {
     browser->ShowAlone();
   };
   AddShowCommand(parts, "Mnu_Internal_Browser", PageEnd::kLineBreak);
-  // required: the toolbar's page ends as the text does, the menu's page has one more line break
+  // required: the toolbar's page ends as the text does, but the menu's page has one more line break
   AddShowCommand(parts, "Browser", PageEnd::kAsItIs);
 }
 

@@ -30,7 +30,7 @@ constexpr std::string_view kStartingAddress = "https://duckduckgo.com/";
 constexpr std::string_view kOpenFilter = "Všechno (*.*)|*.*|htm (*.htm)|*.htm|html (*.html)|*.html";
 
 QLabel* AddPanel(QStatusBar& bar, const char* name, const QString& value_name, int stretch) {
-  QLabel* panel = stretch > 0 ? new ElidedLabel(&bar) : new QLabel(&bar);  // an address may be of any length
+  QLabel* panel = stretch > 0 ? new ElidedLabel(&bar) : new QLabel(&bar);  // a link's address may be of any length
   panel->setObjectName(QLatin1String(name));
   panel->setProperty(kValueName, value_name);
   SetAccessibleRole(*panel, QAccessible::StaticText);
@@ -83,7 +83,7 @@ void FrmBrowser::ConnectView() {
   view_->on_change = [this] {
     ShowCaption();
     ShowHistory();
-    // A link in the page starts a load too.
+    // A load that a link in the page has started needs the timer too.
     if (view_->Busy()) timTimer.start();
   };
   view_->on_withheld = [this](bool withheld) { ui_->netLine->setVisible(withheld); };
@@ -113,7 +113,7 @@ void FrmBrowser::ConnectToolBar() {
 
 void FrmBrowser::ConnectAddress() {
   QLineEdit* line = ui_->cboAddress->lineEdit();
-  // Qt would complete typed text, and load an entry of the list when the box loses focus.
+  // Otherwise Qt would complete typed text, and would load an entry of the list when the box loses focus.
   ui_->cboAddress->setCompleter(nullptr);
   disconnect(line, &QLineEdit::editingFinished, ui_->cboAddress, nullptr);
   ui_->cboAddress->installEventFilter(this);
@@ -206,7 +206,7 @@ void FrmBrowser::View_Finished() {
   const QString typed = line.text();
   DontNavigateNow = true;
   PutOnTop(AddressOfUrl(view_->LocationAddress()));
-  // If the person has typed a part of another address, the box keeps this part.
+  // If the person is typing an address, the box keeps the typed text.
   if (half_typed) {
     line.setText(typed);
     line.setModified(true);
@@ -227,7 +227,7 @@ void FrmBrowser::Stop_Click() {
   timTimer.stop();
   view_->Stop();
   ShowCaption();
-  // The timer has stopped, and the engine may report the end of the load later.
+  // The stopped timer doesn't show the end of the load, which the engine may report later.
   status_->setText(QStringLiteral("Idle"));
   ui_->Picture1->setEnabled(false);
 }

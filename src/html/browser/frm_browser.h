@@ -1,5 +1,5 @@
 // `frmBrowser`: the internal browser, a window around a web view. Closing hides the window, which keeps its page and
-// its history until the program ends. If the browser is the whole program, closing asks and ends the program.
+// its history until the program ends. If the browser is the whole program, closing asks whether to end the program.
 #pragma once
 
 #include <QMainWindow>
@@ -23,11 +23,11 @@ class FrmBrowser : public QMainWindow {
   Q_OBJECT
 
  public:
-  // `end_program` is called when the person ends a browser that is the whole program, and is empty in the editor.
+  // `end_program` is called when the person ends a browser that is the whole program. It is empty in the editor.
   FrmBrowser(WebViewMaker& maker, Platform& platform, std::function<void()> end_program);
   ~FrmBrowser() override;
 
-  // Shows a file.
+  // Loads a file and brings the window to the front.
   void ShowInBrowser(const std::string& path);
   // Shows the window with its first page. Only for a browser that is the whole program.
   void ShowAlone();
@@ -44,10 +44,11 @@ class FrmBrowser : public QMainWindow {
   void ConnectView();
   void ConnectToolBar();
   void ConnectAddress();
-  // Puts the address into the box and its list, then loads it.
+  // Adds the address to the list of the address box, shows the address in the box and calls Load.
   void Visit(const QString& address);
   void NavigateToBox();
-  // Loads the address, or shows a message that refuses the address.
+  // Loads the address, or shows a message if the browser refuses such an address. Loads nothing if the text isn't an
+  // address.
   void Load(const QString& address);
   void ShowCaption();
   void ShowHistory();
@@ -55,7 +56,7 @@ class FrmBrowser : public QMainWindow {
   void ShowState();
   void View_Progress(qint64 progress, qint64 maximum);
   void View_Finished();
-  // Makes the address the first row of the list, selects the row and removes older rows of the same address.
+  // Makes the address the first row of the list and selects this row. Removes older rows of the same address.
   void PutOnTop(const QString& address);
   void Stop_Click();
   void Open_Click();

@@ -1,5 +1,5 @@
-// Converts addresses that a person reads and writes to URLs for the web view, and back. An address of a file stays
-// readable, since nothing in it is encoded ("file:///home/jan/moje stránka.html").
+// Converts addresses that a person reads and writes to URLs for the web view, and back. The address of a file whose
+// path is UTF-8 stays readable: the path isn't percent-encoded ("file:///home/jan/moje stránka.html").
 #pragma once
 
 #include <QString>
@@ -8,8 +8,8 @@
 
 namespace pelmar {
 
-// An address of an existing file may contain characters like "#" and "%". Other text is read as in any browser: a path,
-// a host without "http://" or a full address. The URL is invalid if the text is no address.
+// After "file://", "#" and "%" are plain characters if they are part of an existing file's path. Other text is read as
+// in any browser: a path, a host without "http://" or a full address. The URL is invalid if the text is no address.
 QUrl UrlOfAddress(const QString& address);
 
 QString AddressOfUrl(const QUrl& url);
@@ -20,8 +20,8 @@ inline bool IsOfTheNet(const QUrl& url) {
   return url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https");
 }
 
-// Whether the browser may show the URL: http, https, a file, data, or the empty page. The engine doesn't know other
-// schemes, or uses them for pages of its own, and some of these pages end the whole program.
+// Whether the browser may show the URL: http, https, a file, data, or the empty page. Other schemes are
+// refused, since some of them lead to the engine's own pages, and some of these pages end the whole program.
 inline bool MayBeShown(const QUrl& url) {
   const QString scheme = url.scheme();
   for (const char* shown : {"http", "https", "file", "data"})

@@ -1,5 +1,5 @@
 // The interface to the widget that shows web pages in the internal browser. The module pelmar-browser implements this
-// interface, and so do the tests. All calls come from the interface thread.
+// interface, and so do the tests. All calls come from the interface thread, on which the windows run.
 #pragma once
 
 #include <QString>
@@ -27,21 +27,21 @@ class WebView {
   virtual void Go(int steps) = 0;  // steps in the history: -1 back, 1 forward
   virtual void Refresh() = 0;
   virtual void Stop() = 0;
-  // Ends the process of a page that doesn't answer within three seconds. The commands above do the same.
+  // Ends the process of a page that doesn't answer within three seconds. The commands above also end such a process.
   virtual void EndIfStuck() = 0;
   // Loads the present page again, this time with its parts from the net.
   virtual void LoadFromNet() = 0;
 
   [[nodiscard]] virtual bool CanGo(int steps) const = 0;
   [[nodiscard]] virtual bool Busy() const = 0;
-  [[nodiscard]] virtual QString LocationName() const = 0;  // the page's title, or the file's name without a title
+  [[nodiscard]] virtual QString LocationName() const = 0;  // the title, or the name of a file without a title
   [[nodiscard]] virtual QUrl LocationAddress() const = 0;
 
   std::function<void(qint64 progress, qint64 maximum)> on_progress;  // the maximum is 0 if nothing loads
   std::function<void()> on_change;                                   // the title changed or a load began
   std::function<void(bool)>
-      on_withheld;                    // true: a local page didn't get its parts from the net; false: another page loads
-  std::function<void()> on_finished;  // a load ended or failed, or a link led to another place in the page
+      on_withheld;  // true: a part of a local page on the net was blocked; false: a page is about to load
+  std::function<void()> on_finished;            // a load ended or failed, or a link led to another place in the page
   std::function<void(const QString&)> on_link;  // the address of the link under the mouse, or ""
 };
 

@@ -13,18 +13,18 @@
 
 #include "html/engine/net_gate.h"
 
-// This function of Qt, which has no public header, sets the context that all others share.
+// A function of Qt without a public header. It sets the OpenGL context that all other contexts share.
 extern void qt_gl_set_global_share_context(QOpenGLContext* context);
 
 namespace pelmar {
 namespace {
 
 constexpr char kFlags[] = "QTWEBENGINE_CHROMIUM_FLAGS";
-// Makes all traffic to the net use TCP and the program's gate, which also resolves the names of hosts.
+// Closes the engine's ways around the gate: UDP and its own look-ups of host names.
 constexpr char kOnlyThroughTheGate[] =
     " --force-webrtc-ip-handling-policy=disable_non_proxied_udp --disable-quic --dns-prefetch-disable"
     " --host-resolver-rules=\"MAP * ~NOTFOUND, EXCLUDE ";
-// The engine prefers these variables to kWayOut. Some of them make the engine use the desktop's settings.
+// With one of these variables the engine could use another proxy, another version of SOCKS or the desktop's settings.
 constexpr const char* kOverridesOfWayOut[] = {
     "auto_proxy",    "AUTO_PROXY",          "all_proxy",       "ALL_PROXY",        "http_proxy",
     "HTTP_PROXY",    "https_proxy",         "HTTPS_PROXY",     "ftp_proxy",        "FTP_PROXY",
@@ -42,8 +42,8 @@ bool SandboxWorks() {
   return child > 0 && WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
-// The engine draws by software, so an empty context is enough: the engine only reads its format. The usual attribute,
-// AA_ShareOpenGLContexts, creates a real context at every start of the program.
+// The engine draws by software and only reads the format of the shared context, so an empty context is enough. The
+// usual attribute, AA_ShareOpenGLContexts, would create a real context at every start of the program.
 void ShareEmptyContext() {
   if (QOpenGLContext::globalShareContext() != nullptr) return;
   auto* context = new QOpenGLContext(qApp);

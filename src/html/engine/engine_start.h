@@ -7,7 +7,7 @@
 
 namespace pelmar {
 
-// Sets an environment variable, or removes the variable if `value` is null. The destructor restores the old value.
+// Sets an environment variable, or removes the variable if `value` is null. The destructor undoes the change.
 class ScopedVariable {
  public:
   ScopedVariable(const char* name, const QByteArray& value);

@@ -96,7 +96,7 @@ class Connection : public QObject {
     if (!target) return;
     if (request_[1] != kConnect) return Refuse(kRefused);
     step_ = Step::kConnecting;
-    // The system may require a proxy.
+    // The system's settings may require a proxy for this address.
     QUrl address;
     address.setScheme(target->port == 443 ? QStringLiteral("https") : QStringLiteral("http"));
     address.setHost(target->host);
@@ -143,7 +143,7 @@ NetGate::NetGate(bool open) : open_(open) {
 }
 
 QByteArray NetGate::Address() const {
-  // If the gate can't listen, the engine gets a port without a service and reaches nothing.
+  // If the gate can't listen, the engine gets a port that is hardly ever in use, and so reaches nothing.
   const int port = server_.isListening() ? server_.serverPort() : 9;
   return QByteArray(kGateHost) + ':' + QByteArray::number(port);
 }

@@ -1,6 +1,7 @@
-// The engine's only way to the net: a SOCKS proxy within this process. Everything that the engine sends over TCP passes
-// the gate, also from scripts, sockets and peer connections. The gate serves only this process. A gate never changes
-// between open and shut, since an opened gate would let out requests of earlier pages.
+// A SOCKS proxy within this process. The engine has no other way to the net: all its TCP traffic passes a gate, also
+// the traffic of scripts and of peer connections. An open gate serves this process only. A shut gate refuses every
+// connection. A gate never changes between open and shut: if a shut gate opened, late requests of earlier pages could
+// get out.
 #pragma once
 
 #include <QByteArray>

@@ -1,5 +1,6 @@
-// Blocks requests to the net if the profile doesn't allow the net. Blocks the engine's own addresses for all profiles.
-// Each profile has its own NetRefusal, so a local page's request is blocked even if another page is already shown.
+// Blocks requests to the net if the profile doesn't allow the net. For all profiles, blocks addresses that no page may
+// use, for example those of the engine's own pages. Each profile has its own NetRefusal, so a late request is treated
+// by the rule of the page that sent it, even if a page of another profile is already shown.
 #pragma once
 
 #include <QWebEngineUrlRequestInterceptor>
@@ -9,7 +10,7 @@ namespace pelmar {
 
 class NetRefusal : public QWebEngineUrlRequestInterceptor {
  public:
-  // `on_withheld` is called for each refused part that a reader of the page would miss.
+  // `on_withheld` is called for each blocked request to the net for a part that a reader of the page would miss.
   NetRefusal(bool allows_net, std::function<void()> on_withheld, QObject* parent)
       : QWebEngineUrlRequestInterceptor(parent), allows_net_(allows_net), on_withheld_(std::move(on_withheld)) {}
   void interceptRequest(QWebEngineUrlRequestInfo& request) override;

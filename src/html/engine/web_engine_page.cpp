@@ -34,7 +34,8 @@ QString Title() { return QStringLiteral("Zpráva stránky"); }
 constexpr char kLeaving[] = "Are you sure you want to leave this page? Changes that you made may not be saved.";
 constexpr int kQuestionsBeforeSilenceBox = 2;  // questions without the check box that switches off further questions
 constexpr int kLongestQuestion = 2000;         // characters of a page's own text
-// The most characters of an address that a question shows, and of one of its lines. A longer address isn't opened.
+// A question shows an address of at most kLongestAsked characters, in lines of kAddressLine characters. A local page's
+// link to a longer address isn't opened.
 constexpr qsizetype kLongestAsked = 1000, kAddressLine = 80;
 
 // A frame of a page may also hold about: and blob: addresses.
@@ -42,7 +43,8 @@ bool MayBeFramed(const QUrl& address) {
   return MayBeShown(address) || address.scheme() == QLatin1String("about") || address.scheme() == QLatin1String("blob");
 }
 
-// The access key toggles this box at once. Qt's box waits a moment, and the person may press Enter in the meantime.
+// The access key toggles this box at once. Qt's own box would wait a moment, and a quick Enter would close the question
+// before the box is toggled.
 class SilenceBox : public QCheckBox {
  public:
   SilenceBox() : QCheckBox(QStringLiteral("&Další zprávy této stránky neukazovat")) {}
@@ -61,11 +63,12 @@ WebEnginePage::WebEnginePage(QWebEngineProfile* profile, PageSide side) : QWebEn
   settings()->setDefaultTextEncoding(QStringLiteral("windows-1250"));
   settings()->setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
   settings()->setAttribute(QWebEngineSettings::LocalContentCanAccessFileUrls, true);
-  // NetRefusal and NetGate block the net. The engine's own rule would block the net without notifying on_withheld.
+  // NetRefusal and NetGate block the net. The engine's own rule is off, since it would not call on_withheld.
   settings()->setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, true);
   settings()->setAttribute(QWebEngineSettings::JavascriptEnabled, side != PageSide::kDiskWithNet);
   settings()->setAttribute(QWebEngineSettings::HyperlinkAuditingEnabled, false);
-  // A page may open a window only at a click, since a script could open windows without end.
+  // A page may ask for a new window only after an action of the person, such as a click. A script could ask without
+  // end.
   settings()->setAttribute(QWebEngineSettings::JavascriptCanOpenWindows, false);
   settings()->setAttribute(QWebEngineSettings::FocusOnNavigationEnabled, false);
   NameActions();
@@ -74,13 +77,14 @@ WebEnginePage::WebEnginePage(QWebEngineProfile* profile, PageSide side) : QWebEn
           [this](QWebEngineNewWindowRequest& request) { OpenHere(request.requestedUrl()); });
 }
 
-// The engine checks the links of a page, but not load(). So this function must not load a file for a page of the net.
+// The engine itself refuses a link from a page of the net to a file, but doesn't check the address of load(). So this
+// function has to refuse the file.
 void WebEnginePage::OpenHere(const QUrl& address) {
   if (IsOfTheNet(address) || (address.isLocalFile() && side_ != PageSide::kNet)) load(address);
 }
 
-// The scripts of a local page may read other local files and put their contents into an address. So a local page
-// reaches the net only after the person has seen the whole address.
+// The scripts of a local page may read other local files and put their contents into an address. So a local page leads
+// to an address on the net only after the person has seen the whole address and has agreed.
 void WebEnginePage::AskToLeaveTheDisk(const QUrl& address) {
   QString shown = address.toString(QUrl::FullyEncoded);
   const qsizetype length = shown.size();
@@ -90,7 +94,7 @@ void WebEnginePage::AskToLeaveTheDisk(const QUrl& address) {
     AskInBox(Title(), refusal.arg(length), QMessageBox::Ok, QMessageBox::Ok);
     return;
   }
-  // A message box breaks lines only between words.
+  // A message box doesn't break a long word, so the address is broken into lines here.
   for (qsizetype end = (length - 1) / kAddressLine * kAddressLine; end > 0; end -= kAddressLine)
     shown.insert(end, QLatin1Char('\n'));
   const QString question = QStringLiteral("Stránka odkazuje na internet. Otevřít adresu ?\n\n") + shown;
@@ -162,10 +166,10 @@ bool WebEnginePage::Ask(QDialog& question) {
   if (auto* box = qobject_cast<QMessageBox*>(&question); box != nullptr && silence != nullptr) {
     box->setCheckBox(silence);
   } else if (silence != nullptr) {
-    question.sizeHint();  // creates its layout
+    question.sizeHint();  // creates the dialog's layout
     question.layout()->addWidget(silence);
   }
-  // The question doesn't block the editor and its other windows.
+  // The question blocks only the window of the browser.
   question.setWindowModality(Qt::WindowModal);
   question_ = &question;
   if (on_asking) on_asking();

@@ -1,6 +1,5 @@
-// A page of the web engine. The page may show local files and load their parts, but gets no permission, no download and
-// no window of its own. Its questions are in Czech. The page and its processes stay on one side, the disk or the net,
-// for their whole life.
+// A page of the web engine. A page gets no permission, no download and no window of its own. It keeps its PageSide for
+// its whole life.
 #pragma once
 
 #include <QDialog>
@@ -12,8 +11,9 @@
 namespace pelmar {
 
 enum class PageSide {
-  kDisk,         // reads local files and sends nothing
-  kDiskWithNet,  // one load of a local page with its parts on the net; its scripts, which could send files, don't run
+  kDisk,  // reads local files and sends nothing
+  // Loads a local page once, with its parts on the net. Scripts don't run, since a script could send local files.
+  kDiskWithNet,
   kNet,
 };
 
@@ -25,15 +25,16 @@ class WebEnginePage : public QWebEnginePage {
 
   [[nodiscard]] PageSide Side() const { return side_; }
 
-  // Call at each command of the person. Answers the open question with No. Until AllowQuestions(), the page may be left
-  // without a question, and each other question gets No.
+  // Call at each command of the person. Answers an open question with No. Until AllowQuestions(), new questions aren't
+  // shown: the question whether to leave the page gets Yes, every other question gets No.
   void AnswerNo();
   void AllowQuestions() { answers_no_ = false; }
-  // Call before another page loads. Allows questions again if the person has switched off the present page's questions.
+  // Call at each command that loads a page. Counts questions from 0 again. Allows questions again if the person has
+  // switched them off.
   void ResetQuestions();
   [[nodiscard]] bool Asking() const { return question_ != nullptr; }
 
-  std::function<void()> on_coming;                    // another page is about to load
+  std::function<void()> on_coming;                    // a page is about to load here
   std::function<void()> on_asking;                    // a question is about to be shown
   std::function<void()> on_answered;                  // a question was closed
   std::function<void(const QUrl& address)> on_leave;  // the address needs a page of another side
@@ -46,11 +47,11 @@ class WebEnginePage : public QWebEnginePage {
   void javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, const QString&, int, const QString&) override {}
 
  private:
-  // Shows the address in this page, although the page asked for a new window.
+  // Loads the address of a requested new window in this page, if this page may open the address.
   void OpenHere(const QUrl& address);
   void AskToLeaveTheDisk(const QUrl& address);
-  // Shows a question of the page. From the third question on, the person may switch off further questions.
-  // False for No, and if the page is hidden, already asks or may not ask.
+  // Shows a question of the page. From the third question after a command on, the person may switch off further
+  // questions. True only if the person agrees. A page that is hidden, already asks or may not ask shows no question.
   bool Ask(QDialog& question);
   bool AskInBox(const QString& title, const QString& text, QMessageBox::StandardButtons buttons,
                 QMessageBox::StandardButton default_button);
@@ -60,7 +61,7 @@ class WebEnginePage : public QWebEnginePage {
   const PageSide side_;
   bool loaded_ = false;
   QPointer<QDialog> question_;
-  int questions_ = 0;           // number of questions of the page so far
+  int questions_ = 0;           // number of questions since ResetQuestions()
   bool questions_off_ = false;  // the person switched off further questions
   bool answers_no_ = false;     // from AnswerNo() to AllowQuestions()
 };

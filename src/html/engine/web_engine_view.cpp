@@ -50,7 +50,7 @@ WebEngineView::WebEngineView(QWidget* parent) : view_(std::make_unique<QWebEngin
   for (const PageSide side : {PageSide::kDisk, PageSide::kDiskWithNet, PageSide::kNet}) {
     const bool allows_net = side != PageSide::kDisk;
     const ScopedVariable way_out(kWayOut, (allows_net ? open_gate_ : shut_gate_).Address());
-    // If the present page is of another side, an earlier page sent the request.
+    // If the present page isn't on kDisk, an earlier page sent the request, so the request isn't reported.
     profiles_[side] = MakeProfile(allows_net, [this] {
       if (page_->Side() == PageSide::kDisk) on_withheld(true);
     });
@@ -75,7 +75,7 @@ void WebEngineView::ConnectPage() {
     if (on_progress) on_progress(percent, 100);
   });
   connect(page_.get(), &QWebEnginePage::loadFinished, this, &WebEngineView::Finished);
-  // A link to another place in the page starts no load.
+  // A link to another place in the page changes the address without a load. Nothing else would report the change.
   connect(page_.get(), &QWebEnginePage::urlChanged, this, [this] {
     if (!Busy() && on_finished) on_finished();
   });
@@ -103,7 +103,7 @@ void WebEngineView::ConnectPage() {
 void WebEngineView::Command(std::function<void()> step) {
   const bool was_asking = page_->Asking();
   page_->AnswerNo();
-  // The question runs an event loop within the engine's call, which has to return first.
+  // The question's event loop runs within a call of the engine. The command waits until this call has returned.
   if (was_asking) {
     after_question_ = [this, step = std::move(step)] { Command(step); };
     return;
@@ -247,7 +247,7 @@ bool WebEngineView::Busy() const { return expecting_load_.isActive() || page_->i
 
 QString WebEngineView::LocationName() const {
   const QString title = page_->title();
-  // For a page without a title the engine uses the file's name, partly percent-encoded.
+  // For a file without a title the engine returns the file's name, partly percent-encoded.
   const QString name = page_->url().fileName(QUrl::FullyDecoded);
   return QUrl::fromPercentEncoding(title.toUtf8()) == name ? name : title;
 }

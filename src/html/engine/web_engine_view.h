@@ -1,5 +1,5 @@
-// The module's web view: Qt WebEngine, drawn without a graphics processor, so the view works on every screen and needs
-// no preparation when the program starts. Nothing about visited pages is stored on the disk.
+// The module's web view: Qt WebEngine, drawn by software. So the view needs neither a graphics processor nor a
+// preparation when the program starts. Nothing about visited pages is stored on the disk.
 #pragma once
 
 #include <QList>
@@ -36,18 +36,20 @@ class WebEngineView : public QObject, public WebView {
   [[nodiscard]] QUrl LocationAddress() const override;
 
  private:
-  // Replaces the page by an empty one.
+  // Makes an empty page, which replaces the present page if there is one.
   void MakePage(PageSide side);
   void ConnectPage();
   // Closes an open question, then runs a command of the person that loads a page.
   void Command(std::function<void()> step);
-  // Runs a step that keeps the present page and its process.
+  // Runs a step in the present page. If the page doesn't answer, ends the page's process and runs the step again.
   void RunInPage(const std::function<void()>& step);
   // Loads a place of the history in a new page. The process of the present page must have ended.
   void LoadInNewPage(qsizetype place, PageSide side);
-  // Copies the present page's history into places_.
+  // Puts the addresses that the present page has opened into places_, and sets place_ to the shown address. Drops the
+  // later places if the page has opened more than one address.
   void GatherPlaces();
-  // Asks the page for an answer. If the page doesn't answer within three seconds, ends its process and runs the step.
+  // Asks the page for an answer, unless the page has no process or runs no scripts. If the page neither answers nor
+  // asks a question within three seconds, ends the page's process and runs the step.
   void Probe(std::function<void()> step);
   void StopProbe();
   void EndProcess(std::function<void()> then);
@@ -61,11 +63,11 @@ class WebEngineView : public QObject, public WebView {
   std::map<PageSide, std::unique_ptr<QWebEngineProfile>> profiles_;
   std::unique_ptr<WebEnginePage> page_;
   std::unique_ptr<QWebEngineView> view_;
-  QList<QUrl> places_;                    // the history; GatherPlaces adds what the present page has opened
+  QList<QUrl> places_;                    // the history, complete only after GatherPlaces
   qsizetype place_ = 0;                   // the index in places_ at which the present page was loaded
   QTimer expecting_load_;                 // runs after a command until a load ends, for a second at most
-  QTimer unanswered_;                     // runs until the page answers a probe
-  qint64 probed_ = 0;                     // the process that was probed
+  QTimer unanswered_;                     // runs while a probe waits for the page's answer
+  qint64 probed_ = 0;                     // the id of the last probed process
   int probes_ = 0;                        // only the answer to the probe with this number counts
   std::function<void()> after_end_;       // the step to run when the page's process has ended
   std::function<void()> after_question_;  // the command to run when the open question is closed

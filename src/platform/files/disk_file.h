@@ -1,17 +1,8 @@
 // Reads and saves files with system calls, so that the errno of a failed call can be shown. Only regular files are
 // read and saved, since a device or a pipe could block forever. A path is the bytes that the system gave.
-//
-// The steps of a save:
-// 1. file_target follows links and finds out whether the file is new or old.
-// 2. new_file creates a file without a name in the same folder. file_attributes copies the attributes of the old file.
-// 3. The content is written and brought to the disk by fsync.
-// 4. The new file gets its name. If there is an old file, the new file replaces the old file by a rename.
-// 5. fsync of the folder brings the name to the disk. Now the save is complete.
-// If step 2 or 4 is not possible, the old file is overwritten in place: the folder may refuse a new file, an attribute
-// may be refused, or the old file may have several names. First kept_content copies the old content into "puvodni-*" of
-// the keep folder (for documents: the install folder). The copy is removed after the save.
-// A kill or a power cut leaves the old content or the new content in the file. Only a save in place can leave a mixture
-// of both; the old content is then complete in "puvodni-*", and the next start of the program reports this.
+// A save goes into a new file, which then replaces the old file by a rename. If the folder or the old file doesn't
+// allow this, the old content is copied to "puvodni-*" in the keep folder (for documents: the install folder), and the
+// old file is overwritten. "One save" in docs/ARCHITECTURE.md lists the steps.
 #pragma once
 
 #include <sys/types.h>
@@ -38,16 +29,16 @@ int ReadFileByPieces(const std::string& path, const std::function<bool(std::stri
 
 inline constexpr std::uint64_t kLongestWhole = std::uint64_t{1} << 30;
 
-// Saves `bytes` in the file by the steps above. A copy of the old content, if necessary, is made in `keep_folder`. A
-// file that did not exist gets `new_mode`, before the umask. The errors EISDIR and EINVAL are those of ReadWholeFile.
+// Saves `bytes` in the file. A copy of the old content, if necessary, is made in `keep_folder`. A file
+// that did not exist gets `new_mode`, before the umask. The errors EISDIR and EINVAL are those of ReadWholeFile.
 WriteOutcome ReplaceFile(const std::string& path, std::string_view bytes, const std::string& keep_folder,
                          mode_t new_mode = 0666);
 
 // Creates a file that only its owner can read. Returns 0 or an errno: EEXIST if the name is taken, even by a link that
-// leads nowhere. After a failed write the file is removed.
+// leads nowhere. After a failure the new file is removed.
 int CreateFile(const std::string& path, std::string_view bytes);
 
-// See Platform::RewriteFile. The target is saved by the steps above. The errors EISDIR and EINVAL, for the source or
+// See Platform::RewriteFile. The target is saved as by ReplaceFile. The errors EISDIR and EINVAL, for the source or
 // the target, are those of ReadWholeFile.
 WriteOutcome RewriteFileByPieces(const std::string& source, const std::string& target, OldTail tail,
                                  FileRewriter& rewriter, const std::string& keep_folder);

@@ -18,7 +18,8 @@ constexpr const char* kAccessList = "system.posix_acl_access";
 // Rights and signatures that belong to the old content, so they are not copied.
 constexpr std::string_view kOfTheContent[] = {"security.capability", "security.ima", "security.evm"};
 
-// Makes a call twice: for the size and for the bytes. Returns nothing on failure; errno has the reason.
+// Makes a call for the size and, unless the size is 0, a second call for the bytes. Returns nothing on failure; errno
+// has the reason.
 template <typename Call>
 std::optional<std::string> Fetch(const Call& call) {
   const ssize_t size = call(nullptr, 0);
@@ -38,7 +39,7 @@ int CopyAttribute(int file, const std::string& old_path, const char* name) {
   const auto value =
       Fetch([&](void* bytes, std::size_t size) { return lgetxattr(old_path.c_str(), name, bytes, size); });
   if (!value) return errno;
-  // A security label is usually equal already, and setting a label may be forbidden.
+  // An attribute that is equal already isn't set, since setting a security label may be forbidden.
   if (Attribute(file, name) == value) return 0;
   return fsetxattr(file, name, value->data(), value->size(), 0) == 0 ? 0 : errno;
 }
@@ -54,7 +55,8 @@ int CopyAttributes(int file, const std::string& old_path) {
     access_list = access_list || std::strcmp(name, kAccessList) == 0;
     if (const int error = CopyAttribute(file, old_path, name)) return error;
   }
-  // The access list that the folder gave to the new file could admit other users than the old file did.
+  // The folder may have given the new file an access list. If the old file had none, this list is removed, since it
+  // could admit other users than the old file did.
   if (access_list || fremovexattr(file, kAccessList) == 0 || errno == ENODATA || errno == ENOTSUP) return 0;
   return errno;
 }

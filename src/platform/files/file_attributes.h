@@ -10,8 +10,9 @@ namespace pelmar {
 // The permissions that a saved file keeps. Set-id bits are dropped: they were granted to the old content.
 inline constexpr mode_t kKeptMode = 01777;
 
-// Copies all attributes of the old file to a new open file. Returns 0, or the errno of the first attribute that can't
-// be copied. In this case the new file must not replace the old file.
+// Copies the attributes of the old file to the new open `file`, without the rights and signatures of the old content.
+// Returns 0, or the errno of the first attribute that can't be copied. After an error the new file must not replace the
+// old file.
 int GiveAttributes(int file, const std::string& old_path, const struct stat& old);
 
 }  // namespace pelmar

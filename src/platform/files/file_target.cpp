@@ -26,7 +26,7 @@ int FollowLinks(std::string& path) {
   return ELOOP;
 }
 
-// Whether the folder caused the error, not the disk or the content.
+// Whether the error means that the folder refuses a new file or a rename.
 bool FolderRefuses(int error) { return error == EACCES || error == EPERM || error == EROFS || error == EBUSY; }
 
 int Fill(int to, const Target& target, const NewContent& content) {
@@ -39,8 +39,8 @@ int Fill(int to, const Target& target, const NewContent& content) {
   return Sync(to);
 }
 
-// Reserves space for the new content, so that a full disk is noticed before the first byte changes. Returns 0 if the
-// file system can't reserve space.
+// Reserves space for the new content, so that a full disk is noticed before the first byte changes. Returns 0 also
+// if the size is unknown (0) or the file system can't reserve space.
 int Reserve(int file, std::uint64_t size) {
   if (size == 0 || fallocate(file, FALLOC_FL_KEEP_SIZE, 0, static_cast<off_t>(size)) == 0) return 0;
   return errno == ENOSPC || errno == EDQUOT || errno == EFBIG ? errno : 0;
@@ -74,7 +74,7 @@ Target FindTarget(const std::string& path) {
 
 Beside WriteBeside(const Target& target, const NewContent& content, mode_t new_mode) {
   const bool old = target.exists;
-  // All names of the file must lead to the new content.
+  // All names of the file must lead to the new content, but a rename would change only one name.
   if (old && target.old.st_nlink > 1) return {.error = EMLINK, .try_in_place = true};
   NewFile file(target.path, old ? 0600 : new_mode);
   if (file.Error() != 0) return {.error = file.Error(), .try_in_place = old && FolderRefuses(file.Error())};

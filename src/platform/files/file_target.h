@@ -14,7 +14,7 @@ namespace pelmar {
 
 struct Target {
   int error = 0;     // 0, or an errno if the target can't be written
-  std::string path;  // without links
+  std::string path;  // the path that the links lead to
   bool exists = false;
   struct stat old {};
 };
@@ -24,7 +24,7 @@ Target FindTarget(const std::string& path);
 
 struct NewContent {
   // Writes the content into `to` from the start and cuts the rest of `to`. If `reads_old` is set and there is an old
-  // file, `old` is open at its start, otherwise `old` is -1. Returns 0 or an errno. Called once.
+  // file, `old` is the old content, open at the start. Otherwise `old` is -1. Returns 0 or an errno. Call only once.
   std::function<int(int to, int old)> fill;
   bool reads_old = false;
   std::uint64_t size = 0;  // in bytes, 0 if unknown
@@ -33,14 +33,14 @@ struct NewContent {
 struct Beside {
   int error = 0;
   bool try_in_place = false;          // WriteInPlace may still succeed
-  Descriptor content = Descriptor();  // the new file, if its content is complete but its rename failed
+  Descriptor content = Descriptor();  // the new file, if its content is complete but the folder refused the rename
 };
 
 // Saves into a new file that takes the target's name. A new target gets `new_mode`, before the umask.
 Beside WriteBeside(const Target& target, const NewContent& content, mode_t new_mode);
 
-// Overwrites an old target. First copies the old content to a file in `keep_folder` (with its separator) that only the
-// owner can read. If the write fails, restores the old content. If the restore fails too, the outcome names the copy.
+// Overwrites an old target. First copies the old content to a private file in `keep_folder`, which ends in a separator.
+// If the write fails, restores the old content. If the restore fails too, the outcome names the copy.
 WriteOutcome WriteInPlace(const Target& target, const NewContent& content, const std::string& keep_folder);
 
 }  // namespace pelmar

@@ -14,7 +14,7 @@ namespace {
 constexpr char kStart[] = "puvodni-";
 constexpr mode_t kWritable = 0222;
 
-// A name is "puvodni-" and six characters. "-" and the name of the saved file may follow.
+// The name of a copy is "puvodni-" and six characters. "-" and the name of the saved file may follow.
 bool IsNameOfKept(const std::string& name) {
   constexpr std::size_t kSize = sizeof kStart - 1 + 6;
   return name.starts_with(kStart) && (name.size() == kSize || (name.size() > kSize && name[kSize] == '-'));

@@ -23,8 +23,8 @@ std::string DrawLetters() {
   return letters;
 }
 
-// Calls `take` with random names while it returns EEXIST, at most kMostTries times. Returns 0 or an errno: that of the
-// last `take`, or that of a failed draw.
+// Calls `take` with random names until `take` returns another result than EEXIST, at most kMostTries times. Returns the
+// last result of `take`, or the errno of a failed draw.
 template <typename Take>
 int TryNames(const std::string& start, const std::string& end, const Take& take) {
   for (int tries = 0; tries < kMostTries; ++tries) {
@@ -52,7 +52,7 @@ int CloseDuplicate(int file) {
 
 NewFile::NewFile(const std::string& beside, mode_t mode) : folder_(FolderOf(beside)) {
   const char* const folder = folder_.empty() ? "." : folder_.c_str();
-  // A file without a name gets its name through /proc later.
+  // A file without a name needs /proc, since Link gives the name through /proc.
   if (access("/proc/self/fd", X_OK) == 0) file_ = Descriptor(open(folder, O_TMPFILE | O_RDWR | O_CLOEXEC, mode));
   if (!file_.IsOpen()) error_ = CreateNamed(mode);
 }
@@ -77,7 +77,7 @@ int NewFile::TakeNewName(const std::string& path) {
   if (name_.empty()) return Link(file_.Number(), path);
   const bool renamed = renameat2(AT_FDCWD, name_.c_str(), AT_FDCWD, path.c_str(), RENAME_NOREPLACE) == 0;
   if (!renamed && errno != EINVAL && errno != ENOSYS) return errno;
-  // If the rename failed, the file system has no rename that replaces nothing. A hard link replaces nothing either.
+  // If the rename failed, the system doesn't support RENAME_NOREPLACE here. A hard link doesn't replace a file either.
   if (!renamed && link(name_.c_str(), path.c_str()) != 0) return errno == EEXIST ? EEXIST : TakeNameOf(path);
   if (!renamed) unlink(name_.c_str());
   name_.clear();

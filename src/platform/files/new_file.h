@@ -1,7 +1,7 @@
-// A new file that gets its name when its content is complete. Until then, if the file system allows, the file has no
-// name, so that nothing remains if the program is killed. Otherwise, and briefly during a replacement, the file has a
-// temporary name: ".pelmar-" and six random characters. If the program is killed then, the file remains. No later start
-// removes the file, since a file of such a name could belong to the person.
+// A new file that gets its name when its content is complete. Until then the file has no name if the file system and
+// /proc allow this, so that nothing remains if the program is killed. Otherwise, and briefly during a replacement, the
+// file has a temporary name: ".pelmar-" and six random characters. If the program is killed then, the file remains. No
+// later start removes the file, since a file of such a name could belong to the person.
 #pragma once
 
 #include <sys/types.h>
@@ -25,10 +25,10 @@ class NewFile {
 
   // These functions return 0 or an errno. The name is on the disk only after SyncFolderOf.
 
-  // Gives the file an unused name. EEXIST if the name is taken. A few file systems can't check this and rename at once;
-  // they replace a file with this name.
+  // Gives the file this name. EEXIST if the name is taken. But a file system with neither RENAME_NOREPLACE nor
+  // hard links replaces a file that already has the name.
   int TakeNewName(const std::string& path);
-  // Gives the file the name `start`, six random characters and `end`. `taken` becomes the whole name.
+  // Gives the file an unused name: `start`, six random characters and `end`. `taken` becomes this name on success.
   int TakeFreeName(const std::string& start, const std::string& end, std::string& taken);
   // Gives the file this name. A file that already has the name is replaced.
   int TakeNameOf(const std::string& path);

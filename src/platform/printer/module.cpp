@@ -12,7 +12,7 @@ namespace {
 // The print server (CUPS) may refuse a job, and Qt doesn't report the refusal. The client library of the server
 // remembers the status of the last request of this thread.
 bool ServerHasRefused() {
-  constexpr int kFirstFailure = 0x0100;  // the lowest error status of the Internet Printing Protocol
+  constexpr int kFirstFailure = 0x0100;  // in the Internet Printing Protocol, a lower status means success
   const auto last_answer = reinterpret_cast<int (*)()>(QLibrary::resolve(QStringLiteral("cups"), 2, "cupsLastError"));
   return last_answer != nullptr && last_answer() >= kFirstFailure;
 }

@@ -1,5 +1,5 @@
-// The text of the clipboard. The program reads the clipboard twice a second, and another program may be slow to answer.
-// So the text is fetched only once after each change.
+// The text of the clipboard. The active main window reads the clipboard twice a second, and another program may be slow
+// to answer. So the text is fetched at most once after each change.
 #pragma once
 
 #include <QObject>

@@ -14,14 +14,15 @@ inline constexpr char kBytesMimeType[] = "application/x-pelmar-windows-1250";
 
 bool HasText(const QMimeData& mime);
 
-// The caller owns the result. The plain text is made only if another program asks for the text.
+// The caller owns the result. The plain text is made only when a program asks for plain text.
 QMimeData* MimeFromText(std::string_view bytes);
 
 // The exact bytes if offered, otherwise the plain text converted by TextInCodePage. Nothing if `mime` is null or has no
 // text.
 std::optional<std::string> TextFromMime(const QMimeData* mime);
 
-// The text for a single-line field, in Unicode. Removes line breaks, or converts them to CR LF if `holds_lines`.
+// The text for a single-line field, in Unicode. Removes each CR and LF. If `holds_lines`, keeps them, and a
+// lone LF of plain text becomes CR LF.
 QString LineFromMime(const QMimeData& mime, bool holds_lines);
 
 // Converts a text to Windows-1250. First composes letters and their combining accents (NFC). A lone LF becomes CR LF.

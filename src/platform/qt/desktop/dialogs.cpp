@@ -62,8 +62,8 @@ class PasteFilter : public QObject {
   }
 };
 
-// A modal dialog, a child of DialogParent. If the parent is deleted, the dialog is deleted too, even while the dialog
-// waits.
+// A modal dialog whose parent is DialogParent(). If the parent is deleted, the dialog is deleted too, even while the
+// dialog is open.
 template <typename Dialog>
 class ModalDialog {
  public:
@@ -113,7 +113,8 @@ class IconsByName : public QFileIconProvider {
   QMimeDatabase types_;
 };
 
-// A base class, so that `icons` outlives QFileDialog, whose thread uses the icons until the end.
+// This is a base class, so that `icons` is destroyed after QFileDialog. A thread of QFileDialog uses the icons until
+// QFileDialog is destroyed.
 struct WithIconsByName {
   IconsByName icons;
 };
@@ -217,7 +218,8 @@ std::optional<QString> AskForFile(FileDialogKind kind, const QString& filter, in
   dialog->setNameFilters(filters);
   if (filter_index >= 1 && filter_index <= filters.size()) dialog->selectNameFilter(filters[filter_index - 1]);
   if (!dialog.RunAccepted() || dialog->selectedUrls().isEmpty()) return std::nullopt;
-  // Use the URL: selectedFiles() would lose bytes that are not UTF-8, which a dialog of the desktop may return.
+  // Use the URL: a dialog of the desktop may return a path that is not UTF-8. selectedFiles() would lose bytes of the
+  // path.
   const QString path = PathToQString(PathOfUrl(dialog->selectedUrls().constFirst()));
   folder = QFileInfo(path).path();
   return path;

@@ -1,5 +1,5 @@
 // The boxes for messages, for one line of text and for a file name. They are Qt's dialogs, with the look of the
-// desktop. Each function returns when the person has answered or the parent window is deleted.
+// desktop. A dialog ends when the person has answered or the parent window is deleted.
 #pragma once
 
 #include <QString>
@@ -19,12 +19,12 @@ std::optional<QString> AskForText(const QString& prompt, const QString& title, c
 
 enum class FileDialogKind { kOpen, kSave };
 
-// Returns the path of the file, or nothing on cancel. The dialog starts in `folder`; "" means the current folder. Sets
-// `folder` to the folder of the file. A save dialog returns the name as typed and does not ask before overwriting.
-// Filter and index are those of Platform::OpenDialog.
+// Returns the path of the file and sets `folder` to the folder of the file. Returns nothing on cancel. The dialog
+// starts in `folder`, or in the current folder if `folder` is "". A save dialog adds no extension and does not ask
+// before overwriting. `filter` and `filter_index` are those of Platform::OpenDialog.
 std::optional<QString> AskForFile(FileDialogKind kind, const QString& filter, int filter_index, QString& folder);
 
-// Converts "caption|*.a;*.b|caption|*.*" to a filter list for Qt. A caption without a pattern at the end is dropped.
+// Converts "caption|*.a;*.b|caption|*.*" to a filter list for Qt. A last caption without a pattern is dropped.
 QStringList NameFilters(const QString& filter);
 
 }  // namespace pelmar

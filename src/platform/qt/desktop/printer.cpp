@@ -32,7 +32,7 @@ class QtPaper : public Paper {
   QtPaper(QPagedPaintDevice& device, QPainter& painter, const QFont& font)
       : device_(device), painter_(painter), glyphs_(font) {}
 
-  // The width without the margins. The painter's origin is inside the margins too.
+  // The width of the area inside the margins. The painter's origin is the top left corner of this area.
   [[nodiscard]] double Width() const override { return device_.width(); }
   [[nodiscard]] std::size_t LinesPerPage() const override {
     return std::max<std::size_t>(1, static_cast<std::size_t>(device_.height() / glyphs_.RowHeight()));
@@ -60,7 +60,7 @@ bool PrintOn(QPagedPaintDevice& device, const PrintFont& font, const std::functi
   return painter.end();
 }
 
-// Loads the module on the first call. Returns null on failure and sets `problem` to the reason.
+// Loads the module unless an earlier call has loaded it. Returns null on failure and sets `problem` to the reason.
 SystemPrinter* LoadPrinters(QString& problem) {
   static SystemPrinter* printer = nullptr;
   if (printer != nullptr) return printer;

@@ -18,7 +18,7 @@ class RecentDocuments {
 
   // `path` is absolute.
   void Add(const QString& path);
-  // Waits until all added files are in the list.
+  // Waits until the thread has no more files to add.
   void Wait();
 
  private:
@@ -26,7 +26,7 @@ class RecentDocuments {
   QThreadPool pool_;
 };
 
-// Adds the file `path` (absolute) to a list, or updates its entry: this program has opened the file now. `xbel` is the
+// Records in a list of recent documents that this program has just opened the file `path` (absolute). `xbel` is the
 // content of the list, and the result is the new content. An empty `xbel` gives a new list, a damaged `xbel` gives "".
 std::string AddBookmark(const std::string& xbel, const std::string& path, const std::string& mime);
 

@@ -19,7 +19,7 @@ class SystemPrinter {
   [[nodiscard]] virtual QString FindPrinter(QString& problem) = 0;
   // Starts the job `name` on the printer `printer`. The job is sent when the painting ends.
   [[nodiscard]] virtual std::unique_ptr<QPagedPaintDevice> BeginJob(const QString& printer, const QString& name) = 0;
-  // Whether a job of BeginJob has failed. Call after the painting has ended.
+  // Whether a job of BeginJob has failed. Call right after the painting has ended.
   [[nodiscard]] virtual bool HasFailed(const QPagedPaintDevice& job) = 0;
 };
 

@@ -38,7 +38,7 @@ void DriveList::Fill() {
   const QString chosen = Drive();
   clear();
   addItems(MountedPlaces(QDir::homePath()));
-  SetDrive(chosen);  // If the disk was removed, selects the place that contained it.
+  SetDrive(chosen);  // If the selected disk was removed, selects the place that contained the disk.
 }
 
 }  // namespace pelmar

@@ -1,4 +1,4 @@
-// A drop-down list of places: the home folder, "/" and the mounted disks. Each opening reads the places again.
+// A drop-down list of places: the home folder, "/" and the disks of MountedPlaces. Each opening reads the places again.
 #pragma once
 
 #include <QComboBox>
@@ -13,7 +13,7 @@ class DriveList : public QComboBox {
   explicit DriveList(QWidget* parent = nullptr);
 
   [[nodiscard]] QString Drive() const { return currentText(); }
-  // Selects the place that contains the path, without a signal. An empty or relative path changes nothing.
+  // Selects the deepest place that contains the path, without a signal. An empty or relative path changes nothing.
   void SetDrive(const QString& path);
 
   void showPopup() override;

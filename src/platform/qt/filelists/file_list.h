@@ -1,7 +1,7 @@
 // The file list of the file browser dialogs: the files of a folder whose names match a mask. Each time the list is
-// shown, the folder is read again; selection and scrolling stay. The selected name stays even if its file is removed.
-// Paths and names come from PathToQString; the rows show them with ShownPath. Only actions of the person emit
-// FileClicked and FileActivated.
+// shown, the folder is read again. The selection and the scroll position stay. The selected name stays even if its file
+// is removed. Paths and names come from PathToQString; the rows show them with ShownPath. Only actions of the person
+// emit FileClicked and FileActivated.
 #pragma once
 
 #include <QListView>
@@ -22,7 +22,8 @@ class FileList : public QListView {
 
   // The absolute path, without "/" at the end unless the path is "/".
   [[nodiscard]] const QString& Path() const { return path_; }
-  // A path that isn't a readable folder changes nothing. A new path clears the selection; the same path is read again.
+  // A path that isn't a readable folder changes nothing. A new path clears the selection. The present
+  // path is read again if the list has read the path before.
   void SetPath(const QString& path);
 
   [[nodiscard]] const QString& Pattern() const { return pattern_; }
@@ -58,7 +59,7 @@ class FileList : public QListView {
   QString path_, pattern_;
   bool read_ = false;  // false until the list is first shown or a name is set, so that earlier settings cost nothing
   bool by_program_ = false;
-  bool click_emitted_ = false;  // the current mouse press has changed the selection, which has emitted FileClicked
+  bool click_emitted_ = false;  // the release of the mouse must not emit FileClicked
 };
 
 }  // namespace pelmar
