@@ -17,7 +17,7 @@ enum class KeyTurn {
   kTabs,    // Alt with a physical number key selects a tab
   kMenu,    // shortcuts of menu items that the status timer has not enabled yet
   kField,   // keys of one control or dialog, for instance Enter in a field or arrows in a list
-  kWindow,  // keys for a whole window: calculator, converter, character table, on-screen keyboard, welcome
+  kWindow,  // windows that read all keys: calculator, converter, character table, on-screen keyboard, welcome
   kDialog,  // Enter in a check box or an option button, which some desktops would tick
 };
 
