@@ -1,4 +1,5 @@
-// The application object. It routes keys and handles errors that no command caught.
+// The application object. It asks KeyRouter before a widget gets a key. It reports errors (RuntimeError, lack of
+// memory) that no event handler caught.
 #pragma once
 
 #include <QApplication>
@@ -18,7 +19,8 @@ class Application : public QApplication {
   std::function<void(const RuntimeError&)> on_runtime_error;
 };
 
-// Ends the program with this status after the current event. May be called before the event loop starts.
+// Ends the program with this status, after the events that are already in the queue. May be called before the event
+// loop starts.
 void EndProgram(int status);
 
 }  // namespace pelmar

@@ -5,7 +5,7 @@
 namespace pelmar {
 namespace {
 
-// This value plus a byte that is not UTF-8 gives a surrogate, which no UTF-8 text contains.
+// This value plus a byte that is not UTF-8 gives a low surrogate. Decoded UTF-8 never contains a lone surrogate.
 constexpr char16_t kEscape = 0xDC00;
 
 bool IsEscape(const QString& path, qsizetype at) {

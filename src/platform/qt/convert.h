@@ -16,26 +16,27 @@ namespace pelmar {
 QString TextToQString(std::string_view text);
 std::string TextFromQString(const QString& string);
 
-// For display. Reads bytes that are not UTF-8 as Windows-1250: a message may contain a path with such bytes.
+// Converts UTF-8. Reads a byte that is not UTF-8 as Windows-1250: a message may contain a path with such bytes.
 QString Utf8ToQString(std::string_view utf8);
 inline std::string Utf8FromQString(const QString& string) { return string.toStdString(); }
 
-// Converts a path without loss. Each byte that is not UTF-8 becomes a lone surrogate U+DC80 to U+DCFF. Qt's lists and
-// properties keep such a string, but Qt's file functions can't use such a string. ShownPath is for display.
+// Convert a path and back without loss. Each byte that is not UTF-8 becomes a lone surrogate U+DC80 to U+DCFF. Qt's
+// lists and properties keep these surrogates, but Qt's file functions would change them.
 QString PathToQString(std::string_view path);
 std::string PathFromQString(const QString& path);
+// For display: reads the bytes that are not UTF-8 as Windows-1250.
 QString ShownPath(const QString& path);
 
-// Converts a path to a file URL and back without loss.
+// Convert an absolute path to a file URL and back without loss.
 QUrl UrlOfPath(std::string_view path);
 std::string PathOfUrl(const QUrl& url);
 
-// The title for a window. Doubles "[*]", which is a placeholder for Qt.
+// The text for setWindowTitle. Doubles "[*]": Qt takes a single "[*]" as a placeholder and shows a double one as "[*]".
 inline QString PlainTitle(std::string_view utf8) {
   return Utf8ToQString(utf8).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
 }
 
-// Cuts a text for a message after `most` characters and appends dots. Returns a shorter text unchanged.
+// Shortens a text for a message. If the text is longer than `most` UTF-16 units, dots replace the rest.
 inline QString Shortened(const QString& text, int most) {
   return text.size() <= most ? text : text.left(most) + QLatin1String(" ...");
 }

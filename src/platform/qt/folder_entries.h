@@ -1,6 +1,7 @@
-// The entries of a folder for the lists of drives, folders and files, in Czech order. Paths and names come from
-// PathToQString. Masks and the order use the displayed names. A folder with tens of thousands of files must open at
-// once. So only the name and the kind (file or folder) of each entry are read; the folder itself stores both.
+// The folders, files and disks that a person can choose from, in Czech order. Paths and names have the form of
+// PathToQString, except those of MountedPlaces. Masks and the order use the result of ShownPath. A folder with tens of
+// thousands of files must open at once. So only the name and the kind (file or folder) of each entry are needed. Most
+// file systems store both in the folder itself.
 #pragma once
 
 #include <QRegularExpression>
@@ -9,24 +10,26 @@
 
 namespace pelmar {
 
-// The pattern for the names that match a mask. `mask` may hold several masks, separated by ";". A mask may contain "*"
-// and "?", and ignores case. "*.*" and an empty mask match every name.
+// The pattern for the names that match `mask`, ignoring case. "*" stands for any characters, "?" for one character.
+// Parts of `mask` are separated by ";", and a name must match one part. "*.*" and a `mask` without parts match every
+// name.
 QRegularExpression MaskPattern(const QString& mask);
 
-// Whether the folder can be listed and entered.
+// Whether the path is a folder that can be listed and entered.
 bool IsReadableFolder(const QString& path);
 
-// The current folder of the process.
+// The current folder of the process, or "" if the folder no longer exists.
 QString CurrentFolder();
-// The absolute path of a folder, without ".", ".." or a separator at its end.
+// The absolute path, with "." and ".." resolved. There is no separator at the end, except in "/".
 QString CleanFolder(const QString& path);
 
 // The sorted names, or an empty list if the folder can't be read. A link counts as its target. Names that begin with
-// "." are hidden: they are listed only inside a hidden folder, and by FilesOf if a mask begins with ".".
+// "." are hidden. They are listed if `path` leads through a hidden folder. FilesOf also lists them if a part of `mask`
+// begins with ".".
 QStringList SubfoldersOf(const QString& path);
 QStringList FilesOf(const QString& path, const QString& mask);
 
-// The places where a person looks for files: the home folder, "/" and the disks mounted in /media, /run/media and /mnt.
+// The places where a person looks for files: `home`, "/" and the disks mounted in or at /media, /run/media and /mnt.
 // `mounts` is the path of the system's table of mounts. The disks are not accessed: a network disk whose server is dead
 // would block the program.
 QStringList MountedPlaces(const QString& home, const QString& mounts = QStringLiteral("/proc/self/mounts"));

@@ -15,7 +15,7 @@ constexpr std::size_t kTabColumns = 8;
 constexpr qreal kSignScale = 0.65;
 constexpr qreal kSmallestSign = 8;  // pixels
 constexpr qreal kSignPadding = 2;
-constexpr qreal kSignGap = 1;  // between neighbouring signs
+constexpr qreal kSignGap = 1;  // after each sign
 
 constexpr std::array<const char*, 32> kControlNames = {
     "NUL", "SOH", "STX", "ETX", "EOT", "ENQ", "ACK", "BEL", "BS",  "HT", "LF",  "VT",  "FF", "CR", "SO", "SI",
@@ -111,7 +111,7 @@ void GlyphTable::FillSigns(const QFont& font) {
   }
 }
 
-// The width in whole pixels, with the gap after the sign.
+// The width in pixels, rounded up, with the gap after the sign.
 qreal GlyphTable::SignWidth(unsigned char code) const {
   qreal width = 2 * kSignPadding + kSignGap;
   const QList<quint32> glyphs = sign_face_.glyphIndexesForString(SignName(code));

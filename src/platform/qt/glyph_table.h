@@ -1,6 +1,6 @@
-// The glyph and the advance of each of the 256 Windows-1250 codes in a font. Letters are not shaped, so they are
-// painted at the computed positions. Missing glyphs come from the system's fallback fonts. A control character other
-// than TAB is shown as a sign: its short name on a tinted field.
+// The glyph and the advance of each of the 256 Windows-1250 codes in a font. Each glyph is painted at the sum of the
+// advances before it, without kerning and ligatures. Missing glyphs come from the system's fallback fonts. A control
+// character other than TAB is shown as a sign: its SignName on a tinted field.
 #pragma once
 
 #include <QColor>
@@ -31,7 +31,7 @@ class GlyphTable {
   // count from the beginning of the row. `origin` is the upper left corner of the row.
   void Draw(QPainter& painter, QPointF origin, std::int64_t x, std::string_view text, const QColor& colour) const;
 
-  // Measure and draw a single character outside a row. Here a TAB is shown as a sign too. The width is in pixels; `at`
+  // Measure and draw a single character outside a row. Here a TAB is shown as a sign too. The width is in pixels. `at`
   // is the upper left corner.
   [[nodiscard]] qreal WidthAlone(char ch) const;
   void DrawAlone(QPainter& painter, QPointF at, char ch, const QColor& colour) const;
@@ -67,10 +67,10 @@ class GlyphTable {
 
 // Whether rows show the code as a sign. False for TAB.
 bool IsControlSign(unsigned char code);
-// The name of a control character, TAB included: "CR", "DEL", or the code in hexadecimal.
+// The name of a control character: "CR", "DEL", "HT" for TAB. The code in hexadecimal if there is no name.
 QString SignName(unsigned char code);
-// The text for a label or a list. Control characters, TAB included, are replaced by their names; otherwise they would
-// break lines or be invisible.
+// The text for a label or a list. SignName replaces each control character, TAB included. Otherwise the control
+// characters would break lines or be invisible.
 QString ReadableText(std::string_view text);
 
 }  // namespace pelmar

@@ -8,14 +8,15 @@ namespace pelmar {
 
 struct ChosenFolder {
   std::string path;  // with "/" at the end
-  // Set if `path` is the third choice of FindInstallFolder: the path of the second choice, and why creating it failed.
+  // Set only if `path` is the third choice of FindInstallFolder: the path of the second choice, and the errno of the
+  // attempt to create the second choice.
   std::string refused = {};
   int error = 0;
 };
 
-// First choice: the program's folder, if this folder contains `pelmar.ini` or an empty file `portable`. Second choice:
-// the folder `pelmar-vex` in the user's data, which is created if missing and which only the user can enter. Third
-// choice, if the creation fails: a folder that the system removes when the user logs out.
+// First choice: `program_folder`, if it contains a file `pelmar.ini` or an empty file `portable`. Second choice:
+// `pelmar-vex` in `data_home`, created for this user alone if missing. Third choice, if the second can't be created:
+// `pelmar-vex` in a folder that usually lasts until log-out. If the third can't be created either: the second choice.
 ChosenFolder FindInstallFolder(const QString& program_folder, const QString& data_home);
 
 // The message about the third choice, in UTF-8. "" for the first and second choice.

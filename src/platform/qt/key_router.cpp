@@ -11,7 +11,7 @@ bool IsBareInsert(const QKeyEvent& event) {
   return event.key() == Qt::Key_Insert && (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
 }
 
-// Whether Enter or Delete edits text in the widget: Enter breaks a line, Delete erases a character.
+// Whether the key (Enter or Delete) edits text in the widget: Enter can break a line, Delete can erase.
 bool EditsTextWith(int key, const QWidget& receiver) {
   if (receiver.inputMethodQuery(Qt::ImReadOnly).toBool()) return false;
   if (key == Qt::Key_Delete) return receiver.inputMethodQuery(Qt::ImCursorPosition).isValid();
@@ -31,14 +31,14 @@ void KeyRouter::Add(KeyTurn turn, QWidget& scope, KeyTaker taker) {
 }
 
 bool KeyRouter::Takes(QWidget& receiver, QKeyEvent& event) {
-  // A key that the program itself sends is never held.
+  // A key event that the program itself sends is never a repeat.
   if (event.spontaneous() && DropsRepeat(receiver, event)) {
     event.accept();  // otherwise Qt would look for a shortcut of this key
     return true;
   }
   if (event.type() != QEvent::KeyPress) return false;
   if (IsBareInsert(event) && !IsRepeat(event)) insert_on_ = !insert_on_;
-  // Copies the entries, since a taker may open a window, which adds entries.
+  // Copies the entries, since a taker may open a window and so add entries.
   std::vector<Entry> asked;
   std::ranges::copy_if(entries_, std::back_inserter(asked), [&receiver](const Entry& entry) {
     return entry.scope == &receiver || (entry.scope && entry.scope->isAncestorOf(&receiver));
@@ -47,14 +47,16 @@ bool KeyRouter::Takes(QWidget& receiver, QKeyEvent& event) {
 }
 
 // The display server repeats a held key as a release and a press with equal time stamps. Qt marks a press as a repeat
-// only if the press has arrived when Qt reads the release. On a busy machine Qt misses many repeats.
+// only if the press has arrived when Qt reads the release, so on a busy machine Qt misses many repeats. Therefore a
+// press with the time stamp of the last release counts as a repeat too.
 bool KeyRouter::IsRepeat(const QKeyEvent& press) const {
   const bool just_released = press.key() == released_key_ && press.timestamp() == released_at_;
   return press.isAutoRepeat() || (just_released && released_at_ != 0);
 }
 
-// True for a repeat of Enter or Delete in two cases. The first press went to another widget, so it may have opened or
-// closed a window. Or the key edits no text, so a repeat could run an action twice, for instance press a button.
+// True for a repeat of Enter or Delete in two cases. The first press went to another widget, so the first press may
+// have opened or closed a window. Or the key edits no text, so a repeat could run an action twice, for instance press a
+// button.
 bool KeyRouter::DropsRepeat(const QWidget& receiver, const QKeyEvent& event) {
   const int key = event.key();
   if (event.type() == QEvent::KeyRelease) {

@@ -10,15 +10,15 @@ class QKeyEvent;
 
 namespace pelmar {
 
-// The order in which the router asks its functions (KeyTaker), until one takes the key. Before the router asks them, Qt
-// has looked for a shortcut, and DropsRepeat has dropped repeats. If no function takes the key, the focused widget gets
-// the key. If this widget ignores the key, its parents get the key: so an Enter in a field reaches the dialog.
+// The order in which the router asks its functions (KeyTaker), until one takes the key. A key that runs a shortcut or
+// that DropsRepeat drops never gets so far. If no function takes the key, the focused widget gets the key. If this
+// widget ignores the key, its parents get the key: so an Enter in a field reaches the dialog.
 enum class KeyTurn {
   kTabs,    // Alt with a physical number key selects a tab
   kMenu,    // shortcuts of menu items that the status timer has not enabled yet
   kField,   // keys of one control or dialog, for instance Enter in a field or arrows in a list
-  kWindow,  // windows that check each key first: calculator, converter, character table, on-screen keyboard, welcome
-  kDialog,  // Enter in a check box or an option button; some desktops would tick the box
+  kWindow,  // windows that read all keys: calculator, converter, character table, on-screen keyboard, welcome
+  kDialog,  // Enter in a check box or an option button, which some desktops would tick
 };
 
 // Returns true if the taker handles the key, so that nobody else gets the key.
@@ -35,7 +35,8 @@ class KeyRouter {
   // Call with each key event before its widget gets the event. True if the widget must not get the event.
   bool Takes(QWidget& receiver, QKeyEvent& event);
 
-  // The router keeps the state of the Insert key, since the system has none. Pressing Insert alone toggles the state.
+  // The router keeps the state of the Insert key, since the system has none. The state is off at first. Each press of
+  // Insert without a modifier key toggles the state.
   [[nodiscard]] bool InsertIsOn() const { return insert_on_; }
 
  private:
@@ -50,7 +51,7 @@ class KeyRouter {
 
   std::vector<Entry> entries_;  // sorted by turn
   int released_key_ = 0;
-  quint64 released_at_ = 0;             // ms, the time stamp of the event
+  quint64 released_at_ = 0;             // ms, the time stamp of the release
   QPointer<const QWidget> pressed_in_;  // the widget of the last press of Enter or Delete that was not a repeat
   bool insert_on_ = false;
 };

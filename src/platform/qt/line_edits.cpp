@@ -12,7 +12,7 @@
 namespace pelmar {
 namespace {
 
-// Marks a dropped text whose line breaks are already converted.
+// Marks a dropped text whose line breaks are already converted or removed.
 class LineMime : public QMimeData {};
 
 void Paste(QLineEdit& field, QClipboard::Mode mode) {

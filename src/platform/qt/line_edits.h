@@ -1,5 +1,5 @@
-// Mends two faults of Qt's single-line fields: they silently cut a text at 32,767 characters, and they keep a lone LF
-// of a text from another program.
+// Mends two faults of Qt's single-line fields. They silently cut a text at 32,767 characters. They keep the line breaks
+// of a pasted or dropped text as they are, even a lone LF from another program.
 #pragma once
 
 #include <QLineEdit>
@@ -9,10 +9,11 @@ namespace pelmar {
 
 inline void TakeAnyLength(QLineEdit& field) { field.setMaxLength(std::numeric_limits<int>::max()); }
 
-// A field with this dynamic property keeps the line breaks of a pasted or dropped text. Other fields remove them.
+// If this dynamic property is true, the field keeps the line breaks of a pasted or dropped text. A lone LF becomes CR
+// LF. Other fields remove the line breaks.
 inline constexpr char kHoldsLines[] = "holdsLines";
 
-// Call with each event of a field. Pastes and drops texts in place of Qt, and shows a menu whose "Paste" does the same.
+// Call with each event of a field. Handles pasting, dropping and the context menu in place of Qt.
 // Returns true if Qt must not get the event.
 bool TakePasted(QLineEdit& field, QEvent& event);
 

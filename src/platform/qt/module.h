@@ -16,7 +16,7 @@ struct LoadedModule {
   QString error;              // why loading failed, in Czech; "" if the module was loaded or not found
 };
 
-// Loads the file from the first folder that contains it.
+// Loads the module from the first folder that contains the file.
 LoadedModule LoadModule(const QStringList& folders, const QString& file_name);
 
 }  // namespace pelmar

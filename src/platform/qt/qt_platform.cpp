@@ -131,7 +131,8 @@ void QtPlatform::ReportRefusedFolder() {
   if (!notice.empty()) Message(MessageType::kOkInfo, notice, "Pelmar VEX");
 }
 
-// QDir::tempPath would return "" for a missing folder, and files would be written to the root of the disk.
+// Reads TMPDIR itself. QDir::tempPath returns "" if this folder is missing. Then this function would return "/", the
+// root of the disk.
 std::string QtPlatform::TempFolder() {
   const QString set = QFile::decodeName(qgetenv("TMPDIR"));
   const QString folder = set.isEmpty() ? QStringLiteral("/tmp") : QDir::cleanPath(QFileInfo(set).absoluteFilePath());

@@ -59,10 +59,10 @@ class QtPlatform : public Platform {
   std::vector<std::size_t> SortedOrder(const std::vector<std::string_view>& texts) override;
   void SetBusyPointer(bool busy, BusyLook look) override;
 
-  // If the usual install folder couldn't be created, shows a message with its path and the path of the folder in use.
+  // Shows the text of InstallFolderNotice, unless this text is empty.
   void ReportRefusedFolder();
 
-  // Waits for background work. Call before an exit that skips destructors.
+  // Waits for the writing of the list of recent documents. Call before an exit that skips destructors.
   void FinishBackgroundWork();
 
  private:

@@ -11,7 +11,7 @@ struct LockKeys {
 // Whether Caps Lock and Num Lock are on. By default both are off.
 LockKeys ReadLockKeys();
 
-// Whether the clipboard has an owner, by default true. Asking Qt would load plug-ins.
+// Whether the clipboard has an owner, by default true. Doesn't ask Qt, since Qt would load plug-ins for the answer.
 bool ClipboardHasOwner();
 
 }  // namespace pelmar

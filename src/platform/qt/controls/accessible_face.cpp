@@ -29,7 +29,7 @@ class LabelFace : public QAccessibleWidget {
   const QLabel& label_;
 };
 
-// Whether the widget is a plain frame with a label as heading.
+// Whether the widget is a plain frame and the buddy of a label.
 bool IsHeadedGroup(const QWidget& widget) {
   if (widget.metaObject() != &QFrame::staticMetaObject || widget.isWindow()) return false;
   const auto labels = widget.parentWidget()->findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly);

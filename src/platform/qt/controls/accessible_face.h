@@ -1,4 +1,4 @@
-// Presents the program's own controls to assistive technology.
+// Presents the program's own controls to screen readers.
 #pragma once
 
 #include <QAccessible>
@@ -20,22 +20,22 @@ void InstallFace() {
   Q_UNUSED(installed);
 }
 
-// Sets the role that assistive technology sees. A plain widget or window without this role counts as a container.
+// Sets the role that screen readers see. Without a role, a plain widget or window counts as a container.
 void SetAccessibleRole(QWidget& widget, QAccessible::Role role);
 
-// The dynamic property that names the value which a label shows. Screen readers say the name and then the value; an
-// accessible name would replace the value.
+// A dynamic property of a label: the name of the value that the label shows. Screen readers say the name and then the
+// value. An accessible name would replace the value.
 inline constexpr char kValueName[] = "valueName";
-// Makes kValueName work. Also presents each plain frame that is the buddy of a label as a group, named by this label.
-// Call before the first such label is created.
+// Makes kValueName work. Also presents a plain frame as a group if the frame is the buddy of a label, which names the
+// group. Call before these labels and frames are created.
 void InstallLabelFaces();
 
 // Lets screen readers say a text. Does nothing if no screen reader runs.
 void Announce(QWidget& window, const QString& text);
 
-// Gives each combo box without a label a hidden label with the box's accessible name, since Qt presents the current
-// item in place of this name. The field of an editable box gets this name too. If the box has no accessible
-// name, its field gets the text of the box's label.
+// If a combo box has an accessible name but no label, gives the box a hidden label with this name: Qt would present the
+// current item in place of the name. The inner field of an editable box also gets the accessible name of the box. If
+// the box has none, the inner field gets the text of the label.
 void LabelBoxes(QWidget& window);
 
 }  // namespace pelmar

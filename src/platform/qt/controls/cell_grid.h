@@ -1,5 +1,6 @@
-// A grid with as many rows as columns, 3 unless a subclass sets another number. The mouse and the arrow keys mark a
-// cell. Subclasses may paint something into the cells. Rows and columns count from 1.
+// A grid with as many rows as columns, 3 unless a subclass sets another number. The mouse pointer and the arrow keys
+// mark a cell. A click, Space or Enter chooses the marked cell. Subclasses may paint the contents of the cells. Rows
+// and columns count from 1.
 #pragma once
 
 #include <QWidget>
@@ -19,13 +20,13 @@ class CellGrid : public QWidget {
   // Sets the names of the cells for screen readers.
   void NameCells(std::function<QString(int row, int column)> name) { name_ = std::move(name); }
 
-  // These functions number the cells in reading order, from 0. Marked() is -1 if no cell is marked.
-  [[nodiscard]] int Cells() const { return cells_; }  // the number in each row and each column
+  // `number` and Marked() count the cells in reading order, from 0. Marked() is -1 if no cell is marked.
+  [[nodiscard]] int Cells() const { return cells_; }  // how many in each row and in each column
   [[nodiscard]] int Marked() const { return row_ > 0 ? (row_ - 1) * cells_ + column_ - 1 : -1; }
   [[nodiscard]] QString CellName(int number) const;
   void Choose(int number);
 
-  [[nodiscard]] QPoint CellAt(QPoint point) const;  // x is the column, y the row
+  [[nodiscard]] QPoint CellAt(QPoint point) const;  // the column as x, the row as y
   [[nodiscard]] QRect CellRect(int row, int column) const;
 
  Q_SIGNALS:

@@ -1,5 +1,6 @@
-// Presents a grid of cells to screen readers as a list: in a table each step down would read a whole row. A list item
-// has the name and the number of its cell, is selected if the cell is marked, and can be chosen.
+// Presents a CellGrid to screen readers as a list. In a table, screen readers would say a whole row at each step down.
+// Each cell is a list item with the name and the number of the cell. The item of the marked cell is selected. The
+// action of an item chooses its cell.
 #pragma once
 
 #include <QAccessibleWidget>
@@ -22,7 +23,7 @@ class CellGridAccessible : public QAccessibleWidget {
 
  private:
   CellGrid& grid_;
-  mutable std::vector<QAccessible::Id> cells_;  // created on request; 0 if not created yet
+  mutable std::vector<QAccessible::Id> cells_;  // 0 for an item that is not created yet
 };
 
 }  // namespace pelmar

@@ -32,7 +32,7 @@
 namespace pelmar {
 namespace {
 
-// Moves a horizontal scroll bar by the Left or Right key; Qt would move the bar the wrong way. False for other keys and
+// Moves a horizontal scroll bar by the Left or Right key. Qt would move the bar the wrong way. False for other keys and
 // for vertical bars.
 bool MoveByArrow(QScrollBar& bar, int key) {
   if (bar.orientation() != Qt::Horizontal || (key != Qt::Key_Left && key != Qt::Key_Right)) return false;
@@ -40,7 +40,8 @@ bool MoveByArrow(QScrollBar& bar, int key) {
   return true;
 }
 
-// Whether the widget is a combo box or a scroll bar for a value, not a scroll bar of a list or a text.
+// Whether the widget is a combo box or a scroll bar with a value of its own. The scroll bars of lists and texts
+// don't count.
 bool HoldsValue(const QWidget& widget) {
   return qobject_cast<const QComboBox*>(&widget) ||
          (qobject_cast<const QScrollBar*>(&widget) && widget.focusPolicy() != Qt::NoFocus);
@@ -154,7 +155,7 @@ bool DialogWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool DialogWindow::TakesKey(QWidget& receiver, const QKeyEvent& press) {
-  // Alt with a letter is not typed into the field, even if no control has this access key.
+  // Alt with a character never types this character into a field, even if no control has the character as access key.
   const auto* box = qobject_cast<QComboBox*>(&receiver);
   if ((qobject_cast<QLineEdit*>(&receiver) || (box != nullptr && box->isEditable())) && IsAltCharacter(press))
     return true;
@@ -178,7 +179,8 @@ void DialogWindow::keyPressEvent(QKeyEvent* event) {
   QDialog::keyPressEvent(event);
 }
 
-// Goes to the next field after Enter. False if Enter should press the default button.
+// Goes to the next field after Enter. False if Enter should press the default button. LiesBehindTabs tells the rule for
+// the last field on a tab page.
 bool DialogWindow::GoToNextField() {
   if (property("defaultFromFields").toBool()) return false;
   const QList<QWidget*> fields = FieldsInOrder(*this);
@@ -210,7 +212,8 @@ void DialogWindow::showEvent(QShowEvent* event) {
 void DialogWindow::BeginInFirstField() {
   if (!first_field_ || !first_field_->isEnabled()) return;
   first_field_->setFocus(Qt::TabFocusReason);
-  // If the window isn't active yet, the field gets the focus later, without the reason Tab, and Qt selects no text.
+  // If the window isn't active yet, the field gets the focus later, without the reason Tab. Then Qt selects no text, so
+  // the text is selected here.
   SelectText(*first_field_);
 }
 
@@ -231,7 +234,9 @@ void DialogWindow::Prepare() {
     connect(option, &QRadioButton::toggled, this, gather);
     gather();
   }
-  // The notes window may stay on top. A dialog that gets the focus then stays on top too, while HasWindowOnTop is true.
+  // The window that makes HasWindowOnTop true, for instance the notes window, may appear or vanish while this dialog is
+  // open. So a dialog that gets the focus is put on top if necessary. When no such window is left, the next change of
+  // focus makes the dialog a normal window again.
   connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* now) {
     if (isVisible() && (now == windowHandle() || !HasWindowOnTop())) PutAboveAll(*this);
   });

@@ -1,6 +1,7 @@
-// The base of the program's own dialogs. A dialog is modeless unless exec runs it. Closing only hides a dialog, so its
-// fields keep their contents. Each opening starts in the same field, with its text selected. The first opening is in
-// the centre of the screen. On a small screen the contents scroll, and the buttons that close the dialog stay visible.
+// The base of the program's own dialogs. A dialog is modeless unless exec runs it. Closing hides a dialog, so its
+// fields usually keep their contents. Each opening puts the focus on the same control, if it is enabled, and selects
+// its text. The first opening is in the centre of the screen. On a small screen the contents scroll (see
+// ScrollContents).
 #pragma once
 
 #include <QDialog>
@@ -13,9 +14,9 @@ class QPushButton;
 
 namespace pelmar {
 
-// Forms set these properties: `cancelButton` names the button that Escape presses (otherwise Escape closes the dialog),
-// `centredEachTime` centres the dialog at each opening, `sizedByContents` makes the dialog as large as its contents
-// need, and `defaultFromFields` changes Enter (see keyPressEvent).
+// Properties of forms. `cancelButton`: the button that Escape presses; without it Escape closes the dialog.
+// `centredEachTime`: each opening is in the centre of the screen. `sizedByContents`: the first opening has the size
+// that the contents need. `defaultFromFields`: see keyPressEvent.
 class DialogWindow : public QDialog {
   Q_OBJECT
 
@@ -25,23 +26,26 @@ class DialogWindow : public QDialog {
   // Shows the window in front of the others, with the focus on its first field.
   void Present();
 
-  // Makes the window no larger than `room`, in logical pixels inside the frame. Call before the window is first shown.
+  // Makes the window no larger than `room`, in logical pixels inside the frame. Larger contents then scroll. Call
+  // before the window is first shown.
   void FitInto(QSize room);
 
-  // Runs the dialog modally on the screen of DialogParent, and activates DialogParent again afterwards.
+  // Runs the dialog modally, on the screen of the window that DialogParent returns. Activates that window afterwards.
   int exec() override;
 
  protected:
   // Enter in this field runs `act` instead of going to the next field or pressing the default button.
   void OnEnter(QWidget* field, std::function<void()> act);
-  // Scales the font sizes that the form sets, which fit a desktop font of 9 points. Call after setupUi.
+  // The font sizes in the form fit a desktop font of 9 points. Scales these sizes to the present desktop font. Call
+  // after setupUi.
   void ScaleLetters();
 
-  // The mouse wheel changes only a focused combo box or scroll bar, so that nobody changes a value by accident.
+  // The mouse wheel changes the value of a combo box or scroll bar only if this control has the focus, so that nobody
+  // changes a value by accident.
   bool eventFilter(QObject* watched, QEvent* event) override;
-  // Enter presses the focused button. In a field Enter goes to the next field, so that no half-filled dialog writes
-  // into the text. In the last field, outside fields and with `defaultFromFields` Enter presses the default button. On
-  // a tab page Enter goes from the last field to the first field, and from a scroll bar to the next control.
+  // Enter presses the focused button. In a field, Enter goes to the next field, so that no half-filled dialog writes
+  // into the text. In the last field and in other controls, Enter presses the default button. With `defaultFromFields`,
+  // Enter presses the default button from each field. GoToNextField has other rules for tab pages.
   void keyPressEvent(QKeyEvent* event) override;
   void showEvent(QShowEvent* event) override;
 

@@ -5,7 +5,7 @@
 namespace pelmar {
 namespace {
 
-// More characters than fit on any screen, so that long texts are measured quickly.
+// Of a longer text, only this many characters are measured, since measuring takes time. No screen shows so many.
 constexpr qsizetype kMostShown = 2000;
 
 }  // namespace

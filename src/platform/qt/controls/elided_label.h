@@ -1,5 +1,5 @@
-// A label for texts of any length, such as paths and the clipboard. The label draws one line and replaces the part that
-// doesn't fit by an ellipsis. Its minimum width is 0, so a long text never widens the window.
+// A label for texts of any length, such as paths and the text of the clipboard. The label draws one line and replaces
+// the part that doesn't fit by an ellipsis. Its minimum width is 0, so a long text never widens the window.
 #pragma once
 
 #include <QLabel>

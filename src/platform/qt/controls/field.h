@@ -1,5 +1,5 @@
-// The single-line fields of all forms. Their length is unlimited unless the form sets a limit. The property
-// `holdsLines` keeps the line breaks of a pasted or dropped text.
+// The single-line fields of all forms. The length of the text is unlimited unless the form sets a limit. If the
+// property `holdsLines` is true, a field keeps the line breaks of a pasted or dropped text.
 #pragma once
 
 #include <QComboBox>

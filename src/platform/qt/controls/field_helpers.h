@@ -13,7 +13,8 @@ class QListWidget;
 
 namespace pelmar {
 
-// The text of a field. A single-line field may contain line breaks: it shows them as blanks and returns them unchanged.
+// The text of a field. A single-line field may contain line breaks. The field shows line breaks as blanks, but
+// FieldText returns the line breaks unchanged.
 std::string FieldText(const QLineEdit& field);
 std::string FieldText(const QComboBox& field);
 std::string FieldText(const QLabel& field);

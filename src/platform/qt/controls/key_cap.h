@@ -1,5 +1,6 @@
-// The keys of the on-screen keyboard: a push button whose caption may have several lines, and a check box that looks
-// like a key and stays down while checked. Both may be smaller than Qt's own buttons.
+// The keys of the on-screen keyboard, the calculator and the converter. A KeyCap is a push button whose caption may
+// have several lines. A LatchKey is a check box that looks like a key and stays down while checked. Both may be smaller
+// than Qt's own buttons.
 #pragma once
 
 #include <QCheckBox>

@@ -9,14 +9,16 @@ class QListWidget;
 namespace pelmar {
 
 // Makes Up, Down and Home select the current row if no row is selected. When a list gets the focus, Qt makes the first
-// row current without selecting it. So Down would skip the first row, and no key would select the only row of a list.
+// row current without selecting it. So Down would skip the first row, and these keys would never select the only row of
+// a list.
 void ChooseFirstByArrows(QAbstractItemView* list);
 
 // Calls `picked` when the person clicks a row, and when the person or the program selects a row. A click that selects a
 // row calls `picked` twice. The row that Qt makes current when the list gets the focus is not picked.
 void OnRowPicked(QListWidget& list, const std::function<void(int row)>& picked);
 
-// Makes each row one line high and shows line breaks as signs. The texts of the rows are unchanged.
+// Shows each line break as "¶", so that each row is one line high. Shows at most 1000 characters of a row. The texts of
+// the rows stay unchanged.
 void ShowRowsOnOneLine(QListWidget& list);
 
 }  // namespace pelmar

@@ -60,7 +60,7 @@ void ScrollContents(QWidget& window, const QList<QPushButton*>& ending) {
   inner->setLayout(contents);
   contents->setSizeConstraint(QLayout::SetDefaultConstraint);
   contents->setContentsMargins(0, 0, 0, 0);
-  // A form with a fixed size has set these limits.
+  // Removes the limits that a form with a fixed size has set.
   window.setMinimumSize(0, 0);
   window.setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
 

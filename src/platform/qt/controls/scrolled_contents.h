@@ -8,9 +8,9 @@ class QWidget;
 
 namespace pelmar {
 
-// Moves the contents of a window into a scroll area and gives the window the size of the contents. A last row or column
-// of buttons stays outside the area. Without such buttons, the buttons `ending` stay outside, in a new row. Call before
-// the window is first shown.
+// Moves the contents of a window into a scroll area. Makes the window large enough for the contents and the scroll
+// bars. If the last item of the layout is a row or column of buttons, this item stays outside the area. Otherwise the
+// buttons `ending` get a new row outside. Call before the window is first shown.
 void ScrollContents(QWidget& window, const QList<QPushButton*>& ending);
 
 }  // namespace pelmar

@@ -1,4 +1,4 @@
-// A button that shows a colour, a bar with a gradient, and a bar that shows a length.
+// Controls that show a colour (Swatch, a button), a gradient (GradientBar) and a length (ValueBar).
 #pragma once
 
 #include <QAbstractButton>

@@ -18,7 +18,7 @@ constexpr std::chrono::milliseconds kPoll(20);
 // in a row must find the window in place. For a new window under EndAfter::kOneCheck, one check is enough.
 constexpr int kChecksInPlace = 20;
 
-// The frame of another window of the program. A new window most likely gets an equal frame.
+// The frame of another window of the program, or empty. A new window most likely gets an equal frame.
 QMargins UsualFrame() {
   const QWindowList windows = QGuiApplication::topLevelWindows();
   for (const QWindow* window : windows)
@@ -108,7 +108,8 @@ void CentreOnScreen(QWidget& window) {
   const QMargins frame = UsualFrame();
   const QSize expected = window.size().grownBy(frame);
   const TwipsRect place = InTheMiddle(window, {0, 0, TwipsOf(expected.width()), TwipsOf(expected.height())});
-  // There is no frame yet. Some window managers take this position for the inner area, others for the frame.
+  // There is no frame yet. Some window managers put the inner area at this position, others the frame. The Placement
+  // below corrects the difference.
   const QPoint asked(PixelsOf(place.left) + frame.left(), PixelsOf(place.top) + frame.top());
   window.move(asked);
   auto* placement = new Placement(

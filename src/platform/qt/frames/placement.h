@@ -1,7 +1,7 @@
 // Brings a window to an outer place. The frame is known only a moment after the window is shown, and the window manager
-// carries out requests with a delay. So Placement repeats its checks and requests until the window is in place or a
-// time limit is over. Size and position are requested together: each request contains both, so separate requests would
-// bring back old values.
+// carries out requests with a delay. So Placement repeats its checks and requests until the window is in place, a
+// time limit is over or the window is hidden. Each request to the window manager contains size and position. A request
+// for a new size alone would repeat an old position, so the wish contains both.
 #pragma once
 
 #include <QDeadlineTimer>
@@ -20,23 +20,24 @@ class Placement : public QObject {
   // Returns the wanted outer place. `now` is the current outer place.
   using Wish = std::function<TwipsRect(const TwipsRect& now)>;
 
-  // When the checks of a new window end. kOneCheck: after the first check that finds the window in place.
-  // kSeveralChecks: after several such checks in a row. Meanwhile the person may move the window, and the wish must
-  // then return `now`.
+  // When the checks of a new window (no `old_frame` in Begin) end. kOneCheck: after the first check that finds the
+  // window in place. kSeveralChecks: after several such checks in a row. If the person moves the window during these
+  // checks, the wish must return `now`.
   enum class EndAfter { kOneCheck, kSeveralChecks };
 
   // Does nothing before Begin.
   Placement(QWidget& window, Wish wish, EndAfter end_after = EndAfter::kOneCheck);
 
-  // Places the window once it is shown. Before that, waits up to the time limit for a frame other than `old_frame`, the
-  // frame before a change of state. If `maximised`, keeps the window maximised instead of placing the window.
+  // Once the window is shown, waits for a complete frame other than `old_frame`, but not longer than the time limit.
+  // Then places the window, or keeps the window maximised if `maximised`. `old_frame` is the frame before a change of
+  // state and empty for a new window.
   void Begin(const QMargins& old_frame = {}, bool maximised = false);
   // Whether the first frame of the window is known. Also true if the window got no frame within the time limit.
   [[nodiscard]] bool FrameKnown() const { return frame_known_; }
 
-  // Called when FrameKnown becomes true, after the place has been requested.
+  // Called when FrameKnown becomes true. The place was requested just before, unless the window is minimised.
   std::function<void()> on_frame;
-  // Called when the window is in place, when the time limit is over, or when the window is hidden.
+  // Called when the checks end: the window is in place, the time limit is over, or the window was hidden.
   std::function<void()> on_end;
 
  protected:
@@ -59,7 +60,7 @@ class Placement : public QObject {
   bool frame_known_ = false;
 };
 
-// Centres a window on its screen, but not under the panels of the desktop. Call before the window is shown.
+// Centres a window on its screen, but not under the panels of the desktop. Call before the window appears.
 void CentreOnScreen(QWidget& window);
 
 }  // namespace pelmar

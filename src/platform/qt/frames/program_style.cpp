@@ -19,7 +19,7 @@ namespace {
 
 // The wanted contrasts with the background, as ratios of luminances: 1 for equal colours, 21 for black on white.
 constexpr double kTextContrast = 4.5;
-constexpr double kBorderContrast = 3.7;  // more than the usual 3 for borders, since their edges are blurred
+constexpr double kBorderContrast = 3.7;  // more than the usual 3, since borders have blurred edges
 constexpr double kDisabledContrast = 3;  // disabled captions: visible, but paler than enabled ones
 constexpr double kLine = 2;
 constexpr double kMarked = 1.5;  // the background of a selected text in a disabled field
@@ -43,7 +43,8 @@ QColor Mixed(const QColor& ground, const QColor& text, double share) {
                           mix(ground.blueF(), text.blueF()));
 }
 
-// The mixture of the two colours that just reaches the contrast.
+// The mixture of the two colours with the least share of `text` that reaches the contrast with `ground`. `text` itself
+// if no mixture does.
 QColor OfContrast(double wanted, const QColor& ground, const QColor& text) {
   for (int step = 1; step < kSteps; ++step)
     if (const QColor mixed = Mixed(ground, text, static_cast<double>(step) / kSteps); Contrast(ground, mixed) >= wanted)
@@ -58,8 +59,8 @@ bool TakesEnter(const QWidget* widget) {
   return qobject_cast<const QPushButton*>(widget) || qobject_cast<const QToolButton*>(widget);
 }
 
-// The height of a menu item. If necessary, reduces the usual height so that the menu fits the screen, but not below the
-// height of the letters. Otherwise Qt would put the last items into a second column.
+// The height of a menu item. If the menu would not fit the screen, Qt would put the last items into a second column. So
+// in a long menu the items are lower than usual, but not lower than the letters.
 int HeightInMenu(const QMenu& menu, int usual) {
   constexpr int kSeparator = 8, kFrame = 8;
   int items = 0, around = kFrame;
@@ -93,7 +94,7 @@ int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QW
   // The buttons of message boxes have the look and the order of the program's own dialogs.
   if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
   if (hint == SH_DialogButtonLayout) return QDialogButtonBox::WinLayout;
-  // A wheel turn over the tabs is often an accident. It would show another document and clear the undo history.
+  // A wheel turn over the tabs is often an accident. The turn would show another document and clear the undo history.
   if (hint == SH_TabBar_AllowWheelScrolling) return 0;
   return QProxyStyle::styleHint(hint, option, widget, answer);
 }
@@ -123,7 +124,8 @@ int ProgramStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, co
 QSize ProgramStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                                      const QWidget* widget) const {
   QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
-  // Qt's usual style widens buttons with short captions and lets long captions touch the border.
+  // Qt's usual style widens buttons with short captions, but lets long captions touch the border. So the button gets a
+  // least space beside its caption.
   constexpr int kBesideCaption = 12;
   const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
   if (type == CT_PushButton && button != nullptr && !button->text.isEmpty())
@@ -152,8 +154,9 @@ void ProgramStyle::polish(QPalette& palette) {
                    OfContrast(kTextContrast, marked, text(QPalette::Text)));
   lift(QPalette::WindowText, QPalette::Window, kDisabledContrast);
   lift(QPalette::ButtonText, QPalette::Button, kDisabledContrast);
-  // Some dark desktops leave placeholder texts black. The tabs of unnamed documents use this colour too, on the colour
-  // of buttons, where contrast is lower than in a field.
+  // Some dark desktops leave placeholder texts black. The tabs of unnamed documents use the colour of placeholder texts
+  // too, on the colour of buttons. There the contrast is lower than in a field, so the contrast is computed for
+  // buttons.
   const QColor hint = OfContrast(kTextContrast, text(QPalette::Button), text(QPalette::ButtonText));
   palette.setColor(QPalette::PlaceholderText, hint);
   // The colour of lines in the program's own controls.
@@ -171,7 +174,8 @@ void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
     return DrawPushButton(*box, *painter, *widget);
   if ((element != PE_IndicatorCheckBox && element != PE_IndicatorRadioButton) || box == nullptr)
     return QProxyStyle::drawPrimitive(element, option, painter, widget);
-  // Qt's usual style draws the border in a darker shade of the window's colour. On a dark window this is invisible.
+  // Qt's usual style draws the border in a darker shade of the window's colour. On a dark window this shade is
+  // invisible. So the style gets another colour for the window, whose darker shade is `rim`.
   const int darkens = element == PE_IndicatorRadioButton ? 150 : 127;
   QStyleOptionButton rimmed(*box);
   const QColor rim = OfContrast(kBorderContrast, box->palette.color(QPalette::Window),
@@ -217,7 +221,7 @@ void ProgramStyle::drawControl(ControlElement element, const QStyleOption* optio
 void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                                       const QWidget* widget) const {
   QProxyStyle::drawComplexControl(control, option, painter, widget);
-  // Only scroll bars that hold a value can have the focus; the scroll bars of lists and texts can't.
+  // Only scroll bars with a value of their own can have the focus. The scroll bars of lists and texts can't.
   if (control != CC_ScrollBar || widget == nullptr || widget->focusPolicy() == Qt::NoFocus) return;
   const QPalette& palette = option->palette;
   painter->setPen(widget->isEnabled() ? OfContrast(kBorderContrast, palette.color(QPalette::Window),
