@@ -57,8 +57,8 @@ class CaretMover {
   std::int64_t aim_ = 0;
 };
 
-// Of the places in this row where the caret can stand, the one nearest to `x`. `x` counts from the left edge of the content, in
-// units of the layout.
+// Of the places in this row where the caret can stand, the one nearest to `x`. `x` counts from the left edge of the
+// content, in units of the layout.
 TextPlace PlaceInRow(const TextLayout& layout, std::size_t row, std::int64_t x);
 
 }  // namespace pelmar
