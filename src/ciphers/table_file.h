@@ -15,7 +15,7 @@ namespace pelmar {
 inline constexpr std::string_view kTableFilter = "Pelmar VEX Šifrovací tabulka (*.pvt)|*.pvt";
 
 CipherTable ReadTable(std::string_view bytes);
-// Cuts fields to 65,535 bytes.
+// Cuts each field to 65,535 bytes.
 std::string TableBytes(const CipherTable& table);
 
 // Loads and saves a table through the file dialogs. Load and Save share the last path that the person chose.

@@ -86,7 +86,7 @@ class Paper {
 
 struct PrintOutcome {
   int error = 0;             // 0 or an errno
-  std::string printer = {};  // its name, "" if no printer could be used
+  std::string printer = {};  // the printer's name, "" if no printer could be used
   // Set if no printer could be used. UTF-8.
   std::string problem = {};  // the reason
   std::string pdf = {};      // the path of the PDF file, which was written if `error` is 0
@@ -121,7 +121,7 @@ class Platform {
   Platform& operator=(const Platform&) = delete;
   virtual ~Platform() = default;
 
-  // Message boxes. A call returns when the person has answered.
+  // Message boxes. A call returns when the person has answered or closed the box.
   virtual Answer Message(MessageType type, std::string_view text, std::string_view title) = 0;
   // Asks with a warning. True only for Yes.
   bool Confirmed(std::string_view question, std::string_view title) {

@@ -73,8 +73,8 @@ class TextLayout {
   // The distance of a position from the start of the row. At most LayoutRules::width, since the last character of a row
   // may not fit.
   [[nodiscard]] std::int64_t XOf(std::size_t row, std::size_t pos) const;
-  // The position nearest to `x`, and the position of the character at `x`. After the last character: the row end. `x`
-  // counts from the start of the row.
+  // StopAt returns the position nearest to `x`. CharAt returns the position of the character at `x`. After the last
+  // character both return the row end. `x` counts from the start of the row.
   [[nodiscard]] std::size_t StopAt(std::size_t row, std::int64_t x) const;
   [[nodiscard]] std::size_t CharAt(std::size_t row, std::int64_t x) const;
 
