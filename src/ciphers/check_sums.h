@@ -8,13 +8,14 @@ namespace pelmar {
 
 struct Editor;
 
+// Each sum adds one value for each character, for each pair or for each four characters.
 struct CheckSums {
-  std::int64_t crc = 0;         // all codes
-  std::int64_t contra_crc = 0;  // XOR of each pair
-  std::int64_t and_crc = 0;     // AND of each pair
-  std::int64_t short_crc = 0;   // XOR of the ANDs of the two pairs in each four
+  std::int64_t crc = 0;         // the code
+  std::int64_t contra_crc = 0;  // the XOR of the pair
+  std::int64_t and_crc = 0;     // the AND of the pair
+  std::int64_t short_crc = 0;   // the AND of the first pair, XOR the AND of the second pair
 };
-// Only `crc` counts the characters after the last whole pair or four.
+// An incomplete pair or four at the end of the text adds no value.
 CheckSums SumsOf(std::string_view text);
 
 // Adds the command that shows the sums of the document.

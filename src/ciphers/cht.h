@@ -8,11 +8,11 @@
 
 namespace pelmar {
 
-// The table that the dialog shows: a row of letters, and below each letter its look-alikes.
+// The table that the dialog shows: the letters in both cases, and below each letter its other look-alikes.
 std::string LookAlikeReminder();
 
-// Replaces each letter from A to Z and a to z by one of its look-alikes; both cases of the letter are look-alikes too.
-// Other characters stay. Takes one draw for each character.
+// Replaces each letter from A to Z and a to z by a look-alike. The look-alikes of a letter include its upper and its
+// lower case. Other characters stay. Takes one draw for each character.
 std::string HackerTranscription(std::string_view text, const Draw& draw);
 
 }  // namespace pelmar

@@ -14,7 +14,7 @@ bool DrawDigit(const Draw& draw) {
   return first + draw() >= 1;
 }
 
-// 1 if both parts have the same size.
+// 1 if both parts have the same size, otherwise more. `other` must not be 0.
 double Imbalance(std::size_t part, std::size_t other) {
   return std::abs(static_cast<double>(part) / static_cast<double>(other) - 1) + 1;
 }

@@ -1,5 +1,5 @@
-// The Cronfeld system moves letters in the alphabet by the digits of a password. Each character of the text uses the
-// next digit, and the first digit follows the last. Only letters change.
+// The Cronfeld system moves letters in the alphabet by the digits of a password. Each character of the text uses
+// the next digit. The first digit follows the last. Only the letters A to Z and a to z change.
 #pragma once
 
 #include <string>
@@ -13,10 +13,11 @@ namespace pelmar {
 std::string CronfeldEncipher(std::string_view text, std::string_view password);
 std::string CronfeldDecipher(std::string_view text, std::string_view password);
 
-// What the password field makes of typed text: the number at its start, rounded down.
+// The text that the password field shows after a typed text: the number at the start is read, rounded down and written
+// until the text stays the same.
 std::string PasswordText(std::string_view typed);
 
-// 15 digits. The first digit is not 0, since the field would drop a 0. Takes 15 draws.
+// 15 digits. The first digit is not 0, since the field would drop a 0 at the start. Takes 15 draws.
 std::string RandomPassword(const Draw& draw);
 
 }  // namespace pelmar

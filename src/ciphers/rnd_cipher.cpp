@@ -6,9 +6,9 @@
 namespace pelmar {
 namespace {
 
-constexpr std::size_t kProgressStep = 1024;  // symbols between two calls of `progress`
+constexpr std::size_t kProgressStep = 1024;  // characters or groups between two calls of `progress`
 
-// The last symbol whose code holds the digits, kSymbols if no code does.
+// The index of the last symbol whose code contains the digits. kSymbols if no code contains them.
 std::size_t SymbolOf(const CipherTable& table, std::string_view digits) {
   for (std::size_t symbol = kSymbols; symbol-- > 0;)
     if (table.symbol_codes[symbol].find(digits) != std::string::npos) return symbol;

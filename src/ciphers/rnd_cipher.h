@@ -1,5 +1,5 @@
 // The RND cipher. The table gives the code of each symbol. For each digit of the code, the cipher writes a random
-// letter from the set for this digit. A damaged table works as far as possible.
+// letter from the set for this digit.
 #pragma once
 
 #include <cstddef>
@@ -12,21 +12,22 @@
 
 namespace pelmar {
 
-// Called with the number of characters read from the input: at the start, after every 1,024 characters (or, in
-// RndDecipher, groups of `depth` letters) and at the end. Must not be empty.
+// Called with the number of characters read so far: at the start, at the end and after every 1,024 characters. In
+// RndDecipher 1,024 groups of `depth` letters take the place of 1,024 characters. Must not be empty. Not called if
+// RndDecipher gets a table of depth 0.
 using Progress = std::function<void(std::size_t done)>;
 
-// The text in upper case and without diacritics. Characters that are no symbols are dropped.
+// The text in upper case and without Czech diacritics. Characters that are no symbols are dropped.
 std::string PrepareText(std::string_view text);
 
 // Takes `depth` draws for each character. Each draw writes a letter, or nothing if the set of the digit is empty.
-// required: a character that is no symbol gets the code of the last symbol before it. Before the first symbol, it gets
-// a code of ones.
+// required: a character that is no symbol gets the code of the previous symbol. If there is no previous symbol, the
+// character gets a code of ones.
 std::string RndEncipher(std::string_view text, const CipherTable& table, const Draw& draw, const Progress& progress);
 
-// Reads a character from each `depth` letters. A letter outside the set of zeros is a 1. required: the character is the
-// last symbol of the table whose code contains the digits at any place, so an incomplete group at the end of the text
-// also gives a character. If no code contains the digits, the previous character, if there is one, is repeated.
+// Each group of `depth` letters gives a character. A letter outside the set of zeros is a 1. required: the character is
+// the last symbol of the table whose code contains the digits of the group, which may be incomplete at the end. If no
+// code contains the digits, the previous character, if there is one, is repeated. Depth 0 gives "".
 std::string RndDecipher(std::string_view text, const CipherTable& table, const Progress& progress);
 
 }  // namespace pelmar

@@ -10,8 +10,8 @@ namespace pelmar {
 namespace {
 
 constexpr char kQuestionCode = '\b';
-// The number of characters between two calls of on_progress. A larger step saves time; a smaller step keeps the windows
-// more responsive.
+// The largest number of characters between two calls of on_progress. A larger step saves time. A smaller step keeps the
+// windows more responsive.
 constexpr std::size_t kStep = 4096;
 
 // True if the person ends the run.
@@ -41,13 +41,13 @@ void RewriteStream(TextBuffer& buffer, double key, std::string& output, Platform
   output.clear();
   StreamCipher cipher(key);
   const std::size_t length = buffer.Size();
-  // The document may become shorter during the run. Then the run stops at the new end.
+  // The document may become shorter during the run. Then the run is complete at the new end.
   for (std::size_t done = 0; done < std::min(length, buffer.Size());) {
     std::string_view part = std::string_view(buffer.Text()).substr(done, std::min(kStep, length - done));
     if (part.front() == kQuestionCode) {
       // The progress bar shows the position of this character during the question.
       if (!on_progress(done + 1) || PersonStops(platform)) return;
-      part = std::string_view(&kQuestionCode, 1);  // the character that was read; the document may have changed since
+      part = std::string_view(&kQuestionCode, 1);  // not from the document, which may have changed since
     } else {
       part = part.substr(0, part.find(kQuestionCode));
     }

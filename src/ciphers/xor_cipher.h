@@ -16,8 +16,8 @@ namespace pelmar {
 
 struct Editor;
 
-// The text that the key field shows after a typed text: the number is read and written until the text stays the same.
-// required: reading needs a point and writing uses a comma, so a fraction loses its decimals.
+// The text that the key field shows after a typed text: the number at the start is read and written until the text
+// stays the same. required: writing uses a comma and reading stops at a comma, so decimals are lost.
 std::string KeyText(std::string_view typed);
 
 class StreamCipher {
@@ -30,9 +30,9 @@ class StreamCipher {
   ReproducibleGenerator generator_;
 };
 
-// Enciphers the document into `output`, then replaces the document by `output`. At code 8 a question lets the person
-// stop. `on_progress` gets the number of read characters, handles events and returns false to stop. A stopped run keeps
-// the document. If events change the document, the run goes on in the new text, up to the old length.
+// Enciphers the document into `output`, then replaces the document by `output`. At each code 8 a question lets the
+// person stop. `on_progress` gets the number of read characters and returns false to stop. A stopped run keeps the
+// document. If the document changes during the run, the run goes on in the new text, at most up to the old length.
 void RewriteStream(TextBuffer& buffer, double key, std::string& output, Platform& platform,
                    const std::function<bool(std::size_t done)>& on_progress);
 

@@ -1,6 +1,6 @@
-// Everything that the program asks of the system. platform/qt implements Platform with Qt, and the tests have a
-// scripted implementation. Messages and titles are UTF-8, documents and the clipboard are Windows-1250. A path is the
-// bytes that the system gave. No call throws. A call that reads or writes a file gives 0 or an errno.
+// The services of the system: message boxes, clipboard, files, printing and others. platform/qt implements Platform
+// with Qt, and the tests have a scripted implementation. Messages and titles are UTF-8, documents and the clipboard are
+// Windows-1250. A path is the bytes that the system gave. Errors of files are errnos in the results, not exceptions.
 // Call these functions from the interface thread, on which the windows run. Other threads may call only
 // WritePrivateFile, at any time.
 #pragma once
@@ -27,7 +27,7 @@ enum class Answer {
   kOk,
   kYes,
   kNo,
-  kNone,  // the person closed the question; most callers treat this as No
+  kNone,  // the question was closed without an answer; most callers treat this as No
 };
 
 struct LocalTime {
@@ -35,7 +35,7 @@ struct LocalTime {
 };
 
 struct FileBytes {
-  int error = 0;  // 0, or the errno of the call that failed
+  int error = 0;  // 0 or an errno
   std::string bytes;
 };
 
@@ -46,7 +46,7 @@ struct WriteOutcome {
   std::string kept = {};
 };
 
-// Two different stamps of a path mean that its file was written or replaced in between.
+// If two stamps of a path differ, the file was written or replaced in between.
 struct FileStamp {
   std::uint64_t device = 0, node = 0, size = 0;
   std::int64_t changed = 0;  // the time of the last write, in nanoseconds since 1970
@@ -86,10 +86,10 @@ class Paper {
 
 struct PrintOutcome {
   int error = 0;             // 0 or an errno
-  std::string printer = {};  // its name, "" if no printer could be used
+  std::string printer = {};  // the printer's name, "" if no printer could be used
   // Set if no printer could be used. UTF-8.
   std::string problem = {};  // the reason
-  std::string pdf = {};      // the path of the PDF file that was written instead
+  std::string pdf = {};      // the path of the PDF file, which was written if `error` is 0
 };
 
 // Changes the bytes of a file on their way into another file. Returned bytes are valid until the next call.
@@ -101,7 +101,7 @@ class FileRewriter {
   virtual ~FileRewriter() = default;
 
   virtual std::string_view Rewrite(std::string_view piece) = 0;
-  // The bytes after the last piece.
+  // Returns the bytes that follow the last piece.
   virtual std::string_view Finish() = 0;
   // How many of the returned bytes form the new content, counted from the first. The rest is cut off. Call after
   // Finish.
@@ -121,7 +121,7 @@ class Platform {
   Platform& operator=(const Platform&) = delete;
   virtual ~Platform() = default;
 
-  // Message boxes. A call returns when the person has answered.
+  // Message boxes. A call returns when the person has answered or closed the box.
   virtual Answer Message(MessageType type, std::string_view text, std::string_view title) = 0;
   // Asks with a warning. True only for Yes.
   bool Confirmed(std::string_view question, std::string_view title) {
@@ -132,13 +132,13 @@ class Platform {
   // Asks for a line of text. Nothing if the person cancels. All texts are UTF-8.
   virtual std::optional<std::string> InputBox(std::string_view prompt, std::string_view title,
                                               std::string_view initial) = 0;
-  // The system's file dialogs. The filter is "caption|pattern|caption|pattern...", its index counts from 1. Nothing if
-  // the person cancels.
+  // The system's file dialogs. The filter is "caption|pattern|caption|pattern...". Its index counts from 1, and 0 means
+  // the first caption too. Nothing if the person cancels.
   virtual std::optional<std::string> OpenDialog(std::string_view filter, int filter_index) = 0;
   virtual std::optional<std::string> SaveDialog(std::string_view filter, int filter_index) = 0;
 
-  // The plain text of the clipboard, if there is any. Line breaks of other programs become CR LF. Valid until the
-  // clipboard changes.
+  // The plain text of the clipboard, if there is any. Line breaks of other programs become CR LF. The reference stays
+  // valid. The next call after a change of the clipboard replaces the text.
   virtual const std::optional<std::string>& ClipboardContent() = 0;
   std::string ClipboardText() { return ClipboardContent().value_or(std::string()); }
   // A new number after each change of the clipboard.
@@ -148,7 +148,7 @@ class Platform {
 
   // Files. ReadFile reads at most `limit` bytes. A write replaces the old file by a complete new file. If this is not
   // possible, a write copies the old content to another file and then overwrites the old file (see disk_file.h).
-  virtual bool CanRead(const std::string& path) = 0;  // false for a folder or a device
+  virtual bool CanRead(const std::string& path) = 0;  // true only for a regular file
   virtual FileBytes ReadFile(const std::string& path, std::optional<std::uint64_t> limit) = 0;
   virtual WriteOutcome WriteDocument(const std::string& path, std::string_view bytes) = 0;
   // Like WriteDocument, for the program's own files. Only the owner can read a new file. Returns 0 or an errno. May be
@@ -156,12 +156,12 @@ class Platform {
   virtual int WritePrivateFile(const std::string& path, std::string_view bytes) = 0;
   // Creates a file that only its owner can read. EEXIST if the name is taken, even by a link that leads nowhere.
   virtual int WriteNewFile(const std::string& path, std::string_view bytes) = 0;  // 0 or an errno
-  // Gives a file to `take` in pieces, until `take` returns false. Returns 0 or an errno.
+  // Gives a file to `take` in pieces. Stops without an error if `take` returns false. The result is 0 or an errno.
   virtual int ReadByPieces(const std::string& path, const std::function<bool(std::string_view piece)>& take) = 0;
   // Copies a file of any size through `rewriter`. The target is replaced or overwritten as in WriteDocument.
   virtual WriteOutcome RewriteFile(const std::string& source, const std::string& target, OldTail tail,
                                    FileRewriter& rewriter) = 0;
-  // Nothing if there is no such file.
+  // Nothing if there is no such file or its folder can't be searched.
   virtual std::optional<FileStamp> Stamp(const std::string& path) = 0;
   // Whether both paths lead to the same file.
   virtual bool IsSameFile(const std::string& left, const std::string& right) = 0;
@@ -171,8 +171,8 @@ class Platform {
   virtual std::string TempFolder() = 0;
   virtual std::string ShareFolder() = 0;  // where the package keeps its files
 
-  // Prints what `draw` puts on the paper, on the default printer or the only printer. If no printer can be used, writes
-  // a new PDF file in the documents folder. `name` (UTF-8) names the job and the file.
+  // Prints what `draw` puts on the paper. Uses the default printer, or the only printer if there is no default. If no
+  // printer can be used, writes a new PDF file in the documents folder. `name` (UTF-8) names the job and the file.
   virtual PrintOutcome Print(const PrintFont& font, const std::string& name,
                              const std::function<void(Paper&)>& draw) = 0;
 
@@ -193,7 +193,7 @@ class Platform {
   virtual void SetBusyPointer(bool busy, BusyLook look) = 0;
 };
 
-// Shows the hourglass, alone or beside the arrow, while a long command works.
+// Shows the busy pointer as long as the object exists.
 class BusyPointer {
  public:
   explicit BusyPointer(Platform& platform, BusyLook look = BusyLook::kHourglass) : platform_(platform), look_(look) {

@@ -1,7 +1,7 @@
-// Moves the caret over the rows of a layout. The position at which a line wraps belongs to two rows: CaretMover
-// remembers which of the two rows shows the caret. For a series of Up, Down, PageUp and PageDown,
-// CaretMover remembers the x at which the series began: each move puts the caret as near to this x as the row allows.
-// This row and this x are used only while the caret is at the position that CaretMover set.
+// Moves the caret over the rows of a layout. The position at which a line wraps belongs to two rows. CaretMover
+// remembers which of the two rows shows the caret. For a series of Up, Down, PageUp and PageDown, CaretMover remembers
+// the x at which the series began. Each move of the series puts the caret as near to this x as the row allows. The row
+// and the x are used only while the caret is at the position that CaretMover set.
 #pragma once
 
 #include <cstddef>
@@ -57,8 +57,8 @@ class CaretMover {
   std::int64_t aim_ = 0;
 };
 
-// The possible place of the caret in this row that is nearest to `x`. `x` counts from the left edge of the content, in
-// units of the layout.
+// Of the places in this row where the caret can stand, the one nearest to `x`. `x` counts from the left edge of the
+// content, in units of the layout.
 TextPlace PlaceInRow(const TextLayout& layout, std::size_t row, std::int64_t x);
 
 }  // namespace pelmar

@@ -1,6 +1,6 @@
-// Windows-1250, the code page of every document. The code page leaves five codes unassigned. They stand for the control
-// characters of the same number, so a conversion to Unicode and back changes no byte. A character outside the code page
-// becomes "?".
+// Windows-1250, the code page of every document. The code page leaves five codes unassigned. Here these codes stand for
+// the control characters of the same number, so a conversion to Unicode and back changes no byte. A character outside
+// the code page becomes "?".
 #pragma once
 
 #include <algorithm>
@@ -31,7 +31,7 @@ inline constexpr std::array<char16_t, 128> kCodePageHigh = {
 
 constexpr char16_t UnicodeOf(unsigned char code) { return code < 0x80 ? char16_t{code} : kCodePageHigh[code - 0x80u]; }
 
-// The characters of the codes from 0x80 on, sorted for a fast search: a file to convert may be very large.
+// The characters of the codes from 0x80 on, sorted for a fast search, since a converted file may be very large.
 inline constexpr auto kHighByUnicode = [] {
   std::array<std::pair<char16_t, unsigned char>, 128> pairs{};
   for (std::size_t i = 0; i < pairs.size(); ++i) pairs[i] = {kCodePageHigh[i], static_cast<unsigned char>(i + 0x80)};

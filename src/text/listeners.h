@@ -1,5 +1,5 @@
-// Functions that are called when something happens. Add returns a handle. The function is called as long as both the
-// list and the handle exist; either may end first.
+// Functions that are called when something happens. Add returns a handle. The function is called while both the
+// Listeners object and the handle exist. Either of them may be destroyed first.
 #pragma once
 
 #include <functional>
@@ -9,7 +9,7 @@
 
 namespace pelmar {
 
-// The listener is removed when the last copy of this handle is destroyed.
+// The listener is not called any more after the last copy of this handle is destroyed.
 using Listening = std::shared_ptr<const void>;
 
 template <typename... Args>

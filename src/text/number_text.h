@@ -11,8 +11,8 @@
 
 namespace pelmar {
 
-// At most 15 significant digits (a float: 7), without grouping: "0", "-2,5". An absolute value from 1E+15 on (a float:
-// 1E+07) or below 0,0001 is written with an exponent: "1E+15", "1,5E-05". The number must be finite.
+// At most 15 significant digits (a float: 7), without grouping: "0", "-2,5". The number must be finite. An absolute
+// value from 1E+15 on (a float: 1E+07) or between 0 and 0,0001 is written with an exponent: "1E+15", "1,5E-05".
 std::string NumberText(double number);
 std::string NumberText(float number);
 

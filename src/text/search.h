@@ -10,7 +10,8 @@
 
 namespace pelmar {
 
-// The first hit at or after `from`. An empty term is found at `from`. Nothing if `from` is not before the text's end.
+// The first hit at or after `from`, or nothing. An empty term is found at `from`. Finds nothing if `from` is the end of
+// the text or beyond.
 std::optional<std::size_t> FindFrom(std::string_view text, std::string_view term, std::size_t from);
 
 // Selects a hit, at most up to the end of the text. Selects the start first, so that the start becomes visible.

@@ -7,7 +7,8 @@
 namespace pelmar {
 namespace {
 
-// How many bytes undo and redo may hold together. The oldest steps are dropped first.
+// How many bytes undo and redo may hold together. A new step of undo drops the oldest steps beyond the limit, but never
+// itself.
 constexpr std::size_t kHistoryLimit = std::size_t{64} << 20;
 
 }  // namespace

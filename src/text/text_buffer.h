@@ -1,7 +1,7 @@
 // The document in a text box: Windows-1250 bytes, one selection, an index of the lines, undo and redo. Positions are
-// byte offsets from 0 and may lie between a CR and its LF. Only CR LF breaks a line. Each change of the text notifies
-// its listeners once, when text and selection have their new values. An edit that leaves the text the same is no change
-// and no step of undo. Such an edit only moves the caret.
+// byte offsets from 0 and may lie between a CR and its LF. Only CR LF breaks a line. Each change of the text is
+// notified once, when text and selection have their new values. An edit that leaves the text the same only moves the
+// caret. Such an edit is no change and no step of undo.
 #pragma once
 
 #include <cstddef>
@@ -40,15 +40,15 @@ class TextBuffer {
   [[nodiscard]] const std::string& Text() const { return text_; }
   [[nodiscard]] std::size_t Size() const { return text_.size(); }
   [[nodiscard]] bool Empty() const { return text_.empty(); }
-  // The number of changes so far. If a listener changes the text, the listeners after it are notified of this second
-  // change before the first change. They can detect the wrong order by the number.
+  // The number of changes so far. If a listener changes the text, the later listeners are notified of the second change
+  // before the first change. By this number they can detect the wrong order.
   [[nodiscard]] std::uint64_t Revision() const { return revision_; }
 
-  // Replaces the whole text and puts the caret at 0. required: clears undo.
+  // Replaces the whole text and puts the caret at 0. required: clears undo and redo.
   void SetText(std::string text);
 
-  // The selection, clipped to the text. SetSelStart collapses the selection. SetSelLength keeps the start and puts the
-  // caret at the end.
+  // The selection. The setters clip it to the text. SetSelStart makes the selection empty. SetSelLength keeps the start
+  // of the selection and puts the caret at its end.
   [[nodiscard]] std::size_t SelStart() const { return anchor_ < caret_ ? anchor_ : caret_; }
   [[nodiscard]] std::size_t SelLength() const { return anchor_ < caret_ ? caret_ - anchor_ : anchor_ - caret_; }
   [[nodiscard]] std::size_t SelEnd() const { return SelStart() + SelLength(); }
@@ -67,9 +67,9 @@ class TextBuffer {
   // Replaces any part of the text in the same way.
   void Replace(std::size_t pos, std::size_t length, std::string_view text);
 
-  // Typing and deleting by hand. Letters typed one after the other are one step of undo, and so are letters deleted one
-  // after the other. A new step begins after a typed line break, and when the caret is moved without typing or
-  // deleting.
+  // Typing and deleting by hand. Characters typed one after the other are one step of undo, and so are characters
+  // deleted one after the other. A new step begins after a typed line break, after Undo and Redo, after any other edit
+  // and after any other move of the caret.
   void Type(std::string_view text);
   void EraseBefore(std::size_t count);  // erases only the selection if there is one
   void EraseAfter(std::size_t count);   // erases only the selection if there is one
@@ -82,7 +82,7 @@ class TextBuffer {
 
   // Lines, numbered from 0. A text that ends in CR LF has an empty last line.
   [[nodiscard]] std::size_t LineCount() const { return line_starts_.size(); }
-  [[nodiscard]] std::size_t LineOf(std::size_t pos) const;  // a position between CR and LF belongs to the line before
+  [[nodiscard]] std::size_t LineOf(std::size_t pos) const;  // a CR LF belongs to the line that it ends
   [[nodiscard]] std::size_t LineStart(std::size_t line) const { return line_starts_[line]; }
   [[nodiscard]] std::size_t LineEnd(std::size_t line) const;  // before the CR LF
   [[nodiscard]] std::string_view Line(std::size_t line) const;

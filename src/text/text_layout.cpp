@@ -73,14 +73,15 @@ RowsChange TextLayout::Update(const TextChange& change) {
     return {0, old_count, rows_.size()};
   }
   // `touched` is the row of the byte before the change, since this byte may be a CR that the change joins to an LF or
-  // parts from one. The row before `touched` is computed again too, since the first word of `touched` may now fit
+  // separates from an LF. The row before `touched` is computed again too, since the first word of `touched` may now fit
   // there.
   const std::size_t touched = RowOf(change.pos > 0 ? change.pos - 1 : 0);
   const std::size_t first = touched > 0 ? touched - 1 : 0;
   const std::size_t old_end = change.pos + change.removed;
   const std::size_t new_end = change.pos + change.inserted;
 
-  // Rows are computed until a new row begins where an old row after the change began. All later rows stay.
+  // Rows are computed until a new row begins where an old row after the change began. From there on, the old rows stay,
+  // moved by the difference in length.
   auto same = static_cast<std::size_t>(std::lower_bound(rows_.begin(), rows_.end(), old_end) - rows_.begin());
   same = std::max(same, first + 1);
   std::vector<std::size_t> fresh;
@@ -107,7 +108,7 @@ std::size_t TextLayout::RowEnd(std::size_t row) const {
   return EndsLine(row) ? rows_[row + 1] - 2 : rows_[row + 1];
 }
 
-// A row ends a line if a CR LF comes before the next row.
+// The last row of the text ends a line. Another row ends a line if a CR LF comes before the next row.
 bool TextLayout::EndsLine(std::size_t row) const {
   if (row + 1 == rows_.size()) return true;
   const std::size_t next = rows_[row + 1];

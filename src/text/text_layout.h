@@ -1,6 +1,6 @@
 // Divides the lines of a text into rows and computes the place of each character from a table of 256 advances. Painting
-// and mouse clicks use the same places. Lengths are 64ths of a logical pixel, the unit of the font engine, so sums
-// are exact. Rows and positions (bytes) count from 0. The CR LF at the end of a line belongs to no row.
+// and mouse clicks use the same places. Lengths are whole 64ths of a logical pixel, the unit of the font engine,
+// so sums are exact. Rows and positions (bytes) count from 0. The CR LF at the end of a line belongs to no row.
 #pragma once
 
 #include <array>
@@ -35,7 +35,7 @@ enum class TextAlign : std::uint8_t { kLeft, kRight, kCentre };
 
 struct LayoutRules {
   AdvanceTable advances;
-  std::int64_t width = 0;  // lines wrap here, after a blank if there is one; never negative
+  std::int64_t width = 0;  // never negative; lines wrap here, after a blank if there is one
   TextAlign align = TextAlign::kLeft;
 };
 
@@ -48,11 +48,11 @@ struct RowsChange {
 
 class TextLayout {
  public:
-  // The buffer must outlive the layout. Until the first Lay there is one row, without width.
+  // The buffer must outlive the layout. Until the first Lay there is one row, and its width is 0.
   explicit TextLayout(const TextBuffer& buffer) : buffer_(&buffer) {}
 
   void Lay(const LayoutRules& rules);
-  // Changes LayoutRules::width and computes all rows again.
+  // Changes LayoutRules::width and computes all rows again. Does nothing if the width is the same.
   void SetWidth(std::int64_t width);
   void SetAlign(TextAlign align) { rules_.align = align; }
   // Adapts the rows to a change of the text. Call after each change.
@@ -70,10 +70,11 @@ class TextLayout {
   // The left edge of a row, which depends on the alignment.
   [[nodiscard]] std::int64_t RowLeft(std::size_t row) const;
 
-  // The distance of a position from the start of the row. A blank beyond LayoutRules::width has no width.
+  // The distance of a position from the start of the row. At most LayoutRules::width, since the last character of a row
+  // may not fit.
   [[nodiscard]] std::int64_t XOf(std::size_t row, std::size_t pos) const;
-  // The position nearest to `x`, and the position of the character at `x`. After the last character: the row end. `x`
-  // counts from the start of the row.
+  // StopAt returns the position nearest to `x`. CharAt returns the position of the character at `x`. After the last
+  // character both return the row end. `x` counts from the start of the row.
   [[nodiscard]] std::size_t StopAt(std::size_t row, std::int64_t x) const;
   [[nodiscard]] std::size_t CharAt(std::size_t row, std::int64_t x) const;
 

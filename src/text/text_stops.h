@@ -1,6 +1,6 @@
 // The positions to which the caret moves by one step (a character or a CR LF) or by one word. Positions are byte
-// offsets from 0. A word is a run of letters, digits and "_", a run of other signs or a run of control characters.
-// Blanks separate words.
+// offsets from 0. A word is a run of characters of one kind. The kinds are: letters, digits and "_"; control
+// characters; other signs. Blanks (space, tab, no-break space) separate words.
 #pragma once
 
 #include <cstddef>
@@ -15,8 +15,8 @@ std::size_t PreviousStop(std::string_view text, std::size_t pos);
 // The start of the next word, or the end of the line if no word follows. From the end of a line: the position after the
 // blanks at the start of the next line.
 std::size_t NextWord(std::string_view text, std::size_t pos);
-// The start of the word that begins before `pos`, or the start of the line if no word begins there. From the start of a
-// line: the end of the previous line.
+// The start of the last word that begins before `pos` in the line, or the start of the line if there is no such word.
+// From the start of a line: the end of the previous line.
 std::size_t PreviousWord(std::string_view text, std::size_t pos);
 
 struct TextSpan {
@@ -24,8 +24,8 @@ struct TextSpan {
   std::size_t end = 0;
 };
 
-// The run of characters of one kind around `pos`. At the end of a line the run before `pos`, or an empty span if the
-// line is empty.
+// The word around `pos`, or the run of blanks around `pos`. At the end of a line: the word or the blanks before `pos`,
+// or an empty span if the line is empty.
 TextSpan WordAt(std::string_view text, std::size_t pos);
 
 }  // namespace pelmar

@@ -15,11 +15,11 @@ inline constexpr char32_t kMalformedUtf8 = 0xFFFFFFFF;
 inline constexpr char32_t kByteOrderMark = 0xFEFF;
 inline constexpr std::string_view kByteOrderMarkBytes = "\xEF\xBB\xBF";
 
-// Decodes a stream in pieces. A piece may end within a character.
+// Decodes a stream byte by byte, so the stream may come in pieces that end within a character.
 class Utf8Decoder {
  public:
-  // The character that the byte completes, kUnfinishedUtf8 or kMalformedUtf8. After kMalformedUtf8 the next byte begins
-  // a new character.
+  // Returns the character if the byte completes one, or kUnfinishedUtf8 if more bytes must follow. Otherwise returns
+  // kMalformedUtf8, and the next byte begins a new character.
   constexpr char32_t Take(char ch) {
     const auto byte = static_cast<unsigned char>(ch);
     if (more_ == 0) return byte < 0x80 ? char32_t{byte} : Begin(byte);
@@ -33,11 +33,11 @@ class Utf8Decoder {
     return --more_ == 0 ? value_ : kUnfinishedUtf8;
   }
 
-  // Whether the character still needs bytes.
+  // Whether the last byte left a character unfinished.
   [[nodiscard]] constexpr bool InCharacter() const { return more_ != 0; }
 
  private:
-  // The bounds of the second byte exclude overlong forms, surrogates and values that are too large.
+  // The bounds of the lead and of the second byte exclude overlong forms, surrogates and values that are too large.
   constexpr char32_t Begin(unsigned char lead) {
     if (lead < 0xC2 || lead > 0xF4) return kMalformedUtf8;
     more_ = lead >= 0xF0 ? 3 : lead >= 0xE0 ? 2 : 1;
@@ -52,8 +52,8 @@ class Utf8Decoder {
   unsigned char lowest_ = 0x80, highest_ = 0xBF;  // of the next byte
 };
 
-// Decodes the character at `at` and moves `at` to the next character. kMalformedUtf8 for a byte that belongs to no
-// character.
+// Decodes the character at `at` and moves `at` to the end of the character. If there is no well-formed character at
+// `at`, returns kMalformedUtf8 and moves `at` by one byte.
 constexpr char32_t DecodeUtf8(std::string_view utf8, std::size_t& at) {
   Utf8Decoder decoder;
   for (std::size_t end = at; end < utf8.size();) {
@@ -72,8 +72,8 @@ void AppendUtf8(std::string& utf8, char32_t character);
 // Whether the bytes are well-formed UTF-8. ASCII is well-formed.
 bool IsUtf8(std::string_view bytes);
 
-// Whether the bytes are well-formed UTF-8 with a character beyond ASCII. In another encoding a text
-// with such characters is hardly ever well-formed UTF-8.
+// Whether the bytes are well-formed UTF-8 with a character beyond ASCII. In another encoding a text with such
+// characters is hardly ever well-formed UTF-8.
 bool LooksLikeUtf8(std::string_view bytes);
 
 // True if the bytes hold both UTF-8 characters beyond ASCII and bytes that are malformed UTF-8.

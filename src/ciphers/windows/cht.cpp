@@ -8,7 +8,7 @@
 namespace pelmar {
 namespace {
 
-// The width of a box that wraps no row of the table: its 26 characters, with room for the margins and a scroll bar.
+// A width at which no row of the table wraps: 26 characters, margins of 4 characters, the frame and a scroll bar.
 int LeastWidth(const TextBox& box) {
   return box.fontMetrics().horizontalAdvance(QString(30, QLatin1Char('W'))) + 2 * box.frameWidth() +
          box.verticalScrollBar()->sizeHint().width();

@@ -69,7 +69,7 @@ void RND_Sifra::Command5_Click() {
 }
 
 void RND_Sifra::Command6_Click() {
-  if (table_.depth == 0) return;  // an empty file leaves a table without depth, which would erase the document
+  if (table_.depth == 0) return;  // a table from an empty file has depth 0 and would erase the document
   buffer_.SetText(RndDecipher(ui_->Text1->Buffer().Text(), table_, StartProgress()));
 }
 

@@ -1,5 +1,5 @@
-// `RND_Sifra`: the RND cipher. The window has the table, and loads and saves it as a file. The cipher reads the
-// prepared text in the window and replaces the document by the result.
+// `RND_Sifra`: the RND cipher. The window holds the table, loads the table from a file and saves it. The cipher
+// reads the text in the window and replaces the document by the result.
 #pragma once
 
 #include "ciphers/rnd_cipher.h"

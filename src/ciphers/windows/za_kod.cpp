@@ -22,14 +22,14 @@ ZaKod::ZaKod(Editor& editor, std::function<bool()> closed, QWidget* parent)
 }
 
 void ZaKod::Command1_Click() {
-  if (running_) return;  // pressed again while the loop below handles events
+  if (running_) return;  // pressed again while RewriteStream below handles events
   const QScopedValueRollback<bool> running(running_, true);
   ui_->Txt->Buffer().SetText({});
   const double key = LeadingNumber(FieldText(*ui_->Text1));
   const auto length = static_cast<int>(editor_.text.Size());
   ui_->ProgressBar1->setMaximum(std::max(1, length));  // a maximum of 0 would show a busy bar
   ui_->ProgressBar1->setValue(0);
-  // The result belongs only to the document that was read.
+  // The result belongs only to the document that was read. So the run stops if the document or its whole text changes.
   const Documents& documents = editor_.documents;
   const auto same_document = [&documents, tab = documents.SelectedTab(), path = documents.CurrentPath()] {
     return documents.SelectedTab() == tab && documents.CurrentPath() == path;

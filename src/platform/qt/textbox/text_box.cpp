@@ -181,8 +181,8 @@ void TextBox::Relayout() {
   viewport()->update();
 }
 
-// A scroll bar that appears or disappears changes the width of the viewport, and with it the rows. So the range is set
-// until the width stays the same, at most three times.
+// A scroll bar that appears or disappears changes the width of the viewport, and the new width changes the rows. So the
+// range is set until the size of the viewport stays the same, at most three times.
 void TextBox::UpdateScrollBar() {
   if (updating_bar_) return;
   updating_bar_ = true;

@@ -77,7 +77,7 @@ class TextBox : public QAbstractScrollArea {
   [[nodiscard]] bool TabSelectsAll() const { return tab_selects_all_; }
   void setTabSelectsAll(bool selects) { tab_selects_all_ = selects; }
 
-  // If true, a pale caret is shown while the text box lacks the focus, since tools in other windows insert text here.
+  // If true, a pale caret stays when the text box loses the focus, since tools in other windows insert text here.
   void SetCaretStays(bool stays) { caret_stays_ = stays; }
 
   // Does what the key does. Menus call this function too. A read-only text is not changed.
@@ -91,14 +91,14 @@ class TextBox : public QAbstractScrollArea {
   [[nodiscard]] bool IsSelectedAt(QPoint point) const;
   [[nodiscard]] QRect CaretRect() const;
   [[nodiscard]] QRect CharRect(std::size_t pos) const;
-  // Move the caret. PutCaret clears the selection; SelectTo extends the selection to the caret.
+  // Move the caret. PutCaret leaves no selection. SelectTo keeps the anchor of the selection.
   void PutCaret(TextPlace place) { MoveCaret(place, false); }
   void SelectTo(TextPlace place) { MoveCaret(place, true); }
   void Select(TextSpan span, bool caret_first = false);
   // Scroll until a position or the caret is visible.
   void Reveal(std::size_t pos);
   void RevealCaret();
-  // The span of the row that contains a position, including a line break at its end.
+  // The span of the row that contains a position, including a line break after the row.
   [[nodiscard]] TextSpan RowSpan(std::size_t pos) const;
   // Makes the selection the primary selection, which the middle mouse button pastes.
   void PublishSelection();

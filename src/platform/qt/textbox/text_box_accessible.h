@@ -52,7 +52,7 @@ class TextBoxNotifier {
 
   void Changed(const TextChange& change);
   void CaretMoved();
-  // Call when the box shows another text.
+  // Call when the box shows another buffer or has missed a change.
   void Forget() { known_text_.reset(); }
 
  protected:
@@ -63,8 +63,8 @@ class TextBoxNotifier {
   void NotifyCaret();
 
   TextBox& box_;
-  // A copy of the text before the next change. The notification of that change contains the removed text, which the
-  // buffer no longer has.
+  // A copy of the text before the next change. The notification of that change contains the removed text, which
+  // the buffer no longer has after the change.
   std::optional<std::string> known_text_;
 };
 

@@ -176,7 +176,7 @@ TextColours TextBox::Colours() const {
   if (hasFocus() && isActiveWindow())
     return {own, colours.color(QPalette::Active, QPalette::HighlightedText),
             colours.color(QPalette::Active, QPalette::Highlight)};
-  // Many palettes have equal colours for active and inactive selections, so mix a colour.
+  // Many palettes have equal colours for active and inactive selections, so an inactive selection gets a mixed colour.
   return {own, own, Between(colours.color(QPalette::Active, QPalette::Highlight), Background())};
 }
 
@@ -219,7 +219,8 @@ void TextBox::PaintComposed(QPainter& painter) {
 
 void TextBox::scrollContentsBy(int dx, int dy) {
   const qreal ratio = devicePixelRatioF();
-  // Moving painted pixels by a fraction of a device pixel would blur them.
+  // Painted pixels that move by a fraction of a device pixel would blur, so with a fractional scale all is painted
+  // anew.
   if (ratio == std::floor(ratio) && !composer_.Active()) {
     viewport()->scroll(dx, dy);
     shown_caret_.translate(dx, dy);
@@ -239,7 +240,8 @@ void TextBox::showEvent(QShowEvent* event) {
   // The window manager shows the window again: keep the scroll position.
   if (ready_ && event->spontaneous()) return Relayout();
   if (ready_) return ShowAnew();
-  // The glyph table is built just before the first paint. Until then the window manager needs the processor.
+  // While the window opens, the window manager needs the processor. So the glyph table is built just before the first
+  // paint.
   QWindow* screen_window = window()->windowHandle();
   if (screen_window != nullptr && !screen_window->isExposed()) return screen_window->installEventFilter(this);
   QMetaObject::invokeMethod(this, &TextBox::GetReady, Qt::QueuedConnection);
@@ -296,7 +298,7 @@ void TextBox::focusOutEvent(QFocusEvent* event) {
 
 void TextBox::wheelEvent(QWheelEvent* event) {
   if (event->modifiers().testFlag(Qt::ControlModifier)) return event->ignore();
-  // Touch pads report distances in pixels. Under X11 these values are unreliable.
+  // Touch pads report distances in pixels. Under X11 these values are unreliable, so they are not used there.
   const bool exact = !event->pixelDelta().isNull() && QGuiApplication::platformName() != QStringLiteral("xcb");
   if (!exact) return QAbstractScrollArea::wheelEvent(event);
   verticalScrollBar()->setValue(verticalScrollBar()->value() - event->pixelDelta().y());

@@ -7,8 +7,8 @@ namespace pelmar {
 
 class TextBox;
 
-// The menu is a child of the text box; the caller deletes the menu after use. Each action does what the key in its
-// caption does.
+// The menu is a child of the text box. The caller deletes the menu after use. An action with a key in its caption does
+// what the key does.
 QMenu* BuildTextMenu(TextBox& box);
 
 }  // namespace pelmar

@@ -10,7 +10,8 @@
 namespace pelmar {
 namespace {
 
-// Input methods need only a few words around the caret, and a line may have millions of characters.
+// The largest number of characters on each side of the caret that input methods get. They need only a few words, and a
+// line may have millions of characters.
 constexpr std::size_t kSurrounding = 512;
 
 // The part of the caret's line that is passed to input methods.

@@ -18,11 +18,12 @@ class TextComposer {
  public:
   [[nodiscard]] bool Active() const { return !text_.isEmpty(); }
   [[nodiscard]] bool ShowsCaret() const { return shows_caret_; }
-  // Pixels from the beginning of the composed text to its caret.
+  // Pixels from the beginning of the composed text to the caret in this text.
   [[nodiscard]] int CaretX(const QFont& font) const;
   [[nodiscard]] int Width(const QFont& font) const;
 
-  // Inserts the finished text of the event into the buffer. Stores the text that is still being composed.
+  // Inserts the finished text of the event into the buffer. Stores the text that is still being composed. Either of
+  // them replaces the selection, or the part of the buffer that the event names.
   void Handle(const QInputMethodEvent& event, TextBuffer& buffer);
   void Clear();
   void Paint(QPainter& painter, QPointF baseline, const QFont& font) const;

@@ -13,7 +13,7 @@
 namespace pelmar {
 namespace {
 
-constexpr int kScrollBorder = 12;  // the width in pixels of the upper and lower edge where dragging scrolls
+constexpr int kScrollBorder = 12;  // pixels; a drag this near to the upper or lower edge scrolls
 
 int ScrollSign(int at, int size) {
   if (at < kScrollBorder) return -1;

@@ -1,5 +1,5 @@
-// Drag and drop of text from and into a text box. Inside one box a drag moves the text, or copies with Ctrl, in one
-// undo step. Files and links are left to the parent widgets.
+// Drag and drop of text from and into a text box. Inside one box a drag moves the text, or copies the text with Ctrl,
+// in one step of undo. Files and links are left to the parent widgets.
 #pragma once
 
 #include <QDropEvent>
@@ -11,14 +11,15 @@ namespace pelmar {
 
 class TextBox;
 
-// Moves or copies the selection to `to` and selects the result. Does not move a selection into itself.
+// Moves or copies the selection to `to` and selects the result. A move into the selection or to its edge does nothing.
 void MoveSelection(TextBuffer& buffer, std::size_t to, bool copy);
 
 class TextDrop {
  public:
   explicit TextDrop(TextBox& box) : box_(box) {}
 
-  // Drags the selection of `box`. Returns after the drop.
+  // Drags the selection of `box`. Returns after the drop or a cancel. After a move to another target, deletes the
+  // selection.
   static void StartDrag(TextBox& box);
 
   void Enter(QDragEnterEvent* event);

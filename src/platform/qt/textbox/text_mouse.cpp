@@ -15,7 +15,7 @@ namespace {
 
 constexpr int kScrollEveryMs = 40;
 
-// The distance to scroll for a pointer at `at`: its distance from the range 0 to `size`.
+// The distance to scroll for a pointer at `at`: negative if `at` is below 0, positive from `size` on, otherwise 0.
 int Overshoot(int at, int size) {
   if (at < 0) return at;
   return at >= size ? at - size + 1 : 0;

@@ -1,5 +1,6 @@
-// The mouse in a text box: sets the caret, selects characters, words and lines, scrolls while the pointer is dragged
-// outside the box, starts drags and pastes with the middle button.
+// The mouse in a text box. A click sets the caret. A drag selects characters, words or lines, and scrolls while the
+// pointer is outside the box. A drag that begins in the selection moves the text. The middle button pastes the primary
+// selection.
 #pragma once
 
 #include <QBasicTimer>
@@ -26,7 +27,7 @@ class TextMouse : public QObject {
   void timerEvent(QTimerEvent* event) override;
 
  private:
-  // kTapping: a finger touches the box. Moving the finger scrolls the text; lifting an unmoved finger sets the caret.
+  // kTapping: a finger touches the box. Moving the finger scrolls the text. Lifting an unmoved finger sets the caret.
   enum class State : std::uint8_t { kIdle, kSelecting, kMayDrag, kTapping };
   enum class Unit : std::uint8_t { kChar, kWord, kLine };
 

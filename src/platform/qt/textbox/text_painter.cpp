@@ -30,7 +30,7 @@ void TextPainter::PaintRow(std::size_t row, QPointF origin, qreal left, qreal ri
 
 void TextPainter::PaintSelection(std::size_t row, TextSpan selected, QPointF begin) const {
   const std::size_t end = layout_.RowEnd(row);
-  // A selected line break is shown as a blank after the line.
+  // A selected line break is shown as a selected blank after the row.
   const bool with_break =
       layout_.EndsLine(row) && row + 1 < layout_.RowCount() && buffer_.SelStart() <= end && buffer_.SelEnd() > end;
   if (selected.begin == selected.end && !with_break) return;

@@ -1,5 +1,5 @@
 // Paints the selection and the glyphs of rows. Leaves a gap for composed text, which TextComposer paints. Holds only
-// references; create an object for each paint.
+// references. Create an object for each paint.
 #pragma once
 
 #include <QColor>
@@ -24,8 +24,8 @@ class TextPainter {
               const TextColours& colours)
       : painter_(painter), buffer_(buffer), layout_(layout), glyphs_(glyphs), colours_(colours) {}
 
-  // Paints the part of a row between `left` and `right`. `origin` is the upper left corner of the row's area; the text
-  // begins RowLeft further right. All in the painter's coordinates.
+  // Paints the part of a row between `left` and `right`. `origin` is the upper left corner of the row's area. The text
+  // begins TextLayout::RowLeft further right. `left`, `right` and `origin` are in the painter's coordinates.
   void PaintRow(std::size_t row, QPointF origin, qreal left, qreal right) const;
   // Makes room for composed text: moves the text after `pos` in the row to the right by `width` pixels.
   void OpenGap(std::size_t row, std::size_t pos, qreal width);

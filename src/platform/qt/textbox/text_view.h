@@ -1,5 +1,5 @@
 // The layout of a text in a text box, with glyphs and margins. Coordinates are pixels from the upper left corner of the
-// scrolled content. The text is laid out on request, so a hidden box costs nothing.
+// scrolled content. The layout is computed only on request, so a hidden box needs no layout.
 #pragma once
 
 #include <QFont>
@@ -21,7 +21,7 @@ class TextView {
   // A letter may extend this many pixels into a neighbouring row, by its accent or because of a fractional scale.
   static constexpr int kOverhang = 2;
 
-  // `viewport_width` is called for each full layout. SetViewportWidth reports changes in between.
+  // `viewport_width` is called for each full layout. Call SetViewportWidth if the width changes in between.
   TextView(const TextBuffer& buffer, std::function<int()> viewport_width)
       : viewport_width_(std::move(viewport_width)), layout_(buffer) {}
 
@@ -35,7 +35,7 @@ class TextView {
   std::optional<RowsChange> Follow(const TextChange& change);
 
   const TextLayout& Layout();
-  // The layout of the last call of Layout, perhaps outdated. The reference is valid as long as the view.
+  // The layout as it is, outdated if a full layout is due. The reference is valid as long as the view.
   [[nodiscard]] const TextLayout& RawLayout() const { return layout_; }
   const GlyphTable& Glyphs();
   [[nodiscard]] TextAlign Align() const { return rules_.align; }
@@ -45,9 +45,9 @@ class TextView {
   // The row at `y`. Above the text the first row, below the text the last row.
   std::size_t RowAt(int y);
   TextPlace PlaceAt(QPoint point);
-  // The left edge of a caret position.
+  // The x of a caret position.
   int StopX(std::size_t row, std::size_t pos);
-  // The cell of the character at `pos`. At the end of a row, a cell that is one pixel wide.
+  // The cell of the character at `pos`. At the end of a line, a cell that is one pixel wide.
   QRect CharRect(std::size_t pos);
 
  private:
