@@ -26,8 +26,8 @@ class Program {
   // Starts the program. `tail` is the result of CommandTail.
   void Run(const std::string& tail);
 
-  // Call before the system ends the program. Keeps the unsaved notes. Unless an accessory runs alone, also keeps the
-  // unsaved documents and calls Session::StoreAll. Shows no message and asks no question.
+  // Call before the system ends the program. Keeps the unsaved notes. If the editor is loaded, and no accessory runs
+  // alone, also keeps the unsaved documents and calls Session::StoreAll. Shows no message and asks no question.
   void KeepUnsaved();
 
   // Call with an error that nobody caught. Keeps the unsaved documents and notes, then shows a message with the error

@@ -1,6 +1,6 @@
 // The two interfaces of the main window that the core uses: its place on the screen, and the look of its text box.
-// Tests replace the window by a simple class. Places and sizes are in twips and include the frame of
-// the window.
+// Tests replace the window by a simple class. Places and sizes are in twips and include the
+// frame of the window.
 #pragma once
 
 #include <cstdint>
@@ -32,7 +32,7 @@ class MainPlace {
   MainPlace& operator=(const MainPlace&) = delete;
   virtual ~MainPlace() = default;
 
-  // A width or height below 1 is replaced by the initial one.
+  // A width or height below 1 is replaced by the initial width or height.
   virtual void SetPlace(const TwipsRect& place) = 0;
   [[nodiscard]] virtual TwipsRect Place() const = 0;
   virtual void SetWindowState(WindowMode state) = 0;

@@ -1,5 +1,5 @@
-// What a rescue file protects: the documents or the notes. Collects the unsaved texts, and brings them back after a
-// crash.
+// What a rescue file protects: the documents or the notes. RescueContent collects the unsaved texts, and brings them
+// back after a crash.
 #pragma once
 
 #include <string>
