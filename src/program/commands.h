@@ -1,4 +1,4 @@
-// Adds the commands that need no window.
+// Adds the commands that need no window, except those that the constructor of Editor adds.
 #pragma once
 
 namespace pelmar {

@@ -15,7 +15,7 @@
 namespace pelmar {
 namespace {
 
-// Reports files whose last save was interrupted.
+// Shows a message with the old contents that killed saves left behind (see kept_content.h).
 void ReportLeftContents(Platform& platform) {
   const std::vector<std::string> left = FindUnreportedCopies(platform.InstallFolder());
   if (left.empty()) return;
@@ -64,8 +64,8 @@ void Program::AddWindows() {
   AddBrowserWindows(parts_);
 }
 
-// False during the load, when the title has a "*" although nothing is unsaved. False if an accessory runs alone,
-// because nobody can change the documents of the hidden editor.
+// False until the end of the load, because the load can put a "*" into the title although nothing is unsaved. False if
+// an accessory runs alone, because nobody can then change the documents of the hidden editor.
 bool Program::KeepsDocuments() const { return loaded_ && session_.Mode() == StartMode::kEditor; }
 
 void Program::ShowAccessory(StartMode mode) {
@@ -81,7 +81,7 @@ void Program::Run(const std::string& tail) {
   session_.Load();
   loaded_ = true;
   session_.Act(tail);
-  // Only the editor offers rescued documents, after its first window is open.
+  // Only the editor reports killed saves and offers rescued documents, after its first window is open.
   if (session_.Mode() != StartMode::kEditor) return;
   QTimer::singleShot(0, &main_, [this] {
     ReportLeftContents(platform_);
@@ -102,7 +102,7 @@ void Program::KeepUnsaved() {
     try {
       session_.StoreAll();
     } catch (const RuntimeError&) {
-      // The rescue file holds the documents, and nobody can read a message.
+      // No message, because the system is about to end the program.
     }
   }
   services_.keep_notes();
@@ -123,7 +123,7 @@ std::string CommandTail(const QStringList& arguments) {
   std::error_code error;
   if (file.is_relative() && std::filesystem::exists(file, error)) {
     const std::filesystem::path whole = std::filesystem::absolute(file, error), plain = whole.lexically_normal();
-    // After a symbolic link, ".." may lead to another folder than in the plain path.
+    // If ".." follows a symbolic link, the plain path may lead elsewhere. Then ".." stays in the result.
     return (std::filesystem::equivalent(plain, whole, error) ? plain : whole).native();
   }
   return PathFromFileUrl(tail).value_or(tail);

@@ -23,15 +23,15 @@ class Program {
  public:
   explicit Program(Platform& platform);
 
-  // Starts the program with the joined command-line arguments (UTF-8).
+  // Starts the program. `tail` is the result of CommandTail.
   void Run(const std::string& tail);
 
-  // Call before the system ends the program. Writes all unsaved texts and the files of Session::StoreAll, without a
-  // message or a question.
+  // Call before the system ends the program. Keeps the unsaved notes. If the editor is loaded, and no accessory runs
+  // alone, also keeps the unsaved documents and calls Session::StoreAll. Shows no message and asks no question.
   void KeepUnsaved();
 
-  // Handles an error that no command caught: keeps the modified documents, then reports the error and the files that
-  // hold the documents. The caller then ends the process.
+  // Call with an error that nobody caught. Keeps the unsaved documents and notes, then shows a message with the error
+  // and with the files of the kept texts. Afterwards the caller must end the process.
   void ReportRuntimeError(const RuntimeError& error);
 
   [[nodiscard]] MainWindow& Main() { return main_; }
@@ -55,12 +55,12 @@ class Program {
   StatusTimer timer_;
   std::vector<Listening> listenings_;
   WindowServices services_;
-  WindowRegistry windows_;  // after all members that its windows use, so that they outlive it
+  WindowRegistry windows_;  // after the members that the windows use: those are destroyed later
   ProgramParts parts_{platform_, editor_, files_, main_, windows_, session_, services_};
 };
 
-// The command-line arguments joined by blanks. The relative path of an existing file becomes absolute, if possible
-// without "." and ".."; a "file://" URL becomes its path.
+// The command-line arguments joined by blanks. If this text is the relative path of an existing file, returns the
+// absolute path, usually without "." and "..". If the text is a "file://" URL of this computer, returns its path.
 std::string CommandTail(const QStringList& arguments);
 
 }  // namespace pelmar

@@ -48,7 +48,7 @@ void Session::Load() {
 void Session::LoadText() {
   const std::string path = InstallPath(kRecoveryName);
   if (FileExists(file_number_, platform_, path)) {
-    // A longer file isn't loaded, and no message appears. The next StoreAll overwrites the file.
+    // A file longer than kLargestDocument isn't loaded. No message says so, and the next StoreAll overwrites the file.
     FileBytes file = platform_.ReadFile(path, kLargestDocument + 1);
     if (file.error != 0) throw Unreadable(path, file.error);
     if (file.bytes.size() <= kLargestDocument) documents_.Buffer().SetText(std::move(file.bytes));

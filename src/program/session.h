@@ -1,5 +1,5 @@
-// The start and the end of a session. Reads and writes the settings file and the file with the last text, and writes
-// the file with all five texts. The order of the steps is required.
+// The start and the end of a session. The start reads the settings file and the file with the last text. The end writes
+// both files, and a third file with the texts of all tabs. The order of the steps is required.
 #pragma once
 
 #include <cstdint>
@@ -16,7 +16,7 @@ namespace pelmar {
 
 class Session : public SessionState {
  public:
-  // Functions that show windows during the start. The main window stays hidden until show_main.
+  // Functions that show windows during the start.
   struct Callbacks {
     std::function<void()> show_config;  // modal
     std::function<void()> show_main;
@@ -27,15 +27,17 @@ class Session : public SessionState {
 
   // Loads the text and the settings, and asks for the person's name and e-mail address if one is missing.
   void Load();
-  // Call if the clipboard's content arrives after the start. Inserts the content into an empty document that wasn't
-  // changed since the load, and doesn't mark the document as changed.
+  // Call if the clipboard's content arrives only after the start. Inserts the content if tab 1 is selected, has no
+  // path, is empty and wasn't changed since the load. Doesn't mark the document as changed.
   void TakeLateClipboard();
-  // Opens the file or shows the window that the command line names. `tail` is the joined command line (UTF-8).
+  // Opens the file or shows the accessory that `tail`, the result of CommandTail, names. If `tail` is empty, shows the
+  // welcome dialog or the main window.
   void Act(std::string_view tail);
 
-  // Calls StoreAll, then asks about unsaved changes. False if the person doesn't want to close.
+  // Calls StoreAll. If there are unsaved changes, then asks whether to close. False if the person refuses.
   bool Close();
-  // Writes the files of the current text, of all texts and of the settings. Throws RuntimeError if a write fails.
+  // Writes three files: the current text, the texts of all tabs, the settings. Throws RuntimeError at the first
+  // failure.
   void StoreAll();
 
   [[nodiscard]] StartMode Mode() const override { return mode_; }
@@ -63,7 +65,7 @@ class Session : public SessionState {
   bool closed_ = false;
 };
 
-// The content of "autosave_all_files.txt": a block for each document, also for an empty one.
+// The content of "autosave_all_files.txt": the ReadableDocument of each document, also of an empty one.
 std::string AllFilesText(const Documents& documents);
 
 }  // namespace pelmar

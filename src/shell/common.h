@@ -13,14 +13,15 @@ namespace pelmar {
 inline constexpr std::string_view kCrLf = "\r\n";
 inline constexpr std::string_view kQuote = "\"";
 
-// Removes the diacritics of Czech letters. Letters of other languages stay.
+// Removes the diacritics of Czech letters. All other characters stay.
 std::string StripDiacritics(std::string_view text);
 
 // Sets each character to upper or lower case at random. Draws one number for each character.
 std::string RandomCase(std::string_view text, const Draw& draw);
 
-// Replaces each exact occurrence of `find`, which is not empty, from the left. required: the search continues at the
-// second character of the replacement, so a new occurrence may begin in the replacement but must end after it.
+// Replaces each exact occurrence of `find`, from the left. `find` must not be empty. required: the search continues one
+// character after the start of the replacement. So an occurrence may begin inside a replacement, but an occurrence that
+// also ends inside the replacement is not found.
 std::string ReplaceAllText(std::string_view text, std::string_view find, std::string_view with);
 
 // The number of characters of code 10.
@@ -29,7 +30,7 @@ std::int32_t CountLineFeeds(std::string_view text);
 // Joins the lines with CR LF.
 std::string JoinLines(const std::vector<std::string_view>& lines);
 
-// A number in the format of the status bar: a blank in place of a plus sign, then the digits.
+// A number in the format of the status bar: a minus sign or a blank, then the digits.
 std::string NumberWithSignBlank(std::int64_t number);
 
 }  // namespace pelmar

@@ -17,13 +17,14 @@ const KnownFile* Documents::CurrentFile() const {
 void Documents::LeaveTab() {
   Current().Text = buffer_.Text();
   Current().Path = current_path_;
-  // required: a change of the text sets the flag only here; saving, opening and a new document clear the flag
+  // required: a change of the text sets Modified only here. Saving, opening and a new document clear Modified.
   if (TitleIsMarked()) Current().Modified = true;
 }
 
 void Documents::EnterTab(int entered) {
   selected_ = entered;
-  // required: when SetText notifies the change, the path of the old tab is still current and is stored in the slot
+  // required: if SetText changes the text, TextChanged runs while the path of the old tab is still current. TextChanged
+  // then stores this path in the slot of the new tab.
   title_follows_ = true;
   buffer_.SetText(std::exchange(Current().Text, {}));
   title_follows_ = false;
@@ -64,7 +65,8 @@ int Documents::EmptyTab() const {
 void Documents::ClearCurrent() {
   SetFace({}, {});
   Current() = {};
-  // required: when SetText notifies the change, the old path is still current and is stored in the slot
+  // required: if SetText changes the text, TextChanged runs while the old path is still current. TextChanged then
+  // stores this path in the cleared slot.
   buffer_.SetText({});
   ForgetPath();
 }
@@ -97,7 +99,7 @@ void Documents::MakeCurrent(const std::string& path) {
 
 void Documents::MakeCurrent(const std::string& path, std::string text) {
   current_path_ = path;                 // required: set before SetText notifies the change
-  title_follows_ = HasExtension(path);  // required: for a name without an extension the title only gets the "*"
+  title_follows_ = HasExtension(path);  // required: without an extension, the title keeps the old path and gets the "*"
   buffer_.SetText(std::move(text));
   title_follows_ = false;
   MakeCurrent(path);

@@ -1,7 +1,7 @@
-// The five documents, which share one text box. required: the state of a document lies in four places, which may
-// disagree. The box holds the current text. CurrentPath() is the path of this text. The tool tip of a tab holds the
+// The five documents, which share one TextBuffer. required: the state of a document lies in four places, which may
+// disagree. The buffer holds the current text. CurrentPath() is the path of this text. The tool tip of a tab holds the
 // path that a switch to the tab restores. The "*" in the title marks unsaved changes. Tabs count from 1. Texts are
-// Windows-1250, all other strings UTF-8.
+// Windows-1250.
 #pragma once
 
 #include <array>
@@ -23,13 +23,13 @@ inline constexpr int kTabCount = 5;
 struct KnownFile {
   std::string path;
   std::optional<FileStamp> stamp;  // taken before the file was read, or after it was written
-  bool utf8 = false;               // the text was UTF-8 when the file was opened, or at a save since then
+  bool utf8 = false;               // the text was UTF-8 when the file was opened or at a later save
 };
 
 struct DocSlot {
-  std::string Text;  // the text of a tab that isn't selected; the box holds the text of the selected tab
+  std::string Text;  // empty for the selected tab, whose text is in the buffer
   std::string Path;
-  bool Modified = false;  // the document had unsaved changes when its tab was left
+  bool Modified = false;  // LeaveTab and Restore set this flag, MakeCurrent and ClearCurrent clear it
   KnownFile known;
 };
 
@@ -54,28 +54,31 @@ class Documents {
   [[nodiscard]] bool TitleIsMarked() const { return title_.marked; }
   [[nodiscard]] TextBuffer& Buffer() { return buffer_; }
   [[nodiscard]] const TextBuffer& Buffer() const { return buffer_; }
-  // The file given to Remember. Null if the path of the current document has changed since.
+  // What Remember stored for the selected tab. Null if CurrentPath() is another path. A document that never had a file
+  // has an empty KnownFile.
   [[nodiscard]] const KnownFile* CurrentFile() const;
   [[nodiscard]] SaveTarget& Target() { return target_; }
 
-  // True if closing the program would lose changes: `Modified` is set, or the current document is marked.
+  // True if closing the program would lose changes of the document. `Modified` is set, or the tab is selected and the
+  // title has the "*".
   [[nodiscard]] bool IsUnsaved(int tab) const;
   [[nodiscard]] int UnsavedCount() const;
 
-  // Searches for an empty tab: first after the current tab, then from tab 1 up to the current tab. 0 if there is none.
+  // The first tab without text, path and unsaved changes, 0 if there is none. Searches the tabs after the selected tab,
+  // then from tab 1 up to the selected tab.
   [[nodiscard]] int EmptyTab() const;
 
-  // Empties the current tab without a question.
+  // Empties the selected tab without a question.
   void ClearCurrent();
-  // Removes the path and the mark of the current document.
+  // Clears CurrentPath() and removes the path and the "*" from the title.
   void ForgetPath();
   // Puts a document rescued after a crash into the tab, selects the tab and marks the document as unsaved.
   void Restore(int tab, std::string text, const std::string& path);
 
-  // Records that the current document equals this file.
+  // Stores the state of the file that was just read or written for the current document.
   void Remember(KnownFile file) { Current().known = std::move(file); }
-  // Makes the path the file of the current document and counts the text as saved. A name without an extension throws
-  // RuntimeError after the current path has been set; nothing else of the document changes then.
+  // Makes the path the file of the current document and counts the text as saved. Throws RuntimeError for a name
+  // without an extension. Then only CurrentPath() and Target() have changed.
   void MakeCurrent(const std::string& path);
   // Loads the text of an opened file and then calls MakeCurrent(path). If this call throws, the text stays loaded.
   void MakeCurrent(const std::string& path, std::string text);
@@ -95,7 +98,7 @@ class Documents {
   void LeaveTab();
   void EnterTab(int entered);
   void TextChanged();
-  void ShowPathInTitle();  // clears the "*"
+  void ShowPathInTitle();  // with CurrentPath() and without the "*"
   void SetTitle(std::string path, bool marked);
   void SetFace(std::string caption, std::string tool_tip);
 
@@ -106,7 +109,7 @@ class Documents {
   std::string current_path_;
   TitleParts title_;
   SaveTarget target_;
-  bool title_follows_ = false;  // the title is set after this change of the text, so title_changed is notified once
+  bool title_follows_ = false;  // SetText is followed by SetTitle, so TextChanged leaves the title alone
   Listening changes_;
 };
 

@@ -22,7 +22,7 @@ struct Editor {
   Commands commands;
 };
 
-// Asks, then clears the current tab.
+// Clears the selected tab if the person confirms.
 void NewDocument(Editor& editor);
 
 }  // namespace pelmar

@@ -39,7 +39,7 @@ void WriteFileOn(FileNumber& number, Platform& platform, const std::string& path
 void WriteRecordOn(FileNumber& number, Platform& platform, const std::string& path, std::string record) {
   const FileNumberGuard open(number);
   const FileBytes old = platform.ReadFile(path, std::nullopt);
-  // A missing file has no tail.
+  // A missing file is no error, because it has no tail to keep.
   if (old.error != ENOENT) Check({.error = old.error}, path, kCantWrite);
   if (old.bytes.size() > record.size()) record += old.bytes.substr(record.size());
   Check(platform.WriteDocument(path, record), path, kCantWrite);

@@ -1,7 +1,7 @@
 // File number 1 is a lock that the whole program shares. An operation on a document or on the program's own files holds
-// the number, so only one operation runs at a time. required: if an error interrupts the opening of a document, the
-// number stays in use, and every later operation fails until the program is restarted. The rescue and the conversions
-// of files don't use the number.
+// the number or checks that nobody holds it. required: if an error interrupts the opening of a document, the number
+// stays in use, and every later operation fails until the program is restarted. The rescue, the help and the
+// conversions of files don't use the number.
 #pragma once
 
 #include <cerrno>
@@ -29,7 +29,7 @@ class FileNumber {
   bool open_ = false;
 };
 
-// Keeps the file number in use during its own lifetime.
+// The constructor opens the file number, the destructor closes the number.
 class FileNumberGuard {
  public:
   explicit FileNumberGuard(FileNumber& number) : number_(number) { number_.Open(); }
@@ -41,17 +41,17 @@ class FileNumberGuard {
   FileNumber& number_;
 };
 
-// True if the file can be opened for reading. required: always false while the number is in use, so that every later
-// operation fails.
+// True if the file can be opened for reading. required: always false while the number is in use.
 bool FileExists(const FileNumber& number, Platform& platform, const std::string& path);
 
 // The error for an existing file that can't be read.
 RuntimeError Unreadable(const std::string& path, int error);
 
-// An extra line for the message about a failed write: where the old content of a damaged file was kept. Usually "".
+// An extra line for the message about a failed write: the file is damaged, and its old content is in outcome.kept. ""
+// if outcome.kept is empty.
 std::string KeptNotice(const WriteOutcome& outcome);
 
-// The functions below access the program's own files and use the file number. All throw RuntimeError if a step fails.
+// The functions below access the program's own files and hold the file number. All throw RuntimeError if a step fails.
 void WriteFileOn(FileNumber& number, Platform& platform, const std::string& path, std::string_view bytes);
 // Overwrites the start of the file and keeps the tail of a longer old file. Never overwrites an unreadable file.
 void WriteRecordOn(FileNumber& number, Platform& platform, const std::string& path, std::string record);

@@ -1,4 +1,4 @@
-// The help: the text of pelmar.txt and the search in it.
+// The help: the text of pelmar.txt and the search in this text.
 #pragma once
 
 #include <optional>
@@ -10,10 +10,11 @@
 
 namespace pelmar {
 
-// The person's own help file, or the file of the package. Nothing if neither can be read, which is reported.
+// The help file in the install folder, otherwise the help file of the package. If neither can be read, shows a message
+// and returns nothing.
 std::optional<std::string> LoadHelp(Platform& platform);
 
-// Selects one hit after another until the person stops. Ignores case.
+// Selects one hit after another until the person stops or there is no further hit. Ignores case.
 void SearchHelp(TextBuffer& buffer, std::string_view term, Platform& platform);
 
 }  // namespace pelmar

@@ -1,5 +1,5 @@
-// The commands of the menu "Vlož" that insert a character, the date, the time or the person's e-mail address at the
-// caret. Texts are Windows-1250.
+// The commands of the menu "Vlož" that insert a character, the date, the time or the person's name and e-mail address.
+// Texts are Windows-1250.
 #pragma once
 
 #include <span>
@@ -17,10 +17,10 @@ struct FixedInsert {
   std::string_view command;
   std::string_view text;
 };
-// The commands keep references to `inserts`.
+// Adds a command for each element. `inserts` must outlive the commands.
 void AddFixedInserts(Editor& editor, std::span<const FixedInsert> inserts);
 
-// "11-24-2026" and "09:05:00". The regional settings of the system change nothing.
+// Texts like "11-24-2026" and "09:05:00". They don't depend on the regional settings of the system.
 std::string DateText(const LocalTime& time);
 std::string TimeText(const LocalTime& time);
 

@@ -9,7 +9,7 @@ constexpr std::string_view kNames[3][3] = {
     {"Vlevo dole", "Dole", "Vpravo dole"},
 };
 
-// The length of a cell: cells 1 and 3 cover half of the screen, cell 2 all of it.
+// In each direction, cells 1 and 3 cover half of the screen, and cell 2 covers the whole screen.
 constexpr int Length(int cell, int whole) { return cell == 2 ? whole : whole / 2; }
 constexpr int Start(int cell, int whole) { return cell == 3 ? whole / 2 : 0; }
 

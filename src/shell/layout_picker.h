@@ -1,4 +1,4 @@
-// The nine places that the layout picker Pos offers: a grid of three columns and three rows over the screen.
+// The nine places that the layout picker Pos offers, one for each cell of a grid with three rows and three columns.
 #pragma once
 
 #include <string_view>
@@ -12,7 +12,7 @@ struct ScreenPlace {
   TwipsRect place;
 };
 
-// Row and column count from 1 to 3. The middle cell covers the whole screen but doesn't maximise the window.
+// Row and column count from 1 to 3. The middle cell covers the whole screen, but doesn't maximise the window.
 ScreenPlace PlaceOfCell(int row, int column, const TwipsRect& screen);
 
 }  // namespace pelmar

@@ -1,5 +1,6 @@
 // The two interfaces of the main window that the core uses: its place on the screen, and the look of its text box.
-// Tests replace the window by a simple class. Sizes are outer sizes in twips.
+// Tests replace the window by a simple class. Places and sizes are in twips and include the frame of the
+// window.
 #pragma once
 
 #include <cstdint>
@@ -31,7 +32,7 @@ class MainPlace {
   MainPlace& operator=(const MainPlace&) = delete;
   virtual ~MainPlace() = default;
 
-  // The initial width or height replaces a value below 1.
+  // A width or height below 1 is replaced by the initial width or height.
   virtual void SetPlace(const TwipsRect& place) = 0;
   [[nodiscard]] virtual TwipsRect Place() const = 0;
   virtual void SetWindowState(WindowMode state) = 0;
@@ -51,9 +52,9 @@ class MainLook {
   MainLook& operator=(const MainLook&) = delete;
   virtual ~MainLook() = default;
 
-  // Sets the editor's font size. Only the six sizes of the menu are valid; any other becomes 8.
+  // Sets the editor's font size to one of the six sizes of the menu. Any other size is replaced by 8.
   void SetEditorFontSize(int size);
-  std::function<void()> on_font_size;  // called after each change of the size, for the font dialog
+  std::function<void()> on_font_size;  // called after each SetEditorFontSize, for the font dialog
 
   // The check marks of bold and italic are set separately, by MarkBold and MarkItalic.
   virtual void SetEditorColors(Color fore, Color back) = 0;
@@ -66,7 +67,7 @@ class MainLook {
   [[nodiscard]] virtual EditorLook Look() const = 0;
 
  protected:
-  // Applies one of the six sizes and checks its menu item.
+  // Applies one of the six sizes and checks only the menu item of this size.
   virtual void ApplyEditorFontSize(int size) = 0;
 };
 

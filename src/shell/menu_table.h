@@ -1,5 +1,5 @@
-// The main menu as a table in display order, the buttons of the toolbar, and the groups of items that the state of the
-// text enables. Captions and tips are UTF-8; "&" marks an access key. The name of an item, or the key of a button, is
+// The main menu as a table in display order, the buttons of the toolbar, and the groups of items that depend on
+// MenuState. Captions and tips are UTF-8; "&" marks an access key. The name of an item, or the key of a button, is
 // also the name of its command.
 #pragma once
 
@@ -43,7 +43,7 @@ struct MenuState {
   bool operator==(const MenuState&) const = default;
 };
 
-// The menu items enabled by each part of the state.
+// The menu items that each field of MenuState enables.
 std::span<const std::string_view> ItemsOfPath();
 std::span<const std::string_view> ItemsOfClipboard();
 std::span<const std::string_view> ItemsOfText();

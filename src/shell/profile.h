@@ -18,14 +18,15 @@ struct ProfileFields {
 
 enum class ProfileField { kNone, kName, kEmail, kPassword };
 
-// The field that is refused and the message about it (UTF-8). kNone if all fields are accepted.
+// The first refused field and the message about this field (UTF-8). kNone if all fields are accepted.
 struct ProfileComplaint {
   ProfileField field = ProfileField::kNone;
   std::string_view message = {};
 };
 ProfileComplaint CheckProfile(const ProfileFields& fields);
 
-// Stores name, address and password. required: without the check mark the password is stored without a comparison.
+// Stores name, address and password. required: without `check_password` the password is stored although nobody compared
+// it with `password_again`.
 void StoreProfile(const ProfileFields& fields, SettingsRecord& settings);
 
 }  // namespace pelmar

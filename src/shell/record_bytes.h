@@ -34,7 +34,7 @@ class RecordWriter {
  public:
   void Number(std::uint64_t value, std::size_t size);
   void Bytes(std::string_view bytes) { bytes_ += bytes; }
-  // Writes a string in the reader's format. A text longer than the largest possible count is cut.
+  // Writes the text so that RecordReader::String can read it. A text longer than the largest possible count is cut.
   void String(std::string_view text, std::size_t count_size);
   std::string Take() && { return std::move(bytes_); }
 
@@ -42,10 +42,10 @@ class RecordWriter {
   std::string bytes_;
 };
 
-// Puts a signature and a checksum before the body. They detect incomplete, damaged and foreign files,
-// but no deliberate changes.
+// Puts a signature and a checksum before the body. SealedBody then detects incomplete, damaged and foreign files, but
+// no deliberate changes.
 std::string Sealed(std::string_view signature, std::string_view body);
-// The body of sealed bytes. Nothing if the signature or the checksum differs.
+// The body of sealed bytes. Nothing if the signature or the checksum is missing or wrong.
 std::optional<std::string_view> SealedBody(std::string_view signature, std::string_view bytes);
 
 }  // namespace pelmar

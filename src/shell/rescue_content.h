@@ -1,5 +1,5 @@
-// What a rescue file protects: the documents or the notes. Collects the unsaved texts, and brings them back after a
-// crash.
+// What a rescue file protects: the documents or the notes. RescueContent collects the unsaved texts, and brings them
+// back after a crash.
 #pragma once
 
 #include <string>
@@ -10,13 +10,13 @@
 
 namespace pelmar {
 
-// UTF-8, except for the file name.
+// Texts for the person (UTF-8), and the name of a file.
 struct RescueWords {
   std::string_view found;         // the part of the question before the number of texts
   std::string_view wanted;        // the part of the question after the number of texts
   std::string_view kept;          // the kind of text, for the notice after an error
   std::string_view next_time;     // when the program will offer to restore the texts
-  std::string_view rest_name;     // the file for texts that don't come back
+  std::string_view rest_name;     // the name of the file for texts that don't come back
   std::string_view rest_message;  // the message about this file
 };
 

@@ -1,5 +1,5 @@
 // The format of a rescue file, which holds the unsaved documents or notes of one running copy of the program. A later
-// start reads the file after a crash or a power loss. The bytes have a signature and a checksum; other bytes are
+// start reads the file after a crash or a power loss. A file whose signature or checksum is wrong is
 // refused.
 #pragma once
 
@@ -10,7 +10,7 @@
 
 namespace pelmar {
 
-// The kind of the texts. The file name begins with the prefix. No kind's prefix is the start of another's.
+// The kind of the texts. The name of the rescue file begins with the prefix. No prefix is the start of another prefix.
 struct RescueKind {
   std::string_view prefix;
   std::string_view signature;
@@ -21,7 +21,7 @@ inline constexpr int kRescuePlaces = 5;
 
 struct RescuedText {
   int place = 1;       // the tab or the page, from 1
-  std::string origin;  // a document's path (UTF-8, empty if never saved), or the last stored text of a notes page
+  std::string origin;  // a document's path ("" if it has none), or the last stored text of a notes page
   std::string text;
   bool operator==(const RescuedText&) const = default;
 };
@@ -35,7 +35,7 @@ struct RescueRecord {
 // The content of a rescue file, "" if there is no text to keep.
 std::string RescueBytes(const RescueKind& kind, const RescueRecord& record);
 
-// Nothing if RescueBytes didn't write these bytes or they are incomplete. Never allocates more than the bytes' size.
+// Nothing if the bytes are incomplete or damaged, or if RescueBytes didn't make them for this kind.
 std::optional<RescueRecord> ReadRescue(const RescueKind& kind, std::string_view bytes);
 
 }  // namespace pelmar

@@ -24,7 +24,7 @@ std::string FileName(std::string_view prefix) {
          std::to_string(std::chrono::duration_cast<std::chrono::microseconds>(now).count()) + std::string(kSuffix);
 }
 
-// The names of all rescue files in the folder, including files of which only the lock exists.
+// The names of all rescue files in the folder. Includes the name of a missing rescue file whose lock still exists.
 std::set<std::string> RescueNames(const std::string& folder, std::string_view prefix) {
   std::set<std::string> names;
   std::error_code error;
@@ -60,7 +60,7 @@ std::vector<std::string> FindAbandoned(const std::string& folder, std::string_vi
   if (names.empty() || offer.IsHeld() || offer.Take(folder + std::string(prefix) + "offer.lock") != 0) return {};
   std::vector<std::string> found;
   for (const std::string& name : names) {
-    LockFile lock;  // a lock without a rescue file is removed here too
+    LockFile lock;  // the destructor removes the lock, even if there is no rescue file
     if (lock.Take(LockPath(folder + name)) != 0) continue;
     if (access((folder + name).c_str(), F_OK) == 0) found.push_back(folder + name);
   }

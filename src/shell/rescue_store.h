@@ -1,5 +1,5 @@
-// Rescue files in the install folder. Each running copy of the program has one file for documents and one for notes. A
-// lock shows other copies that the file is in use. Writes are atomic. Call from one thread at a time.
+// Rescue files in the install folder. Each running copy of the program has at most one file for documents and one for
+// notes. A lock for each file shows other copies that the file is in use. Call from one thread at a time.
 #pragma once
 
 #include <functional>
@@ -21,7 +21,7 @@ class RescueStore {
   RescueStore(const RescueStore&) = delete;
   RescueStore& operator=(const RescueStore&) = delete;
 
-  // Writes this copy's file; empty bytes remove the file. Returns 0 or errno.
+  // Writes this copy's file. Empty bytes remove the file. Returns 0 or errno.
   int Keep(std::string_view bytes);
   // The path of this copy's file. After a crash the next start finds the file there.
   [[nodiscard]] const std::string& Path() const { return path_; }
@@ -34,8 +34,8 @@ class RescueStore {
   LockFile lock_;
 };
 
-// The rescue files of copies that are no longer running, sorted. If there are any, takes the lock `offer`, so that only
-// one copy offers them. Finds none while another copy holds this lock.
+// The sorted paths of the rescue files of copies that are no longer running. If there are any, `offer` then holds a
+// lock, so that only one copy offers these files. Finds none if `offer` already holds this lock or can't take it.
 std::vector<std::string> FindAbandoned(const std::string& folder, std::string_view prefix, LockFile& offer);
 
 }  // namespace pelmar

@@ -1,5 +1,5 @@
-// Writes this copy's rescue file in a thread of its own, or at once in the calling thread. Call all functions from one
-// thread.
+// Writes the rescue file of this copy of the program, in a second thread or at once in the calling thread. Call all
+// functions from one thread.
 #pragma once
 
 #include <atomic>
@@ -22,8 +22,8 @@ class RescueWriter {
   RescueWriter(const RescueWriter&) = delete;
   RescueWriter& operator=(const RescueWriter&) = delete;
 
-  // Writes the record in the other thread if it differs from the last one written. Calls `done` in that thread with 0
-  // or errno. If no thread can be started, calls `done` with EAGAIN in the calling thread. Waits for an earlier write.
+  // Waits for an earlier write. Then the second thread writes the record, unless the file already holds this record,
+  // and calls `done` with 0 or errno. If no thread can be started, calls `done` with EAGAIN in the calling thread.
   void Start(RescueRecord record, std::function<void(int error)> done);
   [[nodiscard]] bool IsRunning() const { return running_; }
   // Waits for the running write and its call of `done`.
@@ -33,7 +33,7 @@ class RescueWriter {
   // Waits for the running write, then removes the file.
   void Remove();
 
-  // True if the last write succeeded and the file holds texts. No write may be running.
+  // True if the last write succeeded and the file holds texts. Call only when no write is running.
   [[nodiscard]] bool HasWritten() const { return written_ && !written_->texts.empty(); }
   [[nodiscard]] const RescueStore& Store() const { return store_; }
 
@@ -42,7 +42,7 @@ class RescueWriter {
 
   const RescueKind kind_;
   RescueStore store_;
-  std::optional<RescueRecord> written_;  // the content of the file, nothing after a failure
+  std::optional<RescueRecord> written_;  // the content of the file, if known
   std::atomic<bool> running_ = false;
   std::thread thread_;
 };

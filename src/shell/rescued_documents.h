@@ -11,7 +11,7 @@
 
 namespace pelmar {
 
-// A document for a person to read: a line with the result of StoredPath, then the text.
+// A document for a person to read: a line with "Soubor:" and StoredPath(path), then the text and an empty line.
 std::string ReadableDocument(std::string_view path, std::string_view text);
 
 // The documents with unsaved changes.
@@ -21,8 +21,8 @@ class DocumentsRescue : public RescueContent {
 
   [[nodiscard]] RescueRecord Unsaved() const override;
   [[nodiscard]] std::string Readable(const std::vector<RescuedText>& texts) const override;
-  // Puts each document into the tab from which it came. If this tab holds a file or another restored document, the
-  // first empty tab is used.
+  // Puts each document into the tab from which it came. If this tab has a path or got another rescued document, uses
+  // the first tab without path, text and rescued document.
   std::vector<RescuedText> BringBack(const std::vector<RescueRecord>& records) override;
 
  private:

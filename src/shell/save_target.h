@@ -1,5 +1,5 @@
-// The path that fills the fields of the dialog Ulož. Each open, each save and each switch to a tab with a path sets
-// this path, so the dialog needn't exist yet. Paths are UTF-8.
+// The path that fills the fields of the dialog Ulož. Each open and each save of a document sets this path. A switch to
+// a tab sets the path if the tab's path has an extension.
 #pragma once
 
 #include <string>
@@ -14,9 +14,9 @@ class SaveTarget {
   // Sets the path. A name without an extension leaves Name() and Extension() as they were, and throws RuntimeError.
   void SetPath(const std::string& path);
 
-  // False if no path was set yet; the dialog then keeps its initial fields.
+  // False if no path was set yet. Then the dialog keeps its initial fields.
   [[nodiscard]] bool HasPath() const { return !path_.empty(); }
-  // False if the last SetPath threw; name and extension are then still the old ones.
+  // False if the last SetPath threw. Then Name() and Extension() are still the old ones.
   [[nodiscard]] bool Complete() const { return file_ == path_; }
 
   [[nodiscard]] const std::string& Path() const { return path_; }
@@ -24,7 +24,7 @@ class SaveTarget {
   [[nodiscard]] std::string Name() const { return file_.empty() ? std::string() : FilePart(file_, 2); }
   [[nodiscard]] std::string Extension() const { return file_.empty() ? std::string() : FilePart(file_, 3); }
 
-  // Notified after each SetPath, also after one that throws.
+  // Notified by each SetPath, also by one that throws.
   Listeners<> path_set;
 
  private:

@@ -12,7 +12,7 @@ class SessionState {
   // The editor, or the accessory that is the whole program.
   [[nodiscard]] virtual StartMode Mode() const = 0;
 
-  // True after a confirmed close: the program is ending and the settings are already stored.
+  // True once the person can no longer refuse the close. The program is ending, and the settings are already stored.
   [[nodiscard]] virtual bool Closed() const = 0;
 
   // Copies the place and the look of the main window into the settings, but not its WindowState. Then writes the

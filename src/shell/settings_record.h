@@ -1,6 +1,6 @@
-// The settings that "pelmar.ini" stores, and their format: little-endian numbers, 16-bit booleans (-1 is true),
-// strings as a 16-bit byte count and that many bytes, without signature or padding. Texts are Windows-1250, except
-// RecentFiles, which are UTF-8 in memory; StoredPath says how they are stored.
+// The settings that "pelmar.ini" stores. The file holds the fields one after the other, without signature or padding.
+// Numbers are little-endian. A boolean has 16 bits and is stored as 0 or -1. A string is a 16-bit byte count and that
+// many bytes. Texts are Windows-1250. RecentFiles are paths, which the file stores in the form of StoredPath.
 #pragma once
 
 #include <array>
@@ -12,7 +12,7 @@
 
 namespace pelmar {
 
-// In twips. A window snaps to an edge of the screen that is nearer than this distance. The person can change the value.
+// The initial AutosnapDistance, in twips. A window snaps to an edge of the screen that is nearer than AutosnapDistance.
 inline constexpr std::int32_t kDefaultAutosnapDistance = 240;
 
 // Fields named after the stored format (in SettingsRecord) or after properties of the tabs (in DocSlot and TabFace)

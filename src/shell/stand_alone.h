@@ -10,8 +10,8 @@ namespace pelmar {
 // The editor, or the accessory that runs alone.
 enum class StartMode { kEditor, kCalculator, kNotes, kBrowser };
 
-// Asks whether to close `accessory` (in the accusative, as in "Poznámky"). If true, the caller ends the process at
-// once: these modes store neither the settings nor the documents.
+// Asks whether to close `accessory` (its Czech name in the accusative, for example "Kalkulačku"). If true, the caller
+// ends the program and stores neither the settings nor the documents.
 bool MayEndStandAlone(Platform& platform, std::string_view accessory);
 
 }  // namespace pelmar

@@ -10,8 +10,8 @@
 namespace pelmar {
 
 struct TempFile {
-  int error = 0;       // 0 or errno
-  std::string path;    // UTF-8
+  int error = 0;       // 0 or errno, EEXIST after too many taken names
+  std::string path;    // with the folder
   std::string digits;  // the part of the name between `start` and `end`
 };
 

@@ -1,4 +1,4 @@
-// The version as the program writes it. A macro, because string literals are joined with it. The forms o.ui and
+// The version as the program writes it. A macro, so that it can be joined with string literals. The forms o.ui and
 // start.ui, the help data/pelmar.txt, CMakeLists.txt and the metainfo in packaging/desktop repeat the number.
 #pragma once
 

@@ -11,14 +11,14 @@ namespace pelmar {
 
 inline constexpr int kPanelCount = 7;
 
-// Moves a window to an edge of its screen that is nearer than `distance`. A window almost as wide or high as the screen
-// gets the screen's width or height. The screen needn't begin at 0, 0.
+// The place of a window after it has snapped to the screen. If the window is nearer than `distance` to an edge of the
+// screen, or beyond the edge, it goes to the edge. Near two opposite edges it gets the width or height of the screen.
 TwipsRect Snap(TwipsRect window, int distance, const TwipsRect& screen);
 
 // Limits the requests to move a window, because some window managers ignore such requests, briefly or always.
 class PlaceRequests {
  public:
-  // False if a window at `now` ignored too many requests to go to `wanted`.
+  // Call before each request. False if the window at `now` has ignored too many requests in a row to go to `wanted`.
   bool MayRequest(const TwipsRect& now, const TwipsRect& wanted);
 
  private:
@@ -27,8 +27,8 @@ class PlaceRequests {
   int ignored_ = 0;
 };
 
-// The new width of panel 4, or nothing if the width stays. required: the sum of `widths` includes panel 4, so that its
-// width alternates between two values if both are above 0.
+// The new width of panel 4, or nothing if the width stays. required: the sum of `widths` includes panel 4. So repeated
+// calls alternate between two widths of panel 4 if both are above 0.
 std::optional<int> SparePanelWidth(int outer_width, const std::array<int, kPanelCount>& widths);
 
 struct LayoutInput {

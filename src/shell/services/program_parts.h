@@ -1,5 +1,5 @@
 // The parts from which all subsystems make their windows and commands. Each function Add...Windows below is defined
-// beside the windows that it adds. The parts outlive every window.
+// beside the windows that it adds. The objects in ProgramParts outlive the windows made from them.
 #pragma once
 
 #include <functional>
@@ -24,14 +24,14 @@ struct FolderBrowser;
 // Functions that the windows of one subsystem offer to other windows and to Program. The function that registers a
 // window also sets the services that this window offers.
 struct WindowServices {
-  // Shows a file in the internal browser. The path is UTF-8; an empty path does nothing.
+  // Shows a file in the internal browser. An empty path does nothing.
   std::function<void(const std::string& path)> show_in_browser;
   // Asks for a colour, with the given one as the initial choice.
   std::function<Color(Color)> pick_color;
   // Shows an accessory as the whole program.
   std::map<StartMode, std::function<void()>> show_alone;
-  // Saves unsaved notes at once, before an error or the system ends the program. Returns a notice with their place,
-  // UTF-8, or "" if there were no unsaved notes.
+  // Keeps the unsaved notes at once, before an error or the system ends the program. Returns a notice for the person
+  // about these notes, UTF-8, or "" if there are none.
   std::function<std::string()> keep_notes;
   // The folder browsers of all dialogs that pick files. Each function creates its dialog if necessary.
   std::vector<std::function<FolderBrowser()>> folder_browsers;

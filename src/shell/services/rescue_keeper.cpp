@@ -12,7 +12,7 @@
 namespace pelmar {
 namespace {
 
-// In milliseconds. Leaves time to finish the write within the promised two seconds.
+// The time from a change to its write, in milliseconds. Leaves time to finish the write within two seconds.
 constexpr int kDelay = 1000;
 // A failed write is repeated. The pauses double from kDelay up to this limit in milliseconds.
 constexpr int kLongestPause = 60'000;
@@ -44,9 +44,9 @@ std::optional<RescueRecord> RescueKeeper::CopyUnsaved() const {
 }
 
 void RescueKeeper::WriteInThread() {
-  // Waits for the running write on a slow disk. The next write takes the latest text.
+  // On a slow disk an earlier write may still be running. Then the function runs again later, with the latest texts.
   if (writer_.IsRunning()) return timer_.start(kDelay);
-  // The interface thread only copies the texts; the rest is done in the other thread.
+  // The interface thread only copies the texts. The other thread does the rest.
   auto now = CopyUnsaved();
   if (!now) return AfterWrite(ENOMEM);
   writer_.Start(std::move(*now), [this, write = ++writes_](int error) {
@@ -84,7 +84,8 @@ void RescueKeeper::ReportFailure(int error) {
   if (std::exchange(failure_, error) != error && on_failure) on_failure(error);
 }
 
-// Call after the restored texts are written. Writes all other texts to a text file, then removes the old rescue files.
+// Call after the restored texts are in this copy's rescue file. Writes the refused texts and the texts without a place
+// to a text file, then removes the old rescue files.
 void RescueKeeper::RemoveOldFiles() {
   if (owed_.files.empty()) return;
   if (!owed_.rest.empty()) {
@@ -142,11 +143,13 @@ void RescueKeeper::End() {
   ReportFailure(0);
 }
 
-// Reads rescue files and keeps in `files` only the names of complete files. The other files stay on disk.
+// Reads the rescue files, and returns their texts that the program doesn't have yet. Removes damaged files from the
+// list `files`, but not from the disk.
 std::vector<RescueRecord> RescueKeeper::ReadAbandoned(std::vector<std::string>& files) {
   std::vector<RescueRecord> records;
   std::vector<RescuedText> seen;
-  // A text is in two files if a copy of the program crashed between keeping the text and removing the old file.
+  // A text can be in two files: a copy of the program may crash after it kept the text and before it removed the old
+  // file.
   const auto superfluous = [&](const RescuedText& text) {
     if (content_.IsHere(text) || std::ranges::find(seen, text) != seen.end()) return true;
     seen.push_back(text);
@@ -176,7 +179,8 @@ void RescueKeeper::Offer() {
     wanted = platform_.Confirmed(question, "Záchrana");
   }
   if (wanted) left = content_.BringBack(records);
-  // Set only after the question, because a rescue file written during the question doesn't hold these texts yet.
+  // Set only after the question. Otherwise a write during the question would remove the old files, although this copy's
+  // rescue file doesn't hold their texts yet.
   owed_.files = std::move(files);
   // Texts without a place, or refused by the person, stay readable in a text file until the next rescue.
   owed_.rest = content_.Readable(left);

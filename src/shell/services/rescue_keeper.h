@@ -1,6 +1,6 @@
-// Writes unsaved documents or notes to a rescue file within two seconds of a change, in a separate thread. Each running
-// copy of the program has its own rescue file. Offers the texts of crashed copies, and removes their rescue files once
-// all these texts are on disk again.
+// Writes unsaved documents or notes to a rescue file in a separate thread, usually within two seconds of a change. Each
+// running copy of the program has its own rescue file. Offers the texts of crashed copies. Once all these texts are on
+// disk again, removes the rescue files of the crashed copies.
 #pragma once
 
 #include <QObject>
@@ -28,18 +28,20 @@ class RescueKeeper : public QObject {
  public:
   RescueKeeper(RescueContent& content, Platform& platform);
 
-  // Call after a change. The rescue file is written within two seconds.
+  // Call after a change. The write begins within a second, or later if an earlier write is still running.
   void KeepSoon();
   // Writes at once in the calling thread. If this fails, writes a readable file into the temporary folder.
   Kept KeepNow();
   // The notice for a person when an error ends the program, UTF-8; "" if there was nothing to keep.
   [[nodiscard]] std::string NoticeOf(const Kept& kept) const;
-  // Asks whether to restore the texts of crashed copies. Doesn't ask if there are none.
+  // Asks whether to restore the texts of crashed copies, and restores them if the person agrees. Asks nothing if there
+  // are no such texts.
   void Offer();
-  // Call at a normal end of the program. Removes this copy's rescue file.
+  // Call when no text needs rescue any more, for example at a normal end of the program. Removes this copy's rescue
+  // file.
   void End();
 
-  // Called with errno when writing begins to fail, and with 0 when it works again.
+  // Called when the result of a write differs from the last result: with an errno, or with 0 when writing works again.
   std::function<void(int error)> on_failure;
 
  private:

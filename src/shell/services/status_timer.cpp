@@ -34,7 +34,7 @@ void StatusTimer::SnapWindows() {
   }
 }
 
-// Updates only panels whose content has changed, because the document and the clipboard may be long.
+// Updates only panels whose content may have changed, because a long document or clipboard takes time.
 void StatusTimer::ShowPanels(std::uint64_t clipboard_revision, const std::optional<std::string>& clipboard) {
   const TextBuffer& buffer = editor_.text;
   StatusStrip& bar = window_.Bar();
@@ -51,7 +51,7 @@ void StatusTimer::ShowPanels(std::uint64_t clipboard_revision, const std::option
 void StatusTimer::Tick() {
   SnapWindows();
   if (!window_.MainActive()) return;
-  // Read the revision before the text: another program may fill the clipboard in between.
+  // Read the revision before the text. If the clipboard changes in between, the next tick then sees a new revision.
   const std::uint64_t revision = editor_.platform.ClipboardRevision();
   const std::optional<std::string>& clipboard = editor_.platform.ClipboardContent();
   // A change of the menu bar would close an open menu.
@@ -60,7 +60,7 @@ void StatusTimer::Tick() {
   ShowPanels(revision, clipboard);
   StatusStrip& bar = window_.Bar();
   bar.Show(editor_.platform.Keys());
-  // No file operation runs while the main window is active, so a number in use was left by a failed operation.
+  // No file operation runs while the main window is active. So if the number is in use, a failed operation left it so.
   bar.Warn(Warning::kFilesStuck, editor_.file_number.IsOpen() ? kFilesStuck.toString() : QString());
   window_.WidenContentPanel();
 }

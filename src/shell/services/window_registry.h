@@ -1,5 +1,5 @@
-// Owns every window except the main one and short-lived dialogs. Creates each window at its first use by its registered
-// function, which passes the window's dependencies to its constructor.
+// Owns every window except the main one and short-lived dialogs. Each window has a registered function, which creates
+// the window at the first use and passes the dependencies to the constructor.
 #pragma once
 
 #include <QWidget>
@@ -15,13 +15,13 @@ class WindowRegistry {
   // Returns a new window, or null if a module that the window needs is not installed.
   using Maker = std::function<std::unique_ptr<QWidget>()>;
 
-  // `make` must return a Window, which the registry will own.
+  // `make` must return a Window, which the registry will own, or null.
   template <class Window>
   void Register(Maker make) {
     entries_[typeid(Window)].make = std::move(make);
   }
 
-  // Returns the window; the first call creates it. Throws std::out_of_range if the window isn't registered, and
+  // Returns the window, and creates it if necessary. Throws std::out_of_range if the window isn't registered, and
   // std::logic_error if it can't be created.
   template <class Window>
   Window& Get() {
@@ -29,7 +29,7 @@ class WindowRegistry {
   }
   QWidget& Get(std::type_index window);
 
-  // The window, or null if it hasn't been created.
+  // The window, or null if there is none at present.
   template <class Window>
   Window* Find() {
     return static_cast<Window*>(Find(typeid(Window)));
@@ -45,8 +45,8 @@ class WindowRegistry {
   // Visits every window and creates missing ones. A window that can't be created is skipped.
   void ForEach(const std::function<void(QWidget&)>& visit);
 
-  // Removes the window, so its next use creates a new one. The window is destroyed only after the current event, which
-  // may be the window's own close event.
+  // Removes the window, so that the next use creates a new one. The removed window is destroyed only after the current
+  // event, which may be its own close event.
   template <class Window>
   void Unload() {
     Unload(typeid(Window));

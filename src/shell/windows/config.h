@@ -1,4 +1,4 @@
-// The modal dialog `Config` for the user's profile: name, e-mail and the password of the lock.
+// The modal dialog `Config` for the person's profile: name, e-mail and the password of the lock.
 #pragma once
 
 #include <functional>

@@ -1,4 +1,5 @@
-// The dialog that selects and orders the toolbar's buttons. Changes apply at once and are lost at the program's end.
+// The dialog in which the person hides, shows and orders the buttons of the toolbar. Changes apply at once and are lost
+// at the program's end.
 #pragma once
 
 #include "platform/qt/controls/dialog_window.h"

@@ -1,4 +1,5 @@
-// The about window `O`: version, user, notes of this version, and a name whose letters change under the mouse.
+// The about window `O`: version, user, notes, and a name. When the mouse moves over the name, its letters change their
+// case.
 #pragma once
 
 #include "platform/platform.h"

@@ -35,7 +35,7 @@ QAccessibleInterface* MakeEmptyWindow(const QString&, QObject* object) {
   return object->isWidgetType() && object->property(kAway).toBool() ? new EmptyWindow(object) : nullptr;
 }
 
-// Deletes Qt's cached descriptions of a window, so that assistive technology gets new ones.
+// Deletes Qt's cached descriptions of a window and its widgets, so that assistive technology gets new ones.
 void ForgetFaces(QWidget& window) {
   QList<QWidget*> widgets = window.findChildren<QWidget*>();
   widgets.append(&window);

@@ -1,4 +1,4 @@
-// Hides windows of the program, on the screen and from assistive technology, as long as the object exists.
+// Hides windows of the program on the screen and from assistive technology.
 #pragma once
 
 #include <QObject>
@@ -8,7 +8,7 @@
 
 namespace pelmar {
 
-// The windows get no hide and show events, so they come back unchanged.
+// The destructor shows the windows again. They get no hide and show events, so they come back unchanged.
 class OtherWindowsAway : public QObject {
  public:
   // Hides every visible window except `staying`.

@@ -17,7 +17,7 @@ class Pass : public FormDialog<Ui::Pass> {
   Q_OBJECT
 
  public:
-  // `hide_text` is called with true when the dialog appears, and with false after the right password.
+  // `hide_text` is called with true before the dialog appears, and with false after the right password.
   Pass(const SettingsRecord& settings, Platform& platform, std::function<void(bool)> hide_text, QWidget* parent);
 
   // Shows the lock and waits until the password is right.

@@ -19,7 +19,7 @@ Pos::Pos(MainPlace& main, QWidget* parent) : FormDialog(parent), main_(main) {
   connect(ui_->Command1, &QPushButton::clicked, this, &Pos::hide);
 }
 
-// Clears the marked cell when the mouse is outside the grid.
+// Unmarks the marked cell when the mouse moves in the dialog outside the grid.
 void Pos::mouseMoveEvent(QMouseEvent* event) {
   ui_->Label1->clear();
   ui_->Picture1->Clear();

@@ -1,5 +1,6 @@
-// The welcome dialog `Start` appears at launch instead of the main window, or from the menu. Any key except a modifier
-// closes the dialog.
+// The welcome dialog `Start`. A menu item shows the dialog, and so does a start of the program without arguments,
+// unless the person has turned this off. Any key except modifiers and lock keys closes the dialog and shows the main
+// window.
 #pragma once
 
 #include <functional>

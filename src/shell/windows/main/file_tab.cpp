@@ -63,7 +63,8 @@ void FileTab::SetStripWidth(int width) {
   update();
 }
 
-// All tabs have the same length if their captions fit. Otherwise tabs without a caption shrink.
+// All tabs have the same length if the widest caption fits, or if the window is very low. Otherwise tabs without a
+// caption shrink.
 QSize FileTab::tabSizeHint(int index) const {
   int widest = 0, unnamed = 0;
   for (int at = 0; at < kTabCount; ++at) {

@@ -17,7 +17,7 @@
 namespace pelmar {
 namespace {
 
-// Removes the middle of a path that is wider than the screen, so that its file name stays visible.
+// Removes the middle of an item that is wider than the screen. So the file name usually stays visible.
 QString ElidedToScreen(const QString& item) {
   constexpr int kRestOfMenu = 80;  // pixels
   const int space = QGuiApplication::primaryScreen()->availableSize().width() - kRestOfMenu;
@@ -89,7 +89,7 @@ void MainToolbar::Arrange(const QList<QAction*>& order) {
   }
 }
 
-// Qt's buttons react only to the space bar, so the other keys are handled here.
+// Qt's buttons react only to the space bar, so Enter, Escape and Down are handled here.
 bool MainToolbar::TakesKey(QWidget& receiver, const QKeyEvent& press) {
   auto* button = qobject_cast<QToolButton*>(&receiver);
   if (button == nullptr) return false;

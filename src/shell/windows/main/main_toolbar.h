@@ -15,12 +15,12 @@ class MainToolbar : public QToolBar {
  public:
   MainToolbar(const Commands& commands, Files& files, QWidget* parent = nullptr);
 
-  // Enables every button whose command exists. Call after commands were added.
+  // Enables every button whose command exists, and disables the others. Call after commands were added.
   void Refresh();
   void ShowRecentFiles();
   // Shows all buttons and separators in their original order.
   void Reset();
-  // Changes the order of the actions.
+  // Puts the actions in this order. `order` contains all actions and separators.
   void Arrange(const QList<QAction*>& order);
 
  Q_SIGNALS:

@@ -23,7 +23,7 @@ namespace pelmar {
 namespace {
 
 // The minimum size of the window. The constructor limits this size to half of the screen, because the layout picker
-// makes the window half as wide and high as the screen.
+// can make the window half as wide and high as the screen.
 constexpr QSize kSmallest(480, 320);
 // The size at the first start, with space for the whole toolbar.
 constexpr QSize kFirstSize(820, 560);
@@ -37,7 +37,7 @@ std::vector<std::string> DroppedFiles(const QMimeData* mime) {
   return paths;
 }
 
-// One path on each line, at most as many as a message can hold.
+// The first ten paths, one on each line. If there are more, the last line is their number.
 std::string ListOf(const std::vector<std::string>& paths) {
   constexpr std::size_t kMost = 10;
   std::string list;
@@ -163,8 +163,8 @@ LayoutInput MainWindow::Measures() const {
 }
 
 void MainWindow::ApplyLayout() {
-  // Until the first tick the width of panel 4 is computed from 0. Otherwise each small change of the window's size
-  // would make this width alternate.
+  // Before the first tick each call computes the width of panel 4 from 0. Otherwise this width would alternate with
+  // each call (see SparePanelWidth).
   if (!ticked_) bar_->SetWidth(4, 0);
   const LayoutInput in = Measures();
   const LayoutResult out = ComputeLayout(in);
@@ -194,7 +194,7 @@ void MainWindow::WidenContentPanel() {
 void MainWindow::FitToFrame() {
   if (fitted_) return;
   fitted_ = true;
-  // Setting the icon renders it, so the icon waits until the window is visible.
+  // Setting the icon takes time for rendering, so the icon is set only when the window is visible.
   ShowProgramIcon();
   placement_.Begin({}, window_state_ == WindowMode::kMaximised);
 }
@@ -218,7 +218,7 @@ TwipsRect MainWindow::Place() const {
   if (!isMinimized()) return OuterGeometry(*this);
   // A window that started minimised has no frame yet.
   if (!placement_.FrameKnown()) return wanted_place_;
-  // A minimised window keeps its normal place.
+  // The place that the window has when it is no longer minimised.
   const QRect normal = normalGeometry();
   const QMargins frame = windowHandle() != nullptr ? windowHandle()->frameMargins() : QMargins();
   const QRect outer = normal.marginsAdded(frame);
@@ -232,8 +232,8 @@ WindowMode MainWindow::WindowState() const {
   return isMaximized() ? WindowMode::kMaximised : WindowMode::kNormal;
 }
 
-// A normal window may have another frame than a maximised one. The window manager reports the frame later, and
-// Placement then corrects the outer size.
+// A normal window may have another frame than a maximised one. The window manager reports the new frame later.
+// Then Placement corrects the outer place.
 void MainWindow::SetNormalState() {
   if (!isMaximized() && !isMinimized()) return;
   placement_.Begin(windowHandle()->frameMargins());
@@ -316,7 +316,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
-  // The system delivers drops even while a dialog or the lock is open.
+  // The system delivers drops even while a dialog or the lock is open. Such drops are refused.
   if (QApplication::activeModalWidget() != nullptr) return;
   if (!DroppedFiles(event->mimeData()).empty()) event->acceptProposedAction();
 }
@@ -330,8 +330,8 @@ void MainWindow::dropEvent(QDropEvent* event) {
 
 void MainWindow::OpenDropped(std::vector<std::string> paths) {
   activateWindow();
-  // Opening a file without an extension makes every later file operation fail. A drop by mistake must not cause this
-  // failure.
+  // Opening a file without an extension would make every later file operation fail. So a dropped file without an
+  // extension is refused.
   const auto nameless = std::stable_partition(paths.begin(), paths.end(), HasExtension);
   const std::vector<std::string> refused(nameless, paths.end());
   paths.erase(nameless, paths.end());

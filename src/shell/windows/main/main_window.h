@@ -38,9 +38,10 @@ class MainWindow : public QMainWindow, public MainView {
   std::function<void()> on_line_counting;  // called when a click in the status bar switches line counting
 
   void ShowMain();
-  // Enables the menu items and buttons whose commands exist. Call after all commands were added.
+  // Enables the menu items and buttons whose commands exist, and disables the others. Call after all commands were
+  // added.
   void RefreshCommands();
-  // Hides the text from the screen and from assistive technology while the program is locked.
+  // Hides the text from the screen and from assistive technology, or shows the text again. For the lock.
   void HideText(bool hide);
   // Sets the places of text box, tabs and bars.
   void ApplyLayout();
@@ -102,7 +103,7 @@ class MainWindow : public QMainWindow, public MainView {
   bool wants_position_ = true;  // false if only the size is requested
   Placement placement_;
   bool fitted_ = false;  // the window was painted for the first time
-  bool ticked_ = false;  // a tick has set the width of panel 4
+  bool ticked_ = false;  // a tick has computed the width of panel 4
   bool main_active_ = false;
 };
 

@@ -50,7 +50,8 @@ QAction* NextByInitial(const QMenu& menu, QChar letter) {
   return found == items.end() ? nullptr : *found;
 }
 
-// Sends Down keys to the menu until the item is active. QMenu::setActiveAction would open a submenu.
+// Sends Down keys to the menu until the item is active, at most one key for each item. QMenu::setActiveAction would
+// open a submenu.
 void GoTo(QMenu& menu, const QAction* item) {
   QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
   for (auto left = menu.actions().size(); left > 0 && menu.activeAction() != item; --left)
@@ -132,8 +133,8 @@ bool MenuBar::RunIfNowEnabled(const QKeyEvent& keys, const std::function<MenuSta
   return false;
 }
 
-// Opens the menu with the access key. Two menus have the key T: T opens the first menu and, if the first is open,
-// the second. A disabled menu takes its key but stays closed.
+// Opens the menu with the access key. Two menus have the key T: if the first of them is open, T opens the second,
+// otherwise the first. A disabled menu takes its key but stays closed. False if no menu has the key.
 bool MenuBar::OpenByAccessKey(const QKeySequence& key) {
   QList<QAction*> menus = actions();
   menus.removeIf([&key](const QAction* menu) { return !HasAccessKey(*menu, key); });
@@ -162,7 +163,8 @@ bool MenuBar::eventFilter(QObject* watched, QEvent* event) {
   if (menu == nullptr || (!press && event->type() != QEvent::KeyRelease)) return QMenuBar::eventFilter(watched, event);
   const auto& key = static_cast<QKeyEvent&>(*event);
   if (key.key() != Qt::Key_Alt) return press && KeyInMenu(*menu, key);
-  // Qt would close the menu on the press of Alt, so Alt+T could never open the second menu with the key T.
+  // Qt would close the menu on the press of Alt, so Alt+T could never open the second menu with the key T. The menus
+  // are closed when Alt alone is released.
   if (!press && alt_alone_) CloseMenus();
   alt_alone_ = press;
   return true;
@@ -182,8 +184,9 @@ void MenuBar::CloseMenus() {
   QMetaObject::invokeMethod(this, leave, Qt::QueuedConnection);
 }
 
-// Handles a key in an open menu: an access key opens another menu, and a letter selects an item without an access key.
-// A letter never reaches the text box under the menu.
+// Handles a key in an open menu. Alt with the access key of a menu opens that menu. A letter selects the next item that
+// begins with the letter and has no access key. False if the menu itself must handle the key, such as an arrow key or
+// the access key of an item. A letter never reaches the text box under the menu.
 bool MenuBar::KeyInMenu(QMenu& menu, const QKeyEvent& key) {
   alt_alone_ = false;
   const bool alt = key.modifiers() == Qt::AltModifier;

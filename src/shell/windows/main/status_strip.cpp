@@ -91,7 +91,7 @@ void StatusStrip::Show(const KeyStates& keys) {
   ShowKey(6, keys.insert);
 }
 
-// Shows the state of a key by the colour of the panel, and by its name for assistive technology.
+// Shows the state of a key by the colour of its panel, and by the accessible name of the panel.
 void StatusStrip::ShowKey(std::size_t at, bool on) {
   StatusPanel& panel = *panels_[at];
   if (panel.isEnabled() == on && !panel.accessibleName().isEmpty()) return;
@@ -134,7 +134,7 @@ void StatusStrip::resizeEvent(QResizeEvent* event) {
 }
 
 // Places the panels. In a narrow window the panels of the keys keep their width, and the others share the rest. If this
-// would cut a figure, the panels with figures get their width first. `widths_` doesn't change.
+// would cut a figure, the panels with figures first get the width of their texts. `widths_` doesn't change.
 void StatusStrip::Place() {
   std::array<int, kPanelCount> shown{};
   std::ranges::transform(widths_, shown.begin(), PixelsOf);
@@ -169,7 +169,7 @@ void StatusStrip::PlaceWarning() {
   if (is_hint_) return warning_->setGeometry(content);
   const int wanted = warning_->sizeHint().width();
   const int most = width() - kGap;
-  // In a narrow window the warning covers the panels of the keys too.
+  // A warning wider than panels 1 to 4 covers the panels of the keys too.
   const int end = wanted <= content.right() ? std::min(content.right() + 1, most) : most;
   int begin = kGap;
   for (const std::size_t at : {1u, 2u, 3u})

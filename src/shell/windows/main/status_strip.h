@@ -21,7 +21,7 @@ class StatusPanel : public ElidedLabel {
  public:
   explicit StatusPanel(QWidget* parent);
 
-  // Sets the text, Windows-1250. False if the panel already shows it.
+  // Sets the text, Windows-1250. False if the panel already shows this text.
   bool SetContent(const std::string& text);
   // The width for the whole text, in pixels.
   [[nodiscard]] int WholeWidth() const;
@@ -57,7 +57,7 @@ class StatusStrip : public QStatusBar {
   [[nodiscard]] StatusPanel* Panel(int number) const { return panels_[IndexFromOne(number)]; }
   void Show(const PanelTexts& texts);
   void ShowContent(const std::string& text);
-  // Clears panels 1 to 4 until the next Show. Panel 4 may show a part of the text, which a locked program must hide.
+  // Clears panels 1 to 4. Panel 4 may show a part of the text, which a locked program must hide.
   void Clear();
   [[nodiscard]] bool Cleared() const { return cleared_; }
   void Show(const KeyStates& keys);
