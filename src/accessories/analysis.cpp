@@ -13,7 +13,7 @@
 namespace pelmar {
 namespace {
 
-// "000,00", with halves rounded up.
+// A percentage such as "012,50". Half a hundredth is rounded up.
 std::string Percent(std::int32_t count, std::size_t length) {
   const auto all = static_cast<std::int64_t>(length);
   const std::int64_t hundredths = (20000 * std::int64_t{count} + all) / (2 * all);
@@ -41,7 +41,7 @@ std::vector<Bar> GraphBars(const Analysis& analysis, bool wide, bool ignore_blan
   std::vector<Bar> bars;
   if (most == 0) return bars;
   const std::size_t last = wide ? kCodes - 1 : 128;
-  // required: the narrow graph leaves out codes that occur exactly once, the wide one those that don't occur
+  // required: the narrow graph leaves out codes that occur exactly once, the wide graph those that don't occur
   const std::int32_t left_out = wide ? 0 : 1;
   for (std::size_t code = 1; code <= last; ++code) {
     const std::int32_t count = analysis.counts[code];
@@ -73,7 +73,7 @@ std::vector<std::string> AnalysisRows(const Analysis& analysis) {
   return rows;
 }
 
-// The last character but one. Its column depends on the number of digits of the count.
+// Counts from the end of the row, since the number of digits of the count varies.
 char CharOfRow(std::string_view row) { return row.size() < 2 ? '\0' : row[row.size() - 2]; }
 
 }  // namespace pelmar

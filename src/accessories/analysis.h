@@ -14,13 +14,14 @@ inline constexpr std::size_t kCodes = 256;
 
 struct Analysis {
   std::array<std::int32_t, kCodes> counts{};       // by code; code 0 is not counted
-  std::array<std::uint8_t, kCodes - 1> ranking{};  // codes 1 to 255, the most frequent first; equal counts by code
+  std::array<std::uint8_t, kCodes - 1> ranking{};  // codes 1 to 255, by falling count, then by rising code
   std::size_t length = 0;
 };
 
 Analysis AnalyseText(std::string_view text);
 
-// The scale of the graph. Bars stand at y = kGraphFull, just below the visible part; the highest bar reaches y = 0.
+// The scale of the graph, in which y points down. Bars stand at y = kGraphFull, just below the visible part. A bar for
+// the largest count reaches y = 0.
 inline constexpr int kGraphWidth = 508;
 inline constexpr int kGraphHeight = 196;
 inline constexpr int kGraphFull = 200;
@@ -31,12 +32,13 @@ struct Bar {
   bool operator==(const Bar&) const = default;
 };
 
-// The bars, at x = code * BarStep. Empty if no counted code occurs.
+// The bars, at x = code * BarStep. The narrow graph has no codes above 128, and `ignore_blank` leaves out the blank.
+// Empty if no code other than 0 and an ignored blank occurs.
 std::vector<Bar> GraphBars(const Analysis& analysis, bool wide, bool ignore_blank);
 constexpr int BarStep(bool wide) { return wide ? 2 : 4; }
 constexpr int BarWidth(bool wide) { return wide ? 1 : 3; }
 
-// The code at `x` of the scale, a negative number left of the graph.
+// The code at `x` of the scale, a negative number if `x` is -1 or less.
 int CodeAt(double x, bool wide);
 // For example "Poloha: 65 Znak: "A"".
 std::string PointedText(int code);

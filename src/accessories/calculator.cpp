@@ -9,7 +9,8 @@ namespace {
 
 constexpr double kDegree = 3.14159265358979 / 180;  // in radians
 
-// The value of a number from the display. A comma alone, which DropFirst may leave, counts as 0.
+// The value of a number from the display, nothing if it can't be read. A comma alone, which DropFirst may leave, counts
+// as 0.
 std::optional<double> Read(std::string_view number) {
   const std::string_view unsigned_part = number.substr(number.starts_with('-') ? 1 : 0);
   return unsigned_part == "," ? 0.0 : ParseNumber(number);
@@ -27,7 +28,7 @@ double Combine(char symbol, double a, double b) {
     case '/':
       return a / b;
     case 'L':
-      // Without this test every logarithm to the base 0 would be 0.
+      // Without this test the logarithm of a positive number to the base 0 would be 0.
       return b > 0 ? std::log(a) / std::log(b) : std::nan("");
     default:  // '^'
       return std::pow(a, b);
@@ -135,7 +136,7 @@ void Calculator::SquareRoot() {
 void Calculator::Random() {
   platform_.ReseedRandom();
   const auto drawn = static_cast<float>(platform_.Random());
-  // A double just below 1 rounds to the float 1.
+  // A double just below 1 rounds to the float 1, but the shown number stays below 1.
   shown = NumberText(drawn < 1 ? drawn : std::nextafter(1.0F, 0.0F));
 }
 

@@ -14,7 +14,7 @@ class Calculator {
  public:
   explicit Calculator(Platform& platform) : platform_(platform) {}
 
-  std::string shown = "0";  // the number in the display, with a decimal comma
+  std::string shown = "0";  // the number in the display
   std::string operation;    // the pending operation: + - * / L ^, or empty
   std::string operand;      // the first operand
 
@@ -30,13 +30,13 @@ class Calculator {
   void DropFirst();
   void Clear() { shown = "0"; }  // the pending operation stays
 
-  // Starts one of + - * / L ^.
+  // Makes one of + - * / L ^ the pending operation, and makes the number the first operand.
   void Operator(char symbol);
   // Computes and ends the pending operation, if there is one. On failure reports the error and keeps the number.
   void Evaluate();
 
-  // Each replaces the number by its result. On failure each reports the error, keeps the number and drops the pending
-  // operation.
+  // These functions replace the number by their result. On failure they report the error, keep the number and drop the
+  // pending operation.
   void Square();
   void Absolute();
   void HalfFloor();  // required: rounds down to halves: 2,7 gives 2,5
@@ -60,7 +60,7 @@ class Calculator {
   Platform& platform_;
 };
 
-// Appends a digit, in the calculator and the converter. A single "0" is replaced.
+// Appends a digit, in the calculator and the converter. The number "0" is replaced.
 void AppendDigit(std::string& number, char digit);
 // Removes the last character. An empty number becomes "0".
 void DropLastDigit(std::string& number);

@@ -9,7 +9,7 @@ namespace pelmar {
 // Replaces the note by the document. A message refuses a document that is too long for a note.
 void SaveCheckpoint(const TextBuffer& document, TextBuffer& note, Platform& platform);
 
-// Replaces the document by the note after a question. Does nothing if the note is empty.
+// Asks, and after Yes replaces the document by the note. Does nothing if the note is empty.
 void RestoreCheckpoint(const TextBuffer& note, TextBuffer& document, Platform& platform);
 
 }  // namespace pelmar

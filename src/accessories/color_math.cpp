@@ -17,7 +17,7 @@ int Mean(const Channels& c) { return (c.red + c.green + c.blue) / 3; }
 
 int NumberOf(std::string_view text) { return static_cast<int>(LeadingNumber(text)); }
 
-// The channel that comes before both others, 0 if two tie.
+// The channel that comes before both others in the order of `before`, 0 if no channel does.
 template <class Before>
 int StrictExtreme(const Channels& c, Before before) {
   if (before(c.red, c.green) && before(c.red, c.blue)) return c.red;

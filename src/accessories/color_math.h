@@ -24,19 +24,20 @@ Channels Inverted(const Channels& c);
 Channels ToGrey(const Channels& c);
 // Takes one draw for each channel, red first.
 Channels RandomChannels(const Draw& draw);
-// A tenth less, a tenth more. Halves are rounded to the even number.
+// Make each channel a tenth less or a tenth more, at most 255. Results are rounded to whole numbers.
 Channels Darker(const Channels& c);
 Channels Lighter(const Channels& c);
 Channels Rotated(const Channels& c);
-// Move all channels by the same number, which brings the lowest to 0, or the highest to 255. required: if two channels
-// share the lowest value, LowestToZero changes nothing; if two share the highest value, HighestToFull gives white.
+// Lowers all channels by the lowest value. required: changes nothing if channels share the lowest value.
 Channels LowestToZero(const Channels& c);
+// Raises all channels by the same number, so that the highest becomes 255. required: gives white if channels share the
+// highest value.
 Channels HighestToFull(const Channels& c);
 Channels MeanToMiddle(const Channels& c);
 
 // For example "012,255,000".
 std::string HistoryRow(const Channels& c);
-// required: green is read from the comma before its digits, so green is 0.
+// required: reading the green channel begins at the comma before its digits, so green is always 0.
 Channels FromHistoryRow(std::string_view row);
 
 }  // namespace pelmar

@@ -9,17 +9,17 @@
 
 namespace pelmar {
 
-// Reads a decimal number, a hexadecimal number after "&H" or an octal number after "&O". At most 4 hexadecimal or 6
-// octal digits are a signed 16-bit number if they fit 16 bits, other digits a signed 32-bit number. Nothing if a
-// hexadecimal or octal number doesn't fit 32 bits.
+// Reads a decimal number, a hexadecimal number after "&H" or an octal number after "&O". Up to 4 hexadecimal or 6 octal
+// digits whose value fits 16 bits are a signed 16-bit number. Other hexadecimal or octal digits are a signed 32-bit
+// number. Nothing if their value doesn't fit 32 bits.
 std::optional<double> ReadNumber(std::string_view text);
 
 // In two's complement, upper case, without leading zeros.
 std::string ToHex(std::int32_t value);
 std::string ToOct(std::int32_t value);
 
-// Roman numerals that only add: 4 is IIII. There is no upper limit. "0" for numbers below 1. Calls `go_on` after each
-// letter, and returns nothing once `go_on` returns false.
+// A Roman numeral without subtraction: 4 is IIII. "0" for numbers below 1. Calls `go_on` after each letter, and returns
+// nothing once `go_on` returns false.
 std::optional<std::string> ToRoman(std::int32_t n, const std::function<bool()>& go_on);
 
 // The fields of the window and the effect of its keys. Digit and the From functions truncate a field that is too long.

@@ -20,7 +20,7 @@ constexpr std::string_view kSlash = "-..-./";
 constexpr std::string_view Letter(char letter) { return kLetters[letter - 'A']; }
 constexpr std::string_view Digit(char digit) { return kDigits[digit - '0']; }
 
-// The sign of a character, empty if there is no sign. Letters are capitals without diacritics.
+// The sign of a character, empty if there is no sign. A letter must be a capital without diacritics.
 std::string_view SignOf(char ch) {
   if (ch >= 'A' && ch <= 'Z') return Letter(ch);
   if (ch >= '0' && ch <= '9') return Digit(ch);

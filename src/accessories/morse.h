@@ -1,5 +1,5 @@
 // Encodes text as Morse code, and lists the signs in the menus of the window Morse. Texts are Windows-1250. required:
-// the encoder and the menus have separate tables, which differ in a few signs.
+// the menus and the encoder have different signs for the full stop and the apostrophe.
 #pragma once
 
 #include <span>
@@ -10,8 +10,8 @@ namespace pelmar {
 
 struct Editor;
 
-// Each sign ends in "/". Letters lose their diacritics. A character without a sign is copied, without "/". required: a
-// blank has the sign of the slash; "CH" becomes the sign of CH and the sign of H.
+// Each sign ends in "/". Letters first become capitals without diacritics. A character without a sign is copied
+// without "/". required: a blank has the sign of the slash. required: "CH" becomes the sign of CH and then that of H.
 std::string TextToMorse(std::string_view text);
 
 // Names and captions are UTF-8.

@@ -93,7 +93,7 @@ std::vector<RescuedText> BringBackNotes(NotesRecord& record, const std::vector<R
       }
     }
   }
-  // The empty pages are filled last, so that none is filled before its own text returns.
+  // The empty pages are filled last, so that no page is filled before its own text returns.
   std::erase_if(moved, [&](const RescuedText& note) { return TakeEmptyPage(record, note.text); });
   return moved;
 }

@@ -1,7 +1,7 @@
-// Computes the place of the notes window at each tick of its timer. The window snaps to the edges of the screen if it
-// is undocked or the main window is minimised. A docked window lies to the right of the main window; over a maximised
-// main window it lies at the right edge of the screen. If the notes are the whole program, the docked window lies in
-// the lower right corner of the screen. Places are outer frames in twips.
+// Computes the place of the notes window. An undocked window snaps to the edges of the screen, and so does a docked
+// window while the main window is minimised. Otherwise a docked window lies to the right of the main window, or, if the
+// main window is maximised, at the right edge of the screen. If the notes are the whole program, a docked window lies
+// in the lower right corner of the screen. Places are outer frames in twips.
 #pragma once
 
 #include <optional>
@@ -19,7 +19,9 @@ struct NotesSurroundings {
   StartMode mode = StartMode::kEditor;
   bool docked = false;  // the button "Dock" is pressed
   int snap_distance = 0;
-  TwipsRect screen;   // the screen of the notes, or of the main window if docked
+  // The screen of the main window if the notes are docked to a main window that isn't minimised. Otherwise the screen
+  // of the notes.
+  TwipsRect screen;
   int narrowest = 0;  // the smallest width of the notes
   bool operator==(const NotesSurroundings&) const = default;
 };
@@ -27,27 +29,29 @@ struct NotesSurroundings {
 // The new place. Call only while the notes window is neither minimised nor maximised.
 TwipsRect PlaceNotes(const NotesSurroundings& around);
 
-// The timer of the notes window. A hundred ticks a second cost a percent of a core, so the timer slows down when
-// nothing has moved for a second. Slow ticks remain, because no event reports a new snap distance or another screen.
+// The work of the notes window's timer. A hundred ticks a second cost a percent of a core, so the timer slows down when
+// nothing has changed for a second. The timer doesn't stop, because no event reports a new snap distance or a new size
+// of the screen.
 class NotesTimer {
  public:
   [[nodiscard]] int Interval() const { return quiet_ticks_ < kTicksUntilQuiet ? kTick : kQuietTick; }  // ms
-  // Call when something has moved.
+  // Makes the timer fast again. Call when a window has moved or the button "Dock" was clicked.
   void Wake() { quiet_ticks_ = 0; }
   // Call in place of Tick while the window is minimised or maximised.
   void Rest() { ++quiet_ticks_; }
-  // The new place of the window, nothing if the window stays.
+  // The place to request for the window. Nothing if the window is there already, or if it ignored kTries requests.
   std::optional<TwipsRect> Tick(const NotesSurroundings& now);
 
  private:
   static constexpr int kTick = 10;
   static constexpr int kQuietTick = 250;
   static constexpr int kTicksUntilQuiet = 100;
-  // The most requests for one place. A window manager may ignore them while the person moves the window, or always.
+  // The most requests while nothing changes. A window manager may ignore requests while the person moves the window, or
+  // always.
   static constexpr int kTries = 50;
 
   NotesSurroundings placed_for_;  // the surroundings at the last tick
-  int tries_left_ = 0;            // how often the same place is requested again
+  int tries_left_ = 0;            // requests left until something changes
   int quiet_ticks_ = 0;
 };
 

@@ -39,7 +39,7 @@ void ReportError(Platform& platform, const std::string& path, const WriteOutcome
                        std::to_string(outcome.error) + ": " + ErrorText(outcome.error) + KeptNotice(outcome));
 }
 
-// Reads the whole file into `survey`. Reports a file that can't be read, and returns false.
+// Reads the file into `survey`, up to malformed UTF-8. If the file can't be read, shows a message and returns false.
 bool ReadInto(Platform& platform, const std::string& path, Utf8Survey& survey) {
   int error = 0;
   {
@@ -51,7 +51,8 @@ bool ReadInto(Platform& platform, const std::string& path, Utf8Survey& survey) {
   return error == 0;
 }
 
-// False if the target is the source, which is reported, or if the person refuses to overwrite the target.
+// False if the target is the source file, or if the person refuses to overwrite the target. A message reports the first
+// case.
 bool MayWrite(Platform& platform, const std::string& path, const std::string& target) {
   return !IsOwnSource(platform, path, target) &&
          (!platform.CanRead(target) || Agreed(platform, OverwriteQuestion(target)));

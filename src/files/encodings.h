@@ -1,5 +1,5 @@
-// Converts a file on disk between UTF-8 and Windows-1250 into a new file in the same folder. Files of any size are read
-// in pieces. A UTF-8 file is read to its end before anything is written, so no character is lost without a question.
+// Converts a file on disk between UTF-8 and Windows-1250. The result is another file in the same folder. Files of any
+// size are read in pieces. The file is first read to look for problems and to ask about them, then to convert it.
 #pragma once
 
 #include <cstdint>
@@ -12,19 +12,21 @@
 
 namespace pelmar {
 
-// The hint for an opened text that is in UTF-8 or has LF line ends, "" for any other text. The hint itself is UTF-8.
+// The hint about a text for which LooksLikeUtf8 is true, or which has an LF without a CR before it. "" for any other
+// text. Hints and questions are UTF-8.
 std::string_view FormatHint(std::string_view bytes);
-// The hint for a text that was read from a UTF-8 file and has since got letters in Windows-1250.
+// The hint for a text that was read from a UTF-8 file and has since got characters in Windows-1250.
 std::string_view MixHint();
-// The question before such a mixed text is written over the UTF-8 file at `path`.
+// The question before a text in both encodings is written over the UTF-8 file at `path`.
 std::string MixQuestion(const std::string& path);
 
-// A position in a file; all three numbers count from 1. CR LF, CR and LF end a line. A byte order mark has no column.
+// A position in a file. All three numbers count from 1. CR LF, CR and LF each end a line. Columns count characters,
+// without a byte order mark at the start of the file.
 struct FilePlace {
   std::uint64_t byte = 1, line = 1, column = 1;
 };
 
-// Counts the characters that a conversion to Windows-1250 would lose, and finds malformed UTF-8.
+// Counts the characters that a conversion to Windows-1250 would lose, and finds the first malformed UTF-8.
 class Utf8Survey {
  public:
   // False once malformed UTF-8 was found. Later bytes are ignored.
@@ -47,7 +49,7 @@ class Utf8Survey {
   bool after_cr_ = false;
 };
 
-// Drops a byte order mark. A character that Windows-1250 lacks becomes "?".
+// Drops a byte order mark at the start of the file. A character that Windows-1250 lacks becomes "?".
 class Utf8ToPage : public FileRewriter {
  public:
   std::string_view Rewrite(std::string_view piece) override;
@@ -77,8 +79,9 @@ class PageToUtf8 : public FileRewriter {
 // Replaces the extension of the file name. A name without an extension, such as ".profile", gets one appended.
 std::string WithExtension(std::string_view path, std::string_view extension);
 
-// Convert a file into a new one with the extension "1250" or "utf8". Report failures, and a target that is the source
-// file. Ask before an existing target is overwritten.
+// Convert a file into a file with the extension "1250" or "utf8". Show a message after a failure. Ask before an
+// existing target is overwritten. A target that is the source file is refused with a message. ConvertToPage also asks
+// before characters are lost, and ConvertToUtf8 also asks before it converts a text that is in UTF-8 already.
 void ConvertToPage(Platform& platform, const std::string& path);
 void ConvertToUtf8(Platform& platform, const std::string& path, bool byte_order_mark);
 

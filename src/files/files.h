@@ -1,4 +1,4 @@
-// Opens and saves the editor's document, and adds the file commands that need no window.
+// Opens and saves the editor's document, and adds the file commands that have no window of their own.
 #pragma once
 
 #include "files/open.h"

@@ -1,5 +1,5 @@
-// Converts the line ends of a file on disk between CR LF and LF. All other bytes are copied, so the code page does not
-// matter. Files of any size are read in pieces.
+// Converts the line ends of a file on disk to LF or to CR LF. The conversion looks only for the bytes CR and LF, so the
+// code page doesn't matter. Files of any size are read in pieces.
 #pragma once
 
 #include <string>
@@ -20,7 +20,7 @@ class ToLineFeeds : public FileRewriter {
  private:
   std::vector<char> out_;
   std::uint64_t result_length_ = 0;
-  bool after_cr_ = false;  // an LF that follows belongs to this CR
+  bool after_cr_ = false;  // the last byte was a CR; an LF that follows ends the same line
   bool in_line_ = false;   // the last line has no end yet
 };
 
@@ -40,15 +40,16 @@ class ToCrLf : public FileRewriter {
 // The title of the messages of a conversion.
 inline constexpr std::string_view kConversionTitle = "Konverze UNIX <-> DOS";
 
-// True if the target is the source file, which is reported to the person.
+// Whether the target is the source file. If so, a message tells the person.
 bool IsOwnSource(Platform& platform, const std::string& path, const std::string& target);
 
-// The path of the converted file. required: the path is cut after its first ".", even in the name of a folder. A path
-// without "." becomes the extension alone, a file in the current folder.
+// The path of the converted file. required: the path is cut after its first ".", even in the name of a folder. For a
+// path without ".", the result is only the extension, so the converted file lies in the current folder.
 std::string ConvertedPath(std::string_view path, std::string_view extension);
 
-// Convert a file into a new file with the extension "unx" or "dos". Throw RuntimeError if a file can't be read or
-// written. A target that is the source file is reported and isn't written.
+// Convert a file into the file of ConvertedPath with the extension "unx" or "dos". An old target is overwritten without
+// a question. If the target is the source file, a message says so and nothing is written. Throw RuntimeError if reading
+// or writing fails.
 void ConvertToUnix(Platform& platform, const std::string& path);  // required: a longer old target keeps its tail
 void ConvertToDos(Platform& platform, const std::string& path);
 

@@ -13,7 +13,7 @@ Opener::Opener(Documents& documents, RecentFiles& recent, Platform& platform, Fi
 
 void Opener::OpenPath(const std::string& path) {
   const auto stamp = platform_.Stamp(path);
-  // Reading the file also tests whether it exists, so the file is usually opened only once.
+  // A file that was read needn't be opened again to test whether it exists.
   FileBytes file = platform_.ReadFile(path, kLargestDocument + 1);
   if ((file.error != 0 || file_number_.IsOpen()) && !FileExists(file_number_, platform_, path)) {
     platform_.Message(MessageType::kOk, "Soubor " + path + " nenalezen!", "Soubor");

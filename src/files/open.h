@@ -1,4 +1,5 @@
-// Opens files into the current tab. Opening a file replaces the current document without a question. Paths are UTF-8.
+// Opens files into the current tab. The opened file replaces the current document, and nobody asks about unsaved
+// changes. A path is the bytes that the system gave.
 #pragma once
 
 #include <cstdint>
@@ -14,7 +15,7 @@
 namespace pelmar {
 
 inline constexpr std::uint64_t kLargestDocument = 64'000;  // bytes
-// The filter of every system dialog that picks a document, and the number of its initial row (from 1).
+// The filter of the system's dialogs that pick a document, and the number of the filter's initial row (from 1).
 inline constexpr std::string_view kDocumentFilter =
     "Všechno (*.*)|*.*|jen text (*.txt)|*.txt|dávky (*.bat)|*.bat|Html dokument (*.html)|*.html|"
     "htm dokument (*.htm)|*.htm|ini soubor (*.ini)|*.ini";
@@ -26,17 +27,17 @@ class Opener {
  public:
   Opener(Documents& documents, RecentFiles& recent, Platform& platform, FileNumber& file_number);
 
-  // Opens a file into the current tab. Reports a missing or too long file. Throws RuntimeError if reading fails.
+  // Opens a file. If the file can't be opened or is too long, shows a message. Throws RuntimeError if reading fails.
   // required: a name without an extension throws after the text has been loaded, and leaves file number 1 open.
   void OpenPath(const std::string& path);
 
   // Opens entry 1 to 10 of the recent files. Ignores a RuntimeError of OpenPath.
   void OpenRecentFile(int number);
 
-  // Shows the system's open dialog, then opens the file. Ignores a RuntimeError of OpenPath.
+  // Shows the system's open dialog and opens the selected file. Ignores a RuntimeError of OpenPath.
   void OpenStandard();
 
-  // Asks, then reads the current file again. Ignores a RuntimeError of OpenPath.
+  // Asks, and after Yes opens the current file again. Ignores a RuntimeError of OpenPath.
   void ReloadFile();
 
   // The bytes of a file, or kNoPreview if the file is too long or can't be read, or if file number 1 is open.

@@ -1,5 +1,6 @@
-// Compares the current document's file with its state when this program opened or saved it. The status bar reports if
-// another program, or another tab, wrote or removed the file since. Nothing is reloaded.
+// Compares the file of the current document with its state when the document was opened or last saved. A notice in the
+// status bar tells the person if the file was written or removed since, by another program or from another tab. The
+// document doesn't change.
 #pragma once
 
 #include <string_view>
@@ -9,11 +10,10 @@
 
 namespace pelmar {
 
-// The notice for the status bar, UTF-8. "" if nothing happened to the file, or if this program neither opened nor saved
-// the file.
+// The notice for the status bar, UTF-8. "" if the file is unchanged, or if the document was neither opened nor saved.
 std::string_view OutsideNotice(const Documents& documents, Platform& platform);
 
-// True if the current document was UTF-8 when this program opened its file, or at a save since then.
+// True if the text of the current document was UTF-8 when the document was opened, or at a save since.
 bool CurrentWasUtf8(const Documents& documents);
 
 }  // namespace pelmar

@@ -14,14 +14,15 @@ namespace {
 constexpr std::string_view kMargin = "ZZZZZZZZ";
 constexpr std::string_view kBreaks = "\r\n";
 
-// Removes the part of `text` before its first character that is in `ends`, and returns this part.
+// Removes and returns the part of `text` before the first character that is in `ends`. Without such a character, this
+// is the whole text.
 std::string_view TakeUpTo(std::string_view& text, std::string_view ends) {
   const std::string_view taken = text.substr(0, text.find_first_of(ends));
   text.remove_prefix(taken.size());
   return taken;
 }
 
-// A lone CR or LF also breaks the line on paper.
+// The length of the line break at the start of `text`: CR LF, or a lone CR or LF.
 std::size_t BreakLength(std::string_view text) { return text.starts_with(kCrLf) ? 2 : 1; }
 
 class WordWrap {

@@ -1,4 +1,4 @@
-// Prints the text or its selection on the default printer, with the program's own word wrap. Texts are Windows-1250.
+// Prints the text or the selection, with the program's own word wrap. Printed texts are Windows-1250.
 #pragma once
 
 #include <functional>
@@ -20,17 +20,18 @@ struct PrintedPiece {
   bool operator==(const PrintedPiece&) const = default;
 };
 
-// Lays out words, separated by blanks, on lines of `page_width`. `end_of` returns the right end of a text that
-// starts at x and has no line breaks. The pieces point into `text`. required: the width of eight "Z" stays free at the
-// right. A word that doesn't fit starts a new line, even if the current line is empty, and isn't broken.
+// Puts words, separated by blanks, on lines of `page_width`. `end_of` returns the right end of a text without line
+// breaks. The pieces point into `text`. required: a word that reaches into the right margin, as wide as eight "Z",
+// moves to a new line, even from an empty line. Text after a line break never moves. No word is broken.
 std::vector<PrintedPiece> LayOutForPrint(std::string_view text, double page_width,
                                          const std::function<double(double x, std::string_view text)>& end_of);
 
 // The name of the print job: the file's name without its folder, or the program's name if there is no file.
 std::string PrintName(std::string_view path);
 
-// Prints the text. If there is a selection, first asks whether to print only the selection. Without a printer, writes a
-// PDF file and shows its path. Throws RuntimeError if the printer fails.
+// Prints the text. If there is a selection, first asks whether to print only the selection, and prints nothing if the
+// person closes the question. Without a printer, writes a PDF file, and a message shows the path or the error. Throws
+// RuntimeError if a printer fails.
 void PrintDocument(Editor& editor, const EditorLook& look);
 
 void AddPrintCommands(Editor& editor, MainLook& look);

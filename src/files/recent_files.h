@@ -1,5 +1,5 @@
 // The ten recent files. The toolbar's button "Recent" shows them, and the settings store them. Entries count from 1,
-// newest first. Paths are UTF-8.
+// newest first. A path is the bytes that the system gave.
 #pragma once
 
 #include <string>
@@ -18,7 +18,8 @@ class RecentFiles {
   // The text of the entry's menu item.
   [[nodiscard]] std::string ItemText(int number) const;
 
-  // Moves a path to the first place, or inserts it there. An empty path changes nothing.
+  // Moves a path to the first place. A new path is inserted there, and the last entry is dropped. An empty path changes
+  // nothing.
   void PushRecentFile(const std::string& path);
   // Calls PushRecentFile, and adds the path to the recent documents of the desktop.
   void Remember(const std::string& path);

@@ -41,7 +41,7 @@ void Saver::SaveSelectionAs() {
   TextBuffer& buffer = documents_.Buffer();
   if (!buffer.HasSelection()) return;
   const auto path = platform_.SaveDialog(kDocumentFilter, kDocumentFilterIndex);
-  // The selection may change while the dialog is open.
+  // A copy, since the selection may change while SaveTextCopy asks its question.
   if (path) SaveTextCopy(*path, std::string(buffer.SelText()));
 }
 

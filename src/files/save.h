@@ -1,5 +1,6 @@
 // Saves the text, or a part of it, to a file, and inserts the first field of a file into the text. A saved file holds
-// exactly the bytes of the text; no line end is added. Paths are UTF-8, texts Windows-1250.
+// exactly the bytes of the saved text; no line end is added. A path is the bytes that the system gave. Texts are
+// Windows-1250.
 #pragma once
 
 #include <string>
@@ -16,28 +17,29 @@ class Saver {
  public:
   Saver(Documents& documents, RecentFiles& recent, Platform& platform, FileNumber& file_number);
 
-  // Saves the document and makes the path its file. Asks before a file is overwritten, and writes the text that the
-  // document has after the answer. Reports a failure and doesn't undo the steps before the failure.
+  // Saves the document and makes the path its file. Asks before a file is overwritten. The text may change during the
+  // question; the text after the answer is saved. Reports a failure, but doesn't undo the steps before the failure.
   void SaveToPath(const std::string& path);
 
-  // Writes the text to a file and leaves the document unchanged.
+  // Writes a text to a file that doesn't become the file of the document. Asks before a file is overwritten, and
+  // reports a failure.
   void SaveTextCopy(const std::string& path, std::string_view text);
 
-  // Asks for a name and writes the selected text. Does nothing if the selection is empty.
+  // Shows the system's save dialog, then calls SaveTextCopy with the selection. Does nothing if nothing is selected.
   void SaveSelectionAs();
 
   // Shows the system's save dialog, then calls SaveToPath.
   void SaveStandard();
 
-  // Asks, then calls SaveToPath with the current path.
+  // Asks, and after Yes calls SaveToPath with the current path.
   void SaveFast();
 
   // Shows the system's open dialog and replaces the selection by the file's first field.
   void InsertFromFile();
 
  private:
-  // Asks before a text in two encodings is written over a UTF-8 file. After Yes, asks about this file again only after
-  // a successful save.
+  // Asks before a text in two encodings is written over a UTF-8 file. False if the answer isn't Yes. After Yes, doesn't
+  // ask about the same file again until a save succeeds or the person answers Yes for another file.
   bool MayMixEncodings(const std::string& path);
   bool MayWrite(const std::string& path);
   WriteOutcome Write(const std::string& path, std::string_view text);
@@ -47,7 +49,7 @@ class Saver {
   RecentFiles& recent_;
   Platform& platform_;
   FileNumber& file_number_;
-  std::string agreed_to_mix_;  // the file for which MayMixEncodings was answered Yes
+  std::string agreed_to_mix_;  // the file of the last Yes in MayMixEncodings, "" after a save
 };
 
 // The question before an existing file is overwritten, UTF-8.
@@ -57,7 +59,7 @@ std::string OverwriteQuestion(const std::string& path);
 std::string TargetPath(std::string_view folder, std::string_view name, std::string_view extension);
 
 // The first field of comma-separated bytes, up to the first comma or line end and without the blanks around it. A field
-// that begins with a double quote ends at the closing quote, and may hold commas and line ends.
+// that begins with a double quote ends only at the next double quote. Without a next quote, the field is all the rest.
 std::string_view FirstField(std::string_view bytes);
 
 }  // namespace pelmar

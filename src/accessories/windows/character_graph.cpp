@@ -31,7 +31,7 @@ void CharacterGraph::mouseMoveEvent(QMouseEvent* event) {
 // the field.
 void CharacterGraph::mousePressEvent(QMouseEvent* event) { event->accept(); }
 
-// Paints whole pixels of the screen, so equal bars look equal at every scale.
+// Paints whole pixels of the screen, so that bars of equal counts look the same at every scale.
 void CharacterGraph::PaintBar(QPainter& painter, const Bar& bar) const {
   const double ratio = devicePixelRatioF();
   const double scale = width() * ratio / kGraphWidth;

@@ -25,7 +25,7 @@ void CodeGrid::PaintCell(QPainter& painter, const QRect& cell, int row, int colu
   if (code == 0) return;  // required: code 0 is never drawn
   if (!glyphs_) glyphs_ = std::make_unique<GlyphTable>(font());
   const char character = CharOf(code);
-  const int above = (cell.height() - glyphs_->RowHeight()) / 2;  // whole pixels keep the row sharp
+  const int above = (cell.height() - glyphs_->RowHeight()) / 2;  // whole pixels keep the character sharp
   const QPointF at(cell.left() + (cell.width() - glyphs_->WidthAlone(character)) / 2, cell.top() + above);
   glyphs_->DrawAlone(painter, at, character, palette().color(marked ? QPalette::HighlightedText : QPalette::Text));
 }

@@ -1,5 +1,5 @@
 // The pictures of the character table: the grid of the 256 codes, and one enlarged code. Control characters, TAB
-// included, are shown by their names.
+// included, are shown by their names. The cell of code 0 stays empty.
 #pragma once
 
 #include <memory>
@@ -25,7 +25,7 @@ class CodeGrid : public CellGrid {
   void changeEvent(QEvent* event) override;
 
  private:
-  std::unique_ptr<GlyphTable> glyphs_;  // for the present font, made at the first paint
+  std::unique_ptr<GlyphTable> glyphs_;  // for the present font, made at the first paint with this font
 };
 
 class CodePreview : public QWidget {

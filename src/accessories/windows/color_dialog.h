@@ -19,7 +19,8 @@ class ColorDialog : public FormDialog<Ui::ColorDialog> {
  public:
   ColorDialog(Platform& platform, QWidget* parent);
 
-  // Waits for a choice. required: Storno returns the colour of the last Ok in this run, or black, not the given colour.
+  // Shows the dialog and returns the colour that the person accepts with Ok. required: Storno returns the colour of the
+  // last Ok in this run, or black if there was no Ok.
   Color PickColor(Color color);
 
  private:

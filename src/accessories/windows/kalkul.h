@@ -1,5 +1,6 @@
-// `Kalkul`: the desk calculator. In the editor, the button "Zavři" hides the window, and the close box deletes the
-// window, so the number is lost. If the calculator is the whole program, both ask whether to end the program.
+// `Kalkul`: the desk calculator. Beside the editor, the button "Zavři" only hides the window. The close box deletes the
+// window, so that the number is lost. If the calculator is the whole program, the button "Quit" and the close box ask
+// whether to end the program.
 #pragma once
 
 #include <functional>
@@ -25,7 +26,7 @@ class Kalkul : public FormDialog<Ui::Kalkul> {
     std::function<void()> show_converter;
     std::function<void()> hide_converter;
     std::function<void()> unload;       // deletes this window after the present event
-    std::function<void()> end_program;  // if the calculator is the whole program
+    std::function<void()> end_program;  // called only if the calculator is the whole program
   };
 
   Kalkul(Platform& platform, bool stand_alone, Callbacks callbacks, QWidget* parent);
@@ -41,7 +42,8 @@ class Kalkul : public FormDialog<Ui::Kalkul> {
   void ConnectFunctions();
   void OnClick(QPushButton* key, std::function<void()> act);
   void Command20_Click();
-  // Hides the converter. If the calculator is the whole program, asks whether to end the program. False after a No.
+  // Hides the converter. If the calculator is the whole program, asks whether to end the program, and after Yes ends
+  // the program. After No, shows this window again and returns false.
   bool ConfirmClose();
   Preview PhysicalKey(const QKeyEvent& event);
   [[nodiscard]] QPushButton* KeyOf(char character) const;

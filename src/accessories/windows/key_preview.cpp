@@ -34,13 +34,14 @@ bool KeyPreview::eventFilter(QObject*, QEvent* event) {
 
 bool KeyPreview::Takes(QWidget& receiver, QKeyEvent& press) {
   const Preview preview = first_(press);
-  // The control gets the key directly. Otherwise a refused key would reach the dialog and press its default button.
+  // The control gets the key directly. Otherwise an Enter that the control ignores would reach the dialog and press the
+  // default button.
   if (preview == Preview::kShare) static_cast<QObject&>(receiver).event(&press);
   return preview != Preview::kPass;
 }
 
-// Letters from dead keys or an input method cause no key press. The control gets the letters too, unless the window
-// takes the last letter.
+// Letters from dead keys or an input method cause no key press, so this function makes a key press of each letter. The
+// control gets the letters too, unless the window takes the last letter.
 bool KeyPreview::TakesComposed(const QInputMethodEvent& event) {
   bool taken = false;
   for (const char letter : TextInCodePage(event.commitString())) {

@@ -56,7 +56,7 @@ std::string Klavesnice::Shifted(const std::string& text) const {
 Preview Klavesnice::PhysicalKey(const QKeyEvent& event) {
   const auto character = TypedCharacter(event);
   if (!character) return Preview::kPass;
-  // If a key has the focus, the space bar presses the key.
+  // If a button of this window has the focus, the space bar presses the button.
   if (*character == ' ' && focusWidget() != this) return Preview::kPass;
   // required: control characters are inserted too, so Enter inserts only the character 13
   InsertAtCaret(buffer_, Shifted(std::string(1, *character)));

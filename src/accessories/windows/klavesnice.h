@@ -1,5 +1,5 @@
-// `Klavesnice`: a Czech keyboard on the screen that types into the document. Clicked keys don't take the focus, and
-// while this window is active, the real keyboard types into the document too.
+// `Klavesnice`: a Czech keyboard on the screen that types into the document. A click on a key doesn't move the focus.
+// While this window is active, the real keyboard types into the document too.
 #pragma once
 
 #include <string>

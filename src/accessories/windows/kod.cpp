@@ -19,7 +19,7 @@ QString Readable(int code) { return ReadableText(std::string(1, CharOf(code))); 
 
 QString SpokenName(int code) { return QStringLiteral("%1, kód %2").arg(Readable(code)).arg(code); }
 
-// Inserts before the selected text, which stays, as InsertAtCaret does in the document.
+// Inserts before the selected text and keeps the selected text, as InsertAtCaret does in the document.
 void InsertInto(QLineEdit& field, const QString& text) {
   if (field.hasSelectedText()) field.setCursorPosition(field.selectionStart());
   field.insert(text);
@@ -35,7 +35,7 @@ void SetFamily(QWidget& widget, const QString& family) {
 
 Kod::Kod(TextBuffer& buffer, std::function<void(const QKeyEvent&)> stroke_main, QWidget* parent)
     : FormDialog(parent), buffer_(buffer), stroke_main_(std::move(stroke_main)) {
-  // The form's cells fit letters of 10 points.
+  // The grid's smallest size in the form fits letters of 10 points. The size grows or shrinks with the letters.
   ui_->Picture1->setMinimumSize(ui_->Picture1->minimumSize() * (ui_->Picture1->font().pointSizeF() / 10));
   ui_->Combo1->setCompleter(nullptr);  // Qt would complete a typed "Courier" to "Courier New"
   connect(ui_->Combo1, &QComboBox::currentTextChanged, this, &Kod::Combo1_Change);

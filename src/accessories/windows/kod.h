@@ -1,7 +1,7 @@
-// `kod`: the 256 codes as a grid. A click inserts the character or its reference into the document, or the character
-// into a field of this window. The arrow keys mark a cell, and Enter or the space bar chooses the cell like a click.
-// While the option for characters in the document is set, typed keys, Enter and the space bar go to the main window,
-// and Ctrl+Enter chooses the marked cell.
+// `kod`: the 256 codes as a grid. A click on a cell inserts the character or its HTML reference into the document, or
+// the character into a field of this window. The arrow keys mark a cell, and Enter or the space bar chooses the marked
+// cell like a click. While the option for characters in the document is set, typed characters, Enter and the space bar
+// go to the main window instead. Ctrl+Enter then chooses the marked cell.
 #pragma once
 
 #include <functional>

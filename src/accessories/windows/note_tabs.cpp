@@ -16,7 +16,7 @@ QString Caption(int page) { return QStringLiteral("Poznámka %1").arg(page); }
 
 NoteTabs::NoteTabs(QWidget* parent) : QTabBar(parent) {
   setExpanding(false);
-  // Qt would centre scroll buttons vertically in the strip, where the text of the note covers them.
+  // Qt would centre scroll buttons vertically in this control, where the text box would cover the buttons.
   setUsesScrollButtons(false);
   setDrawBase(false);
   for (int page = 1; page <= kNotePages; ++page) {

@@ -1,5 +1,5 @@
-// The tabs of the notes. The strip reaches from the tool bar to the bottom of the window, and the text covers it below
-// the row of tabs. In a narrow window the tabs show their numbers instead of captions.
+// The tabs of the notes. The control reaches from the tool bar to the bottom of the window. Below the row of tabs, the
+// text box covers the control. In a narrow window the tabs show only the numbers of the pages.
 #pragma once
 
 #include <QTabBar>
@@ -12,7 +12,7 @@ class NoteTabs : public QTabBar {
  public:
   explicit NoteTabs(QWidget* parent = nullptr);
 
-  // In pixels: 330 twips, or more for a large font.
+  // The height of the row of tabs, in pixels: 330 twips, or more for a large font.
   [[nodiscard]] int RowHeight() const;
 
  protected:

@@ -36,7 +36,7 @@ void AddCheckpoints(const ProgramParts& parts) {
   parts.editor.commands.Add("mnu_chp_v", [parts] { ShowNotes(parts); });
   parts.editor.commands.Add("mnu_chp_r", [parts, &buffer] {
     auto& notes = parts.windows.Get<Poznamka>();
-    notes.OfferRescued();  // the rescued notes may contain the checkpoint
+    notes.OfferRescued();  // first, because the rescued notes may contain the checkpoint
     RestoreCheckpoint(notes.Buffer(), buffer, parts.platform);
   });
 }

@@ -1,6 +1,6 @@
 // `Poznamka`: five notes pages, always on top, docked to the main window or snapped to the screen's edges. The window
-// writes the file only when it closes. Until then a rescue file keeps the changes. If the program fails earlier, the
-// next opening of the notes offers the rescued changes.
+// writes the file only when the person closes the window. Until then a rescue file keeps the changes. After a crash,
+// the next opening of the notes offers the rescued changes.
 #pragma once
 
 #include <QTimer>
@@ -42,7 +42,7 @@ class Poznamka : public QWidget {
   ~Poznamka() override;
 
   void Present();
-  // Offers the notes that earlier runs left unsaved, if there are any. Asks only once.
+  // Offers the notes that earlier runs left unsaved, if there are any. Asks about the same notes only once.
   void OfferRescued() { keeper_.Offer(); }
   // The text of the visible notes page.
   [[nodiscard]] TextBuffer& Buffer();

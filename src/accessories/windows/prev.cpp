@@ -12,7 +12,7 @@
 namespace pelmar {
 namespace {
 
-// Milliseconds between two checks for events during a conversion, and the most milliseconds of one check.
+// Milliseconds. A conversion handles events at this interval, each time for about this long at most.
 constexpr int kEventInterval = 10;
 constexpr std::size_t kLongestShown = 32767;
 
@@ -60,8 +60,8 @@ void Prev::Convert(const Base& base) {
   ShowRoman(*number);
 }
 
-// A long numeral takes a while, so the window handles events meanwhile. Another conversion, or hiding or deleting the
-// window, stops this one.
+// To build a long numeral takes a while, so this function handles events meanwhile. The function stops when another
+// conversion begins, or when the window is hidden or deleted.
 void Prev::ShowRoman(std::int32_t number) {
   const int mine = ++conversions_;
   const QPointer<Prev> alive(this);
@@ -75,7 +75,7 @@ void Prev::ShowRoman(std::int32_t number) {
   });
   if (!roman) return;
   roman_ = std::move(*roman);
-  // A line of a million letters would take Qt half a second at each paint.
+  // A line of a million letters would take Qt half a second at each paint, so only the last letters are shown.
   ui_->Label8->setText(roman_.size() <= kLongestShown
                            ? Utf8ToQString(roman_)
                            : QChar(0x2026) + Utf8ToQString(roman_.substr(roman_.size() - kLongestShown + 1)));

@@ -56,7 +56,7 @@ class Prev : public FormDialog<Ui::Prev> {
   Callbacks callbacks_;
   Converter converter_;
   std::string roman_;
-  int conversions_ = 0;  // the number of started conversions; a running conversion stops when the number changes
+  int conversions_ = 0;  // grows with each conversion and each hiding; a running conversion then stops
   std::vector<Base> bases_;
 };
 

@@ -16,8 +16,8 @@
 namespace pelmar {
 namespace {
 
-// Sends a key stroke to the main window's text and returns after the stroke was handled. The focus doesn't move, since
-// moving there and back would make both windows flicker at each key.
+// Sends a key stroke to the main window's text and returns after the stroke was handled. The focus stays in place: if
+// it moved to the main window and back, both windows would flicker at each key.
 void Stroke(MainWindow& main, const QKeyEvent& key) {
   for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
     QKeyEvent stroke(type, key.key(), key.modifiers(), key.text());

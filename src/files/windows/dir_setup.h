@@ -1,4 +1,5 @@
-// The dialog `DirSetup` sets the folder of all dialogs that pick files. The choice isn't stored.
+// The dialog `DirSetup` sets the folder of all the program's own dialogs that pick files. The settings don't store this
+// folder.
 #pragma once
 
 #include <functional>

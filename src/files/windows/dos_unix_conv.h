@@ -1,5 +1,5 @@
-// The dialog `Dos_Unix_conv` converts a file on disk into a new file in the same folder: between the line ends of DOS
-// and of Unix, or between UTF-8 and Windows-1250.
+// The dialog `Dos_Unix_conv` converts a file on disk between the line ends of DOS and of Unix, or between UTF-8 and
+// Windows-1250. The result is another file.
 #pragma once
 
 #include <functional>

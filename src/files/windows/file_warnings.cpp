@@ -22,9 +22,8 @@ QString TooLong(std::size_t size) {
 
 }  // namespace
 
-// Looks for a change of the file on disk when a tab is selected, and when the main window gains or loses the keyboard
-// focus, for example to a message box. Never looks while the person types. Compares the file with its state when this
-// program last opened or saved the file.
+// Looks for a change of the file on disk only when a tab is selected, and when the main window gains or loses the
+// keyboard focus, for example to a message box. Never looks while the person types.
 FileWarnings::FileWarnings(MainWindow& window, Editor& editor)
     : QObject(&window),
       window_(window),
@@ -50,7 +49,7 @@ FileWarnings::FileWarnings(MainWindow& window, Editor& editor)
 
 bool FileWarnings::eventFilter(QObject* watched, QEvent* event) {
   const bool focus_moves = event->type() == QEvent::WindowActivate || event->type() == QEvent::WindowDeactivate;
-  // A window that is being destroyed loses the focus too, but then it is no MainWindow any more.
+  // The main window also loses the focus while it is destroyed. The cast then gives null, since only a QWidget is left.
   if (focus_moves && qobject_cast<MainWindow*>(watched) != nullptr) {
     CheckDisk();
     WarnOfName();

@@ -1,6 +1,7 @@
-// Hints in the status bar about the document's text and file. A hint about a text that is too long or in two encodings
-// stays until the text is corrected. A hint about a changed file, UTF-8 or line ends disappears when the text changes,
-// and may return when a tab is selected or when the main window gains or loses the keyboard focus.
+// Hints in the status bar about the document. A change of the text updates the hints about a text that is too long or
+// in two encodings, and removes the hints about a changed file, UTF-8 and line ends. An open or a save updates the
+// hints about encodings, line ends and the name of the file. A change of the keyboard focus updates the hints about a
+// changed file and about the name of the file. Selecting a tab updates all hints.
 #pragma once
 
 #include <QObject>

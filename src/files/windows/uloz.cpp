@@ -24,7 +24,7 @@ Uloz::Uloz(Documents& documents, Saver& saver, QWidget* parent)
 
 void Uloz::FieldChanged() {
   ui_->Command1->setEnabled(true);
-  // An unchanged field keeps the bytes of its file name, which the conversion to QString may lose.
+  // An unchanged field stands for the original bytes. A conversion to QString and back might change these bytes.
   const SaveTarget& target = documents_.Target();
   const auto typed = [](const QString& text, const std::string& shown) {
     return text == Utf8ToQString(shown) ? shown : Utf8FromQString(text);

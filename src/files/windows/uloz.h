@@ -1,5 +1,5 @@
 // The program's own dialog `Ulož` saves the document and shows the target path while the person types. Each open, each
-// save and each switch to a tab with a path fills the dialog's fields with that path.
+// save and each switch to a tab with a path fills the dialog's fields. A name without an extension isn't filled in.
 #pragma once
 
 #include "files/save.h"
