@@ -8,7 +8,8 @@ svg_plugin=qt6-svg-plugins
 [ "$(. /etc/os-release 2>/dev/null && echo "$VERSION_ID")" != 12 ] || svg_plugin=libqt6svg6
 runtime_packages="$svg_plugin qt6-qpa-plugins qt6-translations-l10n fonts-dejavu-core xdg-utils"
 test_packages="libgtest-dev libbenchmark-dev python3 xvfb openbox xdotool wmctrl x11-utils
-imagemagick cups-daemon cups-client lintian dpkg-dev appstream desktop-file-utils fakeroot poppler-utils"
+imagemagick cups-daemon cups-client lintian dpkg-dev appstream desktop-file-utils fakeroot poppler-utils
+weston qt6-wayland"
 fuzz_packages="clang libclang-rt-dev"
 check_packages="$fuzz_packages clang-format clang-tidy git"
 

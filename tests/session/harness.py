@@ -43,11 +43,12 @@ class EditorCase(unittest.TestCase):
     """A test with its own screen and home folder. It may start the program several times, one after the other."""
 
     settings = {}  # fields of the settings record
+    screen = Screen
     environment = {}  # for each start of the program
     program = None
 
     def setUp(self):
-        screen = self.enterContext(Screen())
+        screen = self.enterContext(self.screen())
         self.home, self.env, self.folder = screen.home, screen.env, screen.data_folder
         self.addCleanup(self.kill)
         self.addCleanup(self.shot)

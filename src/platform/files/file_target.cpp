@@ -2,9 +2,11 @@
 
 #include <unistd.h>
 
+#include <cerrno>
 #include <climits>
 #include <cstdlib>
 #include <optional>
+#include <utility>
 
 #include "platform/files/file_attributes.h"
 #include "platform/files/kept_content.h"
@@ -86,7 +88,9 @@ Beside WriteBeside(const Target& target, const NewContent& content, mode_t new_m
   const int error = old ? file.TakeNameOf(target.path) : file.TakeNewName(target.path);
   if (error == 0) return {.error = SyncFolderOf(target.path, file.Number())};
   if (!old || !FolderRefuses(error)) return {.error = error};
-  return {.error = error, .try_in_place = true, .content = Descriptor(fcntl(file.Number(), F_DUPFD_CLOEXEC, 0))};
+  Descriptor copy(fcntl(file.Number(), F_DUPFD_CLOEXEC, 0));
+  if (!copy.IsOpen()) return {.error = errno};  // a second call of `fill` would find its source at the end
+  return {.error = error, .try_in_place = true, .content = std::move(copy)};
 }
 
 WriteOutcome WriteInPlace(const Target& target, const NewContent& content, const std::string& keep_folder) {
