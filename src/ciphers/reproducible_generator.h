@@ -9,8 +9,8 @@ namespace pelmar {
 
 class ReproducibleGenerator {
  public:
-  // required: only the high 32 bits of the key count, folded to 16 bits. Keys that differ only in the low 32 bits give
-  // the same numbers.
+  // required: only the high 32 bits of the key have an effect, folded to 16 bits. Keys that differ only in the low 32
+  // bits give the same numbers.
   void Reseed(double key) {
     constexpr std::uint32_t kReset = 0x8000BF;
     state_ = kReset;

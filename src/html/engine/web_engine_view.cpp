@@ -50,7 +50,8 @@ WebEngineView::WebEngineView(QWidget* parent) : view_(std::make_unique<QWebEngin
   for (const PageSide side : {PageSide::kDisk, PageSide::kDiskWithNet, PageSide::kNet}) {
     const bool allows_net = side != PageSide::kDisk;
     const ScopedVariable way_out(kWayOut, (allows_net ? open_gate_ : shut_gate_).Address());
-    // If the present page isn't on kDisk, an earlier page sent the request, so the request isn't reported.
+    // Only requests of pages on kDisk are withheld. If the present page is on another side, the withheld request came
+    // from an earlier page and isn't reported.
     profiles_[side] = MakeProfile(allows_net, [this] {
       if (page_->Side() == PageSide::kDisk) on_withheld(true);
     });

@@ -1,6 +1,6 @@
 // Writes unsaved documents or notes to a rescue file in a separate thread, usually within two seconds of a change. Each
-// running copy of the program has its own rescue file. Offers the texts of crashed copies. Once all these texts are on
-// disk again, removes the rescue files of the crashed copies.
+// running copy of the program has its own rescue file. Offers the texts of crashed copies. Once all these texts are
+// also on disk elsewhere, removes the rescue files of the crashed copies.
 #pragma once
 
 #include <QObject>

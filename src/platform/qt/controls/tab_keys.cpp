@@ -43,8 +43,10 @@ void AddTabKeys(QWidget& window, QTabBar& tabs) {
     on(QKeySequence(Qt::ALT | static_cast<Qt::Key>(Qt::Key_1 + tab)), [tab] { return tab; });
   KeyRouter::Get().Add(KeyTurn::kTabs, window,
                        [&tabs](QWidget&, const QKeyEvent& press) { return PickByNumberKey(tabs, press); });
-  QObject::connect(&tabs, &QTabBar::currentChanged, &window,
-                   [&] { Announce(window, tabs.accessibleTabName(tabs.currentIndex())); });
+  QObject::connect(&tabs, &QTabBar::currentChanged, &window, [&](int tab) {
+    const QString name = tabs.accessibleTabName(tab);
+    Announce(window, name.isEmpty() ? tabs.tabText(tab).remove(u'&') : name);
+  });
 }
 
 }  // namespace pelmar

@@ -26,8 +26,8 @@ class RecentDocuments {
   QThreadPool pool_;
 };
 
-// Records in a list of recent documents that this program has just opened the file `path` (absolute). `xbel` is the
-// content of the list, and the result is the new content. An empty `xbel` gives a new list, a damaged `xbel` gives "".
+// Adds the file `path` (absolute) to a list of recent documents, as a file that this program has just opened. `xbel` is
+// the content of the list, and the result is the new content. An empty `xbel` gives a new list, a damaged one gives "".
 std::string AddBookmark(const std::string& xbel, const std::string& path, const std::string& mime);
 
 }  // namespace pelmar

@@ -11,7 +11,7 @@ namespace pelmar {
 QWidget* DialogParent();
 
 // Activates the window if it is visible. Expects it to become active: until a window of the program gets the focus,
-// DialogParent returns this window. Null expects no window.
+// DialogParent returns this window. If `window` is null, no window is expected any more.
 void ExpectActive(QWidget* window);
 
 // Whether the program shows a window that stays on top. Dialogs don't count, since PutAboveAll puts them on top.
@@ -20,8 +20,8 @@ bool HasWindowOnTop();
 // Otherwise makes the dialog a normal window.
 void PutAboveAll(QWidget& dialog);
 
-// Assigns a hidden window to the screen of DialogParent, if there is such a window. A window that was shown before must
-// be moved there too, for instance by CentreOnScreen.
+// Assigns a hidden window to the screen of the window that DialogParent returns. Does nothing if DialogParent returns
+// null. A window that was shown before must be moved there too, for instance by CentreOnScreen.
 void ShowOnParentsScreen(QWidget& window);
 
 }  // namespace pelmar

@@ -134,7 +134,8 @@ void StatusStrip::resizeEvent(QResizeEvent* event) {
 }
 
 // Places the panels. In a narrow window the panels of the keys keep their width, and the others share the rest. If this
-// would cut a figure, the panels with figures first get the width of their texts. `widths_` doesn't change.
+// would cut a figure, panels 1 to 3 get the width of their texts, as far as there is room, and panel 4 gets the rest.
+// `widths_` doesn't change.
 void StatusStrip::Place() {
   std::array<int, kPanelCount> shown{};
   std::ranges::transform(widths_, shown.begin(), PixelsOf);
