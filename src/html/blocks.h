@@ -1,5 +1,6 @@
-// The fragments that the small block and inline dialogs write. Texts are Windows-1250 and are not escaped.
-// required: blanks around some "=", "Width" in mixed case, and the lower-case tags of TableHeading.
+// The HTML fragments that the small dialogs insert: paragraphs, headings, fonts, lines, fractions, comments, character
+// references, smileys and the document type. Texts are Windows-1250 and are not escaped. required: blanks around some
+// "=", "Width" in mixed case, and the lower-case tags of TableHeading.
 #pragma once
 
 #include <array>

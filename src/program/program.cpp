@@ -15,7 +15,8 @@
 namespace pelmar {
 namespace {
 
-// Shows a message with the old contents that killed saves left behind (see kept_content.h).
+// Shows a message with the paths of the copies that killed saves left behind (see kept_content.h), and marks these
+// copies as reported.
 void ReportLeftContents(Platform& platform) {
   const std::vector<std::string> left = FindUnreportedCopies(platform.InstallFolder());
   if (left.empty()) return;

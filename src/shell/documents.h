@@ -54,13 +54,13 @@ class Documents {
   [[nodiscard]] bool TitleIsMarked() const { return title_.marked; }
   [[nodiscard]] TextBuffer& Buffer() { return buffer_; }
   [[nodiscard]] const TextBuffer& Buffer() const { return buffer_; }
-  // What Remember stored for the selected tab. Null if CurrentPath() is another path. A document that never had a file
-  // has an empty KnownFile.
+  // What Remember stored for the selected tab. Null if the stored path differs from CurrentPath(). A document that
+  // never had a file has an empty KnownFile.
   [[nodiscard]] const KnownFile* CurrentFile() const;
   [[nodiscard]] SaveTarget& Target() { return target_; }
 
-  // True if closing the program would lose changes of the document. `Modified` is set, or the tab is selected and the
-  // title has the "*".
+  // Whether the document counts as unsaved: `Modified` is set, or the tab is selected and the title has the "*". The
+  // close of the program asks about such documents.
   [[nodiscard]] bool IsUnsaved(int tab) const;
   [[nodiscard]] int UnsavedCount() const;
 

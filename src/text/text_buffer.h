@@ -40,8 +40,8 @@ class TextBuffer {
   [[nodiscard]] const std::string& Text() const { return text_; }
   [[nodiscard]] std::size_t Size() const { return text_.size(); }
   [[nodiscard]] bool Empty() const { return text_.empty(); }
-  // The number of changes so far. If a listener changes the text, the later listeners are notified of the second change
-  // before the first change. By this number they can detect the wrong order.
+  // The number of changes so far. If a listener changes the text, the listeners after it are notified in the wrong
+  // order: first of the second change, then of the first. By this number they can detect the wrong order.
   [[nodiscard]] std::uint64_t Revision() const { return revision_; }
 
   // Replaces the whole text and puts the caret at 0. required: clears undo and redo.

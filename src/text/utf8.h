@@ -1,5 +1,6 @@
-// Decodes UTF-8, in pieces or as a whole string, and encodes and checks UTF-8. Overlong forms, surrogates and values
-// above U+10FFFF are malformed. codepage.h turns the characters into Windows-1250.
+// Decodes UTF-8 byte by byte from a stream, or character by character from a string. Also encodes and checks UTF-8.
+// Overlong forms, surrogates and values above U+10FFFF are malformed. codepage.h turns the characters into
+// Windows-1250.
 #pragma once
 
 #include <cstddef>

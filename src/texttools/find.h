@@ -18,8 +18,8 @@ class Finder {
  public:
   Finder(TextBuffer& buffer, Platform& platform);
 
-  // What the dialog shows. Before each step the window stores `find` and `case_sensitive` here. After each step the
-  // window shows all values.
+  // What the dialog shows. Before Start, Next and New the window stores `find` and `case_sensitive` here, and
+  // afterwards shows all values. After PickHistory the window shows only `find`.
   std::string find;
   bool case_sensitive = true;
   std::vector<std::string> history;     // all terms so far

@@ -1,4 +1,4 @@
-// Converts addresses that a person reads and writes to URLs for the web view, and back. The address of a file whose
+// Converts between the addresses that a person sees or types and the URLs of the web view. The address of a file whose
 // path is UTF-8 stays readable: the path isn't percent-encoded ("file:///home/jan/moje stránka.html").
 #pragma once
 
@@ -8,8 +8,9 @@
 
 namespace pelmar {
 
-// After "file://", "#" and "%" are plain characters if they are part of an existing file's path. Other text is read as
-// in any browser: a path, a host without "http://" or a full address. The URL is invalid if the text is no address.
+// In an address that begins with "file://", the characters "#" and "%" are plain if they are part of an existing file's
+// path. Other text is read as in any browser: a path, a host without "http://" or a full address. The URL is invalid if
+// the text is no address.
 QUrl UrlOfAddress(const QString& address);
 
 QString AddressOfUrl(const QUrl& url);

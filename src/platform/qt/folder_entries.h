@@ -1,7 +1,7 @@
 // The folders, files and disks that a person can choose from, in Czech order. Paths and names have the form of
 // PathToQString, except those of MountedPlaces. Masks and the order use the result of ShownPath. A folder with tens of
-// thousands of files must open at once. So only the name and the kind (file or folder) of each entry are needed. Most
-// file systems store both in the folder itself.
+// thousands of files must open at once. So the functions use only the name and the kind (file or folder) of each entry,
+// which most file systems store in the folder itself.
 #pragma once
 
 #include <QRegularExpression>

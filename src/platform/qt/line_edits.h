@@ -9,8 +9,8 @@ namespace pelmar {
 
 inline void TakeAnyLength(QLineEdit& field) { field.setMaxLength(std::numeric_limits<int>::max()); }
 
-// If this dynamic property is true, the field keeps the line breaks of a pasted or dropped text. A lone LF becomes CR
-// LF. Other fields remove the line breaks.
+// If this dynamic property is true, the field keeps the line breaks of a pasted or dropped text. A lone LF from another
+// program becomes CR LF. Other fields remove the line breaks.
 inline constexpr char kHoldsLines[] = "holdsLines";
 
 // Call with each event of a field. Handles pasting, dropping and the context menu in place of Qt.

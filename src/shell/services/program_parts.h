@@ -88,6 +88,6 @@ void AddTagWindows(const ProgramParts& parts);   // tags, lists, small fragments
 void AddBrowserWindows(const ProgramParts& parts);
 void AddCipherWindows(const ProgramParts& parts);
 void AddToolWindows(const ProgramParts& parts);   // calculator, character tables, colours
-void AddNotesWindows(const ProgramParts& parts);  // notes and their checkpoints, character analysis
+void AddNotesWindows(const ProgramParts& parts);  // notes, checkpoints of the document in the notes, character analysis
 
 }  // namespace pelmar

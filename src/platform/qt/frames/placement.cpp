@@ -108,15 +108,16 @@ void CentreOnScreen(QWidget& window) {
   const QMargins frame = UsualFrame();
   const QSize expected = window.size().grownBy(frame);
   const TwipsRect place = InTheMiddle(window, {0, 0, TwipsOf(expected.width()), TwipsOf(expected.height())});
-  // There is no frame yet. Some window managers put the inner area at this position, others the frame. The Placement
-  // below corrects the difference.
+  // There is no frame yet. Some window managers put the inner area at `asked`, others put the frame there. The
+  // Placement below corrects the difference.
   const QPoint asked(PixelsOf(place.left) + frame.left(), PixelsOf(place.top) + frame.top());
   window.move(asked);
   auto* placement = new Placement(
       window,
       [&window, asked](const TwipsRect& now) {
         const QPoint outer(PixelsOf(now.left), PixelsOf(now.top));
-        // If the window is elsewhere, somebody has moved it: leave it there.
+        // If the window is elsewhere, leave it there: this Placement has already corrected it, or the person or the
+        // window manager has moved it.
         return outer == asked || window.geometry().topLeft() == asked ? InTheMiddle(window, now) : now;
       },
       Placement::EndAfter::kSeveralChecks);
