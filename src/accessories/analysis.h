@@ -33,7 +33,7 @@ struct Bar {
 };
 
 // The bars, at x = code * BarStep. The narrow graph has no codes above 128, and `ignore_blank` leaves out the blank.
-// Empty if no code other than 0 and an ignored blank occurs.
+// Empty if the text has no codes other than 0 and ignored blanks.
 std::vector<Bar> GraphBars(const Analysis& analysis, bool wide, bool ignore_blank);
 constexpr int BarStep(bool wide) { return wide ? 2 : 4; }
 constexpr int BarWidth(bool wide) { return wide ? 1 : 3; }

@@ -1,5 +1,5 @@
 // The desk calculator in the window Kalkul. Its state is three texts: the number shown, the pending operation and the
-// first operand. required: a digit typed after a result is appended to this result.
+// first operand. required: a digit typed after a result is appended to the result, unless the result is 0.
 #pragma once
 
 #include <optional>

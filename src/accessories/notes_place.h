@@ -39,7 +39,7 @@ class NotesTimer {
   void Wake() { quiet_ticks_ = 0; }
   // Call in place of Tick while the window is minimised or maximised.
   void Rest() { ++quiet_ticks_; }
-  // The place to request for the window. Nothing if the window is there already, or if it ignored kTries requests.
+  // The place to request for the window. Nothing if the window is there already, or if kTries requests changed nothing.
   std::optional<TwipsRect> Tick(const NotesSurroundings& now);
 
  private:

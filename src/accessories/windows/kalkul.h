@@ -1,6 +1,6 @@
-// `Kalkul`: the desk calculator. Beside the editor, the button "Zavři" only hides the window. The close box deletes the
-// window, so that the number is lost. If the calculator is the whole program, the button "Quit" and the close box ask
-// whether to end the program.
+// `Kalkul`: the desk calculator. In the editor, the button "Zavři" hides the calculator and the converter and keeps the
+// number. The close box also hides the converter, but deletes the calculator, so that the number is lost. If the
+// calculator is the whole program, the button "Quit" and the close box ask whether to end the program.
 #pragma once
 
 #include <functional>

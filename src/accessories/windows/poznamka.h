@@ -1,5 +1,5 @@
-// `Poznamka`: five notes pages, always on top, docked to the main window or snapped to the screen's edges. The window
-// writes the file only when the person closes the window. Until then a rescue file keeps the changes. After a crash,
+// `Poznamka`: five notes pages, always on top, docked to the main window or snapped to the screen's edges. The notes
+// are saved only when the person closes the window. Until then a rescue file keeps the changes. After a crash,
 // the next opening of the notes offers the rescued changes.
 #pragma once
 
