@@ -8,7 +8,8 @@ namespace pelmar {
 
 struct Editor;
 
-// Each sum adds one value for each character, for each pair or for each four characters.
+// `crc` adds one value for each character. `contra_crc` and `and_crc` add one for each pair, and `short_crc` adds one
+// for each four characters.
 struct CheckSums {
   std::int64_t crc = 0;         // the code
   std::int64_t contra_crc = 0;  // the XOR of the pair

@@ -8,7 +8,8 @@
 
 namespace pelmar {
 
-// The table that the dialog shows: the letters in both cases, and below each letter its other look-alikes.
+// The table that the dialog shows: the letters in both cases, and below each letter its other look-alikes. required:
+// the look-alike "~" of W is missing.
 std::string LookAlikeReminder();
 
 // Replaces each letter from A to Z and a to z by a look-alike. The look-alikes of a letter include its upper and its

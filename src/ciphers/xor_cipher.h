@@ -1,6 +1,6 @@
 // Two ciphers that restore the text when applied twice: the stream cipher with a numeric key, and the primitive cipher.
 // required: the stream cipher drops each character that would become code 0. A second run then gives wrong characters
-// from this place on.
+// from that character on.
 #pragma once
 
 #include <cstddef>

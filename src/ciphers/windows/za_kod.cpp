@@ -29,7 +29,8 @@ void ZaKod::Command1_Click() {
   const auto length = static_cast<int>(editor_.text.Size());
   ui_->ProgressBar1->setMaximum(std::max(1, length));  // a maximum of 0 would show a busy bar
   ui_->ProgressBar1->setValue(0);
-  // The result belongs only to the document that was read. So the run stops if the document or its whole text changes.
+  // The result belongs only to the document that was read. So the run stops if another tab is selected, the path of the
+  // document changes or the whole text is replaced.
   const Documents& documents = editor_.documents;
   const auto same_document = [&documents, tab = documents.SelectedTab(), path = documents.CurrentPath()] {
     return documents.SelectedTab() == tab && documents.CurrentPath() == path;
