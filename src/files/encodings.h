@@ -15,7 +15,7 @@ namespace pelmar {
 // The hint about a text for which LooksLikeUtf8 is true, or which has an LF without a CR before it. "" for any other
 // text. Hints and questions are UTF-8.
 std::string_view FormatHint(std::string_view bytes);
-// The hint for a text that was read from a UTF-8 file and has since got characters in Windows-1250.
+// The hint for a text that was UTF-8 when it was opened or saved, and has since got characters in Windows-1250.
 std::string_view MixHint();
 // The question before a text in both encodings is written over the UTF-8 file at `path`.
 std::string MixQuestion(const std::string& path);
@@ -81,7 +81,7 @@ std::string WithExtension(std::string_view path, std::string_view extension);
 
 // Convert a file into a file with the extension "1250" or "utf8". Show a message after a failure. Ask before an
 // existing target is overwritten. A target that is the source file is refused with a message. ConvertToPage also asks
-// before characters are lost, and ConvertToUtf8 also asks before it converts a text that is in UTF-8 already.
+// before characters are lost. ConvertToUtf8 also asks if the file is valid UTF-8 with characters of several bytes.
 void ConvertToPage(Platform& platform, const std::string& path);
 void ConvertToUtf8(Platform& platform, const std::string& path, bool byte_order_mark);
 

@@ -1,5 +1,5 @@
-// Opens files into the current tab. The opened file replaces the current document, and nobody asks about unsaved
-// changes. A path is the bytes that the system gave.
+// Opens files into the current tab. The opened file replaces the current document. Only a reload asks before unsaved
+// changes are lost. A path is the bytes that the system gave.
 #pragma once
 
 #include <cstdint>
@@ -27,7 +27,8 @@ class Opener {
  public:
   Opener(Documents& documents, RecentFiles& recent, Platform& platform, FileNumber& file_number);
 
-  // Opens a file. If the file can't be opened or is too long, shows a message. Throws RuntimeError if reading fails.
+  // Opens a file. Shows a message if the file can't be opened or is too long, or if file number 1 is open. Throws
+  // RuntimeError if reading fails.
   // required: a name without an extension throws after the text has been loaded, and leaves file number 1 open.
   void OpenPath(const std::string& path);
 

@@ -58,8 +58,8 @@ std::string OverwriteQuestion(const std::string& path);
 // Joins the three fields of the dialog Ulož to a path. The "." before the extension is always written.
 std::string TargetPath(std::string_view folder, std::string_view name, std::string_view extension);
 
-// The first field of comma-separated bytes, up to the first comma or line end and without the blanks around it. A field
-// that begins with a double quote ends only at the next double quote. Without a next quote, the field is all the rest.
+// The first field of comma-separated bytes: up to the first comma or line end, without blanks and TABs around it. Of a
+// field in double quotes, the bytes between the quotes, or all bytes after the first quote if there is no second quote.
 std::string_view FirstField(std::string_view bytes);
 
 }  // namespace pelmar

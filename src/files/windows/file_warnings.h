@@ -1,7 +1,7 @@
 // Hints in the status bar about the document. A change of the text updates the hints about a text that is too long or
-// in two encodings, and removes the hints about a changed file, UTF-8 and line ends. An open or a save updates the
-// hints about encodings, line ends and the name of the file. A change of the keyboard focus updates the hints about a
-// changed file and about the name of the file. Selecting a tab updates all hints.
+// in two encodings, and removes the hints about a changed file, UTF-8 and line ends. An open or a save removes the hint
+// about a changed file, and updates the hints about encodings, line ends and the name of the file. When the main window
+// gains or loses the focus, the hints about a changed file and the name are updated. Selecting a tab updates all hints.
 #pragma once
 
 #include <QObject>
