@@ -40,7 +40,7 @@ class WebView {
   std::function<void(qint64 progress, qint64 maximum)> on_progress;  // the maximum is 0 if nothing loads
   std::function<void()> on_change;                                   // the title changed or a load began
   std::function<void(bool)>
-      on_withheld;  // true: a part of a local page on the net was blocked; false: a page is about to load
+      on_withheld;  // true: a request of a local page to the net was blocked; false: a page is about to load
   std::function<void()> on_finished;            // a load ended or failed, or a link led to another place in the page
   std::function<void(const QString&)> on_link;  // the address of the link under the mouse, or ""
 };
