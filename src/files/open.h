@@ -1,5 +1,5 @@
-// Opens files into the current tab. The opened file replaces the current document. Only a reload asks before unsaved
-// changes are lost. A path is the bytes that the system gave.
+// Opens files into the current tab. The opened file replaces the current document. Only ReloadFile warns that unsaved
+// changes will be lost. A path is the bytes that the system gave.
 #pragma once
 
 #include <cstdint>
