@@ -11,7 +11,7 @@ void WrapInFrameset(TextBuffer& buffer, const FramesetSpec& spec) {
   head += CodePageAndGenerator();
   head += "  <TITLE>" + spec.title + "</TITLE>\r\n </HEAD>\r\n <FRAMESET";
   head += Attribute("ROWS", spec.rows);
-  head += Attribute("ROWS", spec.cols);  // required: columns are written as rows too
+  head += Attribute("ROWS", spec.cols);  // required: the columns are written under the name ROWS too
   head += ">\r\n </FRAMESET>\r\n <NOFRAMES>\r\n";
   PutAround(buffer, head, "Tento Prohlížeč nepodporuje Framesy"_w, "\r\n </NOFRAMES>\r\n</HTML>");
 }

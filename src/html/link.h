@@ -16,7 +16,7 @@ Wrapping LinkToAnchor(std::string_view name);
 Wrapping LinkToMail(std::string_view address);
 
 struct LinkSpec {
-  std::string target;                   // before the fragment: the FileAddress of a file, or a typed address
+  std::string target;                   // the part before the fragment: the FileAddress of a file, or a typed address
   std::optional<std::string> fragment;  // empty is the same as absent
   std::optional<std::string> frame;
 };

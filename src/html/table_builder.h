@@ -9,8 +9,8 @@
 
 namespace pelmar {
 
-// Columns and rows count from 1. Attributes are written directly after "<TD" or "<TR", so they are empty or begin with
-// a blank. Text that the person types is not checked.
+// Columns and rows count from 1. Attributes are written directly after "<TD" or "<TR", so they should be empty or begin
+// with a blank. BuildTable doesn't check the attributes that the person has typed.
 struct TableGrid {
   static constexpr std::size_t kMost = 20;
   using Cells = std::array<std::array<std::string, kMost + 1>, kMost + 1>;

@@ -1,5 +1,6 @@
-// The fields of the dialog `EdiTag` show the tag that OpenTag() selects, and Ok replaces this tag.
-// Each opening creates a new dialog. The dialog blocks the main window, so that the tag stays selected until Ok.
+// The fields of the dialog `EdiTag` show the tag that OpenTag() selects. Ok replaces this tag, or the selection if
+// there is no tag. Each opening creates a new dialog. The dialog blocks the main window, so that the tag stays selected
+// until Ok.
 #pragma once
 
 #include <functional>

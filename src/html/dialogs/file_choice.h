@@ -26,8 +26,9 @@ struct FileChoice {
     return {ui.Drive1, ui.Dir1, ui.File1, ui.Combo1, relative, path, ui.Command1, ui.Command3};
   }
 
-  // Connects the controls. Call once. The label and the buttons stay as in the form until the person chooses a file,
-  // folder or mask, or toggles `relative`. The button `show` calls `show_in_browser` with the label's path.
+  // Connects the controls. Call once. Doesn't call Refresh(), so the label and the buttons stay as in the form. Later
+  // Refresh() is called at each choice of a file, folder or mask and at each toggle of `relative`. The button `show`
+  // calls `show_in_browser` with the label's path.
   void Link(std::function<void(const std::string& path)> show_in_browser) const;
 
   // Writes the path, or only the name if `relative` is checked, into the label. Then enables or disables `show` and, if
@@ -37,7 +38,7 @@ struct FileChoice {
   [[nodiscard]] bool HasFile() const;
 
   // Copies the label's path, with slashes in place of backslashes, into the hidden field `working_copy`. Returns the
-  // LinkText of the path.
+  // LinkText of the copied path.
   std::string TakePath(QLineEdit& working_copy) const;
 
   DriveList* drives;
@@ -46,8 +47,8 @@ struct FileChoice {
   QComboBox* mask;
   QCheckBox* relative;
   QLabel* path;
-  QAbstractButton* ok;    // needs a file
-  QAbstractButton* show;  // needs a file and its whole path; Link() sets the icon
+  QAbstractButton* ok;    // needs a file while `files` is enabled
+  QAbstractButton* show;  // needs a file, and the whole path in the label
 };
 
 }  // namespace pelmar

@@ -95,7 +95,7 @@ void PairedLists::Follow(QListWidget* other, int row) {
 void PairedLists::FieldChanged(const QString& text, QListWidget* list) {
   // required: only the field that changed last decides whether `add` is enabled
   parts_.add->setEnabled(!text.isEmpty());
-  // Follow() changes the fields too, but only shows a row in them.
+  // The texts that Follow() puts into the fields come from the rows, so they aren't written back.
   if (!edits_rows_ || following_) return;
   if (const int row = SelectedRow(*list); row >= 0) list->item(row)->setText(text);
 }

@@ -49,7 +49,8 @@ class PairedLists : public QObject {
   // From this call on, the fields show the texts of the selected row, and typing into a field changes this row.
   void EditSelectedRows() { edits_rows_ = true; }
 
-  // Adds a pair if the button `add` is enabled. Then focuses the field for the name and selects its text.
+  // Does nothing if the button `add` is disabled. Otherwise adds a pair, focuses the field for the name and selects the
+  // text of this field.
   void Add();
 
   [[nodiscard]] AttributeLists Rows() const;

@@ -8,7 +8,7 @@
 namespace pelmar {
 
 Smajl::Smajl(TextBuffer& buffer, QWidget* parent) : FragmentDialog(buffer, parent) {
-  // The form can't store a text that consists of blanks.
+  // The form can't store an item that consists of blanks, so an empty item of the form becomes a blank here.
   for (QComboBox* part : {ui_->Combo1, ui_->Combo2, ui_->Combo3, ui_->Combo4, ui_->Combo5})
     if (const int blank = part->findText(QString()); blank >= 0) part->setItemText(blank, QStringLiteral(" "));
   connect(ui_->Command3, &QPushButton::clicked, this, [this] {

@@ -41,7 +41,7 @@ void AddTagWindows(const ProgramParts& parts) {
   parts.Add<SeznamDef>({"MnuListDef"}, text);
   parts.Add<Tagy>({"mnuvlastni"}, text);
   parts.Add<Attr>({"mnuatr"}, text, platform);
-  // required: no dialog opens; the tag comes from the fields of Tagy, even while this window is hidden
+  // required: no dialog opens. The tag comes from the fields of the dialog Tagy, even while Tagy is hidden
   parts.editor.commands.Add("Mnu_Insert_Custom_Tag",
                             [&windows = parts.windows] { windows.Get<Tagy>().InsertCustomTag(); });
   parts.editor.commands.Add(

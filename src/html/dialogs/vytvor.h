@@ -1,5 +1,6 @@
-// The dialog `Vytvoř` puts a whole page around the document. If the box for the background colour or the text
-// colour is checked, the main text box gets the colour of the swatch.
+// The dialog `Vytvoř` puts a whole page around the document. If the box for the background colour is checked, Ok also
+// sets the background of the main text box to the colour of the swatch beside the box. The same holds for the text
+// colour.
 #pragma once
 
 #include "html/dialogs/file_choice.h"

@@ -20,7 +20,7 @@ namespace pelmar {
 namespace {
 
 constexpr char kFlags[] = "QTWEBENGINE_CHROMIUM_FLAGS";
-// Closes the engine's ways around the gate: UDP and its own look-ups of host names.
+// Closes the engine's ways around the gate: UDP, and look-ups of host names by the engine itself.
 constexpr char kOnlyThroughTheGate[] =
     " --force-webrtc-ip-handling-policy=disable_non_proxied_udp --disable-quic --dns-prefetch-disable"
     " --host-resolver-rules=\"MAP * ~NOTFOUND, EXCLUDE ";

@@ -143,7 +143,8 @@ NetGate::NetGate(bool open) : open_(open) {
 }
 
 QByteArray NetGate::Address() const {
-  // If the gate can't listen, the engine gets a port that is hardly ever in use, and so reaches nothing.
+  // If the gate can't listen, the engine gets port 9. This port is reserved for a service that drops all it receives,
+  // so no request gets out.
   const int port = server_.isListening() ? server_.serverPort() : 9;
   return QByteArray(kGateHost) + ':' + QByteArray::number(port);
 }

@@ -63,12 +63,13 @@ WebEnginePage::WebEnginePage(QWebEngineProfile* profile, PageSide side) : QWebEn
   settings()->setDefaultTextEncoding(QStringLiteral("windows-1250"));
   settings()->setUnknownUrlSchemePolicy(QWebEngineSettings::DisallowUnknownUrlSchemes);
   settings()->setAttribute(QWebEngineSettings::LocalContentCanAccessFileUrls, true);
-  // NetRefusal and NetGate block the net. The engine's own rule is off, since it would not call on_withheld.
+  // NetRefusal and NetGate block the net. The engine's own rule is off, since this rule would not report what it
+  // blocks.
   settings()->setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, true);
   settings()->setAttribute(QWebEngineSettings::JavascriptEnabled, side != PageSide::kDiskWithNet);
   settings()->setAttribute(QWebEngineSettings::HyperlinkAuditingEnabled, false);
-  // A page may ask for a new window only after an action of the person, such as a click. A script could ask without
-  // end.
+  // A page may ask for a new window only after an action of the person, such as a click. Otherwise a script could ask
+  // without end.
   settings()->setAttribute(QWebEngineSettings::JavascriptCanOpenWindows, false);
   settings()->setAttribute(QWebEngineSettings::FocusOnNavigationEnabled, false);
   NameActions();

@@ -65,7 +65,7 @@ int CopyTail(int old, int to, std::uint64_t kept) {
   return ForEachPiece(old, [to](std::string_view piece) { return WriteAll(to, piece); });
 }
 
-// Replaces the target by a new file if possible, otherwise overwrites the target.
+// Replaces the target by a new file. If the folder or the old file doesn't allow this, overwrites the target.
 WriteOutcome WriteOver(const Target& target, NewContent content, const std::string& keep_folder, mode_t new_mode) {
   const Beside beside = WriteBeside(target, content, new_mode);
   if (!beside.try_in_place) return {.error = beside.error};

@@ -105,7 +105,8 @@ WriteOutcome WriteInPlace(const Target& target, const NewContent& content, const
     return {.error = error, .kept = kept.Path()};
   }
   kept.Remove();
-  // Drops the set-id bits. If the writer isn't the owner, the call fails, but the kernel has dropped the bits already.
+  // Drops the set-id bits. The call fails if the writer is neither the owner nor root. In this case the kernel has
+  // dropped the bits already.
   if (error == 0 && (target.old.st_mode & (S_ISUID | S_ISGID)) != 0)
     fchmod(file.Number(), target.old.st_mode & kKeptMode);
   return {.error = error};

@@ -33,9 +33,9 @@ void InstallLabelFaces();
 // Lets screen readers say a text. Does nothing if no screen reader runs.
 void Announce(QWidget& window, const QString& text);
 
-// If a combo box has an accessible name but no label, gives the box a hidden label with this name: Qt would present the
-// current item in place of the name. The inner field of an editable box also gets the accessible name of the box. If
-// the box has none, the inner field gets the text of the label.
+// Names the combo boxes of the window. A box with an accessible name but no label gets a hidden label with this name,
+// since Qt presents the current item in place of the accessible name. The inner field of an editable box gets the
+// accessible name of the box, or the text of the label if the box has no accessible name.
 void LabelBoxes(QWidget& window);
 
 }  // namespace pelmar
