@@ -30,8 +30,8 @@ class Program {
   // alone, also keeps the unsaved documents and calls Session::StoreAll. Shows no message and asks no question.
   void KeepUnsaved();
 
-  // Call with an error that nobody caught. Keeps the unsaved documents and notes, then shows a message with the error
-  // and with the files of the kept texts. Afterwards the caller must end the process.
+  // Call with an error that nobody caught. Keeps the same documents and notes as KeepUnsaved, then shows a message with
+  // the error and with the files of the kept texts. Afterwards the caller must end the process.
   void ReportRuntimeError(const RuntimeError& error);
 
   [[nodiscard]] MainWindow& Main() { return main_; }
@@ -60,7 +60,8 @@ class Program {
 };
 
 // The command-line arguments joined by blanks. If this text is the relative path of an existing file, returns the
-// absolute path, usually without "." and "..". If the text is a "file://" URL of this computer, returns its path.
+// absolute path, usually without "." and "..". If the text is a "file://" URL of this computer, returns the path in the
+// URL.
 std::string CommandTail(const QStringList& arguments);
 
 }  // namespace pelmar

@@ -31,7 +31,7 @@ class Session : public SessionState {
   // path, is empty and wasn't changed since the load. Doesn't mark the document as changed.
   void TakeLateClipboard();
   // Opens the file or shows the accessory that `tail`, the result of CommandTail, names. If `tail` is empty, shows the
-  // welcome dialog or the main window.
+  // welcome dialog or the main window. For "-NOMSG", always shows the main window.
   void Act(std::string_view tail);
 
   // Calls StoreAll. If there are unsaved changes, then asks whether to close. False if the person refuses.

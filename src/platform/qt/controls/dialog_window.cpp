@@ -91,7 +91,7 @@ QList<QWidget*> FieldsInOrder(QWidget& window) {
 }
 
 // Whether the widget is on a tab page. There Enter in the last field goes to the first field and doesn't press the
-// default button: the person fills in the same fields for the next row or cell, or goes on to another page.
+// default button. The person then fills in the same fields for the next row or cell, or goes on to another page.
 bool LiesBehindTabs(const QWidget* widget) {
   while (widget != nullptr && !qobject_cast<const QStackedWidget*>(widget)) widget = widget->parentWidget();
   return widget != nullptr;
@@ -171,7 +171,7 @@ void DialogWindow::keyPressEvent(QKeyEvent* event) {
   const QString name = property("cancelButton").toString();
   auto* cancel = name.isEmpty() ? nullptr : findChild<QAbstractButton*>(name);
   if (cancel != nullptr && event->matches(QKeySequence::Cancel)) return cancel->click();
-  // Qt would press the default button even if another button has the focus.
+  // The forms turn autoDefault off. So Qt would press the default button even if another button has the focus.
   QWidget* focus = focusWidget();
   if (IsPlainEnter(*event) && (qobject_cast<QPushButton*>(focus) || qobject_cast<QToolButton*>(focus)))
     return static_cast<QAbstractButton*>(focus)->click();

@@ -10,7 +10,8 @@ namespace {
 
 constexpr QSize kLeastView(200, 96);
 
-// Whether the layout contains only buttons and spacers. The keys of a keypad don't count as buttons.
+// Whether the layout contains at least one button, and otherwise only buttons and spacers. The keys of a keypad don't
+// count as buttons.
 bool HoldsButtonsOnly(const QLayout& layout) {
   int buttons = 0;
   for (int i = 0; i < layout.count(); ++i) {
@@ -23,7 +24,7 @@ bool HoldsButtonsOnly(const QLayout& layout) {
 }
 
 // Takes the last item out of `contents` if this item is a layout of buttons. Otherwise makes a row of the buttons
-// `ending`. The caller owns the result, which is null if there are no buttons.
+// `ending`, or returns null if `ending` is empty. The caller owns the result.
 QLayout* TakeButtons(QLayout& contents, const QList<QPushButton*>& ending) {
   QLayoutItem* last = contents.count() > 0 ? contents.itemAt(contents.count() - 1) : nullptr;
   if (last != nullptr && last->layout() != nullptr && HoldsButtonsOnly(*last->layout()))

@@ -21,8 +21,8 @@ QMimeData* MimeFromText(std::string_view bytes);
 // text.
 std::optional<std::string> TextFromMime(const QMimeData* mime);
 
-// The text for a single-line field, in Unicode. Removes each CR and LF. If `holds_lines`, keeps them, and a
-// lone LF of plain text becomes CR LF.
+// The text for a single-line field, in Unicode. If `holds_lines`, keeps the line breaks, and a lone LF of plain text
+// becomes CR LF. Otherwise removes each CR and each LF.
 QString LineFromMime(const QMimeData& mime, bool holds_lines);
 
 // Converts a text to Windows-1250. First composes letters and their combining accents (NFC). A lone LF becomes CR LF.

@@ -52,7 +52,7 @@ class Box : public QMessageBox {
   [[nodiscard]] bool IsQuestion() const { return standardButtons().testFlag(QMessageBox::No); }
 };
 
-// Lets TakePasted handle pastes and drops in a field that Qt created.
+// Passes each event of a field that Qt created to TakePasted.
 class PasteFilter : public QObject {
  public:
   using QObject::QObject;

@@ -1,5 +1,5 @@
 // The boxes for messages, for one line of text and for a file name. They are Qt's dialogs, with the look of the
-// desktop. A dialog ends when the person has answered or the parent window is deleted.
+// desktop. A dialog ends when the person answers or closes the dialog, or when the parent window is deleted.
 #pragma once
 
 #include <QString>

@@ -1,6 +1,5 @@
 // Prints on the system's default printer or on its only printer. Prints into a PDF file if there is neither, or if the
-// printer module can't be loaded. Letters, tabs and control characters look as in the
-// text box.
+// printer module can't be loaded. Letters, tabs and control characters look as in the text box.
 #pragma once
 
 #include <QString>

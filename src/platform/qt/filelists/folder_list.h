@@ -19,8 +19,8 @@ class FolderList : public QListView {
 
   // The absolute path from PathToQString, without "/" at the end unless the path is "/".
   [[nodiscard]] const QString& Path() const { return path_; }
-  // Enters the folder and highlights the row of the folder. Reads the folder again if the path is the present path. A
-  // path that isn't a readable folder changes nothing.
+  // Enters the folder and highlights the row of the folder. Reads the folder, even if the path is the present path, but
+  // not before the list is first shown. A path that isn't a readable folder changes nothing.
   void SetPath(const QString& path);
 
   [[nodiscard]] QString HighlightedPath() const;

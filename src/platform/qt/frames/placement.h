@@ -1,7 +1,7 @@
 // Brings a window to an outer place. The frame is known only a moment after the window is shown, and the window manager
 // carries out requests with a delay. So Placement repeats its checks and requests until the window is in place, a
-// time limit is over or the window is hidden. Each request to the window manager contains size and position. A request
-// for a new size alone would repeat an old position, so the wish contains both.
+// time limit is over or the window is hidden. Each request to the window manager contains a size and a position. If
+// only the size were wished, the request would contain a position that may be outdated. So a wish contains both.
 #pragma once
 
 #include <QDeadlineTimer>
@@ -35,7 +35,8 @@ class Placement : public QObject {
   // Whether the first frame of the window is known. Also true if the window got no frame within the time limit.
   [[nodiscard]] bool FrameKnown() const { return frame_known_; }
 
-  // Called when FrameKnown becomes true. The place was requested just before, unless the window is minimised.
+  // Called when FrameKnown becomes true. If the window was not in place, the place was requested just before, unless
+  // the window is minimised or maximised.
   std::function<void()> on_frame;
   // Called when the checks end: the window is in place, the time limit is over, or the window was hidden.
   std::function<void()> on_end;

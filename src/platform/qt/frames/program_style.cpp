@@ -43,8 +43,8 @@ QColor Mixed(const QColor& ground, const QColor& text, double share) {
                           mix(ground.blueF(), text.blueF()));
 }
 
-// The mixture of the two colours with the least share of `text` that reaches the contrast with `ground`. `text` itself
-// if no mixture does.
+// Mixes `text` into `ground`, with a greater share in each of kSteps steps, until the contrast of the mixture with
+// `ground` is at least `wanted`. Returns this mixture, or `text` itself if no mixture has enough contrast.
 QColor OfContrast(double wanted, const QColor& ground, const QColor& text) {
   for (int step = 1; step < kSteps; ++step)
     if (const QColor mixed = Mixed(ground, text, static_cast<double>(step) / kSteps); Contrast(ground, mixed) >= wanted)
@@ -60,7 +60,7 @@ bool TakesEnter(const QWidget* widget) {
 }
 
 // The height of a menu item. If the menu would not fit the screen, Qt would put the last items into a second column. So
-// in a long menu the items are lower than usual, but not lower than the letters.
+// in a long menu the height of an item is less than usual, but at least the height of the letters.
 int HeightInMenu(const QMenu& menu, int usual) {
   constexpr int kSeparator = 8, kFrame = 8;
   int items = 0, around = kFrame;

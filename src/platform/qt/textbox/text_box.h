@@ -82,8 +82,8 @@ class TextBox : public QAbstractScrollArea {
 
   // Does what the key does. Menus call this function too. A read-only text is not changed.
   void Do(const TextKey& key);
-  // Replaces the selection by the text of the clipboard or of a drop, converted by TextFromMime. Does nothing if there
-  // is no text or if this control is read-only.
+  // Replaces the selection by the result of TextFromMime. Does nothing if there is no text or if this control is
+  // read-only.
   void Insert(const QMimeData* mime);
 
   // Geometry for the helper classes, in pixels of the viewport.
@@ -186,7 +186,7 @@ class TextBox : public QAbstractScrollArea {
   bool tab_selects_all_ = false;
   bool caret_stays_ = false;
   bool updating_bar_ = false;
-  bool ready_ = false;  // has been on the screen
+  bool ready_ = false;  // set just before the first paint, see showEvent
 };
 
 }  // namespace pelmar

@@ -19,7 +19,7 @@ class TextDrop {
   explicit TextDrop(TextBox& box) : box_(box) {}
 
   // Drags the selection of `box`. Returns after the drop or a cancel. After a move to another target, deletes the
-  // selection.
+  // selection, unless the selection has changed during the drag.
   static void StartDrag(TextBox& box);
 
   void Enter(QDragEnterEvent* event);

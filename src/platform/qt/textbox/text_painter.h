@@ -1,5 +1,5 @@
-// Paints the selection and the glyphs of rows. Leaves a gap for composed text, which TextComposer paints. Holds only
-// references. Create an object for each paint.
+// Paints the selection and the glyphs of rows. Leaves a gap for composed text, which TextComposer paints. An object
+// holds references to its arguments, so create a new object for each paint.
 #pragma once
 
 #include <QColor>
