@@ -17,7 +17,7 @@ const KnownFile* Documents::CurrentFile() const {
 void Documents::LeaveTab() {
   Current().Text = buffer_.Text();
   Current().Path = current_path_;
-  // required: a change of the text sets Modified only here. Saving, opening and a new document clear Modified.
+  // required: a change of the text sets Modified only here
   if (TitleIsMarked()) Current().Modified = true;
 }
 
@@ -98,8 +98,9 @@ void Documents::MakeCurrent(const std::string& path) {
 }
 
 void Documents::MakeCurrent(const std::string& path, std::string text) {
-  current_path_ = path;                 // required: set before SetText notifies the change
-  title_follows_ = HasExtension(path);  // required: without an extension, the title keeps the old path and gets the "*"
+  current_path_ = path;  // required: set before SetText notifies the change
+  // required: without an extension, the title keeps the old path, and a changed text gives the title the "*"
+  title_follows_ = HasExtension(path);
   buffer_.SetText(std::move(text));
   title_follows_ = false;
   MakeCurrent(path);

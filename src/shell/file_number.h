@@ -1,7 +1,7 @@
 // File number 1 is a lock that the whole program shares. An operation on a document or on the program's own files holds
-// the number or checks that nobody holds it. required: if an error interrupts the opening of a document, the number
-// stays in use, and every later operation fails until the program is restarted. The rescue, the help and the
-// conversions of files don't use the number.
+// the number or checks that nobody holds it. required: the opening of a document whose name has no extension ends in an
+// error that leaves the number in use. Then every later operation fails until the program is restarted. The rescue, the
+// help and the conversions of files don't use the number.
 #pragma once
 
 #include <cerrno>

@@ -1,6 +1,6 @@
 // The two interfaces of the main window that the core uses: its place on the screen, and the look of its text box.
-// Tests replace the window by a simple class. Places and sizes are in twips and include the frame of the
-// window.
+// Tests replace the window by a simple class. Places and sizes of the window are in twips and include the window's
+// frame.
 #pragma once
 
 #include <cstdint>

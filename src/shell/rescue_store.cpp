@@ -24,7 +24,8 @@ std::string FileName(std::string_view prefix) {
          std::to_string(std::chrono::duration_cast<std::chrono::microseconds>(now).count()) + std::string(kSuffix);
 }
 
-// The names of all rescue files in the folder. Includes the name of a missing rescue file whose lock still exists.
+// The names of the rescue files in the folder that begin with `prefix`. Includes the name of a missing rescue file
+// whose lock still exists.
 std::set<std::string> RescueNames(const std::string& folder, std::string_view prefix) {
   std::set<std::string> names;
   std::error_code error;

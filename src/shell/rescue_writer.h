@@ -22,8 +22,9 @@ class RescueWriter {
   RescueWriter(const RescueWriter&) = delete;
   RescueWriter& operator=(const RescueWriter&) = delete;
 
-  // Waits for an earlier write. Then the second thread writes the record, unless the file already holds this record,
-  // and calls `done` with 0 or errno. If no thread can be started, calls `done` with EAGAIN in the calling thread.
+  // Waits for an earlier write. Then the second thread writes the record, unless the file already holds this record. In
+  // both cases the second thread calls `done` with 0 or errno. If no thread can be started, Start itself calls `done`
+  // with EAGAIN.
   void Start(RescueRecord record, std::function<void(int error)> done);
   [[nodiscard]] bool IsRunning() const { return running_; }
   // Waits for the running write and its call of `done`.

@@ -16,7 +16,7 @@ struct PanelTexts {
   std::string lines;     // panel 3
 };
 
-// required: line feeds count as lines, so the first line is 0. Without `line_counting`, `lines` is "(OFF)".
+// required: panel 3 counts line feeds, so the first line is 0. Without `line_counting`, `lines` is "(OFF)".
 PanelTexts ComputePanels(const TextBuffer& buffer, bool line_counting);
 
 // The text of panel 4. `clipboard` is nullopt if the clipboard offers no plain text.

@@ -85,7 +85,7 @@ double LeadingNumber(std::string_view text) {
   text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
   text = text.substr(0, NumberLength(text, '.'));
   if (const auto value = ValueOf(text)) return *value;
-  // The number is too large for a double. Take the longest part that fits.
+  // No double can hold the number. Take the longest part at its start that fits.
   std::size_t length = 0;
   while (ValueOf(text.substr(0, length + 1))) ++length;
   return ValueOf(text.substr(0, length)).value_or(0);

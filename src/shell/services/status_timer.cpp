@@ -51,7 +51,8 @@ void StatusTimer::ShowPanels(std::uint64_t clipboard_revision, const std::option
 void StatusTimer::Tick() {
   SnapWindows();
   if (!window_.MainActive()) return;
-  // Read the revision before the text. If the clipboard changes in between, the next tick then sees a new revision.
+  // The clipboard's revision is read before its content. So if the clipboard changes in between, the next tick sees a
+  // new revision.
   const std::uint64_t revision = editor_.platform.ClipboardRevision();
   const std::optional<std::string>& clipboard = editor_.platform.ClipboardContent();
   // A change of the menu bar would close an open menu.

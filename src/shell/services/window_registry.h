@@ -15,7 +15,7 @@ class WindowRegistry {
   // Returns a new window, or null if a module that the window needs is not installed.
   using Maker = std::function<std::unique_ptr<QWidget>()>;
 
-  // `make` must return a Window, which the registry will own, or null.
+  // `make` must return a Window or null. The registry will own the Window.
   template <class Window>
   void Register(Maker make) {
     entries_[typeid(Window)].make = std::move(make);

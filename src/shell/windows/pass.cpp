@@ -30,7 +30,7 @@ void Pass::Run() {
   hide_text_(false);
 }
 
-// After a wrong password the button has the keyboard focus. Text typed then goes to the password field.
+// After a wrong password the button has the keyboard focus. Typed text still goes to the password field.
 void Pass::keyPressEvent(QKeyEvent* event) {
   const QString text = event->text();
   if (focusWidget() == ui_->Text1 || text.isEmpty() || !text.front().isPrint())

@@ -1,6 +1,6 @@
-// The welcome dialog `Start`. A menu item shows the dialog, and so does a start of the program without arguments,
-// unless the person has turned this off. Any key except modifiers and lock keys closes the dialog and shows the main
-// window.
+// The welcome dialog `Start`. A menu item shows the dialog. A start of the program without arguments shows the dialog
+// too if the setting ShowStart is on. Any key except a modifier, Caps Lock or Num Lock closes the dialog and shows the
+// main window.
 #pragma once
 
 #include <functional>

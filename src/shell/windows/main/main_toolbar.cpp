@@ -17,7 +17,7 @@
 namespace pelmar {
 namespace {
 
-// Removes the middle of an item that is wider than the screen. So the file name usually stays visible.
+// Removes the middle of an item that would make its menu wider than the screen. So the file name usually stays visible.
 QString ElidedToScreen(const QString& item) {
   constexpr int kRestOfMenu = 80;  // pixels
   const int space = QGuiApplication::primaryScreen()->availableSize().width() - kRestOfMenu;

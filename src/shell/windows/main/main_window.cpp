@@ -37,7 +37,7 @@ std::vector<std::string> DroppedFiles(const QMimeData* mime) {
   return paths;
 }
 
-// The first ten paths, one on each line. If there are more, the last line is their number.
+// The first ten paths, one on each line. If there are more paths, a last line says how many more.
 std::string ListOf(const std::vector<std::string>& paths) {
   constexpr std::size_t kMost = 10;
   std::string list;
@@ -316,7 +316,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
-  // The system delivers drops even while a dialog or the lock is open. Such drops are refused.
+  // The system delivers drops even while a modal dialog is open, for instance the lock. These drops are refused.
   if (QApplication::activeModalWidget() != nullptr) return;
   if (!DroppedFiles(event->mimeData()).empty()) event->acceptProposedAction();
 }

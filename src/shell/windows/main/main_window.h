@@ -35,11 +35,10 @@ class MainWindow : public QMainWindow, public MainView {
 
   // Called before the window closes; false keeps it open.
   std::function<bool()> may_close;
-  std::function<void()> on_line_counting;  // called when a click in the status bar switches line counting
+  std::function<void()> on_line_counting;  // called when a click in the status bar sets LineCounting
 
   void ShowMain();
-  // Enables the menu items and buttons whose commands exist, and disables the others. Call after all commands were
-  // added.
+  // Calls Refresh of the menu bar and of the toolbar. Call after all commands were added.
   void RefreshCommands();
   // Hides the text from the screen and from assistive technology, or shows the text again. For the lock.
   void HideText(bool hide);
@@ -90,7 +89,7 @@ class MainWindow : public QMainWindow, public MainView {
   Editor& editor_;
   Files& files_;
   std::vector<Listening> listenings_;
-  TextBuffer nothing_;  // the empty text shown while the text is hidden
+  TextBuffer nothing_;  // always empty: the text of the box while the document is hidden
   int scrolled_ = 0;    // the scroll position before the text was hidden
   QWidget* client_ = nullptr;
   MenuBar* menus_ = nullptr;

@@ -133,8 +133,8 @@ bool MenuBar::RunIfNowEnabled(const QKeyEvent& keys, const std::function<MenuSta
   return false;
 }
 
-// Opens the menu with the access key. Two menus have the key T: if the first of them is open, T opens the second,
-// otherwise the first. A disabled menu takes its key but stays closed. False if no menu has the key.
+// Opens the menu with the access key. Two menus have the key T: if the first of them is highlighted or open, T opens
+// the second, otherwise the first. A disabled menu takes its key but stays closed. False if no menu has the key.
 bool MenuBar::OpenByAccessKey(const QKeySequence& key) {
   QList<QAction*> menus = actions();
   menus.removeIf([&key](const QAction* menu) { return !HasAccessKey(*menu, key); });
@@ -184,9 +184,9 @@ void MenuBar::CloseMenus() {
   QMetaObject::invokeMethod(this, leave, Qt::QueuedConnection);
 }
 
-// Handles a key in an open menu. Alt with the access key of a menu opens that menu. A letter selects the next item that
-// begins with the letter and has no access key. False if the menu itself must handle the key, such as an arrow key or
-// the access key of an item. A letter never reaches the text box under the menu.
+// Handles a key in an open menu. Alt with a key means the access key of the open menu, otherwise of an enabled item in
+// it, otherwise of another menu. A letter or digit selects the next item that begins with it and has no access key.
+// False if the menu itself must handle the key: an arrow, an item's access key. Letters never reach the text box.
 bool MenuBar::KeyInMenu(QMenu& menu, const QKeyEvent& key) {
   alt_alone_ = false;
   const bool alt = key.modifiers() == Qt::AltModifier;
