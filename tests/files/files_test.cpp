@@ -67,6 +67,19 @@ TEST_F(FilesTest, ACancelledDialogDoesNothing) {
   ExpectUntouched();
 }
 
+TEST_F(FilesTest, ATextOfTwoEncodingsIsSavedOverAUtf8FileOnlyAfterAYes) {
+  const std::string utf8 = "p\u0159", mixed = utf8 + "\xF8";
+  platform.files["/b.txt"] = utf8;
+  editor.text.SetText(mixed);
+  EXPECT_EQ(Run("mnu_save_st", "/b.txt", {kNo}).size(), 2u);  // the dialog and the question about the encodings
+  EXPECT_EQ(platform.files["/b.txt"], utf8);
+  Run("mnu_save_st", "/b.txt", {kYes, kYes});
+  EXPECT_EQ(platform.files["/b.txt"], mixed);
+  platform.files["/b.txt"] = utf8;
+  Run("Mnu_SaveFast", {}, {kYes, kYes, kYes});  // asks only once about the encodings
+  EXPECT_EQ(platform.files["/b.txt"], mixed);
+}
+
 TEST_F(FilesTest, OpenReplacesTheDocumentWithoutAsking) {
   EXPECT_EQ(Run("mnu_open_st", "/b.txt"), (Calls{kOpenDialog, "recent /b.txt"}));
   EXPECT_EQ(Marked(editor.text), "|b");

@@ -91,6 +91,15 @@ TEST_F(DocumentsTest, ANameWithoutAnExtensionSetsOnlyPathAndFolderOfTheTarget) {
   EXPECT_FALSE(documents.Target().Complete());
 }
 
+TEST_F(DocumentsTest, AnEmptyTabIsSearchedFirstAfterTheCurrentTab) {
+  documents.SwitchTo(4);
+  EXPECT_EQ(documents.EmptyTab(), 5);
+  documents.Restore(5, "five", "");
+  EXPECT_EQ(documents.EmptyTab(), 1);
+  for (int tab = 1; tab <= 4; ++tab) documents.Restore(tab, "text", "");
+  EXPECT_EQ(documents.EmptyTab(), 0);
+}
+
 TEST_F(DocumentsTest, RescueKeepsTheUnsavedDocumentsAndBringsThemBack) {
   documents.MakeCurrent("/a/one.txt", "one");
   Type("!");
