@@ -79,6 +79,7 @@ TEST_F(RescueStoreTest, TheLastRecordWinsWhetherTheThreadOrTheCallerWritesIt) {
   }
   writer.Start(record(100), done);  // not written again, because the file holds this record already
   writer.Remove();
+  EXPECT_FALSE(writer.IsRunning());
   EXPECT_EQ(calls, 51);
   EXPECT_EQ(writes, 100);
   EXPECT_TRUE(std::filesystem::is_empty(folder));

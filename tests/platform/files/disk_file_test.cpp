@@ -86,6 +86,7 @@ TEST(ReadWholeFile, RefusesAllButReadableRegularFilesWithoutWaiting) {
   ASSERT_EQ(seteuid(user == 0 ? kNobody : user), 0);  // root may read any file
   for (const auto& [path, error] : refused) {
     EXPECT_EQ(ReadWholeFile(path, {}).error, error) << path;
+    EXPECT_EQ(ReadFileByPieces(path, [](auto) { return true; }), error) << path;
     EXPECT_FALSE(CanReadFile(path)) << path;
   }
   ASSERT_EQ(seteuid(user), 0);

@@ -169,6 +169,15 @@ TEST_F(DialogWindowTest, EachOpeningFocusesTheFirstFieldAndSelectsItsText) {
   }
 }
 
+TEST_F(DialogWindowTest, OnlyEnterGoesToTheNextField) {
+  QLineEdit second(&dialog);
+  dialog.Present();
+  QTest::keyClick(&field, Qt::Key_Down);
+  EXPECT_EQ(dialog.focusWidget(), &field);
+  QTest::keyClick(&field, Qt::Key_Return);
+  EXPECT_EQ(dialog.focusWidget(), &second);
+}
+
 TEST_F(DialogWindowTest, EnterPressesTheButtonInFocus) {
   const QSignalSpy pressed_ok(&ok, &QPushButton::clicked), pressed_cancel(&cancel, &QPushButton::clicked);
   dialog.Present();
