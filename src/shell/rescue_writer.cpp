@@ -12,7 +12,7 @@ RescueWriter::RescueWriter(const RescueKind& kind, std::string folder, RescueSto
 
 RescueWriter::~RescueWriter() { Wait(); }
 
-void RescueWriter::Start(RescueRecord record, std::function<void(int error)> done) {
+void RescueWriter::Start(RescueRecord record, const std::function<void(int error)>& done) {
   Wait();
   running_ = true;
   try {

@@ -25,7 +25,7 @@ class RescueWriter {
   // Waits for an earlier write. Then the second thread writes the record, unless the file already holds this record. In
   // both cases the second thread calls `done` with 0 or errno. If no thread can be started, Start itself calls `done`
   // with EAGAIN.
-  void Start(RescueRecord record, std::function<void(int error)> done);
+  void Start(RescueRecord record, const std::function<void(int error)>& done);
   [[nodiscard]] bool IsRunning() const { return running_; }
   // Waits for the running write and its call of `done`.
   void Wait();

@@ -23,7 +23,8 @@ int FollowLinks(std::string& path) {
     const ssize_t length = readlink(path.c_str(), target.data(), target.size());
     if (length < 0) return errno == EINVAL || errno == ENOENT ? 0 : errno;
     target.resize(static_cast<std::size_t>(length));
-    path = (target.starts_with('/') ? "" : FolderOf(path)) + target;
+    if (!target.starts_with('/')) target.insert(0, FolderOf(path));
+    path = target;
   }
   return ELOOP;
 }

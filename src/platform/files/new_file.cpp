@@ -28,9 +28,10 @@ std::string DrawLetters() {
 template <typename Take>
 int TryNames(const std::string& start, const std::string& end, const Take& take) {
   for (int tries = 0; tries < kMostTries; ++tries) {
-    const std::string drawn = DrawLetters();
-    if (drawn.empty()) return errno;
-    const int error = take(start + drawn + end);
+    std::string name = DrawLetters();
+    if (name.empty()) return errno;
+    name.insert(0, start).append(end);
+    const int error = take(name);
     if (error != EEXIST) return error;
   }
   return EEXIST;
