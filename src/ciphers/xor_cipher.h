@@ -17,7 +17,8 @@ namespace pelmar {
 struct Editor;
 
 // The text that the key field shows after a typed text: the number at the start is read and written until the text
-// stays the same. required: writing uses a comma and reading stops at a comma, so decimals are lost.
+// stays the same. required: writing uses a comma and reading stops at a comma, so the decimals and an exponent after
+// them are lost: "1.5E20" gives "1".
 std::string KeyText(std::string_view typed);
 
 class StreamCipher {

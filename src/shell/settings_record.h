@@ -12,11 +12,12 @@
 
 namespace pelmar {
 
-// The initial AutosnapDistance, in twips. A window snaps to an edge of the screen that is nearer than AutosnapDistance.
+// The AutosnapDistance, in twips, that replaces a loaded 0, so also at the first start. A window snaps to an edge of
+// the screen that is nearer than AutosnapDistance.
 inline constexpr std::int32_t kDefaultAutosnapDistance = 240;
 
-// Fields named after the stored format (in SettingsRecord) or after properties of the tabs (in DocSlot and TabFace)
-// begin with a capital letter. All other fields of structs begin with a small letter.
+// The stored fields of SettingsRecord, and the fields of DocSlot and TabFace named after properties of the tabs, begin
+// with a capital letter. All other fields of structs begin with a small letter.
 struct SettingsRecord {
   std::int32_t Width = 0;  // outer size and place of the main window, twips
   std::int32_t Height = 0;

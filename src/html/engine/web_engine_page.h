@@ -29,8 +29,8 @@ class WebEnginePage : public QWebEnginePage {
   // shown: the question whether to leave the page gets Yes, every other question gets No.
   void AnswerNo();
   void AllowQuestions() { answers_no_ = false; }
-  // Call at each command that loads a page. Counts questions from 0 again. Allows questions again if the person has
-  // switched them off.
+  // Call at each command that loads a page. Counts questions from 0 again. If the person has switched off further
+  // questions, switches them on again. AnswerNo() stays in effect.
   void ResetQuestions();
   [[nodiscard]] bool Asking() const { return question_ != nullptr; }
 
@@ -50,8 +50,9 @@ class WebEnginePage : public QWebEnginePage {
   // Loads the address of a requested new window in this page, if this page may open the address.
   void OpenHere(const QUrl& address);
   void AskToLeaveTheDisk(const QUrl& address);
-  // Shows a question of the page. From the third question after a command on, the person may switch off further
-  // questions. True only if the person agrees. A page that is hidden, already asks or may not ask shows no question.
+  // Shows a question of the page. The third and each later question since ResetQuestions() has a check box that
+  // switches off further questions. True only if the person agrees. A page that is hidden, already asks or may not ask
+  // shows no question.
   bool Ask(QDialog& question);
   bool AskInBox(const QString& title, const QString& text, QMessageBox::StandardButtons buttons,
                 QMessageBox::StandardButton default_button);

@@ -33,7 +33,7 @@ std::optional<std::string> ToPath(const std::optional<QString>& answer) {
   return PathFromQString(*answer);
 }
 
-// Shows the arrow while a long command asks the person something.
+// Shows the arrow while a message or a dialog is open during a long command.
 class OrdinaryPointer {
  public:
   OrdinaryPointer() {
@@ -131,8 +131,8 @@ void QtPlatform::ReportRefusedFolder() {
   if (!notice.empty()) Message(MessageType::kOkInfo, notice, "Pelmar VEX");
 }
 
-// Reads TMPDIR itself. QDir::tempPath returns "" if this folder is missing. Then this function would return "/", the
-// root of the disk.
+// Reads TMPDIR itself, because QDir::tempPath returns "" if the folder in TMPDIR is missing. With this result, files
+// would be written to "/", the root of the disk.
 std::string QtPlatform::TempFolder() {
   const QString set = QFile::decodeName(qgetenv("TMPDIR"));
   const QString folder = set.isEmpty() ? QStringLiteral("/tmp") : QDir::cleanPath(QFileInfo(set).absoluteFilePath());

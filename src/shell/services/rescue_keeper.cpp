@@ -46,7 +46,7 @@ std::optional<RescueRecord> RescueKeeper::CopyUnsaved() const {
 void RescueKeeper::WriteInThread() {
   // On a slow disk an earlier write may still be running. Then the function runs again later, with the latest texts.
   if (writer_.IsRunning()) return timer_.start(kDelay);
-  // The interface thread only copies the texts. The other thread does the rest.
+  // The interface thread only copies the texts. The other thread writes the file.
   auto now = CopyUnsaved();
   if (!now) return AfterWrite(ENOMEM);
   writer_.Start(std::move(*now), [this, write = ++writes_](int error) {
@@ -110,7 +110,7 @@ Kept RescueKeeper::KeepNow() {
 bool RescueKeeper::WriteReadable() {
   try {
     const std::string readable = content_.Readable(content_.Unsaved().texts);
-    // The desktop may request the end several times. One file is enough for the same texts.
+    // The desktop may ask the program several times to quit. One file is enough for the same texts.
     if (readable == last_resort_.text && platform_.CanRead(last_resort_.path)) return true;
     const TempFile file = WriteTempFile(platform_, "pelmar-" + std::string(content_.kind.prefix), ".txt", readable);
     if (file.error == 0) last_resort_ = {file.path, readable};
@@ -182,7 +182,8 @@ void RescueKeeper::Offer() {
   // Set only after the question. Otherwise a write during the question would remove the old files, although this copy's
   // rescue file doesn't hold their texts yet.
   owed_.files = std::move(files);
-  // Texts without a place, or refused by the person, stay readable in a text file until the next rescue.
+  // Texts without a place, or refused by the person, go into a readable text file. The file stays until a later rescue
+  // has such texts too.
   owed_.rest = content_.Readable(left);
   owed_.report_rest = wanted && !left.empty();
   WriteAndWait();

@@ -277,7 +277,7 @@ TEST_F(HtmlDialogTest, TheSizeOfAnImageFollowsBarsAndUnit) {
 }
 
 TEST_F(HtmlDialogTest, OtherLabelsFollowTheirBars) {
-  ExpectState(Open("mnubarva"), "Check1! VScroll4=7", "Label4=7");
+  ExpectState(Open("mnubarva"), "Check1! VScroll4=7", "Label4=7 Combo1=(Combo1)");
   ExpectState(Open("MnuHTMLASCII"), "HScroll1=138", "Label1=138 Label2=Š");
   ExpectState(Open("mnuHTML_Fme"), "Check9! VScroll12=255 VScroll10=16", "Label8=#FF0010 Picture3=#ff0010");
   ExpectState(Open("mnucreate"), "Check8! HScroll1=3", "Label14=3");

@@ -109,7 +109,7 @@ void FileList::mousePressEvent(QMouseEvent* event) {
 }
 
 void FileList::mouseDoubleClickEvent(QMouseEvent* event) {
-  // Otherwise the release would emit FileClicked after FileActivated.
+  // Keeps the release from emitting FileClicked, even if it arrives while FileActivated is handled.
   click_emitted_ = true;
   QListView::mouseDoubleClickEvent(event);
 }
