@@ -52,7 +52,13 @@ TEST_F(TagCommandsTest, WrapTheSelectionInTagsThatMatch) {
 TEST_F(TagCommandsTest, WithoutASelectionWrapASample) {
   EXPECT_EQ(Written({"mnucenter"}), "<CENTER> Centrovaný text </CENTER>");
   EXPECT_EQ(Written({"Center"}), "<CENTER>Centrovaný text</CENTER>");  // required: without blanks
-  EXPECT_EQ(Written({"mnutt", "mnuhttpbig"}), "<TT>Pevná šířka znaků</TT><BIG>Velké</BIG>");
+  EXPECT_EQ(Written({"mnuBold", "mnuHtmlI", "mnuHTMLU", "mnustrike", "mnuhttpbig", "mnusmaal", "mnu_strong", "mnusup"}),
+            "<B>Tučně</B><I>Kurzívou</I><U>Podtrženě</U><STRIKE>Přeškrtnutě</STRIKE><BIG>Velké</BIG>"
+            "<SMALL>Malé</SMALL><STRONG>Silně</STRONG><SUP>Horní index</SUP>");
+  EXPECT_EQ(Written({"mnusub", "mnutt", "mnucite", "mnuadress", "mnupre", "mnucitetext", "mnuhtml_fno"}),
+            "<SUB>Dolní index</SUB><TT>Pevná šířka znaků</TT><CITE>Citát</CITE>"
+            "<ADDRESS>http://www.pohádka.cz</ADDRESS><PRE> Předformátovaný text </PRE>"
+            "<BLOCKQUOTE> Citovaný text </BLOCKQUOTE><NOFRAMES>rámce nejsou viditelné</NOFRAMES>");
 }
 
 TEST_F(TagCommandsTest, MakeListsOfTheSelectedLines) {

@@ -62,7 +62,9 @@ TEST(LayoutPicker, CellsCoverTheScreenAHalfOrAQuarterOfIt) {
   EXPECT_EQ(PlaceOfCell(2, 2, screen).place, screen);
   EXPECT_EQ(PlaceOfCell(2, 3, screen).place, (TwipsRect{1600, 30, 600, 800}));
   EXPECT_EQ(PlaceOfCell(3, 2, screen).place, (TwipsRect{1000, 430, 1200, 400}));
-  EXPECT_EQ(PlaceOfCell(3, 2, screen).name, "Dole");
+  std::string names;
+  for (int cell = 0; cell < 9; ++cell) names += std::string(PlaceOfCell(cell / 3 + 1, cell % 3 + 1, screen).name) + ' ';
+  EXPECT_EQ(names, "Vlevo nahoře Nahoře Vpravo nahoře Vlevo Maximalizace Vpravo Vlevo dole Dole Vpravo dole ");
 }
 
 }  // namespace

@@ -149,9 +149,11 @@ TEST_F(StartedTest, AboutShowsTheUserAndChangesTheCaseOfItsTitleUnderTheMouse) {
   ExpectState(about, "", "Label3=Jan");
   const std::string shown = Find<TextBox>(about, "Text1")->Text().toStdString();
   EXPECT_TRUE(shown.ends_with("\r\n====================\r\nPoznámka této verze:"_w)) << ToUtf8(shown);
+  const QString title = Find<QLabel>(about, "Label2")->text();
   QTest::mouseMove(&about, QPoint(3, 3));
   QTest::mouseMove(&about, QPoint(5, 5));
   EXPECT_GE(platform.reseeds, 1);
+  EXPECT_NE(Find<QLabel>(about, "Label2")->text(), title);
   EXPECT_EQ(Find<QLabel>(about, "Label2")->text().toLower(), QStringLiteral("orvilanths pelmar vex"));
   Work(about, "Command1!");
   EXPECT_EQ(platform.calls.back(), "about \"Orvilanths Pelmar VEX v8.9.2.1b CZ\" \"Autor: Orvilanths\"");
