@@ -26,10 +26,6 @@ class DialogWindow : public QDialog {
   // Shows the window in front of the others, with the focus on its first field.
   void Present();
 
-  // Makes the window no larger than `room`, in logical pixels inside the frame. Larger contents then scroll. Call
-  // before the window is first shown.
-  void FitInto(QSize room);
-
   // Runs the dialog modally, on the screen of the window that DialogParent returns. Activates that window afterwards.
   int exec() override;
 
@@ -53,6 +49,8 @@ class DialogWindow : public QDialog {
   bool TakesKey(QWidget& receiver, const QKeyEvent& press);
   // Runs before the window is first shown.
   void Prepare();
+  // Makes the window no larger than `room`, in logical pixels inside the frame. Larger contents then scroll.
+  void FitInto(QSize room);
   void BeginInFirstField();
   bool GoToNextField();
   QList<QPushButton*> EndingButtons() const;

@@ -1,5 +1,5 @@
-// The blinking of the caret at the rate of the desktop. About ten seconds after the last Start the blinking stops,
-// so that an idle program does nothing. If the desktop turns blinking off, no timer runs.
+// The blinking of the caret at the rate of the desktop. About ten seconds after the last Start the blinking stops, so
+// that an idle program does nothing. If the desktop turns blinking off, no timer runs.
 #pragma once
 
 #include <QBasicTimer>

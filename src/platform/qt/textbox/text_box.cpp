@@ -159,8 +159,8 @@ void TextBox::FollowSelection() {
 }
 
 void TextBox::UpdateRows(const RowsChange& rows) {
-  const int top = view_->RowTop(rows.first) - Scrolled().y() - TextView::kOverhang;
-  const int end = view_->RowTop(rows.first + rows.inserted) - Scrolled().y() + TextView::kOverhang;
+  const int top = view_->RowTop(rows.first) - Scrolled() - TextView::kOverhang;
+  const int end = view_->RowTop(rows.first + rows.inserted) - Scrolled() + TextView::kOverhang;
   const int bottom = rows.removed != rows.inserted ? viewport()->height() : end;
   if (bottom > 0 && top < viewport()->height()) viewport()->update(0, top, viewport()->width(), bottom - top);
 }
@@ -199,7 +199,7 @@ void TextBox::UpdateScrollBar() {
 
 // Keeps the text of the top row in place while `change` changes the rows.
 void TextBox::KeepTopWhile(const std::function<void()>& change) {
-  const int top = Scrolled().y();
+  const int top = Scrolled();
   if (top == 0 || !Showing()) return change();
   const std::size_t row = view_->RowAt(top);
   const std::size_t pos = std::min(view_->RawLayout().RowStart(row), buffer_->Size());
@@ -208,7 +208,7 @@ void TextBox::KeepTopWhile(const std::function<void()>& change) {
   verticalScrollBar()->setValue(view_->RowTop(view_->Layout().RowOf(pos)) + within);
 }
 
-QPoint TextBox::Scrolled() const { return {0, verticalScrollBar()->value()}; }
+int TextBox::Scrolled() const { return verticalScrollBar()->value(); }
 
 std::size_t TextBox::PageRows() const {
   const int rows = viewport()->height() / view_->Glyphs().RowHeight();
@@ -217,13 +217,13 @@ std::size_t TextBox::PageRows() const {
 
 int TextBox::CaretWidth() const { return std::max(style()->pixelMetric(QStyle::PM_TextCursorWidth, nullptr, this), 1); }
 
-TextPlace TextBox::PlaceAt(QPoint point) const { return view_->PlaceAt(point + Scrolled()); }
+TextPlace TextBox::PlaceAt(QPoint point) const { return view_->PlaceAt(point + QPoint(0, Scrolled())); }
 
 bool TextBox::IsSelectedAt(QPoint point) const {
   if (!buffer_->HasSelection()) return false;
-  const std::size_t row = view_->RowAt(point.y() + Scrolled().y());
+  const std::size_t row = view_->RowAt(point.y() + Scrolled());
   const QRect rows(0, view_->RowTop(row), viewport()->width(), view_->Glyphs().RowHeight());
-  if (!rows.contains(0, point.y() + Scrolled().y())) return false;
+  if (!rows.contains(0, point.y() + Scrolled())) return false;
   const TextLayout& layout = view_->Layout();
   const std::size_t begin = std::clamp(buffer_->SelStart(), layout.RowStart(row), layout.RowEnd(row));
   const std::size_t end = std::clamp(buffer_->SelEnd(), layout.RowStart(row), layout.RowEnd(row));
@@ -233,7 +233,7 @@ bool TextBox::IsSelectedAt(QPoint point) const {
 QPoint TextBox::CaretPoint() const {
   view_->Layout();
   const std::size_t row = mover_.Row(*buffer_);
-  return QPoint(view_->StopX(row, buffer_->Caret()), view_->RowTop(row)) - Scrolled();
+  return {view_->StopX(row, buffer_->Caret()), view_->RowTop(row) - Scrolled()};
 }
 
 QPoint TextBox::ComposedPoint() const {
@@ -250,7 +250,7 @@ QRect TextBox::CaretRect() const {
   return {at, QSize(CaretWidth(), view_->Glyphs().RowHeight())};
 }
 
-QRect TextBox::CharRect(std::size_t pos) const { return view_->CharRect(pos).translated(-Scrolled()); }
+QRect TextBox::CharRect(std::size_t pos) const { return view_->CharRect(pos).translated(0, -Scrolled()); }
 
 TextSpan TextBox::RowSpan(std::size_t pos) const {
   const TextLayout& layout = view_->Layout();

@@ -156,7 +156,8 @@ class TextBox : public QAbstractScrollArea {
   void CopySelection();
   void PaintComposed(QPainter& painter);
   [[nodiscard]] std::size_t PageRows() const;
-  [[nodiscard]] QPoint Scrolled() const;
+  // How far the text is scrolled down, in pixels.
+  [[nodiscard]] int Scrolled() const;
   [[nodiscard]] int CaretWidth() const;
   [[nodiscard]] TextColours Colours() const;
   [[nodiscard]] QColor Background() const;

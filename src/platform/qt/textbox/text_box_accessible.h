@@ -63,8 +63,8 @@ class TextBoxNotifier {
   void NotifyCaret();
 
   TextBox& box_;
-  // A copy of the text before the next change. The notification of that change contains the removed text, which
-  // the buffer no longer has after the change.
+  // A copy of the text before the next change. The notification of that change contains the removed text, which the
+  // buffer no longer has after the change.
   std::optional<std::string> known_text_;
 };
 

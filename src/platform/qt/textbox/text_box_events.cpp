@@ -189,12 +189,12 @@ void TextBox::paintEvent(QPaintEvent* event) {
   TextPainter rows(painter, *buffer_, layout, view_->Glyphs(), colours);
   if (composer_.Active()) rows.OpenGap(mover_.Row(*buffer_), buffer_->Caret(), composer_.Width(font()));
 
-  const QPoint scrolled = Scrolled();
+  const int scrolled = Scrolled();
   const QRect near = exposed.adjusted(0, -TextView::kOverhang, 0, TextView::kOverhang);
   const int height = view_->Glyphs().RowHeight();
-  const std::size_t last = view_->RowAt(near.bottom() + scrolled.y());
-  for (std::size_t row = view_->RowAt(near.top() + scrolled.y()); row <= last; ++row) {
-    const QPoint at(TextView::kMargin, view_->RowTop(row) - scrolled.y());
+  const std::size_t last = view_->RowAt(near.bottom() + scrolled);
+  for (std::size_t row = view_->RowAt(near.top() + scrolled); row <= last; ++row) {
+    const QPoint at(TextView::kMargin, view_->RowTop(row) - scrolled);
     const QRect reach(0, at.y() - TextView::kOverhang, viewport()->width(), height + 2 * TextView::kOverhang);
     if (event->region().intersects(reach)) rows.PaintRow(row, at, exposed.left(), exposed.right() + 1);
   }
@@ -206,7 +206,7 @@ void TextBox::paintEvent(QPaintEvent* event) {
   shown_caret_ = caret;
   if (!drop_place_) return;
   const std::size_t row = layout.RowOf(drop_place_->pos, drop_place_->at_row_end);
-  const QPoint at = QPoint(view_->StopX(row, drop_place_->pos), view_->RowTop(row)) - scrolled;
+  const QPoint at(view_->StopX(row, drop_place_->pos), view_->RowTop(row) - scrolled);
   painter.fillRect(QRect(at, caret.size()), colours.text);
 }
 

@@ -31,8 +31,8 @@ struct TextKey {
   bool select = false;                // only for kMove
 };
 
-// The command of a key, if any. Without `standard_shortcuts`, Ctrl with a letter has no command, since a menu
-// handles these keys.
+// The command of a key, if any. Without `standard_shortcuts`, Ctrl with a letter has no command, since a menu handles
+// these keys.
 std::optional<TextKey> TextKeyOf(const QKeyEvent& event, bool standard_shortcuts);
 
 // The characters that a key types, or "".
