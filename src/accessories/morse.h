@@ -10,8 +10,8 @@ namespace pelmar {
 
 struct Editor;
 
-// Each sign ends in "/". Letters first become capitals without diacritics. A character without a sign is copied
-// without "/". required: a blank has the sign of the slash. required: "CH" becomes the sign of CH and then that of H.
+// Each sign ends in "/". Letters first become capitals without diacritics. A character without a sign is copied without
+// "/". required: a blank has the sign of the slash. required: "CH" becomes the sign of CH and then that of H.
 std::string TextToMorse(std::string_view text);
 
 // Names and captions are UTF-8.

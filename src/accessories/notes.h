@@ -1,6 +1,6 @@
 // The five notes pages, their file notes.dat, and the rescue of unsaved pages. The file is one record from offset 0:
-// for each page a 16-bit length and the text. A save doesn't shorten the file, so the rest of a longer old record
-// stays after the new record. Pages are numbered from 1. Texts are Windows-1250.
+// for each page a 16-bit length and the text. A save doesn't shorten the file, so the rest of a longer old record stays
+// after the new record. Pages are numbered from 1. Texts are Windows-1250.
 #pragma once
 
 #include <array>

@@ -1,5 +1,5 @@
-// The Cronfeld system moves letters in the alphabet by the digits of a password. Each character of the text uses
-// the next digit. The first digit follows the last. Only the letters A to Z and a to z change.
+// The Cronfeld system moves letters in the alphabet by the digits of a password. Each character of the text uses the
+// next digit. The first digit follows the last. Only the letters A to Z and a to z change.
 #pragma once
 
 #include <string>

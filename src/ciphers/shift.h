@@ -17,8 +17,8 @@ bool IsUpperChar(std::string_view ch);
 // The place of a letter from A to Z or a to z in the alphabet, 1 to 26. Other characters give 0.
 int LetterNumber(char ch);
 
-// The letter `shift` places after `letter`, in the same case. required: the alphabet repeats only once, so a
-// shift above 26 or below 0 may give a character that is no letter.
+// The letter `shift` places after `letter`, in the same case. required: the alphabet repeats only once, so a shift
+// above 26 or below 0 may give a character that is no letter.
 char ShiftedLetter(char letter, int shift);
 
 // Moves each letter forward by `shift`. If `shift` is 0 to 26, a second move by 26 - shift restores the text.

@@ -1,5 +1,5 @@
-// Reads and writes the file of a cipher table (".pvt"). The file has no signature, so any file is read as a table.
-// The first field that goes beyond the end of the file is zero or empty, and so are all fields after it.
+// Reads and writes the file of a cipher table (".pvt"). The file has no signature, so any file is read as a table. The
+// first field that goes beyond the end of the file is zero or empty, and so are all fields after it.
 #pragma once
 
 #include <cstdint>

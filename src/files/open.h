@@ -28,8 +28,8 @@ class Opener {
   Opener(Documents& documents, RecentFiles& recent, Platform& platform, FileNumber& file_number);
 
   // Opens a file. Shows a message if the file can't be opened or is too long, or if file number 1 is open. Throws
-  // RuntimeError if reading fails.
-  // required: a name without an extension throws after the text has been loaded, and leaves file number 1 open.
+  // RuntimeError if reading fails. required: a name without an extension throws after the text has been loaded, and
+  // leaves file number 1 open.
   void OpenPath(const std::string& path);
 
   // Opens entry 1 to 10 of the recent files. Ignores a RuntimeError of OpenPath.

@@ -14,8 +14,8 @@ namespace {
 constexpr std::string_view kMargin = "ZZZZZZZZ";
 constexpr std::string_view kBreaks = "\r\n";
 
-// Removes and returns the part of `text` before the first character that is in `ends`. Without such a character,
-// the part is the whole text.
+// Removes and returns the part of `text` before the first character that is in `ends`. Without such a character, the
+// part is the whole text.
 std::string_view TakeUpTo(std::string_view& text, std::string_view ends) {
   const std::string_view taken = text.substr(0, text.find_first_of(ends));
   text.remove_prefix(taken.size());

@@ -19,9 +19,9 @@ std::string StripDiacritics(std::string_view text);
 // Sets each character to upper or lower case at random. Draws one number for each character.
 std::string RandomCase(std::string_view text, const Draw& draw);
 
-// Replaces each exact occurrence of `find`, from the left. `find` must not be empty. required: the next
-// occurrence must begin at least one character after the start of the replacement, and must end after the replacement.
-// So "aaaa" without "a" is "aa".
+// Replaces each exact occurrence of `find`, from the left. `find` must not be empty. required: the next occurrence must
+// begin at least one character after the start of the replacement, and must end after the replacement. So "aaaa"
+// without "a" is "aa".
 std::string ReplaceAllText(std::string_view text, std::string_view find, std::string_view with);
 
 // The number of characters of code 10.

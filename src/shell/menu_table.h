@@ -1,6 +1,6 @@
 // The main menu as a table in display order, the buttons of the toolbar, and the groups of items that depend on
-// MenuState. Captions and tips are UTF-8; "&" marks an access key. The name of an item, or the key of a button, is
-// also the name of its command.
+// MenuState. Captions and tips are UTF-8; "&" marks an access key. The name of an item, or the key of a button, is also
+// the name of its command.
 #pragma once
 
 #include <span>

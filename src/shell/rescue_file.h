@@ -1,6 +1,5 @@
 // The format of a rescue file, which holds the unsaved documents or notes of one running copy of the program. A later
-// start reads the file after a crash or a power loss. A file whose signature or checksum is wrong is
-// refused.
+// start reads the file after a crash or a power loss. A file whose signature or checksum is wrong is refused.
 #pragma once
 
 #include <optional>

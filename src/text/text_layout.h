@@ -1,6 +1,6 @@
 // Divides the lines of a text into rows and computes the place of each character from a table of 256 advances. Painting
-// and mouse clicks use the same places. Lengths are whole 64ths of a logical pixel, the unit of the font engine,
-// so sums are exact. Rows and positions (bytes) count from 0. The CR LF at the end of a line belongs to no row.
+// and mouse clicks use the same places. Lengths are whole 64ths of a logical pixel, the unit of the font engine, so
+// sums are exact. Rows and positions (bytes) count from 0. The CR LF at the end of a line belongs to no row.
 #pragma once
 
 #include <array>

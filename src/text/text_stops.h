@@ -1,6 +1,6 @@
 // The positions to which the caret moves by one step (a character or a CR LF) or by one word. Positions are byte
-// offsets from 0. A word is a run of characters of one kind. The kinds are: letters, digits and "_"; control
-// characters (codes below 32); other signs. Blanks (space, tab, no-break space) separate words.
+// offsets from 0. A word is a run of characters of one kind. The kinds are: letters, digits and "_"; control characters
+// (codes below 32); other signs. Blanks (space, tab, no-break space) separate words.
 #pragma once
 
 #include <cstddef>

@@ -33,8 +33,8 @@ class KeyPreview : public QObject {
   std::function<Preview(const QKeyEvent&)> first_;
 };
 
-// The character of a key press in Windows-1250, 13 for Enter and 8 for Backspace. Nothing for shortcuts and for
-// other keys without a printable character, such as Tab, Escape, Delete and the arrow keys.
+// The character of a key press in Windows-1250, 13 for Enter and 8 for Backspace. Nothing for shortcuts and for other
+// keys without a printable character, such as Tab, Escape, Delete and the arrow keys.
 std::optional<char> TypedCharacter(const QKeyEvent& event);
 
 }  // namespace pelmar

@@ -21,8 +21,8 @@ inline bool IsOfTheNet(const QUrl& url) {
   return url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https");
 }
 
-// Whether the browser may show the URL: http, https, a file, data, or the empty page. Other schemes are
-// refused, since some of them lead to the engine's own pages, and some of these pages end the whole program.
+// Whether the browser may show the URL: http, https, a file, data, or the empty page. Other schemes are refused, since
+// some of them lead to the engine's own pages, and some of these pages end the whole program.
 inline bool MayBeShown(const QUrl& url) {
   const QString scheme = url.scheme();
   for (const char* shown : {"http", "https", "file", "data"})

@@ -1,5 +1,4 @@
-// The horizontal and vertical alignment of a row or a cell. The dialogs `TableRow` and `TableCell` contain this
-// widget.
+// The horizontal and vertical alignment of a row or a cell. The dialogs `TableRow` and `TableCell` contain this widget.
 #pragma once
 
 #include <QWidget>

@@ -41,8 +41,8 @@ inline constexpr int kOpenSafely = O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
 
 int WriteAll(int file, std::string_view bytes);
 
-// Reads a file in pieces, from its current position to its end, and passes each piece to `take`. If `take`
-// returns another number than 0, stops reading and returns this number.
+// Reads a file in pieces, from its current position to its end, and passes each piece to `take`. If `take` returns
+// another number than 0, stops reading and returns this number.
 int ForEachPiece(int file, const std::function<int(std::string_view)>& take);
 
 // Replaces the content of the file `to` by the whole content of the file `from`.
@@ -54,8 +54,8 @@ std::string FolderOf(const std::string& path);
 // Waits until a file or a folder is on the disk. Returns 0 if the file system has no fsync.
 int Sync(int file);
 
-// Waits until the folder of the path is on the disk, with the names of its files. If the folder can't be opened
-// for reading, waits for the whole file system of the open `file`.
+// Waits until the folder of the path is on the disk, with the names of its files. If the folder can't be opened for
+// reading, waits for the whole file system of the open `file`.
 int SyncFolderOf(const std::string& path, int file);
 
 // Whether the path still leads to the open `file`. If not, a lock on `file` is useless.

@@ -1,8 +1,8 @@
-// Reads and saves files with system calls, so that the errno of a failed call can be shown. Only regular files are
-// read and saved, since a device or a pipe could block forever. A path is the bytes that the system gave.
-// A save goes into a new file, which then replaces the old file by a rename. If the folder or the old file doesn't
-// allow this, the old content is copied to "puvodni-*" in the keep folder (for documents: the install folder), and the
-// old file is overwritten. "One save" in docs/ARCHITECTURE.md lists the steps.
+// Reads and saves files with system calls, so that the errno of a failed call can be shown. Only regular files are read
+// and saved, since a device or a pipe could block forever. A path is the bytes that the system gave. A save goes into a
+// new file, which then replaces the old file by a rename. If the folder or the old file doesn't allow this, the old
+// content is copied to "puvodni-*" in the keep folder (for documents: the install folder), and the old file is
+// overwritten. "One save" in docs/ARCHITECTURE.md lists the steps.
 #pragma once
 
 #include <sys/types.h>
@@ -29,8 +29,8 @@ int ReadFileByPieces(const std::string& path, const std::function<bool(std::stri
 
 inline constexpr std::uint64_t kLongestWhole = std::uint64_t{1} << 30;
 
-// Saves `bytes` in the file. A copy of the old content, if necessary, is made in `keep_folder`. A file
-// that did not exist gets `new_mode`, before the umask. The errors EISDIR and EINVAL are those of ReadWholeFile.
+// Saves `bytes` in the file. A copy of the old content, if necessary, is made in `keep_folder`. A file that did not
+// exist gets `new_mode`, before the umask. The errors EISDIR and EINVAL are those of ReadWholeFile.
 WriteOutcome ReplaceFile(const std::string& path, std::string_view bytes, const std::string& keep_folder,
                          mode_t new_mode = 0666);
 
@@ -38,8 +38,8 @@ WriteOutcome ReplaceFile(const std::string& path, std::string_view bytes, const 
 // leads nowhere. After a failure the new file is removed.
 int CreateFile(const std::string& path, std::string_view bytes);
 
-// See Platform::RewriteFile. The target is saved as by ReplaceFile. The errors EISDIR and EINVAL, for the source or
-// the target, are those of ReadWholeFile.
+// See Platform::RewriteFile. The target is saved as by ReplaceFile. The errors EISDIR and EINVAL, for the source or the
+// target, are those of ReadWholeFile.
 WriteOutcome RewriteFileByPieces(const std::string& source, const std::string& target, OldTail tail,
                                  FileRewriter& rewriter, const std::string& keep_folder);
 

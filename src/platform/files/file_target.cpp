@@ -42,8 +42,8 @@ int Fill(int to, const Target& target, const NewContent& content) {
   return Sync(to);
 }
 
-// Reserves space for the new content, so that a full disk is noticed before the first byte changes. Returns 0 also
-// if the size is unknown (0) or the file system can't reserve space.
+// Reserves space for the new content, so that a full disk is noticed before the first byte changes. Returns 0 also if
+// the size is unknown (0) or the file system can't reserve space.
 int Reserve(int file, std::uint64_t size) {
   if (size == 0 || fallocate(file, FALLOC_FL_KEEP_SIZE, 0, static_cast<off_t>(size)) == 0) return 0;
   return errno == ENOSPC || errno == EDQUOT || errno == EFBIG ? errno : 0;

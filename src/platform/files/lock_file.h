@@ -15,8 +15,8 @@ class LockFile {
   LockFile& operator=(const LockFile&) = delete;
   ~LockFile() { Release(); }
 
-  // Locks the file and creates the file if missing. Returns 0 or an errno: EAGAIN if another process holds the lock
-  // or has just released the lock.
+  // Locks the file and creates the file if missing. Returns 0 or an errno: EAGAIN if another process holds the lock or
+  // has just released the lock.
   int Take(const std::string& path);
   [[nodiscard]] bool IsHeld() const { return file_.IsOpen(); }
   // Removes the file and releases the lock. Does nothing if the lock is not held.

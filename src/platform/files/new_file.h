@@ -25,8 +25,8 @@ class NewFile {
 
   // These functions return 0 or an errno. The name is on the disk only after SyncFolderOf.
 
-  // Gives the file this name. EEXIST if the name is taken. But a file system with neither RENAME_NOREPLACE nor
-  // hard links replaces a file that already has the name.
+  // Gives the file this name. EEXIST if the name is taken. But a file system with neither RENAME_NOREPLACE nor hard
+  // links replaces a file that already has the name.
   int TakeNewName(const std::string& path);
   // Gives the file an unused name: `start`, six random characters and `end`. `taken` becomes this name on success.
   int TakeFreeName(const std::string& start, const std::string& end, std::string& taken);

@@ -13,8 +13,8 @@ inline void TakeAnyLength(QLineEdit& field) { field.setMaxLength(std::numeric_li
 // program becomes CR LF. Other fields remove the line breaks.
 inline constexpr char kHoldsLines[] = "holdsLines";
 
-// Call with each event of a field. Handles pasting, dropping and the context menu in place of Qt.
-// Returns true if Qt must not get the event.
+// Call with each event of a field. Handles pasting, dropping and the context menu in place of Qt. Returns true if Qt
+// must not get the event.
 bool TakePasted(QLineEdit& field, QEvent& event);
 
 }  // namespace pelmar

@@ -40,8 +40,8 @@ bool MoveByArrow(QScrollBar& bar, int key) {
   return true;
 }
 
-// Whether the widget is a combo box or a scroll bar with a value of its own. The scroll bars of lists and texts
-// don't count.
+// Whether the widget is a combo box or a scroll bar with a value of its own. The scroll bars of lists and texts don't
+// count.
 bool HoldsValue(const QWidget& widget) {
   return qobject_cast<const QComboBox*>(&widget) ||
          (qobject_cast<const QScrollBar*>(&widget) && widget.focusPolicy() != Qt::NoFocus);

@@ -1,7 +1,7 @@
 // Brings a window to an outer place. The frame is known only a moment after the window is shown, and the window manager
-// carries out requests with a delay. So Placement repeats its checks and requests until the window is in place, a
-// time limit is over or the window is hidden. Each request to the window manager contains a size and a position. If
-// only the size were wished, the request would contain a position that may be outdated. So a wish contains both.
+// carries out requests with a delay. So Placement repeats its checks and requests until the window is in place, a time
+// limit is over or the window is hidden. Each request to the window manager contains a size and a position. If only the
+// size were wished, the request would contain a position that may be outdated. So a wish contains both.
 #pragma once
 
 #include <QDeadlineTimer>

@@ -22,8 +22,8 @@
 namespace pelmar {
 namespace {
 
-// The minimum size of the window. The constructor limits this size to half of the screen, because the layout picker
-// can make the window half as wide and high as the screen.
+// The minimum size of the window. The constructor limits this size to half of the screen, because the layout picker can
+// make the window half as wide and high as the screen.
 constexpr QSize kSmallest(480, 320);
 // The size at the first start, with space for the whole toolbar.
 constexpr QSize kFirstSize(820, 560);
@@ -232,8 +232,8 @@ WindowMode MainWindow::WindowState() const {
   return isMaximized() ? WindowMode::kMaximised : WindowMode::kNormal;
 }
 
-// A normal window may have another frame than a maximised one. The window manager reports the new frame later.
-// Then Placement corrects the outer place.
+// A normal window may have another frame than a maximised one. The window manager reports the new frame later. Then
+// Placement corrects the outer place.
 void MainWindow::SetNormalState() {
   if (!isMaximized() && !isMinimized()) return;
   placement_.Begin(windowHandle()->frameMargins());

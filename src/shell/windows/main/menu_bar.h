@@ -33,8 +33,8 @@ class MenuBar : public QMenuBar {
   // Enables or disables the items that depend on the state. An item without a command stays disabled.
   void Apply(const MenuState& state);
   // Apply runs only on ticks of the status timer, so an item may still be disabled when the state already allows its
-  // command. Runs the command of such an item if `keys` is its shortcut. `now` computes the present state. True
-  // if `keys` is the shortcut of such an item.
+  // command. Runs the command of such an item if `keys` is its shortcut. `now` computes the present state. True if
+  // `keys` is the shortcut of such an item.
   bool RunIfNowEnabled(const QKeyEvent& keys, const std::function<MenuState()>& now) const;
 
  protected:
