@@ -210,11 +210,10 @@ std::optional<QString> AskForFile(FileDialogKind kind, const QString& filter, in
   dialog->setOption(QFileDialog::HideNameFilterDetails);
   if (kind == FileDialogKind::kSave) {
     dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setFileMode(QFileDialog::AnyFile);
     dialog->setOption(QFileDialog::DontConfirmOverwrite);
-  } else {
-    dialog->setFileMode(QFileDialog::ExistingFile);
   }
+  // Accept a name without a file for opening too: the command that asked for the name has its own message.
+  dialog->setFileMode(QFileDialog::AnyFile);
   dialog->setNameFilters(filters);
   if (filter_index >= 1 && filter_index <= filters.size()) dialog->selectNameFilter(filters[filter_index - 1]);
   if (!dialog.RunAccepted() || dialog->selectedUrls().isEmpty()) return std::nullopt;

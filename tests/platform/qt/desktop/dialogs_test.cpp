@@ -121,12 +121,14 @@ TEST_F(FileDialogTest, ChoosesAnExistingFileForSavingWithoutAsking) {
   EXPECT_EQ(saved, Utf8FromQString(letter.filePath()));
 }
 
-TEST_F(FileDialogTest, AddsNoExtensionOfTheFilterToATypedName) {
-  const std::string saved = Ask(FileDialogKind::kSave, 2, [](QFileDialog& dialog) {
-    dialog.selectFile(QStringLiteral("README"));
-    QTest::keyClick(&dialog, Qt::Key_Return);
-  });
-  EXPECT_EQ(saved, Utf8FromQString(letter.path()) + "/README");
+TEST_F(FileDialogTest, ReturnsATypedNameWithoutAFileAndAddsNoExtension) {
+  for (const FileDialogKind kind : {FileDialogKind::kSave, FileDialogKind::kOpen}) {
+    const std::string chosen = Ask(kind, 2, [](QFileDialog& dialog) {
+      dialog.selectFile(QStringLiteral("README"));
+      QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    EXPECT_EQ(chosen, Utf8FromQString(letter.path()) + "/README");
+  }
 }
 
 TEST(DialogWindow, IsCentredAtTheFirstOpeningOrAtEachOne) {
