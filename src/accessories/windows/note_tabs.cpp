@@ -27,24 +27,16 @@ NoteTabs::NoteTabs(QWidget* parent) : QTabBar(parent) {
   }
 }
 
-void NoteTabs::ShowCaptions(bool whole) {
-  for (int page = 1; page <= kNotePages; ++page) setTabText(page - 1, whole ? Caption(page) : QString::number(page));
-}
-
-void NoteTabs::resizeEvent(QResizeEvent* event) {
-  int whole = 0;
-  for (int page = 1; page <= kNotePages; ++page)
-    whole += tabSizeHint(page - 1).width() + fontMetrics().horizontalAdvance(Caption(page)) -
-             fontMetrics().horizontalAdvance(tabText(page - 1));
-  ShowCaptions(whole <= width());
-  QTabBar::resizeEvent(event);
-}
-
 int NoteTabs::RowHeight() const { return std::max(PixelsOf(kRowHeight), fontMetrics().height() + 4); }
 
-QSize NoteTabs::tabSizeHint(int index) const { return {QTabBar::tabSizeHint(index).width(), RowHeight()}; }
-QSize NoteTabs::minimumTabSizeHint(int index) const {
-  return {QTabBar::minimumTabSizeHint(index).width(), RowHeight()};
+QSize NoteTabs::tabSizeHint(int index) const {
+  return {std::min(QTabBar::tabSizeHint(index).width(), width() / kNotePages), RowHeight()};
+}
+QSize NoteTabs::minimumTabSizeHint(int index) const { return tabSizeHint(index); }
+
+void NoteTabs::initStyleOption(QStyleOptionTab* option, int index) const {
+  QTabBar::initStyleOption(option, index);
+  if (tabRect(index).width() < QTabBar::tabSizeHint(index).width()) option->text = QString::number(index + 1);
 }
 
 }  // namespace pelmar

@@ -18,10 +18,7 @@ class NoteTabs : public QTabBar {
  protected:
   QSize tabSizeHint(int index) const override;
   QSize minimumTabSizeHint(int index) const override;
-  void resizeEvent(QResizeEvent* event) override;
-
- private:
-  void ShowCaptions(bool whole);
+  void initStyleOption(QStyleOptionTab* option, int index) const override;
 };
 
 }  // namespace pelmar
