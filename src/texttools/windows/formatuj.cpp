@@ -42,7 +42,6 @@ void Formatuj::ConnectOperations() {
   const auto insert_at_end = [this] {
     Change([this](Rows& rows) { InsertFromEnd(rows, Distance(*ui_->Hk), FieldText(*ui_->Text2)); });
   };
-  OnEnter(ui_->List1, [this] { ui_->Text3->setFocus(Qt::TabFocusReason); });
   OnEnter(ui_->Text1, insert_at_start);
   OnEnter(ui_->Text2, insert_at_end);
   connect(ui_->Command3, &QPushButton::clicked, this, insert_at_start);

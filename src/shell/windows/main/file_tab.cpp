@@ -1,15 +1,12 @@
 #include "shell/windows/main/file_tab.h"
 
 #include <QPainter>
-#include <algorithm>
 
 #include "platform/qt/convert.h"
 
 namespace pelmar {
 namespace {
 
-constexpr int kTallestTab = 160;
-constexpr int kUnnamedTab = 24;
 constexpr int kCaptionMargin = 6;
 constexpr int kCorner = 4;
 constexpr int kDot = 6;
@@ -63,19 +60,7 @@ void FileTab::SetStripWidth(int width) {
   update();
 }
 
-// All tabs have the same length if the widest caption fits, or if the window is very low. Otherwise tabs without a
-// caption shrink.
-QSize FileTab::tabSizeHint(int index) const {
-  int widest = 0, unnamed = 0;
-  for (int at = 0; at < kTabCount; ++at) {
-    widest = std::max(widest, fontMetrics().horizontalAdvance(CaptionAt(at)));
-    unnamed += CaptionAt(at).isEmpty() ? 1 : 0;
-  }
-  const int alike = std::min(height() / kTabCount, kTallestTab);
-  if (widest + 2 * kCaptionMargin <= alike || unnamed == kTabCount || alike < kUnnamedTab) return {width(), alike};
-  if (CaptionAt(index).isEmpty()) return {width(), kUnnamedTab};
-  return {width(), std::min((height() - unnamed * kUnnamedTab) / (kTabCount - unnamed), kTallestTab)};
-}
+QSize FileTab::tabSizeHint(int) const { return {width(), height() / kTabCount}; }
 QSize FileTab::minimumTabSizeHint(int index) const { return tabSizeHint(index); }
 
 QRect FileTab::VisibleRect(int index) const {
@@ -118,7 +103,7 @@ void FileTab::PaintTab(QPainter& painter, int index) const {
                                             : QPalette::ButtonText));
   painter.drawText(
       turned, Qt::AlignCenter | Qt::TextSingleLine,
-      fontMetrics().elidedText(unnamed ? QString::number(index + 1) : name, Qt::ElideRight, turned.width()));
+      fontMetrics().elidedText(unnamed ? QString::number(index + 1) : name, Qt::ElideMiddle, turned.width()));
   painter.restore();
 }
 

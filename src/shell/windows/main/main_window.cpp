@@ -22,9 +22,6 @@
 namespace pelmar {
 namespace {
 
-// The minimum size of the window. The constructor limits this size to half of the screen, because the layout picker can
-// make the window half as wide and high as the screen.
-constexpr QSize kSmallest(480, 320);
 // The size at the first start, with space for the whole toolbar.
 constexpr QSize kFirstSize(820, 560);
 // The largest coordinate and length of a window under X11, in twips.
@@ -53,7 +50,6 @@ MainWindow::MainWindow(Editor& editor, Files& files)
   setObjectName(QStringLiteral("Main"));
   setProperty(kTagProperty, QLatin1String(kAutosnapTag));
   setAcceptDrops(true);
-  setMinimumSize(kSmallest.boundedTo(screen()->size() / 2));
   placement_.on_frame = [this] { ApplyLayout(); };
   MakeControls();
   AddViewCommands();

@@ -282,7 +282,6 @@ TEST_F(MainWindowTest, TogglesHideAndShowTheBars) {
 }
 
 TEST_F(MainWindowTest, ALowWindowGrowsForTheBarsThatComeBack) {
-  main.setMinimumSize(1, 1);
   Work(main, "MnuTS! MnuSBS!");
   main.resize(480, 30);
   Work(main, "MnuTS! MnuSBS!");
