@@ -93,8 +93,8 @@ Preview Kod::TypedKey(const QKeyEvent& event) {
   const auto character = TypedCharacter(event);
   if (!character || !ui_->Option1->isChecked()) return Preview::kPass;
   const QWidget* focus = focusWidget();
-  // These keys operate a control of this window: the space bar on buttons and options, Enter on buttons.
-  if (*character == ' ' && qobject_cast<const QAbstractButton*>(focus)) return Preview::kPass;
+  // These keys operate a control of this window: the space bar on buttons and on the other options, Enter on buttons.
+  if (*character == ' ' && focus != ui_->Option1 && qobject_cast<const QAbstractButton*>(focus)) return Preview::kPass;
   if (*character == '\r' && qobject_cast<const QPushButton*>(focus)) return Preview::kPass;
   stroke_main_(event);
   // required: a focused field gets the key too

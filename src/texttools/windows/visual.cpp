@@ -37,6 +37,7 @@ void Visual::ConnectPreview() {
     connect(option, &QRadioButton::toggled, this, [this, family = Utf8ToQString(name)](bool on) {
       if (on) SetPreviewFont([&family](QFont& font) { font.setFamily(family); });
     });
+  OnEnter(ui_->Label1, [this] { ui_->Command1->click(); });
   ui_->Combo1->setCompleter(nullptr);  // Qt would complete a typed "2" to "24"
   connect(ui_->Combo1, &QComboBox::editTextChanged, this, &Visual::Combo1_Change);
   connect(ui_->Command8, &QPushButton::clicked, this, [this] {

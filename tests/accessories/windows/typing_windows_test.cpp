@@ -140,7 +140,8 @@ TEST_F(CharTableTest, AFontIsSetWhereCharactersAreShownAndItsNameStaysAsTyped) {
 
 TEST_F(CharTableTest, TypedKeysEditTheDocument) {
   ExpectDocument("mnuASCII", "Picture1:'x \ryz\b'", "[ab|c", "x ¶y|c");
-  ExpectDocument("mnuASCII", "Picture1:→↓\r", "[ab|c", "¶|c");                 // required: Enter on a selected cell too
+  ExpectDocument("mnuASCII", "Picture1:→↓\r", "[ab|c", "¶|c");  // required: Enter on a selected cell too
+  ExpectDocument("mnuASCII", "Option1:' x'", "[ab|c", " x|c");
   ExpectDocument("mnuASCII", "HScroll1=65 Command3:'\r '", "[ab|c", "[ab|c");  // the keys click the button
   ExpectState(kod, "", "Text1=AA");
 }
