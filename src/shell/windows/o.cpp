@@ -29,7 +29,8 @@ constexpr std::string_view kReleaseNotes =
 
 O::O(const SettingsRecord& settings, Platform& platform, QWidget* parent)
     : FormDialog(parent), settings_(settings), platform_(platform) {
-  ui_->Label2->setMouseTracking(true);
+  for (QWidget* label : {ui_->Label1, ui_->Label2, ui_->Label3, ui_->Label4}) label->setMouseTracking(true);
+  ui_->Text1->viewport()->installEventFilter(this);
   ui_->Text1->SetText(ToBytes(kReleaseNotes));
   connect(ui_->Command1, &QPushButton::clicked, this,
           [this] { platform_.ShowAbout("Orvilanths Pelmar VEX v" PELMAR_VERSION, "Autor: Orvilanths"); });
@@ -41,9 +42,18 @@ void O::showEvent(QShowEvent* event) {
 }
 
 void O::mouseMoveEvent(QMouseEvent* event) {
+  MixCase();
+  DialogWindow::mouseMoveEvent(event);
+}
+
+bool O::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::MouseMove && watched == ui_->Text1->viewport()) MixCase();
+  return DialogWindow::eventFilter(watched, event);
+}
+
+void O::MixCase() {
   platform_.ReseedRandom();
   ui_->Label2->setText(TextToQString(RandomCase(kName, DrawFrom(platform_))));
-  DialogWindow::mouseMoveEvent(event);
 }
 
 }  // namespace pelmar

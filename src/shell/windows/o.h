@@ -1,5 +1,5 @@
-// The about window `O`: version, user, notes, and a name. When the mouse moves over the name, its letters change their
-// case.
+// The about window `O`: version, user, notes, and the program's name. When the mouse moves over the window, the letters
+// of the name change their case.
 #pragma once
 
 #include "platform/platform.h"
@@ -20,9 +20,12 @@ class O : public FormDialog<Ui::O> {
 
  protected:
   void mouseMoveEvent(QMouseEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void showEvent(QShowEvent* event) override;
 
  private:
+  void MixCase();
+
   const SettingsRecord& settings_;
   Platform& platform_;
 };
