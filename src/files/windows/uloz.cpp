@@ -19,7 +19,15 @@ Uloz::Uloz(Documents& documents, Saver& saver, QWidget* parent)
   connect(ui_->Command1, &QPushButton::clicked, this, &Uloz::Command1_Click);
   connect(ui_->Command2, &QPushButton::clicked, this, &Uloz::hide);
   listening_ = documents_.Target().path_set.Add([this] { TakeTarget(); });
-  if (documents_.Target().HasPath()) TakeTarget();
+  const SaveTarget& target = documents_.Target();
+  if (!target.HasPath()) return;
+  if (!target.Name().empty()) ShowName(target);  // TakeTarget leaves the name alone for a path without an extension
+  TakeTarget();
+}
+
+void Uloz::ShowName(const SaveTarget& target) {
+  ui_->Text1->setText(Utf8ToQString(target.Name()));
+  ui_->Text2->setCurrentText(Utf8ToQString(target.Extension()));
 }
 
 void Uloz::FieldChanged() {
@@ -40,8 +48,7 @@ void Uloz::TakeTarget() {
   ui_->Drive1->SetDrive(folder);
   ui_->Dir1->SetPath(folder);
   if (!target.Complete()) return;
-  ui_->Text1->setText(Utf8ToQString(target.Name()));
-  ui_->Text2->setCurrentText(Utf8ToQString(target.Extension()));
+  ShowName(target);
   ShowPath(*ui_->Label1, target.Path());
 }
 

@@ -21,6 +21,7 @@ class Uloz : public FormDialog<Ui::Uloz> {
   void FieldChanged();
   void Command1_Click();
   void TakeTarget();
+  void ShowName(const SaveTarget& target);
 
   Documents& documents_;
   Saver& saver_;

@@ -104,6 +104,8 @@ TEST_F(SaveDialogTest, AnOpenedFileSetsItsFields) {
 
 TEST_F(FileDialogsTest, AnOpenedFileSetsTheFieldsOfALaterSaveDialog) {
   parts.files.opener.OpenPath(folder.File("b.html"));
+  Put("bez", "");
+  EXPECT_THROW(parts.files.opener.OpenPath(folder.File("bez")), RuntimeError);  // required: keeps the earlier name
   Expect(Open<Uloz>(), "", "Text1=b Text2=html Label1=~/b.html Command1=&Ulož");
 }
 
