@@ -297,34 +297,46 @@ TEST_F(HtmlDialogTest, TheOkButtonOfALinkNeedsAFileOrAnAddress) {
 
 TEST_F(HtmlDialogTest, EachCheckBoxEnablesItsControls) {
   const std::pair<const char*, const char*> cases[] = {
-      // How many controls each check box enables, in the order of the form.
-      {"mnubarva", "2 1 3"},
-      {"mnulistcount", "5 1 0"},
-      {"mnuHTML_Fme", "0 1 1 1 2 2 7 6 0"},
-      {"mnuHTML_fset", "1 1"},
-      {"mnuhr", "4 0"},
-      {"mnuobr", "0 1 1 1 8 5 6 3"},
-      {"mnuodkazjiny", "0 1 1"},
-      {"mnulist", "3 1 0"},
-      {"mnutable", "0 4 3 5 11 4 1 2 2"},
-      {"mnucell", "0 4 3 2 2 2 3 0 0"},
-      {"mnurow", "4 3"},
-      {"mnucreate", "2 2 2 2 2 2 4 0"},
+      {"mnubarva", "Check1: VScroll4 Label4; Check2: Combo1; Check3: Label1 Label2 Command3"},
+      {"mnulistcount", "Check2: Option1 Option2 Option3 Option4 Option5; Check1: Text2; Check3:"},
+      {"mnuHTML_Fme",
+       "Check5:; Check4: Text1; Check6: Combo3; Check1: Combo2; Check7: VScroll1 Label13; Check8: VScroll2 Label4; "
+       "Check9: Label8 letterR VScroll12 letterG VScroll11 letterB VScroll10; "
+       "Check3: Label9 VScroll4 Label11 Label10 VScroll5 Label12; Check2:"},
+      {"mnuHTML_fset", "Check1: Text1; Check2: Text2"},
+      {"mnuhr", "Check1: Option4 Option5 VScroll1 Label1; Shader:"},
+      {"mnuobr",
+       "Check5:; Check4: Text1; Check6: Text2; Check7: Text3; "
+       "Check1: Option6 Option7 Label5 VScroll1 Label3 Label6 VScroll2 Label4; "
+       "Check8: Option1 Option2 Option3 Option4 Option5; Check3: Label9 VScroll4 Label11 Label10 VScroll5 Label12; "
+       "Check2: Label7 VScroll3 Label8"},
+      {"mnuodkazjiny", "Check2:; Check1: Text2; Check3: Combo2"},
+      {"mnulist", "Check2: Option1 Option2 Option3; Check1: Text2; Check3:"},
+      {"mnutable",
+       "Check9:; Check1: Option1 Option2 VScroll3 Label5; Check2: Option3 Option4 Option5; "
+       "Check8: Text2 Option18 Option19 Option20 Option21; "
+       "Check4: Option6 Option7 Option8 Option9 Option10 Option11 Option12 Option13 Label6 VScroll4 Label7; "
+       "Check5: Option14 Option15 Option16 Option17; Check3: Text1; Check6: VScroll5 Label8; Check7: VScroll6 Label9"},
+      {"mnucell",
+       "Check9:; Check1: Option1 Option2 Option3 Option4; Check2: Option5 Option6 Option7; Check3: Label2 Command3; "
+       "Check4: VScroll4 Label3; Check5: VScroll5 Label4; Check7: VScroll6 Label8 Check8; Check8:; Check6:"},
+      {"mnurow", "Check1: Option1 Option2 Option3 Option4; Check2: Option5 Option6 Option7"},
+      {"mnucreate",
+       "Check1: Label2 Command4; Check2: Label4 Command7; Check7: Label13 Command6; Check5: Label12 Command5; "
+       "Check6: Label11 Command8; Check8: HScroll1 Label14; Check3: Drive1 Combo1 Dir1 File1 Check4; Check4:"},
   };
-  for (const auto& [command, counts] : cases) {
+  for (const auto& [command, expected] : cases) {
     const QWidget& window = Open(command);
-    const auto disabled = [&window] {
-      return std::ranges::count_if(window.findChildren<QWidget*>(), [](const QWidget* control) {
-        return !control->isEnabled() && control->parentWidget()->isEnabled();
-      });
-    };
-    QStringList enabled;
+    std::string enabled;
     for (auto* box : window.findChildren<QCheckBox*>()) {
-      const auto before = disabled();
+      QList<QWidget*> controls = window.findChildren<QWidget*>();
+      controls.removeIf([](const QWidget* each) { return each->isEnabled() || !each->parentWidget()->isEnabled(); });
       box->click();
-      enabled += QString::number(before - disabled());
+      enabled += (enabled.empty() ? "" : "; ") + box->objectName().toStdString() + ':';
+      for (const QWidget* control : controls)
+        if (control->isEnabled()) enabled += ' ' + control->objectName().toStdString();
     }
-    EXPECT_EQ(enabled.join(u' ').toStdString(), counts) << command;
+    EXPECT_EQ(enabled, expected) << command;
   }
 }
 

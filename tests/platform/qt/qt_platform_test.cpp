@@ -168,11 +168,6 @@ TEST(AddBookmark, CountsTheUsesOfTheFileAndKeepsOtherEntries) {
   }
 }
 
-TEST(AddBookmark, LeavesADamagedListAlone) {
-  for (const char* damaged : {"x", "<html></html>", "<xbel version=\"1.0\"><bookmark></xbel>"})
-    EXPECT_EQ(AddBookmark(damaged, "/a", "text/plain"), "") << damaged;
-}
-
 TEST(RecentDocuments, AreAllWrittenInOrderAtTheEndOfTheProgram) {
   const TempFolder temp;
   const std::string list = temp.File("share/recently-used.xbel");

@@ -401,23 +401,5 @@ TEST_F(TextBoxTest, AssistiveTechnologyReadsCharactersWordsAndLines) {
   EXPECT_EQ(text.offsetAtPoint(text.characterRect(6).topLeft() + QPoint(1, 1)), 6);
 }
 
-TEST_F(TextBoxTest, AssistiveTechnologyChangesTheTextUnlessItIsReadOnly) {
-  QAccessibleInterface& face = *QAccessible::queryAccessibleInterface(box);
-  QAccessibleEditableTextInterface& edit = *face.editableTextInterface();
-  Put("Při¶two words¶|");
-  EXPECT_TRUE(face.state().multiLine && face.state().editable);
-  edit.replaceText(2, 14, QStringLiteral("ž\n"));
-  edit.deleteText(0, 1);
-  edit.insertText(0, QStringLiteral("x"));
-  face.textInterface()->setSelection(0, 1, 3);
-  EXPECT_EQ(Document(), "x[řž|¶¶");
-  face.textInterface()->removeSelection(0);
-  EXPECT_EQ(face.textInterface()->selectionCount(), 0);
-  box->setReadOnly(true);
-  edit.insertText(0, QStringLiteral("no"));
-  EXPECT_EQ(Document(), "xřž|¶¶");
-  EXPECT_TRUE(face.state().readOnly && !face.state().editable);
-}
-
 }  // namespace
 }  // namespace pelmar
