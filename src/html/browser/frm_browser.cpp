@@ -29,11 +29,10 @@ constexpr int kLongestInMessage = 300;  // characters of an address
 constexpr std::string_view kStartingAddress = "https://duckduckgo.com/";
 constexpr std::string_view kOpenFilter = "Všechno (*.*)|*.*|htm (*.htm)|*.htm|html (*.html)|*.html";
 
-QLabel* AddPanel(QStatusBar& bar, const char* name, const QString& value_name, int stretch) {
+QLabel* AddPanel(QStatusBar& bar, const char* name, const QString& description, int stretch) {
   QLabel* panel = stretch > 0 ? new ElidedLabel(&bar) : new QLabel(&bar);  // a link's address may be of any length
   panel->setObjectName(QLatin1String(name));
-  panel->setProperty(kValueName, value_name);
-  SetAccessibleRole(*panel, QAccessible::StaticText);
+  panel->setAccessibleDescription(description);
   panel->setTextFormat(Qt::PlainText);
   panel->setMargin(2);
   panel->setIndent(4);

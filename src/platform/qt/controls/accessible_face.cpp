@@ -19,10 +19,7 @@ class LabelFace : public QAccessibleWidget {
   LabelFace(QLabel* label, QAccessible::Role role) : QAccessibleWidget(label, role), label_(*label) {}
 
   [[nodiscard]] QString text(QAccessible::Text part) const override {
-    if (part != QAccessible::Name) return QAccessibleWidget::text(part);
-    const QString name = label_.property(kValueName).toString();
-    if (name.isEmpty() || label_.text().isEmpty()) return name + label_.text();
-    return name + QStringLiteral(": ") + label_.text();
+    return part == QAccessible::Name ? label_.text() : QAccessibleWidget::text(part);
   }
 
  private:
@@ -39,17 +36,18 @@ bool IsHeadedGroup(const QWidget& widget) {
 QAccessibleInterface* MakeFace(const QString&, QObject* object) {
   if (!object->isWidgetType()) return nullptr;
   const QVariant given = object->property(kRole);
-  const auto role = given.isValid() ? static_cast<QAccessible::Role>(given.toInt()) : QAccessible::StaticText;
-  auto* label = qobject_cast<QLabel*>(object);
-  if (label != nullptr && (given.isValid() || label->property(kValueName).isValid())) return new LabelFace(label, role);
   auto* widget = static_cast<QWidget*>(object);
-  if (given.isValid()) return new QAccessibleWidget(widget, role);
+  if (given.isValid()) {
+    const auto role = static_cast<QAccessible::Role>(given.toInt());
+    auto* label = qobject_cast<QLabel*>(object);
+    return label != nullptr ? new LabelFace(label, role) : new QAccessibleWidget(widget, role);
+  }
   return IsHeadedGroup(*widget) ? new QAccessibleWidget(widget, QAccessible::Grouping) : nullptr;
 }
 
 }  // namespace
 
-void InstallLabelFaces() { QAccessible::installFactory(&MakeFace); }
+void InstallGroupFaces() { QAccessible::installFactory(&MakeFace); }
 
 void SetAccessibleRole(QWidget& widget, QAccessible::Role role) {
   QAccessible::installFactory(&MakeFace);

@@ -23,12 +23,9 @@ void InstallFace() {
 // Sets the role that screen readers see. Without a role, a plain widget or window counts as a container.
 void SetAccessibleRole(QWidget& widget, QAccessible::Role role);
 
-// A dynamic property of a label: the name of the value that the label shows. Screen readers say the name and then the
-// value. An accessible name would replace the value.
-inline constexpr char kValueName[] = "valueName";
-// Makes kValueName work. Also presents a plain frame as a group if the frame is the buddy of a label, which names the
-// group. Call before these labels and frames are created.
-void InstallLabelFaces();
+// Presents a plain frame as a group if the frame is the buddy of a label, which names the group. Call before such
+// frames are created.
+void InstallGroupFaces();
 
 // Lets screen readers say a text. Does nothing if no screen reader runs.
 void Announce(QWidget& window, const QString& text);

@@ -111,7 +111,7 @@ void DialogWindow::ScaleLetters() {
 }
 
 DialogWindow::DialogWindow(QWidget* parent) : QDialog(parent) {
-  InstallLabelFaces();
+  InstallGroupFaces();
   setProperty(kRoomProperty, true);
   KeyRouter::Get().Add(KeyTurn::kField, *this,
                        [this](QWidget& receiver, const QKeyEvent& press) { return TakesKey(receiver, press); });
