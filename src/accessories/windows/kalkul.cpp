@@ -128,6 +128,10 @@ Preview Kalkul::PhysicalKey(const QKeyEvent& event) {
     return Preview::kTake;
   }
   const auto character = TypedCharacter(event);
+  const QWidget* focus = focusWidget();
+  // Enter presses these buttons. On all other buttons Enter means "=".
+  const bool pressed = focus == ui_->Command19 || focus == ui_->Command20 || focus == ui_->Command35;
+  if (pressed && character == '\r') return Preview::kPass;
   QPushButton* key = event.key() == Qt::Key_Delete ? ui_->Command23 : character ? KeyOf(*character) : nullptr;
   if (key == nullptr) return Preview::kPass;
   key->click();  // does nothing while the key is disabled

@@ -98,6 +98,7 @@ Preview Prev::PhysicalKey(const QKeyEvent& event) {
                                  [focus = focusWidget()](const Base& one) { return one.frame->isAncestorOf(focus); });
   if (!character || base == bases_.end()) return Preview::kPass;
   if (*character == '\r') {
+    if (base->to_text->hasFocus()) return Preview::kPass;
     base->convert->click();
     return Preview::kTake;
   }

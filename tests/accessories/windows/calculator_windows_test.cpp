@@ -127,7 +127,7 @@ TEST_F(PrevTest, ConvertsFromEachFieldByKeysAndByItsButton) {
 }
 
 TEST_F(PrevTest, SendsEachFieldToTheDocument) {
-  Work(prev, "Label3:1f\r Command42! Command43! Command44! Command46!");
+  Work(prev, "Label3:1f\r Command42! Command43:\r Command44! Command46!");
   EXPECT_EQ(Marked(text), "311F37XXXI|");
 }
 
@@ -148,7 +148,7 @@ struct CalculatorAloneTest : ProgramTest {
 };
 
 TEST_F(CalculatorAloneTest, CopiesTheNumberToTheClipboard) {
-  ExpectState(Calculator(), "Command5! Command19!", "Command19=&Clip Command20=&Quit");
+  ExpectState(Calculator(), "Command5! Command19:\r", "Command19=&Clip Command20=&Quit");
   EXPECT_EQ(platform.clipboard, "5");
 }
 
