@@ -131,7 +131,7 @@ class TextBox : public QAbstractScrollArea {
   void mouseMoveEvent(QMouseEvent* event) override { mouse_.Move(event); }
   void mouseReleaseEvent(QMouseEvent* event) override { mouse_.Release(event); }
   void mouseDoubleClickEvent(QMouseEvent* event) override { mouse_.DoubleClick(event); }
-  void dragEnterEvent(QDragEnterEvent* event) override { drop_.Enter(event); }
+  void dragEnterEvent(QDragEnterEvent* event) override { drop_.Move(event); }
   void dragMoveEvent(QDragMoveEvent* event) override { drop_.Move(event); }
   void dragLeaveEvent(QDragLeaveEvent* event) override { drop_.Leave(event); }
   void dropEvent(QDropEvent* event) override { drop_.Drop(event); }

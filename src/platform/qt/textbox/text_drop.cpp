@@ -70,11 +70,6 @@ void TextDrop::Accept(QDropEvent& event) const {
   event.accept();
 }
 
-void TextDrop::Enter(QDragEnterEvent* event) {
-  if (!Takes(*event)) return event->ignore();
-  Accept(*event);
-}
-
 void TextDrop::Move(QDragMoveEvent* event) {
   if (!Takes(*event)) return event->ignore();
   const QPoint at = event->position().toPoint();

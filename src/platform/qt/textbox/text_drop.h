@@ -22,7 +22,6 @@ class TextDrop {
   // selection, unless the selection has changed during the drag.
   static void StartDrag(TextBox& box);
 
-  void Enter(QDragEnterEvent* event);
   void Move(QDragMoveEvent* event);
   void Leave(QDragLeaveEvent* event);
   void Drop(QDropEvent* event);
