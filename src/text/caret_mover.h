@@ -43,7 +43,7 @@ class CaretMover {
   void Put(TextBuffer& buffer, TextPlace place, bool select);
 
   [[nodiscard]] std::size_t Row(const TextBuffer& buffer) const;
-  // Call after each change of the text.
+  // Call after each change of the text, and after a switch to another buffer.
   void Forget();
 
  private:

@@ -55,11 +55,11 @@ std::string FromUtf8(std::string_view utf8);
 std::string ToUtf8(std::string_view text);
 std::string FromUtf16(std::u16string_view utf16);
 
-// A character's code, 0 to 255, and back.
+// A character's code, 0 to 255, and back. CharOf takes any number and uses only its lowest 8 bits.
 constexpr int CodeOf(char ch) { return static_cast<unsigned char>(ch); }
 constexpr char CharOf(int code) { return static_cast<char>(static_cast<unsigned char>(code)); }
 
-// Upper and lower case of all letters of the code page. ß, digits and signs stay.
+// Change the case of each letter of the code page except ß. All other characters stay.
 char ToUpper(char ch);
 char ToLower(char ch);
 std::string ToUpper(std::string_view text);

@@ -14,7 +14,7 @@ template <typename Choice>
 requires std::is_enum_v<Choice>
 constexpr std::size_t IndexOf(Choice choice) { return static_cast<std::size_t>(choice); }
 
-// The index of a tab, a page or a panel, which people number from 1.
+// The index of an element that is numbered from 1, such as a tab or a page.
 constexpr std::size_t IndexFromOne(int number) { return static_cast<std::size_t>(number - 1); }
 
 }  // namespace pelmar

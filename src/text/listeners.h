@@ -24,7 +24,7 @@ class Listeners {
   }
 
   void Notify(Args... args) const {
-    // A copy, since a listener may add and remove listeners.
+    // A copy, since a listener may call Add.
     for (const auto& one : std::vector(listeners_))
       if (const auto listener = one.lock()) (*listener)(args...);
   }

@@ -48,8 +48,8 @@ std::size_t NumberLength(std::string_view text, char mark) {
   return end;
 }
 
-// The value of a number with a decimal point. 0 for a text that is no number. A number that no double can hold is 0 if
-// its exponent is negative, otherwise nothing.
+// The value of the number at the start of the text. The decimal mark is the point. 0 if the text starts with no number.
+// A number that no double can hold is 0 if its exponent is negative, otherwise nothing.
 std::optional<double> ValueOf(std::string_view number) {
   if (number.starts_with('+')) number.remove_prefix(1);
   double value = 0;

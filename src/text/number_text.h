@@ -16,11 +16,11 @@ namespace pelmar {
 std::string NumberText(double number);
 std::string NumberText(float number);
 
-// A number that is not negative, with leading zeros up to `width` digits.
+// The digits of `number`, with zeros before them if there are fewer than `width` digits. `number` must not be negative.
 std::string ZeroPadded(std::int64_t number, std::size_t width);
 
 // Exactly `decimals` digits (1 or more) after the comma. Halves are rounded away from zero: FixedText(1.015625, 5) is
-// "1,01563". The number must be finite and have at most 14 digits, the decimals included.
+// "1,01563". The number must be finite. With more than 14 digits, the decimals included, the last digits may be wrong.
 std::string FixedText(double number, int decimals);
 
 // The value of the longest finite number at the start of the text, after blanks. 0 if the text starts with no number.

@@ -14,7 +14,8 @@ namespace pelmar {
 // the text or beyond.
 std::optional<std::size_t> FindFrom(std::string_view text, std::string_view term, std::size_t from);
 
-// Selects a hit, at most up to the end of the text. Selects the start first, so that the start becomes visible.
+// Selects a hit, at most up to the end of the text. First puts the caret at the start of the hit and then at its end. A
+// text box scrolls to both, so the whole hit is visible if there is room.
 void SelectHit(TextBuffer& buffer, std::size_t hit, std::size_t length);
 
 // The question after a hit: whether to look for the next one. UTF-8.

@@ -7,8 +7,8 @@
 namespace pelmar {
 namespace {
 
-// How many bytes undo and redo may hold together. A new step of undo drops the oldest steps beyond the limit, but never
-// itself.
+// The limit in bytes for all steps of undo and redo. When a step is added, the oldest steps are dropped until the rest
+// fits or only the new step is left.
 constexpr std::size_t kHistoryLimit = std::size_t{64} << 20;
 
 }  // namespace

@@ -108,7 +108,7 @@ std::size_t TextLayout::RowEnd(std::size_t row) const {
   return EndsLine(row) ? rows_[row + 1] - 2 : rows_[row + 1];
 }
 
-// The last row of the text ends a line. Another row ends a line if a CR LF comes before the next row.
+// The last row of the text ends a line. Any other row ends a line if a CR LF comes before the next row.
 bool TextLayout::EndsLine(std::size_t row) const {
   if (row + 1 == rows_.size()) return true;
   const std::size_t next = rows_[row + 1];

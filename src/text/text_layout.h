@@ -55,7 +55,7 @@ class TextLayout {
   // Changes LayoutRules::width and computes all rows again. Does nothing if the width is the same.
   void SetWidth(std::int64_t width);
   void SetAlign(TextAlign align) { rules_.align = align; }
-  // Adapts the rows to a change of the text. Call after each change.
+  // Adapts the rows to a change of the text. Call after each change, unless Lay follows.
   RowsChange Update(const TextChange& change);
 
   [[nodiscard]] std::size_t RowCount() const { return rows_.size(); }
@@ -70,8 +70,8 @@ class TextLayout {
   // The left edge of a row, which depends on the alignment.
   [[nodiscard]] std::int64_t RowLeft(std::size_t row) const;
 
-  // The distance of a position from the start of the row. At most LayoutRules::width, since the last character of a row
-  // may not fit.
+  // The distance of a position from the start of the row. The last character of a row may not fit, so the distance is
+  // cut to LayoutRules::width.
   [[nodiscard]] std::int64_t XOf(std::size_t row, std::size_t pos) const;
   // StopAt returns the position nearest to `x`. CharAt returns the position of the character at `x`. After the last
   // character both return the row end. `x` counts from the start of the row.

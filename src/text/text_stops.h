@@ -1,6 +1,6 @@
 // The positions to which the caret moves by one step (a character or a CR LF) or by one word. Positions are byte
 // offsets from 0. A word is a run of characters of one kind. The kinds are: letters, digits and "_"; control characters
-// (codes below 32); other signs. Blanks (space, tab, no-break space) separate words.
+// (codes below 32 except TAB and CR LF); other signs. Blanks (space, TAB, no-break space) and CR LF separate words.
 #pragma once
 
 #include <cstddef>
@@ -24,8 +24,8 @@ struct TextSpan {
   std::size_t end = 0;
 };
 
-// The word around `pos`, or the run of blanks around `pos`. At the end of a line: the word or the blanks before `pos`,
-// or an empty span if the line is empty.
+// The word or the run of blanks that contains the character at `pos`. At the end of a line: the word or the blanks
+// before `pos`, or an empty span if the line is empty.
 TextSpan WordAt(std::string_view text, std::size_t pos);
 
 }  // namespace pelmar
