@@ -25,9 +25,9 @@ std::string PrepareText(std::string_view text);
 // character gets a code of ones.
 std::string RndEncipher(std::string_view text, const CipherTable& table, const Draw& draw, const Progress& progress);
 
-// Each group of `depth` letters gives a character. A letter outside the set of zeros is a 1. required: the character is
-// the last symbol of the table whose code contains the digits of the group, which may be incomplete at the end. If no
-// code contains the digits, the previous character, if there is one, is repeated. Depth 0 gives "".
+// Each group of `depth` letters gives a character. The last group may be shorter. A letter outside the set of zeros is
+// a 1. required: the character is the last symbol of the table whose code contains the digits of the group. If there is
+// no such symbol, the previous character, if there is one, is repeated. Depth 0 gives "".
 std::string RndDecipher(std::string_view text, const CipherTable& table, const Progress& progress);
 
 }  // namespace pelmar

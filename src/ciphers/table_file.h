@@ -23,9 +23,9 @@ class TableFiles {
  public:
   TableFiles(Platform& platform, FileNumber& file_number);
 
-  // Reads a table. required: if the person cancels, Load reads the last path again. required: a missing file is created
-  // and read as empty, also after a choice in the dialog. Throws RuntimeError and keeps the table if the file can't be
-  // read or created, or if the person cancels and there is no last path.
+  // Reads a table. required: if the person cancels, Load reads the file at the last path. required: a missing file is
+  // created and read as empty, also after a choice in the dialog. Throws RuntimeError and keeps the table if the file
+  // can't be read or created, or if the person cancels and there is no last path.
   void Load(CipherTable& table);
 
   // Overwrites the start of a file. The rest of a longer file stays. If the file exists, Save first asks whether to

@@ -14,7 +14,6 @@ constexpr char kQuestionCode = '\b';
 // windows more responsive.
 constexpr std::size_t kStep = 4096;
 
-// True if the person ends the run.
 bool PersonStops(Platform& platform) {
   platform.Message(MessageType::kOk, "Porusena intengrita textu!", "Kódování");
   return platform.Confirmed("Ukončit proces? (doporučuji ne)", "Kódování");

@@ -17,8 +17,8 @@ namespace pelmar {
 struct Editor;
 
 // The text that the key field shows after a typed text: the number at the start is read and written until the text
-// stays the same. required: writing uses a comma and reading stops at a comma, so the decimals and an exponent after
-// them are lost: "1.5E20" gives "1".
+// stays the same. required: writing uses a comma and reading stops at a comma, so written decimals and an exponent
+// after them are lost: "1.5E20" gives "1", but "1.5E3" gives "1500".
 std::string KeyText(std::string_view typed);
 
 class StreamCipher {
@@ -40,7 +40,6 @@ void RewriteStream(TextBuffer& buffer, double key, std::string& output, Platform
 // Each code becomes 256 minus the code. 0 stays.
 std::string PrimitiveRewrite(std::string_view text);
 
-// Adds the command of the primitive cipher.
 void AddPrimitiveCipherCommand(Editor& editor);
 
 }  // namespace pelmar

@@ -11,7 +11,7 @@ namespace {
 int CaretIn(const QString& shown, const QString& typed, int caret) {
   const auto length = static_cast<int>(shown.size());
   if (shown == QLatin1String("0")) return length;
-  // If the typed text ends with the shown text, `rewrite` has removed characters at the start, such as a 0 or a blank.
+  // If the typed text ends with the shown text, `rewrite` has probably removed characters at the start.
   const int removed = typed.endsWith(shown) ? static_cast<int>(typed.size()) - length : 0;
   return std::clamp(caret - removed, 0, length);
 }

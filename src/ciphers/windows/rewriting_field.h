@@ -9,8 +9,8 @@ class QLineEdit;
 
 namespace pelmar {
 
-// `rewrite` returns the new text and must leave its own result unchanged. The caret keeps its place in the remaining
-// text, or moves to the end if only "0" remains.
+// `rewrite` returns the new text and must leave its own result unchanged. If the new text is "0", the caret moves to
+// the end. Otherwise, if the old text ends with the new text, the caret moves left by the number of removed characters.
 void RewriteOnChange(QLineEdit* field, std::function<std::string(std::string_view)> rewrite);
 
 }  // namespace pelmar
