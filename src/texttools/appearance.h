@@ -23,8 +23,8 @@ inline constexpr std::string_view kPreviewText =
 // The commands for bold, italic, sizes, inverted colours, alignment, the DOS look and the basic look.
 void AddAppearanceCommands(Editor& editor, MainView& view);
 
-// Gives the window its normal state and a fixed size. The text becomes light grey on black, in Courier of 8 points, not
-// bold and not italic.
+// Gives the window its normal state and a fixed size. The text becomes light grey on black, in Courier New of 8 points,
+// not bold and not italic.
 void ApplyDosLook(MainView& view);
 
 // Sets the look of the text, and the check marks of the menu items for bold and italic. An empty font name keeps the

@@ -10,8 +10,9 @@ namespace pelmar {
 
 using Rows = std::vector<std::string>;
 
-// The lines of the selection without their line ends. A line that ends in LF alone gets no row, unless the selection
-// ends there. `shortest` is the number that the dialog first shows as the length of the shortest row.
+// The lines of the selection without their line ends. A line that ends in LF alone gets a row only if the selection
+// ends there, and this row includes the LF. `shortest` is the number that the dialog first shows as the length of the
+// shortest row.
 struct SelectedRows {
   Rows rows;
   std::size_t shortest = 0;

@@ -72,7 +72,7 @@ void Replacer::ReplaceAll() {
   const BusyPointer busy(platform_);
   buffer_.SetText(ReplaceAllByMarker(buffer_.Text(), find, change));
   find_on = lists_on = change_on = true;
-  step_on = all_on = false;  // required: the check box for the case stays disabled
+  step_on = all_on = false;  // required: case_on isn't set
   found_shown = replaced_shown = std::nullopt;
 }
 

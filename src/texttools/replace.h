@@ -18,7 +18,7 @@ class Replacer {
   Replacer(TextBuffer& buffer, Platform& platform);
 
   // What the dialog shows. Before each step the window stores `find`, `change` and `case_sensitive` here. After each
-  // step the window shows all values.
+  // step the window shows all values. PickRow is no step: after PickRow the window shows only `find` and `change`.
   std::string find = "Najdi";
   std::string change;
   bool case_sensitive = true;
