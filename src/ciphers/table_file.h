@@ -23,8 +23,8 @@ class TableFiles {
  public:
   TableFiles(Platform& platform, FileNumber& file_number);
 
-  // Reads a table. required: if the person cancels, Load reads the file at the last path. required: a missing file is
-  // created and read as empty, also after a choice in the dialog. Throws RuntimeError and keeps the table if the file
+  // Reads a table. required: if the person cancels, Load reads the file at the last path. required: a missing file,
+  // even one chosen in the dialog, is created and read as empty. Throws RuntimeError and keeps the table if the file
   // can't be read or created, or if the person cancels and there is no last path.
   void Load(CipherTable& table);
 

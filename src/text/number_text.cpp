@@ -27,8 +27,8 @@ std::size_t DigitsEnd(std::string_view text, std::size_t at) {
   return at;
 }
 
-// The length of the number at the start of the text: sign, digits, decimal mark, digits, exponent. 0 if the text does
-// not begin with a number.
+// The length of the number at the start of the text, 0 if the text does not begin with a number. A number has an
+// optional sign, one or more digits with an optional decimal mark, and an optional exponent.
 std::size_t NumberLength(std::string_view text, char mark) {
   const std::size_t start = text.starts_with('-') || text.starts_with('+') ? 1 : 0;
   std::size_t end = DigitsEnd(text, start);
