@@ -5,8 +5,8 @@
 
 namespace pelmar {
 
-// UTF-8, in lower case and without a full stop, for the end of a message. The unknown number 123 gives "chyba číslo
-// 123".
+// UTF-8, in lower case and without a full stop, for the end of a message. An errno without a Czech text gives "chyba
+// číslo" and its number.
 std::string ErrorText(int number);
 
 }  // namespace pelmar

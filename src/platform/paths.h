@@ -1,4 +1,4 @@
-// Splits and joins paths, and converts paths to file URLs and to Windows-1250. A path is the bytes that the system
+// Splits and joins paths. Converts paths to and from file URLs and Windows-1250. A path is the bytes that the system
 // gave. Both "\" and "/" separate folders.
 #pragma once
 
@@ -13,7 +13,8 @@ namespace pelmar {
 // required: part 3 of a name without extension is the whole name. A path without separator counts as a folder.
 std::string FilePart(std::string_view path, int part);
 
-// Whether the name has an extension, which may be empty after a point at the end. False for a path without separator.
+// Whether the name has an extension. A name that ends in a point has an empty extension. False for a path without
+// separator.
 bool HasExtension(std::string_view path);
 
 bool EndsInSeparator(std::string_view path);

@@ -46,7 +46,7 @@ struct WriteOutcome {
   std::string kept = {};
 };
 
-// If two stamps of a path differ, the file was written or replaced in between.
+// The stamp of a file usually changes when the file is written or replaced.
 struct FileStamp {
   std::uint64_t device = 0, node = 0, size = 0;
   std::int64_t changed = 0;  // the time of the last write, in nanoseconds since 1970
@@ -123,7 +123,6 @@ class Platform {
 
   // Message boxes. A call returns when the person has answered or closed the box.
   virtual Answer Message(MessageType type, std::string_view text, std::string_view title) = 0;
-  // Asks with a warning. True only for Yes.
   bool Confirmed(std::string_view question, std::string_view title) {
     return Message(MessageType::kYesNoWarning, question, title) == Answer::kYes;
   }
@@ -132,8 +131,8 @@ class Platform {
   // Asks for a line of text. Nothing if the person cancels. All texts are UTF-8.
   virtual std::optional<std::string> InputBox(std::string_view prompt, std::string_view title,
                                               std::string_view initial) = 0;
-  // The system's file dialogs. The filter is "caption|pattern|caption|pattern...". Its index counts from 1, and 0 means
-  // the first caption too. Nothing if the person cancels.
+  // The system's file dialogs. The filter is "caption|pattern|caption|pattern...". `filter_index` counts the captions
+  // from 1, and 0 means the first caption too. Nothing if the person cancels.
   virtual std::optional<std::string> OpenDialog(std::string_view filter, int filter_index) = 0;
   virtual std::optional<std::string> SaveDialog(std::string_view filter, int filter_index) = 0;
 
@@ -162,7 +161,7 @@ class Platform {
   // Copies a file of any size through `rewriter`. The target is replaced or overwritten as in WriteDocument.
   virtual WriteOutcome RewriteFile(const std::string& source, const std::string& target, OldTail tail,
                                    FileRewriter& rewriter) = 0;
-  // Nothing if there is no such file or its folder can't be searched.
+  // Nothing on an error, for instance if there is no such file.
   virtual std::optional<FileStamp> Stamp(const std::string& path) = 0;
   // Whether both paths lead to the same file.
   virtual bool IsSameFile(const std::string& left, const std::string& right) = 0;

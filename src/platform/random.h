@@ -1,4 +1,4 @@
-// Random numbers from Platform::Random. Only the stream cipher uses another source, ReproducibleGenerator.
+// Random numbers from Platform::Random. The stream cipher uses ReproducibleGenerator instead.
 #pragma once
 
 #include <cstddef>

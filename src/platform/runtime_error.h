@@ -1,4 +1,4 @@
-// The only exception class of the program.
+// The only exception class that the program defines.
 #pragma once
 
 #include <stdexcept>

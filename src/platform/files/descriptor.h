@@ -1,4 +1,5 @@
-// An open file, and functions that read, write and sync open files. They return 0 or an errno.
+// An open file, and functions that read, write and sync open files. A function outside the class whose result is an int
+// returns 0 or an errno.
 #pragma once
 
 #include <fcntl.h>
@@ -12,7 +13,7 @@
 
 namespace pelmar {
 
-// The number of an open file. The destructor closes the file and keeps errno unchanged.
+// The number of an open file, or -1. The destructor closes the file and keeps errno unchanged.
 class Descriptor {
  public:
   explicit Descriptor(int number = -1) : number_(number) {}

@@ -56,7 +56,8 @@ int RewriteInto(int to, int from, FileRewriter& rewriter) {
   return error != 0 ? error : WriteAll(to, rewriter.Finish());
 }
 
-// Cuts `to` after its first `kept` bytes and appends the rest of `old` from this position on. `old` may be -1.
+// Cuts `to` after its first `kept` bytes. Then appends the bytes of `old` from position `kept` on, or nothing if `old`
+// is -1.
 int CopyTail(int old, int to, std::uint64_t kept) {
   const auto at = static_cast<off_t>(kept);
   if (ftruncate(to, at) != 0) return errno;

@@ -20,8 +20,8 @@ namespace pelmar {
 // Whether the path leads to a regular file that can be opened for reading.
 bool CanReadFile(const std::string& path);
 
-// Reads the file, at most `limit` bytes. Errors: EISDIR for a folder; EINVAL for another file that is not regular;
-// EFBIG if there is no limit and the file is longer than kLongestWhole bytes.
+// Reads the file, at most `limit` bytes. The error is EISDIR for a folder and EINVAL for another file that is not
+// regular. The error is EFBIG if there is no limit and the file is longer than kLongestWhole bytes.
 FileBytes ReadWholeFile(const std::string& path, std::optional<std::uint64_t> limit);
 
 // See Platform::ReadByPieces. The errors EISDIR and EINVAL are those of ReadWholeFile.
@@ -30,7 +30,7 @@ int ReadFileByPieces(const std::string& path, const std::function<bool(std::stri
 inline constexpr std::uint64_t kLongestWhole = std::uint64_t{1} << 30;
 
 // Saves `bytes` in the file. A copy of the old content, if necessary, is made in `keep_folder`. A file that did not
-// exist gets `new_mode`, before the umask. The errors EISDIR and EINVAL are those of ReadWholeFile.
+// exist gets the permissions `new_mode` less the umask. The errors EISDIR and EINVAL are those of ReadWholeFile.
 WriteOutcome ReplaceFile(const std::string& path, std::string_view bytes, const std::string& keep_folder,
                          mode_t new_mode = 0666);
 

@@ -55,8 +55,8 @@ int CopyAttributes(int file, const std::string& old_path) {
     access_list = access_list || std::strcmp(name, kAccessList) == 0;
     if (const int error = CopyAttribute(file, old_path, name)) return error;
   }
-  // The folder may have given the new file an access list. If the old file had none, this list is removed, since it
-  // could admit other users than the old file did.
+  // The folder may have given the new file an access list. If the old file had none, the new list is removed, since
+  // this list could admit users whom the old file kept out.
   if (access_list || fremovexattr(file, kAccessList) == 0 || errno == ENODATA || errno == ENOTSUP) return 0;
   return errno;
 }

@@ -56,7 +56,7 @@ int Examine(Target& target) {
   if (S_ISDIR(mode)) return EISDIR;
   if (!S_ISREG(mode)) return EINVAL;
   target.exists = true;
-  // A rename would succeed without this permission, but a file that its owner has protected stays protected.
+  // A rename would succeed without write permission, but a file that its owner has protected stays protected.
   return faccessat(AT_FDCWD, target.path.c_str(), W_OK, AT_EACCESS) == 0 ? 0 : errno;
 }
 
@@ -90,7 +90,7 @@ Beside WriteBeside(const Target& target, const NewContent& content, mode_t new_m
   if (error == 0) return {.error = SyncFolderOf(target.path, file.Number())};
   if (!old || !FolderRefuses(error)) return {.error = error};
   Descriptor copy(fcntl(file.Number(), F_DUPFD_CLOEXEC, 0));
-  if (!copy.IsOpen()) return {.error = errno};  // a second call of `fill` would find its source at the end
+  if (!copy.IsOpen()) return {.error = errno};  // no WriteInPlace: `fill` can be called only once
   return {.error = error, .try_in_place = true, .content = std::move(copy)};
 }
 

@@ -36,7 +36,7 @@ struct Beside {
   Descriptor content = Descriptor();  // the new file, if its content is complete but the folder refused the rename
 };
 
-// Saves into a new file that takes the target's name. A new target gets `new_mode`, before the umask.
+// Saves into a new file that takes the target's name. A new target gets the permissions `new_mode` less the umask.
 Beside WriteBeside(const Target& target, const NewContent& content, mode_t new_mode);
 
 // Overwrites an old target. First copies the old content to a private file in `keep_folder`, which ends in a separator.

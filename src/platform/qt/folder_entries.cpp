@@ -27,8 +27,8 @@ bool LiesInHidden(const QString& path) { return path.contains(QLatin1String("/."
 
 enum class Kind { kFolders, kFiles };
 
-// The sorted names of the entries of one kind. `wanted` decides by the displayed name. Usually the folder stores the
-// kind of each entry. An entry itself is examined only if the entry is a link or the folder stores no kinds.
+// The sorted names of the entries of one kind for whose displayed name `wanted` returns true. Usually the folder stores
+// the kind of each entry. An entry itself is examined only if the entry is a link or the folder stores no kinds.
 QStringList NamesOf(const QString& path, Kind kind, const std::function<bool(const QString&)>& wanted) {
   const QCollator collator = CzechCollator();
   std::vector<std::pair<QCollatorSortKey, QString>> names;

@@ -11,20 +11,20 @@
 namespace pelmar {
 
 // The pattern for the names that match `mask`, ignoring case. "*" stands for any characters, "?" for one character.
-// Parts of `mask` are separated by ";", and a name must match one part. "*.*" and a `mask` without parts match every
-// name.
+// Parts of `mask` are separated by ";", and a name must match one part. A part "*.*" and a `mask` without parts
+// match every name.
 QRegularExpression MaskPattern(const QString& mask);
 
 // Whether the path is a folder that can be listed and entered.
 bool IsReadableFolder(const QString& path);
 
-// The current folder of the process, or "" if the folder no longer exists.
+// The current folder of the process. "" on an error, for instance if the folder no longer exists.
 QString CurrentFolder();
 // The absolute path, with "." and ".." resolved. There is no separator at the end, except in "/".
 QString CleanFolder(const QString& path);
 
 // The sorted names, or an empty list if the folder can't be read. A link counts as its target. Names that begin with
-// "." are hidden. They are listed if `path` leads through a hidden folder. FilesOf also lists them if a part of `mask`
+// "." are left out, unless a folder in `path` has such a name. FilesOf also lists these names if a part of `mask`
 // begins with ".".
 QStringList SubfoldersOf(const QString& path);
 QStringList FilesOf(const QString& path, const QString& mask);

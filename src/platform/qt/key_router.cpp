@@ -31,7 +31,7 @@ void KeyRouter::Add(KeyTurn turn, QWidget& scope, KeyTaker taker) {
 }
 
 bool KeyRouter::Takes(QWidget& receiver, QKeyEvent& event) {
-  // A key event that the program itself sends is never a repeat.
+  // A key event that the program itself sends is never dropped.
   if (event.spontaneous() && DropsRepeat(receiver, event)) {
     event.accept();  // otherwise Qt would look for a shortcut of this key
     return true;
@@ -48,15 +48,15 @@ bool KeyRouter::Takes(QWidget& receiver, QKeyEvent& event) {
 
 // The display server repeats a held key as a release and a press with equal time stamps. Qt marks a press as a repeat
 // only if the press has arrived when Qt reads the release, so on a busy machine Qt misses many repeats. Therefore a
-// press with the time stamp of the last release counts as a repeat too.
+// press with the key and the time stamp of the last release counts as a repeat too.
 bool KeyRouter::IsRepeat(const QKeyEvent& press) const {
   const bool just_released = press.key() == released_key_ && press.timestamp() == released_at_;
   return press.isAutoRepeat() || (just_released && released_at_ != 0);
 }
 
-// True for a repeat of Enter or Delete in two cases. The first press went to another widget, so the first press may
-// have opened or closed a window. Or the key edits no text, so a repeat could run an action twice, for instance press a
-// button.
+// Remembers the event for later calls. True for a repeat of Enter or Delete in two cases. The first press went to
+// another widget, so the first press may have opened or closed a window. Or the key edits no text, so a repeat could
+// run an action twice, for instance press a button.
 bool KeyRouter::DropsRepeat(const QWidget& receiver, const QKeyEvent& event) {
   const int key = event.key();
   if (event.type() == QEvent::KeyRelease) {

@@ -36,7 +36,7 @@ class KeyRouter {
   bool Takes(QWidget& receiver, QKeyEvent& event);
 
   // The router keeps the state of the Insert key, since the system has none. The state is off at first. Each press of
-  // Insert without a modifier key toggles the state.
+  // Insert without a modifier key toggles the state, unless the press is a repeat.
   [[nodiscard]] bool InsertIsOn() const { return insert_on_; }
 
  private:

@@ -59,9 +59,9 @@ bool TakePasted(QLineEdit& field, QEvent& event) {
     Paste(field, QClipboard::Selection);
     return true;
   }
-  // A text that is dragged within the field needs no conversion.
   if (event.type() != QEvent::Drop) return false;
   auto& drop = static_cast<QDropEvent&>(event);
+  // Neither a text that is dragged within the field nor a text from Drop needs a conversion.
   if (drop.source() == &field || dynamic_cast<const LineMime*>(drop.mimeData())) return false;
   Drop(field, drop);
   return true;

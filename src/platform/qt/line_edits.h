@@ -1,5 +1,5 @@
-// Mends two faults of Qt's single-line fields. They silently cut a text at 32,767 characters. They keep the line breaks
-// of a pasted or dropped text as they are, even a lone LF from another program.
+// Mends two faults of Qt's single-line fields. These fields silently cut a text at 32,767 characters. They also keep
+// every line break of a pasted or dropped text, even a lone LF from another program.
 #pragma once
 
 #include <QLineEdit>

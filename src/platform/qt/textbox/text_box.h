@@ -1,7 +1,7 @@
 // The multi-line text control of the program. It shows and edits a TextBuffer of Windows-1250 bytes. Other classes do
-// most of the work: TextView (layout), TextPainter, CaretMover and text_keys (keyboard), TextMouse, TextDrop,
-// TextComposer (input methods), CaretBlink and TextBoxAccessible. Positions are byte offsets from 0, clipped to the
-// text. Setters in lower camel case are properties that forms set.
+// most of the work: TextView (layout), TextPainter, CaretMover, TextMouse, TextDrop, TextComposer (input methods),
+// CaretBlink and TextBoxAccessible. The keys are in text_keys.h. Positions are byte offsets from 0, clipped to the
+// text. Forms call the setters in lower camel case.
 #pragma once
 
 #include <QAbstractScrollArea>
@@ -73,7 +73,7 @@ class TextBox : public QAbstractScrollArea {
   [[nodiscard]] bool TabChangesFocus() const { return tab_changes_focus_; }
   void setTabChangesFocus(bool changes) { tab_changes_focus_ = changes; }
 
-  // If true, TAB into this control selects the whole text, as in a single-line field.
+  // If true, TAB or Shift+TAB into this control selects the whole text, as in a single-line field.
   [[nodiscard]] bool TabSelectsAll() const { return tab_selects_all_; }
   void setTabSelectsAll(bool selects) { tab_selects_all_ = selects; }
 

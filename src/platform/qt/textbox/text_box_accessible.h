@@ -44,7 +44,7 @@ class TextBoxAccessible : public QAccessibleWidget,
   TextBox& box_;
 };
 
-// Notifies assistive technology of changes. Does nothing if no such technology runs.
+// Notifies assistive technology of changes. Sends nothing if no such technology runs.
 class TextBoxNotifier {
  public:
   explicit TextBoxNotifier(TextBox& box) : box_(box) {}

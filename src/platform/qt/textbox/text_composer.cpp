@@ -10,8 +10,8 @@
 namespace pelmar {
 namespace {
 
-// Input methods get at most so many characters on each side of the caret, and so many of the selection. They need only
-// a few words, and a line may have millions of characters.
+// Input methods get at most this number of characters before the caret, after the caret and of the selection. Input
+// methods need only a few words, and a line may have millions of characters.
 constexpr std::size_t kSurrounding = 512;
 
 // The part of the caret's line that is passed to input methods.

@@ -22,8 +22,9 @@ class TextComposer {
   [[nodiscard]] int CaretX(const QFont& font) const;
   [[nodiscard]] int Width(const QFont& font) const;
 
-  // Inserts the finished text of the event into the buffer. Stores the text that is still being composed. Either of
-  // them replaces the selection, or the part of the buffer that the event names.
+  // Inserts the finished text of the event into the buffer. Stores the text that is still being composed. If the event
+  // names a part of the buffer, first erases this part. Otherwise first erases the selection if the event contains
+  // finished text or changes the composed text.
   void Handle(const QInputMethodEvent& event, TextBuffer& buffer);
   void Clear();
   void Paint(QPainter& painter, QPointF baseline, const QFont& font) const;

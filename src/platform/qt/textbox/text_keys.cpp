@@ -84,7 +84,8 @@ QString TypedText(const QKeyEvent& event) {
   QString text = event.text();
   const bool ctrl = event.modifiers().testFlag(Qt::ControlModifier);
   const bool alt = event.modifiers().testFlag(Qt::AltModifier);
-  // Ctrl or Alt alone types nothing. Ctrl+Alt types, since it replaces AltGr on keyboards without AltGr.
+  // A key with either Ctrl or Alt types nothing. A key with both may type, since Ctrl+Alt replaces AltGr on keyboards
+  // without AltGr.
   if (text.isEmpty() || ctrl != alt || event.modifiers().testFlag(Qt::MetaModifier)) return {};
   if (text == QStringLiteral("\t") && !ctrl) return text;
   return text[0].isPrint() || text[0].isSurrogate() ? text : QString();

@@ -134,7 +134,7 @@ void TextMouse::ShowPointer(QPoint at) {
 
 void TextMouse::timerEvent(QTimerEvent* event) {
   if (event->timerId() != scroll_timer_.timerId()) return QObject::timerEvent(event);
-  if (!box_.isActiveWindow()) return scroll_timer_.stop();  // the release goes to another window
+  if (!box_.isActiveWindow()) return scroll_timer_.stop();  // the button may be released in another window
   QScrollBar* bar = box_.verticalScrollBar();
   bar->setValue(bar->value() + Overshoot(last_at_.y(), box_.viewport()->height()));
   Extend(last_at_);

@@ -58,7 +58,7 @@ TextPlace TextView::PlaceAt(QPoint point) {
 
 int TextView::StopX(std::size_t row, std::size_t pos) {
   const TextLayout& layout = Layout();
-  // Rounded down, so that the caret is left of the first pixel of the letter at `pos`.
+  // Rounded down, so that the caret never begins inside the letter at `pos`.
   return kMargin + WholePixelsBelow(layout.RowLeft(row) + layout.XOf(row, pos));
 }
 
