@@ -60,8 +60,8 @@ class Program {
 };
 
 // The command-line arguments joined by blanks. If this text is the relative path of an existing file, returns the
-// absolute path, usually without "." and "..". If the text is a "file://" URL of this computer, returns the path in the
-// URL.
+// absolute path, without "." and ".." if the file is still the same without them. If the text is a "file://" URL of
+// this computer, returns the path in the URL.
 std::string CommandTail(const QStringList& arguments);
 
 }  // namespace pelmar

@@ -26,7 +26,7 @@ class LabelFace : public QAccessibleWidget {
   const QLabel& label_;
 };
 
-// Whether the widget is a plain frame and the buddy of a label.
+// Whether the widget is a plain frame and the buddy of a label with the same parent.
 bool IsHeadedGroup(const QWidget& widget) {
   if (widget.metaObject() != &QFrame::staticMetaObject || widget.isWindow()) return false;
   const auto labels = widget.parentWidget()->findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly);

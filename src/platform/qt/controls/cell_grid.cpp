@@ -61,7 +61,6 @@ void CellGrid::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void CellGrid::mouseReleaseEvent(QMouseEvent* event) {
-  // A release outside the grid chooses no cell.
   if (!rect().contains(event->position().toPoint())) return;
   const QPoint cell = CellAt(event->position().toPoint());
   Enter(cell.y(), cell.x());

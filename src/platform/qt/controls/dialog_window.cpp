@@ -64,7 +64,8 @@ bool IsAltCharacter(const QKeyEvent& event) {
   return event.modifiers() == Qt::AltModifier && !event.text().isEmpty() && event.text().front().isPrint();
 }
 
-// Lets the Tab key enter a group of radio buttons at the checked button. Qt does so only after the group was used.
+// Lets the Tab key enter a group of radio buttons at `option`, the checked button. Qt does so only after a button of
+// the group had the focus.
 void GatherTabStops(QRadioButton& option) {
   for (auto* other : option.parentWidget()->findChildren<QRadioButton*>(Qt::FindDirectChildrenOnly))
     if (other->group() == option.group()) other->setFocusPolicy(other == &option ? Qt::StrongFocus : Qt::ClickFocus);
@@ -82,7 +83,7 @@ bool TakesTab(const QWidget& widget, const QWidget& window) {
   return (widget.focusPolicy() & Qt::TabFocus) != 0 && widget.isVisibleTo(&window) && widget.isEnabled();
 }
 
-// The fields in the order of the Tab key.
+// The fields that the Tab key reaches, in tab order.
 QList<QWidget*> FieldsInOrder(QWidget& window) {
   QList<QWidget*> fields;
   for (QWidget* next = window.nextInFocusChain(); next != &window; next = next->nextInFocusChain())
@@ -234,8 +235,8 @@ void DialogWindow::Prepare() {
     connect(option, &QRadioButton::toggled, this, gather);
     gather();
   }
-  // The window that makes HasWindowOnTop true, for instance the notes window, may appear or vanish while this dialog is
-  // open. So a dialog that gets the focus is put on top if necessary. When no such window is left, the next change of
+  // A window that stays on top, for instance the notes window, may appear or vanish while this dialog is open. So if
+  // necessary, a dialog that gets the focus is made to stay on top too. When no such window is left, the next change of
   // focus makes the dialog a normal window again.
   connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* now) {
     if (isVisible() && (now == windowHandle() || !HasWindowOnTop())) PutAboveAll(*this);

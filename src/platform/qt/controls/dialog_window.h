@@ -15,8 +15,8 @@ class QPushButton;
 namespace pelmar {
 
 // Properties of forms. `cancelButton`: the button that Escape presses; without it Escape closes the dialog.
-// `centredEachTime`: each opening is in the centre of the screen. `sizedByContents`: the contents determine the size of
-// the first opening, not the form. `defaultFromFields`: see keyPressEvent.
+// `centredEachTime`: each opening is in the centre of the screen. `sizedByContents`: the contents, not the form,
+// determine the size at the first opening. `defaultFromFields`: see keyPressEvent.
 class DialogWindow : public QDialog {
   Q_OBJECT
 

@@ -25,7 +25,7 @@ QSize RoomFor(const QStringList& words, const QFontMetrics& metrics) {
   return {width + 2 * kEdge, metrics.height() + 2 * kEdge};
 }
 
-// Paints the caption. If the caption doesn't fit the key, uses a smaller font, down to 6 points.
+// If the caption doesn't fit the key, uses a smaller font, down to 6 points.
 void PaintCaption(QStylePainter& painter, const QWidget& key, const QString& caption, QPalette::ColorRole role) {
   constexpr int kSmallest = 6;
   painter.setPen(key.palette().color(key.isEnabled() ? QPalette::Active : QPalette::Disabled, role));

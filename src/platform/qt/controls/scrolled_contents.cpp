@@ -10,8 +10,8 @@ namespace {
 
 constexpr QSize kLeastView(200, 96);
 
-// Whether the layout contains at least one button, and otherwise only buttons and spacers. The keys of a keypad don't
-// count as buttons.
+// Whether the layout contains a button, and nothing except buttons and spacers. The keys of a keypad don't count as
+// buttons.
 bool HoldsButtonsOnly(const QLayout& layout) {
   int buttons = 0;
   for (int i = 0; i < layout.count(); ++i) {

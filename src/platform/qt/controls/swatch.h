@@ -25,7 +25,6 @@ class Swatch : public QAbstractButton {
   QColor color_ = Qt::black;
 };
 
-// A gradient from one colour at the top to another at the bottom.
 class GradientBar : public QWidget {
   Q_OBJECT
 

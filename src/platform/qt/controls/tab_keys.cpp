@@ -12,9 +12,9 @@ namespace pelmar {
 namespace {
 
 constexpr int kMostNumbered = 9;
-constexpr quint32 kScanCodeOf1 = 10;  // the key in the row of numbers, on X11 and Wayland
+constexpr quint32 kScanCodeOf1 = 10;  // the first key of the number row, on X11 and Wayland
 
-// Handles Alt with a physical number key. On a Czech keyboard these keys type other characters, so shortcuts such as
+// Handles Alt with a key of the number row. On a Czech keyboard these keys type other characters, so shortcuts such as
 // Alt+1 don't match. If a shortcut matches, Qt runs the shortcut, and the key doesn't come here.
 bool PickByNumberKey(QTabBar& tabs, const QKeyEvent& press) {
   if (tabs.isHidden() || press.modifiers() != Qt::AltModifier || press.nativeScanCode() < kScanCodeOf1) return false;

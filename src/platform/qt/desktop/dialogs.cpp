@@ -191,7 +191,7 @@ QStringList NameFilters(const QString& filter) {
   QStringList result;
   for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
     QStringList patterns = parts[i + 1].split(u';', Qt::SkipEmptyParts);
-    // In Qt "*.*" excludes names without an extension.
+    // In Qt "*.*" excludes names without a dot.
     for (QString& pattern : patterns)
       if ((pattern = pattern.trimmed()) == QLatin1String("*.*")) pattern = QStringLiteral("*");
     result += parts[i] + QStringLiteral(" (") + patterns.join(u' ') + u')';
@@ -212,7 +212,7 @@ std::optional<QString> AskForFile(FileDialogKind kind, const QString& filter, in
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setOption(QFileDialog::DontConfirmOverwrite);
   }
-  // Accept a name without a file for opening too: the command that asked for the name has its own message.
+  // Accept the name of a missing file for opening too: the command that asked for the name has its own message.
   dialog->setFileMode(QFileDialog::AnyFile);
   dialog->setNameFilters(filters);
   if (filter_index >= 1 && filter_index <= filters.size()) dialog->selectNameFilter(filters[filter_index - 1]);

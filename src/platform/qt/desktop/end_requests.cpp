@@ -65,8 +65,8 @@ void EndRequests::EndBySignal() {
   std::raise(number);
 }
 
-// Qt sends Quit at the end of the session, after the requests to save. This filter then keeps the documents and ends
-// the program without asking its windows.
+// Qt sends Quit at the end of the session, after the requests to save. This filter then calls keep_ and ends the
+// program without asking its windows.
 bool EndRequests::eventFilter(QObject* watched, QEvent* event) {
   if (watched != qGuiApp || event->type() != QEvent::Quit) return QObject::eventFilter(watched, event);
   keep_();

@@ -1,6 +1,6 @@
 // Handles requests of the system to end the program: SIGTERM, SIGHUP, SIGINT and the end of the desktop session. First
-// calls `keep`, which stores the unsaved documents. Then the program ends without a question. After a signal the exit
-// status names the signal. Create one object, after the application object.
+// calls `keep`, which stores the unsaved documents and notes. Then the program ends without a question. After a signal
+// the exit status names the signal. Create one object, after the application object.
 #pragma once
 
 #include <QObject>

@@ -72,7 +72,7 @@ SystemPrinter* LoadPrinters(QString& problem) {
   return printer;
 }
 
-// Whether the PDF file has its end. QPdfWriter does not report a full disk.
+// Whether the end of the PDF file was written. QPdfWriter does not report a full disk.
 bool IsWholePdf(QFile& file) {
   constexpr qint64 kEnd = 32;
   errno = 0;

@@ -1,4 +1,4 @@
-// The interface of the module pelmar-printer, the only part of the program that uses the system's printers.
+// The interface of the module pelmar-printer. Only this module uses the system's printers.
 #pragma once
 
 #include <QPagedPaintDevice>

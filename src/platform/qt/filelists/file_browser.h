@@ -25,7 +25,7 @@ FolderBrowser FolderBrowserOf(const QWidget& dialog);
 
 // `place` sets the folder of `folders`, `folders` sets the folder of `files`, and `mask` (may be null) sets the pattern
 // of `files`. A key released in `folders` shows the files of the highlighted folder. Starts in the current folder of
-// the process. The focus is on `files`, since on `place` the arrow key Down would change the folder.
+// the process. The focus is on `files`, not on `place`, where the arrow key Down would change the folder.
 void LinkFileBrowser(DriveList* place, FolderList* folders, FileList* files, QComboBox* mask = nullptr);
 
 // Does the same for a dialog without a list of files. Starts with the focus on `folders`.
@@ -36,7 +36,7 @@ void LinkFolderBrowser(DriveList* place, FolderList* folders);
 void ShowPath(QLabel& label, const std::string& path);
 std::string PathShownBy(const QLabel& label);
 
-// The path of the selected file as bytes. If no file is selected, the folder with a separator.
+// The path of the selected file as bytes. If no file is selected, the folder with a separator at the end.
 std::string PickedPath(const FileList& files);
 
 }  // namespace pelmar

@@ -109,7 +109,7 @@ void FileList::mousePressEvent(QMouseEvent* event) {
 }
 
 void FileList::mouseDoubleClickEvent(QMouseEvent* event) {
-  // Keeps the release from emitting FileClicked, even if it arrives while FileActivated is handled.
+  // Keeps the release from emitting FileClicked, even if the release arrives while FileActivated is handled.
   click_emitted_ = true;
   QListView::mouseDoubleClickEvent(event);
 }

@@ -1,7 +1,7 @@
 // The file list of the file browser dialogs: the files of a folder whose names match a mask. Each time the list is
-// shown, the folder is read again. The selection and the scroll position stay. The selected name stays even if its file
-// is removed. Paths and names come from PathToQString; the rows show them with ShownPath. Only actions of the person
-// emit FileClicked and FileActivated.
+// shown, the folder is read again. The selection and the scroll position stay. The selected name then stays in the list
+// even if its file was removed. Paths and names come from PathToQString; the rows show them with ShownPath. Only
+// actions of the person emit FileClicked and FileActivated.
 #pragma once
 
 #include <QListView>
@@ -39,8 +39,7 @@ class FileList : public QListView {
   void PatternChanged(const QString& pattern);
   // A file was clicked, perhaps the same file again, or selected with the keyboard.
   void FileClicked();
-  // Double click or Enter. If no file is selected or the signal isn't connected, Enter presses the default button of
-  // the dialog.
+  // Double click or Enter. If no file is selected or the signal isn't connected, the dialog gets Enter instead.
   void FileActivated();
 
  protected:

@@ -11,7 +11,7 @@
 
 namespace pelmar {
 
-// The rows with their depths below "/": the folders from "/" down to the current folder, then its subfolders.
+// The rows with their depths below "/": the folders from "/" down to the entered folder, then its subfolders.
 class FolderModel : public QAbstractListModel {
  public:
   enum Role { kPath = Qt::UserRole, kDepth };
@@ -21,7 +21,7 @@ class FolderModel : public QAbstractListModel {
         open_(view->style()->standardIcon(QStyle::SP_DirOpenIcon)),
         closed_(view->style()->standardIcon(QStyle::SP_DirClosedIcon)) {}
 
-  // Fills the rows. Returns the row of the folder itself.
+  // Fills the rows for the entered folder `path`. Returns the row of this folder.
   int Show(const QString& path) {
     beginResetModel();
     rows_.assign(1, {QStringLiteral("/"), QStringLiteral("/")});
@@ -99,7 +99,7 @@ class IndentingDelegate : public QStyledItemDelegate {
   }
 };
 
-// The folder itself if readable, otherwise its nearest readable parent.
+// The folder itself if readable, otherwise its nearest readable parent, or "/" if no parent is readable.
 QString Climb(QString path) {
   while (!IsReadableFolder(path) && path != QLatin1String("/")) path = QFileInfo(path).path();
   return path;
@@ -138,7 +138,7 @@ void FolderList::Fill(const QString& highlighted) {
 
 void FolderList::keyPressEvent(QKeyEvent* event) {
   if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) return QListView::keyPressEvent(event);
-  // Otherwise Enter would also press the default button of the dialog.
+  // Otherwise the dialog would get Enter too.
   event->accept();
   EnterHighlighted();
 }

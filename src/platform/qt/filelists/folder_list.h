@@ -1,4 +1,4 @@
-// The folder list of the file browser dialogs: the folders from "/" down to the current folder, then its subfolders. A
+// The folder list of the file browser dialogs: the folders from "/" down to the entered folder, then its subfolders. A
 // click only highlights a folder; a double click or Enter enters the highlighted folder. PathChanged is emitted exactly
 // when the path changes, by the person or by the program.
 #pragma once
@@ -14,7 +14,7 @@ class FolderList : public QListView {
   Q_PROPERTY(QString Path READ Path WRITE SetPath NOTIFY PathChanged)
 
  public:
-  // Begins at the current folder of the process, or at its nearest readable parent.
+  // Begins at the current folder of the process or, if this folder can't be read, at its nearest readable parent.
   explicit FolderList(QWidget* parent = nullptr);
 
   // The absolute path from PathToQString, without "/" at the end unless the path is "/".
@@ -38,7 +38,7 @@ class FolderList : public QListView {
 
  private:
   void Fill(const QString& highlighted);
-  // Enters the highlighted folder. If this folder can't be read, highlights the current folder again.
+  // Enters the highlighted folder. If the highlighted folder can't be read, highlights the entered folder again.
   void EnterHighlighted();
 
   FolderModel* model_;

@@ -31,7 +31,6 @@ QWidget* DialogParent() {
 }
 
 void ExpectActive(QWidget* window) {
-  // As soon as a window of the program gets the focus, no window is expected any more.
   static const auto forgets =
       QObject::connect(qApp, &QGuiApplication::focusWindowChanged, qApp, [](const QWindow* now) {
         if (now != nullptr) Expected() = nullptr;

@@ -116,8 +116,8 @@ void CentreOnScreen(QWidget& window) {
       window,
       [&window, asked](const TwipsRect& now) {
         const QPoint outer(PixelsOf(now.left), PixelsOf(now.top));
-        // If the window is elsewhere, leave it there: this Placement has already corrected it, or the person or the
-        // window manager has moved it.
+        // If the window is elsewhere, leave the window there: this Placement has already corrected the position, or the
+        // person or the window manager has moved the window.
         return outer == asked || window.geometry().topLeft() == asked ? InTheMiddle(window, now) : now;
       },
       Placement::EndAfter::kSeveralChecks);

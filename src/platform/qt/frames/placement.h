@@ -35,8 +35,8 @@ class Placement : public QObject {
   // Whether the first frame of the window is known. Also true if the window got no frame within the time limit.
   [[nodiscard]] bool FrameKnown() const { return frame_known_; }
 
-  // Called when FrameKnown becomes true. If the window was not in place, the place was requested just before, unless
-  // the window is minimised or maximised.
+  // Called when FrameKnown becomes true, just after the first request. A window that is in place, minimised or
+  // maximised gets no request.
   std::function<void()> on_frame;
   // Called when the checks end: the window is in place, the time limit is over, or the window was hidden.
   std::function<void()> on_end;
@@ -61,7 +61,9 @@ class Placement : public QObject {
   bool frame_known_ = false;
 };
 
-// Centres a window on its screen, but not under the panels of the desktop. Call before the window appears.
+// Centres a window on its screen, or puts it as near to the centre as the panels of the desktop allow. A window that is
+// wider or higher than the area between the panels begins at the left or top edge of this area. Call before the window
+// appears.
 void CentreOnScreen(QWidget& window);
 
 }  // namespace pelmar

@@ -43,7 +43,7 @@ QColor Mixed(const QColor& ground, const QColor& text, double share) {
                           mix(ground.blueF(), text.blueF()));
 }
 
-// Mixes `text` into `ground`, with a greater share in each of kSteps steps, until the contrast of the mixture with
+// Mixes `text` into `ground`, with a greater share of `text` in each step, until the contrast of the mixture with
 // `ground` is at least `wanted`. Returns this mixture, or `text` itself if no mixture has enough contrast.
 QColor OfContrast(double wanted, const QColor& ground, const QColor& text) {
   for (int step = 1; step < kSteps; ++step)
@@ -155,8 +155,8 @@ void ProgramStyle::polish(QPalette& palette) {
   lift(QPalette::WindowText, QPalette::Window, kDisabledContrast);
   lift(QPalette::ButtonText, QPalette::Button, kDisabledContrast);
   // Some dark desktops leave placeholder texts black. The tabs of unnamed documents use the colour of placeholder texts
-  // too, on the colour of buttons. There the contrast is lower than in a field, so the contrast is computed for
-  // buttons.
+  // too, on the colour of buttons. On this colour the contrast is lower than in a field, so the colour of placeholder
+  // texts is computed for buttons.
   const QColor hint = OfContrast(kTextContrast, text(QPalette::Button), text(QPalette::ButtonText));
   palette.setColor(QPalette::PlaceholderText, hint);
   // The colour of lines in the program's own controls.
