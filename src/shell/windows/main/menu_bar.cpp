@@ -13,7 +13,7 @@
 namespace pelmar {
 namespace {
 
-// Parses "Ctrl+X", "Ctrl+F4" or "F1". Qt's parser would load the key names of every language.
+// Parses "Ctrl+X", "Ctrl+F4" or "F1". Qt's parser is slower and would delay the first window.
 QKeyCombination KeysOf(std::string_view shortcut) {
   constexpr std::string_view kControl = "Ctrl+";
   const bool control = shortcut.starts_with(kControl);
