@@ -13,7 +13,7 @@ class Commands {
  public:
   void Add(std::string_view name, std::function<void()> run) { commands_[std::string(name)] = std::move(run); }
   [[nodiscard]] bool Has(std::string_view name) const { return commands_.find(name) != commands_.end(); }
-  // An unknown name does nothing. Exceptions of the command pass through.
+  // Does nothing for an unknown name. Exceptions of the command pass through.
   void Run(std::string_view name) const {
     if (const auto found = commands_.find(name); found != commands_.end()) found->second();
   }

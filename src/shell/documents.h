@@ -1,7 +1,7 @@
-// The five documents, which share one TextBuffer. required: the state of a document lies in four places, which may
-// disagree. The buffer holds the current text. CurrentPath() is the path of this text. The tool tip of a tab holds the
-// path that a switch to the tab restores. The "*" in the title marks unsaved changes. Tabs count from 1. Texts are
-// Windows-1250.
+// The five documents, which share one TextBuffer. The current document is that of the selected tab. required: the state
+// of this document lies in four places, which may disagree. The buffer holds the text. CurrentPath() is the path of
+// this text. The tool tip of a tab holds the path that a switch to the tab restores. The "*" in the title marks unsaved
+// changes. Tabs count from 1. Texts are Windows-1250.
 #pragma once
 
 #include <array>
@@ -54,8 +54,8 @@ class Documents {
   [[nodiscard]] bool TitleIsMarked() const { return title_.marked; }
   [[nodiscard]] TextBuffer& Buffer() { return buffer_; }
   [[nodiscard]] const TextBuffer& Buffer() const { return buffer_; }
-  // What Remember stored for the selected tab. Null if the stored path differs from CurrentPath(). A document that
-  // never had a file has an empty KnownFile.
+  // What Remember stored for the selected tab. Null if the stored path differs from CurrentPath(). A document without a
+  // file has an empty KnownFile.
   [[nodiscard]] const KnownFile* CurrentFile() const;
   [[nodiscard]] SaveTarget& Target() { return target_; }
 
@@ -64,8 +64,8 @@ class Documents {
   [[nodiscard]] bool IsUnsaved(int tab) const;
   [[nodiscard]] int UnsavedCount() const;
 
-  // The first tab without text, path and unsaved changes, 0 if there is none. Searches the tabs after the selected tab,
-  // then from tab 1 up to the selected tab.
+  // The first tab that has no text, no path and no unsaved changes. 0 if there is none. Searches the tabs after the
+  // selected tab, then from tab 1 up to the selected tab.
   [[nodiscard]] int EmptyTab() const;
 
   // Empties the selected tab without a question.

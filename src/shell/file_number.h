@@ -1,7 +1,8 @@
-// File number 1 is a lock that the whole program shares. An operation on a document or on the program's own files holds
-// the number or checks that nobody holds it. required: the opening of a document whose name has no extension ends in an
-// error that leaves the number in use. Then every later operation fails until the program is restarted. The rescue, the
-// help and the conversions of files don't use the number.
+// File number 1 is a lock that the whole program shares. Whoever opens or saves a document, or uses one of the
+// program's own files, holds the number or checks that nobody holds it. required: the opening of a document whose name
+// has no extension ends in an error that leaves the number in use. Then documents and the program's own files can't be
+// opened or saved until the program is restarted. The rescue, the help and the conversions of files don't use the
+// number.
 #pragma once
 
 #include <cerrno>
@@ -41,7 +42,8 @@ class FileNumberGuard {
   FileNumber& number_;
 };
 
-// True if the file can be opened for reading. required: always false while the number is in use.
+// True if the path leads to a regular file that can be opened for reading. Ignores one separator at the end of the
+// path. required: always false while the number is in use.
 bool FileExists(const FileNumber& number, Platform& platform, const std::string& path);
 
 // The error for an existing file that can't be read.

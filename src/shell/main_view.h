@@ -54,7 +54,7 @@ class MainLook {
 
   // Sets the editor's font size to one of the six sizes of the menu. Any other size is replaced by 8.
   void SetEditorFontSize(int size);
-  std::function<void()> on_font_size;  // called after each SetEditorFontSize, for the font dialog
+  std::function<void()> on_font_size;  // called at the end of each SetEditorFontSize, for the dialog Visual
 
   // The check marks of bold and italic are set separately, by MarkBold and MarkItalic.
   virtual void SetEditorColors(Color fore, Color back) = 0;

@@ -1,6 +1,6 @@
 // The main menu as a table in display order, the buttons of the toolbar, and the groups of items that depend on
-// MenuState. Captions and tips are UTF-8; "&" marks an access key. The name of an item, or the key of a button, is also
-// the name of its command.
+// MenuState. Captions and tips are UTF-8. In captions "&" marks an access key, and "&&" is a plain "&". The name of an
+// item, or the key of a button, is also the name of its command.
 #pragma once
 
 #include <span>
@@ -22,7 +22,7 @@ std::span<const MenuItem> MenuItems();
 struct ToolbarButton {
   std::string_view key;
   std::string_view tip;
-  std::string_view picture;  // the name of the picture file
+  std::string_view picture;  // the name of the picture file without ".svg"
   bool separator_after = false;
 };
 std::span<const ToolbarButton> ToolbarButtons();

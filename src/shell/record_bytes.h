@@ -42,8 +42,8 @@ class RecordWriter {
   std::string bytes_;
 };
 
-// Puts a signature and a checksum before the body. SealedBody then detects incomplete, damaged and foreign files, but
-// no deliberate changes.
+// Puts a signature and a checksum before the body. So SealedBody detects incomplete, damaged and foreign files. The
+// checksum is no protection against deliberate changes.
 std::string Sealed(std::string_view signature, std::string_view body);
 // The body of sealed bytes. Nothing if the signature or the checksum is missing or wrong.
 std::optional<std::string_view> SealedBody(std::string_view signature, std::string_view bytes);

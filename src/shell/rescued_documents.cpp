@@ -22,7 +22,7 @@ RescueRecord DocumentsRescue::Unsaved() const {
   RescueRecord record{documents_.SelectedTab(), {}};
   for (int tab = 1; tab <= kTabCount; ++tab) {
     if (!documents_.IsUnsaved(tab)) continue;
-    // The slot of the current tab may still hold the path of the previously selected tab.
+    // The slot of the selected tab may still hold the path of the tab selected before.
     const std::string& path = tab == documents_.SelectedTab() ? documents_.CurrentPath() : documents_.Slot(tab).Path;
     record.texts.push_back({tab, path, documents_.TextOf(tab)});
   }

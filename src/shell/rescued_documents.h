@@ -22,7 +22,7 @@ class DocumentsRescue : public RescueContent {
   [[nodiscard]] RescueRecord Unsaved() const override;
   [[nodiscard]] std::string Readable(const std::vector<RescuedText>& texts) const override;
   // Puts each document into the tab from which it came. If this tab has a path or got another rescued document, uses
-  // the first tab without path, text and rescued document.
+  // the first tab that has no path, no text and no rescued document.
   std::vector<RescuedText> BringBack(const std::vector<RescueRecord>& records) override;
 
  private:

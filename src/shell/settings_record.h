@@ -12,12 +12,12 @@
 
 namespace pelmar {
 
-// The AutosnapDistance, in twips, that replaces a loaded 0, so also at the first start. A window snaps to an edge of
-// the screen that is nearer than AutosnapDistance.
+// The initial AutosnapDistance in twips. Also replaces a 0 from the settings file. A window snaps to an edge of the
+// screen that is nearer than AutosnapDistance.
 inline constexpr std::int32_t kDefaultAutosnapDistance = 240;
 
-// The stored fields of SettingsRecord, and the fields of DocSlot and TabFace named after properties of the tabs, begin
-// with a capital letter. All other fields of structs begin with a small letter.
+// The fields of SettingsRecord and TabFace, and three fields of DocSlot, begin with a capital letter. The fields of all
+// other structs begin with a small letter.
 struct SettingsRecord {
   std::int32_t Width = 0;  // outer size and place of the main window, twips
   std::int32_t Height = 0;
@@ -48,7 +48,7 @@ SettingsRecord ReadSettings(std::string_view bytes);
 // The record's bytes. A string longer than 65,535 bytes is cut.
 std::string SettingsBytes(const SettingsRecord& record);
 
-// Repairs a loaded record: a missing font name, equal colours of text and background.
+// Sets the font name if it is empty. Sets black on white if text and background have the same colour.
 void ApplySettingsDefaults(SettingsRecord& record);
 
 }  // namespace pelmar

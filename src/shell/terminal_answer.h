@@ -7,8 +7,8 @@
 
 namespace pelmar {
 
-// The text to print, UTF-8, if the only argument after the program's name is one of the two switches and no file has
-// this name. Otherwise nothing.
+// The text to print, UTF-8, if the only argument after the program's name is one of the two switches and no file or
+// folder has this name. Otherwise nothing.
 std::optional<std::string_view> TerminalAnswer(std::span<char* const> arguments);
 
 }  // namespace pelmar

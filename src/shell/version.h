@@ -1,5 +1,5 @@
 // The version as the program writes it. A macro, so that it can be joined with string literals. The forms o.ui and
-// start.ui, the help data/pelmar.txt, CMakeLists.txt and the metainfo in packaging/desktop repeat the number.
+// start.ui, the help data/pelmar.txt and CMakeLists.txt repeat the number.
 #pragma once
 
 #define PELMAR_VERSION "8.9.2.1b CZ"

@@ -1,5 +1,6 @@
-// The parts from which all subsystems make their windows and commands. Each function Add...Windows below is defined
-// beside the windows that it adds. The objects in ProgramParts outlive the windows made from them.
+// The parts from which all subsystems make their windows, and the commands that need windows. Each function
+// Add...Windows below is defined beside the windows that it adds. The objects in ProgramParts outlive the windows made
+// from them.
 #pragma once
 
 #include <functional>
@@ -24,7 +25,7 @@ struct FolderBrowser;
 // Functions that the windows of one subsystem offer to other windows and to Program. The function that registers a
 // window also sets the services that this window offers.
 struct WindowServices {
-  // Shows a file in the internal browser. An empty path does nothing.
+  // Shows a file in the internal browser. Does nothing for an empty path.
   std::function<void(const std::string& path)> show_in_browser;
   // Asks for a colour, with the given one as the initial choice.
   std::function<Color(Color)> pick_color;

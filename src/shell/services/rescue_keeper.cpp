@@ -84,8 +84,8 @@ void RescueKeeper::ReportFailure(int error) {
   if (std::exchange(failure_, error) != error && on_failure) on_failure(error);
 }
 
-// Call when this copy's rescue file holds the restored texts, or when no text needs the rescue any more. Writes a text
-// file with the refused texts and with those that got no place. If this succeeds, removes the old rescue files.
+// Call when this copy's rescue file holds the restored texts, or when no text needs the rescue any more. If texts were
+// refused or got no place, writes them into a text file. Then removes the old rescue files, unless this write failed.
 void RescueKeeper::RemoveOldFiles() {
   if (owed_.files.empty()) return;
   if (!owed_.rest.empty()) {

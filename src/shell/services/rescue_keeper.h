@@ -41,7 +41,8 @@ class RescueKeeper : public QObject {
   // file.
   void End();
 
-  // Called when the result of a write differs from the last result: with an errno, or with 0 when writing works again.
+  // Called with an errno when a write fails, unless the write before it failed with the same errno. Called with 0 at
+  // the first successful write after a failure, or at End after a failure.
   std::function<void(int error)> on_failure;
 
  private:

@@ -12,7 +12,7 @@ namespace pelmar {
 
 class WindowRegistry {
  public:
-  // Returns a new window, or null if a module that the window needs is not installed.
+  // Returns a new window, or null if a module that the window needs can't be loaded.
   using Maker = std::function<std::unique_ptr<QWidget>()>;
 
   // `make` must return a Window or null. The registry will own the Window.

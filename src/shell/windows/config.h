@@ -20,7 +20,8 @@ class Config : public FormDialog<Ui::Config> {
   // `store` writes the settings file.
   Config(SettingsRecord& settings, Platform& platform, std::function<void()> store, QWidget* parent);
 
-  // Fills the fields from the settings and waits until the dialog is closed.
+  // Fills in name and e-mail address from the settings, and empties the password fields. Then waits until the dialog is
+  // closed.
   void Run();
 
  private:

@@ -1,5 +1,5 @@
-// The about window `O`: version, user, notes, and the program's name. When the mouse moves over the window, the letters
-// of the name change their case.
+// The about window `O`: version, user, notes, and the program's name. When the mouse moves over the window, each letter
+// of the name becomes upper or lower case at random.
 #pragma once
 
 #include "platform/platform.h"

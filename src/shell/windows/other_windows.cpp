@@ -11,7 +11,7 @@ namespace {
 
 constexpr char kAway[] = "PelmarAway";
 
-// Describes a hidden window to assistive technology by its title alone. Qt would list all its content.
+// Describes a hidden window to assistive technology by its title alone. Qt would also list the widgets in the window.
 class EmptyWindow : public QAccessibleObject {
  public:
   using QAccessibleObject::QAccessibleObject;

@@ -1,6 +1,6 @@
-// The tabs of the five documents show and change the selected document. The strip of tabs is as wide as the window. The
-// text box covers the strip except at the right edge. Captions run downwards. A tab without a file shows its number.
-// The tab of an unsaved document shows a dot.
+// The tabs show which of the five documents is selected, and let the person select another. The strip of tabs is as
+// wide as the window. The text box covers the strip except at the right edge. Captions run downwards. A tab without a
+// file shows its number. The tab of an unsaved document shows a dot.
 #pragma once
 
 #include <QTabBar>

@@ -35,16 +35,17 @@ class MainWindow : public QMainWindow, public MainView {
 
   // Called before the window closes; false keeps it open.
   std::function<bool()> may_close;
-  std::function<void()> on_line_counting;  // called when a click in the status bar sets LineCounting
+  std::function<void()> on_line_counting;  // called when a click or double click in the status bar sets LineCounting
 
   void ShowMain();
   // Calls Refresh of the menu bar and of the toolbar. Call after all commands were added.
   void RefreshCommands();
   // Hides the text from the screen and from assistive technology, or shows the text again. For the lock.
   void HideText(bool hide);
-  // Sets the places of text box, tabs and bars.
+  // Sets the places of text box, tabs and bars, and the width of panel 4. If the window is too low for its bars, makes
+  // the window higher.
   void ApplyLayout();
-  // Gives the spare width to panel 4. Call on each tick of the status timer.
+  // Gives panel 4 the width from SparePanelWidth. Call on each tick of the status timer while the window is active.
   void WidenContentPanel();
 
   void SetPlace(const TwipsRect& place) override;

@@ -13,7 +13,7 @@
 namespace pelmar {
 namespace {
 
-// Parses "Ctrl+X", "Ctrl+F4" or "F1". Qt's parser would load the key names of every language.
+// Parses "Ctrl+X", "Ctrl+F4" or "F1". Qt's parser is slower and would delay the first window.
 QKeyCombination KeysOf(std::string_view shortcut) {
   constexpr std::string_view kControl = "Ctrl+";
   const bool control = shortcut.starts_with(kControl);
@@ -186,7 +186,7 @@ void MenuBar::CloseMenus() {
 
 // Handles a key in an open menu. Alt with a key means the access key of the open menu, otherwise of an enabled item in
 // it, otherwise of another menu. A letter or digit selects the next item that begins with it and has no access key.
-// False if the menu itself must handle the key: an arrow, an item's access key. Letters never reach the text box.
+// False if the menu itself must handle the key, for example an item's access key or an arrow.
 bool MenuBar::KeyInMenu(QMenu& menu, const QKeyEvent& key) {
   alt_alone_ = false;
   const bool alt = key.modifiers() == Qt::AltModifier;
@@ -198,7 +198,7 @@ bool MenuBar::KeyInMenu(QMenu& menu, const QKeyEvent& key) {
   if (alt) return activeAction() != nullptr && OpenByAccessKey(access);
   if (key.text().size() != 1 || !key.text().front().isLetterOrNumber()) return false;
   if (const QAction* next = NextByInitial(menu, key.text().front())) GoTo(menu, next);
-  return true;
+  return true;  // even if no item begins with the key, so that no letter reaches the text box
 }
 
 void MenuBar::SetEnabled(std::span<const std::string_view> names, bool enabled) {

@@ -61,8 +61,9 @@ class StatusStrip : public QStatusBar {
   void Clear();
   [[nodiscard]] bool Cleared() const { return cleared_; }
   void Show(const KeyStates& keys);
-  // Sets the text of a warning ("" removes it), then shows the most serious warning. A hint covers only panel 4 and is
-  // cut there. A warning covers as many panels as its text needs. Without `tip` the text is also the tool tip.
+  // Sets the text of a warning or hint ("" removes it). Then shows the most serious one that has a text. A hint covers
+  // only panel 4 and is cut there. A warning covers as many panels as its text needs. Without `tip` the text is also
+  // the tool tip.
   void Warn(Warning of, const QString& text, const QString& tip = {});
   // Shows the warning kUnkept. `error` is the errno of the failed write; 0 removes the warning.
   void WarnOfUnkept(int error);
