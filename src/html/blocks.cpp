@@ -39,7 +39,7 @@ Wrapping Font(const FontSpec& spec) {
   open += Attribute("FACE", spec.face);
   open += Attribute("COLOR", spec.color);
   open += ">";
-  // required: the sample has a blank at each end, but a selection gets none
+  // required: the sample has a blank at each end, but a selected text gets no blanks
   return {open, "</FONT>", std::string(" fontové písmo "_w)};
 }
 

@@ -29,7 +29,7 @@ struct TagRange {
 
 // The result of an analysis. After a failure, the result contains only what was read before the failure.
 struct TagAnalysis {
-  bool has_tag = false;           // a "<" at or before `sel_start`, and a ">" after the first "<" of the text
+  bool has_tag = false;           // the text has a "<" at or before `sel_start`, and a ">" after its first "<"
   std::optional<TagRange> range;  // the place of the tag in the text
   std::string name;
   AttributeLists attributes;
@@ -40,14 +40,14 @@ struct TagAnalysis {
 // the selection.
 TagAnalysis AnalyseTag(std::string_view text, std::size_t sel_start);
 
-// Splits the last tag that begins at or before the start of the selection, and selects this tag. Shows a message if
-// there is no tag or if a step fails.
+// Splits the last tag that begins at or before the start of the selection. Selects this tag if the result has a
+// `range`. Shows a message if there is no tag or if a step fails.
 TagAnalysis OpenTag(TextBuffer& buffer, Platform& platform);
 
 // One Attribute() for each name. A missing value is empty, and a value without a name is left out.
 std::string AttributesText(const AttributeLists& attributes);
 
-// <name attributes>
+// For example `<A HREF="text">`.
 std::string TagText(std::string_view name, const AttributeLists& attributes);
 
 // Inserts the attributes before the next ">". The search begins one character before the start of the selection. Shows

@@ -112,7 +112,8 @@ void FrmBrowser::ConnectToolBar() {
 
 void FrmBrowser::ConnectAddress() {
   QLineEdit* line = ui_->cboAddress->lineEdit();
-  // Otherwise Qt would complete typed text, and would load an entry of the list when the box loses focus.
+  // Otherwise Qt would complete typed text. When the box loses focus, Qt would load the typed address if the list
+  // contains this address.
   ui_->cboAddress->setCompleter(nullptr);
   disconnect(line, &QLineEdit::editingFinished, ui_->cboAddress, nullptr);
   ui_->cboAddress->installEventFilter(this);
@@ -226,7 +227,7 @@ void FrmBrowser::Stop_Click() {
   timTimer.stop();
   view_->Stop();
   ShowCaption();
-  // The stopped timer doesn't show the end of the load, which the engine may report later.
+  // The timer has stopped, so nothing else would show the end of the load.
   status_->setText(QStringLiteral("Idle"));
   ui_->Picture1->setEnabled(false);
 }

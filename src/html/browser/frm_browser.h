@@ -23,13 +23,15 @@ class FrmBrowser : public QMainWindow {
   Q_OBJECT
 
  public:
-  // `end_program` is called when the person ends a browser that is the whole program. It is empty in the editor.
+  // `end_program` is called when the person ends a browser that is the whole program. In the editor, `end_program` is
+  // empty.
   FrmBrowser(WebViewMaker& maker, Platform& platform, std::function<void()> end_program);
   ~FrmBrowser() override;
 
   // Loads a file and brings the window to the front.
   void ShowInBrowser(const std::string& path);
-  // Shows the window with its first page. Only for a browser that is the whole program.
+  // Shows the window and, unless StartingAddress is empty, loads this address. Only for a browser that is the whole
+  // program.
   void ShowAlone();
 
   QString StartingAddress;
@@ -47,7 +49,7 @@ class FrmBrowser : public QMainWindow {
   // Adds the address to the list of the address box, shows the address in the box and calls Load.
   void Visit(const QString& address);
   void NavigateToBox();
-  // Loads the address, or shows a message if the browser refuses such an address. Loads nothing if the text isn't an
+  // Loads the address. Shows a message instead if MayBeShown() refuses the address. Loads nothing if the text isn't an
   // address.
   void Load(const QString& address);
   void ShowCaption();
@@ -71,7 +73,7 @@ class FrmBrowser : public QMainWindow {
   QLabel* link_ = nullptr;  // the target of the link under the mouse
   QTimer timTimer{this};
   bool centred_ = false;
-  std::unique_ptr<WebView> view_;  // declared last, so deleted first: its page calls this window
+  std::unique_ptr<WebView> view_;  // declared last, so deleted before the members that its callbacks use
 };
 
 }  // namespace pelmar

@@ -9,8 +9,8 @@
 namespace pelmar {
 
 // In an address that begins with "file://", the characters "#" and "%" are plain if they are part of an existing file's
-// path. Other text is read as in any browser: a path, a host without "http://" or a full address. The URL is invalid if
-// the text is no address.
+// path. Other text may be an absolute path, a host without "http://" or a full address. The URL is invalid if the text
+// is no address.
 QUrl UrlOfAddress(const QString& address);
 
 QString AddressOfUrl(const QUrl& url);

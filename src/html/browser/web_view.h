@@ -1,5 +1,5 @@
 // The interface to the widget that shows web pages in the internal browser. The module pelmar-browser implements this
-// interface, and so do the tests. All calls come from the interface thread, on which the windows run.
+// interface, and so do the tests. All calls come from the thread of the windows.
 #pragma once
 
 #include <QString>
@@ -39,9 +39,9 @@ class WebView {
 
   std::function<void(qint64 progress, qint64 maximum)> on_progress;  // the maximum is 0 if nothing loads
   std::function<void()> on_change;                                   // the title changed or a load began
-  std::function<void(bool)>
-      on_withheld;  // true: a request of a local page to the net was blocked; false: a page is about to load
-  std::function<void()> on_finished;            // a load ended or failed, or a link led to another place in the page
+  std::function<void(bool)> on_withheld;  // true: a local page lacks a part, since its request to the net was blocked;
+                                          // false: a page is about to load
+  std::function<void()> on_finished;      // a load or the page's process ended, or the address changed without a load
   std::function<void(const QString&)> on_link;  // the address of the link under the mouse, or ""
 };
 

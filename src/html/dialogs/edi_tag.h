@@ -1,6 +1,6 @@
-// The fields of the dialog `EdiTag` show the tag that OpenTag() selects. Ok replaces this tag, or the selection if
-// there is no tag. Each opening creates a new dialog. The dialog blocks the main window, so that the tag stays selected
-// until Ok.
+// The fields of the dialog `EdiTag` show the tag that OpenTag() selects. Ok replaces this tag. If OpenTag() selects no
+// tag, Ok replaces the person's selection. Each opening creates a new dialog. The dialog blocks the main window, so
+// that the tag stays selected until Ok.
 #pragma once
 
 #include <functional>

@@ -19,7 +19,7 @@ Frame::Frame(TextBuffer& buffer, std::function<void(const std::string&)> show_in
   EnableWith(ui_->Check9,
              {ui_->letterR, ui_->VScroll12, ui_->letterG, ui_->VScroll11, ui_->letterB, ui_->VScroll10, ui_->Label8});
   EnableWith(ui_->Check3, {ui_->Label9, ui_->VScroll4, ui_->Label10, ui_->VScroll5, ui_->Label11, ui_->Label12});
-  // required: Label13 and Label4 begin at "0", which their bars never reach, and the tag gets the labels' text
+  // required: Label13 and Label4 begin at "0", which their bars never reach. The tag gets the labels' text
   ShowValue(ui_->VScroll1, ui_->Label13);
   ShowValue(ui_->VScroll2, ui_->Label4);
   ShowValue(ui_->VScroll4, ui_->Label11);

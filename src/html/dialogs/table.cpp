@@ -78,7 +78,7 @@ void Table::ConnectGroups() {
   EnableWith(ui_->Check7, {ui_->VScroll6, ui_->Label9});
   EnableWith(ui_->Check8, {ui_->Text2, ui_->Option18, ui_->Option19, ui_->Option20, ui_->Option21});
   LinkUnit(ui_->Option2, ui_->VScroll3, ui_->Label5);
-  // required: Label7 begins at " 1" although its bar is at 0, and the tag gets the label's text
+  // required: Label7 begins at " 1" although its bar is at 0. The tag gets the label's text
   ShowValue(ui_->VScroll4, ui_->Label7, BlankLed);
   ShowValue(ui_->VScroll5, ui_->Label8, BlankLed);
   ShowValue(ui_->VScroll6, ui_->Label9, BlankLed);

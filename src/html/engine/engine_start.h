@@ -1,4 +1,4 @@
-// The settings that the web engine reads once, when it starts. The engine starts at the first use of the browser.
+// The settings that the web engine reads when it starts. The engine starts at the first use of the browser.
 #pragma once
 
 #include <QByteArray>

@@ -10,7 +10,7 @@ namespace pelmar {
 
 class NetRefusal : public QWebEngineUrlRequestInterceptor {
  public:
-  // `on_withheld` is called for each blocked request to the net for a part that a reader of the page would miss.
+  // `on_withheld` is called for each blocked request to the net, if a reader of the page would miss the requested part.
   NetRefusal(bool allows_net, std::function<void()> on_withheld, QObject* parent)
       : QWebEngineUrlRequestInterceptor(parent), allows_net_(allows_net), on_withheld_(std::move(on_withheld)) {}
   void interceptRequest(QWebEngineUrlRequestInfo& request) override;

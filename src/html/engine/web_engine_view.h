@@ -45,8 +45,8 @@ class WebEngineView : public QObject, public WebView {
   void RunInPage(const std::function<void()>& step);
   // Loads a place of the history in a new page. The process of the present page must have ended.
   void LoadInNewPage(qsizetype place, PageSide side);
-  // Puts the addresses that the present page has opened into places_, and sets place_ to the shown address. Drops the
-  // later places if the page has opened more than one address.
+  // Puts the addresses that the present page has opened into places_, and the index of the shown address into place_.
+  // Drops the later places if the page has opened more than one address.
   void GatherPlaces();
   // Asks the page for an answer, unless the page has no process or runs no scripts. If the page neither answers nor
   // asks a question within three seconds, ends the page's process and runs the step.

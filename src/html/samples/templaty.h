@@ -32,7 +32,7 @@ std::string Html3(const SettingsRecord& profile);  // page with previous and nex
 std::string Html4(const SettingsRecord& profile);  // page laid out by tables
 std::string Html5(const SettingsRecord& profile);  // page with a script
 std::string Ini1(const SettingsRecord& profile);   // settings of a CAD program
-std::string Ini2(const SettingsRecord& profile);   // settings of a mail program's tool bars
+std::string Ini2(const SettingsRecord& profile);   // settings of a mail program's toolbars
 std::string Inf1(const SettingsRecord& profile);   // CD autorun file
 std::string Bat1(const SettingsRecord& profile);   // DOS start-up batch
 std::string Bat2(const SettingsRecord& profile);   // clean-up batch
