@@ -51,7 +51,8 @@ class Screen:
         screen = "%dx%dx24" % SIZE
         number = self.serve("Xvfb", "-displayfd", "1", "-screen", "0", screen, "-nolisten", "tcp", "-noreset")
         self.env["DISPLAY"] = ":" + number
-        # The first key of an X server makes openbox grab its shortcuts anew. A shortcut pressed meanwhile is lost.
+        # The first key press on an X server would make a running openbox grab its shortcuts anew. A shortcut pressed
+        # meanwhile would be lost. So the first key is pressed before openbox starts.
         subprocess.run(["xdotool", "key", "shift"], env=self.env, check=True)
         self.serve("openbox", "--startup", "echo running")
 

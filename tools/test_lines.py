@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Compares the lines of tests with the lines of code in each folder: test_lines.py [ROOT]
 
-Code: .h and .cpp files of src/. Tests: all files of tests/ except pictures.
+Code: .h and .cpp files of src/. Tests: all files of tests/ except pictures and compiled Python.
 Exits with status 1 if the tests have more than LIMIT percent of the code's lines.
 """
 import collections

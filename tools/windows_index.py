@@ -2,7 +2,8 @@
 """Checks docs/WINDOWS.md, the index of the windows: windows_index.py [--write]
 
 A person writes the first column (the files) and the fourth (the commands). The title, the object's name and the menu
-path follow from the form and from src/shell/menu_table.cpp: --write fills them in and adds rows for new forms.
+path come from the form, its .cpp file and src/shell/menu_table.cpp. --write fills in these three columns, and adds
+whole rows for new forms.
 """
 import pathlib
 import re
@@ -17,7 +18,7 @@ FILES = re.compile(r"`src/([\w/]+)\.\{([\w,]+)\}`")
 
 
 def windows_of_forms():
-    """Maps the path of each form that is a window, below src/, to its class, object name and title.
+    """Maps each form that is a window, by its path below src/ without ".ui", to its class, object name and title.
 
     The constructor sets an object name with accents, because Qt Designer can't store it."""
     found = {}

@@ -21,7 +21,7 @@ struct Analysis {
 Analysis AnalyseText(std::string_view text);
 
 // The scale of the graph, in which y points down. Bars stand at y = kGraphFull, just below the visible part. A bar for
-// the largest count reaches y = 0.
+// the largest count, without ignored blanks, reaches y = 0.
 inline constexpr int kGraphWidth = 508;
 inline constexpr int kGraphHeight = 196;
 inline constexpr int kGraphFull = 200;

@@ -9,8 +9,8 @@ namespace {
 
 constexpr double kDegree = 3.14159265358979 / 180;  // in radians
 
-// The value of a number from the display, nothing if it can't be read. A comma alone, which DropFirst may leave, counts
-// as 0.
+// The value of a number from the display, nothing if it can't be read. "," and "-," count as 0. They can arise after
+// DropFirst or DropLast has removed all digits.
 std::optional<double> Read(std::string_view number) {
   const std::string_view unsigned_part = number.substr(number.starts_with('-') ? 1 : 0);
   return unsigned_part == "," ? 0.0 : ParseNumber(number);

@@ -30,7 +30,7 @@ class Calculator {
   void DropFirst();
   void Clear() { shown = "0"; }  // the pending operation stays
 
-  // Makes one of + - * / L ^ the pending operation, and makes the number the first operand.
+  // Makes one of + - * / L ^ the pending operation, makes the number the first operand and then shows 0.
   void Operator(char symbol);
   // Computes and ends the pending operation, if there is one. On failure reports the error and keeps the number.
   void Evaluate();

@@ -1,4 +1,4 @@
-// The checkpoint copies the document into the open notes page, and back.
+// The checkpoint copies the document into the selected notes page, and back.
 #pragma once
 
 #include "platform/platform.h"

@@ -104,7 +104,7 @@ std::optional<std::int32_t> Converter::FromHex() {
   decimal = std::to_string(*value);
   octal = ToOct(*value);
   Cut();
-  // required: the Roman form uses the decimal field, of which Cut has kept only 9 characters
+  // required: the Roman form uses the decimal field, of which Cut keeps at most 9 characters
   return Whole(LeadingNumber(decimal));
 }
 

@@ -49,8 +49,8 @@ struct MergedNotes {
 };
 
 // Applies the changes between `stored` and `now` to `file`, the present content of the file. If the file has a
-// different change of the same page, the page keeps the text of the file, and an empty page gets the text of `now`. If
-// no page is empty, the text of `now` is appended to the text of the file, and the page may become too long.
+// different change of the same page, the page keeps the text of the file. The text of `now`, unless empty, goes to an
+// empty page. If no page is empty, this text is appended to the text of the file, and the page may become too long.
 MergedNotes MergeNotes(const NotesRecord& stored, const NotesRecord& now, const NotesRecord& file);
 
 // The pages of `now` that differ from `stored`. `page_on_show` is the number of the selected page.

@@ -35,7 +35,7 @@ TwipsRect PlaceNotes(const NotesSurroundings& around);
 class NotesTimer {
  public:
   [[nodiscard]] int Interval() const { return quiet_ticks_ < kTicksUntilQuiet ? kTick : kQuietTick; }  // ms
-  // Makes the timer fast again. Call when a window has moved or the button "Dock" was clicked.
+  // Makes the timer fast again. Call when the place, size or state of a window has changed, or "Dock" was clicked.
   void Wake() { quiet_ticks_ = 0; }
   // Call in place of Tick while the window is minimised or maximised.
   void Rest() { ++quiet_ticks_; }

@@ -1,4 +1,5 @@
-// Opens and saves the editor's document, and adds the file commands that have no window of their own.
+// Opens and saves the editor's document. Adds the commands of Opener and Saver, except those that show the dialog
+// Otevři or Ulož.
 #pragma once
 
 #include "files/open.h"

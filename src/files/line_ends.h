@@ -37,7 +37,6 @@ class ToCrLf : public FileRewriter {
   std::uint64_t result_length_ = 0;
 };
 
-// The title of the messages of a conversion.
 inline constexpr std::string_view kConversionTitle = "Konverze UNIX <-> DOS";
 
 // Whether the target is the source file. If so, a message tells the person.

@@ -13,7 +13,7 @@ namespace pelmar {
 // The notice for the status bar, UTF-8. "" if the file is unchanged, or if the document was neither opened nor saved.
 std::string_view OutsideNotice(const Documents& documents, Platform& platform);
 
-// True if the text of the current document was UTF-8 when the document was opened, or at a save since.
+// True if LooksLikeUtf8 was true for the text of the current document when it was opened, or at a save since.
 bool CurrentWasUtf8(const Documents& documents);
 
 }  // namespace pelmar

@@ -20,9 +20,9 @@ struct PrintedPiece {
   bool operator==(const PrintedPiece&) const = default;
 };
 
-// Puts words, separated by blanks, on lines of `page_width`. `end_of` returns the right end of a text without line
-// breaks. The pieces point into `text`. required: a word that reaches into the right margin, as wide as eight "Z",
-// moves to a new line, even from an empty line. Text after a line break never moves. No word is broken.
+// Puts words, separated by blanks, on lines of `page_width`, and breaks no word. `end_of` returns the right end of a
+// text without line breaks. The pieces point into `text`. required: a word that reaches into the right margin, as wide
+// as eight "Z", moves to a new line, even from an empty line. In a word with line breaks, only the first part can move.
 std::vector<PrintedPiece> LayOutForPrint(std::string_view text, double page_width,
                                          const std::function<double(double x, std::string_view text)>& end_of);
 
@@ -30,8 +30,8 @@ std::vector<PrintedPiece> LayOutForPrint(std::string_view text, double page_widt
 std::string PrintName(std::string_view path);
 
 // Prints the text. If there is a selection, first asks whether to print only the selection, and prints nothing if the
-// person closes the question. Without a printer, writes a PDF file, and a message shows the path or the error. Throws
-// RuntimeError if a printer fails.
+// person closes the question. If no printer can be used, writes a PDF file. Then a message shows the path, and the
+// error if the file can't be written. Throws RuntimeError if a printer fails.
 void PrintDocument(Editor& editor, const EditorLook& look);
 
 void AddPrintCommands(Editor& editor, MainLook& look);

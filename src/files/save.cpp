@@ -64,7 +64,7 @@ void Saver::InsertFromFile() {
   try {
     const FileNumberGuard number(file_number_);
     const FileBytes file = platform_.ReadFile(*path, std::nullopt);
-    // required: an empty file has no field, so the command ends in silence
+    // required: for an empty or unreadable file the command ends in silence
     if (file.error != 0 || file.bytes.empty()) return;
     documents_.Buffer().ReplaceSelection(FirstField(file.bytes));
     recent_.Remember(*path);

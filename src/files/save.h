@@ -34,12 +34,13 @@ class Saver {
   // Asks, and after Yes calls SaveToPath with the current path.
   void SaveFast();
 
-  // Shows the system's open dialog and replaces the selection by the file's first field.
+  // Shows the system's open dialog and replaces the selection by the file's first field. Changes nothing if the file is
+  // empty or can't be read, or if file number 1 is open.
   void InsertFromFile();
 
  private:
   // Asks before a text in two encodings is written over a UTF-8 file. False if the answer isn't Yes. After Yes, doesn't
-  // ask about the same file again until a save succeeds or the person answers Yes for another file.
+  // ask about the same file again until SaveToPath writes a file or the person answers Yes for another file.
   bool MayMixEncodings(const std::string& path);
   bool MayWrite(const std::string& path);
   WriteOutcome Write(const std::string& path, std::string_view text);
@@ -49,7 +50,7 @@ class Saver {
   RecentFiles& recent_;
   Platform& platform_;
   FileNumber& file_number_;
-  std::string agreed_to_mix_;  // the file of the last Yes in MayMixEncodings, "" after a save
+  std::string agreed_to_mix_;  // the file of the last Yes in MayMixEncodings, "" after SaveToPath wrote a file
 };
 
 // The question before an existing file is overwritten, UTF-8.

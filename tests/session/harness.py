@@ -120,7 +120,8 @@ class EditorCase(unittest.TestCase):
         self.work("ctrl+u [Uložit] Return [Soubor] Return / /")
 
     def end(self, window, answer="Return"):
-        """Closes the program by its window and presses `answer` in its question, if one is expected."""
+        """Closes the window, presses the key `answer` in the program's question, and waits until the program ends.
+        An empty `answer` expects no question."""
         self.command("wmctrl", "-i", "-c", window.id)
         if answer:
             self.work(f"[Konec] {answer}")

@@ -1,4 +1,4 @@
-// Finds the controls of a window by their names, and operates them.
+// Finds the controls of a window by their names, and runs code while a modal dialog is open.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -19,7 +19,7 @@ Type* Find(const QWidget& window, const char* name) {
 // Runs `act` in the next event loop. Call this before a function that waits in a modal dialog.
 inline void Inside(std::function<void()> act) { QTimer::singleShot(0, qApp, std::move(act)); }
 
-// Like Inside, with the open modal dialog as argument. A dialog of another type is a failure.
+// Like Inside, with the open modal dialog as argument. If no dialog of this type is open, the test fails.
 template <class Dialog>
 void InDialog(std::function<void(Dialog&)> act) {
   Inside([act = std::move(act)] {

@@ -31,7 +31,7 @@ inline DocumentState StateOf(const Documents& documents) {
           documents.UnsavedCount()};
 }
 
-// The state of a document that was just opened or saved.
+// The state after a document was opened or saved, while no other document is unsaved.
 inline DocumentState SavedAt(const std::string& path) {
   return {'(' + path + ')', path.substr(path.rfind('/') + 1), path, path, false, 0};
 }

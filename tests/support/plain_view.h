@@ -1,4 +1,5 @@
-// A main window without a screen. It stores the values that are set, and lists the calls in order.
+// A main window without a screen. It stores the place, the state and the look that are set. `calls` lists the calls
+// that change something, in order, except SetOuterSize, MoveTo and NextAlignment.
 #pragma once
 
 #include <cmath>

@@ -47,7 +47,7 @@ struct ProgramTest : testing::Test {
     throw std::logic_error("no window was opened by " + command);
   }
 
-  // A visible window or dialog other than the main window, or null.
+  // A visible window or dialog other than the main window. Null if there is none.
   [[nodiscard]] QWidget* VisibleWindow() const {
     for (QWidget* window : QApplication::topLevelWidgets()) {
       const bool is_window = window->windowType() == Qt::Window || window->windowType() == Qt::Dialog;
@@ -56,8 +56,8 @@ struct ProgramTest : testing::Test {
     return nullptr;
   }
 
-  // Opens the window of the command, sets the document to `before` and runs the steps in the window. The last step
-  // presses the button that writes into the document. Expects the document `after`. A failure names the caller's line.
+  // Opens the window of the command, sets the document to `before` and runs the steps in the window. Expects the
+  // document `after`. A failure names the caller's line.
   void ExpectDocument(const std::string& command, const char* steps, const char* before, const std::string& after,
                       const char* file = __builtin_FILE(), int line = __builtin_LINE()) {
     const QWidget& window = Open(command);

@@ -1,4 +1,4 @@
-// Random texts and draws for comparisons with a second implementation. Equal seeds give equal results on every machine.
+// Random texts and draws. Equal seeds give equal results on every machine.
 #pragma once
 
 #include <cstddef>

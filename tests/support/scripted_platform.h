@@ -1,7 +1,7 @@
 // A platform without a screen. It lists the calls that a user or the system would notice, and takes its answers from
 // queues that the test fills. A question throws std::logic_error if its queue is empty, so that no test passes by an
 // answer that it didn't give. Files are in memory; a path in `files` that ends in "/" is a folder. A lock allows
-// WritePrivateFile in another thread while this one reads a file or adds a call.
+// WritePrivateFile in another thread while the thread of the test reads a file or adds a call.
 #pragma once
 
 #include <algorithm>
@@ -159,7 +159,7 @@ class ScriptedPlatform : public Platform, public Paper {
     return Take(draws, "a draw");
   }
   void ReseedRandom() override { ++reseeds; }
-  // Sorts by the codes of the upper-case letters. Only the real platform has the Czech order.
+  // Sorts by the codes of the texts in upper case. Only the real platform has the Czech order.
   std::vector<std::size_t> SortedOrder(const std::vector<std::string_view>& texts) override {
     std::vector<std::size_t> order(texts.size());
     std::iota(order.begin(), order.end(), std::size_t{0});

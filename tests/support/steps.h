@@ -17,7 +17,7 @@
 //   List1=a|>b     the rows of a list, ">" before a selected one
 //   Picture1=#ff0000 the colour of a swatch
 //   Command1=(&Ok) the control is disabled
-// In session tests a line of steps has keys; see `work` in session/harness.py.
+// Session tests have other steps, such as keys and clicks; see `work` in session/harness.py.
 #pragma once
 
 #include <QAbstractItemView>

@@ -39,7 +39,7 @@ class TempFolder {
   std::string path_;
 };
 
-// The bytes of a file, or "<missing>" if the file doesn't exist.
+// The bytes of a file, or "<missing>" if the file can't be opened.
 inline std::string Content(const std::string& path) {
   std::ifstream file(path, std::ios::binary);
   if (!file) return "<missing>";

@@ -22,7 +22,7 @@ CodeGrid::~CodeGrid() = default;
 
 void CodeGrid::PaintCell(QPainter& painter, const QRect& cell, int row, int column, bool marked) {
   const int code = CodeAt(row, column);
-  if (code == 0) return;  // required: code 0 is never drawn
+  if (code == 0) return;  // required: the cell of code 0 stays empty
   if (!glyphs_) glyphs_ = std::make_unique<GlyphTable>(font());
   const char character = CharOf(code);
   const int above = (cell.height() - glyphs_->RowHeight()) / 2;  // whole pixels keep the character sharp

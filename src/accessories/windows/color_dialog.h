@@ -19,8 +19,8 @@ class ColorDialog : public FormDialog<Ui::ColorDialog> {
  public:
   ColorDialog(Platform& platform, QWidget* parent);
 
-  // Shows the dialog and returns the colour that the person accepts with Ok. required: Storno returns the colour of the
-  // last Ok in this run, or black if there was no Ok.
+  // Shows the dialog and returns the colour that the person accepts with Ok. required: if the person closes the dialog
+  // without Ok, returns the colour of the last Ok in this run, or black if there was no Ok.
   Color PickColor(Color color);
 
  private:

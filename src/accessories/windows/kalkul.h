@@ -43,7 +43,7 @@ class Kalkul : public FormDialog<Ui::Kalkul> {
   void OnClick(QPushButton* key, std::function<void()> act);
   void Command20_Click();
   // Hides the converter. If the calculator is the whole program, asks whether to end the program, and after Yes ends
-  // the program. After No, shows this window again and returns false.
+  // the program. Without a Yes, shows this window again and returns false.
   bool ConfirmClose();
   Preview PhysicalKey(const QKeyEvent& event);
   [[nodiscard]] QPushButton* KeyOf(char character) const;

@@ -1,6 +1,6 @@
-// Gives a window the key presses and the composed letters before the focused control gets them. Only shortcuts and the
-// keys of single fields come earlier (see KeyTurn). Construct the preview at the end of the window's constructor, when
-// the window has all its controls.
+// Gives a window the key presses and the composed letters before the focused control gets them. Shortcuts and the keys
+// of single controls come earlier (see KeyTurn). Construct the preview at the end of the window's constructor, when the
+// window has all its controls.
 #pragma once
 
 #include <QObject>

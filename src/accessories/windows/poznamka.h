@@ -1,6 +1,6 @@
 // `Poznamka`: five notes pages, always on top, docked to the main window or snapped to the screen's edges. The notes
-// are saved only when the person closes the window. Until then a rescue file keeps the changes. After a crash,
-// the next opening of the notes offers the rescued changes.
+// are saved only when the person closes the window. Until then a rescue file keeps the changes. If the program ends
+// first, by a crash or with the window still open, the next opening of the notes offers these changes.
 #pragma once
 
 #include <QTimer>
@@ -42,9 +42,9 @@ class Poznamka : public QWidget {
   ~Poznamka() override;
 
   void Present();
-  // Offers the notes that earlier runs left unsaved, if there are any. Asks about the same notes only once.
+  // Offers the notes that earlier runs left unsaved, if there are any. Asks only once in a run about the same notes.
   void OfferRescued() { keeper_.Offer(); }
-  // The text of the visible notes page.
+  // The text of the selected notes page.
   [[nodiscard]] TextBuffer& Buffer();
   // Writes unsaved notes to the rescue file now. Returns the notice for the person, or "" if all notes were saved.
   std::string KeepNow() { return keeper_.NoticeOf(keeper_.KeepNow()); }
@@ -78,13 +78,13 @@ class Poznamka : public QWidget {
   bool Unload();
   bool RefuseOverlong(const NotesRecord& record);
   void ShowPage(int page);
-  // The record with the present text of the visible notes page.
+  // record_ with the present text of the selected notes page.
   [[nodiscard]] NotesRecord Now() const;
   [[nodiscard]] NotesSurroundings Measures() const;
 
   Surroundings around_;
   std::unique_ptr<Ui::Poznamka> ui_;
-  NotesRecord record_;  // the notes at the last change of pages; Now() has the present text
+  NotesRecord record_;  // the notes; the text of page_ may be out of date, see Now()
   NotesRecord stored_;  // the contents of the file, as far as this window knows
   int page_ = 1;
   std::array<std::size_t, kNotePages> carets_{};  // the caret's place in each notes page

@@ -18,7 +18,7 @@ void DirSetup::Command1_Click() {
     FolderList* const folders = browser().folders;
     const bool unchanged = folders->Path() == ui_->Dir1->Path();
     folders->SetPath(ui_->Dir1->Path());
-    // SetPath emits no signal if the folder is unchanged, but the dialog must react to the choice too.
+    // SetPath emits no signal if the folder is unchanged, but the dialog must react in this case too.
     if (unchanged) Q_EMIT folders->PathChanged(folders->Path());
   }
   hide();

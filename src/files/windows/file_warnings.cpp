@@ -22,8 +22,8 @@ QString TooLong(std::size_t size) {
 
 }  // namespace
 
-// Looks for a change of the file on disk only when a tab is selected, and when the main window gains or loses the
-// keyboard focus, for example to a message box. Never looks while the person types.
+// Looks for a change of the file on disk only when a tab is selected or the main window gains or loses the keyboard
+// focus, so never while the person types.
 FileWarnings::FileWarnings(MainWindow& window, Editor& editor)
     : QObject(&window),
       window_(window),

@@ -1,5 +1,6 @@
 // The program's own dialog `Ulož` saves the document and shows the target path while the person types. Each open, each
-// save and each switch to a tab with a path fills the dialog's fields. A name without an extension isn't filled in.
+// save and each switch to another tab fills the dialog's fields, if the document's name has an extension. An open or a
+// save of a name without an extension fills in only the folder.
 #pragma once
 
 #include "files/save.h"
