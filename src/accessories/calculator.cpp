@@ -65,13 +65,13 @@ void Calculator::DropFirst() {
 
 void Calculator::Operator(char symbol) {
   operation = symbol;
-  operand = shown;
+  first_operand = shown;
   shown = "0";
 }
 
 void Calculator::Evaluate() {
   if (operation.empty()) return;
-  const std::optional<double> a = Read(operand);
+  const std::optional<double> a = Read(first_operand);
   const std::optional<double> b = Read(shown);
   if (a && b && operation == "/" && *b == 0)
     platform_.Message(MessageType::kOk, "Není možno dělit nulou", "Dělení");
@@ -82,7 +82,7 @@ void Calculator::Evaluate() {
 
 void Calculator::EndOperation() {
   operation.clear();
-  operand.clear();
+  first_operand.clear();
 }
 
 bool Calculator::Put(double result) {

@@ -120,7 +120,7 @@ void Utf8Survey::Note(char32_t character) {
   const bool mark = character == kByteOrderMark && place_.byte == 1;
   if (!mark && IsOutsidePage(character) && outside++ == 0) {
     first_outside = place_;
-    first_character = character;
+    first_outside_character = character;
   }
   place_.byte = read_ + 1;
   const bool ends_line = character == '\r' || (character == '\n' && !after_cr_);
@@ -169,8 +169,9 @@ void ConvertToPage(Platform& platform, const std::string& path) {
                   "Soubor " + path + " není v UTF-8:\r\n" + Described(*survey.malformed) + ".\r\nNic nebylo zapsáno.");
   if (survey.outside > 0 &&
       !Agreed(platform, "Soubor " + path + " obsahuje znaky, které ve Windows-1250 nejsou, celkem " +
-                            std::to_string(survey.outside) + ".\r\nPrvní je " + Described(survey.first_character) +
-                            ": " + Described(survey.first_outside) + ".\r\n\r\nZapsat místo nich \"?\" ?"))
+                            std::to_string(survey.outside) + ".\r\nPrvní je " +
+                            Described(survey.first_outside_character) + ": " + Described(survey.first_outside) +
+                            ".\r\n\r\nZapsat místo nich \"?\" ?"))
     return;
   if (!MayWrite(platform, path, target)) return;
   Utf8ToPage rewriter;

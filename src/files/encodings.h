@@ -39,7 +39,7 @@ class Utf8Survey {
   bool beyond_ascii = false;  // the file has a character of several bytes
   std::uint64_t outside = 0;  // number of characters missing in Windows-1250
   FilePlace first_outside;
-  char32_t first_character = 0;
+  char32_t first_outside_character = 0;
 
  private:
   void Note(char32_t character);

@@ -17,7 +17,7 @@ void Saver::SaveToPath(const std::string& path) {
     const std::string& text = documents_.Buffer().Text();
     const WriteOutcome outcome = Write(path, text);
     if (outcome.error != 0) return ReportError(path, outcome);
-    agreed_to_mix_.clear();
+    mixing_agreed_for_.clear();
     documents_.Remember({path, platform_.Stamp(path), CurrentWasUtf8(documents_) || LooksLikeUtf8(text)});
     documents_.MakeCurrent(path);
     recent_.Remember(path);
@@ -73,10 +73,10 @@ void Saver::InsertFromFile() {
 }
 
 bool Saver::MayMixEncodings(const std::string& path) {
-  if (path == agreed_to_mix_ || !MixesEncodings(documents_.Buffer().Text())) return true;
+  if (path == mixing_agreed_for_ || !MixesEncodings(documents_.Buffer().Text())) return true;
   if (!LooksLikeUtf8(platform_.ReadFile(path, std::nullopt).bytes)) return true;
   if (platform_.Message(MessageType::kYesNoStop, MixQuestion(path), "Soubor") != Answer::kYes) return false;
-  agreed_to_mix_ = path;
+  mixing_agreed_for_ = path;
   return true;
 }
 

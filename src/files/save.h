@@ -50,7 +50,7 @@ class Saver {
   RecentFiles& recent_;
   Platform& platform_;
   FileNumber& file_number_;
-  std::string agreed_to_mix_;  // the file of the last Yes in MayMixEncodings, "" after SaveToPath wrote a file
+  std::string mixing_agreed_for_;  // the file of the last Yes in MayMixEncodings, "" after SaveToPath wrote a file
 };
 
 // The question before an existing file is overwritten, UTF-8.

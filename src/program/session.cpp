@@ -37,7 +37,7 @@ void Session::Load() {
   files_.recent.changed.Notify();
   view_.SetPlace({settings_.Left, settings_.Top, settings_.Width, settings_.Height});
   if (settings_.WindowState < 0 || settings_.WindowState > 2) settings_.WindowState = 0;
-  view_.SetWindowState(WindowMode{settings_.WindowState});
+  view_.SetStartState(WindowMode{settings_.WindowState});
   ApplyLook();
   if (settings_.UserEmail.empty() || settings_.UserName.empty()) callbacks_.show_config();
   if (settings_.AutosnapDistance == 0) settings_.AutosnapDistance = kDefaultAutosnapDistance;

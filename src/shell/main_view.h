@@ -35,7 +35,7 @@ class MainPlace {
   // A width or height below 1 is replaced by the initial width or height.
   virtual void SetPlace(const TwipsRect& place) = 0;
   [[nodiscard]] virtual TwipsRect Place() const = 0;
-  virtual void SetWindowState(WindowMode state) = 0;
+  virtual void SetStartState(WindowMode state) = 0;
   [[nodiscard]] virtual WindowMode WindowState() const = 0;
   virtual void SetAlwaysOnTop(bool on_top) = 0;
 

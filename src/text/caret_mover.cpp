@@ -15,27 +15,27 @@ void CaretMover::Go(TextBuffer& buffer, CaretMove move, bool select, std::size_t
   const bool aims =
       move == CaretMove::kUp || move == CaretMove::kDown || move == CaretMove::kPageUp || move == CaretMove::kPageDown;
   const TextPlace place = Target(buffer, move, select, page_rows);
-  const std::int64_t aim = aim_;
+  const std::int64_t aim = aim_x_;
   Put(buffer, place, select);
   if (!aims) return;
-  aim_ = aim;
-  aimed_from_ = place.pos;
+  aim_x_ = aim;
+  aim_valid_at_ = place.pos;
 }
 
 void CaretMover::Put(TextBuffer& buffer, TextPlace place, bool select) {
-  aimed_from_.reset();
-  at_row_end_.reset();
-  if (place.at_row_end) at_row_end_ = place.pos;
+  aim_valid_at_.reset();
+  row_end_caret_.reset();
+  if (place.at_row_end) row_end_caret_ = place.pos;
   buffer.Select(select ? buffer.Anchor() : place.pos, place.pos);
 }
 
 std::size_t CaretMover::Row(const TextBuffer& buffer) const {
-  return layout_->RowOf(buffer.Caret(), at_row_end_ == buffer.Caret());
+  return layout_->RowOf(buffer.Caret(), row_end_caret_ == buffer.Caret());
 }
 
 void CaretMover::Forget() {
-  at_row_end_.reset();
-  aimed_from_.reset();
+  row_end_caret_.reset();
+  aim_valid_at_.reset();
 }
 
 TextPlace CaretMover::Target(const TextBuffer& buffer, CaretMove move, bool select, std::size_t page_rows) {
@@ -75,8 +75,8 @@ TextPlace CaretMover::Target(const TextBuffer& buffer, CaretMove move, bool sele
 
 TextPlace CaretMover::InRow(const TextBuffer& buffer, std::size_t row) {
   const std::size_t from = Row(buffer);
-  if (aimed_from_ != buffer.Caret()) aim_ = layout_->RowLeft(from) + layout_->XOf(from, buffer.Caret());
-  return PlaceInRow(*layout_, row, aim_);
+  if (aim_valid_at_ != buffer.Caret()) aim_x_ = layout_->RowLeft(from) + layout_->XOf(from, buffer.Caret());
+  return PlaceInRow(*layout_, row, aim_x_);
 }
 
 TextPlace CaretMover::RowEndPlace(std::size_t row) const { return {layout_->RowEnd(row), !layout_->EndsLine(row)}; }

@@ -52,9 +52,9 @@ class CaretMover {
   [[nodiscard]] TextPlace RowEndPlace(std::size_t row) const;
 
   const TextLayout* layout_;
-  std::optional<std::size_t> at_row_end_;  // the caret position that is shown at the end of a row
-  std::optional<std::size_t> aimed_from_;  // the caret position for which `aim_` is valid
-  std::int64_t aim_ = 0;
+  std::optional<std::size_t> row_end_caret_;  // the caret position that is shown at the end of a row
+  std::optional<std::size_t> aim_valid_at_;   // the caret position for which `aim_x_` is valid
+  std::int64_t aim_x_ = 0;
 };
 
 // Of the places in this row where the caret can stand, the one nearest to `x`. `x` counts from the left edge of the

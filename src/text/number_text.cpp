@@ -50,7 +50,7 @@ std::size_t NumberLength(std::string_view text, char mark) {
 
 // The value of the number at the start of the text. The decimal mark is the point. 0 if the text starts with no number.
 // A number that no double can hold is 0 if its exponent is negative, otherwise nothing.
-std::optional<double> ValueOf(std::string_view number) {
+std::optional<double> LeadingValue(std::string_view number) {
   if (number.starts_with('+')) number.remove_prefix(1);
   double value = 0;
   const std::errc error = std::from_chars(number.data(), number.data() + number.size(), value).ec;
@@ -84,11 +84,11 @@ std::string FixedText(double number, int decimals) {
 double LeadingNumber(std::string_view text) {
   text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
   text = text.substr(0, NumberLength(text, '.'));
-  if (const auto value = ValueOf(text)) return *value;
+  if (const auto value = LeadingValue(text)) return *value;
   // No double can hold the number. Take the longest part at its start that fits.
   std::size_t length = 0;
-  while (ValueOf(text.substr(0, length + 1))) ++length;
-  return ValueOf(text.substr(0, length)).value_or(0);
+  while (LeadingValue(text.substr(0, length + 1))) ++length;
+  return LeadingValue(text.substr(0, length)).value_or(0);
 }
 
 std::optional<double> ParseNumber(std::string_view text) {
@@ -98,7 +98,7 @@ std::optional<double> ParseNumber(std::string_view text) {
   if (NumberLength(text, ',') != text.size()) return std::nullopt;
   std::string with_point(text);
   std::ranges::replace(with_point, ',', '.');
-  return ValueOf(with_point);
+  return LeadingValue(with_point);
 }
 
 }  // namespace pelmar

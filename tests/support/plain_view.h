@@ -20,7 +20,7 @@ class PlainView : public MainView {
 
   void SetPlace(const TwipsRect& p) override { Set(place, p, "place"); }
   TwipsRect Place() const override { return place; }
-  void SetWindowState(WindowMode s) override { Set(state, s, "state"); }
+  void SetStartState(WindowMode s) override { Set(state, s, "state"); }
   WindowMode WindowState() const override { return state; }
   void SetAlwaysOnTop(bool on_top) override { calls.push_back(on_top ? "top" : "not top"); }
   void SetEditorColors(Color fore, Color back) override {

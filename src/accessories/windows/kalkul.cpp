@@ -78,7 +78,7 @@ void Kalkul::SetNumber(const std::string& number) {
 void Kalkul::ShowState() {
   ui_->Cislo->setText(Utf8ToQString(calculator_.shown));
   ui_->Label1->setText(Utf8ToQString(calculator_.operation));
-  ui_->Label2->setText(Utf8ToQString(calculator_.operand));
+  ui_->Label2->setText(Utf8ToQString(calculator_.first_operand));
   // A disabled key would pass its focus to the next key, so the focus goes to the number.
   const QWidget* focus = focusWidget();
   for (QPushButton* key : {ui_->Command12, ui_->Command13, ui_->Command14, ui_->Command15, ui_->Command32})

@@ -20,12 +20,13 @@ constexpr std::size_t kLongestShown = 32767;
 
 Prev::Prev(Platform& platform, bool stand_alone, Callbacks callbacks, QWidget* parent)
     : FormDialog(parent), platform_(platform), callbacks_(std::move(callbacks)) {
-  bases_ = {{ui_->Frame1, &Converter::decimal, ui_->Command35, ui_->Command38, ui_->Command42, &Converter::FromDecimal},
-            {ui_->Frame2, &Converter::hexadecimal, ui_->Command36, ui_->Command39, ui_->Command43, &Converter::FromHex},
-            {ui_->Frame3, &Converter::octal, ui_->Command37, ui_->Command40, ui_->Command44, &Converter::FromOct}};
-  for (const Base& base : bases_) {
-    ConnectBase(base);
-    base.to_text->setEnabled(!stand_alone);
+  keypads_ = {
+      {ui_->Frame1, &Converter::decimal, ui_->Command35, ui_->Command38, ui_->Command42, &Converter::FromDecimal},
+      {ui_->Frame2, &Converter::hexadecimal, ui_->Command36, ui_->Command39, ui_->Command43, &Converter::FromHex},
+      {ui_->Frame3, &Converter::octal, ui_->Command37, ui_->Command40, ui_->Command44, &Converter::FromOct}};
+  for (const Keypad& keypad : keypads_) {
+    ConnectKeypad(keypad);
+    keypad.to_text->setEnabled(!stand_alone);
   }
   connect(ui_->Command46, &QPushButton::clicked, this, [this] { callbacks_.to_text(roman_); });
   connect(ui_->Command41, &QPushButton::clicked, this, [this] { callbacks_.to_calculator(converter_.decimal); });
@@ -33,25 +34,25 @@ Prev::Prev(Platform& platform, bool stand_alone, Callbacks callbacks, QWidget* p
   new KeyPreview(*this, [this](const QKeyEvent& event) { return PhysicalKey(event); });
 }
 
-void Prev::ConnectBase(const Base& base) {
-  for (const QPushButton* key : base.frame->findChildren<QPushButton*>()) {
+void Prev::ConnectKeypad(const Keypad& keypad) {
+  for (const QPushButton* key : keypad.frame->findChildren<QPushButton*>()) {
     if (key->text().size() != 1) continue;
-    connect(key, &QPushButton::clicked, this, [this, field = base.field, digit = key->text()[0].toLatin1()] {
+    connect(key, &QPushButton::clicked, this, [this, field = keypad.field, digit = key->text()[0].toLatin1()] {
       converter_.Digit(field, digit);
       ShowFields();
     });
   }
-  connect(base.drop_last, &QPushButton::clicked, this, [this, field = base.field] {
+  connect(keypad.drop_last, &QPushButton::clicked, this, [this, field = keypad.field] {
     converter_.DropLast(field);
     ShowFields();
   });
-  connect(base.convert, &QPushButton::clicked, this, [this, base] { Convert(base); });
-  connect(base.to_text, &QPushButton::clicked, this,
-          [this, field = base.field] { callbacks_.to_text(converter_.*field); });
+  connect(keypad.convert, &QPushButton::clicked, this, [this, keypad] { Convert(keypad); });
+  connect(keypad.to_text, &QPushButton::clicked, this,
+          [this, field = keypad.field] { callbacks_.to_text(converter_.*field); });
 }
 
-void Prev::Convert(const Base& base) {
-  const auto number = (converter_.*base.conversion)();
+void Prev::Convert(const Keypad& keypad) {
+  const auto number = (converter_.*keypad.conversion)();
   if (!number) {
     platform_.Message(MessageType::kOk, "Číslo je příliš velké, nevejde se do 32 bitů", "Převody");
     return;
@@ -94,16 +95,17 @@ void Prev::hideEvent(QHideEvent* event) {
 
 Preview Prev::PhysicalKey(const QKeyEvent& event) {
   const auto character = TypedCharacter(event);
-  const auto base = std::find_if(bases_.begin(), bases_.end(),
-                                 [focus = focusWidget()](const Base& one) { return one.frame->isAncestorOf(focus); });
-  if (!character || base == bases_.end()) return Preview::kPass;
+  const auto keypad = std::find_if(keypads_.begin(), keypads_.end(), [focus = focusWidget()](const Keypad& one) {
+    return one.frame->isAncestorOf(focus);
+  });
+  if (!character || keypad == keypads_.end()) return Preview::kPass;
   if (*character == '\r') {
-    if (base->to_text->hasFocus()) return Preview::kPass;
-    base->convert->click();
+    if (keypad->to_text->hasFocus()) return Preview::kPass;
+    keypad->convert->click();
     return Preview::kTake;
   }
-  const QString caption = *character == '\b' ? base->drop_last->text() : QString(QLatin1Char(*character)).toUpper();
-  for (QPushButton* key : base->frame->findChildren<QPushButton*>()) {
+  const QString caption = *character == '\b' ? keypad->drop_last->text() : QString(QLatin1Char(*character)).toUpper();
+  for (QPushButton* key : keypad->frame->findChildren<QPushButton*>()) {
     if (key->text() != caption) continue;
     key->click();
     return Preview::kTake;

@@ -37,7 +37,7 @@ class Prev : public FormDialog<Ui::Prev> {
 
  private:
   // One of the three keypads.
-  struct Base {
+  struct Keypad {
     QGroupBox* frame;
     std::string Converter::*field;
     QPushButton* drop_last;
@@ -46,8 +46,8 @@ class Prev : public FormDialog<Ui::Prev> {
     std::optional<std::int32_t> (Converter::*conversion)();
   };
 
-  void ConnectBase(const Base& base);
-  void Convert(const Base& base);
+  void ConnectKeypad(const Keypad& keypad);
+  void Convert(const Keypad& keypad);
   void ShowRoman(std::int32_t number);
   void ShowFields();
   Preview PhysicalKey(const QKeyEvent& event);
@@ -57,7 +57,7 @@ class Prev : public FormDialog<Ui::Prev> {
   Converter converter_;
   std::string roman_;
   int conversions_ = 0;  // grows with each conversion and each hiding; a running conversion then stops
-  std::vector<Base> bases_;
+  std::vector<Keypad> keypads_;
 };
 
 }  // namespace pelmar

@@ -26,11 +26,11 @@ void Stroke(MainWindow& main, const QKeyEvent& key) {
 }
 
 // Whether the calculator is the whole program.
-bool StandsAlone(const ProgramParts& parts) { return parts.session.Mode() == StartMode::kCalculator; }
+bool CalculatorIsProgram(const ProgramParts& parts) { return parts.session.Mode() == StartMode::kCalculator; }
 
 std::unique_ptr<Kalkul> MakeKalkul(const ProgramParts& parts) {
   WindowRegistry& windows = parts.windows;
-  const bool alone = StandsAlone(parts);
+  const bool alone = CalculatorIsProgram(parts);
   const auto hand_over = [parts, alone](const std::string& number) {
     if (alone) return parts.platform.SetClipboardText(number);
     InsertAtCaret(parts.editor.text, number);
@@ -44,7 +44,7 @@ std::unique_ptr<Kalkul> MakeKalkul(const ProgramParts& parts) {
 }
 
 std::unique_ptr<Prev> MakePrev(const ProgramParts& parts) {
-  const bool alone = StandsAlone(parts);
+  const bool alone = CalculatorIsProgram(parts);
   Prev::Callbacks callbacks{[&text = parts.editor.text](const std::string& number) { InsertAtCaret(text, number); },
                             [&windows = parts.windows](const std::string& number) {
                               windows.Get<Kalkul>().SetNumber(number);

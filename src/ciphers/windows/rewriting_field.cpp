@@ -11,8 +11,9 @@ namespace {
 int CaretIn(const QString& shown, const QString& typed, int caret) {
   const auto length = static_cast<int>(shown.size());
   if (shown == QLatin1String("0")) return length;
-  // If the typed text ends with the shown text, `rewrite` has probably removed characters at the start.
-  const int removed = typed.endsWith(shown) ? static_cast<int>(typed.size()) - length : 0;
+  // If only the end of the typed text is shown, `rewrite` has removed characters at the start.
+  const bool is_end = typed.endsWith(shown) && !typed.startsWith(shown);
+  const int removed = is_end ? static_cast<int>(typed.size()) - length : 0;
   return std::clamp(caret - removed, 0, length);
 }
 

@@ -85,7 +85,8 @@ void FrmBrowser::ConnectView() {
     // A load that a link in the page has started needs the timer too.
     if (view_->Busy()) timTimer.start();
   };
-  view_->on_withheld = [this](bool withheld) { ui_->netLine->setVisible(withheld); };
+  view_->on_coming = [this] { ui_->netLine->hide(); };
+  view_->on_withheld = [this] { ui_->netLine->show(); };
   view_->on_finished = [this] { View_Finished(); };
   connect(ui_->LoadNet, &QPushButton::clicked, this, &FrmBrowser::LoadNet_Click);
 }

@@ -39,9 +39,9 @@ class WebView {
 
   std::function<void(qint64 progress, qint64 maximum)> on_progress;  // the maximum is 0 if nothing loads
   std::function<void()> on_change;                                   // the title changed or a load began
-  std::function<void(bool)> on_withheld;  // true: a local page lacks a part, since its request to the net was blocked;
-                                          // false: a page is about to load
-  std::function<void()> on_finished;      // a load or the page's process ended, or the address changed without a load
+  std::function<void()> on_coming;                                   // a page is about to load
+  std::function<void()> on_withheld;  // a local page lacks a part, because the request to the net was blocked
+  std::function<void()> on_finished;  // a load or the page's process ended, or the address changed without a load
   std::function<void(const QString&)> on_link;  // the address of the link under the mouse, or ""
 };
 

@@ -96,7 +96,7 @@ void Table::ConnectWalk(AskAttributes ask_cell, AskAttributes ask_row) {
   connect(ui_->Text3, &QLineEdit::textChanged, this,
           [this](const QString& text) { ShownCellAttributes() = TextFromQString(text); });
   connect(ui_->Text5, &QLineEdit::textChanged, this,
-          [this](const QString& text) { RowAttributes() = TextFromQString(text); });
+          [this](const QString& text) { ShownRowAttributes() = TextFromQString(text); });
   connect(ui_->Command3, &QPushButton::clicked, this, [this, ask = std::move(ask_cell)] { AskInto(ui_->Text3, ask); });
   connect(ui_->Command4, &QPushButton::clicked, ui_->Text3, &QLineEdit::clear);
   connect(ui_->Command5, &QPushButton::clicked, ui_->Text5, &QLineEdit::clear);
@@ -136,7 +136,7 @@ void Table::GoToNextCell() {
 
 void Table::ShowRow() {
   ShowPosition(ui_->Label16, ui_->VScroll8, ui_->VScroll2);
-  ui_->Text5->setText(TextToQString(RowAttributes()));
+  ui_->Text5->setText(TextToQString(ShownRowAttributes()));
 }
 
 std::string& Table::ShownCellText() { return grid_.cell_text.at(ValueOf(ui_->HScroll1)).at(ValueOf(ui_->VScroll7)); }
@@ -145,7 +145,7 @@ std::string& Table::ShownCellAttributes() {
   return grid_.cell_attrs.at(ValueOf(ui_->HScroll1)).at(ValueOf(ui_->VScroll7));
 }
 
-std::string& Table::RowAttributes() { return grid_.row_attrs.at(ValueOf(ui_->VScroll8)); }
+std::string& Table::ShownRowAttributes() { return grid_.row_attrs.at(ValueOf(ui_->VScroll8)); }
 
 TableSpec Table::Read() const {
   TableSpec spec;

@@ -39,7 +39,7 @@ class Table : public FragmentDialog<Ui::Table> {
   // The strings of the shown cell and row in the grid.
   std::string& ShownCellText();
   std::string& ShownCellAttributes();
-  std::string& RowAttributes();
+  std::string& ShownRowAttributes();
 
   TableGrid grid_;
 };

@@ -25,7 +25,7 @@ constexpr char kOnlyThroughTheGate[] =
     " --force-webrtc-ip-handling-policy=disable_non_proxied_udp --disable-quic --dns-prefetch-disable"
     " --host-resolver-rules=\"MAP * ~NOTFOUND, EXCLUDE ";
 // With one of these variables the engine could use another proxy, another version of SOCKS or the desktop's settings.
-constexpr const char* kOverridesOfWayOut[] = {
+constexpr const char* kProxyVariables[] = {
     "auto_proxy",    "AUTO_PROXY",          "all_proxy",       "ALL_PROXY",        "http_proxy",
     "HTTP_PROXY",    "https_proxy",         "HTTPS_PROXY",     "ftp_proxy",        "FTP_PROXY",
     "SOCKS_VERSION", "XDG_CURRENT_DESKTOP", "DESKTOP_SESSION", "KDE_FULL_SESSION", "GNOME_DESKTOP_SESSION_ID"};
@@ -74,7 +74,7 @@ EngineStart::EngineStart() {
   set(kFlags, qgetenv(kFlags) + " --disable-gpu --lang=cs" + kOnlyThroughTheGate + kGateHost + "\"");
   // Requests to this machine pass the gate too.
   set("no_proxy", "<-loopback>");
-  for (const char* name : kOverridesOfWayOut) set(name, QByteArray());
+  for (const char* name : kProxyVariables) set(name, QByteArray());
   if (!SandboxWorks()) set(kNoSandbox, "1");
   ShareEmptyContext();
   QNetworkProxyFactory::setUseSystemConfiguration(true);

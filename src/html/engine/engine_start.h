@@ -21,7 +21,7 @@ class ScopedVariable {
 };
 
 // The environment variable from which a new profile of the engine reads the address of its NetGate.
-inline constexpr char kWayOut[] = "SOCKS_SERVER";
+inline constexpr char kProxyVariable[] = "SOCKS_SERVER";
 
 // An object of this class must exist while the engine starts. The destructor restores the environment, since child
 // processes of the program inherit the environment.

@@ -49,11 +49,11 @@ WebEngineView::WebEngineView(QWidget* parent) : view_(std::make_unique<QWebEngin
   });
   for (const PageSide side : {PageSide::kDisk, PageSide::kDiskWithNet, PageSide::kNet}) {
     const bool allows_net = side != PageSide::kDisk;
-    const ScopedVariable way_out(kWayOut, (allows_net ? open_gate_ : shut_gate_).Address());
+    const ScopedVariable proxy(kProxyVariable, (allows_net ? open_gate_ : shut_gate_).Address());
     // Only requests of pages on kDisk are withheld. If the present page is on another side, the withheld request came
     // from an earlier page and isn't reported.
     profiles_[side] = MakeProfile(allows_net, [this] {
-      if (page_->Side() == PageSide::kDisk) on_withheld(true);
+      if (page_->Side() == PageSide::kDisk) on_withheld();
     });
   }
   MakePage(PageSide::kDisk);
@@ -98,7 +98,7 @@ void WebEngineView::ConnectPage() {
   page_->on_answered = [this] {
     if (const auto step = std::exchange(after_question_, {})) step();
   };
-  page_->on_coming = [this] { on_withheld(false); };
+  page_->on_coming = [this] { on_coming(); };
 }
 
 void WebEngineView::Command(std::function<void()> step) {

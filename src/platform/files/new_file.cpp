@@ -10,16 +10,16 @@ namespace pelmar {
 namespace {
 
 constexpr char kMark[] = ".pelmar-";
-constexpr std::string_view kLetters = "abcdefghijklmnopqrstuvwxyz012345";
+constexpr std::string_view kNameCharacters = "abcdefghijklmnopqrstuvwxyz012345";
 constexpr std::size_t kDrawn = 6;
 constexpr int kMostTries = 100;
 
 // Draws six random characters. "" if the system has no random numbers; errno has the reason.
-std::string DrawLetters() {
+std::string DrawName() {
   std::array<unsigned char, kDrawn> draw{};
   if (getentropy(draw.data(), draw.size()) != 0) return "";
   std::string letters;
-  for (const unsigned char one : draw) letters += kLetters[one % kLetters.size()];
+  for (const unsigned char one : draw) letters += kNameCharacters[one % kNameCharacters.size()];
   return letters;
 }
 
@@ -28,7 +28,7 @@ std::string DrawLetters() {
 template <typename Take>
 int TryNames(const std::string& start, const std::string& end, const Take& take) {
   for (int tries = 0; tries < kMostTries; ++tries) {
-    std::string name = DrawLetters();
+    std::string name = DrawName();
     if (name.empty()) return errno;
     name.insert(0, start).append(end);
     const int error = take(name);

@@ -76,7 +76,8 @@ bool IsReadableFolder(const QString& path) {
 
 QString CurrentFolder() {
   std::error_code error;
-  return PathToQString(std::filesystem::current_path(error).native());
+  const std::filesystem::path folder = std::filesystem::current_path(error);
+  return error ? QStringLiteral("/") : PathToQString(folder.native());
 }
 
 QString CleanFolder(const QString& path) {

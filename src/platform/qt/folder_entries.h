@@ -18,7 +18,7 @@ QRegularExpression MaskPattern(const QString& mask);
 // Whether the path is a folder that can be listed and entered.
 bool IsReadableFolder(const QString& path);
 
-// The current folder of the process. "" on an error, for instance if the folder no longer exists.
+// The current folder of the process. "/" on an error, for instance if the folder no longer exists.
 QString CurrentFolder();
 // The absolute path, with "." and ".." resolved. There is no separator at the end, except in "/".
 QString CleanFolder(const QString& path);

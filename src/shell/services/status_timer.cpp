@@ -63,7 +63,7 @@ void StatusTimer::Tick() {
   bar.Show(editor_.platform.Keys());
   // No file operation runs while the main window is active. So if the number is in use, a failed operation left it so.
   bar.Warn(Warning::kFilesStuck, editor_.file_number.IsOpen() ? kFilesStuck.toString() : QString());
-  window_.WidenContentPanel();
+  window_.UpdateContentPanel();
 }
 
 }  // namespace pelmar

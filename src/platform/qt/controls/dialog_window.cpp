@@ -42,7 +42,7 @@ bool MoveByArrow(QScrollBar& bar, int key) {
 
 // Whether the widget is a combo box or a scroll bar with a value of its own. The scroll bars of lists and texts don't
 // count.
-bool HoldsValue(const QWidget& widget) {
+bool WheelChangesValue(const QWidget& widget) {
   return qobject_cast<const QComboBox*>(&widget) ||
          (qobject_cast<const QScrollBar*>(&widget) && widget.focusPolicy() != Qt::NoFocus);
 }
@@ -93,7 +93,7 @@ QList<QWidget*> FieldsInOrder(QWidget& window) {
 
 // Whether the widget is on a tab page. There Enter in the last field goes to the first field and doesn't press the
 // default button. The person then fills in the same fields for the next row or cell, or goes on to another page.
-bool LiesBehindTabs(const QWidget* widget) {
+bool IsOnTabPage(const QWidget* widget) {
   while (widget != nullptr && !qobject_cast<const QStackedWidget*>(widget)) widget = widget->parentWidget();
   return widget != nullptr;
 }
@@ -147,7 +147,7 @@ void DialogWindow::OnEnter(QWidget* field, std::function<void()> act) { on_enter
 bool DialogWindow::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Wheel) {
     const auto* widget = qobject_cast<const QWidget*>(watched);
-    if (widget != nullptr && HoldsValue(*widget) && !widget->hasFocus()) {
+    if (widget != nullptr && WheelChangesValue(*widget) && !widget->hasFocus()) {
       event->ignore();  // lets the parents scroll
       return true;
     }
@@ -180,20 +180,20 @@ void DialogWindow::keyPressEvent(QKeyEvent* event) {
   QDialog::keyPressEvent(event);
 }
 
-// Goes to the next field after Enter. False if Enter should press the default button. LiesBehindTabs tells the rule for
+// Goes to the next field after Enter. False if Enter should press the default button. IsOnTabPage tells the rule for
 // the last field on a tab page.
 bool DialogWindow::GoToNextField() {
   if (property("defaultFromFields").toBool()) return false;
   const QList<QWidget*> fields = FieldsInOrder(*this);
   const auto at = fields.indexOf(focusWidget());
   // Enter in a scroll bar on a tab page goes to the next control.
-  if (at < 0 && LiesBehindTabs(focusWidget()) && qobject_cast<QScrollBar*>(focusWidget())) {
+  if (at < 0 && IsOnTabPage(focusWidget()) && qobject_cast<QScrollBar*>(focusWidget())) {
     focusNextChild();
     return true;
   }
   if (at < 0) return false;
   const bool last = at + 1 == fields.size();
-  if (last && !LiesBehindTabs(fields[at])) return false;
+  if (last && !IsOnTabPage(fields[at])) return false;
   fields[last ? 0 : at + 1]->setFocus(Qt::TabFocusReason);
   return true;
 }
@@ -248,7 +248,7 @@ void DialogWindow::Prepare() {
       if (button->isDefault()) button->update();
   });
   for (QWidget* widget : findChildren<QWidget*>()) {
-    if (!HoldsValue(*widget)) continue;
+    if (!WheelChangesValue(*widget)) continue;
     widget->installEventFilter(this);
     if (widget->focusPolicy() == Qt::WheelFocus) widget->setFocusPolicy(Qt::StrongFocus);
   }

@@ -40,7 +40,7 @@ void FileList::SetPath(const QString& path) {
   if (path.isEmpty()) return;
   const QString clean = CleanFolder(path);
   if (!IsReadableFolder(clean)) return;
-  if (clean == path_) return read_ ? ReadAnew() : void();
+  if (clean == path_) return read_ ? Reload() : void();
   path_ = clean;
   Fill({});
   Q_EMIT PathChanged(path_);
@@ -60,7 +60,7 @@ QString FileList::FileName() const {
 }
 
 void FileList::SetFileName(const QString& name) {
-  if (!read_) ReadAnew();
+  if (!read_) Reload();
   const QScopedValueRollback<bool> by_program(by_program_, true);
   const auto row = static_cast<int>(names_->stringList().indexOf(name));
   if (row < 0) return clearSelection();
@@ -77,7 +77,7 @@ void FileList::Show(const QStringList& names, const QString& selected) {
   SetFileName(selected);
 }
 
-void FileList::ReadAnew() {
+void FileList::Reload() {
   read_ = true;
   QStringList names = FilesOf(path_, pattern_);
   const QString selected = FileName();
@@ -127,7 +127,7 @@ void FileList::keyPressEvent(QKeyEvent* event) {
 
 void FileList::showEvent(QShowEvent* event) {
   QListView::showEvent(event);
-  if (!event->spontaneous()) ReadAnew();
+  if (!event->spontaneous()) Reload();
 }
 
 }  // namespace pelmar

@@ -52,7 +52,7 @@ class FileList : public QListView {
  private:
   void Fill(const QString& selected);
   void Show(const QStringList& names, const QString& selected);
-  void ReadAnew();
+  void Reload();
 
   FileNames* names_;
   QString path_, pattern_;

@@ -9,13 +9,13 @@ namespace pelmar {
 namespace {
 
 // Whether the window is shown. False while show() is still in progress.
-bool Mapped(const QWidget& window) { return window.windowHandle() != nullptr && window.windowHandle()->isVisible(); }
+bool IsShown(const QWidget& window) { return window.windowHandle() != nullptr && window.windowHandle()->isVisible(); }
 
 // Uses QWindow, since the frame that QWidget knows may be outdated after the window is shown.
-QMargins Frame(const QWidget& window) { return Mapped(window) ? window.windowHandle()->frameMargins() : QMargins(); }
+QMargins Frame(const QWidget& window) { return IsShown(window) ? window.windowHandle()->frameMargins() : QMargins(); }
 
 QRect Outer(const QWidget& window) {
-  if (!Mapped(window)) return {window.pos(), window.size()};
+  if (!IsShown(window)) return {window.pos(), window.size()};
   return window.geometry().marginsAdded(Frame(window));
 }
 
@@ -24,7 +24,7 @@ TwipsRect InTwips(const QRect& pixels) {
 }
 
 void MoveOuter(QWidget& window, QPoint top_left) {
-  if (Mapped(window)) return window.windowHandle()->setFramePosition(top_left);
+  if (IsShown(window)) return window.windowHandle()->setFramePosition(top_left);
   window.move(top_left);
 }
 

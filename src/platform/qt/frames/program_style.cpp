@@ -21,8 +21,8 @@ namespace {
 constexpr double kTextContrast = 4.5;
 constexpr double kBorderContrast = 3.7;  // more than the usual 3, since borders have blurred edges
 constexpr double kDisabledContrast = 3;  // disabled captions: visible, but paler than enabled ones
-constexpr double kLine = 2;
-constexpr double kMarked = 1.5;  // the background of a selected text in a disabled field
+constexpr double kLineContrast = 2;
+constexpr double kSelectionContrast = 1.5;  // the background of a selected text in a disabled field
 constexpr int kSteps = 20;
 
 double Luminance(const QColor& color) {
@@ -148,7 +148,8 @@ void ProgramStyle::polish(QPalette& palette) {
   };
   // A running search disables fields of its dialog, but the person still has to read these fields.
   lift(QPalette::Text, QPalette::Base, kTextContrast);
-  const QColor marked = OfContrast(kMarked, palette.color(QPalette::Disabled, QPalette::Base), text(QPalette::Text));
+  const QColor marked =
+      OfContrast(kSelectionContrast, palette.color(QPalette::Disabled, QPalette::Base), text(QPalette::Text));
   palette.setColor(QPalette::Disabled, QPalette::Highlight, marked);
   palette.setColor(QPalette::Disabled, QPalette::HighlightedText,
                    OfContrast(kTextContrast, marked, text(QPalette::Text)));
@@ -160,7 +161,7 @@ void ProgramStyle::polish(QPalette& palette) {
   const QColor hint = OfContrast(kTextContrast, text(QPalette::Button), text(QPalette::ButtonText));
   palette.setColor(QPalette::PlaceholderText, hint);
   // The colour of lines in the program's own controls.
-  palette.setColor(QPalette::Mid, OfContrast(kLine, text(QPalette::Window), text(QPalette::WindowText)));
+  palette.setColor(QPalette::Mid, OfContrast(kLineContrast, text(QPalette::Window), text(QPalette::WindowText)));
   // On some dark desktops tool tips stay light yellow.
   if (Luminance(text(QPalette::Window)) > Luminance(text(QPalette::WindowText))) return;
   palette.setColor(QPalette::ToolTipBase, text(QPalette::Window));

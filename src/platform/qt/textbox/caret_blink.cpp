@@ -20,7 +20,7 @@ void CaretBlink::Start(bool blinks) {
   const int half = QGuiApplication::styleHints()->cursorFlashTime() / 2;
   if (!blinks || half <= 0) return timer_.stop();
   // An even number, so that the caret is visible at the end.
-  left_ = std::max(kBlinkForMs / half, 2) / 2 * 2;
+  half_periods_left_ = std::max(kBlinkForMs / half, 2) / 2 * 2;
   timer_.start(half, this);
 }
 
@@ -32,7 +32,7 @@ void CaretBlink::Hide() {
 void CaretBlink::timerEvent(QTimerEvent* event) {
   if (event->timerId() != timer_.timerId()) return QObject::timerEvent(event);
   SetShown(!shown_);
-  if (--left_ <= 0) timer_.stop();
+  if (--half_periods_left_ <= 0) timer_.stop();
 }
 
 void CaretBlink::SetShown(bool shown) {

@@ -26,7 +26,7 @@ class CaretBlink : public QObject {
 
   std::function<void()> repaint_;
   QBasicTimer timer_;
-  int left_ = 0;  // half periods until the blinking stops
+  int half_periods_left_ = 0;  // until the blinking stops
   bool shown_ = false;
 };
 

@@ -25,7 +25,7 @@ namespace {
 // The size at the first start, with space for the whole toolbar.
 constexpr QSize kFirstSize(820, 560);
 // The largest coordinate and length of a window under X11, in twips.
-constexpr int kFarthest = TwipsOf(32'767);
+constexpr int kLargestX11 = TwipsOf(32'767);
 
 std::vector<std::string> DroppedFiles(const QMimeData* mime) {
   std::vector<std::string> paths;
@@ -178,7 +178,7 @@ void MainWindow::ApplyLayout() {
   if (out.grow_outer_height > 0) resize(this->width(), this->height() + PixelsOf(out.grow_outer_height));
 }
 
-void MainWindow::WidenContentPanel() {
+void MainWindow::UpdateContentPanel() {
   // Without a known frame the outer width is wrong.
   if (isMinimized() || !placement_.FrameKnown()) return;
   ticked_ = true;
@@ -201,7 +201,7 @@ TwipsRect MainWindow::Wanted(const TwipsRect& now) const {
 }
 
 void MainWindow::SetPlace(const TwipsRect& place) {
-  const auto bounded = [](int twips) { return std::clamp(twips, -kFarthest, kFarthest); };
+  const auto bounded = [](int twips) { return std::clamp(twips, -kLargestX11, kLargestX11); };
   wanted_place_ = {bounded(place.left), bounded(place.top), bounded(place.width), bounded(place.height)};
   const QSize first = kFirstSize.boundedTo(screen()->availableSize());
   if (place.width <= 0) wanted_place_.width = TwipsOf(first.width());
@@ -221,7 +221,7 @@ TwipsRect MainWindow::Place() const {
   return {TwipsOf(outer.left()), TwipsOf(outer.top()), TwipsOf(outer.width()), TwipsOf(outer.height())};
 }
 
-void MainWindow::SetWindowState(WindowMode state) { window_state_ = state; }
+void MainWindow::SetStartState(WindowMode state) { window_state_ = state; }
 
 WindowMode MainWindow::WindowState() const {
   if (isMinimized()) return WindowMode::kMinimised;

@@ -46,11 +46,11 @@ class MainWindow : public QMainWindow, public MainView {
   // the window higher.
   void ApplyLayout();
   // Gives panel 4 the width from SparePanelWidth. Call on each tick of the status timer while the window is active.
-  void WidenContentPanel();
+  void UpdateContentPanel();
 
   void SetPlace(const TwipsRect& place) override;
   [[nodiscard]] TwipsRect Place() const override;
-  void SetWindowState(WindowMode state) override;
+  void SetStartState(WindowMode state) override;
   [[nodiscard]] WindowMode WindowState() const override;
   void SetAlwaysOnTop(bool on_top) override;
   void SetNormalState() override;

@@ -93,12 +93,12 @@ MenuBar::MenuBar(const Commands& commands, QWidget* parent) : QMenuBar(parent), 
   }
 }
 
-bool MenuBar::HasCommand(const QAction* action, std::string_view name) const {
+bool MenuBar::IsUsable(const QAction* action, std::string_view name) const {
   return action->menu() != nullptr || action->isSeparator() || commands_.Has(name);
 }
 
 void MenuBar::Refresh() {
-  for (const auto& [name, action] : actions_) action->setEnabled(HasCommand(action, name));
+  for (const auto& [name, action] : actions_) action->setEnabled(IsUsable(action, name));
 }
 
 void MenuBar::Apply(const MenuState& state) {
@@ -204,7 +204,7 @@ bool MenuBar::KeyInMenu(QMenu& menu, const QKeyEvent& key) {
 void MenuBar::SetEnabled(std::span<const std::string_view> names, bool enabled) {
   for (const std::string_view name : names) {
     QAction* action = Action(name);
-    action->setEnabled(enabled && HasCommand(action, name));
+    action->setEnabled(enabled && IsUsable(action, name));
   }
 }
 

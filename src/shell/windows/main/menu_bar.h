@@ -47,7 +47,7 @@ class MenuBar : public QMenuBar {
   void CloseMenus();
   bool KeyInMenu(QMenu& menu, const QKeyEvent& key);
   void SetEnabled(std::span<const std::string_view> names, bool enabled);
-  [[nodiscard]] bool HasCommand(const QAction* action, std::string_view name) const;
+  [[nodiscard]] bool IsUsable(const QAction* action, std::string_view name) const;
 
   const Commands& commands_;
   QPointer<QWidget> before_;  // had the keyboard focus before the menu bar
