@@ -140,8 +140,6 @@ class Platform {
   // valid. The next call after a change of the clipboard replaces the text.
   virtual const std::optional<std::string>& ClipboardContent() = 0;
   std::string ClipboardText() { return ClipboardContent().value_or(std::string()); }
-  // A new number after each change of the clipboard.
-  virtual std::uint64_t ClipboardRevision() = 0;
   virtual void SetClipboardText(std::string_view text) = 0;
   virtual void ClearClipboard() = 0;
 

@@ -75,7 +75,6 @@ class ScriptedPlatform : public Platform, public Paper {
   }
 
   const std::optional<std::string>& ClipboardContent() override { return clipboard; }
-  std::uint64_t ClipboardRevision() override { return 1 + std::hash<std::optional<std::string>>()(clipboard) / 2; }
   void SetClipboardText(std::string_view text) override {
     Note("clipboard", {text});
     clipboard = std::string(text);

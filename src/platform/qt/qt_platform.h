@@ -27,7 +27,6 @@ class QtPlatform : public Platform {
   std::optional<std::string> SaveDialog(std::string_view filter, int filter_index) override;
 
   const std::optional<std::string>& ClipboardContent() override { return clipboard_.Content(); }
-  std::uint64_t ClipboardRevision() override { return clipboard_.Revision(); }
   void SetClipboardText(std::string_view text) override;
   void ClearClipboard() override;
 

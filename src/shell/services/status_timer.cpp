@@ -1,7 +1,8 @@
 #include "shell/services/status_timer.h"
 
 #include <QApplication>
-#include <utility>
+#include <optional>
+#include <string>
 
 #include "platform/qt/frames/outer_geometry.h"
 #include "platform/twips.h"
@@ -34,32 +35,16 @@ void StatusTimer::SnapWindows() {
   }
 }
 
-// Updates only panels whose content may have changed, because a long document or clipboard takes time.
-void StatusTimer::ShowPanels(std::uint64_t clipboard_revision, const std::optional<std::string>& clipboard) {
-  const TextBuffer& buffer = editor_.text;
-  StatusStrip& bar = window_.Bar();
-  if (bar.Cleared()) {
-    shown_text_.reset();
-    shown_content_.reset();
-  }
-  const TextState of_text{buffer.Revision(), buffer.SelStart(), buffer.SelEnd(), editor_.settings.LineCounting};
-  if (std::exchange(shown_text_, of_text) != of_text) bar.Show(ComputePanels(buffer, of_text.line_counting));
-  const ContentState of_content{buffer.HasSelection() ? of_text : TextState(), clipboard_revision};
-  if (std::exchange(shown_content_, of_content) != of_content) bar.ShowContent(ComputeContent(buffer, clipboard));
-}
-
 void StatusTimer::Tick() {
   SnapWindows();
   if (!window_.MainActive()) return;
-  // The clipboard's revision is read before its content. So if the clipboard changes in between, the next tick sees a
-  // new revision.
-  const std::uint64_t revision = editor_.platform.ClipboardRevision();
   const std::optional<std::string>& clipboard = editor_.platform.ClipboardContent();
   // A change of the menu bar would close an open menu.
   if (QApplication::activePopupWidget() == nullptr)
     window_.Menus().Apply(ComputeMenuState(editor_.text, editor_.documents.CurrentPath(), clipboard));
-  ShowPanels(revision, clipboard);
   StatusStrip& bar = window_.Bar();
+  bar.Show(ComputePanels(editor_.text, editor_.settings.LineCounting));
+  bar.ShowContent(ComputeContent(editor_.text, clipboard));
   bar.Show(editor_.platform.Keys());
   // No file operation runs while the main window is active. So if the number is in use, a failed operation left it so.
   bar.Warn(Warning::kFilesStuck, editor_.file_number.IsOpen() ? kFilesStuck.toString() : QString());

@@ -3,10 +3,7 @@
 #pragma once
 
 #include <QTimer>
-#include <cstdint>
 #include <map>
-#include <optional>
-#include <string>
 
 #include "shell/editor.h"
 #include "shell/window_geometry.h"
@@ -28,28 +25,11 @@ class StatusTimer : public QTimer {
   void Tick();
 
  private:
-  // The texts of panels 1 to 3 depend on these values.
-  struct TextState {
-    std::uint64_t text = 0;  // the revision of the text
-    std::size_t start = 0, end = 0;
-    bool line_counting = false;
-    bool operator==(const TextState&) const = default;
-  };
-  // The text of panel 4 depends on these values.
-  struct ContentState {
-    TextState selected;           // default values if nothing is selected
-    std::uint64_t clipboard = 0;  // the revision of the clipboard
-    bool operator==(const ContentState&) const = default;
-  };
-
   void SnapWindows();
-  void ShowPanels(std::uint64_t clipboard_revision, const std::optional<std::string>& clipboard);
 
   std::map<const QWidget*, PlaceRequests> requests_;
   MainWindow& window_;
   Editor& editor_;
-  std::optional<TextState> shown_text_;
-  std::optional<ContentState> shown_content_;
 };
 
 }  // namespace pelmar

@@ -18,15 +18,13 @@ class Clipboard : public QObject {
   Clipboard();
 
   const std::optional<std::string>& Content();
-  // A new number after each change.
-  [[nodiscard]] std::uint64_t Revision() const { return revision_; }
   void SetText(std::string_view text);
   void Clear();
 
  private:
   std::optional<std::string> text_;
-  std::uint64_t revision_ = 1;
-  std::uint64_t fetched_ = 0;  // the revision of text_
+  std::uint64_t revision_ = 1;  // a new number after each change of the clipboard
+  std::uint64_t fetched_ = 0;   // the revision of text_
 };
 
 // Wayland shows the clipboard only to the program with the keyboard focus. So under Wayland `act` is called once, at

@@ -72,7 +72,6 @@ StatusStrip::StatusStrip(QWidget* parent) : QStatusBar(parent) {
 }
 
 void StatusStrip::Show(const PanelTexts& texts) {
-  cleared_ = false;
   const bool length = panels_[0]->SetContent(texts.length), position = panels_[1]->SetContent(texts.position);
   if (panels_[2]->SetContent(texts.lines) || length || position) Place();
 }
@@ -80,7 +79,6 @@ void StatusStrip::Show(const PanelTexts& texts) {
 void StatusStrip::Clear() {
   Show(PanelTexts());
   ShowContent({});
-  cleared_ = true;
 }
 
 void StatusStrip::ShowContent(const std::string& text) { panels_[3]->SetContent(text); }

@@ -59,7 +59,6 @@ class StatusStrip : public QStatusBar {
   void ShowContent(const std::string& text);
   // Clears panels 1 to 4. Panel 4 may show a part of the text, which a locked program must hide.
   void Clear();
-  [[nodiscard]] bool Cleared() const { return cleared_; }
   void Show(const KeyStates& keys);
   // Sets the text of a warning or hint ("" removes it). Then shows the most serious one that has a text. A hint covers
   // only panel 4 and is cut there. A warning covers as many panels as its text needs. Without `tip` the text is also
@@ -85,7 +84,6 @@ class StatusStrip : public QStatusBar {
   std::array<StatusPanel*, kPanelCount> panels_{};
   std::array<int, kPanelCount> widths_{};
   WarningLabel* warning_ = nullptr;
-  bool cleared_ = true;
   struct Said {
     QString text, tip;
   };
