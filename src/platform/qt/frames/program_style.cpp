@@ -2,11 +2,9 @@
 
 #include <QAbstractItemView>
 #include <QDialogButtonBox>
-#include <QMenu>
 #include <QMenuBar>
 #include <QPainter>
 #include <QPushButton>
-#include <QScreen>
 #include <QStyleOptionMenuItem>
 #include <QToolButton>
 #include <algorithm>
@@ -59,22 +57,6 @@ bool TakesEnter(const QWidget* widget) {
   return qobject_cast<const QPushButton*>(widget) || qobject_cast<const QToolButton*>(widget);
 }
 
-// The height of a menu item. If the menu would not fit the screen, Qt would put the last items into a second column. So
-// in a long menu the height of an item is less than usual, but at least the height of the letters.
-int HeightInMenu(const QMenu& menu, int usual) {
-  constexpr int kSeparator = 8, kFrame = 8;
-  int items = 0, around = kFrame;
-  for (const QAction* action : menu.actions()) {
-    if (!action->isVisible()) continue;
-    if (action->isSeparator())
-      around += kSeparator;
-    else
-      ++items;
-  }
-  const int fitting = (menu.screen()->availableGeometry().height() - around) / std::max(items, 1);
-  return std::min(usual, std::max(fitting, menu.fontMetrics().height()));
-}
-
 void DrawKeyboardFrame(QPainter& painter, const QStyleOption& option) {
   painter.setPen(option.palette.color(QPalette::Highlight));
   painter.setBrush(Qt::NoBrush);
@@ -96,6 +78,8 @@ int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QW
   if (hint == SH_DialogButtonLayout) return QDialogButtonBox::WinLayout;
   // A wheel turn over the tabs is often an accident. The turn would show another document and clear the undo history.
   if (hint == SH_TabBar_AllowWheelScrolling) return 0;
+  // A menu that doesn't fit the screen scrolls. Without this, the last items would be in a second column.
+  if (hint == SH_Menu_Scrollable) return 1;
   return QProxyStyle::styleHint(hint, option, widget, answer);
 }
 
@@ -130,11 +114,6 @@ QSize ProgramStyle::sizeFromContents(ContentsType type, const QStyleOption* opti
   const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
   if (type == CT_PushButton && button != nullptr && !button->text.isEmpty())
     size.setWidth(std::max(size.width(), contents.width() + 2 * kBesideCaption));
-  const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
-  const auto* menu = qobject_cast<const QMenu*>(widget);
-  if (type == CT_MenuItem && menu != nullptr && item != nullptr &&
-      item->menuItemType != QStyleOptionMenuItem::Separator)
-    size.setHeight(HeightInMenu(*menu, size.height()));
   return size;
 }
 
