@@ -28,19 +28,4 @@ TwipsRect PlaceNotes(const NotesSurroundings& around) {
   return notes;
 }
 
-std::optional<TwipsRect> NotesTimer::Tick(const NotesSurroundings& now) {
-  Rest();
-  if (now != placed_for_) {
-    placed_for_ = now;
-    tries_left_ = kTries;
-    Wake();
-  }
-  if (tries_left_ == 0) return std::nullopt;
-  --tries_left_;
-  const TwipsRect place = PlaceNotes(now);
-  if (place != now.notes) return place;
-  tries_left_ = 0;
-  return std::nullopt;
-}
-
 }  // namespace pelmar

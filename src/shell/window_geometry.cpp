@@ -10,7 +10,7 @@ constexpr int kTabStripWidth = 360;
 constexpr int kPanelMargin = 420;
 constexpr int kNeededMargin = 270;
 constexpr int kTextOverlap = 10;
-constexpr int kMostRequests = 20;
+constexpr int kMostRequests = 50;
 constexpr int kFarthest = 1'000'000;  // more than any screen
 
 }  // namespace
@@ -32,10 +32,12 @@ TwipsRect Snap(TwipsRect window, int distance, const TwipsRect& screen) {
 }
 
 bool PlaceRequests::MayRequest(const TwipsRect& now, const TwipsRect& wanted) {
-  if (now != now_ || wanted != wanted_) ignored_ = 0;
+  if (now != now_ || wanted != wanted_) requests_ = 0;
   now_ = now;
   wanted_ = wanted;
-  return ++ignored_ <= kMostRequests;
+  if (now == wanted || requests_ == kMostRequests) return false;
+  ++requests_;
+  return true;
 }
 
 std::optional<int> SparePanelWidth(int outer_width, const std::array<int, kPanelCount>& widths) {

@@ -18,13 +18,14 @@ TwipsRect Snap(TwipsRect window, int distance, const TwipsRect& screen);
 // Limits the requests to move a window, because some window managers ignore such requests, briefly or always.
 class PlaceRequests {
  public:
-  // Call before each request. False if the window at `now` has ignored too many requests in a row to go to `wanted`.
+  // Call at each tick of the window's timer. False if the window is at `wanted` already, or if the window at `now` has
+  // ignored too many requests in a row to go to `wanted`.
   bool MayRequest(const TwipsRect& now, const TwipsRect& wanted);
 
  private:
   TwipsRect now_;
   TwipsRect wanted_;
-  int ignored_ = 0;
+  int requests_ = 0;  // since the last change of now_ or wanted_
 };
 
 // The new width of panel 4, or nothing if the width stays. required: the sum of `widths` includes panel 4. So repeated

@@ -5,6 +5,7 @@
 
 #include <cerrno>
 
+#include "files/dropped_files.h"
 #include "files/outside_changes.h"
 #include "support/document_state.h"
 #include "support/marked_text.h"
@@ -134,6 +135,20 @@ TEST_F(FilesTest, OpeningANameWithoutADotFailsHalfwayAndLeavesTheFileOpen) {
   editor.saver.SaveToPath("/b.txt");
   EXPECT_TRUE(platform.calls.back().starts_with("message 0 \"Chyba ukládání!"));
   EXPECT_EQ(platform.files["/b.txt"], "b");
+}
+
+TEST_F(FilesTest, DroppedFilesAreOpenedAfterAYesUntilNoTabIsFree) {
+  for (const char* name : {"1", "2", "3", "4", "5", "6"}) platform.files[std::string("/") + name + ".txt"] = name;
+  const Calls dropped = {"/1.txt", "/2.txt", "/README", "/3.txt", "/4.txt", "/5.txt", "/6.txt"};
+  platform.answers = {kOk, kNo};
+  OpenDropped(dropped, documents, editor.opener, platform);
+  EXPECT_EQ(TextsOf(documents), "newsaved|||||");
+  platform.answers = {kOk, kYes, kOk};
+  platform.TakeCalls();
+  OpenDropped(dropped, documents, editor.opener, platform);
+  EXPECT_EQ(TextsOf(documents), "1|2|3|4|5|");
+  EXPECT_EQ(platform.calls.front(), MessageCall(0, "Soubor /README nemá příponu, nelze ho otevřít."));
+  EXPECT_EQ(platform.calls.back(), MessageCall(0, "Není volná záložka, neotevřeny zůstaly soubory:\r\n/6.txt"));
 }
 
 TEST_F(FilesTest, ReloadAsksBeforeChangesAreLost) {

@@ -168,6 +168,14 @@ TEST(Snap, PullsWindowsToTheEdges) {
   for (const auto& [what, before, after] : cases) EXPECT_EQ(Snap(before, 240, {0, 0, 28800, 16200}), after) << what;
 }
 
+TEST(PlaceRequests, StopWhileIgnoredAndBeginAgainAfterAChange) {
+  PlaceRequests requests;
+  const TwipsRect here{1, 0, 9, 9}, there{2, 0, 9, 9};
+  for (int tick = 0; tick < 99; ++tick) EXPECT_EQ(requests.MayRequest(here, there), tick < 50) << tick;
+  EXPECT_FALSE(requests.MayRequest(here, here));
+  EXPECT_TRUE(requests.MayRequest(here, there));
+}
+
 // required: the sum counts panel 4 itself, so two widths alternate
 TEST(SparePanelWidth, AlternatesOnceBothWidthsAreAboveZero) {
   std::array<int, kPanelCount> widths = {1500, 1500, 1500, 0, 500, 500, 500};

@@ -17,8 +17,8 @@ std::unique_ptr<Poznamka> MakeNotes(const ProgramParts& parts) {
     if (mode == StartMode::kNotes) return EndProgram(EXIT_SUCCESS);
     parts.windows.Unload<Poznamka>();
   };
-  return std::make_unique<Poznamka>(Poznamka::Surroundings{parts.platform, parts.editor.file_number,
-                                                           parts.editor.settings, parts.main, &parts.main, mode, end});
+  return std::make_unique<Poznamka>(
+      Poznamka::Surroundings{parts.platform, parts.editor.file_number, parts.editor.settings, parts.main, mode, end});
 }
 
 void ShowNotes(const ProgramParts& parts) {

@@ -18,6 +18,8 @@
 namespace pelmar {
 namespace {
 
+constexpr int kTick = 10;  // ms
+
 QFont FontOf(const EditorLook& look) {
   QFont font(TextToQString(look.font_name));
   if (look.font_size > 0) font.setPointSizeF(look.font_size);
@@ -28,19 +30,6 @@ QFont FontOf(const EditorLook& look) {
 
 std::string KeptTwiceMessage(int page) {
   return "Poznámku " + std::to_string(page) + " mezitím změnila i jiná kopie programu. Uložena jsou obě znění.";
-}
-
-bool IsMoveOrResize(const QEvent& event) {
-  switch (event.type()) {
-    case QEvent::Move:
-    case QEvent::Resize:
-    case QEvent::WindowStateChange:
-    case QEvent::Show:
-    case QEvent::Hide:
-      return true;
-    default:
-      return false;
-  }
 }
 
 }  // namespace
@@ -58,10 +47,8 @@ Poznamka::Poznamka(Surroundings around) : around_(std::move(around)), ui_(std::m
   changes_ = ui_->Text1->Buffer().OnChange([this](const TextChange&) { keeper_.KeepSoon(); });
   ui_->Text1->setFocus();
   timer1_.setObjectName(QStringLiteral("Timer1"));
-  timer1_.setInterval(tick_.Interval());
+  timer1_.setInterval(kTick);
   connect(&timer1_, &QTimer::timeout, this, &Poznamka::Timer1_Timer);
-  connect(ui_->Dock, &QAction::toggled, this, &Poznamka::Wake);
-  if (around_.main_window != nullptr) around_.main_window->installEventFilter(this);
 }
 
 Poznamka::~Poznamka() { keeper_.KeepNow(); }
@@ -198,7 +185,6 @@ void Poznamka::resizeEvent(QResizeEvent*) {
 void Poznamka::showEvent(QShowEvent* event) {
   if (!event->spontaneous()) {
     ShowProgramIcon();
-    Wake();
     timer1_.start();
   }
   QWidget::showEvent(event);
@@ -223,32 +209,11 @@ NotesSurroundings Poznamka::Measures() const {
   return now;
 }
 
-void Poznamka::Wake() {
-  tick_.Wake();
-  SetPace();
-}
-
-void Poznamka::SetPace() {
-  if (timer1_.interval() != tick_.Interval()) timer1_.setInterval(tick_.Interval());
-}
-
-bool Poznamka::event(QEvent* event) {
-  if (IsMoveOrResize(*event)) Wake();
-  return QWidget::event(event);
-}
-
-bool Poznamka::eventFilter(QObject* watched, QEvent* event) {
-  if (IsMoveOrResize(*event)) Wake();
-  return QWidget::eventFilter(watched, event);
-}
-
 void Poznamka::Timer1_Timer() {
-  if (isMinimized() || isMaximized()) {
-    tick_.Rest();
-  } else if (const auto place = tick_.Tick(Measures())) {
-    SetOuterPlace(*this, *place);
-  }
-  SetPace();
+  if (isMinimized() || isMaximized()) return;
+  const NotesSurroundings now = Measures();
+  const TwipsRect place = PlaceNotes(now);
+  if (requests_.MayRequest(now.notes, place)) SetOuterPlace(*this, place);
 }
 
 }  // namespace pelmar

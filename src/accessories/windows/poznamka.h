@@ -15,6 +15,7 @@
 #include "shell/services/rescue_keeper.h"
 #include "shell/settings_record.h"
 #include "shell/stand_alone.h"
+#include "shell/window_geometry.h"
 #include "text/text_buffer.h"
 
 namespace Ui {
@@ -32,7 +33,6 @@ class Poznamka : public QWidget {
     FileNumber& file_number;
     const SettingsRecord& settings;
     const MainView& main;
-    QObject* main_window = nullptr;  // the main window as an object, to watch its moves
     StartMode mode = StartMode::kEditor;
     std::function<void()> end;  // called after closing: unloads the window, or ends the program started for the notes
   };
@@ -50,8 +50,6 @@ class Poznamka : public QWidget {
   std::string KeepNow() { return keeper_.NoticeOf(keeper_.KeepNow()); }
 
  protected:
-  bool event(QEvent* event) override;
-  bool eventFilter(QObject* watched, QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
@@ -73,8 +71,6 @@ class Poznamka : public QWidget {
   void ConnectCommands();
   void TabStrip1_Click(int index);
   void Timer1_Timer();
-  void Wake();
-  void SetPace();
   bool Unload();
   bool RefuseOverlong(const NotesRecord& record);
   void ShowPage(int page);
@@ -89,7 +85,7 @@ class Poznamka : public QWidget {
   int page_ = 1;
   std::array<std::size_t, kNotePages> carets_{};  // the caret's place in each notes page
   QTimer timer1_{this};
-  NotesTimer tick_;
+  PlaceRequests requests_;
   Rescue rescue_{*this};
   RescueKeeper keeper_{rescue_, around_.platform};
   Listening changes_;

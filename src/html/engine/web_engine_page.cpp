@@ -1,10 +1,8 @@
 #include "html/engine/web_engine_page.h"
 
 #include <QAction>
-#include <QCheckBox>
 #include <QCoreApplication>
 #include <QInputDialog>
-#include <QLayout>
 #include <QMessageBox>
 #include <QWebEngineCertificateError>
 #include <QWebEngineClientCertificateSelection>
@@ -32,8 +30,8 @@ QString Title() { return QStringLiteral("Zpráva stránky"); }
 
 // The engine asks this question through javaScriptConfirm().
 constexpr char kLeaving[] = "Are you sure you want to leave this page? Changes that you made may not be saved.";
-constexpr int kQuestionsBeforeSilenceBox = 2;  // questions without the check box that switches off further questions
-constexpr int kLongestQuestion = 2000;         // characters of a page's own text
+constexpr int kMostQuestions = 20;      // shown after one command that loads a page
+constexpr int kLongestQuestion = 2000;  // characters of a page's own text
 // A question shows an address of at most kLongestAsked characters, in lines of kAddressLine characters. A local page's
 // link to a longer address isn't opened.
 constexpr qsizetype kLongestAsked = 1000, kAddressLine = 80;
@@ -42,20 +40,6 @@ constexpr qsizetype kLongestAsked = 1000, kAddressLine = 80;
 bool MayBeFramed(const QUrl& address) {
   return MayBeShown(address) || address.scheme() == QLatin1String("about") || address.scheme() == QLatin1String("blob");
 }
-
-// The access key toggles this box at once. Qt's own box would wait a moment, and a quick Enter would close the question
-// before the box is toggled.
-class SilenceBox : public QCheckBox {
- public:
-  SilenceBox() : QCheckBox(QStringLiteral("&Další zprávy této stránky neukazovat")) {}
-
- protected:
-  bool event(QEvent* event) override {
-    if (event->type() != QEvent::Shortcut) return QCheckBox::event(event);
-    click();
-    return true;
-  }
-};
 
 }  // namespace
 
@@ -155,21 +139,12 @@ void WebEnginePage::AnswerNo() {
   if (question_ != nullptr) question_->reject();
 }
 
-void WebEnginePage::ResetQuestions() {
-  questions_off_ = false;
-  questions_ = 0;
-}
+bool WebEnginePage::MayAsk() const { return !answers_no_ && questions_ < kMostQuestions; }
 
 bool WebEnginePage::Ask(QDialog& question) {
   QWidget* view = QWebEngineView::forPage(this);
-  if (answers_no_ || questions_off_ || question_ != nullptr || view == nullptr || !view->isVisible()) return false;
-  QCheckBox* silence = ++questions_ > kQuestionsBeforeSilenceBox ? new SilenceBox : nullptr;
-  if (auto* box = qobject_cast<QMessageBox*>(&question); box != nullptr && silence != nullptr) {
-    box->setCheckBox(silence);
-  } else if (silence != nullptr) {
-    question.sizeHint();  // creates the dialog's layout
-    question.layout()->addWidget(silence);
-  }
+  if (!MayAsk() || question_ != nullptr || view == nullptr || !view->isVisible()) return false;
+  ++questions_;
   // The question blocks only the window of the browser.
   question.setWindowModality(Qt::WindowModal);
   question_ = &question;
@@ -178,7 +153,6 @@ bool WebEnginePage::Ask(QDialog& question) {
   const int result = question.exec();
   if (self == nullptr) return false;
   question_ = nullptr;
-  if (silence != nullptr && silence->isChecked()) questions_off_ = true;
   if (on_answered) QMetaObject::invokeMethod(this, on_answered, Qt::QueuedConnection);
   return result == QDialog::Accepted || result == QMessageBox::Yes || result == QMessageBox::Ok;
 }
@@ -198,7 +172,7 @@ void WebEnginePage::javaScriptAlert(const QUrl&, const QString& text) {
 
 bool WebEnginePage::javaScriptConfirm(const QUrl&, const QString& text) {
   // A page that may not ask can't keep the person from leaving the page.
-  if ((answers_no_ || questions_off_) && text == QCoreApplication::translate("QWebEnginePage", kLeaving)) return true;
+  if (!MayAsk() && text == QCoreApplication::translate("QWebEnginePage", kLeaving)) return true;
   return AskInBox(Title(), text, QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Ok);
 }
 

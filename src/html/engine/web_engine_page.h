@@ -29,9 +29,9 @@ class WebEnginePage : public QWebEnginePage {
   // shown: the question whether to leave the page gets Yes, every other question gets No.
   void AnswerNo();
   void AllowQuestions() { answers_no_ = false; }
-  // Call at each command that loads a page. Counts questions from 0 again. If the person has switched off further
-  // questions, switches them on again. AnswerNo() stays in effect.
-  void ResetQuestions();
+  // Call at each command that loads a page. The page may then ask a limited number of questions. Later questions get
+  // the same answers as after AnswerNo(), which stays in effect.
+  void ResetQuestions() { questions_ = 0; }
   [[nodiscard]] bool Asking() const { return question_ != nullptr; }
 
   std::function<void()> on_coming;                    // a page is about to load here
@@ -50,8 +50,8 @@ class WebEnginePage : public QWebEnginePage {
   // Loads the address of a requested new window in this page, if this page may open the address.
   void OpenHere(const QUrl& address);
   void AskToLeaveTheDisk(const QUrl& address);
-  // Shows a question of the page. The third and each later question since ResetQuestions() has a check box that
-  // switches off further questions. True only if the person agrees. A page that is hidden, already asks or may not ask
+  [[nodiscard]] bool MayAsk() const;
+  // Shows a question of the page. True only if the person agrees. A page that is hidden, already asks or may not ask
   // shows no question.
   bool Ask(QDialog& question);
   bool AskInBox(const QString& title, const QString& text, QMessageBox::StandardButtons buttons,
@@ -62,9 +62,8 @@ class WebEnginePage : public QWebEnginePage {
   const PageSide side_;
   bool loaded_ = false;
   QPointer<QDialog> question_;
-  int questions_ = 0;           // number of questions since ResetQuestions()
-  bool questions_off_ = false;  // the person switched off further questions
-  bool answers_no_ = false;     // from AnswerNo() to AllowQuestions()
+  int questions_ = 0;        // number of questions shown since ResetQuestions()
+  bool answers_no_ = false;  // from AnswerNo() to AllowQuestions()
 };
 
 }  // namespace pelmar

@@ -31,7 +31,7 @@ void StatusTimer::SnapWindows() {
     if (!window->isVisible() || window->isMinimized() || window->isMaximized()) continue;
     const TwipsRect place = OuterGeometry(*window);
     const TwipsRect snapped = Snap(place, editor_.settings.AutosnapDistance, ScreenTwips(*window));
-    if (snapped != place && requests_[window].MayRequest(place, snapped)) SetOuterPlace(*window, snapped);
+    if (requests_[window].MayRequest(place, snapped)) SetOuterPlace(*window, snapped);
   }
 }
 

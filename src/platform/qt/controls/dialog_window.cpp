@@ -259,19 +259,8 @@ void DialogWindow::FitInto(QSize room) {
   for (QWidget* widget : findChildren<QWidget*>()) widget->ensurePolished();  // determines their fonts
   if (property("sizedByContents").toBool()) adjustSize();
   const QSize least = layout() != nullptr ? layout()->totalMinimumSize() : QSize();
-  if (least.width() > room.width() || least.height() > room.height()) ScrollContents(*this, EndingButtons());
+  if (least.width() > room.width() || least.height() > room.height()) ScrollContents(*this);
   resize(QSize(std::max(width(), WidthOfTitle(*this)), height()).boundedTo(room));
-}
-
-// The default button and the cancel button, in the order of the form.
-QList<QPushButton*> DialogWindow::EndingButtons() const {
-  const QString cancel = property("cancelButton").toString();
-  QList<QPushButton*> ending = findChildren<QPushButton*>();
-  ending.removeIf([&cancel](const QPushButton* button) {
-    return button->metaObject() != &QPushButton::staticMetaObject ||
-           (!button->isDefault() && button->objectName() != cancel);
-  });
-  return ending;
 }
 
 }  // namespace pelmar

@@ -10,8 +10,6 @@
 #include <map>
 #include <memory>
 
-class QPushButton;
-
 namespace pelmar {
 
 // Properties of forms. `cancelButton`: the button that Escape presses; without it Escape closes the dialog.
@@ -53,7 +51,6 @@ class DialogWindow : public QDialog {
   void FitInto(QSize room);
   void BeginInFirstField();
   bool GoToNextField();
-  QList<QPushButton*> EndingButtons() const;
 
   std::map<QObject*, std::function<void()>> on_enter_;
   QPointer<QWidget> first_field_;

@@ -231,7 +231,7 @@ bool TextBox::IsSelectedAt(QPoint point) const {
 }
 
 QPoint TextBox::CaretPoint() const {
-  view_->Layout();
+  view_->EnsureLayout();
   const std::size_t row = mover_.Row(*buffer_);
   return {view_->StopX(row, buffer_->Caret()), view_->RowTop(row) - Scrolled()};
 }
@@ -261,7 +261,7 @@ TextSpan TextBox::RowSpan(std::size_t pos) const {
 // ---- caret
 
 void TextBox::MoveCaret(TextPlace place, bool select) {
-  view_->Layout();
+  view_->EnsureLayout();
   mover_.Put(*buffer_, place, select);
   RevealCaret();
   ShowCaretAnew();

@@ -72,7 +72,7 @@ void TextBox::Do(const TextKey& key) {
 }
 
 void TextBox::Move(const TextKey& key) {
-  view_->Layout();
+  view_->EnsureLayout();
   if (key.move == CaretMove::kPageUp || key.move == CaretMove::kPageDown) {
     const int page = static_cast<int>(PageRows()) * view_->Glyphs().RowHeight();
     verticalScrollBar()->setValue(verticalScrollBar()->value() + (key.move == CaretMove::kPageUp ? -page : page));

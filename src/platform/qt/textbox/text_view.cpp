@@ -31,12 +31,16 @@ std::optional<RowsChange> TextView::Follow(const TextChange& change) {
   return layout_.Update(change);
 }
 
-const TextLayout& TextView::Layout() {
-  if (!stale_) return layout_;
+void TextView::EnsureLayout() {
+  if (!stale_) return;
   SetViewportWidth(viewport_width_());
   rules_.advances = Glyphs().Advances();
   layout_.Lay(rules_);
   stale_ = false;
+}
+
+const TextLayout& TextView::Layout() {
+  EnsureLayout();
   return layout_;
 }
 

@@ -34,6 +34,8 @@ class TextView {
   // Updates the layout after a change of the buffer. Returns nothing if a full layout is due anyway.
   std::optional<RowsChange> Follow(const TextChange& change);
 
+  // Computes the layout if a full layout is due.
+  void EnsureLayout();
   const TextLayout& Layout();
   // The layout as it is, outdated if a full layout is due. The reference is valid as long as the view.
   [[nodiscard]] const TextLayout& RawLayout() const { return layout_; }

@@ -10,7 +10,7 @@
 #include <QWindow>
 #include <algorithm>
 
-#include "platform/paths.h"
+#include "files/dropped_files.h"
 #include "platform/qt/controls/tab_keys.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/frames/outer_geometry.h"
@@ -32,15 +32,6 @@ std::vector<std::string> DroppedFiles(const QMimeData* mime) {
   for (const QUrl& url : mime->urls())
     if (url.isLocalFile()) paths.push_back(PathOfUrl(url));
   return paths;
-}
-
-// The first ten paths, one on each line. If there are more paths, a last line says how many more.
-std::string ListOf(const std::vector<std::string>& paths) {
-  constexpr std::size_t kMost = 10;
-  std::string list;
-  for (std::size_t i = 0; i < std::min(kMost, paths.size()); ++i) list += "\r\n" + paths[i];
-  if (paths.size() > kMost) list += "\r\n... a další: " + std::to_string(paths.size() - kMost);
-  return list;
 }
 
 }  // namespace
@@ -320,35 +311,12 @@ void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
 void MainWindow::dropEvent(QDropEvent* event) {
   event->acceptProposedAction();
   // The question is asked after the drop, so the source program needn't wait for the answer.
-  QMetaObject::invokeMethod(
-      this, [this, paths = DroppedFiles(event->mimeData())] { OpenDropped(paths); }, Qt::QueuedConnection);
+  const auto open = [this, paths = DroppedFiles(event->mimeData())] {
+    activateWindow();
+    OpenDropped(paths, editor_.documents, files_.opener, editor_.platform);
+  };
+  QMetaObject::invokeMethod(this, open, Qt::QueuedConnection);
 }
-
-void MainWindow::OpenDropped(std::vector<std::string> paths) {
-  activateWindow();
-  // Opening a file without an extension would make every later file operation fail. So a dropped file without an
-  // extension is refused.
-  const auto nameless = std::stable_partition(paths.begin(), paths.end(), HasExtension);
-  const std::vector<std::string> refused(nameless, paths.end());
-  paths.erase(nameless, paths.end());
-  if (refused.size() == 1) {
-    Report("Soubor " + refused.front() + " nemá příponu, nelze ho otevřít.");
-  } else if (!refused.empty()) {
-    Report("Soubory bez přípony nelze otevřít:" + ListOf(refused));
-  }
-  if (paths.empty() || !editor_.platform.Confirmed("Opravdu otevřít soubor ?", "Soubor")) return;
-  // The first file replaces the current document; the others open only in empty tabs.
-  auto path = paths.begin();
-  files_.opener.OpenPath(*path);
-  while (++path != paths.end()) {
-    const int tab = editor_.documents.EmptyTab();
-    if (tab == 0) return Report("Není volná záložka, neotevřeny zůstaly soubory:" + ListOf({path, paths.end()}));
-    editor_.documents.SwitchTo(tab);
-    files_.opener.OpenPath(*path);
-  }
-}
-
-void MainWindow::Report(const std::string& text) { editor_.platform.Message(MessageType::kOk, text, "Soubor"); }
 
 void MainWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);

@@ -78,8 +78,6 @@ class MainWindow : public QMainWindow, public MainView {
   void MakeControls();
   void AddViewCommands();
   void FollowDocuments();
-  void OpenDropped(std::vector<std::string> paths);
-  void Report(const std::string& text);
   void ToggleBar(std::string_view item, QWidget* bar);
   void ToggleAlwaysOnTop();
   void FitToFrame();

@@ -8,7 +8,6 @@
 
 #include "files/encodings.h"
 #include "shell/services/status_timer.h"
-#include "support/document_state.h"
 #include "support/program_test.h"
 
 namespace pelmar {
@@ -298,43 +297,19 @@ TEST_F(MainWindowTest, TheRecentMenuShowsAndOpensItsEntries) {
   EXPECT_EQ(text.Text(), "1");
 }
 
-struct DropTest : MainWindowTest {
-  DropTest() {
-    for (const char* name : {"b", "1", "2", "3", "4", "5", "6"})
-      platform.files[std::string("/a/") + name + ".txt"] = name;
-    editor.documents.SwitchTo(4);
-    text.SetText("mine");
-    editor.documents.SwitchTo(1);
-  }
-  void Drop(std::initializer_list<const char*> urls, const std::deque<Answer>& answers) {
-    QList<QUrl> list;
-    for (const char* url : urls) list += QUrl(QLatin1String(url));
-    QMimeData mime;
-    mime.setUrls(list);
-    QDragEnterEvent enter(QPoint(50, 50), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&main, &enter);
-    EXPECT_TRUE(enter.isAccepted());
-    platform.answers = answers;
-    QDropEvent dropped(QPointF(50, 50), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&main, &dropped);
-    EXPECT_EQ(platform.answers, answers);  // not asked while the other program waits for the drop
-    QApplication::processEvents();
-    EXPECT_TRUE(platform.answers.empty());
-  }
-};
-
-TEST_F(DropTest, ANoOpensNothing) {
-  Drop({"http://x.cz/", "file:///a/b.txt"}, {Answer::kNo});
-  EXPECT_EQ(TextsOf(editor.documents), "|||mine||");
-}
-
-TEST_F(DropTest, FilesAreOpenedAfterAQuestionUntilNoTabIsFree) {
-  Drop({"file:///a/1.txt", "file:///a/2.txt", "file:///a/3.txt", "file:///a/4.txt", "file:///a/5.txt",
-        "file:///a/6.txt"},
-       {Answer::kYes, Answer::kOk});
-  EXPECT_EQ(TextsOf(editor.documents), "1|2|3|mine|4|");
-  EXPECT_EQ(platform.calls.back(),
-            "message 0 \"Není volná záložka, neotevřeny zůstaly soubory:\r\n/a/5.txt\r\n/a/6.txt\" \"Soubor\"");
+TEST_F(MainWindowTest, ADroppedFileIsOpenedAfterTheDrop) {
+  platform.files["/a/b.txt"] = "b";
+  QMimeData mime;
+  mime.setUrls({QUrl(QStringLiteral("http://x.cz/")), QUrl(QStringLiteral("file:///a/b.txt"))});
+  QDragEnterEvent enter(QPoint(50, 50), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&main, &enter);
+  EXPECT_TRUE(enter.isAccepted());
+  platform.answers = {Answer::kYes};
+  QDropEvent dropped(QPointF(50, 50), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&main, &dropped);
+  EXPECT_EQ(platform.answers.size(), 1u);  // not asked while the other program waits for the drop
+  QApplication::processEvents();
+  EXPECT_EQ(text.Text(), "b");
 }
 
 TEST(CommandTail, NamesAFileByItsPathOrItsUrl) {
