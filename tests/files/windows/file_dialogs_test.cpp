@@ -4,7 +4,6 @@
 #include "files/windows/dos_unix_conv.h"
 #include "files/windows/otevri.h"
 #include "files/windows/uloz.h"
-#include "platform/qt/filelists/drive_list.h"
 #include "support/program_test.h"
 #include "support/temp_folder.h"
 
@@ -139,7 +138,8 @@ struct DirSetupTest : FileDialogsTest {
 };
 
 TEST_F(DirSetupTest, OkSetsTheFolderOfEveryFolderList) {
-  Find<DriveList>(dialog, "Drive1")->SetDrive(QStringLiteral("/"));
+  Work(dialog, "Drive1=0 Drive1=1");
+  EXPECT_EQ(Find<FolderList>(dialog, "Dir1")->Path(), QStringLiteral("/"));
   Expect(dialog, "Dir1=~ Command2!", "Drive1=/");
   EXPECT_EQ(WindowsAtTheFolder(), std::vector<std::string>{"DirSetup"});
   dialog.show();
