@@ -118,11 +118,6 @@ void MainWindow::FollowDocuments() {
   show_title();
 }
 
-void MainWindow::RefreshCommands() {
-  menus_->Refresh();
-  toolbar_->Refresh();
-}
-
 void MainWindow::ToggleBar(std::string_view item, QWidget* bar) {
   bar->setVisible(menus_->Action(item)->isChecked());
   ApplyLayout();

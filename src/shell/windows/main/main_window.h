@@ -38,8 +38,6 @@ class MainWindow : public QMainWindow, public MainView {
   std::function<void()> on_line_counting;  // called when a click or double click in the status bar sets LineCounting
 
   void ShowMain();
-  // Calls Refresh of the menu bar and of the toolbar. Call after all commands were added.
-  void RefreshCommands();
   // Hides the text from the screen and from assistive technology, or shows the text again. For the lock.
   void HideText(bool hide);
   // Sets the places of text box, tabs and bars, and the width of panel 4. If the window is too low for its bars, makes
