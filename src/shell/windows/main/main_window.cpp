@@ -131,11 +131,10 @@ void MainWindow::ToggleAlwaysOnTop() {
 
 void MainWindow::HideText(bool hide) {
   QScrollBar* const bar = box_->verticalScrollBar();
-  if (hide) scrolled_ = bar->value();
+  const int scrolled = bar->value();
   box_->setVisible(!hide);
-  box_->UseBuffer(hide ? nothing_ : editor_.text);
-  if (hide) return bar_->Clear();  // until the next tick
-  bar->setValue(scrolled_);
+  bar->setValue(scrolled);  // a box that is shown again has scrolled to its caret
+  if (hide) bar_->Clear();  // until the next tick
 }
 
 LayoutInput MainWindow::Measures() const {
