@@ -72,15 +72,6 @@ TEST(InstallFolder, IsTheMarkedFolderOfTheProgramOrAFolderForTheUserAlone) {
   }
 }
 
-TEST(BusyPointer, StaysUntilAllTasksEnd) {
-  QtPlatform platform;
-  for (const bool set : {false, true, true, false}) platform.SetBusyPointer(set, BusyLook::kArrow);
-  ASSERT_NE(QGuiApplication::overrideCursor(), nullptr);
-  EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::BusyCursor);
-  platform.SetBusyPointer(false, BusyLook::kArrow);
-  EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
-}
-
 TEST(Keys, InsertTogglesAtEachPressWithoutShiftOrCtrl) {
   QtPlatform platform;
   QWidget window;
