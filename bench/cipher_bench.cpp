@@ -40,7 +40,6 @@ struct Desk {
   MainWindow window{editor, files};
 
   Desk() {
-    window.RefreshCommands();
     window.SetPlace({0, 0, 15000, 12000});
     window.show();
     window.activateWindow();

@@ -63,7 +63,6 @@ struct Desk {
   explicit Desk(const benchmark::State& state) {
     const auto size = static_cast<std::size_t>(state.range(0));
     editor.settings.LineCounting = true;
-    window.RefreshCommands();
     window.SetPlace({0, 0, 15000, 12000});
     window.show();
     window.activateWindow();

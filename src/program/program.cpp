@@ -42,7 +42,6 @@ Program::Program(Platform& platform)
       timer_(main_, editor_) {
   AddCommands(editor_, files_);
   AddWindows();
-  main_.RefreshCommands();
   main_.may_close = [this] { return MayClose(); };
   rescue_.on_failure = [this](int error) { main_.Bar().WarnOfUnkept(error); };
   const auto touch = [this] {
@@ -71,9 +70,7 @@ bool Program::KeepsDocuments() const { return loaded_ && session_.Mode() == Star
 
 void Program::ShowAccessory(StartMode mode) {
   rescue_.End();
-  if (const auto found = services_.show_alone.find(mode); found != services_.show_alone.end()) return found->second();
-  platform_.Message(MessageType::kOk, "Tato část programu není nainstalována.", "Pelmar VEX");
-  EndProgram(EXIT_FAILURE);
+  services_.show_alone.at(mode)();
 }
 
 void Program::Run(const std::string& tail) {

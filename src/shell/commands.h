@@ -1,5 +1,5 @@
 // The program's commands. A command's name is the name of a menu item or the key of a toolbar button. Each subsystem
-// adds its own commands. A menu item or button without a command stays disabled.
+// adds its own commands. Every menu item and every button has one.
 #pragma once
 
 #include <functional>

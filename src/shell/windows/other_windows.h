@@ -1,4 +1,4 @@
-// Hides windows of the program on the screen and from assistive technology.
+// Hides windows of the program, for the lock.
 #pragma once
 
 #include <QObject>

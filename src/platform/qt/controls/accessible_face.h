@@ -6,20 +6,6 @@
 
 namespace pelmar {
 
-// Gives every `Control` an accessible interface of the class `Face`, whose constructor takes the control. Further calls
-// do nothing.
-template <class Control, class Face>
-void InstallFace() {
-  static const bool installed = [] {
-    QAccessible::installFactory([](const QString&, QObject* object) -> QAccessibleInterface* {
-      auto* control = qobject_cast<Control*>(object);
-      return control == nullptr ? nullptr : new Face(*control);
-    });
-    return true;
-  }();
-  Q_UNUSED(installed);
-}
-
 // Sets the role that screen readers see. Without a role, a plain widget or window counts as a container.
 void SetAccessibleRole(QWidget& widget, QAccessible::Role role);
 

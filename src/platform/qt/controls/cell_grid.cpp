@@ -6,24 +6,18 @@
 #include <algorithm>
 
 #include "platform/qt/controls/accessible_face.h"
-#include "platform/qt/controls/cell_grid_accessible.h"
 
 namespace pelmar {
 
 CellGrid::CellGrid(int cells, QWidget* parent) : QWidget(parent), cells_(cells) {
   setMouseTracking(true);
   setFocusPolicy(Qt::StrongFocus);
-  InstallFace<CellGrid, CellGridAccessible>();
+  SetAccessibleRole(*this, QAccessible::Graphic);
 }
 
 void CellGrid::Clear() {
   row_ = column_ = 0;
   update();
-}
-
-QPoint CellGrid::CellAt(QPoint point) const {
-  return {std::clamp(point.x() * cells_ / std::max(width(), 1), 0, cells_ - 1) + 1,
-          std::clamp(point.y() * cells_ / std::max(height(), 1), 0, cells_ - 1) + 1};
 }
 
 QRect CellGrid::CellRect(int row, int column) const {
@@ -38,33 +32,31 @@ void CellGrid::Enter(int row, int column) {
   Q_EMIT CellEntered(row_, column_);
 }
 
+// Marks the cell at the point, or the nearest cell if the point is outside the grid.
+void CellGrid::EnterAt(QPoint point) {
+  Enter(point.y() * cells_ / std::max(height(), 1) + 1, point.x() * cells_ / std::max(width(), 1) + 1);
+}
+
 void CellGrid::GoByKeys(int rows, int columns) {
-  Enter(std::max(row_ + rows, 1), std::max(column_ + columns, 1));
-  if (!QAccessible::isActive()) return;
-  QAccessibleEvent event(this, QAccessible::Focus);
-  event.setChild(Marked());
-  QAccessible::updateAccessibility(&event);
+  Enter(row_ + rows, column_ + columns);
+  Say();
 }
 
-QString CellGrid::CellName(int number) const {
-  return name_ ? name_(number / cells_ + 1, number % cells_ + 1) : QString::number(number);
+void CellGrid::Say() {
+  if (row_ > 0) Announce(*window(), name_(row_, column_));
 }
 
-void CellGrid::Choose(int number) {
-  Enter(number / cells_ + 1, number % cells_ + 1);
-  Q_EMIT CellChosen(row_, column_);
-}
-
-void CellGrid::mouseMoveEvent(QMouseEvent* event) {
-  const QPoint cell = CellAt(event->position().toPoint());
-  Enter(cell.y(), cell.x());
-}
+void CellGrid::mouseMoveEvent(QMouseEvent* event) { EnterAt(event->position().toPoint()); }
 
 void CellGrid::mouseReleaseEvent(QMouseEvent* event) {
   if (!rect().contains(event->position().toPoint())) return;
-  const QPoint cell = CellAt(event->position().toPoint());
-  Enter(cell.y(), cell.x());
+  EnterAt(event->position().toPoint());
   Q_EMIT CellChosen(row_, column_);
+}
+
+void CellGrid::focusInEvent(QFocusEvent* event) {
+  QWidget::focusInEvent(event);
+  Say();
 }
 
 void CellGrid::keyPressEvent(QKeyEvent* event) {

@@ -17,17 +17,9 @@ class CellGrid : public QWidget {
   QSize sizeHint() const override { return {216, 135}; }
   // Unmarks the marked cell.
   void Clear();
-  // Sets the names of the cells for screen readers.
+  // Sets the names of the cells. Screen readers say the name of the marked cell when an arrow key marks the cell, and
+  // when the grid gets the keyboard focus. Call before the grid is shown.
   void NameCells(std::function<QString(int row, int column)> name) { name_ = std::move(name); }
-
-  // `number` and Marked() count the cells in reading order, from 0. Marked() is -1 if no cell is marked.
-  [[nodiscard]] int Cells() const { return cells_; }  // how many in each row and in each column
-  [[nodiscard]] int Marked() const { return row_ > 0 ? (row_ - 1) * cells_ + column_ - 1 : -1; }
-  [[nodiscard]] QString CellName(int number) const;
-  void Choose(int number);
-
-  [[nodiscard]] QPoint CellAt(QPoint point) const;  // the column as x, the row as y
-  [[nodiscard]] QRect CellRect(int row, int column) const;
 
  Q_SIGNALS:
   void CellEntered(int row, int column);
@@ -42,13 +34,17 @@ class CellGrid : public QWidget {
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
   static constexpr int kCells = 3;
 
+  [[nodiscard]] QRect CellRect(int row, int column) const;
   void Enter(int row, int column);
+  void EnterAt(QPoint point);
   void GoByKeys(int rows, int columns);
+  void Say();
 
   std::function<QString(int row, int column)> name_;
   int cells_ = kCells;

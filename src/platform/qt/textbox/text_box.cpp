@@ -1,5 +1,6 @@
 #include "platform/qt/textbox/text_box.h"
 
+#include <QAccessible>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QInputMethod>
@@ -8,7 +9,6 @@
 #include <QStyle>
 #include <algorithm>
 
-#include "platform/qt/controls/accessible_face.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/desktop/clipboard_text.h"
 #include "platform/qt/textbox/text_box_accessible.h"
@@ -25,6 +25,12 @@ TextSpan Difference(TextSpan a, TextSpan b) {
   return {std::min(a.begin, b.begin), std::max(a.end, b.end)};
 }
 
+// The interface for screen readers.
+QAccessibleInterface* MakeFace(const QString&, QObject* object) {
+  auto* box = qobject_cast<TextBox*>(object);
+  return box == nullptr ? nullptr : new TextBoxAccessible(*box);
+}
+
 }  // namespace
 
 TextBox::TextBox(QWidget* parent)
@@ -36,7 +42,7 @@ TextBox::TextBox(QWidget* parent)
       mouse_(*this),
       drop_(*this),
       notifier_(std::make_unique<TextBoxNotifier>(*this)) {
-  InstallFace<TextBox, TextBoxAccessible>();
+  QAccessible::installFactory(&MakeFace);
   setFocusPolicy(Qt::WheelFocus);
   setAttribute(Qt::WA_InputMethodEnabled);
   setInputMethodHints(Qt::ImhMultiLine);

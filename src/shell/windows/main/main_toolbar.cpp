@@ -109,11 +109,6 @@ bool MainToolbar::TakesKey(QWidget& receiver, const QKeyEvent& press) {
   }
 }
 
-void MainToolbar::Refresh() {
-  for (QAction* action : std::as_const(initial_))
-    action->setEnabled(action->isSeparator() || commands_.Has(Utf8FromQString(action->objectName())));
-}
-
 void MainToolbar::ShowRecentFiles() {
   for (int number = 1; number <= 10; ++number) {
     QAction* action = recent_[IndexFromOne(number)];

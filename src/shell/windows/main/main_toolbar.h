@@ -15,8 +15,6 @@ class MainToolbar : public QToolBar {
  public:
   MainToolbar(const Commands& commands, Files& files, QWidget* parent = nullptr);
 
-  // Enables every button whose command exists, and disables the others. Call after commands were added.
-  void Refresh();
   void ShowRecentFiles();
   // Shows all buttons and separators in their original order.
   void Reset();

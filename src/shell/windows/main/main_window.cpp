@@ -109,11 +109,6 @@ void MainWindow::FollowDocuments() {
   show_title();
 }
 
-void MainWindow::RefreshCommands() {
-  menus_->Refresh();
-  toolbar_->Refresh();
-}
-
 void MainWindow::ToggleBar(std::string_view item, QWidget* bar) {
   bar->setVisible(menus_->Action(item)->isChecked());
   ApplyLayout();
@@ -127,11 +122,10 @@ void MainWindow::ToggleAlwaysOnTop() {
 
 void MainWindow::HideText(bool hide) {
   QScrollBar* const bar = box_->verticalScrollBar();
-  if (hide) scrolled_ = bar->value();
+  const int scrolled = bar->value();
   box_->setVisible(!hide);
-  box_->UseBuffer(hide ? nothing_ : editor_.text);
-  if (hide) return bar_->Clear();  // until the next tick
-  bar->setValue(scrolled_);
+  bar->setValue(scrolled);  // a box that is shown again has scrolled to its caret
+  if (hide) bar_->Clear();  // until the next tick
 }
 
 LayoutInput MainWindow::Measures() const {

@@ -38,9 +38,7 @@ class MainWindow : public QMainWindow, public MainView {
   std::function<void()> on_line_counting;  // called when a click or double click in the status bar sets LineCounting
 
   void ShowMain();
-  // Calls Refresh of the menu bar and of the toolbar. Call after all commands were added.
-  void RefreshCommands();
-  // Hides the text from the screen and from assistive technology, or shows the text again. For the lock.
+  // Hides the text and clears the status bar, or shows the text again. For the lock.
   void HideText(bool hide);
   // Sets the places of text box, tabs and bars, and the width of panel 4. If the window is too low for its bars, makes
   // the window higher.
@@ -88,8 +86,6 @@ class MainWindow : public QMainWindow, public MainView {
   Editor& editor_;
   Files& files_;
   std::vector<Listening> listenings_;
-  TextBuffer nothing_;  // always empty: the text of the box while the document is hidden
-  int scrolled_ = 0;    // the scroll position before the text was hidden
   QWidget* client_ = nullptr;
   MenuBar* menus_ = nullptr;
   MainToolbar* toolbar_ = nullptr;

@@ -93,14 +93,6 @@ MenuBar::MenuBar(const Commands& commands, QWidget* parent) : QMenuBar(parent), 
   }
 }
 
-bool MenuBar::IsUsable(const QAction* action, std::string_view name) const {
-  return action->menu() != nullptr || action->isSeparator() || commands_.Has(name);
-}
-
-void MenuBar::Refresh() {
-  for (const auto& [name, action] : actions_) action->setEnabled(IsUsable(action, name));
-}
-
 void MenuBar::Apply(const MenuState& state) {
   SetEnabled(ItemsOfPath(), state.has_path);
   SetEnabled(ItemsOfClipboard(), state.has_clipboard);
@@ -202,10 +194,7 @@ bool MenuBar::KeyInMenu(QMenu& menu, const QKeyEvent& key) {
 }
 
 void MenuBar::SetEnabled(std::span<const std::string_view> names, bool enabled) {
-  for (const std::string_view name : names) {
-    QAction* action = Action(name);
-    action->setEnabled(enabled && IsUsable(action, name));
-  }
+  for (const std::string_view name : names) Action(name)->setEnabled(enabled);
 }
 
 }  // namespace pelmar

@@ -27,10 +27,7 @@ class MenuBar : public QMenuBar {
   // Null if the item is no submenu.
   [[nodiscard]] QMenu* Submenu(std::string_view name) const { return Action(name)->menu(); }
 
-  // Enables every submenu and every item that has a command, and disables all other items. Call after commands were
-  // added. The next Apply may disable items that depend on the state.
-  void Refresh();
-  // Enables or disables the items that depend on the state. An item without a command stays disabled.
+  // Enables or disables the items that depend on the state. All other items are always enabled.
   void Apply(const MenuState& state);
   // Apply runs only on ticks of the status timer, so an item may still be disabled when the state already allows its
   // command. Runs the command of such an item if `keys` is its shortcut. `now` computes the present state. True if
@@ -47,7 +44,6 @@ class MenuBar : public QMenuBar {
   void CloseMenus();
   bool KeyInMenu(QMenu& menu, const QKeyEvent& key);
   void SetEnabled(std::span<const std::string_view> names, bool enabled);
-  [[nodiscard]] bool IsUsable(const QAction* action, std::string_view name) const;
 
   const Commands& commands_;
   QPointer<QWidget> before_;  // had the keyboard focus before the menu bar

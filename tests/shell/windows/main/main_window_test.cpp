@@ -96,7 +96,15 @@ TEST_F(MenuTest, TheToolbarHasItsTipsAndSeparators) {
               "Interní browser");
 }
 
-// The names of the disabled items. An item without a command would be disabled in every row.
+TEST_F(MenuTest, EachItemAndButtonHasACommand) {
+  for (const MenuItem& item : MenuItems()) {
+    const bool runs = item.kind != MenuKind::kSubmenu && item.kind != MenuKind::kSeparator;
+    EXPECT_EQ(editor.commands.Has(item.name), runs) << item.name;
+  }
+  for (const ToolbarButton& button : ToolbarButtons()) EXPECT_TRUE(editor.commands.Has(button.key)) << button.key;
+}
+
+// The names of the disabled items.
 TEST_F(MenuTest, ItemsNeedAPathAClipboardATextOrASelection) {
   const std::pair<MenuState, const char*> cases[] = {
       {{true, true, true, true}, ""},
@@ -112,7 +120,7 @@ TEST_F(MenuTest, ItemsNeedAPathAClipboardATextOrASelection) {
     bar.Apply(state);
     std::string off;
     for (const MenuItem& item : MenuItems())
-      if (item.kind != MenuKind::kSeparator && !bar.Action(item.name)->isEnabled()) off += std::string(item.name) + ' ';
+      if (!bar.Action(item.name)->isEnabled()) off += std::string(item.name) + ' ';
     EXPECT_EQ(off, expected);
   }
 }
