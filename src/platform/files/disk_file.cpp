@@ -38,6 +38,7 @@ Source OpenRegular(const std::string& path) {
 
 int ReadAll(int file, std::uint64_t limit, std::string& bytes) {
   constexpr std::size_t kStep = 1 << 16;
+  bytes.reserve(static_cast<std::size_t>(limit));
   while (bytes.size() < limit) {
     const std::size_t had = bytes.size();
     bytes.resize(had + static_cast<std::size_t>(std::min<std::uint64_t>(kStep, limit - had)));
