@@ -34,6 +34,9 @@ struct LocalTime {
   int year = 0, month = 0, day = 0, hour = 0, minute = 0, second = 0;
 };
 
+// The limit for ReadFile to read a file of any size.
+inline constexpr std::uint64_t kAnySize = UINT64_MAX;
+
 struct FileBytes {
   int error = 0;  // 0 or an errno
   std::string bytes;

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <new>
+#include <exception>
 
 #include "platform/files/descriptor.h"
 #include "platform/files/file_target.h"
@@ -91,7 +91,7 @@ FileBytes ReadWholeFile(const std::string& path, std::optional<std::uint64_t> li
   FileBytes result;
   try {
     result.error = ReadAll(source.file.Number(), std::min(limit.value_or(source.size), source.size), result.bytes);
-  } catch (const std::bad_alloc&) {
+  } catch (const std::exception&) {  // the size is beyond the memory (bad_alloc) or beyond every string (length_error)
     result.error = ENOMEM;
   }
   if (result.error != 0) result.bytes.clear();
