@@ -1,7 +1,10 @@
 #include "files/encodings.h"
 
 #include <array>
+#include <cstddef>
+#include <cstdint>
 #include <cstdio>
+#include <optional>
 
 #include "files/line_ends.h"
 #include "files/save.h"
@@ -9,11 +12,24 @@
 #include "platform/paths.h"
 #include "shell/file_number.h"
 #include "text/codepage.h"
+#include "text/utf8.h"
 
 namespace pelmar {
 namespace {
 
-bool IsOutsidePage(char32_t character) { return character != U'?' && CodeOfUnicode(character) == '?'; }
+// A position in a file. All three numbers count from 1. CR LF, CR and LF each end a line. Columns count characters,
+// without a byte order mark at the start of the file.
+struct FilePlace {
+  std::uint64_t byte = 1, line = 1, column = 1;
+};
+
+// What a conversion from UTF-8 to Windows-1250 would lose.
+struct Utf8Survey {
+  std::optional<FilePlace> malformed;  // the first malformed UTF-8; later characters are not counted
+  std::uint64_t outside = 0;           // number of characters missing in Windows-1250
+  FilePlace first_outside;
+  char32_t first_outside_character = 0;
+};
 
 void Report(Platform& platform, const std::string& text) { platform.Message(MessageType::kOk, text, kConversionTitle); }
 
@@ -39,16 +55,32 @@ void ReportError(Platform& platform, const std::string& path, const WriteOutcome
                        std::to_string(outcome.error) + ": " + ErrorText(outcome.error) + KeptNotice(outcome));
 }
 
-// Reads the file into `survey`, up to malformed UTF-8. If the file can't be read, shows a message and returns false.
-bool ReadInto(Platform& platform, const std::string& path, Utf8Survey& survey) {
-  int error = 0;
-  {
-    const BusyPointer busy(platform);
-    error = platform.ReadByPieces(path, [&](std::string_view piece) { return survey.Take(piece); });
+// `start` is the size of the byte order mark, 0 if there is none.
+Utf8Survey Survey(std::string_view bytes, std::size_t start) {
+  Utf8Survey survey;
+  FilePlace place{.byte = start + 1};
+  bool after_cr = false;
+  for (std::size_t at = start; at < bytes.size();) {
+    const char32_t character = DecodeUtf8(bytes, at);
+    if (character == kMalformedUtf8) {
+      survey.malformed = place;
+      break;
+    }
+    if (FindCode(character) < 0 && survey.outside++ == 0) {
+      survey.first_outside = place;
+      survey.first_outside_character = character;
+    }
+    place.byte = at + 1;
+    const bool ends_line = character == '\r' || (character == '\n' && !after_cr);
+    if (ends_line) {
+      ++place.line;
+      place.column = 1;
+    } else if (character != '\n') {
+      ++place.column;
+    }
+    after_cr = character == '\r';
   }
-  survey.Finish();
-  if (error != 0) ReportError(platform, path, {.error = error});
-  return error == 0;
+  return survey;
 }
 
 // False if the target is the source file, or if the person refuses to overwrite the target. A message reports the first
@@ -58,12 +90,8 @@ bool MayWrite(Platform& platform, const std::string& path, const std::string& ta
          (!platform.CanRead(target) || Agreed(platform, OverwriteQuestion(target)));
 }
 
-void Write(Platform& platform, const std::string& path, const std::string& target, FileRewriter& rewriter) {
-  WriteOutcome outcome;
-  {
-    const BusyPointer busy(platform);
-    outcome = platform.RewriteFile(path, target, OldTail::kDrop, rewriter);
-  }
+void Write(Platform& platform, const std::string& target, std::string_view bytes) {
+  const WriteOutcome outcome = platform.WriteDocument(target, bytes);
   if (outcome.error != 0) ReportError(platform, target, outcome);
 }
 
@@ -97,62 +125,6 @@ std::string MixQuestion(const std::string& path) {
          "Přesto uložit ?";
 }
 
-bool Utf8Survey::Take(std::string_view piece) {
-  for (const char byte : piece) {
-    if (malformed) return false;
-    const char32_t character = decoder_.Take(byte);
-    ++read_;
-    if (character == kUnfinishedUtf8) continue;
-    if (character == kMalformedUtf8)
-      malformed = place_;
-    else
-      Note(character);
-  }
-  return !malformed;
-}
-
-void Utf8Survey::Finish() {
-  if (!malformed && decoder_.InCharacter()) malformed = place_;
-}
-
-void Utf8Survey::Note(char32_t character) {
-  beyond_ascii |= character >= 0x80;
-  const bool mark = character == kByteOrderMark && place_.byte == 1;
-  if (!mark && IsOutsidePage(character) && outside++ == 0) {
-    first_outside = place_;
-    first_outside_character = character;
-  }
-  place_.byte = read_ + 1;
-  const bool ends_line = character == '\r' || (character == '\n' && !after_cr_);
-  if (ends_line) {
-    ++place_.line;
-    place_.column = 1;
-  } else if (!mark && character != '\n') {
-    ++place_.column;
-  }
-  after_cr_ = character == '\r';
-}
-
-std::string_view Utf8ToPage::Rewrite(std::string_view piece) {
-  out_.clear();
-  for (const char byte : piece) {
-    const char32_t character = decoder_.Take(byte);
-    if (character == kUnfinishedUtf8) continue;
-    if (begun_ || character != kByteOrderMark) out_ += static_cast<char>(CodeOfUnicode(character));
-    begun_ = true;
-  }
-  result_length_ += out_.size();
-  return out_;
-}
-
-std::string_view PageToUtf8::Rewrite(std::string_view piece) {
-  out_ = ToUtf8(piece);
-  if (mark_) out_.insert(0, kByteOrderMarkBytes);
-  mark_ = false;
-  result_length_ += out_.size();
-  return out_;
-}
-
 std::string WithExtension(std::string_view path, std::string_view extension) {
   const std::string_view name = NameOf(path);
   if (const std::size_t dot = name.rfind('.'); dot != 0 && dot != std::string_view::npos)
@@ -161,9 +133,12 @@ std::string WithExtension(std::string_view path, std::string_view extension) {
 }
 
 void ConvertToPage(Platform& platform, const std::string& path) {
+  const BusyPointer busy(platform);
   const std::string target = WithExtension(path, "1250");
-  Utf8Survey survey;
-  if (!ReadInto(platform, path, survey)) return;
+  const FileBytes file = platform.ReadFile(path, std::nullopt);
+  if (file.error != 0) return ReportError(platform, path, {.error = file.error});
+  const std::size_t start = file.bytes.starts_with(kByteOrderMarkBytes) ? kByteOrderMarkBytes.size() : 0;
+  const Utf8Survey survey = Survey(file.bytes, start);
   if (survey.malformed)
     return Report(platform,
                   "Soubor " + path + " není v UTF-8:\r\n" + Described(*survey.malformed) + ".\r\nNic nebylo zapsáno.");
@@ -173,21 +148,20 @@ void ConvertToPage(Platform& platform, const std::string& path) {
                             Described(survey.first_outside_character) + ": " + Described(survey.first_outside) +
                             ".\r\n\r\nZapsat místo nich \"?\" ?"))
     return;
-  if (!MayWrite(platform, path, target)) return;
-  Utf8ToPage rewriter;
-  Write(platform, path, target, rewriter);
+  if (MayWrite(platform, path, target)) Write(platform, target, FromUtf8(std::string_view(file.bytes).substr(start)));
 }
 
 void ConvertToUtf8(Platform& platform, const std::string& path, bool byte_order_mark) {
+  const BusyPointer busy(platform);
   const std::string target = WithExtension(path, "utf8");
-  Utf8Survey survey;
-  if (!ReadInto(platform, path, survey)) return;
-  if (!survey.malformed && survey.beyond_ascii &&
-      !Agreed(platform, "Soubor " + path + " je v UTF-8 už teď.\r\nOpravdu převést ?"))
+  const FileBytes file = platform.ReadFile(path, std::nullopt);
+  if (file.error != 0) return ReportError(platform, path, {.error = file.error});
+  if (LooksLikeUtf8(file.bytes) && !Agreed(platform, "Soubor " + path + " je v UTF-8 už teď.\r\nOpravdu převést ?"))
     return;
   if (!MayWrite(platform, path, target)) return;
-  PageToUtf8 rewriter(byte_order_mark);
-  Write(platform, path, target, rewriter);
+  std::string utf8 = ToUtf8(file.bytes);
+  if (byte_order_mark) utf8.insert(0, kByteOrderMarkBytes);
+  Write(platform, target, utf8);
 }
 
 }  // namespace pelmar

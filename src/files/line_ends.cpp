@@ -1,6 +1,8 @@
 #include "files/line_ends.h"
 
-#include <cstring>
+#include <algorithm>
+#include <cstddef>
+#include <utility>
 
 #include "platform/error_text.h"
 #include "platform/runtime_error.h"
@@ -9,12 +11,24 @@
 namespace pelmar {
 namespace {
 
-void Convert(Platform& platform, const std::string& path, std::string_view extension, OldTail tail,
-             FileRewriter& rewriter) {
+WriteOutcome WriteUnix(Platform& platform, const std::string& target, std::string text) {
+  std::string bytes = ToLineFeeds(std::move(text));
+  if (const int error = AppendOldTail(platform, target, bytes)) return {.error = error};
+  return platform.WriteDocument(target, bytes);
+}
+
+WriteOutcome WriteDos(Platform& platform, const std::string& target, std::string text) {
+  return platform.WriteDocument(target, ToCrLf(text));
+}
+
+void Convert(Platform& platform, const std::string& path, std::string_view extension,
+             WriteOutcome (*write)(Platform& platform, const std::string& target, std::string text)) {
   const std::string target = ConvertedPath(path, extension);
   if (IsOwnSource(platform, path, target)) return;
   const BusyPointer busy(platform);
-  const WriteOutcome outcome = platform.RewriteFile(path, target, tail, rewriter);
+  FileBytes source = platform.ReadFile(path, kAnySize);
+  const WriteOutcome outcome =
+      source.error != 0 ? WriteOutcome{.error = source.error} : write(platform, target, std::move(source.bytes));
   if (outcome.error == 0) return;
   throw RuntimeError(outcome.error, "Konverze souboru " + path + " do " + target + ": " + ErrorText(outcome.error) +
                                         KeptNotice(outcome));
@@ -23,42 +37,29 @@ void Convert(Platform& platform, const std::string& path, std::string_view exten
 }  // namespace
 
 // The loop has no branches, so a file that consists only of line ends is converted as fast as any other.
-std::string_view ToLineFeeds::Rewrite(std::string_view piece) {
-  if (out_.size() < piece.size()) out_.resize(piece.size());
-  char* to = out_.data();
-  char before = after_cr_ ? '\r' : '\0';
-  for (const char ch : piece) {
+std::string ToLineFeeds(std::string text) {
+  char* to = text.data();
+  char before = '\0';
+  for (const char ch : text) {
     *to = ch == '\r' ? '\n' : ch;
     to += !(before == '\r' && ch == '\n');
     before = ch;
   }
-  after_cr_ = before == '\r';
-  const std::string_view out(out_.data(), static_cast<std::size_t>(to - out_.data()));
-  if (!out.empty()) in_line_ = out.back() != '\n';
-  result_length_ += out.size();
-  return out;
+  text.resize(static_cast<std::size_t>(to - text.data()));
+  if (!text.empty() && text.back() != '\n') text += '\n';
+  return text;
 }
 
-std::string_view ToLineFeeds::Finish() {
-  const std::string_view out = in_line_ ? "\n" : "";
-  result_length_ += out.size();
-  return out;
-}
-
-std::string_view ToCrLf::Rewrite(std::string_view piece) {
-  if (out_.size() < 2 * piece.size()) out_.resize(2 * piece.size());
-  char* to = out_.data();
-  for (const char ch : piece) {
+std::string ToCrLf(std::string_view text) {
+  text = text.substr(0, text.rfind('\n') + 1);
+  std::string converted(text.size() + static_cast<std::size_t>(std::ranges::count(text, '\n')), '\0');
+  char* to = converted.data();
+  for (const char ch : text) {
     *to = '\r';
     to += ch == '\n';
     *to++ = ch;
   }
-  const std::string_view out(out_.data(), static_cast<std::size_t>(to - out_.data()));
-  const void* const feed = out.empty() ? nullptr : memrchr(out.data(), '\n', out.size());
-  if (feed != nullptr)
-    result_length_ = put_ + static_cast<std::uint64_t>(static_cast<const char*>(feed) - out.data()) + 1;
-  put_ += out.size();
-  return out;
+  return converted;
 }
 
 bool IsOwnSource(Platform& platform, const std::string& path, const std::string& target) {
@@ -71,14 +72,8 @@ std::string ConvertedPath(std::string_view path, std::string_view extension) {
   return std::string(path.substr(0, path.find('.') + 1)).append(extension);
 }
 
-void ConvertToUnix(Platform& platform, const std::string& path) {
-  ToLineFeeds rewriter;
-  Convert(platform, path, "unx", OldTail::kKeep, rewriter);
-}
+void ConvertToUnix(Platform& platform, const std::string& path) { Convert(platform, path, "unx", WriteUnix); }
 
-void ConvertToDos(Platform& platform, const std::string& path) {
-  ToCrLf rewriter;
-  Convert(platform, path, "dos", OldTail::kDrop, rewriter);
-}
+void ConvertToDos(Platform& platform, const std::string& path) { Convert(platform, path, "dos", WriteDos); }
 
 }  // namespace pelmar

@@ -1,41 +1,19 @@
 // Converts the line ends of a file on disk to LF or to CR LF. The conversion looks only for the bytes CR and LF, so the
-// code page doesn't matter. Files of any size are read in pieces.
+// code page doesn't matter. A file is converted in memory and can be of any size that fits there.
 #pragma once
 
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "platform/platform.h"
 
 namespace pelmar {
 
 // CR LF, CR and LF each end a line. Each line is written with LF at its end, the last one too.
-class ToLineFeeds : public FileRewriter {
- public:
-  std::string_view Rewrite(std::string_view piece) override;
-  std::string_view Finish() override;
-  [[nodiscard]] std::uint64_t ResultLength() const override { return result_length_; }
-
- private:
-  std::vector<char> out_;
-  std::uint64_t result_length_ = 0;
-  bool after_cr_ = false;  // the last byte was a CR; an LF that follows ends the same line
-  bool in_line_ = false;   // the last line has no end yet
-};
+std::string ToLineFeeds(std::string text);
 
 // Writes a CR before each LF, even after a CR: CR LF becomes CR CR LF. required: text after the last LF is lost.
-class ToCrLf : public FileRewriter {
- public:
-  std::string_view Rewrite(std::string_view piece) override;
-  std::string_view Finish() override { return {}; }
-  [[nodiscard]] std::uint64_t ResultLength() const override { return result_length_; }
-
- private:
-  std::vector<char> out_;
-  std::uint64_t put_ = 0;
-  std::uint64_t result_length_ = 0;
-};
+std::string ToCrLf(std::string_view text);
 
 inline constexpr std::string_view kConversionTitle = "Konverze UNIX <-> DOS";
 

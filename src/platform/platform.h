@@ -34,6 +34,9 @@ struct LocalTime {
   int year = 0, month = 0, day = 0, hour = 0, minute = 0, second = 0;
 };
 
+// The limit for ReadFile to read a file of any size.
+inline constexpr std::uint64_t kAnySize = UINT64_MAX;
+
 struct FileBytes {
   int error = 0;  // 0 or an errno
   std::string bytes;
@@ -92,25 +95,6 @@ struct PrintOutcome {
   std::string pdf = {};      // the path of the PDF file, which was written if `error` is 0
 };
 
-// Changes the bytes of a file on their way into another file. Returned bytes are valid until the next call.
-class FileRewriter {
- public:
-  FileRewriter() = default;
-  FileRewriter(const FileRewriter&) = delete;
-  FileRewriter& operator=(const FileRewriter&) = delete;
-  virtual ~FileRewriter() = default;
-
-  virtual std::string_view Rewrite(std::string_view piece) = 0;
-  // Returns the bytes that follow the last piece.
-  virtual std::string_view Finish() = 0;
-  // How many of the returned bytes form the new content, counted from the first. The rest is cut off. Call after
-  // Finish.
-  [[nodiscard]] virtual std::uint64_t ResultLength() const = 0;
-};
-
-// What happens to the rest of an old file that is longer than the new content.
-enum class OldTail { kDrop, kKeep };
-
 // The pointer during a long command: an hourglass, or an arrow with an hourglass.
 enum class BusyLook { kHourglass, kArrow };
 
@@ -154,11 +138,6 @@ class Platform {
   virtual int WritePrivateFile(const std::string& path, std::string_view bytes) = 0;
   // Creates a file that only its owner can read. EEXIST if the name is taken, even by a link that leads nowhere.
   virtual int WriteNewFile(const std::string& path, std::string_view bytes) = 0;  // 0 or an errno
-  // Gives a file to `take` in pieces. Stops without an error if `take` returns false. The result is 0 or an errno.
-  virtual int ReadByPieces(const std::string& path, const std::function<bool(std::string_view piece)>& take) = 0;
-  // Copies a file of any size through `rewriter`. The target is replaced or overwritten as in WriteDocument.
-  virtual WriteOutcome RewriteFile(const std::string& source, const std::string& target, OldTail tail,
-                                   FileRewriter& rewriter) = 0;
   // Nothing on an error, for instance if there is no such file.
   virtual std::optional<FileStamp> Stamp(const std::string& path) = 0;
   // Whether both paths lead to the same file.

@@ -31,6 +31,12 @@ std::string KeptNotice(const WriteOutcome& outcome) {
   return outcome.kept.empty() ? "" : "\r\nSoubor je poškozen, jeho původní obsah leží v " + outcome.kept;
 }
 
+int AppendOldTail(Platform& platform, const std::string& path, std::string& bytes) {
+  const FileBytes old = platform.ReadFile(path, kAnySize);
+  if (old.bytes.size() > bytes.size()) bytes.append(old.bytes, bytes.size());
+  return old.error == ENOENT ? 0 : old.error;  // a missing file has no tail
+}
+
 void WriteFileOn(FileNumber& number, Platform& platform, const std::string& path, std::string_view bytes) {
   const FileNumberGuard open(number);
   Check(platform.WriteDocument(path, bytes), path, kCantWrite);
@@ -38,10 +44,7 @@ void WriteFileOn(FileNumber& number, Platform& platform, const std::string& path
 
 void WriteRecordOn(FileNumber& number, Platform& platform, const std::string& path, std::string record) {
   const FileNumberGuard open(number);
-  const FileBytes old = platform.ReadFile(path, std::nullopt);
-  // A missing file is no error, because it has no tail to keep.
-  if (old.error != ENOENT) Check({.error = old.error}, path, kCantWrite);
-  if (old.bytes.size() > record.size()) record += old.bytes.substr(record.size());
+  Check({.error = AppendOldTail(platform, path, record)}, path, kCantWrite);
   Check(platform.WriteDocument(path, record), path, kCantWrite);
 }
 

@@ -53,6 +53,10 @@ RuntimeError Unreadable(const std::string& path, int error);
 // if outcome.kept is empty.
 std::string KeptNotice(const WriteOutcome& outcome);
 
+// Appends what a write of `bytes` over the start of the file would leave of a longer old file. Returns 0, or an errno
+// if an existing file can't be read.
+int AppendOldTail(Platform& platform, const std::string& path, std::string& bytes);
+
 // The functions below access the program's own files and hold the file number. All throw RuntimeError if a step fails.
 void WriteFileOn(FileNumber& number, Platform& platform, const std::string& path, std::string_view bytes);
 // Overwrites the start of the file and keeps the tail of a longer old file. Never overwrites an unreadable file.

@@ -24,10 +24,9 @@ void AppendUtf8(std::string& utf8, char32_t character) {
 }
 
 bool IsUtf8(std::string_view bytes) {
-  Utf8Decoder decoder;
-  for (const char byte : bytes)
-    if (decoder.Take(byte) == kMalformedUtf8) return false;
-  return !decoder.InCharacter();
+  for (std::size_t at = 0; at < bytes.size();)
+    if (DecodeUtf8(bytes, at) == kMalformedUtf8) return false;
+  return true;
 }
 
 bool LooksLikeUtf8(std::string_view bytes) {

@@ -106,31 +106,6 @@ class ScriptedPlatform : public Platform, public Paper {
     if (const int error = ErrorAt(path, write_errors)) return error;
     return files.try_emplace(path, bytes).second ? 0 : EEXIST;
   }
-  // Passes pieces of three bytes, so that a text is cut at many places.
-  int ReadByPieces(const std::string& path, const std::function<bool(std::string_view piece)>& take) override {
-    if (const int error = ReadError(path)) return error;
-    const std::string_view bytes = files[path];
-    for (std::size_t at = 0; at < bytes.size(); at += 3)
-      if (!take(bytes.substr(at, 3))) break;
-    return 0;
-  }
-  WriteOutcome RewriteFile(const std::string& source, const std::string& target, OldTail tail,
-                           FileRewriter& rewriter) override {
-    Note("rewrite " + source + ' ' + target);
-    std::string out;
-    const auto rewrite = [&](std::string_view piece) {
-      out += rewriter.Rewrite(piece);
-      return true;
-    };
-    if (const int error = ReadByPieces(source, rewrite)) return {.error = error};
-    out += rewriter.Finish();
-    out.resize(static_cast<std::size_t>(rewriter.ResultLength()));
-    if (const int error = ErrorAt(target, write_errors)) return {.error = error, .kept = kept_content};
-    const std::string& old = files[target];
-    if (tail == OldTail::kKeep && old.size() > out.size()) out += old.substr(out.size());
-    files[target] = out;
-    return {};
-  }
   // Files with equal bytes have equal stamps.
   std::optional<FileStamp> Stamp(const std::string& path) override {
     const auto found = files.find(path);

@@ -7,6 +7,7 @@
 #include "files/outside_changes.h"
 #include "platform/paths.h"
 #include "platform/qt/convert.h"
+#include "text/utf8.h"
 
 namespace pelmar {
 namespace {

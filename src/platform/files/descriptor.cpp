@@ -16,25 +16,6 @@ int WriteAll(int file, std::string_view bytes) {
   return 0;
 }
 
-int ForEachPiece(int file, const std::function<int(std::string_view)>& take) {
-  constexpr std::size_t kPiece = std::size_t{256} << 10;  // fits in the processor's cache
-  std::string piece(kPiece, '\0');
-  while (true) {
-    const ssize_t got = read(file, piece.data(), piece.size());
-    if (got < 0 && errno == EINTR) continue;
-    if (got < 0) return errno;
-    if (got == 0) return 0;
-    if (const int error = take(std::string_view(piece).substr(0, static_cast<std::size_t>(got)))) return error;
-  }
-}
-
-int CopyWhole(int from, int to) {
-  if (lseek(from, 0, SEEK_SET) < 0 || lseek(to, 0, SEEK_SET) < 0) return errno;
-  if (const int error = ForEachPiece(from, [to](std::string_view piece) { return WriteAll(to, piece); })) return error;
-  const off_t end = lseek(to, 0, SEEK_CUR);
-  return end >= 0 && ftruncate(to, end) == 0 ? 0 : errno;
-}
-
 std::string FolderOf(const std::string& path) { return path.substr(0, path.rfind('/') + 1); }
 
 int Sync(int file) { return fsync(file) != 0 && errno != EINVAL && errno != ENOTSUP ? errno : 0; }

@@ -1,4 +1,4 @@
-// An open file, and functions that read, write and sync open files. A function outside the class whose result is an int
+// An open file, and functions that write and sync open files. A function outside the class whose result is an int
 // returns 0 or an errno.
 #pragma once
 
@@ -6,7 +6,6 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <functional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -41,13 +40,6 @@ class Descriptor {
 inline constexpr int kOpenSafely = O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
 
 int WriteAll(int file, std::string_view bytes);
-
-// Reads a file in pieces, from its current position to its end, and passes each piece to `take`. If `take` returns
-// another number than 0, stops reading and returns this number.
-int ForEachPiece(int file, const std::function<int(std::string_view)>& take);
-
-// Replaces the content of the file `to` by the whole content of the file `from`.
-int CopyWhole(int from, int to);
 
 // The part of a path up to its last separator, with the separator. "" if the path has no separator.
 std::string FolderOf(const std::string& path);

@@ -5,7 +5,7 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <new>
+#include <exception>
 
 #include "platform/files/descriptor.h"
 #include "platform/files/file_target.h"
@@ -38,6 +38,7 @@ Source OpenRegular(const std::string& path) {
 
 int ReadAll(int file, std::uint64_t limit, std::string& bytes) {
   constexpr std::size_t kStep = 1 << 16;
+  bytes.reserve(static_cast<std::size_t>(limit));
   while (bytes.size() < limit) {
     const std::size_t had = bytes.size();
     bytes.resize(had + static_cast<std::size_t>(std::min<std::uint64_t>(kStep, limit - had)));
@@ -48,35 +49,6 @@ int ReadAll(int file, std::uint64_t limit, std::string& bytes) {
     if (got < 0 && error != EINTR) return error;
   }
   return 0;
-}
-
-// Writes from the current position of `to`.
-int RewriteInto(int to, int from, FileRewriter& rewriter) {
-  const int error = ForEachPiece(from, [&](std::string_view piece) { return WriteAll(to, rewriter.Rewrite(piece)); });
-  return error != 0 ? error : WriteAll(to, rewriter.Finish());
-}
-
-// Cuts `to` after its first `kept` bytes. Then appends the bytes of `old` from position `kept` on, or nothing if `old`
-// is -1.
-int CopyTail(int old, int to, std::uint64_t kept) {
-  const auto at = static_cast<off_t>(kept);
-  if (ftruncate(to, at) != 0) return errno;
-  if (old < 0) return 0;
-  if (lseek(to, at, SEEK_SET) < 0 || lseek(old, at, SEEK_SET) < 0) return errno;
-  return ForEachPiece(old, [to](std::string_view piece) { return WriteAll(to, piece); });
-}
-
-// Replaces the target by a new file. If the folder or the old file doesn't allow this, overwrites the target.
-WriteOutcome WriteOver(const Target& target, NewContent content, const std::string& keep_folder, mode_t new_mode) {
-  const Beside beside = WriteBeside(target, content, new_mode);
-  if (!beside.try_in_place) return {.error = beside.error};
-  if (beside.content.IsOpen()) {
-    content.fill = [&beside](int to, int) { return CopyWhole(beside.content.Number(), to); };
-    content.reads_old = false;
-    struct stat written {};
-    if (fstat(beside.content.Number(), &written) == 0) content.size = static_cast<std::uint64_t>(written.st_size);
-  }
-  return WriteInPlace(target, content, keep_folder);
 }
 
 }  // namespace
@@ -90,45 +62,19 @@ FileBytes ReadWholeFile(const std::string& path, std::optional<std::uint64_t> li
   FileBytes result;
   try {
     result.error = ReadAll(source.file.Number(), std::min(limit.value_or(source.size), source.size), result.bytes);
-  } catch (const std::bad_alloc&) {
+  } catch (const std::exception&) {  // the size is beyond the memory (bad_alloc) or beyond every string (length_error)
     result.error = ENOMEM;
   }
   if (result.error != 0) result.bytes.clear();
   return result;
 }
 
-int ReadFileByPieces(const std::string& path, const std::function<bool(std::string_view)>& take) {
-  constexpr int kEnough = -1;
-  const Source source = OpenRegular(path);
-  if (source.error != 0) return source.error;
-  const int error =
-      ForEachPiece(source.file.Number(), [&](std::string_view piece) { return take(piece) ? 0 : kEnough; });
-  return error == kEnough ? 0 : error;
-}
-
 WriteOutcome ReplaceFile(const std::string& path, std::string_view bytes, const std::string& keep_folder,
                          mode_t new_mode) {
   const Target target = FindTarget(path);
   if (target.error != 0) return {.error = target.error};
-  const auto fill = [bytes](int to, int) {
-    if (const int error = WriteAll(to, bytes)) return error;
-    return ftruncate(to, static_cast<off_t>(bytes.size())) == 0 ? 0 : errno;
-  };
-  return WriteOver(target, {.fill = fill, .size = bytes.size()}, keep_folder, new_mode);
-}
-
-WriteOutcome RewriteFileByPieces(const std::string& source_path, const std::string& target_path, OldTail tail,
-                                 FileRewriter& rewriter, const std::string& keep_folder) {
-  const Source source = OpenRegular(source_path);
-  if (source.error != 0) return {.error = source.error};
-  const Target target = FindTarget(target_path);
-  if (target.error != 0) return {.error = target.error};
-  const auto fill = [&](int to, int old) {
-    const int error = RewriteInto(to, source.file.Number(), rewriter);
-    return error != 0 ? error : CopyTail(old, to, rewriter.ResultLength());
-  };
-  const NewContent content{.fill = fill, .reads_old = tail == OldTail::kKeep};
-  return WriteOver(target, content, keep_folder, 0666);
+  const Beside beside = WriteBeside(target, bytes, new_mode);
+  return beside.try_in_place ? WriteInPlace(target, bytes, keep_folder) : WriteOutcome{.error = beside.error};
 }
 
 std::optional<FileStamp> StampOf(const std::string& path) {

@@ -8,7 +8,6 @@
 #include <sys/types.h>
 
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -24,9 +23,6 @@ bool CanReadFile(const std::string& path);
 // regular. The error is EFBIG if there is no limit and the file is longer than kLongestWhole bytes.
 FileBytes ReadWholeFile(const std::string& path, std::optional<std::uint64_t> limit);
 
-// See Platform::ReadByPieces. The errors EISDIR and EINVAL are those of ReadWholeFile.
-int ReadFileByPieces(const std::string& path, const std::function<bool(std::string_view)>& take);
-
 inline constexpr std::uint64_t kLongestWhole = std::uint64_t{1} << 30;
 
 // Saves `bytes` in the file. A copy of the old content, if necessary, is made in `keep_folder`. A file that did not
@@ -37,11 +33,6 @@ WriteOutcome ReplaceFile(const std::string& path, std::string_view bytes, const 
 // Creates a file that only its owner can read. Returns 0 or an errno: EEXIST if the name is taken, even by a link that
 // leads nowhere. After a failure the new file is removed.
 int CreateFile(const std::string& path, std::string_view bytes);
-
-// See Platform::RewriteFile. The target is saved as by ReplaceFile. The errors EISDIR and EINVAL, for the source or the
-// target, are those of ReadWholeFile.
-WriteOutcome RewriteFileByPieces(const std::string& source, const std::string& target, OldTail tail,
-                                 FileRewriter& rewriter, const std::string& keep_folder);
 
 std::optional<FileStamp> StampOf(const std::string& path);
 

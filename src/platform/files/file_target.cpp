@@ -4,10 +4,10 @@
 
 #include <cerrno>
 #include <climits>
+#include <cstddef>
 #include <cstdlib>
-#include <optional>
-#include <utility>
 
+#include "platform/files/descriptor.h"
 #include "platform/files/file_attributes.h"
 #include "platform/files/kept_content.h"
 #include "platform/files/new_file.h"
@@ -32,19 +32,9 @@ int FollowLinks(std::string& path) {
 // Whether the error means that the folder refuses a new file or a rename.
 bool FolderRefuses(int error) { return error == EACCES || error == EPERM || error == EROFS || error == EBUSY; }
 
-int Fill(int to, const Target& target, const NewContent& content) {
-  Descriptor old;
-  if (content.reads_old && target.exists) {
-    old = Descriptor(open(target.path.c_str(), O_RDONLY | kOpenSafely));
-    if (!old.IsOpen()) return errno;
-  }
-  if (const int error = content.fill(to, old.Number())) return error;
-  return Sync(to);
-}
-
 // Reserves space for the new content, so that a full disk is noticed before the first byte changes. Returns 0 also if
-// the size is unknown (0) or the file system can't reserve space.
-int Reserve(int file, std::uint64_t size) {
+// the file system can't reserve space.
+int Reserve(int file, std::size_t size) {
   if (size == 0 || fallocate(file, FALLOC_FL_KEEP_SIZE, 0, static_cast<off_t>(size)) == 0) return 0;
   return errno == ENOSPC || errno == EDQUOT || errno == EFBIG ? errno : 0;
 }
@@ -60,10 +50,10 @@ int Examine(Target& target) {
   return faccessat(AT_FDCWD, target.path.c_str(), W_OK, AT_EACCESS) == 0 ? 0 : errno;
 }
 
-int Overwrite(int file, const NewContent& content, const KeptContent& kept) {
-  if (lseek(file, 0, SEEK_SET) < 0 || lseek(kept.Number(), 0, SEEK_SET) < 0) return errno;
-  const int error = content.fill(file, content.reads_old ? kept.Number() : -1);
-  return error == 0 ? Sync(file) : error;
+int Overwrite(int file, std::string_view bytes) {
+  if (lseek(file, 0, SEEK_SET) < 0) return errno;
+  if (const int error = WriteAll(file, bytes)) return error;
+  return ftruncate(file, static_cast<off_t>(bytes.size())) == 0 ? Sync(file) : errno;
 }
 
 }  // namespace
@@ -75,7 +65,7 @@ Target FindTarget(const std::string& path) {
   return target;
 }
 
-Beside WriteBeside(const Target& target, const NewContent& content, mode_t new_mode) {
+Beside WriteBeside(const Target& target, std::string_view bytes, mode_t new_mode) {
   const bool old = target.exists;
   // All names of the file must lead to the new content, but a rename would change only one name.
   if (old && target.old.st_nlink > 1) return {.error = EMLINK, .try_in_place = true};
@@ -85,22 +75,20 @@ Beside WriteBeside(const Target& target, const NewContent& content, mode_t new_m
     const int error = GiveAttributes(file.Number(), target.path, target.old);
     if (error != 0) return {.error = error, .try_in_place = true};
   }
-  if (const int error = Fill(file.Number(), target, content)) return {.error = error};
+  if (const int error = WriteAll(file.Number(), bytes)) return {.error = error};
+  if (const int error = Sync(file.Number())) return {.error = error};
   const int error = old ? file.TakeNameOf(target.path) : file.TakeNewName(target.path);
   if (error == 0) return {.error = SyncFolderOf(target.path, file.Number())};
-  if (!old || !FolderRefuses(error)) return {.error = error};
-  Descriptor copy(fcntl(file.Number(), F_DUPFD_CLOEXEC, 0));
-  if (!copy.IsOpen()) return {.error = errno};  // no WriteInPlace: `fill` can be called only once
-  return {.error = error, .try_in_place = true, .content = std::move(copy)};
+  return {.error = error, .try_in_place = old && FolderRefuses(error)};
 }
 
-WriteOutcome WriteInPlace(const Target& target, const NewContent& content, const std::string& keep_folder) {
+WriteOutcome WriteInPlace(const Target& target, std::string_view bytes, const std::string& keep_folder) {
   const Descriptor file(open(target.path.c_str(), O_RDWR | O_NOFOLLOW | kOpenSafely));
   if (!file.IsOpen()) return {.error = errno};
-  if (const int error = Reserve(file.Number(), content.size)) return {.error = error};
+  if (const int error = Reserve(file.Number(), bytes.size())) return {.error = error};
   KeptContent kept;
   if (const int error = kept.Keep(file.Number(), target.path, keep_folder)) return {.error = error};
-  const int error = Overwrite(file.Number(), content, kept);
+  const int error = Overwrite(file.Number(), bytes);
   if (error != 0 && kept.PutBack(file.Number()) != 0) {
     MarkAsReported(kept.Path());
     return {.error = error, .kept = kept.Path()};

@@ -3,11 +3,9 @@
 
 #include <sys/stat.h>
 
-#include <cstdint>
-#include <functional>
 #include <string>
+#include <string_view>
 
-#include "platform/files/descriptor.h"
 #include "platform/platform.h"
 
 namespace pelmar {
@@ -22,25 +20,16 @@ struct Target {
 // Finds the target that the path and its links lead to.
 Target FindTarget(const std::string& path);
 
-struct NewContent {
-  // Writes the content into `to` from the start and cuts the rest of `to`. If `reads_old` is set and there is an old
-  // file, `old` is the old content, open at the start. Otherwise `old` is -1. Returns 0 or an errno. Call only once.
-  std::function<int(int to, int old)> fill;
-  bool reads_old = false;
-  std::uint64_t size = 0;  // in bytes, 0 if unknown
-};
-
 struct Beside {
   int error = 0;
-  bool try_in_place = false;          // WriteInPlace may still succeed
-  Descriptor content = Descriptor();  // the new file, if its content is complete but the folder refused the rename
+  bool try_in_place = false;  // WriteInPlace may still succeed
 };
 
 // Saves into a new file that takes the target's name. A new target gets the permissions `new_mode` less the umask.
-Beside WriteBeside(const Target& target, const NewContent& content, mode_t new_mode);
+Beside WriteBeside(const Target& target, std::string_view bytes, mode_t new_mode);
 
 // Overwrites an old target. First copies the old content to a private file in `keep_folder`, which ends in a separator.
 // If the write fails, restores the old content. If the restore fails too, the outcome names the copy.
-WriteOutcome WriteInPlace(const Target& target, const NewContent& content, const std::string& keep_folder);
+WriteOutcome WriteInPlace(const Target& target, std::string_view bytes, const std::string& keep_folder);
 
 }  // namespace pelmar

@@ -5,7 +5,10 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
+#include <cstddef>
 #include <filesystem>
+#include <string_view>
 #include <system_error>
 
 namespace pelmar {
@@ -27,6 +30,22 @@ bool IsUnreportedCopy(const std::string& path) {
   return (state.st_mode & kWritable) != 0 && flock(file.Number(), LOCK_EX | LOCK_NB) == 0;
 }
 
+// Replaces the content of the file `to` by the whole content of the file `from`. Returns 0 or an errno.
+int CopyWhole(int from, int to) {
+  if (lseek(from, 0, SEEK_SET) < 0 || lseek(to, 0, SEEK_SET) < 0) return errno;
+  constexpr std::size_t kPiece = std::size_t{256} << 10;  // fits in the processor's cache
+  std::string piece(kPiece, '\0');
+  off_t size = 0;
+  while (true) {
+    const ssize_t got = read(from, piece.data(), piece.size());
+    if (got < 0 && errno == EINTR) continue;
+    if (got < 0) return errno;
+    if (got == 0) return ftruncate(to, size) == 0 ? 0 : errno;
+    size += got;
+    if (const int error = WriteAll(to, std::string_view(piece).substr(0, static_cast<std::size_t>(got)))) return error;
+  }
+}
+
 }  // namespace
 
 int KeptContent::Keep(int file, const std::string& path, const std::string& folder) {
@@ -35,17 +54,17 @@ int KeptContent::Keep(int file, const std::string& path, const std::string& fold
   if (name.size() > kLongestName) name.clear();
   copy_.emplace(folder, 0600);
   if (copy_->Error() != 0) return copy_->Error();
-  flock(Number(), LOCK_EX | LOCK_NB);
-  int error = CopyWhole(file, Number());
-  if (error == 0) error = Sync(Number());
+  flock(copy_->Number(), LOCK_EX | LOCK_NB);
+  int error = CopyWhole(file, copy_->Number());
+  if (error == 0) error = Sync(copy_->Number());
   if (error == 0) error = copy_->TakeFreeName(folder + kStart, name, path_);
-  if (error == 0) error = SyncFolderOf(path_, Number());
+  if (error == 0) error = SyncFolderOf(path_, copy_->Number());
   if (error != 0) Remove();
   return error;
 }
 
 int KeptContent::PutBack(int file) {
-  const int error = CopyWhole(Number(), file);
+  const int error = CopyWhole(copy_->Number(), file);
   return error == 0 ? Sync(file) : error;
 }
 

@@ -21,7 +21,6 @@ class KeptContent {
   int PutBack(int file);
   void Remove();
   [[nodiscard]] const std::string& Path() const { return path_; }
-  [[nodiscard]] int Number() const { return copy_->Number(); }
 
  private:
   std::optional<NewFile> copy_;

@@ -104,15 +104,6 @@ int QtPlatform::WritePrivateFile(const std::string& path, std::string_view bytes
 
 int QtPlatform::WriteNewFile(const std::string& path, std::string_view bytes) { return CreateFile(path, bytes); }
 
-int QtPlatform::ReadByPieces(const std::string& path, const std::function<bool(std::string_view)>& take) {
-  return ReadFileByPieces(path, take);
-}
-
-WriteOutcome QtPlatform::RewriteFile(const std::string& source, const std::string& target, OldTail tail,
-                                     FileRewriter& rewriter) {
-  return RewriteFileByPieces(source, target, tail, rewriter, InstallFolder());
-}
-
 bool QtPlatform::IsSameFile(const std::string& left, const std::string& right) {
   std::error_code ignored;
   return std::filesystem::equivalent(left, right, ignored);

@@ -34,9 +34,6 @@ class QtPlatform : public Platform {
   WriteOutcome WriteDocument(const std::string& path, std::string_view bytes) override;
   int WritePrivateFile(const std::string& path, std::string_view bytes) override;
   int WriteNewFile(const std::string& path, std::string_view bytes) override;
-  int ReadByPieces(const std::string& path, const std::function<bool(std::string_view piece)>& take) override;
-  WriteOutcome RewriteFile(const std::string& source, const std::string& target, OldTail tail,
-                           FileRewriter& rewriter) override;
   std::optional<FileStamp> Stamp(const std::string& path) override;
   bool IsSameFile(const std::string& left, const std::string& right) override;
 
