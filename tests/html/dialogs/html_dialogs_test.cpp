@@ -398,7 +398,8 @@ TEST_F(HtmlDialogTest, AttributesAreChosenFromAListOrTyped) {
   const QWidget& attributes = Open("mnuatr");
   ExpectState(attributes, "", "Atribut=Atribut Hodnota=Hodnota Command2=(O&deber)");
   ExpectState(attributes, "Atribut:↓", "Atribut=ALIGN");
-  ExpectState(attributes, "Atribut=ID Hodnota= Hodnota:l Command1! Atribut=REL Command1! Atributs=1 Atribut=X Command1!",
+  ExpectState(attributes,
+              "Atribut=ID Hodnota= Hodnota:l Command1! Atribut=REL Command1! Atributs=1 Atribut=X Command1!",
               "Atributs=ID|X|>REL Values=l|l|>l");
   ExpectState(attributes, "Command2!", "Atributs=ID|X Values=l|l");
 }

@@ -6,7 +6,6 @@
 #include <QtWidgets>
 #include <filesystem>
 #include <numeric>
-#include <set>
 
 #include "files/printing.h"
 #include "platform/qt/convert.h"
@@ -87,21 +86,6 @@ TEST(Keys, InsertTogglesAtEachPressWithoutShiftOrCtrl) {
   }
   QTest::keyClick(window.windowHandle(), Qt::Key_Insert);  // through the window, as a real press
   EXPECT_FALSE(platform.Keys().insert);
-}
-
-TEST(Random, StaysInRangeAndDiffersFromRunToRunAndSeedToSeed) {
-  QtPlatform platform, other;
-  std::set<double> draws{other.Random()};
-  for (int draw = 0; draw < 1000; ++draw) draws.insert(platform.Random());
-  for (int seed = 0; seed < 2; ++seed) {
-    platform.ReseedRandom();
-    draws.insert(platform.Random());
-  }
-  EXPECT_GE(*draws.begin(), 0);
-  EXPECT_LT(*draws.begin(), 0.1);
-  EXPECT_GT(*draws.rbegin(), 0.9);
-  EXPECT_LT(*draws.rbegin(), 1);
-  EXPECT_EQ(draws.size(), 1003U);
 }
 
 TEST(Clipboard, OurOwnTextComesBackUnchanged) {

@@ -69,25 +69,6 @@ TEST_F(RescueKeeperTest, TheStatusBarWarnsAsLongAsNothingCanBeKept) {
   EXPECT_EQ(Texts(own), "Soubor:\r\nab\r\n\r\n");
 }
 
-// The first random name already belongs to another file.
-TEST_F(RescueKeeperTest, TheLastResortIsANewFileWithARandomName) {
-  platform.install_folder = "/dev/null/";
-  platform.draws = {0.5, 0.25};
-  platform.files["/tmp/pelmar-rescue-49999999.txt"] = "planted";
-  TextBuffer text;
-  Documents documents(text);
-  DocumentsRescue unsaved(documents);
-  RescueKeeper keeper(unsaved, platform);
-  text.SetText("typed");
-  EXPECT_EQ(keeper.KeepNow().path, "/tmp/pelmar-rescue-24999999.txt");
-  const Kept kept = keeper.KeepNow();
-  EXPECT_EQ(keeper.NoticeOf(kept),
-            "Neuložené dokumenty jsou zachovány v souboru\r\n/tmp/pelmar-rescue-24999999.txt\r\n"
-            "Program je sám nenabídne, soubor si zkopírujte jinam.");
-  EXPECT_EQ(platform.files["/tmp/pelmar-rescue-24999999.txt"], "Soubor:\r\ntyped\r\n\r\n");
-  EXPECT_EQ(platform.calls.size(), 2u);
-}
-
 TEST_F(RescueKeeperTest, TheMessageOfAnErrorNamesTheFileThatKeepsTheWork) {
   Program program(platform);
   program.Run("-NOMSG");

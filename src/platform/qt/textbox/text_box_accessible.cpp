@@ -122,7 +122,7 @@ void TextBoxAccessible::replaceText(int start, int end, const QString& text) {
 }
 
 void TextBoxNotifier::Changed(const TextChange& change) {
-  if (!IsActive()) return Forget();
+  if (!QAccessible::isActive()) return Forget();
   const std::string_view text = box_.Buffer().Text();
   const std::string_view inserted = text.substr(change.pos, change.inserted);
   if (known_text_) {
@@ -130,31 +130,31 @@ void TextBoxNotifier::Changed(const TextChange& change) {
     const int pos = static_cast<int>(change.pos);
     QAccessibleTextUpdateEvent event(&box_, pos, TextToQString(removed), TextToQString(inserted));
     event.setCursorPosition(static_cast<int>(box_.Buffer().Caret()));
-    Send(event);
+    QAccessible::updateAccessibility(&event);
     known_text_->replace(change.pos, change.removed, inserted);
   } else {
     known_text_.emplace(text);
     // The removed text is unknown, so only the insertion is sent.
     QAccessibleTextInsertEvent event(&box_, static_cast<int>(change.pos), TextToQString(inserted));
     event.setCursorPosition(static_cast<int>(box_.Buffer().Caret()));
-    Send(event);
+    QAccessible::updateAccessibility(&event);
   }
   NotifyCaret();
 }
 
 void TextBoxNotifier::CaretMoved() {
-  if (!IsActive()) return;
+  if (!QAccessible::isActive()) return;
   if (!known_text_) known_text_.emplace(box_.Buffer().Text());
   QAccessibleTextSelectionEvent selection(&box_, box_.SelStart(), box_.SelStart() + box_.SelLength());
   selection.setCursorPosition(static_cast<int>(box_.Buffer().Caret()));
-  Send(selection);
+  QAccessible::updateAccessibility(&selection);
   NotifyCaret();
 }
 
 // Sends a separate event, since magnifiers and braille displays ignore the caret position in text events.
 void TextBoxNotifier::NotifyCaret() {
   QAccessibleTextCursorEvent caret(&box_, static_cast<int>(box_.Buffer().Caret()));
-  Send(caret);
+  QAccessible::updateAccessibility(&caret);
 }
 
 }  // namespace pelmar

@@ -48,16 +48,11 @@ class TextBoxAccessible : public QAccessibleWidget,
 class TextBoxNotifier {
  public:
   explicit TextBoxNotifier(TextBox& box) : box_(box) {}
-  virtual ~TextBoxNotifier() = default;
 
   void Changed(const TextChange& change);
   void CaretMoved();
   // Call when the box shows another buffer or has missed a change.
   void Forget() { known_text_.reset(); }
-
- protected:
-  [[nodiscard]] virtual bool IsActive() const { return QAccessible::isActive(); }
-  virtual void Send(QAccessibleEvent& event) { QAccessible::updateAccessibility(&event); }
 
  private:
   void NotifyCaret();

@@ -7,7 +7,6 @@
 #include <QtWidgets>
 
 #include "platform/qt/controls/dialog_window.h"
-#include "platform/qt/controls/field.h"
 #include "platform/qt/convert.h"
 #include "support/controls.h"
 #include "support/temp_folder.h"
@@ -39,19 +38,6 @@ TEST(Message, HasTheButtonsThePictureAndTheDefaultOfItsType) {
   }
 }
 
-TEST(Message, StaysAboveItsWindowAndOutlivesIt) {
-  auto* window = new QWidget(nullptr, Qt::WindowStaysOnTopHint);
-  window->show();
-  window->activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(window));
-  InDialog<QMessageBox>([&](QMessageBox& box) {
-    EXPECT_EQ(box.parent(), window);
-    EXPECT_TRUE(box.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
-    delete window;
-  });
-  EXPECT_EQ(ShowMessage(MessageType::kYesNoWarning, QStringLiteral("?"), QString()), Answer::kNone);
-}
-
 TEST(InputBox, ReturnsTheTextOrNothing) {
   const QString prompt = QStringLiteral("Výzva"), title = QStringLiteral("Titul"), initial = QStringLiteral("původní");
   const std::optional<QString> answers[] = {initial, QString(40000, u'A'), QString(), std::nullopt};
@@ -67,16 +53,6 @@ TEST(InputBox, ReturnsTheTextOrNothing) {
     });
     EXPECT_EQ(AskForText(prompt, title, initial), answer);
   }
-}
-
-TEST(Field, DropsTheLineBreaksOfPastedText) {
-  Field field(nullptr);
-  field.setText(QStringLiteral("x\ny"));  // a text set by the program keeps its line breaks
-  field.home(false);
-  field.show();
-  QGuiApplication::clipboard()->setText(QStringLiteral("→\nb\r\nc"));
-  QTest::keyClick(&field, Qt::Key_V, Qt::ControlModifier);
-  EXPECT_EQ(field.text(), QStringLiteral("→bcx\ny"));
 }
 
 struct FileDialogTest : testing::Test {

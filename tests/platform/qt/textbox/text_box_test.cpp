@@ -9,7 +9,6 @@
 
 #include "platform/qt/convert.h"
 #include "platform/qt/desktop/clipboard_text.h"
-#include "platform/qt/textbox/text_box_accessible.h"
 #include "support/marked_text.h"
 #include "support/random_source.h"
 
@@ -340,65 +339,6 @@ TEST(MoveSelection, EqualsCutAndPasteAndIsUndoneInOneStep) {
     if (expected != text) buffer.Undo();
     ASSERT_EQ(buffer.Text() + std::string(buffer.SelText()), text + moved);
   }
-}
-
-// A screen reader that builds the text from the notifications. It is always active.
-struct Reader : TextBoxNotifier {
-  using TextBoxNotifier::TextBoxNotifier;
-  bool IsActive() const override { return true; }
-  void Send(QAccessibleEvent& event) override {
-    if (const auto* update = dynamic_cast<QAccessibleTextUpdateEvent*>(&event)) {
-      const auto removed = update->textRemoved().size();
-      EXPECT_EQ(text.mid(update->changePosition(), removed), update->textRemoved());
-      text.replace(update->changePosition(), removed, update->textInserted());
-    } else if (const auto* insert = dynamic_cast<QAccessibleTextInsertEvent*>(&event)) {
-      text.insert(insert->changePosition(), insert->textInserted());
-    } else if (const auto* selected = dynamic_cast<QAccessibleTextSelectionEvent*>(&event)) {
-      selection = {selected->selectionStart(), selected->selectionEnd()};
-    } else if (const auto* moved = dynamic_cast<QAccessibleTextCursorEvent*>(&event)) {
-      caret = moved->cursorPosition();
-    }
-  }
-  QString text;
-  int caret = -1;
-  std::pair<int, int> selection;
-};
-
-TEST_F(TextBoxTest, AScreenReaderCanRebuildTheTextFromItsNotifications) {
-  TextBuffer& buffer = box->Buffer();
-  Reader reader(*box);
-  const Listening changes = buffer.OnChange([&](const TextChange& change) { reader.Changed(change); });
-  const Listening moves = buffer.OnSelection([&] { reader.CaretMoved(); });
-  RandomSource random(1);
-  buffer.SetText("this text comes first: the reader knows no older text");
-  for (int step = 0; step < 500; ++step) {
-    const std::size_t from = random.Below(buffer.Size() + 1), to = random.Below(buffer.Size() + 1),
-                      action = random.Below(4);
-    if (step % 50 == 0) buffer.SetText(random.Text(30, "ab\xE8\r\n"));
-    if (action == 0) buffer.Undo();
-    if (action == 1) buffer.Replace(from, random.Below(5), random.Text(5, "ab\xE8\r\n"));
-    if (action > 1 && (from != buffer.Anchor() || to != buffer.Caret())) {
-      buffer.Select(from, to);
-      ASSERT_EQ(reader.selection, std::pair(box->SelStart(), box->SelStart() + box->SelLength())) << step;
-    }
-    ASSERT_EQ(reader.text, TextToQString(buffer.Text())) << step;
-    ASSERT_EQ(reader.caret, static_cast<int>(buffer.Caret())) << step;
-  }
-}
-
-TEST_F(TextBoxTest, AssistiveTechnologyReadsCharactersWordsAndLines) {
-  QAccessibleTextInterface& text = *QAccessible::queryAccessibleInterface(box)->textInterface();
-  Put("Při¶two words¶|");
-  const auto unit = [&](int offset, QAccessible::TextBoundaryType type) {
-    int from = 0, to = 0;
-    const QString found = text.textAtOffset(offset, type, &from, &to);
-    EXPECT_EQ(found, text.text(from, to));
-    return found.toStdString();
-  };
-  EXPECT_EQ(unit(10, QAccessible::WordBoundary), "words");
-  EXPECT_EQ(unit(-1, QAccessible::NoBoundary), "Při\r\ntwo words\r\n");
-  EXPECT_EQ(unit(6, QAccessible::LineBoundary), "two words\r\n");
-  EXPECT_EQ(text.offsetAtPoint(text.characterRect(6).topLeft() + QPoint(1, 1)), 6);
 }
 
 }  // namespace

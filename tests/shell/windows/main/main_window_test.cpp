@@ -245,13 +245,6 @@ TEST_F(WarningTest, AFileChangedByAnotherProgramIsReportedWhenTheFocusMoves) {
   EXPECT_EQ(Shown(), "");
 }
 
-TEST_F(WarningTest, ATextTooLongToBeOpenedAgainIsReported) {
-  text.SetText(std::string(64001, 'x'));
-  EXPECT_EQ(Shown(), "Příliš dlouhý text: má 64001 znaků, znovu otevřít jich lze nejvýše 64000");
-  text.SetText(std::string(64000, 'x'));
-  EXPECT_EQ(Shown(), "");
-}
-
 // required: no message says that files can't be opened any more; only the status bar does
 TEST_F(WarningTest, AFailedOpenWarnsThatFilesCanNoLongerBeOpened) {
   platform.files["/README"] = "x";
