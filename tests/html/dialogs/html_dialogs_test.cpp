@@ -92,6 +92,7 @@ TEST_F(HtmlDialogTest, AnAnchorOrALinkWithoutANameIsNotWritten) {
   ExpectDocument("mnukotva", "Text1= Command1!", "[kept|", "[kept|");
   EXPECT_TRUE(parts.windows.Get<Kotva>().isVisible());
   ExpectDocument("mnuodkaz", "Combo1= Command1!", "[kept|", "[kept|");
+  EXPECT_NE(VisibleWindow(), nullptr);
 }
 
 TEST_F(HtmlDialogTest, ALinkLeadsToTheChosenFileOrToATypedAddress) {
@@ -283,6 +284,7 @@ TEST_F(HtmlDialogTest, OtherLabelsFollowTheirBars) {
   ExpectState(Open("mnucreate"), "Check8! HScroll1=3", "Label14=3");
   ExpectState(Open("mnucell"), "Check7! VScroll6=300", "Label8=300");
   ExpectState(Open("mnucell"), "Check8!", "Label8=100%");
+  ExpectState(Open("mnurow"), "VScroll1=3", "Label2=3");
 }
 
 TEST_F(HtmlDialogTest, TheOkButtonOfALinkNeedsAFileOrAnAddress) {
