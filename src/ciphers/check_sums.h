@@ -8,15 +8,15 @@ namespace pelmar {
 
 struct Editor;
 
-// `crc` adds one value for each character. `contra_crc` and `and_crc` add one for each pair, and `short_crc` adds one
-// for each four characters.
+// `crc` is the sum of a value of each character. For the other sums the text is cut into groups, and each group gives a
+// value: groups of two characters for `contra_crc` and `and_crc`, groups of four for `short_crc`.
 struct CheckSums {
   std::int64_t crc = 0;         // the code
-  std::int64_t contra_crc = 0;  // the XOR of the pair
-  std::int64_t and_crc = 0;     // the AND of the pair
-  std::int64_t short_crc = 0;   // the AND of the first pair, XOR the AND of the second pair
+  std::int64_t contra_crc = 0;  // the XOR of the two codes
+  std::int64_t and_crc = 0;     // the AND of the two codes
+  std::int64_t short_crc = 0;   // the AND of the first two codes, XOR the AND of the last two
 };
-// An incomplete pair or four at the end of the text adds no value.
+// An incomplete group at the end of the text gives no value.
 CheckSums SumsOf(std::string_view text);
 
 // Adds the command that shows the sums of the document.

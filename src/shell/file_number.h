@@ -49,15 +49,16 @@ bool FileExists(const FileNumber& number, Platform& platform, const std::string&
 // The error for an existing file that can't be read.
 RuntimeError Unreadable(const std::string& path, int error);
 
-// An extra line for the message about a failed write: the file is damaged, and its old content is in outcome.kept. ""
-// if outcome.kept is empty.
+// An extra line for the message about a failed write: the file is damaged, and its old content is in outcome.kept.
+// Empty if outcome.kept is empty.
 std::string KeptNotice(const WriteOutcome& outcome);
 
-// Appends what a write of `bytes` over the start of the file would leave of a longer old file. Returns 0, or an errno
-// if an existing file can't be read.
+// If the file is longer than `bytes`, appends the rest of the file to `bytes`. Returns 0, or an errno if an existing
+// file can't be read.
 int AppendOldTail(Platform& platform, const std::string& path, std::string& bytes);
 
-// The functions below access the program's own files and hold the file number. All throw RuntimeError if a step fails.
+// The functions below read and write files in the program's own formats and hold the file number. All throw
+// RuntimeError if a step fails.
 void WriteFileOn(FileNumber& number, Platform& platform, const std::string& path, std::string_view bytes);
 // Overwrites the start of the file and keeps the tail of a longer old file. Never overwrites an unreadable file.
 void WriteRecordOn(FileNumber& number, Platform& platform, const std::string& path, std::string record);

@@ -82,7 +82,7 @@ void Analytic::Command1_Click() { AnalyseText(Source()); }
 
 void Analytic::Command3_Click() {
   const std::string sought = FieldText(*ui_->Text2);
-  if (TextToQString(sought) != ui_->Text2->text()) return;  // no text has a character outside the code page
+  if (TextToQString(sought) != ui_->Text2->text()) return;  // a character outside the code page is in no row
   for (int row = 0; row < ui_->List1->count(); ++row) {
     if (CharOfRow(TextFromQString(ui_->List1->item(row)->text())) != sought[0]) continue;
     ui_->List1->setCurrentRow(row);

@@ -1,7 +1,7 @@
 // The folders, files and disks that a person can choose from, in Czech order. Paths and names have the form of
-// PathToQString, except those of MountedPlaces. Masks and the order use the result of ShownPath. A folder with tens of
-// thousands of files must open at once. So the functions use only the name and the kind (file or folder) of each entry,
-// which most file systems store in the folder itself.
+// PathToQString, except those of MountedPlaces. A mask and the order apply to the names that ShownPath returns. A
+// folder with tens of thousands of files must open at once. So the functions use only the name and the kind (file or
+// folder) of each entry, which most file systems store in the folder itself.
 #pragma once
 
 #include <QRegularExpression>
@@ -24,8 +24,8 @@ QString CurrentFolder();
 QString CleanFolder(const QString& path);
 
 // The sorted names, or an empty list if the folder can't be read. A link counts as its target. Names that begin with
-// "." are left out, unless a folder in `path` has such a name. FilesOf also lists these names if a part of `mask`
-// begins with ".".
+// "." are left out, unless `path` itself leads through a folder with such a name. FilesOf also lists these names if a
+// part of `mask` begins with ".".
 QStringList SubfoldersOf(const QString& path);
 QStringList FilesOf(const QString& path, const QString& mask);
 

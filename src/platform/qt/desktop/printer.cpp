@@ -100,7 +100,8 @@ PrintOutcome PrintIntoPdf(const PrintFont& font, const QString& name, const std:
   writer.setPageMargins(QMarginsF(kPdfMargin, kPdfMargin, kPdfMargin, kPdfMargin), QPageLayout::Millimeter);
   if (!PrintOn(writer, font, draw) || !IsWholePdf(file)) {
     failed();
-    file.close();  // fails on a full disk; file.remove() would then keep the file
+    // file.remove() would keep the file if closing the file fails, as on a full disk.
+    file.close();
     QFile::remove(file.fileName());
   }
   return outcome;
