@@ -25,8 +25,8 @@ enum class TableFrame { kNone, kAbove, kBelow, kAboveAndBelow, kLeft, kRight, kL
 enum class TableRules { kNone, kRows, kColumns, kAll };
 enum class CaptionSide { kTop, kBottom, kLeft, kRight };
 
-// An optional field has no value if its check box in the dialog is off. The thickness, the width and the two distances
-// are texts, as labels show them: with or without a leading blank.
+// An optional field has no value if its check box in the dialog is off. A number in a string, such as
+// `thickness` or `width`, is as its label shows it: with or without a leading blank.
 struct TableSpec {
   struct Border {
     TableFrame frame = TableFrame::kNone;
