@@ -127,9 +127,9 @@ class Platform {
   virtual void SetClipboardText(std::string_view text) = 0;
   virtual void ClearClipboard() = 0;
 
-  // Files. ReadFile reads at most `limit` bytes. A write replaces the old file by a complete new file. If the folder or
-  // the old file doesn't allow this, a write copies the old content to another file and then overwrites the old file
-  // (see disk_file.h).
+  // Files. ReadFile reads at most `limit` bytes. Without a limit, a file over 1 GiB gives EFBIG. A write replaces the
+  // old file by a complete new file. If the folder or the old file doesn't allow this, a write copies the old content
+  // to another file and then overwrites the old file (see disk_file.h).
   virtual bool CanRead(const std::string& path) = 0;  // true only for a regular file
   virtual FileBytes ReadFile(const std::string& path, std::optional<std::uint64_t> limit) = 0;
   virtual WriteOutcome WriteDocument(const std::string& path, std::string_view bytes) = 0;

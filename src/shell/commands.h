@@ -1,5 +1,5 @@
 // The program's commands. A command's name is the name of a menu item or the key of a toolbar button. Each subsystem
-// adds its own commands. Every menu item and every button has one.
+// adds its own commands. Every button has one, and so has every menu item that is no submenu or separator.
 #pragma once
 
 #include <functional>

@@ -19,6 +19,9 @@ class SaveTarget {
   // False if the last SetPath threw. Then Name() and Extension() are still the old ones.
   [[nodiscard]] bool Complete() const { return file_ == path_; }
 
+  // False if no path with an extension was set yet. Then Name() and Extension() are "".
+  [[nodiscard]] bool HasName() const { return !file_.empty(); }
+
   [[nodiscard]] const std::string& Path() const { return path_; }
   [[nodiscard]] std::string Folder() const { return FilePart(path_, 1); }
   [[nodiscard]] std::string Name() const { return file_.empty() ? std::string() : FilePart(file_, 2); }

@@ -1,5 +1,6 @@
 #include "accessories/windows/note_tabs.h"
 
+#include <QStyleOptionTab>
 #include <algorithm>
 
 #include "accessories/notes.h"

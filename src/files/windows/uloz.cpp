@@ -21,7 +21,7 @@ Uloz::Uloz(Documents& documents, Saver& saver, QWidget* parent)
   listening_ = documents_.Target().path_set.Add([this] { TakeTarget(); });
   const SaveTarget& target = documents_.Target();
   if (!target.HasPath()) return;
-  if (!target.Name().empty()) ShowName(target);  // TakeTarget leaves the name alone for a path without an extension
+  if (target.HasName()) ShowName(target);  // TakeTarget leaves the name alone for a path without an extension
   TakeTarget();
 }
 

@@ -148,7 +148,6 @@ bool WebEnginePage::Ask(QDialog& question) {
   // The question blocks only the window of the browser.
   question.setWindowModality(Qt::WindowModal);
   question_ = &question;
-  if (on_asking) on_asking();
   const QPointer<WebEnginePage> self = this;
   const int result = question.exec();
   if (self == nullptr) return false;

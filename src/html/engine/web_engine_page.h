@@ -35,7 +35,6 @@ class WebEnginePage : public QWebEnginePage {
   [[nodiscard]] bool Asking() const { return question_ != nullptr; }
 
   std::function<void()> on_coming;                    // a page is about to load here
-  std::function<void()> on_asking;                    // a question is about to be shown
   std::function<void()> on_answered;                  // a question was closed
   std::function<void(const QUrl& address)> on_leave;  // the address needs a page of another side
 

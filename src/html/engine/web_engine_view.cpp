@@ -90,11 +90,6 @@ void WebEngineView::ConnectPage() {
     QMetaObject::invokeMethod(
         this, [this, address] { Load(address); }, Qt::QueuedConnection);
   };
-  // A page that asks a question isn't stuck, however long the person thinks.
-  page_->on_asking = [this] {
-    unanswered_.stop();
-    after_end_ = {};
-  };
   page_->on_answered = [this] {
     if (const auto step = std::exchange(after_question_, {})) step();
   };

@@ -46,10 +46,10 @@ class WebEngineView : public QObject, public WebView {
   // Loads a place of the history in a new page. The process of the present page must have ended.
   void LoadInNewPage(qsizetype place, PageSide side);
   // Puts the addresses that the present page has opened into places_, and the index of the shown address into place_.
-  // Drops the later places if the page has opened more than one address.
+  // If the page has opened more than one address, drops the places that came after this page.
   void GatherPlaces();
-  // Asks the page for an answer, unless the page has no process or runs no scripts. If the page neither answers nor
-  // asks a question within three seconds, ends the page's process and runs the step.
+  // Asks the page for an answer, unless the page has no process or runs no scripts. If the page doesn't answer within
+  // three seconds, ends the page's process and runs the step. A question of the page is no answer and isn't shown.
   void Probe(std::function<void()> step);
   void StopProbe();
   void EndProcess(std::function<void()> then);

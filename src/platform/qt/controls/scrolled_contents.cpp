@@ -23,10 +23,11 @@ void ScrollContents(QWidget& window) {
   view->setFocusPolicy(Qt::NoFocus);  // the Tab key reaches the widgets inside
   view->setWidgetResizable(true);
   view->setWidget(inner);
-  // Qt scrolls only after the Tab key, not after Enter or an access key. A click doesn't scroll, since the clicked
-  // button would move away from the pointer.
-  QObject::connect(qApp, &QApplication::focusChanged, view, [view](QWidget*, QWidget* now) {
-    if (view->isAncestorOf(now) && QGuiApplication::mouseButtons() == Qt::NoButton) view->ensureWidgetVisible(now);
+  // Qt scrolls only after the Tab key, not after Enter or an access key. A click and an activation of the window don't
+  // scroll, since the control under the pointer would move away before the button is pressed.
+  QObject::connect(qApp, &QApplication::focusChanged, view, [view](QWidget* old, QWidget* now) {
+    const bool moves_inside = view->isAncestorOf(old) && view->isAncestorOf(now);
+    if (moves_inside && QGuiApplication::mouseButtons() == Qt::NoButton) view->ensureWidgetVisible(now);
   });
   auto* outer = new QVBoxLayout(&window);
   outer->setContentsMargins(0, 0, 0, 0);

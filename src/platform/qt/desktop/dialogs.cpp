@@ -212,7 +212,7 @@ std::optional<QString> AskForFile(FileDialogKind kind, const QString& filter, in
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setOption(QFileDialog::DontConfirmOverwrite);
   }
-  // Accept the name of a missing file for opening too: the command that asked for the name has its own message.
+  // Accept the name of a missing file for opening too. The command that asked decides what happens with such a name.
   dialog->setFileMode(QFileDialog::AnyFile);
   dialog->setNameFilters(filters);
   if (filter_index >= 1 && filter_index <= filters.size()) dialog->selectNameFilter(filters[filter_index - 1]);
