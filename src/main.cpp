@@ -95,6 +95,7 @@ int main(int argc, char** argv) {
     platform.FinishBackgroundWork();
   });
   try {
+    platform.ReportRefusedFolder();
     program.Run(pelmar::CommandTail(arguments));
   } catch (const pelmar::RuntimeError& error) {
     application.on_runtime_error(error);

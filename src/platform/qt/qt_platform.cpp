@@ -20,7 +20,6 @@
 #include "platform/qt/desktop/dialogs.h"
 #include "platform/qt/desktop/printer.h"
 #include "platform/qt/folder_entries.h"
-#include "platform/qt/install_folder.h"
 #include "platform/qt/key_router.h"
 #include "platform/qt/x11.h"
 
@@ -116,6 +115,11 @@ std::string QtPlatform::ShareFolder() {
   const QString installed = QCoreApplication::applicationDirPath() + QStringLiteral("/../share/pelmar-vex/");
   const QString beside = QCoreApplication::applicationDirPath() + QLatin1Char('/');
   return Utf8FromQString(QDir(installed).exists() ? QDir::cleanPath(installed) + QLatin1Char('/') : beside);
+}
+
+void QtPlatform::ReportRefusedFolder() {
+  const std::string notice = InstallFolderNotice(install_folder_);
+  if (!notice.empty()) Message(MessageType::kOkInfo, notice, "Pelmar VEX");
 }
 
 // Reads TMPDIR itself, because QDir::tempPath returns "" if the folder in TMPDIR is missing. With this result, files

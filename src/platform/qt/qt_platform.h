@@ -11,6 +11,7 @@
 #include "platform/qt/czech_collation.h"
 #include "platform/qt/desktop/clipboard.h"
 #include "platform/qt/desktop/recent_documents.h"
+#include "platform/qt/install_folder.h"
 
 namespace pelmar {
 
@@ -37,7 +38,7 @@ class QtPlatform : public Platform {
   std::optional<FileStamp> Stamp(const std::string& path) override;
   bool IsSameFile(const std::string& left, const std::string& right) override;
 
-  std::string InstallFolder() override { return install_folder_; }
+  std::string InstallFolder() override { return install_folder_.path; }
   std::string TempFolder() override;
   std::string ShareFolder() override;
 
@@ -54,6 +55,9 @@ class QtPlatform : public Platform {
   std::vector<std::size_t> SortedOrder(const std::vector<std::string_view>& texts) override;
   void SetBusyPointer(bool busy, BusyLook look) override;
 
+  // Shows the text of InstallFolderNotice, unless this text is empty.
+  void ReportRefusedFolder();
+
   // Waits for the writing of the list of recent documents. Call before an exit that skips destructors.
   void FinishBackgroundWork();
 
@@ -61,7 +65,7 @@ class QtPlatform : public Platform {
   Clipboard clipboard_;
   QCollator collator_ = CzechCollator();
   RecentDocuments recent_;
-  const std::string install_folder_;
+  const ChosenFolder install_folder_;
   QString dialog_folder_;  // the folder of the last chosen file
   std::mt19937 random_{std::random_device{}()};
 };

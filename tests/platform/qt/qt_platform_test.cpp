@@ -63,8 +63,9 @@ TEST(InstallFolder, IsTheMarkedFolderOfTheProgramOrAFolderForTheUserAlone) {
     const TempFolder program, data;
     program.Put(file, content);
     const std::string user_folder = data.File("deep/pelmar-vex");
-    const std::string found = FindInstallFolder(Utf8ToQString(program.Path()), Utf8ToQString(data.File("deep")));
-    EXPECT_EQ(found, (is_mark ? program.Path() : user_folder) + "/") << file;
+    const ChosenFolder found = FindInstallFolder(Utf8ToQString(program.Path()), Utf8ToQString(data.File("deep")));
+    EXPECT_EQ(InstallFolderNotice(found), "");
+    EXPECT_EQ(found.path, (is_mark ? program.Path() : user_folder) + "/") << file;
     EXPECT_EQ(std::filesystem::exists(user_folder), !is_mark) << file;
     if (is_mark) continue;
     EXPECT_EQ(std::filesystem::status(user_folder).permissions(), std::filesystem::perms::owner_all) << file;
