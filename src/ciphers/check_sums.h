@@ -8,8 +8,8 @@ namespace pelmar {
 
 struct Editor;
 
-// `crc` is the sum of a value of each character. For the other sums the text is cut into groups, and each group gives a
-// value: groups of two characters for `contra_crc` and `and_crc`, groups of four for `short_crc`.
+// Each field is a sum of one value for each group of characters. A group is one character for `crc`, two characters for
+// `contra_crc` and `and_crc`, and four for `short_crc`. The comment at the field names the value.
 struct CheckSums {
   std::int64_t crc = 0;         // the code
   std::int64_t contra_crc = 0;  // the XOR of the two codes

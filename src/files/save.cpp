@@ -5,6 +5,7 @@
 #include "files/outside_changes.h"
 #include "platform/paths.h"
 #include "platform/runtime_error.h"
+#include "text/utf8.h"
 
 namespace pelmar {
 

@@ -25,8 +25,8 @@ enum class TableFrame { kNone, kAbove, kBelow, kAboveAndBelow, kLeft, kRight, kL
 enum class TableRules { kNone, kRows, kColumns, kAll };
 enum class CaptionSide { kTop, kBottom, kLeft, kRight };
 
-// An optional field has no value if its check box in the dialog is off. A number in a string, such as
-// `thickness` or `width`, is as its label shows it: with or without a leading blank.
+// An optional field has no value if its check box in the dialog is off. A number in a string is the text of its label
+// in the dialog: a blank may precede the number, and "%" may follow the number of `width`.
 struct TableSpec {
   struct Border {
     TableFrame frame = TableFrame::kNone;

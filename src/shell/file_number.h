@@ -57,8 +57,8 @@ std::string KeptNotice(const WriteOutcome& outcome);
 // file can't be read.
 int AppendOldTail(Platform& platform, const std::string& path, std::string& bytes);
 
-// The functions below read and write files in the program's own formats and hold the file number. All throw
-// RuntimeError if a step fails.
+// The functions below read and write files of the program (settings, notes, autosaves, cipher tables) and hold the file
+// number meanwhile. All throw RuntimeError if a step fails.
 void WriteFileOn(FileNumber& number, Platform& platform, const std::string& path, std::string_view bytes);
 // Overwrites the start of the file and keeps the tail of a longer old file. Never overwrites an unreadable file.
 void WriteRecordOn(FileNumber& number, Platform& platform, const std::string& path, std::string record);

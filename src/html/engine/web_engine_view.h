@@ -1,5 +1,5 @@
-// The module's web view: Qt WebEngine, drawn by software. So the view needs neither a graphics processor nor a
-// preparation when the program starts. Nothing about visited pages is stored on the disk.
+// The module's web view: Qt WebEngine, drawn by software. So the view needs no graphics processor, and the
+// program prepares nothing for the view at its start. Nothing about visited pages is stored on the disk.
 #pragma once
 
 #include <QList>
