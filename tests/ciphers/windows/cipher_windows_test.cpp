@@ -75,7 +75,7 @@ TEST_F(ProgramTest, CronfeldEnciphersAndDeciphersTheDocumentOrTheQuickText) {
   ExpectState(dialog, "Command4!", "Text1=999999999999999");
   EXPECT_EQ(platform.reseeds, 1);
   PutMarked(text, "[aa| aa");  // required: the selection doesn't matter
-  ExpectState(dialog, "Text1=012 Command1!", "Text1=12");
+  ExpectState(dialog, "Text1= Text1:012 Command1!", "Text1=12");
   EXPECT_EQ(text.Text(), "bc cb");
   EXPECT_FALSE(text.CanUndo());  // required for a replaced text
   Work(dialog, "Command2!");

@@ -284,7 +284,7 @@ TEST_F(HtmlDialogTest, OtherLabelsFollowTheirBars) {
   ExpectState(Open("mnucreate"), "Check8! HScroll1=3", "Label14=3");
   ExpectState(Open("mnucell"), "Check7! VScroll6=300", "Label8=300");
   ExpectState(Open("mnucell"), "Check8!", "Label8=100%");
-  ExpectState(Open("mnurow"), "VScroll1=3", "Label2=3");
+  ExpectState(Open("mnurow"), "VScroll1=3 Check1! Option4! Check1!", "Label2=3 Text1=(,)");
 }
 
 TEST_F(HtmlDialogTest, TheOkButtonOfALinkNeedsAFileOrAnAddress) {
