@@ -8,8 +8,9 @@ namespace pelmar {
 
 struct Editor;
 
-// Each field is a sum of one value for each group of characters. A group is one character for `crc`, two characters for
-// `contra_crc` and `and_crc`, and four for `short_crc`. The comment at the field names the value.
+// The text is divided into groups of characters. Each group gives one value, and a field is the sum of these values. A
+// group is one character for `crc`, two characters for `contra_crc` and `and_crc`, and four for `short_crc`. The
+// comment at the field names the value.
 struct CheckSums {
   std::int64_t crc = 0;         // the code
   std::int64_t contra_crc = 0;  // the XOR of the two codes

@@ -17,8 +17,8 @@ namespace pelmar {
 struct Editor;
 
 // The text that the key field shows after a typed text: the number at the start is read and written until the text
-// stays the same. required: writing uses a comma and reading stops at a comma, so written decimals and an exponent
-// after them are lost: "1.5E20" gives "1", but "1.5E3" gives "1500".
+// stays the same. required: the number is written with a decimal comma, but reading stops at a comma, so the part from
+// the comma on is lost. "1.5E20" gives "1" (through "1,5E+20"), but "1.5E3" gives "1500".
 std::string KeyText(std::string_view typed);
 
 class StreamCipher {

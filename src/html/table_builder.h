@@ -25,8 +25,9 @@ enum class TableFrame { kNone, kAbove, kBelow, kAboveAndBelow, kLeft, kRight, kL
 enum class TableRules { kNone, kRows, kColumns, kAll };
 enum class CaptionSide { kTop, kBottom, kLeft, kRight };
 
-// An optional field has no value if its check box in the dialog is off. A number in a string is the text of its label
-// in the dialog: a blank may precede the number, and "%" may follow the number of `width`.
+// An optional field has no value if its check box in the dialog is off. `width`, `cols`, `thickness`, `cell_spacing`
+// and `cell_padding` are texts of labels in the dialog: a number, perhaps with a blank before it and, for `width`, with
+// "%" after it.
 struct TableSpec {
   struct Border {
     TableFrame frame = TableFrame::kNone;

@@ -31,9 +31,9 @@ QString Title() { return QStringLiteral("Zpráva stránky"); }
 // The engine asks this question through javaScriptConfirm().
 constexpr char kLeaving[] = "Are you sure you want to leave this page? Changes that you made may not be saved.";
 constexpr int kMostQuestions = 20;      // shown after one command that loads a page
-constexpr int kLongestQuestion = 2000;  // characters of a page's own text
-// A question shows an address of at most kLongestAsked characters, in lines of kAddressLine characters. A local page's
-// link to a longer address isn't opened.
+constexpr int kLongestQuestion = 2000;  // characters; a longer question is cut off
+// Before a link of a local page leads to the net, a question shows the whole address in lines of kAddressLine
+// characters. If the address has more than kLongestAsked characters, the link isn't opened.
 constexpr qsizetype kLongestAsked = 1000, kAddressLine = 80;
 
 // A frame of a page may also hold about: and blob: addresses.
@@ -62,8 +62,8 @@ WebEnginePage::WebEnginePage(QWebEngineProfile* profile, PageSide side) : QWebEn
           [this](QWebEngineNewWindowRequest& request) { OpenHere(request.requestedUrl()); });
 }
 
-// The engine itself refuses a link from a page of the net to a file, but doesn't check the address of load(). So this
-// function has to refuse the file.
+// The engine itself refuses a link from a page of the net to a file, but doesn't check the address of load(). So the
+// file is refused here and in acceptNavigationRequest().
 void WebEnginePage::OpenHere(const QUrl& address) {
   if (IsOfTheNet(address) || (address.isLocalFile() && side_ != PageSide::kNet)) load(address);
 }

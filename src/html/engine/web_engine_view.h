@@ -1,5 +1,5 @@
 // The module's web view: Qt WebEngine, drawn by software. So the view needs no graphics processor, and the
-// program prepares nothing for the view at its start. Nothing about visited pages is stored on the disk.
+// start of the program prepares nothing for the view. Nothing about visited pages is stored on the disk.
 #pragma once
 
 #include <QList>
@@ -39,7 +39,8 @@ class WebEngineView : public QObject, public WebView {
   // Makes an empty page, which replaces the present page if there is one.
   void MakePage(PageSide side);
   void ConnectPage();
-  // Closes an open question, then runs a command of the person that loads a page.
+  // Closes an open question, then runs the step, which loads a page. Each command of the person that loads a page calls
+  // this function.
   void Command(std::function<void()> step);
   // Runs a step in the present page. If the page doesn't answer, ends the page's process and runs the step again.
   void RunInPage(const std::function<void()>& step);
@@ -49,7 +50,8 @@ class WebEngineView : public QObject, public WebView {
   // If the page has opened more than one address, drops the places that came after this page.
   void GatherPlaces();
   // Asks the page for an answer, unless the page has no process or runs no scripts. If the page doesn't answer within
-  // three seconds, ends the page's process and runs the step. A question of the page is no answer and isn't shown.
+  // three seconds, ends the page's process and runs the step. If the page asks the person something meanwhile, the
+  // question isn't shown and doesn't count as an answer.
   void Probe(std::function<void()> step);
   void StopProbe();
   void EndProcess(std::function<void()> then);

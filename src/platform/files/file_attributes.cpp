@@ -39,7 +39,7 @@ int CopyAttribute(int file, const std::string& old_path, const char* name) {
   const auto value =
       Fetch([&](void* bytes, std::size_t size) { return lgetxattr(old_path.c_str(), name, bytes, size); });
   if (!value) return errno;
-  // An attribute that has the same value already isn't set again, since setting a security label may be forbidden.
+  // An attribute that already has the same value isn't set again, since setting a security label may be forbidden.
   if (Attribute(file, name) == value) return 0;
   return fsetxattr(file, name, value->data(), value->size(), 0) == 0 ? 0 : errno;
 }
