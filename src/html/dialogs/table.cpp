@@ -124,7 +124,8 @@ void Table::ShowCell() {
   ui_->Text3->setText(TextToQString(ShownCellAttributes()));
 }
 
-// Goes to the cell on the right, from the last column to the next row, and from the last cell to the button Ok.
+// Goes to the cell on the right. After the last column comes the first cell of the next row. After the last cell comes
+// the button Ok.
 void Table::GoToNextCell() {
   QScrollBar &column = *ui_->HScroll1, &row = *ui_->VScroll7;
   const bool last_column = column.value() == column.maximum();
