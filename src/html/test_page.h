@@ -18,9 +18,9 @@ std::string StripHtml(std::string_view text);
 // How the temporary page ends: with one more line break, or as the text ends.
 enum class PageEnd { kLineBreak, kAsItIs };
 
-// The path of the page for the internal browser: the document's file, even if it lacks unsaved changes. A document
-// without a path is written to a new temporary page. If this page can't be written, shows a message and returns
-// nothing.
+// The path of the page for the internal browser: the document's file, even if the document has unsaved changes. A
+// document without a path is written to a new temporary page. If this page can't be written, shows a message and
+// returns nothing.
 std::optional<std::string> PageToShow(Editor& editor, PageEnd end);
 
 // The commands "Odstraň HTML" and "Testuj html".

@@ -1,7 +1,7 @@
 // A copy of the old content of a file that is overwritten, stored as "puvodni-*" in a folder that the caller chooses.
 // The copy is made before the first byte changes, and removed when the new content is on the disk or the old content is
-// restored. A lock on the copy shows other processes that the save is running. The next start of the editor, but not of
-// an accessory alone, reports the copies that remain in the install folder from killed saves.
+// restored. A lock on the copy shows other processes that the save is running. The next start of the editor reports the
+// copies that killed saves left in the install folder. The start of an accessory alone reports nothing.
 #pragma once
 
 #include <optional>

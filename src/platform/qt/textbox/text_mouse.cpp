@@ -34,6 +34,7 @@ void TextMouse::Press(QMouseEvent* event) {
 
 void TextMouse::PressLeft(QMouseEvent* event) {
   const QPoint at = event->position().toPoint();
+  const bool third = IsThirdClick(at);
   pressed_at_ = last_at_ = at;
   unit_ = Unit::kChar;
   if (event->pointerType() == QPointingDevice::PointerType::Finger) {
@@ -42,7 +43,7 @@ void TextMouse::PressLeft(QMouseEvent* event) {
   }
   state_ = State::kSelecting;
   if (event->modifiers().testFlag(Qt::ShiftModifier)) return box_.SelectTo(box_.PlaceAt(at));
-  if (IsThirdClick(at)) return BeginUnit(Unit::kLine, at);
+  if (third) return BeginUnit(Unit::kLine, at);
   if (box_.IsSelectedAt(at)) {
     state_ = State::kMayDrag;
     return;

@@ -155,6 +155,7 @@ TEST_F(TextBoxTest, ClicksMoveTheCaretAndSelect) {
       {"a drag and a move after it", "|ab cd¶ef", {{kPress, 8}, {kMove, 1}, {kRelease, 1}, {kMove, 4}}, "a|b cd¶e[f"},
       {"a double click nearer to the blank, but still on the letter", "|ab cd¶ef", {{kDouble, 1.7}}, "[ab| cd¶ef"},
       {"a double click and a drag", "|ab cd¶ef", {{kDouble, 1}, {kMove, 4}, {kRelease, 4}}, "[ab cd|¶ef"},
+      {"a click elsewhere after a double click", "|ab cd¶ef", {{kDouble, 1}, {kPress, 8}, {kRelease, 8}}, "ab cd¶e|f"},
       {"a third click and a drag", "|ab cd¶ef", {{kDouble, 8}, {kPress, 8}, {kMove, 1}}, "|ab cd¶ef["},
   };
   for (const auto& one : cases) {
