@@ -1,6 +1,7 @@
-// The page test: removes tags from a text, opens the document in another program, and provides the page for the
+// The page test: removes tags from a text, opens the document's file in another program, and provides the page for the
 // internal browser. If the document's own file isn't used, the document is written to a new temporary file. Only the
-// user who runs the program can read this file, and the program never deletes it.
+// user who runs the program can read this file, and the program never deletes it. required: the page test writes the
+// temporary file, but opens a file of another name.
 #pragma once
 
 #include <optional>

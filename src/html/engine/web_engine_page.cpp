@@ -62,8 +62,8 @@ WebEnginePage::WebEnginePage(QWebEngineProfile* profile, PageSide side) : QWebEn
           [this](QWebEngineNewWindowRequest& request) { OpenHere(request.requestedUrl()); });
 }
 
-// The engine itself refuses a link from a page of the net to a file, but doesn't check the address of load(). So the
-// file is refused here and in acceptNavigationRequest().
+// The engine itself refuses a link from a page of the net to a file, but doesn't check the address of load(). So this
+// function and acceptNavigationRequest() refuse files to a page of the net.
 void WebEnginePage::OpenHere(const QUrl& address) {
   if (IsOfTheNet(address) || (address.isLocalFile() && side_ != PageSide::kNet)) load(address);
 }

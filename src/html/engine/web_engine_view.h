@@ -1,5 +1,5 @@
-// The module's web view: Qt WebEngine, drawn by software. So the view needs no graphics processor, and the
-// start of the program prepares nothing for the view. Nothing about visited pages is stored on the disk.
+// The module's web view: Qt WebEngine, drawn by software. So the view needs no graphics processor, and the program
+// doesn't create a graphics context at each start. Nothing about visited pages is stored on the disk.
 #pragma once
 
 #include <QList>
