@@ -49,8 +49,8 @@ bool FileExists(const FileNumber& number, Platform& platform, const std::string&
 // The error for an existing file that can't be read.
 RuntimeError Unreadable(const std::string& path, int error);
 
-// An extra line for the message about a failed write. The line says that the file is damaged, and names the file with
-// a copy of the old content, which has the path outcome.kept. Empty if outcome.kept is empty.
+// An extra line for the message about a failed write: the file is damaged, and its old content lies in the file
+// outcome.kept. Empty if outcome.kept is empty.
 std::string KeptNotice(const WriteOutcome& outcome);
 
 // If the file is longer than `bytes`, appends the rest of the file to `bytes`. Returns 0, or an errno if an existing

@@ -48,7 +48,7 @@ void Analytic::ConnectEvents() {
   OnEnter(ui_->Text2, [this] { (ui_->Command3->isEnabled() ? ui_->Command3 : ui_->Command1)->click(); });
   connect(ui_->Pic, &CharacterGraph::Pointed, this, &Analytic::Pic_Pointed);
   connect(&timer1_, &QTimer::timeout, this, &Analytic::Timer1_Timer);
-  // required: a character typed while the check box has the focus clears the graph until the next analysis
+  // required: while Check1 has the focus, a typed character clears the graph until the next analysis
   KeyRouter::Get().Add(KeyTurn::kField, *ui_->Check1, [this](QWidget&, const QKeyEvent& press) {
     if (!press.text().isEmpty() && press.text().front().isPrint()) ui_->Pic->Clear();
     return false;
