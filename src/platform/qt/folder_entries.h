@@ -1,7 +1,8 @@
 // The folders, files and disks that a person can choose from, in Czech order. Paths and names have the form of
-// PathToQString. All paths of MountedPlaces and the places for PlaceOf have the form of QFile::decodeName. A mask and the order apply to the
-// names that ShownPath returns. A folder with tens of thousands of files must open at once. So the functions use only
-// the name and the kind (file or folder) of each entry, which most file systems store in the folder itself.
+// PathToQString. All paths of MountedPlaces and the places for PlaceOf have the form of QFile::decodeName. A mask and
+// the order apply to the names that ShownPath returns. A folder with tens of thousands of files must open at once. So
+// the functions use only the name and the kind (file or folder) of each entry, which most file systems store in the
+// folder itself.
 #pragma once
 
 #include <QRegularExpression>
