@@ -53,7 +53,7 @@ std::size_t NextWord(std::string_view text, std::size_t pos) {
 }
 
 std::size_t PreviousWord(std::string_view text, std::size_t pos) {
-  if (BreakBefore(text, pos)) return pos - 2;
+  if (pos > 0 && KindAt(text, pos - 1) == Kind::kBreak) return PreviousStop(text, pos);
   pos = RunBegin(text, pos, Kind::kBlank);
   if (pos == 0 || BreakBefore(text, pos)) return pos;
   return RunBegin(text, pos, KindAt(text, pos - 1));

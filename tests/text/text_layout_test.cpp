@@ -140,6 +140,7 @@ TEST(TextStops, WordsBeginAtLettersOtherSignsAndLineEnds) {
   EXPECT_EQ(NextWord("\r\n\na", 1), 2u);
   EXPECT_EQ(NextWord("a09_Z.", 0), 5u);  // digits and "_" belong to a word
   EXPECT_EQ(PreviousWord("  a", 2), 0u);
+  EXPECT_EQ(PreviousWord("a\r\n\r\nb", 4), 3u);  // from between CR and LF
 }
 
 TEST(WordAt, FindsTheWordAtOrBeforeAPosition) {

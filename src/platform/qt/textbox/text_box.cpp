@@ -133,6 +133,9 @@ void TextBox::ShowChange(const TextChange& change) {
   mover_.Forget();
   if (change.whole && composer_.Active()) {
     composer_.Clear();
+    // The reset may type the composed text into the buffer, so the old layout and the old text must not be used.
+    view_->Invalidate();
+    notifier_->Forget();
     QGuiApplication::inputMethod()->reset();
   }
   const bool selected = shown_selection_.begin != shown_selection_.end || buffer_->HasSelection();
@@ -197,7 +200,10 @@ void TextBox::UpdateScrollBar() {
     view_->SetViewportWidth(window.width());
     verticalScrollBar()->setSingleStep(view_->Glyphs().RowHeight());
     verticalScrollBar()->setPageStep(window.height());
-    verticalScrollBar()->setRange(0, std::max(view_->ContentHeight() - window.height(), 0));
+    const int most = std::max(view_->ContentHeight() - window.height(), 0);
+    // With the policy "as needed" Qt would show the bar later, and the caret could be out of sight by then.
+    setVerticalScrollBarPolicy(most > 0 ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+    verticalScrollBar()->setRange(0, most);
     if (viewport()->size() == window) break;
   }
   updating_bar_ = false;
@@ -288,8 +294,9 @@ void TextBox::RevealRect(QRect rect) {
   QScrollBar* bar = verticalScrollBar();
   const int top = rect.top() - TextView::kMargin;
   const int below = rect.bottom() + 1 + TextView::kMargin - viewport()->height();
-  if (below > 0) bar->setValue(bar->value() + below);
-  if (top < 0) bar->setValue(bar->value() + top);
+  // In a box lower than `rect` the top of `rect` is shown.
+  const int by = std::min(std::max(below, 0), std::max(top, 0)) + std::min(top, 0);
+  bar->setValue(bar->value() + by);
 }
 
 void TextBox::ShowCaretAnew() {

@@ -60,6 +60,7 @@ void TextBox::Do(const TextKey& key) {
     case TextCommand::kCopy:
       return CopySelection();
     case TextCommand::kSelectAll:
+      mover_.Forget();
       buffer_->Select(0, buffer_->Size());
       return PublishSelection();
     case TextCommand::kScrollUp:

@@ -73,12 +73,12 @@ void TextMouse::BeginUnit(Unit unit, QPoint at) {
 
 TextSpan TextMouse::UnitAt(QPoint at) const {
   const TextBuffer& buffer = box_.Buffer();
-  const std::size_t pos = box_.PlaceAt(at).pos;
+  const auto [pos, at_row_end] = box_.PlaceAt(at);
   if (unit_ == Unit::kChar) return {pos, pos};
   if (unit_ == Unit::kWord) {
-    // Use the character under the pointer, not the nearest position between two characters.
-    const bool right_half = pos > 0 && box_.CharRect(pos - 1).contains(at);
-    return WordAt(buffer.Text(), right_half ? pos - 1 : pos);
+    // Use the character under the pointer, or the last one of the row, not the nearest position between two characters.
+    const bool before = pos > 0 && (at_row_end || box_.CharRect(pos - 1).contains(at));
+    return WordAt(buffer.Text(), before ? pos - 1 : pos);
   }
   const std::size_t line = buffer.LineOf(pos);
   return {buffer.LineStart(line), buffer.LineEnd(line)};
@@ -135,7 +135,8 @@ void TextMouse::ShowPointer(QPoint at) {
 
 void TextMouse::timerEvent(QTimerEvent* event) {
   if (event->timerId() != scroll_timer_.timerId()) return QObject::timerEvent(event);
-  if (!box_.isActiveWindow()) return scroll_timer_.stop();  // the button may be released in another window
+  // The button may be released in another window or in a pop-up menu.
+  if (!box_.isActiveWindow() || QApplication::activePopupWidget() != nullptr) return scroll_timer_.stop();
   QScrollBar* bar = box_.verticalScrollBar();
   bar->setValue(bar->value() + Overshoot(last_at_.y(), box_.viewport()->height()));
   Extend(last_at_);

@@ -284,8 +284,8 @@ TEST_F(TextBoxTest, PartialRepaintsEqualAFullRepaintAndShowTheCaret) {
     }
     const std::size_t action = random.Below(6);
     act(action);
-    ASSERT_TRUE(action == 0 || CaretInSight()) << "round " << round << " act " << action;
     QApplication::processEvents();
+    ASSERT_TRUE(action == 0 || CaretInSight()) << "round " << round << " act " << action;
     const QImage seen = window.screen()->grabWindow(window.winId()).toImage().convertToFormat(QImage::Format_RGB32);
     ASSERT_TRUE(seen == window.grab().toImage().convertToFormat(QImage::Format_RGB32))
         << "round " << round << " act " << action;
