@@ -43,13 +43,16 @@ void Catch(int number) {
 
 EndRequests::EndRequests(std::function<void()> keep) : keep_(std::move(keep)) {
   qGuiApp->installEventFilter(this);
-  const auto save = [this](QSessionManager& manager) {
-    // Qt's own restart command has arguments, which the program would take for a file path.
+  // Qt's own restart command has arguments, which the program would take for a file path.
+  const auto set_restart = [](QSessionManager& manager) {
     manager.setRestartCommand({QCoreApplication::applicationFilePath()});
-    keep_();
   };
-  connect(qGuiApp, &QGuiApplication::commitDataRequest, this, save);
-  connect(qGuiApp, &QGuiApplication::saveStateRequest, this, save);
+  connect(qGuiApp, &QGuiApplication::commitDataRequest, this, [this, set_restart](QSessionManager& manager) {
+    set_restart(manager);
+    keep_();
+  });
+  // This request also comes soon after each start. keep_ would then overwrite the files of the last close.
+  connect(qGuiApp, &QGuiApplication::saveStateRequest, this, set_restart);
   if (::pipe2(pipe_ends.data(), O_CLOEXEC | O_NONBLOCK) != 0) return;
   notifier_.setSocket(pipe_ends[0]);
   connect(&notifier_, &QSocketNotifier::activated, this, &EndRequests::EndBySignal);
