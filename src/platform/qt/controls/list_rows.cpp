@@ -39,8 +39,9 @@ void OnRowPicked(QListWidget& list, const std::function<void(int row)>& picked) 
     const QList<QListWidgetItem*> rows = list.selectedItems();
     if (!rows.isEmpty()) picked(list.row(rows.first()));
   });
-  QObject::connect(&list, &QListWidget::itemClicked, &list,
-                   [&list, picked](const QListWidgetItem* item) { picked(list.row(item)); });
+  QObject::connect(&list, &QListWidget::itemClicked, &list, [&list, picked](const QListWidgetItem* item) {
+    if (item->isSelected()) picked(list.row(item));  // Ctrl with a click deselects the row
+  });
 }
 
 void ShowRowsOnOneLine(QListWidget& list) { list.setItemDelegate(new OneLineDelegate(&list)); }

@@ -13,8 +13,9 @@ namespace pelmar {
 // a list.
 void ChooseFirstByArrows(QAbstractItemView* list);
 
-// Calls `picked` when the person clicks a row, and when the person or the program selects a row. A click that selects a
-// row calls `picked` twice. The row that Qt makes current when the list gets the focus causes no call.
+// Calls `picked` when the person clicks a row that is selected then, and when the person or the program selects a row.
+// A click that selects a row calls `picked` twice. The row that Qt makes current when the list gets the focus causes no
+// call.
 void OnRowPicked(QListWidget& list, const std::function<void(int row)>& picked);
 
 // Shows each line break as "¶", so that each row is one line high. Shows at most 1000 characters of a row. The texts of

@@ -103,6 +103,11 @@ void FileList::selectionChanged(const QItemSelection& selected, const QItemSelec
   Q_EMIT FileClicked();
 }
 
+QItemSelectionModel::SelectionFlags FileList::selectionCommand(const QModelIndex& index, const QEvent* event) const {
+  const QItemSelectionModel::SelectionFlags command = QListView::selectionCommand(index, event);
+  return command.testFlag(QItemSelectionModel::Deselect) ? QItemSelectionModel::NoUpdate : command;
+}
+
 void FileList::mousePressEvent(QMouseEvent* event) {
   click_emitted_ = false;
   QListView::mousePressEvent(event);

@@ -43,6 +43,8 @@ class FileList : public QListView {
   void FileActivated();
 
  protected:
+  // Ctrl with a click or with the space bar doesn't deselect the chosen file.
+  QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
   void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;

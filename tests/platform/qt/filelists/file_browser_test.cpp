@@ -168,6 +168,8 @@ TEST_F(FileBrowserTest, ADoubleClickOrEnterActivatesAFile) {
   EXPECT_EQ(TakeEvents(), (Events{"clicked", "activated", "clicked", "activated"}));
   QTest::keyClick(&files, Qt::Key_Enter);
   EXPECT_EQ(TakeEvents(), Events{"activated"});
+  QTest::keyClick(&files, Qt::Key_Space, Qt::ControlModifier);
+  EXPECT_EQ(files.FileName(), QStringLiteral("d"));
 }
 
 TEST_F(FileBrowserTest, AClickHighlightsAFolderAndAKeyShowsItsFiles) {
