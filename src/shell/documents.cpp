@@ -1,6 +1,7 @@
 #include "shell/documents.h"
 
 #include "platform/paths.h"
+#include "text/utf8.h"
 
 namespace pelmar {
 
@@ -79,11 +80,13 @@ void Documents::ForgetPath() {
 void Documents::Restore(int tab, std::string text, const std::string& path) {
   SwitchTo(tab);
   current_path_ = path;
-  SetFace(std::string(NameOf(path)), path);
+  Remember({path, std::nullopt, LooksLikeUtf8(text)});
   buffer_.SetText(std::move(text));
   Current().Path = path;
   Current().Modified = true;
   SetTitle(current_path_, true);
+  if (HasExtension(path)) target_.SetPath(path);  // SetPath would throw for a name without an extension
+  SetFace(std::string(NameOf(path)), path);
 }
 
 void Documents::ShowPathInTitle() { SetTitle(current_path_, false); }

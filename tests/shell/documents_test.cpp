@@ -122,6 +122,7 @@ TEST_F(DocumentsTest, ARestoredDocumentIsShownAndUnsaved) {
   documents.Restore(2, "text", "/a/b.txt");
   EXPECT_EQ(documents.Title(), "Pelmar VEX (/a/b.txt)*");
   EXPECT_EQ(documents.SelectedTab(), 2);
+  EXPECT_EQ(documents.Target().Path(), "/a/b.txt");
 }
 
 TEST_F(DocumentsTest, RescueNeverOverwritesADocumentOfThisRun) {
