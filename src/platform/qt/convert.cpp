@@ -39,7 +39,8 @@ QString TextToQString(std::string_view text) {
 }
 
 std::string TextFromQString(const QString& string) {
-  return FromUtf16({reinterpret_cast<const char16_t*>(string.utf16()), static_cast<std::size_t>(string.size())});
+  const QString composed = string.normalized(QString::NormalizationForm_C);
+  return FromUtf16({reinterpret_cast<const char16_t*>(composed.utf16()), static_cast<std::size_t>(composed.size())});
 }
 
 QString Utf8ToQString(std::string_view utf8) {
@@ -75,7 +76,7 @@ QUrl UrlOfPath(std::string_view path) {
 }
 
 std::string PathOfUrl(const QUrl& url) {
-  if (!url.host().isEmpty()) return url.toLocalFile().toStdString();
+  if (!url.host().isEmpty() && url.host() != QLatin1String("localhost")) return url.toLocalFile().toStdString();
   return QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()).toStdString();
 }
 

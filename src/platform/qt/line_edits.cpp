@@ -17,7 +17,9 @@ class LineMime : public QMimeData {};
 
 void Paste(QLineEdit& field, QClipboard::Mode mode) {
   const QMimeData* mime = QGuiApplication::clipboard()->mimeData(mode);
-  if (mime != nullptr) field.insert(LineFromMime(*mime, field.property(kHoldsLines).toBool()));
+  if (mime == nullptr) return;
+  const QString line = LineFromMime(*mime, field.property(kHoldsLines).toBool());
+  if (!line.isEmpty()) field.insert(line);  // an empty text would erase the selection
 }
 
 void ShowMenu(QLineEdit& field, QPoint at) {

@@ -52,8 +52,6 @@ QString LineFromMime(const QMimeData& mime, bool holds_lines) {
   return holds_lines ? text : text.remove(u'\r').remove(u'\n');
 }
 
-std::string TextInCodePage(const QString& foreign) {
-  return TextFromQString(WithCrLf(foreign.normalized(QString::NormalizationForm_C)));
-}
+std::string TextInCodePage(const QString& foreign) { return TextFromQString(WithCrLf(foreign)); }
 
 }  // namespace pelmar

@@ -183,7 +183,7 @@ std::optional<QString> AskForText(const QString& prompt, const QString& title, c
   field->installEventFilter(new PasteFilter(field));
   dialog->setTextValue(initial);
   if (!dialog.RunAccepted()) return std::nullopt;
-  return dialog->textValue();
+  return dialog->textValue().normalized(QString::NormalizationForm_C);
 }
 
 QStringList NameFilters(const QString& filter) {
@@ -202,6 +202,7 @@ QStringList NameFilters(const QString& filter) {
 std::optional<QString> AskForFile(FileDialogKind kind, const QString& filter, int filter_index, QString& folder) {
   const QStringList filters = NameFilters(filter);
   ModalDialog<FileDialog> dialog;
+  dialog->setSupportedSchemes({QStringLiteral("file")});  // a dialog of the desktop may offer remote files
   if (!folder.isEmpty()) dialog->setDirectory(folder);
   // Show names only: in the detailed view the columns are too narrow and their titles are not in Czech.
   dialog->setViewMode(QFileDialog::List);

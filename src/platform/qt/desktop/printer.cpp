@@ -113,7 +113,7 @@ QString NewPdfPath(const QString& folder, const QString& name) {
   constexpr qsizetype kLongestName = 80;  // characters of up to three bytes; a file name has at most 255 bytes
   const QString base = folder + QLatin1Char('/') + name.left(kLongestName);
   QString path = base + QStringLiteral(".pdf");
-  for (int number = 2; QFile::exists(path); ++number) path = QStringLiteral("%1 (%2).pdf").arg(base).arg(number);
+  for (int number = 2; QFile::exists(path); ++number) path = base + QStringLiteral(" (%1).pdf").arg(number);
   return path;
 }
 
