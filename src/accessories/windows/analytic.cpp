@@ -92,7 +92,7 @@ void Analytic::Command3_Click() {
 
 void Analytic::Pic_Pointed(double x) {
   const int code = CodeAt(x, ui_->Check1->isChecked());
-  if (code < 0) return;
+  if (code < 0 || code >= static_cast<int>(kCodes)) return;
   const QString text = TextToQString(PointedText(code));
   ui_->Label2->setText(text);
   ui_->Pic->setToolTip(text);

@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QToolButton>
+#include <utility>
 
 #include "platform/qt/controls/accessible_face.h"
 #include "platform/qt/controls/tab_keys.h"
@@ -152,14 +153,14 @@ bool Poznamka::Unload() {
   stored_ = LoadNotesAnew(before, around_.platform, around_.file_number);
   const MergedNotes merged = MergeNotes(before, now, stored_);
   record_ = merged.record;
+  if (merged.page_in_conflict != 0) kept_twice_ = merged.page_in_conflict;
   if (record_.Page(page_) != now.Page(page_)) ShowPage(page_);
   if (RefuseOverlong(record_)) return false;
   StoreNotes(record_, around_.platform, around_.file_number);
   stored_ = record_;
   keeper_.End();
-  if (merged.page_in_conflict != 0)
-    around_.platform.Message(MessageType::kOk, KeptTwiceMessage(merged.page_in_conflict),
-                             Utf8FromQString(windowTitle()));
+  if (const int page = std::exchange(kept_twice_, 0))
+    around_.platform.Message(MessageType::kOk, KeptTwiceMessage(page), Utf8FromQString(windowTitle()));
   return around_.mode != StartMode::kNotes || MayEndStandAlone(around_.platform, "Poznámky");
 }
 

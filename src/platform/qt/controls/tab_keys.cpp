@@ -43,7 +43,8 @@ void AddTabKeys(QWidget& window, QTabBar& tabs) {
     on(QKeySequence(Qt::ALT | static_cast<Qt::Key>(Qt::Key_1 + tab)), [tab] { return tab; });
   KeyRouter::Get().Add(KeyTurn::kTabs, window,
                        [&tabs](QWidget&, const QKeyEvent& press) { return PickByNumberKey(tabs, press); });
-  QObject::connect(&tabs, &QTabBar::currentChanged, &window, [&](int tab) {
+  QObject::connect(&tabs, &QTabBar::currentChanged, &window, [&] {
+    const int tab = tabs.currentIndex();  // a slot called before this one may have gone back
     const QString name = tabs.accessibleTabName(tab);
     Announce(window, name.isEmpty() ? tabs.tabText(tab).remove(u'&') : name);
   });
