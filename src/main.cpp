@@ -19,10 +19,11 @@
 
 namespace {
 
-// Only X11 lets the program place its windows, so an X display is preferred. Wayland is used if X11 fails.
-void PreferX11() {
-  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && qEnvironmentVariableIsSet("DISPLAY"))
-    qputenv("QT_QPA_PLATFORM", "xcb;wayland");
+// Only X11 lets the program place its windows, so an X display is preferred. Wayland is used if X11 fails. True if the
+// function has set QT_QPA_PLATFORM.
+bool PreferX11() {
+  return !qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && qEnvironmentVariableIsSet("DISPLAY") &&
+         qputenv("QT_QPA_PLATFORM", "xcb;wayland");
 }
 
 // Without a display Qt would abort with an English message.
@@ -62,7 +63,7 @@ int main(int argc, char** argv) {
     std::fputs("pelmar-vex: chybí obrazovka (není nastaveno DISPLAY ani WAYLAND_DISPLAY)\n", stderr);
     return EXIT_FAILURE;
   }
-  PreferX11();
+  const bool prefers_x11 = PreferX11();
   QStringList arguments;
   for (int i = 1; i < argc; ++i) arguments.append(pelmar::PathToQString(argv[i]));
   // Qt must not interpret the program's arguments.
@@ -72,6 +73,7 @@ int main(int argc, char** argv) {
   const QtMessageHandler usual = qInstallMessageHandler(EndWithoutDisplay);
   pelmar::Application application(own_argc, argv);
   qInstallMessageHandler(usual);
+  if (prefers_x11) qunsetenv("QT_QPA_PLATFORM");  // programs that this program starts choose for themselves
   pelmar::Application::setStyle(new pelmar::ProgramStyle);
   pelmar::Application::setApplicationName(QStringLiteral("pelmar-vex"));
   pelmar::Application::setDesktopFileName(QStringLiteral("pelmar-vex"));

@@ -45,7 +45,8 @@ WebEngineView::WebEngineView(QWidget* parent) : view_(std::make_unique<QWebEngin
   SetUp(expecting_load_, kLongestWaitForLoad);
   SetUp(unanswered_, kLongestSilence);
   connect(&unanswered_, &QTimer::timeout, this, [this] {
-    if (page_->renderProcessPid() == probed_) EndProcess(std::exchange(after_end_, {}));
+    if (page_->renderProcessPid() != probed_) return StopProbe();  // another process shows the page by now
+    EndProcess(std::exchange(after_end_, {}));
   });
   for (const PageSide side : {PageSide::kDisk, PageSide::kDiskWithNet, PageSide::kNet}) {
     const bool allows_net = side != PageSide::kDisk;

@@ -24,7 +24,7 @@ bool IsNameOfKept(const std::string& name) {
 }
 
 bool IsUnreportedCopy(const std::string& path) {
-  const Descriptor file(open(path.c_str(), O_RDONLY | O_NOFOLLOW | kOpenSafely));
+  const Descriptor file(open(path.c_str(), O_RDWR | O_NOFOLLOW | kOpenSafely));  // NFS locks only writable files
   struct stat state {};
   if (!file.IsOpen() || fstat(file.Number(), &state) != 0 || !S_ISREG(state.st_mode)) return false;
   return (state.st_mode & kWritable) != 0 && flock(file.Number(), LOCK_EX | LOCK_NB) == 0;
