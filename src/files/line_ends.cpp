@@ -11,24 +11,24 @@
 namespace pelmar {
 namespace {
 
-WriteOutcome WriteUnix(Platform& platform, const std::string& target, std::string text) {
+WriteOutcome WriteUnix(Platform& platform, const std::string& target, std::string& text) {
   std::string bytes = ToLineFeeds(std::move(text));
   if (const int error = AppendOldTail(platform, target, bytes)) return {.error = error};
   return platform.WriteDocument(target, bytes);
 }
 
-WriteOutcome WriteDos(Platform& platform, const std::string& target, std::string text) {
+WriteOutcome WriteDos(Platform& platform, const std::string& target, std::string& text) {
   return platform.WriteDocument(target, ToCrLf(text));
 }
 
 void Convert(Platform& platform, const std::string& path, std::string_view extension,
-             WriteOutcome (*write)(Platform& platform, const std::string& target, std::string text)) {
+             WriteOutcome (*write)(Platform& platform, const std::string& target, std::string& text)) {
   const std::string target = ConvertedPath(path, extension);
   if (IsOwnSource(platform, path, target)) return;
   const BusyPointer busy(platform);
   FileBytes source = platform.ReadFile(path, kAnySize);
   const WriteOutcome outcome =
-      source.error != 0 ? WriteOutcome{.error = source.error} : write(platform, target, std::move(source.bytes));
+      source.error != 0 ? WriteOutcome{.error = source.error} : write(platform, target, source.bytes);
   if (outcome.error == 0) return;
   throw RuntimeError(outcome.error, "Konverze souboru " + path + " do " + target + ": " + ErrorText(outcome.error) +
                                         KeptNotice(outcome));

@@ -80,7 +80,7 @@ void Documents::ForgetPath() {
 void Documents::Restore(int tab, std::string text, const std::string& path) {
   SwitchTo(tab);
   current_path_ = path;
-  Remember({path, std::nullopt, LooksLikeUtf8(text)});
+  Remember({path, std::nullopt, !path.empty() && LooksLikeUtf8(text)});
   buffer_.SetText(std::move(text));
   Current().Path = path;
   Current().Modified = true;

@@ -2,7 +2,6 @@
 
 #include <QCloseEvent>
 #include <QToolButton>
-#include <utility>
 
 #include "platform/qt/controls/accessible_face.h"
 #include "platform/qt/controls/tab_keys.h"
@@ -153,13 +152,14 @@ bool Poznamka::Unload() {
   stored_ = LoadNotesAnew(before, around_.platform, around_.file_number);
   const MergedNotes merged = MergeNotes(before, now, stored_);
   record_ = merged.record;
-  if (merged.page_in_conflict != 0) kept_twice_ = merged.page_in_conflict;
+  if (const int page = merged.page_in_conflict; page != 0) kept_twice_ = {page, record_.Page(page)};
   if (record_.Page(page_) != now.Page(page_)) ShowPage(page_);
   if (RefuseOverlong(record_)) return false;
   StoreNotes(record_, around_.platform, around_.file_number);
   stored_ = record_;
   keeper_.End();
-  if (const int page = std::exchange(kept_twice_, 0))
+  const auto [page, text] = std::exchange(kept_twice_, {});
+  if (page != 0 && record_.Page(page) == text)
     around_.platform.Message(MessageType::kOk, KeptTwiceMessage(page), Utf8FromQString(windowTitle()));
   return around_.mode != StartMode::kNotes || MayEndStandAlone(around_.platform, "Poznámky");
 }

@@ -8,6 +8,8 @@
 #include <array>
 #include <functional>
 #include <memory>
+#include <string>
+#include <utility>
 
 #include "accessories/notes.h"
 #include "accessories/notes_place.h"
@@ -83,7 +85,8 @@ class Poznamka : public QWidget {
   NotesRecord record_;  // the notes; the text of page_ may be out of date, see Now()
   NotesRecord stored_;  // the contents of the file, as far as this window knows
   int page_ = 1;
-  int kept_twice_ = 0;  // a page that both copies changed and no message has named yet; 0 if there is none
+  // A page that both copies changed and that no message has named yet, with its merged text. Page 0 if there is none.
+  std::pair<int, std::string> kept_twice_;
   std::array<std::size_t, kNotePages> carets_{};  // the caret's place in each notes page
   QTimer timer1_{this};
   PlaceRequests requests_;

@@ -48,7 +48,8 @@ std::optional<std::string> TextFromMime(const QMimeData* mime) {
 
 QString LineFromMime(const QMimeData& mime, bool holds_lines) {
   const QString own = QString::fromLatin1(kBytesMimeType);
-  QString text = mime.hasFormat(own) ? TextToQString(ViewOf(mime.data(own))) : WithCrLf(mime.text());
+  QString text = mime.hasFormat(own) ? TextToQString(ViewOf(mime.data(own)))
+                                     : WithCrLf(mime.text().normalized(QString::NormalizationForm_C));
   return holds_lines ? text : text.remove(u'\r').remove(u'\n');
 }
 

@@ -1,7 +1,8 @@
 // The style of the desktop with changes, mainly these. Push buttons, lists and scroll bars show the keyboard focus
 // clearly. Disabled texts and the borders of check boxes are visible on dark desktops too. The mouse wheel doesn't
-// change tabs. All dialogs have the same margins and the same spacing, unless a form sets others. Two icons of menu bars and toolbars
-// come from the program: for Qt's own icons, Qt would load its image plug-ins before the first window appears.
+// change tabs. All dialogs have the same margins and the same spacing, unless a form sets others. Two icons of menu
+// bars and toolbars come from the program: for Qt's own icons, Qt would load its image plug-ins before the first window
+// appears.
 #pragma once
 
 #include <QProxyStyle>

@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QInputMethod>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QScroller>
 #include <QStyle>
@@ -133,9 +134,8 @@ void TextBox::ShowChange(const TextChange& change) {
   mover_.Forget();
   if (change.whole && composer_.Active()) {
     composer_.Clear();
-    // The reset may type the composed text into the buffer, so the old layout and the old text must not be used.
-    view_->Invalidate();
-    notifier_->Forget();
+    // Some input methods type the composed text when they are reset, but that text belongs to the replaced text.
+    const QScopedValueRollback<bool> ignoring(resetting_input_, true);
     QGuiApplication::inputMethod()->reset();
   }
   const bool selected = shown_selection_.begin != shown_selection_.end || buffer_->HasSelection();

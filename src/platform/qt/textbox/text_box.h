@@ -187,6 +187,7 @@ class TextBox : public QAbstractScrollArea {
   bool tab_selects_all_ = false;
   bool caret_stays_ = false;
   bool updating_bar_ = false;
+  bool resetting_input_ = false;
   bool ready_ = false;  // set just before the first paint, see showEvent
 };
 

@@ -133,7 +133,7 @@ bool TextBox::focusNextPrevChild(bool next) {
 // ---- input methods
 
 void TextBox::inputMethodEvent(QInputMethodEvent* event) {
-  if (read_only_) return event->ignore();
+  if (read_only_ || resetting_input_) return event->ignore();
   const bool composed = composer_.Active() || !event->preeditString().isEmpty();
   composer_.Handle(*event, *buffer_);
   if (composed) viewport()->update();
