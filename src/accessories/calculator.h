@@ -14,9 +14,9 @@ class Calculator {
  public:
   explicit Calculator(Platform& platform) : platform_(platform) {}
 
-  std::string shown = "0";    // the number in the display
-  std::string operation;      // the pending operation: + - * / L ^, or empty
-  std::string first_operand;  // the first operand
+  std::string shown = "0";  // the number in the display
+  std::string operation;    // the pending operation: + - * / L ^, or empty
+  std::string first_operand;
 
   // Which keys are enabled.
   [[nodiscard]] bool OperatorsOn() const { return operation.empty(); }  // + - * / and log

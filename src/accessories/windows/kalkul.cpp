@@ -129,9 +129,9 @@ Preview Kalkul::PhysicalKey(const QKeyEvent& event) {
   }
   const auto character = TypedCharacter(event);
   const QWidget* focus = focusWidget();
-  // Enter presses these buttons. On all other buttons Enter means "=".
-  const bool pressed = focus == ui_->Command19 || focus == ui_->Command20 || focus == ui_->Command35;
-  if (pressed && character == '\r') return Preview::kPass;
+  // Enter presses these three buttons if they have the focus. Otherwise Enter means "=".
+  const bool is_no_key = focus == ui_->Command19 || focus == ui_->Command20 || focus == ui_->Command35;
+  if (is_no_key && character == '\r') return Preview::kPass;
   QPushButton* key = event.key() == Qt::Key_Delete ? ui_->Command23 : character ? KeyOf(*character) : nullptr;
   if (key == nullptr) return Preview::kPass;
   key->click();  // does nothing while the key is disabled

@@ -183,7 +183,7 @@ std::optional<QString> AskForText(const QString& prompt, const QString& title, c
   field->installEventFilter(new PasteFilter(field));
   dialog->setTextValue(initial);
   if (!dialog.RunAccepted()) return std::nullopt;
-  return dialog->textValue().normalized(QString::NormalizationForm_C);
+  return dialog->textValue();
 }
 
 QStringList NameFilters(const QString& filter) {

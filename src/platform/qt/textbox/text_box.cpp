@@ -295,8 +295,7 @@ void TextBox::RevealRect(QRect rect) {
   const int top = rect.top() - TextView::kMargin;
   const int below = rect.bottom() + 1 + TextView::kMargin - viewport()->height();
   // In a box lower than `rect` the top of `rect` is shown.
-  const int by = std::min(std::max(below, 0), std::max(top, 0)) + std::min(top, 0);
-  bar->setValue(bar->value() + by);
+  bar->setValue(bar->value() + std::min(std::max(below, 0), top));
 }
 
 void TextBox::ShowCaretAnew() {
