@@ -209,6 +209,7 @@ TwipsRect MainWindow::Place() const {
 void MainWindow::SetStartState(WindowMode state) { window_state_ = state; }
 
 WindowMode MainWindow::WindowState() const {
+  if (!isVisible()) return window_state_;  // not shown yet; a minimised window is visible for Qt
   if (isMinimized()) return WindowMode::kMinimised;
   return isMaximized() ? WindowMode::kMaximised : WindowMode::kNormal;
 }
