@@ -11,34 +11,26 @@ namespace pelmar {
 DriveList::DriveList(QWidget* parent) : QComboBox(parent) {
   setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
   setMinimumContentsLength(4);
-  Fill();
-  SetDrive(QDir::currentPath());
+  SetDrive(CurrentFolder());
   view()->setTextElideMode(Qt::ElideMiddle);
   connect(this, &QComboBox::textActivated, this, &QWidget::setToolTip);
   connect(this, &QComboBox::textActivated, this, &DriveList::DriveChanged);
 }
 
 void DriveList::SetDrive(const QString& path) {
-  QStringList places;
-  for (int row = 0; row < count(); ++row) places.append(itemText(row));
+  const QStringList places = MountedPlaces(QDir::homePath());
   const QString place = PlaceOf(path, places);
   if (place.isEmpty()) return;
   const QSignalBlocker silence(this);
+  clear();
+  addItems(places);
   setCurrentText(place);
   setToolTip(place);
 }
 
 void DriveList::showPopup() {
-  Fill();
+  SetDrive(Drive());  // If the selected disk was removed, selects the place that contained the disk.
   QComboBox::showPopup();
-}
-
-void DriveList::Fill() {
-  const QSignalBlocker silence(this);
-  const QString chosen = Drive();
-  clear();
-  addItems(MountedPlaces(QDir::homePath()));
-  SetDrive(chosen);  // If the selected disk was removed, selects the place that contained the disk.
 }
 
 }  // namespace pelmar

@@ -1,4 +1,4 @@
-// A drop-down list of places: the home folder, "/" and the disks of MountedPlaces. Each opening reads the places again.
+// A drop-down list of places: the home folder, "/" and the disks of MountedPlaces.
 #pragma once
 
 #include <QComboBox>
@@ -13,7 +13,8 @@ class DriveList : public QComboBox {
   explicit DriveList(QWidget* parent = nullptr);
 
   [[nodiscard]] QString Drive() const { return currentText(); }
-  // Selects the deepest place that contains the path, without a signal. An empty or relative path changes nothing.
+  // Reads the places and selects the deepest place that contains the path, without a signal. An empty or relative path
+  // changes nothing.
   void SetDrive(const QString& path);
 
   void showPopup() override;
@@ -21,9 +22,6 @@ class DriveList : public QComboBox {
  Q_SIGNALS:
   // The person has chosen a place, perhaps the same place again.
   void DriveChanged(const QString& path);
-
- private:
-  void Fill();
 };
 
 }  // namespace pelmar

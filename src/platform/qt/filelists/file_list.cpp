@@ -4,6 +4,7 @@
 #include <QMetaMethod>
 #include <QScopedValueRollback>
 #include <QScrollBar>
+#include <QSet>
 #include <QStringListModel>
 #include <algorithm>
 
@@ -83,9 +84,9 @@ void FileList::Reload() {
   const QString selected = FileName();
   // The name of a selected file stays in the list after the file was removed.
   if (!selected.isEmpty() && !names.contains(selected)) {
-    const auto follows = [old = names_->stringList(), &selected](const QString& name) {
-      return old.indexOf(name) > old.indexOf(selected);
-    };
+    const QStringList old = names_->stringList();
+    const QSet<QString> after(old.cbegin() + old.indexOf(selected), old.cend());
+    const auto follows = [&after](const QString& name) { return after.contains(name); };
     names.insert(std::ranges::find_if(std::as_const(names), follows), selected);
   }
   if (names != names_->stringList()) {

@@ -122,6 +122,7 @@ void FolderList::SetPath(const QString& path) {
   const bool changed = clean != path_;
   path_ = clean;
   Fill(path_);
+  Q_EMIT Entered();
   if (changed) Q_EMIT PathChanged(path_);
 }
 
@@ -136,6 +137,11 @@ void FolderList::Fill(const QString& highlighted) {
   setCurrentIndex(model_->index(row >= 0 ? row : own_row, 0));
 }
 
+QItemSelectionModel::SelectionFlags FolderList::selectionCommand(const QModelIndex& index, const QEvent* event) const {
+  const QItemSelectionModel::SelectionFlags command = QListView::selectionCommand(index, event);
+  return command.testFlag(QItemSelectionModel::Deselect) ? QItemSelectionModel::NoUpdate : command;
+}
+
 void FolderList::keyPressEvent(QKeyEvent* event) {
   if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) return QListView::keyPressEvent(event);
   // Otherwise the dialog would get Enter too.
@@ -144,8 +150,8 @@ void FolderList::keyPressEvent(QKeyEvent* event) {
 }
 
 void FolderList::EnterHighlighted() {
-  if (IsReadableFolder(HighlightedPath())) return SetPath(HighlightedPath());
-  Fill(path_);
+  const QString highlighted = HighlightedPath();
+  SetPath(IsReadableFolder(highlighted) ? highlighted : path_);
 }
 
 void FolderList::keyReleaseEvent(QKeyEvent* event) {

@@ -27,10 +27,14 @@ class FolderList : public QListView {
 
  Q_SIGNALS:
   void PathChanged(const QString& path);
+  // A folder was entered, perhaps the same folder again. The row of this folder is highlighted.
+  void Entered();
   // A key was released. Repeats of a held key don't count.
   void KeyReleased();
 
  protected:
+  // Ctrl with a click keeps the folder highlighted.
+  QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
   // Reads the folder again, since it may have changed while the dialog was hidden.
