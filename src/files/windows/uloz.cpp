@@ -27,7 +27,9 @@ Uloz::Uloz(Documents& documents, Saver& saver, QWidget* parent)
 
 void Uloz::ShowName(const SaveTarget& target) {
   ui_->Text1->setText(Utf8ToQString(target.Name()));
-  ui_->Text2->setCurrentText(Utf8ToQString(target.Extension()));
+  const QString extension = Utf8ToQString(target.Extension());
+  ui_->Text2->setCurrentIndex(ui_->Text2->findText(extension));  // so that the arrow keys start there
+  ui_->Text2->setCurrentText(extension);
 }
 
 void Uloz::FieldChanged() {
@@ -47,7 +49,7 @@ void Uloz::TakeTarget() {
   const QString folder = PathToQString(target.Folder());
   ui_->Drive1->SetDrive(folder);
   ui_->Dir1->SetPath(folder);
-  if (!target.Complete()) return;
+  if (!target.Complete()) return FieldChanged();
   ShowName(target);
   ShowPath(*ui_->Label1, target.Path());
 }
