@@ -205,11 +205,13 @@ void FrmBrowser::View_Finished() {
   const bool half_typed = line.isModified();
   const bool selected = line.hasSelectedText();
   const QString typed = line.text();
+  const int caret = line.cursorPosition();
   DontNavigateNow = true;
   PutOnTop(AddressOfUrl(view_->LocationAddress()));
   // If the person is typing an address, the box keeps the typed text.
   if (half_typed) {
     line.setText(typed);
+    line.setCursorPosition(caret);
     line.setModified(true);
   }
   if (selected && !half_typed) line.selectAll();

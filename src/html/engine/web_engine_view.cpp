@@ -1,5 +1,6 @@
 #include "html/engine/web_engine_view.h"
 
+#include <algorithm>
 #include <csignal>
 
 #include <QMenu>
@@ -48,6 +49,10 @@ WebEngineView::WebEngineView(QWidget* parent) : view_(std::make_unique<QWebEngin
     if (page_->renderProcessPid() != probed_) return StopProbe();  // another process shows the page by now
     EndProcess(std::exchange(after_end_, {}));
   });
+  // A command that loads nothing may still change the address and the history.
+  connect(&expecting_load_, &QTimer::timeout, this, [this] {
+    if (!Busy() && !unanswered_.isActive()) Finished();
+  });
   for (const PageSide side : {PageSide::kDisk, PageSide::kDiskWithNet, PageSide::kNet}) {
     const bool allows_net = side != PageSide::kDisk;
     const ScopedVariable proxy(kProxyVariable, (allows_net ? open_gate_ : shut_gate_).Address());
@@ -60,7 +65,10 @@ WebEngineView::WebEngineView(QWidget* parent) : view_(std::make_unique<QWebEngin
   MakePage(PageSide::kDisk);
 }
 
-WebEngineView::~WebEngineView() { page_->disconnect(this); }
+WebEngineView::~WebEngineView() {
+  page_->disconnect(this);
+  ++probes_;  // the destructor of the page calls the functions of unanswered probes
+}
 
 void WebEngineView::MakePage(PageSide side) {
   auto page = std::make_unique<WebEnginePage>(profiles_.at(side).get(), side);
@@ -150,6 +158,7 @@ void WebEngineView::StopProbe() {
 
 void WebEngineView::EndProcess(std::function<void()> then) {
   unanswered_.stop();
+  ++probes_;  // a late answer would take `then` away
   const qint64 process = page_->renderProcessPid();
   after_end_ = std::move(then);
   if (process <= 0 || kill(static_cast<pid_t>(process), SIGKILL) != 0) ProcessEnded();
@@ -217,7 +226,8 @@ void WebEngineView::Go(int steps) {
           [this, steps] { page_->triggerAction(steps < 0 ? QWebEnginePage::Back : QWebEnginePage::Forward); });
     EndProcess([this, steps] {
       GatherPlaces();
-      LoadInNewPage(place_ + steps, SideOf(places_[place_ + steps]));
+      const qsizetype to = std::min(place_ + steps, places_.size() - 1);  // a link may just have cut the history
+      LoadInNewPage(to, SideOf(places_[to]));
     });
   });
 }
