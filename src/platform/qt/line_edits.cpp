@@ -53,7 +53,9 @@ bool TakePasted(QLineEdit& field, QEvent& event) {
   }
   if (field.isReadOnly()) return false;
   if (event.type() == QEvent::KeyPress && static_cast<QKeyEvent&>(event).matches(QKeySequence::Paste)) {
-    Paste(field, QClipboard::Clipboard);
+    // Qt pastes the selection for Ctrl+Shift+Insert.
+    const bool selection = static_cast<QKeyEvent&>(event).modifiers() == (Qt::ControlModifier | Qt::ShiftModifier);
+    Paste(field, selection ? QClipboard::Selection : QClipboard::Clipboard);
     return true;
   }
   if (event.type() == QEvent::MouseButtonRelease && static_cast<QMouseEvent&>(event).button() == Qt::MiddleButton) {

@@ -32,10 +32,9 @@
 namespace pelmar {
 namespace {
 
-// Moves a horizontal scroll bar by the Left or Right key. Qt would move the bar the wrong way. False for other keys and
-// for vertical bars.
+// Moves a scroll bar by the Left or Right key. Qt would move the bar the wrong way. False for other keys.
 bool MoveByArrow(QScrollBar& bar, int key) {
-  if (bar.orientation() != Qt::Horizontal || (key != Qt::Key_Left && key != Qt::Key_Right)) return false;
+  if (key != Qt::Key_Left && key != Qt::Key_Right) return false;
   bar.triggerAction(key == Qt::Key_Left ? QAbstractSlider::SliderSingleStepSub : QAbstractSlider::SliderSingleStepAdd);
   return true;
 }
@@ -156,9 +155,9 @@ bool DialogWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool DialogWindow::TakesKey(QWidget& receiver, const QKeyEvent& press) {
-  // Alt with a character never types this character into a field, even if no control has the character as access key.
-  const auto* box = qobject_cast<QComboBox*>(&receiver);
-  if ((qobject_cast<QLineEdit*>(&receiver) || (box != nullptr && box->isEditable())) && IsAltCharacter(press))
+  // Alt with a character that is no access key never types this character into a field, nor does it choose the row of
+  // a box that begins with the character.
+  if ((qobject_cast<QLineEdit*>(&receiver) || qobject_cast<QComboBox*>(&receiver)) && IsAltCharacter(press))
     return true;
   if (const auto act = on_enter_.find(&receiver); act != on_enter_.end() && IsPlainEnter(press)) {
     act->second();
@@ -211,11 +210,16 @@ void DialogWindow::showEvent(QShowEvent* event) {
 }
 
 void DialogWindow::BeginInFirstField() {
-  if (!first_field_ || !first_field_->isEnabled()) return;
-  first_field_->setFocus(Qt::TabFocusReason);
+  if (!first_field_) return;
+  QWidget* field = first_field_;
+  while (!field->isEnabled() || (field->focusPolicy() & Qt::TabFocus) == 0) {
+    field = field->nextInFocusChain();
+    if (field == first_field_) return;
+  }
+  field->setFocus(Qt::TabFocusReason);
   // If the window isn't active yet, the field gets the focus later, without the reason Tab. Then Qt selects no text, so
   // the text is selected here.
-  SelectText(*first_field_);
+  SelectText(*field);
 }
 
 void DialogWindow::Prepare() {

@@ -122,7 +122,8 @@ void TextBox::CopySelection() {
 
 void TextBox::Insert(const QMimeData* mime) {
   if (read_only_) return;
-  if (const auto text = TextFromMime(mime)) buffer_->ReplaceSelection(*text);
+  // An empty text would erase the selection.
+  if (const auto text = TextFromMime(mime); text && !text->empty()) buffer_->ReplaceSelection(*text);
 }
 
 bool TextBox::focusNextPrevChild(bool next) {
