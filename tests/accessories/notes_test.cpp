@@ -6,7 +6,6 @@
 #include "accessories/notes.h"
 #include "accessories/notes_place.h"
 #include "platform/runtime_error.h"
-#include "support/printed_places.h"
 #include "support/scripted_platform.h"
 
 namespace pelmar {

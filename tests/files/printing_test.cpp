@@ -61,6 +61,12 @@ TEST_F(PrintingTest, FillsPageAfterPage) {
                                                       R"(put 0 0 "e")", "page", R"(put 1 0 "f")", "busy 0"}));
 }
 
+TEST_F(PrintingTest, TheJobHasTheNameOfTheFile) {
+  editor.documents.MakeCurrent("/a/b.txt");
+  PrintDocument(editor, {});
+  EXPECT_TRUE(platform.calls[1].starts_with("print b.txt ")) << platform.calls[1];
+}
+
 TEST_F(PrintingTest, AsksAboutASelectionAndPrintsNothingWithoutAnAnswer) {
   PlainView view;
   AddPrintCommands(editor, view);

@@ -91,15 +91,6 @@ TEST_F(DocumentsTest, ANameWithoutAnExtensionSetsOnlyPathAndFolderOfTheTarget) {
   EXPECT_FALSE(documents.Target().Complete());
 }
 
-TEST_F(DocumentsTest, AnEmptyTabIsSearchedFirstAfterTheCurrentTab) {
-  documents.SwitchTo(4);
-  EXPECT_EQ(documents.EmptyTab(), 5);
-  documents.Restore(5, "five", "");
-  EXPECT_EQ(documents.EmptyTab(), 1);
-  for (int tab = 1; tab <= 4; ++tab) documents.Restore(tab, "text", "");
-  EXPECT_EQ(documents.EmptyTab(), 0);
-}
-
 TEST_F(DocumentsTest, RescueKeepsTheUnsavedDocumentsAndBringsThemBack) {
   documents.MakeCurrent("/a/one.txt", "one");
   Type("!");
@@ -114,15 +105,9 @@ TEST_F(DocumentsTest, RescueKeepsTheUnsavedDocumentsAndBringsThemBack) {
   EXPECT_TRUE(DocumentsRescue(later.documents).BringBack({kept}).empty());
   EXPECT_EQ(later.documents.SelectedTab(), 4);
   EXPECT_EQ(TextsOf(later.documents), "one!|||never saved||");
+  EXPECT_EQ(later.documents.Target().Path(), "/a/one.txt");
   EXPECT_EQ(StateOf(later.documents), (DocumentState{.title = "()*", .flagged = true, .unsaved = 2}));
   EXPECT_EQ(later.SwitchTo(1), (DocumentState{"(/a/one.txt)*", "one.txt", "/a/one.txt", "", true, 2}));
-}
-
-TEST_F(DocumentsTest, ARestoredDocumentIsShownAndUnsaved) {
-  documents.Restore(2, "text", "/a/b.txt");
-  EXPECT_EQ(documents.Title(), "Pelmar VEX (/a/b.txt)*");
-  EXPECT_EQ(documents.SelectedTab(), 2);
-  EXPECT_EQ(documents.Target().Path(), "/a/b.txt");
 }
 
 TEST_F(DocumentsTest, RescueNeverOverwritesADocumentOfThisRun) {

@@ -8,24 +8,15 @@
 #include "shell/file_number.h"
 #include "shell/help.h"
 #include "shell/settings_record.h"
-#include "shell/stand_alone.h"
 #include "shell/status.h"
 #include "shell/window_geometry.h"
 #include "support/marked_text.h"
-#include "support/printed_places.h"
 #include "support/random_source.h"
 #include "support/scripted_platform.h"
 #include "text/codepage.h"
 
 namespace pelmar {
 namespace {
-
-TEST(StandAlone, EndsOnlyAfterYes) {
-  ScriptedPlatform platform;
-  platform.answers = {Answer::kYes, Answer::kNo, Answer::kNone};
-  for (const bool may_end : {true, false, false}) EXPECT_EQ(MayEndStandAlone(platform, "Poznámky"), may_end);
-  EXPECT_EQ(platform.calls.back(), "message 276 \"OPRAVDU UKONČIT Poznámky (Pelmar VEX) ?\" \"Konec\"");
-}
 
 TEST(FilePart, SplitsAtTheLastSeparatorAndTheLastDot) {
   const auto part = [](const char* path, int number) {
@@ -60,8 +51,6 @@ TEST(Paths, MayHaveSlashesOrBackslashesAndASeparatorAtTheEnd) {
   ScriptedPlatform platform;
   platform.files["/a.txt"] = "";
   for (const char* path : {"/a.txt", "/a.txt/"}) EXPECT_TRUE(FileExists(FileNumber(), platform, path));
-  EXPECT_EQ(PathToFileUrl("/home/jan/a b.html"), "file:///home/jan/a b.html");
-  EXPECT_EQ(PathToFileUrl("C:\\a\\b%.html"), "file:///C:/a/b%.html");
   for (const char* folder : {"/tmp", "/tmp/"}) EXPECT_EQ(JoinPath(folder, "a.txt"), "/tmp/a.txt");
   for (const char* folder : {"C:\\x", "C:\\x\\"}) EXPECT_EQ(JoinPath(folder, "a.txt"), "C:\\x\\a.txt");
 }

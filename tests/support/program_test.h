@@ -14,7 +14,6 @@
 #include <string>
 
 #include "program/program.h"
-#include "support/controls.h"
 #include "support/marked_text.h"
 #include "support/scripted_platform.h"
 #include "support/steps.h"
@@ -39,7 +38,7 @@ struct ProgramTest : testing::Test {
   }
 
   // Hides the other windows, runs the command and returns the window that the command shows. For a command that waits
-  // in a modal dialog, use InDialog of controls.h.
+  // in a modal dialog, use InDialog of steps.h.
   QWidget& Open(const std::string& command) {
     while (QWidget* window = VisibleWindow()) window->hide();
     editor.commands.Run(command);

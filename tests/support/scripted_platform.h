@@ -10,6 +10,7 @@
 #include <map>
 #include <mutex>
 #include <numeric>
+#include <ostream>
 #include <set>
 #include <stdexcept>
 #include <string>
@@ -17,9 +18,15 @@
 #include <vector>
 
 #include "platform/platform.h"
+#include "platform/twips.h"
 #include "text/codepage.h"
 
 namespace pelmar {
+
+// Prints the place of a window in a failed comparison.
+inline void PrintTo(const TwipsRect& place, std::ostream* out) {
+  *out << place.width << 'x' << place.height << " at " << place.left << ',' << place.top;
+}
 
 // The platform is also the paper of its printer.
 class ScriptedPlatform : public Platform, public Paper {

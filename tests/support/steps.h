@@ -20,21 +20,45 @@
 // Session tests have other steps, such as keys and clicks; see `work` in session/harness.py.
 #pragma once
 
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAction>
+#include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QTest>
+#include <QTimer>
 #include <algorithm>
+#include <functional>
+#include <string>
 
 #include "platform/qt/controls/swatch.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/filelists/folder_list.h"
 #include "platform/qt/textbox/text_box.h"
-#include "support/controls.h"
 
 namespace pelmar {
+
+template <class Type>
+Type* Find(const QWidget& window, const char* name) {
+  return window.findChild<Type*>(QString::fromUtf8(name));
+}
+
+// Runs `act` in the next event loop. Call this before a function that waits in a modal dialog.
+inline void Inside(std::function<void()> act) { QTimer::singleShot(0, qApp, std::move(act)); }
+
+// Like Inside, with the open modal dialog as argument. If no dialog of this type is open, the test fails.
+template <class Dialog>
+void InDialog(std::function<void(Dialog&)> act) {
+  Inside([act = std::move(act)] {
+    auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    act(*dialog);
+  });
+}
 
 inline QStringList Words(const char* line) {
   QStringList words;
@@ -123,16 +147,6 @@ inline QString Shown(const QWidget* control) {
     }
   }
   return control->isEnabled() ? shown : QLatin1Char('(') + shown + QLatin1Char(')');
-}
-
-// The state line of the named controls. The rest of a word, from "=" on, is ignored.
-inline std::string State(const QWidget& window, const char* names) {
-  QStringList shown;
-  for (const QString& word : Words(names)) {
-    const QString name = word.section(QLatin1Char('='), 0, 0);
-    if (const QWidget* control = Named(window, name)) shown += name + QLatin1Char('=') + Shown(control);
-  }
-  return shown.join(QLatin1Char(' ')).toStdString();
 }
 
 // Runs the steps, then compares each control that the state line names. A failure names the caller's line.

@@ -4,7 +4,6 @@
 
 #include "shell/layout_picker.h"
 #include "support/plain_view.h"
-#include "support/printed_places.h"
 #include "support/scripted_platform.h"
 #include "support/whole_editor.h"
 

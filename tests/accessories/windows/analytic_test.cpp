@@ -41,11 +41,22 @@ TEST_F(AnalyticTest, ShowsTheDocumentAtOnceAndItsChangesOnDemand) {
   EXPECT_EQ(Columns(), 1);
 }
 
-TEST_F(AnalyticTest, AnEmptyTextEmptiesOnlyTheGraph) {
-  text.SetText("");
-  Work(dialog, "Command1!");
-  EXPECT_EQ(Columns(), 0);
-  EXPECT_EQ(FirstRow(), kTwoOfThree);  // required
+TEST_F(AnalyticTest, TheListKeepsWhatTheGraphOmits) {
+  const struct {
+    const char *document, *steps;
+    int columns;
+    std::string first_row;
+  } cases[] = {
+      {"", "Command1!", 0, kTwoOfThree},              // required for an empty text
+      {"bba", "Command1! Check1:x", 0, kTwoOfThree},  // required: a character typed on this check box clears the graph
+      {"  a", "Check2!", 1, "001 00002 066,67 032 \" \""},  // ignored blanks
+  };
+  for (const auto& c : cases) {
+    text.SetText(c.document);
+    Work(dialog, c.steps);
+    EXPECT_EQ(Columns(), c.columns) << c.steps;
+    EXPECT_EQ(FirstRow(), c.first_row) << c.steps;
+  }
 }
 
 TEST_F(AnalyticTest, TypingInTheScratchBoxMakesItTheSource) {
@@ -57,22 +68,10 @@ TEST_F(AnalyticTest, TypingInTheScratchBoxMakesItTheSource) {
   EXPECT_EQ(FirstRow(), "001 00002 100,00 122 \"z\"");
 }
 
-TEST_F(AnalyticTest, IgnoredBlanksAreInTheListButNotInTheGraph) {
-  text.SetText("  a");
-  Work(dialog, "Check2!");
-  EXPECT_EQ(Columns(), 1);
-  EXPECT_EQ(FirstRow(), "001 00002 066,67 032 \" \"");
-}
-
 TEST_F(AnalyticTest, TheNarrowGraphHasThickerBars) {
   text.SetText("bbaa");
   Work(dialog, "Check1!");
   EXPECT_GT(Columns(), 2);
-}
-
-TEST_F(AnalyticTest, ACharacterTypedOnTheWidthCheckBoxClearsTheGraph) {
-  Work(dialog, "Check1:x");
-  EXPECT_EQ(Columns(), 0);
 }
 
 TEST_F(AnalyticTest, ARefreshKeepsScrollingAndFocusButNotTheSelection) {

@@ -73,6 +73,7 @@ TEST_F(KalkulTest, TypedCharactersPressTheirKeys) {
   ExpectState(kalkul, "Cislo:\b", "Cislo=2");
   ExpectState(kalkul, "Cislo:^3,0=", "Cislo=8");
   ExpectState(kalkul, "Cislo:\x7f", "Cislo=0");
+  ExpectState(kalkul, "Cislo:1+1\r3", "Cislo=23");  // required: a digit is appended to the result
 }
 
 TEST_F(KalkulTest, InsertsTheNumberBeforeTheSelection) {

@@ -1,7 +1,6 @@
 // The notes window: its pages, its file, the rescue of unsaved notes, its place.
 #include "accessories/windows/poznamka.h"
 #include "platform/qt/frames/outer_geometry.h"
-#include "support/printed_places.h"
 #include "support/program_test.h"
 #include "support/temp_folder.h"
 
@@ -161,21 +160,9 @@ TEST_F(NotesWindowTest, TheMenuStoresAndRestoresTheCheckpoint) {
   EXPECT_TRUE(parts.windows.Get<Poznamka>().isVisible());
 }
 
-struct NotesPlaceTest : NotesWindowTest {
-  NotesPlaceTest() {
-    OpenOver({});
-    EXPECT_TRUE(QTest::qWaitForWindowExposed(notes));
-  }
-};
-
-TEST_F(NotesPlaceTest, TheTextFillsTheWindowBelowToolbarAndTabs) {
-  notes->resize(450, 300);
-  const int toolbar = Named(*notes, "Toolbar1")->height();
-  EXPECT_EQ(Named(*notes, "TabStrip1")->geometry(), QRect(0, toolbar, 450, 300 - toolbar));
-  EXPECT_EQ(Named(*notes, "Text1")->geometry(), QRect(0, toolbar + 22, 450, 300 - toolbar - 22));
-}
-
-TEST_F(NotesPlaceTest, DocksBesideTheMainWindow) {
+TEST_F(NotesWindowTest, DocksBesideTheMainWindow) {
+  OpenOver({});
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(notes));
   main.show();
   main.SetPlace({0, 1500, 6000, 4500});
   ASSERT_TRUE(QTest::qWaitForWindowExposed(&main));

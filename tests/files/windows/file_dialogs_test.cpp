@@ -52,6 +52,18 @@ TEST_F(OpenDialogTest, OpensAfterAQuestionAndHides) {
   EXPECT_FALSE(dialog.isVisible());
 }
 
+TEST_F(OpenDialogTest, EnterOnAFileOpensIt) {
+  platform.answers = {Answer::kYes};
+  Expect(dialog, "Dir1=~ File1=a.TXT File1:\r", "Label1=~/a.TXT");
+  EXPECT_EQ(text.Text(), "text");
+}
+
+TEST_F(OpenDialogTest, ListsTheFilesOfTheHighlightedFolder) {
+  folder.Put("sub/c.txt", "");
+  Expect(dialog, "Dir1=~ Dir1:↓", "File1=c.txt");
+  Expect(dialog, "Dir1=~", "File1=a.TXT|b.html|big.txt");  // the same folder as before
+}
+
 TEST_F(OpenDialogTest, ANameThatIsNotUtf8IsOpenedAndSavedByItsBytes) {
   const std::string path = folder.Put("k\xF9\xF2.txt", "");
   platform.files[path] = "horse";
@@ -101,6 +113,13 @@ TEST_F(SaveDialogTest, AnOpenedFileSetsItsFields) {
   Expect(dialog, "", "Command1=&Ulož");
 }
 
+TEST_F(SaveDialogTest, ASaveToANameWithoutAnExtensionShowsThePathOfTheFields) {
+  platform.answers = {Answer::kOk};
+  parts.files.saver.SaveToPath(Utf8FromQString(Find<FolderList>(dialog, "Dir1")->Path()) + "/bez");
+  const std::string path = Utf8FromQString(Find<FolderList>(dialog, "Dir1")->Path()) + "/Jméno.html";
+  ExpectState(dialog, "", ("Command1=&Ulož Label1=" + path).c_str());
+}
+
 TEST_F(FileDialogsTest, AnOpenedFileSetsTheFieldsOfALaterSaveDialog) {
   parts.files.opener.OpenPath(folder.File("b.html"));
   Put("bez", "");
@@ -147,15 +166,6 @@ TEST_F(DirSetupTest, OkSetsTheFolderOfEveryFolderList) {
   EXPECT_FALSE(dialog.isVisible());
   EXPECT_EQ(WindowsAtTheFolder(), (std::vector<std::string>{"DirSetup", "Dos_Unix_conv", "Frame", "Obrazek",
                                                             "OdkazNaJiný", "Otevři", "Ulož", "Vytvoř"}));
-}
-
-TEST_F(DirSetupTest, ChoosingTheShownFolderIsAChoiceToo) {
-  Expect(dialog, "Dir1=~ Command1!", "Command1=&Ok");
-  auto& save = Open<Uloz>();
-  Expect(save, "", "Label1=~/Jméno.html Command1=&Ulož");
-  Named(save, "Command1")->setEnabled(false);
-  Work(dialog, "Command1!");
-  Expect(save, "", "Command1=&Ulož");
 }
 
 }  // namespace

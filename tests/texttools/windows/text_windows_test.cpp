@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
 
 #include "accessories/windows/color_dialog.h"
-#include "platform/qt/controls/cell_grid.h"
-#include "platform/qt/frames/outer_geometry.h"
 #include "shell/windows/pos.h"
 #include "support/plain_view.h"
 #include "support/program_test.h"
@@ -36,6 +34,14 @@ TEST_F(HledaniTest, AStartAllowsOnlyTheNextMatch) {
   EXPECT_EQ(Marked(text), "[jedna| dvě jedna");
 }
 
+TEST_F(HledaniTest, TheDialogMovesOffTheMatch) {
+  QWidget& dialog = OpenFor("|jedna");
+  dialog.move(main.pos());
+  Work(dialog, "Find=jedna Command1!");
+  const QPoint match = main.Box().viewport()->mapToGlobal(main.Box().CharRect(0).center());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !dialog.frameGeometry().contains(match); })) << dialog.y();
+}
+
 TEST_F(HledaniTest, AChosenRowOfTheHistoryBecomesTheTerm) {
   ExpectState(OpenFor("|jedna dvě"), "Find=jedna Command1! Command4! Find=dvě Command1! Command4! Find=x History=0",
               "Find=jedna History=>jedna|dvě");
@@ -63,11 +69,10 @@ TEST_F(ZamenaTest, AStartAllowsOnlyNextAndTheReplacements) {
 TEST_F(ZamenaTest, EnterReplacesMatchByMatchButNeverAll) {
   ExpectState(dialog, "Find=b Chage=c Command1!", "Label3=1");
   Enter(dialog);
-  std::string during_message;
-  platform.on_message = [&] { during_message = State(dialog, "Label3 Label5 Find"); };
+  platform.on_message = [&] { ExpectState(dialog, "", "Label3=2 Label5=2 Find=(b)"); };
   platform.answers = {Answer::kOk};
   Enter(dialog);
-  EXPECT_EQ(during_message, "Label3=2 Label5=2 Find=(b)");
+  EXPECT_TRUE(platform.answers.empty());
   Enter(dialog);  // one too many
   EXPECT_EQ(Marked(text), "a¶c a¶c|");
   EXPECT_EQ(dialog.focusWidget(), Named(dialog, "Find"));
@@ -160,17 +165,13 @@ TEST_F(ColorDialogTest, AColourOfTheHistoryLosesItsGreen) {  // required
   Pick(0, "List1=0", "Label11=#E60000");
 }
 
-TEST(PosWindow, PlacesTheMainWindow) {
+TEST(PosWindow, NamesTheCellUnderThePointer) {
   PlainView view;
   Pos pos(view, nullptr);
   pos.Present();
-  auto* grid = Find<CellGrid>(pos, "Picture1");
+  QWidget* grid = Named(pos, "Picture1");
   QTest::mouseMove(grid, QPoint(grid->width() - 4, 4));
   ExpectState(pos, "", "Label1='Vpravo nahoře'");
-  QTest::mouseClick(grid, Qt::LeftButton, {}, QPoint(4, grid->height() - 4));
-  const TwipsRect screen = ScreenTwips(pos);
-  EXPECT_EQ(view.calls, std::vector<std::string>{"normal"});
-  EXPECT_EQ(view.place, (TwipsRect{0, screen.height / 2, screen.width / 2, screen.height / 2}));
 }
 
 struct VisualTest : ProgramTest {

@@ -8,7 +8,7 @@
 
 #include "platform/qt/controls/dialog_window.h"
 #include "platform/qt/convert.h"
-#include "support/controls.h"
+#include "support/steps.h"
 #include "support/temp_folder.h"
 
 namespace pelmar {
@@ -44,11 +44,7 @@ TEST(InputBox, ReturnsTheTextOrNothing) {
   for (const auto& answer : answers) {
     InDialog<QInputDialog>([&](QInputDialog& box) {
       EXPECT_EQ(std::tuple(box.labelText(), box.windowTitle(), box.textValue()), std::tuple(prompt, title, initial));
-      auto* field = box.findChild<QLineEdit*>();
-      QGuiApplication::clipboard()->setText(QStringLiteral("a\nb"));
-      QTest::keyClick(field, Qt::Key_V, Qt::ControlModifier);  // replaces the selected text
-      EXPECT_EQ(field->text(), QStringLiteral("a\r\nb"));
-      field->setText(answer.value_or(initial));
+      box.findChild<QLineEdit*>()->setText(answer.value_or(initial));
       answer ? box.accept() : box.reject();
     });
     EXPECT_EQ(AskForText(prompt, title, initial), answer);
@@ -107,7 +103,7 @@ TEST_F(FileDialogTest, ReturnsATypedNameWithoutAFileAndAddsNoExtension) {
   }
 }
 
-TEST(DialogWindow, IsCentredAtTheFirstOpeningOrAtEachOne) {
+TEST(DialogWindow, IsCentredWithinTheScreenAtTheFirstOpening) {
   DialogWindow dialog(nullptr);
   dialog.resize(300, 9000);
   dialog.Present();
@@ -115,14 +111,6 @@ TEST(DialogWindow, IsCentredAtTheFirstOpeningOrAtEachOne) {
   const QRect screen = dialog.screen()->availableGeometry();
   EXPECT_LE((dialog.frameGeometry().center() - screen.center()).manhattanLength(), 12);
   EXPECT_TRUE(screen.contains(dialog.geometry()));
-  dialog.move(5, 6);
-  dialog.hide();
-  dialog.Present();
-  EXPECT_EQ(dialog.pos(), QPoint(5, 6));
-  dialog.setProperty("centredEachTime", true);
-  dialog.hide();
-  dialog.Present();
-  EXPECT_LE((dialog.frameGeometry().center() - screen.center()).manhattanLength(), 12);
 }
 
 struct DialogWindowTest : testing::Test {

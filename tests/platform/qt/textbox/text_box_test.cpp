@@ -9,6 +9,7 @@
 
 #include "platform/qt/convert.h"
 #include "platform/qt/desktop/clipboard_text.h"
+#include "platform/qt/textbox/text_box_menu.h"
 #include "support/marked_text.h"
 #include "support/random_source.h"
 
@@ -108,6 +109,8 @@ TEST_F(TextBoxTest, KeysUseTheClipboard) {
               {"a[b|c", "Ctrl+X End Ctrl+V", "acb|"},
               {"a[b|c", "Shift+Delete End Shift+Insert", "acb|"},
               {"a¶b|", "Ctrl+A Ctrl+C End Ctrl+V", "a¶ba¶b|"}});
+  QGuiApplication::clipboard()->setText(QStringLiteral(""));
+  ExpectKeys({{"a[b|c", "Ctrl+V", "a[b|c"}});
 }
 
 TEST_F(TextBoxTest, LeavesCtrlAndLettersToTheMenu) {
@@ -132,6 +135,26 @@ TEST_F(TextBoxTest, TypesCharactersOfAltGrButNotAccessKeys) {
   }
 }
 
+TEST_F(TextBoxTest, ItsMenuActsAndGreysWhatIsImpossible) {
+  const auto choose = [this](int entry) {
+    const std::unique_ptr<QMenu> menu(BuildTextMenu(*box));
+    menu->actions()[entry]->trigger();  // nothing happens for a grey entry
+    return Document();
+  };
+  Put("a[b|c");
+  QGuiApplication::clipboard()->setText(QStringLiteral("x"));
+  EXPECT_EQ(choose(0), "a[b|c");  // nothing to undo
+  EXPECT_EQ(choose(5), "ax|c");   // pastes
+  EXPECT_EQ(choose(6), "ax|c");   // nothing is selected
+  EXPECT_EQ(choose(0), "a[b|c");  // undoes
+  EXPECT_EQ(choose(1), "ax|c");   // redoes
+  EXPECT_EQ(choose(8), "[axc|");  // selects all
+  EXPECT_EQ(choose(3), "|");      // cuts
+  box->setReadOnly(true);
+  Put("a|b");
+  EXPECT_EQ(choose(2), "[ab|");
+}
+
 TEST_F(TextBoxTest, OnlyTheProgramChangesAReadOnlyText) {
   box->setReadOnly(true);
   QGuiApplication::clipboard()->setText(QStringLiteral("no"));
@@ -150,8 +173,13 @@ TEST_F(TextBoxTest, ClicksMoveTheCaretAndSelect) {
     const char *name, *before;
     std::vector<std::pair<QTest::MouseAction, double>> acts;  // each at the position of a character
     const char* after;
+    Qt::MouseButton button = Qt::LeftButton;
+    Qt::KeyboardModifiers modifiers = Qt::NoModifier;
   } cases[] = {
       {"a click in a selection", "[ab cd|", {{kPress, 1}, {kRelease, 1}}, "a|b cd"},
+      {"a click with Shift", "a|b cd", {{kPress, 4}, {kRelease, 4}}, "a[b c|d", Qt::LeftButton, Qt::ShiftModifier},
+      {"a right click beside a selection", "[ab| cd", {{kPress, 4}, {kRelease, 4}}, "[ab| cd", Qt::RightButton},
+      {"a right click without a selection", "ab| cd", {{kPress, 4}, {kRelease, 4}}, "ab c|d", Qt::RightButton},
       {"a drag and a move after it", "|ab cd¶ef", {{kPress, 8}, {kMove, 1}, {kRelease, 1}, {kMove, 4}}, "a|b cd¶e[f"},
       {"a double click nearer to the blank, but still on the letter", "|ab cd¶ef", {{kDouble, 1.7}}, "[ab| cd¶ef"},
       {"a double click and a drag", "|ab cd¶ef", {{kDouble, 1}, {kMove, 4}, {kRelease, 4}}, "[ab cd|¶ef"},
@@ -160,22 +188,8 @@ TEST_F(TextBoxTest, ClicksMoveTheCaretAndSelect) {
   };
   for (const auto& one : cases) {
     Put(one.before);
-    for (const auto& [action, place] : one.acts) Mouse(action, place);
+    for (const auto& [action, place] : one.acts) Mouse(action, place, one.button, one.modifiers);
     EXPECT_EQ(Document(), one.after) << one.name;
-  }
-}
-
-TEST_F(TextBoxTest, AClickWithShiftSelects) {
-  Put("a|b cd");
-  Mouse(QTest::MouseClick, 4, Qt::LeftButton, Qt::ShiftModifier);
-  EXPECT_EQ(Document(), "a[b c|d");
-}
-
-TEST_F(TextBoxTest, TheRightButtonKeepsASelectionForTheMenu) {
-  for (const auto& [before, after] : {std::pair("[ab| cd", "[ab| cd"), {"ab| cd", "ab c|d"}}) {
-    Put(before);
-    Mouse(QTest::MouseClick, 4, Qt::RightButton);
-    EXPECT_EQ(Document(), after) << before;
   }
 }
 
@@ -300,6 +314,22 @@ TEST_F(TextBoxTest, KeysScrollByPagesAndWithCtrlByRows) {
   Press("PgUp PgUp Ctrl+Down Ctrl+Down Ctrl+Up");
   EXPECT_EQ(down.value(), down.singleStep());
   EXPECT_EQ(box->SelStart(), 0);
+}
+
+TEST_F(TextBoxTest, AResizeKeepsTheTopRow) {
+  SetRows(500);
+  const auto top = [this] { return box->RowSpan(box->PlaceAt({0, 0}).pos).begin; };
+  box->verticalScrollBar()->setValue(100 * box->verticalScrollBar()->singleStep());
+  const std::size_t before = top();
+  box->resize(200, 300);
+  EXPECT_EQ(top(), box->RowSpan(before).begin);
+}
+
+TEST_F(TextBoxTest, ADoubleClickRightOfAWrappedRowSelectsTheBlankOfTheRow) {
+  Put("|12 Abc");
+  box->resize(At(5).x(), 300);  // "Abc" begins the second row
+  QTest::mouseDClick(box->viewport(), Qt::LeftButton, {}, QPoint(box->viewport()->width() - 1, At(0).y()));
+  EXPECT_EQ(Document(), "12[ |Abc");
 }
 
 TEST_F(TextBoxTest, FollowsItsBufferUntilItGetsAnother) {

@@ -172,6 +172,12 @@ TEST_F(MainWindowTest, AClickOrCtrlTabSwitchesTheDocument) {
   ExpectState(main, "", "FileTab=0 Text1=first");
 }
 
+TEST_F(MainWindowTest, AltWithTheNumberRowOfACzechKeyboardSelectsATab) {
+  QKeyEvent press(QEvent::KeyPress, Qt::Key(U'Ě'), Qt::AltModifier, 11, 0, 0, QStringLiteral("ě"));
+  QApplication::sendEvent(&main.Box(), &press);
+  ExpectState(main, "", "FileTab=1");
+}
+
 TEST_F(MainWindowTest, NamesOfFilesAreShownUnchanged) {
   platform.files["/a/b&c[*].txt"] = "x";
   files.opener.OpenPath("/a/b&c[*].txt");
@@ -192,6 +198,12 @@ TEST_F(MainWindowTest, ATickWhileTheWindowIsNotActiveShowsNothing) {
   EXPECT_FALSE(Item("mnuseek")->isEnabled());  // required: only a tick updates the items
   Tick();
   EXPECT_TRUE(Item("mnuseek")->isEnabled());
+}
+
+TEST_F(MainWindowTest, TheTickShowsTheLockKeys) {
+  platform.keys = {.caps = true, .num = false, .insert = true};
+  Tick();
+  ExpectState(main, "", "Panel5=CAPS Panel6=(NUM) Panel7=INS");
 }
 
 TEST_F(MainWindowTest, AClickOnPanelThreeStopsLineCountingAndADoubleClickStartsIt) {
@@ -245,6 +257,28 @@ TEST_F(WarningTest, AFileChangedByAnotherProgramIsReportedWhenTheFocusMoves) {
   EXPECT_EQ(Shown(), "");
 }
 
+TEST_F(WarningTest, ATextTooLongToBeOpenedAgainIsReported) {
+  text.SetText(std::string(64001, 'x'));
+  EXPECT_TRUE(Shown().starts_with("Příliš dlouhý text: má 64001 znaků")) << Shown();
+  text.SetText(std::string(64000, 'x'));
+  EXPECT_EQ(Shown(), "");
+}
+
+TEST_F(WarningTest, AFileInUtf8AndAMixOfEncodingsAreReported) {
+  OpenFile("/a.txt", "\u017e");
+  EXPECT_TRUE(Shown().starts_with("Soubor je v UTF-8")) << Shown();
+  text.Type("\x9e");
+  EXPECT_TRUE(Shown().starts_with("Text míchá UTF-8")) << Shown();
+}
+
+TEST_F(WarningTest, ANameWithoutAnExtensionIsReported) {
+  platform.saves = {"/new"};
+  platform.answers = {Answer::kOk};
+  editor.commands.Run("mnu_save_st");
+  LeaveAndReturn();
+  EXPECT_TRUE(Shown().starts_with("Jméno bez přípony")) << Shown();
+}
+
 // required: no message says that files can't be opened any more; only the status bar does
 TEST_F(WarningTest, AFailedOpenWarnsThatFilesCanNoLongerBeOpened) {
   platform.files["/README"] = "x";
@@ -286,6 +320,20 @@ TEST_F(MainWindowTest, ALowWindowGrowsForTheBarsThatComeBack) {
   main.resize(480, 30);
   Work(main, "MnuTS! MnuSBS!");
   EXPECT_GE(main.Bar().y(), main.Toolbar().geometry().bottom());
+}
+
+TEST_F(MainWindowTest, EnterPressesAToolbarButtonAndEscapeReturnsToTheText) {
+  QWidget* button = main.Toolbar().widgetForAction(Item("Bold"));
+  button->setFocus();
+  QTest::keyClick(button, Qt::Key_Return);
+  EXPECT_EQ(Marked(text), "<B>Tučně</B>|");
+  QTest::keyClick(button, Qt::Key_Escape);
+  EXPECT_TRUE(main.Box().hasFocus());
+}
+
+TEST_F(ProgramTest, AMainWindowThatWasNeverShownKeepsItsState) {
+  main.SetStartState(WindowMode::kMaximised);
+  EXPECT_EQ(main.WindowState(), WindowMode::kMaximised);
 }
 
 TEST_F(MainWindowTest, TheRecentMenuShowsAndOpensItsEntries) {
