@@ -129,12 +129,12 @@ inline void Work(const QWidget& window, const char* steps) {
 }
 
 // The content of a control, as a state line writes it.
-inline QString Shown(const QWidget* control) {
+inline QString Shown(QWidget* control) {
   QString shown;
   for (const char* property : {"currentIndex", "currentText", "text", "value"})
     if (const QVariant value = control->property(property); value.isValid()) shown = value.toString();
-  if (auto* swatch = qobject_cast<const Swatch*>(control)) {
-    shown = swatch->Color().name();
+  if (qobject_cast<const Swatch*>(control)) {
+    shown = control->grab().toImage().pixelColor(control->rect().center()).name();
   } else if (auto* button = qobject_cast<const QAbstractButton*>(control); button && button->isCheckable()) {
     shown = QString::number(button->isChecked());
   } else if (auto* text = qobject_cast<const TextBox*>(control)) {
@@ -155,7 +155,7 @@ inline void ExpectState(const QWidget& window, const char* steps, const char* st
   Work(window, steps);
   for (const QString& word : Words(state)) {
     const QString name = word.section(QLatin1Char('='), 0, 0), expected = word.mid(name.size() + 1);
-    const QWidget* control = Named(window, name);
+    QWidget* control = Named(window, name);
     if (control == nullptr || Shown(control) == expected) continue;
     ADD_FAILURE_AT(file, line) << window.objectName().toStdString() << '.' << name.toStdString() << ": expected '"
                                << expected.toStdString() << "', seen '" << Shown(control).toStdString() << "' after \""

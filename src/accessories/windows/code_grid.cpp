@@ -1,9 +1,9 @@
 #include "accessories/windows/code_grid.h"
 
 #include <QEvent>
-#include <QPainter>
 
 #include "platform/qt/controls/accessible_face.h"
+#include "platform/qt/controls/picture_edge.h"
 #include "platform/qt/glyph_table.h"
 #include "text/codepage.h"
 
@@ -62,8 +62,7 @@ void CodePreview::paintEvent(QPaintEvent* /*event*/) {
     }
     glyphs_->DrawAlone(painter, QPointF(kPreviewEdge, kPreviewEdge), CharOf(code_), palette().color(QPalette::Text));
   }
-  painter.setPen(palette().color(QPalette::Mid));
-  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  DrawEdge(painter, *this);
 }
 
 }  // namespace pelmar

@@ -18,6 +18,7 @@ ItemListDialog<Form>::ItemListDialog(TextBuffer& buffer, ListKind kind, QWidget*
   QObject::connect(ui->Command2, &QPushButton::clicked, this, [this] { Command2_Click(); });
   this->OnEnter(ui->Text1, [this] { Command1_Click(); });
   ShowRowsOnOneLine(*ui->List1);
+  ChooseFirstByArrows(ui->List1);
   RemoveByKey(*ui->List1, *ui->Command2);
 }
 

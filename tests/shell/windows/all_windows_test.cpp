@@ -98,6 +98,25 @@ struct AllWindows : ProgramTest {
   }
 };
 
+TEST_F(AllWindows, AreShownByTheirCommands) {
+  const std::pair<const char*, const char*> cases[] = {{"mnuopen", "Otevři"},
+                                                       {"Open", "Otevři"},
+                                                       {"mnusave", "Ulož"},
+                                                       {"Save", "Ulož"},
+                                                       {"mnudir", "DirSetup"},
+                                                       {"mnu_utiliti_dos_unix", "Dos_Unix_conv"},
+                                                       {"mnuabout", "O"},
+                                                       {"mnucust", "CustomizeToolbar"},
+                                                       {"mnustart", "Start"},
+                                                       {"mnumorse", "Morse"},
+                                                       {"mnuklavesnice", "Klavesnice"},
+                                                       {"mnuASCII", "kod"},
+                                                       {"mnucalk", "Kalkul"},
+                                                       {"mnupozn", "Poznamka"},
+                                                       {"mnu_analysis", "Analytic"}};
+  for (const auto& [command, window] : cases) EXPECT_EQ(Open(command).objectName().toStdString(), window) << command;
+}
+
 TEST_F(AllWindows, HaveATitleAndFitAScreenOf1024By600) {
   ForEach([](QWidget& window) {
     EXPECT_FALSE(window.windowTitle().isEmpty()) << DescriptionOf(&window);

@@ -2,10 +2,10 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPainter>
 #include <algorithm>
 
 #include "platform/qt/controls/accessible_face.h"
+#include "platform/qt/controls/picture_edge.h"
 
 namespace pelmar {
 
@@ -96,8 +96,7 @@ void CellGrid::paintEvent(QPaintEvent*) {
     painter.drawLine(line * width() / cells_, 0, line * width() / cells_, height());
     painter.drawLine(0, line * height() / cells_, width(), line * height() / cells_);
   }
-  painter.setPen(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid));
-  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  DrawEdge(painter, *this, hasFocus() ? QPalette::Highlight : QPalette::Mid);
 }
 
 }  // namespace pelmar

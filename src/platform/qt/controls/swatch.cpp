@@ -1,8 +1,7 @@
 #include "platform/qt/controls/swatch.h"
 
-#include <QPainter>
-
 #include "platform/qt/controls/accessible_face.h"
+#include "platform/qt/controls/picture_edge.h"
 #include "platform/twips.h"
 
 namespace pelmar {
@@ -17,8 +16,7 @@ void Swatch::setColor(const QColor& color) {
 void Swatch::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), color_);
-  painter.setPen(palette().color(QPalette::Mid));
-  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  DrawEdge(painter, *this);
   if (!hasFocus()) return;
   painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
   painter.drawRect(rect().adjusted(2, 2, -2, -2));
@@ -38,8 +36,7 @@ void GradientBar::paintEvent(QPaintEvent*) {
   gradient.setColorAt(0, top_);
   gradient.setColorAt(1, bottom_);
   painter.fillRect(rect(), gradient);
-  painter.setPen(palette().color(QPalette::Mid));
-  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  DrawEdge(painter, *this);
 }
 
 ValueBar::ValueBar(QWidget* parent) : QWidget(parent) { SetAccessibleRole(*this, QAccessible::Graphic); }
@@ -53,8 +50,7 @@ void ValueBar::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), Qt::white);
   painter.fillRect(0, 0, PixelsOf(twips_), height(), palette().color(QPalette::Highlight));
-  painter.setPen(palette().color(QPalette::Mid));
-  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  DrawEdge(painter, *this);
 }
 
 }  // namespace pelmar

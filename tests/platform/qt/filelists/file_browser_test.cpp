@@ -114,8 +114,8 @@ struct FileBrowserTest : testing::Test {
   }
 
   // The rows with "|" between them and ">" before the selected row. The folder of the test is written as ".".
-  [[nodiscard]] std::string Files() const { return Shown(&files).toStdString(); }
-  [[nodiscard]] std::string Folders() const {
+  [[nodiscard]] std::string Files() { return Shown(&files).toStdString(); }
+  [[nodiscard]] std::string Folders() {
     QStringList rows = Shown(&folders).split(u'|').mid(base.count(u'/'));
     if (!rows.isEmpty()) rows[0] = QLatin1String(rows[0].startsWith(u'>') ? ">." : ".");
     return rows.join(u'|').toStdString();

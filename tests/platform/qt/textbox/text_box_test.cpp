@@ -203,6 +203,38 @@ TEST_F(TextBoxTest, ComposingReplacesTheSelectionAndTypesWhenItEnds) {
   EXPECT_EQ(Document(), "XY|");
 }
 
+TEST_F(TextBoxTest, InputMethodsSeeTheTextAroundTheCaret) {
+  Put("ab¶c[de|f¶gh");
+  const std::pair<Qt::InputMethodQuery, const char*> cases[] = {
+      {Qt::ImSurroundingText, "cdef"}, {Qt::ImCursorPosition, "3"},     {Qt::ImAnchorPosition, "1"},
+      {Qt::ImCurrentSelection, "de"},  {Qt::ImTextBeforeCursor, "cde"}, {Qt::ImTextAfterCursor, "f"},
+      {Qt::ImAbsolutePosition, "7"}};
+  for (const auto& [query, answer] : cases) EXPECT_EQ(box->inputMethodQuery(query).toString().toStdString(), answer);
+  box->SetText(QByteArray(5000, 'x'));
+  box->SetSelStart(2000);
+  EXPECT_EQ(box->inputMethodQuery(Qt::ImSurroundingText).toString().size(), 1024);
+  EXPECT_EQ(box->inputMethodQuery(Qt::ImCursorPosition), 512);
+}
+
+TEST_F(TextBoxTest, ScreenReadersReadSelectAndChangeTheText) {
+  Put("ab cd¶e[f|");
+  QAccessibleInterface* info = QAccessible::queryAccessibleInterface(box);
+  QAccessibleTextInterface& reader = *info->textInterface();
+  int start = 0, end = 0;
+  reader.selection(0, &start, &end);
+  EXPECT_EQ(reader.text(start, end), QStringLiteral("f"));
+  EXPECT_EQ(reader.textAtOffset(4, QAccessible::WordBoundary, &start, &end), QStringLiteral("cd"));
+  EXPECT_EQ(reader.textAtOffset(-2, QAccessible::ParagraphBoundary, &start, &end), QStringLiteral("ef"));
+  EXPECT_EQ(reader.offsetAtPoint(reader.characterRect(3).center()), 3);
+  reader.setSelection(0, 1, 4);
+  EXPECT_EQ(Document(), "a[b c|d¶ef");
+  info->editableTextInterface()->replaceText(5, -1, QStringLiteral("ř"));
+  EXPECT_EQ(Document(), "ab cdř|");
+  box->setReadOnly(true);
+  info->editableTextInterface()->deleteText(0, -1);
+  EXPECT_EQ(Document(), "ab cdř|");
+}
+
 // Drops the data. Returns whether the box accepted the drag.
 bool Drop(TextBox& box, QPoint place, QMimeData& mime) {
   QDragEnterEvent enter(place, Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);

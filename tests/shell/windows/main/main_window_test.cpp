@@ -200,6 +200,12 @@ TEST_F(MainWindowTest, ATickWhileTheWindowIsNotActiveShowsNothing) {
   EXPECT_TRUE(Item("mnuseek")->isEnabled());
 }
 
+TEST_F(MainWindowTest, ThePanelsHaveTheirTips) {  // required: the first two are interchanged
+  QStringList tips;
+  for (int number = 1; number <= kPanelCount; ++number) tips += main.Bar().Panel(number)->toolTip();
+  EXPECT_EQ(tips.join(u'|').toStdString(), "Pozice|Délka|Řádky (Click - off, DblCick - on)|Obsah|CAPS|NUM|INS");
+}
+
 TEST_F(MainWindowTest, TheTickShowsTheLockKeys) {
   platform.keys = {.caps = true, .num = false, .insert = true};
   Tick();
