@@ -13,12 +13,15 @@ Saver::Saver(Documents& documents, RecentFiles& recent, Platform& platform, File
     : documents_(documents), recent_(recent), platform_(platform), file_number_(file_number) {}
 
 void Saver::SaveToPath(const std::string& path) {
-  if (!MayMixEncodings(path) || !MayWrite(path)) return;
+  if (MayMixEncodings(path)) SaveDocument(path);
+}
+
+void Saver::SaveDocument(const std::string& path) {
+  if (!MayWrite(path)) return;
   try {
     const std::string& text = documents_.Buffer().Text();
     const WriteOutcome outcome = Write(path, text);
     if (outcome.error != 0) return ReportError(path, outcome);
-    mixing_agreed_for_.clear();
     documents_.Remember({path, platform_.Stamp(path), CurrentWasUtf8(documents_) || LooksLikeUtf8(text)});
     documents_.MakeCurrent(path);
     recent_.Remember(path);
@@ -55,8 +58,7 @@ void Saver::SaveFast() {
   const std::string path = documents_.CurrentPath();
   if (!MayMixEncodings(path)) return;
   const std::string question = "Opravdu uložit soubor?\r\n\"" + path + "\"";
-  if (!platform_.Confirmed(question, "Soubor")) return;
-  SaveToPath(path);
+  if (platform_.Confirmed(question, "Soubor")) SaveDocument(path);
 }
 
 void Saver::InsertFromFile() {
@@ -74,11 +76,9 @@ void Saver::InsertFromFile() {
 }
 
 bool Saver::MayMixEncodings(const std::string& path) {
-  if (path == mixing_agreed_for_ || !MixesEncodings(documents_.Buffer().Text())) return true;
+  if (!MixesEncodings(documents_.Buffer().Text())) return true;
   if (!LooksLikeUtf8(platform_.ReadFile(path, std::nullopt).bytes)) return true;
-  if (platform_.Message(MessageType::kYesNoStop, MixQuestion(path), "Soubor") != Answer::kYes) return false;
-  mixing_agreed_for_ = path;
-  return true;
+  return platform_.Message(MessageType::kYesNoStop, MixQuestion(path), "Soubor") == Answer::kYes;
 }
 
 bool Saver::MayWrite(const std::string& path) {

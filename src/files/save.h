@@ -39,9 +39,10 @@ class Saver {
   void InsertFromFile();
 
  private:
-  // Asks before a text in two encodings is written over a UTF-8 file. False if the answer isn't Yes. After Yes, doesn't
-  // ask about the same file again until SaveToPath writes a file or the person answers Yes for another file.
+  // Asks before a text in two encodings is written over a UTF-8 file. False if the answer isn't Yes.
   bool MayMixEncodings(const std::string& path);
+  // SaveToPath without the question of MayMixEncodings.
+  void SaveDocument(const std::string& path);
   bool MayWrite(const std::string& path);
   WriteOutcome Write(const std::string& path, std::string_view text);
   void ReportError(const std::string& path, const WriteOutcome& outcome);
@@ -50,7 +51,6 @@ class Saver {
   RecentFiles& recent_;
   Platform& platform_;
   FileNumber& file_number_;
-  std::string mixing_agreed_for_;  // the file of the last Yes in MayMixEncodings, "" after SaveToPath wrote a file
 };
 
 // The question before an existing file is overwritten, UTF-8.

@@ -100,6 +100,11 @@ TEST_F(ConversionTest, AFailureNamesTheFileAndWhereTheOldContentIs) {
   }
   EXPECT_EQ(platform.busy, 0);
   EXPECT_THROW(ConvertToUnix(platform, "/no.txt"), RuntimeError);
+  // An old target with an unknown tail isn't overwritten.
+  platform.read_errors["/full.unx"] = EACCES;
+  platform.TakeCalls();
+  EXPECT_THROW(ConvertToUnix(platform, "/full.utf8"), RuntimeError);
+  EXPECT_EQ(platform.TakeCallsInOneLine(), "busy 1; busy 0; ");
 }
 
 TEST_F(ConversionTest, MalformedUtf8IsReportedWithItsPosition) {

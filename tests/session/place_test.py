@@ -48,6 +48,14 @@ class PlaceTest(EditorCase):
         self.end(main, answer=None)
         self.assertEqual(self.stored()[4], 2)
 
+    def test_a_window_that_starts_minimised_keeps_its_place(self):
+        place = (300, 450, 12000, 9000)
+        left, top, width, height = place
+        write_settings(self.folder, left=left, top=top, width=width, height=height, window_state=1)
+        self.start(title=None)
+        self.end(self.wait(lambda: self.window("Pelmar VEX ()"), "the minimised window"), answer=None)
+        self.assertEqual(self.stored(), (*place, 1))
+
 
 if __name__ == "__main__":
     unittest.main()

@@ -14,13 +14,7 @@ DirSetup::DirSetup(const std::vector<std::function<FolderBrowser()>>& dialogs, Q
 
 void DirSetup::Command1_Click() {
   for (const auto& browser : dialogs_) browser().drives->SetDrive(ui_->Drive1->Drive());
-  for (const auto& browser : dialogs_) {
-    FolderList* const folders = browser().folders;
-    const bool unchanged = folders->Path() == ui_->Dir1->Path();
-    folders->SetPath(ui_->Dir1->Path());
-    // SetPath emits no signal if the folder is unchanged, but the dialog must react in this case too.
-    if (unchanged) Q_EMIT folders->PathChanged(folders->Path());
-  }
+  for (const auto& browser : dialogs_) browser().folders->SetPath(ui_->Dir1->Path());
   hide();
 }
 

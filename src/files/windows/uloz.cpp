@@ -12,7 +12,7 @@ Uloz::Uloz(Documents& documents, Saver& saver, QWidget* parent)
   LinkFileBrowser(ui_->Drive1, ui_->Dir1, ui_->File1);
   ui_->Text1->setFocus();
   ui_->Text2->setCompleter(nullptr);  // a completer would replace a typed "h" by "html"
-  connect(ui_->Dir1, &FolderList::PathChanged, this, &Uloz::FieldChanged);
+  connect(ui_->Dir1, &FolderList::Entered, this, &Uloz::FieldChanged);
   connect(ui_->Text1, &QLineEdit::textChanged, this, &Uloz::FieldChanged);
   connect(ui_->Text2, &QComboBox::currentTextChanged, this, &Uloz::FieldChanged);
   connect(ui_->Text2, &QComboBox::textActivated, this, &Uloz::FieldChanged);  // also if the same extension is chosen
@@ -49,7 +49,7 @@ void Uloz::TakeTarget() {
   const QString folder = PathToQString(target.Folder());
   ui_->Drive1->SetDrive(folder);
   ui_->Dir1->SetPath(folder);
-  if (!target.Complete()) return FieldChanged();
+  if (!target.Complete()) return;
   ShowName(target);
   ShowPath(*ui_->Label1, target.Path());
 }

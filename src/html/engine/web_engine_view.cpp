@@ -51,7 +51,7 @@ WebEngineView::WebEngineView(QWidget* parent) : view_(std::make_unique<QWebEngin
   });
   // A command that loads nothing may still change the address and the history.
   connect(&expecting_load_, &QTimer::timeout, this, [this] {
-    if (!Busy() && !unanswered_.isActive()) Finished();
+    if (!Busy() && !after_end_ && !page_->Asking()) Finished();
   });
   for (const PageSide side : {PageSide::kDisk, PageSide::kDiskWithNet, PageSide::kNet}) {
     const bool allows_net = side != PageSide::kDisk;
@@ -67,7 +67,7 @@ WebEngineView::WebEngineView(QWidget* parent) : view_(std::make_unique<QWebEngin
 
 WebEngineView::~WebEngineView() {
   page_->disconnect(this);
-  ++probes_;  // the destructor of the page calls the functions of unanswered probes
+  ++probes_;  // the page's destructor calls the functions of unanswered probes; none of them may act any more
 }
 
 void WebEngineView::MakePage(PageSide side) {

@@ -37,7 +37,7 @@ void StatusTimer::SnapWindows() {
 
 void StatusTimer::Tick() {
   SnapWindows();
-  if (!window_.MainActive() || window_.Box().isHidden()) return;  // a locked program shows nothing of the text
+  if (!window_.MainActive() || window_.Box().isHidden()) return;  // the lock hides the box
   const std::optional<std::string>& clipboard = editor_.platform.ClipboardContent();
   // A change of the menu bar would close an open menu.
   if (QApplication::activePopupWidget() == nullptr)

@@ -168,5 +168,13 @@ TEST_F(DirSetupTest, OkSetsTheFolderOfEveryFolderList) {
                                                             "OdkazNaJiný", "Otevři", "Ulož", "Vytvoř"}));
 }
 
+TEST_F(DirSetupTest, ChoosingTheShownFolderIsAChoiceToo) {
+  Expect(dialog, "Dir1=~ Command1!", "Command1=&Ok");
+  auto& save = Open<Uloz>();
+  Named(save, "Command1")->setEnabled(false);
+  Work(dialog, "Command1!");
+  Expect(save, "", "Label1=~/Jméno.html Command1=&Ulož");
+}
+
 }  // namespace
 }  // namespace pelmar

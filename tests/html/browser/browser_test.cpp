@@ -115,6 +115,14 @@ TEST_F(BrowserTest, EnterLoadsTheTypedAddress) {
   EXPECT_EQ(List(), "http://www.priklad.cz");
 }
 
+TEST_F(BrowserTest, AFinishedPageLeavesAHalfTypedAddressAndItsCaret) {
+  Work(window, "cboAddress:ac");
+  address.lineEdit()->setCursorPosition(1);
+  view->Finish();
+  Work(window, "cboAddress:b");
+  ExpectState(window, "", "cboAddress=abc");
+}
+
 TEST_F(BrowserTest, EachToolbarButtonExceptStopActsAndStartsTheTimer) {
   platform.opens = {"/home/jan/c.htm"};
   const std::pair<const char*, const char*> cases[] = {{"Back!", "back"},

@@ -77,6 +77,11 @@ TEST_F(HtmlDialogTest, BlocksWrapTheSelectionAndFragmentsComeBeforeIt) {
                  R"(|<!DOCTYPE HTML PUBLIC "-//W3C//DTD HTML 4.0 Transitional//EN">¶abc)");
 }
 
+TEST_F(HtmlDialogTest, AReopenedDialogBeginsAtItsCheckedOption) {
+  ExpectDocument("mnuparagraph", "Option2! Command1!", "[x|", R"(<P ALIGN = "CENTER" > x </P>|)");
+  EXPECT_EQ(Open("mnuparagraph").focusWidget()->objectName(), QStringLiteral("Option2"));
+}
+
 TEST_F(HtmlDialogTest, ASmileyIsPutTogetherOnlyByTheButton) {
   ExpectDocument("mnusmajl", "Combo2=7 Combo3=5 Combo5=2 Command1!", "|", ":-)|");
   ExpectDocument("mnusmajl", "Combo1=1 Command3! Command1!", "|", "(§ )-|");
@@ -417,7 +422,8 @@ TEST_F(HtmlDialogTest, TheDeleteKeyRemovesOnlyASelectedRow) {
   list.activateWindow();
   EXPECT_TRUE(QTest::qWaitForWindowActive(&list));
   ExpectState(list, "List1:\x7f", "List1=Položka");
-  ExpectState(list, "List1=0 List1:\x7f", "List1=");
+  ExpectState(list, "List1:↓", "List1=>Položka");  // no row was selected
+  ExpectState(list, "List1:\x7f", "List1=");
 }
 
 TEST_F(HtmlDialogTest, ADefinitionListHoldsPairs) {

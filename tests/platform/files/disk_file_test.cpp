@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
 #include <unistd.h>
@@ -13,6 +14,7 @@
 #include <set>
 
 #include "platform/files/failing_calls.h"
+#include "platform/files/kept_content.h"
 #include "support/random_source.h"
 #include "support/temp_folder.h"
 
@@ -268,6 +270,17 @@ TEST(WriteFile, LosesNothingIfAnyCallFails) {
       return done;
     });
   }
+}
+
+TEST(KeptContent, OfAKilledSaveIsFoundUntilItIsReported) {
+  const OpenFolder folder;
+  const Descriptor living(open(folder.Put("puvodni-living-a.txt", "").c_str(), O_RDONLY | O_CLOEXEC));
+  ASSERT_EQ(flock(living.Number(), LOCK_EX), 0);
+  folder.Put("puvodni-vydani.txt", "");
+  const std::vector<std::string> left = {folder.Put("puvodni-abcdef", ""), folder.Put("puvodni-killed-a.txt", "")};
+  EXPECT_EQ(FindUnreportedCopies(folder.File("")), left);
+  for (const std::string& path : left) MarkAsReported(path);
+  EXPECT_TRUE(FindUnreportedCopies(folder.File("")).empty());
 }
 
 }  // namespace

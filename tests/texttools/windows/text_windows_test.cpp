@@ -37,8 +37,9 @@ TEST_F(HledaniTest, AStartAllowsOnlyTheNextMatch) {
 TEST_F(HledaniTest, TheDialogMovesOffTheMatch) {
   QWidget& dialog = OpenFor("|jedna");
   dialog.move(main.pos());
-  Work(dialog, "Find=jedna Command1!");
   const QPoint match = main.Box().viewport()->mapToGlobal(main.Box().CharRect(0).center());
+  ASSERT_TRUE(dialog.frameGeometry().contains(match));
+  Work(dialog, "Find=jedna Command1!");
   EXPECT_TRUE(QTest::qWaitFor([&] { return !dialog.frameGeometry().contains(match); })) << dialog.y();
 }
 

@@ -155,8 +155,7 @@ bool DialogWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool DialogWindow::TakesKey(QWidget& receiver, const QKeyEvent& press) {
-  // Alt with a character that is no access key never types this character into a field, nor does it choose the row of
-  // a box that begins with the character.
+  // Alt with a character that is no access key neither types into a field nor chooses a row of a combo box.
   if ((qobject_cast<QLineEdit*>(&receiver) || qobject_cast<QComboBox*>(&receiver)) && IsAltCharacter(press))
     return true;
   if (const auto act = on_enter_.find(&receiver); act != on_enter_.end() && IsPlainEnter(press)) {
@@ -210,8 +209,9 @@ void DialogWindow::showEvent(QShowEvent* event) {
 }
 
 void DialogWindow::BeginInFirstField() {
-  if (!first_field_) return;
+  if (!first_field_ || !first_field_->isEnabled()) return;
   QWidget* field = first_field_;
+  // An option that isn't checked any more is passed over. The Tab key reaches only the checked one of its group.
   while (!field->isEnabled() || (field->focusPolicy() & Qt::TabFocus) == 0) {
     field = field->nextInFocusChain();
     if (field == first_field_) return;

@@ -44,6 +44,10 @@ void OnRowPicked(QListWidget& list, const std::function<void(int row)>& picked) 
   });
 }
 
+QItemSelectionModel::SelectionFlags WithoutDeselection(QItemSelectionModel::SelectionFlags click) {
+  return click.testFlag(QItemSelectionModel::Deselect) ? QItemSelectionModel::NoUpdate : click;
+}
+
 void ShowRowsOnOneLine(QListWidget& list) { list.setItemDelegate(new OneLineDelegate(&list)); }
 
 }  // namespace pelmar

@@ -1,6 +1,7 @@
 // Functions for the list boxes of the program.
 #pragma once
 
+#include <QItemSelectionModel>
 #include <functional>
 
 class QAbstractItemView;
@@ -17,6 +18,9 @@ void ChooseFirstByArrows(QAbstractItemView* list);
 // A click that selects a row calls `picked` twice. The row that Qt makes current when the list gets the focus causes no
 // call.
 void OnRowPicked(QListWidget& list, const std::function<void(int row)>& picked);
+
+// What a click does in a list that always keeps its selected row: Ctrl with a click deselects nothing.
+QItemSelectionModel::SelectionFlags WithoutDeselection(QItemSelectionModel::SelectionFlags click);
 
 // Shows each line break as "¶", so that each row is one line high. Shows at most 1000 characters of a row. The texts of
 // the rows stay unchanged.

@@ -41,7 +41,7 @@ void FileList::SetPath(const QString& path) {
   if (path.isEmpty()) return;
   const QString clean = CleanFolder(path);
   if (!IsReadableFolder(clean)) return;
-  if (clean == path_) return read_ ? Reload() : void();
+  if (clean == path_) return isVisible() ? Reload() : void();
   path_ = clean;
   Fill({});
   Q_EMIT PathChanged(path_);
@@ -105,8 +105,7 @@ void FileList::selectionChanged(const QItemSelection& selected, const QItemSelec
 }
 
 QItemSelectionModel::SelectionFlags FileList::selectionCommand(const QModelIndex& index, const QEvent* event) const {
-  const QItemSelectionModel::SelectionFlags command = QListView::selectionCommand(index, event);
-  return command.testFlag(QItemSelectionModel::Deselect) ? QItemSelectionModel::NoUpdate : command;
+  return WithoutDeselection(QListView::selectionCommand(index, event));
 }
 
 void FileList::mousePressEvent(QMouseEvent* event) {

@@ -6,6 +6,7 @@
 #include <QStyledItemDelegate>
 #include <vector>
 
+#include "platform/qt/controls/list_rows.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/folder_entries.h"
 
@@ -138,8 +139,7 @@ void FolderList::Fill(const QString& highlighted) {
 }
 
 QItemSelectionModel::SelectionFlags FolderList::selectionCommand(const QModelIndex& index, const QEvent* event) const {
-  const QItemSelectionModel::SelectionFlags command = QListView::selectionCommand(index, event);
-  return command.testFlag(QItemSelectionModel::Deselect) ? QItemSelectionModel::NoUpdate : command;
+  return WithoutDeselection(QListView::selectionCommand(index, event));
 }
 
 void FolderList::keyPressEvent(QKeyEvent* event) {
@@ -151,7 +151,7 @@ void FolderList::keyPressEvent(QKeyEvent* event) {
 
 void FolderList::EnterHighlighted() {
   const QString highlighted = HighlightedPath();
-  SetPath(IsReadableFolder(highlighted) ? highlighted : path_);
+  SetPath(IsReadableFolder(highlighted) ? highlighted : Climb(path_));
 }
 
 void FolderList::keyReleaseEvent(QKeyEvent* event) {
@@ -163,7 +163,8 @@ void FolderList::showEvent(QShowEvent* event) {
   QListView::showEvent(event);
   if (event->spontaneous()) return;
   read_ = true;
-  if (const QString there = Climb(path_); there != path_) return SetPath(there);
+  const QString there = Climb(path_);
+  if (there != path_ || !IsReadableFolder(HighlightedPath())) return SetPath(there);
   Fill(HighlightedPath());
 }
 

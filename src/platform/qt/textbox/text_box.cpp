@@ -292,8 +292,12 @@ void TextBox::RevealCaret() {
 
 void TextBox::RevealRect(QRect rect) {
   QScrollBar* bar = verticalScrollBar();
-  const int top = rect.top() - TextView::kMargin;
-  const int below = rect.bottom() + 1 + TextView::kMargin - viewport()->height();
+  // The margin is shown only at the two ends of the text. Elsewhere a click on a row at the edge of the box would move
+  // another row under the pointer.
+  const bool first = rect.top() + bar->value() <= TextView::kMargin;
+  const bool last = rect.bottom() + 1 + bar->value() + TextView::kMargin >= view_->ContentHeight();
+  const int top = rect.top() - (first ? TextView::kMargin : 0);
+  const int below = rect.bottom() + 1 + (last ? TextView::kMargin : 0) - viewport()->height();
   // In a box lower than `rect` the top of `rect` is shown.
   bar->setValue(bar->value() + std::min(std::max(below, 0), top));
 }

@@ -24,7 +24,10 @@ int Overshoot(int at, int size) {
 }  // namespace
 
 void TextMouse::Press(QMouseEvent* event) {
+  QScrollBar* bar = box_.verticalScrollBar();
+  const int scrolled = bar->value();
   QGuiApplication::inputMethod()->commit();
+  bar->setValue(scrolled);  // the committed text may have scrolled, but the person clicks on what was visible
   const QPoint at = event->position().toPoint();
   if (event->button() == Qt::LeftButton) return PressLeft(event);
   // The right button keeps the selection, since the pop-up menu works on the selection.
