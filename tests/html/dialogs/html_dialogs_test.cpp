@@ -210,6 +210,7 @@ TEST_F(TableGridTest, EachCellAndRowKeepsItsTexts) {
   Work(table, "Text4=ř Text3=' NOWRAP' Text5=typed");
   ExpectState(table, "HScroll1=1 Text4=x HScroll1=2", "Text3=' NOWRAP' Text4=ř Text5=typed");
   Work(table, "Command1!");
+  // required: nothing puts a blank before typed attributes
   EXPECT_EQ(Marked(text), "<TABLE>¶<TR><TD></TD><TD></TD></TR>¶<TRtyped><TD>x</TD><TD NOWRAP>ř</TD></TR>¶</TABLE>|");
   ExpectState(table, "Command4! Command5!", "Text3= Text4=ř Text5=");
 }
