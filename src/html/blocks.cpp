@@ -46,7 +46,7 @@ Wrapping Font(const FontSpec& spec) {
 std::string HorizontalRule(const RuleSpec& spec) {
   std::string rule = "<HR" + SpacedAlign(spec.align);
   if (spec.no_shade) rule += " NOSHADE";
-  if (spec.width && !spec.width->empty()) rule += SpacedWidth(LeftTrimmed(*spec.width));
+  if (spec.width) rule += SpacedWidth(LeftTrimmed(*spec.width));
   return rule + ">";
 }
 

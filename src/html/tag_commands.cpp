@@ -8,6 +8,13 @@
 namespace pelmar {
 namespace {
 
+// A command that puts the selection, or `sample` if nothing is selected, between two tags.
+struct TagCommand {
+  std::string_view command;
+  std::string_view open;
+  std::string_view close;
+  std::string_view sample;
+};
 constexpr TagCommand kTagCommands[] = {
     {"mnuBold", "<B>", "</B>", "Tučně"_w},
     {"mnuHtmlI", "<I>", "</I>", "Kurzívou"_w},
@@ -39,10 +46,8 @@ constexpr FixedInsert kFixedInserts[] = {
 
 }  // namespace
 
-std::span<const TagCommand> TagCommands() { return kTagCommands; }
-
 void AddTagCommands(Editor& e) {
-  for (const TagCommand& tag : TagCommands())
+  for (const TagCommand& tag : kTagCommands)
     e.commands.Add(tag.command, [&e, &tag] { WrapSelection(e.text, tag.open, tag.close, tag.sample); });
   AddFixedInserts(e, kFixedInserts);
 }

@@ -48,7 +48,8 @@ TEST_F(TestPage, IsReportedIfItCannotBeWritten) {
   platform.write_errors["/tmp/$$$PelmarTemp0.htm"] = ENOSPC;
   platform.answers = {Answer::kOk};
   editor.commands.Run("mnutest");
-  EXPECT_TRUE(platform.calls.back().starts_with("message 0 \"Testovací stránku nelze zapsat do složky /tmp/"));
+  EXPECT_EQ(platform.calls.back(), "message 0 \"Testovací stránku nelze zapsat do složky /tmp/\r\nKód chyby " +
+                                       std::to_string(ENOSPC) + ": na disku není místo\" \"Testuj html\"");
   EXPECT_FALSE(editor.file_number.IsOpen());
 }
 

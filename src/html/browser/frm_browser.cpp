@@ -96,7 +96,6 @@ void FrmBrowser::ConnectToolBar() {
     action->setIcon(SvgIcon(QStringLiteral(":/icons/%1.svg").arg(action->objectName().toLower())));
     auto* button = qobject_cast<QToolButton*>(ui_->tbToolBar->widgetForAction(action));
     button->setFocusPolicy(Qt::TabFocus);
-    button->setAccessibleName(action->text());
     connect(action, &QAction::triggered, this, [this, act] {
       timTimer.start();
       act();

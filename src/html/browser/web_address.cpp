@@ -19,7 +19,7 @@ QUrl UrlOfAddress(const QString& address) {
   const QString path = text.mid(kFile.size());
   if (QFileInfo::exists(path)) return QUrl::fromLocalFile(path);
   const qsizetype hash = path.lastIndexOf(QLatin1Char('#'));
-  if (hash < 0 || !QFileInfo::exists(path.left(hash))) return {text};
+  if (!QFileInfo::exists(path.left(hash))) return {text};  // without "#", this is the whole path again
   QUrl url = QUrl::fromLocalFile(path.left(hash));
   url.setFragment(path.mid(hash + 1));
   return url;

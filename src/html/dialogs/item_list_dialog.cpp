@@ -41,8 +41,8 @@ bool ItemListDialog<Form>::Put() {
   const auto& ui = this->ui_;
   ListSpec spec;
   spec.kind = kind_;
-  const qsizetype type = ui->kind->buttons().indexOf(ui->kind->checkedButton());
-  if (ui->Check2->isChecked() && type >= 0) spec.type = static_cast<std::size_t>(type);
+  if (ui->Check2->isChecked())
+    spec.type = static_cast<std::size_t>(ui->kind->buttons().indexOf(ui->kind->checkedButton()));
   spec.compact = ui->Check3->isChecked();
   spec.heading = TextIfChecked(ui->Check1, ui->Text2);
   spec.items = RowTexts(*ui->List1);

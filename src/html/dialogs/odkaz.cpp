@@ -6,15 +6,13 @@
 
 namespace pelmar {
 
-Odkaz::Odkaz(TextBuffer& buffer, QWidget* parent) : FragmentDialog(buffer, parent) {
-  AcceptFreeText(ui_->Combo1);  // Qt would complete a typed "Kotva1" to "Kotva10"
-}
+Odkaz::Odkaz(TextBuffer& buffer, QWidget* parent) : FragmentDialog(buffer, parent) {}
 
 void Odkaz::AddAnchor(const QString& name) {
   const QString typed = ui_->Combo1->currentText();  // adding a row to an empty list replaces this text
   ui_->Combo1->addItem(name);
   ui_->Combo1->setEditText(typed);
-  AcceptFreeText(ui_->Combo1);
+  AcceptFreeText(ui_->Combo1);  // Qt would complete a typed "Kotva1" to "Kotva10"
 }
 
 bool Odkaz::Put() {

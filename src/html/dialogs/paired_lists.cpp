@@ -14,12 +14,6 @@
 namespace pelmar {
 namespace {
 
-void Select(QListWidget& list, int row) {
-  if (row >= 0 && row < list.count()) return list.setCurrentRow(row);
-  list.clearSelection();
-  list.setCurrentItem(nullptr);
-}
-
 QString RowText(const QListWidget& list, int row) {
   const QListWidgetItem* item = list.item(row);
   return item == nullptr ? QString() : item->text();
@@ -42,7 +36,7 @@ void RemoveRow(QListWidget& list) {
   const QSignalBlocker quiet(list);
   const int row = SelectedRow(list);
   delete list.takeItem(row < 0 ? list.count() - 1 : row);
-  Select(list, -1);
+  list.setCurrentRow(-1);
 }
 
 void RemoveByKey(QListWidget& list, QAbstractButton& remove) {
@@ -66,7 +60,7 @@ PairedLists::PairedLists(const Parts& parts, QObject* parent) : QObject(parent),
     RemoveByKey(*list, *parts_.remove);
     OnRowPicked(*list, [this, o = other](int row) { Follow(o, row); });
     connect(list, &QListWidget::itemSelectionChanged, this, [l = list, o = other] {
-      if (SelectedRow(*l) < 0) Select(*o, -1);
+      if (SelectedRow(*l) < 0) o->setCurrentRow(-1);
     });
     connect(list->verticalScrollBar(), &QScrollBar::valueChanged, other->verticalScrollBar(),
             [bar = other->verticalScrollBar()](int value) {
@@ -84,7 +78,7 @@ PairedLists::PairedLists(const Parts& parts, QObject* parent) : QObject(parent),
 void PairedLists::Follow(QListWidget* other, int row) {
   {
     const QSignalBlocker quiet(other);
-    Select(*other, row);
+    other->setCurrentRow(row);  // selects nothing if `other` has no such row
   }
   if (!edits_rows_) return;
   const QScopedValueRollback<bool> following(following_, true);

@@ -34,11 +34,11 @@ struct HtmlDialogTest : ProgramTest {
   const std::string address = "file://" + temp.Path();
   const std::filesystem::path old_folder = std::filesystem::current_path();
   std::vector<std::string> shown;  // the files that were shown in the browser
-  int picked = 0;                  // how many colours were asked for; the first is #FF0010, the next #FF0011 ...
+  int picked = 0;                  // the number of picks: from black #FF0010, #FF0011 ..., from white #00FFEF ...
 
   HtmlDialogTest() {
     services.show_in_browser = [this](const std::string& path) { shown.push_back(path); };
-    services.pick_color = [this](Color) { return Rgb(255, 0, 16 + picked++); };
+    services.pick_color = [this](Color present) { return present ^ Rgb(255, 0, 16 + picked++); };
     platform.now = {2026, 11, 24, 9, 5, 0};
     editor.settings.UserName = "Jan Novák"_w;
     editor.settings.UserEmail = "žluť@b.cz"_w;
@@ -90,6 +90,7 @@ TEST_F(HtmlDialogTest, ASmileyIsPutTogetherOnlyByTheButton) {
 TEST_F(HtmlDialogTest, LinksOfferTheAnchorsInsertedSinceTheStart) {
   ExpectDocument("mnukotva", "Text1=Kotva1 Command1!", "|", R"(<A NAME="Kotva1"></A>|)");
   ExpectDocument("mnukotva", "Text1=část Command1!", "a[b|c", R"(a<A NAME="část"></A>|bc)");
+  ExpectDocument("mnuodkaz", "Command1!", "[x|", R"(<A HREF="#NováKotva">x</A>|)");
   ExpectDocument("mnuodkaz", "Combo1= Combo1:kot\r", "[x|", R"(<A HREF="#kot">x</A>|)");
   const auto* list = Find<QComboBox>(Open("mnuodkaz"), "Combo1");
   EXPECT_EQ(list->itemText(0) + u'|' + list->itemText(1), QStringLiteral("Kotva1|část"));
@@ -137,6 +138,7 @@ TEST_F(HtmlDialogTest, AFramesetHoldsItsTitleAndTheSample) {
   const std::string written = Marked(text);
   EXPECT_NE(written.find("<TITLE>Můj</TITLE>¶ </HEAD>¶ <FRAMESET ROWS=\"*,50%,50\">¶ </FRAMESET>"), std::string::npos);
   EXPECT_NE(written.find("<NOFRAMES>¶[Tento Prohlížeč nepodporuje Framesy|¶ </NOFRAMES>"), std::string::npos);
+  EXPECT_EQ(VisibleWindow(), nullptr);
 }
 
 TEST_F(HtmlDialogTest, APageHoldsTheProfileTheTimeAndTheSelection) {
@@ -160,13 +162,13 @@ TEST_F(HtmlDialogTest, PickedColoursGoIntoThePreviewAndByOkIntoThePageAndTheEdit
   const QWidget& dialog = Open("Newhtml");
   Work(dialog, "Check1! Check2! Check5! Check6! Check7! Command4! Command5! Command6! Command7! Command8!");
   EXPECT_EQ(Find<TextBox>(dialog, "Text1")->TextColor().name(), QStringLiteral("#ff0013"));
-  EXPECT_EQ(Find<TextBox>(dialog, "Text1")->BackgroundColor().name(), QStringLiteral("#ff0010"));
+  EXPECT_EQ(Find<TextBox>(dialog, "Text1")->BackgroundColor().name(), QStringLiteral("#00ffef"));
   ExpectDocument("Newhtml", "Command1!", "[x|",
                  kPageHead +
-                     R"( BGCOLOR="#FF0010" TEXT="#FF0013" LINK="#FF0012" VLINK="#FF0011" ALINK="#FF0014">¶[x|)" +
+                     R"( BGCOLOR="#00FFEF" TEXT="#FF0013" LINK="#FF0012" VLINK="#FF0011" ALINK="#FF0014">¶[x|)" +
                      kPageEnd);
   EXPECT_EQ(ColorToHex(main.Look().fore_color), "#FF0013");
-  EXPECT_EQ(ColorToHex(main.Look().back_color), "#FF0010");
+  EXPECT_EQ(ColorToHex(main.Look().back_color), "#00FFEF");
 }
 
 TEST_F(HtmlDialogTest, APageHasTheChosenBackground) {
@@ -208,16 +210,18 @@ struct TableGridTest : HtmlDialogTest {
 };
 
 TEST_F(TableGridTest, EachCellAndRowKeepsItsTexts) {
-  ExpectState(table, "VScroll1=2 VScroll2=2 HScroll1=2 VScroll7=2 VScroll8=2", "Label12=2/2 Label13=2/2 Label16=2/2");
+  ExpectState(table, "VScroll1=2 VScroll2=2", "Label3=2 Label4=2 Label12=1/2 Label13=1/2 Label16=1/2");
+  ExpectState(table, "HScroll1=2 VScroll7=2 VScroll8=2", "Label12=2/2 Label13=2/2 Label16=2/2");
   Work(table, "Text4=ř Text3=' NOWRAP' Text5=typed");
   ExpectState(table, "HScroll1=1 Text4=x HScroll1=2", "Text3=' NOWRAP' Text4=ř Text5=typed");
   Work(table, "Command1!");
+  // required: nothing puts a blank before typed attributes
   EXPECT_EQ(Marked(text), "<TABLE>¶<TR><TD></TD><TD></TD></TR>¶<TRtyped><TD>x</TD><TD NOWRAP>ř</TD></TR>¶</TABLE>|");
   ExpectState(table, "Command4! Command5!", "Text3= Text4=ř Text5=");
 }
 
 TEST_F(TableGridTest, EnterGoesToTheNextCell) {
-  Work(table, "VScroll1=2 VScroll2=2 TabStrip1=1 Text4:a\rb\rc\rd\r");
+  Work(table, "VScroll1=2 VScroll2=2 TabStrip1=1 HScroll1=2 Text4=old HScroll1=1 Text4:a\rb\rc\rd\r");
   EXPECT_EQ(table.focusWidget(), Named(table, "Command1"));
   Work(table, "Command1!");
   EXPECT_EQ(Marked(text), "<TABLE>¶<TR><TD>a</TD><TD>b</TD></TR>¶<TR><TD>c</TD><TD>d</TD></TR>¶</TABLE>|");
@@ -231,16 +235,17 @@ TEST_F(TableGridTest, ShrinkingTheTableSelectsACellInsideAndKeepsAllTexts) {
 
 TEST_F(TableGridTest, AttributesOfACellAndOfARowComeFromTheirDialogs) {
   text.SetText("kept");
-  // Presses the button, runs the steps in the dialog that opens, and expects the state of the table.
-  const auto expect = [&](const char* button, const char* steps, const char* state) {
-    InDialog<QDialog>([&](QDialog& dialog) { Work(dialog, steps); });
+  // Presses the button, expects the state of the dialog that opens after the steps, and the state of the table.
+  const auto expect = [&](const char* button, const char* steps, const char* fields, const char* state) {
+    InDialog<QDialog>([&](QDialog& dialog) { ExpectState(dialog, steps, fields); });
     ExpectState(table, button, state);
   };
-  expect("Command3!", "Check1! Option4! Command1!", "Text3=' ALIGN=\"CHAR\" CHAR=\",\"'");
-  expect("Command3!", "Check1! Command2!", "Text3=' ALIGN=\"CHAR\" CHAR=\",\"'");  // cancelled
-  expect("Command3!", "Command1!", "Text3=");                                      // nothing is ticked any more
-  Open<TableRow>();                                                                // the dialog may already be open
-  expect("Command6!", "Check2! Command1!", "Text5=' VALIGN=\"MIDDLE\"'");
+  expect("Command3!", "Check1! Option4! Command1!", "Check9=(0)", "Text3=' ALIGN=\"CHAR\" CHAR=\",\"'");
+  expect("Command3!", "Check1! Command2!", "", "Text3=' ALIGN=\"CHAR\" CHAR=\",\"'");  // cancelled
+  expect("Command3!", "Command1!", "", "Text3=");                                      // nothing is ticked any more
+  ExpectState(Open<TableRow>(), "", "VScroll1=1 Label2=1");                            // the dialog may already be open
+  expect("Command6!", "Check2! Command1!", "VScroll1=(1) Label2=(1)", "Text5=' VALIGN=\"MIDDLE\"'");
+  ExpectState(Open("mnurow"), "", "VScroll1=1 Label2=1");
   EXPECT_EQ(text.Text(), "kept");
 }
 
@@ -291,9 +296,11 @@ TEST_F(HtmlDialogTest, TheLabelOfARuleFollowsBarAndUnit) {
 TEST_F(HtmlDialogTest, TheSizeOfAnImageFollowsBarsAndUnit) {
   const QWidget& image = Open("mnuobr");
   ExpectState(image, "Check1! VScroll1=150", "Label3=' 150%' Label4=' 10%'");
-  ExpectState(image, "Option7!", "Label3=' 150' Label4=' 10'");                    // the values stay
+  ExpectState(image, "Option7!", "Label3=' 150' Label4=' 10'");  // the values stay
+  ExpectState(image, "VScroll1=0 VScroll2=0", "Label3=' 1' Label4=' 1'");
   ExpectState(image, "VScroll1=999 VScroll2=999", "Label3=' 600' Label4=' 800'");  // required: these limits
   ExpectState(image, "VScroll2=5 Option6!", "Label3=' 200%' Label4=' 10%'");
+  ExpectState(image, "VScroll1=5 VScroll2=999", "Label3=' 10%' Label4=' 200%'");
 }
 
 TEST_F(HtmlDialogTest, OtherLabelsFollowTheirBars) {
@@ -304,6 +311,13 @@ TEST_F(HtmlDialogTest, OtherLabelsFollowTheirBars) {
   ExpectState(Open("mnucell"), "Check7! VScroll6=300", "Label8=300");
   ExpectState(Open("mnucell"), "Check8!", "Label8=100%");
   ExpectState(Open("mnurow"), "VScroll1=3 Check1! Option4! Check1!", "Label2=3 Text1=(,)");
+}
+
+TEST_F(HtmlDialogTest, TypedTextIsNotCompletedFromTheList) {
+  ExpectState(Open("mnubarva"), "Check2! Combo1= Combo1:t", "Combo1=t");
+  ExpectState(Open("MnuMeta"), "Combo1= Combo1:<", "Combo1=<");
+  ExpectState(Open("mnuHTML_Fme"), "Check1! Combo2= Combo2:n Check6! Combo3= Combo3:c", "Combo2=n Combo3=c");
+  ExpectState(Open("mnuodkazjiny"), "Check3! Combo2= Combo2:_s", "Combo2=_s");
 }
 
 TEST_F(HtmlDialogTest, TheOkButtonOfALinkNeedsAFileOrAnAddress) {
@@ -374,9 +388,10 @@ TEST_F(HtmlDialogTest, TheChosenFileSetsLabelAndButtons) {
   expect("", "Label1=" + folder + "/sub/ Command1=(&Ok) Command3=()");
 }
 
-TEST_F(HtmlDialogTest, TheChosenFileIsShownInTheBrowser) {
+TEST_F(HtmlDialogTest, AButtonWithAPictureShowsTheChosenFileInTheBrowser) {
   Work(Open("mnuobr"), ("Dir1=" + temp.Path() + "/sub File1=0 Command3!").c_str());
   EXPECT_EQ(shown, std::vector<std::string>{temp.File("sub/k\xF9.gif")});
+  EXPECT_FALSE(Find<QAbstractButton>(*VisibleWindow(), "Command3")->icon().pixmap(24).toImage().allGray());
 }
 
 TEST_F(HtmlDialogTest, TheAddressOfADisappearedFileIsStillWritten) {  // required
@@ -411,7 +426,7 @@ TEST_F(HtmlDialogTest, ListsHoldTheirItemsAndTheTickedAttributes) {
 
 TEST_F(HtmlDialogTest, ItemsAreAddedAboveTheSelectedRowAndRemoved) {
   const QWidget& list = Open("mnulist");
-  ExpectState(list, "Text1=a Command1! Text1=b Text1:\r List1=1 Text1=x Command1!", "List1=Položka|x|>a|b");
+  ExpectState(list, "Text1=a Command1! Text1:b\r List1=1 Text1=x Command1!", "List1=Položka|x|>a|b");
   ExpectState(list, "Command2!", "List1=Položka|x|b");                 // the selected row
   ExpectState(list, "Command2!", "List1=Položka|x Command2=O&deber");  // without a selected row the last one
   ExpectState(list, "Command2! Command2!", "List1= Command2=(O&deber)");
@@ -428,7 +443,8 @@ TEST_F(HtmlDialogTest, TheDeleteKeyRemovesOnlyASelectedRow) {
 
 TEST_F(HtmlDialogTest, ADefinitionListHoldsPairs) {
   const QWidget& terms = Open("MnuListDef");
-  ExpectState(terms, "Command1! Atribut=a Hodnota=", "Command1=(&Přidej)");  // required: only the last change counts
+  // required: only the last change counts
+  ExpectState(terms, "Command1! Atribut=a Hodnota= Hodnota:\r", "Command1=(&Přidej) Atributs=Text1");
   ExpectState(terms, "Atribut=b Hodnota:\r", "Atributs=Text1|b Values=Text1|");
   ExpectState(terms, "Values=0", "Atributs=>Text1|b Values=>Text1| Atribut=b");  // unlike in EdiTag, the fields stay
   Work(terms, "Command3!");
@@ -463,9 +479,13 @@ TEST_F(HtmlDialogTest, AttributesAreChosenFromAListOrTyped) {
 
 TEST_F(HtmlDialogTest, AttributesGoIntoTheTagAtTheCaretOrTheDialogStaysOpen) {
   ExpectDocument("mnuatr", "Atribut=ID Hodnota=ž Command1! Command3!", "<A>|x</A>", R"(<A ID="ž"|>x</A>)");
-  platform.answers = {Answer::kOk};
+  platform.answers = {Answer::kOk, Answer::kOk};
   ExpectDocument("mnuatr", "Command1! Command3!", "|<A>x</A>", "|<A>x</A>");
+  ExpectDocument("mnuatr", "Command3!", "<A>x|y", "<A>x|y");
   EXPECT_TRUE(parts.windows.Get<Attr>().isVisible());
+  EXPECT_EQ(platform.TakeCallsInOneLine(),
+            "message 0 \"Na úplný začátek textu atributy vložit nelze. Posuňte kurzor do tagu.\" \"Atribut\"; "
+            "message 0 \"Za kurzorem už žádný tag nekončí. Posuňte kurzor do tagu nebo před něj.\" \"Atribut\"; ");
 }
 
 struct EdiTagTest : HtmlDialogTest {
@@ -533,6 +553,12 @@ TEST_F(SampleTest, TheChosenRowIsShown) {
   QTest::keyClick(&list, Qt::Key_Down);  // the first row, not the second
   EXPECT_EQ(Preview(), SampleText("HTML1", editor.settings));
   ExpectState(window, "", "Label1='Zobrazení dokumentu :Jednoduchý HTML dokument 1'");
+}
+
+TEST_F(SampleTest, TheListShowsPicturesAndWholeNames) {
+  for (int row = 0; row < list.topLevelItemCount(); ++row)  // a missing picture has no colour
+    EXPECT_FALSE(list.topLevelItem(row)->icon(0).pixmap(24).toImage().allGray()) << row;
+  EXPECT_GT(list.columnWidth(0), static_cast<QAbstractItemView&>(list).sizeHintForColumn(0));
 }
 
 TEST_F(SampleTest, EnterReplacesTheDocumentByTheSample) {
