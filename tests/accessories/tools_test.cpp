@@ -63,7 +63,7 @@ TEST(ColorMath, EachCommandComputesItsColour) {
   EXPECT_EQ(HistoryRow(Rotated({1, 2, 3})), "002,003,001");
   EXPECT_EQ(HistoryRow(Darker({1, 5, 255})), "001,004,230");  // 4.5 and 229.5 go to the even neighbour
   EXPECT_EQ(HistoryRow(Lighter({5, 231, 232})), "006,254,255");
-  EXPECT_EQ(HistoryRow(MeanToMiddle({200, 200, 200})), "128,128,128");
+  EXPECT_EQ(HistoryRow(MeanToMiddle({255, 255, 0})), "213,213,000");
   EXPECT_EQ(HistoryRow(MeanToMiddle({255, 0, 0})), "255,043,043");
   EXPECT_EQ(HistoryRow(LowestToZero({10, 20, 30})), "000,010,020");
   EXPECT_EQ(HistoryRow(LowestToZero({20, 30, 10})), "010,020,000");
