@@ -39,6 +39,7 @@ TEST_F(ZaKodTest, DuringARunOkIsIgnoredAndAChangedDocumentIsNotEnciphered) {
   platform.files = {{"/same.txt", long_text}};
   platform.opens = {"/same.txt"};
   EXPECT_EQ(AfterRun([&] { editor.commands.Run("mnu_open_st"); }), long_text);
+  EXPECT_EQ(AfterRun([&] { text.SetText("new"); }), "new");
   EXPECT_EQ(AfterRun([&] { Work(main, "FileTab=1"); }), "");
 }
 
@@ -50,8 +51,8 @@ TEST_F(ZaKodTest, AProgramThatEndsDuringARunKeepsTheDocument) {
 
 TEST_F(ProgramTest, ShiftKodEnciphersAndDeciphersTheDocumentOrTheQuickText) {
   const QWidget& dialog = Open("mnu_encrypt_shift");
-  platform.draws = {0.99, 0.0};
-  ExpectState(dialog, "Command4!", "Label4=26");
+  platform.draws = {0.5, 0.0};
+  ExpectState(dialog, "Command4!", "Label4=13");
   ExpectState(dialog, "Command4!", "Label4=0");
   EXPECT_EQ(platform.reseeds, 2);
   PutMarked(text, "[A|z");  // required: the selection doesn't matter
@@ -84,6 +85,14 @@ TEST_F(ProgramTest, CronfeldEnciphersAndDeciphersTheDocumentOrTheQuickText) {
   ExpectState(dialog, "Command1!", "Text2=Ad");
   ExpectState(dialog, "Command2!", "Text2=Yz");
   EXPECT_EQ(text.Text(), "aa aa");
+}
+
+TEST_F(ProgramTest, TheCaretOfAKeyFieldStaysWhereThePersonTypes) {
+  const QWidget& dialog = Open("Mnu_Encrypt_Confeld");
+  Work(dialog, "Text1=123");
+  Find<QLineEdit>(dialog, "Text1")->setCursorPosition(0);
+  ExpectState(dialog, "Text1:04", "Text1=4123");  // the field drops the 0
+  ExpectState(dialog, "Text1:a5", "Text1=45");    // the field drops the text from the letter on
 }
 
 TEST_F(ProgramTest, ChtTranscribesTheDocumentAndShowsTheLookAlikes) {
