@@ -103,15 +103,8 @@ TEST(Calculator, RandomIsBelowOneAndHasSevenDigits) {
   EXPECT_EQ(platform.reseeds, 4);
 }
 
-TEST(Roman, IsAdditive) {
-  const auto always = [] { return true; };
-  EXPECT_EQ(ToRoman(0, always), "0");
-  EXPECT_EQ(ToRoman(1999, always), "MDCCCCLXXXXVIIII");
-}
-
 TEST(ReadNumber, ReadsPrefixedNumbersAsTwosComplement) {
   const std::pair<const char*, std::optional<double>> cases[] = {
-      {"&H", 0},
       {"&H8000", -32768},
       {"&H0FFFF", 65535},
       {"&O200000", 65536},

@@ -51,10 +51,9 @@ TEST_F(ZaKodTest, AProgramThatEndsDuringARunKeepsTheDocument) {
 
 TEST_F(ProgramTest, ShiftKodEnciphersAndDeciphersTheDocumentOrTheQuickText) {
   const QWidget& dialog = Open("mnu_encrypt_shift");
-  platform.draws = {0.5, 0.0};
+  platform.draws = {0.5};
   ExpectState(dialog, "Command4!", "Label4=13");
-  ExpectState(dialog, "Command4!", "Label4=0");
-  EXPECT_EQ(platform.reseeds, 2);
+  EXPECT_EQ(platform.reseeds, 1);
   PutMarked(text, "[A|z");  // required: the selection doesn't matter
   ExpectState(dialog, "HScroll1=5 Command1!", "Label4=5 Label2=FGHIJKLMNOPQRSTUVWXYZABCDE");
   EXPECT_EQ(text.Text(), "Fe");
@@ -103,7 +102,6 @@ TEST_F(ProgramTest, ChtTranscribesTheDocumentAndShowsTheLookAlikes) {
               "@  )    !  4w     $   m\r\n        |   W'");
   EXPECT_EQ(text.Text(), "@q\r\n");
   EXPECT_FALSE(text.CanUndo());  // required for a replaced text
-  EXPECT_EQ(platform.reseeds, 0);
 }
 
 struct ShiftTest : ProgramTest {
