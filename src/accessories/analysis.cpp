@@ -20,8 +20,6 @@ std::string Percent(std::int32_t count, std::size_t length) {
   return ZeroPadded(hundredths / 100, 3) + "," + ZeroPadded(hundredths % 100, 2);
 }
 
-bool Ignored(std::size_t code, bool ignore_blank) { return ignore_blank && code == CodeOf(' '); }
-
 }  // namespace
 
 Analysis AnalyseText(std::string_view text) {
@@ -35,18 +33,17 @@ Analysis AnalyseText(std::string_view text) {
 }
 
 std::vector<Bar> GraphBars(const Analysis& analysis, bool wide, bool ignore_blank) {
-  std::int32_t most = 0;
-  for (std::size_t code = 1; code < kCodes; ++code)
-    if (!Ignored(code, ignore_blank)) most = std::max(most, analysis.counts[code]);
+  auto counts = analysis.counts;
+  if (ignore_blank) counts[IndexOf(' ')] = 0;
+  const std::int32_t most = std::ranges::max(counts);
   std::vector<Bar> bars;
   if (most == 0) return bars;
   const std::size_t last = wide ? kCodes - 1 : 128;
   // required: the narrow graph leaves out codes that occur exactly once, the wide graph those that don't occur
   const std::int32_t left_out = wide ? 0 : 1;
   for (std::size_t code = 1; code <= last; ++code) {
-    const std::int32_t count = analysis.counts[code];
-    if (count == left_out || Ignored(code, ignore_blank)) continue;
-    bars.push_back({static_cast<int>(code) * BarStep(wide), static_cast<double>(kGraphFull) * count / most});
+    if (counts[code] == left_out) continue;
+    bars.push_back({static_cast<int>(code) * BarStep(wide), static_cast<double>(kGraphFull) * counts[code] / most});
   }
   return bars;
 }
@@ -74,6 +71,6 @@ std::vector<std::string> AnalysisRows(const Analysis& analysis) {
 }
 
 // Counts from the end of the row, since the number of digits of the count varies.
-char CharOfRow(std::string_view row) { return row.size() < 2 ? '\0' : row[row.size() - 2]; }
+char CharOfRow(std::string_view row) { return row[row.size() - 2]; }
 
 }  // namespace pelmar

@@ -45,7 +45,7 @@ std::string PointedText(int code);
 
 // The 255 rows of the list, the most frequent code first. Empty for an empty text.
 std::vector<std::string> AnalysisRows(const Analysis& analysis);
-// The character that a row of AnalysisRows shows. 0 for a row of less than two characters.
+// The character that a row of AnalysisRows shows.
 char CharOfRow(std::string_view row);
 
 }  // namespace pelmar

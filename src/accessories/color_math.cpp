@@ -71,9 +71,6 @@ std::string HistoryRow(const Channels& c) {
   return ZeroPadded(c.red, 3) + "," + ZeroPadded(c.green, 3) + "," + ZeroPadded(c.blue, 3);
 }
 
-Channels FromHistoryRow(std::string_view row) {
-  if (row.size() < 11) return {};
-  return {NumberOf(row.substr(0, 3)), NumberOf(row.substr(3, 3)), NumberOf(row.substr(row.size() - 3))};
-}
+Channels FromHistoryRow(std::string_view row) { return {NumberOf(row), 0, NumberOf(row.substr(row.size() - 3))}; }
 
 }  // namespace pelmar

@@ -37,7 +37,7 @@ Channels MeanToMiddle(const Channels& c);
 
 // For example "012,255,000".
 std::string HistoryRow(const Channels& c);
-// required: reading the green channel begins at the comma before its digits, so green is always 0.
+// Reads a row of HistoryRow. required: green is lost and becomes 0.
 Channels FromHistoryRow(std::string_view row);
 
 }  // namespace pelmar

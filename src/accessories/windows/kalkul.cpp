@@ -111,14 +111,14 @@ void Kalkul::closeEvent(QCloseEvent* event) {
 }
 
 QPushButton* Kalkul::KeyOf(char character) const {
-  const std::pair<std::string_view, QPushButton*> keys[] = {
-      {"1", ui_->Command1},    {"2", ui_->Command2},  {"3", ui_->Command3},   {"4", ui_->Command4},
-      {"5", ui_->Command5},    {"6", ui_->Command6},  {"7", ui_->Command7},   {"8", ui_->Command8},
-      {"9", ui_->Command9},    {"0", ui_->Command10}, {",.", ui_->Command11}, {"+", ui_->Command12},
-      {"-", ui_->Command13},   {"*", ui_->Command14}, {"/", ui_->Command15},  {"^", ui_->Command33},
-      {"=\r", ui_->Command16}, {"\b", ui_->Command21}};
-  for (const auto& [characters, key] : keys)
-    if (characters.find(character) != std::string_view::npos) return key;
+  const std::pair<char, QPushButton*> keys[] = {
+      {'1', ui_->Command1},  {'2', ui_->Command2},  {'3', ui_->Command3},   {'4', ui_->Command4},
+      {'5', ui_->Command5},  {'6', ui_->Command6},  {'7', ui_->Command7},   {'8', ui_->Command8},
+      {'9', ui_->Command9},  {'0', ui_->Command10}, {',', ui_->Command11},  {'.', ui_->Command11},
+      {'+', ui_->Command12}, {'-', ui_->Command13}, {'*', ui_->Command14},  {'/', ui_->Command15},
+      {'^', ui_->Command33}, {'=', ui_->Command16}, {'\r', ui_->Command16}, {'\b', ui_->Command21}};
+  for (const auto& [typed, key] : keys)
+    if (typed == character) return key;
   return nullptr;
 }
 

@@ -16,14 +16,11 @@ QString Caption(int page) { return QStringLiteral("Poznámka %1").arg(page); }
 }  // namespace
 
 NoteTabs::NoteTabs(QWidget* parent) : QTabBar(parent) {
-  setExpanding(false);
   // Qt would centre scroll buttons vertically in this control, where the text box would cover the buttons.
   setUsesScrollButtons(false);
-  setDrawBase(false);
   for (int page = 1; page <= kNotePages; ++page) {
     const int tab = addTab(Caption(page));
     setTabData(tab, QStringLiteral("Note%1").arg(page));
-    setAccessibleTabName(tab, Caption(page));
     setTabToolTip(tab, Caption(page));
   }
 }

@@ -47,7 +47,6 @@ Poznamka::Poznamka(Surroundings around) : around_(std::move(around)), ui_(std::m
   changes_ = ui_->Text1->Buffer().OnChange([this](const TextChange&) { keeper_.KeepSoon(); });
   ui_->Text1->setFocus();
   timer1_.setObjectName(QStringLiteral("Timer1"));
-  timer1_.setInterval(kTick);
   connect(&timer1_, &QTimer::timeout, this, &Poznamka::Timer1_Timer);
 }
 
@@ -183,17 +182,9 @@ void Poznamka::resizeEvent(QResizeEvent*) {
   ui_->Text1->setGeometry(0, toolbar + row, width(), height() - row - toolbar);
 }
 
-void Poznamka::showEvent(QShowEvent* event) {
-  if (!event->spontaneous()) {
-    ShowProgramIcon();
-    timer1_.start();
-  }
-  QWidget::showEvent(event);
-}
-
-void Poznamka::hideEvent(QHideEvent* event) {
-  if (!event->spontaneous()) timer1_.stop();
-  QWidget::hideEvent(event);
+void Poznamka::showEvent(QShowEvent*) {
+  ShowProgramIcon();
+  timer1_.start(kTick);
 }
 
 NotesSurroundings Poznamka::Measures() const {

@@ -15,7 +15,6 @@ Confeld::Confeld(TextBuffer& buffer, Platform& platform, QWidget* parent)
   connect(ui_->Command2, &QPushButton::clicked, this, [this] { Apply(CronfeldDecipher); });
   connect(ui_->Command3, &QPushButton::clicked, this, &Confeld::hide);
   connect(ui_->Command4, &QPushButton::clicked, this, &Confeld::Command4_Click);
-  ui_->Text1->setFocus();
 }
 
 void Confeld::Apply(std::string (*cipher)(std::string_view text, std::string_view password)) {

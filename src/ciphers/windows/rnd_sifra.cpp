@@ -37,7 +37,6 @@ RND_Sifra::RND_Sifra(Editor& editor, QWidget* parent)
   connect(ui_->Command9, &QPushButton::clicked, this, &RND_Sifra::Command9_Click);
   connect(ui_->HScroll1, &QScrollBar::valueChanged, ui_->Label9, qOverload<int>(&QLabel::setNum));
   connect(ui_->Text2, &TextBox::TextChanged, this, [this] { table_.note = ui_->Text2->Buffer().Text(); });
-  ui_->Command1->setFocus();
 }
 
 void RND_Sifra::Command2_Click() {
@@ -112,7 +111,6 @@ void RND_Sifra::EnableTableButtons() {
 
 Progress RND_Sifra::StartProgress() {
   ui_->Cnt->setMaximum(static_cast<int>(ui_->Text1->Buffer().Size()) + 1);
-  ui_->Cnt->setValue(0);
   return [this](std::size_t done) { ui_->Cnt->setValue(static_cast<int>(done)); };
 }
 

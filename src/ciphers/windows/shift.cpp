@@ -13,7 +13,6 @@ Shift::Shift(TextBuffer& buffer, QWidget* parent) : FragmentDialog(buffer, paren
   ui_->Orig->SetText(ui_->Text1->Text());
   ui_->HScroll1->setMaximum(std::max(ui_->HScroll1->minimum(), static_cast<int>(buffer_.SelLength())));
   connect(ui_->HScroll1, &QScrollBar::valueChanged, this, &Shift::HScroll1_Change);
-  ui_->HScroll1->setFocus();
 }
 
 void Shift::HScroll1_Change(int value) {

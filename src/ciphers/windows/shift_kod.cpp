@@ -24,7 +24,6 @@ ShiftKod::ShiftKod(TextBuffer& buffer, Platform& platform, QWidget* parent)
   connect(ui_->Command2, &QPushButton::clicked, this, [this] { Apply(kLetters - ui_->HScroll1->value()); });
   connect(ui_->Command3, &QPushButton::clicked, this, &ShiftKod::hide);
   connect(ui_->Command4, &QPushButton::clicked, this, &ShiftKod::Command4_Click);
-  ui_->HScroll1->setFocus();
 }
 
 void ShiftKod::HScroll1_Change(int value) {

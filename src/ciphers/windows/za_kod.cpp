@@ -18,7 +18,6 @@ ZaKod::ZaKod(Editor& editor, std::function<bool()> closed, QWidget* parent)
   RewriteOnChange(ui_->Text1, KeyText);
   connect(ui_->Command1, &QPushButton::clicked, this, &ZaKod::Command1_Click);
   connect(ui_->Command2, &QPushButton::clicked, this, &ZaKod::hide);
-  ui_->Text1->setFocus();
 }
 
 void ZaKod::Command1_Click() {
@@ -28,7 +27,6 @@ void ZaKod::Command1_Click() {
   const double key = LeadingNumber(FieldText(*ui_->Text1));
   const auto length = static_cast<int>(editor_.text.Size());
   ui_->ProgressBar1->setMaximum(std::max(1, length));  // a maximum of 0 would show a busy bar
-  ui_->ProgressBar1->setValue(0);
   // The result belongs only to the document that was read. So the run stops if another tab is selected, the path of the
   // document changes or the whole text is replaced.
   const Documents& documents = editor_.documents;

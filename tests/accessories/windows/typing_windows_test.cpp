@@ -1,4 +1,5 @@
 // The windows that type into the document: Morse, the on-screen keyboard, the character table.
+#include <QInputMethodEvent>
 #include <QLineEdit>
 
 #include "accessories/windows/klavesnice.h"
@@ -15,7 +16,13 @@ TEST_F(ProgramTest, MorseCollectsSigns) {
   TextBuffer& box = Find<TextBox>(morse, "Text1")->Buffer();
   platform.clipboard = "sos";
   const std::tuple<const char*, const char*, const char*> cases[] = {
-      {"mnuCH! mnu0! mnumorcz7! mnumoapo! mnurorumím!", "|", "----/-----/-.../.---./...-./|"},
+      {"mnumorcz1! mnumorcz2! mnumorcz3! mnumorcz7! mnumorcz8! mnumorcz9! mnumorcz0!", "|",
+       ".-/..-/...-/-.../-../-./-/|"},
+      {"mnumotec! mnumocar! mnumoapo! mnumodvo! mnumopom! mnumoota! mnumozlom! mnumokri! mnumorzavor!", "|",
+       "....../.-.-.-/.---./---.../-....-/..--../-..-./.-.-./-.--.-/|"},
+      {"mnusos! mnuend! mnupozor! mnurorumím! mnunerorum! mnumorsemiscPoma! mnumorsemiscOpak! mnumorsemiscCekej! "
+       "mnumorsemiscOddel! mnumorsemiscPoZpra!",
+       "|", "...---.../...-.-/-.-.-./...-./...../-.-.-../..--../.-.../-...-/-.-/|"},
       {"mnue!", "-/[../|", "-/./|../"},
       {"Text1:'Ab!\r '", "|", ".-/-.../-..-./|"},  // Enter and "!" have no sign
       {"mnu_clipmorse!", "-/[./|", "-/.../---/.../|"},
@@ -25,6 +32,15 @@ TEST_F(ProgramTest, MorseCollectsSigns) {
     PutMarked(box, before);
     Work(morse, steps);
     EXPECT_EQ(Marked(box), after) << steps;
+  }
+}
+
+TEST_F(ProgramTest, EscapeClosesTheWindowsOfToolsAndCiphers) {
+  for (const char* command : {"mnumorse", "mnuklavesnice", "mnuASCII", "mnu_analysis", "mnucode", "mnu_encrypt_shift",
+                              "Mnu_Encrypt_Confeld", "mnu_rnd_encrypt", "Mnu_Hack_cry"}) {
+    QWidget& window = Open(command);
+    QTest::keyClick(&window, Qt::Key_Escape);
+    EXPECT_FALSE(window.isVisible()) << command;
   }
 }
 
@@ -63,8 +79,16 @@ TEST_F(KeyboardTest, AKeyTypesBeforeTheSelection) { ExpectDocument("mnuklavesnic
 
 TEST_F(KeyboardTest, PhysicalKeysTypeTheirCharacters) {
   Work(keyboard, "Check1!");
-  QTest::keyClicks(&keyboard, QStringLiteral("a 1\r\b"));
-  EXPECT_EQ(text.Text(), "A 1\r\b");  // required: Enter and Backspace type the characters 13 and 8
+  QTest::keyClicks(&keyboard, QStringLiteral(" 1\r\b"));
+  Work(keyboard, "Command3:'a '");     // the key loses the focus
+  EXPECT_EQ(text.Text(), " 1\r\bA ");  // required: Enter and Backspace type the characters 13 and 8
+}
+
+TEST_F(KeyboardTest, ComposedLettersAreTypedToo) {
+  QInputMethodEvent composed;
+  composed.setCommitString(QStringLiteral("ďň"));
+  QApplication::sendEvent(&keyboard, &composed);
+  EXPECT_EQ(ShownText(text.Text()), "ďň");
 }
 
 struct CharTableTest : ProgramTest {
@@ -82,7 +106,6 @@ TEST_F(CharTableTest, AClickInsertsBeforeTheSelection) {
       {"Option1!", 0xC8, "aČ|bc"},
       {"Option1!", 0, "a[b|c"},  // required: code 0 is never inserted
       {"Option2!", 0xC8, "a&#200;|bc"},
-      {"Option2!", 7, "a&#7;|bc"},
   };
   for (const auto& [option, code, after] : cases) {
     PutMarked(text, "a[b|c");
@@ -106,8 +129,8 @@ TEST_F(CharTableTest, EachCharacterIsCollectedAndSentUnchanged) {
 TEST_F(CharTableTest, TheCharacterOfTheBarIsCollectedBeforeTheSelection) {
   Work(kod, "Text1=ab");
   Find<QLineEdit>(kod, "Text1")->setSelection(1, 1);
-  ExpectState(kod, "HScroll1=38 Command3!", "Label1=38 Text1=a&b");
-  ExpectState(kod, "HScroll1=0 Command3!", "Label1=0 Text1=a&b");
+  ExpectState(kod, "HScroll1=38 Command3!", "Label1=38 Label2=& Text1=a&b");
+  ExpectState(kod, "HScroll1=0 Command3!", "Label1=0 Label2= Text1=a&b");
 }
 
 TEST_F(CharTableTest, CollectedCharactersAreSentBeforeTheSelection) {
@@ -116,13 +139,17 @@ TEST_F(CharTableTest, CollectedCharactersAreSentBeforeTheSelection) {
 }
 
 TEST_F(CharTableTest, ThePointerShowsTheCode) {
+  QImage before;
   for (const auto& [code, state] : {std::pair(0, "Label6=0 Label7=00 Label8=&#0;"),
                                     {15, "Label6=15 Label7=0F Label8=&#15;"},
                                     {16, "Label6=16 Label7=10 Label8=&#16;"},
                                     {255, "Label6=255 Label7=FF Label8=&#255;"}}) {
     QTest::mouseMove(grid, Cell(code));
     ExpectState(kod, "", state);
+    const QImage preview = Named(kod, "Picture2")->grab().toImage();
+    EXPECT_FALSE(preview == std::exchange(before, preview)) << code;
   }
+  EXPECT_EQ(Named(kod, "Picture2")->accessibleDescription(), QStringLiteral("˙, kód 255"));
 }
 
 TEST_F(CharTableTest, TheCellOfCodeZeroIsEmpty) {
