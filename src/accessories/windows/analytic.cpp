@@ -31,7 +31,7 @@ Analytic::Analytic(const TextBuffer& buffer, QWidget* parent) : FormDialog(paren
   // Wide enough for a row with the name of a control character, and for the scroll bar.
   ui_->List1->setMinimumWidth(30 * ui_->List1->fontMetrics().averageCharWidth() + 40);
   timer1_.setObjectName(QStringLiteral("Timer1"));
-  timer1_.start(2000);
+  timer1_.setInterval(2000);
   ConnectEvents();
   AnalyseText(buffer_.Text());
 }
@@ -111,6 +111,18 @@ void Analytic::Timer1_Timer() {
 bool Analytic::eventFilter(QObject* watched, QEvent* event) {
   if (watched == ui_->Picture2 && event->type() == QEvent::MouseButtonPress) ui_->Label2->clear();
   return DialogWindow::eventFilter(watched, event);
+}
+
+void Analytic::showEvent(QShowEvent* event) {
+  DialogWindow::showEvent(event);
+  if (event->spontaneous()) return;
+  timer1_.start();
+  Timer1_Timer();  // catches up, since the timer stops while the window is hidden
+}
+
+void Analytic::hideEvent(QHideEvent* event) {
+  if (!event->spontaneous()) timer1_.stop();
+  DialogWindow::hideEvent(event);
 }
 
 }  // namespace pelmar

@@ -20,6 +20,8 @@ class Analytic : public FormDialog<Ui::Analytic> {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
 
  private:
   void ConnectEvents();

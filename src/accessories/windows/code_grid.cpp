@@ -31,11 +31,20 @@ void CodeGrid::PaintCell(QPainter& painter, const QRect& cell, int row, int colu
 }
 
 void CodeGrid::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::FontChange) glyphs_.reset();
   CellGrid::changeEvent(event);
+  if (event->type() != QEvent::FontChange) return;
+  glyphs_.reset();
+  update();
 }
 
 CodePreview::CodePreview(QWidget* parent) : QWidget(parent) { SetAccessibleRole(*this, QAccessible::Graphic); }
+
+CodePreview::~CodePreview() = default;
+
+void CodePreview::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::FontChange) glyphs_.reset();
+}
 
 void CodePreview::SetCode(int code) {
   code_ = code;
@@ -46,10 +55,12 @@ void CodePreview::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.fillRect(rect(), palette().brush(QPalette::Base));
   if (code_ >= 0) {
-    QFont large = font();
-    large.setPointSize(kPreviewPoints);
-    const QPointF at(kPreviewEdge, kPreviewEdge);
-    GlyphTable(large).DrawAlone(painter, at, CharOf(code_), palette().color(QPalette::Text));
+    if (!glyphs_) {
+      QFont large = font();
+      large.setPointSize(kPreviewPoints);
+      glyphs_ = std::make_unique<GlyphTable>(large);
+    }
+    glyphs_->DrawAlone(painter, QPointF(kPreviewEdge, kPreviewEdge), CharOf(code_), palette().color(QPalette::Text));
   }
   DrawEdge(painter, *this);
 }

@@ -33,14 +33,17 @@ class CodePreview : public QWidget {
 
  public:
   explicit CodePreview(QWidget* parent = nullptr);
+  ~CodePreview() override;
 
   void SetCode(int code);
   QSize sizeHint() const override { return {84, 84}; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
+  std::unique_ptr<GlyphTable> glyphs_;
   int code_ = -1;
 };
 
