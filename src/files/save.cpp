@@ -14,36 +14,20 @@ Saver::Saver(Documents& documents, RecentFiles& recent, Platform& platform, File
 
 void Saver::SaveToPath(const std::string& path) {
   if (!MayMixEncodings(path) || !MayWrite(path)) return;
-  try {
-    const std::string& text = documents_.Buffer().Text();
-    const WriteOutcome outcome = Write(path, text);
-    if (outcome.error != 0) return ReportError(path, outcome);
+  const std::string& text = documents_.Buffer().Text();
+  Write(path, text, [&] {
     mixing_agreed_for_.clear();
     documents_.Remember({path, platform_.Stamp(path), CurrentWasUtf8(documents_) || LooksLikeUtf8(text)});
     documents_.MakeCurrent(path);
-    recent_.Remember(path);
-  } catch (const RuntimeError& error) {
-    ReportError(path, {.error = error.Number()});
-  }
-}
-
-void Saver::SaveTextCopy(const std::string& path, std::string_view text) {
-  if (!MayWrite(path)) return;
-  try {
-    const WriteOutcome outcome = Write(path, text);
-    if (outcome.error != 0) return ReportError(path, outcome);
-    recent_.Remember(path);
-  } catch (const RuntimeError& error) {
-    ReportError(path, {.error = error.Number()});
-  }
+  });
 }
 
 void Saver::SaveSelectionAs() {
   TextBuffer& buffer = documents_.Buffer();
   if (!buffer.HasSelection()) return;
   const auto path = platform_.SaveDialog(kDocumentFilter, kDocumentFilterIndex);
-  // A copy, since the selection may change while SaveTextCopy asks its question.
-  if (path) SaveTextCopy(*path, std::string(buffer.SelText()));
+  const std::string text(buffer.SelText());  // a copy, since the selection may change during the question
+  if (path && MayWrite(*path)) Write(*path, text, [] {});
 }
 
 void Saver::SaveStandard() {
@@ -86,9 +70,20 @@ bool Saver::MayWrite(const std::string& path) {
   return platform_.Confirmed(OverwriteQuestion(path), "Soubor");
 }
 
-WriteOutcome Saver::Write(const std::string& path, std::string_view text) {
+WriteOutcome Saver::WriteBytes(const std::string& path, std::string_view bytes) {
   const FileNumberGuard number(file_number_);
-  return platform_.WriteDocument(path, text);
+  return platform_.WriteDocument(path, bytes);
+}
+
+void Saver::Write(const std::string& path, std::string_view text, const std::function<void()>& written) {
+  try {
+    const WriteOutcome outcome = WriteBytes(path, text);
+    if (outcome.error != 0) return ReportError(path, outcome);
+    written();
+    recent_.Remember(path);
+  } catch (const RuntimeError& error) {
+    ReportError(path, {.error = error.Number()});
+  }
 }
 
 void Saver::ReportError(const std::string& path, const WriteOutcome& outcome) {

@@ -3,6 +3,7 @@
 // Windows-1250.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -21,11 +22,8 @@ class Saver {
   // question; the text after the answer is saved. Reports a failure, but doesn't undo the steps before the failure.
   void SaveToPath(const std::string& path);
 
-  // Writes a text to a file that doesn't become the file of the document. Asks before a file is overwritten, and
-  // reports a failure.
-  void SaveTextCopy(const std::string& path, std::string_view text);
-
-  // Shows the system's save dialog, then calls SaveTextCopy with the selection. Does nothing if nothing is selected.
+  // Shows the system's save dialog and writes the selection to the file, which doesn't become the file of the document.
+  // Asks before a file is overwritten, and reports a failure. Does nothing if nothing is selected.
   void SaveSelectionAs();
 
   // Shows the system's save dialog, then calls SaveToPath.
@@ -43,7 +41,9 @@ class Saver {
   // ask about the same file again until SaveToPath writes a file or the person answers Yes for another file.
   bool MayMixEncodings(const std::string& path);
   bool MayWrite(const std::string& path);
-  WriteOutcome Write(const std::string& path, std::string_view text);
+  WriteOutcome WriteBytes(const std::string& path, std::string_view bytes);
+  // Writes the file, then calls `written`. Reports a failure of either.
+  void Write(const std::string& path, std::string_view text, const std::function<void()>& written);
   void ReportError(const std::string& path, const WriteOutcome& outcome);
 
   Documents& documents_;
