@@ -10,7 +10,7 @@
 namespace pelmar {
 
 struct TempFile {
-  int error = 0;       // 0 or errno, EEXIST after too many taken names
+  int error = 0;       // 0 or errno
   std::string path;    // with the folder
   std::string digits;  // the part of the name between `start` and `end`
 };
