@@ -13,20 +13,18 @@ Opener::Opener(Documents& documents, RecentFiles& recent, Platform& platform, Fi
 
 void Opener::OpenPath(const std::string& path) {
   const auto stamp = platform_.Stamp(path);
-  // A file that was read needn't be opened again to test whether it exists.
-  FileBytes file = platform_.ReadFile(path, kLargestDocument + 1);
-  if ((file.error != 0 || file_number_.IsOpen()) && !FileExists(file_number_, platform_, path)) {
+  auto text = ReadIfExists(file_number_, platform_, path, kLargestDocument + 1);
+  if (!text) {
     platform_.Message(MessageType::kOk, "Soubor " + path + " nenalezen!", "Soubor");
     return;
   }
-  if (file.error != 0) throw Unreadable(path, file.error);
-  if (file.bytes.size() > kLargestDocument) {
+  if (text->size() > kLargestDocument) {
     platform_.Message(MessageType::kOk, "Nelze otevřít " + path + ", Soubor příliš velký", "Soubor");
     return;
   }
   file_number_.Open();
-  documents_.Remember({path, stamp, LooksLikeUtf8(file.bytes)});
-  documents_.MakeCurrent(path, std::move(file.bytes));  // required: an error here leaves file number 1 open
+  documents_.Remember({path, stamp, LooksLikeUtf8(*text)});
+  documents_.MakeCurrent(path, std::move(*text));  // required: an error here leaves file number 1 open
   recent_.Remember(path);
   file_number_.Close();
 }

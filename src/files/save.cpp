@@ -18,27 +18,15 @@ void Saver::SaveToPath(const std::string& path) {
 
 void Saver::SaveDocument(const std::string& path) {
   if (!MayWrite(path)) return;
-  try {
-    const std::string& text = documents_.Buffer().Text();
-    const WriteOutcome outcome = Write(path, text);
-    if (outcome.error != 0) return ReportError(path, outcome);
+  const std::string& text = documents_.Buffer().Text();
+  Write(path, text, [&] {
     documents_.Remember({path, platform_.Stamp(path), CurrentWasUtf8(documents_) || LooksLikeUtf8(text)});
     documents_.MakeCurrent(path);
-    recent_.Remember(path);
-  } catch (const RuntimeError& error) {
-    ReportError(path, {.error = error.Number()});
-  }
+  });
 }
 
 void Saver::SaveTextCopy(const std::string& path, std::string_view text) {
-  if (!MayWrite(path)) return;
-  try {
-    const WriteOutcome outcome = Write(path, text);
-    if (outcome.error != 0) return ReportError(path, outcome);
-    recent_.Remember(path);
-  } catch (const RuntimeError& error) {
-    ReportError(path, {.error = error.Number()});
-  }
+  if (MayWrite(path)) Write(path, text, [] {});
 }
 
 void Saver::SaveSelectionAs() {
@@ -86,9 +74,20 @@ bool Saver::MayWrite(const std::string& path) {
   return platform_.Confirmed(OverwriteQuestion(path), "Soubor");
 }
 
-WriteOutcome Saver::Write(const std::string& path, std::string_view text) {
+WriteOutcome Saver::WriteBytes(const std::string& path, std::string_view bytes) {
   const FileNumberGuard number(file_number_);
-  return platform_.WriteDocument(path, text);
+  return platform_.WriteDocument(path, bytes);
+}
+
+void Saver::Write(const std::string& path, std::string_view text, const std::function<void()>& written) {
+  try {
+    const WriteOutcome outcome = WriteBytes(path, text);
+    if (outcome.error != 0) return ReportError(path, outcome);
+    written();
+    recent_.Remember(path);
+  } catch (const RuntimeError& error) {
+    ReportError(path, {.error = error.Number()});
+  }
 }
 
 void Saver::ReportError(const std::string& path, const WriteOutcome& outcome) {

@@ -3,6 +3,7 @@
 // Windows-1250.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -44,7 +45,9 @@ class Saver {
   // SaveToPath without the question of MayMixEncodings.
   void SaveDocument(const std::string& path);
   bool MayWrite(const std::string& path);
-  WriteOutcome Write(const std::string& path, std::string_view text);
+  WriteOutcome WriteBytes(const std::string& path, std::string_view bytes);
+  // Writes the file, then calls `written`. Reports a failure of either.
+  void Write(const std::string& path, std::string_view text, const std::function<void()>& written);
   void ReportError(const std::string& path, const WriteOutcome& outcome);
 
   Documents& documents_;

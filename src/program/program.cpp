@@ -36,7 +36,7 @@ Program::Program(Platform& platform)
                {.show_config = [this] { windows_.Get<Config>().Run(); },
                 .show_main = [this] { main_.ShowMain(); },
                 .show_start = [this] { windows_.Get<Start>().Present(); },
-                .show_accessory = [this](StartMode mode) { ShowAccessory(mode); }},
+                .show_accessory = [this](StartMode mode) { services_.show_alone.at(mode)(); }},
                editor_, files_),
       rescue_(unsaved_, platform),
       timer_(main_, editor_) {
@@ -67,11 +67,6 @@ void Program::AddWindows() {
 // False until the end of the load, because the load can put a "*" into the title although nothing is unsaved. False if
 // an accessory runs alone, because nobody can then change the documents of the hidden editor.
 bool Program::KeepsDocuments() const { return loaded_ && session_.Mode() == StartMode::kEditor; }
-
-void Program::ShowAccessory(StartMode mode) {
-  rescue_.End();
-  services_.show_alone.at(mode)();
-}
 
 void Program::Run(const std::string& tail) {
   timer_.start();

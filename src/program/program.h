@@ -40,7 +40,6 @@ class Program {
 
  private:
   void AddWindows();
-  void ShowAccessory(StartMode mode);
   [[nodiscard]] bool KeepsDocuments() const;
   bool MayClose();
 

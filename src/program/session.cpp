@@ -2,11 +2,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <utility>
 
 #include "platform/color.h"
 #include "platform/paths.h"
-#include "platform/runtime_error.h"
 #include "platform/twips.h"
 #include "shell/rescued_documents.h"
 #include "text/codepage.h"
@@ -46,15 +46,10 @@ void Session::Load() {
 }
 
 void Session::LoadText() {
-  const std::string path = InstallPath(kRecoveryName);
-  if (FileExists(file_number_, platform_, path)) {
-    // A file longer than kLargestDocument isn't loaded. No message says so, and the next StoreAll overwrites the file.
-    FileBytes file = platform_.ReadFile(path, kLargestDocument + 1);
-    if (file.error != 0) throw Unreadable(path, file.error);
-    if (file.bytes.size() <= kLargestDocument) documents_.Buffer().SetText(std::move(file.bytes));
-  }
+  // A file longer than kLargestDocument isn't loaded. No message says so, and the next StoreAll overwrites the file.
+  auto text = ReadIfExists(file_number_, platform_, InstallPath(kRecoveryName), kLargestDocument + 1);
+  if (text && text->size() <= kLargestDocument) documents_.Buffer().SetText(std::move(*text));
   TakeClipboard();
-  loaded_revision_ = documents_.Buffer().Revision();
 }
 
 void Session::TakeClipboard() {
@@ -63,19 +58,16 @@ void Session::TakeClipboard() {
 }
 
 void Session::TakeLateClipboard() {
-  const bool touched = documents_.Buffer().Revision() != loaded_revision_ || documents_.SelectedTab() != 1 ||
-                       !documents_.CurrentPath().empty();
-  if (touched || !documents_.Buffer().Empty()) return;
+  const bool touched =
+      documents_.Buffer().Revision() != 0 || documents_.SelectedTab() != 1 || !documents_.CurrentPath().empty();
+  if (touched) return;
   TakeClipboard();
   documents_.ForgetPath();  // also removes the "*" from the title
 }
 
 void Session::LoadSettings() {
-  const std::string path = InstallPath(kSettingsName);
-  if (!FileExists(file_number_, platform_, path)) return;
-  const FileBytes file = platform_.ReadFile(path, std::nullopt);
-  if (file.error != 0) throw Unreadable(path, file.error);
-  settings_ = ReadSettings(file.bytes);
+  const auto bytes = ReadIfExists(file_number_, platform_, InstallPath(kSettingsName), std::nullopt);
+  if (bytes) settings_ = ReadSettings(*bytes);
 }
 
 void Session::ApplyLook() {

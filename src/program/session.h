@@ -2,7 +2,6 @@
 // both files, and a third file with the texts of all tabs. The order of the steps is required.
 #pragma once
 
-#include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -61,7 +60,6 @@ class Session : public SessionState {
   Platform& platform_;
   FileNumber& file_number_;
   StartMode mode_ = StartMode::kEditor;
-  std::uint64_t loaded_revision_ = 0;  // the revision of the text after the load
   bool closed_ = false;
 };
 

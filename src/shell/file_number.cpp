@@ -15,6 +15,7 @@ void Check(const WriteOutcome& outcome, const std::string& path, const char* wha
 
 constexpr char kCantWrite[] = " nelze zapsat";
 constexpr char kCantOpen[] = " nelze otevřít";
+constexpr char kCantRead[] = " nelze číst";
 
 }  // namespace
 
@@ -23,8 +24,14 @@ bool FileExists(const FileNumber& number, Platform& platform, const std::string&
   return platform.CanRead(path.substr(0, path.size() - (EndsInSeparator(path) ? 1 : 0)));
 }
 
-RuntimeError Unreadable(const std::string& path, int error) {
-  return {error, "Soubor " + path + " nelze číst: " + ErrorText(error)};
+std::optional<std::string> ReadIfExists(const FileNumber& number, Platform& platform, const std::string& path,
+                                        std::optional<std::uint64_t> limit) {
+  if (number.IsOpen()) return std::nullopt;
+  FileBytes file = platform.ReadFile(path, limit);
+  // A file that was read needn't be opened again to test whether it exists.
+  if (file.error != 0 && !FileExists(number, platform, path)) return std::nullopt;
+  Check({.error = file.error}, path, kCantRead);
+  return std::move(file.bytes);
 }
 
 std::string KeptNotice(const WriteOutcome& outcome) {

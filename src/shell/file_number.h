@@ -7,6 +7,7 @@
 
 #include <cerrno>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -46,8 +47,10 @@ class FileNumberGuard {
 // path. required: always false while the number is in use.
 bool FileExists(const FileNumber& number, Platform& platform, const std::string& path);
 
-// The error for an existing file that can't be read.
-RuntimeError Unreadable(const std::string& path, int error);
+// Reads at most `limit` bytes of a file, nothing if FileExists is false. Throws RuntimeError if an existing file can't
+// be read.
+std::optional<std::string> ReadIfExists(const FileNumber& number, Platform& platform, const std::string& path,
+                                        std::optional<std::uint64_t> limit);
 
 // An extra line for the message about a failed write: the file is damaged, and its old content lies in the file
 // outcome.kept. Empty if outcome.kept is empty.

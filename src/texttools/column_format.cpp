@@ -45,8 +45,7 @@ void InsertFromEnd(Rows& rows, std::size_t distance, std::string_view text) {
 }
 
 void RemoveFromStart(Rows& rows, std::size_t distance) {
-  for (std::string& row : rows)
-    if (distance < row.size()) row.erase(distance, 1);
+  for (std::string& row : rows) row.erase(std::min(distance, row.size()), 1);
 }
 
 void RemoveFromEnd(Rows& rows, std::size_t distance) {

@@ -15,7 +15,7 @@ constexpr std::string_view kMarker = "\xFF";
 Replacer::Replacer(TextBuffer& buffer, Platform& platform)
     : find(DefaultTerm(buffer)), change("Zaměň"_w), buffer_(buffer), platform_(platform) {}
 
-bool Replacer::Start() {
+void Replacer::Start() {
   lists_on = change_on = case_on = find_on = false;
   step_on = all_on = true;
   terms.push_back(find);  // required: before the change to upper case, unlike in Hledání
@@ -27,10 +27,9 @@ bool Replacer::Start() {
   }
   snapshot_.SetText(std::move(text));
   found_pos_ = replaced_count_ = found_count_ = 0;
-  if (Seek()) return true;
+  if (Seek()) return;
   found_shown = replaced_shown = std::nullopt;
   ReportNothing();
-  return false;
 }
 
 void Replacer::Next() {

@@ -38,7 +38,7 @@ class Replacer {
 
   [[nodiscard]] TextBuffer& Snapshot() { return snapshot_; }
 
-  bool Start();  // true if the term was found
+  void Start();
   void Next();
   void Replace();
   void ReplaceAll();

@@ -33,14 +33,6 @@ struct DocumentsTest : testing::Test, RunOfDocuments {
   }
 };
 
-TEST_F(DocumentsTest, AChangeMarksOnlyTheTitle) {
-  EXPECT_EQ(StateOf(documents), DocumentState{.title = "()"});
-  Type("a");
-  EXPECT_EQ(StateOf(documents), (DocumentState{.title = "()*", .unsaved = 1}));
-  documents.MakeCurrent("/a/one.txt", "one");
-  EXPECT_EQ(StateOf(documents), SavedAt("/a/one.txt"));
-}
-
 TEST_F(DocumentsTest, ASwitchKeepsTextPathAndMarkOfTheLeftTab) {
   documents.MakeCurrent("/a/one.txt", "one");
   Type("!");
@@ -63,15 +55,6 @@ TEST_F(DocumentsTest, TheEnteredSlotHoldsTheLeftPathUntilTheNextChange) {
             "Soubor:\r\n\r\n\r\nSoubor:\r\n\r\n\r\nSoubor:\r\n\r\n\r\n");
   Type("x");
   EXPECT_EQ(StateOf(documents), (DocumentState{.title = "()*", .unsaved = 1}));
-}
-
-// required: the change of the text writes the path back
-TEST_F(DocumentsTest, ClearingADocumentLeavesItsPathInTheSlot) {
-  documents.MakeCurrent("/a/one.txt", "one");
-  Type("!");
-  documents.ClearCurrent();
-  EXPECT_EQ(StateOf(documents), (DocumentState{.title = "()", .slot_path = "/a/one.txt"}));
-  EXPECT_EQ(documents.CurrentPath(), "");
 }
 
 TEST_F(DocumentsTest, OnlyADocumentWithAPathSetsTheFieldsOfTheSaveDialog) {

@@ -46,16 +46,6 @@ struct Finding : Searching<Finder> {
   static void PickFirst(Searching& s) { s.search.PickHistory(0); }
 };
 
-TEST(Find, BeginsWithTheSelectedTextOrASample) {
-  ScriptedPlatform platform;
-  TextBuffer text;
-  PutMarked(text, "a[bc|");
-  EXPECT_EQ(Finder(text, platform).find, "bc");
-  EXPECT_EQ(Replacer(text, platform).find, "bc");
-  text.SetText("abc");
-  EXPECT_EQ(Finder(text, platform).find, "Text");
-}
-
 TEST(Find, SearchesTheTextAsItWasAtTheStart) {
   using F = Finding;
   const struct {

@@ -16,7 +16,6 @@ void Config::Run() {
   ui_->Check1->setChecked(false);
   ui_->Text3->clear();
   ui_->Text4->clear();
-  ui_->Text1->setFocus();
   exec();
 }
 

@@ -41,10 +41,7 @@ void O::showEvent(QShowEvent* event) {
   DialogWindow::showEvent(event);
 }
 
-void O::mouseMoveEvent(QMouseEvent* event) {
-  MixCase();
-  DialogWindow::mouseMoveEvent(event);
-}
+void O::mouseMoveEvent(QMouseEvent*) { MixCase(); }
 
 bool O::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::MouseMove && watched == ui_->Text1->viewport()) MixCase();

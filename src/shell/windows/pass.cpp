@@ -19,7 +19,6 @@ Pass::Pass(const SettingsRecord& settings, Platform& platform, std::function<voi
 
 void Pass::Run() {
   ui_->Text1->clear();
-  ui_->Text1->setFocus();
   hide_text_(true);
   const QPointer<QWidget> parent = DialogParent();
   {

@@ -20,10 +20,9 @@ Pos::Pos(MainPlace& main, QWidget* parent) : FormDialog(parent), main_(main) {
 }
 
 // Unmarks the marked cell when the mouse moves in the dialog outside the grid.
-void Pos::mouseMoveEvent(QMouseEvent* event) {
+void Pos::mouseMoveEvent(QMouseEvent*) {
   ui_->Label1->clear();
   ui_->Picture1->Clear();
-  DialogWindow::mouseMoveEvent(event);
 }
 
 }  // namespace pelmar

@@ -24,7 +24,6 @@ Hledani::Hledani(TextBuffer& buffer, Platform& platform, std::function<QRect()> 
   });
   finder_.before_message = [this] { ShowFields(); };
   ShowFields();
-  ui_->Find->setFocus();
 }
 
 void Hledani::Step(void (Finder::*step)()) {

@@ -27,15 +27,11 @@ Zamena::Zamena(TextBuffer& buffer, Platform& platform, std::function<QRect()> ma
   }
   replacer_.before_message = [this] { ShowFields(); };
   ShowFields();
-  ui_->Find->setFocus();
 }
 
 void Zamena::Start() {
-  TakeFields();
-  const bool found = replacer_.Start();
-  ShowFields();
-  (found ? ui_->Command5 : ui_->Command4)->setFocus();
-  if (found) MoveAside(*this, match_());
+  Step(&Replacer::Start);
+  if (replacer_.step_on) ui_->Command5->setFocus();
 }
 
 void Zamena::Step(void (Replacer::*step)()) {

@@ -157,6 +157,18 @@ TEST_F(OfferTest, AFileThatCannotBeReadStaysAndNothingIsAsked) {
   EXPECT_TRUE(OldFilesAreThere());
 }
 
+TEST_F(OfferTest, ATextThatTheRescueFileCannotTakeGoesIntoAReadableFile) {
+  platform.write_errors = {{own, ENOSPC}, {"/tmp/pelmar-rescue-24999999.txt", ENOSPC}};
+  box.SetText("typed");
+  for (int time = 0; time < 2; ++time)  // one file is enough for the same text
+    EXPECT_EQ(keeper.NoticeOf(keeper.KeepNow()),
+              "Neuložené dokumenty jsou zachovány v souboru\r\n/tmp/pelmar-rescue-0.txt\r\n"
+              "Program je sám nenabídne, soubor si zkopírujte jinam.");
+  EXPECT_EQ(platform.files["/tmp/pelmar-rescue-0.txt"], "Soubor:\r\ntyped\r\n\r\n");
+  box.SetText("typed later");
+  EXPECT_EQ(keeper.NoticeOf(keeper.KeepNow()), "Neuložené dokumenty nebylo možné zachovat.");
+}
+
 TEST_F(RescueKeeperTest, TheStartReportsOnceWhereAnInterruptedSaveLeftTheOldContent) {
   const std::string left = folder.Put("puvodni-abcdef-a.txt", "old");
   for (const bool first : {true, false}) {

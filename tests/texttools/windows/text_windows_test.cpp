@@ -32,6 +32,7 @@ TEST_F(HledaniTest, AStartAllowsOnlyTheNextMatch) {
               "Find=(jedna) Command1='(&Start hledání)' Rozlisovat=(1) Command2='&Další vyhledaný' History=(jedna) "
               "Label3=1 Label5=0 Text1='jedna dvě jedna'");
   EXPECT_EQ(Marked(text), "[jedna| dvě jedna");
+  EXPECT_EQ(dialog.focusWidget(), Named(dialog, "Command2"));
 }
 
 TEST_F(HledaniTest, TheDialogMovesOffTheMatch) {
@@ -166,13 +167,18 @@ TEST_F(ColorDialogTest, AColourOfTheHistoryLosesItsGreen) {  // required
   Pick(0, "List1=0", "Label11=#E60000");
 }
 
-TEST(PosWindow, NamesTheCellUnderThePointer) {
+TEST(PosWindow, NamesTheCellUnderThePointerAndMovesTheEditorThereAtAClick) {
   PlainView view;
   Pos pos(view, nullptr);
   pos.Present();
   QWidget* grid = Named(pos, "Picture1");
   QTest::mouseMove(grid, QPoint(grid->width() - 4, 4));
   ExpectState(pos, "", "Label1='Vpravo nahoře'");
+  QTest::mouseClick(grid, Qt::LeftButton, {}, QPoint(grid->width() - 4, 4));
+  EXPECT_EQ(view.calls, std::vector<std::string>{"normal"});
+  EXPECT_TRUE(view.place.left > 0 && view.place.top == 0 && view.place.height > 0);
+  QTest::mouseMove(&pos, QPoint(2, 2));
+  ExpectState(pos, "", "Label1=");
 }
 
 struct VisualTest : ProgramTest {

@@ -43,13 +43,11 @@ int StatusPanel::WholeWidth() const {
 }
 
 void StatusPanel::mousePressEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton) return Q_EMIT Clicked();
-  ElidedLabel::mousePressEvent(event);
+  if (event->button() == Qt::LeftButton) Q_EMIT Clicked();
 }
 
 void StatusPanel::mouseDoubleClickEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton) return Q_EMIT DoubleClicked();
-  ElidedLabel::mouseDoubleClickEvent(event);
+  if (event->button() == Qt::LeftButton) Q_EMIT DoubleClicked();
 }
 
 StatusStrip::StatusStrip(QWidget* parent) : QStatusBar(parent) {
@@ -62,8 +60,7 @@ StatusStrip::StatusStrip(QWidget* parent) : QStatusBar(parent) {
     panel->setToolTip(kTips[at].toString());
     panels_[at] = panel;
     if (at < kFigures) panel->setElideMode(Qt::ElideLeft);  // the figures are at the end of the text
-    if (kCharacters[at] > 0)
-      widths_[at] = TwipsOf(fontMetrics().averageCharWidth() * kCharacters[at] + 2 * kTextMargin);
+    widths_[at] = TwipsOf(fontMetrics().averageCharWidth() * kCharacters[at] + 2 * kTextMargin);
   }
   for (const std::size_t at : {4u, 5u, 6u}) panels_[at]->setText(kTips[at].toString());
   Show(KeyStates{});
