@@ -111,9 +111,7 @@ std::size_t TextLayout::RowEnd(std::size_t row) const {
 // The last row of the text ends a line. Any other row ends a line if a CR LF comes before the next row.
 bool TextLayout::EndsLine(std::size_t row) const {
   if (row + 1 == rows_.size()) return true;
-  const std::size_t next = rows_[row + 1];
-  const std::string& text = buffer_->Text();
-  return next >= 2 && text[next - 2] == '\r' && text[next - 1] == '\n';
+  return std::string_view(buffer_->Text()).substr(0, rows_[row + 1]).ends_with("\r\n");
 }
 
 std::size_t TextLayout::RowOf(std::size_t pos, bool at_row_end) const {

@@ -32,7 +32,8 @@ TEST(CodePage, EachForeignCharacterOrMalformedByteBecomesAQuestionMark) {
   const std::pair<std::string_view, std::string_view> cases[] = {
       {"aЖb", "a?b"}, {"😀!", "?!"}, {"\xFF\xFE", "??"}, {"\xE2\x82", "??"}, {"\xC0\x80x", "??x"}, {"€", "\x80"}};
   for (const auto& [utf8, expected] : cases) EXPECT_EQ(FromUtf8(utf8), expected) << utf8;
-  EXPECT_EQ(FromUtf16(u"a\U0001F600b\xD800"), "a?b?");
+  // The first and the last pair of surrogates, then units that form no pair.
+  EXPECT_EQ(FromUtf16(u"a\U00010000\U0010FFFFb\xDC00\xDC00\xD800\xE000\xD800"), "a??b?????");
 }
 
 TEST(Utf8, MalformedSequencesAreRefused) {
@@ -71,7 +72,6 @@ TEST(NumberText, WritesFifteenDigitsWithAComma) {
   };
   for (const auto& [number, text] : cases) EXPECT_EQ(NumberText(number), text);
   EXPECT_EQ(NumberText(1.0f / 3), "0,3333333");
-  EXPECT_EQ(NumberText(0.00001f), "1E-05");
 }
 
 TEST(NumberText, FixedNumbersRoundHalvesAwayFromZero) {
