@@ -10,8 +10,6 @@ namespace {
 
 constexpr std::string_view kBlanks = " \t\r\n";
 
-bool IsDigit(char ch) { return ch >= '0' && ch <= '9'; }
-
 template <typename Number>
 std::string GeneralText(Number number, int digits) {
   if (number == 0) return "0";  // without the sign of a negative zero
@@ -23,8 +21,7 @@ std::string GeneralText(Number number, int digits) {
 }
 
 std::size_t DigitsEnd(std::string_view text, std::size_t at) {
-  while (at < text.size() && IsDigit(text[at])) ++at;
-  return at;
+  return std::min(text.find_first_not_of("0123456789", at), text.size());
 }
 
 // The length of the number at the start of the text, 0 if the text does not begin with a number. A number has an
@@ -33,15 +30,15 @@ std::size_t NumberLength(std::string_view text, char mark) {
   const std::size_t start = text.starts_with('-') || text.starts_with('+') ? 1 : 0;
   std::size_t end = DigitsEnd(text, start);
   std::size_t digits = end - start;
-  if (end < text.size() && text[end] == mark) {
+  if (text.substr(end).starts_with(mark)) {
     const std::size_t decimals_end = DigitsEnd(text, end + 1);
     digits += decimals_end - end - 1;
     end = decimals_end;
   }
   if (digits == 0) return 0;
-  if (end < text.size() && (text[end] == 'E' || text[end] == 'e')) {
+  if (text.find_first_of("Ee", end) == end) {
     std::size_t exponent = end + 1;
-    if (exponent < text.size() && (text[exponent] == '-' || text[exponent] == '+')) ++exponent;
+    if (text.find_first_of("+-", exponent) == exponent) ++exponent;
     const std::size_t exponent_end = DigitsEnd(text, exponent);
     if (exponent_end > exponent) end = exponent_end;
   }

@@ -12,11 +12,8 @@ constexpr bool IsBlank(char ch) { return ch == ' ' || ch == '\t'; }
 // Replaces the elements [from, to) by `fresh`.
 void Splice(std::vector<std::size_t>& all, std::size_t from, std::size_t to, const std::vector<std::size_t>& fresh) {
   const auto at = [&](std::size_t index) { return all.begin() + static_cast<std::ptrdiff_t>(index); };
-  const std::size_t common = std::min(to - from, fresh.size());
-  const auto rest = fresh.begin() + static_cast<std::ptrdiff_t>(common);
-  std::copy(fresh.begin(), rest, at(from));
-  all.erase(at(from + common), at(to));
-  all.insert(at(from + common), rest, fresh.end());
+  all.erase(at(from), at(to));
+  all.insert(at(from), fresh.begin(), fresh.end());
 }
 
 }  // namespace
@@ -111,9 +108,7 @@ std::size_t TextLayout::RowEnd(std::size_t row) const {
 // The last row of the text ends a line. Any other row ends a line if a CR LF comes before the next row.
 bool TextLayout::EndsLine(std::size_t row) const {
   if (row + 1 == rows_.size()) return true;
-  const std::size_t next = rows_[row + 1];
-  const std::string& text = buffer_->Text();
-  return next >= 2 && text[next - 2] == '\r' && text[next - 1] == '\n';
+  return std::string_view(buffer_->Text()).substr(0, rows_[row + 1]).ends_with("\r\n");
 }
 
 std::size_t TextLayout::RowOf(std::size_t pos, bool at_row_end) const {

@@ -9,15 +9,12 @@ namespace {
 
 enum class Kind : std::uint8_t { kWord, kBlank, kSign, kControl, kBreak };
 
-bool BreakAt(std::string_view text, std::size_t pos) {
-  return pos + 1 < text.size() && text[pos] == '\r' && text[pos + 1] == '\n';
-}
-
-bool BreakBefore(std::string_view text, std::size_t pos) { return pos >= 2 && BreakAt(text, pos - 2); }
+bool BreakAt(std::string_view text, std::size_t pos) { return text.substr(pos).starts_with("\r\n"); }
+bool BreakBefore(std::string_view text, std::size_t pos) { return text.substr(0, pos).ends_with("\r\n"); }
 
 Kind KindAt(std::string_view text, std::size_t pos) {
   const char ch = text[pos];
-  if (BreakAt(text, pos) || (pos > 0 && BreakAt(text, pos - 1))) return Kind::kBreak;
+  if (BreakAt(text, pos) || BreakBefore(text, pos + 1)) return Kind::kBreak;
   if (ch == ' ' || ch == '\t' || CodeOf(ch) == 0xA0) return Kind::kBlank;
   if (IsLetter(ch) || (ch >= '0' && ch <= '9') || ch == '_') return Kind::kWord;
   return CodeOf(ch) < 0x20 ? Kind::kControl : Kind::kSign;

@@ -59,9 +59,7 @@ NewFile::NewFile(const std::string& beside, mode_t mode) : folder_(FolderOf(besi
 }
 
 NewFile::~NewFile() {
-  const int error = errno;
   if (!name_.empty()) unlink(name_.c_str());
-  errno = error;
 }
 
 int NewFile::CreateNamed(mode_t mode) {

@@ -60,7 +60,7 @@ std::string PathFromQString(const QString& path) {
     bytes += static_cast<char>(path[at].unicode() - kEscape);
     from = at + 1;
   }
-  return from == 0 ? path.toStdString() : bytes + path.mid(from).toStdString();
+  return bytes + path.mid(from).toStdString();
 }
 
 QString ShownPath(const QString& path) {

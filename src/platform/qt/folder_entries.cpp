@@ -45,7 +45,6 @@ QStringList NamesOf(const QString& path, Kind kind, const std::function<bool(con
     return order != 0 ? order < 0 : left.second < right.second;
   });
   QStringList result;
-  result.reserve(static_cast<qsizetype>(names.size()));
   for (auto& name : names) result.append(std::move(name.second));
   return result;
 }

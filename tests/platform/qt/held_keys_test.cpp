@@ -5,7 +5,7 @@
 #include <QPushButton>
 #include <QTest>
 
-#include "platform/qt/textbox/text_box.h"
+#include "support/program_test.h"
 
 namespace pelmar {
 namespace {
@@ -66,6 +66,19 @@ TEST(HeldKeys, RepeatOnlyWhereTheyEditText) {
       EXPECT_EQ(counter.presses, one.arrives + 1);
     }
   }
+}
+
+TEST_F(ProgramTest, KeysGoToTheNextThePreviousAndANumberedDocument) {
+  main.show();
+  main.activateWindow();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&main));
+  const std::pair<const char*, int> keys[] = {
+      {"Ctrl+Tab", 2}, {"Ctrl+PgDown", 3}, {"Alt+1", 1}, {"Ctrl+Shift+Tab", 5}, {"Ctrl+PgUp", 4}};
+  for (const auto& [key, document] : keys) {
+    QTest::keySequence(&main.Box(), QKeySequence(QString::fromLatin1(key)));
+    EXPECT_EQ(editor.documents.SelectedTab(), document) << key;
+  }
+  ExpectState(main, "", "Announcement='Dokument 4, nový soubor'");
 }
 
 }  // namespace

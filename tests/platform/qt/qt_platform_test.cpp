@@ -136,7 +136,7 @@ TEST(RecentDocuments, AreAllWrittenInOrderAtTheEndOfTheProgram) {
     for (const char name : std::string("bcaefdhgc")) recent.Add(u'/' + QChar::fromLatin1(name));
   }
   QString written;
-  const QRegularExpression entry(QStringLiteral("file:///(.)\""));
+  const QRegularExpression entry(QStringLiteral("(?s)file:///(.)\".*?exec=\"&apos;pelmar-vex %f&apos;\""));
   for (const auto& match : entry.globalMatch(Utf8ToQString(Content(list)))) written += match.captured(1);
   EXPECT_EQ(written.toStdString(), "bcaefdhg");
   EXPECT_NE(AddBookmark("", "/a.txt", "text/plain").find("type=\"text/plain\""), std::string::npos);

@@ -12,7 +12,7 @@ class ElidedLabel : public QLabel {
  public:
   explicit ElidedLabel(QWidget* parent = nullptr);
 
-  void setElideMode(Qt::TextElideMode mode);
+  void setElideMode(Qt::TextElideMode mode) { mode_ = mode; }
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;

@@ -216,7 +216,7 @@ std::optional<QString> AskForFile(FileDialogKind kind, const QString& filter, in
   // Accept the name of a missing file for opening too. The command that asked decides what happens with such a name.
   dialog->setFileMode(QFileDialog::AnyFile);
   dialog->setNameFilters(filters);
-  if (filter_index >= 1 && filter_index <= filters.size()) dialog->selectNameFilter(filters[filter_index - 1]);
+  dialog->selectNameFilter(filters.value(filter_index - 1));  // a number that no filter has selects nothing
   if (!dialog.RunAccepted() || dialog->selectedUrls().isEmpty()) return std::nullopt;
   // Use the URL: a dialog of the desktop may return a path that is not UTF-8. selectedFiles() would lose bytes of the
   // path.

@@ -11,7 +11,6 @@ namespace pelmar {
 DriveList::DriveList(QWidget* parent) : QComboBox(parent) {
   setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
   setMinimumContentsLength(4);
-  SetDrive(CurrentFolder());
   view()->setTextElideMode(Qt::ElideMiddle);
   connect(this, &QComboBox::textActivated, this, &QWidget::setToolTip);
   connect(this, &QComboBox::textActivated, this, &DriveList::DriveChanged);

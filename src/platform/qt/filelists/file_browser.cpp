@@ -8,7 +8,6 @@
 #include "platform/qt/filelists/drive_list.h"
 #include "platform/qt/filelists/file_list.h"
 #include "platform/qt/filelists/folder_list.h"
-#include "platform/qt/folder_entries.h"
 
 namespace pelmar {
 namespace {
@@ -19,7 +18,6 @@ constexpr char kPathProperty[] = "path";
 
 void LinkFolderBrowser(DriveList* place, FolderList* folders) {
   QObject::connect(place, &DriveList::DriveChanged, folders, &FolderList::SetPath);
-  folders->SetPath(CurrentFolder());
   place->SetDrive(folders->Path());
   folders->setFocus();
 }

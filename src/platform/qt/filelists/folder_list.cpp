@@ -22,8 +22,8 @@ class FolderModel : public QAbstractListModel {
         open_(view->style()->standardIcon(QStyle::SP_DirOpenIcon)),
         closed_(view->style()->standardIcon(QStyle::SP_DirClosedIcon)) {}
 
-  // Fills the rows for the entered folder `path`. Returns the row of this folder.
-  int Show(const QString& path) {
+  // Fills the rows for the entered folder `path`.
+  void Show(const QString& path) {
     beginResetModel();
     rows_.assign(1, {QStringLiteral("/"), QStringLiteral("/")});
     QString below;
@@ -34,13 +34,13 @@ class FolderModel : public QAbstractListModel {
     open_rows_ = static_cast<int>(rows_.size());
     for (const QString& name : SubfoldersOf(path)) rows_.push_back({name, below + u'/' + name});
     endResetModel();
-    return open_rows_ - 1;
   }
 
+  // The row of the folder, or of the entered folder if the folder isn't listed.
   [[nodiscard]] int RowOf(const QString& path) const {
     for (std::size_t row = 0; row < rows_.size(); ++row)
       if (rows_[row].path == path) return static_cast<int>(row);
-    return -1;
+    return open_rows_ - 1;
   }
 
   [[nodiscard]] int rowCount(const QModelIndex& parent) const override {
@@ -133,9 +133,8 @@ QString FolderList::HighlightedPath() const {
 
 void FolderList::Fill(const QString& highlighted) {
   if (!read_) return;
-  const int own_row = model_->Show(path_);
-  const int row = model_->RowOf(highlighted);
-  setCurrentIndex(model_->index(row >= 0 ? row : own_row, 0));
+  model_->Show(path_);
+  setCurrentIndex(model_->index(model_->RowOf(highlighted), 0));
 }
 
 QItemSelectionModel::SelectionFlags FolderList::selectionCommand(const QModelIndex& index, const QEvent* event) const {

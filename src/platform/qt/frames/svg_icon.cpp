@@ -14,7 +14,6 @@
 namespace pelmar {
 namespace {
 
-constexpr int kMostPixmaps = 16;      // enough for two modes and a few sizes
 constexpr int kDisabledOpacity = 45;  // percent
 
 // Uses Qt's SVG plug-in, so that the SVG library is loaded at the first paint, not at the start.
@@ -63,7 +62,6 @@ class SvgIconEngine final : public QIconEngine {
 
     QImage image = Render(path_, side);
     if (disabled) MakeDisabled(image);
-    if (pixmaps_.size() >= kMostPixmaps) pixmaps_.clear();
     return *pixmaps_.insert(cache_key, QPixmap::fromImage(std::move(image)));
   }
 

@@ -25,8 +25,8 @@ QMenu* BuildTextMenu(TextBox& box) {
   };
   const TextBuffer& buffer = box.Buffer();
   const bool letters = box.StandardShortcuts();
-  const auto keys = [&](const QString& caption, const char* letter, const char* other) {
-    return caption + u'\t' + QString::fromLatin1(letters ? letter : other);
+  const auto keys = [&](const QString& caption, const char* usual, const char* other = nullptr) {
+    return caption + u'\t' + QString::fromLatin1(letters || other == nullptr ? usual : other);
   };
   const QString copy = keys(QStringLiteral("&Kopírovat"), "Ctrl+C", "Ctrl+Ins");
   const QString all = keys(QStringLiteral("Vybrat vš&e"), "Ctrl+A", "");
@@ -36,14 +36,13 @@ QMenu* BuildTextMenu(TextBox& box) {
     add(all, TextCommand::kSelectAll, !buffer.Empty());
     return menu;
   }
-  add(keys(QStringLiteral("&Zpět"), "Alt+Backspace", "Alt+Backspace"), TextCommand::kUndo, buffer.CanUndo());
-  add(keys(QStringLiteral("Z&novu"), "Alt+Shift+Backspace", "Alt+Shift+Backspace"), TextCommand::kRedo,
-      buffer.CanRedo());
+  add(keys(QStringLiteral("&Zpět"), "Alt+Backspace"), TextCommand::kUndo, buffer.CanUndo());
+  add(keys(QStringLiteral("Z&novu"), "Alt+Shift+Backspace"), TextCommand::kRedo, buffer.CanRedo());
   menu->addSeparator();
   add(keys(QStringLiteral("Vyj&mout"), "Ctrl+X", "Shift+Del"), TextCommand::kCut, buffer.HasSelection());
   add(copy, TextCommand::kCopy, buffer.HasSelection());
   add(keys(QStringLiteral("&Vložit"), "Ctrl+V", "Shift+Ins"), TextCommand::kPaste, ClipboardHasText());
-  add(keys(QStringLiteral("&Smazat"), "Del", "Del"), TextCommand::kEraseAfter, buffer.HasSelection());
+  add(keys(QStringLiteral("&Smazat"), "Del"), TextCommand::kEraseAfter, buffer.HasSelection());
   menu->addSeparator();
   add(all, TextCommand::kSelectAll, !buffer.Empty());
   return menu;

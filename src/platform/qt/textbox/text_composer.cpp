@@ -73,8 +73,6 @@ void TextComposer::Handle(const QInputMethodEvent& event, TextBuffer& buffer) {
 
 void TextComposer::Clear() {
   text_.clear();
-  formats_.clear();
-  caret_ = 0;
   shows_caret_ = true;
 }
 

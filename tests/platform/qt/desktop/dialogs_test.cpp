@@ -35,6 +35,8 @@ TEST(Message, HasTheButtonsThePictureAndTheDefaultOfItsType) {
     EXPECT_EQ(ShowMessage(type, text, title), enter);
     InDialog<Box>([](Box& box) { QTest::keyClick(&box, Qt::Key_Escape); });
     EXPECT_EQ(ShowMessage(type, text, title), escape);
+    InDialog<Box>([](Box& box) { box.close(); });
+    EXPECT_EQ(ShowMessage(type, text, title), escape);
   }
 }
 
