@@ -36,9 +36,9 @@ std::size_t NumberLength(std::string_view text, char mark) {
     end = decimals_end;
   }
   if (digits == 0) return 0;
-  if (text.find_first_of("Ee", end) == end) {
+  if (end < text.size() && (text[end] == 'E' || text[end] == 'e')) {
     std::size_t exponent = end + 1;
-    if (text.find_first_of("+-", exponent) == exponent) ++exponent;
+    if (exponent < text.size() && (text[exponent] == '-' || text[exponent] == '+')) ++exponent;
     const std::size_t exponent_end = DigitsEnd(text, exponent);
     if (exponent_end > exponent) end = exponent_end;
   }

@@ -87,7 +87,7 @@ void TextBuffer::Remember(std::size_t pos, std::size_t length, std::string_view 
   redo_.clear();
   history_bytes_ += length + text.size();
   const std::string_view removed = std::string_view(text_).substr(pos, length);
-  if (run != Run::kNone && run == run_) {
+  if (run != Run::kNone && run == run_ && !undo_.empty()) {
     Step& last = undo_.back();
     if (run == Run::kTyping && length == 0 && pos == last.pos + last.inserted.size()) {
       last.inserted += text;
@@ -133,8 +133,8 @@ bool TextBuffer::MoveStep(std::vector<Step>& from, std::vector<Step>& to) {
   const std::string& text = forward ? step.inserted : step.removed;
   Apply(step.pos, length, text);
   if (!forward) {
-    anchor_ = step.anchor_before;
-    caret_ = step.caret_before;
+    anchor_ = std::min(step.anchor_before, text_.size());
+    caret_ = std::min(step.caret_before, text_.size());
   }
   run_ = Run::kNone;
   const TextChange change{step.pos, length, text.size(), false};

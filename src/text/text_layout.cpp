@@ -12,8 +12,11 @@ constexpr bool IsBlank(char ch) { return ch == ' ' || ch == '\t'; }
 // Replaces the elements [from, to) by `fresh`.
 void Splice(std::vector<std::size_t>& all, std::size_t from, std::size_t to, const std::vector<std::size_t>& fresh) {
   const auto at = [&](std::size_t index) { return all.begin() + static_cast<std::ptrdiff_t>(index); };
-  all.erase(at(from), at(to));
-  all.insert(at(from), fresh.begin(), fresh.end());
+  const std::size_t common = std::min(to - from, fresh.size());
+  const auto rest = fresh.begin() + static_cast<std::ptrdiff_t>(common);
+  std::copy(fresh.begin(), rest, at(from));
+  all.erase(at(from + common), at(to));
+  all.insert(at(from + common), rest, fresh.end());
 }
 
 }  // namespace

@@ -12,6 +12,7 @@ CHT::CHT(TextBuffer& buffer, Platform& platform, QWidget* parent) : FormDialog(p
   connect(ui_->Command1, &QPushButton::clicked, this,
           [&buffer, draw = DrawFrom(platform)] { buffer.SetText(HackerTranscription(buffer.Text(), draw)); });
   connect(ui_->Command2, &QPushButton::clicked, this, &CHT::hide);
+  ui_->Command1->setFocus();
 }
 
 }  // namespace pelmar

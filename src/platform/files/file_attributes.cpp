@@ -18,13 +18,14 @@ constexpr const char* kAccessList = "system.posix_acl_access";
 // Rights and signatures that belong to the old content, so they are not copied.
 constexpr std::string_view kOfTheContent[] = {"security.capability", "security.ima", "security.evm"};
 
-// Makes a call for the size and a second call for the bytes. Returns nothing on failure; errno has the reason.
+// Makes a call for the size and, unless the size is 0, a second call for the bytes. Returns nothing on failure; errno
+// has the reason.
 template <typename Call>
 std::optional<std::string> Fetch(const Call& call) {
   const ssize_t size = call(nullptr, 0);
   if (size < 0) return std::nullopt;
   std::string bytes(static_cast<std::size_t>(size), '\0');
-  const ssize_t got = call(bytes.data(), bytes.size());
+  const ssize_t got = size > 0 ? call(bytes.data(), bytes.size()) : 0;
   if (got < 0) return std::nullopt;
   bytes.resize(static_cast<std::size_t>(got));
   return bytes;

@@ -29,6 +29,9 @@ int FollowLinks(std::string& path) {
   return ELOOP;
 }
 
+// Whether the error means that the folder refuses a new file or a rename.
+bool FolderRefuses(int error) { return error == EACCES || error == EPERM || error == EROFS || error == EBUSY; }
+
 // Reserves space for the new content, so that a full disk is noticed before the first byte changes. Returns 0 also if
 // the file system can't reserve space.
 int Reserve(int file, std::size_t size) {
@@ -67,7 +70,7 @@ Beside WriteBeside(const Target& target, std::string_view bytes, mode_t new_mode
   // All names of the file must lead to the new content, but a rename would change only one name.
   if (old && target.old.st_nlink > 1) return {.error = EMLINK, .try_in_place = true};
   NewFile file(target.path, old ? 0600 : new_mode);
-  if (file.Error() != 0) return {.error = file.Error(), .try_in_place = old};
+  if (file.Error() != 0) return {.error = file.Error(), .try_in_place = old && FolderRefuses(file.Error())};
   if (old) {
     const int error = GiveAttributes(file.Number(), target.path, target.old);
     if (error != 0) return {.error = error, .try_in_place = true};
@@ -76,7 +79,7 @@ Beside WriteBeside(const Target& target, std::string_view bytes, mode_t new_mode
   if (const int error = Sync(file.Number())) return {.error = error};
   const int error = old ? file.TakeNameOf(target.path) : file.TakeNewName(target.path);
   if (error == 0) return {.error = SyncFolderOf(target.path, file.Number())};
-  return {.error = error, .try_in_place = old};
+  return {.error = error, .try_in_place = old && FolderRefuses(error)};
 }
 
 WriteOutcome WriteInPlace(const Target& target, std::string_view bytes, const std::string& keep_folder) {

@@ -166,6 +166,7 @@ void QtPlatform::ReseedRandom() {
 // Makes a sort key for each text once, which is much faster than comparing the texts themselves.
 std::vector<std::size_t> QtPlatform::SortedOrder(const std::vector<std::string_view>& texts) {
   std::vector<QCollatorSortKey> keys;
+  keys.reserve(texts.size());
   for (const std::string_view text : texts) keys.push_back(collator_.sortKey(TextToQString(text)));
   std::vector<std::size_t> order(texts.size());
   std::iota(order.begin(), order.end(), std::size_t{0});

@@ -73,7 +73,6 @@ int fsync(int file) {
   Note(folder ? "folder" : "content");
   return pelmar::Fails() ? -1 : 0;
 }
-int syncfs(int /*file*/) { return pelmar::Fails() ? -1 : 0; }
 ssize_t read(int file, void* bytes, size_t size) { return Pass<ssize_t>("read", file, bytes, size); }
 off_t lseek(int file, off_t at, int from) { return Pass<off_t>("lseek", file, at, from); }
 int ftruncate(int file, off_t size) { return Pass<int>("ftruncate", file, size); }

@@ -55,6 +55,7 @@ void SetAccessibleRole(QWidget& widget, QAccessible::Role role) {
 }
 
 void Announce(QWidget& window, const QString& text) {
+  if (!QAccessible::isActive()) return;
   const QString name = QStringLiteral("Announcement");
   auto* said = window.findChild<QLabel*>(name);
   if (said == nullptr) {

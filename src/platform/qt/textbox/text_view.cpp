@@ -67,9 +67,11 @@ int TextView::StopX(std::size_t row, std::size_t pos) {
 }
 
 QRect TextView::CharRect(std::size_t pos) {
-  const std::size_t row = Layout().RowOf(pos);
+  const TextLayout& layout = Layout();
+  const std::size_t row = layout.RowOf(pos);
   const int left = StopX(row, pos);
-  return {left, RowTop(row), std::max(StopX(row, pos + 1) - left, 1), Glyphs().RowHeight()};
+  const int right = pos < layout.RowEnd(row) ? StopX(row, pos + 1) : left + 1;
+  return {left, RowTop(row), std::max(right - left, 1), Glyphs().RowHeight()};
 }
 
 }  // namespace pelmar
