@@ -39,11 +39,6 @@ struct NotesWindowTest : ProgramTest {
       if (entry.path().extension() == ".lock") names.push_back(entry.path().filename());
     return names;
   }
-  // Creates the rescue file of a crashed copy: its name in the real folder, its bytes in the platform.
-  void PutRescueFile(const char* name, const RescueRecord& record) {
-    folder.Put(name, "");
-    File(name) = RescueBytes(kNotesRescue, record);
-  }
 };
 
 TEST_F(NotesWindowTest, StaysOnTopAndHasTheEditorsFont) {
@@ -129,25 +124,6 @@ TEST_F(NotesWindowTest, UnsavedPagesAreRescuedSoonAndAtAnEndWithoutAClose) {
   const auto kept = platform.files.lower_bound(platform.install_folder + "notes-rescue-");
   ASSERT_NE(kept, platform.files.end());
   EXPECT_EQ(ReadRescue(kNotesRescue, kept->second), (RescueRecord{1, {{1, "", "typed later"}}}));
-}
-
-TEST_F(NotesWindowTest, RescuedPagesAreRestoredAndTheCloseStoresThem) {
-  PutRescueFile("notes-rescue-1-1.pelmar", {2, {{1, "first", "FIRST"}, {2, "", "SECOND"}}});
-  PutRescueFile("notes-rescue-2-1.pelmar", {1, {{1, "first", "another first"}, {3, "", ""}}});  // page 3 hasn't changed
-  platform.answers = {Answer::kYes};
-  OpenOver({{"first"}});
-  platform.TakeCalls();
-  notes->OfferRescued();
-  EXPECT_EQ(platform.calls[0],
-            "message 52 \"Poznámky minule nebyly uloženy.\r\nPočet zachovaných stránek: 3.\r\nVrátit je do poznámek ?\""
-            " \"Záchrana\"");
-  ExpectState(*notes, "", "TabStrip1=1 Text1=SECOND");
-  EXPECT_EQ(File(), NotesBytes({{"first"}}));
-  EXPECT_EQ(Locks().size(), 1u);  // the lock of this copy's own rescue file
-  notes->OfferRescued();          // asks only once
-  notes->close();
-  EXPECT_EQ(File(), NotesBytes({{"FIRST", "SECOND", "another first"}}));
-  EXPECT_EQ(Locks(), std::vector<std::string>());
 }
 
 TEST_F(NotesWindowTest, TheMenuStoresAndRestoresTheCheckpoint) {

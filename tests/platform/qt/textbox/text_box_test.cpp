@@ -203,19 +203,6 @@ TEST_F(TextBoxTest, ComposingReplacesTheSelectionAndTypesWhenItEnds) {
   EXPECT_EQ(Document(), "XY|");
 }
 
-TEST_F(TextBoxTest, InputMethodsSeeTheTextAroundTheCaret) {
-  Put("ab¶c[de|f¶gh");
-  const std::pair<Qt::InputMethodQuery, const char*> cases[] = {
-      {Qt::ImSurroundingText, "cdef"}, {Qt::ImCursorPosition, "3"},     {Qt::ImAnchorPosition, "1"},
-      {Qt::ImCurrentSelection, "de"},  {Qt::ImTextBeforeCursor, "cde"}, {Qt::ImTextAfterCursor, "f"},
-      {Qt::ImAbsolutePosition, "7"}};
-  for (const auto& [query, answer] : cases) EXPECT_EQ(box->inputMethodQuery(query).toString().toStdString(), answer);
-  box->SetText(QByteArray(5000, 'x'));
-  box->SetSelStart(2000);
-  EXPECT_EQ(box->inputMethodQuery(Qt::ImSurroundingText).toString().size(), 1024);
-  EXPECT_EQ(box->inputMethodQuery(Qt::ImCursorPosition), 512);
-}
-
 TEST_F(TextBoxTest, ScreenReadersReadSelectAndChangeTheText) {
   Put("ab cd¶e[f|");
   QAccessibleInterface* info = QAccessible::queryAccessibleInterface(box);
