@@ -44,12 +44,18 @@ TEST_F(CalculatorTest, OperatorsComputeOrShowAMessage) {
     const char *right, *shown;
     std::string message = {};
   } cases[] = {
+      {"8", 'L', "2", "3"},
       {"8", 'L', "0,5", "-3"},
+      {"2", '^', "10", "1024"},
+      {"2", '/', "3", "0,666666666666667"},
       {"0,1", '+', ",2", "0,3"},
+      {"5", '-', "7", "-2"},
+      {"99999999", '*', "99999999", "9,9999998E+15"},
       {"7", '/', "0", "0", kNoDivision},
       {"7", '/', ",", ",", kNoDivision},  // a comma alone is 0
       {"5", 'L', "0", "0", kNoResult},
       {"-2", '^', "0,5", "0,5", kNoResult},
+      {"10", '^', "999", "999", kNoResult},
       {"1", '+', "2.718282", "2.718282", kNoResult},  // no number, because it has a decimal point
       {"2.718282", '+', "1", "1", kNoResult},
   };
@@ -74,10 +80,15 @@ TEST_F(CalculatorTest, FunctionsComputeOrShowAMessage) {
     std::string message = {};
     const char* operation = "+";
   } cases[] = {
+      {"square", "3", &Calculator::Square, "9"},
       {"square", "2.718282", &Calculator::Square, "2.718282", kNoResult, ""},
+      {"half floor", "2,3", &Calculator::HalfFloor, "2"},
       {"half floor", "2,5", &Calculator::HalfFloor, "2,5"},
       {"half floor", "-2,3", &Calculator::HalfFloor, "-2,5"},
+      {"sine", "90", &Calculator::Sine, "1"},
+      {"cotangent", "45", &Calculator::Cotangent, "1"},
       {"cotangent", "0", &Calculator::Cotangent, "0", kNoResult, ""},
+      {"root", "9", &Calculator::SquareRoot, "3"},
       {"root", "-2", &Calculator::SquareRoot, "-2", kNoRoot},
       {"root", "2.718282", &Calculator::SquareRoot, "2.718282", kNoRoot},
   };
@@ -103,10 +114,27 @@ TEST(Calculator, RandomIsBelowOneAndHasSevenDigits) {
   EXPECT_EQ(platform.reseeds, 4);
 }
 
+TEST(Roman, IsAdditive) {
+  const auto always = [] { return true; };
+  EXPECT_EQ(ToRoman(-5, always), "0");
+  EXPECT_EQ(ToRoman(0, always), "0");
+  EXPECT_EQ(ToRoman(1999, always), "MDCCCCLXXXXVIIII");
+  EXPECT_EQ(ToRoman(3000, always), "MMM");
+}
+
 TEST(ReadNumber, ReadsPrefixedNumbersAsTwosComplement) {
   const std::pair<const char*, std::optional<double>> cases[] = {
+      {"-12ab", -12},
+      {"", 0},
+      {"&H", 0},
       {"&H8000", -32768},
+      {"&H7FFF", 32767},
+      {"&H10000", 65536},
       {"&H0FFFF", 65535},
+      {"&HFFFFFFFF", -1},
+      {"&H100000000", std::nullopt},
+      {"&O377", 255},
+      {"&O177777", -1},
       {"&O200000", 65536},
   };
   for (const auto& [text, number] : cases) EXPECT_EQ(ReadNumber(text), number) << text;
@@ -129,6 +157,7 @@ TEST(Converter, FillsTheOtherFields) {
   } cases[] = {
       // The field and the typed digits; then the decimal, hexadecimal and octal field and the Roman number.
       {kDecimal, "007", "7", "7", "7", 7},
+      {kDecimal, "999999999", "999999999", "3B9AC9FF", "7346544777", 999999999},
       {kDecimal, "1234567890", "123456789", "75BCD15", "726746425", 123456789},  // a tenth digit is dropped
       {kHexadecimal, "FFFF", "-1", "FFFF", "37777777777", -1},
       // The decimal field keeps nine characters of a longer number. The Roman number is the number of this field.
@@ -136,6 +165,7 @@ TEST(Converter, FillsTheOtherFields) {
       {kHexadecimal, "80000000", "-21474836", "80000000", "20000000000", -21474836},
       {kHexadecimal, "FFFFFFFFFF", "0", "FFFFFFFFF", "0", std::nullopt},  // too large
       {kOctal, "177777", "-1", "FFFFFFFF", "177777", -1},
+      {kOctal, "17777777777", "214748364", "7FFFFFFF", "17777777777", 214748364},
       {kOctal, "777777777777", "0", "0", "77777777777", std::nullopt},  // too large
   };
   for (const auto& c : cases) {

@@ -4,9 +4,12 @@
 #include "html/attributes.h"
 #include "html/blocks.h"
 #include "html/frames.h"
+#include "html/image.h"
 #include "html/link.h"
 #include "html/lists.h"
+#include "html/page.h"
 #include "html/samples/templaty.h"
+#include "html/table_builder.h"
 #include "html/table_tags.h"
 #include "text/codepage.h"
 
@@ -47,7 +50,11 @@ TEST(HtmlOutput, IsExactForBlocksAndFragments) {
   });
 }
 
-TEST(HtmlOutput, IsExactForPathsAndLinks) {
+TEST(HtmlOutput, IsExactForPathsLinksImagesAndFrames) {
+  // Path, whether it is relative, ALT, ALIGN, WIDTH and HEIGHT, VSPACE and HSPACE, BORDER, LOWSRC, USEMAP.
+  const ImageSpec image{
+      "b",  true,      "a \"b\" <", ImageAlign::kLeft, ImageSpec::Size{" 10%", " 20"}, ImageSpec::Space{" 3", " 4"},
+      " 5", "low.jpg", "#mapa"};
   ExpectWritten({
       {FileAddress("C:\\a\\b c.gif", false), "file:///C:/a/b c.gif"},
       {FileAddress("a\\b.gif", true), "a/b.gif"},
@@ -63,26 +70,53 @@ TEST(HtmlOutput, IsExactForPathsAndLinks) {
        R"(<A HREF="x.htm#a" TARGET="_top">Odkaz na x.htm#a</A>)"},
       {Apply(kWrap, LinkToDocument({"x.htm", "", ""}), "x"), R"(<A HREF="x.htm" TARGET="">x</A>)"},
       {Apply(kWrap, LinkToDocument({"", "a", {}}), "x"), R"(<A HREF="#a">x</A>)"},
+      {ImageTag(image), R"(<IMG SRC="b" ALT="a "b" <" ALIGN="left" WIDTH="10%" HEIGHT="20" VSPACE="3" HSPACE="4")"
+                        R"( BORDER="5" LOWSRC="low.jpg" USEMAP="#mapa">)"},
+      // required: SCROLLING appears twice, the second time exactly as typed
+      {FrameTag({.path = "a", .relative = true, .scrolling = "  no", .margins = FrameSpec::Margins{" 0", " 3"}}),
+       R"(<FRAME SRC="a" SCROLLING="no" MARGINHEIGHT="0" MARGINWIDTH="3" SCROLLING="  no">)"},
   });
 }
 
-TEST(HtmlOutput, IsExactForRowsAndCells) {
+TEST(HtmlOutput, IsExactForTables) {
+  TableGrid grid;
+  grid.cell_text[2][1] = "x";
+  grid.cell_attrs[1][2] = " NOWRAP";
+  grid.row_attrs[2] = "typed";  // nothing puts a blank before typed attributes
+  const CellAlignment by_character{CellAlign::kCharacter, ",", CellVAlign::kBottom};
   ExpectWritten({
+      {BuildTable({.columns = 2, .rows = 2}, grid),
+       "<TABLE>\r\n<TR><TD></TD><TD>x</TD></TR>\r\n<TRtyped><TD NOWRAP></TD><TD></TD></TR>\r\n</TABLE>"},
       {TagAttributes(RowTag({})), ""},  // the table builder stores the attributes without the tag
+      {TagAttributes(RowTag({.alignment = by_character})), R"( ALIGN="CHAR" CHAR="," VALIGN="BOTTOM")"},
       {RowTag({.alignment = {CellAlign::kCharacter, "", {}}}), R"(<TR ALIGN="CHAR">)"},
       {RowTag({.alignment = {CellAlign::kRight, ",", {}}}), R"(<TR ALIGN="RIGHT">)"},
       {Apply(WrapInCell, CellSpec{}, ""), "<TD>Buňka</TD>"},
+      {Apply(InsertRow, RowSpec{.cells = 2}, "x"), "<TR><TD>Buňka1</TD><TD>Buňka2</TD></TR>\r\nx"},
   });
 }
 
-TEST(HtmlOutput, IsExactForAFramesetAroundTheDocument) {
+TEST(HtmlOutput, IsExactForPagesAndFramesetsAroundTheDocument) {
+  PageSpec spec;
+  spec.author = "Jan Novák"_w;
+  spec.created = "11-24-2026 09:05:00";
+  spec.title = "ž"_w;
+  spec.background = "a.gif";  // required: a bare file name gets "file:///" too
+  spec.base_font = 7;
+  const std::string code_page =
+      "  <META HTTP-EQUIV=\"Content-Type\" CONTENT=\"text/html; charset=windows-1250\">\r\n"
+      "  <META NAME=\"GENERATOR\" CONTENT=\"Orvilanths PELmar VEX v8.9.2.1b CZ\">\r\n";
+  const std::string page =
+      "<!DOCTYPE HTML PUBLIC \"-//W3C//DTD HTML 4.0 Final//EN\">\r\n <HEAD>\r\n" + code_page +
+      "  <META NAME=\"AUTHOR\" CONTENT=\"Jan Novák\">\r\n  <META NAME=\"CREATED\" CONTENT=\"11-24-2026 09:05:00\">\r\n"
+      "  <TITLE>ž</TITLE>\r\n </HEAD>\r\n <BODY";
+  const std::string frameset = "<!DOCTYPE HTML PUBLIC \"-//IETF/DTD HTML v.m//EN\">\r\n<HTML>\r\n <HEAD>\r\n" +
+                               code_page + "  <TITLE>t</TITLE>\r\n </HEAD>\r\n <FRAMESET";
   ExpectWritten({
+      {Apply(WrapInPage, spec, ""),
+       page + " BACKGROUND=\"file:///a.gif\">\r\n<BASEFONT SIZE=\"7\">\r\n---TEXT---\r\n\r\n </BODY>\r\n</HTML>"},
       {Apply(WrapInFrameset, FramesetSpec{"1,*", "2,*", "t"}, "x\r\ny"),  // required: ROWS for the columns too
-       "<!DOCTYPE HTML PUBLIC \"-//IETF/DTD HTML v.m//EN\">\r\n<HTML>\r\n <HEAD>\r\n"
-       "  <META HTTP-EQUIV=\"Content-Type\" CONTENT=\"text/html; charset=windows-1250\">\r\n"
-       "  <META NAME=\"GENERATOR\" CONTENT=\"Orvilanths PELmar VEX v8.9.2.1b CZ\">\r\n"
-       "  <TITLE>t</TITLE>\r\n </HEAD>\r\n <FRAMESET ROWS=\"1,*\" ROWS=\"2,*\">\r\n </FRAMESET>\r\n"
-       " <NOFRAMES>\r\nx\r\ny\r\n </NOFRAMES>\r\n</HTML>"},
+       frameset + " ROWS=\"1,*\" ROWS=\"2,*\">\r\n </FRAMESET>\r\n <NOFRAMES>\r\nx\r\ny\r\n </NOFRAMES>\r\n</HTML>"},
   });
 }
 

@@ -35,15 +35,6 @@ TEST_F(ProgramTest, MorseCollectsSigns) {
   }
 }
 
-TEST_F(ProgramTest, EscapeClosesTheWindowsOfToolsAndCiphers) {
-  for (const char* command : {"mnumorse", "mnuklavesnice", "mnuASCII", "mnu_analysis", "mnucode", "mnu_encrypt_shift",
-                              "Mnu_Encrypt_Confeld", "mnu_rnd_encrypt", "Mnu_Hack_cry"}) {
-    QWidget& window = Open(command);
-    QTest::keyClick(&window, Qt::Key_Escape);
-    EXPECT_FALSE(window.isVisible()) << command;
-  }
-}
-
 struct KeyboardTest : ProgramTest {
   Klavesnice& keyboard = Open<Klavesnice>();
 

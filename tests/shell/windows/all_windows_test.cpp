@@ -1,10 +1,8 @@
-// Checks of every window: names for screen readers, whole captions, controls that Tab reaches, Enter in a field, and
-// the size on a small screen.
+// Checks of every window: its command, its cancel button, names for screen readers, whole captions, controls that Tab
+// reaches, and the size on a small screen.
 #include <gtest/gtest.h>
 
 #include <QAccessible>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
 
@@ -63,26 +61,6 @@ void ExpectNameAndTab(QWidget* control) {
       << DescriptionOf(control) << " can't be reached by keyboard";
 }
 
-// Enter presses the default button from at most one field, the last one, unless `defaultFromFields` is set.
-void ExpectEnterMovesOn(QWidget& window) {
-  const QList<QPushButton*> buttons = window.findChildren<QPushButton*>();
-  const auto found = std::ranges::find_if(buttons, &QPushButton::isDefault);
-  if (found == buttons.end() || window.property("defaultFromFields").toBool()) return;
-  int pressed = 0;
-  QPushButton trap(&window);  // replaces the default button, so that nothing is written into the text
-  trap.setDefault(true);
-  trap.show();
-  QObject::connect(&trap, &QPushButton::clicked, [&] { ++pressed; });
-  for (QWidget* field : Widgets(window)) {
-    const auto* line = qobject_cast<const QLineEdit*>(field);
-    if (!field->isEnabled() || !IsA(field, {"QLineEdit", "QComboBox"}) || (line && line->isReadOnly())) continue;
-    field->setFocus();
-    QTest::keyClick(field, Qt::Key_Return);
-  }
-  EXPECT_LE(pressed, 1) << DescriptionOf(&window);
-  (*found)->setDefault(true);
-}
-
 TEST_F(ProgramTest, EachCommandShowsItsWindow) {
   const std::pair<const char*, const char*> cases[] = {
       {"mnuopen", "Otevři"},   {"mnusave", "Ulož"},
@@ -134,8 +112,6 @@ TEST_F(AllWindows, AreHiddenByTheirCancelButton) {
     EXPECT_FALSE(window.isVisible()) << DescriptionOf(&window) << ", " << cancel;
   });
 }
-
-TEST_F(AllWindows, StayOpenAtEnterInAField) { ForEach(ExpectEnterMovesOn); }
 
 }  // namespace
 }  // namespace pelmar
