@@ -181,9 +181,9 @@ TEST(SparePanelWidth, AlternatesOnceBothWidthsAreAboveZero) {
   EXPECT_EQ(SparePanelWidth(12420, widths), 6000);
   widths[3] = 6000;
   EXPECT_EQ(SparePanelWidth(12420, widths), std::nullopt);
-  EXPECT_EQ(SparePanelWidth(12520, widths), 100);
-  widths[3] = 100;
-  EXPECT_EQ(SparePanelWidth(12520, widths), 6000);
+  EXPECT_EQ(SparePanelWidth(12421, widths), 1);
+  widths[3] = 1;
+  EXPECT_EQ(SparePanelWidth(12421, widths), 6000);
 }
 
 std::string ShownLayout(const LayoutInput& in) {

@@ -1,6 +1,7 @@
 // The notes window: its pages, its file, the rescue of unsaved notes, its place.
 #include "accessories/windows/poznamka.h"
 #include "platform/qt/frames/outer_geometry.h"
+#include "shell/windows/o.h"
 #include "support/program_test.h"
 #include "support/temp_folder.h"
 
@@ -48,6 +49,11 @@ TEST_F(NotesWindowTest, StaysOnTopAndHasTheEditorsFont) {
   EXPECT_TRUE(notes->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
   EXPECT_EQ(Named(*notes, "Text1")->font().pointSize(), 14);
   EXPECT_TRUE(Named(*notes, "Text1")->font().bold());
+}
+
+TEST_F(NotesWindowTest, ADialogOpensAboveThem) {
+  OpenOver({});
+  EXPECT_TRUE(Open<O>().windowHandle()->flags().testFlag(Qt::WindowStaysOnTopHint));
 }
 
 TEST_F(NotesWindowTest, EachTabShowsItsPage) {

@@ -1,5 +1,4 @@
 // The windows that type into the document: Morse, the on-screen keyboard, the character table.
-#include <QInputMethodEvent>
 #include <QLineEdit>
 
 #include "accessories/windows/klavesnice.h"
@@ -73,13 +72,6 @@ TEST_F(KeyboardTest, PhysicalKeysTypeTheirCharacters) {
   QTest::keyClicks(&keyboard, QStringLiteral(" 1\r\b"));
   Work(keyboard, "Command3:'a '");     // the key loses the focus
   EXPECT_EQ(text.Text(), " 1\r\bA ");  // required: Enter and Backspace type the characters 13 and 8
-}
-
-TEST_F(KeyboardTest, ComposedLettersAreTypedToo) {
-  QInputMethodEvent composed;
-  composed.setCommitString(QStringLiteral("ďň"));
-  QApplication::sendEvent(&keyboard, &composed);
-  EXPECT_EQ(ShownText(text.Text()), "ďň");
 }
 
 struct CharTableTest : ProgramTest {

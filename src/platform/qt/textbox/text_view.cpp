@@ -70,7 +70,7 @@ QRect TextView::CharRect(std::size_t pos) {
   const TextLayout& layout = Layout();
   const std::size_t row = layout.RowOf(pos);
   const int left = StopX(row, pos);
-  const int right = pos < layout.RowEnd(row) ? StopX(row, pos + 1) : left + 1;
+  const int right = pos < layout.RowEnd(row) ? StopX(row, pos + 1) : left;
   return {left, RowTop(row), std::max(right - left, 1), Glyphs().RowHeight()};
 }
 
