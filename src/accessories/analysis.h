@@ -32,7 +32,7 @@ struct Bar {
   bool operator==(const Bar&) const = default;
 };
 
-// The bars, at x = code * BarStep. The narrow graph has no codes above 128, and `ignore_blank` leaves out the blank.
+// The bars, at x = code * BarStep. The narrow graph has no codes above 128, and `ignore_blank` counts no blanks.
 // Empty if the text has no codes other than 0 and ignored blanks.
 std::vector<Bar> GraphBars(const Analysis& analysis, bool wide, bool ignore_blank);
 constexpr int BarStep(bool wide) { return wide ? 2 : 4; }

@@ -32,7 +32,7 @@ class Saver {
   // Shows the system's save dialog, then calls SaveToPath.
   void SaveStandard();
 
-  // Asks, and after Yes calls SaveToPath with the current path.
+  // Asks, and after Yes saves to the current path as SaveToPath does.
   void SaveFast();
 
   // Shows the system's open dialog and replaces the selection by the file's first field. Changes nothing if the file is
@@ -46,7 +46,7 @@ class Saver {
   void SaveDocument(const std::string& path);
   bool MayWrite(const std::string& path);
   WriteOutcome WriteBytes(const std::string& path, std::string_view bytes);
-  // Writes the file, then calls `written`. Reports a failure of either.
+  // Writes the file, calls `written` and adds the file to the recent ones. Reports a failure of these steps.
   void Write(const std::string& path, std::string_view text, const std::function<void()>& written);
   void ReportError(const std::string& path, const WriteOutcome& outcome);
 

@@ -36,7 +36,7 @@ bool LooksLikeUtf8(std::string_view bytes) {
 
 bool MixesEncodings(std::string_view bytes) {
   bool characters = false, others = false;
-  for (std::size_t at = 0; at < bytes.size();) {
+  for (std::size_t at = 0; at < bytes.size() && !(characters && others);) {
     const char32_t character = DecodeUtf8(bytes, at);
     (character == kMalformedUtf8 ? others : characters) |= character >= 0x80;
   }

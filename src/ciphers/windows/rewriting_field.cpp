@@ -11,7 +11,8 @@ void RewriteOnChange(QLineEdit* field, std::function<std::string(std::string_vie
     const QString shown = TextToQString(rewrite(TextFromQString(typed)));
     if (shown == typed) return;
     const auto removed = static_cast<int>(typed.size() - shown.size());
-    const int caret = field->cursorPosition() - (typed.endsWith(shown) ? removed : 0);
+    const bool is_end = typed.endsWith(shown) && !typed.startsWith(shown);
+    const int caret = field->cursorPosition() - (is_end ? removed : 0);
     field->setText(shown);  // moves the caret to the end
     if (shown != QLatin1String("0")) field->setCursorPosition(caret);
   });

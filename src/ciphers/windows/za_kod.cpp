@@ -27,6 +27,7 @@ void ZaKod::Command1_Click() {
   const double key = LeadingNumber(FieldText(*ui_->Text1));
   const auto length = static_cast<int>(editor_.text.Size());
   ui_->ProgressBar1->setMaximum(std::max(1, length));  // a maximum of 0 would show a busy bar
+  ui_->ProgressBar1->setValue(0);
   // The result belongs only to the document that was read. So the run stops if another tab is selected, the path of the
   // document changes or the whole text is replaced.
   const Documents& documents = editor_.documents;

@@ -49,7 +49,7 @@ void Uloz::TakeTarget() {
   const QString folder = PathToQString(target.Folder());
   ui_->Drive1->SetDrive(folder);
   ui_->Dir1->SetPath(folder);
-  if (!target.Complete()) return;
+  if (!target.Complete()) return FieldChanged();
   ShowName(target);
   ShowPath(*ui_->Label1, target.Path());
 }

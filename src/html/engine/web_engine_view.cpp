@@ -51,7 +51,9 @@ WebEngineView::WebEngineView(QWidget* parent) : view_(std::make_unique<QWebEngin
   });
   // A command that loads nothing may still change the address and the history.
   connect(&expecting_load_, &QTimer::timeout, this, [this] {
-    if (!Busy() && !after_end_ && !page_->Asking()) Finished();
+    if (Busy() || after_end_) return;
+    if (page_->Asking()) return expecting_load_.start();  // the answer may end the command
+    Finished();
   });
   for (const PageSide side : {PageSide::kDisk, PageSide::kDiskWithNet, PageSide::kNet}) {
     const bool allows_net = side != PageSide::kDisk;

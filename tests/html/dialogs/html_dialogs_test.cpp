@@ -475,6 +475,7 @@ TEST_F(HtmlDialogTest, AttributesAreChosenFromAListOrTyped) {
               "Atribut=ID Hodnota= Hodnota:l Command1! Atribut=REL Command1! Atributs=1 Atribut=X Command1!",
               "Atributs=ID|X|>REL Values=l|l|>l");
   ExpectState(attributes, "Command2!", "Atributs=ID|X Values=l|l");
+  ExpectState(attributes, "Command2!", "Atributs=ID Command2=O&deber");
 }
 
 TEST_F(HtmlDialogTest, AttributesGoIntoTheTagAtTheCaretOrTheDialogStaysOpen) {

@@ -127,7 +127,8 @@ DialogWindow::DialogWindow(QWidget* parent) : QDialog(parent) {
 void DialogWindow::Present() {
   const bool was_visible = isVisible();
   BringToFront(*this);
-  if (was_visible) BeginInFirstField();
+  // While the first field of a visible dialog is disabled, the focus stays where the dialog has put it.
+  if (was_visible && first_field_ && first_field_->isEnabled()) BeginInFirstField();
 }
 
 int DialogWindow::exec() {
@@ -209,7 +210,7 @@ void DialogWindow::showEvent(QShowEvent* event) {
 }
 
 void DialogWindow::BeginInFirstField() {
-  if (!first_field_ || !first_field_->isEnabled()) return;
+  if (!first_field_) return;
   QWidget* field = first_field_;
   // An option that isn't checked any more is passed over. The Tab key reaches only the checked one of its group.
   while (!field->isEnabled() || (field->focusPolicy() & Qt::TabFocus) == 0) {

@@ -30,7 +30,7 @@ FolderBrowser FolderBrowserOf(const QWidget& dialog) {
 void LinkFileBrowser(DriveList* place, FolderList* folders, FileList* files, QComboBox* mask) {
   const auto list_highlighted = [folders, files] { files->SetPath(folders->HighlightedPath()); };
   QObject::connect(folders, &FolderList::Entered, files, list_highlighted);
-  QObject::connect(folders, &FolderList::KeyReleased, files, list_highlighted);
+  QObject::connect(folders, &FolderList::Highlighted, files, list_highlighted);
   LinkFolderBrowser(place, folders);
   files->setFocus();
   files->SetPath(folders->Path());

@@ -23,7 +23,7 @@ class FileList : public QListView {
   // The absolute path, without "/" at the end unless the path is "/".
   [[nodiscard]] const QString& Path() const { return path_; }
   // A path that isn't a readable folder changes nothing. A new path clears the selection. The present path is read
-  // again if the list has read the path before.
+  // again if the list is visible; a hidden list is read when it is shown.
   void SetPath(const QString& path);
 
   [[nodiscard]] const QString& Pattern() const { return pattern_; }

@@ -155,16 +155,16 @@ void FolderList::EnterHighlighted() {
 
 void FolderList::keyReleaseEvent(QKeyEvent* event) {
   QListView::keyReleaseEvent(event);
-  if (!event->isAutoRepeat()) Q_EMIT KeyReleased();
+  if (!event->isAutoRepeat()) Q_EMIT Highlighted();
 }
 
 void FolderList::showEvent(QShowEvent* event) {
   QListView::showEvent(event);
   if (event->spontaneous()) return;
   read_ = true;
-  const QString there = Climb(path_);
-  if (there != path_ || !IsReadableFolder(HighlightedPath())) return SetPath(there);
+  if (const QString there = Climb(path_); there != path_) return SetPath(there);
   Fill(HighlightedPath());
+  Q_EMIT Highlighted();
 }
 
 }  // namespace pelmar

@@ -29,8 +29,8 @@ class FolderList : public QListView {
   void PathChanged(const QString& path);
   // A folder was entered, perhaps the same folder again. The row of this folder is highlighted.
   void Entered();
-  // A key was released. Repeats of a held key don't count.
-  void KeyReleased();
+  // Another folder may be highlighted: a key was released, or the list was shown. Repeats of a held key don't count.
+  void Highlighted();
 
  protected:
   // Ctrl with a click keeps the folder highlighted.

@@ -27,7 +27,7 @@ void TextMouse::Press(QMouseEvent* event) {
   QScrollBar* bar = box_.verticalScrollBar();
   const int scrolled = bar->value();
   QGuiApplication::inputMethod()->commit();
-  bar->setValue(scrolled);  // the committed text may have scrolled, but the person clicks on what was visible
+  bar->setValue(scrolled);  // the commit may have scrolled, but the person clicked on what was visible before
   const QPoint at = event->position().toPoint();
   if (event->button() == Qt::LeftButton) return PressLeft(event);
   // The right button keeps the selection, since the pop-up menu works on the selection.
