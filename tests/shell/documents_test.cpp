@@ -33,6 +33,11 @@ struct DocumentsTest : testing::Test, RunOfDocuments {
   }
 };
 
+TEST_F(DocumentsTest, AChangeMarksOnlyTheTitle) {
+  Type("a");
+  EXPECT_EQ(StateOf(documents), (DocumentState{.title = "()*", .unsaved = 1}));
+}
+
 TEST_F(DocumentsTest, ASwitchKeepsTextPathAndMarkOfTheLeftTab) {
   documents.MakeCurrent("/a/one.txt", "one");
   Type("!");
