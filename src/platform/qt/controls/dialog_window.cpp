@@ -212,7 +212,7 @@ void DialogWindow::showEvent(QShowEvent* event) {
 void DialogWindow::BeginInFirstField() {
   if (!first_field_) return;
   QWidget* field = first_field_;
-  // An option that isn't checked any more is passed over. The Tab key reaches only the checked one of its group.
+  // Passes over a disabled field and over an option that isn't checked any more. The Tab key doesn't reach either.
   while (!field->isEnabled() || (field->focusPolicy() & Qt::TabFocus) == 0) {
     field = field->nextInFocusChain();
     if (field == first_field_) return;

@@ -163,8 +163,9 @@ void FolderList::showEvent(QShowEvent* event) {
   if (event->spontaneous()) return;
   read_ = true;
   if (const QString there = Climb(path_); there != path_) return SetPath(there);
-  Fill(HighlightedPath());
-  Q_EMIT Highlighted();
+  const QString highlighted = HighlightedPath();
+  Fill(highlighted);
+  if (HighlightedPath() != highlighted) Q_EMIT Highlighted();  // the folder was removed
 }
 
 }  // namespace pelmar
