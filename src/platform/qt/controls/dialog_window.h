@@ -1,7 +1,7 @@
 // The base of the program's own dialogs. A dialog is modeless unless exec runs it. Closing hides a dialog, so its
-// fields usually keep their contents. Each opening puts the focus on the same control, or on the next one that the
-// Tab key reaches, and selects its text. The first opening is in the centre of the screen.
-// On a small screen the contents scroll (see ScrollContents).
+// fields usually keep their contents. Each opening puts the focus on the same control, or on the next one that the Tab
+// key reaches, and selects its text. The first opening is in the centre of the screen. On a small screen the contents
+// scroll (see ScrollContents).
 #pragma once
 
 #include <QDialog>

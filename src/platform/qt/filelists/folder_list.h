@@ -29,7 +29,8 @@ class FolderList : public QListView {
   void PathChanged(const QString& path);
   // A folder was entered, perhaps the same folder again. The row of this folder is highlighted.
   void Entered();
-  // Another folder may be highlighted: a key was released, or the list was shown. Repeats of a held key don't count.
+  // Another folder may be highlighted: a key was released, except while it repeats, or the list was shown again and the
+  // highlighted folder was gone.
   void Highlighted();
 
  protected:
