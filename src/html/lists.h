@@ -15,7 +15,7 @@ enum class ListKind { kBullets, kNumbers };
 
 struct ListSpec {
   ListKind kind = ListKind::kBullets;
-  std::optional<std::size_t> type;  // from 0, in the order of the dialog's options; no TYPE if too large
+  std::optional<std::size_t> type;  // from 0, in the order of the dialog's options
   bool compact = false;
   std::optional<std::string> heading;
   std::vector<std::string> items;
@@ -25,7 +25,7 @@ std::string BuildList(const ListSpec& spec);
 // Writes a DT and a DD for each item of the longer list. Missing items of the shorter list are empty.
 std::string BuildDefinitionList(const std::vector<std::string>& terms, const std::vector<std::string>& definitions);
 
-// A list with each line of the text as an item. required: the last character of the text is lost.
+// A list with each line of the text, which must not be empty, as an item. required: the last character is lost.
 std::string ListOfLines(std::string_view text, ListKind kind);
 
 // Adds the two commands that turn the selected lines into a list.

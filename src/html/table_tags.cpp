@@ -41,10 +41,7 @@ std::string CellTag(const CellSpec& spec) {
   return tag += '>';
 }
 
-std::string TagAttributes(std::string_view tag) {
-  if (tag.size() <= kBareTag) return {};
-  return std::string(tag.substr(kNameInTag, tag.size() - kBareTag));
-}
+std::string TagAttributes(std::string_view tag) { return std::string(tag.substr(kNameInTag, tag.size() - kBareTag)); }
 
 void InsertRow(TextBuffer& buffer, const RowSpec& spec) {
   std::string row = RowTag(spec);

@@ -15,11 +15,8 @@ void CaretMover::Go(TextBuffer& buffer, CaretMove move, bool select, std::size_t
   const bool aims =
       move == CaretMove::kUp || move == CaretMove::kDown || move == CaretMove::kPageUp || move == CaretMove::kPageDown;
   const TextPlace place = Target(buffer, move, select, page_rows);
-  const std::int64_t aim = aim_x_;
   Put(buffer, place, select);
-  if (!aims) return;
-  aim_x_ = aim;
-  aim_valid_at_ = place.pos;
+  if (aims) aim_valid_at_ = place.pos;
 }
 
 void CaretMover::Put(TextBuffer& buffer, TextPlace place, bool select) {

@@ -70,14 +70,8 @@ void AddAppearanceCommands(Editor& editor, MainView& view) {
 }
 
 SizeField NormalizeSize(std::string_view typed) {
-  if (typed.empty() || typed == "0") typed = "1";
-  SizeField field;
-  field.size = static_cast<int>(std::clamp(LeadingNumber(typed), 0.0, kMostPoints));
-  field.text = std::to_string(field.size);
-  if (field.text == "0") field.text = "1";
-  if (field.text.size() >= 3) field.text.resize(2);
-  if (field.size < 1) field.size = 1;  // no font has size 0
-  return field;
+  const int size = static_cast<int>(std::clamp(LeadingNumber(typed), 1.0, kMostPoints));  // no font has size 0
+  return {std::to_string(size).substr(0, 2), size};
 }
 
 }  // namespace pelmar

@@ -7,7 +7,6 @@
 namespace pelmar {
 
 SelectedRows RowsOfSelection(std::string_view selected) {
-  if (selected.empty()) return {};
   SelectedRows result{{}, selected.size()};
   std::size_t length = 0;  // the number of read characters of the present line
   const auto add = [&](std::size_t start, std::size_t count) {

@@ -30,7 +30,6 @@ void AppendNumber(std::string& out, int number) {
 std::string SortLines(std::string_view text, const SortedOrder& order) {
   const std::vector<std::string_view> lines = LinesWithEnds(text);
   std::string sorted;
-  sorted.reserve(text.size());
   for (const std::size_t index : order(lines)) sorted += lines[index];
   return sorted;
 }
@@ -39,7 +38,7 @@ std::string NumberLines(std::string_view text) {
   std::string out;
   int number = 1;
   AppendNumber(out, number);
-  for (const char ch : text.substr(0, text.size() - (text.empty() ? 0 : 1))) {
+  for (const char ch : text.substr(0, text.size() - 1)) {
     out += ch;
     if (ch == '\n') AppendNumber(out, ++number);
   }

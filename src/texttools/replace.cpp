@@ -82,7 +82,6 @@ void Replacer::New() {
 }
 
 void Replacer::PickRow(std::size_t row) {
-  if (row >= terms.size()) return;
   find = terms[row];
   change = changes[row];
 }

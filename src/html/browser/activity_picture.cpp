@@ -10,7 +10,6 @@ namespace pelmar {
 ActivityPicture::ActivityPicture(QWidget* parent) : QWidget(parent) {
   for (int number = 1; number <= kFrames; ++number)
     frames_[IndexFromOne(number)] = SvgIcon(QStringLiteral(":/icons/activity%1.svg").arg(number));
-  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
 void ActivityPicture::Step() {

@@ -48,8 +48,6 @@ FrmBrowser::FrmBrowser(WebViewMaker& maker, Platform& platform, std::function<vo
       end_program_(std::move(end_program)),
       ui_(std::make_unique<Ui::frmBrowser>()) {
   ui_->setupUi(this);
-  ui_->netLine->hide();
-  ui_->Picture1->setEnabled(false);
   ShowProgramIcon();
   status_ = AddPanel(*ui_->StatusBar1, "Panel1", QStringLiteral("Stav"), 0);
   status_->setText(QStringLiteral("Busy"));

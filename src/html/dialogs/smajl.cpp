@@ -9,8 +9,8 @@ namespace pelmar {
 
 Smajl::Smajl(TextBuffer& buffer, QWidget* parent) : FragmentDialog(buffer, parent) {
   // The form can't store an item that consists of blanks, so an empty item of the form becomes a blank here.
-  for (QComboBox* part : {ui_->Combo1, ui_->Combo2, ui_->Combo3, ui_->Combo4, ui_->Combo5})
-    if (const int blank = part->findText(QString()); blank >= 0) part->setItemText(blank, QStringLiteral(" "));
+  for (QComboBox* part : {ui_->Combo1, ui_->Combo3, ui_->Combo5})
+    part->setItemText(part->findText(QString()), QStringLiteral(" "));
   connect(ui_->Command3, &QPushButton::clicked, this, [this] {
     ui_->Text1->setText(TextToQString(Smiley({FieldText(*ui_->Combo1), FieldText(*ui_->Combo2), FieldText(*ui_->Combo3),
                                               FieldText(*ui_->Combo4), FieldText(*ui_->Combo5)})));

@@ -75,7 +75,6 @@ PageSpec Vytvor::Read() const {
 // required: the main text box gets the colour of a swatch, even where the hex label beside the swatch shows another
 // colour. The two may differ until the person picks a colour
 void Vytvor::ColorEditor() {
-  if (!ui_->Check1->isChecked() && !ui_->Check2->isChecked()) return;
   const EditorLook look = view_.Look();
   view_.SetEditorColors(ui_->Check2->isChecked() ? ColorFromQt(ui_->Picture1->Color()) : look.fore_color,
                         ui_->Check1->isChecked() ? ColorFromQt(ui_->Label1->Color()) : look.back_color);

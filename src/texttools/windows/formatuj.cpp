@@ -24,10 +24,7 @@ Formatuj::Formatuj(TextBuffer& buffer, Platform& platform, QWidget* parent)
 }
 
 void Formatuj::Load(Platform& platform) {
-  if (!buffer_.HasSelection()) {
-    platform.Message(MessageType::kOk, "Vyber text", "Fomátování");
-    return;
-  }
+  if (!buffer_.HasSelection()) platform.Message(MessageType::kOk, "Vyber text", "Fomátování");
   SelectedRows selected = RowsOfSelection(buffer_.SelText());
   rows_ = std::move(selected.rows);
   ShowRows(*ui_->List1, rows_);

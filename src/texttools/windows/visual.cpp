@@ -1,7 +1,5 @@
 #include "texttools/windows/visual.h"
 
-#include <QShowEvent>
-
 #include "platform/qt/controls/field_helpers.h"
 #include "platform/qt/convert.h"
 #include "texttools/appearance.h"
@@ -22,6 +20,7 @@ Visual::Visual(MainView& view, SettingsRecord& settings, Callbacks callbacks, QW
   connect(ui_->Command3, &QPushButton::clicked, this, &Visual::Command3_Click);
   connect(ui_->Command4, &QPushButton::clicked, this, [this] { ApplyDosLook(view_); });
   connect(ui_->Command7, &QPushButton::clicked, this, [this] { callbacks_.show_pos(); });
+  Load();
 }
 
 std::array<std::pair<QRadioButton*, std::string_view>, 3> Visual::Fonts() const {
@@ -46,11 +45,6 @@ void Visual::ConnectPreview() {
   connect(ui_->Command9, &QPushButton::clicked, this, [this] {
     ui_->Label1->setBackgroundColor(ColorToQt(callbacks_.pick_color(ColorFromQt(ui_->Label1->BackgroundColor()))));
   });
-}
-
-void Visual::showEvent(QShowEvent* event) {
-  if (!event->spontaneous()) Load();
-  DialogWindow::showEvent(event);
 }
 
 void Visual::Load() {

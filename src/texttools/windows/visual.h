@@ -1,4 +1,5 @@
-// `Visual`: sets the look of the main text box, with a preview. Also sets the line counting and the snap distance.
+// `Visual`: sets the look of the main text box, with a preview. Also sets the line counting and the snap distance. The
+// constructor reads the present look and settings.
 #pragma once
 
 #include <array>
@@ -32,9 +33,6 @@ class Visual : public FormDialog<Ui::Visual> {
   void FollowFontSize();
   // Call when the status bar has switched the line counting.
   void FollowLineCounting();
-
- protected:
-  void showEvent(QShowEvent* event) override;
 
  private:
   [[nodiscard]] std::array<std::pair<QRadioButton*, std::string_view>, 3> Fonts() const;
