@@ -4,6 +4,7 @@
 
 #include <sstream>
 
+#include "html/attributes.h"
 #include "support/marked_text.h"
 #include "support/random_source.h"
 #include "support/scripted_platform.h"
@@ -36,12 +37,6 @@ std::string Rewritten(std::string text, std::string_view find, std::string_view 
   return text;
 }
 
-std::string Trimmed(std::string text) {
-  while (text.starts_with(' ')) text.erase(0, 1);
-  while (text.ends_with(' ')) text.pop_back();
-  return text;
-}
-
 // The same line from a second, slow implementation of AnalyseTag.
 std::string ShownSlowly(const std::string& text, std::size_t caret) {
   const std::size_t start = text.substr(0, caret + 1).rfind('<');
@@ -50,7 +45,7 @@ std::string ShownSlowly(const std::string& text, std::size_t caret) {
   const std::size_t blank = tag.find(' '), size = tag.size();
   if (size < 2) return "no range  !Přeformátování";
   std::string shown = std::to_string(start) + '+' + std::to_string(size) + ' ';
-  if (blank == kNone) return shown + Trimmed(tag.substr(1, size - 2));
+  if (blank == kNone) return shown.append(Trimmed(tag.substr(1, size - 2)));
   shown += Trimmed(tag.substr(1, blank - 1));
   if (size < blank + 2) return shown + " !Přeformátování";
   std::string rest = tag.substr(blank + 1, size - blank - 2) + ' ';

@@ -53,5 +53,12 @@ TEST_F(TestPage, IsReportedIfItCannotBeWritten) {
   EXPECT_FALSE(editor.file_number.IsOpen());
 }
 
+TEST_F(TestPage, IsReportedIfTheFileNumberIsInUse) {
+  editor.file_number.Open();
+  platform.answers = {Answer::kOk};
+  EXPECT_EQ(PageToShow(editor, PageEnd::kAsItIs), std::nullopt);
+  EXPECT_TRUE(platform.calls.back().ends_with(": soubor nebo zařízení se právě používá\" \"Interní browser\""));
+}
+
 }  // namespace
 }  // namespace pelmar

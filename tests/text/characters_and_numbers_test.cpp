@@ -36,9 +36,14 @@ TEST(CodePage, EachForeignCharacterOrMalformedByteBecomesAQuestionMark) {
   EXPECT_EQ(FromUtf16(u"a\U00010000\U0010FFFFb\xDC00\xDC00\xD800\xE000\xD800"), "a??b?????");
 }
 
-TEST(Utf8, MalformedSequencesAreRefused) {
-  for (const std::string_view good : {"kůň", "\u0800\uD7FF\uE000\uFFFF", "\U00010000\U0010FFFF", "\uFEFFa"})
+TEST(Utf8, CharactersAreReadAndWrittenButMalformedSequencesAreRefused) {
+  for (const std::string_view good :
+       {"kůň\xC2\x80\u07FF", "\u0800\uD7FF\uE000\uFFFF", "\U00010000\U0010FFFF", "\uFEFFa"}) {
     EXPECT_TRUE(IsUtf8(good) && LooksLikeUtf8(good)) << good;
+    std::string again;
+    for (std::size_t at = 0; at < good.size();) AppendUtf8(again, DecodeUtf8(good, at));
+    EXPECT_EQ(again, good);
+  }
   EXPECT_TRUE(IsUtf8("kun\x7F"));
   EXPECT_FALSE(LooksLikeUtf8("kun\x7F"));
   for (const std::string_view bad : {"k\xF9\xF2", "\xC1\xBF", "\xE0\x9F\xBF", "\xED\xA0\x80", "\xF0\x8F\xBF\xBF",

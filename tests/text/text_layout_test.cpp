@@ -185,8 +185,8 @@ TEST_F(CaretMoverTest, MovesByRowsAndPagesAndEndsASelection) {
       {"ab|c¶a¶abc¶", {kDown, kRowEnd, kDown}, "abc¶a¶a|bc¶"},  // even if the caret stays where it is
       {"a|¶b", {kUp}, "a|¶b"},
       {"a|¶b¶c¶d", {kPageDown}, "a¶b¶c|¶d"},
-      {"a|¶b¶c¶d", {kPageDown, kPageDown}, "a¶b¶c¶d|"},
-      {"a¶b|¶c¶d", {kPageUp}, "a|¶b¶c¶d"},
+      {"ab|c¶d¶e¶abc", {kPageDown, kPageDown}, "abc¶d¶e¶ab|c"},
+      {"abc¶d¶e¶ab|c", {kPageUp, kPageUp}, "ab|c¶d¶e¶abc"},
       {"ab|c[", {kRight}, "abc|"},  // an arrow ends the selection at its border
       {"a|b[", {kLeft}, "a|b"},
       {"a|b[c", {kLeft}, "|ab[c", true},
@@ -204,9 +204,10 @@ TEST_F(CaretMoverTest, TheCaretAtTheEndOfAWrappedRowStaysInThatRow) {
   Put("|abcd");
   EXPECT_EQ(Moved({kRowEnd, kRowEnd}), "abc|d");
   EXPECT_EQ(mover.Row(buffer), 0u);
-  EXPECT_EQ(Moved({kRowStart}), "|abcd");
-  EXPECT_EQ(Moved({kRowEnd}), "abc|d");
   mover.Forget();  // the text has changed
+  EXPECT_EQ(mover.Row(buffer), 1u);
+  EXPECT_EQ(Moved({kUp, kRowEnd, kRowStart}), "|abcd");
+  EXPECT_EQ(Moved({kDown}), "abc|d");
   EXPECT_EQ(mover.Row(buffer), 1u);
 }
 

@@ -38,7 +38,7 @@ TEST_F(AppearanceTest, EachCommandChangesItsPartOfTheLook) {
   EXPECT_EQ(LookAfter("mnuinvert"), "Font 17 italic #FEFDFC #000000");
   EXPECT_EQ(LookAfter("Dos"), "Courier New 8 #C2C2C2 #000000, normal, no bold mark, no italic mark");
   EXPECT_EQ(view.place, (TwipsRect{0, 0, 9210, 6675}));
-  LookAfter("mnuEditBold");
+  for (const char* command : {"mnuEditBold", "mnuitalic", "mnu17"}) LookAfter(command);
   EXPECT_EQ(LookAfter("mnubasic"), "MS Sans Serif 8 #000000 #FFFFFF, no italic mark");  // required: the bold mark stays
 }
 

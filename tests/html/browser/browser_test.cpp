@@ -115,19 +115,12 @@ TEST_F(BrowserTest, EnterLoadsTheTypedAddress) {
   EXPECT_EQ(List(), "http://www.priklad.cz");
 }
 
-TEST_F(BrowserTest, AFinishedPageLeavesAHalfTypedAddressAndItsCaret) {
-  Work(window, "cboAddress:ac");
-  address.lineEdit()->setCursorPosition(1);
-  view->Finish();
-  Work(window, "cboAddress:b");
-  ExpectState(window, "", "cboAddress=abc");
-}
-
-TEST_F(BrowserTest, AHalfTypedAddressIsNotCompletedAndStaysWhenPagesAreFinished) {
+TEST_F(BrowserTest, AHalfTypedAddressIsNotCompletedAndStaysWithItsCaretWhenPagesAreFinished) {
   window.ShowInBrowser("/a.html");
-  Work(window, "cboAddress= cboAddress:f");
+  Work(window, "cboAddress= cboAddress:fi");
+  address.lineEdit()->setCursorPosition(1);
   for (int page = 0; page < 2; ++page) view->Finish();
-  ExpectState(window, "", "cboAddress=f");
+  ExpectState(window, "cboAddress:x", "cboAddress=fxi");
 }
 
 TEST_F(BrowserTest, AnAddressOfTheEngineItselfIsRefused) {

@@ -45,8 +45,9 @@ TEST_F(HledaniTest, TheDialogMovesOffTheMatch) {
 }
 
 TEST_F(HledaniTest, AChosenRowOfTheHistoryBecomesTheTerm) {
-  ExpectState(OpenFor("|jedna dvě"), "Find=jedna Command1! Command4! Find=dvě Command1! Command4! Find=x History=0",
-              "Find=jedna History=>jedna|dvě");
+  ExpectState(OpenFor("|jedna dvě"),
+              "Rozlisovat! Find=jedna Command1! Command4! Find=dvě Command1! Command4! Find=x History=0",
+              "Find=JEDNA History=>JEDNA|DVĚ");
 }
 
 TEST_F(HledaniTest, ALongSelectionOfSeveralLinesIsTheTerm) {
@@ -69,9 +70,9 @@ TEST_F(ZamenaTest, AStartAllowsOnlyNextAndTheReplacements) {
 }
 
 TEST_F(ZamenaTest, EnterReplacesMatchByMatchButNeverAll) {
-  ExpectState(dialog, "Find=b Chage=c Command1!", "Label3=1");
+  ExpectState(dialog, "Rozlisovat! Find=B Chage=c Command1!", "Label3=1");
   Enter(dialog);
-  platform.on_message = [&] { ExpectState(dialog, "", "Label3=2 Label5=2 Find=(b)"); };
+  platform.on_message = [&] { ExpectState(dialog, "", "Label3=2 Label5=2 Find=(B)"); };
   platform.answers = {Answer::kOk};
   Enter(dialog);
   EXPECT_TRUE(platform.answers.empty());
@@ -94,16 +95,16 @@ TEST_F(ZamenaTest, ARowOfEitherListPicksTheWholePair) {
 }
 
 TEST_F(ProgramTest, VyberShowsTheSelectionAndSetsItWithinTheText) {
-  PutMarked(text, "01234|");
+  PutMarked(text, "[01|234");
   const QWidget& dialog = Open("mnupresnvyb");
-  ExpectState(dialog, "", "Start=5 Delka=0 Label5=");
-  PutMarked(text, "01[2|34");
+  ExpectState(dialog, "", "Start=0 Delka=2 Label5=01");
+  PutMarked(text, "012345[6|7");
   editor.commands.Run("mnupresnvyb");  // while the window is open
-  ExpectState(dialog, "", "Start=2 Delka=1 Label5=2");
-  EXPECT_EQ(Marked(text), "01[2|34");
-  ExpectState(dialog, "Delka=99", "Delka=3 Label2=3 Label5=234");
-  ExpectState(dialog, "Start=4", "Delka=1 Label1=4 Label2=1 Label5=4");
-  EXPECT_EQ(Marked(text), "0123[4|");
+  ExpectState(dialog, "", "Start=6 Delka=1 Label5=6");
+  EXPECT_EQ(Marked(text), "012345[6|7");
+  ExpectState(dialog, "Delka=99", "Delka=2 Label2=2 Label5=67");
+  ExpectState(dialog, "Start=7", "Delka=1 Label1=7 Label2=1 Label5=7");
+  EXPECT_EQ(Marked(text), "0123456[7|");
 }
 
 TEST_F(ProgramTest, TheColumnFormatterWorksOnTheRowsAndWritesThemBack) {
@@ -111,7 +112,8 @@ TEST_F(ProgramTest, TheColumnFormatterWorksOnTheRowsAndWritesThemBack) {
     const char *document, *steps, *state, *after;
   } cases[] = {
       {"x[ab¶cde|x", "Hz=9", "List1=ab|cde Label2=2 Label4=2 Hz=2 Label7=2 Label8=0", "xab¶cde|x"},
-      {"[ab¶cde|", "Hz=1 Text1=- Text1:\r", "List1=a-b|c-de Label2=2 Label4=3 Label7=1", "a-b¶c-de|"},
+      {"[ab¶cde|", "Hz=1 Text1=- Text1:\r Text2=+ Text2:\r", "List1=a-b+|c-de+ Label2=2 Label4=4 Label7=1",
+       "a-b+¶c-de+|"},
       {"[ab¶cde|", "Text1=- Text2=+ Command3! Command4! Hk=9", "List1=-ab+|-cde+ Hk=4 Label8=4", "-ab+¶-cde+|"},
       {"[ab¶cde|", "Hz=1 Command6!", "List1=a|ce Label4=1", "a¶ce|"},
       {"[ab¶cde|", "Hk=1 Command5!", "List1=b|ce Label4=1", "b¶ce|"},
@@ -205,13 +207,14 @@ TEST_F(VisualTest, ThePreviewChangesAtOnceAndTheEditorAfterOkOrDos) {
   ExpectState(visual, "", "Check2=1 Check3=1 Check1=1 Option2=1 Combo1=12 VScroll7=300 Label12=300");
   ExpectPreview(visual, "", "Courier New 12 bold italic #0A0000 #C8C8C8");
   ExpectPreview(visual, "Option3! Check2!", "Terminal 12 italic #0A0000 #C8C8C8");
-  ExpectPreview(visual, "Command8! Command9! Combo1=11", "Terminal 11 italic #0B0000 #C9C8C8");
+  ExpectPreview(visual, "Command8! Command9! Combo1=011", "Terminal 11 italic #0B0000 #C9C8C8");
+  ExpectState(visual, "", "Combo1=11");
   EXPECT_EQ(Described(main.Look()), "Courier New 12 bold italic #0A0000 #C8C8C8");
   ExpectState(visual, "Label1:\r", "Combo1=8");
   EXPECT_EQ(Described(main.Look()), "Terminal 8 italic #0B0000 #C9C8C8");  // 11 isn't one of the six sizes
-  ExpectPreview(visual, "Command3!", "Courier New 8 #000000 #FFFFFF");
+  ExpectPreview(visual, "Check2! Combo1=11 Command3!", "Courier New 8 #000000 #FFFFFF");
   ExpectPreview(visual, "Command4!", "Courier New 8 #000000 #FFFFFF");
-  EXPECT_EQ(Described(main.Look()), "Courier New 8 #C2C2C2 #000000");  // the button Dos changes the editor at once
+  ExpectPreview(Open("mnumore"), "", "Courier New 8 #C2C2C2 #000000");  // the button Dos changes the editor at once
 }
 
 TEST_F(VisualTest, TheDistanceIsStoredByItsButtonAndLineCountingAtOnce) {
