@@ -127,7 +127,9 @@ TEST_F(BrowserTest, AnAddressOfTheEngineItselfIsRefused) {
   platform.answers = {Answer::kOk};
   Work(window, "cboAddress:chrome://crash\r");
   EXPECT_EQ(TakeCalls(), "");
-  EXPECT_TRUE(platform.answers.empty());  // a message was shown
+  EXPECT_EQ(platform.calls.back(),
+            "message 64 \"Takovou adresu interní browser neotvírá:\r\nchrome://crash\r\n\r\n"
+            "Otvírá http, https, file, data a about:blank.\" \"Interní browser\"");
 }
 
 TEST_F(BrowserTest, EachToolbarButtonExceptStopActsAndStartsTheTimer) {
