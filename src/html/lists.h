@@ -25,7 +25,7 @@ std::string BuildList(const ListSpec& spec);
 // Writes a DT and a DD for each item of the longer list. Missing items of the shorter list are empty.
 std::string BuildDefinitionList(const std::vector<std::string>& terms, const std::vector<std::string>& definitions);
 
-// A list with each line of the text, which must not be empty, as an item. required: the last character is lost.
+// A list with each line of the text as an item. required: the last character of the text is lost.
 std::string ListOfLines(std::string_view text, ListKind kind);
 
 // Adds the two commands that turn the selected lines into a list.

@@ -34,12 +34,14 @@ unsigned char CodeOfUnicode(char32_t character) {
 
 std::string FromUtf8(std::string_view utf8) {
   std::string text;
+  text.reserve(utf8.size());
   for (std::size_t at = 0; at < utf8.size();) text += static_cast<char>(CodeOfUnicode(DecodeUtf8(utf8, at)));
   return text;
 }
 
 std::string FromUtf16(std::u16string_view utf16) {
   std::string text;
+  text.reserve(utf16.size());
   for (std::size_t i = 0; i < utf16.size(); ++i) {
     const bool pair = utf16[i] >= 0xD800 && utf16[i] < 0xDC00 && i + 1 < utf16.size() && utf16[i + 1] >= 0xDC00 &&
                       utf16[i + 1] < 0xE000;
@@ -51,6 +53,7 @@ std::string FromUtf16(std::u16string_view utf16) {
 
 std::string ToUtf8(std::string_view text) {
   std::string utf8;
+  utf8.reserve(text.size() + text.size() / 8);
   for (char ch : text) AppendUtf8(utf8, UnicodeOf(static_cast<unsigned char>(ch)));
   return utf8;
 }

@@ -16,8 +16,7 @@ using SortedOrder = std::function<std::vector<std::size_t>(const std::vector<std
 // without an end runs into the line that follows in the result.
 std::string SortLines(std::string_view text, const SortedOrder& order);
 
-// A number of at least five digits and a blank before each line. required: the last character of the text is lost. The
-// text must not be empty.
+// A number of at least five digits and a blank before each line. required: the last character of the text is lost.
 std::string NumberLines(std::string_view text);
 
 // The words of a text. Each blank ends a word and belongs to this word, so a blank after a blank is a word of its own.

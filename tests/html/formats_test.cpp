@@ -39,6 +39,10 @@ TEST(HtmlOutput, IsExactForBlocksAndFragments) {
       {Apply(kWrap, Heading({" 3", Align::kRight, true}), "x"), R"(<H3 NOWRAP ALIGN = "RIGHT"> x </H3>)"},
       {Apply(kWrap, Heading({"6", Align::kNone, false}), ""), "<H6> Nadpisový text </H6>"},
       {Apply(kWrap, Font({}), ""), "<FONT> fontové písmo </FONT>"},  // required: blanks around the sample only
+      {HorizontalRule({Align::kCenter, true, " 50%"}), R"(<HR ALIGN = "CENTER" NOSHADE Width = "50%">)"},
+      {LinedHeading("x"), R"(<HR ALIGN = "LEFT" Width = "60%"><H2>x</H2><HR ALIGN = "RIGHT" Width = "60%">)"},
+      {Fraction("A", "B"), "<SUP>A</SUP>/<SUB>B</SUB>"},
+      {CommentText("x"), "<! x >"},  // required
       {Smiley({" ", ":", " ", ")", " "}), ": )"},
       {BuildList({ListKind::kBullets, 2, false, {}, {"a"}}), "<UL TYPE=\"square\">\r\n<LI>a</LI>\r\n</UL>"},
       {BuildList({ListKind::kNumbers, 4, true, "", {}}), "<OL TYPE=\"i\" COMPACT>\r\n<LH></LH>\r\n</OL>"},
@@ -58,8 +62,14 @@ TEST(HtmlOutput, IsExactForPathsLinksImagesAndFrames) {
       {LinkText("/moje složka/50%#.htm"), "/moje složka/50%#.htm"},
       {LinkText("Жč?😀k\xF9.htm"), "%D0%96č?%F0%9F%98%80k%F9.htm"},
       {LinkText("\xF2\xC5"), "%F2%C5"},
+      {AnchorTag("Kotva 1"), R"(<A NAME="Kotva 1"></A>)"},
+      {Apply(kWrap, LinkToAnchor("x"), " "), R"(<A HREF="#x"> </A>)"},
       {Apply(kWrap, LinkToAnchor("část"_w), ""), R"(<A HREF="#část">Odkaz na část</A>)"},
+      {Apply(kWrap, LinkToMail("a@b"), "x"), R"(<A HREF="mailto:a@b" >x</A>)"},  // required: the blank
+      {Apply(kWrap, LinkToDocument({"x.htm", "a", "_top"}), ""),
+       R"(<A HREF="x.htm#a" TARGET="_top">Odkaz na x.htm#a</A>)"},
       {Apply(kWrap, LinkToDocument({"x.htm", "", ""}), "x"), R"(<A HREF="x.htm" TARGET="">x</A>)"},
+      {Apply(kWrap, LinkToDocument({"", "a", {}}), "x"), R"(<A HREF="#a">x</A>)"},
       {ImageTag(image), R"(<IMG SRC="b" ALT="a "b" <" ALIGN="left" WIDTH="10%" HEIGHT="20" VSPACE="3" HSPACE="4")"
                         R"( BORDER="5" LOWSRC="low.jpg" USEMAP="#mapa">)"},
       // required: SCROLLING appears twice, the second time exactly as typed

@@ -3,6 +3,7 @@
 
 #include <QCheckBox>
 #include <QClipboard>
+#include <QListWidget>
 #include <QTreeWidget>
 #include <filesystem>
 
@@ -450,6 +451,15 @@ TEST_F(HtmlDialogTest, ADefinitionListHoldsPairs) {
   ExpectState(terms, "Values=0", "Atributs=>Text1|b Values=>Text1| Atribut=b");  // unlike in EdiTag, the fields stay
   Work(terms, "Command3!");
   EXPECT_EQ(Marked(text), "<DL>¶<DT>Text1</DT>¶<DD>Text1</DD>¶<DT>b</DT>¶<DD></DD>¶</DL>|");
+}
+
+TEST_F(HtmlDialogTest, CtrlAndAClickDeselectBothRowsOfAPair) {
+  const QWidget& terms = Open("MnuListDef");
+  ExpectState(terms, "Command1! Values=0", "Atributs=>Text1 Values=>Text1");
+  auto* names = Find<QListWidget>(terms, "Atributs");
+  QTest::mouseClick(names->viewport(), Qt::LeftButton, Qt::ControlModifier,
+                    names->visualItemRect(names->item(0)).center());
+  ExpectState(terms, "", "Atributs=Text1 Values=Text1");
 }
 
 TEST_F(HtmlDialogTest, ACustomTagWrapsTheSelection) {
