@@ -49,6 +49,7 @@ FrmBrowser::FrmBrowser(WebViewMaker& maker, Platform& platform, std::function<vo
       ui_(std::make_unique<Ui::frmBrowser>()) {
   ui_->setupUi(this);
   ShowProgramIcon();
+  KeepAboveAll(*this);
   status_ = AddPanel(*ui_->StatusBar1, "Panel1", QStringLiteral("Stav"), 0);
   status_->setText(QStringLiteral("Busy"));
   status_->setMinimumWidth(status_->sizeHint().width());

@@ -11,12 +11,12 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QShowEvent>
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QToolButton>
-#include <QWindow>
 #include <algorithm>
 
 #include "platform/qt/controls/accessible_face.h"
@@ -212,12 +212,13 @@ void DialogWindow::showEvent(QShowEvent* event) {
 void DialogWindow::BeginInFirstField() {
   if (!first_field_) return;
   QWidget* field = first_field_;
-  // Passes over a disabled field and over an option that isn't checked any more. The Tab key doesn't reach either.
-  while (!field->isEnabled() || (field->focusPolicy() & Qt::TabFocus) == 0) {
+  // Passes over a disabled field, an option that isn't checked any more and a field of a hidden page.
+  while (!TakesTab(*field, *this)) {
     field = field->nextInFocusChain();
     if (field == first_field_) return;
   }
   field->setFocus(Qt::TabFocusReason);
+  if (auto* view = findChild<QScrollArea*>(QString(), Qt::FindDirectChildrenOnly)) view->ensureWidgetVisible(field);
   // If the window isn't active yet, the field gets the focus later, without the reason Tab. Then Qt selects no text, so
   // the text is selected here.
   SelectText(*field);
@@ -240,12 +241,7 @@ void DialogWindow::Prepare() {
     connect(option, &QRadioButton::toggled, this, gather);
     gather();
   }
-  // A window that stays on top, for instance the notes window, may appear or vanish while this dialog is open. So if
-  // necessary, a dialog that gets the focus is made to stay on top too. When no such window is left, the next change of
-  // focus makes the dialog a normal window again.
-  connect(qApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* now) {
-    if (isVisible() && (now == windowHandle() || !HasWindowOnTop())) PutAboveAll(*this);
-  });
+  KeepAboveAll(*this);  // a window on top may appear or vanish while this dialog is open
   // Repaints the default button: it is drawn as default only while no other button has the focus.
   connect(qApp, &QApplication::focusChanged, this, [this] {
     if (!isVisible()) return;  // the dialog is hidden or is being destroyed

@@ -1,7 +1,6 @@
 #include "platform/qt/frames/dialog_parent.h"
 
 #include <QApplication>
-#include <QDialog>
 #include <QPointer>
 #include <QWidget>
 #include <QWindow>
@@ -15,6 +14,18 @@ namespace {
 QPointer<QWidget>& Expected() {
   static QPointer<QWidget> expected;
   return expected;
+}
+
+// The property of the windows that PutAboveAll has put on top or made normal.
+constexpr char kFollowsTop[] = "followsTop";
+
+// Whether a window that stays on top by itself is visible.
+bool HasWindowOnTop() {
+  return std::ranges::any_of(QApplication::topLevelWidgets(), [](const QWidget* one) {
+    if (!one->isVisible() || one->property(kFollowsTop).toBool()) return false;
+    const QWindow* system = one->windowHandle();
+    return (system != nullptr ? system->flags() : one->windowFlags()).testFlag(Qt::WindowStaysOnTopHint);
+  });
 }
 
 }  // namespace
@@ -40,15 +51,16 @@ void ExpectActive(QWidget* window) {
   if (window != nullptr && window->isVisible()) window->activateWindow();
 }
 
-bool HasWindowOnTop() {
-  return std::ranges::any_of(QApplication::topLevelWidgets(), [](const QWidget* one) {
-    if (!one->isVisible() || qobject_cast<const QDialog*>(one)) return false;
-    const QWindow* system = one->windowHandle();
-    return (system != nullptr ? system->flags() : one->windowFlags()).testFlag(Qt::WindowStaysOnTopHint);
-  });
+void PutAboveAll(QWidget& window) {
+  window.setProperty(kFollowsTop, true);
+  SetAlwaysOnTop(window, HasWindowOnTop());
 }
 
-void PutAboveAll(QWidget& dialog) { SetAlwaysOnTop(dialog, HasWindowOnTop()); }
+void KeepAboveAll(QWidget& window) {
+  QObject::connect(qApp, &QGuiApplication::focusWindowChanged, &window, [&window](const QWindow* now) {
+    if (window.isVisible() && (now == window.windowHandle() || !HasWindowOnTop())) PutAboveAll(window);
+  });
+}
 
 void ShowOnParentsScreen(QWidget& window) {
   if (const QWidget* parent = DialogParent()) window.setScreen(parent->screen());

@@ -14,11 +14,11 @@ QWidget* DialogParent();
 // DialogParent returns this window. If `window` is null, no window is expected any more.
 void ExpectActive(QWidget* window);
 
-// Whether the program shows a window that stays on top. Dialogs don't count, since PutAboveAll puts them on top.
-bool HasWindowOnTop();
-// If HasWindowOnTop is true, makes the dialog stay on top too, since the window on top could cover the dialog.
-// Otherwise makes the dialog a normal window.
-void PutAboveAll(QWidget& dialog);
+// If the program shows a window that always stays on top, for instance a notes window, makes the given window stay on
+// top too, because the other one could cover it. Otherwise makes the given window a normal window.
+void PutAboveAll(QWidget& window);
+// Calls PutAboveAll for the visible window each time it gets the focus, and again when no other window on top is left.
+void KeepAboveAll(QWidget& window);
 
 // Assigns a hidden window to the screen of the window that DialogParent returns. Does nothing if DialogParent returns
 // null. A window that was shown before must be moved there too, for instance by CentreOnScreen.
