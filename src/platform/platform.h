@@ -50,8 +50,9 @@ struct WriteOutcome {
 };
 
 // The stamp of a file usually changes when the file is written or replaced.
+// The number of the file is no part of the stamp: on FAT and on some network disks it changes by itself.
 struct FileStamp {
-  std::uint64_t device = 0, node = 0, size = 0;
+  std::uint64_t size = 0;
   std::int64_t changed = 0;  // the time of the last write, in nanoseconds since 1970
   bool operator==(const FileStamp&) const = default;
 };

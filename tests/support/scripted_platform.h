@@ -117,7 +117,7 @@ class ScriptedPlatform : public Platform, public Paper {
   std::optional<FileStamp> Stamp(const std::string& path) override {
     const auto found = files.find(path);
     if (found == files.end()) return std::nullopt;
-    return FileStamp{.node = std::hash<std::string>()(found->second), .size = found->second.size()};
+    return FileStamp{.changed = static_cast<std::int64_t>(std::hash<std::string>()(found->second))};
   }
   bool IsSameFile(const std::string& left, const std::string& right) override { return left == right; }
   std::string InstallFolder() override { return install_folder; }

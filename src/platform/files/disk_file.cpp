@@ -80,9 +80,7 @@ WriteOutcome ReplaceFile(const std::string& path, std::string_view bytes, const 
 std::optional<FileStamp> StampOf(const std::string& path) {
   struct stat found {};
   if (stat(path.c_str(), &found) != 0) return std::nullopt;
-  return FileStamp{.device = found.st_dev,
-                   .node = found.st_ino,
-                   .size = static_cast<std::uint64_t>(found.st_size),
+  return FileStamp{.size = static_cast<std::uint64_t>(found.st_size),
                    .changed = found.st_mtim.tv_sec * std::int64_t{1'000'000'000} + found.st_mtim.tv_nsec};
 }
 

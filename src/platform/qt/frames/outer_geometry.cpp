@@ -24,8 +24,10 @@ TwipsRect InTwips(const QRect& pixels) {
 }
 
 void MoveOuter(QWidget& window, QPoint top_left) {
-  if (IsShown(window)) return window.windowHandle()->setFramePosition(top_left);
-  window.move(top_left);
+  if (!IsShown(window)) return window.move(top_left);
+  // No setFramePosition: some window managers ignore it if the inside of the window already begins at `top_left`.
+  const QMargins frame = Frame(window);
+  window.windowHandle()->setPosition(top_left + QPoint(frame.left(), frame.top()));
 }
 
 }  // namespace

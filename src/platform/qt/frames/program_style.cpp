@@ -2,6 +2,7 @@
 
 #include <QAbstractItemView>
 #include <QDialogButtonBox>
+#include <QLabel>
 #include <QMenuBar>
 #include <QPainter>
 #include <QPushButton>
@@ -115,6 +116,12 @@ QSize ProgramStyle::sizeFromContents(ContentsType type, const QStyleOption* opti
   if (type == CT_PushButton && button != nullptr && !button->text.isEmpty())
     size.setWidth(std::max(size.width(), contents.width() + 2 * kBesideCaption));
   return size;
+}
+
+void ProgramStyle::polish(QWidget* widget) {
+  QProxyStyle::polish(widget);
+  // Tool tips show paths, and "<b>" in a name is no tag.
+  if (widget->inherits("QTipLabel")) qobject_cast<QLabel*>(widget)->setTextFormat(Qt::PlainText);
 }
 
 void ProgramStyle::polish(QPalette& palette) {

@@ -26,6 +26,7 @@ class ProgramStyle : public QProxyStyle {
   QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                          const QWidget* widget) const override;
   void polish(QPalette& palette) override;
+  void polish(QWidget* widget) override;
   using QProxyStyle::polish;
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;

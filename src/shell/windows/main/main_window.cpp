@@ -9,6 +9,7 @@
 #include <QShortcut>
 #include <QWindow>
 #include <algorithm>
+#include <utility>
 
 #include "files/dropped_files.h"
 #include "platform/qt/controls/tab_keys.h"
@@ -24,7 +25,7 @@ namespace {
 
 // The size at the first start, with space for the whole toolbar.
 constexpr QSize kFirstSize(820, 560);
-// The largest coordinate and length of a window under X11, in twips.
+// The largest coordinate of a window under X11, in twips.
 constexpr int kLargestX11 = TwipsOf(32'767);
 
 std::vector<std::string> DroppedFiles(const QMimeData* mime) {
@@ -187,7 +188,10 @@ TwipsRect MainWindow::Wanted(const TwipsRect& now) const {
 
 void MainWindow::SetPlace(const TwipsRect& place) {
   const auto bounded = [](int twips) { return std::clamp(twips, -kLargestX11, kLargestX11); };
-  wanted_place_ = {bounded(place.left), bounded(place.top), bounded(place.width), bounded(place.height)};
+  // A much larger window, from a damaged file, would take gigabytes.
+  const QSize most = screen()->virtualSize() * 2;
+  wanted_place_ = {bounded(place.left), bounded(place.top), std::min(place.width, TwipsOf(most.width())),
+                   std::min(place.height, TwipsOf(most.height()))};
   const QSize first = kFirstSize.boundedTo(screen()->availableSize());
   if (place.width <= 0) wanted_place_.width = TwipsOf(first.width());
   if (place.height <= 0) wanted_place_.height = TwipsOf(first.height());
@@ -300,11 +304,14 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
   // The system delivers drops even while a modal dialog is open, for instance the lock. These drops are refused.
   if (QApplication::activeModalWidget() != nullptr) return;
-  if (!DroppedFiles(event->mimeData()).empty()) event->acceptProposedAction();
+  if (DroppedFiles(event->mimeData()).empty()) return;
+  event->setDropAction(Qt::CopyAction);  // the source must not remove a file that is only opened
+  event->accept();
 }
 
 void MainWindow::dropEvent(QDropEvent* event) {
-  event->acceptProposedAction();
+  event->setDropAction(Qt::CopyAction);
+  event->accept();
   // The question is asked after the drop, so the source program needn't wait for the answer.
   const auto open = [this, paths = DroppedFiles(event->mimeData())] {
     activateWindow();
@@ -315,7 +322,14 @@ void MainWindow::dropEvent(QDropEvent* event) {
 
 void MainWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
-  if (event->type() == QEvent::WindowStateChange) ApplyLayout();
+  // A hidden window has no layout yet.
+  if (event->type() != QEvent::WindowStateChange || !isVisible()) return;
+  ApplyLayout();
+  // The normal place of a window that started maximised was set without a frame.
+  const auto* change = static_cast<QWindowStateChangeEvent*>(event);
+  if (!change->oldState().testFlag(Qt::WindowMaximized) || isMaximized() || isMinimized()) return;
+  if (std::exchange(window_state_, WindowMode::kNormal) == WindowMode::kMaximised)
+    placement_.Begin(windowHandle()->frameMargins());
 }
 
 bool MainWindow::event(QEvent* event) {
