@@ -113,18 +113,11 @@ TEST_F(SaveDialogTest, AnOpenedFileSetsItsFields) {
   Expect(dialog, "", "Command1=&Ulož");
 }
 
-TEST_F(SaveDialogTest, ASaveToANameWithoutAnExtensionShowsThePathOfTheFields) {
-  platform.answers = {Answer::kOk};
-  parts.files.saver.SaveToPath(Utf8FromQString(Find<FolderList>(dialog, "Dir1")->Path()) + "/bez");
-  const std::string path = Utf8FromQString(Find<FolderList>(dialog, "Dir1")->Path()) + "/Jméno.html";
-  ExpectState(dialog, "", ("Command1=&Ulož Label1=" + path).c_str());
-}
-
 TEST_F(FileDialogsTest, AnOpenedFileSetsTheFieldsOfALaterSaveDialog) {
-  parts.files.opener.OpenPath(folder.File("b.html"));
+  parts.files.opener.OpenPath(folder.File("a.TXT"));
   Put("bez", "");
   EXPECT_THROW(parts.files.opener.OpenPath(folder.File("bez")), RuntimeError);  // required: keeps the earlier name
-  Expect(Open<Uloz>(), "", "Text1=b Text2=html Label1=~/b.html Command1=&Ulož");
+  Expect(Open<Uloz>(), "", "Text1=a Text2=TXT Label1=~/a.TXT Command1=&Ulož");
 }
 
 TEST_F(FileDialogsTest, ConversionsNeedAFileAndWriteBesideIt) {
@@ -166,14 +159,6 @@ TEST_F(DirSetupTest, OkSetsTheFolderOfEveryFolderList) {
   EXPECT_FALSE(dialog.isVisible());
   EXPECT_EQ(WindowsAtTheFolder(), (std::vector<std::string>{"DirSetup", "Dos_Unix_conv", "Frame", "Obrazek",
                                                             "OdkazNaJiný", "Otevři", "Ulož", "Vytvoř"}));
-}
-
-TEST_F(DirSetupTest, ChoosingTheShownFolderIsAChoiceToo) {
-  Expect(dialog, "Dir1=~ Command1!", "Command1=&Ok");
-  auto& save = Open<Uloz>();
-  Named(save, "Command1")->setEnabled(false);
-  Work(dialog, "Command1!");
-  Expect(save, "", "Label1=~/Jméno.html Command1=&Ulož");
 }
 
 }  // namespace
