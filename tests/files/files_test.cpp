@@ -257,20 +257,15 @@ TEST_F(RecentFilesTest, AListedPathMovesToTheTop) {
   EXPECT_EQ(recent.Path(3), "/a");
 }
 
-struct FastSave : FilesTest {
+TEST_F(FilesTest, FastSaveAsksTwiceThenWritesTheCurrentText) {
   const std::string question = MessageCall(52, "Opravdu uložit soubor?\r\n\"/a.txt\"");
   const std::string overwrite = OverwriteCall("/a.txt");
-
-  Calls Saved(const std::deque<Answer>& answers) { return Run("Mnu_SaveFast", {}, answers); }
-};
-
-TEST_F(FastSave, AsksTwiceThenWritesTheCurrentText) {
-  EXPECT_EQ(Saved({kNo}), Calls{question});
-  EXPECT_EQ(Saved({kYes, kNo}), (Calls{question, overwrite}));
+  EXPECT_EQ(Run("Mnu_SaveFast", {}, {kNo}), Calls{question});
+  EXPECT_EQ(Run("Mnu_SaveFast", {}, {kYes, kNo}), (Calls{question, overwrite}));
   ExpectUntouched();
   int asked = 0;
   platform.on_message = [&] { editor.text.Replace(0, 0, std::to_string(++asked)); };
-  EXPECT_EQ(Saved({kYes, kYes}), (Calls{question, overwrite, "write /a.txt", "recent /a.txt"}));
+  EXPECT_EQ(Run("Mnu_SaveFast", {}, {kYes, kYes}), (Calls{question, overwrite, "write /a.txt", "recent /a.txt"}));
   EXPECT_EQ(platform.files["/a.txt"], "21newsaved");
   EXPECT_EQ(StateOf(documents), SavedAt("/a.txt"));
 }

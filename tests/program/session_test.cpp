@@ -129,6 +129,15 @@ TEST_F(SessionTest, AClipboardThatComesLateGoesIntoAnUnchangedDocument) {
   EXPECT_EQ(editor.documents.Title(), "Pelmar VEX ()");
 }
 
+TEST_F(SessionTest, AClipboardThatComesLateStaysOutOfAnEmptyFile) {
+  platform.files["/empty.txt"] = "";
+  Start("/empty.txt");
+  platform.clipboard = "late";
+  session.TakeLateClipboard();
+  EXPECT_EQ(editor.text.Text(), "");
+  EXPECT_EQ(editor.documents.CurrentPath(), "/empty.txt");
+}
+
 TEST(Session, TheCommandLineChoosesTheWindow) {
   const std::tuple<const char*, bool, const char*> cases[] = {
       {"", false, "main"},   {"", true, "start"},      {"-nomsg", true, "main"},  {"-calc", true, "1"},

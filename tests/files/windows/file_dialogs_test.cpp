@@ -130,14 +130,13 @@ TEST_F(FileDialogsTest, ConversionsNeedAFileAndWriteBesideIt) {
   EXPECT_EQ(platform.files[folder.File("b.dos")], "<B>\r\r\n");
   EXPECT_EQ(platform.files[folder.File("b.1250")], "<B>\r\n");
   EXPECT_EQ(platform.files[folder.File("b.utf8")], "\xEF\xBB\xBF<B>\r\n");
-  EXPECT_TRUE(dialog.isVisible());
+  Put("c.html", "");
+  Expect(dialog, "Command1!", "File1=>b.html|c.html");  // a conversion reads the folder again
 }
 
-struct DirSetupTest : FileDialogsTest {
-  DirSetup& dialog = Open<DirSetup>();
-
-  // The names of the windows whose folder list shows the test's folder.
-  [[nodiscard]] std::vector<std::string> WindowsAtTheFolder() const {
+TEST_F(FileDialogsTest, OkInDirSetupSetsTheFolderOfEveryFolderList) {
+  auto& dialog = Open<DirSetup>();
+  const auto windows_at_the_folder = [this] {
     std::vector<std::string> names;
     for (const QWidget* widget : QApplication::allWidgets()) {
       const auto* folders = qobject_cast<const FolderList*>(widget);
@@ -146,19 +145,16 @@ struct DirSetupTest : FileDialogsTest {
     }
     std::ranges::sort(names);
     return names;
-  }
-};
-
-TEST_F(DirSetupTest, OkSetsTheFolderOfEveryFolderList) {
+  };
   Work(dialog, "Drive1=0 Drive1:↓");
   EXPECT_EQ(Find<FolderList>(dialog, "Dir1")->Path(), QStringLiteral("/"));
   Expect(dialog, "Dir1=~ Command2!", "Drive1=/");
-  EXPECT_EQ(WindowsAtTheFolder(), std::vector<std::string>{"DirSetup"});
+  EXPECT_EQ(windows_at_the_folder(), std::vector<std::string>{"DirSetup"});
   dialog.show();
   Work(dialog, "Command1!");
   EXPECT_FALSE(dialog.isVisible());
-  EXPECT_EQ(WindowsAtTheFolder(), (std::vector<std::string>{"DirSetup", "Dos_Unix_conv", "Frame", "Obrazek",
-                                                            "OdkazNaJiný", "Otevři", "Ulož", "Vytvoř"}));
+  EXPECT_EQ(windows_at_the_folder(), (std::vector<std::string>{"DirSetup", "Dos_Unix_conv", "Frame", "Obrazek",
+                                                               "OdkazNaJiný", "Otevři", "Ulož", "Vytvoř"}));
 }
 
 }  // namespace

@@ -125,11 +125,10 @@ TEST_F(HelpTest, TheButtonSearches) {
   EXPECT_EQ(Find<TextBox>(help, "Text1")->SelText(), "the");
 }
 
-struct ToolbarTest : StartedTest {
-  CustomizeToolbar& window = Open<CustomizeToolbar>();
-
+TEST_F(StartedTest, TheListOfButtonsMovesHidesAndResetsThem) {
+  auto& window = Open<CustomizeToolbar>();
   // The first visible buttons of the toolbar, "|" for a separator.
-  [[nodiscard]] std::string Buttons(int count) {
+  const auto buttons = [this](int count) {
     std::string names;
     for (const QAction* action : main.Toolbar().actions()) {
       if (!action->isVisible() || count == 0) continue;
@@ -137,19 +136,16 @@ struct ToolbarTest : StartedTest {
       names += action->isSeparator() ? "| " : action->objectName().toStdString() + ' ';
     }
     return names;
-  }
-};
-
-TEST_F(ToolbarTest, TheListMovesHidesAndResetsButtons) {
-  EXPECT_EQ(Buttons(7), "New Newhtml Open | Recent | Save ");
+  };
+  EXPECT_EQ(buttons(7), "New Newhtml Open | Recent | Save ");
   Work(window, "Buttons=0 Up! Buttons=1 Up!");
-  EXPECT_EQ(Buttons(7), "Newhtml New Open | Recent | Save ");
+  EXPECT_EQ(buttons(7), "Newhtml New Open | Recent | Save ");
   Work(window, "Buttons=4 Down!");
-  EXPECT_EQ(Buttons(7), "Newhtml New Open | | Recent Save ");
+  EXPECT_EQ(buttons(7), "Newhtml New Open | | Recent Save ");
   Find<QListWidget>(window, "Buttons")->item(1)->setCheckState(Qt::Unchecked);
-  EXPECT_EQ(Buttons(6), "Newhtml Open | | Recent Save ");
+  EXPECT_EQ(buttons(6), "Newhtml Open | | Recent Save ");
   Work(window, "Initial! Buttons=0 Down!");  // the list shows the initial order too
-  EXPECT_EQ(Buttons(7), "Newhtml New Open | Recent | Save ");
+  EXPECT_EQ(buttons(7), "Newhtml New Open | Recent | Save ");
 }
 
 TEST_F(StartedTest, AboutShowsTheUserAndChangesTheCaseOfItsTitleUnderTheMouse) {

@@ -232,6 +232,9 @@ TEST_F(WarningTest, AFileInUtf8AndAMixOfEncodingsAreReported) {
   EXPECT_TRUE(Shown().starts_with("Soubor je v UTF-8")) << Shown();
   text.Type("\x9e");
   EXPECT_TRUE(Shown().starts_with("Text míchá UTF-8")) << Shown();
+  platform.answers = {Answer::kYes, Answer::kYes, Answer::kYes};
+  editor.commands.Run("Mnu_SaveFast");
+  EXPECT_TRUE(Shown().starts_with("Text míchá UTF-8")) << Shown();  // the saved file is mixed too
 }
 
 TEST_F(WarningTest, ANameWithoutAnExtensionIsReported) {
