@@ -1,9 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "files/windows/dir_setup.h"
-#include "files/windows/dos_unix_conv.h"
-#include "files/windows/otevri.h"
-#include "files/windows/uloz.h"
 #include "support/program_test.h"
 #include "support/temp_folder.h"
 
@@ -29,7 +25,7 @@ struct FileDialogsTest : ProgramTest {
 };
 
 struct OpenDialogTest : FileDialogsTest {
-  Otevri& dialog = Open<Otevri>();
+  QWidget& dialog = Open("mnuopen");
 };
 
 TEST_F(OpenDialogTest, BeginsWithoutAFile) {
@@ -70,12 +66,12 @@ TEST_F(OpenDialogTest, ANameThatIsNotUtf8IsOpenedAndSavedByItsBytes) {
   platform.answers = {Answer::kYes};
   Expect(dialog, "Dir1=~ File1=kůň.txt Command1!", "Label1=~/kůň.txt");
   EXPECT_EQ(text.Text(), "horse");
-  Work(Open<Uloz>(), "Text2=htm Command1!");
+  Work(Open("mnusave"), "Text2=htm Command1!");
   EXPECT_EQ(platform.files[folder.File("k\xF9\xF2.htm")], "horse");
 }
 
 struct SaveDialogTest : FileDialogsTest {
-  Uloz& dialog = Open<Uloz>();
+  QWidget& dialog = Open("mnusave");
 };
 
 TEST_F(SaveDialogTest, WaitsForAChoiceBeforeItSaves) {
@@ -117,11 +113,11 @@ TEST_F(FileDialogsTest, AnOpenedFileSetsTheFieldsOfALaterSaveDialog) {
   parts.files.opener.OpenPath(folder.File("a.TXT"));
   Put("bez", "");
   EXPECT_THROW(parts.files.opener.OpenPath(folder.File("bez")), RuntimeError);  // required: keeps the earlier name
-  Expect(Open<Uloz>(), "", "Text1=a Text2=TXT Label1=~/a.TXT Command1=&Ulož");
+  Expect(Open("mnusave"), "", "Text1=a Text2=TXT Label1=~/a.TXT Command1=&Ulož");
 }
 
 TEST_F(FileDialogsTest, ConversionsNeedAFileAndWriteBesideIt) {
-  auto& dialog = Open<Dos_Unix_conv>();
+  QWidget& dialog = Open("mnu_utiliti_dos_unix");
   ExpectState(dialog, "",
               "Text1=*.* Label2= Command1='(&DOS --> UNIX)' Command2='(&UNIX --> DOS)' Command4='(U&TF-8 --> 1250)' "
               "Command5='(&1250 --> UTF-8)'");
@@ -135,7 +131,7 @@ TEST_F(FileDialogsTest, ConversionsNeedAFileAndWriteBesideIt) {
 }
 
 TEST_F(FileDialogsTest, OkInDirSetupSetsTheFolderOfEveryFolderList) {
-  auto& dialog = Open<DirSetup>();
+  QWidget& dialog = Open("mnudir");
   const auto windows_at_the_folder = [this] {
     std::vector<std::string> names;
     for (const QWidget* widget : QApplication::allWidgets()) {

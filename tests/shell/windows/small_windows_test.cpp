@@ -8,7 +8,6 @@
 #include "shell/windows/config.h"
 #include "shell/windows/customize_toolbar.h"
 #include "shell/windows/hlp.h"
-#include "shell/windows/o.h"
 #include "shell/windows/pass.h"
 #include "shell/windows/start.h"
 #include "support/program_test.h"
@@ -83,7 +82,7 @@ TEST_F(StartedTest, EachWayOutOfTheWelcomeShowsTheEditor) {
 }
 
 TEST_F(StartedTest, TheWelcomeSetsWhetherItShowsAgain) {
-  auto& start = Open<Start>();
+  QWidget& start = Open("mnustart");
   ExpectState(start, "", "Label9=Jan Check1=1");
   EXPECT_FALSE(editor.settings.ShowStart);
   Work(start, "Check1!");
@@ -91,7 +90,7 @@ TEST_F(StartedTest, TheWelcomeSetsWhetherItShowsAgain) {
 }
 
 TEST_F(StartedTest, AClickOnTheNameInTheWelcomeOpensTheProfile) {
-  auto& start = Open<Start>();
+  QWidget& start = Open("mnustart");
   InDialog<Config>([](Config& config) { Work(config, "Text1=Eva Command1!"); });
   QTest::mouseClick(Named(start, "Label9"), Qt::LeftButton);
   ExpectState(start, "", "Label9=Eva");
@@ -125,7 +124,7 @@ TEST_F(HelpTest, TheButtonSearches) {
 }
 
 TEST_F(StartedTest, TheListOfButtonsMovesHidesAndResetsThem) {
-  auto& window = Open<CustomizeToolbar>();
+  QWidget& window = Open("mnucust");
   // The first visible buttons of the toolbar, "|" for a separator.
   const auto buttons = [this](int count) {
     std::string names;
@@ -148,7 +147,7 @@ TEST_F(StartedTest, TheListOfButtonsMovesHidesAndResetsThem) {
 }
 
 TEST_F(StartedTest, AboutShowsTheUserAndChangesTheCaseOfItsTitleUnderTheMouse) {
-  auto& about = Open<O>();
+  QWidget& about = Open("mnuabout");
   ExpectState(about, "", "Label3=Jan");
   const std::string shown = Find<TextBox>(about, "Text1")->Text().toStdString();
   EXPECT_TRUE(shown.ends_with("\r\n====================\r\nPoznámka této verze:"_w)) << ToUtf8(shown);
