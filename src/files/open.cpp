@@ -13,7 +13,7 @@ Opener::Opener(Documents& documents, RecentFiles& recent, Platform& platform, Fi
 
 void Opener::OpenPath(const std::string& path) {
   const auto stamp = platform_.Stamp(path);
-  auto text = ReadIfExists(file_number_, platform_, path, kLargestDocument + 1);
+  auto text = ReadIfExists(file_number_, platform_, path, kReadLimit);
   if (!text) {
     platform_.Message(MessageType::kOk, "Soubor " + path + " nenalezen!", "Soubor");
     return;
@@ -52,7 +52,7 @@ void Opener::ReloadFile() {
 
 std::string Opener::Preview(const std::string& path) {
   if (file_number_.IsOpen()) return std::string(kNoPreview);
-  FileBytes file = platform_.ReadFile(path, kLargestDocument + 1);
+  FileBytes file = platform_.ReadFile(path, kReadLimit);
   if (file.error != 0 || file.bytes.size() > kLargestDocument) return std::string(kNoPreview);
   return std::move(file.bytes);
 }

@@ -15,6 +15,8 @@
 namespace pelmar {
 
 inline constexpr std::uint64_t kLargestDocument = 64'000;  // bytes
+// A read of this many bytes shows whether a file is longer than kLargestDocument.
+inline constexpr std::uint64_t kReadLimit = kLargestDocument + 1;
 // The filter of the system's dialogs that pick a document, and the number of the filter's initial row (from 1).
 inline constexpr std::string_view kDocumentFilter =
     "Všechno (*.*)|*.*|jen text (*.txt)|*.txt|dávky (*.bat)|*.bat|Html dokument (*.html)|*.html|"

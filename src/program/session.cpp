@@ -47,7 +47,7 @@ void Session::Load() {
 
 void Session::LoadText() {
   // A file longer than kLargestDocument isn't loaded. No message says so, and the next StoreAll overwrites the file.
-  auto text = ReadIfExists(file_number_, platform_, InstallPath(kRecoveryName), kLargestDocument + 1);
+  auto text = ReadIfExists(file_number_, platform_, InstallPath(kRecoveryName), kReadLimit);
   if (text && text->size() <= kLargestDocument) documents_.Buffer().SetText(std::move(*text));
   TakeClipboard();
 }

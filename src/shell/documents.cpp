@@ -31,7 +31,7 @@ void Documents::EnterTab(int entered) {
   title_follows_ = false;
   current_path_ = faces_[IndexFromOne(entered)].ToolTipText;
   // SetPath would throw for a restored document without an extension.
-  if (!current_path_.empty() && HasExtension(current_path_)) target_.SetPath(current_path_);
+  if (HasExtension(current_path_)) target_.SetPath(current_path_);
   SetTitle(current_path_, Current().Modified);
 }
 

@@ -14,9 +14,9 @@ PanelTexts ComputePanels(const TextBuffer& buffer, bool line_counting) {
   PanelTexts panels;
   const std::string_view text = buffer.Text();
   const std::size_t start = buffer.SelStart();
-  const std::int32_t before = line_counting ? CountLineFeeds(text.substr(0, start)) : 0;
-  const std::int32_t selected = line_counting ? CountLineFeeds(buffer.SelText()) : 0;
-  const std::int32_t all = line_counting ? before + selected + CountLineFeeds(text.substr(buffer.SelEnd())) : 0;
+  const auto count = [line_counting](std::string_view part) { return line_counting ? CountLineFeeds(part) : 0; };
+  const std::int32_t before = count(text.substr(0, start)), selected = count(buffer.SelText());
+  const std::int32_t all = before + selected + count(text.substr(buffer.SelEnd()));
   if (!buffer.HasSelection()) {
     panels.length = std::string("Počet znaků :"_w) + NumberWithSignBlank(static_cast<std::int64_t>(text.size()));
     panels.position = "Pozice kurzoru :" + NumberWithSignBlank(static_cast<std::int64_t>(start));

@@ -70,15 +70,18 @@ TEST_F(FilesTest, ACancelledDialogDoesNothing) {
 
 TEST_F(FilesTest, ATextOfTwoEncodingsIsSavedOverAUtf8FileOnlyAfterAYes) {
   const std::string utf8 = "p\u0159", mixed = utf8 + "\xF8";
-  platform.files["/b.txt"] = utf8;
   editor.text.SetText(mixed);
-  EXPECT_EQ(Run("mnu_save_st", "/b.txt", {kNo}).size(), 2u);  // the dialog and the question about the encodings
-  EXPECT_EQ(platform.files["/b.txt"], utf8);
-  Run("mnu_save_st", "/b.txt", {kYes, kYes});
-  EXPECT_EQ(platform.files["/b.txt"], mixed);
-  platform.files["/b.txt"] = utf8;
-  Run("Mnu_SaveFast", {}, {kYes, kYes, kYes});  // asks only once about the encodings
-  EXPECT_EQ(platform.files["/b.txt"], mixed);
+  Run("mnu_save_st", "/new.txt");
+  EXPECT_EQ(platform.files["/new.txt"], mixed);
+  const std::pair<const char*, std::deque<Answer>> saves[] = {{"mnu_save_st", {kYes, kYes}},
+                                                              {"Mnu_SaveFast", {kYes, kYes, kYes}}};
+  for (const auto& [command, answers] : saves) {
+    platform.files["/b.txt"] = utf8;
+    Run(command, "/b.txt", {kNo});
+    EXPECT_EQ(platform.files["/b.txt"], utf8) << command;
+    Run(command, "/b.txt", answers);  // asks only once about the encodings
+    EXPECT_EQ(platform.files["/b.txt"], mixed) << command;
+  }
 }
 
 TEST_F(FilesTest, OpenReplacesTheDocumentWithoutAsking) {
@@ -86,12 +89,6 @@ TEST_F(FilesTest, OpenReplacesTheDocumentWithoutAsking) {
   EXPECT_EQ(Marked(editor.text), "|b");
   EXPECT_EQ(StateOf(documents), SavedAt("/b.txt"));
   EXPECT_EQ(Run("Recent", {}), Calls{"recent /a.txt"});  // required: the second file of the list
-}
-
-TEST_F(FilesTest, AMissingFileIsReported) {
-  EXPECT_EQ(Run("mnu_open_st", "/no.txt", {kOk}), (Calls{kOpenDialog, MessageCall(0, "Soubor /no.txt nenalezen!")}));
-  EXPECT_EQ(Run("Recent", {}, {kOk}), Calls{MessageCall(0, "Soubor  nenalezen!")});  // the list has no second file
-  ExpectUntouched();
 }
 
 TEST_F(FilesTest, TheLimitOf64000BytesIsExact) {
@@ -227,7 +224,7 @@ TEST_F(FilesTest, InsertFromFileReplacesTheSelectionByOneField) {
 TEST(InsertFromFile, ReadsOneField) {
   const std::pair<std::string_view, std::string_view> cases[] = {
       {" \t abc \t,def", "abc"}, {"\"a, b\r\nc\" ,d", "a, b\r\nc"}, {"", ""},      {",x", ""},
-      {"\"open", "open"},        {"a \"b\" c\nd", "a \"b\" c"},     {"\r\nx", ""},
+      {"\"open", "open"},        {"a \"b\" c\nd", "a \"b\" c"},     {"\r\nx", ""}, {"\"\"x", ""},
   };
   for (const auto& [bytes, field] : cases) EXPECT_EQ(FirstField(bytes), field) << bytes;
 }
@@ -260,20 +257,15 @@ TEST_F(RecentFilesTest, AListedPathMovesToTheTop) {
   EXPECT_EQ(recent.Path(3), "/a");
 }
 
-struct FastSave : FilesTest {
+TEST_F(FilesTest, FastSaveAsksTwiceThenWritesTheCurrentText) {
   const std::string question = MessageCall(52, "Opravdu uložit soubor?\r\n\"/a.txt\"");
   const std::string overwrite = OverwriteCall("/a.txt");
-
-  Calls Saved(const std::deque<Answer>& answers) { return Run("Mnu_SaveFast", {}, answers); }
-};
-
-TEST_F(FastSave, AsksTwiceThenWritesTheCurrentText) {
-  EXPECT_EQ(Saved({kNo}), Calls{question});
-  EXPECT_EQ(Saved({kYes, kNo}), (Calls{question, overwrite}));
+  EXPECT_EQ(Run("Mnu_SaveFast", {}, {kNo}), Calls{question});
+  EXPECT_EQ(Run("Mnu_SaveFast", {}, {kYes, kNo}), (Calls{question, overwrite}));
   ExpectUntouched();
   int asked = 0;
   platform.on_message = [&] { editor.text.Replace(0, 0, std::to_string(++asked)); };
-  EXPECT_EQ(Saved({kYes, kYes}), (Calls{question, overwrite, "write /a.txt", "recent /a.txt"}));
+  EXPECT_EQ(Run("Mnu_SaveFast", {}, {kYes, kYes}), (Calls{question, overwrite, "write /a.txt", "recent /a.txt"}));
   EXPECT_EQ(platform.files["/a.txt"], "21newsaved");
   EXPECT_EQ(StateOf(documents), SavedAt("/a.txt"));
 }

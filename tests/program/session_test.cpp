@@ -80,8 +80,6 @@ TEST_F(SessionTest, StoredSettingsAreAppliedInOrder) {
   EXPECT_EQ(Described(view.look), "Font 12 bold italic #010000 #020000");
   EXPECT_EQ(view.place, (TwipsRect{150, 300, 9000, 6000}));
   EXPECT_EQ(editor.settings.AutosnapDistance, 2'000'000'000);
-  session.Close();
-  EXPECT_EQ(ReadSettings(platform.files[kSettings]).AutosnapDistance, 2'000'000'000);
 }
 
 TEST_F(SessionTest, ImpossibleSettingsAreReplacedByDefaults) {
@@ -129,6 +127,15 @@ TEST_F(SessionTest, AClipboardThatComesLateGoesIntoAnUnchangedDocument) {
   session.TakeLateClipboard();
   EXPECT_EQ(editor.text.Text(), "late");
   EXPECT_EQ(editor.documents.Title(), "Pelmar VEX ()");
+}
+
+TEST_F(SessionTest, AClipboardThatComesLateStaysOutOfAnEmptyFile) {
+  platform.files["/empty.txt"] = "";
+  Start("/empty.txt");
+  platform.clipboard = "late";
+  session.TakeLateClipboard();
+  EXPECT_EQ(editor.text.Text(), "");
+  EXPECT_EQ(editor.documents.CurrentPath(), "/empty.txt");
 }
 
 TEST(Session, TheCommandLineChoosesTheWindow) {

@@ -50,6 +50,7 @@ TEST_F(RescueStoreTest, TheFileOfACrashedCopyIsFoundByOneCopyAtATime) {
     ::_exit(0);
   }
   ::waitpid(child, nullptr, 0);
+  temp.Put("rescue-1-1.pelmar.lock", "");  // left by a copy that crashed before its first write
   EXPECT_EQ(Found().size(), 1u);
   LockFile offer;
   const std::vector<std::string> found = FindAbandoned(folder, kPrefix, offer);
@@ -98,6 +99,11 @@ TEST(RescueFile, RefusesDamagedFilesAndFilesOfAnotherKind) {
     damaged[at] = static_cast<char>(damaged[at] ^ 0x20);
     EXPECT_FALSE(ReadRescue(kNotesRescue, damaged)) << at;
   }
+}
+
+TEST(RescueFile, RefusesANumberThatNoTabHas) {
+  for (const auto& [shown, place] : {std::pair(0, 1), {6, 1}, {2, 0}, {2, 6}})
+    EXPECT_FALSE(ReadRescue(kNotesRescue, RescueBytes(kNotesRescue, {shown, {{place, "", "z"}}}))) << shown << place;
 }
 
 }  // namespace

@@ -5,11 +5,14 @@
 
 namespace pelmar {
 
-QWidget& WindowRegistry::Get(std::type_index window) {
-  Entry& entry = entries_.at(window);
+QWidget* WindowRegistry::Made(Entry& entry) {
   if (!entry.window) entry.window = entry.make();
-  if (!entry.window) throw std::logic_error(std::string("no window of the type ") + window.name());
-  return *entry.window;
+  return entry.window.get();
+}
+
+QWidget& WindowRegistry::Get(std::type_index window) {
+  if (QWidget* made = Made(entries_.at(window))) return *made;
+  throw std::logic_error(std::string("no window of the type ") + window.name());
 }
 
 QWidget* WindowRegistry::Find(std::type_index window) {
@@ -18,10 +21,8 @@ QWidget* WindowRegistry::Find(std::type_index window) {
 }
 
 void WindowRegistry::ForEach(const std::function<void(QWidget&)>& visit) {
-  for (auto& [type, entry] : entries_) {
-    if (!entry.window) entry.window = entry.make();
-    if (entry.window) visit(*entry.window);
-  }
+  for (auto& [type, entry] : entries_)
+    if (QWidget* made = Made(entry)) visit(*made);
 }
 
 void WindowRegistry::Unload(std::type_index window) {

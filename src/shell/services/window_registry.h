@@ -58,6 +58,8 @@ class WindowRegistry {
     std::unique_ptr<QWidget> window;
   };
 
+  // Creates the window if necessary. Null if it can't be created.
+  static QWidget* Made(Entry& entry);
   QWidget* Find(std::type_index window);
   void Unload(std::type_index window);
 

@@ -9,8 +9,6 @@
 namespace pelmar {
 namespace {
 
-constexpr std::string_view kName = "Orvilanths Pelmar VEX";
-
 // The last line is the heading for notes on this version.
 constexpr std::string_view kReleaseNotes =
     "Pelmar VEX je malý editor textu a HTML: pět dokumentů v záložkách,\r\n"
@@ -50,7 +48,7 @@ bool O::eventFilter(QObject* watched, QEvent* event) {
 
 void O::MixCase() {
   platform_.ReseedRandom();
-  ui_->Label2->setText(TextToQString(RandomCase(kName, DrawFrom(platform_))));
+  ui_->Label2->setText(TextToQString(RandomCase(TextFromQString(ui_->Label2->text()), DrawFrom(platform_))));
 }
 
 }  // namespace pelmar

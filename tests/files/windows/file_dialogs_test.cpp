@@ -1,9 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "files/windows/dir_setup.h"
-#include "files/windows/dos_unix_conv.h"
-#include "files/windows/otevri.h"
-#include "files/windows/uloz.h"
 #include "support/program_test.h"
 #include "support/temp_folder.h"
 
@@ -29,7 +25,7 @@ struct FileDialogsTest : ProgramTest {
 };
 
 struct OpenDialogTest : FileDialogsTest {
-  Otevri& dialog = Open<Otevri>();
+  QWidget& dialog = Open("mnuopen");
 };
 
 TEST_F(OpenDialogTest, BeginsWithoutAFile) {
@@ -70,12 +66,12 @@ TEST_F(OpenDialogTest, ANameThatIsNotUtf8IsOpenedAndSavedByItsBytes) {
   platform.answers = {Answer::kYes};
   Expect(dialog, "Dir1=~ File1=kůň.txt Command1!", "Label1=~/kůň.txt");
   EXPECT_EQ(text.Text(), "horse");
-  Work(Open<Uloz>(), "Text2=htm Command1!");
+  Work(Open("mnusave"), "Text2=htm Command1!");
   EXPECT_EQ(platform.files[folder.File("k\xF9\xF2.htm")], "horse");
 }
 
 struct SaveDialogTest : FileDialogsTest {
-  Uloz& dialog = Open<Uloz>();
+  QWidget& dialog = Open("mnusave");
 };
 
 TEST_F(SaveDialogTest, WaitsForAChoiceBeforeItSaves) {
@@ -113,22 +109,15 @@ TEST_F(SaveDialogTest, AnOpenedFileSetsItsFields) {
   Expect(dialog, "", "Command1=&Ulož");
 }
 
-TEST_F(SaveDialogTest, ASaveToANameWithoutAnExtensionShowsThePathOfTheFields) {
-  platform.answers = {Answer::kOk};
-  parts.files.saver.SaveToPath(Utf8FromQString(Find<FolderList>(dialog, "Dir1")->Path()) + "/bez");
-  const std::string path = Utf8FromQString(Find<FolderList>(dialog, "Dir1")->Path()) + "/Jméno.html";
-  ExpectState(dialog, "", ("Command1=&Ulož Label1=" + path).c_str());
-}
-
 TEST_F(FileDialogsTest, AnOpenedFileSetsTheFieldsOfALaterSaveDialog) {
-  parts.files.opener.OpenPath(folder.File("b.html"));
+  parts.files.opener.OpenPath(folder.File("a.TXT"));
   Put("bez", "");
   EXPECT_THROW(parts.files.opener.OpenPath(folder.File("bez")), RuntimeError);  // required: keeps the earlier name
-  Expect(Open<Uloz>(), "", "Text1=b Text2=html Label1=~/b.html Command1=&Ulož");
+  Expect(Open("mnusave"), "", "Text1=a Text2=TXT Label1=~/a.TXT Command1=&Ulož");
 }
 
 TEST_F(FileDialogsTest, ConversionsNeedAFileAndWriteBesideIt) {
-  auto& dialog = Open<Dos_Unix_conv>();
+  QWidget& dialog = Open("mnu_utiliti_dos_unix");
   ExpectState(dialog, "",
               "Text1=*.* Label2= Command1='(&DOS --> UNIX)' Command2='(&UNIX --> DOS)' Command4='(U&TF-8 --> 1250)' "
               "Command5='(&1250 --> UTF-8)'");
@@ -137,14 +126,13 @@ TEST_F(FileDialogsTest, ConversionsNeedAFileAndWriteBesideIt) {
   EXPECT_EQ(platform.files[folder.File("b.dos")], "<B>\r\r\n");
   EXPECT_EQ(platform.files[folder.File("b.1250")], "<B>\r\n");
   EXPECT_EQ(platform.files[folder.File("b.utf8")], "\xEF\xBB\xBF<B>\r\n");
-  EXPECT_TRUE(dialog.isVisible());
+  Put("c.html", "");
+  Expect(dialog, "Command1!", "File1=>b.html|c.html");  // a conversion reads the folder again
 }
 
-struct DirSetupTest : FileDialogsTest {
-  DirSetup& dialog = Open<DirSetup>();
-
-  // The names of the windows whose folder list shows the test's folder.
-  [[nodiscard]] std::vector<std::string> WindowsAtTheFolder() const {
+TEST_F(FileDialogsTest, OkInDirSetupSetsTheFolderOfEveryFolderList) {
+  QWidget& dialog = Open("mnudir");
+  const auto windows_at_the_folder = [this] {
     std::vector<std::string> names;
     for (const QWidget* widget : QApplication::allWidgets()) {
       const auto* folders = qobject_cast<const FolderList*>(widget);
@@ -153,27 +141,16 @@ struct DirSetupTest : FileDialogsTest {
     }
     std::ranges::sort(names);
     return names;
-  }
-};
-
-TEST_F(DirSetupTest, OkSetsTheFolderOfEveryFolderList) {
+  };
   Work(dialog, "Drive1=0 Drive1:↓");
   EXPECT_EQ(Find<FolderList>(dialog, "Dir1")->Path(), QStringLiteral("/"));
   Expect(dialog, "Dir1=~ Command2!", "Drive1=/");
-  EXPECT_EQ(WindowsAtTheFolder(), std::vector<std::string>{"DirSetup"});
+  EXPECT_EQ(windows_at_the_folder(), std::vector<std::string>{"DirSetup"});
   dialog.show();
   Work(dialog, "Command1!");
   EXPECT_FALSE(dialog.isVisible());
-  EXPECT_EQ(WindowsAtTheFolder(), (std::vector<std::string>{"DirSetup", "Dos_Unix_conv", "Frame", "Obrazek",
-                                                            "OdkazNaJiný", "Otevři", "Ulož", "Vytvoř"}));
-}
-
-TEST_F(DirSetupTest, ChoosingTheShownFolderIsAChoiceToo) {
-  Expect(dialog, "Dir1=~ Command1!", "Command1=&Ok");
-  auto& save = Open<Uloz>();
-  Named(save, "Command1")->setEnabled(false);
-  Work(dialog, "Command1!");
-  Expect(save, "", "Label1=~/Jméno.html Command1=&Ulož");
+  EXPECT_EQ(windows_at_the_folder(), (std::vector<std::string>{"DirSetup", "Dos_Unix_conv", "Frame", "Obrazek",
+                                                               "OdkazNaJiný", "Otevři", "Ulož", "Vytvoř"}));
 }
 
 }  // namespace

@@ -151,12 +151,6 @@ TEST_F(OfferTest, OldFilesStayUntilTheirTextIsWritten) {
   }
 }
 
-TEST_F(OfferTest, AFileThatCannotBeReadStaysAndNothingIsAsked) {
-  for (const std::string& path : {old, twin, damaged}) platform.read_errors[path] = EIO;
-  Offer({});
-  EXPECT_TRUE(OldFilesAreThere());
-}
-
 TEST_F(OfferTest, ATextThatTheRescueFileCannotTakeGoesIntoAReadableFile) {
   platform.write_errors = {{own, ENOSPC}, {"/tmp/pelmar-rescue-24999999.txt", ENOSPC}};
   box.SetText("typed");

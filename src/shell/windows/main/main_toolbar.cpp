@@ -35,14 +35,11 @@ MainToolbar::MainToolbar(const Commands& commands, Files& files, QWidget* parent
     : QToolBar(parent), commands_(commands), files_(files) {
   setObjectName(QStringLiteral("Toolbar1"));
   setMovable(false);
-  setFloatable(false);
   setIconSize({24, 24});
-  setContextMenuPolicy(Qt::CustomContextMenu);
   for (const ToolbarButton& button : ToolbarButtons()) {
     auto* action = new QAction(this);
     action->setObjectName(Utf8ToQString(button.key));
     action->setText(Utf8ToQString(button.tip));
-    action->setToolTip(Utf8ToQString(button.tip));
     action->setIcon(SvgIcon(QStringLiteral(":/icons/%1.svg").arg(Utf8ToQString(button.picture))));
     connect(action, &QAction::triggered, this, [this, key = button.key] { commands_.Run(key); });
     initial_.append(action);
