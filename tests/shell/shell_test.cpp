@@ -1,6 +1,7 @@
 // The shell's routines: paths, texts, help, status, the places of windows and the settings record.
 #include <gtest/gtest.h>
 
+#include "platform/color.h"
 #include "platform/paths.h"
 #include "platform/runtime_error.h"
 #include "shell/common.h"
@@ -56,7 +57,10 @@ TEST(Paths, MayHaveSlashesOrBackslashesAndASeparatorAtTheEnd) {
   for (const char* folder : {"C:\\x", "C:\\x\\"}) EXPECT_EQ(JoinPath(folder, "a.txt"), "C:\\x\\a.txt");
 }
 
-TEST(CommonRoutines, FormatNumbersAndChangeLetters) {
+TEST(CommonRoutines, FormatNumbersCountLineFeedsAndChangeLetters) {
+  EXPECT_EQ(ColorToHex(0x030201), "#010203");
+  EXPECT_EQ(ColorToHex(Rgb(10, 0, 200)), "#0A00C8");
+  EXPECT_EQ(CountLineFeeds("a\rb\n\n"), 2);
   EXPECT_EQ(NumberWithSignBlank(-3), "-3");
   // Letters of other languages stay.
   EXPECT_EQ(StripDiacritics("ÁČĎÉĚÍŇÓŘŠŤŮÚÝŽ áčďéěíňóřšťůúýž äöüĺľŕ"_w), "ACDEEINORSTUUYZ acdeeinorstuuyz äöüĺľŕ"_w);

@@ -19,6 +19,8 @@ FileTab::FileTab(Documents& documents, QWidget* parent) : QTabBar(parent), docum
   setShape(QTabBar::RoundedEast);
   setUsesScrollButtons(false);
   setExpanding(false);
+  setDrawBase(false);
+  setElideMode(Qt::ElideNone);
   setFocusPolicy(Qt::NoFocus);
   setAccessibleName(QStringLiteral("Dokumenty"));
   for (int tab = 1; tab <= kTabCount; ++tab) {
