@@ -30,6 +30,8 @@ TEST_F(ZaKodTest, TwiceTheSameKeyRestoresTheWholeDocument) {
   EXPECT_FALSE(text.CanUndo());  // required for a replaced text
   ExpectState(dialog, "Text1=0ab Command1!", "Text1=0 Txt=ab");
   EXPECT_EQ(text.Text(), "ab");
+  text.SetText({});
+  ExpectState(dialog, "Command1!", "ProgressBar1=0 Txt=");
 }
 
 TEST_F(ZaKodTest, DuringARunOkIsIgnoredAndAChangedDocumentIsNotEnciphered) {
@@ -110,6 +112,7 @@ struct ShiftTest : ProgramTest {
     PutMarked(text, "x[abcd|x");
     InDialog<Shift>([&](Shift& dialog) {
       ExpectState(dialog, steps, state);
+      EXPECT_EQ(dialog.isVisible(), !QByteArray(steps).contains("Command1!")) << steps;
       dialog.close();
     });
     editor.commands.Run("MnuSelTextPosun");
@@ -187,7 +190,8 @@ TEST_F(RndSifraTest, AFailedLoadIsReportedAndAnEmptyTableWritesNothing) {
   ExpectState(dialog, "Command3!", "List1= Command5=(Zašifruj)");
   EXPECT_EQ(platform.calls.back(), "message 0 \"Nepodařilo se otevřít ...\" \"Open RND\"");
   text.SetText("keep");
-  Work(dialog, "Command2! Command3!");  // loads an empty file
+  Work(dialog, "Command2! Command3!");
+  EXPECT_EQ(platform.files.at("/new.pvt"), "");  // required: a missing file is created and read as empty
   ExpectState(dialog, "Text1=KEEP Command6! Command8!", "Label6='Koeficienty nelze spočítat (dělení nulou)'");
   EXPECT_EQ(text.Text(), "keep");
 }
