@@ -70,9 +70,9 @@ TEST_F(KeyboardTest, AKeyTypesBeforeTheSelection) { ExpectDocument("mnuklavesnic
 TEST_F(KeyboardTest, PhysicalKeysTypeTheirCharacters) {
   ASSERT_TRUE(QTest::qWaitForWindowActive(&keyboard));
   Work(keyboard, "Check1!");
-  QTest::keyClicks(&keyboard, QStringLiteral(" 1\r\b"));
-  Work(keyboard, "Command3:'a '");      // the key loses the focus
-  Work(keyboard, "Command3:'↓ '");      // the space bar clicks the key below
+  QTest::keyClicks(&keyboard, QStringLiteral(" 1\r\b\t"));  // Tab moves the focus
+  Work(keyboard, "Command3:'a '");                          // the key loses the focus
+  Work(keyboard, "Command3:'↓ '");                          // the space bar clicks the key below
   EXPECT_EQ(text.Text(), " 1\r\bA A");  // required: Enter and Backspace type the characters 13 and 8
 }
 

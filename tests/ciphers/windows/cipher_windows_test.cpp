@@ -38,6 +38,7 @@ TEST_F(ZaKodTest, DuringARunOkIsIgnoredAndAChangedDocumentIsNotEnciphered) {
   std::string once;
   StreamCipher(0).Append(long_text, once);
   EXPECT_EQ(AfterRun([&] { Work(dialog, "Command1!"); }), once);  // starts no second run
+  ExpectState(dialog, "", "ProgressBar1=64000");
   platform.files = {{"/same.txt", long_text}};
   platform.opens = {"/same.txt"};
   EXPECT_EQ(AfterRun([&] { editor.commands.Run("mnu_open_st"); }), long_text);
@@ -99,7 +100,9 @@ TEST_F(ProgramTest, TheCaretOfAKeyFieldStaysWhereThePersonTypes) {
 TEST_F(ProgramTest, ChtTranscribesTheDocumentAndShowsTheLookAlikes) {
   text.SetText("aQ\r\n");
   platform.draws = {0.5, 0.99, 0.9, 0.9};
-  ExpectState(Open("Mnu_Hack_cry"), "Command1!",
+  const QWidget& dialog = Open("Mnu_Hack_cry");
+  EXPECT_EQ(dialog.focusWidget(), Named(dialog, "Command1"));
+  ExpectState(dialog, "Command1!",
               "Text1='ABCDEFGHIJKLMNOPQRSTUVWXYZ\r\nabcdefghijklmnopqrstuvwxyz\r\n&8(>3[6#1?<7~%09  5+ ^M*/2\r\n"
               "@  )    !  4w     $   m\r\n        |   W'");
   EXPECT_EQ(text.Text(), "@q\r\n");
