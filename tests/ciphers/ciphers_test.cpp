@@ -170,8 +170,8 @@ TEST(CheckSums, AreShownInFourLines) {
     std::string text;
     const char *crc, *contra_crc, *and_crc, *short_crc;
   } cases[] = {
-      // The last character is in no pair and in no group of four.
-      {"ABCDE", "14F (335)", "A (10)", "80 (128)", "0 (0)"},
+      // The last character is in no pair, the last three are in no group of four.
+      {"ABCDEFG", "1DC (476)", "D (13)", "C4 (196)", "0 (0)"},
       {"\xFF\xFF\x0F\x0F\x01\x01\x02\x02", "222 (546)", "0 (0)", "111 (273)", "F3 (243)"},
   };
   for (const auto& c : cases) {

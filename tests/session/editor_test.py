@@ -1,4 +1,4 @@
-"""Documents from opening to saving, and the notes alone, with the real program."""
+"""Documents from opening to saving, with the real program."""
 
 import unittest
 
@@ -31,17 +31,6 @@ class DocumentTest(EditorCase):
         self.work("[Pelmar VEX] Return")
         self.wait_exit(1)
         self.assertTrue(self.is_rescued(b"plain"))
-
-
-class NotesTest(EditorCase):
-    def test_notes_alone_write_no_other_file(self):
-        files = {path: path.read_bytes() for path in self.folder.iterdir()}
-        notes = self.start("-note", title="Poznámky")
-        self.assertEqual(self.windows(), [notes])
-        self.work('"milk" alt+F4 [Konec] Return /')  # No is the default
-        self.end(notes, "alt+a")
-        files[self.folder / "notes.dat"] = b"\4\0milk" + bytes(8)
-        self.assertEqual({path: path.read_bytes() for path in self.folder.iterdir()}, files)
 
 
 if __name__ == "__main__":

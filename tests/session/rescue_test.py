@@ -24,10 +24,6 @@ class RescueTest(EditorCase):
         self.assertEqual(self.autosaved(), b"third!")
         self.assertEqual(self.rescues(), [])
 
-    def remove_rescues_and_autosaves(self):
-        for one in (*self.rescues(), *self.folder.glob("autosave_*")):
-            one.unlink()
-
     def test_the_system_ends_the_program_and_nothing_is_lost(self):
         for number in (signal.SIGTERM, signal.SIGHUP):
             main = self.start()
@@ -42,7 +38,8 @@ class RescueTest(EditorCase):
             self.assertEqual(self.autosaved(), b"typed just now")
             self.assertIn(b"typed just now", (self.folder / "autosave_all_files.txt").read_bytes())
             self.assertTrue((self.folder / "pelmar.ini").stat().st_size)
-            self.remove_rescues_and_autosaves()
+            for one in (*self.rescues(), *self.folder.glob("autosave_*")):
+                one.unlink()
 
 
 if __name__ == "__main__":

@@ -6,8 +6,6 @@
 #include <string>
 #include <string_view>
 
-#include "platform/random.h"
-
 namespace pelmar {
 
 class RandomSource {
@@ -29,10 +27,6 @@ class RandomSource {
     return text;
   }
   double Next() { return static_cast<double>(random_()) / 4294967296.0; }
-  // This object must outlive the result.
-  Draw Draws() {
-    return [this] { return Next(); };
-  }
 
  private:
   std::mt19937 random_;

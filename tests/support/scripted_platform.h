@@ -58,8 +58,7 @@ class ScriptedPlatform : public Platform, public Paper {
   int reseeds = 0;
   std::string install_folder = "/install/";
   PrintOutcome print_outcome{.printer = "P"};
-  double paper_width = 100;  // each character is one dot wide
-  int busy = 0;              // the number of busy pointers that were set and not reset
+  int busy = 0;  // the number of busy pointers that were set and not reset
 
   Answer Message(MessageType type, std::string_view text, std::string_view title) override {
     const std::string call = Note("message " + std::to_string(static_cast<int>(type)), {text, title});
@@ -176,7 +175,7 @@ class ScriptedPlatform : public Platform, public Paper {
     return error || files.contains(path) ? error : ENOENT;
   }
 
-  [[nodiscard]] double Width() const override { return paper_width; }
+  [[nodiscard]] double Width() const override { return 100; }  // each character is one dot wide
   [[nodiscard]] std::size_t LinesPerPage() const override { return 3; }
   [[nodiscard]] double EndOf(double x, std::string_view text) const override {
     return x + static_cast<double>(text.size());

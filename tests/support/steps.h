@@ -10,7 +10,8 @@
 //   List1=2        makes a row of a list current, counted from 0; List1=abc the first row that begins with "abc"
 //   Combo1=2       chooses a row of a box that isn't editable; TabStrip1=1 chooses a tab
 //   Dir1=/a        goes to a folder
-//   Text1:ab\r     gives the focus to a control and types: \r Enter, \b Backspace, \x7f Delete, \x1b Escape, → and ↓
+//   Text1:ab\r     gives the focus to a control and types: \r Enter, \b Backspace, \x7f Delete, \x1b Escape, → and ↓;
+//                  a letter such as ň is composed, as after a dead key
 // States:
 //   Label1=abc     the text of a label, button, field or box, or the value of a bar
 //   Check1=1       a check box, an option or a button is checked; 0: it isn't checked
@@ -27,6 +28,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QTest>
@@ -88,7 +90,10 @@ inline void Type(QWidget& focus, QChar key) {
       {u'\x7F', Qt::Key_Delete}, {u'→', Qt::Key_Right}, {u'↓', Qt::Key_Down}};
   for (const auto& [sign, named] : kNamed)
     if (key == QChar(sign)) return QTest::keyClick(&focus, named);
-  QTest::keyClick(&focus, key.toLatin1());
+  if (key.toLatin1() != 0) return QTest::keyClick(&focus, key.toLatin1());
+  QInputMethodEvent composed;
+  composed.setCommitString(key);
+  QCoreApplication::sendEvent(&focus, &composed);
 }
 
 // Runs the steps.

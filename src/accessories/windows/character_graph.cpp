@@ -9,19 +9,11 @@
 
 namespace pelmar {
 
-CharacterGraph::CharacterGraph(QWidget* parent) : QWidget(parent) {
-  setMouseTracking(true);
-  setAttribute(Qt::WA_OpaquePaintEvent);
-}
+CharacterGraph::CharacterGraph(QWidget* parent) : QWidget(parent) { setMouseTracking(true); }
 
 void CharacterGraph::Show(std::vector<Bar> bars, bool wide) {
   bars_ = std::move(bars);
   wide_ = wide;
-  update();
-}
-
-void CharacterGraph::Clear() {
-  bars_.clear();
   update();
 }
 

@@ -17,7 +17,7 @@ class CharacterGraph : public QWidget {
   QSize sizeHint() const override { return {kGraphWidth, kGraphHeight}; }
 
   void Show(std::vector<Bar> bars, bool wide);
-  void Clear();
+  void Clear() { Show({}, wide_); }
 
  Q_SIGNALS:
   void Pointed(double x);  // the place of the mouse pointer, in the graph's scale

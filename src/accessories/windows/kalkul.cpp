@@ -23,7 +23,6 @@ Kalkul::Kalkul(Platform& platform, bool stand_alone, Callbacks callbacks, QWidge
   }
   // In a button group, the arrow keys move the focus between the buttons by their position.
   auto* group = new QButtonGroup(this);
-  group->setExclusive(false);
   for (QPushButton* button : findChildren<QPushButton*>()) group->addButton(button);
   ConnectEntry();
   ConnectOperators();

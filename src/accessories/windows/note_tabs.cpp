@@ -16,8 +16,6 @@ QString Caption(int page) { return QStringLiteral("Poznámka %1").arg(page); }
 }  // namespace
 
 NoteTabs::NoteTabs(QWidget* parent) : QTabBar(parent) {
-  // Qt would centre scroll buttons vertically in this control, where the text box would cover the buttons.
-  setUsesScrollButtons(false);
   for (int page = 1; page <= kNotePages; ++page) {
     const int tab = addTab(Caption(page));
     setTabData(tab, QStringLiteral("Note%1").arg(page));

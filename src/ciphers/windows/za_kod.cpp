@@ -23,7 +23,6 @@ ZaKod::ZaKod(Editor& editor, std::function<bool()> closed, QWidget* parent)
 void ZaKod::Command1_Click() {
   if (running_) return;  // pressed again while RewriteStream below handles events
   const QScopedValueRollback<bool> running(running_, true);
-  ui_->Txt->Buffer().SetText({});
   const double key = LeadingNumber(FieldText(*ui_->Text1));
   const auto length = static_cast<int>(editor_.text.Size());
   ui_->ProgressBar1->setMaximum(std::max(1, length));  // a maximum of 0 would show a busy bar

@@ -20,11 +20,11 @@ struct AnalyticTest : ProgramTest {
   }
   [[nodiscard]] std::string FirstRow() const { return list->item(0)->text().toStdString(); }
   [[nodiscard]] std::string SelectedRow() const { return list->currentItem()->text().toStdString(); }
-  // The number of black columns just above the graph's lower edge.
+  // The number of columns just above the graph's lower edge that are not white.
   [[nodiscard]] int Columns() const {
     const QImage image = graph->grab().toImage();
     int columns = 0;
-    for (int x = 2; x < image.width() - 2; ++x) columns += qGray(image.pixel(x, image.height() - 4)) < 64 ? 1 : 0;
+    for (int x = 2; x < image.width() - 2; ++x) columns += qGray(image.pixel(x, image.height() - 4)) < 255 ? 1 : 0;
     return columns;
   }
 };

@@ -16,8 +16,10 @@ TEST_F(KalkulTest, ItsKeysTypeAndEraseDigits) {
               "Cislo=1234567890");
   ExpectState(kalkul, "Command21!", "Cislo=123456789");
   ExpectState(kalkul, "Command22!", "Cislo=23456789");
-  ExpectState(kalkul, "Command11!", "Cislo=23456789,");
+  ExpectState(kalkul, "Command11! Command11!", "Cislo=23456789,");
   ExpectState(kalkul, "Command23!", "Cislo=0");
+  ExpectState(kalkul, "Command21!", "Cislo=0");
+  ExpectState(kalkul, "Command22!", "Cislo=0");
 }
 
 TEST_F(KalkulTest, EachOperatorKeyWaitsForTheSecondNumber) {
@@ -37,9 +39,10 @@ TEST_F(KalkulTest, EachOperatorKeyWaitsForTheSecondNumber) {
 
 TEST_F(KalkulTest, AWaitingOperatorDisablesTheOperatorKeys) {
   ExpectState(kalkul, "", "Command12=&+ Command32=&log Command33=&x^y Command16=(&=)");
-  ExpectState(kalkul, "Command12!",
+  ExpectState(kalkul, "Command12: Command12!",
               "Command12=(&+) Command13=(&-) Command14=(&*) Command15=(&/) Command32=(&log) Command33=(&x^y) "
               "Command16=&=");
+  EXPECT_EQ(kalkul.focusWidget(), Named(kalkul, "Cislo"));  // not the next key
   ExpectState(kalkul, "Command16!", "Command12=&+ Command32=&log Command33=&x^y Command16=(&=)");
 }
 
@@ -88,7 +91,6 @@ TEST_F(PrevTest, OpensFromTheCalculatorAndIsHiddenWithIt) {
   ExpectState(kalkul, "Command4! Command20!", "Cislo=4");
   EXPECT_FALSE(kalkul.isVisible() || prev.isVisible());
   kalkul.Present();
-  EXPECT_FALSE(prev.isVisible());
   Work(kalkul, "Command35!");
   EXPECT_TRUE(prev.isVisible());
 }
@@ -126,6 +128,12 @@ TEST_F(PrevTest, ConvertsFromEachFieldByKeysAndByItsButton) {
   ExpectState(prev, "Label3:\b\b\bffg Command39!", "Label1=255 Label3=FF Label6=377 Label8=CCLV");
   ExpectState(prev, "Label6:\b\b\b189 Command40!", "Label1=1 Label3=1 Label6=1 Label8=I");
   ExpectState(prev, "Label6:2\r", "Label1=10 Label3=A Label6=12 Label8=X");
+}
+
+TEST_F(PrevTest, AHiddenWindowStopsALongConversion) {
+  Work(prev, "Label1:40000000");
+  Inside([this] { prev.hide(); });
+  ExpectState(prev, "Command38!", "Label3=2625A00 Label8=");
 }
 
 TEST_F(PrevTest, SendsEachFieldToTheDocument) {

@@ -1,4 +1,7 @@
 // The notes window: its pages, its file, the rescue of unsaved notes, its place.
+#include <QStyleOptionTab>
+
+#include "accessories/windows/note_tabs.h"
 #include "accessories/windows/poznamka.h"
 #include "platform/qt/frames/outer_geometry.h"
 #include "shell/windows/o.h"
@@ -33,26 +36,18 @@ struct NotesWindowTest : ProgramTest {
     program.Run("-NOTE");
     notes = &parts.windows.Get<Poznamka>();
   }
-  // The names of the lock files.
-  [[nodiscard]] std::vector<std::string> Locks() const {
-    std::vector<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(folder.Path()))
-      if (entry.path().extension() == ".lock") names.push_back(entry.path().filename());
-    return names;
-  }
 };
 
-TEST_F(NotesWindowTest, StaysOnTopAndHasTheEditorsFont) {
+TEST_F(NotesWindowTest, HasTheEditorsFont) {
   main.SetEditorFontSize(14);
   main.SetEditorBold(true);
   OpenOver({});
-  EXPECT_TRUE(notes->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
   EXPECT_EQ(Named(*notes, "Text1")->font().pointSize(), 14);
   EXPECT_TRUE(Named(*notes, "Text1")->font().bold());
 }
 
 TEST_F(NotesWindowTest, ADialogOpensAboveThem) {
-  OpenOver({});
+  OpenOver({});  // on top of all normal windows
   EXPECT_TRUE(Open<O>().windowHandle()->flags().testFlag(Qt::WindowStaysOnTopHint));
 }
 
@@ -106,12 +101,24 @@ TEST_F(NotesWindowTest, AloneTheCloseStoresThenAsksAndANoKeepsTheWindow) {
   EXPECT_EQ(platform.calls.back(), R"(message 276 "OPRAVDU UKONČIT Poznámky (Pelmar VEX) ?" "Konec")");
 }
 
+TEST_F(NotesWindowTest, AloneAYesEndsTheProgramWhichWritesOnlyTheNotes) {
+  RunAloneOver({{"first"}});
+  EXPECT_FALSE(main.isVisible());
+  platform.TakeCalls();
+  platform.answers = {Answer::kYes};
+  notes->close();
+  EXPECT_EQ(QCoreApplication::exec(), EXIT_SUCCESS);
+  EXPECT_EQ(platform.calls.size(), 2u) << platform.TakeCallsInOneLine();  // the write and the question
+}
+
 TEST_F(NotesWindowTest, APageThatAnotherCopyStoredMeanwhileStays) {
   RunAloneOver({{"first", "second"}});
   notes->Buffer().Type("my ");
   File() = NotesBytes({{"their first", "their second", "", "x", "y"}});
   platform.answers = {Answer::kOk, Answer::kNo, Answer::kNo};
   notes->close();
+  EXPECT_EQ(platform.calls.end()[-2],
+            R"(message 0 "Poznámku 1 mezitím změnila i jiná kopie programu. Uložena jsou obě znění." "Poznámky")");
   const std::string both = NotesBytes({{"their first", "their second", "my first", "x", "y"}});
   EXPECT_EQ(File(), both);
   ExpectState(*notes, "", "Text1='their first'");
@@ -123,13 +130,29 @@ TEST_F(NotesWindowTest, APageThatAnotherCopyStoredMeanwhileStays) {
 TEST_F(NotesWindowTest, UnsavedPagesAreRescuedSoonAndAtAnEndWithoutAClose) {
   OpenOver({});
   Work(*notes, "Text1=typed");
-  ASSERT_TRUE(QTest::qWaitFor([this] { return !Locks().empty(); }));
+  ASSERT_TRUE(QTest::qWaitFor([this] { return !platform.calls.empty(); }));  // the write
   Work(*notes, "Text1='typed later'");
   parts.windows.Unload<Poznamka>();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   const auto kept = platform.files.lower_bound(platform.install_folder + "notes-rescue-");
   ASSERT_NE(kept, platform.files.end());
   EXPECT_EQ(ReadRescue(kNotesRescue, kept->second), (RescueRecord{1, {{1, "", "typed later"}}}));
+}
+
+TEST_F(NotesWindowTest, PagesOfACrashedRunComeBackToTheirPlaces) {
+  platform.files[folder.Put("notes-rescue-1-1.pelmar", "")] =
+      RescueBytes(kNotesRescue, {2, {{1, "first", "my first"}, {2, "old", "lost"}, {3, "", "x"}}});
+  File() = NotesBytes({{"first", "x", "x", "x", "x"}});
+  platform.answers = {Answer::kYes, Answer::kOk};
+  const QWidget& window = Open("mnupozn");
+  EXPECT_EQ(platform.calls.front(),
+            "message 52 \"Poznámky minule nebyly uloženy.\r\nPočet zachovaných stránek: 2.\r\n"
+            "Vrátit je do poznámek ?\" \"Záchrana\"");
+  EXPECT_EQ(platform.calls.back(), "message 64 \"Všechny stránky se do poznámek nevešly. Zbylé jsou v souboru\r\n" +
+                                       folder.File("notes-rescued.txt") + "\" \"Záchrana\"");
+  EXPECT_EQ(File("notes-rescued.txt"), ReadableNotes({{2, "old", "lost"}}));
+  ExpectState(window, "", "TabStrip1=1 Text1=x");
+  ExpectState(window, "TabStrip1=0", "Text1='my first'");
 }
 
 TEST_F(NotesWindowTest, TheMenuStoresAndRestoresTheCheckpoint) {
@@ -141,6 +164,22 @@ TEST_F(NotesWindowTest, TheMenuStoresAndRestoresTheCheckpoint) {
   EXPECT_EQ(text.Text(), "kept");
   Work(main, "mnu_chp_v!");
   EXPECT_TRUE(parts.windows.Get<Poznamka>().isVisible());
+}
+
+TEST(NoteTabs, ShowTheirNamesOrInANarrowWindowTheirNumbers) {
+  struct Tabs : NoteTabs {
+    using NoteTabs::initStyleOption;
+  };
+  for (const auto& [width, caption] : {std::pair(2000, "Poznámka 5"), {180, "5"}}) {
+    Tabs tabs;
+    tabs.setExpanding(false);  // as in the form
+    tabs.resize(width, tabs.RowHeight());
+    QStyleOptionTab fifth;
+    tabs.initStyleOption(&fifth, 4);
+    EXPECT_EQ(fifth.text.toStdString(), caption) << width;
+    EXPECT_EQ(tabs.tabToolTip(4).toStdString(), "Poznámka 5");
+    EXPECT_EQ(tabs.tabData(4).toString().toStdString(), "Note5");
+  }
 }
 
 TEST_F(NotesWindowTest, DocksBesideTheMainWindow) {

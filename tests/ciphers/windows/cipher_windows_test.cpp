@@ -30,12 +30,15 @@ TEST_F(ZaKodTest, TwiceTheSameKeyRestoresTheWholeDocument) {
   EXPECT_FALSE(text.CanUndo());  // required for a replaced text
   ExpectState(dialog, "Text1=0ab Command1!", "Text1=0 Txt=ab");
   EXPECT_EQ(text.Text(), "ab");
+  text.SetText({});
+  ExpectState(dialog, "Command1!", "ProgressBar1=0 Txt=");
 }
 
 TEST_F(ZaKodTest, DuringARunOkIsIgnoredAndAChangedDocumentIsNotEnciphered) {
   std::string once;
   StreamCipher(0).Append(long_text, once);
   EXPECT_EQ(AfterRun([&] { Work(dialog, "Command1!"); }), once);  // starts no second run
+  ExpectState(dialog, "", "ProgressBar1=64000");
   platform.files = {{"/same.txt", long_text}};
   platform.opens = {"/same.txt"};
   EXPECT_EQ(AfterRun([&] { editor.commands.Run("mnu_open_st"); }), long_text);
@@ -97,7 +100,9 @@ TEST_F(ProgramTest, TheCaretOfAKeyFieldStaysWhereThePersonTypes) {
 TEST_F(ProgramTest, ChtTranscribesTheDocumentAndShowsTheLookAlikes) {
   text.SetText("aQ\r\n");
   platform.draws = {0.5, 0.99, 0.9, 0.9};
-  ExpectState(Open("Mnu_Hack_cry"), "Command1!",
+  const QWidget& dialog = Open("Mnu_Hack_cry");
+  EXPECT_EQ(dialog.focusWidget(), Named(dialog, "Command1"));
+  ExpectState(dialog, "Command1!",
               "Text1='ABCDEFGHIJKLMNOPQRSTUVWXYZ\r\nabcdefghijklmnopqrstuvwxyz\r\n&8(>3[6#1?<7~%09  5+ ^M*/2\r\n"
               "@  )    !  4w     $   m\r\n        |   W'");
   EXPECT_EQ(text.Text(), "@q\r\n");
@@ -110,6 +115,7 @@ struct ShiftTest : ProgramTest {
     PutMarked(text, "x[abcd|x");
     InDialog<Shift>([&](Shift& dialog) {
       ExpectState(dialog, steps, state);
+      EXPECT_EQ(dialog.isVisible(), !QByteArray(steps).contains("Command1!")) << steps;
       dialog.close();
     });
     editor.commands.Run("MnuSelTextPosun");
@@ -187,7 +193,8 @@ TEST_F(RndSifraTest, AFailedLoadIsReportedAndAnEmptyTableWritesNothing) {
   ExpectState(dialog, "Command3!", "List1= Command5=(Zašifruj)");
   EXPECT_EQ(platform.calls.back(), "message 0 \"Nepodařilo se otevřít ...\" \"Open RND\"");
   text.SetText("keep");
-  Work(dialog, "Command2! Command3!");  // loads an empty file
+  Work(dialog, "Command2! Command3!");
+  EXPECT_EQ(platform.files.at("/new.pvt"), "");  // required: a missing file is created and read as empty
   ExpectState(dialog, "Text1=KEEP Command6! Command8!", "Label6='Koeficienty nelze spočítat (dělení nulou)'");
   EXPECT_EQ(text.Text(), "keep");
 }
