@@ -232,7 +232,7 @@ TEST(WriteFile, LosesNothingIfAnyCallFails) {
       for (bool done = false; !done;) {
         ++number;
         SCOPED_TRACE(testing::Message() << way.name << ", error " << error << ", call " << number
-                                        << (all_later ? " on" : ""));
+                                        << (all_later ? "+" : ""));
         const SaveCase file(way);
         failing = {.number = number, .error = error, .all_later = all_later};
         const WriteOutcome outcome = file.Save();

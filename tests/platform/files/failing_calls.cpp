@@ -33,9 +33,9 @@ void Note(const char* step) {
   if (failing.counts) failing.steps += std::string(failing.steps.empty() ? "" : " ") + step;
 }
 
-template <typename Result, typename... Arguments>
+template <typename Result, bool transfers = false, typename... Arguments>
 Result Pass(const char* name, Arguments... arguments) {
-  return Fails() ? -1 : Real<Result>(name, arguments...);
+  return Fails(transfers) ? -1 : Real<Result>(name, arguments...);
 }
 
 }  // namespace
@@ -75,9 +75,7 @@ int fsync(int file) {
   Note(folder ? "folder" : "content");
   return pelmar::Fails() ? -1 : 0;
 }
-ssize_t read(int file, void* bytes, size_t size) {
-  return pelmar::Fails(true) ? -1 : pelmar::Real<ssize_t>("read", file, bytes, size);
-}
+ssize_t read(int file, void* bytes, size_t size) { return Pass<ssize_t, true>("read", file, bytes, size); }
 int syncfs(int /*file*/) { return pelmar::Fails() ? -1 : 0; }
 off_t lseek(int file, off_t at, int from) { return Pass<off_t>("lseek", file, at, from); }
 int ftruncate(int file, off_t size) { return Pass<int>("ftruncate", file, size); }

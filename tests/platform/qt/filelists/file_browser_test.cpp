@@ -136,7 +136,6 @@ TEST_F(FileBrowserTest, ArrowKeysSelectFilesBeginningWithTheFirst) {
   Show();
   QTest::keyClick(&files, Qt::Key_Return);
   EXPECT_EQ(Files(), "a.txt|b.HTM|c.htm|d");  // the focus alone selects nothing
-  EXPECT_EQ(events, Events{});
   QTest::keyClick(&files, Qt::Key_Down);
   EXPECT_EQ(Files(), ">a.txt|b.HTM|c.htm|d");
   QTest::keyClick(&files, Qt::Key_Down);
