@@ -341,11 +341,10 @@ TEST_F(TextBoxTest, KeysScrollByPagesAndWithCtrlByRows) {
 
 TEST_F(TextBoxTest, AResizeKeepsTheTopRow) {
   SetRows(500);
-  const auto top = [this] { return box->RowSpan(box->PlaceAt({0, 0}).pos).begin; };
   box->verticalScrollBar()->setValue(100 * box->verticalScrollBar()->singleStep());
-  const std::size_t before = top();
+  const std::size_t before = box->PlaceAt({0, 0}).pos;
   box->resize(200, 300);
-  EXPECT_EQ(top(), box->RowSpan(before).begin);
+  EXPECT_EQ(box->RowSpan(box->PlaceAt({0, 0}).pos).begin, box->RowSpan(before).begin);
 }
 
 TEST_F(TextBoxTest, FollowsItsBufferUntilItGetsAnother) {
