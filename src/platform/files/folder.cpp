@@ -14,7 +14,7 @@ int MakeFolder(const std::string& path) {
   std::error_code ignored;
   if (std::filesystem::is_directory(path, ignored)) return 0;
   const std::string above = std::filesystem::path(path).parent_path().native();
-  if (!above.empty() && above != path)
+  if (!above.empty())
     if (const int error = MakeFolder(above)) return error;
   if (mkdir(path.c_str(), kOwnerAlone) != 0) {
     const int error = errno;

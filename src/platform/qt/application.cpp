@@ -20,8 +20,7 @@ bool IsTaken(QObject& receiver, QEvent& event) {
 
 bool Application::notify(QObject* receiver, QEvent* event) {
   try {
-    if (IsTaken(*receiver, *event)) return true;
-    return QApplication::notify(receiver, event);
+    return IsTaken(*receiver, *event) || QApplication::notify(receiver, event);
   } catch (const RuntimeError& error) {
     if (!on_runtime_error) throw;
     on_runtime_error(error);

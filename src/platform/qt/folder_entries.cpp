@@ -40,10 +40,7 @@ QStringList NamesOf(const QString& path, Kind kind, const std::function<bool(con
     const QString shown = ShownPath(name);
     if (wanted(shown)) names.emplace_back(collator.sortKey(shown), std::move(name));
   }
-  std::sort(names.begin(), names.end(), [](const auto& left, const auto& right) {
-    const int order = left.first.compare(right.first);
-    return order != 0 ? order < 0 : left.second < right.second;
-  });
+  std::sort(names.begin(), names.end());
   QStringList result;
   for (auto& name : names) result.append(std::move(name.second));
   return result;

@@ -27,8 +27,6 @@ QRawFont SignFace(const QFont& font) {
   const qreal size = QRawFont::fromFont(font).pixelSize();
   QFont small(font);
   small.setPixelSize(qRound(std::max(size * kSignScale, std::min(size, kSmallestSign))));
-  small.setUnderline(false);
-  small.setStrikeOut(false);
   return QRawFont::fromFont(small);
 }
 

@@ -15,10 +15,11 @@ namespace {
 // The bits of O_TMPFILE, and O_CREAT | O_EXCL.
 constexpr int kUnnamed = 020000000, kNew = 0300;
 
-// Counts a call. Returns true and sets errno if the call is to fail.
-bool Fails() {
+// Counts a call. Returns true and sets errno if the call is to fail. Only a read or a write fails with EINTR.
+bool Fails(bool transfers = false) {
   if (!failing.counts || ++failing.made < failing.number || failing.number == 0) return false;
   if (failing.made > failing.number && !failing.all_later) return false;
+  if (failing.error == EINTR && !transfers) return false;
   errno = failing.error;
   return true;
 }
@@ -32,9 +33,9 @@ void Note(const char* step) {
   if (failing.counts) failing.steps += std::string(failing.steps.empty() ? "" : " ") + step;
 }
 
-template <typename Result, typename... Arguments>
+template <typename Result, bool transfers = false, typename... Arguments>
 Result Pass(const char* name, Arguments... arguments) {
-  return Fails() ? -1 : Real<Result>(name, arguments...);
+  return Fails(transfers) ? -1 : Real<Result>(name, arguments...);
 }
 
 }  // namespace
@@ -59,7 +60,8 @@ int open(const char* path, int flags, ...) {
 }
 // A failing call writes half of the bytes, as on a disk that becomes full.
 ssize_t write(int file, const void* bytes, size_t size) {
-  const bool fails = pelmar::Fails();
+  const bool fails = pelmar::Fails(true);
+  if (fails && errno == EINTR) return -1;
   const ssize_t written = pelmar::Real<ssize_t>("write", file, bytes, fails ? size / 2 : size);
   if (!fails) return written;
   errno = pelmar::failing.error;
@@ -73,7 +75,8 @@ int fsync(int file) {
   Note(folder ? "folder" : "content");
   return pelmar::Fails() ? -1 : 0;
 }
-ssize_t read(int file, void* bytes, size_t size) { return Pass<ssize_t>("read", file, bytes, size); }
+ssize_t read(int file, void* bytes, size_t size) { return Pass<ssize_t, true>("read", file, bytes, size); }
+int syncfs(int /*file*/) { return pelmar::Fails() ? -1 : 0; }
 off_t lseek(int file, off_t at, int from) { return Pass<off_t>("lseek", file, at, from); }
 int ftruncate(int file, off_t size) { return Pass<int>("ftruncate", file, size); }
 int fallocate(int file, int mode, off_t at, off_t size) { return Pass<int>("fallocate", file, mode, at, size); }

@@ -84,9 +84,7 @@ class IndentingDelegate : public QStyledItemDelegate {
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
     QStyleOptionViewItem indented = option;
-    const int indent = IndentOf(option, index);
-    indented.rect.adjust(option.direction == Qt::RightToLeft ? 0 : indent, 0,
-                         option.direction == Qt::RightToLeft ? -indent : 0, 0);
+    indented.rect.adjust(IndentOf(option, index), 0, 0, 0);
     QStyledItemDelegate::paint(painter, indented, index);
   }
 
@@ -111,7 +109,6 @@ QString Climb(QString path) {
 FolderList::FolderList(QWidget* parent) : QListView(parent), model_(new FolderModel(this)) {
   setModel(model_);
   setItemDelegate(new IndentingDelegate(this));
-  setEditTriggers(NoEditTriggers);
   connect(this, &QListView::doubleClicked, this, &FolderList::EnterHighlighted);
   path_ = Climb(CurrentFolder());
 }

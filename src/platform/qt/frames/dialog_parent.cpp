@@ -42,11 +42,10 @@ QWidget* DialogParent() {
 }
 
 void ExpectActive(QWidget* window) {
-  static const auto forgets =
+  [[maybe_unused]] static const auto forgets =
       QObject::connect(qApp, &QGuiApplication::focusWindowChanged, qApp, [](const QWindow* now) {
         if (now != nullptr) Expected() = nullptr;
       });
-  Q_UNUSED(forgets);
   Expected() = window;
   if (window != nullptr && window->isVisible()) window->activateWindow();
 }

@@ -171,7 +171,7 @@ void TextBox::UpdateRows(const RowsChange& rows) {
   const int top = view_->RowTop(rows.first) - Scrolled() - TextView::kOverhang;
   const int end = view_->RowTop(rows.first + rows.inserted) - Scrolled() + TextView::kOverhang;
   const int bottom = rows.removed != rows.inserted ? viewport()->height() : end;
-  if (bottom > 0 && top < viewport()->height()) viewport()->update(0, top, viewport()->width(), bottom - top);
+  viewport()->update(0, top, viewport()->width(), bottom - top);
 }
 
 void TextBox::UpdateRowsOf(TextSpan span) {

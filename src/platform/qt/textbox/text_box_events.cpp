@@ -238,7 +238,6 @@ void TextBox::resizeEvent(QResizeEvent* /*event*/) {
 }
 
 void TextBox::showEvent(QShowEvent* event) {
-  QAbstractScrollArea::showEvent(event);
   // The window manager shows the window again: keep the scroll position.
   if (ready_ && event->spontaneous()) return Relayout();
   if (ready_) return ShowAnew();
