@@ -96,6 +96,7 @@ PrintOutcome PrintIntoPdf(const PrintFont& font, const QString& name, const std:
   QPdfWriter writer(&file);
   writer.setTitle(name);
   writer.setCreator(QStringLiteral("Pelmar VEX"));
+  writer.setPageSize(QPageSize(QPageSize::A4));
   writer.setPageMargins(QMarginsF(kPdfMargin, kPdfMargin, kPdfMargin, kPdfMargin), QPageLayout::Millimeter);
   if (!PrintOn(writer, font, draw) || !IsWholePdf(file)) {
     failed();
