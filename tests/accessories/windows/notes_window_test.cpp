@@ -172,8 +172,8 @@ TEST(NoteTabs, ShowTheirNamesOrInANarrowWindowTheirNumbers) {
   };
   for (const auto& [width, caption] : {std::pair(2000, "Poznámka 5"), {180, "5"}}) {
     Tabs tabs;
-    tabs.setExpanding(false);  // as in the form
     tabs.resize(width, tabs.RowHeight());
+    tabs.setExpanding(false);  // as in the form
     QStyleOptionTab fifth;
     tabs.initStyleOption(&fifth, 4);
     EXPECT_EQ(fifth.text.toStdString(), caption) << width;
