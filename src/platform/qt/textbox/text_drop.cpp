@@ -48,8 +48,8 @@ void TextDrop::StartDrag(TextBox& box) {
   auto* drag = new QDrag(&box);
   drag->setMimeData(MimeFromText(dragged));
   const Qt::DropActions offered = box.IsReadOnly() ? Qt::CopyAction : Qt::CopyAction | Qt::MoveAction;
-  // Accept moves a text within this text box. Elsewhere a drag copies, and moves with Shift: a word that is dragged into
-  // a search field must stay in the text.
+  // Within this text box Accept moves the text. Elsewhere a drag copies the text, because a word that is dragged into a
+  // search field must stay in the document. With Shift the drag moves the text.
   const Qt::DropAction done = drag->exec(offered, Qt::CopyAction);
   if (guard.isNull() || box.IsReadOnly() || done != Qt::MoveAction) return;
   const QObject* target = drag->target();
