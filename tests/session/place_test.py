@@ -48,6 +48,13 @@ class PlaceTest(EditorCase):
         self.end(main, answer=None)
         self.assertEqual(self.stored()[4], 2)
 
+    def test_a_window_that_starts_maximised_goes_to_its_stored_place(self):
+        write_settings(self.folder, left=0, top=0, width=9000, height=6000, window_state=2)
+        main = self.start()
+        self.wait_place(main, 0, 0, *SIZE)
+        self.command("wmctrl", "-i", "-r", main.id, "-b", "remove,maximized_vert,maximized_horz")
+        self.wait_place(main, 0, 0, 600, 400)
+
     def test_a_window_that_starts_minimised_keeps_its_place(self):
         place = (300, 450, 12000, 9000)
         left, top, width, height = place
