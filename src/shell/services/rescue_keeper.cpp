@@ -102,8 +102,6 @@ Kept RescueKeeper::KeepNow() {
   if (WriteAndWait() == 0)
     return writer_.HasWritten() ? Kept{.place = Kept::kRescueFile, .path = writer_.Store().Path()} : Kept{};
   if (WriteReadable()) return {.place = Kept::kReadableFile, .path = last_resort_.path};
-  // The file of an earlier write may still exist.
-  if (writer_.Store().HasFile()) return {.place = Kept::kRescueFile, .path = writer_.Store().Path()};
   return {.place = Kept::kNowhere};
 }
 
@@ -122,15 +120,17 @@ bool RescueKeeper::WriteReadable() {
 
 std::string RescueKeeper::NoticeOf(const Kept& kept) const {
   const std::string what(content_.words.kept), where = what + " jsou zachovány v souboru\r\n" + kept.path + "\r\n";
+  const bool older = writer_.Store().HasFile();  // the file of an earlier write
   switch (kept.place) {
     case Kept::kNothingToKeep:
       return {};
     case Kept::kRescueFile:
       return where + std::string(content_.words.next_time);
     case Kept::kReadableFile:
-      return where + "Program je sám nenabídne, soubor si zkopírujte jinam.";
+      return where + (older ? "Program sám nabídne jen starší znění" : "Program je sám nenabídne") +
+             ", soubor si zkopírujte jinam.";
     case Kept::kNowhere:
-      return what + " nebylo možné zachovat.";
+      return what + " nebylo možné zachovat" + (older ? ", příští start nabídne jen starší znění." : ".");
   }
   return {};
 }

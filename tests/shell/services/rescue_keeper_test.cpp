@@ -160,7 +160,9 @@ TEST_F(OfferTest, ATextThatTheRescueFileCannotTakeGoesIntoAReadableFile) {
               "Program je sám nenabídne, soubor si zkopírujte jinam.");
   EXPECT_EQ(platform.files["/tmp/pelmar-rescue-0.txt"], "Soubor:\r\ntyped\r\n\r\n");
   box.SetText("typed later");
-  EXPECT_EQ(keeper.NoticeOf(keeper.KeepNow()), "Neuložené dokumenty nebylo možné zachovat.");
+  PutOldFile(own, bytes);
+  EXPECT_EQ(keeper.NoticeOf(keeper.KeepNow()),
+            "Neuložené dokumenty nebylo možné zachovat, příští start nabídne jen starší znění.");
 }
 
 TEST_F(RescueKeeperTest, TheStartReportsOnceWhereAnInterruptedSaveLeftTheOldContent) {
