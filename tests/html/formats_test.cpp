@@ -92,6 +92,8 @@ TEST(HtmlOutput, IsExactForTables) {
       {RowTag({.alignment = {CellAlign::kCharacter, "", {}}}), R"(<TR ALIGN="CHAR">)"},
       {RowTag({.alignment = {CellAlign::kRight, ",", {}}}), R"(<TR ALIGN="RIGHT">)"},
       {Apply(WrapInCell, CellSpec{}, ""), "<TD>Buňka</TD>"},
+      {CellTag({true, {CellAlign::kCenter, "", CellVAlign::kTop}, "#FFFFFF", "2", "3", true, "50%"}),
+       R"(<TH ALIGN="CENTER" VALIGN="TOP" BGCOLOR="#FFFFFF" COLSPAN="2" ROWSPAN="3" NOWRAP WIDTH="50%">)"},
       {Apply(InsertRow, RowSpec{.cells = 2}, "x"), "<TR><TD>Buňka1</TD><TD>Buňka2</TD></TR>\r\nx"},
   });
 }

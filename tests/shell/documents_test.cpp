@@ -105,6 +105,7 @@ TEST_F(DocumentsTest, RescueNeverOverwritesADocumentOfThisRun) {
   // Four free tabs, five documents. A path outside the code page is stored as a URL.
   DocumentsRescue rescue(documents);
   EXPECT_EQ(rescue.Readable(rescue.BringBack({first})), "Soubor:file:///%E6%97%A5.txt\r\n5\r\n\r\n");
+  EXPECT_EQ(documents.Title(), "Pelmar VEX (/a/README)*");
   EXPECT_EQ(TextsOf(documents), "given|1|2|3|4|");
   documents.SwitchTo(1);
   // A name without an extension doesn't break the switch.
