@@ -54,12 +54,6 @@ TEST_F(OpenDialogTest, EnterOnAFileOpensIt) {
   EXPECT_EQ(text.Text(), "text");
 }
 
-TEST_F(OpenDialogTest, ListsTheFilesOfTheHighlightedFolder) {
-  folder.Put("sub/c.txt", "");
-  Expect(dialog, "Dir1=~ Dir1:↓", "File1=c.txt");
-  Expect(dialog, "Dir1=~", "File1=a.TXT|b.html|big.txt");  // the same folder as before
-}
-
 TEST_F(OpenDialogTest, ANameThatIsNotUtf8IsOpenedAndSavedByItsBytes) {
   const std::string path = folder.Put("k\xF9\xF2.txt", "");
   platform.files[path] = "horse";

@@ -163,6 +163,8 @@ TEST_F(FileBrowserTest, AClickHighlightsAFolderAndAKeyShowsItsFiles) {
   EXPECT_EQ(Folders(), ".|Č|>sub");
   EXPECT_EQ(Files(), "c.htm");
   EXPECT_EQ(events, Events{"files ./sub"});
+  folders.SetPath(base);  // entered already
+  EXPECT_EQ(Files(), "a.txt|b.HTM|c.htm|d");
 }
 
 TEST_F(FileBrowserTest, ADoubleClickOrEnterEntersAFolder) {
