@@ -24,6 +24,7 @@ struct StartedTest : ProgramTest {
 
   StartedTest() {
     settings = SettingsBytes(stored);
+    platform.files["/share/pelmar.txt"] = "from the package";
     program.Run("-NOMSG");
     QApplication::processEvents();
   }
@@ -96,11 +97,7 @@ TEST_F(StartedTest, AClickOnTheNameInTheWelcomeOpensTheProfile) {
   ExpectState(start, "", "Label9=Eva");
 }
 
-struct HelpTest : StartedTest {
-  HelpTest() { platform.files["/share/pelmar.txt"] = "from the package"; }
-};
-
-TEST_F(HelpTest, AMissingFileIsReported) {
+TEST_F(StartedTest, AMissingHelpFileIsReported) {
   platform.files.erase("/share/pelmar.txt");
   platform.TakeCalls();
   platform.answers = {Answer::kOk};
@@ -110,13 +107,13 @@ TEST_F(HelpTest, AMissingFileIsReported) {
             "\"Help k Pelmar VEX\"; ");
 }
 
-TEST_F(HelpTest, ThePersonsOwnFileComesFirstAndIsReadAtEachOpening) {
+TEST_F(StartedTest, ThePersonsOwnHelpComesFirstAndIsReadAtEachOpening) {
   ExpectState(Open("mnuhlp"), "", "Text1='from the package' Text2=Najít");
   platform.files["/install/pelmar.txt"] = "own";
   ExpectState(Open("mnuhlp"), "", "Text1=own");
 }
 
-TEST_F(HelpTest, TheButtonSearches) {
+TEST_F(StartedTest, TheButtonOfTheHelpSearches) {
   QWidget& help = Open("mnuhlp");
   platform.answers = {Answer::kNo};
   Work(help, "Text2=THE Command5!");
