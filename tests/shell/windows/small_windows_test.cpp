@@ -28,10 +28,6 @@ struct StartedTest : ProgramTest {
     program.Run("-NOMSG");
     QApplication::processEvents();
   }
-  template <class Window>
-  Window& GetWindow() {
-    return parts.windows.Get<Window>();
-  }
 };
 
 TEST_F(StartedTest, TheMenuShowsTheStoredLook) {
@@ -64,9 +60,9 @@ TEST_F(StartedTest, TheAlignmentChangesToRightCentreAndLeftInTurn) {
 }
 
 TEST_F(StartedTest, EachWayOutOfTheWelcomeShowsTheEditor) {
-  auto& start = GetWindow<Start>();
+  auto& start = parts.windows.Get<Start>();
   for (const char* leave : {"Command1!", "Check1:' '", "the system's close", "Command2!"}) {
-    EXPECT_FALSE(GetWindow<Otevri>().isVisible());
+    EXPECT_FALSE(parts.windows.Get<Otevri>().isVisible());
     main.hide();
     start.Present();
     for (const Qt::Key key : {Qt::Key_Shift, Qt::Key_Alt, Qt::Key_Meta, Qt::Key_CapsLock, Qt::Key_NumLock})
@@ -79,7 +75,7 @@ TEST_F(StartedTest, EachWayOutOfTheWelcomeShowsTheEditor) {
     EXPECT_TRUE(main.isVisible()) << leave;
     EXPECT_FALSE(start.isVisible()) << leave;
   }
-  EXPECT_TRUE(GetWindow<Otevri>().isVisible());
+  EXPECT_TRUE(parts.windows.Get<Otevri>().isVisible());
 }
 
 TEST_F(StartedTest, TheWelcomeSetsWhetherItShowsAgain) {
@@ -101,7 +97,7 @@ TEST_F(StartedTest, AMissingHelpFileIsReported) {
   platform.files.erase("/share/pelmar.txt");
   platform.TakeCalls();
   platform.answers = {Answer::kOk};
-  GetWindow<Hlp>();
+  parts.windows.Get<Hlp>();
   EXPECT_EQ(platform.TakeCallsInOneLine(),
             "message 0 \"Chyba helpového systému - pelmar.txt: soubor nebo složka neexistuje\" "
             "\"Help k Pelmar VEX\"; ");
@@ -162,7 +158,7 @@ TEST_F(StartedTest, AboutShowsTheUserAndChangesTheCaseOfItsTitleUnderTheMouse) {
 }
 
 struct ConfigTest : StartedTest {
-  Config& config = GetWindow<Config>();
+  Config& config = parts.windows.Get<Config>();
 
   // Opens the window, runs `act` and returns the stored name, address and password.
   std::string StoredBy(std::function<void()> act) {
@@ -227,7 +223,7 @@ struct LockTest : StartedTest {
   void WhileLocked(std::function<void()> act) {
     Inside([this, act = std::move(act)] {
       act();
-      Work(GetWindow<Pass>(), "Text1=tajné Command1!");
+      Work(parts.windows.Get<Pass>(), "Text1=tajné Command1!");
     });
     Work(main, "Mnu_Lock!");
   }
@@ -277,7 +273,7 @@ TEST_F(LockTest, KeysAndACloseHaveNoEffect) {
 
 TEST_F(LockTest, StaysClosedWithoutThePassword) {
   WhileLocked([&] {
-    auto& lock = GetWindow<Pass>();
+    auto& lock = parts.windows.Get<Pass>();
     QTest::keyClick(&lock, Qt::Key_Escape);
     lock.close();
     platform.answers = {Answer::kOk};
