@@ -1,11 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QTest>
 
-#include "support/program_test.h"
+#include "platform/qt/textbox/text_box.h"
 
 namespace pelmar {
 namespace {
@@ -65,18 +66,6 @@ TEST(HeldKeys, RepeatOnlyWhereTheyEditText) {
       Send(one.repeated, QEvent::KeyPress, one.key, ++now);  // a new press at any time
       EXPECT_EQ(counter.presses, one.arrives + 1);
     }
-  }
-}
-
-TEST_F(ProgramTest, KeysGoToTheNextThePreviousAndANumberedDocument) {
-  main.show();
-  main.activateWindow();
-  EXPECT_TRUE(QTest::qWaitForWindowActive(&main));
-  const std::pair<const char*, int> keys[] = {
-      {"Ctrl+Tab", 2}, {"Ctrl+PgDown", 3}, {"Alt+1", 1}, {"Ctrl+Shift+Tab", 5}, {"Ctrl+PgUp", 4}};
-  for (const auto& [key, document] : keys) {
-    QTest::keySequence(&main.Box(), QKeySequence(QString::fromLatin1(key)));
-    EXPECT_EQ(editor.documents.SelectedTab(), document) << key;
   }
 }
 

@@ -118,14 +118,21 @@ TEST_F(MainWindowTest, ContextMenusAreSubmenusOfTheMenuBar) {
   }
 }
 
-TEST_F(MainWindowTest, AClickOrCtrlTabSwitchesTheDocument) {
+TEST_F(MainWindowTest, AClickSwitchesTheDocument) {
   text.SetText("first");
   QTest::mouseClick(tabs, Qt::LeftButton, {}, QPoint(tabs->width() - 5, tabs->tabRect(3).center().y()));
   ExpectState(main, "", "FileTab=3 Text1=");
-  Press(Qt::Key_Tab, Qt::ControlModifier);
-  ExpectState(main, "", "FileTab=4");
   editor.documents.SwitchTo(1);
   ExpectState(main, "", "FileTab=0 Text1=first");
+}
+
+TEST_F(MainWindowTest, KeysGoToTheNextThePreviousAndANumberedDocument) {
+  const std::pair<const char*, int> keys[] = {
+      {"Ctrl+Tab", 2}, {"Ctrl+PgDown", 3}, {"Alt+1", 1}, {"Ctrl+Shift+Tab", 5}, {"Ctrl+PgUp", 4}};
+  for (const auto& [key, document] : keys) {
+    QTest::keySequence(&main.Box(), QKeySequence(QString::fromLatin1(key)));
+    EXPECT_EQ(editor.documents.SelectedTab(), document) << key;
+  }
 }
 
 TEST_F(MainWindowTest, AltWithTheNumberRowOfACzechKeyboardSelectsATab) {
