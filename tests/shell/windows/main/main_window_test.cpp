@@ -141,13 +141,11 @@ TEST_F(MainWindowTest, AltWithTheNumberRowOfACzechKeyboardSelectsATab) {
   ExpectState(main, "", "FileTab=1");
 }
 
-TEST_F(MainWindowTest, NamesOfFilesAreShownUnchanged) {
-  platform.files["/a/b&c[*].txt"] = "x";
-  files.opener.OpenPath("/a/b&c[*].txt");
-  EXPECT_EQ(tabs->tabText(0), QStringLiteral("b&&c[*].txt"));
-  EXPECT_EQ(tabs->tabToolTip(0), QStringLiteral("/a/b&c[*].txt"));
-  // Qt shows "[*][*]" as "[*]" in the title bar.
-  EXPECT_EQ(main.windowTitle(), QStringLiteral("Pelmar VEX (/a/b&c[*][*].txt)"));
+TEST_F(MainWindowTest, TheTabShowsTheNameOfItsFileUnchanged) {
+  platform.files["/a/b&c.txt"] = "x";
+  files.opener.OpenPath("/a/b&c.txt");
+  EXPECT_EQ(tabs->tabText(0), QStringLiteral("b&&c.txt"));
+  EXPECT_EQ(tabs->tabToolTip(0), QStringLiteral("/a/b&c.txt"));
 }
 
 TEST_F(MainWindowTest, ATickWhileTheWindowIsNotActiveShowsNothing) {
