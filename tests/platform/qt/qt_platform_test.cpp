@@ -14,7 +14,6 @@
 #include "platform/qt/desktop/recent_documents.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/install_folder.h"
-#include "platform/qt/module.h"
 #include "support/scripted_platform.h"
 #include "support/temp_folder.h"
 #include "support/whole_editor.h"
@@ -81,13 +80,6 @@ TEST(InstallFolder, LastsUntilLogOutIfTheUsersOwnCannotBeCreated) {
                 "Nastavení, poznámky a zachované dokumenty vydrží jen do odhlášení, ve složce\r\n" +
                 runtime.File("pelmar-vex/"));
   qunsetenv("XDG_RUNTIME_DIR");
-}
-
-TEST(LoadModule, PassesOverFoldersWithoutTheModuleAndReportsADamagedOne) {
-  const TempFolder temp;
-  const std::string path = temp.Put("a.so", "damaged");
-  const LoadedModule module = LoadModule({QStringLiteral("/none"), Utf8ToQString(temp.Path())}, QStringLiteral("a.so"));
-  EXPECT_EQ(Utf8FromQString(module.error), "Soubor " + path + " je poškozen nebo z jiné verze programu");
 }
 
 TEST(Keys, InsertTogglesAtEachPressWithoutShiftOrCtrl) {
