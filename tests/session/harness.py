@@ -185,9 +185,6 @@ class EditorCase(unittest.TestCase):
         """Whether a rescue file contains the text."""
         return any(text in one.read_bytes() for one in self.rescues())
 
-    def wait_rescued(self, *texts):
-        self.wait(lambda: all(map(self.is_rescued, texts)), f"{texts} in a rescue file")
-
     # Waiting and looking.
 
     def wait(self, check, what, needs_program=True):
