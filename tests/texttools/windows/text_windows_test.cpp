@@ -21,12 +21,8 @@ struct SearchTest : ProgramTest {
   }
 };
 
-struct HledaniTest : SearchTest {
-  QWidget& OpenFor(const char* marked) { return SearchTest::OpenFor("mnufind", marked); }
-};
-
-TEST_F(HledaniTest, AStartAllowsOnlyTheNextMatch) {
-  const auto& dialog = OpenFor("|jedna dvě jedna");
+TEST_F(SearchTest, AStartAllowsOnlyTheNextMatch) {
+  const auto& dialog = OpenFor("mnufind", "|jedna dvě jedna");
   ExpectState(dialog, "", "Find=Text Command2='(&Další vyhledaný)' Rozlisovat=1 Label3=");
   ExpectState(dialog, "Find=jedna Command1!",
               "Find=(jedna) Command1='(&Start hledání)' Rozlisovat=(1) Command2='&Další vyhledaný' History=(jedna) "
@@ -35,8 +31,8 @@ TEST_F(HledaniTest, AStartAllowsOnlyTheNextMatch) {
   EXPECT_EQ(dialog.focusWidget(), Named(dialog, "Command2"));
 }
 
-TEST_F(HledaniTest, TheDialogMovesOffTheMatch) {
-  QWidget& dialog = OpenFor("|jedna");
+TEST_F(SearchTest, TheDialogMovesOffTheMatch) {
+  QWidget& dialog = OpenFor("mnufind", "|jedna");
   dialog.move(main.pos());
   const QPoint match = main.Box().viewport()->mapToGlobal(main.Box().CharRect(0).center());
   ASSERT_TRUE(dialog.frameGeometry().contains(match));
@@ -44,15 +40,15 @@ TEST_F(HledaniTest, TheDialogMovesOffTheMatch) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return !dialog.frameGeometry().contains(match); })) << dialog.y();
 }
 
-TEST_F(HledaniTest, AChosenRowOfTheHistoryBecomesTheTerm) {
-  ExpectState(OpenFor("|jedna dvě"),
+TEST_F(SearchTest, AChosenRowOfTheHistoryBecomesTheTerm) {
+  ExpectState(OpenFor("mnufind", "|jedna dvě"),
               "Rozlisovat! Find=jedna Command1! Command4! Find=dvě Command1! Command4! Find=x History=0",
               "Find=JEDNA History=>JEDNA|DVĚ");
 }
 
-TEST_F(HledaniTest, ALongSelectionOfSeveralLinesIsTheTerm) {
+TEST_F(SearchTest, ALongSelectionOfSeveralLinesIsTheTerm) {
   const std::string lines = std::string(40'000, 'x') + "\r\ny";
-  Work(OpenFor(("x[" + lines + "|\r\n" + lines).c_str()), "Command1! Command2!");
+  Work(OpenFor("mnufind", ("x[" + lines + "|\r\n" + lines).c_str()), "Command1! Command2!");
   EXPECT_EQ(text.SelText(), lines);
   EXPECT_EQ(text.SelEnd(), text.Size());
 }
