@@ -544,10 +544,6 @@ struct SampleTest : HtmlDialogTest {
 
   // The shown sample.
   [[nodiscard]] const std::string& Preview() const { return Find<TextBox>(window, "Text1")->Buffer().Text(); }
-  void Click(int row) {
-    const QPoint place = list.visualItemRect(list.topLevelItem(row)).center();
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, place);
-  }
 };
 
 TEST_F(SampleTest, TheChosenRowIsShown) {
@@ -565,9 +561,9 @@ TEST_F(SampleTest, EachRowHasAPicture) {
 
 TEST_F(SampleTest, EnterReplacesTheDocumentByTheSample) {
   PutMarked(text, "ol|d");
-  Click(9);
+  Work(window, "ListView1=9");
   EXPECT_EQ(Marked(text), "ol|d");
-  QTest::keyClick(&list, Qt::Key_Return);
+  Work(window, "ListView1:\r");
   EXPECT_EQ(Marked(text), '|' + ShownText(SampleText("BAT2", editor.settings)));
   EXPECT_FALSE(text.CanUndo());  // required for a replaced text
 }
