@@ -1,5 +1,5 @@
-// Checks of every window: its cancel button, names for screen readers, whole captions, controls that Tab reaches, and
-// the size on a small screen.
+// Checks of every window: its command, its cancel button, names for screen readers, whole captions, controls that Tab
+// reaches, and the size on a small screen.
 #include <gtest/gtest.h>
 
 #include <QAccessible>
@@ -59,6 +59,11 @@ void ExpectNameAndTab(QWidget* control) {
       control->focusPolicy() == Qt::NoFocus ? IsA(control, {"pelmar::Swatch"}) : IsA(control, {"QLabel"});
   EXPECT_TRUE((control->focusPolicy() & Qt::TabFocus) || !control->isEnabled() || in_group || only_shows)
       << DescriptionOf(control) << " can't be reached by keyboard";
+}
+
+TEST_F(ProgramTest, CommandsOfAccessoriesShowTheirWindows) {
+  const std::pair<const char*, const char*> cases[] = {{"mnumorse", "Morse"}, {"mnu_analysis", "Analytic"}};
+  for (const auto& [command, window] : cases) EXPECT_EQ(Open(command).objectName().toStdString(), window) << command;
 }
 
 struct AllWindows : ProgramTest {
