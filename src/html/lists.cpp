@@ -37,7 +37,8 @@ void MakeListOfSelection(Editor& e, ListKind kind) {
 std::string BuildList(const ListSpec& spec) {
   std::string list("<");
   list += TagOf(spec.kind);
-  if (spec.type) list += Attribute("TYPE", TypesOf(spec.kind)[*spec.type]);
+  const std::span<const std::string_view> types = TypesOf(spec.kind);
+  if (spec.type && *spec.type < types.size()) list += Attribute("TYPE", types[*spec.type]);
   if (spec.compact) list += " COMPACT";
   list += ">";
   if (spec.heading) list.append(kCrLf).append(Element("LH", *spec.heading));
@@ -62,7 +63,7 @@ std::string BuildDefinitionList(const std::vector<std::string>& terms, const std
 std::string ListOfLines(std::string_view text, ListKind kind) {
   std::string list("<");
   list.append(TagOf(kind)).append("><LI>");
-  for (const char ch : text.substr(0, text.size() - 1)) {
+  for (const char ch : text.substr(0, std::max<std::size_t>(text.size(), 1) - 1)) {
     if (ch == '\r') list += "</LI>";
     list += ch;
     if (ch == '\n') list += "<LI>";

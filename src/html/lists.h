@@ -15,7 +15,7 @@ enum class ListKind { kBullets, kNumbers };
 
 struct ListSpec {
   ListKind kind = ListKind::kBullets;
-  std::optional<std::size_t> type;  // from 0, in the order of the dialog's options
+  std::optional<std::size_t> type;  // from 0, in the order of the dialog's options; no TYPE if too large
   bool compact = false;
   std::optional<std::string> heading;
   std::vector<std::string> items;

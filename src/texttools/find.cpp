@@ -44,7 +44,9 @@ void Finder::New() {
   next_on = false;
 }
 
-void Finder::PickHistory(std::size_t row) { find = history[row]; }
+void Finder::PickHistory(std::size_t row) {
+  if (row < history.size()) find = history[row];
+}
 
 void Finder::Show(std::size_t hit) {
   count = count.value_or(0) + 1;

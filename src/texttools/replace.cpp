@@ -82,6 +82,7 @@ void Replacer::New() {
 }
 
 void Replacer::PickRow(std::size_t row) {
+  if (row >= terms.size()) return;
   find = terms[row];
   change = changes[row];
 }
