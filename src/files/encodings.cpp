@@ -100,15 +100,14 @@ void Write(Platform& platform, const std::string& target, std::string_view bytes
 std::string_view FormatHint(std::string_view bytes) {
   if (LooksLikeUtf8(bytes))
     return "Soubor je v UTF-8, čte se jako Windows-1250. Převede ho „Konverze dos - unix“ v nabídce Soubor.";
-  bool has_cr_lf = false, has_lone_lf = false;
-  for (std::size_t at = bytes.find('\n'); at != std::string_view::npos; at = bytes.find('\n', at + 1)) {
-    const bool is_cr_lf = at > 0 && bytes[at - 1] == '\r';
-    has_cr_lf |= is_cr_lf;
-    has_lone_lf |= !is_cr_lf;
-  }
-  if (!has_lone_lf) return {};
-  return has_cr_lf ? "Část řádků končí jen LF. Převede je „Konverze dos - unix“ v nabídce Soubor."
-                   : "Řádky končí jen LF. Převede je „Konverze dos - unix“ v nabídce Soubor.";
+  // The conversion of line ends would damage UTF-16 and other files with NUL.
+  if (bytes.find('\0') != std::string_view::npos) return {};
+  // The second conversion alone would turn CR LF into CR CR LF and lose a last line without an end.
+  for (std::size_t at = bytes.find('\n'); at != std::string_view::npos; at = bytes.find('\n', at + 1))
+    if (at == 0 || bytes[at - 1] != '\r')
+      return "Některé řádky končí jen LF. „Konverze dos - unix“ v nabídce Soubor: napřed DOS --> UNIX, "
+             "výsledek pak UNIX --> DOS.";
+  return {};
 }
 
 std::string_view MixHint() {

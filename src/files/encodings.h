@@ -9,8 +9,8 @@
 
 namespace pelmar {
 
-// The hint about a text for which LooksLikeUtf8 is true, or which has an LF without a CR before it. "" for any other
-// text. Hints and questions are UTF-8.
+// The hint about a text for which LooksLikeUtf8 is true, or which has an LF without a CR before it and no NUL. "" for
+// any other text. Hints and questions are UTF-8.
 std::string_view FormatHint(std::string_view bytes);
 // The hint for a text that was UTF-8 when it was opened or at a later save, and now is in both encodings.
 std::string_view MixHint();

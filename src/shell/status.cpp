@@ -33,8 +33,10 @@ PanelTexts ComputePanels(const TextBuffer& buffer, bool line_counting) {
 }
 
 std::string ComputeContent(const TextBuffer& buffer, const std::optional<std::string>& clipboard) {
-  if (clipboard && !buffer.HasSelection()) return std::string("Schránka : "_w).append(*clipboard);
-  return std::string("Výběr : "_w).append(buffer.SelText().substr(0, kSelectionShown));
+  const bool shows_clipboard = clipboard && !buffer.HasSelection();
+  std::string content(shows_clipboard ? "Schránka : "_w : "Výběr : "_w);
+  content += shows_clipboard ? std::string_view(*clipboard) : buffer.SelText().substr(0, kSelectionShown);
+  return content;
 }
 
 MenuState ComputeMenuState(const TextBuffer& buffer, std::string_view current_path,

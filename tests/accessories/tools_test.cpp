@@ -40,6 +40,7 @@ TEST(GraphBars, TheWideGraphHasABarForEachCodeThatOccurs) {
 TEST(GraphBars, TheNarrowGraphShowsNoCodeThatOccursOnce) {  // required
   EXPECT_EQ(Bars("aaaabbc\xFF\xFF", false), (Graph{{388, 200}, {392, 100}}));
   EXPECT_EQ(Bars("aa\xFF\xFF\xFF\xFF", false), (Graph{{388, 100}}));  // the most frequent code is not in this graph
+  EXPECT_EQ(GraphBars(AnalyseText("x"), false, false).size(), 127u);
 }
 
 TEST(GraphBars, IgnoredBlanksDoNotCountForTheScale) {

@@ -145,6 +145,7 @@ TEST(Replace, ANewSearchLeavesTheCheckBoxOfTheCaseDisabled) {  // required
   EXPECT_EQ(replacing.After("ab|", "b", {Replacing::Start, Replacing::OtherText, Replacing::New}), "|short text");
   EXPECT_EQ(replacing.search.find, "Text");
   EXPECT_FALSE(replacing.search.case_on);
+  EXPECT_TRUE(replacing.search.find_on);
   EXPECT_FALSE(replacing.search.step_on);
   EXPECT_TRUE(replacing.search.all_on);
 }
