@@ -80,7 +80,6 @@ void FrmBrowser::ConnectView() {
   };
   view_->on_change = [this] {
     ShowCaption();
-    ShowHistory();
     // A load that a link in the page has started needs the timer too.
     if (view_->Busy()) timTimer.start();
   };
@@ -106,7 +105,6 @@ void FrmBrowser::ConnectToolBar() {
   on(ui_->Stop, [this] { Stop_Click(); });
   on(ui_->Open, [this] { Open_Click(); });
   on(ui_->Close, [this] { Close_Click(); });
-  ShowHistory();
 }
 
 void FrmBrowser::ConnectAddress() {
@@ -139,6 +137,7 @@ void FrmBrowser::ShowAlone() {
   BringToFront(*this);
   if (!StartingAddress.isEmpty()) Visit(StartingAddress);
   ui_->cboAddress->setFocus();
+  ui_->cboAddress->lineEdit()->selectAll();
 }
 
 void FrmBrowser::Visit(const QString& address) {
@@ -173,21 +172,18 @@ void FrmBrowser::ShowCaption() {
   setWindowTitle(PlainTitle("HTML testovací browser (" + Utf8FromQString(view_->LocationName()) + ")"));
 }
 
-void FrmBrowser::ShowHistory() {
-  ui_->Back->setEnabled(view_->CanGo(-1));
-  ui_->Forward->setEnabled(view_->CanGo(1));
-}
-
 void FrmBrowser::timTimer_Timer() {
-  ShowState();
+  ShowState(view_->Busy());
   if (view_->Busy()) return ui_->Picture1->Step();
   timTimer.stop();
   ShowCaption();
 }
 
-void FrmBrowser::ShowState() {
-  status_->setText(view_->Busy() ? QStringLiteral("Busy") : QStringLiteral("Idle"));
-  ui_->Picture1->setEnabled(view_->Busy());
+void FrmBrowser::ShowState(bool busy) {
+  status_->setText(busy ? QStringLiteral("Busy") : QStringLiteral("Idle"));
+  ui_->Picture1->setEnabled(busy);
+  // At other times the page gets the key.
+  ui_->Stop->setShortcut(busy ? QKeySequence(Qt::Key_Escape) : QKeySequence());
 }
 
 void FrmBrowser::View_Progress(qint64 progress, qint64 maximum) {
@@ -198,7 +194,6 @@ void FrmBrowser::View_Progress(qint64 progress, qint64 maximum) {
 
 void FrmBrowser::View_Finished() {
   ShowCaption();
-  ShowHistory();
   QLineEdit& line = *ui_->cboAddress->lineEdit();
   const bool half_typed = line.isModified();
   const bool selected = line.hasSelectedText();
@@ -214,6 +209,8 @@ void FrmBrowser::View_Finished() {
   }
   if (selected && !half_typed) line.selectAll();
   DontNavigateNow = false;
+  // The widget of an earlier page may have had the focus.
+  if (focusWidget() == nullptr) view_->Widget()->setFocus();
 }
 
 void FrmBrowser::PutOnTop(const QString& address) {
@@ -228,9 +225,7 @@ void FrmBrowser::Stop_Click() {
   timTimer.stop();
   view_->Stop();
   ShowCaption();
-  // The timer has stopped, so nothing else would show the end of the load.
-  status_->setText(QStringLiteral("Idle"));
-  ui_->Picture1->setEnabled(false);
+  ShowState(false);  // the timer has stopped, so nothing else would show the end of the load
 }
 
 void FrmBrowser::Open_Click() {

@@ -53,9 +53,9 @@ class FrmBrowser : public QMainWindow {
   // address.
   void Load(const QString& address);
   void ShowCaption();
-  void ShowHistory();
   void timTimer_Timer();
-  void ShowState();
+  // `busy`: whether a page loads.
+  void ShowState(bool busy);
   void View_Progress(qint64 progress, qint64 maximum);
   void View_Finished();
   // Makes the address the first row of the list and selects this row. Removes older rows of the same address.

@@ -32,7 +32,6 @@ class WebView {
   // Loads the present page again, this time with its parts from the net.
   virtual void LoadFromNet() = 0;
 
-  [[nodiscard]] virtual bool CanGo(int steps) const = 0;
   [[nodiscard]] virtual bool Busy() const = 0;
   [[nodiscard]] virtual QString LocationName() const = 0;  // the title, or the name of a file without a title
   [[nodiscard]] virtual QUrl LocationAddress() const = 0;
@@ -57,5 +56,5 @@ class WebViewMaker {
 
 }  // namespace pelmar
 
-#define PELMAR_WEB_VIEW_MAKER "cz.pelmar.vex.WebViewMaker/4"
+#define PELMAR_WEB_VIEW_MAKER "cz.pelmar.vex.WebViewMaker/5"
 Q_DECLARE_INTERFACE(pelmar::WebViewMaker, PELMAR_WEB_VIEW_MAKER)

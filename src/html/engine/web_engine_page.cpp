@@ -1,8 +1,9 @@
 #include "html/engine/web_engine_page.h"
 
 #include <QAction>
-#include <QCoreApplication>
+#include <QApplication>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QWebEngineCertificateError>
 #include <QWebEngineClientCertificateSelection>
@@ -30,8 +31,10 @@ QString Title() { return QStringLiteral("Zpráva stránky"); }
 
 // The engine asks this question through javaScriptConfirm().
 constexpr char kLeaving[] = "Are you sure you want to leave this page? Changes that you made may not be saved.";
-constexpr int kMostQuestions = 20;      // shown after one command that loads a page
-constexpr int kLongestQuestion = 2000;  // characters; a longer question is cut off
+constexpr int kMostQuestions = 20;  // shown after one command that loads a page
+// A longer question of a page is cut off.
+constexpr int kLongestQuestion = 2000;  // characters
+constexpr int kMostLines = 25;
 // Before a link of a local page leads to the net, a question shows the whole address in lines of kAddressLine
 // characters. If the address has more than kLongestAsked characters, the link isn't opened.
 constexpr qsizetype kLongestAsked = 1000, kAddressLine = 80;
@@ -39,6 +42,10 @@ constexpr qsizetype kLongestAsked = 1000, kAddressLine = 80;
 // A frame of a page may also hold about: and blob: addresses.
 bool MayBeFramed(const QUrl& address) {
   return MayBeShown(address) || address.scheme() == QLatin1String("about") || address.scheme() == QLatin1String("blob");
+}
+
+QString CutOff(const QString& question) {
+  return Shortened(question.section(u'\n', 0, kMostLines - 1), kLongestQuestion);
 }
 
 }  // namespace
@@ -85,6 +92,14 @@ void WebEnginePage::AskToLeaveTheDisk(const QUrl& address) {
   const QString question = QStringLiteral("Stránka odkazuje na internet. Otevřít adresu ?\n\n") + shown;
   if (AskInBox(QStringLiteral("Pelmar VEX"), question, QMessageBox::Yes | QMessageBox::No, QMessageBox::No))
     on_leave(address);
+}
+
+void WebEnginePage::ReportUnshown(const QUrl& address) {
+  const QString text = QStringLiteral("Tento soubor interní browser nezobrazuje:\n") +
+                       Shortened(address.toDisplayString(), kAddressLine);
+  QMetaObject::invokeMethod(
+      this, [this, text] { AskInBox(QStringLiteral("Interní browser"), text, QMessageBox::Ok, QMessageBox::Ok); },
+      Qt::QueuedConnection);
 }
 
 bool WebEnginePage::acceptNavigationRequest(const QUrl& address, NavigationType, bool is_main_frame) {
@@ -143,6 +158,8 @@ bool WebEnginePage::MayAsk() const { return !answers_no_ && questions_ < kMostQu
 
 bool WebEnginePage::Ask(QDialog& question) {
   QWidget* view = QWebEngineView::forPage(this);
+  // An open modal dialog of the program could return its result only after the answer to the page.
+  if (QApplication::activeModalWidget() != nullptr) return false;
   if (!MayAsk() || question_ != nullptr || view == nullptr || !view->isVisible()) return false;
   ++questions_;
   // The question blocks only the window of the browser.
@@ -158,8 +175,7 @@ bool WebEnginePage::Ask(QDialog& question) {
 
 bool WebEnginePage::AskInBox(const QString& title, const QString& text, QMessageBox::StandardButtons buttons,
                              QMessageBox::StandardButton default_button) {
-  QMessageBox box(QMessageBox::NoIcon, title, Shortened(text, kLongestQuestion), buttons,
-                  QWebEngineView::forPage(this));
+  QMessageBox box(QMessageBox::NoIcon, title, CutOff(text), buttons, QWebEngineView::forPage(this));
   box.setTextFormat(Qt::PlainText);
   box.setDefaultButton(default_button);
   return Ask(box);
@@ -170,15 +186,20 @@ void WebEnginePage::javaScriptAlert(const QUrl&, const QString& text) {
 }
 
 bool WebEnginePage::javaScriptConfirm(const QUrl&, const QString& text) {
+  const bool leaving = text == QCoreApplication::translate("QWebEnginePage", kLeaving);
   // A page that may not ask can't keep the person from leaving the page.
-  if (!MayAsk() && text == QCoreApplication::translate("QWebEnginePage", kLeaving)) return true;
-  return AskInBox(Title(), text, QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Ok);
+  if (leaving && !MayAsk()) return true;
+  return AskInBox(Title(), leaving ? QStringLiteral("Opustit stránku ? Změny na ní možná nejsou uloženy.") : text,
+                  QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Ok);
 }
 
 bool WebEnginePage::javaScriptPrompt(const QUrl&, const QString& text, const QString& initial, QString* result) {
   QInputDialog dialog(QWebEngineView::forPage(this));
   dialog.setWindowTitle(Title());
-  dialog.setLabelText(Shortened(text, kLongestQuestion));
+  dialog.setLabelText(CutOff(text));
+  auto* label = dialog.findChild<QLabel*>();
+  label->setTextFormat(Qt::PlainText);
+  label->setWordWrap(true);
   dialog.setTextValue(initial);
   const bool accepted = Ask(dialog);
   *result = dialog.textValue();

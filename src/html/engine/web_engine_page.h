@@ -33,6 +33,8 @@ class WebEnginePage : public QWebEnginePage {
   // the same answers as after AnswerNo(), which stays in effect.
   void ResetQuestions() { questions_ = 0; }
   [[nodiscard]] bool Asking() const { return question_ != nullptr; }
+  // Says that the browser doesn't show the file at this address.
+  void ReportUnshown(const QUrl& address);
 
   std::function<void()> on_coming;                    // a page is about to load here
   std::function<void()> on_answered;                  // a question was closed
@@ -51,7 +53,7 @@ class WebEnginePage : public QWebEnginePage {
   void AskToLeaveTheDisk(const QUrl& address);
   [[nodiscard]] bool MayAsk() const;
   // Shows a question of the page. True only if the person agrees. A page that is hidden, already asks or may not ask
-  // shows no question.
+  // shows no question. While a modal dialog is open, no page asks.
   bool Ask(QDialog& question);
   bool AskInBox(const QString& title, const QString& text, QMessageBox::StandardButtons buttons,
                 QMessageBox::StandardButton default_button);

@@ -30,7 +30,6 @@ class WebEngineView : public QObject, public WebView {
   void Stop() override;
   void EndIfStuck() override;
   void LoadFromNet() override;
-  [[nodiscard]] bool CanGo(int steps) const override;
   [[nodiscard]] bool Busy() const override;
   [[nodiscard]] QString LocationName() const override;
   [[nodiscard]] QUrl LocationAddress() const override;
@@ -49,6 +48,8 @@ class WebEngineView : public QObject, public WebView {
   // Puts the addresses that the present page has opened into places_, and the index of the shown address into place_.
   // If the page has opened more than one address, drops the places that came after this page.
   void GatherPlaces();
+  // Whether the history has a place before (`steps` is -1) or after (1) the shown one.
+  [[nodiscard]] bool CanGo(int steps) const;
   // Asks the page for an answer, unless the page has no process or runs no scripts. If the page doesn't answer within
   // three seconds, ends the page's process and runs the step. If the page asks the person something meanwhile, the
   // question isn't shown and doesn't count as an answer.

@@ -1,6 +1,7 @@
 #include "platform/qt/key_router.h"
 
 #include <QKeyEvent>
+#include <QMenu>
 #include <algorithm>
 #include <utility>
 
@@ -11,11 +12,12 @@ bool IsBareInsert(const QKeyEvent& event) {
   return event.key() == Qt::Key_Insert && (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
 }
 
-// Whether the key (Enter or Delete) edits text in the widget: Enter can break a line, Delete can erase.
+// Whether the key edits text in the widget: Enter can break a line, Delete can erase, the space bar types a blank.
 bool EditsTextWith(int key, const QWidget& receiver) {
   if (receiver.inputMethodQuery(Qt::ImReadOnly).toBool()) return false;
-  if (key == Qt::Key_Delete) return receiver.inputMethodQuery(Qt::ImCursorPosition).isValid();
-  return (receiver.inputMethodQuery(Qt::ImHints).toInt() & Qt::ImhMultiLine) != 0;
+  const bool has_caret = receiver.inputMethodQuery(Qt::ImCursorPosition).isValid();
+  const bool has_lines = (receiver.inputMethodQuery(Qt::ImHints).toInt() & Qt::ImhMultiLine) != 0;
+  return key == Qt::Key_Delete ? has_caret : has_lines || (key == Qt::Key_Space && has_caret);
 }
 
 }  // namespace
@@ -37,6 +39,9 @@ bool KeyRouter::Takes(QWidget& receiver, QKeyEvent& event) {
     return true;
   }
   if (event.type() != QEvent::KeyPress) return false;
+  // A QMenu ignores access keys that are typed with AltGr or on the keypad.
+  if (qobject_cast<QMenu*>(&receiver) != nullptr)
+    event.setModifiers(event.modifiers() & ~(Qt::KeypadModifier | Qt::GroupSwitchModifier));
   if (IsBareInsert(event) && !IsRepeat(event)) insert_on_ = !insert_on_;
   // Copies the entries, since a taker may open a window and so add entries.
   std::vector<Entry> asked;
@@ -54,9 +59,9 @@ bool KeyRouter::IsRepeat(const QKeyEvent& press) const {
   return press.isAutoRepeat() || (just_released && released_at_ != 0);
 }
 
-// Remembers the event for later calls. True for a repeat of Enter or Delete in two cases. The first press went to
-// another widget, so the first press may have opened or closed a window. Or the key edits no text, so a repeat could
-// run an action twice, for instance press a button.
+// Remembers the event for later calls. True for a repeat of Enter, Delete or the space bar in two cases. The first
+// press went to another widget, so the first press may have opened or closed a window. Or the key edits no text, so a
+// repeat could run an action twice, for instance press a button.
 bool KeyRouter::DropsRepeat(const QWidget& receiver, const QKeyEvent& event) {
   const int key = event.key();
   if (event.type() == QEvent::KeyRelease) {
@@ -64,7 +69,7 @@ bool KeyRouter::DropsRepeat(const QWidget& receiver, const QKeyEvent& event) {
     released_at_ = event.timestamp();
     return false;
   }
-  if (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Delete) return false;
+  if (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Delete && key != Qt::Key_Space) return false;
   if (IsRepeat(event)) return pressed_in_ != &receiver || !EditsTextWith(key, receiver);
   pressed_in_ = &receiver;
   return false;

@@ -1,5 +1,6 @@
 #include "shell/windows/pass.h"
 
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QPointer>
 
@@ -15,6 +16,8 @@ Pass::Pass(const SettingsRecord& settings, Platform& platform, std::function<voi
   setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
   OnEnter(ui_->Text1, [this] { Try(); });
   connect(ui_->Command1, &QPushButton::clicked, this, &Pass::Try);
+  ui_->Command1->setAttribute(Qt::WA_InputMethodEnabled);
+  ui_->Command1->installEventFilter(this);
 }
 
 void Pass::Run() {
@@ -36,6 +39,17 @@ void Pass::keyPressEvent(QKeyEvent* event) {
     return DialogWindow::keyPressEvent(event);
   ui_->Text1->setFocus();
   QCoreApplication::sendEvent(ui_->Text1, event);
+}
+
+// A letter from a dead key comes as text of an input method, without a key press.
+bool Pass::eventFilter(QObject* watched, QEvent* event) {
+  if (watched != ui_->Command1 || event->type() != QEvent::InputMethod)
+    return DialogWindow::eventFilter(watched, event);
+  const QString typed = static_cast<QInputMethodEvent*>(event)->commitString();
+  if (typed.isEmpty()) return true;
+  ui_->Text1->setFocus();
+  ui_->Text1->insert(typed);
+  return true;
 }
 
 void Pass::Try() {

@@ -28,6 +28,7 @@ class Pass : public FormDialog<Ui::Pass> {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void Try();

@@ -35,7 +35,6 @@ struct ScriptedView : WebView {
   void Stop() override { calls += QStringLiteral("stop"); }
   void EndIfStuck() override { calls += QStringLiteral("end if stuck"); }
   void LoadFromNet() override { calls += QStringLiteral("load from net"); }
-  bool CanGo(int) const override { return true; }
   bool Busy() const override { return busy; }
   QString LocationName() const override { return name; }
   QUrl LocationAddress() const override { return address; }

@@ -46,6 +46,8 @@ TEST(HeldKeys, RepeatOnlyWhereTheyEditText) {
   } cases[] = {{"Enter in the text", Qt::Key_Return, text, text, true},
                {"Enter, from a button to the text", Qt::Key_Return, button, text, false},
                {"Enter in a field", Qt::Key_Enter, field, field, false},
+               {"the space bar in a field", Qt::Key_Space, field, field, true},
+               {"the space bar on a button", Qt::Key_Space, button, button, false},
                {"Delete in a field", Qt::Key_Delete, field, field, true},
                {"Delete in a list", Qt::Key_Delete, list, list, false},
                {"Backspace, from the text to a field", Qt::Key_Backspace, text, field, true}};

@@ -206,7 +206,7 @@ std::optional<QString> AskForFile(FileDialogKind kind, const QString& filter, in
   if (!folder.isEmpty()) dialog->setDirectory(folder);
   // Show names only: in the detailed view the columns are too narrow and their titles are not in Czech.
   dialog->setViewMode(QFileDialog::List);
-  dialog->resize(kFileDialogSize);
+  dialog->resize(kFileDialogSize.boundedTo(RoomOnScreen(*dialog)));
   // The captions already contain the patterns.
   dialog->setOption(QFileDialog::HideNameFilterDetails);
   if (kind == FileDialogKind::kSave) {

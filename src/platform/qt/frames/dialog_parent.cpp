@@ -57,7 +57,11 @@ void PutAboveAll(QWidget& window) {
 
 void KeepAboveAll(QWidget& window) {
   QObject::connect(qApp, &QGuiApplication::focusWindowChanged, &window, [&window](const QWindow* now) {
-    if (window.isVisible() && (now == window.windowHandle() || !HasWindowOnTop())) PutAboveAll(window);
+    if (!window.isVisible()) return;
+    const QWindow* own = window.windowHandle();
+    const bool has_focus = now != nullptr && (now == own || now->transientParent() == own);
+    if (has_focus || !HasWindowOnTop()) return PutAboveAll(window);
+    if (window.parentWidget() == nullptr) SetAlwaysOnTop(window, false);
   });
 }
 

@@ -62,7 +62,9 @@ bool TextDrop::IsOwn(const QDropEvent& event) const {
 }
 
 bool TextDrop::Takes(const QDropEvent& event) const {
-  return !box_.IsReadOnly() && !event.mimeData()->hasUrls() && HasText(*event.mimeData());
+  if (box_.IsReadOnly() || !HasText(*event.mimeData())) return false;
+  // The main window opens dropped files. A link from a browser has a URL too, but is dropped as text.
+  return std::ranges::none_of(event.mimeData()->urls(), &QUrl::isLocalFile);
 }
 
 void TextDrop::Accept(QDropEvent& event) const {

@@ -37,7 +37,7 @@ void TextMouse::Press(QMouseEvent* event) {
 
 void TextMouse::PressLeft(QMouseEvent* event) {
   const QPoint at = event->position().toPoint();
-  const bool third = IsThirdClick(at);
+  const bool third = IsThirdClick(*event);
   pressed_at_ = last_at_ = at;
   unit_ = Unit::kChar;
   if (event->pointerType() == QPointingDevice::PointerType::Finger) {
@@ -59,12 +59,13 @@ void TextMouse::DoubleClick(QMouseEvent* event) {
   const QPoint at = event->position().toPoint();
   pressed_at_ = last_at_ = at;
   BeginUnit(Unit::kWord, at);
-  since_double_click_.start();
+  double_click_at_ = event->timestamp();
 }
 
-bool TextMouse::IsThirdClick(QPoint at) const {
-  return since_double_click_.isValid() && !since_double_click_.hasExpired(QApplication::doubleClickInterval()) &&
-         (at - pressed_at_).manhattanLength() < QApplication::startDragDistance();
+bool TextMouse::IsThirdClick(const QMouseEvent& press) const {
+  const auto interval = static_cast<quint64>(QApplication::doubleClickInterval());
+  return double_click_at_ && press.timestamp() - *double_click_at_ < interval &&
+         (press.position().toPoint() - pressed_at_).manhattanLength() < QApplication::startDragDistance();
 }
 
 void TextMouse::BeginUnit(Unit unit, QPoint at) {

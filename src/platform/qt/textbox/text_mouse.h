@@ -4,9 +4,9 @@
 #pragma once
 
 #include <QBasicTimer>
-#include <QElapsedTimer>
 #include <QMouseEvent>
 #include <QObject>
+#include <optional>
 
 #include "text/text_stops.h"
 
@@ -36,7 +36,7 @@ class TextMouse : public QObject {
   void Extend(QPoint at);
   void ShowPointer(QPoint at);
   [[nodiscard]] TextSpan UnitAt(QPoint at) const;
-  [[nodiscard]] bool IsThirdClick(QPoint at) const;
+  [[nodiscard]] bool IsThirdClick(const QMouseEvent& press) const;
 
   TextBox& box_;
   State state_ = State::kIdle;
@@ -44,7 +44,7 @@ class TextMouse : public QObject {
   TextSpan origin_;  // the word or line where the selection began
   QPoint pressed_at_;
   QPoint last_at_;
-  QElapsedTimer since_double_click_;
+  std::optional<quint64> double_click_at_;  // ms, the time stamp of the event
   QBasicTimer scroll_timer_;
 };
 

@@ -200,7 +200,12 @@ void MainWindow::SetPlace(const TwipsRect& place) {
 }
 
 TwipsRect MainWindow::Place() const {
-  if (!isMinimized()) return OuterGeometry(*this);
+  if (!isMinimized()) {
+    const TwipsRect now = OuterGeometry(*this);
+    // Wayland tells no program the position of its windows.
+    const bool has_position = !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+    return has_position ? now : TwipsRect{wanted_place_.left, wanted_place_.top, now.width, now.height};
+  }
   // A window that started minimised has no frame yet.
   if (!placement_.FrameKnown()) return wanted_place_;
   // The place that the window has when it is no longer minimised.
