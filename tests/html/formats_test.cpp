@@ -40,6 +40,9 @@ TEST(HtmlOutput, IsExactForBlocksAndFragments) {
       {Apply(kWrap, Heading({"6", Align::kNone, false}), ""), "<H6> Nadpisový text </H6>"},
       {Apply(kWrap, Font({}), ""), "<FONT> fontové písmo </FONT>"},  // required: blanks around the sample only
       {HorizontalRule({Align::kCenter, true, " 50%"}), R"(<HR ALIGN = "CENTER" NOSHADE Width = "50%">)"},
+      {TableHeading("x"),
+       "<table border=\"0\" width=\"100%\">\r\n<tr><td width=\"33%\"><hr></td>"
+       "<td align=\"center\">x</td><td width=\"33%\"><hr></td></tr>\r\n</table>"},
       {LinedHeading("x"), R"(<HR ALIGN = "LEFT" Width = "60%"><H2>x</H2><HR ALIGN = "RIGHT" Width = "60%">)"},
       {Fraction("A", "B"), "<SUP>A</SUP>/<SUB>B</SUB>"},
       {CommentText("x"), "<! x >"},  // required
@@ -65,7 +68,7 @@ TEST(HtmlOutput, IsExactForPathsLinksImagesAndFrames) {
       {AnchorTag("Kotva 1"), R"(<A NAME="Kotva 1"></A>)"},
       {Apply(kWrap, LinkToAnchor("x"), " "), R"(<A HREF="#x"> </A>)"},
       {Apply(kWrap, LinkToAnchor("část"_w), ""), R"(<A HREF="#část">Odkaz na část</A>)"},
-      {Apply(kWrap, LinkToMail("a@b"), "x"), R"(<A HREF="mailto:a@b" >x</A>)"},  // required: the blank
+      {Apply(kWrap, LinkToMail("a@b"), ""), R"(<A HREF="mailto:a@b" >mailto na a@b</A>)"},  // required: the blank
       {Apply(kWrap, LinkToDocument({"x.htm", "a", "_top"}), ""),
        R"(<A HREF="x.htm#a" TARGET="_top">Odkaz na x.htm#a</A>)"},
       {Apply(kWrap, LinkToDocument({"x.htm", "", ""}), "x"), R"(<A HREF="x.htm" TARGET="">x</A>)"},
@@ -104,6 +107,9 @@ TEST(HtmlOutput, IsExactForPagesAndFramesetsAroundTheDocument) {
   spec.created = "11-24-2026 09:05:00";
   spec.title = "ž"_w;
   spec.background = "a.gif";  // required: a bare file name gets "file:///" too
+  spec.link = "#000001";
+  spec.vlink = "#000002";
+  spec.alink = "#000003";
   spec.base_font = 7;
   const std::string code_page =
       "  <META HTTP-EQUIV=\"Content-Type\" CONTENT=\"text/html; charset=windows-1250\">\r\n"
@@ -116,7 +122,8 @@ TEST(HtmlOutput, IsExactForPagesAndFramesetsAroundTheDocument) {
                                code_page + "  <TITLE>t</TITLE>\r\n </HEAD>\r\n <FRAMESET";
   ExpectWritten({
       {Apply(WrapInPage, spec, ""),
-       page + " BACKGROUND=\"file:///a.gif\">\r\n<BASEFONT SIZE=\"7\">\r\n---TEXT---\r\n\r\n </BODY>\r\n</HTML>"},
+       page + " BACKGROUND=\"file:///a.gif\" LINK=\"#000001\" VLINK=\"#000002\" ALINK=\"#000003\">\r\n<BASEFONT "
+              "SIZE=\"7\">\r\n---TEXT---\r\n\r\n </BODY>\r\n</HTML>"},
       {Apply(WrapInFrameset, FramesetSpec{"1,*", "2,*", "t"}, "x\r\ny"),  // required: ROWS for the columns too
        frameset + " ROWS=\"1,*\" ROWS=\"2,*\">\r\n </FRAMESET>\r\n <NOFRAMES>\r\nx\r\ny\r\n </NOFRAMES>\r\n</HTML>"},
   });

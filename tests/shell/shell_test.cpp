@@ -8,6 +8,7 @@
 #include "shell/file_number.h"
 #include "shell/help.h"
 #include "shell/menu_table.h"
+#include "shell/profile.h"
 #include "shell/settings_record.h"
 #include "shell/status.h"
 #include "shell/terminal_answer.h"
@@ -129,6 +130,17 @@ TEST(TerminalAnswer, AnswersASwitchWithoutOtherArguments) {
   EXPECT_TRUE(answer({help}).starts_with("Použití: pelmar-vex [SOUBOR]\n"));
   EXPECT_EQ(answer({version}), "Pelmar VEX " PELMAR_VERSION "\n");
   EXPECT_EQ(answer({help, version}), "none");
+}
+
+TEST(Profile, NeedsANameAndAnAddressAndStoresThePasswordUnchecked) {
+  EXPECT_EQ(CheckProfile({"", "e", false, "", ""}).message, "Vyplňte prosím své jméno.");
+  EXPECT_EQ(CheckProfile({"n", "", false, "", ""}).message, "Vyplňte prosím E-m@il.");
+  EXPECT_EQ(CheckProfile({"n", "e", true, "a", "b"}).message, "Zkontrolujete zprávnot zadaného hesla.");
+  const ProfileFields fields{"n", "e", false, "a", "b"};  // required: without a comparison
+  EXPECT_EQ(CheckProfile(fields).field, ProfileField::kNone);
+  SettingsRecord settings;
+  StoreProfile(fields, settings);
+  EXPECT_EQ(settings.UserName + settings.UserEmail + settings.LockPassword, "nea");
 }
 
 struct StatusTest : testing::Test {
