@@ -23,7 +23,7 @@ install_missing() {
     tell "no Debian packages here; going on with what is installed (needed: $(echo $*))"
     return 0
   fi
-  installed=$(dpkg-query -W -f='${db:Status-Abbrev}${Package}\n' "$@" 2>/dev/null | sed -n 's/^ii *//p')
+  installed=$(dpkg-query -W -f='${db:Status-Abbrev}${Package}\n' "$@" 2>/dev/null | sed -n 's/^.i *//p')
   missing=
   for package in "$@"; do
     printf '%s\n' "$installed" | grep -qx "$package" || missing="$missing $package"

@@ -25,7 +25,7 @@ void OpenDropped(std::vector<std::string> paths, Documents& documents, Opener& o
   const auto nameless = std::stable_partition(paths.begin(), paths.end(), HasExtension);
   const std::vector<std::string> refused(nameless, paths.end());
   paths.erase(nameless, paths.end());
-  if (!refused.empty()) report("Soubory bez přípony nelze otevřít:" + ListOf(refused));
+  if (!refused.empty()) report("Bez přípony nelze otevřít:" + ListOf(refused));
   if (paths.empty() || !platform.Confirmed("Opravdu otevřít soubor ?", "Soubor")) return;
   // The first file replaces the current document; the others open only in empty tabs.
   auto path = paths.begin();

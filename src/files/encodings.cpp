@@ -95,6 +95,13 @@ void Write(Platform& platform, const std::string& target, std::string_view bytes
   if (outcome.error != 0) ReportError(platform, target, outcome);
 }
 
+// Whether an LF has no CR before it.
+bool HasLoneLf(std::string_view bytes) {
+  for (std::size_t at = bytes.find('\n'); at != std::string_view::npos; at = bytes.find('\n', at + 1))
+    if (at == 0 || bytes[at - 1] != '\r') return true;
+  return false;
+}
+
 }  // namespace
 
 std::string_view FormatHint(std::string_view bytes) {
@@ -102,12 +109,11 @@ std::string_view FormatHint(std::string_view bytes) {
     return "Soubor je v UTF-8, čte se jako Windows-1250. Převede ho „Konverze dos - unix“ v nabídce Soubor.";
   // The conversion of line ends would damage UTF-16 and other files with NUL.
   if (bytes.find('\0') != std::string_view::npos) return {};
-  // The second conversion alone would turn CR LF into CR CR LF and lose a last line without an end.
-  for (std::size_t at = bytes.find('\n'); at != std::string_view::npos; at = bytes.find('\n', at + 1))
-    if (at == 0 || bytes[at - 1] != '\r')
-      return "Některé řádky končí jen LF. „Konverze dos - unix“ v nabídce Soubor: napřed DOS --> UNIX, "
-             "výsledek pak UNIX --> DOS.";
-  return {};
+  if (!HasLoneLf(bytes)) return {};
+  // The conversion to DOS would keep each CR and lose a last line without an end.
+  if (bytes.ends_with('\n') && bytes.find('\r') == std::string_view::npos)
+    return "Řádky končí jen LF. „Konverze dos - unix“: UNIX --> DOS.";
+  return "Některé řádky končí jen LF. „Konverze dos - unix“: DOS --> UNIX, výsledek pak UNIX --> DOS.";
 }
 
 std::string_view MixHint() {

@@ -49,8 +49,8 @@ struct WriteOutcome {
   std::string kept = {};
 };
 
-// The stamp of a file usually changes when the file is written or replaced.
-// The number of the file is no part of the stamp: on FAT and on some network disks it changes by itself.
+// Size and time usually change when a file is written or replaced. Device and inode are not compared, because on FAT
+// and on some network disks they change by themselves.
 struct FileStamp {
   std::uint64_t size = 0;
   std::int64_t changed = 0;  // the time of the last write, in nanoseconds since 1970

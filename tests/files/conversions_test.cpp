@@ -160,7 +160,7 @@ TEST_F(ConversionTest, WritesBesideTheSourceAndRestoresAnyText) {
 
 TEST(FormatHint, NamesUtf8AndForeignLineEnds) {
   const std::pair<std::string_view, std::string_view> cases[] = {
-      {"\xC5\xBE\n", "Soubor je v UTF-8"}, {"\na", "Některé řádky"}, {"a\r\n\n", "Některé řádky"}};
+      {"\xC5\xBE\n", "Soubor je v UTF-8"}, {"a\nb\n", "Řádky končí"}, {"\na", "Některé"}, {"a\r\n\n", "Některé"}};
   for (const auto& [text, hint] : cases) EXPECT_TRUE(FormatHint(text).starts_with(hint)) << text;
   EXPECT_EQ(FormatHint("\xBE\r\na\r"), "");
   EXPECT_EQ(FormatHint(std::string_view("a\0\r\0\n\0", 6)), "");

@@ -147,7 +147,7 @@ TEST_F(FilesTest, DroppedFilesAreOpenedAfterAYesUntilNoTabIsFree) {
   platform.TakeCalls();
   OpenDropped(dropped, documents, editor.opener, platform);
   EXPECT_EQ(TextsOf(documents), "newsaved|3|4|1|2|");
-  EXPECT_EQ(platform.calls.front(), MessageCall(0, "Soubory bez přípony nelze otevřít:\r\n/README"));
+  EXPECT_EQ(platform.calls.front(), MessageCall(0, "Bez přípony nelze otevřít:\r\n/README"));
   EXPECT_EQ(platform.calls.back(),
             MessageCall(0, "Není volná záložka, neotevřeny zůstaly soubory:\r\n/5.txt\r\n/6.txt"));
 }

@@ -22,8 +22,8 @@ KeyPreview::KeyPreview(QWidget& window, std::function<Preview(const QKeyEvent&)>
     widget->installEventFilter(this);
     // Without this attribute no letters could be composed while a button has the focus.
     widget->setAttribute(Qt::WA_InputMethodEnabled);
-    // ImhMultiLine makes KeyRouter let a held Enter repeat. A button doesn't get this hint, so a held Enter presses the
-    // button only once.
+    // ImhMultiLine makes KeyRouter let a held Enter or space bar repeat. A button doesn't get this hint, so a held key
+    // presses the button only once.
     if (!qobject_cast<QPushButton*>(widget)) widget->setInputMethodHints(widget->inputMethodHints() | Qt::ImhMultiLine);
   }
 }

@@ -32,7 +32,7 @@ QString Title() { return QStringLiteral("Zpráva stránky"); }
 // The engine asks this question through javaScriptConfirm().
 constexpr char kLeaving[] = "Are you sure you want to leave this page? Changes that you made may not be saved.";
 constexpr int kMostQuestions = 20;  // shown after one command that loads a page
-// A longer question of a page is cut off.
+// The limits of a page's question. The rest is cut off.
 constexpr int kLongestQuestion = 2000;  // characters
 constexpr int kMostLines = 25;
 // Before a link of a local page leads to the net, a question shows the whole address in lines of kAddressLine
@@ -44,8 +44,10 @@ bool MayBeFramed(const QUrl& address) {
   return MayBeShown(address) || address.scheme() == QLatin1String("about") || address.scheme() == QLatin1String("blob");
 }
 
-QString CutOff(const QString& question) {
-  return Shortened(question.section(u'\n', 0, kMostLines - 1), kLongestQuestion);
+QString CutOff(QString question) {
+  question.replace(QChar::LineSeparator, u'\n').replace(QChar::ParagraphSeparator, u'\n');
+  const QString first = question.section(u'\n', 0, kMostLines - 1);
+  return Shortened(first.size() < question.size() ? first + QStringLiteral("\n...") : first, kLongestQuestion);
 }
 
 }  // namespace
@@ -95,8 +97,9 @@ void WebEnginePage::AskToLeaveTheDisk(const QUrl& address) {
 }
 
 void WebEnginePage::ReportUnshown(const QUrl& address) {
-  const QString text = QStringLiteral("Tento soubor interní browser nezobrazuje:\n") +
-                       Shortened(address.toDisplayString(), kAddressLine);
+  const QString name = address.fileName(QUrl::FullyDecoded);
+  const QString text = QStringLiteral("Tento soubor interní browser nezobrazuje ani nestahuje:\n") +
+                       Shortened(name.isEmpty() ? address.toDisplayString() : name, kAddressLine);
   QMetaObject::invokeMethod(
       this, [this, text] { AskInBox(QStringLiteral("Interní browser"), text, QMessageBox::Ok, QMessageBox::Ok); },
       Qt::QueuedConnection);
@@ -158,7 +161,7 @@ bool WebEnginePage::MayAsk() const { return !answers_no_ && questions_ < kMostQu
 
 bool WebEnginePage::Ask(QDialog& question) {
   QWidget* view = QWebEngineView::forPage(this);
-  // An open modal dialog of the program could return its result only after the answer to the page.
+  // If a page asked while a modal dialog of the program is open, the dialog could return only after the answer.
   if (QApplication::activeModalWidget() != nullptr) return false;
   if (!MayAsk() || question_ != nullptr || view == nullptr || !view->isVisible()) return false;
   ++questions_;

@@ -28,7 +28,7 @@ std::unique_ptr<QWebEngineProfile> MakeProfile(bool allows_net, std::function<vo
   auto profile = std::make_unique<QWebEngineProfile>();
   profile->setHttpAcceptLanguage(QStringLiteral("cs"));
   profile->setUrlRequestInterceptor(new NetRefusal(allows_net, std::move(on_withheld), profile.get()));
-  // The engine offers each file that it can't show as a download.
+  // The engine offers a file here that it can't show or that a link marks as a download.
   QObject::connect(profile.get(), &QWebEngineProfile::downloadRequested, [](QWebEngineDownloadRequest* download) {
     download->cancel();
     if (auto* page = qobject_cast<WebEnginePage*>(download->page())) page->ReportUnshown(download->url());
@@ -94,7 +94,7 @@ void WebEngineView::ConnectPage() {
   connect(page_.get(), &QWebEnginePage::urlChanged, this, [this] {
     if (!Busy() && on_finished) on_finished();
   });
-  // A closed window plays nothing.
+  // A closed window makes no sound.
   connect(page_.get(), &QWebEnginePage::visibleChanged, this,
           [this] { page_->setAudioMuted(view_->window()->isHidden()); });
   connect(page_.get(), &QWebEnginePage::linkHovered, this, [this](const QString& address) {

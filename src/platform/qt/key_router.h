@@ -52,8 +52,8 @@ class KeyRouter {
   std::vector<Entry> entries_;  // sorted by turn
   int released_key_ = 0;
   quint64 released_at_ = 0;  // ms, the time stamp of the release
-  QPointer<const QWidget>
-      pressed_in_;  // the widget of the last press, without repeats, of a key that DropsRepeat drops
+  // The widget of the last press, without repeats, of Enter, Delete or the space bar.
+  QPointer<const QWidget> pressed_in_;
   bool insert_on_ = false;
 };
 

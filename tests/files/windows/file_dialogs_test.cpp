@@ -103,6 +103,13 @@ TEST_F(SaveDialogTest, AnOpenedFileSetsItsFields) {
   Expect(dialog, "", "Command1=&Ulož");
 }
 
+TEST_F(SaveDialogTest, ASaveToANameWithoutAnExtensionShowsThePathOfTheFields) {
+  platform.answers = {Answer::kOk};
+  parts.files.saver.SaveToPath(Utf8FromQString(Find<FolderList>(dialog, "Dir1")->Path()) + "/bez");
+  const std::string path = Utf8FromQString(Find<FolderList>(dialog, "Dir1")->Path()) + "/Jméno.html";
+  ExpectState(dialog, "", ("Command1=&Ulož Label1=" + path).c_str());
+}
+
 TEST_F(FileDialogsTest, AnOpenedFileSetsTheFieldsOfALaterSaveDialog) {
   parts.files.opener.OpenPath(folder.File("a.TXT"));
   Put("bez", "");

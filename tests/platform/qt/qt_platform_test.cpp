@@ -73,13 +73,14 @@ TEST(InstallFolder, IsTheMarkedFolderOfTheProgramOrAFolderForTheUserAlone) {
 
 TEST(InstallFolder, LastsUntilLogOutIfTheUsersOwnCannotBeCreated) {
   const TempFolder data, runtime;
+  const QByteArray before = qgetenv("XDG_RUNTIME_DIR");
   qputenv("XDG_RUNTIME_DIR", runtime.Path().c_str());
   const std::string home = data.Put("file", "");
   EXPECT_EQ(InstallFolderNotice(FindInstallFolder(Utf8ToQString(data.Path()), Utf8ToQString(home))),
             "Složku " + home + "/pelmar-vex nelze vytvořit: soubor již existuje\r\n\r\n" +
                 "Nastavení, poznámky a zachované dokumenty vydrží jen do odhlášení, ve složce\r\n" +
                 runtime.File("pelmar-vex/"));
-  qunsetenv("XDG_RUNTIME_DIR");
+  before.isNull() ? qunsetenv("XDG_RUNTIME_DIR") : qputenv("XDG_RUNTIME_DIR", before);
 }
 
 TEST(Keys, InsertTogglesAtEachPressWithoutShiftOrCtrl) {

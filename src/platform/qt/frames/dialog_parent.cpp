@@ -61,7 +61,9 @@ void KeepAboveAll(QWidget& window) {
     const QWindow* own = window.windowHandle();
     const bool has_focus = now != nullptr && (now == own || now->transientParent() == own);
     if (has_focus || !HasWindowOnTop()) return PutAboveAll(window);
-    if (window.parentWidget() == nullptr) SetAlwaysOnTop(window, false);
+    if (now == nullptr || window.parentWidget() != nullptr) return;
+    SetAlwaysOnTop(window, false);
+    const_cast<QWindow*>(now)->raise();  // some window managers raise a window that no longer stays on top
   });
 }
 

@@ -104,6 +104,7 @@ void TextBox::setAlignment(Qt::Alignment alignment) {
   view_->SetAlign(alignment.testFlag(Qt::AlignRight)     ? TextAlign::kRight
                   : alignment.testFlag(Qt::AlignHCenter) ? TextAlign::kCentre
                                                          : TextAlign::kLeft);
+  mover_.Forget();
   Relayout();
 }
 

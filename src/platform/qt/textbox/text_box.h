@@ -133,7 +133,7 @@ class TextBox : public QAbstractScrollArea {
   void mouseDoubleClickEvent(QMouseEvent* event) override { mouse_.DoubleClick(event); }
   void dragEnterEvent(QDragEnterEvent* event) override { drop_.Move(event); }
   void dragMoveEvent(QDragMoveEvent* event) override { drop_.Move(event); }
-  void dragLeaveEvent(QDragLeaveEvent* event) override { drop_.Leave(event); }
+  void dragLeaveEvent(QDragLeaveEvent* /*event*/) override { drop_.Leave(); }
   void dropEvent(QDropEvent* event) override { drop_.Drop(event); }
 
  private:

@@ -41,6 +41,7 @@ void TextBox::keyPressEvent(QKeyEvent* event) {
   }
   // Shift+F10 opens the pop-up menu, for keyboards without a menu key.
   if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
+    RevealCaret();
     const QPoint at = CaretRect().bottomLeft();
     QContextMenuEvent menu(QContextMenuEvent::Keyboard, at, viewport()->mapToGlobal(at));
     QGuiApplication::sendEvent(viewport(), &menu);
@@ -272,6 +273,7 @@ void TextBox::changeEvent(QEvent* event) {
   if (event->type() == QEvent::FontChange || event->type() == QEvent::ApplicationFontChange)
     return KeepTopWhile([this] {
       view_->SetFont(font());
+      mover_.Forget();
       Relayout();
     });
   viewport()->update();

@@ -4,6 +4,7 @@
 #include <QMimeData>
 #include <QPointer>
 #include <QScrollBar>
+#include <QUrl>
 #include <algorithm>
 #include <string>
 
@@ -13,6 +14,7 @@
 namespace pelmar {
 namespace {
 
+constexpr int kScrollEveryMs = 100;
 constexpr int kScrollBorder = 12;  // pixels; a drag this near to the upper or lower edge scrolls
 
 int ScrollSign(int at, int size) {
@@ -48,13 +50,24 @@ void TextDrop::StartDrag(TextBox& box) {
   auto* drag = new QDrag(&box);
   drag->setMimeData(MimeFromText(dragged));
   const Qt::DropActions offered = box.IsReadOnly() ? Qt::CopyAction : Qt::CopyAction | Qt::MoveAction;
-  // Within this text box Accept moves the text. Elsewhere a drag copies the text, because a word that is dragged into a
-  // search field must stay in the document. With Shift the drag moves the text.
+  // Within this text box Accept chooses the action. Elsewhere a drag copies the text, because a word that is dragged
+  // into a search field must stay in the document. With Shift the drag moves the text.
   const Qt::DropAction done = drag->exec(offered, Qt::CopyAction);
   if (guard.isNull() || box.IsReadOnly() || done != Qt::MoveAction) return;
   const QObject* target = drag->target();
   if (target == &box || target == box.viewport()) return;  // Drop() has moved the text
   if (box.Buffer().SelStart() == start && box.Buffer().SelText() == dragged) box.Buffer().ReplaceSelection({});
+}
+
+TextDrop::TextDrop(TextBox& box) : box_(box) {
+  scroll_timer_.setInterval(kScrollEveryMs);
+  QObject::connect(&scroll_timer_, &QTimer::timeout, [this] { ScrollAtEdge(); });
+}
+
+void TextDrop::ScrollAtEdge() {
+  QScrollBar* bar = box_.verticalScrollBar();
+  bar->setValue(bar->value() + ScrollSign(at_.y(), box_.viewport()->height()) * bar->singleStep());
+  box_.ShowDropPlace(box_.PlaceAt(at_));
 }
 
 bool TextDrop::IsOwn(const QDropEvent& event) const {
@@ -76,17 +89,22 @@ void TextDrop::Accept(QDropEvent& event) const {
 
 void TextDrop::Move(QDragMoveEvent* event) {
   if (!Takes(*event)) return event->ignore();
-  const QPoint at = event->position().toPoint();
-  QScrollBar* bar = box_.verticalScrollBar();
-  bar->setValue(bar->value() + ScrollSign(at.y(), box_.viewport()->height()) * bar->singleStep());
-  box_.ShowDropPlace(box_.PlaceAt(at));
+  at_ = event->position().toPoint();
+  if (ScrollSign(at_.y(), box_.viewport()->height()) == 0)
+    scroll_timer_.stop();
+  else if (!scroll_timer_.isActive())
+    scroll_timer_.start();
+  box_.ShowDropPlace(box_.PlaceAt(at_));
   Accept(*event);
 }
 
-void TextDrop::Leave(QDragLeaveEvent* /*event*/) { box_.ShowDropPlace(std::nullopt); }
+void TextDrop::Leave() {
+  scroll_timer_.stop();
+  box_.ShowDropPlace(std::nullopt);
+}
 
 void TextDrop::Drop(QDropEvent* event) {
-  box_.ShowDropPlace(std::nullopt);
+  Leave();
   if (!Takes(*event)) return event->ignore();
   Accept(*event);
   const TextPlace place = box_.PlaceAt(event->position().toPoint());

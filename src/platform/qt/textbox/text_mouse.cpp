@@ -4,7 +4,6 @@
 #include <QClipboard>
 #include <QInputMethod>
 #include <QScrollBar>
-#include <QStyleHints>
 #include <QTimerEvent>
 #include <algorithm>
 

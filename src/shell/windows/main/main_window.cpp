@@ -25,7 +25,7 @@ namespace {
 
 // The size at the first start, with space for the whole toolbar.
 constexpr QSize kFirstSize(820, 560);
-// The largest coordinate of a window under X11, in twips.
+// The largest coordinate and length of a window under X11, in twips.
 constexpr int kLargestX11 = TwipsOf(32'767);
 
 std::vector<std::string> DroppedFiles(const QMimeData* mime) {
@@ -182,16 +182,21 @@ void MainWindow::FitToFrame() {
 }
 
 TwipsRect MainWindow::Wanted(const TwipsRect& now) const {
+  // A window that leaves the maximised state is corrected only if its inside has got the wanted outer size. Any other
+  // size was chosen by the person or the window manager, for instance half of the screen.
+  const bool has_wanted_size = now.width == wanted_place_.width && now.height == wanted_place_.height;
+  const QSize unframed(PixelsOf(wanted_place_.width), PixelsOf(wanted_place_.height));
+  if (left_maximised_ && !has_wanted_size && size() != unframed) return now;
   if (wants_position_) return wanted_place_;
   return {now.left, now.top, wanted_place_.width, wanted_place_.height};
 }
 
 void MainWindow::SetPlace(const TwipsRect& place) {
   const auto bounded = [](int twips) { return std::clamp(twips, -kLargestX11, kLargestX11); };
-  // A much larger window, from a damaged file, would take gigabytes.
+  // A damaged settings file could ask for a window that takes gigabytes.
   const QSize most = screen()->virtualSize() * 2;
-  wanted_place_ = {bounded(place.left), bounded(place.top), std::min(place.width, TwipsOf(most.width())),
-                   std::min(place.height, TwipsOf(most.height()))};
+  wanted_place_ = {bounded(place.left), bounded(place.top), bounded(std::min(place.width, TwipsOf(most.width()))),
+                   bounded(std::min(place.height, TwipsOf(most.height())))};
   const QSize first = kFirstSize.boundedTo(screen()->availableSize());
   if (place.width <= 0) wanted_place_.width = TwipsOf(first.width());
   if (place.height <= 0) wanted_place_.height = TwipsOf(first.height());
@@ -200,19 +205,18 @@ void MainWindow::SetPlace(const TwipsRect& place) {
 }
 
 TwipsRect MainWindow::Place() const {
-  if (!isMinimized()) {
-    const TwipsRect now = OuterGeometry(*this);
-    // Wayland tells no program the position of its windows.
-    const bool has_position = !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
-    return has_position ? now : TwipsRect{wanted_place_.left, wanted_place_.top, now.width, now.height};
+  TwipsRect place = OuterGeometry(*this);
+  if (isMinimized()) {
+    // A window that started minimised has no frame yet.
+    if (!placement_.FrameKnown()) return wanted_place_;
+    // The place that the window has when it is no longer minimised.
+    const QMargins frame = windowHandle() != nullptr ? windowHandle()->frameMargins() : QMargins();
+    const QRect outer = normalGeometry().marginsAdded(frame);
+    place = {TwipsOf(outer.left()), TwipsOf(outer.top()), TwipsOf(outer.width()), TwipsOf(outer.height())};
   }
-  // A window that started minimised has no frame yet.
-  if (!placement_.FrameKnown()) return wanted_place_;
-  // The place that the window has when it is no longer minimised.
-  const QRect normal = normalGeometry();
-  const QMargins frame = windowHandle() != nullptr ? windowHandle()->frameMargins() : QMargins();
-  const QRect outer = normal.marginsAdded(frame);
-  return {TwipsOf(outer.left()), TwipsOf(outer.top()), TwipsOf(outer.width()), TwipsOf(outer.height())};
+  // Wayland tells no program the position of its windows.
+  if (!QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) return place;
+  return {wanted_place_.left, wanted_place_.top, place.width, place.height};
 }
 
 void MainWindow::SetStartState(WindowMode state) { window_state_ = state; }
@@ -232,7 +236,7 @@ void MainWindow::SetNormalState() {
 }
 
 void MainWindow::SetOuterSize(int width, int height) {
-  wants_position_ = false;
+  left_maximised_ = wants_position_ = false;
   wanted_place_.width = width;
   wanted_place_.height = height;
   pelmar::SetOuterSize(*this, width, height);
@@ -309,14 +313,11 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
   // The system delivers drops even while a modal dialog is open, for instance the lock. These drops are refused.
   if (QApplication::activeModalWidget() != nullptr) return;
-  if (DroppedFiles(event->mimeData()).empty()) return;
-  event->setDropAction(Qt::CopyAction);  // the source must not remove a file that is only opened
-  event->accept();
+  if (!DroppedFiles(event->mimeData()).empty()) event->acceptProposedAction();
 }
 
 void MainWindow::dropEvent(QDropEvent* event) {
-  event->setDropAction(Qt::CopyAction);
-  event->accept();
+  event->acceptProposedAction();
   // The question is asked after the drop, so the source program needn't wait for the answer.
   const auto open = [this, paths = DroppedFiles(event->mimeData())] {
     activateWindow();
@@ -327,14 +328,16 @@ void MainWindow::dropEvent(QDropEvent* event) {
 
 void MainWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
-  // A hidden window has no layout yet.
+  // A hidden window gets its layout when it is shown.
   if (event->type() != QEvent::WindowStateChange || !isVisible()) return;
   ApplyLayout();
-  // The normal place of a window that started maximised was set without a frame.
+  // The size and position of a window that started maximised were set without its frame. They are corrected when the
+  // window first becomes normal.
   const auto* change = static_cast<QWindowStateChangeEvent*>(event);
   if (!change->oldState().testFlag(Qt::WindowMaximized) || isMaximized() || isMinimized()) return;
-  if (std::exchange(window_state_, WindowMode::kNormal) == WindowMode::kMaximised)
-    placement_.Begin(windowHandle()->frameMargins());
+  if (!placement_.FrameKnown() || std::exchange(window_state_, WindowMode::kNormal) != WindowMode::kMaximised) return;
+  left_maximised_ = true;
+  placement_.Begin(windowHandle()->frameMargins());
 }
 
 bool MainWindow::event(QEvent* event) {

@@ -360,7 +360,8 @@ TEST_F(TextBoxTest, FollowsItsBufferUntilItGetsAnother) {
   first.SetText("unseen");
   EXPECT_EQ(Document(), "|");
   EXPECT_EQ(changed.count(), 1);
-  delete box;  // before its buffer
+  delete box;
+  second.SetText("alone");  // a box that is gone no longer follows it
 }
 
 TEST(MoveSelection, EqualsCutAndPasteAndIsUndoneInOneStep) {
