@@ -98,7 +98,7 @@ void WebEnginePage::AskToLeaveTheDisk(const QUrl& address) {
 
 void WebEnginePage::ReportUnshown(const QUrl& address) {
   const QString name = address.fileName(QUrl::FullyDecoded);
-  const QString text = QStringLiteral("Tento soubor interní browser nezobrazuje ani nestahuje:\n") +
+  const QString text = QStringLiteral("Tento soubor interní browser nezobrazuje:\n") +
                        Shortened(name.isEmpty() ? address.toDisplayString() : name, kAddressLine);
   QMetaObject::invokeMethod(
       this, [this, text] { AskInBox(QStringLiteral("Interní browser"), text, QMessageBox::Ok, QMessageBox::Ok); },

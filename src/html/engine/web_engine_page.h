@@ -33,7 +33,7 @@ class WebEnginePage : public QWebEnginePage {
   // the same answers as after AnswerNo(), which stays in effect.
   void ResetQuestions() { questions_ = 0; }
   [[nodiscard]] bool Asking() const { return question_ != nullptr; }
-  // Says that the browser neither shows nor downloads the file at this address.
+  // Says that the browser can't show the file at this address.
   void ReportUnshown(const QUrl& address);
 
   std::function<void()> on_coming;                    // a page is about to load here

@@ -28,11 +28,6 @@ std::unique_ptr<QWebEngineProfile> MakeProfile(bool allows_net, std::function<vo
   auto profile = std::make_unique<QWebEngineProfile>();
   profile->setHttpAcceptLanguage(QStringLiteral("cs"));
   profile->setUrlRequestInterceptor(new NetRefusal(allows_net, std::move(on_withheld), profile.get()));
-  // The engine offers a file here that it can't show or that a link marks as a download.
-  QObject::connect(profile.get(), &QWebEngineProfile::downloadRequested, [](QWebEngineDownloadRequest* download) {
-    download->cancel();
-    if (auto* page = qobject_cast<WebEnginePage*>(download->page())) page->ReportUnshown(download->url());
-  });
   return profile;
 }
 
@@ -66,6 +61,12 @@ WebEngineView::WebEngineView(QWidget* parent) : view_(std::make_unique<QWebEngin
     profiles_[side] = MakeProfile(allows_net, [this] {
       if (page_->Side() == PageSide::kDisk) on_withheld();
     });
+    // The engine offers a file here that it can't show or that a link marks as a download.
+    connect(profiles_[side].get(), &QWebEngineProfile::downloadRequested, this,
+            [this](QWebEngineDownloadRequest* download) {
+              download->cancel();
+              if (download->url() == requested_) page_->ReportUnshown(requested_);
+            });
   }
   MakePage(PageSide::kDisk);
 }
@@ -207,6 +208,7 @@ void WebEngineView::Finished() {
 
 void WebEngineView::Load(const QUrl& address) {
   if (!address.isValid() || !MayBeShown(address)) return;
+  requested_ = address;
   Command([this, address] {
     if (!places_.isEmpty() && SideOf(address) == page_->Side())
       return RunInPage([this, address] { page_->load(address); });

@@ -68,6 +68,7 @@ class WebEngineView : public QObject, public WebView {
   std::unique_ptr<QWebEngineView> view_;
   QList<QUrl> places_;                    // the history, complete only after GatherPlaces
   qsizetype place_ = 0;                   // the index in places_ at which the present page was loaded
+  QUrl requested_;                        // the last address for Load
   QTimer expecting_load_;                 // runs after a command until a load ends, for a second at most
   QTimer unanswered_;                     // runs while a probe waits for the page's answer
   qint64 probed_ = 0;                     // the id of the last probed process
