@@ -108,8 +108,7 @@ std::string_view FormatHint(std::string_view bytes) {
   if (LooksLikeUtf8(bytes))
     return "Soubor je v UTF-8, čte se jako Windows-1250. Převede ho „Konverze dos - unix“ v nabídce Soubor.";
   // The conversion of line ends would damage UTF-16 and other files with NUL.
-  if (bytes.find('\0') != std::string_view::npos) return {};
-  if (!HasLoneLf(bytes)) return {};
+  if (bytes.find('\0') != std::string_view::npos || !HasLoneLf(bytes)) return {};
   // The conversion to DOS would keep each CR and lose a last line without an end.
   if (bytes.ends_with('\n') && bytes.find('\r') == std::string_view::npos)
     return "Řádky končí jen LF. „Konverze dos - unix“: UNIX --> DOS.";

@@ -51,6 +51,7 @@ void TestHtml(Editor& e) {
 
 std::string StripHtml(std::string_view text) {
   std::string plain;
+  plain.reserve(text.size());
   bool inside = false;
   for (const char ch : text) {
     if (ch == '<') {

@@ -30,6 +30,7 @@ void AppendNumber(std::string& out, int number) {
 std::string SortLines(std::string_view text, const SortedOrder& order) {
   const std::vector<std::string_view> lines = LinesWithEnds(text);
   std::string sorted;
+  sorted.reserve(text.size());
   for (const std::size_t index : order(lines)) sorted += lines[index];
   return sorted;
 }

@@ -1,6 +1,6 @@
 // The tabs of the notes. The control reaches from the tool bar to the bottom of the window. Below the row of tabs, the
-// text box covers the control. It would cover scroll buttons too, so the form turns them off. In a narrow window the
-// tabs show only the numbers of the pages.
+// text box covers the control. The text box would also cover scroll buttons, so the form turns scroll buttons off. In a
+// narrow window the tabs show only the numbers of the pages.
 #pragma once
 
 #include <QTabBar>

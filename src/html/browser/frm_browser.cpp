@@ -173,8 +173,9 @@ void FrmBrowser::ShowCaption() {
 }
 
 void FrmBrowser::timTimer_Timer() {
-  ShowState(view_->Busy());
-  if (view_->Busy()) return ui_->Picture1->Step();
+  const bool busy = view_->Busy();
+  ShowState(busy);
+  if (busy) return ui_->Picture1->Step();
   timTimer.stop();
   ShowCaption();
 }
@@ -182,7 +183,7 @@ void FrmBrowser::timTimer_Timer() {
 void FrmBrowser::ShowState(bool busy) {
   status_->setText(busy ? QStringLiteral("Busy") : QStringLiteral("Idle"));
   ui_->Picture1->setEnabled(busy);
-  // At other times the page gets the key.
+  // Escape stops a load. At other times the page gets this key.
   ui_->Stop->setShortcut(busy ? QKeySequence(Qt::Key_Escape) : QKeySequence());
 }
 
@@ -209,7 +210,7 @@ void FrmBrowser::View_Finished() {
   }
   if (selected && !half_typed) line.selectAll();
   DontNavigateNow = false;
-  // The widget of an earlier page may have had the focus.
+  // If the widget of an earlier page had the focus, no widget has the focus now.
   if (focusWidget() == nullptr) view_->Widget()->setFocus();
 }
 

@@ -61,7 +61,7 @@ WebEngineView::WebEngineView(QWidget* parent) : view_(std::make_unique<QWebEngin
     profiles_[side] = MakeProfile(allows_net, [this] {
       if (page_->Side() == PageSide::kDisk) on_withheld();
     });
-    // The engine offers a file here that it can't show or that a link marks as a download.
+    // The engine sends this signal for a file that it can't show, and for a link that is marked as a download.
     connect(profiles_[side].get(), &QWebEngineProfile::downloadRequested, this,
             [this](QWebEngineDownloadRequest* download) {
               download->cancel();

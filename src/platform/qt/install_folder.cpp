@@ -28,10 +28,10 @@ ChosenFolder FindInstallFolder(const QString& program_folder, const QString& dat
   const std::string own = PathIn(data_home);
   const int error = MakeFolder(own);
   if (error == 0) return {.path = own + '/'};
-  const QString session = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-  const std::string runtime = PathIn(session);
+  const QString session_folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+  const std::string runtime = PathIn(session_folder);
   // If neither folder can be created, the first write of a file reports the error.
-  if (session.isEmpty() || MakeFolder(runtime) != 0) return {.path = own + '/'};
+  if (session_folder.isEmpty() || MakeFolder(runtime) != 0) return {.path = own + '/'};
   return {.path = runtime + '/', .refused = own, .error = error};
 }
 

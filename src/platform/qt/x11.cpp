@@ -16,6 +16,8 @@ Display* Connection() {
 
 }  // namespace
 
+bool IsWayland() { return QGuiApplication::platformName().startsWith(QLatin1String("wayland")); }
+
 LockKeys ReadLockKeys() {
   Display* display = Connection();
   unsigned lamps = 0;

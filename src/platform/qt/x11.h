@@ -1,7 +1,10 @@
-// What only the X server knows. Without an X server, for instance under Wayland, each function returns a default.
+// Whether the program runs under Wayland, and what only the X server knows. Without an X server the functions about
+// keys and the clipboard return a default.
 #pragma once
 
 namespace pelmar {
+
+bool IsWayland();
 
 struct LockKeys {
   bool caps = false;

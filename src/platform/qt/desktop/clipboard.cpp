@@ -32,7 +32,7 @@ void Clipboard::Clear() {
 }
 
 void WhenClipboardComes(QObject& context, std::function<void()> act) {
-  if (!QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) return;
+  if (!IsWayland()) return;
   QObject::connect(qGuiApp, &QGuiApplication::focusWindowChanged, &context, std::move(act), Qt::SingleShotConnection);
 }
 

@@ -16,7 +16,7 @@ QPointer<QWidget>& Expected() {
   return expected;
 }
 
-// The property of the windows that PutAboveAll has put on top or made normal.
+// This property marks the windows that PutAboveAll was called for. They don't count as windows on top.
 constexpr char kFollowsTop[] = "followsTop";
 
 // Whether a window that stays on top by itself is visible.
@@ -63,7 +63,8 @@ void KeepAboveAll(QWidget& window) {
     if (has_focus || !HasWindowOnTop()) return PutAboveAll(window);
     if (now == nullptr || window.parentWidget() != nullptr) return;
     SetAlwaysOnTop(window, false);
-    const_cast<QWindow*>(now)->raise();  // some window managers raise a window that no longer stays on top
+    // Some window managers raise a window when it stops staying on top, so the focused window is raised again.
+    const_cast<QWindow*>(now)->raise();
   });
 }
 

@@ -17,9 +17,9 @@ void ExpectActive(QWidget* window);
 // If the program shows a window that always stays on top, for instance a notes window, makes the given window stay on
 // top too, because the other one could cover it. Otherwise makes the given window a normal window.
 void PutAboveAll(QWidget& window);
-// Calls PutAboveAll for the visible window each time it or a window of its own gets the focus, and again when no other
-// window on top is left. A window without a parent stays on top only until another window of the program gets the
-// focus.
+// From now on, calls PutAboveAll each time the window or one of its child windows gets the focus, and when no other
+// window on top is left. Does nothing while the window is hidden. A window without a parent stays on top only until
+// another window of the program gets the focus.
 void KeepAboveAll(QWidget& window);
 
 // Assigns a hidden window to the screen of the window that DialogParent returns. Does nothing if DialogParent returns

@@ -19,10 +19,6 @@ QRect Outer(const QWidget& window) {
   return window.geometry().marginsAdded(Frame(window));
 }
 
-TwipsRect InTwips(const QRect& pixels) {
-  return {TwipsOf(pixels.left()), TwipsOf(pixels.top()), TwipsOf(pixels.width()), TwipsOf(pixels.height())};
-}
-
 void MoveOuter(QWidget& window, QPoint top_left) {
   if (!IsShown(window)) return window.move(top_left);
   // No setFramePosition: some window managers ignore it if the inside of the window already begins at `top_left`.
@@ -31,6 +27,10 @@ void MoveOuter(QWidget& window, QPoint top_left) {
 }
 
 }  // namespace
+
+TwipsRect InTwips(const QRect& pixels) {
+  return {TwipsOf(pixels.left()), TwipsOf(pixels.top()), TwipsOf(pixels.width()), TwipsOf(pixels.height())};
+}
 
 TwipsRect OuterGeometry(const QWidget& window) { return InTwips(Outer(window)); }
 

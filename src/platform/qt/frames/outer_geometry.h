@@ -11,6 +11,7 @@ class QWidget;
 
 namespace pelmar {
 
+TwipsRect InTwips(const QRect& pixels);
 TwipsRect OuterGeometry(const QWidget& window);
 // Sets left and top together. A function for one of them would have to read the other from OuterGeometry. That value
 // may be old, since the window manager answers with a delay.

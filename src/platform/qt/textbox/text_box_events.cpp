@@ -41,7 +41,7 @@ void TextBox::keyPressEvent(QKeyEvent* event) {
   }
   // Shift+F10 opens the pop-up menu, for keyboards without a menu key.
   if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
-    RevealCaret();
+    RevealCaret();  // the menu opens at the caret
     const QPoint at = CaretRect().bottomLeft();
     QContextMenuEvent menu(QContextMenuEvent::Keyboard, at, viewport()->mapToGlobal(at));
     QGuiApplication::sendEvent(viewport(), &menu);

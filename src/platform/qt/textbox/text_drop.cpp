@@ -14,7 +14,7 @@
 namespace pelmar {
 namespace {
 
-constexpr int kScrollEveryMs = 100;
+constexpr int kDragScrollEveryMs = 100;
 constexpr int kScrollBorder = 12;  // pixels; a drag this near to the upper or lower edge scrolls
 
 int ScrollSign(int at, int size) {
@@ -43,6 +43,11 @@ void MoveSelection(TextBuffer& buffer, std::size_t to, bool copy) {
   buffer.Select(to, to + moved.size());
 }
 
+TextDrop::TextDrop(TextBox& box) : box_(box) {
+  scroll_timer_.setInterval(kDragScrollEveryMs);
+  QObject::connect(&scroll_timer_, &QTimer::timeout, [this] { ScrollAtEdge(); });
+}
+
 void TextDrop::StartDrag(TextBox& box) {
   const QPointer<TextBox> guard(&box);
   const std::string dragged(box.Buffer().SelText());
@@ -57,17 +62,6 @@ void TextDrop::StartDrag(TextBox& box) {
   const QObject* target = drag->target();
   if (target == &box || target == box.viewport()) return;  // Drop() has moved the text
   if (box.Buffer().SelStart() == start && box.Buffer().SelText() == dragged) box.Buffer().ReplaceSelection({});
-}
-
-TextDrop::TextDrop(TextBox& box) : box_(box) {
-  scroll_timer_.setInterval(kScrollEveryMs);
-  QObject::connect(&scroll_timer_, &QTimer::timeout, [this] { ScrollAtEdge(); });
-}
-
-void TextDrop::ScrollAtEdge() {
-  QScrollBar* bar = box_.verticalScrollBar();
-  bar->setValue(bar->value() + ScrollSign(at_.y(), box_.viewport()->height()) * bar->singleStep());
-  box_.ShowDropPlace(box_.PlaceAt(at_));
 }
 
 bool TextDrop::IsOwn(const QDropEvent& event) const {
@@ -96,6 +90,12 @@ void TextDrop::Move(QDragMoveEvent* event) {
     scroll_timer_.start();
   box_.ShowDropPlace(box_.PlaceAt(at_));
   Accept(*event);
+}
+
+void TextDrop::ScrollAtEdge() {
+  QScrollBar* bar = box_.verticalScrollBar();
+  bar->setValue(bar->value() + ScrollSign(at_.y(), box_.viewport()->height()) * bar->singleStep());
+  box_.ShowDropPlace(box_.PlaceAt(at_));
 }
 
 void TextDrop::Leave() {

@@ -17,6 +17,7 @@
 #include "platform/qt/frames/outer_geometry.h"
 #include "platform/qt/frames/svg_icon.h"
 #include "platform/qt/key_router.h"
+#include "platform/qt/x11.h"
 #include "shell/services/status_timer.h"
 #include "shell/status.h"
 
@@ -211,11 +212,10 @@ TwipsRect MainWindow::Place() const {
     if (!placement_.FrameKnown()) return wanted_place_;
     // The place that the window has when it is no longer minimised.
     const QMargins frame = windowHandle() != nullptr ? windowHandle()->frameMargins() : QMargins();
-    const QRect outer = normalGeometry().marginsAdded(frame);
-    place = {TwipsOf(outer.left()), TwipsOf(outer.top()), TwipsOf(outer.width()), TwipsOf(outer.height())};
+    place = InTwips(normalGeometry().marginsAdded(frame));
   }
   // Wayland tells no program the position of its windows.
-  if (!QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) return place;
+  if (!IsWayland()) return place;
   return {wanted_place_.left, wanted_place_.top, place.width, place.height};
 }
 

@@ -92,8 +92,9 @@ class MainWindow : public QMainWindow, public MainView {
   FileTab* tabs_ = nullptr;
   TextBox* box_ = nullptr;
   StatusStrip* bar_ = nullptr;
-  WindowMode window_state_ = WindowMode::kNormal;  // the state in which the window starts; normal once it has left it
-  bool left_maximised_ = false;                    // the window started maximised and became normal
+  WindowMode window_state_ =
+      WindowMode::kNormal;       // the first state; kNormal after the first change from maximised to normal
+  bool left_maximised_ = false;  // the window started maximised and became normal
   TwipsRect wanted_place_;
   bool wants_position_ = true;  // false if only the size is requested
   Placement placement_;

@@ -361,7 +361,7 @@ TEST_F(TextBoxTest, FollowsItsBufferUntilItGetsAnother) {
   EXPECT_EQ(Document(), "|");
   EXPECT_EQ(changed.count(), 1);
   delete box;
-  second.SetText("alone");  // a box that is gone no longer follows it
+  second.SetText("alone");  // the deleted box must not listen any more
 }
 
 TEST(MoveSelection, EqualsCutAndPasteAndIsUndoneInOneStep) {
